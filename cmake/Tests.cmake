@@ -1,0 +1,17 @@
+# quorlin_test(name LABELS ... SOURCES ... LINKS ...): one QTest program, known to ctest under its name and labels.
+# Tests find the pictures they share through QUORLIN_TEST_CORPUS and their own data through QUORLIN_TEST_DATA.
+set(QUORLIN_TEST_CORPUS "${CMAKE_SOURCE_DIR}/../shared/corpus" CACHE PATH "Real pictures that tests may read")
+
+function(quorlin_test name)
+  cmake_parse_arguments(arg "" "" "LABELS;SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE ${arg_LINKS} Qt6::Test)
+  target_compile_definitions(${name} PRIVATE
+    QUORLIN_TEST_CORPUS="${QUORLIN_TEST_CORPUS}"
+    QUORLIN_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES
+    LABELS "${arg_LABELS}" TIMEOUT 300
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${CMAKE_BINARY_DIR}/tests/home;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/tests/home/.config;XDG_DATA_HOME=${CMAKE_BINARY_DIR}/tests/home/.local/share")
+endfunction()

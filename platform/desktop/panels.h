@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+namespace platform {
+
+enum class PanelKind { Open, Save, Print };
+
+/** What an open, save or print panel is asked to show. */
+struct PanelRequest
+{
+    PanelKind kind = PanelKind::Open;
+    bool choosesFiles = true;
+    bool choosesFolders = false;
+    bool choosesSeveral = false;
+    bool createsFolders = false;
+    /** File name extensions without the dot that can be picked; none means any type. */
+    std::optional<QStringList> types;
+    /** Save panels: other extensions than those of the list may be typed. */
+    bool allowsOtherTypes = false;
+    QString message;
+    QString name;   ///< save panels: the name that is offered
+    QString folder; ///< where the panel starts, a path; empty for the last one used
+    bool showsTagField = false;
+};
+
+/** What the user did with a panel. Anything but acceptance counts as cancelled. */
+struct PanelAnswer
+{
+    bool accepted = false;
+    QStringList paths; ///< absolute, in the order in which the panel reports them
+    QStringList tags;
+};
+
+/** Shows panels. One provider serves the process: dialogs in the application, queued answers where nobody looks. */
+class PanelProvider
+{
+public:
+    virtual ~PanelProvider() = default;
+    /** Shows the panel and returns when it closes. */
+    virtual PanelAnswer run(const PanelRequest &request) = 0;
+};
+
+/** Shows a panel through the provider of this process; cancelled where none was set. Main thread only. */
+PanelAnswer runPanel(const PanelRequest &request);
+
+/** Sets the provider and returns the one before. */
+std::unique_ptr<PanelProvider> setPanelProvider(std::unique_ptr<PanelProvider> provider);
+
+} // namespace platform

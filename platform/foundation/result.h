@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+#include <tl/expected.hpp>
+
+namespace platform {
+
+/** Why an operation of the platform did not give a value. */
+enum class ErrorCode {
+    NotFound,     ///< no such file
+    Unreadable,   ///< the file cannot be opened, or it is no picture, or it is damaged or cut short
+    Unsupported,  ///< the kind of file is known and cannot be read or written here
+    TooLarge,     ///< more pixels or bytes than the memory budget allows
+    InvalidValue, ///< a size, index or option out of range
+    WriteFailed,  ///< the target cannot be written; what was there is still there
+};
+
+/** An expected failure: what kind, and one sentence that says what, which file and why. */
+struct Error
+{
+    ErrorCode code;
+    QString message;
+};
+
+template<typename T>
+using Result = tl::expected<T, Error>;
+
+inline tl::unexpected<Error> failure(ErrorCode code, QString message)
+{
+    return tl::unexpected<Error>(Error{code, std::move(message)});
+}
+
+} // namespace platform

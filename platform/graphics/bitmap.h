@@ -1,0 +1,108 @@
+#pragma once
+
+#include "platform/foundation/result.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QMetaType>
+#include <QRect>
+#include <QSize>
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace platform {
+
+enum class ColorModel { Gray, Rgb, Cmyk, Lab };
+
+/** How a JPEG was quantised, so that a new JPEG of the same picture can be written without a second loss of its own. */
+struct JpegQuantisation
+{
+    std::array<std::array<quint16, 64>, 4> tables = {}; ///< in natural order; all zero where the file had none
+    std::array<int, 4> tableOfComponent = {};
+    int horizontalSampling = 1; ///< of the first component against the others: 2 and 2 is 4:2:0
+    int verticalSampling = 1;
+};
+
+/**
+ * Decoded pixels in memory with what belongs to them: colour model, depth, alpha, colour profile, resolution.
+ *
+ * A cheap value: copies share the pixels, which never change. A null bitmap stands for "no picture". Coordinates are
+ * pixels, origin top left. Alpha is not premultiplied. A bitmap without a profile is sRGB (or a grey of that curve).
+ */
+class Bitmap
+{
+public:
+    Bitmap();
+
+    /** Pixels of a Qt image, as sRGB; keeps alpha and 16 bits per component. A null image gives a null bitmap. */
+    static Bitmap fromImage(const QImage &image);
+
+    bool isNull() const { return !m_pixels; }
+    int width() const;
+    int height() const;
+    QSize size() const { return {width(), height()}; }
+    ColorModel colorModel() const;
+    /** Colour components and alpha together: 1 to 5. */
+    int bandCount() const;
+    bool hasAlpha() const;
+    /** 8, 16 or 32 (32: floating point). */
+    int bitsPerComponent() const;
+    /** The embedded ICC profile, empty where the picture has none. */
+    QByteArray iccProfile() const;
+    /** Dots per inch; 72 where the picture states none. */
+    double horizontalDpi() const;
+    double verticalDpi() const;
+    /** Set where the pixels come from a JPEG. */
+    std::optional<JpegQuantisation> jpegQuantisation() const;
+
+    /** The size in points: pixels x 72 / dots per inch. */
+    QSizeF pointSize() const;
+
+    /**
+     * One pixel as red, green, blue, alpha, 0 to 255, not premultiplied, in the bitmap's own RGB or grey space; CMYK and
+     * Lab are converted to sRGB. Outside the bitmap all four are 0.
+     */
+    std::array<int, 4> pixel(int x, int y) const;
+
+    /** The pixels for the screen: 8 bits, converted from the profile to sRGB. Null if that fails. */
+    QImage toScreenImage() const;
+
+    /** The pixels as 8 or 16 bit RGB(A) or grey without any colour conversion but from CMYK and Lab. */
+    QImage toRawImage() const;
+
+    struct Pixels;
+    explicit Bitmap(std::shared_ptr<const Pixels> pixels);
+    const Pixels &pixels() const { return *m_pixels; }
+
+private:
+    std::shared_ptr<const Pixels> m_pixels;
+};
+
+/**
+ * A reference to a variable that holds a bitmap, as operations pass it on: null, or a variable whose content may be
+ * replaced later, and which may hold no bitmap.
+ */
+class BitmapHandle
+{
+public:
+    BitmapHandle() = default;
+    /** A new variable that holds @p bitmap. */
+    explicit BitmapHandle(Bitmap bitmap) : m_variable(std::make_shared<Bitmap>(std::move(bitmap))) {}
+    bool isNull() const { return !m_variable; }
+    /** The bitmap in the variable; a null bitmap where the handle is null. */
+    Bitmap bitmap() const { return m_variable ? *m_variable : Bitmap(); }
+    /** Replaces the content of the variable for all that refer to it; the handle must not be null. */
+    void assign(Bitmap bitmap) { *m_variable = std::move(bitmap); }
+    bool operator==(const BitmapHandle &other) const = default;
+
+private:
+    std::shared_ptr<Bitmap> m_variable;
+};
+
+} // namespace platform
+
+Q_DECLARE_METATYPE(platform::Bitmap)
+Q_DECLARE_METATYPE(platform::BitmapHandle)

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/graphics/bitmap.h"
+#include "platform/imageio/metadata.h"
+
+#include <optional>
+
+namespace platform {
+
+/** The formats that can be written. */
+enum class FileFormat { Png, Tiff, Bmp, Gif, Jpeg, Jpeg2000 };
+
+/** The format of a type identifier such as "public.png"; none where it cannot be written. */
+std::optional<FileFormat> fileFormatForType(const QString &typeIdentifier);
+
+struct EncodeOptions
+{
+    /** JPEG only, 0.01 to 1. Without it a picture from a JPEG keeps its own quantisation and others get 0.92. */
+    std::optional<double> lossyQuality;
+    /** Carried into JPEG and TIFF; other formats leave it. */
+    Metadata metadata;
+};
+
+/**
+ * One bitmap as the bytes of a file.
+ *
+ * Colour: the profile stays with the picture in every format that can hold one; otherwise, and for CMYK and Lab in
+ * formats without them, the pixels are converted to sRGB. Depth: 16 bits stay in PNG, TIFF and JPEG 2000. Alpha is laid
+ * on black in JPEG and BMP. The resolution is written where the format can say it.
+ *
+ * Fails with WriteFailed if the encoder fails, and with InvalidValue for a null bitmap.
+ */
+Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options = {});
+
+/** encodeImage(), then an atomic replacement of the file at @p path. */
+Result<void> writeImageFile(const QString &path, const Bitmap &bitmap, FileFormat format,
+                            const EncodeOptions &options = {});
+
+} // namespace platform

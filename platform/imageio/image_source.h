@@ -1,0 +1,73 @@
+#pragma once
+
+#include "platform/graphics/bitmap.h"
+#include "platform/imageio/metadata.h"
+
+#include <QMetaType>
+#include <QVariantMap>
+
+#include <memory>
+
+namespace platform {
+
+enum class Orientation { AsStored, Upright };
+
+/** What a decoder is asked for. */
+struct DecodeOptions
+{
+    int index = 0; ///< which image of the file, 0 to imageCount() - 1
+    Orientation orientation = Orientation::Upright;
+};
+
+/**
+ * A picture file that was opened and whose header was read; pixels are decoded when they are asked for.
+ *
+ * A cheap value that shares what it knows of the file. Files are recognised by their content, never by their name.
+ * Opening costs about a millisecond. A file that is cut short, or that claims more pixels than the memory budget
+ * allows, does not open: it is refused before anything is decoded.
+ */
+class ImageSource
+{
+public:
+    ImageSource() = default;
+
+    /** Fails with NotFound, Unreadable, Unsupported or TooLarge. */
+    static Result<ImageSource> open(const QString &path);
+    static Result<ImageSource> fromData(const QByteArray &bytes);
+
+    bool isNull() const { return !m_file; }
+    QString path() const;
+    /** What the bytes are: "public.jpeg", "public.heic" ... */
+    QString typeIdentifier() const;
+    /** Images, pages or frames in the file; at least 1. */
+    int imageCount() const;
+    /** Pixels of image 0 as stored, and turned upright by the orientation it states. */
+    QSize storedSize() const;
+    QSize uprightSize() const;
+    /** 1 to 8; 1 where none or no valid one is stated, or where the container has turned the picture already. */
+    int orientation() const;
+
+    /** The file's metadata, for writing it into another file. Empty where it has none. */
+    Metadata metadata() const;
+    /** The file's metadata as nested dictionaries; see properties.h for the keys. */
+    QVariantMap properties() const;
+
+    /** All pixels. Fails with Unreadable (damaged, cut short), InvalidValue (index) or TooLarge. */
+    Result<Bitmap> decode(const DecodeOptions &options = {}) const;
+
+    /**
+     * Image 0, upright, at exactly @p size pixels: the cheapest decode that is at least that large, then a
+     * resampling as resample() has it. Fails as decode() does, and with InvalidValue or TooLarge for the size.
+     */
+    Result<Bitmap> decodeScaled(QSize size) const;
+
+    struct File;
+
+private:
+    explicit ImageSource(std::shared_ptr<const File> file) : m_file(std::move(file)) {}
+    std::shared_ptr<const File> m_file;
+};
+
+} // namespace platform
+
+Q_DECLARE_METATYPE(platform::ImageSource)

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/foundation/result.h"
+
+#include <QByteArray>
+#include <QVariantMap>
+
+#include <memory>
+
+namespace platform {
+
+/**
+ * The EXIF, IPTC and XMP of a picture, to be carried from one file into another.
+ *
+ * A cheap value. Nothing is lost on the way from a source to a target that can hold it, maker notes included. The
+ * embedded thumbnail is not carried, since the pixels of the new file are others.
+ */
+class Metadata
+{
+public:
+    Metadata();
+
+    /** Reads what a file's bytes hold. Empty where there is nothing, or nothing that can be understood. */
+    static Metadata fromFileBytes(const QByteArray &bytes);
+
+    /**
+     * Metadata from nested dictionaries with the groups {Exif}, {TIFF}, {GPS}, {IPTC} and the keys DPIWidth, DPIHeight
+     * and Orientation, as properties() gives them. Keys and values that no tag can hold are passed over.
+     */
+    static Metadata fromProperties(const QVariantMap &properties);
+
+    bool isEmpty() const;
+
+    /**
+     * The groups {Exif}, {TIFF}, {GPS}, {IPTC}, {XMP} with the usual tag names, each only where it has entries, and
+     * Orientation, DPIWidth, DPIHeight where stated. Values are numbers, text, arrays of those, or data.
+     */
+    QVariantMap toProperties() const;
+
+    /** The EXIF user comment as text, without its charset mark; empty where there is none or only blanks. */
+    QString userComment() const;
+
+    /** 1 to 8; 0 where none or no valid one is stated. */
+    int orientation() const;
+
+    /**
+     * The encoded JPEG or TIFF file @p encoded with this metadata in it. The structure of the image itself (size, strips,
+     * compression, colour profile) stays that of @p encoded; for TIFF the resolution is the metadata's where it states one.
+     * Fails with Unsupported where the file cannot hold metadata; pixels are never touched.
+     */
+    Result<QByteArray> writtenInto(const QByteArray &encoded) const;
+
+    struct Blocks;
+
+private:
+    std::shared_ptr<const Blocks> m_blocks;
+};
+
+} // namespace platform
