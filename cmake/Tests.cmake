@@ -12,6 +12,15 @@ function(quorlin_test name)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
-    LABELS "${arg_LABELS}" TIMEOUT 300
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${CMAKE_BINARY_DIR}/tests/home;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/tests/home/.config;XDG_DATA_HOME=${CMAKE_BINARY_DIR}/tests/home/.local/share")
+    LABELS "${arg_LABELS}" TIMEOUT 300 SKIP_RETURN_CODE 77)
+  quorlin_test_environment(${name})
+endfunction()
+
+# Every test has a home of its own, so that tests may run side by side and none sees the settings of the user.
+function(quorlin_test_environment name)
+  set(home ${CMAKE_BINARY_DIR}/tests/home/${name})
+  file(MAKE_DIRECTORY ${home})
+  set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT
+    QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 HOME=${home}
+    XDG_CONFIG_HOME=${home}/.config XDG_DATA_HOME=${home}/.local/share XDG_CACHE_HOME=${home}/.cache)
 endfunction()

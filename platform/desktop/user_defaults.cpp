@@ -9,7 +9,8 @@ namespace {
 
 std::unique_ptr<QSettings> settings()
 {
-    return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Quorlin"), QStringLiteral("Quorlin"));
+    return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Quorlin"),
+                                       QStringLiteral("Quorlin"));
 }
 
 } // namespace

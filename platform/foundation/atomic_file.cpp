@@ -120,8 +120,8 @@ Result<QByteArray> readFile(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         const ErrorCode code = file.exists() ? ErrorCode::Unreadable : ErrorCode::NotFound;
-        return failure(
-            code, QCoreApplication::translate("platform", "Cannot read %1: %2").arg(path, file.errorString()));
+        return failure(code,
+                       QCoreApplication::translate("platform", "Cannot read %1: %2").arg(path, file.errorString()));
     }
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)

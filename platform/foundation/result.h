@@ -23,8 +23,7 @@ struct Error
     QString message;
 };
 
-template<typename T>
-using Result = tl::expected<T, Error>;
+template<typename T> using Result = tl::expected<T, Error>;
 
 inline tl::unexpected<Error> failure(ErrorCode code, QString message)
 {

@@ -13,7 +13,10 @@ struct KnownType
     QLatin1String identifier;
 };
 
-constexpr auto latin1(const char *text) { return QLatin1String(text); }
+constexpr auto latin1(const char *text)
+{
+    return QLatin1String(text);
+}
 
 const std::array<KnownType, 18> knownTypes = {{
     {latin1("jpg"), latin1("public.jpeg")},

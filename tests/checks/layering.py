@@ -1,0 +1,208 @@
+#!/usr/bin/env python3
+"""layering.py ROOT [--qt-headers DIR]: who may enter which room.
+
+Compares every #include and every link list with the tables below, and looks for the product's own words in the
+platform room. --qt-headers is the folder with QtCore/, QtGui/ ...; without it Qt's headers are not sorted by module.
+"""
+import argparse
+import re
+import sys
+from pathlib import Path
+
+import source_tree as tree
+
+# Room: the rooms that it may enter beside its own. The product's rooms do not know each other, but for the two lines
+# where a date stamp or a collection of files is built with another room's help.
+MAY_ENTER = {
+    "platform": set(),
+    "text": {"platform"},
+    "image": {"platform"},
+    "presets": {"platform"},
+    "views": {"platform"},
+    "files": {"platform", "text"},
+    "meta": {"platform", "files"},
+    "app": set(tree.ROOMS),
+    "tools": set(tree.ROOMS),
+    "tests": set(tree.ROOMS) | {"tools"},
+    "bench": set(tree.ROOMS) | {"tools"},
+}
+# Qt modules by room. Nothing below views and app needs a widget, so that services run in a process without windows.
+SERVICE_QT = {"QtCore", "QtGui", "QtQml"}
+QT_MODULES = {room: SERVICE_QT for room in ("image", "files", "meta", "presets")}
+QT_MODULES.update({"text": {"QtCore"}, "platform": {"QtCore", "QtGui"}, "views": SERVICE_QT | {"QtWidgets"}})
+
+# Third-party headers and targets, by the one room that may include or link them.
+THIRD_PARTY = [
+    (r"(vips/|VImage|vips8?\b)", "platform"), (r"exiv2/", "platform"), (r"cairo", "platform"),
+    (r"(jpeglib|jerror|jmorecfg|turbojpeg)\.h|jpeglib\.h", "platform"), (r"plist/", "platform"),
+    (r"(glib|gobject|gio)(/|\.h|-object\.h)", "platform"), (r"(tiff|png|zlib|lcms2|webp/.*|libheif/.*)\.?h?$", "platform"),
+    (r"sqlite3\.h", "presets"), (r"tl/expected\.hpp", "platform"),
+]
+LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "PkgConfig::CAIRO": "platform",
+                "PkgConfig::JPEG": "platform", "PkgConfig::PLIST": "platform", "PkgConfig::SQLITE": "presets",
+                "SQLite::SQLite3": "presets"}
+SYSTEM = re.compile(r"(sys|linux|netinet)/\w+\.h|(unistd|fcntl|dirent|dlfcn|poll|signal|pwd|errno|time)\.h")
+STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits)\.h")
+
+# Words of the product that the platform must not know: classes of the seam, status words, action keywords.
+PRODUCT_NAMES = re.compile(r"\b(ZtImageHandling|cMConversion|cToolBox|cNSFileHandling|cNSStringHandling|mMeta|"
+                           r"cEditMetaData|dbViewController|Ztbookmarks|cSheetControl|cAppUpdater|cPrint|"
+                           r"my(Main|2nd)PhotoView|mainWindowClass|mainViewController|ZtFFullScreen)\b")
+PRODUCT_TEXTS = {"OK", "Failed", "FAILED", "Not Supported", "EXISTS", "successfull", "original file type", "EMM",
+                 "EMMDir", "batchSort", "batchSortImages", "resize", "sort", "rescale", "rename", "renameDir",
+                 "sortDir", "WatermarkDir", "WatermarkFiles"}
+PRODUCT_LOGS = ("Failed to write image to", "Image source is NULL")
+
+INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(?:"([^"]+)"|<([^>]+)>)', re.M)
+
+
+def qt_modules(folder):
+    """Header name to module, as Qt is installed here."""
+    if not folder:
+        return {}
+    return {header.name: module.name
+            for module in Path(folder).glob("Qt*") if module.is_dir() for header in module.iterdir() if header.is_file()}
+
+
+def check_own_include(room, name, path, root):
+    target = name.split("/")[0]
+    if "/" not in name:
+        return None if room in tree.USERS else f'say "{room}/{name}", from the root of the project'
+    if target not in MAY_ENTER:
+        if room in tree.USERS and (path.parent / name).exists():
+            return None
+        return f"{target}/ is no room of the project"
+    if target != room and target not in MAY_ENTER[room]:
+        return f"{room}/ may not enter {target}/"
+    if not (root / name).exists() and not (path.parent / name).exists():
+        return f"{name} does not exist"
+    return None
+
+
+def check_foreign_include(room, name, modules):
+    module = name.split("/")[0] if name.startswith("Qt") and "/" in name else modules.get(name)
+    if module:
+        allowed = QT_MODULES.get(room)
+        return f"{room}/ may not use {module} ({name})" if allowed is not None and module not in allowed else None
+    if re.fullmatch(r"[Qq][A-Za-z0-9]+(\.h)?", name) and not modules:
+        return None
+    for pattern, owner in THIRD_PARTY:
+        if re.match(pattern, name):
+            shared = name == "tl/expected.hpp" or room in ("tests", "bench")
+            return None if room == owner or shared else f"<{name}> belongs to {owner}/ only"
+    if SYSTEM.fullmatch(name) or STANDARD.fullmatch(name):
+        return None
+    return f"<{name}> is not known to this check: say in layering.py which room may include it"
+
+
+def check_includes(path, room, root, modules):
+    text = tree.without_comments(tree.read(path))
+    for match in INCLUDE.finditer(text):
+        own, foreign = match.groups()
+        if own and own.endswith(".moc"):
+            continue
+        if own and re.match(r"ui_\w+\.h", own):
+            continue
+        fault = check_own_include(room, own, path, root) if own else check_foreign_include(room, foreign, modules)
+        if fault:
+            yield f"{path.relative_to(root)}:{text.count(chr(10), 0, match.start()) + 1}: {fault}"
+
+
+def own_includes(text):
+    return [m.group(1) for m in INCLUDE.finditer(text) if m.group(1)]
+
+
+def closed_headers(root):
+    """Headers of platform/ that show a third-party type, by themselves or through another: they may not leave it."""
+    texts = {str(path.relative_to(root)): tree.without_comments(tree.read(path))
+             for path in tree.files(root / "platform", {".h"})}
+    closed = {name for name, text in texts.items() for m in INCLUDE.finditer(text)
+              if m.group(2) and m.group(2) != "tl/expected.hpp" and any(re.match(p, m.group(2)) for p, _ in THIRD_PARTY)}
+    grown = True
+    while grown:
+        more = {name for name, text in texts.items() if name not in closed and closed.intersection(own_includes(text))}
+        closed |= more
+        grown = bool(more)
+    return closed
+
+
+def check_leaks(path, root, closed):
+    for name in own_includes(tree.without_comments(tree.read(path))):
+        if name in closed:
+            yield f"{path.relative_to(root)}: {name} shows third-party types and may not leave platform/"
+
+
+def check_words(path, root):
+    text = tree.read(path)
+    where = path.relative_to(root)
+    for number, line in enumerate(tree.without_comments(text).split("\n"), 1):
+        match = PRODUCT_NAMES.search(line)
+        if match:
+            yield f"{where}:{number}: platform/ names {match.group()}, a class of the product"
+    for number, literal in tree.string_literals(text):
+        if literal in PRODUCT_TEXTS or literal.startswith(PRODUCT_LOGS):
+            yield f'{where}:{number}: platform/ says "{literal}", a word of the product'
+
+
+def cmake_links(text):
+    """(target, linked) for every library or program that a CMakeLists.txt links, in the order of the text."""
+    text = re.sub(r"#[^\n]*", "", text)
+    for call in re.finditer(r"(quorlin_library|target_link_libraries)\s*\(\s*([\w-]+)([^)]*)\)", text):
+        name, words = call.group(2), call.group(3).split()
+        linking = call.group(1) == "target_link_libraries"
+        for word in words:
+            if word in ("LINKS", "PRIVATE_LINKS"):
+                linking = True
+            elif word == "SOURCES":
+                linking = False
+            elif linking and word not in ("PUBLIC", "PRIVATE", "INTERFACE"):
+                yield name, word
+
+
+def check_links(room, path, root):
+    for target, linked in cmake_links(tree.read(path)):
+        fault = None
+        if linked in tree.ROOMS and linked != room and linked not in MAY_ENTER[room]:
+            fault = f"{room}/ may not link {linked}"
+        elif LINK_TARGETS.get(linked, room) != room and room not in tree.USERS:
+            fault = f"{linked} belongs to {LINK_TARGETS[linked]}/ only"
+        elif linked.startswith("PkgConfig::") and linked not in LINK_TARGETS:
+            fault = f"{linked} is not known to this check: say in layering.py which room may link it"
+        elif linked.startswith("Qt6::") and room in QT_MODULES and "Qt" + linked[5:] not in QT_MODULES[room]:
+            fault = f"{room}/ may not link {linked}"
+        if fault:
+            yield f"{path.relative_to(root)}: {target}: {fault}"
+
+
+def check(root, modules):
+    problems, seen = [], 0
+    closed = closed_headers(root)
+    for room in MAY_ENTER:
+        if not (root / room).is_dir():
+            continue
+        for path in tree.files(root / room):
+            if path.suffix in tree.CPP:
+                seen += 1
+                problems += check_includes(path, room, root, modules)
+                if room not in ("platform", "tests"):
+                    problems += check_leaks(path, root, closed)
+            if path.name == "CMakeLists.txt":
+                problems += check_links(room, path, root)
+            if room == "platform" and path.suffix in tree.CPP:
+                problems += check_words(path, root)
+    return problems, seen
+
+
+def main():
+    arguments = argparse.ArgumentParser()
+    arguments.add_argument("root", type=Path)
+    arguments.add_argument("--qt-headers")
+    given = arguments.parse_args()
+    problems, seen = check(given.root.resolve(), qt_modules(given.qt_headers))
+    if seen == 0:
+        problems.append(f"no source file found below {given.root}")
+    return tree.report(problems, f"{seen} files keep to their rooms")
+
+
+if __name__ == "__main__":
+    sys.exit(main())
