@@ -1,0 +1,33 @@
+# What is installed and where, and the Debian package made of it (cmake --workflow --preset package).
+include(GNUInstallDirs)
+
+foreach(program quorlin quorlin-script)
+  if(TARGET ${program})
+    install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  endif()
+endforeach()
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/interface DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin
+  PATTERN "*.qrc" EXCLUDE PATTERN "CMakeLists.txt" EXCLUDE)
+set(packaging ${CMAKE_SOURCE_DIR}/packaging)
+install(FILES ${packaging}/com.brelmark.Quorlin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${packaging}/com.brelmark.Quorlin.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${packaging}/icons/quorlin.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES ${packaging}/icons/quorlin-symbolic.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/symbolic/apps)
+install(FILES ${CMAKE_SOURCE_DIR}/README.md ${CMAKE_SOURCE_DIR}/CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${packaging}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_VENDOR "The Quorlin developers")
+set(CPACK_PACKAGE_CONTACT "The Quorlin developers <quorlin@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "batch processor for photographs")
+set(CPACK_PACKAGE_DESCRIPTION "Does one deed to a whole folder of pictures: shows what it will do, does it,
+checks what it did, and says so in a log.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# What no library of the programs names: icons are drawn through a plugin, letters need a font.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, fonts-dejavu-core | fonts-freefont-ttf, hicolor-icon-theme")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
+include(CPack)
