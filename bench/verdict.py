@@ -1,0 +1,61 @@
+#!/usr/bin/env python3
+"""verdict.py RESULT.md: Quorlin's row of each table in ratios to the others, and whether it keeps to the bounds.
+
+Bounds: CPU time for a picture below vipsthumbnail's, and less than 120 MB at the peak, 24 megapixel pictures included.
+"""
+import re
+import sys
+from pathlib import Path
+
+MEMORY_MB = 120
+OURS, THUMBNAILER = "CONTENDER", "vipsthumbnail"
+
+
+def tables(text):
+    """{task: {program: {"wall", "cpu", "memory", "note"}}}"""
+    found, rows = {}, None
+    for line in text.split("\n"):
+        head = re.match(r"### (\w+) ", line)
+        if head:
+            rows = found.setdefault(head.group(1), {})
+        cells = [cell.strip() for cell in line.strip("|").split("|")]
+        if rows is not None and line.startswith("|") and len(cells) == 10 and re.fullmatch(r"[\d.]+", cells[1]):
+            rows[cells[0]] = {"wall": float(cells[1]), "cpu": float(cells[3]) + float(cells[4]),
+                              "memory": float(cells[5]), "note": cells[9]}
+    return found
+
+
+def judge(task, rows):
+    """Lines to print for one task, and its faults."""
+    ours = rows.get(OURS)
+    if not ours:
+        return [], [f"{task}: Quorlin has no row"]
+    if ours["note"]:
+        return [], [f"{task}: {ours['note']}"]
+    lines = [f"{task}: {ours['wall']:.1f} ms, {ours['cpu']:.1f} ms of CPU a picture, {ours['memory']:.0f} MB at the peak"]
+    for name, row in rows.items():
+        if name != OURS and row["wall"] and row["cpu"] and not row["note"]:
+            lines.append(f"   to {name}: {ours['wall'] / row['wall']:.2f} wall, {ours['cpu'] / row['cpu']:.2f} CPU, "
+                         f"{ours['memory'] / max(row['memory'], 1):.2f} memory")
+    faults = []
+    if ours["memory"] >= MEMORY_MB:
+        faults.append(f"{task}: {ours['memory']:.0f} MB at the peak, the bound is {MEMORY_MB}")
+    thumbnailer = rows.get(THUMBNAILER)
+    if thumbnailer and ours["cpu"] >= thumbnailer["cpu"]:
+        faults.append(f"{task}: {ours['cpu']:.1f} ms of CPU, {THUMBNAILER} needs {thumbnailer['cpu']:.1f}")
+    return lines, faults
+
+
+def main():
+    found = tables(Path(sys.argv[1]).read_text(encoding="utf-8"))
+    faults = [] if found else ["no table to judge"]
+    for task, rows in found.items():
+        lines, more = judge(task, rows)
+        print("\n".join(lines))
+        faults += more
+    print("\n" + ("\n".join(f"NOT MET {fault}" for fault in faults) or "All bounds are met."))
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
