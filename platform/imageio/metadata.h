@@ -24,6 +24,15 @@ public:
     static Metadata fromFileBytes(const QByteArray &bytes);
 
     /**
+     * Metadata from the blocks that another decoder took out of a file; each may be empty or broken.
+     *
+     * @param exif  with or without the "Exif\0\0" in front of its TIFF header
+     * @param xmp   the packet
+     * @param iptc  the records themselves, or the Photoshop resources around them
+     */
+    static Metadata fromBlocks(const QByteArray &exif, const QByteArray &xmp = {}, const QByteArray &iptc = {});
+
+    /**
      * Metadata from nested dictionaries with the groups {Exif}, {TIFF}, {GPS}, {IPTC} and the keys DPIWidth, DPIHeight
      * and Orientation, as properties() gives them. Keys and values that no tag can hold are passed over.
      */
@@ -44,9 +53,9 @@ public:
     int orientation() const;
 
     /**
-     * The encoded JPEG or TIFF file @p encoded with this metadata in it. The structure of the image itself (size, strips,
-     * compression, colour profile) stays that of @p encoded; for TIFF the resolution is the metadata's where it states one.
-     * Fails with Unsupported where the file cannot hold metadata; pixels are never touched.
+     * The encoded JPEG or TIFF file @p encoded with this metadata in it. The structure of the image itself (size,
+     * strips, compression, colour profile) stays that of @p encoded; for TIFF the resolution is the metadata's where it
+     * states one. Fails with Unsupported where the file cannot hold metadata; pixels are never touched.
      */
     Result<QByteArray> writtenInto(const QByteArray &encoded) const;
 

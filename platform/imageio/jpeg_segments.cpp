@@ -1,0 +1,87 @@
+#include "platform/imageio/jpeg_segments.h"
+
+#include <QtEndian>
+
+namespace platform {
+namespace {
+
+constexpr uchar markerStart = 0xff;
+constexpr uchar startOfImage = 0xd8;
+constexpr uchar endOfImage = 0xd9;
+constexpr uchar startOfScan = 0xda;
+
+bool isFrameHeader(uchar marker)
+{
+    const bool tables = marker == 0xc4 || marker == 0xc8 || marker == 0xcc;
+    return marker >= 0xc0 && marker <= 0xcf && !tables;
+}
+
+bool standsAlone(uchar marker)
+{
+    return marker == 0x01 || (marker >= 0xd0 && marker <= 0xd7);
+}
+
+bool isMetadata(uchar marker, const QByteArray &payload)
+{
+    if (marker == 0xe1)
+        return payload.startsWith("Exif\0") || payload.startsWith("http://ns.adobe.com/x");
+    return marker == 0xed && payload.startsWith("Photoshop 3.0");
+}
+
+/** A block too large for one segment goes on in the next one, which then has no header of its own. */
+void takeExif(JpegSegments &segments, const QByteArray &block)
+{
+    const bool hasHeader = block.startsWith("II*") || block.startsWith(QByteArray("MM\0*", 4));
+    if (segments.exif.isEmpty() || !hasHeader)
+        segments.exif += block;
+    ++segments.exifSegments;
+}
+
+void take(JpegSegments &segments, uchar marker, JpegSegments::Range range, const QByteArray &payload)
+{
+    if (isMetadata(marker, payload))
+        segments.metadata.append(range);
+    if (marker == 0xe1 && payload.startsWith(QByteArray("Exif\0\0", 6)))
+        takeExif(segments, payload.mid(6));
+    if (marker == 0xe0 && payload.startsWith("JFIF") && segments.insertAt == range.start)
+        segments.insertAt = range.start + range.size;
+    if (isFrameHeader(marker) && payload.size() >= 5)
+        segments.size =
+            QSize(qFromBigEndian<quint16>(payload.constData() + 3), qFromBigEndian<quint16>(payload.constData() + 1));
+}
+
+} // namespace
+
+JpegSegments findJpegSegments(const QByteArray &bytes)
+{
+    JpegSegments segments;
+    const auto at = [&](qsizetype index) { return uchar(bytes.at(index)); };
+    if (bytes.size() < 4 || at(0) != markerStart || at(1) != startOfImage)
+        return segments;
+    segments.insertAt = 2;
+    qsizetype position = 2;
+    while (position + 4 <= bytes.size() && at(position) == markerStart) {
+        const uchar marker = at(position + 1);
+        if (marker == markerStart) { // a fill byte
+            ++position;
+            continue;
+        }
+        if (marker == startOfScan || marker == endOfImage) {
+            segments.valid = marker == startOfScan;
+            break;
+        }
+        if (standsAlone(marker)) {
+            position += 2;
+            continue;
+        }
+        const qsizetype length = qFromBigEndian<quint16>(bytes.constData() + position + 2);
+        if (length < 2 || position + 2 + length > bytes.size())
+            break;
+        const QByteArray payload = QByteArray::fromRawData(bytes.constData() + position + 4, length - 2);
+        take(segments, marker, {position, 2 + length}, payload);
+        position += 2 + length;
+    }
+    return segments;
+}
+
+} // namespace platform

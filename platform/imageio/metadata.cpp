@@ -1,0 +1,171 @@
+#include "platform/imageio/metadata.h"
+
+#include "platform/imageio/jpeg_segments.h"
+#include "platform/imageio/metadata_blocks.h"
+#include "platform/imageio/user_comment.h"
+
+#include <exception>
+
+namespace platform {
+namespace {
+
+constexpr qsizetype largestBlock = 64 << 20;
+
+Exiv2::byte *bytePointer(QByteArray &bytes)
+{
+    return reinterpret_cast<Exiv2::byte *>(bytes.data());
+}
+
+const Exiv2::byte *bytePointer(const QByteArray &bytes)
+{
+    return reinterpret_cast<const Exiv2::byte *>(bytes.constData());
+}
+
+/** The pixels of the new file are others, so what shows the old ones small is left behind. */
+void dropThumbnails(Metadata::Blocks &blocks)
+{
+    for (auto tag = blocks.exif.begin(); tag != blocks.exif.end();) {
+        const std::string group = tag->groupName();
+        const bool thumbnail = group == "Thumbnail" || group == "Image2" || group == "Image3";
+        tag = thumbnail ? blocks.exif.erase(tag) : ++tag;
+    }
+}
+
+void readImage(Metadata::Blocks &blocks, const QByteArray &bytes)
+{
+    const auto image = Exiv2::ImageFactory::open(bytePointer(bytes), long(bytes.size()));
+    if (!image.get())
+        return;
+    image->readMetadata();
+    blocks.exif = image->exifData();
+    blocks.iptc = image->iptcData();
+    blocks.xmp = image->xmpData();
+    blocks.xmpPacket = image->xmpPacket();
+    blocks.byteOrder = image->byteOrder() == Exiv2::bigEndian ? Exiv2::bigEndian : Exiv2::littleEndian;
+}
+
+void readExifBlock(Metadata::Blocks &blocks, const QByteArray &block)
+{
+    if (block.size() < 8 || block.size() > largestBlock)
+        return;
+    const auto order = Exiv2::ExifParser::decode(blocks.exif, bytePointer(block), uint32_t(block.size()));
+    blocks.byteOrder = order == Exiv2::bigEndian ? Exiv2::bigEndian : Exiv2::littleEndian;
+    blocks.exifBlock = block;
+}
+
+void readXmpPacket(Metadata::Blocks &blocks, const QByteArray &packet)
+{
+    if (packet.isEmpty() || packet.size() > largestBlock)
+        return;
+    const std::string text(packet.constData(), size_t(packet.size()));
+    if (Exiv2::XmpParser::decode(blocks.xmp, text) == 0)
+        blocks.xmpPacket = text;
+}
+
+void readIptcBlock(Metadata::Blocks &blocks, const QByteArray &block)
+{
+    if (block.isEmpty() || block.size() > largestBlock)
+        return;
+    const Exiv2::byte *record = nullptr;
+    uint32_t headerSize = 0;
+    uint32_t size = 0;
+    const Exiv2::byte *data = bytePointer(block);
+    if (Exiv2::Photoshop::locateIptcIrb(data, long(block.size()), &record, &headerSize, &size) == 0)
+        Exiv2::IptcParser::decode(blocks.iptc, record + headerSize, size);
+    else
+        Exiv2::IptcParser::decode(blocks.iptc, data, uint32_t(block.size()));
+}
+
+/** Runs one reading step; what a broken file throws means that the step found nothing more. */
+template<typename Step> void attempt(Step step)
+{
+    try {
+        step();
+    } catch (const std::exception &) {
+        // Honest already: what was read before stays, the rest cannot be understood.
+    }
+}
+
+QSysInfo::Endian endian(Exiv2::ByteOrder order)
+{
+    return order == Exiv2::bigEndian ? QSysInfo::BigEndian : QSysInfo::LittleEndian;
+}
+
+} // namespace
+
+void startMetadataLibrary()
+{
+    static const bool started = [] {
+        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        Exiv2::enableBMFF(true);
+        return Exiv2::XmpParser::initialize();
+    }();
+    Q_UNUSED(started)
+}
+
+QByteArray rawBytes(const Exiv2::Exifdatum &tag, Exiv2::ByteOrder order)
+{
+    const long size = tag.size();
+    if (size <= 0 || size > largestBlock)
+        return {};
+    QByteArray bytes(size, '\0');
+    const long copied = tag.copy(bytePointer(bytes), order);
+    return bytes.left(copied);
+}
+
+Metadata::Metadata() = default;
+
+Metadata Metadata::fromFileBytes(const QByteArray &bytes)
+{
+    startMetadataLibrary();
+    auto blocks = std::make_shared<Blocks>();
+    const JpegSegments segments = findJpegSegments(bytes);
+    attempt([&] { readImage(*blocks, bytes); });
+    if (segments.exifSegments > 1) { // exiv2 reads the first part alone
+        blocks->exif.clear();
+        attempt([&] { readExifBlock(*blocks, segments.exif); });
+    }
+    // The block itself lets maker notes stay where they are when it is written again.
+    blocks->exifBlock = segments.exif;
+    dropThumbnails(*blocks);
+    Metadata metadata;
+    metadata.m_blocks = std::move(blocks);
+    return metadata;
+}
+
+Metadata Metadata::fromBlocks(const QByteArray &exif, const QByteArray &xmp, const QByteArray &iptc)
+{
+    startMetadataLibrary();
+    auto blocks = std::make_shared<Blocks>();
+    attempt([&] { readExifBlock(*blocks, exif.startsWith("Exif\0\0") ? exif.mid(6) : exif); });
+    attempt([&] { readXmpPacket(*blocks, xmp); });
+    attempt([&] { readIptcBlock(*blocks, iptc); });
+    dropThumbnails(*blocks);
+    Metadata metadata;
+    metadata.m_blocks = std::move(blocks);
+    return metadata;
+}
+
+bool Metadata::isEmpty() const
+{
+    return !m_blocks || (m_blocks->exif.empty() && m_blocks->iptc.empty() && m_blocks->xmp.empty());
+}
+
+QString Metadata::userComment() const
+{
+    if (!m_blocks)
+        return {};
+    const Exiv2::Exifdatum *tag = findTag(m_blocks->exif, "Exif.Photo.UserComment");
+    return tag ? decodeUserComment(rawBytes(*tag, m_blocks->byteOrder), endian(m_blocks->byteOrder)) : QString();
+}
+
+int Metadata::orientation() const
+{
+    const Exiv2::Exifdatum *tag = m_blocks ? findTag(m_blocks->exif, "Exif.Image.Orientation") : nullptr;
+    if (!tag || tag->count() < 1 || tag->typeId() == Exiv2::asciiString)
+        return 0;
+    const long value = tag->toLong();
+    return value >= 1 && value <= 8 ? int(value) : 0;
+}
+
+} // namespace platform

@@ -1,0 +1,33 @@
+#pragma once
+
+// Inside platform/ only: values of the nested dictionaries as values of tags.
+
+#include <exiv2/exiv2.hpp>
+
+#include <QVariant>
+
+#include <memory>
+
+namespace platform {
+
+/** The byte order of every value that is made here. */
+constexpr Exiv2::ByteOrder madeByteOrder = Exiv2::littleEndian;
+
+using TagValue = std::unique_ptr<Exiv2::Value>;
+
+/** @p value as a tag of @p type can hold it; null where it cannot: text for a number, a number out of range ... */
+TagValue tagValue(Exiv2::TypeId type, const QString &name, const QVariant &value);
+
+/** Degrees, minutes and seconds of a number of degrees. */
+TagValue coordinateValue(double degrees);
+
+/** Hours, minutes and seconds of "13:05:09.25"; null for other texts. */
+TagValue timeValue(const QString &text);
+
+/** Bytes as they are, in a value of @p type. */
+TagValue bytesValue(Exiv2::TypeId type, const QByteArray &bytes);
+
+/** The elements of a list, or the one value as a list. */
+QVariantList listOf(const QVariant &value);
+
+} // namespace platform
