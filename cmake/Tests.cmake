@@ -23,4 +23,10 @@ function(quorlin_test_environment name)
   set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT
     QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 HOME=${home}
     XDG_CONFIG_HOME=${home}/.config XDG_DATA_HOME=${home}/.local/share XDG_CACHE_HOME=${home}/.cache)
+  if(QUORLIN_SANITIZE)
+    set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT QUORLIN_SANITIZED=1
+      ASAN_OPTIONS=detect_stack_use_after_return=1:strict_init_order=1
+      LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0
+      UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1)
+  endif()
 endfunction()
