@@ -1,33 +1,33 @@
 #include "platform/desktop/user_defaults.h"
 
-#include <QSettings>
+#include "platform/desktop/settings_text.h"
 
-#include <memory>
+#include <QSettings>
 
 namespace platform {
 namespace {
 
-std::unique_ptr<QSettings> settings()
+/** Opened for each use, so that other programs and other runs see every change at once. */
+QSettings settings()
 {
-    return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Quorlin"),
-                                       QStringLiteral("Quorlin"));
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Quorlin"), QStringLiteral("Quorlin"));
 }
 
 } // namespace
 
 QVariant userDefault(const QString &key)
 {
-    return settings()->value(key);
+    return settingFromText(settings().value(key));
 }
 
 void setUserDefault(const QString &key, const QVariant &value)
 {
-    settings()->setValue(key, value);
+    settings().setValue(key, settingToText(value));
 }
 
 void removeUserDefault(const QString &key)
 {
-    settings()->remove(key);
+    settings().remove(key);
 }
 
 } // namespace platform

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+class QObject;
+
+/**
+ * How services read and write the controls on their outlets.
+ *
+ * A control is any object with the properties that are meant: a stand-in (stand_ins.h), a real widget, or a widget that
+ * was given such properties. A null control, or one without a fitting property, reads as empty or 0 and ignores writes.
+ * Main thread only.
+ */
+namespace platform {
+
+/** The text of a field, label or text view. */
+QString textOf(const QObject *control);
+void setTextOf(QObject *control, const QString &text);
+
+/** The leading whole number of the control's text: "12px" is 12, "-3" is -3, "" and "abc" are 0, "3.9" is 3. */
+int integerValueOf(const QObject *control);
+/** The rule of integerValueOf() for any text. White space in front is passed over; values that do not fit are bounded. */
+int leadingInteger(const QString &text);
+
+/** 1 checked, 0 not, -1 partly. */
+int stateOf(const QObject *control);
+void setStateOf(QObject *control, int state);
+
+/** The colour of a colour well; invalid where there is none. */
+QColor colorOf(const QObject *control);
+void setColorOf(QObject *control, const QColor &color);
+
+/** From 0; -1 where none is selected, 0 for a null control. */
+int selectedSegmentOf(const QObject *control);
+QString selectedLabelOf(const QObject *control);
+
+QStringList titlesOf(const QObject *control);
+void setTitlesOf(QObject *control, const QStringList &titles);
+QString selectedTitleOf(const QObject *control);
+void setSelectedTitleOf(QObject *control, const QString &title);
+
+void setEnabledOf(QObject *control, bool enabled);
+void setVisibleOf(QObject *control, bool visible);
+
+double progressOf(const QObject *control);
+void setProgressOf(QObject *control, double value);
+void setProgressMaximumOf(QObject *control, double maximum);
+void setIndeterminateOf(QObject *control, bool indeterminate);
+
+/** The rows of a list that shows dictionaries. */
+QVariantList rowsOf(const QObject *control);
+void addRowTo(QObject *control, const QVariantMap &row);
+/** Tells a table to show its rows anew. */
+void reloadTable(QObject *control);
+/** The nodes of a tree. */
+void setContentOf(QObject *control, const QVariantList &nodes);
+
+} // namespace platform
