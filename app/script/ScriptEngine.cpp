@@ -1,0 +1,179 @@
+#include "app/script/ScriptEngine.h"
+
+#include "app/script/defaults_module.h"
+#include "app/script/facade.h"
+#include "app/script/host_call.h"
+#include "app/script/panels_module.h"
+#include "app/script/seam.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QQmlEngine>
+#include <QQmlError>
+#include <QRegularExpression>
+#include <QUrl>
+
+namespace script {
+namespace {
+
+/** The global name under which the engine finds the running HostCall, for as long as it takes to look it up. */
+const QString hostName = QStringLiteral("quorlinHost");
+
+QString readableName(const QString &source)
+{
+    const QUrl url(source);
+    return url.isLocalFile() ? url.toLocalFile() : source;
+}
+
+/** The topmost place of a trace, whose entries are "function:line:column:file", that lies in a script of the user's. */
+Location locationInTrace(const QStringList &trace)
+{
+    static const QRegularExpression entryForm(QStringLiteral("^(.*?):(-?\\d+):(-?\\d+):(.*)$"));
+    for (const QString &entry : trace) {
+        const QRegularExpressionMatch match = entryForm.match(entry);
+        const QString source = match.captured(4);
+        const int line = std::abs(match.captured(2).toInt());
+        if (line > 0 && QUrl(source).isLocalFile())
+            return {readableName(source), line};
+    }
+    return {};
+}
+
+QString sentence(const Location &location, const QString &text)
+{
+    return QStringLiteral("%1:%2: %3").arg(location.file, QString::number(location.line), text);
+}
+
+bool isUsable(const Location &location)
+{
+    return !location.file.isEmpty() && location.line > 0 && !location.file.endsWith(facadeFileName());
+}
+
+} // namespace
+
+ScriptEngine::ScriptEngine(std::vector<ServiceEntry> services, QObject *parent)
+    : QObject(parent), m_engine(std::make_unique<QQmlEngine>())
+{
+    m_engine->setOutputWarningsToStandardError(false);
+    connect(m_engine.get(), &QQmlEngine::warnings, this, &ScriptEngine::reportWarnings);
+    m_seam = std::make_unique<Seam>(*m_engine, std::move(services));
+    registerOwnModules();
+}
+
+ScriptEngine::~ScriptEngine()
+{
+    // The services that scripts still hold go first; the seam keeps the list of them.
+    m_engine.reset();
+}
+
+void ScriptEngine::registerOwnModules()
+{
+    for (const QByteArray &module : {QByteArray("quorlin"), QByteArray("quorlin/controls")})
+        registerModule(QString::fromLatin1(module), m_seam->exportsOf(module));
+    registerModule(QStringLiteral("quorlin/panels"), panelsModule(*this));
+    registerModule(QStringLiteral("quorlin/defaults"), defaultsModule(*this));
+}
+
+bool ScriptEngine::registerModule(const QString &name, const QJSValue &value)
+{
+    return m_engine->registerModule(name, value);
+}
+
+platform::Result<QJSValue> ScriptEngine::importFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return platform::failure(platform::ErrorCode::NotFound, tr("Cannot read %1: there is no such file").arg(path));
+    const QString file = info.absoluteFilePath();
+    // The engine would hand out a module again that stopped half way.
+    if (const auto failed = m_failedModules.constFind(file); failed != m_failedModules.constEnd())
+        return platform::failure(platform::ErrorCode::InvalidValue, *failed);
+    auto module = run([this, file] { return m_engine->importModule(file); }, file);
+    if (!module)
+        m_failedModules.insert(file, module.error().message);
+    return module;
+}
+
+platform::Result<QJSValue> ScriptEngine::call(const QJSValue &function, const QJSValueList &arguments,
+                                              const QJSValue &thisObject)
+{
+    if (!function.isCallable())
+        return platform::failure(platform::ErrorCode::InvalidValue, tr("This is not a function of a script"));
+    return run(
+        [=] {
+            return thisObject.isUndefined() ? function.call(arguments)
+                                            : function.callWithInstance(thisObject, arguments);
+        },
+        {});
+}
+
+platform::Result<QJSValue> ScriptEngine::run(Body body, const QString &file)
+{
+    bool isThrown = false;
+    HostCall host([&] {
+        m_engine->globalObject().deleteProperty(hostName);
+        const QJSValue value = body();
+        isThrown = m_engine->hasError();
+        if (!isThrown && value.isError()) {
+            isThrown = true;
+            m_engine->throwError(value);
+        }
+        return value;
+    });
+    QJSEngine::setObjectOwnership(&host, QJSEngine::CppOwnership);
+    m_engine->globalObject().setProperty(hostName, m_engine->newQObject(&host));
+    QStringList trace;
+    const QJSValue value = m_engine->evaluate(hostName + QStringLiteral(".run()"), {}, 1, &trace);
+    if (!isThrown)
+        return value;
+    return platform::failure(platform::ErrorCode::InvalidValue, describe(value, trace, file));
+}
+
+QString ScriptEngine::describe(const QJSValue &error, const QStringList &trace, const QString &file) const
+{
+    Location location;
+    QString text;
+    if (error.isError()) {
+        location = {readableName(error.property(QStringLiteral("fileName")).toString()),
+                    error.property(QStringLiteral("lineNumber")).toInt()};
+        text = error.toString();
+    } else {
+        text = QStringLiteral("Error: %1").arg(error.isString() ? error.toString() : m_seam->values().described(error));
+    }
+    if (!isUsable(location))
+        location = locationInTrace(trace);
+    if (!isUsable(location))
+        location = {file, 1};
+    return sentence(location, text);
+}
+
+void ScriptEngine::reportWarnings(const QList<QQmlError> &warnings)
+{
+    for (const QQmlError &warning : warnings) {
+        Location location = {readableName(warning.url().toString()), warning.line()};
+        if (!isUsable(location))
+            location = m_seam->lastErrorLocation();
+        reportUncaught(sentence(location, warning.description()));
+    }
+}
+
+void ScriptEngine::reportUncaught(const QString &message)
+{
+    Q_EMIT uncaughtError(message);
+}
+
+QJSValue ScriptEngine::controlValue(QObject *object)
+{
+    return object ? m_seam->facadeOf(object) : QJSValue(QJSValue::NullValue);
+}
+
+void ScriptEngine::drain()
+{
+    // Settled promises post an event for each reaction.
+    QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance();
+    while (dispatcher && dispatcher->processEvents(QEventLoop::AllEvents)) {
+    }
+}
+
+} // namespace script

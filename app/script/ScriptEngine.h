@@ -1,0 +1,98 @@
+#pragma once
+
+#include "app/script/registry.h"
+#include "platform/foundation/result.h"
+
+#include <QJSValue>
+#include <QObject>
+#include <QSet>
+
+#include <functional>
+#include <memory>
+
+class QQmlEngine;
+class QQmlError;
+
+namespace script {
+
+class Seam;
+
+/**
+ * Runs user-interface scripts: ES modules that import the service classes and controls of the application.
+ *
+ * Modules there are from the start: "quorlin" (service classes, Picture), "quorlin/controls" (stand-ins),
+ * "quorlin/panels" (answers to panels), "quorlin/defaults" (user defaults).
+ *
+ * How the application builds on it:
+ *
+ *     script::ScriptEngine scripts;
+ *     QJSValue window = scripts.engine().newObject();
+ *     window.setProperty("control", ...);                       // any value; its properties are what can be imported
+ *     scripts.registerModule("quorlin/window", window);         // before the first module that imports it
+ *     connect(&scripts, &ScriptEngine::uncaughtError, ...);     // errors in signal handlers, in words with file and line
+ *     auto main = scripts.importFile(folder + "/main.js");      // imports of other files are relative to each file
+ *     if (!main) showFatal(main.error().message);               // "FILE:LINE: NAME: MESSAGE"
+ *     auto result = scripts.call(main->property("start"), {});  // functions that a module exports
+ *
+ * A widget is handed to scripts with controlValue(); service outlets take it like a stand-in. A function that a script
+ * connects to a signal needs nothing more: what it throws arrives at uncaughtError(). A generator (a job) is carried on
+ * with call(generator.property("next"), {}, generator).
+ *
+ * `import * as name` does not work for the registered modules, only `import { a, b }`; a name that a registered module does
+ * not have is undefined. Modules are loaded once; a module that failed fails again with the same words.
+ *
+ * Main thread only. Nothing here throws.
+ */
+class ScriptEngine : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ScriptEngine(std::vector<ServiceEntry> services = registeredServices(), QObject *parent = nullptr);
+    ~ScriptEngine() override;
+
+    QQmlEngine &engine() { return *m_engine; }
+    Seam &seam() { return *m_seam; }
+
+    /** Makes the properties of @p value importable from @p name. False if the name is taken. */
+    bool registerModule(const QString &name, const QJSValue &value);
+
+    /**
+     * Loads and runs the module at @p path, relative to the current folder, and everything that it imports.
+     *
+     * @return what the module exports. Fails with NotFound where there is no such file, otherwise with InvalidValue and
+     *         "FILE:LINE: NAME: MESSAGE".
+     */
+    platform::Result<QJSValue> importFile(const QString &path);
+
+    /** Calls a function of a script. Fails like importFile(). */
+    platform::Result<QJSValue> call(const QJSValue &function, const QJSValueList &arguments,
+                                    const QJSValue &thisObject = {});
+
+    /** @p object as scripts get it: a service as its facade, a widget or other control as itself, still owned by C++. */
+    QJSValue controlValue(QObject *object);
+
+    /** Runs what settled promises and queued events have left to do, until nothing is left. */
+    void drain();
+
+    /** Says that an error had nowhere to go; "FILE:LINE: NAME: MESSAGE". */
+    void reportUncaught(const QString &message);
+
+Q_SIGNALS:
+    void uncaughtError(const QString &message);
+
+private:
+    using Body = std::function<QJSValue()>;
+    friend class HostCall;
+
+    platform::Result<QJSValue> run(Body body, const QString &file);
+    QString describe(const QJSValue &error, const QStringList &trace, const QString &file) const;
+    void reportWarnings(const QList<QQmlError> &warnings);
+    void registerOwnModules();
+
+    std::unique_ptr<Seam> m_seam;
+    std::unique_ptr<QQmlEngine> m_engine;
+    QHash<QString, QString> m_failedModules;
+};
+
+} // namespace script

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "app/script/service_class.h"
+
+namespace script {
+
+/** Every class that the application offers to scripts, services and stand-in controls. */
+std::vector<ServiceEntry> registeredServices();
+
+} // namespace script

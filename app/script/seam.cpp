@@ -1,0 +1,342 @@
+#include "app/script/seam.h"
+
+#include "app/script/facade.h"
+
+#include "platform/foundation/raised.h"
+
+#include <QMetaProperty>
+#include <QPointer>
+#include <QQmlEngine>
+#include <QUrl>
+#include <QVarLengthArray>
+
+#include <algorithm>
+#include <new>
+
+namespace script {
+namespace {
+
+/** The collector does not see native pixels, so it is called after this many values that hold some. */
+constexpr int pixelsBetweenCollections = 16;
+
+QString arityText(const Operation &operation, int received)
+{
+    const auto count = int(operation.parameters.size());
+    const QString expected = count == 0   ? QStringLiteral("no arguments")
+                             : count == 1 ? QStringLiteral("1 argument")
+                                          : QStringLiteral("%1 arguments").arg(count);
+    return QStringLiteral("%1 takes %2 but received %3")
+        .arg(QString::fromLatin1(operation.name), expected)
+        .arg(received);
+}
+
+/** Where the value itself lies, as the meta-call wants it. */
+void *storage(QVariant &value, Kind kind)
+{
+    return kind == Kind::Any ? static_cast<void *>(&value) : value.data();
+}
+
+QVariant emptyOf(Kind kind, QMetaType type)
+{
+    return kind == Kind::Nothing || kind == Kind::Any ? QVariant() : QVariant(type);
+}
+
+QString nameOf(const ServiceClass &service)
+{
+    return QString::fromLatin1(service.entry.name);
+}
+
+} // namespace
+
+Location locationInStack(const QString &stack)
+{
+    for (const QString &frame : stack.split(u'\n')) {
+        const qsizetype at = frame.indexOf(u'@');
+        const qsizetype colon = frame.lastIndexOf(u':');
+        if (at < 0 || colon < at + 1)
+            continue;
+        const QString source = frame.mid(at + 1, colon - at - 1);
+        const int line = std::abs(frame.mid(colon + 1).toInt());
+        if (line == 0 || source.isEmpty() || source.endsWith(facadeFileName()))
+            continue;
+        const QUrl url(source);
+        return {url.isLocalFile() ? url.toLocalFile() : source, line};
+    }
+    return {};
+}
+
+Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engine), m_values(engine)
+{
+    m_values.objectOf = [this](const QJSValue &value) { return objectOf(value); };
+    m_values.facadeOf = [this](QObject *object) { return facadeOf(object); };
+    QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
+    const QJSValue makeFacades = engine.evaluate(facadeSource(), facadeFileName());
+    const QJSValue facades = makeFacades.call({engine.newQObject(this)});
+    Q_ASSERT_X(!facades.isError(), "seam", qPrintable(facades.toString()));
+    m_define = facades.property(QStringLiteral("define"));
+    m_nativeOf = facades.property(QStringLiteral("nativeOf"));
+    m_itself = facades.property(QStringLiteral("ITSELF"));
+    for (ServiceEntry &entry : entries)
+        m_classes.push_back(std::make_unique<ServiceClass>(std::move(entry)));
+    for (int id = 0; id < int(m_classes.size()); ++id) {
+        m_classIds.insert(m_classes[size_t(id)]->entry.meta, id);
+        m_definitions.push_back(defineClass(id));
+    }
+}
+
+Seam::~Seam() = default;
+
+QJSValue Seam::operationTable(ServiceClass &service)
+{
+    QJSValue table = m_engine.newArray(uint(service.operations.size()));
+    for (size_t i = 0; i < service.operations.size(); ++i) {
+        const Operation &operation = service.operations[i];
+        QJSValue row = m_engine.newObject();
+        row.setProperty(QStringLiteral("id"), int(m_operations.size()));
+        row.setProperty(QStringLiteral("name"), QString::fromLatin1(operation.name));
+        row.setProperty(QStringLiteral("isClassLevel"), operation.isClassLevel);
+        table.setProperty(quint32(i), row);
+        m_operations.push_back({&service, &operation});
+    }
+    return table;
+}
+
+QJSValue Seam::fieldTable(ServiceClass &service)
+{
+    QJSValue table = m_engine.newArray(uint(service.fields.size()));
+    for (size_t i = 0; i < service.fields.size(); ++i) {
+        const Field &field = service.fields[i];
+        QJSValue row = m_engine.newObject();
+        row.setProperty(QStringLiteral("id"), int(m_fields.size()));
+        row.setProperty(QStringLiteral("name"), QString::fromLatin1(field.name));
+        row.setProperty(QStringLiteral("isObject"), field.kind == Kind::Object);
+        table.setProperty(quint32(i), row);
+        m_fields.push_back({&service, &field});
+    }
+    return table;
+}
+
+QJSValue Seam::defineClass(int classId)
+{
+    ServiceClass &service = *m_classes[size_t(classId)];
+    const QJSValue operations = operationTable(service);
+    const QJSValue fields = fieldTable(service);
+    const QJSValue definition =
+        m_define.call({classId, nameOf(service), operations, fields, service.entry.takesFields});
+    Q_ASSERT_X(!definition.isError(), "seam", qPrintable(definition.toString()));
+    return definition;
+}
+
+QJSValue Seam::exportsOf(const QByteArray &module) const
+{
+    QJSValue exports = m_engine.newObject();
+    for (size_t id = 0; id < m_classes.size(); ++id)
+        if (m_classes[id]->entry.module == module)
+            exports.setProperty(nameOf(*m_classes[id]), m_definitions[id].property(QStringLiteral("make")));
+    return exports;
+}
+
+const ServiceClass *Seam::classOf(const QObject *object) const
+{
+    for (const QMetaObject *meta = object->metaObject(); meta; meta = meta->superClass())
+        if (const auto found = m_classIds.constFind(meta); found != m_classIds.constEnd())
+            return m_classes[size_t(*found)].get();
+    return nullptr;
+}
+
+/** An object with a parent belongs to that; one without is deleted with the last facade. */
+QVariant Seam::hold(QObject *object)
+{
+    std::shared_ptr<QObject> shared = m_held.value(object).lock();
+    if (!shared) {
+        const QPointer<QObject> guard(object);
+        shared = std::shared_ptr<QObject>(object, [this, guard](QObject *held) {
+            m_held.remove(held);
+            QObject *alive = guard.data();
+            if (alive && !alive->parent())
+                delete alive;
+        });
+        m_held.insert(object, shared);
+    }
+    return QVariant::fromValue(Native{shared});
+}
+
+QJSValue Seam::facadeOf(QObject *object)
+{
+    const ServiceClass *service = classOf(object);
+    if (!service) {
+        if (QJSEngine::objectOwnership(object) != QJSEngine::CppOwnership)
+            QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
+        return m_engine.newQObject(object);
+    }
+    const QJSValue wrap = m_definitions[size_t(m_classIds.value(service->entry.meta))].property(QStringLiteral("wrap"));
+    return wrap.call({m_engine.toScriptValue(hold(object))});
+}
+
+QObject *Seam::objectOf(const QJSValue &value) const
+{
+    if (value.isQObject())
+        return value.toQObject();
+    if (!value.isObject())
+        return nullptr;
+    const QJSValue native = m_nativeOf.call({value});
+    return native.isVariant() ? native.toVariant().value<Native>().object.get() : nullptr;
+}
+
+QJSValue Seam::make(int classId, bool isConstructed, const QJSValue &arguments)
+{
+    return guarded([&] {
+        const ServiceClass &service = *m_classes[size_t(classId)];
+        const QString name = nameOf(service);
+        if (!service.entry.isMadeByScripts)
+            throw platform::Raised::typeError(QStringLiteral("%1 is not made with new").arg(name));
+        if (!isConstructed)
+            throw platform::Raised::typeError(QStringLiteral("%1 is made with new").arg(name));
+        const int received = arguments.property(QStringLiteral("length")).toInt();
+        const int most = service.entry.takesFields ? 1 : 0;
+        if (received > most)
+            throw platform::Raised::typeError(
+                QStringLiteral("new %1 takes %2 but received %3")
+                    .arg(name, most ? QStringLiteral("1 argument") : QStringLiteral("no arguments"))
+                    .arg(received));
+        if (received == 1 && !m_values.isPlainObject(arguments.property(0)))
+            throw platform::Raised::typeError(
+                QStringLiteral("Expected a dictionary of properties for new %1 but received %2")
+                    .arg(name, m_values.described(arguments.property(0))));
+        return m_engine.toScriptValue(hold(service.entry.make()));
+    });
+}
+
+QObject *Seam::target(const QVariant &native, ServiceClass &owner, const QByteArray &member) const
+{
+    QObject *object = native.value<Native>().object.get();
+    if (!object || !object->metaObject()->inherits(owner.entry.meta))
+        throw platform::Raised::typeError(
+            QStringLiteral("%1 is not called on a %2").arg(QString::fromLatin1(member), nameOf(owner)));
+    return object;
+}
+
+QJSValue Seam::call(const QVariant &native, int operationId, const QJSValue &arguments)
+{
+    return guarded([&] {
+        const auto &[owner, operation] = m_operations[size_t(operationId)];
+        if (!operation->isClassLevel)
+            return invoke(target(native, *owner, operation->name), *operation, arguments);
+        if (!owner->hidden)
+            owner->hidden.reset(owner->entry.make());
+        return invoke(owner->hidden.get(), *operation, arguments);
+    });
+}
+
+QJSValue Seam::invoke(QObject *object, const Operation &operation, const QJSValue &arguments)
+{
+    const int received = arguments.property(QStringLiteral("length")).toInt();
+    const auto count = int(operation.parameters.size());
+    if (received != count)
+        throw platform::Raised::typeError(arityText(operation, received));
+    QVarLengthArray<QVariant, 8> natives(count);
+    QVarLengthArray<void *, 9> pointers(count + 1);
+    for (int i = 0; i < count; ++i) {
+        const Parameter &parameter = operation.parameters[size_t(i)];
+        natives[i] = m_values.toNative(arguments.property(quint32(i)), parameter.kind, parameter.type,
+                                       QString::fromLatin1(parameter.name));
+        pointers[i + 1] = storage(natives[i], parameter.kind);
+    }
+    QVariant result = emptyOf(operation.resultKind, operation.resultType);
+    pointers[0] = operation.resultKind == Kind::Nothing ? nullptr : storage(result, operation.resultKind);
+    QMetaObject::metacall(object, QMetaObject::InvokeMetaMethod, operation.methodIndex, pointers.data());
+    QJSValue answer = resultToScript(object, result, operation.resultKind);
+    if (!answer.isNull())
+        collectAfterPixels(operation.resultKind);
+    return answer;
+}
+
+QJSValue Seam::resultToScript(QObject *object, const QVariant &result, Kind kind)
+{
+    if (kind == Kind::Object && result.value<QObject *>() == object)
+        return m_itself;
+    return m_values.toScript(result);
+}
+
+void Seam::collectAfterPixels(Kind kind)
+{
+    if (kind != Kind::Opaque && kind != Kind::Picture)
+        return;
+    if (++m_pixelsHandedOut < pixelsBetweenCollections)
+        return;
+    m_pixelsHandedOut = 0;
+    m_engine.collectGarbage();
+}
+
+QJSValue Seam::read(const QVariant &native, int fieldId, const QJSValue &kept)
+{
+    return guarded([&] {
+        const auto &[owner, field] = m_fields[size_t(fieldId)];
+        const QObject *object = target(native, *owner, field->name);
+        const QVariant value = object->metaObject()->property(field->propertyIndex).read(object);
+        if (field->kind != Kind::Object) {
+            collectAfterPixels(field->kind);
+            return m_values.toScript(value);
+        }
+        auto *outlet = value.value<QObject *>();
+        return outlet && objectOf(kept) == outlet ? kept : m_values.toScript(value);
+    });
+}
+
+void Seam::write(const QVariant &native, int fieldId, const QJSValue &value)
+{
+    guarded([&] {
+        const auto &[owner, field] = m_fields[size_t(fieldId)];
+        QObject *object = target(native, *owner, field->name);
+        const QString name = QString::fromLatin1(field->name);
+        if (!field->isWritable)
+            throw platform::Raised::typeError(QStringLiteral("%1 of %2 is read only").arg(name, nameOf(*owner)));
+        const QVariant converted = m_values.toNative(value, field->kind, field->type, name);
+        object->metaObject()->property(field->propertyIndex).write(object, converted);
+        return QJSValue();
+    });
+}
+
+void Seam::rejectName(const QString &className, const QString &name)
+{
+    raise(QStringLiteral("TypeError"), QStringLiteral("%1 has no operation or field %2").arg(className, name));
+}
+
+void Seam::rejectAssignment(const QString &className, const QString &name)
+{
+    raise(QStringLiteral("TypeError"), QStringLiteral("%1 has no field %2 that can be set").arg(className, name));
+}
+
+void Seam::raise(const QString &name, const QString &message)
+{
+    const auto type = name == QStringLiteral("TypeError")    ? QJSValue::TypeError
+                      : name == QStringLiteral("RangeError") ? QJSValue::RangeError
+                                                             : QJSValue::GenericError;
+    QJSValue error = m_engine.newErrorObject(type, message);
+    if (type == QJSValue::GenericError && name != QStringLiteral("Error"))
+        error.setProperty(QStringLiteral("name"), name);
+    m_lastErrorLocation = locationInStack(error.property(QStringLiteral("stack")).toString());
+    if (!m_lastErrorLocation.file.isEmpty()) {
+        error.setProperty(QStringLiteral("fileName"), m_lastErrorLocation.file);
+        error.setProperty(QStringLiteral("lineNumber"), m_lastErrorLocation.line);
+    }
+    m_engine.throwError(error);
+}
+
+void Seam::raiseCurrentException()
+{
+    const QString genericName = QStringLiteral("Error");
+    try {
+        throw;
+    } catch (const platform::Raised &raised) {
+        raise(raised.name(), raised.message());
+    } catch (const std::bad_alloc &) {
+        raise(QStringLiteral("RangeError"), QStringLiteral("There is not enough memory"));
+    } catch (const std::exception &exception) {
+        raise(genericName, QString::fromUtf8(exception.what()));
+    } catch (...) {
+        raise(genericName, QStringLiteral("An unknown exception was thrown"));
+    }
+}
+
+} // namespace script

@@ -1,0 +1,119 @@
+#pragma once
+
+#include "app/script/service_class.h"
+#include "app/script/values.h"
+
+#include <QHash>
+#include <QJSEngine>
+#include <QJSValue>
+#include <QObject>
+
+#include <exception>
+
+namespace script {
+
+/** What lies behind a facade: the service object, shared with every other facade of it that scripts own. */
+struct Native
+{
+    std::shared_ptr<QObject> object;
+};
+
+/** Where in a script something happened. */
+struct Location
+{
+    QString file; ///< a path, or another name where the script is not a file; empty if unknown
+    int line = 0;
+};
+
+/** The topmost place in a stack, as errors hold it, that is not in the facade's own script. */
+Location locationInStack(const QString &stack);
+
+/**
+ * The one way from scripts to services.
+ *
+ * Makes the classes that scripts see and carries every call, read and write of a field: looks the operation up in what the
+ * meta-object said, checks count and types of the arguments, converts them, calls, converts the result. Everything that
+ * is thrown underneath ends here as an error of the script; a C++ exception that entered the engine would end the process.
+ */
+class Seam : public QObject
+{
+    Q_OBJECT
+
+public:
+    Seam(QJSEngine &engine, std::vector<ServiceEntry> entries);
+    ~Seam() override;
+
+    /** What `import ... from "module"` gives. */
+    QJSValue exportsOf(const QByteArray &module) const;
+
+    /** The facade for an object of a registered class; other objects, such as real controls, are handed out as they are. */
+    QJSValue facadeOf(QObject *object);
+    /** The object behind a facade or a wrapped control; null for other values. */
+    QObject *objectOf(const QJSValue &value) const;
+
+    const Values &values() const { return m_values; }
+    const std::vector<std::unique_ptr<ServiceClass>> &classes() const { return m_classes; }
+    /** Where the last error that the seam raised happened, and its text. */
+    const Location &lastErrorLocation() const { return m_lastErrorLocation; }
+
+    /** Runs @p body; what it throws becomes an error of the running script. */
+    template<typename Body> QJSValue guarded(Body body)
+    {
+        try {
+            return body();
+        } catch (...) {
+            raiseCurrentException();
+            return QJSValue(QJSValue::NullValue);
+        }
+    }
+
+    // Called by the facade's script only.
+    Q_INVOKABLE QJSValue make(int classId, bool isConstructed, const QJSValue &arguments);
+    Q_INVOKABLE QJSValue call(const QVariant &native, int operationId, const QJSValue &arguments);
+    Q_INVOKABLE QJSValue read(const QVariant &native, int fieldId, const QJSValue &kept);
+    Q_INVOKABLE void write(const QVariant &native, int fieldId, const QJSValue &value);
+    Q_INVOKABLE void rejectName(const QString &className, const QString &name);
+    Q_INVOKABLE void rejectAssignment(const QString &className, const QString &name);
+
+private:
+    struct OperationOfClass
+    {
+        ServiceClass *owner;
+        const Operation *operation;
+    };
+    struct FieldOfClass
+    {
+        ServiceClass *owner;
+        const Field *field;
+    };
+
+    QJSValue defineClass(int classId);
+    QJSValue operationTable(ServiceClass &service);
+    QJSValue fieldTable(ServiceClass &service);
+    const ServiceClass *classOf(const QObject *object) const;
+    QVariant hold(QObject *object);
+    QObject *target(const QVariant &native, ServiceClass &owner, const QByteArray &member) const;
+    QJSValue invoke(QObject *object, const Operation &operation, const QJSValue &arguments);
+    QJSValue resultToScript(QObject *object, const QVariant &result, Kind kind);
+    void collectAfterPixels(Kind kind);
+    void raise(const QString &name, const QString &message);
+    void raiseCurrentException();
+
+    QJSEngine &m_engine;
+    Values m_values;
+    std::vector<std::unique_ptr<ServiceClass>> m_classes;
+    std::vector<OperationOfClass> m_operations;
+    std::vector<FieldOfClass> m_fields;
+    std::vector<QJSValue> m_definitions;
+    QHash<const QMetaObject *, int> m_classIds;
+    QHash<QObject *, std::weak_ptr<QObject>> m_held;
+    QJSValue m_define;
+    QJSValue m_nativeOf;
+    QJSValue m_itself;
+    Location m_lastErrorLocation;
+    int m_pixelsHandedOut = 0;
+};
+
+} // namespace script
+
+Q_DECLARE_METATYPE(script::Native)

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QMetaType>
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace script {
+
+/** How a value of one C++ type is written in scripts. */
+enum class Kind {
+    Nothing,     ///< no value; null in scripts
+    Text,        ///< QString
+    Whole,       ///< int
+    Unsigned,    ///< uint
+    Number,      ///< double
+    Single,      ///< float
+    Truth,       ///< bool
+    Flag,        ///< platform::Flag: a boolean or a number
+    Any,         ///< QVariant: text, number, list, dictionary or null
+    Dictionary,  ///< QVariantMap
+    List,        ///< QVariantList
+    TextList,    ///< QStringList
+    SharedList,  ///< QJSValue: the script's own array, which the operation may empty
+    Data,        ///< QByteArray
+    Date,        ///< QDateTime
+    Location,    ///< QUrl
+    Size,        ///< QSizeF
+    Point,       ///< QPointF
+    Rectangle,   ///< QRectF
+    Opaque,      ///< a bitmap handle and the like: handed on, never looked into
+    Picture,     ///< platform::Picture
+    Object,      ///< a pointer to a QObject: a control, or a service
+    Unreachable, ///< scripts have no form for this type
+};
+
+Kind kindOf(QMetaType type);
+
+struct Parameter
+{
+    QByteArray name;
+    QMetaType type;
+    Kind kind = Kind::Unreachable;
+};
+
+struct Operation
+{
+    QByteArray name;
+    int methodIndex = -1;
+    bool isClassLevel = false;
+    std::vector<Parameter> parameters;
+    QMetaType resultType;
+    Kind resultKind = Kind::Nothing;
+};
+
+struct Field
+{
+    QByteArray name;
+    int propertyIndex = -1;
+    bool isWritable = false;
+    QMetaType type;
+    Kind kind = Kind::Unreachable;
+};
+
+/**
+ * One class as the application offers it to scripts.
+ *
+ * Its operations are the public Q_INVOKABLE methods and its fields the Q_PROPERTYs, both in the order of declaration
+ * and with those of base classes first. Operations that are called on the class itself are listed, separated by
+ * blanks, in Q_CLASSINFO("ClassOperations", "..."); they run on one hidden object of the class.
+ */
+struct ServiceEntry
+{
+    QByteArray name;
+    const QMetaObject *meta = nullptr;
+    /** Makes a new object without a parent. */
+    std::function<QObject *()> make;
+    /** The module that exports it. */
+    QByteArray module = "quorlin";
+    /** new takes a dictionary of fields. */
+    bool takesFields = false;
+    /** Scripts can make one with new; otherwise they get such objects from operations only. */
+    bool isMadeByScripts = true;
+};
+
+/** The entry of a class with a default constructor, under its own name without namespaces. */
+template<typename T> ServiceEntry serviceEntry(const char *module = "quorlin", bool takesFields = false)
+{
+    const QByteArray name = T::staticMetaObject.className();
+    return {name.mid(name.lastIndexOf(':') + 1), &T::staticMetaObject, [] { return new T; }, module, takesFields, true};
+}
+
+/** What the meta-object of an entry says, looked up once. */
+struct ServiceClass
+{
+    explicit ServiceClass(ServiceEntry description);
+
+    ServiceEntry entry;
+    std::vector<Operation> operations;
+    std::vector<Field> fields;
+    /** The object that class-level operations run on; made at the first call. */
+    std::unique_ptr<QObject> hidden;
+};
+
+} // namespace script

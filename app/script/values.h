@@ -1,0 +1,77 @@
+#pragma once
+
+#include "app/script/service_class.h"
+
+#include <QJSEngine>
+#include <QJSValue>
+#include <QVariant>
+
+#include <functional>
+
+namespace script {
+
+/**
+ * Turns values of scripts into values of services and back, by the rules of the seam: nothing is converted in silence.
+ *
+ * What does not fit raises platform::Raised, a TypeError or a RangeError with a sentence of the form "Expected X for N but
+ * received V".
+ */
+class Values
+{
+public:
+    explicit Values(QJSEngine &engine);
+
+    /** Finds the service object behind a facade or a wrapped control; null for other values. */
+    std::function<QObject *(const QJSValue &)> objectOf;
+    /** The facade of a service object, or the control itself. */
+    std::function<QJSValue(QObject *)> facadeOf;
+
+    /** @p value as a value of exactly @p type; @p name is what the sentence calls it. */
+    QVariant toNative(const QJSValue &value, Kind kind, QMetaType type, const QString &name) const;
+
+    /** A list of texts; null is none here. */
+    QStringList textList(const QJSValue &value, const QString &name) const { return textListToNative(value, name); }
+    /** The keys of a plain object. */
+    QStringList keysOf(const QJSValue &value, const QString &name) const;
+    /** Whatever may stand inside a list: text, numbers, booleans, dates, data, lists, dictionaries; null is refused. */
+    QVariant setting(const QJSValue &value, const QString &name) const;
+
+    /** A service's value as scripts see it: null for what is nothing. */
+    QJSValue toScript(const QVariant &value) const;
+
+    /** A value in words: "abc" in quotation marks, numbers as they are, "a list" ... */
+    QString described(const QJSValue &value) const;
+
+    /** True for {...} as a script writes it; false for lists, functions, facades and objects of any class. */
+    bool isPlainObject(const QJSValue &value) const;
+
+private:
+    QVariant compositeToNative(const QJSValue &value, Kind kind, QMetaType type, const QString &name) const;
+    QVariant anyToNative(const QJSValue &value, const QString &name, int depth) const;
+    QVariantMap dictionaryToNative(const QJSValue &value, const QString &name, int depth) const;
+    QVariantList listToNative(const QJSValue &value, const QString &name, int depth) const;
+    QStringList textListToNative(const QJSValue &value, const QString &name) const;
+    QVariant numberToNative(const QJSValue &value, Kind kind, const QString &name) const;
+    QVariant geometryToNative(const QJSValue &value, Kind kind, const QString &name) const;
+    QVariant dataToNative(const QJSValue &value, const QString &name) const;
+    QVariant locationToNative(const QJSValue &value, const QString &name) const;
+    QVariant opaqueToNative(const QJSValue &value, QMetaType type, const QString &name) const;
+    QVariant pictureToNative(const QJSValue &value, const QString &name) const;
+    QVariant objectToNative(const QJSValue &value, QMetaType type, const QString &name) const;
+    QList<double> numbersOf(const QJSValue &value, const QStringList &keys, const QString &shape,
+                            const QString &name) const;
+    bool isData(const QJSValue &value) const;
+    [[noreturn]] void reject(const QString &expected, const QString &name, const QJSValue &value) const;
+
+    QJSValue otherToScript(const QVariant &value, Kind kind) const;
+    QJSValue numbersToScript(const QStringList &keys, const QList<double> &numbers) const;
+    QJSValue listToScript(const QVariantList &list) const;
+    QJSValue textListToScript(const QStringList &list) const;
+    QJSValue dictionaryToScript(const QVariantMap &map) const;
+
+    QJSEngine &m_engine;
+    QJSValue m_objectPrototype;
+    QJSValue m_dataPrototype;
+};
+
+} // namespace script
