@@ -38,24 +38,31 @@ def opens_function(code, brace, script):
 
 
 def functions(text, script):
-    """(first line, number of lines) of every outermost function body; nested ones count with the one around them."""
+    """(first line, number of lines) of every function.
+
+    Lambdas and arrows count with the function around them. A named function inside a script's function counts for itself:
+    the outer one is then what a class is elsewhere, state and the functions that share it.
+    """
     # Values in braces open no body: "b = {}", "m_a{1}".
     code = re.sub(r"(?<==)\s*\{\s*\}|(?<=\w)\{[^{};]*\}", lambda m: re.sub(r"[^\n]", " ", m.group()), tree.code_only(text))
-    depth, inside, found = 0, None, []
+    depth, stack, found = 0, [], []
     for match in re.finditer(r"[{}]", code):
         if match.group() == "{":
             depth += 1
-            if inside is None:
-                start = opens_function(code, match.start(), script)
-                if start is not None:
-                    inside = (depth, start)
+            start = opens_function(code, match.start(), script)
+            named = script and start is not None and re.match(r"(export )?(default )?function\b\*?\s*\w", code[start:])
+            if start is not None and (not stack or named):
+                stack.append([depth, start, 0])
         else:
-            if inside and inside[0] == depth:
-                first = code.count("\n", 0, inside[1]) + 1
-                found.append((first, code.count("\n", 0, match.start()) + 2 - first))
-                inside = None
+            if stack and stack[-1][0] == depth:
+                _, start, inner = stack.pop()
+                first = code.count("\n", 0, start) + 1
+                lines = code.count("\n", 0, match.start()) + 2 - first
+                found.append((first, lines - inner))
+                if stack:
+                    stack[-1][2] += lines
             depth -= 1
-    return found
+    return sorted(found)
 
 
 def measure(root):

@@ -140,6 +140,10 @@ class Sizes(Tree):
         text = "export function f(a) {\n  return a;\n}\nclass A {\n  run(b) {\n    if (b) {\n    }\n  }\n}\nconst g = x => {\n};\n"
         self.assertEqual([count for _, count in sizes.functions(text, script=True)], [3, 4, 2])
 
+    def test_counts_a_named_script_function_for_itself_and_an_arrow_with_its_owner(self):
+        text = "export function f() {\n  let a;\n  function g() {\n    a = 1;\n  }\n  return () => {\n    g();\n  };\n}\n"
+        self.assertEqual(sizes.functions(text, script=True), [(1, 6), (3, 3)])
+
     def test_reports_above_the_mark_and_fails_above_the_limit(self):
         for lines, status, said in [(sizes.FUNCTION_MARK, 0, ""), (sizes.FUNCTION_MARK + 1, 0, "for review"),
                                     (sizes.FUNCTION_LIMIT, 0, "for review"), (sizes.FUNCTION_LIMIT + 1, 1, "the limit is")]:
