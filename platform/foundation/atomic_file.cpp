@@ -119,8 +119,7 @@ Result<QByteArray> readFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        const ErrorCode code = file.exists() ? ErrorCode::Unreadable : ErrorCode::NotFound;
-        return failure(code,
+        return failure(ErrorCode::NotFound,
                        QCoreApplication::translate("platform", "Cannot read %1: %2").arg(path, file.errorString()));
     }
     QByteArray bytes = file.readAll();

@@ -8,8 +8,9 @@ namespace platform {
 
 /** Why an operation of the platform did not give a value. */
 enum class ErrorCode {
-    NotFound,     ///< no such file
-    Unreadable,   ///< the file cannot be opened, or it is no picture, or it is damaged or cut short
+    NotFound,     ///< no such file, or one that may not be opened
+    NotAPicture,  ///< the content is of no kind that is known here
+    Unreadable,   ///< a known kind of file that is damaged or cut short
     Unsupported,  ///< the kind of file is known and cannot be read or written here
     TooLarge,     ///< more pixels or bytes than the memory budget allows
     InvalidValue, ///< a size, index or option out of range

@@ -1,6 +1,6 @@
 #include "platform/foundation/type_identifiers.h"
 
-#include <QFileInfo>
+#include "platform/foundation/paths.h"
 
 #include <array>
 
@@ -52,7 +52,7 @@ QString typeIdentifierForExtension(const QString &extension)
 
 QString typeIdentifierForPath(const QString &path)
 {
-    return typeIdentifierForExtension(QFileInfo(path).suffix());
+    return typeIdentifierForExtension(pathExtension(path));
 }
 
 } // namespace platform

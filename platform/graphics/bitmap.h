@@ -41,6 +41,8 @@ public:
     static Bitmap fromImage(const QImage &image);
 
     bool isNull() const { return !m_pixels; }
+    /** True for two values that share the same pixels. */
+    bool operator==(const Bitmap &other) const = default;
     int width() const;
     int height() const;
     QSize size() const { return {width(), height()}; }
@@ -62,8 +64,8 @@ public:
     QSizeF pointSize() const;
 
     /**
-     * One pixel as red, green, blue, alpha, 0 to 255, not premultiplied, in the bitmap's own RGB or grey space; CMYK and
-     * Lab are converted to sRGB. Outside the bitmap all four are 0.
+     * One pixel as red, green, blue, alpha, 0 to 255, not premultiplied, in the bitmap's own RGB or grey space; CMYK
+     * and Lab are converted to sRGB. Outside the bitmap all four are 0.
      */
     std::array<int, 4> pixel(int x, int y) const;
 

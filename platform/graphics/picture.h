@@ -23,6 +23,7 @@ public:
     static Picture fromFile(const QString &path);
 
     bool isNull() const { return m_bitmap.isNull(); }
+    bool operator==(const Picture &other) const = default;
     /** In points. */
     QSizeF size() const { return m_size; }
     Bitmap bitmap() const { return m_bitmap; }

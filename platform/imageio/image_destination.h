@@ -13,11 +13,15 @@ enum class FileFormat { Png, Tiff, Bmp, Gif, Jpeg, Jpeg2000 };
 /** The format of a type identifier such as "public.png"; none where it cannot be written. */
 std::optional<FileFormat> fileFormatForType(const QString &typeIdentifier);
 
+/** Whether the resolution of the bitmap is written into the file. */
+enum class WriteResolution { No, Yes };
+
 struct EncodeOptions
 {
     /** JPEG only, 0.01 to 1. Without it a picture from a JPEG keeps its own quantisation and others get 0.92. */
     std::optional<double> lossyQuality;
-    /** Carried into JPEG and TIFF; other formats leave it. */
+    WriteResolution resolution = WriteResolution::No;
+    /** Carried into JPEG and TIFF; other formats leave it. A resolution that it states is written with it. */
     Metadata metadata;
 };
 
@@ -26,13 +30,13 @@ struct EncodeOptions
  *
  * Colour: the profile stays with the picture in every format that can hold one; otherwise, and for CMYK and Lab in
  * formats without them, the pixels are converted to sRGB. Depth: 16 bits stay in PNG, TIFF and JPEG 2000. Alpha is laid
- * on black in JPEG and BMP. The resolution is written where the format can say it.
+ * on black in JPEG and BMP.
  *
  * Fails with WriteFailed if the encoder fails, and with InvalidValue for a null bitmap.
  */
 Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options = {});
 
-/** encodeImage(), then an atomic replacement of the file at @p path. */
+/** encodeImage(), then an atomic replacement of the file at @p path; its folder must exist. */
 Result<void> writeImageFile(const QString &path, const Bitmap &bitmap, FileFormat format,
                             const EncodeOptions &options = {});
 

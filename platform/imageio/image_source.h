@@ -36,6 +36,8 @@ public:
     static Result<ImageSource> fromData(const QByteArray &bytes);
 
     bool isNull() const { return !m_file; }
+    /** True for two values that share the same opened file. */
+    bool operator==(const ImageSource &other) const = default;
     QString path() const;
     /** What the bytes are: "public.jpeg", "public.heic" ... */
     QString typeIdentifier() const;

@@ -1,0 +1,194 @@
+#include "image/ZtImageHandling.h"
+
+#include "image/output.h"
+#include "image/resize.h"
+#include "image/scaled_size.h"
+#include "platform/foundation/paths.h"
+#include "platform/foundation/type_identifiers.h"
+
+using platform::Bitmap;
+using platform::BitmapHandle;
+using platform::EncodeOptions;
+using platform::ImageSource;
+using platform::Metadata;
+using platform::Picture;
+using platform::Result;
+
+namespace {
+
+/** The entry of destination options that names the JPEG quality factor, 0 to 1. */
+QString qualityKey()
+{
+    return QStringLiteral("kCGImageDestinationLossyCompressionQuality");
+}
+
+bool isJpeg(const QString &type)
+{
+    return type == QLatin1String("public.jpeg");
+}
+
+bool isTiff(const QString &type)
+{
+    return type == QLatin1String("public.tiff");
+}
+
+/** Options for a type that takes the caller's dictionary. */
+EncodeOptions optionsFrom(const QVariantMap &properties)
+{
+    EncodeOptions options;
+    options.metadata = Metadata::fromProperties(properties);
+    const QVariant quality = properties.value(qualityKey());
+    if (quality.isValid())
+        options.lossyQuality = quality.toDouble();
+    return options;
+}
+
+EncodeOptions optionsFrom(const ImageSource &source)
+{
+    EncodeOptions options;
+    options.metadata = source.metadata();
+    options.resolution = platform::WriteResolution::Yes;
+    return options;
+}
+
+} // namespace
+
+ZtImageHandling::ZtImageHandling(QObject *parent) : QObject(parent) {}
+
+ImageSource ZtImageHandling::hNSURLtoCIImage(const QUrl &location)
+{
+    openUpright(location.toLocalFile());
+    return imageCIImage;
+}
+
+QString ZtImageHandling::hGetPixelSize(const QString &path)
+{
+    openUpright(path);
+    const QSize size = imageCIImage.uprightSize();
+    return QStringLiteral("%1x%2px").arg(size.width()).arg(size.height());
+}
+
+BitmapHandle ZtImageHandling::hStringToCGImageRef(const QString &path)
+{
+    const Result<ImageSource> source = ImageSource::open(path);
+    if (!source && (source.error().code == platform::ErrorCode::NotFound ||
+                    source.error().code == platform::ErrorCode::NotAPicture))
+        return {};
+    platform::DecodeOptions asStored;
+    asStored.orientation = platform::Orientation::AsStored;
+    const Result<Bitmap> bitmap = source ? source->decode(asStored) : Result<Bitmap>(Bitmap());
+    if (imageRefVariable.isNull())
+        imageRefVariable = BitmapHandle(Bitmap());
+    imageRefVariable.assign(bitmap.value_or(Bitmap()));
+    return imageRefVariable;
+}
+
+Picture ZtImageHandling::imageFromCGImageRef(const BitmapHandle &imageRef)
+{
+    const Bitmap bitmap = imageRef.bitmap();
+    return bitmap.isNull() ? Picture() : Picture(bitmap, QSizeF(bitmap.size()));
+}
+
+QString ZtImageHandling::hSaveToNewImageFile(const QString &path, const QString &type, const BitmapHandle &imageRef,
+                                             const QVariantMap &destinationProperties)
+{
+    const bool takesProperties = isTiff(type) || isJpeg(type);
+    return image::writeAnswering(path, type, imageRef.bitmap(),
+                                 takesProperties ? optionsFrom(destinationProperties) : EncodeOptions());
+}
+
+QString ZtImageHandling::hSaveToNewImageFileMPR(const QString &basePath, const QString &type,
+                                                const BitmapHandle &imageRef, const QVariantMap &sourceProperties,
+                                                const QString &qualityCode, const QString &sourceExtension)
+{
+    Q_UNUSED(sourceExtension)
+    const EncodeOptions ofSource = isTiff(type) ? optionsFrom(sourceProperties) : EncodeOptions();
+    return write({basePath, type, qualityCode}, imageRef.bitmap(), ofSource);
+}
+
+QString ZtImageHandling::write(const Target &target, const Bitmap &bitmap, const EncodeOptions &ofSource)
+{
+    EncodeOptions options = ofSource;
+    if (isJpeg(target.type)) {
+        const double quality = image::qualityForCode(target.qualityCode);
+        properties = QVariantMap{{qualityKey(), quality}};
+        options.lossyQuality = quality;
+    }
+    return image::writeAnswering(target.basePath + image::extensionForType(target.type), target.type, bitmap, options);
+}
+
+QString ZtImageHandling::resizeImage(const QString &path, quint32 number, quint32 mode, const QString &prefix,
+                                     const QVariant &type, const QString &qualityCode)
+{
+    if (!decideType(path, type))
+        return image::statusNotSupported();
+    openUpright(path);
+    const QSizeF extent = imageCIImage.uprightSize();
+    if (const auto size = image::scaledSize(number, mode, extent.width(), extent.height())) {
+        newImgW = size->width;
+        newImgH = size->height;
+        myScaleFactor = size->scaleFactor.value_or(myScaleFactor);
+    }
+    return writeDrawn({image::outputBase(prefix, path), myFileType, qualityCode},
+                      image::resized(imageCIImage, QSize(newImgW, newImgH)));
+}
+
+QString ZtImageHandling::resizeImage2(const QString &path, quint32 width, quint32 height, int mode,
+                                      const QString &prefix, const QVariant &type, const QString &qualityCode)
+{
+    if (!decideType(path, type))
+        return image::statusNotSupported();
+    openUpright(path);
+    const Target target = {image::outputBase(prefix, path), myFileType, qualityCode};
+    const QSize box = QSize(qint32(width), qint32(height));
+    constexpr int fillAndCut = 1;
+    if (mode != fillAndCut)
+        return writeDrawn(target, image::resized(imageCIImage, box));
+    const QSizeF extent = imageCIImage.uprightSize();
+    const image::FilledBox filled = image::filledBox(width, height, extent.width(), extent.height());
+    newImgW = filled.drawn.width;
+    newImgH = filled.drawn.height;
+    myXWOffset = filled.offset.x();
+    myYHOffset = filled.offset.y();
+    return writeDrawn(target, image::resizedAndCut(imageCIImage, QSize(newImgW, newImgH), QRect(filled.offset, box)));
+}
+
+QString ZtImageHandling::writeDrawn(const Target &target, const Result<Bitmap> &drawn)
+{
+    // No bitmap of that size, or no picture to draw: the answer is a success that leaves no file.
+    if (!drawn)
+        return image::statusOk();
+    return write(target, *drawn, isTiff(target.type) ? optionsFrom(imageCIImage) : EncodeOptions());
+}
+
+BitmapHandle ZtImageHandling::currentImage() const
+{
+    const Bitmap bitmap = imageRefVariable.bitmap();
+    return bitmap.isNull() ? BitmapHandle() : BitmapHandle(bitmap);
+}
+
+void ZtImageHandling::setCurrentImage(const BitmapHandle &imageRef)
+{
+    if (imageRefVariable.isNull())
+        imageRefVariable = BitmapHandle(Bitmap());
+    imageRefVariable.assign(imageRef.bitmap());
+}
+
+bool ZtImageHandling::decideType(const QString &path, const QVariant &requestedType)
+{
+    fileExtension = platform::pathExtension(path);
+    const QString sourceType = platform::typeIdentifierForExtension(fileExtension);
+    if (image::keepsSourceType(requestedType)) {
+        fileExtensionNSString = fileExtension;
+        myFileType = sourceType;
+    } else {
+        fileUTI = sourceType;
+        myFileType = requestedType.toString();
+    }
+    return !image::isNeverWritten(myFileType);
+}
+
+void ZtImageHandling::openUpright(const QString &path)
+{
+    imageCIImage = ImageSource::open(path).value_or(ImageSource());
+}

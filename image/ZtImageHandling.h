@@ -1,0 +1,181 @@
+#pragma once
+
+#include "platform/graphics/picture.h"
+#include "platform/imageio/image_destination.h"
+#include "platform/imageio/image_source.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QUrl>
+#include <QVariantMap>
+
+/**
+ * The operations on pictures, one file at a time, as scripts call them.
+ *
+ * An object keeps working values in its fields between calls; each operation overwrites the ones that it uses and
+ * nothing is cleared. Used by one caller at a time, on the main thread.
+ *
+ * Paths are absolute. An output prefix is normally a folder with "/" at its end: the source's name is put directly
+ * behind it. An output type is "original file type" or one of "public.png", "public.tiff", "public.bmp",
+ * "com.compuserve.gif", "public.jpeg", "public.jp2". Operations that write answer "OK", "Failed" or "Not Supported",
+ * write a whole file or none, and replace a file that is there.
+ */
+class ZtImageHandling : public QObject
+{
+    Q_OBJECT
+    // Controls of the crop and background sheets.
+    Q_PROPERTY(QObject *scImageCropPos MEMBER scImageCropPos)
+    Q_PROPERTY(QObject *tfCropXOffset MEMBER tfCropXOffset)
+    Q_PROPERTY(QObject *tfCropYOffset MEMBER tfCropYOffset)
+    Q_PROPERTY(QObject *tfCropXsize MEMBER tfCropXsize)
+    Q_PROPERTY(QObject *tfCropYsize MEMBER tfCropYsize)
+    Q_PROPERTY(QObject *tfCropPercentage MEMBER tfCropPercentage)
+    Q_PROPERTY(QObject *tfCropPixels MEMBER tfCropPixels)
+    Q_PROPERTY(QObject *tvCropType MEMBER tvCropType)
+    Q_PROPERTY(QObject *cbImageBgColorCheck MEMBER cbImageBgColorCheck)
+    Q_PROPERTY(QObject *cwImageBackgroundColor MEMBER cwImageBackgroundColor)
+    Q_PROPERTY(QObject *pubFutureFileFormat MEMBER pubFutureFileFormat)
+    Q_PROPERTY(QObject *tfBorderWidth MEMBER tfBorderWidth)
+    Q_PROPERTY(QObject *tfAddBorder MEMBER tfAddBorder)
+    Q_PROPERTY(QObject *tfAddBorderPx MEMBER tfAddBorderPx)
+    Q_PROPERTY(QObject *tfBorderColor MEMBER tfBorderColor)
+    Q_PROPERTY(QObject *ivPhoto MEMBER ivPhoto)
+    // Working values.
+    Q_PROPERTY(qint32 myXWOffset MEMBER myXWOffset)
+    Q_PROPERTY(qint32 myYHOffset MEMBER myYHOffset)
+    Q_PROPERTY(qint32 myXWOffsetPlus MEMBER myXWOffsetPlus)
+    Q_PROPERTY(qint32 myYHOffsetPlus MEMBER myYHOffsetPlus)
+    Q_PROPERTY(qint32 myXWSize MEMBER myXWSize)
+    Q_PROPERTY(qint32 myYHSize MEMBER myYHSize)
+    Q_PROPERTY(qint32 myImageCropPercentage MEMBER myImageCropPercentage)
+    Q_PROPERTY(qint32 myImageCropPixels MEMBER myImageCropPixels)
+    Q_PROPERTY(qint32 myCropType MEMBER myCropType)
+    Q_PROPERTY(qint32 newImgW MEMBER newImgW)
+    Q_PROPERTY(qint32 newImgH MEMBER newImgH)
+    Q_PROPERTY(qint32 myXRCval MEMBER myXRCval)
+    Q_PROPERTY(qint32 myImageCropPos MEMBER myImageCropPos)
+    Q_PROPERTY(qint32 cropBoxLine MEMBER cropBoxLine)
+    Q_PROPERTY(float myCompressionLevelFloat MEMBER myCompressionLevelFloat)
+    Q_PROPERTY(double myScaleFactor MEMBER myScaleFactor)
+    Q_PROPERTY(platform::Picture composedMasked MEMBER composedMasked)
+    Q_PROPERTY(platform::BitmapHandle imageMasked MEMBER imageMasked)
+    Q_PROPERTY(platform::BitmapHandle myImageRef READ currentImage WRITE setCurrentImage)
+    Q_PROPERTY(QString myFileType MEMBER myFileType)
+    Q_PROPERTY(QString fileExtension MEMBER fileExtension)
+    Q_PROPERTY(QString fileExtensionNSString MEMBER fileExtensionNSString)
+    Q_PROPERTY(QString fileUTI MEMBER fileUTI)
+    Q_PROPERTY(QVariant properties MEMBER properties)
+    Q_PROPERTY(platform::ImageSource imageCIImage MEMBER imageCIImage)
+    Q_PROPERTY(double degrees MEMBER degrees)
+    Q_PROPERTY(double wmAngle MEMBER wmAngle)
+    Q_PROPERTY(platform::BitmapHandle context MEMBER context)
+
+public:
+    Q_INVOKABLE explicit ZtImageHandling(QObject *parent = nullptr);
+
+    /** Opens a picture, to be seen upright; kept in imageCIImage. Null if it cannot be read. */
+    Q_INVOKABLE platform::ImageSource hNSURLtoCIImage(const QUrl &location);
+
+    /** The upright size as text, "4032x3024px"; "0x0px" for a file that cannot be read. */
+    Q_INVOKABLE QString hGetPixelSize(const QString &path);
+
+    /**
+     * Decodes image 0 as stored into myImageRef and answers a reference to that variable, whose content a later call
+     * replaces. Null if the file is missing or no picture; a reference to nothing if it holds no readable image.
+     */
+    Q_INVOKABLE platform::BitmapHandle hStringToCGImageRef(const QString &path);
+
+    /** The bitmap as a picture whose size in points is its pixel size. */
+    Q_INVOKABLE platform::Picture imageFromCGImageRef(const platform::BitmapHandle &imageRef);
+
+    /** Writes to a complete path. @p destinationProperties reach TIFF and JPEG files only; may be null. */
+    Q_INVOKABLE QString hSaveToNewImageFile(const QString &path, const QString &type,
+                                            const platform::BitmapHandle &imageRef,
+                                            const QVariantMap &destinationProperties);
+
+    /**
+     * Writes to @p basePath with the extension of the type behind it. @p sourceProperties reach TIFF files only.
+     * @p qualityCode "1" to "9" gives JPEG quality 0.1 to 0.9, anything else 1. @p sourceExtension is not used.
+     */
+    Q_INVOKABLE QString hSaveToNewImageFileMPR(const QString &basePath, const QString &type,
+                                               const platform::BitmapHandle &imageRef,
+                                               const QVariantMap &sourceProperties, const QString &qualityCode,
+                                               const QString &sourceExtension);
+
+    /**
+     * A resized copy, upright, aspect ratio kept. @p mode 0: @p number is the width, 1: the height, 2: the longest
+     * side, in pixels; 3: per cent; 4 and above: the size of the call before. "OK" without a file where no bitmap of
+     * that size can be made or the source cannot be read.
+     */
+    Q_INVOKABLE QString resizeImage(const QString &path, quint32 number, quint32 mode, const QString &prefix,
+                                    const QVariant &type, const QString &qualityCode);
+
+    /**
+     * A copy of exactly @p width by @p height pixels. @p mode 1 fills that size and cuts the excess evenly; any other
+     * stretches. "OK" without a file as resizeImage() has it.
+     */
+    Q_INVOKABLE QString resizeImage2(const QString &path, quint32 width, quint32 height, int mode,
+                                     const QString &prefix, const QVariant &type, const QString &qualityCode);
+
+private:
+    /** Where a picture goes, less the extension, and how. */
+    struct Target
+    {
+        QString basePath;
+        QString type;
+        QString qualityCode;
+    };
+
+    platform::BitmapHandle currentImage() const;
+    void setCurrentImage(const platform::BitmapHandle &imageRef);
+    /** Sets the type variables; false where the type is recognised and never written. */
+    bool decideType(const QString &path, const QVariant &requestedType);
+    void openUpright(const QString &path);
+    QString write(const Target &target, const platform::Bitmap &bitmap, const platform::EncodeOptions &ofSource);
+    QString writeDrawn(const Target &target, const platform::Result<platform::Bitmap> &drawn);
+
+    QPointer<QObject> scImageCropPos;
+    QPointer<QObject> tfCropXOffset;
+    QPointer<QObject> tfCropYOffset;
+    QPointer<QObject> tfCropXsize;
+    QPointer<QObject> tfCropYsize;
+    QPointer<QObject> tfCropPercentage;
+    QPointer<QObject> tfCropPixels;
+    QPointer<QObject> tvCropType;
+    QPointer<QObject> cbImageBgColorCheck;
+    QPointer<QObject> cwImageBackgroundColor;
+    QPointer<QObject> pubFutureFileFormat;
+    QPointer<QObject> tfBorderWidth;
+    QPointer<QObject> tfAddBorder;
+    QPointer<QObject> tfAddBorderPx;
+    QPointer<QObject> tfBorderColor;
+    QPointer<QObject> ivPhoto;
+    qint32 myXWOffset = 0;
+    qint32 myYHOffset = 0;
+    qint32 myXWOffsetPlus = 0;
+    qint32 myYHOffsetPlus = 0;
+    qint32 myXWSize = 0;
+    qint32 myYHSize = 0;
+    qint32 myImageCropPercentage = 0;
+    qint32 myImageCropPixels = 0;
+    qint32 myCropType = 0;
+    qint32 newImgW = 0;
+    qint32 newImgH = 0;
+    qint32 myXRCval = 0;
+    qint32 myImageCropPos = 0;
+    qint32 cropBoxLine = 0;
+    float myCompressionLevelFloat = 0;
+    double myScaleFactor = 0;
+    platform::Picture composedMasked;
+    platform::BitmapHandle imageMasked;
+    platform::BitmapHandle imageRefVariable;
+    QString myFileType;
+    QString fileExtension;
+    QString fileExtensionNSString;
+    QString fileUTI;
+    QVariant properties;
+    platform::ImageSource imageCIImage;
+    double degrees = 0;
+    double wmAngle = 0;
+    platform::BitmapHandle context;
+};

@@ -1,0 +1,88 @@
+#include "image/output.h"
+
+#include "platform/foundation/log.h"
+#include "platform/foundation/paths.h"
+
+#include <array>
+
+namespace image {
+namespace {
+
+struct TypeExtension
+{
+    QLatin1String type;
+    QLatin1String extension;
+};
+
+const std::array<TypeExtension, 6> typeExtensions = {{
+    {QLatin1String("public.png"), QLatin1String(".png")},
+    {QLatin1String("public.tiff"), QLatin1String(".tiff")},
+    {QLatin1String("public.bmp"), QLatin1String(".bmp")},
+    {QLatin1String("com.compuserve.gif"), QLatin1String(".gif")},
+    {QLatin1String("public.jpeg"), QLatin1String(".jpg")},
+    {QLatin1String("public.jp2"), QLatin1String(".jp2")},
+}};
+
+} // namespace
+
+QString statusOk()
+{
+    return QStringLiteral("OK");
+}
+
+QString statusFailed()
+{
+    return QStringLiteral("Failed");
+}
+
+QString statusNotSupported()
+{
+    return QStringLiteral("Not Supported");
+}
+
+bool keepsSourceType(const QVariant &requestedType)
+{
+    return requestedType.toString() == QLatin1String("original file type");
+}
+
+bool isNeverWritten(const QString &typeIdentifier)
+{
+    return typeIdentifier == QLatin1String("com.adobe.photoshop-image") ||
+           typeIdentifier == QLatin1String("com.adobe.pdf");
+}
+
+QString extensionForType(const QString &typeIdentifier)
+{
+    for (const TypeExtension &entry : typeExtensions)
+        if (typeIdentifier == entry.type)
+            return entry.extension;
+    return {};
+}
+
+double qualityForCode(const QString &code)
+{
+    const bool isOneToNine = code.size() == 1 && code[0] >= u'1' && code[0] <= u'9';
+    constexpr double steps = 10;
+    return isOneToNine ? (code[0].unicode() - u'0') / steps : 1;
+}
+
+QString outputBase(const QString &prefix, const QString &sourcePath)
+{
+    return prefix + platform::baseName(sourcePath);
+}
+
+QString writeAnswering(const QString &path, const QString &type, const platform::Bitmap &bitmap,
+                       const platform::EncodeOptions &options)
+{
+    if (isNeverWritten(type))
+        return statusNotSupported();
+    const std::optional<platform::FileFormat> format = platform::fileFormatForType(type);
+    if (!format)
+        return statusFailed();
+    if (platform::writeImageFile(path, bitmap, *format, options))
+        return statusOk();
+    platform::logLine(QStringLiteral("Failed to write image to ") + platform::locationText(path));
+    return statusFailed();
+}
+
+} // namespace image

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/graphics/bitmap.h"
+#include "platform/imageio/image_destination.h"
+
+#include <QString>
+#include <QVariant>
+
+/** What the operations on pictures answer, how they name what they write, and in which types and qualities. */
+namespace image {
+
+/** The words with which an operation answers. */
+QString statusOk();
+QString statusFailed();
+QString statusNotSupported();
+
+/** True for the request to keep the source's own type; any value is compared as text. */
+bool keepsSourceType(const QVariant &requestedType);
+
+/** Types that are recognised and never written. */
+bool isNeverWritten(const QString &typeIdentifier);
+
+/** ".png" for "public.png" and so on; empty for a type that is not written. */
+QString extensionForType(const QString &typeIdentifier);
+
+/** The JPEG quality factor of a quality code: "1" to "9" are 0.1 to 0.9, anything else is 1. */
+double qualityForCode(const QString &code);
+
+/** The output prefix with the source's name, less its extension, directly behind it. */
+QString outputBase(const QString &prefix, const QString &sourcePath);
+
+/**
+ * Writes one bitmap to a new file, replacing a file that is there.
+ *
+ * @param path    absolute, extension included; the folder must exist
+ * @param type    type identifier of one of the six written types
+ * @param bitmap  may be null, which fails
+ * @return "OK"; "Failed" if the file could not be written or the type is unknown; "Not Supported" for Photoshop and PDF
+ *
+ * Atomic: on failure what was at @p path is still there. Logs "Failed to write image to " and the location when
+ * encoding or writing fails, and nothing for a type that is not written.
+ */
+QString writeAnswering(const QString &path, const QString &type, const platform::Bitmap &bitmap,
+                       const platform::EncodeOptions &options);
+
+} // namespace image

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/graphics/bitmap.h"
+#include "platform/imageio/image_source.h"
+
+#include <QRect>
+
+namespace image {
+
+/** Image 0 of a file, upright, drawn at exactly @p size pixels. Fails where the picture cannot be read or made. */
+platform::Result<platform::Bitmap> resized(const platform::ImageSource &source, QSize size);
+
+/** As resized(), then cut to @p kept. Fails too where nothing of the picture lies in @p kept. */
+platform::Result<platform::Bitmap> resizedAndCut(const platform::ImageSource &source, QSize size, const QRect &kept);
+
+} // namespace image

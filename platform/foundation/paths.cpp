@@ -1,0 +1,40 @@
+#include "platform/foundation/paths.h"
+
+namespace platform {
+namespace {
+
+/** Where the dot of the extension stands in @p name, or -1. A name that begins with its only dot has no extension. */
+qsizetype extensionDot(const QString &name)
+{
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot > 0 ? dot : -1;
+}
+
+} // namespace
+
+QString lastPathComponent(const QString &path)
+{
+    qsizetype end = path.size();
+    while (end > 1 && path[end - 1] == u'/')
+        --end;
+    if (end == 1 && path[0] == u'/')
+        return path.left(1);
+    const qsizetype slash = path.lastIndexOf(u'/', end - path.size() - 1);
+    return path.mid(slash + 1, end - slash - 1);
+}
+
+QString pathExtension(const QString &path)
+{
+    const QString name = lastPathComponent(path);
+    const qsizetype dot = extensionDot(name);
+    return dot < 0 ? QString() : name.mid(dot + 1);
+}
+
+QString baseName(const QString &path)
+{
+    const QString name = lastPathComponent(path);
+    const qsizetype dot = extensionDot(name);
+    return dot < 0 ? name : name.left(dot);
+}
+
+} // namespace platform

@@ -1,0 +1,196 @@
+#include "platform/graphics/bitmap.h"
+
+#include "platform/graphics/pixels.h"
+
+#include <algorithm>
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+
+constexpr double defaultDpi = 72;
+
+double statedOrDefault(double dpi)
+{
+    return dpi > 0 ? dpi : defaultDpi;
+}
+
+/** The value of one component as 0 to 255. */
+int byteOf(const uchar *pixel, int band, VipsBandFormat format)
+{
+    switch (format) {
+    case VIPS_FORMAT_UCHAR:
+        return pixel[band];
+    case VIPS_FORMAT_USHORT: {
+        const auto value = reinterpret_cast<const quint16 *>(pixel)[band];
+        return value >> 8;
+    }
+    default:
+        return 0;
+    }
+}
+
+std::array<int, 4> rgbaOf(const VImage &image, int x, int y)
+{
+    const auto *data = static_cast<const uchar *>(image.data());
+    const size_t pixelBytes = VIPS_IMAGE_SIZEOF_PEL(image.get_image());
+    const uchar *pixel = data + (size_t(y) * size_t(image.width()) + size_t(x)) * pixelBytes;
+    const VipsBandFormat format = image.format();
+    const int bands = image.bands();
+    const bool isGrey = bands < 3;
+    const int green = isGrey ? 0 : 1;
+    const int blue = isGrey ? 0 : 2;
+    const bool hasAlpha = bands == 2 || bands >= 4;
+    return {byteOf(pixel, 0, format), byteOf(pixel, green, format), byteOf(pixel, blue, format),
+            hasAlpha ? byteOf(pixel, isGrey ? 1 : 3, format) : 255};
+}
+
+bool isRgbOrGreyOfIntegers(const VImage &image)
+{
+    const bool isInteger = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT;
+    const VipsInterpretation space = image.interpretation();
+    return isInteger && space != VIPS_INTERPRETATION_CMYK && space != VIPS_INTERPRETATION_LAB &&
+           space != VIPS_INTERPRETATION_LABS;
+}
+
+/** RGB or grey of 8 or 16 bits with nothing converted that is one already. */
+VImage asRgbOrGrey(const VImage &image)
+{
+    if (isRgbOrGreyOfIntegers(image))
+        return image;
+    return with8Bits(convertedToSrgb(image));
+}
+
+} // namespace
+
+Bitmap::Bitmap() = default;
+
+Bitmap::Bitmap(std::shared_ptr<const Pixels> pixels) : m_pixels(std::move(pixels)) {}
+
+Bitmap Bitmap::fromImage(const QImage &image)
+{
+    if (image.isNull())
+        return {};
+    initVips();
+    Resolution resolution;
+    constexpr double inchesPerMetre = 1 / 0.0254;
+    resolution.horizontal = image.dotsPerMeterX() / inchesPerMetre;
+    resolution.vertical = image.dotsPerMeterY() / inchesPerMetre;
+    return bitmapFromImage(imageFromQImage(image), resolution);
+}
+
+int Bitmap::width() const
+{
+    return m_pixels ? m_pixels->image.width() : 0;
+}
+
+int Bitmap::height() const
+{
+    return m_pixels ? m_pixels->image.height() : 0;
+}
+
+ColorModel Bitmap::colorModel() const
+{
+    if (!m_pixels)
+        return ColorModel::Rgb;
+    switch (m_pixels->image.interpretation()) {
+    case VIPS_INTERPRETATION_B_W:
+    case VIPS_INTERPRETATION_GREY16:
+        return ColorModel::Gray;
+    case VIPS_INTERPRETATION_CMYK:
+        return ColorModel::Cmyk;
+    case VIPS_INTERPRETATION_LAB:
+    case VIPS_INTERPRETATION_LABS:
+        return ColorModel::Lab;
+    default:
+        return ColorModel::Rgb;
+    }
+}
+
+int Bitmap::bandCount() const
+{
+    return m_pixels ? m_pixels->image.bands() : 0;
+}
+
+bool Bitmap::hasAlpha() const
+{
+    return m_pixels && m_pixels->image.has_alpha();
+}
+
+int Bitmap::bitsPerComponent() const
+{
+    constexpr int bitsPerByte = 8;
+    return m_pixels ? bytesPerComponent(m_pixels->image) * bitsPerByte : 0;
+}
+
+QByteArray Bitmap::iccProfile() const
+{
+    if (!m_pixels || m_pixels->image.get_typeof(VIPS_META_ICC_NAME) == 0)
+        return {};
+    size_t length = 0;
+    const void *profile = m_pixels->image.get_blob(VIPS_META_ICC_NAME, &length);
+    return {static_cast<const char *>(profile), qsizetype(length)};
+}
+
+double Bitmap::horizontalDpi() const
+{
+    return m_pixels ? statedOrDefault(m_pixels->resolution.horizontal) : defaultDpi;
+}
+
+double Bitmap::verticalDpi() const
+{
+    return m_pixels ? statedOrDefault(m_pixels->resolution.vertical) : defaultDpi;
+}
+
+std::optional<JpegQuantisation> Bitmap::jpegQuantisation() const
+{
+    return m_pixels ? m_pixels->quantisation : std::nullopt;
+}
+
+QSizeF Bitmap::pointSize() const
+{
+    constexpr double pointsPerInch = 72;
+    return {width() * pointsPerInch / horizontalDpi(), height() * pointsPerInch / verticalDpi()};
+}
+
+std::array<int, 4> Bitmap::pixel(int x, int y) const
+{
+    if (!m_pixels || x < 0 || y < 0 || x >= width() || y >= height())
+        return {0, 0, 0, 0};
+    if (isRgbOrGreyOfIntegers(m_pixels->image))
+        return rgbaOf(m_pixels->image, x, y);
+    try {
+        const VImage one = asRgbOrGrey(m_pixels->image.extract_area(x, y, 1, 1)).copy_memory();
+        return rgbaOf(one, 0, 0);
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+        return {0, 0, 0, 0};
+    }
+}
+
+QImage Bitmap::toScreenImage() const
+{
+    if (!m_pixels)
+        return {};
+    try {
+        return qImageFrom(with8Bits(convertedToSrgb(m_pixels->image)));
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+        return toRawImage();
+    }
+}
+
+QImage Bitmap::toRawImage() const
+{
+    if (!m_pixels)
+        return {};
+    try {
+        return qImageFrom(asRgbOrGrey(m_pixels->image));
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+        return {};
+    }
+}
+
+} // namespace platform

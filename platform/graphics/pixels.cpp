@@ -1,0 +1,261 @@
+#include "platform/graphics/pixels.h"
+
+#include <cmath>
+#include <cstring>
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+
+void ignoreMessage(const gchar *, GLogLevelFlags, const gchar *, gpointer) {}
+
+/** Metadata that says how the pixels are meant; all else is dropped from bitmaps. */
+constexpr const char *profileField = VIPS_META_ICC_NAME;
+
+bool profileFits(const VImage &image)
+{
+    if (image.get_typeof(profileField) == 0)
+        return false;
+    size_t length = 0;
+    const auto *profile = static_cast<const char *>(image.get_blob(profileField, &length));
+    constexpr size_t headerLength = 128;
+    if (length < headerLength)
+        return false;
+    const QByteArray space(profile + 16, 4);
+    switch (image.interpretation()) {
+    case VIPS_INTERPRETATION_B_W:
+    case VIPS_INTERPRETATION_GREY16:
+        return space == "GRAY";
+    case VIPS_INTERPRETATION_CMYK:
+        return space == "CMYK";
+    case VIPS_INTERPRETATION_LAB:
+    case VIPS_INTERPRETATION_LABS:
+        return space == "Lab ";
+    default:
+        return space == "RGB ";
+    }
+}
+
+void dropMetadata(VImage &image)
+{
+    const bool keepProfile = profileFits(image);
+    gchar **fields = vips_image_get_fields(image.get_image());
+    for (gchar **field = fields; field && *field; ++field) {
+        if (keepProfile && std::strcmp(*field, profileField) == 0)
+            continue;
+        vips_image_remove(image.get_image(), *field);
+    }
+    g_strfreev(fields);
+}
+
+} // namespace
+
+void initVips()
+{
+    static const bool ready = [] {
+        // Libraries below report odd files on standard error, which belongs to the log lines of this program.
+        g_log_set_handler("VIPS", GLogLevelFlags(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_INFO | G_LOG_LEVEL_MESSAGE),
+                          ignoreMessage, nullptr);
+        if (VIPS_INIT("quorlin") != 0)
+            return false;
+        // A file that was replaced must not be answered from memory.
+        vips_cache_set_max(0);
+        return true;
+    }();
+    if (!ready)
+        throw vips::VError("libvips could not be started");
+}
+
+QString takeVipsError(const vips::VError &error)
+{
+    const QString text = QString::fromUtf8(error.what()).trimmed();
+    vips_error_clear();
+    return text.section(u'\n', 0, 0);
+}
+
+VImage withKnownInterpretation(const VImage &image)
+{
+    VImage plain = image.coding() == VIPS_CODING_NONE ? image : image.colourspace(VIPS_INTERPRETATION_LAB);
+    switch (plain.interpretation()) {
+    case VIPS_INTERPRETATION_B_W:
+    case VIPS_INTERPRETATION_GREY16:
+    case VIPS_INTERPRETATION_sRGB:
+    case VIPS_INTERPRETATION_RGB16:
+    case VIPS_INTERPRETATION_CMYK:
+    case VIPS_INTERPRETATION_LAB:
+    case VIPS_INTERPRETATION_LABS:
+    case VIPS_INTERPRETATION_scRGB:
+        return plain;
+    case VIPS_INTERPRETATION_RGB:
+        return plain.copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
+    default:
+        break;
+    }
+    if (plain.bands() >= 3 && plain.interpretation() != VIPS_INTERPRETATION_MULTIBAND)
+        return plain.colourspace(VIPS_INTERPRETATION_sRGB);
+    const bool is16 = plain.format() == VIPS_FORMAT_USHORT;
+    const VipsInterpretation grey = is16 ? VIPS_INTERPRETATION_GREY16 : VIPS_INTERPRETATION_B_W;
+    const VipsInterpretation rgb = is16 ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB;
+    return plain.copy(VImage::option()->set("interpretation", plain.bands() < 3 ? grey : rgb));
+}
+
+int bytesPerComponent(const VImage &image)
+{
+    return int(vips_format_sizeof(image.format()));
+}
+
+Bitmap bitmapFromImage(const VImage &image, Resolution resolution, std::optional<JpegQuantisation> quantisation)
+{
+    VImage bare = withKnownInterpretation(image).copy();
+    dropMetadata(bare);
+    const VImage decoded = bare.copy_memory();
+    auto pixels = std::make_shared<Bitmap::Pixels>(Bitmap::Pixels{decoded, resolution, std::move(quantisation)});
+    return Bitmap(std::move(pixels));
+}
+
+VImage turnedUpright(const VImage &image, int orientation)
+{
+    switch (orientation) {
+    case 2:
+        return image.fliphor();
+    case 3:
+        return image.rot180();
+    case 4:
+        return image.flipver();
+    case 5:
+        return image.rot90().fliphor();
+    case 6:
+        return image.rot90();
+    case 7:
+        return image.rot270().fliphor();
+    case 8:
+        return image.rot270();
+    default:
+        return image;
+    }
+}
+
+VImage scaledTo(const VImage &image, QSize size)
+{
+    if (image.width() == size.width() && image.height() == size.height())
+        return image;
+    const double horizontal = double(size.width()) / image.width();
+    const double vertical = double(size.height()) / image.height();
+    // Box pre-shrinking (the gap) is only for shrinks so strong that the full filter would cost too much.
+    constexpr double strongestPureShrink = 8;
+    const bool isPure = std::min(horizontal, vertical) >= 1.0 / strongestPureShrink;
+    const bool hasAlpha = vips_image_hasalpha(image.get_image());
+    const VipsBandFormat format = image.format();
+    const VImage source = hasAlpha ? image.premultiply() : image;
+    VImage scaled = source.resize(
+        horizontal,
+        VImage::option()->set("vscale", vertical)->set("kernel", VIPS_KERNEL_LANCZOS3)->set("gap", isPure ? 0.0 : 2.0));
+    if (hasAlpha)
+        scaled = scaled.unpremultiply().rint().cast(format);
+    if (scaled.width() != size.width() || scaled.height() != size.height())
+        throw vips::VError("the picture could not be scaled to its exact size");
+    return scaled;
+}
+
+VImage convertedToSrgb(const VImage &image)
+{
+    const bool is16 = image.format() == VIPS_FORMAT_USHORT;
+    const bool hasProfile = image.get_typeof(profileField) != 0;
+    const bool isCmyk = image.interpretation() == VIPS_INTERPRETATION_CMYK;
+    if (hasProfile || isCmyk) {
+        auto *options = VImage::option()
+                            ->set("embedded", hasProfile)
+                            ->set("intent", VIPS_INTENT_RELATIVE)
+                            ->set("depth", is16 ? 16 : 8);
+        if (!hasProfile)
+            options->set("input_profile", "cmyk");
+        VImage converted = image.icc_transform("srgb", options).copy();
+        converted.remove(profileField);
+        return converted;
+    }
+    switch (image.interpretation()) {
+    case VIPS_INTERPRETATION_LAB:
+    case VIPS_INTERPRETATION_LABS:
+    case VIPS_INTERPRETATION_scRGB:
+        return image.colourspace(VIPS_INTERPRETATION_sRGB);
+    default:
+        return image;
+    }
+}
+
+VImage with8Bits(const VImage &image)
+{
+    if (image.format() == VIPS_FORMAT_UCHAR)
+        return image;
+    const bool isGrey = image.bands() < 3;
+    if (image.format() == VIPS_FORMAT_USHORT) {
+        return image.cast(VIPS_FORMAT_UCHAR, VImage::option()->set("shift", true))
+            .copy(VImage::option()->set("interpretation", isGrey ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB));
+    }
+    return image.colourspace(isGrey ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB).cast(VIPS_FORMAT_UCHAR);
+}
+
+VImage imageFromQImage(const QImage &image)
+{
+    const bool is16 = image.depth() > 32 || image.format() == QImage::Format_Grayscale16;
+    const bool isGrey = image.isGrayscale() && !image.hasAlphaChannel();
+    QImage::Format format = QImage::Format_RGB888;
+    int bands = 3;
+    if (isGrey) {
+        format = is16 ? QImage::Format_Grayscale16 : QImage::Format_Grayscale8;
+        bands = 1;
+    } else if (is16) {
+        format = QImage::Format_RGBA64;
+        bands = 4;
+    } else if (image.hasAlphaChannel()) {
+        format = QImage::Format_RGBA8888;
+        bands = 4;
+    }
+    const QImage rows = image.convertToFormat(format);
+    const size_t rowBytes = size_t(rows.width()) * size_t(bands) * (is16 ? 2U : 1U);
+    QByteArray packed(qsizetype(rowBytes) * rows.height(), Qt::Uninitialized);
+    for (int y = 0; y < rows.height(); ++y)
+        std::memcpy(packed.data() + qsizetype(rowBytes) * y, rows.constScanLine(y), rowBytes);
+    const VImage wrapped = VImage::new_from_memory(packed.data(), size_t(packed.size()), rows.width(), rows.height(),
+                                                   bands, is16 ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR);
+    const VipsInterpretation grey = is16 ? VIPS_INTERPRETATION_GREY16 : VIPS_INTERPRETATION_B_W;
+    const VipsInterpretation rgb = is16 ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB;
+    VImage owned = VImage::new_memory();
+    VImage typed = wrapped.copy(VImage::option()->set("interpretation", isGrey ? grey : rgb));
+    if (is16 && !isGrey && !image.hasAlphaChannel())
+        typed = typed.extract_band(0, VImage::option()->set("n", 3));
+    typed.write(owned);
+    return owned;
+}
+
+QImage qImageFrom(const VImage &image)
+{
+    const bool is16 = image.format() == VIPS_FORMAT_USHORT;
+    VImage layered = image;
+    if (image.bands() == 2)
+        layered = image.extract_band(0)
+                      .bandjoin(image.extract_band(0))
+                      .bandjoin(image.extract_band(0))
+                      .bandjoin(image.extract_band(1));
+    else if (is16 && image.bands() == 3)
+        layered = image.bandjoin_const({65535});
+    QImage::Format format = QImage::Format_Grayscale8;
+    if (layered.bands() == 1)
+        format = is16 ? QImage::Format_Grayscale16 : QImage::Format_Grayscale8;
+    else if (is16)
+        format = QImage::Format_RGBA64;
+    else
+        format = layered.bands() == 3 ? QImage::Format_RGB888 : QImage::Format_RGBA8888;
+    QImage result(layered.width(), layered.height(), format);
+    if (result.isNull())
+        return result;
+    const VImage memory = layered.copy_memory();
+    const auto *data = static_cast<const uchar *>(memory.data());
+    const size_t rowBytes = VIPS_IMAGE_SIZEOF_LINE(memory.get_image());
+    for (int y = 0; y < result.height(); ++y)
+        std::memcpy(result.scanLine(y), data + rowBytes * size_t(y), rowBytes);
+    return result;
+}
+
+} // namespace platform

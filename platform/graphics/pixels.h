@@ -1,0 +1,59 @@
+#pragma once
+
+// Private to the platform: what a Bitmap is made of. Not to be included from any other room.
+
+#include "platform/graphics/bitmap.h"
+
+#include <vips/vips8>
+
+namespace platform {
+
+struct Resolution
+{
+    double horizontal = 0; ///< dots per inch; 0 where none is stated
+    double vertical = 0;
+};
+
+struct Bitmap::Pixels
+{
+    vips::VImage image; ///< decoded, in memory; interpretation, profile and nothing else of metadata
+    Resolution resolution;
+    std::optional<JpegQuantisation> quantisation;
+};
+
+/** Makes the library ready for use; cheap when it is. Every entry of the platform that uses it calls this first. */
+void initVips();
+
+/** The text of a caught library error, and an empty error buffer for the next operation. */
+QString takeVipsError(const vips::VError &error);
+
+/** Bytes per component of an image's band format. */
+int bytesPerComponent(const vips::VImage &image);
+
+/** The image with an interpretation that fits its bands and format, where the file named none that can be worked in. */
+vips::VImage withKnownInterpretation(const vips::VImage &image);
+
+/** An image of any kind with pixels pulled into memory, metadata dropped but for a profile that fits its colours. */
+Bitmap bitmapFromImage(const vips::VImage &image, Resolution resolution = {},
+                       std::optional<JpegQuantisation> quantisation = {});
+
+/** Turns an image upright by an orientation of 1 to 8. */
+vips::VImage turnedUpright(const vips::VImage &image, int orientation);
+
+/** The image scaled to exactly @p size, still to be computed; see resample(). */
+vips::VImage scaledTo(const vips::VImage &image, QSize size);
+
+/** An image in sRGB: converted from its profile, or from CMYK or Lab; RGB and grey without a profile stay as they are.
+ */
+vips::VImage convertedToSrgb(const vips::VImage &image);
+
+/** An image with 8 bit components, from 16 bit or floating point ones. */
+vips::VImage with8Bits(const vips::VImage &image);
+
+/** RGB, RGBA, grey or grey and alpha pixels of a Qt image as an image that owns a copy of them. */
+vips::VImage imageFromQImage(const QImage &image);
+
+/** A Qt image with 8 or 16 bits from an RGB, RGBA or grey image; null if memory fails. */
+QImage qImageFrom(const vips::VImage &image);
+
+} // namespace platform

@@ -1,0 +1,70 @@
+#include "platform/graphics/resample.h"
+
+#include "platform/graphics/pixels.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+/** What one bitmap may take: 2 GiB, or half of the memory of a smaller machine. */
+qint64 memoryBudgetBytes()
+{
+    static const qint64 budget = [] {
+        constexpr qint64 most = qint64(2) << 30;
+        const qint64 physical = qint64(::sysconf(_SC_PHYS_PAGES)) * ::sysconf(_SC_PAGE_SIZE);
+        return physical > 0 ? std::min(most, physical / 2) : most;
+    }();
+    return budget;
+}
+
+} // namespace
+
+bool fitsMemoryBudget(qint64 width, qint64 height, int bands, int bytesPerComponent)
+{
+    constexpr qint64 longestSide = 10'000'000;
+    if (width < 1 || height < 1 || width > longestSide || height > longestSide)
+        return false;
+    return width * height <= memoryBudgetBytes() / (qint64(bands) * bytesPerComponent);
+}
+
+Result<Bitmap> resample(const Bitmap &bitmap, QSize size)
+{
+    if (bitmap.isNull())
+        return failure(ErrorCode::InvalidValue,
+                       QCoreApplication::translate("platform", "There is no picture to scale"));
+    const vips::VImage &image = bitmap.pixels().image;
+    if (!fitsMemoryBudget(size.width(), size.height(), image.bands(), bytesPerComponent(image)))
+        return failure(ErrorCode::TooLarge,
+                       QCoreApplication::translate("platform", "No picture of %1 x %2 pixels can be made")
+                           .arg(size.width())
+                           .arg(size.height()));
+    try {
+        const Bitmap::Pixels &pixels = bitmap.pixels();
+        return bitmapFromImage(scaledTo(image, size), pixels.resolution, pixels.quantisation);
+    } catch (const vips::VError &error) {
+        return failure(ErrorCode::TooLarge, takeVipsError(error));
+    }
+}
+
+Bitmap cut(const Bitmap &bitmap, const QRect &rect)
+{
+    const QRect kept = rect.intersected(QRect(QPoint(0, 0), bitmap.size()));
+    if (bitmap.isNull() || kept.isEmpty())
+        return {};
+    if (kept.size() == bitmap.size())
+        return bitmap;
+    try {
+        const Bitmap::Pixels &pixels = bitmap.pixels();
+        return bitmapFromImage(pixels.image.extract_area(kept.x(), kept.y(), kept.width(), kept.height()),
+                               pixels.resolution, pixels.quantisation);
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+        return {};
+    }
+}
+
+} // namespace platform

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QIODevice>
+#include <QSize>
+
+namespace platform {
+
+/** What the headers of a bitmap file claim. */
+struct BmpHeader
+{
+    QSize size;             ///< empty where the headers are damaged
+    qint64 bytesNeeded = 0; ///< length of the whole file, 0 where the rows are compressed
+};
+
+BmpHeader readBmpHeader(QIODevice &file);
+
+} // namespace platform

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class QIODevice;
+
+namespace platform {
+
+/** What a file is by its first bytes. */
+enum class Content { Unknown, Jpeg, Png, Tiff, Gif, Bmp, Webp, Heif, Avif, Jpeg2000, Photoshop, Pdf, Svg };
+
+/** Enough of a file's beginning to tell what it is. */
+constexpr int contentHeadBytes = 4096;
+
+/** Tells by @p head, the first contentHeadBytes of a file or all of a shorter one. */
+Content contentOf(const QByteArray &head);
+
+/** "public.jpeg" for Content::Jpeg and so on; empty for unknown content. */
+QString typeIdentifierOf(Content content);
+
+/**
+ * False where the end of the picture is missing although its header may be whole. Reads a few bytes of the end, or
+ * steps over the blocks of the file; formats without a mark of their end answer true.
+ */
+bool endIsThere(QIODevice &file, Content content);
+
+} // namespace platform

@@ -1,0 +1,130 @@
+#include "platform/imageio/encoders.h"
+
+#include <QBuffer>
+#include <QImageWriter>
+
+#include <cmath>
+#include <cstring>
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+
+QByteArray bytesOf(VipsBlob *blob)
+{
+    size_t length = 0;
+    const void *data = vips_blob_get(blob, &length);
+    QByteArray bytes(static_cast<const char *>(data), qsizetype(length));
+    vips_area_unref(VIPS_AREA(blob));
+    return bytes;
+}
+
+constexpr double millimetresPerInch = 25.4;
+constexpr double defaultDpi = 72;
+
+VImage withResolution(const VImage &image, Resolution resolution)
+{
+    const double horizontal = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
+    const double vertical = resolution.vertical > 0 ? resolution.vertical : defaultDpi;
+    return image.copy(
+        VImage::option()->set("xres", horizontal / millimetresPerInch)->set("yres", vertical / millimetresPerInch));
+}
+
+/** A PNG without its statement of resolution, which the encoder writes in any case. */
+QByteArray withoutPngResolution(QByteArray png)
+{
+    constexpr int frame = 12;
+    constexpr int payload = 9;
+    const qsizetype name = png.left(4096).indexOf("pHYs");
+    if (name > 4)
+        png.remove(name - 4, frame + payload);
+    return png;
+}
+
+} // namespace
+
+FormatAbilities abilitiesOf(FileFormat format)
+{
+    switch (format) {
+    case FileFormat::Png:
+        return {.profile = true, .alpha = true, .deep = true};
+    case FileFormat::Tiff:
+        return {.profile = true, .alpha = true, .deep = true, .cmyk = true, .lab = true, .floatingPoint = true};
+    case FileFormat::Jpeg:
+        return {.profile = true, .cmyk = true};
+    case FileFormat::Jpeg2000:
+        return {.alpha = true, .deep = true};
+    case FileFormat::Gif:
+        return {.alpha = true};
+    case FileFormat::Bmp:
+        break;
+    }
+    return {};
+}
+
+VImage preparedFor(const FormatAbilities &abilities, const VImage &image)
+{
+    const VipsInterpretation space = image.interpretation();
+    const bool isCmyk = space == VIPS_INTERPRETATION_CMYK;
+    const bool isLab = space == VIPS_INTERPRETATION_LAB || space == VIPS_INTERPRETATION_LABS;
+    const bool isFloat = image.format() != VIPS_FORMAT_UCHAR && image.format() != VIPS_FORMAT_USHORT && !isLab;
+    const bool hasProfile = image.get_typeof(VIPS_META_ICC_NAME) != 0;
+    VImage result = image;
+    if ((isCmyk && !abilities.cmyk) || (isLab && !abilities.lab) || (hasProfile && !abilities.profile) ||
+        (isFloat && !abilities.floatingPoint))
+        result = convertedToSrgb(result);
+    const bool isDeep = result.format() != VIPS_FORMAT_UCHAR;
+    if (isDeep && !abilities.deep)
+        result = with8Bits(result);
+    if (result.has_alpha() && !abilities.alpha) {
+        const double opaque = result.format() == VIPS_FORMAT_USHORT ? 65535 : 255;
+        result = result.flatten(VImage::option()->set("max_alpha", opaque));
+    }
+    return result;
+}
+
+QByteArray encodePng(const VImage &image, Resolution resolution)
+{
+    const QByteArray png = bytesOf(
+        withResolution(image, resolution)
+            .pngsave_buffer(VImage::option()->set("compression", 4)->set("filter", VIPS_FOREIGN_PNG_FILTER_UP)));
+    return resolution.horizontal > 0 ? png : withoutPngResolution(png);
+}
+
+QByteArray encodeTiff(const VImage &image, Resolution resolution)
+{
+    return bytesOf(withResolution(image, resolution)
+                       .tiffsave_buffer(VImage::option()
+                                            ->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_NONE)
+                                            ->set("resunit", VIPS_FOREIGN_TIFF_RESUNIT_INCH)));
+}
+
+QByteArray encodeGif(const VImage &image)
+{
+    return bytesOf(image.gifsave_buffer());
+}
+
+QByteArray encodeJpeg2000(const VImage &image)
+{
+    // Above this the difference to the source cannot be seen.
+    constexpr int visuallyLossless = 60;
+    return bytesOf(image.jp2ksave_buffer(
+        VImage::option()->set("Q", visuallyLossless)->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));
+}
+
+QByteArray encodeBmp(const VImage &image, Resolution resolution)
+{
+    QImage rows = qImageFrom(image);
+    constexpr double metresPerInch = 0.0254;
+    const double dpi = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
+    rows.setDotsPerMeterX(int(std::lround(dpi / metresPerInch)));
+    rows.setDotsPerMeterY(int(std::lround(dpi / metresPerInch)));
+    QBuffer buffer;
+    QImageWriter writer(&buffer, "bmp");
+    if (rows.isNull() || !writer.write(rows))
+        throw vips::VError(writer.errorString().toStdString());
+    return buffer.data();
+}
+
+} // namespace platform

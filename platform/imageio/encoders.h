@@ -1,0 +1,44 @@
+#pragma once
+
+// Private to the platform: one encoder a format. Pixels arrive as the format can hold them.
+
+#include "platform/graphics/pixels.h"
+#include "platform/imageio/image_destination.h"
+
+namespace platform {
+
+/** What a format can hold; the rest is converted before the encoder sees it. */
+struct FormatAbilities
+{
+    bool profile = false;
+    bool alpha = false;
+    bool deep = false; ///< 16 bits per component
+    bool cmyk = false;
+    bool lab = false;
+    bool floatingPoint = false;
+};
+
+FormatAbilities abilitiesOf(FileFormat format);
+
+/** The pixels in a form that @p abilities allow. Throws vips::VError. */
+vips::VImage preparedFor(const FormatAbilities &abilities, const vips::VImage &image);
+
+struct JpegSettings
+{
+    /** 0.01 to 1; without it the tables of the source are used, or 0.92 where there are none. */
+    std::optional<double> quality;
+    std::optional<JpegQuantisation> sourceTables;
+    Resolution resolution;
+};
+
+/** 8 bit grey, RGB or CMYK pixels in memory as a baseline JPEG with the profile of the image. */
+Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &settings);
+
+/** These throw vips::VError. */
+QByteArray encodePng(const vips::VImage &image, Resolution resolution);
+QByteArray encodeTiff(const vips::VImage &image, Resolution resolution);
+QByteArray encodeGif(const vips::VImage &image);
+QByteArray encodeJpeg2000(const vips::VImage &image);
+QByteArray encodeBmp(const vips::VImage &image, Resolution resolution);
+
+} // namespace platform

@@ -1,0 +1,95 @@
+#include "platform/imageio/image_destination.h"
+
+#include "platform/foundation/atomic_file.h"
+#include "platform/imageio/encoders.h"
+
+#include <QCoreApplication>
+
+#include <array>
+
+namespace platform {
+namespace {
+
+struct WrittenType
+{
+    QLatin1String identifier;
+    FileFormat format;
+};
+
+const std::array<WrittenType, 6> writtenTypes = {{
+    {QLatin1String("public.png"), FileFormat::Png},
+    {QLatin1String("public.tiff"), FileFormat::Tiff},
+    {QLatin1String("public.bmp"), FileFormat::Bmp},
+    {QLatin1String("com.compuserve.gif"), FileFormat::Gif},
+    {QLatin1String("public.jpeg"), FileFormat::Jpeg},
+    {QLatin1String("public.jp2"), FileFormat::Jpeg2000},
+}};
+
+Resolution writtenResolution(const Bitmap &bitmap, const EncodeOptions &options)
+{
+    return options.resolution == WriteResolution::Yes ? bitmap.pixels().resolution : Resolution();
+}
+
+Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
+{
+    const vips::VImage image = preparedFor(abilitiesOf(format), bitmap.pixels().image);
+    const Resolution resolution = writtenResolution(bitmap, options);
+    switch (format) {
+    case FileFormat::Png:
+        return encodePng(image, resolution);
+    case FileFormat::Tiff:
+        return encodeTiff(image, resolution);
+    case FileFormat::Bmp:
+        return encodeBmp(image, resolution);
+    case FileFormat::Gif:
+        return encodeGif(image);
+    case FileFormat::Jpeg:
+        return encodeJpeg(image.copy_memory(), {options.lossyQuality, bitmap.pixels().quantisation, resolution});
+    case FileFormat::Jpeg2000:
+        return encodeJpeg2000(image);
+    }
+    return failure(ErrorCode::Unsupported, QString());
+}
+
+bool holdsMetadata(FileFormat format)
+{
+    return format == FileFormat::Jpeg || format == FileFormat::Tiff;
+}
+
+} // namespace
+
+std::optional<FileFormat> fileFormatForType(const QString &typeIdentifier)
+{
+    for (const WrittenType &type : writtenTypes)
+        if (typeIdentifier == type.identifier)
+            return type.format;
+    return std::nullopt;
+}
+
+Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
+{
+    if (bitmap.isNull())
+        return failure(ErrorCode::InvalidValue,
+                       QCoreApplication::translate("platform", "There is no picture to write"));
+    try {
+        initVips();
+        const Result<QByteArray> encoded = encodePixels(bitmap, format, options);
+        if (!encoded || options.metadata.isEmpty() || !holdsMetadata(format))
+            return encoded;
+        return options.metadata.writtenInto(*encoded);
+    } catch (const vips::VError &error) {
+        return failure(
+            ErrorCode::WriteFailed,
+            QCoreApplication::translate("platform", "The picture could not be encoded: %1").arg(takeVipsError(error)));
+    }
+}
+
+Result<void> writeImageFile(const QString &path, const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
+{
+    const Result<QByteArray> encoded = encodeImage(bitmap, format, options);
+    if (!encoded)
+        return tl::unexpected<Error>(encoded.error());
+    return replaceFile(path, *encoded);
+}
+
+} // namespace platform

@@ -1,0 +1,66 @@
+#include "platform/imageio/opened_file.h"
+#include "platform/imageio/profile_name.h"
+
+namespace platform {
+namespace {
+
+QString colorModelName(const vips::VImage &image)
+{
+    switch (image.interpretation()) {
+    case VIPS_INTERPRETATION_B_W:
+    case VIPS_INTERPRETATION_GREY16:
+        return QStringLiteral("Gray");
+    case VIPS_INTERPRETATION_CMYK:
+        return QStringLiteral("CMYK");
+    case VIPS_INTERPRETATION_LAB:
+    case VIPS_INTERPRETATION_LABS:
+        return QStringLiteral("Lab");
+    default:
+        return QStringLiteral("RGB");
+    }
+}
+
+QByteArray embeddedProfile(const vips::VImage &image)
+{
+    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
+        return {};
+    size_t length = 0;
+    const void *profile = image.get_blob(VIPS_META_ICC_NAME, &length);
+    return {static_cast<const char *>(profile), qsizetype(length)};
+}
+
+void addPixelProperties(QVariantMap &properties, const vips::VImage &image)
+{
+    constexpr int bitsPerByte = 8;
+    properties.insert(QStringLiteral("PixelWidth"), image.width());
+    properties.insert(QStringLiteral("PixelHeight"), image.height());
+    properties.insert(QStringLiteral("Depth"), bytesPerComponent(image) * bitsPerByte);
+    properties.insert(QStringLiteral("ColorModel"), colorModelName(image));
+    properties.insert(QStringLiteral("HasAlpha"), image.has_alpha());
+    const QString name = profileName(embeddedProfile(image));
+    if (!name.isEmpty())
+        properties.insert(QStringLiteral("ProfileName"), name);
+}
+
+} // namespace
+
+QVariantMap ImageSource::properties() const
+{
+    if (!m_file)
+        return {};
+    QVariantMap properties = metadata().toProperties();
+    try {
+        const vips::VImage image = openImage(m_file->bytes, m_file->content);
+        addPixelProperties(properties, image);
+        const Resolution resolution = resolutionOf(image, m_file->bytes, m_file->content);
+        if (resolution.horizontal > 0) {
+            properties.insert(QStringLiteral("DPIWidth"), resolution.horizontal);
+            properties.insert(QStringLiteral("DPIHeight"), resolution.vertical);
+        }
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+    }
+    return properties;
+}
+
+} // namespace platform

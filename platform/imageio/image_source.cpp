@@ -1,0 +1,274 @@
+#include "platform/imageio/image_source.h"
+
+#include "platform/graphics/resample.h"
+#include "platform/imageio/opened_file.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <cmath>
+
+namespace platform {
+
+using vips::VImage;
+
+namespace {
+
+using File = ImageSource::File;
+
+QString text(const char *sentence)
+{
+    return QCoreApplication::translate("platform", sentence);
+}
+
+tl::unexpected<Error> unreadable(const QString &name, const QString &reason)
+{
+    return failure(ErrorCode::Unreadable, text("Cannot read %1: %2").arg(name, reason));
+}
+
+tl::unexpected<Error> tooLarge(const QString &name, QSize size)
+{
+    return failure(ErrorCode::TooLarge, text("Cannot read %1: %2 x %3 pixels are more than the memory allows")
+                                            .arg(name)
+                                            .arg(size.width())
+                                            .arg(size.height()));
+}
+
+bool isWithinBudget(const VImage &image)
+{
+    return fitsMemoryBudget(image.width(), image.height(), image.bands(), bytesPerComponent(image));
+}
+
+/** Containers that state a turn of their own have been obeyed by the decoder; another tag must not turn them again. */
+int statedOrientation(const VImage &image, const PictureBytes &bytes, Content content)
+{
+    switch (content) {
+    case Content::Heif:
+    case Content::Avif:
+    case Content::Pdf:
+    case Content::Svg:
+    case Content::Gif:
+    case Content::Bmp:
+    case Content::Photoshop:
+        return 1;
+    case Content::Png:
+    case Content::Jpeg2000: {
+        const int stated = metadataOf(bytes, content).orientation();
+        return stated == 0 ? 1 : stated;
+    }
+    default:
+        break;
+    }
+    const int stated = vips_image_get_orientation(image.get_image());
+    constexpr int lastOrientation = 8;
+    return stated >= 1 && stated <= lastOrientation ? stated : 1;
+}
+
+int pagesOf(const VImage &image, Content content)
+{
+    if (content == Content::Jpeg2000 || content == Content::Photoshop)
+        return 1; // what the decoder counts there are resolution levels and layers
+    return std::max(1, vips_image_get_n_pages(image.get_image()));
+}
+
+/** Content whose decoder would decode all of it just to tell the size. */
+bool hasPlainHeader(Content content)
+{
+    return content == Content::Bmp || content == Content::Photoshop;
+}
+
+Result<void> readPlainHeader(File &file)
+{
+    file.storedSize = claimedSize(file.bytes, file.content);
+    if (file.storedSize.isEmpty())
+        return unreadable(file.name(), text("its header is damaged"));
+    constexpr int deepRgba = 8;
+    if (!fitsMemoryBudget(file.storedSize.width(), file.storedSize.height(), deepRgba, 1))
+        return tooLarge(file.name(), file.storedSize);
+    return {};
+}
+
+Result<void> readHeader(File &file)
+{
+    initVips();
+    const VImage image = openImage(file.bytes, file.content);
+    file.storedSize = QSize(image.width(), image.height());
+    if (!isWithinBudget(image))
+        return tooLarge(file.name(), file.storedSize);
+    file.imageCount = pagesOf(image, file.content);
+    file.orientation = statedOrientation(image, file.bytes, file.content);
+    return {};
+}
+
+Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
+{
+    auto file = std::make_shared<File>();
+    file->bytes = std::move(bytes);
+    const std::unique_ptr<QIODevice> device = file->bytes.device();
+    if (!device) {
+        const bool exists = QFile::exists(file->bytes.path);
+        return failure(ErrorCode::NotFound,
+                       text("Cannot read %1: %2")
+                           .arg(file->name(), exists ? text("no permission") : text("there is no such file")));
+    }
+    file->content = contentOf(device->read(contentHeadBytes));
+    if (file->content == Content::Unknown)
+        return failure(ErrorCode::NotAPicture,
+                       text("Cannot read %1: %2").arg(file->name(), text("this is not a picture")));
+    if (!endIsThere(*device, file->content))
+        return unreadable(file->name(), text("the file is cut short"));
+    try {
+        const Result<void> known = hasPlainHeader(file->content) ? readPlainHeader(*file) : readHeader(*file);
+        if (!known)
+            return tl::unexpected<Error>(known.error());
+    } catch (const vips::VError &error) {
+        return unreadable(file->name(), takeVipsError(error));
+    }
+    return std::shared_ptr<const File>(std::move(file));
+}
+
+QSize turned(QSize size, int orientation)
+{
+    constexpr int firstOnItsSide = 5;
+    return orientation >= firstOnItsSide ? size.transposed() : size;
+}
+
+/** What is known of the resolution and of the JPEG tables, to travel with the pixels. */
+Bitmap finished(const File &file, const VImage &image)
+{
+    const std::optional<JpegHeader> header = jpegHeaderOf(file.bytes, file.content);
+    std::optional<JpegQuantisation> quantisation;
+    if (header)
+        quantisation = header->quantisation;
+    return bitmapFromImage(image, resolutionOf(image, file.bytes, file.content), quantisation);
+}
+
+/** The strongest shrink of the JPEG decoder that still leaves at least the size that is wanted. */
+int jpegShrinkFor(QSize stored, QSize wanted)
+{
+    for (const int shrink : {8, 4, 2})
+        if (stored.width() / shrink >= wanted.width() && stored.height() / shrink >= wanted.height())
+            return shrink;
+    return 1;
+}
+
+/** The decoder leaves out a last column or row that is not whole after shrinking: its neighbour stands in for it. */
+VImage withWholeEdges(const VImage &image, QSize stored, int shrink)
+{
+    const auto shrunk = [shrink](int side) { return (side + shrink - 1) / shrink; };
+    const QSize whole(shrunk(stored.width()), shrunk(stored.height()));
+    if (whole == QSize(image.width(), image.height()))
+        return image;
+    return image.embed(0, 0, whole.width(), whole.height(), VImage::option()->set("extend", VIPS_EXTEND_COPY));
+}
+
+LoadOptions loadOptionsFor(const File &file, QSize wanted)
+{
+    LoadOptions options;
+    if (file.content == Content::Jpeg)
+        options.jpegShrink = jpegShrinkFor(file.storedSize, wanted);
+    if (file.content == Content::Pdf || file.content == Content::Svg)
+        options.drawingScale = std::max(double(wanted.width()) / file.storedSize.width(),
+                                        double(wanted.height()) / file.storedSize.height());
+    return options;
+}
+
+} // namespace
+
+Metadata metadataOf(const PictureBytes &bytes, Content content)
+{
+    Q_UNUSED(content)
+    return bytes.path.isEmpty() ? Metadata::fromFileBytes(bytes.bytes) : Metadata::fromFile(bytes.path);
+}
+
+Result<ImageSource> ImageSource::open(const QString &path)
+{
+    return opened({path, {}}).map([](std::shared_ptr<const File> file) { return ImageSource(std::move(file)); });
+}
+
+Result<ImageSource> ImageSource::fromData(const QByteArray &bytes)
+{
+    return opened({{}, bytes}).map([](std::shared_ptr<const File> file) { return ImageSource(std::move(file)); });
+}
+
+QString ImageSource::path() const
+{
+    return m_file ? m_file->bytes.path : QString();
+}
+
+QString ImageSource::typeIdentifier() const
+{
+    return m_file ? typeIdentifierOf(m_file->content) : QString();
+}
+
+int ImageSource::imageCount() const
+{
+    return m_file ? m_file->imageCount : 0;
+}
+
+QSize ImageSource::storedSize() const
+{
+    return m_file ? m_file->storedSize : QSize(0, 0);
+}
+
+QSize ImageSource::uprightSize() const
+{
+    return m_file ? turned(m_file->storedSize, m_file->orientation) : QSize(0, 0);
+}
+
+int ImageSource::orientation() const
+{
+    return m_file ? m_file->orientation : 1;
+}
+
+Metadata ImageSource::metadata() const
+{
+    return m_file ? metadataOf(m_file->bytes, m_file->content) : Metadata();
+}
+
+Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const
+{
+    if (!m_file || options.index < 0 || options.index >= m_file->imageCount)
+        return failure(ErrorCode::InvalidValue, text("There is no image %1").arg(options.index));
+    try {
+        initVips();
+        LoadOptions load;
+        load.page = options.index;
+        VImage image = openImage(m_file->bytes, m_file->content, load);
+        if (!isWithinBudget(image))
+            return tooLarge(m_file->name(), QSize(image.width(), image.height()));
+        if (options.orientation == Orientation::Upright && m_file->orientation > 1)
+            image = turnedUpright(image.copy_memory(), m_file->orientation);
+        return finished(*m_file, image);
+    } catch (const vips::VError &error) {
+        return unreadable(m_file->name(), takeVipsError(error));
+    }
+}
+
+Result<Bitmap> ImageSource::decodeScaled(QSize size) const
+{
+    if (!m_file)
+        return failure(ErrorCode::InvalidValue, text("There is no picture to scale"));
+    const QSize wanted = turned(size, m_file->orientation);
+    if (wanted.width() < 1 || wanted.height() < 1)
+        return failure(ErrorCode::InvalidValue,
+                       text("No picture of %1 x %2 pixels can be made").arg(size.width()).arg(size.height()));
+    try {
+        initVips();
+        const LoadOptions load = loadOptionsFor(*m_file, wanted);
+        VImage image = withKnownInterpretation(openImage(m_file->bytes, m_file->content, load));
+        if (load.jpegShrink > 1)
+            image = withWholeEdges(image, m_file->storedSize, load.jpegShrink);
+        if (!fitsMemoryBudget(wanted.width(), wanted.height(), image.bands(), bytesPerComponent(image)))
+            return failure(ErrorCode::TooLarge,
+                           text("No picture of %1 x %2 pixels can be made").arg(size.width()).arg(size.height()));
+        image = scaledTo(image, wanted);
+        if (m_file->orientation > 1)
+            image = turnedUpright(image.copy_memory(), m_file->orientation);
+        return finished(*m_file, image);
+    } catch (const vips::VError &error) {
+        return unreadable(m_file->name(), takeVipsError(error));
+    }
+}
+
+} // namespace platform

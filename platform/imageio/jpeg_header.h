@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/graphics/bitmap.h"
+
+#include <QIODevice>
+
+namespace platform {
+
+/** What a JPEG's header tells beyond its size. */
+struct JpegHeader
+{
+    JpegQuantisation quantisation;
+    int componentCount = 0;
+    double horizontalDpi = 0; ///< of the JFIF segment; 0 where there is none or it names no unit
+    double verticalDpi = 0;
+};
+
+/** Reads the tables before the first scan. None where they cannot be read. */
+std::optional<JpegHeader> readJpegHeader(QIODevice &file);
+
+} // namespace platform

@@ -1,0 +1,149 @@
+#include "platform/imageio/loaders.h"
+
+#include "platform/graphics/resample.h"
+#include "platform/imageio/bmp_header.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QtEndian>
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+using vips::VOption;
+using vips::VSource;
+
+VSource sourceOf(const PictureBytes &source)
+{
+    if (!source.path.isEmpty())
+        return VSource::new_from_file(QFile::encodeName(source.path).constData());
+    return VSource::new_from_memory(source.bytes.constData(), size_t(source.bytes.size()));
+}
+
+VOption *commonOptions()
+{
+    return VImage::option()->set("access", VIPS_ACCESS_SEQUENTIAL)->set("fail_on", VIPS_FAIL_ON_ERROR);
+}
+
+/** Reads through Qt; the caller has checked the size the file claims. */
+VImage loadThroughQt(const PictureBytes &source, const char *format)
+{
+    const std::unique_ptr<QIODevice> device = source.device();
+    QImageReader::setAllocationLimit(0); // sizes are checked against a budget of ours
+    QImageReader reader(device.get(), format);
+    const QImage image = reader.read();
+    if (image.isNull())
+        throw vips::VError(reader.errorString().toStdString());
+    constexpr double millimetresPerMetre = 1000;
+    return imageFromQImage(image).copy(VImage::option()
+                                           ->set("xres", image.dotsPerMeterX() / millimetresPerMetre)
+                                           ->set("yres", image.dotsPerMeterY() / millimetresPerMetre));
+}
+
+/** The general reader of many formats, for the one that no other reads; the size is known to be in the budget. */
+VImage loadPhotoshop(const PictureBytes &source)
+{
+    const std::unique_ptr<QIODevice> device = source.device();
+    const QByteArray bytes = device ? device->readAll() : QByteArray();
+    const std::unique_ptr<VipsBlob, void (*)(VipsBlob *)> blob(
+        vips_blob_copy(bytes.constData(), size_t(bytes.size())),
+        [](VipsBlob *area) { vips_area_unref(VIPS_AREA(area)); });
+    // Its first page is the merged picture, the others are layers.
+    return VImage::magickload_buffer(blob.get(), VImage::option()->set("page", 0));
+}
+
+/** Some old compressions are read by Qt's decoder only, and in one piece. */
+VImage loadOldTiff(const PictureBytes &source, const vips::VError &reason)
+{
+    const std::unique_ptr<QIODevice> device = source.device();
+    const QSize size = QImageReader(device.get(), "tiff").size();
+    constexpr int rgba = 4;
+    if (!fitsMemoryBudget(size.width(), size.height(), rgba, 1))
+        throw reason;
+    vips_error_clear();
+    return loadThroughQt(source, "tiff");
+}
+
+VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
+{
+    try {
+        return VImage::tiffload_source(sourceOf(source), commonOptions()->set("page", options.page));
+    } catch (const vips::VError &error) {
+        if (options.page > 0)
+            throw;
+        return loadOldTiff(source, error);
+    }
+}
+
+} // namespace
+
+std::unique_ptr<QIODevice> PictureBytes::device() const
+{
+    std::unique_ptr<QIODevice> result;
+    if (path.isEmpty()) {
+        auto buffer = std::make_unique<QBuffer>();
+        buffer->setData(bytes);
+        result = std::move(buffer);
+    } else {
+        result = std::make_unique<QFile>(path);
+    }
+    if (!result->open(QIODevice::ReadOnly))
+        result.reset();
+    return result;
+}
+
+VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options)
+{
+    switch (content) {
+    case Content::Jpeg:
+        return VImage::jpegload_source(sourceOf(source), commonOptions()->set("shrink", options.jpegShrink));
+    case Content::Png:
+        return VImage::pngload_source(sourceOf(source), commonOptions());
+    case Content::Tiff:
+        return loadTiff(source, options);
+    case Content::Gif:
+        return VImage::gifload_source(sourceOf(source), commonOptions()->set("page", options.page));
+    case Content::Bmp:
+        return loadThroughQt(source, "bmp");
+    case Content::Webp:
+        return VImage::webpload_source(sourceOf(source), commonOptions()->set("page", options.page));
+    case Content::Heif:
+    case Content::Avif:
+        return VImage::heifload_source(sourceOf(source), commonOptions()->set("page", options.page));
+    case Content::Jpeg2000:
+        return VImage::jp2kload_source(sourceOf(source), commonOptions());
+    case Content::Photoshop:
+        return loadPhotoshop(source);
+    case Content::Pdf:
+        return VImage::pdfload_source(sourceOf(source),
+                                      commonOptions()->set("page", options.page)->set("scale", options.drawingScale));
+    case Content::Svg:
+        return VImage::svgload_source(sourceOf(source), commonOptions()->set("scale", options.drawingScale));
+    case Content::Unknown:
+        break;
+    }
+    throw vips::VError("not a picture");
+}
+
+QSize claimedSize(const PictureBytes &source, Content content)
+{
+    const std::unique_ptr<QIODevice> device = source.device();
+    if (!device)
+        return {};
+    if (content == Content::Bmp)
+        return readBmpHeader(*device).size;
+    constexpr int photoshopHeaderBytes = 26;
+    const QByteArray head = device->read(photoshopHeaderBytes);
+    if (content != Content::Photoshop || head.size() < photoshopHeaderBytes)
+        return {};
+    const auto height = qFromBigEndian<quint32>(head.constData() + 14);
+    const auto width = qFromBigEndian<quint32>(head.constData() + 18);
+    constexpr quint32 largestSide = 300'000; // of the format
+    if (width > largestSide || height > largestSide)
+        return {};
+    return {int(width), int(height)};
+}
+
+} // namespace platform

@@ -1,0 +1,43 @@
+#pragma once
+
+// Private to the platform: one decoder a kind of content.
+
+#include "platform/graphics/pixels.h"
+#include "platform/imageio/content.h"
+
+#include <QIODevice>
+
+#include <memory>
+
+namespace platform {
+
+/** Where a picture's bytes come from: a file, or memory when the path is empty. */
+struct PictureBytes
+{
+    QString path;
+    QByteArray bytes;
+
+    /** A device over the bytes, open for reading; null if the file cannot be opened. */
+    std::unique_ptr<QIODevice> device() const;
+};
+
+/** How an image is opened. */
+struct LoadOptions
+{
+    int page = 0;
+    /** JPEG: 1, 2, 4 or 8, decoded at that fraction of the size. */
+    int jpegShrink = 1;
+    /** PDF and SVG: drawn at this multiple of the size. */
+    double drawingScale = 1;
+};
+
+/**
+ * Opens image @p options.page of the file for one pass from top to bottom; pixels are decoded as they are pulled, and a
+ * damaged or cut picture fails then. Throws vips::VError.
+ */
+vips::VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options = {});
+
+/** The size a bitmap file or a Photoshop file claims, read without its decoder; empty for other content. */
+QSize claimedSize(const PictureBytes &source, Content content);
+
+} // namespace platform

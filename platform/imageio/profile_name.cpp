@@ -1,0 +1,61 @@
+#include "platform/imageio/profile_name.h"
+
+#include <QStringDecoder>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace platform {
+namespace {
+
+constexpr qsizetype headerBytes = 128;
+constexpr qsizetype tagEntryBytes = 12;
+
+/** A number at @p position; 0 outside the bytes. */
+quint32 numberAt(const QByteArray &bytes, qsizetype position)
+{
+    const bool isInside = position >= 0 && position + 4 <= bytes.size();
+    return isInside ? qFromBigEndian<quint32>(bytes.constData() + position) : 0;
+}
+
+/** The bytes of the description tag. */
+QByteArray descriptionTag(const QByteArray &profile)
+{
+    constexpr quint32 mostTags = 100;
+    const quint32 count = std::min(numberAt(profile, headerBytes), mostTags);
+    for (quint32 tag = 0; tag < count; ++tag) {
+        const qsizetype entry = headerBytes + 4 + qsizetype(tag) * tagEntryBytes;
+        if (profile.mid(entry, 4) == "desc")
+            return profile.mid(qsizetype(numberAt(profile, entry + 4)), qsizetype(numberAt(profile, entry + 8)));
+    }
+    return {};
+}
+
+/** The first text of a list of texts in several languages. */
+QString localisedText(const QByteArray &tag)
+{
+    const auto length = qsizetype(numberAt(tag, 20));
+    const auto offset = qsizetype(numberAt(tag, 24));
+    QStringDecoder decode(QStringDecoder::Utf16BE);
+    return decode(tag.mid(offset, length));
+}
+
+QString plainText(const QByteArray &tag)
+{
+    const auto length = qsizetype(numberAt(tag, 8));
+    return QString::fromLatin1(tag.mid(12, length));
+}
+
+} // namespace
+
+QString profileName(const QByteArray &iccProfile)
+{
+    const QByteArray tag = descriptionTag(iccProfile);
+    QString name = tag.startsWith("mluc") ? localisedText(tag) : plainText(tag);
+    const qsizetype end = name.indexOf(QChar::Null);
+    if (end >= 0)
+        name.truncate(end);
+    return name.trimmed();
+}
+
+} // namespace platform

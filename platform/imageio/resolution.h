@@ -1,0 +1,19 @@
+#pragma once
+
+// Private to the platform: where each kind of file states its resolution.
+
+#include "platform/imageio/jpeg_header.h"
+#include "platform/imageio/loaders.h"
+
+namespace platform {
+
+/** The tables and the density of a JPEG; none for other content. */
+std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content content);
+
+/**
+ * The resolution a file states, in dots per inch; 0 where it states none or gives a number without a unit.
+ * Order of trust: the container's own statement (PNG, bitmap, Photoshop), then EXIF or TIFF, then JFIF.
+ */
+Resolution resolutionOf(const vips::VImage &image, const PictureBytes &bytes, Content content);
+
+} // namespace platform

@@ -1,0 +1,186 @@
+#include "platform/imageio/image_destination.h"
+#include "platform/imageio/image_source.h"
+#include "tests/support/expected_pictures.h"
+#include "tests/support/test_pictures.h"
+
+#include <QTest>
+
+#include <cmath>
+
+using platform::Bitmap;
+using platform::ColorModel;
+using platform::FileFormat;
+using platform::ImageSource;
+using platform::Result;
+
+namespace {
+
+Bitmap corpusBitmap(const char *name)
+{
+    const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromUtf8(name));
+    return source ? source->decode().value_or(Bitmap()) : Bitmap();
+}
+
+Bitmap through(const Bitmap &bitmap, FileFormat format, const platform::EncodeOptions &options = {})
+{
+    const Result<QByteArray> bytes = platform::encodeImage(bitmap, format, options);
+    const Result<ImageSource> source = bytes ? ImageSource::fromData(*bytes) : Result<ImageSource>(ImageSource());
+    return source ? source->decode().value_or(Bitmap()) : Bitmap();
+}
+
+/** Mean difference of the screen colours of two bitmaps of one size. */
+double difference(const Bitmap &one, const Bitmap &other)
+{
+    const QImage first = one.toScreenImage().convertToFormat(QImage::Format_RGB32);
+    const QImage second = other.toScreenImage().convertToFormat(QImage::Format_RGB32);
+    double sum = 0;
+    for (int y = 0; y < first.height(); ++y)
+        for (int x = 0; x < first.width(); ++x) {
+            const QRgb a = first.pixel(x, y);
+            const QRgb b = second.pixel(x, y);
+            sum += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+        }
+    return sum / (3.0 * first.width() * first.height());
+}
+
+const QList<FileFormat> allFormats = {FileFormat::Png,  FileFormat::Tiff, FileFormat::Bmp,
+                                      FileFormat::Gif,  FileFormat::Jpeg, FileFormat::Jpeg2000};
+
+} // namespace
+
+class ImageDestinations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writesEveryReadablePictureInEveryFormat_data()
+    {
+        QTest::addColumn<QString>("path");
+        for (const char *folder : {"formats/", "orientation/g4", "orientation/hopper", "orientation/rot"})
+            for (const expected::Row &row : expected::rows(QString::fromLatin1(folder)))
+                if (row.isDecodable && row.upright.width() * row.upright.height() < 2'000'000)
+                    QTest::newRow(qPrintable(row.name)) << row.path;
+    }
+
+    void writesEveryReadablePictureInEveryFormat()
+    {
+        QFETCH(QString, path);
+        const Result<ImageSource> source = ImageSource::open(path);
+        if (!source)
+            QSKIP("no decoder reads it");
+        const Bitmap bitmap = source->decode().value_or(Bitmap());
+        QVERIFY(!bitmap.isNull());
+        for (const FileFormat format : allFormats) {
+            const Bitmap again = through(bitmap, format);
+            QVERIFY2(!again.isNull(), qPrintable(QString::number(int(format))));
+            QCOMPARE(again.size(), bitmap.size());
+        }
+    }
+
+    void losesNothingInLosslessFormats_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        for (const char *name : {"formats/tiff_16bit_RGB.tiff", "formats/tiff_16bit_RGBa.tiff", "formats/pngsuite-basn4a16.png",
+                                 "formats/pngsuite-basn0g16.png", "formats/rgba.png", "formats/hopper_gray.jpg",
+                                 "formats/hopper.iccprofile.tif"})
+            QTest::newRow(name) << QByteArray(name);
+    }
+
+    void losesNothingInLosslessFormats()
+    {
+        QFETCH(QByteArray, name);
+        const Bitmap bitmap = corpusBitmap(name.constData());
+        for (const FileFormat format : {FileFormat::Png, FileFormat::Tiff}) {
+            const Bitmap again = through(bitmap, format);
+            QCOMPARE(again.bitsPerComponent(), bitmap.bitsPerComponent());
+            QCOMPARE(again.bandCount(), bitmap.bandCount());
+            QCOMPARE(again.hasAlpha(), bitmap.hasAlpha());
+            QCOMPARE(again.iccProfile(), bitmap.iccProfile());
+            QCOMPARE(again.toRawImage(), bitmap.toRawImage());
+        }
+    }
+
+    void keepsTheProfileWhereTheFormatHoldsOne()
+    {
+        const Bitmap bitmap = corpusBitmap("formats/icc_profile_big.jpg");
+        QVERIFY(bitmap.iccProfile().size() > 100'000);
+        for (const FileFormat format : {FileFormat::Png, FileFormat::Tiff, FileFormat::Jpeg})
+            QCOMPARE(through(bitmap, format).iccProfile(), bitmap.iccProfile());
+    }
+
+    void keepsTheColoursWhereTheFormatHoldsNoProfile_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        for (const char *name : {"orientation/landscape_2.jpg", "formats/pil_sample_cmyk.jpg", "formats/hopper.Lab.tif",
+                                 "formats/tiff_strip_cmyk_jpeg.tif"})
+            QTest::newRow(name) << QByteArray(name);
+    }
+
+    void keepsTheColoursWhereTheFormatHoldsNoProfile()
+    {
+        QFETCH(QByteArray, name);
+        const Bitmap bitmap = corpusBitmap(name.constData());
+        QVERIFY(!bitmap.isNull());
+        const Bitmap bmp = through(bitmap, FileFormat::Bmp);
+        QVERIFY(bmp.iccProfile().isEmpty());
+        QVERIFY(difference(bitmap, bmp) < 1);
+        QVERIFY(difference(bitmap, through(bitmap, FileFormat::Png)) < 1);
+        QVERIFY(difference(bitmap, through(bitmap, FileFormat::Jpeg2000)) < 2);
+    }
+
+    void keepsInksWhereTheFormatHoldsThem()
+    {
+        const Bitmap bitmap = corpusBitmap("formats/pil_sample_cmyk.jpg");
+        QCOMPARE(int(bitmap.colorModel()), int(ColorModel::Cmyk));
+        for (const FileFormat format : {FileFormat::Jpeg, FileFormat::Tiff}) {
+            const Bitmap again = through(bitmap, format);
+            QCOMPARE(int(again.colorModel()), int(ColorModel::Cmyk));
+            QVERIFY(difference(bitmap, again) < 2);
+        }
+        QCOMPARE(int(through(bitmap, FileFormat::Png).colorModel()), int(ColorModel::Rgb));
+    }
+
+    void keepsTheQuantisationOfAJpegUnlessAQualityIsNamed()
+    {
+        const Bitmap bitmap = corpusBitmap("exif-real/no-metadata.jpg");
+        const Bitmap again = through(bitmap, FileFormat::Jpeg);
+        QVERIFY(bitmap.jpegQuantisation().has_value() && again.jpegQuantisation().has_value());
+        QCOMPARE(again.jpegQuantisation()->tables[0], bitmap.jpegQuantisation()->tables[0]);
+        QCOMPARE(again.jpegQuantisation()->horizontalSampling, bitmap.jpegQuantisation()->horizontalSampling);
+        platform::EncodeOptions coarse;
+        coarse.lossyQuality = 0.1;
+        QVERIFY(through(bitmap, FileFormat::Jpeg, coarse).jpegQuantisation()->tables[0] != bitmap.jpegQuantisation()->tables[0]);
+    }
+
+    void writesTheResolutionWhenAsked()
+    {
+        const Bitmap bitmap = corpusBitmap("dpi/jfif-300dpi.jpg");
+        QCOMPARE(bitmap.horizontalDpi(), 300.0);
+        platform::EncodeOptions withResolution;
+        withResolution.resolution = platform::WriteResolution::Yes;
+        for (const FileFormat format : {FileFormat::Png, FileFormat::Tiff, FileFormat::Jpeg, FileFormat::Bmp}) {
+            QCOMPARE(std::lround(through(bitmap, format, withResolution).horizontalDpi()), 300L);
+            QCOMPARE(std::lround(through(bitmap, format).horizontalDpi()), 72L);
+        }
+    }
+
+    void looksLikeTheSourceInEveryFormat()
+    {
+        const Bitmap bitmap = corpusBitmap("formats/cat.jpg");
+        const QList<QPair<FileFormat, double>> most = {{FileFormat::Png, 0.0},  {FileFormat::Tiff, 0.0},
+                                                       {FileFormat::Bmp, 1.0},  {FileFormat::Jpeg, 1.5},
+                                                       {FileFormat::Jpeg2000, 2.0}, {FileFormat::Gif, 8.0}};
+        for (const auto &[format, limit] : most) {
+            const double measured = difference(bitmap, through(bitmap, format));
+            QVERIFY2(measured <= limit, qPrintable(QStringLiteral("%1: %2").arg(int(format)).arg(measured)));
+        }
+    }
+
+    void failsForNoPicture()
+    {
+        QVERIFY(!platform::encodeImage(Bitmap(), FileFormat::Png).has_value());
+    }
+};
+
+QTEST_GUILESS_MAIN(ImageDestinations)
+#include "tst_image_destination.moc"

@@ -1,0 +1,212 @@
+#include "platform/imageio/image_source.h"
+#include "tests/support/expected_pictures.h"
+#include "tests/support/test_pictures.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using platform::Bitmap;
+using platform::ErrorCode;
+using platform::ImageSource;
+using platform::Result;
+
+namespace {
+
+/** Its second component is smaller than the first, which none of our decoders reads. */
+const QString oddGeometry = QStringLiteral("formats/00r1_graya_la.jp2");
+
+void rowsOf(const QString &folder)
+{
+    for (const expected::Row &row : expected::rows(folder))
+        QTest::newRow(qPrintable(row.name)) << row.name;
+}
+
+expected::Row rowNamed(const QString &name)
+{
+    return expected::rows(name).value(0);
+}
+
+} // namespace
+
+class ImageSources : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsTheSharedPictures() { QVERIFY(expected::rows().size() > 100); }
+
+    void tellsTheFacts_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *folder : {"formats/", "orientation/", "dpi/", "exif-real/"})
+            rowsOf(QString::fromLatin1(folder));
+    }
+
+    void tellsTheFacts()
+    {
+        QFETCH(QString, name);
+        const expected::Row row = rowNamed(name);
+        const Result<ImageSource> source = ImageSource::open(row.path);
+        if (!row.isDecodable || name == oddGeometry) {
+            QVERIFY(!source || !source->decode());
+            return;
+        }
+        QVERIFY2(source.has_value(), source ? "" : qPrintable(source.error().message));
+        // A container that turns its picture itself has its stored size behind that turn.
+        const bool isTurnedByContainer = row.format == QLatin1String("HEIC") || row.format == QLatin1String("AVIF");
+        const bool isDrawn = row.format == QLatin1String("PDF");
+        if (!isDrawn)
+            QCOMPARE(source->storedSize(), isTurnedByContainer ? row.upright : row.stored);
+        QCOMPARE(source->uprightSize(), row.upright);
+        QCOMPARE(source->imageCount(), std::max(1, row.images));
+        const Result<Bitmap> bitmap = source->decode();
+        QVERIFY2(bitmap.has_value(), bitmap ? "" : qPrintable(bitmap.error().message));
+        QCOMPARE(bitmap->size(), row.upright);
+    }
+
+    void tellsTheResolution_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *folder : {"dpi/", "formats/", "exif-real/"})
+            rowsOf(QString::fromLatin1(folder));
+    }
+
+    void tellsTheResolution()
+    {
+        QFETCH(QString, name);
+        const expected::Row row = rowNamed(name);
+        const Result<ImageSource> source = ImageSource::open(row.path);
+        const Result<Bitmap> bitmap = source ? source->decode() : Result<Bitmap>(Bitmap());
+        if (!row.isDecodable || !bitmap || bitmap->isNull())
+            QSKIP("not a picture that can be decoded");
+        const double stated = row.dpi > 0 ? row.dpi : 72;
+        QVERIFY2(std::abs(bitmap->horizontalDpi() - stated) < 0.01, qPrintable(QString::number(bitmap->horizontalDpi())));
+    }
+
+    void readsStoredAndUprightPixels()
+    {
+        const QString path = QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/portrait_6.jpg");
+        const Result<ImageSource> source = ImageSource::open(path);
+        QVERIFY(source.has_value());
+        platform::DecodeOptions asStored;
+        asStored.orientation = platform::Orientation::AsStored;
+        const Bitmap stored = source->decode(asStored).value_or(Bitmap());
+        const Bitmap upright = source->decode().value_or(Bitmap());
+        QCOMPARE(stored.size(), QSize(600, 450));
+        QCOMPARE(upright.size(), QSize(450, 600));
+        // Orientation 6: the stored top row is the upright right column.
+        for (const int step : {0, 100, 449})
+            QCOMPARE(upright.pixel(449 - step, 20), stored.pixel(20, step));
+    }
+
+    void doesNotOpenWhatIsNoWholePicture_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("code");
+        const auto row = [](const char *name, ErrorCode code) {
+            QTest::newRow(name) << QString::fromLatin1(name) << int(code);
+        };
+        row("missing.jpg", ErrorCode::NotFound);
+        row("zero-byte.jpg", ErrorCode::NotAPicture);
+        row("text-named.jpg", ErrorCode::NotAPicture);
+        row("truncated-real-camera.jpg", ErrorCode::Unreadable);
+        row("truncated_image.png", ErrorCode::Unreadable);
+        row("truncated.gif", ErrorCode::Unreadable);
+        row("broken_data_stream.png", ErrorCode::Unreadable);
+        row("libpng-huge_IDAT.png", ErrorCode::Unreadable);
+        row("decompression_bomb.gif", ErrorCode::Unreadable);
+        row("bomb-60000x60000.png", ErrorCode::TooLarge);
+        row("bomb-100000x100000.tif", ErrorCode::TooLarge);
+        row("bomb-30000x30000.bmp", ErrorCode::Unreadable);
+        row("17000x17000.avif", ErrorCode::Unreadable);
+    }
+
+    void doesNotOpenWhatIsNoWholePicture()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, code);
+        const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/broken/") + name);
+        QVERIFY(!source.has_value());
+        QCOMPARE(int(source.error().code), code);
+        QVERIFY(source.error().message.contains(name));
+    }
+
+    void refusesEveryCutOfAPicture_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"formats/cat.jpg", "formats/rgba.png", "formats/flower.webp",
+                                 "formats/bmpsuite-q-rgba32.bmp", "formats/16bit.cropped.tif"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void refusesEveryCutOfAPicture()
+    {
+        QFETCH(QString, name);
+        const QByteArray whole = pictures::bytesOf(QStringLiteral(QUORLIN_TEST_CORPUS "/") + name);
+        QVERIFY(whole.size() > 100);
+        for (const double share : {0.0, 0.01, 0.1, 0.3, 0.5, 0.7}) {
+            const Result<ImageSource> source = ImageSource::fromData(whole.left(qsizetype(double(whole.size()) * share)));
+            QVERIFY2(!source || !source->decode(), qPrintable(QString::number(share)));
+        }
+    }
+
+    void refusesAnImageThatIsNotThere()
+    {
+        const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/formats/g4-multi.tiff"));
+        QVERIFY(source.has_value());
+        platform::DecodeOptions options;
+        for (const int index : {-1, 3, 1000}) {
+            options.index = index;
+            QCOMPARE(int(source->decode(options).error().code), int(ErrorCode::InvalidValue));
+        }
+        options.index = 2;
+        QVERIFY(source->decode(options).has_value());
+    }
+
+    void scalesToExactlyTheSizeItIsAskedFor_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QSize>("size");
+        for (const char *name : {"exif-real/canon_hdr_NO.jpg", "formats/IMG_5195.HEIC", "formats/rgba.png",
+                                 "formats/tiff_16bit_RGBa.tiff", "formats/hopper.Lab.tif", "formats/pil_sample_cmyk.jpg",
+                                 "formats/logo.svg", "formats/ISO_12233-reschart.pdf", "orientation/g4_orientation_6.tif"})
+            for (const QSize size : {QSize(1, 1), QSize(37, 200), QSize(400, 31), QSize(900, 900)})
+                QTest::addRow("%s to %dx%d", name, size.width(), size.height()) << QString::fromLatin1(name) << size;
+    }
+
+    void scalesToExactlyTheSizeItIsAskedFor()
+    {
+        QFETCH(QString, name);
+        QFETCH(QSize, size);
+        const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + name);
+        QVERIFY(source.has_value());
+        const Result<Bitmap> scaled = source->decodeScaled(size);
+        QVERIFY2(scaled.has_value(), scaled ? "" : qPrintable(scaled.error().message));
+        QCOMPARE(scaled->size(), size);
+    }
+
+    void scalesWithoutShifting()
+    {
+        // Sides that are no multiple of 8: the decoder's own shrinking must not move or lose the edges.
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("halves.jpg"));
+        QImage halves = pictures::plain(1607, 1205, Qt::black, QImage::Format_RGB32);
+        for (int y = 0; y < halves.height(); ++y)
+            for (int x = halves.width() / 2; x < halves.width(); ++x)
+                halves.setPixel(x, y, qRgb(255, 255, 255));
+        QVERIFY(halves.save(path, "jpg", 95));
+        const Result<ImageSource> source = ImageSource::open(path);
+        for (const int width : {201, 200, 150, 101, 50}) {
+            const Bitmap scaled = source->decodeScaled(QSize(width, width)).value_or(Bitmap());
+            double white = 0;
+            for (int x = 0; x < width; ++x)
+                white += scaled.pixel(x, width / 2)[0] / 255.0;
+            QVERIFY2(std::abs(white - width / 2.0) < 0.6, qPrintable(QString::number(white)));
+            QVERIFY(scaled.pixel(width - 1, width - 1)[0] > 250);
+            QVERIFY(scaled.pixel(0, 0)[0] < 5);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(ImageSources)
+#include "tst_image_source.moc"
