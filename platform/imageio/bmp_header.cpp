@@ -11,8 +11,7 @@ constexpr int fileHeaderBytes = 14;
 constexpr quint32 oldHeaderBytes = 12;
 constexpr quint32 usualHeaderBytes = 40;
 
-template<typename T>
-T numberAt(const QByteArray &bytes, int position)
+template<typename T> T numberAt(const QByteArray &bytes, int position)
 {
     return qFromLittleEndian<T>(bytes.constData() + position);
 }

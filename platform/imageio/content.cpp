@@ -44,31 +44,6 @@ QByteArray bytesAt(QIODevice &file, qint64 position, qint64 count)
     return isInside && file.seek(position) ? file.read(count) : QByteArray();
 }
 
-/** The position behind the header of the first scan, or -1. */
-qint64 startOfJpegScan(QIODevice &file)
-{
-    qint64 position = 2;
-    for (;;) {
-        const QByteArray head = bytesAt(file, position, 4);
-        if (head.size() < 4)
-            return -1;
-        if (uchar(head[0]) != 0xFF) {
-            ++position; // some writers leave bytes between the segments
-            continue;
-        }
-        const uchar marker = uchar(head[1]);
-        const bool standsAlone = marker == 0xFF || marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
-        if (standsAlone) {
-            position += marker == 0xFF ? 1 : 2;
-            continue;
-        }
-        const qint64 next = position + 2 + qFromBigEndian<quint16>(head.constData() + 2);
-        if (marker == 0xDA)
-            return next;
-        position = next;
-    }
-}
-
 /** Looks for the end mark from the end of the file on, since other bytes may follow it. */
 bool jpegEndIsThere(QIODevice &file)
 {
@@ -142,6 +117,30 @@ bool webpEndIsThere(QIODevice &file)
 }
 
 } // namespace
+
+qint64 startOfJpegScan(QIODevice &file)
+{
+    qint64 position = 2;
+    for (;;) {
+        const QByteArray head = bytesAt(file, position, 4);
+        if (head.size() < 4)
+            return -1;
+        if (uchar(head[0]) != 0xFF) {
+            ++position; // some writers leave bytes between the segments
+            continue;
+        }
+        const uchar marker = uchar(head[1]);
+        const bool standsAlone = marker == 0xFF || marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
+        if (standsAlone) {
+            position += marker == 0xFF ? 1 : 2;
+            continue;
+        }
+        const qint64 next = position + 2 + qFromBigEndian<quint16>(head.constData() + 2);
+        if (marker == 0xDA)
+            return next;
+        position = next;
+    }
+}
 
 Content contentOf(const QByteArray &head)
 {

@@ -25,4 +25,7 @@ QString typeIdentifierOf(Content content);
  */
 bool endIsThere(QIODevice &file, Content content);
 
+/** The position behind the header of a JPEG's first scan; -1 where there is none. */
+qint64 startOfJpegScan(QIODevice &file);
+
 } // namespace platform

@@ -175,12 +175,6 @@ LoadOptions loadOptionsFor(const File &file, QSize wanted)
 
 } // namespace
 
-Metadata metadataOf(const PictureBytes &bytes, Content content)
-{
-    Q_UNUSED(content)
-    return bytes.path.isEmpty() ? Metadata::fromFileBytes(bytes.bytes) : Metadata::fromFile(bytes.path);
-}
-
 Result<ImageSource> ImageSource::open(const QString &path)
 {
     return opened({path, {}}).map([](std::shared_ptr<const File> file) { return ImageSource(std::move(file)); });

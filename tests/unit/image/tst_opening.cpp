@@ -26,7 +26,8 @@ private Q_SLOTS:
         for (int index = meta.propertyOffset(); index < meta.propertyCount(); ++index)
             names << QString::fromLatin1(meta.property(index).name());
         const QString wanted = QStringLiteral(
-            "scImageCropPos tfCropXOffset tfCropYOffset tfCropXsize tfCropYsize tfCropPercentage tfCropPixels tvCropType "
+            "scImageCropPos tfCropXOffset tfCropYOffset tfCropXsize tfCropYsize tfCropPercentage tfCropPixels "
+            "tvCropType "
             "cbImageBgColorCheck cwImageBackgroundColor pubFutureFileFormat tfBorderWidth tfAddBorder tfAddBorderPx "
             "tfBorderColor ivPhoto myXWOffset myYHOffset myXWOffsetPlus myYHOffsetPlus myXWSize myYHSize "
             "myImageCropPercentage myImageCropPixels myCropType newImgW newImgH myXRCval myImageCropPos cropBoxLine "
@@ -61,7 +62,8 @@ private Q_SLOTS:
     void readsTheStoredPixels()
     {
         ZtImageHandling service;
-        const BitmapHandle tall = service.hStringToCGImageRef(QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/landscape_6.jpg"));
+        const BitmapHandle tall =
+            service.hStringToCGImageRef(QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/landscape_6.jpg"));
         QCOMPARE(tall.bitmap().size(), QSize(450, 600));
     }
 
@@ -89,7 +91,8 @@ private Q_SLOTS:
     void makesAPictureOfThePixelSize()
     {
         ZtImageHandling service;
-        const BitmapHandle bitmap = service.hStringToCGImageRef(QStringLiteral(QUORLIN_TEST_CORPUS "/dpi/tiff-300dpi-inch.tif"));
+        const BitmapHandle bitmap =
+            service.hStringToCGImageRef(QStringLiteral(QUORLIN_TEST_CORPUS "/dpi/tiff-300dpi-inch.tif"));
         QCOMPARE(qRound(bitmap.bitmap().pointSize().width() * 1000), 48000);
         const platform::Picture made = service.imageFromCGImageRef(bitmap);
         QCOMPARE(made.size(), QSizeF(200, 150));

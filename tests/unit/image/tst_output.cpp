@@ -58,7 +58,8 @@ private Q_SLOTS:
     void putsTheNameDirectlyBehindThePrefix()
     {
         QCOMPARE(image::outputBase(QStringLiteral("/out/"), QStringLiteral("/in/a.b.JPG")), QStringLiteral("/out/a.b"));
-        QCOMPARE(image::outputBase(QStringLiteral("/out/small-"), QStringLiteral("/in/a.jpg")), QStringLiteral("/out/small-a"));
+        QCOMPARE(image::outputBase(QStringLiteral("/out/small-"), QStringLiteral("/in/a.jpg")),
+                 QStringLiteral("/out/small-a"));
     }
 
     void recognisesWhatIsNeverWritten()

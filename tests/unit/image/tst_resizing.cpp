@@ -170,10 +170,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         const QString corpus = QStringLiteral(QUORLIN_TEST_CORPUS "/broken/");
-        for (const char *name : {"zero-byte.jpg", "text-named.jpg", "truncated-real-camera.jpg", "truncated.gif",
-                                 "truncated_image.png", "bomb-60000x60000.png", "bomb-100000x100000.tif",
-                                 "bomb-30000x30000.bmp", "17000x17000.avif", "decompression_bomb.gif",
-                                 "crash-4f085cc12ece8cde18758d42608bed6a2a2cfb1c.tif", "no such file.png"})
+        for (const char *name :
+             {"zero-byte.jpg", "text-named.jpg", "truncated-real-camera.jpg", "truncated.gif", "truncated_image.png",
+              "bomb-60000x60000.png", "bomb-100000x100000.tif", "bomb-30000x30000.bmp", "17000x17000.avif",
+              "decompression_bomb.gif", "crash-4f085cc12ece8cde18758d42608bed6a2a2cfb1c.tif", "no such file.png"})
             QTest::newRow(name) << corpus + QString::fromLatin1(name);
     }
 
@@ -242,7 +242,8 @@ private Q_SLOTS:
         ZtImageHandling service;
         const QString path = source(pictures::gradient(8, 8));
         LogCapture log;
-        QCOMPARE(service.resizeImage(path, 4, 0, m_folder.filePath(QStringLiteral("none/")), png, {}), QStringLiteral("Failed"));
+        QCOMPARE(service.resizeImage(path, 4, 0, m_folder.filePath(QStringLiteral("none/")), png, {}),
+                 QStringLiteral("Failed"));
         QVERIFY(log.text().startsWith("Failed to write image to file:///"));
     }
 
@@ -270,15 +271,18 @@ private Q_SLOTS:
             return; // its colours are a little different from those of the others
         for (const QPoint corner : {QPoint(3, 3), QPoint(56, 3), QPoint(3, 41), QPoint(56, 41)})
             for (size_t part = 0; part < 3; ++part)
-                QVERIFY(std::abs(one.pixel(corner.x(), corner.y())[part] - other.pixel(corner.x(), corner.y())[part]) <= 12);
+                QVERIFY(std::abs(one.pixel(corner.x(), corner.y())[part] - other.pixel(corner.x(), corner.y())[part]) <=
+                        12);
     }
 
     void answersTheSizeOfWhatCannotBeRead()
     {
         ZtImageHandling service;
         QCOMPARE(service.hGetPixelSize(m_folder.filePath(QStringLiteral("missing.jpg"))), QStringLiteral("0x0px"));
-        QCOMPARE(service.hGetPixelSize(QStringLiteral(QUORLIN_TEST_CORPUS "/broken/zero-byte.jpg")), QStringLiteral("0x0px"));
-        QVERIFY(service.hNSURLtoCIImage(QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("missing.jpg")))).isNull());
+        QCOMPARE(service.hGetPixelSize(QStringLiteral(QUORLIN_TEST_CORPUS "/broken/zero-byte.jpg")),
+                 QStringLiteral("0x0px"));
+        QVERIFY(
+            service.hNSURLtoCIImage(QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("missing.jpg")))).isNull());
     }
 
     void keepsAColourThatIsEverywhereTheSame_data()

@@ -35,7 +35,8 @@ private Q_SLOTS:
         QTest::newRow("the hundredfold wraps in 32 bits")
             << 42949673U << 0U << wide << QSize(42949673, 0) << 4.0 / 4000.0;
         QTest::newRow("largest number") << 4294967295U << 0U << wide << QSize(-1, 32212253) << 4294967196.0 / 4000.0;
-        QTest::newRow("largest per cent is not wrapped") << 4294967295U << 3U << QSizeF(10, 20) << QSize(429496729, 858993459) << -1.0;
+        QTest::newRow("largest per cent is not wrapped")
+            << 4294967295U << 3U << QSizeF(10, 20) << QSize(429496729, 858993459) << -1.0;
     }
 
     void scalesByOneNumber()
@@ -82,7 +83,8 @@ private Q_SLOTS:
             << 1000U << 1000U << QSizeF(4000, 3000) << QSize(1333, 1000) << QPoint(166, 0);
         QTest::newRow("square box on a tall picture")
             << 1000U << 1000U << QSizeF(3000, 4000) << QSize(1000, 1333) << QPoint(0, 166);
-        QTest::newRow("a tie takes the width") << 1000U << 750U << QSizeF(4000, 3000) << QSize(1000, 750) << QPoint(0, 0);
+        QTest::newRow("a tie takes the width")
+            << 1000U << 750U << QSizeF(4000, 3000) << QSize(1000, 750) << QPoint(0, 0);
         QTest::newRow("odd excess") << 100U << 100U << QSizeF(103, 100) << QSize(103, 100) << QPoint(1, 0);
         QTest::newRow("a drawn side that truncates below the box")
             << 1000U << 1000U << QSizeF(74, 74) << QSize(1000, 999) << QPoint(0, 0);

@@ -51,14 +51,16 @@ private Q_SLOTS:
         QFETCH(QString, extension);
         QFETCH(bool, isExact);
         ZtImageHandling service;
-        QCOMPARE(service.hSaveToNewImageFileMPR(at("picture"), type, sample(), {}, QStringLiteral("9"), {}), QStringLiteral("OK"));
+        QCOMPARE(service.hSaveToNewImageFileMPR(at("picture"), type, sample(), {}, QStringLiteral("9"), {}),
+                 QStringLiteral("OK"));
         QCOMPARE(files(), QStringList{QStringLiteral("picture.") + extension});
         const Picture written = Picture::fromFile(at("picture.") + extension);
         QCOMPARE(written.bitmap().size(), QSize(64, 48));
         const std::array<int, 4> wanted = {20, 30, 50, 255};
         const std::array<int, 4> pixel = written.bitmap().pixel(20, 30);
         for (size_t part = 0; part < wanted.size(); ++part)
-            QVERIFY2(std::abs(pixel[part] - wanted[part]) <= (isExact ? 0 : 24), qPrintable(QString::number(pixel[part])));
+            QVERIFY2(std::abs(pixel[part] - wanted[part]) <= (isExact ? 0 : 24),
+                     qPrintable(QString::number(pixel[part])));
         const platform::Result<platform::ImageSource> source = platform::ImageSource::open(at("picture.") + extension);
         QVERIFY(source.has_value());
         QCOMPARE(source->typeIdentifier(), type);
@@ -67,7 +69,8 @@ private Q_SLOTS:
     void writesToTheWholePathItIsGiven()
     {
         ZtImageHandling service;
-        QCOMPARE(service.hSaveToNewImageFile(at("odd.name"), QStringLiteral("public.png"), sample(), {}), QStringLiteral("OK"));
+        QCOMPARE(service.hSaveToNewImageFile(at("odd.name"), QStringLiteral("public.png"), sample(), {}),
+                 QStringLiteral("OK"));
         QCOMPARE(files(), QStringList{QStringLiteral("odd.name")});
     }
 
@@ -99,7 +102,8 @@ private Q_SLOTS:
         ZtImageHandling service;
         LogCapture log;
         const QString path = at("no such folder/a b");
-        QCOMPARE(service.hSaveToNewImageFileMPR(path, QStringLiteral("public.png"), sample(), {}, {}, {}), QStringLiteral("Failed"));
+        QCOMPARE(service.hSaveToNewImageFileMPR(path, QStringLiteral("public.png"), sample(), {}, {}, {}),
+                 QStringLiteral("Failed"));
         const QByteArray location = QUrl::fromLocalFile(path + QStringLiteral(".png")).toEncoded();
         QCOMPARE(log.text(), "Failed to write image to " + location + '\n');
         QVERIFY(location.contains("a%20b"));
@@ -109,7 +113,8 @@ private Q_SLOTS:
     {
         ZtImageHandling service;
         LogCapture log;
-        QCOMPARE(service.hSaveToNewImageFile(at("a.png"), QStringLiteral("public.png"), BitmapHandle(), {}), QStringLiteral("Failed"));
+        QCOMPARE(service.hSaveToNewImageFile(at("a.png"), QStringLiteral("public.png"), BitmapHandle(), {}),
+                 QStringLiteral("Failed"));
         QVERIFY(log.text().startsWith("Failed to write image to file:///"));
         QCOMPARE(files(), QStringList());
     }
@@ -120,7 +125,8 @@ private Q_SLOTS:
         QFile old(at("a.png"));
         QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
         old.close();
-        QCOMPARE(service.hSaveToNewImageFile(at("a.png"), QStringLiteral("public.png"), sample(), {}), QStringLiteral("OK"));
+        QCOMPARE(service.hSaveToNewImageFile(at("a.png"), QStringLiteral("public.png"), sample(), {}),
+                 QStringLiteral("OK"));
         QVERIFY(!Picture::fromFile(at("a.png")).isNull());
         QCOMPARE(files().size(), 1);
     }
@@ -132,7 +138,8 @@ private Q_SLOTS:
         QVERIFY(original.open(QIODevice::WriteOnly) && original.write("precious") == 8);
         original.close();
         QVERIFY(QFile::link(at("original.png"), at("link.png")));
-        QCOMPARE(service.hSaveToNewImageFile(at("link.png"), QStringLiteral("public.png"), sample(), {}), QStringLiteral("OK"));
+        QCOMPARE(service.hSaveToNewImageFile(at("link.png"), QStringLiteral("public.png"), sample(), {}),
+                 QStringLiteral("OK"));
         QCOMPARE(pictures::bytesOf(at("original.png")), QByteArray("precious"));
         QVERIFY(!QFileInfo(at("link.png")).isSymLink());
     }

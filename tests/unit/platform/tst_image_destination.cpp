@@ -17,7 +17,8 @@ namespace {
 
 Bitmap corpusBitmap(const char *name)
 {
-    const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromUtf8(name));
+    const Result<ImageSource> source =
+        ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromUtf8(name));
     return source ? source->decode().value_or(Bitmap()) : Bitmap();
 }
 
@@ -43,8 +44,8 @@ double difference(const Bitmap &one, const Bitmap &other)
     return sum / (3.0 * first.width() * first.height());
 }
 
-const QList<FileFormat> allFormats = {FileFormat::Png,  FileFormat::Tiff, FileFormat::Bmp,
-                                      FileFormat::Gif,  FileFormat::Jpeg, FileFormat::Jpeg2000};
+const QList<FileFormat> allFormats = {FileFormat::Png, FileFormat::Tiff, FileFormat::Bmp,
+                                      FileFormat::Gif, FileFormat::Jpeg, FileFormat::Jpeg2000};
 
 } // namespace
 
@@ -80,9 +81,9 @@ private Q_SLOTS:
     void losesNothingInLosslessFormats_data()
     {
         QTest::addColumn<QByteArray>("name");
-        for (const char *name : {"formats/tiff_16bit_RGB.tiff", "formats/tiff_16bit_RGBa.tiff", "formats/pngsuite-basn4a16.png",
-                                 "formats/pngsuite-basn0g16.png", "formats/rgba.png", "formats/hopper_gray.jpg",
-                                 "formats/hopper.iccprofile.tif"})
+        for (const char *name : {"formats/tiff_16bit_RGB.tiff", "formats/tiff_16bit_RGBa.tiff",
+                                 "formats/pngsuite-basn4a16.png", "formats/pngsuite-basn0g16.png", "formats/rgba.png",
+                                 "formats/hopper_gray.jpg", "formats/hopper.iccprofile.tif"})
             QTest::newRow(name) << QByteArray(name);
     }
 
@@ -149,7 +150,8 @@ private Q_SLOTS:
         QCOMPARE(again.jpegQuantisation()->horizontalSampling, bitmap.jpegQuantisation()->horizontalSampling);
         platform::EncodeOptions coarse;
         coarse.lossyQuality = 0.1;
-        QVERIFY(through(bitmap, FileFormat::Jpeg, coarse).jpegQuantisation()->tables[0] != bitmap.jpegQuantisation()->tables[0]);
+        QVERIFY(through(bitmap, FileFormat::Jpeg, coarse).jpegQuantisation()->tables[0] !=
+                bitmap.jpegQuantisation()->tables[0]);
     }
 
     void writesTheResolutionWhenAsked()
@@ -167,8 +169,8 @@ private Q_SLOTS:
     void looksLikeTheSourceInEveryFormat()
     {
         const Bitmap bitmap = corpusBitmap("formats/cat.jpg");
-        const QList<QPair<FileFormat, double>> most = {{FileFormat::Png, 0.0},  {FileFormat::Tiff, 0.0},
-                                                       {FileFormat::Bmp, 1.0},  {FileFormat::Jpeg, 1.5},
+        const QList<QPair<FileFormat, double>> most = {{FileFormat::Png, 0.0},      {FileFormat::Tiff, 0.0},
+                                                       {FileFormat::Bmp, 1.0},      {FileFormat::Jpeg, 1.5},
                                                        {FileFormat::Jpeg2000, 2.0}, {FileFormat::Gif, 8.0}};
         for (const auto &[format, limit] : most) {
             const double measured = difference(bitmap, through(bitmap, format));
@@ -176,10 +178,7 @@ private Q_SLOTS:
         }
     }
 
-    void failsForNoPicture()
-    {
-        QVERIFY(!platform::encodeImage(Bitmap(), FileFormat::Png).has_value());
-    }
+    void failsForNoPicture() { QVERIFY(!platform::encodeImage(Bitmap(), FileFormat::Png).has_value()); }
 };
 
 QTEST_GUILESS_MAIN(ImageDestinations)

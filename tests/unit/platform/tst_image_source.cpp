@@ -80,7 +80,8 @@ private Q_SLOTS:
         if (!row.isDecodable || !bitmap || bitmap->isNull())
             QSKIP("not a picture that can be decoded");
         const double stated = row.dpi > 0 ? row.dpi : 72;
-        QVERIFY2(std::abs(bitmap->horizontalDpi() - stated) < 0.01, qPrintable(QString::number(bitmap->horizontalDpi())));
+        QVERIFY2(std::abs(bitmap->horizontalDpi() - stated) < 0.01,
+                 qPrintable(QString::number(bitmap->horizontalDpi())));
     }
 
     void readsStoredAndUprightPixels()
@@ -145,14 +146,16 @@ private Q_SLOTS:
         const QByteArray whole = pictures::bytesOf(QStringLiteral(QUORLIN_TEST_CORPUS "/") + name);
         QVERIFY(whole.size() > 100);
         for (const double share : {0.0, 0.01, 0.1, 0.3, 0.5, 0.7}) {
-            const Result<ImageSource> source = ImageSource::fromData(whole.left(qsizetype(double(whole.size()) * share)));
+            const Result<ImageSource> source =
+                ImageSource::fromData(whole.left(qsizetype(double(whole.size()) * share)));
             QVERIFY2(!source || !source->decode(), qPrintable(QString::number(share)));
         }
     }
 
     void refusesAnImageThatIsNotThere()
     {
-        const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/formats/g4-multi.tiff"));
+        const Result<ImageSource> source =
+            ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/formats/g4-multi.tiff"));
         QVERIFY(source.has_value());
         platform::DecodeOptions options;
         for (const int index : {-1, 3, 1000}) {
@@ -167,9 +170,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QSize>("size");
-        for (const char *name : {"exif-real/canon_hdr_NO.jpg", "formats/IMG_5195.HEIC", "formats/rgba.png",
-                                 "formats/tiff_16bit_RGBa.tiff", "formats/hopper.Lab.tif", "formats/pil_sample_cmyk.jpg",
-                                 "formats/logo.svg", "formats/ISO_12233-reschart.pdf", "orientation/g4_orientation_6.tif"})
+        for (const char *name :
+             {"exif-real/canon_hdr_NO.jpg", "formats/IMG_5195.HEIC", "formats/rgba.png", "formats/tiff_16bit_RGBa.tiff",
+              "formats/hopper.Lab.tif", "formats/pil_sample_cmyk.jpg", "formats/logo.svg",
+              "formats/ISO_12233-reschart.pdf", "orientation/g4_orientation_6.tif"})
             for (const QSize size : {QSize(1, 1), QSize(37, 200), QSize(400, 31), QSize(900, 900)})
                 QTest::addRow("%s to %dx%d", name, size.width(), size.height()) << QString::fromLatin1(name) << size;
     }
