@@ -2,6 +2,7 @@
 
 #include "app/script/picture_object.h"
 
+#include "image/ZtImageHandling.h"
 #include "platform/desktop/stand_ins.h"
 
 namespace script {
@@ -25,6 +26,7 @@ ServiceEntry pictures()
 std::vector<ServiceEntry> registeredServices()
 {
     return {
+        serviceEntry<ZtImageHandling>(),
         pictures(),
         standIn<platform::TextField>(),
         standIn<platform::CheckBox>(),
