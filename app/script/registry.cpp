@@ -26,20 +26,13 @@ ServiceEntry pictures()
 std::vector<ServiceEntry> registeredServices()
 {
     return {
-        serviceEntry<ZtImageHandling>(),
-        pictures(),
-        standIn<platform::TextField>(),
-        standIn<platform::CheckBox>(),
-        standIn<platform::ColorWell>(),
-        standIn<platform::SegmentedControl>(),
-        standIn<platform::TabView>(),
-        standIn<platform::PopUpButton>(),
-        standIn<platform::TextView>(),
-        standIn<platform::ProgressIndicator>(),
-        standIn<platform::ArrayController>(),
-        standIn<platform::TableView>(),
-        standIn<platform::TreeController>(),
-        standIn<platform::Window>(),
+        serviceEntry<ZtImageHandling>(),      pictures(),
+        standIn<platform::TextField>(),       standIn<platform::CheckBox>(),
+        standIn<platform::ColorWell>(),       standIn<platform::SegmentedControl>(),
+        standIn<platform::TabView>(),         standIn<platform::PopUpButton>(),
+        standIn<platform::TextView>(),        standIn<platform::ProgressIndicator>(),
+        standIn<platform::ArrayController>(), standIn<platform::TableView>(),
+        standIn<platform::TreeController>(),  standIn<platform::Window>(),
     };
 }
 

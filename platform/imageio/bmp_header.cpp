@@ -59,4 +59,19 @@ BmpHeader readBmpHeader(QIODevice &file)
     return header;
 }
 
+QByteArray readBmpProfile(QIODevice &file)
+{
+    constexpr quint32 headerBytes = 124;
+    constexpr quint32 embedded = 0x4D424544;
+    constexpr quint32 mostProfileBytes = 16 << 20;
+    const QByteArray head = file.seek(0) ? file.read(fileHeaderBytes + qint64(headerBytes)) : QByteArray();
+    if (head.size() < fileHeaderBytes + int(headerBytes) || numberAt<quint32>(head, fileHeaderBytes) != headerBytes ||
+        numberAt<quint32>(head, fileHeaderBytes + 56) != embedded)
+        return {};
+    const qint64 position = fileHeaderBytes + qint64(numberAt<quint32>(head, fileHeaderBytes + 112));
+    const auto size = numberAt<quint32>(head, fileHeaderBytes + 116);
+    const bool isInside = size <= mostProfileBytes && position + size <= file.size();
+    return isInside && file.seek(position) ? file.read(size) : QByteArray();
+}
+
 } // namespace platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QIODevice>
 #include <QSize>
 
@@ -13,5 +14,8 @@ struct BmpHeader
 };
 
 BmpHeader readBmpHeader(QIODevice &file);
+
+/** The colour profile that the newest of the headers can embed; empty where there is none. */
+QByteArray readBmpProfile(QIODevice &file);
 
 } // namespace platform

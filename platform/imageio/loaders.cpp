@@ -27,6 +27,18 @@ VOption *commonOptions()
     return VImage::option()->set("access", VIPS_ACCESS_SEQUENTIAL)->set("fail_on", VIPS_FAIL_ON_ERROR);
 }
 
+/** The decoder of these containers frees the profile while the image still refers to it: the image gets a copy. */
+VImage withOwnProfile(const VImage &image)
+{
+    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
+        return image;
+    size_t length = 0;
+    const void *profile = image.get_blob(VIPS_META_ICC_NAME, &length);
+    const VImage owner = image.copy();
+    vips_image_set_blob_copy(owner.get_image(), VIPS_META_ICC_NAME, profile, length);
+    return owner;
+}
+
 /** Reads through Qt; the caller has checked the size the file claims. */
 VImage loadThroughQt(const PictureBytes &source, const char *format)
 {
@@ -37,9 +49,20 @@ VImage loadThroughQt(const PictureBytes &source, const char *format)
     if (image.isNull())
         throw vips::VError(reader.errorString().toStdString());
     constexpr double millimetresPerMetre = 1000;
-    return imageFromQImage(image).copy(VImage::option()
-                                           ->set("xres", image.dotsPerMeterX() / millimetresPerMetre)
-                                           ->set("yres", image.dotsPerMeterY() / millimetresPerMetre));
+    const VImage pixels = imageFromQImage(image).copy(VImage::option()
+                                                          ->set("xres", image.dotsPerMeterX() / millimetresPerMetre)
+                                                          ->set("yres", image.dotsPerMeterY() / millimetresPerMetre));
+    return pixels;
+}
+
+VImage loadBitmapFile(const PictureBytes &source)
+{
+    const VImage image = loadThroughQt(source, "bmp");
+    const std::unique_ptr<QIODevice> device = source.device();
+    const QByteArray profile = device ? readBmpProfile(*device) : QByteArray();
+    if (!profile.isEmpty())
+        vips_image_set_blob_copy(image.get_image(), VIPS_META_ICC_NAME, profile.constData(), size_t(profile.size()));
+    return image;
 }
 
 /** The general reader of many formats, for the one that no other reads; the size is known to be in the budget. */
@@ -106,12 +129,12 @@ VImage openImage(const PictureBytes &source, Content content, const LoadOptions 
     case Content::Gif:
         return VImage::gifload_source(sourceOf(source), commonOptions()->set("page", options.page));
     case Content::Bmp:
-        return loadThroughQt(source, "bmp");
+        return loadBitmapFile(source);
     case Content::Webp:
         return VImage::webpload_source(sourceOf(source), commonOptions()->set("page", options.page));
     case Content::Heif:
     case Content::Avif:
-        return VImage::heifload_source(sourceOf(source), commonOptions()->set("page", options.page));
+        return withOwnProfile(VImage::heifload_source(sourceOf(source), commonOptions()->set("page", options.page)));
     case Content::Jpeg2000:
         return VImage::jp2kload_source(sourceOf(source), commonOptions());
     case Content::Photoshop:

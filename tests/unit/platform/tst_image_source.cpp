@@ -189,6 +189,23 @@ private Q_SLOTS:
         QCOMPARE(scaled->size(), size);
     }
 
+    void keepsTheProfileThroughScaling_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"formats/IMG_5195.HEIC", "formats/cat.jpg", "formats/hopper.iccprofile.tif"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void keepsTheProfileThroughScaling()
+    {
+        QFETCH(QString, name);
+        const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + name);
+        const QByteArray profile = source->decode().value_or(Bitmap()).iccProfile();
+        QCOMPARE(profile.mid(36, 4), QByteArray("acsp"));
+        for (const int width : {50, 100, 300})
+            QCOMPARE(source->decodeScaled(QSize(width, width)).value_or(Bitmap()).iccProfile(), profile);
+    }
+
     void scalesWithoutShifting()
     {
         // Sides that are no multiple of 8: the decoder's own shrinking must not move or lose the edges.
