@@ -1,5 +1,6 @@
 #include "platform/imageio/metadata.h"
 
+#include "platform/imageio/exif_in_place.h"
 #include "platform/imageio/jpeg_segments.h"
 #include "platform/imageio/metadata_blocks.h"
 #include "platform/imageio/user_comment.h"
@@ -40,7 +41,10 @@ void readImage(Metadata::Blocks &blocks, const QByteArray &bytes)
     blocks.exif = image->exifData();
     blocks.iptc = image->iptcData();
     blocks.xmp = image->xmpData();
+    image->writeXmpFromPacket(true); // or what is handed out is a packet made anew, and not all of it comes back
     blocks.xmpPacket = image->xmpPacket();
+    if (const Exiv2::Exifdatum *tag = findTag(blocks.exif, "Exif.Image.XMLPacket"); tag && blocks.xmpPacket.empty())
+        blocks.xmpPacket = rawBytes(*tag, Exiv2::littleEndian).toStdString();
     blocks.byteOrder = image->byteOrder() == Exiv2::bigEndian ? Exiv2::bigEndian : Exiv2::littleEndian;
 }
 
@@ -166,6 +170,18 @@ int Metadata::orientation() const
         return 0;
     const long value = tag->toLong();
     return value >= 1 && value <= 8 ? int(value) : 0;
+}
+
+Metadata Metadata::withOrientation(int orientation) const
+{
+    if (!m_blocks || !findTag(m_blocks->exif, "Exif.Image.Orientation"))
+        return *this;
+    auto blocks = std::make_shared<Blocks>(*m_blocks);
+    blocks->exif["Exif.Image.Orientation"] = uint16_t(orientation);
+    blocks->exifBlock = exifBlockWithOrientation(blocks->exifBlock, orientation);
+    Metadata metadata;
+    metadata.m_blocks = std::move(blocks);
+    return metadata;
 }
 
 } // namespace platform

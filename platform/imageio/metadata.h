@@ -52,6 +52,9 @@ public:
     /** 1 to 8; 0 where none or no valid one is stated. */
     int orientation() const;
 
+    /** The same with another orientation, 1 to 8, where one is stated; for pixels that were turned meanwhile. */
+    Metadata withOrientation(int orientation) const;
+
     /**
      * The encoded JPEG or TIFF file @p encoded with this metadata in it. The structure of the image itself (size,
      * strips, compression, colour profile) stays that of @p encoded; for TIFF the resolution is the metadata's where it

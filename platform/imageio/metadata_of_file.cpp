@@ -17,13 +17,25 @@ QByteArray blockOf(const vips::VImage &image, const char *field)
     return {static_cast<const char *>(block), qsizetype(length)};
 }
 
+/** XMP stands among the numbered items of a HEIC or AVIF file, and nothing but its content tells it. */
+QByteArray xmpOf(const vips::VImage &image)
+{
+    constexpr int mostItems = 16;
+    for (int number = 0; number < mostItems; ++number) {
+        const QByteArray item = blockOf(image, QByteArray("heif-mime-" + QByteArray::number(number)).constData());
+        if (item.contains("adobe:ns:meta"))
+            return item;
+    }
+    return blockOf(image, VIPS_META_XMP_NAME);
+}
+
 /** The decoder takes the blocks out of a container that the metadata reader does not know. */
 Metadata fromDecoder(const PictureBytes &bytes, Content content)
 {
     try {
         initVips();
         const vips::VImage image = openImage(bytes, content);
-        return Metadata::fromBlocks(blockOf(image, VIPS_META_EXIF_NAME), blockOf(image, VIPS_META_XMP_NAME),
+        return Metadata::fromBlocks(blockOf(image, VIPS_META_EXIF_NAME), xmpOf(image),
                                     blockOf(image, VIPS_META_IPTC_NAME));
     } catch (const vips::VError &error) {
         takeVipsError(error);
@@ -56,7 +68,8 @@ Metadata metadataOf(const PictureBytes &bytes, Content content)
     switch (content) {
     case Content::Heif:
     case Content::Avif:
-        return fromDecoder(bytes, content);
+        // The decoder has obeyed the container's own turn, and this one would turn the picture again.
+        return fromDecoder(bytes, content).withOrientation(1);
     case Content::Gif:
     case Content::Bmp:
     case Content::Pdf:

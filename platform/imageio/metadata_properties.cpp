@@ -1,4 +1,4 @@
-#include "platform/imageio/exif_block.h"
+#include "platform/imageio/exif_in_place.h"
 #include "platform/imageio/metadata_blocks.h"
 #include "platform/imageio/metadata_names.h"
 #include "platform/imageio/user_comment.h"

@@ -1,6 +1,9 @@
 #include "platform/imageio/exif_block.h"
 #include "platform/imageio/jpeg_segments.h"
 #include "platform/imageio/metadata_blocks.h"
+#include "platform/imageio/tiff_graft.h"
+#include "platform/imageio/tiff_reader.h"
+#include "platform/imageio/xmp_packet.h"
 
 #include <QtEndian>
 
@@ -20,33 +23,20 @@ void appendSegment(QByteArray &out, uchar marker, const QByteArray &payload)
     out.append('\xff').append(char(marker)).append(length, 2).append(payload);
 }
 
-/** XMP without what it says of the old picture's size and orientation; the packet as it was where it says nothing. */
-std::string xmpForNewFile(const Metadata::Blocks &blocks)
+/** The packet as it was read; one that was never a packet is made of its entries. */
+QByteArray xmpPacket(const Metadata::Blocks &blocks, QSize pixels)
 {
-    Exiv2::XmpData xmp = blocks.xmp;
-    bool changed = blocks.xmpPacket.empty();
-    for (auto entry = xmp.begin(); entry != xmp.end();) {
-        const std::string key = entry->key();
-        const bool stale = key == "Xmp.tiff.ImageWidth" || key == "Xmp.tiff.ImageLength" ||
-                           key == "Xmp.exif.PixelXDimension" || key == "Xmp.exif.PixelYDimension" ||
-                           key.rfind("Xmp.xmp.Thumbnails", 0) == 0;
-        changed = changed || stale;
-        entry = stale ? xmp.erase(entry) : ++entry;
-    }
-    if (!changed)
-        return blocks.xmpPacket;
-    std::string packet;
-    if (xmp.empty() || Exiv2::XmpParser::encode(packet, xmp, Exiv2::XmpParser::useCompactFormat) != 0)
+    std::string packet = blocks.xmpPacket;
+    if (packet.empty() && !blocks.xmp.empty() &&
+        Exiv2::XmpParser::encode(packet, blocks.xmp, Exiv2::XmpParser::useCompactFormat) != 0)
         return {};
-    return packet;
+    return xmpForNewPixels(QByteArray(packet.data(), qsizetype(packet.size())), pixels);
 }
 
-QByteArray xmpPayload(const Metadata::Blocks &blocks)
+QByteArray xmpPayload(const Metadata::Blocks &blocks, QSize pixels)
 {
-    const std::string packet = xmpForNewFile(blocks);
-    if (packet.empty())
-        return {};
-    return QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + QByteArray(packet.data(), qsizetype(packet.size()));
+    const QByteArray packet = xmpPacket(blocks, pixels);
+    return packet.isEmpty() ? packet : QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + packet;
 }
 
 QByteArray iptcPayload(const Metadata::Blocks &blocks)
@@ -62,13 +52,13 @@ QByteArray iptcPayload(const Metadata::Blocks &blocks)
 
 QByteArray writtenIntoJpeg(const Metadata::Blocks &blocks, const QByteArray &encoded, const JpegSegments &segments)
 {
-    const QByteArray exif = encodeExifBlock(blocks, segments.size, largestSegment - 6);
+    const QByteArray exif = encodeExifBlock(blocks, segments.size, blocks.byteOrder, largestSegment - 6);
     QByteArray out;
     out.reserve(encoded.size() + exif.size() + qsizetype(blocks.xmpPacket.size()) + 4096);
     out.append(encoded.constData(), segments.insertAt);
     if (!exif.isEmpty())
         appendSegment(out, 0xe1, QByteArray("Exif\0\0", 6) + exif);
-    appendSegment(out, 0xe1, xmpPayload(blocks));
+    appendSegment(out, 0xe1, xmpPayload(blocks, segments.size));
     appendSegment(out, 0xed, iptcPayload(blocks));
     qsizetype position = segments.insertAt;
     for (const JpegSegments::Range &range : segments.metadata) {
@@ -78,9 +68,25 @@ QByteArray writtenIntoJpeg(const Metadata::Blocks &blocks, const QByteArray &enc
     return out.append(encoded.constData() + position, encoded.size() - position);
 }
 
-bool isTiff(const QByteArray &bytes)
+QByteArray iptcRecords(const Metadata::Blocks &blocks)
 {
-    return bytes.startsWith(QByteArray("II*\0", 4)) || bytes.startsWith(QByteArray("MM\0*", 4));
+    if (blocks.iptc.empty())
+        return {};
+    const Exiv2::DataBuf records = Exiv2::IptcParser::encode(blocks.iptc);
+    return QByteArray(reinterpret_cast<const char *>(records.pData_), records.size_);
+}
+
+/** Empty where the file is not of the plain kind that this works for. */
+QByteArray graftedIntoTiff(const Metadata::Blocks &blocks, const QByteArray &encoded)
+{
+    const TiffShape shape = tiffShape(encoded);
+    if (!shape.valid)
+        return {};
+    constexpr qsizetype largestBlock = 32 << 20;
+    const Exiv2::ByteOrder own = shape.littleEndian ? Exiv2::littleEndian : Exiv2::bigEndian;
+    const Exiv2::ByteOrder order = shape.hasByteSamples ? blocks.byteOrder : own;
+    return graftIntoTiff(encoded, {encodeExifBlock(blocks, shape.pixels, order, largestBlock),
+                                   xmpPacket(blocks, shape.pixels), iptcRecords(blocks)});
 }
 
 QByteArray contentOf(Exiv2::Image &image)
@@ -95,8 +101,8 @@ QByteArray contentOf(Exiv2::Image &image)
     return bytes;
 }
 
-/** Throws where exiv2 cannot do it. */
-QByteArray writtenIntoTiff(const Metadata::Blocks &blocks, const QByteArray &encoded, MakerNotes makerNotes)
+/** For all other TIFF files. Throws where exiv2 cannot do it. */
+QByteArray rewrittenTiff(const Metadata::Blocks &blocks, const QByteArray &encoded, MakerNotes makerNotes)
 {
     const auto image =
         Exiv2::ImageFactory::open(reinterpret_cast<const Exiv2::byte *>(encoded.constData()), long(encoded.size()));
@@ -111,12 +117,19 @@ QByteArray writtenIntoTiff(const Metadata::Blocks &blocks, const QByteArray &enc
             there->setValue(&tag.value());
     }
     image->setIptcData(blocks.iptc);
-    const std::string packet = xmpForNewFile(blocks);
+    const QByteArray packet = xmpPacket(blocks, pixels);
     image->clearXmpData();
-    if (!packet.empty() && Exiv2::XmpParser::decode(image->xmpData(), packet) == 0)
-        image->setXmpPacket(packet);
+    if (!packet.isEmpty() && Exiv2::XmpParser::decode(image->xmpData(), packet.toStdString()) == 0)
+        image->setXmpPacket(packet.toStdString());
     image->writeMetadata();
     return contentOf(*image);
+}
+
+/** Throws, or gives nothing, where it cannot be done. */
+QByteArray writtenIntoTiff(const Metadata::Blocks &blocks, const QByteArray &encoded, MakerNotes makerNotes)
+{
+    const QByteArray grafted = graftedIntoTiff(blocks, encoded);
+    return grafted.isEmpty() ? rewrittenTiff(blocks, encoded, makerNotes) : grafted;
 }
 
 } // namespace
@@ -124,15 +137,18 @@ QByteArray writtenIntoTiff(const Metadata::Blocks &blocks, const QByteArray &enc
 Result<QByteArray> Metadata::writtenInto(const QByteArray &encoded) const
 {
     const JpegSegments segments = findJpegSegments(encoded);
-    if (!segments.valid && !isTiff(encoded))
+    TiffNumbers numbers;
+    if (!segments.valid && !isTiffHeader(encoded, numbers))
         return failure(ErrorCode::Unsupported, QStringLiteral("Cannot write metadata: neither a JPEG nor a TIFF file"));
     if (isEmpty())
         return encoded;
     startMetadataLibrary();
     for (const MakerNotes makerNotes : {MakerNotes::Keep, MakerNotes::Drop}) {
         try {
-            return segments.valid ? writtenIntoJpeg(*m_blocks, encoded, segments)
-                                  : writtenIntoTiff(*m_blocks, encoded, makerNotes);
+            const QByteArray written = segments.valid ? writtenIntoJpeg(*m_blocks, encoded, segments)
+                                                      : writtenIntoTiff(*m_blocks, encoded, makerNotes);
+            if (!written.isEmpty())
+                return written;
         } catch (const std::exception &) {
             // With less, or at the end with nothing: the picture itself is what must not be lost.
         }

@@ -1,0 +1,29 @@
+#pragma once
+
+// Inside platform/ only.
+
+#include <QByteArray>
+#include <QSize>
+
+namespace platform {
+
+/**
+ * An EXIF block as it was read, made fit for another file without moving anything in it, so that every offset still
+ * holds, those in maker notes that nobody can read included.
+ *
+ * Taken out of the first directory: tags about the old file's storage (describesStructure()), XMP, IPTC and profiles.
+ * The thumbnail's directory is cut off, and its picture where that is the end of the block. The size in pixels is set
+ * anew where the block states one. Empty where the block is not sound enough for that.
+ */
+QByteArray exifBlockInPlace(const QByteArray &block, QSize pixels);
+
+/** The block with another orientation in it; unchanged where it states none. */
+QByteArray exifBlockWithOrientation(QByteArray block, int orientation);
+
+/** True for a tag of the first directory that describes how a file stores its pixels, not what they show. */
+bool describesStructure(quint16 tag);
+
+/** True for tags of the first directory that hold data which is carried in another way, or of raw files only. */
+bool describesOtherData(quint16 tag);
+
+} // namespace platform
