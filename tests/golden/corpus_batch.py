@@ -186,8 +186,9 @@ class Batch:
             first = made.get(f"orientation/{scene}_2.jpg")
             for source, path in made.items():
                 difference = mean_difference(first, path, self.out.parent) if first else None
-                # 1 and 2 to 8 differ in a painted number; the others in what JPEG did to the turned pixels.
-                if difference is None or difference > (6 if source.endswith("_1.jpg") else 3):
+                # Picture 1 was made anew for this collection and differs by 16; mirrored or turned it would by 43 and more.
+                # The others differ only in what JPEG did to the turned pixels.
+                if difference is None or difference > (25 if source.endswith("_1.jpg") else 3):
                     self.fault(source, f"differs by {difference} of 255 from its neighbour: it is not upright")
 
 
