@@ -15,8 +15,8 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 SKIPPED = 77
-MEMORY_BOUND_MB = 700
-SECONDS_BOUND = 240
+MEMORY_BOUND_MB = 400
+SECONDS_BOUND = 120
 TYPES = {"public.png": ("png", "PNG"), "public.tiff": ("tiff", "TIFF"), "public.bmp": ("bmp", "BMP"),
          "com.compuserve.gif": ("gif", "GIF"), "public.jpeg": ("jpg", "JPEG"), "public.jp2": ("jp2", "JP2")}
 DEEDS = [*TYPES, "half", "fill", "stretch"]
