@@ -74,14 +74,15 @@ QByteArray encoded(const Exiv2::ExifData &exif, Exiv2::ByteOrder order)
 }
 
 /** True if the block says what it was made from, as far as a reader goes for it first. */
-bool readsBack(const QByteArray &block, const Exiv2::ExifData &exif)
+bool readsBack(const QByteArray &block, const Exiv2::ExifData &exif, Exiv2::ByteOrder order)
 {
     Exiv2::ExifData again;
     Exiv2::ExifParser::decode(again, reinterpret_cast<const Exiv2::byte *>(block.constData()), uint32_t(block.size()));
+    // Bytes, not texts: a comment is shown in another way once it was read from a block.
     for (const char *key : {"Exif.Image.Orientation", "Exif.Photo.UserComment", "Exif.Photo.DateTimeOriginal"}) {
         const Exiv2::Exifdatum *before = findTag(exif, key);
         const Exiv2::Exifdatum *after = findTag(again, key);
-        if (before && before->size() > 0 && (!after || before->toString() != after->toString()))
+        if (before && before->size() > 0 && (!after || rawBytes(*before, order) != rawBytes(*after, order)))
             return false;
     }
     return !again.empty();
@@ -91,7 +92,7 @@ QByteArray attemptBlock(const Exiv2::ExifData &exif, Exiv2::ByteOrder order, qsi
 {
     try {
         const QByteArray block = encoded(exif, order);
-        if (!block.isEmpty() && block.size() <= sizeLimit && readsBack(block, exif))
+        if (!block.isEmpty() && block.size() <= sizeLimit && readsBack(block, exif, order))
             return block;
     } catch (const std::exception &) {
         // The caller tries with less.

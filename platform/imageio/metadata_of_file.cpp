@@ -54,11 +54,12 @@ Metadata fromLargeFile(const QString &path)
     return Metadata::fromFileBytes(QByteArray::fromRawData(reinterpret_cast<const char *>(data), file.size()));
 }
 
-/** The segments before the first scan hold all the metadata of a JPEG. */
+/** The segments before the first scan hold all the metadata of a JPEG; the reader looks a little further ahead. */
 QByteArray jpegHead(QIODevice &device)
 {
+    constexpr qint64 readAhead = 4096;
     const qint64 scan = startOfJpegScan(device);
-    return scan > 0 && device.seek(0) ? device.read(scan) : QByteArray();
+    return scan > 0 && device.seek(0) ? device.read(scan + readAhead) : QByteArray();
 }
 
 } // namespace
