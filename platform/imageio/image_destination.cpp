@@ -2,6 +2,7 @@
 
 #include "platform/foundation/atomic_file.h"
 #include "platform/imageio/encoders.h"
+#include "platform/imageio/jp2_profile.h"
 
 #include <QCoreApplication>
 
@@ -32,7 +33,11 @@ Resolution writtenResolution(const Bitmap &bitmap, const EncodeOptions &options)
 
 Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
 {
-    const vips::VImage image = preparedFor(abilitiesOf(format), bitmap.pixels().image);
+    FormatAbilities abilities = abilitiesOf(format);
+    const QByteArray profile = bitmap.iccProfile();
+    if (format == FileFormat::Jpeg2000)
+        abilities.profile = fitsJpeg2000(profile);
+    const vips::VImage image = preparedFor(abilities, bitmap.pixels().image);
     const Resolution resolution = writtenResolution(bitmap, options);
     switch (format) {
     case FileFormat::Png:
@@ -46,7 +51,7 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
     case FileFormat::Jpeg:
         return encodeJpeg(image.copy_memory(), {options.lossyQuality, bitmap.pixels().quantisation, resolution});
     case FileFormat::Jpeg2000:
-        return encodeJpeg2000(image);
+        return abilities.profile ? withJpeg2000Profile(encodeJpeg2000(image), profile) : encodeJpeg2000(image);
     }
     return failure(ErrorCode::Unsupported, QString());
 }

@@ -2,6 +2,7 @@
 
 #include "platform/graphics/resample.h"
 #include "platform/imageio/bmp_header.h"
+#include "platform/imageio/jp2_profile.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -55,14 +56,28 @@ VImage loadThroughQt(const PictureBytes &source, const char *format)
     return pixels;
 }
 
+/** The image with a profile that its decoder passes over. */
+VImage withProfile(const VImage &image, const QByteArray &profile)
+{
+    if (profile.isEmpty())
+        return image;
+    const VImage owner = image.copy();
+    vips_image_set_blob_copy(owner.get_image(), VIPS_META_ICC_NAME, profile.constData(), size_t(profile.size()));
+    return owner;
+}
+
 VImage loadBitmapFile(const PictureBytes &source)
 {
-    const VImage image = loadThroughQt(source, "bmp");
     const std::unique_ptr<QIODevice> device = source.device();
-    const QByteArray profile = device ? readBmpProfile(*device) : QByteArray();
-    if (!profile.isEmpty())
-        vips_image_set_blob_copy(image.get_image(), VIPS_META_ICC_NAME, profile.constData(), size_t(profile.size()));
-    return image;
+    return withProfile(loadThroughQt(source, "bmp"), device ? readBmpProfile(*device) : QByteArray());
+}
+
+VImage loadJpeg2000(const PictureBytes &source)
+{
+    constexpr qint64 mostBeforePixels = 4 << 20;
+    const std::unique_ptr<QIODevice> device = source.device();
+    return withProfile(VImage::jp2kload_source(sourceOf(source), commonOptions()),
+                       device ? jpeg2000Profile(device->read(mostBeforePixels)) : QByteArray());
 }
 
 /** The general reader of many formats, for the one that no other reads; the size is known to be in the budget. */
@@ -136,7 +151,7 @@ VImage openImage(const PictureBytes &source, Content content, const LoadOptions 
     case Content::Avif:
         return withOwnProfile(VImage::heifload_source(sourceOf(source), commonOptions()->set("page", options.page)));
     case Content::Jpeg2000:
-        return VImage::jp2kload_source(sourceOf(source), commonOptions());
+        return loadJpeg2000(source);
     case Content::Photoshop:
         return loadPhotoshop(source);
     case Content::Pdf:

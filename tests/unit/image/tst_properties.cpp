@@ -27,7 +27,7 @@ class Properties : public QObject
     Q_OBJECT
 
     QTemporaryDir m_folder;
-    QString out() const { return m_folder.filePath(QString()); }
+    QString out() const { return m_folder.path() + u'/'; }
 
 private Q_SLOTS:
     void init() { m_folder = QTemporaryDir(); }

@@ -109,6 +109,15 @@ private Q_SLOTS:
             QCOMPARE(through(bitmap, format).iccProfile(), bitmap.iccProfile());
     }
 
+    void keepsAProfileOfAMatrixInJpeg2000()
+    {
+        const Bitmap bitmap = corpusBitmap("formats/cat.jpg");
+        QCOMPARE(bitmap.iccProfile().mid(36, 4), QByteArray("acsp"));
+        const Bitmap again = through(bitmap, FileFormat::Jpeg2000);
+        QCOMPARE(again.iccProfile(), bitmap.iccProfile());
+        QVERIFY(difference(bitmap, again) < 2);
+    }
+
     void keepsTheColoursWhereTheFormatHoldsNoProfile_data()
     {
         QTest::addColumn<QByteArray>("name");
