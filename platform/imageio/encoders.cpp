@@ -94,7 +94,9 @@ QByteArray encodePng(const VImage &image, Resolution resolution)
 
 QByteArray encodeTiff(const VImage &image, Resolution resolution)
 {
-    return bytesOf(withResolution(image, resolution)
+    // Lab is worked on in floating point; files that others can read keep it in 8 bits.
+    const VImage kept = image.interpretation() == VIPS_INTERPRETATION_LAB ? image.Lab2LabQ() : image;
+    return bytesOf(withResolution(kept, resolution)
                        .tiffsave_buffer(VImage::option()
                                             ->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_NONE)
                                             ->set("resunit", VIPS_FOREIGN_TIFF_RESUNIT_INCH)));

@@ -150,6 +150,18 @@ private Q_SLOTS:
         QCOMPARE(int(through(bitmap, FileFormat::Png).colorModel()), int(ColorModel::Rgb));
     }
 
+    void keepsLabInATiffThatOthersCanRead()
+    {
+        const Bitmap bitmap = corpusBitmap("formats/hopper.Lab.tif");
+        QCOMPARE(int(bitmap.colorModel()), int(ColorModel::Lab));
+        const Bitmap again = through(bitmap, FileFormat::Tiff);
+        QCOMPARE(int(again.colorModel()), int(ColorModel::Lab));
+        QVERIFY(difference(bitmap, again) < 0.5);
+        const QByteArray file = platform::encodeImage(bitmap, FileFormat::Tiff).value_or(QByteArray());
+        constexpr qsizetype threeBytesAPixel = 128 * 128 * 3;
+        QVERIFY(file.size() > threeBytesAPixel && file.size() < threeBytesAPixel + 4000);
+    }
+
     void keepsTheQuantisationOfAJpegUnlessAQualityIsNamed()
     {
         const Bitmap bitmap = corpusBitmap("exif-real/no-metadata.jpg");
