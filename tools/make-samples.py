@@ -78,19 +78,19 @@ def scene_of(seed, horizon, ridges, sun, disc, grain, water, **colours):
 
 
 SCENES = {
-    "Evening ridge.jpg": (1500, 1000, scene_of(
+    "Evening ridge.jpg": (2400, 1600, scene_of(
         11, 1.0, 6, (0.68, 0.42), 0.035, 2.2, None, zenith=(58, 76, 130), low=(250, 180, 128), light=(255, 238, 196),
         haze=(214, 146, 126), ground=(34, 28, 48))),
-    "Lake in the morning.jpg": (1500, 1000, scene_of(
+    "Lake in the morning.jpg": (2400, 1600, scene_of(
         23, 0.62, 5, (0.3, 0.3), 0.03, 2.0, (70, 104, 124), zenith=(98, 150, 196), low=(232, 226, 208),
         light=(255, 250, 228), haze=(176, 196, 204), ground=(36, 66, 62))),
-    "Standing phone picture.jpg": (1200, 900, scene_of(
+    "Standing phone picture.jpg": (2400, 1800, scene_of(
         37, 1.0, 5, (0.5, 0.25), 0.04, 2.4, None, zenith=(40, 110, 170), low=(226, 232, 220), light=(255, 252, 240),
         haze=(170, 196, 186), ground=(24, 70, 46))),
-    "Night.png": (720, 480, scene_of(
+    "Night.png": (1800, 1200, scene_of(
         41, 0.7, 4, (0.75, 0.2), 0.045, 0, (8, 12, 28), zenith=(6, 10, 30), low=(40, 54, 96), light=(236, 240, 250),
         haze=(34, 46, 80), ground=(6, 8, 16))),
-    "Dunes.tif": (720, 480, scene_of(
+    "Dunes.tif": (1800, 1200, scene_of(
         53, 1.0, 4, (0.2, 0.2), 0.03, 0, None, zenith=(96, 160, 216), low=(250, 230, 196), light=(255, 250, 230),
         haze=(240, 206, 150), ground=(176, 108, 52))),
 }
