@@ -40,6 +40,20 @@ qsizetype asciiUnits(const QByteArray &bytes, qsizetype highByte)
     return count;
 }
 
+/**
+ * The order in which the text makes sense: the file's, unless most of it is plain letters in the other one. A few
+ * ideographs end in a zero byte and look like letters the wrong way round, so a short text proves nothing.
+ */
+QSysInfo::Endian plausibleOrder(const QByteArray &bytes, QSysInfo::Endian order)
+{
+    const bool little = order == QSysInfo::LittleEndian;
+    const qsizetype inOrder = asciiUnits(bytes, little ? 1 : 0);
+    const qsizetype inOther = asciiUnits(bytes, little ? 0 : 1);
+    constexpr qsizetype fewest = 3;
+    const bool other = inOther >= fewest && inOther > inOrder && inOther * 4 > bytes.size();
+    return other == little ? QSysInfo::BigEndian : QSysInfo::LittleEndian;
+}
+
 QString decodeUtf16(QByteArray bytes, QSysInfo::Endian order)
 {
     if (bytes.startsWith("\xff\xfe")) {
@@ -49,10 +63,7 @@ QString decodeUtf16(QByteArray bytes, QSysInfo::Endian order)
         order = QSysInfo::BigEndian;
         bytes.remove(0, 2);
     } else {
-        const qsizetype little = asciiUnits(bytes, 1);
-        const qsizetype big = asciiUnits(bytes, 0);
-        if (little != big)
-            order = little > big ? QSysInfo::LittleEndian : QSysInfo::BigEndian;
+        order = plausibleOrder(bytes, order);
     }
     QString text(bytes.size() / 2, Qt::Uninitialized);
     for (qsizetype i = 0; i < text.size(); ++i) {
