@@ -71,9 +71,11 @@ TagValue gpsTagValue(const Exiv2::ExifKey &key, const QString &name, const QVari
 void addReference(Metadata::Blocks &blocks, const QVariantMap &gps, const QString &name, const char *letters)
 {
     const QVariant value = gps.value(name);
-    if (!value.isValid() || gps.contains(name + QLatin1String("Ref")))
+    bool isNumber = false;
+    const double degrees = value.toDouble(&isNumber);
+    if (!isNumber || gps.contains(name + QLatin1String("Ref")))
         return;
-    const char letter = letters[value.toDouble() < 0 ? 1 : 0];
+    const char letter = letters[degrees < 0 ? 1 : 0];
     set(blocks, Exiv2::ExifKey("Exif.GPSInfo.GPS" + name.toStdString() + "Ref"),
         tagValue(Exiv2::asciiString, name, QString(QLatin1Char(letter))));
 }
@@ -94,6 +96,8 @@ void setXmp(Metadata::Blocks &blocks, const QString &name, const QVariant &value
     if (colon <= 0)
         return;
     const Exiv2::XmpKey key("Xmp." + name.left(colon).toStdString() + '.' + name.mid(colon + 1).toStdString());
+    if (value.typeId() == QMetaType::QVariantList && value.toList().isEmpty())
+        return;
     Exiv2::Xmpdatum &entry = blocks.xmp[key.key()];
     const bool simple = value.typeId() != QMetaType::QVariantList;
     const auto type = Exiv2::XmpProperties::propertyType(key);

@@ -9,8 +9,10 @@ namespace {
 
 using NamePair = std::pair<const char *, const char *>; ///< exiv2's name, name in the dictionaries
 
-constexpr std::array<NamePair, 4> exifNames = {{
+constexpr std::array<NamePair, 6> exifNames = {{
     {"FlashpixVersion", "FlashPixVersion"},
+    {"FocalLengthIn35mmFilm", "FocalLenIn35mmFilm"},
+    {"SubjectDistanceRange", "SubjectDistRange"},
     {"SubSecTime", "SubsecTime"},
     {"SubSecTimeOriginal", "SubsecTimeOriginal"},
     {"SubSecTimeDigitized", "SubsecTimeDigitized"},

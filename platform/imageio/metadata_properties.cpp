@@ -19,11 +19,14 @@ QVariant number(double value)
     return whole ? QVariant(int(value)) : QVariant(value);
 }
 
-QString text(QByteArray bytes)
+QString text(const QString &name, QByteArray bytes)
 {
     while (bytes.endsWith('\0'))
         bytes.chop(1);
-    bytes.replace('\0', '\n'); // Copyright: photographer and editor stand in one value
+    if (name == QLatin1String("Copyright")) // photographer and editor stand in one value
+        bytes.replace('\0', '\n');
+    else if (const qsizetype end = bytes.indexOf('\0'); end >= 0)
+        bytes.truncate(end);
     QString result = decodeUnmarkedText(bytes);
     while (!result.isEmpty() && result.back().isSpace())
         result.chop(1);
@@ -106,7 +109,7 @@ QVariant valueOf(const Exiv2::Exifdatum &tag, const QString &name, Exiv2::ByteOr
 {
     switch (tag.typeId()) {
     case Exiv2::asciiString:
-        return text(rawBytes(tag, order));
+        return text(name, rawBytes(tag, order));
     case Exiv2::undefined:
     case Exiv2::comment:
         return blob(name, rawBytes(tag, order));

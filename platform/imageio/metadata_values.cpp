@@ -52,19 +52,25 @@ template<typename Number> TagValue integers(const QVariantList &list)
     return value;
 }
 
-TagValue fractions(const QVariantList &list, Exiv2::TypeId type)
+/** @p Pair is Exiv2's fraction of signed or of unsigned numbers. */
+template<typename Pair> TagValue fractionsOf(const QVariantList &list)
 {
-    std::string words;
+    auto value = std::make_unique<Exiv2::ValueType<Pair>>();
     for (const QVariant &each : list) {
         bool ok = false;
         const double number = each.toDouble(&ok);
-        if (!ok || !std::isfinite(number) || (number < 0 && type == Exiv2::unsignedRational))
+        const bool fits = std::is_signed_v<typename Pair::first_type> || number >= 0;
+        if (!ok || !std::isfinite(number) || !fits)
             return {};
         const Exiv2::Rational pair = fraction(number);
-        words += std::to_string(pair.first) + '/' + std::to_string(pair.second) + ' ';
+        value->value_.push_back({typename Pair::first_type(pair.first), typename Pair::second_type(pair.second)});
     }
-    TagValue value = made(type);
-    return value->read(words) == 0 ? std::move(value) : nullptr;
+    return value;
+}
+
+TagValue fractions(const QVariantList &list, Exiv2::TypeId type)
+{
+    return type == Exiv2::signedRational ? fractionsOf<Exiv2::Rational>(list) : fractionsOf<Exiv2::URational>(list);
 }
 
 bool isText(const QVariant &value)
@@ -72,12 +78,13 @@ bool isText(const QVariant &value)
     return value.typeId() == QMetaType::QString;
 }
 
-TagValue textValue(const QVariant &value)
+TagValue textValue(const QString &name, const QVariant &value)
 {
     if (!isText(value) && !value.canConvert<double>())
         return {};
     QByteArray bytes = value.toString().toUtf8();
-    bytes.replace('\n', '\0'); // the way back of two texts in one value
+    if (name == QLatin1String("Copyright")) // photographer and editor stand in one value
+        bytes.replace('\n', '\0');
     return bytesValue(Exiv2::asciiString, bytes + '\0');
 }
 
@@ -155,7 +162,7 @@ TagValue tagValue(Exiv2::TypeId type, const QString &name, const QVariant &value
     const QVariantList list = listOf(value);
     switch (type) {
     case Exiv2::asciiString:
-        return textValue(value);
+        return textValue(name, value);
     case Exiv2::unsignedShort:
         return integers<uint16_t>(list);
     case Exiv2::unsignedLong:

@@ -23,6 +23,16 @@ void appendSegment(QByteArray &out, uchar marker, const QByteArray &payload)
     out.append('\xff').append(char(marker)).append(length, 2).append(payload);
 }
 
+/** What one block's maker gives, or nothing where it throws: the other blocks are carried all the same. */
+template<typename Maker> QByteArray madeOrNothing(Maker make)
+{
+    try {
+        return make();
+    } catch (const std::exception &) {
+        return {};
+    }
+}
+
 /** The packet as it was read; one that was never a packet is made of its entries. */
 QByteArray xmpPacket(const Metadata::Blocks &blocks, QSize pixels)
 {
@@ -58,8 +68,8 @@ QByteArray writtenIntoJpeg(const Metadata::Blocks &blocks, const QByteArray &enc
     out.append(encoded.constData(), segments.insertAt);
     if (!exif.isEmpty())
         appendSegment(out, 0xe1, QByteArray("Exif\0\0", 6) + exif);
-    appendSegment(out, 0xe1, xmpPayload(blocks, segments.size));
-    appendSegment(out, 0xed, iptcPayload(blocks));
+    appendSegment(out, 0xe1, madeOrNothing([&] { return xmpPayload(blocks, segments.size); }));
+    appendSegment(out, 0xed, madeOrNothing([&] { return iptcPayload(blocks); }));
     qsizetype position = segments.insertAt;
     for (const JpegSegments::Range &range : segments.metadata) {
         out.append(encoded.constData() + position, range.start - position);
@@ -86,7 +96,8 @@ QByteArray graftedIntoTiff(const Metadata::Blocks &blocks, const QByteArray &enc
     const Exiv2::ByteOrder own = shape.littleEndian ? Exiv2::littleEndian : Exiv2::bigEndian;
     const Exiv2::ByteOrder order = shape.hasByteSamples ? blocks.byteOrder : own;
     return graftIntoTiff(encoded, {encodeExifBlock(blocks, shape.pixels, order, largestBlock),
-                                   xmpPacket(blocks, shape.pixels), iptcRecords(blocks)});
+                                   madeOrNothing([&] { return xmpPacket(blocks, shape.pixels); }),
+                                   madeOrNothing([&] { return iptcRecords(blocks); })});
 }
 
 QByteArray contentOf(Exiv2::Image &image)
@@ -117,7 +128,7 @@ QByteArray rewrittenTiff(const Metadata::Blocks &blocks, const QByteArray &encod
             there->setValue(&tag.value());
     }
     image->setIptcData(blocks.iptc);
-    const QByteArray packet = xmpPacket(blocks, pixels);
+    const QByteArray packet = madeOrNothing([&] { return xmpPacket(blocks, pixels); });
     image->clearXmpData();
     if (!packet.isEmpty() && Exiv2::XmpParser::decode(image->xmpData(), packet.toStdString()) == 0)
         image->setXmpPacket(packet.toStdString());

@@ -1,0 +1,414 @@
+#include "platform/foundation/atomic_file.h"
+#include "platform/imageio/metadata.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <cmath>
+
+using platform::Metadata;
+
+namespace {
+
+QString corpus(const QString &name)
+{
+    return QStringLiteral(QUORLIN_TEST_CORPUS "/") + name;
+}
+
+QVariantMap group(const QVariantMap &properties, const char *name)
+{
+    return properties.value(QString::fromLatin1(name)).toMap();
+}
+
+/** A tag as the other reader calls it, and where the dictionaries have it. */
+struct SameTag
+{
+    const char *theirs;
+    const char *group;
+    const char *key;
+};
+
+constexpr SameTag sameTags[] = {
+    {"ExifIFD:ExposureTime", "{Exif}", "ExposureTime"},
+    {"ExifIFD:FNumber", "{Exif}", "FNumber"},
+    {"ExifIFD:ExposureProgram", "{Exif}", "ExposureProgram"},
+    {"ExifIFD:ISO", "{Exif}", "ISOSpeedRatings"},
+    {"ExifIFD:DateTimeOriginal", "{Exif}", "DateTimeOriginal"},
+    {"ExifIFD:CreateDate", "{Exif}", "DateTimeDigitized"},
+    {"ExifIFD:ComponentsConfiguration", "{Exif}", "ComponentsConfiguration"},
+    {"ExifIFD:CompressedBitsPerPixel", "{Exif}", "CompressedBitsPerPixel"},
+    {"ExifIFD:BrightnessValue", "{Exif}", "BrightnessValue"},
+    {"ExifIFD:ExposureCompensation", "{Exif}", "ExposureBiasValue"},
+    {"ExifIFD:MeteringMode", "{Exif}", "MeteringMode"},
+    {"ExifIFD:LightSource", "{Exif}", "LightSource"},
+    {"ExifIFD:Flash", "{Exif}", "Flash"},
+    {"ExifIFD:FocalLength", "{Exif}", "FocalLength"},
+    {"ExifIFD:SubjectArea", "{Exif}", "SubjectArea"},
+    {"ExifIFD:SubSecTime", "{Exif}", "SubsecTime"},
+    {"ExifIFD:SubSecTimeOriginal", "{Exif}", "SubsecTimeOriginal"},
+    {"ExifIFD:SubSecTimeDigitized", "{Exif}", "SubsecTimeDigitized"},
+    {"ExifIFD:ColorSpace", "{Exif}", "ColorSpace"},
+    {"ExifIFD:ExifImageWidth", "{Exif}", "PixelXDimension"},
+    {"ExifIFD:ExifImageHeight", "{Exif}", "PixelYDimension"},
+    {"ExifIFD:FocalPlaneXResolution", "{Exif}", "FocalPlaneXResolution"},
+    {"ExifIFD:FocalPlaneResolutionUnit", "{Exif}", "FocalPlaneResolutionUnit"},
+    {"ExifIFD:SensingMethod", "{Exif}", "SensingMethod"},
+    {"ExifIFD:CustomRendered", "{Exif}", "CustomRendered"},
+    {"ExifIFD:ExposureMode", "{Exif}", "ExposureMode"},
+    {"ExifIFD:WhiteBalance", "{Exif}", "WhiteBalance"},
+    {"ExifIFD:DigitalZoomRatio", "{Exif}", "DigitalZoomRatio"},
+    {"ExifIFD:FocalLengthIn35mmFormat", "{Exif}", "FocalLenIn35mmFilm"},
+    {"ExifIFD:SceneCaptureType", "{Exif}", "SceneCaptureType"},
+    {"ExifIFD:Contrast", "{Exif}", "Contrast"},
+    {"ExifIFD:Saturation", "{Exif}", "Saturation"},
+    {"ExifIFD:Sharpness", "{Exif}", "Sharpness"},
+    {"ExifIFD:SubjectDistanceRange", "{Exif}", "SubjectDistRange"},
+    {"ExifIFD:ImageUniqueID", "{Exif}", "ImageUniqueID"},
+    {"ExifIFD:LensMake", "{Exif}", "LensMake"},
+    {"ExifIFD:LensModel", "{Exif}", "LensModel"},
+    {"ExifIFD:LensInfo", "{Exif}", "LensSpecification"},
+    {"ExifIFD:SerialNumber", "{Exif}", "BodySerialNumber"},
+    {"ExifIFD:OffsetTime", "{Exif}", "OffsetTime"},
+    {"ExifIFD:SensitivityType", "{Exif}", "SensitivityType"},
+    {"ExifIFD:UserComment", "{Exif}", "UserComment"},
+    {"IFD0:Make", "{TIFF}", "Make"},
+    {"IFD0:Model", "{TIFF}", "Model"},
+    {"IFD0:Orientation", "{TIFF}", "Orientation"},
+    {"IFD0:XResolution", "{TIFF}", "XResolution"},
+    {"IFD0:YResolution", "{TIFF}", "YResolution"},
+    {"IFD0:ResolutionUnit", "{TIFF}", "ResolutionUnit"},
+    {"IFD0:Software", "{TIFF}", "Software"},
+    {"IFD0:ModifyDate", "{TIFF}", "DateTime"},
+    {"IFD0:Artist", "{TIFF}", "Artist"},
+    {"IFD0:Copyright", "{TIFF}", "Copyright"},
+    {"IFD0:ImageDescription", "{TIFF}", "ImageDescription"},
+    {"IFD0:HostComputer", "{TIFF}", "HostComputer"},
+    {"IFD0:DocumentName", "{TIFF}", "DocumentName"},
+    {"IFD0:Compression", "{TIFF}", "Compression"},
+    {"IFD0:PhotometricInterpretation", "{TIFF}", "PhotometricInterpretation"},
+    {"GPS:GPSLatitude", "{GPS}", "Latitude"},
+    {"GPS:GPSLatitudeRef", "{GPS}", "LatitudeRef"},
+    {"GPS:GPSLongitude", "{GPS}", "Longitude"},
+    {"GPS:GPSLongitudeRef", "{GPS}", "LongitudeRef"},
+    {"GPS:GPSAltitude", "{GPS}", "Altitude"},
+    {"GPS:GPSAltitudeRef", "{GPS}", "AltitudeRef"},
+    {"GPS:GPSTimeStamp", "{GPS}", "TimeStamp"},
+    {"GPS:GPSDateStamp", "{GPS}", "DateStamp"},
+    {"GPS:GPSImgDirection", "{GPS}", "ImgDirection"},
+    {"GPS:GPSImgDirectionRef", "{GPS}", "ImgDirectionRef"},
+    {"GPS:GPSMapDatum", "{GPS}", "MapDatum"},
+    {"GPS:GPSSatellites", "{GPS}", "Satellites"},
+    {"GPS:GPSProcessingMethod", "{GPS}", "ProcessingMethod"},
+    {"GPS:GPSSpeed", "{GPS}", "Speed"},
+    {"IPTC:Keywords", "{IPTC}", "Keywords"},
+    {"IPTC:Caption-Abstract", "{IPTC}", "Caption/Abstract"},
+    {"IPTC:By-line", "{IPTC}", "Byline"},
+    {"IPTC:City", "{IPTC}", "City"},
+    {"IPTC:Province-State", "{IPTC}", "Province/State"},
+    {"IPTC:Country-PrimaryLocationName", "{IPTC}", "Country/PrimaryLocationName"},
+    {"IPTC:Headline", "{IPTC}", "Headline"},
+    {"IPTC:Credit", "{IPTC}", "Credit"},
+    {"IPTC:Source", "{IPTC}", "Source"},
+    {"IPTC:CopyrightNotice", "{IPTC}", "CopyrightNotice"},
+    {"IPTC:SpecialInstructions", "{IPTC}", "SpecialInstructions"},
+    {"IPTC:Urgency", "{IPTC}", "Urgency"},
+    {"IPTC:Category", "{IPTC}", "Category"},
+    {"IPTC:SupplementalCategories", "{IPTC}", "SupplementalCategory"},
+    {"IPTC:Writer-Editor", "{IPTC}", "Writer/Editor"},
+    {"XMP-dc:Creator", "{XMP}", "dc:creator"},
+    {"XMP-dc:Title", "{XMP}", "dc:title"},
+    {"XMP-dc:Subject", "{XMP}", "dc:subject"},
+    {"XMP-xmp:CreatorTool", "{XMP}", "xmp:CreatorTool"},
+};
+
+/** Words and numbers of a value in order, numbers to seven digits, so that two ways of printing can be compared. */
+QString comparable(const QVariant &value)
+{
+    QStringList words;
+    const bool isList = value.typeId() == QMetaType::QVariantList;
+    for (const QVariant &each : isList ? value.toList() : QVariantList{value})
+        words += each.toString().split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+    for (QString &word : words) {
+        bool ok = false;
+        const double number = word.toDouble(&ok);
+        if (ok)
+            word = QString::number(number, 'g', 7);
+    }
+    return words.join(u' ');
+}
+
+QByteArray smallJpeg()
+{
+    QImage image(16, 16, QImage::Format_RGB888);
+    image.fill(Qt::gray);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "JPEG");
+    return buffer.data();
+}
+
+} // namespace
+
+class MetadataProperties : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void agreesWithAnotherReader_data();
+    void agreesWithAnotherReader();
+    void goesThereAndBack_data();
+    void goesThereAndBack();
+    void givesValuesTheirTypes();
+    void turnsACoordinateIntoDegrees_data();
+    void turnsACoordinateIntoDegrees();
+    void statesTheResolutionInDotsPerInch_data();
+    void statesTheResolutionInDotsPerInch();
+    void passesOverWhatNoTagCanHold_data();
+    void passesOverWhatNoTagCanHold();
+    void setsTheTopLevelKeys();
+    void takesTheUsualSpellingsToo();
+    void isEmptyForNothing();
+
+private:
+    static QStringList pictures();
+};
+
+QStringList MetadataProperties::pictures()
+{
+    QStringList paths;
+    for (const char *folder : {"exif-real", "formats", "dpi", "orientation"})
+        for (const QString &name : QDir(corpus(QString::fromLatin1(folder))).entryList(QDir::Files))
+            if (!name.endsWith(QLatin1String(".pdf")) && !name.endsWith(QLatin1String(".svg")) &&
+                name != QLatin1String("hopper_bigtiff.tif"))
+                paths << corpus(QString::fromLatin1(folder)) + u'/' + name;
+    return paths;
+}
+
+void MetadataProperties::agreesWithAnotherReader_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QVariantMap>("theirs");
+    const QStringList paths = pictures();
+    QProcess reader;
+    reader.start(QStringLiteral("exiftool"),
+                 QStringList{QStringLiteral("-j"), QStringLiteral("-n"), QStringLiteral("-G1"), QStringLiteral("-q")} +
+                     paths);
+    reader.waitForFinished(120000);
+    for (const QJsonValue &file : QJsonDocument::fromJson(reader.readAllStandardOutput()).array()) {
+        const QVariantMap values = file.toObject().toVariantMap();
+        const QString path = values.value(QStringLiteral("SourceFile")).toString();
+        QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path << values;
+    }
+    if (QStandardPaths::findExecutable(QStringLiteral("exiftool")).isEmpty() || paths.isEmpty())
+        QTest::newRow("nothing to compare with") << QString() << QVariantMap();
+}
+
+void MetadataProperties::agreesWithAnotherReader()
+{
+    QFETCH(QString, path);
+    QFETCH(QVariantMap, theirs);
+    if (path.isEmpty())
+        QSKIP("exiftool or the shared pictures are not here");
+    const QVariantMap properties = Metadata::fromFileBytes(platform::readFile(path).value()).toProperties();
+    QStringList differences;
+    for (const SameTag &tag : sameTags) {
+        const QVariant expected = theirs.value(QString::fromLatin1(tag.theirs));
+        const QVariant value = group(properties, tag.group).value(QString::fromLatin1(tag.key));
+        if (expected.isValid() && comparable(value) != comparable(expected))
+            differences << QStringLiteral("%1: %2 but %3")
+                               .arg(QLatin1String(tag.theirs), comparable(value), comparable(expected))
+                               .left(200);
+    }
+    QCOMPARE(differences.join(u'\n'), QString());
+}
+
+void MetadataProperties::goesThereAndBack_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const QString &path : pictures())
+        QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
+    if (pictures().isEmpty())
+        QTest::newRow("no pictures") << QString();
+}
+
+void MetadataProperties::goesThereAndBack()
+{
+    QFETCH(QString, path);
+    if (path.isEmpty())
+        QSKIP("The shared pictures are not here");
+    const QVariantMap before = Metadata::fromFileBytes(platform::readFile(path).value()).toProperties();
+    const auto written = Metadata::fromProperties(before).writtenInto(smallJpeg());
+    QVERIFY(written);
+    const QVariantMap after = Metadata::fromFileBytes(*written).toProperties();
+    QStringList differences;
+    for (const char *name : {"{Exif}", "{TIFF}", "{GPS}", "{IPTC}"}) {
+        const QVariantMap was = group(before, name);
+        for (auto entry = was.begin(); entry != was.end(); ++entry) {
+            static const QStringList others = {
+                QStringLiteral("Compression"), QStringLiteral("PhotometricInterpretation"), // of the old file
+                QStringLiteral("PixelXDimension"), QStringLiteral("PixelYDimension"),       // set anew
+                QStringLiteral("MakerNote")}; // goes from file to file, not through a dictionary
+            const QVariant is = group(after, name).value(entry.key());
+            if (!others.contains(entry.key()) && comparable(is) != comparable(*entry))
+                differences << entry.key() + QStringLiteral(": ") + comparable(is).left(60) + QStringLiteral(" but ") +
+                                   comparable(*entry).left(60);
+        }
+    }
+    QCOMPARE(differences.join(u'\n'), QString());
+    QCOMPARE(after.value(QStringLiteral("Orientation")), before.value(QStringLiteral("Orientation")));
+    QCOMPARE(comparable(after.value(QStringLiteral("DPIWidth"))), comparable(before.value(QStringLiteral("DPIWidth"))));
+}
+
+void MetadataProperties::givesValuesTheirTypes()
+{
+    const QVariantMap exif = {{QStringLiteral("ISOSpeedRatings"), QVariantList{400}},
+                              {QStringLiteral("ExposureTime"), 0.004},
+                              {QStringLiteral("Flash"), 16},
+                              {QStringLiteral("ExifVersion"), QVariantList{2, 3, 1}},
+                              {QStringLiteral("FlashPixVersion"), QVariantList{1, 0}},
+                              {QStringLiteral("DateTimeOriginal"), QStringLiteral("2026:11:16 03:52:09")},
+                              {QStringLiteral("SceneType"), 1},
+                              {QStringLiteral("UserComment"), QStringLiteral("写真 😀")},
+                              {QStringLiteral("LensSpecification"), QVariantList{24, 70, 2.8, 2.8}},
+                              {QStringLiteral("ExposureBiasValue"), -2.0 / 3}};
+    const QVariantMap properties = Metadata::fromProperties({{QStringLiteral("{Exif}"), exif}}).toProperties();
+    const QVariantMap read = group(properties, "{Exif}");
+    QCOMPARE(read.value(QStringLiteral("ExposureBiasValue")).toDouble(), -2.0 / 3);
+    for (const char *key : {"ISOSpeedRatings", "ExposureTime", "Flash", "ExifVersion", "FlashPixVersion",
+                            "DateTimeOriginal", "SceneType", "UserComment", "LensSpecification"}) {
+        const QString name = QString::fromLatin1(key);
+        QCOMPARE(read.value(name).typeId(), exif.value(name).typeId());
+        QCOMPARE(read.value(name), exif.value(name));
+    }
+    QCOMPARE(properties.keys(), QStringList(QStringLiteral("{Exif}")));
+}
+
+void MetadataProperties::turnsACoordinateIntoDegrees_data()
+{
+    QTest::addColumn<double>("degrees");
+    for (const double degrees : {0.0, 52.520008, 89.999999, 1.0, 0.5, 59.99999999})
+        QTest::addRow("%.8f", degrees) << degrees;
+}
+
+void MetadataProperties::turnsACoordinateIntoDegrees()
+{
+    QFETCH(double, degrees);
+    const QVariantMap gps = {{QStringLiteral("Latitude"), -degrees}, {QStringLiteral("Longitude"), degrees}};
+    const QVariantMap read = group(Metadata::fromProperties({{QStringLiteral("{GPS}"), gps}}).toProperties(), "{GPS}");
+    constexpr double millimetres = 5e-8;
+    QVERIFY(std::abs(read.value(QStringLiteral("Latitude")).toDouble() - degrees) < millimetres);
+    QVERIFY(std::abs(read.value(QStringLiteral("Longitude")).toDouble() - degrees) < millimetres);
+    QCOMPARE(read.value(QStringLiteral("LatitudeRef")).toString(),
+             degrees > 0 ? QStringLiteral("S") : QStringLiteral("N"));
+    QCOMPARE(read.value(QStringLiteral("LongitudeRef")).toString(), QStringLiteral("E"));
+}
+
+void MetadataProperties::statesTheResolutionInDotsPerInch_data()
+{
+    QTest::addColumn<QVariant>("unit");
+    QTest::addColumn<double>("stated");
+    QTest::addColumn<double>("perInch");
+    QTest::newRow("inches") << QVariant(2) << 300.0 << 300.0;
+    QTest::newRow("centimetres") << QVariant(3) << 100.0 << 254.0;
+    QTest::newRow("unit left out means inches") << QVariant() << 180.0 << 180.0;
+    QTest::newRow("a number without a unit") << QVariant(1) << 300.0 << 0.0;
+    QTest::newRow("an unknown unit") << QVariant(7) << 300.0 << 0.0;
+    QTest::newRow("zero") << QVariant(2) << 0.0 << 0.0;
+}
+
+void MetadataProperties::statesTheResolutionInDotsPerInch()
+{
+    QFETCH(QVariant, unit);
+    QFETCH(double, stated);
+    QFETCH(double, perInch);
+    QVariantMap tiff = {{QStringLiteral("XResolution"), stated}, {QStringLiteral("YResolution"), stated}};
+    if (unit.isValid())
+        tiff.insert(QStringLiteral("ResolutionUnit"), unit);
+    const QVariantMap properties = Metadata::fromProperties({{QStringLiteral("{TIFF}"), tiff}}).toProperties();
+    QCOMPARE(properties.value(QStringLiteral("DPIWidth")).toDouble(), perInch);
+    QCOMPARE(properties.contains(QStringLiteral("DPIHeight")), perInch > 0);
+}
+
+void MetadataProperties::passesOverWhatNoTagCanHold_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](const char *groupName, const char *key, const QVariant &value) {
+        QTest::addRow("%s %s %s", groupName, key, qPrintable(value.toString()))
+            << QString::fromLatin1(groupName) << QString::fromLatin1(key) << value;
+    };
+    row("{Exif}", "NoSuchTag", 1);
+    row("{Exif}", "", 1);
+    row("{Exif}", "Flash", QStringLiteral("on"));
+    row("{Exif}", "Flash", -1);
+    row("{Exif}", "Flash", 70000);
+    row("{Exif}", "Flash", qQNaN());
+    row("{Exif}", "ExposureTime", qInf());
+    row("{Exif}", "ExposureTime", -1.0);
+    row("{Exif}", "ExposureTime", QVariantMap());
+    row("{Exif}", "DateTimeOriginal", QVariantMap());
+    row("{Exif}", "ComponentsConfiguration", QVariantList{1, 2, 300});
+    row("{GPS}", "TimeStamp", QStringLiteral("noon"));
+    row("{GPS}", "Latitude", QStringLiteral("north"));
+    row("{IPTC}", "NoSuchDataSet", QStringLiteral("x"));
+    row("{TIFF}", "Orientation", QStringLiteral("upright"));
+    row("Orientation", "", 9);
+    row("{Exif}", "Exif.Photo.Flash", 1);
+}
+
+void MetadataProperties::passesOverWhatNoTagCanHold()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, key);
+    QFETCH(QVariant, value);
+    const QVariantMap odd = {{key, value}, {QStringLiteral("unheard of"), value}};
+    QVariantMap properties = {{name, key.isEmpty() ? value : QVariant(odd)}};
+    const Metadata metadata = Metadata::fromProperties(properties);
+    QCOMPARE(metadata.toProperties(), QVariantMap());
+    QVERIFY(metadata.isEmpty());
+}
+
+void MetadataProperties::setsTheTopLevelKeys()
+{
+    const QVariantMap properties = {{QStringLiteral("Orientation"), 6},
+                                    {QStringLiteral("DPIWidth"), 240},
+                                    {QStringLiteral("DPIHeight"), 120.5},
+                                    {QStringLiteral("PixelWidth"), 4000}};
+    const Metadata metadata = Metadata::fromProperties(properties);
+    QCOMPARE(metadata.orientation(), 6);
+    const QVariantMap read = metadata.toProperties();
+    QCOMPARE(read.value(QStringLiteral("DPIWidth")).toDouble(), 240.0);
+    QCOMPARE(read.value(QStringLiteral("DPIHeight")).toDouble(), 120.5);
+    QCOMPARE(read.value(QStringLiteral("Orientation")).toInt(), 6);
+}
+
+void MetadataProperties::takesTheUsualSpellingsToo()
+{
+    const QVariantMap exif = {{QStringLiteral("FocalLengthIn35mmFilm"), 50},
+                              {QStringLiteral("FlashpixVersion"), QByteArray("0100")}};
+    const QVariantMap read =
+        group(Metadata::fromProperties({{QStringLiteral("{Exif}"), exif}}).toProperties(), "{Exif}");
+    QCOMPARE(read.value(QStringLiteral("FocalLenIn35mmFilm")).toInt(), 50);
+    QCOMPARE(read.value(QStringLiteral("FlashPixVersion")).toList(), QVariantList({1, 0}));
+}
+
+void MetadataProperties::isEmptyForNothing()
+{
+    QVERIFY(Metadata().isEmpty());
+    QVERIFY(Metadata::fromProperties({}).isEmpty());
+    QVERIFY(Metadata::fromBlocks({}).isEmpty());
+    QCOMPARE(Metadata().toProperties(), QVariantMap());
+    QCOMPARE(Metadata().writtenInto(smallJpeg()).value(), smallJpeg());
+}
+
+QTEST_GUILESS_MAIN(MetadataProperties)
+#include "tst_metadata_properties.moc"
