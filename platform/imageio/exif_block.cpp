@@ -133,13 +133,18 @@ QByteArray encodeExifBlock(const Metadata::Blocks &blocks, QSize pixels, Exiv2::
             return block;
     }
     Exiv2::ExifData exif = exifForNewFile(blocks.exif, pixels, MakerNotes::Keep);
-    const QByteArray whole = attemptBlock(exif, order, sizeLimit);
-    if (!whole.isEmpty())
-        return whole;
-    exif = exifForNewFile(blocks.exif, pixels, MakerNotes::Drop);
-    const QByteArray plain = attemptBlock(exif, order, sizeLimit);
-    if (!plain.isEmpty())
-        return plain;
+    const auto withAllTags = attemptBlock(exif, order, sizeLimit);
+    if (!withAllTags.isEmpty())
+        return withAllTags;
+    constexpr long longestValue = 16384;
+    removeTags(exif, [](const Exiv2::Exifdatum &tag) { return tag.size() > longestValue; });
+    const QByteArray withoutLongTags = attemptBlock(exif, order, sizeLimit);
+    if (!withoutLongTags.isEmpty())
+        return withoutLongTags;
+    removeTags(exif, isMakerNote);
+    const QByteArray withoutMakerNotes = attemptBlock(exif, order, sizeLimit);
+    if (!withoutMakerNotes.isEmpty())
+        return withoutMakerNotes;
     removeTags(exif, [](const Exiv2::Exifdatum &tag) { return !isCommon(tag); });
     return attemptBlock(exif, order, sizeLimit);
 }

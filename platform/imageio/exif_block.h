@@ -15,7 +15,8 @@ enum class MakerNotes { Keep, Drop };
  *
  * In the order in which it was read the original block is used, changed in place (exifBlockInPlace()). Otherwise, and
  * where there is none, it is made anew; what then cannot be encoded, or does not fit into @p sizeLimit bytes, is left
- * behind step by step: first the maker notes, then all but the common tags. Empty where nothing is left to write.
+ * behind step by step: first very long values, then the maker notes, then all but the common tags. Empty where
+ * nothing is left to write.
  */
 QByteArray encodeExifBlock(const Metadata::Blocks &blocks, QSize pixels, Exiv2::ByteOrder order, qsizetype sizeLimit);
 

@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -148,6 +149,21 @@ private Q_SLOTS:
     void survivesInATiff();
     void survivesInATiffOf16Bits_data();
     void survivesInATiffOf16Bits();
+
+    void survivesInALargeTiffOfManyStrips();
+    void leavesTheStructureOfATiffAlone();
+    void setsTheSizeInPixelsAnew_data();
+    void setsTheSizeInPixelsAnew();
+    void leavesTheThumbnailBehind();
+    void keepsTheCommentInTheFilesByteOrder_data();
+    void keepsTheCommentInTheFilesByteOrder();
+    void takesBlocksFromAnotherDecoder();
+    void changesTheOrientationWhereOneIsStated();
+    void refusesOtherFiles_data();
+    void refusesOtherFiles();
+    void carriesWhatASegmentCannotHoldInPart();
+    void survivesBrokenFiles_data();
+    void survivesBrokenFiles();
 
 private:
     QStringList soundPictures() const;
@@ -297,6 +313,184 @@ void TheMetadata::survivesInATiffOf16Bits_data()
 void TheMetadata::survivesInATiffOf16Bits()
 {
     checkCarried(smallFile(platform::FileFormat::Tiff, QImage::Format_RGBX64));
+}
+
+void TheMetadata::survivesInALargeTiffOfManyStrips()
+{
+    QImage image(3000, 2000, QImage::Format_RGB888);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, qRgb(x * y % 251, (x + y) % 241, (x ^ y) % 239));
+    const auto plain = platform::encodeImage(platform::Bitmap::fromImage(image), platform::FileFormat::Tiff);
+    QVERIFY(plain);
+    const Metadata metadata = metadataOfPicture(QStringLiteral("exif-real/DSCN0010.jpg"));
+    const auto written = metadata.writtenInto(*plain);
+    QVERIFY(written);
+    QVERIFY(written->size() > plain->size());
+    QCOMPARE(storedPixels(*written), storedPixels(*plain));
+    const QVariantMap properties = Metadata::fromFileBytes(*written).toProperties();
+    QCOMPARE(properties.value(QStringLiteral("DPIWidth")).toDouble(), 300.0);
+    QCOMPARE(properties.value(QStringLiteral("{GPS}")), metadata.toProperties().value(QStringLiteral("{GPS}")));
+}
+
+/** Of a turned, compressed, tiled TIFF with a profile in the metadata's source nothing but the turn may come along. */
+void TheMetadata::leavesTheStructureOfATiffAlone()
+{
+    const QByteArray plain = smallFile(platform::FileFormat::Tiff);
+    const auto sourceOf = [](const QByteArray &file) { return platform::ImageSource::fromData(file).value(); };
+    for (const char *name : {"orientation/g4_orientation_6.tif", "formats/tiff_strip_cmyk_jpeg.tif",
+                             "formats/hopper.Lab.tif", "formats/IMG_1361.dng", "formats/g4-multi.tiff"}) {
+        const Metadata metadata = Metadata::fromFileBytes(contentOf(corpus(QString::fromLatin1(name))));
+        const auto written = metadata.writtenInto(plain);
+        QVERIFY2(written, name);
+        QCOMPARE(storedPixels(*written), storedPixels(plain));
+        QCOMPARE(sourceOf(*written).storedSize(), sourceOf(plain).storedSize());
+        QCOMPARE(sourceOf(*written).imageCount(), 1);
+        QCOMPARE(sourceOf(*written).orientation(), std::max(1, metadata.orientation()));
+        QCOMPARE(sourceOf(*written).decode().value().iccProfile(), sourceOf(plain).decode().value().iccProfile());
+    }
+}
+
+void TheMetadata::setsTheSizeInPixelsAnew_data()
+{
+    QTest::addColumn<QByteArray>("plain");
+    QTest::addColumn<QString>("path");
+    for (const char *path : {"exif-real/DSCN0010.jpg", "exif-real/Reagan.jpg", "formats/tiff_16bit_RGBa.tiff"}) {
+        QTest::addRow("JPEG %s", path) << smallFile(platform::FileFormat::Jpeg) << QString::fromLatin1(path);
+        QTest::addRow("TIFF %s", path) << smallFile(platform::FileFormat::Tiff) << QString::fromLatin1(path);
+    }
+}
+
+void TheMetadata::setsTheSizeInPixelsAnew()
+{
+    QFETCH(QByteArray, plain);
+    QFETCH(QString, path);
+    const auto written = metadataOfPicture(path).writtenInto(plain);
+    QVERIFY(written);
+    const QVariantMap properties = Metadata::fromFileBytes(*written).toProperties();
+    const QVariantMap exif = properties.value(QStringLiteral("{Exif}")).toMap();
+    QCOMPARE(exif.value(QStringLiteral("PixelXDimension")).toInt(), 64);
+    QCOMPARE(exif.value(QStringLiteral("PixelYDimension")).toInt(), 48);
+}
+
+void TheMetadata::leavesTheThumbnailBehind()
+{
+    const QString path = QStringLiteral("exif-real/DSCN0010.jpg");
+    const QByteArray original = contentOf(corpus(path));
+    QVERIFY(original.indexOf("\xff\xd8\xff", 2) > 0); // there is one
+    const auto written = metadataOfPicture(path).writtenInto(smallFile(platform::FileFormat::Jpeg));
+    QVERIFY(written);
+    QCOMPARE(written->indexOf("\xff\xd8\xff", 2), -1);
+}
+
+void TheMetadata::keepsTheCommentInTheFilesByteOrder_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const char *path : {"exif-real/uc-ascii.jpg", "exif-real/uc-unicode.jpg", "exif-real/uc-undefined-charset.jpg",
+                             "exif-real/PaintTool_sample.jpg", "formats/Stonehenge.heic"})
+        QTest::newRow(path) << QString::fromLatin1(path);
+}
+
+void TheMetadata::keepsTheCommentInTheFilesByteOrder()
+{
+    QFETCH(QString, path);
+    const Metadata metadata = metadataOfPicture(path);
+    QVERIFY(!metadata.userComment().isEmpty());
+    for (const QByteArray &plain : {smallFile(platform::FileFormat::Jpeg), smallFile(platform::FileFormat::Tiff),
+                                    smallFile(platform::FileFormat::Tiff, QImage::Format_RGBX64)}) {
+        const auto written = metadata.writtenInto(plain);
+        QVERIFY(written);
+        QCOMPARE(Metadata::fromFileBytes(*written).userComment(), metadata.userComment());
+    }
+}
+
+void TheMetadata::takesBlocksFromAnotherDecoder()
+{
+    const QByteArray jpeg = contentOf(corpus(QStringLiteral("exif-real/uc-unicode.jpg")));
+    const qsizetype start = jpeg.indexOf(QByteArray("Exif\0\0", 6));
+    const QByteArray block = jpeg.mid(start, 60000);
+    const QVariantMap whole = Metadata::fromFileBytes(jpeg).toProperties();
+    for (const QByteArray &each : {block, block.mid(6)}) {
+        const Metadata metadata = Metadata::fromBlocks(each);
+        QCOMPARE(metadata.toProperties().value(QStringLiteral("{Exif}")), whole.value(QStringLiteral("{Exif}")));
+    }
+    for (const QByteArray &junk : {QByteArray("x"), QByteArray(5000, '\xff'), QByteArray("II*\0\xff\xff\xff\xff", 8)})
+        QVERIFY(Metadata::fromBlocks(junk, junk, junk).isEmpty());
+}
+
+void TheMetadata::changesTheOrientationWhereOneIsStated()
+{
+    const QByteArray plain = smallFile(platform::FileFormat::Jpeg);
+    const Metadata turned = metadataOfPicture(QStringLiteral("orientation/landscape_6.jpg")).withOrientation(1);
+    QCOMPARE(turned.orientation(), 1);
+    QCOMPARE(Metadata::fromFileBytes(turned.writtenInto(plain).value()).orientation(), 1);
+    QCOMPARE(Metadata().withOrientation(6).orientation(), 0);
+}
+
+void TheMetadata::refusesOtherFiles_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::newRow("PNG") << smallFile(platform::FileFormat::Png);
+    QTest::newRow("BMP") << smallFile(platform::FileFormat::Bmp);
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("start of a JPEG") << QByteArray("\xff\xd8");
+    QTest::newRow("a JPEG without a scan") << smallFile(platform::FileFormat::Jpeg).left(300);
+}
+
+void TheMetadata::refusesOtherFiles()
+{
+    QFETCH(QByteArray, file);
+    const auto written = metadataOfPicture(QStringLiteral("exif-real/DSCN0010.jpg")).writtenInto(file);
+    QVERIFY(!written);
+    QCOMPARE(written.error().code, platform::ErrorCode::Unsupported);
+}
+
+/** A segment of a JPEG ends at 64 KB, and a script may put a longer text into one. */
+void TheMetadata::carriesWhatASegmentCannotHoldInPart()
+{
+    const QVariantMap exif = {{QStringLiteral("UserComment"), QString(80000, u'x')}};
+    const QVariantMap tiff = {{QStringLiteral("Artist"), QStringLiteral("Anna")}};
+    const QByteArray plain = smallFile(platform::FileFormat::Jpeg);
+    const auto written = Metadata::fromProperties({{QStringLiteral("{Exif}"), exif}, {QStringLiteral("{TIFF}"), tiff}})
+                             .writtenInto(plain);
+    QVERIFY(written);
+    QCOMPARE(storedPixels(*written), storedPixels(plain));
+    const QVariantMap read = Metadata::fromFileBytes(*written).toProperties();
+    QCOMPARE(read.value(QStringLiteral("{TIFF}")).toMap(), tiff);
+}
+
+void TheMetadata::survivesBrokenFiles_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const Row &row : std::as_const(m_rows))
+        if (row.value(QStringLiteral("bytes")).toInt() < 300000)
+            QTest::newRow(qPrintable(row.value(QStringLiteral("path")))) << row.value(QStringLiteral("path"));
+}
+
+/** Everything that can be done with the metadata of a file, with bytes of its beginning spoilt and its end cut off. */
+void TheMetadata::survivesBrokenFiles()
+{
+    QFETCH(QString, path);
+    const QByteArray original = contentOf(corpus(path));
+    const QByteArray jpeg = smallFile(platform::FileFormat::Jpeg);
+    const QByteArray tiff = smallFile(platform::FileFormat::Tiff);
+    QRandomGenerator random(20260816);
+    for (int round = 0; round < 8; ++round) {
+        QByteArray broken = original;
+        const qsizetype head = std::min<qsizetype>(broken.size(), round % 2 == 0 ? 400 : 40000);
+        for (int spoilt = 0; head > 0 && spoilt < 1 + round; ++spoilt)
+            broken[random.bounded(qint64(head))] = round % 3 == 0 ? '\xff' : char(random.bounded(256));
+        if (round % 4 == 3 && !broken.isEmpty())
+            broken.truncate(random.bounded(qint64(broken.size())));
+        const Metadata metadata = Metadata::fromFileBytes(broken);
+        const Metadata again = Metadata::fromProperties(metadata.toProperties());
+        for (const Metadata &each : {metadata, again})
+            for (const QByteArray &plain : {jpeg, tiff}) {
+                const auto written = each.writtenInto(plain);
+                QVERIFY(written);
+                QCOMPARE(storedPixels(*written), storedPixels(plain));
+            }
+    }
 }
 
 QTEST_GUILESS_MAIN(TheMetadata)
