@@ -1,7 +1,12 @@
 #include "app/script/registry.h"
 
+#include "app/MyObjectControler.h"
+#include "app/ZtFFullScreen.h"
+#include "app/mainViewController.h"
+#include "app/mainWindowClass.h"
 #include "app/script/picture_object.h"
 
+#include "files/cToolBox.h"
 #include "image/ZtImageHandling.h"
 #include "platform/desktop/stand_ins.h"
 
@@ -23,17 +28,33 @@ ServiceEntry pictures()
 
 } // namespace
 
+// One class a line, so that two who add one do not meet.
+// clang-format off
 std::vector<ServiceEntry> registeredServices()
 {
     return {
-        serviceEntry<ZtImageHandling>(),      pictures(),
-        standIn<platform::TextField>(),       standIn<platform::CheckBox>(),
-        standIn<platform::ColorWell>(),       standIn<platform::SegmentedControl>(),
-        standIn<platform::TabView>(),         standIn<platform::PopUpButton>(),
-        standIn<platform::TextView>(),        standIn<platform::ProgressIndicator>(),
-        standIn<platform::ArrayController>(), standIn<platform::TableView>(),
-        standIn<platform::TreeController>(),  standIn<platform::Window>(),
+        serviceEntry<MyModel>(),
+        serviceEntry<MyObjectControler>(),
+        serviceEntry<ZtFFullScreen>(),
+        serviceEntry<ZtImageHandling>(),
+        serviceEntry<cToolBox>(),
+        serviceEntry<mainViewController>(),
+        serviceEntry<mainWindowClass>(),
+        pictures(),
+        standIn<platform::TextField>(),
+        standIn<platform::CheckBox>(),
+        standIn<platform::ColorWell>(),
+        standIn<platform::SegmentedControl>(),
+        standIn<platform::TabView>(),
+        standIn<platform::PopUpButton>(),
+        standIn<platform::TextView>(),
+        standIn<platform::ProgressIndicator>(),
+        standIn<platform::ArrayController>(),
+        standIn<platform::TableView>(),
+        standIn<platform::TreeController>(),
+        standIn<platform::Window>(),
     };
 }
+// clang-format on
 
 } // namespace script

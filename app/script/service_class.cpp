@@ -1,6 +1,7 @@
 #include "app/script/service_class.h"
 
 #include "platform/foundation/flag.h"
+#include "platform/foundation/sender.h"
 #include "platform/graphics/picture.h"
 #include "platform/imageio/image_source.h"
 
@@ -32,6 +33,7 @@ const QHash<int, Kind> &kindsById()
         {QMetaType::Float, Kind::Single},
         {QMetaType::Bool, Kind::Truth},
         {idOf<platform::Flag>(), Kind::Flag},
+        {idOf<platform::Sender>(), Kind::Sender},
         {QMetaType::QVariant, Kind::Any},
         {QMetaType::QVariantMap, Kind::Dictionary},
         {QMetaType::QVariantList, Kind::List},

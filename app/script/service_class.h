@@ -21,6 +21,7 @@ enum class Kind {
     Single,      ///< float
     Truth,       ///< bool
     Flag,        ///< platform::Flag: a boolean or a number
+    Sender,      ///< platform::Sender: whatever the script has
     Any,         ///< QVariant: text, number, list, dictionary or null
     Dictionary,  ///< QVariantMap
     List,        ///< QVariantList

@@ -4,6 +4,7 @@
 
 #include "platform/foundation/flag.h"
 #include "platform/foundation/raised.h"
+#include "platform/foundation/sender.h"
 
 #include <QDateTime>
 #include <QJSValueIterator>
@@ -86,6 +87,10 @@ QVariant Values::toNative(const QJSValue &value, Kind kind, QMetaType type, cons
 QVariant Values::compositeToNative(const QJSValue &value, Kind kind, QMetaType type, const QString &name) const
 {
     switch (kind) {
+    case Kind::Sender:
+        if (value.isUndefined())
+            reject(QStringLiteral("an object or null"), name, value);
+        return QVariant::fromValue(platform::Sender());
     case Kind::Any:
         return anyToNative(value, name, 0);
     case Kind::Dictionary:

@@ -1,0 +1,3 @@
+#include "app/mainWindowClass.h"
+
+void mainWindowClass::windowDidLoad() {}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QObject>
+
+/** The controller of the main window. */
+class mainWindowClass : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Called when the window was loaded; its look comes from its interface file, so that nothing is left to do. */
+    Q_INVOKABLE void windowDidLoad();
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <functional>
+
+namespace platform {
+
+/** Whether the menu bar of the application is to be seen; it is at the start. Main thread only. */
+bool isMenuBarVisible();
+void setMenuBarVisible(bool visible);
+
+/** Sets what shows and hides the real menu bar; it is called at once with the present state. Empty for none. */
+void setMenuBarPresenter(std::function<void(bool visible)> presenter);
+
+} // namespace platform
