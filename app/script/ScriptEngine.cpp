@@ -77,7 +77,10 @@ void ScriptEngine::registerOwnModules()
 
 bool ScriptEngine::registerModule(const QString &name, const QJSValue &value)
 {
-    return m_engine->registerModule(name, value);
+    if (m_modules.contains(name) || !m_engine->registerModule(name, value))
+        return false;
+    m_modules.insert(name);
+    return true;
 }
 
 platform::Result<QJSValue> ScriptEngine::importFile(const QString &path)
@@ -89,7 +92,14 @@ platform::Result<QJSValue> ScriptEngine::importFile(const QString &path)
     // The engine would hand out a module again that stopped half way.
     if (const auto failed = m_failedModules.constFind(file); failed != m_failedModules.constEnd())
         return platform::failure(platform::ErrorCode::InvalidValue, *failed);
-    auto module = run([this, file] { return m_engine->importModule(file); }, file);
+    const auto load = [this, file] {
+        const QJSValue loaded = m_engine->importModule(file);
+        // What fails before anything runs is answered, not thrown.
+        if (!m_engine->hasError() && loaded.isError())
+            m_engine->throwError(loaded);
+        return loaded;
+    };
+    auto module = run(hostName + QStringLiteral(".run()"), load, file);
     if (!module)
         m_failedModules.insert(file, module.error().message);
     return module;
@@ -100,32 +110,29 @@ platform::Result<QJSValue> ScriptEngine::call(const QJSValue &function, const QJ
 {
     if (!function.isCallable())
         return platform::failure(platform::ErrorCode::InvalidValue, tr("This is not a function of a script"));
-    return run(
-        [=] {
-            return thisObject.isUndefined() ? function.call(arguments)
-                                            : function.callWithInstance(thisObject, arguments);
-        },
-        {});
+    // Only a call from inside the engine tells what was thrown from what was returned.
+    QJSValue list = m_engine->newArray(uint(arguments.size()));
+    for (qsizetype i = 0; i < arguments.size(); ++i)
+        list.setProperty(quint32(i), arguments.at(i));
+    QJSValue parts = m_engine->newObject();
+    parts.setProperty(QStringLiteral("f"), function);
+    parts.setProperty(QStringLiteral("object"), thisObject);
+    parts.setProperty(QStringLiteral("list"), list);
+    return run(QStringLiteral("(c => c.f.apply(c.object, c.list))(%1.run())").arg(hostName), [parts] { return parts; },
+               {});
 }
 
-platform::Result<QJSValue> ScriptEngine::run(Body body, const QString &file)
+platform::Result<QJSValue> ScriptEngine::run(const QString &program, const Body &body, const QString &file)
 {
-    bool isThrown = false;
     HostCall host([&] {
         m_engine->globalObject().deleteProperty(hostName);
-        const QJSValue value = body();
-        isThrown = m_engine->hasError();
-        if (!isThrown && value.isError()) {
-            isThrown = true;
-            m_engine->throwError(value);
-        }
-        return value;
+        return body();
     });
     QJSEngine::setObjectOwnership(&host, QJSEngine::CppOwnership);
     m_engine->globalObject().setProperty(hostName, m_engine->newQObject(&host));
     QStringList trace;
-    const QJSValue value = m_engine->evaluate(hostName + QStringLiteral(".run()"), {}, 1, &trace);
-    if (!isThrown)
+    const QJSValue value = m_engine->evaluate(program, {}, 1, &trace);
+    if (trace.isEmpty())
         return value;
     return platform::failure(platform::ErrorCode::InvalidValue, describe(value, trace, file));
 }

@@ -3,6 +3,7 @@
 #include "app/script/registry.h"
 #include "platform/foundation/result.h"
 
+#include <QHash>
 #include <QJSValue>
 #include <QObject>
 #include <QSet>
@@ -83,15 +84,15 @@ Q_SIGNALS:
 
 private:
     using Body = std::function<QJSValue()>;
-    friend class HostCall;
 
-    platform::Result<QJSValue> run(Body body, const QString &file);
+    platform::Result<QJSValue> run(const QString &program, const Body &body, const QString &file);
     QString describe(const QJSValue &error, const QStringList &trace, const QString &file) const;
     void reportWarnings(const QList<QQmlError> &warnings);
     void registerOwnModules();
 
     std::unique_ptr<Seam> m_seam;
     std::unique_ptr<QQmlEngine> m_engine;
+    QSet<QString> m_modules;
     QHash<QString, QString> m_failedModules;
 };
 

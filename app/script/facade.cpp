@@ -99,7 +99,12 @@ const char *const source = R"js((function (seam) {
         return { make: Object.freeze(make), wrap: native => wrap(prototype, fields, native) };
     }
 
-    return { define, nativeOf, ITSELF };
+    // Plain assignment fails, since the engine has made the name that all errors share read only.
+    function setName(error, name) {
+        Object.defineProperty(error, "name", { value: name, writable: true, configurable: true });
+    }
+
+    return { define, nativeOf, setName, ITSELF };
 }))js";
 
 } // namespace

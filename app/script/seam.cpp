@@ -75,6 +75,7 @@ Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engi
     Q_ASSERT_X(!facades.isError(), "seam", qPrintable(facades.toString()));
     m_define = facades.property(QStringLiteral("define"));
     m_nativeOf = facades.property(QStringLiteral("nativeOf"));
+    m_setName = facades.property(QStringLiteral("setName"));
     m_itself = facades.property(QStringLiteral("ITSELF"));
     for (ServiceEntry &entry : entries)
         m_classes.push_back(std::make_unique<ServiceClass>(std::move(entry)));
@@ -212,7 +213,7 @@ QObject *Seam::target(const QVariant &native, ServiceClass &owner, const QByteAr
     QObject *object = native.value<Native>().object.get();
     if (!object || !object->metaObject()->inherits(owner.entry.meta))
         throw platform::Raised::typeError(
-            QStringLiteral("%1 is not called on a %2").arg(QString::fromLatin1(member), nameOf(owner)));
+            QStringLiteral("%1 is called on %2").arg(QString::fromLatin1(member), withArticle(nameOf(owner))));
     return object;
 }
 
@@ -314,7 +315,7 @@ void Seam::raise(const QString &name, const QString &message)
                                                              : QJSValue::GenericError;
     QJSValue error = m_engine.newErrorObject(type, message);
     if (type == QJSValue::GenericError && name != QStringLiteral("Error"))
-        error.setProperty(QStringLiteral("name"), name);
+        m_setName.call({error, name});
     m_lastErrorLocation = locationInStack(error.property(QStringLiteral("stack")).toString());
     if (!m_lastErrorLocation.file.isEmpty()) {
         error.setProperty(QStringLiteral("fileName"), m_lastErrorLocation.file);

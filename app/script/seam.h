@@ -109,6 +109,7 @@ private:
     QHash<QObject *, std::weak_ptr<QObject>> m_held;
     QJSValue m_define;
     QJSValue m_nativeOf;
+    QJSValue m_setName;
     QJSValue m_itself;
     Location m_lastErrorLocation;
     int m_pixelsHandedOut = 0;

@@ -29,11 +29,17 @@ QString notEmptyNull(const QString &text)
     return text.isNull() ? QStringLiteral("") : text;
 }
 
+QString lastName(const QMetaObject &meta)
+{
+    const QString name = QString::fromLatin1(meta.className());
+    return name.mid(name.lastIndexOf(u':') + 1);
+}
+
 QString wordsForObject(QMetaType type)
 {
-    const QByteArray name = type.metaObject() ? type.metaObject()->className() : "QObject";
-    return name == "QObject" ? QStringLiteral("a control or null")
-                             : QStringLiteral("a %1 or null").arg(QString::fromLatin1(name));
+    const QMetaObject *meta = type.metaObject();
+    return !meta || meta == &QObject::staticMetaObject ? QStringLiteral("a control or null")
+                                                       : withArticle(lastName(*meta)) + QStringLiteral(" or null");
 }
 
 /** Whole numbers stay whole, so that 3 is written "3" wherever a service formats it. */
@@ -46,6 +52,12 @@ QVariant wholeOrNot(double number)
 }
 
 } // namespace
+
+QString withArticle(const QString &noun)
+{
+    const bool startsWithVowel = QStringLiteral("AEIOU").contains(noun.left(1).toUpper());
+    return (startsWithVowel ? QStringLiteral("an ") : QStringLiteral("a ")) + noun;
+}
 
 Values::Values(QJSEngine &engine)
     : m_engine(engine), m_objectPrototype(engine.evaluate(QStringLiteral("Object.prototype"))),
@@ -138,7 +150,7 @@ QVariant Values::numberToNative(const QJSValue &value, Kind kind, const QString 
         return number;
     if (kind == Kind::Single)
         return float(number);
-    if (std::trunc(number) != number) // NaN too
+    if (!std::isfinite(number) || std::trunc(number) != number)
         reject(expected, name, value);
     const double least = kind == Kind::Whole ? std::numeric_limits<int>::min() : 0;
     const double most = kind == Kind::Whole ? std::numeric_limits<int>::max() : std::numeric_limits<uint>::max();
@@ -349,10 +361,8 @@ QString Values::described(const QJSValue &value) const
         return QStringLiteral("a date");
     if (isData(value))
         return QStringLiteral("data");
-    if (const QObject *object = objectOf(value)) {
-        const QString name = QString::fromLatin1(object->metaObject()->className());
-        return QStringLiteral("a %1").arg(name.mid(name.lastIndexOf(u':') + 1));
-    }
+    if (const QObject *object = objectOf(value))
+        return withArticle(lastName(*object->metaObject()));
     return QStringLiteral("an object");
 }
 

@@ -10,6 +10,9 @@
 
 namespace script {
 
+/** "a TextField", "an ArrayController". */
+QString withArticle(const QString &noun);
+
 /**
  * Turns values of scripts into values of services and back, by the rules of the seam: nothing is converted in silence.
  *

@@ -1,0 +1,239 @@
+#include "EchoService.h"
+#include "ScriptRun.h"
+#include "app/script/seam.h"
+
+#include <QQmlEngine>
+#include <QTest>
+
+/** How errors reach scripts and how uncaught ones reach the application: name, message, file and line. */
+class TestSeamErrors : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void turnsWhatServicesRaiseIntoErrors_data();
+    void turnsWhatServicesRaiseIntoErrors();
+    void placesAnErrorWhereTheScriptCalled();
+    void saysWhereAModuleFailed_data();
+    void saysWhereAModuleFailed();
+    void saysWhichFileIsMissing();
+    void failsAgainWithTheSameWords();
+    void importsRelativeToTheImportingFile();
+    void answersWhatAModuleExports();
+    void failsACallLikeAModule();
+    void reportsErrorsInSignalHandlers();
+    void settlesPromisesBeforeTheEnd();
+    void carriesOnAGenerator();
+    void knowsNoNameThatNoModuleHas();
+};
+
+void TestSeamErrors::turnsWhatServicesRaiseIntoErrors_data()
+{
+    QTest::addColumn<QString>("expression");
+    QTest::addColumn<QString>("outcome");
+    using Row = std::pair<const char *, const char *>;
+    for (const auto &[expression, outcome] : std::initializer_list<Row>{
+             {"echo.raiseInconsistency('Presets %1 “failed”.')", "InternalInconsistency: Presets %1 “failed”."},
+             {"echo.raiseRange('index 3 of 2')", "RangeError: index 3 of 2"},
+             {"echo.raiseType('no')", "TypeError: no"},
+             {"echo.throwStandard('standard é')", "Error: standard é"},
+             {"echo.throwNumber()", "Error: An unknown exception was thrown"},
+             {"(() => { try { echo.raiseInconsistency('a'); } catch (e) { return [e instanceof Error, e.name]; } })()",
+              "[true,\"InternalInconsistency\"]"},
+             {"(() => { try { echo.raiseRange('a'); } catch (e) { return e instanceof RangeError; } })()", "true"},
+             {"(() => { try { echo.takeText(1); } catch (e) { return e instanceof TypeError; } })()", "true"},
+             {"(() => { try { echo.raiseType('a'); } catch (e) {} return echo.takeText('still works'); })()",
+              "\"<still works>\""},
+         })
+        QTest::newRow(expression) << QString::fromUtf8(expression) << QString::fromUtf8(outcome);
+}
+
+void TestSeamErrors::turnsWhatServicesRaiseIntoErrors()
+{
+    ScriptRun run;
+    QFETCH(QString, expression);
+    QFETCH(QString, outcome);
+    QCOMPARE(run.valueOf(expression), outcome);
+}
+
+void TestSeamErrors::placesAnErrorWhereTheScriptCalled()
+{
+    ScriptRun run;
+    QVERIFY2(
+        run.run(QStringLiteral("\ntry {\n    echo.takeText(3);\n} catch (e) { report([e.fileName, e.lineNumber]); }\n"
+                               "try {\n    echo.nope;\n} catch (e) { report(e.lineNumber); }\n"
+                               "try {\n    echo.whole = 'x';\n} catch (e) { report(e.lineNumber); }\n")),
+        qPrintable(run.error));
+    const QStringList expected = {QStringLiteral("[\"%1\",4]").arg(run.lastFile), QStringLiteral("7"),
+                                  QStringLiteral("10")};
+    QCOMPARE(run.reports, expected);
+}
+
+void TestSeamErrors::saysWhereAModuleFailed_data()
+{
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<QString>("words");
+    const auto row = [](const char *name, const char *body, int line, const char *words) {
+        QTest::newRow(name) << QString::fromUtf8(body) << line << QString::fromUtf8(words);
+    };
+    row("thrown error", "\nthrow new RangeError('too far');", 3, "RangeError: too far");
+    row("thrown text", "function f() {\n    throw 'only text';\n}\nf();", 3, "Error: only text");
+    row("thrown number", "\n\nthrow 3;", 4, "Error: 3");
+    row("thrown nothing", "throw null;", 2, "Error: null");
+    row("own class of error", "class Own extends Error { get name() { return 'Own'; } }\nthrow new Own('x');", 3,
+        "Own: x");
+    row("unknown variable", "nowhere();", 2, "ReferenceError: nowhere is not defined");
+    row("wrong argument", "\nconst answer = echo.takeText(3);", 3,
+        "TypeError: Expected text or null for text but received 3");
+    row("raised by a service", "const answer = echo.raiseInconsistency('no table');", 2,
+        "InternalInconsistency: no table");
+    row("syntax", "\nlet x = ;", 3, "SyntaxError: Expected token `numeric literal'");
+}
+
+void TestSeamErrors::saysWhereAModuleFailed()
+{
+    ScriptRun run;
+    QFETCH(QString, body);
+    QFETCH(int, line);
+    QFETCH(QString, words);
+    QVERIFY(!run.run(body));
+    QCOMPARE(run.error, QStringLiteral("%1:%2: %3").arg(run.lastFile, QString::number(line), words));
+}
+
+void TestSeamErrors::saysWhichFileIsMissing()
+{
+    ScriptRun run;
+    const auto missing = run.engine().importFile(run.pathOf(QStringLiteral("missing.js")));
+    QVERIFY(!missing);
+    QCOMPARE(missing.error().code, platform::ErrorCode::NotFound);
+    QVERIFY2(missing.error().message.contains(QStringLiteral("missing.js")), qPrintable(missing.error().message));
+
+    QVERIFY(!run.runFile(QStringLiteral("root.js"), QStringLiteral("import { x } from './nowhere.js';")));
+    QVERIFY2(run.error.contains(QStringLiteral("nowhere.js")), qPrintable(run.error));
+}
+
+void TestSeamErrors::failsAgainWithTheSameWords()
+{
+    ScriptRun run;
+    QVERIFY(!run.runFile(QStringLiteral("a.js"), QStringLiteral("export const x = 1;\nthrow new Error('half way');")));
+    const QString first = run.error;
+    const auto second = run.engine().importFile(run.pathOf(QStringLiteral("a.js")));
+    QVERIFY(!second);
+    QCOMPARE(second.error().message, first);
+}
+
+void TestSeamErrors::importsRelativeToTheImportingFile()
+{
+    ScriptRun run;
+    QVERIFY(QDir(run.pathOf({})).mkpath(QStringLiteral("lib/deep")));
+    run.write(QStringLiteral("lib/deep/one.js"),
+              QStringLiteral("import { two } from '../two.js'; export const one = two - 1;"));
+    run.write(QStringLiteral("lib/two.js"),
+              QStringLiteral("\n\nexport const two = 2;\nexport function fail() {\n  throw new Error('deep');\n}"));
+    QVERIFY2(run.run(QStringLiteral("import { one } from './lib/deep/one.js'; report(one);")), qPrintable(run.error));
+    QCOMPARE(run.reports, QStringList{QStringLiteral("1")});
+    QVERIFY(!run.run(QStringLiteral("import { fail } from './lib/two.js'; fail();")));
+    QCOMPARE(run.error, run.pathOf(QStringLiteral("lib/two.js")) + QStringLiteral(":5: Error: deep"));
+}
+
+void TestSeamErrors::answersWhatAModuleExports()
+{
+    ScriptRun run;
+    run.write(QStringLiteral("m.js"),
+              QStringLiteral("export const seven = 7; export function twice(x) { return 2 * x; }"));
+    const auto module = run.engine().importFile(run.pathOf(QStringLiteral("m.js")));
+    QVERIFY(module);
+    QCOMPARE(module->property(QStringLiteral("seven")).toInt(), 7);
+    const auto result = run.engine().call(module->property(QStringLiteral("twice")), {QJSValue(21)});
+    QVERIFY(result);
+    QCOMPARE(result->toInt(), 42);
+}
+
+void TestSeamErrors::failsACallLikeAModule()
+{
+    ScriptRun run;
+    run.write(QStringLiteral("m.js"),
+              QStringLiteral(
+                  "export function fail() {\n  throw 'x';\n}\nexport const object = { n: 3, get() { return this.n; } };"
+                  "\nexport function giveError() { return new Error('a value'); }"));
+    const auto module = run.engine().importFile(run.pathOf(QStringLiteral("m.js")));
+    QVERIFY(module);
+    const auto failed = run.engine().call(module->property(QStringLiteral("fail")), {});
+    QVERIFY(!failed);
+    QCOMPARE(failed.error().message, run.pathOf(QStringLiteral("m.js")) + QStringLiteral(":2: Error: x"));
+    const QJSValue object = module->property(QStringLiteral("object"));
+    const auto got = run.engine().call(object.property(QStringLiteral("get")), {}, object);
+    QVERIFY(got);
+    QCOMPARE(got->toInt(), 3);
+    QVERIFY(!run.engine().call(QJSValue(3), {}));
+    QVERIFY(run.engine().call(module->property(QStringLiteral("giveError")), {})); // a value, not thrown
+}
+
+void TestSeamErrors::reportsErrorsInSignalHandlers()
+{
+    ScriptRun run;
+    QObject sender;
+    QJSValue exports = run.engine().engine().newObject();
+    exports.setProperty(QStringLiteral("sender"), run.engine().controlValue(&sender));
+    QVERIFY(run.engine().registerModule(QStringLiteral("sender"), exports));
+    QVERIFY2(run.run(QStringLiteral("import { sender } from 'sender';\n"
+                                    "sender.objectNameChanged.connect(() => {\n  throw new Error('in handler');\n});\n"
+                                    "sender.objectNameChanged.connect(() => {\n  const x = echo.takeText(3);\n});")),
+             qPrintable(run.error));
+    sender.setObjectName(QStringLiteral("changed"));
+    const QStringList expected = {run.lastFile + QStringLiteral(":4: Error: in handler"),
+                                  run.lastFile +
+                                      QStringLiteral(":7: TypeError: Expected text or null for text but received 3")};
+    QCOMPARE(run.uncaught, expected);
+}
+
+void TestSeamErrors::settlesPromisesBeforeTheEnd()
+{
+    ScriptRun run;
+    QVERIFY2(run.run(QStringLiteral("Promise.resolve(1).then(v => new Promise(done => done(v + 1))).then(v => {"
+                                    " report(v); throw new Error('later'); }).catch(e => { report(e.message); });"
+                                    "Promise.resolve(echo).then(e => { report(e === echo); }); report('first');")),
+             qPrintable(run.error));
+    QCOMPARE(run.reports.size(), 4);
+    QCOMPARE(run.reports.first(), QStringLiteral("\"first\""));
+    QVERIFY(run.reports.contains(QStringLiteral("2")));
+    QVERIFY(run.reports.contains(QStringLiteral("true")));
+    QCOMPARE(run.reports.last(), QStringLiteral("\"later\""));
+}
+
+void TestSeamErrors::carriesOnAGenerator()
+{
+    ScriptRun run;
+    run.write(QStringLiteral("m.js"),
+              QStringLiteral("export const ended = [];\nexport function* job() {\n  try {\n    yield 1;\n    yield 2;\n"
+                             "    throw new Error('third');\n  } finally {\n    ended.push('end');\n  }\n}"));
+    const auto module = run.engine().importFile(run.pathOf(QStringLiteral("m.js")));
+    QVERIFY(module);
+    const auto job = run.engine().call(module->property(QStringLiteral("job")), {});
+    QVERIFY(job);
+    const QJSValue next = job->property(QStringLiteral("next"));
+    for (const int expected : {1, 2}) {
+        const auto step = run.engine().call(next, {}, *job);
+        QVERIFY(step);
+        QCOMPARE(step->property(QStringLiteral("value")).toInt(), expected);
+    }
+    const auto third = run.engine().call(next, {}, *job);
+    QVERIFY(!third);
+    QCOMPARE(third.error().message, run.pathOf(QStringLiteral("m.js")) + QStringLiteral(":6: Error: third"));
+    QCOMPARE(module->property(QStringLiteral("ended")).property(0).toString(), QStringLiteral("end"));
+    const auto after = run.engine().call(next, {}, *job);
+    QVERIFY(after);
+    QVERIFY(after->property(QStringLiteral("done")).toBool());
+}
+
+void TestSeamErrors::knowsNoNameThatNoModuleHas()
+{
+    ScriptRun run;
+    QVERIFY(!run.runFile(QStringLiteral("a.js"), QStringLiteral("import { x } from 'no/such/module';")));
+    QVERIFY2(run.error.contains(QStringLiteral("no/such/module")), qPrintable(run.error));
+    QVERIFY(!run.engine().registerModule(QStringLiteral("quorlin"), QJSValue(3)));
+}
+
+QTEST_GUILESS_MAIN(TestSeamErrors)
+#include "tst_seam_errors.moc"
