@@ -3,7 +3,8 @@
 #include "platform/desktop/menu_bar.h"
 #include "platform/desktop/screens.h"
 
-QObject *ZtFFullScreen::initWithContentRect(const QRectF &rect, uint styleMask, uint backing, platform::Flag defer)
+ZtFFullScreen *ZtFFullScreen::initWithContentRect(const QRectF &rect, uint styleMask, uint backing,
+                                                  platform::Flag defer)
 {
     Q_UNUSED(styleMask)
     Q_UNUSED(backing)

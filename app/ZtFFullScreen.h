@@ -31,7 +31,8 @@ public:
      * Starts anew with @p rect as the frame and as the frame to go back to, in the normal state; answers the window
      * itself. The other arguments are those of a window of the desktop and change nothing here.
      */
-    Q_INVOKABLE QObject *initWithContentRect(const QRectF &rect, uint styleMask, uint backing, platform::Flag defer);
+    Q_INVOKABLE ZtFFullScreen *initWithContentRect(const QRectF &rect, uint styleMask, uint backing,
+                                                   platform::Flag defer);
 
     /** Always true. */
     Q_INVOKABLE bool canBecomeKeyWindow() const;

@@ -23,8 +23,8 @@ public:
     explicit PictureObject(platform::Picture picture = {}) : m_picture(std::move(picture)) {}
 
     platform::Picture picture() const { return m_picture; }
-    double width() const { return m_picture.size().width(); }
-    double height() const { return m_picture.size().height(); }
+    double width() const { return m_picture.isNull() ? 0 : m_picture.size().width(); }
+    double height() const { return m_picture.isNull() ? 0 : m_picture.size().height(); }
     int pixelsWide() const { return m_picture.bitmap().width(); }
     int pixelsHigh() const { return m_picture.bitmap().height(); }
 

@@ -3,6 +3,7 @@
 #include "app/script/facade.h"
 
 #include "platform/foundation/raised.h"
+#include "platform/graphics/picture.h"
 
 #include <QMetaProperty>
 #include <QPointer>
@@ -16,8 +17,27 @@
 namespace script {
 namespace {
 
-/** The collector does not see native pixels, so it is called after this many values that hold some. */
-constexpr int pixelsBetweenCollections = 16;
+/** The collector does not see native pixels: it is called after so many bytes of them, or so many values that may hold some. */
+constexpr qint64 bytesBetweenCollections = 96'000'000;
+constexpr int valuesBetweenCollections = 64;
+
+qint64 byteCount(const platform::Bitmap &bitmap)
+{
+    const qint64 samples = bitmap.isNull() ? 0 : qint64(bitmap.width()) * bitmap.height() * bitmap.bandCount();
+    return samples * bitmap.bitsPerComponent() / 8;
+}
+
+/** How much memory a value may keep from being freed. */
+qint64 pixelBytes(const QVariant &value)
+{
+    if (value.metaType() == QMetaType::fromType<platform::Picture>())
+        return byteCount(value.value<platform::Picture>().bitmap());
+    if (value.metaType() == QMetaType::fromType<platform::BitmapHandle>())
+        return byteCount(value.value<platform::BitmapHandle>().bitmap());
+    if (value.metaType() == QMetaType::fromType<platform::Bitmap>())
+        return byteCount(value.value<platform::Bitmap>());
+    return 0;
+}
 
 QString arityText(const Operation &operation, int received)
 {
@@ -247,8 +267,7 @@ QJSValue Seam::invoke(QObject *object, const Operation &operation, const QJSValu
     pointers[0] = operation.resultKind == Kind::Nothing ? nullptr : storage(result, operation.resultKind);
     QMetaObject::metacall(object, QMetaObject::InvokeMetaMethod, operation.methodIndex, pointers.data());
     QJSValue answer = resultToScript(object, result, operation.resultKind);
-    if (!answer.isNull())
-        collectAfterPixels(operation.resultKind);
+    collectAfterPixels(result, operation.resultKind);
     return answer;
 }
 
@@ -259,13 +278,16 @@ QJSValue Seam::resultToScript(QObject *object, const QVariant &result, Kind kind
     return m_values.toScript(result);
 }
 
-void Seam::collectAfterPixels(Kind kind)
+void Seam::collectAfterPixels(const QVariant &value, Kind kind)
 {
     if (kind != Kind::Opaque && kind != Kind::Picture)
         return;
-    if (++m_pixelsHandedOut < pixelsBetweenCollections)
+    m_pixelBytesHandedOut += pixelBytes(value);
+    ++m_pixelValuesHandedOut;
+    if (m_pixelBytesHandedOut < bytesBetweenCollections && m_pixelValuesHandedOut < valuesBetweenCollections)
         return;
-    m_pixelsHandedOut = 0;
+    m_pixelBytesHandedOut = 0;
+    m_pixelValuesHandedOut = 0;
     m_engine.collectGarbage();
 }
 
@@ -276,8 +298,9 @@ QJSValue Seam::read(const QVariant &native, int fieldId, const QJSValue &kept)
         const QObject *object = target(native, *owner, field->name);
         const QVariant value = object->metaObject()->property(field->propertyIndex).read(object);
         if (field->kind != Kind::Object) {
-            collectAfterPixels(field->kind);
-            return m_values.toScript(value);
+            const QJSValue answer = m_values.toScript(value);
+            collectAfterPixels(value, field->kind);
+            return answer;
         }
         auto *outlet = value.value<QObject *>();
         return outlet && objectOf(kept) == outlet ? kept : m_values.toScript(value);

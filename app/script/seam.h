@@ -95,7 +95,7 @@ private:
     QObject *target(const QVariant &native, ServiceClass &owner, const QByteArray &member) const;
     QJSValue invoke(QObject *object, const Operation &operation, const QJSValue &arguments);
     QJSValue resultToScript(QObject *object, const QVariant &result, Kind kind);
-    void collectAfterPixels(Kind kind);
+    void collectAfterPixels(const QVariant &value, Kind kind);
     void raise(const QString &name, const QString &message);
     void raiseCurrentException();
 
@@ -112,7 +112,8 @@ private:
     QJSValue m_setName;
     QJSValue m_itself;
     Location m_lastErrorLocation;
-    int m_pixelsHandedOut = 0;
+    qint64 m_pixelBytesHandedOut = 0;
+    int m_pixelValuesHandedOut = 0;
 };
 
 } // namespace script

@@ -1,0 +1,348 @@
+/**
+ * What scripts of Quorlin can import. A test holds the classes against the program: names, order, parameters and types.
+ *
+ * Nothing is converted in silence: an argument of another type, or another number of arguments, is a TypeError; a whole
+ * number outside the range of its type is a RangeError. Nothing is null, never undefined.
+ */
+
+type text = string | null;
+/** From -2147483648 to 2147483647. */
+type whole = number;
+/** A whole number from 0 to 4294967295. */
+type unsigned = number;
+type double = number;
+/** Kept in single precision. */
+type single = number;
+/** On for exactly 1 and true. */
+type flag = boolean | number;
+/** Not looked at. */
+type sender = any;
+/** Text or a number where one thing is meant. Booleans, dates and data inside lists and dictionaries only. */
+type anything = string | number | list | dictionary | null;
+type dictionary = { [key: string]: any } | null;
+type list = any[] | null;
+/** None of the texts is null. */
+type texts = string[] | null;
+/** The operation empties this very list. */
+type sharedList = any[] | null;
+type data = ArrayBuffer | null;
+type date = Date | null;
+/** The absolute URL, percent-encoded: "file:///a/b%20c.jpg". */
+type location = string | null;
+type size = { width: number; height: number };
+type point = { x: number; y: number };
+type rectangle = { x: number; y: number; width: number; height: number };
+/** Handed on to the operations that take one. */
+type BitmapHandle = object;
+type ImageSource = object;
+/** A stand-in from "quorlin/controls", or a control of a window. */
+type Control = object;
+type fieldsOf<T> = Partial<T>;
+
+/** The service classes. */
+declare module "quorlin" {
+    /** Holds one number. */
+    export class MyModel {
+        constructor();
+        floatValue: double;
+        setFloatValue(value: double): null;
+    }
+
+    /** Holds one MyModel. */
+    export class MyObjectControler {
+        constructor();
+        myModelObj: MyModel | null;
+    }
+
+    /** A picture in memory, upright. */
+    export class Picture {
+        private constructor();
+        /** In points. */
+        readonly width: double;
+        readonly height: double;
+        /** In pixels. */
+        readonly pixelsWide: whole;
+        readonly pixelsHigh: whole;
+        /** Reads a file; null if it cannot be read. */
+        static open(path: text): Picture | null;
+        /** [red, green, blue, alpha], 0 to 255, not premultiplied; origin top left; all 0 outside. */
+        pixel(x: whole, y: whole): list;
+        /** Writes a PNG file; false if that fails. */
+        save(path: text): boolean;
+        /** A handle for the operations that take one; null after release(). */
+        bitmap(): BitmapHandle | null;
+        /** Lets go of the pixels at once. */
+        release(): null;
+    }
+
+    /** A window that can fill the first screen and go back. Rectangles are in screen coordinates. */
+    export class ZtFFullScreen {
+        constructor();
+        /** 1 while the window fills the screen, otherwise 0. */
+        fullscreenState: whole;
+        /** The frame to go back to. */
+        originalRect: rectangle;
+        frame: rectangle;
+        titlebarAppearsTransparent: boolean;
+        /** 0 to 1. */
+        alphaValue: double;
+        /** Whether the menu bar of the application is to be seen. */
+        readonly menuBarVisible: boolean;
+        /** Starts anew with this frame, in the normal state; answers the window itself. */
+        initWithContentRect(
+            rect: rectangle, styleMask: unsigned, backing: unsigned, defer: flag): ZtFFullScreen | null;
+        /** Always true. */
+        canBecomeKeyWindow(): boolean;
+        /** Shows the menu bar again. */
+        windowWillClose(notification: sender): null;
+        /** Fills the screen and hides the menu bar, or goes back and shows it. */
+        toggleFullscreen(): null;
+        /** Fills the screen for exactly 1 or true, otherwise goes back to originalRect. */
+        setFullscreenEnabled(enabled: flag): null;
+    }
+
+    /**
+     * Operations on pictures, one file at a time. Paths are absolute. An output prefix is a folder with "/" at its end;
+     * the source's name is put directly behind it. An output type is "original file type" or a type identifier.
+     * Operations that write answer "OK", "Failed" or "Not Supported". Fields keep their values between calls.
+     */
+    export class ZtImageHandling {
+        constructor();
+        scImageCropPos: Control | null;
+        tfCropXOffset: Control | null;
+        tfCropYOffset: Control | null;
+        tfCropXsize: Control | null;
+        tfCropYsize: Control | null;
+        tfCropPercentage: Control | null;
+        tfCropPixels: Control | null;
+        tvCropType: Control | null;
+        cbImageBgColorCheck: Control | null;
+        cwImageBackgroundColor: Control | null;
+        pubFutureFileFormat: Control | null;
+        tfBorderWidth: Control | null;
+        tfAddBorder: Control | null;
+        tfAddBorderPx: Control | null;
+        tfBorderColor: Control | null;
+        ivPhoto: Control | null;
+        /** Left and top offset of the last cut, in pixels. */
+        myXWOffset: whole;
+        myYHOffset: whole;
+        myXWOffsetPlus: whole;
+        myYHOffsetPlus: whole;
+        myXWSize: whole;
+        myYHSize: whole;
+        myImageCropPercentage: whole;
+        myImageCropPixels: whole;
+        myCropType: whole;
+        /** The pixel size that the last resize worked out. */
+        newImgW: whole;
+        newImgH: whole;
+        myXRCval: whole;
+        myImageCropPos: whole;
+        cropBoxLine: whole;
+        myCompressionLevelFloat: single;
+        /** The scale of the last resize, in per cent. */
+        myScaleFactor: double;
+        composedMasked: Picture | null;
+        imageMasked: BitmapHandle | null;
+        /** The picture that hStringToCGImageRef opened. */
+        myImageRef: BitmapHandle | null;
+        /** The type identifier of the last output. */
+        myFileType: text;
+        fileExtension: text;
+        fileExtensionNSString: text;
+        fileUTI: text;
+        /** The options of the last JPEG that was written with a quality code. */
+        properties: anything;
+        /** The picture that was opened last, to be seen upright. */
+        imageCIImage: ImageSource | null;
+        /** The angle of a rotation, in degrees. */
+        degrees: double;
+        wmAngle: double;
+        context: BitmapHandle | null;
+        /** Opens a picture, to be seen upright; null if it cannot be read. */
+        hNSURLtoCIImage(location: location): ImageSource | null;
+        /** The upright size, "4032x3024px"; "0x0px" for a file that cannot be read. */
+        hGetPixelSize(path: text): text;
+        /** Decodes image 0 as stored; null if the file is missing or no picture. */
+        hStringToCGImageRef(path: text): BitmapHandle | null;
+        /** The bitmap as a picture whose size in points is its pixel size. */
+        imageFromCGImageRef(imageRef: BitmapHandle | null): Picture | null;
+        /** Writes to a complete path. The properties reach TIFF and JPEG only. */
+        hSaveToNewImageFile(
+            path: text, type: text, imageRef: BitmapHandle | null, destinationProperties: dictionary): text;
+        /** Writes to a path without extension. The properties reach TIFF only; codes "1" to "9" are 0.1 to 0.9. */
+        hSaveToNewImageFileMPR(
+            basePath: text, type: text, imageRef: BitmapHandle | null, sourceProperties: dictionary,
+            qualityCode: text, sourceExtension: text): text;
+        /** A resized copy, aspect ratio kept. Mode 0 width, 1 height, 2 longest side, 3 per cent, above: as before. */
+        resizeImage(
+            path: text, number: unsigned, mode: unsigned, prefix: text, type: anything, qualityCode: text): text;
+        /** A copy of exactly that size. Mode 1 fills it and cuts the excess evenly; any other stretches. */
+        resizeImage2(
+            path: text, width: unsigned, height: unsigned, mode: whole, prefix: text, type: anything,
+            qualityCode: text): text;
+    }
+
+    /** Collects the input of the actions; called on the class. */
+    export class cToolBox {
+        constructor();
+        /** Asks for the input of an action: a list of paths, empty if cancelled, null for an unknown action. */
+        static hOpenDialogFiles(actionType: text): anything;
+        /** The same for "EMM", "EMMDir", "sort", "rescale", "rename", "renameDir", "batchSortImages" and "sortDir". */
+        static hOpenDialogFilesOC(actionType: text): anything;
+    }
+
+    /** The controller of the main window's content. */
+    export class mainViewController {
+        constructor();
+        /** The window that the content lies in. */
+        window: Control | null;
+        /** Gives the window a transparent title bar and full opacity. */
+        viewWillAppear(): null;
+    }
+
+    /** The controller of the main window. */
+    export class mainWindowClass {
+        constructor();
+        /** Called when the window was loaded. */
+        windowDidLoad(): null;
+    }
+}
+
+/** Controls without a window; each takes a dictionary of its fields. */
+declare module "quorlin/controls" {
+    /** The rows of a table. */
+    export class ArrayController {
+        constructor(fields?: fieldsOf<ArrayController>);
+        /** Dictionaries. */
+        rows: list;
+    }
+
+    /** A check box. */
+    export class CheckBox {
+        constructor(fields?: fieldsOf<CheckBox>);
+        /** 1 checked, 0 not, -1 partly. */
+        state: whole;
+        enabled: boolean;
+    }
+
+    /** A field that shows a colour. */
+    export class ColorWell {
+        constructor(fields?: fieldsOf<ColorWell>);
+        /** "#rrggbb". */
+        color: text;
+        enabled: boolean;
+    }
+
+    /** A pop-up menu. */
+    export class PopUpButton {
+        constructor(fields?: fieldsOf<PopUpButton>);
+        titles: texts;
+        selectedTitle: text;
+        enabled: boolean;
+    }
+
+    /** A progress bar. */
+    export class ProgressIndicator {
+        constructor(fields?: fieldsOf<ProgressIndicator>);
+        value: double;
+        maximum: double;
+        visible: boolean;
+        indeterminate: boolean;
+        /** Every value it has had, oldest first. */
+        readonly history: list;
+    }
+
+    /** A row of segments. */
+    export class SegmentedControl {
+        constructor(fields?: fieldsOf<SegmentedControl>);
+        /** From 0; -1 where none is. */
+        selectedSegment: whole;
+    }
+
+    /** A view with tabs. */
+    export class TabView {
+        constructor(fields?: fieldsOf<TabView>);
+        selectedLabel: text;
+    }
+
+    /** A table. */
+    export class TableView {
+        constructor(fields?: fieldsOf<TableView>);
+        /** How often it was told to reload. */
+        reloads: whole;
+    }
+
+    /** A text field, or a label. */
+    export class TextField {
+        constructor(fields?: fieldsOf<TextField>);
+        stringValue: text;
+        enabled: boolean;
+    }
+
+    /** A text of several lines. */
+    export class TextView {
+        constructor(fields?: fieldsOf<TextView>);
+        text: text;
+    }
+
+    /** The nodes of a tree. */
+    export class TreeController {
+        constructor(fields?: fieldsOf<TreeController>);
+        content: list;
+    }
+
+    /** A window that can have a sheet. */
+    export class Window {
+        constructor(fields?: fieldsOf<Window>);
+        /** The sheet that is open on it. */
+        sheet: Control | null;
+    }
+}
+
+/** Panels without a person. */
+declare module "quorlin/panels" {
+    /** A panel that was shown. */
+    interface shownPanel {
+        kind: "open" | "save" | "print";
+        files: boolean;
+        folders: boolean;
+        multiple: boolean;
+        createFolders: boolean;
+        /** File name extensions; null for any. */
+        types: string[] | null;
+        otherTypes: boolean;
+        message: text;
+        name: text;
+        folder: text;
+        tagField: boolean;
+    }
+
+    export const panels: {
+        /** Queues the answer to the next panel. whileOpen is called while the panel is up. */
+        accept(paths: string[], options?: { tags?: string[]; whileOpen?: () => void }): void;
+        /** Queues a cancelled panel. */
+        cancel(): void;
+        /** Oldest first. */
+        readonly shown: shownPanel[];
+    };
+}
+
+/** The user defaults, the store that the services use. */
+declare module "quorlin/defaults" {
+    type setting = string | number | boolean | Date | ArrayBuffer | any[] | { [key: string]: any };
+
+    export const defaults: {
+        /** Null where the key was never set. A value has the type that it was set with. */
+        get(key: string): setting | null;
+        set(key: string, value: setting): void;
+        remove(key: string): void;
+    };
+}
+
+/** Only for scripts that quorlin-script runs. */
+declare const scriptArguments: readonly string[];
+declare function print(...values: any[]): void;
+/** Ends the run at once, with an exit status from 0 to 255. */
+declare function quit(code?: number): never;
