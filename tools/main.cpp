@@ -1,6 +1,7 @@
 #include "app/script/ScriptEngine.h"
 #include "app/script/runner_globals.h"
 #include "app/script/script_output.h"
+#include "app/window/script_modules.h"
 
 #include "platform/foundation/log.h"
 
@@ -35,6 +36,7 @@ int runScript(const QString &file, const QStringList &arguments)
         status = uncaughtError;
     });
     script::addRunnerGlobals(scripts, arguments);
+    window::addFilesModule(scripts);
     const auto module = scripts.importFile(file);
     if (!module)
         scripts.reportUncaught(module.error().message);

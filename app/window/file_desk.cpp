@@ -1,0 +1,253 @@
+#include "app/window/file_desk.h"
+
+#include "app/window/formats.h"
+#include "app/window/staging.h"
+
+#include "platform/foundation/atomic_file.h"
+#include "platform/imageio/image_source.h"
+
+#include <QCollator>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace window {
+
+namespace {
+
+const QVariant nothing = QVariant::fromValue(nullptr);
+
+bool isPackage(const QString &name)
+{
+    static const QSet<QString> endings = {QStringLiteral("app"),           QStringLiteral("bundle"),
+                                          QStringLiteral("framework"),     QStringLiteral("plugin"),
+                                          QStringLiteral("pkg"),           QStringLiteral("rtfd"),
+                                          QStringLiteral("photoslibrary"), QStringLiteral("photolibrary")};
+    return endings.contains(QFileInfo(name).suffix().toLower());
+}
+
+/** Collects pictures and counts what is left out. */
+class Collector
+{
+public:
+    explicit Collector(const QStringList &extensions)
+    {
+        for (const QString &extension : extensions)
+            m_extensions.insert(extension.toLower());
+        m_order.setNumericMode(true);
+        m_order.setCaseSensitivity(Qt::CaseInsensitive);
+    }
+
+    void take(const QString &path)
+    {
+        const QFileInfo info(path);
+        if (info.isDir()) {
+            m_folders.append(info.absoluteFilePath());
+            walk(info.absoluteFilePath());
+        } else if (info.exists()) {
+            file(info.absoluteFilePath());
+        } else {
+            leaveOut(path);
+        }
+    }
+
+    QVariantMap result() const
+    {
+        return {{QStringLiteral("paths"), m_paths},
+                {QStringLiteral("folders"), m_folders},
+                {QStringLiteral("leftOut"), m_leftOut},
+                {QStringLiteral("example"), m_example}};
+    }
+
+private:
+    void file(const QString &path)
+    {
+        const QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+        const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+        if (dot > 0 && m_extensions.contains(name.mid(dot + 1).toLower()))
+            m_paths.append(path);
+        else
+            leaveOut(path);
+    }
+
+    void leaveOut(const QString &path)
+    {
+        if (m_leftOut++ == 0)
+            m_example = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    }
+
+    // Files of a folder first, then its folders, each in natural order.
+    void walk(const QString &folder)
+    {
+        const QDir dir(folder);
+        for (const QString &name : sorted(dir.entryList(QDir::Files | QDir::NoSymLinks, QDir::Unsorted)))
+            file(dir.filePath(name));
+        for (const QString &name :
+             sorted(dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Unsorted)))
+            if (!isPackage(name))
+                walk(dir.filePath(name));
+    }
+
+    QStringList sorted(const QStringList &names) const
+    {
+        std::vector<std::pair<QCollatorSortKey, const QString *>> keyed;
+        keyed.reserve(size_t(names.size()));
+        for (const QString &name : names)
+            keyed.emplace_back(m_order.sortKey(name), &name);
+        std::sort(keyed.begin(), keyed.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+        QStringList result;
+        for (const auto &entry : keyed)
+            result.append(*entry.second);
+        return result;
+    }
+
+    QSet<QString> m_extensions;
+    QCollator m_order;
+    QStringList m_paths;
+    QStringList m_folders;
+    int m_leftOut = 0;
+    QString m_example;
+};
+
+} // namespace
+
+FileDesk::FileDesk(QObject *parent) : QObject(parent) {}
+
+QString FileDesk::home() const
+{
+    return QDir::homePath();
+}
+
+QString FileDesk::dataFolder() const
+{
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/quorlin");
+    QDir().mkpath(folder);
+    return folder;
+}
+
+QVariantMap FileDesk::info(const QString &path) const
+{
+    const QFileInfo info(path);
+    return {{QStringLiteral("exists"), info.exists() || info.isSymLink()},
+            {QStringLiteral("isFolder"), info.isDir()},
+            {QStringLiteral("isLink"), info.isSymLink()},
+            {QStringLiteral("bytes"), double(fileBytes(path))},
+            {QStringLiteral("writable"), info.isWritable()}};
+}
+
+QString FileDesk::absolute(const QString &path) const
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+QStringList FileDesk::names(const QString &folder) const
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                                  QDir::Unsorted);
+}
+
+QVariantMap FileDesk::collect(const QStringList &paths, const QStringList &extensions) const
+{
+    Collector collector(extensions);
+    for (const QString &path : paths)
+        collector.take(path);
+    return collector.result();
+}
+
+QString FileDesk::makeFolder(const QString &folder) const
+{
+    if (QDir().mkpath(folder))
+        return {};
+    return tr("The folder %1 cannot be made").arg(QDir::toNativeSeparators(folder));
+}
+
+void FileDesk::removeEmptyFolder(const QString &folder) const
+{
+    QDir().rmdir(folder);
+}
+
+QVariant FileDesk::makeStaging(const QString &folder) const
+{
+    const QString made = window::makeStaging(folder);
+    return made.isEmpty() ? nothing : QVariant(made);
+}
+
+void FileDesk::removeStaging(const QString &staging) const
+{
+    window::removeStaging(staging);
+}
+
+void FileDesk::sweep(const QString &folder) const
+{
+    window::sweepStagings(folder);
+}
+
+QVariantMap FileDesk::place(const QString &from, const QString &to, bool replace) const
+{
+    const PlaceResult result = placeFile(from, to, replace ? IfTaken::Replace : IfTaken::Refuse);
+    const QString status = result.outcome == PlaceOutcome::Placed  ? QStringLiteral("OK")
+                           : result.outcome == PlaceOutcome::Taken ? QStringLiteral("Taken")
+                                                                   : QStringLiteral("Failed");
+    return {{QStringLiteral("status"), status}, {QStringLiteral("message"), result.message}};
+}
+
+QVariant FileDesk::storedSize(const QString &path) const
+{
+    const auto source = platform::ImageSource::open(path);
+    if (!source)
+        return nothing;
+    return QVariantMap{{QStringLiteral("width"), source->storedSize().width()},
+                       {QStringLiteral("height"), source->storedSize().height()}};
+}
+
+QVariantMap FileDesk::picture(const QString &path) const
+{
+    const auto source = platform::ImageSource::open(path);
+    const QSize size = source ? source->uprightSize() : QSize(0, 0);
+    return {{QStringLiteral("path"), path},
+            {QStringLiteral("name"), QFileInfo(path).fileName()},
+            {QStringLiteral("width"), size.width()},
+            {QStringLiteral("height"), size.height()},
+            {QStringLiteral("orientation"), source ? source->orientation() : 1},
+            {QStringLiteral("type"), typeWord(source ? source->typeIdentifier() : typeOfName(path))},
+            {QStringLiteral("bytes"), double(fileBytes(path))}};
+}
+
+QString FileDesk::profileName(const QString &path) const
+{
+    const auto source = platform::ImageSource::open(path);
+    return source ? source->properties().value(QStringLiteral("ProfileName")).toString() : QString();
+}
+
+QString FileDesk::writeText(const QString &path, const QString &text) const
+{
+    const auto written = platform::replaceFile(path, text.toUtf8());
+    return written ? QString() : written.error().message;
+}
+
+QString FileDesk::appendText(const QString &path, const QString &text) const
+{
+    QFile file(path);
+    const QByteArray bytes = text.toUtf8();
+    if (file.open(QIODevice::WriteOnly | QIODevice::Append) && file.write(bytes) == bytes.size() && file.flush())
+        return {};
+    return QStringLiteral("%1: %2").arg(path, file.errorString());
+}
+
+QVariant FileDesk::readText(const QString &path) const
+{
+    const auto bytes = platform::readFile(path);
+    return bytes ? QVariant(QString::fromUtf8(*bytes)) : nothing;
+}
+
+QString FileDesk::byteText(double bytes) const
+{
+    return window::byteText(qint64(bytes));
+}
+
+} // namespace window

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+namespace window {
+
+/**
+ * What the scripts of a job do with files beside the pictures' own operations: look at folders, collect input, and
+ * bring finished files into their place without ever overwriting one unasked.
+ *
+ * Paths are absolute. Nothing here needs a window. Failures are sentences; an empty text means success.
+ */
+class FileDesk : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString home READ home CONSTANT)
+    Q_PROPERTY(QString dataFolder READ dataFolder CONSTANT)
+
+public:
+    explicit FileDesk(QObject *parent = nullptr);
+
+    QString home() const;
+    /** The folder for this program's own data, made if need be. */
+    QString dataFolder() const;
+
+    /** {exists, isFolder, isLink, bytes (-1 where it cannot be told), writable}. A broken link exists. */
+    Q_INVOKABLE QVariantMap info(const QString &path) const;
+    /** The path as an absolute one, from the current folder. */
+    Q_INVOKABLE QString absolute(const QString &path) const;
+    /** Names of all entries of a folder, hidden ones included, in no order; empty where it cannot be read. */
+    Q_INVOKABLE QStringList names(const QString &folder) const;
+
+    /**
+     * Files and folders as they were dropped or chosen, turned into the list of pictures to work on. Folders are walked
+     * to any depth; hidden entries, packages and links inside them are passed over. The pictures of a folder come in
+     * natural order of their names. The extensions are compared in any case of letters.
+     *
+     * @return {paths, folders (those of the given paths that are), leftOut (count of files that are not taken), example
+     *         (name of one of them)}
+     */
+    Q_INVOKABLE QVariantMap collect(const QStringList &paths, const QStringList &extensions) const;
+
+    /** Makes a folder and those above it. */
+    Q_INVOKABLE QString makeFolder(const QString &folder) const;
+    /** Removes a folder if nothing is in it; says nothing otherwise. */
+    Q_INVOKABLE void removeEmptyFolder(const QString &folder) const;
+
+    /**
+     * Makes a hidden, private folder in @p folder for unfinished files, ending in "/"; null where that fails. Its name
+     * tells the process, so that sweep() can take away what a run left that was ended by force.
+     */
+    Q_INVOKABLE QVariant makeStaging(const QString &folder) const;
+    /** Removes a folder made by makeStaging() with all that is in it; refuses any other. */
+    Q_INVOKABLE void removeStaging(const QString &staging) const;
+    /** Removes the staging folders in @p folder whose process has ended. */
+    Q_INVOKABLE void sweep(const QString &folder) const;
+
+    /**
+     * Moves a finished file into place, in one step, inside one file system.
+     *
+     * @param replace  true: a file at @p to is replaced and hands on its permissions; false: it is never touched
+     * @return {status: "OK", "Taken" or "Failed", message}
+     */
+    Q_INVOKABLE QVariantMap place(const QString &from, const QString &to, bool replace) const;
+
+    /** Pixels of the file as stored: {width, height}, or null for an unreadable file. */
+    Q_INVOKABLE QVariant storedSize(const QString &path) const;
+    /** {width, height, orientation, type, bytes} of a picture, upright; width 0 for an unreadable file. */
+    Q_INVOKABLE QVariantMap picture(const QString &path) const;
+    /** The name of the picture's colour profile; empty where it has none. */
+    Q_INVOKABLE QString profileName(const QString &path) const;
+
+    Q_INVOKABLE QString writeText(const QString &path, const QString &text) const;
+    Q_INVOKABLE QString appendText(const QString &path, const QString &text) const;
+    /** Null where the file cannot be read. */
+    Q_INVOKABLE QVariant readText(const QString &path) const;
+
+    Q_INVOKABLE QString byteText(double bytes) const;
+};
+
+} // namespace window

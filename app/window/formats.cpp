@@ -1,0 +1,75 @@
+#include "app/window/formats.h"
+
+#include "platform/foundation/type_identifiers.h"
+
+#include <QFile>
+#include <QHash>
+#include <QLocale>
+
+#include <sys/stat.h>
+
+namespace window {
+
+QString pixelText(QSize pixels)
+{
+    return QStringLiteral("%1×%2").arg(pixels.width()).arg(pixels.height());
+}
+
+QString byteText(qint64 bytes)
+{
+    if (bytes == 0)
+        return QStringLiteral("Zero KB");
+    if (bytes == 1)
+        return QStringLiteral("1 byte");
+    if (bytes < 1000)
+        return QStringLiteral("%1 bytes").arg(bytes);
+    const char *const units[] = {"KB", "MB", "GB", "TB"};
+    const int decimalsOfUnit[] = {0, 1, 2, 2};
+    double value = double(bytes) / 1000;
+    int unit = 0;
+    while (value >= 999.5 && unit < 3) {
+        value /= 1000;
+        ++unit;
+    }
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    QString number = locale.toString(value, 'f', value >= 100 ? 0 : decimalsOfUnit[unit]);
+    const QString point = locale.decimalPoint();
+    while (number.contains(point) && (number.endsWith(QLatin1Char('0')) || number.endsWith(point)))
+        number.chop(1);
+    return number + QLatin1Char(' ') + QLatin1String(units[unit]);
+}
+
+QString typeOfName(const QString &name)
+{
+    return platform::typeIdentifierForPath(name);
+}
+
+QString typeWord(const QString &typeIdentifier)
+{
+    static const QHash<QString, QString> words = {
+        {QStringLiteral("public.jpeg"), QStringLiteral("JPEG")},
+        {QStringLiteral("public.png"), QStringLiteral("PNG")},
+        {QStringLiteral("public.tiff"), QStringLiteral("TIFF")},
+        {QStringLiteral("public.bmp"), QStringLiteral("BMP")},
+        {QStringLiteral("com.compuserve.gif"), QStringLiteral("GIF")},
+        {QStringLiteral("public.jp2"), QStringLiteral("JPEG 2000")},
+        {QStringLiteral("com.adobe.photoshop-image"), QStringLiteral("Photoshop")},
+        {QStringLiteral("com.adobe.pdf"), QStringLiteral("PDF")},
+        {QStringLiteral("public.heic"), QStringLiteral("HEIC")},
+        {QStringLiteral("public.heif"), QStringLiteral("HEIF")},
+        {QStringLiteral("org.webmproject.webp"), QStringLiteral("WebP")},
+        {QStringLiteral("public.avif"), QStringLiteral("AVIF")},
+        {QStringLiteral("public.svg-image"), QStringLiteral("SVG")},
+    };
+    const QString word = words.value(typeIdentifier);
+    return word.isEmpty() ? typeIdentifier.section(QLatin1Char('.'), 1).toUpper() : word;
+}
+
+qint64 fileBytes(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? qint64(status.st_size) : -1;
+}
+
+} // namespace window

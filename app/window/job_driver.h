@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QJSValue>
+#include <QObject>
+#include <QTimer>
+
+namespace window {
+
+/**
+ * Carries out a job that a script describes as a generator, from the event loop: it calls next() until the generator
+ * is done, and in between the windows answer.
+ *
+ * Short steps are bundled into slices of a few milliseconds. Everything happens on the main thread; a step is never
+ * entered while another one is under way, not even from a dialog that a step shows.
+ */
+class JobDriver : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool running READ isRunning)
+    Q_PROPERTY(bool paused READ isPaused)
+
+public:
+    explicit JobDriver(QObject *parent);
+
+    bool isRunning() const { return !m_generator.isUndefined(); }
+    bool isPaused() const { return m_paused; }
+
+    /**
+     * Starts; a job that runs is cancelled first.
+     *
+     * @param generator  what a generator function returned
+     * @param onStep     function(value), called with each value that was yielded
+     * @param onEnd      function(how, value): "done" with the returned value, "cancelled", or "failed" with the error
+     */
+    Q_INVOKABLE void start(const QJSValue &generator, const QJSValue &onStep, const QJSValue &onEnd);
+    Q_INVOKABLE void pause();
+    Q_INVOKABLE void resume();
+    /** Stops after the current step: calls the generator's return(), so that its finally blocks run. */
+    Q_INVOKABLE void cancel();
+
+private:
+    void slice();
+    bool step();
+    void finish(const QString &how, const QJSValue &value);
+
+    QTimer m_timer;
+    QJSValue m_generator;
+    QJSValue m_onStep;
+    QJSValue m_onEnd;
+    bool m_paused = false;
+    bool m_inStep = false;
+    bool m_cancelWanted = false;
+};
+
+/** Calls a function of a script once, some time later; starting again puts it off. */
+class ScriptTimer : public QObject
+{
+    Q_OBJECT
+
+public:
+    ScriptTimer(const QJSValue &function, QObject *parent);
+
+    Q_INVOKABLE void start(int ms) { m_timer.start(ms); }
+    Q_INVOKABLE void stop() { m_timer.stop(); }
+
+private:
+    QTimer m_timer;
+    QJSValue m_function;
+};
+
+} // namespace window

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QCache>
+#include <QHash>
+#include <QPixmap>
+#include <QSize>
+
+#include <vector>
+
+namespace window {
+
+/** How a status is shown; the words beside it say the same. */
+enum class StatusKind { None, Waiting, Planned, Busy, Good, Bad, Caution };
+
+/** One picture of the list. */
+struct PictureRow
+{
+    int id = 0; ///< stays the same while rows come and go
+    QString path;
+    QString name;
+    QString type; ///< in words, from the extension until the header was read
+    qint64 bytes = -1;
+    QSize pixels; ///< upright; null while unknown and where the file is no readable picture
+    int orientation = 1;
+    bool headerRead = false;
+    bool thumbnailTried = false;
+    QString newName;
+    QString newSize;
+    StatusKind kind = StatusKind::None;
+    QString status;
+    QString detail; ///< all of what is known of the status, for the tool tip
+};
+
+/** The input list. Cells are plain text; thumbnails are held for a few hundred rows only. */
+class PictureModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Thumbnail, Name, Pixels, Bytes, Type, NewName, NewSize, Status, ColumnCount };
+
+    explicit PictureModel(QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    /** Appends the paths that are not in the list yet, in order; returns how many those were. */
+    int add(const QStringList &paths);
+    void removeIds(const QList<int> &ids);
+    void clear();
+
+    const PictureRow &row(int index) const { return m_rows[size_t(index)]; }
+    /** -1 where no row has that id. */
+    int indexOfId(int id) const { return m_indexOfId.value(id, -1); }
+
+    /** Reads size and type from the file if that was not done yet: about a millisecond. */
+    const PictureRow &withHeader(int index);
+    void setPlan(int index, const QString &newName, const QString &newSize);
+    void setStatus(int index, StatusKind kind, const QString &text, const QString &detail);
+
+    bool hasThumbnail(int index) const { return m_thumbnails.contains(row(index).id); }
+    QPixmap thumbnail(int index) const;
+    /** Decodes the thumbnail in the given number of device pixels; a picture that cannot be decoded is not tried again.
+     */
+    void loadThumbnail(int index, QSize devicePixels);
+    /** Forgets sizes, thumbnails and types, because the file was written. */
+    void forget(int index);
+
+private:
+    void changed(int index, Column first, Column last);
+    void rebuildIndex();
+
+    std::vector<PictureRow> m_rows;
+    QHash<QString, int> m_idOfPath;
+    QHash<int, int> m_indexOfId;
+    QCache<int, QPixmap> m_thumbnails;
+    int m_nextId = 1;
+};
+
+} // namespace window

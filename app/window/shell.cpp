@@ -1,0 +1,221 @@
+#include "app/window/shell.h"
+
+#include "app/window/compare_preview.h"
+#include "app/window/drop_target.h"
+#include "app/window/job_driver.h"
+#include "app/window/ui_form.h"
+
+#include "platform/desktop/panels.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QJSEngine>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace window {
+
+namespace {
+
+const QVariant nothing = QVariant::fromValue(nullptr);
+
+// The collector must not take an object that a window or the shell owns.
+template<typename T> T *owned(T *object)
+{
+    if (object)
+        QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
+    return object;
+}
+
+QVariant firstPath(const platform::PanelRequest &request)
+{
+    const platform::PanelAnswer answer = platform::runPanel(request);
+    return answer.accepted && !answer.paths.isEmpty() ? QVariant(answer.paths.constFirst()) : nothing;
+}
+
+} // namespace
+
+Shell::Shell(const QString &interfaceFolder, Theme &theme, QObject *parent)
+    : QObject(parent), m_folder(interfaceFolder), m_theme(theme)
+{
+    owned(&theme);
+}
+
+QObject *Shell::loadForm(const QString &file)
+{
+    QString problem;
+    Form *form = Form::load(m_folder + QLatin1Char('/') + file, nullptr, this, &problem);
+    if (!form)
+        if (QJSEngine *engine = qjsEngine(this))
+            engine->throwError(QJSValue::GenericError, problem);
+    if (form)
+        m_windows.append(form->root());
+    return owned(form);
+}
+
+void Shell::alignFields(const QVariantList &forms)
+{
+    QList<Form *> all;
+    for (const QVariant &form : forms)
+        if (auto *found = qobject_cast<Form *>(form.value<QObject *>()))
+            all.append(found);
+    Form::alignFields(all);
+}
+
+QObject *Shell::dropTarget(QObject *form)
+{
+    const auto *window = qobject_cast<Form *>(form);
+    return window && window->root() ? owned(new DropTarget(window->root())) : nullptr;
+}
+
+QObject *Shell::largePreview(QObject *form)
+{
+    const auto *window = qobject_cast<Form *>(form);
+    if (!window || !window->root())
+        return nullptr;
+    auto *preview = new ComparePreview(window->root());
+    preview->setObjectName(QStringLiteral("largePreview"));
+    preview->setShowsResult(false);
+    preview->hide();
+    return owned(preview);
+}
+
+void Shell::cover(QObject *object)
+{
+    auto *widget = qobject_cast<QWidget *>(object);
+    if (!widget || !widget->parentWidget())
+        return;
+    widget->setGeometry(widget->parentWidget()->rect());
+    widget->raise();
+    widget->show();
+    widget->setFocus(Qt::OtherFocusReason);
+}
+
+QObject *Shell::timer(const QJSValue &function)
+{
+    return owned(new ScriptTimer(function, this));
+}
+
+QObject *Shell::job()
+{
+    return owned(new JobDriver(this));
+}
+
+QVariantMap Shell::ask(const QVariantMap &question)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(question.value(QStringLiteral("title")).toString());
+    box.setText(question.value(QStringLiteral("text")).toString());
+    box.setInformativeText(question.value(QStringLiteral("detail")).toString());
+    QList<QAbstractButton *> buttons;
+    const QStringList texts = question.value(QStringLiteral("buttons")).toStringList();
+    for (const QString &text : texts)
+        buttons.append(box.addButton(text, QMessageBox::AcceptRole));
+    const int initial = question.value(QStringLiteral("initial")).toInt();
+    const int escape = question.value(QStringLiteral("escape"), texts.size() - 1).toInt();
+    if (QAbstractButton *button = buttons.value(initial))
+        box.setDefaultButton(qobject_cast<QPushButton *>(button));
+    if (QAbstractButton *button = buttons.value(escape))
+        box.setEscapeButton(button);
+    const QString check = question.value(QStringLiteral("check")).toString();
+    auto *checkBox = check.isEmpty() ? nullptr : new QCheckBox(check, &box);
+    if (checkBox)
+        box.setCheckBox(checkBox);
+    box.exec();
+    return {{QStringLiteral("button"), qMax(0, int(buttons.indexOf(box.clickedButton())))},
+            {QStringLiteral("checked"), checkBox && checkBox->isChecked()}};
+}
+
+QVariant Shell::chooseFolder(const QString &title, const QString &start)
+{
+    platform::PanelRequest request;
+    request.choosesFiles = false;
+    request.choosesFolders = true;
+    request.createsFolders = true;
+    request.message = title;
+    request.folder = start;
+    return firstPath(request);
+}
+
+QVariant Shell::chooseNewFile(const QString &title, const QString &folder, const QString &name,
+                              const QString &extension)
+{
+    platform::PanelRequest request;
+    request.kind = platform::PanelKind::Save;
+    request.createsFolders = true;
+    request.types = QStringList{extension};
+    request.message = title;
+    request.folder = folder;
+    request.name = name;
+    return firstPath(request);
+}
+
+void Shell::openFolder(const QString &folder)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+}
+
+QStringList Shell::clipboardPaths() const
+{
+    const QMimeData *data = QApplication::clipboard()->mimeData();
+    QStringList paths;
+    if (!data)
+        return paths;
+    const QList<QUrl> urls = data->urls();
+    for (const QUrl &url : urls)
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    if (!paths.isEmpty())
+        return paths;
+    const QStringList lines = data->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString &line : lines)
+        if (QFileInfo(line.trimmed()).isAbsolute() && QFileInfo::exists(line.trimmed()))
+            paths.append(line.trimmed());
+    return paths;
+}
+
+void Shell::quit()
+{
+    QApplication::closeAllWindows();
+    QApplication::quit();
+}
+
+void Shell::setMainForm(QObject *form)
+{
+    m_mainForm = qobject_cast<Form *>(form);
+    auto *window = m_mainForm ? qobject_cast<QMainWindow *>(m_mainForm->root()) : nullptr;
+    m_fullScreen.attach(nullptr);
+    m_mainFrame.reset();
+    if (!window)
+        return;
+    m_mainFrame = std::make_unique<MainFrame>(*window);
+    m_fullScreen.attach(m_mainFrame.get());
+    m_fullScreen.initWithContentRect(window->geometry(), 0, 0, platform::Flag());
+}
+
+void Shell::toggleFullScreen()
+{
+    m_fullScreen.toggleFullscreen();
+}
+
+void Shell::closeAll()
+{
+    m_fullScreen.attach(nullptr);
+    m_mainFrame.reset();
+    // A pane that was put into a window goes with it.
+    QList<QWidget *> windows;
+    std::copy_if(m_windows.cbegin(), m_windows.cend(), std::back_inserter(windows),
+                 [](const QWidget *widget) { return widget->parentWidget() == nullptr; });
+    m_windows.clear();
+    qDeleteAll(windows);
+}
+
+} // namespace window

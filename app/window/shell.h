@@ -1,0 +1,92 @@
+#pragma once
+
+#include "app/ZtFFullScreen.h"
+#include "app/window/main_frame.h"
+#include "app/window/theme.h"
+#include "app/window/ui_form.h"
+
+#include <QJSValue>
+#include <QObject>
+#include <QStringList>
+#include <QVariant>
+#include <QWidget>
+
+#include <memory>
+
+namespace window {
+
+class DropTarget;
+class JobDriver;
+class ScriptTimer;
+
+/** What a user-interface script cannot do by itself: windows from .ui files, timers, jobs, dialogs, the desktop. */
+class Shell : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QObject *theme READ theme CONSTANT)
+    Q_PROPERTY(QString version READ version CONSTANT)
+    Q_PROPERTY(QStringList arguments READ arguments CONSTANT)
+
+public:
+    /** @param interfaceFolder  the folder of main.js, from which .ui files are named */
+    Shell(const QString &interfaceFolder, Theme &theme, QObject *parent = nullptr);
+
+    QObject *theme() const { return &m_theme; }
+    QString version() const { return QStringLiteral(QUORLIN_VERSION); }
+
+    /** Files and folders that the program was started with. */
+    QStringList arguments() const { return m_arguments; }
+    void setArguments(const QStringList &arguments) { m_arguments = arguments; }
+
+    /** A window from a file such as "windows/main/main.ui"; throws an Error that names the file if it cannot be loaded.
+     */
+    Q_INVOKABLE QObject *loadForm(const QString &file);
+    Q_INVOKABLE void alignFields(const QVariantList &forms);
+    /** Covers the window of the form while files are dragged over it. */
+    Q_INVOKABLE QObject *dropTarget(QObject *form);
+    /** A picture view that covers the window of the form; hidden at first. */
+    Q_INVOKABLE QObject *largePreview(QObject *form);
+    Q_INVOKABLE void cover(QObject *widget);
+
+    Q_INVOKABLE QObject *timer(const QJSValue &function);
+    Q_INVOKABLE QObject *job();
+
+    /**
+     * Asks the user and waits for the answer.
+     *
+     * @param question  {title, text, detail, buttons: [text, ...], initial (index), escape (index), check (text)}
+     * @return {button (index), checked}
+     */
+    Q_INVOKABLE QVariantMap ask(const QVariantMap &question);
+    /** The folder that was chosen, or null. */
+    Q_INVOKABLE QVariant chooseFolder(const QString &title, const QString &start);
+    /** The path of a file to write, or null. */
+    Q_INVOKABLE QVariant chooseNewFile(const QString &title, const QString &folder, const QString &name,
+                                       const QString &extension);
+    Q_INVOKABLE void openFolder(const QString &folder);
+    /** Local paths on the clipboard: files that were copied, or lines of text that are paths. */
+    Q_INVOKABLE QStringList clipboardPaths() const;
+    Q_INVOKABLE void quit();
+
+    /** The main window of the program, once a script made one. */
+    Form *mainForm() const { return m_mainForm; }
+    /** Tells which form is the main window, so that it can fill the screen. */
+    Q_INVOKABLE void setMainForm(QObject *form);
+    /** The window fills the screen, without its menu bar, or goes back to where it was. */
+    Q_INVOKABLE void toggleFullScreen();
+    bool isFullScreen() const { return m_fullScreen.property("fullscreenState").toInt() != 0; }
+
+    /** Deletes all windows that were loaded. */
+    void closeAll();
+
+private:
+    QString m_folder;
+    Theme &m_theme;
+    QStringList m_arguments;
+    QList<QWidget *> m_windows;
+    Form *m_mainForm = nullptr;
+    ZtFFullScreen m_fullScreen;
+    std::unique_ptr<MainFrame> m_mainFrame;
+};
+
+} // namespace window

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QListWidget>
+#include <QStringList>
+
+namespace window {
+
+/** The actions in groups. Arrow keys move over the actions and pass the headings. */
+class SideBar : public QListWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QString currentAction READ currentAction WRITE setCurrentAction NOTIFY actionChosen)
+
+public:
+    explicit SideBar(QWidget *parent = nullptr);
+
+    Q_INVOKABLE void addGroup(const QString &title);
+    /** @param name  what actionChosen() says; @param iconName  a file of the icon folder */
+    Q_INVOKABLE void addEntry(const QString &name, const QString &title, const QString &iconName);
+
+    QString currentAction() const;
+    void setCurrentAction(const QString &name);
+
+    QSize sizeHint() const override { return {188, 400}; }
+
+Q_SIGNALS:
+    void actionChosen(const QString &name);
+};
+
+} // namespace window

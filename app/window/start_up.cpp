@@ -1,0 +1,65 @@
+#include "app/window/start_up.h"
+
+#include "app/script/ScriptEngine.h"
+#include "app/window/dialog_panels.h"
+#include "app/window/icons.h"
+#include "app/window/interface_folder.h"
+#include "app/window/script_modules.h"
+#include "app/window/shell.h"
+#include "app/window/theme.h"
+
+#include "platform/foundation/log.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace window {
+
+StartUp::StartUp(QApplication &application)
+{
+    QCoreApplication::setApplicationName(QStringLiteral("quorlin"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quorlin"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUORLIN_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.brelmark.Quorlin"));
+    const QString folder = interfaceFolder();
+    setIconFolder(folder + QStringLiteral("/icons"));
+    m_theme = std::make_unique<Theme>(application, folder + QStringLiteral("/themes"));
+    m_shell = std::make_unique<Shell>(folder, *m_theme);
+    m_scripts = std::make_unique<script::ScriptEngine>();
+    platform::setPanelProvider(std::make_unique<DialogPanels>());
+    addFilesModule(*m_scripts);
+    addShellModule(*m_scripts, *m_shell);
+    QObject::connect(m_scripts.get(), &script::ScriptEngine::uncaughtError, m_shell.get(),
+                     [](const QString &message) { platform::logLine(message); });
+}
+
+// The windows go first: their controls still hold functions of the scripts.
+StartUp::~StartUp()
+{
+    m_shell->closeAll();
+}
+
+bool StartUp::loadScripts(const QStringList &arguments)
+{
+    m_shell->setArguments(arguments);
+    const auto loaded = m_scripts->importFile(interfaceFolder() + QStringLiteral("/main.js"));
+    if (loaded)
+        return true;
+    m_problem = loaded.error().message;
+    platform::logLine(m_problem);
+    m_shell->closeAll();
+    tellFatalProblem(m_problem);
+    return false;
+}
+
+void tellFatalProblem(const QString &problem)
+{
+    QMessageBox box(
+        QMessageBox::Critical, QStringLiteral("Quorlin"),
+        QCoreApplication::translate("window::StartUp", "Quorlin cannot start: a script of its windows failed."));
+    box.setInformativeText(problem);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.exec();
+}
+
+} // namespace window

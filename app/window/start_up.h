@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class QApplication;
+
+namespace script {
+class ScriptEngine;
+}
+
+namespace window {
+
+class Shell;
+class Theme;
+
+/** Everything that stands before the application loop: theme, panels, script engine, and the scripts themselves. */
+class StartUp
+{
+public:
+    explicit StartUp(QApplication &application);
+    ~StartUp();
+
+    /**
+     * Loads main.js of the interface folder, which opens the main window.
+     *
+     * @param arguments  files and folders that the program was started with
+     * @return false if a script failed to load; the user was told then, in words with file and line
+     */
+    bool loadScripts(const QStringList &arguments);
+
+    /** What loadScripts() failed with; empty if it did not. */
+    QString problem() const { return m_problem; }
+    Shell &shell() { return *m_shell; }
+    script::ScriptEngine &scripts() { return *m_scripts; }
+
+private:
+    QString m_problem;
+    std::unique_ptr<Theme> m_theme;
+    std::unique_ptr<Shell> m_shell;
+    std::unique_ptr<script::ScriptEngine> m_scripts;
+};
+
+/** Tells the user, in a window of its own, that a script could not be loaded. Waits until it is closed. */
+void tellFatalProblem(const QString &problem);
+
+} // namespace window

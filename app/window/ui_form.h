@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QJSValue>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <QVariant>
+#include <QWidget>
+
+namespace window {
+
+/** A window or pane that was loaded from a .ui file, as scripts handle it. */
+class Form : public QObject
+{
+    Q_OBJECT
+
+public:
+    Form(QWidget *root, const QString &file, QObject *parent);
+
+    /** Loads @p file; null with @p problem filled in where that fails. The form owns nothing: the widget has a parent
+     * or is a window. */
+    static Form *load(const QString &file, QWidget *parentWidget, QObject *owner, QString *problem);
+
+    QWidget *root() const { return m_root; }
+
+    /** The control, action or menu of that name; throws a ReferenceError where there is none. */
+    Q_INVOKABLE QObject *control(const QString &name);
+    Q_INVOKABLE QStringList names() const;
+
+    /** Puts another form into the layout of the container @p name. */
+    Q_INVOKABLE void place(const QString &name, QObject *form);
+    /** The entries of a combo box: texts to read and the values that stand behind them; "-" is a separator. */
+    Q_INVOKABLE void setItems(const QString &name, const QStringList &texts, const QVariantList &values);
+    Q_INVOKABLE QVariant value(const QString &name);
+    /** Chooses the entry with that value; false where there is none. */
+    Q_INVOKABLE bool chooseValue(const QString &name, const QVariant &value);
+    Q_INVOKABLE void setIcon(const QString &name, const QString &icon);
+    /** Sets a property that the style sheet looks at and draws the control anew. */
+    Q_INVOKABLE void setLook(const QString &name, const QString &property, const QString &value);
+    /** The entries of a menu: each calls @p chosen with its value. */
+    Q_INVOKABLE void setMenu(const QString &name, const QStringList &texts, const QVariantList &values,
+                             const QJSValue &chosen);
+    /** Sizes of the parts of a splitter, in pixels; what the user set and was remembered wins. */
+    Q_INVOKABLE void setSplit(const QString &name, const QList<int> &sizes);
+    /** Makes several tool actions or menu entries exclude one another. */
+    Q_INVOKABLE void group(const QStringList &names);
+
+    Q_INVOKABLE void show();
+    Q_INVOKABLE void close();
+    /** Keeps size, place and splitters of this window under @p key, and takes up what was kept. */
+    Q_INVOKABLE void remember(const QString &key);
+    /** Called when the user closes the window; where it returns false the window stays. */
+    Q_INVOKABLE void onClose(const QJSValue &function) { m_onClose = function; }
+
+    /** Gives all labels with the role "field" of the forms the width of the widest, so that the fields line up. */
+    static void alignFields(const QList<Form *> &forms);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QObject *find(const QString &name, const char *kind);
+    void keepLayout() const;
+
+    QPointer<QWidget> m_root;
+    QString m_file;
+    QString m_key;
+    QJSValue m_onClose;
+};
+
+} // namespace window

@@ -1,0 +1,61 @@
+// Resizes pictures without windows, through the same step and the same runner as the window:
+//     quorlin-script interface/batch.js OUTDIR FILE...
+// Every file gets a longest side of 1600 pixels in its own type; a name that is taken is numbered. Prints what was written
+// and where. The exit status is 0 if every picture became a file, 1 if not, 2 for a bad command line.
+// Services used: ZtImageHandling, files.
+
+import { ZtImageHandling } from "quorlin";
+import { files } from "quorlin/files";
+import { runItems } from "./lib/job.js";
+import { planRun } from "./lib/plan.js";
+import { logRow, summaryOf } from "./lib/report.js";
+import { keepRows } from "./lib/log-file.js";
+import { pixels, statusText } from "./lib/wording.js";
+import * as resize from "./steps/resize.js";
+
+// A generator is run to its end; each value it yields is handed on.
+function carryOut(generator, onValue) {
+    let step = generator.next();
+    while (!step.done) {
+        onValue(step.value);
+        step = generator.next();
+    }
+    return step.value;
+}
+
+function settingsFor(folder) {
+    const settings = JSON.parse(JSON.stringify(resize.defaults));
+    settings.output.destination = { kind: "folder", name: "", path: folder };
+    return settings;
+}
+
+function tell(event) {
+    if (event.kind !== "end") {
+        return;
+    }
+    const result = event.result;
+    const what = result.status === "OK"
+        ? "-> " + result.path + " (" + pixels(result.photo) + " -> " + pixels(result) + ", " + files.byteText(result.bytes) + ")"
+        : "";
+    print(statusText(result.status, result.reason) + "  " + result.photo.path + " " + what);
+}
+
+function main(folder, paths) {
+    const settings = settingsFor(folder);
+    const services = { image: new ZtImageHandling(), files: files };
+    const photos = paths.map((path) => files.picture(path));
+    const planned = carryOut(planRun(photos.length, (i) => photos[i], paths, resize, settings, services), () => undefined);
+    const results = carryOut(runItems(planned.items, resize, settings, services), tell);
+    const problem = keepRows(files, results.map((result) => logRow(result, "Resize", "longest " + settings.longest, new Date().toISOString())));
+    const sum = summaryOf(results);
+    print(sum.done + " done, " + (sum.failed + sum.unsupported) + " failed, " + sum.skipped + " skipped, "
+          + files.byteText(sum.bytes) + " written to " + folder + (problem ? "; the log was not written: " + problem : ""));
+    quit(sum.done === results.length ? 0 : 1);
+}
+
+if (scriptArguments.length < 2) {
+    console.error("Usage: quorlin-script interface/batch.js OUTDIR FILE...");
+    quit(2);
+} else {
+    main(files.absolute(scriptArguments[0]), scriptArguments.slice(1).map((path) => files.absolute(path)));
+}

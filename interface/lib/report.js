@@ -1,0 +1,43 @@
+// The rows of a run: counted for the summary, written as CSV and as lines of the log. Pure; no service is used.
+
+const COLUMNS = ["Date", "Process", "Action", "Status", "Reason", "Input", "Output", "InputPath", "OutputPath", "Bytes"];
+
+// A cell that a spreadsheet would take for a formula is made plain text by an apostrophe.
+function cell(value) {
+    const text = String(value === null || value === undefined ? "" : value);
+    const plain = /^[=+\-@\t\r]/.test(text) && isNaN(Number(text)) ? "'" + text : text;
+    return /[",\r\n]/.test(plain) || plain !== text ? '"' + plain.replace(/"/g, '""') + '"' : plain;
+}
+
+/** One row of the log from one final result. */
+export function logRow(result, process, action, date) {
+    return {
+        date: date, process: process, action: action, status: result.status, reason: result.reason || "",
+        input: result.photo.name, output: result.name || "", inputPath: result.photo.path,
+        outputPath: result.path || "", bytes: result.bytes || 0,
+    };
+}
+
+/** All rows as CSV with a header line; lines end as the format wants it, in CR and LF. */
+export function toCsv(rows) {
+    const lines = [COLUMNS.join(",")];
+    for (const row of rows) {
+        lines.push([row.date, row.process, row.action, row.status, row.reason, row.input, row.output, row.inputPath,
+                    row.outputPath, row.bytes].map(cell).join(","));
+    }
+    return lines.join("\r\n") + "\r\n";
+}
+
+/** {done, failed, unsupported, skipped, bytes, folders} of the final results. */
+export function summaryOf(results) {
+    const summary = { done: 0, failed: 0, unsupported: 0, skipped: 0, bytes: 0, folders: [] };
+    const field = { "OK": "done", "Failed": "failed", "Not Supported": "unsupported", "Skipped": "skipped" };
+    for (const result of results) {
+        summary[field[result.status]] += 1;
+        summary.bytes += result.bytes || 0;
+        if (result.folder && summary.folders.indexOf(result.folder) < 0) {
+            summary.folders.push(result.folder);
+        }
+    }
+    return summary;
+}

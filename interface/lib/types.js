@@ -1,0 +1,33 @@
+// The file types that can be written and what each can hold. Pure data and functions; no service is used.
+
+export const ORIGINAL = "original file type";
+
+// profile: keeps the colour profile. metadata: resizing carries EXIF, IPTC and XMP into it. alpha: keeps transparency.
+export const WRITTEN = [
+    { id: "public.jpeg", extension: ".jpg", word: "JPEG", profile: true, metadata: false, alpha: false, quality: true },
+    { id: "public.png", extension: ".png", word: "PNG", profile: true, metadata: false, alpha: true, quality: false },
+    { id: "public.tiff", extension: ".tiff", word: "TIFF", profile: true, metadata: true, alpha: true, quality: false },
+    { id: "public.bmp", extension: ".bmp", word: "BMP", profile: false, metadata: false, alpha: false, quality: false },
+    { id: "com.compuserve.gif", extension: ".gif", word: "GIF", profile: false, metadata: false, alpha: true, quality: false },
+    { id: "public.jp2", extension: ".jp2", word: "JPEG 2000", profile: false, metadata: false, alpha: true, quality: false },
+];
+
+const BY_EXTENSION = {
+    jpg: "public.jpeg", jpeg: "public.jpeg", jpe: "public.jpeg", png: "public.png", tif: "public.tiff",
+    tiff: "public.tiff", bmp: "public.bmp", gif: "com.compuserve.gif", jp2: "public.jp2",
+    psd: "com.adobe.photoshop-image", pdf: "com.adobe.pdf", heic: "public.heic", heif: "public.heif",
+    webp: "org.webmproject.webp", avif: "public.avif",
+};
+
+/** The files that the resize action takes, by extension. */
+export const RESIZE_INPUT = ["jpg", "jpeg", "tif", "tiff", "png", "jp2", "gif", "bmp"];
+
+/** The written type of that identifier, or null. */
+export function writtenType(id) {
+    return WRITTEN.find((type) => type.id === id) || null;
+}
+
+/** The type that a result gets: the chosen one, or the one that the source's extension names. Null if not writable. */
+export function resultType(extension, choice) {
+    return writtenType(choice === ORIGINAL ? BY_EXTENSION[extension.toLowerCase()] || "" : choice);
+}

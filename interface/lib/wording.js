@@ -1,0 +1,41 @@
+// Sentences with numbers in them. Pure but for translation; no service is used.
+
+/** Puts values into the places %1, %2 ... of a text. */
+export function fill(text, ...values) {
+    return values.reduce((filled, value, index) => filled.replace("%" + (index + 1), String(value)), text);
+}
+
+/** One of two texts, by number; %1 in it becomes the number. */
+export function count(number, one, many) {
+    return fill(number === 1 ? one : many, number);
+}
+
+export function pictures(number) {
+    return count(number, qsTr("1 picture"), qsTr("%1 pictures"));
+}
+
+/** "4032×3024". */
+export function pixels(size) {
+    return size.width + "×" + size.height;
+}
+
+/** 39.68 gives "39.7 %". */
+export function percent(value) {
+    return String(Math.round(value * 10) / 10) + " %";
+}
+
+/** The path with the home folder written as "~". */
+export function shortPath(path, home) {
+    return path === home || path.startsWith(home + "/") ? "~" + path.slice(home.length) : path;
+}
+
+/** A status word and its reason as one text. */
+export function statusText(status, reason) {
+    const words = { "OK": qsTr("OK"), "Failed": qsTr("Failed"), "Not Supported": qsTr("Not Supported"), "Skipped": qsTr("Skipped") };
+    return reason ? words[status] + ": " + reason : words[status];
+}
+
+/** How a final status is coloured in the list. */
+export function statusKind(status) {
+    return { "OK": "good", "Failed": "bad", "Not Supported": "bad", "Skipped": "caution" }[status];
+}

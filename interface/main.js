@@ -1,0 +1,5 @@
+// The one entry of the user-interface scripts: opens the main window.
+
+import { openMainWindow } from "./windows/main/main.js";
+
+openMainWindow();

@@ -1,0 +1,359 @@
+// The main window: puts its parts together and joins controls to deeds.
+// Services used: ZtImageHandling, and what the parts of the window use.
+
+import { ZtImageHandling } from "quorlin";
+import { defaults } from "quorlin/defaults";
+import { files } from "quorlin/files";
+import { shell } from "quorlin/shell";
+import { guard, onProblem } from "../../lib/guard.js";
+import { keep, recall } from "../../lib/store.js";
+import { count, fill, pictures } from "../../lib/wording.js";
+import { OutputPane } from "../../panes/output-pane.js";
+import { actionNamed, GROUPS } from "./actions.js";
+import { Input } from "./input.js";
+import { LivePlan } from "./live-plan.js";
+import { PreviewSide } from "./preview-side.js";
+import { Run } from "./run.js";
+
+const SAID_MS = 8000;
+
+function tellProblem(where, error) {
+    console.error(where + ": " + error + "\n" + (error && error.stack ? error.stack : ""));
+    shell.ask({ title: qsTr("Something went wrong"), text: String(error), detail: where, buttons: [qsTr("Continue")], initial: 0, escape: 0, check: "" });
+}
+
+function makeWindow() {
+    const form = shell.loadForm("windows/main/main.ui");
+    return {
+        form: form,
+        pictures: form.control("pictures"),
+        services: { image: new ZtImageHandling(), files: files },
+        action: actionNamed("resize"),
+        settings: null,
+        said: "",
+        planned: { ready: 0, originals: 0, replaced: 0 },
+    };
+}
+
+function deedText(window) {
+    const total = window.pictures.count;
+    const originals = window.planned.originals;
+    if (total === 0) {
+        return window.action.title();
+    }
+    if (window.settings.output.simulation) {
+        return fill(qsTr("Simulate: %1"), window.action.deed(total));
+    }
+    return originals > 0
+        ? window.action.deed(total) + ", " + count(originals, qsTr("Replace 1 Original"), qsTr("Replace %1 Originals"))
+        : window.action.deed(total);
+}
+
+function deedNote(window) {
+    const planned = window.planned;
+    if (window.pictures.count === 0 || window.settings.output.simulation) {
+        return "";
+    }
+    if (planned.originals > 0) {
+        return qsTr("Originals are replaced by their results.");
+    }
+    return planned.replaced > 0 ? count(planned.replaced, qsTr("1 file is replaced."), qsTr("%1 files are replaced.")) : "";
+}
+
+function showDeed(window) {
+    const busy = window.run.isBusy();
+    const ready = window.pictures.count > 0 && window.action.step.validate(window.settings).length === 0;
+    const control = (name) => window.form.control(name);
+    control("startButton").text = deedText(window);
+    control("startButton").enabled = ready && !busy;
+    control("startAction").enabled = ready && !busy;
+    control("startAction").text = deedText(window);
+    window.form.setLook("startButton", "replaces", String(window.planned.originals > 0 && !window.settings.output.simulation));
+    control("deedNote").text = deedNote(window);
+    control("deedNote").visible = deedNote(window) !== "";
+}
+
+function showStatus(window) {
+    const control = (name) => window.form.control(name);
+    const state = window.run;
+    const busy = window.run.isBusy();
+    const ended = state.phase === "ended";
+    const idleText = window.said || (window.pictures.count > 0 ? pictures(window.pictures.count) : qsTr("No pictures yet"));
+    control("statusText").text = busy || ended ? state.text : idleText;
+    control("statusDetail").text = ended && window.said ? window.said : state.detail;
+    control("progress").visible = busy;
+    control("progress").maximum = state.phase === "planning" ? 0 : Math.max(1, state.progress ? state.progress.count : 1);
+    control("progress").value = state.progress ? state.progress.done : 0;
+    const visible = { pauseButton: state.phase === "running", cancelButton: busy, dismissButton: ended,
+                      openFolderButton: ended && window.run.folders().length > 0,
+                      showFailedButton: ended && window.run.hasProblems(),
+                      retryButton: ended && window.run.failedIds().length > 0,
+                      reportButton: ended && state.rows.length > 0 };
+    Object.keys(visible).forEach((name) => { control(name).visible = visible[name]; });
+    control("pauseButton").text = state.paused ? qsTr("Continue") : qsTr("Pause");
+    control("pauseAction").text = control("pauseButton").text;
+    control("pauseAction").enabled = visible.pauseButton;
+    control("cancelAction").enabled = busy || window.preview.large.visible;
+    control("retryAction").enabled = visible.retryButton;
+    control("reportAction").enabled = visible.reportButton;
+    control("showFailedAction").enabled = visible.showFailedButton;
+    control("showFailedAction").checked = window.pictures.problemsOnly;
+    control("showFailedButton").checked = window.pictures.problemsOnly;
+}
+
+function showInputState(window) {
+    const busy = window.run.isBusy();
+    const any = window.pictures.count > 0;
+    const control = (name) => window.form.control(name);
+    control("centre").currentIndex = any ? 1 : 0;
+    for (const name of ["addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction",
+                        "actionHost", "outputHost", "emptyAddPictures", "emptyAddFolder"]) {
+        control(name).enabled = !busy;
+    }
+    for (const name of ["clearButton", "clearAction", "removeAction", "selectAllAction"]) {
+        control(name).enabled = any && !busy;
+    }
+    for (const name of ["nextAction", "previousAction", "largeAction"]) {
+        control(name).enabled = any;
+    }
+    window.drop.open = !busy;
+}
+
+function showAll(window) {
+    showInputState(window);
+    showDeed(window);
+    showStatus(window);
+}
+
+function showCurrent(window) {
+    const id = window.pictures.currentId;
+    const photo = id > 0 ? window.pictures.photo(id) : null;
+    window.preview.show(photo, window.pane.show(photo, window.services));
+}
+
+function settingsChanged(window) {
+    keep(defaults, "Settings-" + window.action.name, window.settings);
+    keep(defaults, "SaveFolders", { folders: window.saveFolders });
+    window.livePlan.forgetFinal();
+    window.run.dismiss();
+    window.pictures.problemsOnly = false;
+    showCurrent(window);
+    window.livePlan.refresh();
+    showAll(window);
+}
+
+function listChanged(window) {
+    if (!window.run.isBusy()) {
+        window.livePlan.refresh();
+    }
+    if (window.pictures.count === 0) {
+        window.run.dismiss();
+    }
+    showAll(window);
+}
+
+function say(window, text) {
+    window.said = text;
+    window.saidTimer.start(SAID_MS);
+    if (window.run.phase === "ended" && window.pictures.count > 0) {
+        window.run.dismiss();
+    }
+    showStatus(window);
+}
+
+function setFill(window, on) {
+    window.preview.view.fill = on;
+    window.form.control("fitFill").selectedSegment = on ? 1 : 0;
+    window.form.control(on ? "fillAction" : "fitAction").checked = true;
+    keep(defaults, "Preview", { fill: on });
+}
+
+function showProblemsOnly(window, on) {
+    window.pictures.problemsOnly = on;
+    showStatus(window);
+}
+
+function mayClose(window) {
+    if (!window.run.isBusy()) {
+        window.livePlan.stop();
+        return true;
+    }
+    const answer = shell.ask({ title: qsTr("A run is under way"), text: qsTr("Stop the run and close the window?"),
+        detail: qsTr("What is finished stays; nothing half written is left."),
+        buttons: [qsTr("Stop and Close"), qsTr("Keep Running")], initial: 1, escape: 1, check: "" });
+    if (answer.button === 0) {
+        window.run.cancel();
+    }
+    return answer.button === 0;
+}
+
+function cancel(window) {
+    if (window.preview.large.visible) {
+        window.preview.closeLarge();
+    } else if (window.run.isBusy()) {
+        window.run.cancel();
+    }
+    showStatus(window);
+}
+
+function toggleLarge(window) {
+    window.preview.toggleLarge();
+    showStatus(window);
+}
+
+function dismiss(window) {
+    window.run.dismiss();
+    window.said = "";
+    showProblemsOnly(window, false);
+}
+
+function openFolders(window) {
+    window.run.folders().slice(0, 3).forEach((folder) => shell.openFolder(folder));
+}
+
+function about() {
+    shell.ask({ title: qsTr("About Quorlin"), text: fill(qsTr("Quorlin %1"), shell.version),
+        detail: qsTr("One deed for a whole folder of pictures: it shows what it will do, does it, checks what it did, and can say so in a log.\n\nFree software under the GNU General Public License, version 3 or later."),
+        buttons: [qsTr("Close")], initial: 0, escape: 0, check: "" });
+}
+
+function fillSideBar(window) {
+    const bar = window.form.control("sideBar");
+    for (const group of GROUPS) {
+        bar.addGroup(group.title());
+        group.actions.forEach((action) => bar.addEntry(action.name, action.title(), action.icon));
+    }
+    bar.currentAction = window.action.name;
+}
+
+function makePanes(window) {
+    const changed = guard("settings", () => settingsChanged(window));
+    window.settings = recall(defaults, "Settings-" + window.action.name, window.action.step.defaults);
+    window.saveFolders = recall(defaults, "SaveFolders", { folders: [] }).folders;
+    window.pane = new window.action.pane(window.settings, changed);
+    window.output = new OutputPane(window.settings.output, window.saveFolders, changed);
+    window.form.place("actionHost", window.pane.form);
+    window.form.place("outputHost", window.output.form);
+    shell.alignFields([window.pane.form, window.output.form]);
+    window.form.control("windowTitle").text = "Quorlin – " + window.action.title();
+}
+
+function deedsOf(window) {
+    return {
+        addPictures: () => window.input.addPictures(),
+        addFolder: () => window.input.addFolder(),
+        clear: () => window.pictures.removeAll(),
+        start: () => window.run.start(),
+        pause: () => window.run.togglePause(),
+        cancel: () => cancel(window),
+        retry: () => window.run.retry(),
+        fullScreen: () => shell.toggleFullScreen(),
+        report: () => note(window, window.run.saveReport()),
+        showFailed: () => showProblemsOnly(window, !window.pictures.problemsOnly),
+        openFolders: () => openFolders(window),
+        dismiss: () => dismiss(window),
+        quit: () => window.form.close(),
+        paste: () => window.input.paste(),
+        remove: () => window.pictures.removeSelected(),
+        selectAll: () => window.pictures.selectAll(),
+        next: () => window.pictures.step(1),
+        previous: () => window.pictures.step(-1),
+        large: () => toggleLarge(window),
+        fit: () => setFill(window, false),
+        fill: () => setFill(window, true),
+        about: about,
+    };
+}
+
+const BUTTONS = {
+    addPicturesButton: "addPictures", emptyAddPictures: "addPictures", addFolderButton: "addFolder",
+    emptyAddFolder: "addFolder", clearButton: "clear", startButton: "start", pauseButton: "pause", cancelButton: "cancel",
+    retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report", openFolderButton: "openFolders",
+    showFailedButton: "showFailed", dismissButton: "dismiss",
+};
+
+const ENTRIES = [
+    "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "quit", "paste",
+    "remove", "selectAll", "next", "previous", "large", "fit", "fill", "about", "showFailed",
+];
+
+function connectControls(window) {
+    const deeds = deedsOf(window);
+    for (const name of Object.keys(BUTTONS)) {
+        window.form.control(name).clicked.connect(guard(name, deeds[BUTTONS[name]]));
+    }
+    for (const name of ENTRIES) {
+        window.form.control(name + "Action").triggered.connect(guard(name, deeds[name]));
+    }
+}
+
+// Says something beside the summary of a run.
+function note(window, text) {
+    window.said = text;
+    window.saidTimer.start(SAID_MS);
+    showStatus(window);
+}
+
+function connectViews(window) {
+    const list = window.pictures;
+    const large = guard("large", () => toggleLarge(window));
+    const step = guard("step", (rows) => list.step(rows));
+    list.countChanged.connect(guard("list", () => listChanged(window)));
+    list.currentPictureChanged.connect(guard("current", () => showCurrent(window)));
+    list.largePreviewRequested.connect(large);
+    for (const view of [window.preview.view, window.preview.large]) {
+        view.stepRequested.connect(step);
+        view.largePreviewRequested.connect(large);
+    }
+    window.preview.large.closeRequested.connect(guard("large.close", () => cancel(window)));
+    window.drop.dropped.connect(guard("drop", (paths) => window.input.addPaths(paths)));
+    window.form.control("fitFill").chosen.connect(guard("fit", (index) => setFill(window, index === 1)));
+}
+
+function connectAppearance(window) {
+    const names = { system: "systemAppearanceAction", light: "lightAppearanceAction", dark: "darkAppearanceAction" };
+    window.form.group([names.system, names.light, names.dark]);
+    window.form.group(["fitAction", "fillAction"]);
+    for (const choice of Object.keys(names)) {
+        const action = window.form.control(names[choice]);
+        action.checked = shell.theme.choice() === choice;
+        action.triggered.connect(guard("appearance", () => shell.theme.choose(choice)));
+    }
+    const icons = () => window.form.setIcon("emptyIcon", "pictures-large");
+    shell.theme.changed.connect(guard("theme", icons));
+    icons();
+}
+
+/** Makes and shows the main window. */
+export function openMainWindow() {
+    onProblem(tellProblem);
+    const window = makeWindow();
+    window.say = (text) => say(window, text);
+    window.reloadPreview = () => { window.preview.reload(); showCurrent(window); };
+    window.saidTimer = shell.timer(guard("said", () => { window.said = ""; showStatus(window); }));
+    window.drop = shell.dropTarget(window.form);
+    window.drop.setMessage(qsTr("Drop to add pictures and folders"));
+    makePanes(window);
+    window.input = new Input(window);
+    window.preview = new PreviewSide(window);
+    window.livePlan = new LivePlan(window, (summary) => { window.planned = summary; showDeed(window); });
+    window.run = new Run(window, () => showAll(window));
+    fillSideBar(window);
+    window.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill")];
+    connectControls(window);
+    connectViews(window);
+    connectAppearance(window);
+    setFill(window, recall(defaults, "Preview", { fill: false }).fill);
+    window.form.onClose(guard("close", () => mayClose(window)));
+    window.form.setSplit("bodySplitter", [196, 900, 330]);
+    window.form.setSplit("centreSplitter", [560, 300]);
+    window.form.remember("MainWindow");
+    shell.setMainForm(window.form);
+    showCurrent(window);
+    showAll(window);
+    window.form.show();
+    window.form.control("central").setFocus();
+    if (shell.arguments.length > 0) {
+        window.input.addPaths(shell.arguments);
+    }
+}

@@ -1,0 +1,166 @@
+#include "app/script/ScriptEngine.h"
+#include "app/window/shell.h"
+#include "app/window/start_up.h"
+#include "app/window/ui_form.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QString interfacePath(const QString &file)
+{
+    return QStringLiteral(QUORLIN_INTERFACE_FOLDER "/") + file;
+}
+
+QStringList filesEnding(const QString &ending)
+{
+    QStringList found;
+    QDirIterator walk(QStringLiteral(QUORLIN_INTERFACE_FOLDER), {QStringLiteral("*") + ending}, QDir::Files,
+                      QDirIterator::Subdirectories);
+    while (walk.hasNext())
+        found.append(walk.next());
+    return found;
+}
+
+QString textOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QStringList captures(const QString &text, const char *pattern)
+{
+    QStringList found;
+    auto matches = QRegularExpression(QString::fromLatin1(pattern)).globalMatch(text);
+    while (matches.hasNext())
+        found.append(matches.next().captured(1));
+    return found;
+}
+
+} // namespace
+
+class InterfaceModules : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER);
+        m_startUp = std::make_unique<window::StartUp>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+    }
+
+    void cleanupTestCase() { m_startUp.reset(); }
+
+    void everyModuleCanBeImported_data()
+    {
+        QTest::addColumn<QString>("path");
+        const QStringList modules = filesEnding(QStringLiteral(".js"));
+        QVERIFY(modules.size() > 10);
+        for (const QString &path : modules)
+            // These two act when they are imported: one opens the window, the other works off its arguments and ends.
+            if (!path.endsWith(QLatin1String("interface/main.js")) && !path.endsWith(QLatin1String("/batch.js")))
+                QTest::newRow(qPrintable(path.mid(int(qstrlen(QUORLIN_INTERFACE_FOLDER))))) << path;
+    }
+
+    void everyModuleCanBeImported()
+    {
+        QFETCH(QString, path);
+        const auto module = m_startUp->scripts().importFile(path);
+        QVERIFY2(module.has_value(), module ? "" : qPrintable(module.error().message));
+    }
+
+    void everyControlThatAModuleNamesIsInItsForm_data()
+    {
+        QTest::addColumn<QStringList>("modules");
+        QTest::addColumn<QStringList>("forms");
+        const QStringList mainParts = {QStringLiteral("windows/main/main.js"), QStringLiteral("windows/main/input.js"),
+                                       QStringLiteral("windows/main/preview-side.js")};
+        QTest::newRow("main window") << mainParts << QStringList{QStringLiteral("windows/main/main.ui")};
+        for (const char *name : {"resize-pane", "output-pane"}) {
+            const QString base = QStringLiteral("panes/") + QLatin1String(name);
+            QTest::newRow(name) << QStringList{base + QStringLiteral(".js")}
+                                << QStringList{base + QStringLiteral(".ui")};
+        }
+    }
+
+    void everyControlThatAModuleNamesIsInItsForm()
+    {
+        QFETCH(QStringList, modules);
+        QFETCH(QStringList, forms);
+        QStringList known;
+        for (const QString &file : forms) {
+            QString problem;
+            std::unique_ptr<window::Form> form(window::Form::load(interfacePath(file), nullptr, nullptr, &problem));
+            QVERIFY2(form, qPrintable(problem));
+            known += form->names();
+            delete form->root();
+        }
+        int named = 0;
+        for (const QString &module : modules) {
+            const QStringList names = captures(
+                textOf(interfacePath(module)),
+                R"re((?:control|setItems|chooseValue|setMenu|setIcon|setLook|place|setSplit|form\.value)\("(\w+)")re");
+            named += int(names.size());
+            for (const QString &name : names)
+                QVERIFY2(known.contains(name), qPrintable(module + QStringLiteral(" names ") + name));
+        }
+        QVERIFY(named > 3);
+    }
+
+    void namesOfModulesAreUniqueSoThatTheirTextsAre()
+    {
+        QStringList seen;
+        for (const QString &path : filesEnding(QStringLiteral(".js"))) {
+            const QString text = textOf(path);
+            if (!text.contains(QLatin1String("qsTr(")))
+                continue;
+            const QString base = QFileInfo(path).baseName();
+            QVERIFY2(!seen.contains(base), qPrintable(base));
+            seen.append(base);
+        }
+    }
+
+    void bothThemesNameTheSameColorsAndAllThatTheStyleUses()
+    {
+        const auto colors = [](const char *name) {
+            const QString path = interfacePath(QStringLiteral("themes/") + QLatin1String(name));
+            return QJsonDocument::fromJson(textOf(path).toUtf8()).object().keys();
+        };
+        QCOMPARE(colors("light.json"), colors("dark.json"));
+        const QStringList used = captures(textOf(interfacePath(QStringLiteral("themes/base.qss"))), "@(\\w+)@");
+        QVERIFY(used.size() > 20);
+        for (const QString &name : used)
+            QVERIFY2(name == QLatin1String("folder") || name == QLatin1String("name") ||
+                         colors("light.json").contains(name),
+                     qPrintable(name));
+    }
+
+    void aControlThatIsMissingIsAnErrorThatNamesIt()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("probe.js"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(
+            "import { shell } from 'quorlin/shell';\n\nshell.loadForm('panes/output-pane.ui').control('nobody');\n");
+        file.close();
+        const auto module = m_startUp->scripts().importFile(path);
+        QVERIFY(!module.has_value());
+        QVERIFY2(module.error().message.contains(QLatin1String("nobody")), qPrintable(module.error().message));
+        QVERIFY2(module.error().message.contains(QLatin1String("probe.js:3")), qPrintable(module.error().message));
+    }
+
+private:
+    std::unique_ptr<window::StartUp> m_startUp;
+};
+
+QTEST_MAIN(InterfaceModules)
+
+#include "tst_interface_modules.moc"

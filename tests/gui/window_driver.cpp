@@ -1,0 +1,99 @@
+#include "window_driver.h"
+
+#include "platform/desktop/user_defaults.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QElapsedTimer>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+
+WindowDriver::WindowDriver(QApplication &application) : m_application(application)
+{
+    qputenv("HOME", m_home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", (m_home.path() + QStringLiteral("/.config")).toLocal8Bit());
+    qputenv("XDG_DATA_HOME", (m_home.path() + QStringLiteral("/.local/share")).toLocal8Bit());
+    // The store of the defaults is opened once for the process: what the driver before left is not for this one.
+    for (const char *key : {"Settings-resize", "SaveFolders", "RecentFolders", "Preview", "MainWindowGeometry",
+                            "MainWindowbodySplitter", "MainWindowcentreSplitter"})
+        platform::removeUserDefault(QString::fromLatin1(key));
+    startAgain();
+}
+
+void WindowDriver::startAgain()
+{
+    m_startUp.reset();
+    m_startUp = std::make_unique<window::StartUp>(m_application);
+    if (!m_startUp->loadScripts({}))
+        qFatal("%s", qPrintable(m_startUp->problem()));
+}
+
+WindowDriver::~WindowDriver() = default;
+
+QMainWindow &WindowDriver::window()
+{
+    return *qobject_cast<QMainWindow *>(m_startUp->shell().mainForm()->root());
+}
+
+void WindowDriver::click(const char *button)
+{
+    auto *found = control<QAbstractButton>(button);
+    if (!found->isVisible() || !found->isEnabled())
+        qFatal("the button %s cannot be clicked", button);
+    QTest::mouseClick(found, Qt::LeftButton);
+}
+
+void WindowDriver::trigger(const char *action)
+{
+    control<QAction>(action)->trigger();
+}
+
+void WindowDriver::choose(const char *box, const QString &value)
+{
+    auto *found = control<QComboBox>(box);
+    const int index = found->findData(value);
+    if (index < 0)
+        qFatal("the box %s has no entry %s", box, qPrintable(value));
+    found->setCurrentIndex(index);
+    Q_EMIT found->activated(index);
+}
+
+QString WindowDriver::cell(int row, int column)
+{
+    return pictures().model()->index(row, column).data().toString();
+}
+
+void WindowDriver::drop(const QStringList &paths)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString &path : paths)
+        urls.append(QUrl::fromLocalFile(path));
+    data.setUrls(urls);
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window(), &enter);
+    if (!enter.isAccepted())
+        return;
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window(), &drop);
+}
+
+bool WindowDriver::waitFor(const std::function<bool()> &condition, int timeoutMs)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!condition()) {
+        if (clock.elapsed() > timeoutMs)
+            return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        QTest::qSleep(1);
+    }
+    return true;
+}
+
+QString WindowDriver::waitForSummary()
+{
+    auto *dismiss = control<QAbstractButton>("dismissButton");
+    return waitFor([dismiss] { return dismiss->isVisible(); }, 60000) ? text("statusText") : QString();
+}

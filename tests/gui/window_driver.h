@@ -1,0 +1,63 @@
+#pragma once
+
+#include "app/window/picture_table.h"
+#include "app/window/shell.h"
+#include "app/window/start_up.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QTemporaryDir>
+
+#include <functional>
+
+/**
+ * The program with its main window, as a person would work it: finds controls by name, waits for what the window does.
+ * Settings and logs go to a folder of its own.
+ */
+class WindowDriver
+{
+public:
+    explicit WindowDriver(QApplication &application);
+    ~WindowDriver();
+
+    /** Ends the program and starts it anew, with the same settings. */
+    void startAgain();
+
+    QMainWindow &window();
+    window::StartUp &startUp() { return *m_startUp; }
+    window::PictureTable &pictures() { return *control<window::PictureTable>("pictures"); }
+
+    /** The control of that name; ends the test where there is none. */
+    template<typename T> T *control(const char *name)
+    {
+        T *found = window().findChild<T *>(QString::fromLatin1(name));
+        if (!found)
+            qFatal("no control %s", name);
+        return found;
+    }
+
+    void click(const char *button);
+    void trigger(const char *action);
+    /** Chooses an entry of a combo box by the value behind it, as a person would. */
+    void choose(const char *box, const QString &value);
+    QString text(const char *label) { return control<QLabel>(label)->text(); }
+    /** The cell of the list in row @p row, in the order of adding. */
+    QString cell(int row, int column);
+
+    /** Drops files and folders onto the window. */
+    void drop(const QStringList &paths);
+    /** Lets the window work until the condition holds; false after @p timeoutMs. */
+    bool waitFor(const std::function<bool()> &condition, int timeoutMs = 20000);
+    /** Waits until a run has ended and its summary is shown; returns the summary. */
+    QString waitForSummary();
+
+    QString folder() const { return m_home.path(); }
+
+private:
+    QApplication &m_application;
+    QTemporaryDir m_home;
+    std::unique_ptr<window::StartUp> m_startUp;
+};

@@ -1,0 +1,64 @@
+import { keepRows, readRows } from "../../interface/lib/log-file.js";
+import { clockText, costOf, Progress } from "../../interface/lib/progress.js";
+import { logRow, summaryOf, toCsv } from "../../interface/lib/report.js";
+import { recall, withNewest } from "../../interface/lib/store.js";
+import { shortPath, statusText } from "../../interface/lib/wording.js";
+import { equal, finish, test } from "./check.js";
+import { FakeFiles, photo } from "./fakes.js";
+
+const done = { status: "OK", photo: photo("/p/a.jpg", 4, 3), name: "a.jpg", path: "/out/a.jpg", folder: "/out", bytes: 7 };
+const broken = { status: "Failed", reason: 'no "picture", alas', photo: photo("/p/=b.jpg", 0, 0) };
+
+test("countsTheFinalStates", () => {
+    equal(summaryOf([done, broken, done]), { done: 2, failed: 1, unsupported: 0, skipped: 0, bytes: 14, folders: ["/out"] });
+});
+
+test("writesCsvThatKeepsQuotesAndIsNoFormula", () => {
+    const lines = toCsv([logRow(broken, "Resize", "longest 1600", "2026-11-21")]).split("\r\n");
+    equal(lines.length, 3);
+    equal(lines[1], '2026-11-21,Resize,longest 1600,Failed,"no ""picture"", alas","\'=b.jpg",,/p/=b.jpg,,0');
+});
+
+test("keepsAndReadsTheLog", () => {
+    const files = new FakeFiles({});
+    const rows = [logRow(done, "Resize", "x", "d"), logRow(broken, "Resize", "x", "d")];
+    equal(keepRows(files, rows), "");
+    files.texts["/data/log.jsonl"] += "half a li";
+    equal(readRows(files), rows);
+});
+
+const CLOCKS = [[0, "0:00"], [8000, "0:08"], [61000, "1:01"], [3700000, "1:01:40"]];
+for (const row of CLOCKS) {
+    test("clock " + row[0], () => equal(clockText(row[0]), row[1]));
+}
+
+test("saysNothingOfTheTimeLeftBeforeThereIsAMeasure", () => {
+    const progress = new Progress([1, 1]);
+    equal(progress.leftMs(), null);
+    progress.add(1, 500);
+    equal(progress.leftMs(), 500);
+});
+
+test("weighsPicturesByTheirPixels", () => {
+    const costs = [costOf({ width: 1000, height: 1500 }), costOf({ width: 0, height: 0 })];
+    const progress = new Progress(costs);
+    progress.add(costs[0], 400);
+    equal(progress.leftMs(), 100);
+});
+
+test("recallsKnownFieldsOfTheRightTypeOnly", () => {
+    const kept = { get: () => '{"a": 5, "b": "x", "c": {"d": 2}, "z": 1}' };
+    equal(recall(kept, "k", { a: 1, b: 2, c: { d: 1, e: 3 }, list: [] }), { a: 5, b: 2, c: { d: 2, e: 3 }, list: [] });
+});
+
+for (const text of ["", "{", "null", "[1]", "7"]) {
+    test("recalls the standard values from " + text, () => equal(recall({ get: () => text }, "k", { a: 1 }), { a: 1 }));
+}
+
+test("putsTheNewestFirstOnce", () => equal(withNewest(["a", "b", "c"], "b", 2), ["b", "a"]));
+test("shortensTheHomeFolderOnly", () => {
+    equal([shortPath("/h/u/p", "/h/u"), shortPath("/h/user", "/h/u")], ["~/p", "/h/user"]);
+});
+test("saysStatusAndReason", () => equal(statusText("Failed", "why"), "Failed: why"));
+
+finish();
