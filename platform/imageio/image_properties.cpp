@@ -1,3 +1,4 @@
+#include "platform/imageio/container_properties.h"
 #include "platform/imageio/opened_file.h"
 #include "platform/imageio/profile_name.h"
 
@@ -49,6 +50,8 @@ QVariantMap ImageSource::properties() const
     if (!m_file)
         return {};
     QVariantMap properties = metadata().toProperties();
+    if (const std::unique_ptr<QIODevice> device = m_file->bytes.device())
+        properties.insert(containerProperties(*device));
     try {
         const vips::VImage image = openImage(m_file->bytes, m_file->content);
         addPixelProperties(properties, image);

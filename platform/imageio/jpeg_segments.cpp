@@ -45,6 +45,10 @@ void take(JpegSegments &segments, uchar marker, JpegSegments::Range range, const
         takeExif(segments, payload.mid(6));
     if (marker == 0xe0 && payload.startsWith("JFIF") && segments.insertAt == range.start)
         segments.insertAt = range.start + range.size;
+    if (marker == 0xe0 && segments.jfif.isEmpty() && payload.startsWith("JFIF"))
+        segments.jfif = QByteArray(payload.constData(), payload.size()); // the payload is a view
+    if (marker == 0xc2)
+        segments.isProgressive = true;
     if (isFrameHeader(marker) && payload.size() >= 5)
         segments.size =
             QSize(qFromBigEndian<quint16>(payload.constData() + 3), qFromBigEndian<quint16>(payload.constData() + 1));

@@ -18,6 +18,8 @@ struct JpegSegments
     bool valid = false; ///< the header is sound as far as the first scan
     QByteArray exif;    ///< the first EXIF block, TIFF header first, its continuations joined
     int exifSegments = 0;
+    QByteArray jfif; ///< what the JFIF segment holds, its name first
+    bool isProgressive = false;
     QSize size;             ///< pixels as stored
     qsizetype insertAt = 0; ///< behind the JFIF segment, or behind the start of the image
     QList<Range> metadata;  ///< EXIF, XMP and Photoshop segments with their markers, in order
