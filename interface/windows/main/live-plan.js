@@ -22,7 +22,7 @@ export function showItem(list, id, item, simulated) {
     if (item.asks) {
         list.setStatus(id, "planned", qsTr("name is taken: will ask"), detail);
     } else if (item.replaces) {
-        const text = item.replacesOriginal ? qsTr("replaces the original") : fill(qsTr("replaces %1"), item.name);
+        const text = item.replacesOriginal ? qsTr("replaces original") : fill(qsTr("replaces %1"), item.name);
         list.setStatus(id, "caution", text, detail);
     } else {
         list.setStatus(id, simulated ? "planned" : "waiting", simulated ? qsTr("would be written") : qsTr("ready"), detail);
