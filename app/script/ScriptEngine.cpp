@@ -172,7 +172,7 @@ void ScriptEngine::reportUncaught(const QString &message)
 
 QJSValue ScriptEngine::controlValue(QObject *object)
 {
-    return object ? m_seam->facadeOf(object) : QJSValue(QJSValue::NullValue);
+    return object ? m_seam->facadeOf(object, Seam::Owner::Application) : QJSValue(QJSValue::NullValue);
 }
 
 void ScriptEngine::drain()

@@ -30,6 +30,7 @@ class Seam;
  *     QJSValue window = scripts.engine().newObject();
  *     window.setProperty("control", ...);                       // any value; its properties are what can be imported
  *     scripts.registerModule("quorlin/window", window);         // before the first module that imports it
+ *     // A provider of real panels is set before the engine is made, so that scripts can answer in its place.
  *     connect(&scripts, &ScriptEngine::uncaughtError, ...);     // errors in signal handlers, in words with file and line
  *     auto main = scripts.importFile(folder + "/main.js");      // imports of other files are relative to each file
  *     if (!main) showFatal(main.error().message);               // "FILE:LINE: NAME: MESSAGE"
@@ -40,7 +41,7 @@ class Seam;
  * with call(generator.property("next"), {}, generator).
  *
  * `import * as name` does not work for the registered modules, only `import { a, b }`; a name that a registered module does
- * not have is undefined. Modules are loaded once; a module that failed fails again with the same words.
+ * not have is undefined. A promise that is rejected and has no catch is silent: every chain ends with one. Modules are loaded once; a module that failed fails again with the same words.
  *
  * Main thread only. Nothing here throws.
  */
@@ -70,7 +71,7 @@ public:
     platform::Result<QJSValue> call(const QJSValue &function, const QJSValueList &arguments,
                                     const QJSValue &thisObject = {});
 
-    /** @p object as scripts get it: a service as its facade, a widget or other control as itself, still owned by C++. */
+    /** @p object as scripts get it: a service as its facade, a widget or other control as itself; C++ keeps owning it. */
     QJSValue controlValue(QObject *object);
 
     /** Runs what settled promises and queued events have left to do, until nothing is left. */

@@ -88,7 +88,8 @@ Location locationInStack(const QString &stack)
 Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engine), m_values(engine)
 {
     m_values.objectOf = [this](const QJSValue &value) { return objectOf(value); };
-    m_values.facadeOf = [this](QObject *object) { return facadeOf(object); };
+    m_values.facadeOf = [this](QObject *object) { return facadeOf(object, Owner::Application); };
+    m_values.facadeOfNew = [this](QObject *object) { return facadeOf(object, Owner::Scripts); };
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
     const QJSValue makeFacades = engine.evaluate(facadeSource(), facadeFileName());
     const QJSValue facades = makeFacades.call({engine.newQObject(this)});
@@ -165,16 +166,15 @@ const ServiceClass *Seam::classOf(const QObject *object) const
     return nullptr;
 }
 
-/** An object with a parent belongs to that; one without is deleted with the last facade. */
-QVariant Seam::hold(QObject *object)
+QVariant Seam::hold(QObject *object, Owner owner)
 {
     std::shared_ptr<QObject> shared = m_held.value(object).lock();
     if (!shared) {
         const QPointer<QObject> guard(object);
-        shared = std::shared_ptr<QObject>(object, [this, guard](QObject *held) {
+        shared = std::shared_ptr<QObject>(object, [this, guard, owner](QObject *held) {
             m_held.remove(held);
             QObject *alive = guard.data();
-            if (alive && !alive->parent())
+            if (owner == Owner::Scripts && alive && !alive->parent())
                 delete alive;
         });
         m_held.insert(object, shared);
@@ -182,7 +182,7 @@ QVariant Seam::hold(QObject *object)
     return QVariant::fromValue(Native{shared});
 }
 
-QJSValue Seam::facadeOf(QObject *object)
+QJSValue Seam::facadeOf(QObject *object, Owner owner)
 {
     const ServiceClass *service = classOf(object);
     if (!service) {
@@ -191,7 +191,7 @@ QJSValue Seam::facadeOf(QObject *object)
         return m_engine.newQObject(object);
     }
     const QJSValue wrap = m_definitions[size_t(m_classIds.value(service->entry.meta))].property(QStringLiteral("wrap"));
-    return wrap.call({m_engine.toScriptValue(hold(object))});
+    return wrap.call({m_engine.toScriptValue(hold(object, owner))});
 }
 
 QObject *Seam::objectOf(const QJSValue &value) const
@@ -224,7 +224,7 @@ QJSValue Seam::make(int classId, bool isConstructed, const QJSValue &arguments)
             throw platform::Raised::typeError(
                 QStringLiteral("Expected a dictionary of properties for new %1 but received %2")
                     .arg(name, m_values.described(arguments.property(0))));
-        return m_engine.toScriptValue(hold(service.entry.make()));
+        return m_engine.toScriptValue(hold(service.entry.make(), Owner::Scripts));
     });
 }
 
@@ -273,8 +273,12 @@ QJSValue Seam::invoke(QObject *object, const Operation &operation, const QJSValu
 
 QJSValue Seam::resultToScript(QObject *object, const QVariant &result, Kind kind)
 {
-    if (kind == Kind::Object && result.value<QObject *>() == object)
+    QObject *answered = kind == Kind::Object ? result.value<QObject *>() : nullptr;
+    if (answered && answered == object)
         return m_itself;
+    // What an operation made for the script belongs to the script.
+    if (answered && !answered->parent())
+        return facadeOf(answered, Owner::Scripts);
     return m_values.toScript(result);
 }
 

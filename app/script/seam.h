@@ -46,8 +46,14 @@ public:
     /** What `import ... from "module"` gives. */
     QJSValue exportsOf(const QByteArray &module) const;
 
-    /** The facade for an object of a registered class; other objects, such as real controls, are handed out as they are. */
-    QJSValue facadeOf(QObject *object);
+    /** Who deletes an object without a parent: the scripts with their last facade of it, or the C++ that made it. */
+    enum class Owner { Scripts, Application };
+
+    /**
+     * The facade for an object of a registered class; other objects, such as real controls, are handed out as they are and
+     * always belong to the application. An object that has a facade already keeps its owner.
+     */
+    QJSValue facadeOf(QObject *object, Owner owner);
     /** The object behind a facade or a wrapped control; null for other values. */
     QObject *objectOf(const QJSValue &value) const;
 
@@ -91,7 +97,7 @@ private:
     QJSValue operationTable(ServiceClass &service);
     QJSValue fieldTable(ServiceClass &service);
     const ServiceClass *classOf(const QObject *object) const;
-    QVariant hold(QObject *object);
+    QVariant hold(QObject *object, Owner owner);
     QObject *target(const QVariant &native, ServiceClass &owner, const QByteArray &member) const;
     QJSValue invoke(QObject *object, const Operation &operation, const QJSValue &arguments);
     QJSValue resultToScript(QObject *object, const QVariant &result, Kind kind);

@@ -28,6 +28,8 @@ public:
     std::function<QObject *(const QJSValue &)> objectOf;
     /** The facade of a service object, or the control itself. */
     std::function<QJSValue(QObject *)> facadeOf;
+    /** The same for an object that was made for the script and belongs to it from now on. */
+    std::function<QJSValue(QObject *)> facadeOfNew;
 
     /** @p value as a value of exactly @p type; @p name is what the sentence calls it. */
     QVariant toNative(const QJSValue &value, Kind kind, QMetaType type, const QString &name) const;

@@ -92,7 +92,7 @@ QJSValue Values::otherToScript(const QVariant &value, Kind kind) const
         return isNullOpaque(value) ? nothing() : m_engine.toScriptValue(value);
     case Kind::Picture: {
         const auto picture = value.value<platform::Picture>();
-        return picture.isNull() ? nothing() : facadeOf(new PictureObject(picture));
+        return picture.isNull() ? nothing() : facadeOfNew(new PictureObject(picture));
     }
     case Kind::Object: {
         auto *object = value.value<QObject *>();

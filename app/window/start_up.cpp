@@ -25,8 +25,9 @@ StartUp::StartUp(QApplication &application)
     setIconFolder(folder + QStringLiteral("/icons"));
     m_theme = std::make_unique<Theme>(application, folder + QStringLiteral("/themes"));
     m_shell = std::make_unique<Shell>(folder, *m_theme);
-    m_scripts = std::make_unique<script::ScriptEngine>();
+    // The engine's queue of answers comes before the dialogs.
     platform::setPanelProvider(std::make_unique<DialogPanels>());
+    m_scripts = std::make_unique<script::ScriptEngine>();
     addFilesModule(*m_scripts);
     addShellModule(*m_scripts, *m_shell);
     QObject::connect(m_scripts.get(), &script::ScriptEngine::uncaughtError, m_shell.get(),

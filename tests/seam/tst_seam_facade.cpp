@@ -17,6 +17,7 @@ private Q_SLOTS:
     void keepsAControlOnAnOutletAlive();
     void keepsAServiceAliveThatWasGivenBack();
     void deletesServicesThatNobodyHolds();
+    void leavesObjectsOfTheApplicationAlone();
     void costsMicroseconds();
 };
 
@@ -133,6 +134,29 @@ void TestSeamFacade::deletesServicesThatNobodyHolds()
         QCOMPARE(EchoService::livingCount, before + 1);
     }
     QCOMPARE(EchoService::livingCount, before);
+}
+
+void TestSeamFacade::leavesObjectsOfTheApplicationAlone()
+{
+    EchoService ours;
+    ours.setProperty("whole", 5);
+    const int before = EchoService::livingCount;
+    {
+        ScriptRun run;
+        QJSValue exports = run.engine().engine().newObject();
+        exports.setProperty(QStringLiteral("ours"), run.engine().controlValue(&ours));
+        QVERIFY(run.engine().registerModule(QStringLiteral("ours"), exports));
+        QVERIFY2(run.run(QStringLiteral("import { ours } from 'ours'; report(ours.itself() === ours);"
+                                        "echo.outlet = ours; report(echo.outlet === ours); report(ours.whole);"
+                                        "report(echo.giveControl(ours).whole);")),
+                 qPrintable(run.error));
+        const QStringList expected = {QStringLiteral("true"), QStringLiteral("true"), QStringLiteral("5"),
+                                      QStringLiteral("5")};
+        QCOMPARE(run.reports, expected);
+        run.engine().engine().collectGarbage();
+    }
+    QCOMPARE(EchoService::livingCount, before);
+    QCOMPARE(ours.property("whole").toInt(), 5);
 }
 
 void TestSeamFacade::costsMicroseconds()
