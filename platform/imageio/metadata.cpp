@@ -1,5 +1,6 @@
 #include "platform/imageio/metadata.h"
 
+#include "platform/imageio/big_tiff.h"
 #include "platform/imageio/exif_in_place.h"
 #include "platform/imageio/jpeg_segments.h"
 #include "platform/imageio/metadata_blocks.h"
@@ -124,7 +125,7 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
     startMetadataLibrary();
     auto blocks = std::make_shared<Blocks>();
     const JpegSegments segments = findJpegSegments(bytes);
-    attempt([&] { readImage(*blocks, bytes); });
+    attempt([&] { isBigTiff(bytes) ? readBigTiff(*blocks, bytes) : readImage(*blocks, bytes); });
     if (segments.exifSegments > 1) { // exiv2 reads the first part alone
         blocks->exif.clear();
         attempt([&] { readExifBlock(*blocks, segments.exif); });

@@ -186,8 +186,7 @@ QStringList MetadataProperties::pictures()
     QStringList paths;
     for (const char *folder : {"exif-real", "formats", "dpi", "orientation"})
         for (const QString &name : QDir(corpus(QString::fromLatin1(folder))).entryList(QDir::Files))
-            if (!name.endsWith(QLatin1String(".pdf")) && !name.endsWith(QLatin1String(".svg")) &&
-                name != QLatin1String("hopper_bigtiff.tif"))
+            if (!name.endsWith(QLatin1String(".pdf")) && !name.endsWith(QLatin1String(".svg")))
                 paths << corpus(QString::fromLatin1(folder)) + u'/' + name;
     return paths;
 }
