@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <array>
 #include <cstdio>
 
 namespace {
@@ -19,12 +20,15 @@ constexpr int badCommandLine = 2;
 const char usage[] = "Usage: quorlin-script FILE.js [ARG...]\n"
                      "Runs one script module with the service classes of Quorlin.\n";
 
-/** Without a display the windowless platform will do; a platform that the caller named wins. */
-void choosePlatform()
+/**
+ * The option that names the platform: without a display, or with one that does not answer, the windowless one will do. A
+ * platform that the caller named wins, and the environment of programs that a script starts stays as it is.
+ */
+QByteArray platformOption()
 {
-    const bool hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    if (!hasDisplay && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return {};
+    return qEnvironmentVariableIsEmpty("DISPLAY") ? "offscreen" : "xcb;offscreen";
 }
 
 int runScript(const QString &file, const QStringList &arguments)
@@ -61,14 +65,16 @@ int main(int argc, char **argv)
         platform::logLine(QStringLiteral("Cannot read %1: there is no such file").arg(file));
         return badCommandLine;
     }
-    choosePlatform();
     script::installScriptOutput();
     // Qt takes its own options out of the list; the script gets what the caller wrote.
     QStringList arguments;
     for (int i = 2; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
-    int applicationArgumentCount = 1;
-    QGuiApplication application(applicationArgumentCount, argv);
+    QByteArray platform = platformOption();
+    QByteArray option = "-platform";
+    std::array<char *, 4> applicationArguments = {argv[0], option.data(), platform.data(), nullptr};
+    int count = platform.isEmpty() ? 1 : 3;
+    QGuiApplication application(count, applicationArguments.data());
     QCoreApplication::setApplicationName(QStringLiteral("quorlin"));
     return runScript(file, arguments);
 }

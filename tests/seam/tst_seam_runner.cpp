@@ -145,11 +145,15 @@ void TestSeamRunner::refusesABadCommandLine()
 void TestSeamRunner::needsNoDisplay()
 {
     const QString file = script(QStringLiteral("print('no display');"));
-    const Run result = run(
-        {file}, {QStringLiteral("QT_QPA_PLATFORM="), QStringLiteral("DISPLAY="), QStringLiteral("WAYLAND_DISPLAY=")});
+    const QStringList nothing = {QStringLiteral("QT_QPA_PLATFORM="), QStringLiteral("DISPLAY="),
+                                 QStringLiteral("WAYLAND_DISPLAY=")};
+    const Run result = run({file}, nothing);
     QCOMPARE(result.errors, QString());
     QCOMPARE(result.output, QStringLiteral("no display\n"));
     QCOMPARE(result.status, 0);
+    const Run dead = run({file}, nothing + QStringList{QStringLiteral("DISPLAY=:65000")});
+    QCOMPARE(dead.output, QStringLiteral("no display\n"));
+    QCOMPARE(dead.status, 0);
 }
 
 void TestSeamRunner::importsFromTheFolderOfTheScript()
