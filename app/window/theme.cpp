@@ -76,7 +76,7 @@ QPalette paletteOf()
     return palette;
 }
 
-/** Fusion that underlines the keys of menus while Alt is held only. */
+/** Fusion without icons on buttons of dialogs, and with the keys of menus underlined only while Alt is held. */
 class CalmStyle : public QProxyStyle
 {
 public:
@@ -87,6 +87,8 @@ public:
     {
         if (hint == SH_UnderlineShortcut)
             return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier) ? 1 : 0;
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0;
         return QProxyStyle::styleHint(hint, option, widget, returned);
     }
 };

@@ -2,6 +2,7 @@
 
 #include "app/window/compare_preview.h"
 #include "app/window/icons.h"
+#include "app/window/log_table.h"
 #include "app/window/picture_table.h"
 #include "app/window/segmented_control.h"
 #include "app/window/side_bar.h"
@@ -38,6 +39,8 @@ public:
         QWidget *widget = nullptr;
         if (className == QLatin1String("PictureTable"))
             widget = new PictureTable(parent);
+        else if (className == QLatin1String("LogTable"))
+            widget = new LogTable(parent);
         else if (className == QLatin1String("ComparePreview"))
             widget = new ComparePreview(parent);
         else if (className == QLatin1String("SegmentedControl"))

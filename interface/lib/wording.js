@@ -19,9 +19,9 @@ export function pixels(size) {
     return size.width + "×" + size.height;
 }
 
-/** 39.68 gives "39.7 %". */
+/** 39.68 gives "39.7 %" with a space that does not break. */
 export function percent(value) {
-    return String(Math.round(value * 10) / 10) + " %";
+    return String(Math.round(value * 10) / 10) + "\u00a0%";
 }
 
 /** The path with the home folder written as "~". */

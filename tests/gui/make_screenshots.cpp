@@ -2,6 +2,7 @@
 
 #include "window_driver.h"
 
+#include "app/window/side_bar.h"
 #include "app/window/theme.h"
 
 #include <QApplication>
@@ -59,6 +60,8 @@ int main(int argc, char **argv)
         driver.waitForSummary();
         driver.window().resize(1280, 720);
         save(driver, name + QStringLiteral("-done.png"));
+        driver.control<window::SideBar>("sideBar")->setCurrentAction(QStringLiteral("log"));
+        save(driver, name + QStringLiteral("-log.png"));
     }
     return 0;
 }

@@ -1,6 +1,6 @@
 #include "window_driver.h"
 
-#include "app/window/interface_folder.h"
+#include "app/window/side_bar.h"
 
 #include "platform/desktop/panels.h"
 #include "platform/imageio/image_source.h"
@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -262,6 +263,25 @@ private Q_SLOTS:
         const QList<QByteArray> lines = file.readAll().split('\n');
         QCOMPARE(lines.size(), 3);
         QVERIFY(lines.at(1).contains(",OK,") && lines.at(1).contains(result("a.jpg").toUtf8()));
+    }
+
+    void theLogKeepsEveryRunAndCanBeSearched()
+    {
+        picture("a.jpg", 400, 300);
+        picture("b.jpg", 400, 300);
+        m_driver->drop({m_pictures});
+        m_driver->click("startButton");
+        QVERIFY(!m_driver->waitForSummary().isEmpty());
+        m_driver->startAgain();
+        m_driver->control<window::SideBar>("sideBar")->setCurrentAction(QStringLiteral("log"));
+        auto *log = m_driver->control<QTableView>("logTable");
+        QVERIFY(log->isVisible());
+        QCOMPARE(log->model()->rowCount(), 2);
+        m_driver->control<QLineEdit>("logSearch")->setText(QStringLiteral("B.JPG"));
+        QCOMPARE(log->model()->rowCount(), 1);
+        QCOMPARE(log->model()->index(0, 3).data().toString(), QStringLiteral("OK"));
+        m_driver->choose("logStatus", QStringLiteral("Failed"));
+        QCOMPARE(log->model()->rowCount(), 0);
     }
 
     void deleteTakesARowOffTheListAndNoFileOffTheDisk()

@@ -5,7 +5,9 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QMimeData>
+#include <QStandardPaths>
 #include <QTest>
 #include <QUrl>
 
@@ -18,6 +20,8 @@ WindowDriver::WindowDriver(QApplication &application) : m_application(applicatio
     for (const char *key : {"Settings-resize", "SaveFolders", "RecentFolders", "Preview", "MainWindowGeometry",
                             "MainWindowbodySplitter", "MainWindowcentreSplitter"})
         platform::removeUserDefault(QString::fromLatin1(key));
+    QFile::remove(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                  QStringLiteral("/quorlin/log.jsonl"));
     startAgain();
 }
 

@@ -12,10 +12,12 @@ import { OutputPane } from "../../panes/output-pane.js";
 import { actionNamed, GROUPS } from "./actions.js";
 import { Input } from "./input.js";
 import { LivePlan } from "./live-plan.js";
+import { LogPage } from "./log-page.js";
 import { PreviewSide } from "./preview-side.js";
 import { Run } from "./run.js";
 
 const SAID_MS = 8000;
+const LOG = "log";
 
 function tellProblem(where, error) {
     console.error(where + ": " + error + "\n" + (error && error.stack ? error.stack : ""));
@@ -31,6 +33,7 @@ function makeWindow() {
         action: actionNamed("resize"),
         settings: null,
         said: "",
+        logShown: false,
         planned: { ready: 0, originals: 0, replaced: 0 },
     };
 }
@@ -62,7 +65,7 @@ function deedNote(window) {
 
 function showDeed(window) {
     const busy = window.run.isBusy();
-    const ready = window.pictures.count > 0 && window.action.step.validate(window.settings).length === 0;
+    const ready = window.pictures.count > 0 && !window.logShown && window.action.step.validate(window.settings).length === 0;
     const control = (name) => window.form.control(name);
     control("startButton").text = deedText(window);
     control("startButton").enabled = ready && !busy;
@@ -105,13 +108,15 @@ function showInputState(window) {
     const busy = window.run.isBusy();
     const any = window.pictures.count > 0;
     const control = (name) => window.form.control(name);
-    control("centre").currentIndex = any ? 1 : 0;
+    control("centre").currentIndex = window.logShown ? 2 : any ? 1 : 0;
+    control("settings").visible = !window.logShown;
+    control("fitFill").visible = !window.logShown;
     for (const name of ["addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction",
                         "actionHost", "outputHost", "emptyAddPictures", "emptyAddFolder"]) {
         control(name).enabled = !busy;
     }
     for (const name of ["clearButton", "clearAction", "removeAction", "selectAllAction"]) {
-        control(name).enabled = any && !busy;
+        control(name).enabled = any && !busy && !window.logShown;
     }
     for (const name of ["nextAction", "previousAction", "largeAction"]) {
         control(name).enabled = any;
@@ -143,6 +148,9 @@ function settingsChanged(window) {
 }
 
 function listChanged(window) {
+    if (window.pictures.count > 0) {
+        window.form.control("sideBar").currentAction = window.action.name;
+    }
     if (!window.run.isBusy()) {
         window.livePlan.refresh();
     }
@@ -159,6 +167,16 @@ function say(window, text) {
         window.run.dismiss();
     }
     showStatus(window);
+}
+
+// The log takes the place of list and settings; adding pictures leads back to the action.
+function choosePage(window, name) {
+    window.logShown = name === LOG;
+    window.form.control("windowTitle").text = "Quorlin – " + (window.logShown ? qsTr("Log") : window.action.title());
+    if (window.logShown) {
+        window.log.show();
+    }
+    showAll(window);
 }
 
 function setFill(window, on) {
@@ -223,7 +241,10 @@ function fillSideBar(window) {
         bar.addGroup(group.title());
         group.actions.forEach((action) => bar.addEntry(action.name, action.title(), action.icon));
     }
+    bar.addGroup(qsTr("Information"));
+    bar.addEntry(LOG, qsTr("Log"), "log");
     bar.currentAction = window.action.name;
+    bar.actionChosen.connect(guard("sidebar", (name) => choosePage(window, name)));
 }
 
 function makePanes(window) {
@@ -338,6 +359,8 @@ export function openMainWindow() {
     window.preview = new PreviewSide(window);
     window.livePlan = new LivePlan(window, (summary) => { window.planned = summary; showDeed(window); });
     window.run = new Run(window, () => showAll(window));
+    window.note = (text) => note(window, text);
+    window.log = new LogPage(window);
     fillSideBar(window);
     window.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill")];
     connectControls(window);
