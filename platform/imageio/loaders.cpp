@@ -134,6 +134,8 @@ std::unique_ptr<QIODevice> PictureBytes::device() const
 
 VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options)
 {
+    // What an earlier picture left in the library's one buffer would be told as the reason of this one.
+    vips_error_clear();
     switch (content) {
     case Content::Jpeg:
         return VImage::jpegload_source(sourceOf(source), commonOptions()->set("shrink", options.jpegShrink));

@@ -24,6 +24,8 @@ KNOWN = """cmake ctest cpack ninja pkg-config python3 git exiftool vips vipshead
     run-clang-tidy hyperfine jpegtran djpeg cjpeg tiffinfo pdfinfo pdftoppm lupdate lrelease rsvg-convert file xauth
     sqlite3 plistutil dbus-run-session strace valgrind""".split()
 HEADERS = {"tl/expected.hpp"}
+# Formats of Qt that are read and written by plugins of a package of their own.
+PLUGIN_FORMATS = re.compile(r'(?:QImageReader|QImageWriter|loadThroughQt)\b[^;{]*"(icns|mng|tga|tiff|wbmp|webp)"')
 
 
 def listed(root):
@@ -94,6 +96,7 @@ def used_by_scripts(root):
         yield from ((f"cmd:{name}", where) for name in sorted(commands_of(path, text)))
         if path.suffix == ".cpp":
             yield from ((f"include:{name}", where) for name in HEADERS if f"<{name}>" in text)
+            yield from ((f"plugin:q{name}", where) for name in PLUGIN_FORMATS.findall(tree.without_comments(text)))
 
 
 def groups_for(where):
@@ -120,7 +123,8 @@ def held_by(package):
 def path_of(token):
     kind, name = token.split(":", 1)
     return {"cmd": name if name.startswith("/") else f"/bin/{name}", "pkg": f"/{name}.pc",
-            "qt": f"/Qt6{name}Config.cmake", "include": f"/{name}"}.get(kind)
+            "qt": f"/Qt6{name}Config.cmake", "include": f"/{name}",
+            "plugin": f"/imageformats/lib{name}.so"}.get(kind)
 
 
 def false_claims(gives):

@@ -208,6 +208,7 @@ class Packages(Tree):
             ("tests/a.sh", "x=$(vipsheader a.jpg)\n"),
             ("tests/tst_a.cpp", 'process.start(QStringLiteral("vips"), arguments);'),
             ("tests/tst_a.cpp", "#include <tl/expected.hpp>\n"),
+            ("platform/a.cpp", 'QImageReader reader(device.get(), "tiff");\n'),
             ("run", "#!/usr/bin/env bash\nexiftool a.jpg\n"),
         ]:
             with self.subTest(name=name, text=text):

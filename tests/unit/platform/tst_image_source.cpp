@@ -152,6 +152,21 @@ private Q_SLOTS:
         }
     }
 
+    void namesOnlyItsOwnFileInAnError()
+    {
+        const Result<ImageSource> phone =
+            ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/formats/IMG_5195.HEIC"));
+        QVERIFY(phone && phone->decode());
+        for (const char *name : {"formats/00r1_graya_la.jp2", "broken/2018-01-09-exiv2-crash-001.tiff",
+                                 "broken/decompression_bomb.gif", "broken/libpng-huge_IDAT.png"}) {
+            const Result<ImageSource> broken =
+                ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromLatin1(name));
+            const Result<Bitmap> bitmap = broken ? broken->decode() : tl::make_unexpected(broken.error());
+            QVERIFY(!bitmap);
+            QVERIFY2(!bitmap.error().message.contains(QStringLiteral("IMG_5195")), qPrintable(bitmap.error().message));
+        }
+    }
+
     void refusesAnImageThatIsNotThere()
     {
         const Result<ImageSource> source =
