@@ -93,7 +93,7 @@ QVariant listFrom(const QString &json)
 {
     QVariantList list;
     const QJsonArray array = QJsonDocument::fromJson(json.toUtf8()).array();
-    for (const QJsonValue &item : array)
+    for (const auto &item : array)
         list.append(decoded(item.toString()));
     return list;
 }

@@ -110,7 +110,7 @@ Bitmap bitmapFromImage(const VImage &image, Resolution resolution, std::optional
     VImage bare = withKnownInterpretation(image).copy();
     dropMetadata(bare);
     const VImage decoded = bare.copy_memory();
-    auto pixels = std::make_shared<Bitmap::Pixels>(Bitmap::Pixels{decoded, resolution, std::move(quantisation)});
+    auto pixels = std::make_shared<Bitmap::Pixels>(Bitmap::Pixels{decoded, resolution, quantisation});
     return Bitmap(std::move(pixels));
 }
 

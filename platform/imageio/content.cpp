@@ -129,7 +129,7 @@ qint64 startOfJpegScan(QIODevice &file)
             ++position; // some writers leave bytes between the segments
             continue;
         }
-        const uchar marker = uchar(head[1]);
+        const auto marker = uchar(head[1]);
         const bool standsAlone = marker == 0xFF || marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
         if (standsAlone) {
             position += marker == 0xFF ? 1 : 2;
