@@ -46,7 +46,7 @@ function main(folder, paths) {
     const photos = paths.map((path) => files.picture(path));
     const planned = carryOut(planRun(photos.length, (i) => photos[i], paths, resize, settings, services), () => undefined);
     const results = carryOut(runItems(planned.items, resize, settings, services), tell);
-    const problem = keepRows(files, results.map((result) => logRow(result, "Resize", "longest " + settings.longest, new Date().toISOString())));
+    const problem = keepRows(files, results.map((result) => logRow(result, "Resize", resize.describe(settings), new Date().toISOString())));
     const sum = summaryOf(results);
     print(sum.done + " done, " + (sum.failed + sum.unsupported) + " failed, " + sum.skipped + " skipped, "
           + files.byteText(sum.bytes) + " written to " + folder + (problem ? "; the log was not written: " + problem : ""));

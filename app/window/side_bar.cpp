@@ -53,12 +53,13 @@ private:
     static void paintEntry(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
     {
         const bool selected = option.state & QStyle::State_Selected;
+        const bool enabled = index.flags() & Qt::ItemIsEnabled;
         const QRectF place = QRectF(option.rect).adjusted(0, 1, 0, -1);
         QPainterPath shape;
         shape.addRoundedRect(place, 6, 6);
         if (selected)
             painter.fillPath(shape, Theme::color(QStringLiteral("accent")));
-        else if (option.state & QStyle::State_MouseOver)
+        else if (enabled && option.state & QStyle::State_MouseOver)
             painter.fillPath(shape, Theme::color(QStringLiteral("sidebarHover")));
         if (selected && option.state & QStyle::State_HasFocus) {
             QPainterPath inner;
@@ -67,9 +68,10 @@ private:
             painter.drawPath(inner);
         }
         const QRect iconPlace(option.rect.left() + 10, option.rect.center().y() - iconPx / 2 + 1, iconPx, iconPx);
-        icon(index.data(iconRole).toString())
-            .paint(&painter, iconPlace, Qt::AlignCenter, selected ? QIcon::Selected : QIcon::Normal);
-        painter.setPen(Theme::color(selected ? QStringLiteral("onAccent") : QStringLiteral("text")));
+        const QIcon::Mode mode = !enabled ? QIcon::Disabled : selected ? QIcon::Selected : QIcon::Normal;
+        icon(index.data(iconRole).toString()).paint(&painter, iconPlace, Qt::AlignCenter, mode);
+        const char *color = !enabled ? "faint" : selected ? "onAccent" : "text";
+        painter.setPen(Theme::color(QString::fromLatin1(color)));
         const QRect textPlace = option.rect.adjusted(38, 0, -6, 0);
         painter.drawText(textPlace, Qt::AlignLeft | Qt::AlignVCenter,
                          option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, textPlace.width()));
@@ -114,9 +116,22 @@ QString SideBar::currentAction() const
 
 void SideBar::setCurrentAction(const QString &name)
 {
+    if (QListWidgetItem *found = entry(name))
+        setCurrentItem(found);
+}
+
+void SideBar::setEntryEnabled(const QString &name, bool enabled)
+{
+    if (QListWidgetItem *found = entry(name))
+        found->setFlags(enabled ? Qt::ItemIsSelectable | Qt::ItemIsEnabled : Qt::NoItemFlags);
+}
+
+QListWidgetItem *SideBar::entry(const QString &name) const
+{
     for (int i = 0; i < count(); ++i)
         if (item(i)->data(nameRole).toString() == name && !name.isEmpty())
-            setCurrentRow(i);
+            return item(i);
+    return nullptr;
 }
 
 } // namespace window

@@ -17,6 +17,8 @@ public:
     Q_INVOKABLE void addGroup(const QString &title);
     /** @param name  what actionChosen() says; @param iconName  a file of the icon folder */
     Q_INVOKABLE void addEntry(const QString &name, const QString &title, const QString &iconName);
+    /** An entry that is off is drawn faint and cannot be chosen. */
+    Q_INVOKABLE void setEntryEnabled(const QString &name, bool enabled);
 
     QString currentAction() const;
     void setCurrentAction(const QString &name);
@@ -25,6 +27,9 @@ public:
 
 Q_SIGNALS:
     void actionChosen(const QString &name);
+
+private:
+    QListWidgetItem *entry(const QString &name) const;
 };
 
 } // namespace window

@@ -1,9 +1,12 @@
 #include "app/window/ui_form.h"
 
+#include "app/window/angle_dial.h"
+#include "app/window/color_well.h"
 #include "app/window/compare_preview.h"
 #include "app/window/icons.h"
 #include "app/window/log_table.h"
 #include "app/window/picture_table.h"
+#include "app/window/position_pad.h"
 #include "app/window/segmented_control.h"
 #include "app/window/side_bar.h"
 
@@ -37,7 +40,13 @@ public:
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
         QWidget *widget = nullptr;
-        if (className == QLatin1String("PictureTable"))
+        if (className == QLatin1String("AngleDial"))
+            widget = new AngleDial(parent);
+        else if (className == QLatin1String("ColorWell"))
+            widget = new ColorWell(parent);
+        else if (className == QLatin1String("PositionPad"))
+            widget = new PositionPad(parent);
+        else if (className == QLatin1String("PictureTable"))
             widget = new PictureTable(parent);
         else if (className == QLatin1String("LogTable"))
             widget = new LogTable(parent);
@@ -53,6 +62,44 @@ public:
         return widget;
     }
 };
+
+void collectPlaced(const QLayout *layout, QWidgetList &children)
+{
+    for (int i = 0; layout && i < layout->count(); ++i) {
+        QLayoutItem *item = layout->itemAt(i);
+        if (item->widget())
+            children.append(item->widget());
+        else
+            collectPlaced(item->layout(), children);
+    }
+}
+
+// The children of a widget as they lie: those of its layout by their places, then those that no layout places.
+QWidgetList childrenAsTheyLie(const QWidget *widget)
+{
+    QWidgetList children;
+    collectPlaced(widget->layout(), children);
+    const QWidgetList all = widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : all)
+        if (!children.contains(child) && !child->isWindow())
+            children.append(child);
+    return children;
+}
+
+void collectTabStops(QWidget *widget, QWidgetList &stops)
+{
+    if (!widget)
+        return;
+    const bool isStop = widget->focusPolicy() & Qt::TabFocus;
+    if (isStop)
+        stops.append(widget);
+    // What is inside a control such as a spin box is its own affair.
+    if (isStop)
+        return;
+    const QWidgetList children = childrenAsTheyLie(widget);
+    for (QWidget *child : children)
+        collectTabStops(child, stops);
+}
 
 } // namespace
 
@@ -113,6 +160,26 @@ void Form::place(const QString &name, QObject *form)
     const auto *other = qobject_cast<Form *>(form);
     if (container && container->layout() && other && other->root())
         container->layout()->addWidget(other->root());
+}
+
+bool Form::isShown() const
+{
+    const QWidget *root = m_root.data();
+    return root != nullptr && !root->isHidden();
+}
+
+void Form::setShown(bool shown)
+{
+    if (QWidget *root = m_root.data())
+        root->setVisible(shown);
+}
+
+void Form::arrangeTabs()
+{
+    QWidgetList stops;
+    collectTabStops(m_root, stops);
+    for (int i = 1; i < stops.size(); ++i)
+        QWidget::setTabOrder(stops.at(i - 1), stops.at(i));
 }
 
 void Form::setItems(const QString &name, const QStringList &texts, const QVariantList &values)

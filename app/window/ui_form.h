@@ -13,6 +13,7 @@ namespace window {
 class Form : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(bool shown READ isShown WRITE setShown)
 
 public:
     Form(QWidget *root, const QString &file, QObject *parent);
@@ -22,6 +23,8 @@ public:
     static Form *load(const QString &file, QWidget *parentWidget, QObject *owner, QString *problem);
 
     QWidget *root() const { return m_root; }
+    bool isShown() const;
+    void setShown(bool shown);
 
     /** The control, action or menu of that name; throws a ReferenceError where there is none. */
     Q_INVOKABLE QObject *control(const QString &name);
@@ -29,6 +32,8 @@ public:
 
     /** Puts another form into the layout of the container @p name. */
     Q_INVOKABLE void place(const QString &name, QObject *form);
+    /** Lets the Tab key walk over the controls as they lie: row by row, container by container. */
+    Q_INVOKABLE void arrangeTabs();
     /** The entries of a combo box: texts to read and the values that stand behind them; "-" is a separator. */
     Q_INVOKABLE void setItems(const QString &name, const QStringList &texts, const QVariantList &values);
     Q_INVOKABLE QVariant value(const QString &name);

@@ -2,14 +2,14 @@
 
 export const ORIGINAL = "original file type";
 
-// profile: keeps the colour profile. metadata: resizing carries EXIF, IPTC and XMP into it. alpha: keeps transparency.
+// profile: keeps the colour profile. alpha: keeps transparency.
 export const WRITTEN = [
-    { id: "public.jpeg", extension: ".jpg", word: "JPEG", profile: true, metadata: false, alpha: false, quality: true },
-    { id: "public.png", extension: ".png", word: "PNG", profile: true, metadata: false, alpha: true, quality: false },
-    { id: "public.tiff", extension: ".tiff", word: "TIFF", profile: true, metadata: true, alpha: true, quality: false },
-    { id: "public.bmp", extension: ".bmp", word: "BMP", profile: false, metadata: false, alpha: false, quality: false },
-    { id: "com.compuserve.gif", extension: ".gif", word: "GIF", profile: false, metadata: false, alpha: true, quality: false },
-    { id: "public.jp2", extension: ".jp2", word: "JPEG 2000", profile: false, metadata: false, alpha: true, quality: false },
+    { id: "public.jpeg", extension: ".jpg", word: "JPEG", profile: true, alpha: false, quality: true },
+    { id: "public.png", extension: ".png", word: "PNG", profile: true, alpha: true, quality: false },
+    { id: "public.tiff", extension: ".tiff", word: "TIFF", profile: true, alpha: true, quality: false },
+    { id: "public.bmp", extension: ".bmp", word: "BMP", profile: false, alpha: false, quality: false },
+    { id: "com.compuserve.gif", extension: ".gif", word: "GIF", profile: false, alpha: true, quality: false },
+    { id: "public.jp2", extension: ".jp2", word: "JPEG 2000", profile: false, alpha: true, quality: false },
 ];
 
 const BY_EXTENSION = {
@@ -19,15 +19,20 @@ const BY_EXTENSION = {
     webp: "org.webmproject.webp", avif: "public.avif",
 };
 
-/** The files that the resize action takes, by extension. */
-export const RESIZE_INPUT = ["jpg", "jpeg", "tif", "tiff", "png", "jp2", "gif", "bmp"];
+/** The files that actions on pictures take, by extension. */
+export const PICTURE_INPUT = ["jpg", "jpeg", "tif", "tiff", "png", "jp2", "gif", "bmp"];
 
 /** The written type of that identifier, or null. */
 export function writtenType(id) {
     return WRITTEN.find((type) => type.id === id) || null;
 }
 
+/** The extension of a path's file name names this type; empty where it is unknown. */
+export function typeOfExtension(extension) {
+    return BY_EXTENSION[extension.toLowerCase()] || "";
+}
+
 /** The type that a result gets: the chosen one, or the one that the source's extension names. Null if not writable. */
 export function resultType(extension, choice) {
-    return writtenType(choice === ORIGINAL ? BY_EXTENSION[extension.toLowerCase()] || "" : choice);
+    return writtenType(choice === ORIGINAL ? typeOfExtension(extension) : choice);
 }

@@ -11,14 +11,21 @@ import { fill, shortPath } from "../lib/wording.js";
 const KEPT_FOLDERS = 5;
 const FOLDER = "folder:";
 
-// What resizing carries into each type, in plain words.
-function noteFor(choice) {
-    if (choice === ORIGINAL) {
-        return qsTr("EXIF, IPTC and XMP go along into TIFF files only.");
+// What goes along into each type, in plain words.
+function metadataNote(types) {
+    if (types.length === 0) {
+        return qsTr("EXIF, IPTC and XMP do not go along.");
     }
+    return fill(qsTr("EXIF, IPTC and XMP go along into %1 files only."), types.map((id) => writtenType(id).word).join(qsTr(" and ")));
+}
+
+function noteFor(choice, offer) {
     const type = writtenType(choice);
+    if (type === null) {
+        return metadataNote(offer.metadata);
+    }
     const sentences = [];
-    if (type.metadata) {
+    if (offer.metadata.indexOf(type.id) >= 0) {
         sentences.push(qsTr("Metadata and colour profile go along."));
     } else if (type.profile) {
         sentences.push(qsTr("The colour profile goes along; EXIF, IPTC and XMP do not."));
@@ -28,33 +35,34 @@ function noteFor(choice) {
     return sentences.concat(type.alpha ? [] : [qsTr("Transparent parts become black.")]).join(" ");
 }
 
-/**
- * The block. `output` is the object that it reads and changes, `recent` the list of folders that were saved to; changed()
- * is called after each change.
- */
+/** The block. `recent` is the list of folders that were saved to; changed() is called after each change. */
 export class OutputPane {
-    constructor(output, recent, changed) {
-        this.output = output;
+    constructor(recent, changed) {
         this.recent = recent;
         this.changed = changed;
+        this.output = null;
+        this.offer = null;
         this.form = shell.loadForm("panes/output-pane.ui");
-        this.fillBoxes();
-        this.showDestinations();
-        this.showType();
-        this.connect();
-    }
-
-    fillBoxes() {
         const codes = ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10"];
-        this.form.setItems("fileType", [qsTr("Original file type")].concat(WRITTEN.map((type) => type.word)),
-                           [ORIGINAL].concat(WRITTEN.map((type) => type.id)));
         this.form.setItems("quality", codes, codes);
         this.form.setItems("ifTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")],
                            ["number", "replace", "skip", "ask"]);
+        this.connect();
+    }
+
+    /** Shows the output settings of an action, which are changed in place, and what its step offers. */
+    use(output, offer) {
+        this.output = null;
+        this.offer = offer;
+        const types = offer.types.map((id) => writtenType(id));
+        this.form.setItems("fileType", [qsTr("Original file type")].concat(types.map((type) => type.word)), [ORIGINAL].concat(offer.types));
         for (const name of ["fileType", "quality", "ifTaken"]) {
-            this.form.chooseValue(name, this.output[name]);
+            this.form.chooseValue(name, output[name]);
         }
-        this.form.control("simulation").checked = this.output.simulation;
+        this.form.control("simulation").checked = output.simulation;
+        this.output = output;
+        this.showDestinations();
+        this.showType();
     }
 
     connect() {
@@ -68,8 +76,10 @@ export class OutputPane {
         this.form.control("destination").activated.connect(guard("output.destination", () => this.destinationChosen()));
         const simulation = this.form.control("simulation");
         simulation.toggled.connect(guard("output.simulation", () => {
-            this.output.simulation = simulation.checked;
-            this.changed();
+            if (this.output !== null) {
+                this.output.simulation = simulation.checked;
+                this.changed();
+            }
         }));
     }
 
@@ -117,8 +127,14 @@ export class OutputPane {
     showType() {
         const type = writtenType(this.output.fileType);
         const hasQuality = type === null || type.quality;
+        for (const name of ["fileTypeLabel", "fileType"]) {
+            this.form.control(name).visible = this.offer.types.length > 0;
+        }
+        for (const name of ["qualityLabel", "qualityHost"]) {
+            this.form.control(name).visible = this.offer.quality;
+        }
         this.form.control("quality").enabled = hasQuality;
         this.form.control("qualityLabel").enabled = hasQuality;
-        this.form.control("typeNote").text = noteFor(this.output.fileType);
+        this.form.control("typeNote").text = noteFor(this.output.fileType, this.offer);
     }
 }

@@ -3,7 +3,7 @@
 
 import { newSize } from "../lib/sizes.js";
 import { splitPath } from "../lib/names.js";
-import { ORIGINAL, resultType } from "../lib/types.js";
+import { ORIGINAL, resultType, WRITTEN } from "../lib/types.js";
 
 export const MOST_PIXELS = 100000;
 export const MOST_PERCENT = 1000;
@@ -17,6 +17,14 @@ export const defaults = {
         ifTaken: "number", simulation: false,
     },
 };
+
+/** What the output block offers: types to write, a quality for JPEG, and the types that metadata goes along into. */
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, metadata: ["public.tiff"] };
+
+/** The settings in a few words, for the log. */
+export function describe(settings) {
+    return settings.mode === "box" ? "box " + settings.boxWidth + "×" + settings.boxHeight : settings.mode + " " + settings[settings.mode];
+}
 
 function outOfRange(value, most) {
     return !(Number.isInteger(value) && value >= 1 && value <= most);

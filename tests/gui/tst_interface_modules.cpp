@@ -81,6 +81,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("modules");
         QTest::addColumn<QStringList>("forms");
         const QStringList mainParts = {QStringLiteral("windows/main/main.js"), QStringLiteral("windows/main/input.js"),
+                                       QStringLiteral("windows/main/action-page.js"),
                                        QStringLiteral("windows/main/log-page.js"),
                                        QStringLiteral("windows/main/preview-side.js")};
         QTest::newRow("main window") << mainParts << QStringList{QStringLiteral("windows/main/main.ui")};

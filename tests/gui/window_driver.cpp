@@ -1,5 +1,7 @@
 #include "window_driver.h"
 
+#include "app/window/side_bar.h"
+
 #include "platform/desktop/user_defaults.h"
 
 #include <QApplication>
@@ -17,8 +19,9 @@ WindowDriver::WindowDriver(QApplication &application) : m_application(applicatio
     qputenv("XDG_CONFIG_HOME", (m_home.path() + QStringLiteral("/.config")).toLocal8Bit());
     qputenv("XDG_DATA_HOME", (m_home.path() + QStringLiteral("/.local/share")).toLocal8Bit());
     // The store of the defaults is opened once for the process: what the driver before left is not for this one.
-    for (const char *key : {"Settings-resize", "SaveFolders", "RecentFolders", "Preview", "MainWindowGeometry",
-                            "MainWindowbodySplitter", "MainWindowcentreSplitter"})
+    for (const char *key : {"Settings-resize", "Settings-crop", "Settings-turn", "Settings-round",
+                            "Settings-background", "ShownAction", "SaveFolders", "RecentFolders", "Preview",
+                            "MainWindowGeometry", "MainWindowbodySplitter", "MainWindowcentreSplitter"})
         platform::removeUserDefault(QString::fromLatin1(key));
     QFile::remove(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                   QStringLiteral("/quorlin/log.jsonl"));
@@ -38,6 +41,17 @@ WindowDriver::~WindowDriver() = default;
 QMainWindow &WindowDriver::window()
 {
     return *qobject_cast<QMainWindow *>(m_startUp->shell().mainForm()->root());
+}
+
+bool WindowDriver::isShown(const QObject *object)
+{
+    const auto *widget = qobject_cast<const QWidget *>(object);
+    return widget && widget->isVisible();
+}
+
+void WindowDriver::show(const char *action)
+{
+    control<window::SideBar>("sideBar")->setCurrentAction(QString::fromLatin1(action));
 }
 
 void WindowDriver::click(const char *button)

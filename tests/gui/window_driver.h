@@ -30,14 +30,20 @@ public:
     window::StartUp &startUp() { return *m_startUp; }
     window::PictureTable &pictures() { return *control<window::PictureTable>("pictures"); }
 
-    /** The control of that name; ends the test where there is none. */
+    /** The control of that name, the one that is shown where several panes have one; ends the test where there is none. */
     template<typename T> T *control(const char *name)
     {
-        T *found = window().findChild<T *>(QString::fromLatin1(name));
-        if (!found)
+        const QList<T *> found = window().findChildren<T *>(QString::fromLatin1(name));
+        if (found.isEmpty())
             qFatal("no control %s", name);
-        return found;
+        for (T *each : found)
+            if (isShown(each))
+                return each;
+        return found.constFirst();
     }
+
+    /** Chooses an action in the sidebar. */
+    void show(const char *action);
 
     void click(const char *button);
     void trigger(const char *action);
@@ -57,6 +63,8 @@ public:
     QString folder() const { return m_home.path(); }
 
 private:
+    static bool isShown(const QObject *object);
+
     QApplication &m_application;
     QTemporaryDir m_home;
     std::unique_ptr<window::StartUp> m_startUp;

@@ -3,29 +3,27 @@
 
 import { ResizePane } from "../../panes/resize-pane.js";
 import * as resize from "../../steps/resize.js";
+import { PICTURE_INPUT } from "../../lib/types.js";
+import { count } from "../../lib/wording.js";
 
+// keyword: what the input collection asks for. takes: extensions of dropped files. icon: a file of the icon folder.
 export const GROUPS = [
     {
         title: () => qsTr("Pictures"),
         actions: [{
             name: "resize",
-            icon: "resize",
             title: () => qsTr("Resize"),
             step: resize,
             pane: ResizePane,
-            takes: "resize",
-            deed: (number) => (number === 1 ? qsTr("Resize 1 Picture") : qsTr("Resize %1 Pictures").replace("%1", String(number))),
+            keyword: "resize",
+            takes: PICTURE_INPUT,
+            deed: (number) => count(number, qsTr("Resize 1 Picture"), qsTr("Resize %1 Pictures")),
         }],
     },
 ];
 
+/** The action of that name; the first one where there is none. */
 export function actionNamed(name) {
-    for (const group of GROUPS) {
-        for (const action of group.actions) {
-            if (action.name === name) {
-                return action;
-            }
-        }
-    }
-    return null;
+    const all = GROUPS.reduce((actions, group) => actions.concat(group.actions), []);
+    return all.find((action) => action.name === name) || all[0];
 }

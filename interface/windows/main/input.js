@@ -6,7 +6,6 @@ import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { recall, keep, withNewest } from "../../lib/store.js";
-import { RESIZE_INPUT } from "../../lib/types.js";
 import { count, fill, pictures, shortPath } from "../../lib/wording.js";
 
 const KEPT_FOLDERS = 8;
@@ -61,7 +60,7 @@ export class Input {
 
     /** Files and folders, as they were dropped, pasted or named at start-up. */
     addPaths(paths) {
-        const found = files.collect(paths, RESIZE_INPUT);
+        const found = files.collect(paths, this.window.action.takes);
         for (const folder of found.folders) {
             this.rememberFolder(folder);
         }
@@ -69,7 +68,7 @@ export class Input {
     }
 
     addPictures() {
-        const paths = cToolBox.hOpenDialogFiles(this.window.action.takes);
+        const paths = cToolBox.hOpenDialogFiles(this.window.action.keyword);
         if (paths !== null && paths.length > 0) {
             this.addFound({ paths: paths, leftOut: 0, example: "" });
         }

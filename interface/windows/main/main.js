@@ -8,8 +8,7 @@ import { shell } from "quorlin/shell";
 import { guard, onProblem } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
 import { count, fill, pictures } from "../../lib/wording.js";
-import { OutputPane } from "../../panes/output-pane.js";
-import { actionNamed, GROUPS } from "./actions.js";
+import { ActionPage, fillSideBar, LOG, lockSideBar } from "./action-page.js";
 import { Input } from "./input.js";
 import { LivePlan } from "./live-plan.js";
 import { LogPage } from "./log-page.js";
@@ -17,7 +16,6 @@ import { PreviewSide } from "./preview-side.js";
 import { Run } from "./run.js";
 
 const SAID_MS = 8000;
-const LOG = "log";
 
 function tellProblem(where, error) {
     console.error(where + ": " + error + "\n" + (error && error.stack ? error.stack : ""));
@@ -30,8 +28,9 @@ function makeWindow() {
         form: form,
         pictures: form.control("pictures"),
         services: { image: new ZtImageHandling(), files: files },
-        action: actionNamed("resize"),
+        action: null,
         settings: null,
+        pane: null,
         said: "",
         logShown: false,
         planned: { ready: 0, originals: 0, replaced: 0 },
@@ -122,6 +121,7 @@ function showInputState(window) {
         control(name).enabled = any;
     }
     window.drop.open = !busy;
+    lockSideBar(window, busy);
 }
 
 function showAll(window) {
@@ -137,8 +137,12 @@ function showCurrent(window) {
 }
 
 function settingsChanged(window) {
-    keep(defaults, "Settings-" + window.action.name, window.settings);
-    keep(defaults, "SaveFolders", { folders: window.saveFolders });
+    window.page.keepSettings();
+    planAnew(window);
+}
+
+// What a run made of the pictures is the past now: the list shows what the settings would make of them.
+function planAnew(window) {
     window.livePlan.forgetFinal();
     window.run.dismiss();
     window.pictures.problemsOnly = false;
@@ -169,13 +173,21 @@ function say(window, text) {
     showStatus(window);
 }
 
-// The log takes the place of list and settings; adding pictures leads back to the action.
+function showTitle(window) {
+    window.form.control("windowTitle").text = "Quorlin – " + (window.logShown ? qsTr("Log") : window.action.title());
+}
+
+// The log takes the place of list and settings; adding pictures leads back to the action. The list stays when another
+// action is chosen.
 function choosePage(window, name) {
     window.logShown = name === LOG;
-    window.form.control("windowTitle").text = "Quorlin – " + (window.logShown ? qsTr("Log") : window.action.title());
     if (window.logShown) {
         window.log.show();
+    } else if (name !== window.action.name) {
+        window.page.choose(name);
+        planAnew(window);
     }
+    showTitle(window);
     showAll(window);
 }
 
@@ -233,30 +245,6 @@ function about() {
     shell.ask({ title: qsTr("About Quorlin"), text: fill(qsTr("Quorlin %1"), shell.version),
         detail: qsTr("One deed for a whole folder of pictures: it shows what it will do, does it, checks what it did, and can say so in a log.\n\nFree software under the GNU General Public License, version 3 or later."),
         buttons: [qsTr("Close")], initial: 0, escape: 0, check: "" });
-}
-
-function fillSideBar(window) {
-    const bar = window.form.control("sideBar");
-    for (const group of GROUPS) {
-        bar.addGroup(group.title());
-        group.actions.forEach((action) => bar.addEntry(action.name, action.title(), action.icon));
-    }
-    bar.addGroup(qsTr("Information"));
-    bar.addEntry(LOG, qsTr("Log"), "log");
-    bar.currentAction = window.action.name;
-    bar.actionChosen.connect(guard("sidebar", (name) => choosePage(window, name)));
-}
-
-function makePanes(window) {
-    const changed = guard("settings", () => settingsChanged(window));
-    window.settings = recall(defaults, "Settings-" + window.action.name, window.action.step.defaults);
-    window.saveFolders = recall(defaults, "SaveFolders", { folders: [] }).folders;
-    window.pane = new window.action.pane(window.settings, changed);
-    window.output = new OutputPane(window.settings.output, window.saveFolders, changed);
-    window.form.place("actionHost", window.pane.form);
-    window.form.place("outputHost", window.output.form);
-    shell.alignFields([window.pane.form, window.output.form]);
-    window.form.control("windowTitle").text = "Quorlin – " + window.action.title();
 }
 
 function deedsOf(window) {
@@ -354,14 +342,14 @@ export function openMainWindow() {
     window.saidTimer = shell.timer(guard("said", () => { window.said = ""; showStatus(window); }));
     window.drop = shell.dropTarget(window.form);
     window.drop.setMessage(qsTr("Drop to add pictures and folders"));
-    makePanes(window);
+    window.page = new ActionPage(window, () => settingsChanged(window));
     window.input = new Input(window);
     window.preview = new PreviewSide(window);
     window.livePlan = new LivePlan(window, (summary) => { window.planned = summary; showDeed(window); });
     window.run = new Run(window, () => showAll(window));
     window.note = (text) => note(window, text);
     window.log = new LogPage(window);
-    fillSideBar(window);
+    fillSideBar(window, (name) => choosePage(window, name));
     window.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill")];
     connectControls(window);
     connectViews(window);
@@ -372,6 +360,7 @@ export function openMainWindow() {
     window.form.setSplit("centreSplitter", [560, 300]);
     window.form.remember("MainWindow");
     shell.setMainForm(window.form);
+    showTitle(window);
     showCurrent(window);
     showAll(window);
     window.form.show();

@@ -48,11 +48,6 @@ function isProblem(result) {
     return result.status === "Failed" || result.status === "Not Supported";
 }
 
-function describe(settings) {
-    return settings.mode === "box" ? "box " + pixels({ width: settings.boxWidth, height: settings.boxHeight })
-                                   : settings.mode + " " + settings[settings.mode];
-}
-
 export class Run {
     /** @param window  the main window's parts; changed() is called when buttons and texts should be looked at again */
     constructor(window, changed) {
@@ -177,7 +172,7 @@ export class Run {
         const list = this.window.pictures;
         this.results.push(result);
         this.progress.add(costOf(item.photo), result.ms);
-        this.rows.push(logRow(result, this.window.action.title(), describe(this.settings), new Date().toISOString()));
+        this.rows.push(logRow(result, this.window.action.title(), this.window.action.step.describe(this.settings), new Date().toISOString()));
         this.window.livePlan.keepFinal(id);
         if (result.status === "OK") {
             list.setPlan(id, result.name, pixels(result));

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QWidget>
+
+namespace window {
+
+/**
+ * Three rows of three places of which exactly one is chosen: where a smaller thing lies in a larger one.
+ *
+ * Places are numbered row by row from the top left, 0 to 8. One tab stop; the arrow keys move the choice.
+ */
+class PositionPad : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(int selectedSegment READ selectedSegment WRITE setSelectedSegment NOTIFY selectionChanged)
+    Q_PROPERTY(QStringList names READ names WRITE setNames)
+
+public:
+    explicit PositionPad(QWidget *parent = nullptr);
+
+    int selectedSegment() const { return m_selected; }
+    /** A number outside 0 to 8 is ignored. */
+    void setSelectedSegment(int place);
+    /** What the nine places are called, for those who do not see them. */
+    QStringList names() const { return m_names; }
+    void setNames(const QStringList &names);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+Q_SIGNALS:
+    void selectionChanged(int place);
+    /** As selectionChanged, but only where a person made the choice. */
+    void chosen(int place);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    QRect placeRect(int place) const;
+    int placeAt(QPointF point) const;
+    void hover(int place);
+    void choose(int place);
+    void describe();
+
+    QStringList m_names;
+    int m_selected = 4;
+    int m_hovered = -1;
+};
+
+} // namespace window

@@ -1,0 +1,64 @@
+// Lengths in units that are printed with, and the pixels that they are in a picture of its own resolution.
+// Services used: units (convertXtoPixel, getPictureDPI); what they say of a file is remembered in unitCache.
+
+export const PIXEL = "pixel";
+/** As the conversion names them. */
+export const UNITS = [PIXEL, "mm", "cm", "inch", "pica", "punt"];
+
+// Inches per unit, and the decimals that are worth typing.
+const INCHES = { mm: 1 / 25.4, cm: 1 / 2.54, inch: 1, pica: 4.2175176 / 25.4, punt: 0.3527777777778 / 25.4 };
+const DECIMALS = { pixel: 0, mm: 1, cm: 2, inch: 2, pica: 1, punt: 0 };
+
+export function decimalsOf(unit) {
+    return DECIMALS[unit];
+}
+
+/** A length in words for a menu. */
+export function unitWord(unit) {
+    return { pixel: qsTr("Pixels"), mm: qsTr("Millimetres"), cm: qsTr("Centimetres"), inch: qsTr("Inches"), pica: qsTr("Picas"),
+             punt: qsTr("Points") }[unit];
+}
+
+/** What stands behind a number in a field, with a space in front. */
+export function unitSuffix(unit) {
+    return { pixel: qsTr(" px"), mm: qsTr(" mm"), cm: qsTr(" cm"), inch: qsTr(" in"), pica: qsTr(" pc"), punt: qsTr(" pt") }[unit];
+}
+
+function remembered(services, key, find) {
+    const cache = services.unitCache;
+    if (cache[key] === undefined) {
+        cache[key] = find();
+    }
+    return cache[key];
+}
+
+/** Whole pixels of a picture for a length in a unit; not a number where the file does not say. */
+export function toPixels(photo, unit, value, services) {
+    if (unit === PIXEL) {
+        return Math.trunc(value);
+    }
+    return remembered(services, photo.path + "\n" + unit + "\n" + value,
+                      () => services.units.convertXtoPixel(photo.path, PIXEL, unit, value));
+}
+
+/** The resolution of a picture, in whole dots per inch. */
+export function dpiOf(photo, services) {
+    return remembered(services, photo.path, () => services.units.getPictureDPI(photo.path));
+}
+
+/** A length in one unit as the nearest one in another that a field can show, at a resolution. */
+export function converted(value, from, to, dpi) {
+    const inches = from === PIXEL ? value / dpi : value * INCHES[from];
+    const result = to === PIXEL ? inches * dpi : inches / INCHES[to];
+    const factor = Math.pow(10, DECIMALS[to]);
+    return Math.round(result * factor) / factor;
+}
+
+/** A copy of the settings in which the named lengths are whole pixels of the picture. */
+export function inPixels(photo, settings, fields, services) {
+    const result = Object.assign({}, settings);
+    for (const field of fields) {
+        result[field] = toPixels(photo, settings.unit, settings[field], services);
+    }
+    return result;
+}

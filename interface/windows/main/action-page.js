@@ -1,0 +1,76 @@
+// The action that is shown: its settings, its pane, and the output block under it. Panes are made when they are first
+// shown; each action keeps settings of its own. Services used: defaults.
+
+import { defaults } from "quorlin/defaults";
+import { shell } from "quorlin/shell";
+import { guard } from "../../lib/guard.js";
+import { keep, recall } from "../../lib/store.js";
+import { OutputPane } from "../../panes/output-pane.js";
+import { actionNamed, GROUPS } from "./actions.js";
+
+const SHOWN = "ShownAction";
+
+export const LOG = "log";
+
+/** Sets action, settings and pane of the main window's parts; changed() is called after each change of a setting. */
+export class ActionPage {
+    constructor(window, changed) {
+        this.window = window;
+        this.changed = guard("settings", changed);
+        this.pages = {};
+        this.saveFolders = recall(defaults, "SaveFolders", { folders: [] }).folders;
+        this.output = new OutputPane(this.saveFolders, this.changed);
+        window.form.place("outputHost", this.output.form);
+        this.choose(recall(defaults, SHOWN, { name: "" }).name);
+    }
+
+    /** Shows an action and makes it the one that plans and runs. */
+    choose(name) {
+        const window = this.window;
+        const page = this.pageOf(actionNamed(name));
+        Object.keys(this.pages).forEach((other) => { this.pages[other].pane.form.shown = this.pages[other] === page; });
+        window.action = page.action;
+        window.settings = page.settings;
+        window.pane = page.pane;
+        this.output.use(page.settings.output, page.action.step.offer);
+        shell.alignFields([page.pane.form, this.output.form]);
+        window.form.arrangeTabs();
+        keep(defaults, SHOWN, { name: page.action.name });
+    }
+
+    pageOf(action) {
+        if (this.pages[action.name] === undefined) {
+            const settings = recall(defaults, "Settings-" + action.name, action.step.defaults);
+            const pane = new action.pane(settings, this.changed);
+            this.window.form.place("actionHost", pane.form);
+            this.pages[action.name] = { action: action, settings: settings, pane: pane };
+        }
+        return this.pages[action.name];
+    }
+
+    keepSettings() {
+        keep(defaults, "Settings-" + this.window.action.name, this.window.settings);
+        keep(defaults, "SaveFolders", { folders: this.saveFolders });
+    }
+}
+
+/** Fills the sidebar; chosen(name) is called with the name of an action, or LOG. */
+export function fillSideBar(window, chosen) {
+    const bar = window.form.control("sideBar");
+    for (const group of GROUPS) {
+        bar.addGroup(group.title());
+        group.actions.forEach((action) => bar.addEntry(action.name, action.title(), action.name));
+    }
+    bar.addGroup(qsTr("Information"));
+    bar.addEntry(LOG, qsTr("Log"), LOG);
+    bar.currentAction = window.action.name;
+    bar.actionChosen.connect(guard("sidebar", chosen));
+}
+
+/** While a run is under way only its own action and the log can be shown. */
+export function lockSideBar(window, locked) {
+    const bar = window.form.control("sideBar");
+    for (const group of GROUPS) {
+        group.actions.forEach((action) => bar.setEntryEnabled(action.name, !locked || action.name === window.action.name));
+    }
+}
