@@ -208,6 +208,123 @@ declare module "quorlin" {
         /** Called when the window was loaded. */
         windowDidLoad(): null;
     }
+
+    /**
+     * The second view, for the preview of a crop: fits its picture into the size that the main view published last as
+     * "myBounds" in the user defaults. Fields without a comment are kept for scripts only.
+     */
+    export class my2ndPhotoView {
+        constructor();
+        simulationMode: Control | null;
+        /** The drawing scale after the last adjustment of the frame. */
+        pScale: double;
+        /** The last angle given to rotateByDegrees, in degrees. */
+        pAngle: double;
+        pImageSize: size;
+        /** The frame size at which the drawing scale is 1; zero until it is set. */
+        pMaxFrameSize: size;
+        /** The scale applied when drawing; both alike and at most 1. */
+        pDrawScaleX: double;
+        pDrawScaleY: double;
+        tNewFrameX: double;
+        tNewFrameY: double;
+        tNewFrameW: double;
+        tNewFrameH: double;
+        /** A picture is there. */
+        pImageLoadedCrop: boolean;
+        /** The mode; both show the same. */
+        pImageToFitCrop: boolean;
+        /** The picture as shown, and as loaded. */
+        pImageMain: Picture | null;
+        pImageMainOrig: Picture | null;
+        pImageCrop: Picture | null;
+        /** Setting another frame tells cropBoundsDidChangeNotification of it, once awakeFromNib has run. */
+        frame: rectangle;
+        /** Starts without a picture and in fitted mode. */
+        awakeFromNib(): null;
+        /** Shows the picture at the path; one that cannot be read shows nothing. */
+        setImageWithPath(path: text): null;
+        /** The same. */
+        setImageWithPath2(path: text): null;
+        /** Shows the image, which becomes pImageMainOrig too. */
+        setImage(image: Picture | null): null;
+        /** Fitted mode; without a picture nothing changes. */
+        setImageToFit(): null;
+        /** The other mode; the picture is fitted all the same. */
+        setImageToFullSize(): null;
+        /** Takes the content size of the enclosing scroll view, where there is one, and sets the drawing scale. */
+        adjustFrameToFit(): null;
+        /** Keeps the angle. The picture is not turned. */
+        rotateByDegrees(degrees: double): null;
+        cropBoundsDidChangeNotification(notification: sender): null;
+        /** A new picture of exactly this size in points, with all of the image in it. */
+        resizeImageAspectRatioFit(image: Picture | null, size: size): Picture | null;
+        /** A new picture of exactly this size, filled by the image. */
+        resizeImageAspectRatioFitFullFrame(image: Picture | null, size: size): Picture | null;
+        /** Does nothing. */
+        viewWillDraw(): null;
+        /** Does nothing without a widget to draw to. */
+        drawRect(dirtyRect: rectangle): null;
+    }
+
+    /**
+     * The view of the current picture, fitted whole into the view or filling it. Publishes its size as "myBounds" in the
+     * user defaults. Fields without a comment are kept for scripts only.
+     */
+    export class myMainPhotoView {
+        constructor();
+        tfActivePicture: Control | null;
+        pScale: double;
+        /** The last angle given to rotateByDegrees, in degrees. */
+        pAngle: double;
+        pImageSize: size;
+        /** The frame size at which the drawing scale is 1; zero until it is set. */
+        pMaxFrameSize: size;
+        /** The scale applied when drawing; both alike and at most 1. */
+        pDrawScaleX: double;
+        pDrawScaleY: double;
+        tNewFrameX: double;
+        tNewFrameY: double;
+        tNewFrameW: double;
+        tNewFrameH: double;
+        /** A picture is there; nothing is drawn while there is none. */
+        pImageLoaded: boolean;
+        /** True: the whole picture is fitted into the view. False: it fills the view. */
+        pImageToFit: boolean;
+        /** The picture as loaded, and as shown. */
+        pImageOrig: Picture | null;
+        pImage: Picture | null;
+        pImageCrop: Picture | null;
+        /** Setting another frame tells boundsDidChangeNotification of it, once awakeFromNib has run. */
+        frame: rectangle;
+        /** Starts without a picture and in fitted mode. Logs "awakeFromNib". */
+        awakeFromNib(): null;
+        /** Shows the picture at the path; one that cannot be read shows nothing. */
+        setImageWithPath(path: text): null;
+        /** The same, opened twice, so that pImage and pImageOrig share nothing. */
+        setImageWithPath2(path: text): null;
+        /** Stores the image in pImage and keeps pImageOrig, of which the picture shown is made anew. */
+        setImage(image: Picture | null): null;
+        /** Opens the path, and shows pImageOrig all the same. */
+        setImageCropPreview(path: text, unused: sender): null;
+        /** Fitted mode; without a picture nothing changes. */
+        setImageToFit(): null;
+        /** The picture fills the view; without a picture nothing changes. */
+        setImageToFullSize(): null;
+        /** Takes the content size of the enclosing scroll view, where there is one, and sets the drawing scale. */
+        adjustFrameToFit(): null;
+        /** Keeps the angle. The picture is not turned. */
+        rotateByDegrees(degrees: double): null;
+        boundsDidChangeNotification(notification: sender): null;
+        /** A new picture of exactly this size in points, with all of the image in it. */
+        resizeImageAspectRatioFit(image: Picture | null, size: size): Picture | null;
+        /** A new picture of exactly this size, filled by the image. */
+        resizeImageAspectRatioFitFullFrame(image: Picture | null, size: size): Picture | null;
+        /** Does nothing. */
+        viewWillDraw(): null;
+        /** Does nothing without a widget to draw to. */
+        drawRect(dirtyRect: rectangle): null;
+    }
 }
 
 /** Controls without a window; each takes a dictionary of its fields. */

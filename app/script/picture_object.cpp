@@ -19,13 +19,14 @@ QVariantList PictureObject::pixel(int x, int y) const
 
 bool PictureObject::save(const QString &path) const
 {
-    return !m_picture.isNull() && !path.isEmpty() &&
+    return !path.isEmpty() && !m_picture.bitmap().isNull() &&
            platform::writeImageFile(path, m_picture.bitmap(), platform::FileFormat::Png).has_value();
 }
 
 platform::BitmapHandle PictureObject::bitmap() const
 {
-    return m_picture.isNull() ? platform::BitmapHandle() : platform::BitmapHandle(m_picture.bitmap());
+    const platform::Bitmap pixels = m_picture.bitmap();
+    return pixels.isNull() ? platform::BitmapHandle() : platform::BitmapHandle(pixels);
 }
 
 void PictureObject::release()

@@ -25,8 +25,8 @@ public:
     platform::Picture picture() const { return m_picture; }
     double width() const { return m_picture.isNull() ? 0 : m_picture.size().width(); }
     double height() const { return m_picture.isNull() ? 0 : m_picture.size().height(); }
-    int pixelsWide() const { return m_picture.bitmap().width(); }
-    int pixelsHigh() const { return m_picture.bitmap().height(); }
+    int pixelsWide() const { return m_picture.pixelSize().width(); }
+    int pixelsHigh() const { return m_picture.pixelSize().height(); }
 
     /** Reads the file at @p path, upright; null if that cannot be done. */
     Q_INVOKABLE platform::Picture open(const QString &path) const;

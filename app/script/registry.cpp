@@ -9,6 +9,8 @@
 #include "files/cToolBox.h"
 #include "image/ZtImageHandling.h"
 #include "platform/desktop/stand_ins.h"
+#include "views/my2ndPhotoView.h"
+#include "views/myMainPhotoView.h"
 
 namespace script {
 namespace {
@@ -40,6 +42,8 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<cToolBox>(),
         serviceEntry<mainViewController>(),
         serviceEntry<mainWindowClass>(),
+        serviceEntry<my2ndPhotoView>(),
+        serviceEntry<myMainPhotoView>(),
         pictures(),
         standIn<platform::TextField>(),
         standIn<platform::CheckBox>(),

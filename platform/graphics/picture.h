@@ -4,33 +4,60 @@
 
 #include <QSizeF>
 
+#include <memory>
+
 namespace platform {
 
 /**
  * A picture in memory: upright pixels and a size in points of its own.
  *
- * A cheap value that shares its pixels. Opened from a file its size in points is pixels x 72 / dots per inch.
+ * A cheap value whose copies share their pixels, also those that are decoded later. Opened from a file its size in points
+ * is pixels x 72 / dots per inch.
  */
 class Picture
 {
 public:
     Picture() = default;
-    /** A picture whose size in points is that of the bitmap. */
-    explicit Picture(Bitmap bitmap) : m_bitmap(std::move(bitmap)), m_size(m_bitmap.pointSize()) {}
-    Picture(Bitmap bitmap, QSizeF sizeInPoints) : m_bitmap(std::move(bitmap)), m_size(sizeInPoints) {}
+    /** A picture whose size in points is that of the bitmap; a null picture for a null bitmap. */
+    explicit Picture(const Bitmap &bitmap) : Picture(bitmap, bitmap.pointSize()) {}
+    Picture(const Bitmap &bitmap, QSizeF sizeInPoints);
 
     /** Reads a file, upright. A null picture if it cannot be read. */
     static Picture fromFile(const QString &path);
+    /**
+     * Opens a file and leaves its pixels where they are until something needs them. A null picture if it cannot be
+     * opened; where its pixels turn out to be damaged the picture is null from then on.
+     */
+    static Picture opened(const QString &path);
+    /** A picture without pixels, of size 0 x 0, that is not null. */
+    static Picture ofNoSize();
 
-    bool isNull() const { return m_bitmap.isNull(); }
-    bool operator==(const Picture &other) const = default;
+    bool isNull() const;
+    /** True for pictures that share their pixels and have the same size. */
+    bool operator==(const Picture &other) const;
     /** In points. */
-    QSizeF size() const { return m_size; }
-    Bitmap bitmap() const { return m_bitmap; }
+    QSizeF size() const;
+    /** In pixels; decodes nothing. */
+    QSize pixelSize() const;
+    /** The same picture with another size in points; shares pixels that are decoded already. */
+    Picture withSize(QSizeF sizeInPoints) const;
+
+    /** All pixels, decoded on the first call. A null bitmap where the picture is null or has no pixels. */
+    Bitmap bitmap() const;
+    /** True where all pixels are in memory. */
+    bool isDecoded() const;
+    /**
+     * The picture at exactly @p pixels: from the pixels in memory where they are there, otherwise by the cheapest decode
+     * that is sharp at that size, which is kept for the next call. Fails as ImageSource::decodeScaled() does.
+     */
+    Result<Bitmap> scaledTo(QSize pixels) const;
 
 private:
-    Bitmap m_bitmap;
-    QSizeF m_size;
+    struct Contents;
+    explicit Picture(std::shared_ptr<Contents> contents) : m_contents(std::move(contents)) {}
+    Result<Bitmap> decodedAt(QSize pixels) const;
+
+    std::shared_ptr<Contents> m_contents;
 };
 
 } // namespace platform

@@ -21,6 +21,27 @@ qint64 memoryBudgetBytes()
     return budget;
 }
 
+double opaqueAlpha(VipsInterpretation space)
+{
+    switch (space) {
+    case VIPS_INTERPRETATION_RGB16:
+    case VIPS_INTERPRETATION_GREY16:
+        return 65535;
+    case VIPS_INTERPRETATION_scRGB:
+        return 1;
+    default:
+        return 255;
+    }
+}
+
+tl::unexpected<Error> impossible(QSize size)
+{
+    return failure(ErrorCode::TooLarge,
+                   QCoreApplication::translate("platform", "No picture of %1 x %2 pixels can be made")
+                       .arg(size.width())
+                       .arg(size.height()));
+}
+
 } // namespace
 
 bool fitsMemoryBudget(qint64 width, qint64 height, int bands, int bytesPerComponent)
@@ -38,13 +59,47 @@ Result<Bitmap> resample(const Bitmap &bitmap, QSize size)
                        QCoreApplication::translate("platform", "There is no picture to scale"));
     const vips::VImage &image = bitmap.pixels().image;
     if (!fitsMemoryBudget(size.width(), size.height(), image.bands(), bytesPerComponent(image)))
-        return failure(ErrorCode::TooLarge,
-                       QCoreApplication::translate("platform", "No picture of %1 x %2 pixels can be made")
-                           .arg(size.width())
-                           .arg(size.height()));
+        return impossible(size);
     try {
         const Bitmap::Pixels &pixels = bitmap.pixels();
         return bitmapFromImage(scaledTo(image, size), pixels.resolution, pixels.quantisation);
+    } catch (const vips::VError &error) {
+        return failure(ErrorCode::TooLarge, takeVipsError(error));
+    }
+}
+
+Result<Bitmap> transparent(QSize size)
+{
+    constexpr int bands = 4;
+    if (!fitsMemoryBudget(size.width(), size.height(), bands, 1))
+        return impossible(size);
+    try {
+        initVips();
+        const vips::VImage clear =
+            vips::VImage::black(size.width(), size.height(), vips::VImage::option()->set("bands", bands));
+        return bitmapFromImage(clear.copy(vips::VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB)));
+    } catch (const vips::VError &error) {
+        return failure(ErrorCode::TooLarge, takeVipsError(error));
+    }
+}
+
+Result<Bitmap> placed(const Bitmap &bitmap, QPoint place, QSize size)
+{
+    const QRect canvas(QPoint(0, 0), size);
+    const Bitmap part = cut(bitmap, canvas.translated(-place));
+    if (part.isNull())
+        return transparent(size);
+    if (part.size() == size)
+        return part;
+    const Bitmap::Pixels &pixels = part.pixels();
+    if (!fitsMemoryBudget(size.width(), size.height(), pixels.image.bands() + 1, bytesPerComponent(pixels.image)))
+        return impossible(size);
+    try {
+        const double opaque = opaqueAlpha(pixels.image.interpretation());
+        const vips::VImage layer = part.hasAlpha() ? pixels.image : pixels.image.bandjoin_const({opaque});
+        const QPoint corner(std::max(0, place.x()), std::max(0, place.y()));
+        return bitmapFromImage(layer.embed(corner.x(), corner.y(), size.width(), size.height()), pixels.resolution,
+                               pixels.quantisation);
     } catch (const vips::VError &error) {
         return failure(ErrorCode::TooLarge, takeVipsError(error));
     }

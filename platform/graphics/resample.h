@@ -15,6 +15,15 @@ bool fitsMemoryBudget(qint64 width, qint64 height, int bands, int bytesPerCompon
  */
 Result<Bitmap> resample(const Bitmap &bitmap, QSize size);
 
+/**
+ * The bitmap with its top left corner at @p place on a transparent canvas of @p size; what lies outside is cut off.
+ * Keeps depth and colour space and adds alpha where some of the canvas stays empty. Fails with InvalidValue or TooLarge.
+ */
+Result<Bitmap> placed(const Bitmap &bitmap, QPoint place, QSize size);
+
+/** A transparent bitmap of 8 bit RGB. Fails with TooLarge where none of that size can be made. */
+Result<Bitmap> transparent(QSize size);
+
 /** The part of the bitmap inside @p rect, cut to the bitmap's bounds; a null bitmap where nothing is left. */
 Bitmap cut(const Bitmap &bitmap, const QRect &rect);
 

@@ -45,6 +45,21 @@ void addPixelProperties(QVariantMap &properties, const vips::VImage &image)
 
 } // namespace
 
+QSizeF ImageSource::pointSize() const
+{
+    constexpr double pointsPerInch = 72;
+    Resolution resolution;
+    try {
+        if (m_file)
+            resolution = resolutionOf(openImage(m_file->bytes, m_file->content), m_file->bytes, m_file->content);
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+    }
+    const auto inPoints = [](int pixels, double dpi) { return dpi > 0 ? pixels * pointsPerInch / dpi : pixels; };
+    const QSize pixels = uprightSize();
+    return {inPoints(pixels.width(), resolution.horizontal), inPoints(pixels.height(), resolution.vertical)};
+}
+
 QVariantMap ImageSource::properties() const
 {
     if (!m_file)

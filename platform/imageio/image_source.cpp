@@ -241,6 +241,16 @@ Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const
 
 Result<Bitmap> ImageSource::decodeScaled(QSize size) const
 {
+    return decodeFor(size, Scaling::Exact);
+}
+
+Result<Bitmap> ImageSource::decodeAtLeast(QSize size) const
+{
+    return decodeFor(size, Scaling::AtLeast);
+}
+
+Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling) const
+{
     if (!m_file)
         return failure(ErrorCode::InvalidValue, text("There is no picture to scale"));
     const QSize wanted = turned(size, m_file->orientation);
@@ -256,7 +266,8 @@ Result<Bitmap> ImageSource::decodeScaled(QSize size) const
         if (!fitsMemoryBudget(wanted.width(), wanted.height(), image.bands(), bytesPerComponent(image)))
             return failure(ErrorCode::TooLarge,
                            text("No picture of %1 x %2 pixels can be made").arg(size.width()).arg(size.height()));
-        image = scaledTo(image, wanted);
+        if (scaling == Scaling::Exact)
+            image = scaledTo(image, wanted);
         if (m_file->orientation > 1)
             image = turnedUpright(image.copy_memory(), m_file->orientation);
         return finished(*m_file, image);

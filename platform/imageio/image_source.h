@@ -46,6 +46,8 @@ public:
     /** Pixels of image 0 as stored, and turned upright by the orientation it states. */
     QSize storedSize() const;
     QSize uprightSize() const;
+    /** Upright, in points: pixels x 72 / dots per inch. Reads the header again. */
+    QSizeF pointSize() const;
     /** 1 to 8; 1 where none or no valid one is stated, or where the container has turned the picture already. */
     int orientation() const;
 
@@ -63,10 +65,15 @@ public:
      */
     Result<Bitmap> decodeScaled(QSize size) const;
 
+    /** As decodeScaled(), left at the size that the decoder gives; less than @p size only where the picture is. */
+    Result<Bitmap> decodeAtLeast(QSize size) const;
+
     struct File;
 
 private:
+    enum class Scaling { Exact, AtLeast };
     explicit ImageSource(std::shared_ptr<const File> file) : m_file(std::move(file)) {}
+    Result<Bitmap> decodeFor(QSize size, Scaling scaling) const;
     std::shared_ptr<const File> m_file;
 };
 

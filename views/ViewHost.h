@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QSizeF>
+
+#include <optional>
+
+namespace views {
+
+/** The real widget behind a view. Sizes are in the units of the view's frame. */
+class ViewHost
+{
+public:
+    virtual ~ViewHost() = default;
+    /** The size that the enclosing scroll view has for its content; none where the view lies in none. */
+    virtual std::optional<QSizeF> scrollContentSize() const = 0;
+    virtual void requestRedisplay() = 0;
+    virtual void requestLayout() = 0;
+};
+
+} // namespace views

@@ -1,0 +1,126 @@
+#include "views/myMainPhotoView.h"
+
+#include "platform/foundation/log.h"
+#include "views/bounds_text.h"
+#include "views/fit.h"
+
+using platform::Picture;
+
+void myMainPhotoView::awakeFromNib()
+{
+    platform::logLine(QStringLiteral("awakeFromNib"));
+    pImageLoaded = false;
+    pImageToFit = true;
+    m_stage.observeFrame([this] { boundsDidChangeNotification({}); });
+}
+
+void myMainPhotoView::setImageWithPath(const QString &path)
+{
+    pImage = Picture::opened(path);
+    pImageOrig = pImage;
+    views::publishBounds(m_stage.boundsSize());
+    fitOriginal();
+    pImageLoaded = true;
+    applyMode();
+}
+
+void myMainPhotoView::setImageWithPath2(const QString &path)
+{
+    pImage = Picture::opened(path);
+    pImageOrig = Picture::opened(path);
+    views::publishBounds(m_stage.boundsSize());
+    pImageLoaded = true;
+    applyMode();
+}
+
+void myMainPhotoView::setImage(const Picture &image)
+{
+    pImage = image;
+    pImageLoaded = true;
+    views::publishBounds(m_stage.boundsSize());
+    applyMode();
+}
+
+void myMainPhotoView::setImageCropPreview(const QString &path, platform::Sender unused)
+{
+    Q_UNUSED(unused)
+    pImage = Picture::opened(path);
+    fitOriginal();
+    pImageLoaded = true;
+    applyMode();
+}
+
+void myMainPhotoView::setImageToFit()
+{
+    if (!pImageLoaded)
+        return;
+    fitOriginal();
+    pImageToFit = true;
+    adjustFrameToFit();
+}
+
+void myMainPhotoView::setImageToFullSize()
+{
+    if (!pImageLoaded)
+        return;
+    pImage = resizeImageAspectRatioFitFullFrame(pImageOrig, m_stage.boundsSize());
+    pImageToFit = false;
+    adjustFrameToFit();
+    m_stage.layout();
+}
+
+void myMainPhotoView::adjustFrameToFit()
+{
+    pDrawScaleX = m_stage.fillScrollView(pMaxFrameSize);
+    pDrawScaleY = pDrawScaleX;
+}
+
+void myMainPhotoView::rotateByDegrees(double degrees)
+{
+    pAngle = degrees;
+    m_stage.redisplay();
+}
+
+void myMainPhotoView::boundsDidChangeNotification(platform::Sender notification)
+{
+    Q_UNUSED(notification)
+    fitOriginal();
+    views::publishBounds(m_stage.boundsSize());
+    applyMode();
+}
+
+Picture myMainPhotoView::resizeImageAspectRatioFit(const Picture &image, const QSizeF &size)
+{
+    return views::laidInto(image, size, views::Fit::Whole);
+}
+
+Picture myMainPhotoView::resizeImageAspectRatioFitFullFrame(const Picture &image, const QSizeF &size)
+{
+    return views::laidInto(image, size, views::Fit::Fill);
+}
+
+void myMainPhotoView::viewWillDraw() {}
+
+void myMainPhotoView::drawRect(const QRectF &dirtyRect)
+{
+    Q_UNUSED(dirtyRect)
+}
+
+void myMainPhotoView::draw(QPainter &painter, views::Medium medium) const
+{
+    if (pImageLoaded)
+        m_stage.draw(painter, medium, pImage, pDrawScaleX, pDrawScaleY);
+}
+
+void myMainPhotoView::applyMode()
+{
+    if (pImageToFit)
+        setImageToFit();
+    else
+        setImageToFullSize();
+}
+
+void myMainPhotoView::fitOriginal()
+{
+    pImage = resizeImageAspectRatioFit(pImageOrig, m_stage.boundsSize());
+}
