@@ -1,0 +1,121 @@
+#include "platform/graphics/coverage.h"
+
+#include "platform/graphics/pixels.h"
+
+#include <cairo.h>
+
+#include <algorithm>
+#include <array>
+#include <numbers>
+
+namespace platform {
+
+struct Coverage::Surface
+{
+    explicit Surface(QSize size)
+        : pixels(cairo_image_surface_create(CAIRO_FORMAT_A8, size.width(), size.height())), pen(cairo_create(pixels))
+    {
+        if (cairo_status(pen) != CAIRO_STATUS_SUCCESS)
+            reportAndClose();
+    }
+    Surface(const Surface &) = delete;
+    Surface &operator=(const Surface &) = delete;
+    ~Surface() { close(); }
+
+    cairo_surface_t *pixels;
+    cairo_t *pen;
+
+private:
+    void close()
+    {
+        cairo_destroy(pen);
+        cairo_surface_destroy(pixels);
+    }
+    [[noreturn]] void reportAndClose()
+    {
+        close();
+        throw vips::VError("out of memory");
+    }
+};
+
+namespace {
+
+/** A quarter of an ellipse round @p centre, from one angle to the next in quarters of a circle. */
+void addCorner(cairo_t *pen, QPointF centre, const RoundedRect &shape, int quarter)
+{
+    constexpr double quarterTurn = std::numbers::pi / 2;
+    cairo_save(pen);
+    cairo_translate(pen, centre.x(), centre.y());
+    cairo_scale(pen, shape.xRadius, shape.yRadius);
+    cairo_arc(pen, 0, 0, 1, quarter * quarterTurn, (quarter + 1) * quarterTurn);
+    cairo_restore(pen);
+}
+
+void addOutline(cairo_t *pen, const RoundedRect &shape)
+{
+    const QRectF inner = shape.rect.adjusted(shape.xRadius, shape.yRadius, -shape.xRadius, -shape.yRadius);
+    if (!(shape.xRadius > 0) || !(shape.yRadius > 0)) {
+        cairo_rectangle(pen, shape.rect.x(), shape.rect.y(), shape.rect.width(), shape.rect.height());
+        return;
+    }
+    cairo_new_sub_path(pen);
+    addCorner(pen, inner.bottomRight(), shape, 0);
+    addCorner(pen, inner.bottomLeft(), shape, 1);
+    addCorner(pen, inner.topLeft(), shape, 2);
+    addCorner(pen, inner.topRight(), shape, 3);
+    cairo_close_path(pen);
+}
+
+} // namespace
+
+Coverage::Coverage(QSize size) : m_surface(std::make_unique<Surface>(size)) {}
+Coverage::~Coverage() = default;
+Coverage::Coverage(Coverage &&other) noexcept = default;
+
+const uchar *Coverage::row(int y) const
+{
+    cairo_surface_flush(m_surface->pixels);
+    return cairo_image_surface_get_data(m_surface->pixels) +
+           size_t(cairo_image_surface_get_stride(m_surface->pixels)) * size_t(y);
+}
+
+Coverage coverageOf(const RoundedRect &shape, const QRect &piece)
+{
+    Coverage coverage(piece.size());
+    // What lies far outside cannot be seen and would not fit the library's coordinates.
+    constexpr double far = 1'000'000;
+    if (shape.rect.width() <= 0 || shape.rect.height() <= 0)
+        return coverage;
+    RoundedRect drawn = shape;
+    drawn.rect = drawn.rect.intersected(QRectF(piece).adjusted(-far, -far, far, far));
+    drawn.xRadius = std::min(drawn.xRadius, drawn.rect.width() / 2);
+    drawn.yRadius = std::min(drawn.yRadius, drawn.rect.height() / 2);
+    cairo_t *pen = coverage.surface().pen;
+    constexpr double finestStep = 0.02;
+    cairo_set_tolerance(pen, finestStep);
+    cairo_set_antialias(pen, CAIRO_ANTIALIAS_BEST);
+    cairo_translate(pen, -piece.x(), -piece.y());
+    addOutline(pen, drawn);
+    cairo_fill(pen);
+    return coverage;
+}
+
+Coverage coverageOfLines(const QList<QLineF> &lines, double width, double dash, const QRect &piece)
+{
+    Coverage coverage(piece.size());
+    cairo_t *pen = coverage.surface().pen;
+    cairo_translate(pen, -piece.x(), -piece.y());
+    for (const QLineF &line : lines) {
+        cairo_move_to(pen, line.x1(), line.y1());
+        cairo_line_to(pen, line.x2(), line.y2());
+    }
+    const std::array<double, 2> dashes = {dash, dash};
+    cairo_set_dash(pen, dashes.data(), int(dashes.size()), 0);
+    cairo_set_line_width(pen, width);
+    cairo_set_line_cap(pen, CAIRO_LINE_CAP_SQUARE);
+    cairo_set_line_join(pen, CAIRO_LINE_JOIN_MITER);
+    cairo_stroke(pen);
+    return coverage;
+}
+
+} // namespace platform

@@ -1,0 +1,53 @@
+#pragma once
+
+// Private to the platform: pixels laid on pixels, in the depth and the colours of the upper ones.
+
+#include "platform/graphics/pixels.h"
+
+#include <QColor>
+
+namespace platform {
+
+/** True where red, green and blue are alike. */
+bool isGrey(const QColor &color);
+
+/** A colour as an opaque sRGB image of one pixel and 16 bits. */
+vips::VImage colorImage(const QColor &color);
+
+/**
+ * The image as grey or RGB, each perhaps with alpha, of 8 or 16 bits in memory; RGB for certain if @p needsColors. What is
+ * so already stays as it is, with its profile; all else becomes sRGB.
+ */
+vips::VImage composable(const vips::VImage &image, bool needsColors);
+
+/** @p srgb in the colours, the profile and the depth of @p image; grey only where @p srgb is. Alpha stays. In memory. */
+vips::VImage inSpaceOf(const vips::VImage &image, const vips::VImage &srgb);
+
+/**
+ * Composes rows of one picture: a part of @p image, less than covered where a coverage says so, on copies of @p under
+ * from the top left corner. The result has alpha but where @p under is opaque. Throws vips::VError.
+ */
+class Layers
+{
+public:
+    /** @p image as composable() gives it; @p under as inSpaceOf() gives it. */
+    Layers(const vips::VImage &image, const QRect &part, const std::optional<vips::VImage> &under);
+
+    /** Row @p y of the result. @p coverage holds a byte for each of its pixels; null covers the whole row. */
+    void compose(int y, const uchar *coverage);
+
+    vips::VImage result() const { return m_result; }
+
+private:
+    const uchar *underRow(int y);
+    template<typename T> void composeRow(int y, const uchar *coverage);
+
+    vips::VImage m_image;
+    QRect m_part;
+    std::optional<vips::VImage> m_under;
+    vips::VImage m_result;
+    std::vector<uchar> m_underRow;
+    int m_underRowIndex = -1;
+};
+
+} // namespace platform
