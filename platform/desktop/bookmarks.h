@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/foundation/result.h"
+
+#include <QByteArray>
+
+namespace platform {
+
+/**
+ * Data by which the file or folder at @p path is found again in a later run, and known for the same.
+ *
+ * It holds the path and the identity of the file system and of the item itself, no contents. Fails with NotFound where nothing
+ * is at the path, and with Unreadable where the user may not read it (a folder: not enter it).
+ */
+Result<QByteArray> makeBookmark(const QString &path);
+
+/**
+ * The path that makeBookmark() was given, spelled as it was.
+ *
+ * Fails with NotFound where nothing is there any more, or something else is: an item that was removed and made again under
+ * the same name, or another file system mounted in its place. Fails with InvalidValue for data that is no bookmark.
+ */
+Result<QString> resolveBookmark(const QByteArray &bookmark);
+
+} // namespace platform

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QMetaType>
+#include <QStringList>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+
+namespace platform {
+
+/**
+ * A list of texts that everybody who was given it shares: whoever empties it empties it for all.
+ *
+ * Copies share one list; a default one is no list at all. A script gets the list as an array of its own, always the same
+ * one, which is emptied with it. What is appended after that reaches the array no more. Main thread only.
+ */
+class SharedTexts
+{
+public:
+    static SharedTexts make();
+
+    bool isNull() const { return !m_list; }
+    /** Empty for no list. */
+    QStringList texts() const { return m_list ? m_list->texts : QStringList(); }
+    /** Nothing happens to no list. */
+    void append(const QString &text);
+    /** Takes all texts away, here and in the form that was given to a script. */
+    void empty();
+
+    /** What a script was given for this list; invalid if nothing was. */
+    QVariant form() const { return m_list ? m_list->form : QVariant(); }
+    /** Keeps what a script is given. @p onEmptied empties it. */
+    void setForm(const QVariant &form, std::function<void()> onEmptied);
+
+    friend bool operator==(const SharedTexts &a, const SharedTexts &b) { return a.m_list == b.m_list; }
+
+private:
+    struct List
+    {
+        QStringList texts;
+        QVariant form;
+        std::function<void()> onEmptied;
+    };
+
+    std::shared_ptr<List> m_list;
+};
+
+} // namespace platform
+
+Q_DECLARE_METATYPE(platform::SharedTexts)
