@@ -25,6 +25,8 @@ type list = any[] | null;
 type texts = string[] | null;
 /** The operation empties this very list. */
 type sharedList = any[] | null;
+/** Always the same list, which a later operation may empty; copy what is needed for longer. */
+type sharedTexts = string[] | null;
 type data = ArrayBuffer | null;
 type date = Date | null;
 /** The absolute URL, percent-encoded: "file:///a/b%20c.jpg". */
@@ -35,6 +37,8 @@ type rectangle = { x: number; y: number; width: number; height: number };
 /** Handed on to the operations that take one. */
 type BitmapHandle = object;
 type ImageSource = object;
+/** Only to be compared with null. */
+type Connection = object;
 /** A stand-in from "quorlin/controls", or a control of a window. */
 type Control = object;
 type fieldsOf<T> = Partial<T>;
@@ -184,6 +188,29 @@ declare module "quorlin" {
             qualityCode: text): text;
     }
 
+    /** Turns a location into data that can be kept, and back in a later run. */
+    export class Ztbookmarks {
+        constructor();
+        /** Null if nothing is there or it may not be read. */
+        bookmarkForURL(url: location): data;
+        /** Null if what was there is gone, or another took its place. */
+        urlForBookmark(bookmark: data): location;
+    }
+
+    /** The sheets of the main window, and the support folder that is chosen on one of them. */
+    export class cSheetControl {
+        constructor();
+        wwMainWindow: Control | null;
+        wwPreferencesWindow: Control | null;
+        tfLibraryFilePath: Control | null;
+        /** Asks for the support folder and sets it up; patterns that are there are replaced. */
+        chooseLibraryDestination(sender: sender): null;
+        /** The same at the first start; patterns that are there are kept. */
+        setLibraryDestination(): null;
+        /** Shows the support folder's path and opens the preferences sheet. */
+        hCallPreferencesWw(sender: sender): null;
+    }
+
     /** Collects the input of the actions; called on the class. */
     export class cToolBox {
         constructor();
@@ -191,6 +218,53 @@ declare module "quorlin" {
         static hOpenDialogFiles(actionType: text): anything;
         /** The same for "EMM", "EMMDir", "sort", "rescale", "rename", "renameDir", "batchSortImages" and "sortDir". */
         static hOpenDialogFilesOC(actionType: text): anything;
+    }
+
+    /**
+     * The presets database. Lists of names and values have exactly 62 texts. Operations that open, create and insert throw an
+     * Error named InternalInconsistency when they fail: "Presets Db failed to open.", "Presets Table failed to create." or
+     * "Error updating table.". A value with a single quote always makes its statement fail.
+     */
+    export class dbViewController {
+        constructor();
+        /** Null while nothing is open. */
+        readonly myDb: Connection | null;
+        myPresetExist: text;
+        myPresetValueStr: text;
+        readonly myPresetsArray: sharedTexts;
+        readonly myPresetsArrayToPass: sharedTexts;
+        myEmptyArray: anything;
+        mySearchValue4: data;
+        setMyPresetValueStr(value: text): null;
+        /** Makes the folder, not the file. */
+        dbFilePath(): text;
+        openmyPresetsDb(): null;
+        /** On the open connection. */
+        createTableNamed(table: text, names: texts): null;
+        /** Leaves the connection open. */
+        insertRecordIntoTableNamed(table: text, names: texts, values: texts): null;
+        creatTableIfNotExist(): null;
+        /** Makes the file with its tables where there is none. */
+        linkToPresetsDB(): null;
+        insertSortingPresetToDB01(values: texts): null;
+        insertHTMLPresetToDB01(values: texts): null;
+        insertSortingPresetToDB02(values: texts): null;
+        /** The sample row; leaves the connection open. */
+        insertSortingPresetToDB(): null;
+        getAllRowsFromTableNamed(table: text): null;
+        /** Field 0 of the last row that matches, else the last result. */
+        checkPresetNameFromTableNamed(table: text, column: text, value: text): text;
+        /** The rows that match, each as 62 fields with "|" between them. */
+        checkForActionType(table: text, column: text, value: text): sharedTexts;
+        /** "preset not found" for an invalid statement, else the last result. */
+        removePresetFromDatabase(table: text, column: text, value: text): text;
+        hSaveSecurityScopedBookmarks(data: data): null;
+        /** The second of the selected columns in the last row that matches, else the last result. */
+        hGetBookMarkedFolders(
+            table: text, columnA: text, valueA: text, columnB: text, valueB: text, selected: text): data;
+        /** On the open connection. */
+        SaveImagesToSql(image: data, url: text): null;
+        LoadImagesFromSql(url: text): data;
     }
 
     /** The controller of the main window's content. */

@@ -2,6 +2,7 @@
 
 #include "app/MyObjectControler.h"
 #include "app/ZtFFullScreen.h"
+#include "app/cSheetControl.h"
 #include "app/mainViewController.h"
 #include "app/mainWindowClass.h"
 #include "app/script/picture_object.h"
@@ -9,6 +10,8 @@
 #include "files/cToolBox.h"
 #include "image/ZtImageHandling.h"
 #include "platform/desktop/stand_ins.h"
+#include "presets/Ztbookmarks.h"
+#include "presets/dbViewController.h"
 #include "views/my2ndPhotoView.h"
 #include "views/myMainPhotoView.h"
 
@@ -39,7 +42,10 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<MyObjectControler>(),
         serviceEntry<ZtFFullScreen>(),
         serviceEntry<ZtImageHandling>(),
+        serviceEntry<Ztbookmarks>(),
+        serviceEntry<cSheetControl>(),
         serviceEntry<cToolBox>(),
+        serviceEntry<dbViewController>(),
         serviceEntry<mainViewController>(),
         serviceEntry<mainWindowClass>(),
         serviceEntry<my2ndPhotoView>(),

@@ -2,8 +2,10 @@
 
 #include "platform/foundation/flag.h"
 #include "platform/foundation/sender.h"
+#include "platform/foundation/shared_texts.h"
 #include "platform/graphics/picture.h"
 #include "platform/imageio/image_source.h"
+#include "presets/database.h"
 
 #include <QDateTime>
 #include <QJSValue>
@@ -39,6 +41,7 @@ const QHash<int, Kind> &kindsById()
         {QMetaType::QVariantList, Kind::List},
         {QMetaType::QStringList, Kind::TextList},
         {idOf<QJSValue>(), Kind::SharedList},
+        {idOf<platform::SharedTexts>(), Kind::SharedTexts},
         {QMetaType::QByteArray, Kind::Data},
         {QMetaType::QDateTime, Kind::Date},
         {QMetaType::QUrl, Kind::Location},
@@ -48,6 +51,7 @@ const QHash<int, Kind> &kindsById()
         {idOf<platform::Bitmap>(), Kind::Opaque},
         {idOf<platform::BitmapHandle>(), Kind::Opaque},
         {idOf<platform::ImageSource>(), Kind::Opaque},
+        {idOf<presets::Connection>(), Kind::Opaque},
         {idOf<platform::Picture>(), Kind::Picture},
     };
     return kinds;

@@ -27,6 +27,7 @@ enum class Kind {
     List,        ///< QVariantList
     TextList,    ///< QStringList
     SharedList,  ///< QJSValue: the script's own array, which the operation may empty
+    SharedTexts, ///< platform::SharedTexts: always the same array, which a service may empty
     Data,        ///< QByteArray
     Date,        ///< QDateTime
     Location,    ///< QUrl

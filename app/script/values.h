@@ -8,6 +8,10 @@
 
 #include <functional>
 
+namespace platform {
+class SharedTexts;
+}
+
 namespace script {
 
 /** "a TextField", "an ArrayController". */
@@ -71,6 +75,7 @@ private:
     QJSValue otherToScript(const QVariant &value, Kind kind) const;
     QJSValue numbersToScript(const QStringList &keys, const QList<double> &numbers) const;
     QJSValue listToScript(const QVariantList &list) const;
+    QJSValue sharedTextsToScript(platform::SharedTexts texts) const;
     QJSValue textListToScript(const QStringList &list) const;
     QJSValue dictionaryToScript(const QVariantMap &map) const;
 

@@ -2,7 +2,9 @@
 #include "app/script/values.h"
 
 #include "platform/foundation/flag.h"
+#include "platform/foundation/shared_texts.h"
 #include "platform/imageio/image_source.h"
+#include "presets/database.h"
 
 #include <QDateTime>
 #include <QPointF>
@@ -26,7 +28,7 @@ template<typename T> bool isNull(const QVariant &value)
 bool isNullOpaque(const QVariant &value)
 {
     return isNull<platform::BitmapHandle>(value) || isNull<platform::Bitmap>(value) ||
-           isNull<platform::ImageSource>(value);
+           isNull<platform::ImageSource>(value) || isNull<presets::Connection>(value);
 }
 
 } // namespace
@@ -66,6 +68,8 @@ QJSValue Values::otherToScript(const QVariant &value, Kind kind) const
     switch (kind) {
     case Kind::SharedList:
         return value.value<QJSValue>().isUndefined() ? nothing() : value.value<QJSValue>();
+    case Kind::SharedTexts:
+        return sharedTextsToScript(value.value<platform::SharedTexts>());
     case Kind::Data:
         return value.toByteArray().isNull() ? nothing() : m_engine.toScriptValue(value.toByteArray());
     case Kind::Date:
@@ -128,6 +132,18 @@ QJSValue Values::textListToScript(const QStringList &list) const
     for (qsizetype i = 0; i < list.size(); ++i)
         array.setProperty(quint32(i), list.at(i).isNull() ? nothing() : QJSValue(list.at(i)));
     return array;
+}
+
+QJSValue Values::sharedTextsToScript(platform::SharedTexts texts) const
+{
+    if (texts.isNull())
+        return nothing();
+    if (!texts.form().isValid()) {
+        QJSValue array = textListToScript(texts.texts());
+        texts.setForm(QVariant::fromValue(array),
+                      [array]() mutable { array.setProperty(QStringLiteral("length"), 0); });
+    }
+    return texts.form().value<QJSValue>();
 }
 
 QJSValue Values::dictionaryToScript(const QVariantMap &map) const

@@ -41,6 +41,7 @@ QString wordOf(script::Kind kind, QMetaType type)
         {Kind::List, QStringLiteral("list")},
         {Kind::TextList, QStringLiteral("texts")},
         {Kind::SharedList, QStringLiteral("sharedList")},
+        {Kind::SharedTexts, QStringLiteral("sharedTexts")},
         {Kind::Data, QStringLiteral("data")},
         {Kind::Date, QStringLiteral("date")},
         {Kind::Location, QStringLiteral("location")},

@@ -1,0 +1,87 @@
+#include "presets/guard.h"
+
+#include "presets/names.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+namespace presets {
+namespace {
+
+bool isInternal(const QString &table)
+{
+    return isSameName(table.left(7), QStringLiteral("sqlite_"));
+}
+
+bool isRowNumber(const QString &column)
+{
+    return isSameName(column, QStringLiteral("rowid")) || isSameName(column, QStringLiteral("oid")) ||
+           isSameName(column, QStringLiteral("_rowid_"));
+}
+
+} // namespace
+
+void Guard::expect(const Statement &statement)
+{
+    m_statement = statement;
+    m_columnsRead.clear();
+    m_selects = 0;
+    m_isCompiling = true;
+}
+
+bool Guard::isOnTable(const Deed &deed) const
+{
+    return qstrcmp(deed.database, "main") == 0 && isSameName(QString::fromUtf8(deed.first), m_statement.table);
+}
+
+bool Guard::allowsReading(const Deed &deed)
+{
+    if (!isOnTable(deed))
+        return false;
+    m_columnsRead.insert(QString::fromUtf8(deed.second));
+    return true;
+}
+
+/** A new table is written down in the list of tables, and the first one with counted keys brings the list of counters. */
+bool Guard::allowsCreation(const Deed &deed) const
+{
+    if (qstrcmp(deed.database, "main") != 0)
+        return false;
+    if (deed.action == SQLITE_CREATE_TABLE)
+        return isOnTable(deed) || qstrcmp(deed.first, "sqlite_sequence") == 0;
+    const bool isListKeeping =
+        deed.action == SQLITE_INSERT || deed.action == SQLITE_UPDATE || deed.action == SQLITE_READ;
+    return isListKeeping && qstrcmp(deed.first, "sqlite_master") == 0;
+}
+
+bool Guard::allows(const Deed &deed)
+{
+    if (deed.trigger)
+        return false;
+    switch (m_statement.verb) {
+    case Verb::CreateTable:
+        return allowsCreation(deed);
+    case Verb::Insert:
+        return deed.action == SQLITE_INSERT && isOnTable(deed) && !isInternal(m_statement.table);
+    case Verb::Delete:
+        if (deed.action == SQLITE_DELETE)
+            return isOnTable(deed) && !isInternal(m_statement.table);
+        return deed.action == SQLITE_READ && allowsReading(deed);
+    case Verb::Select:
+        if (deed.action == SQLITE_SELECT)
+            return ++m_selects == 1 || !m_isCompiling;
+        return deed.action == SQLITE_READ && allowsReading(deed);
+    }
+    return false;
+}
+
+bool Guard::sawItsColumns() const
+{
+    return std::all_of(m_statement.columns.begin(), m_statement.columns.end(), [this](const QString &column) {
+        return isRowNumber(column) || std::any_of(m_columnsRead.begin(), m_columnsRead.end(),
+                                                  [&](const QString &read) { return isSameName(read, column); });
+    });
+}
+
+} // namespace presets

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "presets/statements.h"
+
+#include <QSet>
+
+namespace presets {
+
+/** One question of the database while it compiles a statement. Null pointers where a question has no such part. */
+struct Deed
+{
+    int action = 0;
+    const char *first = nullptr;    ///< mostly the table
+    const char *second = nullptr;   ///< mostly the column
+    const char *database = nullptr; ///< "main"
+    const char *trigger = nullptr;  ///< the trigger or view on whose behalf it is
+};
+
+/**
+ * Answers the database's questions about a statement: yes to exactly the deed that was meant, no to everything else, whatever
+ * the text has turned into. A statement that got a no fails to compile.
+ */
+class Guard
+{
+public:
+    /** From now on @p statement is the one that is meant. */
+    void expect(const Statement &statement);
+    /** Compiling is over. When the database compiles anew by itself, it may ask the same again. */
+    void endCompiling() { m_isCompiling = false; }
+
+    bool allows(const Deed &deed);
+
+    /** Whether the statement really read every column that it names, so that none was a word with a meaning of its own. */
+    bool sawItsColumns() const;
+
+private:
+    bool allowsCreation(const Deed &deed) const;
+    bool allowsReading(const Deed &deed);
+    bool isOnTable(const Deed &deed) const;
+
+    Statement m_statement;
+    QSet<QString> m_columnsRead;
+    int m_selects = 0;
+    bool m_isCompiling = false;
+};
+
+} // namespace presets
