@@ -1,52 +1,65 @@
 #include "app/window/compare_preview.h"
 
+#include "app/window/preview_paint.h"
 #include "app/window/theme.h"
 
-#include "platform/imageio/image_source.h"
-
 #include <QFocusEvent>
+#include <QJSEngine>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 namespace window {
 
 namespace {
 constexpr int marginPx = 32;
-constexpr int badgeMarginPx = 12;
-constexpr int badgeHeightPx = 22;
 constexpr int settleMs = 90;
 constexpr int nextPictureMs = 15;
 
-// A few widening, fainter frames: a soft shadow that costs nothing.
-void paintShadow(QPainter &painter, const QRectF &picture)
+QSize wholePixels(QSizeF size)
 {
-    for (int ring = 1; ring <= 7; ++ring) {
-        painter.setPen(QPen(QColor(0, 0, 0, 46 - 6 * ring), 1));
-        painter.drawRoundedRect(picture.adjusted(-ring + 0.5, -ring + 2.5, ring - 0.5, ring + 1.5), ring, ring);
-    }
+    return QSize(qRound(size.width()), qRound(size.height())).expandedTo({1, 1});
 }
 } // namespace
 
-ComparePreview::ComparePreview(QWidget *parent) : QWidget(parent)
+/** Stands for the scroll view around a view: its content is the place that the preview has given it. */
+struct ComparePreview::Host : views::ViewHost
+{
+    explicit Host(QWidget &shown) : widget(shown) {}
+    std::optional<QSizeF> scrollContentSize() const override { return content; }
+    void requestRedisplay() override { widget.update(); }
+    void requestLayout() override {}
+
+    QWidget &widget;
+    QSizeF content = QSizeF(0, 0); ///< in pixels of the screen
+};
+
+ComparePreview::ComparePreview(QWidget *parent)
+    : QWidget(parent), m_mainHost(std::make_unique<Host>(*this)), m_cropHost(std::make_unique<Host>(*this))
 {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    m_mainView.attach(m_mainHost.get());
+    m_cropView.attach(m_cropHost.get());
+    m_mainView.awakeFromNib();
+    m_cropView.awakeFromNib();
     m_settled.setSingleShot(true);
+    m_asked.setSingleShot(true);
     connect(&m_settled, &QTimer::timeout, this, &ComparePreview::load);
+    connect(&m_asked, &QTimer::timeout, this, &ComparePreview::render);
 }
+
+ComparePreview::~ComparePreview() = default;
 
 void ComparePreview::setFill(bool fill)
 {
     m_fill = fill;
     m_settled.start(0);
-    update();
 }
 
 void ComparePreview::setShowsResult(bool shows)
 {
     m_showsResult = shows;
-    update();
+    m_settled.start(0);
 }
 
 void ComparePreview::showPicture(const QString &path)
@@ -59,18 +72,28 @@ void ComparePreview::showPicture(const QString &path)
 
 void ComparePreview::reload()
 {
-    m_pixels = {};
+    m_isStale = true;
     m_settled.start(nextPictureMs);
+}
+
+void ComparePreview::showResult(const QVariantMap &result)
+{
+    const auto deeds = deedsFrom(result.value(QStringLiteral("deeds")).toList());
+    if (!deeds) {
+        if (QJSEngine *engine = qjsEngine(this))
+            engine->throwError(QJSValue::TypeError, deeds.error().message);
+        return;
+    }
+    const QSize size(result.value(QStringLiteral("width")).toInt(), result.value(QStringLiteral("height")).toInt());
+    m_wanted = {*deeds, {}, size, result.value(QStringLiteral("message")).toString()};
+    m_asked.start(0);
 }
 
 void ComparePreview::showResult(double left, double top, double width, double height, int pixelsWide, int pixelsHigh,
                                 const QString &message)
 {
-    m_part = QRectF(left, top, width, height);
-    m_resultPixels = QSize(pixelsWide, pixelsHigh);
-    m_resultMessage = message;
-    m_scaledResult = {};
-    update();
+    m_wanted = {{}, QRectF(left, top, width, height), QSize(pixelsWide, pixelsHigh), message};
+    m_asked.start(0);
 }
 
 void ComparePreview::setTitles(const QString &original, const QString &result)
@@ -88,10 +111,30 @@ void ComparePreview::setCaptions(const QString &original, const QString &result)
     update();
 }
 
+void ComparePreview::setNotes(const QString &notes)
+{
+    m_notes = notes;
+    describe();
+    update();
+}
+
 void ComparePreview::describe()
 {
     setAccessibleDescription(m_originalTitle + QStringLiteral(": ") + m_originalCaption + QStringLiteral(". ") +
-                             m_resultTitle + QStringLiteral(": ") + m_resultCaption);
+                             m_resultTitle + QStringLiteral(": ") + m_resultCaption + QStringLiteral(". ") + m_notes);
+}
+
+void ComparePreview::coverParent()
+{
+    parentWidget()->installEventFilter(this);
+    setGeometry(parentWidget()->rect());
+}
+
+bool ComparePreview::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Resize)
+        setGeometry(parentWidget()->rect());
+    return QWidget::eventFilter(watched, event);
 }
 
 QRect ComparePreview::originalArea() const
@@ -112,118 +155,165 @@ QSizeF ComparePreview::shownSize(QSize pixels, const QRect &area) const
         return {};
     if (m_fill)
         return own.scaled(area.size(), Qt::KeepAspectRatioByExpanding);
-    const QSizeF room = QSizeF(area.size()) - QSizeF(2 * marginPx, 2 * marginPx + badgeHeightPx);
-    return own.width() <= room.width() && own.height() <= room.height() ? own : own.scaled(room, Qt::KeepAspectRatio);
+    const QSizeF room = QSizeF(area.size()) - QSizeF(2 * marginPx, 2 * (badgeMarginPx + 2 * badgeStepPx));
+    const QSizeF least = room.expandedTo({1, 1});
+    return own.width() <= least.width() && own.height() <= least.height() ? own
+                                                                          : own.scaled(least, Qt::KeepAspectRatio);
+}
+
+QRectF ComparePreview::pictureRect(QSize pixels, const QRect &area) const
+{
+    const qreal ratio = devicePixelRatioF();
+    const QSizeF shown = QSizeF(wholePixels(shownSize(pixels, area) * ratio)) / ratio;
+    const QPointF middle = QRectF(area).center();
+    return {QPointF(qRound((middle.x() - shown.width() / 2) * ratio) / ratio,
+                    qRound((middle.y() - shown.height() / 2) * ratio) / ratio),
+            shown};
+}
+
+void ComparePreview::openPicture()
+{
+    m_isStale = false;
+    m_problem.clear();
+    const platform::Picture opened = m_path.isEmpty() ? platform::Picture() : platform::Picture::opened(m_path);
+    m_picture = opened.withSize(QSizeF(opened.pixelSize()));
+    if (m_picture.isNull() && !m_path.isEmpty())
+        m_problem = tr("Not a readable picture");
 }
 
 void ComparePreview::load()
 {
-    m_problem.clear();
-    if (m_path.isEmpty()) {
-        m_image = {};
-        m_pixels = {};
-        return update();
+    if (m_isStale)
+        openPicture();
+    m_base = {};
+    if (!m_picture.isNull()) {
+        const QSize wanted =
+            wholePixels(pictureRect(m_picture.pixelSize(), originalArea()).size() * devicePixelRatioF());
+        m_base = m_picture.scaledTo(wanted.boundedTo(m_picture.pixelSize())).value_or(platform::Bitmap());
+        if (m_base.isNull())
+            m_problem = tr("This picture cannot be shown");
     }
-    const auto source = platform::ImageSource::open(m_path);
-    if (!source) {
-        m_image = {};
-        m_pixels = {};
-        m_problem = tr("Not a readable picture");
-        return update();
-    }
-    m_pixels = source->uprightSize();
-    const QSizeF shown = shownSize(m_pixels, originalArea()) * devicePixelRatioF();
-    const QSize wanted = QSize(qCeil(shown.width()), qCeil(shown.height())).boundedTo(m_pixels).expandedTo({1, 1});
-    const auto bitmap = source->decodeScaled(wanted);
-    m_image = bitmap ? bitmap->toScreenImage() : QImage();
-    if (m_image.isNull())
-        m_problem = tr("This picture cannot be shown");
-    m_scaledOriginal = {};
-    m_scaledResult = {};
-    update();
-    Q_EMIT pictureShown();
+    fitViews();
+    render();
+    if (!m_base.isNull())
+        Q_EMIT pictureShown();
 }
 
-QPixmap ComparePreview::scaledPart(const QRectF &part, QSize devicePixels) const
+/** Gives the view of the original its place, and the picture after that, so that it is fitted once. */
+void ComparePreview::fitViews()
 {
-    if (m_image.isNull() || devicePixels.isEmpty())
-        return {};
-    const QRectF inImage(part.x() * m_image.width(), part.y() * m_image.height(), part.width() * m_image.width(),
-                         part.height() * m_image.height());
-    const QImage piece = inImage.toAlignedRect() == m_image.rect() ? m_image : m_image.copy(inImage.toAlignedRect());
-    if (piece.size() == devicePixels)
-        return QPixmap::fromImage(piece);
-    return QPixmap::fromImage(piece.scaled(devicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = m_picture.pixelSize();
+    const QSizeF place = m_fill ? QSizeF(originalArea().size()) : pictureRect(pixels, originalArea()).size();
+    m_mainHost->content = m_base.isNull() ? QSizeF(0, 0) : QSizeF(wholePixels(place * ratio));
+    m_mainView.setProperty("pImageOrig", QVariant::fromValue(platform::Picture()));
+    m_mainView.setProperty("pImageToFit", !m_fill);
+    m_mainView.setFrame(QRectF(QPointF(0, 0), m_mainHost->content));
+    m_mainView.setProperty("pImageOrig", QVariant::fromValue(m_base.isNull() ? platform::Picture() : m_picture));
+    m_mainView.setImage(m_picture);
+}
+
+Deeds ComparePreview::wantedDeeds() const
+{
+    if (m_wanted.part.isEmpty())
+        return m_wanted.deeds;
+    const QSize full = m_picture.pixelSize();
+    const QRectF part(m_wanted.part.x() * full.width(), m_wanted.part.y() * full.height(),
+                      m_wanted.part.width() * full.width(), m_wanted.part.height() * full.height());
+    return {CutDeed{part.toRect()}, ScaleDeed{m_wanted.size}};
+}
+
+void ComparePreview::render()
+{
+    m_asked.stop();
+    m_result = {};
+    m_resultImage = {};
+    m_scaledResult = {};
+    m_resultProblem = m_wanted.message;
+    update();
+    if (m_base.isNull() || !m_showsResult || m_wanted.size.isEmpty())
+        return;
+    const auto made = done(wantedDeeds(), Rendition{m_base, m_picture.pixelSize()});
+    if (!made) {
+        m_resultProblem = made.error().message;
+        return;
+    }
+    m_result = *made;
+    m_resultImage = m_result.bitmap.toScreenImage();
+    Q_EMIT resultShown();
+}
+
+const QPixmap &ComparePreview::scaledResult(QSize devicePixels) const
+{
+    if (m_scaledResult.size() != devicePixels) {
+        const QImage scaled = m_resultImage.size() == devicePixels
+                                  ? m_resultImage
+                                  : m_resultImage.scaled(devicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        m_scaledResult = QPixmap::fromImage(scaled);
+    }
+    m_scaledResult.setDevicePixelRatio(devicePixelRatioF());
+    return m_scaledResult;
 }
 
 void ComparePreview::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const Half original{originalArea(), m_pixels, {0, 0, 1, 1}, m_originalTitle, m_originalCaption, m_problem};
-    paintHalf(painter, original, Theme::color(QStringLiteral("surround")), m_scaledOriginal);
-    if (!m_showsResult)
-        return;
-    const Half result{resultArea(),    m_problem.isEmpty() ? m_resultPixels : QSize(),
-                      m_part,          m_resultTitle,
-                      m_resultCaption, m_resultMessage};
-    paintHalf(painter, result, Theme::color(QStringLiteral("surroundResult")), m_scaledResult);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintOriginal(painter);
+    if (m_showsResult)
+        paintResult(painter);
 }
 
-void ComparePreview::paintHalf(QPainter &painter, const Half &half, const QColor &surround, QPixmap &scaled) const
+void ComparePreview::paintOriginal(QPainter &painter) const
 {
+    const QRect area = originalArea();
     painter.save();
-    painter.setClipRect(half.area);
-    painter.fillRect(half.area, surround);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QSizeF shown = shownSize(half.pixels, half.area);
-    if (!shown.isEmpty() && !m_image.isNull()) {
-        const qreal ratio = devicePixelRatioF();
-        const QSize device = (shown * ratio).toSize().expandedTo({1, 1});
-        if (scaled.size() != device)
-            scaled = scaledPart(half.part, device);
-        scaled.setDevicePixelRatio(ratio);
-        const QPointF middle = QRectF(half.area).center();
-        const QPointF corner(qRound((middle.x() - shown.width() / 2) * ratio) / ratio,
-                             qRound((middle.y() - shown.height() / 2) * ratio) / ratio);
-        paintShadow(painter, QRectF(corner, shown));
-        painter.drawPixmap(corner, scaled);
-    } else if (!half.message.isEmpty()) {
-        painter.setPen(Theme::color(QStringLiteral("badgeText")));
-        painter.drawText(half.area.adjusted(marginPx, 0, -marginPx, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                         half.message);
+    painter.setClipRect(area);
+    painter.fillRect(area, Theme::color(QStringLiteral("surround")));
+    if (m_base.isNull()) {
+        paintMessage(painter, area, m_problem);
+    } else {
+        const QRectF place = m_fill ? QRectF(area) : pictureRect(m_picture.pixelSize(), area);
+        paintShadow(painter, place);
+        if (m_base.hasAlpha())
+            paintCheckerboard(painter, place);
+        painter.save();
+        painter.translate(place.topLeft());
+        painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+        m_mainView.draw(painter, views::Medium::Screen);
+        painter.restore();
     }
-    paintBadge(painter, half.area, Qt::AlignLeft | Qt::AlignTop, half.title);
-    paintBadge(painter, half.area, Qt::AlignRight | Qt::AlignBottom, half.caption);
+    paintBadge(painter, area, Qt::TopLeftCorner, 0, m_originalTitle,
+               hasFocus() ? BadgeLook::Focused : BadgeLook::Plain);
+    paintBadge(painter, area, Qt::BottomRightCorner, 0, m_originalCaption);
     painter.restore();
 }
 
-void ComparePreview::paintBadge(QPainter &painter, const QRect &area, Qt::Alignment place, const QString &text) const
+void ComparePreview::paintResult(QPainter &painter) const
 {
-    if (text.isEmpty())
-        return;
-    QFont small = font();
-    small.setPixelSize(11);
-    const QFontMetrics metrics(small);
-    const int room = area.width() - 2 * badgeMarginPx - 20;
-    const QString fitting = metrics.elidedText(text, Qt::ElideRight, room);
-    QRect badge(0, 0, metrics.horizontalAdvance(fitting) + 20, badgeHeightPx);
-    if (place & Qt::AlignTop)
-        badge.moveTopLeft(area.topLeft() + QPoint(badgeMarginPx, badgeMarginPx));
-    else
-        badge.moveBottomRight(area.bottomRight() - QPoint(badgeMarginPx, badgeMarginPx - 1));
-    QColor ground = Theme::color(QStringLiteral("badge"));
-    ground.setAlpha(210);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ground);
-    painter.drawRoundedRect(badge, badgeHeightPx / 2.0, badgeHeightPx / 2.0);
-    if (hasFocus() && place & Qt::AlignTop) {
-        painter.setPen(QPen(Theme::color(QStringLiteral("accent")), 2));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(badge, badgeHeightPx / 2.0, badgeHeightPx / 2.0);
+    const QRect area = resultArea();
+    painter.save();
+    painter.setClipRect(area);
+    painter.fillRect(area, Theme::color(QStringLiteral("surroundResult")));
+    if (m_resultImage.isNull()) {
+        paintMessage(painter, area, m_problem.isEmpty() ? m_resultProblem : QString());
+    } else {
+        const QRectF place = pictureRect(m_wanted.size, area);
+        paintShadow(painter, place);
+        if (m_resultImage.hasAlphaChannel())
+            paintCheckerboard(painter, place);
+        painter.drawPixmap(place.topLeft(), scaledResult(wholePixels(place.size() * devicePixelRatioF())));
     }
+    paintBadge(painter, area, Qt::TopLeftCorner, 0, m_resultTitle);
+    paintBadge(painter, area, Qt::BottomRightCorner, m_notes.isEmpty() ? 0 : 1, m_resultCaption);
+    paintBadge(painter, area, Qt::BottomRightCorner, 0, m_notes);
+    painter.restore();
+}
+
+void ComparePreview::paintMessage(QPainter &painter, const QRect &area, const QString &message) const
+{
     painter.setPen(Theme::color(QStringLiteral("badgeText")));
-    painter.setFont(small);
-    painter.drawText(badge, Qt::AlignCenter, fitting);
+    painter.drawText(area.adjusted(marginPx, 0, -marginPx, 0), Qt::AlignCenter | Qt::TextWordWrap, message);
 }
 
 void ComparePreview::resizeEvent(QResizeEvent *event)

@@ -1,8 +1,14 @@
 #pragma once
 
+#include "app/window/preview_deeds.h"
+#include "platform/graphics/picture.h"
+#include "views/my2ndPhotoView.h"
+#include "views/myMainPhotoView.h"
+
 #include <QImage>
 #include <QPixmap>
 #include <QTimer>
+#include <QVariantMap>
 #include <QWidget>
 
 namespace window {
@@ -10,8 +16,9 @@ namespace window {
 /**
  * The current picture and, beside it, what the settings make of it, on a dark surround.
  *
- * One decode at the size of the view serves both halves. A picture is never shown larger than its own pixels with
- * "fit"; with "fill" it covers its half. Decoding starts from the event loop when the picture or the size has settled.
+ * The picture is decoded once for its size on the screen, from the event loop when picture and size have settled; what is
+ * decoded is kept. A result is made of it from the event loop too, and only the last one that was asked for. With "fit" a
+ * picture is never shown larger than its own pixels; with "fill" it covers its half.
  */
 class ComparePreview : public QWidget
 {
@@ -21,6 +28,7 @@ class ComparePreview : public QWidget
 
 public:
     explicit ComparePreview(QWidget *parent = nullptr);
+    ~ComparePreview() override;
 
     bool fill() const { return m_fill; }
     void setFill(bool fill);
@@ -32,13 +40,23 @@ public:
     /** Reads the file again, because it was written. */
     Q_INVOKABLE void reload();
     /**
-     * What the result half shows: the part @p left, @p top, @p width, @p height (0 to 1) of the upright original, at
-     * @p pixelsWide x @p pixelsHigh. A size of 0 shows @p message instead.
+     * What the result half shows.
+     *
+     * @param result  {deeds: list, see preview_deeds.h; width, height: pixels of the result; type: its type identifier;
+     *                quality: quality code, "" where the action has none; message: shown instead where width is 0}.
+     *                A deed that is not known is a TypeError.
      */
+    Q_INVOKABLE void showResult(const QVariantMap &result);
+    /** The part @p left, @p top, @p width, @p height (0 to 1) of the original at @p pixelsWide x @p pixelsHigh. */
     Q_INVOKABLE void showResult(double left, double top, double width, double height, int pixelsWide, int pixelsHigh,
                                 const QString &message);
     Q_INVOKABLE void setTitles(const QString &original, const QString &result);
     Q_INVOKABLE void setCaptions(const QString &original, const QString &result);
+    /** A second line under the result: what it will not hold. */
+    Q_INVOKABLE void setNotes(const QString &notes);
+
+    /** Covers the parent from now on, also when that changes its size. */
+    void coverParent();
 
     QSize sizeHint() const override { return {640, 360}; }
     QSize minimumSizeHint() const override { return {240, 120}; }
@@ -49,8 +67,11 @@ Q_SIGNALS:
     void closeRequested();
     /** A picture was decoded and is on the screen. */
     void pictureShown();
+    /** A result was made and is on the screen. */
+    void resultShown();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -60,41 +81,55 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    struct Half
+    struct Host;
+
+    /** What was asked for last. */
+    struct Wanted
     {
-        QRect area;
-        QSize pixels;
-        QRectF part; ///< of the original, 0 to 1
-        QString title;
-        QString caption;
+        Deeds deeds;
+        QRectF part; ///< of the original, 0 to 1, instead of deeds
+        QSize size;
         QString message;
     };
 
     void load();
+    void openPicture();
+    void fitViews();
+    void render();
+    Deeds wantedDeeds() const;
+    void describe();
     QRect originalArea() const;
     QRect resultArea() const;
     QSizeF shownSize(QSize pixels, const QRect &area) const;
-    void paintHalf(QPainter &painter, const Half &half, const QColor &surround, QPixmap &scaled) const;
-    void paintBadge(QPainter &painter, const QRect &area, Qt::Alignment place, const QString &text) const;
-    QPixmap scaledPart(const QRectF &part, QSize devicePixels) const;
-    void describe();
+    QRectF pictureRect(QSize pixels, const QRect &area) const;
+    void paintOriginal(QPainter &painter) const;
+    void paintResult(QPainter &painter) const;
+    void paintMessage(QPainter &painter, const QRect &area, const QString &message) const;
+    const QPixmap &scaledResult(QSize devicePixels) const;
 
     QString m_path;
-    QImage m_image;    ///< upright, at the size of the view or below
-    QSize m_pixels;    ///< of the file
-    QString m_problem; ///< in words, where the picture cannot be shown
+    platform::Picture m_picture; ///< one pixel a point
+    platform::Bitmap m_base;     ///< the picture at its size on the screen
+    bool m_isStale = false;      ///< the file is to be opened again
+    QString m_problem;           ///< in words, where the picture cannot be shown
+    std::unique_ptr<Host> m_mainHost;
+    std::unique_ptr<Host> m_cropHost;
+    myMainPhotoView m_mainView;
+    my2ndPhotoView m_cropView;
     QTimer m_settled;
+    QTimer m_asked;
     bool m_fill = false;
     bool m_showsResult = true;
-    QRectF m_part = {0, 0, 1, 1};
-    QSize m_resultPixels;
-    QString m_resultMessage;
+    Wanted m_wanted;
+    Rendition m_result;
+    QImage m_resultImage;
+    QString m_resultProblem;
+    mutable QPixmap m_scaledResult;
     QString m_originalTitle;
     QString m_resultTitle;
     QString m_originalCaption;
     QString m_resultCaption;
-    mutable QPixmap m_scaledOriginal;
-    mutable QPixmap m_scaledResult;
+    QString m_notes;
 };
 
 } // namespace window

@@ -84,6 +84,7 @@ QObject *Shell::largePreview(QObject *form)
     auto *preview = new ComparePreview(window->root());
     preview->setObjectName(QStringLiteral("largePreview"));
     preview->setShowsResult(false);
+    preview->coverParent();
     preview->hide();
     return owned(preview);
 }

@@ -143,10 +143,10 @@ Result<Bitmap> Picture::scaledTo(QSize pixels) const
 Result<Bitmap> Picture::decodedAt(QSize pixels) const
 {
     const ImageSource &source = m_contents->source;
-    const bool isJpeg = source.typeIdentifier() == QLatin1String("public.jpeg");
-    // A JPEG decoder gives steps of a half: the step is kept, and serves every smaller size as sharply.
-    if (isJpeg && covers(m_contents->reduced.size(), pixels))
+    if (covers(m_contents->reduced.size(), pixels))
         return m_contents->reduced;
+    // A JPEG decoder gives steps of a half: the step is kept, and serves every size below it as sharply.
+    const bool isJpeg = source.typeIdentifier() == QLatin1String("public.jpeg");
     const bool isBelowHalf = covers(m_contents->pixels / 2, pixels);
     Result<Bitmap> decoded = isJpeg && isBelowHalf ? source.decodeAtLeast(pixels) : source.decodeScaled(pixels);
     if (!decoded && decoded.error().code == ErrorCode::Unreadable)

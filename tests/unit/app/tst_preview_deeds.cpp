@@ -1,0 +1,289 @@
+#include "app/window/preview_deeds.h"
+#include "image/overlay.h"
+#include "image/round_corners.h"
+#include "image/turn.h"
+#include "platform/graphics/resample.h"
+#include "tests/support/test_pictures.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using platform::Bitmap;
+using window::Rendition;
+
+namespace {
+
+QVariantMap deed(const char *name, const QVariantMap &values = {})
+{
+    QVariantMap map = values;
+    map.insert(QStringLiteral("do"), QString::fromLatin1(name));
+    return map;
+}
+
+QVariantMap rect(int x, int y, int width, int height)
+{
+    return {{QStringLiteral("x"), x},
+            {QStringLiteral("y"), y},
+            {QStringLiteral("width"), width},
+            {QStringLiteral("height"), height}};
+}
+
+QVariantMap size(int width, int height)
+{
+    return {{QStringLiteral("width"), width}, {QStringLiteral("height"), height}};
+}
+
+QVariantMap one(const char *name, const QVariant &value)
+{
+    return {{QString::fromLatin1(name), value}};
+}
+
+QVariantMap corners(const char *shape, double radius, const char *color, double band)
+{
+    return {{QStringLiteral("shape"), QString::fromLatin1(shape)},
+            {QStringLiteral("radius"), radius},
+            {QStringLiteral("color"), QString::fromLatin1(color)},
+            {QStringLiteral("band"), band}};
+}
+
+/** The picture that is meant, and the same with @p factor times fewer pixels on each side. */
+Rendition small(const QImage &image, int factor)
+{
+    const Bitmap full = Bitmap::fromImage(image);
+    return {platform::resample(full, full.size() / factor).value(), full.size()};
+}
+
+Rendition whole(const QImage &image)
+{
+    const Bitmap full = Bitmap::fromImage(image);
+    return {full, full.size()};
+}
+
+Rendition made(const QVariantList &list, const Rendition &start)
+{
+    const auto deeds = window::deedsFrom(list);
+    if (!deeds)
+        qFatal("%s", qPrintable(deeds.error().message));
+    const auto result = window::done(*deeds, start);
+    if (!result)
+        qFatal("%s", qPrintable(result.error().message));
+    return *result;
+}
+
+/** Four quarters of one colour each: red, green, blue, yellow from the top left. */
+QImage quarters(int width, int height, int alpha = 255)
+{
+    QImage image(width, height, QImage::Format_RGBA8888);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const bool isRight = x >= width / 2;
+            const bool isLow = y >= height / 2;
+            QColor color = isLow ? (isRight ? Qt::yellow : Qt::blue) : (isRight ? Qt::green : Qt::red);
+            color.setAlpha(alpha);
+            image.setPixelColor(x, y, color);
+        }
+    return image;
+}
+
+using Pixel = std::array<int, 4>;
+
+} // namespace
+
+/** The deeds of the preview against the functions that write the files. */
+class TestPreviewDeeds : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusesWhatIsNoDeed_data();
+    void refusesWhatIsNoDeed();
+    void doesAtFullSizeWhatTheOperationsDo_data();
+    void doesAtFullSizeWhatTheOperationsDo();
+    void knowsTheSizeOfTheWholeResult_data();
+    void knowsTheSizeOfTheWholeResult();
+    void looksTheSameWithFewerPixels_data();
+    void looksTheSameWithFewerPixels();
+    void givesNoMorePixelsThanTheResultHas();
+    void laysAPatternAtItsScale();
+    void failsWhereNothingIsLeft();
+    void framesByTheSizeInPoints();
+};
+
+void TestPreviewDeeds::refusesWhatIsNoDeed_data()
+{
+    QTest::addColumn<QVariant>("entry");
+    QTest::newRow("no dictionary") << QVariant(3);
+    QTest::newRow("no name") << QVariant(QVariantMap());
+    QTest::newRow("another name") << QVariant(deed("sharpen"));
+    QTest::newRow("cut without a side") << QVariant(deed("cut", size(3, 4)));
+    QTest::newRow("a side as text") << QVariant(deed("cut", {{QStringLiteral("x"), 0},
+                                                             {QStringLiteral("y"), 0},
+                                                             {QStringLiteral("width"), QStringLiteral("3")},
+                                                             {QStringLiteral("height"), 4}}));
+    QTest::newRow("scale to nothing") << QVariant(deed("scale", size(0, 4)));
+    QTest::newRow("no axis") << QVariant(deed("flip", one("axis", QStringLiteral("both"))));
+    QTest::newRow("no number") << QVariant(deed("turn", one("degrees", qQNaN())));
+    QTest::newRow("no colour") << QVariant(deed("lay", one("color", QStringLiteral("#12"))));
+    QTest::newRow("no path") << QVariant(deed("pattern"));
+}
+
+void TestPreviewDeeds::refusesWhatIsNoDeed()
+{
+    QFETCH(QVariant, entry);
+    const auto deeds = window::deedsFrom({deed("frame"), entry});
+    QVERIFY(!deeds);
+    QVERIFY(!deeds.error().message.isEmpty());
+}
+
+void TestPreviewDeeds::doesAtFullSizeWhatTheOperationsDo_data()
+{
+    QTest::addColumn<QVariantList>("deeds");
+    QTest::addColumn<QImage>("expected");
+    const Bitmap start = Bitmap::fromImage(quarters(60, 40, 200));
+    const auto row = [](const char *name, const QVariantMap &entry, const platform::Result<Bitmap> &bitmap) {
+        QTest::newRow(name) << QVariantList{entry} << bitmap.value().toRawImage();
+    };
+    row("cut", deed("cut", rect(5, 6, 20, 30)), platform::cut(start, QRect(5, 6, 20, 30)));
+    row("cut outside", deed("cut", rect(-5, 30, 20, 30)), platform::cut(start, QRect(0, 30, 15, 10)));
+    row("scale", deed("scale", size(30, 20)), platform::resample(start, QSize(30, 20)));
+    row("flip", deed("flip", one("axis", QStringLiteral("horizontal"))), image::flipped(start, Qt::Horizontal));
+    row("flip down", deed("flip", one("axis", QStringLiteral("vertical"))), image::flipped(start, Qt::Vertical));
+    row("turn", deed("turn", one("degrees", 30)), image::turned(start, 30.0));
+    row("quarter", deed("turn", one("degrees", -90)), image::turned(start, -90.0));
+    row("lay", deed("lay", one("color", QStringLiteral("#102030"))),
+        image::laidOnColor(start, QColor(0x10, 0x20, 0x30)));
+    row("flatten", deed("flatten"), image::laidOnColor(start, Qt::black));
+    image::CornerOptions options;
+    options.radius = 12;
+    row("round", deed("round", corners("0", 12, "", 0)), image::roundCorners(start, options));
+    options.shape = image::CornerShape::Circle;
+    row("circle", deed("round", corners("1", 12, "", 0)), image::roundCorners(start, options));
+    options.shape = image::CornerShape::Ellipse;
+    options.background = image::CornerBackground{QColor(Qt::white), 3};
+    row("ellipse with a band", deed("round", corners("2", 12, "#ffffff", 3)), image::roundCorners(start, options));
+    row("frame", deed("frame"), image::withWhiteFrame(platform::Picture(start)).bitmap());
+}
+
+void TestPreviewDeeds::doesAtFullSizeWhatTheOperationsDo()
+{
+    QFETCH(QVariantList, deeds);
+    QFETCH(QImage, expected);
+    const Rendition result = made(deeds, whole(quarters(60, 40, 200)));
+    QCOMPARE(result.full, expected.size());
+    QCOMPARE(result.bitmap.toRawImage(), expected);
+}
+
+void TestPreviewDeeds::knowsTheSizeOfTheWholeResult_data()
+{
+    QTest::addColumn<QVariantList>("deeds");
+    QTest::addColumn<QSize>("full");
+    QTest::newRow("none") << QVariantList() << QSize(600, 400);
+    QTest::newRow("cut") << QVariantList{deed("cut", rect(13, 17, 101, 203))} << QSize(101, 203);
+    QTest::newRow("cut to one pixel") << QVariantList{deed("cut", rect(599, 399, 1, 1))} << QSize(1, 1);
+    QTest::newRow("enlarged") << QVariantList{deed("scale", size(60000, 40000))} << QSize(60000, 40000);
+    QTest::newRow("stretched") << QVariantList{deed("scale", size(10, 90000))} << QSize(10, 90000);
+    QTest::newRow("quarter") << QVariantList{deed("turn", one("degrees", 90))} << QSize(400, 600);
+    QTest::newRow("circle") << QVariantList{deed("round", corners("1", 0, "", 0))} << QSize(400, 400);
+    QTest::newRow("frame") << QVariantList{deed("frame")} << QSize(620, 420);
+    QTest::newRow("one after the other") << QVariantList{deed("turn", one("degrees", 90)),
+                                                         deed("cut", rect(0, 0, 300, 500)),
+                                                         deed("scale", size(150, 250)), deed("frame")}
+                                         << QSize(170, 270);
+}
+
+void TestPreviewDeeds::knowsTheSizeOfTheWholeResult()
+{
+    QFETCH(QVariantList, deeds);
+    QFETCH(QSize, full);
+    const Rendition result = made(deeds, small(quarters(600, 400), 8));
+    QCOMPARE(result.full, full);
+    QVERIFY(!result.bitmap.isNull());
+    QVERIFY(result.bitmap.width() <= full.width() && result.bitmap.height() <= full.height());
+    QVERIFY(qint64(result.bitmap.width()) * result.bitmap.height() < 1'000'000);
+}
+
+void TestPreviewDeeds::looksTheSameWithFewerPixels_data()
+{
+    QTest::addColumn<QVariantList>("deeds");
+    QTest::newRow("cut") << QVariantList{deed("cut", rect(200, 100, 250, 200))};
+    QTest::newRow("turn") << QVariantList{deed("turn", one("degrees", 20))};
+    QTest::newRow("flip and turn") << QVariantList{deed("flip", one("axis", QStringLiteral("horizontal"))),
+                                                   deed("turn", one("degrees", 270))};
+    QTest::newRow("round") << QVariantList{deed("round", corners("0", 120, "", 0))};
+    QTest::newRow("circle with a band") << QVariantList{deed("round", corners("1", 0, "#ff00ff", 40))};
+    QTest::newRow("frame") << QVariantList{deed("cut", rect(0, 0, 80, 80)), deed("frame")};
+    QTest::newRow("box") << QVariantList{deed("scale", size(300, 200)), deed("cut", rect(50, 0, 200, 200))};
+}
+
+void TestPreviewDeeds::looksTheSameWithFewerPixels()
+{
+    QFETCH(QVariantList, deeds);
+    const Rendition large = made(deeds, whole(quarters(600, 400)));
+    const Rendition reduced = made(deeds, small(quarters(600, 400), 4));
+    QCOMPARE(reduced.full, large.full);
+    const QImage a = platform::resample(large.bitmap, QSize(60, 60)).value().toScreenImage();
+    const QImage b = platform::resample(reduced.bitmap, QSize(60, 60)).value().toScreenImage();
+    int different = 0;
+    for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < 60; ++x) {
+            const QColor p = a.pixelColor(x, y);
+            const QColor q = b.pixelColor(x, y);
+            const bool isClear = p.alpha() < 8 && q.alpha() < 8;
+            const int most = std::max({std::abs(p.red() - q.red()), std::abs(p.green() - q.green()),
+                                       std::abs(p.blue() - q.blue()), std::abs(p.alpha() - q.alpha())});
+            different += !isClear && most > 40;
+        }
+    // What is left are edges, which fewer pixels place less exactly.
+    QVERIFY2(different < 60 * 60 / 12, qPrintable(QString::number(different)));
+}
+
+void TestPreviewDeeds::givesNoMorePixelsThanTheResultHas()
+{
+    const Rendition result = made({deed("scale", size(30, 20))}, small(quarters(600, 400), 2));
+    QCOMPARE(result.bitmap.size(), QSize(30, 20));
+    QCOMPARE(result.full, QSize(30, 20));
+    const Rendition enlarged = made({deed("scale", size(1200, 800))}, small(quarters(600, 400), 2));
+    QCOMPARE(enlarged.bitmap.size(), QSize(300, 200));
+}
+
+void TestPreviewDeeds::laysAPatternAtItsScale()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("tile.png"));
+    QVERIFY(quarters(80, 80).save(path));
+    const QVariantList deeds = {deed("pattern", one("path", path))};
+    QImage clear(320, 160, QImage::Format_RGBA8888);
+    clear.fill(Qt::transparent);
+    const Rendition result = made(deeds, small(clear, 4));
+    QCOMPARE(result.bitmap.size(), QSize(80, 40));
+    QCOMPARE(result.bitmap.pixel(4, 4), (Pixel{255, 0, 0, 255}));
+    QCOMPARE(result.bitmap.pixel(14, 4), (Pixel{0, 255, 0, 255}));
+    QCOMPARE(result.bitmap.pixel(24, 14), (Pixel{0, 0, 255, 255}));
+    const auto missing =
+        window::done(*window::deedsFrom({deed("pattern", one("path", folder.path()))}), small(clear, 4));
+    QVERIFY(!missing);
+}
+
+void TestPreviewDeeds::failsWhereNothingIsLeft()
+{
+    for (const QVariantMap &part : {rect(600, 0, 10, 10), rect(0, 0, 0, 10), rect(0, 0, -5, 10), rect(-9, 0, 5, 5)})
+        QVERIFY(!window::done(*window::deedsFrom({deed("cut", part)}), small(quarters(600, 400), 4)));
+}
+
+void TestPreviewDeeds::framesByTheSizeInPoints()
+{
+    // At 144 dots per inch the picture is drawn at half its pixels, in the bottom left of the frame.
+    QImage image = quarters(400, 400);
+    image.setDotsPerMeterX(qRound(144 / 0.0254));
+    image.setDotsPerMeterY(qRound(144 / 0.0254));
+    const Rendition result = made({deed("frame")}, small(image, 4));
+    QCOMPARE(result.full, QSize(420, 420));
+    QCOMPARE(result.bitmap.size(), QSize(105, 105));
+    QCOMPARE(result.bitmap.pixel(80, 80), (Pixel{255, 255, 255, 255}));
+    QCOMPARE(result.bitmap.pixel(8, 96), (Pixel{0, 0, 255, 255}));
+    QCOMPARE(result.bitmap.pixel(8, 60), (Pixel{255, 0, 0, 255}));
+    QCOMPARE(result.bitmap.pixel(8, 45), (Pixel{255, 255, 255, 255}));
+}
+
+QTEST_GUILESS_MAIN(TestPreviewDeeds)
+#include "tst_preview_deeds.moc"
