@@ -28,6 +28,12 @@ bool isMetadata(uchar marker, const QByteArray &payload)
     return marker == 0xed && payload.startsWith("Photoshop 3.0");
 }
 
+/** A small picture beside the JFIF segment, or an index of the pictures that follow in the file. */
+bool isBoundToThisFile(uchar marker, const QByteArray &payload)
+{
+    return (marker == 0xe0 && payload.startsWith("JFXX")) || (marker == 0xe2 && payload.startsWith("MPF"));
+}
+
 /** A block too large for one segment goes on in the next one, which then has no header of its own. */
 void takeExif(JpegSegments &segments, const QByteArray &block)
 {
@@ -41,6 +47,8 @@ void take(JpegSegments &segments, uchar marker, JpegSegments::Range range, const
 {
     if (isMetadata(marker, payload))
         segments.metadata.append(range);
+    if (isBoundToThisFile(marker, payload))
+        segments.bound.append(range);
     if (marker == 0xe1 && payload.startsWith(QByteArray("Exif\0\0", 6)))
         takeExif(segments, payload.mid(6));
     if (marker == 0xe0 && payload.startsWith("JFIF") && segments.insertAt == range.start)

@@ -23,6 +23,7 @@ struct JpegSegments
     QSize size;             ///< pixels as stored
     qsizetype insertAt = 0; ///< behind the JFIF segment, or behind the start of the image
     QList<Range> metadata;  ///< EXIF, XMP and Photoshop segments with their markers, in order
+    QList<Range> bound;     ///< segments that other pixels make wrong: a small picture, an index of pictures behind it
 };
 
 /** Reads the segments in front of the first scan. Never reads outside @p bytes. */

@@ -39,8 +39,8 @@ THIRD_PARTY = [
     (r"sqlite3\.h", "presets"), (r"tl/expected\.hpp", "platform"),
 ]
 LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "PkgConfig::CAIRO": "platform",
-                "PkgConfig::JPEG": "platform", "PkgConfig::PLIST": "platform", "PkgConfig::SQLITE": "presets",
-                "SQLite::SQLite3": "presets"}
+                "PkgConfig::JPEG": "platform", "PkgConfig::TURBOJPEG": "platform", "PkgConfig::PLIST": "platform",
+                "PkgConfig::SQLITE": "presets", "SQLite::SQLite3": "presets"}
 SYSTEM = re.compile(r"(sys|linux|netinet)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|signal|pwd|errno|time)\.h")
 STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits)\.h")
 
