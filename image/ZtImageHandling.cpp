@@ -3,6 +3,9 @@
 #include "image/output.h"
 #include "image/resize.h"
 #include "image/scaled_size.h"
+#include "image/turn.h"
+#include "image/turn_file.h"
+#include "platform/foundation/numbers.h"
 #include "platform/foundation/paths.h"
 #include "platform/foundation/type_identifiers.h"
 
@@ -159,6 +162,38 @@ QString ZtImageHandling::writeDrawn(const Target &target, const Result<Bitmap> &
     if (!drawn)
         return image::statusOk();
     return write(target, *drawn, isTiff(target.type) ? optionsFrom(imageCIImage) : EncodeOptions());
+}
+
+QString ZtImageHandling::hFlipHorizontalPicture(const QString &path, const QString &prefix)
+{
+    return turnAndWrite(path, prefix, image::Turning::flip(Qt::Horizontal));
+}
+
+QString ZtImageHandling::hFlipVerticalPicture(const QString &path, const QString &prefix)
+{
+    return turnAndWrite(path, prefix, image::Turning::flip(Qt::Vertical));
+}
+
+QString ZtImageHandling::hRotatePicture(const QString &path, const QString &prefix, const QVariant &angle)
+{
+    degrees = platform::floatValue(angle);
+    return turnAndWrite(path, prefix, image::Turning::by(degrees));
+}
+
+Picture ZtImageHandling::hRotatePictureBase(const Picture &picture, const QVariant &angle)
+{
+    wmAngle = platform::floatValue(angle);
+    return image::turned(picture, wmAngle).value_or(Picture());
+}
+
+QString ZtImageHandling::turnAndWrite(const QString &path, const QString &prefix, const image::Turning &turning)
+{
+    fileExtension = platform::pathExtension(path);
+    fileUTI = platform::typeIdentifierForExtension(fileExtension);
+    myFileType = fileUTI;
+    if (image::isNeverWritten(myFileType))
+        return image::statusNotSupported();
+    return image::turnFile(path, prefix + platform::lastPathComponent(path), myFileType, turning);
 }
 
 BitmapHandle ZtImageHandling::currentImage() const

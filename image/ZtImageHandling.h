@@ -9,6 +9,10 @@
 #include <QUrl>
 #include <QVariantMap>
 
+namespace image {
+struct Turning;
+}
+
 /**
  * The operations on pictures, one file at a time, as scripts call them.
  *
@@ -117,6 +121,24 @@ public:
     Q_INVOKABLE QString resizeImage2(const QString &path, quint32 width, quint32 height, int mode,
                                      const QString &prefix, const QVariant &type, const QString &qualityCode);
 
+    /**
+     * A copy with left and right in each other's places, in the source's own type and under its own name behind
+     * @p prefix. The stored pixels are turned; the orientation tag goes along. Null where there is no image.
+     */
+    Q_INVOKABLE QString hFlipHorizontalPicture(const QString &path, const QString &prefix);
+
+    /** The same with top and bottom in each other's places. */
+    Q_INVOKABLE QString hFlipVerticalPicture(const QString &path, const QString &prefix);
+
+    /**
+     * A copy turned counter-clockwise onto a canvas that just holds it, written as hFlipHorizontalPicture() does.
+     * @p angle is in degrees, a number or a text that begins with one; kept in degrees.
+     */
+    Q_INVOKABLE QString hRotatePicture(const QString &path, const QString &prefix, const QVariant &angle);
+
+    /** A picture turned counter-clockwise by @p angle, kept in wmAngle, transparent around it; null without one. */
+    Q_INVOKABLE platform::Picture hRotatePictureBase(const platform::Picture &picture, const QVariant &angle);
+
 private:
     /** Where a picture goes, less the extension, and how. */
     struct Target
@@ -126,6 +148,7 @@ private:
         QString qualityCode;
     };
 
+    QString turnAndWrite(const QString &path, const QString &prefix, const image::Turning &turning);
     platform::BitmapHandle currentImage() const;
     void setCurrentImage(const platform::BitmapHandle &imageRef);
     /** Sets the type variables; false where the type is recognised and never written. */

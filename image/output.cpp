@@ -1,5 +1,6 @@
 #include "image/output.h"
 
+#include "platform/foundation/atomic_file.h"
 #include "platform/foundation/log.h"
 #include "platform/foundation/paths.h"
 
@@ -22,6 +23,14 @@ const std::array<TypeExtension, 6> typeExtensions = {{
     {QLatin1String("public.jpeg"), QLatin1String(".jpg")},
     {QLatin1String("public.jp2"), QLatin1String(".jp2")},
 }};
+
+QString answerFor(const QString &path, const platform::Result<void> &written)
+{
+    if (written)
+        return statusOk();
+    platform::logLine(QStringLiteral("Failed to write image to ") + platform::locationText(path));
+    return statusFailed();
+}
 
 } // namespace
 
@@ -79,10 +88,12 @@ QString writeAnswering(const QString &path, const QString &type, const platform:
     const std::optional<platform::FileFormat> format = platform::fileFormatForType(type);
     if (!format)
         return statusFailed();
-    if (platform::writeImageFile(path, bitmap, *format, options))
-        return statusOk();
-    platform::logLine(QStringLiteral("Failed to write image to ") + platform::locationText(path));
-    return statusFailed();
+    return answerFor(path, platform::writeImageFile(path, bitmap, *format, options));
+}
+
+QString writeAnswering(const QString &path, const QByteArray &encoded)
+{
+    return answerFor(path, platform::replaceFile(path, encoded));
 }
 
 } // namespace image

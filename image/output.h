@@ -43,4 +43,7 @@ QString outputBase(const QString &prefix, const QString &sourcePath);
 QString writeAnswering(const QString &path, const QString &type, const platform::Bitmap &bitmap,
                        const platform::EncodeOptions &options);
 
+/** The same for a file that is encoded already: "OK", or "Failed" and the line in the log. */
+QString writeAnswering(const QString &path, const QByteArray &encoded);
+
 } // namespace image

@@ -78,10 +78,14 @@ Result<Bitmap> turned(const Bitmap &bitmap, double degrees)
     return platform::turned(bitmap, freeTurn(turnedBox(QSizeF(bitmap.size()), degrees), degrees));
 }
 
+platform::ExactTurn exactFlip(Qt::Orientation axis)
+{
+    return axis == Qt::Horizontal ? platform::ExactTurn::MirrorAcross : platform::ExactTurn::MirrorDown;
+}
+
 Result<Bitmap> flipped(const Bitmap &bitmap, Qt::Orientation axis)
 {
-    return platform::turned(bitmap, axis == Qt::Horizontal ? platform::ExactTurn::MirrorAcross
-                                                           : platform::ExactTurn::MirrorDown);
+    return platform::turned(bitmap, exactFlip(axis));
 }
 
 Result<Picture> turned(const Picture &picture, double degrees)

@@ -17,6 +17,9 @@ QSizeF turnedBox(QSizeF size, double degrees);
  */
 platform::Result<platform::Bitmap> turned(const platform::Bitmap &bitmap, double degrees);
 
+/** Qt::Horizontal lets left and right change places, Qt::Vertical top and bottom. */
+platform::ExactTurn exactFlip(Qt::Orientation axis);
+
 /** A bitmap with left and right, or top and bottom, in each other's places. Fails as turned() does. */
 platform::Result<platform::Bitmap> flipped(const platform::Bitmap &bitmap, Qt::Orientation axis);
 

@@ -186,6 +186,14 @@ declare module "quorlin" {
         resizeImage2(
             path: text, width: unsigned, height: unsigned, mode: whole, prefix: text, type: anything,
             qualityCode: text): text;
+        /** A copy under the source's own name, left and right swapped as stored; null where there is no image. */
+        hFlipHorizontalPicture(path: text, prefix: text): text;
+        /** The same, top and bottom swapped. */
+        hFlipVerticalPicture(path: text, prefix: text): text;
+        /** A copy turned counter-clockwise by degrees, as stored; the angle is a number or a text that begins with one. */
+        hRotatePicture(path: text, prefix: text, angle: anything): text;
+        /** A picture turned counter-clockwise, transparent around it; null without a picture. */
+        hRotatePictureBase(picture: Picture | null, angle: anything): Picture | null;
     }
 
     /** Turns a location into data that can be kept, and back in a later run. */

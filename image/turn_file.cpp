@@ -1,0 +1,81 @@
+#include "image/turn_file.h"
+
+#include "image/output.h"
+#include "image/turn.h"
+#include "platform/foundation/log.h"
+#include "platform/imageio/image_source.h"
+
+namespace image {
+namespace {
+
+using platform::Bitmap;
+using platform::EncodeOptions;
+using platform::ErrorCode;
+using platform::FileFormat;
+using platform::ImageSource;
+using platform::Result;
+
+QString noSource()
+{
+    platform::logText(QStringLiteral("Image source is NULL."));
+    return {};
+}
+
+QString noImage()
+{
+    platform::logText(QStringLiteral("Image not created from image source."));
+    return {};
+}
+
+bool isNoSource(const platform::Error &error)
+{
+    return error.code == ErrorCode::NotFound || error.code == ErrorCode::NotAPicture;
+}
+
+/** The stored pixels, turned. The pixels as they were are let go of before anything is encoded. */
+Result<Bitmap> turnedPixels(Bitmap stored, const Turning &turning)
+{
+    return turning.exact ? platform::turned(stored, *turning.exact) : turned(stored, turning.degrees);
+}
+
+EncodeOptions optionsFor(const ImageSource &source, std::optional<FileFormat> format)
+{
+    EncodeOptions options;
+    if (format == FileFormat::Jpeg || format == FileFormat::Tiff) {
+        options.metadata = source.metadata();
+        options.resolution = platform::WriteResolution::Yes;
+    }
+    return options;
+}
+
+} // namespace
+
+Turning Turning::flip(Qt::Orientation axis)
+{
+    return {exactFlip(axis), 0};
+}
+
+Turning Turning::by(double degrees)
+{
+    return {platform::exactTurn(degrees), degrees};
+}
+
+QString turnFile(const QString &sourcePath, const QString &targetPath, const QString &type, const Turning &turning)
+{
+    const Result<ImageSource> source = ImageSource::open(sourcePath);
+    if (!source)
+        return isNoSource(source.error()) ? noSource() : noImage();
+    const std::optional<FileFormat> format = platform::fileFormatForType(type);
+    if (turning.exact && format == FileFormat::Jpeg)
+        if (const std::optional<QByteArray> file = source->turnedWithoutLoss(*turning.exact))
+            return writeAnswering(targetPath, *file);
+    platform::DecodeOptions asStored;
+    asStored.orientation = platform::Orientation::AsStored;
+    Result<Bitmap> stored = source->decode(asStored);
+    if (!stored)
+        return noImage();
+    const Bitmap drawn = turnedPixels(std::move(*stored), turning).value_or(Bitmap());
+    return writeAnswering(targetPath, type, drawn, optionsFor(*source, format));
+}
+
+} // namespace image
