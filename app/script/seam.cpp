@@ -21,6 +21,8 @@ namespace {
 constexpr qint64 bytesBetweenCollections = 96'000'000;
 constexpr int valuesBetweenCollections = 64;
 
+constexpr const char *propertyOfEngine = "quorlinSeam";
+
 qint64 byteCount(const platform::Bitmap &bitmap)
 {
     const qint64 samples = bitmap.isNull() ? 0 : qint64(bitmap.width()) * bitmap.height() * bitmap.bandCount();
@@ -89,6 +91,7 @@ Location locationInStack(const QString &stack)
 
 Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engine), m_values(engine)
 {
+    engine.setProperty(propertyOfEngine, QVariant::fromValue<QObject *>(this));
     m_values.objectOf = [this](const QJSValue &value) { return objectOf(value); };
     m_values.facadeOf = [this](QObject *object) { return facadeOf(object, Owner::Application); };
     m_values.facadeOfNew = [this](QObject *object) { return facadeOf(object, Owner::Scripts); };
@@ -108,7 +111,13 @@ Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engi
     }
 }
 
+// The engine may be gone already.
 Seam::~Seam() = default;
+
+Seam *Seam::of(const QJSEngine *engine)
+{
+    return engine ? qobject_cast<Seam *>(engine->property(propertyOfEngine).value<QObject *>()) : nullptr;
+}
 
 QJSValue Seam::operationTable(ServiceClass &service)
 {

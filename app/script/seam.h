@@ -43,6 +43,9 @@ public:
     Seam(QJSEngine &engine, std::vector<ServiceEntry> entries);
     ~Seam() override;
 
+    /** The seam of an engine, which must not outlive it; null for an engine without one. */
+    static Seam *of(const QJSEngine *engine);
+
     /** What `import ... from "module"` gives. */
     QJSValue exportsOf(const QByteArray &module) const;
 

@@ -1,5 +1,6 @@
 #include "app/window/compare_preview.h"
 
+#include "app/window/preview_host.h"
 #include "app/window/preview_paint.h"
 #include "app/window/theme.h"
 
@@ -15,26 +16,11 @@ constexpr int marginPx = 32;
 constexpr int settleMs = 90;
 constexpr int nextPictureMs = 15;
 
-QSize wholePixels(QSizeF size)
-{
-    return QSize(qRound(size.width()), qRound(size.height())).expandedTo({1, 1});
-}
 } // namespace
 
-/** Stands for the scroll view around a view: its content is the place that the preview has given it. */
-struct ComparePreview::Host : views::ViewHost
-{
-    explicit Host(QWidget &shown) : widget(shown) {}
-    std::optional<QSizeF> scrollContentSize() const override { return content; }
-    void requestRedisplay() override { widget.update(); }
-    void requestLayout() override {}
-
-    QWidget &widget;
-    QSizeF content = QSizeF(0, 0); ///< in pixels of the screen
-};
-
 ComparePreview::ComparePreview(QWidget *parent)
-    : QWidget(parent), m_mainHost(std::make_unique<Host>(*this)), m_cropHost(std::make_unique<Host>(*this))
+    : QWidget(parent), m_mainHost(std::make_unique<PreviewHost>(*this)),
+      m_cropHost(std::make_unique<PreviewHost>(*this)), m_cropFrame(new CropFrameEditor(this))
 {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -42,6 +28,9 @@ ComparePreview::ComparePreview(QWidget *parent)
     m_cropView.attach(m_cropHost.get());
     m_mainView.awakeFromNib();
     m_cropView.awakeFromNib();
+    connect(m_cropFrame, &CropFrameEditor::edited, this, [this](const QRect &frame) {
+        Q_EMIT cropFrameEdited(frame.x(), frame.y(), frame.width(), frame.height());
+    });
     m_settled.setSingleShot(true);
     m_asked.setSingleShot(true);
     connect(&m_settled, &QTimer::timeout, this, &ComparePreview::load);
@@ -194,6 +183,7 @@ void ComparePreview::load()
             m_problem = tr("This picture cannot be shown");
     }
     fitViews();
+    placeCropFrame();
     render();
     if (!m_base.isNull())
         Q_EMIT pictureShown();
@@ -240,6 +230,8 @@ void ComparePreview::render()
     }
     m_result = *made;
     m_resultImage = m_result.bitmap.toScreenImage();
+    if (m_cropFrame->isShown())
+        showCropped();
     Q_EMIT resultShown();
 }
 
@@ -297,6 +289,8 @@ void ComparePreview::paintResult(QPainter &painter) const
     painter.fillRect(area, Theme::color(QStringLiteral("surroundResult")));
     if (m_resultImage.isNull()) {
         paintMessage(painter, area, m_problem.isEmpty() ? m_resultProblem : QString());
+    } else if (m_cropFrame->isShown()) {
+        paintCropped(painter);
     } else {
         const QRectF place = pictureRect(m_wanted.size, area);
         paintShadow(painter, place);

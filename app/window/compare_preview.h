@@ -1,17 +1,21 @@
 #pragma once
 
+#include "app/window/crop_frame_editor.h"
 #include "app/window/preview_deeds.h"
 #include "platform/graphics/picture.h"
 #include "views/my2ndPhotoView.h"
 #include "views/myMainPhotoView.h"
 
 #include <QImage>
+#include <QJSValue>
 #include <QPixmap>
 #include <QTimer>
 #include <QVariantMap>
 #include <QWidget>
 
 namespace window {
+
+struct PreviewHost;
 
 /**
  * The current picture and, beside it, what the settings make of it, on a dark surround.
@@ -55,6 +59,14 @@ public:
     /** A second line under the result: what it will not hold. */
     Q_INVOKABLE void setNotes(const QString &notes);
 
+    /**
+     * A frame on the original that can be moved and sized: {x, y, width, height: pixels of the upright original; ratio:
+     * width by height to keep, 0 for free}; null takes it away. Meanwhile the result is shown at the original's scale.
+     */
+    Q_INVOKABLE void setCropFrame(const QJSValue &frame);
+    /** A Picture that is drawn over the whole original, or null; it is seen where there is a crop frame. */
+    Q_INVOKABLE void setOverlay(const QJSValue &picture);
+
     /** Covers the parent from now on, also when that changes its size. */
     void coverParent();
 
@@ -69,6 +81,8 @@ Q_SIGNALS:
     void pictureShown();
     /** A result was made and is on the screen. */
     void resultShown();
+    /** The user moved or sized the crop frame; pixels of the upright original. */
+    void cropFrameEdited(int x, int y, int width, int height);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -81,8 +95,6 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    struct Host;
-
     /** What was asked for last. */
     struct Wanted
     {
@@ -96,6 +108,11 @@ private:
     void openPicture();
     void fitViews();
     void render();
+    void placeCropFrame();
+    void prepareOverlay();
+    void showCropped();
+    QRectF croppedRect() const;
+    void paintCropped(QPainter &painter) const;
     Deeds wantedDeeds() const;
     void describe();
     QRect originalArea() const;
@@ -112,10 +129,12 @@ private:
     platform::Bitmap m_base;     ///< the picture at its size on the screen
     bool m_isStale = false;      ///< the file is to be opened again
     QString m_problem;           ///< in words, where the picture cannot be shown
-    std::unique_ptr<Host> m_mainHost;
-    std::unique_ptr<Host> m_cropHost;
+    std::unique_ptr<PreviewHost> m_mainHost;
+    std::unique_ptr<PreviewHost> m_cropHost;
     myMainPhotoView m_mainView;
     my2ndPhotoView m_cropView;
+    CropFrameEditor *m_cropFrame;
+    platform::Picture m_overlay;
     QTimer m_settled;
     QTimer m_asked;
     bool m_fill = false;

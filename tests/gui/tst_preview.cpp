@@ -1,0 +1,412 @@
+#include "app/script/ScriptEngine.h"
+#include "app/script/picture_object.h"
+#include "app/script/registry.h"
+#include "app/script/seam.h"
+#include "app/window/compare_preview.h"
+#include "platform/desktop/user_defaults.h"
+#include "tests/support/test_pictures.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QQmlEngine>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using window::ComparePreview;
+using window::CropFrameEditor;
+
+namespace {
+
+QVariantMap cut(const QRect &part)
+{
+    return {{QStringLiteral("do"), QStringLiteral("cut")},
+            {QStringLiteral("x"), part.x()},
+            {QStringLiteral("y"), part.y()},
+            {QStringLiteral("width"), part.width()},
+            {QStringLiteral("height"), part.height()}};
+}
+
+QVariantMap turn(double degrees)
+{
+    return {{QStringLiteral("do"), QStringLiteral("turn")}, {QStringLiteral("degrees"), degrees}};
+}
+
+QVariantMap wanted(const QVariantList &deeds, QSize size, const char *message = "")
+{
+    return {{QStringLiteral("deeds"), deeds},
+            {QStringLiteral("width"), size.width()},
+            {QStringLiteral("height"), size.height()},
+            {QStringLiteral("message"), QString::fromLatin1(message)}};
+}
+
+} // namespace
+
+/** The preview of the window: what it shows, and how the frame on it is worked. */
+class TestPreview : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup() { m_preview.reset(); }
+    void showsTheOriginalAndTheResult();
+    void showsNoPictureLargerThanItIs();
+    void fillsItsHalf();
+    void saysWhatIsWrong();
+    void refusesAnUnknownDeed();
+    void makesOnlyTheLastResultThatWasAskedFor();
+    void laysTransparentResultsOnALightPattern();
+    void showsACropAtTheScaleOfTheOriginal();
+    void movesTheFrameWithTheMouse();
+    void sizesTheFrameWithTheMouse();
+    void keepsTheRatioOfTheFrameWithShift();
+    void worksTheFrameWithTheKeyboard();
+    void leavesTheArrowKeysToTheListWithoutTheFrame();
+    void showsTheOverlayUntilTheFrameMoves();
+    void dimsWhatIsCutAway();
+    void coversItsParent();
+    void followsChangesOfALargePhoto();
+
+private:
+    QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+    bool show(const char *name);
+    bool showResult(const QVariantMap &result);
+    QColor at(const QPoint &point) { return m_preview->grab().toImage().pixelColor(point); }
+    QPoint middleOfOriginal() const { return {m_preview->width() / 4, m_preview->height() / 2}; }
+    QPoint middleOfResult() const { return {m_preview->width() * 3 / 4, m_preview->height() / 2}; }
+    CropFrameEditor &cropFrame() { return *m_preview->findChild<CropFrameEditor *>(QStringLiteral("cropFrame")); }
+    QJSValue value(const QString &text) { return m_scripts->engine().evaluate(text); }
+    void setCropFrame(const QRect &frame, double ratio = 0);
+    void drag(const QPointF &from, const QPoint &by, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<script::ScriptEngine> m_scripts;
+    std::unique_ptr<ComparePreview> m_preview;
+};
+
+void TestPreview::initTestCase()
+{
+    QImage halves = pictures::plain(600, 400, Qt::red, QImage::Format_RGB888);
+    for (int y = 0; y < 400; ++y)
+        for (int x = 300; x < 600; ++x)
+            halves.setPixelColor(x, y, Qt::blue);
+    QVERIFY(halves.save(path("halves.png")));
+    QVERIFY(pictures::plain(20, 10, Qt::green).save(path("small.png")));
+    QVERIFY(pictures::plain(100, 100, QColor(0, 0, 0, 0)).save(path("clear.png")));
+    m_scripts = std::make_unique<script::ScriptEngine>(script::registeredServices());
+}
+
+void TestPreview::init()
+{
+    platform::removeUserDefault(QStringLiteral("myBounds"));
+    m_preview = std::make_unique<ComparePreview>();
+    m_preview->resize(800, 400);
+    m_preview->show();
+    QQmlEngine::setObjectOwnership(m_preview.get(), QQmlEngine::CppOwnership);
+    m_scripts->engine().globalObject().setProperty(QStringLiteral("preview"),
+                                                   m_scripts->engine().newQObject(m_preview.get()));
+}
+
+bool TestPreview::show(const char *name)
+{
+    QSignalSpy shown(m_preview.get(), &ComparePreview::pictureShown);
+    m_preview->showPicture(path(name));
+    return shown.wait(5000);
+}
+
+bool TestPreview::showResult(const QVariantMap &result)
+{
+    QSignalSpy shown(m_preview.get(), &ComparePreview::resultShown);
+    m_preview->showResult(result);
+    return shown.wait(5000);
+}
+
+void TestPreview::setCropFrame(const QRect &frame, double ratio)
+{
+    m_preview->setCropFrame(value(QStringLiteral("({ x: %1, y: %2, width: %3, height: %4, ratio: %5 })")
+                                      .arg(frame.x())
+                                      .arg(frame.y())
+                                      .arg(frame.width())
+                                      .arg(frame.height())
+                                      .arg(ratio)));
+}
+
+void TestPreview::drag(const QPointF &from, const QPoint &by, Qt::KeyboardModifiers modifiers)
+{
+    const QPoint start = from.toPoint();
+    QTest::mousePress(&cropFrame(), Qt::LeftButton, modifiers, start);
+    for (int step = 1; step <= 4; ++step) {
+        const QPointF to = start + QPointF(by) * step / 4;
+        QMouseEvent move(QEvent::MouseMove, to, cropFrame().mapToGlobal(to), Qt::NoButton, Qt::LeftButton, modifiers);
+        QCoreApplication::sendEvent(&cropFrame(), &move);
+    }
+    QTest::mouseRelease(&cropFrame(), Qt::LeftButton, modifiers, start + by);
+}
+
+void TestPreview::showsTheOriginalAndTheResult()
+{
+    QVERIFY(show("halves.png"));
+    QVERIFY(showResult(wanted({cut(QRect(300, 0, 300, 400))}, QSize(300, 400))));
+    QCOMPARE(at(middleOfOriginal() - QPoint(20, 0)), QColor(Qt::red));
+    QCOMPARE(at(middleOfOriginal() + QPoint(20, 0)), QColor(Qt::blue));
+    QCOMPARE(at(middleOfResult()), QColor(Qt::blue));
+}
+
+void TestPreview::showsNoPictureLargerThanItIs()
+{
+    QVERIFY(show("small.png"));
+    QVERIFY(showResult(wanted({}, QSize(20, 10))));
+    for (const QPoint &middle : {middleOfOriginal(), middleOfResult()}) {
+        QCOMPARE(at(middle + QPoint(9, 4)), QColor(Qt::green));
+        QVERIFY(at(middle + QPoint(12, 0)) != QColor(Qt::green));
+    }
+}
+
+void TestPreview::fillsItsHalf()
+{
+    QVERIFY(show("small.png"));
+    QSignalSpy shown(m_preview.get(), &ComparePreview::pictureShown);
+    m_preview->setFill(true);
+    QVERIFY(shown.wait(5000));
+    QCOMPARE(at(QPoint(200, 60)), QColor(Qt::green));
+    QCOMPARE(at(QPoint(3, 200)), QColor(Qt::green));
+}
+
+void TestPreview::saysWhatIsWrong()
+{
+    QVERIFY(show("halves.png"));
+    m_preview->showResult(wanted({}, QSize(), "cannot be made"));
+    QTRY_VERIFY(at(middleOfResult()) != QColor(Qt::blue));
+    m_preview->setTitles(QStringLiteral("Original"), QStringLiteral("Result"));
+    m_preview->setCaptions(QStringLiteral("600 px"), QStringLiteral("300 px"));
+    m_preview->setNotes(QStringLiteral("the profile is not kept"));
+    QVERIFY(m_preview->accessibleDescription().contains(QStringLiteral("the profile is not kept")));
+}
+
+void TestPreview::refusesAnUnknownDeed()
+{
+    const QJSValue error = value(QStringLiteral(
+        "(() => { try { preview.showResult({ deeds: [{ do: 'melt' }], width: 1, height: 1 }); return 'none'; }"
+        "catch (e) { return e.name + ': ' + e.message; } })()"));
+    QCOMPARE(error.toString(), QStringLiteral("TypeError: Expected a deed of the preview but received \"melt\""));
+    const QJSValue fine = value(QStringLiteral(
+        "preview.showResult({ deeds: [{ do: 'turn', degrees: 90 }, { do: 'flip', axis: 'vertical' }, { do: 'round', "
+        "shape: '0', radius: 5, color: '', band: 0 }, { do: 'cut', x: 0, y: 0, width: 9, height: 9 }], width: 9, "
+        "height: 9, type: 'public.png', quality: '', message: '' })"));
+    QVERIFY2(!fine.isError(), qPrintable(fine.toString()));
+}
+
+void TestPreview::makesOnlyTheLastResultThatWasAskedFor()
+{
+    QVERIFY(show("halves.png"));
+    QSignalSpy shown(m_preview.get(), &ComparePreview::resultShown);
+    for (int degrees = 1; degrees < 90; ++degrees)
+        m_preview->showResult(wanted({turn(degrees)}, QSize(100, 100)));
+    m_preview->showResult(wanted({cut(QRect(0, 0, 200, 200))}, QSize(200, 200)));
+    QVERIFY(shown.wait(5000));
+    QTest::qWait(50);
+    QCOMPARE(shown.size(), 1);
+    QCOMPARE(at(middleOfResult()), QColor(Qt::red));
+}
+
+void TestPreview::laysTransparentResultsOnALightPattern()
+{
+    QVERIFY(show("clear.png"));
+    QVERIFY(showResult(wanted({}, QSize(100, 100))));
+    QVERIFY(at(middleOfResult()).lightness() > 200);
+    QVERIFY(at(middleOfOriginal()).lightness() > 200);
+    QVERIFY(at(middleOfResult()) != at(middleOfResult() + QPoint(8, 0)));
+}
+
+void TestPreview::showsACropAtTheScaleOfTheOriginal()
+{
+    QVERIFY(show("halves.png"));
+    setCropFrame(QRect(300, 100, 150, 200));
+    QVERIFY(showResult(wanted({cut(QRect(300, 100, 150, 200))}, QSize(150, 200))));
+    const double scale = cropFrame().shownFrame().width() / 150;
+    QVERIFY(scale < 1);
+    const int half = int(75 * scale);
+    QCOMPARE(at(middleOfResult() + QPoint(half - 2, 0)), QColor(Qt::blue));
+    QCOMPARE(at(middleOfResult() - QPoint(half - 2, 0)), QColor(Qt::blue));
+    QVERIFY(at(middleOfResult() + QPoint(half + 3, 0)) != QColor(Qt::blue));
+    QSignalSpy shown(m_preview.get(), &ComparePreview::resultShown);
+    m_preview->setCropFrame(QJSValue(QJSValue::NullValue));
+    QVERIFY(shown.wait(5000));
+    QCOMPARE(at(middleOfResult() + QPoint(half + 3, 0)), QColor(Qt::blue));
+}
+
+void TestPreview::movesTheFrameWithTheMouse()
+{
+    QVERIFY(show("halves.png"));
+    setCropFrame(QRect(100, 100, 200, 200));
+    QSignalSpy edited(m_preview.get(), &ComparePreview::cropFrameEdited);
+    const QRectF shown = cropFrame().shownFrame();
+    const double scale = 200 / shown.width();
+    drag(shown.center() + QPointF(12, 15), QPoint(20, -10));
+    QVERIFY(edited.size() >= 2);
+    const QRect frame = cropFrame().frame();
+    QCOMPARE(edited.last(), (QVariantList{frame.x(), frame.y(), 200, 200}));
+    QVERIFY(std::abs(frame.x() - (100 + 20 * scale)) <= 1.5);
+    QVERIFY(std::abs(frame.y() - (100 - 10 * scale)) <= 1.5);
+    drag(cropFrame().shownFrame().center() + QPointF(12, 15), QPoint(-2000, -2000));
+    QCOMPARE(cropFrame().frame(), QRect(0, 0, 200, 200));
+}
+
+void TestPreview::sizesTheFrameWithTheMouse()
+{
+    QVERIFY(show("halves.png"));
+    setCropFrame(QRect(100, 100, 200, 200));
+    const QRectF shown = cropFrame().shownFrame();
+    drag(shown.bottomRight(), QPoint(2000, 2000));
+    QCOMPARE(cropFrame().frame(), QRect(100, 100, 500, 300));
+    setCropFrame(QRect(100, 100, 200, 200), 1);
+    drag(shown.bottomRight(), QPoint(2000, 0));
+    QCOMPARE(cropFrame().frame(), QRect(100, 100, 300, 300));
+    QSignalSpy edited(m_preview.get(), &ComparePreview::cropFrameEdited);
+    setCropFrame(QRect(300, 200, 60, 40));
+    drag(QPointF(2, 2), QPoint(50, 50)); // beside the frame
+    QCOMPARE(edited.size(), 0);
+    QCOMPARE(cropFrame().frame(), QRect(300, 200, 60, 40));
+}
+
+void TestPreview::keepsTheRatioOfTheFrameWithShift()
+{
+    QVERIFY(show("halves.png"));
+    setCropFrame(QRect(100, 100, 100, 50));
+    drag(cropFrame().shownFrame().bottomRight(), QPoint(60, 3), Qt::ShiftModifier);
+    const QRect frame = cropFrame().frame();
+    QVERIFY(frame.width() > 150);
+    QVERIFY(std::abs(frame.width() - 2 * frame.height()) <= 1);
+}
+
+void TestPreview::worksTheFrameWithTheKeyboard()
+{
+    QVERIFY(show("halves.png"));
+    setCropFrame(QRect(100, 100, 200, 200));
+    QCOMPARE(cropFrame().accessibleName(), QStringLiteral("Crop frame"));
+    QCOMPARE(cropFrame().accessibleDescription(),
+             QStringLiteral("200 by 200 pixels, 100 from the left, 100 from the top"));
+    cropFrame().setFocus();
+    QSignalSpy edited(m_preview.get(), &ComparePreview::cropFrameEdited);
+    QSignalSpy stepped(m_preview.get(), &ComparePreview::stepRequested);
+    QTest::keyClick(&cropFrame(), Qt::Key_Right);
+    QTest::keyClick(&cropFrame(), Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(&cropFrame(), Qt::Key_Left, Qt::AltModifier);
+    QTest::keyClick(&cropFrame(), Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(cropFrame().frame(), QRect(101, 110, 199, 190));
+    QCOMPARE(edited.size(), 4);
+    QCOMPARE(stepped.size(), 0);
+    QVERIFY(cropFrame().accessibleDescription().startsWith(QStringLiteral("199 by 190")));
+}
+
+void TestPreview::leavesTheArrowKeysToTheListWithoutTheFrame()
+{
+    QVERIFY(show("halves.png"));
+    setCropFrame(QRect(100, 100, 200, 200));
+    QSignalSpy stepped(m_preview.get(), &ComparePreview::stepRequested);
+    QSignalSpy large(m_preview.get(), &ComparePreview::largePreviewRequested);
+    QTest::keyClick(m_preview.get(), Qt::Key_Right);
+    QTest::keyClick(m_preview.get(), Qt::Key_Left);
+    QCOMPARE(stepped.size(), 2);
+    QCOMPARE(cropFrame().frame(), QRect(100, 100, 200, 200));
+    cropFrame().setFocus();
+    QTest::keyClick(&cropFrame(), Qt::Key_Space);
+    QCOMPARE(large.size(), 1);
+}
+
+void TestPreview::showsTheOverlayUntilTheFrameMoves()
+{
+    QVERIFY(show("halves.png"));
+    setCropFrame(QRect(100, 50, 400, 300));
+    QImage green(600, 400, QImage::Format_RGBA8888);
+    green.fill(Qt::green);
+    QVERIFY(green.save(path("overlay.png")));
+    const auto open = m_scripts->importFile([this] {
+        QFile file(path("open.mjs"));
+        if (!file.open(QIODevice::WriteOnly))
+            return QString();
+        file.write("import { Picture } from 'quorlin'; export const open = p => Picture.open(p);");
+        return file.fileName();
+    }());
+    QVERIFY(open);
+    const QJSValue picture = open->property(QStringLiteral("open")).call({path("overlay.png")});
+    QVERIFY(picture.isObject());
+    QQmlEngine::setObjectOwnership(m_preview.get(), QQmlEngine::CppOwnership);
+    m_preview->setOverlay(picture);
+    QCOMPARE(at(middleOfOriginal()), QColor(Qt::green));
+    cropFrame().setFocus();
+    QTest::keyClick(&cropFrame(), Qt::Key_Right);
+    QVERIFY(at(middleOfOriginal()) != QColor(Qt::green));
+    m_preview->setOverlay(picture);
+    QCOMPARE(at(middleOfOriginal()), QColor(Qt::green));
+    m_preview->setOverlay(QJSValue(QJSValue::NullValue));
+    QVERIFY(at(middleOfOriginal()) != QColor(Qt::green));
+}
+
+void TestPreview::dimsWhatIsCutAway()
+{
+    QVERIFY(show("halves.png"));
+    setCropFrame(QRect(200, 100, 300, 200));
+    const QRectF shown = cropFrame().shownFrame().translated(cropFrame().pos());
+    QCOMPARE(at(shown.topLeft().toPoint() + QPoint(15, 15)), QColor(Qt::red));
+    const QColor beside = at(shown.topLeft().toPoint() + QPoint(-20, 15));
+    QVERIFY(beside.red() > 60 && beside.red() < 200 && beside.green() == 0);
+}
+
+void TestPreview::coversItsParent()
+{
+    QWidget parent;
+    parent.resize(300, 200);
+    auto *large = new ComparePreview(&parent);
+    large->setShowsResult(false);
+    large->coverParent();
+    QCOMPARE(large->geometry(), QRect(0, 0, 300, 200));
+    parent.resize(640, 480);
+    parent.show();
+    QCOMPARE(large->geometry(), QRect(0, 0, 640, 480));
+}
+
+// Prints how long it takes, and judges nothing: a busy machine would decide.
+void TestPreview::followsChangesOfALargePhoto()
+{
+    QImage large(6000, 4000, QImage::Format_RGB888);
+    for (int y = 0; y < large.height(); ++y)
+        for (int x = 0; x < large.width(); ++x)
+            large.setPixel(x, y, qRgb((x * 7 + y) & 255, (x ^ y) & 255, (y / 16) & 255));
+    QVERIFY(large.save(path("large.jpg"), "JPEG", 90));
+    m_preview->resize(1440, 600);
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(show("large.jpg"));
+    qInfo("24 megapixels on the screen after %lld ms", clock.elapsed());
+    const QList<QPair<const char *, QVariantMap>> changes = {
+        {"turn", wanted({turn(7)}, QSize(6442, 4701))},
+        {"cut", wanted({cut(QRect(100, 100, 3000, 2000))}, QSize(3000, 2000))},
+        {"round", wanted({QVariantMap{{QStringLiteral("do"), QStringLiteral("round")},
+                                      {QStringLiteral("shape"), QStringLiteral("0")},
+                                      {QStringLiteral("radius"), 400},
+                                      {QStringLiteral("color"), QString()},
+                                      {QStringLiteral("band"), 0}}},
+                         QSize(6000, 4000))},
+    };
+    for (const auto &[name, result] : changes) {
+        clock.restart();
+        QVERIFY(showResult(result));
+        m_preview->grab();
+        qInfo("%s: on the screen %lld ms after the change", name, clock.elapsed());
+    }
+    clock.restart();
+    int shown = 0;
+    QObject::connect(m_preview.get(), &ComparePreview::resultShown, m_preview.get(), [&shown] { ++shown; });
+    for (int step = 0; step < 60; ++step) {
+        m_preview->showResult(wanted({turn(step)}, QSize(7000, 6000)));
+        QTest::qWait(2);
+    }
+    QTRY_VERIFY(shown > 0);
+    qInfo("60 changes of a slider: %d results in %lld ms", shown, clock.elapsed());
+}
+
+QTEST_MAIN(TestPreview)
+#include "tst_preview.moc"
