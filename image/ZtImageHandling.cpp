@@ -46,14 +46,6 @@ EncodeOptions optionsFrom(const QVariantMap &properties)
     return options;
 }
 
-EncodeOptions optionsFrom(const ImageSource &source)
-{
-    EncodeOptions options;
-    options.metadata = source.metadata();
-    options.resolution = platform::WriteResolution::Yes;
-    return options;
-}
-
 } // namespace
 
 ZtImageHandling::ZtImageHandling(QObject *parent) : QObject(parent) {}
@@ -161,7 +153,7 @@ QString ZtImageHandling::writeDrawn(const Target &target, const Result<Bitmap> &
     // No bitmap of that size, or no picture to draw: the answer is a success that leaves no file.
     if (!drawn)
         return image::statusOk();
-    return write(target, *drawn, isTiff(target.type) ? optionsFrom(imageCIImage) : EncodeOptions());
+    return write(target, *drawn, isTiff(target.type) ? image::optionsCarrying(imageCIImage) : EncodeOptions());
 }
 
 QString ZtImageHandling::hFlipHorizontalPicture(const QString &path, const QString &prefix)

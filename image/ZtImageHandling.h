@@ -1,5 +1,8 @@
 #pragma once
 
+#include "image/crop.h"
+#include "image/round_corners.h"
+#include "platform/foundation/sender.h"
 #include "platform/graphics/picture.h"
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
@@ -53,12 +56,12 @@ class ZtImageHandling : public QObject
     Q_PROPERTY(qint32 myYHSize MEMBER myYHSize)
     Q_PROPERTY(qint32 myImageCropPercentage MEMBER myImageCropPercentage)
     Q_PROPERTY(qint32 myImageCropPixels MEMBER myImageCropPixels)
-    Q_PROPERTY(qint32 myCropType MEMBER myCropType)
+    Q_PROPERTY(QVariant myCropType MEMBER myCropType)
     Q_PROPERTY(qint32 newImgW MEMBER newImgW)
     Q_PROPERTY(qint32 newImgH MEMBER newImgH)
     Q_PROPERTY(qint32 myXRCval MEMBER myXRCval)
     Q_PROPERTY(qint32 myImageCropPos MEMBER myImageCropPos)
-    Q_PROPERTY(qint32 cropBoxLine MEMBER cropBoxLine)
+    Q_PROPERTY(float cropBoxLine MEMBER cropBoxLine)
     Q_PROPERTY(float myCompressionLevelFloat MEMBER myCompressionLevelFloat)
     Q_PROPERTY(double myScaleFactor MEMBER myScaleFactor)
     Q_PROPERTY(platform::Picture composedMasked MEMBER composedMasked)
@@ -139,6 +142,39 @@ public:
     /** A picture turned counter-clockwise by @p angle, kept in wmAngle, transparent around it; null without one. */
     Q_INVOKABLE platform::Picture hRotatePictureBase(const platform::Picture &picture, const QVariant &angle);
 
+    /**
+     * The part of the upright picture that the crop sheet means, as a new file. @p width and @p height are read in the
+     * tab "W x H"; the picture itself bounds what is cut. Answers "Failed" where nothing of the picture is left, and, with
+     * nothing logged, where the source cannot be read.
+     */
+    Q_INVOKABLE QString cropImage(const QString &path, int width, int height, const QString &prefix,
+                                  const QVariant &type, const QString &qualityCode);
+
+    /** The frame of the same part on a transparent picture, one pixel a point; null if the source cannot be read. */
+    Q_INVOKABLE platform::Picture hShowCropBox(const QString &path);
+
+    /**
+     * The upright picture cut to a shape, as a new file. @p shapeCode "0" rounds the corners by @p radius pixels, "1"
+     * is the circle in the square at the bottom left, anything else an ellipse. With the check box on, the colour of the
+     * well lies behind the picture, and over its edge as wide as the border field says. @p formatCode "0" writes PNG, "1"
+     * TIFF, "2" GIF, anything else the source's own type under its whole name. TIFF and JPEG carry its metadata.
+     */
+    Q_INVOKABLE QString roundCornersOfImage(const QString &path, const QString &prefix, quint32 radius,
+                                            const QString &shapeCode, const QString &formatCode);
+
+    /**
+     * The upright picture on the colour of the well, as a new file without metadata. Format codes as above;
+     * @p unused and @p unusedToo are not looked at.
+     */
+    Q_INVOKABLE QString addOverlayColor(const QString &path, const QString &prefix, const platform::Sender &unused,
+                                        const platform::Sender &unusedToo, const QString &formatCode);
+
+    /** The picture in a white frame of 10 points; its pixels count as points. Null for none. */
+    Q_INVOKABLE platform::Picture addBorderToImage(const platform::Picture &picture);
+
+    /** Enables the colour and border controls while the check box is on, and disables them otherwise. */
+    Q_INVOKABLE void statusAddBgColor(const platform::Sender &sender);
+
 private:
     /** Where a picture goes, less the extension, and how. */
     struct Target
@@ -156,6 +192,12 @@ private:
     void openUpright(const QString &path);
     QString write(const Target &target, const platform::Bitmap &bitmap, const platform::EncodeOptions &ofSource);
     QString writeDrawn(const Target &target, const platform::Result<platform::Bitmap> &drawn);
+    /** Reads the crop sheet; tells the rectangle and keeps its origin. @p size belongs to the tab "W x H". */
+    image::CropRect readCrop(QSize size, image::CropSpace space);
+    image::CornerOptions readCorners(quint32 radius, const QString &shapeCode) const;
+    /** Sets the type variables by a format code; answers the name of the new file. */
+    QString decideComposedName(const QString &path, const QString &formatCode);
+    QString writeComposed(const QString &path, const platform::EncodeOptions &options);
 
     QPointer<QObject> scImageCropPos;
     QPointer<QObject> tfCropXOffset;
@@ -181,12 +223,12 @@ private:
     qint32 myYHSize = 0;
     qint32 myImageCropPercentage = 0;
     qint32 myImageCropPixels = 0;
-    qint32 myCropType = 0;
+    QVariant myCropType = 0; // the label of a tab, once one was read
     qint32 newImgW = 0;
     qint32 newImgH = 0;
     qint32 myXRCval = 0;
     qint32 myImageCropPos = 0;
-    qint32 cropBoxLine = 0;
+    float cropBoxLine = 0;
     float myCompressionLevelFloat = 0;
     double myScaleFactor = 0;
     platform::Picture composedMasked;

@@ -80,6 +80,14 @@ QString outputBase(const QString &prefix, const QString &sourcePath)
     return prefix + platform::baseName(sourcePath);
 }
 
+platform::EncodeOptions optionsCarrying(const platform::ImageSource &source)
+{
+    platform::EncodeOptions options;
+    options.metadata = source.metadata();
+    options.resolution = platform::WriteResolution::Yes;
+    return options;
+}
+
 QString writeAnswering(const QString &path, const QString &type, const platform::Bitmap &bitmap,
                        const platform::EncodeOptions &options)
 {

@@ -2,6 +2,7 @@
 
 #include "platform/graphics/bitmap.h"
 #include "platform/imageio/image_destination.h"
+#include "platform/imageio/image_source.h"
 
 #include <QString>
 #include <QVariant>
@@ -28,6 +29,9 @@ double qualityForCode(const QString &code);
 
 /** The output prefix with the source's name, less its extension, directly behind it. */
 QString outputBase(const QString &prefix, const QString &sourcePath);
+
+/** Options that carry a source's metadata and the resolution of what is written, where the type can hold them. */
+platform::EncodeOptions optionsCarrying(const platform::ImageSource &source);
 
 /**
  * Writes one bitmap to a new file, replacing a file that is there.

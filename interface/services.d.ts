@@ -137,13 +137,15 @@ declare module "quorlin" {
         myYHSize: whole;
         myImageCropPercentage: whole;
         myImageCropPixels: whole;
-        myCropType: whole;
+        /** The label of the tab that the last crop was read from; 0 before. */
+        myCropType: anything;
         /** The pixel size that the last resize worked out. */
         newImgW: whole;
         newImgH: whole;
         myXRCval: whole;
         myImageCropPos: whole;
-        cropBoxLine: whole;
+        /** The width of the last frame's line. */
+        cropBoxLine: single;
         myCompressionLevelFloat: single;
         /** The scale of the last resize, in per cent. */
         myScaleFactor: double;
@@ -194,6 +196,18 @@ declare module "quorlin" {
         hRotatePicture(path: text, prefix: text, angle: anything): text;
         /** A picture turned counter-clockwise, transparent around it; null without a picture. */
         hRotatePictureBase(picture: Picture | null, angle: anything): Picture | null;
+        /** The part that the crop sheet means. Width and height are read in the tab "W x H". */
+        cropImage(path: text, width: whole, height: whole, prefix: text, type: anything, qualityCode: text): text;
+        /** The frame of the same part on a transparent picture, one pixel a point. */
+        hShowCropBox(path: text): Picture | null;
+        /** Shape "0": round corners, "1": circle, else ellipse. Format "0" PNG, "1" TIFF, "2" GIF, else the source's. */
+        roundCornersOfImage(path: text, prefix: text, radius: unsigned, shapeCode: text, formatCode: text): text;
+        /** The picture on the colour of the well, without metadata; format codes as above. */
+        addOverlayColor(path: text, prefix: text, unused: sender, unusedToo: sender, formatCode: text): text;
+        /** The picture in a white frame of 10 points. */
+        addBorderToImage(picture: Picture | null): Picture | null;
+        /** Enables the colour and border controls while the check box is on. */
+        statusAddBgColor(sender: sender): null;
     }
 
     /** Turns a location into data that can be kept, and back in a later run. */

@@ -106,19 +106,22 @@ RoundedRect withBoundedRadii(const RoundedRect &shape)
     return bounded;
 }
 
-VImage shaped(const VImage &image, const QRect &part, const RoundedRect &shape, const std::optional<VImage> &under)
+VImage shaped(const VImage &image, const QRect &part, const RoundedRect &shape, const std::optional<QColor> &background)
 {
-    Layers layers(image, part, under);
+    const std::optional<MatchedLayers> both =
+        background ? std::optional(matched(image, colorImage(*background))) : std::nullopt;
+    Layers layers(both ? both->over : image, part, both ? std::optional(both->under) : std::nullopt);
     ShapeRows coverage(withBoundedRadii(shape), part.width());
     for (int y = 0; y < part.height(); ++y)
         layers.compose(y, coverage.row(y));
     return layers.result();
 }
 
-VImage laid(const VImage &image, const VImage &under)
+VImage laid(const VImage &image, const VImage &srgb)
 {
+    const MatchedLayers both = matched(image, srgb);
     const QRect whole(0, 0, image.width(), image.height());
-    Layers layers(image, whole, under);
+    Layers layers(both.over, whole, both.under);
     for (int y = 0; y < whole.height(); ++y)
         layers.compose(y, nullptr);
     return layers.result();
@@ -139,10 +142,7 @@ Result<Bitmap> shapedBy(const Bitmap &bitmap, const QRect &part, const RoundedRe
     return guarded([&]() -> Result<Bitmap> {
         const bool needsColors = background && !isGrey(*background);
         const VImage image = composable(bitmap.pixels().image, needsColors);
-        std::optional<VImage> under;
-        if (background)
-            under = inSpaceOf(image, colorImage(*background));
-        return like(bitmap, shaped(image, kept, shape, under));
+        return like(bitmap, shaped(image, kept, shape, background));
     });
 }
 
@@ -154,7 +154,7 @@ Result<Bitmap> laidOn(const Bitmap &bitmap, const QColor &color)
         return bitmap;
     return guarded([&]() -> Result<Bitmap> {
         const VImage image = composable(bitmap.pixels().image, !isGrey(color));
-        return like(bitmap, laid(image, inSpaceOf(image, colorImage(color))));
+        return like(bitmap, laid(image, colorImage(color)));
     });
 }
 
@@ -167,7 +167,7 @@ Result<Bitmap> laidOn(const Bitmap &bitmap, const Bitmap &tile)
     return guarded([&]() -> Result<Bitmap> {
         const VImage pattern = convertedToSrgb(composable(tile.pixels().image, false));
         const VImage image = composable(bitmap.pixels().image, pattern.bands() > 2);
-        return like(bitmap, laid(image, inSpaceOf(image, pattern)));
+        return like(bitmap, laid(image, pattern));
     });
 }
 
@@ -185,7 +185,7 @@ Result<Bitmap> drawnOnWhite(const Bitmap &bitmap, QSize canvas, const QRect &tar
         const QPoint from = seen.topLeft() - target.topLeft();
         image = scaledTo(image, target.size()).extract_area(from.x(), from.y(), seen.width(), seen.height());
         if (image.has_alpha())
-            image = laid(image.copy_memory(), inSpaceOf(image, colorImage(Qt::white)));
+            image = laid(image.copy_memory(), colorImage(Qt::white));
         image = image.embed(seen.x(), seen.y(), canvas.width(), canvas.height(),
                             VImage::option()->set("extend", VIPS_EXTEND_WHITE));
         return bitmapFromImage(image, {}, bitmap.pixels().quantisation);

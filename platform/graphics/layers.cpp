@@ -78,6 +78,14 @@ VImage converted(const VImage &image, const VImage &srgb)
         .copy_memory();
 }
 
+VImage inSpaceOf(const VImage &image, const VImage &srgb)
+{
+    VImage colors = converted(image, srgb);
+    if (isColorless(colors) && !isColorless(image))
+        colors = colors.colourspace(isDeep(colors) ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB);
+    return withDepthOf(image, colors).copy_memory();
+}
+
 VImage newImage(QSize size, int bands, const VImage &like)
 {
     VImage image = VImage::new_memory();
@@ -190,12 +198,17 @@ VImage composable(const VImage &image, bool needsColors)
     return plain.copy_memory();
 }
 
-VImage inSpaceOf(const VImage &image, const VImage &srgb)
+MatchedLayers matched(const VImage &over, const VImage &srgb)
 {
-    VImage colors = converted(image, srgb);
-    if (isColorless(colors) && !isColorless(image))
-        colors = colors.colourspace(isDeep(colors) ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB);
-    return withDepthOf(image, colors).copy_memory();
+    try {
+        return {over, inSpaceOf(over, srgb)};
+    } catch (const vips::VError &) {
+        if (isSrgb(profileOf(over)))
+            throw;
+    }
+    vips_error_clear();
+    const VImage plain = composable(convertedToSrgb(over), !isColorless(over));
+    return {plain, inSpaceOf(plain, srgb)};
 }
 
 Layers::Layers(const VImage &image, const QRect &part, const std::optional<VImage> &under)

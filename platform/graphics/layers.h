@@ -20,8 +20,18 @@ vips::VImage colorImage(const QColor &color);
  */
 vips::VImage composable(const vips::VImage &image, bool needsColors);
 
-/** @p srgb in the colours, the profile and the depth of @p image; grey only where @p srgb is. Alpha stays. In memory. */
-vips::VImage inSpaceOf(const vips::VImage &image, const vips::VImage &srgb);
+/** Two pictures that can be composed: same colours, profile and depth, both in memory; grey below only for grey above. */
+struct MatchedLayers
+{
+    vips::VImage over;
+    vips::VImage under;
+};
+
+/**
+ * @p over as composable() gives it, and @p srgb in its colours, its profile and its depth, alpha kept. A profile that
+ * colours can only be read from, as that of a scanner, gives way: then both are sRGB.
+ */
+MatchedLayers matched(const vips::VImage &over, const vips::VImage &srgb);
 
 /**
  * Composes rows of one picture: a part of @p image, less than covered where a coverage says so, on copies of @p under
@@ -30,7 +40,7 @@ vips::VImage inSpaceOf(const vips::VImage &image, const vips::VImage &srgb);
 class Layers
 {
 public:
-    /** @p image as composable() gives it; @p under as inSpaceOf() gives it. */
+    /** @p image as composable() gives it; @p under as matched() gives it. */
     Layers(const vips::VImage &image, const QRect &part, const std::optional<vips::VImage> &under);
 
     /** Row @p y of the result. @p coverage holds a byte for each of its pixels; null covers the whole row. */

@@ -133,6 +133,20 @@ QSize turned(QSize size, int orientation)
     return orientation >= firstOnItsSide ? size.transposed() : size;
 }
 
+/** Where a part of the upright picture lies among the @p size stored pixels. */
+QRect storedPart(const QRect &upright, QSize size, int orientation)
+{
+    const bool isOnItsSide = turned({1, 2}, orientation) == QSize(2, 1);
+    QRect part = isOnItsSide ? QRect(upright.y(), upright.x(), upright.height(), upright.width()) : upright;
+    const bool isFromTheRight = orientation == 2 || orientation == 3 || orientation == 7 || orientation == 8;
+    const bool isFromBelow = orientation == 3 || orientation == 4 || orientation == 6 || orientation == 7;
+    if (isFromTheRight)
+        part.moveLeft(size.width() - part.x() - part.width());
+    if (isFromBelow)
+        part.moveTop(size.height() - part.y() - part.height());
+    return part;
+}
+
 /** What is known of the resolution and of the JPEG tables, to travel with the pixels. */
 Bitmap finished(const File &file, const VImage &image)
 {
@@ -234,6 +248,27 @@ Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const
         if (options.orientation == Orientation::Upright && m_file->orientation > 1)
             image = turnedUpright(image.copy_memory(), m_file->orientation);
         return finished(*m_file, image);
+    } catch (const vips::VError &error) {
+        return unreadable(m_file->name(), takeVipsError(error));
+    }
+}
+
+Result<Bitmap> ImageSource::decodePart(const QRect &part) const
+{
+    const QRect whole(QPoint(0, 0), uprightSize());
+    const QRect kept = part.intersected(whole);
+    if (!m_file || kept.isEmpty())
+        return failure(ErrorCode::InvalidValue, text("There is nothing of the picture in that part"));
+    if (kept == whole)
+        return decode();
+    try {
+        initVips();
+        const VImage image = openImage(m_file->bytes, m_file->content);
+        const QRect stored = storedPart(kept, QSize(image.width(), image.height()), m_file->orientation);
+        const VImage rows = image.extract_area(stored.x(), stored.y(), stored.width(), stored.height());
+        if (m_file->orientation <= 1)
+            return finished(*m_file, rows);
+        return finished(*m_file, turnedUpright(rows.copy_memory(), m_file->orientation));
     } catch (const vips::VError &error) {
         return unreadable(m_file->name(), takeVipsError(error));
     }

@@ -61,6 +61,13 @@ public:
     Result<Bitmap> decode(const DecodeOptions &options = {}) const;
 
     /**
+     * The part of the upright image 0 that lies in @p part, cut to the picture. Rows are decoded one by one and only as
+     * far as the part reaches, so that memory is needed for the part alone. Fails as decode() does, and with
+     * InvalidValue where nothing is left.
+     */
+    Result<Bitmap> decodePart(const QRect &part) const;
+
+    /**
      * Image 0, upright, at exactly @p size pixels: the cheapest decode that is at least that large, then a
      * resampling as resample() has it. Fails as decode() does, and with InvalidValue or TooLarge for the size.
      */

@@ -343,6 +343,13 @@ void RoundCorners::convertsTheColorIntoThePicturesProfile()
     const QColor seen = cut->toScreenImage().pixelColor(0, 0);
     QVERIFY(seen.red() >= 254 && seen.green() <= 2 && seen.blue() <= 2);
     QCOMPARE(cut->pixel(100, 65), plain.pixel(100, 65));
+    // No colour can be brought into the profile of a scanner.
+    const Bitmap scanned = picture("formats/icc_profile_big.jpg");
+    const auto asSrgb = image::roundCorners(scanned, on(shaped(CornerShape::Ellipse), QColor(255, 0, 0)));
+    QVERIFY(asSrgb);
+    QCOMPARE(asSrgb->pixel(0, 0), (Pixel{255, 0, 0, 255}));
+    QVERIFY(asSrgb->iccProfile().isEmpty());
+    QCOMPARE(asSrgb->toScreenImage().pixel(200, 100), scanned.toScreenImage().pixel(200, 100));
     const auto inSrgb =
         image::roundCorners(picture("formats/cat.jpg"), on(shaped(CornerShape::Ellipse), QColor(1, 128, 254)));
     QVERIFY(inSrgb);
