@@ -344,7 +344,7 @@ private Q_SLOTS:
         QFETCH(QString, path);
         const Bitmap upright = Picture::fromFile(path).bitmap();
         // A large one costs much in every type and shows nothing that a small one does not.
-        const bool isLarge = qint64(upright.width()) * upright.height() > 300'000;
+        const bool isLarge = qint64(upright.width()) * upright.height() > 50'000;
         m_sheet->fillBackground("#336699", "2");
         LogCapture log;
         QStringList statuses;
