@@ -31,6 +31,7 @@ ComparePreview::ComparePreview(QWidget *parent)
     connect(m_cropFrame, &CropFrameEditor::edited, this, [this](const QRect &frame) {
         Q_EMIT cropFrameEdited(frame.x(), frame.y(), frame.width(), frame.height());
     });
+    connect(&m_estimate, &ResultEstimate::estimated, this, &ComparePreview::resultEstimated);
     m_settled.setSingleShot(true);
     m_asked.setSingleShot(true);
     connect(&m_settled, &QTimer::timeout, this, &ComparePreview::load);
@@ -74,14 +75,15 @@ void ComparePreview::showResult(const QVariantMap &result)
         return;
     }
     const QSize size(result.value(QStringLiteral("width")).toInt(), result.value(QStringLiteral("height")).toInt());
-    m_wanted = {*deeds, {}, size, result.value(QStringLiteral("message")).toString()};
+    const auto text = [&result](const char *name) { return result.value(QString::fromLatin1(name)).toString(); };
+    m_wanted = {*deeds, {}, size, text("message"), text("type"), text("quality")};
     m_asked.start(0);
 }
 
 void ComparePreview::showResult(double left, double top, double width, double height, int pixelsWide, int pixelsHigh,
                                 const QString &message)
 {
-    m_wanted = {{}, QRectF(left, top, width, height), QSize(pixelsWide, pixelsHigh), message};
+    m_wanted = {{}, QRectF(left, top, width, height), QSize(pixelsWide, pixelsHigh), message, {}, {}};
     m_asked.start(0);
 }
 
@@ -182,6 +184,7 @@ void ComparePreview::load()
         if (m_base.isNull())
             m_problem = tr("This picture cannot be shown");
     }
+    m_estimate.setOriginal(m_path, {m_base, m_picture.pixelSize()});
     fitViews();
     placeCropFrame();
     render();
@@ -216,6 +219,7 @@ Deeds ComparePreview::wantedDeeds() const
 void ComparePreview::render()
 {
     m_asked.stop();
+    m_estimate.forget();
     m_result = {};
     m_resultImage = {};
     m_scaledResult = {};
@@ -232,6 +236,7 @@ void ComparePreview::render()
     m_resultImage = m_result.bitmap.toScreenImage();
     if (m_cropFrame->isShown())
         showCropped();
+    m_estimate.ask({m_result.bitmap, m_wanted.size}, m_wanted.type, m_wanted.qualityCode);
     Q_EMIT resultShown();
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/window/crop_frame_editor.h"
 #include "app/window/preview_deeds.h"
+#include "app/window/result_estimate.h"
 #include "platform/graphics/picture.h"
 #include "views/my2ndPhotoView.h"
 #include "views/myMainPhotoView.h"
@@ -29,6 +30,8 @@ class ComparePreview : public QWidget
     Q_OBJECT
     Q_PROPERTY(bool fill READ fill WRITE setFill)
     Q_PROPERTY(bool showsResult READ showsResult WRITE setShowsResult)
+    /** The size that the file of the result will have, see resultEstimated(); -1 while it is not known. */
+    Q_PROPERTY(double estimatedBytes READ estimatedBytes)
 
 public:
     explicit ComparePreview(QWidget *parent = nullptr);
@@ -38,6 +41,8 @@ public:
     void setFill(bool fill);
     bool showsResult() const { return m_showsResult; }
     void setShowsResult(bool shows);
+
+    double estimatedBytes() const { return m_estimate.bytes(); }
 
     /** Shows the picture at @p path, or nothing where it is empty. */
     Q_INVOKABLE void showPicture(const QString &path);
@@ -81,6 +86,8 @@ Q_SIGNALS:
     void pictureShown();
     /** A result was made and is on the screen. */
     void resultShown();
+    /** How large the file of the result will be, a while after the last change; exact for BMP and for small results. */
+    void resultEstimated(double bytes);
     /** The user moved or sized the crop frame; pixels of the upright original. */
     void cropFrameEdited(int x, int y, int width, int height);
 
@@ -102,6 +109,8 @@ private:
         QRectF part; ///< of the original, 0 to 1, instead of deeds
         QSize size;
         QString message;
+        QString type;
+        QString qualityCode;
     };
 
     void load();
@@ -142,6 +151,7 @@ private:
     Wanted m_wanted;
     Rendition m_result;
     QImage m_resultImage;
+    ResultEstimate m_estimate;
     QString m_resultProblem;
     mutable QPixmap m_scaledResult;
     QString m_originalTitle;

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void makesOnlyTheLastResultThatWasAskedFor();
     void laysTransparentResultsOnALightPattern();
     void showsACropAtTheScaleOfTheOriginal();
+    void estimatesTheFileAfterAWhile();
     void movesTheFrameWithTheMouse();
     void sizesTheFrameWithTheMouse();
     void keepsTheRatioOfTheFrameWithShift();
@@ -235,6 +236,32 @@ void TestPreview::showsACropAtTheScaleOfTheOriginal()
     m_preview->setCropFrame(QJSValue(QJSValue::NullValue));
     QVERIFY(shown.wait(5000));
     QCOMPARE(at(middleOfResult() + QPoint(half + 3, 0)), QColor(Qt::blue));
+}
+
+void TestPreview::estimatesTheFileAfterAWhile()
+{
+    QVERIFY(show("halves.png"));
+    QSignalSpy estimated(m_preview.get(), &ComparePreview::resultEstimated);
+    QVariantMap result = wanted({}, QSize(600, 400));
+    result.insert(QStringLiteral("type"), QStringLiteral("public.bmp"));
+    for (int i = 0; i < 10; ++i) {
+        QVERIFY(showResult(result));
+        QTest::qWait(20);
+    }
+    QCOMPARE(m_preview->estimatedBytes(), -1.0);
+    QVERIFY(estimated.wait(5000));
+    QCOMPARE(estimated.size(), 1);
+    QCOMPARE(estimated.first().first().toDouble(), 600 * 400 * 3 + 54.0);
+    QCOMPARE(m_preview->estimatedBytes(), 600 * 400 * 3 + 54.0);
+    result.insert(QStringLiteral("type"), QStringLiteral("public.jpeg"));
+    result.insert(QStringLiteral("quality"), QStringLiteral("8"));
+    QVERIFY(showResult(result));
+    QVERIFY(estimated.wait(5000));
+    QVERIFY(estimated.last().first().toDouble() > 500);
+    result.insert(QStringLiteral("type"), QStringLiteral("com.adobe.pdf"));
+    QVERIFY(showResult(result));
+    QVERIFY(!estimated.wait(500));
+    QCOMPARE(m_preview->estimatedBytes(), -1.0);
 }
 
 void TestPreview::movesTheFrameWithTheMouse()
