@@ -29,7 +29,7 @@ struct Connection::Private
 
 namespace {
 
-constexpr int longestWaitMs = 2000;
+constexpr int longestWaitMs = 1000;
 
 int ask(void *guard, int action, const char *first, const char *second, const char *database, const char *trigger)
 {

@@ -1,12 +1,10 @@
-#include "platform/foundation/raised.h"
 #include "presets/dbViewController.h"
 #include "presets/layout.h"
 #include "tests/support/preset_store.h"
+#include "tests/support/raised_text.h"
 
 #include <QFileInfo>
 #include <QTest>
-
-#include <functional>
 
 namespace {
 
@@ -14,16 +12,6 @@ const QString presetsTable = QStringLiteral("Presets");
 const QString nameColumn = QStringLiteral("NameOfPreset");
 const QString processColumn = QStringLiteral("Process");
 const QString sorting = QStringLiteral("Sorting");
-
-QString raisedBy(const std::function<void()> &deed)
-{
-    try {
-        deed();
-    } catch (const platform::Raised &raised) {
-        return raised.name() + QStringLiteral(": ") + raised.message();
-    }
-    return QStringLiteral("nothing");
-}
 
 const QString openFailure = QStringLiteral("InternalInconsistency: Presets Db failed to open.");
 const QString createFailure = QStringLiteral("InternalInconsistency: Presets Table failed to create.");
