@@ -3,9 +3,11 @@
 #include "presets/guard.h"
 
 #include <QFile>
+#include <QtEndian>
 
 #include <sqlite3.h>
 
+#include <array>
 #include <utility>
 
 namespace presets {
@@ -29,12 +31,23 @@ struct Connection::Private
 
 namespace {
 
-constexpr int longestWaitMs = 1000;
+constexpr int longestWaitMs = 2000;
+constexpr int betweenTriesMs = 2;
+constexpr qsizetype headerSize = 100;
 
 int ask(void *guard, int action, const char *first, const char *second, const char *database, const char *trigger)
 {
     const bool isAllowed = static_cast<Guard *>(guard)->allows({action, first, second, database, trigger});
     return isAllowed ? SQLITE_OK : SQLITE_DENY;
+}
+
+/** Asks again soon, so that of two programs that write at the same time neither waits for long. */
+int waitForOthers(void *, int tries)
+{
+    if (tries * betweenTriesMs >= longestWaitMs)
+        return 0;
+    sqlite3_sleep(betweenTriesMs);
+    return 1;
 }
 
 void switchOff(sqlite3 *handle, std::initializer_list<int> features)
@@ -49,8 +62,38 @@ void restrict(sqlite3 *handle, Guard &guard)
     switchOff(handle, {SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_VIEW, SQLITE_DBCONFIG_TRUSTED_SCHEMA,
                        SQLITE_DBCONFIG_DQS_DML, SQLITE_DBCONFIG_DQS_DDL, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION});
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    sqlite3_busy_timeout(handle, longestWaitMs);
+    sqlite3_busy_handler(handle, waitForOthers, nullptr);
     sqlite3_set_authorizer(handle, ask, &guard);
+}
+
+/**
+ * Whether the file is shorter than its own header says. The database sees that for whole pages; with a part of the last page
+ * missing it would write on a page that it read as half zeros. Read through the database's own handle, since closing another
+ * one would take its locks away.
+ */
+bool isShorterThanItSays(sqlite3 *handle)
+{
+    sqlite3_file *file = nullptr;
+    sqlite3_int64 size = 0;
+    std::array<uchar, headerSize> header = {};
+    if (sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK || !file->pMethods ||
+        file->pMethods->xFileSize(file, &size) != SQLITE_OK ||
+        file->pMethods->xRead(file, header.data(), int(header.size()), 0) != SQLITE_OK)
+        return false;
+    const auto number = [&header](size_t offset) { return qFromBigEndian<quint32>(header.data() + offset); };
+    const quint32 pageSize = qFromBigEndian<quint16>(header.data() + 16);
+    const bool isPageCountKept = number(24) == number(92);
+    return isPageCountKept && size < qint64(number(28)) * (pageSize == 1 ? 65536 : pageSize);
+}
+
+/** A write that is going on, or was cut off and will be taken back, also leaves a file that is too short for a while. */
+bool isCutShort(sqlite3 *handle)
+{
+    const QString path = QFile::decodeName(sqlite3_db_filename(handle, "main"));
+    const auto isBeingWritten = [&path] {
+        return QFile::exists(path + QStringLiteral("-journal")) || QFile::exists(path + QStringLiteral("-wal"));
+    };
+    return isShorterThanItSays(handle) && !isBeingWritten() && isShorterThanItSays(handle);
 }
 
 bool hasMore(const char *tail)
@@ -84,7 +127,7 @@ void Connection::close()
 
 Prepared Connection::prepare(const Statement &statement) const
 {
-    if (!isOpen() || !statement.isSound)
+    if (!isOpen() || !statement.isSound || (statement.verb != Verb::Select && isCutShort(d->handle)))
         return Prepared();
     sqlite3_stmt *compiled = nullptr;
     const char *tail = nullptr;
@@ -93,7 +136,7 @@ Prepared Connection::prepare(const Statement &statement) const
     sqlite3_prepare_v2(d->handle, text.constData(), -1, &compiled, &tail);
     d->guard.endCompiling();
     Prepared prepared(compiled);
-    if (hasMore(tail) || !d->guard.sawItsColumns())
+    if (hasMore(tail) || !d->guard.sawItsDeed())
         return Prepared();
     return prepared;
 }

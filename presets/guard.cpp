@@ -26,7 +26,7 @@ void Guard::expect(const Statement &statement)
 {
     m_statement = statement;
     m_columnsRead.clear();
-    m_selects = 0;
+    m_sawVerb = false;
     m_isCompiling = true;
 }
 
@@ -43,41 +43,51 @@ bool Guard::allowsReading(const Deed &deed)
     return true;
 }
 
+bool Guard::isTheVerb(const Deed &deed) const
+{
+    switch (m_statement.verb) {
+    case Verb::CreateTable:
+        return deed.action == SQLITE_CREATE_TABLE && isOnTable(deed);
+    case Verb::Insert:
+        return deed.action == SQLITE_INSERT && isOnTable(deed) && !isInternal(m_statement.table);
+    case Verb::Delete:
+        return deed.action == SQLITE_DELETE && isOnTable(deed) && !isInternal(m_statement.table);
+    case Verb::Select:
+        return deed.action == SQLITE_SELECT && (!m_sawVerb || !m_isCompiling); // one, and none inside it
+    }
+    return false;
+}
+
 /** A new table is written down in the list of tables, and the first one with counted keys brings the list of counters. */
-bool Guard::allowsCreation(const Deed &deed) const
+bool Guard::allowsListKeeping(const Deed &deed) const
 {
     if (qstrcmp(deed.database, "main") != 0)
         return false;
     if (deed.action == SQLITE_CREATE_TABLE)
-        return isOnTable(deed) || qstrcmp(deed.first, "sqlite_sequence") == 0;
-    const bool isListKeeping =
-        deed.action == SQLITE_INSERT || deed.action == SQLITE_UPDATE || deed.action == SQLITE_READ;
-    return isListKeeping && qstrcmp(deed.first, "sqlite_master") == 0;
+        return qstrcmp(deed.first, "sqlite_sequence") == 0;
+    const bool isKeeping = deed.action == SQLITE_INSERT || deed.action == SQLITE_UPDATE || deed.action == SQLITE_READ;
+    return isKeeping && qstrcmp(deed.first, "sqlite_master") == 0;
 }
 
 bool Guard::allows(const Deed &deed)
 {
     if (deed.trigger)
         return false;
-    switch (m_statement.verb) {
-    case Verb::CreateTable:
-        return allowsCreation(deed);
-    case Verb::Insert:
-        return deed.action == SQLITE_INSERT && isOnTable(deed) && !isInternal(m_statement.table);
-    case Verb::Delete:
-        if (deed.action == SQLITE_DELETE)
-            return isOnTable(deed) && !isInternal(m_statement.table);
-        return deed.action == SQLITE_READ && allowsReading(deed);
-    case Verb::Select:
-        if (deed.action == SQLITE_SELECT)
-            return ++m_selects == 1 || !m_isCompiling;
-        return deed.action == SQLITE_READ && allowsReading(deed);
+    if (isTheVerb(deed)) {
+        m_sawVerb = true;
+        return true;
     }
-    return false;
+    if (m_statement.verb == Verb::CreateTable)
+        return allowsListKeeping(deed);
+    const bool mayRead = m_statement.verb == Verb::Select || m_statement.verb == Verb::Delete;
+    return mayRead && deed.action == SQLITE_READ && allowsReading(deed);
 }
 
-bool Guard::sawItsColumns() const
+bool Guard::sawItsDeed() const
 {
+    // A query that reads no table is none of ours.
+    if (!m_sawVerb || (m_statement.verb == Verb::Select && m_columnsRead.isEmpty()))
+        return false;
     return std::all_of(m_statement.columns.begin(), m_statement.columns.end(), [this](const QString &column) {
         return isRowNumber(column) || std::any_of(m_columnsRead.begin(), m_columnsRead.end(),
                                                   [&](const QString &read) { return isSameName(read, column); });

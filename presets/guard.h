@@ -30,17 +30,21 @@ public:
 
     bool allows(const Deed &deed);
 
-    /** Whether the statement really read every column that it names, so that none was a word with a meaning of its own. */
-    bool sawItsColumns() const;
+    /**
+     * Whether the statement did what was meant: its verb, on its table, reading every column that it names, so that none was a
+     * word with a meaning of its own.
+     */
+    bool sawItsDeed() const;
 
 private:
-    bool allowsCreation(const Deed &deed) const;
+    bool allowsListKeeping(const Deed &deed) const;
     bool allowsReading(const Deed &deed);
     bool isOnTable(const Deed &deed) const;
+    bool isTheVerb(const Deed &deed) const;
 
     Statement m_statement;
     QSet<QString> m_columnsRead;
-    int m_selects = 0;
+    bool m_sawVerb = false;
     bool m_isCompiling = false;
 };
 
