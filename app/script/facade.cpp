@@ -7,12 +7,15 @@ namespace {
  * Scripts never see a service itself. A facade is a frozen object whose fields are accessors and whose operations lie in
  * its prototype; what it stands for is an opaque value under a symbol that never leaves this function. The prototype's
  * own prototype answers every name that was not found with a TypeError. Objects that were set on a field are kept under
- * a second symbol, so that they live as long as the facade and come back as the same object.
+ * a second symbol, so that they live as long as the facade and come back as the same object. Such an object may also come back
+ * from another object's field, which a service has set: then the engine's own wrapper of the service object, its shell, leads
+ * to the facade. Scripts never see a shell; the facade keeps it alive inside a function.
  */
 const char *const source = R"js((function (seam) {
     "use strict";
     const NATIVE = Symbol("native");
     const KEPT = Symbol("kept");
+    const FACADE = Symbol("facade");
     const ITSELF = Object.freeze({});
 
     function nativeOf(value) {
@@ -99,12 +102,21 @@ const char *const source = R"js((function (seam) {
         return { make: Object.freeze(make), wrap: native => wrap(prototype, fields, native) };
     }
 
+    function attach(shell, facade) {
+        Object.defineProperty(shell, FACADE, { value: facade, configurable: true });
+        facade[KEPT][FACADE] = () => { shell; };
+    }
+
+    function facadeIn(shell) {
+        return shell[FACADE];
+    }
+
     // Plain assignment fails, since the engine has made the name that all errors share read only.
     function setName(error, name) {
         Object.defineProperty(error, "name", { value: name, writable: true, configurable: true });
     }
 
-    return { define, nativeOf, setName, ITSELF };
+    return { define, nativeOf, setName, attach, facadeIn, ITSELF };
 }))js";
 
 } // namespace

@@ -102,6 +102,8 @@ Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engi
     m_define = facades.property(QStringLiteral("define"));
     m_nativeOf = facades.property(QStringLiteral("nativeOf"));
     m_setName = facades.property(QStringLiteral("setName"));
+    m_attach = facades.property(QStringLiteral("attach"));
+    m_facadeIn = facades.property(QStringLiteral("facadeIn"));
     m_itself = facades.property(QStringLiteral("ITSELF"));
     for (ServiceEntry &entry : entries)
         m_classes.push_back(std::make_unique<ServiceClass>(std::move(entry)));
@@ -184,6 +186,7 @@ QVariant Seam::hold(QObject *object, Owner owner)
         const QPointer<QObject> guard(object);
         shared = std::shared_ptr<QObject>(object, [this, guard, owner](QObject *held) {
             m_held.remove(held);
+            m_attached.remove(held);
             QObject *alive = guard.data();
             if (owner == Owner::Scripts && alive && !alive->parent())
                 delete alive;
@@ -196,11 +199,11 @@ QVariant Seam::hold(QObject *object, Owner owner)
 QJSValue Seam::facadeOf(QObject *object, Owner owner)
 {
     const ServiceClass *service = classOf(object);
-    if (!service) {
-        if (QJSEngine::objectOwnership(object) != QJSEngine::CppOwnership)
-            QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
-        return m_engine.newQObject(object);
-    }
+    if (!service)
+        return shellOf(object);
+    if (m_attached.contains(object))
+        if (const QJSValue facade = m_facadeIn.call({shellOf(object)}); facade.isObject())
+            return facade;
     const QJSValue wrap = m_definitions[size_t(m_classIds.value(service->entry.meta))].property(QStringLiteral("wrap"));
     return wrap.call({m_engine.toScriptValue(hold(object, owner))});
 }
@@ -213,6 +216,23 @@ QObject *Seam::objectOf(const QJSValue &value) const
         return nullptr;
     const QJSValue native = m_nativeOf.call({value});
     return native.isVariant() ? native.toVariant().value<Native>().object.get() : nullptr;
+}
+
+QJSValue Seam::shellOf(QObject *object) const
+{
+    if (QJSEngine::objectOwnership(object) != QJSEngine::CppOwnership)
+        QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
+    return m_engine.newQObject(object);
+}
+
+/** Lets the object behind a facade lead back to it, as long as a script has the facade. */
+void Seam::attachToShell(const QJSValue &facade)
+{
+    QObject *object = facade.isQObject() ? nullptr : objectOf(facade);
+    if (!object || m_attached.contains(object))
+        return;
+    m_attach.call({shellOf(object), facade});
+    m_attached.insert(object);
 }
 
 QJSValue Seam::make(int classId, bool isConstructed, const QJSValue &arguments)
@@ -332,6 +352,8 @@ void Seam::write(const QVariant &native, int fieldId, const QJSValue &value)
             throw platform::Raised::typeError(QStringLiteral("%1 of %2 is read only").arg(name, nameOf(*owner)));
         const QVariant converted = m_values.toNative(value, field->kind, field->type, name);
         object->metaObject()->property(field->propertyIndex).write(object, converted);
+        if (field->kind == Kind::Object)
+            attachToShell(value);
         return QJSValue();
     });
 }

@@ -7,6 +7,7 @@
 #include <QJSEngine>
 #include <QJSValue>
 #include <QObject>
+#include <QSet>
 
 #include <exception>
 
@@ -104,6 +105,8 @@ private:
     QObject *target(const QVariant &native, ServiceClass &owner, const QByteArray &member) const;
     QJSValue invoke(QObject *object, const Operation &operation, const QJSValue &arguments);
     QJSValue resultToScript(QObject *object, const QVariant &result, Kind kind);
+    QJSValue shellOf(QObject *object) const;
+    void attachToShell(const QJSValue &facade);
     void collectAfterPixels(const QVariant &value, Kind kind);
     void raise(const QString &name, const QString &message);
     void raiseCurrentException();
@@ -119,6 +122,10 @@ private:
     QJSValue m_define;
     QJSValue m_nativeOf;
     QJSValue m_setName;
+    QJSValue m_attach;
+    QJSValue m_facadeIn;
+    /** Objects whose facade was set on a field; see the facade's script. */
+    QSet<const QObject *> m_attached;
     QJSValue m_itself;
     Location m_lastErrorLocation;
     qint64 m_pixelBytesHandedOut = 0;

@@ -42,6 +42,9 @@ void TestSeamControls::startsEmptyAndTakesItsProperties_data()
              {"new ColorWell({color: '#A0b1C2'}).color", "\"#A0b1C2\""},
              {"new ArrayController({rows: [{LogStatus: 'OK', n: 1}]}).rows", "[{\"LogStatus\":\"OK\",\"n\":1}]"},
              {"(() => { const w = new Window(), s = new Window({sheet: w}); return s.sheet === w; })()", "true"},
+             {"(() => { const w = new Window(), a = new Window({sheet: w}), b = new Window(); b.sheet = a.sheet; "
+              "a.sheet = null; return [b.sheet === w, a.sheet]; })()",
+              "[true,null]"},
              {"(() => { const p = new ProgressIndicator({value: 1}); p.value = 2.5; p.value = 2.5; return p.history; "
               "})()",
               "[1,2.5,2.5]"},

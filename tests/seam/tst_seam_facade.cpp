@@ -17,6 +17,7 @@ private Q_SLOTS:
     void keepsAControlOnAnOutletAlive();
     void keepsAServiceAliveThatWasGivenBack();
     void deletesServicesThatNobodyHolds();
+    void findsOneObjectThroughTwoFields();
     void leavesObjectsOfTheApplicationAlone();
     void answersManyCallsAndPrintsWhatOneCosts();
 };
@@ -128,12 +129,26 @@ void TestSeamFacade::deletesServicesThatNobodyHolds()
     {
         ScriptRun run;
         QVERIFY2(run.run(QStringLiteral("for (let i = 0; i < 100; ++i) new EchoService();"
+                                        "for (let i = 0; i < 100; ++i) new Window({sheet: new EchoService()});"
+                                        "for (let i = 0; i < 100; ++i) { const a = new EchoService();"
+                                        " a.outlet = a; const b = new EchoService(); b.outlet = a.outlet; }"
                                         "Function('return this')().held = echo;")),
                  qPrintable(run.error));
         run.engine().engine().collectGarbage();
         QCOMPARE(EchoService::livingCount, before + 1);
     }
     QCOMPARE(EchoService::livingCount, before);
+}
+
+void TestSeamFacade::findsOneObjectThroughTwoFields()
+{
+    ScriptRun run;
+    QVERIFY2(
+        run.run(QStringLiteral("const a = new Window({sheet: echo}), b = new EchoService(); b.outlet = a; gc(); gc();"
+                               "const c = echo.giveControl(a); report([c === a, b.giveControl(echo) === echo]);"
+                               "report(Object.getOwnPropertySymbols(a).every(s => !('objectName' in Object(a[s]))));")),
+        qPrintable(run.error));
+    QCOMPARE(run.reports, (QStringList{QStringLiteral("[true,true]"), QStringLiteral("true")}));
 }
 
 void TestSeamFacade::leavesObjectsOfTheApplicationAlone()

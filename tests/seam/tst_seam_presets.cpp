@@ -11,7 +11,7 @@ const QString imports =
     QStringLiteral("import { dbViewController, Ztbookmarks, cSheetControl } from 'quorlin'; "
                    "const db = new dbViewController(); db.linkToPresetsDB(); const marks = new Ztbookmarks(); "
                    "const row = (name, process) => [name, process, 'x'].concat(Array(59).fill('')); "
-                   "const text = bytes => String.fromCharCode.apply(null, new Uint8Array(bytes)); ");
+                   "const text = bytes => String.fromCharCode.apply(null, Array.from(new Uint8Array(bytes))); ");
 
 } // namespace
 
@@ -39,7 +39,7 @@ void TestSeamPresets::answersInTheFormsOfScripts_data()
     using Row = std::pair<const char *, const char *>;
     for (const auto &[expression, outcome] : std::initializer_list<Row>{
              {"db.linkToPresetsDB()", "null"},
-             {"db.dbFilePath().slice(-27)", "\"/BrelmarkCom/QuorlinPS.sql\""},
+             {"db.dbFilePath().slice(-26)", "\"/BrelmarkCom/QuorlinPS.sql\""},
              {"[db.myDb, db.myPresetExist, db.myPresetValueStr, db.myPresetsArray, db.myPresetsArrayToPass, "
               "db.myEmptyArray, db.mySearchValue4]",
               "[null,null,null,null,null,null,null]"},
