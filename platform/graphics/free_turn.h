@@ -1,0 +1,13 @@
+#pragma once
+
+// Private to the platform.
+
+#include "platform/graphics/pixels.h"
+#include "platform/graphics/turn.h"
+
+namespace platform {
+
+/** The image in memory, turned as turned() describes it; the canvas is known to be in the budget. Throws vips::VError. */
+vips::VImage turnedFreely(const vips::VImage &image, const FreeTurn &turn);
+
+} // namespace platform
