@@ -1,0 +1,230 @@
+// Presets: an action's settings as the 62 texts of a row of the presets database, and back; names; exported files. Pure but for
+// translation; no service is used. docs/presets.md has the layout.
+
+import { FORMS, VERSION } from "./preset-forms.js";
+import { fill } from "./wording.js";
+
+export const FIELDS = 62;
+export const LONGEST_NAME = 100;
+
+const MARK = "Quorlin ";
+const FILE_MARK = "Quorlin presets";
+
+// The place of a column in a row: NameOfPreset, Process and Action are 0 to 2, StrField3 is 3.
+function placeOf(column) {
+    return Number(column.slice("StrField".length));
+}
+
+const HEX = "0123456789ABCDEF";
+
+function hex(code, digits) {
+    let text = "";
+    for (let shift = 4 * (digits - 1); shift >= 0; shift -= 4) {
+        text += HEX[(code >> shift) & 15];
+    }
+    return text;
+}
+
+function isHalf(code) {
+    return code >= 0xd800 && code <= 0xdfff;
+}
+
+function isPair(text, i) {
+    const first = text.charCodeAt(i);
+    const second = text.charCodeAt(i + 1);
+    return first >= 0xd800 && first <= 0xdbff && second >= 0xdc00 && second <= 0xdfff;
+}
+
+/** Any text without what a value must not hold: an apostrophe, a bar, a control character, half a surrogate pair. */
+export function encoded(text) {
+    let result = "";
+    for (let i = 0; i < text.length; i += 1) {
+        const code = text.charCodeAt(i);
+        if (isPair(text, i)) {
+            result += text.substr(i, 2);
+            i += 1;
+        } else if (isHalf(code)) {
+            result += "%u" + hex(code, 4);
+        } else {
+            result += code < 32 || code === 127 || "%'|".indexOf(text[i]) >= 0 ? "%" + hex(code, 2) : text[i];
+        }
+    }
+    return result;
+}
+
+/** What encoded() was given; null for a text that it never gives. */
+export function decoded(text) {
+    const result = text.replace(/%u([0-9A-F]{4})|%([0-9A-F]{2})/g, (all, four, two) => String.fromCharCode(parseInt(four || two, 16)));
+    return encoded(result) === text ? result : null;
+}
+
+const WRITERS = {
+    text: (value) => (typeof value === "string" ? encoded(value) : null),
+    number: (value) => (typeof value === "number" && isFinite(value) ? String(value) : null),
+    whole: (value) => (Number.isSafeInteger(value) ? String(value) : null),
+    flag: (value) => (typeof value === "boolean" ? (value ? "1" : "0") : null),
+};
+
+const READERS = {
+    text: decoded,
+    number: (text) => (/^-?\d+(\.\d+)?(e[-+]?\d+)?$/.test(text) && isFinite(Number(text)) ? Number(text) : null),
+    whole: (text) => (/^-?\d+$/.test(text) && Number.isSafeInteger(Number(text)) ? Number(text) : null),
+    flag: (text) => (text === "1" ? true : text === "0" ? false : null),
+};
+
+function valueAt(settings, path) {
+    return path.split(".").reduce((part, key) => (part === null || part === undefined ? undefined : part[key]), settings);
+}
+
+function setAt(settings, path, value) {
+    const keys = path.split(".");
+    const last = keys.pop();
+    const owner = keys.reduce((part, key) => part[key], settings);
+    owner[last] = value;
+}
+
+function copyOf(settings) {
+    return JSON.parse(JSON.stringify(settings));
+}
+
+/**
+ * The 62 texts for a preset. `action` is the name of the action's step. Settings that the form does not know, or that are of
+ * another kind than it says, are an error of the program.
+ */
+export function rowOf(action, name, settings) {
+    const form = FORMS[action];
+    const row = Array(FIELDS).fill("");
+    row[0] = name;
+    row[1] = form.process;
+    row[2] = form.mode === "" ? "" : encoded(String(settings[form.mode]));
+    row[3] = MARK + VERSION;
+    for (const column of Object.keys(form.columns)) {
+        const [path, kind] = form.columns[column];
+        const text = WRITERS[kind](valueAt(settings, path));
+        if (text === null) {
+            throw new Error("The setting " + path + " of " + action + " has no form for a preset");
+        }
+        row[placeOf(column)] = text;
+    }
+    return row;
+}
+
+function versionOf(mark) {
+    const found = new RegExp("^" + MARK + "([1-9][0-9]{0,5})$").exec(mark);
+    return found === null ? 0 : Number(found[1]);
+}
+
+// The settings of a row, or null if one of its values is none.
+function settingsIn(row, form, standard) {
+    const settings = copyOf(standard);
+    for (const column of Object.keys(form.columns)) {
+        const [path, kind] = form.columns[column];
+        const text = row[placeOf(column)];
+        // A setting that came later than the preset has an empty column; no number and no flag is written like that.
+        const value = text === "" && kind !== "text" ? valueAt(standard, path) : READERS[kind](text);
+        if (value === null) {
+            return null;
+        }
+        setAt(settings, path, value);
+    }
+    const mode = decoded(row[2]);
+    if (form.mode !== "" && mode) {
+        settings[form.mode] = mode;
+    }
+    return mode === null ? null : settings;
+}
+
+/**
+ * What a row of the database is: {name, process, action, state, settings, note}. `standard` is the settings that a new pane has, by the
+ * action's name; `action` is that name, or "" for a process that is not ours.
+ *
+ * state: "ready" with settings; "newer", a form of a later version; "unknown", of another kind; "damaged", with a value that is
+ * none. Only a ready one has settings, and none of the others may be changed; note says so in a sentence.
+ */
+export function presetOf(row, standard) {
+    const fields = typeof row === "string" ? row.split("|") : row;
+    const action = Object.keys(FORMS).find((name) => FORMS[name].process === fields[1]) || "";
+    const preset = { name: fields[0], process: fields[1] || "", action: action, state: "unknown", settings: null, note: "" };
+    const version = fields.length === FIELDS ? versionOf(fields[3]) : 0;
+    if (action === "" || version === 0) {
+        preset.note = qsTr("This preset was not made by Quorlin. It is left as it is.");
+    } else if (version > VERSION) {
+        preset.state = "newer";
+        preset.note = qsTr("This preset was made by a newer Quorlin. It is left as it is.");
+    } else {
+        preset.settings = settingsIn(fields, FORMS[action], standard[action]);
+        preset.state = preset.settings === null ? "damaged" : "ready";
+        preset.note = preset.settings === null ? qsTr("This preset is damaged and cannot be used.") : "";
+    }
+    return preset;
+}
+
+/** A name as it is stored: without blanks around it, accents in one writing. */
+export function storedName(text) {
+    return text.trim().normalize("NFC");
+}
+
+function sameName(a, b) {
+    return storedName(a).toLowerCase() === storedName(b).toLowerCase();
+}
+
+/** What is wrong with a name, in a sentence; "" if nothing is. `taken` are the names of all presets of every action. */
+export function nameProblem(text, taken) {
+    const name = storedName(text);
+    if (name === "") {
+        return qsTr("Enter a name.");
+    }
+    if (name.indexOf("'") >= 0) {
+        return qsTr("A name cannot have a straight apostrophe (') in it. A curved one (\u2019) is fine.");
+    }
+    if (name.indexOf("|") >= 0) {
+        return qsTr("A name cannot have a bar (|) in it.");
+    }
+    // All that is left to be written as a code: control characters, and half a character.
+    if (encoded(name.replace(/%/g, "")).indexOf("%") >= 0) {
+        return qsTr("A name cannot have line breaks or control characters in it.");
+    }
+    if (name.length > LONGEST_NAME) {
+        return fill(qsTr("A name can have up to %1 characters."), LONGEST_NAME);
+    }
+    const other = taken.find((known) => sameName(known, name));
+    return other === undefined ? "" : fill(qsTr("There is a preset named %1 already."), other);
+}
+
+/** The name with the lowest number behind it that makes it free: "Web", "Web 2" ... */
+export function freeName(text, taken) {
+    const name = storedName(text);
+    let candidate = name;
+    for (let n = 2; taken.some((known) => sameName(known, candidate)); n += 1) {
+        candidate = name + " " + n;
+    }
+    return candidate;
+}
+
+/** The text of an exported file with these rows, as they stand, of whatever form. */
+export function fileText(rows) {
+    return JSON.stringify({ format: FILE_MARK, version: 1, presets: rows }, null, 1) + "\n";
+}
+
+function isRow(row) {
+    return Array.isArray(row) && row.length === FIELDS && row.every((value) => typeof value === "string" && !/['|\u0000]/.test(value));
+}
+
+/** What a file holds: {rows, problem}; problem is a sentence where it is no file of presets, or holds some that are none. */
+export function rowsOfFile(text) {
+    let content = null;
+    try {
+        content = JSON.parse(text);
+    } catch (error) {
+        content = null;
+    }
+    if (content === null || typeof content !== "object" || content.format !== FILE_MARK || !Array.isArray(content.presets)) {
+        return { rows: [], problem: qsTr("This file holds no presets.") };
+    }
+    if (content.version !== 1) {
+        return { rows: [], problem: qsTr("This file was made by a newer Quorlin.") };
+    }
+    const rows = content.presets.filter((row) => isRow(row) && nameProblem(row[0], []) === "");
+    const lost = content.presets.length - rows.length;
+    return { rows: rows, problem: lost === 0 ? "" : fill(qsTr("%1 of %2 presets in this file cannot be used."), lost, content.presets.length) };
+}
