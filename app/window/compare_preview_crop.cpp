@@ -41,7 +41,8 @@ void ComparePreview::prepareOverlay()
 {
     QImage image;
     if (!m_overlay.isNull() && !m_base.isNull())
-        image = m_overlay.scaledTo(m_base.size()).value_or(platform::Bitmap()).toScreenImage();
+        image =
+            platform::resampleRoughly(m_overlay.bitmap(), m_base.size()).value_or(platform::Bitmap()).toScreenImage();
     m_cropFrame->setOverlay(image);
 }
 

@@ -68,6 +68,21 @@ Result<Bitmap> resample(const Bitmap &bitmap, QSize size)
     }
 }
 
+Result<Bitmap> resampleRoughly(const Bitmap &bitmap, QSize size)
+{
+    if (bitmap.isNull() || size.isEmpty())
+        return resample(bitmap, size);
+    const int across = std::max(1, bitmap.width() / size.width());
+    const int down = std::max(1, bitmap.height() / size.height());
+    try {
+        const Bitmap::Pixels &pixels = bitmap.pixels();
+        const vips::VImage fewer = pixels.image.subsample(across, down);
+        return resample(bitmapFromImage(fewer, pixels.resolution, pixels.quantisation), size);
+    } catch (const vips::VError &error) {
+        return failure(ErrorCode::TooLarge, takeVipsError(error));
+    }
+}
+
 Result<Bitmap> transparent(QSize size)
 {
     constexpr int bands = 4;

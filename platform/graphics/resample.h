@@ -16,6 +16,12 @@ bool fitsMemoryBudget(qint64 width, qint64 height, int bands, int bytesPerCompon
 Result<Bitmap> resample(const Bitmap &bitmap, QSize size);
 
 /**
+ * As resample(), after pixels between those that are needed were left out: a hundred times faster where it shrinks much,
+ * for drawings without fine detail.
+ */
+Result<Bitmap> resampleRoughly(const Bitmap &bitmap, QSize size);
+
+/**
  * The bitmap with its top left corner at @p place on a transparent canvas of @p size; what lies outside is cut off.
  * Keeps depth and colour space and adds alpha where some of the canvas stays empty. Fails with InvalidValue or TooLarge.
  */
