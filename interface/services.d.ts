@@ -233,6 +233,19 @@ declare module "quorlin" {
         hCallPreferencesWw(sender: sender): null;
     }
 
+    /** Lengths in a unit, as pixels of one picture at its own resolution. */
+    export class cMConversion {
+        constructor();
+        /** The last result. */
+        myNewValue: whole;
+        /** The resolution of the last picture, in dots per inch. */
+        myDPIvalue: single;
+        /** Units are "pixel", "mm", "cm", "inch", "pica", "punt"; with a target other than "pixel" the last result. */
+        convertXtoPixel(path: text, targetUnit: text, unit: text, value: single): single;
+        /** Dots per inch, rounded up; 72 where none is stated, 0 for a file that cannot be read. */
+        getPictureDPI(path: text): single;
+    }
+
     /** Collects the input of the actions; called on the class. */
     export class cToolBox {
         constructor();

@@ -9,6 +9,7 @@
 
 #include "files/cToolBox.h"
 #include "image/ZtImageHandling.h"
+#include "image/cMConversion.h"
 #include "platform/desktop/stand_ins.h"
 #include "presets/Ztbookmarks.h"
 #include "presets/dbViewController.h"
@@ -44,6 +45,7 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<ZtImageHandling>(),
         serviceEntry<Ztbookmarks>(),
         serviceEntry<cSheetControl>(),
+        serviceEntry<cMConversion>(),
         serviceEntry<cToolBox>(),
         serviceEntry<dbViewController>(),
         serviceEntry<mainViewController>(),

@@ -50,6 +50,10 @@ BmpHeader readBmpHeader(QIODevice &file)
         return {};
     BmpHeader header;
     header.size = QSize(int(fields.width), int(fields.height));
+    if (numberAt<quint32>(head, fileHeaderBytes) >= usualHeaderBytes) {
+        header.horizontalPerMetre = numberAt<qint32>(head, 38);
+        header.verticalPerMetre = numberAt<qint32>(head, 42);
+    }
     constexpr quint32 plain = 0;
     constexpr quint32 plainWithMasks = 3;
     if (fields.compression == plain || fields.compression == plainWithMasks) {

@@ -11,6 +11,8 @@ struct BmpHeader
 {
     QSize size;             ///< empty where the headers are damaged
     qint64 bytesNeeded = 0; ///< length of the whole file, 0 where the rows are compressed
+    int horizontalPerMetre = 0;
+    int verticalPerMetre = 0;
 };
 
 BmpHeader readBmpHeader(QIODevice &file);

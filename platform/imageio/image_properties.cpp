@@ -49,12 +49,8 @@ QSizeF ImageSource::pointSize() const
 {
     constexpr double pointsPerInch = 72;
     Resolution resolution;
-    try {
-        if (m_file)
-            resolution = resolutionOf(openImage(m_file->bytes, m_file->content), m_file->bytes, m_file->content);
-    } catch (const vips::VError &error) {
-        takeVipsError(error);
-    }
+    if (m_file)
+        resolution = uprightResolution(resolutionOf(m_file->bytes, m_file->content), m_file->orientation);
     const auto inPoints = [](int pixels, double dpi) { return dpi > 0 ? pixels * pointsPerInch / dpi : pixels; };
     const QSize pixels = uprightSize();
     return {inPoints(pixels.width(), resolution.horizontal), inPoints(pixels.height(), resolution.vertical)};
@@ -70,7 +66,7 @@ QVariantMap ImageSource::properties() const
     try {
         const vips::VImage image = openImage(m_file->bytes, m_file->content);
         addPixelProperties(properties, image);
-        const Resolution resolution = resolutionOf(image, m_file->bytes, m_file->content);
+        const Resolution resolution = resolutionOf(m_file->bytes, m_file->content);
         if (resolution.horizontal > 0) {
             properties.insert(QStringLiteral("DPIWidth"), resolution.horizontal);
             properties.insert(QStringLiteral("DPIHeight"), resolution.vertical);

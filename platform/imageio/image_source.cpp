@@ -148,13 +148,15 @@ QRect storedPart(const QRect &upright, QSize size, int orientation)
 }
 
 /** What is known of the resolution and of the JPEG tables, to travel with the pixels. */
-Bitmap finished(const File &file, const VImage &image)
+Bitmap finished(const File &file, const VImage &image, Orientation orientation = Orientation::Upright)
 {
     const std::optional<JpegHeader> header = jpegHeaderOf(file.bytes, file.content);
     std::optional<JpegQuantisation> quantisation;
     if (header)
         quantisation = header->quantisation;
-    return bitmapFromImage(image, resolutionOf(image, file.bytes, file.content), quantisation);
+    const Resolution stored = resolutionOf(file.bytes, file.content);
+    const bool isTurned = orientation == Orientation::Upright;
+    return bitmapFromImage(image, isTurned ? uprightResolution(stored, file.orientation) : stored, quantisation);
 }
 
 /** The strongest shrink of the JPEG decoder that still leaves at least the size that is wanted. */
@@ -247,7 +249,7 @@ Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const
             return tooLarge(m_file->name(), QSize(image.width(), image.height()));
         if (options.orientation == Orientation::Upright && m_file->orientation > 1)
             image = turnedUpright(image.copy_memory(), m_file->orientation);
-        return finished(*m_file, image);
+        return finished(*m_file, image, options.orientation);
     } catch (const vips::VError &error) {
         return unreadable(m_file->name(), takeVipsError(error));
     }

@@ -2,13 +2,24 @@
 
 #include "platform/imageio/opened_file.h"
 
+#include "platform/imageio/bmp_header.h"
+
 #include <QtEndian>
+
+#include <cmath>
 
 namespace platform {
 namespace {
 
 constexpr double metresPerInch = 0.0254;
 constexpr double millimetresPerInch = 25.4;
+
+double perInch(double perMetre)
+{
+    const double exact = perMetre * metresPerInch;
+    const double whole = std::round(exact);
+    return std::round(whole / metresPerInch) == perMetre ? whole : exact;
+}
 
 /** The pHYs chunk of a PNG, where it names the metre as its unit. */
 Resolution ofPng(QIODevice &file)
@@ -25,11 +36,53 @@ Resolution ofPng(QIODevice &file)
             const bool isPerMetre = chunk[16] == 1;
             if (!isPerMetre)
                 return {};
-            return {qFromBigEndian<quint32>(chunk.constData() + 8) * metresPerInch,
-                    qFromBigEndian<quint32>(chunk.constData() + 12) * metresPerInch};
+            return {perInch(qFromBigEndian<quint32>(chunk.constData() + 8)),
+                    perInch(qFromBigEndian<quint32>(chunk.constData() + 12))};
         }
         position += chunkFrame + qint64(qFromBigEndian<quint32>(chunk.constData()));
     }
+}
+
+Resolution ofBitmapFile(QIODevice &file)
+{
+    const BmpHeader header = readBmpHeader(file);
+    return {perInch(header.horizontalPerMetre), perInch(header.verticalPerMetre)};
+}
+
+/** The resolution among a Photoshop file's resources, always given per inch whatever unit it is to be shown in. */
+Resolution ofPhotoshop(QIODevice &file)
+{
+    constexpr int headerBytes = 26;
+    constexpr quint16 resolutionId = 1005;
+    constexpr double onePerInch = 65536; // fixed point
+    const auto number = [&file] {
+        const QByteArray bytes = file.read(4);
+        return bytes.size() == 4 ? qint64(qFromBigEndian<quint32>(bytes.constData())) : -1;
+    };
+    if (!file.seek(headerBytes))
+        return {};
+    const qint64 colorBytes = number();
+    if (colorBytes < 0 || !file.seek(file.pos() + colorBytes))
+        return {};
+    const qint64 resourceBytes = number();
+    const qint64 end = file.pos() + resourceBytes;
+    while (file.pos() < end) {
+        const QByteArray head = file.read(7); // mark, number, length of a name that is padded to an even length
+        if (head.size() < 7 || !head.startsWith("8BIM") || !file.seek(file.pos() + (uchar(head[6]) | 1)))
+            return {};
+        const qint64 length = number();
+        if (length < 0)
+            return {};
+        if (qFromBigEndian<quint16>(head.constData() + 4) == resolutionId) {
+            const QByteArray values = file.read(16);
+            return values.size() < 16 ? Resolution()
+                                      : Resolution{qFromBigEndian<quint32>(values.constData()) / onePerInch,
+                                                   qFromBigEndian<quint32>(values.constData() + 8) / onePerInch};
+        }
+        if (!file.seek(file.pos() + length + length % 2))
+            return {};
+    }
+    return {};
 }
 
 Resolution ofMetadata(const PictureBytes &bytes, Content content)
@@ -39,9 +92,27 @@ Resolution ofMetadata(const PictureBytes &bytes, Content content)
             properties.value(QStringLiteral("DPIHeight")).toDouble()};
 }
 
-Resolution ofDecoder(const vips::VImage &image)
+Resolution ofContainer(const PictureBytes &bytes, Content content)
 {
-    return {image.xres() * millimetresPerInch, image.yres() * millimetresPerInch};
+    const std::unique_ptr<QIODevice> device = bytes.device();
+    if (!device)
+        return {};
+    if (content == Content::Png)
+        return ofPng(*device);
+    return content == Content::Bmp ? ofBitmapFile(*device) : ofPhotoshop(*device);
+}
+
+/** What the decoder finds in files whose metadata cannot be read otherwise. */
+Resolution ofTiffDecoder(const PictureBytes &bytes)
+{
+    try {
+        const vips::VImage image = openImage(bytes, Content::Tiff);
+        if (image.get_typeof(VIPS_META_RESOLUTION_UNIT) != 0)
+            return {image.xres() * millimetresPerInch, image.yres() * millimetresPerInch};
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+    }
+    return {};
 }
 
 /** A number that can be meant: anything else counts as not stated. */
@@ -63,16 +134,13 @@ std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content conten
     return device ? readJpegHeader(*device) : std::nullopt;
 }
 
-Resolution resolutionOf(const vips::VImage &image, const PictureBytes &bytes, Content content)
+Resolution resolutionOf(const PictureBytes &bytes, Content content)
 {
     switch (content) {
     case Content::Png:
-        if (const std::unique_ptr<QIODevice> device = bytes.device())
-            return plausible(ofPng(*device));
-        return {};
     case Content::Bmp:
     case Content::Photoshop:
-        return plausible(ofDecoder(image));
+        return plausible(ofContainer(bytes, content));
     case Content::Pdf:
     case Content::Svg:
     case Content::Gif:
@@ -80,13 +148,18 @@ Resolution resolutionOf(const vips::VImage &image, const PictureBytes &bytes, Co
     default:
         break;
     }
-    Resolution stated = plausible(ofMetadata(bytes, content));
+    const Resolution stated = plausible(ofMetadata(bytes, content));
     if (stated.horizontal > 0)
         return stated;
     if (const std::optional<JpegHeader> header = jpegHeaderOf(bytes, content))
         return plausible({header->horizontalDpi, header->verticalDpi});
-    const bool decoderKnows = content == Content::Tiff && image.get_typeof(VIPS_META_RESOLUTION_UNIT) != 0;
-    return decoderKnows ? plausible(ofDecoder(image)) : Resolution();
+    return content == Content::Tiff ? plausible(ofTiffDecoder(bytes)) : Resolution();
+}
+
+Resolution uprightResolution(Resolution stored, int orientation)
+{
+    constexpr int firstOnItsSide = 5;
+    return orientation >= firstOnItsSide ? Resolution{stored.vertical, stored.horizontal} : stored;
 }
 
 } // namespace platform
