@@ -73,10 +73,7 @@ Bitmap Bitmap::fromImage(const QImage &image)
     if (image.isNull())
         return {};
     initVips();
-    Resolution resolution;
-    constexpr double inchesPerMetre = 1 / 0.0254;
-    resolution.horizontal = image.dotsPerMeterX() / inchesPerMetre;
-    resolution.vertical = image.dotsPerMeterY() / inchesPerMetre;
+    const Resolution resolution = {dotsPerInch(image.dotsPerMeterX()), dotsPerInch(image.dotsPerMeterY())};
     return bitmapFromImage(imageFromQImage(image), resolution);
 }
 

@@ -100,6 +100,14 @@ VImage withKnownInterpretation(const VImage &image)
     return plain.copy(VImage::option()->set("interpretation", plain.bands() < 3 ? grey : rgb));
 }
 
+double dotsPerInch(double dotsPerMetre)
+{
+    constexpr double metresPerInch = 0.0254;
+    const double exact = dotsPerMetre * metresPerInch;
+    const double whole = std::round(exact);
+    return std::round(whole / metresPerInch) == dotsPerMetre ? whole : exact;
+}
+
 int bytesPerComponent(const VImage &image)
 {
     return int(vips_format_sizeof(image.format()));

@@ -14,6 +14,12 @@ struct Resolution
     double vertical = 0;
 };
 
+/**
+ * Dots per inch from the whole dots per metre that some files and images hold: what a whole number of dots per inch is
+ * rounded to there counts as that number, 72 and not 72.009.
+ */
+double dotsPerInch(double dotsPerMetre);
+
 struct Bitmap::Pixels
 {
     vips::VImage image; ///< decoded, in memory; interpretation, profile and nothing else of metadata

@@ -6,20 +6,10 @@
 
 #include <QtEndian>
 
-#include <cmath>
-
 namespace platform {
 namespace {
 
-constexpr double metresPerInch = 0.0254;
 constexpr double millimetresPerInch = 25.4;
-
-double perInch(double perMetre)
-{
-    const double exact = perMetre * metresPerInch;
-    const double whole = std::round(exact);
-    return std::round(whole / metresPerInch) == perMetre ? whole : exact;
-}
 
 /** The pHYs chunk of a PNG, where it names the metre as its unit. */
 Resolution ofPng(QIODevice &file)
@@ -36,8 +26,8 @@ Resolution ofPng(QIODevice &file)
             const bool isPerMetre = chunk[16] == 1;
             if (!isPerMetre)
                 return {};
-            return {perInch(qFromBigEndian<quint32>(chunk.constData() + 8)),
-                    perInch(qFromBigEndian<quint32>(chunk.constData() + 12))};
+            return {dotsPerInch(qFromBigEndian<quint32>(chunk.constData() + 8)),
+                    dotsPerInch(qFromBigEndian<quint32>(chunk.constData() + 12))};
         }
         position += chunkFrame + qint64(qFromBigEndian<quint32>(chunk.constData()));
     }
@@ -46,7 +36,7 @@ Resolution ofPng(QIODevice &file)
 Resolution ofBitmapFile(QIODevice &file)
 {
     const BmpHeader header = readBmpHeader(file);
-    return {perInch(header.horizontalPerMetre), perInch(header.verticalPerMetre)};
+    return {dotsPerInch(header.horizontalPerMetre), dotsPerInch(header.verticalPerMetre)};
 }
 
 /** The resolution among a Photoshop file's resources, always given per inch whatever unit it is to be shown in. */

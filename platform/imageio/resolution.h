@@ -13,9 +13,6 @@ std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content conten
 /**
  * The resolution a file states, in dots per inch; 0 where it states none or gives a number without a unit.
  * Order of trust: the container's own statement (PNG, bitmap, Photoshop), then EXIF or TIFF, then JFIF. Decodes nothing.
- *
- * PNG and bitmap files hold whole numbers of pixels per metre: what a whole number of dots per inch is rounded to there
- * is read as that number, 72 and not 72.009.
  */
 Resolution resolutionOf(const PictureBytes &bytes, Content content);
 

@@ -170,7 +170,8 @@ private Q_SLOTS:
         cMConversion conversion;
         if (!platform::ImageSource::open(path))
             QSKIP("not a picture that can be read");
-        const bool isWhole = std::abs(dpi - std::round(dpi)) < 0.02; // as files in pixels per metre state it
+        // Whole dots per inch that were rounded to whole pixels per metre are read as what was meant.
+        const bool isWhole = std::round(std::round(dpi) / 0.0254) == std::round(dpi / 0.0254);
         const double wanted = dpi > 0 ? dpi : 72;
         QCOMPARE(conversion.getPictureDPI(path), isWhole ? float(std::round(wanted)) : std::ceil(float(wanted)));
     }

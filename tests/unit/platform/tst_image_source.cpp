@@ -81,7 +81,8 @@ private Q_SLOTS:
             QSKIP("not a picture that can be decoded");
         // Whole dots per inch that were rounded to whole pixels per metre are read as what was meant.
         const bool isPerMetre = row.format == QLatin1String("PNG") || row.format == QLatin1String("BMP");
-        const bool isRounded = isPerMetre && std::abs(row.dpi - std::round(row.dpi)) < 0.02;
+        const double perMetre = std::round(row.dpi / 0.0254);
+        const bool isRounded = isPerMetre && std::round(std::round(row.dpi) / 0.0254) == perMetre;
         const double stated = row.dpi > 0 ? (isRounded ? std::round(row.dpi) : row.dpi) : 72;
         QVERIFY2(std::abs(bitmap->horizontalDpi() - stated) < 0.01,
                  qPrintable(QString::number(bitmap->horizontalDpi())));
