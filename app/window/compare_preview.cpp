@@ -77,6 +77,7 @@ void ComparePreview::showResult(const QVariantMap &result)
     const QSize size(result.value(QStringLiteral("width")).toInt(), result.value(QStringLiteral("height")).toInt());
     const auto text = [&result](const char *name) { return result.value(QString::fromLatin1(name)).toString(); };
     m_wanted = {*deeds, {}, size, text("message"), text("type"), text("quality")};
+    m_estimate.forget();
     m_asked.start(0);
 }
 
