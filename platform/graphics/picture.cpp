@@ -54,10 +54,6 @@ Picture Picture::opened(const QString &path)
     const Result<ImageSource> source = ImageSource::open(path);
     if (!source)
         return {};
-    // Nothing less than a full decode tells the resolution of these two.
-    const QString type = source->typeIdentifier();
-    if (type == QLatin1String("public.bmp") || type == QLatin1String("com.adobe.photoshop-image"))
-        return fromFile(path);
     auto contents = std::make_shared<Contents>();
     contents->source = *source;
     contents->size = source->pointSize();
