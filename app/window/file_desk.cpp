@@ -5,6 +5,7 @@
 
 #include "platform/foundation/atomic_file.h"
 #include "platform/imageio/image_source.h"
+#include "platform/imageio/orientation_mark.h"
 
 #include <QCollator>
 #include <QDir>
@@ -203,6 +204,12 @@ QVariant FileDesk::storedSize(const QString &path) const
         return nothing;
     return QVariantMap{{QStringLiteral("width"), source->storedSize().width()},
                        {QStringLiteral("height"), source->storedSize().height()}};
+}
+
+QString FileDesk::markUpright(const QString &path) const
+{
+    const auto marked = platform::markUpright(path);
+    return marked ? QString() : marked.error().message;
 }
 
 QVariantMap FileDesk::picture(const QString &path) const

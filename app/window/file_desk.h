@@ -68,6 +68,8 @@ public:
 
     /** Pixels of the file as stored: {width, height}, or null for an unreadable file. */
     Q_INVOKABLE QVariant storedSize(const QString &path) const;
+    /** Marks a JPEG or TIFF file of ours as upright; see platform::markUpright(). */
+    Q_INVOKABLE QString markUpright(const QString &path) const;
     /** {width, height, orientation, type, bytes} of a picture, upright; width 0 for an unreadable file. */
     Q_INVOKABLE QVariantMap picture(const QString &path) const;
     /** The name of the picture's colour profile; empty where it has none. */
