@@ -5,6 +5,7 @@
 
 #include "platform/foundation/atomic_file.h"
 #include "platform/imageio/image_source.h"
+#include "platform/imageio/jpeg_header.h"
 #include "platform/imageio/orientation_mark.h"
 
 #include <QCollator>
@@ -204,6 +205,18 @@ QVariant FileDesk::storedSize(const QString &path) const
         return nothing;
     return QVariantMap{{QStringLiteral("width"), source->storedSize().width()},
                        {QStringLiteral("height"), source->storedSize().height()}};
+}
+
+QVariant FileDesk::jpegBlock(const QString &path) const
+{
+    QFile file(path);
+    const auto header = file.open(QIODevice::ReadOnly) ? platform::readJpegHeader(file) : std::nullopt;
+    if (!header)
+        return nothing;
+    constexpr int side = 8;
+    const bool isSampled = header->componentCount > 1;
+    return QVariantMap{{QStringLiteral("width"), isSampled ? side * header->quantisation.horizontalSampling : side},
+                       {QStringLiteral("height"), isSampled ? side * header->quantisation.verticalSampling : side}};
 }
 
 QString FileDesk::markUpright(const QString &path) const

@@ -68,6 +68,8 @@ public:
 
     /** Pixels of the file as stored: {width, height}, or null for an unreadable file. */
     Q_INVOKABLE QVariant storedSize(const QString &path) const;
+    /** The pixels of one block of a JPEG file, as stored: {width, height}; null for any other file. Reads the header only. */
+    Q_INVOKABLE QVariant jpegBlock(const QString &path) const;
     /** Marks a JPEG or TIFF file of ours as upright; see platform::markUpright(). */
     Q_INVOKABLE QString markUpright(const QString &path) const;
     /** {width, height, orientation, type, bytes} of a picture, upright; width 0 for an unreadable file. */

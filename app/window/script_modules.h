@@ -8,7 +8,10 @@ namespace window {
 
 class Shell;
 
-/** Adds the module "quorlin/files" with the object files, a FileDesk. It needs no window. */
+/**
+ * Adds the modules "quorlin/files" with the object files, a FileDesk, and "quorlin/pictures" with the object pictures, a
+ * PictureDesk. They need no window.
+ */
 void addFilesModule(script::ScriptEngine &scripts);
 
 /** Adds the module "quorlin/shell" with the object shell. */

@@ -146,6 +146,15 @@ QVariant Shell::chooseFolder(const QString &title, const QString &start)
     return firstPath(request);
 }
 
+QVariant Shell::choosePicture(const QString &title, const QString &folder, const QStringList &extensions)
+{
+    platform::PanelRequest request;
+    request.types = extensions;
+    request.message = title;
+    request.folder = folder;
+    return firstPath(request);
+}
+
 QVariant Shell::chooseNewFile(const QString &title, const QString &folder, const QString &name,
                               const QString &extension)
 {

@@ -26,6 +26,7 @@ class Shell : public QObject
     Q_PROPERTY(QObject *theme READ theme CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QStringList arguments READ arguments CONSTANT)
+    Q_PROPERTY(QString interfaceFolder READ interfaceFolder CONSTANT)
 
 public:
     /** @param interfaceFolder  the folder of main.js, from which .ui files are named */
@@ -34,6 +35,8 @@ public:
     QObject *theme() const { return &m_theme; }
     QString version() const { return QStringLiteral(QUORLIN_VERSION); }
 
+    /** The folder of main.js, without "/" at its end. */
+    QString interfaceFolder() const { return m_folder; }
     /** Files and folders that the program was started with. */
     QStringList arguments() const { return m_arguments; }
     void setArguments(const QStringList &arguments) { m_arguments = arguments; }
@@ -60,6 +63,8 @@ public:
     Q_INVOKABLE QVariantMap ask(const QVariantMap &question);
     /** The folder that was chosen, or null. */
     Q_INVOKABLE QVariant chooseFolder(const QString &title, const QString &start);
+    /** The path of a file with one of the extensions that was chosen, or null. */
+    Q_INVOKABLE QVariant choosePicture(const QString &title, const QString &folder, const QStringList &extensions);
     /** The path of a file to write, or null. */
     Q_INVOKABLE QVariant chooseNewFile(const QString &title, const QString &folder, const QString &name,
                                        const QString &extension);
