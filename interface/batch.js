@@ -2,15 +2,15 @@
 //     quorlin-script interface/batch.js OUTDIR FILE...
 // Every file gets a longest side of 1600 pixels in its own type; a name that is taken is numbered. Prints what was written
 // and where. The exit status is 0 if every picture became a file, 1 if not, 2 for a bad command line.
-// Services used: ZtImageHandling, files.
+// Services used: those of the step, files.
 
-import { ZtImageHandling } from "quorlin";
 import { files } from "quorlin/files";
 import { runItems } from "./lib/job.js";
 import { planRun } from "./lib/plan.js";
 import { logRow, summaryOf } from "./lib/report.js";
 import { keepRows } from "./lib/log-file.js";
 import { pixels, statusText } from "./lib/wording.js";
+import { makeServices } from "./services.js";
 import * as resize from "./steps/resize.js";
 
 // A generator is run to its end; each value it yields is handed on.
@@ -42,7 +42,7 @@ function tell(event) {
 
 function main(folder, paths) {
     const settings = settingsFor(folder);
-    const services = { image: new ZtImageHandling(), files: files };
+    const services = makeServices();
     const photos = paths.map((path) => files.picture(path));
     const planned = carryOut(planRun(photos.length, (i) => photos[i], paths, resize, settings, services), () => undefined);
     const results = carryOut(runItems(planned.items, resize, settings, services), tell);

@@ -13,15 +13,9 @@ export function decimalsOf(unit) {
     return DECIMALS[unit];
 }
 
-/** A length in words for a menu. */
-export function unitWord(unit) {
-    return { pixel: qsTr("Pixels"), mm: qsTr("Millimetres"), cm: qsTr("Centimetres"), inch: qsTr("Inches"), pica: qsTr("Picas"),
-             punt: qsTr("Points") }[unit];
-}
-
-/** What stands behind a number in a field, with a space in front. */
-export function unitSuffix(unit) {
-    return { pixel: qsTr(" px"), mm: qsTr(" mm"), cm: qsTr(" cm"), inch: qsTr(" in"), pica: qsTr(" pc"), punt: qsTr(" pt") }[unit];
+/** The sign of a unit, for menus and behind numbers. */
+export function unitSign(unit) {
+    return { pixel: qsTr("px"), mm: qsTr("mm"), cm: qsTr("cm"), inch: qsTr("in"), pica: qsTr("pc"), punt: qsTr("pt") }[unit];
 }
 
 function remembered(services, key, find) {

@@ -21,7 +21,7 @@ export const FORMS = {
     resize: form("Resize", "mode", {
         StrField11: ["width", "number"], StrField12: ["height", "number"], StrField13: ["longest", "number"],
         StrField14: ["percent", "number"], StrField15: ["boxWidth", "number"], StrField16: ["boxHeight", "number"],
-        StrField17: ["boxFit", "text"], StrField22: ["neverEnlarge", "flag"],
+        StrField17: ["boxFit", "text"], StrField18: ["unit", "text"], StrField22: ["neverEnlarge", "flag"],
     }),
     crop: form("Crop", "mode", {
         StrField11: ["width", "number"], StrField12: ["height", "number"], StrField13: ["unit", "text"], StrField14: ["percent", "number"],

@@ -81,7 +81,8 @@ export function turnedSize(size, element) {
     if (isExact(element)) {
         return element.angle % 180 === 0 ? { width: size.width, height: size.height } : { width: size.height, height: size.width };
     }
-    const radians = (element.angle * Math.PI) / 180;
+    // The operation takes the angle in single precision.
+    const radians = Math.fround(shortestTurn(element.angle)) * 0.017453292519943295;
     const across = Math.abs(Math.cos(radians));
     const down = Math.abs(Math.sin(radians));
     return { width: Math.trunc(size.width * across + size.height * down), height: Math.trunc(size.width * down + size.height * across) };

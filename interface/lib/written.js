@@ -81,3 +81,23 @@ export function uprightOutcome(status, path, planned, photo, carrying, services)
     const problem = services.files.markUpright(path);
     return problem ? failed(problem) : result;
 }
+
+/** The types that metadata goes along into with these settings of a step. */
+export function carriedBy(step, settings) {
+    return step.carried === undefined ? step.offer.metadata : step.carried(settings);
+}
+
+/** What the result of a picture will not hold, in words; empty where nothing is lost. */
+export function lossText(photo, typeId, carried) {
+    const type = writtenType(typeId);
+    const lost = [];
+    if (!type.profile) {
+        lost.push(qsTr("Metadata and colour profile are not kept"));
+    } else if (carried.indexOf(typeId) < 0) {
+        lost.push(qsTr("EXIF, IPTC and XMP are not kept"));
+    }
+    if (!type.alpha && mayBeTransparent(photo)) {
+        lost.push(qsTr("transparent parts become black"));
+    }
+    return lost.join(" · ");
+}

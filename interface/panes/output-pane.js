@@ -19,13 +19,13 @@ function metadataNote(types) {
     return fill(qsTr("EXIF, IPTC and XMP go along into %1 files only."), types.map((id) => writtenType(id).word).join(qsTr(" and ")));
 }
 
-function noteFor(choice, offer) {
+function noteFor(choice, carried) {
     const type = writtenType(choice);
     if (type === null) {
-        return metadataNote(offer.metadata);
+        return metadataNote(carried);
     }
     const sentences = [];
-    if (offer.metadata.indexOf(type.id) >= 0) {
+    if (carried.indexOf(type.id) >= 0) {
         sentences.push(qsTr("Metadata and colour profile go along."));
     } else if (type.profile) {
         sentences.push(qsTr("The colour profile goes along; EXIF, IPTC and XMP do not."));
@@ -135,6 +135,10 @@ export class OutputPane {
         }
         this.form.control("quality").enabled = hasQuality;
         this.form.control("qualityLabel").enabled = hasQuality;
-        this.form.control("typeNote").text = noteFor(this.output.fileType, this.offer);
+    }
+
+    /** Says what of metadata, profile and transparency the results keep; carried: the types that metadata goes into. */
+    showNote(carried) {
+        this.form.control("typeNote").text = noteFor(this.output.fileType, carried);
     }
 }

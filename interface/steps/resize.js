@@ -1,17 +1,21 @@
 // Makes a resized copy of a picture.
-// Services used: image (resizeImage, resizeImage2), files (storedSize). Plain data in, plain data out.
+// Services used: image (resizeImage, resizeImage2), units, files. Plain data in, plain data out.
 
-import { newSize } from "../lib/sizes.js";
+import { inPixels, PIXEL } from "../lib/measure.js";
 import { splitPath } from "../lib/names.js";
-import { ORIGINAL, resultType, WRITTEN } from "../lib/types.js";
+import { newSize } from "../lib/sizes.js";
+import { ORIGINAL, WRITTEN, writtenType } from "../lib/types.js";
+import { outputMessages, ready, refused, targetOf, uprightOutcome } from "../lib/written.js";
 
 export const MOST_PIXELS = 100000;
 export const MOST_PERCENT = 1000;
+/** The settings that are lengths in the unit. */
+export const LENGTHS = ["width", "height", "longest", "boxWidth", "boxHeight"];
 
 /** What a new pane shows. */
 export const defaults = {
     mode: "longest", width: 1600, height: 1200, longest: 1600, percent: 50, boxWidth: 1600, boxHeight: 1200,
-    boxFit: "fill", neverEnlarge: true,
+    boxFit: "fill", neverEnlarge: true, unit: PIXEL,
     output: {
         fileType: ORIGINAL, quality: "8", destination: { kind: "beside", name: "Resized", path: "" },
         ifTaken: "number", simulation: false,
@@ -23,58 +27,62 @@ export const offer = { types: WRITTEN.map((type) => type.id), quality: true, met
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    return settings.mode === "box" ? "box " + settings.boxWidth + "×" + settings.boxHeight : settings.mode + " " + settings[settings.mode];
+    const unit = settings.unit === PIXEL || settings.mode === "percent" ? "" : " " + settings.unit;
+    const size = settings.mode === "box" ? settings.boxWidth + "×" + settings.boxHeight : String(settings[settings.mode]);
+    return settings.mode + " " + size + unit;
 }
 
-function outOfRange(value, most) {
-    return !(Number.isInteger(value) && value >= 1 && value <= most);
+function usedFields(settings) {
+    return settings.mode === "box" ? ["boxWidth", "boxHeight"] : [settings.mode];
+}
+
+function isInRange(value, least, most, whole) {
+    return value >= least && value <= most && (!whole || Number.isInteger(value));
 }
 
 /** Messages on what is wrong with the settings; empty if a run can start. */
 export function validate(settings) {
     const messages = [];
-    const used = settings.mode === "box" ? ["boxWidth", "boxHeight"] : [settings.mode];
-    for (const field of used) {
+    for (const field of usedFields(settings)) {
         const most = field === "percent" ? MOST_PERCENT : MOST_PIXELS;
-        if (outOfRange(settings[field], most)) {
-            messages.push(qsTr("Enter a whole number from 1 to %1.").replace("%1", String(most)));
+        const whole = field === "percent" || settings.unit === PIXEL;
+        if (!isInRange(settings[field], whole ? 1 : 0.01, most, whole)) {
+            const text = whole ? qsTr("Enter a whole number from 1 to %1.") : qsTr("Enter a number above 0, up to %1.");
+            messages.push(text.replace("%1", String(most)));
         }
     }
-    const destination = settings.output.destination;
-    if (destination.kind === "folder" && !destination.path) {
-        messages.push(qsTr("Choose a folder to save to."));
-    }
-    return messages;
+    return messages.concat(outputMessages(settings.output));
 }
 
-function notesFor(photo, type) {
-    const notes = [];
-    if (type.id === "public.tiff" && (photo.orientation || 1) !== 1) {
-        notes.push(qsTr("The pixels are turned upright; the orientation tag goes along with the other metadata."));
+// The size in pixels of one picture, or why there is none: {size, reason}.
+function sizeFor(photo, settings, services) {
+    const lengths = usedFields(settings).filter((field) => field !== "percent");
+    const inUnits = inPixels(photo, settings, lengths, services);
+    if (lengths.some((field) => inUnits[field] > MOST_PIXELS)) {
+        return { size: null, reason: qsTr("it would be larger than %1 pixels").replace("%1", String(MOST_PIXELS)) };
     }
-    return notes;
+    const size = lengths.every((field) => inUnits[field] >= 1) ? newSize(photo, inUnits) : { width: 0, height: 0 };
+    return size.width < 1 || size.height < 1
+        ? { size: null, reason: qsTr("it would be less than one pixel in size") }
+        : { size: size, reason: "" };
 }
 
 /**
- * What a run would write for one picture: {status: "ready", name, width, height, part, notes}, or a final status with its
- * reason.
+ * What a run would write for one picture: {status: "ready", name, type, width, height, part, notes}, or a final status with
+ * its reason.
  */
 export function plan(photo, settings, services) {
-    const parts = splitPath(photo.path);
-    const type = resultType(parts.extension, settings.output.fileType);
-    if (type === null) {
-        const word = photo.type || parts.extension.toUpperCase();
-        return { status: "Not Supported", reason: qsTr("%1 cannot be written, choose another file type").replace("%1", word) };
+    const target = targetOf(photo, settings.output.fileType);
+    if (target.refusal !== null) {
+        return target.refusal;
     }
-    if (!photo.width || !photo.height) {
-        return { status: "Failed", reason: qsTr("not a readable picture") };
+    const found = sizeFor(photo, settings, services);
+    if (found.size === null) {
+        return { status: "Failed", reason: found.reason };
     }
-    const size = newSize(photo, settings);
-    if (size.width < 1 || size.height < 1) {
-        return { status: "Failed", reason: qsTr("it would be less than one pixel in size") };
-    }
-    return { status: "ready", reason: "", name: parts.base + type.extension, type: type.id, width: size.width,
-             height: size.height, part: size.part, notes: notesFor(photo, type) };
+    const planned = ready(splitPath(photo.path).base + target.type.extension, target.type, found.size, []);
+    planned.part = found.size.part;
+    return planned;
 }
 
 function callService(photo, size, settings, image) {
@@ -92,23 +100,23 @@ function callService(photo, size, settings, image) {
 export function run(photo, settings, services) {
     const planned = plan(photo, settings, services);
     if (planned.status !== "ready") {
-        return { status: planned.status, reason: planned.reason, outputs: [] };
+        return refused(planned);
     }
-    const status = callService(photo, newSize(photo, settings), settings, services.image);
-    if (status !== "OK") {
-        const reason = status === "Not Supported" ? qsTr("this type cannot be written") : qsTr("the file could not be written");
-        return { status: status, reason: reason, outputs: [] };
-    }
-    // The operation also answers "OK" where no bitmap could be made and no file was written.
-    const output = settings.prefix + planned.name;
-    const written = services.files.storedSize(output);
-    if (written === null) {
-        return { status: "Failed", reason: qsTr("not a readable picture"), outputs: [] };
-    }
-    if (written.width !== planned.width || written.height !== planned.height) {
-        const reason = qsTr("the result is %1 instead of %2").replace("%1", written.width + "×" + written.height)
-            .replace("%2", planned.width + "×" + planned.height);
-        return { status: "Failed", reason: reason, outputs: [] };
-    }
-    return { status: "OK", reason: "", outputs: [output], width: written.width, height: written.height };
+    const status = callService(photo, sizeFor(photo, settings, services).size, settings, services.image);
+    return uprightOutcome(status, settings.prefix + planned.name, planned, photo, offer.metadata, services);
+}
+
+/**
+ * What the preview does to the upright picture to show the result: {deeds, width, height, type, quality}. Deeds are done in
+ * their order, lengths are pixels of the full picture, origin top left.
+ */
+export function preview(photo, settings, planned) {
+    const part = planned.part;
+    const deeds = part.width < 1 || part.height < 1
+        ? [{ do: "cut", x: Math.round(part.left * photo.width), y: Math.round(part.top * photo.height),
+             width: Math.round(part.width * photo.width), height: Math.round(part.height * photo.height) }]
+        : [];
+    deeds.push({ do: "scale", width: planned.width, height: planned.height });
+    return { deeds: writtenType(planned.type).alpha ? deeds : deeds.concat([{ do: "flatten" }]), width: planned.width,
+             height: planned.height, type: planned.type, quality: settings.output.quality };
 }

@@ -20,8 +20,6 @@ export const offer = { types: [], quality: false, metadata: ["public.jpeg", "pub
 
 // The types that keep the orientation tag of the source, and with it the pixels as they are stored.
 const KEEPS_TAG = ["public.jpeg", "public.tiff"];
-// No subsampling that cameras and programs use has blocks that do not divide these.
-const BLOCK = 16;
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
@@ -50,16 +48,23 @@ function workOn(photo, settings, type) {
     const keepsTag = KEEPS_TAG.indexOf(type.id) >= 0;
     const element = forStored(wanted(settings), orientation, keepsTag);
     const lies = upright(orientation).angle % 180 !== 0;
-    const stored = turnedSize(lies ? sidesSwapped(photo) : photo, element);
-    return { element: element, stored: stored, seen: keepsTag && lies ? sidesSwapped(stored) : stored };
+    const source = lies ? sidesSwapped(photo) : photo;
+    const stored = turnedSize(source, element);
+    return { element: element, source: source, stored: stored, seen: keepsTag && lies ? sidesSwapped(stored) : stored };
 }
 
-function notesFor(photo, type, work) {
-    const exact = isExact(work.element);
-    const notes = [];
-    if (type.id === "public.jpeg" && exact && photo.width % BLOCK === 0 && photo.height % BLOCK === 0) {
-        notes.push(qsTr("Turned without loss."));
+// True where it is certain: the stored sides are whole blocks of the file.
+function isLossless(photo, type, work, services) {
+    if (type.id !== "public.jpeg" || !isExact(work.element)) {
+        return false;
     }
+    const block = services.files.jpegBlock(photo.path);
+    return block !== null && work.source.width % block.width === 0 && work.source.height % block.height === 0;
+}
+
+function notesFor(photo, type, work, services) {
+    const exact = isExact(work.element);
+    const notes = isLossless(photo, type, work, services) ? [qsTr("Turned without loss.")] : [];
     if (!exact) {
         notes.push(type.alpha ? qsTr("The canvas grows so that the corners fit.")
                               : qsTr("The canvas grows so that the corners fit; what is beside the picture becomes black."));
@@ -68,7 +73,7 @@ function notesFor(photo, type, work) {
 }
 
 /** What a run would write for one picture, or a final status with its reason. */
-export function plan(photo, settings) {
+export function plan(photo, settings, services) {
     const target = targetOf(photo, ORIGINAL);
     if (target.refusal !== null) {
         const reason = target.refusal.status === "Not Supported"
@@ -77,7 +82,7 @@ export function plan(photo, settings) {
         return { status: target.refusal.status, reason: reason };
     }
     const work = workOn(photo, settings, target.type);
-    const planned = ready(splitPath(photo.path).name, target.type, work.seen, notesFor(photo, target.type, work));
+    const planned = ready(splitPath(photo.path).name, target.type, work.seen, notesFor(photo, target.type, work, services));
     planned.stored = work.stored;
     planned.operations = operations(work.element);
     return planned;

@@ -1,12 +1,14 @@
-// make_screenshots SAMPLES FOLDER: pictures of the main window, light and dark, in two sizes.
+// make_screenshots SAMPLES FOLDER: pictures of the main window with each action, light and dark, in two sizes.
 
 #include "window_driver.h"
 
+#include "app/window/color_well.h"
 #include "app/window/side_bar.h"
 #include "app/window/theme.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QPixmap>
 #include <QTest>
@@ -34,8 +36,45 @@ void settle(WindowDriver &driver)
 
 void save(WindowDriver &driver, const QString &path)
 {
+    driver.control<QWidget>("central")->setFocus();
     settle(driver);
     driver.window().grab().toImage().convertToFormat(QImage::Format_RGB888).save(path, "PNG", 0);
+}
+
+void setNumber(WindowDriver &driver, const char *field, double value)
+{
+    driver.control<QDoubleSpinBox>(field)->setValue(value);
+}
+
+// Settings of an action that show what it does.
+void prepare(WindowDriver &driver, const QString &action)
+{
+    if (action == QLatin1String("crop")) {
+        setNumber(driver, "cropPercent", 30);
+    } else if (action == QLatin1String("turn")) {
+        driver.click("turnReset");
+        setNumber(driver, "angle", 12.5);
+    } else if (action == QLatin1String("round")) {
+        setNumber(driver, "radius", 300);
+    } else if (action == QLatin1String("background")) {
+        driver.choose("frame", QStringLiteral("band"));
+        setNumber(driver, "bandWidth", 60);
+        driver.control<window::ColorWell>("bandColor")->setColor(QStringLiteral("#e8e2d4"));
+        Q_EMIT driver.control<window::ColorWell>("bandColor")->chosen(QStringLiteral("#e8e2d4"));
+    }
+}
+
+void showActions(WindowDriver &driver, const QString &folder, const QString &appearance)
+{
+    for (const char *action : {"crop", "turn", "round", "background"}) {
+        driver.show(action);
+        prepare(driver, QString::fromLatin1(action));
+        const QString name = folder + QLatin1Char('/') + QString::fromLatin1(action) + QLatin1Char('-') + appearance;
+        driver.window().resize(1440, 900);
+        save(driver, name + QStringLiteral(".png"));
+        driver.window().resize(1280, 720);
+        save(driver, name + QStringLiteral("-small.png"));
+    }
 }
 
 } // namespace
@@ -56,6 +95,8 @@ int main(int argc, char **argv)
         driver.drop({samples(from, driver.folder())});
         driver.pictures().step(1);
         save(driver, name + QStringLiteral(".png"));
+        showActions(driver, folder, QString::fromLatin1(appearance));
+        driver.show("resize");
         driver.click("startButton");
         driver.waitForSummary();
         driver.window().resize(1280, 720);

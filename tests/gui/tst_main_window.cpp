@@ -9,13 +9,13 @@
 #include <QCheckBox>
 #include <QCryptographicHash>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QRegularExpression>
-#include <QSpinBox>
 #include <QSplitter>
 #include <QTest>
 #include <QTimer>
@@ -88,7 +88,7 @@ private Q_SLOTS:
         const QByteArray before = digestOf(path("wide.jpg"));
         m_driver->drop({m_pictures});
         QCOMPARE(m_driver->pictures().count(), 3);
-        m_driver->control<QSpinBox>("value")->setValue(1600);
+        m_driver->control<QDoubleSpinBox>("value")->setValue(1600);
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("3 pictures done")));
         QCOMPARE(sizeOf(result("wide.jpg")), QSize(1600, 800));
@@ -127,7 +127,7 @@ private Q_SLOTS:
         picture("a.jpg", 400, 300);
         m_driver->drop({m_pictures});
         m_driver->control<QAbstractButton>("simulation")->setChecked(true);
-        m_driver->control<QSpinBox>("value")->setValue(100);
+        m_driver->control<QDoubleSpinBox>("value")->setValue(100);
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().contains(QLatin1String("nothing was written")));
         QCOMPARE(m_driver->cell(0, PictureModel::NewName), QStringLiteral("a.jpg"));
@@ -141,7 +141,7 @@ private Q_SLOTS:
         const QByteArray before = digestOf(path("a.jpg"));
         m_driver->drop({m_pictures});
         m_driver->choose("destination", QStringLiteral("source"));
-        m_driver->control<QSpinBox>("value")->setValue(100);
+        m_driver->control<QDoubleSpinBox>("value")->setValue(100);
         m_driver->click("startButton");
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         QCOMPARE(sizeOf(path("a (2).jpg")), QSize(100, 75));
@@ -167,7 +167,7 @@ private Q_SLOTS:
         m_driver->drop({m_pictures});
         m_driver->choose("destination", QStringLiteral("source"));
         m_driver->choose("ifTaken", QStringLiteral("replace"));
-        m_driver->control<QSpinBox>("value")->setValue(100);
+        m_driver->control<QDoubleSpinBox>("value")->setValue(100);
         auto *start = m_driver->control<QAbstractButton>("startButton");
         QVERIFY(m_driver->waitFor([start] { return start->text().contains(QLatin1String("Replace 1 Original")); }));
         answerNextQuestion(QStringLiteral("Cancel"));
@@ -320,10 +320,10 @@ private Q_SLOTS:
 
     void keepsTheSettingsForTheNextStart()
     {
-        m_driver->control<QSpinBox>("value")->setValue(777);
+        m_driver->control<QDoubleSpinBox>("value")->setValue(777);
         m_driver->choose("fileType", QStringLiteral("public.png"));
         m_driver->startAgain();
-        QCOMPARE(m_driver->control<QSpinBox>("value")->value(), 777);
+        QCOMPARE(m_driver->control<QDoubleSpinBox>("value")->value(), 777);
         QCOMPARE(m_driver->control<QComboBox>("fileType")->currentData().toString(), QStringLiteral("public.png"));
     }
 

@@ -71,6 +71,15 @@ export class FakeFiles {
         return size === undefined ? null : size;
     }
 
+    jpegBlock() {
+        return this.block === undefined ? { width: 16, height: 16 } : this.block;
+    }
+
+    markUpright(path) {
+        this.marked = (this.marked || []).concat([path]);
+        return this.markProblem || "";
+    }
+
     readText(path) {
         return this.texts[path] === undefined ? null : this.texts[path];
     }
@@ -83,4 +92,88 @@ export class FakeFiles {
 
 export function photo(path, width, height) {
     return { path: path, name: splitPath(path).name, type: "JPEG", bytes: 1000, width: width, height: height, orientation: 1 };
+}
+
+/**
+ * Stands for the image service: remembers every call as [operation, ...values] and what the outlets said at that moment,
+ * and lets the files appear that a real one would write.
+ */
+export class FakeImage {
+    /** @param written  {path: {width, height}} */
+    constructor(files, outlets, written, status) {
+        this.files = files;
+        this.outlets = outlets;
+        this.written = written;
+        this.status = status === undefined ? "OK" : status;
+        this.calls = [];
+        this.said = [];
+    }
+
+    note(operation, values) {
+        this.calls.push([operation].concat(values));
+        this.said.push(JSON.parse(JSON.stringify(this.outlets)));
+        this.files.sizes = this.written;
+        return this.status;
+    }
+
+    resizeImage(...values) { return this.note("resizeImage", values); }
+    resizeImage2(...values) { return this.note("resizeImage2", values); }
+    cropImage(...values) { return this.note("cropImage", values); }
+    hFlipHorizontalPicture(...values) { return this.note("hFlipHorizontalPicture", values); }
+    hFlipVerticalPicture(...values) { return this.note("hFlipVerticalPicture", values); }
+    hRotatePicture(...values) { return this.note("hRotatePicture", values); }
+    roundCornersOfImage(...values) { return this.note("roundCornersOfImage", values); }
+    addOverlayColor(...values) { return this.note("addOverlayColor", values); }
+    hSaveToNewImageFile(...values) { return this.note("hSaveToNewImageFile", values); }
+
+    imageFromCGImageRef(bitmap) {
+        this.calls.push(["imageFromCGImageRef", bitmap]);
+        return new FakePicture("pointwise " + bitmap);
+    }
+
+    addBorderToImage(picture) {
+        this.calls.push(["addBorderToImage", picture.name]);
+        return new FakePicture("framed " + picture.name);
+    }
+}
+
+export class FakePicture {
+    constructor(name) {
+        this.name = name;
+        this.released = false;
+        FakePicture.all.push(this);
+    }
+
+    bitmap() { return "bitmap of " + this.name; }
+    release() { this.released = true; }
+}
+FakePicture.all = [];
+
+/** Services of which every file that a step asks for has that size; status is what the image service answers. */
+export function fakeServices(written, status) {
+    const files = new FakeFiles({});
+    const outlets = {
+        cropType: {}, position: {}, xOffset: {}, yOffset: {}, width: {}, height: {}, percentage: {}, pixels: {},
+        backgroundCheck: {}, backgroundColor: {}, bandWidth: {},
+    };
+    const services = {
+        files: files, outlets: outlets, image: new FakeImage(files, outlets, written, status), unitCache: {}, laid: [],
+        openPicture: (path) => new FakePicture(path),
+        pictures: { layOnPattern: (...values) => { services.laid.push(values); files.sizes = written; return services.patternProblem || ""; } },
+        // 254 dots per inch: ten to the millimetre.
+        units: { asked: 0,
+                 getPictureDPI: () => 254,
+                 convertXtoPixel: (path, target, unit, value) => {
+                     services.units.asked += 1;
+                     return Math.trunc(value * { mm: 10, cm: 100, inch: 254 }[unit]);
+                 } },
+    };
+    return services;
+}
+
+/** A copy of a step's own settings with changes; fields of `output` go into its output settings. */
+export function settingsOf(step, changes, output) {
+    const made = Object.assign(JSON.parse(JSON.stringify(step.defaults)), { prefix: "/s/" }, changes || {});
+    Object.assign(made.output, output || {});
+    return made;
 }

@@ -1,46 +1,23 @@
 import * as resize from "../../interface/steps/resize.js";
 import { equal, finish, test } from "./check.js";
-import { FakeFiles, photo } from "./fakes.js";
+import { fakeServices, photo, settingsOf } from "./fakes.js";
 
-function settings(changes) {
-    return Object.assign(JSON.parse(JSON.stringify(resize.defaults)), { prefix: "/s/" }, changes || {});
-}
-
-// Remembers its calls and lets the file appear that a real one would write.
-class FakeImage {
-    constructor(files, written, status) {
-        this.files = files;
-        this.written = written;
-        this.status = status || "OK";
-        this.calls = [];
-    }
-
-    resizeImage(...values) {
-        this.calls.push(values);
-        this.files.sizes = this.written === null ? {} : { "/s/a.jpg": this.written };
-        return this.status;
-    }
-
-    resizeImage2(...values) {
-        return this.resizeImage(...values);
-    }
-}
+const settings = (changes) => settingsOf(resize, changes);
 
 function run(chosen, written, status) {
-    const files = new FakeFiles({});
-    const image = new FakeImage(files, written, status);
-    return { result: resize.run(photo("/p/a.jpg", 4000, 3000), chosen, { image: image, files: files }), calls: image.calls };
+    const services = fakeServices(written === null ? {} : { "/s/a.jpg": written }, status);
+    return { result: resize.run(photo("/p/a.jpg", 4000, 3000), chosen, services), calls: services.image.calls };
 }
 
 test("asksForTheLongestSideInTheOriginalType", () => {
     const done = run(settings(), { width: 1600, height: 1200 });
-    equal(done.calls, [["/p/a.jpg", 1600, 2, "/s/", "original file type", "8"]]);
+    equal(done.calls, [["resizeImage", "/p/a.jpg", 1600, 2, "/s/", "original file type", "8"]]);
     equal([done.result.status, done.result.outputs, done.result.width, done.result.height], ["OK", ["/s/a.jpg"], 1600, 1200]);
 });
 
 test("asksForABoxThatIsFilled", () => {
     const done = run(settings({ mode: "box", boxWidth: 1000, boxHeight: 900, boxFit: "fill" }), { width: 1000, height: 900 });
-    equal([done.calls, done.result.status], [[["/p/a.jpg", 1000, 900, 1, "/s/", "original file type", "8"]], "OK"]);
+    equal([done.calls, done.result.status], [[["resizeImage2", "/p/a.jpg", 1000, 900, 1, "/s/", "original file type", "8"]], "OK"]);
 });
 
 test("failsWhereTheServiceSaysOkWithoutAFile", () => {
@@ -77,6 +54,15 @@ test("wantsAFolderWhereOneIsToBeChosen", () => {
     const chosen = settings();
     chosen.output.destination = { kind: "folder", name: "", path: "" };
     equal(resize.validate(chosen).length, 1);
+});
+
+test("cutsBeforeItScalesInThePreview", () => {
+    const shown = (changes) => {
+        const chosen = settings(changes);
+        return resize.preview(photo("/p/a.png", 4000, 3000), chosen, resize.plan(photo("/p/a.png", 4000, 3000), chosen, fakeServices({}))).deeds;
+    };
+    equal(shown({}), [{ do: "scale", width: 1600, height: 1200 }]);
+    equal(shown({ mode: "box", boxWidth: 1000, boxHeight: 1000 }), [{ do: "cut", x: 498, y: 0, width: 3001, height: 3000 }, { do: "scale", width: 1000, height: 1000 }]);
 });
 
 finish();

@@ -5,6 +5,7 @@ import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
+import { carriedBy } from "../../lib/written.js";
 import { OutputPane } from "../../panes/output-pane.js";
 import { actionNamed, GROUPS } from "./actions.js";
 
@@ -16,7 +17,10 @@ export const LOG = "log";
 export class ActionPage {
     constructor(window, changed) {
         this.window = window;
-        this.changed = guard("settings", changed);
+        this.changed = guard("settings", () => {
+            this.showCarried();
+            changed();
+        });
         this.pages = {};
         this.saveFolders = recall(defaults, "SaveFolders", { folders: [] }).folders;
         this.output = new OutputPane(this.saveFolders, this.changed);
@@ -33,9 +37,15 @@ export class ActionPage {
         window.settings = page.settings;
         window.pane = page.pane;
         this.output.use(page.settings.output, page.action.step.offer);
+        this.showCarried();
         shell.alignFields([page.pane.form, this.output.form]);
         window.form.arrangeTabs();
         keep(defaults, SHOWN, { name: page.action.name });
+    }
+
+    // What metadata goes along may hang on the settings.
+    showCarried() {
+        this.output.showNote(carriedBy(this.window.action.step, this.window.settings));
     }
 
     pageOf(action) {

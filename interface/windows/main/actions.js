@@ -1,24 +1,40 @@
 // The actions of the sidebar. A new action is one entry here, one pane and one step.
 // A title or sentence is a function, because texts are translated when they are shown.
 
-import { ResizePane } from "../../panes/resize-pane.js";
-import * as resize from "../../steps/resize.js";
 import { PICTURE_INPUT } from "../../lib/types.js";
 import { count } from "../../lib/wording.js";
+import { BackgroundPane } from "../../panes/background-pane.js";
+import { CropPane } from "../../panes/crop-pane.js";
+import { ResizePane } from "../../panes/resize-pane.js";
+import { RoundPane } from "../../panes/round-pane.js";
+import { TurnPane } from "../../panes/turn-pane.js";
+import * as background from "../../steps/background.js";
+import * as crop from "../../steps/crop.js";
+import * as resize from "../../steps/resize.js";
+import * as round from "../../steps/round.js";
+import * as turn from "../../steps/turn.js";
 
-// keyword: what the input collection asks for. takes: extensions of dropped files. icon: a file of the icon folder.
+// An action on pictures: its name is also that of its icon.
+function onPictures(name, title, step, pane, deed) {
+    return { name: name, title: title, step: step, pane: pane, keyword: "resize", takes: PICTURE_INPUT, deed: deed };
+}
+
+// keyword: what the input collection asks for. takes: extensions of dropped files. deed: what the button says.
 export const GROUPS = [
     {
         title: () => qsTr("Pictures"),
-        actions: [{
-            name: "resize",
-            title: () => qsTr("Resize"),
-            step: resize,
-            pane: ResizePane,
-            keyword: "resize",
-            takes: PICTURE_INPUT,
-            deed: (number) => count(number, qsTr("Resize 1 Picture"), qsTr("Resize %1 Pictures")),
-        }],
+        actions: [
+            onPictures("resize", () => qsTr("Resize"), resize, ResizePane,
+                       (number) => count(number, qsTr("Resize 1 Picture"), qsTr("Resize %1 Pictures"))),
+            onPictures("crop", () => qsTr("Crop"), crop, CropPane,
+                       (number) => count(number, qsTr("Crop 1 Picture"), qsTr("Crop %1 Pictures"))),
+            onPictures("turn", () => qsTr("Rotate & Flip"), turn, TurnPane,
+                       (number) => count(number, qsTr("Turn 1 Picture"), qsTr("Turn %1 Pictures"))),
+            onPictures("round", () => qsTr("Round Corners"), round, RoundPane,
+                       (number) => count(number, qsTr("Round 1 Picture"), qsTr("Round %1 Pictures"))),
+            onPictures("background", () => qsTr("Background & Border"), background, BackgroundPane,
+                       (number) => count(number, qsTr("Frame 1 Picture"), qsTr("Frame %1 Pictures"))),
+        ],
     },
 ];
 

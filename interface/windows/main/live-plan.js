@@ -72,7 +72,7 @@ export class LivePlan {
         }
         const settings = JSON.parse(JSON.stringify(window.settings));
         const work = planRun(this.ids.length, (i) => window.pictures.photo(this.ids[i]), window.pictures.paths(),
-                             window.action.step, settings, { files: window.services.files });
+                             window.action.step, settings, window.services);
         this.job.start(work, guard("plan.item", (item) => this.takeItem(item, summary)), guard("plan.end", (how) => {
             if (how === "done") {
                 this.planned(summary);

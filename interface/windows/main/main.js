@@ -1,13 +1,12 @@
 // The main window: puts its parts together and joins controls to deeds.
-// Services used: ZtImageHandling, and what the parts of the window use.
+// Services used: what the parts of the window use.
 
-import { ZtImageHandling } from "quorlin";
 import { defaults } from "quorlin/defaults";
-import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard, onProblem } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
 import { count, fill, pictures } from "../../lib/wording.js";
+import { makeServices } from "../../services.js";
 import { ActionPage, fillSideBar, LOG, lockSideBar } from "./action-page.js";
 import { Input } from "./input.js";
 import { LivePlan } from "./live-plan.js";
@@ -27,7 +26,7 @@ function makeWindow() {
     return {
         form: form,
         pictures: form.control("pictures"),
-        services: { image: new ZtImageHandling(), files: files },
+        services: makeServices(),
         action: null,
         settings: null,
         pane: null,
@@ -356,7 +355,7 @@ export function openMainWindow() {
     connectAppearance(window);
     setFill(window, recall(defaults, "Preview", { fill: false }).fill);
     window.form.onClose(guard("close", () => mayClose(window)));
-    window.form.setSplit("bodySplitter", [196, 900, 330]);
+    window.form.setSplit("bodySplitter", [196, 884, 346]);
     window.form.setSplit("centreSplitter", [560, 300]);
     window.form.remember("MainWindow");
     shell.setMainForm(window.form);

@@ -2,9 +2,10 @@
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
-import { ORIGINAL, resultType } from "../../lib/types.js";
-import { splitPath } from "../../lib/names.js";
+import { guard } from "../../lib/guard.js";
+import { writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
+import { carriedBy, lossText } from "../../lib/written.js";
 
 function pixelsText(size) {
     return fill(qsTr("%1 × %2 px"), size.width, size.height);
@@ -20,16 +21,22 @@ function originalCaption(photo) {
     return parts.concat(profile ? [profile] : []).join(" · ");
 }
 
-function resultCaption(photo, planned, output) {
-    if (planned === null || planned.status !== "ready") {
-        return "";
-    }
-    const type = resultType(splitPath(photo.path).extension, output.fileType || ORIGINAL);
+// bytes: what the file will about have, -1 while that is not known.
+function resultCaption(planned, shown, bytes) {
+    const type = writtenType(planned.type);
     const parts = [pixelsText(planned), type.word];
-    if (type.quality) {
-        parts.push(fill(qsTr("quality %1"), output.quality));
+    if (type.quality && shown.quality) {
+        parts.push(fill(qsTr("quality %1"), shown.quality));
+    }
+    if (bytes >= 0) {
+        parts.push(fill(qsTr("about %1"), files.byteText(bytes)));
     }
     return parts.join(" · ");
+}
+
+// No result, and why.
+function nothing(message) {
+    return { deeds: [], width: 0, height: 0, type: "", quality: "", message: message };
 }
 
 export class PreviewSide {
@@ -40,20 +47,43 @@ export class PreviewSide {
         this.large = shell.largePreview(window.form);
         this.shownPath = "";
         this.caption = "";
+        this.shown = null;
         this.view.setTitles(qsTr("Original"), qsTr("Result"));
         this.large.accessibleName = qsTr("Large preview");
+        this.view.resultEstimated.connect(guard("estimate", (bytes) => this.showCaptions(bytes)));
+        this.view.cropFrameEdited.connect(guard("frame", (x, y, width, height) => {
+            if (window.pane.takeFrame !== undefined) {
+                window.pane.takeFrame({ x: x, y: y, width: width, height: height });
+            }
+        }));
     }
 
     /** Shows a picture (or null) and what is planned for it (or null). */
     show(photo, planned) {
         this.showOriginal(photo);
-        const output = this.window.settings.output;
-        this.view.setCaptions(this.caption, photo === null ? "" : resultCaption(photo, planned, output));
-        if (planned !== null && planned.status === "ready") {
-            const part = planned.part;
-            this.view.showResult(part.left, part.top, part.width, part.height, planned.width, planned.height, "");
-        } else {
-            this.view.showResult(0, 0, 1, 1, 0, 0, planned === null ? "" : planned.reason);
+        const ready = planned !== null && planned.status === "ready";
+        const shown = ready ? this.window.action.step.preview(photo, this.window.settings, planned, this.window.services) : null;
+        this.shown = ready ? { planned: planned, result: shown } : null;
+        this.showFrame(photo, planned);
+        this.view.setNotes(ready ? lossText(photo, planned.type, carriedBy(this.window.action.step, this.window.settings)) : "");
+        this.view.showResult(ready ? Object.assign({ message: "" }, shown) : nothing(planned === null ? "" : planned.reason));
+        this.showCaptions(this.view.estimatedBytes);
+    }
+
+    showCaptions(bytes) {
+        const shown = this.shown;
+        this.view.setCaptions(this.caption, shown === null ? "" : resultCaption(shown.planned, shown.result, bytes));
+    }
+
+    // The frame of an action that has one, drawn by the service itself.
+    showFrame(photo, planned) {
+        const pane = this.window.pane;
+        const ready = planned !== null && planned.status === "ready" && pane.frame !== undefined;
+        const picture = ready ? pane.framePicture(photo, this.window.services) : null;
+        this.view.setOverlay(picture);
+        this.view.setCropFrame(ready ? pane.frame(photo, this.window.services) : null);
+        if (picture !== null) {
+            picture.release();
         }
     }
 

@@ -6,6 +6,7 @@ import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { runItems } from "../../lib/job.js";
 import { keepRows } from "../../lib/log-file.js";
+import { emptyTable } from "../../lib/names.js";
 import { planRun } from "../../lib/plan.js";
 import { clockText, costOf, Progress } from "../../lib/progress.js";
 import { logRow, summaryOf, toCsv } from "../../lib/report.js";
@@ -104,6 +105,7 @@ export class Run {
         window.said = "";
         window.pictures.setFocus();
         this.reset(ids);
+        window.services.unitCache = emptyTable();
         this.settings = JSON.parse(JSON.stringify(window.settings));
         this.simulated = this.settings.output.simulation;
         this.phase = "planning";
@@ -111,7 +113,7 @@ export class Run {
         window.pictures.busy = true;
         window.pictures.problemsOnly = false;
         const work = planRun(ids.length, (i) => window.pictures.photo(ids[i]), window.pictures.paths(), window.action.step,
-                             this.settings, { files: window.services.files, ask: askAboutName });
+                             this.settings, Object.assign({}, window.services, { ask: askAboutName }));
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
                        guard("run.planEnd", (how, value) => this.planEnded(how, value)));
         this.changed();

@@ -1,0 +1,91 @@
+// The settings of the Background & Border action. Services used: files and defaults, for the patterns.
+
+import { defaults } from "quorlin/defaults";
+import { files } from "quorlin/files";
+import { shell } from "quorlin/shell";
+import { guard } from "../lib/guard.js";
+import { joinPath, splitPath } from "../lib/names.js";
+import { PICTURE_INPUT } from "../lib/types.js";
+import * as background from "../steps/background.js";
+import { Pane } from "./pane.js";
+
+const UNDER = ["color", "pattern"];
+const OWN = ["checks", "lines", "dots", "linen", "paper"];
+const CHOOSE = "choose";
+
+function ownWord(name) {
+    return { checks: qsTr("Checks"), lines: qsTr("Lines"), dots: qsTr("Dots"), linen: qsTr("Linen"), paper: qsTr("Paper") }[name];
+}
+
+// The patterns in the user's own folder.
+function foundPatterns() {
+    const folder = defaults.get("PatternsDestination");
+    return typeof folder === "string" && folder !== "" ? files.collect([folder], PICTURE_INPUT).paths : [];
+}
+
+export class BackgroundPane extends Pane {
+    constructor(settings, changed) {
+        super("panes/background-pane.ui", background, settings, changed);
+        this.join();
+        this.fill();
+    }
+
+    join() {
+        this.form.control("under").segments = [qsTr("Colour"), qsTr("Pattern")];
+        this.form.setItems("frame", [qsTr("None"), qsTr("White, 10 pixels around"), qsTr("Coloured band inside")],
+                           ["none", "white", "band"]);
+        this.chosen = [];
+        this.showPatterns();
+        this.segments("under", "under", UNDER);
+        this.color("underColor", "color");
+        this.choice("frame", "frame");
+        this.color("bandColor", "bandColor");
+        this.number("bandWidth", "bandWidth");
+        this.form.control("pattern").activated.connect(guard("pattern", () => this.patternChosen()));
+    }
+
+    showPatterns() {
+        const own = OWN.map((name) => joinPath(shell.interfaceFolder, "patterns/" + name + ".png"));
+        const found = foundPatterns().concat(this.chosen.filter((path) => own.indexOf(path) < 0));
+        const known = own.concat(found);
+        if (known.indexOf(this.settings.pattern) < 0) {
+            if (this.settings.pattern !== "" && files.info(this.settings.pattern).exists) {
+                found.push(this.settings.pattern);
+            } else {
+                this.settings.pattern = own[0];
+            }
+        }
+        const names = OWN.map((name) => ownWord(name)).concat(found.length > 0 ? ["-"] : [], found.map((path) => splitPath(path).name));
+        const values = own.concat(found.length > 0 ? ["-"] : [], found);
+        this.form.setItems("pattern", names.concat(["-", qsTr("Choose…")]), values.concat(["-", CHOOSE]));
+        this.form.chooseValue("pattern", this.settings.pattern);
+    }
+
+    patternChosen() {
+        const value = this.form.value("pattern");
+        if (value !== CHOOSE) {
+            this.set("pattern", value);
+            return;
+        }
+        const path = shell.choosePicture(qsTr("Choose a pattern"), splitPath(this.settings.pattern).folder, PICTURE_INPUT);
+        if (path !== null) {
+            this.chosen.push(path);
+            this.set("pattern", path);
+        }
+        this.showPatterns();
+    }
+
+    showValues() {
+        this.form.control("under").selectedSegment = UNDER.indexOf(this.settings.under);
+        this.form.control("underColor").color = this.settings.color;
+        this.form.chooseValue("frame", this.settings.frame);
+        this.form.control("bandColor").color = this.settings.bandColor;
+        this.form.control("bandWidth").value = this.settings.bandWidth;
+    }
+
+    showState() {
+        this.visible(["underColorLabel", "underColorHost"], this.settings.under === "color");
+        this.visible(["patternLabel", "pattern"], this.settings.under === "pattern");
+        this.visible(["bandLabel", "bandHost"], this.settings.frame === "band");
+    }
+}

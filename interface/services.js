@@ -1,0 +1,41 @@
+// The services that the steps use, made once for a window or a batch, with stand-ins on the outlets of the operations.
+// Services used: ZtImageHandling, cMConversion, Picture, files, pictures.
+
+import { cMConversion, Picture, ZtImageHandling } from "quorlin";
+import { CheckBox, ColorWell, SegmentedControl, TabView, TextField } from "quorlin/controls";
+import { files } from "quorlin/files";
+import { pictures } from "quorlin/pictures";
+import { emptyTable } from "./lib/names.js";
+
+function makeOutlets() {
+    return {
+        cropType: new TabView({}), position: new SegmentedControl({}), xOffset: new TextField({}), yOffset: new TextField({}),
+        width: new TextField({}), height: new TextField({}), percentage: new TextField({}), pixels: new TextField({}),
+        backgroundCheck: new CheckBox({}), backgroundColor: new ColorWell({}), bandWidth: new TextField({}),
+    };
+}
+
+function join(image, outlets) {
+    image.tvCropType = outlets.cropType;
+    image.scImageCropPos = outlets.position;
+    image.tfCropXOffset = outlets.xOffset;
+    image.tfCropYOffset = outlets.yOffset;
+    image.tfCropXsize = outlets.width;
+    image.tfCropYsize = outlets.height;
+    image.tfCropPercentage = outlets.percentage;
+    image.tfCropPixels = outlets.pixels;
+    image.cbImageBgColorCheck = outlets.backgroundCheck;
+    image.cwImageBackgroundColor = outlets.backgroundColor;
+    image.tfBorderWidth = outlets.bandWidth;
+}
+
+/** {image, units, files, pictures, openPicture(path), outlets, unitCache}. */
+export function makeServices() {
+    const outlets = makeOutlets();
+    const image = new ZtImageHandling();
+    join(image, outlets);
+    return {
+        image: image, units: new cMConversion(), files: files, pictures: pictures,
+        openPicture: (path) => Picture.open(path), outlets: outlets, unitCache: emptyTable(),
+    };
+}
