@@ -34,4 +34,8 @@ export const FORMS = {
     round: form("Round Corners", "shape", {
         StrField11: ["radius", "number"], StrField12: ["color", "text"], StrField13: ["band", "number"], StrField22: ["background", "flag"],
     }),
+    background: form("Background and Border", "under", {
+        StrField11: ["color", "text"], StrField12: ["pattern", "text"], StrField13: ["frame", "text"], StrField14: ["bandColor", "text"],
+        StrField15: ["bandWidth", "number"],
+    }),
 };

@@ -1,5 +1,6 @@
 import { FORMS, VERSION } from "../../interface/lib/preset-forms.js";
 import { decoded, encoded, fileText, freeName, nameProblem, presetOf, rowOf, rowsOfFile, storedName } from "../../interface/lib/presets.js";
+import { defaults as background } from "../../interface/steps/background.js";
 import { defaults as crop } from "../../interface/steps/crop.js";
 import { defaults as resize } from "../../interface/steps/resize.js";
 import { defaults as round } from "../../interface/steps/round.js";
@@ -7,7 +8,7 @@ import { defaults as turn } from "../../interface/steps/turn.js";
 import { dbViewController } from "quorlin";
 import { equal, finish, isTrue, test } from "./check.js";
 
-const STANDARD = { crop: crop, resize: resize, round: round, turn: turn };
+const STANDARD = { background: background, crop: crop, resize: resize, round: round, turn: turn };
 const ACTIONS = Object.keys(STANDARD);
 const TEXTS = [
     "", " ", "plain", "it's", "a|b", "100 %", "%27", "%u0041", "%", "%%", "Größe – “x”", "日本語", "🙂🏔️", "e\u0301", "\ud83d", "\ude42x", "a\nb\tc\r",
@@ -71,6 +72,10 @@ for (const action of ACTIONS) {
         equal(presetOf(row, STANDARD).settings, STANDARD[action]);
     });
 }
+
+test("hasAStandardForEveryForm", () => {
+    equal(Object.keys(FORMS).sort(), ACTIONS.slice().sort());
+});
 
 test("givesEveryActionAProcessOfItsOwn", () => {
     const words = Object.keys(FORMS).map((name) => FORMS[name].process);
