@@ -54,6 +54,15 @@ image::CornerShape shapeForCode(const QString &code)
     return code == QLatin1String("1") ? image::CornerShape::Circle : image::CornerShape::Ellipse;
 }
 
+/** Of the pixels that were decoded only the answer stays in memory. */
+Result<Bitmap> cutToShape(const ImageSource &source, const image::CornerOptions &options)
+{
+    image::RoundedShape shape = image::roundedShape(options, source.uprightSize());
+    const Result<Bitmap> part = source.decodePart(shape.part);
+    shape.part.moveTopLeft({0, 0});
+    return part ? image::roundCorners(*part, shape) : part;
+}
+
 } // namespace
 
 image::CropRect ZtImageHandling::readCrop(QSize size, image::CropSpace space)
@@ -140,10 +149,7 @@ QString ZtImageHandling::roundCornersOfImage(const QString &path, const QString 
     // The picture of the call before makes room first.
     composedMasked = {};
     imageMasked = {};
-    image::RoundedShape shape = image::roundedShape(readCorners(radius, shapeCode), imageCIImage.uprightSize());
-    const Result<Bitmap> part = imageCIImage.decodePart(shape.part);
-    shape.part.moveTopLeft({0, 0});
-    if (const Result<Bitmap> cut = part ? image::roundCorners(*part, shape) : part)
+    if (const Result<Bitmap> cut = cutToShape(imageCIImage, readCorners(radius, shapeCode)))
         composedMasked = Picture(*cut, QSizeF(cut->size()));
     return writeComposed(prefix + name, image::optionsCarrying(imageCIImage));
 }

@@ -7,6 +7,7 @@
 #include "app/window/script_modules.h"
 #include "app/window/shell.h"
 #include "app/window/theme.h"
+#include "app/window/widget_controls.h"
 
 #include "platform/foundation/log.h"
 
@@ -27,6 +28,7 @@ StartUp::StartUp(QApplication &application)
     m_shell = std::make_unique<Shell>(folder, *m_theme);
     // The engine's queue of answers comes before the dialogs.
     platform::setPanelProvider(std::make_unique<DialogPanels>());
+    platform::setWindowControls(std::make_unique<WidgetControls>());
     m_scripts = std::make_unique<script::ScriptEngine>();
     addFilesModule(*m_scripts);
     addShellModule(*m_scripts, *m_shell);

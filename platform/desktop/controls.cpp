@@ -13,11 +13,24 @@ namespace {
 using Names = std::initializer_list<const char *>;
 
 /** The stand-ins' own names come first, so that a widget with such a property is read through it. */
-constexpr Names textNames = {"stringValue", "plainText", "text"};
+constexpr Names textNames = {"stringValue", "plainText", "text", "currentText"};
 constexpr Names stateNames = {"state", "checked"};
 constexpr Names segmentNames = {"selectedSegment", "currentIndex"};
 constexpr Names titleNames = {"selectedTitle", "currentText"};
 constexpr Names visibleNames = {"visible"};
+
+std::unique_ptr<WindowControls> &windowControls()
+{
+    static std::unique_ptr<WindowControls> controls;
+    return controls;
+}
+
+/** What the windows know of a control; none where there are no windows or they do not know it. */
+template<typename Question> auto asked(const QObject *control, Question question)
+{
+    using Answer = decltype(question(*windowControls(), *control));
+    return control && windowControls() ? question(*windowControls(), *control) : Answer();
+}
 
 /** The first of @p names that the control has; null where it has none of them. */
 const char *firstProperty(const QObject *control, Names names)
@@ -42,16 +55,45 @@ void write(QObject *control, Names names, const QVariant &value)
         control->setProperty(name, value);
 }
 
+/** A field for numbers shows text around its number; a slider shows none at all. */
+bool isNumberControl(const QObject *control)
+{
+    return firstProperty(control, {"value"}) &&
+           (firstProperty(control, {"cleanText"}) || !firstProperty(control, textNames));
+}
+
+int withoutFraction(double number)
+{
+    constexpr double least = std::numeric_limits<int>::min();
+    constexpr double most = std::numeric_limits<int>::max();
+    return int(std::clamp(number, least, most));
+}
+
+/** The chosen text of a list of them. */
+QString chosenOf(const QObject *control, Names listNames)
+{
+    const QStringList texts = read(control, listNames).toStringList();
+    return texts.value(selectedSegmentOf(control));
+}
+
 } // namespace
+
+void setWindowControls(std::unique_ptr<WindowControls> controls)
+{
+    windowControls() = std::move(controls);
+}
 
 QString textOf(const QObject *control)
 {
-    return read(control, textNames).toString();
+    return isNumberControl(control) ? read(control, {"value"}).toString() : read(control, textNames).toString();
 }
 
 void setTextOf(QObject *control, const QString &text)
 {
-    write(control, textNames, text);
+    if (isNumberControl(control))
+        write(control, {"value"}, text.toDouble());
+    else
+        write(control, textNames, text);
 }
 
 int leadingInteger(const QString &text)
@@ -70,13 +112,14 @@ int leadingInteger(const QString &text)
 
 int integerValueOf(const QObject *control)
 {
-    return leadingInteger(textOf(control));
+    return isNumberControl(control) ? withoutFraction(read(control, {"value"}).toDouble())
+                                    : leadingInteger(textOf(control));
 }
 
 int stateOf(const QObject *control)
 {
-    const QVariant state = read(control, stateNames);
-    return state.toInt();
+    const auto known = asked(control, [](const auto &window, const QObject &box) { return window.state(box); });
+    return known ? *known : read(control, stateNames).toInt();
 }
 
 void setStateOf(QObject *control, int state)
@@ -102,17 +145,25 @@ int selectedSegmentOf(const QObject *control)
 
 QString selectedLabelOf(const QObject *control)
 {
+    if (const auto label =
+            asked(control, [](const auto &window, const QObject &tabs) { return window.selectedLabel(tabs); }))
+        return *label;
+    if (firstProperty(control, {"segments"}))
+        return chosenOf(control, {"segments"});
     return read(control, {"selectedLabel", "currentText"}).toString();
 }
 
 QStringList titlesOf(const QObject *control)
 {
-    return read(control, {"titles"}).toStringList();
+    const auto known = asked(control, [](const auto &window, const QObject &menu) { return window.titles(menu); });
+    return known ? *known : read(control, {"titles"}).toStringList();
 }
 
 void setTitlesOf(QObject *control, const QStringList &titles)
 {
-    write(control, {"titles"}, titles);
+    const bool isDone = control && windowControls() && windowControls()->setTitles(*control, titles);
+    if (!isDone)
+        write(control, {"titles"}, titles);
 }
 
 QString selectedTitleOf(const QObject *control)

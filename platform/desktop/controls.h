@@ -1,9 +1,13 @@
 #pragma once
 
 #include <QColor>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+
+#include <memory>
+#include <optional>
 
 class QObject;
 
@@ -16,11 +20,35 @@ class QObject;
  */
 namespace platform {
 
-/** The text of a field, label or text view. */
+/**
+ * What no property tells of the controls of a window. Whoever has windows sets one; each answer is for a control that it
+ * knows, and none, or false, for any other.
+ */
+class WindowControls
+{
+public:
+    WindowControls() = default;
+    WindowControls(const WindowControls &) = delete;
+    WindowControls &operator=(const WindowControls &) = delete;
+    virtual ~WindowControls() = default;
+
+    virtual std::optional<QString> selectedLabel(const QObject &control) const = 0;
+    virtual std::optional<int> state(const QObject &control) const = 0;
+    virtual std::optional<QStringList> titles(const QObject &control) const = 0;
+    virtual bool setTitles(QObject &control, const QStringList &titles) const = 0;
+};
+
+/** Null for none, which is so at first. */
+void setWindowControls(std::unique_ptr<WindowControls> controls);
+
+/** The text of a field, label, text view or menu; of a field for numbers, the number. */
 QString textOf(const QObject *control);
 void setTextOf(QObject *control, const QString &text);
 
-/** The leading whole number of the control's text: "12px" is 12, "-3" is -3, "" and "abc" are 0, "3.9" is 3. */
+/**
+ * The leading whole number of the control's text: "12px" is 12, "-3" is -3, "" and "abc" are 0, "3.9" is 3. Of a field
+ * for numbers, a slider or a dial the number less its fraction, whatever stands around it.
+ */
 int integerValueOf(const QObject *control);
 /** The rule of integerValueOf() for any text. White space in front is passed over; values that do not fit are bounded. */
 int leadingInteger(const QString &text);
@@ -35,6 +63,7 @@ void setColorOf(QObject *control, const QColor &color);
 
 /** From 0; -1 where none is selected, 0 for a null control. */
 int selectedSegmentOf(const QObject *control);
+/** The label of the chosen tab, of the chosen segment or of a menu's chosen entry; null where there is no control. */
 QString selectedLabelOf(const QObject *control);
 
 QStringList titlesOf(const QObject *control);
