@@ -349,19 +349,22 @@ private Q_SLOTS:
         LogCapture log;
         QStringList statuses;
         for (const char *code :
-             isLarge ? std::vector<const char *>{"7"} : std::vector<const char *>{"0", "1", "2", "7"})
-            for (const int state : isLarge ? std::vector<int>{1} : std::vector<int>{0, 1}) {
-                m_sheet->check.setProperty("state", state);
-                statuses << rounded(path, 9, "0", code) << rounded(path, 9, "1", code) << rounded(path, 9, "2", code)
-                         << laid(path, code);
-            }
+             isLarge ? std::vector<const char *>{"7"} : std::vector<const char *>{"0", "1", "2", "7"}) {
+            m_sheet->check.setProperty("state", 0);
+            statuses << rounded(path, 9, "1", code) << laid(path, code);
+            if (isLarge)
+                continue;
+            statuses << rounded(path, 9, "0", code);
+            m_sheet->check.setProperty("state", 1);
+            statuses << rounded(path, 9, "0", code) << rounded(path, 9, "2", code);
+        }
         log.text();
         for (const QString &status : statuses)
             QVERIFY(status == ok || status == failed || status == notSupported);
         if (upright.isNull())
             QVERIFY(!statuses.contains(ok));
         else if (!isLarge)
-            QVERIFY(statuses.count(ok) >= 24);
+            QVERIFY(statuses.count(ok) >= 15);
     }
 };
 
