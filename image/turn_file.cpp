@@ -38,11 +38,12 @@ Result<Bitmap> turnedPixels(Bitmap stored, const Turning &turning)
     return turning.exact ? platform::turned(stored, *turning.exact) : turned(stored, turning.degrees);
 }
 
-EncodeOptions optionsFor(const ImageSource &source, std::optional<FileFormat> format)
+EncodeOptions optionsFor(const ImageSource &source, std::optional<FileFormat> format, const Turning &turning)
 {
     EncodeOptions options;
     if (format == FileFormat::Jpeg || format == FileFormat::Tiff) {
-        options.metadata = source.metadata();
+        const bool isOnItsSide = turning.exact && platform::swapsSides(*turning.exact);
+        options.metadata = isOnItsSide ? source.metadata().withResolutionSwapped() : source.metadata();
         options.resolution = platform::WriteResolution::Yes;
     }
     return options;
@@ -75,7 +76,7 @@ QString turnFile(const QString &sourcePath, const QString &targetPath, const QSt
     if (!stored)
         return noImage();
     const Bitmap drawn = turnedPixels(std::move(*stored), turning).value_or(Bitmap());
-    return writeAnswering(targetPath, type, drawn, optionsFor(*source, format));
+    return writeAnswering(targetPath, type, drawn, optionsFor(*source, format, turning));
 }
 
 } // namespace image

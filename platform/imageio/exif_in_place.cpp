@@ -113,4 +113,21 @@ QByteArray exifBlockWithOrientation(QByteArray block, int orientation)
     return block;
 }
 
+QByteArray exifBlockWithResolutionSwapped(QByteArray block)
+{
+    TiffNumbers numbers;
+    if (!isTiffHeader(block, numbers))
+        return block;
+    constexpr quint16 acrossTag = 0x011a;
+    constexpr quint16 downTag = 0x011b;
+    constexpr quint16 fractionType = 5; // too long for an entry, which therefore says where it is
+    const TiffDirectory first = firstTiffDirectory(block, numbers);
+    const TiffEntry *across = findEntry(first, acrossTag);
+    const TiffEntry *down = findEntry(first, downTag);
+    if (across && down && across->type == fractionType && down->type == fractionType && across->count == down->count)
+        std::swap_ranges(block.begin() + across->position + 8, block.begin() + across->position + tiffEntrySize,
+                         block.begin() + down->position + 8);
+    return block;
+}
+
 } // namespace platform

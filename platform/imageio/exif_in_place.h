@@ -20,6 +20,9 @@ QByteArray exifBlockInPlace(const QByteArray &block, QSize pixels);
 /** The block with another orientation in it; unchanged where it states none. */
 QByteArray exifBlockWithOrientation(QByteArray block, int orientation);
 
+/** The block with its horizontal and its vertical resolution in each other's places; unchanged where one is missing. */
+QByteArray exifBlockWithResolutionSwapped(QByteArray block);
+
 /** True for a tag of the first directory that describes how a file stores its pixels, not what they show. */
 bool describesStructure(quint16 tag);
 

@@ -114,7 +114,7 @@ std::optional<QByteArray> ImageSource::turnedWithoutLoss(ExactTurn turn) const
     const std::optional<QByteArray> jpeg = losslesslyTurned(device->readAll(), turn);
     if (!jpeg)
         return std::nullopt;
-    const Metadata known = metadata();
+    const Metadata known = swapsSides(turn) ? metadata().withResolutionSwapped() : metadata();
     const Result<QByteArray> written = known.writtenInto(*jpeg);
     return written ? std::optional(*written) : std::nullopt;
 }

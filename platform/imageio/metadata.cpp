@@ -185,4 +185,21 @@ Metadata Metadata::withOrientation(int orientation) const
     return metadata;
 }
 
+Metadata Metadata::withResolutionSwapped() const
+{
+    constexpr const char *acrossKey = "Exif.Image.XResolution";
+    constexpr const char *downKey = "Exif.Image.YResolution";
+    const Exiv2::Exifdatum *across = m_blocks ? findTag(m_blocks->exif, acrossKey) : nullptr;
+    const Exiv2::Exifdatum *down = m_blocks ? findTag(m_blocks->exif, downKey) : nullptr;
+    if (!across || !down)
+        return *this;
+    auto blocks = std::make_shared<Blocks>(*m_blocks);
+    blocks->exif[acrossKey].setValue(&down->value());
+    blocks->exif[downKey].setValue(&across->value());
+    blocks->exifBlock = exifBlockWithResolutionSwapped(blocks->exifBlock);
+    Metadata metadata;
+    metadata.m_blocks = std::move(blocks);
+    return metadata;
+}
+
 } // namespace platform

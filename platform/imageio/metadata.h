@@ -55,6 +55,9 @@ public:
     /** The same with another orientation, 1 to 8, where one is stated; for pixels that were turned meanwhile. */
     Metadata withOrientation(int orientation) const;
 
+    /** The same with horizontal and vertical resolution in each other's places; for pixels that lie on their side now. */
+    Metadata withResolutionSwapped() const;
+
     /**
      * The encoded JPEG or TIFF file @p encoded with this metadata in it. The structure of the image itself (size,
      * strips, compression, colour profile) stays that of @p encoded; for TIFF the resolution is the metadata's where it
