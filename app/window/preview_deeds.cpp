@@ -223,13 +223,9 @@ Result<Rendition> doneOne(const PatternDeed &deed, const Rendition &start)
 
 Result<Rendition> doneOne(const FrameDeed &, const Rendition &start)
 {
-    // The picture comes to lie at its size in points on a canvas of its pixels and the frame.
     constexpr int framePx = 10;
-    constexpr double pointsPerInch = 72;
     const QSize full = start.full + QSize(2 * framePx, 2 * framePx);
-    const QSizeF points(start.full.width() * pointsPerInch / start.bitmap.horizontalDpi(),
-                        start.full.height() * pointsPerInch / start.bitmap.verticalDpi());
-    const QSize drawn(scaledSide(points.width(), start.across()), scaledSide(points.height(), start.down()));
+    const QSize drawn = scaledSize(start.full, start);
     const QSize canvas = scaledSize(full, start);
     const QPoint corner(int(std::lround(framePx * start.across())),
                         canvas.height() - int(std::lround(framePx * start.down())) - drawn.height());

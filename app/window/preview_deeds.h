@@ -55,7 +55,7 @@ struct PatternDeed
     QString path; ///< of the tile
 };
 
-/** White, 10 points on each side. */
+/** White, 10 pixels on each side, whatever the resolution: the step frames a picture whose pixels are points. */
 struct FrameDeed
 {
 };

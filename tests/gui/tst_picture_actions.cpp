@@ -2,6 +2,7 @@
 
 #include "app/window/angle_dial.h"
 #include "app/window/color_well.h"
+#include "app/window/compare_preview.h"
 #include "app/window/position_pad.h"
 #include "app/window/segmented_control.h"
 #include "app/window/side_bar.h"
@@ -94,6 +95,60 @@ private Q_SLOTS:
         m_driver->control<QDoubleSpinBox>("cropWidth")->setValue(320);
         QCOMPARE(m_driver->control<QDoubleSpinBox>("cropHeight")->value(), 180.0);
         QCOMPARE(m_driver->text("resultText"), QStringLiteral("320×180 at 40, 60"));
+    }
+
+    void aFrameThatIsDraggedFillsTheFieldsFromItsPosition()
+    {
+        save("a.png", quarters({400, 300}));
+        m_driver->drop({m_pictures});
+        m_driver->show("crop");
+        Q_EMIT m_driver->control<window::ComparePreview>("preview")->cropFrameEdited(110, 60, 200, 150);
+        QCOMPARE(m_driver->control<window::SegmentedControl>("cropMode")->selectedSegment(), 0);
+        QCOMPARE(m_driver->control<QDoubleSpinBox>("cropWidth")->value(), 200.0);
+        QCOMPARE(m_driver->control<QDoubleSpinBox>("cropHeight")->value(), 150.0);
+        // In the centre it would lie at 100, 75.
+        QCOMPARE(m_driver->control<window::PositionPad>("position")->selectedSegment(), 4);
+        QCOMPARE(m_driver->control<QDoubleSpinBox>("offsetX")->value(), 10.0);
+        QCOMPARE(m_driver->control<QDoubleSpinBox>("offsetY")->value(), -15.0);
+        run(QStringLiteral("1 picture done"));
+        QCOMPARE(QImage(at("Cropped/a.png")),
+                 QImage(at("a.png")).copy(110, 60, 200, 150).convertToFormat(QImage(at("Cropped/a.png")).format()));
+    }
+
+    void noResultIsShownTurned_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("fileType");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("rounded JPEG") << "round"
+                                      << "original file type"
+                                      << "Rounded/landscape_6.jpg";
+        QTest::newRow("rounded TIFF") << "round"
+                                      << "public.tiff"
+                                      << "Rounded/landscape_6.tiff";
+        QTest::newRow("resized TIFF") << "resize"
+                                      << "public.tiff"
+                                      << "Resized/landscape_6.tiff";
+        QTest::newRow("cropped TIFF") << "crop"
+                                      << "public.tiff"
+                                      << "Cropped/landscape_6.tiff";
+    }
+
+    void noResultIsShownTurned()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, fileType);
+        QFETCH(QString, written);
+        const QString path = m_pictures + QStringLiteral("/landscape_6.jpg");
+        QVERIFY(QFile::copy(QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/landscape_6.jpg"), path));
+        m_driver->drop({m_pictures});
+        m_driver->show(qPrintable(action));
+        m_driver->choose("fileType", fileType);
+        run(QStringLiteral("1 picture done"));
+        const auto result = platform::ImageSource::open(m_pictures + QLatin1Char('/') + written);
+        QVERIFY(result.has_value());
+        QCOMPARE(result->orientation(), 1);
+        QVERIFY(result->uprightSize().width() > result->uprightSize().height());
     }
 
     void turnsPicturesWithTheirTag_data()
