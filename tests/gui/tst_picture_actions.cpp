@@ -11,12 +11,15 @@
 #include "platform/imageio/image_source.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QImage>
 #include <QPainter>
 #include <QScrollArea>
+#include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 using window::PictureModel;
 
@@ -48,6 +51,18 @@ QSize uprightSize(const QString &path)
 {
     const auto source = platform::ImageSource::open(path);
     return source ? source->uprightSize() : QSize();
+}
+
+/** Sets a colour in the next chooser and closes it. */
+void answerColorChooser(const QColor &color, QDialog::DialogCode answer)
+{
+    QTimer::singleShot(20, [color, answer] {
+        auto *chooser = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+        if (!chooser)
+            return answerColorChooser(color, answer);
+        chooser->setCurrentColor(color);
+        answer == QDialog::Accepted ? chooser->accept() : chooser->reject();
+    });
 }
 
 } // namespace
@@ -236,6 +251,45 @@ private Q_SLOTS:
         QCOMPARE(result.size(), QSize(300, 300));
         QVERIFY(isNear(result.pixel(0, 0), QColor(255, 0, 255)));
         QVERIFY(isNear(result.pixel(150, 20), Qt::red));
+    }
+
+    void aColourIsChosenInTheChooserAndCancelBringsTheOldOneBack()
+    {
+        m_driver->show("background");
+        auto *well = m_driver->control<window::ColorWell>("underColor");
+        QSignalSpy chosen(well, &window::ColorWell::chosen);
+        const QString before = well->color();
+        answerColorChooser(QColor(10, 200, 30), QDialog::Rejected);
+        m_driver->click("underColor");
+        QCOMPARE(chosen.size(), 2);
+        QCOMPARE(well->color(), before);
+        answerColorChooser(QColor(10, 200, 30), QDialog::Accepted);
+        m_driver->click("underColor");
+        QCOMPARE(well->color(), QStringLiteral("#0ac81e"));
+        well->setColor(QStringLiteral("no colour"));
+        QCOMPARE(well->color(), QStringLiteral("#0ac81e"));
+        m_driver->startAgain();
+        QCOMPARE(m_driver->control<window::ColorWell>("underColor")->color(), QStringLiteral("#0ac81e"));
+    }
+
+    void anAngleIsBroughtIntoItsRange_data()
+    {
+        QTest::addColumn<double>("given");
+        QTest::addColumn<double>("shown");
+        QTest::newRow("inside") << 12.34 << 12.3;
+        QTest::newRow("half a turn") << 180.0 << 180.0;
+        QTest::newRow("half a turn to the right") << -180.0 << -180.0;
+        QTest::newRow("beyond") << 190.0 << -170.0;
+        QTest::newRow("far beyond") << -725.5 << -5.5;
+    }
+
+    void anAngleIsBroughtIntoItsRange()
+    {
+        QFETCH(double, given);
+        QFETCH(double, shown);
+        window::AngleDial dial;
+        dial.setValue(given);
+        QCOMPARE(dial.value(), shown);
     }
 
     void laysATransparentPictureOnAColour()
