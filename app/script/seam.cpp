@@ -32,10 +32,8 @@ qint64 byteCount(const platform::Bitmap &bitmap)
 /** How much memory a value may keep from being freed. */
 qint64 pixelBytes(const QVariant &value)
 {
-    if (value.metaType() == QMetaType::fromType<platform::Picture>()) {
-        const auto picture = value.value<platform::Picture>();
-        return picture.isDecoded() ? byteCount(picture.bitmap()) : 0;
-    }
+    if (value.metaType() == QMetaType::fromType<platform::Picture>())
+        return value.value<platform::Picture>().bytesInMemory();
     if (value.metaType() == QMetaType::fromType<platform::BitmapHandle>())
         return byteCount(value.value<platform::BitmapHandle>().bitmap());
     if (value.metaType() == QMetaType::fromType<platform::Bitmap>())

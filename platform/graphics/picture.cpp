@@ -23,6 +23,12 @@ bool covers(QSize present, QSize wanted)
     return present.width() >= wanted.width() && present.height() >= wanted.height();
 }
 
+qint64 bytesOf(const Bitmap &bitmap)
+{
+    constexpr int bitsPerByte = 8;
+    return qint64(bitmap.width()) * bitmap.height() * bitmap.bandCount() * bitmap.bitsPerComponent() / bitsPerByte;
+}
+
 Result<Bitmap> scaled(const Bitmap &bitmap, QSize pixels)
 {
     return bitmap.size() == pixels ? Result<Bitmap>(bitmap) : resample(bitmap, pixels);
@@ -117,6 +123,15 @@ Bitmap Picture::bitmap() const
 bool Picture::isDecoded() const
 {
     return !isNull() && !m_contents->bitmap.isNull();
+}
+
+qint64 Picture::bytesInMemory() const
+{
+    if (isNull())
+        return 0;
+    const Contents &kept = *m_contents;
+    const qint64 reduced = kept.reduced == kept.scaled ? 0 : bytesOf(kept.reduced);
+    return bytesOf(kept.bitmap) + reduced + (kept.scaled == kept.bitmap ? 0 : bytesOf(kept.scaled));
 }
 
 Result<Bitmap> Picture::scaledTo(QSize pixels) const

@@ -46,6 +46,8 @@ public:
     Bitmap bitmap() const;
     /** True where all pixels are in memory. */
     bool isDecoded() const;
+    /** How much memory its pixels take now, reduced ones that are kept included. */
+    qint64 bytesInMemory() const;
     /**
      * The picture at exactly @p pixels: from the pixels in memory where they are there, otherwise by the cheapest decode
      * that is sharp at that size, which is kept for the next call. Fails as ImageSource::decodeScaled() does.

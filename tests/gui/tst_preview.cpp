@@ -54,6 +54,7 @@ private Q_SLOTS:
     void cleanup() { m_preview.reset(); }
     void showsTheOriginalAndTheResult();
     void showsNoPictureLargerThanItIs();
+    void showsSmallPicturesPixelForPixel();
     void fillsItsHalf();
     void saysWhatIsWrong();
     void refusesAnUnknownDeed();
@@ -69,6 +70,7 @@ private Q_SLOTS:
     void showsTheOverlayUntilTheFrameMoves();
     void dimsWhatIsCutAway();
     void coversItsParent();
+    void walksTheListAndClosesWhenItCoversTheWindow();
     void followsChangesOfALargePhoto();
 
 private:
@@ -164,6 +166,17 @@ void TestPreview::showsNoPictureLargerThanItIs()
         QCOMPARE(at(middle + QPoint(9, 4)), QColor(Qt::green));
         QVERIFY(at(middle + QPoint(12, 0)) != QColor(Qt::green));
     }
+}
+
+void TestPreview::showsSmallPicturesPixelForPixel()
+{
+    const QImage fine = pictures::gradient(200, 100).convertToFormat(QImage::Format_RGB32);
+    QVERIFY(fine.save(path("fine.png")));
+    QVERIFY(show("fine.png"));
+    QVERIFY(showResult(wanted({turn(180)}, QSize(200, 100))));
+    const QImage seen = m_preview->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(seen.copy(QRect(middleOfOriginal() - QPoint(100, 50), fine.size())), fine);
+    QCOMPARE(seen.copy(QRect(middleOfResult() - QPoint(100, 50), fine.size())), fine.mirrored(true, true));
 }
 
 void TestPreview::fillsItsHalf()
@@ -384,6 +397,28 @@ void TestPreview::coversItsParent()
     parent.resize(640, 480);
     parent.show();
     QCOMPARE(large->geometry(), QRect(0, 0, 640, 480));
+}
+
+void TestPreview::walksTheListAndClosesWhenItCoversTheWindow()
+{
+    QWidget parent;
+    parent.resize(700, 500);
+    auto *large = new ComparePreview(&parent);
+    large->setShowsResult(false);
+    large->coverParent();
+    parent.show();
+    QSignalSpy shown(large, &ComparePreview::pictureShown);
+    large->showPicture(path("halves.png"));
+    QVERIFY(shown.wait(5000));
+    QCOMPARE(large->grab().toImage().pixelColor(345, 250), QColor(Qt::red));
+    QCOMPARE(large->grab().toImage().pixelColor(355, 250), QColor(Qt::blue));
+    QSignalSpy stepped(large, &ComparePreview::stepRequested);
+    QSignalSpy closed(large, &ComparePreview::closeRequested);
+    QTest::keyClick(large, Qt::Key_Right);
+    QTest::keyClick(large, Qt::Key_Left);
+    QTest::keyClick(large, Qt::Key_Escape);
+    QCOMPARE(stepped, (QList<QVariantList>{{1}, {-1}}));
+    QCOMPARE(closed.size(), 1);
 }
 
 // Prints how long it takes, and judges nothing: a busy machine would decide.

@@ -97,6 +97,7 @@ void TestPicture::scalesWithoutDecodingAll()
         QVERIFY(*picture.scaledTo(size) == *scaled);
     }
     QVERIFY(!picture.isDecoded());
+    QVERIFY(picture.bytesInMemory() >= 300 * 200 * 3 && picture.bytesInMemory() < 403 * 301 * 3 + 60 * 45 * 3);
     QVERIFY(!picture.scaledTo(QSize(0, 5)));
     QVERIFY(!Picture().scaledTo(QSize(5, 5)));
 }
