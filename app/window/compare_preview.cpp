@@ -76,15 +76,8 @@ void ComparePreview::showResult(const QVariantMap &result)
     }
     const QSize size(result.value(QStringLiteral("width")).toInt(), result.value(QStringLiteral("height")).toInt());
     const auto text = [&result](const char *name) { return result.value(QString::fromLatin1(name)).toString(); };
-    m_wanted = {*deeds, {}, size, text("message"), text("type"), text("quality")};
+    m_wanted = {*deeds, size, text("message"), text("type"), text("quality")};
     m_estimate.forget();
-    m_asked.start(0);
-}
-
-void ComparePreview::showResult(double left, double top, double width, double height, int pixelsWide, int pixelsHigh,
-                                const QString &message)
-{
-    m_wanted = {{}, QRectF(left, top, width, height), QSize(pixelsWide, pixelsHigh), message, {}, {}};
     m_asked.start(0);
 }
 
@@ -207,16 +200,6 @@ void ComparePreview::fitViews()
     m_mainView.setImage(m_picture);
 }
 
-Deeds ComparePreview::wantedDeeds() const
-{
-    if (m_wanted.part.isEmpty())
-        return m_wanted.deeds;
-    const QSize full = m_picture.pixelSize();
-    const QRectF part(m_wanted.part.x() * full.width(), m_wanted.part.y() * full.height(),
-                      m_wanted.part.width() * full.width(), m_wanted.part.height() * full.height());
-    return {CutDeed{part.toRect()}, ScaleDeed{m_wanted.size}};
-}
-
 void ComparePreview::render()
 {
     m_asked.stop();
@@ -228,7 +211,7 @@ void ComparePreview::render()
     update();
     if (m_base.isNull() || !m_showsResult || m_wanted.size.isEmpty())
         return;
-    const auto made = done(wantedDeeds(), Rendition{m_base, m_picture.pixelSize()});
+    const auto made = done(m_wanted.deeds, Rendition{m_base, m_picture.pixelSize()});
     if (!made) {
         m_resultProblem = made.error().message;
         return;

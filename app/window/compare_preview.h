@@ -56,9 +56,6 @@ public:
      *                A deed that is not known is a TypeError.
      */
     Q_INVOKABLE void showResult(const QVariantMap &result);
-    /** The part @p left, @p top, @p width, @p height (0 to 1) of the original at @p pixelsWide x @p pixelsHigh. */
-    Q_INVOKABLE void showResult(double left, double top, double width, double height, int pixelsWide, int pixelsHigh,
-                                const QString &message);
     Q_INVOKABLE void setTitles(const QString &original, const QString &result);
     Q_INVOKABLE void setCaptions(const QString &original, const QString &result);
     /** A second line under the result: what it will not hold. */
@@ -106,7 +103,6 @@ private:
     struct Wanted
     {
         Deeds deeds;
-        QRectF part; ///< of the original, 0 to 1, instead of deeds
         QSize size;
         QString message;
         QString type;
@@ -122,7 +118,6 @@ private:
     void showCropped();
     QRectF croppedRect() const;
     void paintCropped(QPainter &painter) const;
-    Deeds wantedDeeds() const;
     void describe();
     QRect originalArea() const;
     QRect resultArea() const;
