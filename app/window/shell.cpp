@@ -3,6 +3,7 @@
 #include "app/window/compare_preview.h"
 #include "app/window/drop_target.h"
 #include "app/window/job_driver.h"
+#include "app/window/sheet_host.h"
 #include "app/window/ui_form.h"
 
 #include "platform/desktop/panels.h"
@@ -100,6 +101,12 @@ void Shell::cover(QObject *object)
     widget->setFocus(Qt::OtherFocusReason);
 }
 
+QObject *Shell::sheetHost(QObject *form)
+{
+    const auto *window = qobject_cast<Form *>(form);
+    return window && window->root() ? owned(new SheetHost(*window->root())) : nullptr;
+}
+
 QObject *Shell::timer(const QJSValue &function)
 {
     return owned(new ScriptTimer(function, this));
@@ -146,7 +153,7 @@ QVariant Shell::chooseFolder(const QString &title, const QString &start)
     return firstPath(request);
 }
 
-QVariant Shell::choosePicture(const QString &title, const QString &folder, const QStringList &extensions)
+QVariant Shell::chooseFile(const QString &title, const QString &folder, const QStringList &extensions)
 {
     platform::PanelRequest request;
     request.types = extensions;

@@ -50,6 +50,8 @@ public:
     /** A picture view that covers the window of the form; hidden at first. */
     Q_INVOKABLE QObject *largePreview(QObject *form);
     Q_INVOKABLE void cover(QObject *widget);
+    /** The window of the form, as the services know it that open sheets; see SheetHost. */
+    Q_INVOKABLE QObject *sheetHost(QObject *form);
 
     Q_INVOKABLE QObject *timer(const QJSValue &function);
     Q_INVOKABLE QObject *job();
@@ -64,7 +66,7 @@ public:
     /** The folder that was chosen, or null. */
     Q_INVOKABLE QVariant chooseFolder(const QString &title, const QString &start);
     /** The path of a file with one of the extensions that was chosen, or null. */
-    Q_INVOKABLE QVariant choosePicture(const QString &title, const QString &folder, const QStringList &extensions);
+    Q_INVOKABLE QVariant chooseFile(const QString &title, const QString &folder, const QStringList &extensions);
     /** The path of a file to write, or null. */
     Q_INVOKABLE QVariant chooseNewFile(const QString &title, const QString &folder, const QString &name,
                                        const QString &extension);

@@ -23,6 +23,7 @@
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenu>
+#include <QPushButton>
 #include <QSplitter>
 #include <QStyle>
 #include <QUiLoader>
@@ -99,6 +100,15 @@ void collectTabStops(QWidget *widget, QWidgetList &stops)
     const QWidgetList children = childrenAsTheyLie(widget);
     for (QWidget *child : children)
         collectTabStops(child, stops);
+}
+
+// The menu itself, or that of a button, which is made when it is first needed.
+QMenu *menuOf(QObject *object)
+{
+    auto *button = qobject_cast<QPushButton *>(object);
+    if (button && !button->menu())
+        button->setMenu(new QMenu(button));
+    return button ? button->menu() : qobject_cast<QMenu *>(object);
 }
 
 } // namespace
@@ -237,7 +247,7 @@ void Form::setLook(const QString &name, const QString &property, const QString &
 
 void Form::setMenu(const QString &name, const QStringList &texts, const QVariantList &values, const QJSValue &chosen)
 {
-    auto *menu = qobject_cast<QMenu *>(find(name, "menu"));
+    QMenu *menu = menuOf(find(name, "menu"));
     QJSEngine *engine = qjsEngine(this);
     if (!menu || !engine)
         return;
@@ -251,6 +261,7 @@ void Form::setMenu(const QString &name, const QStringList &texts, const QVariant
         const QVariant value = values.value(i);
         // An ampersand in a folder's name is no mnemonic.
         QAction *action = menu->addAction(QString(texts.at(i)).replace(QLatin1Char('&'), QLatin1String("&&")));
+        action->setEnabled(!value.isNull());
         connect(action, &QAction::triggered, this,
                 [engine, chosen, value] { chosen.call({engine->toScriptValue(value)}); });
     }

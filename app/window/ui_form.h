@@ -42,7 +42,8 @@ public:
     Q_INVOKABLE void setIcon(const QString &name, const QString &icon);
     /** Sets a property that the style sheet looks at and draws the control anew. */
     Q_INVOKABLE void setLook(const QString &name, const QString &property, const QString &value);
-    /** The entries of a menu: each calls @p chosen with its value. */
+    /** The entries of a menu, or of the menu of a button: each calls @p chosen with its value. "-" is a separator, and an
+     * entry whose value is null cannot be chosen. */
     Q_INVOKABLE void setMenu(const QString &name, const QStringList &texts, const QVariantList &values,
                              const QJSValue &chosen);
     /** Sizes of the parts of a splitter, in pixels; what the user set and was remembered wins. */

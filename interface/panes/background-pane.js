@@ -23,6 +23,11 @@ function foundPatterns() {
     return typeof folder === "string" && folder !== "" ? files.collect([folder], PICTURE_INPUT).paths : [];
 }
 
+// The path whose file has the name of that one; undefined where there is none.
+function named(paths, path) {
+    return paths.find((other) => splitPath(other).name === splitPath(path).name);
+}
+
 export class BackgroundPane extends Pane {
     constructor(settings, changed) {
         super("panes/background-pane.ui", background, settings, changed);
@@ -35,7 +40,6 @@ export class BackgroundPane extends Pane {
         this.form.setItems("frame", [qsTr("None"), qsTr("White, 10 pixels around"), qsTr("Coloured band inside")],
                            ["none", "white", "band"]);
         this.chosen = [];
-        this.showPatterns();
         this.segments("under", "under", UNDER);
         this.color("underColor", "color");
         this.choice("frame", "frame");
@@ -46,17 +50,20 @@ export class BackgroundPane extends Pane {
 
     showPatterns() {
         const own = OWN.map((name) => joinPath(shell.interfaceFolder, "patterns/" + name + ".png"));
-        const found = foundPatterns().concat(this.chosen.filter((path) => own.indexOf(path) < 0));
-        const known = own.concat(found);
-        if (known.indexOf(this.settings.pattern) < 0) {
-            if (this.settings.pattern !== "" && files.info(this.settings.pattern).exists) {
-                found.push(this.settings.pattern);
+        const found = foundPatterns();
+        // A copy in the user's folder takes the place of the supplied one.
+        const supplied = own.map((path) => named(found, path) || path);
+        const others = found.concat(this.chosen).filter((path) => supplied.indexOf(path) < 0);
+        const pattern = this.settings.pattern;
+        if (supplied.concat(others).indexOf(pattern) < 0) {
+            if (pattern !== "" && own.indexOf(pattern) < 0 && files.info(pattern).exists) {
+                others.push(pattern);
             } else {
-                this.settings.pattern = own[0];
+                this.settings.pattern = named(supplied, pattern) || supplied[0];
             }
         }
-        const names = OWN.map((name) => ownWord(name)).concat(found.length > 0 ? ["-"] : [], found.map((path) => splitPath(path).name));
-        const values = own.concat(found.length > 0 ? ["-"] : [], found);
+        const names = OWN.map((name) => ownWord(name)).concat(others.length > 0 ? ["-"] : [], others.map((path) => splitPath(path).name));
+        const values = supplied.concat(others.length > 0 ? ["-"] : [], others);
         this.form.setItems("pattern", names.concat(["-", qsTr("Choose…")]), values.concat(["-", CHOOSE]));
         this.form.chooseValue("pattern", this.settings.pattern);
     }
@@ -67,7 +74,7 @@ export class BackgroundPane extends Pane {
             this.set("pattern", value);
             return;
         }
-        const path = shell.choosePicture(qsTr("Choose a pattern"), splitPath(this.settings.pattern).folder, PICTURE_INPUT);
+        const path = shell.chooseFile(qsTr("Choose a pattern"), splitPath(this.settings.pattern).folder, PICTURE_INPUT);
         if (path !== null) {
             this.chosen.push(path);
             this.set("pattern", path);
@@ -76,6 +83,7 @@ export class BackgroundPane extends Pane {
     }
 
     showValues() {
+        this.showPatterns();
         this.form.control("under").selectedSegment = UNDER.indexOf(this.settings.under);
         this.form.control("underColor").color = this.settings.color;
         this.form.chooseValue("frame", this.settings.frame);
