@@ -9,6 +9,17 @@ import { pixels } from "../lib/wording.js";
 // Where no picture says otherwise.
 const USUAL_DPI = 300;
 
+// Groups stay the objects that they are: others hold them too.
+function layOver(settings, others) {
+    for (const key of Object.keys(others)) {
+        if (others[key] !== null && typeof others[key] === "object") {
+            layOver(settings[key], others[key]);
+        } else {
+            settings[key] = others[key];
+        }
+    }
+}
+
 export class Pane {
     /**
      * @param file      the .ui file
@@ -46,6 +57,12 @@ export class Pane {
         this.showValues();
         this.filling = false;
         this.showState();
+    }
+
+    /** Takes over other settings and shows them. */
+    take(settings) {
+        layOver(this.settings, settings);
+        this.fill();
     }
 
     /** Puts the settings into the controls. */

@@ -80,13 +80,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("modules");
         QTest::addColumn<QStringList>("forms");
-        const QStringList mainParts = {QStringLiteral("windows/main/main.js"), QStringLiteral("windows/main/input.js"),
-                                       QStringLiteral("windows/main/action-page.js"),
-                                       QStringLiteral("windows/main/log-page.js"),
-                                       QStringLiteral("windows/main/preview-side.js")};
+        const QStringList mainParts = {
+            QStringLiteral("windows/main/main.js"),         QStringLiteral("windows/main/input.js"),
+            QStringLiteral("windows/main/action-page.js"),  QStringLiteral("windows/main/log-page.js"),
+            QStringLiteral("windows/main/preview-side.js"), QStringLiteral("windows/main/support-bar.js")};
         QTest::newRow("main window") << mainParts << QStringList{QStringLiteral("windows/main/main.ui")};
-        for (const char *name :
-             {"resize-pane", "crop-pane", "turn-pane", "round-pane", "background-pane", "pane", "output-pane"}) {
+        QTest::newRow("preferences") << QStringList{QStringLiteral("windows/preferences/preferences.js")}
+                                     << QStringList{QStringLiteral("windows/preferences/preferences.ui")};
+        for (const char *name : {"resize-pane", "crop-pane", "turn-pane", "round-pane", "background-pane", "pane",
+                                 "output-pane", "preset-pane"}) {
             const QString base = QStringLiteral("panes/") + QLatin1String(name);
             // What all panes have in common must be in each; one stands for all.
             const QString pane = qstrcmp(name, "pane") == 0 ? QStringLiteral("panes/resize-pane") : base;
@@ -105,6 +107,7 @@ private Q_SLOTS:
             std::unique_ptr<window::Form> form(window::Form::load(interfacePath(file), nullptr, nullptr, &problem));
             QVERIFY2(form, qPrintable(problem));
             known += form->names();
+            known.append(form->root()->objectName());
             delete form->root();
         }
         int named = 0;

@@ -2,7 +2,6 @@
 
 #include "app/window/side_bar.h"
 
-#include "platform/desktop/panels.h"
 #include "platform/imageio/image_source.h"
 
 #include <QApplication>
@@ -24,17 +23,6 @@ using window::PictureModel;
 
 namespace {
 
-/** Answers every panel with the paths that were laid out for it. */
-class LaidOutPanels : public platform::PanelProvider
-{
-public:
-    explicit LaidOutPanels(QStringList paths) : m_paths(std::move(paths)) {}
-    platform::PanelAnswer run(const platform::PanelRequest &) override { return {!m_paths.isEmpty(), m_paths, {}}; }
-
-private:
-    QStringList m_paths;
-};
-
 QByteArray digestOf(const QString &path)
 {
     QFile file(path);
@@ -46,19 +34,6 @@ QSize sizeOf(const QString &path)
 {
     const auto source = platform::ImageSource::open(path);
     return source ? source->uprightSize() : QSize();
-}
-
-/** Clicks a button of the next message box, by its text. */
-void answerNextQuestion(const QString &button)
-{
-    QTimer::singleShot(50, [button] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box)
-            return answerNextQuestion(button);
-        for (QAbstractButton *found : box->buttons())
-            if (found->text() == button)
-                found->click();
-    });
 }
 
 } // namespace
@@ -103,7 +78,7 @@ private Q_SLOTS:
     void addsPicturesThroughThePanel()
     {
         picture("a.jpg", 40, 30);
-        platform::setPanelProvider(std::make_unique<LaidOutPanels>(QStringList{path("a.jpg")}));
+        m_driver->answerPanels({path("a.jpg")});
         m_driver->trigger("addPicturesAction");
         QCOMPARE(m_driver->pictures().count(), 1);
         m_driver->trigger("addPicturesAction");
@@ -170,12 +145,12 @@ private Q_SLOTS:
         m_driver->control<QDoubleSpinBox>("value")->setValue(100);
         auto *start = m_driver->control<QAbstractButton>("startButton");
         QVERIFY(m_driver->waitFor([start] { return start->text().contains(QLatin1String("Replace 1 Original")); }));
-        answerNextQuestion(QStringLiteral("Cancel"));
+        WindowDriver::answerNextQuestion(QStringLiteral("Cancel"));
         m_driver->click("startButton");
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         QCOMPARE(digestOf(path("a.jpg")), before);
         m_driver->click("dismissButton");
-        answerNextQuestion(QStringLiteral("Replace"));
+        WindowDriver::answerNextQuestion(QStringLiteral("Replace"));
         m_driver->click("startButton");
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         QCOMPARE(sizeOf(path("a.jpg")), QSize(100, 75));
@@ -195,8 +170,8 @@ private Q_SLOTS:
             if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
                 box->checkBox()->setChecked(true);
         });
-        answerNextQuestion(QStringLiteral("Skip"));
-        QTimer::singleShot(200, [] { answerNextQuestion(QStringLiteral("Skip")); });
+        WindowDriver::answerNextQuestion(QStringLiteral("Skip"));
+        QTimer::singleShot(200, [] { WindowDriver::answerNextQuestion(QStringLiteral("Skip")); });
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().contains(QLatin1String("2 skipped")));
         QCOMPARE(digestOf(result("a.jpg")), QCryptographicHash::hash("old", QCryptographicHash::Sha1));
@@ -256,7 +231,7 @@ private Q_SLOTS:
         m_driver->click("startButton");
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         const QString report = m_driver->folder() + QStringLiteral("/report.csv");
-        platform::setPanelProvider(std::make_unique<LaidOutPanels>(QStringList{report}));
+        m_driver->answerPanels({report});
         m_driver->click("reportButton");
         QFile file(report);
         QVERIFY(file.open(QIODevice::ReadOnly));

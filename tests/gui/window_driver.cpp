@@ -2,16 +2,34 @@
 
 #include "app/window/side_bar.h"
 
+#include "platform/desktop/panels.h"
 #include "platform/desktop/user_defaults.h"
 
 #include <QApplication>
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QStandardPaths>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
+
+namespace {
+
+/** Answers every panel with the paths that were laid out for it. */
+class LaidOutPanels : public platform::PanelProvider
+{
+public:
+    explicit LaidOutPanels(QStringList paths) : m_paths(std::move(paths)) {}
+    platform::PanelAnswer run(const platform::PanelRequest &) override { return {!m_paths.isEmpty(), m_paths, {}}; }
+
+private:
+    QStringList m_paths;
+};
+
+} // namespace
 
 WindowDriver::WindowDriver(QApplication &application) : m_application(application)
 {
@@ -19,12 +37,32 @@ WindowDriver::WindowDriver(QApplication &application) : m_application(applicatio
     qputenv("XDG_CONFIG_HOME", (m_home.path() + QStringLiteral("/.config")).toLocal8Bit());
     qputenv("XDG_DATA_HOME", (m_home.path() + QStringLiteral("/.local/share")).toLocal8Bit());
     // The store of the defaults is opened once for the process: what the driver before left is not for this one.
-    for (const char *key : {"Settings-resize", "Settings-crop", "Settings-turn", "Settings-round",
-                            "Settings-background", "ShownAction", "SaveFolders", "RecentFolders", "Preview",
-                            "MainWindowGeometry", "MainWindowbodySplitter", "MainWindowcentreSplitter"})
+    for (const char *key : {"Settings-resize",
+                            "Settings-crop",
+                            "Settings-turn",
+                            "Settings-round",
+                            "Settings-background",
+                            "Preset-resize",
+                            "Preset-crop",
+                            "Preset-turn",
+                            "Preset-round",
+                            "Preset-background",
+                            "StartingPresets",
+                            "SupportFilesDestination",
+                            "PatternsDestination",
+                            "WatermarksDestination",
+                            "ShownAction",
+                            "SaveFolders",
+                            "RecentFolders",
+                            "Preview",
+                            "MainWindowGeometry",
+                            "MainWindowbodySplitter",
+                            "MainWindowcentreSplitter"})
         platform::removeUserDefault(QString::fromLatin1(key));
     QFile::remove(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                   QStringLiteral("/quorlin/log.jsonl"));
+    // Nobody is there to be asked; who tests the question takes this away.
+    platform::setUserDefault(QStringLiteral("SupportFolderPutOff"), QStringLiteral("{\"on\":true}"));
     startAgain();
 }
 
@@ -114,4 +152,21 @@ QString WindowDriver::waitForSummary()
 {
     auto *dismiss = control<QAbstractButton>("dismissButton");
     return waitFor([dismiss] { return dismiss->isVisible(); }, 60000) ? text("statusText") : QString();
+}
+
+void WindowDriver::answerNextQuestion(const QString &button)
+{
+    QTimer::singleShot(50, [button] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return answerNextQuestion(button);
+        for (QAbstractButton *found : box->buttons())
+            if (found->text() == button)
+                found->click();
+    });
+}
+
+void WindowDriver::answerPanels(const QStringList &paths)
+{
+    platform::setPanelProvider(std::make_unique<LaidOutPanels>(paths));
 }

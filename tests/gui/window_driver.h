@@ -60,6 +60,11 @@ public:
     /** Waits until a run has ended and its summary is shown; returns the summary. */
     QString waitForSummary();
 
+    /** Clicks a button of the next message box, by its text. */
+    static void answerNextQuestion(const QString &button);
+    /** Answers every panel from now on with these paths, until the program starts again. */
+    static void answerPanels(const QStringList &paths);
+
     QString folder() const { return m_home.path(); }
 
 private:

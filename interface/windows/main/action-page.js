@@ -7,7 +7,8 @@ import { guard } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
 import { carriedBy } from "../../lib/written.js";
 import { OutputPane } from "../../panes/output-pane.js";
-import { actionNamed, GROUPS } from "./actions.js";
+import { PresetPane } from "../../panes/preset-pane.js";
+import { actionNamed, GROUPS, standardSettings } from "./actions.js";
 
 const SHOWN = "ShownAction";
 
@@ -19,12 +20,15 @@ export class ActionPage {
         this.window = window;
         this.changed = guard("settings", () => {
             this.showCarried();
+            this.presets.settingsChanged();
             changed();
         });
         this.pages = {};
         this.saveFolders = recall(defaults, "SaveFolders", { folders: [] }).folders;
         this.output = new OutputPane(this.saveFolders, this.changed);
         window.form.place("outputHost", this.output.form);
+        this.presets = new PresetPane(standardSettings(), (settings) => this.take(settings), (text) => window.say(text));
+        window.form.place("headHost", this.presets.form);
         this.choose(recall(defaults, SHOWN, { name: "" }).name);
     }
 
@@ -38,9 +42,24 @@ export class ActionPage {
         window.pane = page.pane;
         this.output.use(page.settings.output, page.action.step.offer);
         this.showCarried();
-        shell.alignFields([page.pane.form, this.output.form]);
+        this.presets.use(page.action.name, page.action.title(), page.settings);
+        shell.alignFields([this.presets.form, page.pane.form, this.output.form]);
         window.form.arrangeTabs();
         keep(defaults, SHOWN, { name: page.action.name });
+    }
+
+    /** Shows other settings of the action; they are worked on from now on. */
+    take(settings) {
+        const window = this.window;
+        window.pane.take(settings);
+        this.output.use(window.settings.output, window.action.step.offer);
+        this.changed();
+    }
+
+    /** Called when files that a pane offers may have changed. */
+    filesChanged() {
+        Object.keys(this.pages).forEach((name) => this.pages[name].pane.fill());
+        this.changed();
     }
 
     // What metadata goes along may hang on the settings.

@@ -38,6 +38,13 @@ export const GROUPS = [
     },
 ];
 
+/** The settings that new panes have, by the name of the action. */
+export function standardSettings() {
+    const settings = {};
+    GROUPS.forEach((group) => group.actions.forEach((action) => { settings[action.name] = action.step.defaults; }));
+    return settings;
+}
+
 /** The action of that name; the first one where there is none. */
 export function actionNamed(name) {
     const all = GROUPS.reduce((actions, group) => actions.concat(group.actions), []);

@@ -13,6 +13,7 @@ import { LivePlan } from "./live-plan.js";
 import { LogPage } from "./log-page.js";
 import { PreviewSide } from "./preview-side.js";
 import { Run } from "./run.js";
+import { SupportBar } from "./support-bar.js";
 
 const SAID_MS = 8000;
 
@@ -110,7 +111,7 @@ function showInputState(window) {
     control("settings").visible = !window.logShown;
     control("fitFill").visible = !window.logShown;
     for (const name of ["addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction",
-                        "actionHost", "outputHost", "emptyAddPictures", "emptyAddFolder"]) {
+                        "headHost", "actionHost", "outputHost", "emptyAddPictures", "emptyAddFolder"]) {
         control(name).enabled = !busy;
     }
     for (const name of ["clearButton", "clearAction", "removeAction", "selectAllAction"]) {
@@ -348,6 +349,7 @@ export function openMainWindow() {
     window.run = new Run(window, () => showAll(window));
     window.note = (text) => note(window, text);
     window.log = new LogPage(window);
+    window.support = new SupportBar(window);
     fillSideBar(window, (name) => choosePage(window, name));
     window.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill")];
     connectControls(window);

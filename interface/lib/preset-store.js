@@ -1,0 +1,194 @@
+// The presets of all actions in the presets database: listed, stored, renamed, removed, brought in. Pure: the database service and the
+// files are handed in. Every answer is a fresh one, since the service answers a failed query with the result of the one before.
+
+import { FORMS } from "./preset-forms.js";
+import { FIELDS, freeName, nameProblem, presetOf, rowOf, storedName } from "./presets.js";
+
+const TABLE = "Presets";
+const NAME = "NameOfPreset";
+const HEADER = "SQLite format 3";
+// No more rows than this bear one name.
+const MOST_COPIES = 100;
+
+function textOf(data) {
+    return data === null ? "" : String.fromCharCode.apply(null, Array.from(new Uint8Array(data)));
+}
+
+export class PresetStore {
+    /**
+     * @param makeDb    makes a dbViewController
+     * @param files     readText and info are used
+     * @param standard  the settings of a new pane, by the name of the action
+     */
+    constructor(makeDb, files, standard) {
+        this.makeDb = makeDb;
+        this.files = files;
+        this.standard = standard;
+        /** Why the presets cannot be read, in a sentence; empty while they can. */
+        this.problem = "";
+    }
+
+    // The rows that match, as texts; null where the database did not answer.
+    rows(column, value, table) {
+        const db = this.makeDb();
+        const found = db.checkForActionType(table || TABLE, column, value);
+        if (db.myPresetsArray === null) {
+            return null;
+        }
+        return found === null ? [] : found.slice();
+    }
+
+    // Makes the database where there is none yet.
+    link() {
+        try {
+            this.makeDb().linkToPresetsDB();
+        } catch (error) {
+            // What is wrong shows when it is read.
+            this.linkError = error;
+        }
+    }
+
+    /**
+     * The presets of an action, in the order in which they were stored: presetOf() of each, with its `fields`. Of several ready ones
+     * with one name, which two programs at once can make, the newest.
+     */
+    list(action) {
+        this.link();
+        const rows = this.rows("Process", FORMS[action].process);
+        this.problem = rows === null ? this.readProblem() : "";
+        const all = (rows || []).map((row) => Object.assign({ fields: row.split("|") }, presetOf(row, this.standard)));
+        return all.filter((preset, i) => preset.state !== "ready"
+            || !all.slice(i + 1).some((later) => later.state === "ready" && later.name === preset.name));
+    }
+
+    /** The names of the presets of all actions. */
+    names() {
+        return Object.keys(FORMS).reduce((names, action) => {
+            const rows = this.rows("Process", FORMS[action].process) || [];
+            return names.concat(rows.map((row) => row.split("|")[0]));
+        }, []);
+    }
+
+    /** What is wrong with a name, in a sentence; also a name that a preset of another program has. */
+    nameProblem(text, names) {
+        const name = storedName(text);
+        const problem = nameProblem(name, names);
+        return problem !== "" ? problem : nameProblem(name, (this.rows(NAME, name) || []).map((row) => row.split("|")[0]));
+    }
+
+    /** Stores settings under a name; a ready preset of this action with that name is replaced. Returns a problem, or "". */
+    save(action, name, settings) {
+        const replaced = this.idOf(action, name);
+        const problem = this.insert(rowOf(action, name, settings));
+        if (problem === "" && replaced !== "") {
+            this.removeId(replaced);
+        }
+        return problem;
+    }
+
+    /** Gives a preset another name. Returns a problem, or "". Cut off in the middle it leaves both names. */
+    rename(preset, name) {
+        return this.insert([name].concat(preset.fields.slice(1))) || this.remove(preset.action, preset.name);
+    }
+
+    /** Removes the ready presets of an action with that name. Returns a problem, or "". */
+    remove(action, name) {
+        for (let i = 0; i < MOST_COPIES; i += 1) {
+            const id = this.idOf(action, name);
+            if (id === "") {
+                return "";
+            }
+            this.removeId(id);
+            if (this.idOf(action, name) === id) {
+                return this.writeProblem();
+            }
+        }
+        return "";
+    }
+
+    /** Stores rows as they stand, under free names: {names, renamed (count), problem}. */
+    bringIn(rows) {
+        const taken = this.names();
+        const result = { names: [], renamed: 0, problem: "" };
+        for (const row of rows) {
+            let name = freeName(row[0], taken);
+            while ((this.rows(NAME, name) || []).length > 0) {
+                taken.push(name);
+                name = freeName(row[0], taken);
+            }
+            result.problem = this.insert([name].concat(row.slice(1)));
+            if (result.problem !== "") {
+                break;
+            }
+            result.renamed += name === storedName(row[0]) ? 0 : 1;
+            result.names.push(name);
+            taken.push(name);
+        }
+        return result;
+    }
+
+    insert(row) {
+        if (row.length !== FIELDS) {
+            throw new Error("A preset has " + FIELDS + " values");
+        }
+        try {
+            this.makeDb().insertSortingPresetToDB01(row);
+        } catch (error) {
+            if (error.name !== "InternalInconsistency") {
+                throw error;
+            }
+            return this.writeProblem();
+        }
+        return "";
+    }
+
+    // The number of the newest row with that name in the process of the action, if it is a ready preset; else "".
+    idOf(action, name) {
+        if ((this.rows(NAME, name) || []).length === 0) {
+            return "";
+        }
+        const id = textOf(this.makeDb().hGetBookMarkedFolders(TABLE, NAME, name, "Process", FORMS[action].process, NAME + ", ID"));
+        if (!/^[0-9]+$/.test(id)) {
+            return "";
+        }
+        const rows = this.rows("ID", id) || [];
+        const preset = rows.length === 1 ? presetOf(rows[0], this.standard) : null;
+        return preset !== null && preset.state === "ready" && preset.name === name ? id : "";
+    }
+
+    removeId(id) {
+        this.makeDb().removePresetFromDatabase(TABLE, "ID", id);
+    }
+
+    path() {
+        return this.makeDb().dbFilePath();
+    }
+
+    readProblem() {
+        const path = this.path();
+        if (!this.files.info(path).exists) {
+            return qsTr("Presets cannot be kept: their database cannot be made.");
+        }
+        const text = this.files.readText(path);
+        if (text === null) {
+            return qsTr("The presets database cannot be read.");
+        }
+        if (text !== "" && !text.startsWith(HEADER)) {
+            return qsTr("The presets database is damaged. It is left as it is.");
+        }
+        return text === "" || this.rows("StrField0", "appSys", "AppResource") !== null
+            ? qsTr("The presets database has no place for presets. It is left as it is.")
+            : qsTr("The presets database is in use by another program, or damaged. It is left as it is.");
+    }
+
+    writeProblem() {
+        const path = this.path();
+        const folder = path.slice(0, path.lastIndexOf("/"));
+        if (!this.files.info(path).writable || !this.files.info(folder).writable) {
+            return qsTr("The presets database is read-only; nothing was changed.");
+        }
+        return this.rows(NAME, "") === null
+            ? this.readProblem()
+            : qsTr("The presets database is in use by another program, or the disk is full; nothing was changed.");
+    }
+}

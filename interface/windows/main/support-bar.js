@@ -1,0 +1,36 @@
+// The bar that offers to choose the support folder, until it was chosen or put off. Services used: defaults.
+
+import { defaults } from "quorlin/defaults";
+import { guard } from "../../lib/guard.js";
+import { keep, recall } from "../../lib/store.js";
+import { Preferences } from "../preferences/preferences.js";
+
+const PUT_OFF = "SupportFolderPutOff";
+
+export class SupportBar {
+    /** @param window  the main window's parts: form, page */
+    constructor(window) {
+        this.window = window;
+        this.preferences = new Preferences(window.form, () => this.folderChosen());
+        window.form.control("preferencesAction").triggered.connect(guard("preferences", () => this.preferences.open()));
+        window.form.control("supportChoose").clicked.connect(guard("support.choose", () => this.preferences.chooseFirst()));
+        window.form.control("supportLater").clicked.connect(guard("support.later", () => this.putOff()));
+        this.show();
+    }
+
+    // A panel that was cancelled changes nothing: the bar stays.
+    folderChosen() {
+        this.show();
+        this.window.page.filesChanged();
+    }
+
+    putOff() {
+        keep(defaults, PUT_OFF, { on: true });
+        this.show();
+    }
+
+    show() {
+        const isAsked = defaults.get("SupportFilesDestination") === null && !recall(defaults, PUT_OFF, { on: false }).on;
+        this.window.form.control("supportBar").visible = isAsked;
+    }
+}

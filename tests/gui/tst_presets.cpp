@@ -1,0 +1,379 @@
+#include "window_driver.h"
+
+#include "app/window/position_pad.h"
+#include "app/window/segmented_control.h"
+
+#include "platform/desktop/user_defaults.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+const QString oddName = QStringLiteral("Größe – Anna’s 日本 🙂");
+
+} // namespace
+
+class Presets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
+
+    void init()
+    {
+        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+    }
+
+    void cleanup() { m_driver.reset(); }
+
+    void everyActionStartsWithPresets_data() { eachAction(); }
+
+    void everyActionStartsWithPresets()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, starting);
+        m_driver->show(qPrintable(action));
+        QVERIFY(names().size() >= 4);
+        QCOMPARE(chosen(), QStringLiteral("None"));
+        m_driver->choose("preset", QLatin1Char('=') + starting);
+        QCOMPARE(chosen(), starting);
+        QVERIFY(m_driver->control<QLabel>("problemText")->text().isEmpty());
+    }
+
+    void aPresetThatWasDeletedDoesNotComeBack()
+    {
+        m_driver->choose("preset", QStringLiteral("=Mail 1024"));
+        WindowDriver::answerNextQuestion(QStringLiteral("Keep"));
+        act("Delete…");
+        QVERIFY(names().contains(QStringLiteral("Mail 1024")));
+        WindowDriver::answerNextQuestion(QStringLiteral("Delete"));
+        act("Delete…");
+        QVERIFY(!names().contains(QStringLiteral("Mail 1024")));
+        QCOMPARE(chosen(), QStringLiteral("None"));
+        QCOMPARE(number("value"), 1024.0);
+        m_driver->startAgain();
+        QVERIFY(!names().contains(QStringLiteral("Mail 1024")));
+        QVERIFY(names().contains(QStringLiteral("Web 1600")));
+    }
+
+    void aSavedPresetIsThereAfterARestart_data() { eachAction(); }
+
+    void aSavedPresetIsThereAfterARestart()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, starting);
+        m_driver->show(qPrintable(action));
+        const QStringList standard = state();
+        change(action);
+        const QStringList changed = state();
+        QVERIFY(changed != standard);
+        saveAs(oddName);
+        QCOMPARE(chosen(), oddName);
+        m_driver->choose("preset", QLatin1Char('=') + starting);
+        QVERIFY(state() != changed);
+        m_driver->startAgain();
+        QCOMPARE(chosen(), starting);
+        m_driver->choose("preset", QLatin1Char('=') + oddName);
+        QCOMPARE(chosen(), oddName);
+        QCOMPARE(state(), changed);
+        m_driver->startAgain();
+        QCOMPARE(chosen(), oddName);
+        QCOMPARE(state(), changed);
+    }
+
+    void goesThroughAFile_data() { eachAction(); }
+
+    void goesThroughAFile()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, starting);
+        m_driver->show(qPrintable(action));
+        change(action);
+        const QStringList changed = state();
+        saveAs(oddName);
+        const QString path = m_driver->folder() + QStringLiteral("/Größe 🙂.c-action");
+        m_driver->answerPanels({path});
+        act("Export…");
+        QVERIFY(QFile::exists(path));
+        act("Import…");
+        QCOMPARE(chosen(), oddName + QStringLiteral(" 2"));
+        WindowDriver::answerNextQuestion(QStringLiteral("Delete"));
+        act("Delete…");
+        m_driver->choose("preset", QLatin1Char('=') + oddName);
+        WindowDriver::answerNextQuestion(QStringLiteral("Delete"));
+        act("Delete…");
+        QVERIFY(!names().contains(oddName));
+        m_driver->choose("preset", QLatin1Char('=') + starting);
+        act("Import…");
+        QCOMPARE(chosen(), oddName);
+        QCOMPARE(state(), changed);
+        QVERIFY(m_driver->text("statusText").contains(QLatin1String("1 preset imported")));
+    }
+
+    void changedSettingsAreShownAndSaved()
+    {
+        m_driver->choose("preset", QStringLiteral("=Web 1600"));
+        QVERIFY(!entry("Save")->isEnabled());
+        m_driver->control<QDoubleSpinBox>("value")->setValue(1500);
+        QCOMPARE(chosen(), QStringLiteral("Web 1600, changed"));
+        m_driver->control<QDoubleSpinBox>("value")->setValue(1600);
+        QCOMPARE(chosen(), QStringLiteral("Web 1600"));
+        m_driver->control<QDoubleSpinBox>("value")->setValue(1400);
+        m_driver->choose("quality", QStringLiteral("5"));
+        act("Save");
+        QCOMPARE(chosen(), QStringLiteral("Web 1600"));
+        QCOMPARE(names().count(QStringLiteral("Web 1600")), 1);
+        m_driver->choose("preset", QStringLiteral("=Mail 1024"));
+        m_driver->choose("preset", QStringLiteral("=Web 1600"));
+        QCOMPARE(number("value"), 1400.0);
+        QCOMPARE(m_driver->control<QComboBox>("quality")->currentData().toString(), QStringLiteral("5"));
+        m_driver->control<QDoubleSpinBox>("value")->setValue(1300);
+        m_driver->startAgain();
+        QCOMPARE(chosen(), QStringLiteral("Web 1600, changed"));
+    }
+
+    void choosingAgainBringsTheSettingsBack()
+    {
+        m_driver->choose("preset", QStringLiteral("=Web 1600"));
+        m_driver->control<QDoubleSpinBox>("value")->setValue(77);
+        m_driver->choose("preset", QStringLiteral("=Web 1600"));
+        QCOMPARE(number("value"), 1600.0);
+        QCOMPARE(chosen(), QStringLiteral("Web 1600"));
+    }
+
+    void aPresetIsRenamed()
+    {
+        m_driver->choose("preset", QStringLiteral("=Web 1600"));
+        act("Rename…");
+        QCOMPARE(nameField()->text(), QStringLiteral("Web 1600"));
+        nameField()->setText(oddName);
+        QTest::keyClick(nameField(), Qt::Key_Return);
+        QCOMPARE(chosen(), oddName);
+        QVERIFY(names().contains(oddName) && !names().contains(QStringLiteral("Web 1600")));
+        QCOMPARE(number("value"), 1600.0);
+        m_driver->startAgain();
+        QCOMPARE(chosen(), oddName);
+    }
+
+    void saysWhatANameCannotBe_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("apostrophe") << QStringLiteral("it's") << QStringLiteral("apostrophe");
+        QTest::newRow("bar") << QStringLiteral("a|b") << QStringLiteral("bar");
+        QTest::newRow("none") << QStringLiteral("  ") << QStringLiteral("Enter a name");
+        QTest::newRow("taken") << QStringLiteral("web 1600") << QStringLiteral("Web 1600 already");
+    }
+
+    void saysWhatANameCannotBe()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, words);
+        const QStringList before = names();
+        act("Save As…");
+        nameField()->setText(name);
+        auto *problem = m_driver->control<QLabel>("nameProblem");
+        QVERIFY(problem->isVisible());
+        QVERIFY2(problem->text().contains(words), qPrintable(problem->text()));
+        QVERIFY(!m_driver->control<QPushButton>("presetOk")->isEnabled());
+        QTest::keyClick(nameField(), Qt::Key_Return);
+        QVERIFY(nameField()->isVisible());
+        m_driver->trigger("presetEscape");
+        QVERIFY(!nameField()->isVisible());
+        QCOMPARE(names(), before);
+    }
+
+    void filesThatHoldNoPresetsAreRefusedInWords()
+    {
+        const QString path = m_driver->folder() + QStringLiteral("/x.c-action");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{}") == 2);
+        file.close();
+        m_driver->answerPanels({path});
+        const QStringList before = names();
+        act("Import…");
+        QCOMPARE(names(), before);
+        QCOMPARE(m_driver->text("presetProblem"), QStringLiteral("This file holds no presets."));
+    }
+
+    void aDatabaseThatIsNoneIsLeftAloneAndThePanesWork()
+    {
+        QFile file(m_driver->folder() + QStringLiteral("/.local/share/BrelmarkCom/QuorlinPS.sql"));
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write("No database at all.\n") > 0);
+        file.close();
+        m_driver->startAgain();
+        auto *problem = m_driver->control<QLabel>("presetProblem");
+        QVERIFY(problem->isVisible() && problem->text().contains(QLatin1String("damaged")));
+        QVERIFY(!entry("Save As…")->isEnabled());
+        m_driver->control<QDoubleSpinBox>("value")->setValue(900);
+        m_driver->show("crop");
+        m_driver->show("resize");
+        QCOMPARE(number("value"), 900.0);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("No database at all.\n"));
+        file.close();
+        QVERIFY(file.remove());
+        act("Look Again");
+        QVERIFY(!problem->isVisible());
+        QVERIFY(entry("Save As…")->isEnabled());
+    }
+
+    void theSupportFolderIsOfferedUntilItIsPutOff()
+    {
+        platform::removeUserDefault(QStringLiteral("SupportFolderPutOff"));
+        m_driver->startAgain();
+        QVERIFY(m_driver->control<QWidget>("supportBar")->isVisible());
+        m_driver->click("supportLater");
+        QVERIFY(!m_driver->control<QWidget>("supportBar")->isVisible());
+        m_driver->startAgain();
+        QVERIFY(!m_driver->control<QWidget>("supportBar")->isVisible());
+    }
+
+    void theChosenSupportFolderHoldsThePatterns()
+    {
+        platform::removeUserDefault(QStringLiteral("SupportFolderPutOff"));
+        m_driver->startAgain();
+        const QString folder = m_driver->folder() + QStringLiteral("/Support");
+        QVERIFY(QDir().mkpath(folder));
+        m_driver->answerPanels({folder});
+        m_driver->show("background");
+        m_driver->click("supportChoose");
+        QVERIFY(!m_driver->control<QWidget>("supportBar")->isVisible());
+        const QString patterns = folder + QStringLiteral("/Brelmark_SupportFiles/Patterns");
+        QVERIFY(QDir(patterns).entryList(QDir::Files).size() >= 5);
+        m_driver->control<window::SegmentedControl>("under")->setSelectedSegment(1);
+        QVERIFY(m_driver->control<QComboBox>("pattern")->findData(patterns + QStringLiteral("/paper.png")) >= 0);
+        QCOMPARE(m_driver->control<QComboBox>("pattern")->findText(QStringLiteral("paper.png")), -1);
+    }
+
+    void thePreferencesShowTheSupportFolderAndThatItIsGone()
+    {
+        const QString folder = m_driver->folder() + QStringLiteral("/Support");
+        QVERIFY(QDir().mkpath(folder));
+        m_driver->trigger("preferencesAction");
+        auto *sheet = m_driver->control<QDialog>("preferencesWindow");
+        QVERIFY(sheet->isVisible() && sheet->isModal());
+        QVERIFY(m_driver->text("libraryFilePath").contains(QLatin1String("None")));
+        m_driver->answerPanels({folder});
+        m_driver->click("libraryChange");
+        QCOMPARE(m_driver->text("libraryFilePath"), folder);
+        m_driver->click("preferencesDone");
+        QVERIFY(!sheet->isVisible());
+        m_driver->startAgain();
+        m_driver->trigger("preferencesAction");
+        QCOMPARE(m_driver->text("libraryFilePath"), folder);
+        m_driver->click("preferencesDone");
+        QVERIFY(QDir(folder).removeRecursively());
+        m_driver->trigger("preferencesAction");
+        QVERIFY(m_driver->control<QDialog>("preferencesWindow")->isVisible());
+        QVERIFY(m_driver->text("libraryFilePath").contains(QLatin1String("folder has gone!?")));
+    }
+
+private:
+    static void eachAction()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("starting");
+        QTest::newRow("resize") << QStringLiteral("resize") << QStringLiteral("Mail 1024");
+        QTest::newRow("crop") << QStringLiteral("crop") << QStringLiteral("3:2, 1800 × 1200");
+        QTest::newRow("turn") << QStringLiteral("turn") << QStringLiteral("Upside down");
+        QTest::newRow("round") << QStringLiteral("round") << QStringLiteral("Circle portrait");
+        QTest::newRow("background") << QStringLiteral("background") << QStringLiteral("On paper");
+    }
+
+    QString chosen() { return m_driver->control<QComboBox>("preset")->currentText(); }
+    double number(const char *field) { return m_driver->control<QDoubleSpinBox>(field)->value(); }
+    QLineEdit *nameField() { return m_driver->control<QLineEdit>("presetName"); }
+
+    QStringList names()
+    {
+        QStringList all;
+        const auto *box = m_driver->control<QComboBox>("preset");
+        for (int i = 0; i < box->count(); ++i)
+            all.append(box->itemText(i));
+        return all;
+    }
+
+    QAction *entry(const char *text)
+    {
+        const QList<QAction *> actions = m_driver->control<QPushButton>("presetMenu")->menu()->actions();
+        for (QAction *action : actions)
+            if (action->text() == QString::fromUtf8(text))
+                return action;
+        qFatal("no entry %s", text);
+    }
+
+    void act(const char *text) { entry(text)->trigger(); }
+
+    void saveAs(const QString &name)
+    {
+        act("Save As…");
+        nameField()->setText(name);
+        m_driver->click("presetOk");
+    }
+
+    /** Changes something of every kind of control that the action has, and the output. */
+    void change(const QString &action)
+    {
+        m_driver->choose("ifTaken", QStringLiteral("skip"));
+        m_driver->control<QCheckBox>("simulation")->setChecked(true);
+        if (action == QLatin1String("resize")) {
+            m_driver->control<QDoubleSpinBox>("value")->setValue(333);
+            m_driver->control<QCheckBox>("neverEnlarge")->setChecked(false);
+            m_driver->choose("fileType", QStringLiteral("public.png"));
+        } else if (action == QLatin1String("crop")) {
+            m_driver->control<QDoubleSpinBox>("cropPercent")->setValue(33);
+            m_driver->control<QDoubleSpinBox>("offsetX")->setValue(-12);
+            QTest::keyClick(m_driver->control<window::PositionPad>("position"), Qt::Key_Home);
+        } else if (action == QLatin1String("turn")) {
+            m_driver->control<QDoubleSpinBox>("angle")->setValue(-12.5);
+            m_driver->control<QAbstractButton>("flipVertical")->setChecked(true);
+        } else if (action == QLatin1String("round")) {
+            m_driver->control<QDoubleSpinBox>("radius")->setValue(33);
+            m_driver->control<QCheckBox>("roundBackground")->setChecked(true);
+            m_driver->control<QDoubleSpinBox>("roundBand")->setValue(7);
+        } else {
+            m_driver->choose("frame", QStringLiteral("band"));
+            m_driver->control<QDoubleSpinBox>("bandWidth")->setValue(77);
+        }
+    }
+
+    /** What all fields, boxes and menus of the shown pane say, but for the preset's own. */
+    QStringList state()
+    {
+        QStringList all;
+        const auto *settings = m_driver->control<QWidget>("settings");
+        for (const auto *box : settings->findChildren<QComboBox *>())
+            if (box->isVisible() && box->objectName() != QLatin1String("preset"))
+                all.append(box->objectName() + QLatin1Char('=') + box->currentText());
+        for (const auto *box : settings->findChildren<QDoubleSpinBox *>())
+            if (box->isVisible())
+                all.append(box->objectName() + QLatin1Char('=') + box->text());
+        for (const auto *button : settings->findChildren<QAbstractButton *>())
+            if (button->isVisible() && button->isCheckable())
+                all.append(button->objectName() + QLatin1Char('=') + QString::number(int(button->isChecked())));
+        for (const auto *row : settings->findChildren<window::SegmentedControl *>())
+            if (row->isVisible())
+                all.append(row->objectName() + QLatin1Char('=') + QString::number(row->selectedSegment()));
+        for (const auto *pad : settings->findChildren<window::PositionPad *>())
+            if (pad->isVisible())
+                all.append(pad->objectName() + QLatin1Char('=') + QString::number(pad->selectedSegment()));
+        all.sort();
+        return all;
+    }
+
+    std::unique_ptr<WindowDriver> m_driver;
+};
+
+QTEST_MAIN(Presets)
+
+#include "tst_presets.moc"
