@@ -19,7 +19,7 @@ class Prepared;
  * One connection to the presets database. Copies share it; it is closed by close(), or with the last copy.
  *
  * It runs a statement only as what the statement was meant to be: one statement, of its verb, on its table, reading its
- * columns, with no function, view, trigger, pragma or second table (see docs/decisions/0012). All else is refused by the
+ * columns, with no function, view, trigger, pragma or second table (see docs/decisions/0014). All else is refused by the
  * database while it compiles the statement, and is an invalid statement like any other. Every change is on the disk when the
  * statement ends, or did not happen. A database that somebody else is writing to is waited for, up to two seconds.
  */
