@@ -1,41 +1,52 @@
 // Which column of a preset holds which setting of an action; docs/presets.md says why they lie where they do. Pure data.
 //
 // Kinds: "text" any text; "number" any finite number, as text, so that it keeps its form; "whole" a whole number and "flag" true
-// or false, both in the columns that the database keeps as numbers. A setting is named by its path, "output.quality".
+// or false, both in the columns that the database keeps as numbers; "color" is "#rrggbb". A setting is named by its path,
+// "output.quality"; where it can only have certain values they stand behind its kind.
+
+import { MODES } from "./crops.js";
+import { UNITS } from "./measure.js";
+import { ORIGINAL, WRITTEN } from "./types.js";
 
 /** The newest version of the forms below. A form whose columns change their meaning gets a higher version. */
 export const VERSION = 1;
 
+const TYPES = [ORIGINAL].concat(WRITTEN.map((type) => type.id));
+const QUALITIES = ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10"];
+const RATIOS = ["free", "original", "1:1", "3:2", "4:3", "16:9", "2:3", "3:4", "9:16"];
+const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8];
+
 const OUTPUT = {
-    StrField4: ["output.fileType", "text"], StrField5: ["output.quality", "text"], StrField6: ["output.destination.kind", "text"],
-    StrField7: ["output.destination.name", "text"], StrField8: ["output.destination.path", "text"], StrField9: ["output.ifTaken", "text"],
+    StrField4: ["output.fileType", "text", TYPES], StrField5: ["output.quality", "text", QUALITIES],
+    StrField6: ["output.destination.kind", "text", ["beside", "source", "folder"]], StrField7: ["output.destination.name", "text"],
+    StrField8: ["output.destination.path", "text"], StrField9: ["output.ifTaken", "text", ["number", "replace", "skip", "ask"]],
     StrField21: ["output.simulation", "flag"],
 };
 
-function form(process, mode, own) {
-    return { process: process, mode: mode, columns: Object.assign({}, OUTPUT, own) };
+function form(process, mode, own, modes) {
+    return { process: process, mode: mode, modes: modes || [], columns: Object.assign({}, OUTPUT, own) };
 }
 
-/** By the name of the action's step: the words for Process, the setting that stands in Action, or "", and the columns. */
+/** By the name of the action's step: the words for Process, the setting that stands in Action, or "", and its values, and the columns. */
 export const FORMS = {
     resize: form("Resize", "mode", {
         StrField11: ["width", "number"], StrField12: ["height", "number"], StrField13: ["longest", "number"],
         StrField14: ["percent", "number"], StrField15: ["boxWidth", "number"], StrField16: ["boxHeight", "number"],
-        StrField17: ["boxFit", "text"], StrField18: ["unit", "text"], StrField22: ["neverEnlarge", "flag"],
-    }),
+        StrField17: ["boxFit", "text", ["fill", "stretch"]], StrField18: ["unit", "text", UNITS], StrField22: ["neverEnlarge", "flag"],
+    }, ["width", "height", "longest", "percent", "box"]),
     crop: form("Crop", "mode", {
-        StrField11: ["width", "number"], StrField12: ["height", "number"], StrField13: ["unit", "text"], StrField14: ["percent", "number"],
-        StrField15: ["pixels", "number"], StrField16: ["offsetX", "number"], StrField17: ["offsetY", "number"], StrField18: ["ratio", "text"],
-        StrField22: ["position", "whole"],
-    }),
+        StrField11: ["width", "number"], StrField12: ["height", "number"], StrField13: ["unit", "text", UNITS], StrField14: ["percent", "number"],
+        StrField15: ["pixels", "number"], StrField16: ["offsetX", "number"], StrField17: ["offsetY", "number"], StrField18: ["ratio", "text", RATIOS],
+        StrField22: ["position", "whole", PLACES],
+    }, MODES),
     turn: form("Rotate and Flip", "", {
         StrField11: ["angle", "number"], StrField22: ["flipHorizontal", "flag"], StrField23: ["flipVertical", "flag"],
     }),
     round: form("Round Corners", "shape", {
-        StrField11: ["radius", "number"], StrField12: ["color", "text"], StrField13: ["band", "number"], StrField22: ["background", "flag"],
-    }),
+        StrField11: ["radius", "number"], StrField12: ["color", "color"], StrField13: ["band", "number"], StrField22: ["background", "flag"],
+    }, ["rectangle", "circle", "ellipse"]),
     background: form("Background and Border", "under", {
-        StrField11: ["color", "text"], StrField12: ["pattern", "text"], StrField13: ["frame", "text"], StrField14: ["bandColor", "text"],
-        StrField15: ["bandWidth", "number"],
-    }),
+        StrField11: ["color", "color"], StrField12: ["pattern", "text"], StrField13: ["frame", "text", ["none", "white", "band"]],
+        StrField14: ["bandColor", "color"], StrField15: ["bandWidth", "number"],
+    }, ["color", "pattern"]),
 };

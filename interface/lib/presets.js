@@ -60,6 +60,7 @@ export function decoded(text) {
 
 const WRITERS = {
     text: (value) => (typeof value === "string" ? encoded(value) : null),
+    color: (value) => (typeof value === "string" ? encoded(value) : null),
     number: (value) => (typeof value === "number" && isFinite(value) ? String(value) : null),
     whole: (value) => (Number.isSafeInteger(value) ? String(value) : null),
     flag: (value) => (typeof value === "boolean" ? (value ? "1" : "0") : null),
@@ -67,6 +68,7 @@ const WRITERS = {
 
 const READERS = {
     text: decoded,
+    color: (text) => (/^#[0-9a-f]{6}$/i.test(text) ? text : null),
     number: (text) => (/^-?\d+(\.\d+)?(e[-+]?\d+)?$/.test(text) && isFinite(Number(text)) ? Number(text) : null),
     whole: (text) => (/^-?\d+$/.test(text) && Number.isSafeInteger(Number(text)) ? Number(text) : null),
     flag: (text) => (text === "1" ? true : text === "0" ? false : null),
@@ -118,11 +120,11 @@ function versionOf(mark) {
 function settingsIn(row, form, standard) {
     const settings = copyOf(standard);
     for (const column of Object.keys(form.columns)) {
-        const [path, kind] = form.columns[column];
+        const [path, kind, values] = form.columns[column];
         const text = row[placeOf(column)];
         // A setting that came later than the preset has an empty column; no number and no flag is written like that.
         const value = text === "" && kind !== "text" ? valueAt(standard, path) : READERS[kind](text);
-        if (value === null) {
+        if (value === null || (values !== undefined && values.indexOf(value) < 0)) {
             return null;
         }
         setAt(settings, path, value);
@@ -131,7 +133,8 @@ function settingsIn(row, form, standard) {
     if (form.mode !== "" && mode) {
         settings[form.mode] = mode;
     }
-    return mode === null ? null : settings;
+    const isMode = form.mode === "" || !mode || form.modes.indexOf(mode) >= 0;
+    return mode === null || !isMode ? null : settings;
 }
 
 /**

@@ -75,18 +75,19 @@ export function startingPresets(action, standard, patterns) {
 
 /**
  * Writes the presets that an action starts with, if that was not done before. A name that is taken is left out.
- * Where the database cannot be written it is tried again the next time.
+ * Where the database cannot be written it is tried again the next time. Returns whether the presets are to be read anew.
  */
 export function writeStartingPresets(action, standard, patterns, store, defaults) {
     const done = recall(defaults, KEY, { actions: [] }).actions;
     if (done.indexOf(action) >= 0) {
-        return;
+        return false;
     }
     const names = store.names();
     for (const [name, settings] of startingPresets(action, standard, patterns)) {
         if (store.nameProblem(name, names) === "" && store.save(action, name, settings) !== "") {
-            return;
+            return true;
         }
     }
     keep(defaults, KEY, { actions: done.concat([action]) });
+    return true;
 }

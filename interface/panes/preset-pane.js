@@ -68,10 +68,10 @@ export class PresetPane {
         this.problem = "";
         this.form.control("paneTitle").text = title;
         this.presets = this.store.list(action);
-        if (this.store.problem === "") {
-            writeStartingPresets(action, this.standard[action], shell.interfaceFolder + "/patterns", this.store, defaults);
+        if (this.store.problem === "" && writeStartingPresets(action, this.standard[action], shell.interfaceFolder + "/patterns", this.store, defaults)) {
+            this.presets = this.store.list(action);
         }
-        this.look(recall(defaults, keyOf(action), { name: "" }).name);
+        this.showChosen(recall(defaults, keyOf(action), { name: "" }).name);
     }
 
     /** Called after a change of the settings. */
@@ -83,6 +83,10 @@ export class PresetPane {
     // Reads the presets anew; the ready one of that name is the chosen one.
     look(name) {
         this.presets = this.store.list(this.action);
+        this.showChosen(name);
+    }
+
+    showChosen(name) {
         this.chosen = this.presets.find((preset) => preset.state === "ready" && preset.name === name) || null;
         this.showAll();
     }

@@ -2,15 +2,18 @@
 
 #include "window_driver.h"
 
-#include "app/window/color_well.h"
 #include "app/window/side_bar.h"
 #include "app/window/theme.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QFile>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPixmap>
+#include <QPushButton>
 #include <QTest>
 
 namespace {
@@ -50,17 +53,15 @@ void setNumber(WindowDriver &driver, const char *field, double value)
 void prepare(WindowDriver &driver, const QString &action)
 {
     if (action == QLatin1String("crop")) {
-        setNumber(driver, "cropPercent", 30);
+        driver.choose("preset", QStringLiteral("=16:9, 1920 × 1080"));
     } else if (action == QLatin1String("turn")) {
         driver.click("turnReset");
         setNumber(driver, "angle", 12.5);
     } else if (action == QLatin1String("round")) {
+        driver.choose("preset", QStringLiteral("=Soft corners"));
         setNumber(driver, "radius", 300);
     } else if (action == QLatin1String("background")) {
-        driver.choose("frame", QStringLiteral("band"));
-        setNumber(driver, "bandWidth", 60);
-        driver.control<window::ColorWell>("bandColor")->setColor(QStringLiteral("#e8e2d4"));
-        Q_EMIT driver.control<window::ColorWell>("bandColor")->chosen(QStringLiteral("#e8e2d4"));
+        driver.choose("preset", QStringLiteral("=Ivory mount"));
     }
 }
 
@@ -75,6 +76,21 @@ void showActions(WindowDriver &driver, const QString &folder, const QString &app
         driver.window().resize(1280, 720);
         save(driver, name + QStringLiteral("-small.png"));
     }
+}
+
+// What asks for something without a window of its own, and the preferences.
+void showAsking(WindowDriver &driver, const QString &name)
+{
+    driver.control<QPushButton>("presetMenu")->menu()->actions().at(1)->trigger();
+    driver.control<QLineEdit>("presetName")->setText(QStringLiteral("Anna's"));
+    driver.control<QWidget>("supportBar")->show();
+    save(driver, name + QStringLiteral("-asking.png"));
+    driver.click("supportLater");
+    driver.trigger("presetEscape");
+    driver.trigger("preferencesAction");
+    settle(driver);
+    driver.control<QDialog>("preferencesWindow")->grab().save(name + QStringLiteral("-preferences.png"));
+    driver.click("preferencesDone");
 }
 
 } // namespace
@@ -94,8 +110,10 @@ int main(int argc, char **argv)
         driver.window().resize(1440, 900);
         driver.drop({samples(from, driver.folder())});
         driver.pictures().step(1);
+        driver.choose("preset", QStringLiteral("=Web 1600"));
         save(driver, name + QStringLiteral(".png"));
         showActions(driver, folder, QString::fromLatin1(appearance));
+        showAsking(driver, name);
         driver.show("resize");
         driver.click("startButton");
         driver.waitForSummary();

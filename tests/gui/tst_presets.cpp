@@ -205,6 +205,34 @@ private Q_SLOTS:
         QCOMPARE(m_driver->text("presetProblem"), QStringLiteral("This file holds no presets."));
     }
 
+    void aPresetOfANewerFormIsShownAndLeftAlone()
+    {
+        const QString path = m_driver->folder() + QStringLiteral("/newer.c-action");
+        m_driver->choose("preset", QStringLiteral("=Web 1600"));
+        m_driver->answerPanels({path});
+        act("Export…");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray newer = file.readAll().replace("Quorlin 1", "Quorlin 9").replace("Web 1600", "From later");
+        file.close();
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(newer) == newer.size());
+        file.close();
+        act("Import…");
+        QCOMPARE(chosen(), QStringLiteral("Web 1600"));
+        const QStringList before = state();
+        const int row = int(names().indexOf(QStringLiteral("From later (newer version)")));
+        QVERIFY(row > 0);
+        m_driver->choose("preset", m_driver->control<QComboBox>("preset")->itemData(row).toString());
+        QCOMPARE(state(), before);
+        QVERIFY(m_driver->text("presetNote").contains(QLatin1String("newer Quorlin")));
+        for (const char *text : {"Save", "Rename…", "Delete…"})
+            QVERIFY2(!entry(text)->isEnabled(), text);
+        QVERIFY(file.remove());
+        act("Export…");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), newer);
+    }
+
     void aDatabaseThatIsNoneIsLeftAloneAndThePanesWork()
     {
         QFile file(m_driver->folder() + QStringLiteral("/.local/share/BrelmarkCom/QuorlinPS.sql"));

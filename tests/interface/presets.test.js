@@ -132,13 +132,24 @@ test("takesARowOfAnotherLengthForUnknown", () => {
 
 test("saysWhenAPresetIsDamaged", () => {
     const damages = [["StrField11", "12px"], ["StrField11", "0x10"], ["StrField11", "1e999"], ["StrField11", " 5"], ["StrField22", "2"],
-                     ["StrField22", "true"], ["StrField4", "%zz"], ["StrField4", "it's"], ["StrField4", "%41"]];
+                     ["StrField22", "true"], ["StrField4", "%zz"], ["StrField4", "it's"], ["StrField4", "%41"], ["StrField4", "public.heic"],
+                     ["StrField5", "11"], ["StrField6", ""], ["StrField9", "overwrite"], ["StrField17", "tile"], ["StrField18", "mile"]];
     for (const [column, value] of damages) {
         const row = rowOf("resize", "n", resize);
         row[Number(column.slice(8))] = value;
         const preset = presetOf(row, STANDARD);
         equal([preset.state, preset.settings], ["damaged", null], column + " " + value);
         isTrue(preset.note.length > 0);
+    }
+});
+
+test("takesOnlyWordsThatASettingCanHave", () => {
+    for (const [action, place, value] of [["resize", 2, "depth"], ["crop", 2, "x"], ["crop", 18, "7:1"], ["crop", 22, "9"], ["round", 2, "star"],
+                                          ["round", 12, "red"], ["background", 2, "fur"], ["background", 13, "gold"],
+                                          ["background", 14, "#12345"]]) {
+        const row = rowOf(action, "n", STANDARD[action]);
+        row[place] = value;
+        equal(presetOf(row, STANDARD).state, "damaged", action + " " + place + " " + value);
     }
 });
 
