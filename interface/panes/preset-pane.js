@@ -136,12 +136,14 @@ export class PresetPane {
 
     showChoice() {
         const changed = this.isChanged();
-        const texts = this.presets.map((preset) => (changed && preset === this.chosen ? fill(qsTr("%1, changed"), preset.name) : stateWord(preset)));
+        const texts = this.presets.map((preset) => (changed && preset === this.chosen ? "• " + preset.name : stateWord(preset)));
         const none = this.chosen === null;
         this.form.setItems("preset", (none ? [qsTr("None")] : []).concat(texts), (none ? [""] : []).concat(this.presets.map((preset) => this.valueOf(preset))));
         this.form.chooseValue("preset", none ? "" : this.valueOf(this.chosen));
         this.form.control("preset").enabled = this.store.problem === "" && this.presets.length > 0;
-        this.form.control("preset").toolTip = none ? "" : this.chosen.name;
+        // The dot stands before the name, where a long one is not cut off.
+        this.form.control("preset").toolTip = none ? "" : changed ? fill(qsTr("%1, changed"), this.chosen.name) : this.chosen.name;
+        this.form.control("preset").accessibleDescription = changed ? qsTr("changed") : "";
         this.label("presetProblem", this.problem || this.store.problem);
         this.label("presetNote", none ? "" : this.chosen.note);
     }

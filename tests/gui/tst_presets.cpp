@@ -124,7 +124,7 @@ private Q_SLOTS:
         m_driver->choose("preset", QStringLiteral("=Web 1600"));
         QVERIFY(!entry("Save")->isEnabled());
         m_driver->control<QDoubleSpinBox>("value")->setValue(1500);
-        QCOMPARE(chosen(), QStringLiteral("Web 1600, changed"));
+        QCOMPARE(chosen(), QStringLiteral("• Web 1600"));
         m_driver->control<QDoubleSpinBox>("value")->setValue(1600);
         QCOMPARE(chosen(), QStringLiteral("Web 1600"));
         m_driver->control<QDoubleSpinBox>("value")->setValue(1400);
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(m_driver->control<QComboBox>("quality")->currentData().toString(), QStringLiteral("5"));
         m_driver->control<QDoubleSpinBox>("value")->setValue(1300);
         m_driver->startAgain();
-        QCOMPARE(chosen(), QStringLiteral("Web 1600, changed"));
+        QCOMPARE(chosen(), QStringLiteral("• Web 1600"));
     }
 
     void choosingAgainBringsTheSettingsBack()
