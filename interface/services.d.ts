@@ -219,6 +219,54 @@ declare module "quorlin" {
         urlForBookmark(bookmark: data): location;
     }
 
+    /**
+     * Text from which names are built. Positions and counts are in UTF-16 units, from 0; what lies outside the text leaves it as it
+     * was. Modes are text or a number. Tests answer "YES" or "NO". Null gives null; as a second text it is written "(null)".
+     */
+    export class cNSStringHandling {
+        constructor();
+        myBaseString2: anything;
+        /** Mode 1 lower case, 2 upper case, 3 the first letter of each word; any other leaves it. */
+        hChangeCaseFiles(text: text, mode: anything): text;
+        /** One piece where the separator does not occur. */
+        hSplitString(text: text, separator: text): texts;
+        hInsertStringInString(target: text, insertion: text, position: whole): text;
+        /** Every occurrence, by case. */
+        hReplaceStringInString(text: text, search: text, replacement: text): text;
+        /** "NA" keeps letters and numbers of every script, "OL" letters; any other mode keeps all. */
+        hRemoveNonLetters(text: text, mode: anything): text;
+        /** From the end for "fRight", from the beginning for "fLeft". */
+        hStripString(text: text, side: anything, count: whole): text;
+        hSubsectionString(text: text, start: whole, length: whole): text;
+        /** Short date and full time, as the user writes them. */
+        hNSDateToNSString(date: date): text;
+        /** Null if it is not valid UTF-8. */
+        hNSDataToNSString(data: data): text;
+        /** Null if a character is outside ASCII. */
+        hNSStringToNSData(text: text): data;
+        hConcatString(first: text, second: text, third: text): text;
+        /** In any case of letters. */
+        hStringContainsString(text: text, search: text): text;
+        /** By case. */
+        hStringBeginsWith(text: text, prefix: text): text;
+        /** By case; a RangeError for a suffix that is longer than the text. */
+        hStringEndWith(text: text, suffix: text): text;
+        /** Base64 on one line. */
+        hConvertNSdToNSstr(data: data): text;
+        /** Passes over characters outside the alphabet; null if what remains is no base64. */
+        hConvertNSstrToNSd(base64Text: text): data;
+        /** The last component of a path. */
+        hGetFileNameWithExt(path: text): text;
+        /** "/a/b/c.tar.gz" gives "c.tar". */
+        hGetFileNameNoExt(path: text): text;
+        /** In ASCII: base letters for accented Latin ones, "?" for everything else. */
+        hConvertAccentLetters(text: text): text;
+        /** Removes U+0020 only. */
+        hRemoveWhiteSpace(text: text): text;
+        /** The same text. Logs "hUTF8toNSString" first. */
+        hUTF8toNSString(text: text): text;
+    }
+
     /** The sheets of the main window, and the support folder that is chosen on one of them. */
     export class cSheetControl {
         constructor();

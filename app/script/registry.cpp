@@ -13,6 +13,7 @@
 #include "platform/desktop/stand_ins.h"
 #include "presets/Ztbookmarks.h"
 #include "presets/dbViewController.h"
+#include "text/cNSStringHandling.h"
 #include "views/my2ndPhotoView.h"
 #include "views/myMainPhotoView.h"
 
@@ -44,6 +45,7 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<ZtFFullScreen>(),
         serviceEntry<ZtImageHandling>(),
         serviceEntry<Ztbookmarks>(),
+        serviceEntry<cNSStringHandling>(),
         serviceEntry<cSheetControl>(),
         serviceEntry<cMConversion>(),
         serviceEntry<cToolBox>(),

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+namespace text {
+
+/**
+ * Changes of case by Unicode's full mappings, the same in every locale: upper case of "ß" is "SS", lower case of "İ" is "i" and
+ * a dot above, and a capital sigma at the end of a word becomes "ς". The length may change.
+ */
+enum class CaseChange { None, Lower, Upper, Capitalised };
+
+/**
+ * Only white space bounds a word when capitalising: the first letter of each word is put into title case and everything
+ * else into lower case: "o'NEIL (JOHN)" is "O'neil (John)". Signs and digits before the first letter are passed over: "2nd" is "2Nd".
+ */
+QString changedCase(const QString &text, CaseChange change);
+
+} // namespace text

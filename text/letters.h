@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace text {
+
+/** Letters are the letters and marks of every script; numbers are its digits and other numerals. */
+enum class Kept { Letters, LettersAndNumbers };
+
+/** @p text without every character of another kind, with nothing in its place. */
+QString onlyLetters(const QString &text, Kept kept);
+
+} // namespace text
