@@ -17,6 +17,10 @@ function ownWord(name) {
     return { checks: qsTr("Checks"), lines: qsTr("Lines"), dots: qsTr("Dots"), linen: qsTr("Linen"), paper: qsTr("Paper") }[name];
 }
 
+function suppliedPatterns() {
+    return OWN.map((name) => joinPath(shell.interfaceFolder, "patterns/" + name + ".png"));
+}
+
 // The patterns in the user's own folder.
 function foundPatterns() {
     const folder = defaults.get("PatternsDestination");
@@ -49,23 +53,29 @@ export class BackgroundPane extends Pane {
     }
 
     showPatterns() {
-        const own = OWN.map((name) => joinPath(shell.interfaceFolder, "patterns/" + name + ".png"));
         const found = foundPatterns();
         // A copy in the user's folder takes the place of the supplied one.
-        const supplied = own.map((path) => named(found, path) || path);
-        const others = found.concat(this.chosen).filter((path) => supplied.indexOf(path) < 0);
-        const pattern = this.settings.pattern;
-        if (supplied.concat(others).indexOf(pattern) < 0) {
-            if (pattern !== "" && own.indexOf(pattern) < 0 && files.info(pattern).exists) {
-                others.push(pattern);
-            } else {
-                this.settings.pattern = named(supplied, pattern) || supplied[0];
-            }
-        }
+        this.supplied = suppliedPatterns().map((path) => named(found, path) || path);
+        this.settings.pattern = this.patternFor(this.settings.pattern);
+        const supplied = this.supplied;
+        const all = supplied.concat(found, this.chosen, [this.settings.pattern]);
+        const others = all.filter((path, i) => i >= supplied.length && all.indexOf(path) === i);
         const names = OWN.map((name) => ownWord(name)).concat(others.length > 0 ? ["-"] : [], others.map((path) => splitPath(path).name));
         const values = supplied.concat(others.length > 0 ? ["-"] : [], others);
         this.form.setItems("pattern", names.concat(["-", qsTr("Choose…")]), values.concat(["-", CHOOSE]));
         this.form.chooseValue("pattern", this.settings.pattern);
+    }
+
+    // The pattern itself; for one that is gone, or has a copy in the user's folder, the one of that name.
+    patternFor(path) {
+        if (path !== "" && suppliedPatterns().indexOf(path) < 0 && files.info(path).exists) {
+            return path;
+        }
+        return named(this.supplied, path) || this.supplied[0];
+    }
+
+    resolved(settings) {
+        return Object.assign({}, settings, { pattern: this.patternFor(settings.pattern) });
     }
 
     patternChosen() {

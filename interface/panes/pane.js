@@ -65,6 +65,11 @@ export class Pane {
         this.fill();
     }
 
+    /** What settings become when they are shown here: files that are gone are replaced by others. */
+    resolved(settings) {
+        return settings;
+    }
+
     /** Puts the settings into the controls. */
     showValues() {
         return undefined;

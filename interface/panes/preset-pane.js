@@ -39,6 +39,7 @@ export class PresetPane {
         this.take = take;
         this.say = say;
         this.action = "";
+        this.pane = null;
         this.settings = null;
         this.presets = [];
         this.chosen = null;
@@ -60,10 +61,11 @@ export class PresetPane {
         control("presetEscape").triggered.connect(guard("presetCancel", () => this.cancelEditing()));
     }
 
-    /** Shows the presets of an action, whose settings are compared with them. */
-    use(action, title, settings) {
+    /** Shows the presets of an action, whose settings, those of the pane, are compared with them. */
+    use(action, title, pane) {
         this.action = action;
-        this.settings = settings;
+        this.pane = pane;
+        this.settings = pane.settings;
         this.editing = "";
         this.problem = "";
         this.form.control("paneTitle").text = title;
@@ -101,7 +103,7 @@ export class PresetPane {
 
     isChanged() {
         const text = (settings) => rowOf(this.action, "", settings).join("|");
-        return this.isReady() && text(this.settings) !== text(this.chosen.settings);
+        return this.isReady() && text(this.settings) !== text(this.pane.resolved(this.chosen.settings));
     }
 
     choiceMade(value) {
@@ -186,7 +188,7 @@ export class PresetPane {
     }
 
     lookAgain() {
-        this.use(this.action, this.form.control("paneTitle").text, this.settings);
+        this.use(this.action, this.form.control("paneTitle").text, this.pane);
     }
 
     save() {

@@ -43,10 +43,15 @@ private Q_SLOTS:
         QFETCH(QString, starting);
         m_driver->show(qPrintable(action));
         QVERIFY(names().size() >= 4);
+        QVERIFY(names().contains(starting));
         QCOMPARE(chosen(), QStringLiteral("None"));
-        m_driver->choose("preset", QLatin1Char('=') + starting);
-        QCOMPARE(chosen(), starting);
-        QVERIFY(m_driver->control<QLabel>("problemText")->text().isEmpty());
+        QStringList all = names();
+        all.removeFirst();
+        for (const QString &name : all) {
+            m_driver->choose("preset", QLatin1Char('=') + name);
+            QCOMPARE(chosen(), name);
+            QVERIFY(m_driver->control<QLabel>("problemText")->text().isEmpty());
+        }
     }
 
     void aPresetThatWasDeletedDoesNotComeBack()
@@ -281,6 +286,15 @@ private Q_SLOTS:
         m_driver->control<window::SegmentedControl>("under")->setSelectedSegment(1);
         QVERIFY(m_driver->control<QComboBox>("pattern")->findData(patterns + QStringLiteral("/paper.png")) >= 0);
         QCOMPARE(m_driver->control<QComboBox>("pattern")->findText(QStringLiteral("paper.png")), -1);
+        // The preset means the pattern of that name, wherever it lies.
+        m_driver->choose("preset", QStringLiteral("=On paper"));
+        QCOMPARE(chosen(), QStringLiteral("On paper"));
+        QCOMPARE(m_driver->control<QComboBox>("pattern")->currentData().toString(),
+                 patterns + QStringLiteral("/paper.png"));
+        QVERIFY(QDir(folder).removeRecursively());
+        m_driver->startAgain();
+        QCOMPARE(chosen(), QStringLiteral("On paper"));
+        QVERIFY(QFile::exists(m_driver->control<QComboBox>("pattern")->currentData().toString()));
     }
 
     void thePreferencesShowTheSupportFolderAndThatItIsGone()

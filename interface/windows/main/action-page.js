@@ -42,7 +42,7 @@ export class ActionPage {
         window.pane = page.pane;
         this.output.use(page.settings.output, page.action.step.offer);
         this.showCarried();
-        this.presets.use(page.action.name, page.action.title(), page.settings);
+        this.presets.use(page.action.name, page.action.title(), page.pane);
         shell.alignFields([this.presets.form, page.pane.form, this.output.form]);
         window.form.arrangeTabs();
         keep(defaults, SHOWN, { name: page.action.name });
@@ -58,8 +58,11 @@ export class ActionPage {
 
     /** Called when files that a pane offers may have changed. */
     filesChanged() {
+        const before = JSON.stringify(this.window.settings);
         Object.keys(this.pages).forEach((name) => this.pages[name].pane.fill());
-        this.changed();
+        if (JSON.stringify(this.window.settings) !== before && !this.window.run.isBusy()) {
+            this.changed();
+        }
     }
 
     // What metadata goes along may hang on the settings.
