@@ -32,7 +32,7 @@ QChar folded(char32_t c)
 {
     if (c <= lastAscii)
         return QChar(char16_t(c));
-    const QString parts = QString::fromUcs4(&c, 1).normalized(QString::NormalizationForm_D);
+    const QString parts = textOf(c).normalized(QString::NormalizationForm_D);
     const char32_t base = parts[0].unicode();
     if (isAsciiLetter(base))
         return parts[0];

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringView>
+#include <QString>
 
 /** Reading a text by characters. Half a surrogate pair without its other half is a character of its own. */
 namespace text {
@@ -27,6 +27,13 @@ inline char32_t characterBefore(QStringView text, qsizetype index)
     if (last.isLowSurrogate() && index > 1 && text[index - 2].isHighSurrogate())
         return QChar::surrogateToUcs4(text[index - 2], last);
     return last.unicode();
+}
+
+/** One character as text. QString::fromUcs4() would take U+FEFF for a byte-order mark and leave it out. */
+inline QString textOf(char32_t c)
+{
+    QString text;
+    return text += QChar::fromUcs4(c);
 }
 
 } // namespace text

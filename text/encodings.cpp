@@ -1,5 +1,7 @@
 #include "text/encodings.h"
 
+#include "platform/foundation/utf8.h"
+
 #include <algorithm>
 
 namespace text {
@@ -43,7 +45,8 @@ std::optional<QByteArray> dataFromBase64(const QString &text)
 
 QString throughUtf8(const QString &text)
 {
-    return QString::fromUtf8(text.toUtf8());
+    // QString::fromUtf8() would leave out a byte-order mark.
+    return platform::textFromUtf8(text.toUtf8()).value_or(QString());
 }
 
 } // namespace text

@@ -77,9 +77,9 @@ QString lowerCase(const QString &text)
 QString titleCase(char32_t c)
 {
     const char32_t title = QChar::toTitleCase(c);
-    const QString upper = QString::fromUcs4(&c, 1).toUpper();
+    const QString upper = textOf(c).toUpper();
     if (title != c || upper.size() <= 1)
-        return QString::fromUcs4(&title, 1);
+        return textOf(title);
     qsizetype letter = 0;
     while (letter < upper.size() - 1 && !upper[letter].isUpper())
         ++letter;

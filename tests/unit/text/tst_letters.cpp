@@ -73,6 +73,7 @@ void TestLetters::foldsAccents_data()
     row("Ёлка ά", "???? ?");
     row("😀 1\uFE0F", "? 1");
     row("\u0301a", "?a");
+    row("b\uFEFFa\u200B", "b?a?");
     row("≠ = \u0338", "? = ");
     row("“quoted” … € Ａ", "?quoted? ? ? ?");
 }
