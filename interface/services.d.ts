@@ -294,6 +294,37 @@ declare module "quorlin" {
         getPictureDPI(path: text): single;
     }
 
+    /** Moves, copies, links, renames, trashes and deletes files and folders, and tells about single ones. */
+    export class cNSFileHandling {
+        constructor();
+        /** Not used by any operation. */
+        saveURL: location;
+        /** The last text of getFileSize. */
+        myFileSizeStr: text;
+        tfDestinationFolder: Control | null;
+        /** "OK", "EXISTS" where anything is there, or "FAILED"; makes the folders above too. */
+        hCreateDirectory(path: text): text;
+        /** Removes files and folders for good; "OK" whatever happened. Locations, not paths. */
+        hDeleteFiles(locations: list): text;
+        /** Opens what tfDestinationFolder shows. */
+        hShowInFinder(sender: sender): null;
+        /** Reads both as locations: with a space in them nothing happens. Replaces nothing. */
+        hRenameFile(path: text, newName: text): null;
+        /** "OK" or "NO". */
+        hCheckIfFileExist(path: text): text;
+        /** "2.4 MB"; the text before where nothing is there. */
+        getFileSize(path: text): text;
+        /** "OK" or "Failed". The destination's folder is made; what is at the destination is removed first, always. */
+        static hMoveFileTo(source: text, destination: text): text;
+        static hCopyFileTo(source: text, destination: text): text;
+        /** A symbolic link that says exactly the source. */
+        static hAliasFileTo(source: text, destination: text): text;
+        /** "OK" or "Failed"; then it is still in its place. */
+        static hTrashFile(path: text): text;
+        /** "public.jpeg", "public.folder" ...; null where nothing is there. */
+        static hGetFileType(path: text): text;
+    }
+
     /** Collects the input of the actions; called on the class. */
     export class cToolBox {
         constructor();

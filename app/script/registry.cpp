@@ -7,6 +7,7 @@
 #include "app/mainWindowClass.h"
 #include "app/script/picture_object.h"
 
+#include "files/cNSFileHandling.h"
 #include "files/cToolBox.h"
 #include "image/ZtImageHandling.h"
 #include "image/cMConversion.h"
@@ -48,6 +49,7 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<cNSStringHandling>(),
         serviceEntry<cSheetControl>(),
         serviceEntry<cMConversion>(),
+        serviceEntry<cNSFileHandling>(),
         serviceEntry<cToolBox>(),
         serviceEntry<dbViewController>(),
         serviceEntry<mainViewController>(),

@@ -1,24 +1,41 @@
 #include "platform/foundation/folders.h"
 
+#include "platform/foundation/copy_tree.h"
+#include "platform/foundation/paths.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QUuid>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
 
 #include <fcntl.h>
+#include <unistd.h>
 
 namespace platform {
 namespace {
 
 namespace fs = std::filesystem;
 
+/** The path of the item itself: through a slash at the end a link would be followed. */
 fs::path native(const QString &path)
 {
-    return fs::path(QFile::encodeName(path).toStdString());
+    return fs::path(QFile::encodeName(withoutTrailingSlashes(path)).toStdString());
+}
+
+/** The system would read a path only up to a null character, and a broken pair of surrogates as something else. */
+bool canBeAPath(const QString &path)
+{
+    return !path.isEmpty() && !path.contains(QChar(u'\0')) && path.isValidUtf16();
+}
+
+tl::unexpected<Error> noPath(const QString &path)
+{
+    return failure(ErrorCode::InvalidValue, QStringLiteral("This cannot be the path of an item: %1").arg(path));
 }
 
 QString because(const std::error_code &error)
@@ -26,28 +43,95 @@ QString because(const std::error_code &error)
     return QString::fromLocal8Bit(error.message().c_str());
 }
 
-/** A name beside @p target that nobody uses, hidden while the copy grows. */
-fs::path besideOf(const fs::path &target)
+/** A name beside @p item that nobody uses, hidden and short, so that it fits where the name itself only just does. */
+QString besideOf(const QString &item)
 {
-    const std::string tag = QUuid::createUuid().toString(QUuid::Id128).left(12).toStdString();
-    return target.parent_path() / ("." + target.filename().string() + "." + tag);
+    const QString tag = QUuid::createUuid().toString(QUuid::Id128).left(12);
+    return joinedPath(parentFolder(QDir(item).absolutePath()), QStringLiteral(".quorlin-") + tag);
 }
 
-/** Renames without ever replacing; file systems that cannot promise it are asked first. */
-bool renameToNew(const fs::path &from, const fs::path &to, std::error_code &error)
+std::error_code renamePath(const fs::path &from, const fs::path &to)
 {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
-        return true;
-    if (errno != EINVAL && errno != ENOSYS) {
-        error = std::error_code(errno, std::generic_category());
-        return false;
-    }
-    if (fs::exists(fs::symlink_status(to, error))) {
-        error = std::make_error_code(std::errc::file_exists);
-        return false;
-    }
+        return {};
+    if (errno != EINVAL && errno != ENOSYS)
+        return std::error_code(errno, std::generic_category());
+    // This file system cannot promise it and is asked first.
+    std::error_code error;
+    if (fs::exists(fs::symlink_status(to, error)))
+        return std::make_error_code(std::errc::file_exists);
     fs::rename(from, to, error);
-    return !error;
+    return error;
+}
+
+/** True where @p item lies in the folder @p folder, or is it. */
+bool isWithin(const fs::path &item, const fs::path &folder)
+{
+    std::error_code error;
+    if (!fs::is_directory(fs::symlink_status(folder, error)))
+        return false;
+    const fs::path outer = fs::canonical(folder, error);
+    const fs::path inner = fs::weakly_canonical(item.parent_path(), error);
+    return std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first == outer.end();
+}
+
+bool mayChange(const fs::path &folder)
+{
+    return ::faccessat(AT_FDCWD, folder.c_str(), R_OK | W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+/** Whether the item and all that is in it could be removed, as far as permissions tell. */
+bool mayBeTakenAway(const fs::path &item)
+{
+    std::error_code error;
+    const fs::path parent = item.has_parent_path() ? item.parent_path() : fs::path(".");
+    if (!mayChange(parent))
+        return false;
+    if (!fs::is_directory(fs::symlink_status(item, error)))
+        return true;
+    if (!mayChange(item))
+        return false;
+    const auto below = fs::recursive_directory_iterator(item, error);
+    return !error && std::all_of(begin(below), end(below), [](const fs::directory_entry &entry) {
+        std::error_code ignored;
+        return !entry.is_directory(ignored) || entry.is_symlink(ignored) || mayChange(entry.path());
+    });
+}
+
+/** What was written is on the disk before what it was made from is given up. */
+void settle(const QString &folder)
+{
+    const int descriptor = ::open(native(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::syncfs(descriptor);
+    ::close(descriptor);
+}
+
+tl::unexpected<Error> notMoved(const QString &from, const QString &to, const std::error_code &error)
+{
+    const bool isMissing = error == std::errc::no_such_file_or_directory && !isTaken(from);
+    return failure(isMissing ? ErrorCode::NotFound : ErrorCode::WriteFailed,
+                   QStringLiteral("Cannot move %1 to %2: %3").arg(from, to, because(error)));
+}
+
+/** Moves to another file system. The source leaves its place in one step, so that up to then it is whole. */
+Result<void> moveByCopying(const QString &from, const QString &to)
+{
+    if (!mayBeTakenAway(native(from)))
+        return notMoved(from, to, std::make_error_code(std::errc::permission_denied));
+    if (const auto copied = copyItem(from, to); !copied)
+        return copied;
+    settle(parentFolder(to));
+    const QString aside = besideOf(from);
+    if (const std::error_code error = renameToNew(from, aside)) {
+        (void)removeItem(to);
+        return notMoved(from, to, error);
+    }
+    const auto removed = removeItem(aside);
+    if (!removed)
+        renameToNew(aside, from);
+    return removed;
 }
 
 } // namespace
@@ -63,6 +147,12 @@ bool itemExists(const QString &path)
     return QFileInfo::exists(path);
 }
 
+bool isTaken(const QString &path)
+{
+    std::error_code error;
+    return canBeAPath(path) && fs::exists(fs::symlink_status(native(path), error));
+}
+
 bool folderExists(const QString &path)
 {
     return QFileInfo(path).isDir();
@@ -70,6 +160,8 @@ bool folderExists(const QString &path)
 
 Result<void> makeFolder(const QString &path)
 {
+    if (!canBeAPath(path))
+        return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot make a folder without a path"));
     std::error_code error;
     fs::create_directories(native(path), error);
     // Some libraries report an error for a path that ends in "/" although the folder was made.
@@ -81,6 +173,10 @@ Result<void> makeFolder(const QString &path)
 
 Result<void> removeItem(const QString &path)
 {
+    const QString name = lastPathComponent(path);
+    // "." and ".." can only be emptied, not removed; and nobody who asks for "/" can mean it.
+    if (!canBeAPath(path) || name == QStringLiteral("/") || name == QStringLiteral(".") || name == QStringLiteral(".."))
+        return noPath(path);
     std::error_code error;
     const std::uintmax_t count = fs::remove_all(native(path), error);
     if (error)
@@ -92,21 +188,45 @@ Result<void> removeItem(const QString &path)
 
 Result<void> copyItem(const QString &from, const QString &to)
 {
-    const fs::path source = native(from);
-    const fs::path target = native(to);
-    const fs::path beside = besideOf(target);
-    std::error_code error;
-    if (!fs::exists(fs::symlink_status(source, error)))
+    if (!isTaken(from))
         return failure(ErrorCode::NotFound, QStringLiteral("Cannot copy %1: there is nothing").arg(from));
-    if (fs::exists(fs::symlink_status(target, error)))
+    if (!canBeAPath(to) || isTaken(to))
         return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot copy to %1: something is there").arg(to));
-    fs::copy(source, beside, fs::copy_options::recursive | fs::copy_options::copy_symlinks, error);
-    if (!error && renameToNew(beside, target, error))
+    if (isWithin(native(to), native(from)))
+        return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot copy %1 into itself").arg(from));
+    const QString beside = besideOf(to);
+    std::error_code error = copyTree(native(from), native(beside));
+    if (!error)
+        error = renameToNew(beside, to);
+    if (!error)
         return {};
-    const QString reason = because(error);
-    std::error_code ignored;
-    fs::remove_all(beside, ignored);
-    return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot copy %1 to %2: %3").arg(from, to, reason));
+    (void)removeItem(beside);
+    return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot copy %1 to %2: %3").arg(from, to, because(error)));
+}
+
+std::error_code renameToNew(const QString &from, const QString &to)
+{
+    if (!canBeAPath(from) || !canBeAPath(to))
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    return renamePath(native(from), native(to));
+}
+
+Result<void> moveItem(const QString &from, const QString &to)
+{
+    const std::error_code error = renameToNew(from, to);
+    if (!error)
+        return {};
+    return error == std::errc::cross_device_link ? moveByCopying(from, to) : notMoved(from, to, error);
+}
+
+Result<void> makeLink(const QString &target, const QString &path)
+{
+    std::error_code error = std::make_error_code(std::errc::invalid_argument);
+    if (canBeAPath(target) && canBeAPath(path))
+        fs::create_symlink(fs::path(QFile::encodeName(target).toStdString()), native(path), error);
+    if (error)
+        return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot link %1: %2").arg(path, because(error)));
+    return {};
 }
 
 } // namespace platform

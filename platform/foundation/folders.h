@@ -2,6 +2,8 @@
 
 #include "platform/foundation/result.h"
 
+#include <system_error>
+
 namespace platform {
 
 /**
@@ -12,6 +14,9 @@ QString applicationSupportFolder();
 
 /** Whether anything is at @p path: a link to nothing is not. */
 bool itemExists(const QString &path);
+
+/** Whether @p path is taken: as itemExists(), and by a link to nothing too. */
+bool isTaken(const QString &path);
 
 /** Whether a folder, or a link to one, is at @p path. */
 bool folderExists(const QString &path);
@@ -26,16 +31,43 @@ Result<void> makeFolder(const QString &path);
 /**
  * Removes what is at @p path: a file, a link (never what it leads to), or a folder with all that is in it.
  *
- * Fails with NotFound, or with WriteFailed when something of it could not be removed.
+ * Fails with NotFound, with WriteFailed when something of it could not be removed, and with InvalidValue, before anything
+ * is removed, for "/" and for paths that end in "." or "..".
  */
 Result<void> removeItem(const QString &path);
 
 /**
- * Copies the file or folder at @p from, with all that is in it, to the new item @p to. Links are copied as links.
+ * Copies the file or folder at @p from, with all that is in it, to the new item @p to. Links are copied as links; permissions,
+ * modification dates and the user's extended attributes go along where the file system has them.
  *
- * Fails with WriteFailed when anything is at @p to already, or when the folder of @p to is missing or cannot be written, and
- * with NotFound or Unreadable for the source. The copy is made beside the target and renamed: on failure there is none.
+ * Fails with WriteFailed when anything is at @p to already, when the folder of @p to is missing or cannot be written, when
+ * something cannot be read, or when a folder would be copied into itself, and with NotFound where there is no source. The
+ * copy is made beside the target and renamed: on failure there is none.
  */
 Result<void> copyItem(const QString &from, const QString &to);
+
+/**
+ * Renames without ever replacing anything, within one file system. A link is renamed, not what it leads to.
+ *
+ * Answers the system's error, none on success: std::errc::file_exists where @p to is taken, and
+ * std::errc::cross_device_link where the two are on different file systems. Nothing has changed then.
+ */
+std::error_code renameToNew(const QString &from, const QString &to);
+
+/**
+ * Moves the file, link or folder at @p from to the new item @p to, to another file system too.
+ *
+ * Fails with WriteFailed when @p to is taken, its folder is missing, or the source cannot be taken away, and with NotFound.
+ * A failed move leaves the source and nothing at the target. Only where another program interferes while the source of a
+ * finished copy is removed, the copy stays as well. Costs a copy from one file system to another, else nothing.
+ */
+Result<void> moveItem(const QString &from, const QString &to);
+
+/**
+ * Makes a symbolic link at @p path that says exactly @p target, which need not be there.
+ *
+ * Fails with WriteFailed when @p path is taken or its folder is missing, or @p target is empty.
+ */
+Result<void> makeLink(const QString &target, const QString &path);
 
 } // namespace platform

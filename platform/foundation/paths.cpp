@@ -37,4 +37,30 @@ QString baseName(const QString &path)
     return dot < 0 ? name : name.left(dot);
 }
 
+QString withoutTrailingSlashes(const QString &path)
+{
+    qsizetype end = path.size();
+    while (end > 1 && path[end - 1] == u'/')
+        --end;
+    return path.left(end);
+}
+
+QString parentFolder(const QString &path)
+{
+    const QString item = withoutTrailingSlashes(path);
+    const qsizetype slash = item.lastIndexOf(u'/');
+    return slash < 0 ? QString() : withoutTrailingSlashes(item.left(slash + 1));
+}
+
+QString joinedPath(const QString &folder, const QString &name)
+{
+    if (folder.isEmpty() || name.isEmpty())
+        return folder + name;
+    qsizetype start = 0;
+    while (start < name.size() && name[start] == u'/')
+        ++start;
+    const QString front = withoutTrailingSlashes(folder);
+    return (front == QStringLiteral("/") ? front : front + u'/') + name.mid(start);
+}
+
 } // namespace platform

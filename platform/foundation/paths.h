@@ -16,4 +16,13 @@ QString pathExtension(const QString &path);
 /** The last component without its extension and the dot before it. */
 QString baseName(const QString &path);
 
+/** @p path without the slashes at its end; "/" stays. What ends in a slash would lead through a link, not to it. */
+QString withoutTrailingSlashes(const QString &path);
+
+/** The path of the folder that the last component is in: "/a/b/" gives "/a", "/a" and "/" give "/", "a" gives "". */
+QString parentFolder(const QString &path);
+
+/** @p name in @p folder, with one slash between them; the folder itself where the name is empty. */
+QString joinedPath(const QString &folder, const QString &name);
+
 } // namespace platform

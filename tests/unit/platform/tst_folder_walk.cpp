@@ -1,4 +1,5 @@
 #include "platform/foundation/folder_walk.h"
+#include "tests/support/scratch_folder.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,24 +32,6 @@ QString text(const char *latin1)
 {
     return QString::fromLatin1(latin1);
 }
-
-/** Becomes a user who owns nothing for as long as it lives, since nothing is unreadable for root. */
-class Nobody
-{
-public:
-    Nobody() : m_wasRoot(geteuid() == 0) { m_ready = !m_wasRoot || seteuid(65534) == 0; }
-    ~Nobody()
-    {
-        if (m_wasRoot && seteuid(0) != 0)
-            qFatal("cannot become root again");
-    }
-    Q_DISABLE_COPY_MOVE(Nobody)
-    bool ready() const { return m_ready; }
-
-private:
-    bool m_wasRoot;
-    bool m_ready = false;
-};
 
 int openDescriptors()
 {

@@ -1,0 +1,112 @@
+#include "files/cNSFileHandling.h"
+
+#include "files/make_folder.h"
+#include "files/placing.h"
+#include "files/rename_by_location.h"
+
+#include "platform/desktop/controls.h"
+#include "platform/desktop/trash.h"
+#include "platform/desktop/workspace.h"
+#include "platform/foundation/folders.h"
+#include "platform/foundation/human_texts.h"
+#include "platform/foundation/item_facts.h"
+#include "platform/foundation/raised.h"
+
+namespace {
+
+QString okOrFailed(bool isDone)
+{
+    return isDone ? QStringLiteral("OK") : QStringLiteral("Failed");
+}
+
+QUrl locationFrom(const QVariant &value, qsizetype index)
+{
+    const bool isText = value.metaType() == QMetaType::fromType<QString>();
+    const QUrl location(isText ? value.toString() : QString());
+    if (!location.isValid() || location.isRelative())
+        throw platform::Raised::typeError(
+            QStringLiteral("Expected a location such as file:///a/b.jpg for locations[%1] but received %2")
+                .arg(index)
+                .arg(isText ? u'"' + value.toString() + u'"' : QStringLiteral("something else")));
+    return location;
+}
+
+QList<QUrl> locationsFrom(const QVariantList &values)
+{
+    QList<QUrl> locations;
+    for (const QVariant &value : values)
+        locations.append(locationFrom(value, locations.size()));
+    return locations;
+}
+
+} // namespace
+
+cNSFileHandling::cNSFileHandling(QObject *parent) : QObject(parent) {}
+
+QString cNSFileHandling::hCreateDirectory(const QString &path)
+{
+    switch (files::makeFolder(path)) {
+    case files::FolderMade::Yes:
+        return QStringLiteral("OK");
+    case files::FolderMade::WasThere:
+        return QStringLiteral("EXISTS");
+    case files::FolderMade::No:
+        return QStringLiteral("FAILED");
+    }
+    Q_UNREACHABLE();
+}
+
+QString cNSFileHandling::hDeleteFiles(const QVariantList &locations)
+{
+    for (const QUrl &location : locationsFrom(locations))
+        if (location.isLocalFile() && location.host().isEmpty())
+            (void)platform::removeItem(location.toLocalFile());
+    return QStringLiteral("OK");
+}
+
+void cNSFileHandling::hShowInFinder(const platform::Sender &)
+{
+    platform::openItem(platform::textOf(tfDestinationFolder));
+}
+
+void cNSFileHandling::hRenameFile(const QString &path, const QString &newName)
+{
+    files::renameByLocation(path, newName);
+}
+
+QString cNSFileHandling::hCheckIfFileExist(const QString &path)
+{
+    return platform::itemExists(path) ? QStringLiteral("OK") : QStringLiteral("NO");
+}
+
+QString cNSFileHandling::getFileSize(const QString &path)
+{
+    if (const auto facts = platform::itemFacts(path))
+        myFileSizeStr = platform::byteCountText(facts->sizeInBytes);
+    return myFileSizeStr;
+}
+
+QString cNSFileHandling::hMoveFileTo(const QString &source, const QString &destination)
+{
+    return okOrFailed(files::place(files::Placing::Move, source, destination));
+}
+
+QString cNSFileHandling::hCopyFileTo(const QString &source, const QString &destination)
+{
+    return okOrFailed(files::place(files::Placing::Copy, source, destination));
+}
+
+QString cNSFileHandling::hAliasFileTo(const QString &source, const QString &destination)
+{
+    return okOrFailed(files::place(files::Placing::Link, source, destination));
+}
+
+QString cNSFileHandling::hTrashFile(const QString &path)
+{
+    return okOrFailed(platform::moveToTrash(path).has_value());
+}
+
+QString cNSFileHandling::hGetFileType(const QString &path)
+{
+    return platform::typeOfItem(path);
+}

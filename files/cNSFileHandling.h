@@ -1,0 +1,90 @@
+#pragma once
+
+#include "platform/foundation/sender.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QUrl>
+#include <QVariant>
+
+/**
+ * Answers questions about single files and moves, copies, links, renames, trashes and deletes them.
+ *
+ * Paths are absolute. Operations that place or remove answer with a status word: "OK" or "Failed", making a folder with
+ * "OK", "EXISTS" or "FAILED", the question whether something exists with "OK" or "NO". Nothing raises, nothing is shown, and
+ * nothing is logged. Main thread only.
+ */
+class cNSFileHandling : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("ClassOperations", "hMoveFileTo hCopyFileTo hAliasFileTo hTrashFile hGetFileType")
+    /** Not used by any operation. */
+    Q_PROPERTY(QUrl saveURL MEMBER saveURL)
+    /** The last text that getFileSize() made; null before. */
+    Q_PROPERTY(QString myFileSizeStr MEMBER myFileSizeStr)
+    /** The field that shows the folder which hShowInFinder() opens. */
+    Q_PROPERTY(QObject *tfDestinationFolder MEMBER tfDestinationFolder)
+
+public:
+    Q_INVOKABLE explicit cNSFileHandling(QObject *parent = nullptr);
+
+    /**
+     * Makes the folder at @p path with all above it that are missing.
+     *
+     * @return "EXISTS" where anything is there, a file too; else "OK", or "FAILED"
+     */
+    Q_INVOKABLE QString hCreateDirectory(const QString &path);
+
+    /**
+     * Removes files and whole folders for good, in the order of the list; of a link the link only.
+     *
+     * @param locations  file locations as text, "file:///a/b%20c.jpg"; null counts as empty
+     * @return "OK", also where something could not be removed
+     *
+     * A TypeError, before anything is removed, where one of them is no location.
+     */
+    Q_INVOKABLE QString hDeleteFiles(const QVariantList &locations);
+
+    /** Opens the item whose path tfDestinationFolder shows, a folder in the file browser; nothing where nothing is there. */
+    Q_INVOKABLE void hShowInFinder(const platform::Sender &sender);
+
+    /**
+     * Gives an item another name in its folder. Both paths are read as locations: a path with a space or another character
+     * that no location can hold is none, and then nothing happens, as where the new name is taken.
+     */
+    Q_INVOKABLE void hRenameFile(const QString &path, const QString &newName);
+
+    /** "OK" where a file or folder is at @p path, else "NO"; a link counts as what it leads to. */
+    Q_INVOKABLE QString hCheckIfFileExist(const QString &path);
+
+    /**
+     * The size of the item as text: "Zero KB", "999 bytes", "2.4 MB". A folder's is that of its entry, a link's its own.
+     *
+     * @return where nothing is at @p path the text that the object gave before, null where there was none
+     */
+    Q_INVOKABLE QString getFileSize(const QString &path);
+
+    /**
+     * Moves a file or folder, to another file system too. The folder of the destination is made where it is missing, and
+     * then what is at the destination is removed for good, whatever becomes of the rest: a file that is moved onto
+     * itself is lost. Where the move fails the source is still there, but for that.
+     */
+    Q_INVOKABLE QString hMoveFileTo(const QString &source, const QString &destination);
+
+    /** Copies a file, or a folder with all that is in it, by the rules of hMoveFileTo(). A whole copy is made or none. */
+    Q_INVOKABLE QString hCopyFileTo(const QString &source, const QString &destination);
+
+    /** Makes a symbolic link that says exactly @p source, which need not exist, by the rules of hMoveFileTo(). */
+    Q_INVOKABLE QString hAliasFileTo(const QString &source, const QString &destination);
+
+    /** Moves a file or folder to the user's trash. On "Failed" it is still in its place. */
+    Q_INVOKABLE QString hTrashFile(const QString &path);
+
+    /** The type identifier by the item's extension, "public.folder" for a folder; null where nothing is there. */
+    Q_INVOKABLE QString hGetFileType(const QString &path);
+
+private:
+    QUrl saveURL;
+    QString myFileSizeStr;
+    QPointer<QObject> tfDestinationFolder;
+};

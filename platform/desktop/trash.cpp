@@ -1,0 +1,205 @@
+#include "platform/desktop/trash.h"
+
+#include "platform/foundation/folders.h"
+#include "platform/foundation/paths.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
+#include <cerrno>
+#include <optional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+/** What is to be trashed: where it is, and how the info file of one trash calls that place. */
+struct Item
+{
+    QString path;
+    QString placeForInfo;
+};
+
+enum class Reach { OneFileSystem, AnyFileSystem };
+
+QByteArray native(const QString &path)
+{
+    return QFile::encodeName(path);
+}
+
+std::error_code lastError()
+{
+    return std::error_code(errno, std::generic_category());
+}
+
+bool isOwnFolder(const QString &path)
+{
+    struct stat found = {};
+    return ::lstat(native(path).constData(), &found) == 0 && S_ISDIR(found.st_mode) && found.st_uid == ::geteuid();
+}
+
+bool makePrivateFolder(const QString &path)
+{
+    return ::mkdir(native(path).constData(), 0700) == 0 || folderExists(path);
+}
+
+/** Makes a trash with its two folders where they are missing. */
+bool prepare(const QString &trash)
+{
+    return makeFolder(parentFolder(trash)) && makePrivateFolder(trash) &&
+           makePrivateFolder(joinedPath(trash, QStringLiteral("files"))) &&
+           makePrivateFolder(joinedPath(trash, QStringLiteral("info")));
+}
+
+QString fileIn(const QString &trash, const QString &name)
+{
+    return joinedPath(trash, QStringLiteral("files/") + name);
+}
+
+QString infoIn(const QString &trash, const QString &name)
+{
+    return joinedPath(trash, QStringLiteral("info/") + name + QStringLiteral(".trashinfo"));
+}
+
+/** The @p number-th name to try: "a.jpg", "a.2.jpg", "a.3.jpg" ..., cut so that the info file's name is not too long. */
+QString numbered(const QString &name, int number)
+{
+    constexpr qsizetype longestInBytes = 255 - 10; // ".trashinfo"
+    constexpr qsizetype longestExtension = 32;     // what is longer is no extension and may be cut
+    const QString base = baseName(name);
+    const bool isSplit = name.size() - base.size() <= longestExtension;
+    const QString tail =
+        (number > 1 ? u'.' + QString::number(number) : QString()) + (isSplit ? name.mid(base.size()) : QString());
+    QString front = isSplit ? base : name;
+    while (native(front + tail).size() > longestInBytes)
+        front.chop(front.back().isLowSurrogate() ? 2 : 1);
+    return front + tail;
+}
+
+QByteArray infoText(const Item &item)
+{
+    return "[Trash Info]\nPath=" + QUrl::toPercentEncoding(item.placeForInfo, "/") +
+           "\nDeletionDate=" + QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")).toLatin1() +
+           '\n';
+}
+
+/** Writes the info file where there is none: whoever makes it owns the name. */
+std::error_code writeNewFile(const QString &path, const QByteArray &text)
+{
+    const int descriptor = ::open(native(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (descriptor < 0)
+        return lastError();
+    const bool isWritten = ::write(descriptor, text.constData(), size_t(text.size())) == text.size();
+    std::error_code error = isWritten ? std::error_code() : std::make_error_code(std::errc::no_space_on_device);
+    if (::close(descriptor) != 0 && !error)
+        error = lastError();
+    if (error)
+        ::unlink(native(path).constData());
+    return error;
+}
+
+std::error_code moveTo(const QString &from, const QString &to, Reach reach)
+{
+    const std::error_code error = renameToNew(from, to);
+    if (error != std::errc::cross_device_link || reach == Reach::OneFileSystem)
+        return error;
+    return moveItem(from, to) ? std::error_code() : error;
+}
+
+/** Puts the item into one trash. The info file comes first, so that nothing lies in the trash without it. */
+std::error_code putInto(const QString &trash, const Item &item, Reach reach)
+{
+    if (!prepare(trash))
+        return std::make_error_code(std::errc::permission_denied);
+    const QString name = lastPathComponent(item.path);
+    for (int number = 1;; ++number) {
+        const QString candidate = numbered(name, number);
+        std::error_code error = writeNewFile(infoIn(trash, candidate), infoText(item));
+        if (error == std::errc::file_exists)
+            continue;
+        if (error)
+            return error;
+        error = moveTo(item.path, fileIn(trash, candidate), reach);
+        if (!error)
+            return {};
+        ::unlink(native(infoIn(trash, candidate)).constData());
+        if (error != std::errc::file_exists)
+            return error;
+    }
+}
+
+std::optional<dev_t> deviceOf(const QString &folder)
+{
+    struct stat found = {};
+    return ::stat(native(folder).constData(), &found) == 0 ? std::optional(found.st_dev) : std::nullopt;
+}
+
+/** The topmost folder of the file system that @p folder, a path without links, is on. */
+QString topFolderOf(QString folder)
+{
+    const auto device = deviceOf(folder);
+    while (folder != QStringLiteral("/") && deviceOf(parentFolder(folder)) == device)
+        folder = parentFolder(folder);
+    return folder;
+}
+
+/** The user's folder in the trash that an administrator made for all users of a file system; empty where there is none. */
+QString sharedTrash(const QString &top)
+{
+    const QString all = joinedPath(top, QStringLiteral(".Trash"));
+    struct stat found = {};
+    const bool isSafe =
+        ::lstat(native(all).constData(), &found) == 0 && S_ISDIR(found.st_mode) && (found.st_mode & S_ISVTX);
+    const QString own = joinedPath(all, QString::number(::geteuid()));
+    return isSafe && makePrivateFolder(own) && isOwnFolder(own) ? own : QString();
+}
+
+/** The user's own trash on a file system; empty where it cannot be made, or somebody else made it. */
+QString ownTrash(const QString &top)
+{
+    const QString own = joinedPath(top, QStringLiteral(".Trash-") + QString::number(::geteuid()));
+    return makePrivateFolder(own) && isOwnFolder(own) ? own : QString();
+}
+
+std::error_code putIntoItsFileSystem(const Item &item)
+{
+    const QString top = topFolderOf(parentFolder(item.path));
+    const QString below = item.path.mid(top == QStringLiteral("/") ? 1 : top.size() + 1);
+    for (const auto &find : {sharedTrash, ownTrash})
+        if (const QString trash = find(top);
+            !trash.isEmpty() && !putInto(trash, {item.path, below}, Reach::OneFileSystem))
+            return {};
+    return std::make_error_code(std::errc::permission_denied);
+}
+
+} // namespace
+
+Result<void> moveToTrash(const QString &path)
+{
+    const QString name = lastPathComponent(path);
+    if (name == QStringLiteral("/") || name == QStringLiteral(".") || name == QStringLiteral(".."))
+        return failure(ErrorCode::InvalidValue, QStringLiteral("Cannot trash %1").arg(path));
+    if (!isTaken(path))
+        return failure(ErrorCode::NotFound, QStringLiteral("Cannot trash %1: there is nothing").arg(path));
+    const QString folder = parentFolder(path);
+    const QString place = QFileInfo(folder.isEmpty() ? QStringLiteral(".") : folder).canonicalFilePath();
+    const Item item = {joinedPath(place, name), joinedPath(place, name)};
+    const QString home = joinedPath(applicationSupportFolder(), QStringLiteral("Trash"));
+    std::error_code error = putInto(home, item, Reach::OneFileSystem);
+    if (error == std::errc::cross_device_link && !putIntoItsFileSystem(item))
+        return {};
+    if (error == std::errc::cross_device_link)
+        error = putInto(home, item, Reach::AnyFileSystem);
+    if (error)
+        return failure(
+            ErrorCode::WriteFailed,
+            QStringLiteral("Cannot trash %1: %2").arg(path, QString::fromLocal8Bit(error.message().c_str())));
+    return {};
+}
+
+} // namespace platform

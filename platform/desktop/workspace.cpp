@@ -1,0 +1,50 @@
+#include "platform/desktop/workspace.h"
+
+#include "platform/foundation/folders.h"
+#include "platform/foundation/type_identifiers.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace platform {
+namespace {
+
+/** Without a display Qt knows no desktop and says so on standard error; the desktop's own opener may still be there. */
+bool hasDesktop()
+{
+    const QString name = QGuiApplication::platformName();
+    return name != QStringLiteral("offscreen") && name != QStringLiteral("minimal");
+}
+
+void openWithoutDesktop(const QUrl &location)
+{
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (!opener.isEmpty())
+        QProcess::startDetached(opener, {QString::fromLatin1(location.toEncoded())});
+}
+
+} // namespace
+
+QString typeOfItem(const QString &path)
+{
+    if (!itemExists(path))
+        return {};
+    return folderExists(path) ? QStringLiteral("public.folder") : typeIdentifierForPath(path);
+}
+
+void openItem(const QString &path)
+{
+    if (!itemExists(path))
+        return;
+    const QUrl location = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
+    if (hasDesktop())
+        QDesktopServices::openUrl(location);
+    else
+        openWithoutDesktop(location);
+}
+
+} // namespace platform
