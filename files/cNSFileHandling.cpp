@@ -1,10 +1,12 @@
 #include "files/cNSFileHandling.h"
 
+#include "files/date_stamp.h"
 #include "files/make_folder.h"
 #include "files/placing.h"
 #include "files/rename_by_location.h"
 
 #include "platform/desktop/controls.h"
+#include "platform/desktop/custom_icon.h"
 #include "platform/desktop/trash.h"
 #include "platform/desktop/workspace.h"
 #include "platform/foundation/folders.h"
@@ -43,6 +45,23 @@ QList<QUrl> locationsFrom(const QVariantList &values)
 
 cNSFileHandling::cNSFileHandling(QObject *parent) : QObject(parent) {}
 
+QString cNSFileHandling::stampOr(const QDateTime &date, const QVariant &formatCode)
+{
+    if (files::asksForStamp(formatCode))
+        dateString = files::dateStamp(date);
+    return dateString.isNull() ? QStringLiteral("(null)") : dateString;
+}
+
+QString cNSFileHandling::hGetCreationDateFile(const QString &path, const QVariant &formatCode)
+{
+    return stampOr(platform::itemFacts(path).value_or(platform::ItemFacts()).created, formatCode);
+}
+
+QString cNSFileHandling::hGetModificationDateFile(const QString &path, const QVariant &formatCode)
+{
+    return stampOr(platform::itemFacts(path).value_or(platform::ItemFacts()).modified, formatCode);
+}
+
 QString cNSFileHandling::hCreateDirectory(const QString &path)
 {
     switch (files::makeFolder(path)) {
@@ -54,6 +73,11 @@ QString cNSFileHandling::hCreateDirectory(const QString &path)
         return QStringLiteral("FAILED");
     }
     Q_UNREACHABLE();
+}
+
+void cNSFileHandling::hAddIconToFile(const QString &path, const platform::Picture &icon)
+{
+    (void)platform::setCustomIcon(path, icon);
 }
 
 QString cNSFileHandling::hDeleteFiles(const QVariantList &locations)

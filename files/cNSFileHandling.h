@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/sender.h"
+#include "platform/graphics/picture.h"
 
 #include <QObject>
 #include <QPointer>
@@ -18,6 +19,8 @@ class cNSFileHandling : public QObject
 {
     Q_OBJECT
     Q_CLASSINFO("ClassOperations", "hMoveFileTo hCopyFileTo hAliasFileTo hTrashFile hGetFileType")
+    /** The last date stamp; null before. */
+    Q_PROPERTY(QString dateString MEMBER dateString)
     /** Not used by any operation. */
     Q_PROPERTY(QUrl saveURL MEMBER saveURL)
     /** The last text that getFileSize() made; null before. */
@@ -29,11 +32,30 @@ public:
     Q_INVOKABLE explicit cNSFileHandling(QObject *parent = nullptr);
 
     /**
+     * The date on which the file was made, where the file system keeps no such date the one of its last change, for use in
+     * names: "16-Nov-2026T03-52-09", local time.
+     *
+     * @param formatCode  0, 1 or 2, as number or text: a new stamp, in one and the same form. Anything else: the stamp that the
+     *                    object gave before
+     * @return "(null)" where there is none: nothing is at the path, or nothing was given before. A link has dates of its own
+     */
+    Q_INVOKABLE QString hGetCreationDateFile(const QString &path, const QVariant &formatCode);
+
+    /** The date of the last change, by the rules of hGetCreationDateFile(). */
+    Q_INVOKABLE QString hGetModificationDateFile(const QString &path, const QVariant &formatCode);
+
+    /**
      * Makes the folder at @p path with all above it that are missing.
      *
      * @return "EXISTS" where anything is there, a file too; else "OK", or "FAILED"
      */
     Q_INVOKABLE QString hCreateDirectory(const QString &path);
+
+    /**
+     * Makes @p icon the icon of a file or folder: a folder gets a hidden copy and a ".directory" file, a file an attribute.
+     * What is in the item stays as it is. Nothing happens without an item or a picture, or where it cannot be written.
+     */
+    Q_INVOKABLE void hAddIconToFile(const QString &path, const platform::Picture &icon);
 
     /**
      * Removes files and whole folders for good, in the order of the list; of a link the link only.
@@ -84,6 +106,9 @@ public:
     Q_INVOKABLE QString hGetFileType(const QString &path);
 
 private:
+    QString stampOr(const QDateTime &date, const QVariant &formatCode);
+
+    QString dateString;
     QUrl saveURL;
     QString myFileSizeStr;
     QPointer<QObject> tfDestinationFolder;

@@ -297,13 +297,19 @@ declare module "quorlin" {
     /** Moves, copies, links, renames, trashes and deletes files and folders, and tells about single ones. */
     export class cNSFileHandling {
         constructor();
+        /** The last date stamp. */
+        dateString: text;
         /** Not used by any operation. */
         saveURL: location;
         /** The last text of getFileSize. */
         myFileSizeStr: text;
         tfDestinationFolder: Control | null;
+        /** "16-Nov-2026T03-52-09" for the codes 0, 1 and 2; for others the stamp before, or "(null)". */
+        hGetCreationDateFile(path: text, formatCode: anything): text;
+        hGetModificationDateFile(path: text, formatCode: anything): text;
         /** "OK", "EXISTS" where anything is there, or "FAILED"; makes the folders above too. */
         hCreateDirectory(path: text): text;
+        hAddIconToFile(path: text, icon: Picture | null): null;
         /** Removes files and folders for good; "OK" whatever happened. Locations, not paths. */
         hDeleteFiles(locations: list): text;
         /** Opens what tfDestinationFolder shows. */

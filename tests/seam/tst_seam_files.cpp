@@ -42,7 +42,13 @@ void TestSeamFiles::answersWhatItIsAsked_data()
     row("f.hDeleteFiles(['a.txt'])",
         "TypeError: Expected a location such as file:///a/b.jpg for locations[0] but received \"a.txt\"");
     row("f.hShowInFinder(null)", "null");
-    row("[f.saveURL, f.myFileSizeStr, f.tfDestinationFolder]", "[null,null,null]");
+    row("f.hGetModificationDateFile('FOLDER/a.txt', 3)", "\"(null)\"");
+    row("/^\\d+-[A-Z][a-z]+-\\d{4}T\\d\\d-\\d\\d-\\d\\d$/.test(f.hGetCreationDateFile('FOLDER/a.txt', '1'))", "true");
+    row("f.hGetModificationDateFile('FOLDER/a.txt', 2) === f.dateString", "true");
+    row("f.hAddIconToFile('FOLDER', null)", "null");
+    row("f.hAddIconToFile('FOLDER', 'icon.png')",
+        "TypeError: Expected a Picture or null for icon but received \"icon.png\"");
+    row("[f.dateString, f.saveURL, f.myFileSizeStr, f.tfDestinationFolder]", "[null,null,null,null]");
     row("cNSFileHandling.hMoveFileTo('FOLDER/a.txt')", "TypeError: hMoveFileTo takes 2 arguments but received 1");
     row("cNSFileHandling.hTrashFile(5)", "TypeError: Expected text or null for path but received 5");
 }

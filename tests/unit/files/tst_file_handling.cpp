@@ -4,6 +4,8 @@
 #include "tests/support/scratch_folder.h"
 
 #include <QGuiApplication>
+#include <QImage>
+#include <QLocale>
 #include <QTest>
 
 /** The words that the file operations answer with. */
@@ -18,6 +20,10 @@ private Q_SLOTS:
     void placesUnderEveryName();
     void tellsWhetherSomethingExists();
     void tellsSizes();
+    void stampsDates_data();
+    void stampsDates();
+    void keepsTheStampBefore();
+    void addsIcons();
     void tellsTypes_data();
     void tellsTypes();
     void deletesInOrderAndGoesOn();
@@ -111,6 +117,63 @@ void TestFileHandling::tellsSizes()
     QCOMPARE(fresh.getFileSize(at("empty")), QStringLiteral("Zero KB"));
     QCOMPARE(fresh.getFileSize(at("a.jpg")), QStringLiteral("1 byte"));
     QCOMPARE(fresh.getFileSize(at("link")), QStringLiteral("3 bytes"));
+}
+
+void TestFileHandling::stampsDates_data()
+{
+    QTest::addColumn<QVariant>("code");
+    QTest::addColumn<QString>("stamp");
+    for (const QVariant &code : {QVariant(0), QVariant(1), QVariant(2), QVariant(QStringLiteral("0")),
+                                 QVariant(QStringLiteral("1")), QVariant(QStringLiteral("2"))})
+        QTest::addRow("%s %s", code.typeName(), qPrintable(code.toString())) << code << "16-Nov-2026T03-52-09";
+    for (const QVariant &code :
+         {QVariant(3), QVariant(-1), QVariant(1.5), QVariant(QStringLiteral("3")), QVariant(QStringLiteral("")),
+          QVariant(QStringLiteral(" 1")), QVariant(QStringLiteral("01")), QVariant(QVariantList{1}),
+          QVariant(QVariantMap()), QVariant()})
+        QTest::addRow("%s %s", code.typeName(), qPrintable(code.toString())) << code << "(null)";
+}
+
+void TestFileHandling::stampsDates()
+{
+    QFETCH(QVariant, code);
+    QFETCH(QString, stamp);
+    QFile file(at("a.jpg"));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime(QDate(2026, 11, 16), QTime(3, 52, 9)), QFileDevice::FileModificationTime));
+    file.close();
+    cNSFileHandling fresh;
+    QCOMPARE(fresh.hGetModificationDateFile(at("a.jpg"), code), stamp);
+    QCOMPARE(fresh.property("dateString").toString(), stamp == QStringLiteral("(null)") ? QString() : stamp);
+}
+
+void TestFileHandling::keepsTheStampBefore()
+{
+    cNSFileHandling fresh;
+    QCOMPARE(fresh.hGetCreationDateFile(at("missing"), 1), QStringLiteral("(null)"));
+    const QDateTime birth = QFileInfo(at("a.jpg")).birthTime();
+    const QDateTime date = birth.isValid() ? birth : QFileInfo(at("a.jpg")).lastModified();
+    const QString stamp = fresh.hGetCreationDateFile(at("a.jpg"), 1);
+    QCOMPARE(QLocale(QLocale::English, QLocale::UnitedKingdom)
+                 .toDateTime(stamp, QStringLiteral("d-MMM-yyyy'T'HH-mm-ss"))
+                 .toSecsSinceEpoch(),
+             date.toSecsSinceEpoch());
+    QCOMPARE(fresh.hGetModificationDateFile(m_home->path(), 3), stamp);
+    QCOMPARE(fresh.hGetCreationDateFile(at("missing"), QStringLiteral("x")), stamp);
+    QCOMPARE(fresh.hGetCreationDateFile(at("missing"), 2), QStringLiteral("(null)"));
+    QCOMPARE(fresh.hGetCreationDateFile(at("missing"), 3), QStringLiteral("(null)"));
+}
+
+void TestFileHandling::addsIcons()
+{
+    QImage image(8, 8, QImage::Format_RGB888);
+    image.fill(Qt::red);
+    QVERIFY(m_home->write("folder/k", ""));
+    m_files.hAddIconToFile(at("missing"), platform::Picture(platform::Bitmap::fromImage(image)));
+    m_files.hAddIconToFile(at("folder"), platform::Picture());
+    QCOMPARE(m_home->names("folder").size(), 1);
+    m_files.hAddIconToFile(at("folder"), platform::Picture(platform::Bitmap::fromImage(image)));
+    QVERIFY(m_home->read("folder/.directory").contains("Icon=./.folder-icon.png"));
+    QCOMPARE(QImage(at("folder/.folder-icon.png")).size(), QSize(8, 8));
 }
 
 void TestFileHandling::tellsTypes_data()

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/foundation/result.h"
+#include "platform/graphics/picture.h"
+
+namespace platform {
+
+/**
+ * Makes a picture the icon of the file or folder at @p path, for every program that shows icons of its own.
+ *
+ * A folder gets a small hidden copy of the picture and a ".directory" file whose Icon says so; all else in such a file stays
+ * as it is. A file gets the attribute metadata::custom-icon, which leads to a small copy in the user's data folder; it is
+ * kept with the file and told to the desktop where there is one. The picture is shrunk to 256 pixels at most. Fails with NotFound,
+ * with InvalidValue for a null picture, and with WriteFailed; the item itself is never changed.
+ */
+Result<void> setCustomIcon(const QString &path, const Picture &icon);
+
+} // namespace platform
