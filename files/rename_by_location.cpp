@@ -4,23 +4,25 @@
 #include "platform/foundation/paths.h"
 
 #include <QRegularExpression>
-#include <QUrl>
 
 namespace files {
 
+std::optional<QUrl> locationFromText(const QString &text)
+{
+    static const QString unit = QStringLiteral("(?:[A-Za-z0-9._~!$&'()*+,;=:@/?-]|%[0-9A-Fa-f]{2})*");
+    static const QRegularExpression allowed(QStringLiteral("\\A%1(?:#%1)?\\z").arg(unit));
+    const QUrl location(text, QUrl::StrictMode);
+    const bool isOne = !text.isEmpty() && allowed.match(text).hasMatch() && location.isValid();
+    return isOne ? std::optional(location) : std::nullopt;
+}
+
 std::optional<QString> pathOfLocationText(const QString &text)
 {
-    static const QRegularExpression allowed(
-        QStringLiteral("\\A(?:[A-Za-z0-9._~!$&'()*+,;=:@/?-]|%[0-9A-Fa-f]{2})*(?:#(?:[A-Za-z0-9._~!$&'()*+,;=:@/"
-                       "?-]|%[0-9A-Fa-f]{2})*)?\\z"));
-    if (text.isEmpty() || !allowed.match(text).hasMatch())
+    const auto location = locationFromText(text);
+    if (!location || !location->host().isEmpty() || !(location->scheme().isEmpty() || location->isLocalFile()))
         return std::nullopt;
-    const QUrl location(text, QUrl::StrictMode);
-    const bool isOfFile = location.scheme().isEmpty() || location.isLocalFile();
-    const QString path = location.path(QUrl::FullyDecoded);
-    if (!location.isValid() || !isOfFile || !location.host().isEmpty() || path.isEmpty())
-        return std::nullopt;
-    return path;
+    const QString path = location->path(QUrl::FullyDecoded);
+    return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 
 void renameByLocation(const QString &path, const QString &name)

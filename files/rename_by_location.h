@@ -1,17 +1,20 @@
 #pragma once
 
 #include <QString>
+#include <QUrl>
 
 #include <optional>
 
 namespace files {
 
+/** A text read as a location: none where it holds a character that no location can hold (a space, an accented letter ...). */
+std::optional<QUrl> locationFromText(const QString &text);
+
 /**
  * The path that a text names when it is read as a location, not as a path: what is percent-encoded is decoded, and what
  * follows "?" or "#" does not count.
  *
- * None for a text with characters that no location can hold (a space, an accented letter ...), with a scheme other than
- * "file", or with a host.
+ * None where locationFromText() gives none, and with a scheme other than "file", or with a host.
  */
 std::optional<QString> pathOfLocationText(const QString &text);
 

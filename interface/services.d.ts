@@ -331,13 +331,32 @@ declare module "quorlin" {
         static hGetFileType(path: text): text;
     }
 
-    /** Collects the input of the actions; called on the class. */
+    /** Collects the input of the actions, stages files, asks for folders; called on the class but for one. */
     export class cToolBox {
         constructor();
         /** Asks for the input of an action: a list of paths, empty if cancelled, null for an unknown action. */
         static hOpenDialogFiles(actionType: text): anything;
         /** The same for "EMM", "EMMDir", "sort", "rescale", "rename", "renameDir", "batchSortImages" and "sortDir". */
         static hOpenDialogFilesOC(actionType: text): anything;
+        /** "successfull", spelled so, or "Failed"; replaces nothing, and leaves the copy with "-temp" where the name is taken. */
+        static hStoreFiles(source: text, newName: text): text;
+        static hStoreFiles2(source: text, destination: text): text;
+        /** Into the staging folder, which must be there. */
+        static hStoreTempFile(source: text, fileName: text): text;
+        /** "Temp" in the home folder; not made here. */
+        static hGetTempDir(): text;
+        static hGetHomeDir(): text;
+        /** A folder's path, null if cancelled. */
+        hChooseDirectory(): text;
+        /** A list of locations; null for a folder that cannot be read. */
+        static hGetFilesInDir(folder: text): anything;
+        static hShowURL(location: text): null;
+        /** One segment, slashes encoded too. */
+        static hNSStrToUrl(text: text): location;
+        /** "109+" or "108". */
+        static hGetMacOSVersion(): text;
+        /** Makes a PDF with the system's image tool where that is there. */
+        static hCallShellScript(input: text, output: text): null;
     }
 
     /**

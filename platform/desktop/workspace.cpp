@@ -8,7 +8,6 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QUrl>
 
 namespace platform {
 namespace {
@@ -38,13 +37,30 @@ QString typeOfItem(const QString &path)
 
 void openItem(const QString &path)
 {
-    if (!itemExists(path))
+    if (itemExists(path))
+        openLocation(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+}
+
+void openLocation(const QUrl &location)
+{
+    if (location.scheme().isEmpty())
         return;
-    const QUrl location = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
     if (hasDesktop())
         QDesktopServices::openUrl(location);
     else
         openWithoutDesktop(location);
+}
+
+void runTool(const QString &program, const QStringList &arguments)
+{
+    if (!QFileInfo(program).isExecutable())
+        return;
+    QProcess process;
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(program, arguments);
+    process.waitForFinished(-1);
 }
 
 } // namespace platform

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
+#include <QUrl>
 
 namespace platform {
 
@@ -15,5 +16,11 @@ QString typeOfItem(const QString &path);
  * happens where nothing is there or nobody opens it; does not wait.
  */
 void openItem(const QString &path);
+
+/** Opens a location in the program for its kind, a web address in the browser. Nothing happens without one; does not wait. */
+void openLocation(const QUrl &location);
+
+/** Runs a program by its path and waits until it ends; its output is dropped. Nothing happens where it is not there. */
+void runTool(const QString &program, const QStringList &arguments);
 
 } // namespace platform

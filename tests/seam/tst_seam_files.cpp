@@ -49,6 +49,20 @@ void TestSeamFiles::answersWhatItIsAsked_data()
     row("f.hAddIconToFile('FOLDER', 'icon.png')",
         "TypeError: Expected a Picture or null for icon but received \"icon.png\"");
     row("[f.dateString, f.saveURL, f.myFileSizeStr, f.tfDestinationFolder]", "[null,null,null,null]");
+    row("cToolBox.hStoreFiles('FOLDER/a.txt', 'b.txt')", "\"successfull\"");
+    row("cToolBox.hStoreFiles2('FOLDER/a.txt', 'FOLDER/a.txt')", "\"Failed\"");
+    row("cToolBox.hStoreTempFile('FOLDER/missing', 'b.txt')", "\"Failed\"");
+    row("cToolBox.hGetTempDir() === cToolBox.hGetHomeDir() + '/Temp'", "true");
+    row("new cToolBox().hChooseDirectory()", "null");
+    row("(panels.accept(['FOLDER']), new cToolBox().hChooseDirectory() === 'FOLDER')", "true");
+    row("cToolBox.hGetFilesInDir('FOLDER/missing')", "null");
+    row("cToolBox.hGetFilesInDir('FOLDER').includes('file://FOLDER/a.txt')", "true");
+    row("f.hDeleteFiles(cToolBox.hGetFilesInDir('FOLDER'))", "\"OK\"");
+    row("cToolBox.hNSStrToUrl('a/b c')", "\"a%2Fb%20c\"");
+    row("cToolBox.hNSStrToUrl(null)", "null");
+    row("cToolBox.hGetMacOSVersion()", "\"109+\"");
+    row("cToolBox.hShowURL('no location')", "null");
+    row("cToolBox.hCallShellScript('FOLDER/a.txt', 'FOLDER/b.pdf')", "null");
     row("cNSFileHandling.hMoveFileTo('FOLDER/a.txt')", "TypeError: hMoveFileTo takes 2 arguments but received 1");
     row("cNSFileHandling.hTrashFile(5)", "TypeError: Expected text or null for path but received 5");
 }
