@@ -4,14 +4,17 @@
 #include "files/make_folder.h"
 #include "files/placing.h"
 #include "files/rename_by_location.h"
+#include "files/text_files.h"
 
 #include "platform/desktop/controls.h"
 #include "platform/desktop/custom_icon.h"
 #include "platform/desktop/trash.h"
 #include "platform/desktop/workspace.h"
+#include "platform/foundation/atomic_file.h"
 #include "platform/foundation/folders.h"
 #include "platform/foundation/human_texts.h"
 #include "platform/foundation/item_facts.h"
+#include "platform/foundation/plist.h"
 #include "platform/foundation/raised.h"
 
 namespace {
@@ -133,4 +136,52 @@ QString cNSFileHandling::hTrashFile(const QString &path)
 QString cNSFileHandling::hGetFileType(const QString &path)
 {
     return platform::typeOfItem(path);
+}
+
+void cNSFileHandling::hWritHTMLFile(const QString &path, const QString &text)
+{
+    (void)files::writeText(path, text);
+}
+
+void cNSFileHandling::hWriteTextFile(const QString &path, const QString &text)
+{
+    (void)files::writeText(path, text);
+}
+
+QVariant cNSFileHandling::hReadTextFileLbyL(const QString &path)
+{
+    const auto lines = files::readLines(path);
+    return lines ? QVariant(*lines) : QVariant::fromValue(nullptr);
+}
+
+QVariant cNSFileHandling::readPlist(const QString &path, const QString &key)
+{
+    const auto file = platform::readFile(path);
+    if (!file)
+        return QVariant::fromValue(nullptr);
+    const auto value = platform::propertyListValue(*file, key);
+    return value && value->isValid() ? *value : QVariant::fromValue(nullptr);
+}
+
+void cNSFileHandling::writeToPlist(const QString &path, const QString &key, const QVariant &value)
+{
+    const auto file = platform::readFile(path);
+    if (!file)
+        return;
+    if (const auto changed = platform::withPropertyListValue(*file, key, value))
+        (void)platform::replaceFile(path, *changed);
+}
+
+void cNSFileHandling::writeNSDataToFile(const QByteArray &data, const QString &path)
+{
+    if (!data.isNull())
+        (void)platform::replaceFile(path, data);
+}
+
+QByteArray cNSFileHandling::readNSDataFromFile(const QString &path)
+{
+    const auto bytes = platform::readFile(path);
+    if (!bytes)
+        return QByteArray();
+    return bytes->isNull() ? QByteArray("") : *bytes;
 }

@@ -14,6 +14,8 @@
  * Paths are absolute. Operations that place or remove answer with a status word: "OK" or "Failed", making a folder with
  * "OK", "EXISTS" or "FAILED", the question whether something exists with "OK" or "NO". Nothing raises, nothing is shown, and
  * nothing is logged. Main thread only.
+ *
+ * Text, property lists and data are written whole or not at all, and a failure to write is not reported.
  */
 class cNSFileHandling : public QObject
 {
@@ -104,6 +106,33 @@ public:
 
     /** The type identifier by the item's extension, "public.folder" for a folder; null where nothing is there. */
     Q_INVOKABLE QString hGetFileType(const QString &path);
+
+    /** Replaces the file at @p path, or makes it, with @p text in UTF-8; null counts as empty. */
+    Q_INVOKABLE void hWritHTMLFile(const QString &path, const QString &text);
+
+    /** The same. */
+    Q_INVOKABLE void hWriteTextFile(const QString &path, const QString &text);
+
+    /**
+     * The lines of a file in UTF-8 as a list of texts; null if it cannot be read or is not UTF-8. Each newline character ends a
+     * line by itself, so that CR and LF have an empty line between them, and a line break at the end one behind it.
+     */
+    Q_INVOKABLE QVariant hReadTextFileLbyL(const QString &path);
+
+    /** The value under a key of a property list, XML or binary; null without such a file, dictionary or key. */
+    Q_INVOKABLE QVariant readPlist(const QString &path, const QString &key);
+
+    /**
+     * Changes one key of a property list; a null value removes it. Everything else and the form of the file are kept.
+     * Nothing happens where no property list with a dictionary is at @p path, and for a value that none can hold.
+     */
+    Q_INVOKABLE void writeToPlist(const QString &path, const QString &key, const QVariant &value);
+
+    /** Replaces the file at @p path, or makes it; nothing happens for null. */
+    Q_INVOKABLE void writeNSDataToFile(const QByteArray &data, const QString &path);
+
+    /** All bytes of a file; null if it cannot be read. */
+    Q_INVOKABLE QByteArray readNSDataFromFile(const QString &path);
 
 private:
     QString stampOr(const QDateTime &date, const QVariant &formatCode);

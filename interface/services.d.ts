@@ -329,6 +329,17 @@ declare module "quorlin" {
         static hTrashFile(path: text): text;
         /** "public.jpeg", "public.folder" ...; null where nothing is there. */
         static hGetFileType(path: text): text;
+        /** In UTF-8; a failure is not reported. */
+        hWritHTMLFile(path: text, text: text): null;
+        hWriteTextFile(path: text, text: text): null;
+        /** A list of texts; null if there is no file in UTF-8. Each newline character ends a line by itself. */
+        hReadTextFileLbyL(path: text): anything;
+        /** Null where the file or the key is missing. */
+        readPlist(path: text, key: text): anything;
+        /** Null removes the key. Never makes a file. */
+        writeToPlist(path: text, key: text, value: anything): null;
+        writeNSDataToFile(data: data, path: text): null;
+        readNSDataFromFile(path: text): data;
     }
 
     /** Collects the input of the actions, stages files, asks for folders; called on the class but for one. */

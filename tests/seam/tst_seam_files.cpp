@@ -3,6 +3,20 @@
 #include <QFile>
 #include <QTest>
 
+namespace {
+
+/** A script with a service f, and plist(), which makes a file with one key and reads that. */
+QString scriptWith(const QString &expression)
+{
+    return QStringLiteral("((f) => { const plist = value => {"
+                          " f.hWriteTextFile('FOLDER/a.plist', '<plist version=\"1.0\"><dict><key>key</key>' + value +"
+                          " '</dict></plist>'); return f.readPlist('FOLDER/a.plist', 'key'); };"
+                          " return (%1); })(new cNSFileHandling())")
+        .replace(QStringLiteral("%1"), expression);
+}
+
+} // namespace
+
 /** What scripts get from the operations on files and folders. */
 class TestSeamFiles : public QObject
 {
@@ -10,6 +24,8 @@ class TestSeamFiles : public QObject
 
 private Q_SLOTS:
     void answersWhatItIsAsked_data();
+    void readsAndWritesFiles_data();
+    void readsAndWritesFiles() { answersWhatItIsAsked(); }
     void answersWhatItIsAsked();
 };
 
@@ -67,6 +83,46 @@ void TestSeamFiles::answersWhatItIsAsked_data()
     row("cNSFileHandling.hTrashFile(5)", "TypeError: Expected text or null for path but received 5");
 }
 
+void TestSeamFiles::readsAndWritesFiles_data()
+{
+    QTest::addColumn<QString>("expression");
+    QTest::addColumn<QString>("outcome");
+    const auto row = [](const char *expression, const char *outcome) {
+        QTest::newRow(expression) << QString::fromUtf8(expression) << QString::fromUtf8(outcome);
+    };
+    row("f.hWritHTMLFile('FOLDER/a.txt', 'é\\r\\nb\\n')", "null");
+    row("(f.hWritHTMLFile('FOLDER/a.txt', 'é\\r\\nb\\n'), f.hReadTextFileLbyL('FOLDER/a.txt'))",
+        "[\"é\",\"\",\"b\",\"\"]");
+    row("(f.hWriteTextFile('FOLDER/new.txt', null), f.hReadTextFileLbyL('FOLDER/new.txt'))", "[\"\"]");
+    row("f.hReadTextFileLbyL('FOLDER/missing')", "null");
+    row("(f.writeNSDataToFile(new Uint8Array([233]).buffer, 'FOLDER/d'), f.hReadTextFileLbyL('FOLDER/d'))", "null");
+    row("(f.writeNSDataToFile(new Uint8Array([0, 255]).buffer, 'FOLDER/d'), "
+        "new Uint8Array(f.readNSDataFromFile('FOLDER/d')).join())",
+        "\"0,255\"");
+    row("(f.writeNSDataToFile(new ArrayBuffer(0), 'FOLDER/a.txt'), f.readNSDataFromFile('FOLDER/a.txt').byteLength)",
+        "0");
+    row("(f.writeNSDataToFile(null, 'FOLDER/a.txt'), f.readNSDataFromFile('FOLDER/a.txt').byteLength)", "5");
+    row("f.readNSDataFromFile('FOLDER/missing')", "null");
+    row("(f.writeToPlist('FOLDER/none.plist', 'a', 1), f.hCheckIfFileExist('FOLDER/none.plist'))", "\"NO\"");
+    row("(f.writeToPlist('FOLDER/a.txt', 'a', 1), f.hReadTextFileLbyL('FOLDER/a.txt'))", "[\"hello\"]");
+    row("f.readPlist('FOLDER/a.txt', 'a')", "null");
+    row("f.readPlist('FOLDER/missing', 'a')", "null");
+    row("[plist('<true/>'), f.readPlist('FOLDER/a.plist', 'other')]", "[true,null]");
+    row("[plist('<integer>-5</integer>'), plist('<integer>1099511627776</integer>')]", "[-5,1099511627776]");
+    row("plist('<integer>18446744073709551615</integer>')", "18446744073709552000");
+    row("[plist('<array><real>1.5</real><integer>3</integer></array>'), plist('<dict/>')]", "[[1.5,3],{}]");
+    row("plist('<date>2026-11-21T08:30:05Z</date>').getTime()", "1795249805000");
+    row("plist('<data>AP8=</data>').byteLength", "2");
+    row("(plist('<true/>'), ['x', 7, 2.5, [1, 'a', true], {k: new Date(1000)}, ''].map(v => {"
+        " f.writeToPlist('FOLDER/a.plist', 'new', v); return f.readPlist('FOLDER/a.plist', 'new'); })"
+        ".concat(f.readPlist('FOLDER/a.plist', 'key')))",
+        "[\"x\",7,2.5,[1,\"a\",true],{\"k\":\"1970-01-01T00:00:01.000Z\"},\"\",true]");
+    row("(plist('<true/>'), f.writeToPlist('FOLDER/a.plist', 'key', null), f.readPlist('FOLDER/a.plist', 'key'))",
+        "null");
+    row("(plist('<true/>'), f.writeToPlist('FOLDER/a.plist', 'key', [null]), f.readPlist('FOLDER/a.plist', 'key'))",
+        "true");
+}
+
 void TestSeamFiles::answersWhatItIsAsked()
 {
     QFETCH(QString, expression);
@@ -75,10 +131,8 @@ void TestSeamFiles::answersWhatItIsAsked()
     run.write(QStringLiteral("a.txt"), QStringLiteral("hello"));
     QString folder = run.pathOf(QStringLiteral("a.txt"));
     folder.chop(6);
-    expression.replace(QStringLiteral("FOLDER"), folder);
-    QCOMPARE(
-        run.valueOf(QStringLiteral("((f) => (%1))(new cNSFileHandling())").replace(QStringLiteral("%1"), expression)),
-        outcome);
+    const QString scriptText = scriptWith(expression).replace(QStringLiteral("FOLDER"), folder);
+    QCOMPARE(run.valueOf(scriptText), outcome);
 }
 
 QTEST_GUILESS_MAIN(TestSeamFiles)
