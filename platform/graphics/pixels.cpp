@@ -74,6 +74,15 @@ QString takeVipsError(const vips::VError &error)
     return text.section(u'\n', 0, 0);
 }
 
+VImage inMemory(const VImage &image)
+{
+    vips_error_clear();
+    const VImage computed = image.copy_memory();
+    if (*vips_error_buffer() != '\0')
+        throw vips::VError(vips_error_buffer());
+    return computed;
+}
+
 VImage withKnownInterpretation(const VImage &image)
 {
     VImage plain = image.coding() == VIPS_CODING_NONE ? image : image.colourspace(VIPS_INTERPRETATION_LAB);
@@ -117,7 +126,7 @@ Bitmap bitmapFromImage(const VImage &image, Resolution resolution, std::optional
 {
     VImage bare = withKnownInterpretation(image).copy();
     dropMetadata(bare);
-    const VImage decoded = bare.copy_memory();
+    const VImage decoded = inMemory(bare);
     auto pixels = std::make_shared<Bitmap::Pixels>(Bitmap::Pixels{decoded, resolution, quantisation});
     return Bitmap(std::move(pixels));
 }

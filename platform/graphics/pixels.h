@@ -33,6 +33,13 @@ void initVips();
 /** The text of a caught library error, and an empty error buffer for the next operation. */
 QString takeVipsError(const vips::VError &error);
 
+/**
+ * The image with its pixels computed, in memory. Throws where the file behind it is damaged, also where the library
+ * itself forgets about it: with several threads at work it has been seen to call a picture good whose last rows it had
+ * failed to read, with nothing but a text in its error buffer to tell.
+ */
+vips::VImage inMemory(const vips::VImage &image);
+
 /** Bytes per component of an image's band format. */
 int bytesPerComponent(const vips::VImage &image);
 

@@ -248,7 +248,7 @@ Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const
         if (!isWithinBudget(image))
             return tooLarge(m_file->name(), QSize(image.width(), image.height()));
         if (options.orientation == Orientation::Upright && m_file->orientation > 1)
-            image = turnedUpright(image.copy_memory(), m_file->orientation);
+            image = turnedUpright(inMemory(image), m_file->orientation);
         return finished(*m_file, image, options.orientation);
     } catch (const vips::VError &error) {
         return unreadable(m_file->name(), takeVipsError(error));
@@ -270,7 +270,7 @@ Result<Bitmap> ImageSource::decodePart(const QRect &part) const
         const VImage rows = image.extract_area(stored.x(), stored.y(), stored.width(), stored.height());
         if (m_file->orientation <= 1)
             return finished(*m_file, rows);
-        return finished(*m_file, turnedUpright(rows.copy_memory(), m_file->orientation));
+        return finished(*m_file, turnedUpright(inMemory(rows), m_file->orientation));
     } catch (const vips::VError &error) {
         return unreadable(m_file->name(), takeVipsError(error));
     }
@@ -306,7 +306,7 @@ Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling) const
         if (scaling == Scaling::Exact)
             image = scaledTo(image, wanted);
         if (m_file->orientation > 1)
-            image = turnedUpright(image.copy_memory(), m_file->orientation);
+            image = turnedUpright(inMemory(image), m_file->orientation);
         return finished(*m_file, image);
     } catch (const vips::VError &error) {
         return unreadable(m_file->name(), takeVipsError(error));

@@ -319,8 +319,11 @@ void InputCollection::namesItsClassOperations()
     const QMetaObject &meta = cToolBox::staticMetaObject;
     const int info = meta.indexOfClassInfo("ClassOperations");
     QVERIFY(info >= 0);
+    QSet<QByteArray> operations;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        operations.insert(meta.method(i).name());
     for (const QByteArray &name : QByteArray(meta.classInfo(info).value()).split(' '))
-        QVERIFY2(meta.indexOfMethod(name + "(QString)") >= 0, name.constData());
+        QVERIFY2(operations.contains(name), name.constData());
     QCOMPARE(meta.constructorCount() > 0, true);
 }
 
