@@ -35,7 +35,7 @@ QString takeVipsError(const vips::VError &error);
 
 /**
  * The image with its pixels computed, in memory. Throws where the file behind it is damaged, also where the library
- * itself forgets about it: with several threads at work it has been seen to call a picture good whose last rows it had
+ * itself forgets about it: with several threads at work it has been seen to call a PNG good whose last rows it had
  * failed to read, with nothing but a text in its error buffer to tell.
  */
 vips::VImage inMemory(const vips::VImage &image);
