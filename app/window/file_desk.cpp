@@ -1,5 +1,6 @@
 #include "app/window/file_desk.h"
 
+#include "app/window/file_facts.h"
 #include "app/window/formats.h"
 #include "app/window/staging.h"
 
@@ -236,6 +237,11 @@ QVariantMap FileDesk::picture(const QString &path) const
             {QStringLiteral("orientation"), source ? source->orientation() : 1},
             {QStringLiteral("type"), typeWord(source ? source->typeIdentifier() : typeOfName(path))},
             {QStringLiteral("bytes"), double(fileBytes(path))}};
+}
+
+QVariant FileDesk::facts(const QString &path) const
+{
+    return fileFacts(path);
 }
 
 QString FileDesk::profileName(const QString &path) const

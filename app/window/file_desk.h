@@ -74,6 +74,8 @@ public:
     Q_INVOKABLE QString markUpright(const QString &path) const;
     /** {width, height, orientation, type, bytes} of a picture, upright; width 0 for an unreadable file. */
     Q_INVOKABLE QVariantMap picture(const QString &path) const;
+    /** What is known of a file or folder without decoding it; see fileFacts(). Null where nothing is there. */
+    Q_INVOKABLE QVariant facts(const QString &path) const;
     /** The name of the picture's colour profile; empty where it has none. */
     Q_INVOKABLE QString profileName(const QString &path) const;
 

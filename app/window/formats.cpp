@@ -61,6 +61,9 @@ QString typeWord(const QString &typeIdentifier)
         {QStringLiteral("org.webmproject.webp"), QStringLiteral("WebP")},
         {QStringLiteral("public.avif"), QStringLiteral("AVIF")},
         {QStringLiteral("public.svg-image"), QStringLiteral("SVG")},
+        {QStringLiteral("public.plain-text"), QStringLiteral("Text")},
+        {QStringLiteral("public.html"), QStringLiteral("HTML")},
+        {QStringLiteral("public.folder"), QStringLiteral("Folder")},
     };
     const QString word = words.value(typeIdentifier);
     return word.isEmpty() ? typeIdentifier.section(QLatin1Char('.'), 1).toUpper() : word;

@@ -1,0 +1,52 @@
+#include "app/window/file_facts.h"
+
+#include "app/window/formats.h"
+
+#include "platform/foundation/item_facts.h"
+#include "platform/imageio/picture_facts.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace window {
+
+namespace {
+
+QString dateText(const QDateTime &date)
+{
+    return date.isValid() ? date.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")) : QStringLiteral("");
+}
+
+QString textOf(const QString &text)
+{
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
+} // namespace
+
+QVariant fileFacts(const QString &path)
+{
+    const QFileInfo info(path);
+    const bool isGoodLink = info.isSymLink() && info.exists();
+    const auto item = platform::itemFacts(isGoodLink ? info.canonicalFilePath() : path);
+    if (!item)
+        return QVariant::fromValue(nullptr);
+    const bool isFolder = info.isDir();
+    const platform::PictureFacts picture = isFolder ? platform::PictureFacts() : platform::pictureFacts(path);
+    const QString type = isFolder                           ? QStringLiteral("public.folder")
+                         : picture.typeIdentifier.isEmpty() ? typeOfName(path)
+                                                            : picture.typeIdentifier;
+    return QVariantMap{{QStringLiteral("taken"), dateText(picture.taken)},
+                       {QStringLiteral("camera"), textOf(picture.camera)},
+                       {QStringLiteral("lens"), textOf(picture.lens)},
+                       {QStringLiteral("created"), dateText(item->created)},
+                       {QStringLiteral("changed"), dateText(item->modified)},
+                       {QStringLiteral("bytes"), double(item->sizeInBytes)},
+                       {QStringLiteral("width"), std::max(0, picture.pixels.width())},
+                       {QStringLiteral("height"), std::max(0, picture.pixels.height())},
+                       {QStringLiteral("type"), textOf(typeWord(type))},
+                       {QStringLiteral("isFolder"), isFolder}};
+}
+
+} // namespace window

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+namespace window {
+
+/**
+ * What is known of the file or folder at @p path without decoding it:
+ *
+ * - taken, created, changed: "2026-08-14T10:20:30", local time without zone; taken is "" where the file states no date
+ * - camera, lens: "" where the file states none
+ * - bytes: of the file that a link leads to
+ * - width, height: upright pixels; 0 where the file is no picture that can be read
+ * - type: in words ("JPEG"), by the content of a picture and by the name of any other file
+ * - isFolder
+ *
+ * Null where nothing is at the path. Reads headers only; see platform::pictureFacts().
+ */
+QVariant fileFacts(const QString &path);
+
+} // namespace window
