@@ -1,0 +1,59 @@
+// Files that belong to a picture and go along with it: settings of other programs, previews and voice notes that bear its name.
+// Services used: files (names), handed in.
+
+import { emptyTable, joinPath, splitPath } from "./names.js";
+
+/** Extensions of such files, in lower case. */
+export const SIDECARS = ["xmp", "aae", "thm", "pp3", "dop", "cos", "on1", "wav"];
+
+function push(table, key, value) {
+    if (table[key] === undefined) {
+        table[key] = [];
+    }
+    table[key].push(value);
+}
+
+/** The sidecar files of folders, looked up once for each folder. A sidecar is given to one picture only. */
+export class Sidecars {
+    constructor(files) {
+        this.files = files;
+        this.folders = emptyTable();
+        this.given = emptyTable();
+    }
+
+    // By what stands before the extension: for "a.xmp" that is "a", for "a.jpg.xmp" it is "a.jpg".
+    inFolder(folder) {
+        if (this.folders[folder] === undefined) {
+            const found = emptyTable();
+            this.files.names(folder).forEach((name) => {
+                const parts = splitPath(name);
+                if (SIDECARS.indexOf(parts.extension.toLowerCase()) >= 0) {
+                    push(found, parts.base, name);
+                }
+            });
+            this.folders[folder] = found;
+        }
+        return this.folders[folder];
+    }
+
+    /**
+     * The sidecars of a file that were not given to another one: [{name, ending}]. ending is what stands behind the file's own
+     * name without extension: ".xmp", ".jpg.xmp". A sidecar has none itself.
+     */
+    of(path) {
+        const file = splitPath(path);
+        if (SIDECARS.indexOf(file.extension.toLowerCase()) >= 0) {
+            return [];
+        }
+        const found = this.inFolder(file.folder);
+        const names = (found[file.name] || []).concat(file.name === file.base ? [] : found[file.base] || []);
+        const own = names.filter((name) => this.given[joinPath(file.folder, name)] === undefined);
+        own.forEach((name) => { this.given[joinPath(file.folder, name)] = path; });
+        return own.map((name) => ({ name: name, ending: name.slice(file.base.length) }));
+    }
+
+    /** The file that took this sidecar along, or undefined. */
+    ownerOf(path) {
+        return this.given[path];
+    }
+}
