@@ -8,7 +8,7 @@ import { files } from "quorlin/files";
 import { runItems } from "./lib/job.js";
 import { planRun } from "./lib/plan.js";
 import { logRow, summaryOf } from "./lib/report.js";
-import { keepRows } from "./lib/log-file.js";
+import { keepRows, newRunName } from "./lib/log-file.js";
 import { pixels, statusText } from "./lib/wording.js";
 import { makeServices } from "./services.js";
 import * as resize from "./steps/resize.js";
@@ -46,7 +46,8 @@ function main(folder, paths) {
     const photos = paths.map((path) => files.picture(path));
     const planned = carryOut(planRun(photos.length, (i) => photos[i], paths, resize, settings, services), () => undefined);
     const results = carryOut(runItems(planned.items, resize, settings, services), tell);
-    const problem = keepRows(files, results.map((result) => logRow(result, "Resize", resize.describe(settings), new Date().toISOString())));
+    const run = newRunName();
+    const problem = keepRows(files, results.map((result) => logRow(result, "Resize", resize.describe(settings), new Date().toISOString(), run)));
     const sum = summaryOf(results);
     print(sum.done + " done, " + (sum.failed + sum.unsupported) + " failed, " + sum.skipped + " skipped, "
           + files.byteText(sum.bytes) + " written to " + folder + (problem ? "; the log was not written: " + problem : ""));

@@ -2,6 +2,7 @@
 
 #include "app/window/file_facts.h"
 #include "app/window/formats.h"
+#include "app/window/line_file.h"
 #include "app/window/staging.h"
 
 #include "platform/foundation/atomic_file.h"
@@ -263,6 +264,18 @@ QString FileDesk::appendText(const QString &path, const QString &text) const
     if (file.open(QIODevice::WriteOnly | QIODevice::Append) && file.write(bytes) == bytes.size() && file.flush())
         return {};
     return QStringLiteral("%1: %2").arg(path, file.errorString());
+}
+
+QString FileDesk::appendLines(const QString &path, const QString &lines) const
+{
+    const auto added = window::appendLines(path, lines.toUtf8());
+    return added ? QString() : added.error().message;
+}
+
+QString FileDesk::keepNewestLines(const QString &path, int most, int limit) const
+{
+    const auto kept = window::keepNewestLines(path, most, limit);
+    return kept ? QString() : kept.error().message;
 }
 
 QVariant FileDesk::readText(const QString &path) const

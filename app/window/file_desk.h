@@ -81,6 +81,10 @@ public:
 
     Q_INVOKABLE QString writeText(const QString &path, const QString &text) const;
     Q_INVOKABLE QString appendText(const QString &path, const QString &text) const;
+    /** Adds lines, each ending in a line feed; see window::appendLines(). */
+    Q_INVOKABLE QString appendLines(const QString &path, const QString &lines) const;
+    /** See window::keepNewestLines(). */
+    Q_INVOKABLE QString keepNewestLines(const QString &path, int most, int limit) const;
     /** Null where the file cannot be read. */
     Q_INVOKABLE QVariant readText(const QString &path) const;
 

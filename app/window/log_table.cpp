@@ -1,120 +1,175 @@
 #include "app/window/log_table.h"
 
+#include "app/window/item_looks.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
 #include <QHeaderView>
+#include <QKeyEvent>
 
 #include <algorithm>
 
 namespace window {
 
 namespace {
+
 constexpr int rowHeightPx = 30;
+/** Shares of the width in per cent; the last column takes the rest. */
+constexpr int shares[] = {15, 19, 19, 16, 16};
+
 } // namespace
-
-void TextRows::setRows(const QStringList &headings, const QVariantList &rows)
-{
-    beginResetModel();
-    m_headings = headings;
-    m_rows.clear();
-    for (const QVariant &row : rows)
-        m_rows.push_back(row.toStringList());
-    endResetModel();
-}
-
-int TextRows::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : int(m_rows.size());
-}
-
-int TextRows::columnCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : int(m_headings.size());
-}
-
-QVariant TextRows::data(const QModelIndex &index, int role) const
-{
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
-        return {};
-    return m_rows[size_t(index.row())].value(index.column());
-}
-
-QVariant TextRows::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal)
-        return {};
-    if (role == Qt::TextAlignmentRole)
-        return int(Qt::AlignLeft | Qt::AlignVCenter);
-    return role == Qt::DisplayRole ? QVariant(m_headings.value(section)) : QVariant();
-}
-
-void TextFilter::look(const QString &text, int column, const QString &cell)
-{
-    m_text = text;
-    m_column = column;
-    m_cell = cell;
-    invalidateFilter();
-}
-
-bool TextFilter::filterAcceptsRow(int row, const QModelIndex &) const
-{
-    const auto *rows = qobject_cast<const TextRows *>(sourceModel());
-    if (!rows)
-        return true;
-    const QStringList &cells = rows->row(row);
-    if (!m_cell.isEmpty() && cells.value(m_column) != m_cell)
-        return false;
-    return m_text.isEmpty() || std::any_of(cells.cbegin(), cells.cend(), [this](const QString &cell) {
-               return cell.contains(m_text, Qt::CaseInsensitive);
-           });
-}
 
 LogTable::LogTable(QWidget *parent) : QTableView(parent)
 {
-    m_filter.setSourceModel(&m_rows);
-    setModel(&m_filter);
+    setModel(&m_model);
+    setItemDelegate(new QuietCellDelegate(this));
     setSelectionBehavior(SelectRows);
-    setSelectionMode(SingleSelection);
+    setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setShowGrid(false);
     setWordWrap(false);
     setTabKeyNavigation(false);
     setVerticalScrollMode(ScrollPerPixel);
     setTextElideMode(Qt::ElideMiddle);
+    setCornerButtonEnabled(false);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(rowHeightPx);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
+    QHeaderView *header = horizontalHeader();
+    header->setHighlightSections(false);
+    header->setStretchLastSection(true);
+    header->setSectionsMovable(true);
+    header->setMinimumSectionSize(48);
+    header->setSortIndicator(LogModel::Date, Qt::DescendingOrder);
+    setSortingEnabled(true);
+    connect(header, &QHeaderView::sectionResized, this, [this] { m_columnsChosen |= !m_arranging && underMouse(); });
+    connect(&m_model, &LogModel::grown, this, &LogTable::changed);
+    connect(this, &QTableView::doubleClicked, this, &LogTable::openRequested);
 }
 
-void LogTable::setRows(const QStringList &headings, const QVariantList &rows)
+int LogTable::chosenCount() const
 {
-    m_rows.setRows(headings, rows);
+    return int(selectionModel()->selectedRows().size());
+}
+
+QString LogTable::columns() const
+{
+    return QString::fromLatin1(horizontalHeader()->saveState().toBase64());
+}
+
+void LogTable::setColumns(const QString &kept)
+{
+    m_columnsChosen = !kept.isEmpty() && horizontalHeader()->restoreState(QByteArray::fromBase64(kept.toLatin1()));
+    const QHeaderView *header = horizontalHeader();
+    m_model.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
     arrangeColumns();
 }
 
-void LogTable::look(const QString &text, int column, const QString &cell)
+void LogTable::setTexts(const QStringList &headings, const QVariantMap &shown)
 {
-    m_filter.look(text, column, cell);
-    Q_EMIT rowChosen();
+    m_model.setHeadings(headings);
+    QHash<QString, QString> words;
+    for (auto word = shown.cbegin(); word != shown.cend(); ++word)
+        words.insert(word.key(), word->toString());
+    m_model.setStatusWords(words);
 }
 
-QVariantList LogTable::shownRows() const
+void LogTable::follow(const QString &path)
 {
-    QVariantList rows;
-    for (int i = 0; i < m_filter.rowCount(); ++i)
-        rows.append(m_filter.mapToSource(m_filter.index(i, 0)).row());
-    return rows;
+    m_model.follow(path);
 }
 
-int LogTable::chosenRow() const
+void LogTable::look(const QString &text, const QString &status)
 {
-    return currentIndex().isValid() ? m_filter.mapToSource(currentIndex()).row() : -1;
+    m_filter.words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    m_filter.status = status;
+    filter();
+}
+
+void LogTable::showRun(int number)
+{
+    m_filter.run = number;
+    filter();
+}
+
+// The chosen entry stays chosen where it is still shown.
+void LogTable::filter()
+{
+    const bool hasCurrent = currentIndex().isValid();
+    const int place = hasCurrent ? m_model.place(currentIndex().row()) : 0;
+    m_model.setFilter(m_filter);
+    const int row = hasCurrent ? m_model.rowOf(place) : -1;
+    if (row >= 0)
+        setCurrentIndex(m_model.index(row, 0));
+    Q_EMIT changed();
+}
+
+QVariantMap LogTable::entryMap(int row) const
+{
+    const LogEntries &all = m_model.entries();
+    const LogEntry &entry = all.at(m_model.place(row));
+    const TextPool &texts = all.texts();
+    const QDateTime date = QDateTime::fromMSecsSinceEpoch(entry.time, Qt::UTC);
+    return {{QStringLiteral("date"), entry.time == 0 ? QString() : date.toString(Qt::ISODateWithMs)},
+            {QStringLiteral("process"), texts.text(entry.process)},
+            {QStringLiteral("action"), texts.text(entry.action)},
+            {QStringLiteral("status"), texts.text(entry.status)},
+            {QStringLiteral("reason"), texts.text(entry.reason)},
+            {QStringLiteral("input"), entry.input},
+            {QStringLiteral("output"), entry.output},
+            {QStringLiteral("inputPath"), all.inputPath(entry)},
+            {QStringLiteral("outputPath"), all.outputPath(entry)},
+            {QStringLiteral("bytes"), double(entry.bytes)},
+            {QStringLiteral("run"), all.run(entry.run).id}};
+}
+
+QVariant LogTable::chosen() const
+{
+    return currentIndex().isValid() && chosenCount() > 0 ? QVariant(entryMap(currentIndex().row()))
+                                                         : QVariant::fromValue(nullptr);
+}
+
+QVariantList LogTable::entries(int first, int count) const
+{
+    QVariantList found;
+    const int end = std::min(first + count, m_model.rowCount());
+    for (int row = std::max(0, first); row < end; ++row)
+        found.append(entryMap(row));
+    return found;
+}
+
+int LogTable::copyChosen() const
+{
+    QList<int> rows;
+    const QModelIndexList chosen = selectionModel()->selectedRows();
+    for (const QModelIndex &index : chosen)
+        rows.append(index.row());
+    std::sort(rows.begin(), rows.end());
+    QStringList lines;
+    for (const int row : std::as_const(rows)) {
+        QStringList cells;
+        for (int column = 0; column < LogModel::ColumnCount; ++column) {
+            const QModelIndex cell = m_model.index(row, horizontalHeader()->logicalIndex(column));
+            cells.append(cell.data().toString().simplified());
+        }
+        lines.append(cells.join(QLatin1Char('\t')));
+    }
+    if (!lines.isEmpty())
+        QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+    return int(lines.size());
 }
 
 void LogTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QTableView::currentChanged(current, previous);
-    Q_EMIT rowChosen();
+    Q_EMIT changed();
+}
+
+void LogTable::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    Q_EMIT changed();
 }
 
 void LogTable::resizeEvent(QResizeEvent *event)
@@ -123,12 +178,24 @@ void LogTable::resizeEvent(QResizeEvent *event)
     arrangeColumns();
 }
 
-// Shares of the width in per cent; the last column takes the rest.
+void LogTable::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copyChosen();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Q_EMIT openRequested();
+    else
+        QTableView::keyPressEvent(event);
+}
+
 void LogTable::arrangeColumns()
 {
-    const int parts[] = {15, 14, 20, 11, 16};
-    for (int column = 0; column < qMin(5, m_rows.columnCount({})); ++column)
-        setColumnWidth(column, viewport()->width() * parts[column] / 100);
+    if (m_columnsChosen)
+        return;
+    m_arranging = true;
+    for (int column = 0; column < int(std::size(shares)); ++column)
+        setColumnWidth(column, viewport()->width() * shares[column] / 100);
+    m_arranging = false;
 }
 
 } // namespace window

@@ -1,83 +1,74 @@
 #pragma once
 
-#include <QAbstractTableModel>
-#include <QSortFilterProxyModel>
+#include "app/window/log_model.h"
+
 #include <QTableView>
 #include <QVariant>
 
-#include <vector>
-
 namespace window {
 
-/** Rows of plain text under headings. */
-class TextRows : public QAbstractTableModel
-{
-    Q_OBJECT
-
-public:
-    using QAbstractTableModel::QAbstractTableModel;
-
-    void setRows(const QStringList &headings, const QVariantList &rows);
-    const QStringList &row(int index) const { return m_rows[size_t(index)]; }
-
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
-private:
-    QStringList m_headings;
-    std::vector<QStringList> m_rows;
-};
-
-/** The rows in which a text occurs anywhere, and whose cell in one column is a given one; either may be empty. */
-class TextFilter : public QSortFilterProxyModel
-{
-    Q_OBJECT
-
-public:
-    using QSortFilterProxyModel::QSortFilterProxyModel;
-
-    void look(const QString &text, int column, const QString &cell);
-
-protected:
-    bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
-
-private:
-    QString m_text;
-    QString m_cell;
-    int m_column = 0;
-};
-
-/** A table of texts that can be searched; for the log. */
+/**
+ * The table of a log: searched, filtered, sorted by column, its rows copied.
+ *
+ * An entry is handed to scripts as {date (ISO, UTC, or ""), process, action, status, reason, input, output, inputPath, outputPath, bytes, run}.
+ */
 class LogTable : public QTableView
 {
     Q_OBJECT
+    Q_PROPERTY(int shownCount READ shownCount)
+    Q_PROPERTY(int totalCount READ totalCount)
+    Q_PROPERTY(int chosenCount READ chosenCount)
+    Q_PROPERTY(bool reading READ isReading)
+    /** Widths and order of the columns and what is sorted by, as a text to be kept; "" for the first arrangement. */
+    Q_PROPERTY(QString columns READ columns WRITE setColumns)
 
 public:
     explicit LogTable(QWidget *parent = nullptr);
 
-    /** @param rows  lists of texts, as many as there are headings, in the order shown */
-    Q_INVOKABLE void setRows(const QStringList &headings, const QVariantList &rows);
-    /** Shows the rows with @p text in any cell, in any case of letters, and @p cell in @p column if it is not empty. */
-    Q_INVOKABLE void look(const QString &text, int column, const QString &cell);
-    /** The positions, in the list that was set, of the rows that are shown. */
-    Q_INVOKABLE QVariantList shownRows() const;
-    /** The position of the chosen row in the list that was set, or -1. */
-    Q_INVOKABLE int chosenRow() const;
+    int shownCount() const { return m_model.rowCount(); }
+    int totalCount() const { return m_model.entries().count(); }
+    int chosenCount() const;
+    bool isReading() const { return m_model.isReading(); }
+    QString columns() const;
+    void setColumns(const QString &kept);
+    LogModel &logModel() { return m_model; }
+
+    /** @param shown  how each status word is shown */
+    Q_INVOKABLE void setTexts(const QStringList &headings, const QVariantMap &shown);
+    /** Reads the log file, or what was added to it; from the event loop, the newest entries first. */
+    Q_INVOKABLE void follow(const QString &path);
+    /** Shows the entries in which every word of @p text occurs, in any case of letters, with @p status if it is not empty. */
+    Q_INVOKABLE void look(const QString &text, const QString &status);
+    /** Shows the entries of one run, by its number, or of all for -1. */
+    Q_INVOKABLE void showRun(int number);
+    /** The current entry, or null. */
+    Q_INVOKABLE QVariant chosen() const;
+    /** Up to @p count entries from row @p first on, as they are shown. */
+    Q_INVOKABLE QVariantList entries(int first, int count) const;
+    /** Puts the chosen rows on the clipboard, their cells between tabs; returns how many. */
+    Q_INVOKABLE int copyChosen() const;
+    Q_INVOKABLE void selectRow(int row) { setCurrentIndex(m_model.index(row, 0)); }
 
 Q_SIGNALS:
-    void rowChosen();
+    /** Something else is shown or chosen. */
+    void changed();
+    void openRequested();
 
 protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
     void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void arrangeColumns();
+    void filter();
+    QVariantMap entryMap(int row) const;
 
-    TextRows m_rows;
-    TextFilter m_filter;
+    LogModel m_model;
+    LogFilter m_filter;
+    bool m_columnsChosen = false; ///< by hand; then their widths are left alone
+    bool m_arranging = false;
 };
 
 } // namespace window

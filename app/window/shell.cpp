@@ -2,6 +2,7 @@
 
 #include "app/window/compare_preview.h"
 #include "app/window/drop_target.h"
+#include "app/window/file_manager.h"
 #include "app/window/job_driver.h"
 #include "app/window/sheet_host.h"
 #include "app/window/ui_form.h"
@@ -178,6 +179,11 @@ QVariant Shell::chooseNewFile(const QString &title, const QString &folder, const
 void Shell::openFolder(const QString &folder)
 {
     QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+}
+
+void Shell::showInFolder(const QString &path)
+{
+    window::showInFolder(path);
 }
 
 QStringList Shell::clipboardPaths() const

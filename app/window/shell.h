@@ -71,6 +71,8 @@ public:
     Q_INVOKABLE QVariant chooseNewFile(const QString &title, const QString &folder, const QString &name,
                                        const QString &extension);
     Q_INVOKABLE void openFolder(const QString &folder);
+    /** Shows a file in its folder; see window::showInFolder(). */
+    Q_INVOKABLE void showInFolder(const QString &path);
     /** Local paths on the clipboard: files that were copied, or lines of text that are paths. */
     Q_INVOKABLE QStringList clipboardPaths() const;
     Q_INVOKABLE void quit();

@@ -7,6 +7,7 @@
 #include "app/window/log_table.h"
 #include "app/window/picture_table.h"
 #include "app/window/position_pad.h"
+#include "app/window/run_list.h"
 #include "app/window/segmented_control.h"
 #include "app/window/side_bar.h"
 
@@ -51,6 +52,8 @@ public:
             widget = new PictureTable(parent);
         else if (className == QLatin1String("LogTable"))
             widget = new LogTable(parent);
+        else if (className == QLatin1String("RunList"))
+            widget = new RunList(parent);
         else if (className == QLatin1String("ComparePreview"))
             widget = new ComparePreview(parent);
         else if (className == QLatin1String("SegmentedControl"))

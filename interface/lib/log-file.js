@@ -1,34 +1,38 @@
 // The log of all runs: one line of JSON per picture, in the program's own folder. The file service is handed in.
+//
+// A row is {date (ISO), process, action, status, reason, input, output, inputPath, outputPath, bytes, run}; run names the run that it
+// belongs to, the same for all its rows. Rows with the keys LogDate, LogProcess, LogAction, LogStatus, LogI, LogO, LogIpath and
+// LogOpath are kept and read as well.
 
 const NAME = "/log.jsonl";
-const MOST_BYTES = 20000000;
 
-/** Adds rows to the log; returns a message if that failed. The older half goes when the log has grown too large. */
+/** So many of the newest rows are kept, for good; the file is cut back to them when it has grown this much beyond them. */
+export const KEPT_ROWS = 100000;
+const SLACK_ROWS = 10000;
+// No row is shorter than this: a smaller file need not be counted.
+const SHORTEST_ROW = 100;
+
+export function logPath(files) {
+    return files.dataFolder + NAME;
+}
+
+/** Adds rows to the log; returns a message if that failed. The oldest go when the log has grown too large. */
 export function keepRows(files, rows) {
     if (rows.length === 0) {
         return "";
     }
-    const path = files.dataFolder + NAME;
-    const lines = rows.map((row) => JSON.stringify(row)).join("\n") + "\n";
-    if (files.info(path).bytes + lines.length > MOST_BYTES) {
-        const old = files.readText(path) || "";
-        const kept = old.slice(old.indexOf("\n", Math.floor(old.length / 2)) + 1);
-        return files.writeText(path, kept + lines);
-    }
-    return files.appendText(path, lines);
+    const path = logPath(files);
+    const problem = files.appendLines(path, rows.map((row) => JSON.stringify(row)).join("\n") + "\n");
+    const mayBeLarge = problem === "" && files.info(path).bytes > (KEPT_ROWS + SLACK_ROWS) * SHORTEST_ROW;
+    return mayBeLarge ? files.keepNewestLines(path, KEPT_ROWS, KEPT_ROWS + SLACK_ROWS) : problem;
 }
 
-/** All rows, oldest first; lines that cannot be understood are passed over. */
-export function readRows(files) {
-    const rows = [];
-    for (const line of (files.readText(files.dataFolder + NAME) || "").split("\n")) {
-        try {
-            if (line) {
-                rows.push(JSON.parse(line));
-            }
-        } catch (error) {
-            continue;
-        }
-    }
-    return rows;
+/** Takes all rows away; returns a message if that failed. */
+export function clearRows(files) {
+    return files.writeText(logPath(files), "");
+}
+
+/** A name for a run that starts now, for its rows. Runs that the move engine keeps have names of their own. */
+export function newRunName() {
+    return new Date().toISOString() + "-" + Math.floor(Math.random() * 1e6);
 }

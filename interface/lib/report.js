@@ -2,6 +2,9 @@
 
 const COLUMNS = ["Date", "Process", "Action", "Status", "Reason", "Input", "Output", "InputPath", "OutputPath", "Bytes"];
 
+// Spreadsheets take a file without this mark for one in some older set of letters.
+const MARK = "\uFEFF";
+
 // A cell that a spreadsheet would take for a formula is made plain text by an apostrophe.
 function cell(value) {
     const text = String(value === null || value === undefined ? "" : value);
@@ -9,23 +12,31 @@ function cell(value) {
     return /[",\r\n]/.test(plain) || plain !== text ? '"' + plain.replace(/"/g, '""') + '"' : plain;
 }
 
-/** One row of the log from one final result. */
-export function logRow(result, process, action, date) {
+/** One row of the log from one final result of a run. */
+export function logRow(result, process, action, date, run) {
     return {
         date: date, process: process, action: action, status: result.status, reason: result.reason || "",
         input: result.photo.name, output: result.name || "", inputPath: result.photo.path,
-        outputPath: result.path || "", bytes: result.bytes || 0,
+        outputPath: result.path || "", bytes: result.bytes || 0, run: run,
     };
 }
 
-/** All rows as CSV with a header line; lines end as the format wants it, in CR and LF. */
+const LINE_END = "\r\n";
+
+/** What a CSV file begins with: the mark of its letters, and the names of the columns. */
+export function csvHead() {
+    return MARK + COLUMNS.join(",") + LINE_END;
+}
+
+/** Rows as lines of a CSV file; lines end as the format wants it, in CR and LF. */
+export function csvLines(rows) {
+    return rows.map((row) => [row.date, row.process, row.action, row.status, row.reason, row.input, row.output, row.inputPath,
+                              row.outputPath, row.bytes].map(cell).join(",") + LINE_END).join("");
+}
+
+/** All rows as a CSV file. */
 export function toCsv(rows) {
-    const lines = [COLUMNS.join(",")];
-    for (const row of rows) {
-        lines.push([row.date, row.process, row.action, row.status, row.reason, row.input, row.output, row.inputPath,
-                    row.outputPath, row.bytes].map(cell).join(","));
-    }
-    return lines.join("\r\n") + "\r\n";
+    return csvHead() + csvLines(rows);
 }
 
 /** {done, failed, unsupported, skipped, bytes, folders} of the final results. */

@@ -255,6 +255,7 @@ private Q_SLOTS:
         m_driver->control<QLineEdit>("logSearch")->setText(QStringLiteral("B.JPG"));
         QCOMPARE(log->model()->rowCount(), 1);
         QCOMPARE(log->model()->index(0, 3).data().toString(), QStringLiteral("OK"));
+        QCOMPARE(log->model()->index(0, 4).data().toString(), QStringLiteral("b.jpg"));
         m_driver->choose("logStatus", QStringLiteral("Failed"));
         QCOMPARE(log->model()->rowCount(), 0);
     }

@@ -84,8 +84,22 @@ export class FakeFiles {
         return this.texts[path] === undefined ? null : this.texts[path];
     }
 
-    appendText(path, text) {
+    appendLines(path, text) {
         this.texts[path] = (this.texts[path] || "") + text;
+        this.entries[path] = this.texts[path].length;
+        return "";
+    }
+
+    keepNewestLines(path, most, limit) {
+        const lines = this.texts[path].split("\n").slice(0, -1);
+        if (lines.length > limit) {
+            this.texts[path] = lines.slice(-most).join("\n") + "\n";
+        }
+        return "";
+    }
+
+    writeText(path, text) {
+        this.texts[path] = text;
         return "";
     }
 }

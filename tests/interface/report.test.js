@@ -1,6 +1,6 @@
-import { keepRows, readRows } from "../../interface/lib/log-file.js";
+import { clearRows, keepRows, KEPT_ROWS, newRunName } from "../../interface/lib/log-file.js";
 import { clockText, costOf, Progress } from "../../interface/lib/progress.js";
-import { logRow, summaryOf, toCsv } from "../../interface/lib/report.js";
+import { csvLines, logRow, summaryOf, toCsv } from "../../interface/lib/report.js";
 import { recall, withNewest } from "../../interface/lib/store.js";
 import { shortPath, statusText } from "../../interface/lib/wording.js";
 import { equal, finish, test } from "./check.js";
@@ -14,18 +14,45 @@ test("countsTheFinalStates", () => {
 });
 
 test("writesCsvThatKeepsQuotesAndIsNoFormula", () => {
-    const lines = toCsv([logRow(broken, "Resize", "longest 1600", "2026-11-21")]).split("\r\n");
+    const text = toCsv([logRow(broken, "Resize", "longest 1600", "2026-11-21", "r")]);
+    equal(text[0], "\uFEFF", "the mark by which spreadsheets know the letters");
+    const lines = text.slice(1).split("\r\n");
     equal(lines.length, 3);
     equal(lines[1], '2026-11-21,Resize,longest 1600,Failed,"no ""picture"", alas","\'=b.jpg",,/p/=b.jpg,,0');
 });
 
-test("keepsAndReadsTheLog", () => {
+const FORMULAS = [["=1+1", '"\'=1+1"'], ["+cmd|x", '"\'+cmd|x"'], ["-a", '"\'-a"'], ["@SUM(A1)", '"\'@SUM(A1)"'], ["\t=1", '"\'\t=1"'],
+                  ["\r=1", '"\'\r=1"'], ["-5", "-5"], ["a=b", "a=b"], ["a,b", '"a,b"'], ['"', '""""'], ["a\nb", '"a\nb"'], ["Été 日本", "Été 日本"]];
+for (const row of FORMULAS) {
+    test("cell " + JSON.stringify(row[0]), () => {
+        const made = logRow({ status: "OK", reason: row[0], photo: photo("/p/a.jpg", 1, 1) }, "P", "A", "d", "r");
+        equal(csvLines([made]), "d,P,A,OK," + row[1] + ",a.jpg,,/p/a.jpg,,0\r\n");
+    });
+}
+
+test("keepsTheLog", () => {
     const files = new FakeFiles({});
-    const rows = [logRow(done, "Resize", "x", "d"), logRow(broken, "Resize", "x", "d")];
+    const rows = [logRow(done, "Resize", "x", "d", "one"), logRow(broken, "Resize", "x", "d", "one")];
+    equal(keepRows(files, []), "");
+    equal(files.texts["/data/log.jsonl"], undefined);
     equal(keepRows(files, rows), "");
-    files.texts["/data/log.jsonl"] += "half a li";
-    equal(readRows(files), rows);
+    equal(keepRows(files, rows.slice(0, 1)), "");
+    equal(files.texts["/data/log.jsonl"].split("\n").slice(0, -1).map((line) => JSON.parse(line)), rows.concat(rows.slice(0, 1)));
+    clearRows(files);
+    equal(files.texts["/data/log.jsonl"], "");
 });
+
+test("cutsTheLogBackToTheNewestRowsWhenItHasGrownBeyondThem", () => {
+    const files = new FakeFiles({});
+    const line = JSON.stringify({ date: "2026-11-21T10:00:00.000Z", process: "Resize", input: "picture.jpg", inputPath: "/p/picture.jpg" });
+    files.texts["/data/log.jsonl"] = (line + "\n").repeat(KEPT_ROWS + 10000);
+    keepRows(files, [logRow(done, "Resize", "x", "d", "one")]);
+    const lines = files.texts["/data/log.jsonl"].split("\n");
+    equal(lines.length, KEPT_ROWS + 1);
+    equal(JSON.parse(lines[KEPT_ROWS - 1]).run, "one");
+});
+
+test("givesEachRunANameOfItsOwn", () => equal(newRunName() === newRunName(), false));
 
 const CLOCKS = [[0, "0:00"], [8000, "0:08"], [61000, "1:01"], [3700000, "1:01:40"]];
 for (const row of CLOCKS) {

@@ -3,74 +3,81 @@
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
-import { readRows } from "../../lib/log-file.js";
-import { splitPath } from "../../lib/names.js";
-import { toCsv } from "../../lib/report.js";
+import { logPath } from "../../lib/log-file.js";
+import { csvHead, csvLines } from "../../lib/report.js";
 import { count, fill, statusText } from "../../lib/wording.js";
 
-const MOST_ROWS = 5000;
-const STATUS_COLUMN = 3;
 const STATES = ["OK", "Failed", "Not Supported", "Skipped"];
+// So many rows are written at a time, and the window answers in between.
+const BATCH = 400;
 
-function twoDigits(number) {
-    return (number < 10 ? "0" : "") + number;
+function shownStates() {
+    const shown = {};
+    STATES.forEach((state) => { shown[state] = statusText(state, ""); });
+    return shown;
 }
 
-// Local time in a form that sorts.
-function timeText(date) {
-    const time = new Date(date);
-    return time.getFullYear() + "-" + twoDigits(time.getMonth() + 1) + "-" + twoDigits(time.getDate()) + " "
-        + twoDigits(time.getHours()) + ":" + twoDigits(time.getMinutes()) + ":" + twoDigits(time.getSeconds());
+// The entries that are shown, as CSV, worked out in batches.
+function* csvOf(table) {
+    const parts = [csvHead()];
+    for (let first = 0; first < table.shownCount; first += BATCH) {
+        parts.push(csvLines(table.entries(first, BATCH)));
+        yield first;
+    }
+    return parts.join("");
 }
 
 export class LogPage {
     /** @param window  the main window's parts: form, note(text) */
     constructor(window) {
         this.window = window;
-        this.rows = [];
+        this.job = shell.job();
         this.table = window.form.control("logTable");
+        this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder")], shownStates());
         window.form.setItems("logStatus", [qsTr("All")].concat(STATES.map((state) => statusText(state, ""))), [""].concat(STATES));
         window.form.control("logSearch").textChanged.connect(guard("log.search", () => this.look()));
         window.form.control("logStatus").activated.connect(guard("log.status", () => this.look()));
         window.form.control("logExport").clicked.connect(guard("log.export", () => this.save()));
         window.form.control("logOpen").clicked.connect(guard("log.open", () => this.openFolder()));
-        this.table.rowChosen.connect(guard("log.chosen", () => this.showChoice()));
+        this.table.changed.connect(guard("log.chosen", () => this.showChoice()));
     }
 
-    /** Reads the log anew. */
+    /** Reads what is new in the log. */
     show() {
-        this.rows = readRows(files).slice(-MOST_ROWS).reverse();
-        const headings = [qsTr("Date"), qsTr("Action"), qsTr("Input"), qsTr("Status"), qsTr("Reason"), qsTr("Output")];
-        this.table.setRows(headings, this.rows.map((row) => [timeText(row.date), row.process + ", " + row.action, row.input, row.status,
-                                                             row.reason, row.outputPath]));
-        this.look();
+        this.table.follow(logPath(files));
     }
 
     look() {
-        this.table.look(this.window.form.control("logSearch").text.trim(), STATUS_COLUMN, this.window.form.value("logStatus"));
+        this.table.look(this.window.form.control("logSearch").text, this.window.form.value("logStatus"));
     }
 
     showChoice() {
-        const shown = this.table.shownRows().length;
+        const shown = this.table.shownCount;
         this.window.form.control("logCount").text = count(shown, qsTr("1 entry"), qsTr("%1 entries"));
-        this.window.form.control("logExport").enabled = shown > 0;
-        this.window.form.control("logOpen").enabled = this.chosenFolder() !== "";
+        this.window.form.control("logExport").enabled = shown > 0 && !this.table.reading;
+        this.window.form.control("logOpen").enabled = this.chosenPath() !== "";
     }
 
-    chosenFolder() {
-        const row = this.rows[this.table.chosenRow()];
-        return row === undefined || !(row.outputPath || row.inputPath) ? "" : splitPath(row.outputPath || row.inputPath).folder;
+    // The result of the chosen entry, or the file that it was made of.
+    chosenPath() {
+        const entry = this.table.chosen();
+        return entry === null ? "" : entry.outputPath || entry.inputPath;
     }
 
     openFolder() {
-        shell.openFolder(this.chosenFolder());
+        shell.showInFolder(this.chosenPath());
     }
 
     save() {
         const path = shell.chooseNewFile(qsTr("Export the log"), "", qsTr("Log") + ".csv", "csv");
         if (path !== null) {
-            const rows = this.table.shownRows().map((index) => this.rows[index]);
-            this.window.note(files.writeText(path, toCsv(rows)) || fill(qsTr("Log saved as %1"), path));
+            this.job.start(csvOf(this.table), () => undefined, guard("log.exported", (how, text) => this.saved(how, path, text)));
+        }
+    }
+
+    saved(how, path, text) {
+        if (how !== "cancelled") {
+            this.window.note(how === "failed" ? String(text) : files.writeText(path, text) || fill(qsTr("Log saved as %1"), path));
         }
     }
 }

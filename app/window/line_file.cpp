@@ -1,0 +1,52 @@
+#include "app/window/line_file.h"
+
+#include "platform/foundation/atomic_file.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace window {
+
+namespace {
+
+bool endsInTheMiddleOfALine(QFile &file)
+{
+    char last = '\n';
+    return file.size() > 0 && file.seek(file.size() - 1) && file.getChar(&last) && last != '\n';
+}
+
+// Where the last @p count lines begin.
+qsizetype startOfLast(const QByteArray &text, int count)
+{
+    qsizetype start = text.size();
+    for (int line = 0; line < count && start > 0; ++line)
+        start = start == 1 ? 0 : text.lastIndexOf('\n', start - 2) + 1;
+    return start;
+}
+
+} // namespace
+
+platform::Result<void> appendLines(const QString &path, const QByteArray &lines)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadWrite | QIODevice::Append)) {
+        // In one piece, so that two programs that write at once do not mix their lines.
+        const QByteArray bytes = endsInTheMiddleOfALine(file) ? '\n' + lines : lines;
+        if (file.write(bytes) == bytes.size() && file.flush())
+            return {};
+    }
+    return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("%1: %2").arg(path, file.errorString()));
+}
+
+platform::Result<void> keepNewestLines(const QString &path, int most, int limit)
+{
+    const auto text = platform::readFile(path);
+    if (!text)
+        return tl::unexpected(text.error());
+    if (std::count(text->cbegin(), text->cend(), '\n') <= limit)
+        return {};
+    return platform::replaceFile(path, text->mid(startOfLast(*text, most)));
+}
+
+} // namespace window

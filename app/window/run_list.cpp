@@ -1,0 +1,228 @@
+#include "app/window/run_list.h"
+
+#include "app/window/log_table.h"
+#include "app/window/theme.h"
+
+#include <QDateTime>
+#include <QLocale>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScopedValueRollback>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace window {
+
+namespace {
+
+constexpr int rowHeightPx = 50;
+constexpr int smallFontPx = 12;
+
+/** A line of what was done, and below it, fainter, when and how often. */
+class RunDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override { return {120, rowHeightPx}; }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        const bool selected = option.state & QStyle::State_Selected;
+        QPainterPath shape;
+        shape.addRoundedRect(QRectF(option.rect).adjusted(6, 1, -6, -1), 6, 6);
+        if (selected)
+            painter->fillPath(shape, Theme::color(QStringLiteral("row")));
+        else if (option.state & QStyle::State_MouseOver)
+            painter->fillPath(shape, Theme::color(QStringLiteral("hover")));
+        if (selected && option.state & QStyle::State_HasFocus) {
+            painter->setPen(Theme::color(QStringLiteral("accent")));
+            painter->drawPath(shape);
+        }
+        paintTexts(*painter, option, index);
+        painter->restore();
+    }
+
+private:
+    static void paintTexts(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
+    {
+        const QRect place = option.rect.adjusted(16, 7, -12, -7);
+        QFont font = option.font;
+        font.setWeight(QFont::DemiBold);
+        painter.setFont(font);
+        painter.setPen(Theme::color(QStringLiteral("text")));
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop,
+                         QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, place.width()));
+        QFont small = option.font;
+        small.setPixelSize(smallFontPx);
+        painter.setFont(small);
+        painter.setPen(Theme::color(QStringLiteral("muted")));
+        painter.drawText(
+            place, Qt::AlignLeft | Qt::AlignBottom,
+            QFontMetrics(small).elidedText(index.data(RunRows::noteRole).toString(), Qt::ElideRight, place.width()));
+    }
+};
+
+} // namespace
+
+void RunRows::follow(LogModel *log)
+{
+    m_log = log;
+    connect(log, &LogModel::grown, this, &RunRows::update);
+    connect(log, &QAbstractItemModel::modelReset, this, &RunRows::update);
+    update();
+}
+
+// The runs are as many as the log has at this moment, or as it had when its rows were told.
+void RunRows::update()
+{
+    const int rows = m_log->entries().runCount() + 1;
+    if (rows == m_rows) {
+        Q_EMIT dataChanged(index(0), index(rows - 1));
+        return;
+    }
+    beginResetModel();
+    m_rows = rows;
+    endResetModel();
+}
+
+int RunRows::rowOf(int run) const
+{
+    if (run < 0 || !m_log)
+        return 0;
+    const std::vector<int> &order = m_log->entries().runOrder();
+    const auto found = std::find(order.cbegin(), order.cend(), run);
+    return found == order.cend() ? 0 : int(found - order.cbegin()) + 1;
+}
+
+int RunRows::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rows;
+}
+
+QString RunRows::counted(const char *one, const char *many, int count) const
+{
+    return m_texts.value(QString::fromLatin1(count == 1 ? one : many)).toString().arg(QLocale().toString(count));
+}
+
+QString RunRows::note(const LogRun &run) const
+{
+    QStringList parts;
+    if (run.first != 0)
+        parts.append(QLocale().toString(QDateTime::fromMSecsSinceEpoch(run.first), QLocale::ShortFormat));
+    parts.append(counted("oneEntry", "entries", run.count));
+    if (run.problems > 0)
+        parts.append(counted("oneProblem", "problems", run.problems));
+    return parts.join(QStringLiteral(" · "));
+}
+
+QVariant RunRows::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || !m_log)
+        return {};
+    const LogEntries &entries = m_log->entries();
+    const std::vector<int> &order = entries.runOrder();
+    const bool isAll = index.row() == 0 || size_t(index.row()) > order.size();
+    const int number = isAll ? -1 : order[size_t(index.row()) - 1];
+    const QString title =
+        isAll ? m_texts.value(QStringLiteral("all")).toString() : entries.texts().text(entries.run(number).process);
+    const QString small = isAll ? counted("oneEntry", "entries", entries.count()) : note(entries.run(number));
+    switch (role) {
+    case Qt::DisplayRole:
+        return title;
+    case Qt::ToolTipRole:
+    case noteRole:
+        return small;
+    case Qt::AccessibleTextRole:
+        return title + QStringLiteral(", ") + small;
+    case numberRole:
+        return number;
+    default:
+        return {};
+    }
+}
+
+RunList::RunList(QWidget *parent) : QListView(parent)
+{
+    setModel(&m_rows);
+    setItemDelegate(new RunDelegate(this));
+    setMouseTracking(true);
+    setFrameShape(NoFrame);
+    setUniformItemSizes(true);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(&m_rows, &QAbstractItemModel::modelReset, this, &RunList::keepChoice);
+}
+
+void RunList::follow(QObject *table, const QVariantMap &texts)
+{
+    m_table = qobject_cast<LogTable *>(table);
+    m_rows.setTexts(texts);
+    if (m_table)
+        m_rows.follow(&m_table->logModel());
+}
+
+int RunList::number() const
+{
+    return currentIndex().isValid() ? currentIndex().data(RunRows::numberRole).toInt() : -1;
+}
+
+QString RunList::run() const
+{
+    return m_number < 0 || !m_table ? QString() : m_table->logModel().entries().run(m_number).id;
+}
+
+QVariant RunList::chosen() const
+{
+    if (m_number < 0 || !m_table)
+        return QVariant::fromValue(nullptr);
+    const LogEntries &entries = m_table->logModel().entries();
+    const LogRun &run = entries.run(m_number);
+    return QVariantMap{{QStringLiteral("count"), run.count},
+                       {QStringLiteral("problems"), run.problems},
+                       {QStringLiteral("process"), entries.texts().text(run.process)}};
+}
+
+bool RunList::choose(const QString &run)
+{
+    if (!m_table || run.isEmpty())
+        return false;
+    const LogEntries &entries = m_table->logModel().entries();
+    for (int number = 0; number < entries.runCount(); ++number)
+        if (entries.run(number).id == run) {
+            setCurrentIndex(m_rows.index(m_rows.rowOf(number)));
+            return true;
+        }
+    return false;
+}
+
+void RunList::chooseAll()
+{
+    setCurrentIndex(m_rows.index(0));
+}
+
+// More of the log was read, or it is another one.
+void RunList::keepChoice()
+{
+    if (m_table && m_number >= m_table->logModel().entries().runCount()) {
+        m_number = -1;
+        m_table->showRun(-1);
+    }
+    setCurrentIndex(m_rows.index(m_rows.rowOf(m_number)));
+}
+
+void RunList::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QListView::currentChanged(current, previous);
+    if (!current.isValid() || number() == m_number)
+        return;
+    m_number = number();
+    if (m_table)
+        m_table->showRun(m_number);
+    Q_EMIT runChosen();
+}
+
+} // namespace window
