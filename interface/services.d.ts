@@ -267,18 +267,62 @@ declare module "quorlin" {
         hUTF8toNSString(text: text): text;
     }
 
-    /** The sheets of the main window, and the support folder that is chosen on one of them. */
+    /** The sheets of the main window, the support folder that is chosen on one of them, and texts by key. */
     export class cSheetControl {
         constructor();
         wwMainWindow: Control | null;
         wwPreferencesWindow: Control | null;
+        wwApplicationVersionWindow: Control | null;
         tfLibraryFilePath: Control | null;
+        tfNewApplicationVersion: Control | null;
+        wwApplicationInfoSheet: Control | null;
+        tvInfoDescription: Control | null;
+        tfInfoTitle: Control | null;
+        tvWhatsNew: Control | null;
         /** Asks for the support folder and sets it up; patterns that are there are replaced. */
         chooseLibraryDestination(sender: sender): null;
         /** The same at the first start; patterns that are there are kept. */
         setLibraryDestination(): null;
         /** Shows the support folder's path and opens the preferences sheet. */
         hCallPreferencesWw(sender: sender): null;
+        closePreferencesSheetObjC(sender: sender): null;
+        /** Opens the new-version sheet with "LABEL VERSION"; the notes go behind those that are there. */
+        hCallApplicationUpdate(label: text, version: text, notes: text): null;
+        closeApplicationVersionSheetObjC(sender: sender): null;
+        /** Opens the product page, where one is configured, and closes the new-version sheet. */
+        goToProductPage(sender: sender): null;
+        /**
+         * Opens the info sheet with the texts of two keys. The message replaces as much of the text that is shown, from its
+         * beginning, as the title is long. The caption is not used.
+         */
+        hInfoWindow(caption: text, titleKey: text, messageKey: text): null;
+        closeApplicationInfoSheetObjC(sender: sender): null;
+        /** Takes the sheet off the screen. */
+        didEndSheet(sheet: Control | null, returnCode: whole, contextInfo: sender): null;
+        /** From the main strings table; the default, or without one the key, where there is no text. */
+        hGetTranslation(key: text, defaultValue: text): text;
+        mySimulationMode(sender: sender): null;
+        hTextWMPresetsInfo(sender: sender): null;
+        /** The same sheet as for texts. */
+        hImageWMPresetsInfo(sender: sender): null;
+        hWMDestinationFolderInfo(sender: sender): null;
+        hLibCheckboxInfo(sender: sender): null;
+    }
+
+    /** Texts by key, from tables by name. */
+    export class Messenger {
+        constructor();
+        /** As cSheetControl's hGetTranslation; the main table where the name is null or empty. */
+        getLangStr(key: text, defaultValue: text, table: text): text;
+    }
+
+    /** Asks the maker's server for a newer build. */
+    export class cAppUpdater {
+        constructor();
+        /** Why the last download failed; null where it did not. */
+        err: anything;
+        /** Fields 0, 2 and 3 of the version file where its build is greater, else null; a RangeError for too few fields. */
+        getAppVersion(runningBuild: whole): anything;
     }
 
     /** Lengths in a unit, as pixels of one picture at its own resolution. */

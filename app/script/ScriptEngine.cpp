@@ -1,5 +1,6 @@
 #include "app/script/ScriptEngine.h"
 
+#include "app/configuration.h"
 #include "app/script/defaults_module.h"
 #include "app/script/facade.h"
 #include "app/script/host_call.h"
@@ -55,6 +56,7 @@ bool isUsable(const Location &location)
 ScriptEngine::ScriptEngine(std::vector<ServiceEntry> services, QObject *parent)
     : QObject(parent), m_engine(std::make_unique<QQmlEngine>())
 {
+    app::useTexts();
     m_engine->setOutputWarningsToStandardError(false);
     connect(m_engine.get(), &QQmlEngine::warnings, this, &ScriptEngine::reportWarnings);
     m_seam = std::make_unique<Seam>(*m_engine, std::move(services));

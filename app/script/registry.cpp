@@ -1,7 +1,9 @@
 #include "app/script/registry.h"
 
+#include "app/Messenger.h"
 #include "app/MyObjectControler.h"
 #include "app/ZtFFullScreen.h"
+#include "app/cAppUpdater.h"
 #include "app/cSheetControl.h"
 #include "app/mainViewController.h"
 #include "app/mainWindowClass.h"
@@ -41,12 +43,14 @@ ServiceEntry pictures()
 std::vector<ServiceEntry> registeredServices()
 {
     return {
+        serviceEntry<Messenger>(),
         serviceEntry<MyModel>(),
         serviceEntry<MyObjectControler>(),
         serviceEntry<ZtFFullScreen>(),
         serviceEntry<ZtImageHandling>(),
         serviceEntry<Ztbookmarks>(),
         serviceEntry<cNSStringHandling>(),
+        serviceEntry<cAppUpdater>(),
         serviceEntry<cSheetControl>(),
         serviceEntry<cMConversion>(),
         serviceEntry<cNSFileHandling>(),

@@ -37,6 +37,11 @@ const QString goneText = QStringLiteral("Oeps! Your previous defined folder has 
 
 enum class Flow { Choose, Set };
 
+void setOutlet(QObject &service, const char *name, QObject *control)
+{
+    QVERIFY(service.setProperty(name, QVariant::fromValue(control)));
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Flow)
@@ -104,9 +109,9 @@ void TestSupportFolder::init()
     setTextOf(&m_field, QStringLiteral("as it was"));
     m_main.setProperty("sheet", QVariant::fromValue<QObject *>(nullptr));
     m_sheets = std::make_unique<cSheetControl>();
-    m_sheets->setMainWindow(&m_main);
-    m_sheets->setPreferencesWindow(&m_preferences);
-    m_sheets->setLibraryFilePath(&m_field);
+    setOutlet(*m_sheets, "wwMainWindow", &m_main);
+    setOutlet(*m_sheets, "wwPreferencesWindow", &m_preferences);
+    setOutlet(*m_sheets, "tfLibraryFilePath", &m_field);
 }
 
 void TestSupportFolder::write(const QString &path, const QByteArray &bytes) const
@@ -259,7 +264,7 @@ void TestSupportFolder::keepsWatermarksThatAreThere()
 
 void TestSupportFolder::worksWithoutAField()
 {
-    m_sheets->setLibraryFilePath(nullptr);
+    setOutlet(*m_sheets, "tfLibraryFilePath", nullptr);
     answer({path("picked")});
     run(Flow::Set);
     QVERIFY(userDefault(rootKey).isValid());
@@ -320,8 +325,8 @@ void TestSupportFolder::opensTheSheetWithoutControls()
     cSheetControl sheets;
     sheets.hCallPreferencesWw({});
     QObject plain;
-    sheets.setMainWindow(&plain);
-    sheets.setPreferencesWindow(&m_preferences);
+    setOutlet(sheets, "wwMainWindow", &plain);
+    setOutlet(sheets, "wwPreferencesWindow", &m_preferences);
     sheets.hCallPreferencesWw({});
     QVERIFY(!plain.property("sheet").isValid());
 }
