@@ -144,6 +144,12 @@ QVariantMap FileDesk::info(const QString &path) const
             {QStringLiteral("writable"), info.isWritable()}};
 }
 
+QVariantMap FileDesk::space(const QString &path) const
+{
+    const DiskSpace space = diskSpace(path);
+    return {{QStringLiteral("free"), double(space.freeBytes)}, {QStringLiteral("disk"), double(space.disk)}};
+}
+
 QString FileDesk::absolute(const QString &path) const
 {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());

@@ -28,6 +28,11 @@ public:
 
     /** {exists, isFolder, isLink, bytes (-1 where it cannot be told), writable}. A broken link exists. */
     Q_INVOKABLE QVariantMap info(const QString &path) const;
+    /**
+     * The file system that holds @p path, or would hold it: {free: bytes that this user may still write, disk: tells file
+     * systems apart}; both -1 where it cannot be told.
+     */
+    Q_INVOKABLE QVariantMap space(const QString &path) const;
     /** The path as an absolute one, from the current folder. */
     Q_INVOKABLE QString absolute(const QString &path) const;
     /** Names of all entries of a folder, hidden ones included, in no order; empty where it cannot be read. */

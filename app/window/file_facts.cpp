@@ -5,9 +5,13 @@
 #include "platform/foundation/item_facts.h"
 #include "platform/imageio/picture_facts.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+
+#include <sys/stat.h>
+#include <sys/statvfs.h>
 
 namespace window {
 
@@ -47,6 +51,22 @@ QVariant fileFacts(const QString &path)
                        {QStringLiteral("height"), std::max(0, picture.pixels.height())},
                        {QStringLiteral("type"), textOf(typeWord(type))},
                        {QStringLiteral("isFolder"), isFolder}};
+}
+
+DiskSpace diskSpace(const QString &path)
+{
+    DiskSpace space;
+    QString there = path;
+    while (!QFileInfo::exists(there) && there.contains(QLatin1Char('/')))
+        there.truncate(there.lastIndexOf(QLatin1Char('/')));
+    const QByteArray name = QFile::encodeName(there.isEmpty() ? QStringLiteral("/") : there);
+    struct statvfs system = {};
+    if (::statvfs(name.constData(), &system) == 0)
+        space.freeBytes = qint64(system.f_bavail) * qint64(system.f_frsize);
+    struct stat item = {};
+    if (::stat(name.constData(), &item) == 0)
+        space.disk = qint64(item.st_dev);
+    return space;
 }
 
 } // namespace window

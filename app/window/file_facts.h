@@ -19,4 +19,14 @@ namespace window {
  */
 QVariant fileFacts(const QString &path);
 
+/** A file system: what may still be written to it, and a number that tells it from others; both -1 where they are not known. */
+struct DiskSpace
+{
+    qint64 freeBytes = -1;
+    qint64 disk = -1;
+};
+
+/** The file system of @p path, or of the first folder above it that is there. */
+DiskSpace diskSpace(const QString &path);
+
 } // namespace window

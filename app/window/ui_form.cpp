@@ -3,6 +3,7 @@
 #include "app/window/angle_dial.h"
 #include "app/window/color_well.h"
 #include "app/window/compare_preview.h"
+#include "app/window/folder_tree.h"
 #include "app/window/icons.h"
 #include "app/window/log_table.h"
 #include "app/window/picture_table.h"
@@ -56,6 +57,8 @@ public:
             widget = new RunList(parent);
         else if (className == QLatin1String("ComparePreview"))
             widget = new ComparePreview(parent);
+        else if (className == QLatin1String("FolderTree"))
+            widget = new FolderTree(parent);
         else if (className == QLatin1String("SegmentedControl"))
             widget = new SegmentedControl(parent);
         else if (className == QLatin1String("SideBar"))

@@ -99,6 +99,16 @@ function datePieces(form) {
     return pieces;
 }
 
+// Forms are few and dates are many.
+const PIECES = Object.create(null);
+
+function piecesOf(form) {
+    if (PIECES[form] === undefined) {
+        PIECES[form] = datePieces(form);
+    }
+    return PIECES[form];
+}
+
 function isFormKnown(kind, form) {
     switch (kind) {
     case FORMS.date:
@@ -185,7 +195,7 @@ function datePiece(date, part) {
 
 /** A date as files.facts gives it ("2026-08-14T10:20:30") in a form. */
 export function dateText(date, form) {
-    return datePieces(form || "yyyy-MM-dd").map((piece) => (piece.part ? datePiece(date, piece.part) : piece.text)).join("");
+    return piecesOf(form || "yyyy-MM-dd").map((piece) => (piece.part ? datePiece(date, piece.part) : piece.text)).join("");
 }
 
 function counterText(form, index) {

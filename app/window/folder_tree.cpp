@@ -1,0 +1,278 @@
+#include "app/window/folder_tree.h"
+
+#include "app/window/icons.h"
+#include "app/window/theme.h"
+
+#include <QCollator>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QTreeWidgetItemIterator>
+
+#include <algorithm>
+#include <vector>
+
+namespace window {
+
+namespace {
+
+constexpr int pathRole = Qt::UserRole;
+constexpr int totalRole = Qt::UserRole + 1;
+constexpr int newRole = Qt::UserRole + 2;
+constexpr int rowHeightPx = 28;
+constexpr int iconPx = 18;
+constexpr int indentPx = 18;
+constexpr int gapPx = 6;
+constexpr int marginPx = 10;
+/** With more folders than these only the first levels are open at first. */
+constexpr int mostOpened = 300;
+
+QFont smaller(QFont font)
+{
+    constexpr int smallPx = 11;
+    font.setPixelSize(smallPx);
+    return font;
+}
+
+/** Draws from right to left what stands at the end of a row; tells where the rest ends. */
+int paintEnd(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    const QString total = QLocale().toString(index.data(totalRole).toInt());
+    QRect place = option.rect.adjusted(0, 0, -marginPx, 0);
+    painter.setFont(option.font);
+    painter.setPen(Theme::color(QStringLiteral("text")));
+    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, total);
+    place.setRight(place.right() - std::max(32, painter.fontMetrics().horizontalAdvance(total)) - gapPx);
+    const bool isNew = index.data(newRole).toBool();
+    const QString mark = isNew ? FolderTree::tr("new") : FolderTree::tr("exists");
+    painter.setFont(smaller(option.font));
+    const QSize size = painter.fontMetrics().size(Qt::TextSingleLine, mark) + QSize(12, 4);
+    const QRectF pill(place.right() - size.width(), place.center().y() - size.height() / 2, size.width(),
+                      size.height());
+    if (isNew) {
+        QPainterPath shape;
+        shape.addRoundedRect(pill, pill.height() / 2, pill.height() / 2);
+        painter.fillPath(shape, Theme::color(QStringLiteral("accentSoft")));
+    }
+    painter.setPen(Theme::color(isNew ? QStringLiteral("accentText") : QStringLiteral("muted")));
+    painter.drawText(pill, Qt::AlignCenter, mark);
+    return int(pill.left()) - gapPx;
+}
+
+class FolderDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override { return {120, rowHeightPx}; }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        const int end = paintEnd(*painter, option, index);
+        const QRect iconPlace(option.rect.left(), option.rect.center().y() - iconPx / 2 + 1, iconPx, iconPx);
+        icon(QStringLiteral("folder")).paint(painter, iconPlace);
+        const QRect textPlace(iconPlace.right() + gapPx, option.rect.top(), end - iconPlace.right() - gapPx,
+                              rowHeightPx);
+        painter->setFont(option.font);
+        painter->setPen(Theme::color(QStringLiteral("text")));
+        const bool isPath = !index.parent().isValid();
+        painter->drawText(textPlace, Qt::AlignLeft | Qt::AlignVCenter,
+                          painter->fontMetrics().elidedText(
+                              index.data().toString(), isPath ? Qt::ElideMiddle : Qt::ElideRight, textPlace.width()));
+        painter->restore();
+    }
+};
+
+QString spoken(const QVariantMap &folder)
+{
+    const int total = folder.value(QStringLiteral("total")).toInt();
+    const QString files =
+        total == 1 ? FolderTree::tr("1 file") : FolderTree::tr("%1 files").arg(QLocale().toString(total));
+    const bool isNew = folder.value(QStringLiteral("isNew")).toBool();
+    const QString sentence =
+        isNew ? FolderTree::tr("%1, new folder, %2") : FolderTree::tr("%1, folder that exists, %2");
+    return sentence.arg(folder.value(QStringLiteral("name")).toString(), files);
+}
+
+using Folders = QList<QVariantMap>;
+
+/** In natural order of their names. */
+Folders sorted(const Folders &folders, const QCollator &order)
+{
+    std::vector<std::pair<QCollatorSortKey, const QVariantMap *>> keyed;
+    keyed.reserve(size_t(folders.size()));
+    for (const QVariantMap &folder : folders)
+        keyed.emplace_back(order.sortKey(folder.value(QStringLiteral("name")).toString()), &folder);
+    std::sort(keyed.begin(), keyed.end(), [](const auto &left, const auto &right) { return left.first < right.first; });
+    Folders result;
+    for (const auto &entry : keyed)
+        result.append(*entry.second);
+    return result;
+}
+
+/** The folders under each folder. */
+QHash<QString, Folders> sortedBelow(const QVariantList &folders)
+{
+    QHash<QString, Folders> below;
+    for (const QVariant &each : folders) {
+        const QVariantMap folder = each.toMap();
+        below[folder.value(QStringLiteral("above")).toString()].append(folder);
+    }
+    // The order of the C locale is that of the codes: 10 would come before 2.
+    QCollator order(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
+    order.setNumericMode(true);
+    order.setCaseSensitivity(Qt::CaseInsensitive);
+    for (Folders &children : below)
+        children = sorted(children, order);
+    return below;
+}
+
+} // namespace
+
+FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent)
+{
+    setItemDelegate(new FolderDelegate(this));
+    setColumnCount(1);
+    setHeaderHidden(true);
+    setIndentation(indentPx);
+    setUniformRowHeights(true);
+    setFrameShape(NoFrame);
+    setMouseTracking(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel);
+    setExpandsOnDoubleClick(true);
+    connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem *item) { rememberOpen(item, true); });
+    connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem *item) { rememberOpen(item, false); });
+    connect(this, &QTreeWidget::itemSelectionChanged, this, [this] {
+        if (!m_filling)
+            Q_EMIT folderChosen(chosen());
+    });
+}
+
+QString FolderTree::chosen() const
+{
+    const QList<QTreeWidgetItem *> items = selectedItems();
+    return items.isEmpty() ? QString() : items.first()->data(0, pathRole).toString();
+}
+
+void FolderTree::setChosen(const QString &path)
+{
+    if (QTreeWidgetItem *item = itemAt(path))
+        setCurrentItem(item);
+    else
+        clearSelection();
+}
+
+void FolderTree::addFolder(const QVariantMap &folder, QTreeWidgetItem *above)
+{
+    const QString path = folder.value(QStringLiteral("path")).toString();
+    auto *item = above ? new QTreeWidgetItem(above) : new QTreeWidgetItem(this);
+    item->setText(0, folder.value(QStringLiteral("name")).toString());
+    item->setData(0, pathRole, path);
+    item->setData(0, totalRole, folder.value(QStringLiteral("total")));
+    item->setData(0, newRole, folder.value(QStringLiteral("isNew")));
+    item->setData(0, Qt::AccessibleTextRole, spoken(folder));
+    item->setToolTip(0, path);
+    m_items.insert(path, item);
+}
+
+void FolderTree::setFolders(const QVariantList &folders)
+{
+    const QString before = chosen();
+    const int scrolled = verticalScrollBar()->value();
+    m_filling = true;
+    setUpdatesEnabled(false);
+    clear();
+    m_items.clear();
+    const QHash<QString, Folders> below = sortedBelow(folders);
+    QStringList open = {QString()};
+    while (!open.isEmpty()) {
+        const QString above = open.takeFirst();
+        const Folders children = below.value(above);
+        for (const QVariantMap &folder : children) {
+            addFolder(folder, itemAt(above));
+            open.append(folder.value(QStringLiteral("path")).toString());
+        }
+    }
+    openItems();
+    if (QTreeWidgetItem *item = itemAt(before)) {
+        setCurrentItem(item);
+        item->setSelected(true);
+    }
+    setUpdatesEnabled(true);
+    m_filling = false;
+    verticalScrollBar()->setValue(scrolled);
+    if (chosen() != before)
+        Q_EMIT folderChosen(chosen());
+}
+
+void FolderTree::openItems()
+{
+    const bool few = m_items.size() <= mostOpened;
+    for (auto it = m_items.cbegin(); it != m_items.cend(); ++it)
+        it.value()->setExpanded(m_opened.value(it.key(), few || !it.value()->parent()));
+}
+
+void FolderTree::rememberOpen(const QTreeWidgetItem *item, bool open)
+{
+    if (!m_filling)
+        m_opened.insert(item->data(0, pathRole).toString(), open);
+}
+
+QVariantList FolderTree::folders() const
+{
+    QVariantList all;
+    for (QTreeWidgetItemIterator it(const_cast<FolderTree *>(this)); *it; ++it)
+        all.append(QVariantMap{{QStringLiteral("path"), (*it)->data(0, pathRole)},
+                               {QStringLiteral("name"), (*it)->text(0)},
+                               {QStringLiteral("total"), (*it)->data(0, totalRole)},
+                               {QStringLiteral("isNew"), (*it)->data(0, newRole)}});
+    return all;
+}
+
+void FolderTree::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && !chosen().isEmpty())
+        clearSelection();
+    else
+        QTreeWidget::keyPressEvent(event);
+}
+
+void FolderTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    if (selectionModel()->isSelected(index))
+        painter->fillRect(option.rect, Theme::color(QStringLiteral("row")));
+    else if (option.state & QStyle::State_MouseOver)
+        painter->fillRect(option.rect, Theme::color(QStringLiteral("hover")));
+    QTreeWidget::drawRow(painter, option, index);
+    if (hasFocus() && index == currentIndex()) {
+        painter->setPen(Theme::color(QStringLiteral("accent")));
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
+}
+
+void FolderTree::drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const
+{
+    if (!model()->hasChildren(index))
+        return;
+    constexpr double reach = 3.5;
+    const QPointF centre(rect.right() - indentPx / 2.0 + 1, rect.center().y() + 1);
+    QPainterPath chevron;
+    const QPointF along = isExpanded(index) ? QPointF(reach, 0) : QPointF(0, reach);
+    const QPointF ahead = isExpanded(index) ? QPointF(0, reach / 2) : QPointF(reach / 2, 0);
+    chevron.moveTo(centre - along - ahead);
+    chevron.lineTo(centre + ahead);
+    chevron.lineTo(centre + along - ahead);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(Theme::color(QStringLiteral("muted")), 1.4));
+    painter->drawPath(chevron);
+    painter->restore();
+}
+
+} // namespace window

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QHash>
+#include <QTreeWidget>
+#include <QVariant>
+
+namespace window {
+
+/**
+ * Folders with counts of files, as they will be after a run: new ones are marked, and those that are there say so.
+ *
+ * Arrow keys walk, open and close; Escape chooses nothing. What was opened, closed and chosen stays so when the folders are set
+ * anew, as far as they are among them.
+ */
+class FolderTree : public QTreeWidget
+{
+    Q_OBJECT
+    /** The path of the chosen folder; empty where none is. */
+    Q_PROPERTY(QString chosen READ chosen WRITE setChosen NOTIFY folderChosen)
+
+public:
+    explicit FolderTree(QWidget *parent = nullptr);
+
+    QString chosen() const;
+    void setChosen(const QString &path);
+
+    /**
+     * @param folders  [{path, above (path of the folder above, "" for a root), name, total (files in it and below), isNew}],
+     *                 each behind the one above it; they are shown in natural order of their names
+     */
+    Q_INVOKABLE void setFolders(const QVariantList &folders);
+    /** {path, name, total, isNew} of the folders in the order shown, closed ones included. */
+    Q_INVOKABLE QVariantList folders() const;
+
+Q_SIGNALS:
+    void folderChosen(const QString &path);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override;
+
+private:
+    QTreeWidgetItem *itemAt(const QString &path) const { return m_items.value(path); }
+    void addFolder(const QVariantMap &folder, QTreeWidgetItem *above);
+    void openItems();
+    void rememberOpen(const QTreeWidgetItem *item, bool open);
+
+    QHash<QString, QTreeWidgetItem *> m_items;
+    QHash<QString, bool> m_opened; ///< what the user opened or closed
+    bool m_filling = false;
+};
+
+} // namespace window
