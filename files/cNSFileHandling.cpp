@@ -1,5 +1,6 @@
 #include "files/cNSFileHandling.h"
 
+#include "files/convert_type.h"
 #include "files/date_stamp.h"
 #include "files/make_folder.h"
 #include "files/placing.h"
@@ -14,6 +15,7 @@
 #include "platform/foundation/folders.h"
 #include "platform/foundation/human_texts.h"
 #include "platform/foundation/item_facts.h"
+#include "platform/foundation/paths.h"
 #include "platform/foundation/plist.h"
 #include "platform/foundation/raised.h"
 
@@ -184,4 +186,13 @@ QByteArray cNSFileHandling::readNSDataFromFile(const QString &path)
     if (!bytes)
         return QByteArray();
     return bytes->isNull() ? QByteArray("") : *bytes;
+}
+
+QVariantList cNSFileHandling::hConvertFileType(const QString &source, const QString &type, const QString &qualityCode,
+                                               const QString &destination)
+{
+    saveURL = QUrl::fromLocalFile(destination);
+    if (const auto target = files::targetTypeFor(type))
+        (void)files::convertFile({source, *target, files::conversionQuality(qualityCode), destination});
+    return {saveURL, type, platform::baseName(source)};
 }

@@ -23,7 +23,7 @@ class cNSFileHandling : public QObject
     Q_CLASSINFO("ClassOperations", "hMoveFileTo hCopyFileTo hAliasFileTo hTrashFile hGetFileType")
     /** The last date stamp; null before. */
     Q_PROPERTY(QString dateString MEMBER dateString)
-    /** Not used by any operation. */
+    /** Where hConvertFileType() wrote last, or would have; null before. */
     Q_PROPERTY(QUrl saveURL MEMBER saveURL)
     /** The last text that getFileSize() made; null before. */
     Q_PROPERTY(QString myFileSizeStr MEMBER myFileSizeStr)
@@ -133,6 +133,19 @@ public:
 
     /** All bytes of a file; null if it cannot be read. */
     Q_INVOKABLE QByteArray readNSDataFromFile(const QString &path);
+
+    /**
+     * Writes image 0 of a picture file as another type; see files::convertFile().
+     *
+     * @param type         "pdf", "png", "tiff", "bmp", "gif", "jpeg" or "jp2", letter for letter; nothing is written for
+     *                     any other text
+     * @param qualityCode  for "jpeg" only: "1" to "8" are 0.1 to 0.8, anything else is 0.9
+     * @param destination  the path of the file to write, extension included; kept as a location in saveURL
+     * @return the destination as a location, the type as it was given, and the source's name without its extension; the
+     *         same where nothing could be read or written, of which nobody is told: the file is simply not there
+     */
+    Q_INVOKABLE QVariantList hConvertFileType(const QString &source, const QString &type, const QString &qualityCode,
+                                              const QString &destination);
 
 private:
     QString stampOr(const QDateTime &date, const QVariant &formatCode);

@@ -343,7 +343,7 @@ declare module "quorlin" {
         constructor();
         /** The last date stamp. */
         dateString: text;
-        /** Not used by any operation. */
+        /** Where hConvertFileType wrote last, or would have. */
         saveURL: location;
         /** The last text of getFileSize. */
         myFileSizeStr: text;
@@ -384,6 +384,12 @@ declare module "quorlin" {
         writeToPlist(path: text, key: text, value: anything): null;
         writeNSDataToFile(data: data, path: text): null;
         readNSDataFromFile(path: text): data;
+        /**
+         * Writes a picture as "pdf", "png", "tiff", "bmp", "gif", "jpeg" or "jp2"; the code "1" to "8" is the quality of a JPEG,
+         * any other the highest. Answers [location of the destination, type, name of the source without extension], also
+         * where nothing was written.
+         */
+        hConvertFileType(source: text, type: text, qualityCode: text, destination: text): list;
     }
 
     /** Collects the input of the actions, stages files, asks for folders; called on the class but for one. */

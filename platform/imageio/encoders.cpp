@@ -31,17 +31,6 @@ VImage withResolution(const VImage &image, Resolution resolution)
         VImage::option()->set("xres", horizontal / millimetresPerInch)->set("yres", vertical / millimetresPerInch));
 }
 
-/** A PNG without its statement of resolution, which the encoder writes in any case. */
-QByteArray withoutPngResolution(QByteArray png)
-{
-    constexpr int frame = 12;
-    constexpr int payload = 9;
-    const qsizetype name = png.left(4096).indexOf("pHYs");
-    if (name > 4)
-        png.remove(name - 4, frame + payload);
-    return png;
-}
-
 } // namespace
 
 FormatAbilities abilitiesOf(FileFormat format)
@@ -82,17 +71,6 @@ VImage preparedFor(const FormatAbilities &abilities, const VImage &image)
         result = result.flatten(VImage::option()->set("max_alpha", opaque));
     }
     return result;
-}
-
-QByteArray encodePng(const VImage &image, Resolution resolution)
-{
-    // Photographs become hardly smaller above this, and take half as long again.
-    constexpr int quickCompression = 2;
-    const QByteArray png = bytesOf(
-        withResolution(image, resolution)
-            .pngsave_buffer(
-                VImage::option()->set("compression", quickCompression)->set("filter", VIPS_FOREIGN_PNG_FILTER_UP)));
-    return resolution.horizontal > 0 ? png : withoutPngResolution(png);
 }
 
 QByteArray encodeTiff(const VImage &image, Resolution resolution)

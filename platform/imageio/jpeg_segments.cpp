@@ -2,6 +2,8 @@
 
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace platform {
 namespace {
 
@@ -43,6 +45,38 @@ void takeExif(JpegSegments &segments, const QByteArray &block)
     ++segments.exifSegments;
 }
 
+JpegFrame frameOf(uchar marker, const QByteArray &payload)
+{
+    constexpr qsizetype firstComponent = 6;
+    constexpr uchar lastHuffman = 0xc2;
+    JpegFrame frame;
+    frame.bitsPerComponent = uchar(payload.at(0));
+    frame.isHuffmanCoded = marker <= lastHuffman;
+    frame.componentCount = payload.size() > firstComponent ? uchar(payload.at(firstComponent - 1)) : 0;
+    QByteArray names;
+    for (qsizetype at = firstComponent; at < payload.size(); at += 3)
+        names += payload.at(at);
+    frame.isPlainRgb = names == "RGB";
+    return frame;
+}
+
+/** The order in which decoders believe what is said about the colours: JFIF, then Adobe, then the components' names. */
+void settleColours(JpegSegments &segments, int adobeTransform)
+{
+    const bool isAdobe = adobeTransform >= 0;
+    segments.frame.contradictsItself =
+        !segments.jfif.isEmpty() && adobeTransform == 0 && segments.frame.componentCount == 3;
+    segments.frame.isPlainRgb = segments.frame.isPlainRgb && segments.jfif.isEmpty() && !isAdobe;
+}
+
+/** The conversion that Adobe's segment names; -1 for any other segment. */
+int adobeTransformOf(uchar marker, const QByteArray &payload)
+{
+    constexpr qsizetype transformAt = 11;
+    const bool isAdobe = marker == 0xee && payload.size() > transformAt && payload.startsWith("Adobe");
+    return isAdobe ? uchar(payload.at(transformAt)) : -1;
+}
+
 void take(JpegSegments &segments, uchar marker, JpegSegments::Range range, const QByteArray &payload)
 {
     if (isMetadata(marker, payload))
@@ -57,9 +91,11 @@ void take(JpegSegments &segments, uchar marker, JpegSegments::Range range, const
         segments.jfif = QByteArray(payload.constData(), payload.size()); // the payload is a view
     if (marker == 0xc2)
         segments.isProgressive = true;
-    if (isFrameHeader(marker) && payload.size() >= 5)
+    if (isFrameHeader(marker) && payload.size() >= 5) {
         segments.size =
             QSize(qFromBigEndian<quint16>(payload.constData() + 3), qFromBigEndian<quint16>(payload.constData() + 1));
+        segments.frame = frameOf(marker, payload);
+    }
 }
 
 } // namespace
@@ -71,6 +107,7 @@ JpegSegments findJpegSegments(const QByteArray &bytes)
     if (bytes.size() < 4 || at(0) != markerStart || at(1) != startOfImage)
         return segments;
     segments.insertAt = 2;
+    int adobeTransform = -1;
     qsizetype position = 2;
     while (position + 4 <= bytes.size() && at(position) == markerStart) {
         const uchar marker = at(position + 1);
@@ -91,8 +128,10 @@ JpegSegments findJpegSegments(const QByteArray &bytes)
             break;
         const QByteArray payload = QByteArray::fromRawData(bytes.constData() + position + 4, length - 2);
         take(segments, marker, {position, 2 + length}, payload);
+        adobeTransform = std::max(adobeTransform, adobeTransformOf(marker, payload));
         position += 2 + length;
     }
+    settleColours(segments, adobeTransform);
     return segments;
 }
 

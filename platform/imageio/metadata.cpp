@@ -4,7 +4,9 @@
 #include "platform/imageio/exif_in_place.h"
 #include "platform/imageio/jpeg_segments.h"
 #include "platform/imageio/metadata_blocks.h"
+#include "platform/imageio/png_chunks.h"
 #include "platform/imageio/user_comment.h"
+#include "platform/imageio/webp_exif.h"
 
 #include <exception>
 
@@ -130,8 +132,20 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
         blocks->exif.clear();
         attempt([&] { readExifBlock(*blocks, segments.exif); });
     }
+    if (const PngParts parts = findPngParts(bytes); parts.valid) {
+        blocks->pngChunks = parts.carried;
+        if (!parts.exif.isEmpty()) { // exiv2 knows only the older way
+            blocks->exif.clear();
+            attempt([&] { readExifBlock(*blocks, parts.exif); });
+        }
+    }
+    if (const QByteArray exif = webpExif(bytes); !exif.isEmpty()) {
+        blocks->exif.clear();
+        attempt([&] { readExifBlock(*blocks, exif); });
+    }
     // The block itself lets maker notes stay where they are when it is written again.
-    blocks->exifBlock = segments.exif;
+    if (!segments.exif.isEmpty())
+        blocks->exifBlock = segments.exif;
     dropThumbnails(*blocks);
     Metadata metadata;
     metadata.m_blocks = std::move(blocks);

@@ -59,9 +59,9 @@ public:
     Metadata withResolutionSwapped() const;
 
     /**
-     * The encoded JPEG or TIFF file @p encoded with this metadata in it. The structure of the image itself (size,
+     * The encoded JPEG, TIFF or PNG file @p encoded with this metadata in it. The structure of the image itself (size,
      * strips, compression, colour profile) stays that of @p encoded; for TIFF the resolution is the metadata's where it
-     * states one. Fails with Unsupported where the file cannot hold metadata; pixels are never touched.
+     * states one. What a PNG source says in texts of its own, and its gamma and primaries, go into a PNG. Fails with Unsupported where the file cannot hold metadata; pixels are never touched.
      */
     Result<QByteArray> writtenInto(const QByteArray &encoded) const;
 

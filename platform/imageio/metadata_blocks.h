@@ -19,6 +19,8 @@ struct Metadata::Blocks
     /** The EXIF block as it was read, TIFF header first; empty where the file is a TIFF or the block is not at hand. */
     QByteArray exifBlock;
     Exiv2::ByteOrder byteOrder = Exiv2::littleEndian;
+    /** Chunks of a PNG file that another PNG file can have too: texts, gamma, primaries. */
+    QByteArray pngChunks;
 };
 
 /** Starts exiv2 once: its XMP parser, its reader of HEIC and AVIF, and no word on standard error. */

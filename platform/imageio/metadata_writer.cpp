@@ -1,12 +1,15 @@
+#include "platform/imageio/deflate.h"
 #include "platform/imageio/exif_block.h"
 #include "platform/imageio/jpeg_segments.h"
 #include "platform/imageio/metadata_blocks.h"
+#include "platform/imageio/png_chunks.h"
 #include "platform/imageio/tiff_graft.h"
 #include "platform/imageio/tiff_reader.h"
 #include "platform/imageio/xmp_packet.h"
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <exception>
 
 namespace platform {
@@ -49,15 +52,19 @@ QByteArray xmpPayload(const Metadata::Blocks &blocks, QSize pixels)
     return packet.isEmpty() ? packet : QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + packet;
 }
 
-QByteArray iptcPayload(const Metadata::Blocks &blocks)
+/** IPTC as one Photoshop resource; empty where there is none. */
+QByteArray iptcResources(const Metadata::Blocks &blocks)
 {
     if (blocks.iptc.empty())
         return {};
     const Exiv2::DataBuf resources = Exiv2::Photoshop::setIptcIrb(nullptr, 0, blocks.iptc);
-    if (resources.size_ <= 0)
-        return {};
-    return QByteArray("Photoshop 3.0\0", 14) +
-           QByteArray(reinterpret_cast<const char *>(resources.pData_), resources.size_);
+    return {reinterpret_cast<const char *>(resources.pData_), std::max(0L, resources.size_)};
+}
+
+QByteArray iptcPayload(const Metadata::Blocks &blocks)
+{
+    const QByteArray resources = iptcResources(blocks);
+    return resources.isEmpty() ? resources : QByteArray("Photoshop 3.0\0", 14) + resources;
 }
 
 QByteArray writtenIntoJpeg(const Metadata::Blocks &blocks, const QByteArray &encoded, const JpegSegments &segments)
@@ -143,17 +150,52 @@ QByteArray writtenIntoTiff(const Metadata::Blocks &blocks, const QByteArray &enc
     return grafted.isEmpty() ? rewrittenTiff(blocks, encoded, makerNotes) : grafted;
 }
 
+/** Texts of a raw profile: name, length, then hexadecimal digits in lines. This is the one way in which PNG holds IPTC. */
+QByteArray rawProfile(const QByteArray &name, const QByteArray &bytes)
+{
+    constexpr qsizetype digitsInLine = 72;
+    const QByteArray digits = bytes.toHex();
+    QByteArray text = '\n' + name + '\n' + QByteArray::number(bytes.size()).rightJustified(8) + '\n';
+    for (qsizetype at = 0; at < digits.size(); at += digitsInLine)
+        text += digits.mid(at, digitsInLine) + '\n';
+    return text;
+}
+
+QByteArray writtenIntoPng(const Metadata::Blocks &blocks, const QByteArray &encoded, const PngParts &parts)
+{
+    constexpr qsizetype largestBlock = 32 << 20;
+    const QByteArray exif = encodeExifBlock(blocks, parts.pixels, blocks.byteOrder, largestBlock);
+    const QByteArray xmp = madeOrNothing([&] { return xmpPacket(blocks, parts.pixels); });
+    const QByteArray iptc = madeOrNothing([&] { return iptcResources(blocks); });
+    QByteArray out;
+    out.reserve(encoded.size() + exif.size() + xmp.size() + blocks.pngChunks.size() + 3 * iptc.size() + 4096);
+    out.append(encoded.constData(), parts.pixelsAt);
+    out.append(blocks.pngChunks);
+    if (!exif.isEmpty())
+        appendPngChunk(out, "eXIf", exif);
+    if (!xmp.isEmpty()) // not compressed, in no language
+        appendPngChunk(out, "iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) + xmp);
+    if (!iptc.isEmpty())
+        appendPngChunk(out, "zTXt", QByteArray("Raw profile type iptc\0\0", 23) + deflated(rawProfile("iptc", iptc)));
+    return out.append(encoded.constData() + parts.pixelsAt, encoded.size() - parts.pixelsAt);
+}
+
 } // namespace
 
 Result<QByteArray> Metadata::writtenInto(const QByteArray &encoded) const
 {
     const JpegSegments segments = findJpegSegments(encoded);
+    const PngParts parts = findPngParts(encoded);
     TiffNumbers numbers;
-    if (!segments.valid && !isTiffHeader(encoded, numbers))
-        return failure(ErrorCode::Unsupported, QStringLiteral("Cannot write metadata: neither a JPEG nor a TIFF file"));
-    if (isEmpty())
+    if (!segments.valid && !parts.valid && !isTiffHeader(encoded, numbers))
+        return failure(ErrorCode::Unsupported,
+                       QStringLiteral("Cannot write metadata: not a JPEG, a TIFF or a PNG file"));
+    const bool hasOnlyChunks = isEmpty() && m_blocks && parts.valid && !m_blocks->pngChunks.isEmpty();
+    if (isEmpty() && !hasOnlyChunks)
         return encoded;
     startMetadataLibrary();
+    if (parts.valid)
+        return writtenIntoPng(*m_blocks, encoded, parts);
     for (const MakerNotes makerNotes : {MakerNotes::Keep, MakerNotes::Drop}) {
         try {
             const QByteArray written = segments.valid ? writtenIntoJpeg(*m_blocks, encoded, segments)

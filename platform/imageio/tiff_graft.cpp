@@ -38,6 +38,7 @@ private:
     void layOut();
     void addEncodedEntry(const TiffEntry &entry);
     void addBlockEntries(const TiffDirectory &directory);
+    bool leadsNowhere(const TiffEntry &entry) const;
     void addBytes(quint16 tag, quint16 type, const QByteArray &bytes);
     QByteArray converted(const TiffEntry &entry) const;
     void addValue(const TiffEntry &entry, const QByteArray &value);
@@ -116,11 +117,20 @@ void Graft::addEncodedEntry(const TiffEntry &entry)
     addEntry(entry.tag, entry.type, entry.count, field);
 }
 
+/** An entry that leads to a directory with nothing in it, over which readers of TIFF files stumble. */
+bool Graft::leadsNowhere(const TiffEntry &entry) const
+{
+    if (entry.tag != exifDirectoryTag && entry.tag != gpsDirectoryTag)
+        return false;
+    return tiffDirectory(m_blocks.exif, m_to, tiffInteger(m_blocks.exif, m_to, entry)).entries.isEmpty();
+}
+
 /** The block's own entries win, as they stand: their offsets hold, since the block is the head of the file. */
 void Graft::addBlockEntries(const TiffDirectory &directory)
 {
     for (const TiffEntry &entry : directory.entries)
-        if (!describesStructure(entry.tag) && !describesOtherData(entry.tag) && entry.tag != chromaPositionTag)
+        if (!describesStructure(entry.tag) && !describesOtherData(entry.tag) && entry.tag != chromaPositionTag &&
+            !leadsNowhere(entry))
             m_entries[entry.tag] = m_blocks.exif.mid(entry.position, tiffEntrySize);
 }
 

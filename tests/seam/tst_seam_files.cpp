@@ -26,6 +26,8 @@ private Q_SLOTS:
     void answersWhatItIsAsked_data();
     void readsAndWritesFiles_data();
     void readsAndWritesFiles() { answersWhatItIsAsked(); }
+    void convertsPictures_data();
+    void convertsPictures() { answersWhatItIsAsked(); }
     void answersWhatItIsAsked();
 };
 
@@ -123,6 +125,27 @@ void TestSeamFiles::readsAndWritesFiles_data()
         "true");
 }
 
+void TestSeamFiles::convertsPictures_data()
+{
+    QTest::addColumn<QString>("expression");
+    QTest::addColumn<QString>("outcome");
+    const auto row = [](const char *expression, const char *outcome) {
+        QTest::newRow(expression) << QString::fromUtf8(expression) << QString::fromUtf8(outcome);
+    };
+    row("f.hConvertFileType('FOLDER/a.b.txt', 'jpg', '1', '/x/y z.jpg')", "[\"file:///x/y%20z.jpg\",\"jpg\",\"a.b\"]");
+    row("f.hConvertFileType('FOLDER/a.txt', 'png', '', 'FOLDER/a.png')[1]", "\"png\"");
+    row("(f.hConvertFileType('FOLDER/a.txt', 'png', '', 'FOLDER/a.png'), f.hCheckIfFileExist('FOLDER/a.png'))",
+        "\"NO\"");
+    row("(f.hConvertFileType('FOLDER/a.txt', 'pdf', '', '/x/b.pdf'), f.saveURL)", "\"file:///x/b.pdf\"");
+    row("f.hConvertFileType(null, null, null, null)", "[null,null,null]");
+    row("f.hConvertFileType('a', 'png', 5, 'b')", "TypeError: Expected text or null for qualityCode but received 5");
+    row("f.hConvertFileType('a', 'png', '5')", "TypeError: hConvertFileType takes 4 arguments but received 3");
+    row("['pdf', 'png', 'tiff', 'bmp', 'gif', 'jpeg', 'jp2'].map(type => {"
+        " f.hConvertFileType('PICTURE', type, '5', 'FOLDER/made.' + type);"
+        " return f.hCheckIfFileExist('FOLDER/made.' + type); }).join()",
+        "\"OK,OK,OK,OK,OK,OK,OK\"");
+}
+
 void TestSeamFiles::answersWhatItIsAsked()
 {
     QFETCH(QString, expression);
@@ -131,7 +154,10 @@ void TestSeamFiles::answersWhatItIsAsked()
     run.write(QStringLiteral("a.txt"), QStringLiteral("hello"));
     QString folder = run.pathOf(QStringLiteral("a.txt"));
     folder.chop(6);
-    const QString scriptText = scriptWith(expression).replace(QStringLiteral("FOLDER"), folder);
+    const QString scriptText =
+        scriptWith(expression)
+            .replace(QStringLiteral("FOLDER"), folder)
+            .replace(QStringLiteral("PICTURE"), QStringLiteral(QUORLIN_TEST_DATA "/jpeg/grey.jpg"));
     QCOMPARE(run.valueOf(scriptText), outcome);
 }
 

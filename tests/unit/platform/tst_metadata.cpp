@@ -428,7 +428,8 @@ void TheMetadata::changesTheOrientationWhereOneIsStated()
 void TheMetadata::refusesOtherFiles_data()
 {
     QTest::addColumn<QByteArray>("file");
-    QTest::newRow("PNG") << smallFile(platform::FileFormat::Png);
+    QTest::newRow("start of a PNG") << smallFile(platform::FileFormat::Png).left(40);
+    QTest::newRow("GIF") << smallFile(platform::FileFormat::Gif);
     QTest::newRow("BMP") << smallFile(platform::FileFormat::Bmp);
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("start of a JPEG") << QByteArray("\xff\xd8");

@@ -1,0 +1,130 @@
+#include "files/convert_type.h"
+
+#include "platform/foundation/atomic_file.h"
+#include "platform/imageio/image_destination.h"
+#include "platform/imageio/image_source.h"
+
+#include <array>
+
+namespace files {
+namespace {
+
+using platform::Bitmap;
+using platform::FileFormat;
+using platform::ImageSource;
+using platform::Metadata;
+using platform::Result;
+
+struct Keyword
+{
+    QLatin1String text;
+    TargetType type;
+};
+
+constexpr std::array<Keyword, 7> keywords = {{
+    {QLatin1String("pdf"), TargetType::Pdf},
+    {QLatin1String("png"), TargetType::Png},
+    {QLatin1String("tiff"), TargetType::Tiff},
+    {QLatin1String("bmp"), TargetType::Bmp},
+    {QLatin1String("gif"), TargetType::Gif},
+    {QLatin1String("jpeg"), TargetType::Jpeg},
+    {QLatin1String("jp2"), TargetType::Jpeg2000},
+}};
+
+Result<Bitmap> pixelsOf(const ImageSource &source, platform::Orientation orientation)
+{
+    platform::DecodeOptions options;
+    options.orientation = orientation;
+    return source.decode(options);
+}
+
+platform::EncodeOptions withResolution()
+{
+    platform::EncodeOptions options;
+    options.resolution = platform::WriteResolution::Yes;
+    return options;
+}
+
+/** The source's metadata, with the orientation that its stored pixels have and nothing else claims. */
+Metadata metadataForStoredPixels(const ImageSource &source)
+{
+    return source.metadata().withOrientation(source.orientation());
+}
+
+Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, const QString &destination)
+{
+    const Metadata metadata = metadataForStoredPixels(source);
+    const Result<QByteArray> plain =
+        pixelsOf(source, platform::Orientation::AsStored).and_then([format](const Bitmap &bitmap) {
+            return platform::encodeImage(bitmap, format, withResolution());
+        });
+    if (!plain)
+        return tl::unexpected<platform::Error>(plain.error());
+    return platform::replaceFile(destination, *plain).and_then([&] {
+        return metadata.writtenInto(*plain).and_then(
+            [&](const QByteArray &whole) { return platform::replaceFile(destination, whole); });
+    });
+}
+
+Result<void> writePixels(const ImageSource &source, FileFormat format, const Conversion &conversion)
+{
+    return pixelsOf(source, platform::Orientation::Upright).and_then([&](const Bitmap &bitmap) {
+        platform::EncodeOptions options = withResolution();
+        options.lossyQuality = conversion.quality;
+        return platform::writeImageFile(conversion.destination, bitmap, format, options);
+    });
+}
+
+Result<void> writePage(const ImageSource &source, const QString &destination)
+{
+    return source.asPdfPage().and_then(
+        [&](const QByteArray &page) { return platform::replaceFile(destination, page); });
+}
+
+Result<void> write(const ImageSource &source, const Conversion &conversion)
+{
+    switch (conversion.type) {
+    case TargetType::Pdf:
+        return writePage(source, conversion.destination);
+    case TargetType::Png:
+        return writeKeepingMetadata(source, FileFormat::Png, conversion.destination);
+    case TargetType::Tiff:
+        return writeKeepingMetadata(source, FileFormat::Tiff, conversion.destination);
+    case TargetType::Bmp:
+        return writePixels(source, FileFormat::Bmp, conversion);
+    case TargetType::Gif:
+        return writePixels(source, FileFormat::Gif, conversion);
+    case TargetType::Jpeg:
+        return writePixels(source, FileFormat::Jpeg, conversion);
+    case TargetType::Jpeg2000:
+        return writePixels(source, FileFormat::Jpeg2000, conversion);
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+std::optional<TargetType> targetTypeFor(const QString &keyword)
+{
+    for (const Keyword &entry : keywords)
+        if (keyword == entry.text)
+            return entry.type;
+    return std::nullopt;
+}
+
+double conversionQuality(const QString &code)
+{
+    const bool isOneToEight = code.size() == 1 && code[0] >= u'1' && code[0] <= u'8';
+    constexpr double steps = 10;
+    constexpr double highest = 0.9;
+    return isOneToEight ? (code[0].unicode() - u'0') / steps : highest;
+}
+
+Result<void> convertFile(const Conversion &conversion)
+{
+    return ImageSource::open(conversion.source).and_then([&](const ImageSource &source) {
+        return write(source, conversion);
+    });
+}
+
+} // namespace files

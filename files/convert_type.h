@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/foundation/result.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace files {
+
+/** What a picture can be converted to. */
+enum class TargetType { Pdf, Png, Tiff, Bmp, Gif, Jpeg, Jpeg2000 };
+
+/** The target of a keyword: "pdf", "png", "tiff", "bmp", "gif", "jpeg" or "jp2", letter for letter; none for other text. */
+std::optional<TargetType> targetTypeFor(const QString &keyword);
+
+/** The JPEG quality of a code: "1" to "8" are 0.1 to 0.8, anything else is 0.9. */
+double conversionQuality(const QString &code);
+
+struct Conversion
+{
+    QString source; ///< absolute path of anything that can be decoded; its content counts, not its name
+    TargetType type = TargetType::Png;
+    double quality = 0.9; ///< JPEG only, 0.01 to 1
+    QString destination;  ///< absolute path, extension included; its folder must exist
+};
+
+/**
+ * Writes image 0 of a picture file as another type, replacing a file that is there.
+ *
+ * PNG and TIFF keep what the source has: EXIF with its maker notes, GPS, IPTC, XMP, profile, resolution, 16 bits, alpha; the
+ * pixels as they are stored, with the orientation tag that belongs to them. They are written twice, first with nothing but
+ * the pixels and then with everything; where only the second fails, the first is left. BMP, GIF, JPEG and JPEG 2000 keep
+ * the pixels alone, turned upright since no tag would say how they lie, and their colours: with the profile in JPEG and
+ * JPEG 2000 where it fits in, else converted to sRGB. A PDF page has the size of the upright picture in points.
+ *
+ * Fails as ImageSource::open() and decode() do, and with WriteFailed. Every write is atomic; a failure leaves what was there.
+ * The source may be the destination.
+ */
+platform::Result<void> convertFile(const Conversion &conversion);
+
+} // namespace files

@@ -1,0 +1,26 @@
+#pragma once
+
+// Inside platform/ only.
+
+#include <QByteArray>
+#include <QSize>
+
+namespace platform {
+
+/** Adds one chunk to a PNG file: its length, its four letters, @p data and the checksum. */
+void appendPngChunk(QByteArray &file, const char *name, const QByteArray &data);
+
+/** The chunks between the header of a PNG file and its pixels, and those behind them, that concern metadata. */
+struct PngParts
+{
+    bool valid = false; ///< a PNG file with pixels
+    QSize pixels;
+    QByteArray exif;        ///< the block of its EXIF chunk, TIFF header first
+    QByteArray carried;     ///< whole chunks that another file with these pixels can have too: texts, gamma, primaries
+    qsizetype pixelsAt = 0; ///< where the first chunk of pixels begins
+};
+
+/** Never reads outside @p bytes; damaged chunks are passed over. */
+PngParts findPngParts(const QByteArray &bytes);
+
+} // namespace platform
