@@ -40,6 +40,7 @@ class Collector
 public:
     explicit Collector(const QStringList &extensions)
     {
+        m_takesAny = extensions.contains(QLatin1String("*"));
         for (const QString &extension : extensions)
             m_extensions.insert(extension.toLower());
         m_order.setNumericMode(true);
@@ -72,7 +73,7 @@ private:
     {
         const QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
         const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-        if (dot > 0 && m_extensions.contains(name.mid(dot + 1).toLower()))
+        if (m_takesAny || (dot > 0 && m_extensions.contains(name.mid(dot + 1).toLower())))
             m_paths.append(path);
         else
             leaveOut(path);
@@ -92,7 +93,7 @@ private:
             file(dir.filePath(name));
         for (const QString &name :
              sorted(dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Unsorted)))
-            if (!isPackage(name))
+            if (m_takesAny || !isPackage(name))
                 walk(dir.filePath(name));
     }
 
@@ -109,6 +110,7 @@ private:
         return result;
     }
 
+    bool m_takesAny = false;
     QSet<QString> m_extensions;
     QCollator m_order;
     QStringList m_paths;

@@ -41,7 +41,7 @@ public:
     /**
      * Files and folders as they were dropped or chosen, turned into the list of pictures to work on. Folders are walked
      * to any depth; hidden entries, packages and links inside them are passed over. The pictures of a folder come in
-     * natural order of their names. The extensions are compared in any case of letters.
+     * natural order of their names. The extensions are compared in any case of letters; "*" takes every file, those in packages too.
      *
      * @return {paths, folders (those of the given paths that are), leftOut (count of files that are not taken), example
      *         (name of one of them)}

@@ -84,6 +84,8 @@ void PictureDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &o
         font.setWeight(isFinal(row.kind) ? QFont::DemiBold : QFont::Normal);
     } else if (column == PictureModel::NewName || column == PictureModel::NewSize) {
         color = Theme::color(QStringLiteral("text"));
+        if (column == PictureModel::NewName && m_model.stressesNewNames())
+            font.setWeight(QFont::DemiBold);
     }
     const QString text = m_model.data(m_model.index(int(&row - &m_model.row(0)), column), Qt::DisplayRole).toString();
     const QRect place = option.rect.adjusted(paddingPx, 0, -paddingPx / 2, -1);

@@ -37,6 +37,14 @@ QString cellText(const PictureRow &row, int column)
 }
 } // namespace
 
+bool InputRule::takes(const PictureRow &row) const
+{
+    if (row.isFolder || folders)
+        return row.isFolder && folders;
+    const qsizetype dot = row.name.lastIndexOf(QLatin1Char('.'));
+    return anyFile || (dot > 0 && extensions.contains(row.name.mid(dot + 1).toLower()));
+}
+
 PictureModel::PictureModel(QObject *parent) : QAbstractTableModel(parent), m_thumbnails(keptThumbnails) {}
 
 int PictureModel::rowCount(const QModelIndex &parent) const
@@ -74,6 +82,8 @@ QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int 
         return int(Qt::AlignLeft | Qt::AlignVCenter);
     if (role != Qt::DisplayRole)
         return {};
+    if (m_headings.contains(section))
+        return m_headings.value(section);
     switch (section) {
     case Name:
         return tr("Name");
@@ -104,7 +114,8 @@ int PictureModel::add(const QStringList &paths)
         row.id = m_nextId++;
         row.path = path;
         row.name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-        row.type = typeWord(typeOfName(row.name));
+        row.isFolder = QFileInfo(path).isDir();
+        row.type = row.isFolder ? tr("Folder") : typeWord(typeOfName(row.name));
         row.bytes = fileBytes(path);
         m_idOfPath.insert(path, row.id);
         fresh.push_back(std::move(row));
@@ -119,6 +130,12 @@ int PictureModel::add(const QStringList &paths)
     }
     endInsertRows();
     return int(fresh.size());
+}
+
+void PictureModel::setHeadings(const QHash<int, QString> &headings)
+{
+    m_headings = headings;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
 }
 
 void PictureModel::removeIds(const QList<int> &ids)
@@ -160,6 +177,18 @@ const PictureRow &PictureModel::withHeader(int index)
     }
     changed(index, Pixels, Type);
     return row;
+}
+
+void PictureModel::setPath(int index, const QString &path)
+{
+    PictureRow &row = m_rows[size_t(index)];
+    // In a swap two rows bear one path for a moment; the later one is the path's.
+    if (m_idOfPath.value(row.path) == row.id)
+        m_idOfPath.remove(row.path);
+    row.path = path;
+    row.name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    m_idOfPath.insert(path, row.id);
+    changed(index, Name, Name);
 }
 
 void PictureModel::setPlan(int index, const QString &newName, const QString &newSize)

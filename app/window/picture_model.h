@@ -4,6 +4,7 @@
 #include <QCache>
 #include <QHash>
 #include <QPixmap>
+#include <QSet>
 #include <QSize>
 
 #include <vector>
@@ -19,6 +20,7 @@ struct PictureRow
     int id = 0; ///< stays the same while rows come and go
     QString path;
     QString name;
+    bool isFolder = false;
     QString type; ///< in words, from the extension until the header was read
     qint64 bytes = -1;
     QSize pixels; ///< upright; null while unknown and where the file is no readable picture
@@ -30,6 +32,16 @@ struct PictureRow
     StatusKind kind = StatusKind::None;
     QString status;
     QString detail; ///< all of what is known of the status, for the tool tip
+};
+
+/** Which rows an action works on. */
+struct InputRule
+{
+    bool folders = false;     ///< folders, and no files
+    bool anyFile = true;      ///< files of whatever kind
+    QSet<QString> extensions; ///< in lower case, where not any file is taken
+
+    bool takes(const PictureRow &row) const;
 };
 
 /** The input list. Cells are plain text; thumbnails are held for a few hundred rows only. */
@@ -49,6 +61,11 @@ public:
 
     /** Appends the paths that are not in the list yet, in order; returns how many those were. */
     int add(const QStringList &paths);
+    /** Other words for the heads of columns; those without one keep their own. */
+    void setHeadings(const QHash<int, QString> &headings);
+    /** New names are what the list is about, and are drawn so. */
+    bool stressesNewNames() const { return m_stressesNewNames; }
+    void setStressesNewNames(bool on) { m_stressesNewNames = on; }
     void removeIds(const QList<int> &ids);
     void clear();
 
@@ -58,6 +75,8 @@ public:
 
     /** Reads size and type from the file if that was not done yet: about a millisecond. */
     const PictureRow &withHeader(int index);
+    /** The file of the row is at another path now; all that is known of it stays. */
+    void setPath(int index, const QString &path);
     void setPlan(int index, const QString &newName, const QString &newSize);
     void setStatus(int index, StatusKind kind, const QString &text, const QString &detail);
 
@@ -77,6 +96,8 @@ private:
     QHash<QString, int> m_idOfPath;
     QHash<int, int> m_indexOfId;
     QCache<int, QPixmap> m_thumbnails;
+    QHash<int, QString> m_headings;
+    bool m_stressesNewNames = false;
     int m_nextId = 1;
 };
 

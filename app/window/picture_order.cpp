@@ -52,6 +52,12 @@ void PictureOrder::setProblemsOnly(bool on)
     invalidateFilter();
 }
 
+void PictureOrder::setInput(const InputRule &rule)
+{
+    m_input = rule;
+    invalidateFilter();
+}
+
 bool PictureOrder::lessThan(const QModelIndex &left, const QModelIndex &right) const
 {
     const PictureRow &a = m_model.row(left.row());
@@ -65,8 +71,8 @@ bool PictureOrder::lessThan(const QModelIndex &left, const QModelIndex &right) c
 
 bool PictureOrder::filterAcceptsRow(int row, const QModelIndex &) const
 {
-    const StatusKind kind = m_model.row(row).kind;
-    return !m_problemsOnly || kind == StatusKind::Bad;
+    const PictureRow &picture = m_model.row(row);
+    return m_input.takes(picture) && (!m_problemsOnly || picture.kind == StatusKind::Bad);
 }
 
 } // namespace window

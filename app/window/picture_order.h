@@ -15,6 +15,9 @@ public:
     explicit PictureOrder(PictureModel &model, QObject *parent);
     void setProblemsOnly(bool on);
     bool problemsOnly() const { return m_problemsOnly; }
+    /** Rows that an action does not work on are not shown. */
+    void setInput(const InputRule &rule);
+    const InputRule &input() const { return m_input; }
 
 protected:
     bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
@@ -22,6 +25,7 @@ protected:
 
 private:
     PictureModel &m_model;
+    InputRule m_input;
     bool m_problemsOnly = false;
 };
 

@@ -7,20 +7,15 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 
-#include <array>
 #include <utility>
 
 namespace window {
 
 namespace {
 
-constexpr int rowHeightPx = 36;
 constexpr int sliceMs = 8;
 /** Between slices the event loop is left alone this long, so that reading ahead takes a part of one processor only. */
 constexpr int pauseMs = 4;
-/** Names and status share what the other columns leave. */
-constexpr std::array<int, PictureModel::ColumnCount> columnWidths = {58, 0, 92, 76, 86, 0, 92, 0};
-constexpr int narrowestTextPx = 104;
 
 StatusKind kindOf(const QString &word)
 {
@@ -52,49 +47,9 @@ PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_mode
     connect(&m_loader, &QTimer::timeout, this, &PictureTable::loadSlice);
 }
 
-void PictureTable::prepareHeader()
-{
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(rowHeightPx);
-    QHeaderView *header = horizontalHeader();
-    header->setHighlightSections(false);
-    header->setStretchLastSection(true);
-    header->setMinimumSectionSize(48);
-    header->setSectionResizeMode(PictureModel::Thumbnail, QHeaderView::Fixed);
-    header->setSortIndicatorClearable(true);
-    // -1: in the order in which the pictures were added.
-    header->setSortIndicator(-1, Qt::AscendingOrder);
-    setSortingEnabled(true);
-    connect(header, &QHeaderView::sectionResized, this,
-            [this] { m_columnsChosen |= !m_arranging && isVisible() && underMouse(); });
-    // Sorting by the thumbnail means nothing; it leads back to the order of adding.
-    connect(header, &QHeaderView::sortIndicatorChanged, this, [this, header](int column) {
-        if (column == PictureModel::Thumbnail)
-            header->setSortIndicator(-1, Qt::AscendingOrder);
-        m_resortPending = column == PictureModel::Pixels && m_headersUpTo < m_model.rowCount();
-    });
-}
-
-void PictureTable::arrangeColumns()
-{
-    if (m_columnsChosen)
-        return;
-    m_arranging = true;
-    int room = viewport()->width();
-    for (const int width : columnWidths)
-        room -= width;
-    const int text = qMax(narrowestTextPx, room / 3);
-    for (int column = 0; column < PictureModel::ColumnCount; ++column) {
-        const int width = columnWidths[size_t(column)];
-        horizontalHeader()->resizeSection(column, width > 0 ? width : text);
-    }
-    m_arranging = false;
-}
-
 int PictureTable::count() const
 {
-    return m_model.rowCount();
+    return m_taken;
 }
 
 int PictureTable::currentId() const
@@ -120,8 +75,8 @@ int PictureTable::addPaths(const QStringList &paths)
     const int added = m_model.add(paths);
     if (added == 0)
         return 0;
-    if (!currentIndex().isValid() && m_order.rowCount() > 0)
-        setCurrentIndex(m_order.index(0, PictureModel::Name));
+    countTaken();
+    chooseSomeRow();
     Q_EMIT countChanged(count());
     wakeLoader();
     return added;
@@ -139,6 +94,7 @@ void PictureTable::removeSelected()
     if (gone.isEmpty())
         return;
     m_model.removeIds(gone);
+    countTaken();
     m_headersUpTo = 0;
     const int rest = m_order.rowCount();
     if (rest > 0)
@@ -152,33 +108,11 @@ void PictureTable::removeSelected()
 void PictureTable::removeAll()
 {
     m_model.clear();
+    countTaken();
     m_headersUpTo = 0;
     m_order.setProblemsOnly(false);
     Q_EMIT currentPictureChanged(0);
     Q_EMIT countChanged(0);
-}
-
-QVariantList PictureTable::ids() const
-{
-    QVariantList found;
-    const int rows = m_model.rowCount();
-    found.reserve(rows);
-    // Rows that the filter hides have no place of their own: then the order of adding holds.
-    const bool allShown = m_order.rowCount() == rows;
-    for (int i = 0; i < rows && !allShown; ++i)
-        found.append(m_model.row(i).id);
-    for (int i = 0; i < rows && allShown; ++i)
-        found.append(m_model.row(m_order.mapToSource(m_order.index(i, 0)).row()).id);
-    return found;
-}
-
-QStringList PictureTable::paths() const
-{
-    QStringList found;
-    found.reserve(m_model.rowCount());
-    for (int i = 0; i < m_model.rowCount(); ++i)
-        found.append(m_model.row(i).path);
-    return found;
 }
 
 QVariantList PictureTable::selectedIds() const

@@ -11,7 +11,8 @@ namespace window {
 /**
  * The list of input pictures, as windows show it and as scripts handle it. A picture is named by its id.
  *
- * Sizes and thumbnails arrive from the event loop in slices of a few milliseconds, those of visible rows first.
+ * Rows stay when another action works on the list; those that it does not take are hidden, and are then in none of the
+ * counts and lists below. Sizes and thumbnails arrive from the event loop in slices of a few milliseconds, those of visible rows first.
  */
 class PictureTable : public QTableView
 {
@@ -32,14 +33,30 @@ public:
     /** While busy (a job runs) nothing is read in the background for rows that are not visible. */
     void setBusy(bool busy);
 
+    /**
+     * Says what the action takes: files with one of the extensions, or any file for "*", or folders and no files.
+     */
+    Q_INVOKABLE void setInput(const QStringList &extensions, bool folders);
+    /** How many rows the action does not take. */
+    Q_INVOKABLE int hiddenCount() const { return m_model.rowCount() - m_taken; }
+    /**
+     * Shows these columns only: "thumbnail", "name", "pixels", "size", "type", "newName", "newSize", "status".
+     *
+     * @param headings  other words for the heads of columns, by the same names
+     * @param stressed  new names are what the list is about
+     */
+    Q_INVOKABLE void setColumns(const QStringList &columns, const QVariantMap &headings, bool stressed);
+
     /** Adds the paths that are not in the list yet; returns how many those were. */
     Q_INVOKABLE int addPaths(const QStringList &paths);
     Q_INVOKABLE void removeSelected();
     Q_INVOKABLE void removeAll();
     /** The ids of all pictures, in the order shown; in the order of adding while a filter hides some. */
     Q_INVOKABLE QVariantList ids() const;
-    /** The paths of all pictures, in no order that means anything. */
+    /** The paths of all pictures, in the order of ids(). */
     Q_INVOKABLE QStringList paths() const;
+    /** The file of a picture is at another path now, because it was renamed. */
+    Q_INVOKABLE void setPath(int id, const QString &path);
     /** The chosen rows, in the order shown. */
     Q_INVOKABLE QVariantList selectedIds() const;
     /** Moves the current row by @p rows; stays at the ends. */
@@ -61,6 +78,8 @@ public:
 
 Q_SIGNALS:
     void countChanged(int count);
+    /** The pictures are shown in another order. */
+    void orderChanged();
     void currentPictureChanged(int id);
     void largePreviewRequested();
 
@@ -79,6 +98,10 @@ private:
     bool loadNextHeader();
     void wakeLoader();
     QModelIndex shownIndex(int id) const;
+    std::vector<int> rowsInOrder() const;
+    void countTaken();
+    /** Keeps a row current as long as there is one. */
+    void chooseSomeRow();
 
     PictureModel m_model;
     PictureOrder m_order;
@@ -87,6 +110,8 @@ private:
     bool m_busy = false;
     bool m_resortPending = false;
     bool m_arranging = false;
+    int m_taken = 0; ///< rows that the action takes
+    std::vector<bool> m_columnShown;
     bool m_columnsChosen = false; ///< by hand; then their widths are left alone
 };
 

@@ -27,6 +27,11 @@ function form(process, mode, own, modes) {
     return { process: process, mode: mode, modes: modes || [], columns: Object.assign({}, OUTPUT, own) };
 }
 
+// An action that moves files has no output but a simulation.
+function moveForm(process, mode, own, modes) {
+    return { process: process, mode: mode, modes: modes || [], columns: Object.assign({ StrField21: ["simulation", "flag"] }, own) };
+}
+
 /** By the name of the action's step: the words for Process, the setting that stands in Action, or "", and its values, and the columns. */
 export const FORMS = {
     resize: form("Resize", "mode", {

@@ -82,9 +82,11 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("forms");
         const QStringList mainParts = {
             QStringLiteral("windows/main/main.js"),         QStringLiteral("windows/main/input.js"),
-            QStringLiteral("windows/main/action-page.js"),  QStringLiteral("windows/main/log-page.js"),
+            QStringLiteral("windows/main/action-page.js"),  QStringLiteral("windows/main/status-bar.js"),
             QStringLiteral("windows/main/preview-side.js"), QStringLiteral("windows/main/support-bar.js")};
         QTest::newRow("main window") << mainParts << QStringList{QStringLiteral("windows/main/main.ui")};
+        QTest::newRow("log") << QStringList{QStringLiteral("windows/log/log-page.js")}
+                             << QStringList{QStringLiteral("windows/log/log.ui")};
         QTest::newRow("preferences") << QStringList{QStringLiteral("windows/preferences/preferences.js")}
                                      << QStringList{QStringLiteral("windows/preferences/preferences.ui")};
         for (const char *name : {"resize-pane", "crop-pane", "turn-pane", "round-pane", "background-pane", "pane",

@@ -4,15 +4,14 @@
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
+import { FORMS } from "../../lib/preset-forms.js";
 import { keep, recall } from "../../lib/store.js";
 import { carriedBy } from "../../lib/written.js";
 import { OutputPane } from "../../panes/output-pane.js";
 import { PresetPane } from "../../panes/preset-pane.js";
-import { actionNamed, GROUPS, standardSettings } from "./actions.js";
+import { actionNamed, allActions, GROUPS, standardSettings } from "./actions.js";
 
 const SHOWN = "ShownAction";
-
-export const LOG = "log";
 
 /** Sets action, settings and pane of the main window's parts; changed() is called after each change of a setting. */
 export class ActionPage {
@@ -29,37 +28,89 @@ export class ActionPage {
         window.form.place("outputHost", this.output.form);
         this.presets = new PresetPane(standardSettings(), (settings) => this.take(settings), (text) => window.say(text));
         window.form.place("headHost", this.presets.form);
+        const simulation = window.form.control("moveSimulation");
+        simulation.toggled.connect(guard("simulation", () => this.simulationToggled(simulation.checked)));
         this.choose(recall(defaults, SHOWN, { name: "" }).name);
     }
 
-    /** Shows an action and makes it the one that plans and runs. */
+    /** Shows an action that works on the list and makes it the one that plans and runs. */
     choose(name) {
         const window = this.window;
-        const page = this.pageOf(actionNamed(name));
-        Object.keys(this.pages).forEach((other) => { this.pages[other].pane.form.shown = this.pages[other] === page; });
-        window.action = page.action;
+        const named = actionNamed(name);
+        const page = this.pageOf(named.usesList ? named : allActions()[0]);
+        const action = page.action;
+        Object.keys(this.pages).forEach((other) => this.showPane(this.pages[other], this.pages[other] === page));
+        window.action = action;
         window.settings = page.settings;
         window.pane = page.pane;
-        this.output.use(page.settings.output, page.action.step.offer);
-        this.showCarried();
-        this.presets.use(page.action.name, page.action.title(), page.pane);
-        shell.alignFields([this.presets.form, page.pane.form, this.output.form]);
+        window.use(action.manner);
+        this.showParts(page);
+        shell.alignFields([this.presets.form].concat(page.pane === null ? [] : [page.pane.form], [this.output.form]));
         window.form.arrangeTabs();
-        keep(defaults, SHOWN, { name: page.action.name });
+        keep(defaults, SHOWN, { name: action.name });
+    }
+
+    // What of the window the action uses.
+    showParts(page) {
+        const window = this.window;
+        const action = page.action;
+        const manner = action.manner;
+        const control = (name) => window.form.control(name);
+        control("outputHost").visible = manner.output;
+        control("headHost").visible = FORMS[action.name] !== undefined;
+        control("moveSimulation").visible = page.settings.simulation !== undefined;
+        control("moveSimulation").checked = page.settings.simulation === true;
+        control("preview").visible = manner.preview;
+        control("besideHost").visible = page.pane !== null && page.pane.beside !== undefined;
+        if (manner.output) {
+            this.output.use(page.settings.output, action.step.offer);
+            this.showCarried();
+        }
+        if (FORMS[action.name] !== undefined) {
+            this.presets.use(action.name, action.title(), page.pane);
+        }
+        if (manner.columns.length > 0) {
+            window.pictures.setColumns(manner.columns, manner.headings(), manner.stressed);
+        }
+        this.showInput();
+    }
+
+    /** Called after a change of what the rows of the list are. */
+    showInput() {
+        const action = this.window.action;
+        const kind = action.lists(this.window.settings);
+        this.window.pictures.setInput(kind === "pictures" ? action.takes : ["*"], kind === "folders");
+    }
+
+    showPane(page, on) {
+        if (page.pane !== null) {
+            page.pane.form.shown = on;
+            if (page.pane.beside !== undefined) {
+                page.pane.beside.shown = on;
+            }
+        }
+    }
+
+    simulationToggled(on) {
+        const settings = this.window.settings;
+        if (settings.simulation !== undefined && settings.simulation !== on) {
+            settings.simulation = on;
+            this.changed();
+        }
     }
 
     /** Shows other settings of the action; they are worked on from now on. */
     take(settings) {
         const window = this.window;
         window.pane.take(settings);
-        this.output.use(window.settings.output, window.action.step.offer);
+        this.showParts(this.pageOf(window.action));
         this.changed();
     }
 
     /** Called when files that a pane offers may have changed. */
     filesChanged() {
         const before = JSON.stringify(this.window.settings);
-        Object.keys(this.pages).forEach((name) => this.pages[name].pane.fill());
+        Object.keys(this.pages).filter((name) => this.pages[name].pane !== null).forEach((name) => this.pages[name].pane.fill());
         if (JSON.stringify(this.window.settings) !== before && !this.window.run.isBusy()) {
             this.changed();
         }
@@ -67,14 +118,21 @@ export class ActionPage {
 
     // What metadata goes along may hang on the settings.
     showCarried() {
-        this.output.showNote(carriedBy(this.window.action.step, this.window.settings));
+        if (this.window.action.manner.output) {
+            this.output.showNote(carriedBy(this.window.action.step, this.window.settings));
+        }
     }
 
     pageOf(action) {
         if (this.pages[action.name] === undefined) {
-            const settings = recall(defaults, "Settings-" + action.name, action.step.defaults);
-            const pane = new action.pane(settings, this.changed);
-            this.window.form.place("actionHost", pane.form);
+            const settings = action.step === undefined ? {} : recall(defaults, "Settings-" + action.name, action.step.defaults);
+            const pane = action.pane === undefined ? null : new action.pane(settings, this.changed, this.window);
+            if (pane !== null) {
+                this.window.form.place("actionHost", pane.form);
+            }
+            if (pane !== null && pane.beside !== undefined) {
+                this.window.form.place("besideHost", pane.beside);
+            }
             this.pages[action.name] = { action: action, settings: settings, pane: pane };
         }
         return this.pages[action.name];
@@ -86,23 +144,19 @@ export class ActionPage {
     }
 }
 
-/** Fills the sidebar; chosen(name) is called with the name of an action, or LOG. */
+/** Fills the sidebar; chosen(name) is called with the name of an action. */
 export function fillSideBar(window, chosen) {
     const bar = window.form.control("sideBar");
-    for (const group of GROUPS) {
+    for (const group of GROUPS.filter((each) => each.actions.length > 0)) {
         bar.addGroup(group.title());
         group.actions.forEach((action) => bar.addEntry(action.name, action.title(), action.name));
     }
-    bar.addGroup(qsTr("Information"));
-    bar.addEntry(LOG, qsTr("Log"), LOG);
     bar.currentAction = window.action.name;
     bar.actionChosen.connect(guard("sidebar", chosen));
 }
 
-/** While a run is under way only its own action and the log can be shown. */
+/** While a run is under way only its own action and pages that do not use the list can be shown. */
 export function lockSideBar(window, locked) {
     const bar = window.form.control("sideBar");
-    for (const group of GROUPS) {
-        group.actions.forEach((action) => bar.setEntryEnabled(action.name, !locked || action.name === window.action.name));
-    }
+    allActions().forEach((action) => bar.setEntryEnabled(action.name, !locked || !action.usesList || action.name === window.action.name));
 }

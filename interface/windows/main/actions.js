@@ -1,5 +1,19 @@
-// The actions of the sidebar. A new action is one entry here, one pane and one step.
+// The actions of the sidebar. A new action is one entry here, one step and one pane or page.
 // A title or sentence is a function, because texts are translated when they are shown.
+//
+// Every entry:
+//   name     that of its icon, its settings and its presets too
+//   manner   WRITES: writes pictures through the output block (see steps/resize.js). MOVES: moves, copies or links files
+//            through the move engine (see steps/rename.js). PAGE: owns the centre of the window (see windows/log/log-page.js).
+//   usesList false for a page that does not work on the list: adding pictures then leads back to the action before
+// With a step:
+//   step     plain data in, plain data out: defaults, describe(settings), validate(settings) and what its manner asks for
+//   pane     the class of its settings; presets are kept for it if lib/preset-forms.js has a form of its name
+//   lists(settings)  what the rows of the list are: "pictures", "files" of any kind, or "folders" themselves
+//   keyword  what the input collection is asked for; takes: the extensions of pictures that are taken
+//   deed(number, settings)     what the button says
+// MOVES also: done(number, settings) and undone(number, settings) for the summary, with settings null where they are not known.
+// PAGE also: page, a class made with (window, action) that has form and show(), and may have leave(), mayLeave(), listChanged().
 
 import { PICTURE_INPUT } from "../../lib/types.js";
 import { count } from "../../lib/wording.js";
@@ -13,13 +27,16 @@ import * as crop from "../../steps/crop.js";
 import * as resize from "../../steps/resize.js";
 import * as round from "../../steps/round.js";
 import * as turn from "../../steps/turn.js";
+import { LogPage } from "../log/log-page.js";
+import { PAGE } from "./pages.js";
+import { WRITES } from "./writes.js";
 
-// An action on pictures: its name is also that of its icon.
+// An action on pictures that writes new ones.
 function onPictures(name, title, step, pane, deed) {
-    return { name: name, title: title, step: step, pane: pane, keyword: "resize", takes: PICTURE_INPUT, deed: deed };
+    return { name: name, title: title, manner: WRITES, usesList: true, step: step, pane: pane, lists: () => "pictures",
+             keyword: "resize", takes: PICTURE_INPUT, deed: deed };
 }
 
-// keyword: what the input collection asks for. takes: extensions of dropped files. deed: what the button says.
 export const GROUPS = [
     {
         title: () => qsTr("Pictures"),
@@ -36,17 +53,32 @@ export const GROUPS = [
                        (number) => count(number, qsTr("Frame 1 Picture"), qsTr("Frame %1 Pictures"))),
         ],
     },
+    {
+        title: () => qsTr("Files"),
+        actions: [],
+    },
+    {
+        title: () => qsTr("Information"),
+        actions: [
+            { name: "log", title: () => qsTr("Log"), manner: PAGE, usesList: false, page: LogPage },
+        ],
+    },
 ];
+
+/** All actions, in the order of the sidebar. */
+export function allActions() {
+    return GROUPS.reduce((actions, group) => actions.concat(group.actions), []);
+}
 
 /** The settings that new panes have, by the name of the action. */
 export function standardSettings() {
     const settings = {};
-    GROUPS.forEach((group) => group.actions.forEach((action) => { settings[action.name] = action.step.defaults; }));
+    allActions().filter((action) => action.step !== undefined).forEach((action) => { settings[action.name] = action.step.defaults; });
     return settings;
 }
 
 /** The action of that name; the first one where there is none. */
 export function actionNamed(name) {
-    const all = GROUPS.reduce((actions, group) => actions.concat(group.actions), []);
+    const all = allActions();
     return all.find((action) => action.name === name) || all[0];
 }

@@ -5,30 +5,34 @@ import { cToolBox } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
+import { wordsFor } from "../../lib/input-words.js";
+import { splitPath } from "../../lib/names.js";
 import { recall, keep, withNewest } from "../../lib/store.js";
-import { count, fill, pictures, shortPath } from "../../lib/wording.js";
+import { count, fill, shortPath } from "../../lib/wording.js";
 
 const KEPT_FOLDERS = 8;
 const KEY = "RecentFolders";
 
-function leftOutText(found) {
-    return found.leftOut === 1
-        ? fill(qsTr("“%1” is not a picture that can be taken"), found.example)
-        : fill(qsTr("%1 files are not pictures that can be taken"), found.leftOut);
-}
-
-function addedText(found, added) {
+function addedText(found, added, words) {
     const parts = [];
     if (added > 0) {
-        parts.push(fill(qsTr("%1 added"), pictures(added)));
+        parts.push(fill(qsTr("%1 added"), words.count(added)));
     }
     if (found.paths.length > added) {
         parts.push(count(found.paths.length - added, qsTr("1 was in the list already"), qsTr("%1 were in the list already")));
     }
     if (found.leftOut > 0) {
-        parts.push(leftOutText(found));
+        parts.push(words.leftOut(found));
     }
-    return parts.length > 0 ? parts.join(" · ") : qsTr("No pictures there");
+    return parts.length > 0 ? parts.join(" · ") : words.nothing();
+}
+
+// Folders are the items themselves: files among what was dropped are left out.
+function foldersAmong(paths) {
+    const isFolder = (path) => files.info(path).isFolder;
+    const others = paths.filter((path) => !isFolder(path));
+    return { paths: paths.filter(isFolder).map((path) => files.absolute(path)), folders: [], leftOut: others.length,
+             example: others.length > 0 ? splitPath(others[0]).name : "" };
 }
 
 export class Input {
@@ -37,6 +41,28 @@ export class Input {
         this.window = window;
         this.recent = recall(defaults, KEY, { folders: [] }).folders;
         this.showRecent();
+    }
+
+    words() {
+        return wordsFor(this.window.action.lists(this.window.settings));
+    }
+
+    /** Says what can be added now. */
+    showWords() {
+        const words = this.words();
+        const control = (name) => this.window.form.control(name);
+        const areFolders = this.window.action.lists(this.window.settings) === "folders";
+        control("addPicturesButton").text = qsTr("+ %1").replace("%1", words.add());
+        control("addPicturesAction").text = words.add();
+        control("emptyAddPictures").text = words.add();
+        for (const name of ["addPicturesButton", "emptyAddPictures", "addPicturesAction"]) {
+            control(name).visible = !areFolders;
+        }
+        control("emptyTitle").text = words.title();
+        control("emptyText").text = words.text();
+        const hidden = this.window.pictures.hiddenCount();
+        control("hiddenNote").text = hidden > 0 ? words.hidden(hidden) : "";
+        control("hiddenNote").visible = hidden > 0;
     }
 
     showRecent() {
@@ -55,12 +81,13 @@ export class Input {
         if (added > 0) {
             this.window.pictures.setFocus();
         }
-        this.window.say(addedText(found, added));
+        this.window.say(addedText(found, added, this.words()));
     }
 
     /** Files and folders, as they were dropped, pasted or named at start-up. */
     addPaths(paths) {
-        const found = files.collect(paths, this.window.action.takes);
+        const kind = this.window.action.lists(this.window.settings);
+        const found = kind === "folders" ? foldersAmong(paths) : files.collect(paths, kind === "files" ? ["*"] : this.window.action.takes);
         for (const folder of found.folders) {
             this.rememberFolder(folder);
         }
@@ -75,7 +102,9 @@ export class Input {
     }
 
     addFolder() {
-        const folder = shell.chooseFolder(qsTr("Add all pictures of a folder"), this.recent[0] || "");
+        const kind = this.window.action.lists(this.window.settings);
+        const titles = { pictures: qsTr("Add all pictures of a folder"), files: qsTr("Add all files of a folder"), folders: qsTr("Add a folder") };
+        const folder = shell.chooseFolder(titles[kind], this.recent[0] || "");
         if (folder !== null) {
             this.addPaths([folder]);
         }

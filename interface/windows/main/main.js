@@ -5,14 +5,14 @@ import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard, onProblem } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
-import { count, fill, pictures } from "../../lib/wording.js";
+import { fill } from "../../lib/wording.js";
 import { makeServices } from "../../services.js";
-import { ActionPage, fillSideBar, LOG, lockSideBar } from "./action-page.js";
+import { ActionPage, fillSideBar, lockSideBar } from "./action-page.js";
+import { actionNamed } from "./actions.js";
 import { Input } from "./input.js";
-import { LivePlan } from "./live-plan.js";
-import { LogPage } from "./log-page.js";
+import { Pages } from "./pages.js";
 import { PreviewSide } from "./preview-side.js";
-import { Run } from "./run.js";
+import { showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
 
 const SAID_MS = 8000;
@@ -32,95 +32,80 @@ function makeWindow() {
         settings: null,
         pane: null,
         said: "",
-        logShown: false,
-        planned: { ready: 0, originals: 0, replaced: 0 },
+        manner: null,
+        run: null,
+        livePlan: null,
+        shownPage: null,
+        planned: {},
     };
 }
 
-function deedText(window) {
-    const total = window.pictures.count;
-    const originals = window.planned.originals;
-    if (total === 0) {
-        return window.action.title();
+// Actions of one manner share a run and a plan, which are made when the first of them is shown.
+function useManner(window, made, manner) {
+    let parts = made.find((each) => each.manner === manner);
+    if (parts === undefined) {
+        parts = { manner: manner, run: null, livePlan: null };
+        parts.run = manner.makeRun(window, () => showAll(window));
+        parts.livePlan = manner.makePlan(window, (summary) => { window.planned = summary; showDeed(window); });
+        made.push(parts);
     }
-    if (window.settings.output.simulation) {
-        return fill(qsTr("Simulate: %1"), window.action.deed(total));
+    if (window.livePlan !== null) {
+        window.livePlan.stop();
     }
-    return originals > 0
-        ? window.action.deed(total) + ", " + count(originals, qsTr("Replace 1 Original"), qsTr("Replace %1 Originals"))
-        : window.action.deed(total);
-}
-
-function deedNote(window) {
-    const planned = window.planned;
-    if (window.pictures.count === 0 || window.settings.output.simulation) {
-        return "";
-    }
-    if (planned.originals > 0) {
-        return qsTr("Originals are replaced by their results.");
-    }
-    return planned.replaced > 0 ? count(planned.replaced, qsTr("1 file is replaced."), qsTr("%1 files are replaced.")) : "";
+    window.manner = manner;
+    window.run = parts.run;
+    window.livePlan = parts.livePlan;
+    window.planned = parts.livePlan.nothing();
+    window.run.look();
 }
 
 function showDeed(window) {
     const busy = window.run.isBusy();
-    const ready = window.pictures.count > 0 && !window.logShown && window.action.step.validate(window.settings).length === 0;
+    const manner = window.manner;
+    const ready = manner.isReady(window) && window.shownPage === null && window.action.step.validate(window.settings).length === 0;
     const control = (name) => window.form.control(name);
-    control("startButton").text = deedText(window);
+    const note = manner.deedNote(window);
+    control("startButton").text = manner.deedText(window);
     control("startButton").enabled = ready && !busy;
     control("startAction").enabled = ready && !busy;
-    control("startAction").text = deedText(window);
-    window.form.setLook("startButton", "replaces", String(window.planned.originals > 0 && !window.settings.output.simulation));
-    control("deedNote").text = deedNote(window);
-    control("deedNote").visible = deedNote(window) !== "";
+    control("startAction").text = manner.deedText(window);
+    window.form.setLook("startButton", "replaces", String(manner.replaces(window)));
+    control("deedNote").text = note;
+    control("deedNote").visible = note !== "";
 }
 
 function showStatus(window) {
+    showStatusBar(window);
+}
+
+// A page that works on the list has its settings beside it, if it has a pane.
+function showCentre(window, any) {
+    const page = window.shownPage;
+    const listed = page === null;
     const control = (name) => window.form.control(name);
-    const state = window.run;
-    const busy = window.run.isBusy();
-    const ended = state.phase === "ended";
-    const idleText = window.said || (window.pictures.count > 0 ? pictures(window.pictures.count) : qsTr("No pictures yet"));
-    control("statusText").text = busy || ended ? state.text : idleText;
-    control("statusDetail").text = ended && window.said ? window.said : state.detail;
-    control("progress").visible = busy;
-    control("progress").maximum = state.phase === "planning" ? 0 : Math.max(1, state.progress ? state.progress.count : 1);
-    control("progress").value = state.progress ? state.progress.done : 0;
-    const visible = { pauseButton: state.phase === "running", cancelButton: busy, dismissButton: ended,
-                      openFolderButton: ended && window.run.folders().length > 0,
-                      showFailedButton: ended && window.run.hasProblems(),
-                      retryButton: ended && window.run.failedIds().length > 0,
-                      reportButton: ended && state.rows.length > 0 };
-    Object.keys(visible).forEach((name) => { control(name).visible = visible[name]; });
-    control("pauseButton").text = state.paused ? qsTr("Continue") : qsTr("Pause");
-    control("pauseAction").text = control("pauseButton").text;
-    control("pauseAction").enabled = visible.pauseButton;
-    control("cancelAction").enabled = busy || window.preview.large.visible;
-    control("retryAction").enabled = visible.retryButton;
-    control("reportAction").enabled = visible.reportButton;
-    control("showFailedAction").enabled = visible.showFailedButton;
-    control("showFailedAction").checked = window.pictures.problemsOnly;
-    control("showFailedButton").checked = window.pictures.problemsOnly;
+    control("centre").currentIndex = listed ? (any ? 1 : 0) : 2;
+    control("settings").visible = listed || (page.usesList && window.pane !== null);
+    control("deedHost").visible = listed;
+    control("fitFill").visible = listed && window.manner.preview;
 }
 
 function showInputState(window) {
     const busy = window.run.isBusy();
     const any = window.pictures.count > 0;
     const control = (name) => window.form.control(name);
-    control("centre").currentIndex = window.logShown ? 2 : any ? 1 : 0;
-    control("settings").visible = !window.logShown;
-    control("fitFill").visible = !window.logShown;
+    showCentre(window, any);
     for (const name of ["addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction",
-                        "headHost", "actionHost", "outputHost", "emptyAddPictures", "emptyAddFolder"]) {
+                        "headHost", "actionHost", "outputHost", "moveSimulation", "emptyAddPictures", "emptyAddFolder"]) {
         control(name).enabled = !busy;
     }
     for (const name of ["clearButton", "clearAction", "removeAction", "selectAllAction"]) {
-        control(name).enabled = any && !busy && !window.logShown;
+        control(name).enabled = any && !busy && window.shownPage === null;
     }
     for (const name of ["nextAction", "previousAction", "largeAction"]) {
-        control(name).enabled = any;
+        control(name).enabled = any && (window.shownPage === null || window.shownPage.usesList);
     }
     window.drop.open = !busy;
+    window.input.showWords();
     lockSideBar(window, busy);
 }
 
@@ -133,11 +118,18 @@ function showAll(window) {
 function showCurrent(window) {
     const id = window.pictures.currentId;
     const photo = id > 0 ? window.pictures.photo(id) : null;
-    window.preview.show(photo, window.pane.show(photo, window.services));
+    if (window.pane === null) {
+        return;
+    }
+    const planned = window.pane.show(photo, window.services);
+    if (window.manner.preview) {
+        window.preview.show(photo, planned);
+    }
 }
 
 function settingsChanged(window) {
     window.page.keepSettings();
+    window.page.showInput();
     planAnew(window);
 }
 
@@ -152,9 +144,10 @@ function planAnew(window) {
 }
 
 function listChanged(window) {
-    if (window.pictures.count > 0) {
+    if (window.pictures.count > 0 && (window.shownPage === null || !window.shownPage.usesList)) {
         window.form.control("sideBar").currentAction = window.action.name;
     }
+    window.pages.listChanged();
     if (!window.run.isBusy()) {
         window.livePlan.refresh();
     }
@@ -162,6 +155,13 @@ function listChanged(window) {
         window.run.dismiss();
     }
     showAll(window);
+}
+
+// Counters count in the order shown.
+function orderChanged(window) {
+    if (!window.run.isBusy()) {
+        window.livePlan.refresh();
+    }
 }
 
 function say(window, text) {
@@ -174,19 +174,28 @@ function say(window, text) {
 }
 
 function showTitle(window) {
-    window.form.control("windowTitle").text = "Quorlin – " + (window.logShown ? qsTr("Log") : window.action.title());
+    window.form.control("windowTitle").text = "Quorlin – " + (window.shownPage || window.action).title();
 }
 
-// The log takes the place of list and settings; adding pictures leads back to the action. The list stays when another
-// action is chosen.
-function choosePage(window, name) {
-    window.logShown = name === LOG;
-    if (window.logShown) {
-        window.log.show();
-    } else if (name !== window.action.name) {
+// A page takes the place of list and settings. The list stays when another action is chosen; adding to it leads back from
+// a page that does not work on it.
+function chooseAction(window, name) {
+    const action = actionNamed(name);
+    if (action === (window.shownPage || window.action)) {
+        return;
+    }
+    if (!window.pages.mayLeave()) {
+        window.form.control("sideBar").currentAction = (window.shownPage || window.action).name;
+        return;
+    }
+    window.shownPage = action.page === undefined ? null : action;
+    if (action.usesList && name !== window.action.name) {
         window.page.choose(name);
         planAnew(window);
+    } else {
+        window.run.look();
     }
+    window.pages.show(window.shownPage);
     showTitle(window);
     showAll(window);
 }
@@ -206,7 +215,7 @@ function showProblemsOnly(window, on) {
 function mayClose(window) {
     if (!window.run.isBusy()) {
         window.livePlan.stop();
-        return true;
+        return window.pages.mayLeave();
     }
     const answer = shell.ask({ title: qsTr("A run is under way"), text: qsTr("Stop the run and close the window?"),
         detail: qsTr("What is finished stays; nothing half written is left."),
@@ -261,6 +270,7 @@ function deedsOf(window) {
         showFailed: () => showProblemsOnly(window, !window.pictures.problemsOnly),
         openFolders: () => openFolders(window),
         dismiss: () => dismiss(window),
+        undo: () => window.run.undo(),
         quit: () => window.form.close(),
         paste: () => window.input.paste(),
         remove: () => window.pictures.removeSelected(),
@@ -278,12 +288,12 @@ const BUTTONS = {
     addPicturesButton: "addPictures", emptyAddPictures: "addPictures", addFolderButton: "addFolder",
     emptyAddFolder: "addFolder", clearButton: "clear", startButton: "start", pauseButton: "pause", cancelButton: "cancel",
     retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report", openFolderButton: "openFolders",
-    showFailedButton: "showFailed", dismissButton: "dismiss",
+    showFailedButton: "showFailed", dismissButton: "dismiss", undoButton: "undo",
 };
 
 const ENTRIES = [
     "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "quit", "paste",
-    "remove", "selectAll", "next", "previous", "large", "fit", "fill", "about", "showFailed",
+    "remove", "selectAll", "next", "previous", "large", "fit", "fill", "about", "showFailed", "undo",
 ];
 
 function connectControls(window) {
@@ -308,6 +318,7 @@ function connectViews(window) {
     const large = guard("large", () => toggleLarge(window));
     const step = guard("step", (rows) => list.step(rows));
     list.countChanged.connect(guard("list", () => listChanged(window)));
+    list.orderChanged.connect(guard("order", () => orderChanged(window)));
     list.currentPictureChanged.connect(guard("current", () => showCurrent(window)));
     list.largePreviewRequested.connect(large);
     for (const view of [window.preview.view, window.preview.large]) {
@@ -342,15 +353,17 @@ export function openMainWindow() {
     window.saidTimer = shell.timer(guard("said", () => { window.said = ""; showStatus(window); }));
     window.drop = shell.dropTarget(window.form);
     window.drop.setMessage(qsTr("Drop to add pictures and folders"));
+    window.pages = new Pages(window);
+    window.preview = new PreviewSide(window);
+    window.note = (text) => note(window, text);
+    const made = [];
+    window.use = (manner) => useManner(window, made, manner);
     window.page = new ActionPage(window, () => settingsChanged(window));
     window.input = new Input(window);
-    window.preview = new PreviewSide(window);
-    window.livePlan = new LivePlan(window, (summary) => { window.planned = summary; showDeed(window); });
-    window.run = new Run(window, () => showAll(window));
-    window.note = (text) => note(window, text);
-    window.log = new LogPage(window);
     window.support = new SupportBar(window);
-    fillSideBar(window, (name) => choosePage(window, name));
+    window.shownPage = window.action.page === undefined ? null : window.action;
+    window.pages.show(window.shownPage);
+    fillSideBar(window, (name) => chooseAction(window, name));
     window.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill")];
     connectControls(window);
     connectViews(window);

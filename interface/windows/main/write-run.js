@@ -1,17 +1,16 @@
-// One run of an action over the list: plan, carry out or only show, pause, cancel, and what came of it.
-// Services used: those of the step, files, defaults.
+// A run that writes pictures: plan, carry out or only show, and what came of it. Services used: those of the step, files.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { runItems } from "../../lib/job.js";
-import { keepRows } from "../../lib/log-file.js";
 import { emptyTable } from "../../lib/names.js";
 import { planRun } from "../../lib/plan.js";
 import { clockText, costOf, Progress } from "../../lib/progress.js";
-import { logRow, summaryOf, toCsv } from "../../lib/report.js";
+import { logRow, summaryOf } from "../../lib/report.js";
 import { count, fill, pixels, statusKind, statusText } from "../../lib/wording.js";
-import { showItem } from "./live-plan.js";
+import { BaseRun } from "./run-base.js";
+import { showItem } from "./write-plan.js";
 
 function askAboutName(question) {
     const answer = shell.ask({
@@ -24,10 +23,6 @@ function askAboutName(question) {
         check: qsTr("Do this for all"),
     });
     return { rule: ["number", "replace", "skip", "cancel"][answer.button], forAll: answer.checked };
-}
-
-function problemsText(number) {
-    return number === 0 ? qsTr("no problems") : count(number, qsTr("1 problem"), qsTr("%1 problems"));
 }
 
 // The button said so already; it is said again, with the number, before originals are gone.
@@ -45,44 +40,7 @@ function mayReplace(items) {
     return answer.button === 0;
 }
 
-function isProblem(result) {
-    return result.status === "Failed" || result.status === "Not Supported";
-}
-
-export class Run {
-    /** @param window  the main window's parts; changed() is called when buttons and texts should be looked at again */
-    constructor(window, changed) {
-        this.window = window;
-        this.changed = changed;
-        this.job = shell.job();
-        this.phase = "idle";
-        this.reset([]);
-    }
-
-    reset(ids) {
-        this.ids = ids;
-        this.items = [];
-        this.results = [];
-        this.rows = [];
-        this.paused = false;
-        this.text = "";
-        this.detail = "";
-        this.progress = new Progress([]);
-        this.startedMs = Date.now();
-    }
-
-    isBusy() {
-        return this.phase === "planning" || this.phase === "running";
-    }
-
-    hasProblems() {
-        return this.results.some(isProblem);
-    }
-
-    failedIds() {
-        return this.ids.filter((id, i) => i < this.results.length && this.results[i].status === "Failed");
-    }
-
+export class WriteRun extends BaseRun {
     folders() {
         return summaryOf(this.results).folders;
     }
@@ -100,18 +58,9 @@ export class Run {
 
     begin(ids) {
         const window = this.window;
-        window.livePlan.stop();
-        window.livePlan.forgetFinal();
-        window.said = "";
-        window.pictures.setFocus();
-        this.reset(ids);
+        this.startPlanning(ids);
         window.services.unitCache = emptyTable();
-        this.settings = JSON.parse(JSON.stringify(window.settings));
         this.simulated = this.settings.output.simulation;
-        this.phase = "planning";
-        this.text = qsTr("Planning…");
-        window.pictures.busy = true;
-        window.pictures.problemsOnly = false;
         const work = planRun(ids.length, (i) => window.pictures.photo(ids[i]), window.pictures.paths(), window.action.step,
                              this.settings, Object.assign({}, window.services, { ask: askAboutName }));
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
@@ -172,9 +121,9 @@ export class Run {
 
     takeResult(id, item, result) {
         const list = this.window.pictures;
-        this.results.push(result);
+        const action = this.window.action;
+        this.note(result, logRow(result, action.title(), action.step.describe(this.settings), new Date().toISOString()));
         this.progress.add(costOf(item.photo), result.ms);
-        this.rows.push(logRow(result, this.window.action.title(), this.window.action.step.describe(this.settings), new Date().toISOString()));
         this.window.livePlan.keepFinal(id);
         if (result.status === "OK") {
             list.setPlan(id, result.name, pixels(result));
@@ -185,14 +134,6 @@ export class Run {
         }
     }
 
-    showProgress() {
-        const left = this.progress.leftMs();
-        const time = this.paused ? qsTr("paused") : left === null ? "" : fill(qsTr("%1 left"), clockText(left));
-        this.text = fill(qsTr("%1 of %2"), this.progress.done, this.progress.count);
-        this.detail = (time ? [time] : []).concat([problemsText(this.results.filter(isProblem).length)]).join(" · ");
-        this.changed();
-    }
-
     // Each picture has one final state, also those whose turn never came.
     runEnded(how, value) {
         const reason = how === "failed" ? String(value) : qsTr("cancelled before its turn");
@@ -200,7 +141,7 @@ export class Run {
             const photo = this.items[i].photo;
             this.takeResult(this.ids[i], this.items[i], { status: "Skipped", reason: reason, photo: photo, ms: 0 });
         }
-        const problem = keepRows(files, this.rows);
+        const problem = this.keepLog();
         this.finish(this.summaryText(how) + (problem ? " · " + problem : ""));
         if (this.items.some((item) => item.replacesOriginal)) {
             this.window.reloadPreview();
@@ -216,44 +157,5 @@ export class Run {
         add(sum.skipped, qsTr("%1 skipped"));
         parts.push(fill(qsTr("%1 written"), files.byteText(sum.bytes)), clockText(Date.now() - this.startedMs));
         return (how === "done" ? "" : qsTr("Cancelled:") + " ") + parts.join(" · ");
-    }
-
-    finish(text) {
-        this.phase = "ended";
-        this.text = text;
-        this.detail = "";
-        this.window.pictures.busy = false;
-        this.changed();
-    }
-
-    togglePause() {
-        this.paused = !this.paused;
-        if (this.paused) {
-            this.job.pause();
-        } else {
-            this.job.resume();
-        }
-        this.showProgress();
-    }
-
-    cancel() {
-        this.job.cancel();
-    }
-
-    /** Takes the summary away; it stays in the log. */
-    dismiss() {
-        if (this.phase === "ended") {
-            this.phase = "idle";
-            this.detail = "";
-        }
-    }
-
-    /** Writes the rows of this run where the user wants them; returns what to say about it. */
-    saveReport() {
-        const path = shell.chooseNewFile(qsTr("Save the report"), "", qsTr("Report") + ".csv", "csv");
-        if (path === null) {
-            return "";
-        }
-        return files.writeText(path, toCsv(this.rows)) || fill(qsTr("Report saved as %1"), path);
     }
 }

@@ -28,17 +28,18 @@ function* csvOf(table) {
 }
 
 export class LogPage {
-    /** @param window  the main window's parts: form, note(text) */
+    /** @param window  the main window's parts: note(text) */
     constructor(window) {
         this.window = window;
         this.job = shell.job();
-        this.table = window.form.control("logTable");
+        this.form = shell.loadForm("windows/log/log.ui");
+        this.table = this.form.control("logTable");
         this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder")], shownStates());
-        window.form.setItems("logStatus", [qsTr("All")].concat(STATES.map((state) => statusText(state, ""))), [""].concat(STATES));
-        window.form.control("logSearch").textChanged.connect(guard("log.search", () => this.look()));
-        window.form.control("logStatus").activated.connect(guard("log.status", () => this.look()));
-        window.form.control("logExport").clicked.connect(guard("log.export", () => this.save()));
-        window.form.control("logOpen").clicked.connect(guard("log.open", () => this.openFolder()));
+        this.form.setItems("logStatus", [qsTr("All")].concat(STATES.map((state) => statusText(state, ""))), [""].concat(STATES));
+        this.form.control("logSearch").textChanged.connect(guard("log.search", () => this.look()));
+        this.form.control("logStatus").activated.connect(guard("log.status", () => this.look()));
+        this.form.control("logExport").clicked.connect(guard("log.export", () => this.save()));
+        this.form.control("logOpen").clicked.connect(guard("log.open", () => this.openFolder()));
         this.table.changed.connect(guard("log.chosen", () => this.showChoice()));
     }
 
@@ -48,14 +49,14 @@ export class LogPage {
     }
 
     look() {
-        this.table.look(this.window.form.control("logSearch").text, this.window.form.value("logStatus"));
+        this.table.look(this.form.control("logSearch").text, this.form.value("logStatus"));
     }
 
     showChoice() {
         const shown = this.table.shownCount;
-        this.window.form.control("logCount").text = count(shown, qsTr("1 entry"), qsTr("%1 entries"));
-        this.window.form.control("logExport").enabled = shown > 0 && !this.table.reading;
-        this.window.form.control("logOpen").enabled = this.chosenPath() !== "";
+        this.form.control("logCount").text = count(shown, qsTr("1 entry"), qsTr("%1 entries"));
+        this.form.control("logExport").enabled = shown > 0 && !this.table.reading;
+        this.form.control("logOpen").enabled = this.chosenPath() !== "";
     }
 
     // The result of the chosen entry, or the file that it was made of.

@@ -1,0 +1,41 @@
+// The bar at the foot of the window, and the entries of the menu that do the same: how far a run is, what came of it, and
+// what can be done about it.
+
+import { wordsFor } from "../../lib/input-words.js";
+
+function listText(window) {
+    const words = wordsFor(window.action.lists(window.settings));
+    return window.pictures.count > 0 ? words.count(window.pictures.count) : words.none();
+}
+
+export function showStatusBar(window) {
+    const control = (name) => window.form.control(name);
+    const run = window.run;
+    const busy = run.isBusy();
+    const ended = run.phase === "ended";
+    const offer = run.undoOffer();
+    const idleText = window.said || run.idleText() || listText(window);
+    control("statusText").text = busy || ended ? run.text : idleText;
+    control("statusDetail").text = ended && window.said ? window.said : run.detail;
+    control("progress").visible = busy;
+    control("progress").maximum = run.phase === "planning" ? 0 : Math.max(1, run.progress.count);
+    control("progress").value = run.progress.done;
+    const visible = { pauseButton: run.phase === "running", cancelButton: busy, dismissButton: ended,
+                      undoButton: offer !== null && !window.said,
+                      openFolderButton: ended && run.folders().length > 0,
+                      showFailedButton: ended && run.hasProblems(),
+                      retryButton: ended && run.failedIds().length > 0,
+                      reportButton: ended && run.rows.length > 0 };
+    Object.keys(visible).forEach((name) => { control(name).visible = visible[name]; });
+    control("undoButton").text = offer === null ? qsTr("Undo") : offer.text;
+    control("undoAction").enabled = offer !== null;
+    control("pauseButton").text = run.paused ? qsTr("Continue") : qsTr("Pause");
+    control("pauseAction").text = control("pauseButton").text;
+    control("pauseAction").enabled = visible.pauseButton;
+    control("cancelAction").enabled = busy || window.preview.large.visible;
+    control("retryAction").enabled = visible.retryButton;
+    control("reportAction").enabled = visible.reportButton;
+    control("showFailedAction").enabled = visible.showFailedButton;
+    control("showFailedAction").checked = window.pictures.problemsOnly;
+    control("showFailedButton").checked = window.pictures.problemsOnly;
+}
