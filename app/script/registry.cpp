@@ -13,6 +13,7 @@
 #include "files/cToolBox.h"
 #include "image/ZtImageHandling.h"
 #include "image/cMConversion.h"
+#include "platform/desktop/save_panel.h"
 #include "platform/desktop/stand_ins.h"
 #include "presets/Ztbookmarks.h"
 #include "presets/dbViewController.h"
@@ -32,6 +33,14 @@ ServiceEntry pictures()
 {
     ServiceEntry entry = serviceEntry<PictureObject>();
     entry.name = "Picture";
+    entry.isMadeByScripts = false;
+    return entry;
+}
+
+/** A field of cToolBox refers to one. */
+ServiceEntry savePanels()
+{
+    ServiceEntry entry = serviceEntry<platform::SavePanel>();
     entry.isMadeByScripts = false;
     return entry;
 }
@@ -61,6 +70,7 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<my2ndPhotoView>(),
         serviceEntry<myMainPhotoView>(),
         pictures(),
+        savePanels(),
         standIn<platform::TextField>(),
         standIn<platform::CheckBox>(),
         standIn<platform::ColorWell>(),
