@@ -214,6 +214,7 @@ QVariantList rowsOf(const QObject *control)
 void addRowTo(QObject *control, const QVariantMap &row)
 {
     QVariantList rows = rowsOf(control);
+    write(control, {"rows"}, QVariantList()); // or the whole list would be copied for each row
     rows.append(row);
     write(control, {"rows"}, rows);
 }
@@ -221,6 +222,12 @@ void addRowTo(QObject *control, const QVariantMap &row)
 void reloadTable(QObject *control)
 {
     write(control, {"reloads"}, read(control, {"reloads"}).toInt() + 1);
+}
+
+void redraw(QObject *control)
+{
+    if (control && control->metaObject()->indexOfMethod("repaint()") >= 0)
+        QMetaObject::invokeMethod(control, "repaint", Qt::DirectConnection);
 }
 
 void setContentOf(QObject *control, const QVariantList &nodes)

@@ -84,6 +84,8 @@ QVariantList rowsOf(const QObject *control);
 void addRowTo(QObject *control, const QVariantMap &row);
 /** Tells a table to show its rows anew. */
 void reloadTable(QObject *control);
+/** Shows a control as it now is at once, since the event loop does not run in between. */
+void redraw(QObject *control);
 /** The nodes of a tree. */
 void setContentOf(QObject *control, const QVariantList &nodes);
 

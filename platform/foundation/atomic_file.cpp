@@ -1,14 +1,13 @@
 #include "platform/foundation/atomic_file.h"
 
+#include "platform/foundation/temporary_file.h"
+
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace platform {
 namespace {
@@ -24,95 +23,64 @@ tl::unexpected<Error> writeFailure(const QString &path, int code)
                    QCoreApplication::translate("platform", "Cannot write %1: %2").arg(path, systemReason(code)));
 }
 
-/** A file beside the target that disappears unless it is renamed into place. */
-class TemporaryFile
+bool copySpliced(TemporaryFile &file, int source, qint64 size, const QList<Splice> &splices)
 {
-public:
-    explicit TemporaryFile(const QString &target)
-    {
-        const QFileInfo info(target);
-        m_name = QFile::encodeName(info.path() + QStringLiteral("/.quorlin-XXXXXX"));
-        m_descriptor = ::mkstemp(m_name.data());
-    }
-    TemporaryFile(const TemporaryFile &) = delete;
-    TemporaryFile &operator=(const TemporaryFile &) = delete;
-    ~TemporaryFile()
-    {
-        const bool isOpen = m_descriptor >= 0;
-        if (isOpen)
-            ::close(m_descriptor);
-        if (m_isOurs)
-            ::unlink(m_name.constData());
-    }
-
-    bool open()
-    {
-        m_isOurs = m_descriptor >= 0;
-        return m_isOurs;
-    }
-
-    bool write(const QByteArray &bytes)
-    {
-        qsizetype done = 0;
-        while (done < bytes.size()) {
-            const ssize_t count = ::write(m_descriptor, bytes.constData() + done, size_t(bytes.size() - done));
-            if (count < 0 && errno == EINTR)
-                continue;
-            if (count < 0)
-                return false;
-            done += count;
-        }
-        return true;
-    }
-
-    /** The permissions of the file that is about to be replaced, or those of any new file. */
-    bool takePermissionsOf(const QByteArray &target)
-    {
-        struct stat old = {};
-        mode_t mode = 0;
-        if (::lstat(target.constData(), &old) == 0 && S_ISREG(old.st_mode)) {
-            mode = old.st_mode & 07777;
-        } else {
-            const mode_t mask = ::umask(0);
-            ::umask(mask);
-            mode = 0666 & ~mask;
-        }
-        return ::fchmod(m_descriptor, mode) == 0;
-    }
-
-    bool renameTo(const QByteArray &target)
-    {
-        const int descriptor = m_descriptor;
-        m_descriptor = -1;
-        const bool flushed = ::fdatasync(descriptor) == 0;
-        const int reason = errno;
-        if (::close(descriptor) != 0 && flushed)
-            return false;
-        if (!flushed) {
-            errno = reason;
+    qint64 position = 0;
+    for (const Splice &splice : splices) {
+        const bool isInside = splice.at >= position && splice.removed >= 0 && splice.at + splice.removed <= size;
+        if (!isInside) {
+            errno = EINVAL;
             return false;
         }
-        if (::rename(m_name.constData(), target.constData()) != 0)
+        if (!file.copyFrom(source, position, splice.at - position) || !file.write(splice.inserted))
             return false;
-        m_isOurs = false;
-        return true;
+        position = splice.at + splice.removed;
     }
+    return file.copyFrom(source, position, size - position);
+}
 
-private:
-    QByteArray m_name;
-    int m_descriptor = -1;
-    bool m_isOurs = false;
-};
+/** True if somebody wrote to the file since. */
+bool isChanged(int file, const struct stat &before)
+{
+    struct stat now = {};
+    return ::fstat(file, &now) != 0 || now.st_size != before.st_size || now.st_mtim.tv_sec != before.st_mtim.tv_sec ||
+           now.st_mtim.tv_nsec != before.st_mtim.tv_nsec;
+}
 
 } // namespace
 
 Result<void> replaceFile(const QString &path, const QByteArray &bytes)
 {
-    const QByteArray target = QFile::encodeName(path);
     TemporaryFile file(path);
-    if (!file.open() || !file.write(bytes) || !file.takePermissionsOf(target) || !file.renameTo(target))
+    if (!file.isOpen() || !file.write(bytes) || !file.takePermissions() || !file.takePlace())
         return writeFailure(path, errno);
     return {};
+}
+
+Result<void> spliceFile(const QFile &source, const QList<Splice> &splices)
+{
+    const QString path = source.fileName();
+    struct stat before = {};
+    if (::fstat(source.handle(), &before) != 0)
+        return writeFailure(path, errno);
+    TemporaryFile file(path);
+    if (!file.isOpen() || !copySpliced(file, source.handle(), before.st_size, splices) ||
+        !file.takeAttributesOf(source.handle()))
+        return writeFailure(path, errno);
+    if (isChanged(source.handle(), before))
+        return writeFailure(path, EBUSY);
+    return file.takePlace() ? Result<void>() : writeFailure(path, errno);
+}
+
+QByteArray spliced(const QByteArray &bytes, const QList<Splice> &splices)
+{
+    QByteArray result;
+    qint64 position = 0;
+    for (const Splice &splice : splices) {
+        result.append(bytes.constData() + position, splice.at - position).append(splice.inserted);
+        position = splice.at + splice.removed;
+    }
+    return result.append(bytes.constData() + position, bytes.size() - position);
 }
 
 Result<QByteArray> readFile(const QString &path)

@@ -3,6 +3,9 @@
 #include "platform/foundation/result.h"
 
 #include <QByteArray>
+#include <QList>
+
+class QFile;
 
 namespace platform {
 
@@ -11,13 +14,38 @@ namespace platform {
  *
  * @param path  absolute; its folder must exist
  *
- * The bytes go to a hidden temporary file in the same folder, are flushed to the disk and renamed into place, so that
- * a reader sees the old file or the new one and a failure at any moment leaves the old one. A symbolic link at @p path
+ * The bytes go to a temporary file in the same folder, are flushed to the disk and renamed into place, so that a reader
+ * sees the old file or the new one and a failure at any moment leaves the old one. A symbolic link at @p path
  * is replaced, not written through. A file that is replaced hands on its permissions.
  *
  * Fails with WriteFailed; nothing of the temporary file is left behind.
  */
 Result<void> replaceFile(const QString &path, const QByteArray &bytes);
+
+/** @p removed bytes at @p at give way to @p inserted. */
+struct Splice
+{
+    qint64 at = 0;
+    qint64 removed = 0;
+    QByteArray inserted;
+};
+
+/**
+ * Replaces a file by itself with some of its bytes changed.
+ *
+ * @param source   the file, open for reading; its name says which file is replaced
+ * @param splices  in ascending order, none over another, all within the file
+ *
+ * Atomic as replaceFile() is, and the rest of the file is copied without passing through this process. The new file has
+ * the old one's permissions, access lists, extended attributes and, as far as the user may give it, its owner. A symbolic
+ * link is replaced by a changed copy of the file it leads to; another hard link keeps the old file.
+ *
+ * Fails with WriteFailed, also where somebody else writes to the source meanwhile; the file is then as it was.
+ */
+Result<void> spliceFile(const QFile &source, const QList<Splice> &splices);
+
+/** The same for bytes in memory. */
+QByteArray spliced(const QByteArray &bytes, const QList<Splice> &splices);
 
 /** The whole file as bytes. Fails with NotFound or Unreadable. */
 Result<QByteArray> readFile(const QString &path);

@@ -1,14 +1,11 @@
 #include "platform/imageio/container_properties.h"
 
 #include "platform/imageio/jpeg_segments.h"
+#include "platform/imageio/png_exif_text.h"
 #include "platform/imageio/user_comment.h"
 
 #include <QIODevice>
 #include <QtEndian>
-
-#include <gio/gio.h>
-
-#include <memory>
 
 namespace platform {
 namespace {
@@ -46,20 +43,6 @@ double hundredThousandths(const QByteArray &bytes, qsizetype at)
     return big32(bytes, at) / 100000.0;
 }
 
-/** A compressed text, or nothing where it is not sound or too long. Never makes more than that of it. */
-QByteArray inflated(const QByteArray &compressed)
-{
-    const std::unique_ptr<GConverter, decltype(&g_object_unref)> converter(
-        G_CONVERTER(g_zlib_decompressor_new(G_ZLIB_COMPRESSOR_FORMAT_ZLIB)), &g_object_unref);
-    QByteArray text(longestText, '\0');
-    gsize read = 0;
-    gsize written = 0;
-    const auto result =
-        g_converter_convert(converter.get(), compressed.constData(), gsize(compressed.size()), text.data(),
-                            gsize(text.size()), G_CONVERTER_INPUT_AT_END, &read, &written, nullptr);
-    return result == G_CONVERTER_FINISHED ? text.left(qsizetype(written)) : QByteArray();
-}
-
 struct PngText
 {
     QString keyword;
@@ -76,7 +59,8 @@ PngText internationalText(const QByteArray &chunk)
         return {};
     const bool compressed = chunk.at(keywordEnd + 1) != 0;
     const QByteArray text = chunk.mid(translatedEnd + 1);
-    return {QString::fromLatin1(chunk.left(keywordEnd)), QString::fromUtf8(compressed ? inflated(text) : text)};
+    return {QString::fromLatin1(chunk.left(keywordEnd)),
+            QString::fromUtf8(compressed ? inflatedText(text, longestText) : text)};
 }
 
 PngText textOf(const QByteArray &type, const QByteArray &chunk)
@@ -86,7 +70,7 @@ PngText textOf(const QByteArray &type, const QByteArray &chunk)
     const qsizetype end = chunk.indexOf('\0');
     if (end < 0)
         return {};
-    const QByteArray text = type == "zTXt" ? inflated(chunk.mid(end + 2)) : chunk.mid(end + 1);
+    const QByteArray text = type == "zTXt" ? inflatedText(chunk.mid(end + 2), longestText) : chunk.mid(end + 1);
     return {QString::fromLatin1(chunk.left(end)), decodeUnmarkedText(text)};
 }
 

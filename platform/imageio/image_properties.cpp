@@ -21,6 +21,16 @@ QString colorModelName(const vips::VImage &image)
     }
 }
 
+/** What pixels without a profile are taken to be. */
+QString unprofiledName(const QString &model)
+{
+    if (model == QLatin1String("Gray"))
+        return QStringLiteral("Gray Gamma 2.2");
+    if (model == QLatin1String("CMYK"))
+        return QStringLiteral("Generic CMYK");
+    return model == QLatin1String("Lab") ? model : QStringLiteral("sRGB IEC61966-2.1");
+}
+
 QByteArray embeddedProfile(const vips::VImage &image)
 {
     if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
@@ -54,6 +64,20 @@ QSizeF ImageSource::pointSize() const
     const auto inPoints = [](int pixels, double dpi) { return dpi > 0 ? pixels * pointsPerInch / dpi : pixels; };
     const QSize pixels = uprightSize();
     return {inPoints(pixels.width(), resolution.horizontal), inPoints(pixels.height(), resolution.vertical)};
+}
+
+QString ImageSource::colorSpaceName() const
+{
+    if (!m_file)
+        return {};
+    try {
+        const vips::VImage image = openImage(m_file->bytes, m_file->content);
+        const QString name = profileName(embeddedProfile(image));
+        return name.isEmpty() ? unprofiledName(colorModelName(image)) : name;
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+        return {};
+    }
 }
 
 QVariantMap ImageSource::properties() const

@@ -44,6 +44,8 @@ public:
     QString typeIdentifier() const;
     /** Images, pages or frames in the file; at least 1. */
     int imageCount() const;
+    /** The name of image 0's colour space: its profile's, or that of the one its kind of pixels has without. Reads the header again. */
+    QString colorSpaceName() const;
     /** Pixels of image 0 as stored, and turned upright by the orientation it states. */
     QSize storedSize() const;
     QSize uprightSize() const;

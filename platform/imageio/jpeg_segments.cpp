@@ -37,11 +37,13 @@ bool isBoundToThisFile(uchar marker, const QByteArray &payload)
 }
 
 /** A block too large for one segment goes on in the next one, which then has no header of its own. */
-void takeExif(JpegSegments &segments, const QByteArray &block)
+void takeExif(JpegSegments &segments, JpegSegments::Range range, const QByteArray &block)
 {
     const bool hasHeader = block.startsWith("II*") || block.startsWith(QByteArray("MM\0*", 4));
-    if (segments.exif.isEmpty() || !hasHeader)
+    if (segments.exifRanges.isEmpty() || !hasHeader) {
         segments.exif += block;
+        segments.exifRanges.append(range);
+    }
     ++segments.exifSegments;
 }
 
@@ -84,7 +86,7 @@ void take(JpegSegments &segments, uchar marker, JpegSegments::Range range, const
     if (isBoundToThisFile(marker, payload))
         segments.bound.append(range);
     if (marker == 0xe1 && payload.startsWith(QByteArray("Exif\0\0", 6)))
-        takeExif(segments, payload.mid(6));
+        takeExif(segments, range, payload.mid(6));
     if (marker == 0xe0 && payload.startsWith("JFIF") && segments.insertAt == range.start)
         segments.insertAt = range.start + range.size;
     if (marker == 0xe0 && segments.jfif.isEmpty() && payload.startsWith("JFIF"))
@@ -109,9 +111,9 @@ JpegSegments findJpegSegments(const QByteArray &bytes)
     segments.insertAt = 2;
     int adobeTransform = -1;
     qsizetype position = 2;
-    while (position + 4 <= bytes.size() && at(position) == markerStart) {
+    while (position + 4 <= bytes.size()) {
         const uchar marker = at(position + 1);
-        if (marker == markerStart) { // a fill byte
+        if (at(position) != markerStart || marker == markerStart) { // some writers leave bytes between the segments
             ++position;
             continue;
         }

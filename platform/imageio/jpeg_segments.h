@@ -28,7 +28,8 @@ struct JpegSegments
     bool valid = false; ///< the header is sound as far as the first scan
     QByteArray exif;    ///< the first EXIF block, TIFF header first, its continuations joined
     int exifSegments = 0;
-    QByteArray jfif; ///< what the JFIF segment holds, its name first
+    QList<Range> exifRanges; ///< the segments that the block was joined from, with their markers
+    QByteArray jfif;         ///< what the JFIF segment holds, its name first
     bool isProgressive = false;
     QSize size; ///< pixels as stored
     JpegFrame frame;

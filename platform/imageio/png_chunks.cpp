@@ -61,7 +61,7 @@ PngParts findPngParts(const QByteArray &bytes)
         if (name == "IDAT" && parts.pixelsAt == 0)
             parts.pixelsAt = at;
         if (name == "eXIf" && parts.exif.isEmpty())
-            parts.exif = bytes.mid(at + headSize, size);
+            parts.exif = data.startsWith(QByteArrayView("Exif\0\0", 6)) ? data.mid(6) : bytes.mid(at + headSize, size);
         if (isCarried(name, data) && parts.carried.size() + size < mostCarried)
             parts.carried += bytes.mid(at, next - at);
         at = next;

@@ -1,0 +1,180 @@
+#include "platform/foundation/temporary_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+/** Access lists and what users and programs attach; not what the system's security module decides for each file. */
+bool isHandedOn(const QByteArray &attribute)
+{
+    return attribute.startsWith("user.") || attribute.startsWith("system.posix_acl_");
+}
+
+void copyAttribute(int source, int target, const QByteArray &name)
+{
+    const ssize_t size = ::fgetxattr(source, name.constData(), nullptr, 0);
+    if (size < 0)
+        return;
+    QByteArray value(size, '\0');
+    const ssize_t read = ::fgetxattr(source, name.constData(), value.data(), size_t(value.size()));
+    if (read == size)
+        ::fsetxattr(target, name.constData(), value.constData(), size_t(size), 0);
+}
+
+void copyAttributes(int source, int target)
+{
+    const ssize_t size = ::flistxattr(source, nullptr, 0);
+    if (size <= 0)
+        return;
+    QByteArray names(size, '\0');
+    const ssize_t read = ::flistxattr(source, names.data(), size_t(names.size()));
+    if (read <= 0)
+        return;
+    for (const QByteArray &name : names.left(read).split('\0'))
+        if (isHandedOn(name))
+            copyAttribute(source, target, name);
+}
+
+} // namespace
+
+TemporaryFile::TemporaryFile(const QString &target)
+    : m_target(QFile::encodeName(target)), m_folder(QFile::encodeName(QFileInfo(target).path()))
+{
+    m_descriptor = ::open(m_folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
+    if (m_descriptor < 0)
+        openNamed();
+}
+
+TemporaryFile::~TemporaryFile()
+{
+    if (isOpen())
+        ::close(m_descriptor);
+    if (!m_name.isEmpty())
+        ::unlink(m_name.constData());
+}
+
+bool TemporaryFile::openNamed()
+{
+    QByteArray name = m_folder + "/.quorlin-XXXXXX";
+    m_descriptor = ::mkostemp(name.data(), O_CLOEXEC);
+    if (isOpen())
+        m_name = name;
+    return isOpen();
+}
+
+bool TemporaryFile::write(const QByteArray &bytes)
+{
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t count = ::write(m_descriptor, bytes.constData() + done, size_t(bytes.size() - done));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return false;
+        done += count;
+    }
+    return true;
+}
+
+bool TemporaryFile::copyFrom(int source, qint64 position, qint64 size)
+{
+    off64_t at = position;
+    const off64_t end = position + size;
+    while (at < end) {
+        const ssize_t count = ::copy_file_range(source, &at, m_descriptor, nullptr, size_t(end - at), 0);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0 && (errno == EXDEV || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP))
+            return copyByHand(source, at, end - at);
+        if (count <= 0) {
+            errno = count == 0 ? EIO : errno; // the source became shorter meanwhile
+            return false;
+        }
+    }
+    return true;
+}
+
+bool TemporaryFile::copyByHand(int source, qint64 position, qint64 size)
+{
+    constexpr qint64 step = 1 << 20;
+    QByteArray buffer(std::min(step, size), Qt::Uninitialized);
+    for (qint64 done = 0; done < size;) {
+        const qint64 wanted = std::min<qint64>(buffer.size(), size - done);
+        const ssize_t count = ::pread(source, buffer.data(), size_t(wanted), position + done);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0) {
+            errno = count == 0 ? EIO : errno;
+            return false;
+        }
+        if (!write(QByteArray::fromRawData(buffer.constData(), count)))
+            return false;
+        done += count;
+    }
+    return true;
+}
+
+bool TemporaryFile::takePermissions()
+{
+    struct stat old = {};
+    if (::lstat(m_target.constData(), &old) == 0 && S_ISREG(old.st_mode))
+        return ::fchmod(m_descriptor, old.st_mode & 07777) == 0;
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return ::fchmod(m_descriptor, 0666 & ~mask) == 0;
+}
+
+bool TemporaryFile::takeAttributesOf(int source)
+{
+    struct stat old = {};
+    struct stat own = {};
+    if (::fstat(source, &old) != 0 || ::fstat(m_descriptor, &own) != 0)
+        return false;
+    const bool isAnothers = old.st_uid != own.st_uid || old.st_gid != own.st_gid;
+    const bool hasOwner = !isAnothers || ::fchown(m_descriptor, old.st_uid, old.st_gid) == 0 ||
+                          (::fchown(m_descriptor, uid_t(-1), old.st_gid) == 0 && old.st_uid == own.st_uid);
+    copyAttributes(source, m_descriptor);
+    // A file that could not keep its owner must not lend another one's rights.
+    const mode_t mode = old.st_mode & (hasOwner ? 07777 : 0777);
+    return ::fchmod(m_descriptor, mode) == 0;
+}
+
+bool TemporaryFile::nameIt()
+{
+    const QByteArray open = "/proc/self/fd/" + QByteArray::number(m_descriptor);
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        const QByteArray name = m_folder + "/.quorlin-" + QByteArray::number(quint32(::random()), 36) +
+                                QByteArray::number(qint64(::getpid()), 36);
+        if (::linkat(AT_FDCWD, open.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0) {
+            m_name = name;
+            return true;
+        }
+        if (errno != EEXIST)
+            return false;
+    }
+    return false;
+}
+
+bool TemporaryFile::takePlace()
+{
+    if (::fdatasync(m_descriptor) != 0 || (m_name.isEmpty() && !nameIt()))
+        return false;
+    const int descriptor = m_descriptor;
+    m_descriptor = -1;
+    if (::close(descriptor) != 0 || ::rename(m_name.constData(), m_target.constData()) != 0)
+        return false;
+    m_name.clear();
+    return true;
+}
+
+} // namespace platform

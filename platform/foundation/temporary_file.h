@@ -1,0 +1,47 @@
+#pragma once
+
+// Inside platform/foundation only.
+
+#include <QByteArray>
+#include <QString>
+
+#include <sys/types.h>
+
+namespace platform {
+
+/**
+ * A new file that has no name until it takes the place of another one, so that a process that ends in between leaves
+ * nothing behind. Where the file system cannot do that it has a hidden name beside its target, and is removed by the
+ * destructor. All functions answer false and leave errno where they fail.
+ */
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(const QString &target);
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+    ~TemporaryFile();
+
+    bool isOpen() const { return m_descriptor >= 0; }
+    bool write(const QByteArray &bytes);
+    /** Copies @p size bytes from @p position of an open file on, within the kernel where it can. */
+    bool copyFrom(int source, qint64 position, qint64 size);
+    /** The permissions of the file that is about to be replaced, or those of any new file. */
+    bool takePermissions();
+    /** Permissions, extended attributes, access lists and, as far as this user may, the owner of an open file. */
+    bool takeAttributesOf(int source);
+    /** Flushes to the disk, closes, and takes the target's place. A symbolic link there is replaced. */
+    bool takePlace();
+
+private:
+    bool copyByHand(int source, qint64 position, qint64 size);
+    bool nameIt();
+    bool openNamed();
+
+    QByteArray m_target;
+    QByteArray m_folder;
+    QByteArray m_name; ///< empty as long as the file has none
+    int m_descriptor = -1;
+};
+
+} // namespace platform

@@ -1,0 +1,33 @@
+#pragma once
+
+// Inside platform/ only.
+
+#include "platform/foundation/atomic_file.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace platform {
+
+enum class OtherPages { Keep, Drop };
+
+/**
+ * What has to change in a TIFF file or EXIF block for it to have @p comment as its EXIF user comment, and nothing else.
+ *
+ * No byte that stays in use is moved, so that every offset still holds, those in maker notes included. The comment is
+ * written where the old one was if there is room, which is then filled with zeros; otherwise it goes to the end, with a
+ * new EXIF directory if the old one has no entry for it, and the old comment's bytes become zeros. A block that is not
+ * sound enough to hold its own directory gets a new first one.
+ *
+ * @param pages  Drop: the directories behind the first are unlinked, and what follows the first picture's bytes is cut
+ *               off where it is certain that they are not needed
+ * @return splices in ascending order; none where @p bytes do not begin like a TIFF file, or would grow beyond 4 GB
+ */
+std::optional<QList<Splice>> userCommentSplices(const QByteArray &bytes, const QString &comment, OtherPages pages);
+
+/** An EXIF block, TIFF header first, with another user comment in it; made anew around what is no TIFF at all. */
+QByteArray exifBlockWithUserComment(const QByteArray &block, const QString &comment);
+
+} // namespace platform

@@ -1,0 +1,68 @@
+#include "platform/imageio/user_comment_writer.h"
+
+#include "platform/imageio/comment_splices.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+QString text(const char *sentence)
+{
+    return QCoreApplication::translate("platform", sentence);
+}
+
+Result<QList<Splice>> splicesFor(QFile &file, Content content, const QString &comment)
+{
+    switch (content) {
+    case Content::Jpeg:
+        return jpegCommentSplices(file, comment);
+    case Content::Tiff:
+        return tiffCommentSplices(file, comment);
+    case Content::Png:
+        return pngCommentSplices(file, comment);
+    case Content::Jpeg2000:
+        return jpeg2000CommentSplices(file, comment);
+    case Content::Webp:
+        return webpCommentSplices(file, comment);
+    case Content::Unknown:
+        return failure(ErrorCode::NotAPicture, text("this is not a picture"));
+    default:
+        return failure(ErrorCode::Unsupported, text("this type of file cannot hold a comment"));
+    }
+}
+
+/** Splices that put back what is there. */
+bool changeNothing(QFile &file, const QList<Splice> &splices)
+{
+    for (const Splice &splice : splices)
+        if (splice.removed != splice.inserted.size() || !file.seek(splice.at) ||
+            file.read(splice.removed) != splice.inserted)
+            return false;
+    return true;
+}
+
+} // namespace
+
+Result<void> writeUserComment(const QString &path, const QString &comment)
+{
+    QFile file(path);
+    const auto failed = [&](ErrorCode code, const QString &reason) {
+        return failure(code, text("Cannot write the comment into %1: %2").arg(path, reason));
+    };
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return failed(ErrorCode::NotFound, file.errorString());
+    const Result<QList<Splice>> splices = splicesFor(file, contentOf(file.read(contentHeadBytes)), comment);
+    if (!splices)
+        return failed(splices.error().code, splices.error().message);
+    if (changeNothing(file, *splices))
+        return {};
+    if (::access(QFile::encodeName(path).constData(), W_OK) != 0) // whoever protected it meant it
+        return failed(ErrorCode::WriteFailed, text("the file is write-protected"));
+    return spliceFile(file, *splices);
+}
+
+} // namespace platform

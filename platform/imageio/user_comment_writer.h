@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/foundation/result.h"
+
+#include <QString>
+
+namespace platform {
+
+/**
+ * Writes @p comment as the EXIF user comment of the first picture into the file at @p path, and changes nothing else.
+ *
+ * Pixels and all other metadata stay as they are, byte for byte; an empty comment is written as such. The text is ASCII
+ * where that can hold it, else UTF-16 in the byte order of the file's EXIF block. Of a TIFF file with several pages the
+ * first one is kept.
+ *
+ * Written are JPEG (an EXIF segment), TIFF (its directories), PNG (a chunk eXIf, also in place of the same block as a text),
+ * JPEG 2000 (a box of its own) and WebP (a chunk EXIF). The file is replaced as spliceFile() does it, and only where
+ * something changes. Reads headers only, but of TIFF files and of JPEG 2000 and WebP the chain of their parts.
+ *
+ * Fails with NotFound or NotAPicture; with Unsupported for every other kind of file; with Unreadable where its structure
+ * is damaged; with TooLarge where the comment does not fit; with WriteFailed. The file is then as it was.
+ */
+Result<void> writeUserComment(const QString &path, const QString &comment);
+
+} // namespace platform
