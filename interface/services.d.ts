@@ -79,13 +79,6 @@ declare module "quorlin" {
         release(): null;
     }
 
-    /** The panel of cToolBox.hSaveDialogFile. */
-    export class SavePanel {
-        private constructor();
-        /** Extensions without the dot; setting them while it is open changes what can be saved. */
-        allowedTypes: texts;
-    }
-
     /** A window that can fill the first screen and go back. Rectangles are in screen coordinates. */
     export class ZtFFullScreen {
         constructor();
@@ -332,6 +325,24 @@ declare module "quorlin" {
         getAppVersion(runningBuild: whole): anything;
     }
 
+    /** Writes one comment into many pictures that the user chooses. */
+    export class cEditMetaData {
+        constructor();
+        /** The paths of the last run; null before the first. */
+        myEMMfiles: anything;
+        /** Not used. */
+        ocTheLogData: anything;
+        myLogCounter: whole;
+        myProgressBarke: Control | null;
+        tfEMDuserCommentField: Control | null;
+        myLogTableViewController: Control | null;
+        theLogTable: Control | null;
+        /** Asks for JPEG and TIFF files. */
+        btEMDchooseFile(sender: sender): null;
+        /** Asks for a folder, whose JPEG and TIFF files are taken at any depth. */
+        btEMDchooseFolder(sender: sender): null;
+    }
+
     /** Lengths in a unit, as pixels of one picture at its own resolution. */
     export class cMConversion {
         constructor();
@@ -402,25 +413,6 @@ declare module "quorlin" {
     /** Collects the input of the actions, stages files, asks for folders; called on the class but for one. */
     export class cToolBox {
         constructor();
-        /** Not used by any operation. */
-        err: anything;
-        /** What the menus of types and qualities said last. */
-        myFileType: text;
-        myCompType: text;
-        /** A list of one text, what the panel allows. */
-        extensions: anything;
-        /** Not used by any operation. */
-        myJPEGcompression: text;
-        /** The save panel that is open, or was last; its allowedTypes. */
-        readonly panel: Control | null;
-        /** A list of texts, once a panel has asked for tags. */
-        tagNames: anything;
-        /** The view under the save panel. */
-        wwFormats: Control | null;
-        pubFileType: Control | null;
-        pubSaveAsFileType: Control | null;
-        pubJPEGcompression: Control | null;
-        pubSaveAsJPEGcompression: Control | null;
         /** Asks for the input of an action: a list of paths, empty if cancelled, null for an unknown action. */
         static hOpenDialogFiles(actionType: text): anything;
         /** The same for "EMM", "EMMDir", "sort", "rescale", "rename", "renameDir", "batchSortImages" and "sortDir". */
@@ -444,22 +436,6 @@ declare module "quorlin" {
         static hGetMacOSVersion(): text;
         /** Makes a PDF with the system's image tool where that is there. */
         static hCallShellScript(input: text, output: text): null;
-        /**
-         * Asks where to save a picture and writes it as pubFileType and pubJPEGcompression say when the panel closes. Answers
-         * [location, type, name of the source without extension] as hConvertFileType does, null if cancelled.
-         */
-        hSaveDialogFile(source: text): anything;
-        /** For the menus while the panel is open: it allows the new type, and only "jpeg" has a quality. */
-        hChooseFileType(sender: sender): null;
-        hSaveAsChooseFileType(sender: sender): null;
-        hChooseCompType(sender: sender): null;
-        static hSaveWriteDialogFile(fileType: text, text: text, name: text): null;
-        /** An action file: its path, "" if cancelled. */
-        hSaveWriteDialogFile2(text: text, name: text): text;
-        /** The same; "" also if it could not be written. */
-        hSaveNSDataWriteDialogFile(data: data, name: text): text;
-        /** The text of an action file; "" if cancelled, null if it is not UTF-8. */
-        hReadNSDataInFile(): text;
     }
 
     /**
@@ -507,6 +483,34 @@ declare module "quorlin" {
         /** On the open connection. */
         SaveImagesToSql(image: data, url: text): null;
         LoadImagesFromSql(url: text): data;
+    }
+
+    /** The metadata of one picture. */
+    export class mMeta {
+        constructor();
+        /** The tree that was built last, a list of nodes; null before the first. */
+        myVarTree: anything;
+        /** Not used. */
+        myString: text;
+        mTree: Control | null;
+        tfExifUserComment: Control | null;
+        tfActiveFilePath: Control | null;
+        mymMetaLogTableViewController: Control | null;
+        themMetaLogTable: Control | null;
+        /** Shows a file's comment and properties in the controls; the tree, or the last one for what is no picture. */
+        hiDoNothing(path: text): anything;
+        /** Nodes {key, val, children}, ascending by the dictionary's keys; children for dictionaries only. */
+        propTree(properties: dictionary): list;
+        /** The user comment; "" where there is none. */
+        hGetExifUc(path: text): text;
+        /** The name of the colour space; null for what is no picture. */
+        hGetColorProfile(path: text): text;
+        /** Width and height of the upright picture in pixels; "0" and "0" for what is no picture. */
+        hGetPixelFormat(path: text): texts;
+        /** "OK" whenever the file is a picture, else "Failed"; what could not be written is as it was. */
+        hSetExifData(path: text, comment: text): text;
+        /** Writes the comment field's text into the file of the path field, shows it anew and logs it. */
+        btApplyExifUserComment(sender: sender): null;
     }
 
     /** The controller of the main window's content. */

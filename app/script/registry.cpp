@@ -13,7 +13,8 @@
 #include "files/cToolBox.h"
 #include "image/ZtImageHandling.h"
 #include "image/cMConversion.h"
-#include "platform/desktop/save_panel.h"
+#include "meta/cEditMetaData.h"
+#include "meta/mMeta.h"
 #include "platform/desktop/stand_ins.h"
 #include "presets/Ztbookmarks.h"
 #include "presets/dbViewController.h"
@@ -37,14 +38,6 @@ ServiceEntry pictures()
     return entry;
 }
 
-/** A field of cToolBox refers to one. */
-ServiceEntry savePanels()
-{
-    ServiceEntry entry = serviceEntry<platform::SavePanel>();
-    entry.isMadeByScripts = false;
-    return entry;
-}
-
 } // namespace
 
 // One class a line, so that two who add one do not meet.
@@ -61,16 +54,17 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<cNSStringHandling>(),
         serviceEntry<cAppUpdater>(),
         serviceEntry<cSheetControl>(),
+        serviceEntry<cEditMetaData>(),
         serviceEntry<cMConversion>(),
         serviceEntry<cNSFileHandling>(),
         serviceEntry<cToolBox>(),
         serviceEntry<dbViewController>(),
+        serviceEntry<mMeta>(),
         serviceEntry<mainViewController>(),
         serviceEntry<mainWindowClass>(),
         serviceEntry<my2ndPhotoView>(),
         serviceEntry<myMainPhotoView>(),
         pictures(),
-        savePanels(),
         standIn<platform::TextField>(),
         standIn<platform::CheckBox>(),
         standIn<platform::ColorWell>(),

@@ -9,7 +9,7 @@ namespace {
 
 const char *const prologue =
     "import { EchoService, EchoPartner, Picture, ZtFFullScreen, ZtImageHandling, cNSFileHandling, cNSStringHandling, "
-    "cToolBox, my2ndPhotoView, myMainPhotoView } from 'quorlin'; "
+    "cEditMetaData, cToolBox, mMeta, my2ndPhotoView, myMainPhotoView } from 'quorlin'; "
     "import { TextField, CheckBox, ColorWell, SegmentedControl, TabView, PopUpButton, TextView, ProgressIndicator, "
     "ArrayController, TableView, TreeController, Window } from 'quorlin/controls'; "
     "import { panels } from 'quorlin/panels'; import { defaults } from 'quorlin/defaults'; "

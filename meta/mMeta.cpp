@@ -1,0 +1,90 @@
+#include "meta/mMeta.h"
+
+#include "meta/edit_log.h"
+#include "meta/main_texts.h"
+#include "meta/property_tree.h"
+
+#include "platform/desktop/controls.h"
+#include "platform/imageio/image_source.h"
+#include "platform/imageio/user_comment_writer.h"
+
+using platform::ImageSource;
+
+namespace {
+
+/** The comment that a picture's properties hold; none where they have no place for one. */
+QVariant commentIn(const QVariantMap &properties)
+{
+    return properties.value(QStringLiteral("{Exif}")).toMap().value(QStringLiteral("UserComment"));
+}
+
+} // namespace
+
+mMeta::mMeta(QObject *parent) : QObject(parent) {}
+
+QVariant mMeta::hiDoNothing(const QString &path)
+{
+    const auto source = ImageSource::open(path);
+    if (!source) {
+        platform::setTextOf(m_commentField, meta::mainText(QStringLiteral("NotSupported")));
+        platform::setContentOf(m_treeController, {});
+        return m_tree;
+    }
+    const QVariantMap properties = source->properties();
+    const QVariant comment = commentIn(properties);
+    platform::setTextOf(m_commentField, comment.isValid() ? comment.toString()
+                                                          : meta::mainText(QStringLiteral("NotSupportedOrAvailable")));
+    propTree(properties);
+    platform::setContentOf(m_treeController, m_tree.toList());
+    return m_tree;
+}
+
+QVariantList mMeta::propTree(const QVariantMap &properties)
+{
+    QVariantList nodes = meta::nodesOf(properties);
+    if (!nodes.isEmpty())
+        m_tree = nodes;
+    return nodes;
+}
+
+QString mMeta::hGetExifUc(const QString &path)
+{
+    const auto source = ImageSource::open(path);
+    const QString comment = source ? source->metadata().userComment() : QString();
+    return comment.isNull() ? QStringLiteral("") : comment;
+}
+
+QString mMeta::hGetColorProfile(const QString &path)
+{
+    const auto source = ImageSource::open(path);
+    return source ? source->colorSpaceName() : QString();
+}
+
+QStringList mMeta::hGetPixelFormat(const QString &path)
+{
+    const auto source = ImageSource::open(path);
+    const QSize size = source ? source->uprightSize() : QSize(0, 0);
+    return {QString::number(size.width()), QString::number(size.height())};
+}
+
+QString mMeta::hSetExifData(const QString &path, const QString &comment)
+{
+    if (!ImageSource::open(path))
+        return QStringLiteral("Failed");
+    // Whether it could be written is not told here; the file is whole and as it was if it could not.
+    const platform::Result<void> written = platform::writeUserComment(path, comment);
+    Q_UNUSED(written)
+    return QStringLiteral("OK");
+}
+
+void mMeta::btApplyExifUserComment(platform::Sender)
+{
+    const QString path = platform::textOf(m_pathField);
+    const QString status = hSetExifData(path, platform::textOf(m_commentField));
+    if (status == QLatin1String("OK"))
+        hiDoNothing(path);
+    else
+        platform::setTextOf(m_commentField, meta::mainText(QStringLiteral("NotSupported")));
+    platform::addRowTo(m_logController, meta::editLogRow(path, status));
+    platform::reloadTable(m_logTable);
+}
