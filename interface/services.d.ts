@@ -778,6 +778,56 @@ declare module "quorlin/defaults" {
     };
 }
 
+/** Renaming, moving, copying and linking so that no file is ever lost or replaced. Paths are absolute. */
+declare module "quorlin/moves" {
+    type kind = "move" | "copy" | "link";
+
+    interface Wish {
+        kind: kind;
+        from: string;
+        to: string;
+        /** Where `to` is taken, it gets a number: "name (2).jpg". */
+        number?: boolean;
+        /** The index of the wish that this one goes along with. */
+        leader?: number;
+    }
+
+    interface Planned {
+        status: "ready" | "same" | "refused";
+        /**
+         * Refused: "empty", "illegal", "long", "gone", "twice", "taken", "case", "inside", "locked" or "leader". Ready: "",
+         * "aside", "case", "numbered" or "disk".
+         */
+        code: string;
+        /** The path that stands in the way, or did. */
+        other: string;
+        /** The path that it will have. */
+        to: string;
+    }
+
+    interface Outcome {
+        status: "OK" | "Failed" | "Skipped";
+        /** "gone", "changed", "taken", "locked", "full", "long", "inside", "damaged", "circle", "leader", "same" or "other". */
+        code: string;
+        message: string;
+        /** Where it is now. */
+        path: string;
+    }
+
+    export const moves: {
+        /** As many answers as wishes, in their order. Touches nothing. */
+        plan(wishes: Wish[]): Planned[];
+        begin(run: { title: string; items: Wish[] }): { run: string } | { problem: string };
+        /** Carries out one more item; null after the last one. */
+        next(run: string): (Outcome & { index: number }) | null;
+        /** Empty, or what went wrong. May come before the last item: every file then has its old or its new name. */
+        end(run: string): string;
+        /** A run whose items are added one by one. */
+        open(title: string): { run: string } | { problem: string };
+        add(run: string, item: { kind: kind | "trash"; from: string; to: string; number?: boolean }): Outcome;
+    };
+}
+
 /** Only for scripts that quorlin-script runs. */
 declare const scriptArguments: readonly string[];
 declare function print(...values: any[]): void;

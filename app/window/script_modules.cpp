@@ -2,6 +2,7 @@
 
 #include "app/script/ScriptEngine.h"
 #include "app/window/file_desk.h"
+#include "app/window/move_desk.h"
 #include "app/window/picture_desk.h"
 #include "app/window/shell.h"
 
@@ -24,6 +25,7 @@ void addObject(script::ScriptEngine &scripts, const QString &module, const QStri
 void addFilesModule(script::ScriptEngine &scripts)
 {
     addObject(scripts, QStringLiteral("quorlin/files"), QStringLiteral("files"), new FileDesk(&scripts));
+    addObject(scripts, QStringLiteral("quorlin/moves"), QStringLiteral("moves"), new MoveDesk(&scripts));
     addObject(scripts, QStringLiteral("quorlin/pictures"), QStringLiteral("pictures"), new PictureDesk(&scripts));
 }
 

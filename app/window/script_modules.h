@@ -9,8 +9,8 @@ namespace window {
 class Shell;
 
 /**
- * Adds the modules "quorlin/files" with the object files, a FileDesk, and "quorlin/pictures" with the object pictures, a
- * PictureDesk. They need no window.
+ * Adds the modules "quorlin/files" with the object files, a FileDesk, "quorlin/moves" with the object moves, a MoveDesk, and
+ * "quorlin/pictures" with the object pictures, a PictureDesk. They need no window.
  */
 void addFilesModule(script::ScriptEngine &scripts);
 

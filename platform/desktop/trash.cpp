@@ -4,6 +4,7 @@
 #include "platform/foundation/paths.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
@@ -111,11 +112,18 @@ std::error_code moveTo(const QString &from, const QString &to, Reach reach)
     return moveItem(from, to) ? std::error_code() : error;
 }
 
+/** Where an item came to lie in a trash, or why it did not. */
+struct Put
+{
+    std::error_code error;
+    QString path;
+};
+
 /** Puts the item into one trash. The info file comes first, so that nothing lies in the trash without it. */
-std::error_code putInto(const QString &trash, const Item &item, Reach reach)
+Put putInto(const QString &trash, const Item &item, Reach reach)
 {
     if (!prepare(trash))
-        return std::make_error_code(std::errc::permission_denied);
+        return {std::make_error_code(std::errc::permission_denied), {}};
     const QString name = lastPathComponent(item.path);
     for (int number = 1;; ++number) {
         const QString candidate = numbered(name, number);
@@ -123,13 +131,13 @@ std::error_code putInto(const QString &trash, const Item &item, Reach reach)
         if (error == std::errc::file_exists)
             continue;
         if (error)
-            return error;
+            return {error, {}};
         error = moveTo(item.path, fileIn(trash, candidate), reach);
         if (!error)
-            return {};
+            return {{}, fileIn(trash, candidate)};
         ::unlink(native(infoIn(trash, candidate)).constData());
         if (error != std::errc::file_exists)
-            return error;
+            return {error, {}};
     }
 }
 
@@ -166,40 +174,91 @@ QString ownTrash(const QString &top)
     return makePrivateFolder(own) && isOwnFolder(own) ? own : QString();
 }
 
-std::error_code putIntoItsFileSystem(const Item &item)
+QString belowTop(const QString &path, const QString &top)
+{
+    return path.mid(top == QStringLiteral("/") ? 1 : top.size() + 1);
+}
+
+Put putIntoItsFileSystem(const Item &item)
 {
     const QString top = topFolderOf(parentFolder(item.path));
-    const QString below = item.path.mid(top == QStringLiteral("/") ? 1 : top.size() + 1);
     for (const auto &find : {sharedTrash, ownTrash})
-        if (const QString trash = find(top);
-            !trash.isEmpty() && !putInto(trash, {item.path, below}, Reach::OneFileSystem))
-            return {};
-    return std::make_error_code(std::errc::permission_denied);
+        if (const QString trash = find(top); !trash.isEmpty())
+            if (Put put = putInto(trash, {item.path, belowTop(item.path, top)}, Reach::OneFileSystem); !put.error)
+                return put;
+    return {std::make_error_code(std::errc::permission_denied), {}};
+}
+
+QString homeTrash()
+{
+    return joinedPath(applicationSupportFolder(), QStringLiteral("Trash"));
+}
+
+QString withoutLinks(const QString &path)
+{
+    const QString folder = parentFolder(path);
+    return joinedPath(QFileInfo(folder.isEmpty() ? QStringLiteral(".") : folder).canonicalFilePath(),
+                      lastPathComponent(path));
+}
+
+/** Adds what one trash says to have come from @p place, the last one first. */
+void addTrashedFrom(const QString &trash, const QString &place, std::vector<TrashedItem> &found)
+{
+    const QByteArray line = "Path=" + QUrl::toPercentEncoding(place, "/");
+    const QString ending = QStringLiteral(".trashinfo");
+    const QDir info(joinedPath(trash, QStringLiteral("info")));
+    for (const QString &name : info.entryList({u'*' + ending}, QDir::Files | QDir::Hidden, QDir::Time)) {
+        QFile file(info.filePath(name));
+        const QString item = fileIn(trash, name.chopped(ending.size()));
+        if (file.open(QIODevice::ReadOnly) && file.readAll().split('\n').contains(line) && isTaken(item))
+            found.push_back({item});
+    }
 }
 
 } // namespace
 
-Result<void> moveToTrash(const QString &path)
+Result<TrashedItem> moveToTrash(const QString &path)
 {
     const QString name = lastPathComponent(path);
     if (name == QStringLiteral("/") || name == QStringLiteral(".") || name == QStringLiteral(".."))
         return failure(ErrorCode::InvalidValue, QStringLiteral("Cannot trash %1").arg(path));
     if (!isTaken(path))
         return failure(ErrorCode::NotFound, QStringLiteral("Cannot trash %1: there is nothing").arg(path));
-    const QString folder = parentFolder(path);
-    const QString place = QFileInfo(folder.isEmpty() ? QStringLiteral(".") : folder).canonicalFilePath();
-    const Item item = {joinedPath(place, name), joinedPath(place, name)};
-    const QString home = joinedPath(applicationSupportFolder(), QStringLiteral("Trash"));
-    std::error_code error = putInto(home, item, Reach::OneFileSystem);
-    if (error == std::errc::cross_device_link && !putIntoItsFileSystem(item))
-        return {};
-    if (error == std::errc::cross_device_link)
-        error = putInto(home, item, Reach::AnyFileSystem);
-    if (error)
+    const QString place = withoutLinks(path);
+    const Item item = {place, place};
+    Put put = putInto(homeTrash(), item, Reach::OneFileSystem);
+    if (put.error == std::errc::cross_device_link)
+        if (Put other = putIntoItsFileSystem(item); !other.error)
+            put = other;
+    if (put.error == std::errc::cross_device_link)
+        put = putInto(homeTrash(), item, Reach::AnyFileSystem);
+    if (put.error)
         return failure(
             ErrorCode::WriteFailed,
-            QStringLiteral("Cannot trash %1: %2").arg(path, QString::fromLocal8Bit(error.message().c_str())));
+            QStringLiteral("Cannot trash %1: %2").arg(path, QString::fromLocal8Bit(put.error.message().c_str())));
+    return TrashedItem{put.path};
+}
+
+std::error_code restoreFromTrash(const TrashedItem &item, const QString &path)
+{
+    const std::error_code error = moveTo(item.path, path, Reach::AnyFileSystem);
+    if (error)
+        return error;
+    const QString trash = parentFolder(parentFolder(item.path));
+    ::unlink(native(infoIn(trash, lastPathComponent(item.path))).constData());
     return {};
+}
+
+std::vector<TrashedItem> trashedFrom(const QString &path)
+{
+    const QString place = withoutLinks(path);
+    const QString top = topFolderOf(parentFolder(place));
+    const QString user = QString::number(::geteuid());
+    std::vector<TrashedItem> found;
+    addTrashedFrom(homeTrash(), place, found);
+    for (const QString &trash : {QStringLiteral(".Trash/") + user, QStringLiteral(".Trash-") + user})
+        addTrashedFrom(joinedPath(top, trash), belowTop(place, top), found);
+    return found;
 }
 
 } // namespace platform

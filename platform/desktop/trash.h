@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/result.h"
+#include "platform/foundation/file_system.h"
 
 namespace platform {
 
@@ -11,9 +11,22 @@ namespace platform {
  * that cannot be used the item is copied into the user's. Folders that the trash needs are made first, for the user
  * alone. A name that is taken there gets a number; a link is moved, not what it leads to.
  *
+ * Answers where the item lies now.
+ *
  * Fails with NotFound, with InvalidValue for "/" and paths that end in "." or "..", and with WriteFailed. On failure the item
  * is still in its place and the trash holds nothing of it.
  */
-Result<void> moveToTrash(const QString &path);
+Result<TrashedItem> moveToTrash(const QString &path);
+
+/**
+ * Brings an item back from the trash to @p path, which nothing may be at, and takes its info file away.
+ *
+ * Answers the system's error, none on success: std::errc::file_exists where @p path is taken. The item is then still in the
+ * trash. The folder of @p path must be there.
+ */
+std::error_code restoreFromTrash(const TrashedItem &item, const QString &path);
+
+/** What lies in the trash and was at @p path, the latest first. Reads every info file of the trash. */
+std::vector<TrashedItem> trashedFrom(const QString &path);
 
 } // namespace platform

@@ -50,18 +50,55 @@ QString besideOf(const QString &item)
     return joinedPath(parentFolder(QDir(item).absolutePath()), QStringLiteral(".quorlin-") + tag);
 }
 
+std::error_code lastError()
+{
+    return std::error_code(errno, std::generic_category());
+}
+
+/** The empty file that is made first keeps the name; whoever comes later finds it taken. */
+std::error_code renameOntoPlaceholder(const fs::path &from, const fs::path &to)
+{
+    const int placeholder = ::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (placeholder < 0)
+        return lastError();
+    ::close(placeholder);
+    if (::rename(from.c_str(), to.c_str()) == 0)
+        return {};
+    const std::error_code error = lastError();
+    ::unlink(to.c_str());
+    return error;
+}
+
+/** A second name for the file refuses a name that is taken; then the first name goes. */
+std::error_code renameByLink(const fs::path &from, const fs::path &to)
+{
+    if (::link(from.c_str(), to.c_str()) != 0) {
+        const bool isForLackOfLinks = errno == EPERM || errno == ENOTSUP || errno == ENOSYS || errno == EMLINK;
+        return isForLackOfLinks ? renameOntoPlaceholder(from, to) : lastError();
+    }
+    if (::unlink(from.c_str()) == 0)
+        return {};
+    const std::error_code error = lastError();
+    ::unlink(to.c_str());
+    return error;
+}
+
+std::error_code renameUnpromised(const fs::path &from, const fs::path &to)
+{
+    std::error_code error;
+    if (fs::exists(fs::symlink_status(to, error)))
+        return std::make_error_code(std::errc::file_exists);
+    if (!fs::is_directory(fs::symlink_status(from, error)))
+        return renameByLink(from, to);
+    // The system itself refuses to put a folder in the place of a file or of a folder that is not empty.
+    return ::rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : lastError();
+}
+
 std::error_code renamePath(const fs::path &from, const fs::path &to)
 {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
         return {};
-    if (errno != EINVAL && errno != ENOSYS)
-        return std::error_code(errno, std::generic_category());
-    // This file system cannot promise it and is asked first.
-    std::error_code error;
-    if (fs::exists(fs::symlink_status(to, error)))
-        return std::make_error_code(std::errc::file_exists);
-    fs::rename(from, to, error);
-    return error;
+    return errno == EINVAL || errno == ENOSYS || errno == ENOTSUP ? renameUnpromised(from, to) : lastError();
 }
 
 /** True where @p item lies in the folder @p folder, or is it. */
@@ -171,6 +208,15 @@ Result<void> makeFolder(const QString &path)
     return {};
 }
 
+void settleFolder(const QString &path)
+{
+    const int descriptor = ::open(native(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::fsync(descriptor);
+    ::close(descriptor);
+}
+
 Result<void> removeItem(const QString &path)
 {
     const QString name = lastPathComponent(path);
@@ -209,6 +255,11 @@ std::error_code renameToNew(const QString &from, const QString &to)
     if (!canBeAPath(from) || !canBeAPath(to))
         return std::make_error_code(std::errc::no_such_file_or_directory);
     return renamePath(native(from), native(to));
+}
+
+std::error_code renameWithoutPromise(const QString &from, const QString &to)
+{
+    return renameUnpromised(native(from), native(to));
 }
 
 Result<void> moveItem(const QString &from, const QString &to)

@@ -28,6 +28,9 @@ bool folderExists(const QString &path);
  */
 Result<void> makeFolder(const QString &path);
 
+/** Waits until the names in a folder are on the disk, as far as that can be known. */
+void settleFolder(const QString &path);
+
 /**
  * Removes what is at @p path: a file, a link (never what it leads to), or a folder with all that is in it.
  *
@@ -53,6 +56,13 @@ Result<void> copyItem(const QString &from, const QString &to);
  * std::errc::cross_device_link where the two are on different file systems. Nothing has changed then.
  */
 std::error_code renameToNew(const QString &from, const QString &to);
+
+/**
+ * What renameToNew() does on a file system that cannot promise to replace nothing: a file gets a second name, and then loses
+ * the first; where there are no second names, an empty file keeps the place. No file that others make in between is
+ * replaced, at most an empty folder.
+ */
+std::error_code renameWithoutPromise(const QString &from, const QString &to);
 
 /**
  * Moves the file, link or folder at @p from to the new item @p to, to another file system too.

@@ -1,0 +1,180 @@
+#include "app/window/move_desk.h"
+
+#include "files/move_plan.h"
+
+#include "platform/foundation/folders.h"
+#include "platform/foundation/paths.h"
+
+namespace window {
+
+namespace {
+
+using files::Deed;
+using files::MoveItem;
+using files::MoveKind;
+using files::MoveResult;
+using files::MoveWish;
+using files::PlannedMove;
+using files::PlanStatus;
+using files::Stand;
+
+const QVariant nothing = QVariant::fromValue(nullptr);
+
+QString journalFolder()
+{
+    return platform::joinedPath(platform::applicationSupportFolder(), QStringLiteral("quorlin/moves"));
+}
+
+QString text(const QVariantMap &map, const char *key)
+{
+    return map.value(QString::fromLatin1(key)).toString();
+}
+
+int number(const QVariantMap &map, const char *key, int otherwise)
+{
+    const QVariant value = map.value(QString::fromLatin1(key));
+    return value.isValid() ? value.toInt() : otherwise;
+}
+
+MoveWish wishFrom(const QVariantMap &map)
+{
+    MoveWish wish;
+    const QString kind = text(map, "kind");
+    wish.kind = kind == QStringLiteral("copy")   ? MoveKind::Copy
+                : kind == QStringLiteral("link") ? MoveKind::Link
+                                                 : MoveKind::Move;
+    wish.from = text(map, "from");
+    wish.to = text(map, "to");
+    wish.isNumbered = map.value(QStringLiteral("number")).toBool();
+    wish.leader = number(map, "leader", -1);
+    return wish;
+}
+
+MoveItem itemFrom(const QVariantMap &map)
+{
+    MoveItem item;
+    const QString kind = text(map, "kind");
+    item.deed = kind == QStringLiteral("copy")    ? Deed::Copy
+                : kind == QStringLiteral("link")  ? Deed::Link
+                : kind == QStringLiteral("trash") ? Deed::Trash
+                                                  : Deed::Move;
+    item.from = text(map, "from");
+    item.to = text(map, "to");
+    item.leader = number(map, "leader", -1);
+    return item;
+}
+
+QVariantMap mapOf(const PlannedMove &planned)
+{
+    const QString status = planned.status == PlanStatus::Ready  ? QStringLiteral("ready")
+                           : planned.status == PlanStatus::Same ? QStringLiteral("same")
+                                                                : QStringLiteral("refused");
+    return {{QStringLiteral("status"), status},
+            {QStringLiteral("code"), planned.code},
+            {QStringLiteral("other"), planned.other},
+            {QStringLiteral("to"), planned.to}};
+}
+
+QVariantMap mapOf(const MoveResult &result)
+{
+    const QString status = result.stand == Stand::Done      ? QStringLiteral("OK")
+                           : result.stand == Stand::Skipped ? QStringLiteral("Skipped")
+                                                            : QStringLiteral("Failed");
+    return {{QStringLiteral("index"), result.index},
+            {QStringLiteral("status"), status},
+            {QStringLiteral("code"), result.code},
+            {QStringLiteral("message"), result.message},
+            {QStringLiteral("path"), result.path}};
+}
+
+QVariantMap failed(const QString &code, const QString &message, const QString &path)
+{
+    return mapOf(MoveResult{-1, Stand::Failed, code, message, path});
+}
+
+} // namespace
+
+MoveDesk::MoveDesk(QObject *parent) : QObject(parent), m_shelf(journalFolder()) {}
+
+MoveDesk::~MoveDesk() = default;
+
+QVariantList MoveDesk::plan(const QVariantList &wishes) const
+{
+    std::vector<MoveWish> wanted;
+    wanted.reserve(size_t(wishes.size()));
+    for (const QVariant &wish : wishes)
+        wanted.push_back(wishFrom(wish.toMap()));
+    QVariantList answers;
+    answers.reserve(wishes.size());
+    for (const PlannedMove &planned : files::planMoves(wanted, m_disk))
+        answers.append(mapOf(planned));
+    return answers;
+}
+
+QVariantMap MoveDesk::started(std::unique_ptr<files::MoveRun> run, const QString &problem)
+{
+    if (!run)
+        return {{QStringLiteral("problem"), problem}};
+    const QString id = run->id();
+    m_runs.insert_or_assign(id, std::move(run));
+    return {{QStringLiteral("run"), id}};
+}
+
+files::MoveRun *MoveDesk::found(const QString &run) const
+{
+    const auto at = m_runs.find(run);
+    return at == m_runs.end() ? nullptr : at->second.get();
+}
+
+QVariantMap MoveDesk::begin(const QVariantMap &run)
+{
+    files::MoveOrderForm form;
+    form.title = text(run, "title");
+    for (const QVariant &item : run.value(QStringLiteral("items")).toList())
+        form.items.push_back(itemFrom(item.toMap()));
+    QString problem;
+    return started(files::MoveRun::begin(m_disk, m_shelf, form, &problem), problem);
+}
+
+QVariant MoveDesk::next(const QString &run)
+{
+    files::MoveRun *active = found(run);
+    const auto result = active ? active->next() : std::nullopt;
+    return result ? QVariant(mapOf(*result)) : nothing;
+}
+
+QString MoveDesk::end(const QString &run)
+{
+    files::MoveRun *active = found(run);
+    if (!active)
+        return tr("This run is not open");
+    const QString problem = active->end();
+    m_runs.erase(run);
+    return problem;
+}
+
+QVariantMap MoveDesk::open(const QString &title)
+{
+    QString problem;
+    return started(files::MoveRun::open(m_disk, m_shelf, title, &problem), problem);
+}
+
+QVariantMap MoveDesk::add(const QString &run, const QVariantMap &item)
+{
+    files::MoveRun *active = found(run);
+    MoveItem added = itemFrom(item);
+    if (!active)
+        return failed(QStringLiteral("other"), tr("This run is not open"), added.from);
+    if (added.deed != Deed::Trash) {
+        const PlannedMove planned = files::planMoves({wishFrom(item)}, m_disk).front();
+        if (planned.status == PlanStatus::Refused)
+            return failed(
+                planned.code,
+                files::MoveDeeds::sentence(planned.code, planned.other.isEmpty() ? added.from : planned.other),
+                added.from);
+        added.to = planned.to;
+    }
+    return mapOf(active->add(added));
+}
+
+} // namespace window

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "files/journal_shelf.h"
+#include "files/move_run.h"
+
+#include "platform/desktop/disk_file_system.h"
+
+#include <QObject>
+#include <QVariant>
+
+#include <map>
+#include <memory>
+
+namespace window {
+
+/**
+ * What the scripts of a job do to rename, move, copy, link and trash files so that none is ever lost: plans, runs with a
+ * journal, undo, and the end of what was interrupted.
+ *
+ * Paths are absolute. Nothing here needs a window. Failures are sentences beside a code; an empty text means success. The journals
+ * are in the folder "moves" of the program's data folder; the last 200 runs can be told and taken back.
+ */
+class MoveDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MoveDesk(QObject *parent = nullptr);
+    ~MoveDesk() override;
+
+    /**
+     * Says what would become of each wish; touches nothing.
+     *
+     * @param wishes  [{kind: "move" (default), "copy" or "link", from, to, number: false, leader: -1}]
+     * @return [{status: "ready", "same" or "refused", code, other, to}], see files::planMoves()
+     */
+    Q_INVOKABLE QVariantList plan(const QVariantList &wishes) const;
+
+    /** @param run  {title, items: [{kind, from, to, leader: -1}]}; answers {run: id} or {problem} */
+    Q_INVOKABLE QVariantMap begin(const QVariantMap &run);
+    /** {index, status: "OK", "Failed" or "Skipped", code, message, path}; null after the last item and for an unknown run. */
+    Q_INVOKABLE QVariant next(const QString &run);
+    /** Ends a run, after its last item or before. */
+    Q_INVOKABLE QString end(const QString &run);
+
+    /** Begins a run whose items are added one by one; {run: id} or {problem}. */
+    Q_INVOKABLE QVariantMap open(const QString &title);
+    /** @param item  {kind: "move", "copy", "link" or "trash", from, to, number: false}; answers {status, code, message, path} */
+    Q_INVOKABLE QVariantMap add(const QString &run, const QVariantMap &item);
+
+private:
+    QVariantMap started(std::unique_ptr<files::MoveRun> run, const QString &problem);
+    files::MoveRun *found(const QString &run) const;
+
+    mutable platform::DiskFileSystem m_disk;
+    files::DiskJournalShelf m_shelf;
+    std::map<QString, std::unique_ptr<files::MoveRun>> m_runs;
+};
+
+} // namespace window

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "files/move_record.h"
+
+namespace files {
+
+/** How the deed on one item went. */
+struct DeedOutcome
+{
+    QString code;    ///< empty: done; else "gone", "changed", "taken", "locked", "full", "long", "inside" or "other"
+    QString message; ///< why not, a sentence
+    QString path;    ///< where the item is since then; empty if it was removed
+    std::optional<platform::ItemState> is = std::nullopt;
+};
+
+/** What must be in the journal before a deed goes on. Answers a sentence where it could not be written. */
+class DeedLog
+{
+public:
+    DeedLog() = default;
+    DeedLog(const DeedLog &) = delete;
+    DeedLog &operator=(const DeedLog &) = delete;
+    virtual ~DeedLog() = default;
+    /** A copy is whole, under its temporary name. */
+    virtual QString noteCopy(int index, const platform::ItemState &state) = 0;
+    /** A folder is about to be made. */
+    virtual QString noteFolder(const QString &folder) = 0;
+};
+
+/**
+ * Carries out the deeds of one run, one at a time.
+ *
+ * Nothing is replaced. A deed that fails leaves the item where it was. Temporary names begin with ".quorlin-aside-" and are
+ * made of the run and the item's number, so that they can be found again after an interruption.
+ */
+class MoveDeeds
+{
+public:
+    MoveDeeds(platform::FileSystem &disk, QString run, DeedLog &log) : m_disk(disk), m_run(std::move(run)), m_log(log)
+    {
+    }
+
+    /** @param source  where the item is: its old place, or its temporary one */
+    DeedOutcome carryOut(int index, const MoveItem &item, const QString &source);
+    /** Gives an item its temporary name. */
+    DeedOutcome stepAside(int index, const MoveItem &item);
+    /** Moves without looking what is moved. */
+    DeedOutcome move(int index, const QString &from, const QString &to);
+
+    /** The hidden name in the item's own folder. */
+    QString asidePath(int index, const MoveItem &item) const;
+    /** The hidden name of an unfinished copy beside its target. */
+    QString partPath(int index, const QString &to) const;
+    /** The same as a sentence. */
+    static QString sentence(const QString &code, const QString &path);
+
+private:
+    DeedOutcome moved(int index, const MoveItem &item, const QString &source);
+    DeedOutcome movedToOtherDisk(int index, const QString &from, const QString &to);
+    DeedOutcome copied(int index, const QString &from, const QString &to);
+    DeedOutcome linked(const MoveItem &item);
+    DeedOutcome trashed(const QString &path);
+    DeedOutcome copyRemoved(int index, const MoveItem &item);
+    DeedOutcome linkRemoved(const MoveItem &item);
+    DeedOutcome restored(const MoveItem &item);
+    DeedOutcome renamedInCase(int index, const QString &from, const QString &to);
+    std::error_code removeWhole(int index, const QString &path);
+    bool isSameUnderOtherCase(const QString &from, const QString &to) const;
+    DeedOutcome madeFolders(const QString &folder);
+    DeedOutcome done(const QString &path) const;
+
+    platform::FileSystem &m_disk;
+    QString m_run;
+    DeedLog &m_log;
+};
+
+/** The failure for a system's error that hit the item at @p path on its way to @p to. */
+DeedOutcome failureFor(const std::error_code &error, const QString &path, const QString &to);
+
+} // namespace files

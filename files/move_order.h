@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace files {
+
+/** What one item of a run does to places, as paths without links. A path is empty where the item has no such place. */
+struct Displacement
+{
+    QString leaves; ///< the place that is free afterwards
+    QString takes;  ///< the place that must be free before
+    QString reads;  ///< the place that must still be as it was
+    bool isFolder = false;
+};
+
+/** One step of a run: an item steps aside in its own folder, or gets its place. */
+struct MoveStep
+{
+    int item = -1;
+    bool isAside = false;
+};
+
+struct MoveOrder
+{
+    std::vector<MoveStep> steps;
+    /** Items that no order allows, such as two folders that are each to go into the other. They have no step. */
+    std::vector<int> impossible;
+};
+
+/**
+ * The order in which a run can be carried out so that every place is free when its turn comes: who stands in another's way
+ * goes first, and what is in a folder, or goes into it, before the folder itself. Only one item of a circle has to step
+ * aside. Items that wait for nobody keep their order.
+ *
+ * Places that differ only by case or accents count as one. The steps between the one that goes aside and the one that brings it
+ * back belong together.
+ */
+MoveOrder orderMoves(const std::vector<Displacement> &items);
+
+} // namespace files

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/foundation/file_system.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace files {
+
+enum class MoveKind { Move, Copy, Link };
+
+/** What somebody wants to be done with one item. Paths are absolute, and as they are before the run. */
+struct MoveWish
+{
+    MoveKind kind = MoveKind::Move;
+    QString from;
+    QString to;
+    bool isNumbered = false; ///< where @p to is taken, it gets a number instead of being refused
+    int leader = -1;         ///< the wish that this one goes along with: refused if that is, numbered as that is
+};
+
+enum class PlanStatus { Ready, Same, Refused };
+
+/** What will become of a wish. */
+struct PlannedMove
+{
+    PlanStatus status = PlanStatus::Ready;
+    /**
+     * Refused: "empty", "illegal", "long", "gone", "twice", "taken", "case", "inside", "locked", "leader".
+     * Ready: "", "aside", "case", "numbered", "disk".
+     */
+    QString code;
+    QString other; ///< the path that stands in the way, or did
+    QString to;    ///< the path that the item will have
+};
+
+/**
+ * Says for every wish what will become of it; touches nothing. As many answers as wishes, in their order.
+ *
+ * Of two wishes for one place the first gets it. A place that is left in the same plan is free; names that differ only by case
+ * or by how an accent is written are one name. Folders that are missing are to be made. When a wish is refused, so are those
+ * that wanted its place. Lists every folder once, ten thousand wishes take some hundredths of a second.
+ */
+std::vector<PlannedMove> planMoves(const std::vector<MoveWish> &wishes, const platform::FileSystem &disk);
+
+} // namespace files

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "files/move_order.h"
+
+#include "platform/foundation/file_system.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace files {
+
+/** What is done with one item of a run. The last three take back what the others did. */
+enum class Deed {
+    Move,
+    Copy,
+    Link,       ///< `from` is what the link says
+    Trash,      ///< `to` is empty
+    RemoveCopy, ///< `from` is the copy, `to` its original
+    RemoveLink, ///< `from` is the link, `to` what it must say
+    Restore,    ///< `from` is in the trash
+};
+
+enum class Stand {
+    Waiting,   ///< has its old name
+    Aside,     ///< has a temporary name
+    Done,      ///< has its new name
+    Failed,    ///< has its old name, and keeps it
+    Skipped,   ///< nothing was to be done
+    TakenBack, ///< was done, and has its old name again
+};
+
+struct MoveItem
+{
+    Deed deed = Deed::Move;
+    QString from;
+    QString to;
+    int of = -1;     ///< when a run is taken back: the item of that run
+    int leader = -1; ///< the item that this one goes along with
+    std::optional<platform::ItemState> was =
+        std::nullopt; ///< what was at `from` when the run began; for a link, nothing
+};
+
+/** One item of a run as its journal tells it. */
+struct MoveRecord
+{
+    MoveItem item;
+    Stand stand = Stand::Waiting;
+    QString code;    ///< why it failed
+    QString message; ///< the same as a sentence
+    QString path;    ///< where it is since it is done; in the trash, if it was trashed; empty if it is removed
+    std::optional<platform::ItemState> is = std::nullopt;     ///< what is there since then
+    std::optional<platform::ItemState> copied = std::nullopt; ///< the copy that was about to get its name
+};
+
+/** A run as its journal tells it. */
+struct RunRecord
+{
+    QString id;
+    QString title;
+    QString date;          ///< ISO, with the time zone
+    QString undoes;        ///< the run that this one takes back
+    bool isByHand = false; ///< items are added one by one
+    int count = 0;         ///< items that the journal must tell before the first of them moves
+    std::vector<MoveRecord> items;
+    std::vector<MoveStep> steps;
+    QStringList made; ///< folders that the run made
+    QString end;      ///< "done", "cancelled" or "recovered"; empty while it is open
+    int doneAtEnd = 0;
+    bool isWhole = true; ///< false: the last line was cut short
+};
+
+bool isSameItem(const platform::ItemState &one, const platform::ItemState &other);
+/** The same item with, as far as dates and sizes tell, the same content. A folder may have changed inside. */
+bool isUnchanged(const platform::ItemState &one, const platform::ItemState &other);
+
+/** The head of a journal: the run, its items and its steps. */
+QByteArray headLines(const RunRecord &run);
+QByteArray itemLine(int index, const MoveItem &item);
+QByteArray doneLine(int index, const MoveRecord &record);
+QByteArray failedLine(int index, const MoveRecord &record);
+QByteArray takenBackLine(int index);
+QByteArray copiedLine(int index, const platform::ItemState &state);
+QByteArray makingLine(const QString &folder);
+QByteArray endLine(const QString &end, int count, int done);
+
+/** A journal read again. Lines that are not understood, such as one that was cut short, are passed over. */
+RunRecord readRecord(const QByteArray &journal);
+
+} // namespace files

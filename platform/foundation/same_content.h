@@ -1,0 +1,19 @@
+#pragma once
+
+// Private to the platform.
+
+#include <filesystem>
+#include <system_error>
+
+namespace platform {
+
+/**
+ * Whether two files have the same bytes, two links say the same, or two folders have items of the same names with the same
+ * content. False for what cannot be read, and for two items of different kinds. Costs the reading of both.
+ */
+bool haveSameContent(const std::filesystem::path &one, const std::filesystem::path &other);
+
+/** Waits until a file, or a folder with all in it, is on the disk. */
+std::error_code settleTree(const std::filesystem::path &item);
+
+} // namespace platform
