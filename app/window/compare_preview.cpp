@@ -19,8 +19,9 @@ constexpr int nextPictureMs = 15;
 } // namespace
 
 ComparePreview::ComparePreview(QWidget *parent)
-    : QWidget(parent), m_mainHost(std::make_unique<PreviewHost>(*this)),
-      m_cropHost(std::make_unique<PreviewHost>(*this)), m_cropFrame(new CropFrameEditor(this))
+    : QWidget(parent), m_ahead([this](QSize pixels) { return decodedSize(pixels); }, this),
+      m_mainHost(std::make_unique<PreviewHost>(*this)), m_cropHost(std::make_unique<PreviewHost>(*this)),
+      m_cropFrame(new CropFrameEditor(this))
 {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -57,11 +58,13 @@ void ComparePreview::showPicture(const QString &path)
     if (path == m_path)
         return;
     m_path = path;
-    reload();
+    m_isStale = true;
+    m_settled.start(m_ahead.has(m_path) ? 0 : nextPictureMs);
 }
 
 void ComparePreview::reload()
 {
+    m_ahead.forget(m_path);
     m_isStale = true;
     m_settled.start(nextPictureMs);
 }
@@ -79,6 +82,12 @@ void ComparePreview::showResult(const QVariantMap &result)
     m_wanted = {*deeds, size, text("message"), text("type"), text("quality")};
     m_estimate.forget();
     m_asked.start(0);
+}
+
+void ComparePreview::setProblem(const QString &problem)
+{
+    m_givenProblem = problem;
+    update();
 }
 
 void ComparePreview::setTitles(const QString &original, const QString &result)
@@ -160,10 +169,16 @@ void ComparePreview::openPicture()
 {
     m_isStale = false;
     m_problem.clear();
-    const platform::Picture opened = m_path.isEmpty() ? platform::Picture() : platform::Picture::opened(m_path);
+    const platform::Picture opened = m_path.isEmpty() ? platform::Picture() : m_ahead.picture(m_path);
     m_picture = opened.withSize(QSizeF(opened.pixelSize()));
     if (m_picture.isNull() && !m_path.isEmpty())
         m_problem = tr("Not a readable picture");
+}
+
+// What is decoded for the original: no more than can be seen.
+QSize ComparePreview::decodedSize(QSize pixels) const
+{
+    return wholePixels(pictureRect(pixels, originalArea()).size() * devicePixelRatioF()).boundedTo(pixels);
 }
 
 void ComparePreview::load()
@@ -172,9 +187,7 @@ void ComparePreview::load()
         openPicture();
     m_base = {};
     if (!m_picture.isNull()) {
-        const QSize wanted =
-            wholePixels(pictureRect(m_picture.pixelSize(), originalArea()).size() * devicePixelRatioF());
-        m_base = m_picture.scaledTo(wanted.boundedTo(m_picture.pixelSize())).value_or(platform::Bitmap());
+        m_base = m_picture.scaledTo(decodedSize(m_picture.pixelSize())).value_or(platform::Bitmap());
         if (m_base.isNull())
             m_problem = tr("This picture cannot be shown");
     }
@@ -252,7 +265,7 @@ void ComparePreview::paintOriginal(QPainter &painter) const
     painter.setClipRect(area);
     painter.fillRect(area, Theme::color(QStringLiteral("surround")));
     if (m_base.isNull()) {
-        paintMessage(painter, area, m_problem);
+        paintMessage(painter, area, m_givenProblem.isEmpty() ? m_problem : m_givenProblem);
     } else {
         const QRectF place = m_fill ? QRectF(area) : pictureRect(m_picture.pixelSize(), area);
         paintShadow(painter, place);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/window/crop_frame_editor.h"
+#include "app/window/picture_ahead.h"
 #include "app/window/preview_deeds.h"
 #include "app/window/result_estimate.h"
 #include "platform/graphics/picture.h"
@@ -30,6 +31,8 @@ class ComparePreview : public QWidget
     Q_OBJECT
     Q_PROPERTY(bool fill READ fill WRITE setFill)
     Q_PROPERTY(bool showsResult READ showsResult WRITE setShowsResult)
+    /** What is shown, for now, in the place of a picture that is not there; empty for the usual sentence. */
+    Q_PROPERTY(QString problem READ problem WRITE setProblem)
     /** The size that the file of the result will have, see resultEstimated(); -1 while it is not known. */
     Q_PROPERTY(double estimatedBytes READ estimatedBytes)
 
@@ -42,10 +45,15 @@ public:
     bool showsResult() const { return m_showsResult; }
     void setShowsResult(bool shows);
 
+    QString problem() const { return m_givenProblem; }
+    void setProblem(const QString &problem);
+
     double estimatedBytes() const { return m_estimate.bytes(); }
 
     /** Shows the picture at @p path, or nothing where it is empty. */
     Q_INVOKABLE void showPicture(const QString &path);
+    /** Pictures that will probably be shown next, the likeliest first: they are decoded beforehand. */
+    Q_INVOKABLE void prepare(const QStringList &paths) { m_ahead.want(paths); }
     /** Reads the file again, because it was written. */
     Q_INVOKABLE void reload();
     /**
@@ -123,16 +131,19 @@ private:
     QRect resultArea() const;
     QSizeF shownSize(QSize pixels, const QRect &area) const;
     QRectF pictureRect(QSize pixels, const QRect &area) const;
+    QSize decodedSize(QSize pixels) const;
     void paintOriginal(QPainter &painter) const;
     void paintResult(QPainter &painter) const;
     void paintMessage(QPainter &painter, const QRect &area, const QString &message) const;
     const QPixmap &scaledResult(QSize devicePixels) const;
 
     QString m_path;
+    PictureAhead m_ahead;
     platform::Picture m_picture; ///< one pixel a point
     platform::Bitmap m_base;     ///< the picture at its size on the screen
     bool m_isStale = false;      ///< the file is to be opened again
     QString m_problem;           ///< in words, where the picture cannot be shown
+    QString m_givenProblem;      ///< what stands there instead
     std::unique_ptr<PreviewHost> m_mainHost;
     std::unique_ptr<PreviewHost> m_cropHost;
     myMainPhotoView m_mainView;

@@ -11,6 +11,7 @@
 #include "app/window/run_list.h"
 #include "app/window/segmented_control.h"
 #include "app/window/side_bar.h"
+#include "app/window/slot_list.h"
 
 #include "platform/desktop/user_defaults.h"
 
@@ -63,6 +64,8 @@ public:
             widget = new SegmentedControl(parent);
         else if (className == QLatin1String("SideBar"))
             widget = new SideBar(parent);
+        else if (className == QLatin1String("SlotList"))
+            widget = new SlotList(parent);
         else
             return QUiLoader::createWidget(className, parent, name);
         widget->setObjectName(name);

@@ -23,6 +23,10 @@ const OUTPUT = {
     StrField21: ["output.simulation", "flag"],
 };
 
+/** Where the folders of a preset that is nothing but folders lie: in all columns, one each. */
+export const FIRST_SLOT = 3;
+export const SLOTS = 59;
+
 function form(process, mode, own, modes) {
     return { process: process, mode: mode, modes: modes || [], columns: Object.assign({}, OUTPUT, own) };
 }
@@ -54,4 +58,6 @@ export const FORMS = {
         StrField11: ["color", "color"], StrField12: ["pattern", "text"], StrField13: ["frame", "text", ["none", "white", "band"]],
         StrField14: ["bandColor", "color"], StrField15: ["bandWidth", "number"],
     }, ["color", "pattern"]),
+    // All other columns are folders, so that the mark stands in Action, between the sub-mode of the process and the mode.
+    hand: { process: "Sorting", subMode: "ByHand", mode: "mode", modes: ["move", "copy", "link"], slots: "slots", columns: {} },
 };

@@ -1,7 +1,7 @@
 // Presets: an action's settings as the 62 texts of a row of the presets database, and back; names; exported files. Pure but for
 // translation; no service is used. docs/presets.md has the layout.
 
-import { FORMS, VERSION } from "./preset-forms.js";
+import { FIRST_SLOT, FORMS, SLOTS, VERSION } from "./preset-forms.js";
 import { fill } from "./wording.js";
 
 export const FIELDS = 62;
@@ -89,6 +89,23 @@ function copyOf(settings) {
     return JSON.parse(JSON.stringify(settings));
 }
 
+// A folder and what it is called, if that is not its own name.
+function slotText(slot) {
+    return encoded(slot.path + (slot.label === "" ? "" : "\n" + slot.label));
+}
+
+function slotIn(text) {
+    const parts = (decoded(text) || "").split("\n");
+    return parts[0].startsWith("/") && parts.length <= 2 ? { path: parts[0], label: parts[1] || "" } : null;
+}
+
+function writeSlots(row, slots) {
+    if (!Array.isArray(slots) || slots.length > SLOTS) {
+        throw new Error("A preset has up to " + SLOTS + " folders");
+    }
+    slots.forEach((slot, i) => { row[FIRST_SLOT + i] = slotText(slot); });
+}
+
 /**
  * The 62 texts for a preset. `action` is the name of the action's step. Settings that the form does not know, or that are of
  * another kind than it says, are an error of the program.
@@ -98,8 +115,14 @@ export function rowOf(action, name, settings) {
     const row = Array(FIELDS).fill("");
     row[0] = name;
     row[1] = form.process;
-    row[2] = form.mode === "" ? "" : encoded(String(settings[form.mode]));
-    row[3] = MARK + VERSION;
+    const mode = form.mode === "" ? "" : encoded(String(settings[form.mode]));
+    if (form.slots === undefined) {
+        row[2] = mode;
+        row[3] = MARK + VERSION;
+    } else {
+        row[2] = form.subMode + " " + MARK + VERSION + " " + mode;
+        writeSlots(row, settings[form.slots]);
+    }
     for (const column of Object.keys(form.columns)) {
         const [path, kind] = form.columns[column];
         const text = WRITERS[kind](valueAt(settings, path));
@@ -114,6 +137,25 @@ export function rowOf(action, name, settings) {
 function versionOf(mark) {
     const found = new RegExp("^" + MARK + "([1-9][0-9]{0,5})$").exec(mark);
     return found === null ? 0 : Number(found[1]);
+}
+
+// The mark and the mode of a row: {version, mode}.
+function headOf(row, form) {
+    if (form.slots === undefined) {
+        return { version: versionOf(row[3]), mode: row[2] };
+    }
+    const found = new RegExp("^" + form.subMode + " (" + MARK + "[0-9]+) (.*)$").exec(row[2]);
+    return found === null ? { version: 0, mode: "" } : { version: versionOf(found[1]), mode: found[2] };
+}
+
+// The settings of a row of folders, or null if one of its values is none.
+function slotSettings(row, form, standard) {
+    const settings = copyOf(standard);
+    const texts = row.slice(FIRST_SLOT).filter((text) => text !== "");
+    const mode = headOf(row, form).mode;
+    settings[form.mode] = mode;
+    settings[form.slots] = texts.map(slotIn);
+    return form.modes.indexOf(mode) < 0 || settings[form.slots].indexOf(null) >= 0 ? null : settings;
 }
 
 // The settings of a row, or null if one of its values is none.
@@ -148,14 +190,15 @@ export function presetOf(row, standard) {
     const fields = typeof row === "string" ? row.split("|") : row;
     const action = Object.keys(FORMS).find((name) => FORMS[name].process === fields[1]) || "";
     const preset = { name: fields[0], process: fields[1] || "", action: action, state: "unknown", settings: null, note: "" };
-    const version = fields.length === FIELDS ? versionOf(fields[3]) : 0;
+    const version = fields.length === FIELDS && action !== "" ? headOf(fields, FORMS[action]).version : 0;
     if (action === "" || version === 0) {
         preset.note = qsTr("This preset was not made by Quorlin. It is left as it is.");
     } else if (version > VERSION) {
         preset.state = "newer";
         preset.note = qsTr("This preset was made by a newer Quorlin. It is left as it is.");
     } else {
-        preset.settings = settingsIn(fields, FORMS[action], standard[action]);
+        const form = FORMS[action];
+        preset.settings = form.slots === undefined ? settingsIn(fields, form, standard[action]) : slotSettings(fields, form, standard[action]);
         preset.state = preset.settings === null ? "damaged" : "ready";
         preset.note = preset.settings === null ? qsTr("This preset is damaged and cannot be used.") : "";
     }
