@@ -1,19 +1,50 @@
 #pragma once
 
+#include "platform/desktop/save_panel.h"
+#include "platform/foundation/sender.h"
+
 #include <QObject>
+#include <QPointer>
 #include <QUrl>
 #include <QVariant>
 
+#include <memory>
+
 /**
- * Collects the input of the actions, stages files, and asks for folders. All operations but hChooseDirectory() are called on
- * the class; nothing is kept between calls, and nothing raises.
+ * Collects the input of the actions, stages files, asks for folders, and saves pictures, texts and data where the user says.
+ *
+ * The operations that take no part in saving are called on the class, but for hChooseDirectory(), and keep nothing between
+ * calls. Saving a picture takes an object with menus on its outlets; what was chosen in them stays in its fields. Nothing
+ * raises. Main thread only; panels are modal.
  */
 class cToolBox : public QObject
 {
     Q_OBJECT
-    Q_CLASSINFO("ClassOperations",
-                "hOpenDialogFiles hOpenDialogFilesOC hStoreFiles hStoreFiles2 hStoreTempFile hGetTempDir "
-                "hGetHomeDir hGetFilesInDir hShowURL hNSStrToUrl hGetMacOSVersion hCallShellScript")
+    Q_CLASSINFO(
+        "ClassOperations",
+        "hOpenDialogFiles hOpenDialogFilesOC hStoreFiles hStoreFiles2 hStoreTempFile hGetTempDir "
+        "hGetHomeDir hGetFilesInDir hShowURL hNSStrToUrl hGetMacOSVersion hCallShellScript hSaveWriteDialogFile")
+    /** Not used by any operation. */
+    Q_PROPERTY(QVariant err MEMBER err)
+    /** What the menu of types said last: "jpeg"; null before. */
+    Q_PROPERTY(QString myFileType MEMBER myFileType)
+    /** What the menu of qualities said last: "8"; null before. */
+    Q_PROPERTY(QString myCompType MEMBER myCompType)
+    /** A list of one text, myFileType, which is what the panel allows; null before. */
+    Q_PROPERTY(QVariant extensions MEMBER extensions)
+    /** Not used by any operation. */
+    Q_PROPERTY(QString myJPEGcompression MEMBER myJPEGcompression)
+    /** The panel of hSaveDialogFile() that is on the screen, or was last; null before. */
+    Q_PROPERTY(QObject *panel READ panel)
+    /** The tags that were typed into the last panel that asked for them; null before. */
+    Q_PROPERTY(QVariant tagNames MEMBER tagNames)
+    /** The view under the panel of hSaveDialogFile(). */
+    Q_PROPERTY(QObject *wwFormats MEMBER wwFormats)
+    /** Menus of types and of JPEG qualities: those in the panel, and those of another form. */
+    Q_PROPERTY(QObject *pubFileType MEMBER pubFileType)
+    Q_PROPERTY(QObject *pubSaveAsFileType MEMBER pubSaveAsFileType)
+    Q_PROPERTY(QObject *pubJPEGcompression MEMBER pubJPEGcompression)
+    Q_PROPERTY(QObject *pubSaveAsJPEGcompression MEMBER pubSaveAsJPEGcompression)
 
 public:
     Q_INVOKABLE explicit cToolBox(QObject *parent = nullptr);
@@ -78,4 +109,55 @@ public:
 
     /** Makes a PDF of a picture with the system's image tool and waits for it. Nothing happens where there is no such tool. */
     Q_INVOKABLE void hCallShellScript(const QString &input, const QString &output);
+
+    /**
+     * Asks where to save a picture, and writes it there as the type and with the quality that the menus of pubFileType and
+     * pubJPEGcompression say when the panel closes, by the rules of files::convertFile().
+     *
+     * The panel starts in the Desktop folder with the source's name, shows wwFormats, and takes files of the chosen type only.
+     * Where the user default "MOS" is "109+" it also asks for tags, which are set on the file.
+     *
+     * @return the location of the file, its type, and the source's name without extension, also where nothing could be
+     *         written; null if the user cancels
+     */
+    Q_INVOKABLE QVariant hSaveDialogFile(const QString &source);
+
+    /** The menu on pubFileType was used: the panel allows the new type, and qualities can be chosen for "jpeg" only. */
+    Q_INVOKABLE void hChooseFileType(const platform::Sender &sender);
+
+    /** The same for pubSaveAsFileType and pubSaveAsJPEGcompression. */
+    Q_INVOKABLE void hSaveAsChooseFileType(const platform::Sender &sender);
+
+    /** The menu on pubJPEGcompression was used. */
+    Q_INVOKABLE void hChooseCompType(const platform::Sender &sender);
+
+    /** Asks where to save a text, and writes it there in UTF-8. */
+    Q_INVOKABLE void hSaveWriteDialogFile(const QString &fileType, const QString &text, const QString &name);
+
+    /** The same for an action file: its path, whatever became of the writing; empty if the user cancels. */
+    Q_INVOKABLE QString hSaveWriteDialogFile2(const QString &text, const QString &name);
+
+    /** The same for data: the path; empty if the user cancels, if it cannot be written, and for null. */
+    Q_INVOKABLE QString hSaveNSDataWriteDialogFile(const QByteArray &data, const QString &name);
+
+    /** Asks for an action file: its text; empty if the user cancels, null if it cannot be read or is not UTF-8. */
+    Q_INVOKABLE QString hReadNSDataInFile();
+
+private:
+    QObject *panel() const { return m_panel.get(); }
+    void takeType(const QObject *menu);
+    void showType(const QObject *menu, QObject *qualityMenu);
+
+    QVariant err;
+    QString myFileType;
+    QString myCompType;
+    QVariant extensions;
+    QString myJPEGcompression;
+    std::unique_ptr<platform::SavePanel> m_panel;
+    QVariant tagNames;
+    QPointer<QObject> wwFormats;
+    QPointer<QObject> pubFileType;
+    QPointer<QObject> pubSaveAsFileType;
+    QPointer<QObject> pubJPEGcompression;
+    QPointer<QObject> pubSaveAsJPEGcompression;
 };

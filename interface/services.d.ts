@@ -79,6 +79,13 @@ declare module "quorlin" {
         release(): null;
     }
 
+    /** The panel of cToolBox.hSaveDialogFile. */
+    export class SavePanel {
+        private constructor();
+        /** Extensions without the dot; setting them while it is open changes what can be saved. */
+        allowedTypes: texts;
+    }
+
     /** A window that can fill the first screen and go back. Rectangles are in screen coordinates. */
     export class ZtFFullScreen {
         constructor();
@@ -413,6 +420,25 @@ declare module "quorlin" {
     /** Collects the input of the actions, stages files, asks for folders; called on the class but for one. */
     export class cToolBox {
         constructor();
+        /** Not used by any operation. */
+        err: anything;
+        /** What the menus of types and qualities said last. */
+        myFileType: text;
+        myCompType: text;
+        /** A list of one text, what the panel allows. */
+        extensions: anything;
+        /** Not used by any operation. */
+        myJPEGcompression: text;
+        /** The save panel that is open, or was last; its allowedTypes. */
+        readonly panel: Control | null;
+        /** A list of texts, once a panel has asked for tags. */
+        tagNames: anything;
+        /** The view under the save panel. */
+        wwFormats: Control | null;
+        pubFileType: Control | null;
+        pubSaveAsFileType: Control | null;
+        pubJPEGcompression: Control | null;
+        pubSaveAsJPEGcompression: Control | null;
         /** Asks for the input of an action: a list of paths, empty if cancelled, null for an unknown action. */
         static hOpenDialogFiles(actionType: text): anything;
         /** The same for "EMM", "EMMDir", "sort", "rescale", "rename", "renameDir", "batchSortImages" and "sortDir". */
@@ -436,6 +462,22 @@ declare module "quorlin" {
         static hGetMacOSVersion(): text;
         /** Makes a PDF with the system's image tool where that is there. */
         static hCallShellScript(input: text, output: text): null;
+        /**
+         * Asks where to save a picture and writes it as pubFileType and pubJPEGcompression say when the panel closes. Answers
+         * [location, type, name of the source without extension] as hConvertFileType does, null if cancelled.
+         */
+        hSaveDialogFile(source: text): anything;
+        /** For the menus while the panel is open: it allows the new type, and only "jpeg" has a quality. */
+        hChooseFileType(sender: sender): null;
+        hSaveAsChooseFileType(sender: sender): null;
+        hChooseCompType(sender: sender): null;
+        static hSaveWriteDialogFile(fileType: text, text: text, name: text): null;
+        /** An action file: its path, "" if cancelled. */
+        hSaveWriteDialogFile2(text: text, name: text): text;
+        /** The same; "" also if it could not be written. */
+        hSaveNSDataWriteDialogFile(data: data, name: text): text;
+        /** The text of an action file; "" if cancelled, null if it is not UTF-8. */
+        hReadNSDataInFile(): text;
     }
 
     /**

@@ -3,6 +3,7 @@
 #include "app/script/ScriptEngine.h"
 #include "app/script/seam.h"
 
+#include "platform/desktop/save_panel.h"
 #include "platform/foundation/raised.h"
 
 #include <QQmlEngine>
@@ -94,7 +95,13 @@ void PanelQueue::record(const platform::PanelRequest &request)
         {QStringLiteral("folder"), textOrNothing(request.folder)},
         {QStringLiteral("tagField"), request.showsTagField},
     };
-    m_onShown.call({m_scripts.seam().values().toScript(entry)});
+    QJSValue shown = m_scripts.seam().values().toScript(entry);
+    m_onShown.call({shown});
+    if (request.panel)
+        connect(request.panel, &platform::SavePanel::allowedTypesChanged, this,
+                [this, shown](const QStringList &types) mutable {
+                    shown.setProperty(QStringLiteral("types"), m_scripts.seam().values().toScript(types));
+                });
 }
 
 PanelQueue::Queued PanelQueue::acceptance(const QJSValue &arguments) const

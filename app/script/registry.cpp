@@ -15,6 +15,7 @@
 #include "image/cMConversion.h"
 #include "meta/cEditMetaData.h"
 #include "meta/mMeta.h"
+#include "platform/desktop/save_panel.h"
 #include "platform/desktop/stand_ins.h"
 #include "presets/Ztbookmarks.h"
 #include "presets/dbViewController.h"
@@ -34,6 +35,14 @@ ServiceEntry pictures()
 {
     ServiceEntry entry = serviceEntry<PictureObject>();
     entry.name = "Picture";
+    entry.isMadeByScripts = false;
+    return entry;
+}
+
+/** A field of cToolBox refers to one. */
+ServiceEntry savePanels()
+{
+    ServiceEntry entry = serviceEntry<platform::SavePanel>();
     entry.isMadeByScripts = false;
     return entry;
 }
@@ -65,6 +74,7 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<my2ndPhotoView>(),
         serviceEntry<myMainPhotoView>(),
         pictures(),
+        savePanels(),
         standIn<platform::TextField>(),
         standIn<platform::CheckBox>(),
         standIn<platform::ColorWell>(),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -7,6 +8,8 @@
 #include <optional>
 
 namespace platform {
+
+class SavePanel;
 
 enum class PanelKind { Open, Save, Print };
 
@@ -26,6 +29,10 @@ struct PanelRequest
     QString name;   ///< save panels: the name that is offered
     QString folder; ///< where the panel starts, a path; empty for the last one used
     bool showsTagField = false;
+    /** Save panels: what is shown under the list of files, a view; null for nothing. */
+    QPointer<QObject> accessory;
+    /** Tells when the types change while the panel is up; null where they cannot. */
+    QPointer<SavePanel> panel;
 };
 
 /** What the user did with a panel. Anything but acceptance counts as cancelled. */
