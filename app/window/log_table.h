@@ -18,6 +18,9 @@ class LogTable : public QTableView
     Q_PROPERTY(int shownCount READ shownCount)
     Q_PROPERTY(int totalCount READ totalCount)
     Q_PROPERTY(int chosenCount READ chosenCount)
+    /** How many entries are shown, and how many there are, in the reader's own form: "12,400". */
+    Q_PROPERTY(QString shownText READ shownText)
+    Q_PROPERTY(QString countText READ countText)
     Q_PROPERTY(bool reading READ isReading)
     /** Widths and order of the columns and what is sorted by, as a text to be kept; "" for the first arrangement. */
     Q_PROPERTY(QString columns READ columns WRITE setColumns)
@@ -28,6 +31,8 @@ public:
     int shownCount() const { return m_model.rowCount(); }
     int totalCount() const { return m_model.entries().count(); }
     int chosenCount() const;
+    QString shownText() const { return numberText(shownCount()); }
+    QString countText() const { return numberText(totalCount()); }
     bool isReading() const { return m_model.isReading(); }
     QString columns() const;
     void setColumns(const QString &kept);
@@ -47,6 +52,8 @@ public:
     Q_INVOKABLE QVariantList entries(int first, int count) const;
     /** Puts the chosen rows on the clipboard, their cells between tabs; returns how many. */
     Q_INVOKABLE int copyChosen() const;
+    /** A whole number in the reader's own form: "12,400". */
+    Q_INVOKABLE QString numberText(int number) const { return locale().toString(number); }
     Q_INVOKABLE void selectRow(int row) { setCurrentIndex(m_model.index(row, 0)); }
 
 Q_SIGNALS:

@@ -1,15 +1,20 @@
-// The log of all runs: newest first, searched, filtered by status, exported. Services used: files (through lib/log-file).
+// The log of all runs: the newest first, searched, filtered by run and status, sorted, exported; and runs are undone from here.
+// Services used: files (through lib/log-file), moves, defaults.
 
+import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
-import { logPath } from "../../lib/log-file.js";
+import { clearRows, keepRows, KEPT_ROWS, logPath } from "../../lib/log-file.js";
 import { csvHead, csvLines } from "../../lib/report.js";
+import { keep, recall } from "../../lib/store.js";
 import { count, fill, statusText } from "../../lib/wording.js";
+import { problemsOfUndo, undoing, undoWords } from "../../lib/undo-run.js";
 
 const STATES = ["OK", "Failed", "Not Supported", "Skipped"];
 // So many rows are written at a time, and the window answers in between.
 const BATCH = 400;
+const COLUMNS = "LogColumns";
 
 function shownStates() {
     const shown = {};
@@ -28,35 +33,103 @@ function* csvOf(table) {
 }
 
 export class LogPage {
-    /** @param window  the main window's parts: note(text) */
+    /** @param window  the main window's parts: services, pictures, preview, note(text) */
     constructor(window) {
         this.window = window;
         this.job = shell.job();
+        this.undo = null;
         this.form = shell.loadForm("windows/log/log.ui");
         this.table = this.form.control("logTable");
+        this.runs = this.form.control("logRuns");
         this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder")], shownStates());
-        this.form.setItems("logStatus", [qsTr("All")].concat(STATES.map((state) => statusText(state, ""))), [""].concat(STATES));
-        this.form.control("logSearch").textChanged.connect(guard("log.search", () => this.look()));
-        this.form.control("logStatus").activated.connect(guard("log.status", () => this.look()));
-        this.form.control("logExport").clicked.connect(guard("log.export", () => this.save()));
-        this.form.control("logOpen").clicked.connect(guard("log.open", () => this.openFolder()));
-        this.table.changed.connect(guard("log.chosen", () => this.showChoice()));
+        this.table.columns = recall(defaults, COLUMNS, { columns: "" }).columns;
+        this.runs.follow(this.table, { all: qsTr("All runs"), oneEntry: qsTr("1 entry"), entries: qsTr("%1 entries"),
+                                       oneProblem: qsTr("1 problem"), problems: qsTr("%1 problems") });
+        this.form.setItems("logStatus", [qsTr("Any status")].concat(STATES.map((state) => statusText(state, ""))), [""].concat(STATES));
+        this.form.setSplit("logSplitter", [230, 800]);
+        this.connect();
+    }
+
+    connect() {
+        const control = (name) => this.form.control(name);
+        control("logSearch").textChanged.connect(guard("log.search", () => this.look()));
+        control("logStatus").activated.connect(guard("log.status", () => this.look()));
+        control("logExport").clicked.connect(guard("log.export", () => this.save()));
+        control("logOpen").clicked.connect(guard("log.open", () => shell.showInFolder(this.chosenPath())));
+        control("logPicture").clicked.connect(guard("log.picture", () => this.showPicture()));
+        control("logUndo").clicked.connect(guard("log.undo", () => this.undoRun()));
+        control("logStop").clicked.connect(guard("log.stop", () => this.job.cancel()));
+        control("logFind").triggered.connect(guard("log.find", () => this.find()));
+        this.table.changed.connect(guard("log.chosen", () => this.showState()));
+        this.table.openRequested.connect(guard("log.picture", () => this.showPicture()));
+        this.runs.runChosen.connect(guard("log.run", () => this.showRun()));
     }
 
     /** Reads what is new in the log. */
     show() {
         this.table.follow(logPath(files));
+        this.showRun();
+    }
+
+    leave() {
+        keep(defaults, COLUMNS, { columns: this.table.columns });
+    }
+
+    mayLeave() {
+        if (this.undo !== null) {
+            this.window.note(qsTr("A run is being undone. Stop it first, or wait."));
+        }
+        this.leave();
+        return this.undo === null;
+    }
+
+    find() {
+        this.form.control("logSearch").setFocus();
+        this.form.control("logSearch").selectAll();
     }
 
     look() {
         this.table.look(this.form.control("logSearch").text, this.form.value("logStatus"));
     }
 
-    showChoice() {
+    showState() {
+        const control = (name) => this.form.control(name);
         const shown = this.table.shownCount;
-        this.form.control("logCount").text = count(shown, qsTr("1 entry"), qsTr("%1 entries"));
-        this.form.control("logExport").enabled = shown > 0 && !this.table.reading;
-        this.form.control("logOpen").enabled = this.chosenPath() !== "";
+        const total = this.table.totalCount;
+        control("logCount").text = shown === total ? count(total, qsTr("1 entry"), qsTr("%1 entries")).replace(String(total), this.table.countText)
+            : fill(qsTr("%1 of %2 entries"), this.table.shownText, this.table.countText);
+        control("logExport").enabled = shown > 0 && !this.table.reading && !this.job.running;
+        control("logOpen").enabled = this.chosenPath() !== "";
+        control("logPicture").enabled = this.picturePath() !== "";
+        control("logTable").visible = shown > 0;
+        control("logEmpty").visible = shown === 0;
+        control("logEmpty").text = this.table.reading ? "" : total > 0 ? qsTr("No entry matches.")
+            : fill(qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %1 entries are kept."), this.table.numberText(KEPT_ROWS));
+        const chosen = this.table.chosenCount;
+        this.form.setMenu("logMore", [chosen > 1 ? fill(qsTr("Copy %1 Rows"), chosen) : qsTr("Copy Row"), "-", qsTr("Clear Log…")],
+                          [chosen > 0 ? "copy" : null, null, total > 0 && this.undo === null ? "clear" : null],
+                          guard("log.more", (deed) => (deed === "copy" ? this.table.copyChosen() : this.clear())));
+    }
+
+    // The run that is chosen, and whether it can be undone.
+    showRun() {
+        const control = (name) => this.form.control(name);
+        const chosen = this.runs.chosen();
+        const moves = this.window.services.moves;
+        const words = chosen === null ? null : undoWords(moves, this.runs.run);
+        control("logRunBar").visible = chosen !== null || this.undo !== null;
+        control("logUndo").visible = this.undo === null;
+        control("logStop").visible = this.undo !== null;
+        control("logRuns").enabled = this.undo === null;
+        if (this.undo === null && words !== null) {
+            const entries = count(chosen.count, qsTr("1 entry"), qsTr("%1 entries"));
+            const problems = chosen.problems > 0 ? " · " + count(chosen.problems, qsTr("1 problem"), qsTr("%1 problems")) : "";
+            control("logRunTitle").text = chosen.process + " · " + entries + problems;
+            control("logRunNote").text = words.note;
+            control("logUndo").enabled = words.can;
+            control("logUndo").text = words.button;
+        }
+        this.showState();
     }
 
     // The result of the chosen entry, or the file that it was made of.
@@ -65,14 +138,25 @@ export class LogPage {
         return entry === null ? "" : entry.outputPath || entry.inputPath;
     }
 
-    openFolder() {
-        shell.showInFolder(this.chosenPath());
+    // The first of result and source that is still there.
+    picturePath() {
+        const entry = this.table.chosen();
+        const paths = entry === null ? [] : [entry.outputPath, entry.inputPath];
+        return paths.find((path) => path !== "" && files.info(path).exists && !files.info(path).isFolder) || "";
+    }
+
+    showPicture() {
+        const path = this.picturePath();
+        if (path !== "") {
+            this.window.preview.showFile(path, this.table);
+        }
     }
 
     save() {
         const path = shell.chooseNewFile(qsTr("Export the log"), "", qsTr("Log") + ".csv", "csv");
         if (path !== null) {
             this.job.start(csvOf(this.table), () => undefined, guard("log.exported", (how, text) => this.saved(how, path, text)));
+            this.showState();
         }
     }
 
@@ -80,5 +164,67 @@ export class LogPage {
         if (how !== "cancelled") {
             this.window.note(how === "failed" ? String(text) : files.writeText(path, text) || fill(qsTr("Log saved as %1"), path));
         }
+        this.showState();
+    }
+
+    clear() {
+        const answer = shell.ask({
+            title: qsTr("Clear log"), text: fill(qsTr("Remove all %1 entries from the log?"), this.table.countText),
+            detail: qsTr("Your files stay as they are. Runs can then no longer be undone from here."),
+            buttons: [qsTr("Clear"), qsTr("Keep")], initial: 1, escape: 1, check: "",
+        });
+        if (answer.button === 0) {
+            const problem = clearRows(files);
+            this.runs.chooseAll();
+            this.show();
+            if (problem) {
+                this.window.note(problem);
+            }
+        }
+    }
+
+    undoRun() {
+        const begun = this.window.services.moves.undo(this.runs.run);
+        if (begun.problem) {
+            this.window.note(begun.problem);
+            return;
+        }
+        this.undo = { rows: [], done: 0, problems: problemsOfUndo(begun), count: begun.items.length, places: this.placesOfRows() };
+        const process = this.runs.chosen().process;
+        this.job.start(undoing(this.window.services.moves, begun, process), guard("log.undone", (step) => this.tookBack(step)),
+                       guard("log.undoEnd", (how, value) => this.undoEnded(how, value)));
+        this.showRun();
+    }
+
+    tookBack(step) {
+        this.undo.rows.push(step.row);
+        this.undo.done += step.row.status === "OK" ? 1 : 0;
+        if (step.row.status !== "OK") {
+            this.undo.problems.push(step.row.reason);
+        }
+        const id = this.undo.places[step.from];
+        if (step.row.status === "OK" && id !== undefined) {
+            this.window.pictures.setPath(id, step.to);
+        }
+        this.form.control("logRunTitle").text = fill(qsTr("Undoing: %1 of %2"), this.undo.rows.length, this.undo.count);
+        this.form.control("logRunNote").text = "";
+    }
+
+    // Rows of the list by where their files are.
+    placesOfRows() {
+        const places = Object.create(null);
+        const ids = this.window.pictures.ids();
+        this.window.pictures.paths().forEach((path, i) => { places[path] = ids[i]; });
+        return places;
+    }
+
+    undoEnded(how, value) {
+        const undo = this.undo;
+        this.undo = null;
+        const problem = keepRows(files, undo.rows) || (how === "failed" ? String(value) : value || "");
+        const done = count(undo.done, qsTr("1 file taken back"), qsTr("%1 files taken back"));
+        const parts = [done].concat(undo.problems.length > 0 ? [count(undo.problems.length, qsTr("1 problem"), qsTr("%1 problems"))] : [], problem ? [problem] : []);
+        this.window.note((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));
+        this.show();
     }
 }

@@ -349,6 +349,7 @@ export function openMainWindow() {
     onProblem(tellProblem);
     const window = makeWindow();
     window.say = (text) => say(window, text);
+    window.showState = () => showAll(window);
     window.reloadPreview = () => { window.preview.reload(); showCurrent(window); };
     window.saidTimer = shell.timer(guard("said", () => { window.said = ""; showStatus(window); }));
     window.drop = shell.dropTarget(window.form);

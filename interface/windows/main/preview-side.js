@@ -46,6 +46,7 @@ export class PreviewSide {
         this.view = window.form.control("preview");
         this.large = shell.largePreview(window.form);
         this.shownPath = "";
+        this.from = null;
         this.caption = "";
         this.shown = null;
         this.view.setTitles(qsTr("Original"), qsTr("Result"));
@@ -120,9 +121,21 @@ export class PreviewSide {
         }
     }
 
+    /** Shows a file that is not in the list; `from` is the control that has the focus again afterwards. */
+    showFile(path, from) {
+        const photo = files.picture(path);
+        this.from = from;
+        this.large.setTitles(photo.name, "");
+        this.large.setCaptions(originalCaption(photo), "");
+        this.large.showPicture(path);
+        shell.cover(this.large);
+        this.window.showState();
+    }
+
     closeLarge() {
         this.large.hide();
-        this.window.pictures.setFocus();
+        (this.from || this.window.pictures).setFocus();
+        this.from = null;
     }
 
     toggleLarge() {
