@@ -20,8 +20,9 @@ void QuietCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     const QRect place = option.rect.adjusted(paddingPx, 0, -paddingPx / 2, -1);
     const QVariant color = index.data(Qt::ForegroundRole);
     painter->setPen(color.isValid() ? color.value<QColor>() : Theme::color(QStringLiteral("text")));
+    const Qt::TextElideMode elide = m_names.contains(index.column()) ? Qt::ElideMiddle : Qt::ElideRight;
     painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
-                      option.fontMetrics.elidedText(index.data().toString(), option.textElideMode, place.width()));
+                      option.fontMetrics.elidedText(index.data().toString(), elide, place.width()));
     painter->restore();
 }
 

@@ -10,9 +10,13 @@ class QuietCellDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    /** @param names  columns of names and paths, which are shortened in their middle */
+    QuietCellDelegate(const QList<int> &names, QObject *parent) : QStyledItemDelegate(parent), m_names(names) {}
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+private:
+    QList<int> m_names;
 };
 
 } // namespace window

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLocale>
 
 #include <algorithm>
 
@@ -15,15 +16,16 @@ namespace window {
 namespace {
 
 constexpr int rowHeightPx = 30;
-/** Shares of the width in per cent; the last column takes the rest. */
-constexpr int shares[] = {15, 19, 19, 16, 16};
+constexpr int paddingPx = 20;
+/** Shares, in per cent, of the width that the date leaves; the last column takes the rest. */
+constexpr int shares[] = {0, 24, 21, 20, 17};
 
 } // namespace
 
 LogTable::LogTable(QWidget *parent) : QTableView(parent)
 {
     setModel(&m_model);
-    setItemDelegate(new QuietCellDelegate(this));
+    setItemDelegate(new QuietCellDelegate({LogModel::File, LogModel::Result, LogModel::Folder}, this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -31,7 +33,6 @@ LogTable::LogTable(QWidget *parent) : QTableView(parent)
     setWordWrap(false);
     setTabKeyNavigation(false);
     setVerticalScrollMode(ScrollPerPixel);
-    setTextElideMode(Qt::ElideMiddle);
     setCornerButtonEnabled(false);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -193,8 +194,11 @@ void LogTable::arrangeColumns()
     if (m_columnsChosen)
         return;
     m_arranging = true;
-    for (int column = 0; column < int(std::size(shares)); ++column)
-        setColumnWidth(column, viewport()->width() * shares[column] / 100);
+    const QDateTime wide(QDate(2028, 12, 28), QTime(20, 48, 58));
+    const int date = fontMetrics().horizontalAdvance(QLocale().toString(wide, QLocale::ShortFormat)) + paddingPx;
+    setColumnWidth(LogModel::Date, date);
+    for (int column = LogModel::Deed; column < int(std::size(shares)); ++column)
+        setColumnWidth(column, (viewport()->width() - date) * shares[column] / 100);
     m_arranging = false;
 }
 

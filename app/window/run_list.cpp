@@ -47,22 +47,32 @@ public:
     }
 
 private:
+    // A text on the right, then one on the left in the room that is left.
+    static void paintLine(QPainter &painter, const QRect &place, Qt::Alignment line, const QString &left,
+                          const QFont &leftFont, const QString &right, const QFont &rightFont, const char *rightColor)
+    {
+        const int taken = right.isEmpty() ? 0 : QFontMetrics(rightFont).horizontalAdvance(right) + 8;
+        painter.setFont(leftFont);
+        const QString shown = QFontMetrics(leftFont).elidedText(left, Qt::ElideRight, place.width() - taken);
+        painter.drawText(place, Qt::AlignLeft | line, shown);
+        painter.setFont(rightFont);
+        painter.setPen(Theme::color(QString::fromLatin1(rightColor)));
+        painter.drawText(place, Qt::AlignRight | line, right);
+    }
+
     static void paintTexts(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
     {
-        const QRect place = option.rect.adjusted(16, 7, -12, -7);
-        QFont font = option.font;
-        font.setWeight(QFont::DemiBold);
-        painter.setFont(font);
-        painter.setPen(Theme::color(QStringLiteral("text")));
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop,
-                         QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, place.width()));
+        const QRect place = option.rect.adjusted(16, 7, -14, -7);
+        QFont bold = option.font;
+        bold.setWeight(QFont::DemiBold);
         QFont small = option.font;
         small.setPixelSize(smallFontPx);
-        painter.setFont(small);
+        painter.setPen(Theme::color(QStringLiteral("text")));
+        paintLine(painter, place, Qt::AlignTop, index.data().toString(), bold,
+                  index.data(RunRows::countRole).toString(), small, "muted");
         painter.setPen(Theme::color(QStringLiteral("muted")));
-        painter.drawText(
-            place, Qt::AlignLeft | Qt::AlignBottom,
-            QFontMetrics(small).elidedText(index.data(RunRows::noteRole).toString(), Qt::ElideRight, place.width()));
+        paintLine(painter, place, Qt::AlignBottom, index.data(RunRows::dateRole).toString(), small,
+                  index.data(RunRows::problemsRole).toString(), small, "bad");
     }
 };
 
@@ -108,41 +118,42 @@ QString RunRows::counted(const char *one, const char *many, int count) const
     return m_texts.value(QString::fromLatin1(count == 1 ? one : many)).toString().arg(QLocale().toString(count));
 }
 
-QString RunRows::note(const LogRun &run) const
+QVariant RunRows::cell(int number, int role) const
 {
-    QStringList parts;
-    if (run.first != 0)
-        parts.append(QLocale().toString(QDateTime::fromMSecsSinceEpoch(run.first), QLocale::ShortFormat));
-    parts.append(counted("oneEntry", "entries", run.count));
-    if (run.problems > 0)
-        parts.append(counted("oneProblem", "problems", run.problems));
-    return parts.join(QStringLiteral(" · "));
+    const LogEntries &entries = m_log->entries();
+    const bool isAll = number < 0;
+    const LogRun run = isAll ? LogRun() : entries.run(number);
+    switch (role) {
+    case Qt::DisplayRole:
+        return isAll ? m_texts.value(QStringLiteral("all")) : entries.texts().text(run.process);
+    case dateRole:
+        return run.first == 0 ? QString()
+                              : QLocale().toString(QDateTime::fromMSecsSinceEpoch(run.first), QLocale::ShortFormat);
+    case countRole:
+        return counted("oneEntry", "entries", isAll ? entries.count() : run.count);
+    case problemsRole:
+        return run.problems == 0 ? QString() : counted("oneProblem", "problems", run.problems);
+    default:
+        return {};
+    }
 }
 
 QVariant RunRows::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || !m_log)
         return {};
-    const LogEntries &entries = m_log->entries();
-    const std::vector<int> &order = entries.runOrder();
+    const std::vector<int> &order = m_log->entries().runOrder();
     const bool isAll = index.row() == 0 || size_t(index.row()) > order.size();
     const int number = isAll ? -1 : order[size_t(index.row()) - 1];
-    const QString title =
-        isAll ? m_texts.value(QStringLiteral("all")).toString() : entries.texts().text(entries.run(number).process);
-    const QString small = isAll ? counted("oneEntry", "entries", entries.count()) : note(entries.run(number));
-    switch (role) {
-    case Qt::DisplayRole:
-        return title;
-    case Qt::ToolTipRole:
-    case noteRole:
-        return small;
-    case Qt::AccessibleTextRole:
-        return title + QStringLiteral(", ") + small;
-    case numberRole:
+    if (role == numberRole)
         return number;
-    default:
-        return {};
-    }
+    if (role != Qt::ToolTipRole && role != Qt::AccessibleTextRole)
+        return cell(number, role);
+    QStringList all;
+    for (const int part : {int(Qt::DisplayRole), dateRole, countRole, problemsRole})
+        all.append(cell(number, part).toString());
+    all.removeAll(QString());
+    return all.join(QStringLiteral(", "));
 }
 
 RunList::RunList(QWidget *parent) : QListView(parent)

@@ -16,7 +16,9 @@ class RunRows : public QAbstractListModel
 public:
     /** Numbers of runs are found under this role; -1 stands for all. */
     static constexpr int numberRole = Qt::UserRole;
-    static constexpr int noteRole = Qt::UserRole + 1;
+    static constexpr int dateRole = Qt::UserRole + 1;
+    static constexpr int countRole = Qt::UserRole + 2;
+    static constexpr int problemsRole = Qt::UserRole + 3;
 
     using QAbstractListModel::QAbstractListModel;
 
@@ -31,7 +33,7 @@ public:
 private:
     void update();
     QString counted(const char *one, const char *many, int count) const;
-    QString note(const LogRun &run) const;
+    QVariant cell(int number, int role) const;
 
     LogModel *m_log = nullptr;
     QVariantMap m_texts;

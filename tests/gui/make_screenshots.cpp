@@ -1,6 +1,6 @@
 // make_screenshots SAMPLES FOLDER: pictures of the main window with each action, light and dark, in two sizes.
 
-#include "window_driver.h"
+#include "screen_tools.h"
 
 #include "app/window/side_bar.h"
 #include "app/window/theme.h"
@@ -9,7 +9,6 @@
 #include <QDialog>
 #include <QDir>
 #include <QDoubleSpinBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPixmap>
@@ -17,32 +16,6 @@
 #include <QTest>
 
 namespace {
-
-// The sample pictures under the names of a person's own folder, and one file that is no picture.
-QString samples(const QString &from, const QString &folder)
-{
-    const QString made = folder + QStringLiteral("/Pictures");
-    QDir().mkpath(made);
-    for (const QString &name : QDir(from).entryList(QDir::Files))
-        QFile::copy(from + QLatin1Char('/') + name, made + QLatin1Char('/') + name);
-    QFile broken(made + QStringLiteral("/Scan 7.jpg"));
-    if (broken.open(QIODevice::WriteOnly))
-        broken.write("The rest of this picture was lost.");
-    return made;
-}
-
-void settle(WindowDriver &driver)
-{
-    QTest::qWait(900);
-    driver.waitFor([] { return true; });
-}
-
-void save(WindowDriver &driver, const QString &path)
-{
-    driver.control<QWidget>("central")->setFocus();
-    settle(driver);
-    driver.window().grab().toImage().convertToFormat(QImage::Format_RGB888).save(path, "PNG", 0);
-}
 
 void setNumber(WindowDriver &driver, const char *field, double value)
 {
@@ -72,9 +45,9 @@ void showActions(WindowDriver &driver, const QString &folder, const QString &app
         prepare(driver, QString::fromLatin1(action));
         const QString name = folder + QLatin1Char('/') + QString::fromLatin1(action) + QLatin1Char('-') + appearance;
         driver.window().resize(1440, 900);
-        save(driver, name + QStringLiteral(".png"));
+        saveScreen(driver, name + QStringLiteral(".png"));
         driver.window().resize(1280, 720);
-        save(driver, name + QStringLiteral("-small.png"));
+        saveScreen(driver, name + QStringLiteral("-small.png"));
     }
 }
 
@@ -84,7 +57,7 @@ void showAsking(WindowDriver &driver, const QString &name)
     driver.control<QPushButton>("presetMenu")->menu()->actions().at(1)->trigger();
     driver.control<QLineEdit>("presetName")->setText(QStringLiteral("Anna's"));
     driver.control<QWidget>("supportBar")->show();
-    save(driver, name + QStringLiteral("-asking.png"));
+    saveScreen(driver, name + QStringLiteral("-asking.png"));
     driver.click("supportLater");
     driver.trigger("presetEscape");
     driver.trigger("preferencesAction");
@@ -106,21 +79,21 @@ int main(int argc, char **argv)
         WindowDriver driver(application);
         const QString name = folder + QStringLiteral("/main-") + QLatin1String(appearance);
         driver.window().resize(1280, 720);
-        save(driver, name + QStringLiteral("-empty.png"));
+        saveScreen(driver, name + QStringLiteral("-empty.png"));
         driver.window().resize(1440, 900);
-        driver.drop({samples(from, driver.folder())});
+        driver.drop({samplePictures(from, driver.folder())});
         driver.pictures().step(1);
         driver.choose("preset", QStringLiteral("=Web 1600"));
-        save(driver, name + QStringLiteral(".png"));
+        saveScreen(driver, name + QStringLiteral(".png"));
         showActions(driver, folder, QString::fromLatin1(appearance));
         showAsking(driver, name);
         driver.show("resize");
         driver.click("startButton");
         driver.waitForSummary();
         driver.window().resize(1280, 720);
-        save(driver, name + QStringLiteral("-done.png"));
+        saveScreen(driver, name + QStringLiteral("-done.png"));
         driver.control<window::SideBar>("sideBar")->setCurrentAction(QStringLiteral("log"));
-        save(driver, name + QStringLiteral("-log.png"));
+        saveScreen(driver, name + QStringLiteral("-log.png"));
     }
     return 0;
 }

@@ -1,0 +1,104 @@
+// make_page_screenshots SAMPLES FOLDER: pictures of the pages that own the centre of the window, light and dark, in two sizes.
+
+#include "screen_tools.h"
+
+#include "app/window/log_table.h"
+#include "app/window/run_list.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+struct MadeRun
+{
+    const char *id;
+    const char *process;
+    const char *action;
+    const char *target;
+    int count;
+    int failing; ///< every so many entries one fails; 0 for none
+    int hoursAgo;
+};
+
+// A log as somebody has it after some days of work.
+void writeLog(const QString &home)
+{
+    const MadeRun runs[] = {
+        {"1", "Resize", "longest 1600", "Web", 240, 0, 75},     {"2", "Crop", "16:9, 1920 × 1080", "Cut", 36, 12, 52},
+        {"3", "Rename", "date taken, counter", "", 318, 0, 30}, {"4", "Resize", "longest 256", "Thumbnails", 24, 0, 29},
+        {"5", "Round Corners", "radius 40", "Round", 12, 6, 5}, {"6", "Sort by Hand", "Move to Lake", "", 61, 0, 4},
+        {"7", "Resize", "longest 1600", "Web", 48, 16, 1},
+    };
+    const QString folder = home + QStringLiteral("/.local/share/quorlin");
+    QDir().mkpath(folder);
+    QFile file(folder + QStringLiteral("/log.jsonl"));
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    for (const MadeRun &run : runs) {
+        for (int i = 0; i < run.count; ++i) {
+            const bool fails = run.failing > 0 && i % run.failing == run.failing - 1;
+            const QString name = QStringLiteral("IMG_%1.JPG").arg(2041 + i);
+            const QString result = QStringLiteral("IMG_%1.jpg").arg(2041 + i);
+            const QString lake = QStringLiteral("/media/pictures/Lake/");
+            const QString target = lake + QString::fromUtf8(run.target) + QLatin1Char('/');
+            const QJsonObject line = {
+                {QStringLiteral("date"), now.addSecs(-3600 * run.hoursAgo + i).toString(Qt::ISODateWithMs)},
+                {QStringLiteral("process"), QString::fromUtf8(run.process)},
+                {QStringLiteral("action"), QString::fromUtf8(run.action)},
+                {QStringLiteral("status"), fails ? QStringLiteral("Failed") : QStringLiteral("OK")},
+                {QStringLiteral("reason"), fails ? QStringLiteral("not a readable picture") : QString()},
+                {QStringLiteral("input"), name},
+                {QStringLiteral("output"), fails ? QString() : result},
+                {QStringLiteral("inputPath"), lake + name},
+                {QStringLiteral("outputPath"), fails ? QString() : target + result},
+                {QStringLiteral("run"), QString::fromUtf8(run.id)}};
+            file.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
+        }
+    }
+}
+
+void saveBoth(WindowDriver &driver, const QString &name)
+{
+    driver.window().resize(1440, 900);
+    saveScreen(driver, name + QStringLiteral(".png"));
+    driver.window().resize(1280, 720);
+    saveScreen(driver, name + QStringLiteral("-small.png"));
+}
+
+void showLog(WindowDriver &driver, const QString &name)
+{
+    driver.show("log");
+    saveScreen(driver, name + QStringLiteral("-empty.png"));
+    writeLog(driver.folder());
+    driver.show("resize");
+    driver.show("log");
+    settle(driver);
+    driver.control<window::LogTable>("logTable")->selectRow(3);
+    saveBoth(driver, name + QStringLiteral("-all"));
+    driver.control<window::RunList>("logRuns")->choose(QStringLiteral("7"));
+    driver.control<window::LogTable>("logTable")->selectRow(0);
+    saveBoth(driver, name);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    const QString folder = QString::fromLocal8Bit(argv[2]);
+    QDir().mkpath(folder);
+    for (const char *appearance : {"light", "dark"}) {
+        qputenv("QUORLIN_APPEARANCE", appearance);
+        WindowDriver driver(application);
+        driver.window().resize(1440, 900);
+        driver.drop({samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder())});
+        showLog(driver, folder + QStringLiteral("/log-") + QLatin1String(appearance));
+    }
+    return 0;
+}

@@ -1,0 +1,31 @@
+#include "screen_tools.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPixmap>
+#include <QTest>
+
+QString samplePictures(const QString &from, const QString &folder)
+{
+    const QString made = folder + QStringLiteral("/Pictures");
+    QDir().mkpath(made);
+    for (const QString &name : QDir(from).entryList(QDir::Files))
+        QFile::copy(from + QLatin1Char('/') + name, made + QLatin1Char('/') + name);
+    QFile broken(made + QStringLiteral("/Scan 7.jpg"));
+    if (broken.open(QIODevice::WriteOnly))
+        broken.write("The rest of this picture was lost.");
+    return made;
+}
+
+void settle(WindowDriver &driver)
+{
+    QTest::qWait(900);
+    driver.waitFor([] { return true; });
+}
+
+void saveScreen(WindowDriver &driver, const QString &path)
+{
+    driver.control<QWidget>("central")->setFocus();
+    settle(driver);
+    driver.window().grab().toImage().convertToFormat(QImage::Format_RGB888).save(path, "PNG", 0);
+}
