@@ -350,6 +350,13 @@ declare module "quorlin" {
         btEMDchooseFolder(sender: sender): null;
     }
 
+    /** Prints pictures. */
+    export class cPrint {
+        constructor();
+        /** One picture on one page: fitted, in the middle, without margins. Shows the print panel. */
+        printService(path: text): null;
+    }
+
     /** Lengths in a unit, as pixels of one picture at its own resolution. */
     export class cMConversion {
         constructor();

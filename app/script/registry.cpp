@@ -4,6 +4,7 @@
 #include "app/MyObjectControler.h"
 #include "app/ZtFFullScreen.h"
 #include "app/cAppUpdater.h"
+#include "app/cPrint.h"
 #include "app/cSheetControl.h"
 #include "app/mainViewController.h"
 #include "app/mainWindowClass.h"
@@ -62,6 +63,7 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<Ztbookmarks>(),
         serviceEntry<cNSStringHandling>(),
         serviceEntry<cAppUpdater>(),
+        serviceEntry<cPrint>(),
         serviceEntry<cSheetControl>(),
         serviceEntry<cEditMetaData>(),
         serviceEntry<cMConversion>(),

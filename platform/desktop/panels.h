@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QPageLayout>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
 
 #include <memory>
 #include <optional>
+
+class QPagedPaintDevice;
 
 namespace platform {
 
@@ -33,6 +36,7 @@ struct PanelRequest
     QPointer<QObject> accessory;
     /** Tells when the types change while the panel is up; null where they cannot. */
     QPointer<SavePanel> panel;
+    QPageLayout page; ///< print panels: the paper and its orientation, which the user may change there
 };
 
 /** What the user did with a panel. Anything but acceptance counts as cancelled. */
@@ -41,6 +45,8 @@ struct PanelAnswer
     bool accepted = false;
     QStringList paths; ///< absolute, in the order in which the panel reports them
     QStringList tags;
+    /** Print panels: where to print, set up as the user chose; null where a path says it. */
+    std::shared_ptr<QPagedPaintDevice> printer = nullptr;
 };
 
 /** Shows panels. One provider serves the process: dialogs in the application, queued answers where nobody looks. */
