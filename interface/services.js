@@ -1,10 +1,12 @@
 // The services that the steps use, made once for a window or a batch, with stand-ins on the outlets of the operations.
-// Services used: ZtImageHandling, cMConversion, Picture, files, pictures.
+// Services used: ZtImageHandling, cMConversion, cNSStringHandling, Picture, files, moves, pictures.
 
-import { cMConversion, Picture, ZtImageHandling } from "quorlin";
+import { cMConversion, cNSStringHandling, Picture, ZtImageHandling } from "quorlin";
 import { CheckBox, ColorWell, SegmentedControl, TabView, TextField } from "quorlin/controls";
 import { files } from "quorlin/files";
+import { moves } from "quorlin/moves";
 import { pictures } from "quorlin/pictures";
+import { KnownFacts } from "./lib/known-facts.js";
 import { emptyTable } from "./lib/names.js";
 
 function makeOutlets() {
@@ -29,13 +31,14 @@ function join(image, outlets) {
     image.tfBorderWidth = outlets.bandWidth;
 }
 
-/** {image, units, files, pictures, openPicture(path), outlets, unitCache}. */
+/** {image, units, files, facts, names, moves, pictures, openPicture(path), outlets, unitCache}. */
 export function makeServices() {
     const outlets = makeOutlets();
     const image = new ZtImageHandling();
     join(image, outlets);
     return {
-        image: image, units: new cMConversion(), files: files, pictures: pictures,
+        image: image, units: new cMConversion(), files: files, facts: new KnownFacts(files), names: new cNSStringHandling(),
+        pictures: pictures, moves: moves,
         openPicture: (path) => Picture.open(path), outlets: outlets, unitCache: emptyTable(),
     };
 }

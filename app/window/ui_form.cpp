@@ -1,17 +1,7 @@
 #include "app/window/ui_form.h"
 
-#include "app/window/angle_dial.h"
-#include "app/window/color_well.h"
-#include "app/window/compare_preview.h"
-#include "app/window/folder_tree.h"
 #include "app/window/icons.h"
-#include "app/window/log_table.h"
-#include "app/window/picture_table.h"
-#include "app/window/position_pad.h"
-#include "app/window/run_list.h"
-#include "app/window/segmented_control.h"
-#include "app/window/side_bar.h"
-#include "app/window/slot_list.h"
+#include "app/window/own_controls.h"
 
 #include "platform/desktop/user_defaults.h"
 
@@ -43,30 +33,8 @@ public:
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
-        QWidget *widget = nullptr;
-        if (className == QLatin1String("AngleDial"))
-            widget = new AngleDial(parent);
-        else if (className == QLatin1String("ColorWell"))
-            widget = new ColorWell(parent);
-        else if (className == QLatin1String("PositionPad"))
-            widget = new PositionPad(parent);
-        else if (className == QLatin1String("PictureTable"))
-            widget = new PictureTable(parent);
-        else if (className == QLatin1String("LogTable"))
-            widget = new LogTable(parent);
-        else if (className == QLatin1String("RunList"))
-            widget = new RunList(parent);
-        else if (className == QLatin1String("ComparePreview"))
-            widget = new ComparePreview(parent);
-        else if (className == QLatin1String("FolderTree"))
-            widget = new FolderTree(parent);
-        else if (className == QLatin1String("SegmentedControl"))
-            widget = new SegmentedControl(parent);
-        else if (className == QLatin1String("SideBar"))
-            widget = new SideBar(parent);
-        else if (className == QLatin1String("SlotList"))
-            widget = new SlotList(parent);
-        else
+        QWidget *widget = makeOwnControl(className, parent);
+        if (!widget)
             return QUiLoader::createWidget(className, parent, name);
         widget->setObjectName(name);
         return widget;
@@ -77,9 +45,10 @@ void collectPlaced(const QLayout *layout, QWidgetList &children)
 {
     for (int i = 0; layout && i < layout->count(); ++i) {
         QLayoutItem *item = layout->itemAt(i);
-        if (item->widget())
+        // A menu that opens as a window of its own is no place to walk to.
+        if (item->widget() && !item->widget()->isWindow())
             children.append(item->widget());
-        else
+        else if (item->layout())
             collectPlaced(item->layout(), children);
     }
 }

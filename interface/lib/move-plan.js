@@ -50,13 +50,13 @@ function stayingCompanion(items, first, count) {
 // How often the rest is planned anew without those whose companions cannot go along.
 const MOST_ROUNDS = 5;
 
-/** Settles the wishes of rows: {rows, wishes, items, ofRow, leftOut}; see planMoves(). */
+/** Settles the wishes of rows: {paths, rows, wishes, items, ofRow, leftOut}; see planMoves(). */
 export function settle(paths, rows, moves) {
     const leftOut = [];
     let plan = null;
     for (let round = 0; round < MOST_ROUNDS; round += 1) {
         const asked = wishesOf(paths, rows, leftOut);
-        plan = { rows: rows, wishes: asked.wishes, items: moves.plan(asked.wishes), ofRow: asked.ofRow, leftOut: leftOut };
+        plan = { paths: paths, rows: rows, wishes: asked.wishes, items: moves.plan(asked.wishes), ofRow: asked.ofRow, leftOut: leftOut };
         let found = 0;
         rows.forEach((row, i) => {
             const at = plan.ofRow[i];
@@ -83,16 +83,23 @@ export function itemOf(plan, i) {
     return plan.ofRow[i] >= 0 ? plan.items[plan.ofRow[i]] : null;
 }
 
-/** The items that are to be carried out, with the row each belongs to and whether it goes along with that row's own file. */
+/**
+ * The items that are to be carried out, with the row each belongs to and whether it goes along with that row's own file, which is
+ * then its leader, by its index among the items; -1 for none.
+ */
 export function readyOf(plan) {
     const ready = [];
     plan.rows.forEach((row, i) => {
         const at = plan.ofRow[i];
+        let leader = -1;
         for (let k = at; at >= 0 && plan.leftOut[i] === undefined && k <= at + row.along.length; k += 1) {
             const item = plan.items[k];
             if (item.status === "ready") {
                 const wish = plan.wishes[k];
-                ready.push({ kind: wish.kind, from: wish.from, to: item.to, row: i, along: k > at });
+                ready.push({ kind: wish.kind, from: wish.from, to: item.to, row: i, along: k > at, leader: k > at ? leader : -1 });
+            }
+            if (k === at) {
+                leader = ready.length - 1;
             }
         }
     });
@@ -108,7 +115,7 @@ export function shownName(row, item) {
  * A generator that plans. The step's rows(paths, settings, services) is a generator too: it yields {rows, from, to} as the
  * rows from..to-1 are known, which is handed on, and returns all of them.
  *
- * Returns {rows, wishes, items (of the wishes), ofRow (index of a row's wish, or -1), leftOut}. Nothing is touched.
+ * Returns {paths, rows, wishes, items (of the wishes), ofRow (index of a row's wish, or -1), leftOut}. Nothing is touched.
  */
 export function* planMoves(paths, step, settings, services) {
     const rows = yield* step.rows(paths, settings, services);

@@ -6,6 +6,7 @@
 
 import { MODES } from "./crops.js";
 import { UNITS } from "./measure.js";
+import { stepFrom } from "./name-steps.js";
 import { ORIGINAL, WRITTEN } from "./types.js";
 
 /** The newest version of the forms below. A form whose columns change their meaning gets a higher version. */
@@ -15,6 +16,10 @@ const TYPES = [ORIGINAL].concat(WRITTEN.map((type) => type.id));
 const QUALITIES = ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10"];
 const RATIOS = ["free", "original", "1:1", "3:2", "4:3", "16:9", "2:3", "3:4", "9:16"];
 const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8];
+
+// The columns for the parts of a list, each as JSON: its order is theirs, and the first empty one ends it.
+const TEXT_COLUMNS = [11, 12, 13, 14, 15, 16, 17, 18, 19, 20].concat([42, 43, 44, 45, 46, 47, 48, 49, 50, 51, 52, 53, 54, 55, 56, 57, 58, 59, 60, 61])
+    .map((number) => "StrField" + number);
 
 const OUTPUT = {
     StrField4: ["output.fileType", "text", TYPES], StrField5: ["output.quality", "text", QUALITIES],
@@ -36,7 +41,10 @@ function moveForm(process, mode, own, modes) {
     return { process: process, mode: mode, modes: modes || [], columns: Object.assign({ StrField21: ["simulation", "flag"] }, own) };
 }
 
-/** By the name of the action's step: the words for Process, the setting that stands in Action, or "", and its values, and the columns. */
+/**
+ * By the name of the action's step: the words for Process, the setting that stands in Action, or "", and its values, and the
+ * columns. A setting that is a list has {path, columns, read}: read(kept) makes a part of what was kept, or null.
+ */
 export const FORMS = {
     resize: form("Resize", "mode", {
         StrField11: ["width", "number"], StrField12: ["height", "number"], StrField13: ["longest", "number"],
@@ -54,6 +62,8 @@ export const FORMS = {
     round: form("Round Corners", "shape", {
         StrField11: ["radius", "number"], StrField12: ["color", "color"], StrField13: ["band", "number"], StrField22: ["background", "flag"],
     }, ["rectangle", "circle", "ellipse"]),
+    rename: Object.assign(moveForm("Rename", "what", { StrField22: ["sidecars", "flag"] }, ["files", "folders"]),
+                          { list: { path: "steps", columns: TEXT_COLUMNS, read: stepFrom } }),
     background: form("Background and Border", "under", {
         StrField11: ["color", "color"], StrField12: ["pattern", "text"], StrField13: ["frame", "text", ["none", "white", "band"]],
         StrField14: ["bandColor", "color"], StrField15: ["bandWidth", "number"],

@@ -131,6 +131,9 @@ export function rowOf(action, name, settings) {
         }
         row[placeOf(column)] = text;
     }
+    if (form.list !== undefined) {
+        valueAt(settings, form.list.path).forEach((part, i) => { row[placeOf(form.list.columns[i])] = encoded(JSON.stringify(part)); });
+    }
     return row;
 }
 
@@ -158,6 +161,25 @@ function slotSettings(row, form, standard) {
     return form.modes.indexOf(mode) < 0 || settings[form.slots].indexOf(null) >= 0 ? null : settings;
 }
 
+// The list of a row, or null if one of its parts is none.
+function listIn(row, list) {
+    const parts = [];
+    for (const column of list.columns.filter((each) => row[placeOf(each)] !== "")) {
+        const text = decoded(row[placeOf(column)]);
+        let part = null;
+        try {
+            part = text === null ? null : list.read(JSON.parse(text));
+        } catch (error) {
+            part = null;
+        }
+        if (part === null) {
+            return null;
+        }
+        parts.push(part);
+    }
+    return parts;
+}
+
 // The settings of a row, or null if one of its values is none.
 function settingsIn(row, form, standard) {
     const settings = copyOf(standard);
@@ -170,6 +192,13 @@ function settingsIn(row, form, standard) {
             return null;
         }
         setAt(settings, path, value);
+    }
+    const list = form.list === undefined ? [] : listIn(row, form.list);
+    if (list === null) {
+        return null;
+    }
+    if (form.list !== undefined) {
+        setAt(settings, form.list.path, list);
     }
     const mode = decoded(row[2]);
     if (form.mode !== "" && mode) {

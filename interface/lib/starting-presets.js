@@ -1,5 +1,6 @@
 // The presets that an action starts with. They are written once; whoever removes one does not get it back. Pure but for translation.
 
+import { newStep } from "./name-steps.js";
 import { keep, recall } from "./store.js";
 
 const KEY = "StartingPresets";
@@ -19,6 +20,10 @@ function longest(side, quality, folder) {
 
 function size(width, height, ratio) {
     return { mode: "size", width: width, height: height, ratio: ratio };
+}
+
+function chain(steps) {
+    return { steps: steps.map((step) => newStep(step[0], step[1])) };
 }
 
 const LISTS = {
@@ -49,6 +54,14 @@ const LISTS = {
         [qsTr("Circle portrait"), { shape: "circle" }],
         [qsTr("Ellipse"), { shape: "ellipse" }],
     ],
+    rename: () => [
+        [qsTr("Date and place"), chain([["text", { pattern: "{taken:yyyy-MM-dd} " + qsTr("place") + " {counter:001}" }], ["case", { part: "extension" }]])],
+        [qsTr("Clean for the web"), chain([["fold", { other: "-" }], ["case", { part: "both" }], ["replace", { search: " ", replacement: "-" }],
+                                           ["replace", { search: "_", replacement: "-" }]])],
+        [qsTr("Lower-case extensions"), chain([["case", { part: "extension" }]])],
+        [qsTr("Date in front"), chain([["text", { pattern: "{taken:yyyy-MM-dd} {name}" }]])],
+        [qsTr("Number behind"), chain([["text", { pattern: "{name} {counter:001}" }]])],
+    ],
     background: (patterns) => [
         [qsTr("White background"), { under: "color", color: "#ffffff" }],
         [qsTr("White frame"), { frame: "white" }],
@@ -62,7 +75,7 @@ const LISTS = {
 function laidOver(standard, changes) {
     const result = Object.assign({}, standard);
     for (const key of Object.keys(changes)) {
-        const isGroup = typeof changes[key] === "object";
+        const isGroup = typeof changes[key] === "object" && !Array.isArray(changes[key]);
         result[key] = isGroup ? laidOver(standard[key], changes[key]) : changes[key];
     }
     return result;

@@ -42,11 +42,13 @@ WindowDriver::WindowDriver(QApplication &application) : m_application(applicatio
                             "Settings-turn",
                             "Settings-round",
                             "Settings-background",
+                            "Settings-rename",
                             "Preset-resize",
                             "Preset-crop",
                             "Preset-turn",
                             "Preset-round",
                             "Preset-background",
+                            "Preset-rename",
                             "StartingPresets",
                             "SupportFilesDestination",
                             "PatternsDestination",
@@ -57,7 +59,8 @@ WindowDriver::WindowDriver(QApplication &application) : m_application(applicatio
                             "Preview",
                             "MainWindowGeometry",
                             "MainWindowbodySplitter",
-                            "MainWindowcentreSplitter"})
+                            "MainWindowcentreSplitter",
+                            "MainWindowlistSplitter"})
         platform::removeUserDefault(QString::fromLatin1(key));
     QFile::remove(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                   QStringLiteral("/quorlin/log.jsonl"));

@@ -2,13 +2,15 @@ import { FORMS, VERSION } from "../../interface/lib/preset-forms.js";
 import { decoded, encoded, fileText, freeName, nameProblem, presetOf, rowOf, rowsOfFile, storedName } from "../../interface/lib/presets.js";
 import { defaults as background } from "../../interface/steps/background.js";
 import { defaults as crop } from "../../interface/steps/crop.js";
+import { KINDS, newStep } from "../../interface/lib/name-steps.js";
+import { defaults as rename } from "../../interface/steps/rename.js";
 import { defaults as resize } from "../../interface/steps/resize.js";
 import { defaults as round } from "../../interface/steps/round.js";
 import { defaults as turn } from "../../interface/steps/turn.js";
 import { dbViewController } from "quorlin";
 import { equal, finish, isTrue, test } from "./check.js";
 
-const STANDARD = { background: background, crop: crop, resize: resize, round: round, turn: turn };
+const STANDARD = { background: background, crop: crop, rename: rename, resize: resize, round: round, turn: turn };
 const ACTIONS = Object.keys(STANDARD);
 const TEXTS = [
     "", " ", "plain", "it's", "a|b", "100 %", "%27", "%u0041", "%", "%%", "Größe – “x”", "日本語", "🙂🏔️", "e\u0301", "\ud83d", "\ude42x", "a\nb\tc\r",
@@ -54,7 +56,7 @@ for (const action of ACTIONS) {
     });
 
     test("keepsOddTexts " + action, () => {
-        for (const text of TEXTS) {
+        for (const text of STANDARD[action].output === undefined ? [] : TEXTS) {
             const settings = copyOf(STANDARD[action]);
             settings.output.destination.path = text;
             settings.output.destination.name = text + text;
@@ -72,6 +74,33 @@ for (const action of ACTIONS) {
         equal(presetOf(row, STANDARD).settings, STANDARD[action]);
     });
 }
+
+function chain(steps) {
+    return Object.assign(copyOf(rename), { steps: steps });
+}
+
+test("keepsAChainOfSteps", () => {
+    const settings = chain(KINDS.map((kind) => newStep(kind, { on: kind !== "case" })).concat(TEXTS.map((text) => newStep("around", { before: text })).slice(0, 17)));
+    equal(settings.steps.length, 30);
+    const row = rowOf("rename", "n", settings);
+    isTrue(row.length === 62 && row.every((value) => !/['|\u0000-\u001f]/.test(value)));
+    equal(presetOf(row.join("|"), STANDARD).settings, settings);
+});
+
+test("keepsOddTextsInAStep", () => {
+    for (const text of TEXTS) {
+        const settings = chain([newStep("replace", { search: text, replacement: text + text })]);
+        equal(readBack("rename", settings).settings, settings, JSON.stringify(text));
+    }
+});
+
+test("takesNoStepThatItDoesNotKnow", () => {
+    for (const text of ["{}", "nothing", "{\"kind\":\"later\",\"on\":true}", "{\"kind\":\"case\",\"mode\":\"9\"}", "[", "null", "%27"]) {
+        const row = rowOf("rename", "n", chain([newStep("case")]));
+        row[12] = text;
+        equal(presetOf(row, STANDARD).state, "damaged", text);
+    }
+});
 
 test("hasAStandardForEveryForm", () => {
     equal(Object.keys(FORMS).filter((name) => FORMS[name].slots === undefined).sort(), ACTIONS.slice().sort());
@@ -204,8 +233,14 @@ test("comesBackFromTheDatabase", () => {
     const name = "Größe 🙂 \u2019 " + Date.now();
     for (const action of ACTIONS) {
         const settings = copyOf(STANDARD[action]);
-        settings.output.destination.path = "/Bilder/Anna's 100 % | 🙂/\u0001";
-        settings.output.simulation = true;
+        const odd = "/Bilder/Anna's 100 % | 🙂/\u0001";
+        if (settings.output === undefined) {
+            settings.simulation = true;
+            settings.steps = [newStep("replace", { search: odd }), newStep("case")];
+        } else {
+            settings.output.destination.path = odd;
+            settings.output.simulation = true;
+        }
         db.insertSortingPresetToDB01(rowOf(action, name + action, settings));
         const rows = db.checkForActionType("Presets", "NameOfPreset", name + action).slice();
         db.removePresetFromDatabase("Presets", "NameOfPreset", name + action);

@@ -33,7 +33,7 @@ test("showsNewNamesAndWhatIsReady", () => {
     const made = planned(["/p/A.JPG", "/p/b.jpg"], [lower]);
     equal(made.names, ["a.jpg", "b.jpg"]);
     equal(made.states.map((state) => state.state), ["ready", "same"]);
-    equal(readyOf(made.plan), [{ kind: "move", from: "/p/A.JPG", to: "/p/a.jpg", row: 0, along: false }]);
+    equal(readyOf(made.plan), [{ kind: "move", from: "/p/A.JPG", to: "/p/a.jpg", row: 0, along: false, leader: -1 }]);
 });
 
 test("takesSidecarsAlong", () => {
@@ -42,6 +42,7 @@ test("takesSidecarsAlong", () => {
     equal(made.texts, ["ready, with its .xmp", "ready"]);
     equal(readyOf(made.plan).map((item) => item.to), ["/p/a.jpg", "/p/a.jpg.xmp", "/p/a.xmp", "/p/b.jpg"]);
     equal(readyOf(made.plan).map((item) => item.along), [false, true, true, false]);
+    equal(readyOf(made.plan).map((item) => item.leader), [-1, 0, 0, -1]);
 });
 
 test("leavesSidecarsAloneWhereThatIsWished", () => {

@@ -19,15 +19,18 @@ import { PICTURE_INPUT } from "../../lib/types.js";
 import { count } from "../../lib/wording.js";
 import { BackgroundPane } from "../../panes/background-pane.js";
 import { CropPane } from "../../panes/crop-pane.js";
+import { RenamePane } from "../../panes/rename-pane.js";
 import { ResizePane } from "../../panes/resize-pane.js";
 import { RoundPane } from "../../panes/round-pane.js";
 import { TurnPane } from "../../panes/turn-pane.js";
 import * as background from "../../steps/background.js";
 import * as crop from "../../steps/crop.js";
+import * as rename from "../../steps/rename.js";
 import * as resize from "../../steps/resize.js";
 import * as round from "../../steps/round.js";
 import * as turn from "../../steps/turn.js";
 import { LogPage } from "../log/log-page.js";
+import { MOVES } from "./moves.js";
 import { PAGE } from "./pages.js";
 import { WRITES } from "./writes.js";
 
@@ -35,6 +38,12 @@ import { WRITES } from "./writes.js";
 function onPictures(name, title, step, pane, deed) {
     return { name: name, title: title, manner: WRITES, usesList: true, step: step, pane: pane, lists: () => "pictures",
              keyword: "resize", takes: PICTURE_INPUT, deed: deed };
+}
+
+// One of four texts: for a file, files, a folder, folders.
+function renamed(settings, number, texts) {
+    const first = settings !== null && settings.what === "folders" ? 2 : 0;
+    return count(number, texts[first], texts[first + 1]);
 }
 
 export const GROUPS = [
@@ -55,7 +64,15 @@ export const GROUPS = [
     },
     {
         title: () => qsTr("Files"),
-        actions: [],
+        actions: [
+            {
+                name: "rename", title: () => qsTr("Rename"), manner: MOVES, usesList: true, step: rename, pane: RenamePane,
+                lists: (settings) => settings.what, keyword: "rename",
+                deed: (number, settings) => renamed(settings, number, [qsTr("Rename 1 File"), qsTr("Rename %1 Files"), qsTr("Rename 1 Folder"), qsTr("Rename %1 Folders")]),
+                done: (number, settings) => renamed(settings, number, [qsTr("1 file renamed"), qsTr("%1 files renamed"), qsTr("1 folder renamed"), qsTr("%1 folders renamed")]),
+                undone: (number, settings) => renamed(settings, number, [qsTr("1 file has its old name again"), qsTr("%1 files have their old names again"),
+                                                                         qsTr("1 folder has its old name again"), qsTr("%1 folders have their old names again")]),
+            },],
     },
     {
         title: () => qsTr("Information"),

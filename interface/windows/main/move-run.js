@@ -82,7 +82,7 @@ export class MoveRun extends BaseRun {
 
     begin() {
         const moves = this.window.services.moves;
-        const begun = moves.begin({ title: this.title, items: this.items.map((item) => ({ kind: item.kind, from: item.from, to: item.to })) });
+        const begun = moves.begin({ title: this.title, items: this.items.map((item) => ({ kind: item.kind, from: item.from, to: item.to, leader: item.leader })) });
         if (begun.problem) {
             this.finish(begun.problem);
         } else {
@@ -171,6 +171,7 @@ export class MoveRun extends BaseRun {
         const told = [how === "done" && value ? value : "", this.keepLog()].filter((text) => text);
         this.last = null;
         this.rowAt = null;
+        this.window.planned = {};
         this.finish([this.summaryText(how)].concat(told).join(" · "));
         this.window.reloadPreview();
     }
@@ -190,7 +191,8 @@ export class MoveRun extends BaseRun {
     lastRun() {
         if (this.last === null) {
             const moves = this.window.services.moves;
-            const newest = moves.runs()[0];
+            // An engine that keeps no runs yet has none that could be undone.
+            const newest = moves.runs === undefined ? undefined : moves.runs()[0];
             this.last = newest === undefined || newest.state === "open" || newest.done === 0
                 ? { run: null } : { run: newest, can: moves.undoable(newest.id).can };
         }

@@ -6,7 +6,7 @@ import { MoveRun } from "./move-run.js";
 
 function deedText(window) {
     const ready = window.planned.ready;
-    if (ready === 0) {
+    if (!ready) {
         return window.action.title();
     }
     const deed = window.action.deed(ready, window.settings);
@@ -15,6 +15,7 @@ function deedText(window) {
 
 function deedNote(window) {
     const planned = window.planned;
+    // After a run there is no plan until something changes.
     if (window.pictures.count === 0 || planned.ready === undefined) {
         return "";
     }
