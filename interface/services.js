@@ -1,7 +1,7 @@
 // The services that the steps use, made once for a window or a batch, with stand-ins on the outlets of the operations.
-// Services used: ZtImageHandling, cMConversion, cNSStringHandling, Picture, files, moves, pictures.
+// Services used: ZtImageHandling, cMConversion, cNSFileHandling, cNSStringHandling, Picture, files, moves, pictures.
 
-import { cMConversion, cNSStringHandling, Picture, ZtImageHandling } from "quorlin";
+import { cMConversion, cNSFileHandling, cNSStringHandling, Picture, ZtImageHandling } from "quorlin";
 import { CheckBox, ColorWell, SegmentedControl, TabView, TextField } from "quorlin/controls";
 import { files } from "quorlin/files";
 import { moves } from "quorlin/moves";
@@ -31,13 +31,14 @@ function join(image, outlets) {
     image.tfBorderWidth = outlets.bandWidth;
 }
 
-/** {image, units, files, facts, names, moves, pictures, openPicture(path), outlets, unitCache}. */
+/** {image, units, fileHandling, files, facts, names, moves, pictures, openPicture(path), outlets, unitCache}. */
 export function makeServices() {
     const outlets = makeOutlets();
     const image = new ZtImageHandling();
     join(image, outlets);
     return {
-        image: image, units: new cMConversion(), files: files, facts: new KnownFacts(files), names: new cNSStringHandling(),
+        image: image, units: new cMConversion(), fileHandling: new cNSFileHandling(), files: files,
+        facts: new KnownFacts(files), names: new cNSStringHandling(),
         pictures: pictures, moves: moves,
         openPicture: (path) => Picture.open(path), outlets: outlets, unitCache: emptyTable(),
     };

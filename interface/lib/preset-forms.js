@@ -7,6 +7,7 @@
 import { MODES } from "./crops.js";
 import { UNITS } from "./measure.js";
 import { stepFrom } from "./name-steps.js";
+import { KEYWORDS, QUALITIES as CONVERT_QUALITIES } from "./targets.js";
 import { ORIGINAL, WRITTEN } from "./types.js";
 
 /** The newest version of the forms below. A form whose columns change their meaning gets a higher version. */
@@ -68,6 +69,9 @@ export const FORMS = {
         StrField11: ["color", "color"], StrField12: ["pattern", "text"], StrField13: ["frame", "text", ["none", "white", "band"]],
         StrField14: ["bandColor", "color"], StrField15: ["bandWidth", "number"],
     }, ["color", "pattern"]),
+    convert: form("Convert", "target", {
+        StrField11: ["quality", "text", CONVERT_QUALITIES],
+    }, KEYWORDS),
     // All other columns are folders, so that the mark stands in Action, between the sub-mode of the process and the mode.
     hand: { process: "Sorting", subMode: "ByHand", mode: "mode", modes: ["move", "copy", "link"], slots: "slots", columns: {} },
 };

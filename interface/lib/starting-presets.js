@@ -69,6 +69,13 @@ const LISTS = {
         [qsTr("Ivory mount"), { frame: "band", bandColor: "#f4f0e6", bandWidth: 160 }],
         [qsTr("On paper"), { under: "pattern", pattern: patterns + "/paper.png" }],
     ],
+    convert: () => [
+        [qsTr("JPEG for everyone"), { target: "jpeg", quality: "8", output: { destination: { name: "JPEG" } } }],
+        [qsTr("Small JPEG"), { target: "jpeg", quality: "5", output: { destination: { name: "JPEG" } } }],
+        [qsTr("PNG with all metadata"), { target: "png", output: { destination: { name: "PNG" } } }],
+        [qsTr("TIFF for printing"), { target: "tiff", output: { destination: { name: "TIFF" } } }],
+        [qsTr("PDF pages"), { target: "pdf", output: { destination: { name: "PDF" } } }],
+    ],
 };
 
 // The standard settings with some of them changed.

@@ -12,6 +12,9 @@ export const WRITTEN = [
     { id: "public.jp2", extension: ".jp2", word: "JPEG 2000", profile: false, alpha: true, quality: false },
 ];
 
+/** What pictures can be converted to besides; no other action writes it. */
+export const PDF_PAGE = { id: "com.adobe.pdf", extension: ".pdf", word: "PDF", profile: true, alpha: true, quality: false };
+
 const BY_EXTENSION = {
     jpg: "public.jpeg", jpeg: "public.jpeg", jpe: "public.jpeg", png: "public.png", tif: "public.tiff",
     tiff: "public.tiff", bmp: "public.bmp", gif: "com.compuserve.gif", jp2: "public.jp2",
@@ -25,6 +28,11 @@ export const PICTURE_INPUT = ["jpg", "jpeg", "tif", "tiff", "png", "jp2", "gif",
 /** The written type of that identifier, or null. */
 export function writtenType(id) {
     return WRITTEN.find((type) => type.id === id) || null;
+}
+
+/** The written type of that identifier, or that of a page, or null. */
+export function madeType(id) {
+    return id === PDF_PAGE.id ? PDF_PAGE : writtenType(id);
 }
 
 /** The extension of a path's file name names this type; empty where it is unknown. */

@@ -139,6 +139,8 @@ export class OutputPane {
 
     /** Says what of metadata, profile and transparency the results keep; carried: the types that metadata goes into. */
     showNote(carried) {
-        this.form.control("typeNote").text = noteFor(this.output.fileType, carried);
+        const note = this.form.control("typeNote");
+        note.visible = this.offer.saysNothing !== true;
+        note.text = noteFor(this.output.fileType, carried);
     }
 }

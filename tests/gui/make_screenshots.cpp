@@ -40,7 +40,7 @@ void prepare(WindowDriver &driver, const QString &action)
 
 void showActions(WindowDriver &driver, const QString &folder, const QString &appearance)
 {
-    for (const char *action : {"crop", "turn", "round", "background"}) {
+    for (const char *action : {"crop", "turn", "round", "background", "convert"}) {
         driver.show(action);
         prepare(driver, QString::fromLatin1(action));
         const QString name = folder + QLatin1Char('/') + QString::fromLatin1(action) + QLatin1Char('-') + appearance;

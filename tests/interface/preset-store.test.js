@@ -3,13 +3,14 @@ import { rowOf } from "../../interface/lib/presets.js";
 import { startingPresets, writeStartingPresets } from "../../interface/lib/starting-presets.js";
 import { defaults as background } from "../../interface/steps/background.js";
 import * as backgroundStep from "../../interface/steps/background.js";
+import * as convertStep from "../../interface/steps/convert.js";
 import * as cropStep from "../../interface/steps/crop.js";
 import * as resizeStep from "../../interface/steps/resize.js";
 import * as roundStep from "../../interface/steps/round.js";
 import * as turnStep from "../../interface/steps/turn.js";
 import { equal, finish, isTrue, test } from "./check.js";
 
-const STEPS = { background: backgroundStep, crop: cropStep, resize: resizeStep, round: roundStep, turn: turnStep };
+const STEPS = { background: backgroundStep, convert: convertStep, crop: cropStep, resize: resizeStep, round: roundStep, turn: turnStep };
 const STANDARD = {};
 Object.keys(STEPS).forEach((name) => { STANDARD[name] = STEPS[name].defaults; });
 const PATH = "/data/BrelmarkCom/QuorlinPS.sql";

@@ -1,6 +1,7 @@
 import { FORMS, VERSION } from "../../interface/lib/preset-forms.js";
 import { decoded, encoded, fileText, freeName, nameProblem, presetOf, rowOf, rowsOfFile, storedName } from "../../interface/lib/presets.js";
 import { defaults as background } from "../../interface/steps/background.js";
+import { defaults as convert } from "../../interface/steps/convert.js";
 import { defaults as crop } from "../../interface/steps/crop.js";
 import { KINDS, newStep } from "../../interface/lib/name-steps.js";
 import { defaults as rename } from "../../interface/steps/rename.js";
@@ -10,7 +11,7 @@ import { defaults as turn } from "../../interface/steps/turn.js";
 import { dbViewController } from "quorlin";
 import { equal, finish, isTrue, test } from "./check.js";
 
-const STANDARD = { background: background, crop: crop, rename: rename, resize: resize, round: round, turn: turn };
+const STANDARD = { background: background, convert: convert, crop: crop, rename: rename, resize: resize, round: round, turn: turn };
 const ACTIONS = Object.keys(STANDARD);
 const TEXTS = [
     "", " ", "plain", "it's", "a|b", "100 %", "%27", "%u0041", "%", "%%", "Größe – “x”", "日本語", "🙂🏔️", "e\u0301", "\ud83d", "\ude42x", "a\nb\tc\r",
@@ -175,7 +176,7 @@ test("saysWhenAPresetIsDamaged", () => {
 test("takesOnlyWordsThatASettingCanHave", () => {
     for (const [action, place, value] of [["resize", 2, "depth"], ["crop", 2, "x"], ["crop", 18, "7:1"], ["crop", 22, "9"], ["round", 2, "star"],
                                           ["round", 12, "red"], ["background", 2, "fur"], ["background", 13, "gold"],
-                                          ["background", 14, "#12345"]]) {
+                                          ["background", 14, "#12345"], ["convert", 2, "jpg"], ["convert", 11, "10"]]) {
         const row = rowOf(action, "n", STANDARD[action]);
         row[place] = value;
         equal(presetOf(row, STANDARD).state, "damaged", action + " " + place + " " + value);

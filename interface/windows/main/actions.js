@@ -15,15 +15,18 @@
 // MOVES also: done(number, settings) and undone(number, settings) for the summary, with settings null where they are not known.
 // PAGE also: page, a class made with (window, action) that has form and show(), and may have leave(), mayLeave(), listChanged().
 
+import { CONVERTED_INPUT } from "../../lib/targets.js";
 import { PICTURE_INPUT } from "../../lib/types.js";
 import { count } from "../../lib/wording.js";
 import { BackgroundPane } from "../../panes/background-pane.js";
+import { ConvertPane } from "../../panes/convert-pane.js";
 import { CropPane } from "../../panes/crop-pane.js";
 import { RenamePane } from "../../panes/rename-pane.js";
 import { ResizePane } from "../../panes/resize-pane.js";
 import { RoundPane } from "../../panes/round-pane.js";
 import { TurnPane } from "../../panes/turn-pane.js";
 import * as background from "../../steps/background.js";
+import * as convert from "../../steps/convert.js";
 import * as crop from "../../steps/crop.js";
 import * as rename from "../../steps/rename.js";
 import * as resize from "../../steps/resize.js";
@@ -65,6 +68,9 @@ export const GROUPS = [
     {
         title: () => qsTr("Files"),
         actions: [
+            Object.assign(onPictures("convert", () => qsTr("Convert"), convert, ConvertPane,
+                                     (number) => count(number, qsTr("Convert 1 Picture"), qsTr("Convert %1 Pictures"))),
+                          { keyword: "rename", takes: CONVERTED_INPUT }),
             {
                 name: "rename", title: () => qsTr("Rename"), manner: MOVES, usesList: true, step: rename, pane: RenamePane,
                 lists: (settings) => settings.what, keyword: "rename",
@@ -72,7 +78,8 @@ export const GROUPS = [
                 done: (number, settings) => renamed(settings, number, [qsTr("1 file renamed"), qsTr("%1 files renamed"), qsTr("1 folder renamed"), qsTr("%1 folders renamed")]),
                 undone: (number, settings) => renamed(settings, number, [qsTr("1 file has its old name again"), qsTr("%1 files have their old names again"),
                                                                          qsTr("1 folder has its old name again"), qsTr("%1 folders have their old names again")]),
-            },],
+            },
+        ],
     },
     {
         title: () => qsTr("Information"),

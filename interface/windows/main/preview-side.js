@@ -3,7 +3,7 @@
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
-import { writtenType } from "../../lib/types.js";
+import { madeType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { carriedBy, lossText } from "../../lib/written.js";
 
@@ -23,7 +23,7 @@ function originalCaption(photo) {
 
 // bytes: what the file will about have, -1 while that is not known.
 function resultCaption(planned, shown, bytes) {
-    const type = writtenType(planned.type);
+    const type = madeType(planned.type);
     const parts = [pixelsText(planned), type.word];
     if (type.quality && shown.quality) {
         parts.push(fill(qsTr("quality %1"), shown.quality));
@@ -66,14 +66,22 @@ export class PreviewSide {
         const shown = ready ? this.window.action.step.preview(photo, this.window.settings, planned, this.window.services) : null;
         this.shown = ready ? { planned: planned, result: shown } : null;
         this.showFrame(photo, planned);
-        this.view.setNotes(ready ? lossText(photo, planned.type, carriedBy(this.window.action.step, this.window.settings)) : "");
+        this.view.setNotes(ready ? this.lostText(photo, planned) : "");
         this.view.showResult(ready ? Object.assign({ message: "" }, shown) : nothing(planned === null ? "" : planned.reason));
         this.showCaptions(this.view.estimatedBytes);
     }
 
+    // A step may know better than the types of the output block what gets lost.
+    lostText(photo, planned) {
+        const step = this.window.action.step;
+        const settings = this.window.settings;
+        return step.lost === undefined ? lossText(photo, planned.type, carriedBy(step, settings)) : step.lost(photo, settings);
+    }
+
     showCaptions(bytes) {
         const shown = this.shown;
-        this.view.setCaptions(this.caption, shown === null ? "" : resultCaption(shown.planned, shown.result, bytes));
+        const known = shown === null || shown.result.bytes === undefined ? bytes : shown.result.bytes;
+        this.view.setCaptions(this.caption, shown === null ? "" : resultCaption(shown.planned, shown.result, known));
     }
 
     // The frame of an action that has one, drawn by the service itself.
