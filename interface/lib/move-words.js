@@ -46,19 +46,23 @@ function readyText(row, item) {
     if (item.code === "aside") {
         return fill(qsTr("changes places with %1: done in two steps"), nameOf(item.other));
     }
+    if (item.code === "case" && row.along.length > 0) {
+        return fill(qsTr("ready, with its %1"), companions(row));
+    }
     const words = { numbered: qsTr("ready, numbered because the name is taken"), disk: qsTr("ready, onto another disk"),
                     "case": qsTr("ready, only the case changes") };
     return words[item.code] || (row.along.length > 0 ? fill(qsTr("ready, with its %1"), companions(row)) : qsTr("ready"));
 }
 
 function ready(row, item) {
-    const notes = row.notes.concat(row.along.length > 0 && item.code !== "" ? [fill(qsTr("Goes with its %1."), companions(row))] : []);
+    const isPlainMove = item.code === "" || item.code === "case";
+    const notes = row.notes.concat(row.along.length > 0 && !isPlainMove ? [fill(qsTr("Goes with its %1."), companions(row))] : []);
     if (row.caution !== "") {
         const text = readyText(row, item);
         return { state: "ready", kind: "caution", text: row.caution, detail: [row.caution, text].concat(notes).join("\n") };
     }
-    const isPlain = item.code === "" && row.notes.length === 0;
-    const text = item.code === "" && row.notes.length > 0 ? fill(qsTr("ready, but %1"), row.notes[0]) : readyText(row, item);
+    const isPlain = isPlainMove && row.notes.length === 0;
+    const text = isPlainMove && row.notes.length > 0 ? fill(qsTr("ready, but %1"), row.notes[0]) : readyText(row, item);
     return { state: "ready", kind: isPlain ? "good" : item.code === "aside" ? "waiting" : "caution", text: text,
              detail: [text].concat(notes).join("\n") };
 }

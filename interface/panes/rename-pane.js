@@ -13,6 +13,8 @@ const WHAT = ["files", "folders"];
 // What stands for a file where the list is empty.
 const SAMPLE = { path: "/IMG_2041.JPG", facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
                                                  camera: "Canon EOS 40D", lens: "EF 50mm f/1.4", type: "JPEG", bytes: 4100000, width: 4032, height: 3024 } };
+// About the height of a closed card and the gap behind it.
+const CARD_PX = 84;
 const SAMPLE_FOLDER = "/Holiday 2026";
 
 function copyOf(step) {
@@ -155,23 +157,19 @@ export class RenamePane extends Pane {
         return true;
     }
 
-    // The card that was pressed keeps the pointer; its step wanders from card to card as the pointer passes their middles.
+    // The card that was pressed keeps the pointer; its step wanders from card to card, one for each height of a closed card.
     drag(index, by) {
         if (this.dragged === null) {
-            this.dragged = { at: index, passed: 0 };
+            this.dragged = { from: index, at: index };
             this.open = -1;
             this.showCards();
         }
         const drag = this.dragged;
-        const direction = by > drag.passed ? 1 : -1;
-        const next = this.cards[drag.at + direction];
-        if (next === undefined || next.step === null) {
-            return;
-        }
-        const height = next.control("renameCard").height + 8;
-        if (Math.abs(by - drag.passed) > height / 2 + 4 && this.swap(drag.at, drag.at + direction)) {
-            drag.at += direction;
-            drag.passed += direction * height;
+        const wanted = Math.max(0, Math.min(this.settings.steps.length - 1, drag.from + Math.round(by / CARD_PX)));
+        while (drag.at !== wanted) {
+            const next = drag.at + (wanted > drag.at ? 1 : -1);
+            this.swap(drag.at, next);
+            drag.at = next;
         }
     }
 
