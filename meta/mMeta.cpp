@@ -69,7 +69,7 @@ QStringList mMeta::hGetPixelFormat(const QString &path)
 
 QString mMeta::hSetExifData(const QString &path, const QString &comment)
 {
-    if (!ImageSource::open(path))
+    if (!ImageSource::canOpen(path))
         return QStringLiteral("Failed");
     // Whether it could be written is not told here; the file is whole and as it was if it could not.
     const platform::Result<void> written = platform::writeUserComment(path, comment);

@@ -50,9 +50,11 @@ bool jpegEndIsThere(QIODevice &file)
     const qint64 first = startOfJpegScan(file);
     if (first < 0)
         return false;
+    constexpr qint64 lastBytes = 1024; // mostly nothing follows
     constexpr qint64 step = 65536;
-    for (qint64 end = file.size(); end > first;) {
-        const qint64 begin = std::max(first, end - step);
+    const qint64 size = file.size();
+    for (qint64 end = size; end > first;) {
+        const qint64 begin = std::max(first, end - (end == size ? lastBytes : step));
         const QByteArray bytes = bytesAt(file, begin, end - begin);
         if (bytes.contains("\xFF\xD9"))
             return true;

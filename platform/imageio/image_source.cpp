@@ -100,6 +100,15 @@ Result<void> readHeader(File &file)
     return {};
 }
 
+/** The decoder of JPEG judges its header by itself, without all that reads the metadata for an image. */
+bool isSoundJpeg(QIODevice &device)
+{
+    if (!endIsThere(device, Content::Jpeg) || !device.seek(0))
+        return false;
+    const std::optional<JpegHeader> header = readJpegHeader(device);
+    return header && fitsMemoryBudget(header->size.width(), header->size.height(), header->componentCount, 1);
+}
+
 Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
 {
     auto file = std::make_shared<File>();
@@ -199,6 +208,14 @@ Result<ImageSource> ImageSource::open(const QString &path)
 Result<ImageSource> ImageSource::fromData(const QByteArray &bytes)
 {
     return opened({{}, bytes}).map([](std::shared_ptr<const File> file) { return ImageSource(std::move(file)); });
+}
+
+bool ImageSource::canOpen(const QString &path)
+{
+    if (const std::unique_ptr<QIODevice> device = PictureBytes{path, {}}.device())
+        if (contentOf(device->read(contentHeadBytes)) == Content::Jpeg)
+            return isSoundJpeg(*device);
+    return open(path).has_value();
 }
 
 QString ImageSource::path() const

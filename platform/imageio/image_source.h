@@ -36,6 +36,9 @@ public:
     static Result<ImageSource> open(const QString &path);
     static Result<ImageSource> fromData(const QByteArray &bytes);
 
+    /** True where open() gives a picture; cheaper for a JPEG, of which it reads little more than its header. */
+    static bool canOpen(const QString &path);
+
     bool isNull() const { return !m_file; }
     /** True for two values that share the same opened file. */
     bool operator==(const ImageSource &other) const = default;

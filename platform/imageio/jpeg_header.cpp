@@ -46,6 +46,7 @@ void skipBytes(j_decompress_ptr info, long count)
 void readTables(const jpeg_decompress_struct &info, JpegHeader &header)
 {
     header.componentCount = info.num_components;
+    header.size = QSize(int(info.image_width), int(info.image_height));
     const int known = std::min(info.num_components, int(header.quantisation.tableOfComponent.size()));
     for (int component = 0; component < known; ++component)
         header.quantisation.tableOfComponent[size_t(component)] = info.comp_info[component].quant_tbl_no;

@@ -3,6 +3,7 @@
 #include "platform/graphics/bitmap.h"
 
 #include <QIODevice>
+#include <QSize>
 
 namespace platform {
 
@@ -11,6 +12,7 @@ struct JpegHeader
 {
     JpegQuantisation quantisation;
     int componentCount = 0;
+    QSize size;               ///< pixels as stored
     double horizontalDpi = 0; ///< of the JFIF segment; 0 where there is none or it names no unit
     double verticalDpi = 0;
 };

@@ -37,7 +37,7 @@ private:
     QByteArray entry(quint16 tag, quint16 type, quint64 count, const QByteArray &field) const;
     QByteArray pointerTo(quint64 directory) const;
     bool isShared(const TiffRange &range) const;
-    bool isAtTheEnd(const TiffRange &range) const;
+    TiffRange roomOf(const TiffRange &range) const;
 
     const QByteArray &m_bytes;
     TiffTree m_tree;
@@ -128,22 +128,27 @@ bool CommentEditor::isShared(const TiffRange &range) const
     return users > 1; // the comment itself is one
 }
 
-bool CommentEditor::isAtTheEnd(const TiffRange &range) const
+/** A shorter comment left zeros behind itself, which are room for a longer one where nothing follows. */
+TiffRange CommentEditor::roomOf(const TiffRange &range) const
 {
-    return range.end() == m_kept || (range.end() + 1 == m_kept && m_bytes.at(range.end()) == '\0');
+    const TiffRange toTheEnd{range.start, m_kept - range.start};
+    const auto first = m_bytes.begin() + range.end();
+    const bool isFree = std::all_of(first, m_bytes.begin() + m_kept, [](char byte) { return byte == '\0'; });
+    return isFree && !isShared(toTheEnd) ? toTheEnd : range;
 }
 
 void CommentEditor::replaceComment(const TiffTag &tag)
 {
     const bool hasPlace = tag.isSound && !tag.isInline && tag.value.end() <= m_kept && !isShared(tag.value);
-    const bool hasRoom = hasPlace && tag.value.size >= m_value.size() && m_value.size() > form().offsetSize();
+    const TiffRange room = hasPlace ? roomOf(tag.value) : TiffRange();
+    const bool hasRoom = room.size >= m_value.size() && m_value.size() > form().offsetSize();
     if (hasRoom) {
         overwrite(tag.at, entry(userCommentTag, undefinedType, quint64(m_value.size()),
                                 form().bytes(quint64(tag.value.start), form().offsetSize())));
-        overwrite(tag.value.start, m_value.leftJustified(tag.value.size, '\0'));
+        overwrite(room.start, m_value.leftJustified(room.size, '\0'));
         return;
     }
-    if (hasPlace && isAtTheEnd(tag.value))
+    if (hasPlace && room.end() == m_kept)
         m_kept = tag.value.start;
     else if (hasPlace) // what was said before does not stay in the file
         overwrite(tag.value.start, QByteArray(tag.value.size, '\0'));

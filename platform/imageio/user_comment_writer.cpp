@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace platform {
@@ -53,14 +54,15 @@ Result<void> writeUserComment(const QString &path, const QString &comment)
     const auto failed = [&](ErrorCode code, const QString &reason) {
         return failure(code, text("Cannot write the comment into %1: %2").arg(path, reason));
     };
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return failed(ErrorCode::NotFound, file.errorString());
     const Result<QList<Splice>> splices = splicesFor(file, contentOf(file.read(contentHeadBytes)), comment);
     if (!splices)
         return failed(splices.error().code, splices.error().message);
     if (changeNothing(file, *splices))
         return {};
-    if (::access(QFile::encodeName(path).constData(), W_OK) != 0) // whoever protected it meant it
+    if (::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), W_OK, AT_EACCESS) !=
+        0) // whoever protected it meant it
         return failed(ErrorCode::WriteFailed, text("the file is write-protected"));
     return spliceFile(file, *splices);
 }

@@ -35,6 +35,19 @@ class ImageSources : public QObject
 private Q_SLOTS:
     void findsTheSharedPictures() { QVERIFY(expected::rows().size() > 100); }
 
+    void saysBeforehandWhetherItOpens_data()
+    {
+        QTest::addColumn<QString>("name");
+        rowsOf(QString());
+    }
+
+    void saysBeforehandWhetherItOpens()
+    {
+        QFETCH(QString, name);
+        const QString path = rowNamed(name).path;
+        QCOMPARE(ImageSource::canOpen(path), ImageSource::open(path).has_value());
+    }
+
     void tellsTheFacts_data()
     {
         QTest::addColumn<QString>("name");

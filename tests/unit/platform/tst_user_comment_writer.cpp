@@ -1,0 +1,330 @@
+#include "platform/imageio/image_source.h"
+#include "platform/imageio/user_comment_writer.h"
+#include "tests/support/scratch_folder.h"
+#include "tests/support/test_pictures.h"
+
+#include <QBuffer>
+#include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/xattr.h>
+
+using platform::ErrorCode;
+using platform::ImageSource;
+using platform::writeUserComment;
+
+namespace {
+
+QByteArray encoded(const char *format, int width = 24, int height = 16)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    pictures::gradient(width, height).save(&buffer, format);
+    return bytes;
+}
+
+QByteArray corpusFile(const char *name)
+{
+    return pictures::bytesOf(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromUtf8(name));
+}
+
+QString commentOf(const QString &path)
+{
+    const auto source = ImageSource::open(path);
+    return source ? source->metadata().userComment() : QStringLiteral("cannot be opened");
+}
+
+/** From the header of the first scan to the end of the file. */
+QByteArray scanOf(const QByteArray &jpeg)
+{
+    return jpeg.mid(jpeg.indexOf(QByteArray("\xff\xda\0\x0c", 4)));
+}
+
+ErrorCode codeOf(const platform::Result<void> &result)
+{
+    return result ? ErrorCode(-1) : result.error().code;
+}
+
+} // namespace
+
+/** The comment written into files: what changes, what does not, and what is left when it cannot be done. */
+class TestUserCommentWriter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsTheTextInEveryTypeThatHoldsOne_data();
+    void keepsTheTextInEveryTypeThatHoldsOne();
+    void leavesTypesWithoutAPlaceForItAsTheyAre_data();
+    void leavesTypesWithoutAPlaceForItAsTheyAre();
+    void copiesTheScanAndWhatFollowsIt();
+    void doesNotGrowWithEachEdit();
+    void leavesNothingOfTheOldComment();
+    void changesNothingWhereItSaysThatAlready();
+    void keepsTheFirstPageOfATiffFile();
+    void keepsModeAndAttributes();
+    void replacesALinkAndNotWhatItLeadsTo();
+    void refusesACommentThatDoesNotFit();
+    void refusesAWriteProtectedFile();
+    void refusesAFolderThatCannotBeWritten();
+    void leavesTheFileWhenTheDiskIsFull();
+    void failsForWhatIsNotThere();
+};
+
+void TestUserCommentWriter::keepsTheTextInEveryTypeThatHoldsOne_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("jpeg") << encoded("jpg");
+    QTest::newRow("png") << encoded("png");
+    QTest::newRow("tiff") << encoded("tiff");
+    QTest::newRow("webp without EXIF") << corpusFile("formats/iss634.webp");
+    QTest::newRow("webp with EXIF") << corpusFile("orientation/hopper_orientation_6.webp");
+    QTest::newRow("jpeg 2000") << corpusFile("formats/Reagan.jp2");
+    QTest::newRow("big TIFF") << corpusFile("formats/hopper_bigtiff.tif");
+    QTest::newRow("png with EXIF behind its pixels") << corpusFile("formats/exif.png");
+    QTest::newRow("png with EXIF as a text") << corpusFile("orientation/exif_imagemagick_orientation.png");
+    QTest::newRow("big-endian maker notes") << corpusFile("exif-real/DSCN0010.jpg");
+    QTest::newRow("little-endian maker notes") << corpusFile("exif-real/Canon_40D.jpg");
+    QTest::newRow("damaged EXIF") << corpusFile("broken/invalid-exif.jpg");
+    QTest::newRow("bytes between the segments") << corpusFile("broken/junk_jpeg_header.jpg");
+}
+
+void TestUserCommentWriter::keepsTheTextInEveryTypeThatHoldsOne()
+{
+    QFETCH(QByteArray, bytes);
+    if (bytes.isEmpty())
+        QSKIP("no shared pictures");
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a", bytes));
+    const auto before = ImageSource::open(folder.path("a"));
+    const QStringList comments = {QStringLiteral("short"), QStringLiteral("Grüße Ωμέγα 日本語 😀"),
+                                  QString(3000, QChar(u'Ж')), QStringLiteral(""), QStringLiteral("again")};
+    for (const QString &comment : comments) {
+        const auto written = writeUserComment(folder.path("a"), comment);
+        QVERIFY2(written, written ? "" : qPrintable(written.error().message));
+        QCOMPARE(commentOf(folder.path("a")), comment);
+    }
+    QVariantMap was = before->properties();
+    QVariantMap is = ImageSource::open(folder.path("a"))->properties();
+    for (QVariantMap *properties : {&was, &is}) {
+        QVariantMap exif = properties->value(QStringLiteral("{Exif}")).toMap();
+        exif.remove(QStringLiteral("UserComment"));
+        properties->insert(QStringLiteral("{Exif}"), exif);
+    }
+    QCOMPARE(is, was);
+    QCOMPARE(folder.names(), QStringList{QStringLiteral("a")});
+}
+
+void TestUserCommentWriter::leavesTypesWithoutAPlaceForItAsTheyAre_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("code");
+    QTest::newRow("bmp") << encoded("bmp") << int(ErrorCode::Unsupported);
+    QTest::newRow("gif") << QByteArray("GIF89a\1\0\1\0\0\0\0;", 14) << int(ErrorCode::Unsupported);
+    QTest::newRow("text") << QByteArray("no picture") << int(ErrorCode::NotAPicture);
+    QTest::newRow("nothing") << QByteArray() << int(ErrorCode::NotAPicture);
+    QTest::newRow("jpeg that ends in its header") << encoded("jpg").left(40) << int(ErrorCode::Unreadable);
+    QTest::newRow("png without a header") << encoded("png").left(8) << int(ErrorCode::Unreadable);
+    QTest::newRow("webp without parts") << QByteArray("RIFF\4\0\0\0WEBP", 12) << int(ErrorCode::Unreadable);
+    QTest::newRow("bare JPEG 2000") << QByteArray("\xff\x4f\xff\x51\0\0\0\0", 8) << int(ErrorCode::Unsupported);
+}
+
+void TestUserCommentWriter::leavesTypesWithoutAPlaceForItAsTheyAre()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, code);
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a", bytes));
+    const auto written = writeUserComment(folder.path("a"), QStringLiteral("x"));
+    QCOMPARE(int(codeOf(written)), code);
+    QVERIFY(written.error().message.contains(folder.path("a")));
+    QCOMPARE(folder.read("a"), bytes);
+    QCOMPARE(folder.names(), QStringList{QStringLiteral("a")});
+}
+
+void TestUserCommentWriter::copiesTheScanAndWhatFollowsIt()
+{
+    const ScratchFolder folder;
+    const QByteArray jpeg = encoded("jpg") + "trailing data\0\xff\xd8 that is no picture";
+    QVERIFY(folder.write("a.jpg", jpeg));
+    QVERIFY(writeUserComment(folder.path("a.jpg"), QStringLiteral("x")));
+    const QByteArray after = folder.read("a.jpg");
+    QCOMPARE(scanOf(after), scanOf(jpeg));
+    const qsizetype segment = after.indexOf("\xff\xe1");
+    const qsizetype size = uchar(after.at(segment + 2)) * 256 + uchar(after.at(segment + 3)) + 2;
+    QCOMPARE(QByteArray(after).remove(segment, size), jpeg);
+}
+
+void TestUserCommentWriter::doesNotGrowWithEachEdit()
+{
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a.jpg", encoded("jpg")));
+    QVERIFY(writeUserComment(folder.path("a.jpg"), QStringLiteral("short")));
+    const qsizetype small = folder.read("a.jpg").size();
+    for (int i = 0; i < 50; ++i) {
+        QVERIFY(writeUserComment(folder.path("a.jpg"), QString(200 + i, QChar(u'a' + i % 26))));
+        QVERIFY(writeUserComment(folder.path("a.jpg"), QStringLiteral("short")));
+    }
+    QVERIFY(folder.read("a.jpg").size() <= small + 260);
+}
+
+void TestUserCommentWriter::leavesNothingOfTheOldComment()
+{
+    const ScratchFolder folder;
+    for (const QByteArray &picture : {encoded("jpg"), encoded("tiff"), corpusFile("exif-real/uc-ascii.jpg")}) {
+        QVERIFY(folder.write("a", picture));
+        for (const char *text : {"a secret that somebody told", "x", "something much longer than the secret was",
+                                 "another secret", "something even much longer than the secret was"})
+            QVERIFY(writeUserComment(folder.path("a"), QString::fromLatin1(text)));
+        QVERIFY(!folder.read("a").contains("secret that"));
+        QVERIFY(!folder.read("a").contains("another"));
+    }
+}
+
+void TestUserCommentWriter::changesNothingWhereItSaysThatAlready()
+{
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a.jpg", encoded("jpg")));
+    QVERIFY(writeUserComment(folder.path("a.jpg"), QStringLiteral("the same")));
+    struct stat before = {};
+    struct stat after = {};
+    ::stat(QFile::encodeName(folder.path("a.jpg")).constData(), &before);
+    QVERIFY(writeUserComment(folder.path("a.jpg"), QStringLiteral("the same")));
+    ::stat(QFile::encodeName(folder.path("a.jpg")).constData(), &after);
+    QCOMPARE(after.st_ino, before.st_ino);
+}
+
+void TestUserCommentWriter::keepsTheFirstPageOfATiffFile()
+{
+    const QByteArray pages = corpusFile("formats/g4-multi.tiff");
+    if (pages.isEmpty())
+        QSKIP("no shared pictures");
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a.tiff", pages));
+    const auto before = ImageSource::open(folder.path("a.tiff"));
+    QVERIFY(before->imageCount() > 1);
+    const QImage first = before->decode()->toRawImage();
+    QVERIFY(writeUserComment(folder.path("a.tiff"), QStringLiteral("x")));
+    const auto after = ImageSource::open(folder.path("a.tiff"));
+    QCOMPARE(after->imageCount(), 1);
+    QCOMPARE(after->decode()->toRawImage(), first);
+    QCOMPARE(after->metadata().userComment(), QStringLiteral("x"));
+    QVERIFY(folder.read("a.tiff").size() < pages.size()); // the other pages' pixels went with them
+}
+
+void TestUserCommentWriter::keepsModeAndAttributes()
+{
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a.jpg", encoded("jpg")));
+    const QByteArray path = QFile::encodeName(folder.path("a.jpg"));
+    QVERIFY(folder.allow("a.jpg", 0640));
+    const bool isRoot = ::geteuid() == 0;
+    if (isRoot)
+        QCOMPARE(::chown(path.constData(), 1234, 4321), 0);
+    const bool hasAttributes = ::setxattr(path.constData(), "user.xdg.tags", "red,blue", 8, 0) == 0;
+    QVERIFY(writeUserComment(folder.path("a.jpg"), QStringLiteral("x")));
+    struct stat after = {};
+    QCOMPARE(::stat(path.constData(), &after), 0);
+    QCOMPARE(after.st_mode & 07777, mode_t(0640));
+    if (isRoot)
+        QCOMPARE(qMakePair(after.st_uid, after.st_gid), qMakePair(uid_t(1234), gid_t(4321)));
+    if (!hasAttributes)
+        QSKIP("no extended attributes here");
+    QByteArray tags(16, '\0');
+    QCOMPARE(::getxattr(path.constData(), "user.xdg.tags", tags.data(), size_t(tags.size())), ssize_t(8));
+    QCOMPARE(tags.left(8), QByteArray("red,blue"));
+}
+
+void TestUserCommentWriter::replacesALinkAndNotWhatItLeadsTo()
+{
+    const ScratchFolder folder;
+    const QByteArray jpeg = encoded("jpg");
+    QVERIFY(folder.write("archive/a.jpg", jpeg));
+    QVERIFY(folder.allow("archive/a.jpg", 0600));
+    QVERIFY(folder.link("archive/a.jpg", "link.jpg"));
+    QVERIFY(writeUserComment(folder.path("link.jpg"), QStringLiteral("x")));
+    QCOMPARE(folder.read("archive/a.jpg"), jpeg);
+    QVERIFY(!QFileInfo(folder.path("link.jpg")).isSymLink());
+    QCOMPARE(commentOf(folder.path("link.jpg")), QStringLiteral("x"));
+    QCOMPARE(QFile::permissions(folder.path("link.jpg")) & QFile::ReadOther, QFile::Permissions());
+}
+
+void TestUserCommentWriter::refusesACommentThatDoesNotFit()
+{
+    const ScratchFolder folder;
+    for (const auto &[picture, fits] :
+         {std::pair(encoded("jpg"), false), {encoded("png"), true}, {encoded("tiff"), true}}) {
+        QVERIFY(folder.write("a", picture));
+        const auto written = writeUserComment(folder.path("a"), QString(70'000, QChar(u'x')));
+        QCOMPARE(int(codeOf(written)), int(fits ? ErrorCode(-1) : ErrorCode::TooLarge));
+        QCOMPARE(folder.read("a") == picture, !fits);
+    }
+}
+
+void TestUserCommentWriter::refusesAWriteProtectedFile()
+{
+    const ScratchFolder folder;
+    const QByteArray jpeg = encoded("jpg");
+    QVERIFY(folder.write("a.jpg", jpeg));
+    QVERIFY(folder.allow("a.jpg", 0444) && folder.allow("", 0777));
+    const Nobody nobody;
+    if (!nobody.ready())
+        QSKIP("cannot become somebody else");
+    if (::geteuid() == 0)
+        QSKIP("nothing is forbidden to this user");
+    QVERIFY(!writeUserComment(folder.path("a.jpg"), QStringLiteral("x")));
+    QCOMPARE(folder.read("a.jpg"), jpeg);
+    QCOMPARE(folder.names(), QStringList{QStringLiteral("a.jpg")});
+}
+
+void TestUserCommentWriter::refusesAFolderThatCannotBeWritten()
+{
+    const ScratchFolder folder;
+    const QByteArray jpeg = encoded("jpg");
+    QVERIFY(folder.write("in/a.jpg", jpeg));
+    QVERIFY(folder.allow("in/a.jpg", 0666) && folder.allow("in", 0555) && folder.allow("", 0755));
+    {
+        const Nobody nobody;
+        if (!nobody.ready())
+            QSKIP("cannot become somebody else");
+        QCOMPARE(int(codeOf(writeUserComment(folder.path("in/a.jpg"), QStringLiteral("x")))),
+                 int(ErrorCode::WriteFailed));
+    }
+    QCOMPARE(folder.read("in/a.jpg"), jpeg);
+    QCOMPARE(folder.names("in"), QStringList{QStringLiteral("a.jpg")});
+    QVERIFY(folder.allow("in", 0755));
+}
+
+void TestUserCommentWriter::leavesTheFileWhenTheDiskIsFull()
+{
+    const ScratchFolder folder;
+    const QByteArray jpeg = encoded("jpg", 300, 300);
+    QVERIFY(folder.write("a.jpg", jpeg));
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before = {};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    for (const rlim_t size : {rlim_t(0), rlim_t(1), rlim_t(100), rlim_t(jpeg.size())}) {
+        rlimit small = before;
+        small.rlim_cur = size;
+        ::setrlimit(RLIMIT_FSIZE, &small);
+        const auto written = writeUserComment(folder.path("a.jpg"), QStringLiteral("x"));
+        ::setrlimit(RLIMIT_FSIZE, &before);
+        QCOMPARE(int(codeOf(written)), int(ErrorCode::WriteFailed));
+        QCOMPARE(folder.read("a.jpg"), jpeg);
+        QCOMPARE(folder.names(), QStringList{QStringLiteral("a.jpg")});
+    }
+}
+
+void TestUserCommentWriter::failsForWhatIsNotThere()
+{
+    const ScratchFolder folder;
+    QCOMPARE(int(codeOf(writeUserComment(folder.path("none.jpg"), QStringLiteral("x")))), int(ErrorCode::NotFound));
+    QCOMPARE(int(codeOf(writeUserComment(folder.path(), QStringLiteral("x")))), int(ErrorCode::NotFound));
+    QCOMPARE(int(codeOf(writeUserComment(QString(), QStringLiteral("x")))), int(ErrorCode::NotFound));
+    QCOMPARE(folder.names(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestUserCommentWriter)
+#include "tst_user_comment_writer.moc"
