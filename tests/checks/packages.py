@@ -13,7 +13,7 @@ from pathlib import Path
 
 import source_tree as tree
 
-GROUPS = {"build", "run", "test", "lint", "package", "bench"}
+GROUPS = {"build", "run", "test", "lint", "package", "bench", "fuzz"}
 # What every Debian has: essential packages, bash and what a shell provides itself.
 ALWAYS = set("""apt-get awk basename bash cat cd chmod cmp comm cp cut date df dirname dpkg-query du echo env exec exit
     export find grep gzip head id kill ln ls mapfile mkdir mktemp mv nice printf read rm sed seq set sh sha256sum sleep
