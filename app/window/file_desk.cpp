@@ -11,9 +11,11 @@
 #include "platform/imageio/orientation_mark.h"
 
 #include <QCollator>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSet>
 #include <QStandardPaths>
 
@@ -295,6 +297,12 @@ QVariant FileDesk::readText(const QString &path) const
 QString FileDesk::byteText(double bytes) const
 {
     return window::byteText(qint64(bytes));
+}
+
+QString FileDesk::dateText(const QString &date) const
+{
+    const QDateTime read = QDateTime::fromString(date, Qt::ISODate);
+    return read.isValid() ? QLocale().toString(read, QLocale::ShortFormat) : QString();
 }
 
 } // namespace window

@@ -94,6 +94,8 @@ public:
     Q_INVOKABLE QVariant readText(const QString &path) const;
 
     Q_INVOKABLE QString byteText(double bytes) const;
+    /** A local date and time such as "2026-08-14T10:20:30" in the reader's own form; empty for what is none. */
+    Q_INVOKABLE QString dateText(const QString &date) const;
 };
 
 } // namespace window

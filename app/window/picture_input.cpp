@@ -69,4 +69,29 @@ void PictureTable::setPath(int id, const QString &path)
         m_model.setPath(index, path);
 }
 
+void PictureTable::removeIds(const QVariantList &ids)
+{
+    QList<int> gone;
+    for (const QVariant &id : ids)
+        gone.append(id.toInt());
+    if (gone.isEmpty())
+        return;
+    m_model.removeIds(gone);
+    countTaken();
+    m_headersUpTo = 0;
+    chooseSomeRow();
+    if (m_order.rowCount() == 0)
+        Q_EMIT currentPictureChanged(0);
+    Q_EMIT countChanged(count());
+    wakeLoader();
+}
+
+QString PictureTable::pathBeside(int rows) const
+{
+    const int row = currentIndex().row() + rows;
+    return currentIndex().isValid() && row >= 0 && row < m_order.rowCount()
+               ? m_model.row(m_order.mapToSource(m_order.index(row, 0)).row()).path
+               : QString();
+}
+
 } // namespace window

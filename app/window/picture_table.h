@@ -19,6 +19,8 @@ class PictureTable : public QTableView
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(int currentId READ currentId NOTIFY currentPictureChanged)
+    /** The place of the current picture in the list as it is shown, from 1; 0 where there is none. */
+    Q_PROPERTY(int currentPlace READ currentPlace NOTIFY currentPictureChanged)
     Q_PROPERTY(bool problemsOnly READ problemsOnly WRITE setProblemsOnly)
     Q_PROPERTY(bool busy READ isBusy WRITE setBusy)
 
@@ -27,6 +29,7 @@ public:
 
     int count() const;
     int currentId() const;
+    int currentPlace() const { return currentIndex().isValid() ? currentIndex().row() + 1 : 0; }
     bool problemsOnly() const { return m_order.problemsOnly(); }
     void setProblemsOnly(bool on);
     bool isBusy() const { return m_busy; }
@@ -50,7 +53,10 @@ public:
     /** Adds the paths that are not in the list yet; returns how many those were. */
     Q_INVOKABLE int addPaths(const QStringList &paths);
     Q_INVOKABLE void removeSelected();
+    Q_INVOKABLE void removeIds(const QVariantList &ids);
     Q_INVOKABLE void removeAll();
+    /** The path of the picture that is @p rows behind the current one, as the list is shown; empty beyond its ends. */
+    Q_INVOKABLE QString pathBeside(int rows) const;
     /** The ids of all pictures, in the order shown; in the order of adding while a filter hides some. */
     Q_INVOKABLE QVariantList ids() const;
     /** The paths of all pictures, in the order of ids(). */

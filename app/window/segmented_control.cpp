@@ -113,6 +113,17 @@ void SegmentedControl::mousePressEvent(QMouseEvent *event)
             choose(i);
 }
 
+// The arrow keys belong to the choice while it has the focus, also where a window has deeds of its own for them.
+bool SegmentedControl::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const int key = dynamic_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right)
+            event->accept();
+    }
+    return QWidget::event(event);
+}
+
 void SegmentedControl::keyPressEvent(QKeyEvent *event)
 {
     switch (event->key()) {

@@ -21,6 +21,7 @@ namespace {
 
 constexpr int litMs = 260;
 constexpr int slotHeightPx = 44;
+constexpr int leastShown = 5;
 /** With more slots than fit they stand in two columns, where these are wide enough to be read. */
 constexpr int narrowestColumnPx = 136;
 
@@ -42,8 +43,6 @@ SlotList::SlotList(QWidget *parent) : QListView(parent)
     setItemDelegate(new SlotDelegate(*this));
     setFrameShape(NoFrame);
     setMouseTracking(true);
-    setFlow(LeftToRight);
-    setWrapping(true);
     setResizeMode(Adjust);
     setUniformItemSizes(true);
     setVerticalScrollMode(ScrollPerPixel);
@@ -77,6 +76,34 @@ void SlotList::setSlots(const QVariantList &slots)
     m_rows.setSlots(shown);
     makeShortcuts();
     arrange();
+    updateGeometry();
+}
+
+QSize SlotList::sizeHint() const
+{
+    return {300, slotHeightPx * qMax(1, m_rows.count()) + 4};
+}
+
+QSize SlotList::minimumSizeHint() const
+{
+    return {180, slotHeightPx * qBound(1, m_rows.count(), leastShown) + 4};
+}
+
+// The arrow keys belong to the list while it has the focus, also where a window has deeds of its own for them.
+bool SlotList::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const int key = dynamic_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down)
+            event->accept();
+    }
+    return QListView::event(event);
+}
+
+void SlotList::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QListView::currentChanged(current, previous);
+    Q_EMIT currentSlotChanged(current.row());
 }
 
 void SlotList::makeShortcuts()
@@ -131,6 +158,10 @@ void SlotList::arrange()
     const bool isWide = viewport()->width() / 2 >= narrowestColumnPx;
     const int columns = m_rows.count() > fitting && isWide ? 2 : 1;
     m_columns = columns;
+    setFlow(columns == 1 ? TopToBottom : LeftToRight);
+    setWrapping(columns > 1);
+    const int needed = (m_rows.count() + columns - 1) / columns * slotHeightPx;
+    setVerticalScrollBarPolicy(needed > height() ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     setGridSize(QSize(slotWidth(), slotHeightPx));
     scheduleDelayedItemsLayout();
 }

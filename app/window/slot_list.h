@@ -40,13 +40,15 @@ public:
     /** Lights a slot up for a moment, because something went there. */
     Q_INVOKABLE void light(int row);
     Q_INVOKABLE void reveal(int row);
+    Q_INVOKABLE void choose(int row) { setCurrentIndex(m_rows.index(row)); }
 
     const SlotRows &rows() const { return m_rows; }
     int litRow() const { return m_litTimer.isActive() ? m_lit : -1; }
     int slotWidth() const;
 
-    QSize sizeHint() const override { return {300, 220}; }
-    QSize minimumSizeHint() const override { return {180, 96}; }
+    /** As high as all slots in one column; with less room they scroll. */
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     void slotChosen(int row);
@@ -55,8 +57,12 @@ Q_SIGNALS:
     void slotMoved(int from, int to);
     void foldersDropped(const QStringList &paths);
     void menuChosen(int row, const QString &deed);
+    /** Another slot is the one that the menu and the keyboard work on. */
+    void currentSlotChanged(int row);
 
 protected:
+    bool event(QEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

@@ -35,9 +35,15 @@ export class HandSorting {
         this.along = along;
         this.keep = keep;
         this.run = "";
-        this.deeds = [];
-        this.counts = emptyTable();
         this.logProblem = "";
+        this.forget();
+    }
+
+    forget() {
+        this.deeds = [];
+        this.byPicture = emptyTable();
+        this.counts = emptyTable();
+        this.companions = emptyTable();
     }
 
     isOpen() {
@@ -54,9 +60,19 @@ export class HandSorting {
         return this.placeOf(photo) === "";
     }
 
-    /** All that was done with a picture and stands, oldest first: [{kind, label}, ...]. */
+    /** All that was done with a picture and stands, oldest first: [{kind, label, from}, ...]. */
     doneWith(photo) {
-        return this.deeds.filter((deed) => deed.id === photo.id);
+        return this.byPicture[photo.id] || [];
+    }
+
+    /** The ids of the pictures with which something was done. */
+    decided() {
+        return Object.keys(this.byPicture).filter((id) => this.byPicture[id].length > 0).map(Number);
+    }
+
+    /** The last deed that stands, or null. */
+    last() {
+        return this.deeds.length > 0 ? this.deeds[this.deeds.length - 1] : null;
     }
 
     /** What was done with it, in words; "" for nothing. */
@@ -70,12 +86,7 @@ export class HandSorting {
     }
 
     lastOf(photo, test) {
-        for (let i = this.deeds.length - 1; i >= 0; i -= 1) {
-            if (this.deeds[i].id === photo.id && test(this.deeds[i])) {
-                return this.deeds[i];
-            }
-        }
-        return null;
+        return this.doneWith(photo).slice().reverse().find(test) || null;
     }
 
     /**
@@ -103,12 +114,13 @@ export class HandSorting {
         if (problem) {
             return failed(problem);
         }
-        const deed = { id: photo.id, kind: kind, label: slot.label, folder: slot.path, left: kind === "move" || kind === TRASH ? this.sessionFolder(photo) : "",
-                       parts: [] };
+        const deed = { id: photo.id, kind: kind, label: slot.label, folder: slot.path, from: from, parts: [],
+                       left: kind === "move" || kind === TRASH ? this.sessionFolder(photo) : "" };
         const result = this.addPart(deed, kind, from, joinPath(slot.path, splitPath(from).name));
         if (result.status === "OK") {
             this.addAlong(deed, from);
             this.deeds.push(deed);
+            this.byPicture[photo.id] = this.doneWith(photo).concat([deed]);
             this.count(deed, 1);
         }
         this.write([this.row(kind, from, result, logWords(kind, slot.label))]);
@@ -123,22 +135,39 @@ export class HandSorting {
         return result;
     }
 
+    // The folder is looked through once for a picture, not at every key.
+    alongOf(path) {
+        if (this.companions[path] === undefined) {
+            this.companions[path] = this.along(path);
+        }
+        return this.companions[path];
+    }
+
     // Files that go along take the name that the picture got.
     addAlong(deed, from) {
         if (deed.kind === "link") {
             return;
         }
         const folder = splitPath(from).folder;
-        const base = splitPath(deed.kind === TRASH ? from : deed.parts[0].to).base;
-        for (const other of this.along(from)) {
-            this.addPart(deed, deed.kind, joinPath(folder, other.name), joinPath(deed.folder, base + other.ending));
+        const to = deed.kind === TRASH ? from : deed.parts[0].to;
+        const gone = [];
+        for (const other of this.alongOf(from)) {
+            const result = this.addPart(deed, deed.kind, joinPath(folder, other.name), joinPath(deed.folder, splitPath(to).base + other.ending));
+            if (result.status === "OK") {
+                gone.push({ name: result.path ? splitPath(result.path).name : other.name, ending: other.ending });
+            } else {
+                this.write([this.row(deed.kind, joinPath(folder, other.name), result, logWords(deed.kind, deed.label))]);
+            }
+        }
+        if (deed.kind === "move") {
+            this.companions[to] = gone;
         }
     }
 
     /** Takes back the last deed that stands: {status, message, deed}, or null where there is none. */
     takeBack() {
-        const deed = this.deeds[this.deeds.length - 1];
-        if (deed === undefined) {
+        const deed = this.last();
+        if (deed === null) {
             return null;
         }
         while (deed.parts.length > 0) {
@@ -150,6 +179,7 @@ export class HandSorting {
             deed.parts.pop();
             if (deed.parts.length === 0) {
                 this.deeds.pop();
+                this.byPicture[deed.id] = this.doneWith({ id: deed.id }).slice(0, -1);
                 this.count(deed, -1);
                 this.write([this.row("move", part.to, { status: "OK", message: "", path: part.from },
                                      fill(qsTr("Undo: %1"), logWords(deed.kind, deed.label)))]);
@@ -172,8 +202,7 @@ export class HandSorting {
         }
         const problem = this.moves.end(this.run);
         this.run = "";
-        this.deeds = [];
-        this.counts = emptyTable();
+        this.forget();
         return problem;
     }
 

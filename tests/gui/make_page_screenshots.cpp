@@ -5,12 +5,16 @@
 #include "app/window/log_table.h"
 #include "app/window/run_list.h"
 
+#include "platform/desktop/user_defaults.h"
+
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTest>
 
 namespace {
 
@@ -86,6 +90,42 @@ void showLog(WindowDriver &driver, const QString &name)
     saveBoth(driver, name);
 }
 
+// Folders as somebody has them; the last one is gone.
+QByteArray madeSlots(const QString &home, int count)
+{
+    const QStringList names =
+        QStringLiteral("Lake|Mountains|Family|Garden|For print|Web|Panoramas|Night|Details|Portraits|Doubtful|Twice|To "
+                       "archive|Contest|Black and white")
+            .split(QLatin1Char('|'));
+    QJsonArray slots;
+    for (int i = 0; i < count; ++i) {
+        const QString name = i < names.size() ? names[i] : QStringLiteral("Album %1").arg(i + 1);
+        const QString path = home + QStringLiteral("/Sorted/") + name;
+        if (name != QLatin1String("Twice"))
+            QDir().mkpath(path);
+        slots.append(QJsonObject{{QStringLiteral("path"), path}, {QStringLiteral("label"), QString()}});
+    }
+    return QJsonDocument(
+               QJsonObject{{QStringLiteral("mode"), QStringLiteral("move")}, {QStringLiteral("slots"), slots}})
+        .toJson(QJsonDocument::Compact);
+}
+
+void showHand(WindowDriver &driver, const QString &name, int slots)
+{
+    platform::setUserDefault(QStringLiteral("Settings-hand"), QString::fromUtf8(madeSlots(driver.folder(), slots)));
+    driver.startAgain();
+    driver.show("hand");
+    driver.window().resize(1440, 900);
+    saveScreen(driver, name + QStringLiteral("-empty.png"));
+    driver.drop({driver.folder() + QStringLiteral("/Pictures")});
+    settle(driver);
+    QTest::keyClick(&driver.window(), Qt::Key_2);
+    QTest::keyClick(&driver.window(), Qt::Key_1);
+    QTest::keyClick(&driver.window(), Qt::Key_1);
+    QTest::keyClick(&driver.window(), Qt::Key_Left);
+    saveBoth(driver, name);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -98,6 +138,10 @@ int main(int argc, char **argv)
         WindowDriver driver(application);
         driver.window().resize(1440, 900);
         driver.drop({samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder())});
+        const QString hand = folder + QStringLiteral("/hand-") + QLatin1String(appearance);
+        showHand(driver, hand + QStringLiteral("-many"), 59);
+        samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder());
+        showHand(driver, hand, 12);
         showLog(driver, folder + QStringLiteral("/log-") + QLatin1String(appearance));
     }
     return 0;

@@ -87,10 +87,13 @@ private Q_SLOTS:
         QTest::newRow("main window") << mainParts << QStringList{QStringLiteral("windows/main/main.ui")};
         QTest::newRow("log") << QStringList{QStringLiteral("windows/log/log-page.js")}
                              << QStringList{QStringLiteral("windows/log/log.ui")};
+        QTest::newRow("sorting by hand") << QStringList{QStringLiteral("windows/hand/hand-page.js")}
+                                         << QStringList{QStringLiteral("windows/hand/hand.ui"),
+                                                        QStringLiteral("windows/main/main.ui")};
         QTest::newRow("preferences") << QStringList{QStringLiteral("windows/preferences/preferences.js")}
                                      << QStringList{QStringLiteral("windows/preferences/preferences.ui")};
         for (const char *name : {"resize-pane", "crop-pane", "turn-pane", "round-pane", "background-pane", "pane",
-                                 "output-pane", "preset-pane"}) {
+                                 "output-pane", "preset-pane", "hand-pane"}) {
             const QString base = QStringLiteral("panes/") + QLatin1String(name);
             // What all panes have in common must be in each; one stands for all.
             const QString pane = qstrcmp(name, "pane") == 0 ? QStringLiteral("panes/resize-pane") : base;

@@ -21,6 +21,7 @@ import { count } from "../../lib/wording.js";
 import { BackgroundPane } from "../../panes/background-pane.js";
 import { ConvertPane } from "../../panes/convert-pane.js";
 import { CropPane } from "../../panes/crop-pane.js";
+import { HandPane } from "../../panes/hand-pane.js";
 import { RenamePane } from "../../panes/rename-pane.js";
 import { ResizePane } from "../../panes/resize-pane.js";
 import { RoundPane } from "../../panes/round-pane.js";
@@ -28,10 +29,12 @@ import { TurnPane } from "../../panes/turn-pane.js";
 import * as background from "../../steps/background.js";
 import * as convert from "../../steps/convert.js";
 import * as crop from "../../steps/crop.js";
+import * as hand from "../../steps/hand.js";
 import * as rename from "../../steps/rename.js";
 import * as resize from "../../steps/resize.js";
 import * as round from "../../steps/round.js";
 import * as turn from "../../steps/turn.js";
+import { HandPage } from "../hand/hand-page.js";
 import { LogPage } from "../log/log-page.js";
 import { MOVES } from "./moves.js";
 import { PAGE } from "./pages.js";
@@ -79,6 +82,8 @@ export const GROUPS = [
                 undone: (number, settings) => renamed(settings, number, [qsTr("1 file has its old name again"), qsTr("%1 files have their old names again"),
                                                                          qsTr("1 folder has its old name again"), qsTr("%1 folders have their old names again")]),
             },
+            { name: "hand", title: () => qsTr("Sort by Hand"), manner: PAGE, usesList: true, page: HandPage, step: hand, pane: HandPane,
+              lists: () => "pictures", keyword: "sort", takes: PICTURE_INPUT, deed: () => qsTr("Sort by Hand") },
         ],
     },
     {

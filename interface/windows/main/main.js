@@ -98,8 +98,11 @@ function showInputState(window) {
                         "headHost", "actionHost", "outputHost", "moveSimulation", "emptyAddPictures", "emptyAddFolder"]) {
         control(name).enabled = !busy;
     }
-    for (const name of ["clearButton", "clearAction", "removeAction", "selectAllAction"]) {
+    for (const name of ["removeAction", "selectAllAction"]) {
         control(name).enabled = any && !busy && window.shownPage === null;
+    }
+    for (const name of ["clearButton", "clearAction"]) {
+        control(name).enabled = any && !busy && (window.shownPage === null || window.shownPage.usesList);
     }
     for (const name of ["nextAction", "previousAction", "largeAction"]) {
         control(name).enabled = any && (window.shownPage === null || window.shownPage.usesList);
