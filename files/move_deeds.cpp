@@ -66,14 +66,15 @@ QString MoveDeeds::sentence(const QString &code, const QString &path)
     return QStringLiteral("%1 could not be copied correctly").arg(name);
 }
 
-QString MoveDeeds::asidePath(int index, const MoveItem &item) const
+QString asidePath(const QString &run, int index, const MoveItem &item)
 {
-    return joinedPath(parentFolder(item.from), QStringLiteral(".quorlin-aside-%1-%2").arg(m_run).arg(index));
+    return joinedPath(parentFolder(item.isAhead ? item.to : item.from),
+                      QStringLiteral(".quorlin-aside-%1-%2").arg(run).arg(index));
 }
 
-QString MoveDeeds::partPath(int index, const QString &to) const
+QString partPath(const QString &run, int index, const QString &to)
 {
-    return joinedPath(parentFolder(to), QStringLiteral(".quorlin-aside-%1-%2-copy").arg(m_run).arg(index));
+    return joinedPath(parentFolder(to), QStringLiteral(".quorlin-aside-%1-%2-copy").arg(run).arg(index));
 }
 
 DeedOutcome MoveDeeds::carryOut(int index, const MoveItem &item, const QString &source)
@@ -111,7 +112,7 @@ DeedOutcome MoveDeeds::stepAside(int index, const MoveItem &item)
         return failed(QStringLiteral("gone"), item.from);
     if (item.was && !isSameItem(*state, *item.was))
         return failed(QStringLiteral("changed"), item.from);
-    const QString aside = asidePath(index, item);
+    const QString aside = asidePath(m_run, index, item);
     if (const std::error_code error = m_disk.rename(item.from, aside))
         return failureFor(error, item.from, aside);
     return {{}, {}, aside, state};
@@ -159,7 +160,7 @@ bool MoveDeeds::isSameUnderOtherCase(const QString &from, const QString &to) con
 
 DeedOutcome MoveDeeds::renamedInCase(int index, const QString &from, const QString &to)
 {
-    const QString aside = asidePath(index, {Deed::Move, from, to});
+    const QString aside = asidePath(m_run, index, {Deed::Move, from, to});
     if (const std::error_code error = m_disk.rename(from, aside))
         return failureFor(error, from, aside);
     const std::error_code error = m_disk.rename(aside, to);
@@ -176,8 +177,8 @@ DeedOutcome MoveDeeds::copied(int index, const QString &from, const QString &to)
         return made;
     if (m_disk.look(to))
         return failed(QStringLiteral("taken"), to);
-    const QString part = partPath(index, to);
-    (void)m_disk.remove(part);
+    const QString part = partPath(m_run, index, to);
+    discard(part);
     DeedOutcome outcome;
     if (const std::error_code error = m_disk.copy(from, part))
         outcome = failureFor(error, from, to);
@@ -190,11 +191,17 @@ DeedOutcome MoveDeeds::copied(int index, const QString &from, const QString &to)
     else if (const std::error_code taken = m_disk.rename(part, to))
         outcome = failureFor(taken, from, to);
     if (!outcome.code.isEmpty()) {
-        (void)m_disk.remove(part);
+        discard(part);
         return outcome;
     }
     m_disk.settle(parentFolder(to));
     return done(to);
+}
+
+void MoveDeeds::discard(const QString &path)
+{
+    if (m_disk.look(path) && m_disk.remove(path))
+        m_hasLeftOver = true;
 }
 
 DeedOutcome MoveDeeds::movedToOtherDisk(int index, const QString &from, const QString &to)
@@ -208,31 +215,36 @@ DeedOutcome MoveDeeds::movedToOtherDisk(int index, const QString &from, const QS
         (void)m_disk.remove(to);
         return failed(QStringLiteral("changed"), from);
     }
-    const std::error_code error = removeWhole(index, from);
-    if (error && before->kind == ItemKind::Folder) {
-        // Part of it may be gone, so the whole copy stays too.
+    const std::error_code error = removeWhole(index, from, to);
+    if (!error)
+        return outcome;
+    const bool isWhole = error == std::errc::device_or_resource_busy || m_disk.haveSameContent(from, to);
+    if (before->kind == ItemKind::Folder && !isWhole) {
+        // Part of it is gone, so the whole copy stays too.
         outcome.message = QStringLiteral("A part of %1 could not be removed and is still there").arg(from);
-    } else if (error) {
-        (void)m_disk.remove(to);
-        return failureFor(error, from, to);
+        return outcome;
     }
-    return outcome;
+    discard(to);
+    return error == std::errc::device_or_resource_busy ? failed(QStringLiteral("changed"), from)
+                                                       : failureFor(error, from, to);
 }
 
-/** A folder leaves its place in one step, so that up to then it is whole. */
-std::error_code MoveDeeds::removeWhole(int index, const QString &path)
+/** A folder leaves its place in one step and goes only if nothing came into it since it was copied. */
+std::error_code MoveDeeds::removeWhole(int index, const QString &path, const QString &copy)
 {
     const auto state = m_disk.look(path);
     if (!state || state->kind != ItemKind::Folder)
         return m_disk.remove(path);
-    const QString aside = asidePath(index, {Deed::Move, path, {}});
+    const QString aside = asidePath(m_run, index, {Deed::Move, path, {}});
     if (path == aside)
         return m_disk.remove(path);
     if (const std::error_code error = m_disk.rename(path, aside))
         return error;
-    const std::error_code error = m_disk.remove(aside);
-    if (error)
-        (void)m_disk.rename(aside, path);
+    const bool isSame = m_disk.haveSameContent(aside, copy);
+    const std::error_code error =
+        isSame ? m_disk.remove(aside) : std::make_error_code(std::errc::device_or_resource_busy);
+    if (error && m_disk.rename(aside, path))
+        m_hasLeftOver = true;
     return error;
 }
 
@@ -259,7 +271,7 @@ DeedOutcome MoveDeeds::copyRemoved(int index, const MoveItem &item)
     const bool isUntouched = state && item.was && isUnchanged(*item.was, *state);
     if (!isUntouched || !m_disk.look(item.to) || !m_disk.haveSameContent(item.from, item.to))
         return trashed(item.from);
-    if (const std::error_code error = removeWhole(index, item.from))
+    if (const std::error_code error = removeWhole(index, item.from, item.to))
         return failureFor(error, item.from, item.from);
     return {};
 }

@@ -27,6 +27,11 @@ public:
     virtual QString noteFolder(const QString &folder) = 0;
 };
 
+/** The hidden name of an item that stands aside, in its own folder or in the one that it goes to. */
+QString asidePath(const QString &run, int index, const MoveItem &item);
+/** The hidden name of an unfinished copy beside its target. */
+QString partPath(const QString &run, int index, const QString &to);
+
 /**
  * Carries out the deeds of one run, one at a time.
  *
@@ -47,10 +52,9 @@ public:
     /** Moves without looking what is moved. */
     DeedOutcome move(int index, const QString &from, const QString &to);
 
-    /** The hidden name in the item's own folder. */
-    QString asidePath(int index, const MoveItem &item) const;
-    /** The hidden name of an unfinished copy beside its target. */
-    QString partPath(int index, const QString &to) const;
+    /** Whether something under a temporary name could not be taken away. */
+    bool hasLeftOver() const { return m_hasLeftOver; }
+
     /** The same as a sentence. */
     static QString sentence(const QString &code, const QString &path);
 
@@ -64,7 +68,8 @@ private:
     DeedOutcome linkRemoved(const MoveItem &item);
     DeedOutcome restored(const MoveItem &item);
     DeedOutcome renamedInCase(int index, const QString &from, const QString &to);
-    std::error_code removeWhole(int index, const QString &path);
+    void discard(const QString &path);
+    std::error_code removeWhole(int index, const QString &path, const QString &copy);
     bool isSameUnderOtherCase(const QString &from, const QString &to) const;
     DeedOutcome madeFolders(const QString &folder);
     DeedOutcome done(const QString &path) const;
@@ -72,6 +77,7 @@ private:
     platform::FileSystem &m_disk;
     QString m_run;
     DeedLog &m_log;
+    bool m_hasLeftOver = false;
 };
 
 /** The failure for a system's error that hit the item at @p path on its way to @p to. */

@@ -18,13 +18,14 @@ struct Node
     size_t nextInner = 0;
     Mark mark = Mark::New;
     bool isAside = false;
+    bool isAhead = false;
 };
 
 /** Walks from every item to those that it waits for, and writes the steps down on the way back. */
 class Walk
 {
 public:
-    explicit Walk(const std::vector<Displacement> &items) : m_nodes(items.size())
+    explicit Walk(const std::vector<Displacement> &items) : m_items(items), m_nodes(items.size())
     {
         findBlockers(items);
         findInner(items);
@@ -71,18 +72,24 @@ private:
     void findInner(const std::vector<Displacement> &items)
     {
         QHash<QString, int> folders;
-        for (int i = 0; i < int(items.size()); ++i)
-            if (items[size_t(i)].isFolder && !items[size_t(i)].leaves.isEmpty())
-                folders.insert(items[size_t(i)].leaves, i);
-        if (folders.isEmpty())
-            return;
+        QHash<QString, int> leavers;
+        bool isAnyReading = false;
         for (int i = 0; i < int(items.size()); ++i) {
             const Displacement &item = items[size_t(i)];
-            for (const QString &path : {item.leaves, item.takes})
+            isAnyReading = isAnyReading || !item.reads.isEmpty();
+            if (item.isFolder && !item.leaves.isEmpty())
+                folders.insert(item.leaves, i);
+        }
+        for (int i = 0; isAnyReading && i < int(items.size()); ++i)
+            if (!items[size_t(i)].leaves.isEmpty())
+                leavers.insert(items[size_t(i)].leaves, i);
+        for (int i = 0; i < int(items.size()) && !(folders.isEmpty() && leavers.isEmpty()); ++i) {
+            const Displacement &item = items[size_t(i)];
+            for (const QString &path : {item.leaves, item.takes, item.reads})
                 if (!path.isEmpty())
                     putInto(folders, platform::parentFolder(path), i);
-            if (!item.reads.isEmpty())
-                putInto(folders, item.reads, i);
+            if (const int leaver = leavers.value(item.reads, -1); leaver >= 0 && leaver != i)
+                m_nodes[size_t(leaver)].inner.push_back(i);
         }
     }
 
@@ -113,7 +120,7 @@ private:
             } else if (at.blocker >= 0 && node(at.blocker).mark != Mark::Done && !node(at.blocker).isAside) {
                 waitFor(at.blocker, false);
             } else {
-                m_order.steps.push_back({item, false});
+                m_order.steps.push_back({item, false, false});
                 at.mark = Mark::Done;
                 m_stack.pop_back();
             }
@@ -128,8 +135,9 @@ private:
 
     void waitFor(int item, bool isInner)
     {
-        if (node(item).mark == Mark::Done)
-            node(m_stack.back()).nextInner += isInner;
+        const int waiting = m_stack.back();
+        if (node(item).mark == Mark::Done || (isInner && node(item).isAhead && !goesInto(item, waiting)))
+            node(waiting).nextInner += isInner;
         else if (node(item).mark == Mark::New)
             open(item);
         else
@@ -138,17 +146,28 @@ private:
 
     bool waitsForPlace(int item) { return node(item).nextInner == node(item).inner.size(); }
 
+    bool goesInto(int item, int folder) const
+    {
+        return m_items[size_t(item)].takes.startsWith(m_items[size_t(folder)].leaves + u'/');
+    }
+
+    bool mayStep(int item) const { return m_items[size_t(item)].mayStepAside; }
+
     /** The top of the stack waits for @p item, which waits for it. One that only stands in the way can step aside. */
     void breakCircle(int item)
     {
         size_t first = m_stack.size() - 1;
         while (m_stack[first] != item)
             --first;
-        if (waitsForPlace(item) && waitsForPlace(m_stack.back()))
-            return stepAside(item, m_stack.size());
-        for (size_t at = first + 1; at < m_stack.size(); ++at)
-            if (waitsForPlace(m_stack[at]) && waitsForPlace(m_stack[at - 1]))
-                return stepAside(m_stack[at], at);
+        const auto waiting = [&](size_t at) { return at == first ? m_stack.back() : m_stack[at - 1]; };
+        const auto kept = [&](size_t at) { return at == first ? m_stack.size() : at; };
+        for (size_t at = first; at < m_stack.size(); ++at)
+            if (mayStep(m_stack[at]) && waitsForPlace(m_stack[at]) && waitsForPlace(waiting(at)))
+                return stepAside(m_stack[at], kept(at), false);
+        for (size_t at = first; at < m_stack.size(); ++at)
+            if (mayStep(m_stack[at]) && waitsForPlace(m_stack[at]) && !node(m_stack[at]).isAside &&
+                !goesInto(m_stack[at], waiting(at)))
+                return stepAside(m_stack[at], kept(at), true);
         const int impossible = m_stack.back();
         m_order.impossible.push_back(impossible);
         node(impossible).mark = Mark::Done;
@@ -156,10 +175,11 @@ private:
     }
 
     /** What lies above @p kept on the stack starts again later. */
-    void stepAside(int item, size_t kept)
+    void stepAside(int item, size_t kept, bool isAhead)
     {
-        m_order.steps.push_back({item, true});
+        m_order.steps.push_back({item, true, isAhead});
         node(item).isAside = true;
+        node(item).isAhead = isAhead;
         m_returning.push_back(item);
         for (; m_stack.size() > kept; m_stack.pop_back()) {
             node(m_stack.back()).mark = Mark::New;
@@ -167,6 +187,7 @@ private:
         }
     }
 
+    const std::vector<Displacement> &m_items;
     std::vector<Node> m_nodes;
     std::vector<int> m_stack;
     std::vector<int> m_returning;

@@ -13,6 +13,7 @@ struct Displacement
     QString takes;  ///< the place that must be free before
     QString reads;  ///< the place that must still be as it was
     bool isFolder = false;
+    bool mayStepAside = true;
 };
 
 /** One step of a run: an item steps aside in its own folder, or gets its place. */
@@ -20,6 +21,7 @@ struct MoveStep
 {
     int item = -1;
     bool isAside = false;
+    bool isAhead = false; ///< it steps aside in the folder that it goes to, out of one that has to leave first
 };
 
 struct MoveOrder
@@ -32,7 +34,7 @@ struct MoveOrder
 /**
  * The order in which a run can be carried out so that every place is free when its turn comes: who stands in another's way
  * goes first, and what is in a folder, or goes into it, before the folder itself. Only one item of a circle has to step
- * aside. Items that wait for nobody keep their order.
+ * aside, and an item in a folder that is to leave for the item's sake. Items that wait for nobody keep their order.
  *
  * Places that differ only by case or accents count as one. The steps between the one that goes aside and the one that brings it
  * back belong together.

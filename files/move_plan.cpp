@@ -176,7 +176,8 @@ private:
             const QString path = joinedPath(d.toFolder->path, tenant.name);
             if (tenant.leaver == i)
                 continue;
-            if (tenant.leaver < 0 || !isOpen(tenant.leaver))
+            const bool isOwnSource = d.fromFolder == d.toFolder && tenant.name == d.fromName;
+            if (tenant.leaver < 0 || !isOpen(tenant.leaver) || isOwnSource)
                 return {tenant.name == name ? QStringLiteral("taken") : QStringLiteral("case"), path, {}};
             none.leaving = path;
         }
@@ -307,7 +308,8 @@ private:
         const Draft &d = draft(i);
         const QString from = joinedPath(d.fromFolder->path, d.fromName);
         const QString to = joinedPath(d.toFolder->path, d.givenName);
-        return {leaves(i) ? from : QString(), to, wish(i).kind == MoveKind::Copy ? from : QString(), d.isFolder};
+        return {leaves(i) ? from : QString(), to, wish(i).kind == MoveKind::Copy ? from : QString(), d.isFolder,
+                leaves(i)};
     }
 
     void describe(int i)

@@ -101,13 +101,14 @@ private:
     {
         for (const QJsonValue step : steps) {
             const int item = step.toInt();
-            run.steps.push_back(item < 0 ? MoveStep{-1 - item, true} : MoveStep{item, false});
+            run.steps.push_back(item < 0 ? MoveStep{-1 - item, true, false} : MoveStep{item, false, false});
         }
     }
 
     void takeEnd(const QJsonObject &line)
     {
         run.end = line[key("end")].toString();
+        run.count = line[key("count")].toInt();
         run.doneAtEnd = line[key("done")].toInt();
     }
 
@@ -155,6 +156,7 @@ private:
         item.from = line[key("from")].toString();
         item.to = line[key("to")].toString();
         item.of = line[key("of")].toInt(-1);
+        item.isAhead = line[key("ahead")].toBool();
         item.leader = line[key("leader")].toInt(-1);
         item.was = stateFrom(line[key("was")]);
         MoveRecord record;
@@ -170,10 +172,15 @@ bool isSameItem(const ItemState &one, const ItemState &other)
     return one.kind == other.kind && one.inode == other.inode && one.bornNs == other.bornNs;
 }
 
+bool isAlike(const ItemState &one, const ItemState &other)
+{
+    return one.kind == other.kind &&
+           (one.kind == ItemKind::Folder || (one.bytes == other.bytes && one.changedNs == other.changedNs));
+}
+
 bool isUnchanged(const ItemState &one, const ItemState &other)
 {
-    return isSameItem(one, other) &&
-           (one.kind == ItemKind::Folder || (one.bytes == other.bytes && one.changedNs == other.changedNs));
+    return isSameItem(one, other) && isAlike(one, other);
 }
 
 QByteArray headLines(const RunRecord &run)
@@ -202,6 +209,8 @@ QByteArray itemLine(int index, const MoveItem &item)
                         {key("to"), item.to}};
     if (item.of >= 0)
         line.insert(key("of"), item.of);
+    if (item.isAhead)
+        line.insert(key("ahead"), true);
     if (item.leader >= 0)
         line.insert(key("leader"), item.leader);
     insertState(line, "was", item.was);
@@ -260,6 +269,16 @@ RunRecord readRecord(const QByteArray &journal)
             reader.take(line.object());
         at = end + 1;
     }
+    return std::move(reader.run);
+}
+
+RunRecord summaryOf(const std::pair<QByteArray, QByteArray> &ends)
+{
+    Reader reader;
+    reader.take(QJsonDocument::fromJson(ends.first).object());
+    const QJsonObject last = QJsonDocument::fromJson(ends.second).object();
+    if (last.contains(key("end")))
+        reader.take(last);
     return std::move(reader.run);
 }
 

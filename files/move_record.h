@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace files {
@@ -38,8 +39,9 @@ struct MoveItem
     Deed deed = Deed::Move;
     QString from;
     QString to;
-    int of = -1;     ///< when a run is taken back: the item of that run
-    int leader = -1; ///< the item that this one goes along with
+    int of = -1;          ///< when a run is taken back: the item of that run
+    int leader = -1;      ///< the item that this one goes along with
+    bool isAhead = false; ///< it steps aside in the folder of `to`, not in its own
     std::optional<platform::ItemState> was =
         std::nullopt; ///< what was at `from` when the run began; for a link, nothing
 };
@@ -74,6 +76,8 @@ struct RunRecord
 };
 
 bool isSameItem(const platform::ItemState &one, const platform::ItemState &other);
+/** Two items that could be the same but for their identity: one kind, as large and as old. */
+bool isAlike(const platform::ItemState &one, const platform::ItemState &other);
 /** The same item with, as far as dates and sizes tell, the same content. A folder may have changed inside. */
 bool isUnchanged(const platform::ItemState &one, const platform::ItemState &other);
 
@@ -89,5 +93,7 @@ QByteArray endLine(const QString &end, int count, int done);
 
 /** A journal read again. Lines that are not understood, such as one that was cut short, are passed over. */
 RunRecord readRecord(const QByteArray &journal);
+/** A run without its items, from the first and the last line of its journal. */
+RunRecord summaryOf(const std::pair<QByteArray, QByteArray> &ends);
 
 } // namespace files

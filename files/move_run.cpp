@@ -1,6 +1,7 @@
 #include "files/move_run.h"
 
 #include "files/move_names.h"
+#include "files/move_paths.h"
 
 #include "platform/foundation/paths.h"
 
@@ -50,6 +51,7 @@ Displacement displacementOf(const MoveItem &item, PlainPaths &plain)
 {
     Displacement displacement;
     displacement.isFolder = item.was && item.was->kind == platform::ItemKind::Folder;
+    displacement.mayStepAside = item.deed == Deed::Move;
     const bool isLeaving = item.deed != Deed::Copy && item.deed != Deed::Link;
     const bool isTaking =
         item.deed == Deed::Move || item.deed == Deed::Copy || item.deed == Deed::Link || item.deed == Deed::Restore;
@@ -85,7 +87,7 @@ void discardOld(JournalShelf &shelf)
     constexpr qsizetype mostJournals = 200;
     const QStringList names = shelf.names();
     for (qsizetype i = mostJournals; i < names.size(); ++i)
-        if (shelf.ends(names[i]).second.startsWith("{\"count\""))
+        if (!summaryOf(shelf.ends(names[i])).end.isEmpty())
             shelf.remove(names[i]);
 }
 
@@ -112,6 +114,9 @@ std::unique_ptr<MoveRun> MoveRun::begin(platform::FileSystem &disk, JournalShelf
         displacements.push_back(displacementOf(added.item, plain));
     }
     record.steps = orderMoves(displacements).steps;
+    for (const MoveStep &step : record.steps)
+        if (step.isAhead)
+            record.items[size_t(step.item)].item.isAhead = true;
     discardOld(shelf);
     *problem = shelf.make(record.id, headLines(record));
     if (!problem->isEmpty())
@@ -231,7 +236,7 @@ void MoveRun::giveName(int index)
         return;
     if (!isAside && isToBeSkipped(index))
         return;
-    const QString source = isAside ? m_deeds.asidePath(index, record.item) : record.item.from;
+    const QString source = isAside ? asidePath(m_record.id, index, record.item) : record.item.from;
     const DeedOutcome outcome = m_deeds.carryOut(index, record.item, source);
     if (outcome.code.isEmpty())
         return markDone(index, outcome);
@@ -290,7 +295,7 @@ void MoveRun::takeBackGroup(const DeedOutcome &why)
 void MoveRun::bringBack(int index, const DeedOutcome &why)
 {
     const MoveItem item = at(index).item;
-    const QString aside = m_deeds.asidePath(index, item);
+    const QString aside = asidePath(m_record.id, index, item);
     if (!m_disk.rename(aside, item.from))
         return markFailed(index, why);
     if (const DeedOutcome given = m_deeds.carryOut(index, item, aside); given.code.isEmpty())
@@ -359,8 +364,8 @@ void MoveRun::close(const QString &end)
     const auto isAside = [](const MoveRecord &record) { return record.stand == Stand::Aside; };
     const auto isDone = [](const MoveRecord &record) { return record.stand == Stand::Done; };
     const auto done = std::count_if(m_record.items.begin(), m_record.items.end(), isDone);
-    // What could not be brought back is tried again at the next start.
-    if (std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
+    // What could not be brought back or taken away is tried again at the next start.
+    if (!m_deeds.hasLeftOver() && std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
         note(endLine(end, int(m_record.items.size()), int(done)), Lasting::AtOnce);
     m_record.end = end;
     m_record.doneAtEnd = int(done);
@@ -370,9 +375,10 @@ void MoveRun::close(const QString &end)
 /** Folders in which nothing came to be, and those that are empty since a run was taken back. The deepest are last. */
 void MoveRun::removeEmptyFolders()
 {
+    PathsSince now(m_record);
     for (const QStringList &folders : {m_record.made, m_emptyFolders})
         for (auto folder = folders.crbegin(); folder != folders.crend(); ++folder)
-            (void)m_disk.removeEmptyFolder(*folder);
+            (void)m_disk.removeEmptyFolder(now(*folder, -1));
 }
 
 MoveResult MoveRun::add(MoveItem item)

@@ -863,6 +863,38 @@ declare module "quorlin/moves" {
         path: string;
     }
 
+    interface Problem {
+        path: string;
+        code: string;
+        reason: string;
+    }
+
+    interface Run {
+        id: string;
+        title: string;
+        /** ISO, with the time zone. */
+        date: string;
+        count: number;
+        done: number;
+        state: "open" | "done" | "cancelled" | "undone" | "recovered";
+        /** The run that this one takes back, or empty. */
+        undoes: string;
+    }
+
+    interface Recovered {
+        id: string;
+        title: string;
+        /** Had their new names already. */
+        done: number;
+        /** Were in the middle, and have their new names now. */
+        finished: number;
+        /** Were in the middle, and have their old names again. */
+        takenBack: number;
+        /** Their turn had not come. */
+        left: number;
+        problems: string[];
+    }
+
     export const moves: {
         /** As many answers as wishes, in their order. Touches nothing. */
         plan(wishes: Wish[]): Planned[];
@@ -874,6 +906,17 @@ declare module "quorlin/moves" {
         /** A run whose items are added one by one. */
         open(title: string): { run: string } | { problem: string };
         add(run: string, item: { kind: kind | "trash"; from: string; to: string; number?: boolean }): Outcome;
+        /** Undoes the last item of an open run that still stands; null where there is none. */
+        takeBack(run: string): (Outcome & { kind: kind | "trash"; from: string; to: string }) | null;
+        undoable(run: string): { can: boolean; count: number; reason: string };
+        /** Begins the run that takes another back; next() and end() drive it. That run can be taken back too. */
+        undo(run: string):
+            | { run: string; items: { kind: kind | "trash" | "remove"; from: string; to: string }[]; problems: Problem[] }
+            | { problem: string; problems: Problem[] };
+        /** The last 200, the newest first. */
+        runs(): Run[];
+        /** Ends what a crash interrupted; runs of another living process are left alone. Once, at start. */
+        recover(): Recovered[];
     };
 }
 

@@ -1,6 +1,8 @@
 #include "app/window/move_desk.h"
 
 #include "files/move_plan.h"
+#include "files/move_recovery.h"
+#include "files/move_undo.h"
 
 #include "platform/foundation/folders.h"
 #include "platform/foundation/paths.h"
@@ -87,6 +89,59 @@ QVariantMap mapOf(const MoveResult &result)
             {QStringLiteral("path"), result.path}};
 }
 
+QString kindWord(Deed deed)
+{
+    switch (deed) {
+    case Deed::Move:
+    case Deed::Restore:
+        return QStringLiteral("move");
+    case Deed::Copy:
+        return QStringLiteral("copy");
+    case Deed::Link:
+        return QStringLiteral("link");
+    case Deed::Trash:
+        return QStringLiteral("trash");
+    case Deed::RemoveCopy:
+    case Deed::RemoveLink:
+        return QStringLiteral("remove");
+    }
+    Q_UNREACHABLE();
+}
+
+QVariantMap mapOf(const files::UndoProblem &problem)
+{
+    return {{QStringLiteral("path"), problem.path},
+            {QStringLiteral("code"), problem.code},
+            {QStringLiteral("reason"), problem.reason}};
+}
+
+QVariantMap mapOf(const files::RunSummary &summary)
+{
+    return {{QStringLiteral("id"), summary.run.id},          {QStringLiteral("title"), summary.run.title},
+            {QStringLiteral("date"), summary.run.date},      {QStringLiteral("count"), summary.run.count},
+            {QStringLiteral("done"), summary.run.doneAtEnd}, {QStringLiteral("state"), summary.state},
+            {QStringLiteral("undoes"), summary.run.undoes}};
+}
+
+QVariantMap mapOf(const files::RecoveredRun &run)
+{
+    return {{QStringLiteral("id"), run.id},
+            {QStringLiteral("title"), run.title},
+            {QStringLiteral("done"), run.done},
+            {QStringLiteral("finished"), run.finished},
+            {QStringLiteral("takenBack"), run.takenBack},
+            {QStringLiteral("left"), run.left},
+            {QStringLiteral("problems"), run.problems}};
+}
+
+template<typename Values> QVariantList listOf(const Values &values)
+{
+    QVariantList list;
+    for (const auto &value : values)
+        list.append(mapOf(value));
+    return list;
+}
+
 QVariantMap failed(const QString &code, const QString &message, const QString &path)
 {
     return mapOf(MoveResult{-1, Stand::Failed, code, message, path});
@@ -104,11 +159,7 @@ QVariantList MoveDesk::plan(const QVariantList &wishes) const
     wanted.reserve(size_t(wishes.size()));
     for (const QVariant &wish : wishes)
         wanted.push_back(wishFrom(wish.toMap()));
-    QVariantList answers;
-    answers.reserve(wishes.size());
-    for (const PlannedMove &planned : files::planMoves(wanted, m_disk))
-        answers.append(mapOf(planned));
-    return answers;
+    return listOf(files::planMoves(wanted, m_disk));
 }
 
 QVariantMap MoveDesk::started(std::unique_ptr<files::MoveRun> run, const QString &problem)
@@ -175,6 +226,66 @@ QVariantMap MoveDesk::add(const QString &run, const QVariantMap &item)
         added.to = planned.to;
     }
     return mapOf(active->add(added));
+}
+
+QVariant MoveDesk::takeBack(const QString &run)
+{
+    files::MoveRun *active = found(run);
+    int index = active ? active->lastDone() : -1;
+    while (index >= 0 &&
+           (m_givenUp.contains({run, index}) || active->record().items[size_t(index)].stand != Stand::Done))
+        --index;
+    if (index < 0)
+        return nothing;
+    const files::MoveRecord record = active->record().items[size_t(index)];
+    const files::TakeBack back = files::takeBackOf(m_disk, active->record(), index);
+    const files::UndoProblem &problem = back.problem;
+    const MoveResult result = problem.code.isEmpty()
+                                  ? active->takeBack(index, back.deed)
+                                  : MoveResult{index, Stand::Failed, problem.code, problem.reason, problem.path};
+    if (result.stand != Stand::Done)
+        m_givenUp.insert({run, index});
+    QVariantMap answer = mapOf(result);
+    answer.insert(QStringLiteral("kind"), kindWord(record.item.deed));
+    answer.insert(QStringLiteral("from"), record.item.from);
+    answer.insert(QStringLiteral("to"), record.path);
+    return answer;
+}
+
+QVariantMap MoveDesk::undoable(const QString &run) const
+{
+    const files::Undoable answer = files::undoableItems(m_shelf, run);
+    return {{QStringLiteral("can"), answer.reason.isEmpty()},
+            {QStringLiteral("count"), answer.count},
+            {QStringLiteral("reason"), answer.reason}};
+}
+
+QVariantMap MoveDesk::undo(const QString &run)
+{
+    const files::UndoPlan plan = files::planUndo(m_disk, m_shelf, run);
+    QVariantList items;
+    for (const MoveItem &item : plan.form.items)
+        items.append(QVariantMap{{QStringLiteral("kind"), kindWord(item.deed)},
+                                 {QStringLiteral("from"), item.from},
+                                 {QStringLiteral("to"), item.to}});
+    QString problem = plan.problem;
+    QVariantMap answer = problem.isEmpty()
+                             ? started(files::MoveRun::begin(m_disk, m_shelf, plan.form, &problem), problem)
+                             : started(nullptr, problem);
+    answer.insert(QStringLiteral("problems"), listOf(plan.problems));
+    if (answer.contains(QStringLiteral("run")))
+        answer.insert(QStringLiteral("items"), items);
+    return answer;
+}
+
+QVariantList MoveDesk::runs() const
+{
+    return listOf(files::listRuns(m_shelf));
+}
+
+QVariantList MoveDesk::recover()
+{
+    return listOf(files::recoverMoves(m_disk, m_shelf));
 }
 
 } // namespace window

@@ -10,6 +10,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 
 namespace window {
 
@@ -48,6 +49,21 @@ public:
     /** @param item  {kind: "move", "copy", "link" or "trash", from, to, number: false}; answers {status, code, message, path} */
     Q_INVOKABLE QVariantMap add(const QString &run, const QVariantMap &item);
 
+    /** Undoes the last item of an open run that stands: {status, code, message, kind, from, to}; null where there is none. */
+    Q_INVOKABLE QVariant takeBack(const QString &run);
+
+    /** {can, count, reason} */
+    Q_INVOKABLE QVariantMap undoable(const QString &run) const;
+    /**
+     * Begins the run that takes another back; next() and end() drive it like any other.
+     * {run, items: [{kind, from, to}], problems: [{path, code, reason}]}, or {problem, problems}
+     */
+    Q_INVOKABLE QVariantMap undo(const QString &run);
+    /** [{id, title, date, count, done, state, undoes}], the newest first; see files::listRuns(). */
+    Q_INVOKABLE QVariantList runs() const;
+    /** Ends what was interrupted: [{id, title, done, finished, takenBack, left, problems}]. Once, at start. */
+    Q_INVOKABLE QVariantList recover();
+
 private:
     QVariantMap started(std::unique_ptr<files::MoveRun> run, const QString &problem);
     files::MoveRun *found(const QString &run) const;
@@ -55,6 +71,7 @@ private:
     mutable platform::DiskFileSystem m_disk;
     files::DiskJournalShelf m_shelf;
     std::map<QString, std::unique_ptr<files::MoveRun>> m_runs;
+    std::set<std::pair<QString, int>> m_givenUp; ///< items that could not be taken back
 };
 
 } // namespace window

@@ -1,0 +1,371 @@
+#pragma once
+
+#include "files/journal_shelf.h"
+#include "files/move_names.h"
+
+#include "platform/foundation/file_system.h"
+#include "platform/foundation/paths.h"
+
+#include <QSet>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+/** Thrown where a process is to end at once, as by a kill. */
+struct Killed
+{
+};
+
+/** Counts what changes something, and ends the process at one of them. */
+class Fuse
+{
+public:
+    /** The process ends at the @p count-th change from now. */
+    void light(int count) { m_left = count; }
+    void putOut() { m_left = -1; }
+    int burnt() const { return m_burnt; }
+    /** True if this change is the last, and half of it happens. */
+    bool burns()
+    {
+        ++m_burnt;
+        return m_left >= 0 && m_left-- == 0;
+    }
+
+private:
+    int m_left = -1;
+    int m_burnt = 0;
+};
+
+/** A file system in memory. What lies below "/other" is on another disk. */
+class ModelFileSystem : public platform::FileSystem
+{
+public:
+    using State = platform::ItemState;
+    using Kind = platform::ItemKind;
+
+    ModelFileSystem()
+    {
+        m_root->kind = Kind::Folder;
+        m_trash->kind = Kind::Folder;
+        addFolder(QStringLiteral("/other"));
+    }
+
+    bool tellsCasesApart = true;
+    /** Called before every change; what it answers is the failure of that change. */
+    std::function<std::error_code()> trouble;
+    Fuse *fuse = nullptr;
+    QSet<QString> lockedFolders;
+
+    void addFile(const QString &path, const QByteArray &bytes) { put(path, newNode(Kind::File, bytes)); }
+    void addFolder(const QString &path) { put(path, newNode(Kind::Folder, {})); }
+    void addLink(const QString &path, const QString &target) { put(path, newNode(Kind::Link, target.toUtf8())); }
+    void addSecondName(const QString &path, const QString &of) { put(path, find(of)); }
+    void change(const QString &path, const QByteArray &bytes)
+    {
+        find(path)->bytes = bytes;
+        find(path)->changed = ++m_clock;
+    }
+    void drop(const QString &path) { folderOf(path)->items.erase(nameIn(*folderOf(path), path)); }
+    QByteArray bytes(const QString &path) const
+    {
+        const auto node = find(path);
+        return node ? node->bytes : QByteArray("nothing");
+    }
+    /** Every path with what is there; the inode too, but for copies. The trash is left out. */
+    std::map<QString, QByteArray> everything() const
+    {
+        std::map<QString, QByteArray> all;
+        collect(*m_root, QString(), all);
+        return all;
+    }
+    int trashedCount() const { return int(m_trash->items.size()); }
+
+    std::optional<State> look(const QString &path) const override
+    {
+        const auto node = find(path);
+        if (!node)
+            return std::nullopt;
+        State state;
+        state.kind = node->kind;
+        state.device = path.startsWith(QStringLiteral("/other")) ? 2 : 1;
+        state.inode = node->inode;
+        state.bytes = node->bytes.size();
+        state.changedNs = node->changed;
+        state.bornNs = qint64(node->inode);
+        state.names = quint32(node.use_count() - 1);
+        return state;
+    }
+    std::optional<std::vector<platform::FolderEntry>> list(const QString &folder) const override
+    {
+        const auto node = find(folder);
+        if (!node || node->kind != Kind::Folder)
+            return std::nullopt;
+        std::vector<platform::FolderEntry> entries;
+        for (const auto &[name, item] : node->items)
+            entries.push_back({name, item->kind == Kind::Folder});
+        return entries;
+    }
+    QString canonicalFolder(const QString &folder) const override
+    {
+        const auto node = find(folder);
+        return node && node->kind == Kind::Folder ? folder : QString();
+    }
+    bool mayChange(const QString &folder) const override { return !lockedFolders.contains(folder); }
+    QString linkText(const QString &path) const override
+    {
+        const auto node = find(path);
+        return node && node->kind == Kind::Link ? QString::fromUtf8(node->bytes) : QString();
+    }
+    bool haveSameContent(const QString &one, const QString &other) const override
+    {
+        const auto a = find(one);
+        const auto b = find(other);
+        return a && b && areSame(*a, *b);
+    }
+
+    std::error_code rename(const QString &from, const QString &to) override
+    {
+        if (const std::error_code error = disturbed())
+            return error;
+        const auto node = find(from);
+        const auto folder = folderOf(to);
+        if (!node || !folder)
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        if (lockedFolders.contains(platform::parentFolder(from)) || lockedFolders.contains(platform::parentFolder(to)))
+            return std::make_error_code(std::errc::permission_denied);
+        if (find(to))
+            return std::make_error_code(std::errc::file_exists);
+        if (to.startsWith(from + u'/'))
+            return std::make_error_code(std::errc::invalid_argument);
+        if (look(from)->device != look(platform::parentFolder(to))->device)
+            return std::make_error_code(std::errc::cross_device_link);
+        drop(from);
+        folder->items[platform::lastPathComponent(to)] = node;
+        return {};
+    }
+    std::error_code makeFolder(const QString &path) override { return make(path, Kind::Folder, {}); }
+    std::error_code makeLink(const QString &target, const QString &path) override
+    {
+        return make(path, Kind::Link, target.toUtf8());
+    }
+    std::error_code removeEmptyFolder(const QString &path) override
+    {
+        if (const std::error_code error = disturbed())
+            return error;
+        const auto node = find(path);
+        if (!node || node->kind != Kind::Folder || !node->items.empty())
+            return std::make_error_code(std::errc::directory_not_empty);
+        drop(path);
+        return {};
+    }
+    std::error_code copy(const QString &from, const QString &to) override
+    {
+        const auto node = find(from);
+        const bool isCutShort = fuse && fuse->burns();
+        if (!node || !folderOf(to) || find(to))
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        const auto copied = copyOf(*node);
+        if (isCutShort)
+            copied->bytes.chop(1);
+        folderOf(to)->items[platform::lastPathComponent(to)] = copied;
+        if (isCutShort)
+            throw Killed();
+        const std::error_code error = trouble ? trouble() : std::error_code();
+        return error;
+    }
+    std::error_code remove(const QString &path) override
+    {
+        if (const std::error_code error = disturbed())
+            return error;
+        if (!find(path))
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        drop(path);
+        return {};
+    }
+    platform::Result<platform::TrashedItem> trash(const QString &path) override
+    {
+        if (disturbed() || !find(path))
+            return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("Cannot trash"));
+        const QString name = QString::number(++m_trashCount);
+        m_trash->items[name] = find(path);
+        m_trashedFrom[name] = path;
+        drop(path);
+        return platform::TrashedItem{QStringLiteral("/trash/") + name};
+    }
+    std::error_code restore(const platform::TrashedItem &item, const QString &path) override
+    {
+        if (const std::error_code error = disturbed())
+            return error;
+        if (find(path))
+            return std::make_error_code(std::errc::file_exists);
+        if (!find(item.path) || !folderOf(path))
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        folderOf(path)->items[platform::lastPathComponent(path)] = find(item.path);
+        m_trash->items.erase(platform::lastPathComponent(item.path));
+        return {};
+    }
+    std::optional<platform::TrashedItem> findTrashed(const QString &path, const State &state) const override
+    {
+        for (const auto &[name, node] : m_trash->items)
+            if (m_trashedFrom.at(name) == path && node->inode == state.inode)
+                return platform::TrashedItem{QStringLiteral("/trash/") + name};
+        return std::nullopt;
+    }
+    void settle(const QString &) override {}
+
+private:
+    struct Node
+    {
+        Kind kind = Kind::File;
+        quint64 inode = 0;
+        QByteArray bytes;
+        qint64 changed = 0;
+        std::map<QString, std::shared_ptr<Node>> items;
+    };
+    using NodePointer = std::shared_ptr<Node>;
+
+    NodePointer newNode(Kind kind, const QByteArray &bytes)
+    {
+        const auto node = std::make_shared<Node>();
+        node->kind = kind;
+        node->inode = ++m_clock;
+        node->changed = qint64(m_clock);
+        node->bytes = bytes;
+        return node;
+    }
+    NodePointer copyOf(const Node &node)
+    {
+        const auto copied = newNode(node.kind, node.bytes);
+        copied->changed = node.changed;
+        for (const auto &[name, item] : node.items)
+            copied->items[name] = copyOf(*item);
+        return copied;
+    }
+    static bool areSame(const Node &a, const Node &b)
+    {
+        return a.kind == b.kind && a.bytes == b.bytes && a.items.size() == b.items.size() &&
+               std::equal(a.items.begin(), a.items.end(), b.items.begin(), [](const auto &one, const auto &other) {
+                   return one.first == other.first && areSame(*one.second, *other.second);
+               });
+    }
+    NodePointer find(const QString &path) const
+    {
+        if (path == QStringLiteral("/"))
+            return m_root;
+        if (path == QStringLiteral("/trash"))
+            return m_trash;
+        const auto folder = folderOf(path);
+        const auto found = folder ? folder->items.find(nameIn(*folder, path)) : decltype(folder->items.end())();
+        return folder && found != folder->items.end() ? found->second : nullptr;
+    }
+    NodePointer folderOf(const QString &path) const
+    {
+        const auto folder = find(platform::parentFolder(path));
+        return folder && folder->kind == Kind::Folder ? folder : nullptr;
+    }
+    /** The name as it is written in the folder. */
+    QString nameIn(const Node &folder, const QString &path) const
+    {
+        const QString name = platform::lastPathComponent(path);
+        if (!tellsCasesApart)
+            for (const auto &item : folder.items)
+                if (files::nameKey(item.first) == files::nameKey(name))
+                    return item.first;
+        return name;
+    }
+    void put(const QString &path, const NodePointer &node)
+    {
+        const auto folder = folderOf(path);
+        if (!folder)
+            addFolder(platform::parentFolder(path));
+        folderOf(path)->items[platform::lastPathComponent(path)] = node;
+    }
+    std::error_code make(const QString &path, Kind kind, const QByteArray &bytes)
+    {
+        if (const std::error_code error = disturbed())
+            return error;
+        if (find(path))
+            return std::make_error_code(std::errc::file_exists);
+        if (!folderOf(path))
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        put(path, newNode(kind, bytes));
+        return {};
+    }
+    std::error_code disturbed()
+    {
+        if (fuse && fuse->burns())
+            throw Killed();
+        return trouble ? trouble() : std::error_code();
+    }
+    static void collect(const Node &folder, const QString &path, std::map<QString, QByteArray> &all)
+    {
+        for (const auto &[name, item] : folder.items) {
+            const QString place = path + u'/' + name;
+            all[place] = char('0' + int(item->kind)) + item->bytes;
+            collect(*item, place, all);
+        }
+    }
+
+    NodePointer m_root = std::make_shared<Node>();
+    NodePointer m_trash = std::make_shared<Node>();
+    std::map<QString, QString> m_trashedFrom;
+    quint64 m_clock = 0;
+    int m_trashCount = 0;
+};
+
+/** Journals in memory, which can be stopped at every line, in the middle of it too. */
+class ModelShelf : public files::JournalShelf
+{
+public:
+    Fuse *fuse = nullptr;
+    std::map<QString, QByteArray> journals;
+    QSet<QString> held; ///< by this process
+    QSet<QString> heldByOthers;
+
+    QStringList names() const override
+    {
+        QStringList all;
+        for (const auto &journal : journals)
+            all.prepend(journal.first);
+        return all;
+    }
+    QString make(const QString &name, const QByteArray &lines) override
+    {
+        held.insert(name);
+        return add(name, lines);
+    }
+    bool hold(const QString &name) override
+    {
+        if (held.contains(name) || heldByOthers.contains(name))
+            return false;
+        held.insert(name);
+        return true;
+    }
+    void letGo(const QString &name) override { held.remove(name); }
+    QString append(const QString &name, const QByteArray &lines, files::Lasting) override
+    {
+        return held.contains(name) ? add(name, lines) : QStringLiteral("not held");
+    }
+    std::optional<QByteArray> read(const QString &name) const override
+    {
+        const auto found = journals.find(name);
+        return found == journals.end() ? std::nullopt : std::optional(found->second);
+    }
+    std::pair<QByteArray, QByteArray> ends(const QString &name) const override
+    {
+        const QList<QByteArray> lines = read(name).value_or(QByteArray()).split('\n');
+        return {lines.first(), lines.size() > 1 && lines.last().isEmpty() ? lines[lines.size() - 2] : QByteArray()};
+    }
+    void remove(const QString &name) override { journals.erase(name); }
+
+private:
+    QString add(const QString &name, const QByteArray &lines)
+    {
+        const bool isCutShort = fuse && fuse->burns();
+        journals[name] += isCutShort ? lines.left(lines.size() / 2) : lines;
+        if (isCutShort)
+            throw Killed();
+        return {};
+    }
+};

@@ -1,0 +1,344 @@
+#include "files/move_paths.h"
+#include "files/move_plan.h"
+#include "files/move_recovery.h"
+#include "files/move_undo.h"
+#include "tests/support/model_file_system.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace files;
+
+namespace {
+
+const QString asideMark = QStringLiteral(".quorlin-");
+
+/** Names that collide as often as possible: twins in case and accents, numbered ones, odd ones. */
+const QStringList someNames = {QStringLiteral("a.jpg"),      QStringLiteral("A.jpg"),
+                               QStringLiteral("b.jpg"),      QStringLiteral("a (2).jpg"),
+                               QStringLiteral("b (2).jpg"),  QStringLiteral("c"),
+                               QStringLiteral("d"),          QStringLiteral("D"),
+                               QStringLiteral("\u00e9.jpg"), QStringLiteral("e\u0301.jpg"),
+                               QStringLiteral("e"),          QStringLiteral("f g.tiff"),
+                               QStringLiteral(".hidden"),    QStringLiteral("h."),
+                               QStringLiteral("i.tar.gz"),   QStringLiteral("j")};
+
+/** One made-up world with a plan for it. */
+class World
+{
+public:
+    explicit World(quint32 seed) : random(seed)
+    {
+        QStringList folders = {QStringLiteral("/in"), QStringLiteral("/other")};
+        disk.addFolder(folders.first());
+        const int count = 4 + below(18);
+        for (int i = 0; i < count; ++i) {
+            const QString path = pick(folders) + u'/' + pick(someNames);
+            if (disk.look(path))
+                continue;
+            if (below(4) == 0 && path.count(u'/') < 5) {
+                disk.addFolder(path);
+                folders.append(path);
+            } else if (below(8) == 0) {
+                disk.addLink(path, QStringLiteral("/in/a.jpg"));
+            } else {
+                disk.addFile(path, "content " + QByteArray::number(++contents));
+            }
+        }
+        for (const auto &entry : disk.everything())
+            if (entry.first.count(u'/') > 1)
+                items.append(entry.first);
+        if (!items.isEmpty())
+            wish(folders);
+    }
+
+    int below(int limit) { return int(random.bounded(limit)); }
+    QString pick(const QStringList &list) { return list[below(int(list.size()))]; }
+
+    /** The ready ones of the plan, as a run takes them. */
+    MoveOrderForm readyItems() const
+    {
+        const auto plan = planMoves(wishes, disk);
+        MoveOrderForm form;
+        form.title = QStringLiteral("Rename");
+        for (size_t i = 0; i < plan.size(); ++i)
+            if (plan[i].status == PlanStatus::Ready) {
+                MoveItem item;
+                item.deed = wishes[i].kind == MoveKind::Copy   ? Deed::Copy
+                            : wishes[i].kind == MoveKind::Link ? Deed::Link
+                                                               : Deed::Move;
+                item.from = wishes[i].from;
+                item.to = plan[i].to;
+                form.items.push_back(item);
+            }
+        return form;
+    }
+
+    /** Contents of all files, so that none can be lost, doubled or changed unseen. */
+    QList<QByteArray> allContents() const
+    {
+        QList<QByteArray> all;
+        for (const auto &entry : disk.everything())
+            if (entry.second.startsWith('0'))
+                all.append(entry.second);
+        std::sort(all.begin(), all.end());
+        return all;
+    }
+
+    bool hasTemporaryName() const
+    {
+        const auto all = disk.everything();
+        return std::any_of(all.begin(), all.end(), [](const auto &entry) { return entry.first.contains(asideMark); });
+    }
+
+    QRandomGenerator random;
+    ModelFileSystem disk;
+    ModelShelf shelf;
+    std::vector<MoveWish> wishes;
+    QStringList items;
+    int contents = 0;
+
+private:
+    static QString folderOf(const QString &path) { return platform::parentFolder(path); }
+
+    void wish(const QStringList &folders)
+    {
+        const bool onlyMoves = below(3) > 0;
+        for (int i = 0, count = 1 + below(10); i < count; ++i) {
+            const QString from = pick(items);
+            const int kind = onlyMoves ? 0 : below(6);
+            QString folder = below(4) ? folderOf(from) : pick(folders);
+            if (below(12) == 0)
+                folder += QStringLiteral("/new/") + pick(someNames);
+            const QString to = folder + u'/' + (below(3) ? pick(someNames) : platform::lastPathComponent(pick(items)));
+            wishes.push_back({kind == 1   ? MoveKind::Copy
+                              : kind == 2 ? MoveKind::Link
+                                          : MoveKind::Move,
+                              from, to, below(3) == 0, below(8) == 0 ? below(count) : -1});
+        }
+        rotate();
+    }
+
+    /** The names of some items of one folder go round. */
+    void rotate()
+    {
+        const QString folder = folderOf(pick(items));
+        QStringList inIt;
+        for (const QString &path : items)
+            if (folderOf(path) == folder && below(3))
+                inIt.append(path);
+        for (qsizetype i = 0; i < inIt.size(); ++i)
+            wishes.insert(wishes.begin(), {MoveKind::Move, inIt[i], inIt[(i + 1) % inIt.size()], false, -1});
+    }
+};
+
+/** Carries out a run to its end, or up to @p most results. */
+std::unique_ptr<MoveRun> carriedOut(World &world, const MoveOrderForm &form, int most = 1'000'000)
+{
+    QString problem;
+    auto run = MoveRun::begin(world.disk, world.shelf, form, &problem);
+    std::vector<int> told(form.items.size());
+    for (int i = 0; i < most; ++i) {
+        const auto result = run->next();
+        if (!result)
+            break;
+        ++told[size_t(result->index)];
+    }
+    if (std::any_of(told.begin(), told.end(), [](int count) { return count > 1; }))
+        qFatal("an item has come to two ends");
+    run->end();
+    return run;
+}
+
+/** What differs between two states of a world, and what led there. */
+QByteArray story(bool isRight, quint32 seed, const World &world, const std::map<QString, QByteArray> &before)
+{
+    if (isRight)
+        return {};
+    QString text = QStringLiteral("seed %1\n").arg(seed);
+    for (const QString &name : world.shelf.names())
+        text += QString::fromUtf8(world.shelf.read(name).value());
+    const auto now = world.disk.everything();
+    for (const auto &[path, what] : before)
+        if (const auto found = now.find(path); found == now.end() || found->second != what)
+            text += QStringLiteral("was: %1 %2\n").arg(path, QString::fromUtf8(what));
+    for (const auto &[path, what] : now)
+        if (const auto found = before.find(path); found == before.end() || found->second != what)
+            text += QStringLiteral("is: %1 %2\n").arg(path, QString::fromUtf8(what));
+    qInfo("%s", qPrintable(text));
+    return QByteArray::number(seed);
+}
+
+} // namespace
+
+/** Thousands of made-up plans: nothing is ever lost or replaced, and what was done can be taken back. */
+class TestMoveRandom : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void doesWhatWasPlanned();
+    void losesNothingWhenOthersInterfere();
+    void endsEveryInterruptedRun();
+
+private:
+    static void checkPlaces(World &world, const RunRecord &record, const std::map<QString, QByteArray> &before);
+};
+
+/** Every item is where the record says, with what it held before. */
+void TestMoveRandom::checkPlaces(World &world, const RunRecord &record, const std::map<QString, QByteArray> &before)
+{
+    PathsSince now(record);
+    for (int i = 0; i < int(record.items.size()); ++i) {
+        const MoveRecord &item = record.items[size_t(i)];
+        if (item.item.deed != Deed::Move)
+            continue;
+        const bool isNumbered = item.stand == Stand::Failed && !item.path.isEmpty();
+        const QString place = item.stand == Stand::Done || isNumbered ? item.path : item.item.from;
+        const QByteArray held = before.at(item.item.from).mid(1);
+        if (item.code != QStringLiteral("gone"))
+            QVERIFY2(world.disk.bytes(now(place, i)) == held, qPrintable(now(place, i)));
+    }
+}
+
+void TestMoveRandom::doesWhatWasPlanned()
+{
+    int carried = 0;
+    int refused = 0;
+    int asides = 0;
+    for (quint32 seed = 0; seed < 12'000; ++seed) {
+        World world(seed);
+        const auto before = world.disk.everything();
+        const MoveOrderForm form = world.readyItems();
+        refused += int(world.wishes.size() - form.items.size());
+        if (form.items.empty())
+            continue;
+        const bool isCancelled = world.below(4) == 0;
+        const auto run = carriedOut(world, form, isCancelled ? world.below(int(form.items.size())) : 1'000'000);
+        QVERIFY2(!world.hasTemporaryName(), story(!world.hasTemporaryName(), seed, world, before));
+        for (const MoveRecord &item : run->record().items) {
+            const bool isAsPlanned = item.stand == Stand::Done || (isCancelled && item.stand == Stand::Waiting);
+            QVERIFY2(isAsPlanned, story(isAsPlanned, seed, world, before));
+            carried += item.stand == Stand::Done;
+        }
+        for (const MoveStep &step : run->record().steps)
+            asides += step.isAside;
+        checkPlaces(world, run->record(), before);
+        if (run->record().doneAtEnd == 0)
+            continue;
+        const auto after = world.disk.everything();
+        const UndoPlan undo = planUndo(world.disk, world.shelf, run->id());
+        QVERIFY2(undo.problems.empty(), qPrintable(QStringLiteral("%1: %2").arg(seed).arg(
+                                            undo.problems.empty() ? QString() : undo.problems[0].reason)));
+        const auto undone = carriedOut(world, undo.form);
+        QVERIFY2(world.disk.everything() == before, story(world.disk.everything() == before, seed, world, before));
+        QVERIFY(!planUndo(world.disk, world.shelf, run->id()).problem.isEmpty());
+        const UndoPlan redo = planUndo(world.disk, world.shelf, undone->id());
+        QVERIFY2(redo.problems.empty(), story(redo.problems.empty(), seed, world, before));
+        (void)carriedOut(world, redo.form);
+        QVERIFY2(world.disk.everything() == after, story(world.disk.everything() == after, seed, world, after));
+    }
+    qInfo("%d items carried out, taken back and done again, %d refused, %d stepped aside", carried, refused, asides);
+    QVERIFY(carried > 20'000 && refused > 10'000 && asides > 1'000);
+}
+
+void TestMoveRandom::losesNothingWhenOthersInterfere()
+{
+    int failed = 0;
+    int foreign = 0;
+    int twice = 0;
+    for (quint32 seed = 0; seed < 12'000; ++seed) {
+        World world(seed + 1'000'000);
+        for (MoveWish &wish : world.wishes)
+            wish.kind = MoveKind::Move;
+        const auto before = world.disk.everything();
+        const MoveOrderForm form = world.readyItems();
+        if (form.items.empty())
+            continue;
+        world.disk.trouble = [&]() -> std::error_code {
+            if (world.below(6) == 0) {
+                const QString path = platform::parentFolder(world.pick(world.items)) + u'/' + world.pick(someNames);
+                const auto folder = world.disk.look(platform::parentFolder(path));
+                if (!world.disk.look(path) && folder && folder->kind == platform::ItemKind::Folder) {
+                    world.disk.addFile(path, "foreign " + QByteArray::number(++foreign));
+                }
+            }
+            return world.below(10) == 0 ? std::make_error_code(std::errc::io_error) : std::error_code();
+        };
+        const int foreignBefore = foreign;
+        const QList<QByteArray> contents = world.allContents();
+        const auto run = carriedOut(world, form);
+        world.disk.trouble = nullptr;
+        recoverMoves(world.disk, world.shelf);
+        checkPlaces(world, readRecord(world.shelf.read(run->id()).value()), before);
+        QList<QByteArray> now = world.allContents();
+        now.removeIf([](const QByteArray &bytes) { return bytes.startsWith("0foreign"); });
+        // Where neither the source nor the copy on another disk could be removed, both are there.
+        twice += int(now.size() - contents.size());
+        now.erase(std::unique(now.begin(), now.end()), now.end());
+        QVERIFY2(now == contents, story(now == contents, seed, world, before));
+        auto all = world.allContents();
+        all.erase(std::unique(all.begin(), all.end()), all.end());
+        QCOMPARE(
+            std::count_if(all.begin(), all.end(), [](const QByteArray &bytes) { return bytes.startsWith("0foreign"); }),
+            foreign - foreignBefore);
+        QVERIFY2(!world.hasTemporaryName(), story(!world.hasTemporaryName(), seed, world, before));
+        for (const MoveRecord &item : run->record().items)
+            failed += item.stand == Stand::Failed;
+    }
+    qInfo("%d items failed, %d foreign files came in between, %d files are there twice", failed, foreign, twice);
+    QVERIFY(failed > 5'000 && foreign > 3'000 && twice < 100);
+}
+
+void TestMoveRandom::endsEveryInterruptedRun()
+{
+    int kills = 0;
+    for (quint32 seed = 0; seed < 8'000; ++seed) {
+        World world(seed + 2'000'000);
+        const MoveOrderForm form = world.readyItems();
+        if (form.items.empty())
+            continue;
+        const auto before = world.disk.everything();
+        const QList<QByteArray> contents = world.allContents();
+        Fuse fuse;
+        world.disk.fuse = world.shelf.fuse = &fuse;
+        fuse.light(world.below(4 * int(form.items.size()) + 2));
+        for (bool isOver = false, isBegun = false; !isOver;) {
+            try {
+                if (!isBegun) {
+                    isBegun = true;
+                    (void)carriedOut(world, form);
+                } else {
+                    recoverMoves(world.disk, world.shelf);
+                }
+                isOver = true;
+            } catch (const Killed &) {
+                ++kills;
+                world.shelf.held.clear();
+                world.below(2) ? fuse.light(world.below(6)) : fuse.putOut();
+            }
+        }
+        fuse.putOut();
+        QVERIFY2(!world.hasTemporaryName(), story(!world.hasTemporaryName(), seed, world, before));
+        if (world.shelf.journals.empty()) {
+            QCOMPARE(world.disk.everything(), before);
+            continue;
+        }
+        const RunRecord record = readRecord(world.shelf.journals.begin()->second);
+        QVERIFY(!record.end.isEmpty());
+        checkPlaces(world, record, before);
+        const auto everything = world.disk.everything();
+        QVERIFY(recoverMoves(world.disk, world.shelf).empty());
+        QVERIFY(world.disk.everything() == everything);
+        const UndoPlan undo = planUndo(world.disk, world.shelf, record.id);
+        QVERIFY2(undo.problems.empty(), story(undo.problems.empty(), seed, world, before));
+        if (!undo.form.items.empty())
+            (void)carriedOut(world, undo.form);
+        QVERIFY2(world.disk.everything() == before, story(world.disk.everything() == before, seed, world, before));
+    }
+    qInfo("%d kills", kills);
+    QVERIFY(kills > 3'000);
+}
+
+QTEST_GUILESS_MAIN(TestMoveRandom)
+#include "tst_move_random.moc"
