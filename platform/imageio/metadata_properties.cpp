@@ -195,14 +195,16 @@ void addImageTag(ExifGroups &groups, const Exiv2::Exifdatum &tag, const QString 
     if (!shown || pointerOrData)
         return;
     // Cameras that write TIFF put exposure data beside the camera's name.
-    const bool exposure = number >= 0x829a && number < 0x9c00;
+    const bool exposure = (number >= 0x829a && number < 0x9c00) || (number >= 0xa000 && number < 0xa500);
     insertValid(exposure ? groups.exif : groups.tiff, name, valueOf(tag, name, order));
 }
 
 void addExifTag(ExifGroups &groups, const Exiv2::Exifdatum &tag, Exiv2::ByteOrder order)
 {
     const std::string group = tag.groupName();
-    const QString tagName = QString::fromStdString(tag.tagName());
+    QString tagName = QString::fromStdString(tag.tagName());
+    if (group == "Image" && tagName.startsWith(QLatin1String("0x"))) // some programs put all tags into one directory
+        tagName = QString::fromStdString(Exiv2::ExifKey(tag.tag(), "Photo").tagName());
     if (tagName.startsWith(QLatin1String("0x")))
         return;
     if (group == "Photo") {
