@@ -1,5 +1,6 @@
 #include "app/window/dialog_panels.h"
 
+#include "app/window/print_dialog.h"
 #include "platform/desktop/user_defaults.h"
 
 #include <QApplication>
@@ -51,7 +52,7 @@ void prepareSave(QFileDialog &dialog, const platform::PanelRequest &request)
 platform::PanelAnswer DialogPanels::run(const platform::PanelRequest &request)
 {
     if (request.kind == platform::PanelKind::Print)
-        return {};
+        return runPrintDialog(request);
     QFileDialog dialog(QApplication::activeWindow());
     const QString last = platform::userDefault(lastFolderKey).toString();
     dialog.setDirectory(!request.folder.isEmpty() ? request.folder : !last.isEmpty() ? last : QDir::homePath());

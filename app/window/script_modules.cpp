@@ -4,6 +4,7 @@
 #include "app/window/file_desk.h"
 #include "app/window/move_desk.h"
 #include "app/window/picture_desk.h"
+#include "app/window/program_desk.h"
 #include "app/window/shell.h"
 
 #include <QQmlEngine>
@@ -32,6 +33,7 @@ void addFilesModule(script::ScriptEngine &scripts)
 void addShellModule(script::ScriptEngine &scripts, Shell &shell)
 {
     addObject(scripts, QStringLiteral("quorlin/shell"), QStringLiteral("shell"), &shell);
+    addObject(scripts, QStringLiteral("quorlin/program"), QStringLiteral("program"), new ProgramDesk(&scripts));
 }
 
 } // namespace window

@@ -14,7 +14,7 @@ class Shell;
  */
 void addFilesModule(script::ScriptEngine &scripts);
 
-/** Adds the module "quorlin/shell" with the object shell. */
+/** Adds the modules "quorlin/shell" with the object shell and "quorlin/program" with the object program, a ProgramDesk. */
 void addShellModule(script::ScriptEngine &scripts, Shell &shell);
 
 } // namespace window

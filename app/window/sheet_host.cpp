@@ -15,6 +15,8 @@ QObject *SheetHost::sheet() const
 void SheetHost::setSheet(QObject *sheet)
 {
     auto *dialog = qobject_cast<QDialog *>(sheet);
+    if (!sheet)
+        m_sheet = nullptr;
     if (!dialog)
         return;
     if (dialog->parentWidget() != &m_window)

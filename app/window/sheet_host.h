@@ -18,7 +18,7 @@ public:
 
     /** The sheet that is open, or null. */
     QObject *sheet() const;
-    /** Opens a dialog; it blocks this window and nothing waits for it. Other objects are passed over. */
+    /** Opens a dialog; it blocks this window and nothing waits for it. Null forgets it, other objects are passed over. */
     void setSheet(QObject *sheet);
 
 private:

@@ -1,14 +1,17 @@
 #include "app/window/start_up.h"
 
+#include "app/configuration.h"
 #include "app/script/ScriptEngine.h"
 #include "app/window/dialog_panels.h"
 #include "app/window/icons.h"
 #include "app/window/interface_folder.h"
+#include "app/window/interface_texts.h"
 #include "app/window/script_modules.h"
 #include "app/window/shell.h"
 #include "app/window/theme.h"
 #include "app/window/widget_controls.h"
 
+#include "platform/desktop/strings_tables.h"
 #include "platform/foundation/log.h"
 
 #include <QApplication>
@@ -23,6 +26,11 @@ StartUp::StartUp(QApplication &application)
     QCoreApplication::setApplicationVersion(QStringLiteral(QUORLIN_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.brelmark.Quorlin"));
     const QString folder = interfaceFolder();
+    app::useTexts();
+    m_texts = std::make_unique<InterfaceTexts>();
+    if (m_texts->read(folder + QStringLiteral("/texts/") + platform::languageOfTexts() +
+                      QStringLiteral("/Interface.json")))
+        QCoreApplication::installTranslator(m_texts.get());
     setIconFolder(folder + QStringLiteral("/icons"));
     m_theme = std::make_unique<Theme>(application, folder + QStringLiteral("/themes"));
     m_shell = std::make_unique<Shell>(folder, *m_theme);

@@ -13,6 +13,7 @@ class ScriptEngine;
 
 namespace window {
 
+class InterfaceTexts;
 class Shell;
 class Theme;
 
@@ -38,6 +39,7 @@ public:
 
 private:
     QString m_problem;
+    std::unique_ptr<InterfaceTexts> m_texts;
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<Shell> m_shell;
     std::unique_ptr<script::ScriptEngine> m_scripts;

@@ -103,7 +103,7 @@ export class BackgroundPane extends Pane {
 
     showState() {
         this.visible(["underColorLabel", "underColorHost"], this.settings.under === "color");
-        this.visible(["patternLabel", "pattern"], this.settings.under === "pattern");
+        this.visible(["patternLabel", "patternHost"], this.settings.under === "pattern");
         this.visible(["bandLabel", "bandHost"], this.settings.frame === "band");
     }
 }

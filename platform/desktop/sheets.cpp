@@ -30,6 +30,13 @@ bool hasSheets(const QObject *window)
     return window && window->metaObject()->indexOfProperty("sheet") >= 0;
 }
 
+/** A person can close a real window without asking anybody here. */
+bool isHidden(const QObject &sheet)
+{
+    const QVariant visible = sheet.property("visible");
+    return visible.isValid() && !visible.toBool();
+}
+
 void show(QObject &window, QObject *sheet)
 {
     window.setProperty("sheet", QVariant::fromValue(sheet));
@@ -42,7 +49,7 @@ std::vector<QPointer<QObject>> forget(const QObject *sheet)
     std::erase_if(openSheets(), [&](const OpenSheet &each) {
         if (each.sheet == sheet && each.window)
             windows.push_back(each.window);
-        return each.sheet == sheet || !each.sheet || !each.window;
+        return each.sheet == sheet || !each.sheet || !each.window || isHidden(*each.sheet);
     });
     return windows;
 }
@@ -72,6 +79,7 @@ void endSheet(QObject *sheet, QObject *window)
     std::vector<QPointer<QObject>> windows = forget(sheet);
     if (hasSheets(window))
         windows.push_back(window);
+    setVisibleOf(sheet, false);
     for (const QPointer<QObject> &each : windows)
         if (each && each->property("sheet").value<QObject *>() == sheet)
             show(*each, lastOpenOn(*each));
@@ -80,7 +88,6 @@ void endSheet(QObject *sheet, QObject *window)
 void orderOutSheet(QObject *sheet)
 {
     endSheet(sheet, nullptr);
-    setVisibleOf(sheet, false);
 }
 
 } // namespace platform

@@ -28,6 +28,7 @@ export class ActionPage {
         window.form.place("outputHost", this.output.form);
         this.presets = new PresetPane(standardSettings(), (settings) => this.take(settings), (text) => window.say(text));
         window.form.place("headHost", this.presets.form);
+        [this.output.form, this.presets.form].forEach((form) => window.help.join(form));
         const simulation = window.form.control("moveSimulation");
         simulation.toggled.connect(guard("simulation", () => this.simulationToggled(simulation.checked)));
         this.choose(recall(defaults, SHOWN, { name: "" }).name);
@@ -129,6 +130,7 @@ export class ActionPage {
             const pane = action.pane === undefined ? null : new action.pane(settings, this.changed, this.window);
             if (pane !== null) {
                 this.window.form.place("actionHost", pane.form);
+                this.window.help.join(pane.form);
             }
             if (pane !== null && pane.beside !== undefined) {
                 this.window.form.place("besideHost", pane.beside);

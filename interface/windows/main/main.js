@@ -5,13 +5,14 @@ import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard, onProblem } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
-import { fill } from "../../lib/wording.js";
 import { makeServices } from "../../services.js";
 import { ActionPage, fillSideBar, lockSideBar } from "./action-page.js";
 import { actionNamed } from "./actions.js";
+import { Help } from "./help.js";
 import { Input } from "./input.js";
 import { Pages } from "./pages.js";
 import { PreviewSide } from "./preview-side.js";
+import { Printing } from "./printing.js";
 import { showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
 
@@ -253,12 +254,6 @@ function openFolders(window) {
     window.run.folders().slice(0, 3).forEach((folder) => shell.openFolder(folder));
 }
 
-function about() {
-    shell.ask({ title: qsTr("About Quorlin"), text: fill(qsTr("Quorlin %1"), shell.version),
-        detail: qsTr("One deed for a whole folder of pictures: it shows what it will do, does it, checks what it did, and can say so in a log.\n\nFree software under the GNU General Public License, version 3 or later."),
-        buttons: [qsTr("Close")], initial: 0, escape: 0, check: "" });
-}
-
 function deedsOf(window) {
     return {
         addPictures: () => window.input.addPictures(),
@@ -283,7 +278,6 @@ function deedsOf(window) {
         large: () => toggleLarge(window),
         fit: () => setFill(window, false),
         fill: () => setFill(window, true),
-        about: about,
     };
 }
 
@@ -296,7 +290,7 @@ const BUTTONS = {
 
 const ENTRIES = [
     "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "quit", "paste",
-    "remove", "selectAll", "next", "previous", "large", "fit", "fill", "about", "showFailed", "undo",
+    "remove", "selectAll", "next", "previous", "large", "fit", "fill", "showFailed", "undo",
 ];
 
 function connectControls(window) {
@@ -362,6 +356,8 @@ export function openMainWindow() {
     window.note = (text) => note(window, text);
     const made = [];
     window.use = (manner) => useManner(window, made, manner);
+    window.help = new Help(window);
+    window.printing = new Printing(window);
     window.page = new ActionPage(window, () => settingsChanged(window));
     window.input = new Input(window);
     window.support = new SupportBar(window);

@@ -1,0 +1,49 @@
+#include "app/window/print_dialog.h"
+
+#include <QApplication>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace window {
+
+namespace {
+
+std::shared_ptr<QPrinter> printerFor(const QPageLayout &page)
+{
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setCreator(QStringLiteral("Quorlin"));
+    printer->setPageLayout(page);
+    printer->setFullPage(true);
+    return printer;
+}
+
+} // namespace
+
+platform::PanelAnswer runPrintDialog(const platform::PanelRequest &request)
+{
+    const std::shared_ptr<QPrinter> printer = printerFor(request.page);
+    QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    // The dialog may have put margins back that the printer likes.
+    printer->setFullPage(true);
+    printer->setPageMargins(request.page.margins(), request.page.units());
+    platform::PanelAnswer answer;
+    answer.accepted = true;
+    answer.printer = printer;
+    return answer;
+}
+
+void runPageSetup(QPageLayout &page)
+{
+    const std::shared_ptr<QPrinter> printer = printerFor(page);
+    QPageSetupDialog dialog(printer.get(), QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    page.setPageSize(printer->pageLayout().pageSize());
+    page.setOrientation(printer->pageLayout().orientation());
+}
+
+} // namespace window

@@ -1,0 +1,105 @@
+#include "app/window/program_desk.h"
+
+#include "app/configuration.h"
+#include "app/print_job.h"
+#include "app/print_settings.h"
+#include "app/window/interface_folder.h"
+#include "app/window/print_dialog.h"
+#include "platform/desktop/strings_tables.h"
+#include "platform/desktop/user_defaults.h"
+#include "platform/imageio/library_versions.h"
+#include "presets/database_version.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QVersionNumber>
+
+namespace window {
+
+namespace {
+
+const QString paperKey = QStringLiteral("PrintPaper");
+const QString landscapeKey = QStringLiteral("PrintLandscape");
+
+/** What the user chose in an earlier run, taken up once. */
+void recallPage(QPageLayout &page)
+{
+    const QVariant paper = platform::userDefault(paperKey);
+    static bool isRecalled = false;
+    if (isRecalled || !paper.isValid())
+        return;
+    isRecalled = true;
+    const int id = paper.toInt();
+    if (id >= 0 && id < QPageSize::LastPageSize && id != QPageSize::Custom)
+        page.setPageSize(QPageSize(QPageSize::PageSizeId(id)));
+    page.setOrientation(platform::userDefault(landscapeKey).toBool() ? QPageLayout::Landscape : QPageLayout::Portrait);
+}
+
+QVariantMap described(const platform::Library &library)
+{
+    return {{QStringLiteral("name"), library.name},
+            {QStringLiteral("version"), library.version},
+            {QStringLiteral("licence"), library.licence}};
+}
+
+} // namespace
+
+int ProgramDesk::build() const
+{
+    const QVersionNumber number = QVersionNumber::fromString(version());
+    return number.majorVersion() * 10000 + number.minorVersion() * 100 + number.microVersion();
+}
+
+QString ProgramDesk::productPage() const
+{
+    return app::productPage().toString();
+}
+
+bool ProgramDesk::hasUpdateHost() const
+{
+    return !app::updateHost().isEmpty();
+}
+
+QVariantList ProgramDesk::libraries() const
+{
+    QVariantList all;
+    for (const platform::Library &library : platform::librariesInUse())
+        all.append(described(library));
+    all.append(described({QStringLiteral("SQLite"), presets::databaseVersion(), QStringLiteral("public domain")}));
+    return all;
+}
+
+QString ProgramDesk::language() const
+{
+    return platform::languageOfTexts();
+}
+
+QString ProgramDesk::manual() const
+{
+    const QDir folder(interfaceFolder());
+    for (const char *place : {"../../doc/quorlin/manual", "../docs/manual"}) {
+        const QString path = QDir::cleanPath(folder.filePath(QString::fromLatin1(place)));
+        if (QFileInfo(path).isDir())
+            return path;
+    }
+    return {};
+}
+
+void ProgramDesk::print(const QStringList &paths)
+{
+    app::PrintSettings &settings = app::sharedPrintSettings();
+    recallPage(settings.page);
+    app::fitOnPage(settings);
+    app::printPictures(paths, settings);
+}
+
+void ProgramDesk::setUpPage()
+{
+    QPageLayout &page = app::sharedPrintSettings().page;
+    recallPage(page);
+    runPageSetup(page);
+    platform::setUserDefault(paperKey, int(page.pageSize().id()));
+    platform::setUserDefault(landscapeKey, page.orientation() == QPageLayout::Landscape);
+}
+
+} // namespace window

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QVariant>
+
+namespace window {
+
+/** What scripts of windows ask about the program itself, and printing. */
+class ProgramDesk : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString version READ version CONSTANT)
+    /** The number that version files are compared with: 1.2.3 is 10203. */
+    Q_PROPERTY(int build READ build CONSTANT)
+    /** Where the program can be got, as text; empty where nobody configured it. */
+    Q_PROPERTY(QString productPage READ productPage CONSTANT)
+    Q_PROPERTY(bool hasUpdateHost READ hasUpdateHost CONSTANT)
+    /** {name, version, licence} each. */
+    Q_PROPERTY(QVariantList libraries READ libraries CONSTANT)
+    /** The code of the language of the texts. */
+    Q_PROPERTY(QString language READ language CONSTANT)
+    /** The folder of the manual, or empty where there is none. */
+    Q_PROPERTY(QString manual READ manual CONSTANT)
+
+public:
+    using QObject::QObject;
+
+    QString version() const { return QStringLiteral(QUORLIN_VERSION); }
+    int build() const;
+    QString productPage() const;
+    bool hasUpdateHost() const;
+    QVariantList libraries() const;
+    QString language() const;
+    QString manual() const;
+
+    /** Shows the print panel and prints each picture on a page of its own, fitted and in the middle, without margins. */
+    Q_INVOKABLE void print(const QStringList &paths);
+    /** Lets the user choose paper and orientation for this print and those to come, also in later runs. */
+    Q_INVOKABLE void setUpPage();
+};
+
+} // namespace window

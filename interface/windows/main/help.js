@@ -1,0 +1,74 @@
+// What the main window says about itself: the Help menu, the info buttons of the panes, and new versions.
+// Services used: cAppUpdater, cSheetControl, defaults, files, program.
+
+import { cAppUpdater, cSheetControl } from "quorlin";
+import { defaults } from "quorlin/defaults";
+import { program } from "quorlin/program";
+import { shell } from "quorlin/shell";
+import { guard } from "../../lib/guard.js";
+import { recall } from "../../lib/store.js";
+import { KEY, look, STANDARD } from "../../lib/update.js";
+import { About } from "../about/about.js";
+import { Info, INFO_BUTTONS } from "../info/info.js";
+import { NewVersion } from "../new-version/new-version.js";
+
+const AFTER_START_MS = 1500;
+
+/** Sheets are loaded when they are first shown. */
+export class Help {
+    /** @param window  the main window's parts: form, say, page */
+    constructor(window) {
+        this.window = window;
+        this.host = shell.sheetHost(window.form);
+        this.sheets = new cSheetControl();
+        this.sheets.wwMainWindow = this.host;
+        this.parts = {};
+        const deeds = { about: () => this.about(), update: () => this.check(true), manual: () => this.manual() };
+        Object.keys(deeds).forEach((name) => window.form.control(name + "Action").triggered.connect(guard(name, deeds[name])));
+        this.started = shell.timer(guard("update", () => this.check(false)));
+        if (recall(defaults, KEY, STANDARD).onStart) {
+            this.started.start(AFTER_START_MS);
+        }
+    }
+
+    part(name, make) {
+        if (this.parts[name] === undefined) {
+            this.parts[name] = make();
+        }
+        return this.parts[name];
+    }
+
+    about() {
+        this.part("about", () => new About(this.host)).open();
+    }
+
+    manual() {
+        if (program.manual === "") {
+            this.window.say(qsTr("The manual is not installed."));
+        } else {
+            shell.openFolder(program.manual);
+        }
+    }
+
+    /** Joins the info buttons of a pane. */
+    join(form) {
+        form.names().filter((name) => INFO_BUTTONS[name] !== undefined).forEach((name) => {
+            form.control(name).clicked.connect(guard("info", () => this.part("info", () => new Info(this.sheets)).open(name)));
+        });
+    }
+
+    /** Looks for a new version; only who asked is told that there is none, or that nobody answers. */
+    check(asked) {
+        const found = look(new cAppUpdater(), program.build);
+        if (found.kind === "newer") {
+            this.part("version", () => new NewVersion(this.sheets)).open(found.version, found.notes);
+        } else if (asked) {
+            this.window.say(found.kind === "current" ? qsTr("This is the newest version.") : this.unanswered());
+        }
+    }
+
+    unanswered() {
+        return program.hasUpdateHost ? qsTr("Nobody answers where new versions are announced.")
+                                     : qsTr("This installation does not know where new versions are announced.");
+    }
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace platform {
+
+/** A library that the program stands on. */
+struct Library
+{
+    QString name;
+    QString version; ///< the one that is in use
+    QString licence; ///< its short name
+};
+
+/** The libraries of this room, Qt first. */
+QList<Library> librariesInUse();
+
+} // namespace platform
