@@ -4,6 +4,7 @@
 
 #include "app/window/side_bar.h"
 #include "app/window/theme.h"
+#include "tests/support/web_server.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -66,6 +67,26 @@ void showAsking(WindowDriver &driver, const QString &name)
     driver.click("preferencesDone");
 }
 
+// The sheets that explain, and the one of a new version.
+void showHelp(WindowDriver &driver, const QString &name)
+{
+    const WebServer server(
+        WebServer::page("9.9;999999;Pictures are sharpened after they were made smaller.;Webpages have captions."));
+    qputenv("QUORLIN_UPDATE_HOST", server.host().toLatin1());
+    const auto save = [&](const char *sheet, const char *close) {
+        settle(driver);
+        driver.control<QDialog>(sheet)->grab().save(name + QLatin1Char('-') + QLatin1String(sheet) +
+                                                    QStringLiteral(".png"));
+        driver.click(close);
+    };
+    driver.trigger("aboutAction");
+    save("aboutWindow", "aboutClose");
+    driver.click("infoPresets");
+    save("infoSheet", "infoClose");
+    driver.trigger("updateAction");
+    save("newVersionWindow", "newVersionClose");
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -87,6 +108,7 @@ int main(int argc, char **argv)
         saveScreen(driver, name + QStringLiteral(".png"));
         showActions(driver, folder, QString::fromLatin1(appearance));
         showAsking(driver, name);
+        showHelp(driver, name);
         driver.show("resize");
         driver.click("startButton");
         driver.waitForSummary();

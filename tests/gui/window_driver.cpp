@@ -65,6 +65,10 @@ WindowDriver::WindowDriver(QApplication &application) : m_application(applicatio
                             "MainWindowGeometry",
                             "MainWindowbodySplitter",
                             "MainWindowcentreSplitter",
+                            "Language",
+                            "PrintPaper",
+                            "PrintLandscape",
+                            "UpdateCheck",
                             "MainWindowlistSplitter"})
         platform::removeUserDefault(QString::fromLatin1(key));
     QFile::remove(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
