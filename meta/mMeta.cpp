@@ -1,10 +1,10 @@
 #include "meta/mMeta.h"
 
 #include "meta/edit_log.h"
-#include "meta/main_texts.h"
 #include "meta/property_tree.h"
 
 #include "platform/desktop/controls.h"
+#include "platform/desktop/strings_tables.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/user_comment_writer.h"
 
@@ -18,6 +18,12 @@ QVariant commentIn(const QVariantMap &properties)
     return properties.value(QStringLiteral("{Exif}")).toMap().value(QStringLiteral("UserComment"));
 }
 
+/** The text of the main strings table, or the key itself. */
+QString mainText(const char *key)
+{
+    return platform::localizedText(QString::fromLatin1(key), {});
+}
+
 } // namespace
 
 mMeta::mMeta(QObject *parent) : QObject(parent) {}
@@ -26,14 +32,13 @@ QVariant mMeta::hiDoNothing(const QString &path)
 {
     const auto source = ImageSource::open(path);
     if (!source) {
-        platform::setTextOf(m_commentField, meta::mainText(QStringLiteral("NotSupported")));
+        platform::setTextOf(m_commentField, mainText("NotSupported"));
         platform::setContentOf(m_treeController, {});
         return m_tree;
     }
     const QVariantMap properties = source->properties();
     const QVariant comment = commentIn(properties);
-    platform::setTextOf(m_commentField, comment.isValid() ? comment.toString()
-                                                          : meta::mainText(QStringLiteral("NotSupportedOrAvailable")));
+    platform::setTextOf(m_commentField, comment.isValid() ? comment.toString() : mainText("NotSupportedOrAvailable"));
     propTree(properties);
     platform::setContentOf(m_treeController, m_tree.toList());
     return m_tree;
@@ -84,7 +89,7 @@ void mMeta::btApplyExifUserComment(platform::Sender)
     if (status == QLatin1String("OK"))
         hiDoNothing(path);
     else
-        platform::setTextOf(m_commentField, meta::mainText(QStringLiteral("NotSupported")));
+        platform::setTextOf(m_commentField, mainText("NotSupported"));
     platform::addRowTo(m_logController, meta::editLogRow(path, status));
     platform::reloadTable(m_logTable);
 }

@@ -65,6 +65,8 @@ CommentSplices jpegCommentSplices(QFile &file, const QString &comment)
     if (!segments.valid)
         return damagedFile();
     const QByteArray block = exifBlockWithUserComment(segments.exif, comment);
+    if (block.isEmpty())
+        return damagedFile();
     if (block.size() > largestExifBlock)
         return commentTooLong();
     if (!segments.exifRanges.isEmpty())

@@ -174,8 +174,11 @@ CommentSplices pngCommentSplices(QFile &file, const QString &comment)
     const qint64 at = old.chunk.isValid ? old.chunk.at : chunks.first().size + 8;
     if (old.chunk.size > file.size() - at)
         return damagedFile();
+    const QByteArray block = exifBlockWithUserComment(old.block, comment);
+    if (block.isEmpty())
+        return damagedFile();
     QByteArray chunk;
-    appendPngChunk(chunk, "eXIf", exifBlockWithUserComment(old.block, comment));
+    appendPngChunk(chunk, "eXIf", block);
     return QList<Splice>{{at, old.chunk.size, chunk}};
 }
 
@@ -190,8 +193,11 @@ CommentSplices jpeg2000CommentSplices(QFile &file, const QString &comment)
         return part.name == "uuid" && bytesOf(file, part.dataAt, exifIdentifier.size()) == exifIdentifier;
     });
     const bool isThere = old != boxes.end();
-    const QByteArray block = isThere ? dataOf(file, *old).mid(exifIdentifier.size()) : QByteArray();
-    const QByteArray data = exifIdentifier + exifBlockWithUserComment(block, comment);
+    const QByteArray before = isThere ? dataOf(file, *old).mid(exifIdentifier.size()) : QByteArray();
+    const QByteArray block = exifBlockWithUserComment(before, comment);
+    if (block.isEmpty())
+        return damagedFile();
+    const QByteArray data = exifIdentifier + block;
     const Splice splice{isThere ? old->at : pixels->at, isThere ? old->size : 0,
                         bigEndian(quint32(data.size() + 8)) + "uuid" + data};
     const bool movesPixels = splice.removed != splice.inserted.size() && splice.at < pixels->at;
@@ -226,6 +232,8 @@ CommentSplices webpCommentSplices(QFile &file, const QString &comment)
     const QByteArray name("Exif\0\0", 6);
     const bool isNamed = block.startsWith(name);
     block = exifBlockWithUserComment(isNamed ? block.mid(name.size()) : block, comment);
+    if (block.isEmpty())
+        return damagedFile();
     const qint64 at = old ? old->at : xmp ? xmp->at : chunks.last().at + chunks.last().size;
     const qint64 removed = old ? std::min(old->size, file.size() - old->at) : 0;
     splices.append({std::min(at, file.size()), removed, riffBytes("EXIF", isNamed ? name + block : block)});

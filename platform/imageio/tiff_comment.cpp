@@ -190,6 +190,18 @@ std::optional<QList<Splice>> CommentEditor::splices() const
     return all;
 }
 
+/** True if a reader that follows the directories comes to this comment. */
+bool holdsComment(const QByteArray &block, const QString &comment)
+{
+    const TiffTree tree(block);
+    const TiffTags first = tree.first();
+    const TiffTag *pointer = first.find(exifDirectoryTag);
+    const TiffTags exif = pointer ? tree.directory(tree.integer(*pointer)) : TiffTags();
+    const TiffTag *tag = exif.find(userCommentTag);
+    const auto order = tree.form().little ? QSysInfo::LittleEndian : QSysInfo::BigEndian;
+    return tag && tag->isSound && block.mid(tag->value.start, tag->value.size) == encodeUserComment(comment, order);
+}
+
 } // namespace
 
 std::optional<QList<Splice>> userCommentSplices(const QByteArray &bytes, const QString &comment, OtherPages pages)
@@ -205,8 +217,10 @@ QByteArray exifBlockWithUserComment(const QByteArray &block, const QString &comm
 {
     const TiffTree tree(block);
     if (tree.isValid() && !tree.form().big)
-        if (const auto splices = userCommentSplices(block, comment, OtherPages::Keep))
-            return spliced(block, *splices);
+        if (const auto splices = userCommentSplices(block, comment, OtherPages::Keep)) {
+            const QByteArray edited = spliced(block, *splices);
+            return holdsComment(edited, comment) ? edited : QByteArray();
+        }
     const QByteArray empty("II*\0\0\0\0\0", 8);
     const auto splices = userCommentSplices(empty, comment, OtherPages::Keep);
     return splices ? spliced(empty, *splices) + block : QByteArray();

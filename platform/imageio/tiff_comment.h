@@ -27,7 +27,10 @@ enum class OtherPages { Keep, Drop };
  */
 std::optional<QList<Splice>> userCommentSplices(const QByteArray &bytes, const QString &comment, OtherPages pages);
 
-/** An EXIF block, TIFF header first, with another user comment in it; made anew around what is no TIFF at all. */
+/**
+ * An EXIF block, TIFF header first, with another user comment in it; made anew around what is no TIFF at all. Empty where the
+ * block is so damaged that it would not hold the comment afterwards.
+ */
 QByteArray exifBlockWithUserComment(const QByteArray &block, const QString &comment);
 
 } // namespace platform

