@@ -14,9 +14,11 @@ BOUNDS = {  # task: (MB at the peak, who must need more CPU time)
     "d90": (200, "vips program 2t"), "e": (200, "vips program 2t"), "d7": (200, "vips rotate bicubic P2"),
     "memory7": (300, "vips rotate bicubic P2"), "j": (120, "vipsthumbnail"), "f": (120, "vips crop P2"),
     "h": (200, "vips bandjoin default P2"), "i": (120, "exiv2"),
+    "png": (200, "vips c=1 filter=up P2"), "tiff": (200, "IM mogrify P2"), "jp2": (300, "IM mogrify P2"),
+    "gif": (300, "vips effort=7 P2"), "bmp": (200, "IM mogrify P2"),
 }
 # Where a program that does nothing else is not far ahead: {task: (which, at most this many times its CPU time)}.
-LIMITS = {"i": ("limit rewrite ik 2t", 1.5)}
+LIMITS = {"i": ("limit rewrite ik 2t", 1.5), "png": ("limit libdeflate 1 2t", 1.7)}
 
 
 def tables(text):

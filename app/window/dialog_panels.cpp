@@ -1,6 +1,8 @@
 #include "app/window/dialog_panels.h"
 
 #include "app/window/print_dialog.h"
+#include "app/window/save_dialog.h"
+
 #include "platform/desktop/user_defaults.h"
 
 #include <QApplication>
@@ -12,7 +14,9 @@ namespace {
 
 const QString lastFolderKey = QStringLiteral("LastPanelFolder");
 
-QString filterFor(const QStringList &types)
+} // namespace
+
+QString panelFilter(const QStringList &types)
 {
     QStringList patterns;
     for (const QString &type : types) {
@@ -22,6 +26,8 @@ QString filterFor(const QStringList &types)
     patterns.removeDuplicates();
     return QFileDialog::tr("Files that can be chosen") + QStringLiteral(" (%1)").arg(patterns.join(QLatin1Char(' ')));
 }
+
+namespace {
 
 void prepareOpen(QFileDialog &dialog, const platform::PanelRequest &request)
 {
@@ -33,18 +39,33 @@ void prepareOpen(QFileDialog &dialog, const platform::PanelRequest &request)
         dialog.setFileMode(request.choosesSeveral ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     }
     if (request.types && !request.types->isEmpty() && request.choosesFiles)
-        dialog.setNameFilter(filterFor(*request.types));
+        dialog.setNameFilter(panelFilter(*request.types));
 }
 
-void prepareSave(QFileDialog &dialog, const platform::PanelRequest &request)
+QString startFolder(const platform::PanelRequest &request)
 {
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.selectFile(request.name);
-    if (request.types && !request.types->isEmpty()) {
-        dialog.setNameFilter(filterFor(*request.types));
-        dialog.setDefaultSuffix(request.types->constFirst());
-    }
+    if (!request.folder.isEmpty())
+        return request.folder;
+    const QString last = platform::userDefault(lastFolderKey).toString();
+    return last.isEmpty() ? QDir::homePath() : last;
+}
+
+/** Shows the panel; false where it is cancelled. */
+bool isAccepted(QFileDialog &dialog, const platform::PanelRequest &request)
+{
+    dialog.setDirectory(startFolder(request));
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    platform::setUserDefault(lastFolderKey, dialog.directory().absolutePath());
+    return true;
+}
+
+platform::PanelAnswer runSave(const platform::PanelRequest &request)
+{
+    SaveDialog dialog(request, QApplication::activeWindow());
+    if (!isAccepted(dialog, request))
+        return {};
+    return {true, {dialog.chosenPath()}, dialog.tags()};
 }
 
 } // namespace
@@ -53,20 +74,16 @@ platform::PanelAnswer DialogPanels::run(const platform::PanelRequest &request)
 {
     if (request.kind == platform::PanelKind::Print)
         return runPrintDialog(request);
+    if (request.kind == platform::PanelKind::Save)
+        return runSave(request);
     QFileDialog dialog(QApplication::activeWindow());
-    const QString last = platform::userDefault(lastFolderKey).toString();
-    dialog.setDirectory(!request.folder.isEmpty() ? request.folder : !last.isEmpty() ? last : QDir::homePath());
     if (!request.message.isEmpty())
         dialog.setWindowTitle(request.message);
-    if (!request.createsFolders && request.kind == platform::PanelKind::Open && request.choosesFiles)
+    if (!request.createsFolders && request.choosesFiles)
         dialog.setOption(QFileDialog::ReadOnly);
-    if (request.kind == platform::PanelKind::Save)
-        prepareSave(dialog, request);
-    else
-        prepareOpen(dialog, request);
-    if (dialog.exec() != QDialog::Accepted)
+    prepareOpen(dialog, request);
+    if (!isAccepted(dialog, request))
         return {};
-    platform::setUserDefault(lastFolderKey, dialog.directory().absolutePath());
     return {true, dialog.selectedFiles(), {}};
 }
 

@@ -4,11 +4,19 @@
 
 namespace window {
 
-/** Shows the desktop's own file dialogs. */
+/**
+ * Shows file dialogs: the desktop's own for opening, one of the toolkit's for saving, since that can hold a view and tags.
+ *
+ * A save panel gives a name the extension of the allowed type, which follows when the type changes while it is open; a name
+ * with another extension gets that one behind it, unless other types are allowed.
+ */
 class DialogPanels : public platform::PanelProvider
 {
 public:
     platform::PanelAnswer run(const platform::PanelRequest &request) override;
 };
+
+/** The line of a file dialog that shows files with these extensions only. */
+QString panelFilter(const QStringList &types);
 
 } // namespace window

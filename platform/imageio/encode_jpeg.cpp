@@ -80,15 +80,25 @@ void useQuality(jpeg_compress_struct &info, double quality)
     info.comp_info[0].v_samp_factor = keepsColour ? 1 : 2;
 }
 
+/** True for a density that a file, which holds whole numbers only, can state well enough. */
+bool isNearlyWhole(double density)
+{
+    constexpr double tolerance = 0.02;
+    return std::abs(density - std::round(density)) < tolerance;
+}
+
 void useResolution(jpeg_compress_struct &info, Resolution resolution)
 {
     constexpr double mostDensity = 65535;
     if (resolution.horizontal < 1 || resolution.horizontal > mostDensity || resolution.vertical > mostDensity)
         return;
-    constexpr UINT8 perInch = 1;
-    info.density_unit = perInch;
-    info.X_density = UINT16(std::lround(resolution.horizontal));
-    info.Y_density = UINT16(std::lround(resolution.vertical));
+    constexpr double centimetresPerInch = 2.54;
+    const bool isMetric =
+        !isNearlyWhole(resolution.horizontal) && isNearlyWhole(resolution.horizontal / centimetresPerInch);
+    const double scale = isMetric ? centimetresPerInch : 1;
+    info.density_unit = isMetric ? 2 : 1;
+    info.X_density = UINT16(std::lround(resolution.horizontal / scale));
+    info.Y_density = UINT16(std::max(1L, std::lround(resolution.vertical / scale)));
 }
 
 void configure(jpeg_compress_struct &info, const vips::VImage &image, const JpegSettings &settings)

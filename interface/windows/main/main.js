@@ -13,6 +13,7 @@ import { Input } from "./input.js";
 import { Pages } from "./pages.js";
 import { PreviewSide } from "./preview-side.js";
 import { Printing } from "./printing.js";
+import { SaveAs } from "../save-as/save-as.js";
 import { showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
 
@@ -105,6 +106,7 @@ function showInputState(window) {
     for (const name of ["clearButton", "clearAction"]) {
         control(name).enabled = any && !busy && (window.shownPage === null || window.shownPage.usesList);
     }
+    control("saveAsAction").enabled = any && !busy && (window.shownPage === null || window.shownPage.usesList);
     for (const name of ["nextAction", "previousAction", "largeAction"]) {
         control(name).enabled = any && (window.shownPage === null || window.shownPage.usesList);
     }
@@ -254,6 +256,14 @@ function openFolders(window) {
     window.run.folders().slice(0, 3).forEach((folder) => shell.openFolder(folder));
 }
 
+// Made when it is first used.
+function saveAs(window) {
+    if (window.saving === undefined) {
+        window.saving = new SaveAs(window);
+    }
+    window.saving.open();
+}
+
 function deedsOf(window) {
     return {
         addPictures: () => window.input.addPictures(),
@@ -265,6 +275,7 @@ function deedsOf(window) {
         retry: () => window.run.retry(),
         fullScreen: () => shell.toggleFullScreen(),
         report: () => note(window, window.run.saveReport()),
+        saveAs: () => saveAs(window),
         showFailed: () => showProblemsOnly(window, !window.pictures.problemsOnly),
         openFolders: () => openFolders(window),
         dismiss: () => dismiss(window),
@@ -289,7 +300,7 @@ const BUTTONS = {
 };
 
 const ENTRIES = [
-    "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "quit", "paste",
+    "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "saveAs", "quit", "paste",
     "remove", "selectAll", "next", "previous", "large", "fit", "fill", "showFailed", "undo",
 ];
 

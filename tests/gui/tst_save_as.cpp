@@ -1,0 +1,243 @@
+#include "window_driver.h"
+
+#include "app/window/compare_preview.h"
+#include "app/window/save_dialog.h"
+#include "platform/desktop/tags.h"
+#include "platform/desktop/user_defaults.h"
+#include "platform/imageio/image_source.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+template<typename T> T *inPanel(const char *name)
+{
+    QWidget *panel = QApplication::activeModalWidget();
+    return panel ? panel->findChild<T *>(QString::fromUtf8(name)) : nullptr;
+}
+
+/** Works in the next panel; what it does must close it. */
+void whenOpen(const std::function<void(window::SaveDialog &)> &work)
+{
+    QTimer::singleShot(30, [work] {
+        if (auto *panel = qobject_cast<window::SaveDialog *>(QApplication::activeModalWidget()))
+            work(*panel);
+        else
+            whenOpen(work);
+    });
+}
+
+void chooseIn(const char *menu, const QString &text)
+{
+    auto *found = inPanel<QComboBox>(menu);
+    QVERIFY(found);
+    found->setCurrentText(text);
+    Q_EMIT found->activated(found->currentIndex());
+}
+
+} // namespace
+
+/** Saving the current picture through a panel with type, quality and a view of what comes out. */
+class SaveAs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
+
+    void init()
+    {
+        for (const char *key : {"SaveAs", "MOS", "LastPanelFolder"})
+            platform::removeUserDefault(QString::fromLatin1(key));
+        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+        QVERIFY(QDir().mkpath(m_driver->folder() + QStringLiteral("/Desktop")));
+        QImage image(64, 48, QImage::Format_ARGB32);
+        image.fill(QColor(200, 40, 20, 120));
+        image.setDotsPerMeterX(2835);
+        image.setDotsPerMeterY(2835);
+        QVERIFY(image.save(m_driver->folder() + QStringLiteral("/a.b.png")));
+    }
+
+    void cleanup() { m_driver.reset(); }
+
+    void cannotBeUsedWithoutAPicture() { QVERIFY(!m_driver->control<QAction>("saveAsAction")->isEnabled()); }
+
+    void savesInTheDesktopFolderUnderTheTypeOfTheMenu()
+    {
+        QString name;
+        save([&](window::SaveDialog &panel) {
+            name = inPanel<QLineEdit>("fileNameEdit")->text();
+            QVERIFY(!panel.findChild<QLineEdit *>(QStringLiteral("tagField")));
+            confirm(panel);
+        });
+        QCOMPARE(name, QStringLiteral("a.b.jpeg"));
+        QCOMPARE(typeOf("Desktop/a.b.jpeg"), QStringLiteral("public.jpeg"));
+        QVERIFY(
+            m_driver->waitFor([this] { return m_driver->text("statusText").contains(QStringLiteral("a.b.jpeg")); }));
+    }
+
+    void theExtensionFollowsTheType()
+    {
+        QStringList names;
+        QList<bool> hasQuality;
+        save([&](window::SaveDialog &panel) {
+            for (const char *type : {"png", "tiff", "jp2", "jpeg", "pdf"}) {
+                chooseIn("pubFileType", QString::fromUtf8(type));
+                names += inPanel<QLineEdit>("fileNameEdit")->text();
+                hasQuality += inPanel<QComboBox>("pubJPEGcompression")->isEnabled();
+            }
+            confirm(panel);
+        });
+        QCOMPARE(names.join(u' '), QStringLiteral("a.b.png a.b.tiff a.b.jp2 a.b.jpeg a.b.pdf"));
+        QCOMPARE(hasQuality, (QList<bool>{false, false, false, true, false}));
+        QCOMPARE(typeOf("Desktop/a.b.pdf"), QStringLiteral("com.adobe.pdf"));
+    }
+
+    void aNameOfAnotherTypeGetsTheExtension()
+    {
+        save([&](window::SaveDialog &panel) {
+            chooseIn("pubFileType", QStringLiteral("png"));
+            inPanel<QLineEdit>("fileNameEdit")->setText(QStringLiteral("my picture.gif"));
+            confirm(panel);
+        });
+        QCOMPARE(typeOf("Desktop/my picture.gif.png"), QStringLiteral("public.png"));
+    }
+
+    void showsHowLargeItWillBeAndWhatGetsLost()
+    {
+        double bmp = 0;
+        QString said;
+        save([&](window::SaveDialog &panel) {
+            chooseIn("pubFileType", QStringLiteral("bmp"));
+            auto *view = inPanel<window::ComparePreview>("saveAsPreview");
+            m_driver->waitFor([view] { return view->estimatedBytes() > 0; });
+            bmp = view->estimatedBytes();
+            said = view->accessibleDescription() + inPanel<QLabel>("saveAsNote")->text();
+            panel.reject();
+        });
+        QCOMPARE(bmp, 64 * 48 * 3 + 54.0);
+        QVERIFY2(said.contains(QStringLiteral("9 KB")) && said.contains(QStringLiteral("sRGB")), qPrintable(said));
+        QVERIFY(QDir(m_driver->folder() + QStringLiteral("/Desktop")).isEmpty());
+    }
+
+    void asksBeforeAFileIsReplaced()
+    {
+        const QString path = m_driver->folder() + QStringLiteral("/Desktop/a.b.jpeg");
+        QFile there(path);
+        QVERIFY(there.open(QIODevice::WriteOnly) && there.write("kept") == 4);
+        there.close();
+        save([&](window::SaveDialog &panel) {
+            answer(QMessageBox::No);
+            confirm(panel);
+            QVERIFY(panel.isVisible());
+            answer(QMessageBox::Yes);
+            confirm(panel);
+        });
+        QCOMPARE(typeOf("Desktop/a.b.jpeg"), QStringLiteral("public.jpeg"));
+    }
+
+    void remembersTypeAndQuality()
+    {
+        save([&](window::SaveDialog &panel) {
+            chooseIn("pubJPEGcompression", QStringLiteral("3"));
+            confirm(panel);
+        });
+        m_driver->startAgain();
+        QString quality;
+        save([&](window::SaveDialog &panel) {
+            quality = inPanel<QComboBox>("pubJPEGcompression")->currentText();
+            panel.reject();
+        });
+        QCOMPARE(quality, QStringLiteral("3"));
+    }
+
+    void asksForTagsWhereTheSystemHasThem()
+    {
+        platform::setUserDefault(QStringLiteral("MOS"), QStringLiteral("109+"));
+        save([&](window::SaveDialog &panel) {
+            inPanel<QLineEdit>("tagField")->setText(QStringLiteral("red, holiday photos"));
+            confirm(panel);
+        });
+        QCOMPARE(platform::tagsOf(m_driver->folder() + QStringLiteral("/Desktop/a.b.jpeg")),
+                 (QStringList{QStringLiteral("red"), QStringLiteral("holiday photos")}));
+    }
+
+    void saysWhereItCouldNotBeSaved()
+    {
+        bool wasTold = false;
+        save([&](window::SaveDialog &panel) {
+            QFile::remove(m_driver->folder() + QStringLiteral("/a.b.png"));
+            QTimer::singleShot(200, [&wasTold] {
+                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                wasTold = box != nullptr && box->text().contains(QStringLiteral("could not be written"));
+                if (box)
+                    box->close();
+            });
+            confirm(panel);
+        });
+        QVERIFY(wasTold);
+    }
+
+    void givesNamesTheExtensionOfTheType_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("types");
+        QTest::addColumn<QString>("result");
+        const auto row = [](const char *path, const char *types, const char *result) {
+            QTest::newRow(path) << QString::fromUtf8(path) << QString::fromUtf8(types) << QString::fromUtf8(result);
+        };
+        row("/a/b", "png", "/a/b.png");
+        row("/a/b.png", "png", "/a/b.png");
+        row("/a/b.PNG", "png", "/a/b.PNG");
+        row("/a/b.jpg", "jpeg", "/a/b.jpg");
+        row("/a/b.jpg", "png", "/a/b.jpg.png");
+        row("/a/v1.2", "png", "/a/v1.2.png");
+        row("/a/b.c-action", "c-action", "/a/b.c-action");
+        row("/a/b.txt", "c-action", "/a/b.txt.c-action");
+    }
+
+    void givesNamesTheExtensionOfTheType()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, types);
+        QTEST(window::withAllowedExtension(path, {types}), "result");
+    }
+
+private:
+    void save(const std::function<void(window::SaveDialog &)> &work)
+    {
+        m_driver->drop({m_driver->folder() + QStringLiteral("/a.b.png")});
+        auto *action = m_driver->control<QAction>("saveAsAction");
+        QVERIFY(m_driver->waitFor([action] { return action->isEnabled(); }));
+        whenOpen(work);
+        action->trigger();
+    }
+
+    void confirm(window::SaveDialog &panel) { QMetaObject::invokeMethod(&panel, "accept", Qt::DirectConnection); }
+
+    static void answer(QMessageBox::StandardButton button)
+    {
+        QTimer::singleShot(30, [button] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+                box->button(button)->click();
+        });
+    }
+
+    QString typeOf(const char *name) const
+    {
+        const auto made = platform::ImageSource::open(m_driver->folder() + u'/' + QString::fromUtf8(name));
+        return made ? made->typeIdentifier() : QStringLiteral("nothing");
+    }
+
+    std::unique_ptr<WindowDriver> m_driver;
+};
+
+QTEST_MAIN(SaveAs)
+#include "tst_save_as.moc"
