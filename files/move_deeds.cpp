@@ -211,22 +211,39 @@ DeedOutcome MoveDeeds::movedToOtherDisk(int index, const QString &from, const QS
     if (!outcome.code.isEmpty())
         return outcome;
     const auto after = m_disk.look(from);
-    if (!before || !after || !isUnchanged(*before, *after)) {
-        (void)m_disk.remove(to);
-        return failed(QStringLiteral("changed"), from);
-    }
+    if (!before || !after || !isUnchanged(*before, *after))
+        return withoutCopy(index, failed(QStringLiteral("changed"), from), from, outcome);
     const std::error_code error = removeWhole(index, from, to);
     if (!error)
         return outcome;
-    const bool isWhole = error == std::errc::device_or_resource_busy || m_disk.haveSameContent(from, to);
-    if (before->kind == ItemKind::Folder && !isWhole) {
-        // Part of it is gone, so the whole copy stays too.
-        outcome.message = QStringLiteral("A part of %1 could not be removed and is still there").arg(from);
-        return outcome;
+    if (error == std::errc::device_or_resource_busy)
+        return withoutCopy(index, failed(QStringLiteral("changed"), from), from, outcome);
+    if (before->kind == ItemKind::File || m_disk.haveSameContent(from, to))
+        return withoutCopy(index, failureFor(error, from, to), from, outcome);
+    // Part of it is gone, so the whole copy stays too.
+    outcome.message = QStringLiteral("A part of %1 could not be removed and is still there").arg(from);
+    return outcome;
+}
+
+/** Takes a copy away again whose source has to stay, unless somebody has put something into it. */
+DeedOutcome MoveDeeds::withoutCopy(int index, DeedOutcome why, const QString &from, const DeedOutcome &copy)
+{
+    const QString part = partPath(m_run, index, copy.path);
+    if (m_disk.rename(copy.path, part)) {
+        m_hasLeftOver = true;
+        return why;
     }
-    discard(to);
-    return error == std::errc::device_or_resource_busy ? failed(QStringLiteral("changed"), from)
-                                                       : failureFor(error, from, to);
+    const auto state = m_disk.look(part);
+    const bool isFolder = state && state->kind == ItemKind::Folder;
+    const bool isOurs =
+        isFolder ? m_disk.haveSameContent(from, part) : state && copy.is && isUnchanged(*state, *copy.is);
+    if (isOurs)
+        discard(part);
+    else if (m_disk.rename(part, copy.path))
+        m_hasLeftOver = true;
+    else
+        why.message += QStringLiteral("; a copy is at %1").arg(copy.path);
+    return why;
 }
 
 /** A folder leaves its place in one step and goes only if nothing came into it since it was copied. */

@@ -69,6 +69,7 @@ private:
     DeedOutcome restored(const MoveItem &item);
     DeedOutcome renamedInCase(int index, const QString &from, const QString &to);
     void discard(const QString &path);
+    DeedOutcome withoutCopy(int index, DeedOutcome why, const QString &from, const DeedOutcome &copy);
     std::error_code removeWhole(int index, const QString &path, const QString &copy);
     bool isSameUnderOtherCase(const QString &from, const QString &to) const;
     DeedOutcome madeFolders(const QString &folder);

@@ -3,6 +3,8 @@
 #include "files/move_paths.h"
 #include "files/move_run.h"
 
+#include "platform/foundation/paths.h"
+
 #include <algorithm>
 
 namespace files {
@@ -95,6 +97,8 @@ private:
         const bool isCopied = record.copied && isAt(item.to, record.copied);
         if (m_disk.look(aside))
             return findAside(record, aside, isCopied);
+        if (const QString since = m_now(aside, index); since != aside && m_disk.look(since))
+            putAway(item, since);
         const bool isOld = isAt(item.from, item.was);
         const bool isNew = isCopied || isAt(item.to, item.was);
         if (isOld && isNew)
@@ -107,15 +111,36 @@ private:
             problems.append(MoveDeeds::sentence(QStringLiteral("gone"), item.from));
     }
 
+    /** Whether everything of @p part is also in @p whole; @p part may have been half removed. */
+    bool holds(const QString &whole, const QString &part) const
+    {
+        const auto entries = m_disk.list(part);
+        if (!entries)
+            return m_disk.haveSameContent(part, whole);
+        return std::all_of(entries->begin(), entries->end(), [&](const platform::FolderEntry &entry) {
+            return holds(platform::joinedPath(whole, entry.name), platform::joinedPath(part, entry.name));
+        });
+    }
+
     /** A folder is also aside while it is removed, after it was copied to another disk. */
     void findAside(MoveRecord &record, const QString &aside, bool isCopied)
     {
-        if (!isCopied) {
+        if (!isCopied || !holds(record.item.to, aside)) {
             record.stand = Stand::Aside;
             return;
         }
         (void)m_disk.remove(aside);
         done(record, record.item.to);
+    }
+
+    /** What is left of a folder that was copied to another disk, in a folder that moved since. */
+    void putAway(const MoveItem &item, const QString &left)
+    {
+        const QString place =
+            platform::joinedPath(platform::parentFolder(left), platform::lastPathComponent(item.from));
+        const bool isGone = holds(item.to, left) ? !m_disk.remove(left) : !m_disk.rename(left, place);
+        if (!isGone)
+            problems.append(QStringLiteral("%1 could not be put away").arg(left));
     }
 
     /** A copy on another disk, or a second name on this one, was made and the first not yet removed. */
@@ -148,8 +173,10 @@ private:
     {
         const MoveItem &item = record.item;
         const QString aside = asidePath(m_run.id, index, item);
-        if (m_disk.look(aside))
+        if (m_disk.look(aside) && holds(item.to, aside))
             (void)m_disk.remove(aside);
+        else if (m_disk.look(aside))
+            (void)m_disk.rename(aside, item.from);
         if (record.stand != Stand::Waiting || m_disk.look(item.from))
             return;
         const auto trashed = item.was ? m_disk.findTrashed(item.from, *item.was) : std::nullopt;

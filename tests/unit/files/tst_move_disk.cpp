@@ -1,0 +1,134 @@
+#include "files/move_undo.h"
+#include "tests/support/move_world.h"
+#include "tests/support/scratch_folder.h"
+
+#include "platform/desktop/disk_file_system.h"
+
+#include <QDirIterator>
+#include <QTest>
+
+using namespace files;
+
+namespace {
+
+using Tree = std::map<QString, QByteArray>;
+
+/** A world as the model has it, on the disk: "/in" in one place and "/other" on another disk where there is one. */
+class Twin
+{
+public:
+    explicit Twin(const World &world)
+        : m_other(areApart(QStringLiteral("/dev/shm"), QDir::tempPath()) ? QStringLiteral("/dev/shm")
+                                                                         : QDir::tempPath())
+    {
+        for (const auto &[path, what] : world.disk.everything()) {
+            const QByteArray place = QFile::encodeName(real(path));
+            QFile file(real(path));
+            if (what.startsWith('1'))
+                QDir().mkpath(real(path));
+            else if (what.startsWith('2'))
+                ::symlink(what.mid(1).constData(), place.constData());
+            else if (file.open(QIODevice::WriteOnly))
+                file.write(what.mid(1));
+        }
+    }
+
+    QString real(const QString &path) const
+    {
+        return (path.startsWith(QStringLiteral("/other")) ? m_other.path() : m_in.path()) + path;
+    }
+
+    MoveOrderForm form(const MoveOrderForm &model) const
+    {
+        MoveOrderForm form = model;
+        for (MoveItem &item : form.items) {
+            item.from = item.deed == Deed::Link ? item.from : real(item.from);
+            item.to = real(item.to);
+        }
+        return form;
+    }
+
+    /** What is on the disk, as the model would tell it. */
+    Tree everything() const
+    {
+        Tree all;
+        for (const ScratchFolder *folder : {&m_in, &m_other}) {
+            QDirIterator items(folder->path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                               QDirIterator::Subdirectories);
+            while (items.hasNext()) {
+                const QString path = items.next();
+                const QString name = path.mid(folder->path().size());
+                const QFileInfo info(path);
+                QFile file(path);
+                if (info.isSymLink())
+                    all[name] = '2' + folder->linkText(qPrintable(name.mid(1)));
+                else if (info.isDir())
+                    all[name] = "1";
+                else if (file.open(QIODevice::ReadOnly))
+                    all[name] = '0' + file.readAll();
+            }
+        }
+        all.erase(QStringLiteral("/other"));
+        return all;
+    }
+
+private:
+    ScratchFolder m_in;
+    ScratchFolder m_other;
+};
+
+Tree withoutTop(Tree tree)
+{
+    tree.erase(QStringLiteral("/other"));
+    return tree;
+}
+
+void carryOut(platform::FileSystem &disk, JournalShelf &shelf, const MoveOrderForm &form)
+{
+    QString problem;
+    const auto run = MoveRun::begin(disk, shelf, form, &problem);
+    while (run->next()) {
+    }
+    run->end();
+}
+
+} // namespace
+
+/** The same made-up plans on a disk as on the model. */
+class TestMoveDisk : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void doesOnTheDiskWhatItDoesOnTheModel();
+};
+
+void TestMoveDisk::doesOnTheDiskWhatItDoesOnTheModel()
+{
+    int compared = 0;
+    for (quint32 seed = 0; seed < 400; ++seed) {
+        World world(seed + 3'000'000);
+        const MoveOrderForm form = world.readyItems();
+        if (form.items.empty())
+            continue;
+        const Twin twin(world);
+        const Tree before = twin.everything();
+        QCOMPARE(before, withoutTop(world.disk.everything()));
+        platform::DiskFileSystem disk;
+        const ScratchFolder journals;
+        DiskJournalShelf shelf(journals.path());
+        carryOut(disk, shelf, twin.form(form));
+        (void)carriedOut(world, form);
+        QCOMPARE(twin.everything(), withoutTop(world.disk.everything()));
+        const UndoPlan undo = planUndo(disk, shelf, shelf.names().first());
+        QVERIFY(undo.problems.empty());
+        carryOut(disk, shelf, undo.form);
+        QCOMPARE(twin.everything(), before);
+        compared += int(form.items.size());
+    }
+    qInfo("%d items", compared);
+    QVERIFY(compared > 800);
+}
+
+QTEST_GUILESS_MAIN(TestMoveDisk)
+#include "tst_move_disk.moc"
