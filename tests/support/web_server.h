@@ -39,13 +39,16 @@ public:
 
     static Answer redirect(const QByteArray &target) { return page({}, "302 Found", "Location: " + target + "\r\n"); }
 
-    /** Redirects with another address each time, so that no loop is noticed, and then gives the page. */
+    /**
+     * Redirects with another address each time, so that no loop is noticed, and then gives the page. The address says how
+     * many are left: a request that is sent again, as clients may, gets the same answer.
+     */
     static Answer redirects(int count, const QByteArray &body)
     {
-        auto left = std::make_shared<int>(count);
         return [=](QTcpSocket &socket) {
-            const int now = (*left)--;
-            (now > 0 ? redirect("/step" + QByteArray::number(now)) : page(body))(socket);
+            const QByteArray path = socket.property("path").toByteArray();
+            const int left = path.startsWith("/left") ? path.mid(5).toInt() : count;
+            (left > 0 ? redirect("/left" + QByteArray::number(left - 1)) : page(body))(socket);
         };
     }
 
@@ -72,6 +75,7 @@ private:
         if (!request.startsWith("GET "))
             return;
         requests.append(request);
+        socket.setProperty("path", request.mid(4, request.indexOf(' ', 4) - 4));
         m_answer(socket);
     }
 
