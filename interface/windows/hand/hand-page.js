@@ -4,6 +4,7 @@
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { deedWords, HandSorting, TRASH } from "../../lib/hand-sorting.js";
+import { slotProblem } from "../../lib/hand-slots.js";
 import { keepRows } from "../../lib/log-file.js";
 import { Sidecars } from "../../lib/sidecars.js";
 import { count, fill } from "../../lib/wording.js";
@@ -159,7 +160,12 @@ export class HandPage {
 
     put(slot, row) {
         const photo = this.current();
-        if (photo !== null) {
+        // A folder that is gone is not made anew by a key.
+        const problem = slotProblem(slot.path, files);
+        if (problem !== "") {
+            this.window.pane.look();
+            this.window.note(fill(qsTr("%1: %2. The picture stays where it is."), slot.label, problem));
+        } else if (photo !== null) {
             this.tell(photo, this.sorting.put(photo, this.window.settings.mode, slot), row);
         }
     }
