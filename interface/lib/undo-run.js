@@ -6,7 +6,7 @@ import { count } from "./wording.js";
 
 /** Whether a run can be undone: {can, button: what the button says, note: how much, or why not}. */
 export function undoWords(moves, run) {
-    const known = moves && moves.runs && run !== "" ? moves.runs().find((each) => each.id === run) : undefined;
+    const known = moves && run !== "" ? moves.runs().find((each) => each.id === run) : undefined;
     if (known === undefined) {
         return { can: false, button: qsTr("Undo This Run"),
                  note: qsTr("This run wrote new files and moved none, so that there is nothing to take back: its results can be deleted.") };

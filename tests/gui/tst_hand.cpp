@@ -291,6 +291,29 @@ private Q_SLOTS:
         QCOMPARE(m_driver->control<window::RunList>("logRuns")->model()->rowCount(), 2);
     }
 
+    void aSessionIsUndoneFromTheLogAfterARestart()
+    {
+        begin({"Lake", "Sea"});
+        const QStringList before = everything();
+        key(Qt::Key_1);
+        key(Qt::Key_2);
+        key(Qt::Key_Delete);
+        m_driver->show("log");
+        m_driver->startAgain();
+        m_driver->show("log");
+        auto *runs = m_driver->control<window::RunList>("logRuns");
+        auto *log = m_driver->control<window::LogTable>("logTable");
+        QVERIFY(m_driver->waitFor([log] { return log->totalCount() == 3; }));
+        runs->setCurrentIndex(runs->model()->index(1, 0));
+        QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("3 files can be taken back."));
+        m_driver->click("logUndo");
+        QVERIFY(m_driver->waitFor([log] { return log->totalCount() == 6; }));
+        QCOMPARE(everything(), before);
+        QVERIFY(m_driver->text("statusText").contains(QStringLiteral("3 files taken back")));
+        QVERIFY(!m_driver->control<QPushButton>("logUndo")->isEnabled());
+        QVERIFY(!m_driver->text("logRunNote").isEmpty());
+    }
+
     void saysWhenTheLastPictureIsSorted()
     {
         begin({"Lake"});

@@ -203,7 +203,7 @@ export class LogPage {
             this.undo.problems.push(step.row.reason);
         }
         const id = this.undo.places[step.from];
-        if (step.row.status === "OK" && id !== undefined) {
+        if (step.row.status === "OK" && id !== undefined && step.to !== "") {
             this.window.pictures.setPath(id, step.to);
         }
         this.form.control("logRunTitle").text = fill(qsTr("Undoing: %1 of %2"), this.undo.rows.length, this.undo.count);
