@@ -9,6 +9,7 @@
 #include "app/window/log_table.h"
 #include "app/window/picture_table.h"
 #include "app/window/position_pad.h"
+#include "app/window/property_tree.h"
 #include "app/window/run_list.h"
 #include "app/window/search_menu.h"
 #include "app/window/segmented_control.h"
@@ -41,6 +42,7 @@ const QHash<QString, Maker> &makers()
         {QStringLiteral("LogTable"), made<LogTable>},
         {QStringLiteral("PictureTable"), made<PictureTable>},
         {QStringLiteral("PositionPad"), made<PositionPad>},
+        {QStringLiteral("PropertyTree"), made<PropertyTree>},
         {QStringLiteral("RunList"), made<RunList>},
         {QStringLiteral("SearchMenu"), made<SearchMenu>},
         {QStringLiteral("SegmentedControl"), made<SegmentedControl>},

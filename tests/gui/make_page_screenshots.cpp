@@ -4,6 +4,7 @@
 
 #include "app/window/log_table.h"
 #include "app/window/run_list.h"
+#include "meta/mMeta.h"
 
 #include "platform/desktop/user_defaults.h"
 
@@ -126,6 +127,19 @@ void showHand(WindowDriver &driver, const QString &name, int slots)
     saveBoth(driver, name);
 }
 
+void showMetadata(WindowDriver &driver, const QString &name)
+{
+    driver.startAgain();
+    driver.show("metadata");
+    driver.window().resize(1440, 900);
+    saveScreen(driver, name + QStringLiteral("-empty.png"));
+    const QString picture = driver.folder() + QStringLiteral("/Pictures/Lake in the morning.jpg");
+    mMeta().hSetExifData(picture, QStringLiteral("Lake at Brelmark, first light"));
+    driver.drop({driver.folder() + QStringLiteral("/Pictures")});
+    settle(driver);
+    saveBoth(driver, name);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -142,6 +156,8 @@ int main(int argc, char **argv)
         showHand(driver, hand + QStringLiteral("-many"), 59);
         samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder());
         showHand(driver, hand, 12);
+        samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder());
+        showMetadata(driver, folder + QStringLiteral("/metadata-") + QLatin1String(appearance));
         showLog(driver, folder + QStringLiteral("/log-") + QLatin1String(appearance));
     }
     return 0;

@@ -90,6 +90,9 @@ private Q_SLOTS:
         QTest::newRow("sorting by hand") << QStringList{QStringLiteral("windows/hand/hand-page.js")}
                                          << QStringList{QStringLiteral("windows/hand/hand.ui"),
                                                         QStringLiteral("windows/main/main.ui")};
+        QTest::newRow("metadata") << QStringList{QStringLiteral("windows/metadata/metadata-page.js")}
+                                  << QStringList{QStringLiteral("windows/metadata/metadata.ui"),
+                                                 QStringLiteral("windows/main/main.ui")};
         QTest::newRow("preferences") << QStringList{QStringLiteral("windows/preferences/preferences.js")}
                                      << QStringList{QStringLiteral("windows/preferences/preferences.ui")};
         for (const char *name : {"resize-pane", "crop-pane", "turn-pane", "round-pane", "background-pane", "pane",

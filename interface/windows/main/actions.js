@@ -36,6 +36,7 @@ import * as round from "../../steps/round.js";
 import * as turn from "../../steps/turn.js";
 import { HandPage } from "../hand/hand-page.js";
 import { LogPage } from "../log/log-page.js";
+import { MetadataPage } from "../metadata/metadata-page.js";
 import { MOVES } from "./moves.js";
 import { PAGE } from "./pages.js";
 import { WRITES } from "./writes.js";
@@ -89,6 +90,8 @@ export const GROUPS = [
     {
         title: () => qsTr("Information"),
         actions: [
+            { name: "metadata", title: () => qsTr("Metadata"), manner: PAGE, usesList: true, page: MetadataPage, lists: () => "pictures",
+              keyword: "sort", takes: PICTURE_INPUT },
             { name: "log", title: () => qsTr("Log"), manner: PAGE, usesList: false, page: LogPage },
         ],
     },

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QTreeWidget>
+#include <QVariant>
+
+namespace window {
+
+/**
+ * The properties of one picture as a tree with names and values, units in words; searched, and copied by value or branch.
+ *
+ * What was opened and closed stays so from picture to picture.
+ */
+class PropertyTree : public QTreeWidget
+{
+    Q_OBJECT
+    /** How many values are shown. */
+    Q_PROPERTY(int shownCount READ shownCount)
+
+public:
+    explicit PropertyTree(QWidget *parent = nullptr);
+
+    int shownCount() const;
+
+    /** Shows the properties of the file at @p path; false, and nothing shown, for what is no picture. */
+    Q_INVOKABLE bool showFile(const QString &path);
+    /** Shows the values in whose name or words every word of @p text occurs, in any case of letters. */
+    Q_INVOKABLE void look(const QString &text);
+    /** Puts the chosen value, or all of the chosen branch, on the clipboard; returns how many lines. */
+    Q_INVOKABLE int copyChosen() const;
+    /** The value in words of a property, by the names shown: ["Exif", "F-number"]; "" where it is not there. For tests and scripts. */
+    Q_INVOKABLE QString words(const QStringList &names) const;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void add(const QVariantMap &properties, QTreeWidgetItem *above);
+    bool filter(QTreeWidgetItem *item, bool isShown);
+
+    QStringList m_words; ///< looked for
+    QStringList m_closed;
+};
+
+} // namespace window

@@ -1,0 +1,144 @@
+#include "app/window/property_words.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QLocale>
+#include <QStringList>
+
+#include <cmath>
+
+namespace window {
+namespace {
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("properties", text);
+}
+
+/** Up to six digits, and none that say nothing. */
+QString number(double value)
+{
+    constexpr int digits = 6;
+    const bool whole = std::trunc(value) == value && std::abs(value) < 1e15;
+    return whole ? QString::number(qint64(value)) : QLocale().toString(value, 'g', digits);
+}
+
+/** "1/250 s" for less than a third of a second, "0.5 s" for more. */
+QString seconds(double value)
+{
+    constexpr double longestFraction = 0.3;
+    const bool isFraction = value > 0 && value < longestFraction;
+    return translated(QT_TRANSLATE_NOOP("properties", "%1 s"))
+        .arg(isFraction ? QStringLiteral("1/%1").arg(std::lround(1 / value)) : number(value));
+}
+
+QString exposureValue(double value)
+{
+    const QString size = QLocale().toString(std::round(std::abs(value) * 100) / 100, 'g', 4);
+    const QString sign = value > 0 ? QStringLiteral("+") : value < 0 ? QStringLiteral("−") : QString();
+    return translated(QT_TRANSLATE_NOOP("properties", "%1 EV")).arg(sign + size);
+}
+
+QString aperture(double value)
+{
+    return QStringLiteral("f/") + QLocale().toString(std::round(value * 10) / 10, 'g', 4);
+}
+
+/** "48.85840° N" */
+QString coordinate(double degrees, const QString &reference)
+{
+    const QString size = QStringLiteral("%1°").arg(QLocale().toString(degrees, 'f', 5));
+    return reference.isEmpty() ? size : size + u' ' + reference;
+}
+
+QString orientation(double value)
+{
+    static const char *const words[] = {
+        QT_TRANSLATE_NOOP("properties", "upright"),
+        QT_TRANSLATE_NOOP("properties", "mirrored"),
+        QT_TRANSLATE_NOOP("properties", "upside down"),
+        QT_TRANSLATE_NOOP("properties", "upside down, mirrored"),
+        QT_TRANSLATE_NOOP("properties", "on its left side, mirrored"),
+        QT_TRANSLATE_NOOP("properties", "turn right to see it upright"),
+        QT_TRANSLATE_NOOP("properties", "on its right side, mirrored"),
+        QT_TRANSLATE_NOOP("properties", "turn left to see it upright"),
+    };
+    const bool isKnown = value >= 1 && value <= 8;
+    return isKnown ? QStringLiteral("%1 (%2)").arg(int(value)).arg(translated(words[int(value) - 1])) : number(value);
+}
+
+/** The whole number 1 of the flash's bits says that it fired. */
+QString flash(double value)
+{
+    const bool fired = (int(value) & 1) != 0;
+    return QStringLiteral("%1 (%2)")
+        .arg(int(value))
+        .arg(fired ? translated(QT_TRANSLATE_NOOP("properties", "fired"))
+                   : translated(QT_TRANSLATE_NOOP("properties", "did not fire")));
+}
+
+/** Numbers that have a unit, or a form of their own. */
+QString withUnit(const QString &key, double value, const QVariantMap &group)
+{
+    using Form = QString (*)(double);
+    static const QHash<QString, Form> forms = {
+        {QStringLiteral("ExposureTime"), seconds},
+        {QStringLiteral("ShutterSpeedValue"), [](double apex) { return seconds(std::exp2(-apex)); }},
+        {QStringLiteral("FNumber"), aperture},
+        {QStringLiteral("ApertureValue"), [](double apex) { return aperture(std::exp2(apex / 2)); }},
+        {QStringLiteral("MaxApertureValue"), [](double apex) { return aperture(std::exp2(apex / 2)); }},
+        {QStringLiteral("ExposureBiasValue"), exposureValue},
+        {QStringLiteral("BrightnessValue"), exposureValue},
+        {QStringLiteral("FocalLength"),
+         [](double length) { return translated(QT_TRANSLATE_NOOP("properties", "%1 mm")).arg(number(length)); }},
+        {QStringLiteral("FocalLenIn35mmFilm"),
+         [](double length) { return translated(QT_TRANSLATE_NOOP("properties", "%1 mm")).arg(number(length)); }},
+        {QStringLiteral("SubjectDistance"),
+         [](double metres) { return translated(QT_TRANSLATE_NOOP("properties", "%1 m")).arg(number(metres)); }},
+        {QStringLiteral("Altitude"),
+         [](double metres) { return translated(QT_TRANSLATE_NOOP("properties", "%1 m")).arg(number(metres)); }},
+        {QStringLiteral("HPositioningError"),
+         [](double metres) { return translated(QT_TRANSLATE_NOOP("properties", "%1 m")).arg(number(metres)); }},
+        {QStringLiteral("ImgDirection"), [](double degrees) { return number(degrees) + u'°'; }},
+        {QStringLiteral("DestBearing"), [](double degrees) { return number(degrees) + u'°'; }},
+        {QStringLiteral("PixelWidth"),
+         [](double pixels) { return translated(QT_TRANSLATE_NOOP("properties", "%1 pixels")).arg(number(pixels)); }},
+        {QStringLiteral("PixelHeight"),
+         [](double pixels) { return translated(QT_TRANSLATE_NOOP("properties", "%1 pixels")).arg(number(pixels)); }},
+        {QStringLiteral("Depth"),
+         [](double bits) { return translated(QT_TRANSLATE_NOOP("properties", "%1 bits")).arg(number(bits)); }},
+        {QStringLiteral("DelayTime"), seconds},
+        {QStringLiteral("Orientation"), orientation},
+        {QStringLiteral("Flash"), flash},
+    };
+    if (key.endsWith(QLatin1String("Latitude")) || key.endsWith(QLatin1String("Longitude")))
+        return coordinate(value, group.value(key + QLatin1String("Ref")).toString());
+    const Form form = forms.value(key);
+    return form ? form(value) : number(value);
+}
+
+} // namespace
+
+QString propertyWords(const QString &key, const QVariant &value, const QVariantMap &group)
+{
+    switch (value.typeId()) {
+    case QMetaType::QVariantList: {
+        QStringList words;
+        for (const QVariant &each : value.toList())
+            words << propertyWords(QString(), each, {});
+        return words.join(QStringLiteral(", "));
+    }
+    case QMetaType::QByteArray:
+        return translated(QT_TRANSLATE_NOOP("properties", "%1 bytes"))
+            .arg(QLocale().toString(value.toByteArray().size()));
+    case QMetaType::Bool:
+        return value.toBool() ? translated(QT_TRANSLATE_NOOP("properties", "yes"))
+                              : translated(QT_TRANSLATE_NOOP("properties", "no"));
+    case QMetaType::QString:
+        return value.toString();
+    default:
+        return withUnit(key, value.toDouble(), group);
+    }
+}
+
+} // namespace window
