@@ -6,11 +6,23 @@
 
 const NAME = "/log.jsonl";
 
-/** So many of the newest rows are kept, for good; the file is cut back to them when it has grown this much beyond them. */
+/** So many of the newest rows are kept, for good, where the user wants no other number. */
 export const KEPT_ROWS = 100000;
-const SLACK_ROWS = 10000;
+// The file is cut back when it has grown by this part beyond them.
+const SLACK = 0.1;
 // No row is shorter than this: a smaller file need not be counted.
 const SHORTEST_ROW = 100;
+
+let mostRows = KEPT_ROWS;
+
+/** Says how many rows are kept from now on. */
+export function limitRows(most) {
+    mostRows = most;
+}
+
+export function rowLimit() {
+    return mostRows;
+}
 
 export function logPath(files) {
     return files.dataFolder + NAME;
@@ -23,8 +35,9 @@ export function keepRows(files, rows) {
     }
     const path = logPath(files);
     const problem = files.appendLines(path, rows.map((row) => JSON.stringify(row)).join("\n") + "\n");
-    const mayBeLarge = problem === "" && files.info(path).bytes > (KEPT_ROWS + SLACK_ROWS) * SHORTEST_ROW;
-    return mayBeLarge ? files.keepNewestLines(path, KEPT_ROWS, KEPT_ROWS + SLACK_ROWS) : problem;
+    const limit = Math.round(mostRows * (1 + SLACK));
+    const mayBeLarge = problem === "" && files.info(path).bytes > limit * SHORTEST_ROW;
+    return mayBeLarge ? files.keepNewestLines(path, mostRows, limit) : problem;
 }
 
 /** Takes all rows away; returns a message if that failed. */

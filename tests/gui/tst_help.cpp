@@ -5,6 +5,8 @@
 #include "tests/support/web_server.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QElapsedTimer>
@@ -181,6 +183,35 @@ private Q_SLOTS:
         QVERIFY2(clock.elapsed() < 4500, qPrintable(QString::number(clock.elapsed())));
         QCOMPARE(m_driver->text("statusText"), before);
         QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    void preferencesAreKept()
+    {
+        m_driver->trigger("preferencesAction");
+        for (const auto &[box, value] :
+             {std::pair{"wishLanguage", "fr"}, {"wishAppearance", "dark"}, {"wishTaken", "skip"}})
+            m_driver->choose(box, QString::fromLatin1(value));
+        auto *rows = m_driver->control<QComboBox>("wishLogRows");
+        rows->setCurrentIndex(0);
+        Q_EMIT rows->activated(0);
+        m_driver->control<QCheckBox>("wishUpdate")->click();
+        QVERIFY(m_driver->control<QAction>("darkAppearanceAction")->isChecked());
+        m_driver->click("preferencesDone");
+        m_driver->startAgain();
+        m_driver->trigger("preferencesAction");
+        QVERIFY(isOpen(sheet("preferencesWindow")));
+        QCOMPARE(m_driver->control<QComboBox>("wishLanguage")->currentText(), QStringLiteral("Français"));
+        QCOMPARE(m_driver->control<QComboBox>("wishAppearance")->currentData().toString(), QStringLiteral("dark"));
+        QCOMPARE(m_driver->control<QComboBox>("wishTaken")->currentData().toString(), QStringLiteral("skip"));
+        QCOMPARE(m_driver->control<QComboBox>("wishLogRows")->currentData().toInt(), 1000);
+        QVERIFY(m_driver->control<QCheckBox>("wishUpdate")->isChecked());
+        m_driver->choose("wishLanguage", QStringLiteral("system"));
+        QVERIFY(!platform::userDefault(QStringLiteral("Language")).isValid());
+        m_driver->choose("wishAppearance", QStringLiteral("system"));
+        m_driver->click("preferencesDone");
+        // An action that was never used starts as wished.
+        m_driver->show("round");
+        QCOMPARE(m_driver->control<QComboBox>("ifTaken")->currentData().toString(), QStringLiteral("skip"));
     }
 
     void printsTheChosenPictures()

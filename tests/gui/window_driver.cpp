@@ -69,6 +69,8 @@ WindowDriver::WindowDriver(QApplication &application) : m_application(applicatio
                             "PrintPaper",
                             "PrintLandscape",
                             "UpdateCheck",
+                            "Preferences",
+                            "Appearance",
                             "MainWindowlistSplitter"})
         platform::removeUserDefault(QString::fromLatin1(key));
     QFile::remove(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +

@@ -5,7 +5,7 @@ import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
-import { clearRows, keepRows, KEPT_ROWS, logPath } from "../../lib/log-file.js";
+import { clearRows, keepRows, logPath, rowLimit } from "../../lib/log-file.js";
 import { csvHead, csvLines } from "../../lib/report.js";
 import { keep, recall } from "../../lib/store.js";
 import { count, fill, statusText } from "../../lib/wording.js";
@@ -104,7 +104,7 @@ export class LogPage {
         control("logTable").visible = shown > 0;
         control("logEmpty").visible = shown === 0;
         control("logEmpty").text = this.table.reading ? "" : total > 0 ? qsTr("No entry matches.")
-            : fill(qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %1 entries are kept."), this.table.numberText(KEPT_ROWS));
+            : fill(qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %1 entries are kept."), this.table.numberText(rowLimit()));
         const chosen = this.table.chosenCount;
         this.form.setMenu("logMore", [chosen > 1 ? fill(qsTr("Copy %1 Rows"), chosen) : qsTr("Copy Row"), "-", qsTr("Clear Log…")],
                           [chosen > 0 ? "copy" : null, null, total > 0 && this.undo === null ? "clear" : null],

@@ -6,6 +6,7 @@ import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { FORMS } from "../../lib/preset-forms.js";
 import { keep, recall } from "../../lib/store.js";
+import { firstSettings } from "../../lib/wishes.js";
 import { carriedBy } from "../../lib/written.js";
 import { OutputPane } from "../../panes/output-pane.js";
 import { PresetPane } from "../../panes/preset-pane.js";
@@ -126,7 +127,7 @@ export class ActionPage {
 
     pageOf(action) {
         if (this.pages[action.name] === undefined) {
-            const settings = action.step === undefined ? {} : recall(defaults, "Settings-" + action.name, action.step.defaults);
+            const settings = action.step === undefined ? {} : recall(defaults, "Settings-" + action.name, firstSettings(defaults, action.step.defaults));
             const pane = action.pane === undefined ? null : new action.pane(settings, this.changed, this.window);
             if (pane !== null) {
                 this.window.form.place("actionHost", pane.form);

@@ -344,12 +344,14 @@ function connectAppearance(window) {
     window.form.group(["fitAction", "fillAction"]);
     for (const choice of Object.keys(names)) {
         const action = window.form.control(names[choice]);
-        action.checked = shell.theme.choice() === choice;
         action.triggered.connect(guard("appearance", () => shell.theme.choose(choice)));
     }
-    const icons = () => window.form.setIcon("emptyIcon", "pictures-large");
-    shell.theme.changed.connect(guard("theme", icons));
-    icons();
+    const show = () => {
+        window.form.setIcon("emptyIcon", "pictures-large");
+        window.form.control(names[shell.theme.choice()]).checked = true;
+    };
+    shell.theme.changed.connect(guard("theme", show));
+    show();
 }
 
 /** Makes and shows the main window. */

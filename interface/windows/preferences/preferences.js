@@ -1,8 +1,17 @@
-// The preferences: a sheet of the main window. Services used: cSheetControl, for the support folder.
+// The preferences: a sheet of the main window. Services used: cSheetControl, for the support folder; defaults.
 
 import { cSheetControl } from "quorlin";
+import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
+import { limitRows } from "../../lib/log-file.js";
+import { keep, recall } from "../../lib/store.js";
+import { KEY as UPDATE, STANDARD as UPDATE_STANDARD } from "../../lib/update.js";
+import { keepWish, LOG_ROWS, TAKEN, wishes } from "../../lib/wishes.js";
+
+// The key that services look at as well. Languages are called as their speakers call them.
+const LANGUAGE = "Language";
+const LANGUAGES = [["en", "English"], ["nl", "Nederlands"], ["de", "Deutsch"], ["fr", "Français"]];
 
 export class Preferences {
     /**
@@ -16,11 +25,53 @@ export class Preferences {
         this.sheets.wwMainWindow = shell.sheetHost(mainForm);
         this.sheets.wwPreferencesWindow = this.form.control("preferencesWindow");
         this.sheets.tfLibraryFilePath = this.form.control("libraryFilePath");
+        limitRows(wishes(defaults).logRows);
+        this.fillMenus();
+        this.connect();
         this.form.control("libraryChange").clicked.connect(guard("library", () => this.change()));
         this.form.control("preferencesDone").clicked.connect(guard("preferences", () => this.form.close()));
     }
 
+    fillMenus() {
+        this.form.setItems("wishLanguage", [qsTr("As the system")].concat(LANGUAGES.map((each) => each[1])), ["system"].concat(LANGUAGES.map((each) => each[0])));
+        this.form.setItems("wishAppearance", [qsTr("As the system"), qsTr("Light"), qsTr("Dark")], ["system", "light", "dark"]);
+        this.form.setItems("wishTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")], TAKEN);
+        this.form.setItems("wishLogRows", [qsTr("the newest 1,000 entries"), qsTr("the newest 10,000 entries"), qsTr("the newest 100,000 entries")], LOG_ROWS);
+    }
+
+    connect() {
+        const deeds = {
+            wishLanguage: (value) => this.chooseLanguage(value),
+            wishAppearance: (value) => shell.theme.choose(value),
+            wishTaken: (value) => keepWish(defaults, "ifTaken", value),
+            wishLogRows: (value) => { keepWish(defaults, "logRows", value); limitRows(value); },
+        };
+        Object.keys(deeds).forEach((name) => {
+            this.form.control(name).activated.connect(guard("preferences", () => deeds[name](this.form.value(name))));
+        });
+        const update = this.form.control("wishUpdate");
+        update.toggled.connect(guard("preferences", () => keep(defaults, UPDATE, { onStart: update.checked })));
+    }
+
+    chooseLanguage(code) {
+        if (code === "system") {
+            defaults.remove(LANGUAGE);
+        } else {
+            defaults.set(LANGUAGE, code);
+        }
+    }
+
+    showWishes() {
+        const language = defaults.get(LANGUAGE);
+        this.form.chooseValue("wishLanguage", LANGUAGES.some((each) => each[0] === language) ? language : "system");
+        this.form.chooseValue("wishAppearance", shell.theme.choice());
+        this.form.chooseValue("wishTaken", wishes(defaults).ifTaken);
+        this.form.chooseValue("wishLogRows", wishes(defaults).logRows);
+        this.form.control("wishUpdate").checked = recall(defaults, UPDATE, UPDATE_STANDARD).onStart;
+    }
+
     open() {
+        this.showWishes();
         this.sheets.hCallPreferencesWw(null);
         this.form.control("libraryChange").setFocus();
     }
