@@ -13,6 +13,7 @@ import { Input } from "./input.js";
 import { Pages } from "./pages.js";
 import { PreviewSide } from "./preview-side.js";
 import { Printing } from "./printing.js";
+import { recoverRuns } from "./recover-runs.js";
 import { SaveAs } from "../save-as/save-as.js";
 import { showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
@@ -392,6 +393,7 @@ export function openMainWindow() {
     showAll(window);
     window.form.show();
     window.form.control("central").setFocus();
+    recoverRuns(window.note);
     if (shell.arguments.length > 0) {
         window.input.addPaths(shell.arguments);
     }

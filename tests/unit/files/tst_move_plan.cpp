@@ -57,6 +57,8 @@ class TestMovePlan : public QObject
 private Q_SLOTS:
     void judgesEveryWish_data();
     void judgesEveryWish();
+    void judgesWishesTogether_data();
+    void judgesWishesTogether() { judgesEveryWish(); }
     void refusesNamesThatAreTooLong();
     void planningTouchesNothing();
     void plansTenThousandWishesInOneGo();
@@ -66,11 +68,8 @@ void TestMovePlan::judgesEveryWish_data()
 {
     QTest::addColumn<QStringList>("wishes");
     QTest::addColumn<QStringList>("answers");
-    const auto row = [](const char *name, const QStringList &wishes, const QStringList &answers) {
-        QTest::newRow(name) << wishes << answers;
-    };
-    const auto one = [&row](const char *name, const char *wish, const char *answer) {
-        row(name, {text(wish)}, {text(answer)});
+    const auto one = [](const char *name, const char *wish, const char *answer) {
+        QTest::newRow(name) << QStringList{text(wish)} << QStringList{text(answer)};
     };
     one("a new name", "a.jpg>x.jpg", "ready");
     one("its own name", "a.jpg>a.jpg", "same");
@@ -106,6 +105,16 @@ void TestMovePlan::judgesEveryWish_data()
     one("a copy out of a locked folder", "locked/l+x", "ready");
     one("a link is moved itself", "link>x", "ready");
     one("a link that leads nowhere is in the way", "a.jpg>link", "refused taken /d/link");
+}
+
+/** Plans of which the wishes have to do with each other. */
+void TestMovePlan::judgesWishesTogether_data()
+{
+    QTest::addColumn<QStringList>("wishes");
+    QTest::addColumn<QStringList>("answers");
+    const auto row = [](const char *name, const QStringList &wishes, const QStringList &answers) {
+        QTest::newRow(name) << wishes << answers;
+    };
     row("twice", {text("a.jpg>x"), text("b.jpg>x")}, {text("ready"), text("refused twice /d/a.jpg")});
     row("twice in case", {text("a.jpg>x"), text("b.jpg>X")}, {text("ready"), text("refused case /d/a.jpg")});
     row("twice, numbered", {text("a.jpg>x.y#"), text("b.jpg>x.y#")},
