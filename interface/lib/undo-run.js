@@ -4,19 +4,26 @@ import { splitPath } from "./names.js";
 import { logRow } from "./report.js";
 import { count } from "./wording.js";
 
+// Runs that write new files give themselves such a name; those that move files have theirs from the move engine.
+const WRITES = /^\d{4}-\d\d-\d\dT/;
+
+function sentence(text) {
+    return /[.!?]$/.test(text) ? text : text + ".";
+}
+
 /** Whether a run can be undone: {can, button: what the button says, note: how much, or why not}. */
 export function undoWords(moves, run) {
-    const known = moves && run !== "" ? moves.runs().find((each) => each.id === run) : undefined;
-    if (known === undefined) {
+    if (run === "" || WRITES.test(run)) {
         return { can: false, button: qsTr("Undo This Run"),
                  note: qsTr("This run wrote new files and moved none, so that there is nothing to take back: its results can be deleted.") };
     }
+    const known = moves.runs().find((each) => each.id === run) || { undoes: "" };
     const button = known.undoes ? qsTr("Redo") : qsTr("Undo This Run");
     const undoable = moves.undoable(run);
     if (undoable.can) {
         return { can: true, button: button, note: count(undoable.count, qsTr("1 file can be taken back."), qsTr("%1 files can be taken back.")) };
     }
-    return { can: false, button: button, note: undoable.reason };
+    return { can: false, button: button, note: sentence(undoable.reason) };
 }
 
 /** What an undo that was begun cannot bring back, in sentences. */

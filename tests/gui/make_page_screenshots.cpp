@@ -34,10 +34,13 @@ struct MadeRun
 void writeLog(const QString &home)
 {
     const MadeRun runs[] = {
-        {"1", "Resize", "longest 1600", "Web", 240, 0, 75},     {"2", "Crop", "16:9, 1920 × 1080", "Cut", 36, 12, 52},
-        {"3", "Rename", "date taken, counter", "", 318, 0, 30}, {"4", "Resize", "longest 256", "Thumbnails", 24, 0, 29},
-        {"5", "Round Corners", "radius 40", "Round", 12, 6, 5}, {"6", "Sort by Hand", "Move to Lake", "", 61, 0, 4},
-        {"7", "Resize", "longest 1600", "Web", 48, 16, 1},
+        {"2026-11-20T01:00:00Z", "Resize", "longest 1600", "Web", 240, 0, 75},
+        {"2026-11-20T02:00:00Z", "Crop", "16:9, 1920 × 1080", "Cut", 36, 12, 52},
+        {"2026-11-20T03:00:00Z", "Rename", "date taken, counter", "", 318, 0, 30},
+        {"2026-11-20T04:00:00Z", "Resize", "longest 256", "Thumbnails", 24, 0, 29},
+        {"2026-11-20T05:00:00Z", "Round Corners", "radius 40", "Round", 12, 6, 5},
+        {"2026-11-20T06:00:00Z", "Sort by Hand", "Move to Lake", "", 61, 0, 4},
+        {"2026-11-20T07:00:00Z", "Resize", "longest 1600", "Web", 48, 16, 1},
     };
     const QString folder = home + QStringLiteral("/.local/share/quorlin");
     QDir().mkpath(folder);
@@ -86,7 +89,7 @@ void showLog(WindowDriver &driver, const QString &name)
     settle(driver);
     driver.control<window::LogTable>("logTable")->selectRow(3);
     saveBoth(driver, name + QStringLiteral("-all"));
-    driver.control<window::RunList>("logRuns")->choose(QStringLiteral("7"));
+    driver.control<window::RunList>("logRuns")->choose(QStringLiteral("2026-11-20T07:00:00Z"));
     driver.control<window::LogTable>("logTable")->selectRow(0);
     saveBoth(driver, name);
 }

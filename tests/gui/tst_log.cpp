@@ -75,12 +75,20 @@ private Q_SLOTS:
         QVERIFY(runs()->choose(QStringLiteral("2")));
         QCOMPARE(names(), QStringLiteral("c.jpg"));
         QCOMPARE(m_driver->text("logRunTitle"), QStringLiteral("Crop · 1 entry · 1 problem"));
-        QVERIFY(m_driver->text("logRunNote").contains(QStringLiteral("wrote new files")));
+        QVERIFY(m_driver->text("logRunNote").contains(QStringLiteral("Nothing is known of this run")));
         QVERIFY(!m_driver->control<QPushButton>("logUndo")->isEnabled());
         QTest::keyClick(runs(), Qt::Key_Down);
         QCOMPARE(names(), QStringLiteral("b.jpg a.jpg"));
         runs()->chooseAll();
         QCOMPARE(table()->shownCount(), 3);
+    }
+
+    void saysThatARunThatWroteNewFilesCannotBeUndone()
+    {
+        show(line(QStringLiteral("a.jpg"), "OK", "2026-11-20T10:00:00.000Z", "Resize"));
+        QVERIFY(runs()->choose(QStringLiteral("2026-11-20T10:00:00.000Z")));
+        QVERIFY(m_driver->text("logRunNote").contains(QStringLiteral("wrote new files")));
+        QVERIFY(!m_driver->control<QPushButton>("logUndo")->isEnabled());
     }
 
     void searchAndStatusHoldTogether()

@@ -8,7 +8,7 @@ function engine(changes) {
     const moves = {
         ended: [],
         runs: () => [{ id: "r2", undoes: "r1" }, { id: "r1", undoes: "" }],
-        undoable: (id) => (id === "r1" ? { can: false, count: 0, reason: "It was undone already." } : { can: true, count: 2, reason: "" }),
+        undoable: (id) => (id === "r1" ? { can: false, count: 0, reason: "It was undone already" } : { can: true, count: 2, reason: "" }),
         next: () => results.shift() || null,
         end: (run) => { moves.ended.push(run); return "end"; },
     };
@@ -33,7 +33,8 @@ test("saysWhyNot", () => {
         equal(words.can, false);
         isTrue(/wrote new files/.test(words.note));
     }
-    equal(undoWords(undefined, "r1").can, false);
+    const gone = undoWords(engine({ undoable: () => ({ can: false, count: 0, reason: "Nothing is known of it any more" }) }), "r9");
+    equal(gone, { can: false, button: "Undo This Run", note: "Nothing is known of it any more." });
 });
 
 test("carriesAnUndoOutAndLogsEachFile", () => {
