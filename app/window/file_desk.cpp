@@ -165,6 +165,11 @@ QStringList FileDesk::names(const QString &folder) const
                                   QDir::Unsorted);
 }
 
+QStringList FileDesk::folders(const QString &folder) const
+{
+    return QDir(folder).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Unsorted);
+}
+
 QVariantMap FileDesk::collect(const QStringList &paths, const QStringList &extensions) const
 {
     Collector collector(extensions);

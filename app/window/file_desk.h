@@ -37,6 +37,8 @@ public:
     Q_INVOKABLE QString absolute(const QString &path) const;
     /** Names of all entries of a folder, hidden ones included, in no order; empty where it cannot be read. */
     Q_INVOKABLE QStringList names(const QString &folder) const;
+    /** The names of the folders in a folder, hidden ones included, in no order; empty where it cannot be read. */
+    Q_INVOKABLE QStringList folders(const QString &folder) const;
 
     /**
      * Files and folders as they were dropped or chosen, turned into the list of pictures to work on. Folders are walked

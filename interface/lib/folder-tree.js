@@ -1,5 +1,5 @@
 // The folders that a run will sort into: as they are on the disk, as they will be, and how many files each gets.
-// Services used: files (names, info), handed in.
+// Services used: files (folders, info), handed in.
 
 import { emptyTable, FolderNames, joinPath, nameKey, splitPath } from "./names.js";
 
@@ -16,7 +16,7 @@ export class FolderBook {
     constructor(files) {
         this.files = files;
         this.nodes = emptyTable();
-        this.namesOf = emptyTable();
+        this.foldersOf = emptyTable();
     }
 
     base(path) {
@@ -29,15 +29,19 @@ export class FolderBook {
         return this.nodes[path];
     }
 
-    namesIn(node) {
-        if (this.namesOf[node.path] === undefined) {
-            this.namesOf[node.path] = new FolderNames(this.files.names(node.path));
+    // The folder of that name as it is written on the disk; null where there is none.
+    folderIn(node, wanted) {
+        if (!node.exists) {
+            return null;
         }
-        return this.namesOf[node.path];
+        if (this.foldersOf[node.path] === undefined) {
+            this.foldersOf[node.path] = new FolderNames(this.files.folders(node.path));
+        }
+        return this.foldersOf[node.path].onDiskAs(wanted);
     }
 
     make(node, wanted) {
-        const there = node.exists ? this.namesIn(node).onDiskAs(wanted) : null;
+        const there = this.folderIn(node, wanted);
         const path = joinPath(node.path, there === null ? wanted : there);
         const known = this.nodes[path];
         if (known !== undefined) { // a base that lies below another one
@@ -45,9 +49,9 @@ export class FolderBook {
             known.name = splitPath(path).name;
             return known;
         }
-        const isFolder = there !== null && this.files.info(path).isFolder;
-        const made = nodeAt(path, splitPath(path).name, node, isFolder);
-        made.inTheWay = node.inTheWay || (there !== null && !isFolder ? path : "");
+        const made = nodeAt(path, splitPath(path).name, node, there !== null);
+        const isFile = node.exists && there === null && this.files.info(path).exists;
+        made.inTheWay = node.inTheWay || (isFile ? path : "");
         this.nodes[path] = made;
         return made;
     }

@@ -6,6 +6,8 @@ import { emptyTable, joinPath, splitPath } from "./names.js";
 /** Extensions of such files, in lower case. */
 export const SIDECARS = ["xmp", "aae", "thm", "pp3", "dop", "cos", "on1", "wav"];
 
+const ENDING = new RegExp("[^.]\\.(" + SIDECARS.join("|") + ")$", "i");
+
 function push(table, key, value) {
     if (table[key] === undefined) {
         table[key] = [];
@@ -25,12 +27,7 @@ export class Sidecars {
     inFolder(folder) {
         if (this.folders[folder] === undefined) {
             const found = emptyTable();
-            this.files.names(folder).forEach((name) => {
-                const parts = splitPath(name);
-                if (SIDECARS.indexOf(parts.extension.toLowerCase()) >= 0) {
-                    push(found, parts.base, name);
-                }
-            });
+            this.files.names(folder).filter((name) => ENDING.test(name)).forEach((name) => push(found, splitPath(name).base, name));
             this.folders[folder] = found;
         }
         return this.folders[folder];
@@ -42,7 +39,7 @@ export class Sidecars {
      */
     of(path) {
         const file = splitPath(path);
-        if (SIDECARS.indexOf(file.extension.toLowerCase()) >= 0) {
+        if (ENDING.test(file.name)) {
             return [];
         }
         const found = this.inFolder(file.folder);

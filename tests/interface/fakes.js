@@ -23,6 +23,10 @@ export class FakeFiles {
         return Object.keys(this.entries).filter((path) => splitPath(path).folder === folder).map((path) => splitPath(path).name);
     }
 
+    folders(folder) {
+        return this.names(folder).filter((name) => this.entries[folder + "/" + name] === "folder");
+    }
+
     makeFolder(folder) {
         if (folder.startsWith("/sealed")) {
             return "the folder is sealed";

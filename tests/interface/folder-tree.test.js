@@ -33,7 +33,7 @@ test("takesTheSpellingOfTheDiskThenTheFirstOne", () => {
 
 test("tellsAFileThatHasTheNameOfAFolder", () => {
     const filled = book({ "/p": "folder", "/p/JPEG": 12, "/q": 3 });
-    equal(filled.place("/p", ["jpeg", "x"]).inTheWay, "/p/JPEG");
+    equal(filled.place("/p", ["JPEG", "x"]).inTheWay, "/p/JPEG");
     equal(filled.place("/p", ["png"]).inTheWay, "");
     equal(filled.place("/q", ["x"]).inTheWay, "/q");
 });
@@ -51,7 +51,7 @@ test("joinsABaseToTheTreeAboveIt", () => {
 test("asksTheDiskOnceForEachFolder", () => {
     const files = new FakeFiles({ "/p": "folder" });
     let asked = 0;
-    files.names = () => { asked += 1; return []; };
+    files.folders = () => { asked += 1; return []; };
     const filled = new FolderBook(files);
     for (let i = 0; i < 100; i += 1) {
         filled.place("/p", ["x" + i % 10, "y"]);
