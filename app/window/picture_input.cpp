@@ -32,6 +32,23 @@ void PictureTable::chooseSomeRow()
         setCurrentIndex(m_order.index(0, PictureModel::Name));
 }
 
+void PictureTable::showOnly(const QVariantList &ids)
+{
+    QSet<int> shown;
+    for (const QVariant &id : ids)
+        shown.insert(id.toInt());
+    m_order.setOnly(shown);
+    chooseSomeRow();
+    wakeLoader();
+}
+
+void PictureTable::showAll()
+{
+    m_order.setOnly({});
+    chooseSomeRow();
+    wakeLoader();
+}
+
 // Rows that a filter hides have no place of their own: then the order of adding holds.
 std::vector<int> PictureTable::rowsInOrder() const
 {

@@ -52,6 +52,14 @@ void PictureOrder::setProblemsOnly(bool on)
     invalidateFilter();
 }
 
+void PictureOrder::setOnly(const std::optional<QSet<int>> &ids)
+{
+    if (!ids && !m_only)
+        return;
+    m_only = ids;
+    invalidateFilter();
+}
+
 void PictureOrder::setInput(const InputRule &rule)
 {
     m_input = rule;
@@ -72,7 +80,8 @@ bool PictureOrder::lessThan(const QModelIndex &left, const QModelIndex &right) c
 bool PictureOrder::filterAcceptsRow(int row, const QModelIndex &) const
 {
     const PictureRow &picture = m_model.row(row);
-    return m_input.takes(picture) && (!m_problemsOnly || picture.kind == StatusKind::Bad);
+    return m_input.takes(picture) && (!m_problemsOnly || picture.kind == StatusKind::Bad) &&
+           (!m_only || m_only->contains(picture.id));
 }
 
 } // namespace window

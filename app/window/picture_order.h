@@ -2,11 +2,14 @@
 
 #include "app/window/picture_model.h"
 
+#include <QSet>
 #include <QSortFilterProxyModel>
+
+#include <optional>
 
 namespace window {
 
-/** Sorts by what the cells mean (numbers, natural order of names) and can show the problems only. */
+/** Sorts by what the cells mean (numbers, natural order of names) and can show the problems, or some of the pictures, only. */
 class PictureOrder : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -15,6 +18,9 @@ public:
     explicit PictureOrder(PictureModel &model, QObject *parent);
     void setProblemsOnly(bool on);
     bool problemsOnly() const { return m_problemsOnly; }
+    /** Shows the pictures with these ids only; all for none. */
+    void setOnly(const std::optional<QSet<int>> &ids);
+    bool showsSome() const { return m_problemsOnly || m_only.has_value(); }
     /** Rows that an action does not work on are not shown. */
     void setInput(const InputRule &rule);
     const InputRule &input() const { return m_input; }
@@ -26,6 +32,7 @@ protected:
 private:
     PictureModel &m_model;
     InputRule m_input;
+    std::optional<QSet<int>> m_only;
     bool m_problemsOnly = false;
 };
 

@@ -63,6 +63,10 @@ public:
     Q_INVOKABLE QStringList paths() const;
     /** The file of a picture is at another path now, because it was renamed. */
     Q_INVOKABLE void setPath(int id, const QString &path);
+    /** Shows the pictures with these ids only, and the first of them as the current one if the current one is not among them. */
+    Q_INVOKABLE void showOnly(const QVariantList &ids);
+    /** Takes back showOnly(). */
+    Q_INVOKABLE void showAll();
     /** The chosen rows, in the order shown. */
     Q_INVOKABLE QVariantList selectedIds() const;
     /** Moves the current row by @p rows; stays at the ends. */

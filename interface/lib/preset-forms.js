@@ -8,6 +8,7 @@ import { MODES } from "./crops.js";
 import { UNITS } from "./measure.js";
 import { stepFrom } from "./name-steps.js";
 import { KEYWORDS, QUALITIES as CONVERT_QUALITIES } from "./targets.js";
+import { UNDATED } from "./sorting.js";
 import { ORIGINAL, WRITTEN } from "./types.js";
 
 /** The newest version of the forms below. A form whose columns change their meaning gets a higher version. */
@@ -74,4 +75,9 @@ export const FORMS = {
     }, KEYWORDS),
     // All other columns are folders, so that the mark stands in Action, between the sub-mode of the process and the mode.
     hand: { process: "Sorting", subMode: "ByHand", mode: "mode", modes: ["move", "copy", "link"], slots: "slots", columns: {} },
+    sort: moveForm("Sort into Folders", "kind", {
+        StrField6: ["destination.kind", "text", ["beside", "folder"]], StrField8: ["destination.path", "text"],
+        StrField9: ["ifTaken", "text", ["number", "skip"]], StrField11: ["pattern", "text"], StrField12: ["undated", "text", UNDATED],
+        StrField13: ["undatedName", "text"],
+    }, ["move", "copy", "link"]),
 };

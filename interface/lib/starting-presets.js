@@ -76,6 +76,16 @@ const LISTS = {
         [qsTr("TIFF for printing"), { target: "tiff", output: { destination: { name: "TIFF" } } }],
         [qsTr("PDF pages"), { target: "pdf", output: { destination: { name: "PDF" } } }],
     ],
+    sort: () => [
+        [qsTr("By year and day taken"), { pattern: "{taken:yyyy}/{taken:yyyy-MM-dd}" }],
+        [qsTr("By year and month taken"), { pattern: "{taken:yyyy}/{taken:yyyy-MM}" }],
+        [qsTr("By day changed"), { pattern: "{changed:yyyy-MM-dd}" }],
+        [qsTr("By camera and day taken"), { pattern: "{camera}/{taken:yyyy-MM-dd}" }],
+        [qsTr("By type"), { pattern: "{type}" }],
+        [qsTr("By orientation"), { pattern: "{orientation}" }],
+        [qsTr("By file size"), { pattern: "{size:class}" }],
+        [qsTr("By start of name"), { pattern: "{name:word}" }],
+    ],
 };
 
 // The standard settings with some of them changed.

@@ -25,6 +25,12 @@ const BY_EXTENSION = {
 /** The files that actions on pictures take, by extension. */
 export const PICTURE_INPUT = ["jpg", "jpeg", "tif", "tiff", "png", "jp2", "gif", "bmp"];
 
+/** The files that actions take which look at no pixels: these and those of cameras and phones. */
+export const PHOTO_INPUT = PICTURE_INPUT.concat([
+    "jpe", "heic", "heif", "webp", "avif", "psd", "pdf", "svg",
+    "dng", "cr2", "cr3", "crw", "nef", "nrw", "arw", "srf", "sr2", "raf", "orf", "rw2", "pef", "srw", "raw", "3fr", "erf", "kdc", "mrw", "x3f",
+]);
+
 /** The written type of that identifier, or null. */
 export function writtenType(id) {
     return WRITTEN.find((type) => type.id === id) || null;

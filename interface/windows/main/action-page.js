@@ -72,7 +72,8 @@ export class ActionPage {
             this.presets.use(action.name, action.title(), page.pane);
         }
         if (manner.columns.length > 0) {
-            window.pictures.setColumns(manner.columns, manner.headings(), manner.stressed);
+            const own = action.headings === undefined ? {} : action.headings();
+            window.pictures.setColumns(manner.columns, Object.assign(manner.headings(), own), manner.stressed);
         }
         this.showInput();
     }
@@ -86,6 +87,9 @@ export class ActionPage {
 
     showPane(page, on) {
         if (page.pane !== null) {
+            if (!on && page.pane.left !== undefined) {
+                page.pane.left();
+            }
             page.pane.form.shown = on;
             if (page.pane.beside !== undefined) {
                 page.pane.beside.shown = on;

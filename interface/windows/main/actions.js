@@ -12,11 +12,12 @@
 //   lists(settings)  what the rows of the list are: "pictures", "files" of any kind, or "folders" themselves
 //   keyword  what the input collection is asked for; takes: the extensions of pictures that are taken
 //   deed(number, settings)     what the button says
+//   headings()  other words for the heads of columns than those of the manner (may be missing)
 // MOVES also: done(number, settings) and undone(number, settings) for the summary, with settings null where they are not known.
 // PAGE also: page, a class made with (window, action) that has form and show(), and may have leave(), mayLeave(), listChanged().
 
 import { CONVERTED_INPUT } from "../../lib/targets.js";
-import { PICTURE_INPUT } from "../../lib/types.js";
+import { PHOTO_INPUT, PICTURE_INPUT } from "../../lib/types.js";
 import { count } from "../../lib/wording.js";
 import { BackgroundPane } from "../../panes/background-pane.js";
 import { ConvertPane } from "../../panes/convert-pane.js";
@@ -25,6 +26,7 @@ import { HandPane } from "../../panes/hand-pane.js";
 import { RenamePane } from "../../panes/rename-pane.js";
 import { ResizePane } from "../../panes/resize-pane.js";
 import { RoundPane } from "../../panes/round-pane.js";
+import { SortPane } from "../../panes/sort-pane.js";
 import { TurnPane } from "../../panes/turn-pane.js";
 import * as background from "../../steps/background.js";
 import * as convert from "../../steps/convert.js";
@@ -33,6 +35,7 @@ import * as hand from "../../steps/hand.js";
 import * as rename from "../../steps/rename.js";
 import * as resize from "../../steps/resize.js";
 import * as round from "../../steps/round.js";
+import * as sort from "../../steps/sort.js";
 import * as turn from "../../steps/turn.js";
 import { HandPage } from "../hand/hand-page.js";
 import { LogPage } from "../log/log-page.js";
@@ -51,6 +54,22 @@ function onPictures(name, title, step, pane, deed) {
 function renamed(settings, number, texts) {
     const first = settings !== null && settings.what === "folders" ? 2 : 0;
     return count(number, texts[first], texts[first + 1]);
+}
+
+function sortDeed(number, settings) {
+    return {
+        move: () => count(number, qsTr("Sort 1 File into Folders"), qsTr("Sort %1 Files into Folders")),
+        copy: () => count(number, qsTr("Copy 1 File into Folders"), qsTr("Copy %1 Files into Folders")),
+        link: () => count(number, qsTr("Link 1 File into Folders"), qsTr("Link %1 Files into Folders")),
+    }[settings.kind]();
+}
+
+function sortDone(number, settings) {
+    return {
+        move: () => count(number, qsTr("1 file sorted"), qsTr("%1 files sorted")),
+        copy: () => count(number, qsTr("1 file copied"), qsTr("%1 files copied")),
+        link: () => count(number, qsTr("1 link made"), qsTr("%1 links made")),
+    }[settings === null ? "move" : settings.kind]();
 }
 
 export const GROUPS = [
@@ -83,6 +102,10 @@ export const GROUPS = [
                 undone: (number, settings) => renamed(settings, number, [qsTr("1 file has its old name again"), qsTr("%1 files have their old names again"),
                                                                          qsTr("1 folder has its old name again"), qsTr("%1 folders have their old names again")]),
             },
+            { name: "sort", title: () => qsTr("Sort into Folders"), manner: MOVES, usesList: true, step: sort, pane: SortPane,
+              lists: () => "pictures", keyword: "sort", takes: PHOTO_INPUT, headings: () => ({ newName: qsTr("Folder") }),
+              deed: sortDeed, done: sortDone,
+              undone: (number) => count(number, qsTr("1 file put back"), qsTr("%1 files put back")) },
             { name: "hand", title: () => qsTr("Sort by Hand"), manner: PAGE, usesList: true, page: HandPage, step: hand, pane: HandPane,
               lists: () => "pictures", keyword: "sort", takes: PICTURE_INPUT, deed: () => qsTr("Sort by Hand") },
         ],
