@@ -24,8 +24,8 @@ constexpr int totalRole = Qt::UserRole + 1;
 constexpr int newRole = Qt::UserRole + 2;
 constexpr int rowHeightPx = 28;
 constexpr int iconPx = 18;
-constexpr int indentPx = 18;
-constexpr int gapPx = 6;
+constexpr int indentPx = 16;
+constexpr int gapPx = 5;
 constexpr int marginPx = 10;
 /** With more folders than these only the first levels are open at first. */
 constexpr int mostOpened = 300;
@@ -45,11 +45,11 @@ int paintEnd(QPainter &painter, const QStyleOptionViewItem &option, const QModel
     painter.setFont(option.font);
     painter.setPen(Theme::color(QStringLiteral("text")));
     painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, total);
-    place.setRight(place.right() - std::max(32, painter.fontMetrics().horizontalAdvance(total)) - gapPx);
+    place.setRight(place.right() - std::max(24, painter.fontMetrics().horizontalAdvance(total)) - gapPx);
     const bool isNew = index.data(newRole).toBool();
     const QString mark = isNew ? FolderTree::tr("new") : FolderTree::tr("exists");
     painter.setFont(smaller(option.font));
-    const QSize size = painter.fontMetrics().size(Qt::TextSingleLine, mark) + QSize(12, 4);
+    const QSize size = painter.fontMetrics().size(Qt::TextSingleLine, mark) + QSize(10, 4);
     const QRectF pill(place.right() - size.width(), place.center().y() - size.height() / 2, size.width(),
                       size.height());
     if (isNew) {
@@ -249,7 +249,10 @@ void FolderTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option, 
         painter->fillRect(option.rect, Theme::color(QStringLiteral("row")));
     else if (option.state & QStyle::State_MouseOver)
         painter->fillRect(option.rect, Theme::color(QStringLiteral("hover")));
-    QTreeWidget::drawRow(painter, option, index);
+    // The style would paint the place before the branch in its own colour.
+    QStyleOptionViewItem quiet = option;
+    quiet.palette.setBrush(QPalette::Highlight, Qt::transparent);
+    QTreeWidget::drawRow(painter, quiet, index);
     if (hasFocus() && index == currentIndex()) {
         painter->setPen(Theme::color(QStringLiteral("accent")));
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));

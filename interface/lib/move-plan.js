@@ -9,6 +9,8 @@ import { splitPath } from "./names.js";
  *   to       the path that is wished for, or "" where there is none: then status and reason say why
  *   kind     "move", "copy" or "link"
  *   number   give it a number where the path is taken
+ *   skips    staying where the path is taken is what the user chose
+ *   isLeft   having no wish is what the user chose
  *   caution  what stands in for a thing that is missing, in words: shown as the status of a row that is ready
  *   notes    what else is to be known, for the tool tip
  *   along    [{from, to}]: files that go with this one; if one of them cannot, this one stays too
@@ -16,7 +18,7 @@ import { splitPath } from "./names.js";
  *   shown    what the column of new names shows; the name of `to` where it is ""
  */
 export function row(changes) {
-    return Object.assign({ to: "", kind: "move", number: false, caution: "", notes: [], along: [], goesWith: -1, shown: "",
+    return Object.assign({ to: "", kind: "move", number: false, skips: false, isLeft: false, caution: "", notes: [], along: [], goesWith: -1, shown: "",
                            status: "", reason: "" }, changes);
 }
 

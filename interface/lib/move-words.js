@@ -67,6 +67,14 @@ function ready(row, item) {
              detail: [text].concat(notes).join("\n") };
 }
 
+const TAKEN = ["taken", "twice", "case"];
+
+// The rule for names that are taken is to leave such files where they are.
+function skipped(item) {
+    const text = item.code === "twice" ? fill(qsTr("stays: %1 gets this name"), nameOf(item.other)) : qsTr("stays: a file of this name is there");
+    return { state: "same", kind: "caution", text: text, detail: fill(qsTr("In the way: %1"), item.other) };
+}
+
 /**
  * The state of a row: {state: "ready", "same", "along" or "attention", kind, text, detail}; kind is that of the list's
  * statuses, detail is for the tool tip. leaderName: of the row that takes this one along.
@@ -76,10 +84,13 @@ export function stateOf(row, item, leaderName) {
         return { state: "along", kind: "waiting", text: fill(qsTr("goes along with %1"), leaderName), detail: "" };
     }
     if (item === null) {
-        return { state: "attention", kind: "bad", text: row.reason, detail: row.notes.join("\n") };
+        return { state: row.isLeft ? "same" : "attention", kind: row.isLeft ? "caution" : "bad", text: row.reason, detail: row.notes.join("\n") };
     }
     if (item.status === "same") {
         return { state: "same", kind: "none", text: qsTr("stays as it is"), detail: row.notes.join("\n") };
+    }
+    if (item.status === "refused" && row.skips && TAKEN.indexOf(item.code) >= 0) {
+        return skipped(item);
     }
     if (item.status === "refused") {
         const text = refusalText(item);

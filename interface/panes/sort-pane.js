@@ -41,6 +41,7 @@ export class SortPane extends Pane {
         this.tree = new SortTree(window);
         this.beside = this.tree.form;
         this.services = null;
+        this.caret = 0;
         this.join();
         this.fill();
     }
@@ -49,6 +50,7 @@ export class SortPane extends Pane {
         LEVELS.forEach((name, at) => this.form.control(name).activated.connect(guard(name, () => this.levelChosen(at))));
         const pattern = this.form.control("sortPattern");
         pattern.textEdited.connect(guard("sortPattern", () => this.set("pattern", pattern.text)));
+        pattern.cursorPositionChanged.connect(guard("sortPattern.caret", () => this.caretMoved(pattern.cursorPosition)));
         const entries = tokenEntries();
         this.form.setMenu("sortToken", entries.map((entry) => entry.text), entries.map((entry) => entry.value),
                           guard("sortToken", (token) => this.insert(token)));
@@ -65,7 +67,7 @@ export class SortPane extends Pane {
     }
 
     showValues() {
-        this.form.control("sortPattern").text = this.settings.pattern;
+        this.showPattern(this.settings.pattern);
         this.form.control("sortUndatedName").text = this.settings.undatedName;
         this.form.chooseValue("sortUndated", this.settings.undated);
         this.form.control("sortKind").selectedSegment = sort.KINDS.indexOf(this.settings.kind);
@@ -114,14 +116,31 @@ export class SortPane extends Pane {
         this.setPattern(patternOf(levels[1] === "" ? levels.slice(0, 1) : levels));
     }
 
+    // A long pattern is shown from its beginning; tokens are still put behind it.
+    showPattern(pattern) {
+        const field = this.form.control("sortPattern");
+        const before = this.filling;
+        this.filling = true;
+        field.text = pattern;
+        field.cursorPosition = 0;
+        this.filling = before;
+        this.caret = pattern.length;
+    }
+
+    caretMoved(to) {
+        if (!this.filling) {
+            this.caret = to;
+        }
+    }
+
     setPattern(pattern) {
-        this.form.control("sortPattern").text = pattern;
+        this.showPattern(pattern);
         this.set("pattern", pattern);
     }
 
     insert(token) {
         const field = this.form.control("sortPattern");
-        const at = field.cursorPosition;
+        const at = this.caret;
         const text = field.text;
         this.setPattern(text.slice(0, at) + token + text.slice(at));
         field.setFocus();
@@ -187,6 +206,16 @@ export class SortPane extends Pane {
     /** Called with each plan of the whole list. */
     planned(plan) {
         this.tree.show(plan, this.window.livePlan.ids);
+    }
+
+    /** Called when a run begins: it works on the whole list, with what the files are now. */
+    starting() {
+        this.tree.showAll();
+        this.services.facts.forget();
+    }
+
+    runEnded() {
+        this.tree.lookAgain();
     }
 
     /** Called when another action takes the list. */

@@ -9,13 +9,13 @@ import { readyOf } from "../lib/move-plan.js";
 import { emptyTable, splitPath } from "../lib/names.js";
 import { count, fill, shortPath } from "../lib/wording.js";
 
-/** "240 files into 12 folders, 9 of them new". */
+/** "240 files into 12 folders · 9 new folders". */
 export function summaryText(ready, folders, fresh) {
     if (ready === 0) {
         return qsTr("No file will go anywhere.");
     }
     const words = fill(qsTr("%1 into %2"), count(ready, qsTr("1 file"), qsTr("%1 files")), count(folders, qsTr("1 folder"), qsTr("%1 folders")));
-    return fresh === 0 ? words + ", " + qsTr("none of them new") : fill(qsTr("%1, %2 of them new"), words, fresh);
+    return words + " · " + (fresh === 0 ? qsTr("no new folder") : count(fresh, qsTr("1 new folder"), qsTr("%1 new folders")));
 }
 
 function isWritten(item, plan) {
@@ -69,8 +69,9 @@ export class SortTree {
         this.tree = this.form.control("sortTree");
         this.book = null;
         this.ids = [];
+        this.rows = [];
         this.tree.folderChosen.connect(guard("tree", () => this.showChosen()));
-        this.form.control("sortShowAll").clicked.connect(guard("tree.all", () => { this.tree.chosen = ""; }));
+        this.form.control("sortShowAll").clicked.connect(guard("tree.all", () => this.showAll()));
     }
 
     /** Shows what a plan makes of the folders; ids are those of its rows. */
@@ -82,6 +83,7 @@ export class SortTree {
         this.book = book;
         this.ids = ids;
         const rows = treeRows(book);
+        this.rows = rows;
         rows.filter((row) => row.above === "").forEach((row) => { row.name = shortPath(row.path, files.home); });
         this.tree.setFolders(rows);
         this.showChosen();
@@ -101,9 +103,20 @@ export class SortTree {
         this.form.control(name).visible = text !== "";
     }
 
+    /** Folders were made or taken away. */
+    lookAgain() {
+        this.rows.forEach((row) => { row.isNew = !files.info(row.path).exists; });
+        this.tree.setFolders(this.rows);
+    }
+
+    showAll() {
+        this.tree.chosen = "";
+    }
+
     /** There is no plan, since something is wrong with the settings. */
     clear() {
         this.book = null;
+        this.rows = [];
         this.tree.setFolders([]);
         this.say("", []);
         this.showChosen();

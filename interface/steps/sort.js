@@ -43,9 +43,9 @@ export function baseOf(path, destination) {
     return destination.kind === "folder" ? destination.path : splitPath(path).folder;
 }
 
-function undatedNote(settings) {
-    return { folder: qsTr("no date taken"), created: qsTr("no date taken: sorted by the date of creation"),
-             changed: qsTr("no date taken: sorted by the date of change"), leave: qsTr("no date taken: stays") }[settings.undated];
+function undatedText(settings) {
+    return { folder: fill(qsTr("no date taken: “%1”"), settings.undatedName), created: qsTr("no date taken: by date created"),
+             changed: qsTr("no date taken: by date changed"), leave: qsTr("no date taken: stays") }[settings.undated];
 }
 
 function sizeOf(path, facts, services) {
@@ -58,10 +58,10 @@ function wish(path, node, sorted, settings, context) {
         return row({ status: "Skipped", reason: fill(qsTr("a file has the name of the folder: %1"), node.inTheWay) });
     }
     const file = splitPath(path);
-    const along = context.sidecars.of(path).map((other) => ({ from: joinPath(file.folder, other.name), to: joinPath(node.path, other.name),
-                                                              ending: other.ending }));
-    return row({ to: joinPath(node.path, file.name), kind: settings.kind, number: settings.ifTaken === "number", along: along,
-                 shown: sorted.folders.join("/"), notes: sorted.isUndated ? [undatedNote(settings)] : [] });
+    const along = context.sidecars.of(path)
+        .map((other) => ({ from: joinPath(file.folder, other.name), to: joinPath(node.path, other.name) }));
+    return row({ to: joinPath(node.path, file.name), kind: settings.kind, number: settings.ifTaken === "number",
+                 skips: settings.ifTaken === "skip", along: along, shown: sorted.folders.join("/"), caution: sorted.isUndated ? undatedText(settings) : "" });
 }
 
 function rowFor(path, index, settings, context) {
@@ -69,7 +69,7 @@ function rowFor(path, index, settings, context) {
     const facts = context.ready.needsFacts ? services.facts.of(path) : null;
     const sorted = foldersFor(context.ready, path, facts, settings, index);
     if (sorted.stays) {
-        return row({ status: "Skipped", reason: undatedNote(settings), shown: "–" });
+        return row({ status: "Skipped", reason: undatedText(settings), isLeft: true, shown: "–" });
     }
     const base = baseOf(path, settings.destination);
     const folder = splitPath(path).folder;

@@ -2,9 +2,13 @@
 
 #include "screen_tools.h"
 
+#include "app/window/folder_tree.h"
 #include "app/window/side_bar.h"
 #include "app/window/theme.h"
 #include "tests/support/web_server.h"
+
+#include "tests/support/dated_pictures.h"
+#include "tests/support/test_pictures.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -50,6 +54,50 @@ void showActions(WindowDriver &driver, const QString &folder, const QString &app
         driver.window().resize(1280, 720);
         saveScreen(driver, name + QStringLiteral("-small.png"));
     }
+}
+
+/** A copy of a sample with another date taken, or none, and another camera. */
+void stamped(const QString &from, const QString &to, const QString &date, const QString &model)
+{
+    QFile target(to);
+    if (target.open(QIODevice::WriteOnly))
+        target.write(pictures::stamped(pictures::bytesOf(from), date, model));
+}
+
+/** Pictures of a few days with two cameras, in a folder that has been sorted into once. */
+QString album(const QString &from, const QString &folder)
+{
+    const QString made = folder + QStringLiteral("/Holiday");
+    QDir().mkpath(made + QStringLiteral("/2026/2026-08-14"));
+    const QStringList names = {QStringLiteral("Evening ridge.jpg"), QStringLiteral("Lake in the morning.jpg"),
+                               QStringLiteral("Standing phone picture.jpg")};
+    for (int i = 0; i < 22; ++i) {
+        const int day = 14 + i * i / 90;
+        const QString date = i == 3 || i == 17 ? QString()
+                             : i < 3           ? QStringLiteral("2025:12:31 18:0%1:00").arg(i)
+                                               : QStringLiteral("2026:08:%1 10:%2:30").arg(day).arg(10 + i);
+        stamped(from + QLatin1Char('/') + names.at(i % 3), made + QStringLiteral("/IMG_%1.JPG").arg(2041 + i), date,
+                i % 5 == 0 ? QStringLiteral("Quorlin P2") : QStringLiteral("Quorlin X1"));
+    }
+    QFile sidecar(made + QStringLiteral("/IMG_2047.xmp"));
+    if (sidecar.open(QIODevice::WriteOnly))
+        sidecar.write("<x/>");
+    return made;
+}
+
+void showSorting(WindowDriver &driver, const QString &from, const QString &name)
+{
+    driver.trigger("clearAction");
+    driver.show("sort");
+    driver.drop({album(from, driver.folder())});
+    driver.window().resize(1440, 900);
+    save(driver, name + QStringLiteral(".png"));
+    driver.choose("preset", QStringLiteral("=By camera and day taken"));
+    settle(driver);
+    driver.control<window::FolderTree>("sortTree")->setChosen(driver.folder() + QStringLiteral("/Holiday/Quorlin P2"));
+    driver.window().resize(1280, 720);
+    save(driver, name + QStringLiteral("-small.png"));
+    driver.trigger("clearAction");
 }
 
 // What asks for something without a window of its own, and the preferences.
@@ -107,6 +155,8 @@ int main(int argc, char **argv)
         driver.choose("preset", QStringLiteral("=Web 1600"));
         saveScreen(driver, name + QStringLiteral(".png"));
         showActions(driver, folder, QString::fromLatin1(appearance));
+        showSorting(driver, from, folder + QStringLiteral("/sort-") + QLatin1String(appearance));
+        driver.drop({driver.folder() + QStringLiteral("/Pictures")});
         showAsking(driver, name);
         showHelp(driver, name);
         driver.show("resize");

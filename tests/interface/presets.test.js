@@ -7,11 +7,12 @@ import { KINDS, newStep } from "../../interface/lib/name-steps.js";
 import { defaults as rename } from "../../interface/steps/rename.js";
 import { defaults as resize } from "../../interface/steps/resize.js";
 import { defaults as round } from "../../interface/steps/round.js";
+import { defaults as sort } from "../../interface/steps/sort.js";
 import { defaults as turn } from "../../interface/steps/turn.js";
 import { dbViewController } from "quorlin";
 import { equal, finish, isTrue, test } from "./check.js";
 
-const STANDARD = { background: background, convert: convert, crop: crop, rename: rename, resize: resize, round: round, turn: turn };
+const STANDARD = { background: background, convert: convert, crop: crop, rename: rename, resize: resize, round: round, sort: sort, turn: turn };
 const ACTIONS = Object.keys(STANDARD);
 const TEXTS = [
     "", " ", "plain", "it's", "a|b", "100 %", "%27", "%u0041", "%", "%%", "Größe – “x”", "日本語", "🙂🏔️", "e\u0301", "\ud83d", "\ude42x", "a\nb\tc\r",

@@ -1,6 +1,7 @@
 import * as sort from "../../interface/steps/sort.js";
 import { treeRows } from "../../interface/lib/folder-tree.js";
 import { KnownFacts } from "../../interface/lib/known-facts.js";
+import { stateOf } from "../../interface/lib/move-words.js";
 import { equal, finish, isTrue, test } from "./check.js";
 import { FakeFiles } from "./fakes.js";
 
@@ -49,20 +50,22 @@ test("sortsIntoAChosenFolder", () => {
 });
 
 const UNDATED = [
-    ["folder", "/in/Undated/a.jpg", "no date taken"], ["created", "/in/2020/2020-01-01/a.jpg", "date of creation"],
-    ["changed", "/in/2021/2021-01-01/a.jpg", "date of change"],
+    ["folder", "/in/Undated/a.jpg", "no date taken: “Undated”"], ["created", "/in/2020/2020-01-01/a.jpg", "no date taken: by date created"],
+    ["changed", "/in/2021/2021-01-01/a.jpg", "no date taken: by date changed"],
 ];
 for (const row of UNDATED) {
     test("has a rule for undated files: " + row[0], () => {
         const rows = rowsOf({ "/in/a.jpg": "" }, { undated: row[0] });
         equal(paths(rows), [row[1]]);
-        isTrue(rows[0].notes[0].indexOf(row[2]) >= 0, rows[0].notes[0]);
+        equal(rows[0].caution, row[2]);
     });
 }
 
 test("leavesUndatedFilesWithTheReason", () => {
     const rows = rowsOf({ "/in/a.jpg": "", "/in/b.jpg": DAY }, { undated: "leave" });
     equal([rows[0].to, rows[0].status, rows[0].reason], ["", "Skipped", "no date taken: stays"]);
+    const state = stateOf(rows[0], null, "");
+    equal([state.state, state.kind, state.text], ["same", "caution", "no date taken: stays"]);
     equal(rows[1].to, "/in/2026/2026-08-14/b.jpg");
 });
 
@@ -73,8 +76,17 @@ test("leavesFilesThatLieRightAlready", () => {
 
 test("takesSidecarsAlong", () => {
     const rows = rowsOf({ "/in/a.jpg": DAY, "/in/a.png": DAY }, {}, { "/in/a.xmp": 1, "/in/a.png.xmp": 1 });
-    equal(rows[0].along, [{ from: "/in/a.xmp", to: "/in/2026/2026-08-14/a.xmp", ending: ".xmp" }]);
-    equal(rows[1].along, [{ from: "/in/a.png.xmp", to: "/in/2026/2026-08-14/a.png.xmp", ending: ".png.xmp" }]);
+    equal(rows[0].along, [{ from: "/in/a.xmp", to: "/in/2026/2026-08-14/a.xmp" }]);
+    equal(rows[1].along, [{ from: "/in/a.png.xmp", to: "/in/2026/2026-08-14/a.png.xmp" }]);
+});
+
+test("staysWhereNamesAreTakenIfThatIsTheRule", () => {
+    const dates = { "/in/a.jpg": DAY };
+    const item = { status: "refused", code: "taken", other: "/in/2026/2026-08-14/a.jpg", to: "/in/2026/2026-08-14/a.jpg" };
+    const skipping = stateOf(rowsOf(dates, { ifTaken: "skip" })[0], item, "");
+    equal([skipping.state, skipping.kind, skipping.text], ["same", "caution", "stays: a file of this name is there"]);
+    equal(stateOf(rowsOf(dates, { ifTaken: "skip" })[0], Object.assign({}, item, { code: "locked" }), "").state, "attention");
+    equal(stateOf(rowsOf(dates, { ifTaken: "number" })[0], item, "").state, "attention");
 });
 
 test("tellsAFileThatHasTheNameOfAFolder", () => {

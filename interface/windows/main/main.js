@@ -386,6 +386,7 @@ export function openMainWindow() {
     window.form.onClose(guard("close", () => mayClose(window)));
     window.form.setSplit("bodySplitter", [196, 884, 346]);
     window.form.setSplit("centreSplitter", [560, 300]);
+    window.form.setSplit("listSplitter", [600, 284]);
     window.form.remember("MainWindow");
     shell.setMainForm(window.form);
     showTitle(window);

@@ -38,8 +38,17 @@ export class MoveRun extends BaseRun {
         this.last = null;
     }
 
+    // The pane may want to know when a run begins and ends.
+    tellPane(deed) {
+        const pane = this.window.pane;
+        if (pane !== null && pane[deed] !== undefined) {
+            pane[deed]();
+        }
+    }
+
     start() {
         const window = this.window;
+        this.tellPane("starting");
         this.startPlanning(window.pictures.ids());
         this.title = window.action.title();
         this.undoes = "";
@@ -173,6 +182,7 @@ export class MoveRun extends BaseRun {
         this.rowAt = null;
         this.window.planned = {};
         this.finish([this.summaryText(how)].concat(told).join(" · "));
+        this.tellPane("runEnded");
         this.window.reloadPreview();
     }
 
