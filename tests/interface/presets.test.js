@@ -238,7 +238,11 @@ test("comesBackFromTheDatabase", () => {
         const odd = "/Bilder/Anna's 100 % | 🙂/\u0001";
         if (settings.output === undefined) {
             settings.simulation = true;
-            settings.steps = [newStep("replace", { search: odd }), newStep("case")];
+            if (settings.steps === undefined) {
+                settings.destination.path = odd;
+            } else {
+                settings.steps = [newStep("replace", { search: odd }), newStep("case")];
+            }
         } else {
             settings.output.destination.path = odd;
             settings.output.simulation = true;
