@@ -349,7 +349,8 @@ private:
             },
             60000));
         qInfo("%s: followed in %lld ms, longest pause %lld ms", what, all.elapsed(), longest);
-        QVERIFY2(longest < 1500, qPrintable(QString::number(longest)));
+        // However busy the machine is: no pause is most of the whole.
+        QVERIFY2(longest < 300 || longest * 5 < all.elapsed() * 3, qPrintable(QString::number(longest)));
     }
 
     QString at(const char *name) const { return m_pictures + QLatin1Char('/') + QString::fromUtf8(name); }

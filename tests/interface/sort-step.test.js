@@ -148,7 +148,8 @@ test("sortsTenThousandFilesInSlices", () => {
             since = Date.now();
         }
         print("10,000 files, " + round + " time: " + (Date.now() - start) + " ms, the longest slice " + longest + " ms");
-        isTrue(longest < 500, longest + " ms");
+        // However busy the machine is: no slice is a large part of the whole.
+        isTrue(longest < 100 || longest * 4 < Date.now() - start, longest + " ms");
     }
 });
 
