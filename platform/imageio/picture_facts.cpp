@@ -195,6 +195,20 @@ std::optional<PictureFacts> factsOfJpeg(QIODevice &file)
     return facts;
 }
 
+bool isNamedTiff(const QString &path)
+{
+    const QString ending = QFileInfo(path).suffix().toLower();
+    return ending == QLatin1String("tif") || ending == QLatin1String("tiff");
+}
+
+/** The raw files of most cameras are TIFF files by another name, whose picture no decoder here reads. */
+PictureFacts factsOfRawFile(QIODevice &file)
+{
+    PictureFacts facts;
+    takeExif(facts, readExifTags(file));
+    return facts.camera.isEmpty() ? PictureFacts() : facts;
+}
+
 } // namespace
 
 PictureFacts pictureFacts(const QString &path)
@@ -209,7 +223,7 @@ PictureFacts pictureFacts(const QString &path)
         return *known;
     const auto source = ImageSource::open(path);
     if (!source)
-        return {};
+        return content == Content::Tiff && !isNamedTiff(path) ? factsOfRawFile(file) : PictureFacts();
     PictureFacts facts;
     facts.pixels = source->uprightSize();
     facts.typeIdentifier = source->typeIdentifier();

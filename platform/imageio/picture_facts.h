@@ -18,7 +18,8 @@ struct PictureFacts
 
 /**
  * Reads the header of the file at @p path; a fraction of a millisecond for a JPEG of any size. A file that is no picture, is
- * cut short or damaged has no facts.
+ * cut short or damaged has no facts. Of a camera's raw file whose picture cannot be decoded, what it states is known and its
+ * size is not.
  *
  * taken is the EXIF original date, else the date of scanning, else the TIFF date, else the date in XMP; a date that no
  * calendar knows ("0000:00:00 00:00:00") counts as none, a time that no clock knows as midnight.

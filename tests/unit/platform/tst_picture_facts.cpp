@@ -245,6 +245,18 @@ private Q_SLOTS:
         QVERIFY(!factsOf(bytes).taken.isValid());
     }
 
+    void readsTheTagsOfRawFilesAndOfNothingElseThatCannotBeDecoded()
+    {
+        const QByteArray block = exifBlock({{modelTag, "EOS 5"}, {originalTag, "2001:01:01 01:01:01"}});
+        const auto taken = [this](const char *name, const QByteArray &bytes) {
+            m_folder.write(QString::fromLatin1(name), bytes);
+            return textOf(pictureFacts(m_folder.path(name)).taken);
+        };
+        QCOMPARE(taken("a.CR2", block), QStringLiteral("2001-01-01 01:01:01"));
+        QCOMPARE(taken("a.tif", block), QString());
+        QCOMPARE(taken("b.nef", exifBlock({{originalTag, "2001:01:01 01:01:01"}})), QString());
+    }
+
     /** What is read in haste is what the reader of all metadata finds. */
     void agreesWithTheReaderOfAllMetadata()
     {
