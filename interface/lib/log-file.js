@@ -30,14 +30,18 @@ export function logPath(files) {
 
 /** Adds rows to the log; returns a message if that failed. The oldest go when the log has grown too large. */
 export function keepRows(files, rows) {
-    if (rows.length === 0) {
-        return "";
-    }
-    const path = logPath(files);
-    const problem = files.appendLines(path, rows.map((row) => JSON.stringify(row)).join("\n") + "\n");
+    return appendRows(files, rows) || (rows.length === 0 ? "" : trimRows(files));
+}
+
+/** Adds rows to the log and lets it grow: for rows that come one by one, until trimRows() is called. */
+export function appendRows(files, rows) {
+    return rows.length === 0 ? "" : files.appendLines(logPath(files), rows.map((row) => JSON.stringify(row)).join("\n") + "\n");
+}
+
+/** Takes the oldest rows away when there are too many; returns a message if that failed. */
+export function trimRows(files) {
     const limit = Math.round(mostRows * (1 + SLACK));
-    const mayBeLarge = problem === "" && files.info(path).bytes > limit * SHORTEST_ROW;
-    return mayBeLarge ? files.keepNewestLines(path, mostRows, limit) : problem;
+    return files.info(logPath(files)).bytes > limit * SHORTEST_ROW ? files.keepNewestLines(logPath(files), mostRows, limit) : "";
 }
 
 /** Takes all rows away; returns a message if that failed. */

@@ -1,4 +1,4 @@
-import { clearRows, keepRows, KEPT_ROWS, newRunName } from "../../interface/lib/log-file.js";
+import { appendRows, clearRows, keepRows, KEPT_ROWS, newRunName, trimRows } from "../../interface/lib/log-file.js";
 import { clockText, costOf, Progress } from "../../interface/lib/progress.js";
 import { csvLines, logRow, summaryOf, toCsv } from "../../interface/lib/report.js";
 import { recall, withNewest } from "../../interface/lib/store.js";
@@ -50,6 +50,16 @@ test("cutsTheLogBackToTheNewestRowsWhenItHasGrownBeyondThem", () => {
     const lines = files.texts["/data/log.jsonl"].split("\n");
     equal(lines.length, KEPT_ROWS + 1);
     equal(JSON.parse(lines[KEPT_ROWS - 1]).run, "one");
+});
+
+test("rowsThatComeOneByOneLetTheLogGrowUntilItIsTrimmed", () => {
+    const files = new FakeFiles({});
+    const row = logRow(done, "Sort by Hand", "Move to Lake", "2026-11-21T10:00:00.000Z", "one");
+    files.texts["/data/log.jsonl"] = (JSON.stringify(row) + "\n").repeat(KEPT_ROWS + 10000);
+    appendRows(files, [row]);
+    equal(files.texts["/data/log.jsonl"].split("\n").length, KEPT_ROWS + 10002);
+    equal(trimRows(files), "");
+    equal(files.texts["/data/log.jsonl"].split("\n").length, KEPT_ROWS + 1);
 });
 
 test("givesEachRunANameOfItsOwn", () => equal(newRunName() === newRunName(), false));

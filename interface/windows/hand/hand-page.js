@@ -5,7 +5,7 @@ import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { deedWords, HandSorting, TRASH } from "../../lib/hand-sorting.js";
 import { slotProblem } from "../../lib/hand-slots.js";
-import { keepRows } from "../../lib/log-file.js";
+import { appendRows, trimRows } from "../../lib/log-file.js";
 import { Sidecars } from "../../lib/sidecars.js";
 import { count, fill } from "../../lib/wording.js";
 import { shell } from "quorlin/shell";
@@ -44,7 +44,7 @@ export class HandPage {
 
     show() {
         this.shown = true;
-        this.sorting = new HandSorting(this.window.services.moves, (path) => new Sidecars(files).of(path), (rows) => keepRows(files, rows));
+        this.sorting = new HandSorting(this.window.services.moves, (path) => new Sidecars(files).of(path), (rows) => appendRows(files, rows));
         this.window.pane.use((folder) => this.sorting.countIn(folder), (slot, row) => this.put(slot, row));
         this.showCurrent();
     }
@@ -66,7 +66,7 @@ export class HandPage {
             return;
         }
         const trashed = this.sorting.decided().filter((id) => this.sorting.isTrashed({ id: id }));
-        const problem = this.sorting.end() || this.sorting.logProblem;
+        const problem = this.sorting.end() || this.sorting.logProblem || trimRows(files);
         this.list.removeIds(trashed);
         this.window.pane.showSlots();
         if (problem) {
