@@ -1,9 +1,11 @@
 #include "app/window/print_dialog.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 
 namespace window {
 
@@ -13,6 +15,10 @@ std::shared_ptr<QPrinter> printerFor(const QPageLayout &page)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     printer->setCreator(QStringLiteral("Quorlin"));
+    printer->setDocName(QStringLiteral("Quorlin")); // what print queues show
+    // Without a printer the dialog prints into a file, and wants to be told the name of one.
+    if (QPrinterInfo::availablePrinterNames().isEmpty())
+        printer->setOutputFileName(QDir::homePath() + QStringLiteral("/Quorlin.pdf"));
     printer->setPageLayout(page);
     printer->setFullPage(true);
     return printer;
