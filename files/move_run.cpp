@@ -81,12 +81,12 @@ RunRecord newRecord(const QString &title)
     return record;
 }
 
-/** Keeps the journals of the last runs; those that are not ended stay. */
+/** Keeps the journals of the last runs, with the one that is about to begin; those that are not ended stay. */
 void discardOld(JournalShelf &shelf)
 {
     constexpr qsizetype mostJournals = 200;
     const QStringList names = shelf.names();
-    for (qsizetype i = mostJournals; i < names.size(); ++i)
+    for (qsizetype i = mostJournals - 1; i < names.size(); ++i)
         if (!summaryOf(shelf.ends(names[i])).end.isEmpty())
             shelf.remove(names[i]);
 }

@@ -1,6 +1,9 @@
 #include "files/move_undo.h"
 
+#include "files/move_names.h"
 #include "files/move_paths.h"
+
+#include "platform/foundation/paths.h"
 
 #include <QHash>
 
@@ -71,16 +74,24 @@ bool leavesPlace(const MoveItem &deed)
     return deed.deed != Deed::Copy && deed.deed != Deed::Link;
 }
 
+QString keyOf(const QString &path)
+{
+    return placeKey(platform::parentFolder(path), platform::lastPathComponent(path));
+}
+
 /** Leaves out what wants a place that something else keeps, and then what wanted the place of that. */
 void leaveOutHindered(const platform::FileSystem &disk, std::vector<MoveItem> &deeds,
                       std::vector<UndoProblem> &problems)
 {
     QHash<QString, int> leaving;
+    QHash<QString, int> similar; // on a disk that does not tell cases apart
     QHash<QString, int> taking;
     std::vector<int> questions;
     for (int i = 0; i < int(deeds.size()); ++i) {
-        if (leavesPlace(deeds[size_t(i)]))
+        if (leavesPlace(deeds[size_t(i)])) {
             leaving.insert(deeds[size_t(i)].from, i);
+            similar.insert(keyOf(deeds[size_t(i)].from), i);
+        }
         if (takesPlace(deeds[size_t(i)])) {
             taking.insert(deeds[size_t(i)].to, i);
             questions.push_back(i);
@@ -91,7 +102,7 @@ void leaveOutHindered(const platform::FileSystem &disk, std::vector<MoveItem> &d
         const int i = questions.back();
         questions.pop_back();
         const MoveItem &deed = deeds[size_t(i)];
-        const int leaver = leaving.value(deed.to, -1);
+        const int leaver = leaving.value(deed.to, similar.value(keyOf(deed.to), -1));
         const auto there = isOut[size_t(i)] ? std::nullopt : disk.look(deed.to);
         const auto own = there && deed.deed == Deed::Move ? disk.look(deed.from) : std::nullopt;
         const bool isItself = own && isSameItem(*there, *own);
