@@ -61,6 +61,7 @@ QString typeWord(const QString &typeIdentifier)
         {QStringLiteral("org.webmproject.webp"), QStringLiteral("WebP")},
         {QStringLiteral("public.avif"), QStringLiteral("AVIF")},
         {QStringLiteral("public.svg-image"), QStringLiteral("SVG")},
+        {QStringLiteral("public.camera-raw-image"), QStringLiteral("RAW")},
         {QStringLiteral("public.plain-text"), QStringLiteral("Text")},
         {QStringLiteral("public.html"), QStringLiteral("HTML")},
         {QStringLiteral("public.folder"), QStringLiteral("Folder")},

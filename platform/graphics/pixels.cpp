@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <malloc.h>
 
 namespace platform {
 namespace {
@@ -37,6 +38,20 @@ bool profileFits(const VImage &image)
     }
 }
 
+/**
+ * Keeps the memory of one picture for the next. Otherwise the system takes every large buffer back and hands it out again
+ * page by page, which costs as much time as writing the file.
+ */
+void keepMemoryForNextPicture()
+{
+#ifdef __GLIBC__
+    constexpr int noBufferIsLargeEnough = 1 << 30;
+    constexpr int mostKept = 256 << 20;
+    mallopt(M_MMAP_THRESHOLD, noBufferIsLargeEnough);
+    mallopt(M_TRIM_THRESHOLD, mostKept);
+#endif
+}
+
 void dropMetadata(VImage &image)
 {
     const bool keepProfile = profileFits(image);
@@ -59,6 +74,7 @@ void initVips()
                           ignoreMessage, nullptr);
         if (VIPS_INIT("quorlin") != 0)
             return false;
+        keepMemoryForNextPicture();
         // A file that was replaced must not be answered from memory.
         vips_cache_set_max(0);
         return true;

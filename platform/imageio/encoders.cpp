@@ -1,8 +1,5 @@
 #include "platform/imageio/encoders.h"
 
-#include <QBuffer>
-#include <QImageWriter>
-
 #include <cmath>
 #include <cstring>
 
@@ -75,6 +72,8 @@ VImage preparedFor(const FormatAbilities &abilities, const VImage &image)
 
 QByteArray encodeTiff(const VImage &image, Resolution resolution)
 {
+    if (const QByteArray plain = encodePlainTiff(image, resolution); !plain.isEmpty())
+        return plain;
     // Lab is worked on in floating point; files that others can read keep it in 8 bits.
     const VImage kept = image.interpretation() == VIPS_INTERPRETATION_LAB ? image.Lab2LabQ() : image;
     return bytesOf(withResolution(kept, resolution)
@@ -94,20 +93,6 @@ QByteArray encodeJpeg2000(const VImage &image)
     constexpr int visuallyLossless = 60;
     return bytesOf(image.jp2ksave_buffer(
         VImage::option()->set("Q", visuallyLossless)->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));
-}
-
-QByteArray encodeBmp(const VImage &image, Resolution resolution)
-{
-    QImage rows = qImageFrom(image);
-    constexpr double metresPerInch = 0.0254;
-    const double dpi = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
-    rows.setDotsPerMeterX(int(std::lround(dpi / metresPerInch)));
-    rows.setDotsPerMeterY(int(std::lround(dpi / metresPerInch)));
-    QBuffer buffer;
-    QImageWriter writer(&buffer, "bmp");
-    if (rows.isNull() || !writer.write(rows))
-        throw vips::VError(writer.errorString().toStdString());
-    return buffer.data();
 }
 
 } // namespace platform

@@ -37,6 +37,8 @@ Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &set
 /** These throw vips::VError. */
 QByteArray encodePng(const vips::VImage &image, Resolution resolution);
 QByteArray encodeTiff(const vips::VImage &image, Resolution resolution);
+/** As encodeTiff(), for grey, RGB and CMYK of 8 or 16 bits only, which it does without any detour; empty for others. */
+QByteArray encodePlainTiff(const vips::VImage &image, Resolution resolution);
 QByteArray encodeGif(const vips::VImage &image);
 QByteArray encodeJpeg2000(const vips::VImage &image);
 QByteArray encodeBmp(const vips::VImage &image, Resolution resolution);

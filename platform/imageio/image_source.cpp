@@ -2,11 +2,13 @@
 
 #include "platform/graphics/resample.h"
 #include "platform/imageio/opened_file.h"
+#include "platform/imageio/raw_preview.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
 #include <cmath>
+#include <utility>
 
 namespace platform {
 
@@ -97,6 +99,8 @@ Result<void> readHeader(File &file)
         return tooLarge(file.name(), file.storedSize);
     file.imageCount = pagesOf(image, file.content);
     file.orientation = statedOrientation(image, file.bytes, file.content);
+    if (file.isRaw() && file.orientation == 1) // the preview lies as the sensor does, and only the raw file says how
+        file.orientation = std::max(1, file.metadata().orientation());
     return {};
 }
 
@@ -107,6 +111,16 @@ bool isSoundJpeg(QIODevice &device)
         return false;
     const std::optional<JpegHeader> header = readJpegHeader(device);
     return header && fitsMemoryBudget(header->size.width(), header->size.height(), header->componentCount, 1);
+}
+
+/** Puts the preview of a raw file in its place; nothing changes where there is none. */
+void usePreview(File &file)
+{
+    const QByteArray preview = rawPreview(file.bytes);
+    if (preview.isEmpty())
+        return;
+    file.raw = std::exchange(file.bytes, {{}, preview});
+    file.content = Content::Jpeg;
 }
 
 Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
@@ -120,11 +134,15 @@ Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
                        text("Cannot read %1: %2")
                            .arg(file->name(), exists ? text("no permission") : text("there is no such file")));
     }
-    file->content = contentOf(device->read(contentHeadBytes));
+    const QByteArray head = device->read(contentHeadBytes);
+    file->content = contentOf(head);
+    if (isCameraRaw(head))
+        usePreview(*file);
     if (file->content == Content::Unknown)
         return failure(ErrorCode::NotAPicture,
                        text("Cannot read %1: %2").arg(file->name(), text("this is not a picture")));
-    if (!endIsThere(*device, file->content))
+    const std::unique_ptr<QIODevice> decoded = file->isRaw() ? file->bytes.device() : nullptr;
+    if (!endIsThere(decoded ? *decoded : *device, file->content))
         return unreadable(file->name(), text("the file is cut short"));
     try {
         const Result<void> known = hasPlainHeader(file->content) ? readPlainHeader(*file) : readHeader(*file);
@@ -220,12 +238,14 @@ bool ImageSource::canOpen(const QString &path)
 
 QString ImageSource::path() const
 {
-    return m_file ? m_file->bytes.path : QString();
+    return m_file ? m_file->path() : QString();
 }
 
 QString ImageSource::typeIdentifier() const
 {
-    return m_file ? typeIdentifierOf(m_file->content) : QString();
+    if (!m_file)
+        return {};
+    return m_file->isRaw() ? QStringLiteral("public.camera-raw-image") : typeIdentifierOf(m_file->content);
 }
 
 int ImageSource::imageCount() const
@@ -250,7 +270,7 @@ int ImageSource::orientation() const
 
 Metadata ImageSource::metadata() const
 {
-    return m_file ? metadataOf(m_file->bytes, m_file->content) : Metadata();
+    return m_file ? m_file->metadata() : Metadata();
 }
 
 Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const

@@ -64,6 +64,11 @@ QByteArray jpegHead(QIODevice &device)
 
 } // namespace
 
+Metadata ImageSource::File::metadata() const
+{
+    return isRaw() ? metadataOf(raw, Content::Tiff) : metadataOf(bytes, content);
+}
+
 Metadata metadataOf(const PictureBytes &bytes, Content content)
 {
     switch (content) {

@@ -11,13 +11,19 @@ namespace platform {
 struct ImageSource::File
 {
     PictureBytes bytes;
+    /** The raw file of a camera whose preview the bytes are; empty for all other pictures. */
+    PictureBytes raw;
     Content content = Content::Unknown;
     QSize storedSize;
     int imageCount = 1;
     int orientation = 1;
 
     /** How messages name the file. */
-    QString name() const { return bytes.path.isEmpty() ? QStringLiteral("the data") : bytes.path; }
+    QString name() const { return path().isEmpty() ? QStringLiteral("the data") : path(); }
+    bool isRaw() const { return !raw.path.isEmpty() || !raw.bytes.isEmpty(); }
+    QString path() const { return isRaw() ? raw.path : bytes.path; }
+    /** What the file says of the picture; of a raw file, what the camera wrote there and not into the preview. */
+    Metadata metadata() const;
 };
 
 /** The metadata of a file of known content. */

@@ -7,6 +7,7 @@
 
 #include <QRegularExpression>
 #include <QTest>
+#include <QtEndian>
 
 #include <sys/inotify.h>
 
@@ -50,6 +51,41 @@ QByteArray entryOf(const QByteArray &pdf, const char *name)
 bool statesSize(const QString &tag)
 {
     return tag.contains(QLatin1String("Pixel")) || tag.startsWith(QLatin1String("tiff:Image"));
+}
+
+/** One entry of a directory, low byte first. */
+QByteArray tiffEntry(quint16 tag, quint16 type, quint32 count, quint32 value)
+{
+    QByteArray entry(12, '\0');
+    qToLittleEndian<quint16>(tag, entry.data());
+    qToLittleEndian<quint16>(type, entry.data() + 2);
+    qToLittleEndian<quint32>(count, entry.data() + 4);
+    qToLittleEndian<quint32>(value, entry.data() + 8);
+    return entry;
+}
+
+QByteArray tiffDirectory(const QByteArrayList &entries)
+{
+    QByteArray count(2, '\0');
+    qToLittleEndian<quint16>(quint16(entries.size()), count.data());
+    return count + entries.join() + QByteArray(4, '\0');
+}
+
+/** A raw file as cameras write it, with no sensor data, and with a preview if there is one. */
+QByteArray rawFileWith(const QByteArray &preview, quint16 orientation)
+{
+    constexpr quint16 shortType = 3;
+    constexpr quint16 longType = 4;
+    constexpr quint32 firstAt = 8;
+    constexpr quint32 secondAt = firstAt + 2 + 4 * 12 + 4;
+    constexpr quint32 previewAt = secondAt + 2 + 4 * 12 + 4;
+    QByteArray file("II*\0\x08\0\0\0", 8);
+    file += tiffDirectory({tiffEntry(0x00fe, longType, 1, 1), tiffEntry(0x0112, shortType, 1, orientation),
+                           tiffEntry(0x014a, longType, 1, secondAt), tiffEntry(0xc612, 1, 4, 0x00000401)});
+    const quint32 size = quint32(preview.size());
+    file += tiffDirectory({tiffEntry(0x00fe, longType, 1, 1), tiffEntry(0x0103, shortType, 1, 6),
+                           tiffEntry(0x0201, longType, 1, previewAt), tiffEntry(0x0202, longType, 1, size)});
+    return file + preview;
 }
 
 /** What is renamed into a folder, in order, from when it is made. */
@@ -110,6 +146,9 @@ private Q_SLOTS:
     void keepsMetadataInPngAndTiffOnly();
     void keepsWhatAPngSays();
     void takesTheFirstOfSeveral();
+    void convertsThePreviewOfARawFile();
+    void writesPlainTiffsThatOthersRead_data();
+    void writesPlainTiffsThatOthersRead();
 
 private:
     QString at(const char *name) const { return m_home->path(name); }
@@ -411,6 +450,62 @@ void TestConvertType::takesTheFirstOfSeveral()
             convert(corpus(name), type, "made");
             QCOMPARE(ImageSource::open(at("made"))->imageCount(), 1);
         }
+    }
+}
+
+void TestConvertType::convertsThePreviewOfARawFile()
+{
+    const QByteArray preview = pictures::bytesOf(QStringLiteral(QUORLIN_TEST_DATA "/jpeg/odd-size.jpg"));
+    QVERIFY(m_home->write("camera.dng", rawFileWith(preview, 6)));
+    const auto source = ImageSource::open(at("camera.dng"));
+    QVERIFY2(source, source ? "" : qPrintable(source.error().message));
+    QCOMPARE(source->typeIdentifier(), QStringLiteral("public.camera-raw-image"));
+    QCOMPARE(source->path(), at("camera.dng"));
+    const QSize stored = ImageSource::fromData(preview)->storedSize();
+    QCOMPARE(source->storedSize(), stored);
+    QCOMPARE(source->uprightSize(), stored.transposed());
+    convert(at("camera.dng"), "bmp", "made.bmp");
+    QCOMPARE(ImageSource::open(at("made.bmp"))->storedSize(), stored.transposed());
+    convert(at("camera.dng"), "png", "made.png");
+    const auto made = ImageSource::open(at("made.png"));
+    QCOMPARE(made->storedSize(), stored);
+    QCOMPARE(made->orientation(), 6);
+    // Sensor data without a preview is not taken for a picture.
+    QVERIFY(m_home->write("bare.dng", rawFileWith({}, 1)));
+    convert(at("bare.dng"), "png", "bare.png");
+    QVERIFY(!m_home->isThere("bare.png"));
+}
+
+void TestConvertType::writesPlainTiffsThatOthersRead_data()
+{
+    QTest::addColumn<QImage::Format>("format");
+    QTest::addColumn<QSize>("size");
+    const QList<QSize> sizes = {{1, 1}, {3, 129}, {301, 128}, {7, 300}};
+    for (const QSize size : sizes)
+        for (const QImage::Format format : {QImage::Format_Grayscale8, QImage::Format_Grayscale16,
+                                            QImage::Format_RGB888, QImage::Format_RGBA8888, QImage::Format_RGBA64})
+            QTest::addRow("%d x %d, %d", size.width(), size.height(), int(format)) << format << size;
+}
+
+void TestConvertType::writesPlainTiffsThatOthersRead()
+{
+    QFETCH(QImage::Format, format);
+    QFETCH(QSize, size);
+    QImage picture = pictures::gradient(size.width(), size.height()).convertToFormat(format);
+    if (picture.hasAlphaChannel())
+        picture.setPixelColor(0, 0, QColor(200, 100, 50, 128));
+    QVERIFY(picture.save(at("in.png")));
+    for (const char *type : {"tiff", "bmp"}) {
+        convert(at("in.png"), type, "out");
+        const QImage again(at("out"), type); // the toolkit's own reader
+        QCOMPARE(again.size(), size);
+        const QPoint last(size.width() - 1, size.height() - 1);
+        const bool isBlackened = QByteArray(type) == "bmp" && last == QPoint(0, 0) && picture.hasAlphaChannel();
+        const QColor expected = isBlackened ? QColor(100, 50, 25) : picture.pixelColor(last);
+        const QColor found = again.pixelColor(last);
+        QVERIFY2(std::abs(found.red() - expected.red()) <= 1 && std::abs(found.blue() - expected.blue()) <= 1, type);
+        if (QByteArray(type) == "tiff")
+            QCOMPARE(decoded(at("out")).toRawImage(), decoded(at("in.png")).toRawImage());
     }
 }
 

@@ -1,0 +1,190 @@
+#include "platform/imageio/encoders.h"
+
+#include <QtEndian>
+
+#include <cmath>
+#include <limits>
+
+namespace platform {
+namespace {
+
+enum class Type : quint16 { Short = 3, Long = 4, Fraction = 5, Undefined = 7 };
+
+constexpr int rowsPerStrip = 128;
+
+template<typename T> void append(QByteArray &bytes, T number)
+{
+    char text[sizeof number];
+    qToLittleEndian<T>(number, text);
+    bytes.append(text, sizeof number);
+}
+
+/** The one directory of a file, whose longer values are put behind the pixels. Low bytes come first. */
+class Directory
+{
+public:
+    explicit Directory(QByteArray &file) : m_file(file) {}
+
+    void add(quint16 tag, Type type, quint32 count, QByteArray value)
+    {
+        append(m_entries, tag);
+        append(m_entries, quint16(type));
+        append(m_entries, count);
+        constexpr int fieldSize = 4;
+        if (value.size() > fieldSize) {
+            if (m_file.size() % 2 != 0)
+                m_file.append('\0');
+            const auto at = quint32(m_file.size());
+            m_file.append(value);
+            value.clear();
+            append(value, at);
+        }
+        m_entries.append(value.leftJustified(fieldSize, '\0'));
+        ++m_count;
+    }
+    void add(quint16 tag, quint16 value) { addShorts(tag, {value}); }
+    void addShorts(quint16 tag, const QList<quint16> &values)
+    {
+        QByteArray bytes;
+        for (const quint16 value : values)
+            append(bytes, value);
+        add(tag, Type::Short, quint32(values.size()), bytes);
+    }
+    void addLongs(quint16 tag, const QList<quint32> &values)
+    {
+        QByteArray bytes;
+        for (const quint32 value : values)
+            append(bytes, value);
+        add(tag, Type::Long, quint32(values.size()), bytes);
+    }
+    void addFraction(quint16 tag, double value)
+    {
+        constexpr quint32 parts = 10000;
+        QByteArray bytes;
+        append(bytes, quint32(std::lround(value * parts)));
+        append(bytes, parts);
+        add(tag, Type::Fraction, 1, bytes);
+    }
+
+    /** Puts the directory at the end of the file and its place into the header. */
+    void finish()
+    {
+        if (m_file.size() % 2 != 0)
+            m_file.append('\0');
+        constexpr int placeInHeader = 4;
+        qToLittleEndian<quint32>(quint32(m_file.size()), m_file.data() + placeInHeader);
+        append(m_file, m_count);
+        m_file.append(m_entries);
+        append(m_file, quint32(0));
+    }
+
+private:
+    QByteArray &m_file;
+    QByteArray m_entries;
+    quint16 m_count = 0;
+};
+
+struct Strips
+{
+    QList<quint32> offsets;
+    QList<quint32> sizes;
+};
+
+Strips stripsOf(const vips::VImage &image, quint32 start)
+{
+    Strips strips;
+    const auto rowBytes = quint32(VIPS_IMAGE_SIZEOF_LINE(image.get_image()));
+    for (int y = 0; y < image.height(); y += rowsPerStrip) {
+        strips.offsets.append(start + rowBytes * quint32(y));
+        strips.sizes.append(rowBytes * quint32(std::min(rowsPerStrip, image.height() - y)));
+    }
+    return strips;
+}
+
+void addProfile(Directory &directory, const vips::VImage &image)
+{
+    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
+        return;
+    size_t length = 0;
+    const auto *profile = static_cast<const char *>(image.get_blob(VIPS_META_ICC_NAME, &length));
+    directory.add(0x8773, Type::Undefined, quint32(length), QByteArray(profile, qsizetype(length)));
+}
+
+struct ColourModel
+{
+    quint16 photometric;
+    int colours;
+};
+
+ColourModel modelOf(const vips::VImage &image)
+{
+    constexpr ColourModel minIsBlack = {1, 1};
+    constexpr ColourModel rgb = {2, 3};
+    constexpr ColourModel separated = {5, 4};
+    if (image.interpretation() == VIPS_INTERPRETATION_CMYK)
+        return separated;
+    return image.bands() < rgb.colours ? minIsBlack : rgb;
+}
+
+/** The tags in the order of their numbers, as the format wants them. */
+void describe(QByteArray &file, const vips::VImage &image, Resolution resolution, quint32 pixelsAt)
+{
+    constexpr double defaultDpi = 72;
+    const ColourModel model = modelOf(image);
+    const Strips strips = stripsOf(image, pixelsAt);
+    const double across = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
+    Directory directory(file);
+    directory.addLongs(0x0100, {quint32(image.width())});
+    directory.addLongs(0x0101, {quint32(image.height())});
+    directory.addShorts(0x0102, QList<quint16>(image.bands(), quint16(bytesPerComponent(image) * 8)));
+    directory.add(0x0103, 1); // not compressed
+    directory.add(0x0106, model.photometric);
+    directory.addLongs(0x0111, strips.offsets);
+    directory.add(0x0112, 1);
+    directory.add(0x0115, quint16(image.bands()));
+    directory.addLongs(0x0116, {quint32(rowsPerStrip)});
+    directory.addLongs(0x0117, strips.sizes);
+    directory.addFraction(0x011a, across);
+    directory.addFraction(0x011b, resolution.vertical > 0 ? resolution.vertical : across);
+    directory.add(0x011c, 1); // components side by side
+    directory.add(0x0128, 2); // inches
+    QList<quint16> others(image.bands() - model.colours, 0);
+    if (!others.isEmpty()) {
+        others.first() = 2; // transparency, not multiplied
+        directory.addShorts(0x0152, others);
+    }
+    addProfile(directory, image);
+    directory.finish();
+}
+
+/** The kinds that are most of all pictures, and small enough for offsets of 32 bits. */
+bool isPlain(const vips::VImage &image)
+{
+    constexpr quint64 mostBytes = quint64(std::numeric_limits<qint32>::max());
+    const bool isWhole = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT;
+    const VipsInterpretation space = image.interpretation();
+    const bool isKnown = space == VIPS_INTERPRETATION_sRGB || space == VIPS_INTERPRETATION_RGB16 ||
+                         space == VIPS_INTERPRETATION_B_W || space == VIPS_INTERPRETATION_GREY16 ||
+                         space == VIPS_INTERPRETATION_CMYK;
+    return isWhole && isKnown && image.bands() <= 5 && VIPS_IMAGE_SIZEOF_IMAGE(image.get_image()) < mostBytes;
+}
+
+} // namespace
+
+QByteArray encodePlainTiff(const vips::VImage &image, Resolution resolution)
+{
+    if (!isPlain(image))
+        return {};
+    const vips::VImage pixels = inMemory(image);
+    const auto size = qsizetype(VIPS_IMAGE_SIZEOF_IMAGE(pixels.get_image()));
+    constexpr quint32 headerSize = 8;
+    constexpr qsizetype roomForTags = 65536;
+    QByteArray file;
+    file.reserve(size + roomForTags);
+    file.append("II*\0\0\0\0\0", headerSize);
+    file.append(static_cast<const char *>(pixels.data()), size); // this machine's byte order is the file's
+    describe(file, pixels, resolution, headerSize);
+    return file;
+}
+
+} // namespace platform
