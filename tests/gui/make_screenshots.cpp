@@ -91,12 +91,12 @@ void showSorting(WindowDriver &driver, const QString &from, const QString &name)
     driver.show("sort");
     driver.drop({album(from, driver.folder())});
     driver.window().resize(1440, 900);
-    save(driver, name + QStringLiteral(".png"));
+    saveScreen(driver, name + QStringLiteral(".png"));
     driver.choose("preset", QStringLiteral("=By camera and day taken"));
     settle(driver);
     driver.control<window::FolderTree>("sortTree")->setChosen(driver.folder() + QStringLiteral("/Holiday/Quorlin P2"));
     driver.window().resize(1280, 720);
-    save(driver, name + QStringLiteral("-small.png"));
+    saveScreen(driver, name + QStringLiteral("-small.png"));
     driver.trigger("clearAction");
 }
 
