@@ -49,31 +49,39 @@ function stayingCompanion(items, first, count) {
     return null;
 }
 
+// Leaves out the rows whose companions cannot go along; returns how many were found.
+function leaveOutParted(plan) {
+    let found = 0;
+    plan.rows.forEach((row, i) => {
+        const at = plan.ofRow[i];
+        const item = at >= 0 && row.along.length > 0 && plan.items[at].status === "ready"
+            ? stayingCompanion(plan.items, at + 1, row.along.length) : null;
+        if (item !== null) {
+            plan.leftOut[i] = { status: "refused", code: "along", other: item.other, to: row.to, why: item.code };
+            found += 1;
+        }
+    });
+    return found;
+}
+
 // How often the rest is planned anew without those whose companions cannot go along.
 const MOST_ROUNDS = 5;
 
-/** Settles the wishes of rows: {paths, rows, wishes, items, ofRow, leftOut}; see planMoves(). */
-export function settle(paths, rows, moves) {
+// Settles the wishes of rows, in parts: {paths, rows, wishes, items, ofRow, leftOut}; see planMoves().
+function* settled(paths, rows, moves) {
     const leftOut = [];
+    const part = { rows: rows, from: rows.length, to: rows.length };
     let plan = null;
-    for (let round = 0; round < MOST_ROUNDS; round += 1) {
+    let found = 1;
+    const anyAlong = rows.some((row) => row.along.length > 0);
+    // Those that the last round finds are left out too, only without a plan made anew.
+    for (let round = 0; round < MOST_ROUNDS && found > 0; round += 1) {
         const asked = wishesOf(paths, rows, leftOut);
+        yield part;
         plan = { paths: paths, rows: rows, wishes: asked.wishes, items: moves.plan(asked.wishes), ofRow: asked.ofRow, leftOut: leftOut };
-        let found = 0;
-        rows.forEach((row, i) => {
-            const at = plan.ofRow[i];
-            const item = at >= 0 && row.along.length > 0 && plan.items[at].status === "ready"
-                ? stayingCompanion(plan.items, at + 1, row.along.length) : null;
-            if (item !== null) {
-                leftOut[i] = { status: "refused", code: "along", other: item.other, to: row.to, why: item.code };
-                found += 1;
-            }
-        });
-        if (found === 0) {
-            return plan;
-        }
+        yield part;
+        found = anyAlong ? leaveOutParted(plan) : 0;
     }
-    // Whoever is still parted from a companion stays as well.
     return plan;
 }
 
@@ -121,5 +129,6 @@ export function shownName(row, item) {
  */
 export function* planMoves(paths, step, settings, services) {
     const rows = yield* step.rows(paths, settings, services);
-    return settle(paths, rows, services.moves);
+    const plan = yield* settled(paths, rows, services.moves);
+    return plan;
 }

@@ -30,6 +30,8 @@ export class RenamePane extends Pane {
         this.open = -1;
         this.dragged = null;
         this.short = [];
+        this.plan = null;
+        this.plannedFor = "";
         settings.steps = rename.stepsOf(settings);
         this.join();
         this.fill();
@@ -206,15 +208,17 @@ export class RenamePane extends Pane {
 
     // The plan knows the counters; before it is made the example counts from the first number.
     plannedName() {
-        const shown = this.photo === null || this.plan === undefined ? null : this.plan[this.photo.path];
-        return shown || "";
+        // What was planned with other settings says nothing.
+        const isOld = this.plan === null || this.plannedFor !== JSON.stringify(this.settings);
+        const at = this.photo === null || isOld ? -1 : this.plan.paths.indexOf(this.photo.path);
+        return at < 0 ? "" : this.plan.rows[at].shown;
     }
 
     /** Called with the plan of all files. */
     planned(plan) {
         this.short = plan.rows.short || [];
-        this.plan = Object.create(null);
-        plan.paths.forEach((path, i) => { this.plan[path] = plan.rows[i].shown; });
+        this.plan = plan;
+        this.plannedFor = JSON.stringify(this.settings);
         this.explain();
     }
 }

@@ -76,6 +76,56 @@ private Q_SLOTS:
         QVERIFY(!m_driver->control<QAbstractButton>("startButton")->isEnabled());
     }
 
+    void undoBringsTheOldNamesBackAndRedoTheNewOnes()
+    {
+        files({"IMG_1.JPG", "IMG_1.xmp", "IMG_2.JPG"});
+        m_driver->drop({path("IMG_1.JPG"), path("IMG_2.JPG")});
+        m_driver->choose("preset", QStringLiteral("=Number behind"));
+        QVERIFY(waitForDeed("Rename 2 Files"));
+        m_driver->click("startButton");
+        QVERIFY(!m_driver->waitForSummary().isEmpty());
+        const QStringList renamed = texts({"IMG_1 001.JPG", "IMG_1 001.xmp", "IMG_2 002.JPG"});
+        QCOMPARE(namesIn(m_folder), renamed);
+        m_driver->click("undoButton");
+        QVERIFY(waitForNamesOnDisk({"IMG_1.JPG", "IMG_1.xmp", "IMG_2.JPG"}));
+        QVERIFY(m_driver->waitForSummary().contains(QLatin1String("old names again, 0 problems")));
+        QCOMPARE(m_driver->cell(0, PictureModel::Name), QStringLiteral("IMG_1.JPG"));
+        QCOMPARE(m_driver->control<QAbstractButton>("undoButton")->text(), QStringLiteral("Redo"));
+        m_driver->click("undoButton");
+        QVERIFY(waitForNamesOnDisk({"IMG_1 001.JPG", "IMG_1 001.xmp", "IMG_2 002.JPG"}));
+        QVERIFY(!m_driver->waitForSummary().isEmpty());
+        QCOMPARE(m_driver->cell(1, PictureModel::Name), QStringLiteral("IMG_2 002.JPG"));
+    }
+
+    void undoWorksAfterARestart()
+    {
+        files({"A.JPG", "b.jpg"});
+        m_driver->drop({m_folder});
+        m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
+        QVERIFY(waitForDeed("Rename 1 File"));
+        m_driver->click("startButton");
+        QVERIFY(!m_driver->waitForSummary().isEmpty());
+        m_driver->startAgain();
+        QCOMPARE(m_driver->text("statusText"), QStringLiteral("Last run: 1 file renamed, 0 problems"));
+        m_driver->click("undoButton");
+        QVERIFY(waitForNamesOnDisk({"A.JPG", "b.jpg"}));
+    }
+
+    void undoTellsWhatCannotGoBack()
+    {
+        files({"A.JPG", "B.JPG"});
+        m_driver->drop({m_folder});
+        m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
+        QVERIFY(waitForDeed("Rename 2 Files"));
+        m_driver->click("startButton");
+        QVERIFY(!m_driver->waitForSummary().isEmpty());
+        files({"A.JPG"});
+        m_driver->click("undoButton");
+        QVERIFY(waitForNamesOnDisk({"A.JPG", "A.jpg", "B.JPG"}));
+        QVERIFY(m_driver->waitForSummary().contains(QLatin1String("1 problem")));
+        QCOMPARE(contentOf("A.jpg"), QByteArray("A.JPG"));
+    }
+
     void simulationMovesNothing()
     {
         files({"A.JPG"});
@@ -277,6 +327,7 @@ private Q_SLOTS:
         }
         qInfo("10000 names: planned %lld ms after the last key, longest stop of the window %lld ms", clock.elapsed(),
               longest);
+        QVERIFY(waitForDeed("Rename 10000 Files"));
         clock.restart();
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("10000 files renamed, 0 problems")));
@@ -367,6 +418,12 @@ private:
         if (!came)
             qWarning("the names are %s", qPrintable(now.join(QStringLiteral(", "))));
         return came;
+    }
+
+    bool waitForNamesOnDisk(std::initializer_list<const char *> names)
+    {
+        const QStringList wanted = texts(names);
+        return m_driver->waitFor([&] { return namesIn(m_folder) == wanted; }, 10000);
     }
 
     bool waitForStatus(int row, const char *status)

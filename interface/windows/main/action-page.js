@@ -24,6 +24,7 @@ export class ActionPage {
             changed();
         });
         this.pages = {};
+        this.input = "";
         this.saveFolders = recall(defaults, "SaveFolders", { folders: [] }).folders;
         this.output = new OutputPane(this.saveFolders, this.changed);
         window.form.place("outputHost", this.output.form);
@@ -82,7 +83,13 @@ export class ActionPage {
     showInput() {
         const action = this.window.action;
         const kind = action.lists(this.window.settings);
-        this.window.pictures.setInput(kind === "pictures" ? action.takes : ["*"], kind === "folders");
+        const taken = kind === "pictures" ? action.takes : ["*"];
+        // The whole list is looked through: not at every key that is typed.
+        const now = JSON.stringify([kind, taken]);
+        if (now !== this.input) {
+            this.input = now;
+            this.window.pictures.setInput(taken, kind === "folders");
+        }
     }
 
     showPane(page, on) {

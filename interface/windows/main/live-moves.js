@@ -8,6 +8,7 @@ import { LivePlan } from "./live-plan.js";
 // A plan is made in slices of rows, so that the window answers while ten thousand of them are shown.
 const ROWS_A_SLICE = 40;
 const SETTLE_MS = 15;
+const TELL_MS = 400;
 
 /** Shows the state of one row of a plan; returns it. */
 export function showRow(list, id, plan, i, paths) {
@@ -68,9 +69,19 @@ export class LiveMoves extends LivePlan {
     work(ids, settings) {
         const window = this.window;
         // The engine loses a generator that is returned by the call that makes it.
+        this.toldMs = Date.now() + TELL_MS;
         const planning = showPlan(window.pictures, ids, window.pictures.paths(), window.action.step, settings, window.services,
                                   (id) => this.isFinal(id));
         return planning;
+    }
+
+    // Where files have to be looked into it takes a while, and the window says how far it is.
+    take(named) {
+        const now = Date.now();
+        if (now - this.toldMs >= TELL_MS && named < this.ids.length) {
+            this.toldMs = now;
+            this.planned({ named: named, all: this.ids.length });
+        }
     }
 
     ended(plan, summary) {

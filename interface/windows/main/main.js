@@ -77,10 +77,6 @@ function showDeed(window) {
     control("deedNote").visible = note !== "";
 }
 
-function showStatus(window) {
-    showStatusBar(window);
-}
-
 // A page that works on the list has its settings beside it, if it has a pane.
 function showCentre(window, any) {
     const page = window.shownPage;
@@ -97,7 +93,7 @@ function showInputState(window) {
     const any = window.pictures.count > 0;
     const control = (name) => window.form.control(name);
     showCentre(window, any);
-    for (const name of ["addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction",
+    for (const name of ["addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction", "renameAction",
                         "headHost", "actionHost", "outputHost", "moveSimulation", "emptyAddPictures", "emptyAddFolder"]) {
         control(name).enabled = !busy;
     }
@@ -119,7 +115,7 @@ function showInputState(window) {
 function showAll(window) {
     showInputState(window);
     showDeed(window);
-    showStatus(window);
+    showStatusBar(window);
 }
 
 function showCurrent(window) {
@@ -177,7 +173,7 @@ function say(window, text) {
     if (window.run.phase === "ended" && window.pictures.count > 0) {
         window.run.dismiss();
     }
-    showStatus(window);
+    showStatusBar(window);
 }
 
 function showTitle(window) {
@@ -216,7 +212,7 @@ function setFill(window, on) {
 
 function showProblemsOnly(window, on) {
     window.pictures.problemsOnly = on;
-    showStatus(window);
+    showStatusBar(window);
 }
 
 function mayClose(window) {
@@ -239,12 +235,12 @@ function cancel(window) {
     } else if (window.run.isBusy()) {
         window.run.cancel();
     }
-    showStatus(window);
+    showStatusBar(window);
 }
 
 function toggleLarge(window) {
     window.preview.toggleLarge();
-    showStatus(window);
+    showStatusBar(window);
 }
 
 function dismiss(window) {
@@ -281,6 +277,7 @@ function deedsOf(window) {
         openFolders: () => openFolders(window),
         dismiss: () => dismiss(window),
         undo: () => window.run.undo(),
+        rename: () => { window.form.control("sideBar").currentAction = "rename"; },
         quit: () => window.form.close(),
         paste: () => window.input.paste(),
         remove: () => window.pictures.removeSelected(),
@@ -302,7 +299,7 @@ const BUTTONS = {
 
 const ENTRIES = [
     "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "saveAs", "quit", "paste",
-    "remove", "selectAll", "next", "previous", "large", "fit", "fill", "showFailed", "undo",
+    "remove", "selectAll", "next", "previous", "large", "fit", "fill", "showFailed", "undo", "rename",
 ];
 
 function connectControls(window) {
@@ -319,7 +316,7 @@ function connectControls(window) {
 function note(window, text) {
     window.said = text;
     window.saidTimer.start(SAID_MS);
-    showStatus(window);
+    showStatusBar(window);
 }
 
 function connectViews(window) {
@@ -362,7 +359,7 @@ export function openMainWindow() {
     window.say = (text) => say(window, text);
     window.showState = () => showAll(window);
     window.reloadPreview = () => { window.preview.reload(); showCurrent(window); };
-    window.saidTimer = shell.timer(guard("said", () => { window.said = ""; showStatus(window); }));
+    window.saidTimer = shell.timer(guard("said", () => { window.said = ""; showStatusBar(window); }));
     window.drop = shell.dropTarget(window.form);
     window.drop.setMessage(qsTr("Drop to add pictures and folders"));
     window.pages = new Pages(window);

@@ -181,6 +181,8 @@ export class MoveRun extends BaseRun {
         this.last = null;
         this.rowAt = null;
         this.window.planned = {};
+        // Facts are known by path, and other files are at these paths now.
+        this.window.services.facts.forget();
         this.finish([this.summaryText(how)].concat(told).join(" · "));
         this.tellPane("runEnded");
         this.window.reloadPreview();
@@ -201,8 +203,7 @@ export class MoveRun extends BaseRun {
     lastRun() {
         if (this.last === null) {
             const moves = this.window.services.moves;
-            // An engine that keeps no runs yet has none that could be undone.
-            const newest = moves.runs === undefined ? undefined : moves.runs()[0];
+            const newest = moves.runs()[0];
             this.last = newest === undefined || newest.state === "open" || newest.done === 0
                 ? { run: null } : { run: newest, can: moves.undoable(newest.id).can };
         }

@@ -15,6 +15,9 @@ function deedText(window) {
 
 function deedNote(window) {
     const planned = window.planned;
+    if (planned.named !== undefined) {
+        return fill(qsTr("Working out names: %1 of %2…"), planned.named, planned.all);
+    }
     // After a run there is no plan until something changes.
     if (window.pictures.count === 0 || planned.ready === undefined) {
         return "";
