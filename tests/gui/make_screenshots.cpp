@@ -91,6 +91,8 @@ void showSorting(WindowDriver &driver, const QString &from, const QString &name)
     driver.show("sort");
     driver.drop({album(from, driver.folder())});
     driver.window().resize(1440, 900);
+    constexpr int allThumbnailsMs = 4000;
+    QTest::qWait(allThumbnailsMs);
     saveScreen(driver, name + QStringLiteral(".png"));
     driver.choose("preset", QStringLiteral("=By camera and day taken"));
     settle(driver);
