@@ -3,10 +3,12 @@
 #include "app/window/theme.h"
 
 #include <QEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -32,6 +34,12 @@ void SegmentedControl::setSegments(const QStringList &segments)
     describe();
     updateGeometry();
     update();
+}
+
+void SegmentedControl::setTips(const QStringList &tips)
+{
+    m_tips = tips;
+    describe();
 }
 
 void SegmentedControl::setSelectedSegment(int index)
@@ -108,14 +116,28 @@ void SegmentedControl::paintEvent(QPaintEvent *)
 
 void SegmentedControl::mousePressEvent(QMouseEvent *event)
 {
+    if (const int index = segmentAt(event->position()); index >= 0)
+        choose(index);
+}
+
+int SegmentedControl::segmentAt(const QPointF &place) const
+{
     for (int i = 0; i < m_segments.size(); ++i)
-        if (segmentRect(i).contains(event->position()))
-            choose(i);
+        if (segmentRect(i).contains(place))
+            return i;
+    return -1;
 }
 
 // The arrow keys belong to the choice while it has the focus, also where a window has deeds of its own for them.
 bool SegmentedControl::event(QEvent *event)
 {
+    if (event->type() == QEvent::ToolTip && !m_tips.isEmpty()) {
+        const auto *help = dynamic_cast<QHelpEvent *>(event);
+        const int index = segmentAt(help->pos());
+        const QRect place = index < 0 ? QRect() : segmentRect(index).toRect();
+        QToolTip::showText(help->globalPos(), m_tips.value(index), this, place);
+        return true;
+    }
     if (event->type() == QEvent::ShortcutOverride) {
         const int key = dynamic_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Left || key == Qt::Key_Right)
@@ -157,7 +179,8 @@ void SegmentedControl::choose(int index)
 
 void SegmentedControl::describe()
 {
-    setAccessibleDescription(m_segments.value(m_selected));
+    const QString tip = m_tips.value(m_selected);
+    setAccessibleDescription(tip.isEmpty() ? m_segments.value(m_selected) : tip);
 }
 
 } // namespace window

@@ -14,6 +14,7 @@ class SegmentedControl : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(QStringList segments READ segments WRITE setSegments)
+    Q_PROPERTY(QStringList tips READ tips WRITE setTips)
     Q_PROPERTY(int selectedSegment READ selectedSegment WRITE setSelectedSegment NOTIFY selectionChanged)
 
 public:
@@ -21,6 +22,9 @@ public:
 
     QStringList segments() const { return m_segments; }
     void setSegments(const QStringList &segments);
+    /** What the tool tip says over each segment; empty: the tool tip of the control, over all of them. */
+    QStringList tips() const { return m_tips; }
+    void setTips(const QStringList &tips);
     int selectedSegment() const { return m_selected; }
     /** An index outside the list is ignored. */
     void setSelectedSegment(int index);
@@ -42,11 +46,13 @@ protected:
 
 private:
     QRectF segmentRect(int index) const;
+    int segmentAt(const QPointF &place) const;
     int textWidth(int texts) const;
     void choose(int index);
     void describe();
 
     QStringList m_segments;
+    QStringList m_tips;
     int m_selected = 0;
 };
 

@@ -33,6 +33,8 @@ export class HandPane extends Pane {
     join() {
         const control = (name) => this.form.control(name);
         control("handMode").segments = [qsTr("Move"), qsTr("Copy"), qsTr("Link")];
+        control("handMode").tips = [qsTr("The picture leaves its folder. (Alt+1)"), qsTr("The picture stays, and a copy goes into the folder. (Alt+2)"),
+                                    qsTr("The picture stays, and the folder gets a link to it. (Alt+3)")];
         this.segments("handMode", "mode", MODES);
         control("handAdd").clicked.connect(guard("hand.add", () => this.addFolder()));
         control("handNew").clicked.connect(guard("hand.new", () => this.askName(true)));
@@ -198,10 +200,10 @@ export class HandPane extends Pane {
         this.form.control("handMore").enabled = this.settings.slots.length > 0;
     }
 
-    showState() {
-        const notes = { move: qsTr("The picture leaves its folder."), copy: qsTr("The picture stays, and a copy goes into the folder."),
-                        link: qsTr("The picture stays, and the folder gets a link to it.") };
-        this.form.control("handMode").toolTip = notes[this.settings.mode];
+    /** Sets what the keys do, as somebody did who pressed Alt and a digit. */
+    chooseMode(mode) {
+        this.form.control("handMode").selectedSegment = MODES.indexOf(mode);
+        this.set("mode", mode);
     }
 
     show(photo) {

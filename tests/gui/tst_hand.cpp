@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -21,9 +22,13 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 #include <QUrl>
+
+#include <array>
 
 /** Sort by Hand, as a person works it. */
 class Hand : public QObject
@@ -122,6 +127,69 @@ private Q_SLOTS:
         key(Qt::Key_Right);
         m_driver->click("handSkipButton");
         QCOMPARE(m_driver->text("handName"), QStringLiteral("c.jpg"));
+    }
+
+    void altAndADigitChooseWhatTheKeysDo_data()
+    {
+        QTest::addColumn<int>("digit");
+        QTest::addColumn<QString>("said");
+        QTest::addColumn<bool>("stays");
+        QTest::addColumn<bool>("isLink");
+        QTest::newRow("move") << int(Qt::Key_1) << QStringLiteral("Keys move pictures now.") << false << false;
+        QTest::newRow("copy") << int(Qt::Key_2) << QStringLiteral("Keys copy pictures now.") << true << false;
+        QTest::newRow("link") << int(Qt::Key_3) << QStringLiteral("Keys link pictures now.") << true << true;
+    }
+
+    void altAndADigitChooseWhatTheKeysDo()
+    {
+        QFETCH(int, digit);
+        QFETCH(QString, said);
+        begin({"Lake", "Sea", "Hills"});
+        auto *mode = m_driver->control<window::SegmentedControl>("handMode");
+        QTest::keyClick(&m_driver->window(), Qt::Key(digit == Qt::Key_1 ? Qt::Key_3 : Qt::Key_1), Qt::AltModifier);
+        QTest::keyClick(&m_driver->window(), Qt::Key(digit), Qt::AltModifier);
+        QCOMPARE(mode->selectedSegment(), digit - Qt::Key_1);
+        QCOMPARE(m_driver->text("statusText"), said);
+        QCOMPARE(m_driver->text("handName"), QStringLiteral("a.jpg")); // no folder's key was pressed
+        key(Qt::Key_1);
+        QTEST(QFile::exists(path("In/a.jpg")), "stays");
+        QTEST(QFileInfo(path("Lake/a.jpg")).isSymLink(), "isLink");
+        QVERIFY(QFile::exists(path("Lake/a.jpg")));
+        m_driver->startAgain(); // and it is remembered
+        QCOMPARE(m_driver->control<window::SegmentedControl>("handMode")->selectedSegment(), digit - Qt::Key_1);
+    }
+
+    void theTipOfEachModeTellsItsKey()
+    {
+        begin({"Lake"});
+        auto *mode = m_driver->control<window::SegmentedControl>("handMode");
+        const std::array<QString, 3> keys = {QStringLiteral("Alt+1"), QStringLiteral("Alt+2"), QStringLiteral("Alt+3")};
+        for (int i = 0; i < 3; ++i) {
+            const QPoint place(mode->width() * (2 * i + 1) / 6, mode->height() / 2);
+            QHelpEvent help(QEvent::ToolTip, place, mode->mapToGlobal(place));
+            QCoreApplication::sendEvent(mode, &help);
+            QVERIFY2(QToolTip::text().contains(keys[size_t(i)]), qPrintable(QToolTip::text()));
+            mode->setSelectedSegment(i);
+            QVERIFY(mode->accessibleDescription().contains(keys[size_t(i)]));
+        }
+    }
+
+    // Two deeds on one key would both do nothing.
+    void noKeyIsGivenTwice()
+    {
+        begin({"Lake"});
+        QMap<QKeySequence, QString> known;
+        const auto note = [&known](const QKeySequence &keys, const QString &deed) {
+            QVERIFY2(!known.contains(keys), qPrintable(known.value(keys) + QLatin1Char(' ') + deed));
+            known.insert(keys, deed);
+        };
+        for (const QAction *action : m_driver->window().findChildren<QAction *>())
+            for (const QKeySequence &keys : action->isEnabled() ? action->shortcuts() : QList<QKeySequence>())
+                note(keys, action->objectName());
+        for (const QShortcut *shortcut : m_driver->window().findChildren<QShortcut *>())
+            note(shortcut->key(), QStringLiteral("a folder"));
+        for (const char *keys : {"Alt+1", "Alt+2", "Alt+3", "Del", "1"})
+            QVERIFY2(known.contains(QKeySequence(QString::fromLatin1(keys))), keys);
     }
 
     void deleteMovesToTheTrash()

@@ -3,7 +3,7 @@
 
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
-import { deedWords, HandSorting, TRASH } from "../../lib/hand-sorting.js";
+import { deedWords, HandSorting, MODES, TRASH } from "../../lib/hand-sorting.js";
 import { slotProblem } from "../../lib/hand-slots.js";
 import { appendRows, trimRows } from "../../lib/log-file.js";
 import { Sidecars } from "../../lib/sidecars.js";
@@ -35,6 +35,8 @@ export class HandPage {
             join(control(name + "Button").clicked, name, () => { deeds[name](); this.view.setFocus(); });
         });
         join(control("handBackspace").triggered, "back", deeds.handBack);
+        const choices = { handMove: MODES[0], handCopy: MODES[1], handLink: MODES[2] };
+        Object.keys(choices).forEach((name) => join(control(name).triggered, name, () => this.chooseMode(choices[name])));
         join(control("handAddPictures").clicked, "add", () => this.window.input.addPictures());
         join(control("handAddPictureFolder").clicked, "add", () => this.window.input.addFolder());
         join(this.view.largePreviewRequested, "large", () => this.window.form.control("largeAction").trigger());
@@ -152,6 +154,13 @@ export class HandPage {
             }
             this.view.prepare(paths.concat([this.list.pathBeside(-1)]).filter((path) => path !== ""));
         }
+    }
+
+    // What the keys of the folders do from now on; said, since nobody looks at the pane while working by keys.
+    chooseMode(mode) {
+        this.window.pane.chooseMode(mode);
+        const words = { move: qsTr("Keys move pictures now."), copy: qsTr("Keys copy pictures now."), link: qsTr("Keys link pictures now.") };
+        this.window.note(words[mode]);
     }
 
     step(rows) {
