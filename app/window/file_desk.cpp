@@ -40,11 +40,13 @@ bool isPackage(const QString &name)
 class Collector
 {
 public:
-    explicit Collector(const QStringList &extensions)
+    Collector(const QStringList &extensions, const QStringList &companions)
     {
         m_takesAny = extensions.contains(QLatin1String("*"));
         for (const QString &extension : extensions)
             m_extensions.insert(extension.toLower());
+        for (const QString &extension : companions)
+            m_companionExtensions.insert(extension.toLower());
         m_order.setNumericMode(true);
         m_order.setCaseSensitivity(Qt::CaseInsensitive);
     }
@@ -67,6 +69,7 @@ public:
         return {{QStringLiteral("paths"), m_paths},
                 {QStringLiteral("folders"), m_folders},
                 {QStringLiteral("leftOut"), m_leftOut},
+                {QStringLiteral("companions"), m_companions},
                 {QStringLiteral("example"), m_example}};
     }
 
@@ -75,15 +78,19 @@ private:
     {
         const QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
         const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-        if (m_takesAny || (dot > 0 && m_extensions.contains(name.mid(dot + 1).toLower())))
+        const QString extension = dot > 0 ? name.mid(dot + 1).toLower() : QString();
+        if (m_takesAny || (dot > 0 && m_extensions.contains(extension)))
             m_paths.append(path);
         else
-            leaveOut(path);
+            leaveOut(path, dot > 0 && m_companionExtensions.contains(extension));
     }
 
-    void leaveOut(const QString &path)
+    void leaveOut(const QString &path, bool mayGoAlong = false)
     {
-        if (m_leftOut++ == 0)
+        ++m_leftOut;
+        if (mayGoAlong)
+            m_companions.append(path);
+        else if (m_example.isEmpty())
             m_example = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
     }
 
@@ -114,10 +121,12 @@ private:
 
     bool m_takesAny = false;
     QSet<QString> m_extensions;
+    QSet<QString> m_companionExtensions;
     QCollator m_order;
     QStringList m_paths;
     QStringList m_folders;
     int m_leftOut = 0;
+    QStringList m_companions;
     QString m_example;
 };
 
@@ -170,9 +179,10 @@ QStringList FileDesk::folders(const QString &folder) const
     return QDir(folder).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Unsorted);
 }
 
-QVariantMap FileDesk::collect(const QStringList &paths, const QStringList &extensions) const
+QVariantMap FileDesk::collect(const QStringList &paths, const QStringList &extensions,
+                              const QStringList &companions) const
 {
-    Collector collector(extensions);
+    Collector collector(extensions, companions);
     for (const QString &path : paths)
         collector.take(path);
     return collector.result();

@@ -45,10 +45,12 @@ public:
      * to any depth; hidden entries, packages and links inside them are passed over. The pictures of a folder come in
      * natural order of their names. The extensions are compared in any case of letters; "*" takes every file, those in packages too.
      *
-     * @return {paths, folders (those of the given paths that are), leftOut (count of files that are not taken), example
-     *         (name of one of them)}
+     * @param companions  extensions of files that may go along with a picture
+     * @return {paths, folders (those of the given paths that are), leftOut (count of files that are not taken), companions (the
+     *         paths of those of them that have such an extension), example (name of one that has none)}
      */
-    Q_INVOKABLE QVariantMap collect(const QStringList &paths, const QStringList &extensions) const;
+    Q_INVOKABLE QVariantMap collect(const QStringList &paths, const QStringList &extensions,
+                                    const QStringList &companions) const;
 
     /** Makes a folder and those above it. */
     Q_INVOKABLE QString makeFolder(const QString &folder) const;

@@ -79,6 +79,15 @@ QStringList PictureTable::paths() const
     return found;
 }
 
+QStringList PictureTable::hiddenPaths() const
+{
+    QStringList found;
+    for (int i = 0; i < m_model.rowCount(); ++i)
+        if (!m_order.input().takes(m_model.row(i)))
+            found.append(m_model.row(i).path);
+    return found;
+}
+
 void PictureTable::setPath(int id, const QString &path)
 {
     const int index = m_model.indexOfId(id);

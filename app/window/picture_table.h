@@ -42,6 +42,8 @@ public:
     Q_INVOKABLE void setInput(const QStringList &extensions, bool folders);
     /** How many rows the action does not take. */
     Q_INVOKABLE int hiddenCount() const { return m_model.rowCount() - m_taken; }
+    /** The paths of these rows, in the order of adding. */
+    Q_INVOKABLE QStringList hiddenPaths() const;
     /**
      * Shows these columns only: "thumbnail", "name", "pixels", "size", "type", "newName", "newSize", "status".
      *

@@ -8,6 +8,23 @@ export const SIDECARS = ["xmp", "aae", "thm", "pp3", "dop", "cos", "on1", "wav"]
 
 const ENDING = new RegExp("[^.]\\.(" + SIDECARS.join("|") + ")$", "i");
 
+/** Those of these files that go along with one of the pictures: their extension is one of SIDECARS, and they bear its name. */
+export function goingAlong(candidates, pictures) {
+    const bearers = emptyTable();
+    candidates.filter((path) => ENDING.test(path)).forEach((path) => { bearers[path.slice(0, path.lastIndexOf("."))] = false; });
+    if (candidates.length > 0) {
+        pictures.forEach((path) => {
+            const file = splitPath(path);
+            for (const bearer of [path, joinPath(file.folder, file.base)]) {
+                if (bearers[bearer] === false) {
+                    bearers[bearer] = true;
+                }
+            }
+        });
+    }
+    return candidates.filter((path) => bearers[path.slice(0, path.lastIndexOf("."))] === true);
+}
+
 function push(table, key, value) {
     if (table[key] === undefined) {
         table[key] = [];

@@ -74,6 +74,41 @@ private Q_SLOTS:
         QCOMPARE(pictures::bytesOf(at("a.jpg")), bytes);
     }
 
+    void saysThatSidecarsGoAlongAndWhatIsLeftOut()
+    {
+        threeDays();
+        m_driver->drop({m_pictures});
+        QCOMPARE(m_driver->text("statusText"), QStringLiteral("4 pictures added · 1 file goes along"));
+        m_driver->click("clearButton");
+        writeFile("lone.xmp", "<x/>");
+        m_driver->drop({m_pictures});
+        QCOMPARE(
+            m_driver->text("statusText"),
+            QStringLiteral("4 pictures added · 1 file goes along · “lone.xmp” is not a picture that can be taken"));
+        m_driver->click("clearButton");
+        m_driver->drop({at("b.jpg"), at("a.xmp")}); // without its picture
+        QCOMPARE(m_driver->text("statusText"),
+                 QStringLiteral("1 picture added · “a.xmp” is not a picture that can be taken"));
+        m_driver->show("resize");
+        m_driver->click("clearButton");
+        m_driver->drop({m_pictures});
+        QCOMPARE(m_driver->text("statusText"),
+                 QStringLiteral("4 pictures added · 2 files are not pictures that can be taken"));
+    }
+
+    void doesNotCallSidecarsOfTheListHidden()
+    {
+        threeDays();
+        m_driver->show("rename");
+        m_driver->drop({m_pictures});
+        QCOMPARE(m_driver->pictures().count(), 5);
+        m_driver->show("sort");
+        QCOMPARE(m_driver->pictures().count(), 4);
+        QVERIFY(!m_driver->control<QLabel>("hiddenNote")->isVisible());
+        m_driver->show("resize");
+        QVERIFY(m_driver->control<QLabel>("hiddenNote")->isVisible());
+    }
+
     void sortsNothingTwice()
     {
         threeDays();

@@ -1,4 +1,4 @@
-import { Sidecars } from "../../interface/lib/sidecars.js";
+import { goingAlong, Sidecars } from "../../interface/lib/sidecars.js";
 import { equal, finish, test } from "./check.js";
 
 function sidecarsAmong(names) {
@@ -36,5 +36,21 @@ test("looksIntoAFolderOnce", () => {
     sidecars.of("/a/b.jpg");
     equal(sidecars.asked, ["/a"]);
 });
+
+const GOING = [
+    [["/a/a.xmp"], ["/a/a.jpg"], ["/a/a.xmp"]],
+    [["/a/a.jpg.xmp"], ["/a/a.jpg"], ["/a/a.jpg.xmp"]],
+    [["/a/a.XMP", "/a/b.xmp", "/b/a.xmp"], ["/a/a.jpg"], ["/a/a.XMP"]],
+    [["/a/A.xmp"], ["/a/a.jpg"], []],
+    [["/a/a.txt"], ["/a/a.jpg"], []],
+    [["/a/.xmp"], ["/a/.jpg"], []],
+    [["/a/a.xmp"], [], []],
+    [[], ["/a/a.jpg"], []],
+];
+
+for (const row of GOING) {
+    test("tells that " + row[2].length + " of " + row[0].join(" ") + " go along with " + row[1].join(" "),
+         () => equal(goingAlong(row[0], row[1]), row[2]));
+}
 
 finish();

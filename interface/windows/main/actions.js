@@ -11,6 +11,7 @@
 //   pane     the class of its settings; presets are kept for it if lib/preset-forms.js has a form of its name
 //   lists(settings)  what the rows of the list are: "pictures", "files" of any kind, or "folders" themselves
 //   keyword  what the input collection is asked for; takes: the extensions of pictures that are taken
+//   takesAlong(settings)  true where files that belong to a picture go along with it (lib/sidecars.js); may be missing
 //   deed(number, settings)     what the button says
 //   headings()  other words for the heads of columns than those of the manner (may be missing)
 // MOVES also: done(number, settings) and undone(number, settings) for the summary, with settings null where they are not known.
@@ -103,11 +104,13 @@ export const GROUPS = [
                                                                          qsTr("1 folder has its old name again"), qsTr("%1 folders have their old names again")]),
             },
             { name: "sort", title: () => qsTr("Sort into Folders"), manner: MOVES, usesList: true, step: sort, pane: SortPane,
-              lists: () => "pictures", keyword: "sort", takes: PHOTO_INPUT, headings: () => ({ newName: qsTr("Folder") }),
+              lists: () => "pictures", keyword: "sort", takes: PHOTO_INPUT, takesAlong: () => true,
+              headings: () => ({ newName: qsTr("Folder") }),
               deed: sortDeed, done: sortDone,
               undone: (number) => count(number, qsTr("1 file put back"), qsTr("%1 files put back")) },
             { name: "hand", title: () => qsTr("Sort by Hand"), manner: PAGE, usesList: true, page: HandPage, step: hand, pane: HandPane,
-              lists: () => "pictures", keyword: "sort", takes: PICTURE_INPUT, deed: () => qsTr("Sort by Hand") },
+              lists: () => "pictures", keyword: "sort", takes: PICTURE_INPUT, takesAlong: (settings) => settings.mode !== "link",
+              deed: () => qsTr("Sort by Hand") },
         ],
     },
     {

@@ -5,8 +5,10 @@ import { cToolBox } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
+import { guard } from "../../lib/guard.js";
 import { wordsFor } from "../../lib/input-words.js";
 import { splitPath } from "../../lib/names.js";
+import { goingAlong, SIDECARS } from "../../lib/sidecars.js";
 import { recall, keep, withNewest } from "../../lib/store.js";
 import { count, fill, shortPath } from "../../lib/wording.js";
 
@@ -21,6 +23,9 @@ function addedText(found, added, words) {
     if (found.paths.length > added) {
         parts.push(count(found.paths.length - added, qsTr("1 was in the list already"), qsTr("%1 were in the list already")));
     }
+    if (found.along > 0) {
+        parts.push(count(found.along, qsTr("1 file goes along"), qsTr("%1 files go along")));
+    }
     if (found.leftOut > 0) {
         parts.push(words.leftOut(found));
     }
@@ -31,7 +36,7 @@ function addedText(found, added, words) {
 function foldersAmong(paths) {
     const isFolder = (path) => files.info(path).isFolder;
     const others = paths.filter((path) => !isFolder(path));
-    return { paths: paths.filter(isFolder).map((path) => files.absolute(path)), folders: [], leftOut: others.length,
+    return { paths: paths.filter(isFolder).map((path) => files.absolute(path)), folders: [], leftOut: others.length, companions: [],
              example: others.length > 0 ? splitPath(others[0]).name : "" };
 }
 
@@ -40,7 +45,31 @@ export class Input {
     constructor(window) {
         this.window = window;
         this.recent = recall(defaults, KEY, { folders: [] }).folders;
+        this.hidden = null;
+        this.joinList();
         this.showRecent();
+    }
+
+    joinList() {
+        this.window.pictures.countChanged.connect(guard("input.count", () => { this.hidden = null; }));
+    }
+
+    // Do files that belong to a picture go along with it?
+    takesAlong() {
+        const action = this.window.action;
+        return action.takesAlong !== undefined && action.takesAlong(this.window.settings);
+    }
+
+    // Rows of the list that the action leaves out. Looked through when the list changes, not at every step of a run.
+    hiddenCount() {
+        const along = this.takesAlong();
+        if (this.hidden === null || this.hidden.along !== along) {
+            const list = this.window.pictures;
+            const all = list.hiddenCount();
+            const going = along && all > 0 ? goingAlong(list.hiddenPaths(), list.paths()).length : 0;
+            this.hidden = { along: along, count: all - going };
+        }
+        return this.hidden.count;
     }
 
     words() {
@@ -60,7 +89,7 @@ export class Input {
         }
         control("emptyTitle").text = words.title();
         control("emptyText").text = words.text();
-        const hidden = this.window.pictures.hiddenCount();
+        const hidden = this.hiddenCount();
         control("hiddenNote").text = hidden > 0 ? words.hidden(hidden) : "";
         control("hiddenNote").visible = hidden > 0;
     }
@@ -81,13 +110,21 @@ export class Input {
         if (added > 0) {
             this.window.pictures.setFocus();
         }
-        this.window.say(addedText(found, added, this.words()));
+        this.window.say(addedText(this.withoutCompanions(found), added, this.words()));
+    }
+
+    // What goes along with a picture of the list was not left out.
+    withoutCompanions(found) {
+        const going = this.takesAlong() ? goingAlong(found.companions, this.window.pictures.paths()) : [];
+        const left = found.companions.find((path, i) => path !== going[i]);
+        return Object.assign({}, found, { along: going.length, leftOut: found.leftOut - going.length,
+                                          example: found.example || (left === undefined ? "" : splitPath(left).name) });
     }
 
     /** Files and folders, as they were dropped, pasted or named at start-up. */
     addPaths(paths) {
         const kind = this.window.action.lists(this.window.settings);
-        const found = kind === "folders" ? foldersAmong(paths) : files.collect(paths, kind === "files" ? ["*"] : this.window.action.takes);
+        const found = kind === "folders" ? foldersAmong(paths) : files.collect(paths, kind === "files" ? ["*"] : this.window.action.takes, SIDECARS);
         for (const folder of found.folders) {
             this.rememberFolder(folder);
         }
@@ -97,7 +134,7 @@ export class Input {
     addPictures() {
         const paths = cToolBox.hOpenDialogFiles(this.window.action.keyword);
         if (paths !== null && paths.length > 0) {
-            this.addFound({ paths: paths, leftOut: 0, example: "" });
+            this.addFound({ paths: paths, leftOut: 0, companions: [], example: "" });
         }
     }
 
