@@ -10,6 +10,7 @@ import { wordsFor } from "../../lib/input-words.js";
 import { splitPath } from "../../lib/names.js";
 import { goingAlong, SIDECARS } from "../../lib/sidecars.js";
 import { recall, keep, withNewest } from "../../lib/store.js";
+import { PHOTO_INPUT } from "../../lib/types.js";
 import { count, fill, shortPath } from "../../lib/wording.js";
 
 const KEPT_FOLDERS = 8;
@@ -105,10 +106,14 @@ export class Input {
         this.showRecent();
     }
 
-    addFound(found) {
-        const added = this.window.pictures.addPaths(found.paths);
+    // Pictures that only another action takes come into the list too, hidden until that action is chosen.
+    addFound(found, paths) {
+        const list = this.window.pictures;
+        const before = list.count;
+        list.addPaths(paths);
+        const added = list.count - before;
         if (added > 0) {
-            this.window.pictures.setFocus();
+            list.setFocus();
         }
         this.window.say(addedText(this.withoutCompanions(found), added, this.words()));
     }
@@ -128,13 +133,13 @@ export class Input {
         for (const folder of found.folders) {
             this.rememberFolder(folder);
         }
-        this.addFound(found);
+        this.addFound(found, kind === "pictures" ? files.collect(paths, PHOTO_INPUT, []).paths : found.paths);
     }
 
     addPictures() {
         const paths = cToolBox.hOpenDialogFiles(this.window.action.keyword);
         if (paths !== null && paths.length > 0) {
-            this.addFound({ paths: paths, leftOut: 0, companions: [], example: "" });
+            this.addFound({ paths: paths, leftOut: 0, companions: [], example: "" }, paths);
         }
     }
 
