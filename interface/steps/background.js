@@ -4,6 +4,7 @@
 
 import { FORMAT_CODES, MASK_TYPES, maskName } from "../lib/masks.js";
 import { ORIGINAL, writtenType } from "../lib/types.js";
+import { fill } from "../lib/wording.js";
 import { mayBeTransparent, outcome, outputMessages, ready, refused, targetOf, uprightOutcome } from "../lib/written.js";
 
 export const MOST_BAND = 10000;
@@ -29,9 +30,9 @@ export function carried(settings) {
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const under = settings.under === "color" ? "on " + settings.color : "on pattern " + settings.pattern;
-    const frames = { none: "", white: ", white frame", band: ", band of " + settings.bandWidth + " px in " + settings.bandColor };
-    return under + frames[settings.frame];
+    const under = settings.under === "color" ? fill(qsTr("on %1"), settings.color) : fill(qsTr("on pattern %1"), settings.pattern);
+    const frames = { none: [], white: [qsTr("white frame")], band: [fill(qsTr("band of %1 px in %2"), settings.bandWidth, settings.bandColor)] };
+    return [under].concat(frames[settings.frame]).join(", ");
 }
 
 /** Messages on what is wrong with the settings; empty if a run can start. */

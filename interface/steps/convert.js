@@ -4,6 +4,7 @@
 import { splitPath } from "../lib/names.js";
 import { isTarget, lostText, QUALITIES, sourceNotes, targetNamed } from "../lib/targets.js";
 import { ORIGINAL } from "../lib/types.js";
+import { fill } from "../lib/wording.js";
 import { outputMessages, ready, refused } from "../lib/written.js";
 
 /** What a new pane shows. target: see lib/targets.js. */
@@ -21,7 +22,7 @@ export const offer = { types: [], quality: false, metadata: ["public.png", "publ
 /** The settings in a few words, for the log. */
 export function describe(settings) {
     const target = targetNamed(settings.target);
-    return "to " + target.word + (target.quality ? ", quality " + settings.quality : "");
+    return target.quality ? fill(qsTr("to %1, quality %2"), target.word, settings.quality) : fill(qsTr("to %1"), target.word);
 }
 
 /** Messages on what is wrong with the settings; empty if a run can start. */

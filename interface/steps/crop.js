@@ -5,6 +5,7 @@ import { cropFrame, insidePicture } from "../lib/crops.js";
 import { inPixels, PIXEL, UNITS } from "../lib/measure.js";
 import { splitPath } from "../lib/names.js";
 import { ORIGINAL, WRITTEN, writtenType } from "../lib/types.js";
+import { fill } from "../lib/wording.js";
 import { outputMessages, ready, refused, targetOf, uprightOutcome } from "../lib/written.js";
 
 export const MOST = 100000;
@@ -26,10 +27,10 @@ const LABELS = { size: "W x H", percent: "%", pixels: "Pixels" };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const size = { size: settings.width + "×" + settings.height + " " + settings.unit, percent: settings.percent + " % away",
-                   pixels: settings.pixels + " pixels away" }[settings.mode];
-    const moved = settings.offsetX || settings.offsetY ? ", moved " + settings.offsetX + ", " + settings.offsetY + " " + settings.unit : "";
-    return size + ", position " + (settings.position + 1) + moved;
+    const size = { size: settings.width + "×" + settings.height + " " + settings.unit, percent: fill(qsTr("%1 % away"), settings.percent),
+                   pixels: fill(qsTr("%1 pixels away"), settings.pixels) }[settings.mode];
+    const moved = settings.offsetX || settings.offsetY ? [fill(qsTr("moved %1, %2 %3"), settings.offsetX, settings.offsetY, settings.unit)] : [];
+    return [size, fill(qsTr("position %1"), settings.position + 1)].concat(moved).join(", ");
 }
 
 function isWhole(value, least, most) {

@@ -7,6 +7,7 @@ import { stepFrom, stepProblems } from "../lib/name-steps.js";
 import { emptyTable, joinPath, splitPath } from "../lib/names.js";
 import { riskOf } from "../lib/risky-names.js";
 import { Sidecars } from "../lib/sidecars.js";
+import { kindWords } from "../lib/step-words.js";
 import { hasHalf } from "../lib/text-cuts.js";
 import { tokens } from "../lib/tokens.js";
 import { fill } from "../lib/wording.js";
@@ -22,8 +23,9 @@ export const defaults = { what: "files", steps: [], sidecars: true, simulation: 
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const steps = stepsOf(settings).filter((step) => step.on).map((step) => (step.kind === "text" ? step.pattern : step.kind));
-    return settings.what + ": " + steps.join(", ");
+    const words = kindWords();
+    const steps = stepsOf(settings).filter((step) => step.on).map((step) => (step.kind === "text" ? step.pattern : words[step.kind].title));
+    return fill({ files: qsTr("files: %1"), folders: qsTr("folders: %1") }[settings.what], steps.join(", "));
 }
 
 /** The steps that can be understood. */

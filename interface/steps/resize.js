@@ -5,6 +5,7 @@ import { inPixels, PIXEL } from "../lib/measure.js";
 import { splitPath } from "../lib/names.js";
 import { newSize } from "../lib/sizes.js";
 import { ORIGINAL, WRITTEN, writtenType } from "../lib/types.js";
+import { fill } from "../lib/wording.js";
 import { outputMessages, ready, refused, targetOf, uprightOutcome } from "../lib/written.js";
 
 export const MOST_PIXELS = 100000;
@@ -29,7 +30,8 @@ export const offer = { types: WRITTEN.map((type) => type.id), quality: true, met
 export function describe(settings) {
     const unit = settings.unit === PIXEL || settings.mode === "percent" ? "" : " " + settings.unit;
     const size = settings.mode === "box" ? settings.boxWidth + "×" + settings.boxHeight : String(settings[settings.mode]);
-    return settings.mode + " " + size + unit;
+    const words = { width: qsTr("width %1"), height: qsTr("height %1"), longest: qsTr("longest %1"), percent: qsTr("percent %1"), box: qsTr("box %1") };
+    return fill(words[settings.mode], size + unit);
 }
 
 function usedFields(settings) {

@@ -3,6 +3,7 @@
 
 import { FORMAT_CODES, MASK_TYPES, maskName } from "../lib/masks.js";
 import { writtenType } from "../lib/types.js";
+import { fill } from "../lib/wording.js";
 import { outputMessages, ready, refused, targetOf, uprightOutcome } from "../lib/written.js";
 
 export const MOST_RADIUS = 100000;
@@ -25,8 +26,10 @@ const SHAPE_CODES = { rectangle: "0", circle: "1", ellipse: "2" };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const shape = settings.shape === "rectangle" ? "corners of " + settings.radius + " px" : settings.shape;
-    return shape + (settings.background ? ", on " + settings.color + (settings.band > 0 ? ", band of " + settings.band + " px" : "") : "");
+    const shapes = { rectangle: fill(qsTr("corners of %1 px"), settings.radius), circle: qsTr("circle"), ellipse: qsTr("ellipse") };
+    const background = settings.background ? [fill(qsTr("on %1"), settings.color)] : [];
+    const band = settings.background && settings.band > 0 ? [fill(qsTr("band of %1 px"), settings.band)] : [];
+    return [shapes[settings.shape]].concat(background, band).join(", ");
 }
 
 function isWhole(value, most) {

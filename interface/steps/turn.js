@@ -4,6 +4,7 @@
 import { splitPath } from "../lib/names.js";
 import { forStored, isExact, isNothing, operations, shortestTurn, turnedSize, upright, wanted } from "../lib/turns.js";
 import { ORIGINAL, writtenType } from "../lib/types.js";
+import { fill } from "../lib/wording.js";
 import { outcome, outputMessages, ready, refused, targetOf } from "../lib/written.js";
 
 /** What a new pane shows. The angle is in degrees, counter-clockwise, in tenths. */
@@ -23,8 +24,8 @@ const KEEPS_TAG = ["public.jpeg", "public.tiff"];
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const parts = settings.angle !== 0 ? ["turn " + settings.angle + "°"] : [];
-    return parts.concat(settings.flipHorizontal ? ["flip horizontally"] : [], settings.flipVertical ? ["flip vertically"] : []).join(", ");
+    const parts = settings.angle !== 0 ? [fill(qsTr("turn %1°"), settings.angle)] : [];
+    return parts.concat(settings.flipHorizontal ? [qsTr("flip horizontally")] : [], settings.flipVertical ? [qsTr("flip vertically")] : []).join(", ");
 }
 
 /** Messages on what is wrong with the settings; empty if a run can start. */
