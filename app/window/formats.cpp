@@ -2,6 +2,7 @@
 
 #include "platform/foundation/type_identifiers.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QHash>
 #include <QLocale>
@@ -9,6 +10,15 @@
 #include <sys/stat.h>
 
 namespace window {
+
+namespace {
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("formats", text);
+}
+
+} // namespace
 
 QString pixelText(QSize pixels)
 {
@@ -18,12 +28,13 @@ QString pixelText(QSize pixels)
 QString byteText(qint64 bytes)
 {
     if (bytes == 0)
-        return QStringLiteral("Zero KB");
+        return translated(QT_TRANSLATE_NOOP("formats", "Zero KB"));
     if (bytes == 1)
-        return QStringLiteral("1 byte");
+        return translated(QT_TRANSLATE_NOOP("formats", "1 byte"));
     if (bytes < 1000)
-        return QStringLiteral("%1 bytes").arg(bytes);
-    const char *const units[] = {"KB", "MB", "GB", "TB"};
+        return translated(QT_TRANSLATE_NOOP("formats", "%1 bytes")).arg(bytes);
+    const char *const units[] = {QT_TRANSLATE_NOOP("formats", "KB"), QT_TRANSLATE_NOOP("formats", "MB"),
+                                 QT_TRANSLATE_NOOP("formats", "GB"), QT_TRANSLATE_NOOP("formats", "TB")};
     const int decimalsOfUnit[] = {0, 1, 2, 2};
     double value = double(bytes) / 1000;
     int unit = 0;
@@ -37,7 +48,7 @@ QString byteText(qint64 bytes)
     const QString point = locale.decimalPoint();
     while (number.contains(point) && (number.endsWith(QLatin1Char('0')) || number.endsWith(point)))
         number.chop(1);
-    return number + QLatin1Char(' ') + QLatin1String(units[unit]);
+    return number + QLatin1Char(' ') + translated(units[unit]);
 }
 
 QString typeOfName(const QString &name)

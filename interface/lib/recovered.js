@@ -1,5 +1,7 @@
 // What is said about runs that were interrupted and are ended now. Pure; no service is used.
 
+import { fill } from "./wording.js";
+
 function counted(count, one, many) {
     return count === 1 ? one : many.replace("%1", String(count));
 }
@@ -16,7 +18,8 @@ export function recoveredText(run) {
     if (run.left > 0) {
         parts.push(counted(run.left, qsTr("the turn of 1 item had not come"), qsTr("the turn of %1 items had not come")));
     }
-    return qsTr("%1 was interrupted and is ended now").replace("%1", run.title) + (parts.length > 0 ? ": " + parts.join(", ") : "") + ".";
+    const what = fill(qsTr("%1 was interrupted and is ended now"), run.title);
+    return (parts.length > 0 ? fill(qsTr("%1: %2"), what, parts.join(", ")) : what) + ".";
 }
 
 /** {text, detail} for all runs, or null where nothing was interrupted. The detail lists what could not be put right. */

@@ -47,7 +47,7 @@ function partWord(step) {
 }
 
 function quoted(text) {
-    return text === "" ? qsTr("nothing") : "“" + text + "”";
+    return text === "" ? qsTr("nothing") : fill(qsTr("“%1”"), text);
 }
 
 function tokenText(part) {

@@ -2,7 +2,7 @@
 
 /** Puts values into the places %1, %2 ... of a text. */
 export function fill(text, ...values) {
-    return values.reduce((filled, value, index) => filled.replace("%" + (index + 1), String(value)), text);
+    return values.reduce((filled, value, index) => filled.replace("%" + (index + 1), () => String(value)), text);
 }
 
 /** One of two texts, by number; %1 in it becomes the number. */
@@ -32,7 +32,7 @@ export function shortPath(path, home) {
 /** A status word and its reason as one text. */
 export function statusText(status, reason) {
     const words = { "OK": qsTr("OK"), "Failed": qsTr("Failed"), "Not Supported": qsTr("Not Supported"), "Skipped": qsTr("Skipped") };
-    return reason ? words[status] + ": " + reason : words[status];
+    return reason ? fill(qsTr("%1: %2"), words[status], reason) : words[status];
 }
 
 /** How a final status is coloured in the list. */

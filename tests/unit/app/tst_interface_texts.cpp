@@ -1,6 +1,7 @@
 #include "app/window/interface_texts.h"
 
 #include "app/script/ScriptEngine.h"
+#include "app/window/formats.h"
 #include "tests/support/test_pictures.h"
 
 #include <QCoreApplication>
@@ -18,6 +19,8 @@ private Q_SLOTS:
     void readsNothingFromDamagedFiles_data();
     void readsNothingFromDamagedFiles();
     void translatesScriptsByTheNameOfTheirFile();
+    void tellsSizesInTheReadersWords_data();
+    void tellsSizesInTheReadersWords();
 
 private:
     QString write(const char *name, const QByteArray &content);
@@ -81,6 +84,27 @@ void TestInterfaceTexts::translatesScriptsByTheNameOfTheirFile()
     QVERIFY(module.has_value());
     QCOMPARE(module->property(QStringLiteral("translated")).toString(), QStringLiteral("%1 öffnen"));
     QCOMPARE(module->property(QStringLiteral("other")).toString(), QStringLiteral("Close"));
+    QCoreApplication::removeTranslator(&texts);
+}
+
+void TestInterfaceTexts::tellsSizesInTheReadersWords_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("nothing") << qint64(0) << QStringLiteral("0 Ko");
+    QTest::newRow("bytes") << qint64(34) << QStringLiteral("34 octets");
+    QTest::newRow("millions") << qint64(2400000) << QStringLiteral("2.4 Mo");
+    QTest::newRow("not translated") << qint64(3000000000) << QStringLiteral("3 GB");
+}
+
+void TestInterfaceTexts::tellsSizesInTheReadersWords()
+{
+    QFETCH(qint64, bytes);
+    window::InterfaceTexts texts;
+    QVERIFY(texts.read(
+        write("fr.json", "{\"formats\": {\"Zero KB\": \"0 Ko\", \"%1 bytes\": \"%1 octets\", \"MB\": \"Mo\"}}")));
+    QVERIFY(QCoreApplication::installTranslator(&texts));
+    QTEST(window::byteText(bytes), "text");
     QCoreApplication::removeTranslator(&texts);
 }
 
