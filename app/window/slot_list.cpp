@@ -89,12 +89,13 @@ QSize SlotList::minimumSizeHint() const
     return {180, slotHeightPx * qBound(1, m_rows.count(), leastShown) + 4};
 }
 
-// The arrow keys belong to the list while it has the focus, also where a window has deeds of its own for them.
+// The arrow keys and F2 belong to the list while it has the focus, also where a window has deeds of its own for them.
 bool SlotList::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         const int key = dynamic_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down)
+        if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down ||
+            key == Qt::Key_F2)
             event->accept();
     }
     return QListView::event(event);
@@ -174,7 +175,8 @@ void SlotList::resizeEvent(QResizeEvent *event)
 
 void SlotList::keyPressEvent(QKeyEvent *event)
 {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // The field of a label hands its Return on, and that chooses nothing.
+    const bool isEnter = (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && state() != EditingState;
     if (isEnter && m_active && currentIndex().isValid() && event->modifiers() == Qt::NoModifier)
         Q_EMIT slotChosen(current());
     else

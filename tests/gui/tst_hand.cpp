@@ -307,6 +307,20 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(path("New one/a.jpg")));
     }
 
+    void aLabelIsEditedByItsKey()
+    {
+        begin({"Lake", "Sea"});
+        slots()->choose(1);
+        slots()->setFocus();
+        QTest::keyClick(slots(), Qt::Key_F2);
+        auto *field = qobject_cast<QLineEdit *>(m_driver->window().focusWidget());
+        QVERIFY(field && slots()->isAncestorOf(field));
+        QTest::keyClicks(field, QStringLiteral("2 seas"));
+        QTest::keyClick(field, Qt::Key_Return);
+        QTRY_COMPARE(labels(), QStringLiteral("Lake 2 seas"));
+        QVERIFY2(QFile::exists(path("In/a.jpg")), "the keys of a label sort no picture");
+    }
+
     void slotsAreRenamedMovedAndRemoved()
     {
         begin({"Lake", "Sea", "Hills"});
