@@ -35,33 +35,57 @@ struct Obstacle
     QString leaving; ///< the path of an item that makes the place free
 };
 
-class Planner
+} // namespace
+
+class MovePlanner
 {
 public:
-    Planner(const std::vector<MoveWish> &wishes, const platform::FileSystem &disk)
+    MovePlanner(const std::vector<MoveWish> &wishes, const platform::FileSystem &disk)
         : m_wishes(wishes), m_disk(disk), m_places(disk), m_drafts(wishes.size()), m_plan(wishes.size())
     {
     }
 
-    std::vector<PlannedMove> plan()
+    /** Does a small part of the work; false when there is nothing left to do. */
+    bool advance()
     {
-        for (int i = 0; i < count(); ++i)
-            read(i);
-        for (int i = 0; i < count(); ++i)
-            findLeader(i);
-        settle();
-        for (int i = 0; i < count(); ++i)
-            if (isOpen(i) && !draft(i).isClaimed) {
-                claim(groupOf(i));
-                settle();
-            }
-        refuseImpossible();
-        for (int i = 0; i < count(); ++i)
-            describe(i);
-        return std::move(m_plan);
+        if (m_stage >= Stage::Claim && !m_refused.empty()) {
+            settleOne();
+            return true;
+        }
+        if (m_at == count()) {
+            m_at = 0;
+            m_stage = Stage(int(m_stage) + 1);
+            return m_stage != Stage::Done;
+        }
+        work(m_at++);
+        return true;
     }
 
+    const std::vector<PlannedMove> &plan() const { return m_plan; }
+
 private:
+    /** Each goes through all wishes, the folders through all at once. */
+    enum class Stage { Read, FindLeaders, Claim, Folders, Describe, Done };
+
+    void work(int i)
+    {
+        switch (m_stage) {
+        case Stage::Read:
+            return read(i);
+        case Stage::FindLeaders:
+            return findLeader(i);
+        case Stage::Claim:
+            return isOpen(i) && !draft(i).isClaimed ? claim(groupOf(i)) : void();
+        case Stage::Folders:
+            m_at = count();
+            return refuseImpossible();
+        case Stage::Describe:
+            return describe(i);
+        case Stage::Done:
+            return;
+        }
+    }
+
     int count() const { return int(m_wishes.size()); }
     const MoveWish &wish(int i) const { return m_wishes[size_t(i)]; }
     Draft &draft(int i) { return m_drafts[size_t(i)]; }
@@ -257,20 +281,24 @@ private:
     /** What follows from the refusals: their items stay, so whoever relied on their leaving is looked at again. */
     void settle()
     {
-        while (!m_refused.empty()) {
-            const int i = m_refused.back();
-            m_refused.pop_back();
-            for (const int companion : m_companions.values(i))
-                if (isOpen(companion))
-                    refuse(companion, QStringLiteral("leader"), wish(i).from);
-            Draft &d = draft(i);
-            Spot::Tenant *tenant = leaves(i) && d.fromFolder ? d.fromFolder->tenant(d.fromName) : nullptr;
-            if (!tenant || tenant->leaver != i)
-                continue;
-            tenant->leaver = -1;
-            if (const int claimer = d.fromFolder->spot(d.fromName).claimer; claimer >= 0)
-                claimAnew(groupOf(claimer));
-        }
+        while (!m_refused.empty())
+            settleOne();
+    }
+
+    void settleOne()
+    {
+        const int i = m_refused.back();
+        m_refused.pop_back();
+        for (const int companion : m_companions.values(i))
+            if (isOpen(companion))
+                refuse(companion, QStringLiteral("leader"), wish(i).from);
+        Draft &d = draft(i);
+        Spot::Tenant *tenant = leaves(i) && d.fromFolder ? d.fromFolder->tenant(d.fromName) : nullptr;
+        if (!tenant || tenant->leaver != i)
+            return;
+        tenant->leaver = -1;
+        if (const int claimer = d.fromFolder->spot(d.fromName).claimer; claimer >= 0)
+            claimAnew(groupOf(claimer));
     }
 
     void claimAnew(int head)
@@ -344,13 +372,38 @@ private:
     std::vector<PlannedMove> m_plan;
     std::vector<int> m_refused;
     QMultiHash<int, int> m_companions;
+    Stage m_stage = Stage::Read;
+    int m_at = 0;
 };
-
-} // namespace
 
 std::vector<PlannedMove> planMoves(const std::vector<MoveWish> &wishes, const platform::FileSystem &disk)
 {
-    return Planner(wishes, disk).plan();
+    MovePlanner planner(wishes, disk);
+    while (planner.advance())
+        continue;
+    return planner.plan();
+}
+
+MovePlanning::MovePlanning(std::vector<MoveWish> wishes, const platform::FileSystem &disk)
+    : m_wishes(std::move(wishes)), m_planner(std::make_unique<MovePlanner>(m_wishes, disk))
+{
+}
+
+MovePlanning::~MovePlanning() = default;
+
+bool MovePlanning::workFor(std::chrono::milliseconds time)
+{
+    const auto end = std::chrono::steady_clock::now() + time;
+    do {
+        if (!m_planner->advance())
+            return true;
+    } while (std::chrono::steady_clock::now() < end);
+    return false;
+}
+
+const std::vector<PlannedMove> &MovePlanning::plan() const
+{
+    return m_planner->plan();
 }
 
 } // namespace files

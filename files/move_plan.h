@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <chrono>
+#include <memory>
 #include <vector>
 
 namespace files {
@@ -43,5 +45,28 @@ struct PlannedMove
  * that wanted its place. Lists every folder once, ten thousand wishes take some hundredths of a second.
  */
 std::vector<PlannedMove> planMoves(const std::vector<MoveWish> &wishes, const platform::FileSystem &disk);
+
+class MovePlanner;
+
+/** The plan of planMoves() made in slices, so that a window answers while it is made. The disk must outlive it. */
+class MovePlanning
+{
+public:
+    MovePlanning(std::vector<MoveWish> wishes, const platform::FileSystem &disk);
+    ~MovePlanning();
+
+    /**
+     * Works for about this long, and always gets somewhere; true when the plan is made. Two things are done in one go: the listing
+     * of a folder, and telling whether folders are to go into each other.
+     */
+    bool workFor(std::chrono::milliseconds time);
+    const std::vector<MoveWish> &wishes() const { return m_wishes; }
+    /** Of use when workFor() said true. */
+    const std::vector<PlannedMove> &plan() const;
+
+private:
+    std::vector<MoveWish> m_wishes;
+    std::unique_ptr<MovePlanner> m_planner;
+};
 
 } // namespace files

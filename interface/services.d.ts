@@ -898,6 +898,16 @@ declare module "quorlin/moves" {
     export const moves: {
         /** As many answers as wishes, in their order. Touches nothing. */
         plan(wishes: Wish[]): Planned[];
+        /** The same plan in slices: this one names it. */
+        beginPlan(): string;
+        /** Leaders count from the first of all wishes. */
+        addWishes(plan: string, wishes: Wish[]): void;
+        /** Works for about so long; true when the plan is made. */
+        workOut(plan: string, milliseconds: number): boolean;
+        /** From `from` to before `to`; null for a wish that is ready, without a code, and gets the path that it asked for. */
+        planned(plan: string, from: number, to: number): (Planned | null)[];
+        /** Ends a plan, made or not. */
+        dropPlan(plan: string): void;
         begin(run: { title: string; items: Wish[] }): { run: string } | { problem: string };
         /** Carries out one more item; null after the last one. */
         next(run: string): (Outcome & { index: number }) | null;

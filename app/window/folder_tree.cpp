@@ -3,7 +3,6 @@
 #include "app/window/icons.h"
 #include "app/window/theme.h"
 
-#include <QCollator>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QPainter>
@@ -13,7 +12,7 @@
 #include <QTreeWidgetItemIterator>
 
 #include <algorithm>
-#include <vector>
+#include <utility>
 
 namespace window {
 
@@ -99,37 +98,17 @@ QString spoken(const QVariantMap &folder)
     return sentence.arg(folder.value(QStringLiteral("name")).toString(), files);
 }
 
-using Folders = QList<QVariantMap>;
-
-/** In natural order of their names. */
-Folders sorted(const Folders &folders, const QCollator &order)
+std::unique_ptr<QTreeWidgetItem> itemFor(const QVariantMap &folder)
 {
-    std::vector<std::pair<QCollatorSortKey, const QVariantMap *>> keyed;
-    keyed.reserve(size_t(folders.size()));
-    for (const QVariantMap &folder : folders)
-        keyed.emplace_back(order.sortKey(folder.value(QStringLiteral("name")).toString()), &folder);
-    std::sort(keyed.begin(), keyed.end(), [](const auto &left, const auto &right) { return left.first < right.first; });
-    Folders result;
-    for (const auto &entry : keyed)
-        result.append(*entry.second);
-    return result;
-}
-
-/** The folders under each folder. */
-QHash<QString, Folders> sortedBelow(const QVariantList &folders)
-{
-    QHash<QString, Folders> below;
-    for (const QVariant &each : folders) {
-        const QVariantMap folder = each.toMap();
-        below[folder.value(QStringLiteral("above")).toString()].append(folder);
-    }
-    // The order of the C locale is that of the codes: 10 would come before 2.
-    QCollator order(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
-    order.setNumericMode(true);
-    order.setCaseSensitivity(Qt::CaseInsensitive);
-    for (Folders &children : below)
-        children = sorted(children, order);
-    return below;
+    const QString path = folder.value(QStringLiteral("path")).toString();
+    auto item = std::make_unique<QTreeWidgetItem>();
+    item->setText(0, folder.value(QStringLiteral("name")).toString());
+    item->setData(0, pathRole, path);
+    item->setData(0, totalRole, folder.value(QStringLiteral("total")));
+    item->setData(0, newRole, folder.value(QStringLiteral("isNew")));
+    item->setData(0, Qt::AccessibleTextRole, spoken(folder));
+    item->setToolTip(0, path);
+    return item;
 }
 
 } // namespace
@@ -146,6 +125,10 @@ FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
     setExpandsOnDoubleClick(true);
+    // The order of the C locale is that of the codes: 10 would come before 2.
+    m_order.setLocale(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
+    m_order.setNumericMode(true);
+    m_order.setCaseSensitivity(Qt::CaseInsensitive);
     connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem *item) { rememberOpen(item, true); });
     connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem *item) { rememberOpen(item, false); });
     connect(this, &QTreeWidget::itemSelectionChanged, this, [this] {
@@ -168,37 +151,54 @@ void FolderTree::setChosen(const QString &path)
         clearSelection();
 }
 
-void FolderTree::addFolder(const QVariantMap &folder, QTreeWidgetItem *above)
+void FolderTree::setFolders(const QVariantList &folders)
 {
-    const QString path = folder.value(QStringLiteral("path")).toString();
-    auto *item = above ? new QTreeWidgetItem(above) : new QTreeWidgetItem(this);
-    item->setText(0, folder.value(QStringLiteral("name")).toString());
-    item->setData(0, pathRole, path);
-    item->setData(0, totalRole, folder.value(QStringLiteral("total")));
-    item->setData(0, newRole, folder.value(QStringLiteral("isNew")));
-    item->setData(0, Qt::AccessibleTextRole, spoken(folder));
-    item->setToolTip(0, path);
-    m_items.insert(path, item);
+    beginFolders();
+    addFolders(folders);
+    showFolders();
 }
 
-void FolderTree::setFolders(const QVariantList &folders)
+void FolderTree::beginFolders()
+{
+    m_waiting.clear();
+    m_waitingItems.clear();
+}
+
+void FolderTree::addFolders(const QVariantList &folders)
+{
+    for (const QVariant &each : folders) {
+        const QVariantMap folder = each.toMap();
+        m_waiting.push_back({m_order.sortKey(folder.value(QStringLiteral("name")).toString()),
+                             folder.value(QStringLiteral("above")).toString(), itemFor(folder)});
+        m_waitingItems.insert(folder.value(QStringLiteral("path")).toString(), m_waiting.back().item.get());
+    }
+}
+
+// Puts every waiting folder under the one above it; answers those at the top.
+QList<QTreeWidgetItem *> FolderTree::joinWaiting()
+{
+    std::sort(m_waiting.begin(), m_waiting.end(),
+              [](const Waiting &left, const Waiting &right) { return left.key < right.key; });
+    QHash<QString, QList<QTreeWidgetItem *>> below;
+    for (Waiting &each : m_waiting)
+        if (each.above.isEmpty() || m_waitingItems.contains(each.above))
+            below[each.above].append(each.item.release());
+    for (auto it = below.cbegin(); it != below.cend(); ++it)
+        if (!it.key().isEmpty())
+            m_waitingItems.value(it.key())->addChildren(it.value());
+    m_items = std::exchange(m_waitingItems, {});
+    m_waiting.clear();
+    return below.value(QString());
+}
+
+void FolderTree::showFolders()
 {
     const QString before = chosen();
     const int scrolled = verticalScrollBar()->value();
     m_filling = true;
     setUpdatesEnabled(false);
     clear();
-    m_items.clear();
-    const QHash<QString, Folders> below = sortedBelow(folders);
-    QStringList open = {QString()};
-    while (!open.isEmpty()) {
-        const QString above = open.takeFirst();
-        const Folders children = below.value(above);
-        for (const QVariantMap &folder : children) {
-            addFolder(folder, itemAt(above));
-            open.append(folder.value(QStringLiteral("path")).toString());
-        }
-    }
+    addTopLevelItems(joinWaiting());
     openItems();
     if (QTreeWidgetItem *item = itemAt(before)) {
         setCurrentItem(item);
@@ -215,7 +215,8 @@ void FolderTree::openItems()
 {
     const bool few = m_items.size() <= mostOpened;
     for (auto it = m_items.cbegin(); it != m_items.cend(); ++it)
-        it.value()->setExpanded(m_opened.value(it.key(), few || !it.value()->parent()));
+        if (m_opened.value(it.key(), few || !it.value()->parent()))
+            it.value()->setExpanded(true);
 }
 
 void FolderTree::rememberOpen(const QTreeWidgetItem *item, bool open)

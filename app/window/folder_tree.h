@@ -1,8 +1,12 @@
 #pragma once
 
+#include <QCollator>
 #include <QHash>
 #include <QTreeWidget>
 #include <QVariant>
+
+#include <memory>
+#include <vector>
 
 namespace window {
 
@@ -29,6 +33,10 @@ public:
      *                 each behind the one above it; they are shown in natural order of their names
      */
     Q_INVOKABLE void setFolders(const QVariantList &folders);
+    /** The same in parts, for thousands of folders: what was shown stays until showFolders(). */
+    Q_INVOKABLE void beginFolders();
+    Q_INVOKABLE void addFolders(const QVariantList &folders);
+    Q_INVOKABLE void showFolders();
     /** {path, name, total, isNew} of the folders in the order shown, closed ones included. */
     Q_INVOKABLE QVariantList folders() const;
 
@@ -41,12 +49,23 @@ protected:
     void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override;
 
 private:
+    /** A folder that is to be shown. */
+    struct Waiting
+    {
+        QCollatorSortKey key;
+        QString above;
+        std::unique_ptr<QTreeWidgetItem> item;
+    };
+
     QTreeWidgetItem *itemAt(const QString &path) const { return m_items.value(path); }
-    void addFolder(const QVariantMap &folder, QTreeWidgetItem *above);
+    QList<QTreeWidgetItem *> joinWaiting();
     void openItems();
     void rememberOpen(const QTreeWidgetItem *item, bool open);
 
     QHash<QString, QTreeWidgetItem *> m_items;
+    std::vector<Waiting> m_waiting;
+    QHash<QString, QTreeWidgetItem *> m_waitingItems;
+    QCollator m_order;
     QHash<QString, bool> m_opened; ///< what the user opened or closed
     bool m_filling = false;
 };

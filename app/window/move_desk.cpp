@@ -1,11 +1,12 @@
 #include "app/window/move_desk.h"
 
-#include "files/move_plan.h"
 #include "files/move_recovery.h"
 #include "files/move_undo.h"
 
 #include "platform/foundation/folders.h"
 #include "platform/foundation/paths.h"
+
+#include <algorithm>
 
 namespace window {
 
@@ -160,6 +161,54 @@ QVariantList MoveDesk::plan(const QVariantList &wishes) const
     for (const QVariant &wish : wishes)
         wanted.push_back(wishFrom(wish.toMap()));
     return listOf(files::planMoves(wanted, m_disk));
+}
+
+QString MoveDesk::beginPlan()
+{
+    const QString plan = QStringLiteral("plan %1").arg(++m_lastPlan);
+    m_plans[plan] = {};
+    return plan;
+}
+
+void MoveDesk::addWishes(const QString &plan, const QVariantList &wishes)
+{
+    const auto found = m_plans.find(plan);
+    if (found == m_plans.end() || found->second.planning)
+        return;
+    for (const QVariant &wish : wishes)
+        found->second.wishes.push_back(wishFrom(wish.toMap()));
+}
+
+bool MoveDesk::workOut(const QString &plan, int milliseconds)
+{
+    const auto found = m_plans.find(plan);
+    if (found == m_plans.end())
+        return true;
+    Draft &draft = found->second;
+    if (!draft.planning)
+        draft.planning = std::make_unique<files::MovePlanning>(std::move(draft.wishes), m_disk);
+    return draft.planning->workFor(std::chrono::milliseconds(milliseconds));
+}
+
+QVariantList MoveDesk::planned(const QString &plan, int from, int to) const
+{
+    QVariantList list;
+    const auto found = m_plans.find(plan);
+    if (found == m_plans.end() || !found->second.planning)
+        return list;
+    const files::MovePlanning &made = *found->second.planning;
+    for (int i = std::max(0, from); i < std::min(to, int(made.plan().size())); ++i) {
+        const PlannedMove &planned = made.plan()[size_t(i)];
+        const bool isPlain =
+            planned.status == PlanStatus::Ready && planned.code.isEmpty() && planned.to == made.wishes()[size_t(i)].to;
+        list.append(isPlain ? nothing : QVariant(mapOf(planned)));
+    }
+    return list;
+}
+
+void MoveDesk::dropPlan(const QString &plan)
+{
+    m_plans.erase(plan);
 }
 
 QVariantMap MoveDesk::started(std::unique_ptr<files::MoveRun> run, const QString &problem)

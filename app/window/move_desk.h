@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/journal_shelf.h"
+#include "files/move_plan.h"
 #include "files/move_run.h"
 
 #include "platform/desktop/disk_file_system.h"
@@ -37,6 +38,18 @@ public:
      */
     Q_INVOKABLE QVariantList plan(const QVariantList &wishes) const;
 
+    /**
+     * The same in slices, for a window that is to answer meanwhile: beginPlan() names a new plan, addWishes() adds to its wishes
+     * (leaders count from the first of all), workOut() works for about so long and says true when the plan is made, planned() tells
+     * of the wishes from @p from to before @p to, with null for each that is ready, without code, and gets the path it asked for.
+     * dropPlan() ends it, made or not.
+     */
+    Q_INVOKABLE QString beginPlan();
+    Q_INVOKABLE void addWishes(const QString &plan, const QVariantList &wishes);
+    Q_INVOKABLE bool workOut(const QString &plan, int milliseconds);
+    Q_INVOKABLE QVariantList planned(const QString &plan, int from, int to) const;
+    Q_INVOKABLE void dropPlan(const QString &plan);
+
     /** @param run  {title, items: [{kind, from, to, leader: -1}]}; answers {run: id} or {problem} */
     Q_INVOKABLE QVariantMap begin(const QVariantMap &run);
     /** {index, status: "OK", "Failed" or "Skipped", code, message, path}; null after the last item and for an unknown run. */
@@ -65,11 +78,20 @@ public:
     Q_INVOKABLE QVariantList recover();
 
 private:
+    /** A plan in the making; it is begun when the last wish is known. */
+    struct Draft
+    {
+        std::vector<files::MoveWish> wishes;
+        std::unique_ptr<files::MovePlanning> planning;
+    };
+
     QVariantMap started(std::unique_ptr<files::MoveRun> run, const QString &problem);
     files::MoveRun *found(const QString &run) const;
 
     mutable platform::DiskFileSystem m_disk;
     files::DiskJournalShelf m_shelf;
+    std::map<QString, Draft> m_plans;
+    int m_lastPlan = 0;
     std::map<QString, std::unique_ptr<files::MoveRun>> m_runs;
     std::set<std::pair<QString, int>> m_givenUp; ///< items that could not be taken back
 };

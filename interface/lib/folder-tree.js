@@ -3,8 +3,17 @@
 
 import { emptyTable, FolderNames, joinPath, nameKey, splitPath } from "./names.js";
 
+const NONE = Object.freeze([]);
+
+// Ten thousand folders are many: lists are made when something goes into them.
 function nodeAt(path, name, parent, exists) {
-    return { path: path, name: name, parent: parent, exists: exists, inTheWay: "", children: emptyTable(), count: 0, total: 0, rows: [] };
+    return { path: path, name: name, parent: parent, exists: exists, inTheWay: "", children: NONE, count: 0, total: 0, rows: NONE };
+}
+
+function added(list, value) {
+    const longer = list === NONE ? [] : list;
+    longer.push(value);
+    return longer;
 }
 
 /**
@@ -15,18 +24,36 @@ function nodeAt(path, name, parent, exists) {
 export class FolderBook {
     constructor(files) {
         this.files = files;
-        this.nodes = emptyTable();
+        this.bases = emptyTable();
+        this.byKey = emptyTable();
         this.foldersOf = emptyTable();
     }
 
     base(path) {
-        if (this.nodes[path] === undefined) {
-            const info = this.files.info(path);
-            const node = nodeAt(path, path, null, info.exists && info.isFolder);
-            node.inTheWay = info.exists && !info.isFolder ? path : "";
-            this.nodes[path] = node;
+        if (this.bases[path] === undefined) {
+            const known = this.below(path);
+            this.bases[path] = known === null ? this.makeBase(path) : known;
         }
-        return this.nodes[path];
+        return this.bases[path];
+    }
+
+    makeBase(path) {
+        const info = this.files.info(path);
+        const node = nodeAt(path, path, null, info.exists && info.isFolder);
+        node.inTheWay = info.exists && !info.isFolder ? path : "";
+        return node;
+    }
+
+    // The folder at a path that was asked for below a base, or null.
+    below(path) {
+        const parts = splitPath(path);
+        const known = this.byKey[joinPath(parts.folder, nameKey(parts.name))];
+        return known !== undefined && known.path === path ? known : null;
+    }
+
+    /** The node of the folder at a path, or null. */
+    at(path) {
+        return this.bases[path] || this.below(path);
     }
 
     // The folder of that name as it is written on the disk; null where there is none.
@@ -43,7 +70,7 @@ export class FolderBook {
     make(node, wanted) {
         const there = this.folderIn(node, wanted);
         const path = joinPath(node.path, there === null ? wanted : there);
-        const known = this.nodes[path];
+        const known = this.bases[path];
         if (known !== undefined) { // a base that lies below another one
             known.parent = node;
             known.name = splitPath(path).name;
@@ -52,16 +79,17 @@ export class FolderBook {
         const made = nodeAt(path, splitPath(path).name, node, there !== null);
         const isFile = node.exists && there === null && this.files.info(path).exists;
         made.inTheWay = node.inTheWay || (isFile ? path : "");
-        this.nodes[path] = made;
         return made;
     }
 
     child(node, wanted) {
-        const key = nameKey(wanted);
-        if (node.children[key] === undefined) {
-            node.children[key] = this.make(node, wanted);
+        const key = joinPath(node.path, nameKey(wanted));
+        if (this.byKey[key] === undefined) {
+            const made = this.make(node, wanted);
+            this.byKey[key] = made;
+            node.children = added(node.children, made);
         }
-        return node.children[key];
+        return this.byKey[key];
     }
 
     /** The node of a folder below a base. */
@@ -69,11 +97,10 @@ export class FolderBook {
         return names.reduce((node, name) => this.child(node, name), this.base(base));
     }
 
-    /** Counts a file into the folder at the path, when all were placed; row is what rowsBelow() gives back. */
-    count(folder, row) {
-        const node = this.nodes[folder];
+    /** Counts a file into a folder, when all were placed; row is what rowsBelow() gives back. */
+    count(node, row) {
         node.count += 1;
-        node.rows.push(row);
+        node.rows = added(node.rows, row);
         for (let above = node; above !== null; above = above.parent) {
             above.total += 1;
         }
@@ -85,20 +112,38 @@ export class FolderBook {
  * above it, in no order that means anything.
  */
 export function treeRows(book) {
+    return everyRow(treeParts(book));
+}
+
+function everyRow(parts) {
     const rows = [];
-    const add = (node, above) => {
-        if (node.total > 0) {
-            rows.push({ path: node.path, above: above, name: node.name, count: node.count, total: node.total, isNew: !node.exists });
-            Object.keys(node.children).forEach((key) => add(node.children[key], node.path));
-        }
-    };
-    Object.keys(book.nodes).map((path) => book.nodes[path]).filter((node) => node.parent === null).forEach((base) => add(base, ""));
+    for (let part = parts.next(); !part.done; part = parts.next()) {
+        part.value.forEach((row) => rows.push(row));
+    }
     return rows;
 }
 
-/** How many folders will be made. */
-export function newFolders(book) {
-    return treeRows(book).filter((row) => row.isNew).length;
+const AT_ONCE = 100;
+
+/** A generator that gives the same in parts, lists of about a hundred. */
+export function* treeParts(book) {
+    const open = Object.keys(book.bases).map((path) => book.bases[path]).filter((node) => node.parent === null);
+    let rows = [];
+    while (open.length > 0) {
+        const node = open.pop();
+        if (node.total > 0) {
+            rows.push({ path: node.path, above: node.parent === null ? "" : node.parent.path, name: node.name, count: node.count,
+                        total: node.total, isNew: !node.exists });
+            for (let i = node.children.length - 1; i >= 0; i -= 1) {
+                open.push(node.children[i]);
+            }
+        }
+        if (rows.length >= AT_ONCE) {
+            yield rows;
+            rows = [];
+        }
+    }
+    yield rows;
 }
 
 /** The rows of all files that go into the folder at the path or below it; none for a folder that is not in the book. */
@@ -106,10 +151,11 @@ export function rowsBelow(book, path) {
     const rows = [];
     const add = (node) => {
         node.rows.forEach((row) => rows.push(row));
-        Object.keys(node.children).forEach((key) => add(node.children[key]));
+        node.children.forEach(add);
     };
-    if (book.nodes[path] !== undefined) {
-        add(book.nodes[path]);
+    const top = book.at(path);
+    if (top !== null) {
+        add(top);
     }
     return rows;
 }

@@ -203,9 +203,10 @@ export class SortPane extends Pane {
                                              : fill(qsTr("%1 goes into %2"), this.photo.name, sorted.folders.join("/")));
     }
 
-    /** Called with each plan of the whole list. */
-    planned(plan) {
-        this.tree.show(plan, this.window.livePlan.ids);
+    /** A generator that shows a plan of the whole list in the tree; ids are those of its rows. */
+    showPlan(plan, ids) {
+        const showing = this.tree.show(plan, ids);
+        return showing;
     }
 
     /** Called when a run begins: it works on the whole list, with what the files are now. */

@@ -3,11 +3,14 @@
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
-import { newFolders, rowsBelow, treeRows } from "../lib/folder-tree.js";
+import { rowsBelow, treeParts, treeRows } from "../lib/folder-tree.js";
 import { guard } from "../lib/guard.js";
-import { readyOf } from "../lib/move-plan.js";
-import { emptyTable, splitPath } from "../lib/names.js";
+import { isReadyRow, itemOf } from "../lib/move-plan.js";
+import { emptyTable } from "../lib/names.js";
 import { count, fill, shortPath } from "../lib/wording.js";
+
+// Rows are looked at in parts, so that the window answers.
+const AT_ONCE = 200;
 
 /** "240 files into 12 folders · 9 new folders". */
 export function summaryText(ready, folders, fresh) {
@@ -18,32 +21,43 @@ export function summaryText(ready, folders, fresh) {
     return words + " · " + (fresh === 0 ? qsTr("no new folder") : count(fresh, qsTr("1 new folder"), qsTr("%1 new folders")));
 }
 
-function isWritten(item, plan) {
-    const said = plan.items[plan.ofRow[item.row]];
-    return item.kind === "copy" || (item.kind === "move" && said.code === "disk");
+function isWritten(plan, i) {
+    const kind = plan.rows[i].kind;
+    return kind === "copy" || (kind === "move" && itemOf(plan, i).code === "disk");
 }
 
-/** How many bytes each file system gets: [{disk, bytes, free, folder}]. */
-export function bytesByDisk(plan, ready, space) {
-    const disks = emptyTable();
-    ready.filter((item) => !item.along && isWritten(item, plan)).forEach((item) => {
-        const base = plan.rows[item.row].base;
-        if (disks[base] === undefined) {
-            const found = space(base);
-            disks[base] = { disk: found.disk, bytes: 0, free: found.free, folder: base };
+/** How many bytes each file system gets, as rows are added. */
+export class DiskNeeds {
+    /** @param space  function(folder): {free, disk} */
+    constructor(space) {
+        this.space = space;
+        this.byBase = emptyTable();
+    }
+
+    add(plan, i) {
+        if (isWritten(plan, i)) {
+            const base = plan.rows[i].base;
+            if (this.byBase[base] === undefined) {
+                const found = this.space(base);
+                this.byBase[base] = { disk: found.disk, bytes: 0, free: found.free, folder: base };
+            }
+            this.byBase[base].bytes += plan.rows[i].bytes;
         }
-        disks[base].bytes += plan.rows[item.row].bytes;
-    });
-    const joined = [];
-    Object.keys(disks).map((base) => disks[base]).forEach((each) => {
-        const same = joined.find((other) => other.disk === each.disk && each.disk >= 0);
-        if (same === undefined) {
-            joined.push(each);
-        } else {
-            same.bytes += each.bytes;
-        }
-    });
-    return joined;
+    }
+
+    /** [{disk, bytes, free, folder}]; folders on one file system are one entry. */
+    disks() {
+        const joined = [];
+        Object.keys(this.byBase).map((base) => this.byBase[base]).forEach((each) => {
+            const same = joined.find((other) => other.disk === each.disk && each.disk >= 0);
+            if (same === undefined) {
+                joined.push(Object.assign({}, each));
+            } else {
+                same.bytes += each.bytes;
+            }
+        });
+        return joined;
+    }
 }
 
 /** What is to be said about room: {note, problem}. */
@@ -69,26 +83,46 @@ export class SortTree {
         this.tree = this.form.control("sortTree");
         this.book = null;
         this.ids = [];
-        this.rows = [];
         this.tree.folderChosen.connect(guard("tree", () => this.showChosen()));
         this.form.control("sortShowAll").clicked.connect(guard("tree.all", () => this.showAll()));
     }
 
-    /** Shows what a plan makes of the folders; ids are those of its rows. */
-    show(plan, ids) {
+    /** A generator that shows what a plan makes of the folders; ids are those of its rows. */
+    * show(plan, ids) {
         const book = plan.rows.book;
-        const ready = readyOf(plan);
-        const own = ready.filter((item) => !item.along);
-        own.forEach((item) => book.count(splitPath(item.to).folder, item.row));
+        const needs = new DiskNeeds((path) => files.space(path));
+        let ready = 0;
+        for (let i = 0; i < plan.rows.length; i += 1) {
+            if (isReadyRow(plan, i)) {
+                book.count(plan.rows[i].node, i);
+                needs.add(plan, i);
+                ready += 1;
+            }
+            if (i % AT_ONCE === AT_ONCE - 1) {
+                yield plan.rows.length;
+            }
+        }
+        const sum = yield* this.fillTree(book, plan.rows.length);
         this.book = book;
         this.ids = ids;
-        const rows = treeRows(book);
-        this.rows = rows;
-        rows.filter((row) => row.above === "").forEach((row) => { row.name = shortPath(row.path, files.home); });
-        this.tree.setFolders(rows);
+        this.tree.showFolders();
         this.showChosen();
-        const used = rows.filter((row) => row.count > 0);
-        this.say(summaryText(own.length, used.length, newFolders(book)), bytesByDisk(plan, ready, (path) => files.space(path)));
+        this.say(summaryText(ready, sum.used, sum.fresh), needs.disks());
+    }
+
+    // {used: folders that get files themselves, fresh: those that will be made}
+    * fillTree(book, shown) {
+        const sum = { used: 0, fresh: 0 };
+        this.tree.beginFolders();
+        const parts = treeParts(book);
+        for (let part = parts.next(); !part.done; part = parts.next()) {
+            part.value.filter((row) => row.above === "").forEach((row) => { row.name = shortPath(row.path, files.home); });
+            sum.used += part.value.filter((row) => row.count > 0).length;
+            sum.fresh += part.value.filter((row) => row.isNew).length;
+            this.tree.addFolders(part.value);
+            yield shown;
+        }
+        return sum;
     }
 
     say(summary, disks) {
@@ -105,8 +139,12 @@ export class SortTree {
 
     /** Folders were made or taken away. */
     lookAgain() {
-        this.rows.forEach((row) => { row.isNew = !files.info(row.path).exists; });
-        this.tree.setFolders(this.rows);
+        const rows = this.book === null ? [] : treeRows(this.book);
+        rows.forEach((row) => {
+            row.isNew = !files.info(row.path).exists;
+            row.name = row.above === "" ? shortPath(row.path, files.home) : row.name;
+        });
+        this.tree.setFolders(rows);
     }
 
     showAll() {
@@ -116,7 +154,6 @@ export class SortTree {
     /** There is no plan, since something is wrong with the settings. */
     clear() {
         this.book = null;
-        this.rows = [];
         this.tree.setFolders([]);
         this.say("", []);
         this.showChosen();

@@ -10,7 +10,7 @@ import { folderNameProblems, foldersFor, patternProblems, prepared } from "../li
 import { fill } from "../lib/wording.js";
 
 // Files are looked into for about this long before the window gets its turn.
-const SLICE_MS = 10;
+const SLICE_MS = 5;
 
 export const KINDS = ["move", "copy", "link"];
 
@@ -77,15 +77,17 @@ function rowFor(path, index, settings, context) {
     if (settings.destination.kind === "beside" && endsWithFolders(folder, sorted.folders)) {
         return row({ to: path, kind: settings.kind, shown: sorted.folders.join("/"), notes: [qsTr("It lies in such a folder already.")] });
     }
-    const made = wish(path, context.book.place(base, sorted.folders), sorted, settings, context);
+    const node = context.book.place(base, sorted.folders);
+    const made = wish(path, node, sorted, settings, context);
     made.base = base;
+    made.node = node;
     made.bytes = context.needsBytes ? sizeOf(path, facts, services) : 0;
     return made;
 }
 
 /**
  * A generator that works out where each file goes: see lib/move-plan.js. The rows also have base, the folder that their folders
- * are in, and bytes where these may have to be copied; the array has `book`, the folders (lib/folder-tree.js).
+ * are in, node, that of their folder, and bytes where these may have to be copied; the array has `book`, the folders (lib/folder-tree.js).
  */
 export function* rows(paths, settings, services) {
     const context = { ready: prepared(settings.pattern), book: new FolderBook(services.files), sidecars: new Sidecars(services.files),

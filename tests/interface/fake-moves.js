@@ -26,4 +26,33 @@ export class FakeMoves {
         });
         return items;
     }
+
+    // The same in slices, one plan at a time.
+    beginPlan() {
+        this.wishes = [];
+        this.worked = 0;
+        this.dropped = false;
+        return "plan";
+    }
+
+    addWishes(plan, wishes) {
+        wishes.forEach((wish) => this.wishes.push(wish));
+    }
+
+    workOut() {
+        this.worked += 1;
+        if (this.worked === 2) {
+            this.items = this.plan(this.wishes);
+        }
+        return this.worked >= 2;
+    }
+
+    planned(plan, from, to) {
+        return this.items.slice(from, to).map((item, i) => (item.status === "ready" && item.code === "" && item.to === this.wishes[from + i].to
+            ? null : item));
+    }
+
+    dropPlan() {
+        this.dropped = true;
+    }
 }

@@ -1,4 +1,4 @@
-import { endsWithFolders, FolderBook, newFolders, rowsBelow, treeRows } from "../../interface/lib/folder-tree.js";
+import { endsWithFolders, FolderBook, rowsBelow, treeRows } from "../../interface/lib/folder-tree.js";
 import { equal, finish, test } from "./check.js";
 import { FakeFiles } from "./fakes.js";
 
@@ -15,12 +15,11 @@ test("countsIntoFoldersAndThoseAbove", () => {
     const day = filled.place("/p", ["2026", "08-14"]);
     const year = filled.place("/p", ["2026"]);
     filled.place("/p", ["2025"]);
-    filled.count(day.path, 0);
-    filled.count(day.path, 1);
-    filled.count(year.path, 2);
+    filled.count(day, 0);
+    filled.count(day, 1);
+    filled.count(year, 2);
     equal(shown(filled), [["/p", "", "/p", 0, 3, false], ["/p/2026", "/p", "2026", 1, 3, false],
                           ["/p/2026/08-14", "/p/2026", "08-14", 2, 2, true]]);
-    equal(newFolders(filled), 1);
     equal([rowsBelow(filled, "/p"), rowsBelow(filled, "/p/2026/08-14"), rowsBelow(filled, "/else")], [[2, 0, 1], [0, 1], []]);
 });
 
@@ -42,7 +41,7 @@ test("joinsABaseToTheTreeAboveIt", () => {
     for (const order of [["/p", "/p/2026"], ["/p/2026", "/p"]]) {
         const filled = book({ "/p": "folder", "/p/2026": "folder" });
         const places = { "/p": ["2026", "a"], "/p/2026": ["b"] };
-        const folders = order.map((base) => filled.place(base, places[base]).path);
+        const folders = order.map((base) => filled.place(base, places[base]));
         folders.forEach((folder, i) => filled.count(folder, i));
         equal(shown(filled).map((row) => row[0] + " " + row[4]).sort(), ["/p 2", "/p/2026 2", "/p/2026/a 1", "/p/2026/b 1"], order.join());
     }
@@ -71,7 +70,7 @@ test("placesTenThousandInLittleTime", () => {
     const filled = book({ "/p": "folder" });
     const start = Date.now();
     for (let i = 0; i < 10000; i += 1) {
-        filled.count(filled.place("/p", ["20" + i % 30, "day " + i % 900]).path, i);
+        filled.count(filled.place("/p", ["20" + i % 30, "day " + i % 900]), i);
     }
     print("10,000 files placed in " + (Date.now() - start) + " ms, " + treeRows(filled).length + " folders");
     equal(treeRows(filled)[0].total, 10000);

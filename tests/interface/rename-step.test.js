@@ -1,5 +1,5 @@
 import { cNSStringHandling } from "quorlin";
-import { itemOf, planMoves, readyOf, shownName } from "../../interface/lib/move-plan.js";
+import { itemOf, planMoves, readyItems, shownName } from "../../interface/lib/move-plan.js";
 import { stateOf } from "../../interface/lib/move-words.js";
 import { newStep } from "../../interface/lib/name-steps.js";
 import { splitPath } from "../../interface/lib/names.js";
@@ -25,6 +25,10 @@ function planned(paths, steps, changes, own) {
     const plan = drain(planMoves(paths, rename, settings(steps, changes), used)).result;
     const states = plan.rows.map((row, i) => stateOf(row, itemOf(plan, i), row.goesWith >= 0 ? splitPath(paths[row.goesWith]).name : ""));
     return { plan: plan, names: plan.rows.map((row, i) => shownName(row, itemOf(plan, i))), states: states, texts: states.map((state) => state.text) };
+}
+
+function readyOf(plan) {
+    return drain(readyItems(plan)).result;
 }
 
 const lower = newStep("case", { part: "both" });
@@ -78,6 +82,17 @@ for (const entry of REFUSED) {
         isTrue(made.texts[0].startsWith(entry[1]), made.texts[0]);
     });
 }
+
+test("dropsThePlanThatIsMadeNoMore", () => {
+    const own = services();
+    const planning = planMoves(["/p/A.JPG"], rename, settings([lower]), own);
+    while (own.moves.wishes === undefined || own.moves.wishes.length === 0) {
+        planning.next();
+    }
+    equal(own.moves.dropped, false);
+    planning.return();
+    equal(own.moves.dropped, true);
+});
 
 test("saysThatAPlaceIsChanged", () => {
     const row = { along: [], caution: "", notes: [], goesWith: -1 };

@@ -108,7 +108,7 @@ test("countsFilesThatAreGoneAsUnknown", () => {
 
 test("hasTheFoldersForTheTree", () => {
     const rows = rowsOf({ "/in/a.jpg": DAY, "/in/b.jpg": "2025-01-01T00:00:00" }, {}, { "/in/2026": "folder" });
-    paths(rows).forEach((path, i) => rows.book.count(path.slice(0, path.lastIndexOf("/")), i));
+    rows.forEach((row, i) => rows.book.count(row.node, i));
     equal(treeRows(rows.book).map((row) => row.path + " " + row.total + (row.isNew ? " new" : "")).sort(),
           ["/in 2", "/in/2025 1 new", "/in/2025/2025-01-01 1 new", "/in/2026 1", "/in/2026/2026-08-14 1 new"]);
 });

@@ -13,6 +13,7 @@ class TestSeamMoves : public QObject
 private Q_SLOTS:
     void init();
     void plansWithoutTouchingAnything();
+    void plansTheSameInSlices();
     void carriesOutARunItemByItem();
     void endsBeforeTheLastItem();
     void addsItemsOneByOne();
@@ -66,6 +67,22 @@ void TestSeamMoves::plansWithoutTouchingAnything()
             "[\"refused\",\"twice\",\"D/b.jpg\",\"D/x.jpg\"],[\"ready\",\"numbered\",\"D/b.jpg\",\"D/b (2).jpg\"]]"));
     QCOMPARE(read("a.jpg"), QByteArray("a.jpg"));
     QCOMPARE(read("x.jpg"), QByteArray("nothing"));
+}
+
+void TestSeamMoves::plansTheSameInSlices()
+{
+    QCOMPARE(
+        answer(QStringLiteral(
+            "const wishes = [move('a.jpg', 'b.jpg'), move('b.jpg', 'x.jpg'), Object.assign(move('c.jpg', 'y.jpg'),"
+            " { leader: 0 }), move('c.jpg', 'x.jpg')];"
+            "const at = moves.beginPlan(); moves.addWishes(at, wishes.slice(0, 2)); moves.addWishes(at, "
+            "wishes.slice(2));"
+            "while (!moves.workOut(at, 0)) {}"
+            "const whole = moves.plan(wishes); const parts = moves.planned(at, 0, 3).concat(moves.planned(at, 3, 9));"
+            "report(whole.map((item, i) => parts[i] === null ? [item.status + item.code, item.to === wishes[i].to]"
+            " : JSON.stringify(item) === JSON.stringify(parts[i])));"
+            "moves.dropPlan(at); report([moves.planned(at, 0, 4), moves.workOut(at, 1), moves.workOut('none', 1)]);")),
+        QStringLiteral("[true,[\"ready\",true],[\"ready\",true],true]\n[[],true,true]"));
 }
 
 void TestSeamMoves::carriesOutARunItemByItem()

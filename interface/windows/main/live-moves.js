@@ -10,14 +10,14 @@ const ROWS_A_SLICE = 40;
 const SETTLE_MS = 15;
 const TELL_MS = 400;
 
-/** Shows the state of one row of a plan; returns it. */
+/** Shows the state of one row of a plan; returns "ready", "same", "along" or "attention". */
 export function showRow(list, id, plan, i, paths) {
     const row = plan.rows[i];
     const item = itemOf(plan, i);
     const state = stateOf(row, item, row.goesWith >= 0 ? splitPath(paths[row.goesWith]).name : "");
     list.setPlan(id, shownName(row, item), "");
     list.setStatus(id, state.kind, state.text, state.detail);
-    return state;
+    return state.state;
 }
 
 /** A generator that plans and shows the plan. It yields between slices, and returns the plan with its states. */
@@ -50,7 +50,7 @@ export function countStates(plan) {
     const sum = { ready: 0, attention: 0, same: 0, along: 0 };
     plan.states.forEach((state) => {
         if (state !== null) {
-            sum[state.state] += 1;
+            sum[state] += 1;
         }
     });
     return sum;
@@ -67,12 +67,21 @@ export class LiveMoves extends LivePlan {
     }
 
     work(ids, settings) {
-        const window = this.window;
-        // The engine loses a generator that is returned by the call that makes it.
         this.toldMs = Date.now() + TELL_MS;
-        const planning = showPlan(window.pictures, ids, window.pictures.paths(), window.action.step, settings, window.services,
-                                  (id) => this.isFinal(id));
+        // The engine loses a generator that is returned by the call that makes it.
+        const planning = this.planAll(ids, settings);
         return planning;
+    }
+
+    // The pane may have something to show beside the list.
+    * planAll(ids, settings) {
+        const window = this.window;
+        const plan = yield* showPlan(window.pictures, ids, window.pictures.paths(), window.action.step, settings, window.services,
+                                     (id) => this.isFinal(id));
+        if (window.pane.showPlan !== undefined) {
+            yield* window.pane.showPlan(plan, ids);
+        }
+        return plan;
     }
 
     // Where files have to be looked into it takes a while, and the window says how far it is.

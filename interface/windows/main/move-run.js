@@ -2,7 +2,7 @@
 // Services used: those of the step, moves.
 
 import { guard } from "../../lib/guard.js";
-import { readyOf } from "../../lib/move-plan.js";
+import { readyItems } from "../../lib/move-plan.js";
 import { splitPath } from "../../lib/names.js";
 import { clockText, Progress } from "../../lib/progress.js";
 import { logRow } from "../../lib/report.js";
@@ -54,9 +54,16 @@ export class MoveRun extends BaseRun {
         this.undoes = "";
         this.toldMs = 0;
         this.paths = window.pictures.paths();
-        const work = showPlan(window.pictures, this.ids, this.paths, window.action.step, this.settings, window.services, () => false);
+        const work = this.plan();
         this.job.start(work, () => undefined, guard("moves.planEnd", (how, plan) => this.planEnded(how, plan)));
         this.changed();
+    }
+
+    * plan() {
+        const window = this.window;
+        const plan = yield* showPlan(window.pictures, this.ids, this.paths, window.action.step, this.settings, window.services, () => false);
+        plan.ready = yield* readyItems(plan);
+        return plan;
     }
 
     // A chain with a counter would count the failed ones from the start: what is left is planned like any list.
@@ -69,8 +76,8 @@ export class MoveRun extends BaseRun {
             this.finish(how === "failed" ? String(plan) : qsTr("Cancelled before the first file. Nothing was moved."));
             return;
         }
-        this.items = readyOf(plan);
-        this.leftOut = plan.states.filter((state) => state.state === "attention").length;
+        this.items = plan.ready;
+        this.leftOut = plan.states.filter((state) => state === "attention").length;
         if (this.settings.simulation) {
             this.endSimulation(plan);
         } else if (this.items.length === 0) {
@@ -81,7 +88,7 @@ export class MoveRun extends BaseRun {
     }
 
     endSimulation(plan) {
-        const ready = plan.states.filter((state) => state.state === "ready").length;
+        const ready = plan.states.filter((state) => state === "ready").length;
         const parts = [fill(qsTr("Simulation: %1"), this.window.action.deed(ready, this.settings))];
         if (this.leftOut > 0) {
             parts.push(fill(qsTr("%1 left out"), this.leftOut));

@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace std::chrono_literals;
 using namespace files;
 
 namespace {
@@ -172,6 +173,13 @@ void TestMovePlan::judgesEveryWish()
     for (size_t i = 0; i < plan.size(); ++i)
         words.append(wordsFor(plan[i], wanted[i]));
     QCOMPARE(words, answers);
+    words.clear();
+    MovePlanning slices(wanted, disk);
+    while (!slices.workFor(0ms))
+        continue;
+    for (size_t i = 0; i < wanted.size(); ++i)
+        words.append(wordsFor(slices.plan()[i], wanted[i]));
+    QCOMPARE(words, answers);
 }
 
 void TestMovePlan::refusesNamesThatAreTooLong()
@@ -231,6 +239,13 @@ void TestMovePlan::plansTenThousandWishesInOneGo()
     for (const PlannedMove &planned : planMoves(wishes, disk))
         QCOMPARE(planned.code, QStringLiteral("taken"));
     QCOMPARE(disk.listings, 1);
+    MovePlanning slices(wishes, disk);
+    int sliceCount = 1;
+    while (!slices.workFor(0ms))
+        ++sliceCount;
+    QVERIFY2(sliceCount > 4 * count, qPrintable(QString::number(sliceCount))); // no part of it is long
+    for (const PlannedMove &planned : slices.plan())
+        QCOMPARE(planned.code, QStringLiteral("taken"));
     disk.drop(QStringLiteral("/d/%1").arg(count));
     int asides = 0;
     for (const PlannedMove &planned : planMoves(wishes, disk))
