@@ -19,9 +19,9 @@ export function pixels(size) {
     return size.width + "×" + size.height;
 }
 
-/** 39.68 gives "39.7 %" with a space that does not break. */
+/** 39.68 gives "39.7 %" in the reader's own form of numbers, with a space that does not break. */
 export function percent(value) {
-    return String(Math.round(value * 10) / 10) + "\u00a0%";
+    return (Math.round(value * 10) / 10).toLocaleString() + "\u00a0%";
 }
 
 /** The path with the home folder written as "~". */

@@ -15,7 +15,7 @@ export const FRAME = 10;
 export const defaults = {
     under: "color", color: "#ffffff", pattern: "", frame: "none", bandColor: "#202124", bandWidth: 40,
     output: {
-        fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: "Framed", path: "" },
+        fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: qsTr("Framed"), path: "" },
         ifTaken: "number", simulation: false,
     },
 };

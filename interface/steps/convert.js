@@ -11,7 +11,7 @@ import { outputMessages, ready, refused } from "../lib/written.js";
 export const defaults = {
     target: "jpeg", quality: "8",
     output: {
-        fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: "Converted", path: "" },
+        fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: qsTr("Converted"), path: "" },
         ifTaken: "number", simulation: false,
     },
 };

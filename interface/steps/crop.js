@@ -15,7 +15,7 @@ export const defaults = {
     mode: "percent", width: 1200, height: 800, unit: PIXEL, percent: 20, pixels: 200, position: 4, offsetX: 0, offsetY: 0,
     ratio: "free",
     output: {
-        fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: "Cropped", path: "" },
+        fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: qsTr("Cropped"), path: "" },
         ifTaken: "number", simulation: false,
     },
 };

@@ -18,7 +18,7 @@ export const defaults = {
     mode: "longest", width: 1600, height: 1200, longest: 1600, percent: 50, boxWidth: 1600, boxHeight: 1200,
     boxFit: "fill", neverEnlarge: true, unit: PIXEL,
     output: {
-        fileType: ORIGINAL, quality: "8", destination: { kind: "beside", name: "Resized", path: "" },
+        fileType: ORIGINAL, quality: "8", destination: { kind: "beside", name: qsTr("Resized"), path: "" },
         ifTaken: "number", simulation: false,
     },
 };

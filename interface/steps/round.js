@@ -13,7 +13,7 @@ export const MOST_BAND = 10000;
 export const defaults = {
     shape: "rectangle", radius: 100, background: false, color: "#ffffff", band: 0,
     output: {
-        fileType: "public.png", quality: "10", destination: { kind: "beside", name: "Rounded", path: "" },
+        fileType: "public.png", quality: "10", destination: { kind: "beside", name: qsTr("Rounded"), path: "" },
         ifTaken: "number", simulation: false,
     },
 };

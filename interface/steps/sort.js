@@ -16,7 +16,7 @@ export const KINDS = ["move", "copy", "link"];
 
 /** What a new pane shows. `pattern` is one of lib/sorting.js; undated says what becomes of files without a date taken. */
 export const defaults = {
-    pattern: "{taken:yyyy}/{taken:yyyy-MM-dd}", undated: "folder", undatedName: "Undated",
+    pattern: "{taken:yyyy}/{taken:yyyy-MM-dd}", undated: "folder", undatedName: qsTr("Undated"),
     kind: "move", destination: { kind: "beside", path: "" }, ifTaken: "number", simulation: false,
 };
 

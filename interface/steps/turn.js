@@ -11,7 +11,7 @@ import { outcome, outputMessages, ready, refused, targetOf } from "../lib/writte
 export const defaults = {
     angle: 90, flipHorizontal: false, flipVertical: false,
     output: {
-        fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: "Turned", path: "" },
+        fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: qsTr("Turned"), path: "" },
         ifTaken: "number", simulation: false,
     },
 };
