@@ -4,6 +4,8 @@
 
 #include "platform/foundation/paths.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace files {
@@ -14,6 +16,11 @@ using platform::ItemState;
 using platform::joinedPath;
 using platform::lastPathComponent;
 using platform::parentFolder;
+
+QString said(const char *sentence, const QString &name)
+{
+    return QCoreApplication::translate("files", sentence).arg(name);
+}
 
 DeedOutcome failed(const QString &code, const QString &path)
 {
@@ -37,7 +44,7 @@ DeedOutcome failureFor(const std::error_code &error, const QString &path, const 
         return failed(QStringLiteral("long"), to);
     DeedOutcome other;
     other.code = QStringLiteral("other");
-    other.message = QStringLiteral("%1 stays as it is: %2")
+    other.message = QCoreApplication::translate("files", "%1 stays as it is: %2")
                         .arg(lastPathComponent(path), QString::fromLocal8Bit(error.message().c_str()));
     return other;
 }
@@ -46,24 +53,24 @@ QString MoveDeeds::sentence(const QString &code, const QString &path)
 {
     const QString name = lastPathComponent(path);
     if (code == QStringLiteral("taken"))
-        return QStringLiteral("The name %1 is taken").arg(name);
+        return said(QT_TRANSLATE_NOOP("files", "The name %1 is taken"), name);
     if (code == QStringLiteral("gone"))
-        return QStringLiteral("%1 is not there any more").arg(name);
+        return said(QT_TRANSLATE_NOOP("files", "%1 is not there any more"), name);
     if (code == QStringLiteral("changed"))
-        return QStringLiteral("%1 was changed or replaced in the meantime").arg(name);
+        return said(QT_TRANSLATE_NOOP("files", "%1 was changed or replaced in the meantime"), name);
     if (code == QStringLiteral("locked"))
-        return QStringLiteral("%1 or its folder may not be changed").arg(name);
+        return said(QT_TRANSLATE_NOOP("files", "%1 or its folder may not be changed"), name);
     if (code == QStringLiteral("full"))
-        return QStringLiteral("There is no room left on the disk for %1").arg(name);
+        return said(QT_TRANSLATE_NOOP("files", "There is no room left on the disk for %1"), name);
     if (code == QStringLiteral("long"))
-        return QStringLiteral("The name %1 is too long for this disk").arg(name);
+        return said(QT_TRANSLATE_NOOP("files", "The name %1 is too long for this disk"), name);
     if (code == QStringLiteral("inside"))
-        return QStringLiteral("The folder %1 cannot go into itself").arg(name);
+        return said(QT_TRANSLATE_NOOP("files", "The folder %1 cannot go into itself"), name);
     if (code == QStringLiteral("circle"))
-        return QStringLiteral("%1 could not get its new name, and others wait for its old one").arg(name);
+        return said(QT_TRANSLATE_NOOP("files", "%1 could not get its new name, and others wait for its old one"), name);
     if (code == QStringLiteral("leader"))
-        return QStringLiteral("%1, which it belongs to, keeps its name").arg(name);
-    return QStringLiteral("%1 could not be copied correctly").arg(name);
+        return said(QT_TRANSLATE_NOOP("files", "%1, which it belongs to, keeps its name"), name);
+    return said(QT_TRANSLATE_NOOP("files", "%1 could not be copied correctly"), name);
 }
 
 QString asidePath(const QString &run, int index, const MoveItem &item)

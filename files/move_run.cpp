@@ -5,6 +5,7 @@
 
 #include "platform/foundation/paths.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QRandomGenerator>
 
@@ -310,8 +311,9 @@ void MoveRun::bringBack(int index, const DeedOutcome &why)
         if (!m_disk.rename(aside, joinedPath(parentFolder(item.from), name)))
             outcome.path = joinedPath(parentFolder(item.from), name);
     }
-    outcome.message = QStringLiteral("The name %1 was taken in the meantime; the item is now called %2")
-                          .arg(lastPathComponent(item.from), lastPathComponent(outcome.path));
+    outcome.message =
+        QCoreApplication::translate("files", "The name %1 was taken in the meantime; the item is now called %2")
+            .arg(lastPathComponent(item.from), lastPathComponent(outcome.path));
     markFailed(index, outcome);
     if (outcome.path == aside)
         at(index).stand = Stand::Aside;
@@ -429,7 +431,8 @@ void MoveRun::mend()
     }
     for (int i = 0; i < int(m_record.items.size()); ++i)
         if (at(i).stand == Stand::Aside)
-            bringBack(i, {QStringLiteral("other"), QStringLiteral("The run was interrupted"), {}, {}});
+            bringBack(
+                i, {QStringLiteral("other"), QCoreApplication::translate("files", "The run was interrupted"), {}, {}});
 }
 
 } // namespace files

@@ -5,6 +5,7 @@
 
 #include "platform/foundation/paths.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <set>
@@ -145,13 +146,13 @@ std::set<int> standingItems(const JournalShelf &shelf, const RunRecord &run)
 QString whyNot(const RunRecord &run, const std::set<int> &standing)
 {
     if (run.id.isEmpty())
-        return QStringLiteral("Nothing is known of this run any more");
+        return QCoreApplication::translate("files", "Nothing is known of this run any more");
     if (run.end.isEmpty())
-        return QStringLiteral("This run has not ended yet");
+        return QCoreApplication::translate("files", "This run has not ended yet");
     if (!standing.empty())
         return {};
-    return run.doneAtEnd == 0 ? QStringLiteral("Nothing was done in this run")
-                              : QStringLiteral("This run was taken back already");
+    return run.doneAtEnd == 0 ? QCoreApplication::translate("files", "Nothing was done in this run")
+                              : QCoreApplication::translate("files", "This run was taken back already");
 }
 
 } // namespace
@@ -176,7 +177,7 @@ UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, c
     }
     leaveOutHindered(disk, plan.form.items, plan.problems);
     if (plan.form.items.empty())
-        plan.problem = QStringLiteral("Nothing of this run can be taken back any more");
+        plan.problem = QCoreApplication::translate("files", "Nothing of this run can be taken back any more");
     plan.form.title = record.title;
     plan.form.undoes = run;
     for (const QString &folder : record.made)

@@ -5,8 +5,8 @@
 namespace window {
 
 /**
- * The words of the toolkit's own dialogs: those for files, colours and printing, the buttons of questions and the menus of text
- * fields. The toolkit asks the installed translators for them under these names. Nothing looks into this list: it stands here so
+ * The words of the toolkit's own dialogs: those for files, colours and printing, the buttons of questions, the menus of text
+ * fields and the names of keys. The toolkit asks the installed translators for them under these names. Nothing looks into this list: it stands here so
  * that the texts are collected, translated and checked like our own.
  */
 // clang-format off
@@ -193,6 +193,25 @@ inline constexpr const char *toolkitWords[] = {
     QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Off"),
     QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Long side binding"),
     QT_TRANSLATE_NOOP("QPrintSettingsOutput", "Short side binding"),
+    QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),
+    QT_TRANSLATE_NOOP("QShortcut", "Shift"),
+    QT_TRANSLATE_NOOP("QShortcut", "Alt"),
+    QT_TRANSLATE_NOOP("QShortcut", "Space"),
+    QT_TRANSLATE_NOOP("QShortcut", "Esc"),
+    QT_TRANSLATE_NOOP("QShortcut", "Tab"),
+    QT_TRANSLATE_NOOP("QShortcut", "Backspace"),
+    QT_TRANSLATE_NOOP("QShortcut", "Return"),
+    QT_TRANSLATE_NOOP("QShortcut", "Enter"),
+    QT_TRANSLATE_NOOP("QShortcut", "Ins"),
+    QT_TRANSLATE_NOOP("QShortcut", "Del"),
+    QT_TRANSLATE_NOOP("QShortcut", "Home"),
+    QT_TRANSLATE_NOOP("QShortcut", "End"),
+    QT_TRANSLATE_NOOP("QShortcut", "Left"),
+    QT_TRANSLATE_NOOP("QShortcut", "Up"),
+    QT_TRANSLATE_NOOP("QShortcut", "Right"),
+    QT_TRANSLATE_NOOP("QShortcut", "Down"),
+    QT_TRANSLATE_NOOP("QShortcut", "PgUp"),
+    QT_TRANSLATE_NOOP("QShortcut", "PgDown"),
 };
 // clang-format on
 
