@@ -51,9 +51,9 @@ Metadata metadataForStoredPixels(const ImageSource &source)
     return source.metadata().withOrientation(source.orientation());
 }
 
-Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, const QString &destination)
+Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, const Metadata &metadata,
+                                  const QString &destination)
 {
-    const Metadata metadata = metadataForStoredPixels(source);
     const Result<QByteArray> plain =
         pixelsOf(source, platform::Orientation::AsStored).and_then([format](const Bitmap &bitmap) {
             return platform::encodeImage(bitmap, format, withResolution());
@@ -75,6 +75,14 @@ Result<void> writePixels(const ImageSource &source, FileFormat format, const Con
     });
 }
 
+/** The short way, or the one that always goes. */
+template<typename Way> Result<void> orElse(const Result<bool> &shortWay, Way otherWay)
+{
+    if (!shortWay)
+        return tl::unexpected<platform::Error>(shortWay.error());
+    return *shortWay ? Result<void>() : otherWay();
+}
+
 Result<void> writePage(const ImageSource &source, const QString &destination)
 {
     return source.asPdfPage().and_then(
@@ -87,11 +95,15 @@ Result<void> write(const ImageSource &source, const Conversion &conversion)
     case TargetType::Pdf:
         return writePage(source, conversion.destination);
     case TargetType::Png:
-        return writeKeepingMetadata(source, FileFormat::Png, conversion.destination);
-    case TargetType::Tiff:
-        return writeKeepingMetadata(source, FileFormat::Tiff, conversion.destination);
+        return writeKeepingMetadata(source, FileFormat::Png, metadataForStoredPixels(source), conversion.destination);
+    case TargetType::Tiff: {
+        const Metadata metadata = metadataForStoredPixels(source);
+        return orElse(source.writeRowsAsTiff(conversion.destination, metadata),
+                      [&] { return writeKeepingMetadata(source, FileFormat::Tiff, metadata, conversion.destination); });
+    }
     case TargetType::Bmp:
-        return writePixels(source, FileFormat::Bmp, conversion);
+        return orElse(source.writeRowsAsBmp(conversion.destination),
+                      [&] { return writePixels(source, FileFormat::Bmp, conversion); });
     case TargetType::Gif:
         return writePixels(source, FileFormat::Gif, conversion);
     case TargetType::Jpeg:

@@ -67,7 +67,7 @@ def text():
     lines += ["", "CMYK stays in TIFF, JPEG and PDF, Lab and floating point in TIFF; elsewhere they become sRGB. Of files with several",
               "pictures, pages or frames the first one is converted. A JPEG goes into a PDF page byte for byte where it is upright, with",
               "whatever it holds in itself; one that lies on its side is turned first, without loss where that can be done. What a PNG says",
-              "in texts, and its gamma, goes along into a PNG. PDF and SVG are drawn at 72 pixels per inch. A JPEG of CMYK states no resolution.", "",
+              "in texts, and its gamma, goes along into a PNG. PDF and SVG are drawn at 72 pixels per inch.", "",
               "## What gets lost", "", row(["from"] + ["to " + NAMES[name] for name in targets]),
               "|---" * (len(targets) + 1) + "|"]
     for source in SOURCES:

@@ -6,22 +6,10 @@
 #include <QFile>
 
 #include <cerrno>
-#include <cstring>
 #include <sys/stat.h>
 
 namespace platform {
 namespace {
-
-QString systemReason(int code)
-{
-    return QString::fromLocal8Bit(std::strerror(code));
-}
-
-tl::unexpected<Error> writeFailure(const QString &path, int code)
-{
-    return failure(ErrorCode::WriteFailed,
-                   QCoreApplication::translate("platform", "Cannot write %1: %2").arg(path, systemReason(code)));
-}
 
 bool copySpliced(TemporaryFile &file, int source, qint64 size, const QList<Splice> &splices)
 {

@@ -1,11 +1,13 @@
 #include "platform/foundation/temporary_file.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -47,6 +49,12 @@ void copyAttributes(int source, int target)
 
 } // namespace
 
+tl::unexpected<Error> writeFailure(const QString &path, int code)
+{
+    return failure(ErrorCode::WriteFailed, QCoreApplication::translate("platform", "Cannot write %1: %2")
+                                               .arg(path, QString::fromLocal8Bit(std::strerror(code))));
+}
+
 TemporaryFile::TemporaryFile(const QString &target)
     : m_target(QFile::encodeName(target)), m_folder(QFile::encodeName(QFileInfo(target).path()))
 {
@@ -82,6 +90,19 @@ bool TemporaryFile::write(const QByteArray &bytes)
         if (count < 0)
             return false;
         done += count;
+    }
+    return true;
+}
+
+bool TemporaryFile::writeAt(qint64 position, const char *bytes, qint64 count)
+{
+    for (qint64 done = 0; done < count;) {
+        const ssize_t written = ::pwrite(m_descriptor, bytes + done, size_t(count - done), position + done);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return false;
+        done += written;
     }
     return true;
 }

@@ -2,12 +2,17 @@
 
 // Inside platform/foundation only.
 
+#include "platform/foundation/result.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <sys/types.h>
 
 namespace platform {
+
+/** What is told of a file that could not be written; @p code is an errno. */
+tl::unexpected<Error> writeFailure(const QString &path, int code);
 
 /**
  * A new file that has no name until it takes the place of another one, so that a process that ends in between leaves
@@ -24,6 +29,8 @@ public:
 
     bool isOpen() const { return m_descriptor >= 0; }
     bool write(const QByteArray &bytes);
+    /** Writes @p count bytes at @p position, which does not move where write() goes on. */
+    bool writeAt(qint64 position, const char *bytes, qint64 count);
     /** Copies @p size bytes from @p position of an open file on, within the kernel where it can. */
     bool copyFrom(int source, qint64 position, qint64 size);
     /** The permissions of the file that is about to be replaced, or those of any new file. */

@@ -123,11 +123,7 @@ int Bitmap::bitsPerComponent() const
 
 QByteArray Bitmap::iccProfile() const
 {
-    if (!m_pixels || m_pixels->image.get_typeof(VIPS_META_ICC_NAME) == 0)
-        return {};
-    size_t length = 0;
-    const void *profile = m_pixels->image.get_blob(VIPS_META_ICC_NAME, &length);
-    return {static_cast<const char *>(profile), qsizetype(length)};
+    return m_pixels ? iccProfileOf(m_pixels->image) : QByteArray();
 }
 
 double Bitmap::horizontalDpi() const

@@ -1,6 +1,6 @@
 #include "platform/graphics/layers.h"
 
-#include "platform/imageio/profile_name.h"
+#include "platform/graphics/icc_profile.h"
 
 #include <QTemporaryFile>
 
@@ -29,19 +29,11 @@ bool hasAlpha(const VImage &image)
     return image.bands() > colorBands(image);
 }
 
-QByteArray profileOf(const VImage &image)
+/** Colours that are the ones of sRGB: converting would only add rounding. */
+bool isInSrgb(const VImage &image)
 {
-    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
-        return {};
-    size_t length = 0;
-    const auto *bytes = static_cast<const char *>(image.get_blob(VIPS_META_ICC_NAME, &length));
-    return {bytes, qsizetype(length)};
-}
-
-/** A profile whose colours are the ones of sRGB: converting would only add rounding. */
-bool isSrgb(const QByteArray &profile)
-{
-    return profile.isEmpty() || profileName(profile).startsWith(QLatin1String("sRGB"));
+    const QByteArray profile = iccProfileOf(image);
+    return profile.isEmpty() || isSrgb(profile);
 }
 
 bool isDeep(const VImage &image)
@@ -61,9 +53,9 @@ VImage withDepthOf(const VImage &image, const VImage &values)
 
 VImage converted(const VImage &image, const VImage &srgb)
 {
-    const QByteArray profile = profileOf(image);
-    if (isSrgb(profile))
+    if (isInSrgb(image))
         return srgb;
+    const QByteArray profile = iccProfileOf(image);
     // Only a conversion in one go is exact, and it takes the profile from a file.
     QTemporaryFile file;
     if (!file.open() || file.write(profile) != profile.size() || !file.flush())
@@ -93,7 +85,7 @@ VImage newImage(QSize size, int bands, const VImage &like)
                            like.interpretation(), 1, 1);
     if (vips_image_write_prepare(image.get_image()) != 0)
         throw vips::VError();
-    const QByteArray profile = profileOf(like);
+    const QByteArray profile = iccProfileOf(like);
     if (!profile.isEmpty())
         vips_image_set_blob_copy(image.get_image(), VIPS_META_ICC_NAME, profile.constData(), size_t(profile.size()));
     return image;
@@ -203,7 +195,7 @@ MatchedLayers matched(const VImage &over, const VImage &srgb)
     try {
         return {over, inSpaceOf(over, srgb)};
     } catch (const vips::VError &) {
-        if (isSrgb(profileOf(over)))
+        if (isInSrgb(over))
             throw;
     }
     vips_error_clear();

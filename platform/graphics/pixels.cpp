@@ -1,5 +1,7 @@
 #include "platform/graphics/pixels.h"
 
+#include "platform/graphics/icc_profile.h"
+
 #include <cmath>
 #include <cstring>
 #include <malloc.h>
@@ -16,14 +18,11 @@ constexpr const char *profileField = VIPS_META_ICC_NAME;
 
 bool profileFits(const VImage &image)
 {
-    if (image.get_typeof(profileField) == 0)
+    const QByteArray profile = iccProfileOf(image);
+    constexpr qsizetype headerLength = 128;
+    if (profile.size() < headerLength)
         return false;
-    size_t length = 0;
-    const auto *profile = static_cast<const char *>(image.get_blob(profileField, &length));
-    constexpr size_t headerLength = 128;
-    if (length < headerLength)
-        return false;
-    const QByteArray space(profile + 16, 4);
+    const QByteArray space = profile.mid(16, 4);
     switch (image.interpretation()) {
     case VIPS_INTERPRETATION_B_W:
     case VIPS_INTERPRETATION_GREY16:
@@ -134,16 +133,30 @@ double dotsPerInch(double dotsPerMetre)
     return std::round(whole / metresPerInch) == dotsPerMetre ? whole : exact;
 }
 
+QByteArray iccProfileOf(const VImage &image)
+{
+    if (image.get_typeof(profileField) == 0)
+        return {};
+    size_t length = 0;
+    const void *profile = image.get_blob(profileField, &length);
+    return {static_cast<const char *>(profile), qsizetype(length)};
+}
+
 int bytesPerComponent(const VImage &image)
 {
     return int(vips_format_sizeof(image.format()));
 }
 
-Bitmap bitmapFromImage(const VImage &image, Resolution resolution, std::optional<JpegQuantisation> quantisation)
+VImage bareImage(const VImage &image)
 {
     VImage bare = withKnownInterpretation(image).copy();
     dropMetadata(bare);
-    const VImage decoded = inMemory(bare);
+    return bare;
+}
+
+Bitmap bitmapFromImage(const VImage &image, Resolution resolution, std::optional<JpegQuantisation> quantisation)
+{
+    const VImage decoded = inMemory(bareImage(image));
     auto pixels = std::make_shared<Bitmap::Pixels>(Bitmap::Pixels{decoded, resolution, quantisation});
     return Bitmap(std::move(pixels));
 }
@@ -192,11 +205,23 @@ VImage scaledTo(const VImage &image, QSize size)
     return scaled;
 }
 
+static bool isIntegerRgb(const VImage &image)
+{
+    const VipsInterpretation space = image.interpretation();
+    return (space == VIPS_INTERPRETATION_sRGB && image.format() == VIPS_FORMAT_UCHAR) ||
+           (space == VIPS_INTERPRETATION_RGB16 && image.format() == VIPS_FORMAT_USHORT);
+}
+
 VImage convertedToSrgb(const VImage &image)
 {
     const bool is16 = image.format() == VIPS_FORMAT_USHORT;
     const bool hasProfile = image.get_typeof(profileField) != 0;
     const bool isCmyk = image.interpretation() == VIPS_INTERPRETATION_CMYK;
+    if (hasProfile && isIntegerRgb(image) && isSrgb(iccProfileOf(image))) {
+        VImage same = image.copy();
+        same.remove(profileField);
+        return same;
+    }
     if (hasProfile || isCmyk) {
         auto *options = VImage::option()
                             ->set("embedded", hasProfile)

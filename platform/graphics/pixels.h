@@ -40,11 +40,17 @@ QString takeVipsError(const vips::VError &error);
  */
 vips::VImage inMemory(const vips::VImage &image);
 
+/** The profile that an image carries; empty where it has none. */
+QByteArray iccProfileOf(const vips::VImage &image);
+
 /** Bytes per component of an image's band format. */
 int bytesPerComponent(const vips::VImage &image);
 
 /** The image with an interpretation that fits its bands and format, where the file named none that can be worked in. */
 vips::VImage withKnownInterpretation(const vips::VImage &image);
+
+/** The image in the form that bitmaps have, still to be computed: a known interpretation, no metadata but a profile that fits. */
+vips::VImage bareImage(const vips::VImage &image);
 
 /** An image of any kind with pixels pulled into memory, metadata dropped but for a profile that fits its colours. */
 Bitmap bitmapFromImage(const vips::VImage &image, Resolution resolution = {},
@@ -56,7 +62,9 @@ vips::VImage turnedUpright(const vips::VImage &image, int orientation);
 /** The image scaled to exactly @p size, still to be computed; see resample(). */
 vips::VImage scaledTo(const vips::VImage &image, QSize size);
 
-/** An image in sRGB: converted from its profile, or from CMYK or Lab; RGB and grey without a profile stay as they are.
+/**
+ * An image in sRGB: converted from its profile, or from CMYK or Lab. RGB and grey without a profile stay as they are, and so
+ * do the pixels where the profile means sRGB, whatever its name; see isSrgb().
  */
 vips::VImage convertedToSrgb(const vips::VImage &image);
 

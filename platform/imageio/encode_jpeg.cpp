@@ -96,6 +96,9 @@ void useResolution(jpeg_compress_struct &info, Resolution resolution)
     const bool isMetric =
         !isNearlyWhole(resolution.horizontal) && isNearlyWhole(resolution.horizontal / centimetresPerInch);
     const double scale = isMetric ? centimetresPerInch : 1;
+    // Four colours would go without this segment, which is the one place that states a resolution. Readers of theirs go by
+    // the Adobe segment behind it.
+    info.write_JFIF_header = TRUE;
     info.density_unit = isMetric ? 2 : 1;
     info.X_density = UINT16(std::lround(resolution.horizontal / scale));
     info.Y_density = UINT16(std::max(1L, std::lround(resolution.vertical / scale)));

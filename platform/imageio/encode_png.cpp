@@ -40,12 +40,9 @@ void appendResolution(QByteArray &png, Resolution resolution)
 
 void appendProfile(QByteArray &png, const vips::VImage &image)
 {
-    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
-        return;
-    size_t length = 0;
-    const auto *profile = static_cast<const char *>(image.get_blob(VIPS_META_ICC_NAME, &length));
-    appendPngChunk(png, "iCCP",
-                   QByteArray("icc\0\0", 5) + deflated(QByteArray::fromRawData(profile, qsizetype(length))));
+    const QByteArray profile = iccProfileOf(image);
+    if (!profile.isEmpty())
+        appendPngChunk(png, "iCCP", QByteArray("icc\0\0", 5) + deflated(profile));
 }
 
 /** The image with no more than the four components that the format has. */

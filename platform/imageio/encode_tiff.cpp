@@ -19,11 +19,12 @@ template<typename T> void append(QByteArray &bytes, T number)
     bytes.append(text, sizeof number);
 }
 
-/** The one directory of a file, whose longer values are put behind the pixels. Low bytes come first. */
+/** The one directory of a file with its longer values, which stand behind the pixels. Low bytes come first. */
 class Directory
 {
 public:
-    explicit Directory(QByteArray &file) : m_file(file) {}
+    /** @param at  where in the file it all begins */
+    explicit Directory(qint64 at) : m_at(at) {}
 
     void add(quint16 tag, Type type, quint32 count, QByteArray value)
     {
@@ -32,12 +33,10 @@ public:
         append(m_entries, count);
         constexpr int fieldSize = 4;
         if (value.size() > fieldSize) {
-            if (m_file.size() % 2 != 0)
-                m_file.append('\0');
-            const auto at = quint32(m_file.size());
-            m_file.append(value);
+            const quint32 place = evenPlace();
+            m_bytes.append(value);
             value.clear();
-            append(value, at);
+            append(value, place);
         }
         m_entries.append(value.leftJustified(fieldSize, '\0'));
         ++m_count;
@@ -66,20 +65,27 @@ public:
         add(tag, Type::Fraction, 1, bytes);
     }
 
-    /** Puts the directory at the end of the file and its place into the header. */
-    void finish()
+    /** All bytes, the directory at their end, and the header that tells its place. */
+    FileEnds finished()
     {
-        if (m_file.size() % 2 != 0)
-            m_file.append('\0');
-        constexpr int placeInHeader = 4;
-        qToLittleEndian<quint32>(quint32(m_file.size()), m_file.data() + placeInHeader);
-        append(m_file, m_count);
-        m_file.append(m_entries);
-        append(m_file, quint32(0));
+        QByteArray head("II*\0", 4);
+        append(head, evenPlace());
+        append(m_bytes, m_count);
+        m_bytes.append(m_entries);
+        append(m_bytes, quint32(0));
+        return {head, m_bytes};
     }
 
 private:
-    QByteArray &m_file;
+    quint32 evenPlace()
+    {
+        if ((m_at + m_bytes.size()) % 2 != 0)
+            m_bytes.append('\0');
+        return quint32(m_at + m_bytes.size());
+    }
+
+    qint64 m_at;
+    QByteArray m_bytes;
     QByteArray m_entries;
     quint16 m_count = 0;
 };
@@ -103,11 +109,9 @@ Strips stripsOf(const vips::VImage &image, quint32 start)
 
 void addProfile(Directory &directory, const vips::VImage &image)
 {
-    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
-        return;
-    size_t length = 0;
-    const auto *profile = static_cast<const char *>(image.get_blob(VIPS_META_ICC_NAME, &length));
-    directory.add(0x8773, Type::Undefined, quint32(length), QByteArray(profile, qsizetype(length)));
+    const QByteArray profile = iccProfileOf(image);
+    if (!profile.isEmpty())
+        directory.add(0x8773, Type::Undefined, quint32(profile.size()), profile);
 }
 
 struct ColourModel
@@ -126,14 +130,26 @@ ColourModel modelOf(const vips::VImage &image)
     return image.bands() < rgb.colours ? minIsBlack : rgb;
 }
 
-/** The tags in the order of their numbers, as the format wants them. */
-void describe(QByteArray &file, const vips::VImage &image, Resolution resolution, quint32 pixelsAt)
+} // namespace
+
+bool isPlainTiff(const vips::VImage &image)
+{
+    constexpr quint64 mostBytes = quint64(std::numeric_limits<qint32>::max());
+    const bool isWhole = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT;
+    const VipsInterpretation space = image.interpretation();
+    const bool isKnown = space == VIPS_INTERPRETATION_sRGB || space == VIPS_INTERPRETATION_RGB16 ||
+                         space == VIPS_INTERPRETATION_B_W || space == VIPS_INTERPRETATION_GREY16 ||
+                         space == VIPS_INTERPRETATION_CMYK;
+    return isWhole && isKnown && image.bands() <= 5 && VIPS_IMAGE_SIZEOF_IMAGE(image.get_image()) < mostBytes;
+}
+
+FileEnds plainTiffEnds(const vips::VImage &image, Resolution resolution, qint64 tailAt)
 {
     constexpr double defaultDpi = 72;
     const ColourModel model = modelOf(image);
-    const Strips strips = stripsOf(image, pixelsAt);
+    const Strips strips = stripsOf(image, plainTiffHeadBytes);
     const double across = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
-    Directory directory(file);
+    Directory directory(tailAt); // the tags in the order of their numbers, as the format wants them
     directory.addLongs(0x0100, {quint32(image.width())});
     directory.addLongs(0x0101, {quint32(image.height())});
     directory.addShorts(0x0102, QList<quint16>(image.bands(), quint16(bytesPerComponent(image) * 8)));
@@ -154,37 +170,21 @@ void describe(QByteArray &file, const vips::VImage &image, Resolution resolution
         directory.addShorts(0x0152, others);
     }
     addProfile(directory, image);
-    directory.finish();
+    return directory.finished();
 }
-
-/** The kinds that are most of all pictures, and small enough for offsets of 32 bits. */
-bool isPlain(const vips::VImage &image)
-{
-    constexpr quint64 mostBytes = quint64(std::numeric_limits<qint32>::max());
-    const bool isWhole = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT;
-    const VipsInterpretation space = image.interpretation();
-    const bool isKnown = space == VIPS_INTERPRETATION_sRGB || space == VIPS_INTERPRETATION_RGB16 ||
-                         space == VIPS_INTERPRETATION_B_W || space == VIPS_INTERPRETATION_GREY16 ||
-                         space == VIPS_INTERPRETATION_CMYK;
-    return isWhole && isKnown && image.bands() <= 5 && VIPS_IMAGE_SIZEOF_IMAGE(image.get_image()) < mostBytes;
-}
-
-} // namespace
 
 QByteArray encodePlainTiff(const vips::VImage &image, Resolution resolution)
 {
-    if (!isPlain(image))
+    if (!isPlainTiff(image))
         return {};
     const vips::VImage pixels = inMemory(image);
     const auto size = qsizetype(VIPS_IMAGE_SIZEOF_IMAGE(pixels.get_image()));
-    constexpr quint32 headerSize = 8;
-    constexpr qsizetype roomForTags = 65536;
+    const FileEnds ends = plainTiffEnds(pixels, resolution, plainTiffHeadBytes + size);
     QByteArray file;
-    file.reserve(size + roomForTags);
-    file.append("II*\0\0\0\0\0", headerSize);
+    file.reserve(ends.head.size() + size + ends.tail.size());
+    file.append(ends.head);
     file.append(static_cast<const char *>(pixels.data()), size); // this machine's byte order is the file's
-    describe(file, pixels, resolution, headerSize);
-    return file;
+    return file.append(ends.tail);
 }
 
 } // namespace platform

@@ -31,15 +31,6 @@ QString unprofiledName(const QString &model)
     return model == QLatin1String("Lab") ? model : QStringLiteral("sRGB IEC61966-2.1");
 }
 
-QByteArray embeddedProfile(const vips::VImage &image)
-{
-    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
-        return {};
-    size_t length = 0;
-    const void *profile = image.get_blob(VIPS_META_ICC_NAME, &length);
-    return {static_cast<const char *>(profile), qsizetype(length)};
-}
-
 void addPixelProperties(QVariantMap &properties, const vips::VImage &image)
 {
     constexpr int bitsPerByte = 8;
@@ -48,7 +39,7 @@ void addPixelProperties(QVariantMap &properties, const vips::VImage &image)
     properties.insert(QStringLiteral("Depth"), bytesPerComponent(image) * bitsPerByte);
     properties.insert(QStringLiteral("ColorModel"), colorModelName(image));
     properties.insert(QStringLiteral("HasAlpha"), image.has_alpha());
-    const QString name = profileName(embeddedProfile(image));
+    const QString name = profileName(iccProfileOf(image));
     if (!name.isEmpty())
         properties.insert(QStringLiteral("ProfileName"), name);
 }
@@ -72,7 +63,7 @@ QString ImageSource::colorSpaceName() const
         return {};
     try {
         const vips::VImage image = openImage(m_file->bytes, m_file->content);
-        const QString name = profileName(embeddedProfile(image));
+        const QString name = profileName(iccProfileOf(image));
         return name.isEmpty() ? unprofiledName(colorModelName(image)) : name;
     } catch (const vips::VError &error) {
         takeVipsError(error);

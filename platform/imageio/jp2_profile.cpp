@@ -1,8 +1,8 @@
 #include "platform/imageio/jp2_profile.h"
 
-#include <QtEndian>
+#include "platform/graphics/icc_profile.h"
 
-#include <algorithm>
+#include <QtEndian>
 
 namespace platform {
 namespace {
@@ -49,16 +49,7 @@ QByteArray bigEndian(quint32 number)
 
 bool hasTag(const QByteArray &profile, const char *name)
 {
-    constexpr qsizetype tagCountAt = 128;
-    constexpr qsizetype tagBytes = 12;
-    constexpr quint32 mostTags = 100;
-    if (profile.size() < tagCountAt + 4)
-        return false;
-    const quint32 count = std::min(qFromBigEndian<quint32>(profile.constData() + tagCountAt), mostTags);
-    for (quint32 tag = 0; tag < count; ++tag)
-        if (profile.mid(tagCountAt + 4 + qsizetype(tag) * tagBytes, 4) == name)
-            return true;
-    return false;
+    return !iccTag(profile, name).isEmpty();
 }
 
 } // namespace

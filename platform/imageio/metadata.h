@@ -1,11 +1,13 @@
 #pragma once
 
 #include "platform/foundation/result.h"
+#include "platform/imageio/file_ends.h"
 
 #include <QByteArray>
 #include <QVariantMap>
 
 #include <memory>
+#include <optional>
 
 namespace platform {
 
@@ -64,6 +66,15 @@ public:
      * states one. What a PNG source says in texts of its own, and its gamma and primaries, go into a PNG. Fails with Unsupported where the file cannot hold metadata; pixels are never touched.
      */
     Result<QByteArray> writtenInto(const QByteArray &encoded) const;
+
+    /**
+     * writtenInto() for a TIFF file that is written piece by piece; its pixels lie between the two ends.
+     *
+     * @param bare        head and tail of the encoded file as if there were no pixels, but for the offsets of its strips
+     * @param pixelBytes  how many bytes the pixels take; an odd number is followed by a zero
+     * @return none where the file cannot take everything in this way
+     */
+    std::optional<FileEnds> writtenAround(const FileEnds &bare, qint64 pixelBytes) const;
 
     struct Blocks;
 

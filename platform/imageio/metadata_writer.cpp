@@ -93,18 +93,22 @@ QByteArray iptcRecords(const Metadata::Blocks &blocks)
     return QByteArray(reinterpret_cast<const char *>(records.pData_), records.size_);
 }
 
+/** What goes into a TIFF file of some shape. */
+GraftedBlocks blocksFor(const Metadata::Blocks &blocks, const TiffShape &shape)
+{
+    constexpr qsizetype largestBlock = 32 << 20;
+    const Exiv2::ByteOrder own = shape.littleEndian ? Exiv2::littleEndian : Exiv2::bigEndian;
+    const Exiv2::ByteOrder order = shape.hasByteSamples ? blocks.byteOrder : own;
+    return {encodeExifBlock(blocks, shape.pixels, order, largestBlock),
+            madeOrNothing([&] { return xmpPacket(blocks, shape.pixels); }),
+            madeOrNothing([&] { return iptcRecords(blocks); })};
+}
+
 /** Empty where the file is not of the plain kind that this works for. */
 QByteArray graftedIntoTiff(const Metadata::Blocks &blocks, const QByteArray &encoded)
 {
     const TiffShape shape = tiffShape(encoded);
-    if (!shape.valid)
-        return {};
-    constexpr qsizetype largestBlock = 32 << 20;
-    const Exiv2::ByteOrder own = shape.littleEndian ? Exiv2::littleEndian : Exiv2::bigEndian;
-    const Exiv2::ByteOrder order = shape.hasByteSamples ? blocks.byteOrder : own;
-    return graftIntoTiff(encoded, {encodeExifBlock(blocks, shape.pixels, order, largestBlock),
-                                   madeOrNothing([&] { return xmpPacket(blocks, shape.pixels); }),
-                                   madeOrNothing([&] { return iptcRecords(blocks); })});
+    return shape.valid ? graftIntoTiff(encoded, blocksFor(blocks, shape)) : QByteArray();
 }
 
 QByteArray contentOf(Exiv2::Image &image)
@@ -207,6 +211,21 @@ Result<QByteArray> Metadata::writtenInto(const QByteArray &encoded) const
         }
     }
     return encoded;
+}
+
+std::optional<FileEnds> Metadata::writtenAround(const FileEnds &bare, qint64 pixelBytes) const
+{
+    const QByteArray file = bare.head + bare.tail;
+    const TiffShape shape = tiffShape(file);
+    if (isEmpty() || !shape.valid)
+        return std::nullopt;
+    startMetadataLibrary();
+    try {
+        const FileEnds ends = graftAroundPixels(file, pixelBytes, blocksFor(*m_blocks, shape));
+        return ends.tail.isEmpty() ? std::nullopt : std::optional(ends);
+    } catch (const std::exception &) {
+        return std::nullopt; // writtenInto() knows what to leave out
+    }
 }
 
 } // namespace platform

@@ -60,15 +60,6 @@ Stream storedPixels(const VImage &image, const QByteArray &space)
     return {entries, deflated(filteredRows(image))};
 }
 
-QByteArray profileOf(const VImage &image)
-{
-    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
-        return {};
-    size_t length = 0;
-    const auto *profile = static_cast<const char *>(image.get_blob(VIPS_META_ICC_NAME, &length));
-    return {profile, qsizetype(length)};
-}
-
 /** The page of a picture whose pixels are in memory. Throws vips::VError. */
 QByteArray pageOfPixels(const Bitmap &bitmap, QSizeF points)
 {
@@ -76,7 +67,7 @@ QByteArray pageOfPixels(const Bitmap &bitmap, QSizeF points)
     const VImage prepared = inMemory(preparedFor(abilities, bitmap.pixels().image));
     const int components = prepared.has_alpha() ? prepared.bands() - 1 : prepared.bands();
     PdfFile file;
-    const QByteArray space = colourSpace(file, profileOf(prepared), components);
+    const QByteArray space = colourSpace(file, iccProfileOf(prepared), components);
     if (!prepared.has_alpha()) {
         file.add(storedPixels(prepared, space));
         return file.finished(points);

@@ -1,34 +1,18 @@
 #include "platform/imageio/profile_name.h"
 
+#include "platform/graphics/icc_profile.h"
+
 #include <QStringDecoder>
 #include <QtEndian>
 
-#include <algorithm>
-
 namespace platform {
 namespace {
-
-constexpr qsizetype headerBytes = 128;
-constexpr qsizetype tagEntryBytes = 12;
 
 /** A number at @p position; 0 outside the bytes. */
 quint32 numberAt(const QByteArray &bytes, qsizetype position)
 {
     const bool isInside = position >= 0 && position + 4 <= bytes.size();
     return isInside ? qFromBigEndian<quint32>(bytes.constData() + position) : 0;
-}
-
-/** The bytes of the description tag. */
-QByteArray descriptionTag(const QByteArray &profile)
-{
-    constexpr quint32 mostTags = 100;
-    const quint32 count = std::min(numberAt(profile, headerBytes), mostTags);
-    for (quint32 tag = 0; tag < count; ++tag) {
-        const qsizetype entry = headerBytes + 4 + qsizetype(tag) * tagEntryBytes;
-        if (profile.mid(entry, 4) == "desc")
-            return profile.mid(qsizetype(numberAt(profile, entry + 4)), qsizetype(numberAt(profile, entry + 8)));
-    }
-    return {};
 }
 
 /** The first text of a list of texts in several languages. */
@@ -50,7 +34,7 @@ QString plainText(const QByteArray &tag)
 
 QString profileName(const QByteArray &iccProfile)
 {
-    const QByteArray tag = descriptionTag(iccProfile);
+    const QByteArray tag = iccTag(iccProfile, "desc");
     QString name = tag.startsWith("mluc") ? localisedText(tag) : plainText(tag);
     const qsizetype end = name.indexOf(QChar::Null);
     if (end >= 0)

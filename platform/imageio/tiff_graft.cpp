@@ -30,12 +30,18 @@ constexpr quint16 undefinedType = 7;
 class Graft
 {
 public:
-    Graft(const QByteArray &encoded, const GraftedBlocks &blocks) : m_encoded(encoded), m_blocks(blocks) {}
+    /** @param leftOut  bytes that belong behind the header and are neither here nor in the result */
+    Graft(const QByteArray &encoded, const GraftedBlocks &blocks, qint64 leftOut)
+        : m_encoded(encoded), m_blocks(blocks), m_leftOut(leftOut)
+    {
+    }
 
     QByteArray file();
+    /** What of the result stands before the bytes that were left out. */
+    qsizetype headSize() const { return qsizetype(m_shift) + tiffHeaderSize; }
 
 private:
-    void layOut();
+    void layOut(const TiffDirectory &old);
     void addEncodedEntry(const TiffEntry &entry);
     void addBlockEntries(const TiffDirectory &directory);
     bool leadsNowhere(const TiffEntry &entry) const;
@@ -48,6 +54,7 @@ private:
 
     const QByteArray &m_encoded;
     const GraftedBlocks &m_blocks;
+    qint64 m_leftOut;
     TiffNumbers m_from; ///< byte order of the encoded file
     TiffNumbers m_to;   ///< of the new one
     quint32 m_shift = 0;
@@ -70,7 +77,7 @@ quint32 Graft::append(const QByteArray &bytes)
 {
     if (m_file.size() % 2 != 0)
         m_file.append('\0');
-    const auto offset = quint32(m_file.size());
+    const auto offset = quint32(m_file.size() + m_leftOut);
     m_file.append(bytes);
     return offset;
 }
@@ -113,7 +120,7 @@ void Graft::addEncodedEntry(const TiffEntry &entry)
         return;
     }
     char field[4];
-    m_to.put32(quint32(entry.valueAt) + m_shift, field);
+    m_to.put32(quint32(entry.valueAt + m_leftOut) + m_shift, field);
     addEntry(entry.tag, entry.type, entry.count, field);
 }
 
@@ -146,16 +153,18 @@ void Graft::addBytes(quint16 tag, quint16 type, const QByteArray &bytes)
     addValue(entry, bytes);
 }
 
-/** The block and behind it the encoded file without its header, its pixels aligned as they were. */
-void Graft::layOut()
+/** The block and behind it the encoded file without header and old directory, its pixels aligned as they were. */
+void Graft::layOut(const TiffDirectory &old)
 {
+    const bool isAtTheEnd = old.nextAt + 4 == m_encoded.size();
+    const qint64 end = isAtTheEnd ? old.position : m_encoded.size();
     constexpr qint64 alignment = 16;
     const qint64 head = std::max<qint64>(m_blocks.exif.size(), tiffHeaderSize);
     m_shift = quint32((head - tiffHeaderSize + alignment - 1) / alignment * alignment);
     m_file.reserve(m_encoded.size() + m_shift + m_blocks.xmp.size() + m_blocks.iptc.size() + 65536);
     m_file = m_blocks.exif.isEmpty() ? m_encoded.left(tiffHeaderSize) : m_blocks.exif;
     m_file.append(QByteArray(m_shift + tiffHeaderSize - m_file.size(), '\0'));
-    m_file.append(m_encoded.constData() + tiffHeaderSize, m_encoded.size() - tiffHeaderSize);
+    m_file.append(m_encoded.constData() + tiffHeaderSize, end - tiffHeaderSize);
 }
 
 void Graft::writeDirectory()
@@ -178,11 +187,13 @@ QByteArray Graft::file()
     if (isTiffHeader(m_blocks.exif, m_to))
         block = firstTiffDirectory(m_blocks.exif, m_to);
     constexpr qint64 largestFile = 0xffff0000;
-    const qint64 total = m_encoded.size() + m_blocks.exif.size() + m_blocks.xmp.size() + m_blocks.iptc.size();
+    const qint64 total =
+        m_leftOut + m_encoded.size() + m_blocks.exif.size() + m_blocks.xmp.size() + m_blocks.iptc.size();
     if (!shape.valid || (m_from != m_to && !shape.hasByteSamples) || total > largestFile)
         return {};
-    layOut();
-    for (const TiffEntry &entry : firstTiffDirectory(m_encoded, m_from).entries)
+    const TiffDirectory old = firstTiffDirectory(m_encoded, m_from);
+    layOut(old);
+    for (const TiffEntry &entry : old.entries)
         if (entry.tag != exifDirectoryTag && entry.tag != gpsDirectoryTag)
             addEncodedEntry(entry);
     addBlockEntries(block);
@@ -218,7 +229,14 @@ TiffShape tiffShape(const QByteArray &encoded)
 
 QByteArray graftIntoTiff(const QByteArray &encoded, const GraftedBlocks &blocks)
 {
-    return Graft(encoded, blocks).file();
+    return Graft(encoded, blocks, 0).file();
+}
+
+FileEnds graftAroundPixels(const QByteArray &bare, qint64 pixelBytes, const GraftedBlocks &blocks)
+{
+    Graft graft(bare, blocks, pixelBytes + pixelBytes % 2);
+    const QByteArray file = graft.file();
+    return {file.left(graft.headSize()), file.mid(graft.headSize())};
 }
 
 } // namespace platform

@@ -2,6 +2,8 @@
 
 // Inside platform/ only.
 
+#include "platform/imageio/file_ends.h"
+
 #include <QByteArray>
 #include <QSize>
 
@@ -36,5 +38,14 @@ struct GraftedBlocks
  * of more than 4 GB. One copy of the file is made.
  */
 QByteArray graftIntoTiff(const QByteArray &encoded, const GraftedBlocks &blocks);
+
+/**
+ * The same around pixels that are not there yet.
+ *
+ * @param bare        the encoded file without its pixels, its tail right behind its header, where the pixels belong between
+ *                    the two: offsets of strips are the whole file's, all others hold in @p bare
+ * @param pixelBytes  how many bytes were left out; an odd one is followed by a zero
+ */
+FileEnds graftAroundPixels(const QByteArray &bare, qint64 pixelBytes, const GraftedBlocks &blocks);
 
 } // namespace platform
