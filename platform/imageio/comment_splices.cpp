@@ -4,6 +4,7 @@
 #include "platform/imageio/tiff_comment.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QtEndian>
 
 #include <algorithm>
@@ -36,6 +37,14 @@ CommentSplices overSegments(const QList<JpegSegments::Range> &ranges, const QByt
         position += size;
     }
     return splices;
+}
+
+/** Raw files of cameras are TIFF files with names of their own, and a later page may be the raw picture itself. */
+OtherPages otherPagesOf(const QFile &file)
+{
+    const QString extension = QFileInfo(file).suffix().toLower();
+    return extension == QLatin1String("tif") || extension == QLatin1String("tiff") ? OtherPages::Drop
+                                                                                   : OtherPages::Keep;
 }
 
 } // namespace
@@ -83,7 +92,7 @@ CommentSplices tiffCommentSplices(QFile &file, const QString &comment)
     if (!data)
         return damagedFile();
     const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), size);
-    const auto splices = userCommentSplices(bytes, comment, OtherPages::Drop);
+    const auto splices = userCommentSplices(bytes, comment, otherPagesOf(file));
     file.unmap(data);
     return splices ? CommentSplices(*splices) : damagedFile();
 }

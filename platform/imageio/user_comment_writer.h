@@ -10,8 +10,8 @@ namespace platform {
  * Writes @p comment as the EXIF user comment of the first picture into the file at @p path, and changes nothing else.
  *
  * Pixels and all other metadata stay as they are, byte for byte; an empty comment is written as such. The text is ASCII
- * where that can hold it, else UTF-16 in the byte order of the file's EXIF block. Of a TIFF file with several pages the
- * first one is kept.
+ * where that can hold it, else UTF-16 in the byte order of the file's EXIF block. Of a TIFF file with several pages, by the
+ * extension tif or tiff, the first one is kept; a raw file of a camera keeps all that is in it.
  *
  * Written are JPEG (an EXIF segment), TIFF (its directories), PNG (a chunk eXIf, also in place of the same block as a text),
  * JPEG 2000 (a box of its own) and WebP (a chunk EXIF). The file is replaced as spliceFile() does it, and only where

@@ -64,6 +64,7 @@ private Q_SLOTS:
     void leavesNothingOfTheOldComment();
     void changesNothingWhereItSaysThatAlready();
     void keepsTheFirstPageOfATiffFile();
+    void keepsTheRawPictureOfARawFile();
     void keepsModeAndAttributes();
     void replacesALinkAndNotWhatItLeadsTo();
     void refusesACommentThatDoesNotFit();
@@ -212,6 +213,27 @@ void TestUserCommentWriter::keepsTheFirstPageOfATiffFile()
     QCOMPARE(after->decode()->toRawImage(), first);
     QCOMPARE(after->metadata().userComment(), QStringLiteral("x"));
     QVERIFY(folder.read("a.tiff").size() < pages.size()); // the other pages' pixels went with them
+}
+
+void TestUserCommentWriter::keepsTheRawPictureOfARawFile()
+{
+    const QByteArray pages = corpusFile("formats/g4-multi.tiff");
+    if (pages.isEmpty())
+        QSKIP("no shared pictures");
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a.CR2", pages));
+    QVERIFY(folder.write("before.tiff", pages));
+    QVERIFY(writeUserComment(folder.path("a.CR2"), QStringLiteral("x")));
+    const QByteArray written = folder.read("a.CR2");
+    QVERIFY(folder.write("after.tiff", written));
+    const auto before = ImageSource::open(folder.path("before.tiff"));
+    const auto after = ImageSource::open(folder.path("after.tiff"));
+    QVERIFY(before->imageCount() > 1);
+    QCOMPARE(after->imageCount(), before->imageCount());
+    QCOMPARE(after->metadata().userComment(), QStringLiteral("x"));
+    // Beyond the header, which says where the first directory is, what was there is there still.
+    constexpr int header = 8;
+    QCOMPARE(written.mid(header, pages.size() - header), pages.mid(header));
 }
 
 void TestUserCommentWriter::keepsModeAndAttributes()
