@@ -83,7 +83,8 @@ private Q_SLOTS:
         QVERIFY(QFile::rename(m_folder + QStringLiteral("/b.png"), m_folder + QStringLiteral("/b.webp")));
         m_driver->show("resize");
         m_driver->drop({m_folder});
-        QCOMPARE(m_driver->text("statusText"), QStringLiteral("1 picture added · “b.webp” is not a picture that can be taken"));
+        QCOMPARE(m_driver->text("statusText"),
+                 QStringLiteral("1 picture added · “b.webp” is not a picture that can be taken"));
         QCOMPARE(m_driver->pictures().count(), 1);
         m_driver->show("convert");
         QCOMPARE(m_driver->pictures().count(), 2);
