@@ -1,9 +1,9 @@
 #include "app/window/property_tree.h"
 
-#include "app/window/property_words.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/property_labels.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -34,6 +34,7 @@ PropertyTree::PropertyTree(QWidget *parent) : QTreeWidget(parent)
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
     setFrameShape(NoFrame);
+    addMenu();
     header()->setSectionResizeMode(0, QHeaderView::Interactive);
     header()->setStretchLastSection(true);
     constexpr int namesPx = 260;
@@ -44,6 +45,15 @@ PropertyTree::PropertyTree(QWidget *parent) : QTreeWidget(parent)
         if (!m_closed.contains(item->text(0)))
             m_closed << item->text(0);
     });
+}
+
+void PropertyTree::addMenu()
+{
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    addAction(tr("Copy"), this, [this] { copyChosen(); });
+    for (const auto &[text, form] : {std::pair(tr("Copy Place in Degrees"), QStringLiteral("degrees")),
+                                     std::pair(tr("Copy Place in Minutes"), QStringLiteral("minutes"))})
+        addAction(text, this, [this, form = form] { copyPlace(form); })->setObjectName(form);
 }
 
 void PropertyTree::add(const QVariantMap &properties, QTreeWidgetItem *above)
@@ -66,10 +76,13 @@ void PropertyTree::add(const QVariantMap &properties, QTreeWidgetItem *above)
 bool PropertyTree::showFile(const QString &path)
 {
     const auto source = platform::ImageSource::open(path);
+    const QVariantMap properties = source ? source->properties() : QVariantMap();
     setUpdatesEnabled(false);
     clear();
-    if (source)
-        add(source->properties(), nullptr);
+    add(properties, nullptr);
+    m_place = placeOf(properties);
+    for (const char *form : {"degrees", "minutes"})
+        findChild<QAction *>(QString::fromLatin1(form))->setEnabled(hasPlace());
     for (int i = 0; i < topLevelItemCount(); ++i) {
         QTreeWidgetItem *item = topLevelItem(i);
         const bool open = !m_closed.contains(item->text(0));
@@ -125,6 +138,16 @@ int PropertyTree::copyChosen() const
     const bool isValue = item->childCount() == 0;
     QGuiApplication::clipboard()->setText(isValue ? item->toolTip(1) : lines.join(u'\n'));
     return int(lines.size());
+}
+
+QString PropertyTree::copyPlace(const QString &form) const
+{
+    if (!m_place)
+        return {};
+    const QString words =
+        placeWords(*m_place, form == QLatin1String("minutes") ? PlaceForm::Minutes : PlaceForm::Degrees);
+    QGuiApplication::clipboard()->setText(words);
+    return words;
 }
 
 QString PropertyTree::words(const QStringList &names) const

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "app/window/property_words.h"
+
 #include <QTreeWidget>
 #include <QVariant>
+
+#include <optional>
 
 namespace window {
 
@@ -15,11 +19,14 @@ class PropertyTree : public QTreeWidget
     Q_OBJECT
     /** How many values are shown. */
     Q_PROPERTY(int shownCount READ shownCount)
+    /** Whether the picture tells where it was taken. */
+    Q_PROPERTY(bool hasPlace READ hasPlace)
 
 public:
     explicit PropertyTree(QWidget *parent = nullptr);
 
     int shownCount() const;
+    bool hasPlace() const { return m_place.has_value(); }
 
     /** Shows the properties of the file at @p path; false, and nothing shown, for what is no picture. */
     Q_INVOKABLE bool showFile(const QString &path);
@@ -27,6 +34,8 @@ public:
     Q_INVOKABLE void look(const QString &text);
     /** Puts the chosen value, or all of the chosen branch, on the clipboard; returns how many lines. */
     Q_INVOKABLE int copyChosen() const;
+    /** Puts the place on the clipboard, in "degrees" or in "minutes", and returns it; see placeWords(). */
+    Q_INVOKABLE QString copyPlace(const QString &form) const;
     /** The value in words of a property, by the names shown: ["Exif", "F-number"]; "" where it is not there. For tests and scripts. */
     Q_INVOKABLE QString words(const QStringList &names) const;
 
@@ -37,6 +46,9 @@ private:
     void add(const QVariantMap &properties, QTreeWidgetItem *above);
     bool filter(QTreeWidgetItem *item, bool isShown);
 
+    void addMenu();
+
+    std::optional<Place> m_place;
     QStringList m_words; ///< looked for
     QStringList m_closed;
 };

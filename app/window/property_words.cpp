@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <cmath>
+#include <iterator>
 
 namespace window {
 namespace {
@@ -44,6 +45,20 @@ QString aperture(double value)
     return QStringLiteral("f/") + QLocale().toString(std::round(value * 10) / 10, 'g', 4);
 }
 
+/**
+ * An aperture that is stated as the number of its stop. Thirds of a stop, which cameras round to eighths, have the numbers that
+ * are written on lenses: 5.625 is f/7.1, not f/7.
+ */
+QString apertureOfStop(double stop)
+{
+    static constexpr double nominal[] = {1,   1.1, 1.2, 1.4, 1.6, 1.8, 2,  2.2, 2.5, 2.8, 3.2, 3.5, 4,  4.5, 5, 5.6,
+                                         6.3, 7.1, 8,   9,   10,  11,  13, 14,  16,  18,  20,  22,  25, 29,  32};
+    constexpr double tolerance = 0.05;
+    const double third = std::round(stop * 3);
+    const bool isNominal = std::abs(stop - third / 3) < tolerance && third >= 0 && third < double(std::size(nominal));
+    return aperture(isNominal ? nominal[size_t(third)] : std::exp2(stop / 2));
+}
+
 /** "48.85840° N" */
 QString coordinate(double degrees, const QString &reference)
 {
@@ -77,6 +92,40 @@ QString flash(double value)
                    : translated(QT_TRANSLATE_NOOP("properties", "did not fire")));
 }
 
+/** "2.21" for 2, 2, 1, and "2.3.0.0" for the four numbers of a GPS version. */
+QString version(const QString &key, const QVariantList &numbers)
+{
+    QStringList digits;
+    for (const QVariant &each : numbers)
+        digits << each.toString();
+    if (key.startsWith(QLatin1String("GPS")) || digits.size() < 2)
+        return digits.join(u'.');
+    const QString first = digits.takeFirst();
+    return first + u'.' + digits.join(QString());
+}
+
+/** "48° 51′ 30.2″", of a positive number. */
+QString minutes(double degrees)
+{
+    constexpr int tenthsInDegree = 36000;
+    constexpr int tenthsInMinute = 600;
+    const int tenths = int(std::lround(degrees * tenthsInDegree));
+    return QStringLiteral("%1° %2′ %3″")
+        .arg(tenths / tenthsInDegree)
+        .arg(tenths % tenthsInDegree / tenthsInMinute)
+        .arg(QString::number(tenths % tenthsInMinute / 10.0, 'f', 1));
+}
+
+/** A coordinate with its sign; none where it is not there or further than @p most. */
+std::optional<double> signedCoordinate(const QVariantMap &gps, const QString &key, QLatin1String negative, double most)
+{
+    bool isNumber = false;
+    const double size = gps.value(key).toDouble(&isNumber);
+    if (!isNumber || !(std::abs(size) <= most))
+        return std::nullopt;
+    return gps.value(key + QLatin1String("Ref")).toString() == negative ? -size : size;
+}
+
 /** Numbers that have a unit, or a form of their own. */
 QString withUnit(const QString &key, double value, const QVariantMap &group)
 {
@@ -85,8 +134,8 @@ QString withUnit(const QString &key, double value, const QVariantMap &group)
         {QStringLiteral("ExposureTime"), seconds},
         {QStringLiteral("ShutterSpeedValue"), [](double apex) { return seconds(std::exp2(-apex)); }},
         {QStringLiteral("FNumber"), aperture},
-        {QStringLiteral("ApertureValue"), [](double apex) { return aperture(std::exp2(apex / 2)); }},
-        {QStringLiteral("MaxApertureValue"), [](double apex) { return aperture(std::exp2(apex / 2)); }},
+        {QStringLiteral("ApertureValue"), apertureOfStop},
+        {QStringLiteral("MaxApertureValue"), apertureOfStop},
         {QStringLiteral("ExposureBiasValue"), exposureValue},
         {QStringLiteral("BrightnessValue"), exposureValue},
         {QStringLiteral("FocalLength"),
@@ -123,6 +172,8 @@ QString propertyWords(const QString &key, const QVariant &value, const QVariantM
 {
     switch (value.typeId()) {
     case QMetaType::QVariantList: {
+        if (key.endsWith(QLatin1String("Version")))
+            return version(key, value.toList());
         QStringList words;
         for (const QVariant &each : value.toList())
             words << propertyWords(QString(), each, {});
@@ -139,6 +190,28 @@ QString propertyWords(const QString &key, const QVariant &value, const QVariantM
     default:
         return withUnit(key, value.toDouble(), group);
     }
+}
+
+std::optional<Place> placeOf(const QVariantMap &properties)
+{
+    constexpr double pole = 90;
+    constexpr double halfRound = 180;
+    const QVariantMap gps = properties.value(QStringLiteral("{GPS}")).toMap();
+    const auto latitude = signedCoordinate(gps, QStringLiteral("Latitude"), QLatin1String("S"), pole);
+    const auto longitude = signedCoordinate(gps, QStringLiteral("Longitude"), QLatin1String("W"), halfRound);
+    return latitude && longitude ? std::optional(Place{*latitude, *longitude}) : std::nullopt;
+}
+
+QString placeWords(const Place &place, PlaceForm form)
+{
+    if (form == PlaceForm::Degrees) {
+        constexpr int decimals = 6; // a hand's breadth
+        return QStringLiteral("%1, %2").arg(QString::number(place.latitude, 'f', decimals),
+                                            QString::number(place.longitude, 'f', decimals));
+    }
+    return QStringLiteral("%1 %2, %3 %4")
+        .arg(minutes(std::abs(place.latitude)), place.latitude < 0 ? QStringLiteral("S") : QStringLiteral("N"),
+             minutes(std::abs(place.longitude)), place.longitude < 0 ? QStringLiteral("W") : QStringLiteral("E"));
 }
 
 } // namespace window

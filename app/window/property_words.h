@@ -3,6 +3,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <optional>
+
 namespace window {
 
 /**
@@ -13,5 +15,20 @@ namespace window {
  * @param group  what stands beside it, where the reference of a coordinate is found
  */
 QString propertyWords(const QString &key, const QVariant &value, const QVariantMap &group);
+
+/** Degrees; north and east are positive. */
+struct Place
+{
+    double latitude = 0;
+    double longitude = 0;
+};
+
+enum class PlaceForm { Degrees, Minutes };
+
+/** Where a picture with these properties was taken; none where they do not say, or say what is nowhere on earth. */
+std::optional<Place> placeOf(const QVariantMap &properties);
+
+/** "48.858400, -2.294500", as maps understand it in any language, or "48° 51′ 30.2″ N, 2° 17′ 40.2″ W". */
+QString placeWords(const Place &place, PlaceForm form);
 
 } // namespace window

@@ -13,6 +13,8 @@ private Q_SLOTS:
     void saysUnits_data();
     void saysUnits();
     void saysCoordinatesWithTheirReference();
+    void saysPlaces_data();
+    void saysPlaces();
     void labelsKeysAndLeavesOthersAsTheyAre();
 };
 
@@ -31,7 +33,19 @@ void TestPropertyWords::saysUnits_data()
     row("ShutterSpeedValue", 8, "1/256 s");
     row("FNumber", 2.8, "f/2.8");
     row("FNumber", 11, "f/11");
+    row("FNumber", 7.1, "f/7.1");
     row("ApertureValue", 3, "f/2.8");
+    row("ApertureValue", 5.625, "f/7.1"); // what a camera says that means 5 2/3
+    row("ApertureValue", 5, "f/5.6");
+    row("ApertureValue", 4.96875, "f/5.6");
+    row("ApertureValue", 2.526, "f/2.4"); // no third of a stop
+    row("MaxApertureValue", 0, "f/1");
+    row("MaxApertureValue", -1, "f/0.7");
+    row("MaxApertureValue", 10.67, "f/40.4");
+    row("ExifVersion", QVariantList({2, 2, 1}), "2.21");
+    row("ExifVersion", QVariantList({2, 3}), "2.3");
+    row("FlashPixVersion", QVariantList({1, 0}), "1.0");
+    row("GPSVersion", QVariantList({2, 3, 0, 0}), "2.3.0.0");
     row("FocalLength", 50, "50 mm");
     row("ExposureBiasValue", -2.0 / 3, "−0.67 EV");
     row("ExposureBiasValue", 1, "+1 EV");
@@ -64,6 +78,36 @@ void TestPropertyWords::saysCoordinatesWithTheirReference()
 {
     const QVariantMap gps = {{QStringLiteral("LatitudeRef"), QStringLiteral("S")}};
     QCOMPARE(window::propertyWords(QStringLiteral("Latitude"), 33.5, gps), QStringLiteral("33.50000° S"));
+}
+
+void TestPropertyWords::saysPlaces_data()
+{
+    QTest::addColumn<QVariantMap>("gps");
+    QTest::addColumn<QString>("degrees");
+    QTest::addColumn<QString>("minutes");
+    const auto row = [](const char *name, const QVariant &latitude, const char *ns, const QVariant &longitude,
+                        const char *ew, const char *degrees, const char *minutes) {
+        QVariantMap gps = {{QStringLiteral("LatitudeRef"), QString::fromLatin1(ns)},
+                           {QStringLiteral("LongitudeRef"), QString::fromLatin1(ew)}};
+        gps.insert(QStringLiteral("Latitude"), latitude);
+        gps.insert(QStringLiteral("Longitude"), longitude);
+        QTest::newRow(name) << gps << QString::fromUtf8(degrees) << QString::fromUtf8(minutes);
+    };
+    row("north and east", 48.8584, "N", 2.2945, "E", "48.858400, 2.294500", "48° 51′ 30.2″ N, 2° 17′ 40.2″ E");
+    row("south and west", 33.5, "S", 70.25, "W", "-33.500000, -70.250000", "33° 30′ 0.0″ S, 70° 15′ 0.0″ W");
+    row("seconds that become a minute", 0.99999999, "N", 0, "E", "1.000000, 0.000000", "1° 0′ 0.0″ N, 0° 0′ 0.0″ E");
+    row("nowhere on earth", 91, "N", 0, "E", "", "");
+    row("no number", QStringLiteral("here"), "N", 0, "E", "", "");
+    row("half a place", QVariant(), "N", 5, "E", "", "");
+}
+
+void TestPropertyWords::saysPlaces()
+{
+    QFETCH(QVariantMap, gps);
+    const auto place = window::placeOf({{QStringLiteral("{GPS}"), gps}});
+    QTEST(place ? window::placeWords(*place, window::PlaceForm::Degrees) : QString(), "degrees");
+    QTEST(place ? window::placeWords(*place, window::PlaceForm::Minutes) : QString(), "minutes");
+    QVERIFY(!window::placeOf({}));
 }
 
 void TestPropertyWords::labelsKeysAndLeavesOthersAsTheyAre()
