@@ -9,6 +9,7 @@
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/jpeg_header.h"
 #include "platform/imageio/orientation_mark.h"
+#include "platform/imageio/user_comment_writer.h"
 
 #include <QCollator>
 #include <QDateTime>
@@ -274,6 +275,17 @@ QString FileDesk::profileName(const QString &path) const
 {
     const auto source = platform::ImageSource::open(path);
     return source ? source->properties().value(QStringLiteral("ProfileName")).toString() : QString();
+}
+
+QString FileDesk::writeComment(const QString &path, const QString &comment) const
+{
+    const auto written = platform::writeUserComment(path, comment);
+    return written ? QString() : written.error().message;
+}
+
+bool FileDesk::holdsComment(const QString &path) const
+{
+    return platform::canHoldUserComment(path);
 }
 
 QString FileDesk::writeText(const QString &path, const QString &text) const

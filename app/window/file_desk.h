@@ -88,6 +88,11 @@ public:
     /** The name of the picture's colour profile; empty where it has none. */
     Q_INVOKABLE QString profileName(const QString &path) const;
 
+    /** Writes the user comment of a picture; see platform::writeUserComment(). */
+    Q_INVOKABLE QString writeComment(const QString &path, const QString &comment) const;
+    /** Whether a file is of a kind that can hold a comment; see platform::canHoldUserComment(). */
+    Q_INVOKABLE bool holdsComment(const QString &path) const;
+
     Q_INVOKABLE QString writeText(const QString &path, const QString &text) const;
     Q_INVOKABLE QString appendText(const QString &path, const QString &text) const;
     /** Adds lines, each ending in a line feed; see window::appendLines(). */

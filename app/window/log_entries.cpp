@@ -68,8 +68,11 @@ bool LogEntries::add(const QByteArray &line, End end)
     // Most results bear the name of their picture.
     if (entry.output == entry.input)
         entry.output = entry.input;
+    entry.isEdit = object.contains(QLatin1String("after"));
+    entry.before = m_texts.number(object.value(QLatin1String("before")).toString());
+    entry.after = m_texts.number(object.value(QLatin1String("after")).toString());
     entry.run = runOf(object.value(QLatin1String("run")).toString(), entry, end);
-    countIn(m_runs[size_t(entry.run)], entry);
+    countIn(m_runs[size_t(entry.run)], entry, object.value(QLatin1String("undoes")).toString());
     (end == End::Newer ? m_newer : m_older).push_back(entry);
     return true;
 }
@@ -118,7 +121,31 @@ int LogEntries::newRun(const QString &id, End end)
     return made;
 }
 
-void LogEntries::countIn(LogRun &run, const LogEntry &entry)
+bool LogEntries::isRevertible(const LogEntry &entry) const
+{
+    return entry.isEdit && entry.before != entry.after && entry.inputFolder != 0 &&
+           m_texts.text(entry.status) == QLatin1String("OK");
+}
+
+int LogEntries::undoneOf(const QString &id) const
+{
+    return id.isEmpty() ? 0 : undoneOf(id, 0);
+}
+
+// Taking back what was taken back does it again. Made-up lines may go round in a circle.
+int LogEntries::undoneOf(const QString &id, int depth) const
+{
+    constexpr int deepest = 16;
+    int undone = m_undone.value(id);
+    if (undone == 0 || depth == deepest)
+        return undone;
+    for (const LogRun &run : m_runs)
+        if (run.undoes == id)
+            undone -= undoneOf(run.id, depth + 1);
+    return std::max(0, undone);
+}
+
+void LogEntries::countIn(LogRun &run, const LogEntry &entry, const QString &undoes)
 {
     if (run.count == 0) {
         run.first = run.last = entry.time;
@@ -128,7 +155,13 @@ void LogEntries::countIn(LogRun &run, const LogEntry &entry)
     run.first = std::min(run.first, entry.time);
     run.last = std::max(run.last, entry.time);
     run.count += 1;
+    run.edits += isRevertible(entry);
+    run.areEdits = run.areEdits || entry.isEdit;
+    if (run.undoes.isEmpty())
+        run.undoes = undoes;
     const QString &status = m_texts.text(entry.status);
+    if (status == QLatin1String("OK") && !undoes.isEmpty())
+        m_undone[undoes] += 1;
     if (status != QLatin1String("OK") && status != QLatin1String("Skipped"))
         run.problems += 1;
 }

@@ -34,6 +34,9 @@ struct LogEntry
     int reason = 0;
     int inputFolder = 0;
     int outputFolder = 0;
+    int before = 0; ///< the comment that a picture had, where the entry is an edit of one
+    int after = 0;
+    bool isEdit = false;
     QString input;
     QString output;
 };
@@ -48,6 +51,9 @@ struct LogRun
     int action = 0;
     int count = 0;
     int problems = 0; ///< entries that are neither done nor skipped
+    int edits = 0;    ///< entries that can be reverted
+    bool areEdits = false;
+    QString undoes; ///< the run that it took back; empty for none
 };
 
 /**
@@ -57,7 +63,8 @@ struct LogRun
  * An entry is known by its place: 0 is the first one that was added at the newer end, and -1 the first at the older end.
  * A line is a JSON object with date, process, action, status, reason, input, output, inputPath, outputPath, bytes and run, or
  * with the keys LogDate, LogProcess, LogAction, LogStatus, LogI, LogO, LogIpath and LogOpath; whatever is missing is empty. Where a
- * path is given the name is its last part.
+ * path is given the name is its last part. A line of a run that takes another one back has undoes, the name of that run; one
+ * with before and after is an edit of a comment.
  */
 class LogEntries
 {
@@ -77,6 +84,12 @@ public:
     const TextPool &texts() const { return m_texts; }
     const LogRun &run(int number) const { return m_runs[size_t(number)]; }
     int runCount() const { return int(m_runs.size()); }
+    /** The number of the run of that name; -1 where there is none. */
+    int runNamed(const QString &id) const { return id.isEmpty() ? -1 : m_runNumbers.value(id, -1); }
+    /** How many entries of the run of that name were taken back by later ones, and not done again since. */
+    int undoneOf(const QString &id) const;
+    /** Done, with another comment before than after. */
+    bool isRevertible(const LogEntry &entry) const;
     /** Numbers of the runs, those of the newer end of the log first. */
     const std::vector<int> &runOrder() const { return m_runOrder; }
 
@@ -87,7 +100,8 @@ public:
 private:
     int runOf(const QString &id, const LogEntry &entry, End end);
     int newRun(const QString &id, End end);
-    void countIn(LogRun &run, const LogEntry &entry);
+    void countIn(LogRun &run, const LogEntry &entry, const QString &undoes);
+    int undoneOf(const QString &id, int depth) const;
 
     std::vector<LogEntry> m_newer;
     std::vector<LogEntry> m_older;
@@ -95,6 +109,7 @@ private:
     std::vector<LogRun> m_runs;
     std::vector<int> m_runOrder;
     QHash<QString, int> m_runNumbers;
+    QHash<QString, int> m_undone; ///< entries that took one of the run of that name back
 };
 
 } // namespace window

@@ -204,6 +204,8 @@ bool LogModel::isShown(const LogEntry &entry) const
 {
     if (m_filter.run >= 0 && entry.run != m_filter.run)
         return false;
+    if (m_filter.editsOnly && !entry.isEdit)
+        return false;
     if (!m_filter.status.isEmpty() && m_entries.texts().text(entry.status) != m_filter.status)
         return false;
     for (int word = 0; word < m_filter.words.size(); ++word)
@@ -214,8 +216,8 @@ bool LogModel::isShown(const LogEntry &entry) const
 
 bool LogModel::hasWord(const LogEntry &entry, int word) const
 {
-    for (const int text :
-         {entry.process, entry.action, entry.status, entry.reason, entry.inputFolder, entry.outputFolder})
+    for (const int text : {entry.process, entry.action, entry.status, entry.reason, entry.inputFolder,
+                           entry.outputFolder, entry.before, entry.after})
         if (textHasWord(text, word))
             return true;
     const QString &wanted = m_filter.words[word];
@@ -289,6 +291,12 @@ void LogModel::order()
     case Folder:
         sortBy(m_shown, m_sortOrder, [&](int place) { return rankOf(entry(place).outputFolder); });
         break;
+    case Before:
+        sortBy(m_shown, m_sortOrder, [&](int place) { return rankOf(entry(place).before); });
+        break;
+    case After:
+        sortBy(m_shown, m_sortOrder, [&](int place) { return rankOf(entry(place).after); });
+        break;
     default:
         sortBy(m_shown, m_sortOrder, [&](int place) { return entry(place).time; });
     }
@@ -308,7 +316,11 @@ QString LogModel::statusOf(const LogEntry &entry) const
 {
     const QString &word = m_entries.texts().text(entry.status);
     const QString shown = m_statusWords.value(word, word);
-    const QString &reason = m_entries.texts().text(entry.reason);
+    const TextPool &texts = m_entries.texts();
+    const QString reason =
+        entry.reason == 0 && m_entries.isRevertible(entry)
+            ? m_statusWords.value(QStringLiteral("edit")).arg(texts.text(entry.before), texts.text(entry.after))
+            : texts.text(entry.reason);
     return reason.isEmpty() ? shown : shown + QStringLiteral(": ") + reason;
 }
 
@@ -327,6 +339,9 @@ QString LogModel::cell(const LogEntry &entry, int column) const
         return statusOf(entry);
     case Result:
         return entry.output;
+    case Before:
+    case After:
+        return texts.text(column == Before ? entry.before : entry.after).simplified();
     default:
         return texts.text(entry.outputFolder).chopped(entry.outputFolder == 0 ? 0 : 1);
     }
@@ -338,6 +353,8 @@ QString LogModel::toolTip(const LogEntry &entry, int column) const
         return dateText(entry.time, QLocale::LongFormat);
     if (column == File)
         return m_entries.inputPath(entry);
+    if (column == Before || column == After)
+        return m_entries.texts().text(column == Before ? entry.before : entry.after);
     return column == Result ? m_entries.outputPath(entry) : cell(entry, column);
 }
 
@@ -353,7 +370,8 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
     if (role != Qt::ForegroundRole)
         return {};
     if (index.column() != Status)
-        return Theme::color(index.column() == File ? QStringLiteral("text") : QStringLiteral("muted"));
+        return Theme::color(index.column() == File || index.column() == After ? QStringLiteral("text")
+                                                                              : QStringLiteral("muted"));
     const QString &word = m_entries.texts().text(entry.status);
     return Theme::color(word == QLatin1String("OK")        ? QStringLiteral("good")
                         : word == QLatin1String("Skipped") ? QStringLiteral("caution")

@@ -14,6 +14,7 @@ struct LogFilter
     QStringList words; ///< each must occur somewhere in the entry, in any case of letters
     QString status;    ///< a status word; empty for all
     int run = -1;      ///< the number of a run; -1 for all
+    bool editsOnly = false;
 };
 
 /**
@@ -27,7 +28,8 @@ class LogModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Date, Deed, File, Status, Result, Folder, ColumnCount };
+    /** Before and After are comments: those of an edit. */
+    enum Column { Date, Deed, File, Status, Result, Folder, Before, After, ColumnCount };
 
     explicit LogModel(QObject *parent = nullptr);
 
@@ -37,7 +39,7 @@ public:
     const LogEntries &entries() const { return m_entries; }
 
     void setHeadings(const QStringList &headings);
-    /** How status words are shown: word by word. */
+    /** How status words are shown, word by word; under "edit", what is said of an edit: "“%1” became “%2”". */
     void setStatusWords(const QHash<QString, QString> &shown);
     void setFilter(const LogFilter &filter);
 

@@ -10,6 +10,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <functional>
 
 namespace window {
 
@@ -18,7 +19,9 @@ namespace {
 constexpr int rowHeightPx = 30;
 constexpr int paddingPx = 20;
 /** Shares, in per cent, of the width that the date leaves; the last column takes the rest. */
-constexpr int shares[] = {0, 24, 21, 20, 17};
+constexpr int shares[] = {0, 24, 21, 20, 17, 0};
+/** The same while comments are shown, which need the most room. */
+constexpr int sharesOfComments[] = {0, 16, 15, 12, 0, 15, 21};
 
 } // namespace
 
@@ -44,6 +47,7 @@ LogTable::LogTable(QWidget *parent) : QTableView(parent)
     header->setMinimumSectionSize(48);
     header->setSortIndicator(LogModel::Date, Qt::DescendingOrder);
     setSortingEnabled(true);
+    showColumns();
     connect(header, &QHeaderView::sectionResized, this, [this] { m_columnsChosen |= !m_arranging && underMouse(); });
     connect(&m_model, &LogModel::grown, this, &LogTable::changed);
     connect(this, &QTableView::doubleClicked, this, &LogTable::openRequested);
@@ -64,6 +68,22 @@ void LogTable::setColumns(const QString &kept)
     m_columnsChosen = !kept.isEmpty() && horizontalHeader()->restoreState(QByteArray::fromBase64(kept.toLatin1()));
     const QHeaderView *header = horizontalHeader();
     m_model.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
+    showColumns();
+}
+
+void LogTable::setShowsComments(bool shows)
+{
+    if (shows == m_showsComments)
+        return;
+    m_showsComments = shows;
+    showColumns();
+}
+
+void LogTable::showColumns()
+{
+    setColumnHidden(LogModel::Result, m_showsComments);
+    setColumnHidden(LogModel::Before, !m_showsComments);
+    setColumnHidden(LogModel::After, !m_showsComments);
     arrangeColumns();
 }
 
@@ -81,10 +101,11 @@ void LogTable::follow(const QString &path)
     m_model.follow(path);
 }
 
-void LogTable::look(const QString &text, const QString &status)
+void LogTable::look(const QString &text, const QString &status, bool editsOnly)
 {
     m_filter.words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     m_filter.status = status;
+    m_filter.editsOnly = editsOnly;
     filter();
 }
 
@@ -122,7 +143,44 @@ QVariantMap LogTable::entryMap(int row) const
             {QStringLiteral("inputPath"), all.inputPath(entry)},
             {QStringLiteral("outputPath"), all.outputPath(entry)},
             {QStringLiteral("bytes"), double(entry.bytes)},
-            {QStringLiteral("run"), all.run(entry.run).id}};
+            {QStringLiteral("run"), all.run(entry.run).id},
+            {QStringLiteral("before"), texts.text(entry.before)},
+            {QStringLiteral("after"), texts.text(entry.after)}};
+}
+
+std::vector<int> LogTable::placesOfChosenEdits() const
+{
+    std::vector<int> places;
+    const QModelIndexList chosen = selectionModel()->selectedRows();
+    for (const QModelIndex &index : chosen)
+        if (const int place = m_model.place(index.row()); m_model.entries().isRevertible(m_model.entries().at(place)))
+            places.push_back(place);
+    std::sort(places.begin(), places.end(), std::greater<>());
+    return places;
+}
+
+QVariantList LogTable::editMaps(const std::vector<int> &places) const
+{
+    const LogEntries &all = m_model.entries();
+    QVariantList edits;
+    for (const int place : places) {
+        const LogEntry &entry = all.at(place);
+        edits.append(QVariantMap{{QStringLiteral("path"), all.inputPath(entry)},
+                                 {QStringLiteral("before"), all.texts().text(entry.before)},
+                                 {QStringLiteral("after"), all.texts().text(entry.after)},
+                                 {QStringLiteral("run"), all.run(entry.run).id}});
+    }
+    return edits;
+}
+
+QVariantList LogTable::editsOfRun(int number) const
+{
+    const LogEntries &all = m_model.entries();
+    std::vector<int> places;
+    for (int place = all.newest(); place >= all.oldest(); --place)
+        if (all.at(place).run == number && all.isRevertible(all.at(place)))
+            places.push_back(place);
+    return editMaps(places);
 }
 
 QVariant LogTable::chosen() const
@@ -152,7 +210,8 @@ int LogTable::copyChosen() const
         QStringList cells;
         for (int column = 0; column < LogModel::ColumnCount; ++column) {
             const QModelIndex cell = m_model.index(row, horizontalHeader()->logicalIndex(column));
-            cells.append(cell.data().toString().simplified());
+            if (!isColumnHidden(cell.column()))
+                cells.append(cell.data().toString().simplified());
         }
         lines.append(cells.join(QLatin1Char('\t')));
     }
@@ -197,8 +256,12 @@ void LogTable::arrangeColumns()
     const QDateTime wide(QDate(2028, 12, 28), QTime(20, 48, 58));
     const int date = fontMetrics().horizontalAdvance(QLocale().toString(wide, QLocale::ShortFormat)) + paddingPx;
     setColumnWidth(LogModel::Date, date);
-    for (int column = LogModel::Deed; column < int(std::size(shares)); ++column)
-        setColumnWidth(column, (viewport()->width() - date) * shares[column] / 100);
+    const auto arrange = [&](const auto &parts) {
+        for (int column = LogModel::Deed; column < int(std::size(parts)); ++column)
+            if (parts[column] > 0)
+                setColumnWidth(column, (viewport()->width() - date) * parts[column] / 100);
+    };
+    m_showsComments ? arrange(sharesOfComments) : arrange(shares);
     m_arranging = false;
 }
 

@@ -115,7 +115,33 @@ int RunRows::rowCount(const QModelIndex &parent) const
 
 QString RunRows::counted(const char *one, const char *many, int count) const
 {
-    return m_texts.value(QString::fromLatin1(count == 1 ? one : many)).toString().arg(QLocale().toString(count));
+    return m_texts.value(QString::fromLatin1(count == 1 ? one : many))
+        .toString()
+        .replace(QLatin1String("%1"), QLocale().toString(count));
+}
+
+QString RunRows::title(int number) const
+{
+    const LogEntries &entries = m_log->entries();
+    const LogRun &run = entries.run(number);
+    const QString &process = entries.texts().text(run.process);
+    if (run.undoes.isEmpty())
+        return process;
+    const int undone = entries.runNamed(run.undoes);
+    const bool isRedo = undone >= 0 && !entries.run(undone).undoes.isEmpty();
+    return m_texts.value(isRedo ? QStringLiteral("redo") : QStringLiteral("undo")).toString().arg(process);
+}
+
+QString RunRows::longTitle(int number) const
+{
+    const LogEntries &entries = m_log->entries();
+    const int undone = entries.runNamed(entries.run(number).undoes);
+    if (undone < 0)
+        return title(number);
+    const QDateTime date = QDateTime::fromMSecsSinceEpoch(entries.run(undone).first);
+    return m_texts.value(QStringLiteral("of"))
+        .toString()
+        .arg(title(number), QLocale().toString(date, QLocale::ShortFormat));
 }
 
 QVariant RunRows::cell(int number, int role) const
@@ -125,7 +151,7 @@ QVariant RunRows::cell(int number, int role) const
     const LogRun run = isAll ? LogRun() : entries.run(number);
     switch (role) {
     case Qt::DisplayRole:
-        return isAll ? m_texts.value(QStringLiteral("all")) : entries.texts().text(run.process);
+        return isAll ? m_texts.value(QStringLiteral("all")) : title(number);
     case dateRole:
         return run.first == 0 ? QString()
                               : QLocale().toString(QDateTime::fromMSecsSinceEpoch(run.first), QLocale::ShortFormat);
@@ -149,8 +175,8 @@ QVariant RunRows::data(const QModelIndex &index, int role) const
         return number;
     if (role != Qt::ToolTipRole && role != Qt::AccessibleTextRole)
         return cell(number, role);
-    QStringList all;
-    for (const int part : {int(Qt::DisplayRole), dateRole, countRole, problemsRole})
+    QStringList all = {isAll ? cell(number, Qt::DisplayRole).toString() : longTitle(number)};
+    for (const int part : {dateRole, countRole, problemsRole})
         all.append(cell(number, part).toString());
     all.removeAll(QString());
     return all.join(QStringLiteral(", "));
@@ -194,7 +220,16 @@ QVariant RunList::chosen() const
     const LogRun &run = entries.run(m_number);
     return QVariantMap{{QStringLiteral("count"), run.count},
                        {QStringLiteral("problems"), run.problems},
-                       {QStringLiteral("process"), entries.texts().text(run.process)}};
+                       {QStringLiteral("process"), entries.texts().text(run.process)},
+                       {QStringLiteral("title"), m_rows.longTitle(m_number)},
+                       {QStringLiteral("areEdits"), run.areEdits},
+                       {QStringLiteral("edits"), run.edits},
+                       {QStringLiteral("undone"), entries.undoneOf(run.id)}};
+}
+
+QVariantList RunList::edits() const
+{
+    return m_number < 0 || !m_table ? QVariantList() : m_table->editsOfRun(m_number);
 }
 
 bool RunList::choose(const QString &run)

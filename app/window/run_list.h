@@ -23,8 +23,15 @@ public:
     using QAbstractListModel::QAbstractListModel;
 
     void follow(LogModel *log);
-    /** %1 and %2 stand for numbers: {all, oneEntry, entries, oneProblem, problems}. */
+    /**
+     * %1 stands for a number: {all, oneEntry, entries, oneProblem, problems}; or for a deed that was taken back or done
+     * again: {undo, redo}; in {of} %1 is that, and %2 the date of the run that it took back.
+     */
     void setTexts(const QVariantMap &texts) { m_texts = texts; }
+    /** What was done: "Rename", or "Undo of Rename" for a run that took one back. */
+    QString title(int number) const;
+    /** The same, with the date of the run that was taken back. */
+    QString longTitle(int number) const;
     int rowOf(int run) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -53,8 +60,13 @@ public:
     /** Shows the runs of the log in @p table, and filters it. @param texts  see RunRows::setTexts() */
     Q_INVOKABLE void follow(QObject *table, const QVariantMap &texts);
     QString run() const;
-    /** The number of entries and problems of the chosen run: {count, problems, process}; null where all are shown. */
+    /**
+     * The chosen run: {count (of its entries), problems, process, title (with what it took back), areEdits (of comments), edits (how
+     * many can be reverted), undone (how many entries were taken back since)}; null where all are shown.
+     */
     Q_INVOKABLE QVariant chosen() const;
+    /** The edits of the chosen run; see LogTable::editsOfRun(). */
+    Q_INVOKABLE QVariantList edits() const;
     /** Chooses the run with that name; false where the log has none. */
     Q_INVOKABLE bool choose(const QString &run);
     Q_INVOKABLE void chooseAll();

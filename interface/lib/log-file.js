@@ -1,7 +1,8 @@
 // The log of all runs: one line of JSON per picture, in the program's own folder. The file service is handed in.
 //
 // A row is {date (ISO), process, action, status, reason, input, output, inputPath, outputPath, bytes, run}; run names the run that it
-// belongs to, the same for all its rows. Rows with the keys LogDate, LogProcess, LogAction, LogStatus, LogI, LogO, LogIpath and
+// belongs to, the same for all its rows. Rows of a run that takes another one back have undoes, the name of that run; those of
+// comments have before and after. Rows with the keys LogDate, LogProcess, LogAction, LogStatus, LogI, LogO, LogIpath and
 // LogOpath are kept and read as well.
 
 const NAME = "/log.jsonl";

@@ -1,6 +1,7 @@
 // The rows of a run: counted for the summary, written as CSV and as lines of the log. Pure; no service is used.
 
 const COLUMNS = ["Date", "Process", "Action", "Status", "Reason", "Input", "Output", "InputPath", "OutputPath", "Bytes"];
+const EDIT_COLUMNS = ["Before", "After"];
 
 // Spreadsheets take a file without this mark for one in some older set of letters.
 const MARK = "\uFEFF";
@@ -23,15 +24,21 @@ export function logRow(result, process, action, date, run) {
 
 const LINE_END = "\r\n";
 
-/** What a CSV file begins with: the mark of its letters, and the names of the columns. */
-export function csvHead() {
-    return MARK + COLUMNS.join(",") + LINE_END;
+/** What a CSV file begins with: the mark of its letters, and the names of the columns. Edits have two more. */
+export function csvHead(areEdits) {
+    return MARK + COLUMNS.concat(areEdits ? EDIT_COLUMNS : []).join(",") + LINE_END;
 }
 
 /** Rows as lines of a CSV file; lines end as the format wants it, in CR and LF. */
-export function csvLines(rows) {
-    return rows.map((row) => [row.date, row.process, row.action, row.status, row.reason, row.input, row.output, row.inputPath,
-                              row.outputPath, row.bytes].map(cell).join(",") + LINE_END).join("");
+export function csvLines(rows, areEdits) {
+    return rows.map((row) => [row.date, row.process, row.action, row.status, row.reason, row.input, row.output, row.inputPath, row.outputPath,
+                              row.bytes].concat(areEdits ? [row.before, row.after] : []).map(cell).join(",") + LINE_END).join("");
+}
+
+/** A row of a run that takes another one back, by the name of that run. */
+export function undoing(row, undoes) {
+    row.undoes = undoes;
+    return row;
 }
 
 /** All rows as a CSV file. */

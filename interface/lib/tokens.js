@@ -24,6 +24,7 @@ export function tokens() {
     return [
         token("name", qsTr("Name without extension"), FORMS.name, ["", "3", "word"], "IMG_4711"),
         token("extension", qsTr("Extension"), FORMS.none, [""], "jpg"),
+        token("date", qsTr("Date taken, or else changed"), FORMS.date, DATE_FORMS, "2026-08-14"),
         token("taken", qsTr("Date taken"), FORMS.date, DATE_FORMS, "2026-08-14"),
         token("created", qsTr("Date created"), FORMS.date, DATE_FORMS, "2026-08-14"),
         token("changed", qsTr("Date changed"), FORMS.date, DATE_FORMS, "2026-08-15"),
@@ -287,6 +288,8 @@ function valueOf(part, path, facts, index) {
         return path.folder.slice(path.folder.lastIndexOf("/") + 1);
     case "counter":
         return counterText(part.form, index);
+    case "date":
+        return facts.taken || facts.changed ? dateText(facts.taken || facts.changed, part.form) : "";
     case "taken":
     case "created":
     case "changed":

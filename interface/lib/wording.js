@@ -1,8 +1,8 @@
 // Sentences with numbers in them. Pure but for translation; no service is used.
 
-/** Puts values into the places %1, %2 ... of a text. */
+/** Puts values into the places %1, %2 ... of a text. What looks like a place within a value stays as it is. */
 export function fill(text, ...values) {
-    return values.reduce((filled, value, index) => filled.replace("%" + (index + 1), () => String(value)), text);
+    return text.replace(/%([1-9])/g, (place, number) => (number <= values.length ? String(values[number - 1]) : place));
 }
 
 /** One of two texts, by number; %1 in it becomes the number. */

@@ -48,6 +48,16 @@ bool changeNothing(QFile &file, const QList<Splice> &splices)
 
 } // namespace
 
+bool canHoldUserComment(const QString &path)
+{
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return false;
+    const Content content = contentOf(file.read(contentHeadBytes));
+    return content == Content::Jpeg || content == Content::Tiff || content == Content::Png ||
+           content == Content::Jpeg2000 || content == Content::Webp;
+}
+
 Result<void> writeUserComment(const QString &path, const QString &comment)
 {
     QFile file(path);

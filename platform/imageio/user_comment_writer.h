@@ -22,4 +22,7 @@ namespace platform {
  */
 Result<void> writeUserComment(const QString &path, const QString &comment);
 
+/** Whether the file at @p path is of a kind that can hold a comment, by its first bytes; false where it cannot be read. */
+bool canHoldUserComment(const QString &path);
+
 } // namespace platform

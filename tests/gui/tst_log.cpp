@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -89,6 +90,56 @@ private Q_SLOTS:
         QVERIFY(runs()->choose(QStringLiteral("2026-11-20T10:00:00.000Z")));
         QVERIFY(m_driver->text("logRunNote").contains(QStringLiteral("wrote new files")));
         QVERIFY(!m_driver->control<QPushButton>("logUndo")->isEnabled());
+    }
+
+    void saysOfARunThatTookAnotherBackWhichOneThatWas()
+    {
+        const auto back = [](const char *run, const char *undone) {
+            QByteArray text = line(QStringLiteral("b.jpg"), "OK", run, "Rename");
+            return text.replace("\"run\":", QByteArray("\"undoes\":\"") + undone + "\",\"run\":");
+        };
+        show(line(QStringLiteral("a.jpg"), "OK", "m1", "Rename") + back("m2", "m1") + back("m3", "m2") +
+             back("m4", "gone"));
+        QStringList titles;
+        for (int row = 1; row < runs()->model()->rowCount(); ++row)
+            titles << runs()->model()->index(row, 0).data().toString();
+        QCOMPARE(titles.join(u'|'), QStringLiteral("Undo of Rename|Redo of Rename|Undo of Rename|Rename"));
+        QVERIFY(runs()->choose(QStringLiteral("m2")));
+        const QString date =
+            QLocale().toString(QDateTime::fromString(QStringLiteral("2026-11-20T10:00:00Z"), Qt::ISODate).toLocalTime(),
+                               QLocale::ShortFormat);
+        QCOMPARE(m_driver->text("logRunTitle"), QStringLiteral("Undo of Rename (run of %1) · 1 entry").arg(date));
+        const QString spoken = runs()->model()->index(3, 0).data(Qt::AccessibleTextRole).toString();
+        QVERIFY2(spoken.startsWith(QStringLiteral("Undo of Rename (run of ")), qPrintable(spoken));
+    }
+
+    void showsAndExportsOldAndNewComments()
+    {
+        QByteArray edit = line(QStringLiteral("b.jpg"), "OK", "2", "Metadata");
+        edit.replace("\"run\":", "\"before\":\"old, one\",\"after\":\"new\",\"run\":");
+        show(line(QStringLiteral("a.jpg"), "OK", "1", "Resize") + edit);
+        QVERIFY(table()->isColumnHidden(window::LogModel::After));
+        QCOMPARE(table()->model()->index(0, window::LogModel::Status).data().toString(),
+                 QStringLiteral("OK: “old, one” became “new”"));
+        m_driver->control<QLineEdit>("logSearch")->setText(QStringLiteral("one NEW"));
+        QCOMPARE(names(), QStringLiteral("b.jpg"));
+        m_driver->control<QLineEdit>("logSearch")->clear();
+        m_driver->choose("logKind", QStringLiteral("comments"));
+        QCOMPARE(names(), QStringLiteral("b.jpg"));
+        QVERIFY(!table()->isColumnHidden(window::LogModel::After));
+        const QString target = m_driver->folder() + QStringLiteral("/edits.csv");
+        m_driver->answerPanels({target});
+        m_driver->click("logExport");
+        QVERIFY(m_driver->waitFor([target] { return QFile::exists(target); }));
+        QFile file(target);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray csv = file.readAll();
+        QVERIFY(csv.contains(",Bytes,Before,After\r\n") && csv.endsWith(",\"old, one\",new\r\n"));
+        m_driver->choose("logKind", QString());
+        QVERIFY(runs()->choose(QStringLiteral("2")));
+        QVERIFY(!table()->isColumnHidden(window::LogModel::Before));
+        runs()->chooseAll();
+        QVERIFY(table()->isColumnHidden(window::LogModel::Before));
     }
 
     void searchAndStatusHoldTogether()
@@ -195,7 +246,7 @@ private Q_SLOTS:
     void everyControlHasANameThatIsSpoken()
     {
         show(line(QStringLiteral("a.jpg"), "OK", "1", "Resize"));
-        for (const char *name : {"logTable", "logRuns", "logSearch", "logStatus", "logMore"})
+        for (const char *name : {"logTable", "logRuns", "logSearch", "logStatus", "logKind", "logMore"})
             QVERIFY2(!m_driver->control<QWidget>(name)->accessibleName().isEmpty(), name);
         const QString spoken = runs()->model()->index(1, 0).data(Qt::AccessibleTextRole).toString();
         QVERIFY2(spoken.startsWith(QStringLiteral("Resize, ")) && spoken.endsWith(QStringLiteral(", 1 entry")),

@@ -1,6 +1,7 @@
 #include "window_driver.h"
 
 #include "app/window/card_handle.h"
+#include "app/window/run_list.h"
 #include "app/window/segmented_control.h"
 
 #include <QApplication>
@@ -95,6 +96,12 @@ private Q_SLOTS:
         QVERIFY(waitForNamesOnDisk({"IMG_1 001.JPG", "IMG_1 001.xmp", "IMG_2 002.JPG"}));
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         QCOMPARE(m_driver->cell(1, PictureModel::Name), QStringLiteral("IMG_2 002.JPG"));
+        m_driver->show("log");
+        const QAbstractItemModel *runs = m_driver->control<window::RunList>("logRuns")->model();
+        QVERIFY(m_driver->waitFor([runs] { return runs->rowCount() == 4; }));
+        QCOMPARE(runs->index(1, 0).data().toString(), QStringLiteral("Redo of Rename"));
+        QCOMPARE(runs->index(2, 0).data().toString(), QStringLiteral("Undo of Rename"));
+        QCOMPARE(runs->index(3, 0).data().toString(), QStringLiteral("Rename"));
     }
 
     void undoWorksAfterARestart()

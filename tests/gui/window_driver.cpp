@@ -57,6 +57,7 @@ WindowDriver::WindowDriver(QApplication &application) : m_application(applicatio
                             "Preset-convert",
                             "Preset-hand",
                             "LogColumns",
+                            "Comments",
                             "StartingPresets",
                             "SupportFilesDestination",
                             "PatternsDestination",

@@ -1,6 +1,6 @@
 import { appendRows, clearRows, keepRows, KEPT_ROWS, newRunName, trimRows } from "../../interface/lib/log-file.js";
 import { clockText, costOf, Progress } from "../../interface/lib/progress.js";
-import { csvLines, logRow, summaryOf, toCsv } from "../../interface/lib/report.js";
+import { csvHead, csvLines, logRow, summaryOf, toCsv } from "../../interface/lib/report.js";
 import { recall, withNewest } from "../../interface/lib/store.js";
 import { shortPath, statusText } from "../../interface/lib/wording.js";
 import { equal, finish, test } from "./check.js";
@@ -29,6 +29,13 @@ for (const row of FORMULAS) {
         equal(csvLines([made]), "d,P,A,OK," + row[1] + ",a.jpg,,/p/a.jpg,,0\r\n");
     });
 }
+
+test("editsHaveTwoColumnsMore", () => {
+    const row = Object.assign(logRow(done, "P", "A", "d", "r"), { before: "a,b", after: "=1" });
+    equal(csvHead(true).split(",").slice(-2), ["Before", "After\r\n"]);
+    equal(csvLines([row], true), 'd,P,A,OK,,a.jpg,a.jpg,/p/a.jpg,/out/a.jpg,7,"a,b","\'=1"\r\n');
+    equal([csvHead(false).indexOf("Before"), csvLines([row], false).split(",").length], [-1, 10]);
+});
 
 test("keepsTheLog", () => {
     const files = new FakeFiles({});

@@ -37,7 +37,7 @@ for (const row of PARSED) {
 const EXPANDED = [
     ["{name}.{extension}", "IMG_4711.JPG"], ["{folder}", "Holiday"], ["{taken}", "2026-08-14"],
     ["{taken:yyyy}/{taken:MM}", "2026/08"], ["{taken:yyMMdd HHmmss}", "260814 102030"], ["{taken:dd. MMM yyyy}", "14. Aug 2026"],
-    ["{taken:EEE}", "Fri"], ["{created:yyyy-MM-dd}", "2025-01-02"], ["{changed:EEE HH:mm:ss}", "Tue 23:59:58"],
+    ["{taken:EEE}", "Fri"], ["{date:yyyyMMdd}", "20260814"], ["{created:yyyy-MM-dd}", "2025-01-02"], ["{changed:EEE HH:mm:ss}", "Tue 23:59:58"],
     ["{camera}, {lens}", "Canon EOS 40D, EF 50mm"], ["{width}x{height}", "4032x3024"], ["{size}", "2.4 MB"],
     ["{size:class}", "1 to 5 MB"], ["{size:MB}", "2.4"], ["{type}", "JPEG"], ["{orientation}", "Landscape"],
     ["{counter}", "1"], ["{counter:001}", "001"], ["{counter:0098}", "0098"], ["{{name}", "{name}"],

@@ -1,32 +1,37 @@
-// The log of all runs: the newest first, searched, filtered by run and status, sorted, exported; and runs are undone from here.
-// Services used: files (through lib/log-file), moves, defaults.
+// The log of all runs: the newest first, searched, filtered by run, status and kind, sorted, exported; runs are undone and comments
+// reverted from here. Services used: files (through lib/log-file and lib/comment-run), mMeta, moves, defaults.
 
+import { mMeta } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
+import { commentsOf, reverting } from "../../lib/comment-run.js";
 import { guard } from "../../lib/guard.js";
 import { clearRows, keepRows, logPath, rowLimit } from "../../lib/log-file.js";
 import { csvHead, csvLines } from "../../lib/report.js";
 import { keep, recall } from "../../lib/store.js";
 import { count, fill, statusText } from "../../lib/wording.js";
-import { problemsOfUndo, undoing, undoWords } from "../../lib/undo-run.js";
+import { CommentJob, commentsReverted, commentSummary } from "../metadata/comment-job.js";
+import { problemsOfUndo, revertWords, undoAction, undoing, undoWords } from "../../lib/undo-run.js";
 
 const STATES = ["OK", "Failed", "Not Supported", "Skipped"];
 // So many rows are written at a time, and the window answers in between.
 const BATCH = 400;
 const COLUMNS = "LogColumns";
+const COMMENTS = "comments";
 
 function shownStates() {
     const shown = {};
     STATES.forEach((state) => { shown[state] = statusText(state, ""); });
+    shown.edit = qsTr("“%1” became “%2”");
     return shown;
 }
 
 // The entries that are shown, as CSV, worked out in batches.
 function* csvOf(table) {
-    const parts = [csvHead()];
+    const parts = [csvHead(table.comments)];
     for (let first = 0; first < table.shownCount; first += BATCH) {
-        parts.push(csvLines(table.entries(first, BATCH)));
+        parts.push(csvLines(table.entries(first, BATCH), table.comments));
         yield first;
     }
     return parts.join("");
@@ -38,13 +43,19 @@ export class LogPage {
         this.window = window;
         this.job = shell.job();
         this.undo = null;
+        this.words = null;
+        this.comments = commentsOf(new mMeta(), files);
+        this.reverting = new CommentJob();
         this.form = shell.loadForm("windows/log/log.ui");
         this.table = this.form.control("logTable");
         this.runs = this.form.control("logRuns");
-        this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder")], shownStates());
+        this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder"), qsTr("Old comment"), qsTr("New comment")],
+                            shownStates());
         this.table.columns = recall(defaults, COLUMNS, { columns: "" }).columns;
         this.runs.follow(this.table, { all: qsTr("All runs"), oneEntry: qsTr("1 entry"), entries: qsTr("%1 entries"),
-                                       oneProblem: qsTr("1 problem"), problems: qsTr("%1 problems") });
+                                       oneProblem: qsTr("1 problem"), problems: qsTr("%1 problems"),
+                                       undo: qsTr("Undo of %1"), redo: qsTr("Redo of %1"), of: qsTr("%1 (run of %2)") });
+        this.form.setItems("logKind", [qsTr("Any deed"), qsTr("Comments only")], ["", COMMENTS]);
         this.form.setItems("logStatus", [qsTr("Any status")].concat(STATES.map((state) => statusText(state, ""))), [""].concat(STATES));
         this.form.setSplit("logSplitter", [230, 800]);
         this.connect();
@@ -54,11 +65,13 @@ export class LogPage {
         const control = (name) => this.form.control(name);
         control("logSearch").textChanged.connect(guard("log.search", () => this.look()));
         control("logStatus").activated.connect(guard("log.status", () => this.look()));
+        control("logKind").activated.connect(guard("log.kind", () => this.look()));
+        control("logRevert").clicked.connect(guard("log.revert", () => this.revert(this.table.chosenEdits())));
         control("logExport").clicked.connect(guard("log.export", () => this.save()));
         control("logOpen").clicked.connect(guard("log.open", () => shell.showInFolder(this.chosenPath())));
         control("logPicture").clicked.connect(guard("log.picture", () => this.showPicture()));
-        control("logUndo").clicked.connect(guard("log.undo", () => this.undoRun()));
-        control("logStop").clicked.connect(guard("log.stop", () => this.job.cancel()));
+        control("logUndo").clicked.connect(guard("log.undo", () => this.takeRunBack()));
+        control("logStop").clicked.connect(guard("log.stop", () => (this.undo === null ? this.reverting : this.job).cancel()));
         control("logFind").triggered.connect(guard("log.find", () => this.find()));
         this.table.changed.connect(guard("log.chosen", () => this.showState()));
         this.table.openRequested.connect(guard("log.picture", () => this.showPicture()));
@@ -71,16 +84,29 @@ export class LogPage {
         this.showRun();
     }
 
+    /** Shows what was written into comments, and nothing else. */
+    showComments() {
+        this.form.chooseValue("logKind", COMMENTS);
+        this.form.control("logSearch").text = "";
+        this.form.chooseValue("logStatus", "");
+        this.runs.chooseAll();
+        this.look();
+    }
+
     leave() {
         keep(defaults, COLUMNS, { columns: this.table.columns });
     }
 
     mayLeave() {
-        if (this.undo !== null) {
+        if (this.isBusy()) {
             this.window.note(qsTr("A run is being undone. Stop it first, or wait."));
         }
         this.leave();
-        return this.undo === null;
+        return !this.isBusy();
+    }
+
+    isBusy() {
+        return this.undo !== null || this.reverting.running;
     }
 
     find() {
@@ -89,7 +115,14 @@ export class LogPage {
     }
 
     look() {
-        this.table.look(this.form.control("logSearch").text, this.form.value("logStatus"));
+        this.showColumns();
+        this.table.look(this.form.control("logSearch").text, this.form.value("logStatus"), this.form.value("logKind") === COMMENTS);
+    }
+
+    // Old and new comments are shown where there are such.
+    showColumns() {
+        const chosen = this.runs.chosen();
+        this.table.comments = this.form.value("logKind") === COMMENTS || (chosen !== null && chosen.areEdits);
     }
 
     showState() {
@@ -107,24 +140,40 @@ export class LogPage {
             : fill(qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %1 entries are kept."), this.table.numberText(rowLimit()));
         const chosen = this.table.chosenCount;
         this.form.setMenu("logMore", [chosen > 1 ? fill(qsTr("Copy %1 Rows"), chosen) : qsTr("Copy Row"), "-", qsTr("Clear Log…")],
-                          [chosen > 0 ? "copy" : null, null, total > 0 && this.undo === null ? "clear" : null],
+                          [chosen > 0 ? "copy" : null, null, total > 0 && !this.isBusy() ? "clear" : null],
                           guard("log.more", (deed) => (deed === "copy" ? this.table.copyChosen() : this.clear())));
+        this.showChosenEdits();
+    }
+
+    // The bar below the table is that of the chosen run, or of the chosen edits.
+    showChosenEdits() {
+        const control = (name) => this.form.control(name);
+        const edits = this.table.chosenEditCount;
+        const busy = this.isBusy();
+        control("logRevert").visible = edits > 0 && !busy;
+        control("logRevert").text = count(edits, qsTr("Revert Comment"), qsTr("Revert %1 Comments"));
+        control("logRunBar").visible = this.words !== null || edits > 0 || busy;
+        control("logUndo").visible = this.words !== null && !busy;
+        control("logStop").visible = busy;
+        control("logRuns").enabled = !busy;
+        if (this.words === null && !busy && edits > 0) {
+            const edit = this.table.chosen();
+            control("logRunTitle").text = count(edits, qsTr("1 comment chosen"), qsTr("%1 comments chosen"));
+            control("logRunNote").text = edits === 1 && edit.after !== edit.before ? fill(qsTr("“%1” became “%2”"), edit.before, edit.after) : "";
+        }
     }
 
     // The run that is chosen, and whether it can be undone.
     showRun() {
         const control = (name) => this.form.control(name);
         const chosen = this.runs.chosen();
-        const moves = this.window.services.moves;
-        const words = chosen === null ? null : undoWords(moves, this.runs.run);
-        control("logRunBar").visible = chosen !== null || this.undo !== null;
-        control("logUndo").visible = this.undo === null;
-        control("logStop").visible = this.undo !== null;
-        control("logRuns").enabled = this.undo === null;
-        if (this.undo === null && words !== null) {
+        const words = chosen === null ? null : chosen.areEdits ? revertWords(chosen) : undoWords(this.window.services.moves, this.runs.run);
+        this.words = words;
+        this.showColumns();
+        if (!this.isBusy() && words !== null) {
             const entries = count(chosen.count, qsTr("1 entry"), qsTr("%1 entries"));
             const problems = chosen.problems > 0 ? " · " + count(chosen.problems, qsTr("1 problem"), qsTr("%1 problems")) : "";
-            control("logRunTitle").text = chosen.process + " · " + entries + problems;
+            control("logRunTitle").text = chosen.title + " · " + entries + problems;
             control("logRunNote").text = words.note;
             control("logUndo").enabled = words.can;
             control("logUndo").text = words.button;
@@ -183,6 +232,26 @@ export class LogPage {
         }
     }
 
+    takeRunBack() {
+        if (this.runs.chosen().areEdits) {
+            this.revert(this.runs.edits());
+        } else {
+            this.undoRun();
+        }
+    }
+
+    // Gives pictures their old comments again.
+    revert(edits) {
+        this.reverting.start(reverting(this.comments, edits), qsTr("Revert comment"), (work) => {
+            this.form.control("logRunTitle").text = fill(qsTr("Reverting: %1 of %2"), work.tried, edits.length);
+            this.form.control("logRunNote").text = "";
+        }, (work) => {
+            this.window.note(commentSummary(work, commentsReverted(work.done)));
+            this.show();
+        });
+        this.showState();
+    }
+
     undoRun() {
         const begun = this.window.services.moves.undo(this.runs.run);
         if (begun.problem) {
@@ -190,8 +259,8 @@ export class LogPage {
             return;
         }
         this.undo = { rows: [], done: 0, problems: problemsOfUndo(begun), count: begun.items.length, places: this.placesOfRows() };
-        const process = this.runs.chosen().process;
-        this.job.start(undoing(this.window.services.moves, begun, process), guard("log.undone", (step) => this.tookBack(step)),
+        const undone = { id: this.runs.run, process: this.runs.chosen().process, action: undoAction(this.words.isRedo) };
+        this.job.start(undoing(this.window.services.moves, begun, undone), guard("log.undone", (step) => this.tookBack(step)),
                        guard("log.undoEnd", (how, value) => this.undoEnded(how, value)));
         this.showRun();
     }

@@ -117,7 +117,7 @@ export const GROUPS = [
         title: () => qsTr("Information"),
         actions: [
             { name: "metadata", title: () => qsTr("Metadata"), manner: PAGE, usesList: true, page: MetadataPage, lists: () => "pictures",
-              keyword: "sort", takes: PICTURE_INPUT },
+              keyword: "sort", takes: PHOTO_INPUT },
             { name: "log", title: () => qsTr("Log"), manner: PAGE, usesList: false, page: LogPage },
         ],
     },

@@ -5,7 +5,8 @@ import { guard } from "../../lib/guard.js";
 import { readyItems } from "../../lib/move-plan.js";
 import { splitPath } from "../../lib/names.js";
 import { clockText, Progress } from "../../lib/progress.js";
-import { logRow } from "../../lib/report.js";
+import { logRow, undoing } from "../../lib/report.js";
+import { undoAction } from "../../lib/undo-run.js";
 import { count, fill, statusKind, statusText } from "../../lib/wording.js";
 import { showPlan } from "./live-moves.js";
 import { BaseRun } from "./run-base.js";
@@ -52,6 +53,7 @@ export class MoveRun extends BaseRun {
         this.startPlanning(window.pictures.ids());
         this.title = window.action.title();
         this.undoes = "";
+        this.takenBack = null;
         this.toldMs = 0;
         this.paths = window.pictures.paths();
         const work = this.plan();
@@ -136,8 +138,7 @@ export class MoveRun extends BaseRun {
         const isDone = result.status === "OK";
         const parts = { status: result.status, reason: result.reason, photo: { name: splitPath(item.from).name, path: item.from },
                         name: isDone ? splitPath(result.path).name : "", path: isDone ? result.path : "" };
-        const action = this.undoes === "" ? window.action.step.describe(this.settings) : qsTr("Undo");
-        this.note(parts, logRow(parts, this.title, action, new Date().toISOString()));
+        this.noteRow(parts);
         this.moved += isDone && !item.along ? 1 : 0;
         const id = this.idOf(item);
         if (id > 0 && !item.along) {
@@ -150,6 +151,13 @@ export class MoveRun extends BaseRun {
         if (isDone && item.kind === "move" && item.along) {
             this.followed(item.from, result.path);
         }
+    }
+
+    noteRow(parts) {
+        const back = this.takenBack;
+        const action = back === null ? this.window.action.step.describe(this.settings) : undoAction(back.undoes !== "");
+        const row = logRow(parts, this.title, action, new Date().toISOString());
+        this.note(parts, back === null ? row : undoing(row, back.id));
     }
 
     // The row that an item belongs to; in an undo, rows are found by where their files are.
@@ -253,6 +261,7 @@ export class MoveRun extends BaseRun {
         this.startPlanning(this.window.pictures.ids());
         this.title = newest.title;
         this.undoes = newest.undoes ? "" : offer.id;
+        this.takenBack = newest;
         this.toldMs = 0;
         this.leftOut = 0;
         const begun = moves.undo(offer.id);
@@ -268,8 +277,7 @@ export class MoveRun extends BaseRun {
 
     // A file that cannot go back stays where it is.
     noteUnable(problem) {
-        const result = { status: "Failed", reason: problem.reason, photo: { name: splitPath(problem.path).name, path: problem.path } };
-        this.note(result, logRow(result, this.title, qsTr("Undo"), new Date().toISOString()));
+        this.noteRow({ status: "Failed", reason: problem.reason, photo: { name: splitPath(problem.path).name, path: problem.path } });
     }
 
     /** Takes the summary away; the rows then show what the settings would make of them now. */

@@ -1,51 +1,90 @@
-// Metadata: the properties of one picture as a tree, and the user comment of one or of all pictures of the list.
-// Services used: mMeta, files, and those of lib/comment-run.
+// Metadata: the properties of one picture as a tree, its user comment, and the comments of many pictures: those of the list, chosen files, or
+// a folder. Services used: mMeta, cToolBox (hOpenDialogFilesOC), files, defaults, and those of comment-job.
 
-import { mMeta } from "quorlin";
+import { cToolBox, mMeta } from "quorlin";
+import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
-import { commentMaker, commentProblem, editRow, editsOf, takingBack, writeComment, writing } from "../../lib/comment-run.js";
+import { commentExample, commentMaker, commentProblem, commentsOf, reverting, writing } from "../../lib/comment-run.js";
 import { guard } from "../../lib/guard.js";
-import { keepRows, newRunName } from "../../lib/log-file.js";
+import { splitPath } from "../../lib/names.js";
+import { keep, recall } from "../../lib/store.js";
+import { tokens } from "../../lib/tokens.js";
+import { PICTURE_INPUT } from "../../lib/types.js";
 import { count, fill } from "../../lib/wording.js";
+import { CommentJob, commentsReverted, commentSummary, commentsWritten } from "./comment-job.js";
 
 const TIFF = /\.tiff?$/i;
+const KEPT = "Comments";
+const ONE = 0;
+const MANY = 1;
+// Of these the name says already that they can hold a comment.
+const HOLDING = PICTURE_INPUT.filter((extension) => extension !== "gif" && extension !== "bmp").concat(["jpe", "webp", "dng"]);
+
+function mayHold(path) {
+    return HOLDING.indexOf(splitPath(path).extension.toLowerCase()) >= 0 || files.holdsComment(path);
+}
 
 export class MetadataPage {
-    /** @param window  the main window's parts: form, pictures, input, note(text) */
+    /** @param window  the main window's parts: form, pictures, input, pages, note(text) */
     constructor(window) {
         this.window = window;
         this.list = window.pictures;
-        this.meta = new mMeta();
-        this.job = shell.job();
+        this.comments = commentsOf(new mMeta(), files);
+        this.job = new CommentJob();
         this.shown = false;
         // What was read from the picture that is shown, to tell whether the field was changed.
         this.read = "";
         this.path = "";
-        // The edits of the last run, which can be taken back.
+        this.holds = false;
+        // The edits of the last run, which can be reverted.
         this.edits = [];
+        // The field shows the comment of one picture, or what is written into many.
+        this.scope = ONE;
+        this.wanted = ONE;
+        this.texts = ["", recall(defaults, KEPT, { text: "" }).text ];
         this.form = shell.loadForm("windows/metadata/metadata.ui");
         this.tree = this.form.control("metaTree");
         this.view = this.form.control("metaView");
         this.view.showsResult = false;
+        this.form.control("metaScope").segments = [qsTr("This Picture"), qsTr("Many Pictures")];
         this.connect();
+        this.connectTokens();
     }
 
     connect() {
         const join = (signal, name, deed) => signal.connect(guard("metadata." + name, deed));
         const control = (name) => this.form.control(name);
-        join(control("metaAddPictures").clicked, "add", () => this.window.input.addPictures());
-        join(control("metaAddFolder").clicked, "add", () => this.window.input.addFolder());
+        const clicks = {
+            metaAddPictures: () => this.window.input.addPictures(), metaAddFolder: () => this.window.input.addFolder(), metaApply: () => this.apply(),
+            metaApplyAll: () => this.writeInto(this.list.paths()), metaChooseFiles: () => this.writeInto(cToolBox.hOpenDialogFilesOC("EMM")),
+            metaChooseFolder: () => this.writeInto(cToolBox.hOpenDialogFilesOC("EMMDir")), metaRevert: () => this.revert(),
+            metaStop: () => this.job.cancel(), metaLog: () => this.showLog(),
+        };
+        Object.keys(clicks).forEach((name) => join(control(name).clicked, name, clicks[name]));
         join(control("metaSearch").textChanged, "search", () => this.look());
-        join(control("metaCopy").clicked, "copy", () => this.copy());
         join(control("metaComment").textChanged, "comment", () => this.showButtons());
-        join(control("metaApply").clicked, "apply", () => this.apply());
-        join(control("metaApplyAll").clicked, "applyAll", () => this.applyAll());
-        join(control("metaTakeBack").clicked, "takeBack", () => this.takeBack());
-        join(control("metaStop").clicked, "stop", () => this.job.cancel());
+        join(control("metaScope").chosen, "scope", (scope) => this.takeScope(scope));
         join(this.view.largePreviewRequested, "large", () => this.window.form.control("largeAction").trigger());
         join(control("metaFind").triggered, "find", () => this.find());
+        join(control("metaCancel").triggered, "stop", () => this.job.cancel());
         join(this.list.currentPictureChanged, "current", () => this.showCurrent());
+    }
+
+    connectTokens() {
+        const control = (name) => this.form.control(name);
+        const offered = [];
+        tokens().forEach((token) => token.forms.forEach((form) => {
+            offered.push({ title: token.words + (form === "" ? "" : "  " + form), text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
+        }));
+        const menu = control("metaTokenMenu");
+        menu.setPlaceholder(qsTr("Search values"));
+        menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text), offered.map((each) => each.example), offered.map((each) => each.text));
+        menu.chosen.connect(guard("metadata.token", (text) => {
+            control("metaComment").insertPlainText(text);
+            control("metaComment").setFocus();
+        }));
+        control("metaToken").clicked.connect(guard("metadata.tokens", () => menu.popUp(control("metaToken"))));
     }
 
     show() {
@@ -55,13 +94,15 @@ export class MetadataPage {
     }
 
     leave() {
+        this.keepText();
         this.shown = false;
     }
 
     mayLeave() {
         if (this.job.running) {
-            this.window.note(qsTr("Comments are being written. Stop it first, or wait."));
+            this.window.note(qsTr("Comments are being written. Cancel it first, or wait."));
         }
+        this.keepText();
         return !this.job.running;
     }
 
@@ -74,6 +115,13 @@ export class MetadataPage {
         this.form.control("metaSearch").selectAll();
     }
 
+    showLog() {
+        this.window.form.control("sideBar").currentAction = "log";
+        if (this.window.pages.shown !== null && this.window.pages.shown.showComments !== undefined) {
+            this.window.pages.shown.showComments();
+        }
+    }
+
     showCurrent() {
         if (this.shown) {
             this.showPhoto(this.list.currentId > 0 ? this.list.photo(this.list.currentId) : null);
@@ -82,26 +130,63 @@ export class MetadataPage {
 
     showPhoto(photo) {
         this.form.control("metaPage").currentIndex = photo === null ? 0 : 1;
-        if (photo !== null && photo.path !== this.path) {
+        if (photo === null) {
+            this.path = "";
+            this.read = "";
+            this.texts[ONE] = "";
+        } else if (photo.path !== this.path) {
             this.showPicture(photo);
         }
-        this.showButtons();
+        this.useScope(photo === null ? MANY : this.wanted);
     }
 
     showPicture(photo) {
         const control = (name) => this.form.control(name);
         this.path = photo.path;
         const isPicture = this.tree.showFile(photo.path);
-        const comment = this.meta.hGetExifUc(photo.path);
-        this.read = comment;
+        this.read = this.comments.read(photo.path);
+        this.holds = files.holdsComment(photo.path);
         this.view.showPicture(photo.path);
         this.view.setTitles("", "");
         this.view.setCaptions("", "");
-        control("metaComment").plainText = comment;
+        this.texts[ONE] = this.read;
+        if (this.scope === ONE) {
+            control("metaComment").plainText = this.read;
+        }
         control("metaName").text = photo.name;
         control("metaName").toolTip = photo.path;
         control("metaProblem").text = isPicture ? "" : qsTr("This file is not a picture that can be read.");
         control("metaProblem").visible = !isPicture;
+        this.showCopyMenu();
+    }
+
+    showCopyMenu() {
+        const texts = [qsTr("Copy Value or Branch"), "-", qsTr("Copy Place in Degrees, 48.85840, 2.29450"), qsTr("Copy Place in Minutes, 48° 51′ 30″ N")];
+        const place = this.tree.hasPlace;
+        this.form.setMenu("metaCopy", texts, ["", null, place ? "degrees" : null, place ? "minutes" : null],
+                          guard("metadata.copy", (form) => (form === "" ? this.copy() : this.copyPlace(form))));
+    }
+
+    takeScope(scope) {
+        this.wanted = scope;
+        this.useScope(scope);
+        this.form.control("metaComment").setFocus();
+    }
+
+    // What was typed for the other scope is kept.
+    useScope(scope) {
+        if (scope !== this.scope) {
+            this.texts[this.scope] = this.text();
+            this.scope = scope;
+            this.form.control("metaComment").plainText = this.texts[scope];
+        }
+        this.form.control("metaScope").selectedSegment = scope;
+        this.showButtons();
+    }
+
+    keepText() {
+        this.texts[this.scope] = this.text();
+        keep(defaults, KEPT, { text: this.texts[MANY] });
     }
 
     look() {
@@ -114,86 +199,116 @@ export class MetadataPage {
         this.window.note(lines > 0 ? count(lines, qsTr("1 line copied"), qsTr("%1 lines copied")) : qsTr("Choose a property to copy first."));
     }
 
+    copyPlace(form) {
+        this.window.note(fill(qsTr("Copied: %1"), this.tree.copyPlace(form)));
+    }
+
     text() {
         return this.form.control("metaComment").plainText;
+    }
+
+    // What stands under the field while nothing runs.
+    note(problem) {
+        if (this.scope === ONE) {
+            return this.holds ? "" : qsTr("Files of this type have no place for a comment.");
+        }
+        if (problem !== "" || this.text() === "") {
+            return problem || qsTr("Tokens such as {name}, {date} and {counter} stand for what each picture has; {{ is a brace.");
+        }
+        const example = commentExample(this.text(), this.path, files);
+        return fill(qsTr("For example %1: “%2”"), example.name, example.comment.replace(/\s+/g, " "));
     }
 
     showButtons() {
         const control = (name) => this.form.control(name);
         const busy = this.job.running;
-        const problem = commentProblem(this.text());
+        const isOne = this.scope === ONE;
+        const problem = isOne ? "" : commentProblem(this.text());
         const pictures = this.list.count;
         control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, pictures);
         control("metaFound").text = control("metaSearch").text.trim() === "" ? "" : count(this.tree.shownCount, qsTr("1 property"), qsTr("%1 properties"));
-        control("metaNote").text = problem || qsTr("Tokens such as {name}, {taken} and {counter} stand for what each picture has; {{ is a brace.");
-        control("metaComment").readOnly = busy;
-        control("metaApply").enabled = !busy && problem === "" && this.path !== "" && this.text() !== this.read;
-        control("metaApplyAll").visible = pictures > 1;
-        control("metaApplyAll").enabled = !busy && problem === "";
-        control("metaApplyAll").text = fill(qsTr("Write into All %1…"), pictures);
-        control("metaTakeBack").enabled = !busy && this.edits.length > 0;
-        control("metaTakeBack").text = this.edits.length > 1 ? fill(qsTr("Take Back %1"), this.edits.length) : qsTr("Take Back");
-        control("metaStop").visible = busy;
+        if (!busy) {
+            control("metaNote").text = this.note(problem);
+        }
+        control("metaComment").readOnly = busy || (isOne && !this.holds);
+        control("metaToken").visible = !isOne;
+        control("metaScope").enabled = !busy && this.path !== "";
+        for (const name of ["metaApplyAll", "metaChooseFiles", "metaChooseFolder"]) {
+            control(name).visible = !isOne && !busy;
+            control(name).enabled = problem === "";
+        }
+        control("metaApplyAll").visible = !isOne && !busy && pictures > 0;
+        control("metaApplyAll").text = count(pictures, qsTr("Write into 1…"), qsTr("Write into All %1…"));
+        control("metaApply").visible = isOne && !busy;
+        control("metaApply").enabled = this.path !== "" && this.holds && this.text() !== this.read;
+        control("metaRevert").visible = !busy;
+        control("metaRevert").enabled = this.edits.length > 0;
+        control("metaRevert").text = this.edits.length > 1 ? fill(qsTr("Revert %1"), this.edits.length) : qsTr("Revert");
+        control("metaLog").enabled = !busy;
+        for (const name of ["metaStop", "metaProgress"]) {
+            control(name).visible = busy;
+        }
+        control("metaCancel").enabled = busy;
     }
 
-    // Other pages of a TIFF file are lost; whoever writes into one must know that before.
+    // What whoever writes into pictures must know before.
+    warnings(paths) {
+        const without = paths.filter((path) => !mayHold(path)).length;
+        return [
+            qsTr("The originals themselves are changed: their comment, and nothing else in them."),
+            paths.some((path) => TIFF.test(path)) ? qsTr("Of TIFF files with several pages only the first page is kept.") : "",
+            without > 0 ? count(without, qsTr("1 file is of a type that has no place for a comment, and stays as it is."),
+                                qsTr("%1 files are of types that have no place for a comment, and stay as they are.")) : "",
+        ].filter((each) => each !== "");
+    }
+
     mayWrite(paths, comment) {
-        const hasTiff = paths.some((path) => TIFF.test(path));
-        if (paths.length === 1 && !hasTiff) {
-            return true;
-        }
-        const loss = hasTiff ? qsTr("Of TIFF files with several pages only the first page is kept.") : "";
         const answer = shell.ask({
             title: qsTr("Write comment"),
             text: comment === "" ? count(paths.length, qsTr("Empty the comment of this picture?"), qsTr("Empty the comments of %1 pictures?"))
                 : count(paths.length, qsTr("Write the comment into this picture?"), qsTr("Write the comment into %1 pictures?")),
-            detail: [qsTr("The originals themselves are changed: their comment, and nothing else in them."), loss].filter((each) => each !== "").join(" "),
-            buttons: [qsTr("Write"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
+            detail: this.warnings(paths).join(" "), buttons: [qsTr("Write"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
         });
         return answer.button === 0;
     }
 
     apply() {
-        const comment = commentMaker(this.text(), files)(this.path, this.list.currentPlace - 1);
-        if (this.mayWrite([this.path], comment)) {
-            this.ended([writeComment(this.meta, this.path, comment)], qsTr("Write comment"), "");
+        const comment = this.text();
+        if (!TIFF.test(this.path) || this.mayWrite([this.path], comment)) {
+            this.run([this.path], writing(this.comments, [this.path], () => comment), qsTr("Write comment"), commentsWritten);
         }
     }
 
-    applyAll() {
-        const paths = this.list.paths();
-        if (this.mayWrite(paths, this.text())) {
-            this.run(writing(this.meta, paths, commentMaker(this.text(), files)), paths.length, qsTr("Write comment"));
+    writeInto(paths) {
+        const text = this.text();
+        if (paths.length > 0 && this.mayWrite(paths, text)) {
+            this.run(paths, writing(this.comments, paths, commentMaker(text, files)), qsTr("Write comment"), commentsWritten);
         }
     }
 
-    takeBack() {
+    revert() {
         const edits = this.edits;
-        this.run(takingBack(this.meta, edits), edits.length, qsTr("Take back comment"));
+        this.run(edits, reverting(this.comments, edits), qsTr("Revert comment"), commentsReverted);
     }
 
-    run(generator, number, action) {
-        const results = [];
-        this.job.start(generator, guard("metadata.step", (result) => {
-            results.push(result);
-            this.form.control("metaNote").text = fill(qsTr("%1 of %2"), results.length, number);
-        }), guard("metadata.end", (how, value) => this.ended(results, action, how === "failed" ? String(value) : "")));
+    // The bar advances with each picture that has its comment.
+    run(items, generator, action, words) {
+        const bar = this.form.control("metaProgress");
+        const isRevert = words === commentsReverted;
+        bar.maximum = items.length;
+        bar.value = 0;
+        this.job.start(generator, action, (work) => {
+            bar.value = work.done;
+            this.form.control("metaNote").text = fill(qsTr("%1 of %2"), work.tried, items.length);
+        }, (work) => this.ended(work, words(work.done), isRevert));
         this.showButtons();
     }
 
-    ended(results, action, failure) {
-        const run = newRunName();
-        const date = new Date().toISOString();
-        const done = results.filter((result) => result.status === "OK").length;
-        const first = results.find((result) => result.status !== "OK");
-        const problem = keepRows(files, results.map((result) => editRow(result, action, date, run))) || failure;
-        const parts = [count(done, qsTr("1 comment written"), qsTr("%1 comments written"))];
-        if (first !== undefined) {
-            parts.push(count(results.length - done, qsTr("1 problem"), qsTr("%1 problems")), first.reason);
-        }
-        this.edits = action === qsTr("Write comment") ? editsOf(results) : [];
+    ended(work, done, isRevert) {
+        this.form.control("metaProgress").value = 0;
+        this.edits = isRevert ? [] : work.edits;
         this.path = "";
         this.showCurrent();
-        this.window.note(parts.concat(problem ? [problem] : []).join(" · "));
+        this.window.note(commentSummary(work, done));
     }
 }

@@ -171,6 +171,31 @@ private Q_SLOTS:
         QCOMPARE(entries.run(entries.runOrder().back()).problems, 0);
     }
 
+    void countsWhatWasTakenBackOfARun()
+    {
+        const auto edit = [](int minute, const char *status, const char *run, const char *undoes) {
+            return line(minute, "a.jpg", status, run)
+                .replace("\"run\":",
+                         QByteArray("\"before\":\"x\",\"after\":\"y\",\"undoes\":\"") + undoes + "\",\"run\":");
+        };
+        write(edit(1, "OK", "one", "") + edit(2, "OK", "one", "") + edit(3, "Failed", "one", "") +
+              edit(4, "OK", "two", "one") + edit(5, "Skipped", "two", "one"));
+        const window::LogEntries &entries = m_model->entries();
+        const auto run = [&entries](const char *id) { return entries.run(entries.runNamed(QString::fromLatin1(id))); };
+        QCOMPARE(run("one").edits, 2);
+        QCOMPARE(run("two").undoes, QStringLiteral("one"));
+        QCOMPARE(entries.undoneOf(QStringLiteral("one")), 1);
+        QVERIFY(window::appendLines(m_path, edit(6, "OK", "three", "two")));
+        m_model->follow(m_path);
+        QCOMPARE(entries.undoneOf(QStringLiteral("one")), 0); // done again
+        QCOMPARE(entries.undoneOf(QString()), 0);
+        // Lines that go round in a circle.
+        QVERIFY(
+            window::appendLines(m_path, edit(7, "OK", "p", "q") + edit(8, "OK", "q", "p") + edit(9, "OK", "r", "r")));
+        m_model->follow(m_path);
+        QVERIFY(entries.undoneOf(QStringLiteral("p")) >= 0 && entries.undoneOf(QStringLiteral("r")) >= 0);
+    }
+
     void linesWithoutARunOfTheirOwnGoTogetherWhileTheyAreClose()
     {
         write(line(1, "a.jpg", "OK", "") + line(2, "b.jpg", "OK", "") + line(40, "c.jpg", "OK", ""));
