@@ -15,24 +15,9 @@
 #include "platform/foundation/log.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QMessageBox>
-#include <QTranslator>
 
 namespace window {
-
-namespace {
-
-// The toolkit has words of its own: in its dialogs, and the names of keys in menus. Without its package they are English.
-std::unique_ptr<QTranslator> toolkitTexts(const QString &language)
-{
-    auto texts = std::make_unique<QTranslator>();
-    if (texts->load(QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(texts.get());
-    return texts;
-}
-
-} // namespace
 
 StartUp::StartUp(QApplication &application)
 {
@@ -42,10 +27,9 @@ StartUp::StartUp(QApplication &application)
     QGuiApplication::setDesktopFileName(QStringLiteral("com.brelmark.Quorlin"));
     const QString folder = interfaceFolder();
     app::useTexts();
-    const QString language = platform::languageOfTexts();
-    m_toolkitTexts = toolkitTexts(language);
     m_texts = std::make_unique<InterfaceTexts>();
-    if (m_texts->read(folder + QStringLiteral("/texts/") + language + QStringLiteral("/Interface.json")))
+    if (m_texts->read(folder + QStringLiteral("/texts/") + platform::languageOfTexts() +
+                      QStringLiteral("/Interface.json")))
         QCoreApplication::installTranslator(m_texts.get());
     setIconFolder(folder + QStringLiteral("/icons"));
     m_theme = std::make_unique<Theme>(application, folder + QStringLiteral("/themes"));

@@ -6,7 +6,6 @@
 #include <memory>
 
 class QApplication;
-class QTranslator;
 
 namespace script {
 class ScriptEngine;
@@ -40,7 +39,6 @@ public:
 
 private:
     QString m_problem;
-    std::unique_ptr<QTranslator> m_toolkitTexts;
     std::unique_ptr<InterfaceTexts> m_texts;
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<Shell> m_shell;
