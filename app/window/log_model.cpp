@@ -312,15 +312,22 @@ int LogModel::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
+QString LogModel::editWords(const LogEntry &entry) const
+{
+    const QString &before = m_entries.texts().text(entry.before);
+    const QString &after = m_entries.texts().text(entry.after);
+    if (before.isEmpty() || after.isEmpty())
+        return m_statusWords.value(before.isEmpty() ? QStringLiteral("newEdit") : QStringLiteral("lastEdit"))
+            .replace(QLatin1String("%1"), before + after);
+    return m_statusWords.value(QStringLiteral("edit")).arg(before, after);
+}
+
 QString LogModel::statusOf(const LogEntry &entry) const
 {
     const QString &word = m_entries.texts().text(entry.status);
     const QString shown = m_statusWords.value(word, word);
-    const TextPool &texts = m_entries.texts();
-    const QString reason =
-        entry.reason == 0 && m_entries.isRevertible(entry)
-            ? m_statusWords.value(QStringLiteral("edit")).arg(texts.text(entry.before), texts.text(entry.after))
-            : texts.text(entry.reason);
+    const bool tells = m_tellsEdits && entry.reason == 0 && m_entries.isRevertible(entry);
+    const QString reason = tells ? editWords(entry) : m_entries.texts().text(entry.reason);
     return reason.isEmpty() ? shown : shown + QStringLiteral(": ") + reason;
 }
 

@@ -39,8 +39,13 @@ public:
     const LogEntries &entries() const { return m_entries; }
 
     void setHeadings(const QStringList &headings);
-    /** How status words are shown, word by word; under "edit", what is said of an edit: "“%1” became “%2”". */
+    /**
+     * How status words are shown, word by word; and what is said of an edit: under "edit" with both comments (%1 and %2), under
+     * "newEdit" and "lastEdit" with the only one.
+     */
     void setStatusWords(const QHash<QString, QString> &shown);
+    /** Whether the status of an edit says what was edited, because no column shows it. */
+    void setTellsEdits(bool tells) { m_tellsEdits = tells; }
     void setFilter(const LogFilter &filter);
 
     /** The place, in entries(), of a row that is shown. */
@@ -65,6 +70,7 @@ private:
     void readSlice();
     void readNewer();
     bool isShown(const LogEntry &entry) const;
+    QString editWords(const LogEntry &entry) const;
     bool hasWord(const LogEntry &entry, int word) const;
     bool textHasWord(int text, int word) const;
     void showNewer(int from);
@@ -79,6 +85,7 @@ private:
     QStringList m_headings;
     QHash<QString, QString> m_statusWords;
     LogFilter m_filter;
+    bool m_tellsEdits = true;
     int m_sortColumn = Date;
     Qt::SortOrder m_sortOrder = Qt::DescendingOrder;
     /// What is known of the numbered texts, by word of the search: 0 not looked at, 1 the word is in it, 2 it is not.

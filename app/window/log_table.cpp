@@ -21,7 +21,7 @@ constexpr int paddingPx = 20;
 /** Shares, in per cent, of the width that the date leaves; the last column takes the rest. */
 constexpr int shares[] = {0, 24, 21, 20, 17, 0};
 /** The same while comments are shown, which need the most room. */
-constexpr int sharesOfComments[] = {0, 16, 15, 12, 0, 15, 21};
+constexpr int sharesOfComments[] = {0, 15, 15, 10, 0, 15, 22};
 
 } // namespace
 
@@ -76,7 +76,9 @@ void LogTable::setShowsComments(bool shows)
     if (shows == m_showsComments)
         return;
     m_showsComments = shows;
+    m_model.setTellsEdits(!shows);
     showColumns();
+    viewport()->update();
 }
 
 void LogTable::showColumns()

@@ -96,6 +96,14 @@ export function editsOf(results, run) {
         .map((result) => ({ path: result.path, before: result.before, after: result.after, run: run })).reverse();
 }
 
+/** What an edit was, as one sentence. */
+export function editWords(before, after) {
+    if (before === "" || after === "") {
+        return before === "" ? fill(qsTr("“%1” was written"), after) : fill(qsTr("“%1” was emptied"), before);
+    }
+    return fill(qsTr("“%1” became “%2”"), before, after);
+}
+
 /** A result as a row of the log, with the old and the new comment. */
 export function editRow(result, action, date, run) {
     const photo = { name: splitPath(result.path).name, path: result.path };

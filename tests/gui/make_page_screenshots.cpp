@@ -4,6 +4,7 @@
 
 #include "app/window/log_table.h"
 #include "app/window/run_list.h"
+#include "app/window/segmented_control.h"
 #include "meta/mMeta.h"
 
 #include "platform/desktop/user_defaults.h"
@@ -15,6 +16,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPlainTextEdit>
 #include <QTest>
 
 namespace {
@@ -28,7 +30,38 @@ struct MadeRun
     int count;
     int failing; ///< every so many entries one fails; 0 for none
     int hoursAgo;
+    const char *undoes = "";
 };
+
+// Comments of a run, two of which were reverted after it.
+void writeEdits(QFile &file, const QDateTime &now)
+{
+    const auto write = [&](int number, const char *run, const char *undoes, const QString &before, const QString &after,
+                           bool fails) {
+        const QString name = QStringLiteral("IMG_%1.JPG").arg(2041 + number);
+        const QString path = QStringLiteral("/media/pictures/Lake/") + name;
+        const bool isBack = *undoes != '\0';
+        const QJsonObject line = {
+            {QStringLiteral("date"), now.addSecs((isBack ? -600 : -1800) + number).toString(Qt::ISODateWithMs)},
+            {QStringLiteral("process"), QStringLiteral("Metadata")},
+            {QStringLiteral("action"), isBack ? QStringLiteral("Revert comment") : QStringLiteral("Write comment")},
+            {QStringLiteral("status"), fails ? QStringLiteral("Failed") : QStringLiteral("OK")},
+            {QStringLiteral("reason"), fails ? QStringLiteral("the file is write-protected") : QString()},
+            {QStringLiteral("inputPath"), path},
+            {QStringLiteral("outputPath"), path},
+            {QStringLiteral("before"), before},
+            {QStringLiteral("after"), fails ? before : after},
+            {QStringLiteral("undoes"), QString::fromUtf8(undoes)},
+            {QStringLiteral("run"), QString::fromUtf8(run)}};
+        file.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
+    };
+    const auto old = [](int i) { return i % 3 == 0 ? QStringLiteral("OLYMPUS DIGITAL CAMERA") : QString(); };
+    const auto made = [](int i) { return QStringLiteral("Lake at Brelmark, 2026-08-14, picture %1").arg(i + 1); };
+    for (int i = 0; i < 64; ++i)
+        write(i, "2026-11-20T08:00:00Z", "", old(i), made(i), i == 59);
+    for (int i = 62; i < 64; ++i)
+        write(i, "2026-11-20T09:00:00Z", "2026-11-20T08:00:00Z", made(i), old(i), false);
+}
 
 // A log as somebody has it after some days of work.
 void writeLog(const QString &home)
@@ -37,6 +70,7 @@ void writeLog(const QString &home)
         {"2026-11-20T01:00:00Z", "Resize", "longest 1600", "Web", 240, 0, 75},
         {"2026-11-20T02:00:00Z", "Crop", "16:9, 1920 × 1080", "Cut", 36, 12, 52},
         {"2026-11-20T03:00:00Z", "Rename", "date taken, counter", "", 318, 0, 30},
+        {"2026-11-20T03:30:00Z", "Rename", "Undo", "", 318, 0, 30, "2026-11-20T03:00:00Z"},
         {"2026-11-20T04:00:00Z", "Resize", "longest 256", "Thumbnails", 24, 0, 29},
         {"2026-11-20T05:00:00Z", "Round Corners", "radius 40", "Round", 12, 6, 5},
         {"2026-11-20T06:00:00Z", "Sort by Hand", "Move to Lake", "", 61, 0, 4},
@@ -65,10 +99,12 @@ void writeLog(const QString &home)
                 {QStringLiteral("output"), fails ? QString() : result},
                 {QStringLiteral("inputPath"), lake + name},
                 {QStringLiteral("outputPath"), fails ? QString() : target + result},
+                {QStringLiteral("undoes"), QString::fromUtf8(run.undoes)},
                 {QStringLiteral("run"), QString::fromUtf8(run.id)}};
             file.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
         }
     }
+    writeEdits(file, now);
 }
 
 void saveBoth(WindowDriver &driver, const QString &name)
@@ -92,6 +128,15 @@ void showLog(WindowDriver &driver, const QString &name)
     driver.control<window::RunList>("logRuns")->choose(QStringLiteral("2026-11-20T07:00:00Z"));
     driver.control<window::LogTable>("logTable")->selectRow(0);
     saveBoth(driver, name);
+    driver.control<window::RunList>("logRuns")->choose(QStringLiteral("2026-11-20T08:00:00Z"));
+    driver.control<window::LogTable>("logTable")->selectRow(1);
+    saveBoth(driver, name + QStringLiteral("-comments"));
+    driver.control<window::RunList>("logRuns")->chooseAll();
+    driver.choose("logKind", QStringLiteral("comments"));
+    saveBoth(driver, name + QStringLiteral("-edits"));
+    driver.choose("logKind", QString());
+    driver.control<window::RunList>("logRuns")->choose(QStringLiteral("2026-11-20T03:30:00Z"));
+    saveBoth(driver, name + QStringLiteral("-undo"));
 }
 
 // Folders as somebody has them; the last one is gone.
@@ -140,7 +185,16 @@ void showMetadata(WindowDriver &driver, const QString &name)
     mMeta().hSetExifData(picture, QStringLiteral("Lake at Brelmark, first light"));
     driver.drop({driver.folder() + QStringLiteral("/Pictures")});
     settle(driver);
+    for (int i = 0; i < 6 && driver.text("metaName") != QLatin1String("Lake in the morning.jpg"); ++i)
+        driver.trigger("nextAction");
+    settle(driver);
     saveBoth(driver, name);
+    auto *scope = driver.control<window::SegmentedControl>("metaScope");
+    QTest::keyClick(scope, Qt::Key_Right);
+    driver.control<QPlainTextEdit>("metaComment")
+        ->setPlainText(QStringLiteral("Brelmark, {date:dd MMM yyyy}, picture {counter:001}"));
+    saveBoth(driver, name + QStringLiteral("-many"));
+    QTest::keyClick(scope, Qt::Key_Left);
 }
 
 } // namespace

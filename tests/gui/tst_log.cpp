@@ -125,6 +125,7 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringLiteral("b.jpg"));
         m_driver->control<QLineEdit>("logSearch")->clear();
         m_driver->choose("logKind", QStringLiteral("comments"));
+        QCOMPARE(table()->model()->index(0, window::LogModel::Status).data().toString(), QStringLiteral("OK"));
         QCOMPARE(names(), QStringLiteral("b.jpg"));
         QVERIFY(!table()->isColumnHidden(window::LogModel::After));
         const QString target = m_driver->folder() + QStringLiteral("/edits.csv");

@@ -1,5 +1,5 @@
 import {
-    commentExample, commentMaker, commentProblem, commentsOf, editRow, editsOf, reverting, writeComment, writing,
+    commentExample, commentMaker, commentProblem, commentsOf, editRow, editsOf, editWords, reverting, writeComment, writing,
 } from "../../interface/lib/comment-run.js";
 import { fill } from "../../interface/lib/wording.js";
 import { drain, equal, finish, isTrue, test } from "./check.js";
@@ -102,6 +102,10 @@ test("logsTheOldAndTheNewComment", () => {
     equal([row.process, row.action, row.status, row.input, row.inputPath, row.outputPath, row.run, row.before, row.after, row.undoes],
           ["Metadata", "Comment", "OK", "a.jpg", "/p/a.jpg", "/p/a.jpg", "r1", "old", "new", undefined]);
     equal(editRow({ path: "/p/a.jpg", status: "OK", reason: "", before: "new", after: "old", undoes: "r1" }, "Revert", "", "r2").undoes, "r1");
+});
+
+test("saysWhatAnEditWas", () => {
+    equal([editWords("a", "b"), editWords("", "b"), editWords("a", "")], ["“a” became “b”", "“b” was written", "“a” was emptied"]);
 });
 
 test("valuesThatLookLikePlacesStayAsTheyAre", () => {

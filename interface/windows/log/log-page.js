@@ -5,7 +5,7 @@ import { mMeta } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
-import { commentsOf, reverting } from "../../lib/comment-run.js";
+import { commentsOf, editWords, reverting } from "../../lib/comment-run.js";
 import { guard } from "../../lib/guard.js";
 import { clearRows, keepRows, logPath, rowLimit } from "../../lib/log-file.js";
 import { csvHead, csvLines } from "../../lib/report.js";
@@ -23,7 +23,9 @@ const COMMENTS = "comments";
 function shownStates() {
     const shown = {};
     STATES.forEach((state) => { shown[state] = statusText(state, ""); });
-    shown.edit = qsTr("“%1” became “%2”");
+    shown.edit = editWords("%1", "%2");
+    shown.newEdit = editWords("", "%1");
+    shown.lastEdit = editWords("%1", "");
     return shown;
 }
 
@@ -71,7 +73,8 @@ export class LogPage {
         control("logOpen").clicked.connect(guard("log.open", () => shell.showInFolder(this.chosenPath())));
         control("logPicture").clicked.connect(guard("log.picture", () => this.showPicture()));
         control("logUndo").clicked.connect(guard("log.undo", () => this.takeRunBack()));
-        control("logStop").clicked.connect(guard("log.stop", () => (this.undo === null ? this.reverting : this.job).cancel()));
+        control("logStop").clicked.connect(guard("log.stop", () => this.stop()));
+        control("logCancel").triggered.connect(guard("log.stop", () => this.stop()));
         control("logFind").triggered.connect(guard("log.find", () => this.find()));
         this.table.changed.connect(guard("log.chosen", () => this.showState()));
         this.table.openRequested.connect(guard("log.picture", () => this.showPicture()));
@@ -107,6 +110,10 @@ export class LogPage {
 
     isBusy() {
         return this.undo !== null || this.reverting.running;
+    }
+
+    stop() {
+        (this.undo === null ? this.reverting : this.job).cancel();
     }
 
     find() {
@@ -155,11 +162,12 @@ export class LogPage {
         control("logRunBar").visible = this.words !== null || edits > 0 || busy;
         control("logUndo").visible = this.words !== null && !busy;
         control("logStop").visible = busy;
+        control("logCancel").enabled = busy;
         control("logRuns").enabled = !busy;
         if (this.words === null && !busy && edits > 0) {
             const edit = this.table.chosen();
             control("logRunTitle").text = count(edits, qsTr("1 comment chosen"), qsTr("%1 comments chosen"));
-            control("logRunNote").text = edits === 1 && edit.after !== edit.before ? fill(qsTr("“%1” became “%2”"), edit.before, edit.after) : "";
+            control("logRunNote").text = edits === 1 && edit.after !== edit.before ? editWords(edit.before, edit.after) : "";
         }
     }
 

@@ -231,6 +231,7 @@ export class MetadataPage {
             control("metaNote").text = this.note(problem);
         }
         control("metaComment").readOnly = busy || (isOne && !this.holds);
+        this.form.setLook("metaComment", "holds", String(!isOne || this.holds));
         control("metaToken").visible = !isOne;
         control("metaScope").enabled = !busy && this.path !== "";
         for (const name of ["metaApplyAll", "metaChooseFiles", "metaChooseFolder"]) {
