@@ -1,0 +1,192 @@
+#include "window_driver.h"
+
+#include "files/journal_shelf.h"
+#include "files/move_run.h"
+
+#include "platform/desktop/disk_file_system.h"
+#include "platform/desktop/user_defaults.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+using window::PictureModel;
+
+/** Runs that move files: paused, cancelled, and interrupted. */
+class MoveRuns : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
+
+    void init()
+    {
+        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+        QVERIFY(QDir().mkpath(at("")));
+    }
+
+    void cleanup() { m_driver.reset(); }
+
+    void pausesBetweenTwoFilesAndGoesOn()
+    {
+        begin(many);
+        int done = 0;
+        atTheFirstFile([&](int value) {
+            done = value;
+            m_driver->click("pauseButton");
+        });
+        m_driver->click("startButton");
+        QVERIFY(m_driver->waitFor([&] { return done > 0; }));
+        const QStringList paused = names();
+        QCOMPARE(paused.filter(QStringLiteral("new ")).size(), done);
+        QTest::qWait(150);
+        QCOMPARE(names(), paused);
+        QVERIFY2(m_driver->text("statusDetail").startsWith(QLatin1String("paused")),
+                 qPrintable(m_driver->text("statusDetail")));
+        QCOMPARE(m_driver->control<QAbstractButton>("pauseButton")->text(), QStringLiteral("Continue"));
+        m_driver->click("pauseButton");
+        const QString said = m_driver->waitForSummary();
+        QVERIFY2(said.startsWith(QStringLiteral("%1 files renamed, 0 problems").arg(many)), qPrintable(said));
+        QCOMPARE(names().filter(QStringLiteral("new ")).size(), many);
+    }
+
+    void cancelsWhilePausedAndPutsBack()
+    {
+        begin(many);
+        const QStringList before = names();
+        bool isPaused = false;
+        atTheFirstFile([&](int) {
+            m_driver->click("pauseButton");
+            isPaused = true;
+        });
+        m_driver->click("startButton");
+        QVERIFY(m_driver->waitFor([&] { return isPaused; }));
+        const qsizetype moved = names().filter(QStringLiteral("new ")).size();
+        QTest::keyClick(&m_driver->window(), Qt::Key_Escape);
+        const QString said = m_driver->waitForSummary();
+        QVERIFY2(said.startsWith(QLatin1String("Cancelled:")), qPrintable(said));
+        QCOMPARE(names().filter(QStringLiteral("new ")).size(), moved);
+        QCOMPARE(names().size(), many);
+        QVERIFY(m_driver->cell(many - 1, PictureModel::Status).contains(QLatin1String("cancelled before its turn")));
+        m_driver->click("undoButton");
+        QVERIFY(m_driver->waitForSummary().contains(QLatin1String("old name")));
+        QCOMPARE(names(), before);
+    }
+
+    void saysAtStartWhatAnInterruptedRunCameTo()
+    {
+        write(QStringLiteral("b.jpg"));
+        write(QStringLiteral("d.jpg"));
+        interrupt();
+        QVERIFY(QFile::exists(at("1.jpg")) && QFile::exists(at("b.jpg")));
+        m_driver->startAgain();
+        QCOMPARE(m_driver->text("statusText"),
+                 QStringLiteral("Rename was interrupted and is ended now: 1 item has its new name, the turn of 2 items "
+                                "had not come."));
+        QCOMPARE(names(), QStringList({QStringLiteral("1.jpg"), QStringLiteral("b.jpg"), QStringLiteral("d.jpg")}));
+        m_driver->show("rename");
+        QVERIFY(m_driver->control<QAbstractButton>("undoButton")->isEnabled());
+        m_driver->startAgain(); // it is said once
+        QVERIFY(!m_driver->text("statusText").contains(QLatin1String("interrupted")));
+    }
+
+    void asksToReadWhatCouldNotBePutRight()
+    {
+        write(QStringLiteral("b.jpg"));
+        write(QStringLiteral("d.jpg"));
+        interrupt();
+        QVERIFY(QFile::remove(at("d.jpg")));
+        QString text;
+        QString detail;
+        readNextBox(text, detail);
+        m_driver->startAgain();
+        QVERIFY2(text.startsWith(QLatin1String("Rename was interrupted and is ended now")), qPrintable(text));
+        QVERIFY2(detail.contains(QLatin1String("d.jpg is not there any more")), qPrintable(detail));
+        QCOMPARE(names(), QStringList({QStringLiteral("1.jpg"), QStringLiteral("b.jpg")}));
+    }
+
+private:
+    static constexpr int many = 400;
+
+    QString at(const char *name, int number = 0) const
+    {
+        const QString text = QString::fromLatin1(name);
+        return m_driver->folder() + QStringLiteral("/in/") +
+               (text.contains(u'%') ? text.arg(number, 3, 10, QLatin1Char('0')) : text);
+    }
+
+    void write(const QString &name)
+    {
+        QImage image(40, 30, QImage::Format_RGB32);
+        image.fill(Qt::darkGreen);
+        QVERIFY(image.save(m_driver->folder() + QStringLiteral("/in/") + name));
+    }
+
+    QStringList names() const { return QDir(at("")).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+
+    /** So many files that are to get a name with a counter. */
+    void begin(int count)
+    {
+        write(QStringLiteral("IMG_001.jpg"));
+        for (int i = 2; i <= count; ++i)
+            QVERIFY(QFile::copy(at("IMG_001.jpg"), at("IMG_%1.jpg", i)));
+        platform::setUserDefault(QStringLiteral("Settings-rename"),
+                                 QStringLiteral(R"({"what":"files","steps":[{"kind":"text","on":true,"pattern":)"
+                                                R"("new {counter:001}"}],"sidecars":true,"simulation":false})"));
+        m_driver->startAgain();
+        m_driver->show("rename");
+        m_driver->drop({at("")});
+        QVERIFY(m_driver->waitFor([this] { return m_driver->control<QAbstractButton>("startButton")->isEnabled(); }));
+    }
+
+    void atTheFirstFile(const std::function<void(int)> &deed)
+    {
+        auto *progress = m_driver->control<QProgressBar>("progress");
+        connect(progress, &QProgressBar::valueChanged, this, [this, progress, deed](int value) {
+            if (value > 0 && value < many) {
+                progress->disconnect(this);
+                deed(value);
+            }
+        });
+    }
+
+    /** A run of three files as a crash leaves it after the first one. */
+    void interrupt()
+    {
+        write(QStringLiteral("a.jpg"));
+        platform::DiskFileSystem disk;
+        files::DiskJournalShelf shelf(m_driver->folder() + QStringLiteral("/.local/share/quorlin/moves"));
+        files::MoveOrderForm form;
+        form.title = QStringLiteral("Rename");
+        form.items = {{files::Deed::Move, at("a.jpg"), at("1.jpg")},
+                      {files::Deed::Move, at("b.jpg"), at("2.jpg")},
+                      {files::Deed::Move, at("d.jpg"), at("3.jpg")}};
+        QString problem;
+        const auto run = files::MoveRun::begin(disk, shelf, form, &problem);
+        QVERIFY2(run && run->next(), qPrintable(problem));
+    }
+
+    /** Reads the next message box and closes it with its standard button. */
+    void readNextBox(QString &text, QString &detail)
+    {
+        QTimer::singleShot(30, this, [this, &text, &detail] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return readNextBox(text, detail);
+            text = box->text();
+            detail = box->informativeText();
+            box->defaultButton()->click();
+        });
+    }
+
+    std::unique_ptr<WindowDriver> m_driver;
+};
+
+QTEST_MAIN(MoveRuns)
+#include "tst_move_runs.moc"
