@@ -3,6 +3,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <functional>
+
 namespace window {
 
 /**
@@ -28,5 +30,7 @@ struct DiskSpace
 
 /** The file system of @p path, or of the first folder above it that is there. */
 DiskSpace diskSpace(const QString &path);
+/** Tests have disks as full as they like: answers in place of the file systems, until it is set to nothing. */
+void setDiskSpaceSource(std::function<DiskSpace(const QString &path)> source);
 
 } // namespace window

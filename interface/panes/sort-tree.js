@@ -5,8 +5,8 @@ import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { rowsBelow, treeParts, treeRows } from "../lib/folder-tree.js";
 import { guard } from "../lib/guard.js";
-import { isReadyRow, itemOf } from "../lib/move-plan.js";
-import { emptyTable } from "../lib/names.js";
+import { isReadyRow } from "../lib/move-plan.js";
+import { DiskNeeds, roomText } from "../lib/room.js";
 import { count, fill, shortPath } from "../lib/wording.js";
 
 // Rows are looked at in parts, so that the window answers.
@@ -19,60 +19,6 @@ export function summaryText(ready, folders, fresh) {
     }
     const words = fill(qsTr("%1 into %2"), count(ready, qsTr("1 file"), qsTr("%1 files")), count(folders, qsTr("1 folder"), qsTr("%1 folders")));
     return words + " · " + (fresh === 0 ? qsTr("no new folder") : count(fresh, qsTr("1 new folder"), qsTr("%1 new folders")));
-}
-
-function isWritten(plan, i) {
-    const kind = plan.rows[i].kind;
-    return kind === "copy" || (kind === "move" && itemOf(plan, i).code === "disk");
-}
-
-/** How many bytes each file system gets, as rows are added. */
-export class DiskNeeds {
-    /** @param space  function(folder): {free, disk} */
-    constructor(space) {
-        this.space = space;
-        this.byBase = emptyTable();
-    }
-
-    add(plan, i) {
-        if (isWritten(plan, i)) {
-            const base = plan.rows[i].base;
-            if (this.byBase[base] === undefined) {
-                const found = this.space(base);
-                this.byBase[base] = { disk: found.disk, bytes: 0, free: found.free, folder: base };
-            }
-            this.byBase[base].bytes += plan.rows[i].bytes;
-        }
-    }
-
-    /** [{disk, bytes, free, folder}]; folders on one file system are one entry. */
-    disks() {
-        const joined = [];
-        Object.keys(this.byBase).map((base) => this.byBase[base]).forEach((each) => {
-            const same = joined.find((other) => other.disk === each.disk && each.disk >= 0);
-            if (same === undefined) {
-                joined.push(Object.assign({}, each));
-            } else {
-                same.bytes += each.bytes;
-            }
-        });
-        return joined;
-    }
-}
-
-/** What is to be said about room: {note, problem}. */
-export function roomText(disks, byteText) {
-    const tight = disks.filter((each) => each.free >= 0 && each.bytes > each.free);
-    const sum = disks.reduce((bytes, each) => bytes + each.bytes, 0);
-    if (tight.length > 0) {
-        return { note: "", problem: fill(qsTr("The copies need %1, but only %2 are free for %3."), byteText(tight[0].bytes),
-                                         byteText(tight[0].free), tight[0].folder) };
-    }
-    if (sum === 0) {
-        return { note: "", problem: "" };
-    }
-    const free = disks.length === 1 && disks[0].free >= 0 ? "; " + fill(qsTr("%1 are free"), byteText(disks[0].free)) : "";
-    return { note: fill(qsTr("%1 to be written"), byteText(sum)) + free, problem: "" };
 }
 
 export class SortTree {

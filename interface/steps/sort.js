@@ -81,7 +81,7 @@ function rowFor(path, index, settings, context) {
     const made = wish(path, node, sorted, settings, context);
     made.base = base;
     made.node = node;
-    made.bytes = context.needsBytes ? sizeOf(path, facts, services) : 0;
+    made.bytes = context.needsBytes ? made.along.reduce((sum, other) => sum + sizeOf(other.from, null, services), sizeOf(path, facts, services)) : 0;
     return made;
 }
 

@@ -1,6 +1,7 @@
 #include "window_driver.h"
 
 #include "app/window/compare_preview.h"
+#include "app/window/file_facts.h"
 #include "app/window/log_table.h"
 #include "app/window/run_list.h"
 #include "app/window/segmented_control.h"
@@ -127,6 +128,23 @@ private Q_SLOTS:
         key(Qt::Key_Right);
         m_driver->click("handSkipButton");
         QCOMPARE(m_driver->text("handName"), QStringLiteral("c.jpg"));
+    }
+
+    void aPictureThatFindsNoRoomStays()
+    {
+        begin({"Lake"});
+        const qint64 bytes = QFileInfo(path("In/a.jpg")).size();
+        window::setDiskSpaceSource([bytes](const QString &) { return window::DiskSpace{bytes - 1, 1}; });
+        QTest::keyClick(&m_driver->window(), Qt::Key_2, Qt::AltModifier);
+        key(Qt::Key_1);
+        QVERIFY(!QFile::exists(path("Lake/a.jpg")));
+        QCOMPARE(m_driver->text("handName"), QStringLiteral("a.jpg"));
+        const QString said = m_driver->text("statusText");
+        QVERIFY2(said.startsWith(QStringLiteral("Lake: too little room (needs ")), qPrintable(said));
+        QTest::keyClick(&m_driver->window(), Qt::Key_1, Qt::AltModifier); // moving on one disk needs none
+        key(Qt::Key_1);
+        window::setDiskSpaceSource({});
+        QVERIFY(QFile::exists(path("Lake/a.jpg")) && !QFile::exists(path("In/a.jpg")));
     }
 
     void altAndADigitChooseWhatTheKeysDo_data()

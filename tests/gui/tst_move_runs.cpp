@@ -1,5 +1,8 @@
 #include "window_driver.h"
 
+#include "app/window/file_facts.h"
+#include "app/window/segmented_control.h"
+
 #include "files/journal_shelf.h"
 #include "files/move_run.h"
 
@@ -17,7 +20,7 @@
 
 using window::PictureModel;
 
-/** Runs that move files: paused, cancelled, and interrupted. */
+/** Runs that move files: paused, cancelled, retried, interrupted, and without room. */
 class MoveRuns : public QObject
 {
     Q_OBJECT
@@ -31,7 +34,11 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(at("")));
     }
 
-    void cleanup() { m_driver.reset(); }
+    void cleanup()
+    {
+        window::setDiskSpaceSource({});
+        m_driver.reset();
+    }
 
     void pausesBetweenTwoFilesAndGoesOn()
     {
@@ -79,6 +86,33 @@ private Q_SLOTS:
         QCOMPARE(names(), before);
     }
 
+    void retriesWhatFailedUnderItsPlannedName()
+    {
+        begin(many);
+        const QString last = at("IMG_%1.jpg", many);
+        atTheFirstFile([&](int) { QVERIFY(QFile::rename(last, at("away"))); });
+        m_driver->click("startButton");
+        QString said = m_driver->waitForSummary();
+        QVERIFY2(said.startsWith(QStringLiteral("%1 files renamed, 1 problem").arg(many - 1)), qPrintable(said));
+        m_driver->click("retryButton"); // it is still not there
+        said = m_driver->waitForSummary();
+        QVERIFY2(said.startsWith(QLatin1String("0 files renamed, 1 problem")), qPrintable(said));
+        QCOMPARE(m_driver->cell(many - 1, PictureModel::Status),
+                 QStringLiteral("Failed: the file is not there any more"));
+        QVERIFY(QFile::rename(at("away"), last));
+        m_driver->click("retryButton");
+        said = m_driver->waitForSummary();
+        QVERIFY2(said.startsWith(QLatin1String("1 file renamed, 0 problems")), qPrintable(said));
+        QVERIFY(QFile::exists(at("new %1.jpg", many)));
+        QVERIFY(!QFile::exists(last));
+        QCOMPARE(names().size(), many);
+        QVERIFY(!m_driver->control<QAbstractButton>("retryButton")->isVisible());
+        QCOMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("done")); // as the first run left it
+        m_driver->click("undoButton");
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("1 file has its old name again")));
+        QVERIFY(QFile::exists(last));
+    }
+
     void saysAtStartWhatAnInterruptedRunCameTo()
     {
         write(QStringLiteral("b.jpg"));
@@ -109,6 +143,31 @@ private Q_SLOTS:
         QVERIFY2(text.startsWith(QLatin1String("Rename was interrupted and is ended now")), qPrintable(text));
         QVERIFY2(detail.contains(QLatin1String("d.jpg is not there any more")), qPrintable(detail));
         QCOMPARE(names(), QStringList({QStringLiteral("1.jpg"), QStringLiteral("b.jpg")}));
+    }
+
+    void asksBeforeADiskIsFilled()
+    {
+        sortIntoAFullDisk();
+        QString text;
+        QString detail;
+        readNextBox(text, detail);
+        m_driver->click("startButton");
+        QCOMPARE(m_driver->waitForSummary(), QStringLiteral("Cancelled. Nothing was moved."));
+        QVERIFY2(text.startsWith(QLatin1String("The files need ")), qPrintable(text));
+        QVERIFY2(text.contains(QLatin1String("but only 999 bytes are free for ")), qPrintable(text));
+        QVERIFY(QDir(at("../sorted")).isEmpty());
+        WindowDriver::answerNextQuestion(QStringLiteral("Start Anyway"));
+        m_driver->click("startButton");
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("3 files copied, 0 problems")));
+        QVERIFY(!QDir(at("../sorted")).isEmpty());
+    }
+
+    void asksNothingWhereThereIsRoom()
+    {
+        sortIntoAFullDisk();
+        window::setDiskSpaceSource([](const QString &) { return window::DiskSpace{1000000000, 1}; });
+        m_driver->click("startButton");
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("3 files copied, 0 problems")));
     }
 
 private:
@@ -183,6 +242,25 @@ private:
             detail = box->informativeText();
             box->defaultButton()->click();
         });
+    }
+
+    void sortIntoAFullDisk()
+    {
+        for (const char *name : {"a.jpg", "b.jpg", "c.jpg"})
+            write(QString::fromLatin1(name));
+        QVERIFY(QDir().mkpath(at("../sorted")));
+        window::setDiskSpaceSource([](const QString &) { return window::DiskSpace{999, 1}; });
+        m_driver->show("sort");
+        m_driver->drop({at("")});
+        WindowDriver::answerPanels({QDir::cleanPath(at("../sorted"))});
+        m_driver->choose("sortDestination", QStringLiteral("choose"));
+        auto *kind = m_driver->control<window::SegmentedControl>("sortKind");
+        QTest::keyClick(kind, Qt::Key_Home);
+        QTest::keyClick(kind, Qt::Key_Right);
+        QVERIFY(m_driver->waitFor([this] {
+            return m_driver->control<QAbstractButton>("startButton")->isEnabled() &&
+                   m_driver->text("sortTreeProblem").contains(QLatin1String("only 999 bytes are free"));
+        }));
     }
 
     std::unique_ptr<WindowDriver> m_driver;

@@ -6,6 +6,7 @@ import { guard } from "../../lib/guard.js";
 import { deedWords, HandSorting, MODES, TRASH } from "../../lib/hand-sorting.js";
 import { slotProblem } from "../../lib/hand-slots.js";
 import { appendRows, trimRows } from "../../lib/log-file.js";
+import { roomProblem } from "../../lib/room.js";
 import { Sidecars } from "../../lib/sidecars.js";
 import { count, fill } from "../../lib/wording.js";
 import { shell } from "quorlin/shell";
@@ -170,13 +171,18 @@ export class HandPage {
     put(slot, row) {
         const photo = this.current();
         // A folder that is gone is not made anew by a key.
-        const problem = slotProblem(slot.path, files);
+        const problem = slotProblem(slot.path, files) || this.roomProblem(photo, slot);
         if (problem !== "") {
             this.window.pane.look();
             this.window.note(fill(qsTr("%1: %2. The picture stays where it is."), slot.label, problem));
         } else if (photo !== null) {
             this.tell(photo, this.sorting.put(photo, this.window.settings.mode, slot), row);
         }
+    }
+
+    roomProblem(photo, slot) {
+        const path = photo === null ? "" : this.sorting.placeOf(photo);
+        return path === "" ? "" : roomProblem(path, slot.path, this.window.settings.mode, files);
     }
 
     trash() {

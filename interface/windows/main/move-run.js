@@ -2,17 +2,22 @@
 // Services used: those of the step, moves.
 
 import { guard } from "../../lib/guard.js";
-import { readyItems } from "../../lib/move-plan.js";
+import { isReadyRow, itemOf, planMoves, readyItems } from "../../lib/move-plan.js";
+import { refusalText } from "../../lib/move-words.js";
 import { splitPath } from "../../lib/names.js";
 import { clockText, Progress } from "../../lib/progress.js";
 import { logRow, undoing } from "../../lib/report.js";
+import { retryRows } from "../../lib/retry.js";
+import { DiskNeeds, roomText } from "../../lib/room.js";
 import { undoAction } from "../../lib/undo-run.js";
 import { count, fill, statusKind, statusText } from "../../lib/wording.js";
 import { showPlan } from "./live-moves.js";
 import { BaseRun } from "./run-base.js";
+import { shell } from "quorlin/shell";
 
 // The window is told at most this often.
 const TELL_MS = 100;
+const ROWS_A_SLICE = 200;
 
 function problemsText(number) {
     return count(number, qsTr("1 problem"), qsTr("%1 problems"));
@@ -37,6 +42,12 @@ export class MoveRun extends BaseRun {
     constructor(window, changed) {
         super(window, changed);
         this.last = null;
+    }
+
+    reset(ids) {
+        super.reset(ids);
+        this.again = [];
+        this.wished = null;
     }
 
     // The pane may want to know when a run begins and ends.
@@ -65,12 +76,79 @@ export class MoveRun extends BaseRun {
         const window = this.window;
         const plan = yield* showPlan(window.pictures, this.ids, this.paths, window.action.step, this.settings, window.services, () => false);
         plan.ready = yield* readyItems(plan);
+        plan.needs = new DiskNeeds((folder) => window.services.files.space(folder));
+        for (let i = 0; i < plan.rows.length; i += 1) {
+            if (plan.rows[i].bytes > 0 && isReadyRow(plan, i)) {
+                plan.needs.add(plan, i);
+            }
+            if (i % ROWS_A_SLICE === ROWS_A_SLICE - 1) {
+                yield i;
+            }
+        }
         return plan;
     }
 
-    // A chain with a counter would count the failed ones from the start: what is left is planned like any list.
+    // More than is free is copied only if somebody insists: the engine stops by itself at what finds no room.
+    mayFill(disks) {
+        const files = this.window.services.files;
+        const problem = roomText(disks, (bytes) => files.byteText(bytes)).problem;
+        if (problem === "") {
+            return true;
+        }
+        const answer = shell.ask({
+            title: qsTr("Too little room"), text: problem, detail: qsTr("Files that find no room stay where they are."),
+            buttons: [qsTr("Start Anyway"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
+        });
+        return answer.button === 0;
+    }
+
+    /** Of the rows whose files could not be carried out. */
     failedIds() {
-        return [];
+        return this.again.map((row) => this.ids[row.of]);
+    }
+
+    /** Only what failed once more, under the names that were planned for it: a counter does not begin again. */
+    retry() {
+        const again = this.again.filter((row) => this.window.pictures.photo(this.ids[row.of]) !== null);
+        const others = this.ids.filter((id) => again.every((row) => this.ids[row.of] !== id));
+        this.tellPane("starting");
+        this.startPlanning(this.ids);
+        others.forEach((id) => this.window.livePlan.keepFinal(id));
+        this.undoes = "";
+        this.leftOut = 0;
+        this.job.start(this.planAgain(again), () => undefined, guard("moves.retryEnd", (how, plan) => this.plannedAgain(how, plan, again)));
+        this.changed();
+    }
+
+    * planAgain(again) {
+        const rows = again.map((row) => row.wish);
+        const step = { rows: function* () { return rows; } };
+        const plan = yield* planMoves(again.map((row) => row.from), step, this.settings, this.window.services);
+        plan.ready = yield* readyItems(plan);
+        return plan;
+    }
+
+    plannedAgain(how, plan, again) {
+        if (how !== "done") {
+            this.again = again;
+            this.finish(how === "failed" ? String(plan) : qsTr("Cancelled before the first file. Nothing was moved."));
+            return;
+        }
+        this.wished = [];
+        again.forEach((row) => { this.wished[row.of] = row.wish; });
+        this.items = plan.ready.map((item) => Object.assign({}, item, { row: again[item.row].of, along: item.along || again[item.row].isAlong }));
+        this.startMoving();
+        again.forEach((row, i) => {
+            if (!isReadyRow(plan, i)) {
+                this.noteFailed({ kind: row.wish.kind, from: row.from, to: row.wish.to, row: row.of, along: row.isAlong },
+                                { status: "Failed", reason: refusalText(itemOf(plan, i)), path: "" });
+            }
+        });
+        if (this.items.length > 0) {
+            this.begin();
+        } else {
+            this.runEnded("done", "");
+        }
     }
 
     planEnded(how, plan) {
@@ -84,8 +162,12 @@ export class MoveRun extends BaseRun {
             this.endSimulation(plan);
         } else if (this.items.length === 0) {
             this.finish(qsTr("There is nothing to do."));
-        } else {
+        } else if (this.mayFill(plan.needs.disks())) {
+            this.wished = plan.rows;
+            this.startMoving();
             this.begin();
+        } else {
+            this.finish(qsTr("Cancelled. Nothing was moved."));
         }
     }
 
@@ -108,11 +190,15 @@ export class MoveRun extends BaseRun {
         }
     }
 
+    startMoving() {
+        this.done = [];
+        this.moved = 0;
+        this.unfinished = [];
+    }
+
     carryOut(run) {
         this.id = run;
         this.phase = "running";
-        this.done = [];
-        this.moved = 0;
         this.progress = new Progress(this.items.map(() => 1));
         this.steppedMs = Date.now();
         this.job.start(carriedOut(this.window.services.moves, run), guard("moves.step", (result) => this.takeResult(result)),
@@ -123,14 +209,25 @@ export class MoveRun extends BaseRun {
     takeResult(result) {
         const now = Date.now();
         const item = this.items[result.index];
+        const told = { status: result.status, reason: result.message, path: result.path || item.to };
         this.done[result.index] = true;
-        this.noteResult(item, { status: result.status, reason: result.message, path: result.path || item.to });
+        // What goes along with a file that failed waits for it.
+        if (result.status === "Failed" || result.code === "leader") {
+            this.noteFailed(item, told);
+        } else {
+            this.noteResult(item, told);
+        }
         this.progress.add(1, now - this.steppedMs);
         this.steppedMs = now;
         if (now - this.toldMs >= TELL_MS) {
             this.toldMs = now;
             this.showProgress();
         }
+    }
+
+    noteFailed(item, result) {
+        this.unfinished.push(item);
+        this.noteResult(item, result);
     }
 
     noteResult(item, result) {
@@ -195,6 +292,8 @@ export class MoveRun extends BaseRun {
         const told = [how === "done" && value ? value : "", this.keepLog()].filter((text) => text);
         this.last = null;
         this.rowAt = null;
+        this.again = this.undoes === "" && this.wished !== null ? retryRows(this.unfinished, this.wished) : [];
+        this.wished = null;
         this.window.planned = {};
         // Facts are known by path, and other files are at these paths now.
         this.window.services.facts.forget();
@@ -270,6 +369,7 @@ export class MoveRun extends BaseRun {
             return;
         }
         this.rowAt = this.rowsByPath();
+        this.startMoving();
         this.items = begun.items.map((item) => ({ kind: "move", from: item.from, to: item.to, row: undefined, along: false }));
         begun.problems.forEach((problem) => this.noteUnable(problem));
         this.carryOut(begun.run);
