@@ -215,7 +215,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("word");
         QTest::newRow("nothing") << QString() << QStringLiteral("Choose a rule");
-        QTest::newRow("unknown") << QStringLiteral("{date}") << QStringLiteral("{date}");
+        QTest::newRow("unknown") << QStringLiteral("{weather}") << QStringLiteral("{weather}");
         QTest::newRow("leads out") << QStringLiteral("../x") << QStringLiteral("“..”");
         QTest::newRow("not closed") << QStringLiteral("{taken") << QStringLiteral("not closed");
     }
