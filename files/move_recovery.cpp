@@ -165,8 +165,30 @@ private:
             return;
         if (const auto trashed = m_disk.findTrashed(item.from, *item.was))
             done(record, trashed->path);
-        else
+        else if (!findHalfTrashed(record))
             problems.append(MoveDeeds::sentence(QStringLiteral("gone"), item.from));
+    }
+
+    /**
+     * Where a file system has no trash the item is copied into one, and then leaves its place under a hidden name. What is left of
+     * it there goes if the trash has all of it, and back into its place otherwise.
+     */
+    bool findHalfTrashed(MoveRecord &record)
+    {
+        const MoveItem &item = record.item;
+        const QString folder = platform::parentFolder(item.from);
+        for (const platform::FolderEntry &entry : m_disk.list(folder).value_or(std::vector<platform::FolderEntry>())) {
+            const QString aside = platform::joinedPath(folder, entry.name);
+            if (!entry.name.startsWith(QStringLiteral(".quorlin-")) || !isAt(aside, item.was))
+                continue;
+            for (const platform::TrashedItem &trashed : m_disk.allTrashed(item.from))
+                if (holds(trashed.path, aside) && !m_disk.remove(aside)) {
+                    done(record, trashed.path);
+                    return true;
+                }
+            return !m_disk.rename(aside, item.from);
+        }
+        return false;
     }
 
     void findRemoved(int index, MoveRecord &record)

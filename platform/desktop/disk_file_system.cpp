@@ -167,6 +167,11 @@ std::optional<TrashedItem> DiskFileSystem::findTrashed(const QString &path, cons
     return std::nullopt;
 }
 
+std::vector<TrashedItem> DiskFileSystem::allTrashed(const QString &path) const
+{
+    return trashedFrom(path);
+}
+
 void DiskFileSystem::settle(const QString &folder)
 {
     settleFolder(folder);

@@ -23,6 +23,7 @@ public:
     Result<TrashedItem> trash(const QString &path) override;
     std::error_code restore(const TrashedItem &item, const QString &path) override;
     std::optional<TrashedItem> findTrashed(const QString &path, const ItemState &state) const override;
+    std::vector<TrashedItem> allTrashed(const QString &path) const override;
     void settle(const QString &folder) override;
 };
 

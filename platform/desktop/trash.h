@@ -11,7 +11,8 @@ namespace platform {
  * that cannot be used the item is copied into the user's. Folders that the trash needs are made first, for the user
  * alone. A name that is taken there gets a number; a link is moved, not what it leads to.
  *
- * Answers where the item lies now.
+ * Answers where the item lies now. Where it is copied, it leaves its place under a hidden name that begins with ".quorlin-" when the copy is
+ * whole; only an end by force leaves that behind.
  *
  * Fails with NotFound, with InvalidValue for "/" and paths that end in "." or "..", and with WriteFailed. On failure the item
  * is still in its place and the trash holds nothing of it.

@@ -78,6 +78,8 @@ public:
     virtual std::error_code restore(const TrashedItem &item, const QString &path) = 0;
     /** The item that was at @p path, as it lies in the trash, if the one with that state was put there; for what was cut short. */
     virtual std::optional<TrashedItem> findTrashed(const QString &path, const ItemState &state) const = 0;
+    /** All that lies in the trash and was at @p path, the latest first. */
+    virtual std::vector<TrashedItem> allTrashed(const QString &path) const = 0;
     /** Waits until the names in a folder are on the disk. */
     virtual void settle(const QString &folder) = 0;
 };

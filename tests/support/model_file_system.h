@@ -205,6 +205,14 @@ public:
         m_trash->items.erase(platform::lastPathComponent(item.path));
         return {};
     }
+    std::vector<platform::TrashedItem> allTrashed(const QString &path) const override
+    {
+        std::vector<platform::TrashedItem> found;
+        for (const auto &[name, place] : m_trashedFrom)
+            if (place == path && m_trash->items.count(name) > 0)
+                found.push_back({QStringLiteral("/trash/") + name});
+        return found;
+    }
     std::optional<platform::TrashedItem> findTrashed(const QString &path, const State &state) const override
     {
         for (const auto &[name, node] : m_trash->items)

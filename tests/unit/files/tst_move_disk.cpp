@@ -1,3 +1,4 @@
+#include "files/move_recovery.h"
 #include "files/move_undo.h"
 #include "tests/support/move_world.h"
 #include "tests/support/scratch_folder.h"
@@ -101,6 +102,8 @@ class TestMoveDisk : public QObject
 
 private Q_SLOTS:
     void doesOnTheDiskWhatItDoesOnTheModel();
+    void endsTrashingThatWasCutShort_data();
+    void endsTrashingThatWasCutShort();
 };
 
 void TestMoveDisk::doesOnTheDiskWhatItDoesOnTheModel()
@@ -128,6 +131,54 @@ void TestMoveDisk::doesOnTheDiskWhatItDoesOnTheModel()
     }
     qInfo("%d items", compared);
     QVERIFY(compared > 800);
+}
+
+void TestMoveDisk::endsTrashingThatWasCutShort_data()
+{
+    QTest::addColumn<QByteArray>("trashed");
+    QTest::addColumn<bool>("isInTheTrash");
+    QTest::newRow("the whole copy is in the trash") << QByteArray("a picture") << true;
+    QTest::newRow("another one is in the trash") << QByteArray("a pict") << false;
+    QTest::newRow("nothing is in the trash") << QByteArray() << false;
+}
+
+/** As a kill leaves a file that is trashed from a disk without a trash: copied, and hidden in its place. */
+void TestMoveDisk::endsTrashingThatWasCutShort()
+{
+    QFETCH(QByteArray, trashed);
+    QFETCH(bool, isInTheTrash);
+    const ScratchFolder folder;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path("data")));
+    platform::DiskFileSystem disk;
+    const ScratchFolder journals;
+    QVERIFY(folder.write("in/a.jpg", "a picture"));
+    {
+        DiskJournalShelf shelf(journals.path());
+        MoveOrderForm form;
+        form.items = {{Deed::Trash, folder.path("in/a.jpg"), {}}};
+        QString problem;
+        const auto run = MoveRun::begin(disk, shelf, form, &problem);
+        QVERIFY2(run, qPrintable(problem));
+    }
+    QVERIFY(QFile::rename(folder.path("in/a.jpg"), folder.path("in/.quorlin-0123456789ab")));
+    QVERIFY(folder.write("in/.quorlin-other", "of another program"));
+    if (!trashed.isEmpty()) {
+        QVERIFY(folder.write("in/a.jpg", trashed));
+        QVERIFY(disk.trash(folder.path("in/a.jpg")));
+    }
+    DiskJournalShelf shelf(journals.path());
+    const auto recovered = recoverMoves(disk, shelf);
+    QCOMPARE(recovered.size(), size_t(1));
+    QVERIFY(recovered.front().problems.isEmpty());
+    QCOMPARE(recovered.front().finished, isInTheTrash ? 1 : 0);
+    QVERIFY(!folder.isThere("in/.quorlin-0123456789ab"));
+    QCOMPARE(folder.read("in/.quorlin-other"), QByteArray("of another program"));
+    if (isInTheTrash) {
+        QVERIFY(!folder.isThere("in/a.jpg"));
+        const UndoPlan undo = planUndo(disk, shelf, shelf.names().first());
+        carryOut(disk, shelf, undo.form);
+    }
+    QCOMPARE(folder.read("in/a.jpg"), QByteArray("a picture"));
 }
 
 QTEST_GUILESS_MAIN(TestMoveDisk)
