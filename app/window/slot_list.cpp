@@ -89,13 +89,13 @@ QSize SlotList::minimumSizeHint() const
     return {180, slotHeightPx * qBound(1, m_rows.count(), leastShown) + 4};
 }
 
-// The arrow keys and F2 belong to the list while it has the focus, also where a window has deeds of its own for them.
+// Up, Down and F2 belong to the list while it has the focus, also where a window has deeds of its own for them. To the left and
+// right nothing is to be chosen.
 bool SlotList::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         const int key = dynamic_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down ||
-            key == Qt::Key_F2)
+        if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_F2)
             event->accept();
     }
     return QListView::event(event);

@@ -321,6 +321,13 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(path("New one")).isDir());
         QCOMPARE(labels(), QStringLiteral("Lake Sea New one"));
         QVERIFY(!name->isVisible());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right); // wherever the focus went
+        QCOMPARE(m_driver->text("handName"), QStringLiteral("b.jpg"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+        slots()->setFocus();
+        QTest::keyClick(slots(), Qt::Key_Right);
+        QCOMPARE(m_driver->text("handName"), QStringLiteral("b.jpg"));
+        QTest::keyClick(slots(), Qt::Key_Left);
         key(Qt::Key_3);
         QVERIFY(QFile::exists(path("New one/a.jpg")));
     }
