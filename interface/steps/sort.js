@@ -44,9 +44,10 @@ export function baseOf(path, destination) {
     return destination.kind === "folder" ? destination.path : splitPath(path).folder;
 }
 
+// Short, for it stands in a column; which folder that is stands in the one before.
 function undatedText(settings) {
-    return { folder: fill(qsTr("no date taken: “%1”"), settings.undatedName), created: qsTr("no date taken: by date created"),
-             changed: qsTr("no date taken: by date changed"), leave: qsTr("no date taken: stays") }[settings.undated];
+    return { folder: qsTr("no date taken"), created: qsTr("by date created"), changed: qsTr("by date changed"),
+             leave: qsTr("no date taken: stays") }[settings.undated];
 }
 
 function sizeOf(path, facts, services) {
@@ -62,7 +63,8 @@ function wish(path, node, sorted, settings, context) {
     const along = context.sidecars.of(path)
         .map((other) => ({ from: joinPath(file.folder, other.name), to: joinPath(node.path, other.name) }));
     return row({ to: joinPath(node.path, file.name), kind: settings.kind, number: settings.ifTaken === "number",
-                 skips: settings.ifTaken === "skip", along: along, shown: sorted.folders.join("/"), caution: sorted.isUndated ? undatedText(settings) : "" });
+                 skips: settings.ifTaken === "skip", along: along, shown: sorted.folders.join("/"), caution: sorted.isUndated ? undatedText(settings) : "",
+                 notes: sorted.isUndated ? [qsTr("The file states no date on which it was taken.")] : [] });
 }
 
 function rowFor(path, index, settings, context) {

@@ -45,12 +45,15 @@ export function* showPlan(list, ids, paths, step, settings, services, isFinal) {
     return plan;
 }
 
-/** {ready, attention, same, along}: how many rows are in which state. */
+/** {ready, attention, same, along}: how many rows are in which state, and how many files go along with those that are ready. */
 export function countStates(plan) {
     const sum = { ready: 0, attention: 0, same: 0, along: 0 };
-    plan.states.forEach((state) => {
-        if (state !== null) {
+    plan.states.forEach((state, i) => {
+        if (state !== null && state !== "along") {
             sum[state] += 1;
+        }
+        if (state === "ready") {
+            sum.along += plan.rows[i].along.length;
         }
     });
     return sum;
