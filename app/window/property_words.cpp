@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 
@@ -126,6 +127,56 @@ std::optional<double> signedCoordinate(const QVariantMap &gps, const QString &ke
     return gps.value(key + QLatin1String("Ref")).toString() == negative ? -size : size;
 }
 
+/** What a number of a property stands for. */
+struct Meaning
+{
+    const char *key;
+    int number;
+    const char *words;
+};
+
+constexpr Meaning meanings[] = {
+    {"ExposureProgram", 1, QT_TRANSLATE_NOOP("properties", "manual")},
+    {"ExposureProgram", 2, QT_TRANSLATE_NOOP("properties", "automatic")},
+    {"ExposureProgram", 3, QT_TRANSLATE_NOOP("properties", "aperture priority")},
+    {"ExposureProgram", 4, QT_TRANSLATE_NOOP("properties", "shutter priority")},
+    {"ExposureProgram", 5, QT_TRANSLATE_NOOP("properties", "creative")},
+    {"ExposureProgram", 6, QT_TRANSLATE_NOOP("properties", "action")},
+    {"ExposureProgram", 7, QT_TRANSLATE_NOOP("properties", "portrait")},
+    {"ExposureProgram", 8, QT_TRANSLATE_NOOP("properties", "landscape")},
+    {"MeteringMode", 1, QT_TRANSLATE_NOOP("properties", "average")},
+    {"MeteringMode", 2, QT_TRANSLATE_NOOP("properties", "centre-weighted")},
+    {"MeteringMode", 3, QT_TRANSLATE_NOOP("properties", "spot")},
+    {"MeteringMode", 4, QT_TRANSLATE_NOOP("properties", "several spots")},
+    {"MeteringMode", 5, QT_TRANSLATE_NOOP("properties", "several fields")},
+    {"MeteringMode", 6, QT_TRANSLATE_NOOP("properties", "part of the picture")},
+    {"SceneCaptureType", 0, QT_TRANSLATE_NOOP("properties", "standard")},
+    {"SceneCaptureType", 1, QT_TRANSLATE_NOOP("properties", "landscape")},
+    {"SceneCaptureType", 2, QT_TRANSLATE_NOOP("properties", "portrait")},
+    {"SceneCaptureType", 3, QT_TRANSLATE_NOOP("properties", "night")},
+    {"ExposureMode", 0, QT_TRANSLATE_NOOP("properties", "automatic")},
+    {"ExposureMode", 1, QT_TRANSLATE_NOOP("properties", "manual")},
+    {"ExposureMode", 2, QT_TRANSLATE_NOOP("properties", "bracketing")},
+    {"WhiteBalance", 0, QT_TRANSLATE_NOOP("properties", "automatic")},
+    {"WhiteBalance", 1, QT_TRANSLATE_NOOP("properties", "manual")},
+    {"ResolutionUnit", 2, QT_TRANSLATE_NOOP("properties", "inch")},
+    {"ResolutionUnit", 3, QT_TRANSLATE_NOOP("properties", "centimetre")},
+    {"ColorSpace", 1, "sRGB"},
+    {"ColorSpace", 65535, QT_TRANSLATE_NOOP("properties", "another one")},
+    {"AltitudeRef", 0, QT_TRANSLATE_NOOP("properties", "above sea level")},
+    {"AltitudeRef", 1, QT_TRANSLATE_NOOP("properties", "below sea level")},
+};
+
+/** "3 (spot)" */
+QString withMeaning(const QString &key, double value)
+{
+    const auto known = std::find_if(std::begin(meanings), std::end(meanings), [&](const Meaning &each) {
+        return value == each.number && key == QLatin1String(each.key);
+    });
+    return known == std::end(meanings) ? number(value)
+                                       : QStringLiteral("%1 (%2)").arg(known->number).arg(translated(known->words));
+}
+
 /** Numbers that have a unit, or a form of their own. */
 QString withUnit(const QString &key, double value, const QVariantMap &group)
 {
@@ -163,7 +214,14 @@ QString withUnit(const QString &key, double value, const QVariantMap &group)
     if (key.endsWith(QLatin1String("Latitude")) || key.endsWith(QLatin1String("Longitude")))
         return coordinate(value, group.value(key + QLatin1String("Ref")).toString());
     const Form form = forms.value(key);
-    return form ? form(value) : number(value);
+    return form ? form(value) : withMeaning(key, value);
+}
+
+bool areNumbers(const QVariantList &values)
+{
+    return std::all_of(values.begin(), values.end(), [](const QVariant &each) {
+        return each.canConvert<double>() && each.typeId() != QMetaType::QString;
+    });
 }
 
 } // namespace
@@ -172,7 +230,7 @@ QString propertyWords(const QString &key, const QVariant &value, const QVariantM
 {
     switch (value.typeId()) {
     case QMetaType::QVariantList: {
-        if (key.endsWith(QLatin1String("Version")))
+        if (key.endsWith(QLatin1String("Version")) && areNumbers(value.toList()))
             return version(key, value.toList());
         QStringList words;
         for (const QVariant &each : value.toList())

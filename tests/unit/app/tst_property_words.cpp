@@ -44,6 +44,17 @@ void TestPropertyWords::saysUnits_data()
     row("MaxApertureValue", 10.67, "f/40.4");
     row("ExifVersion", QVariantList({2, 2, 1}), "2.21");
     row("ExifVersion", QVariantList({2, 3}), "2.3");
+    row("JFIFVersion", QVariantList({1, 0, 2}), "1.02");
+    row("Version", QVariantList({QStringLiteral("one"), QStringLiteral("two")}), "one, two");
+    row("MeteringMode", 3, "3 (spot)");
+    row("MeteringMode", 255, "255");
+    row("ExposureProgram", 2, "2 (automatic)");
+    row("WhiteBalance", 0, "0 (automatic)");
+    row("SceneCaptureType", 3, "3 (night)");
+    row("ResolutionUnit", 2, "2 (inch)");
+    row("ColorSpace", 1, "1 (sRGB)");
+    row("AltitudeRef", 1, "1 (below sea level)");
+    row("ExposureMode", 1e12, "1000000000000");
     row("FlashPixVersion", QVariantList({1, 0}), "1.0");
     row("GPSVersion", QVariantList({2, 3, 0, 0}), "2.3.0.0");
     row("FocalLength", 50, "50 mm");
