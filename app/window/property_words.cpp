@@ -162,7 +162,7 @@ constexpr Meaning meanings[] = {
     {"ResolutionUnit", 2, QT_TRANSLATE_NOOP("properties", "inch")},
     {"ResolutionUnit", 3, QT_TRANSLATE_NOOP("properties", "centimetre")},
     {"ColorSpace", 1, "sRGB"},
-    {"ColorSpace", 65535, QT_TRANSLATE_NOOP("properties", "another one")},
+    {"ColorSpace", 65535, QT_TRANSLATE_NOOP("properties", "not sRGB")},
     {"AltitudeRef", 0, QT_TRANSLATE_NOOP("properties", "above sea level")},
     {"AltitudeRef", 1, QT_TRANSLATE_NOOP("properties", "below sea level")},
 };

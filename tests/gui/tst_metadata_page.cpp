@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -41,6 +42,8 @@ private Q_SLOTS:
     void keepsWhatIsWrittenIntoMany();
     void refusesUnknownTokens();
     void saysBeforehandWhatHasNoPlaceForAComment();
+    void showsPicturesOfCamerasAndPhones_data();
+    void showsPicturesOfCamerasAndPhones();
     void advancesWithEachOfTheChosenFilesThatHasItsComment();
     void writesIntoTheFilesOfAFolder();
     void aCancelledPanelWritesNothing();
@@ -261,6 +264,39 @@ void TestMetadataPage::saysBeforehandWhatHasNoPlaceForAComment()
     m_driver->click("metaApplyAll");
     QVERIFY2(detail.contains(QStringLiteral("1 file is of a type that has no place for a comment")),
              qPrintable(detail));
+}
+
+void TestMetadataPage::showsPicturesOfCamerasAndPhones_data()
+{
+    QTest::addColumn<QString>("picture");
+    QTest::addColumn<bool>("holds");
+    QTest::newRow("heic") << QStringLiteral("formats/IMG_5195.HEIC") << false;
+    QTest::newRow("avif") << QStringLiteral("orientation/rot1mir1.avif") << false;
+    QTest::newRow("dng") << QStringLiteral("formats/IMG_1361.dng") << true;
+    QTest::newRow("webp") << QStringLiteral("formats/iss634.webp") << true;
+}
+
+void TestMetadataPage::showsPicturesOfCamerasAndPhones()
+{
+    QFETCH(QString, picture);
+    QFETCH(bool, holds);
+    const QString source = QStringLiteral(QUORLIN_TEST_CORPUS "/") + picture;
+    if (!QFile::exists(source))
+        QSKIP("no shared pictures");
+    const QString copy = path(QFileInfo(picture).fileName());
+    QVERIFY(QFile::copy(source, copy));
+    m_driver->drop({copy});
+    QVERIFY(m_driver->waitFor([this] { return m_driver->pictures().count() == 1; }));
+    QCOMPARE(m_driver->text("metaName"), QFileInfo(picture).fileName());
+    QVERIFY(tree()->words({QStringLiteral("Pixel width")}).endsWith(QStringLiteral(" pixels")));
+    QCOMPARE(comment()->isReadOnly(), !holds);
+    QCOMPARE(m_driver->text("metaNote").contains(QStringLiteral("no place for a comment")), !holds);
+    if (!holds)
+        return;
+    comment()->setPlainText(QStringLiteral("written"));
+    m_driver->click("metaApply");
+    QVERIFY(m_driver->waitFor([this] { return isIdle(); }));
+    QCOMPARE(commentOf(copy), QStringLiteral("written"));
 }
 
 void TestMetadataPage::advancesWithEachOfTheChosenFilesThatHasItsComment()

@@ -53,6 +53,7 @@ void TestPropertyWords::saysUnits_data()
     row("SceneCaptureType", 3, "3 (night)");
     row("ResolutionUnit", 2, "2 (inch)");
     row("ColorSpace", 1, "1 (sRGB)");
+    row("ColorSpace", 65535, "65535 (not sRGB)");
     row("AltitudeRef", 1, "1 (below sea level)");
     row("ExposureMode", 1e12, "1000000000000");
     row("FlashPixVersion", QVariantList({1, 0}), "1.0");
