@@ -161,7 +161,11 @@ private:
     void findTrashed(MoveRecord &record)
     {
         const MoveItem &item = record.item;
-        if (record.stand == Stand::Done || m_disk.look(item.from) || !item.was)
+        if (record.stand == Stand::Done || !item.was)
+            return;
+        if (isAt(item.from, item.was))
+            return m_disk.discardHalfTrashed(item.from);
+        if (m_disk.look(item.from))
             return;
         if (const auto trashed = m_disk.findTrashed(item.from, *item.was))
             done(record, trashed->path);

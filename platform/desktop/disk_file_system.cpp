@@ -172,6 +172,11 @@ std::vector<TrashedItem> DiskFileSystem::allTrashed(const QString &path) const
     return trashedFrom(path);
 }
 
+void DiskFileSystem::discardHalfTrashed(const QString &path)
+{
+    platform::discardHalfTrashed(path);
+}
+
 void DiskFileSystem::settle(const QString &folder)
 {
     settleFolder(folder);

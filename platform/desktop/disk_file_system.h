@@ -24,6 +24,7 @@ public:
     std::error_code restore(const TrashedItem &item, const QString &path) override;
     std::optional<TrashedItem> findTrashed(const QString &path, const ItemState &state) const override;
     std::vector<TrashedItem> allTrashed(const QString &path) const override;
+    void discardHalfTrashed(const QString &path) override;
     void settle(const QString &folder) override;
 };
 

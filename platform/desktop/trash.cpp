@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <algorithm>
 #include <cerrno>
 #include <optional>
 
@@ -202,6 +203,53 @@ QString withoutLinks(const QString &path)
                       lastPathComponent(path));
 }
 
+constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
+/** Whether nobody has written for some seconds to the item, nor to anything in it. */
+bool isLeftAlone(const QString &path)
+{
+    constexpr int seconds = 10;
+    const QFileInfo info(path);
+    if (info.lastModified().secsTo(QDateTime::currentDateTime()) < seconds)
+        return false;
+    const QDir folder(path);
+    const QStringList names = info.isDir() && !info.isSymLink() ? folder.entryList(everything) : QStringList();
+    return std::all_of(names.begin(), names.end(),
+                       [&](const QString &name) { return isLeftAlone(folder.filePath(name)); });
+}
+
+/** Whether the file is the beginning of the other one, or the same as it. */
+bool isBeginningOfFile(const QString &part, const QString &whole)
+{
+    constexpr qint64 blockBytes = 1 << 20;
+    QFile one(part);
+    QFile other(whole);
+    if (!one.open(QIODevice::ReadOnly) || !other.open(QIODevice::ReadOnly))
+        return false;
+    while (!one.atEnd()) {
+        const QByteArray block = one.read(blockBytes);
+        if (block.isEmpty() || other.read(block.size()) != block)
+            return false;
+    }
+    return true;
+}
+
+/** The same for a link, which is whole or not there, and for a folder, which may lack some of what is in the other. */
+bool isBeginningOf(const QString &part, const QString &whole)
+{
+    const QFileInfo one(part);
+    const QFileInfo other(whole);
+    if (one.isSymLink() || other.isSymLink())
+        return one.isSymLink() && other.isSymLink() && one.symLinkTarget() == other.symLinkTarget();
+    if (!one.isDir() || !other.isDir())
+        return one.isFile() && other.isFile() && isBeginningOfFile(part, whole);
+    const QDir folder(part);
+    const QStringList names = folder.entryList(everything);
+    return std::all_of(names.begin(), names.end(), [&](const QString &name) {
+        return isBeginningOf(folder.filePath(name), joinedPath(whole, name));
+    });
+}
+
 /** Adds what one trash says to have come from @p place, the last one first. */
 void addTrashedFrom(const QString &trash, const QString &place, std::vector<TrashedItem> &found)
 {
@@ -248,6 +296,25 @@ std::error_code restoreFromTrash(const TrashedItem &item, const QString &path)
     const QString trash = parentFolder(parentFolder(item.path));
     ::unlink(native(infoIn(trash, lastPathComponent(item.path))).constData());
     return {};
+}
+
+void discardHalfTrashed(const QString &path)
+{
+    const QString place = withoutLinks(path);
+    const QByteArray line = "Path=" + QUrl::toPercentEncoding(place, "/");
+    const QString ending = QStringLiteral(".trashinfo");
+    const QString trash = homeTrash();
+    const QDir info(joinedPath(trash, QStringLiteral("info")));
+    for (const QString &name : info.entryList({u'*' + ending}, QDir::Files | QDir::Hidden)) {
+        QFile file(info.filePath(name));
+        if (!isTaken(fileIn(trash, name.chopped(ending.size()))) && file.open(QIODevice::ReadOnly) &&
+            file.readAll().split('\n').contains(line))
+            file.remove();
+    }
+    const QDir copies(joinedPath(trash, QStringLiteral("files")));
+    for (const QString &name : copies.entryList({QStringLiteral(".quorlin-*")}, everything))
+        if (const QString copy = copies.filePath(name); isLeftAlone(copy) && isBeginningOf(copy, place))
+            (void)removeItem(copy);
 }
 
 std::vector<TrashedItem> trashedFrom(const QString &path)

@@ -27,6 +27,13 @@ Result<TrashedItem> moveToTrash(const QString &path);
  */
 std::error_code restoreFromTrash(const TrashedItem &item, const QString &path);
 
+/**
+ * Takes away what an end by force left of copying the item at @p path, which is still there, into the user's trash: the info file
+ * without an item, and an unfinished copy under a hidden name. A copy goes only if it holds nothing but the beginnings of what is in
+ * the item, and nobody has written to it for some seconds.
+ */
+void discardHalfTrashed(const QString &path);
+
 /** What lies in the trash and was at @p path, the latest first. Reads every info file of the trash. */
 std::vector<TrashedItem> trashedFrom(const QString &path);
 

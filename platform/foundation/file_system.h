@@ -80,6 +80,8 @@ public:
     virtual std::optional<TrashedItem> findTrashed(const QString &path, const ItemState &state) const = 0;
     /** All that lies in the trash and was at @p path, the latest first. */
     virtual std::vector<TrashedItem> allTrashed(const QString &path) const = 0;
+    /** Takes away what an interruption left of copying the item at @p path, which is there, into the trash. */
+    virtual void discardHalfTrashed(const QString &path) = 0;
     /** Waits until the names in a folder are on the disk. */
     virtual void settle(const QString &folder) = 0;
 };

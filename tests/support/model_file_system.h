@@ -213,6 +213,7 @@ public:
                 found.push_back({QStringLiteral("/trash/") + name});
         return found;
     }
+    void discardHalfTrashed(const QString &) override {}
     std::optional<platform::TrashedItem> findTrashed(const QString &path, const State &state) const override
     {
         for (const auto &[name, node] : m_trash->items)

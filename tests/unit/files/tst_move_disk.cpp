@@ -8,6 +8,9 @@
 #include <QDirIterator>
 #include <QTest>
 
+#include <ctime>
+#include <fcntl.h>
+
 using namespace files;
 
 namespace {
@@ -104,6 +107,7 @@ private Q_SLOTS:
     void doesOnTheDiskWhatItDoesOnTheModel();
     void endsTrashingThatWasCutShort_data();
     void endsTrashingThatWasCutShort();
+    void takesAwayTheBeginningOfACopyInTheTrash();
 };
 
 void TestMoveDisk::doesOnTheDiskWhatItDoesOnTheModel()
@@ -179,6 +183,49 @@ void TestMoveDisk::endsTrashingThatWasCutShort()
         carryOut(disk, shelf, undo.form);
     }
     QCOMPARE(folder.read("in/a.jpg"), QByteArray("a picture"));
+}
+
+/** As a kill leaves a folder that was being copied into the trash. */
+void TestMoveDisk::takesAwayTheBeginningOfACopyInTheTrash()
+{
+    const ScratchFolder folder;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path("data")));
+    platform::DiskFileSystem disk;
+    const ScratchFolder journals;
+    QVERIFY(folder.write("in/a/one.jpg", "a picture"));
+    QVERIFY(folder.write("in/a/two.jpg", "another picture"));
+    {
+        DiskJournalShelf shelf(journals.path());
+        MoveOrderForm form;
+        form.items = {{Deed::Trash, folder.path("in/a"), {}}};
+        QString problem;
+        QVERIFY2(MoveRun::begin(disk, shelf, form, &problem), qPrintable(problem));
+    }
+    const auto write = [&](const char *name, const QByteArray &bytes, int secondsAgo) {
+        QVERIFY(folder.write(name, bytes));
+        timespec times[2] = {{}, {}};
+        times[0].tv_sec = times[1].tv_sec = ::time(nullptr) - secondsAgo;
+        for (const QString &path : {folder.path(name), QFileInfo(folder.path(name)).path()})
+            QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0), 0);
+    };
+    write("data/Trash/files/.quorlin-000000000001/one.jpg", "a pict", 60);
+    write("data/Trash/files/.quorlin-000000000002/one.jpg", "no pict", 60); // of something else
+    write("data/Trash/files/.quorlin-000000000003/one.jpg", "a pict", 1);   // somebody is at it
+    write("data/Trash/files/b", "b", 60);
+    const QByteArray place = QFile::encodeName(QFileInfo(folder.path("in")).canonicalFilePath());
+    write("data/Trash/info/a.trashinfo", "[Trash Info]\nPath=" + place + "/a\n", 60);
+    write("data/Trash/info/b.trashinfo", "[Trash Info]\nPath=" + place + "/b\n", 60);
+    DiskJournalShelf shelf(journals.path());
+    const auto recovered = recoverMoves(disk, shelf);
+    QCOMPARE(recovered.size(), size_t(1));
+    QVERIFY(recovered.front().problems.isEmpty());
+    QCOMPARE(recovered.front().left, 1);
+    QCOMPARE(folder.read("in/a/two.jpg"), QByteArray("another picture"));
+    QVERIFY(!folder.isThere("data/Trash/files/.quorlin-000000000001"));
+    QVERIFY(!folder.isThere("data/Trash/info/a.trashinfo"));
+    for (const char *stays : {"data/Trash/files/.quorlin-000000000002/one.jpg", "data/Trash/files/b",
+                              "data/Trash/files/.quorlin-000000000003/one.jpg", "data/Trash/info/b.trashinfo"})
+        QVERIFY2(folder.isThere(stays), stays);
 }
 
 QTEST_GUILESS_MAIN(TestMoveDisk)
