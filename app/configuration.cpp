@@ -4,8 +4,6 @@
 #include "platform/desktop/strings_tables.h"
 #include "platform/desktop/user_defaults.h"
 
-#include <QLocale>
-
 namespace app {
 namespace {
 
@@ -13,6 +11,11 @@ QString configured(const char *variable, const QString &key)
 {
     const QString said = qEnvironmentVariable(variable);
     return said.isEmpty() ? platform::userDefault(key).toString() : said;
+}
+
+QString askedLanguage()
+{
+    return configured("QUORLIN_LANGUAGE", QStringLiteral("Language"));
 }
 
 } // namespace
@@ -29,7 +32,18 @@ QUrl productPage()
 
 QStringList wantedLanguages()
 {
-    return QStringList{configured("QUORLIN_LANGUAGE", QStringLiteral("Language"))} + QLocale::system().uiLanguages();
+    return QStringList{askedLanguage()} + QLocale::system().uiLanguages();
+}
+
+QLocale wantedLocale()
+{
+    const QLocale system = QLocale::system();
+    const QLocale asked(platform::languageOfTexts());
+    const bool isAsked = askedLanguage().section(u'-', 0, 0) == platform::languageOfTexts();
+    // The system without a language of its own writes as English does.
+    const bool isOwn = asked.language() == system.language() ||
+                       (asked.language() == QLocale::English && system.language() == QLocale::C);
+    return isAsked && !isOwn ? QLocale(asked.language(), system.territory()) : system;
 }
 
 void useTexts()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -18,6 +19,12 @@ QUrl productPage();
  * "system"), and those of the system.
  */
 QStringList wantedLanguages();
+
+/**
+ * How numbers and dates are written: as the system writes them, or, where another language than that of the system was asked for and
+ * there are texts in it, as that language does. To be asked after useTexts().
+ */
+QLocale wantedLocale();
 
 /** Makes the texts of the interface folder, in the language that is wanted now, those of platform::localizedText(). */
 void useTexts();

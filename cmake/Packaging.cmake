@@ -8,6 +8,9 @@ foreach(program quorlin quorlin-script)
 endforeach()
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/interface DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin
   PATTERN "*.qrc" EXCLUDE PATTERN "CMakeLists.txt" EXCLUDE)
+# The manual stands beside the interface as in the source tree, with the pictures that it shows.
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/manual ${CMAKE_SOURCE_DIR}/docs/screenshots
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin/docs FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
 set(packaging ${CMAKE_SOURCE_DIR}/packaging)
 install(FILES ${packaging}/com.brelmark.Quorlin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${packaging}/com.brelmark.Quorlin.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

@@ -73,12 +73,13 @@ QString typeWord(const QString &typeIdentifier)
         {QStringLiteral("public.avif"), QStringLiteral("AVIF")},
         {QStringLiteral("public.svg-image"), QStringLiteral("SVG")},
         {QStringLiteral("public.camera-raw-image"), QStringLiteral("RAW")},
-        {QStringLiteral("public.plain-text"), QStringLiteral("Text")},
+        {QStringLiteral("public.plain-text"), QString::fromLatin1(QT_TRANSLATE_NOOP("window", "Text"))},
         {QStringLiteral("public.html"), QStringLiteral("HTML")},
-        {QStringLiteral("public.folder"), QStringLiteral("Folder")},
+        {QStringLiteral("public.folder"), QString::fromLatin1(QT_TRANSLATE_NOOP("window", "Folder"))},
     };
     const QString word = words.value(typeIdentifier);
-    return word.isEmpty() ? typeIdentifier.section(QLatin1Char('.'), 1).toUpper() : word;
+    return word.isEmpty() ? typeIdentifier.section(QLatin1Char('.'), 1).toUpper()
+                          : QCoreApplication::translate("window", word.toUtf8().constData());
 }
 
 qint64 fileBytes(const QString &path)

@@ -261,7 +261,8 @@ void LogTable::arrangeColumns()
     const auto arrange = [&](const auto &parts) {
         for (int column = LogModel::Deed; column < int(std::size(parts)); ++column)
             if (parts[column] > 0)
-                setColumnWidth(column, (viewport()->width() - date) * parts[column] / 100);
+                setColumnWidth(column, qMax((viewport()->width() - date) * parts[column] / 100,
+                                            horizontalHeader()->sectionSizeHint(column)));
     };
     m_showsComments ? arrange(sharesOfComments) : arrange(shares);
     m_arranging = false;

@@ -4,9 +4,14 @@
 #include "app/window/card_handle.h"
 #include "app/window/chip_label.h"
 #include "app/window/color_well.h"
+#include "app/window/column_scroll.h"
+#include "app/window/combo_box.h"
 #include "app/window/compare_preview.h"
+#include "app/window/elided_label.h"
 #include "app/window/folder_tree.h"
 #include "app/window/log_table.h"
+#include "app/window/manual_view.h"
+#include "app/window/page_list.h"
 #include "app/window/picture_table.h"
 #include "app/window/position_pad.h"
 #include "app/window/property_tree.h"
@@ -37,12 +42,17 @@ const QHash<QString, Maker> &makers()
         {QStringLiteral("CardHandle"), made<CardHandle>},
         {QStringLiteral("ChipLabel"), made<ChipLabel>},
         {QStringLiteral("ColorWell"), made<ColorWell>},
+        {QStringLiteral("ColumnScroll"), made<ColumnScroll>},
         {QStringLiteral("ComparePreview"), made<ComparePreview>},
+        {QStringLiteral("ElidedLabel"), made<ElidedLabel>},
         {QStringLiteral("FolderTree"), made<FolderTree>},
         {QStringLiteral("LogTable"), made<LogTable>},
+        {QStringLiteral("ManualView"), made<ManualView>},
+        {QStringLiteral("PageList"), made<PageList>},
         {QStringLiteral("PictureTable"), made<PictureTable>},
         {QStringLiteral("PositionPad"), made<PositionPad>},
         {QStringLiteral("PropertyTree"), made<PropertyTree>},
+        {QStringLiteral("QComboBox"), made<ComboBox>},
         {QStringLiteral("RunList"), made<RunList>},
         {QStringLiteral("SearchMenu"), made<SearchMenu>},
         {QStringLiteral("SegmentedControl"), made<SegmentedControl>},

@@ -11,7 +11,7 @@ namespace window {
 namespace {
 
 constexpr int rowHeightPx = 36;
-constexpr int narrowestTextPx = 104;
+constexpr int narrowestTextPx = 60;
 
 struct ColumnKind
 {
@@ -49,6 +49,7 @@ void PictureTable::prepareHeader()
     header->setHighlightSections(false);
     header->setStretchLastSection(true);
     header->setMinimumSectionSize(48);
+    header->setTextElideMode(Qt::ElideRight);
     header->setSectionResizeMode(PictureModel::Thumbnail, QHeaderView::Fixed);
     header->setSortIndicatorClearable(true);
     // -1: in the order in which the pictures were added.
@@ -88,16 +89,19 @@ void PictureTable::arrangeColumns()
     m_arranging = true;
     int room = viewport()->width();
     int shares = 0;
+    const auto fixedWidth = [this](size_t i) {
+        return qMax(kinds[i].widthPx, horizontalHeader()->sectionSizeHint(int(i)));
+    };
     const auto shareOf = [this](size_t i) { return m_model.stressesNewNames() ? kinds[i].share : 1; };
     for (size_t i = 0; i < kinds.size(); ++i) {
-        room -= m_columnShown[i] ? kinds[i].widthPx : 0;
+        room -= m_columnShown[i] && kinds[i].widthPx > 0 ? fixedWidth(i) : 0;
         shares += m_columnShown[i] && kinds[i].widthPx == 0 ? shareOf(i) : 0;
     }
     for (size_t i = 0; i < kinds.size(); ++i) {
         if (!m_columnShown[i])
             continue;
         const int text = qMax(narrowestTextPx, room * shareOf(i) / qMax(1, shares));
-        horizontalHeader()->resizeSection(int(i), kinds[i].widthPx > 0 ? kinds[i].widthPx : text);
+        horizontalHeader()->resizeSection(int(i), kinds[i].widthPx > 0 ? fixedWidth(i) : text);
     }
     m_arranging = false;
 }

@@ -80,7 +80,8 @@ QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int 
         return {};
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignLeft | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
+    // A heading that is cut off can be read in its tooltip.
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
     if (m_headings.contains(section))
         return m_headings.value(section);

@@ -77,12 +77,8 @@ QString ProgramDesk::language() const
 QString ProgramDesk::manual() const
 {
     const QDir folder(interfaceFolder());
-    for (const char *place : {"../../doc/quorlin/manual", "../docs/manual"}) {
-        const QString path = QDir::cleanPath(folder.filePath(QString::fromLatin1(place)));
-        if (QFileInfo(path).isDir())
-            return path;
-    }
-    return {};
+    const QString path = QDir::cleanPath(folder.filePath(QStringLiteral("../docs/manual")));
+    return QFileInfo::exists(path + QStringLiteral("/index.md")) ? path : QString();
 }
 
 void ProgramDesk::print(const QStringList &paths)

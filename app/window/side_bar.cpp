@@ -16,6 +16,10 @@ constexpr int iconRole = Qt::UserRole + 1;
 constexpr int entryHeightPx = 30;
 constexpr int headingHeightPx = 34;
 constexpr int iconPx = 18;
+constexpr int marginPx = 8;
+constexpr int beforeTextPx = 38;
+constexpr int afterTextPx = 6;
+constexpr int leastWidthPx = 188;
 
 class SideBarDelegate : public QStyledItemDelegate
 {
@@ -72,7 +76,7 @@ private:
         icon(index.data(iconRole).toString()).paint(&painter, iconPlace, Qt::AlignCenter, mode);
         const char *color = !enabled ? "faint" : selected ? "onAccent" : "text";
         painter.setPen(Theme::color(QString::fromLatin1(color)));
-        const QRect textPlace = option.rect.adjusted(38, 0, -6, 0);
+        const QRect textPlace = option.rect.adjusted(beforeTextPx, 0, -afterTextPx, 0);
         painter.drawText(textPlace, Qt::AlignLeft | Qt::AlignVCenter,
                          option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, textPlace.width()));
     }
@@ -86,7 +90,7 @@ SideBar::SideBar(QWidget *parent) : QListWidget(parent)
     setMouseTracking(true);
     setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setViewportMargins(8, 4, 8, 8);
+    setViewportMargins(marginPx, 4, marginPx, 8);
     viewport()->setAutoFillBackground(false);
     connect(this, &QListWidget::currentItemChanged, this, [this](QListWidgetItem *item) {
         if (item && !item->data(nameRole).isNull())
@@ -107,6 +111,7 @@ void SideBar::addEntry(const QString &name, const QString &title, const QString 
     item->setData(iconRole, iconName);
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     item->setToolTip(title);
+    updateGeometry();
 }
 
 QString SideBar::currentAction() const
@@ -124,6 +129,14 @@ void SideBar::setEntryEnabled(const QString &name, bool enabled)
 {
     if (QListWidgetItem *found = entry(name))
         found->setFlags(enabled ? Qt::ItemIsSelectable | Qt::ItemIsEnabled : Qt::NoItemFlags);
+}
+
+int SideBar::neededWidth() const
+{
+    int widest = 0;
+    for (int i = 0; i < count(); ++i)
+        widest = qMax(widest, fontMetrics().horizontalAdvance(item(i)->text()));
+    return qMax(leastWidthPx, widest + beforeTextPx + afterTextPx + 2 * marginPx + 1);
 }
 
 QListWidgetItem *SideBar::entry(const QString &name) const

@@ -23,12 +23,15 @@ public:
     QString currentAction() const;
     void setCurrentAction(const QString &name);
 
-    QSize sizeHint() const override { return {188, 400}; }
+    /** As wide as the widest entry needs. */
+    QSize sizeHint() const override { return {neededWidth(), 400}; }
+    QSize minimumSizeHint() const override { return {neededWidth(), 120}; }
 
 Q_SIGNALS:
     void actionChosen(const QString &name);
 
 private:
+    int neededWidth() const;
     QListWidgetItem *entry(const QString &name) const;
 };
 

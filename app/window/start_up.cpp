@@ -15,6 +15,7 @@
 #include "platform/foundation/log.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QMessageBox>
 
 namespace window {
@@ -26,11 +27,7 @@ StartUp::StartUp(QApplication &application)
     QCoreApplication::setApplicationVersion(QStringLiteral(QUORLIN_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.brelmark.Quorlin"));
     const QString folder = interfaceFolder();
-    app::useTexts();
-    m_texts = std::make_unique<InterfaceTexts>();
-    if (m_texts->read(folder + QStringLiteral("/texts/") + platform::languageOfTexts() +
-                      QStringLiteral("/Interface.json")))
-        QCoreApplication::installTranslator(m_texts.get());
+    useLanguage(folder);
     setIconFolder(folder + QStringLiteral("/icons"));
     m_theme = std::make_unique<Theme>(application, folder + QStringLiteral("/themes"));
     m_shell = std::make_unique<Shell>(folder, *m_theme);
@@ -42,6 +39,16 @@ StartUp::StartUp(QApplication &application)
     addShellModule(*m_scripts, *m_shell);
     QObject::connect(m_scripts.get(), &script::ScriptEngine::uncaughtError, m_shell.get(),
                      [](const QString &message) { platform::logLine(message); });
+}
+
+void StartUp::useLanguage(const QString &folder)
+{
+    app::useTexts();
+    QLocale::setDefault(app::wantedLocale());
+    m_texts = std::make_unique<InterfaceTexts>();
+    if (m_texts->read(folder + QStringLiteral("/texts/") + platform::languageOfTexts() +
+                      QStringLiteral("/Interface.json")))
+        QCoreApplication::installTranslator(m_texts.get());
 }
 
 // The windows go first: their controls still hold functions of the scripts.

@@ -38,6 +38,8 @@ public:
     script::ScriptEngine &scripts() { return *m_scripts; }
 
 private:
+    void useLanguage(const QString &folder);
+
     QString m_problem;
     std::unique_ptr<InterfaceTexts> m_texts;
     std::unique_ptr<Theme> m_theme;

@@ -265,6 +265,14 @@ void Form::show()
         m_root->show();
 }
 
+void Form::raise()
+{
+    if (!m_root)
+        return;
+    m_root->raise();
+    m_root->activateWindow();
+}
+
 void Form::close()
 {
     if (m_root)

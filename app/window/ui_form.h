@@ -52,6 +52,8 @@ public:
     Q_INVOKABLE void group(const QStringList &names);
 
     Q_INVOKABLE void show();
+    /** Brings the window before the others. */
+    Q_INVOKABLE void raise();
     Q_INVOKABLE void close();
     /** Keeps size, place and splitters of this window under @p key, and takes up what was kept. */
     Q_INVOKABLE void remember(const QString &key);

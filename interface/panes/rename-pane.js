@@ -15,7 +15,7 @@ const SAMPLE = { path: "/IMG_2041.JPG", facts: { taken: "2026-08-14T10:20:30", c
                                                  camera: "Canon EOS 40D", lens: "EF 50mm f/1.4", type: "JPEG", bytes: 4100000, width: 4032, height: 3024 } };
 // About the height of a closed card and the gap behind it.
 const CARD_PX = 84;
-const SAMPLE_FOLDER = "/Holiday 2026";
+const SAMPLE_FOLDER = "/" + qsTr("Holiday 2026");
 
 function copyOf(step) {
     return JSON.parse(JSON.stringify(step));

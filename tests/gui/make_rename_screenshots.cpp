@@ -1,6 +1,6 @@
 // make_rename_screenshots SAMPLES FOLDER: pictures of the main window with the Rename action, light and dark, in two sizes.
 
-#include "window_driver.h"
+#include "screen_tools.h"
 
 #include <QApplication>
 #include <QDir>
@@ -83,7 +83,7 @@ int main(int argc, char **argv)
         driver.show("rename");
         saveSmall(driver, name + QStringLiteral("-empty.png"));
         driver.drop(prepared(from, driver.folder() + QStringLiteral("/Pictures")));
-        driver.choose("preset", QStringLiteral("=Date and place"));
+        choosePreset(driver, "Date and place");
         driver.click("cardTitle");
         driver.control<QLineEdit>("firstText")->setText(QStringLiteral("{taken} lake {counter:001}"));
         driver.control<QWidget>("central")->setFocus();

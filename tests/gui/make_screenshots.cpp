@@ -31,15 +31,15 @@ void setNumber(WindowDriver &driver, const char *field, double value)
 void prepare(WindowDriver &driver, const QString &action)
 {
     if (action == QLatin1String("crop")) {
-        driver.choose("preset", QStringLiteral("=16:9, 1920 × 1080"));
+        choosePreset(driver, "16:9, 1920 × 1080");
     } else if (action == QLatin1String("turn")) {
         driver.click("turnReset");
         setNumber(driver, "angle", 12.5);
     } else if (action == QLatin1String("round")) {
-        driver.choose("preset", QStringLiteral("=Soft corners"));
+        choosePreset(driver, "Soft corners");
         setNumber(driver, "radius", 300);
     } else if (action == QLatin1String("background")) {
-        driver.choose("preset", QStringLiteral("=Ivory mount"));
+        choosePreset(driver, "Ivory mount");
     }
 }
 
@@ -94,7 +94,7 @@ void showSorting(WindowDriver &driver, const QString &from, const QString &name)
     constexpr int allThumbnailsMs = 4000;
     QTest::qWait(allThumbnailsMs);
     saveScreen(driver, name + QStringLiteral(".png"));
-    driver.choose("preset", QStringLiteral("=By camera and day taken"));
+    choosePreset(driver, "By camera and day taken");
     settle(driver);
     driver.control<window::FolderTree>("sortTree")->setChosen(driver.folder() + QStringLiteral("/Holiday/Quorlin P2"));
     driver.window().resize(1280, 720);
@@ -154,7 +154,7 @@ int main(int argc, char **argv)
         driver.window().resize(1440, 900);
         driver.drop({samplePictures(from, driver.folder())});
         driver.pictures().step(1);
-        driver.choose("preset", QStringLiteral("=Web 1600"));
+        choosePreset(driver, "Web 1600");
         saveScreen(driver, name + QStringLiteral(".png"));
         showActions(driver, folder, QString::fromLatin1(appearance));
         showSorting(driver, from, folder + QStringLiteral("/sort-") + QLatin1String(appearance));

@@ -1,5 +1,6 @@
 #include "screen_tools.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QPixmap>
@@ -28,4 +29,9 @@ void saveScreen(WindowDriver &driver, const QString &path)
     driver.control<QWidget>("central")->setFocus();
     settle(driver);
     driver.window().grab().toImage().convertToFormat(QImage::Format_RGB888).save(path, "PNG", 0);
+}
+
+void choosePreset(WindowDriver &driver, const char *name)
+{
+    driver.choose("preset", QLatin1Char('=') + QCoreApplication::translate("starting-presets", name));
 }

@@ -10,3 +10,6 @@ void settle(WindowDriver &driver);
 
 /** Saves a picture of the window, with the focus on nothing in particular. */
 void saveScreen(WindowDriver &driver, const QString &path);
+
+/** Chooses a preset that comes with the program, by its English name. */
+void choosePreset(WindowDriver &driver, const char *name);

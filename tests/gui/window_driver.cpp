@@ -67,6 +67,8 @@ WindowDriver::WindowDriver(QApplication &application) : m_application(applicatio
                             "RecentFolders",
                             "Preview",
                             "MainWindowGeometry",
+                            "ManualGeometry",
+                            "ManualmanualSplitter",
                             "MainWindowbodySplitter",
                             "MainWindowcentreSplitter",
                             "Language",

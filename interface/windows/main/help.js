@@ -10,6 +10,7 @@ import { recall } from "../../lib/store.js";
 import { KEY, look, STANDARD } from "../../lib/update.js";
 import { About } from "../about/about.js";
 import { Info, INFO_BUTTONS } from "../info/info.js";
+import { Manual } from "../manual/manual.js";
 import { NewVersion } from "../new-version/new-version.js";
 
 const AFTER_START_MS = 1500;
@@ -42,11 +43,12 @@ export class Help {
         this.part("about", () => new About(this.host)).open();
     }
 
+    /** Opens the manual at the page of what is shown. */
     manual() {
         if (program.manual === "") {
             this.window.say(qsTr("The manual is not installed."));
         } else {
-            shell.openFolder(program.manual);
+            this.part("manual", () => new Manual()).open((this.window.shownPage || this.window.action).name);
         }
     }
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace window {
+
+/**
+ * A combo box whose entries can be read however narrow it is: a chosen entry that has no room ends in an ellipsis and stands in the
+ * tooltip, if the box has none of its own, and the list opens as wide as its entries need.
+ */
+class ComboBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ComboBox(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override { return withBearing(QComboBox::sizeHint()); }
+    QSize minimumSizeHint() const override;
+    void showPopup() override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+
+private:
+    /** The toolkit measures the ink of the entries; what is drawn is a little wider. */
+    static QSize withBearing(QSize ink) { return {ink.width() + 8, ink.height()}; }
+    int roomForText() const;
+    int widthOf(int entry) const;
+
+    QString m_tip; ///< the tooltip that the box gave itself
+};
+
+} // namespace window
