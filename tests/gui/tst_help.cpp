@@ -60,6 +60,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("title");
         QTest::newRow("infoSimulation") << "resize"
                                         << "Simulation";
+        QTest::newRow("infoMoveSimulation") << "rename"
+                                            << "Simulation";
         QTest::newRow("infoFolder") << "crop"
                                     << "Choosing a folder";
         QTest::newRow("infoPresets") << "turn"

@@ -61,7 +61,7 @@ export class ActionPage {
         const control = (name) => window.form.control(name);
         control("outputHost").visible = manner.output;
         control("headHost").visible = FORMS[action.name] !== undefined;
-        control("moveSimulation").visible = page.settings.simulation !== undefined;
+        control("moveSimulationHost").visible = page.settings.simulation !== undefined;
         control("moveSimulation").checked = page.settings.simulation === true;
         control("preview").visible = manner.preview;
         control("besideHost").visible = page.pane !== null && page.pane.beside !== undefined;

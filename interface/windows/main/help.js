@@ -24,6 +24,7 @@ export class Help {
         this.sheets = new cSheetControl();
         this.sheets.wwMainWindow = this.host;
         this.parts = {};
+        this.join(window.form);
         const deeds = { about: () => this.about(), update: () => this.check(true), manual: () => this.manual() };
         Object.keys(deeds).forEach((name) => window.form.control(name + "Action").triggered.connect(guard(name, deeds[name])));
         this.started = shell.timer(guard("update", () => this.check(false)));
