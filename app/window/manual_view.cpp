@@ -36,7 +36,9 @@ void dress(QTextDocument &document)
         QTextCursor cursor(block);
         QTextBlockFormat format = block.blockFormat();
         const int level = format.headingLevel();
-        format.setLineHeight(125, QTextBlockFormat::ProportionalHeight);
+        // A picture is as high as it is.
+        const bool isPicture = block.text().contains(QChar::ObjectReplacementCharacter);
+        format.setLineHeight(isPicture ? 100 : 125, QTextBlockFormat::ProportionalHeight);
         format.setTopMargin(level == 1 ? 4 : level > 1 ? 18 : 0);
         format.setBottomMargin(block.textList() ? 4 : 9);
         cursor.setBlockFormat(format);

@@ -197,6 +197,16 @@ void showMetadata(WindowDriver &driver, const QString &name)
     QTest::keyClick(scope, Qt::Key_Left);
 }
 
+void showManual(WindowDriver &driver, const QString &name)
+{
+    driver.show("resize");
+    driver.trigger("manualAction");
+    settle(driver);
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (window->objectName() == QLatin1String("manualWindow"))
+            window->grab().save(name + QStringLiteral("-manual.png"));
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -209,6 +219,7 @@ int main(int argc, char **argv)
         WindowDriver driver(application);
         driver.window().resize(1440, 900);
         driver.drop({samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder())});
+        showManual(driver, folder + QStringLiteral("/main-") + QLatin1String(appearance));
         const QString hand = folder + QStringLiteral("/hand-") + QLatin1String(appearance);
         showHand(driver, hand + QStringLiteral("-many"), 59);
         samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder());

@@ -2,10 +2,13 @@
 #include "text_walk.h"
 #include "window_tour.h"
 
+#include "platform/desktop/user_defaults.h"
 #include "tests/support/pseudo_texts.h"
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 
 namespace {
@@ -65,6 +68,23 @@ private Q_SLOTS:
         QVERIFY2(made >= 1.35 * english && made <= 1.6 * english, qPrintable(QString::number(made / english)));
         QCOMPARE(pseudo::text(QStringLiteral("%1 of %2 <b>{name}</b>")), QStringLiteral("[%1 öf %2 <b>{name}</b>]"));
         QCOMPARE(pseudo::text(QStringLiteral("–")), QStringLiteral("–"));
+    }
+
+    // The buttons and dates that the toolkit writes itself go with the language that was chosen, whatever the system speaks.
+    void toolkitAndDatesFollowTheChoice()
+    {
+        start(QString());
+        platform::setUserDefault(QStringLiteral("Language"), QStringLiteral("de"));
+        m_driver->startAgain();
+        QCOMPARE(QLocale().language(), QLocale::German);
+        QCOMPARE(QLocale().toString(1.5), QStringLiteral("1,5"));
+        QMessageBox box(QMessageBox::Question, QString(), QString(), QMessageBox::Cancel | QMessageBox::Yes);
+        QCOMPARE(box.button(QMessageBox::Cancel)->text(), QStringLiteral("Abbrechen"));
+        QCOMPARE(m_driver->control<QAction>("quitAction")->text().remove(u'&'), QStringLiteral("Beenden"));
+        platform::removeUserDefault(QStringLiteral("Language"));
+        m_driver->startAgain();
+        QCOMPARE(QLocale(), QLocale::system());
+        QCOMPARE(m_driver->control<QAction>("quitAction")->text().remove(u'&'), QStringLiteral("Quit"));
     }
 
     void everythingFits_data()

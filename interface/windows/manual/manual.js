@@ -42,6 +42,7 @@ export class Manual {
         this.view.open(this.pages.some((page) => page.name === name) ? name : this.pages[0].name);
         this.form.show();
         this.form.raise();
+        this.view.setFocus();
     }
 
     showState() {
