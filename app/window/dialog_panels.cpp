@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 namespace window {
 
@@ -42,12 +44,15 @@ void prepareOpen(QFileDialog &dialog, const platform::PanelRequest &request)
         dialog.setNameFilter(panelFilter(*request.types));
 }
 
+/** The first of these that is there: what was asked for, the folder of the last panel, pictures, home. */
 QString startFolder(const platform::PanelRequest &request)
 {
-    if (!request.folder.isEmpty())
-        return request.folder;
-    const QString last = platform::userDefault(lastFolderKey).toString();
-    return last.isEmpty() ? QDir::homePath() : last;
+    const QString last = request.folder.isEmpty() ? platform::userDefault(lastFolderKey).toString() : QString();
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    for (const QString &folder : {request.folder, last, pictures})
+        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+            return folder;
+    return QDir::homePath();
 }
 
 /** Shows the panel; false where it is cancelled. */

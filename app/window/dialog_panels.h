@@ -8,7 +8,8 @@ namespace window {
  * Shows file dialogs: the desktop's own for opening, one of the toolkit's for saving, since that can hold a view and tags.
  *
  * A save panel gives a name the extension of the allowed type, which follows when the type changes while it is open; a name
- * with another extension gets that one behind it, unless other types are allowed.
+ * with another extension gets that one behind it, unless other types are allowed. A panel whose folder is not there starts in
+ * the folder of pictures, or at home.
  */
 class DialogPanels : public platform::PanelProvider
 {

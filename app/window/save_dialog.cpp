@@ -3,14 +3,20 @@
 #include "app/window/dialog_panels.h"
 
 #include "platform/desktop/save_panel.h"
+#include "platform/desktop/user_defaults.h"
 #include "platform/foundation/paths.h"
 #include "platform/foundation/type_identifiers.h"
 
+#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
+#include <QSplitter>
+#include <QTreeView>
 
 namespace window {
 namespace {
@@ -19,6 +25,15 @@ namespace {
 QLineEdit *nameField(const QFileDialog &dialog)
 {
     return dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+}
+
+constexpr int placesWidth = 170;
+constexpr int nameRow = 2;            // of the toolkit's own layout
+constexpr double mostOfScreen = 0.95; // the frame of the window comes on top
+
+QString sizeKey(const QWidget *view)
+{
+    return view ? QStringLiteral("PictureSavePanelSize") : QStringLiteral("SavePanelSize");
 }
 
 } // namespace
@@ -51,10 +66,8 @@ SaveDialog::SaveDialog(const platform::PanelRequest &request, QWidget *parent)
     setWindowTitle(request.message.isEmpty() ? tr("Save As") : request.message);
     selectFile(request.name);
     allow(request.types.value_or(QStringList()));
-    if (request.showsTagField)
-        addTagField();
-    if (auto *view = qobject_cast<QWidget *>(request.accessory.data()))
-        addView(view);
+    arrange(request);
+    takeSize();
     if (request.panel)
         connect(request.panel, &platform::SavePanel::allowedTypesChanged, this, &SaveDialog::allow);
 }
@@ -73,23 +86,64 @@ void SaveDialog::allow(const QStringList &types)
         return;
     QLineEdit *field = nameField(*this);
     const QString name = field ? field->text() : QString();
-    setNameFilter(panelFilter(types)); // which may take for an extension what is none
+    QStringList shown;
+    for (const QString &type : types)
+        shown += platform::extensionsOfSameType(type);
+    setNameFilter(panelFilter(shown)); // which may take for an extension what is none
     setDefaultSuffix(types.constFirst());
     if (field)
         field->setText(renamedTo(name, types.constFirst(), before));
 }
 
-void SaveDialog::addView(QWidget *view)
+void SaveDialog::arrange(const platform::PanelRequest &request)
+{
+    auto *grid = qobject_cast<QGridLayout *>(layout());
+    const auto part = [this](const char *name) { return findChild<QWidget *>(QString::fromLatin1(name)); };
+    // Only the allowed type can be chosen there.
+    part("fileTypeLabel")->hide();
+    part("fileTypeCombo")->hide();
+    auto *buttons = findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+    grid->removeWidget(part("fileNameEdit"));
+    grid->removeWidget(buttons);
+    grid->addWidget(part("fileNameEdit"), nameRow, 1, 1, -1);
+    constexpr int filesRow = 1;
+    constexpr int filesShare = 3;
+    grid->setRowStretch(filesRow, filesShare);
+    showNames();
+    if (request.showsTagField)
+        addTagField(grid);
+    if (auto *view = qobject_cast<QWidget *>(request.accessory.data()))
+        addView(grid, view);
+    buttons->setOrientation(Qt::Horizontal);
+    grid->addWidget(buttons, grid->rowCount(), 0, 1, -1);
+}
+
+/** Room for the names of files and places, which the toolkit cuts short. */
+void SaveDialog::showNames()
+{
+    setLabelText(LookIn, tr("Save in:"));
+    if (auto *list = findChild<QTreeView *>(QStringLiteral("treeView"))) {
+        constexpr int measuredRows = 50; // all of a folder would take long
+        list->header()->setResizeContentsPrecision(measuredRows);
+        list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+    if (auto *parts = findChild<QSplitter *>(QStringLiteral("splitter")))
+        parts->setSizes({placesWidth, parts->width()});
+}
+
+void SaveDialog::addView(QGridLayout *grid, QWidget *view)
 {
     m_view = view;
-    auto *grid = qobject_cast<QGridLayout *>(layout());
-    grid->addWidget(view, grid->rowCount(), 0, 1, grid->columnCount());
+    const int row = grid->rowCount();
+    constexpr int viewShare = 2;
+    grid->setRowStretch(row, viewShare);
+    grid->addWidget(view, row, 0, 1, -1);
     view->show();
 }
 
-void SaveDialog::addTagField()
+void SaveDialog::addTagField(QGridLayout *grid)
 {
-    auto *grid = qobject_cast<QGridLayout *>(layout());
     auto *label = new QLabel(tr("Ta&gs:"), this);
     m_tags = new QLineEdit(this);
     m_tags->setObjectName(QStringLiteral("tagField"));
@@ -98,7 +152,22 @@ void SaveDialog::addTagField()
     label->setBuddy(m_tags);
     const int row = grid->rowCount();
     grid->addWidget(label, row, 0);
-    grid->addWidget(m_tags, row, 1);
+    grid->addWidget(m_tags, row, 1, 1, -1);
+    setTabOrder(nameField(*this), m_tags);
+}
+
+void SaveDialog::takeSize()
+{
+    const QSize usual = m_view ? QSize(1000, 680) : QSize(760, 520);
+    const QVariantList kept = platform::userDefault(sizeKey(m_view)).toList();
+    const QSize size = kept.size() == 2 ? QSize(kept[0].toInt(), kept[1].toInt()) : usual;
+    resize(size.boundedTo(screen()->availableSize() * mostOfScreen).expandedTo(minimumSizeHint()));
+}
+
+void SaveDialog::done(int result)
+{
+    platform::setUserDefault(sizeKey(m_view), QVariantList{width(), height()});
+    QFileDialog::done(result);
 }
 
 QString SaveDialog::chosenPath() const

@@ -4,11 +4,17 @@
 
 #include <QFileDialog>
 
+class QGridLayout;
 class QLineEdit;
 
 namespace window {
 
-/** A save panel with a view of the caller's in it, whose types can change while it is open, and a field for tags. */
+/**
+ * A save panel with a view of the caller's in it, whose types can change while it is open, and a field for tags.
+ *
+ * From the top: the files, the name, the tags, the view, the buttons. It is large enough to look around in and opens as large
+ * as it was when it closed last; one with a view and one without remember that apart.
+ */
 class SaveDialog : public QFileDialog
 {
     Q_OBJECT
@@ -22,13 +28,18 @@ public:
     QString chosenPath() const;
     QStringList tags() const;
 
+    void done(int result) override;
+
 protected:
     void accept() override;
 
 private:
     void allow(const QStringList &types);
-    void addView(QWidget *view);
-    void addTagField();
+    void arrange(const platform::PanelRequest &request);
+    void addView(QGridLayout *grid, QWidget *view);
+    void addTagField(QGridLayout *grid);
+    void showNames();
+    void takeSize();
     bool mayReplace(const QString &path);
 
     QStringList m_types;

@@ -39,13 +39,13 @@ export function isTarget(keyword) {
 /** What becomes of everything in a picture that is written as this target, in sentences. */
 export function targetText(keyword) {
     return {
-        jpeg: () => qsTr("Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black. The colour profile is kept."),
+        jpeg: () => qsTr("Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black and 16 bits become 8. The colour profile is kept."),
         png: () => qsTr("Nothing is lost: pixels, transparency, 16 bits, colour profile, EXIF, IPTC and XMP are kept."),
         tiff: () => qsTr("Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile, EXIF, IPTC and XMP are kept. Large files."),
         pdf: () => qsTr("One page of the picture's own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept."),
-        jp2: () => qsTr("Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC and XMP are not. Few programs show such files."),
-        gif: () => qsTr("256 colours at most. EXIF, IPTC and XMP are not kept; colours become sRGB."),
-        bmp: () => qsTr("Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black."),
+        jp2: () => qsTr("Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC, XMP and the resolution are not. Few programs show such files."),
+        gif: () => qsTr("256 colours at most, and a pixel is either transparent or not. EXIF, IPTC, XMP and the resolution are not kept; colours become sRGB."),
+        bmp: () => qsTr("Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black, and 16 bits become 8."),
     }[keyword]();
 }
 
@@ -59,6 +59,9 @@ export function lostText(photo, target) {
         lost.push(qsTr("256 colours"));
     } else if (!target.profile && target.keyword !== "jp2") {
         lost.push(qsTr("colours become sRGB"));
+    }
+    if (target.keyword === "gif" || target.keyword === "jp2") {
+        lost.push(qsTr("the resolution is not kept"));
     }
     if (!target.alpha && mayBeTransparent(photo)) {
         lost.push(qsTr("transparent parts become black"));

@@ -55,4 +55,15 @@ QString typeIdentifierForPath(const QString &path)
     return typeIdentifierForExtension(pathExtension(path));
 }
 
+QStringList extensionsOfSameType(const QString &extension)
+{
+    const QString lower = extension.toLower();
+    const QString identifier = typeIdentifierForExtension(extension);
+    QStringList extensions(lower);
+    for (const KnownType &type : knownTypes)
+        if (type.identifier == identifier && type.extension != lower)
+            extensions.append(type.extension);
+    return extensions;
+}
+
 } // namespace platform

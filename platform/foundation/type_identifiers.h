@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace platform {
 
@@ -13,5 +14,8 @@ QString typeIdentifierForExtension(const QString &extension);
 
 /** The type identifier of the extension of @p path; see typeIdentifierForExtension(). */
 QString typeIdentifierForPath(const QString &path);
+
+/** All extensions that mean what @p extension means, itself first: "jpeg" gives "jpeg", "jpg", "jpe". */
+QStringList extensionsOfSameType(const QString &extension);
 
 } // namespace platform

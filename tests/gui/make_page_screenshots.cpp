@@ -211,22 +211,14 @@ void showManual(WindowDriver &driver, const QString &name)
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    const QString folder = QString::fromLocal8Bit(argv[2]);
-    QDir().mkpath(folder);
-    for (const char *appearance : {"light", "dark"}) {
-        qputenv("QUORLIN_APPEARANCE", appearance);
-        WindowDriver driver(application);
-        driver.window().resize(1440, 900);
-        driver.drop({samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder())});
-        showManual(driver, folder + QStringLiteral("/main-") + QLatin1String(appearance));
-        const QString hand = folder + QStringLiteral("/hand-") + QLatin1String(appearance);
-        showHand(driver, hand + QStringLiteral("-many"), 59);
-        samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder());
-        showHand(driver, hand, 12);
-        samplePictures(QString::fromLocal8Bit(argv[1]), driver.folder());
-        showMetadata(driver, folder + QStringLiteral("/metadata-") + QLatin1String(appearance));
-        showLog(driver, folder + QStringLiteral("/log-") + QLatin1String(appearance));
-    }
-    return 0;
+    return makeScreenshots(argc, argv, [](WindowDriver &driver, const QString &samples, const PicturePath &path) {
+        driver.drop({samplePictures(samples, driver.folder())});
+        showManual(driver, path("main"));
+        showHand(driver, path("hand") + QStringLiteral("-many"), 59);
+        samplePictures(samples, driver.folder());
+        showHand(driver, path("hand"), 12);
+        samplePictures(samples, driver.folder());
+        showMetadata(driver, path("metadata"));
+        showLog(driver, path("log"));
+    });
 }

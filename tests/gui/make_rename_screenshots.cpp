@@ -71,18 +71,11 @@ void saveSmall(WindowDriver &driver, const QString &path)
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    const QString from = QString::fromLocal8Bit(argv[1]);
-    const QString folder = QString::fromLocal8Bit(argv[2]);
-    QDir().mkpath(folder);
-    for (const char *appearance : {"light", "dark"}) {
-        qputenv("QUORLIN_APPEARANCE", appearance);
-        WindowDriver driver(application);
-        const QString name = folder + QStringLiteral("/rename-") + QLatin1String(appearance);
-        driver.window().resize(1440, 900);
+    return makeScreenshots(argc, argv, [](WindowDriver &driver, const QString &samples, const PicturePath &path) {
+        const QString name = path("rename");
         driver.show("rename");
         saveSmall(driver, name + QStringLiteral("-empty.png"));
-        driver.drop(prepared(from, driver.folder() + QStringLiteral("/Pictures")));
+        driver.drop(prepared(samples, driver.folder() + QStringLiteral("/Pictures")));
         choosePreset(driver, "Date and place");
         driver.click("cardTitle");
         driver.control<QLineEdit>("firstText")->setText(QStringLiteral("{taken} lake {counter:001}"));
@@ -98,6 +91,5 @@ int main(int argc, char **argv)
         driver.click("startButton");
         driver.waitForSummary();
         saveSmall(driver, name + QStringLiteral("-done.png"));
-    }
-    return 0;
+    });
 }

@@ -19,6 +19,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -43,12 +44,12 @@ void prepare(WindowDriver &driver, const QString &action)
     }
 }
 
-void showActions(WindowDriver &driver, const QString &folder, const QString &appearance)
+void showActions(WindowDriver &driver, const PicturePath &path)
 {
     for (const char *action : {"crop", "turn", "round", "background", "convert"}) {
         driver.show(action);
         prepare(driver, QString::fromLatin1(action));
-        const QString name = folder + QLatin1Char('/') + QString::fromLatin1(action) + QLatin1Char('-') + appearance;
+        const QString name = path(action);
         driver.window().resize(1440, 900);
         saveScreen(driver, name + QStringLiteral(".png"));
         driver.window().resize(1280, 720);
@@ -102,6 +103,25 @@ void showSorting(WindowDriver &driver, const QString &from, const QString &name)
     driver.trigger("clearAction");
 }
 
+// The panel that saves the current picture, as large as it opens on a screen of 1280 x 720.
+void showSaveAs(WindowDriver &driver, const QString &name)
+{
+    const QString desktop = driver.folder() + QStringLiteral("/Desktop");
+    QDir().mkpath(desktop);
+    for (const char *picture : {"Harbour.jpg", "Anna and Tom.jpg", "Boat race 2026.jpeg", "Cover.jpg", "Old mill.jpg"})
+        QFile::copy(driver.folder() + QStringLiteral("/Pictures/Lake in the morning.jpg"),
+                    desktop + QLatin1Char('/') + QLatin1String(picture));
+    constexpr int opensMs = 300;
+    constexpr int settlesMs = 2500;
+    QTimer::singleShot(opensMs, &driver.window(), [] { QApplication::activeModalWidget()->resize(1000, 680); });
+    QTimer::singleShot(settlesMs, &driver.window(), [name] {
+        QWidget *panel = QApplication::activeModalWidget();
+        panel->grab().toImage().convertToFormat(QImage::Format_RGB888).save(name, "PNG", 0);
+        panel->close();
+    });
+    driver.trigger("saveAsAction");
+}
+
 // What asks for something without a window of its own, and the preferences.
 void showAsking(WindowDriver &driver, const QString &name)
 {
@@ -141,23 +161,18 @@ void showHelp(WindowDriver &driver, const QString &name)
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    const QString from = QString::fromLocal8Bit(argv[1]);
-    const QString folder = QString::fromLocal8Bit(argv[2]);
-    QDir().mkpath(folder);
-    for (const char *appearance : {"light", "dark"}) {
-        qputenv("QUORLIN_APPEARANCE", appearance);
-        WindowDriver driver(application);
-        const QString name = folder + QStringLiteral("/main-") + QLatin1String(appearance);
+    return makeScreenshots(argc, argv, [](WindowDriver &driver, const QString &samples, const PicturePath &path) {
+        const QString name = path("main");
         driver.window().resize(1280, 720);
         saveScreen(driver, name + QStringLiteral("-empty.png"));
         driver.window().resize(1440, 900);
-        driver.drop({samplePictures(from, driver.folder())});
+        driver.drop({samplePictures(samples, driver.folder())});
         driver.pictures().step(1);
         choosePreset(driver, "Web 1600");
         saveScreen(driver, name + QStringLiteral(".png"));
-        showActions(driver, folder, QString::fromLatin1(appearance));
-        showSorting(driver, from, folder + QStringLiteral("/sort-") + QLatin1String(appearance));
+        showActions(driver, path);
+        showSaveAs(driver, path("save-as") + QStringLiteral(".png"));
+        showSorting(driver, samples, path("sort"));
         driver.drop({driver.folder() + QStringLiteral("/Pictures")});
         showAsking(driver, name);
         showHelp(driver, name);
@@ -168,6 +183,5 @@ int main(int argc, char **argv)
         saveScreen(driver, name + QStringLiteral("-done.png"));
         driver.control<window::SideBar>("sideBar")->setCurrentAction(QStringLiteral("log"));
         saveScreen(driver, name + QStringLiteral("-log.png"));
-    }
-    return 0;
+    });
 }

@@ -1,6 +1,6 @@
 #include "screen_tools.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QPixmap>
@@ -34,4 +34,22 @@ void saveScreen(WindowDriver &driver, const QString &path)
 void choosePreset(WindowDriver &driver, const char *name)
 {
     driver.choose("preset", QLatin1Char('=') + QCoreApplication::translate("starting-presets", name));
+}
+
+int makeScreenshots(int argc, char **argv,
+                    const std::function<void(WindowDriver &, const QString &samples, const PicturePath &)> &work)
+{
+    QApplication application(argc, argv);
+    const QString samples = QString::fromLocal8Bit(argv[1]);
+    const QString folder = QString::fromLocal8Bit(argv[2]);
+    QDir().mkpath(folder);
+    for (const char *appearance : {"light", "dark"}) {
+        qputenv("QUORLIN_APPEARANCE", appearance);
+        WindowDriver driver(application);
+        driver.window().resize(1440, 900);
+        work(driver, samples, [&](const char *name) {
+            return folder + QLatin1Char('/') + QLatin1String(name) + QLatin1Char('-') + QLatin1String(appearance);
+        });
+    }
+    return 0;
 }

@@ -15,14 +15,10 @@ class ConvertPane : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
-
     void init()
     {
-        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
-        m_folder = m_driver->folder() + QStringLiteral("/in");
-        QVERIFY(QDir().mkpath(m_folder));
-        m_driver->show("convert");
+        m_driver = WindowDriver::showing("convert");
+        m_folder = m_driver->inputFolder();
     }
 
     void cleanup() { m_driver.reset(); }

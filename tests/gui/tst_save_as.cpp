@@ -12,8 +12,11 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 namespace {
 
@@ -32,6 +35,14 @@ void whenOpen(const std::function<void(window::SaveDialog &)> &work)
         else
             whenOpen(work);
     });
+}
+
+/** All of its text can be read. */
+bool isWhole(const QLabel &label)
+{
+    const int height = label.wordWrap() ? label.heightForWidth(label.width()) : label.sizeHint().height();
+    const int width = label.wordWrap() ? label.minimumSizeHint().width() : label.sizeHint().width();
+    return label.isVisible() && label.width() >= width && label.height() >= height;
 }
 
 void chooseIn(const char *menu, const QString &text)
@@ -54,7 +65,7 @@ private Q_SLOTS:
 
     void init()
     {
-        for (const char *key : {"SaveAs", "MOS", "LastPanelFolder"})
+        for (const char *key : {"SaveAs", "MOS", "LastPanelFolder", "PictureSavePanelSize"})
             platform::removeUserDefault(QString::fromLatin1(key));
         m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
         QVERIFY(QDir().mkpath(m_driver->folder() + QStringLiteral("/Desktop")));
@@ -141,6 +152,68 @@ private Q_SLOTS:
             confirm(panel);
         });
         QCOMPARE(typeOf("Desktop/a.b.jpeg"), QStringLiteral("public.jpeg"));
+    }
+
+    void isLargeEnoughToLookAround()
+    {
+        save([&](window::SaveDialog &panel) {
+            panel.resize(1000, 680); // as it opens on a screen of 1280 x 720
+            m_driver->waitFor([] { return inPanel<QLabel>("saveAsSize")->text().startsWith(QLatin1String("about")); });
+            QTest::qWait(200);
+            auto *files = inPanel<QTreeView>("treeView");
+            constexpr int leastRows = 7;
+            QVERIFY(files->viewport()->height() >= leastRows * files->fontMetrics().height());
+            for (const char *name : {"saveAsSize", "saveAsNote", "saveAsTypeLabel", "saveAsQualityLabel"})
+                QVERIFY2(isWhole(*inPanel<QLabel>(name)), name);
+            const QSize view = inPanel<window::ComparePreview>("saveAsPreview")->size();
+            QVERIFY(view.width() >= 600 && view.height() >= 200);
+            for (QWidget *each : panel.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+                QVERIFY2(!each->isVisible() || each->isWindow() || panel.rect().contains(each->geometry()),
+                         qPrintable(each->objectName()));
+            panel.reject();
+        });
+    }
+
+    void opensAsLargeAsItWas()
+    {
+        QSize first;
+        save([&](window::SaveDialog &panel) {
+            first = panel.size();
+            QVERIFY(panel.screen()->availableSize().width() >= first.width());
+            QVERIFY(panel.screen()->availableSize().height() >= first.height());
+            panel.resize(720, 600);
+            panel.reject();
+        });
+        QSize again;
+        save([&](window::SaveDialog &panel) {
+            again = panel.size();
+            panel.reject();
+        });
+        QVERIFY(first != again);
+        QCOMPARE(again, QSize(720, 600));
+    }
+
+    void startsWherePicturesAreWithoutADesktop_data()
+    {
+        QTest::addColumn<QString>("made");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("desktop") << QStringLiteral("/Desktop") << QStringLiteral("/Desktop");
+        QTest::newRow("pictures") << QStringLiteral("/Pictures") << QStringLiteral("/Pictures");
+        QTest::newRow("neither") << QStringLiteral("/in") << QString();
+    }
+
+    void startsWherePicturesAreWithoutADesktop()
+    {
+        QFETCH(QString, made);
+        QFETCH(QString, folder);
+        QVERIFY(QDir(m_driver->folder()).rmdir(QStringLiteral("Desktop")));
+        QVERIFY(QDir().mkpath(m_driver->folder() + made));
+        QString start;
+        save([&](window::SaveDialog &panel) {
+            start = panel.directory().absolutePath();
+            panel.reject();
+        });
+        QCOMPARE(start, m_driver->folder() + folder);
     }
 
     void remembersTypeAndQuality()

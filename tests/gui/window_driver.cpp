@@ -6,6 +6,7 @@
 #include "platform/desktop/user_defaults.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QFile>
@@ -92,6 +93,23 @@ void WindowDriver::startAgain()
     m_startUp = std::make_unique<window::StartUp>(m_application);
     if (!m_startUp->loadScripts({}))
         qFatal("%s", qPrintable(m_startUp->problem()));
+}
+
+std::unique_ptr<WindowDriver> WindowDriver::showing(const char *action)
+{
+#ifdef QUORLIN_INTERFACE_FOLDER
+    qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER);
+#endif
+    auto driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+    driver->show(action);
+    return driver;
+}
+
+QString WindowDriver::inputFolder() const
+{
+    const QString path = folder() + QStringLiteral("/in");
+    QDir().mkpath(path);
+    return path;
 }
 
 WindowDriver::~WindowDriver() = default;

@@ -23,6 +23,11 @@ public:
     explicit WindowDriver(QApplication &application);
     ~WindowDriver();
 
+    /** The program with the interface of the clone, as tests of one action want it: with that one chosen. */
+    static std::unique_ptr<WindowDriver> showing(const char *action);
+    /** A folder of the person's own for what the program is given; made on first use. */
+    QString inputFolder() const;
+
     /** Ends the program and starts it anew, with the same settings. */
     void startAgain();
 

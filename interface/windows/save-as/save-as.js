@@ -8,7 +8,7 @@ import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
-import { isTarget, KEYWORDS, lostText, QUALITIES, targetNamed, targetText } from "../../lib/targets.js";
+import { isTarget, KEYWORDS, QUALITIES, targetNamed, targetText } from "../../lib/targets.js";
 import { fill } from "../../lib/wording.js";
 
 const KEY = "SaveAs";
@@ -79,7 +79,6 @@ export class SaveAs {
         const isPlainPage = target.keyword === "pdf" && this.photo.type === "JPEG" && (this.photo.orientation || 1) === 1;
         this.knownBytes = isPlainPage ? this.photo.bytes : -1;
         this.form.control("saveAsNote").text = targetText(target.keyword);
-        this.view.setNotes(lostText(this.photo, target));
         this.view.showResult({ deeds: target.alpha ? [] : [{ do: "flatten" }], width: this.photo.width, height: this.photo.height,
                                type: target.id, quality: target.quality ? this.form.value("pubJPEGcompression") : "", message: "" });
         this.showSize(this.view.estimatedBytes);
@@ -88,9 +87,10 @@ export class SaveAs {
     showSize(estimated) {
         const target = this.target();
         const bytes = this.knownBytes >= 0 ? this.knownBytes : estimated;
-        const parts = [target.word].concat(target.quality ? [fill(qsTr("quality %1"), this.form.value("pubJPEGcompression"))] : [],
-                                           bytes >= 0 ? [fill(qsTr("about %1"), files.byteText(bytes))] : []);
-        this.view.setCaptions([this.photo.type, files.byteText(this.photo.bytes)].join(" · "), parts.join(" · "));
+        const size = bytes >= 0 ? fill(qsTr("about %1"), files.byteText(bytes)) : "";
+        this.form.control("saveAsSize").text = size;
+        this.view.setCaptions([this.photo.type, files.byteText(this.photo.bytes)].join(" · "),
+                              [target.word].concat(size ? [size] : []).join(" · "));
     }
 
     // The service answers the same whatever becomes of the file: only the file itself tells.

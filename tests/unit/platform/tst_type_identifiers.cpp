@@ -43,6 +43,13 @@ private Q_SLOTS:
         QCOMPARE(platform::typeIdentifierForExtension(extension), identifier);
     }
 
+    void knowsTheOtherExtensionsOfAType()
+    {
+        QCOMPARE(platform::extensionsOfSameType(QStringLiteral("jpeg")).join(u' '), QStringLiteral("jpeg jpg jpe"));
+        QCOMPARE(platform::extensionsOfSameType(QStringLiteral("TIF")).join(u' '), QStringLiteral("tif tiff"));
+        QCOMPARE(platform::extensionsOfSameType(QStringLiteral("c-action")).join(u' '), QStringLiteral("c-action"));
+    }
+
     void takesTheLastExtensionOfAPath()
     {
         QCOMPARE(platform::typeIdentifierForPath(QStringLiteral("/a.b/photo.old.PNG")), QStringLiteral("public.png"));
