@@ -55,12 +55,6 @@ bool isOfBytes(const VImage &image)
                                                    (image.bands() == 3 && space == VIPS_INTERPRETATION_sRGB));
 }
 
-QByteArray allBytes(const PictureBytes &bytes)
-{
-    const std::unique_ptr<QIODevice> device = bytes.device();
-    return device ? device->readAll() : QByteArray();
-}
-
 /** The decoder and the description of what it decodes agree. */
 bool agree(const JpegRows &rows, const VImage &shape)
 {
@@ -109,7 +103,7 @@ Result<bool> writeBmp(const ImageSource::File &file, const QString &path)
     const QByteArray profile = iccProfileOf(shape);
     if (!isOfBytes(shape) || (!profile.isEmpty() && !isSrgb(profile)))
         return false;
-    JpegRows rows(allBytes(file.bytes), JpegRows::Order::BlueFirst);
+    JpegRows rows(file.bytes.all(), JpegRows::Order::BlueFirst);
     if (!agree(rows, shape))
         return false;
     const QByteArray headers = bmpHeaders(rows.size(), rows.bands(), resolutionOf(file.bytes, file.content));
@@ -133,7 +127,7 @@ Result<bool> writeTiff(const ImageSource::File &file, const QString &path, const
             return false;
         whole = *ends;
     }
-    JpegRows rows(allBytes(file.bytes), JpegRows::Order::RedFirst);
+    JpegRows rows(file.bytes.all(), JpegRows::Order::RedFirst);
     if (!agree(rows, shape))
         return false;
     ReplacementFile first(path);

@@ -83,8 +83,7 @@ VImage loadJpeg2000(const PictureBytes &source)
 /** The general reader of many formats, for the one that no other reads; the size is known to be in the budget. */
 VImage loadPhotoshop(const PictureBytes &source)
 {
-    const std::unique_ptr<QIODevice> device = source.device();
-    const QByteArray bytes = device ? device->readAll() : QByteArray();
+    const QByteArray bytes = source.all();
     const std::unique_ptr<VipsBlob, void (*)(VipsBlob *)> blob(
         vips_blob_copy(bytes.constData(), size_t(bytes.size())),
         [](VipsBlob *area) { vips_area_unref(VIPS_AREA(area)); });
@@ -130,6 +129,12 @@ std::unique_ptr<QIODevice> PictureBytes::device() const
     if (!result->open(QIODevice::ReadOnly))
         result.reset();
     return result;
+}
+
+QByteArray PictureBytes::all() const
+{
+    const std::unique_ptr<QIODevice> opened = device();
+    return opened ? opened->readAll() : QByteArray();
 }
 
 VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options)

@@ -19,6 +19,8 @@ struct PictureBytes
 
     /** A device over the bytes, open for reading; null if the file cannot be opened. */
     std::unique_ptr<QIODevice> device() const;
+    /** All of them; empty if the file cannot be read. */
+    QByteArray all() const;
 };
 
 /** How an image is opened. */

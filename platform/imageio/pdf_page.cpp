@@ -98,17 +98,11 @@ std::optional<ExactTurn> turnUpright(int orientation)
     }
 }
 
-QByteArray allBytes(const PictureBytes &bytes)
-{
-    const std::unique_ptr<QIODevice> device = bytes.device();
-    return device ? device->readAll() : QByteArray();
-}
-
 /** The whole of a JPEG that shows the picture upright; empty where there is none without loss. */
 QByteArray uprightJpeg(const ImageSource &source, const PictureBytes &bytes)
 {
     if (source.orientation() == 1)
-        return allBytes(bytes);
+        return bytes.all();
     const std::optional<ExactTurn> turn = turnUpright(source.orientation());
     const std::optional<QByteArray> turned = turn ? source.turnedWithoutLoss(*turn) : std::nullopt;
     return turned ? markedUpright(*turned).value_or(QByteArray()) : QByteArray();
