@@ -39,6 +39,17 @@ class Verdict(unittest.TestCase):
     def test_refuses_a_table_without_quorlin(self):
         self.assertEqual(len(faults(text=TABLE.replace("CONTENDER", "somebody"))), 1)
 
+    def test_holds_conversions_against_every_program_but_limits(self):
+        self.assertEqual(faults(task="bmp"), [])
+        found = faults(user=90.0, task="bmp")
+        self.assertEqual(len(found), 1)
+        self.assertIn("vipsthumbnail", found[0])
+
+    def test_lets_programs_that_do_less_be_ahead_by_so_much(self):
+        text = TABLE.replace("vipsthumbnail", "gm mogrify P2")
+        self.assertEqual(faults(user=140.0, task="gif", text=text), [])
+        self.assertEqual(len(faults(user=150.0, task="gif", text=text)), 1)
+
     def test_prints_ratios_to_each_of_the_others(self):
         lines, _ = verdict.judge("a", verdict.tables(TABLE.format(task="a", user=40.0, memory=60, note=""))["a"])
         self.assertEqual(len(lines), 3)

@@ -165,8 +165,9 @@ private Q_SLOTS:
             QVERIFY(files->viewport()->height() >= leastRows * files->fontMetrics().height());
             for (const char *name : {"saveAsSize", "saveAsNote", "saveAsTypeLabel", "saveAsQualityLabel"})
                 QVERIFY2(isWhole(*inPanel<QLabel>(name)), name);
-            const QSize view = inPanel<window::ComparePreview>("saveAsPreview")->size();
-            QVERIFY(view.width() >= 600 && view.height() >= 200);
+            auto *view = inPanel<window::ComparePreview>("saveAsPreview");
+            QVERIFY(view->width() >= 600 && view->height() >= 250);
+            QVERIFY(view->parentWidget()->rect().contains(view->geometry()));
             for (QWidget *each : panel.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
                 QVERIFY2(!each->isVisible() || each->isWindow() || panel.rect().contains(each->geometry()),
                          qPrintable(each->objectName()));

@@ -51,8 +51,10 @@ void ConvertAnything::endsWithAPictureOrNothing()
         const bool isMade = home.isThere(qPrintable(name));
         QCOMPARE(home.names(), isMade ? QStringList(name) : QStringList());
         if (isMade) {
-            const auto made = platform::ImageSource::open(home.path(name));
-            QVERIFY2((made && made->decode()) || isPageOfNoPoint(path, type), type);
+            if (isPageOfNoPoint(path, type)) // not even tried: the library that draws pages loses memory over it
+                QVERIFY(home.read(name).startsWith("%PDF"));
+            else
+                QVERIFY2(platform::ImageSource::open(home.path(name))->decode(), type);
             QVERIFY(QFile::remove(home.path(name)));
         }
     }
