@@ -156,6 +156,32 @@ private Q_SLOTS:
         QVERIFY(!QApplication::activeModalWidget());
     }
 
+    void aServerThatMisbehavesHoldsNobodyUp_data()
+    {
+        QTest::addColumn<WebServer::Answer>("answer");
+        QTest::newRow("slow") << WebServer::silence();
+        QTest::newRow("a byte now and then") << WebServer::endless("x", 100);
+        QTest::newRow("huge") << WebServer::page("9.9;999999;a;" + QByteArray(8 << 20, 'x'));
+        QTest::newRow("redirect loop") << WebServer::redirect("/version/Quorlin.txt");
+        QTest::newRow("closed port") << WebServer::Answer();
+    }
+
+    void aServerThatMisbehavesHoldsNobodyUp()
+    {
+        QFETCH(WebServer::Answer, answer);
+        auto server = std::make_unique<WebServer>(answer);
+        qputenv("QUORLIN_UPDATE_HOST", server->host().toLatin1());
+        if (!answer)
+            server.reset();
+        QElapsedTimer clock;
+        clock.start();
+        m_driver->trigger("updateAction");
+        QVERIFY2(clock.elapsed() < 4500, qPrintable(QString::number(clock.elapsed())));
+        QVERIFY2(m_driver->text("statusText").contains(QStringLiteral("Nobody answers")),
+                 qPrintable(m_driver->text("statusText")));
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+
     void looksAtTheStartOnlyWhereThatIsAllowed()
     {
         const WebServer server(WebServer::page(newer));
