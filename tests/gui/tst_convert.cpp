@@ -59,17 +59,19 @@ private Q_SLOTS:
 
     void takesWhatOtherActionsDoNot()
     {
-        const QStringList names = {QStringLiteral("Stonehenge.heic"), QStringLiteral("flower.webp"),
-                                   QStringLiteral("hopper.psd"), QStringLiteral("ISO_12233-reschart.pdf"),
-                                   QStringLiteral("logo.svg")};
+        const QStringList names = {
+            QStringLiteral("formats/Stonehenge.heic"), QStringLiteral("formats/flower.webp"),
+            QStringLiteral("formats/hopper.psd"),      QStringLiteral("formats/ISO_12233-reschart.pdf"),
+            QStringLiteral("formats/logo.svg"),        QStringLiteral("orientation/rot1mir1.avif")};
         for (const QString &name : names)
-            if (!QFile::copy(QStringLiteral(QUORLIN_TEST_CORPUS "/formats/") + name, m_folder + u'/' + name))
+            if (!QFile::copy(QStringLiteral(QUORLIN_TEST_CORPUS "/") + name,
+                             m_folder + u'/' + QFileInfo(name).fileName()))
                 QSKIP("no pictures here");
         m_driver->drop({m_folder});
-        QCOMPARE(m_driver->pictures().count(), 5);
+        QCOMPARE(m_driver->pictures().count(), 6);
         m_driver->choose("target", QStringLiteral("png"));
-        run(QStringLiteral("5 pictures done"));
-        QCOMPARE(QDir(m_folder + QStringLiteral("/Converted")).entryList(QDir::Files).size(), 5);
+        run(QStringLiteral("6 pictures done"));
+        QCOMPARE(QDir(m_folder + QStringLiteral("/Converted")).entryList(QDir::Files).size(), 6);
     }
 
     void offersWhatWasAddedUnderAnActionThatDoesNotTakeIt()

@@ -73,6 +73,21 @@ test("refusesOtherTypesAndQualities", () => {
     equal(["0", "10", "", "best"].map((quality) => convert.validate(settings("jpeg", { quality: quality })).length), [1, 1, 1, 1]);
 });
 
+// The words of docs/formats.md, whose table is held against real files.
+test("saysOfEachTargetWhatItCannotHold", () => {
+    const says = (keyword, words) => words.forEach((word) => isTrue(targetText(keyword).indexOf(word) >= 0));
+    for (const keyword of ["jpeg", "pdf", "jp2", "gif", "bmp"]) {
+        says(keyword, ["EXIF, IPTC"]);
+    }
+    says("jpeg", ["transparent parts become black", "16 bits become 8", "profile is kept"]);
+    says("bmp", ["colours become sRGB", "transparent parts black", "16 bits become 8"]);
+    says("gif", ["256 colours", "resolution", "colours become sRGB", "transparent or not"]);
+    says("jp2", ["resolution"]);
+    says("png", ["Nothing is lost"]);
+    says("tiff", ["Nothing is lost"]);
+    isTrue(/resolution/.test(convert.lost(source("a.png"), settings("jp2"))) && !/resolution/.test(convert.lost(source("a.png"), settings("bmp"))));
+});
+
 test("saysWhatGetsLostOfThisPicture", () => {
     const lost = (name, target) => convert.lost(source(name), settings(target));
     equal([lost("a.png", "png"), lost("a.heic", "tiff")], ["", ""]);
