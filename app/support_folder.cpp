@@ -2,10 +2,14 @@
 
 #include "app/window/interface_folder.h"
 #include "files/make_folder.h"
+#include "platform/desktop/trash.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/foundation/folders.h"
 #include "presets/Ztbookmarks.h"
 
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
 #include <QUrl>
 #include <QVariant>
 
@@ -25,6 +29,33 @@ void rememberRoot(const QString &root)
         platform::setUserDefault(rootKey, bookmark);
 }
 
+bool areSame(const QString &one, const QString &other)
+{
+    QFile first(one);
+    QFile second(other);
+    return first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly) && first.size() == second.size() &&
+           first.readAll() == second.readAll();
+}
+
+// Whether a folder has a file that the supplied patterns do not have just like it.
+bool hasOwnFiles(const QString &folder, const QString &supplied)
+{
+    QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString file = files.next();
+        if (!areSame(file, supplied + QLatin1Char('/') + QDir(folder).relativeFilePath(file)))
+            return true;
+    }
+    return false;
+}
+
+// What the user put there can be had back from the trash.
+void removePatterns(const QString &folder, const QString &supplied)
+{
+    if (!hasOwnFiles(folder, supplied) || !platform::moveToTrash(folder))
+        static_cast<void>(platform::removeItem(folder));
+}
+
 } // namespace
 
 QString suppliedPatterns()
@@ -40,7 +71,7 @@ void setUpSupportFolder(const QString &root, const QString &patterns, OldPattern
     const QString patternsThere = support + QStringLiteral("/Patterns");
     platform::setUserDefault(patternsKey, patternsThere);
     if (old == OldPatterns::Replace && platform::folderExists(patterns))
-        static_cast<void>(platform::removeItem(patternsThere));
+        removePatterns(patternsThere, patterns);
     static_cast<void>(platform::copyItem(patterns, patternsThere));
     const QString watermarks = support + QStringLiteral("/Watermarks");
     files::makeFolder(watermarks);

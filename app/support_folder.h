@@ -21,6 +21,8 @@ QString suppliedPatterns();
  * @param root      absolute path; the paths below it are put directly behind it
  * @param patterns  the folder to copy; where patterns are kept, or cannot be removed, nothing is copied
  *
+ * Patterns that are replaced go to the trash where there are others among them than the supplied ones.
+ *
  * Folders that cannot be made and copies that fail are passed over; the paths are remembered all the same.
  */
 void setUpSupportFolder(const QString &root, const QString &patterns, OldPatterns old);

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void setsUpAndRemembersTheFolder();
     void replacesOldPatternsOnlyWhenChosen_data() { flows(); }
     void replacesOldPatternsOnlyWhenChosen();
+    void putsReplacedPatternsOfTheUserIntoTheTrash();
     void keepsOldPatternsWithoutAnyToCopy_data() { flows(); }
     void keepsOldPatternsWithoutAnyToCopy();
     void takesTheLastOfSeveralPaths();
@@ -97,6 +98,7 @@ void TestSupportFolder::init()
 {
     m_home = std::make_unique<QTemporaryDir>();
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(path("config")));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(path("data")));
     qputenv("QUORLIN_INTERFACE", QFile::encodeName(path("interface")));
     QVERIFY(QDir().mkpath(path("interface/patterns/inner")) && QDir().mkpath(path("picked")));
     write(path("interface/patterns/a.png"), "new a");
@@ -197,6 +199,23 @@ void TestSupportFolder::replacesOldPatternsOnlyWhenChosen()
     const bool isReplaced = flow == Flow::Choose;
     QCOMPARE(read(patterns + QStringLiteral("/a.png")), QByteArray(isReplaced ? "new a" : "old a"));
     QCOMPARE(read(patterns + QStringLiteral("/mine.png")), QByteArray(isReplaced ? "none" : "mine"));
+}
+
+void TestSupportFolder::putsReplacedPatternsOfTheUserIntoTheTrash()
+{
+    const auto trashed = [this] {
+        return QDir(path("data/Trash/files")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    };
+    answer({path("picked")});
+    run(Flow::Set);
+    answer({path("picked")});
+    run(Flow::Choose);
+    QVERIFY2(trashed().isEmpty(), "nothing of the user's was there");
+    write(userDefault(patternsKey).toString() + QStringLiteral("/mine.png"), "mine");
+    answer({path("picked")});
+    run(Flow::Choose);
+    QCOMPARE(trashed().size(), 1);
+    QCOMPARE(read(path("data/Trash/files/") + trashed().first() + QStringLiteral("/mine.png")), QByteArray("mine"));
 }
 
 void TestSupportFolder::keepsOldPatternsWithoutAnyToCopy()
