@@ -13,9 +13,9 @@ const WORDS = {
         nothing: () => qsTr("No pictures there"),
         add: () => qsTr("Add Pictures…"),
         title: () => qsTr("Drop pictures or folders here"),
-        text: () => qsTr("Then choose what to do with them on the right. Your originals stay as they are unless you say otherwise."),
+        text: () => qsTr("Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise."),
         leftOut: (found) => leftOut(found, qsTr("“%1” is not a picture that can be taken"), qsTr("%1 files are not pictures that can be taken")),
-        hidden: (number) => count(number, qsTr("1 other file of the list is no picture that can be taken"), qsTr("%1 other files of the list are no pictures that can be taken")),
+        hidden: (number) => count(number, qsTr("1 other file of the list is not a picture that can be taken"), qsTr("%1 other files of the list are not pictures that can be taken")),
     },
     files: {
         count: (number) => count(number, qsTr("1 file"), qsTr("%1 files")),

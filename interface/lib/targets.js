@@ -42,7 +42,7 @@ export function targetText(keyword) {
         jpeg: () => qsTr("Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black and 16 bits become 8. The colour profile is kept."),
         png: () => qsTr("Nothing is lost: pixels, transparency, 16 bits, colour profile, EXIF, IPTC and XMP are kept."),
         tiff: () => qsTr("Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile, EXIF, IPTC and XMP are kept. Large files."),
-        pdf: () => qsTr("One page of the picture's own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept."),
+        pdf: () => qsTr("One page of the picture’s own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept."),
         jp2: () => qsTr("Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC, XMP and the resolution are not. Few programs show such files."),
         gif: () => qsTr("256 colours at most, and a pixel is either transparent or not. EXIF, IPTC, XMP and the resolution are not kept; colours become sRGB."),
         bmp: () => qsTr("Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black, and 16 bits become 8."),

@@ -81,7 +81,7 @@ export function plan(photo, settings, services) {
         return { status: "Failed", reason: qsTr("the frame lies outside the picture") };
     }
     const cut = inside.width < frame.width || inside.height < frame.height;
-    const notes = cut ? [qsTr("Cut off at the picture's edge.")] : [];
+    const notes = cut ? [qsTr("Cut off at the picture’s edge.")] : [];
     const planned = ready(splitPath(photo.path).base + target.type.extension, target.type, inside, notes);
     planned.frame = frame;
     planned.inside = inside;
