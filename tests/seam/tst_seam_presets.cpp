@@ -21,6 +21,8 @@ class TestSeamPresets : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Before anything reads a setting: the toolkit looks for their place once.
+    void initTestCase() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_settings.path())); }
     void init() { m_store = std::make_unique<PresetStore>(); }
     void answersInTheFormsOfScripts_data();
     void answersInTheFormsOfScripts();
@@ -29,6 +31,7 @@ private Q_SLOTS:
     void opensTheVerySheet();
 
 private:
+    QTemporaryDir m_settings;
     std::unique_ptr<PresetStore> m_store;
 };
 
@@ -135,7 +138,6 @@ void TestSeamPresets::raisesErrorsWithTheirNames()
 
 void TestSeamPresets::opensTheVerySheet()
 {
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_store->home()));
     qputenv("QUORLIN_INTERFACE", QFile::encodeName(m_store->home()));
     ScriptRun run;
     QVERIFY2(
