@@ -5,14 +5,14 @@
 #include "platform/desktop/panels.h"
 #include "platform/desktop/user_defaults.h"
 
+#include "tests/support/own_settings.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -35,53 +35,8 @@ private:
 WindowDriver::WindowDriver(QApplication &application) : m_application(application)
 {
     qputenv("HOME", m_home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", (m_home.path() + QStringLiteral("/.config")).toLocal8Bit());
     qputenv("XDG_DATA_HOME", (m_home.path() + QStringLiteral("/.local/share")).toLocal8Bit());
-    // The store of the defaults is opened once for the process: what the driver before left is not for this one.
-    for (const char *key : {"Settings-resize",
-                            "Settings-crop",
-                            "Settings-turn",
-                            "Settings-round",
-                            "Settings-background",
-                            "Settings-rename",
-                            "Settings-convert",
-                            "Settings-sort",
-                            "SortFolders",
-                            "Preset-sort",
-                            "Settings-hand",
-                            "Preset-resize",
-                            "Preset-crop",
-                            "Preset-turn",
-                            "Preset-round",
-                            "Preset-background",
-                            "Preset-rename",
-                            "Preset-convert",
-                            "Preset-hand",
-                            "LogColumns",
-                            "Comments",
-                            "StartingPresets",
-                            "SupportFilesDestination",
-                            "PatternsDestination",
-                            "WatermarksDestination",
-                            "ShownAction",
-                            "SaveFolders",
-                            "RecentFolders",
-                            "Preview",
-                            "MainWindowGeometry",
-                            "ManualGeometry",
-                            "ManualmanualSplitter",
-                            "MainWindowbodySplitter",
-                            "MainWindowcentreSplitter",
-                            "Language",
-                            "PrintPaper",
-                            "PrintLandscape",
-                            "UpdateCheck",
-                            "Preferences",
-                            "Appearance",
-                            "MainWindowlistSplitter"})
-        platform::removeUserDefault(QString::fromLatin1(key));
-    QFile::remove(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                  QStringLiteral("/quorlin/log.jsonl"));
+    keepSettingsIn(m_home.path() + QStringLiteral("/.config"));
     // Nobody is there to be asked; who tests the question takes this away.
     platform::setUserDefault(QStringLiteral("SupportFolderPutOff"), QStringLiteral("{\"on\":true}"));
     startAgain();

@@ -1,6 +1,7 @@
 #include "ScriptRun.h"
 
 #include "tests/support/log_capture.h"
+#include "tests/support/own_settings.h"
 #include "tests/support/preset_store.h"
 
 #include <QTest>
@@ -21,9 +22,7 @@ class TestSeamPresets : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // Before anything reads a setting: the toolkit looks for their place once.
-    void initTestCase() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_settings.path())); }
-    void init() { m_store = std::make_unique<PresetStore>(); }
+    void init();
     void answersInTheFormsOfScripts_data();
     void answersInTheFormsOfScripts();
     void emptiesTheVeryListThatItGave();
@@ -31,9 +30,14 @@ private Q_SLOTS:
     void opensTheVerySheet();
 
 private:
-    QTemporaryDir m_settings;
     std::unique_ptr<PresetStore> m_store;
 };
+
+void TestSeamPresets::init()
+{
+    m_store = std::make_unique<PresetStore>();
+    keepSettingsIn(m_store->home());
+}
 
 void TestSeamPresets::answersInTheFormsOfScripts_data()
 {

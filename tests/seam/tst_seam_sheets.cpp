@@ -1,5 +1,7 @@
 #include "ScriptRun.h"
 
+#include "tests/support/own_settings.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTest>
@@ -71,7 +73,7 @@ private:
 void TestSeamSheets::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder->filePath(QStringLiteral("config"))));
+    keepSettingsIn(m_folder->filePath(QStringLiteral("config")));
     for (const char *variable : {"QUORLIN_INTERFACE", "QUORLIN_LANGUAGE", "QUORLIN_PRODUCT_PAGE"})
         qunsetenv(variable);
 }

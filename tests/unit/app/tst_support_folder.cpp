@@ -5,6 +5,7 @@
 #include "platform/desktop/stand_ins.h"
 #include "platform/desktop/user_defaults.h"
 #include "presets/Ztbookmarks.h"
+#include "tests/support/own_settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -97,7 +98,7 @@ private:
 void TestSupportFolder::init()
 {
     m_home = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(path("config")));
+    keepSettingsIn(path("config"));
     qputenv("XDG_DATA_HOME", QFile::encodeName(path("data")));
     qputenv("QUORLIN_INTERFACE", QFile::encodeName(path("interface")));
     QVERIFY(QDir().mkpath(path("interface/patterns/inner")) && QDir().mkpath(path("picked")));
@@ -106,8 +107,6 @@ void TestSupportFolder::init()
     auto panels = std::make_unique<QueuedPanels>();
     m_panels = panels.get();
     setPanelProvider(std::move(panels));
-    for (const QString &key : {rootKey, patternsKey, watermarksKey})
-        removeUserDefault(key);
     setTextOf(&m_field, QStringLiteral("as it was"));
     m_main.setProperty("sheet", QVariant::fromValue<QObject *>(nullptr));
     m_sheets = std::make_unique<cSheetControl>();
