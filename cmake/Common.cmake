@@ -25,9 +25,26 @@ if(QUORLIN_SANITIZE)
   target_link_options(quorlin-common INTERFACE -fsanitize=address,undefined)
 endif()
 
-# quorlin_library(name SOURCES ... LINKS ...): a room of the house.
+# Reading the toolkit's headers is most of what a source file costs, so they are read once a room. Sources still include
+# what they use: the header checks and the sanitizer build compile without.
+option(QUORLIN_PRECOMPILE "Precompile the headers of the toolkit" ON)
+set(QUORLIN_CORE_HEADERS <algorithm> <array> <cmath> <functional> <memory> <optional> <string> <vector>
+  <QByteArray> <QCoreApplication> <QDateTime> <QDir> <QFile> <QFileInfo> <QHash> <QList> <QMap> <QString> <QStringList>
+  <QUrl> <QVariant> <QtEndian>)
+set(QUORLIN_WINDOW_HEADERS ${QUORLIN_CORE_HEADERS} <QAbstractItemModel> <QApplication> <QJSEngine> <QJSValue> <QKeyEvent> <QLabel>
+  <QLocale> <QPainter> <QPainterPath> <QPointer> <QQmlEngine> <QStyledItemDelegate> <QTimer> <QWidget>)
+
+# quorlin_precompile(target HEADER...)
+function(quorlin_precompile target)
+  if(QUORLIN_PRECOMPILE)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
+# quorlin_library(name SOURCES ... LINKS ... PRECOMPILED ...): a room of the house.
 function(quorlin_library name)
-  cmake_parse_arguments(arg "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS;PRIVATE_LINKS;PRECOMPILED" ${ARGN})
   add_library(${name} STATIC ${arg_SOURCES})
   target_link_libraries(${name} PUBLIC quorlin-common ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
+  quorlin_precompile(${name} ${QUORLIN_CORE_HEADERS} ${arg_PRECOMPILED})
 endfunction()

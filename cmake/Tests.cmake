@@ -2,13 +2,49 @@
 # Tests find the pictures they share through QUORLIN_TEST_CORPUS and their own data through QUORLIN_TEST_DATA.
 set(QUORLIN_TEST_CORPUS "${CMAKE_SOURCE_DIR}/../shared/corpus" CACHE PATH "Real pictures that tests may read")
 
+# Makes the target whose precompiled headers all tests of one kind in one folder share (Qt6::Test tells each program its
+# folder in a definition, so those of two folders cannot).
+function(quorlin_test_headers name)
+  cmake_parse_arguments(arg "" "" "LINKS;PRECOMPILED" ${ARGN})
+  file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp CONTENT "// Only its headers matter.\n")
+  add_library(${name} OBJECT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+  target_link_libraries(${name} PRIVATE quorlin-common ${arg_LINKS} Qt6::Test)
+  target_precompile_headers(${name} PRIVATE ${arg_PRECOMPILED} <QTemporaryDir> <QTest>)
+  quorlin_test_options(${name})
+endfunction()
+
+# A test says what is right; how fast it says so does not matter, how fast it is built does.
+function(quorlin_test_options name)
+  target_compile_options(${name} PRIVATE -O0)
+  target_compile_definitions(${name} PRIVATE
+    QUORLIN_TEST_CORPUS="${QUORLIN_TEST_CORPUS}"
+    QUORLIN_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
+endfunction()
+
+function(quorlin_share_test_headers name)
+  get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+  if("app" IN_LIST ARGN OR "seam-harness" IN_LIST ARGN)
+    set(shared ${folder}-window-headers)
+    set(linked LINKS app PRECOMPILED ${QUORLIN_WINDOW_HEADERS})
+  else()
+    set(shared ${folder}-room-headers)
+    set(linked LINKS Qt6::Gui PRECOMPILED ${QUORLIN_CORE_HEADERS} <QImage>)
+  endif()
+  if(NOT TARGET ${shared})
+    quorlin_test_headers(${shared} ${linked})
+  endif()
+  target_precompile_headers(${name} REUSE_FROM ${shared})
+endfunction()
+
 function(quorlin_test name)
   cmake_parse_arguments(arg "" "" "LABELS;SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE ${arg_LINKS} Qt6::Test)
-  target_compile_definitions(${name} PRIVATE
-    QUORLIN_TEST_CORPUS="${QUORLIN_TEST_CORPUS}"
-    QUORLIN_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
+  quorlin_test_options(${name})
+  if(QUORLIN_PRECOMPILE)
+    quorlin_share_test_headers(${name} ${arg_LINKS})
+  endif()
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
