@@ -3,6 +3,8 @@
 #include "app/window/compare_preview.h"
 #include "platform/imageio/image_source.h"
 
+#include "tests/support/corpus.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -64,8 +66,7 @@ private Q_SLOTS:
             QStringLiteral("formats/hopper.psd"),      QStringLiteral("formats/ISO_12233-reschart.pdf"),
             QStringLiteral("formats/logo.svg"),        QStringLiteral("orientation/rot1mir1.avif")};
         for (const QString &name : names)
-            if (!QFile::copy(QStringLiteral(QUORLIN_TEST_CORPUS "/") + name,
-                             m_folder + u'/' + QFileInfo(name).fileName()))
+            if (!QFile::copy(corpusPath(name), m_folder + u'/' + QFileInfo(name).fileName()))
                 QSKIP("no pictures here");
         m_driver->drop({m_folder});
         QCOMPARE(m_driver->pictures().count(), 6);

@@ -4,6 +4,7 @@
 #include "app/window/segmented_control.h"
 #include "meta/mMeta.h"
 #include "platform/imageio/metadata.h"
+#include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
 #include "window_driver.h"
@@ -280,7 +281,7 @@ void TestMetadataPage::showsPicturesOfCamerasAndPhones()
 {
     QFETCH(QString, picture);
     QFETCH(bool, holds);
-    const QString source = QStringLiteral(QUORLIN_TEST_CORPUS "/") + picture;
+    const QString source = corpusPath(picture);
     if (!QFile::exists(source))
         QSKIP("no shared pictures");
     const QString copy = path(QFileInfo(picture).fileName());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "corpus.h"
+
 #include <QFile>
 #include <QList>
 #include <QStringList>
@@ -32,7 +34,7 @@ inline QString unescaped(const QString &text)
 /** Empty where the corpus is not there. */
 inline QList<CorpusName> corpusNames()
 {
-    QFile file(QStringLiteral(QUORLIN_TEST_CORPUS "/names/names-expect.tsv"));
+    QFile file(corpusPath("names/names-expect.tsv"));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QList<CorpusName> names;

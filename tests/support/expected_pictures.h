@@ -1,5 +1,7 @@
 #pragma once
 
+#include "corpus.h"
+
 #include <QFile>
 #include <QList>
 #include <QSize>
@@ -32,7 +34,7 @@ inline QSize sizeFrom(const QString &text)
 
 inline QList<Row> rows(const QString &folder = {})
 {
-    QFile file(QStringLiteral(QUORLIN_TEST_CORPUS "/EXPECT.tsv"));
+    QFile file(corpusPath("EXPECT.tsv"));
     QList<Row> result;
     if (!file.open(QIODevice::ReadOnly))
         return result;
@@ -43,7 +45,7 @@ inline QList<Row> rows(const QString &folder = {})
             continue;
         Row row;
         row.name = cell[0];
-        row.path = QStringLiteral(QUORLIN_TEST_CORPUS "/") + cell[0];
+        row.path = corpusPath(cell[0]);
         row.format = cell[2];
         row.stored = sizeFrom(cell[4]);
         row.upright = sizeFrom(cell[6]);

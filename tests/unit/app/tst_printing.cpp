@@ -4,6 +4,7 @@
 
 #include "platform/desktop/panels.h"
 #include "platform/graphics/picture.h"
+#include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
 
 #include <QColorSpace>
@@ -293,7 +294,7 @@ void TestPrinting::printsPicturesUpright_data()
 void TestPrinting::printsPicturesUpright()
 {
     QFETCH(QString, name);
-    const QString folder = QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/");
+    const QString folder = corpusPath("orientation/");
     const QImage right = printed(folder + name.left(name.size() - 5) + QStringLiteral("2.jpg"));
     const QImage out = printed(folder + name);
     QVERIFY(!inkOf(out).isEmpty());

@@ -2,6 +2,7 @@
 #include "files/convert_type.h"
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
+#include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
 
@@ -21,7 +22,7 @@ const char *const allTypes[] = {"pdf", "png", "tiff", "bmp", "gif", "jpeg", "jp2
 
 QString corpus(const char *name)
 {
-    return QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromUtf8(name);
+    return corpusPath(name);
 }
 
 Bitmap decoded(const QString &path)

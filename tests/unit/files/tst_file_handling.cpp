@@ -1,6 +1,7 @@
 #include "files/cNSFileHandling.h"
 #include "platform/desktop/stand_ins.h"
 #include "platform/foundation/raised.h"
+#include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
 
 #include <QGuiApplication>
@@ -75,7 +76,7 @@ void TestFileHandling::placesAndTrashes()
 
 void TestFileHandling::placesUnderEveryName()
 {
-    QFile list(QStringLiteral(QUORLIN_TEST_CORPUS "/names/names.txt"));
+    QFile list(corpusPath("names/names.txt"));
     if (!list.open(QIODevice::ReadOnly))
         QSKIP("no list of names here");
     for (const QString &name : QString::fromUtf8(list.readAll()).split(u'\n')) {

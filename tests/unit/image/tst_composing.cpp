@@ -1,4 +1,5 @@
 #include "image/ZtImageHandling.h"
+#include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/sheet_stand_ins.h"
@@ -27,7 +28,7 @@ QString text(const char *chars)
 
 QString corpus(const char *name)
 {
-    return QStringLiteral(QUORLIN_TEST_CORPUS "/") + text(name);
+    return corpusPath(text(name));
 }
 
 } // namespace
@@ -270,7 +271,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(double, dpi);
-        const QString path = QStringLiteral(QUORLIN_TEST_CORPUS "/") + name;
+        const QString path = corpusPath(name);
         const QSize size = Picture::fromFile(path).bitmap().size();
         for (const char *code : {"0", "1", "7"}) {
             for (const bool isRounded : {true, false}) {

@@ -1,4 +1,5 @@
 #include "image/ZtImageHandling.h"
+#include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/sheet_stand_ins.h"
@@ -183,9 +184,7 @@ private Q_SLOTS:
         SheetStandIns::write(sheet.pixels, "7");
         LogCapture log;
         for (const char *name : {"missing.png", "broken/zero-byte.jpg", "broken/truncated-real-camera.jpg"})
-            QCOMPARE(service.cropImage(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromUtf8(name), 10, 10, m_out,
-                                       png, {}),
-                     failed);
+            QCOMPARE(service.cropImage(corpusPath(name), 10, 10, m_out, png, {}), failed);
         QCOMPARE(log.text(), QByteArray());
         QCOMPARE(written(), QStringList());
         QCOMPARE(number(service, "myXWOffset"), 3);
@@ -247,7 +246,7 @@ private Q_SLOTS:
 
     void cutsThePictureUpright()
     {
-        const QString path = QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/portrait_6.jpg");
+        const QString path = corpusPath("orientation/portrait_6.jpg");
         const Bitmap upright = Picture::fromFile(path).bitmap();
         QCOMPARE(upright.size(), QSize(450, 600));
         ZtImageHandling service;
@@ -264,7 +263,7 @@ private Q_SLOTS:
 
     void carriesMetadataIntoTiffOnly()
     {
-        const QString path = QStringLiteral(QUORLIN_TEST_CORPUS "/exif-real/Canon_40D.jpg");
+        const QString path = corpusPath("exif-real/Canon_40D.jpg");
         ZtImageHandling service;
         for (const char *type : {"public.tiff", "public.jpeg"})
             QCOMPARE(service.cropImage(path, 0, 0, m_out, QString::fromUtf8(type), QStringLiteral("9")), ok);

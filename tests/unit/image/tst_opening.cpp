@@ -1,4 +1,5 @@
 #include "image/ZtImageHandling.h"
+#include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
 
 #include <QMetaProperty>
@@ -62,15 +63,14 @@ private Q_SLOTS:
     void readsTheStoredPixels()
     {
         ZtImageHandling service;
-        const BitmapHandle tall =
-            service.hStringToCGImageRef(QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/landscape_6.jpg"));
+        const BitmapHandle tall = service.hStringToCGImageRef(corpusPath("orientation/landscape_6.jpg"));
         QCOMPARE(tall.bitmap().size(), QSize(450, 600));
     }
 
     void tellsAMissingSourceFromOneWithoutAnImage()
     {
         ZtImageHandling service;
-        const QString corpus = QStringLiteral(QUORLIN_TEST_CORPUS "/broken/");
+        const QString corpus = corpusPath("broken/");
         QVERIFY(service.hStringToCGImageRef(corpus + QStringLiteral("missing.jpg")).isNull());
         QVERIFY(service.hStringToCGImageRef(corpus + QStringLiteral("text-named.jpg")).isNull());
         service.hStringToCGImageRef(picture("a.png", 30, 20));
@@ -91,8 +91,7 @@ private Q_SLOTS:
     void makesAPictureOfThePixelSize()
     {
         ZtImageHandling service;
-        const BitmapHandle bitmap =
-            service.hStringToCGImageRef(QStringLiteral(QUORLIN_TEST_CORPUS "/dpi/tiff-300dpi-inch.tif"));
+        const BitmapHandle bitmap = service.hStringToCGImageRef(corpusPath("dpi/tiff-300dpi-inch.tif"));
         QCOMPARE(qRound(bitmap.bitmap().pointSize().width() * 1000), 48000);
         const platform::Picture made = service.imageFromCGImageRef(bitmap);
         QCOMPARE(made.size(), QSizeF(200, 150));

@@ -1,5 +1,6 @@
 #include "image/ZtImageHandling.h"
 #include "platform/imageio/image_source.h"
+#include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
 
 #include <QTemporaryDir>
@@ -9,7 +10,7 @@ using platform::ImageSource;
 using platform::Metadata;
 
 namespace {
-const QString camera = QStringLiteral(QUORLIN_TEST_CORPUS "/exif-real/canon_hdr_NO.jpg");
+const QString camera = corpusPath("exif-real/canon_hdr_NO.jpg");
 
 Metadata metadataOf(const QString &path)
 {
@@ -108,8 +109,7 @@ private Q_SLOTS:
     void carryTheResolutionOfAPngIntoATiff()
     {
         ZtImageHandling service;
-        service.resizeImage(QStringLiteral(QUORLIN_TEST_CORPUS "/dpi/phys-144dpi.png"), 50, 3, out(),
-                            QStringLiteral("public.tiff"), {});
+        service.resizeImage(corpusPath("dpi/phys-144dpi.png"), 50, 3, out(), QStringLiteral("public.tiff"), {});
         const auto written = ImageSource::open(out() + QStringLiteral("phys-144dpi.tiff"))->decode();
         QVERIFY(std::abs(written->horizontalDpi() - 144) < 0.1);
     }

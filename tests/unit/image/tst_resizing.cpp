@@ -1,4 +1,5 @@
 #include "image/ZtImageHandling.h"
+#include "tests/support/corpus.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/test_pictures.h"
 
@@ -169,7 +170,7 @@ private Q_SLOTS:
     void answersOkWithoutAFileForASourceItCannotRead_data()
     {
         QTest::addColumn<QString>("path");
-        const QString corpus = QStringLiteral(QUORLIN_TEST_CORPUS "/broken/");
+        const QString corpus = corpusPath("broken/");
         for (const char *name :
              {"zero-byte.jpg", "text-named.jpg", "truncated-real-camera.jpg", "truncated.gif", "truncated_image.png",
               "bomb-60000x60000.png", "bomb-100000x100000.tif", "bomb-30000x30000.bmp", "17000x17000.avif",
@@ -251,8 +252,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         for (int orientation = 1; orientation <= 8; ++orientation)
-            QTest::addRow("%d", orientation)
-                << QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/landscape_%1.jpg").arg(orientation);
+            QTest::addRow("%d", orientation) << corpusPath("orientation/landscape_%1.jpg").arg(orientation);
     }
 
     void readsUpright()
@@ -261,7 +261,7 @@ private Q_SLOTS:
         ZtImageHandling service;
         QCOMPARE(service.hGetPixelSize(path), QStringLiteral("600x450px"));
         QCOMPARE(service.resizeImage(path, 60, 0, m_out + QStringLiteral("turned-"), png, {}), ok);
-        service.resizeImage(QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/landscape_2.jpg"), 60, 0, m_out, png, {});
+        service.resizeImage(corpusPath("orientation/landscape_2.jpg"), 60, 0, m_out, png, {});
         const QStringList turned = written().filter(QStringLiteral("turned-"));
         QCOMPARE(turned.size(), 1);
         const platform::Bitmap one = Picture::fromFile(m_out + turned.first()).bitmap();
@@ -279,8 +279,7 @@ private Q_SLOTS:
     {
         ZtImageHandling service;
         QCOMPARE(service.hGetPixelSize(m_folder.filePath(QStringLiteral("missing.jpg"))), QStringLiteral("0x0px"));
-        QCOMPARE(service.hGetPixelSize(QStringLiteral(QUORLIN_TEST_CORPUS "/broken/zero-byte.jpg")),
-                 QStringLiteral("0x0px"));
+        QCOMPARE(service.hGetPixelSize(corpusPath("broken/zero-byte.jpg")), QStringLiteral("0x0px"));
         QVERIFY(
             service.hNSURLtoCIImage(QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("missing.jpg")))).isNull());
     }

@@ -1,5 +1,6 @@
 #include "image/round_corners.h"
 #include "platform/graphics/picture.h"
+#include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
 
@@ -41,7 +42,7 @@ Bitmap gradient(int width, int height, QImage::Format format = QImage::Format_RG
 
 Bitmap picture(const char *name)
 {
-    return platform::Picture::fromFile(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromUtf8(name)).bitmap();
+    return platform::Picture::fromFile(corpusPath(name)).bitmap();
 }
 
 Pixel opaque(Pixel pixel)

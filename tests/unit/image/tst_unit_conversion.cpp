@@ -2,6 +2,7 @@
 #include "image/unit_conversion.h"
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
+#include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/test_pictures.h"
@@ -225,7 +226,7 @@ private Q_SLOTS:
         for (const expected::Row &row : expected::rows(QStringLiteral("broken/")))
             QVERIFY(
                 std::isfinite(conversion.convertXtoPixel(row.path, QStringLiteral("pixel"), QStringLiteral("cm"), 3)));
-        QCOMPARE(conversion.getPictureDPI(QStringLiteral(QUORLIN_TEST_CORPUS "/broken/zero-byte.jpg")), 0.0F);
+        QCOMPARE(conversion.getPictureDPI(corpusPath("broken/zero-byte.jpg")), 0.0F);
         QCOMPARE(log.text(), QByteArray());
     }
 };

@@ -1,6 +1,8 @@
 #include "platform/imageio/container_properties.h"
 #include "platform/imageio/image_source.h"
 
+#include "tests/support/corpus.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QImage>
@@ -15,7 +17,7 @@ namespace {
 
 QString corpus(const char *name)
 {
-    return QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromLatin1(name);
+    return corpusPath(name);
 }
 
 QVariantMap groupOf(QByteArray bytes, const char *name)

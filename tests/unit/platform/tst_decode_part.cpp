@@ -1,4 +1,5 @@
 #include "platform/imageio/image_source.h"
+#include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 
 #include <QRandomGenerator>
@@ -48,7 +49,7 @@ private Q_SLOTS:
 
     void isTheWholeForALargerPart()
     {
-        const auto source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/dpi/jfif-72dpi.jpg"));
+        const auto source = ImageSource::open(corpusPath("dpi/jfif-72dpi.jpg"));
         QVERIFY(source);
         const auto part = source->decodePart(QRect(-100, -100, 2000, 2000));
         QVERIFY(part);
@@ -57,7 +58,7 @@ private Q_SLOTS:
 
     void failsWhereNothingIsLeft()
     {
-        const auto source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/dpi/jfif-72dpi.jpg"));
+        const auto source = ImageSource::open(corpusPath("dpi/jfif-72dpi.jpg"));
         QVERIFY(source);
         for (const QRect &part : {QRect(), QRect(200, 0, 10, 10), QRect(0, -10, 10, 10), QRect(5, 5, 0, 3)}) {
             const auto decoded = source->decodePart(part);

@@ -1,5 +1,6 @@
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
+#include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
 
@@ -17,8 +18,7 @@ namespace {
 
 Bitmap corpusBitmap(const char *name)
 {
-    const Result<ImageSource> source =
-        ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromUtf8(name));
+    const Result<ImageSource> source = ImageSource::open(corpusPath(name));
     return source ? source->decode().value_or(Bitmap()) : Bitmap();
 }
 

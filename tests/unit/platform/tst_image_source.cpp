@@ -1,4 +1,5 @@
 #include "platform/imageio/image_source.h"
+#include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
 
@@ -103,7 +104,7 @@ private Q_SLOTS:
 
     void readsStoredAndUprightPixels()
     {
-        const QString path = QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/portrait_6.jpg");
+        const QString path = corpusPath("orientation/portrait_6.jpg");
         const Result<ImageSource> source = ImageSource::open(path);
         QVERIFY(source.has_value());
         platform::DecodeOptions asStored;
@@ -143,7 +144,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(int, code);
-        const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/broken/") + name);
+        const Result<ImageSource> source = ImageSource::open(corpusPath("broken/") + name);
         QVERIFY(!source.has_value());
         QCOMPARE(int(source.error().code), code);
         QVERIFY(source.error().message.contains(name));
@@ -160,7 +161,7 @@ private Q_SLOTS:
     void refusesEveryCutOfAPicture()
     {
         QFETCH(QString, name);
-        const QByteArray whole = pictures::bytesOf(QStringLiteral(QUORLIN_TEST_CORPUS "/") + name);
+        const QByteArray whole = pictures::bytesOf(corpusPath(name));
         QVERIFY(whole.size() > 100);
         for (const double share : {0.0, 0.01, 0.1, 0.3, 0.5, 0.7}) {
             const Result<ImageSource> source =
@@ -171,13 +172,11 @@ private Q_SLOTS:
 
     void namesOnlyItsOwnFileInAnError()
     {
-        const Result<ImageSource> phone =
-            ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/formats/IMG_5195.HEIC"));
+        const Result<ImageSource> phone = ImageSource::open(corpusPath("formats/IMG_5195.HEIC"));
         QVERIFY(phone && phone->decode());
         for (const char *name : {"formats/00r1_graya_la.jp2", "broken/2018-01-09-exiv2-crash-001.tiff",
                                  "broken/decompression_bomb.gif", "broken/libpng-huge_IDAT.png"}) {
-            const Result<ImageSource> broken =
-                ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromLatin1(name));
+            const Result<ImageSource> broken = ImageSource::open(corpusPath(name));
             const Result<Bitmap> bitmap = broken ? broken->decode() : tl::make_unexpected(broken.error());
             QVERIFY(!bitmap);
             QVERIFY2(!bitmap.error().message.contains(QStringLiteral("IMG_5195")), qPrintable(bitmap.error().message));
@@ -186,8 +185,7 @@ private Q_SLOTS:
 
     void refusesAnImageThatIsNotThere()
     {
-        const Result<ImageSource> source =
-            ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/formats/g4-multi.tiff"));
+        const Result<ImageSource> source = ImageSource::open(corpusPath("formats/g4-multi.tiff"));
         QVERIFY(source.has_value());
         platform::DecodeOptions options;
         for (const int index : {-1, 3, 1000}) {
@@ -214,7 +212,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(QSize, size);
-        const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + name);
+        const Result<ImageSource> source = ImageSource::open(corpusPath(name));
         QVERIFY(source.has_value());
         const Result<Bitmap> scaled = source->decodeScaled(size);
         QVERIFY2(scaled.has_value(), scaled ? "" : qPrintable(scaled.error().message));
@@ -231,7 +229,7 @@ private Q_SLOTS:
     void keepsTheProfileThroughScaling()
     {
         QFETCH(QString, name);
-        const Result<ImageSource> source = ImageSource::open(QStringLiteral(QUORLIN_TEST_CORPUS "/") + name);
+        const Result<ImageSource> source = ImageSource::open(corpusPath(name));
         const QByteArray profile = source->decode().value_or(Bitmap()).iccProfile();
         QCOMPARE(profile.mid(36, 4), QByteArray("acsp"));
         for (const int width : {50, 100, 300})

@@ -3,6 +3,8 @@
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/metadata.h"
 
+#include "tests/support/corpus.h"
+
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -20,7 +22,7 @@ namespace {
 
 QString corpus(const QString &name)
 {
-    return QStringLiteral(QUORLIN_TEST_CORPUS "/") + name;
+    return corpusPath(name);
 }
 
 QByteArray contentOf(const QString &path)

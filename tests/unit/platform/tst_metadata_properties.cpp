@@ -1,5 +1,6 @@
 #include "platform/foundation/atomic_file.h"
 #include "platform/imageio/metadata.h"
+#include "tests/support/corpus.h"
 #include "tests/support/same_tags.h"
 
 #include <QBuffer>
@@ -22,7 +23,7 @@ namespace {
 
 QString corpus(const QString &name)
 {
-    return QStringLiteral(QUORLIN_TEST_CORPUS "/") + name;
+    return corpusPath(name);
 }
 
 QVariantMap group(const QVariantMap &properties, const char *name)

@@ -1,6 +1,7 @@
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/metadata.h"
 #include "platform/imageio/orientation_mark.h"
+#include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
 
 #include <QTemporaryDir>
@@ -12,7 +13,7 @@ namespace {
 
 QString corpus(const QString &name)
 {
-    return QStringLiteral(QUORLIN_TEST_CORPUS "/orientation/") + name;
+    return corpusPath("orientation/") + name;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/picture_facts.h"
+#include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
 
@@ -261,7 +262,7 @@ private Q_SLOTS:
     void agreesWithTheReaderOfAllMetadata()
     {
         int dated = 0;
-        QDirIterator files(QStringLiteral(QUORLIN_TEST_CORPUS), QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator files(corpusFolder(), QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString path = files.next();
             const auto source = platform::ImageSource::open(path);
@@ -285,7 +286,7 @@ private Q_SLOTS:
             QVERIFY2(camera.isEmpty() || facts.camera == camera, qPrintable(path + QLatin1Char(' ') + facts.camera));
             dated += taken.isValid() ? 1 : 0;
         }
-        if (!QFileInfo::exists(QStringLiteral(QUORLIN_TEST_CORPUS)))
+        if (!QFileInfo::exists(corpusFolder()))
             QSKIP("The shared pictures are not here");
         QVERIFY(dated >= 15);
     }

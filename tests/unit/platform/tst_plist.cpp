@@ -1,6 +1,8 @@
 #include "platform/foundation/plist.h"
 #include "platform/foundation/plist_check.h"
 
+#include "tests/support/corpus.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -15,7 +17,7 @@ const std::initializer_list<const char *> corpusKeys = {
 
 QByteArray corpusFile(const QString &name)
 {
-    QFile file(QStringLiteral(QUORLIN_TEST_CORPUS "/plist/") + name);
+    QFile file(corpusPath("plist/") + name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -284,7 +286,7 @@ void TestPlist::endsAtTheBounds()
 void TestPlist::survivesDamage_data()
 {
     QTest::addColumn<QByteArray>("file");
-    const QDir folder(QStringLiteral(QUORLIN_TEST_CORPUS "/plist"));
+    const QDir folder(corpusPath("plist"));
     for (const QString &name : folder.entryList(QDir::Files))
         QTest::newRow(qPrintable(name)) << corpusFile(name);
     QTest::newRow("nested") << nested(5, 3);

@@ -1,4 +1,5 @@
 #include "platform/desktop/trash.h"
+#include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
 
 #include <QDateTime>
@@ -12,7 +13,7 @@ namespace {
 /** Every name that is handed to people who make file names up, one a line with escapes for what a line cannot hold. */
 QStringList oddNames()
 {
-    QFile file(QStringLiteral(QUORLIN_TEST_CORPUS "/names/names.txt"));
+    QFile file(corpusPath("names/names.txt"));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QStringList names = QString::fromUtf8(file.readAll()).split(u'\n');

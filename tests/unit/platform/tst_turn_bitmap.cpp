@@ -1,6 +1,7 @@
 #include "platform/graphics/turn.h"
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
+#include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
 
 #include <QTest>
@@ -213,7 +214,7 @@ private Q_SLOTS:
     void keepsColoursOfEveryKind()
     {
         QFETCH(QString, name);
-        const QString path = QStringLiteral(QUORLIN_TEST_CORPUS "/formats/") + name;
+        const QString path = corpusPath("formats/") + name;
         if (!QFile::exists(path))
             QSKIP("the shared pictures are not here");
         const Bitmap source = platform::ImageSource::open(path)->decode().value_or(Bitmap());

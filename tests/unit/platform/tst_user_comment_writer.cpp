@@ -1,5 +1,6 @@
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/user_comment_writer.h"
+#include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
 
@@ -27,7 +28,7 @@ QByteArray encoded(const char *format, int width = 24, int height = 16)
 
 QByteArray corpusFile(const char *name)
 {
-    return pictures::bytesOf(QStringLiteral(QUORLIN_TEST_CORPUS "/") + QString::fromUtf8(name));
+    return pictures::bytesOf(corpusPath(name));
 }
 
 QString commentOf(const QString &path)
