@@ -11,6 +11,7 @@
 #include "app/window/folder_tree.h"
 #include "app/window/log_table.h"
 #include "app/window/manual_view.h"
+#include "app/window/number_box.h"
 #include "app/window/page_list.h"
 #include "app/window/picture_table.h"
 #include "app/window/position_pad.h"
@@ -53,6 +54,7 @@ const QHash<QString, Maker> &makers()
         {QStringLiteral("PositionPad"), made<PositionPad>},
         {QStringLiteral("PropertyTree"), made<PropertyTree>},
         {QStringLiteral("QComboBox"), made<ComboBox>},
+        {QStringLiteral("QDoubleSpinBox"), made<NumberBox>},
         {QStringLiteral("RunList"), made<RunList>},
         {QStringLiteral("SearchMenu"), made<SearchMenu>},
         {QStringLiteral("SegmentedControl"), made<SegmentedControl>},

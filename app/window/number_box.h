@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDoubleSpinBox>
+
+namespace window {
+
+/**
+ * A field for numbers with decimals that leaves alone what a person is typing.
+ *
+ * Every key that makes a number tells the pane, and the pane writes its settings back into its fields. The value that the
+ * field has already is therefore not written again, since "12." would become "12" before the next digit. Both the point and
+ * the comma are the decimal point of the reader's language: nobody types a separator of thousands, and 12.5 read as 125
+ * would be worse than a beep.
+ */
+class NumberBox : public QDoubleSpinBox
+{
+    Q_OBJECT
+    Q_PROPERTY(double value READ value WRITE showValue USER true)
+    Q_PROPERTY(int decimals READ decimals WRITE showDecimals)
+    Q_PROPERTY(QString suffix READ suffix WRITE showSuffix)
+
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+    void showValue(double value);
+    void showDecimals(int decimals);
+    void showSuffix(const QString &suffix);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+};
+
+} // namespace window
