@@ -53,7 +53,7 @@ QString renamedTo(const QString &name, const QString &extension, const QString &
     if (name.isEmpty())
         return name;
     const bool hasBefore = !before.isEmpty() && withAllowedExtension(name, {before}) == name;
-    return (hasBefore ? platform::baseName(name) : name) + u'.' + extension;
+    return hasBefore ? platform::baseName(name) + u'.' + extension : withAllowedExtension(name, {extension});
 }
 
 SaveDialog::SaveDialog(const platform::PanelRequest &request, QWidget *parent)

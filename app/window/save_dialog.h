@@ -51,7 +51,10 @@ private:
 /** The path with the extension of the first type behind it, unless it has one that means any of the types. */
 QString withAllowedExtension(const QString &path, const QStringList &types);
 
-/** A file name with @p extension in the place of one that means the type @p before; any other stays part of the name. */
+/**
+ * A file name with @p extension in the place of one that means the type @p before; any other stays part of the name. Without
+ * @p before, a name that has an extension of the type already keeps it.
+ */
 QString renamedTo(const QString &name, const QString &extension, const QString &before);
 
 } // namespace window

@@ -284,6 +284,34 @@ private Q_SLOTS:
         QTEST(window::withAllowedExtension(path, {types}), "result");
     }
 
+    void offersNamesWithOneExtension_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("extension");
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("result");
+        const auto row = [](const char *name, const char *extension, const char *before, const char *result) {
+            QTest::addRow("%s to %s", name, extension) << QString::fromUtf8(name) << QString::fromUtf8(extension)
+                                                       << QString::fromUtf8(before) << QString::fromUtf8(result);
+        };
+        row("Report.csv", "csv", "", "Report.csv");
+        row("Report.CSV", "csv", "", "Report.CSV");
+        row("Client A.c-action", "c-action", "", "Client A.c-action");
+        row("Client v1.2", "c-action", "", "Client v1.2.c-action");
+        row("a.b", "png", "", "a.b.png");
+        row("a.png", "jpeg", "png", "a.jpeg");
+        row("a.jpg", "png", "jpeg", "a.png");
+        row("", "png", "", "");
+    }
+
+    void offersNamesWithOneExtension()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, extension);
+        QFETCH(QString, before);
+        QTEST(window::renamedTo(name, extension, before), "result");
+    }
+
 private:
     void save(const std::function<void(window::SaveDialog &)> &work)
     {
