@@ -48,6 +48,23 @@ export function converted(value, from, to, dpi) {
     return Math.round(result * factor) / factor;
 }
 
+/** Remembers each length as it was typed, with its unit, for as long as nobody changes what was made of it. */
+export class UnitMemory {
+    constructor() {
+        this.lengths = Object.create(null);
+    }
+
+    /** The length that shows @p value, in @p from, in the unit @p to. */
+    inUnit(field, value, from, to, dpi) {
+        const known = this.lengths[field];
+        const length = known !== undefined && known.shown === value && known.shownUnit === from ? known : { value: value, unit: from };
+        length.shown = to === length.unit ? length.value : converted(length.value, length.unit, to, dpi);
+        length.shownUnit = to;
+        this.lengths[field] = length;
+        return length.shown;
+    }
+}
+
 /** A copy of the settings in which the named lengths are whole pixels of the picture. */
 export function inPixels(photo, settings, fields, services) {
     const result = Object.assign({}, settings);

@@ -3,7 +3,7 @@
 
 import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
-import { converted, decimalsOf, dpiOf, PIXEL, UNITS, unitSign } from "../lib/measure.js";
+import { decimalsOf, dpiOf, PIXEL, UNITS, unitSign, UnitMemory } from "../lib/measure.js";
 import { pixels } from "../lib/wording.js";
 
 // Where no picture says otherwise.
@@ -103,14 +103,17 @@ export class Pane {
         this.form.control(name).activated.connect(guard(name, () => this.set(field, this.form.value(name))));
     }
 
-    /** The menu of units, for the settings that are lengths; a length stays about as long when the unit changes. */
+    /**
+     * The menu of units, for the settings that are lengths. A length stays about as long when the unit changes, and is what
+     * it was when its own unit comes back: converting there and back would take 1600 px for 1599.
+     */
     units(name, lengths) {
         this.form.setItems(name, UNITS.map((unit) => unitSign(unit)), UNITS);
+        const typed = new UnitMemory();
         this.form.control(name).activated.connect(guard(name, () => {
             const unit = this.form.value(name);
-            const dpi = this.dpi;
             lengths.forEach((field) => {
-                this.settings[field] = converted(this.settings[field], this.settings.unit, unit, dpi);
+                this.settings[field] = typed.inUnit(field, this.settings[field], this.settings.unit, unit, this.dpi);
             });
             this.set("unit", unit);
         }));

@@ -1,4 +1,4 @@
-import { converted, decimalsOf, inPixels, toPixels, UNITS } from "../../interface/lib/measure.js";
+import { converted, decimalsOf, inPixels, toPixels, UnitMemory, UNITS } from "../../interface/lib/measure.js";
 import * as resize from "../../interface/steps/resize.js";
 import { equal, finish, test } from "./check.js";
 import { fakeServices, photo, settingsOf } from "./fakes.js";
@@ -22,6 +22,19 @@ const LENGTHS = [[300, "pixel", "inch", 300, 1], [1, "inch", "cm", 300, 2.54], [
 for (const row of LENGTHS) {
     test("shows " + row[0] + " " + row[1] + " in " + row[2], () => { equal(converted(row[0], row[1], row[2], row[3]), row[4]); });
 }
+
+test("aTypedLengthComesBackWithItsUnit", () => {
+    const lengths = new UnitMemory();
+    const inCm = lengths.inUnit("width", 1600, "pixel", "cm", 72);
+    equal([inCm, lengths.inUnit("width", inCm, "cm", "mm", 72)], [56.44, 564.4]);
+    equal(lengths.inUnit("width", 564.4, "mm", "pixel", 72), 1600);
+});
+
+test("aLengthThatWasChangedIsTheNewOne", () => {
+    const lengths = new UnitMemory();
+    lengths.inUnit("width", 1600, "pixel", "cm", 72);
+    equal([lengths.inUnit("width", 50, "cm", "pixel", 72), lengths.inUnit("width", 1417, "pixel", "cm", 72)], [1417, 50]);
+});
 
 test("everyUnitHasItsDecimals", () => {
     equal(UNITS.map((unit) => decimalsOf(unit)), [0, 1, 2, 2, 1, 0]);
