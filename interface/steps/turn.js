@@ -9,7 +9,7 @@ import { outcome, outputMessages, ready, refused, targetOf } from "../lib/writte
 
 /** What a new pane shows. The angle is in degrees, counter-clockwise, in tenths. */
 export const defaults = {
-    angle: 90, flipHorizontal: false, flipVertical: false,
+    angle: 0, flipHorizontal: false, flipVertical: false,
     output: {
         fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: qsTr("Turned"), path: "" },
         ifTaken: "number", simulation: false,

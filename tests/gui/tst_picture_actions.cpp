@@ -13,6 +13,7 @@
 #include "tests/support/corpus.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDir>
 #include <QDoubleSpinBox>
@@ -198,6 +199,38 @@ private Q_SLOTS:
             const auto is = after.bitmap().pixel(h - 1 - point.y(), w - 1 - point.x());
             for (size_t i = 0; i < 3; ++i)
                 QVERIFY2(qAbs(int(was.at(i)) - int(is.at(i))) < 28, qPrintable(name));
+        }
+    }
+
+    void nothingIsTurnedBeforeAnAngleIsChosen()
+    {
+        save("a.png", quarters({100, 100}));
+        m_driver->drop({m_pictures});
+        m_driver->show("turn");
+        QCOMPARE(m_driver->control<QDoubleSpinBox>("angle")->value(), 0.0);
+        QVERIFY(!m_driver->control<QAbstractButton>("startButton")->isEnabled());
+        m_driver->click("turnHalf");
+        QCOMPARE(m_driver->control<QDoubleSpinBox>("angle")->value(), 180.0);
+    }
+
+    void aTickIsSeenWhileTheBoxIsDisabled()
+    {
+        save("a.png", quarters({100, 100}));
+        m_driver->drop({m_pictures});
+        for (const char *appearance : {"lightAppearanceAction", "darkAppearanceAction"}) {
+            m_driver->trigger(appearance);
+            auto *box = m_driver->control<QCheckBox>("neverEnlarge");
+            box->setEnabled(false);
+            box->setChecked(true);
+            const QImage ticked = box->grab().toImage();
+            box->setChecked(false);
+            const QImage empty = box->grab().toImage();
+            int differing = 0;
+            for (int y = 0; y < ticked.height(); ++y)
+                for (int x = 0; x < ticked.width(); ++x)
+                    differing += qAbs(qGray(ticked.pixel(x, y)) - qGray(empty.pixel(x, y))) > 60;
+            QVERIFY2(differing > 10, appearance);
+            box->setEnabled(true);
         }
     }
 
@@ -419,6 +452,7 @@ private Q_SLOTS:
         save("a.png", quarters({400, 300}));
         m_driver->drop({m_pictures});
         m_driver->show("turn");
+        m_driver->click("turnLeft");
         QCOMPARE(m_driver->pictures().count(), 1);
         QVERIFY(m_driver->waitFor(
             [this] { return m_driver->cell(0, PictureModel::NewSize) == QStringLiteral("300×400"); }));
