@@ -10,9 +10,12 @@ namespace platform {
 /**
  * Copies a file, a link or a folder with all that is in it to @p to, which must not be there.
  *
- * Permissions, modification dates and the user's extended attributes go along; what the file system of the target cannot
+ * Permissions, access lists, modification dates and the user's extended attributes go along; what the file system of the target cannot
  * hold of them is left out without a word. Pipes, sockets and devices are refused. On failure a part of the copy is left.
  */
 std::error_code copyTree(const std::filesystem::path &from, const std::filesystem::path &to);
+
+/** Removes a copy, or the beginning of one, with the folders in it that may not be changed because their originals may not. */
+std::error_code discardTree(const std::filesystem::path &copy);
 
 } // namespace platform
