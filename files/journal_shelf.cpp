@@ -21,9 +21,13 @@ QString DiskJournalShelf::path(const QString &name) const
 
 QStringList DiskJournalShelf::names() const
 {
-    QStringList names = QDir(m_folder).entryList({u'*' + ending}, QDir::Files, QDir::Name | QDir::Reversed);
-    for (QString &name : names)
-        name.chop(ending.size());
+    QStringList names;
+    const QDir folder(m_folder);
+    // Not even to look at: a link could lead to a device that has no end.
+    for (const QFileInfo &file :
+         folder.entryInfoList({u'*' + ending}, QDir::Files | QDir::NoSymLinks, QDir::Name | QDir::Reversed))
+        if (file.isFile())
+            names.append(file.fileName().chopped(ending.size()));
     return names;
 }
 

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cerrno>
 
 namespace files {
 namespace {
@@ -27,6 +28,12 @@ DeedOutcome failed(const QString &code, const QString &path)
     return {code, MoveDeeds::sentence(code, path), {}, {}};
 }
 
+/** The standard library has no name for a user's share of the disk being used up. */
+bool isForLackOfRoom(const std::error_code &error)
+{
+    return error == std::errc::no_space_on_device || error == std::error_code(EDQUOT, std::generic_category());
+}
+
 } // namespace
 
 DeedOutcome failureFor(const std::error_code &error, const QString &path, const QString &to)
@@ -38,8 +45,10 @@ DeedOutcome failureFor(const std::error_code &error, const QString &path, const 
     if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
         error == std::errc::read_only_file_system)
         return failed(QStringLiteral("locked"), path);
-    if (error == std::errc::no_space_on_device)
+    if (isForLackOfRoom(error))
         return failed(QStringLiteral("full"), path);
+    if (error == std::errc::invalid_argument)
+        return failed(QStringLiteral("illegal"), to);
     if (error == std::errc::filename_too_long)
         return failed(QStringLiteral("long"), to);
     DeedOutcome other;
@@ -64,6 +73,10 @@ QString MoveDeeds::sentence(const QString &code, const QString &path)
         return said(QT_TRANSLATE_NOOP("files", "There is no room left on the disk for %1"), name);
     if (code == QStringLiteral("long"))
         return said(QT_TRANSLATE_NOOP("files", "The name %1 is too long for this disk"), name);
+    if (code == QStringLiteral("illegal"))
+        return said(QT_TRANSLATE_NOOP("files", "The name %1 cannot be used on this disk"), name);
+    if (code == QStringLiteral("original"))
+        return said(QT_TRANSLATE_NOOP("files", "%1 is the original itself by now, no copy of it"), name);
     if (code == QStringLiteral("inside"))
         return said(QT_TRANSLATE_NOOP("files", "The folder %1 cannot go into itself"), name);
     if (code == QStringLiteral("circle"))
@@ -101,9 +114,9 @@ DeedOutcome MoveDeeds::carryOut(int index, const MoveItem &item, const QString &
     case Deed::Trash:
         return trashed(source);
     case Deed::RemoveCopy:
-        return copyRemoved(index, item);
+        return copyRemoved(item);
     case Deed::RemoveLink:
-        return linkRemoved(item);
+        return linkRemoved(index, item);
     case Deed::Restore:
         return restored(item);
     case Deed::Link:
@@ -147,7 +160,23 @@ DeedOutcome MoveDeeds::move(int index, const QString &from, const QString &to)
         return done(to);
     if (error == std::errc::cross_device_link)
         return movedToOtherDisk(index, from, to);
-    return error == std::errc::invalid_argument ? failed(QStringLiteral("inside"), from) : failureFor(error, from, to);
+    return error == std::errc::invalid_argument && isInside(parentFolder(to), from)
+               ? failed(QStringLiteral("inside"), from)
+               : failureFor(error, from, to);
+}
+
+/** By identity, so that another road to a folder, such as a second mount of its disk, is seen through. */
+bool MoveDeeds::isInside(const QString &folder, const QString &item) const
+{
+    const auto outer = m_disk.look(item);
+    for (QString inner = m_disk.canonicalFolder(folder); outer && !inner.isEmpty(); inner = parentFolder(inner)) {
+        const auto state = m_disk.look(inner);
+        if (state && isOneItem(*state, *outer))
+            return true;
+        if (inner.size() < 2)
+            break;
+    }
+    return false;
 }
 
 /** On a disk that does not tell cases apart, the new name seems to be taken by the item itself. */
@@ -159,7 +188,7 @@ bool MoveDeeds::isSameUnderOtherCase(const QString &from, const QString &to) con
         return false;
     const auto one = m_disk.look(from);
     const auto other = m_disk.look(to);
-    const auto entries = m_disk.list(folder);
+    const auto entries = m_disk.list(m_disk.canonicalFolder(folder));
     return one && other && entries && isSameItem(*one, *other) &&
            std::none_of(entries->begin(), entries->end(),
                         [&](const platform::FolderEntry &entry) { return entry.name == name; });
@@ -184,12 +213,14 @@ DeedOutcome MoveDeeds::copied(int index, const QString &from, const QString &to)
         return made;
     if (m_disk.look(to))
         return failed(QStringLiteral("taken"), to);
+    if (isInside(parentFolder(to), from))
+        return failed(QStringLiteral("inside"), from);
     const QString part = partPath(m_run, index, to);
     discard(part);
     DeedOutcome outcome;
     if (const std::error_code error = m_disk.copy(from, part))
         outcome = failureFor(error, from, to);
-    else if (!m_disk.haveSameContent(from, part))
+    else if (!m_disk.haveSameContent(from, part) && m_disk.look(from))
         outcome = failed(QStringLiteral("damaged"), from);
     else if (const auto state = m_disk.look(part); !state)
         outcome = failed(QStringLiteral("damaged"), from);
@@ -201,75 +232,116 @@ DeedOutcome MoveDeeds::copied(int index, const QString &from, const QString &to)
         discard(part);
         return outcome;
     }
-    m_disk.settle(parentFolder(to));
+    settleWayTo(to);
     return done(to);
+}
+
+/** A name is on the disk only when the names of all the new folders above it are. */
+void MoveDeeds::settleWayTo(const QString &path)
+{
+    m_disk.settle(parentFolder(path));
+    const auto isAbove = [&](const QString &folder) { return path.startsWith(folder + u'/'); };
+    for (const QString &folder : m_newFolders)
+        if (isAbove(folder))
+            m_disk.settle(parentFolder(folder));
+    m_newFolders.removeIf(isAbove);
 }
 
 void MoveDeeds::discard(const QString &path)
 {
-    if (m_disk.look(path) && m_disk.remove(path))
+    if (m_disk.look(path) && m_disk.discard(path))
         m_hasLeftOver = true;
 }
 
 DeedOutcome MoveDeeds::movedToOtherDisk(int index, const QString &from, const QString &to)
 {
+    if (!m_disk.mayBeTakenAway(from))
+        return failed(QStringLiteral("locked"), from);
     const auto before = m_disk.look(from);
     DeedOutcome outcome = copied(index, from, to);
     if (!outcome.code.isEmpty())
         return outcome;
     const auto after = m_disk.look(from);
-    if (!before || !after || !isUnchanged(*before, *after))
+    if (!after)
+        return outcome; // somebody has taken the source away: this is the last that is left of it
+    if (!before || !isUnchanged(*before, *after))
         return withoutCopy(index, failed(QStringLiteral("changed"), from), from, outcome);
-    const std::error_code error = removeWhole(index, from, to);
-    if (!error)
+    const Removal removal = removeWhole(index, from, to);
+    if (!removal.error || !m_disk.look(removal.path))
         return outcome;
-    if (error == std::errc::device_or_resource_busy)
-        return withoutCopy(index, failed(QStringLiteral("changed"), from), from, outcome);
-    if (before->kind == ItemKind::File || m_disk.haveSameContent(from, to))
-        return withoutCopy(index, failureFor(error, from, to), from, outcome);
-    // Part of it is gone, so the whole copy stays too.
-    outcome.message = QStringLiteral("A part of %1 could not be removed and is still there").arg(from);
+    DeedOutcome why = failureFor(removal.error, from, to);
+    if (removal.error == std::errc::device_or_resource_busy)
+        why = failed(QStringLiteral("changed"), from);
+    if (removal.path != from)
+        why.path = removal.path;
+    if (removal.isWhole)
+        return withoutCopy(index, why, removal.path, outcome);
+    outcome.message =
+        QCoreApplication::translate("files", "A part of %1 could not be removed and is still there").arg(removal.path);
     return outcome;
 }
 
-/** Takes a copy away again whose source has to stay, unless somebody has put something into it. */
-DeedOutcome MoveDeeds::withoutCopy(int index, DeedOutcome why, const QString &from, const DeedOutcome &copy)
+/**
+ * Takes a copy away again whose source has to stay, unless somebody has put something into it. It is put aside first and the source
+ * looked for once more after that, so that two who give way to each other do not both take theirs away.
+ */
+DeedOutcome MoveDeeds::withoutCopy(int index, DeedOutcome why, const QString &source, const DeedOutcome &copy)
 {
     const QString part = partPath(m_run, index, copy.path);
     if (m_disk.rename(copy.path, part)) {
-        m_hasLeftOver = true;
+        m_hasLeftOver = m_hasLeftOver || m_disk.look(copy.path);
         return why;
     }
     const auto state = m_disk.look(part);
     const bool isFolder = state && state->kind == ItemKind::Folder;
     const bool isOurs =
-        isFolder ? m_disk.haveSameContent(from, part) : state && copy.is && isUnchanged(*state, *copy.is);
-    if (isOurs)
+        isFolder ? m_disk.haveSameContent(source, part) : state && copy.is && isUnchanged(*state, *copy.is);
+    if (isOurs && m_disk.look(source)) {
         discard(part);
-    else if (m_disk.rename(part, copy.path))
-        m_hasLeftOver = true;
-    else
-        why.message += QStringLiteral("; a copy is at %1").arg(copy.path);
+        return why;
+    }
+    const QString place = putBack(part, copy.path);
+    m_hasLeftOver = m_hasLeftOver || place == part;
+    if (!m_disk.look(source))
+        return done(place);
+    why.message = QCoreApplication::translate("files", "%1; a copy is at %2").arg(why.message, place);
     return why;
 }
 
-/** A folder leaves its place in one step and goes only if nothing came into it since it was copied. */
-std::error_code MoveDeeds::removeWhole(int index, const QString &path, const QString &copy)
+/** What is removed leaves its place in one step and goes only if it is still what was copied. */
+MoveDeeds::Removal MoveDeeds::removeWhole(int index, const QString &path, const QString &copy)
 {
-    const auto state = m_disk.look(path);
-    if (!state || state->kind != ItemKind::Folder)
-        return m_disk.remove(path);
     const QString aside = asidePath(m_run, index, {Deed::Move, path, {}});
-    if (path == aside)
-        return m_disk.remove(path);
-    if (const std::error_code error = m_disk.rename(path, aside))
-        return error;
-    const bool isSame = m_disk.haveSameContent(aside, copy);
-    const std::error_code error =
-        isSame ? m_disk.remove(aside) : std::make_error_code(std::errc::device_or_resource_busy);
-    if (error && m_disk.rename(aside, path))
-        m_hasLeftOver = true;
-    return error;
+    if (path != aside)
+        if (const std::error_code error = m_disk.rename(path, aside))
+            return {error, path, true};
+    std::error_code error = std::make_error_code(std::errc::device_or_resource_busy);
+    if (m_disk.haveSameContent(aside, copy))
+        error = m_disk.remove(aside);
+    if (!error)
+        return {};
+    const bool isWhole = error == std::errc::device_or_resource_busy || m_disk.haveSameContent(aside, copy);
+    return {error, path == aside ? aside : putBack(aside, path), isWhole};
+}
+
+QString MoveDeeds::putBack(const QString &aside, const QString &path)
+{
+    constexpr int mostNumbers = 1000;
+    constexpr int mostTries = 10;
+    const auto state = m_disk.look(aside);
+    const NameOf what = state && state->kind == ItemKind::Folder ? NameOf::Folder : NameOf::File;
+    QString place = path;
+    for (int number = 2, tries = 0; number < mostNumbers && tries < mostTries;) {
+        const std::error_code error = m_disk.rename(aside, place);
+        if (!error)
+            return place;
+        if (error == std::errc::file_exists)
+            place = joinedPath(parentFolder(path), numberedName(lastPathComponent(path), number++, what));
+        else
+            ++tries;
+    }
+    m_hasLeftOver = true;
+    return aside;
 }
 
 DeedOutcome MoveDeeds::linked(const MoveItem &item)
@@ -289,24 +361,32 @@ DeedOutcome MoveDeeds::trashed(const QString &path)
     return {QStringLiteral("other"), trashed.error().message, {}, {}};
 }
 
-DeedOutcome MoveDeeds::copyRemoved(int index, const MoveItem &item)
+/** A copy goes into the trash: whatever somebody does to it, or to its original, at the last moment, nothing is lost. */
+DeedOutcome MoveDeeds::copyRemoved(const MoveItem &item)
 {
-    const auto state = m_disk.look(item.from);
-    const bool isUntouched = state && item.was && isUnchanged(*item.was, *state);
-    if (!isUntouched || !m_disk.look(item.to) || !m_disk.haveSameContent(item.from, item.to))
-        return trashed(item.from);
-    if (const std::error_code error = removeWhole(index, item.from, item.to))
-        return failureFor(error, item.from, item.from);
-    return {};
+    const auto copy = m_disk.look(item.from);
+    const auto original = m_disk.look(item.to);
+    if (copy && original && isOneItem(*copy, *original))
+        return failed(QStringLiteral("original"), item.from);
+    return trashed(item.from);
 }
 
-DeedOutcome MoveDeeds::linkRemoved(const MoveItem &item)
+DeedOutcome MoveDeeds::linkRemoved(int index, const MoveItem &item)
 {
+    const QString aside = asidePath(m_run, index, {Deed::Move, item.from, {}});
     if (m_disk.linkText(item.from) != item.to)
         return failed(QStringLiteral("changed"), item.from);
-    if (const std::error_code error = m_disk.remove(item.from))
+    if (const std::error_code error = m_disk.rename(item.from, aside))
         return failureFor(error, item.from, item.from);
-    return {};
+    std::error_code error = std::make_error_code(std::errc::device_or_resource_busy);
+    if (m_disk.linkText(aside) == item.to)
+        error = m_disk.remove(aside);
+    if (!error)
+        return {};
+    DeedOutcome outcome = error == std::errc::device_or_resource_busy ? failed(QStringLiteral("changed"), item.from)
+                                                                      : failureFor(error, item.from, item.from);
+    outcome.path = putBack(aside, item.from);
+    return outcome;
 }
 
 DeedOutcome MoveDeeds::restored(const MoveItem &item)
@@ -329,6 +409,8 @@ DeedOutcome MoveDeeds::madeFolders(const QString &folder)
     if (const QString problem = m_log.noteFolder(folder); !problem.isEmpty())
         return {QStringLiteral("other"), problem, {}, {}};
     const std::error_code error = m_disk.makeFolder(folder);
+    if (!error)
+        m_newFolders.append(folder);
     return error && error != std::errc::file_exists ? failureFor(error, folder, folder) : DeedOutcome();
 }
 

@@ -7,7 +7,8 @@ namespace files {
 /** How the deed on one item went. */
 struct DeedOutcome
 {
-    QString code;    ///< empty: done; else "gone", "changed", "taken", "locked", "full", "long", "inside" or "other"
+    QString
+        code; ///< empty: done; else "gone", "changed", "taken", "locked", "full", "long", "illegal", "inside", "original" or "other"
     QString message; ///< why not, a sentence
     QString path;    ///< where the item is since then; empty if it was removed
     std::optional<platform::ItemState> is = std::nullopt;
@@ -52,6 +53,9 @@ public:
     /** Moves without looking what is moved. */
     DeedOutcome move(int index, const QString &from, const QString &to);
 
+    /** Gives an item its name again that stands aside, or that with a number where it is taken; its path is then answered. */
+    QString putBack(const QString &aside, const QString &path);
+
     /** Whether something under a temporary name could not be taken away. */
     bool hasLeftOver() const { return m_hasLeftOver; }
 
@@ -59,18 +63,27 @@ public:
     static QString sentence(const QString &code, const QString &path);
 
 private:
+    struct Removal
+    {
+        std::error_code error;
+        QString path;        ///< where it is if it could not be removed
+        bool isWhole = true; ///< false: a part of it is gone
+    };
+
     DeedOutcome moved(int index, const MoveItem &item, const QString &source);
     DeedOutcome movedToOtherDisk(int index, const QString &from, const QString &to);
     DeedOutcome copied(int index, const QString &from, const QString &to);
     DeedOutcome linked(const MoveItem &item);
     DeedOutcome trashed(const QString &path);
-    DeedOutcome copyRemoved(int index, const MoveItem &item);
-    DeedOutcome linkRemoved(const MoveItem &item);
+    DeedOutcome copyRemoved(const MoveItem &item);
+    DeedOutcome linkRemoved(int index, const MoveItem &item);
     DeedOutcome restored(const MoveItem &item);
     DeedOutcome renamedInCase(int index, const QString &from, const QString &to);
     void discard(const QString &path);
-    DeedOutcome withoutCopy(int index, DeedOutcome why, const QString &from, const DeedOutcome &copy);
-    std::error_code removeWhole(int index, const QString &path, const QString &copy);
+    DeedOutcome withoutCopy(int index, DeedOutcome why, const QString &source, const DeedOutcome &copy);
+    Removal removeWhole(int index, const QString &path, const QString &copy);
+    void settleWayTo(const QString &path);
+    bool isInside(const QString &folder, const QString &item) const;
     bool isSameUnderOtherCase(const QString &from, const QString &to) const;
     DeedOutcome madeFolders(const QString &folder);
     DeedOutcome done(const QString &path) const;
@@ -79,6 +92,7 @@ private:
     QString m_run;
     DeedLog &m_log;
     bool m_hasLeftOver = false;
+    QStringList m_newFolders; ///< whose names may not be on the disk yet
 };
 
 /** The failure for a system's error that hit the item at @p path on its way to @p to. */

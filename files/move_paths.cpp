@@ -19,7 +19,7 @@ PathsSince::PathsSince(const RunRecord &run) : m_isInTurn(run.isByHand)
         // One that failed may have got a number, when another program took its old name.
         const bool isMoved = record.stand == Stand::Done || (record.stand == Stand::Failed && !record.path.isEmpty() &&
                                                              record.path != record.item.from);
-        if (!isMoved || record.item.deed != Deed::Move || !isFolder)
+        if (!isMoved || !record.isKnown || record.path.isEmpty() || record.item.deed != Deed::Move || !isFolder)
             continue;
         m_at.insert(record.item.from, qsizetype(m_moved.size()));
         m_moved.push_back({record.item.from, record.path, i, record.copied.has_value()});
@@ -45,9 +45,10 @@ bool PathsSince::wasCopied(const QString &path, int index) const
         return std::any_of(m_moved.begin(), m_moved.end(), [&](const Moved &folder) {
             return folder.isCopied && folder.index > index && path.startsWith(folder.from + u'/');
         });
+    size_t steps = 0;
     for (QString folder = parentFolder(path); !m_moved.empty() && folder.size() > 1; folder = parentFolder(folder))
         if (const qsizetype at = m_at.value(folder, -1); at >= 0) {
-            if (m_moved[size_t(at)].isCopied)
+            if (m_moved[size_t(at)].isCopied || ++steps > m_moved.size())
                 return true;
             folder = m_moved[size_t(at)].to;
         }
@@ -63,6 +64,7 @@ QString PathsSince::folderNow(const QString &folder)
         return *known;
     const qsizetype at = m_at.value(folder, -1);
     const QString place = at < 0 ? folder : m_moved[size_t(at)].to;
+    m_known.insert(folder, folder); // for a journal whose folders go round
     const QString now = joinedPath(folderNow(parentFolder(place)), lastPathComponent(place));
     m_known.insert(folder, now);
     return now;

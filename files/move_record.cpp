@@ -3,8 +3,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
+#include <limits>
 #include <string_view>
 
 namespace files {
@@ -21,7 +24,7 @@ template<typename Words> int positionIn(const Words &words, const QJsonValue &wo
     for (size_t i = 0; i < words.size(); ++i)
         if (word.toString() == QLatin1String(words[i]))
             return int(i);
-    return 0;
+    return -1;
 }
 
 QString key(const char *text)
@@ -29,9 +32,45 @@ QString key(const char *text)
     return QString::fromLatin1(text);
 }
 
+/** The sum is the last value of a line, over all that is before it. */
+const QByteArray sumMark = ",\"~\":\"";
+constexpr qsizetype sumDigits = 4;
+
+QByteArray sumOf(QByteArrayView text)
+{
+    return QByteArray::number(qChecksum(text), 16).rightJustified(sumDigits, '0');
+}
+
 QByteArray lineOf(const QJsonObject &object)
 {
-    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    QByteArray text = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    text.chop(1);
+    return text + sumMark + sumOf(text) + "\"}\n";
+}
+
+/** What a line says; nothing where it is damaged. Lines of older journals have no sum. */
+QJsonObject objectIn(QByteArrayView line)
+{
+    const qsizetype textSize = line.size() - sumMark.size() - sumDigits - 2;
+    const bool hasSum = textSize > 0 && line.sliced(textSize, sumMark.size()) == QByteArrayView(sumMark);
+    if (hasSum && line.sliced(textSize + sumMark.size(), sumDigits) != QByteArrayView(sumOf(line.first(textSize))))
+        return {};
+    return QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size())).object();
+}
+
+DamagedLine remainsOf(QByteArrayView line)
+{
+    static const QRegularExpression number(QStringLiteral("\"item\":([0-9]{1,9})\\b"));
+    static const QRegularExpression source(QStringLiteral("\"from\":\"(/[^\"\\\\]+)\""));
+    static const QRegularExpression path(QStringLiteral("\"(/[^\"\\\\]+)\""));
+    const QString text = QString::fromUtf8(line);
+    DamagedLine remains;
+    if (const auto found = number.match(text); found.hasMatch())
+        remains.item = found.captured(1).toInt();
+    remains.from = source.match(text).captured(1);
+    for (auto paths = path.globalMatch(text); paths.hasNext();)
+        remains.paths.append(paths.next().captured(1));
+    return remains;
 }
 
 QJsonObject stateObject(const ItemState &state)
@@ -50,7 +89,8 @@ std::optional<ItemState> stateFrom(const QJsonValue &value)
     if (!value.isObject())
         return std::nullopt;
     ItemState state;
-    state.kind = ItemKind(positionIn(kindWords, value[key("kind")]));
+    const int kind = positionIn(kindWords, value[key("kind")]);
+    state.kind = kind < 0 ? ItemKind::Other : ItemKind(kind);
     state.device = quint64(value[key("device")].toInteger());
     state.inode = quint64(value[key("inode")].toInteger());
     state.bytes = value[key("bytes")].toInteger();
@@ -70,24 +110,68 @@ void insertState(QJsonObject &object, const char *name, const std::optional<Item
 class Reader
 {
 public:
+    explicit Reader(qsizetype journalSize) : m_mostItems(journalSize) {}
+
     RunRecord run;
 
-    void take(const QJsonObject &line)
+    void take(QByteArrayView line)
     {
-        if (line.contains(key("run")))
-            takeHead(line);
-        else if (line.contains(key("steps")))
-            takeSteps(line[key("steps")].toArray());
-        else if (line.contains(key("making")))
-            run.made.append(line[key("making")].toString());
-        else if (line.contains(key("end")))
-            takeEnd(line);
-        else
-            takeItemLine(line);
+        if (line.size() < m_cut.size() && m_cut.startsWith(line))
+            return; // the end of a line that was cut short was itself cut short
+        const QJsonObject object = objectIn(line);
+        if (object.contains(key("cut")) && m_lastWasDamaged) {
+            run.damaged.pop_back();
+            m_lastWasDamaged = false;
+        } else if (!object.contains(key("cut"))) {
+            m_lastWasDamaged = object.isEmpty() || !takeObject(object);
+            if (m_lastWasDamaged)
+                run.damaged.push_back(remainsOf(line));
+        }
+    }
+
+    /** The last line is not whole; it may be the end of one before it that was not whole either. */
+    void takeCut(QByteArrayView rest)
+    {
+        const bool isOfCut = m_lastWasDamaged && rest.size() < m_cut.size() && m_cut.startsWith(rest);
+        if (isOfCut)
+            run.damaged.pop_back();
+        run.isWhole = rest.isEmpty() && !isOfCut;
+    }
+
+    RunRecord whole()
+    {
+        const int count = int(run.items.size());
+        const auto isWrong = [&](const MoveStep &step) { return step.item < 0 || step.item >= count; };
+        const auto kept = std::remove_if(run.steps.begin(), run.steps.end(), isWrong);
+        const bool areAllKnown =
+            std::all_of(run.items.begin(), run.items.end(), [](const MoveRecord &record) { return record.isKnown; });
+        const bool areAllThere = run.isByHand || (count == run.count && m_hasSteps) || !run.isBegun;
+        run.isDamaged = !run.damaged.empty() || kept != run.steps.end() || !areAllKnown || !areAllThere;
+        run.steps.erase(kept, run.steps.end());
+        return std::move(run);
     }
 
 private:
-    void takeHead(const QJsonObject &line)
+    /** False where the line speaks of what cannot be. */
+    bool takeObject(const QJsonObject &line)
+    {
+        if (line.contains(key("run")))
+            return takeHead(line);
+        if (line.contains(key("steps")))
+            return takeSteps(line[key("steps")].toArray());
+        if (line.contains(key("making")))
+            return takeMaking(line[key("making")].toString());
+        if (line.contains(key("end")))
+            return takeEnd(line);
+        if (line.contains(key("item")))
+            return addItem(line);
+        for (const char *word : {"done", "failed", "copied", "takenBack"})
+            if (line.contains(key(word)))
+                return takeNews(word, line);
+        return true;
+    }
+
+    bool takeHead(const QJsonObject &line)
     {
         run.id = line[key("run")].toString();
         run.title = line[key("title")].toString();
@@ -95,52 +179,57 @@ private:
         run.undoes = line[key("undoes")].toString();
         run.isByHand = line[key("byHand")].toBool();
         run.count = line[key("count")].toInt();
+        return true;
     }
 
-    void takeSteps(const QJsonArray &steps)
+    bool takeSteps(const QJsonArray &steps)
     {
+        m_hasSteps = true;
         for (const QJsonValue step : steps) {
-            const int item = step.toInt();
+            const int item = step.toInt(std::numeric_limits<int>::max());
             run.steps.push_back(item < 0 ? MoveStep{-1 - item, true, false} : MoveStep{item, false, false});
         }
+        return true;
     }
 
-    void takeEnd(const QJsonObject &line)
+    bool takeMaking(const QString &folder)
+    {
+        run.isBegun = true;
+        if (folder.startsWith(u'/'))
+            run.made.append(folder);
+        return folder.startsWith(u'/');
+    }
+
+    bool takeEnd(const QJsonObject &line)
     {
         run.end = line[key("end")].toString();
         run.count = line[key("count")].toInt();
         run.doneAtEnd = line[key("done")].toInt();
+        return true;
     }
 
-    void takeItemLine(const QJsonObject &line)
+    bool takeNews(std::string_view word, const QJsonObject &line)
     {
-        if (line.contains(key("item"))) {
-            if (line[key("item")].toInt() == int(run.items.size()))
-                addItem(line);
-        } else {
-            for (const char *word : {"done", "failed", "copied", "takenBack"})
-                if (MoveRecord *record = recordAt(line[key(word)]))
-                    takeNews(*record, word, line);
-        }
-    }
-
-    static void takeNews(MoveRecord &record, std::string_view word, const QJsonObject &line)
-    {
+        run.isBegun = true;
+        MoveRecord *record = recordAt(line[QString::fromLatin1(word.data())]);
+        if (!record)
+            return false;
         if (word == "done") {
-            record.stand = Stand::Done;
-            record.path = line[key("path")].toString();
-            record.is = stateFrom(line[key("is")]);
-            record.is = record.is ? record.is : record.item.was;
+            record->stand = Stand::Done;
+            record->path = line[key("path")].toString();
+            record->is = stateFrom(line[key("is")]);
+            record->is = record->is ? record->is : record->item.was;
         } else if (word == "failed") {
-            record.stand = line[key("skipped")].toBool() ? Stand::Skipped : Stand::Failed;
-            record.code = line[key("code")].toString();
-            record.message = line[key("message")].toString();
-            record.path = line[key("path")].toString();
+            record->stand = line[key("skipped")].toBool() ? Stand::Skipped : Stand::Failed;
+            record->code = line[key("code")].toString();
+            record->message = line[key("message")].toString();
+            record->path = line[key("path")].toString();
         } else if (word == "copied") {
-            record.copied = stateFrom(line[key("is")]);
+            record->copied = stateFrom(line[key("is")]);
         } else {
-            record.stand = Stand::TakenBack;
+            record->stand = Stand::TakenBack;
         }
+        return true;
     }
 
     MoveRecord *recordAt(const QJsonValue &index)
@@ -149,23 +238,50 @@ private:
         return at >= 0 && at < int(run.items.size()) ? &run.items[size_t(at)] : nullptr;
     }
 
-    void addItem(const QJsonObject &line)
+    bool addItem(const QJsonObject &line)
     {
+        const int index = line[key("item")].toInt(-1);
+        const int deed = positionIn(deedWords, line[key("deed")]);
+        if (index < int(run.items.size()) || index >= m_mostItems || deed < 0)
+            return false;
         MoveItem item;
-        item.deed = Deed(positionIn(deedWords, line[key("deed")]));
+        item.deed = Deed(deed);
         item.from = line[key("from")].toString();
         item.to = line[key("to")].toString();
         item.of = line[key("of")].toInt(-1);
         item.isAhead = line[key("ahead")].toBool();
         item.leader = line[key("leader")].toInt(-1);
         item.was = stateFrom(line[key("was")]);
-        MoveRecord record;
-        record.item = item;
-        run.items.push_back(record);
+        if (!hasPlaces(item))
+            return false;
+        MoveRecord unknown;
+        unknown.isKnown = false;
+        unknown.stand = Stand::Skipped;
+        run.items.resize(size_t(index), unknown);
+        run.items.emplace_back().item = item;
+        return true;
     }
+
+    /** A link may say anything, and what is trashed goes nowhere. */
+    static bool hasPlaces(const MoveItem &item)
+    {
+        const bool hasFrom = item.from.startsWith(u'/') || item.deed == Deed::Link;
+        const bool hasTo = item.to.startsWith(u'/') || item.deed == Deed::Trash || item.deed == Deed::RemoveLink;
+        return hasFrom && hasTo;
+    }
+
+    const QByteArray m_cut = cutLine().trimmed();
+    qsizetype m_mostItems;
+    bool m_hasSteps = false;
+    bool m_lastWasDamaged = false;
 };
 
 } // namespace
+
+bool isOneItem(const ItemState &one, const ItemState &other)
+{
+    return one.device == other.device && one.inode == other.inode;
+}
 
 bool isSameItem(const ItemState &one, const ItemState &other)
 {
@@ -251,6 +367,11 @@ QByteArray makingLine(const QString &folder)
     return lineOf({{key("making"), folder}});
 }
 
+QByteArray cutLine()
+{
+    return '\n' + lineOf({{key("cut"), true}});
+}
+
 QByteArray endLine(const QString &end, int count, int done)
 {
     return lineOf({{key("end"), end}, {key("count"), count}, {key("done"), done}});
@@ -258,27 +379,22 @@ QByteArray endLine(const QString &end, int count, int done)
 
 RunRecord readRecord(const QByteArray &journal)
 {
-    Reader reader;
-    for (qsizetype at = 0; at < journal.size();) {
-        const qsizetype end = journal.indexOf('\n', at);
-        reader.run.isWhole = end >= 0;
-        if (end < 0)
-            break;
-        const QJsonDocument line = QJsonDocument::fromJson(QByteArray::fromRawData(journal.constData() + at, end - at));
-        if (line.isObject())
-            reader.take(line.object());
-        at = end + 1;
-    }
-    return std::move(reader.run);
+    constexpr qsizetype shortestItem = 32;
+    Reader reader(journal.size() / shortestItem);
+    qsizetype at = 0;
+    for (qsizetype end = 0; (end = journal.indexOf('\n', at)) >= 0; at = end + 1)
+        if (end > at)
+            reader.take(QByteArrayView(journal).sliced(at, end - at));
+    reader.takeCut(QByteArrayView(journal).sliced(at));
+    return reader.whole();
 }
 
 RunRecord summaryOf(const std::pair<QByteArray, QByteArray> &ends)
 {
-    Reader reader;
-    reader.take(QJsonDocument::fromJson(ends.first).object());
-    const QJsonObject last = QJsonDocument::fromJson(ends.second).object();
-    if (last.contains(key("end")))
-        reader.take(last);
+    Reader reader(0);
+    reader.take(QByteArrayView(ends.first).trimmed());
+    if (objectIn(ends.second).contains(key("end")))
+        reader.take(ends.second);
     return std::move(reader.run);
 }
 

@@ -50,12 +50,21 @@ struct MoveItem
 struct MoveRecord
 {
     MoveItem item;
+    bool isKnown = true; ///< false: its line in the journal cannot be read
     Stand stand = Stand::Waiting;
     QString code;    ///< why it failed
     QString message; ///< the same as a sentence
     QString path;    ///< where it is since it is done; in the trash, if it was trashed; empty if it is removed
     std::optional<platform::ItemState> is = std::nullopt;     ///< what is there since then
     std::optional<platform::ItemState> copied = std::nullopt; ///< the copy that was about to get its name
+};
+
+/** What can be made out of a line that is damaged. */
+struct DamagedLine
+{
+    int item = -1;
+    QString from;      ///< the old place of the item, perhaps with a wrong letter
+    QStringList paths; ///< all that look like places
 };
 
 /** A run as its journal tells it. */
@@ -72,9 +81,14 @@ struct RunRecord
     QStringList made; ///< folders that the run made
     QString end;      ///< "done", "cancelled" or "recovered"; empty while it is open
     int doneAtEnd = 0;
-    bool isWhole = true; ///< false: the last line was cut short
+    bool isWhole = true;    ///< false: the last line was cut short
+    bool isBegun = false;   ///< a line tells that something was done
+    bool isDamaged = false; ///< lines cannot be read, or speak of what cannot be
+    std::vector<DamagedLine> damaged;
 };
 
+/** Whether two paths lead to one item, at this moment. */
+bool isOneItem(const platform::ItemState &one, const platform::ItemState &other);
 bool isSameItem(const platform::ItemState &one, const platform::ItemState &other);
 /** Two items that could be the same but for their identity: one kind, as large and as old. */
 bool isAlike(const platform::ItemState &one, const platform::ItemState &other);
@@ -89,9 +103,14 @@ QByteArray failedLine(int index, const MoveRecord &record);
 QByteArray takenBackLine(int index);
 QByteArray copiedLine(int index, const platform::ItemState &state);
 QByteArray makingLine(const QString &folder);
+/** Ends a line that was cut short. */
+QByteArray cutLine();
 QByteArray endLine(const QString &end, int count, int done);
 
-/** A journal read again. Lines that are not understood, such as one that was cut short, are passed over. */
+/**
+ * A journal read again. Every line has a sum by which a damaged one is known; those are passed over, as one that was cut short is.
+ * Items whose lines are damaged are there, unknown and skipped, so that the numbers of the others are right.
+ */
 RunRecord readRecord(const QByteArray &journal);
 /** A run without its items, from the first and the last line of its journal. */
 RunRecord summaryOf(const std::pair<QByteArray, QByteArray> &ends);

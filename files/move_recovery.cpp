@@ -1,16 +1,23 @@
 #include "files/move_recovery.h"
 
 #include "files/move_paths.h"
+#include "files/move_rescue.h"
 #include "files/move_run.h"
 
 #include "platform/foundation/paths.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
+
 #include <algorithm>
+#include <cstdlib>
 
 namespace files {
 namespace {
 
 using platform::ItemState;
+
+constexpr qint64 nsPerMs = 1'000'000;
 
 /** Finds out where the items of an interrupted run are, and takes away what is left of unfinished copies. */
 class Search
@@ -24,7 +31,10 @@ public:
     {
         for (int i = 0; i < int(m_run.items.size()); ++i) {
             MoveRecord &record = m_run.items[size_t(i)];
+            if (!record.isKnown)
+                continue;
             removePart(i, record);
+            removePlaceholder(record);
             switch (record.item.deed) {
             case Deed::Move:
                 findMoved(i, record);
@@ -42,6 +52,7 @@ public:
                 findRemoved(i, record);
                 break;
             case Deed::RemoveLink:
+                bringBackRemoved(i, record);
                 decide(record, m_disk.linkText(record.item.from) != record.item.to);
                 break;
             case Deed::Restore:
@@ -76,18 +87,64 @@ private:
             done(record, record.item.deed == Deed::RemoveLink ? QString() : record.item.to);
     }
 
-    /** A copy that never got its name; what it was made from is still in its place. */
-    void removePart(int index, const MoveRecord &record)
+    /** A copy that never got its name goes, if what it was made from is still there; else it is the last that is left. */
+    void removePart(int index, MoveRecord &record)
     {
         const bool makesCopy = record.item.deed == Deed::Move || record.item.deed == Deed::Copy;
         if (!makesCopy)
             return;
-        const bool hasSource = m_disk.look(m_now(record.item.from, index)) || m_disk.look(record.item.from) ||
-                               m_disk.look(asidePath(m_run.id, index, record.item));
+        const QStringList sources = {m_now(record.item.from, index), record.item.from,
+                                     asidePath(m_run.id, index, record.item)};
         const QString part = partPath(m_run.id, index, record.item.to);
-        for (const QString &place : {part, m_now(part, index)})
-            if ((hasSource || record.stand == Stand::Done) && m_disk.look(place))
-                (void)m_disk.remove(place);
+        for (const QString &place : {part, m_now(part, index)}) {
+            if (!m_disk.look(place))
+                continue;
+            const bool hasSource = std::any_of(sources.begin(), sources.end(),
+                                               [&](const QString &source) { return isSource(source, place, record); });
+            if (hasSource || (record.stand == Stand::Done && m_disk.look(m_now(record.path, index))))
+                (void)m_disk.discard(place);
+            else
+                nameLastCopy(record, place);
+        }
+    }
+
+    /** Some disks number their items differently after a restart; what is at least alike is then taken for the source. */
+    bool isSource(const QString &path, const QString &part, const MoveRecord &record) const
+    {
+        const auto found = m_disk.look(path);
+        const auto &was = record.item.was;
+        if (!found || !was || isSameItem(*found, *was))
+            return found.has_value();
+        return isAlike(*found, *was) && holds(path, part);
+    }
+
+    void nameLastCopy(MoveRecord &record, const QString &part)
+    {
+        const bool isWhole = record.copied && isAt(part, record.copied);
+        const QString place = m_names.putBack(part, record.item.to);
+        if (isWhole && place == record.item.to)
+            done(record, place);
+        else
+            problems.append(QCoreApplication::translate("files", "%1 is gone; what was copied of it is at %2")
+                                .arg(record.item.from, place));
+    }
+
+    /** On a disk that can only keep a name with an empty file, such a file is left where the item never came. */
+    void removePlaceholder(const MoveRecord &record)
+    {
+        const bool takesPlace = record.item.deed == Deed::Move && record.stand == Stand::Waiting;
+        const auto there = takesPlace ? m_disk.look(record.item.to) : std::nullopt;
+        const bool isEmpty = there && there->kind == platform::ItemKind::File && there->bytes == 0 && there->names == 1;
+        const qint64 begunNs = QDateTime::fromString(m_run.date, Qt::ISODate).toMSecsSinceEpoch() * nsPerMs;
+        const bool isOurs = isEmpty && there->changedNs >= begunNs && record.item.was && record.item.was->bytes != 0 &&
+                            !isSameItem(*there, *record.item.was);
+        if (isOurs && (isAt(record.item.from, record.item.was) || m_disk.look(aside(record))))
+            (void)m_disk.remove(record.item.to);
+    }
+
+    QString aside(const MoveRecord &record) const
+    {
+        return asidePath(m_run.id, int(&record - m_run.items.data()), record.item);
     }
 
     void findMoved(int index, MoveRecord &record)
@@ -102,7 +159,7 @@ private:
         const bool isOld = isAt(item.from, item.was);
         const bool isNew = isCopied || isAt(item.to, item.was);
         if (isOld && isNew)
-            return findBoth(record, isCopied);
+            return findBoth(index, record, isCopied);
         if (isNew)
             done(record, item.to);
         else if (isOld && record.stand == Stand::Done)
@@ -111,12 +168,19 @@ private:
             problems.append(MoveDeeds::sentence(QStringLiteral("gone"), item.from));
     }
 
-    /** Whether everything of @p part is also in @p whole; @p part may have been half removed. */
+    /** Whether everything of @p part is also in @p whole; @p part may have been half removed. Links are not followed. */
     bool holds(const QString &whole, const QString &part) const
     {
+        const auto state = m_disk.look(part);
+        const auto other = m_disk.look(whole);
+        const bool isFolder = state && state->kind == platform::ItemKind::Folder;
+        if (!state || !other || state->kind != other->kind || isOneItem(*state, *other))
+            return false;
+        if (!isFolder)
+            return m_disk.haveSameContent(part, whole);
         const auto entries = m_disk.list(part);
         if (!entries)
-            return m_disk.haveSameContent(part, whole);
+            return false;
         return std::all_of(entries->begin(), entries->end(), [&](const platform::FolderEntry &entry) {
             return holds(platform::joinedPath(whole, entry.name), platform::joinedPath(part, entry.name));
         });
@@ -129,7 +193,9 @@ private:
             record.stand = Stand::Aside;
             return;
         }
-        (void)m_disk.remove(aside);
+        if (m_disk.remove(aside))
+            problems.append(QCoreApplication::translate("files", "A part of %1 could not be removed and is still there")
+                                .arg(m_names.putBack(aside, record.item.from)));
         done(record, record.item.to);
     }
 
@@ -138,24 +204,31 @@ private:
     {
         const QString place =
             platform::joinedPath(platform::parentFolder(left), platform::lastPathComponent(item.from));
-        const bool isGone = holds(item.to, left) ? !m_disk.remove(left) : !m_disk.rename(left, place);
-        if (!isGone)
-            problems.append(QStringLiteral("%1 could not be put away").arg(left));
+        if (holds(item.to, left) && !m_disk.remove(left))
+            return;
+        if (m_names.putBack(left, place) == left)
+            problems.append(QCoreApplication::translate("files", "%1 could not be put away").arg(left));
     }
 
     /** A copy on another disk, or a second name on this one, was made and the first not yet removed. */
-    void findBoth(MoveRecord &record, bool isCopied)
+    void findBoth(int index, MoveRecord &record, bool isCopied)
     {
         const MoveItem &item = record.item;
         const auto found = m_disk.look(item.to);
         const bool isSecondName = !isCopied && found && item.was && found->names > item.was->names;
-        const bool isSecondCopy = isCopied && m_disk.haveSameContent(item.from, item.to);
         if (record.stand == Stand::Done || (!isSecondName && !isCopied))
             return;
-        if ((isSecondName || isSecondCopy) && !m_disk.remove(item.from))
-            done(record, item.to);
-        else
-            problems.append(QStringLiteral("%1 is also at %2").arg(item.from, item.to));
+        if (isSecondName || m_disk.haveSameContent(item.from, item.to)) {
+            const QString left = asidePath(m_run.id, index, item);
+            const bool isAside = !m_disk.rename(item.from, left);
+            const bool isSame = isAside && isAt(left, item.was) &&
+                                (isSecondName ? isAt(item.to, item.was) : m_disk.haveSameContent(left, item.to));
+            if (isSame && !m_disk.remove(left))
+                return done(record, item.to);
+            if (isAside && m_disk.look(left))
+                (void)m_names.putBack(left, item.from);
+        }
+        problems.append(QCoreApplication::translate("files", "%1 is also at %2").arg(item.from, item.to));
     }
 
     void findTrashed(MoveRecord &record)
@@ -165,12 +238,32 @@ private:
             return;
         if (isAt(item.from, item.was))
             return m_disk.discardHalfTrashed(item.from);
-        if (m_disk.look(item.from))
-            return;
         if (const auto trashed = m_disk.findTrashed(item.from, *item.was))
             done(record, trashed->path);
-        else if (!findHalfTrashed(record))
+        else if (!findHalfTrashed(record) && !findCopyInTrash(record) && !m_disk.look(item.from))
             problems.append(MoveDeeds::sentence(QStringLiteral("gone"), item.from));
+    }
+
+    /** Nothing is left of it but the copy in the trash, which is another item with the same size and date. */
+    bool findCopyInTrash(MoveRecord &record)
+    {
+        for (const platform::TrashedItem &trashed : m_disk.allTrashed(record.item.from)) {
+            const auto state = m_disk.look(trashed.path);
+            if (!state || !isAlikeOnAnyDisk(*state, *record.item.was))
+                continue;
+            done(record, trashed.path);
+            return true;
+        }
+        return false;
+    }
+
+    /** Some disks keep dates of two seconds. */
+    static bool isAlikeOnAnyDisk(ItemState one, const ItemState &other)
+    {
+        constexpr qint64 coarse = 2'000'000'000;
+        if (std::abs(one.changedNs - other.changedNs) < coarse)
+            one.changedNs = other.changedNs;
+        return isAlike(one, other);
     }
 
     /**
@@ -181,7 +274,8 @@ private:
     {
         const MoveItem &item = record.item;
         const QString folder = platform::parentFolder(item.from);
-        for (const platform::FolderEntry &entry : m_disk.list(folder).value_or(std::vector<platform::FolderEntry>())) {
+        for (const platform::FolderEntry &entry :
+             m_disk.list(m_disk.canonicalFolder(folder)).value_or(std::vector<platform::FolderEntry>())) {
             const QString aside = platform::joinedPath(folder, entry.name);
             if (!entry.name.startsWith(QStringLiteral(".quorlin-")) || !isAt(aside, item.was))
                 continue;
@@ -195,23 +289,31 @@ private:
         return false;
     }
 
+    /** What was removed stands aside for a moment. */
+    void bringBackRemoved(int index, const MoveRecord &record)
+    {
+        if (const QString left = asidePath(m_run.id, index, record.item); m_disk.look(left))
+            (void)m_names.putBack(left, record.item.from);
+    }
+
+    /** Copies are trashed; older journals tell of those that were removed. */
     void findRemoved(int index, MoveRecord &record)
     {
         const MoveItem &item = record.item;
-        const QString aside = asidePath(m_run.id, index, item);
-        if (m_disk.look(aside) && holds(item.to, aside))
-            (void)m_disk.remove(aside);
-        else if (m_disk.look(aside))
-            (void)m_disk.rename(aside, item.from);
-        if (record.stand != Stand::Waiting || m_disk.look(item.from))
+        bringBackRemoved(index, record);
+        if (record.stand != Stand::Waiting || !item.was || isAt(item.from, item.was))
             return;
-        const auto trashed = item.was ? m_disk.findTrashed(item.from, *item.was) : std::nullopt;
-        done(record, trashed ? trashed->path : QString());
+        if (const auto trashed = m_disk.findTrashed(item.from, *item.was))
+            done(record, trashed->path);
+        else if (!findHalfTrashed(record) && !findCopyInTrash(record) && !m_disk.look(item.from))
+            done(record, QString());
     }
 
     platform::FileSystem &m_disk;
     RunRecord &m_run;
     PathsSince m_now;
+    SilentDeedLog m_log;
+    MoveDeeds m_names{m_disk, m_run.id, m_log}; ///< gives names back
 };
 
 /** Tells the journal what was found, so that it stands by itself afterwards. */
@@ -252,7 +354,7 @@ RecoveredRun reportOf(const RunRecord &before, const RunRecord &found, const Run
 RecoveredRun recoverOne(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record)
 {
     if (!record.isWhole)
-        shelf.append(record.id, "\n", Lasting::WhenTheSystemLikes);
+        shelf.append(record.id, cutLine(), Lasting::WhenTheSystemLikes);
     const RunRecord before = record;
     Search search(disk, record);
     search.lookAgain();
@@ -261,10 +363,19 @@ RecoveredRun recoverOne(platform::FileSystem &disk, JournalShelf &shelf, RunReco
         shelf.append(record.id, news, Lasting::AtOnce);
     const auto run = MoveRun::resume(disk, shelf, std::move(record));
     run->mend();
+    if (before.isDamaged)
+        search.problems += rescueHidden(disk, before);
     run->close(QStringLiteral("recovered"));
     RecoveredRun report = reportOf(before, found, run->record());
     report.problems += search.problems;
     return report;
+}
+
+/** Nothing moves before the head of the journal is whole, so a run without one has done nothing. */
+bool neverBegan(platform::FileSystem &disk, const RunRecord &run)
+{
+    const bool isHeadWhole = run.isByHand || (int(run.items.size()) == run.count && !run.steps.empty());
+    return !isHeadWhole && !run.isDamaged && !run.isBegun && !hasHidden(disk, run);
 }
 
 } // namespace
@@ -275,16 +386,16 @@ std::vector<RecoveredRun> recoverMoves(platform::FileSystem &disk, JournalShelf 
     for (const QString &name : shelf.names()) {
         if (!summaryOf(shelf.ends(name)).end.isEmpty() || !shelf.hold(name))
             continue;
-        RunRecord record = readRecord(shelf.read(name).value_or(QByteArray()));
-        const bool isComplete =
-            record.id == name &&
-            (record.isByHand || (int(record.items.size()) == record.count && !record.steps.empty()));
-        if (!record.end.isEmpty())
+        const auto journal = shelf.read(name);
+        RunRecord record = readRecord(journal.value_or(QByteArray()));
+        record.isDamaged = record.isDamaged || (record.id != name && record.isBegun);
+        record.id = name;
+        if (!journal || !record.end.isEmpty())
             shelf.letGo(name);
-        else if (isComplete)
-            recovered.push_back(recoverOne(disk, shelf, std::move(record)));
+        else if (neverBegan(disk, record))
+            shelf.remove(name);
         else
-            shelf.remove(name); // nothing moves before the head of the journal is whole
+            recovered.push_back(recoverOne(disk, shelf, std::move(record)));
     }
     return recovered;
 }

@@ -144,11 +144,13 @@ std::unique_ptr<MoveRun> MoveRun::resume(platform::FileSystem &disk, JournalShel
     return std::unique_ptr<MoveRun>(new MoveRun(disk, shelf, std::move(record)));
 }
 
+/** What could not be written, on a disk that was full, comes before the next line; so the journal lacks nothing in the middle. */
 QString MoveRun::note(const QByteArray &line, Lasting lasting)
 {
-    const QString problem = m_shelf.append(m_record.id, line, lasting);
-    if (m_trouble.isEmpty())
-        m_trouble = problem;
+    m_unwritten += line;
+    const QString problem = m_shelf.append(m_record.id, m_unwritten, lasting);
+    if (problem.isEmpty())
+        m_unwritten.clear();
     return problem;
 }
 
@@ -301,16 +303,8 @@ void MoveRun::bringBack(int index, const DeedOutcome &why)
         return markFailed(index, why);
     if (const DeedOutcome given = m_deeds.carryOut(index, item, aside); given.code.isEmpty())
         return markDone(index, given);
-    constexpr int mostNumbers = 1000;
     DeedOutcome outcome = why;
-    outcome.path = aside;
-    const auto state = m_disk.look(aside);
-    const NameOf what = state && state->kind == platform::ItemKind::Folder ? NameOf::Folder : NameOf::File;
-    for (int number = 2; number < mostNumbers && outcome.path == aside; ++number) {
-        const QString name = numberedName(lastPathComponent(item.from), number, what);
-        if (!m_disk.rename(aside, joinedPath(parentFolder(item.from), name)))
-            outcome.path = joinedPath(parentFolder(item.from), name);
-    }
+    outcome.path = m_deeds.putBack(aside, item.from);
     outcome.message =
         QCoreApplication::translate("files", "The name %1 was taken in the meantime; the item is now called %2")
             .arg(lastPathComponent(item.from), lastPathComponent(outcome.path));
@@ -366,9 +360,12 @@ void MoveRun::close(const QString &end)
     const auto isAside = [](const MoveRecord &record) { return record.stand == Stand::Aside; };
     const auto isDone = [](const MoveRecord &record) { return record.stand == Stand::Done; };
     const auto done = std::count_if(m_record.items.begin(), m_record.items.end(), isDone);
-    // What could not be brought back or taken away is tried again at the next start.
-    if (!m_deeds.hasLeftOver() && std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
-        note(endLine(end, int(m_record.items.size()), int(done)), Lasting::AtOnce);
+    // What could not be brought back or taken away is tried again at the next start, and so is a journal that lacks a line.
+    if (!m_unwritten.isEmpty())
+        m_trouble = note({}, Lasting::AtOnce);
+    if (m_trouble.isEmpty() && !m_deeds.hasLeftOver() &&
+        std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
+        m_trouble = note(endLine(end, int(m_record.items.size()), int(done)), Lasting::AtOnce);
     m_record.end = end;
     m_record.doneAtEnd = int(done);
     m_shelf.letGo(m_record.id);
@@ -422,7 +419,9 @@ MoveResult MoveRun::takeBack(int index, const MoveItem &deed)
 
 void MoveRun::mend()
 {
-    for (m_step = 0; m_step < m_record.steps.size(); m_step = m_groupEnd) {
+    // Steps that are not all known could move what was not to be moved yet.
+    const size_t count = m_record.isDamaged ? 0 : m_record.steps.size();
+    for (m_step = 0; m_step < count; m_step = m_groupEnd) {
         findGroup();
         const auto isAside = [&](const MoveStep &step) { return at(step.item).stand == Stand::Aside; };
         const auto begin = m_record.steps.begin();

@@ -102,6 +102,7 @@ private:
     std::deque<MoveResult> m_results;
     std::set<QString> m_touched;
     QStringList m_emptyFolders;
+    QByteArray m_unwritten; ///< lines that the journal still lacks
     QString m_trouble;
     bool m_areRestRefused = false;
 };

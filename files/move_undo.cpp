@@ -60,6 +60,9 @@ UndoProblem faultOf(const platform::FileSystem &disk, const MoveItem &deed, cons
                                                                            : isUnchanged(*state, *record.is));
     if (!isSame)
         return problemAt(deed.from, QStringLiteral("changed"));
+    const auto original = deed.deed == Deed::RemoveCopy ? disk.look(deed.to) : std::nullopt;
+    if (original && isOneItem(*state, *original))
+        return problemAt(deed.from, QStringLiteral("original"));
     if (deed.deed == Deed::RemoveLink && disk.linkText(deed.from) != deed.to)
         return problemAt(deed.from, QStringLiteral("changed"));
     return {};
@@ -123,24 +126,53 @@ void leaveOutHindered(const platform::FileSystem &disk, std::vector<MoveItem> &d
 
 RunRecord recordOf(const JournalShelf &shelf, const QString &run)
 {
-    return shelf.names().contains(run) ? readRecord(shelf.read(run).value_or(QByteArray())) : RunRecord();
+    if (!shelf.names().contains(run))
+        return {};
+    RunRecord record = readRecord(shelf.read(run).value_or(QByteArray()));
+    if (record.isDamaged)
+        record.id = run;
+    return record;
 }
 
-/** The items of a run that were done and not taken back, by it or by a run that still stands. */
+/** Which runs take back which, as the journals tell. */
+class Undoers
+{
+public:
+    explicit Undoers(const JournalShelf &shelf) : m_shelf(shelf)
+    {
+        for (const QString &name : shelf.names())
+            if (const QString undoes = summaryOf(shelf.ends(name)).undoes; !undoes.isEmpty())
+                m_undoers.insert(undoes, name);
+    }
+
+    /** The items of a run that were done and not taken back, by it or by a run that still stands. */
+    std::set<int> standingItems(const RunRecord &run)
+    {
+        std::set<int> standing;
+        for (int i = 0; i < int(run.items.size()); ++i)
+            if (run.items[size_t(i)].stand == Stand::Done && run.items[size_t(i)].isKnown)
+                standing.insert(i);
+        m_seen.insert(run.id);
+        for (const QString &name : m_undoers.values(run.id)) {
+            if (m_seen.contains(name)) // a damaged journal can take itself back
+                continue;
+            const RunRecord undo = readRecord(m_shelf.read(name).value_or(QByteArray()));
+            if (undo.id == name)
+                for (const int item : standingItems(undo))
+                    standing.erase(undo.items[size_t(item)].item.of);
+        }
+        return standing;
+    }
+
+private:
+    const JournalShelf &m_shelf;
+    QMultiHash<QString, QString> m_undoers;
+    std::set<QString> m_seen;
+};
+
 std::set<int> standingItems(const JournalShelf &shelf, const RunRecord &run)
 {
-    std::set<int> standing;
-    for (int i = 0; i < int(run.items.size()); ++i)
-        if (run.items[size_t(i)].stand == Stand::Done)
-            standing.insert(i);
-    for (const QString &name : shelf.names()) {
-        if (summaryOf(shelf.ends(name)).undoes != run.id)
-            continue;
-        const RunRecord undo = readRecord(shelf.read(name).value_or(QByteArray()));
-        for (const int item : standingItems(shelf, undo))
-            standing.erase(undo.items[size_t(item)].item.of);
-    }
-    return standing;
+    return run.id.isEmpty() ? std::set<int>() : Undoers(shelf).standingItems(run);
 }
 
 QString whyNot(const RunRecord &run, const std::set<int> &standing)
@@ -166,6 +198,11 @@ UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, c
     if (!plan.problem.isEmpty())
         return plan;
     PathsSince now(record);
+    for (const MoveRecord &item : record.items)
+        if (!item.isKnown && item.stand == Stand::Done)
+            plan.problems.push_back(
+                {item.path, QStringLiteral("other"),
+                 QCoreApplication::translate("files", "The journal of this run is damaged: %1").arg(run)});
     for (auto index = standing.rbegin(); index != standing.rend(); ++index) {
         const MoveRecord &done = record.items[size_t(*index)];
         const MoveItem deed = inverseOf(done, *index, now);
@@ -212,8 +249,11 @@ std::vector<RunSummary> listRuns(const JournalShelf &shelf)
     for (const QString &name : shelf.names()) {
         RunSummary summary;
         summary.run = summaryOf(shelf.ends(name));
-        if (summary.run.id.isEmpty())
-            continue;
+        if (summary.run.id.isEmpty()) {
+            summary.run.id = name;
+            summary.run.title =
+                QCoreApplication::translate("files", "The journal of this run is damaged: %1").arg(name);
+        }
         const bool isUndone = isTakenBack.value(name);
         summary.state = summary.run.end.isEmpty() ? QStringLiteral("open")
                         : isUndone                ? QStringLiteral("undone")

@@ -25,8 +25,8 @@ struct UndoPlan
 
 /**
  * Plans how a run is taken back, the last item first. Looks whether every item is still the one that was moved and whether its old
- * place is free; those that are changed, gone or hindered are left out with the reason. Copies are removed if they and their originals
- * are still the same, else trashed; links are removed if they still say the same; what was trashed comes back. What was
+ * place is free; those that are changed, gone or hindered are left out with the reason. Copies are trashed,
+ * unless a copy is its own original by now; links are removed if they still say the same; what was trashed comes back. What was
  * taken back before is left out. The run that takes another back can be taken back too.
  */
 UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run);

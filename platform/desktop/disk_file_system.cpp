@@ -71,7 +71,9 @@ std::optional<ItemState> DiskFileSystem::look(const QString &path) const
 
 std::optional<std::vector<FolderEntry>> DiskFileSystem::list(const QString &folder) const
 {
-    const std::unique_ptr<DIR, int (*)(DIR *)> open(::opendir(QFile::encodeName(folder).constData()), &::closedir);
+    constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const int descriptor = ::open(QFile::encodeName(folder).constData(), flags);
+    const std::unique_ptr<DIR, int (*)(DIR *)> open(descriptor < 0 ? nullptr : ::fdopendir(descriptor), &::closedir);
     if (!open)
         return std::nullopt;
     std::vector<FolderEntry> entries;
@@ -98,6 +100,11 @@ QString DiskFileSystem::canonicalFolder(const QString &folder) const
 bool DiskFileSystem::mayChange(const QString &folder) const
 {
     return ::faccessat(AT_FDCWD, QFile::encodeName(folder).constData(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+bool DiskFileSystem::mayBeTakenAway(const QString &path) const
+{
+    return platform::mayBeTakenAway(path);
 }
 
 QString DiskFileSystem::linkText(const QString &path) const
@@ -145,6 +152,11 @@ std::error_code DiskFileSystem::remove(const QString &path)
     if (std::filesystem::remove_all(native(path), error) == 0 && !error)
         return std::make_error_code(std::errc::no_such_file_or_directory);
     return error;
+}
+
+std::error_code DiskFileSystem::discard(const QString &path)
+{
+    return discardTree(native(path));
 }
 
 Result<TrashedItem> DiskFileSystem::trash(const QString &path)

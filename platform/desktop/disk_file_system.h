@@ -12,6 +12,7 @@ public:
     std::optional<std::vector<FolderEntry>> list(const QString &folder) const override;
     QString canonicalFolder(const QString &folder) const override;
     bool mayChange(const QString &folder) const override;
+    bool mayBeTakenAway(const QString &path) const override;
     QString linkText(const QString &path) const override;
     bool haveSameContent(const QString &one, const QString &other) const override;
     std::error_code rename(const QString &from, const QString &to) override;
@@ -20,6 +21,7 @@ public:
     std::error_code makeLink(const QString &target, const QString &path) override;
     std::error_code copy(const QString &from, const QString &to) override;
     std::error_code remove(const QString &path) override;
+    std::error_code discard(const QString &path) override;
     Result<TrashedItem> trash(const QString &path) override;
     std::error_code restore(const TrashedItem &item, const QString &path) override;
     std::optional<TrashedItem> findTrashed(const QString &path, const ItemState &state) const override;

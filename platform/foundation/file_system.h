@@ -51,12 +51,14 @@ public:
     virtual ~FileSystem() = default;
 
     virtual std::optional<ItemState> look(const QString &path) const = 0;
-    /** All entries, hidden ones too, in no order; nothing where the folder cannot be read. */
+    /** All entries, hidden ones too, in no order; nothing where the folder cannot be read, or is a link to one. */
     virtual std::optional<std::vector<FolderEntry>> list(const QString &folder) const = 0;
     /** The folder's path without links; null where there is no such folder. */
     virtual QString canonicalFolder(const QString &folder) const = 0;
     /** Whether items may be made in the folder and taken out of it, as far as permissions tell. */
     virtual bool mayChange(const QString &folder) const = 0;
+    /** Whether an item and all that is in it could be removed, as far as permissions tell. */
+    virtual bool mayBeTakenAway(const QString &path) const = 0;
     /** What a link says; null where there is none. */
     virtual QString linkText(const QString &path) const = 0;
     /** Whether two items have the same bytes, links the same text, folders the same items in them. */
@@ -73,6 +75,8 @@ public:
     virtual std::error_code copy(const QString &from, const QString &to) = 0;
     /** Removes a file, a link or a folder with all in it. A failure may leave a part of a folder. */
     virtual std::error_code remove(const QString &path) = 0;
+    /** The same for what the caller has made: folders in it that may not be changed are removed too. */
+    virtual std::error_code discard(const QString &path) = 0;
     virtual Result<TrashedItem> trash(const QString &path) = 0;
     /** Brings an item back from the trash to a path that nothing may be at. */
     virtual std::error_code restore(const TrashedItem &item, const QString &path) = 0;

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/copy_tree.h"
 #include "platform/foundation/paths.h"
+#include "platform/foundation/same_content.h"
 
 #include <QDir>
 #include <QFile>
@@ -117,24 +118,6 @@ bool mayChange(const fs::path &folder)
     return ::faccessat(AT_FDCWD, folder.c_str(), R_OK | W_OK | X_OK, AT_EACCESS) == 0;
 }
 
-/** Whether the item and all that is in it could be removed, as far as permissions tell. */
-bool mayBeTakenAway(const fs::path &item)
-{
-    std::error_code error;
-    const fs::path parent = item.has_parent_path() ? item.parent_path() : fs::path(".");
-    if (!mayChange(parent))
-        return false;
-    if (!fs::is_directory(fs::symlink_status(item, error)))
-        return true;
-    if (!mayChange(item))
-        return false;
-    const auto below = fs::recursive_directory_iterator(item, error);
-    return !error && std::all_of(begin(below), end(below), [](const fs::directory_entry &entry) {
-        std::error_code ignored;
-        return !entry.is_directory(ignored) || entry.is_symlink(ignored) || mayChange(entry.path());
-    });
-}
-
 /** What was written is on the disk before what it was made from is given up. */
 void settle(const QString &folder)
 {
@@ -152,26 +135,71 @@ tl::unexpected<Error> notMoved(const QString &from, const QString &to, const std
                    QStringLiteral("Cannot move %1 to %2: %3").arg(from, to, because(error)));
 }
 
-/** Moves to another file system. The source leaves its place in one step, so that up to then it is whole. */
+/** An item that stood aside gets its name back, or one with a number where another program has taken that since. */
+void bringBack(const QString &aside, const QString &path)
+{
+    constexpr int mostNumbers = 1000;
+    std::error_code error = renameToNew(aside, path);
+    for (int number = 2; error == std::errc::file_exists && number < mostNumbers; ++number)
+        error = renameToNew(aside, QStringLiteral("%1 (%2)").arg(path).arg(number));
+}
+
+/** Takes a copy away again whose source stays; a source that is gone meanwhile has left the copy as the last one. */
+Result<void> withoutCopy(const QString &from, const QString &to, const std::error_code &why)
+{
+    const QString aside = besideOf(to);
+    if (!renameToNew(to, aside)) {
+        if (isTaken(from))
+            (void)discardTree(native(aside));
+        else
+            bringBack(aside, to);
+    }
+    return isTaken(from) ? notMoved(from, to, why) : Result<void>();
+}
+
+/**
+ * Moves to another file system. The source leaves its place in one step, so that up to then it is whole, and is compared with the
+ * copy after that: what another program wrote into it last stays.
+ */
 Result<void> moveByCopying(const QString &from, const QString &to)
 {
-    if (!mayBeTakenAway(native(from)))
+    if (!mayBeTakenAway(from))
         return notMoved(from, to, std::make_error_code(std::errc::permission_denied));
     if (const auto copied = copyItem(from, to); !copied)
         return copied;
     settle(parentFolder(to));
     const QString aside = besideOf(from);
-    if (const std::error_code error = renameToNew(from, aside)) {
-        (void)removeItem(to);
-        return notMoved(from, to, error);
+    if (const std::error_code error = renameToNew(from, aside))
+        return withoutCopy(from, to, error);
+    if (!haveSameContent(native(aside), native(to))) {
+        bringBack(aside, from);
+        return withoutCopy(from, to, std::make_error_code(std::errc::device_or_resource_busy));
     }
     const auto removed = removeItem(aside);
     if (!removed)
-        renameToNew(aside, from);
+        bringBack(aside, from);
     return removed;
 }
 
 } // namespace
+
+bool mayBeTakenAway(const QString &path)
+{
+    const fs::path item = native(path);
+    std::error_code error;
+    const fs::path parent = item.has_parent_path() ? item.parent_path() : fs::path(".");
+    if (!mayChange(parent))
+        return false;
+    if (!fs::is_directory(fs::symlink_status(item, error)))
+        return true;
+    if (!mayChange(item))
+        return false;
+    const auto below = fs::recursive_directory_iterator(item, error);
+    return !error && std::all_of(begin(below), end(below), [](const fs::directory_entry &entry) {
+        std::error_code ignored;
+        return !entry.is_directory(ignored) || entry.is_symlink(ignored) || mayChange(entry.path());
+    });
+}
 
 QString applicationSupportFolder()
 {
@@ -246,7 +274,7 @@ Result<void> copyItem(const QString &from, const QString &to)
         error = renameToNew(beside, to);
     if (!error)
         return {};
-    (void)removeItem(beside);
+    (void)discardTree(native(beside));
     return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot copy %1 to %2: %3").arg(from, to, because(error)));
 }
 

@@ -39,6 +39,9 @@ void settleFolder(const QString &path);
  */
 Result<void> removeItem(const QString &path);
 
+/** Whether an item and all that is in it could be removed, as far as permissions tell. */
+bool mayBeTakenAway(const QString &path);
+
 /**
  * Copies the file or folder at @p from, with all that is in it, to the new item @p to. Links are copied as links; permissions,
  * modification dates and the user's extended attributes go along where the file system has them.

@@ -53,10 +53,14 @@ Result<HeldFile> HeldFile::make(const QString &path)
 
 Result<HeldFile> HeldFile::open(const QString &path)
 {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDWR | O_APPEND | O_CLOEXEC);
+    constexpr int flags = O_RDWR | O_APPEND | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+    const int descriptor = ::open(QFile::encodeName(path).constData(), flags);
     if (descriptor < 0)
         return because(ErrorCode::NotFound, path, errno);
     HeldFile file(path, descriptor);
+    struct stat found = {};
+    if (::fstat(descriptor, &found) != 0 || !S_ISREG(found.st_mode))
+        return because(ErrorCode::Unsupported, path, ENOTSUP);
     if (!file.lock())
         return because(ErrorCode::Unsupported, path, EWOULDBLOCK);
     return file;
@@ -70,10 +74,17 @@ bool HeldFile::lock()
 
 Result<void> HeldFile::append(const QByteArray &bytes, Lasting lasting)
 {
+    struct stat before = {};
+    const bool isSizeKnown = ::fstat(m_descriptor, &before) == 0;
     for (qsizetype done = 0; done < bytes.size();) {
         const ssize_t count = ::write(m_descriptor, bytes.constData() + done, size_t(bytes.size() - done));
-        if (count < 0 && errno != EINTR)
-            return because(ErrorCode::WriteFailed, m_path, errno);
+        if (count < 0 && errno != EINTR) {
+            const int reason = errno;
+            // Half of it would spoil what is added next.
+            if (isSizeKnown && done > 0)
+                (void)!::ftruncate(m_descriptor, before.st_size);
+            return because(ErrorCode::WriteFailed, m_path, reason);
+        }
         done += count < 0 ? 0 : count;
     }
     if (lasting == Lasting::AtOnce && ::fdatasync(m_descriptor) != 0)

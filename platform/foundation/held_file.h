@@ -22,10 +22,13 @@ public:
 
     /** Makes a file that is not there yet. Fails with WriteFailed. */
     static Result<HeldFile> make(const QString &path);
-    /** Opens a file. Fails with NotFound, and with Unsupported where another process, or this one, holds it. */
+    /** Opens a file. Fails with NotFound, and with Unsupported where another process, or this one, holds it, or it is no plain file. */
     static Result<HeldFile> open(const QString &path);
 
-    /** Adds @p bytes at the end; with AtOnce it is on the disk when this returns. Fails with WriteFailed. */
+    /**
+     * Adds @p bytes at the end; with AtOnce it is on the disk when this returns. Fails with WriteFailed,
+     * and has then added nothing as far as the disk allows.
+     */
     Result<void> append(const QByteArray &bytes, Lasting lasting);
     Result<QByteArray> readAll() const;
 

@@ -56,6 +56,20 @@ public:
     std::function<std::error_code()> trouble;
     Fuse *fuse = nullptr;
     QSet<QString> lockedFolders;
+    /** Links lead to folders; they must not go round. Without it a link leads nowhere. */
+    bool followsLinks = false;
+    /** The disk can only look whether a name is free, and then keep it with an empty file. */
+    bool canReplace = false;
+    /** The trash is on another disk: items are copied into it. */
+    bool isTrashApart = false;
+    /** What the disk below "/other" does not have. */
+    bool otherIsFat = false;
+    qint64 roomOnOther = -1;
+    std::error_code noRoom = std::make_error_code(std::errc::no_space_on_device);
+    QStringList settled;
+
+    /** A folder, and every copy of it, that may not be changed. */
+    void lock(const QString &path) { find(path)->isLocked = true; }
 
     void addFile(const QString &path, const QByteArray &bytes) { put(path, newNode(Kind::File, bytes)); }
     void addFolder(const QString &path) { put(path, newNode(Kind::Folder, {})); }
@@ -79,6 +93,22 @@ public:
         collect(*m_root, QString(), all);
         return all;
     }
+    /** The content of every file, in the trash too. */
+    QList<QByteArray> allBytes() const
+    {
+        std::map<QString, QByteArray> all;
+        collect(*m_root, QString(), all);
+        collect(*m_trash, QStringLiteral("/trash"), all);
+        QList<QByteArray> contents;
+        for (const auto &entry : all)
+            if (entry.second.startsWith('0'))
+                contents.append(entry.second.mid(1));
+        return contents;
+    }
+    /** All that is there, to be set back to. */
+    struct Copy;
+    Copy copied() const;
+    void restore(const Copy &state);
     int trashedCount() const { return int(m_trash->items.size()); }
 
     std::optional<State> look(const QString &path) const override
@@ -88,7 +118,7 @@ public:
             return std::nullopt;
         State state;
         state.kind = node->kind;
-        state.device = path.startsWith(QStringLiteral("/other")) ? 2 : 1;
+        state.device = deviceOf(path);
         state.inode = node->inode;
         state.bytes = node->bytes.size();
         state.changedNs = node->changed;
@@ -108,10 +138,20 @@ public:
     }
     QString canonicalFolder(const QString &folder) const override
     {
-        const auto node = find(folder);
-        return node && node->kind == Kind::Folder ? folder : QString();
+        const QString path = canonical(folder, 1);
+        const auto node = find(path);
+        return node && node->kind == Kind::Folder ? path : QString();
     }
-    bool mayChange(const QString &folder) const override { return !lockedFolders.contains(folder); }
+    bool mayChange(const QString &folder) const override
+    {
+        const auto node = find(folder);
+        return !lockedFolders.contains(folder) && !(node && node->isLocked);
+    }
+    bool mayBeTakenAway(const QString &path) const override
+    {
+        const auto node = find(path);
+        return mayChange(platform::parentFolder(path)) && (!node || isOpen(*node));
+    }
     QString linkText(const QString &path) const override
     {
         const auto node = find(path);
@@ -132,14 +172,16 @@ public:
         const auto folder = folderOf(to);
         if (!node || !folder)
             return std::make_error_code(std::errc::no_such_file_or_directory);
-        if (lockedFolders.contains(platform::parentFolder(from)) || lockedFolders.contains(platform::parentFolder(to)))
+        if (!mayChange(platform::parentFolder(from)) || !mayChange(platform::parentFolder(to)))
             return std::make_error_code(std::errc::permission_denied);
         if (find(to))
             return std::make_error_code(std::errc::file_exists);
-        if (to.startsWith(from + u'/'))
+        if ((canonical(to) + u'/').startsWith(canonical(from) + u'/') || !canBeNamed(to))
             return std::make_error_code(std::errc::invalid_argument);
-        if (look(from)->device != look(platform::parentFolder(to))->device)
+        if (deviceOf(from) != deviceOf(platform::parentFolder(to)))
             return std::make_error_code(std::errc::cross_device_link);
+        if (canReplace && node->kind != Kind::Folder)
+            return renameOntoPlaceholder(from, to);
         drop(from);
         folder->items[platform::lastPathComponent(to)] = node;
         return {};
@@ -165,16 +207,37 @@ public:
         const bool isCutShort = fuse && fuse->burns();
         if (!node || !folderOf(to) || find(to))
             return std::make_error_code(std::errc::no_such_file_or_directory);
-        const auto copied = copyOf(*node);
-        if (isCutShort)
+        if (!canBeNamed(to))
+            return std::make_error_code(std::errc::invalid_argument);
+        const std::error_code error = trouble ? trouble() : std::error_code();
+        const bool isOther = deviceOf(to) == 2;
+        if (isOther && otherIsFat && hasLink(*node))
+            return std::make_error_code(std::errc::operation_not_permitted);
+        const auto copied = copyOf(*node, isOther && otherIsFat ? coarse : 1);
+        const bool isFull = isOther && roomOnOther >= 0 && sizeOf(*node) > roomOnOther;
+        if (isCutShort || isFull || error)
             copied->bytes.chop(1);
         folderOf(to)->items[platform::lastPathComponent(to)] = copied;
         if (isCutShort)
             throw Killed();
-        const std::error_code error = trouble ? trouble() : std::error_code();
-        return error;
+        return isFull ? noRoom : error;
     }
+    /** Folders that may not be changed keep what is in them. */
     std::error_code remove(const QString &path) override
+    {
+        if (const std::error_code error = disturbed())
+            return error;
+        const auto node = find(path);
+        if (!node)
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        if (!isOpen(*node) || !mayChange(platform::parentFolder(path))) {
+            takeWhatMayGo(*node);
+            return std::make_error_code(std::errc::permission_denied);
+        }
+        drop(path);
+        return {};
+    }
+    std::error_code discard(const QString &path) override
     {
         if (const std::error_code error = disturbed())
             return error;
@@ -185,12 +248,25 @@ public:
     }
     platform::Result<platform::TrashedItem> trash(const QString &path) override
     {
+        const auto failed = platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("Cannot trash"));
         if (disturbed() || !find(path))
-            return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("Cannot trash"));
+            return failed;
         const QString name = QString::number(++m_trashCount);
-        m_trash->items[name] = find(path);
-        m_trashedFrom[name] = path;
-        drop(path);
+        m_trashedFrom[name] = canonical(path);
+        if (!isTrashApart) {
+            m_trash->items[name] = find(path);
+            drop(path);
+            return platform::TrashedItem{QStringLiteral("/trash/") + name};
+        }
+        m_trash->items[name] = copyOf(*find(path));
+        const QString aside = platform::joinedPath(platform::parentFolder(path), QStringLiteral(".quorlin-trashing"));
+        if (disturbed() || find(aside) || rename(path, aside) || !areSame(*find(aside), *m_trash->items[name]) ||
+            remove(aside)) {
+            if (find(path) || (find(aside) && !rename(aside, path)))
+                m_trash->items.erase(name);
+            if (find(path))
+                return failed;
+        }
         return platform::TrashedItem{QStringLiteral("/trash/") + name};
     }
     std::error_code restore(const platform::TrashedItem &item, const QString &path) override
@@ -209,7 +285,7 @@ public:
     {
         std::vector<platform::TrashedItem> found;
         for (const auto &[name, place] : m_trashedFrom)
-            if (place == path && m_trash->items.count(name) > 0)
+            if (place == canonical(path) && m_trash->items.count(name) > 0)
                 found.push_back({QStringLiteral("/trash/") + name});
         return found;
     }
@@ -217,11 +293,11 @@ public:
     std::optional<platform::TrashedItem> findTrashed(const QString &path, const State &state) const override
     {
         for (const auto &[name, node] : m_trash->items)
-            if (m_trashedFrom.at(name) == path && node->inode == state.inode)
+            if (m_trashedFrom.at(name) == canonical(path) && node->inode == state.inode)
                 return platform::TrashedItem{QStringLiteral("/trash/") + name};
         return std::nullopt;
     }
-    void settle(const QString &) override {}
+    void settle(const QString &folder) override { settled.append(folder); }
 
 private:
     struct Node
@@ -230,9 +306,12 @@ private:
         quint64 inode = 0;
         QByteArray bytes;
         qint64 changed = 0;
+        bool isLocked = false;
         std::map<QString, std::shared_ptr<Node>> items;
     };
     using NodePointer = std::shared_ptr<Node>;
+    static constexpr int mostLinks = 16;
+    static constexpr qint64 coarse = 2'000'000'000;
 
     NodePointer newNode(Kind kind, const QByteArray &bytes)
     {
@@ -243,13 +322,82 @@ private:
         node->bytes = bytes;
         return node;
     }
-    NodePointer copyOf(const Node &node)
+    static NodePointer sameAgain(const Node &node)
+    {
+        const auto same = std::make_shared<Node>(node);
+        for (auto &item : same->items)
+            item.second = sameAgain(*item.second);
+        return same;
+    }
+    NodePointer copyOf(const Node &node, qint64 grain = 1)
     {
         const auto copied = newNode(node.kind, node.bytes);
-        copied->changed = node.changed;
+        copied->changed = node.changed / grain * grain;
+        copied->isLocked = node.isLocked;
         for (const auto &[name, item] : node.items)
-            copied->items[name] = copyOf(*item);
+            copied->items[name] = copyOf(*item, grain);
         return copied;
+    }
+    static bool hasLink(const Node &node)
+    {
+        return node.kind == Kind::Link || std::any_of(node.items.begin(), node.items.end(),
+                                                      [](const auto &item) { return hasLink(*item.second); });
+    }
+    static qint64 sizeOf(const Node &node)
+    {
+        qint64 size = node.bytes.size();
+        for (const auto &item : node.items)
+            size += sizeOf(*item.second);
+        return size;
+    }
+    /** Whether neither it nor a folder in it is locked. */
+    static bool isOpen(const Node &node)
+    {
+        return !node.isLocked &&
+               std::all_of(node.items.begin(), node.items.end(), [](const auto &item) { return isOpen(*item.second); });
+    }
+    static void takeWhatMayGo(Node &node)
+    {
+        for (auto item = node.items.begin(); item != node.items.end() && !node.isLocked;) {
+            takeWhatMayGo(*item->second);
+            item = isOpen(*item->second) ? node.items.erase(item) : std::next(item);
+        }
+    }
+    quint64 deviceOf(const QString &path) const { return canonical(path).startsWith(QStringLiteral("/other")) ? 2 : 1; }
+    bool canBeNamed(const QString &path) const
+    {
+        return !otherIsFat || deviceOf(path) == 1 || !platform::lastPathComponent(path).contains(u':');
+    }
+    /** The path with the links above its last component followed, and that one too where it is a folder's. */
+    QString canonical(const QString &path, int depth = 0) const
+    {
+        if (!followsLinks || path.size() < 2 || depth > mostLinks)
+            return path;
+        const QString place =
+            platform::joinedPath(canonical(platform::parentFolder(path), depth + 1), platform::lastPathComponent(path));
+        const auto node = find(place);
+        if (!node || node->kind != Kind::Link || depth == 0)
+            return place;
+        return canonical(QString::fromUtf8(node->bytes), depth + 1);
+    }
+    std::error_code renameOntoPlaceholder(const QString &from, const QString &to)
+    {
+        const auto placeholder = newNode(Kind::File, {});
+        put(to, placeholder);
+        if (const std::error_code error = disturbed()) {
+            if (find(to) == placeholder && placeholder->bytes.isEmpty())
+                drop(to);
+            return error;
+        }
+        if (find(to) != placeholder || !placeholder->bytes.isEmpty())
+            return std::make_error_code(std::errc::file_exists);
+        const auto node = find(from);
+        drop(to);
+        if (!node)
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        drop(from);
+        folderOf(to)->items[platform::lastPathComponent(to)] = node;
+        return {};
     }
     static bool areSame(const Node &a, const Node &b)
     {
@@ -260,8 +408,8 @@ private:
     }
     NodePointer find(const QString &path) const
     {
-        if (path == QStringLiteral("/"))
-            return m_root;
+        if (path.size() < 2)
+            return path.isEmpty() ? nullptr : m_root;
         if (path == QStringLiteral("/trash"))
             return m_trash;
         const auto folder = folderOf(path);
@@ -270,7 +418,9 @@ private:
     }
     NodePointer folderOf(const QString &path) const
     {
-        const auto folder = find(platform::parentFolder(path));
+        auto folder = find(platform::parentFolder(path));
+        for (int depth = 0; folder && folder->kind == Kind::Link && followsLinks && depth < 1; ++depth)
+            folder = find(QString::fromUtf8(folder->bytes));
         return folder && folder->kind == Kind::Folder ? folder : nullptr;
     }
     /** The name as it is written in the folder. */
@@ -322,6 +472,25 @@ private:
     quint64 m_clock = 0;
     int m_trashCount = 0;
 };
+
+struct ModelFileSystem::Copy
+{
+    NodePointer root;
+    NodePointer trash;
+    std::map<QString, QString> trashedFrom;
+};
+
+inline ModelFileSystem::Copy ModelFileSystem::copied() const
+{
+    return {sameAgain(*m_root), sameAgain(*m_trash), m_trashedFrom};
+}
+
+inline void ModelFileSystem::restore(const Copy &state)
+{
+    m_root = sameAgain(*state.root);
+    m_trash = sameAgain(*state.trash);
+    m_trashedFrom = state.trashedFrom;
+}
 
 /** Journals in memory, which can be stopped at every line, in the middle of it too. */
 class ModelShelf : public files::JournalShelf

@@ -46,6 +46,16 @@ private Q_SLOTS:
     void leavesTheSourceWhenACopyFails();
     void removesFoldersThatStayEmpty();
     void trashesACopyThatWasChanged();
+    void trashesNoCopyThatIsItsOriginalByNow();
+    void keepsTheCopyOfASourceThatHasVanished();
+    void keepsWhatIsSavedAtTheLastMoment_data();
+    void keepsWhatIsSavedAtTheLastMoment();
+    void leavesNothingOfAFolderThatCannotLeave();
+    void saysWhatADiskCannotHold();
+    void settlesEveryNewFolderOnTheWayToAnotherDisk();
+    void endsNoRunWhoseJournalLacksALine();
+    void knowsWhatIsInTheTrashAfterAKill_data();
+    void knowsWhatIsInTheTrashAfterAKill();
     void leavesRunsOfOthersAlone();
     void keepsTheJournalsOfTheLastTwoHundredRuns();
     void readsAJournalThatWasCutShort();
@@ -239,7 +249,207 @@ void TestMoveRun::trashesACopyThatWasChanged()
     const UndoPlan undo = planUndo(*m_disk, *m_shelf, m_run);
     QCOMPARE(carriedOut(undo.form.items).count(QStringLiteral("OK")), 3);
     QVERIFY(!m_disk->look(at("x")) && !m_disk->look(at("y")) && !m_disk->look(at("z")));
-    QCOMPARE(m_disk->trashedCount(), 2);
+    QCOMPARE(m_disk->trashedCount(), 3);
+}
+
+void TestMoveRun::trashesNoCopyThatIsItsOriginalByNow()
+{
+    m_disk->addFolder(QStringLiteral("/new"));
+    QCOMPARE(carriedOut({item(Deed::Copy, "folder/in", "/new/in")}), QStringList(QStringLiteral("OK")));
+    const UndoPlan before = planUndo(*m_disk, *m_shelf, m_run);
+    m_disk->followsLinks = true;
+    // The old folder becomes a link to the new one: both paths lead to one picture.
+    m_disk->drop(at("folder"));
+    m_disk->addLink(at("folder"), QStringLiteral("/new"));
+    const UndoPlan undo = planUndo(*m_disk, *m_shelf, m_run);
+    QCOMPARE(undo.problems.at(0).code, QStringLiteral("original"));
+    QVERIFY(undo.form.items.empty());
+    QCOMPARE(carriedOut(before.form.items), QStringList(QStringLiteral("original")));
+    QCOMPARE(m_disk->bytes(QStringLiteral("/new/in")), QByteArray("folder/in"));
+}
+
+void TestMoveRun::keepsTheCopyOfASourceThatHasVanished()
+{
+    int last = 0;
+    for (int vanishes = 1;; ++vanishes) {
+        init();
+        int changes = 0;
+        m_disk->trouble = [&]() -> std::error_code {
+            if (++changes == vanishes && m_disk->look(at("a")))
+                m_disk->drop(at("a"));
+            return {};
+        };
+        const QString answer = carriedOut({move("a", "/other/a")}).first();
+        m_disk->trouble = nullptr;
+        recoverMoves(*m_disk, *m_shelf);
+        const bool isThere = m_disk->bytes(QStringLiteral("/other/a")) == "a";
+        // Only a source that vanished before a byte of it was copied is gone.
+        QVERIFY2(isThere || (vanishes == 1 && answer == QStringLiteral("gone")), qPrintable(answer));
+        QCOMPARE(answer == QStringLiteral("OK"), isThere);
+        last = vanishes;
+        if (changes < vanishes)
+            break;
+    }
+    QVERIFY(last > 3);
+}
+
+void TestMoveRun::keepsWhatIsSavedAtTheLastMoment_data()
+{
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::newRow("a file to another disk") << QStringLiteral("a") << QStringLiteral("/other/a");
+    QTest::newRow("a folder to another disk") << QStringLiteral("folder") << QStringLiteral("/other/folder");
+    QTest::newRow("an undo of a copy") << QString() << QString();
+}
+
+/** Another program saves into the item, at every change to the disk that the run makes. */
+void TestMoveRun::keepsWhatIsSavedAtTheLastMoment()
+{
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    for (int saved = 1, changes = 1; saved <= changes; ++saved) {
+        init();
+        std::vector<MoveItem> items = {item(Deed::Move, qPrintable(from), qPrintable(to))};
+        QString path = at(from == QStringLiteral("folder") ? "folder/in" : "a");
+        if (from.isEmpty()) {
+            QCOMPARE(carriedOut({item(Deed::Copy, "a", "x")}), QStringList(QStringLiteral("OK")));
+            items = planUndo(*m_disk, *m_shelf, m_run).form.items;
+            path = at("x");
+        }
+        changes = 0;
+        bool isSaved = false;
+        m_disk->trouble = [&]() -> std::error_code {
+            if (++changes == saved && m_disk->look(path)) {
+                m_disk->change(path, "worked on");
+                isSaved = true;
+            }
+            return {};
+        };
+        (void)carriedOut(items);
+        m_disk->trouble = nullptr;
+        const bool isThere = m_disk->allBytes().contains("worked on");
+        QVERIFY2(isThere || !isSaved, qPrintable(QString::number(saved)));
+        for (const QString &name : names())
+            QVERIFY2(!name.contains(QStringLiteral(".quorlin")), qPrintable(name));
+    }
+}
+
+void TestMoveRun::leavesNothingOfAFolderThatCannotLeave()
+{
+    m_disk->addFile(at("folder/inner/deep"), "deep");
+    m_disk->lock(at("folder/inner"));
+    const auto before = m_disk->everything();
+    QCOMPARE(carriedOut({move("folder", "/other/folder")}), QStringList(QStringLiteral("locked")));
+    QVERIFY(m_disk->everything() == before);
+    // The copy of it can be taken away, though.
+    m_disk->roomOnOther = 5;
+    QCOMPARE(carriedOut({item(Deed::Copy, "folder", "/other/folder")}), QStringList(QStringLiteral("full")));
+    QVERIFY(m_disk->everything() == before);
+}
+
+void TestMoveRun::saysWhatADiskCannotHold()
+{
+    m_disk->otherIsFat = true;
+    m_disk->addLink(at("folder/link"), QStringLiteral("in"));
+    const auto before = m_disk->everything();
+    QCOMPARE(carriedOut({move("a", "/other/12:30.jpg")}), QStringList(QStringLiteral("illegal")));
+    QCOMPARE(carriedOut({move("folder", "/other/folder")}), QStringList(QStringLiteral("locked")));
+    m_disk->roomOnOther = 0;
+    for (const std::error_code &error :
+         {std::make_error_code(std::errc::no_space_on_device), std::error_code(EDQUOT, std::generic_category())}) {
+        m_disk->noRoom = error;
+        QCOMPARE(carriedOut({move("a", "/other/a")}), QStringList(QStringLiteral("full")));
+    }
+    QVERIFY(m_disk->everything() == before);
+    m_disk->roomOnOther = -1;
+    QCOMPARE(carriedOut({move("a", "/other/a"), move("folder", "folder/b/c")}),
+             QStringList({QStringLiteral("OK"), QStringLiteral("inside")}));
+    const UndoPlan undo = planUndo(*m_disk, *m_shelf, m_run);
+    QVERIFY(undo.problems.empty());
+    QCOMPARE(carriedOut(undo.form.items), QStringList(QStringLiteral("OK")));
+    QCOMPARE(m_disk->bytes(at("a")), QByteArray("a"));
+}
+
+void TestMoveRun::settlesEveryNewFolderOnTheWayToAnotherDisk()
+{
+    QCOMPARE(carriedOut({move("a", "/other/new/er/est/a")}), QStringList(QStringLiteral("OK")));
+    for (const char *folder : {"/other", "/other/new", "/other/new/er", "/other/new/er/est"})
+        QVERIFY2(m_disk->settled.contains(QString::fromLatin1(folder)), folder);
+}
+
+/** Lines that could not be written on a full disk come later, and without them the run does not end. */
+void TestMoveRun::endsNoRunWhoseJournalLacksALine()
+{
+    for (const bool isFreedInTime : {true, false}) {
+        init();
+        bool isFull = false;
+        class SmallShelf : public ModelShelf
+        {
+        public:
+            bool *isFull = nullptr;
+            QString append(const QString &name, const QByteArray &lines, Lasting lasting) override
+            {
+                return *isFull ? QStringLiteral("full") : ModelShelf::append(name, lines, lasting);
+            }
+        };
+        auto shelf = std::make_unique<SmallShelf>();
+        shelf->isFull = &isFull;
+        m_shelf = std::move(shelf);
+        const auto before = m_disk->everything();
+        MoveOrderForm form;
+        form.items = {move("a", "x"), move("b", "y"), move("c", "z")};
+        QString problem;
+        const auto run = MoveRun::begin(*m_disk, *m_shelf, form, &problem);
+        for (int i = 0; i < 3; ++i) {
+            isFull = isFreedInTime ? i == 1 : i >= 1;
+            QCOMPARE(run->next()->stand, Stand::Done);
+        }
+        QCOMPARE(run->end().isEmpty(), isFreedInTime);
+        isFull = false;
+        QCOMPARE(recoverMoves(*m_disk, *m_shelf).size(), size_t(isFreedInTime ? 0 : 1));
+        const UndoPlan undo = planUndo(*m_disk, *m_shelf, run->id());
+        QCOMPARE(carriedOut(undo.form.items).count(QStringLiteral("OK")), 3);
+        QVERIFY(m_disk->everything() == before);
+    }
+}
+
+void TestMoveRun::knowsWhatIsInTheTrashAfterAKill_data()
+{
+    QTest::addColumn<bool>("isApart");
+    QTest::newRow("renamed into it") << false;
+    QTest::newRow("copied into it") << true;
+}
+
+void TestMoveRun::knowsWhatIsInTheTrashAfterAKill()
+{
+    QFETCH(bool, isApart);
+    int kills = 0;
+    for (int count = 0; count < 30; ++count) {
+        init();
+        Fuse fuse;
+        m_disk->isTrashApart = isApart;
+        m_disk->fuse = m_shelf->fuse = &fuse;
+        fuse.light(count);
+        bool isKilled = false;
+        try {
+            (void)carriedOut({item(Deed::Trash, "a", ""), item(Deed::Trash, "folder", "")});
+        } catch (const Killed &) {
+            isKilled = true;
+        }
+        kills += isKilled;
+        fuse.putOut();
+        m_shelf->held.clear();
+        for (const RecoveredRun &run : recoverMoves(*m_disk, *m_shelf))
+            QVERIFY2(run.problems.isEmpty(), qPrintable(run.problems.join(u' ')));
+        if (m_shelf->journals.empty())
+            continue;
+        const UndoPlan undo = planUndo(*m_disk, *m_shelf, m_shelf->names().first());
+        QVERIFY(undo.problems.empty());
+        (void)carriedOut(undo.form.items);
+        QCOMPARE(m_disk->bytes(QStringLiteral("/d/a")), QByteArray("a"));
+        QCOMPARE(m_disk->bytes(QStringLiteral("/d/folder/in")), QByteArray("folder/in"));
+    }
+    QVERIFY(kills > 4 && kills < 30);
 }
 
 void TestMoveRun::leavesRunsOfOthersAlone()
