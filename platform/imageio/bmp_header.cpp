@@ -63,19 +63,40 @@ BmpHeader readBmpHeader(QIODevice &file)
     return header;
 }
 
-QByteArray readBmpProfile(QIODevice &file)
+namespace {
+
+struct ProfilePlace
+{
+    qint64 at = 0;
+    qint64 size = 0;
+};
+
+ProfilePlace profilePlace(QIODevice &file)
 {
     constexpr quint32 headerBytes = 124;
     constexpr quint32 embedded = 0x4D424544;
-    constexpr quint32 mostProfileBytes = 16 << 20;
     const QByteArray head = file.seek(0) ? file.read(fileHeaderBytes + qint64(headerBytes)) : QByteArray();
     if (head.size() < fileHeaderBytes + int(headerBytes) || numberAt<quint32>(head, fileHeaderBytes) != headerBytes ||
         numberAt<quint32>(head, fileHeaderBytes + 56) != embedded)
         return {};
-    const qint64 position = fileHeaderBytes + qint64(numberAt<quint32>(head, fileHeaderBytes + 112));
-    const auto size = numberAt<quint32>(head, fileHeaderBytes + 116);
-    const bool isInside = size <= mostProfileBytes && position + size <= file.size();
-    return isInside && file.seek(position) ? file.read(size) : QByteArray();
+    return {fileHeaderBytes + qint64(numberAt<quint32>(head, fileHeaderBytes + 112)),
+            numberAt<quint32>(head, fileHeaderBytes + 116)};
+}
+
+} // namespace
+
+qint64 endOfBmpProfile(QIODevice &file)
+{
+    const ProfilePlace place = profilePlace(file);
+    return place.at + place.size;
+}
+
+QByteArray readBmpProfile(QIODevice &file)
+{
+    constexpr qint64 mostProfileBytes = 16 << 20;
+    const ProfilePlace place = profilePlace(file);
+    const bool isInside = place.size <= mostProfileBytes && place.at + place.size <= file.size();
+    return isInside && file.seek(place.at) ? file.read(place.size) : QByteArray();
 }
 
 } // namespace platform

@@ -17,6 +17,9 @@ struct BmpHeader
 
 BmpHeader readBmpHeader(QIODevice &file);
 
+/** Where an embedded colour profile ends; 0 where there is none. */
+qint64 endOfBmpProfile(QIODevice &file);
+
 /** The colour profile that the newest of the headers can embed; empty where there is none. */
 QByteArray readBmpProfile(QIODevice &file);
 

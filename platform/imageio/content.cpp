@@ -1,6 +1,6 @@
 #include "platform/imageio/content.h"
 
-#include "platform/imageio/bmp_header.h"
+#include "platform/imageio/block_reader.h"
 
 #include <QIODevice>
 #include <QtEndian>
@@ -38,115 +38,71 @@ bool isTiff(const QByteArray &head)
     return marks.contains(head.left(4));
 }
 
-QByteArray bytesAt(QIODevice &file, qint64 position, qint64 count)
+bool isMetadataOrTables(uchar marker, const QByteArray &segment)
 {
-    const bool isInside = position <= file.size();
-    return isInside && file.seek(position) ? file.read(count) : QByteArray();
+    constexpr qsizetype headBytes = 4;
+    const QByteArray payload = segment.mid(headBytes);
+    switch (marker) {
+    case 0xe0:
+        return payload.startsWith("JFIF");
+    case 0xe1:
+        return payload.startsWith("Exif") || payload.startsWith("http");
+    case 0xee:
+        return payload.startsWith("Adobe");
+    case 0xdb: // a table of 64 numbers of 8 or 16 bits begins with its own number
+        return payload.size() > 64 && uchar(payload[0]) <= 0x13;
+    default:
+        return false;
+    }
 }
 
-/** Looks for the end mark from the end of the file on, since other bytes may follow it. */
-bool jpegEndIsThere(QIODevice &file)
+/** The two bytes of the beginning are not enough where other bytes lie between them and the first segment. */
+bool isJpeg(const QByteArray &head)
 {
-    const qint64 first = startOfJpegScan(file);
-    if (first < 0)
+    if (!head.startsWith("\xFF\xD8"))
         return false;
-    constexpr qint64 lastBytes = 1024; // mostly nothing follows
-    constexpr qint64 step = 65536;
-    const qint64 size = file.size();
-    for (qint64 end = size; end > first;) {
-        const qint64 begin = std::max(first, end - (end == size ? lastBytes : step));
-        const QByteArray bytes = bytesAt(file, begin, end - begin);
-        if (bytes.contains("\xFF\xD9"))
+    for (qsizetype at = head.indexOf('\xFF', 2); at >= 0 && at + 1 < head.size(); at = head.indexOf('\xFF', at + 1)) {
+        const auto marker = uchar(head[at + 1]);
+        if (at == 2)
             return true;
-        if (begin == first)
-            break;
-        end = begin + 1; // the mark may lie across two steps
+        if (marker != 0 && marker != 0xff)
+            return isMetadataOrTables(marker, head.mid(at));
     }
     return false;
-}
-
-bool pngEndIsThere(QIODevice &file)
-{
-    constexpr int chunkFrame = 12;
-    qint64 position = 8;
-    for (;;) {
-        const QByteArray head = bytesAt(file, position, 8);
-        if (head.size() < 8)
-            return false;
-        position += chunkFrame + qint64(qFromBigEndian<quint32>(head.constData()));
-        if (head.endsWith("IEND"))
-            return position <= file.size();
-    }
-}
-
-/** Steps over the sub-blocks from @p position on; the position behind them, or -1 where they are cut short. */
-qint64 behindGifBlocks(QIODevice &file, qint64 position)
-{
-    for (;;) {
-        const QByteArray size = bytesAt(file, position, 1);
-        if (size.isEmpty())
-            return -1;
-        position += 1 + uchar(size[0]);
-        if (size[0] == 0)
-            return position;
-    }
-}
-
-/** True if the first picture of the file is whole; what comes behind it is of no use here. */
-bool gifPictureIsThere(QIODevice &file)
-{
-    const auto tableBytes = [](uchar flags) { return flags & 0x80 ? 3LL << ((flags & 7) + 1) : 0LL; };
-    const QByteArray screen = bytesAt(file, 0, 13);
-    if (screen.size() < 13)
-        return false;
-    qint64 position = 13 + tableBytes(uchar(screen[10]));
-    while (position > 0) {
-        const QByteArray head = bytesAt(file, position, 10);
-        if (head.startsWith('!'))
-            position = behindGifBlocks(file, position + 2);
-        else if (head.startsWith(',') && head.size() == 10)
-            return behindGifBlocks(file, position + 11 + tableBytes(uchar(head[9]))) > 0;
-        else
-            return false;
-    }
-    return false;
-}
-
-bool webpEndIsThere(QIODevice &file)
-{
-    const QByteArray head = bytesAt(file, 0, 8);
-    return head.size() == 8 && qint64(qFromLittleEndian<quint32>(head.constData() + 4)) + 8 <= file.size();
 }
 
 } // namespace
 
 qint64 startOfJpegScan(QIODevice &file)
 {
+    constexpr qint64 mostBetweenSegments = 65536;
+    BlockReader reader(file);
     qint64 position = 2;
-    for (;;) {
-        const QByteArray head = bytesAt(file, position, 4);
+    qint64 strayBytes = 0;
+    while (strayBytes <= mostBetweenSegments) {
+        const QByteArrayView head = reader.at(position, 4);
         if (head.size() < 4)
             return -1;
-        if (uchar(head[0]) != 0xFF) {
-            ++position; // some writers leave bytes between the segments
-            continue;
-        }
         const auto marker = uchar(head[1]);
-        const bool standsAlone = marker == 0xFF || marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
-        if (standsAlone) {
-            position += marker == 0xFF ? 1 : 2;
+        const bool isNone = uchar(head[0]) != 0xFF || marker == 0xFF || marker == 0;
+        if (isNone) { // some writers leave bytes between the segments
+            ++position;
+            ++strayBytes;
             continue;
         }
-        const qint64 next = position + 2 + qFromBigEndian<quint16>(head.constData() + 2);
+        const bool standsAlone = marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
+        const qint64 next = position + 2 + (standsAlone ? 0 : qFromBigEndian<quint16>(head.data() + 2));
         if (marker == 0xDA)
             return next;
         position = next;
+        strayBytes += standsAlone ? 2 : 0;
     }
+    return -1;
 }
 
 Content contentOf(const QByteArray &head)
 {
-    if (head.startsWith("\xFF\xD8\xFF"))
+    if (isJpeg(head))
         return Content::Jpeg;
     if (head.startsWith("\x89PNG\r\n\x1A\n"))
         return Content::Png;
@@ -202,24 +158,6 @@ QString typeIdentifierOf(Content content)
         break;
     }
     return {};
-}
-
-bool endIsThere(QIODevice &file, Content content)
-{
-    switch (content) {
-    case Content::Jpeg:
-        return jpegEndIsThere(file);
-    case Content::Png:
-        return pngEndIsThere(file);
-    case Content::Gif:
-        return gifPictureIsThere(file);
-    case Content::Webp:
-        return webpEndIsThere(file);
-    case Content::Bmp:
-        return readBmpHeader(file).bytesNeeded <= file.size();
-    default:
-        return true;
-    }
 }
 
 } // namespace platform

@@ -20,12 +20,9 @@ Content contentOf(const QByteArray &head);
 QString typeIdentifierOf(Content content);
 
 /**
- * False where the end of the picture is missing although its header may be whole. Reads a few bytes of the end, or
- * steps over the blocks of the file; formats without a mark of their end answer true.
+ * The position behind the header of a JPEG's first scan; -1 where there is none, or none behind a few stray bytes, as in a
+ * file that a damaged card has filled up with zeros.
  */
-bool endIsThere(QIODevice &file, Content content);
-
-/** The position behind the header of a JPEG's first scan; -1 where there is none. */
 qint64 startOfJpegScan(QIODevice &file);
 
 } // namespace platform

@@ -1,5 +1,7 @@
 #include "platform/imageio/encoders.h"
 
+#include <algorithm>
+
 #include <cmath>
 #include <cstring>
 
@@ -26,6 +28,17 @@ VImage withResolution(const VImage &image, Resolution resolution)
     const double vertical = resolution.vertical > 0 ? resolution.vertical : defaultDpi;
     return image.copy(
         VImage::option()->set("xres", horizontal / millimetresPerInch)->set("yres", vertical / millimetresPerInch));
+}
+
+/** The side of a tile that leaves no narrow strip at the end of @p side: 512 where it may be. */
+int jpeg2000TileSide(int side)
+{
+    constexpr int usual = 512;
+    constexpr int narrow = 128;
+    int tile = usual;
+    while (side > tile && side % tile != 0 && side % tile < narrow && tile > narrow)
+        tile -= 32;
+    return tile;
 }
 
 } // namespace
@@ -93,8 +106,17 @@ QByteArray encodeJpeg2000(const VImage &image)
 {
     // Above this the difference to the source cannot be seen.
     constexpr int visuallyLossless = 60;
-    return bytesOf(image.jp2ksave_buffer(
-        VImage::option()->set("Q", visuallyLossless)->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));
+    // The encoder reckons with what a tile holds: one that is small and flat comes out as another colour.
+    constexpr int leastSide = 128;
+    constexpr int leastArea = 256 * 256;
+    const bool isSmall = std::min(image.width(), image.height()) < leastSide || image.width() <= leastArea / image.height();
+    return bytesOf(
+        image.jp2ksave_buffer(VImage::option()
+                                  ->set("Q", visuallyLossless)
+                                  ->set("lossless", isSmall)
+                                  ->set("tile_width", jpeg2000TileSide(image.width()))
+                                  ->set("tile_height", jpeg2000TileSide(image.height()))
+                                  ->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));
 }
 
 } // namespace platform

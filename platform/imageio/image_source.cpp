@@ -3,6 +3,7 @@
 #include "platform/graphics/resample.h"
 #include "platform/imageio/opened_file.h"
 #include "platform/imageio/raw_preview.h"
+#include "platform/imageio/whole_picture.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -107,7 +108,7 @@ Result<void> readHeader(File &file)
 /** The decoder of JPEG judges its header by itself, without all that reads the metadata for an image. */
 bool isSoundJpeg(QIODevice &device)
 {
-    if (!endIsThere(device, Content::Jpeg) || !device.seek(0))
+    if (!isWhole(device, Content::Jpeg) || !device.seek(0))
         return false;
     const std::optional<JpegHeader> header = readJpegHeader(device);
     return header && fitsMemoryBudget(header->size.width(), header->size.height(), header->componentCount, 1);
@@ -136,13 +137,15 @@ Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
     }
     const QByteArray head = device->read(contentHeadBytes);
     file->content = contentOf(head);
-    if (isCameraRaw(head))
+    const bool isRaw = isCameraRaw(head);
+    const bool isRawWhole = !isRaw || isWholeRaw(*device);
+    if (isRaw && isRawWhole)
         usePreview(*file);
-    if (file->content == Content::Unknown)
+    if (file->content == Content::Unknown && isRawWhole)
         return failure(ErrorCode::NotAPicture,
                        text("Cannot read %1: %2").arg(file->name(), text("this is not a picture")));
     const std::unique_ptr<QIODevice> decoded = file->isRaw() ? file->bytes.device() : nullptr;
-    if (!endIsThere(decoded ? *decoded : *device, file->content))
+    if (!isRawWhole || !isWhole(decoded ? *decoded : *device, file->content))
         return unreadable(file->name(), text("the file is cut short"));
     try {
         const Result<void> known = hasPlainHeader(file->content) ? readPlainHeader(*file) : readHeader(*file);

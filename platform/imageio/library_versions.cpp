@@ -5,6 +5,7 @@
 #include <cairo.h>
 #include <exiv2/exiv2.hpp>
 #include <libdeflate.h>
+#include <openjpeg.h>
 #include <vips/vips.h>
 
 namespace platform {
@@ -28,6 +29,7 @@ QList<Library> librariesInUse()
         {QStringLiteral("Cairo"), QString::fromLatin1(cairo_version_string()), QStringLiteral("LGPL 2.1")},
         {QStringLiteral("libjpeg-turbo"), QStringLiteral(QUORLIN_JPEG_VERSION), QStringLiteral("IJG, BSD")},
         {QStringLiteral("libdeflate"), QStringLiteral(LIBDEFLATE_VERSION_STRING), QStringLiteral("MIT")},
+        {QStringLiteral("OpenJPEG"), QString::fromLatin1(opj_version()), QStringLiteral("BSD")},
         {QStringLiteral("libplist"), QStringLiteral(QUORLIN_PLIST_VERSION), QStringLiteral("LGPL 2.1")},
     };
 }

@@ -2,7 +2,7 @@
 
 #include "platform/graphics/resample.h"
 #include "platform/imageio/bmp_header.h"
-#include "platform/imageio/jp2_profile.h"
+#include "platform/imageio/jpeg2000_reader.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -70,14 +70,6 @@ VImage loadBitmapFile(const PictureBytes &source)
 {
     const std::unique_ptr<QIODevice> device = source.device();
     return withProfile(loadThroughQt(source, "bmp"), device ? readBmpProfile(*device) : QByteArray());
-}
-
-VImage loadJpeg2000(const PictureBytes &source)
-{
-    constexpr qint64 mostBeforePixels = 4 << 20;
-    const std::unique_ptr<QIODevice> device = source.device();
-    return withProfile(VImage::jp2kload_source(sourceOf(source), commonOptions()),
-                       device ? jpeg2000Profile(device->read(mostBeforePixels)) : QByteArray());
 }
 
 /** The general reader of many formats, for the one that no other reads; the size is known to be in the budget. */

@@ -4,6 +4,8 @@
 #include "platform/imageio/exif_tags.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/jpeg_segments.h"
+#include "platform/imageio/raw_preview.h"
+#include "platform/imageio/whole_picture.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -180,7 +182,7 @@ void takeProperties(PictureFacts &facts, const QVariantMap &properties)
 std::optional<PictureFacts> factsOfJpeg(QIODevice &file)
 {
     const qint64 scan = startOfJpegScan(file);
-    if (scan < 0 || scan > largestBlock || !endIsThere(file, Content::Jpeg) || !file.seek(0))
+    if (scan < 0 || scan > largestBlock || !isWhole(file, Content::Jpeg) || !file.seek(0))
         return {};
     const QByteArray head = file.read(scan);
     const JpegSegments segments = findJpegSegments(head);
@@ -216,8 +218,9 @@ PictureFacts pictureFacts(const QString &path)
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) // a pipe would keep the reader waiting
         return {};
-    const Content content = contentOf(file.peek(contentHeadBytes));
-    if (content == Content::Unknown)
+    const QByteArray head = file.peek(contentHeadBytes);
+    const Content content = contentOf(head);
+    if (content == Content::Unknown && !isCameraRaw(head)) // raw files of some makers have a mark of their own
         return {};
     if (const auto known = content == Content::Jpeg ? factsOfJpeg(file) : std::nullopt)
         return *known;

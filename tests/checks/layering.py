@@ -34,12 +34,12 @@ QT_MODULES.update({"text": {"QtCore"}, "platform": {"QtCore", "QtGui"}, "views":
 # Third-party headers and targets, by the one room that may include or link them.
 THIRD_PARTY = [
     (r"(vips/|VImage|vips8?\b)", "platform"), (r"exiv2/", "platform"), (r"cairo", "platform"),
-    (r"(jpeglib|jerror|jmorecfg|turbojpeg)\.h|jpeglib\.h", "platform"), (r"plist/", "platform"), (r"libdeflate\.h", "platform"),
+    (r"(jpeglib|jerror|jmorecfg|turbojpeg)\.h|jpeglib\.h", "platform"), (r"plist/", "platform"), (r"openjpeg\.h", "platform"), (r"libdeflate\.h", "platform"),
     (r"(glib|gobject|gio)(/|\.h|-object\.h)", "platform"), (r"(tiff|png|zlib|lcms2|webp/.*|libheif/.*)\.?h?$", "platform"),
     (r"sqlite3\.h", "presets"), (r"tl/expected\.hpp", "platform"),
 ]
 LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "PkgConfig::CAIRO": "platform",
-                "PkgConfig::JPEG": "platform", "PkgConfig::TURBOJPEG": "platform", "PkgConfig::PLIST": "platform",
+                "PkgConfig::JPEG": "platform", "PkgConfig::TURBOJPEG": "platform", "PkgConfig::PLIST": "platform", "PkgConfig::OPENJPEG": "platform",
                 "PkgConfig::DEFLATE": "platform", "PkgConfig::SQLITE": "presets", "SQLite::SQLite3": "presets"}
 SYSTEM = re.compile(r"(sys|linux|netinet)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|signal|pwd|errno|time|malloc)\.h")
 STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits)\.h")

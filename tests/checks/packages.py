@@ -21,7 +21,7 @@ ALWAYS = set("""apt-get awk basename bash cat cd chmod cmp comm cp cut date df d
 # Commands whose use in files of ours is looked for; the list of packages must give each one that is used.
 KNOWN = """cmake ctest cpack ninja pkg-config python3 git exiftool vips vipsheader vipsthumbnail vipsedit identify
     convert gm mogrify exiv2 Xvfb xvfb-run xdotool import desktop-file-validate appstreamcli clang-format clang-tidy
-    run-clang-tidy hyperfine jpegtran djpeg cjpeg tiffinfo pdfinfo pdftoppm pdfimages opj_decompress compare lupdate lrelease rsvg-convert file xauth
+    run-clang-tidy hyperfine jpegtran djpeg cjpeg tiffinfo pdfinfo pdftoppm pdfimages opj_decompress opj_compress compare lupdate lrelease rsvg-convert file xauth
     sqlite3 plistutil dbus-run-session strace valgrind""".split()
 HEADERS = {"tl/expected.hpp"}
 # Formats of Qt that are read and written by plugins of a package of their own.

@@ -29,7 +29,7 @@ SOME = {"orientation": re.compile(r"landscape_[368]|portrait_5|exif_imagemagick|
         "exif-real": re.compile(r"DSCN|Pentax|Reagan|uc-unicode|i18n|bug528|Canon_40D|Paint"), "dpi": re.compile(""),
         "formats": re.compile("")}
 # No decoder here reads these: nothing may come of them.
-UNREAD = {"formats/00r1_graya_la.jp2", "formats/IMG_1361.dng"}
+UNREAD = {"formats/IMG_1361.dng"}
 # Tags about how the source's file was put together, about its pixels, or made up by the reader.
 OWN_TO_FILE = re.compile(r"Offset|Thumbnail|ImageWidth|ImageHeight|ImageSize|Pixel|ImageLength|StripByte|Interop|BitsPerSample|Compression$"
                          r"|Photometric|SamplesPerPixel|RowsPerStrip|Planar|YCbCr|SampleFormat|Resolution|Orientation|XMPToolkit"

@@ -1,0 +1,35 @@
+#pragma once
+
+// Inside platform/ only.
+
+#include <QByteArray>
+#include <QIODevice>
+#include <QtEndian>
+
+namespace platform {
+
+/**
+ * Small pieces of a file by their places, read in blocks: a step over millions of tiny parts asks the file for some
+ * hundred blocks, and a step from one large part to the next does not read what lies between.
+ */
+class BlockReader
+{
+public:
+    explicit BlockReader(QIODevice &file) : m_file(file), m_size(file.size()) {}
+
+    qint64 size() const { return m_size; }
+    /** Up to @p count bytes, at most largestPiece; fewer at the end of the file. A view that the next call may take away. */
+    QByteArrayView at(qint64 position, qsizetype count);
+    /** The whole number of 1 to 8 bytes at @p position; -1 where it lies outside the file or does not fit. */
+    qint64 number(qint64 position, qsizetype bytes, bool isLittle = false);
+
+    static constexpr qsizetype largestPiece = 4096;
+
+private:
+    QIODevice &m_file;
+    qint64 m_size;
+    qint64 m_start = 0;
+    QByteArray m_block;
+};
+
+} // namespace platform
