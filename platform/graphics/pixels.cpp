@@ -94,8 +94,9 @@ VImage inMemory(const VImage &image)
     vips_error_clear();
     const VImage computed = image.copy_memory();
     // Other readers leave texts there about pictures that are good.
-    if (std::strstr(vips_error_buffer(), "vipspng") != nullptr)
-        throw vips::VError(vips_error_buffer());
+    for (const char *reader : {"vipspng", "jpeg2000"})
+        if (std::strstr(vips_error_buffer(), reader) != nullptr)
+            throw vips::VError(vips_error_buffer());
     return computed;
 }
 

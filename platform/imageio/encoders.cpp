@@ -109,14 +109,14 @@ QByteArray encodeJpeg2000(const VImage &image)
     // The encoder reckons with what a tile holds: one that is small and flat comes out as another colour.
     constexpr int leastSide = 128;
     constexpr int leastArea = 256 * 256;
-    const bool isSmall = std::min(image.width(), image.height()) < leastSide || image.width() <= leastArea / image.height();
-    return bytesOf(
-        image.jp2ksave_buffer(VImage::option()
-                                  ->set("Q", visuallyLossless)
-                                  ->set("lossless", isSmall)
-                                  ->set("tile_width", jpeg2000TileSide(image.width()))
-                                  ->set("tile_height", jpeg2000TileSide(image.height()))
-                                  ->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));
+    const bool isSmall =
+        std::min(image.width(), image.height()) < leastSide || image.width() <= leastArea / image.height();
+    return bytesOf(image.jp2ksave_buffer(VImage::option()
+                                             ->set("Q", visuallyLossless)
+                                             ->set("lossless", isSmall)
+                                             ->set("tile_width", jpeg2000TileSide(image.width()))
+                                             ->set("tile_height", jpeg2000TileSide(image.height()))
+                                             ->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));
 }
 
 } // namespace platform

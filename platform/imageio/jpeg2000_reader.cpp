@@ -74,10 +74,9 @@ VImage imageOf(std::unique_ptr<Decoding> decoding)
     const Jpeg2000Header &header = decoding->header;
     const bool isDeep = decoding->bits > byteBits;
     VipsImage *image = vips_image_new();
-    vips_image_init_fields(image, header.size.width(), header.size.height(),
-                           header.colourCount() + (header.hasAlpha ? 1 : 0),
-                           isDeep ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR, VIPS_CODING_NONE,
-                           interpretationOf(header, isDeep), 1, 1);
+    vips_image_init_fields(
+        image, header.size.width(), header.size.height(), header.colourCount() + (header.hasAlpha ? 1 : 0),
+        isDeep ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR, VIPS_CODING_NONE, interpretationOf(header, isDeep), 1, 1);
     VImage owner(image);
     Decoding *state = decoding.release();
     g_object_set_data_full(G_OBJECT(image), "quorlin-jpeg2000", state,

@@ -193,7 +193,8 @@ private:
         constexpr qint64 elsewhere = 0xffffffff; // a maker's own tag says where
         if (offset == elsewhere || (offset == 0 && length == 0))
             return;
-        m_isSound = m_isSound && offset >= 0 && length >= 0 && offset <= m_file.size() && length <= m_file.size() - offset;
+        m_isSound =
+            m_isSound && offset >= 0 && length >= 0 && offset <= m_file.size() && length <= m_file.size() - offset;
     }
 
     BlockReader m_file;

@@ -286,6 +286,11 @@ void TestMetadataPage::showsPicturesOfCamerasAndPhones()
         QSKIP("no shared pictures");
     const QString copy = path(QFileInfo(picture).fileName());
     QVERIFY(QFile::copy(source, copy));
+    if (picture.endsWith(QLatin1String(".dng"))) { // what the sensor saw was cut off there
+        QFile file(copy);
+        QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+        QVERIFY(file.resize(64 << 20));
+    }
     m_driver->drop({copy});
     QVERIFY(m_driver->waitFor([this] { return m_driver->pictures().count() == 1; }));
     QCOMPARE(m_driver->text("metaName"), QFileInfo(picture).fileName());

@@ -74,9 +74,8 @@ QByteArray TestJpeg2000::codestreamOf(const QByteArray &samples, const QString &
     if (!raw.open(QIODevice::WriteOnly) || raw.write(samples) != samples.size())
         return {};
     raw.close();
-    QStringList arguments = {QStringLiteral("-i"), raw.fileName(),       QStringLiteral("-o"),
-                             at(QStringLiteral("a.j2k")), QStringLiteral("-F"), form,
-                             QStringLiteral("-n"),        QStringLiteral("2")};
+    QStringList arguments = {QStringLiteral("-i"), raw.fileName(), QStringLiteral("-o"), at(QStringLiteral("a.j2k")),
+                             QStringLiteral("-F"), form,           QStringLiteral("-n"), QStringLiteral("2")};
     arguments += options.split(u' ', Qt::SkipEmptyParts);
     QProcess process;
     process.start(QStringLiteral("opj_compress"), arguments);
@@ -112,8 +111,8 @@ void TestJpeg2000::expandsAPalette()
     const QByteArray palette =
         big16(3) + "\3\7\7\7" + QByteArray("\xFF\0\0", 3) + QByteArray("\0\xFF\0", 3) + QByteArray("\x11\x22\x33", 3);
     const QByteArray mapping("\0\0\1\0\0\0\1\1\0\0\1\2", 12);
-    const auto source =
-        ImageSource::fromData(file(codestream, 1, box("colr", knownSpace(16)) + box("pclr", palette) + box("cmap", mapping)));
+    const auto source = ImageSource::fromData(
+        file(codestream, 1, box("colr", knownSpace(16)) + box("pclr", palette) + box("cmap", mapping)));
     QVERIFY2(source, source ? "" : qPrintable(source.error().message));
     const auto bitmap = source->decode();
     QVERIFY2(bitmap, bitmap ? "" : qPrintable(bitmap.error().message));
@@ -139,7 +138,8 @@ void TestJpeg2000::refusesAPaletteThatContradictsThePicture()
     QFETCH(QByteArray, mapping);
     const auto source = ImageSource::fromData(
         file(flatCodestream({0}), 1, box("colr", knownSpace(16)) + box("pclr", palette) + box("cmap", mapping)));
-    QVERIFY(!source || !source->decode());
+    for (int attempt = 0; attempt < 20; ++attempt) // several threads take part, and none may forget what another found
+        QVERIFY(!source || !source->decode());
 }
 
 void TestJpeg2000::convertsColours_data()
@@ -212,7 +212,8 @@ void TestJpeg2000::enlargesSmallerComponents()
 {
     QByteArray samples(16 * 16, char(90));
     samples += QByteArray(8 * 8, char(128)).repeated(2);
-    const QByteArray codestream = codestreamOf(samples, QStringLiteral("16,16,3,8,u@1x1:2x2:2x2"), QStringLiteral("-mct 0"));
+    const QByteArray codestream =
+        codestreamOf(samples, QStringLiteral("16,16,3,8,u@1x1:2x2:2x2"), QStringLiteral("-mct 0"));
     const auto source = ImageSource::fromData(file(codestream, 3, box("colr", knownSpace(18))));
     QVERIFY2(source, source ? "" : qPrintable(source.error().message));
     const auto bitmap = source->decode();
@@ -240,7 +241,8 @@ void TestJpeg2000::keepsFlatColours()
     const Bitmap flat = ImageSource::open(png)->decode().value_or(Bitmap());
     QVERIFY(platform::writeImageFile(target, flat, platform::FileFormat::Jpeg2000).has_value());
     const Bitmap made = ImageSource::open(target)->decode().value_or(Bitmap());
-    for (const QPoint &place : {QPoint(0, 0), QPoint(size.width() - 1, size.height() - 1), QPoint(size.width() / 2, 0)}) {
+    for (const QPoint &place :
+         {QPoint(0, 0), QPoint(size.width() - 1, size.height() - 1), QPoint(size.width() / 2, 0)}) {
         const QColor pixel = colourAt(made, place.x(), place.y());
         QVERIFY2(std::abs(pixel.red() - color.red()) <= 1 && std::abs(pixel.green() - color.green()) <= 1 &&
                      std::abs(pixel.blue() - color.blue()) <= 1,

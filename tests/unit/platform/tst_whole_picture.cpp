@@ -110,8 +110,9 @@ void TestWholePicture::initTestCase()
     QVERIFY(pictures::gradient(150, 90).save(png));
     for (const char *name : {"a.jpg", "a.gif", "a.bmp", "a.tif", "a.jp2", "a.j2k", "a.psd"})
         QVERIFY2(run(QStringLiteral("convert"), {png, at(QString::fromLatin1(name))}), name);
-    QVERIFY(run(QStringLiteral("convert"), {png, QStringLiteral("-colors"), QStringLiteral("16"),
-                                            QStringLiteral("-compress"), QStringLiteral("RLE"), at(QStringLiteral("runs.bmp"))}));
+    QVERIFY(run(QStringLiteral("convert"),
+                {png, QStringLiteral("-colors"), QStringLiteral("16"), QStringLiteral("-compress"),
+                 QStringLiteral("RLE"), at(QStringLiteral("runs.bmp"))}));
     QVERIFY(run(QStringLiteral("convert"),
                 {png, QStringLiteral("-compress"), QStringLiteral("LZW"), QStringLiteral("-define"),
                  QStringLiteral("tiff:rows-per-strip=7"), at(QStringLiteral("strips.tif"))}));
@@ -119,8 +120,9 @@ void TestWholePicture::initTestCase()
     QVERIFY(run(QStringLiteral("convert"), {png, png, at(QStringLiteral("frames.gif"))}));
     QVERIFY(run(QStringLiteral("vips"), {QStringLiteral("copy"), png, at(QStringLiteral("tiles.tif[tile,bigtiff]"))}));
     QVERIFY(run(QStringLiteral("vips"), {QStringLiteral("copy"), png, at(QStringLiteral("a.webp"))}));
-    QVERIFY(run(QStringLiteral("vips"), {QStringLiteral("heifsave"), png, at(QStringLiteral("a.avif")), QStringLiteral("--compression"),
-                                         QStringLiteral("av1"), QStringLiteral("--effort"), QStringLiteral("0")}));
+    QVERIFY(run(QStringLiteral("vips"),
+                {QStringLiteral("heifsave"), png, at(QStringLiteral("a.avif")), QStringLiteral("--compression"),
+                 QStringLiteral("av1"), QStringLiteral("--effort"), QStringLiteral("0")}));
 }
 
 void TestWholePicture::refusesWhatIsCut_data()
@@ -184,8 +186,9 @@ void TestWholePicture::refusesACutRawFile()
 void TestWholePicture::missesATileOfACodestream()
 {
     const QString png = at(QStringLiteral("a.png"));
-    QVERIFY(run(QStringLiteral("opj_compress"), {QStringLiteral("-i"), png, QStringLiteral("-o"), at(QStringLiteral("tiled.j2k")),
-                                                 QStringLiteral("-t"), QStringLiteral("64,64")}));
+    QVERIFY(run(QStringLiteral("opj_compress"),
+                {QStringLiteral("-i"), png, QStringLiteral("-o"), at(QStringLiteral("tiled.j2k")), QStringLiteral("-t"),
+                 QStringLiteral("64,64")}));
     const QByteArray whole = pictures::bytesOf(at(QStringLiteral("tiled.j2k")));
     QVERIFY(platform::isWholePicture(at(QStringLiteral("tiled.j2k"))));
     const QByteArray startOfTile("\xFF\x90\0\x0A", 4);
@@ -202,16 +205,16 @@ void TestWholePicture::stepsOverSmallPartsInBlocks_data()
     QTest::addColumn<bool>("isWhole");
     constexpr int parts = 500'000;
     const QByteArray chunk = big32(0) + "teXt" + big32(0);
-    QTest::newRow("PNG of empty chunks")
-        << int(Content::Png) << "\x89PNG\r\n\x1A\n" + chunk.repeated(parts) + big32(0) + "IEND" + big32(0) << true;
+    QTest::newRow("PNG of empty chunks") << int(Content::Png)
+                                         << "\x89PNG\r\n\x1A\n" + chunk.repeated(parts) + big32(0) + "IEND" + big32(0)
+                                         << true;
     QTest::newRow("GIF of short blocks") << int(Content::Gif)
                                          << QByteArray("GIF89a\x01\0\x01\0\0\0\0!\xFE", 15) +
                                                 QByteArray("\x01x", 2).repeated(parts) + QByteArray("\0;", 2)
                                          << false;
-    QTest::newRow("JPEG head before zeros") << int(Content::Jpeg)
-                                            << QByteArray("\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0", 20) +
-                                                   QByteArray(8 << 20, '\0')
-                                            << false;
+    QTest::newRow("JPEG head before zeros")
+        << int(Content::Jpeg)
+        << QByteArray("\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0", 20) + QByteArray(8 << 20, '\0') << false;
     QTest::newRow("JPEG head before fill bytes")
         << int(Content::Jpeg) << "\xFF\xD8" + QByteArray(8 << 20, '\xFF') << false;
 }
