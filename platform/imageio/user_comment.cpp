@@ -4,6 +4,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
 #include <iconv.h>
 
 namespace platform {
@@ -52,6 +53,27 @@ QSysInfo::Endian plausibleOrder(const QByteArray &bytes, QSysInfo::Endian order)
     constexpr qsizetype fewest = 3;
     const bool other = inOther >= fewest && inOther > inOrder && inOther * 4 > bytes.size();
     return other == little ? QSysInfo::BigEndian : QSysInfo::LittleEndian;
+}
+
+/**
+ * Whether a reader that guesses the order of 16-bit units gets it right. Those who do not count letters expect that low bytes
+ * vary more than high ones, and that where both vary alike zeros are high bytes.
+ */
+bool tellsItsOrder(const QString &text)
+{
+    std::array<bool, 256> highs = {};
+    std::array<bool, 256> lows = {};
+    qsizetype zeroHighs = 0;
+    qsizetype zeroLows = 0;
+    for (const QChar unit : text) {
+        highs[unit.row()] = true;
+        lows[unit.cell()] = true;
+        zeroHighs += unit.row() == 0;
+        zeroLows += unit.cell() == 0;
+    }
+    const auto highKinds = std::count(highs.begin(), highs.end(), true);
+    const auto lowKinds = std::count(lows.begin(), lows.end(), true);
+    return lowKinds > highKinds || (lowKinds == highKinds && zeroLows <= zeroHighs);
 }
 
 QString decodeUtf16(QByteArray bytes, QSysInfo::Endian order)
@@ -121,7 +143,7 @@ QString decodeUserComment(const QByteArray &value, QSysInfo::Endian order)
     const QByteArray head = value.left(markLength);
     const QByteArray rest = value.mid(markLength);
     if (head == mark("UNICODE"))
-        return blankAsEmpty(decodeUtf16(rest, order));
+        return decodeUtf16(rest, order);
     if (head == mark("JIS"))
         return blankAsEmpty(decodeJis(rest));
     if (head == mark("ASCII") || head == QByteArray(markLength, '\0'))
@@ -132,9 +154,12 @@ QString decodeUserComment(const QByteArray &value, QSysInfo::Endian order)
 QByteArray encodeUserComment(const QString &text, QSysInfo::Endian order)
 {
     const bool ascii = std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
-    if (ascii)
+    const bool wouldBeNone = !text.isEmpty() && blankAsEmpty(text).isEmpty();
+    if (ascii && !wouldBeNone)
         return mark("ASCII") + text.toLatin1();
-    return mark("UNICODE") + utf16Bytes(text, order);
+    const QByteArray units = utf16Bytes(text, order);
+    const bool isUnmistakable = tellsItsOrder(text) && decodeUtf16(units, order) == text;
+    return mark("UNICODE") + (isUnmistakable ? QByteArray() : utf16Bytes(QString(QChar::ByteOrderMark), order)) + units;
 }
 
 QByteArray utf16Bytes(const QString &text, QSysInfo::Endian order)

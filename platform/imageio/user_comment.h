@@ -12,11 +12,15 @@ namespace platform {
  * @param order  byte order of the file, for UNICODE text without a byte order mark; text that is plainly written in
  *               the other order, as some cameras do, is read in that one
  *
- * Without a known mark all bytes are text. Text ends at a NUL; a comment of nothing but blanks is empty.
+ * Without a known mark all bytes are text. Text ends at a NUL. Blanks alone are no comment but the room that cameras set aside
+ * for one, except under the mark UNICODE, which nobody uses for that.
  */
 QString decodeUserComment(const QByteArray &value, QSysInfo::Endian order);
 
-/** The bytes of a user comment: plain ASCII under the ASCII mark, other text as UTF-16 in @p order under UNICODE. */
+/**
+ * The bytes of a user comment: plain ASCII under the ASCII mark, other text and blanks alone as UTF-16 in @p order under
+ * UNICODE, with a byte order mark where a reader that guesses the order would guess wrong.
+ */
 QByteArray encodeUserComment(const QString &text, QSysInfo::Endian order);
 
 /** The 16-bit units of @p text in @p order, without a byte order mark. */

@@ -70,7 +70,7 @@ private Q_SLOTS:
         row("blanks", bytes("ASCII\0\0\0      "), {});
         row("blanks and NULs", bytes("\0\0\0\0\0\0\0\0   \0\0"), {});
         row("nothing but NULs", QByteArray(264, '\0'), {});
-        row("UNICODE blanks", bytes("UNICODE\0 \0 \0 \0"), {});
+        row("UNICODE blanks, which somebody typed", bytes("UNICODE\0 \0 \0 \0"), QStringLiteral("   "));
     }
 
     void readsEachCharacterSet()
@@ -95,12 +95,24 @@ private Q_SLOTS:
                  bytes("UNICODE\0\x00\xf6\xd8\x3d\xde\x00"));
     }
 
+    void marksTheOrderWhereItCouldBeMistaken()
+    {
+        QCOMPARE(encodeUserComment(QStringLiteral("☀☀☀"), QSysInfo::LittleEndian),
+                 bytes("UNICODE\0\xff\xfe\x00\x26\x00\x26\x00\x26"));
+        QCOMPARE(encodeUserComment(QStringLiteral("☀☀☀"), QSysInfo::BigEndian),
+                 bytes("UNICODE\0\xfe\xff\x26\x00\x26\x00\x26\x00"));
+        QCOMPARE(encodeUserComment(QStringLiteral("  "), QSysInfo::BigEndian), bytes("UNICODE\0\0 \0 "));
+    }
+
     void readsBackWhatItWrote_data()
     {
         QTest::addColumn<QString>("text");
         for (const QString &text : {QStringLiteral("Plain"), QStringLiteral("Größe 5½"), QStringLiteral("Ελληνικά"),
                                     QStringLiteral("Кириллица"), QStringLiteral("写真"), QStringLiteral("😀🏔️"),
-                                    QStringLiteral("a\nb\tc"), QStringLiteral("Žluťoučký kůň 写真 😀")})
+                                    QStringLiteral("a\nb\tc"), QStringLiteral("Žluťoučký kůň 写真 😀"),
+                                    QStringLiteral("☀☀☀"), QStringLiteral("☀☁☂☀☁☂"), QStringLiteral("   "),
+                                    QStringLiteral(" \n"), QString(QChar(0xfeff)) + u'x', QString(QChar(0xfffe)) + u'x',
+                                    QStringLiteral("一一一"), QStringLiteral("戀戀戀 a"), QString(QChar(0xd800))})
             QTest::newRow(qPrintable(text)) << text;
     }
 
