@@ -45,15 +45,19 @@ Result<void> replaceFile(const QString &path, const QByteArray &bytes)
     return {};
 }
 
-Result<void> spliceFile(const QFile &source, const QList<Splice> &splices)
+Result<void> spliceFile(const QFile &source, const QList<Splice> &splices,
+                        const std::function<Result<void>(const QString &path)> &check)
 {
     const QString path = source.fileName();
     struct stat before = {};
     if (::fstat(source.handle(), &before) != 0)
         return writeFailure(path, errno);
     TemporaryFile file(path);
-    if (!file.isOpen() || !copySpliced(file, source.handle(), before.st_size, splices) ||
-        !file.takeAttributesOf(source.handle()))
+    if (!file.isOpen() || !copySpliced(file, source.handle(), before.st_size, splices))
+        return writeFailure(path, errno);
+    if (const Result<void> checked = check ? check(file.openPath()) : Result<void>(); !checked)
+        return checked;
+    if (!file.takeAttributesOf(source.handle()))
         return writeFailure(path, errno);
     if (isChanged(source.handle(), before))
         return writeFailure(path, EBUSY);

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QList>
 
+#include <functional>
+
 class QFile;
 
 namespace platform {
@@ -40,9 +42,13 @@ struct Splice
  * the old one's permissions, access lists, extended attributes and, as far as the user may give it, its owner. A symbolic
  * link is replaced by a changed copy of the file it leads to; another hard link keeps the old file.
  *
+ * @param check  is asked before the new file takes the old one's place, with a path that leads to it; what it says against
+ *               the new file is what is then said, and the old one stays
+ *
  * Fails with WriteFailed, also where somebody else writes to the source meanwhile; the file is then as it was.
  */
-Result<void> spliceFile(const QFile &source, const QList<Splice> &splices);
+Result<void> spliceFile(const QFile &source, const QList<Splice> &splices,
+                        const std::function<Result<void>(const QString &path)> &check = {});
 
 /** The same for bytes in memory. */
 QByteArray spliced(const QByteArray &bytes, const QList<Splice> &splices);

@@ -28,6 +28,8 @@ public:
     ~TemporaryFile();
 
     bool isOpen() const { return m_descriptor >= 0; }
+    /** A path under which this process can read what was written so far, also as long as the file has no name. */
+    QString openPath() const { return QStringLiteral("/proc/self/fd/%1").arg(m_descriptor); }
     bool write(const QByteArray &bytes);
     /** Writes @p count bytes at @p position, which does not move where write() goes on. */
     bool writeAt(qint64 position, const char *bytes, qint64 count);

@@ -1,10 +1,10 @@
 #include "platform/imageio/comment_splices.h"
 
 #include "platform/imageio/jpeg_segments.h"
+#include "platform/imageio/raw_preview.h"
 #include "platform/imageio/tiff_comment.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QtEndian>
 
 #include <algorithm>
@@ -39,12 +39,30 @@ CommentSplices overSegments(const QList<JpegSegments::Range> &ranges, const QByt
     return splices;
 }
 
-/** Raw files of cameras are TIFF files with names of their own, and a later page may be the raw picture itself. */
-OtherPages otherPagesOf(const QFile &file)
+/** The bytes of an open file, without reading those that nobody asks for. */
+class MappedFile
 {
-    const QString extension = QFileInfo(file).suffix().toLower();
-    return extension == QLatin1String("tif") || extension == QLatin1String("tiff") ? OtherPages::Drop
-                                                                                   : OtherPages::Keep;
+public:
+    explicit MappedFile(QFile &file) : m_file(file), m_data(file.map(0, file.size())) {}
+    ~MappedFile()
+    {
+        if (m_data)
+            m_file.unmap(m_data);
+    }
+    Q_DISABLE_COPY_MOVE(MappedFile)
+
+    bool isThere() const { return m_data != nullptr; }
+    QByteArray bytes() const { return QByteArray::fromRawData(reinterpret_cast<const char *>(m_data), m_file.size()); }
+
+private:
+    QFile &m_file;
+    uchar *m_data;
+};
+
+/** A later page of a raw file of a camera may be the raw picture itself. */
+OtherPages otherPagesOf(const QByteArray &bytes)
+{
+    return isCameraRaw(bytes) ? OtherPages::Keep : OtherPages::Drop;
 }
 
 } // namespace
@@ -87,14 +105,18 @@ CommentSplices jpegCommentSplices(QFile &file, const QString &comment)
 
 CommentSplices tiffCommentSplices(QFile &file, const QString &comment)
 {
-    const qint64 size = file.size();
-    uchar *data = file.map(0, size);
-    if (!data)
+    const MappedFile mapped(file);
+    if (!mapped.isThere())
         return damagedFile();
-    const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), size);
-    const auto splices = userCommentSplices(bytes, comment, otherPagesOf(file));
-    file.unmap(data);
+    const auto splices = userCommentSplices(mapped.bytes(), comment, otherPagesOf(mapped.bytes()));
     return splices ? CommentSplices(*splices) : damagedFile();
+}
+
+int pagesLostToComment(QFile &file)
+{
+    const MappedFile mapped(file);
+    const bool losesAny = mapped.isThere() && otherPagesOf(mapped.bytes()) == OtherPages::Drop;
+    return losesAny ? otherPageCount(mapped.bytes()) : 0;
 }
 
 } // namespace platform

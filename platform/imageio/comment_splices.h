@@ -18,6 +18,9 @@ CommentSplices pngCommentSplices(QFile &file, const QString &comment);
 CommentSplices jpeg2000CommentSplices(QFile &file, const QString &comment);
 CommentSplices webpCommentSplices(QFile &file, const QString &comment);
 
+/** How many pages behind the first tiffCommentSplices() takes out of the file. */
+int pagesLostToComment(QFile &file);
+
 /** The largest EXIF block that is read into memory. */
 constexpr qint64 largestExifBlock = 32 << 20;
 

@@ -1,6 +1,8 @@
 #include "platform/imageio/metadata.h"
 
 #include "platform/imageio/big_tiff.h"
+#include "platform/imageio/container_blocks.h"
+#include "platform/imageio/content.h"
 #include "platform/imageio/exif_in_place.h"
 #include "platform/imageio/jpeg_segments.h"
 #include "platform/imageio/metadata_blocks.h"
@@ -93,6 +95,13 @@ template<typename Step> void attempt(Step step)
     }
 }
 
+/** Where it belongs; else among the tags of the picture itself, where some programs put all tags. */
+const Exiv2::Exifdatum *commentTag(const Exiv2::ExifData &exif)
+{
+    const Exiv2::Exifdatum *tag = findTag(exif, "Exif.Photo.UserComment");
+    return tag ? tag : findTag(exif, "Exif.Image.0x9286");
+}
+
 QSysInfo::Endian endian(Exiv2::ByteOrder order)
 {
     return order == Exiv2::bigEndian ? QSysInfo::BigEndian : QSysInfo::LittleEndian;
@@ -126,6 +135,11 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
 {
     startMetadataLibrary();
     auto blocks = std::make_shared<Blocks>();
+    if (const Content content = platform::contentOf(bytes.left(contentHeadBytes));
+        content == Content::Jpeg2000 || content == Content::Gif) {
+        const ContainerBlocks found = content == Content::Gif ? gifBlocks(bytes) : jpeg2000Blocks(bytes);
+        return fromBlocks(found.exif, found.xmp, found.iptc);
+    }
     const JpegSegments segments = findJpegSegments(bytes);
     attempt([&] { isBigTiff(bytes) ? readBigTiff(*blocks, bytes) : readImage(*blocks, bytes); });
     if (segments.exifSegments > 1) { // exiv2 reads the first part alone
@@ -170,11 +184,14 @@ bool Metadata::isEmpty() const
     return !m_blocks || (m_blocks->exif.empty() && m_blocks->iptc.empty() && m_blocks->xmp.empty());
 }
 
+bool Metadata::hasUserComment() const
+{
+    return m_blocks && commentTag(m_blocks->exif);
+}
+
 QString Metadata::userComment() const
 {
-    if (!m_blocks)
-        return {};
-    const Exiv2::Exifdatum *tag = findTag(m_blocks->exif, "Exif.Photo.UserComment");
+    const Exiv2::Exifdatum *tag = m_blocks ? commentTag(m_blocks->exif) : nullptr;
     return tag ? decodeUserComment(rawBytes(*tag, m_blocks->byteOrder), endian(m_blocks->byteOrder)) : QString();
 }
 

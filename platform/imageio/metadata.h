@@ -48,7 +48,8 @@ public:
      */
     QVariantMap toProperties() const;
 
-    /** The EXIF user comment as text, without its charset mark; empty where there is none or only blanks. */
+    bool hasUserComment() const;
+    /** The EXIF user comment as text, without its charset mark; empty where there is none. */
     QString userComment() const;
 
     /** 1 to 8; 0 where none or no valid one is stated. */

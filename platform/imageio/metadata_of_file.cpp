@@ -76,7 +76,6 @@ Metadata metadataOf(const PictureBytes &bytes, Content content)
     case Content::Avif:
         // The decoder has obeyed the container's own turn, and this one would turn the picture again.
         return fromDecoder(bytes, content).withOrientation(1);
-    case Content::Gif:
     case Content::Bmp:
     case Content::Pdf:
     case Content::Svg:

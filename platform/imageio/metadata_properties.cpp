@@ -313,7 +313,7 @@ QVariantMap Metadata::toProperties() const
     ExifGroups groups;
     for (const Exiv2::Exifdatum &tag : m_blocks->exif)
         attempt([&] { addExifTag(groups, tag, m_blocks->byteOrder); });
-    if (findTag(m_blocks->exif, "Exif.Photo.UserComment"))
+    if (hasUserComment())
         groups.exif.insert(QStringLiteral("UserComment"),
                            QVariant(userComment().isNull() ? QStringLiteral("") : userComment()));
     insertGroup(properties, QStringLiteral("{Exif}"), groups.exif);

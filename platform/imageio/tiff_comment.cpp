@@ -3,6 +3,8 @@
 #include "platform/imageio/tiff_tree.h"
 #include "platform/imageio/user_comment.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace platform {
@@ -23,6 +25,8 @@ public:
     {
     }
 
+    /** It has a first directory, or none at all. */
+    bool isSound() const;
     void dropOtherPages();
     void setComment();
     std::optional<QList<Splice>> splices() const;
@@ -32,6 +36,8 @@ private:
     quint64 append(const QByteArray &bytes);
     void overwrite(qint64 at, const QByteArray &bytes);
     void replaceComment(const TiffTag &tag);
+    void replaceMisplaced(const TiffTag &tag);
+    bool hasPlace(const TiffTag &tag) const;
     QByteArray commentEntry();
     quint64 newDirectory(const TiffTags &old, quint16 tag, const QByteArray &entry);
     QByteArray entry(quint16 tag, quint16 type, quint64 count, const QByteArray &field) const;
@@ -60,6 +66,14 @@ quint64 CommentEditor::append(const QByteArray &bytes)
 void CommentEditor::overwrite(qint64 at, const QByteArray &bytes)
 {
     m_overwritten.append({at, bytes.size(), bytes});
+}
+
+bool CommentEditor::isSound() const
+{
+    if (!m_tree.isValid())
+        return false;
+    const quint64 first = form().number(m_bytes.constData() + m_tree.firstAt(), form().offsetSize());
+    return first == 0 || m_tree.directory(first).valid;
 }
 
 void CommentEditor::dropOtherPages()
@@ -102,7 +116,7 @@ quint64 CommentEditor::newDirectory(const TiffTags &old, quint16 tag, const QByt
     quint64 count = 1;
     bool isIn = false;
     for (const TiffTag &each : old.tags) {
-        if (each.tag == tag)
+        if (each.tag == tag || each.tag == userCommentTag) // one in the wrong directory is not taken along
             continue;
         if (!isIn && each.tag > tag) {
             entries += newEntry;
@@ -137,10 +151,24 @@ TiffRange CommentEditor::roomOf(const TiffRange &range) const
     return isFree && !isShared(toTheEnd) ? toTheEnd : range;
 }
 
+/** Its value lies by itself, and may be overwritten. */
+bool CommentEditor::hasPlace(const TiffTag &tag) const
+{
+    return tag.isSound && !tag.isInline && tag.value.end() <= m_kept && !isShared(tag.value);
+}
+
+/** A comment in the first directory, where it does not belong and some readers look: they are told the same. */
+void CommentEditor::replaceMisplaced(const TiffTag &tag)
+{
+    if (hasPlace(tag))
+        overwrite(tag.value.start, QByteArray(tag.value.size, '\0'));
+    overwrite(tag.at, commentEntry());
+}
+
 void CommentEditor::replaceComment(const TiffTag &tag)
 {
-    const bool hasPlace = tag.isSound && !tag.isInline && tag.value.end() <= m_kept && !isShared(tag.value);
-    const TiffRange room = hasPlace ? roomOf(tag.value) : TiffRange();
+    const bool isAlone = hasPlace(tag);
+    const TiffRange room = isAlone ? roomOf(tag.value) : TiffRange();
     const bool hasRoom = room.size >= m_value.size() && m_value.size() > form().offsetSize();
     if (hasRoom) {
         overwrite(tag.at, entry(userCommentTag, undefinedType, quint64(m_value.size()),
@@ -148,9 +176,9 @@ void CommentEditor::replaceComment(const TiffTag &tag)
         overwrite(room.start, m_value.leftJustified(room.size, '\0'));
         return;
     }
-    if (hasPlace && room.end() == m_kept)
+    if (isAlone && room.end() == m_kept)
         m_kept = tag.value.start;
-    else if (hasPlace) // what was said before does not stay in the file
+    else if (isAlone) // what was said before does not stay in the file
         overwrite(tag.value.start, QByteArray(tag.value.size, '\0'));
     overwrite(tag.at, commentEntry());
 }
@@ -160,15 +188,22 @@ void CommentEditor::setComment()
     const TiffTags first = m_tree.first();
     const TiffTag *pointer = first.find(exifDirectoryTag);
     const TiffTags exif = pointer ? m_tree.directory(m_tree.integer(*pointer)) : TiffTags();
+    const TiffTag *misplaced = first.find(userCommentTag);
     if (const TiffTag *comment = exif.find(userCommentTag)) {
         replaceComment(*comment);
+        if (misplaced)
+            replaceMisplaced(*misplaced);
         return;
     }
     const quint64 directory = newDirectory(exif, userCommentTag, commentEntry());
-    if (pointer) {
+    if (pointer)
         overwrite(pointer->at, pointerTo(directory));
+    if (pointer && misplaced)
+        replaceMisplaced(*misplaced);
+    if (pointer)
         return;
-    }
+    if (misplaced && hasPlace(*misplaced))
+        overwrite(misplaced->value.start, QByteArray(misplaced->value.size, '\0'));
     const quint64 newFirst = newDirectory(first, exifDirectoryTag, pointerTo(directory));
     overwrite(m_tree.firstAt(), form().bytes(newFirst, form().offsetSize()));
 }
@@ -207,10 +242,25 @@ bool holdsComment(const QByteArray &block, const QString &comment)
 std::optional<QList<Splice>> userCommentSplices(const QByteArray &bytes, const QString &comment, OtherPages pages)
 {
     CommentEditor editor(bytes, comment);
+    if (!editor.isSound())
+        return std::nullopt;
     if (pages == OtherPages::Drop)
         editor.dropOtherPages();
     editor.setComment();
     return editor.splices();
+}
+
+int otherPageCount(const QByteArray &bytes)
+{
+    constexpr qsizetype mostPages = 65536;
+    const TiffTree tree(bytes);
+    QSet<quint64> met;
+    TiffTags page = tree.first();
+    while (page.valid && page.next != 0 && !met.contains(page.next) && met.size() < mostPages) {
+        met.insert(page.next);
+        page = tree.directory(page.next);
+    }
+    return int(met.size());
 }
 
 QByteArray exifBlockWithUserComment(const QByteArray &block, const QString &comment)

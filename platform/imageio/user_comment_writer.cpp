@@ -1,6 +1,7 @@
 #include "platform/imageio/user_comment_writer.h"
 
 #include "platform/imageio/comment_splices.h"
+#include "platform/imageio/image_source.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -46,6 +47,20 @@ bool changeNothing(QFile &file, const QList<Splice> &splices)
     return true;
 }
 
+/** Whether the edited file is the same picture as before, and says what it was meant to say. */
+Result<void> checkEdited(const ImageSource &before, const QString &editedPath, const QString &comment)
+{
+    const Result<ImageSource> edited = ImageSource::open(editedPath);
+    const bool isSamePicture = edited && edited->storedSize() == before.storedSize() &&
+                               edited->orientation() == before.orientation() &&
+                               edited->typeIdentifier() == before.typeIdentifier();
+    if (!isSamePicture)
+        return failure(ErrorCode::Unreadable, text("the picture could not be read afterwards"));
+    if (edited->metadata().userComment() != comment)
+        return failure(ErrorCode::Unreadable, text("the comment could not be read afterwards"));
+    return {};
+}
+
 } // namespace
 
 bool canHoldUserComment(const QString &path)
@@ -58,23 +73,44 @@ bool canHoldUserComment(const QString &path)
            content == Content::Jpeg2000 || content == Content::Webp;
 }
 
+Result<QString> readUserComment(const QString &path)
+{
+    return ImageSource::open(path).map([](const ImageSource &source) { return source.metadata().userComment(); });
+}
+
+int pagesLostToUserComment(const QString &path)
+{
+    QFile file(path);
+    const bool isTiff = !path.isEmpty() && file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
+                        contentOf(file.read(contentHeadBytes)) == Content::Tiff;
+    return isTiff ? pagesLostToComment(file) : 0;
+}
+
 Result<void> writeUserComment(const QString &path, const QString &comment)
 {
     QFile file(path);
     const auto failed = [&](ErrorCode code, const QString &reason) {
         return failure(code, text("Cannot write the comment into %1: %2").arg(path, reason));
     };
+    if (comment.contains(QChar::Null))
+        return failed(ErrorCode::InvalidValue, text("a comment ends where it has a null character"));
     if (path.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return failed(ErrorCode::NotFound, file.errorString());
     const Result<QList<Splice>> splices = splicesFor(file, contentOf(file.read(contentHeadBytes)), comment);
     if (!splices)
         return failed(splices.error().code, splices.error().message);
+    const Result<ImageSource> picture = ImageSource::open(path);
+    if (!picture) // whoever cannot read it must not write it
+        return tl::unexpected<Error>(picture.error());
     if (changeNothing(file, *splices))
         return {};
     if (::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), W_OK, AT_EACCESS) !=
         0) // whoever protected it meant it
         return failed(ErrorCode::WriteFailed, text("the file is write-protected"));
-    return spliceFile(file, *splices);
+    return spliceFile(file, *splices, [&](const QString &editedPath) -> Result<void> {
+        const Result<void> checked = checkEdited(*picture, editedPath, comment);
+        return checked ? checked : failed(checked.error().code, checked.error().message);
+    });
 }
 
 } // namespace platform

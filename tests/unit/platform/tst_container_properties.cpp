@@ -1,5 +1,12 @@
 #include "platform/imageio/container_properties.h"
+#include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
+#include "platform/imageio/jp2_profile.h"
+#include "platform/imageio/profile_name.h"
+#include "platform/imageio/user_comment_writer.h"
+#include "tests/support/made_tiff.h"
+#include "tests/support/scratch_folder.h"
+#include "tests/support/test_pictures.h"
 
 #include "tests/support/corpus.h"
 
@@ -12,6 +19,8 @@
 #include <QtEndian>
 
 using platform::containerProperties;
+using platform::ImageSource;
+using platform::profileName;
 
 namespace {
 
@@ -60,6 +69,73 @@ QVariant value(const QVariantMap &group, const char *key)
     return group.value(QString::fromLatin1(key));
 }
 
+const QByteArray packet =
+    "<?xpacket begin='' id='W5M0MpCehiHzreSzNTczkc9d'?><x:xmpmeta xmlns:x='adobe:ns:meta/'>"
+    "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description rdf:about='' "
+    "xmlns:photoshop='http://ns.adobe.com/photoshop/1.0/' photoshop:Headline='From a GIF'/>"
+    "</rdf:RDF></x:xmpmeta><?xpacket end='w'?>";
+
+QByteArray inPieces(const QByteArray &data)
+{
+    QByteArray pieces;
+    for (qsizetype at = 0; at < data.size(); at += 255) {
+        const QByteArray piece = data.mid(at, 255);
+        pieces += char(piece.size()) + piece;
+    }
+    return pieces + '\0';
+}
+
+/** As it is, and before the bytes that lead a reader of pieces to their end. */
+QByteArray asItIs(const QByteArray &data)
+{
+    QByteArray trailer("\x01");
+    for (int i = 255; i >= 0; --i)
+        trailer += char(i);
+    return data + trailer + '\0';
+}
+
+/** One pixel, with XMP in front of it or behind it. */
+QByteArray gif(const QByteArray &block, bool isBehind)
+{
+    const QByteArray xmp = "!\xff\x0bXMP DataXMP" + block;
+    const QByteArray picture = bytes(",\0\0\0\0\1\0\1\0\0\2\2\x44\1\0");
+    return bytes("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff!\xf9\4\0\0\0\0\0") + (isBehind ? QByteArray() : xmp) +
+           picture + (isBehind ? xmp : QByteArray()) + ';';
+}
+
+QByteArray jpeg2000()
+{
+    QByteArray made;
+    QBuffer buffer(&made);
+    buffer.open(QIODevice::WriteOnly);
+    pictures::gradient(24, 16).save(&buffer, "png");
+    const auto source = ImageSource::fromData(made);
+    return platform::encodeImage(*source->decode(), platform::FileFormat::Jpeg2000).value();
+}
+
+QByteArray utf16(const QString &text)
+{
+    QByteArray units;
+    for (const QChar unit : text)
+        units.append(char(unit.row())).append(char(unit.cell()));
+    return units;
+}
+
+/** A profile that has nothing but names: language, country and text of each. */
+QByteArray profileNamed(const QList<std::array<QString, 3>> &names)
+{
+    QByteArray records;
+    QByteArray texts;
+    for (const auto &[language, country, text] : names) {
+        const QByteArray units = utf16(text);
+        records += language.toLatin1() + country.toLatin1() + big(quint32(units.size())) +
+                   big(quint32(16 + 12 * names.size() + texts.size()));
+        texts += units;
+    }
+    const QByteArray tag = "mluc" + big(0) + big(quint32(names.size())) + big(12) + records + texts;
+    return QByteArray(128, '\0') + big(1) + "desc" + big(144) + big(quint32(tag.size())) + tag;
+}
+
 } // namespace
 
 class ContainerProperties : public QObject
@@ -67,6 +143,98 @@ class ContainerProperties : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void carriesTheXmpOfAGif_data()
+    {
+        QTest::addColumn<QByteArray>("gif");
+        QTest::newRow("as it is") << gif(asItIs(packet), false);
+        QTest::newRow("in pieces") << gif(inPieces(packet), false);
+        QTest::newRow("behind the picture") << gif(asItIs(packet), true);
+    }
+
+    void carriesTheXmpOfAGif()
+    {
+        QFETCH(QByteArray, gif);
+        const auto source = ImageSource::fromData(gif);
+        QVERIFY(source);
+        const auto headline = [](const QVariantMap &properties) {
+            return properties.value(QStringLiteral("{XMP}"))
+                .toMap()
+                .value(QStringLiteral("photoshop:Headline"))
+                .toString();
+        };
+        QCOMPARE(headline(source->properties()), QStringLiteral("From a GIF"));
+        for (const auto format : {platform::FileFormat::Png, platform::FileFormat::Tiff}) {
+            platform::EncodeOptions options;
+            const auto plain = platform::encodeImage(*source->decode(), format, options);
+            const auto whole = source->metadata().writtenInto(*plain);
+            QCOMPARE(headline(ImageSource::fromData(*whole)->properties()), QStringLiteral("From a GIF"));
+        }
+    }
+
+    void survivesEveryCutOfAGifWithXmp()
+    {
+        for (const QByteArray &whole : {gif(asItIs(packet), false), gif(inPieces(packet), true)})
+            for (qsizetype size = 0; size < whole.size(); size += 7)
+                platform::Metadata::fromFileBytes(whole.left(size)).toProperties();
+    }
+
+    void readsTheCommentOfAJpeg2000WhoseProfileIsDamaged()
+    {
+        const ScratchFolder folder;
+        QByteArray profile(200, '\0'); // whose length says otherwise
+        profile.replace(0, 4, big(9999));
+        QVERIFY(folder.write("a.jp2", platform::withJpeg2000Profile(jpeg2000(), profile)));
+        QVERIFY(ImageSource::open(folder.path("a.jp2")));
+        const auto written = platform::writeUserComment(folder.path("a.jp2"), QStringLiteral("read me"));
+        QVERIFY2(written, written ? "" : qPrintable(written.error().message));
+        QCOMPARE(platform::readUserComment(folder.path("a.jp2")).value(), QStringLiteral("read me"));
+    }
+
+    void answersTheSameForACommentInTheWrongDirectory()
+    {
+        const ScratchFolder folder;
+        const QByteArray told = QByteArray("ASCII\0\0\0", 8) + "told elsewhere";
+        const auto both = [&folder] {
+            const auto source = ImageSource::open(folder.path("a.tif"));
+            const QVariantMap exif = source->properties().value(QStringLiteral("{Exif}")).toMap();
+            return QStringList{source->metadata().userComment(), exif.value(QStringLiteral("UserComment")).toString()};
+        };
+        QVERIFY(folder.write("a.tif", pictures::madeTiff({1, false, told})));
+        QCOMPARE(both(), QStringList(2, QStringLiteral("told elsewhere")));
+        for (const QString &comment : {QStringLiteral("a new one"), QStringLiteral("x"), QString(200, u'y')}) {
+            QVERIFY(platform::writeUserComment(folder.path("a.tif"), comment));
+            QCOMPARE(both(), QStringList(2, comment));
+            QVERIFY(!folder.read("a.tif").contains("told elsewhere"));
+        }
+    }
+
+    void namesProfilesInTheReadersLanguage()
+    {
+        const QByteArray profile =
+            profileNamed({{QStringLiteral("fr"), QStringLiteral("FR"), QStringLiteral("Moniteur")},
+                          {QStringLiteral("en"), QStringLiteral("US"), QStringLiteral("Display")},
+                          {QStringLiteral("de"), QStringLiteral("DE"), QStringLiteral("Bildschirm")},
+                          {QStringLiteral("de"), QStringLiteral("CH"), QStringLiteral("Monitor")}});
+        const auto named = [&profile](const char *language) {
+            return profileName(profile, {QString::fromLatin1(language)});
+        };
+        QCOMPARE(named("de-DE"), QStringLiteral("Bildschirm"));
+        QCOMPARE(named("de_CH"), QStringLiteral("Monitor"));
+        QCOMPARE(named("de"), QStringLiteral("Bildschirm"));
+        QCOMPARE(named("de-Latn-CH"), QStringLiteral("Monitor"));
+        QCOMPARE(named("fr-CA"), QStringLiteral("Moniteur"));
+        QCOMPARE(named("nl-NL"), QStringLiteral("Display"));
+        QCOMPARE(profileName(profile, {QStringLiteral("nl-NL"), QStringLiteral("fr-FR")}), QStringLiteral("Moniteur"));
+        QCOMPARE(profileName(profile, {}), QStringLiteral("Display"));
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Switzerland));
+        QCOMPARE(profileName(profile), QStringLiteral("Monitor"));
+        QLocale::setDefault(QLocale::c());
+        QCOMPARE(profileName(profileNamed({{QStringLiteral("fr"), QStringLiteral("FR"), QStringLiteral("Moniteur")}})),
+                 QStringLiteral("Moniteur"));
+        for (qsizetype size = 0; size < profile.size(); ++size)
+            profileName(profile.left(size));
+    }
+
     void readsWhatAPngSays()
     {
         const QByteArray white = big(31270) + big(32900);

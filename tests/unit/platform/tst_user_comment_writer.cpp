@@ -1,6 +1,7 @@
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/user_comment_writer.h"
 #include "tests/support/corpus.h"
+#include "tests/support/made_tiff.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
 
@@ -13,6 +14,7 @@
 
 using platform::ErrorCode;
 using platform::ImageSource;
+using platform::pagesLostToUserComment;
 using platform::writeUserComment;
 
 namespace {
@@ -73,6 +75,7 @@ private Q_SLOTS:
     void refusesAFolderThatCannotBeWritten();
     void leavesTheFileWhenTheDiskIsFull();
     void failsForWhatIsNotThere();
+    void tellsAnUnreadableCommentFromNone();
 };
 
 void TestUserCommentWriter::keepsTheTextInEveryTypeThatHoldsOne_data()
@@ -101,8 +104,10 @@ void TestUserCommentWriter::keepsTheTextInEveryTypeThatHoldsOne()
     const ScratchFolder folder;
     QVERIFY(folder.write("a", bytes));
     const auto before = ImageSource::open(folder.path("a"));
-    const QStringList comments = {QStringLiteral("short"), QStringLiteral("Grüße Ωμέγα 日本語 😀"),
-                                  QString(3000, QChar(u'Ж')), QStringLiteral(""), QStringLiteral("again")};
+    const QStringList comments = {QStringLiteral("short"),    QStringLiteral("Grüße Ωμέγα 日本語 😀"),
+                                  QString(3000, QChar(u'Ж')), QStringLiteral(""),
+                                  QStringLiteral("☀☀☀"),      QStringLiteral("   "),
+                                  QStringLiteral("again")};
     for (const QString &comment : comments) {
         const auto written = writeUserComment(folder.path("a"), comment);
         QVERIFY2(written, written ? "" : qPrintable(written.error().message));
@@ -200,41 +205,42 @@ void TestUserCommentWriter::changesNothingWhereItSaysThatAlready()
 
 void TestUserCommentWriter::keepsTheFirstPageOfATiffFile()
 {
-    const QByteArray pages = corpusFile("formats/g4-multi.tiff");
-    if (pages.isEmpty())
-        QSKIP("no shared pictures");
     const ScratchFolder folder;
-    QVERIFY(folder.write("a.tiff", pages));
-    const auto before = ImageSource::open(folder.path("a.tiff"));
-    QVERIFY(before->imageCount() > 1);
-    const QImage first = before->decode()->toRawImage();
-    QVERIFY(writeUserComment(folder.path("a.tiff"), QStringLiteral("x")));
-    const auto after = ImageSource::open(folder.path("a.tiff"));
-    QCOMPARE(after->imageCount(), 1);
-    QCOMPARE(after->decode()->toRawImage(), first);
-    QCOMPARE(after->metadata().userComment(), QStringLiteral("x"));
-    QVERIFY(folder.read("a.tiff").size() < pages.size()); // the other pages' pixels went with them
+    for (const QByteArray &pages : {pictures::madeTiff({3}), corpusFile("formats/g4-multi.tiff")}) {
+        for (const char *name : {"a.tiff", "a.CR2", "a.jpg", "a"}) { // the content counts
+            if (pages.isEmpty())
+                continue;
+            QVERIFY(folder.write(name, pages));
+            const auto before = ImageSource::open(folder.path(name));
+            QVERIFY(before->imageCount() > 1);
+            QCOMPARE(pagesLostToUserComment(folder.path(name)), before->imageCount() - 1);
+            const QImage first = before->decode()->toRawImage();
+            QVERIFY(writeUserComment(folder.path(name), QStringLiteral("x")));
+            const auto after = ImageSource::open(folder.path(name));
+            QCOMPARE(after->imageCount(), 1);
+            QCOMPARE(after->decode()->toRawImage(), first);
+            QCOMPARE(after->metadata().userComment(), QStringLiteral("x"));
+            QVERIFY(folder.read(name).size() < pages.size()); // the other pages' pixels went with them
+            QCOMPARE(pagesLostToUserComment(folder.path(name)), 0);
+        }
+    }
 }
 
 void TestUserCommentWriter::keepsTheRawPictureOfARawFile()
 {
-    const QByteArray pages = corpusFile("formats/g4-multi.tiff");
-    if (pages.isEmpty())
-        QSKIP("no shared pictures");
+    const QByteArray pages = pictures::madeTiff({3, true});
     const ScratchFolder folder;
-    QVERIFY(folder.write("a.CR2", pages));
-    QVERIFY(folder.write("before.tiff", pages));
-    QVERIFY(writeUserComment(folder.path("a.CR2"), QStringLiteral("x")));
-    const QByteArray written = folder.read("a.CR2");
-    QVERIFY(folder.write("after.tiff", written));
-    const auto before = ImageSource::open(folder.path("before.tiff"));
-    const auto after = ImageSource::open(folder.path("after.tiff"));
-    QVERIFY(before->imageCount() > 1);
-    QCOMPARE(after->imageCount(), before->imageCount());
-    QCOMPARE(after->metadata().userComment(), QStringLiteral("x"));
-    // Beyond the header, which says where the first directory is, what was there is there still.
-    constexpr int header = 8;
-    QCOMPARE(written.mid(header, pages.size() - header), pages.mid(header));
+    for (const char *name : {"a.dng", "a.tif"}) {
+        QVERIFY(folder.write(name, pages));
+        QCOMPARE(pagesLostToUserComment(folder.path(name)), 0);
+        QVERIFY(writeUserComment(folder.path(name), QStringLiteral("x")));
+        const QByteArray written = folder.read(name);
+        QCOMPARE(ImageSource::open(folder.path(name))->imageCount(), 3);
+        QCOMPARE(platform::readUserComment(folder.path(name)).value(), QStringLiteral("x"));
+        // Beyond the header, which says where the first directory is, what was there is there still.
+        constexpr int header = 8;
+        QCOMPARE(written.mid(header, pages.size() - header), pages.mid(header));
+    }
 }
 
 void TestUserCommentWriter::keepsModeAndAttributes()
@@ -346,7 +352,23 @@ void TestUserCommentWriter::failsForWhatIsNotThere()
     QCOMPARE(int(codeOf(writeUserComment(folder.path("none.jpg"), QStringLiteral("x")))), int(ErrorCode::NotFound));
     QCOMPARE(int(codeOf(writeUserComment(folder.path(), QStringLiteral("x")))), int(ErrorCode::NotFound));
     QCOMPARE(int(codeOf(writeUserComment(QString(), QStringLiteral("x")))), int(ErrorCode::NotFound));
+    QCOMPARE(int(codeOf(writeUserComment(folder.path("none.jpg"), QString(QChar::Null)))),
+             int(ErrorCode::InvalidValue));
     QCOMPARE(folder.names(), QStringList());
+}
+
+void TestUserCommentWriter::tellsAnUnreadableCommentFromNone()
+{
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a.jpg", encoded("jpg")));
+    QCOMPARE(platform::readUserComment(folder.path("a.jpg")).value(), QString());
+    QCOMPARE(int(platform::readUserComment(folder.path("none.jpg")).error().code), int(ErrorCode::NotFound));
+    QVERIFY(folder.allow("a.jpg", 0000) && folder.allow("", 0755));
+    const Nobody nobody;
+    if (!nobody.ready())
+        QSKIP("cannot become somebody else");
+    if (::geteuid() != 0)
+        QVERIFY(!platform::readUserComment(folder.path("a.jpg")));
 }
 
 QTEST_GUILESS_MAIN(TestUserCommentWriter)
