@@ -283,6 +283,34 @@ QString FileDesk::writeComment(const QString &path, const QString &comment) cons
     return written ? QString() : written.error().message;
 }
 
+QStringList FileDesk::lostMetadata(const QString &from, const QString &to) const
+{
+    const auto groupsOf = [](const QString &path) {
+        const auto source = platform::ImageSource::open(path);
+        return source ? source->metadata().toProperties() : QVariantMap();
+    };
+    const QVariantMap had = groupsOf(from);
+    const QVariantMap has = groupsOf(to);
+    QStringList lost;
+    for (const auto &[group, word] :
+         {std::pair("{Exif}", "EXIF"), {"{GPS}", "GPS"}, {"{IPTC}", "IPTC"}, {"{XMP}", "XMP"}})
+        if (had.contains(QString::fromLatin1(group)) && !has.contains(QString::fromLatin1(group)))
+            lost.append(QString::fromLatin1(word));
+    return lost;
+}
+
+QVariantMap FileDesk::readComment(const QString &path) const
+{
+    const auto comment = platform::readUserComment(path);
+    return {{QStringLiteral("comment"), comment.value_or(QStringLiteral(""))},
+            {QStringLiteral("problem"), comment ? QStringLiteral("") : comment.error().message}};
+}
+
+int FileDesk::pagesLostToComment(const QString &path) const
+{
+    return platform::pagesLostToUserComment(path);
+}
+
 bool FileDesk::holdsComment(const QString &path) const
 {
     return platform::canHoldUserComment(path);

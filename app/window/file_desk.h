@@ -90,6 +90,12 @@ public:
 
     /** Writes the user comment of a picture; see platform::writeUserComment(). */
     Q_INVOKABLE QString writeComment(const QString &path, const QString &comment) const;
+    /** The kinds of metadata, "EXIF", "GPS", "IPTC" and "XMP", that one picture holds and another, made of it, does not. */
+    Q_INVOKABLE QStringList lostMetadata(const QString &from, const QString &to) const;
+    /** {comment, problem}: the user comment of a picture, or why it cannot be read. */
+    Q_INVOKABLE QVariantMap readComment(const QString &path) const;
+    /** How many pages a file would lose to a comment; see platform::pagesLostToUserComment(). */
+    Q_INVOKABLE int pagesLostToComment(const QString &path) const;
     /** Whether a file is of a kind that can hold a comment; see platform::canHoldUserComment(). */
     Q_INVOKABLE bool holdsComment(const QString &path) const;
 

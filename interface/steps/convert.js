@@ -44,6 +44,7 @@ export function plan(photo, settings) {
     const target = targetNamed(settings.target);
     const planned = ready(splitPath(photo.path).base + target.extension, target, photo, sourceNotes(photo, target));
     planned.word = target.word;
+    planned.metadata = target.metadata;
     return planned;
 }
 
@@ -56,9 +57,14 @@ function verified(path, planned, photo, services) {
     // A page is measured in points.
     const isRight = written.type === planned.word && written.width > 0 &&
         (planned.word === "PDF" || (written.width === photo.width && written.height === photo.height));
-    return isRight
+    if (!isRight) {
+        return { status: "Failed", reason: qsTr("the file was written but cannot be read again"), outputs: [] };
+    }
+    // The picture is written first and its metadata after it; on a full disk only the first may have gone well.
+    const lost = planned.metadata ? services.files.lostMetadata(photo.path, path) : [];
+    return lost.length === 0
         ? { status: "OK", reason: "", outputs: [path], width: planned.width, height: planned.height }
-        : { status: "Failed", reason: qsTr("the file was written but cannot be read again"), outputs: [] };
+        : { status: "Failed", reason: fill(qsTr("the metadata could not be written (%1); the disk may be full"), lost.join(", ")), outputs: [] };
 }
 
 /** Writes the picture as settings.prefix + name, where plan() tells the name; see the Resize step. */

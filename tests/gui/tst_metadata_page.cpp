@@ -5,6 +5,7 @@
 #include "meta/mMeta.h"
 #include "platform/imageio/metadata.h"
 #include "tests/support/corpus.h"
+#include "tests/support/made_tiff.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
 #include "window_driver.h"
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void revertsARunAndDoesItAgain();
     void saysWhyACommentIsNotReverted();
     void saysThatAFileCannotBeWritten();
+    void leavesFilesWithSeveralPagesOutUnlessAskedFor();
     void tenThousandEditsStayFluid();
 
 private:
@@ -469,6 +471,46 @@ void TestMetadataPage::saysWhyACommentIsNotReverted()
     m_driver->click("logRevert");
     QVERIFY(m_driver->waitFor([this] { return log()->totalCount() == 7; }));
     QVERIFY2(note().contains(QStringLiteral("It has its old comment already.")), qPrintable(note()));
+}
+
+void TestMetadataPage::leavesFilesWithSeveralPagesOutUnlessAskedFor()
+{
+    const QByteArray pages = pictures::madeTiff({3});
+    QFile file(path("pages.tif"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(pages) == pages.size());
+    file.close();
+    QString detail;
+    bool isChecked = true;
+    const auto answer = [&](bool check) {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        detail = box->informativeText();
+        isChecked = box->checkBox()->isChecked();
+        box->checkBox()->setChecked(check);
+        for (QAbstractButton *each : box->buttons())
+            if (each->text() == QStringLiteral("Write"))
+                return each->click();
+    };
+    const auto writeIntoBoth = [&](bool check) {
+        comment()->setPlainText(QStringLiteral("new"));
+        m_driver->answerPanels({path("a.jpg"), path("pages.tif")});
+        QTimer::singleShot(300, this, [&answer, check] { answer(check); });
+        m_driver->click("metaChooseFiles");
+        return m_driver->waitFor([this] { return isIdle(); });
+    };
+    QVERIFY(writeIntoBoth(false));
+    QVERIFY2(detail.contains(QStringLiteral("2 further pages: pages.tif (2)")), qPrintable(detail));
+    QVERIFY(!isChecked);
+    QCOMPARE(pictures::bytesOf(path("pages.tif")), pages);
+    QCOMPARE(commentOf(path("a.jpg")), QStringLiteral("new"));
+    QVERIFY2(note().contains(QStringLiteral("It has 2 further pages")), qPrintable(note()));
+    QVERIFY(writeIntoBoth(true));
+    QCOMPARE(commentOf(path("pages.tif")), QStringLiteral("new"));
+    QCOMPARE(mMeta().hGetExifUc(path("pages.tif")), QStringLiteral("new"));
+    showEdits();
+    QCOMPARE(log()->totalCount(), 4);
+    // What cannot be brought back as a whole is a run beside the others.
+    QCOMPARE(logText().count("keep the first page only"), 1);
+    QVERIFY(logText().contains("2 further pages were taken out and do not come back."));
 }
 
 void TestMetadataPage::saysThatAFileCannotBeWritten()

@@ -1,14 +1,17 @@
 import {
-    commentExample, commentMaker, commentProblem, commentsOf, editRow, editsOf, editWords, reverting, writeComment, writing,
+    commentExample, commentMaker, commentProblem, commentsOf, editRow, editsOf, editWords, pagesAtStake, reverting, writeComment, writing,
 } from "../../interface/lib/comment-run.js";
 import { fill } from "../../interface/lib/wording.js";
 import { drain, equal, finish, isTrue, test } from "./check.js";
 
-// Files and their comments; "locked" cannot be written, "text" is no picture, "lying" says that it was written and was not.
+// Files and their comments; "locked" cannot be written, "text" is no picture, "lying" says that it was written and was not, "secret" cannot
+// be read, "fickle" only until it was written, and "pages" has two further pages, which a comment takes out.
 function service(texts) {
-    const meta = { hGetExifUc: (path) => texts[path] || "" };
     const files = {
         info: (path) => ({ exists: texts[path] !== undefined }),
+        pagesLostToComment: (path) => (path.indexOf("pages") >= 0 && !texts.taken ? 2 : 0),
+        readComment: (path) => (path.indexOf("secret") >= 0 || (path.indexOf("fickle") >= 0 && texts.taken)
+            ? { comment: "", problem: "Cannot read " + path } : { comment: texts[path] || "", problem: "" }),
         writeComment: (path, comment) => {
             if (path.indexOf("text") >= 0) {
                 return "Cannot write the comment into " + path + ": this is not a picture";
@@ -17,18 +20,53 @@ function service(texts) {
                 return "Cannot write the comment into " + path + ": the file is write-protected";
             }
             if (path.indexOf("lying") < 0) {
-                texts[path] = comment.trim() === "" ? "" : comment;
+                texts[path] = comment;
+            }
+            if (path.indexOf("fickle") >= 0 || path.indexOf("pages") >= 0) {
+                texts.taken = true;
             }
             return "";
         },
     };
-    return Object.assign(commentsOf(meta, files), { texts: texts });
+    return Object.assign(commentsOf(files), { texts: texts });
 }
 
 test("writesAndSaysWhatWasThere", () => {
     const comments = service({ "/p/a.jpg": "old" });
     equal(writeComment(comments, "/p/a.jpg", "new"), { path: "/p/a.jpg", status: "OK", before: "old", after: "new", reason: "" });
-    equal(writeComment(comments, "/p/a.jpg", "  ").status, "OK");
+    equal(writeComment(comments, "/p/a.jpg", "  "), { path: "/p/a.jpg", status: "OK", before: "new", after: "  ", reason: "" });
+});
+
+test("aCommentThatCannotBeReadIsNotOverwritten", () => {
+    const comments = service({ "/p/secret.jpg": "old" });
+    equal(writeComment(comments, "/p/secret.jpg", "new"), { path: "/p/secret.jpg", status: "Failed", reason: "Cannot read /p/secret.jpg", before: "", after: "" });
+    const back = drain(reverting(comments, [{ path: "/p/secret.jpg", before: "", after: "new", run: "r1" }])).values[0];
+    equal([back.status, back.reason, comments.texts["/p/secret.jpg"]], ["Failed", "Cannot read /p/secret.jpg", "old"]);
+});
+
+test("aCommentThatCannotBeReadBackIsWrittenAllTheSame", () => {
+    equal(writeComment(service({ "/p/fickle.jpg": "old" }), "/p/fickle.jpg", "new"),
+          { path: "/p/fickle.jpg", status: "OK", before: "old", after: "new", reason: "" });
+});
+
+test("leavesFilesWithSeveralPagesOutUnlessAskedFor", () => {
+    const comments = service({ "/p/pages.tif": "old", "/p/a.jpg": "old" });
+    const left = drain(writing(comments, ["/p/pages.tif", "/p/a.jpg"], () => "new", false)).values;
+    equal(left.map((each) => [each.status, each.pages]), [["Skipped", undefined], ["OK", undefined]]);
+    isTrue(left[0].reason.indexOf("2 further pages") >= 0, left[0].reason);
+    equal(comments.texts["/p/pages.tif"], "old");
+    const back = drain(reverting(comments, [{ path: "/p/pages.tif", before: "older", after: "old", run: "r1" }])).values[0];
+    equal([back.status, comments.texts["/p/pages.tif"]], ["Skipped", "old"]);
+    const done = drain(writing(comments, ["/p/pages.tif"], () => "new", true)).values[0];
+    equal([done.status, done.pages, comments.texts["/p/pages.tif"]], ["OK", 2, "new"]);
+    isTrue(done.reason.indexOf("2 further pages were taken out") >= 0, done.reason);
+});
+
+test("countsThePagesAtStake", () => {
+    const comments = { pagesLost: (path) => (path.indexOf("t") >= 0 ? path.length : 0) };
+    equal(pagesAtStake(comments, ["/a/x.jpg", "/a/t.tif", "/a/tt.tif"]), { files: 2, pages: 17, words: "t.tif (8), tt.tif (9)" });
+    equal(pagesAtStake(comments, Array.from({ length: 7 }, (each, index) => "/a/" + index + "t")).words, "0t (5), 1t (5), 2t (5), 3t (5), 4t (5), 2 more files");
+    equal(pagesAtStake(comments, ["/a/x.jpg"]), { files: 0, pages: 0, words: "" });
 });
 
 const UNABLE = [["/p/locked.gif", "write-protected"], ["/p/text.jpg", "not a picture"], ["/p/lying.jpg", "does not say"]];
@@ -63,7 +101,7 @@ test("givesAnExampleOfAPictureOrOfAMadeUpOne", () => {
 
 test("writesAllAndRevertsThemFromTheLastOn", () => {
     const comments = service({ "/p/a.jpg": "one", "/p/b.jpg": "two", "/p/locked.jpg": "three" });
-    const results = drain(writing(comments, ["/p/a.jpg", "/p/text.jpg", "/p/b.jpg", "/p/locked.jpg"], () => "new")).values;
+    const results = drain(writing(comments, ["/p/a.jpg", "/p/text.jpg", "/p/b.jpg", "/p/locked.jpg"], () => "new", false)).values;
     equal(results.map((each) => each.status), ["OK", "Failed", "OK", "Failed"]);
     const back = drain(reverting(comments, editsOf(results, "r1"))).values;
     equal(back.map((each) => [each.path, each.status, each.undoes]), [["/p/b.jpg", "OK", "r1"], ["/p/a.jpg", "OK", "r1"]]);
@@ -91,7 +129,7 @@ for (const row of REVERTS) {
 
 test("aRevertCanBeReverted", () => {
     const comments = service({ "/p/a.jpg": "one" });
-    const edits = editsOf(drain(writing(comments, ["/p/a.jpg"], () => "new")).values, "r1");
+    const edits = editsOf(drain(writing(comments, ["/p/a.jpg"], () => "new", false)).values, "r1");
     const again = editsOf(drain(reverting(comments, edits)).values, "r2");
     drain(reverting(comments, again));
     equal(comments.texts, { "/p/a.jpg": "new" });

@@ -8,6 +8,7 @@ function servicesThatLeave(written) {
     const files = new FakeFiles({});
     const calls = [];
     files.picture = () => written;
+    files.lostMetadata = () => (written === null ? [] : written.lost || []);
     return {
         calls: calls, files: files,
         fileHandling: {
@@ -49,6 +50,16 @@ test("asksTheServiceAndLooksAtTheFile", () => {
         equal(services.calls, [["/p/a.b.png", keyword, "3", "/s/" + NAMES[keyword]]]);
         equal([result.status, result.outputs, result.width], ["OK", ["/s/" + NAMES[keyword]], 400]);
     }
+});
+
+test("failsWhereMetadataThatWasPromisedIsNotThere", () => {
+    const run = (target, word) => convert.run(source("a.jpg"), settings(target), servicesThatLeave({ type: word, width: 400, height: 300, lost: ["EXIF", "XMP"] }));
+    for (const [target, word] of [["png", "PNG"], ["tiff", "TIFF"]]) {
+        const result = run(target, word);
+        equal([result.status, result.outputs], ["Failed", []]);
+        isTrue(result.reason.indexOf("EXIF, XMP") >= 0, result.reason);
+    }
+    equal(run("jpeg", "JPEG").status, "OK"); // which promises none
 });
 
 test("believesTheFileAndNotTheAnswer", () => {

@@ -1,7 +1,6 @@
 // The log of all runs: the newest first, searched, filtered by run, status and kind, sorted, exported; runs are undone and comments
-// reverted from here. Services used: files (through lib/log-file and lib/comment-run), mMeta, moves, defaults.
+// reverted from here. Services used: files (through lib/log-file and lib/comment-run), moves, defaults.
 
-import { mMeta } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -46,7 +45,7 @@ export class LogPage {
         this.job = shell.job();
         this.undo = null;
         this.words = null;
-        this.comments = commentsOf(new mMeta(), files);
+        this.comments = commentsOf(files);
         this.reverting = new CommentJob();
         this.form = shell.loadForm("windows/log/log.ui");
         this.table = this.form.control("logTable");

@@ -30,7 +30,7 @@ export class CommentJob {
      *                reverted}
      */
     start(generator, action, onStep, onEnd) {
-        const work = { run: newRunName(), action: action, tried: 0, done: 0, first: "", problem: "", cancelled: false, edits: [] };
+        const work = { run: newRunName(), pagesRun: newRunName(), action: action, tried: 0, done: 0, first: "", problem: "", cancelled: false, edits: [] };
         this.job.start(generator, guard("comments.step", (result) => { this.take(work, result); onStep(work); }),
                        guard("comments.end", (how, value) => {
             work.cancelled = how === "cancelled";
@@ -45,8 +45,12 @@ export class CommentJob {
         work.tried += 1;
         work.done += result.status === "OK" ? 1 : 0;
         work.first = work.first || (result.status === "OK" ? "" : result.reason);
-        editsOf([result], work.run).forEach((edit) => work.edits.push(edit));
-        work.problem = work.problem || appendRows(files, [editRow(result, work.action, new Date().toISOString(), work.run)]);
+        // What cannot be reverted as a whole stands apart, as a run beside the other.
+        const lostPages = result.pages > 0;
+        const run = lostPages ? work.pagesRun : work.run;
+        const action = lostPages ? qsTr("Write comment, keep the first page only") : work.action;
+        editsOf([result], run).forEach((edit) => work.edits.push(edit));
+        work.problem = work.problem || appendRows(files, [editRow(result, action, new Date().toISOString(), run)]);
     }
 }
 

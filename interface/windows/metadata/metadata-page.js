@@ -1,11 +1,11 @@
 // Metadata: the properties of one picture as a tree, its user comment, and the comments of many pictures: those of the list, chosen files, or
-// a folder. Services used: mMeta, cToolBox (hOpenDialogFilesOC), files, defaults, and those of comment-job.
+// a folder. Services used: cToolBox (hOpenDialogFilesOC), files, defaults, and those of comment-job.
 
-import { cToolBox, mMeta } from "quorlin";
+import { cToolBox } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
-import { commentExample, commentMaker, commentProblem, commentsOf, reverting, writing } from "../../lib/comment-run.js";
+import { commentExample, commentMaker, commentProblem, commentsOf, pagesAtStake, reverting, writing } from "../../lib/comment-run.js";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
@@ -14,7 +14,6 @@ import { PICTURE_INPUT } from "../../lib/types.js";
 import { count, fill } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary, commentsWritten } from "./comment-job.js";
 
-const TIFF = /\.tiff?$/i;
 const KEPT = "Comments";
 const ONE = 0;
 const MANY = 1;
@@ -30,7 +29,7 @@ export class MetadataPage {
     constructor(window) {
         this.window = window;
         this.list = window.pictures;
-        this.comments = commentsOf(new mMeta(), files);
+        this.comments = commentsOf(files);
         this.job = new CommentJob();
         this.shown = false;
         // What was read from the picture that is shown, to tell whether the field was changed.
@@ -144,8 +143,9 @@ export class MetadataPage {
         const control = (name) => this.form.control(name);
         this.path = photo.path;
         const isPicture = this.tree.showFile(photo.path);
-        this.read = this.comments.read(photo.path);
-        this.holds = files.holdsComment(photo.path);
+        const found = this.comments.read(photo.path);
+        this.read = found.comment;
+        this.holds = found.problem === "" && files.holdsComment(photo.path);
         this.view.showPicture(photo.path);
         this.view.setTitles("", "");
         this.view.setCaptions("", "");
@@ -155,8 +155,8 @@ export class MetadataPage {
         }
         control("metaName").text = photo.name;
         control("metaName").toolTip = photo.path;
-        control("metaProblem").text = isPicture ? "" : qsTr("This file is not a picture that can be read.");
-        control("metaProblem").visible = !isPicture;
+        control("metaProblem").text = isPicture ? found.problem : qsTr("This file is not a picture that can be read.");
+        control("metaProblem").visible = !isPicture || found.problem !== "";
         this.showCopyMenu();
     }
 
@@ -253,37 +253,51 @@ export class MetadataPage {
     }
 
     // What whoever writes into pictures must know before.
-    warnings(paths) {
+    warnings(paths, lost) {
         const without = paths.filter((path) => !mayHold(path)).length;
+        const pages = count(lost.pages, qsTr("1 further page"), qsTr("%1 further pages"));
         return [
             qsTr("The originals themselves are changed: their comment, and nothing else in them."),
-            paths.some((path) => TIFF.test(path)) ? qsTr("Of TIFF files with several pages only the first page is kept.") : "",
+            lost.files === 0 ? "" : paths.length === 1
+                ? fill(qsTr("This file has %1, which would be taken out and cannot be brought back: only its first page is kept."), pages)
+                : fill(count(lost.files, qsTr("1 file has several pages and is left out; its comment would cost it %2: %3."),
+                             qsTr("%1 files have several pages and are left out; their comments would cost them %2: %3.")), lost.files, pages, lost.words),
             without > 0 ? count(without, qsTr("1 file is of a type that has no place for a comment, and stays as it is."),
                                 qsTr("%1 files are of types that have no place for a comment, and stay as they are.")) : "",
         ].filter((each) => each !== "");
     }
 
-    mayWrite(paths, comment) {
+    // Whether to write, and whether files with several pages may lose all but their first: only where that was asked for.
+    mayWrite(paths, comment, lost) {
+        const isOne = paths.length === 1 && lost.files === 1;
         const answer = shell.ask({
             title: qsTr("Write comment"),
             text: comment === "" ? count(paths.length, qsTr("Empty the comment of this picture?"), qsTr("Empty the comments of %1 pictures?"))
                 : count(paths.length, qsTr("Write the comment into this picture?"), qsTr("Write the comment into %1 pictures?")),
-            detail: this.warnings(paths).join(" "), buttons: [qsTr("Write"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
+            detail: this.warnings(paths, lost).join(" "), initial: 1, escape: 1,
+            buttons: [isOne ? qsTr("Write and Remove Pages") : qsTr("Write"), qsTr("Cancel")],
+            check: lost.files > 0 && !isOne ? qsTr("Write into these too, and keep only their first page") : "",
         });
-        return answer.button === 0;
+        return { goesOn: answer.button === 0, pagesMayGo: isOne || answer.checked };
+    }
+
+    // One picture that loses nothing is written without a question.
+    write(paths, comment, maker) {
+        const lost = pagesAtStake(this.comments, paths);
+        const answer = this.scope === ONE && lost.files === 0 ? { goesOn: true, pagesMayGo: false } : this.mayWrite(paths, comment, lost);
+        if (answer.goesOn) {
+            this.run(paths, writing(this.comments, paths, maker, answer.pagesMayGo), qsTr("Write comment"), commentsWritten);
+        }
     }
 
     apply() {
         const comment = this.text();
-        if (!TIFF.test(this.path) || this.mayWrite([this.path], comment)) {
-            this.run([this.path], writing(this.comments, [this.path], () => comment), qsTr("Write comment"), commentsWritten);
-        }
+        this.write([this.path], comment, () => comment);
     }
 
     writeInto(paths) {
-        const text = this.text();
-        if (paths.length > 0 && this.mayWrite(paths, text)) {
-            this.run(paths, writing(this.comments, paths, commentMaker(text, files)), qsTr("Write comment"), commentsWritten);
+        if (paths.length > 0) {
+            this.write(paths, this.text(), commentMaker(this.text(), files));
         }
     }
 
