@@ -10,6 +10,7 @@
 #include "tests/support/test_pictures.h"
 #include "window_driver.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
 #include <QElapsedTimer>
