@@ -5,6 +5,7 @@
 #include "platform/desktop/trash.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/foundation/folders.h"
+#include "platform/foundation/regular_file.h"
 #include "presets/Ztbookmarks.h"
 
 #include <QDir>
@@ -33,7 +34,7 @@ bool areSame(const QString &one, const QString &other)
 {
     QFile first(one);
     QFile second(other);
-    return first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly) && first.size() == second.size() &&
+    return platform::openToRead(first) && platform::openToRead(second) && first.size() == second.size() &&
            first.readAll() == second.readAll();
 }
 

@@ -3,6 +3,7 @@
 #include "platform/foundation/atomic_file.h"
 #include "platform/foundation/folders.h"
 #include "platform/foundation/paths.h"
+#include "platform/foundation/regular_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -82,7 +83,7 @@ std::pair<QByteArray, QByteArray> DiskJournalShelf::ends(const QString &name) co
 {
     constexpr qint64 tail = 4096;
     QFile file(path(name));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!platform::openToRead(file))
         return {};
     const QByteArray first = file.readLine();
     file.seek(std::max<qint64>(0, file.size() - tail));

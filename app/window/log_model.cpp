@@ -1,6 +1,7 @@
 #include "app/window/log_model.h"
 
 #include "app/window/theme.h"
+#include "platform/foundation/regular_file.h"
 
 #include <QCollator>
 #include <QDateTime>
@@ -74,7 +75,7 @@ LogModel::LogModel(QObject *parent) : QAbstractTableModel(parent)
 void LogModel::follow(const QString &path)
 {
     QFile file(path);
-    const bool isOpen = file.open(QIODevice::ReadOnly);
+    const bool isOpen = platform::openToRead(file).has_value();
     const QByteArray head = isOpen ? file.peek(headBytes) : QByteArray();
     const bool isSame = path == m_path && file.size() >= m_readUpTo && !m_head.isEmpty() && head.startsWith(m_head);
     if (isSame && !isReading()) {
@@ -141,7 +142,7 @@ void LogModel::addOlder(const std::vector<int> &places)
 void LogModel::readNewer()
 {
     QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly) || !file.seek(m_readUpTo))
+    if (!platform::openToRead(file) || !file.seek(m_readUpTo))
         return;
     const QByteArray added = file.readAll();
     const int before = m_entries.newest();

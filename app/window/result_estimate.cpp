@@ -2,6 +2,7 @@
 
 #include "app/window/size_estimate.h"
 #include "image/output.h"
+#include "platform/foundation/regular_file.h"
 #include "platform/imageio/content.h"
 
 #include <QFile>
@@ -15,7 +16,7 @@ constexpr int settledMs = 250;
 double exponentOf(const QString &path, const Rendition &original)
 {
     QFile file(path);
-    const bool isJpeg = original.bitmap.jpegQuantisation() && file.open(QIODevice::ReadOnly);
+    const bool isJpeg = original.bitmap.jpegQuantisation() && platform::openToRead(file).has_value();
     const qint64 scan = isJpeg ? platform::startOfJpegScan(file) : 0;
     if (scan <= 0)
         return typicalJpegExponent;

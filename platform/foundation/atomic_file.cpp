@@ -1,5 +1,6 @@
 #include "platform/foundation/atomic_file.h"
 
+#include "platform/foundation/regular_file.h"
 #include "platform/foundation/temporary_file.h"
 
 #include <QCoreApplication>
@@ -78,10 +79,8 @@ QByteArray spliced(const QByteArray &bytes, const QList<Splice> &splices)
 Result<QByteArray> readFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return failure(ErrorCode::NotFound,
-                       QCoreApplication::translate("platform", "Cannot read %1: %2").arg(path, file.errorString()));
-    }
+    if (const auto opened = openToRead(file); !opened)
+        return tl::unexpected<Error>(opened.error());
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return failure(ErrorCode::Unreadable,

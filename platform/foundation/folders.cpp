@@ -28,12 +28,6 @@ fs::path native(const QString &path)
     return fs::path(QFile::encodeName(withoutTrailingSlashes(path)).toStdString());
 }
 
-/** The system would read a path only up to a null character, and a broken pair of surrogates as something else. */
-bool canBeAPath(const QString &path)
-{
-    return !path.isEmpty() && !path.contains(QChar(u'\0')) && path.isValidUtf16();
-}
-
 tl::unexpected<Error> noPath(const QString &path)
 {
     return failure(ErrorCode::InvalidValue, QStringLiteral("This cannot be the path of an item: %1").arg(path));

@@ -45,6 +45,11 @@ QString withoutTrailingSlashes(const QString &path)
     return path.left(end);
 }
 
+bool canBeAPath(const QString &path)
+{
+    return !path.isEmpty() && !path.contains(QChar(u'\0')) && path.isValidUtf16();
+}
+
 QString parentFolder(const QString &path)
 {
     const QString item = withoutTrailingSlashes(path);

@@ -19,6 +19,12 @@ QString baseName(const QString &path);
 /** @p path without the slashes at its end; "/" stays. What ends in a slash would lead through a link, not to it. */
 QString withoutTrailingSlashes(const QString &path);
 
+/**
+ * False for an empty text, and for one with a null character or half a surrogate pair: the system would read such a path only
+ * up to there, or as that of another item.
+ */
+bool canBeAPath(const QString &path);
+
 /** The path of the folder that the last component is in: "/a/b/" gives "/a", "/a" and "/" give "/", "a" gives "". */
 QString parentFolder(const QString &path);
 

@@ -1,5 +1,8 @@
 #include "platform/foundation/temporary_file.h"
 
+#include "platform/foundation/paths.h"
+#include "platform/foundation/sign_of_life.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -12,6 +15,7 @@
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
+#include <utility>
 
 namespace platform {
 namespace {
@@ -47,6 +51,16 @@ void copyAttributes(int source, int target)
             copyAttribute(source, target, name);
 }
 
+/** Only an ordinary file or a link gives way to another file: a device, a pipe or a socket is no place for one. */
+bool mayBeReplaced(const QByteArray &path)
+{
+    struct stat there = {};
+    if (::lstat(path.constData(), &there) != 0)
+        return errno == ENOENT;
+    errno = S_ISDIR(there.st_mode) ? EISDIR : EEXIST;
+    return S_ISREG(there.st_mode) || S_ISLNK(there.st_mode);
+}
+
 } // namespace
 
 tl::unexpected<Error> writeFailure(const QString &path, int code)
@@ -58,8 +72,14 @@ tl::unexpected<Error> writeFailure(const QString &path, int code)
 TemporaryFile::TemporaryFile(const QString &target)
     : m_target(QFile::encodeName(target)), m_folder(QFile::encodeName(QFileInfo(target).path()))
 {
+    errno = ENOENT;
+    if (!canBeAPath(target) || !mayBeReplaced(m_target))
+        return;
+    sweepUnfinishedOnce(QFileInfo(target).path());
     m_descriptor = ::open(m_folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
-    if (m_descriptor < 0)
+    if (m_descriptor >= 0)
+        showLife(m_descriptor);
+    else
         openNamed();
 }
 
@@ -73,11 +93,21 @@ TemporaryFile::~TemporaryFile()
 
 bool TemporaryFile::openNamed()
 {
-    QByteArray name = m_folder + "/.quorlin-XXXXXX";
-    m_descriptor = ::mkostemp(name.data(), O_CLOEXEC);
-    if (isOpen())
-        m_name = name;
-    return isOpen();
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        QByteArray name = m_folder + '/' + unfinishedName + "XXXXXX";
+        m_descriptor = ::mkostemp(name.data(), O_CLOEXEC);
+        if (!isOpen())
+            return false;
+        // Before it showed life, somebody may have taken it for what an ended process left.
+        if (showLife(m_descriptor) != Life::Others && isStillNamed(m_descriptor, name)) {
+            m_name = name;
+            return true;
+        }
+        ::close(m_descriptor);
+        m_descriptor = -1;
+    }
+    errno = EBUSY;
+    return false;
 }
 
 bool TemporaryFile::write(const QByteArray &bytes)
@@ -174,7 +204,7 @@ bool TemporaryFile::nameIt()
 {
     const QByteArray open = "/proc/self/fd/" + QByteArray::number(m_descriptor);
     for (int attempt = 0; attempt < 100; ++attempt) {
-        const QByteArray name = m_folder + "/.quorlin-" + QByteArray::number(quint32(::random()), 36) +
+        const QByteArray name = m_folder + '/' + unfinishedName + QByteArray::number(quint32(::random()), 36) +
                                 QByteArray::number(qint64(::getpid()), 36);
         if (::linkat(AT_FDCWD, open.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0) {
             m_name = name;
@@ -190,12 +220,18 @@ bool TemporaryFile::takePlace()
 {
     if (::fdatasync(m_descriptor) != 0 || (m_name.isEmpty() && !nameIt()))
         return false;
-    const int descriptor = m_descriptor;
-    m_descriptor = -1;
-    if (::close(descriptor) != 0 || ::rename(m_name.constData(), m_target.constData()) != 0)
-        return false;
-    m_name.clear();
-    return true;
+    // Some disks tell of an error only when a file is closed; the second descriptor goes on showing life until it is named.
+    const int alive = ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);
+    const int descriptor = std::exchange(m_descriptor, -1);
+    const bool isNamed =
+        ::close(descriptor) == 0 && mayBeReplaced(m_target) && ::rename(m_name.constData(), m_target.constData()) == 0;
+    const int problem = errno;
+    if (alive >= 0)
+        ::close(alive);
+    errno = problem;
+    if (isNamed)
+        m_name.clear();
+    return isNamed;
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #include "platform/imageio/loaders.h"
 
+#include "platform/foundation/regular_file.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/bmp_header.h"
 #include "platform/imageio/jpeg2000_reader.h"
@@ -18,8 +19,12 @@ using vips::VSource;
 
 VSource sourceOf(const PictureBytes &source)
 {
-    if (!source.path.isEmpty())
-        return VSource::new_from_file(QFile::encodeName(source.path).constData());
+    if (!source.path.isEmpty()) {
+        QFile file(source.path); // by its descriptor, so that what is read is what was asked
+        if (const auto opened = openToRead(file); !opened)
+            throw vips::VError(opened.error().message.toStdString());
+        return VSource::new_from_descriptor(file.handle());
+    }
     return VSource::new_from_memory(source.bytes.constData(), size_t(source.bytes.size()));
 }
 
@@ -116,7 +121,10 @@ std::unique_ptr<QIODevice> PictureBytes::device() const
         buffer->setData(bytes);
         result = std::move(buffer);
     } else {
-        result = std::make_unique<QFile>(path);
+        auto file = std::make_unique<QFile>(path);
+        if (!openToRead(*file))
+            return nullptr;
+        return file;
     }
     if (!result->open(QIODevice::ReadOnly))
         result.reset();

@@ -1,3 +1,4 @@
+#include "platform/foundation/regular_file.h"
 #include "platform/imageio/opened_file.h"
 
 #include <QFile>
@@ -46,7 +47,7 @@ Metadata fromDecoder(const PictureBytes &bytes, Content content)
 Metadata fromLargeFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!openToRead(file))
         return {};
     const uchar *data = file.map(0, file.size());
     if (!data)

@@ -1,5 +1,6 @@
 #include "platform/imageio/picture_facts.h"
 
+#include "platform/foundation/regular_file.h"
 #include "platform/imageio/content.h"
 #include "platform/imageio/exif_tags.h"
 #include "platform/imageio/image_source.h"
@@ -216,7 +217,7 @@ PictureFacts factsOfRawFile(QIODevice &file)
 PictureFacts pictureFacts(const QString &path)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) // a pipe would keep the reader waiting
+    if (!openToRead(file))
         return {};
     const QByteArray head = file.peek(contentHeadBytes);
     const Content content = contentOf(head);

@@ -1,5 +1,6 @@
 #include "platform/imageio/user_comment_writer.h"
 
+#include "platform/foundation/regular_file.h"
 #include "platform/imageio/comment_splices.h"
 #include "platform/imageio/image_source.h"
 
@@ -66,7 +67,7 @@ Result<void> checkEdited(const ImageSource &before, const QString &editedPath, c
 bool canHoldUserComment(const QString &path)
 {
     QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (!openToRead(file, QIODevice::Unbuffered))
         return false;
     const Content content = contentOf(file.read(contentHeadBytes));
     return content == Content::Jpeg || content == Content::Tiff || content == Content::Png ||
@@ -94,8 +95,8 @@ Result<void> writeUserComment(const QString &path, const QString &comment)
     };
     if (comment.contains(QChar::Null))
         return failed(ErrorCode::InvalidValue, text("a comment ends where it has a null character"));
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return failed(ErrorCode::NotFound, file.errorString());
+    if (const auto opened = openToRead(file, QIODevice::Unbuffered); !opened)
+        return failed(opened.error().code, opened.error().message);
     const Result<QList<Splice>> splices = splicesFor(file, contentOf(file.read(contentHeadBytes)), comment);
     if (!splices)
         return failed(splices.error().code, splices.error().message);

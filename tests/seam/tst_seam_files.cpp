@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <sys/stat.h>
+
 namespace {
 
 /** A script with a service f, and plist(), which makes a file with one key and reads that. */
@@ -26,6 +28,8 @@ private Q_SLOTS:
     void answersWhatItIsAsked_data();
     void readsAndWritesFiles_data();
     void readsAndWritesFiles() { answersWhatItIsAsked(); }
+    void waitsForNoPipe_data();
+    void waitsForNoPipe() { answersWhatItIsAsked(); }
     void convertsPictures_data();
     void convertsPictures() { answersWhatItIsAsked(); }
     void answersWhatItIsAsked();
@@ -125,6 +129,37 @@ void TestSeamFiles::readsAndWritesFiles_data()
         "true");
 }
 
+/** FOLDER/pipe.jpg is a named pipe that nobody writes into: whoever opened it like a file would wait for ever. */
+void TestSeamFiles::waitsForNoPipe_data()
+{
+    QTest::addColumn<QString>("expression");
+    QTest::addColumn<QString>("outcome");
+    for (const char *expression :
+         {"f.hReadTextFileLbyL('FOLDER/pipe.jpg')", "f.readPlist('FOLDER/pipe.jpg', 'key')",
+          "f.writeToPlist('FOLDER/pipe.jpg', 'key', 1)", "f.readNSDataFromFile('FOLDER/pipe.jpg')",
+          "Picture.open('FOLDER/pipe.jpg')", "new ZtImageHandling().hStringToCGImageRef('FOLDER/pipe.jpg')",
+          "new ZtImageHandling().imageFromCGImageRef(new ZtImageHandling().hStringToCGImageRef('FOLDER/pipe.jpg'))",
+          "f.hReadTextFileLbyL('/dev/zero')", "f.readNSDataFromFile('/dev/tty')", "Picture.open('/dev/zero')"})
+        QTest::newRow(expression) << QString::fromUtf8(expression) << QStringLiteral("null");
+    const auto row = [](const char *expression, const char *outcome) {
+        QTest::newRow(expression) << QString::fromUtf8(expression) << QString::fromUtf8(outcome);
+    };
+    row("(f.hWriteTextFile('FOLDER/pipe.jpg', 'x'), f.writeNSDataToFile(new ArrayBuffer(3), 'FOLDER/pipe.jpg'),"
+        " f.readNSDataFromFile('FOLDER/pipe.jpg'))",
+        "null");
+    row("Picture.open('PICTURE').save('FOLDER/pipe.jpg')", "false");
+    row("(f.hWriteTextFile('FOLDER/a.txt\\u0000.jpg', 'x'), f.hReadTextFileLbyL('FOLDER/a.txt'))", "[\"hello\"]");
+    row("f.hReadTextFileLbyL('FOLDER/a.txt\\u0000.jpg')", "null");
+    row("Picture.open('PICTURE\\u0000.txt')", "null");
+    row("Picture.open('PICTURE').save('FOLDER/a.txt\\u0000.png')", "false");
+    row("cNSFileHandling.hCopyFileTo('FOLDER/a.txt\\u0000b', 'FOLDER/b.txt')", "\"Failed\"");
+    row("cNSFileHandling.hMoveFileTo('FOLDER/a.txt\\u0000b', 'FOLDER/b.txt')", "\"Failed\"");
+    row("cNSFileHandling.hTrashFile('FOLDER/a.txt\\u0000b')", "\"Failed\"");
+    row("f.hCheckIfFileExist('FOLDER/a.txt\\u0000b')", "\"NO\"");
+    row("f.getFileSize('FOLDER/a.txt\\u0000b')", "null");
+    row("(f.hDeleteFiles(['file://FOLDER/a.txt%00b']), f.hCheckIfFileExist('FOLDER/a.txt'))", "\"OK\"");
+}
+
 void TestSeamFiles::convertsPictures_data()
 {
     QTest::addColumn<QString>("expression");
@@ -154,6 +189,7 @@ void TestSeamFiles::answersWhatItIsAsked()
     run.write(QStringLiteral("a.txt"), QStringLiteral("hello"));
     QString folder = run.pathOf(QStringLiteral("a.txt"));
     folder.chop(6);
+    QVERIFY(::mkfifo(qPrintable(folder + QStringLiteral("/pipe.jpg")), 0600) == 0);
     const QString scriptText =
         scriptWith(expression)
             .replace(QStringLiteral("FOLDER"), folder)

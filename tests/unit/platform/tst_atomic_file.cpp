@@ -1,12 +1,17 @@
 #include "platform/foundation/atomic_file.h"
+#include "platform/foundation/sign_of_life.h"
 #include "tests/support/test_pictures.h"
 
 #include <QDir>
+#include <QFile>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 using platform::replaceFile;
 
@@ -79,6 +84,72 @@ private Q_SLOTS:
         QVERIFY(!replaceFile(at("a"), "1").has_value());
         QCOMPARE(files(), QStringList{QStringLiteral("a")});
         QVERIFY(QFileInfo(at("a")).isDir());
+    }
+
+    /** Each of them would keep a reader waiting, or never end, and none is a place for a file. */
+    void leavesWhatIsNoOrdinaryFileAlone_data()
+    {
+        QTest::addColumn<mode_t>("kind");
+        QTest::newRow("named pipe") << mode_t(S_IFIFO);
+        QTest::newRow("socket") << mode_t(S_IFSOCK);
+        QTest::newRow("device") << mode_t(S_IFCHR);
+    }
+
+    void leavesWhatIsNoOrdinaryFileAlone()
+    {
+        QFETCH(mode_t, kind);
+        const dev_t endless = makedev(1, 5);
+        if (::mknod(qPrintable(at("a")), kind | 0600, kind == S_IFCHR ? endless : 0) != 0)
+            QSKIP("this user may not make one");
+        QVERIFY(QFile::link(at("a"), at("link")));
+        for (const char *name : {"a", "link"}) {
+            const auto read = platform::readFile(at(name));
+            QVERIFY(!read);
+            QCOMPARE(int(read.error().code), int(platform::ErrorCode::Unreadable));
+            QVERIFY(read.error().message.contains(QStringLiteral("ordinary file")));
+        }
+        QVERIFY(!replaceFile(at("a"), "1"));
+        struct stat there = {};
+        QVERIFY(::lstat(qPrintable(at("a")), &there) == 0);
+        QCOMPARE(there.st_mode & S_IFMT, kind);
+        QVERIFY(replaceFile(at("link"), "1")); // a link is replaced, whatever it leads to
+        QCOMPARE(pictures::bytesOf(at("link")), QByteArray("1"));
+    }
+
+    void readsNoFolder() { QVERIFY(!platform::readFile(m_folder.path())); }
+
+    void takesNoTextForAPathUpToItsNullCharacter()
+    {
+        QVERIFY(replaceFile(at("a"), "old").has_value());
+        const QString path = at("a") + QChar(u'\0') + QStringLiteral(".jpg");
+        QVERIFY(!platform::readFile(path));
+        QVERIFY(!replaceFile(path, "new"));
+        QCOMPARE(pictures::bytesOf(at("a")), QByteArray("old"));
+        QCOMPARE(files(), QStringList{QStringLiteral("a")});
+    }
+
+    void takesAwayWhatEndedWritersLeft()
+    {
+        const auto make = [this](const char *name) {
+            QFile file(at(name));
+            return file.open(QIODevice::WriteOnly) && file.write("half") == 4;
+        };
+        for (const char *name :
+             {".quorlin-part-dead", ".quorlin-part-alive", ".quorlin-aside-a", ".quorlin-0123456789ab"})
+            QVERIFY(make(name));
+        QVERIFY(QFile::link(at(".quorlin-aside-a"), at(".quorlin-part-link")));
+        QVERIFY(QDir(m_folder.path()).mkdir(QStringLiteral(".quorlin-part-folder")));
+        QFile alive(at(".quorlin-part-alive"));
+        QVERIFY(alive.open(QIODevice::ReadOnly) && platform::showLife(alive.handle()) == platform::Life::Shown);
+        QVERIFY(replaceFile(at("a"), "1"));
+        const QSet<QString> kept = {QStringLiteral("a"),
+                                    QStringLiteral(".quorlin-part-alive"),
+                                    QStringLiteral(".quorlin-aside-a"),
+                                    QStringLiteral(".quorlin-0123456789ab"),
+                                    QStringLiteral(".quorlin-part-link"),
+                                    QStringLiteral(".quorlin-part-folder")};
+        const QStringList there = files();
+        QCOMPARE(QSet<QString>(there.cbegin(), there.cend()), kept);
     }
 };
 
