@@ -25,27 +25,45 @@ const QString yes = QStringLiteral("yes");
 const QString no = QStringLiteral("no");
 
 std::optional<QString> encoded(const QVariant &value);
+QJsonArray arrayOf(const QVariantList &list);
+QJsonObject objectOf(const QVariantMap &map);
 
-/** Like encoded(), for values inside a list; what has no form becomes nothing. */
-QString encodedInside(const QVariant &value)
+/**
+ * A value inside a list or dictionary: lists and dictionaries are those of JSON, since a text within a text would double the
+ * marks of quotation at each level; other values are texts as they stand alone. What has no form becomes nothing.
+ */
+QJsonValue inside(const QVariant &value)
 {
-    return encoded(value).value_or(nothingMark);
+    switch (value.typeId()) {
+    case QMetaType::QStringList:
+    case QMetaType::QVariantList:
+        return arrayOf(value.toList());
+    case QMetaType::QVariantMap:
+        return objectOf(value.toMap());
+    default:
+        return encoded(value).value_or(nothingMark);
+    }
 }
 
-QString encodedList(const QVariantList &list)
+QJsonArray arrayOf(const QVariantList &list)
 {
     QJsonArray array;
     for (const QVariant &item : list)
-        array.append(encodedInside(item));
-    return listMark + QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact));
+        array.append(inside(item));
+    return array;
 }
 
-QString encodedDictionary(const QVariantMap &map)
+QJsonObject objectOf(const QVariantMap &map)
 {
     QJsonObject object;
     for (auto entry = map.begin(); entry != map.end(); ++entry)
-        object.insert(entry.key(), encodedInside(entry.value()));
-    return dictionaryMark + QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+        object.insert(entry.key(), inside(entry.value()));
+    return object;
+}
+
+QString compact(const QJsonDocument &document)
+{
+    return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }
 
 std::optional<QString> encoded(const QVariant &value)
@@ -71,9 +89,9 @@ std::optional<QString> encoded(const QVariant &value)
         return dateMark + value.toDateTime().toUTC().toString(Qt::ISODateWithMs);
     case QMetaType::QStringList:
     case QMetaType::QVariantList:
-        return encodedList(value.toList());
+        return listMark + compact(QJsonDocument(arrayOf(value.toList())));
     case QMetaType::QVariantMap:
-        return encodedDictionary(value.toMap());
+        return dictionaryMark + compact(QJsonDocument(objectOf(value.toMap())));
     default:
         return std::nullopt;
     }
@@ -89,22 +107,40 @@ QVariant numberFrom(const QString &text)
 
 QVariant decoded(const QString &text);
 
-QVariant listFrom(const QString &json)
+QVariant fromInside(const QJsonValue &value);
+
+QVariant listOf(const QJsonArray &array)
 {
     QVariantList list;
-    const QJsonArray array = QJsonDocument::fromJson(json.toUtf8()).array();
     for (const auto &item : array)
-        list.append(decoded(item.toString()));
+        list.append(fromInside(item));
     return list;
+}
+
+QVariant dictionaryOf(const QJsonObject &object)
+{
+    QVariantMap map;
+    for (auto entry = object.begin(); entry != object.end(); ++entry)
+        map.insert(entry.key(), fromInside(entry.value()));
+    return map;
+}
+
+/** Earlier versions wrote a list or dictionary inside another one as a text with its mark: these are read as well. */
+QVariant fromInside(const QJsonValue &value)
+{
+    if (value.isArray())
+        return listOf(value.toArray());
+    return value.isObject() ? dictionaryOf(value.toObject()) : decoded(value.toString());
+}
+
+QVariant listFrom(const QString &json)
+{
+    return listOf(QJsonDocument::fromJson(json.toUtf8()).array());
 }
 
 QVariant dictionaryFrom(const QString &json)
 {
-    QVariantMap map;
-    const QJsonObject object = QJsonDocument::fromJson(json.toUtf8()).object();
-    for (auto entry = object.begin(); entry != object.end(); ++entry)
-        map.insert(entry.key(), decoded(entry.value().toString()));
-    return map;
+    return dictionaryOf(QJsonDocument::fromJson(json.toUtf8()).object());
 }
 
 QVariant dataFrom(const QString &base64)

@@ -1,6 +1,10 @@
 #include "ScriptRun.h"
+#include "platform/desktop/settings_text.h"
 #include "platform/desktop/user_defaults.h"
 
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
 /** The user defaults in scripts: each value comes back with its type, from the settings file too. */
@@ -11,6 +15,9 @@ class TestSeamDefaults : public QObject
 private Q_SLOTS:
     void keepsTheTypeOfAValue_data();
     void keepsTheTypeOfAValue();
+    void keepsWhatIsNestedDeeply();
+    void readsWhatEarlierVersionsNested();
+    void holdsWhatCannotBeWritten();
     void isTheStoreThatServicesUse();
     void removesAValue();
     void refusesWhatCannotBeKept_data();
@@ -34,6 +41,51 @@ void TestSeamDefaults::keepsTheTypeOfAValue()
     QFETCH(QString, value);
     QVERIFY2(m_run.run(QStringLiteral("defaults.set('key', ") + value + QStringLiteral(");")), qPrintable(m_run.error));
     QCOMPARE(m_run.valueOf(QStringLiteral("defaults.get('key')")), value);
+}
+
+/** Its text grows with the depth, and does not double with each level. */
+void TestSeamDefaults::keepsWhatIsNestedDeeply()
+{
+    QVERIFY2(
+        m_run.run(QStringLiteral("let deep = ['\"']; for (let i = 0; i < 60; i += 1) deep = i % 2 ? [deep] : {a: deep};"
+                                 "defaults.set('deep', deep);"
+                                 "report(JSON.stringify(defaults.get('deep')) === JSON.stringify(deep));")),
+        qPrintable(m_run.error));
+    QCOMPARE(m_run.reports, QStringList{QStringLiteral("true")});
+    const QString kept = platform::settingToText(platform::userDefault(QStringLiteral("deep"))).toString();
+    QVERIFY2(kept.size() < 500, qPrintable(QString::number(kept.size())));
+}
+
+void TestSeamDefaults::readsWhatEarlierVersionsNested()
+{
+    const QVariant read =
+        platform::settingFromText(QStringLiteral(R"(@list:["@list:[\"@number:1\",\"@text:@x\"]","a"])"));
+    QCOMPARE(read, QVariant(QVariantList{QVariantList{1, QStringLiteral("@x")}, QStringLiteral("a")}));
+}
+
+/** The settings folder is a file here, so that nothing can be written whoever the user is. */
+void TestSeamDefaults::holdsWhatCannotBeWritten()
+{
+    QTemporaryDir folder;
+    QFile(folder.filePath(QStringLiteral("Quorlin"))).open(QIODevice::WriteOnly);
+    int said = 0;
+    platform::tellOfUnkeptUserDefaults([&said] { ++said; });
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    QVERIFY2(m_run.run(QStringLiteral("defaults.set('held', [1, 'a']); report(defaults.get('held'));"
+                                      "defaults.set('held', 'b'); report(defaults.get('held'));"
+                                      "defaults.remove('held'); report(defaults.get('held'));"
+                                      "defaults.set('held', 2);")),
+             qPrintable(m_run.error));
+    QCOMPARE(m_run.reports,
+             QStringList({QStringLiteral("[1,\"a\"]"), QStringLiteral("\"b\""), QStringLiteral("null")}));
+    QVERIFY(!platform::areUserDefaultsKept());
+    QCOMPARE(said, 1);
+    QVERIFY(QFile::remove(folder.filePath(QStringLiteral("Quorlin"))));
+    QVERIFY2(m_run.run(QStringLiteral("defaults.set('held', 3);")), qPrintable(m_run.error));
+    QVERIFY(platform::areUserDefaultsKept());
+    QCOMPARE(m_run.valueOf(QStringLiteral("defaults.get('held')")), QStringLiteral("3"));
+    platform::tellOfUnkeptUserDefaults({});
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, qEnvironmentVariable("XDG_CONFIG_HOME"));
 }
 
 void TestSeamDefaults::isTheStoreThatServicesUse()
