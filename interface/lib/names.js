@@ -24,10 +24,42 @@ export function nameKey(name) {
     return name.normalize("NFC").toLowerCase();
 }
 
-/** "photo.jpg", 3 gives "photo (3).jpg". */
+// What a disk takes as the name of one file, in bytes of UTF-8.
+const MOST_BYTES = 255;
+
+function bytesOf(code) {
+    if (code < 0x80) {
+        return 1;
+    }
+    return code < 0x800 ? 2 : code < 0x10000 ? 3 : 4;
+}
+
+/** The beginning of a text that has at most so many bytes of UTF-8; no character is cut in two. */
+export function shortened(text, most) {
+    let bytes = 0;
+    let end = 0;
+    while (end < text.length) {
+        const code = text.codePointAt(end);
+        bytes += bytesOf(code);
+        if (bytes > most) {
+            break;
+        }
+        end += code > 0xffff ? 2 : 1;
+    }
+    return text.slice(0, end);
+}
+
+function lengthOf(text) {
+    return Array.from(text).reduce((bytes, character) => bytes + bytesOf(character.codePointAt(0)), 0);
+}
+
+/** "photo.jpg", 3 gives "photo (3).jpg". A name that would be too long with the number loses the end of its base. */
 export function numberedName(name, number) {
     const parts = splitPath(name);
-    return parts.base + " (" + number + ")" + (parts.extension ? "." + parts.extension : "");
+    const mark = " (" + number + ")";
+    const ending = mark + (parts.extension ? "." + parts.extension : "");
+    const left = MOST_BYTES - lengthOf(ending);
+    return left > 0 ? shortened(parts.base, left) + ending : shortened(name, MOST_BYTES - mark.length) + mark;
 }
 
 /** A table without entries of its own, for ten thousand names: the engine's Map and Set take twenty times as long. */

@@ -2,13 +2,17 @@
 // files are handed in. Every answer is a fresh one, since the service answers a failed query with the result of the one before.
 
 import { FORMS } from "./preset-forms.js";
-import { FIELDS, freeName, nameProblem, presetOf, rowOf, storedName } from "./presets.js";
+import { emptyTable, splitPath } from "./names.js";
+import { FIELDS, nameProblem, presetOf, rowOf, storedName, TakenNames } from "./presets.js";
+import { fill } from "./wording.js";
 
 const TABLE = "Presets";
 const NAME = "NameOfPreset";
 const HEADER = "SQLite format 3";
 // No more rows than this bear one name.
 const MOST_COPIES = 100;
+// And an older row of a name is not looked for further back than this.
+const MOST_LOOKS = 2000;
 
 function textOf(data) {
     return data === null ? "" : String.fromCharCode.apply(null, Array.from(new Uint8Array(data)));
@@ -17,7 +21,7 @@ function textOf(data) {
 export class PresetStore {
     /**
      * @param makeDb    makes a dbViewController
-     * @param files     readText and info are used
+     * @param files     readText, info and setAsideUnusableDatabase are used
      * @param standard  the settings of a new pane, by the name of the action
      */
     constructor(makeDb, files, standard) {
@@ -26,6 +30,8 @@ export class PresetStore {
         this.standard = standard;
         /** Why the presets cannot be read, in a sentence; empty while they can. */
         this.problem = "";
+        /** What happened to the database, to be said once; empty for nothing. */
+        this.notice = "";
     }
 
     // The rows that match, as texts; null where the database did not answer.
@@ -54,11 +60,47 @@ export class PresetStore {
      */
     list(action) {
         this.link();
-        const rows = this.rows("Process", FORMS[action].process);
+        let rows = this.rows("Process", FORMS[action].process);
+        if (rows === null && this.setAside()) {
+            this.link();
+            rows = this.rows("Process", FORMS[action].process);
+        }
         this.problem = rows === null ? this.readProblem() : "";
         const all = (rows || []).map((row) => Object.assign({ fields: row.split("|") }, presetOf(row, this.standard)));
-        return all.filter((preset, i) => preset.state !== "ready"
-            || !all.slice(i + 1).some((later) => later.state === "ready" && later.name === preset.name));
+        const newest = emptyTable();
+        all.filter((preset) => preset.state === "ready").forEach((preset) => { newest[preset.name] = preset; });
+        const older = all.filter((preset) => preset.state === "ready" && newest[preset.name] !== preset);
+        if (older.length > 0) {
+            this.removeOlder(action, older.map((preset) => preset.name));
+        }
+        return all.filter((preset) => preset.state !== "ready" || newest[preset.name] === preset);
+    }
+
+    // A database that can hold nothing gives way, so that the service makes a new one; the service itself repairs none.
+    setAside() {
+        const name = this.files.setAsideUnusableDatabase(this.path());
+        if (name !== "") {
+            this.notice = fill(qsTr("The presets database was empty and could not be used. It is called %1 now, and there is a new one."),
+                               splitPath(name).name);
+        }
+        return name !== "";
+    }
+
+    // What was cut off between storing a preset anew and removing the row before is done to its end. The service tells the
+    // number of the newest row of a name only: those below it are looked through.
+    removeOlder(action, names) {
+        for (const name of names.filter((each, i) => names.indexOf(each) === i)) {
+            let left = names.filter((each) => each === name).length;
+            const newest = Number(this.idOf(action, name));
+            for (let id = newest - 1; id > 0 && id > newest - MOST_LOOKS && left > 0; id -= 1) {
+                const rows = this.rows("ID", String(id)) || [];
+                const preset = rows.length === 1 ? presetOf(rows[0], this.standard) : null;
+                if (preset !== null && preset.state === "ready" && preset.action === action && preset.name === name) {
+                    this.removeId(String(id));
+                    left -= 1;
+                }
+            }
+        }
     }
 
     /** The names of the presets of all actions. */
@@ -108,13 +150,13 @@ export class PresetStore {
 
     /** Stores rows as they stand, under free names: {names, renamed (count), problem}. */
     bringIn(rows) {
-        const taken = this.names();
+        const taken = new TakenNames(this.names());
         const result = { names: [], renamed: 0, problem: "" };
         for (const row of rows) {
-            let name = freeName(row[0], taken);
+            let name = taken.free(row[0]);
             while ((this.rows(NAME, name) || []).length > 0) {
-                taken.push(name);
-                name = freeName(row[0], taken);
+                taken.take(name);
+                name = taken.free(row[0]);
             }
             result.problem = this.insert([name].concat(row.slice(1)));
             if (result.problem !== "") {
@@ -122,7 +164,7 @@ export class PresetStore {
             }
             result.renamed += name === storedName(row[0]) ? 0 : 1;
             result.names.push(name);
-            taken.push(name);
+            taken.take(name);
         }
         return result;
     }

@@ -1,6 +1,7 @@
 // Presets: an action's settings as the 62 texts of a row of the presets database, and back; names; exported files. Pure but for
 // translation; no service is used. docs/presets.md has the layout.
 
+import { emptyTable } from "./names.js";
 import { FIRST_SLOT, FORMS, SLOTS, VERSION } from "./preset-forms.js";
 import { fill } from "./wording.js";
 
@@ -266,14 +267,54 @@ export function nameProblem(text, taken) {
     return other === undefined ? "" : fill(qsTr("There is a preset named %1 already."), other);
 }
 
-/** The name with the lowest number behind it that makes it free: "Web", "Web 2" ... */
-export function freeName(text, taken) {
-    const name = storedName(text);
-    let candidate = name;
-    for (let n = 2; taken.some((known) => sameName(known, candidate)); n += 1) {
-        candidate = name + " " + n;
+// What two names have in common that are one.
+function keyOf(name) {
+    return storedName(name).toLowerCase();
+}
+
+/** Names that are taken, and the free ones nearest to others. Thousands are no matter. */
+export class TakenNames {
+    constructor(names) {
+        this.taken = emptyTable();
+        this.next = emptyTable();
+        names.forEach((name) => this.take(name));
     }
-    return candidate;
+
+    take(name) {
+        this.taken[keyOf(name)] = true;
+    }
+
+    /** The name with the lowest number behind it that makes it free: "Web", "Web 2" ... A long name loses its end for it. */
+    free(text) {
+        const name = storedName(text);
+        if (!this.taken[keyOf(name)]) {
+            return name;
+        }
+        const key = keyOf(name);
+        let number = this.next[key] || 2;
+        let candidate = numbered(name, number);
+        while (this.taken[keyOf(candidate)]) {
+            number += 1;
+            candidate = numbered(name, number);
+        }
+        this.next[key] = number;
+        return candidate;
+    }
+}
+
+// "Web", 2 gives "Web 2", with no more characters than a name may have, and none of them cut in two.
+function numbered(name, number) {
+    const ending = " " + number;
+    let kept = name.slice(0, LONGEST_NAME - ending.length);
+    if (kept.length < name.length && isPair(name, kept.length - 1)) {
+        kept = kept.slice(0, -1);
+    }
+    return kept + ending;
+}
+
+/** The name with the lowest number behind it that makes it free. */
+export function freeName(text, taken) {
+    return new TakenNames(taken).free(text);
 }
 
 /** The text of an exported file with these rows, as they stand, of whatever form. */

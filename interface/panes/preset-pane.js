@@ -74,6 +74,10 @@ export class PresetPane {
             this.presets = this.store.list(action);
         }
         this.showChosen(recall(defaults, keyOf(action), { name: "" }).name);
+        if (this.store.notice !== "") {
+            this.say(this.store.notice);
+            this.store.notice = "";
+        }
     }
 
     /** Called after a change of the settings. */

@@ -123,6 +123,13 @@ function make(state) {
     const files = {
         info: () => ({ exists: file.exists, writable: file.writable !== false }),
         readText: () => file.text,
+        setAsideUnusableDatabase: (path) => {
+            if (!file.exists || !file.unusable) {
+                return "";
+            }
+            Object.assign(file, { exists: false, unusable: false, unreadable: false, rows: [] });
+            return path + ".unusable-1";
+        },
     };
     return { file: file, store: new PresetStore(() => new FakeDb(file), files, STANDARD) };
 }
@@ -150,6 +157,35 @@ test("replacesItsOwnPresetOnly", () => {
     equal([file.rows.length, file.rows[0].fields[1], store.list("resize")[0].settings.longest], [2, "Sorting", 2]);
     equal(store.remove("resize", "Web"), "");
     equal(file.rows.map((row) => row.fields[1]), ["Sorting"]);
+});
+
+test("givesADatabaseThatCanHoldNothingAway", () => {
+    const { file, store } = make({ exists: true, unusable: true, unreadable: true, text: "" });
+    equal([store.list("resize"), store.problem, file.exists], [[], "", true]);
+    isTrue(/QuorlinPS\.sql\.unusable-1/.test(store.notice), store.notice);
+    equal([store.save("resize", "Web", changed("resize", {})), store.list("resize").length], ["", 1]);
+});
+
+test("endsWhatWasCutOffBetweenStoringAndRemoving", () => {
+    const { file, store } = make({});
+    store.list("resize");
+    file.add(["Web", "Sorting", "ByHand"].concat(Array(59).fill("Loc")));
+    [1, 2, 3].forEach((longest) => file.add(rowOf("resize", "Web", changed("resize", { longest: longest }))));
+    file.add(rowOf("crop", "Web", changed("crop", {})));
+    equal(store.list("resize").map((preset) => preset.settings.longest), [3]);
+    equal(file.rows.map((row) => [row.id, row.fields[1]]), [["1", "Sorting"], ["4", "Resize"], ["5", "Crop"]]);
+});
+
+test("bringsInThousandsOfOneName", () => {
+    const { file, store } = make({});
+    store.list("turn");
+    // Looking for a name in the database costs what it costs there, and is nothing of this test.
+    file.matching = (column, value) => column === "NameOfPreset" ? [] : file.rows.filter((row) => row.fields[COLUMNS[column]] === value);
+    const start = Date.now();
+    const done = store.bringIn(Array(3000).fill(rowOf("turn", "Web", changed("turn", {}))));
+    equal([done.names.length, done.names[0], done.names[2999], done.problem], [3000, "Web", "Web 3000", ""]);
+    equal(store.list("turn").length, 3000);
+    isTrue(Date.now() - start < 5000, "took " + (Date.now() - start) + " ms");
 });
 
 test("removesAllCopiesAndShowsTheNewest", () => {

@@ -229,6 +229,13 @@ test("takesFromAFileOnlyWhatARowCanBe", () => {
     isTrue(/newer/.test(rowsOfFile(JSON.stringify({ format: "Quorlin presets", version: 2, presets: [] })).problem));
 });
 
+test("keepsANumberedNameWithinItsLength", () => {
+    for (const long of ["x".repeat(100), "🙂".repeat(50), "x" + "🙂".repeat(49)]) {
+        const free = freeName(long, [long, freeName(long, [long])]);
+        equal([nameProblem(free, [long]), free.endsWith(" 3"), free.length > 96], ["", true, true]);
+    }
+});
+
 test("comesBackFromTheDatabase", () => {
     const db = new dbViewController();
     db.linkToPresetsDB();
