@@ -4,6 +4,7 @@
 #include "app/script/defaults_module.h"
 #include "app/script/facade.h"
 #include "app/script/host_call.h"
+#include "app/script/no_network.h"
 #include "app/script/panels_module.h"
 #include "app/script/seam.h"
 
@@ -57,6 +58,8 @@ ScriptEngine::ScriptEngine(std::vector<ServiceEntry> services, QObject *parent)
     : QObject(parent), m_engine(std::make_unique<QQmlEngine>())
 {
     app::useTexts();
+    static NoNetwork noNetwork;
+    m_engine->setNetworkAccessManagerFactory(&noNetwork);
     m_engine->setOutputWarningsToStandardError(false);
     connect(m_engine.get(), &QQmlEngine::warnings, this, &ScriptEngine::reportWarnings);
     m_seam = std::make_unique<Seam>(*m_engine, std::move(services));

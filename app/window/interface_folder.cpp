@@ -15,7 +15,10 @@ QString interfaceFolder()
     const QString installed = QDir::cleanPath(program.filePath(QStringLiteral("../share/quorlin/interface")));
     if (QFileInfo::exists(installed + QStringLiteral("/main.js")))
         return installed;
-    return QStringLiteral(QUORLIN_SOURCE_INTERFACE);
+    // Anybody may make the folder of a build on another machine, so only a program within its build looks into its source.
+    const QString build = QFileInfo(QStringLiteral(QUORLIN_BUILD_FOLDER)).canonicalFilePath();
+    const bool isInBuild = !build.isEmpty() && QFileInfo(program.path()).canonicalFilePath().startsWith(build + u'/');
+    return isInBuild ? QStringLiteral(QUORLIN_SOURCE_INTERFACE) : installed;
 }
 
 } // namespace window

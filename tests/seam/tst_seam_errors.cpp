@@ -25,6 +25,7 @@ private Q_SLOTS:
     void settlesPromisesBeforeTheEnd();
     void carriesOnAGenerator();
     void knowsNoNameThatNoModuleHas();
+    void fetchesNothing();
 };
 
 void TestSeamErrors::turnsWhatServicesRaiseIntoErrors_data()
@@ -233,6 +234,21 @@ void TestSeamErrors::knowsNoNameThatNoModuleHas()
     QVERIFY(!run.runFile(QStringLiteral("a.js"), QStringLiteral("import { x } from 'no/such/module';")));
     QVERIFY2(run.error.contains(QStringLiteral("no/such/module")), qPrintable(run.error));
     QVERIFY(!run.engine().registerModule(QStringLiteral("quorlin"), QJSValue(3)));
+}
+
+/** The engine's own way to the network and to files is shut, also where the environment would open it. */
+void TestSeamErrors::fetchesNothing()
+{
+    qputenv("QML_XHR_ALLOW_FILE_READ", "1");
+    ScriptRun run;
+    run.write(QStringLiteral("secret.txt"), QStringLiteral("secret"));
+    QVERIFY2(run.run(QStringLiteral("const request = new XMLHttpRequest(); request.open('GET', 'file://%1', false);"
+                                    "try { request.send(); } catch (error) { report('refused'); }"
+                                    "report(request.status); report(request.responseText);")
+                         .arg(run.pathOf(QStringLiteral("secret.txt")))),
+             qPrintable(run.error));
+    QVERIFY(!run.reports.join(u' ').contains(QStringLiteral("secret")));
+    QVERIFY(run.reports.contains(QStringLiteral("0")));
 }
 
 QTEST_GUILESS_MAIN(TestSeamErrors)
