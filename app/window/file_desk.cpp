@@ -3,133 +3,30 @@
 #include "app/window/file_facts.h"
 #include "app/window/formats.h"
 #include "app/window/line_file.h"
+#include "app/window/picture_collector.h"
 #include "app/window/staging.h"
 
 #include "platform/foundation/atomic_file.h"
+#include "platform/foundation/item_identity.h"
+#include "platform/foundation/regular_file.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/jpeg_header.h"
 #include "platform/imageio/orientation_mark.h"
 #include "platform/imageio/user_comment_writer.h"
+#include "presets/unusable_database.h"
 
-#include <QCollator>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QSet>
 #include <QStandardPaths>
-
-#include <algorithm>
 
 namespace window {
 
 namespace {
 
 const QVariant nothing = QVariant::fromValue(nullptr);
-
-bool isPackage(const QString &name)
-{
-    static const QSet<QString> endings = {QStringLiteral("app"),           QStringLiteral("bundle"),
-                                          QStringLiteral("framework"),     QStringLiteral("plugin"),
-                                          QStringLiteral("pkg"),           QStringLiteral("rtfd"),
-                                          QStringLiteral("photoslibrary"), QStringLiteral("photolibrary")};
-    return endings.contains(QFileInfo(name).suffix().toLower());
-}
-
-/** Collects pictures and counts what is left out. */
-class Collector
-{
-public:
-    Collector(const QStringList &extensions, const QStringList &companions)
-    {
-        m_takesAny = extensions.contains(QLatin1String("*"));
-        for (const QString &extension : extensions)
-            m_extensions.insert(extension.toLower());
-        for (const QString &extension : companions)
-            m_companionExtensions.insert(extension.toLower());
-        m_order.setNumericMode(true);
-        m_order.setCaseSensitivity(Qt::CaseInsensitive);
-    }
-
-    void take(const QString &path)
-    {
-        const QFileInfo info(path);
-        if (info.isDir()) {
-            m_folders.append(info.absoluteFilePath());
-            walk(info.absoluteFilePath());
-        } else if (info.exists()) {
-            file(info.absoluteFilePath());
-        } else {
-            leaveOut(path);
-        }
-    }
-
-    QVariantMap result() const
-    {
-        return {{QStringLiteral("paths"), m_paths},
-                {QStringLiteral("folders"), m_folders},
-                {QStringLiteral("leftOut"), m_leftOut},
-                {QStringLiteral("companions"), m_companions},
-                {QStringLiteral("example"), m_example}};
-    }
-
-private:
-    void file(const QString &path)
-    {
-        const QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-        const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-        const QString extension = dot > 0 ? name.mid(dot + 1).toLower() : QString();
-        if (m_takesAny || (dot > 0 && m_extensions.contains(extension)))
-            m_paths.append(path);
-        else
-            leaveOut(path, dot > 0 && m_companionExtensions.contains(extension));
-    }
-
-    void leaveOut(const QString &path, bool mayGoAlong = false)
-    {
-        ++m_leftOut;
-        if (mayGoAlong)
-            m_companions.append(path);
-        else if (m_example.isEmpty())
-            m_example = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-    }
-
-    // Files of a folder first, then its folders, each in natural order.
-    void walk(const QString &folder)
-    {
-        const QDir dir(folder);
-        for (const QString &name : sorted(dir.entryList(QDir::Files | QDir::NoSymLinks, QDir::Unsorted)))
-            file(dir.filePath(name));
-        for (const QString &name :
-             sorted(dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Unsorted)))
-            if (m_takesAny || !isPackage(name))
-                walk(dir.filePath(name));
-    }
-
-    QStringList sorted(const QStringList &names) const
-    {
-        std::vector<std::pair<QCollatorSortKey, const QString *>> keyed;
-        keyed.reserve(size_t(names.size()));
-        for (const QString &name : names)
-            keyed.emplace_back(m_order.sortKey(name), &name);
-        std::sort(keyed.begin(), keyed.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
-        QStringList result;
-        for (const auto &entry : keyed)
-            result.append(*entry.second);
-        return result;
-    }
-
-    bool m_takesAny = false;
-    QSet<QString> m_extensions;
-    QSet<QString> m_companionExtensions;
-    QCollator m_order;
-    QStringList m_paths;
-    QStringList m_folders;
-    int m_leftOut = 0;
-    QStringList m_companions;
-    QString m_example;
-};
 
 } // namespace
 
@@ -169,6 +66,33 @@ QString FileDesk::absolute(const QString &path) const
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
+QString FileDesk::identity(const QString &path) const
+{
+    return platform::itemIdentity(path);
+}
+
+QString FileDesk::folderIdentity(const QString &folder) const
+{
+    return platform::folderIdentity(folder);
+}
+
+QVariantMap FileDesk::owners(const QStringList &paths) const
+{
+    QVariantMap owners;
+    for (const QString &path : paths) {
+        const QString item = platform::itemIdentity(path);
+        const QString target = platform::targetIdentity(path);
+        for (const QString &identity : item == target ? QStringList{item} : QStringList{item, target}) {
+            if (identity.isEmpty())
+                continue;
+            QStringList known = owners.value(identity).toStringList();
+            known.append(path);
+            owners.insert(identity, known);
+        }
+    }
+    return owners;
+}
+
 QStringList FileDesk::names(const QString &folder) const
 {
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
@@ -180,13 +104,13 @@ QStringList FileDesk::folders(const QString &folder) const
     return QDir(folder).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Unsorted);
 }
 
-QVariantMap FileDesk::collect(const QStringList &paths, const QStringList &extensions,
-                              const QStringList &companions) const
+QVariantMap FileDesk::collect(const QStringList &paths, const QStringList &extensions, const QStringList &companions,
+                              const QStringList &listed) const
 {
-    Collector collector(extensions, companions);
-    for (const QString &path : paths)
-        collector.take(path);
-    return collector.result();
+    const Collected found = collectFiles(paths, {extensions, companions, listed});
+    return {{QStringLiteral("paths"), found.paths},           {QStringLiteral("listed"), found.listed},
+            {QStringLiteral("folders"), found.folders},       {QStringLiteral("leftOut"), found.leftOut},
+            {QStringLiteral("companions"), found.companions}, {QStringLiteral("example"), found.example}};
 }
 
 QString FileDesk::makeFolder(const QString &folder) const
@@ -217,9 +141,9 @@ void FileDesk::sweep(const QString &folder) const
     window::sweepStagings(folder);
 }
 
-QVariantMap FileDesk::place(const QString &from, const QString &to, bool replace) const
+QVariantMap FileDesk::place(const QString &from, const QString &to, const QString &replaced) const
 {
-    const PlaceResult result = placeFile(from, to, replace ? IfTaken::Replace : IfTaken::Refuse);
+    const PlaceResult result = replaced.isEmpty() ? placeFile(from, to) : placeFileInsteadOf(from, to, replaced);
     const QString status = result.outcome == PlaceOutcome::Placed  ? QStringLiteral("OK")
                            : result.outcome == PlaceOutcome::Taken ? QStringLiteral("Taken")
                                                                    : QStringLiteral("Failed");
@@ -238,7 +162,7 @@ QVariant FileDesk::storedSize(const QString &path) const
 QVariant FileDesk::jpegBlock(const QString &path) const
 {
     QFile file(path);
-    const auto header = file.open(QIODevice::ReadOnly) ? platform::readJpegHeader(file) : std::nullopt;
+    const auto header = platform::openToRead(file) ? platform::readJpegHeader(file) : std::nullopt;
     if (!header)
         return nothing;
     constexpr int side = 8;
@@ -347,6 +271,11 @@ QVariant FileDesk::readText(const QString &path) const
 {
     const auto bytes = platform::readFile(path);
     return bytes ? QVariant(QString::fromUtf8(*bytes)) : nothing;
+}
+
+QString FileDesk::setAsideUnusableDatabase(const QString &path) const
+{
+    return presets::setAsideUnusableDatabase(path);
 }
 
 QString FileDesk::byteText(double bytes) const

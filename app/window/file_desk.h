@@ -35,22 +35,27 @@ public:
     Q_INVOKABLE QVariantMap space(const QString &path) const;
     /** The path as an absolute one, from the current folder. */
     Q_INVOKABLE QString absolute(const QString &path) const;
+    /** What tells the item at a path from all others, however the path is spelled; a link not followed. Empty where nothing is. */
+    Q_INVOKABLE QString identity(const QString &path) const;
+    /** The same for a folder, followed through links; it need not be there yet. */
+    Q_INVOKABLE QString folderIdentity(const QString &folder) const;
+    /** Which of the paths are, or lead to, an item: {identity: [path ...]}. */
+    Q_INVOKABLE QVariantMap owners(const QStringList &paths) const;
     /** Names of all entries of a folder, hidden ones included, in no order; empty where it cannot be read. */
     Q_INVOKABLE QStringList names(const QString &folder) const;
     /** The names of the folders in a folder, hidden ones included, in no order; empty where it cannot be read. */
     Q_INVOKABLE QStringList folders(const QString &folder) const;
 
     /**
-     * Files and folders as they were dropped or chosen, turned into the list of pictures to work on. Folders are walked
-     * to any depth; hidden entries, packages and links inside them are passed over. The pictures of a folder come in
-     * natural order of their names. The extensions are compared in any case of letters; "*" takes every file, those in packages too.
+     * Files and folders as they were dropped or chosen, turned into the list of pictures to work on; see collectFiles().
      *
      * @param companions  extensions of files that may go along with a picture
-     * @return {paths, folders (those of the given paths that are), leftOut (count of files that are not taken), companions (the
-     *         paths of those of them that have such an extension), example (name of one that has none)}
+     * @param listed      extensions of the files that come into the list, whatever the action takes; empty for those taken
+     * @return {paths, listed, folders (those of the given paths that are), leftOut (count of files that are not taken), companions
+     *         (the paths of those of them that have such an extension), example (name of one that has none)}
      */
     Q_INVOKABLE QVariantMap collect(const QStringList &paths, const QStringList &extensions,
-                                    const QStringList &companions) const;
+                                    const QStringList &companions, const QStringList &listed) const;
 
     /** Makes a folder and those above it. */
     Q_INVOKABLE QString makeFolder(const QString &folder) const;
@@ -58,22 +63,23 @@ public:
     Q_INVOKABLE void removeEmptyFolder(const QString &folder) const;
 
     /**
-     * Makes a hidden, private folder in @p folder for unfinished files, ending in "/"; null where that fails. Its name
-     * tells the process, so that sweep() can take away what a run left that was ended by force.
+     * Makes a hidden, private folder in @p folder for unfinished files; null where that fails. The path ends in "/" and leads
+     * to this folder even if somebody moves it away. While it is held sweep() leaves it alone, also that of another process.
      */
     Q_INVOKABLE QVariant makeStaging(const QString &folder) const;
     /** Removes a folder made by makeStaging() with all that is in it; refuses any other. */
     Q_INVOKABLE void removeStaging(const QString &staging) const;
-    /** Removes the staging folders in @p folder whose process has ended. */
+    /** Removes what processes that have ended left in @p folder: staging folders and unfinished files. */
     Q_INVOKABLE void sweep(const QString &folder) const;
 
     /**
      * Moves a finished file into place, in one step, inside one file system.
      *
-     * @param replace  true: a file at @p to is replaced and hands on its permissions; false: it is never touched
+     * @param replaced  the identity() of the file at @p to that may be replaced and hands on its permissions; "" for none.
+     *                  Whatever else is there is never touched
      * @return {status: "OK", "Taken" or "Failed", message}
      */
-    Q_INVOKABLE QVariantMap place(const QString &from, const QString &to, bool replace) const;
+    Q_INVOKABLE QVariantMap place(const QString &from, const QString &to, const QString &replaced) const;
 
     /** Pixels of the file as stored: {width, height}, or null for an unreadable file. */
     Q_INVOKABLE QVariant storedSize(const QString &path) const;
@@ -107,6 +113,9 @@ public:
     Q_INVOKABLE QString keepNewestLines(const QString &path, int most, int limit) const;
     /** Null where the file cannot be read. */
     Q_INVOKABLE QVariant readText(const QString &path) const;
+
+    /** The new path of a presets database that could hold no preset; empty where it is left. See the function of that name. */
+    Q_INVOKABLE QString setAsideUnusableDatabase(const QString &path) const;
 
     Q_INVOKABLE QString byteText(double bytes) const;
     /** A local date and time such as "2026-08-14T10:20:30" in the reader's own form; empty for what is none. */

@@ -8,6 +8,7 @@
 #include "app/window/ui_form.h"
 
 #include "platform/desktop/panels.h"
+#include "platform/desktop/user_defaults.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -19,6 +20,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
@@ -49,6 +51,18 @@ Shell::Shell(const QString &interfaceFolder, Theme &theme, QObject *parent)
     : QObject(parent), m_folder(interfaceFolder), m_theme(theme)
 {
     owned(&theme);
+    // Some settings are set while windows close: scripts hear of it when that is done.
+    platform::tellOfUnkeptUserDefaults([this] { QTimer::singleShot(0, this, &Shell::settingsNotKept); });
+}
+
+Shell::~Shell()
+{
+    platform::tellOfUnkeptUserDefaults({});
+}
+
+bool Shell::keepsSettings() const
+{
+    return platform::areUserDefaultsKept();
 }
 
 QObject *Shell::loadForm(const QString &file)
@@ -161,6 +175,18 @@ QVariant Shell::chooseFile(const QString &title, const QString &folder, const QS
     request.message = title;
     request.folder = folder;
     return firstPath(request);
+}
+
+QStringList Shell::chooseFiles(const QString &title, const QString &folder, const QStringList &extensions)
+{
+    platform::PanelRequest request;
+    request.choosesSeveral = true;
+    if (!extensions.isEmpty())
+        request.types = extensions;
+    request.message = title;
+    request.folder = folder;
+    const platform::PanelAnswer answer = platform::runPanel(request);
+    return answer.accepted ? answer.paths : QStringList();
 }
 
 QVariant Shell::chooseNewFile(const QString &title, const QString &folder, const QString &name,

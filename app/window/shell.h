@@ -27,12 +27,17 @@ class Shell : public QObject
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QStringList arguments READ arguments CONSTANT)
     Q_PROPERTY(QString interfaceFolder READ interfaceFolder CONSTANT)
+    /** False while a change of the settings could not be written. */
+    Q_PROPERTY(bool keepsSettings READ keepsSettings)
 
 public:
     /** @param interfaceFolder  the folder of main.js, from which .ui files are named */
     Shell(const QString &interfaceFolder, Theme &theme, QObject *parent = nullptr);
+    ~Shell() override;
+    Q_DISABLE_COPY_MOVE(Shell)
 
     QObject *theme() const { return &m_theme; }
+    bool keepsSettings() const;
     QString version() const { return QStringLiteral(QUORLIN_VERSION); }
 
     /** The folder of main.js, without "/" at its end. */
@@ -65,6 +70,8 @@ public:
     Q_INVOKABLE QVariantMap ask(const QVariantMap &question);
     /** The folder that was chosen, or null. */
     Q_INVOKABLE QVariant chooseFolder(const QString &title, const QString &start);
+    /** The paths of the files with one of the extensions, or of any files for none, that were chosen. */
+    Q_INVOKABLE QStringList chooseFiles(const QString &title, const QString &folder, const QStringList &extensions);
     /** The path of a file with one of the extensions that was chosen, or null. */
     Q_INVOKABLE QVariant chooseFile(const QString &title, const QString &folder, const QStringList &extensions);
     /** The path of a file to write, or null. */
@@ -87,6 +94,10 @@ public:
 
     /** Deletes all windows that were loaded. */
     void closeAll();
+
+Q_SIGNALS:
+    /** A change of the settings cannot be written; told once in the life of the program. */
+    void settingsNotKept();
 
 private:
     QString m_folder;

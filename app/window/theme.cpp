@@ -6,11 +6,13 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
+#include <QDir>
 #include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
 #include <QPalette>
 #include <QPixmapCache>
 #include <QProxyStyle>
@@ -76,11 +78,25 @@ QPalette paletteOf()
     return palette;
 }
 
-/** Fusion without icons on buttons of dialogs, and with the keys of menus underlined only while Alt is held. */
+/**
+ * Fusion without icons on buttons of dialogs, and with the keys of menus underlined only while Alt is held.
+ *
+ * No text is taken for a page because of a name in it, such as "a<h1>b.jpg": labels, those of questions and tool tips among
+ * them, show what they say, unless they were made for pages.
+ */
 class CalmStyle : public QProxyStyle
 {
 public:
     CalmStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    using QProxyStyle::polish;
+    void polish(QWidget *widget) override
+    {
+        auto *label = qobject_cast<QLabel *>(widget);
+        if (label && label->textFormat() == Qt::AutoText)
+            label->setTextFormat(Qt::PlainText);
+        QProxyStyle::polish(widget);
+    }
 
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returned) const override
@@ -119,6 +135,8 @@ Theme::Theme(QApplication &application, const QString &folder, QObject *parent)
     : QObject(parent), m_application(application), m_folder(folder),
       m_systemPaletteIsDark(application.palette().color(QPalette::Window).lightness() < 128)
 {
+    // A path in a style sheet would have to do without quotation marks, ampersands and more; a prefix stands for it.
+    QDir::setSearchPaths(QStringLiteral("theme"), {folder});
     application.setStyle(new CalmStyle);
     useReadableFont();
     apply(wanted());
@@ -129,7 +147,9 @@ Theme::Theme(QApplication &application, const QString &folder, QObject *parent)
 
 QColor Theme::color(const QString &name)
 {
-    return current().colors.value(name, QColor(Qt::magenta));
+    const QHash<QString, QColor> &colors = current().colors;
+    return colors.isEmpty() ? QGuiApplication::palette().color(QPalette::WindowText)
+                            : colors.value(name, QColor(Qt::magenta));
 }
 
 Appearance Theme::appearance()
@@ -199,10 +219,16 @@ void Theme::apply(Appearance appearance)
 {
     const QString name = appearance == Appearance::Dark ? QStringLiteral("dark") : QStringLiteral("light");
     current() = {appearance, colorsOf(m_folder + QLatin1Char('/') + name + QStringLiteral(".json"))};
+    if (current().colors.isEmpty()) { // without its files the program still has to say so, and legibly
+        m_application.setPalette(m_application.style()->standardPalette());
+        m_application.setStyleSheet({});
+        Q_EMIT changed();
+        return;
+    }
     QString sheet = QString::fromUtf8(contentOf(m_folder + QStringLiteral("/base.qss")));
     for (auto entry = current().colors.cbegin(); entry != current().colors.cend(); ++entry)
         sheet.replace(QLatin1Char('@') + entry.key() + QLatin1Char('@'), entry.value().name(QColor::HexArgb));
-    sheet.replace(QStringLiteral("@folder@"), m_folder).replace(QStringLiteral("@name@"), name);
+    sheet.replace(QStringLiteral("@name@"), name);
     m_application.setPalette(paletteOf());
     m_application.setStyleSheet(sheet);
     QPixmapCache::clear();

@@ -10,6 +10,7 @@
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDialog>
 #include <QFile>
 #include <QJSEngine>
 #include <QLabel>
@@ -94,6 +95,11 @@ QMenu *menuOf(QObject *object)
 Form::Form(QWidget *root, const QString &file, QObject *parent) : QObject(parent), m_root(root), m_file(file)
 {
     root->installEventFilter(this);
+    // In a dialog Return presses the button that has the focus, whatever else is the button for Return elsewhere in it.
+    const QList<QPushButton *> buttons =
+        qobject_cast<QDialog *>(root) ? root->findChildren<QPushButton *>() : QList<QPushButton *>();
+    for (QPushButton *button : buttons)
+        button->setAutoDefault(true);
 }
 
 Form *Form::load(const QString &path, QWidget *parentWidget, QObject *owner, QString *problem)

@@ -5,6 +5,7 @@
 import { joinPath, numberedName } from "./names.js";
 
 const MOST_NUMBERS = 10000;
+const MOST_OPEN = 64;
 
 // The folders that a run writes to: made when they are first needed, each with a hidden folder for unfinished files.
 class Workshop {
@@ -26,6 +27,7 @@ class Workshop {
             }
             this.made.push(folder);
         }
+        this.closeOldest();
         this.files.sweep(folder);
         const staging = this.files.makeStaging(folder);
         if (staging === null) {
@@ -33,6 +35,15 @@ class Workshop {
         }
         this.stagings.set(folder, staging);
         return { staging: staging };
+    }
+
+    // Each hidden folder is held open, and a process may not hold many.
+    closeOldest() {
+        if (this.stagings.size >= MOST_OPEN) {
+            const oldest = this.stagings.keys().next().value;
+            this.files.removeStaging(this.stagings.get(oldest));
+            this.stagings.delete(oldest);
+        }
     }
 
     close() {
@@ -54,7 +65,7 @@ function failed(reason) {
 function placeResult(from, item, rule, files) {
     let name = item.name;
     for (let number = 2; number < MOST_NUMBERS; number += 1) {
-        const answer = files.place(from, joinPath(item.folder, name), item.replaces);
+        const answer = files.place(from, joinPath(item.folder, name), item.replaced);
         if (answer.status === "OK") {
             return { status: "OK", name: name };
         }

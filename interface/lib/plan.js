@@ -1,5 +1,5 @@
 // The plan of a run: for every picture what will be written and under which name, before anything is written.
-// Services used: files (names, info), ask (optional). The step says what it would write; names are settled here.
+// Services used: files (names, info, identity ...), ask (optional). The step says what it would write; names are settled here.
 
 import { emptyTable, FolderNames, joinPath, splitPath } from "./names.js";
 
@@ -12,35 +12,56 @@ export function targetFolder(photo, destination) {
     return destination.kind === "beside" ? joinPath(source, destination.name) : source;
 }
 
+/** True for a name that a folder beside others can have: "." and ".." are not beside, and a path leads anywhere. */
+export function isPlainName(name) {
+    return name !== "" && name !== "." && name !== ".." && name.indexOf("/") < 0 && name.indexOf("\0") < 0;
+}
+
+/** True for a destination that says one folder for each picture. */
+export function isSound(destination) {
+    if (destination.kind === "folder") {
+        return destination.path.startsWith("/");
+    }
+    return destination.kind !== "beside" || isPlainName(destination.name);
+}
+
 function foldersOf(services) {
     const known = emptyTable();
+    const keys = emptyTable();
     return (folder) => {
-        if (known[folder] === undefined) {
-            known[folder] = new FolderNames(services.files.names(folder));
+        // One folder may be reached by several paths, and its names are those of one folder all the same.
+        if (keys[folder] === undefined) {
+            keys[folder] = services.files.folderIdentity(folder);
         }
-        return known[folder];
+        const key = keys[folder];
+        if (known[key] === undefined) {
+            known[key] = new FolderNames(services.files.names(folder));
+        }
+        return known[key];
     };
 }
 
-// Made when it is first needed; most runs replace nothing.
-function tableOf(paths) {
+// Which files are still to be read, by what they are and not by how their paths are spelled. Made when it is first needed;
+// most runs replace nothing.
+function ownersOf(paths, services) {
     let table = null;
-    return () => {
+    return (identity) => {
         if (table === null) {
-            table = emptyTable();
-            paths.forEach((path) => { table[path] = true; });
+            table = services.files.owners(paths);
         }
-        return table;
+        return table[identity] || [];
     };
 }
 
-// May the file at this path be replaced by a result of this picture? A picture that is still to be read may not, and
-// neither may a folder.
-function replaceable(path, photo, inputs, services) {
-    if (path !== photo.path && inputs()[path]) {
-        return false;
+// What of a file may be replaced by a result of this picture: {identity, isOriginal}; null if nothing may. A picture that is
+// still to be read may not, and neither may a folder.
+function replaceable(path, photo, owners, services) {
+    const identity = services.files.identity(path);
+    const readers = owners(identity);
+    if (identity === "" || readers.some((reader) => reader !== photo.path) || services.files.info(path).isFolder) {
+        return null;
     }
-    return !services.files.info(path).isFolder;
+    return { identity: identity, isOriginal: readers.length > 0 };
 }
 
 function askRule(item, existing, memory, services) {
@@ -63,6 +84,20 @@ function skip(item, reason) {
     item.reason = reason;
 }
 
+function replaceOrNumber(item, names, existing, context) {
+    const old = existing === null
+        ? null : replaceable(joinPath(item.folder, existing), item.photo, context.owners, context.services);
+    if (old === null) {
+        item.name = names.giveNumbered(item.name);
+        item.numbered = true;
+        return;
+    }
+    item.name = names.give(existing);
+    item.replaces = true;
+    item.replaced = old.identity;
+    item.replacesOriginal = old.isOriginal;
+}
+
 function settleName(item, names, rule, context) {
     const wanted = item.name;
     if (names.isFree(wanted)) {
@@ -80,14 +115,8 @@ function settleName(item, names, rule, context) {
         skip(item, qsTr("cancelled"));
     } else if (chosen === "skip") {
         skip(item, given ? qsTr("another picture of this run gets this name") : qsTr("a file of this name is there"));
-    } else if (chosen === "replace" && !given && replaceable(joinPath(item.folder, existing), item.photo, context.inputs,
-                                                           context.services)) {
-        item.name = names.give(existing);
-        item.replaces = true;
-        item.replacesOriginal = joinPath(item.folder, existing) === item.photo.path;
     } else {
-        item.name = names.giveNumbered(wanted);
-        item.numbered = true;
+        replaceOrNumber(item, names, chosen === "replace" && !given ? existing : null, context);
     }
 }
 
@@ -96,8 +125,12 @@ function itemFor(photo, planned, settings) {
         photo: photo, status: planned.status, reason: planned.reason || "", notes: planned.notes || [],
         folder: targetFolder(photo, settings.output.destination), name: planned.name || "", path: "",
         width: planned.width || 0, height: planned.height || 0,
-        replaces: false, replacesOriginal: false, numbered: false, asks: false,
+        replaces: false, replaced: "", replacesOriginal: false, numbered: false, asks: false,
     };
+    if (item.status === "ready" && !isSound(settings.output.destination)) {
+        item.status = "Failed";
+        item.reason = qsTr("the folder to save to has no name of its own");
+    }
     return item;
 }
 
@@ -105,11 +138,12 @@ function itemFor(photo, planned, settings) {
  * A generator that plans a run. It yields each item as it is planned and returns {items, cancelled}.
  *
  * photoOf(i) gives the i-th of `count` pictures as plain data; paths are all input paths. An item has status "ready" or
- * a final one with its reason, and then folder, name, path, width, height, replaces, replacesOriginal, numbered, notes.
+ * a final one with its reason, and then folder, name, path, width, height, replaces, replaced (the identity of the file that
+ * may be replaced), replacesOriginal, numbered, notes.
  */
 export function* planRun(count, photoOf, paths, step, settings, services) {
     const namesIn = foldersOf(services);
-    const context = { inputs: tableOf(paths), memory: { forAll: null }, services: services, cancelled: false };
+    const context = { owners: ownersOf(paths, services), memory: { forAll: null }, services: services, cancelled: false };
     const items = [];
     for (let i = 0; i < count && !context.cancelled; i += 1) {
         const photo = photoOf(i);

@@ -31,6 +31,9 @@ export const PHOTO_INPUT = PICTURE_INPUT.concat([
     "dng", "cr2", "cr3", "crw", "nef", "nrw", "arw", "srf", "sr2", "raf", "orf", "rw2", "pef", "srw", "raw", "3fr", "erf", "kdc", "mrw", "x3f",
 ]);
 
+/** The files that comments are written into, by extension. */
+export const COMMENT_INPUT = ["jpg", "jpeg", "jpe", "tif", "tiff", "png", "jp2", "webp"];
+
 /** The written type of that identifier, or null. */
 export function writtenType(id) {
     return WRITTEN.find((type) => type.id === id) || null;

@@ -2,12 +2,19 @@
 // Services used: files (storedSize, markUpright).
 
 import { splitPath } from "./names.js";
+import { isSound } from "./plan.js";
+import { fill } from "./wording.js";
 import { ORIGINAL, resultType, typeOfExtension, writtenType } from "./types.js";
 
 /** Messages on output settings that no run can start with. */
 export function outputMessages(output) {
     const destination = output.destination;
-    return destination.kind === "folder" && !destination.path ? [qsTr("Choose a folder to save to.")] : [];
+    if (isSound(destination)) {
+        return [];
+    }
+    return destination.kind === "folder"
+        ? [qsTr("Choose a folder to save to.")]
+        : [fill(qsTr("“%1” is no name for a folder beside the originals."), destination.name)];
 }
 
 /**

@@ -24,7 +24,7 @@ function suppliedPatterns() {
 // The patterns in the user's own folder.
 function foundPatterns() {
     const folder = defaults.get("PatternsDestination");
-    return typeof folder === "string" && folder !== "" ? files.collect([folder], PICTURE_INPUT, []).paths : [];
+    return typeof folder === "string" && folder !== "" ? files.collect([folder], PICTURE_INPUT, [], []).paths : [];
 }
 
 // The path whose file has the name of that one; undefined where there is none.

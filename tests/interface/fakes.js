@@ -19,7 +19,8 @@ export class FakeFiles {
                  bytes: typeof entry === "number" ? entry : -1, writable: true };
     }
 
-    names(folder) {
+    names(spelling) {
+        const folder = this.folderIdentity(spelling);
         return Object.keys(this.entries).filter((path) => splitPath(path).folder === folder).map((path) => splitPath(path).name);
     }
 
@@ -57,12 +58,32 @@ export class FakeFiles {
         Object.keys(this.entries).filter((path) => path.startsWith(staging)).forEach((path) => { delete this.entries[path]; });
     }
 
-    place(from, to, replace) {
+    // Folders that are other spellings of one are told in `same`: {spelling: folder}.
+    folderIdentity(folder) {
+        return (this.same || {})[folder] || folder;
+    }
+
+    identity(path) {
+        const parts = splitPath(path);
+        const real = this.folderIdentity(parts.folder) + "/" + parts.name;
+        return this.entries[real] === undefined ? "" : "id " + real;
+    }
+
+    owners(paths) {
+        const table = {};
+        for (const path of paths) {
+            const identity = this.identity(path);
+            table[identity] = (table[identity] || []).concat([path]);
+        }
+        return table;
+    }
+
+    place(from, to, replaced) {
         if (this.appearing.indexOf(to) >= 0) {
             this.entries[to] = 1;
             this.appearing = [];
         }
-        if (this.entries[to] !== undefined && !replace) {
+        if (this.entries[to] !== undefined && this.identity(to) !== replaced) {
             return { status: "Taken", message: "" };
         }
         this.entries[to] = this.entries[from];

@@ -6,7 +6,7 @@ const SETTINGS = { output: { ifTaken: "number" } };
 
 function item(name, changes) {
     return Object.assign({ photo: photo("/p/" + name, 40, 30), status: "ready", reason: "", folder: "/out", name: name,
-                           path: "/out/" + name, replaces: false }, changes || {});
+                           path: "/out/" + name, replaces: false, replaced: "" }, changes || {});
 }
 
 // Writes a file of 5 bytes, but for names that say otherwise.
@@ -61,8 +61,25 @@ test("skipsWhenANameWasTakenMeanwhileAndThatIsTheRule", () => {
 
 test("replacesOnlyWhatThePlanSays", () => {
     const files = new FakeFiles({ "/out": "folder", "/out/a.jpg": 9, "/out/b.jpg": 9 });
-    run([item("a.jpg", { replaces: true }), item("b.jpg")], files);
+    run([item("a.jpg", { replaces: true, replaced: "id /out/a.jpg" }), item("b.jpg")], files);
     equal([files.entries["/out/a.jpg"], files.entries["/out/b.jpg"], files.entries["/out/b (2).jpg"]], [5, 9, 5]);
+});
+
+test("numbersWhereAnotherFileIsThereThanTheOneToBeReplaced", () => {
+    const files = new FakeFiles({ "/out": "folder", "/out/a.jpg": 9 });
+    const result = run([item("a.jpg", { replaces: true, replaced: "id of a file that was there" })], files).result[0];
+    equal([result.name, files.entries["/out/a.jpg"]], ["a (2).jpg", 9]);
+});
+
+test("holdsOnlyAFewFoldersAtATime", () => {
+    const files = new FakeFiles({});
+    let most = 0;
+    const many = Array(200).fill(0).map((zero, i) => item("a.jpg", { folder: "/out" + i, path: "/out" + i + "/a.jpg" }));
+    const work = runItems(many, step, SETTINGS, { files: files });
+    for (let next = work.next(); !next.done; next = work.next()) {
+        most = Math.max(most, files.stagings.length);
+    }
+    equal([most, files.stagings, files.entries["/out0/a.jpg"], files.entries["/out199/a.jpg"]], [64, [], 5, 5]);
 });
 
 test("removesWhatIsUnfinishedWhenStopped", () => {

@@ -1,4 +1,5 @@
 import { planRun, targetFolder } from "../../interface/lib/plan.js";
+import { outputMessages } from "../../interface/lib/written.js";
 import * as resize from "../../interface/steps/resize.js";
 import { drain, equal, finish, test } from "./check.js";
 import { FakeFiles, photo } from "./fakes.js";
@@ -62,6 +63,54 @@ test("neverReplacesAPictureThatIsStillToBeRead", () => {
     const planned = plan([big("/p/a.png"), big("/p/a.jpg")], settings("replace", SOURCE, "public.jpeg"), files);
     equal(names(planned), ["a (2).jpg", "a.jpg"]);
     equal(planned.items.map((item) => item.replacesOriginal), [false, true]);
+});
+
+// "/other" and "/p/../p" lead to the folder of the originals.
+for (const spelling of ["/other", "/p/../p"]) {
+    const destination = { kind: "folder", name: "", path: spelling };
+    const files = () => Object.assign(new FakeFiles({ "/p/a.png": 1, "/p/a.jpg": 1 }), { same: { "/other": "/p", "/p/../p": "/p" } });
+
+    test("knowsTheFolderOfTheOriginalsBySpelling: " + spelling, () => {
+        const item = plan([big("/p/a.jpg")], settings("replace", destination), files()).items[0];
+        equal([item.replaces, item.replacesOriginal, item.replaced], [true, true, "id /p/a.jpg"]);
+    });
+
+    test("neverReplacesAPictureThatIsStillToBeReadBySpelling: " + spelling, () => {
+        const planned = plan([big("/p/a.png"), big("/p/a.jpg")], settings("replace", destination, "public.jpeg"), files());
+        equal(names(planned), ["a (2).jpg", "a.jpg"]);
+    });
+}
+
+test("readsOnePictureTwiceBeforeItIsReplaced", () => {
+    const files = Object.assign(new FakeFiles({ "/p/a.jpg": 1 }), { same: { "/other": "/p" } });
+    equal(names(plan([big("/p/a.jpg"), big("/other/a.jpg")], settings("replace", SOURCE), files)), ["a (2).jpg", "a (3).jpg"]);
+});
+
+test("givesNamesOfOneFolderOnceHoweverItIsSpelled", () => {
+    const files = Object.assign(new FakeFiles({}), { same: { "/q": "/p" } });
+    equal(names(plan([big("/p/a.jpg"), big("/q/a.jpg")], settings("number", SOURCE), files)), ["a.jpg", "a (2).jpg"]);
+});
+
+for (const name of ["", ".", "..", "../in", "a/b", "/", "a\0b"]) {
+    const destination = { kind: "beside", name: name, path: "" };
+
+    test("refusesToSaveBesideUnderTheName " + JSON.stringify(name), () => {
+        const item = plan([big("/p/a.jpg")], settings("replace", destination), new FakeFiles({ "/p/a.jpg": 1 })).items[0];
+        equal([item.status, item.replaces], ["Failed", false]);
+        equal(outputMessages({ destination: destination }).length, 1);
+    });
+}
+
+for (const path of ["", "in", "../in"]) {
+    test("refusesToSaveIntoAFolderThatIsNoAbsolutePath: " + path, () => {
+        const destination = { kind: "folder", name: "", path: path };
+        equal(names(plan([big("/p/a.jpg")], settings("number", destination), new FakeFiles({}))), ["Failed"]);
+        equal(outputMessages({ destination: destination }).length, 1);
+    });
+}
+
+test("letsAFolderBesideHaveAnyPlainName", () => {
+    equal(outputMessages({ destination: { kind: "beside", name: "..a b", path: "" } }), []);
 });
 
 test("neverReplacesAFolder", () => {

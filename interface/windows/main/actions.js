@@ -10,7 +10,7 @@
 //   step     plain data in, plain data out: defaults, describe(settings), validate(settings) and what its manner asks for
 //   pane     the class of its settings; presets are kept for it if lib/preset-forms.js has a form of its name
 //   lists(settings)  what the rows of the list are: "pictures", "files" of any kind, or "folders" themselves
-//   keyword  what the input collection is asked for; takes: the extensions of pictures that are taken
+//   takes    the extensions of pictures that are taken, in any case of letters
 //   takesAlong(settings)  true where files that belong to a picture go along with it (lib/sidecars.js); may be missing
 //   deed(number, settings)     what the button says
 //   headings()  other words for the heads of columns than those of the manner (may be missing)
@@ -48,7 +48,7 @@ import { WRITES } from "./writes.js";
 // An action on pictures that writes new ones.
 function onPictures(name, title, step, pane, deed) {
     return { name: name, title: title, manner: WRITES, usesList: true, step: step, pane: pane, lists: () => "pictures",
-             keyword: "resize", takes: PICTURE_INPUT, deed: deed };
+             takes: PICTURE_INPUT, deed: deed };
 }
 
 // One of four texts: for a file, files, a folder, folders.
@@ -94,22 +94,22 @@ export const GROUPS = [
         actions: [
             Object.assign(onPictures("convert", () => qsTr("Convert"), convert, ConvertPane,
                                      (number) => count(number, qsTr("Convert 1 Picture"), qsTr("Convert %1 Pictures"))),
-                          { keyword: "rename", takes: CONVERTED_INPUT }),
+                          { takes: CONVERTED_INPUT }),
             {
                 name: "rename", title: () => qsTr("Rename"), manner: MOVES, usesList: true, step: rename, pane: RenamePane,
-                lists: (settings) => settings.what, keyword: "rename",
+                lists: (settings) => settings.what,
                 deed: (number, settings) => renamed(settings, number, [qsTr("Rename 1 File"), qsTr("Rename %1 Files"), qsTr("Rename 1 Folder"), qsTr("Rename %1 Folders")]),
                 done: (number, settings) => renamed(settings, number, [qsTr("1 file renamed"), qsTr("%1 files renamed"), qsTr("1 folder renamed"), qsTr("%1 folders renamed")]),
                 undone: (number, settings) => renamed(settings, number, [qsTr("1 file has its old name again"), qsTr("%1 files have their old names again"),
                                                                          qsTr("1 folder has its old name again"), qsTr("%1 folders have their old names again")]),
             },
             { name: "sort", title: () => qsTr("Sort into Folders"), manner: MOVES, usesList: true, step: sort, pane: SortPane,
-              lists: () => "pictures", keyword: "sort", takes: PHOTO_INPUT, takesAlong: () => true,
+              lists: () => "pictures", takes: PHOTO_INPUT, takesAlong: () => true,
               headings: () => ({ newName: qsTr("Folder") }),
               deed: sortDeed, done: sortDone,
               undone: (number) => count(number, qsTr("1 file put back"), qsTr("%1 files put back")) },
             { name: "hand", title: () => qsTr("Sort by Hand"), manner: PAGE, usesList: true, page: HandPage, step: hand, pane: HandPane,
-              lists: () => "pictures", keyword: "sort", takes: PICTURE_INPUT, takesAlong: (settings) => settings.mode !== "link",
+              lists: () => "pictures", takes: PICTURE_INPUT, takesAlong: (settings) => settings.mode !== "link",
               deed: () => qsTr("Sort by Hand") },
         ],
     },
@@ -117,7 +117,7 @@ export const GROUPS = [
         title: () => qsTr("Information"),
         actions: [
             { name: "metadata", title: () => qsTr("Metadata"), manner: PAGE, usesList: true, page: MetadataPage, lists: () => "pictures",
-              keyword: "sort", takes: PHOTO_INPUT },
+              takes: PHOTO_INPUT },
             { name: "log", title: () => qsTr("Log"), manner: PAGE, usesList: false, page: LogPage },
         ],
     },

@@ -1,7 +1,6 @@
 // Adding pictures to the list: panels, drops, paste, recent folders; and saying what was left out.
-// Services used: cToolBox (hOpenDialogFiles), files (collect), defaults.
+// Services used: files (collect), defaults.
 
-import { cToolBox } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -37,7 +36,8 @@ function addedText(found, added, words) {
 function foldersAmong(paths) {
     const isFolder = (path) => files.info(path).isFolder;
     const others = paths.filter((path) => !isFolder(path));
-    return { paths: paths.filter(isFolder).map((path) => files.absolute(path)), folders: [], leftOut: others.length, companions: [],
+    const folders = paths.filter(isFolder).map((path) => files.absolute(path));
+    return { paths: folders, listed: folders, folders: [], leftOut: others.length, companions: [],
              example: others.length > 0 ? splitPath(others[0]).name : "" };
 }
 
@@ -129,17 +129,23 @@ export class Input {
     /** Files and folders, as they were dropped, pasted or named at start-up. */
     addPaths(paths) {
         const kind = this.window.action.lists(this.window.settings);
-        const found = kind === "folders" ? foldersAmong(paths) : files.collect(paths, kind === "files" ? ["*"] : this.window.action.takes, SIDECARS);
+        const found = kind === "folders" ? foldersAmong(paths) : files.collect(paths, this.takes(), SIDECARS, kind === "pictures" ? PHOTO_INPUT : []);
         for (const folder of found.folders) {
             this.rememberFolder(folder);
         }
-        this.addFound(found, kind === "pictures" ? files.collect(paths, PHOTO_INPUT, []).paths : found.paths);
+        this.addFound(found, found.listed);
+    }
+
+    // The extensions of the files that the action takes.
+    takes() {
+        return this.window.action.lists(this.window.settings) === "files" ? ["*"] : this.window.action.takes;
     }
 
     addPictures() {
-        const paths = cToolBox.hOpenDialogFiles(this.window.action.keyword);
-        if (paths !== null && paths.length > 0) {
-            this.addFound({ paths: paths, leftOut: 0, companions: [], example: "" }, paths);
+        const takes = this.takes();
+        const paths = shell.chooseFiles(this.words().add(), "", takes[0] === "*" ? [] : takes);
+        if (paths.length > 0) {
+            this.addPaths(paths);
         }
     }
 

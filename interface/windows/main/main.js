@@ -14,6 +14,7 @@ import { Pages } from "./pages.js";
 import { PreviewSide } from "./preview-side.js";
 import { Printing } from "./printing.js";
 import { recoverRuns } from "./recover-runs.js";
+import { watchSettings } from "./settings-watch.js";
 import { SaveAs } from "../save-as/save-as.js";
 import { showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
@@ -391,6 +392,7 @@ export function openMainWindow() {
     showAll(window);
     window.form.show();
     window.form.control("central").setFocus();
+    watchSettings(window.note);
     recoverRuns(window.note);
     if (shell.arguments.length > 0) {
         window.input.addPaths(shell.arguments);

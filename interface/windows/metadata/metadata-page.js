@@ -1,7 +1,13 @@
 // Metadata: the properties of one picture as a tree, its user comment, and the comments of many pictures: those of the list, chosen files, or
+<<<<<<< HEAD
 // a folder. Services used: cToolBox (hOpenDialogFilesOC), files, defaults, and those of comment-job.
 
 import { cToolBox } from "quorlin";
+=======
+// a folder. Services used: mMeta, files, defaults, and those of comment-job.
+
+import { mMeta } from "quorlin";
+>>>>>>> 5b08b14 (interface: Tell folders and files apart by what they are)
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -10,7 +16,7 @@ import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
 import { tokens } from "../../lib/tokens.js";
-import { PICTURE_INPUT } from "../../lib/types.js";
+import { COMMENT_INPUT, PICTURE_INPUT } from "../../lib/types.js";
 import { count, fill } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary, commentsWritten } from "./comment-job.js";
 
@@ -56,8 +62,8 @@ export class MetadataPage {
         const control = (name) => this.form.control(name);
         const clicks = {
             metaAddPictures: () => this.window.input.addPictures(), metaAddFolder: () => this.window.input.addFolder(), metaApply: () => this.apply(),
-            metaApplyAll: () => this.writeInto(this.list.paths()), metaChooseFiles: () => this.writeInto(cToolBox.hOpenDialogFilesOC("EMM")),
-            metaChooseFolder: () => this.writeInto(cToolBox.hOpenDialogFilesOC("EMMDir")), metaRevert: () => this.revert(),
+            metaApplyAll: () => this.writeInto(this.list.paths()), metaChooseFiles: () => this.writeIntoFiles(),
+            metaChooseFolder: () => this.writeIntoFolder(), metaRevert: () => this.revert(),
             metaStop: () => this.job.cancel(), metaLog: () => this.showLog(),
         };
         Object.keys(clicks).forEach((name) => join(control(name).clicked, name, clicks[name]));
@@ -298,6 +304,17 @@ export class MetadataPage {
     writeInto(paths) {
         if (paths.length > 0) {
             this.write(paths, this.text(), commentMaker(this.text(), files));
+        }
+    }
+
+    writeIntoFiles() {
+        this.writeInto(shell.chooseFiles(qsTr("Write the comment into pictures"), "", COMMENT_INPUT));
+    }
+
+    writeIntoFolder() {
+        const folder = shell.chooseFolder(qsTr("Write the comment into all pictures of a folder"), "");
+        if (folder !== null) {
+            this.writeInto(files.collect([folder], COMMENT_INPUT, [], []).paths);
         }
     }
 

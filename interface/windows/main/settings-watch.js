@@ -1,0 +1,13 @@
+// Says once in the life of the program that its settings cannot be written. Services used: shell.
+
+import { shell } from "quorlin/shell";
+import { guard } from "../../lib/guard.js";
+
+/** note(text) is called when a change cannot be written, also if that was so already. */
+export function watchSettings(note) {
+    const tell = () => note(qsTr("Settings cannot be written. What you change holds until you quit."));
+    shell.settingsNotKept.connect(guard("settings", tell));
+    if (!shell.keepsSettings) {
+        tell();
+    }
+}
