@@ -150,6 +150,16 @@ export class PresetStore {
 
     /** Stores rows as they stand, under free names: {names, renamed (count), problem}. */
     bringIn(rows) {
+        const work = this.bringingIn(rows);
+        let step = work.next();
+        while (!step.done) {
+            step = work.next();
+        }
+        return step.value;
+    }
+
+    /** The same as a generator that yields how many rows are stored, after each: every one waits for the disk. */
+    *bringingIn(rows) {
         const taken = new TakenNames(this.names());
         const result = { names: [], renamed: 0, problem: "" };
         for (const row of rows) {
@@ -165,6 +175,7 @@ export class PresetStore {
             result.renamed += name === storedName(row[0]) ? 0 : 1;
             result.names.push(name);
             taken.take(name);
+            yield result.names.length;
         }
         return result;
     }

@@ -6,7 +6,7 @@ import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
-import { splitPath } from "../lib/names.js";
+import { emptyTable, splitPath } from "../lib/names.js";
 import { PresetStore } from "../lib/preset-store.js";
 import { FIELDS, fileText, freeName, rowOf, rowsOfFile, storedName } from "../lib/presets.js";
 import { writeStartingPresets } from "../lib/starting-presets.js";
@@ -14,6 +14,8 @@ import { keep, recall } from "../lib/store.js";
 import { count, fill } from "../lib/wording.js";
 
 const FILE_TYPE = "c-action";
+// Each waits for the disk: a few are brought in at once, and many while the window goes on.
+const MOST_AT_ONCE = 20;
 // What stands before the name of a preset that can be used, and before the number of one that cannot.
 const READY = "=";
 const OTHER = "?";
@@ -46,6 +48,7 @@ export class PresetPane {
         this.editing = "";
         this.taken = [];
         this.problem = "";
+        this.importing = shell.job();
         this.menuState = "";
         this.form = shell.loadForm("panes/preset-pane.ui");
         this.connect();
@@ -281,6 +284,9 @@ export class PresetPane {
     }
 
     bringIn() {
+        if (this.importing.running) {
+            return;
+        }
         const path = shell.chooseFile(qsTr("Import presets"), "", [FILE_TYPE]);
         if (path === null) {
             return;
@@ -291,10 +297,26 @@ export class PresetPane {
             return;
         }
         const read = rowsOfFile(text);
-        const done = this.store.bringIn(read.rows);
+        if (read.rows.length <= MOST_AT_ONCE) {
+            this.broughtIn(this.store.bringIn(read.rows), read);
+            return;
+        }
+        const work = this.store.bringingIn(read.rows);
+        this.importing.start(work, guard("presets.import", (stored) => this.say(fill(qsTr("%1 of %2 presets imported"), stored, read.rows.length))),
+                             guard("presets.imported", (how, value) => this.importEnded(how, value, read)));
+    }
+
+    importEnded(how, value, read) {
+        this.broughtIn(how === "done" ? value : { names: [], renamed: 0, problem: how === "failed" ? String(value) : "" }, read);
+    }
+
+    // What was stored is shown; the first of this action becomes the chosen one.
+    broughtIn(done, read) {
         this.problem = done.problem || read.problem;
         this.look(this.chosen === null ? "" : this.chosen.name);
-        const own = this.presets.filter((preset) => preset.state === "ready" && done.names.indexOf(preset.name) >= 0);
+        const names = emptyTable();
+        done.names.forEach((name) => { names[name] = true; });
+        const own = this.presets.filter((preset) => preset.state === "ready" && names[preset.name]);
         if (own.length > 0) {
             this.choose(own[0].name);
         }

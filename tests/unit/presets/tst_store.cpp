@@ -580,7 +580,7 @@ void TestStore::setsAsideWhatCanHoldNothing()
     dbViewController db;
     db.linkToPresetsDB();
     db.insertSortingPresetToDB();
-    QVERIFY(db.checkForActionType(presetsTable, processColumn, sorting) != QVariant());
+    QCOMPARE(db.checkForActionType(presetsTable, processColumn, sorting).texts().size(), 1);
 }
 
 /** Somebody has it for himself, and its tables are not there yet. */
