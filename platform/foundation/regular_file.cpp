@@ -3,7 +3,6 @@
 #include "platform/foundation/paths.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <cerrno>
 #include <cstring>
@@ -15,19 +14,20 @@
 namespace platform {
 namespace {
 
-tl::unexpected<Error> unread(ErrorCode code, const QString &path, const QString &reason)
+tl::unexpected<Error> unread(const QString &path, const QString &reason)
 {
-    return failure(code, QCoreApplication::translate("platform", "Cannot read %1: %2").arg(path, reason));
+    return failure(ErrorCode::NotFound,
+                   QCoreApplication::translate("platform", "Cannot read %1: %2").arg(path, reason));
 }
 
 tl::unexpected<Error> unreadBecause(const QString &path, int reason)
 {
-    return unread(ErrorCode::NotFound, path, QString::fromLocal8Bit(std::strerror(reason)));
+    return unread(path, QString::fromLocal8Bit(std::strerror(reason)));
 }
 
 tl::unexpected<Error> noOrdinaryFile(const QString &path)
 {
-    return unread(ErrorCode::Unreadable, path, QCoreApplication::translate("platform", "this is not an ordinary file"));
+    return unread(path, QCoreApplication::translate("platform", "this is not an ordinary file"));
 }
 
 } // namespace
@@ -36,7 +36,7 @@ Result<void> openToRead(QFile &file, QIODevice::OpenMode more)
 {
     const QString path = file.fileName();
     if (!canBeAPath(path))
-        return unread(ErrorCode::InvalidValue, path, QString::fromLocal8Bit(std::strerror(ENOENT)));
+        return unreadBecause(path, ENOENT);
     const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
     if (::stat(name.constData(), &status) != 0)
@@ -50,7 +50,7 @@ Result<void> openToRead(QFile &file, QIODevice::OpenMode more)
     if (isOrdinary && file.open(descriptor, QIODevice::ReadOnly | more, QFileDevice::AutoCloseHandle))
         return {};
     ::close(descriptor);
-    return isOrdinary ? unread(ErrorCode::NotFound, path, file.errorString()) : noOrdinaryFile(path);
+    return isOrdinary ? unread(path, file.errorString()) : noOrdinaryFile(path);
 }
 
 } // namespace platform

@@ -89,7 +89,7 @@ int pagesLostToUserComment(const QString &path)
 
 Result<void> writeUserComment(const QString &path, const QString &comment)
 {
-    QFile file(path);
+    NamedFile file(path);
     const auto failed = [&](ErrorCode code, const QString &reason) {
         return failure(code, text("Cannot write the comment into %1: %2").arg(path, reason));
     };

@@ -105,7 +105,7 @@ private Q_SLOTS:
         for (const char *name : {"a", "link"}) {
             const auto read = platform::readFile(at(name));
             QVERIFY(!read);
-            QCOMPARE(int(read.error().code), int(platform::ErrorCode::Unreadable));
+            QCOMPARE(int(read.error().code), int(platform::ErrorCode::NotFound));
             QVERIFY(read.error().message.contains(QStringLiteral("ordinary file")));
         }
         QVERIFY(!replaceFile(at("a"), "1"));

@@ -1,5 +1,6 @@
 #include "presets/dbViewController.h"
 #include "presets/layout.h"
+#include "presets/unusable_database.h"
 #include "tests/support/preset_store.h"
 #include "tests/support/raised_text.h"
 
@@ -70,6 +71,9 @@ private Q_SLOTS:
     void readsBesideAnotherWriter();
     void takesPresetsFromTwoProgramsAtOnce();
     void readsADatabaseOfAnotherMaker();
+    void setsAsideWhatCanHoldNothing_data();
+    void setsAsideWhatCanHoldNothing();
+    void leavesADatabaseThatIsBeingMade();
 
 private:
     QByteArray seeded();
@@ -330,6 +334,56 @@ void TestDamagedFiles::readsADatabaseOfAnotherMaker()
     QCOMPARE(
         db.checkPresetNameFromTableNamed(QStringLiteral("Songs"), QStringLiteral("Title"), QStringLiteral("Title")),
         QString(u'3'));
+}
+
+void TestDamagedFiles::setsAsideWhatCanHoldNothing_data()
+{
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<bool>("isSetAside");
+    QTest::newRow("missing") << QString() << false;
+    QTest::newRow("empty file") << QStringLiteral("") << true;
+    QTest::newRow("no table") << QStringLiteral("CREATE TABLE other (a); DROP TABLE other") << true;
+    QTest::newRow("other tables") << QStringLiteral("CREATE TABLE other (a)") << true;
+    for (const char *table : {"Presets", "appresource", "AppBookMarks"})
+        QTest::newRow(table) << QStringLiteral("CREATE TABLE %1 (a)").arg(QLatin1String(table)) << false;
+    QTest::newRow("no database") << QStringLiteral("Dear diary, this is a file of text and not a database.") << false;
+}
+
+void TestDamagedFiles::setsAsideWhatCanHoldNothing()
+{
+    QFETCH(QString, content);
+    QFETCH(bool, isSetAside);
+    const QString path = dbViewController().dbFilePath();
+    if (content.startsWith(QStringLiteral("CREATE"))) {
+        const OtherProgram maker(path, qPrintable(content));
+    } else if (!content.isNull()) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content.toUtf8()) == content.size());
+    }
+    QVERIFY(QFile(path + QStringLiteral(".unusable-1")).open(QIODevice::WriteOnly)); // of another time
+    const QString aside = presets::setAsideUnusableDatabase(path);
+    QCOMPARE(aside, isSetAside ? path + QStringLiteral(".unusable-2") : QString());
+    QCOMPARE(QFileInfo::exists(path), !isSetAside && !content.isNull());
+    if (!isSetAside)
+        return;
+    QVERIFY(QFileInfo(aside).isFile());
+    dbViewController db;
+    db.linkToPresetsDB();
+    db.insertSortingPresetToDB();
+    QCOMPARE(db.checkForActionType(presetsTable, process, sorting).texts().size(), 1);
+}
+
+/** Somebody has it for himself, and its tables are not there yet. */
+void TestDamagedFiles::leavesADatabaseThatIsBeingMade()
+{
+    const QString path = dbViewController().dbFilePath();
+    {
+        const OtherProgram maker(path, "BEGIN IMMEDIATE; CREATE TABLE Presets (a)");
+        QCOMPARE(presets::setAsideUnusableDatabase(path), QString());
+    }
+    const OtherProgram maker(path, "CREATE TABLE Presets (a)");
+    QCOMPARE(presets::setAsideUnusableDatabase(path), QString());
+    QVERIFY(QFileInfo(path).size() > 0);
 }
 
 QTEST_GUILESS_MAIN(TestDamagedFiles)

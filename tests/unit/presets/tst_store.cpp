@@ -1,13 +1,10 @@
 #include "presets/dbViewController.h"
 #include "presets/layout.h"
-#include "presets/unusable_database.h"
 #include "tests/support/preset_store.h"
 #include "tests/support/raised_text.h"
 
 #include <QFileInfo>
 #include <QTest>
-
-#include <sqlite3.h>
 
 namespace {
 
@@ -46,9 +43,6 @@ private Q_SLOTS:
     void seedsAMissingFile();
     void seedsOnceOnly();
     void leavesAFileWithoutTablesAsItIs();
-    void setsAsideWhatCanHoldNothing_data();
-    void setsAsideWhatCanHoldNothing();
-    void leavesADatabaseThatIsBeingMade();
     void writesAPresetThroughEachName_data();
     void writesAPresetThroughEachName();
     void refusesAPresetWithAnApostrophe();
@@ -541,60 +535,6 @@ void TestStore::parksAValue()
     db.setMyPresetValueStr(QStringLiteral("x"));
     QCOMPARE(db.property("myPresetValueStr").toString(), QStringLiteral("x"));
     QVERIFY(!QFileInfo::exists(m_store->folder()));
-}
-
-void TestStore::setsAsideWhatCanHoldNothing_data()
-{
-    QTest::addColumn<QString>("content");
-    QTest::addColumn<bool>("isSetAside");
-    QTest::newRow("missing") << QString() << false;
-    QTest::newRow("empty file") << QStringLiteral("") << true;
-    QTest::newRow("no table") << QStringLiteral("CREATE TABLE other (a); DROP TABLE other") << true;
-    QTest::newRow("other tables") << QStringLiteral("CREATE TABLE other (a)") << true;
-    for (const char *table : {"Presets", "appresource", "AppBookMarks"})
-        QTest::newRow(table) << QStringLiteral("CREATE TABLE %1 (a)").arg(QLatin1String(table)) << false;
-    QTest::newRow("no database") << QStringLiteral("Dear diary, this is a file of text and not a database.") << false;
-}
-
-void TestStore::setsAsideWhatCanHoldNothing()
-{
-    QFETCH(QString, content);
-    QFETCH(bool, isSetAside);
-    const QString path = dbViewController().dbFilePath();
-    if (content.startsWith(QStringLiteral("CREATE"))) {
-        sqlite3 *database = nullptr;
-        QCOMPARE(sqlite3_open(qPrintable(path), &database), SQLITE_OK);
-        QCOMPARE(sqlite3_exec(database, qPrintable(content), nullptr, nullptr, nullptr), SQLITE_OK);
-        sqlite3_close(database);
-    } else if (!content.isNull()) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content.toUtf8()) == content.size());
-    }
-    QVERIFY(QFile(path + QStringLiteral(".unusable-1")).open(QIODevice::WriteOnly)); // of another time
-    const QString aside = presets::setAsideUnusableDatabase(path);
-    QCOMPARE(aside, isSetAside ? path + QStringLiteral(".unusable-2") : QString());
-    QCOMPARE(QFileInfo::exists(path), !isSetAside && !content.isNull());
-    if (!isSetAside)
-        return;
-    QVERIFY(QFileInfo(aside).isFile());
-    dbViewController db;
-    db.linkToPresetsDB();
-    db.insertSortingPresetToDB();
-    QCOMPARE(db.checkForActionType(presetsTable, processColumn, sorting).texts().size(), 1);
-}
-
-/** Somebody has it for himself, and its tables are not there yet. */
-void TestStore::leavesADatabaseThatIsBeingMade()
-{
-    const QString path = dbViewController().dbFilePath();
-    sqlite3 *maker = nullptr;
-    QCOMPARE(sqlite3_open(qPrintable(path), &maker), SQLITE_OK);
-    QCOMPARE(sqlite3_exec(maker, "BEGIN IMMEDIATE; CREATE TABLE Presets (a)", nullptr, nullptr, nullptr), SQLITE_OK);
-    QCOMPARE(presets::setAsideUnusableDatabase(path), QString());
-    QCOMPARE(sqlite3_exec(maker, "COMMIT", nullptr, nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(maker);
-    QCOMPARE(presets::setAsideUnusableDatabase(path), QString());
-    QVERIFY(QFileInfo(path).size() > 0);
 }
 
 QTEST_GUILESS_MAIN(TestStore)
