@@ -1,5 +1,6 @@
 #include "platform/imageio/whole_picture.h"
 
+#include "platform/foundation/regular_file.h"
 #include "platform/imageio/block_reader.h"
 #include "platform/imageio/bmp_header.h"
 #include "platform/imageio/raw_preview.h"
@@ -170,7 +171,7 @@ bool isWholeRaw(QIODevice &file)
 bool isWholePicture(const QString &path)
 {
     QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
+    if (!openToRead(file))
         return false;
     const QByteArray head = file.peek(contentHeadBytes);
     if (isCameraRaw(head))
