@@ -31,8 +31,8 @@ export const PHOTO_INPUT = PICTURE_INPUT.concat([
     "dng", "cr2", "cr3", "crw", "nef", "nrw", "arw", "srf", "sr2", "raf", "orf", "rw2", "pef", "srw", "raw", "3fr", "erf", "kdc", "mrw", "x3f",
 ]);
 
-/** The files that comments are written into, by extension. */
-export const COMMENT_INPUT = ["jpg", "jpeg", "jpe", "tif", "tiff", "png", "jp2", "webp"];
+/** The files of a folder that comments are written into, and those that can be chosen for it, by extension. */
+export const COMMENT_INPUT = ["jpg", "jpeg", "jpe", "tif", "tiff"];
 
 /** The written type of that identifier, or null. */
 export function writtenType(id) {

@@ -82,8 +82,8 @@ Result<QString> readUserComment(const QString &path)
 int pagesLostToUserComment(const QString &path)
 {
     QFile file(path);
-    const bool isTiff = !path.isEmpty() && file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
-                        contentOf(file.read(contentHeadBytes)) == Content::Tiff;
+    const bool isTiff =
+        openToRead(file, QIODevice::Unbuffered) && contentOf(file.read(contentHeadBytes)) == Content::Tiff;
     return isTiff ? pagesLostToComment(file) : 0;
 }
 

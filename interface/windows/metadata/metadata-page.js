@@ -1,13 +1,6 @@
 // Metadata: the properties of one picture as a tree, its user comment, and the comments of many pictures: those of the list, chosen files, or
-<<<<<<< HEAD
-// a folder. Services used: cToolBox (hOpenDialogFilesOC), files, defaults, and those of comment-job.
+// a folder. Services used: files, defaults, and those of comment-job.
 
-import { cToolBox } from "quorlin";
-=======
-// a folder. Services used: mMeta, files, defaults, and those of comment-job.
-
-import { mMeta } from "quorlin";
->>>>>>> 5b08b14 (interface: Tell folders and files apart by what they are)
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
