@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/compare_preview.h"
@@ -165,5 +166,5 @@ private:
     QString m_folder;
 };
 
-QTEST_MAIN(ConvertPane)
+QUORLIN_GUI_TEST(ConvertPane)
 #include "tst_convert.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/compare_preview.h"
@@ -564,5 +565,5 @@ void Hand::theNextPictureIsThereWithoutAWait()
           qPrintable(figures.join(QStringLiteral(", "))));
 }
 
-QTEST_MAIN(Hand)
+QUORLIN_GUI_TEST(Hand)
 #include "tst_hand.moc"

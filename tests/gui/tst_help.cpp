@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "platform/desktop/user_defaults.h"
@@ -276,6 +277,6 @@ private:
     std::unique_ptr<WindowDriver> m_driver;
 };
 
-QTEST_MAIN(HelpSheets)
+QUORLIN_GUI_TEST(HelpSheets)
 
 #include "tst_help.moc"

@@ -2,6 +2,7 @@
 #include "app/window/shell.h"
 #include "app/window/start_up.h"
 #include "app/window/ui_form.h"
+#include "tests/support/test_program.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -177,6 +178,6 @@ private:
     std::unique_ptr<window::StartUp> m_startUp;
 };
 
-QTEST_MAIN(InterfaceModules)
+QUORLIN_GUI_TEST(InterfaceModules)
 
 #include "tst_interface_modules.moc"

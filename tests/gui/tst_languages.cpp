@@ -1,4 +1,5 @@
 #include "fit_walk.h"
+#include "tests/support/test_program.h"
 #include "text_walk.h"
 #include "window_tour.h"
 
@@ -159,6 +160,6 @@ private:
     std::unique_ptr<WindowDriver> m_driver;
 };
 
-QTEST_MAIN(Languages)
+QUORLIN_GUI_TEST(Languages)
 
 #include "tst_languages.moc"

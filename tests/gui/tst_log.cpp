@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/compare_preview.h"
@@ -288,5 +289,5 @@ private:
     std::unique_ptr<WindowDriver> m_driver;
 };
 
-QTEST_MAIN(Log)
+QUORLIN_GUI_TEST(Log)
 #include "tst_log.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/side_bar.h"
@@ -373,6 +374,6 @@ private:
     QString m_results;
 };
 
-QTEST_MAIN(MainWindow)
+QUORLIN_GUI_TEST(MainWindow)
 
 #include "tst_main_window.moc"

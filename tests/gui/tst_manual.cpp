@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/manual_view.h"
@@ -192,6 +193,6 @@ private:
     std::unique_ptr<WindowDriver> m_driver;
 };
 
-QTEST_MAIN(ManualWindow)
+QUORLIN_GUI_TEST(ManualWindow)
 
 #include "tst_manual.moc"

@@ -8,6 +8,7 @@
 #include "tests/support/made_tiff.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include <QCheckBox>
@@ -591,5 +592,5 @@ void TestMetadataPage::tenThousandEditsStayFluid()
           count, qlonglong(first), qlonglong(longest), qlonglong(selected), qlonglong(reverted), qlonglong(step));
 }
 
-QTEST_MAIN(TestMetadataPage)
+QUORLIN_GUI_TEST(TestMetadataPage)
 #include "tst_metadata_page.moc"

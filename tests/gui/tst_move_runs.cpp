@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/file_facts.h"
@@ -266,5 +267,5 @@ private:
     std::unique_ptr<WindowDriver> m_driver;
 };
 
-QTEST_MAIN(MoveRuns)
+QUORLIN_GUI_TEST(MoveRuns)
 #include "tst_move_runs.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/angle_dial.h"
@@ -615,6 +616,6 @@ private:
     QString m_pictures;
 };
 
-QTEST_MAIN(PictureActions)
+QUORLIN_GUI_TEST(PictureActions)
 
 #include "tst_picture_actions.moc"

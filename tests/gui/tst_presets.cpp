@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/position_pad.h"
@@ -416,6 +417,6 @@ private:
     std::unique_ptr<WindowDriver> m_driver;
 };
 
-QTEST_MAIN(Presets)
+QUORLIN_GUI_TEST(Presets)
 
 #include "tst_presets.moc"

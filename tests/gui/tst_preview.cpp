@@ -6,6 +6,7 @@
 #include "image/crop.h"
 #include "platform/desktop/user_defaults.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -471,5 +472,5 @@ void TestPreview::followsChangesOfALargePhoto()
     qInfo("60 changes of a slider: %d results in %lld ms", shown, clock.elapsed());
 }
 
-QTEST_MAIN(TestPreview)
+QUORLIN_GUI_TEST(TestPreview)
 #include "tst_preview.moc"

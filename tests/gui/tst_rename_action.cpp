@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/card_handle.h"
@@ -451,6 +452,6 @@ private:
     QString m_folder;
 };
 
-QTEST_MAIN(RenameAction)
+QUORLIN_GUI_TEST(RenameAction)
 
 #include "tst_rename_action.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/compare_preview.h"
@@ -341,5 +342,5 @@ private:
     std::unique_ptr<WindowDriver> m_driver;
 };
 
-QTEST_MAIN(SaveAs)
+QUORLIN_GUI_TEST(SaveAs)
 #include "tst_save_as.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "window_driver.h"
 
 #include "app/window/folder_tree.h"
@@ -498,5 +499,5 @@ private:
     QString m_pictures;
 };
 
-QTEST_MAIN(Sorting)
+QUORLIN_GUI_TEST(Sorting)
 #include "tst_sorting.moc"

@@ -1,4 +1,5 @@
 #include "ScriptRun.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -217,5 +218,5 @@ void TestSeamArguments::carriesManyArguments()
              QStringLiteral("1266"));
 }
 
-QTEST_GUILESS_MAIN(TestSeamArguments)
+QUORLIN_TEST(TestSeamArguments)
 #include "tst_seam_arguments.moc"

@@ -1,4 +1,5 @@
 #include "app/script/registry.h"
+#include "tests/support/test_program.h"
 
 #include <QFile>
 #include <QMap>
@@ -184,5 +185,5 @@ void TestSeamContract::reachesEveryType()
             QVERIFY2(!line.contains(QStringLiteral("UNREACHABLE")), qPrintable(entry.key() + u' ' + line));
 }
 
-QTEST_GUILESS_MAIN(TestSeamContract)
+QUORLIN_TEST(TestSeamContract)
 #include "tst_seam_contract.moc"

@@ -1,6 +1,7 @@
 #include "ScriptRun.h"
 #include "app/script/seam.h"
 #include "platform/desktop/controls.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -95,5 +96,5 @@ void TestSeamControls::isReadAndWrittenByServices()
     QCOMPARE(read->toVariant().toList(), expected);
 }
 
-QTEST_GUILESS_MAIN(TestSeamControls)
+QUORLIN_TEST(TestSeamControls)
 #include "tst_seam_controls.moc"

@@ -1,6 +1,7 @@
 #include "ScriptRun.h"
 #include "platform/desktop/settings_text.h"
 #include "platform/desktop/user_defaults.h"
+#include "tests/support/test_program.h"
 
 #include <QFile>
 #include <QSettings>
@@ -140,5 +141,5 @@ void TestSeamDefaults::refusesWhatCannotBeKept()
     QCOMPARE(m_run.valueOf(expression), outcome);
 }
 
-QTEST_GUILESS_MAIN(TestSeamDefaults)
+QUORLIN_TEST(TestSeamDefaults)
 #include "tst_seam_defaults.moc"

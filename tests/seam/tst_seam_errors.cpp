@@ -1,6 +1,7 @@
 #include "EchoService.h"
 #include "ScriptRun.h"
 #include "app/script/seam.h"
+#include "tests/support/test_program.h"
 
 #include <QQmlEngine>
 #include <QTest>
@@ -251,5 +252,5 @@ void TestSeamErrors::fetchesNothing()
     QVERIFY(run.reports.contains(QStringLiteral("0")));
 }
 
-QTEST_GUILESS_MAIN(TestSeamErrors)
+QUORLIN_TEST(TestSeamErrors)
 #include "tst_seam_errors.moc"

@@ -1,5 +1,6 @@
 #include "EchoService.h"
 #include "ScriptRun.h"
+#include "tests/support/test_program.h"
 
 #include <QQmlEngine>
 #include <QTest>
@@ -186,5 +187,5 @@ void TestSeamFacade::answersManyCallsAndPrintsWhatOneCosts()
     QVERIFY(microseconds > 0);
 }
 
-QTEST_GUILESS_MAIN(TestSeamFacade)
+QUORLIN_TEST(TestSeamFacade)
 #include "tst_seam_facade.moc"

@@ -1,4 +1,5 @@
 #include "ScriptRun.h"
+#include "tests/support/test_program.h"
 
 #include <QFile>
 #include <QTest>
@@ -197,5 +198,5 @@ void TestSeamFiles::answersWhatItIsAsked()
     QCOMPARE(run.valueOf(scriptText), outcome);
 }
 
-QTEST_GUILESS_MAIN(TestSeamFiles)
+QUORLIN_TEST(TestSeamFiles)
 #include "tst_seam_files.moc"

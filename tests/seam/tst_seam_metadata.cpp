@@ -1,4 +1,5 @@
 #include "ScriptRun.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -211,5 +212,5 @@ void TestSeamMetadata::answers()
     QCOMPARE(m_run->reports, outcomes);
 }
 
-QTEST_GUILESS_MAIN(TestSeamMetadata)
+QUORLIN_TEST(TestSeamMetadata)
 #include "tst_seam_metadata.moc"

@@ -1,6 +1,7 @@
 #include "ScriptRun.h"
 
 #include "app/window/script_modules.h"
+#include "tests/support/test_program.h"
 
 #include <QFile>
 #include <QTest>
@@ -218,5 +219,5 @@ void TestSeamMoves::endsWhatWasInterrupted()
     QVERIFY(QFile::exists(place.filePath(QStringLiteral("aa"))) && QFile::exists(place.filePath(QStringLiteral("b"))));
 }
 
-QTEST_GUILESS_MAIN(TestSeamMoves)
+QUORLIN_TEST(TestSeamMoves)
 #include "tst_seam_moves.moc"

@@ -1,5 +1,6 @@
 #include "ScriptRun.h"
 #include "tests/support/log_capture.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -167,5 +168,5 @@ void TestSeamNames::logsItsNameBeforeUtf8()
     QCOMPARE(log.text(), QByteArray("hUTF8toNSString\n"));
 }
 
-QTEST_GUILESS_MAIN(TestSeamNames)
+QUORLIN_TEST(TestSeamNames)
 #include "tst_seam_names.moc"

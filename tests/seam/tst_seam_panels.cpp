@@ -1,5 +1,6 @@
 #include "ScriptRun.h"
 #include "platform/desktop/panels.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -158,5 +159,5 @@ void TestSeamPanels::fallsThroughToTheDialogsThatWereThereBefore()
     platform::setPanelProvider({});
 }
 
-QTEST_GUILESS_MAIN(TestSeamPanels)
+QUORLIN_TEST(TestSeamPanels)
 #include "tst_seam_panels.moc"

@@ -1,4 +1,5 @@
 #include "ScriptRun.h"
+#include "tests/support/test_program.h"
 
 #include <QFile>
 #include <QImage>
@@ -136,5 +137,5 @@ void TestSeamPictures::keepsMemoryBounded()
     QVERIFY2(grown < 250'000, qPrintable(QString::number(grown)));
 }
 
-QTEST_GUILESS_MAIN(TestSeamPictures)
+QUORLIN_TEST(TestSeamPictures)
 #include "tst_seam_pictures.moc"

@@ -3,6 +3,7 @@
 #include "tests/support/log_capture.h"
 #include "tests/support/own_settings.h"
 #include "tests/support/preset_store.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -169,5 +170,5 @@ void TestSeamPresets::opensTheVerySheet()
     QCOMPARE(run.reports, expected);
 }
 
-QTEST_GUILESS_MAIN(TestSeamPresets)
+QUORLIN_TEST(TestSeamPresets)
 #include "tst_seam_presets.moc"

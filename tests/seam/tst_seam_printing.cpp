@@ -1,6 +1,7 @@
 #include "ScriptRun.h"
 
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -51,5 +52,5 @@ void TestSeamPrinting::printsNothingWhenCancelled()
     QVERIFY(!QFile::exists(out));
 }
 
-QTEST_MAIN(TestSeamPrinting)
+QUORLIN_GUI_TEST(TestSeamPrinting)
 #include "tst_seam_printing.moc"

@@ -1,4 +1,5 @@
 #include "ScriptRun.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -78,5 +79,5 @@ void TestSeamResults::givesResultsAsPlainValues()
     QCOMPARE(m_run.valueOf(expression), value);
 }
 
-QTEST_GUILESS_MAIN(TestSeamResults)
+QUORLIN_TEST(TestSeamResults)
 #include "tst_seam_results.moc"

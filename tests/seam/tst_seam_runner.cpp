@@ -1,3 +1,5 @@
+#include "tests/support/test_program.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -183,5 +185,5 @@ void TestSeamRunner::runsEveryModuleThereIs()
     QCOMPARE(result.output, QStringLiteral("0 x 1 function\n"));
 }
 
-QTEST_GUILESS_MAIN(TestSeamRunner)
+QUORLIN_TEST(TestSeamRunner)
 #include "tst_seam_runner.moc"

@@ -2,6 +2,7 @@
 
 #include "platform/desktop/tags.h"
 #include "platform/desktop/user_defaults.h"
+#include "tests/support/test_program.h"
 
 #include <QFileInfo>
 #include <QImage>
@@ -222,5 +223,5 @@ void TestSeamSaving::writesTagsFromOneGenerationOn()
              hasTags ? QStringLiteral("true") : QStringLiteral("false"));
 }
 
-QTEST_GUILESS_MAIN(TestSeamSaving)
+QUORLIN_TEST(TestSeamSaving)
 #include "tst_seam_saving.moc"

@@ -2,6 +2,7 @@
 
 #include "platform/graphics/picture.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -102,5 +103,5 @@ void TestSeamShapes::drivesTheOperations()
     QCOMPARE(told->toString(), outcome);
 }
 
-QTEST_GUILESS_MAIN(TestSeamShapes)
+QUORLIN_TEST(TestSeamShapes)
 #include "tst_seam_shapes.moc"

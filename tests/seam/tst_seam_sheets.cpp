@@ -1,6 +1,7 @@
 #include "ScriptRun.h"
 
 #include "tests/support/own_settings.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -370,5 +371,5 @@ void TestSeamSheets::refusesWrongArguments()
     QTEST(outcomeOf(script).section(u':', 0, 0), "outcome");
 }
 
-QTEST_MAIN(TestSeamSheets)
+QUORLIN_GUI_TEST(TestSeamSheets)
 #include "tst_seam_sheets.moc"

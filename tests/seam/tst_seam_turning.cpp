@@ -1,5 +1,6 @@
 #include "ScriptRun.h"
 #include "tests/support/log_capture.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -75,5 +76,5 @@ void TestSeamTurning::answersWhatItIsAsked()
     QCOMPARE(value, outcome);
 }
 
-QTEST_GUILESS_MAIN(TestSeamTurning)
+QUORLIN_TEST(TestSeamTurning)
 #include "tst_seam_turning.moc"

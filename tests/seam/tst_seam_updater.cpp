@@ -1,6 +1,7 @@
 #include "ScriptRun.h"
 
 #include "platform/desktop/user_defaults.h"
+#include "tests/support/test_program.h"
 #include "tests/support/web_server.h"
 
 #include <QTest>
@@ -162,5 +163,5 @@ void TestSeamUpdater::refusesWrongArguments()
     QVERIFY2(run.reports.value(0).startsWith(QStringLiteral("RangeError")), qPrintable(run.reports.value(0)));
 }
 
-QTEST_GUILESS_MAIN(TestSeamUpdater)
+QUORLIN_TEST(TestSeamUpdater)
 #include "tst_seam_updater.moc"

@@ -1,6 +1,7 @@
 #include "ScriptRun.h"
 
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -97,5 +98,5 @@ void TestSeamViews::answersWhatItIsAsked()
              outcome);
 }
 
-QTEST_GUILESS_MAIN(TestSeamViews)
+QUORLIN_TEST(TestSeamViews)
 #include "tst_seam_views.moc"

@@ -1,4 +1,5 @@
 #include "app/window/crop_frame.h"
+#include "tests/support/test_program.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -185,5 +186,5 @@ void TestCropFrame::leavesTheOppositeCornerInItsPlace()
     }
 }
 
-QTEST_GUILESS_MAIN(TestCropFrame)
+QUORLIN_TEST(TestCropFrame)
 #include "tst_crop_frame.moc"

@@ -1,5 +1,6 @@
 #include "app/download.h"
 
+#include "tests/support/test_program.h"
 #include "tests/support/web_server.h"
 
 #include <QElapsedTimer>
@@ -148,5 +149,5 @@ void TestDownload::staysUsableAfterAFailure()
     QCOMPARE(outcomeOf(QUrl(server.host() + path)), QStringLiteral("there"));
 }
 
-QTEST_GUILESS_MAIN(TestDownload)
+QUORLIN_TEST(TestDownload)
 #include "tst_download.moc"

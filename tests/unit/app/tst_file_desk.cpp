@@ -5,6 +5,7 @@
 #include "platform/foundation/sign_of_life.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -276,5 +277,5 @@ void TestFileDesk::tellsWhatItLeavesOut()
     QCOMPARE(dropped.example, text("missing.jpg"));
 }
 
-QTEST_GUILESS_MAIN(TestFileDesk)
+QUORLIN_TEST(TestFileDesk)
 #include "tst_file_desk.moc"

@@ -1,4 +1,5 @@
 #include "app/window/folder_tree.h"
+#include "tests/support/test_program.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -123,5 +124,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FolderTreeTest)
+QUORLIN_GUI_TEST(FolderTreeTest)
 #include "tst_folder_tree.moc"

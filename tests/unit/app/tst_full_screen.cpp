@@ -1,6 +1,7 @@
 #include "app/ZtFFullScreen.h"
 #include "platform/desktop/menu_bar.h"
 #include "platform/desktop/screens.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -234,5 +235,5 @@ void TestFullScreen::movesTheRealWindow()
     platform::setMenuBarPresenter({});
 }
 
-QTEST_GUILESS_MAIN(TestFullScreen)
+QUORLIN_TEST(TestFullScreen)
 #include "tst_full_screen.moc"

@@ -3,6 +3,7 @@
 #include "app/script/ScriptEngine.h"
 #include "app/window/formats.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -108,5 +109,5 @@ void TestInterfaceTexts::tellsSizesInTheReadersWords()
     QCoreApplication::removeTranslator(&texts);
 }
 
-QTEST_GUILESS_MAIN(TestInterfaceTexts)
+QUORLIN_TEST(TestInterfaceTexts)
 #include "tst_interface_texts.moc"

@@ -1,5 +1,6 @@
 #include "app/window/line_file.h"
 #include "app/window/log_model.h"
+#include "tests/support/test_program.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -317,5 +318,5 @@ void LogModels::aHundredThousandEntriesStayFluid()
     }
 }
 
-QTEST_GUILESS_MAIN(LogModels)
+QUORLIN_TEST(LogModels)
 #include "tst_log_model.moc"

@@ -4,6 +4,7 @@
 #include "image/turn.h"
 #include "platform/graphics/resample.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -288,5 +289,5 @@ void TestPreviewDeeds::failsWhereNothingIsLeft()
         QVERIFY(!window::done(*window::deedsFrom({deed("cut", part)}), small(quarters(600, 400), 4)));
 }
 
-QTEST_GUILESS_MAIN(TestPreviewDeeds)
+QUORLIN_TEST(TestPreviewDeeds)
 #include "tst_preview_deeds.moc"

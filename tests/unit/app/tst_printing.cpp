@@ -6,6 +6,7 @@
 #include "platform/graphics/picture.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QColorSpace>
 #include <QDir>
@@ -388,5 +389,5 @@ void TestPrinting::survivesAFolderThatCannotBeWritten()
     QVERIFY(!QFile::exists(path("nowhere")));
 }
 
-QTEST_MAIN(TestPrinting)
+QUORLIN_GUI_TEST(TestPrinting)
 #include "tst_printing.moc"

@@ -1,5 +1,6 @@
 #include "app/window/property_words.h"
 #include "platform/imageio/property_labels.h"
+#include "tests/support/test_program.h"
 
 #include <QLocale>
 #include <QTest>
@@ -131,5 +132,5 @@ void TestPropertyWords::labelsKeysAndLeavesOthersAsTheyAre()
         QCOMPARE(platform::propertyLabel(QString::fromUtf8(key)), QString::fromUtf8(key));
 }
 
-QTEST_GUILESS_MAIN(TestPropertyWords)
+QUORLIN_TEST(TestPropertyWords)
 #include "tst_property_words.moc"

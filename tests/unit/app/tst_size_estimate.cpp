@@ -3,6 +3,7 @@
 #include "platform/imageio/content.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QFileInfo>
 #include <QTest>
@@ -164,5 +165,5 @@ void TestSizeEstimate::answersNothingWithoutAPicture()
     QVERIFY(!window::estimatedFileBytes({}, FileFormat::Bmp, {}));
 }
 
-QTEST_GUILESS_MAIN(TestSizeEstimate)
+QUORLIN_TEST(TestSizeEstimate)
 #include "tst_size_estimate.moc"

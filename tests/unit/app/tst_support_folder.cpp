@@ -6,6 +6,7 @@
 #include "platform/desktop/user_defaults.h"
 #include "presets/Ztbookmarks.h"
 #include "tests/support/own_settings.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -349,5 +350,5 @@ void TestSupportFolder::opensTheSheetWithoutControls()
     QVERIFY(!plain.property("sheet").isValid());
 }
 
-QTEST_GUILESS_MAIN(TestSupportFolder)
+QUORLIN_TEST(TestSupportFolder)
 #include "tst_support_folder.moc"

@@ -1,6 +1,7 @@
 #include "app/window/interface_folder.h"
 #include "app/window/theme.h"
 #include "app/window/ui_form.h"
+#include "tests/support/test_program.h"
 
 #include <QCheckBox>
 #include <QDialog>
@@ -175,5 +176,5 @@ void TestTheme::pressesTheButtonThatHasTheFocus()
     QCOMPARE(pressed, 2);
 }
 
-QTEST_MAIN(TestTheme)
+QUORLIN_GUI_TEST(TestTheme)
 #include "tst_theme.moc"

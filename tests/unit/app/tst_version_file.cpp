@@ -1,6 +1,7 @@
 #include "app/version_file.h"
 
 #include "platform/foundation/raised.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -106,5 +107,5 @@ void TestVersionFile::readsManyFields()
     QCOMPARE(outcomeOf(QStringLiteral("a;2;b;c") + QString(100000, u';'), 1), QStringLiteral("a|b|c"));
 }
 
-QTEST_GUILESS_MAIN(TestVersionFile)
+QUORLIN_TEST(TestVersionFile)
 #include "tst_version_file.moc"

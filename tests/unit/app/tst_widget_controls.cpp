@@ -2,6 +2,7 @@
 #include "app/window/position_pad.h"
 #include "app/window/segmented_control.h"
 #include "app/window/widget_controls.h"
+#include "tests/support/test_program.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -141,5 +142,5 @@ void TheWidgetControls::enablesAndDisables()
     QVERIFY(field.isEnabled());
 }
 
-QTEST_MAIN(TheWidgetControls)
+QUORLIN_GUI_TEST(TheWidgetControls)
 #include "tst_widget_controls.moc"

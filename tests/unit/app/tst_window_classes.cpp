@@ -2,6 +2,7 @@
 #include "app/ZtFFullScreen.h"
 #include "app/mainViewController.h"
 #include "app/mainWindowClass.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -58,5 +59,5 @@ void TestWindowClasses::holdsANumberAndItsModel()
     QCOMPARE(controller.myModelObj()->floatValue(), 2.5);
 }
 
-QTEST_GUILESS_MAIN(TestWindowClasses)
+QUORLIN_TEST(TestWindowClasses)
 #include "tst_window_classes.moc"

@@ -3,6 +3,7 @@
 #include "tests/support/expected_pictures.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -87,5 +88,5 @@ void ConvertAnything::endsWithAPictureOrNothingWhereBytesWereChanged()
     QVERIFY(made > 0);
 }
 
-QTEST_GUILESS_MAIN(ConvertAnything)
+QUORLIN_TEST(ConvertAnything)
 #include "tst_convert_anything.moc"

@@ -5,6 +5,7 @@
 #include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -510,5 +511,5 @@ void TestConvertType::writesPlainTiffsThatOthersRead()
     }
 }
 
-QTEST_GUILESS_MAIN(TestConvertType)
+QUORLIN_TEST(TestConvertType)
 #include "tst_convert_type.moc"

@@ -3,6 +3,7 @@
 #include "platform/foundation/raised.h"
 #include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -258,11 +259,5 @@ void TestFileHandling::opensTheFolderOfTheField()
     QCOMPARE(m_home->read("bin/xdg-open.said"), "file://" + at("my folder").toUtf8().replace(' ', "%20"));
 }
 
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication app(argc, argv);
-    TestFileHandling test;
-    return QTest::qExec(&test, argc, argv);
-}
+QUORLIN_GUI_TEST(TestFileHandling)
 #include "tst_file_handling.moc"

@@ -1,5 +1,6 @@
 #include "files/cToolBox.h"
 #include "files/input_collection.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -327,5 +328,5 @@ void InputCollection::namesItsClassOperations()
     QCOMPARE(meta.constructorCount() > 0, true);
 }
 
-QTEST_GUILESS_MAIN(InputCollection)
+QUORLIN_TEST(InputCollection)
 #include "tst_input_collection.moc"

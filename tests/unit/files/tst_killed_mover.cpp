@@ -4,6 +4,7 @@
 #include "tests/support/scratch_folder.h"
 
 #include "platform/desktop/disk_file_system.h"
+#include "tests/support/test_program.h"
 
 #include <QDirIterator>
 #include <QRandomGenerator>
@@ -212,5 +213,5 @@ void TestKilledMover::leavesEveryFileUnderItsOldOrItsNewName()
     QVERIFY(halfDone > 0 && unfinished > 0);
 }
 
-QTEST_GUILESS_MAIN(TestKilledMover)
+QUORLIN_TEST(TestKilledMover)
 #include "tst_killed_mover.moc"

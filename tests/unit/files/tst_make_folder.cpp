@@ -1,4 +1,5 @@
 #include "files/make_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,5 +32,5 @@ void TestMakeFolder::tellsThreeWaysApart()
     QCOMPARE(makeFolder(QString()), FolderMade::No);
 }
 
-QTEST_GUILESS_MAIN(TestMakeFolder)
+QUORLIN_TEST(TestMakeFolder)
 #include "tst_make_folder.moc"

@@ -4,6 +4,7 @@
 #include "tests/support/scratch_folder.h"
 
 #include "platform/desktop/disk_file_system.h"
+#include "tests/support/test_program.h"
 
 #include <QDirIterator>
 #include <QTest>
@@ -228,5 +229,5 @@ void TestMoveDisk::takesAwayTheBeginningOfACopyInTheTrash()
         QVERIFY2(folder.isThere(stays), stays);
 }
 
-QTEST_GUILESS_MAIN(TestMoveDisk)
+QUORLIN_TEST(TestMoveDisk)
 #include "tst_move_disk.moc"

@@ -3,6 +3,7 @@
 #include "files/move_undo.h"
 #include "tests/support/model_file_system.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -243,5 +244,5 @@ void TestMoveJournal::findsItsWayWhereFoldersGoRound()
     }
 }
 
-QTEST_GUILESS_MAIN(TestMoveJournal)
+QUORLIN_TEST(TestMoveJournal)
 #include "tst_move_journal.moc"

@@ -1,5 +1,6 @@
 #include "files/move_plan.h"
 #include "tests/support/model_file_system.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -253,5 +254,5 @@ void TestMovePlan::plansTenThousandWishesInOneGo()
     QCOMPARE(asides, count - 1);
 }
 
-QTEST_GUILESS_MAIN(TestMovePlan)
+QUORLIN_TEST(TestMovePlan)
 #include "tst_move_plan.moc"

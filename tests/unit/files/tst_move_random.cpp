@@ -2,6 +2,7 @@
 #include "files/move_recovery.h"
 #include "files/move_undo.h"
 #include "tests/support/move_world.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -200,5 +201,5 @@ void TestMoveRandom::endsEveryInterruptedRun()
     QVERIFY(kills > 3'000);
 }
 
-QTEST_GUILESS_MAIN(TestMoveRandom)
+QUORLIN_TEST(TestMoveRandom)
 #include "tst_move_random.moc"

@@ -1,6 +1,7 @@
 #include "files/move_recovery.h"
 #include "files/move_undo.h"
 #include "tests/support/model_file_system.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -487,5 +488,5 @@ void TestMoveRun::readsAJournalThatWasCutShort()
     }
 }
 
-QTEST_GUILESS_MAIN(TestMoveRun)
+QUORLIN_TEST(TestMoveRun)
 #include "tst_move_run.moc"

@@ -1,6 +1,7 @@
 #include "files/placing.h"
 #include "files/rename_by_location.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -275,5 +276,5 @@ void TestPlacing::renamesByLocation()
     QCOMPARE(m_home->read("taken.jpg"), QByteArray("t"));
 }
 
-QTEST_GUILESS_MAIN(TestPlacing)
+QUORLIN_TEST(TestPlacing)
 #include "tst_placing.moc"

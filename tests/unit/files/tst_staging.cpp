@@ -4,6 +4,7 @@
 #include "platform/desktop/user_defaults.h"
 #include "platform/desktop/workspace.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QGuiApplication>
 #include <QTest>
@@ -223,11 +224,5 @@ void TestStaging::runsATool()
     QVERIFY(!m_home->isThere("a.pdf"));
 }
 
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication app(argc, argv);
-    TestStaging test;
-    return QTest::qExec(&test, argc, argv);
-}
+QUORLIN_GUI_TEST(TestStaging)
 #include "tst_staging.moc"

@@ -1,5 +1,6 @@
 #include "files/text_files.h"
 #include "platform/foundation/atomic_file.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -94,5 +95,5 @@ void TestTextFiles::leavesTheOldFileWhereItCannotWrite()
     QCOMPARE(hidden, QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestTextFiles)
+QUORLIN_TEST(TestTextFiles)
 #include "tst_text_files.moc"

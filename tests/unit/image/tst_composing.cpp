@@ -4,6 +4,7 @@
 #include "tests/support/log_capture.h"
 #include "tests/support/sheet_stand_ins.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -369,5 +370,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Composing)
+QUORLIN_TEST(Composing)
 #include "tst_composing.moc"

@@ -1,4 +1,5 @@
 #include "image/crop.h"
+#include "tests/support/test_program.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -408,5 +409,5 @@ void Crop::refusesWhatCannotBeDrawn()
     QVERIFY(!image::drawCropBox(QSize(10000000, 10000000), {rect, 3, 15}));
 }
 
-QTEST_GUILESS_MAIN(Crop)
+QUORLIN_TEST(Crop)
 #include "tst_crop.moc"

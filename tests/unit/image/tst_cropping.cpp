@@ -4,6 +4,7 @@
 #include "tests/support/log_capture.h"
 #include "tests/support/sheet_stand_ins.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -364,5 +365,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Cropping)
+QUORLIN_TEST(Cropping)
 #include "tst_cropping.moc"

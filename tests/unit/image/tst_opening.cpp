@@ -1,6 +1,7 @@
 #include "image/ZtImageHandling.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QMetaProperty>
 #include <QTemporaryDir>
@@ -100,5 +101,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Opening)
+QUORLIN_TEST(Opening)
 #include "tst_opening.moc"

@@ -1,4 +1,5 @@
 #include "image/output.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -70,5 +71,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Output)
+QUORLIN_TEST(Output)
 #include "tst_output.moc"

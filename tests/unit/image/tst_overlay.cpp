@@ -1,5 +1,6 @@
 #include "image/overlay.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -225,5 +226,5 @@ void Overlay::framesNothingForNothing()
     QVERIFY(!image::laidOnPattern(Bitmap::fromImage(pictures::gradient(2, 2)), Bitmap()));
 }
 
-QTEST_GUILESS_MAIN(Overlay)
+QUORLIN_TEST(Overlay)
 #include "tst_overlay.moc"

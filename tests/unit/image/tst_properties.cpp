@@ -2,6 +2,7 @@
 #include "platform/imageio/image_source.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -115,5 +116,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Properties)
+QUORLIN_TEST(Properties)
 #include "tst_properties.moc"

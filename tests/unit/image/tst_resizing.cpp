@@ -2,6 +2,7 @@
 #include "tests/support/corpus.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -313,5 +314,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Resizing)
+QUORLIN_TEST(Resizing)
 #include "tst_resizing.moc"

@@ -3,6 +3,7 @@
 #include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -416,5 +417,5 @@ void RoundCorners::failsWithoutAPicture()
     QVERIFY(!image::roundCorners(Bitmap(), on(shaped(CornerShape::Rectangle), Qt::red)));
 }
 
-QTEST_GUILESS_MAIN(RoundCorners)
+QUORLIN_TEST(RoundCorners)
 #include "tst_round_corners.moc"

@@ -1,4 +1,5 @@
 #include "image/scaled_size.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -112,5 +113,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ScaledSizes)
+QUORLIN_TEST(ScaledSizes)
 #include "tst_scaled_size.moc"

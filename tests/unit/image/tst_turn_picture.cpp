@@ -1,5 +1,6 @@
 #include "image/turn.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -237,5 +238,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TurnPicture)
+QUORLIN_TEST(TurnPicture)
 #include "tst_turn_picture.moc"

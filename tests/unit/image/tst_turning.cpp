@@ -4,6 +4,7 @@
 #include "tests/support/expected_pictures.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -385,5 +386,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Turning)
+QUORLIN_TEST(Turning)
 #include "tst_turning.moc"

@@ -2,6 +2,7 @@
 #include "tests/support/expected_pictures.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -70,5 +71,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TurningCorpus)
+QUORLIN_TEST(TurningCorpus)
 #include "tst_turning_corpus.moc"

@@ -6,6 +6,7 @@
 #include "tests/support/expected_pictures.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -231,5 +232,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(UnitConversion)
+QUORLIN_TEST(UnitConversion)
 #include "tst_unit_conversion.moc"

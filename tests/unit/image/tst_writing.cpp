@@ -1,6 +1,7 @@
 #include "image/ZtImageHandling.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -187,5 +188,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Writing)
+QUORLIN_TEST(Writing)
 #include "tst_writing.moc"

@@ -1,6 +1,7 @@
 #include "meta/mMeta.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QBuffer>
 #include <QRandomGenerator>
@@ -85,5 +86,5 @@ void TestKilledCommentWriter::leavesTheOldFileOrTheNewOne()
     QVERIFY(litter <= kills / 10); // a file has a name of its own for an instant only, unless it is stopped just then
 }
 
-QTEST_GUILESS_MAIN(TestKilledCommentWriter)
+QUORLIN_TEST(TestKilledCommentWriter)
 #include "tst_killed_comment_writer.moc"

@@ -1,6 +1,7 @@
 #include "platform/foundation/atomic_file.h"
 #include "platform/foundation/sign_of_life.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -153,5 +154,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(AtomicFile)
+QUORLIN_TEST(AtomicFile)
 #include "tst_atomic_file.moc"

@@ -1,4 +1,5 @@
 #include "platform/desktop/bookmarks.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -206,5 +207,5 @@ void TestBookmarks::refusesEveryDamagedBookmark()
     QVERIFY(!resolveBookmark(whole + 'x'));
 }
 
-QTEST_GUILESS_MAIN(TestBookmarks)
+QUORLIN_TEST(TestBookmarks)
 #include "tst_bookmarks.moc"

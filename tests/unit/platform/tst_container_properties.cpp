@@ -7,6 +7,7 @@
 #include "tests/support/made_tiff.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include "tests/support/corpus.h"
 
@@ -385,5 +386,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ContainerProperties)
+QUORLIN_TEST(ContainerProperties)
 #include "tst_container_properties.moc"

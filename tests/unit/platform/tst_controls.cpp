@@ -1,5 +1,6 @@
 #include "platform/desktop/controls.h"
 #include "platform/desktop/stand_ins.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -120,5 +121,5 @@ void TestControls::reachesOtherControlsThroughTheirsToo()
     QCOMPARE(widget.property("text").toString(), QStringLiteral("8"));
 }
 
-QTEST_GUILESS_MAIN(TestControls)
+QUORLIN_TEST(TestControls)
 #include "tst_controls.moc"

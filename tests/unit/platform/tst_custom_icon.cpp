@@ -1,5 +1,6 @@
 #include "platform/desktop/custom_icon.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QImage>
 #include <QTest>
@@ -124,5 +125,5 @@ void TestCustomIcon::leavesAFolderThatMayNotBeChanged()
     QCOMPARE(here.names("locked"), QStringList{QStringLiteral("a")});
 }
 
-QTEST_GUILESS_MAIN(TestCustomIcon)
+QUORLIN_TEST(TestCustomIcon)
 #include "tst_custom_icon.moc"

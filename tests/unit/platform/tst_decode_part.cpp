@@ -1,6 +1,7 @@
 #include "platform/imageio/image_source.h"
 #include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -69,5 +70,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DecodePart)
+QUORLIN_TEST(DecodePart)
 #include "tst_decode_part.moc"

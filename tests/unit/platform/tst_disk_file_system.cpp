@@ -2,6 +2,7 @@
 #include "platform/foundation/folders.h"
 #include "platform/foundation/held_file.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -134,5 +135,5 @@ void TestDiskFileSystem::holdsAFileForOneOnly()
     QCOMPARE(opened->readAll().value(), QByteArray("one\ntwo\n"));
 }
 
-QTEST_GUILESS_MAIN(TestDiskFileSystem)
+QUORLIN_TEST(TestDiskFileSystem)
 #include "tst_disk_file_system.moc"

@@ -4,6 +4,7 @@
 #include "tests/support/made_tiff.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QBuffer>
 #include <QProcess>
@@ -174,5 +175,5 @@ void TestEditedPictures::aDirectoryCutAtItsEndIsNotReplaced()
     }
 }
 
-QTEST_GUILESS_MAIN(TestEditedPictures)
+QUORLIN_TEST(TestEditedPictures)
 #include "tst_edited_pictures.moc"

@@ -1,5 +1,6 @@
 #include "platform/foundation/folder_walk.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -288,5 +289,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-QTEST_GUILESS_MAIN(FolderWalk)
+QUORLIN_TEST(FolderWalk)
 #include "tst_folder_walk.moc"

@@ -1,4 +1,5 @@
 #include "platform/foundation/folders.h"
+#include "tests/support/test_program.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -202,5 +203,5 @@ void TestFolders::saysWhenThereIsNothingToCopy()
     QCOMPARE(names("."), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestFolders)
+QUORLIN_TEST(TestFolders)
 #include "tst_folders.moc"

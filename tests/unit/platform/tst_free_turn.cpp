@@ -1,5 +1,6 @@
 #include "platform/graphics/turn.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -122,5 +123,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FreeTurns)
+QUORLIN_TEST(FreeTurns)
 #include "tst_free_turn.moc"

@@ -1,4 +1,5 @@
 #include "platform/foundation/human_texts.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -80,5 +81,5 @@ void TestHumanTexts::writesDatesTheBritishWay()
     QCOMPARE(mediumDateText(date), text);
 }
 
-QTEST_GUILESS_MAIN(TestHumanTexts)
+QUORLIN_TEST(TestHumanTexts)
 #include "tst_human_texts.moc"

@@ -1,6 +1,7 @@
 #include "platform/graphics/icc_profile.h"
 #include "platform/imageio/image_source.h"
 #include "tests/support/expected_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 #include <QtEndian>
@@ -187,5 +188,5 @@ void IccProfiles::knowsThoseOfRealPictures()
     QCOMPARE(isSrgb(source->decode()->iccProfile()), isIt);
 }
 
-QTEST_GUILESS_MAIN(IccProfiles)
+QUORLIN_TEST(IccProfiles)
 #include "tst_icc_profile.moc"

@@ -3,6 +3,7 @@
 #include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -202,5 +203,5 @@ private Q_SLOTS:
     void failsForNoPicture() { QVERIFY(!platform::encodeImage(Bitmap(), FileFormat::Png).has_value()); }
 };
 
-QTEST_GUILESS_MAIN(ImageDestinations)
+QUORLIN_TEST(ImageDestinations)
 #include "tst_image_destination.moc"

@@ -1,6 +1,7 @@
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -250,5 +251,5 @@ void TestJpeg2000::keepsFlatColours()
     }
 }
 
-QTEST_GUILESS_MAIN(TestJpeg2000)
+QUORLIN_TEST(TestJpeg2000)
 #include "tst_jpeg2000.moc"

@@ -3,6 +3,7 @@
 #include "tests/support/expected_pictures.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -130,5 +131,5 @@ void JpegStraight::tellsWhatCannotBeWritten()
     QVERIFY(bmp.error().message.contains(at("nowhere/made.bmp")));
 }
 
-QTEST_GUILESS_MAIN(JpegStraight)
+QUORLIN_TEST(JpegStraight)
 #include "tst_jpeg_straight.moc"

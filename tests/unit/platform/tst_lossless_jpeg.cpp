@@ -4,6 +4,7 @@
 #include "platform/imageio/jpeg_segments.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -262,5 +263,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(LosslessJpeg)
+QUORLIN_TEST(LosslessJpeg)
 #include "tst_lossless_jpeg.moc"

@@ -2,6 +2,7 @@
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/metadata.h"
+#include "tests/support/test_program.h"
 
 #include "tests/support/corpus.h"
 
@@ -494,5 +495,5 @@ void TheMetadata::survivesBrokenFiles()
     }
 }
 
-QTEST_GUILESS_MAIN(TheMetadata)
+QUORLIN_TEST(TheMetadata)
 #include "tst_metadata.moc"

@@ -2,6 +2,7 @@
 #include "platform/imageio/metadata.h"
 #include "tests/support/corpus.h"
 #include "tests/support/same_tags.h"
+#include "tests/support/test_program.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -363,5 +364,5 @@ void MetadataProperties::isEmptyForNothing()
     QCOMPARE(Metadata().writtenInto(smallJpeg()).value(), smallJpeg());
 }
 
-QTEST_GUILESS_MAIN(MetadataProperties)
+QUORLIN_TEST(MetadataProperties)
 #include "tst_metadata_properties.moc"

@@ -1,5 +1,6 @@
 #include "platform/foundation/folders.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QDateTime>
 #include <QTest>
@@ -234,5 +235,5 @@ void TestMoving::takesNoPathWithANullCharacter()
     QCOMPARE(m_home->names(), QStringList{QStringLiteral("a")});
 }
 
-QTEST_GUILESS_MAIN(TestMoving)
+QUORLIN_TEST(TestMoving)
 #include "tst_moving.moc"

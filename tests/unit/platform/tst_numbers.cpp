@@ -1,4 +1,5 @@
 #include "platform/foundation/numbers.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -89,5 +90,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Numbers)
+QUORLIN_TEST(Numbers)
 #include "tst_numbers.moc"

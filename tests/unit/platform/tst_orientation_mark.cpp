@@ -3,6 +3,7 @@
 #include "platform/imageio/orientation_mark.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -100,6 +101,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOrientationMark)
+QUORLIN_TEST(TestOrientationMark)
 
 #include "tst_orientation_mark.moc"

@@ -1,4 +1,5 @@
 #include "platform/foundation/paths.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -39,5 +40,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Paths)
+QUORLIN_TEST(Paths)
 #include "tst_paths.moc"

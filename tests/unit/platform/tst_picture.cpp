@@ -1,6 +1,7 @@
 #include "platform/graphics/picture.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -148,5 +149,5 @@ void TestPicture::isEqualToWhatSharesItsPixels()
     QVERIFY(!(Picture::opened(path("a.png")) == Picture::opened(path("a.png"))));
 }
 
-QTEST_GUILESS_MAIN(TestPicture)
+QUORLIN_TEST(TestPicture)
 #include "tst_picture.moc"

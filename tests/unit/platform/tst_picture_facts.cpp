@@ -3,6 +3,7 @@
 #include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QBuffer>
 #include <QDirIterator>
@@ -320,5 +321,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PictureFactsTest)
+QUORLIN_TEST(PictureFactsTest)
 #include "tst_picture_facts.moc"

@@ -1,5 +1,6 @@
 #include "platform/foundation/plist.h"
 #include "platform/foundation/plist_check.h"
+#include "tests/support/test_program.h"
 
 #include "tests/support/corpus.h"
 
@@ -309,5 +310,5 @@ void TestPlist::survivesDamage()
     }
 }
 
-QTEST_GUILESS_MAIN(TestPlist)
+QUORLIN_TEST(TestPlist)
 #include "tst_plist.moc"

@@ -1,4 +1,5 @@
 #include "platform/desktop/strings_tables.h"
+#include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -176,5 +177,5 @@ void TestStringsTables::survivesDamagedTables()
              QStringLiteral("default"));
 }
 
-QTEST_GUILESS_MAIN(TestStringsTables)
+QUORLIN_TEST(TestStringsTables)
 #include "tst_strings_tables.moc"

@@ -1,5 +1,6 @@
 #include "platform/desktop/tags.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -67,5 +68,5 @@ void TestTags::failsWhereNothingIsThere()
     QCOMPARE(platform::tagsOf(m_folder.path("missing")), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestTags)
+QUORLIN_TEST(TestTags)
 #include "tst_tags.moc"

@@ -1,6 +1,7 @@
 #include "platform/desktop/trash.h"
 #include "tests/support/corpus.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
 
 #include <QDateTime>
 #include <QTest>
@@ -277,5 +278,5 @@ void TestTrash::copiesIntoTheTrashWhereAFileSystemHasNone()
     QCOMPARE(other.names(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestTrash)
+QUORLIN_TEST(TestTrash)
 #include "tst_trash.moc"

@@ -3,6 +3,7 @@
 #include "platform/imageio/image_source.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -395,5 +396,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TurnBitmap)
+QUORLIN_TEST(TurnBitmap)
 #include "tst_turn_bitmap.moc"

@@ -1,4 +1,5 @@
 #include "platform/foundation/type_identifiers.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -56,5 +57,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TypeIdentifiers)
+QUORLIN_TEST(TypeIdentifiers)
 #include "tst_type_identifiers.moc"

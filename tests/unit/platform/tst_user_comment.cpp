@@ -1,4 +1,5 @@
 #include "platform/imageio/user_comment.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -124,5 +125,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(UserComment)
+QUORLIN_TEST(UserComment)
 #include "tst_user_comment.moc"

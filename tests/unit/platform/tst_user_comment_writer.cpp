@@ -4,6 +4,7 @@
 #include "tests/support/made_tiff.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -371,5 +372,5 @@ void TestUserCommentWriter::tellsAnUnreadableCommentFromNone()
         QVERIFY(!platform::readUserComment(folder.path("a.jpg")));
 }
 
-QTEST_GUILESS_MAIN(TestUserCommentWriter)
+QUORLIN_TEST(TestUserCommentWriter)
 #include "tst_user_comment_writer.moc"

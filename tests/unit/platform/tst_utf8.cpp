@@ -1,4 +1,5 @@
 #include "platform/foundation/utf8.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -60,5 +61,5 @@ void TestUtf8::refusesInvalidBytes()
     QVERIFY(!platform::textFromUtf8("good " + bytes + " good"));
 }
 
-QTEST_GUILESS_MAIN(TestUtf8)
+QUORLIN_TEST(TestUtf8)
 #include "tst_utf8.moc"

@@ -6,6 +6,7 @@
 #include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QBuffer>
 #include <QProcess>
@@ -264,5 +265,5 @@ void TestWholePicture::factsAndMetadataAgreeAboutRawFiles()
     QCOMPARE(platform::pictureFacts(real).camera, QStringLiteral("Panasonic DMC-LX3"));
 }
 
-QTEST_GUILESS_MAIN(TestWholePicture)
+QUORLIN_TEST(TestWholePicture)
 #include "tst_whole_picture.moc"

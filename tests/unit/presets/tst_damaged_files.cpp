@@ -3,6 +3,7 @@
 #include "presets/unusable_database.h"
 #include "tests/support/preset_store.h"
 #include "tests/support/raised_text.h"
+#include "tests/support/test_program.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -386,5 +387,5 @@ void TestDamagedFiles::leavesADatabaseThatIsBeingMade()
     QVERIFY(QFileInfo(path).size() > 0);
 }
 
-QTEST_GUILESS_MAIN(TestDamagedFiles)
+QUORLIN_TEST(TestDamagedFiles)
 #include "tst_damaged_files.moc"

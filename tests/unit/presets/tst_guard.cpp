@@ -2,6 +2,7 @@
 #include "presets/dbViewController.h"
 #include "presets/layout.h"
 #include "tests/support/preset_store.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -174,5 +175,5 @@ void TestGuard::refusesATableThatCallsAFunction()
     m_store.sql("DROP TABLE Calling");
 }
 
-QTEST_GUILESS_MAIN(TestGuard)
+QUORLIN_TEST(TestGuard)
 #include "tst_guard.moc"

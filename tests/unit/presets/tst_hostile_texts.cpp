@@ -3,6 +3,7 @@
 #include "tests/support/log_capture.h"
 #include "tests/support/preset_store.h"
 #include "tests/support/raised_text.h"
+#include "tests/support/test_program.h"
 
 #include <QDate>
 #include <QTest>
@@ -520,5 +521,5 @@ void TestHostileTexts::firesNoTriggerOfOthers()
              QStringLiteral("1 1").split(u' '));
 }
 
-QTEST_GUILESS_MAIN(TestHostileTexts)
+QUORLIN_TEST(TestHostileTexts)
 #include "tst_hostile_texts.moc"

@@ -2,6 +2,7 @@
 #include "presets/layout.h"
 #include "tests/support/preset_store.h"
 #include "tests/support/raised_text.h"
+#include "tests/support/test_program.h"
 
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -98,5 +99,5 @@ void TestKilledWriter::leavesASoundFileWhileItIsSeeded()
     }
 }
 
-QTEST_GUILESS_MAIN(TestKilledWriter)
+QUORLIN_TEST(TestKilledWriter)
 #include "tst_killed_writer.moc"

@@ -3,6 +3,7 @@
 #include "presets/statements.h"
 #include "tests/support/preset_store.h"
 #include "tests/support/raised_text.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -234,5 +235,5 @@ void TestStatementTrace::leavesOlderConnectionsOpen()
     QCOMPARE(events().count(closed), 6);
 }
 
-QTEST_GUILESS_MAIN(TestStatementTrace)
+QUORLIN_TEST(TestStatementTrace)
 #include "tst_statement_trace.moc"

@@ -1,6 +1,7 @@
 #include "presets/layout.h"
 #include "presets/names.h"
 #include "presets/statements.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -243,5 +244,5 @@ void TestStatements::isNotSoundWithAQuoteOrANul()
     }
 }
 
-QTEST_GUILESS_MAIN(TestStatements)
+QUORLIN_TEST(TestStatements)
 #include "tst_statements.moc"

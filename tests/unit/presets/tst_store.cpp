@@ -2,6 +2,7 @@
 #include "presets/layout.h"
 #include "tests/support/preset_store.h"
 #include "tests/support/raised_text.h"
+#include "tests/support/test_program.h"
 
 #include <QFileInfo>
 #include <QTest>
@@ -537,5 +538,5 @@ void TestStore::parksAValue()
     QVERIFY(!QFileInfo::exists(m_store->folder()));
 }
 
-QTEST_GUILESS_MAIN(TestStore)
+QUORLIN_TEST(TestStore)
 #include "tst_store.moc"

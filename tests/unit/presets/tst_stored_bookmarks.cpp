@@ -3,6 +3,7 @@
 #include "presets/layout.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/preset_store.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 #include <QUrl>
@@ -293,5 +294,5 @@ void TestStoredBookmarks::keepsAPictureUnderAUrlThatCannotBeAskedFor()
     QVERIFY(m_db->LoadImagesFromSql(QStringLiteral("it's")).isNull());
 }
 
-QTEST_GUILESS_MAIN(TestStoredBookmarks)
+QUORLIN_TEST(TestStoredBookmarks)
 #include "tst_stored_bookmarks.moc"

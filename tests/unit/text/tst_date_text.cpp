@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "text/date_text.h"
 
 #include <QTest>
@@ -47,5 +48,5 @@ void TestDateText::writesNothingForNoDate()
     QVERIFY(text::dateText(QDateTime(), QLocale(), QTimeZone::utc()).isNull());
 }
 
-QTEST_GUILESS_MAIN(TestDateText)
+QUORLIN_TEST(TestDateText)
 #include "tst_date_text.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "text/encodings.h"
 #include "text/searching.h"
 
@@ -106,5 +107,5 @@ void TestEncodings::cutsNamesIntoPieces()
     }
 }
 
-QTEST_GUILESS_MAIN(TestEncodings)
+QUORLIN_TEST(TestEncodings)
 #include "tst_encodings.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "text/letter_case.h"
 
 #include "tests/support/corpus_names.h"
@@ -100,5 +101,5 @@ void TestLetterCase::agreesWithTheCorpus()
     }
 }
 
-QTEST_GUILESS_MAIN(TestLetterCase)
+QUORLIN_TEST(TestLetterCase)
 #include "tst_letter_case.moc"

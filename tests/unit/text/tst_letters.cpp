@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "text/ascii_folding.h"
 #include "text/letters.h"
 
@@ -109,5 +110,5 @@ void TestLetters::foldsHalvesOfPairsToQuestionMarks()
     QCOMPARE(text::onlyLetters(halves, text::Kept::Letters), QStringLiteral("a"));
 }
 
-QTEST_GUILESS_MAIN(TestLetters)
+QUORLIN_TEST(TestLetters)
 #include "tst_letters.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/test_program.h"
 #include "text/ranges.h"
 
 #include "tests/support/corpus_names.h"
@@ -140,5 +141,5 @@ void TestRanges::putsNamesTogetherAgain()
     }
 }
 
-QTEST_GUILESS_MAIN(TestRanges)
+QUORLIN_TEST(TestRanges)
 #include "tst_ranges.moc"

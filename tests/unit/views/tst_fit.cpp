@@ -1,4 +1,5 @@
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 #include "views/bounds_text.h"
 #include "views/fit.h"
 
@@ -289,5 +290,5 @@ void TestFit::readsSizesLeniently()
     QCOMPARE(views::sizeOfText(text), size);
 }
 
-QTEST_GUILESS_MAIN(TestFit)
+QUORLIN_TEST(TestFit)
 #include "tst_fit.moc"

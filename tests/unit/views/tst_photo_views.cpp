@@ -1,6 +1,7 @@
 #include "platform/desktop/user_defaults.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
 #include "views/bounds_text.h"
 #include "views/my2ndPhotoView.h"
 #include "views/myMainPhotoView.h"
@@ -500,5 +501,5 @@ void TestPhotoViews::decodesNoMoreThanTheViewNeeds()
     QVERIFY(original.isDecoded());
 }
 
-QTEST_GUILESS_MAIN(TestPhotoViews)
+QUORLIN_TEST(TestPhotoViews)
 #include "tst_photo_views.moc"
