@@ -11,7 +11,12 @@ QString interfaceFolder()
     const QString said = qEnvironmentVariable("QUORLIN_INTERFACE");
     if (!said.isEmpty())
         return QDir(said).absolutePath();
-    const QDir program(QCoreApplication::applicationDirPath());
+    return interfaceFolderOf(QCoreApplication::applicationDirPath());
+}
+
+QString interfaceFolderOf(const QString &programFolder)
+{
+    const QDir program(programFolder);
     const QString installed = QDir::cleanPath(program.filePath(QStringLiteral("../share/quorlin/interface")));
     if (QFileInfo::exists(installed + QStringLiteral("/main.js")))
         return installed;

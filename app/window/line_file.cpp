@@ -3,6 +3,7 @@
 #include "platform/foundation/atomic_file.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -30,7 +31,9 @@ qsizetype startOfLast(const QByteArray &text, int count)
 platform::Result<void> appendLines(const QString &path, const QByteArray &lines)
 {
     QFile file(path);
-    if (file.open(QIODevice::ReadWrite | QIODevice::Append)) {
+    // Whoever writes into a named pipe waits for a reader.
+    const bool isFile = !QFileInfo::exists(path) || QFileInfo(path).isFile();
+    if (isFile && file.open(QIODevice::ReadWrite | QIODevice::Append)) {
         // In one piece, so that two programs that write at once do not mix their lines.
         const QByteArray bytes = endsInTheMiddleOfALine(file) ? '\n' + lines : lines;
         if (file.write(bytes) == bytes.size() && file.flush())

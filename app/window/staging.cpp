@@ -127,7 +127,7 @@ QString makeStaging(const QString &folder)
     constexpr int attempts = 100;
     for (int i = 0; i < attempts; ++i) {
         const QString path = QStringLiteral("%1/%2%3-%4-%5")
-                                 .arg(QDir::cleanPath(folder), prefix, machineMark())
+                                 .arg(platform::withoutTrailingSlashes(folder), prefix, machineMark())
                                  .arg(QCoreApplication::applicationPid())
                                  .arg(++count);
         const QByteArray name = QFile::encodeName(path);
@@ -164,7 +164,7 @@ void sweepStagings(const QString &folder)
     const QStringList found =
         dir.entryList({prefix + QLatin1Char('*')}, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks);
     for (const QString &name : found) {
-        const QByteArray path = QFile::encodeName(dir.absoluteFilePath(name));
+        const QByteArray path = QFile::encodeName(dir.filePath(name));
         const int descriptor = openOwn(path);
         if (descriptor < 0)
             continue;

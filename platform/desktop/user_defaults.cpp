@@ -29,17 +29,22 @@ std::function<void()> &teller()
     return tell;
 }
 
-/** Remembers a change if the file did not take it, and says so the first time. */
-void keepIfUnwritten(QSettings &file, const QString &key, const QVariant &value)
+/** Writes a change with all that could not be written before it; what is still not taken is said the first time. */
+void write(const QString &key, const QVariant &value)
 {
     static bool isSaid = false;
+    unwritten().insert(key, value);
+    QSettings file = settings();
+    for (auto change = unwritten().cbegin(); change != unwritten().cend(); ++change) {
+        if (change.value().isValid())
+            file.setValue(change.key(), settingToText(change.value()));
+        else
+            file.remove(change.key());
+    }
     file.sync();
     if (file.status() == QSettings::NoError) {
-        unwritten().remove(key);
-        return;
-    }
-    unwritten().insert(key, value);
-    if (!isSaid && teller()) {
+        unwritten().clear();
+    } else if (!isSaid && teller()) {
         isSaid = true;
         teller()();
     }
@@ -55,16 +60,12 @@ QVariant userDefault(const QString &key)
 
 void setUserDefault(const QString &key, const QVariant &value)
 {
-    QSettings file = settings();
-    file.setValue(key, settingToText(value));
-    keepIfUnwritten(file, key, value);
+    write(key, value);
 }
 
 void removeUserDefault(const QString &key)
 {
-    QSettings file = settings();
-    file.remove(key);
-    keepIfUnwritten(file, key, QVariant());
+    write(key, QVariant());
 }
 
 bool areUserDefaultsKept()

@@ -3,7 +3,10 @@
 
 #include "app/window/side_bar.h"
 
+#include "platform/desktop/panels.h"
+#include "platform/desktop/user_defaults.h"
 #include "platform/imageio/image_source.h"
+#include "tests/support/own_settings.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -19,6 +22,8 @@
 #include <QSplitter>
 #include <QTest>
 #include <QTimer>
+
+#include <tuple>
 
 using window::PictureModel;
 
@@ -36,6 +41,21 @@ QSize sizeOf(const QString &path)
     const auto source = platform::ImageSource::open(path);
     return source ? source->uprightSize() : QSize();
 }
+
+/** Notes which types a panel offers, and cancels it. */
+class AskedTypes : public platform::PanelProvider
+{
+public:
+    explicit AskedTypes(std::optional<QStringList> &types) : m_types(types) {}
+    platform::PanelAnswer run(const platform::PanelRequest &request) override
+    {
+        m_types = request.types;
+        return {};
+    }
+
+private:
+    std::optional<QStringList> &m_types;
+};
 
 } // namespace
 
@@ -156,6 +176,72 @@ private Q_SLOTS:
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         QCOMPARE(sizeOf(path("a.jpg")), QSize(100, 75));
         QCOMPARE(namesIn(m_pictures), QStringList{QStringLiteral("a.jpg")});
+    }
+
+    void knowsTheFolderOfTheOriginalsByAnyPath_data()
+    {
+        QTest::addColumn<QString>("spelling");
+        QTest::newRow("symbolic link") << QStringLiteral("/link");
+        QTest::newRow("dots") << QStringLiteral("/in/../in/.");
+        QTest::newRow("dots behind a link") << QStringLiteral("/link/../in");
+    }
+
+    void knowsTheFolderOfTheOriginalsByAnyPath()
+    {
+        QFETCH(QString, spelling);
+        picture("a.jpg", 400, 300);
+        const QByteArray before = digestOf(path("a.jpg"));
+        QVERIFY(QFile::link(m_pictures, m_driver->folder() + QStringLiteral("/link")));
+        WindowDriver::answerPanels({m_driver->folder() + spelling});
+        m_driver->drop({m_pictures});
+        m_driver->choose("destination", QStringLiteral("choose"));
+        m_driver->choose("ifTaken", QStringLiteral("replace"));
+        m_driver->control<QDoubleSpinBox>("value")->setValue(100);
+        auto *start = m_driver->control<QAbstractButton>("startButton");
+        QVERIFY(m_driver->waitFor([start] { return start->text().contains(QLatin1String("Replace 1 Original")); }));
+        WindowDriver::answerNextQuestion(QStringLiteral("Cancel"));
+        m_driver->click("startButton");
+        QVERIFY(!m_driver->waitForSummary().isEmpty());
+        QCOMPARE(digestOf(path("a.jpg")), before);
+        m_driver->click("dismissButton");
+        WindowDriver::answerNextQuestion(QStringLiteral("Replace"));
+        m_driver->click("startButton");
+        QVERIFY(!m_driver->waitForSummary().isEmpty());
+        QCOMPARE(sizeOf(path("a.jpg")), QSize(100, 75));
+        QCOMPARE(namesIn(m_pictures), QStringList{QStringLiteral("a.jpg")});
+    }
+
+    void offersInThePanelWhatTheActionTakes()
+    {
+        std::optional<QStringList> offered;
+        for (const auto &[action, extension, other] :
+             {std::tuple("resize", "bmp", "heic"), std::tuple("convert", "heic", "txt"),
+              std::tuple("sort", "nef", "txt")}) {
+            m_driver->show(action);
+            platform::setPanelProvider(std::make_unique<AskedTypes>(offered));
+            m_driver->trigger("addPicturesAction");
+            QVERIFY2(offered, action);
+            QVERIFY2(offered->contains(QLatin1String(extension)), action);
+            QVERIFY2(!offered->contains(QLatin1String(other)), action);
+        }
+        m_driver->show("rename");
+        m_driver->trigger("addPicturesAction");
+        QVERIFY(!offered);
+    }
+
+    /** The folder of the settings is a file, so that nobody could write them. */
+    void saysThatSettingsCannotBeWrittenAndGoesOn()
+    {
+        const QString home = m_driver->folder();
+        file("settings", "in the way");
+        keepSettingsIn(path("settings"));
+        m_driver->control<QAction>("fillAction")->trigger();
+        QVERIFY(m_driver->waitFor(
+            [this] { return m_driver->text("statusText").contains(QLatin1String("Settings cannot")); }));
+        QVERIFY(platform::userDefault(QStringLiteral("Preview")).toString().contains(QLatin1String("true")));
+        keepSettingsIn(home + QStringLiteral("/.config"));
+        m_driver->control<QAction>("fitAction")->trigger();
+        QVERIFY(platform::areUserDefaultsKept());
     }
 
     void asksAboutATakenNameOnceForAll()

@@ -16,8 +16,11 @@
 
 #include <filesystem>
 
+#include <csignal>
+
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using window::FileDesk;
@@ -63,6 +66,7 @@ private Q_SLOTS:
     void writesIntoItsFolderAlsoWhenALinkTakesItsPlace();
     void sweepsWhatNobodyHolds();
     void leavesFoldersOfOthersAlone();
+    void sweepsWhatAKilledProcessLeft();
     void collectsInNaturalOrderFilesFirst();
     void collectsWhatIsHardToReach();
     void tellsWhatItLeavesOut();
@@ -208,6 +212,26 @@ void TestFileDesk::leavesFoldersOfOthersAlone()
     QVERIFY(QDir(m_folder.path()).mkdir(foreign) && ::chown(qPrintable(foreign), 12345, 12345) == 0);
     window::sweepStagings(m_folder.path());
     QVERIFY(QDir(foreign).exists());
+}
+
+void TestFileDesk::sweepsWhatAKilledProcessLeft()
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        QFile file(window::makeStaging(m_folder.path()) + text("a.jpg"));
+        (void)(file.open(QIODevice::WriteOnly) && file.write("half") > 0 && file.flush());
+        ::kill(::getpid(), SIGSTOP);
+        ::_exit(0);
+    }
+    int status = 0;
+    QVERIFY(child > 0 && ::waitpid(child, &status, WUNTRACED) == child && WIFSTOPPED(status));
+    QCOMPARE(names().size(), 1);
+    window::sweepStagings(m_folder.path());
+    QCOMPARE(names().size(), 1); // it lives
+    ::kill(child, SIGKILL);
+    QCOMPARE(::waitpid(child, &status, 0), child);
+    window::sweepStagings(m_folder.path());
+    QCOMPARE(names(), QStringList());
 }
 
 void TestFileDesk::collectsInNaturalOrderFilesFirst()

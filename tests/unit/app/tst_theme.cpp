@@ -64,6 +64,7 @@ private Q_SLOTS:
     void readsItsFilesFromAnyFolder_data();
     void readsItsFilesFromAnyFolder();
     void staysLegibleWithoutItsFiles();
+    void looksForScriptsWhereItIsInstalled();
     void pressesTheButtonThatHasTheFocus_data();
     void pressesTheButtonThatHasTheFocus();
 };
@@ -143,6 +144,19 @@ void TestTheme::staysLegibleWithoutItsFiles()
     QVERIFY2(contrast > 100, qPrintable(QString::number(contrast)));
     QVERIFY(palette.color(QPalette::Window) != QColor(Qt::magenta));
     QVERIFY(window::Theme::color(QStringLiteral("text")) != QColor(Qt::magenta));
+}
+
+/** Only a program within its build runs the scripts of the source: elsewhere somebody else may have made that folder. */
+void TestTheme::looksForScriptsWhereItIsInstalled()
+{
+    QCOMPARE(window::interfaceFolderOf(m_folder.filePath(QStringLiteral("bin"))),
+             m_folder.filePath(QStringLiteral("share/quorlin/interface")));
+    QVERIFY(
+        QFile::exists(window::interfaceFolderOf(QCoreApplication::applicationDirPath()) + QStringLiteral("/main.js")));
+    QVERIFY(QDir().mkpath(m_folder.filePath(QStringLiteral("share/quorlin/interface"))));
+    QVERIFY(QFile(m_folder.filePath(QStringLiteral("share/quorlin/interface/main.js"))).open(QIODevice::WriteOnly));
+    QCOMPARE(window::interfaceFolderOf(m_folder.filePath(QStringLiteral("bin"))),
+             m_folder.filePath(QStringLiteral("share/quorlin/interface")));
 }
 
 void TestTheme::pressesTheButtonThatHasTheFocus_data()
