@@ -92,7 +92,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QSize>("size");
-        for (const char *language : {"nl", "de", "fr", "qq"})
+        QTest::addRow("qq 1280") << QStringLiteral("qq") << small;
+        if (!tests::isSlowRun()) // the made language is wider than the real ones
+            return;
+        for (const char *language : {"nl", "de", "fr"})
             QTest::addRow("%s 1280", language) << QString::fromLatin1(language) << small;
         QTest::addRow("qq 1440") << QStringLiteral("qq") << large;
     }
