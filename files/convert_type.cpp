@@ -31,13 +31,6 @@ constexpr std::array<Keyword, 7> keywords = {{
     {QLatin1String("jp2"), TargetType::Jpeg2000},
 }};
 
-Result<Bitmap> pixelsOf(const ImageSource &source, platform::Orientation orientation)
-{
-    platform::DecodeOptions options;
-    options.orientation = orientation;
-    return source.decode(options);
-}
-
 platform::EncodeOptions withResolution()
 {
     platform::EncodeOptions options;
@@ -54,8 +47,10 @@ Metadata metadataForStoredPixels(const ImageSource &source)
 Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, const Metadata &metadata,
                                   const QString &destination)
 {
+    const platform::Forms forms =
+        format == FileFormat::Tiff ? platform::Forms::AsTiffHolds : platform::Forms::Plain;
     const Result<QByteArray> plain =
-        pixelsOf(source, platform::Orientation::AsStored).and_then([format](const Bitmap &bitmap) {
+        source.decode({0, platform::Orientation::AsStored, forms}).and_then([format](const Bitmap &bitmap) {
             return platform::encodeImage(bitmap, format, withResolution());
         });
     if (!plain)
@@ -68,7 +63,7 @@ Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, 
 
 Result<void> writePixels(const ImageSource &source, FileFormat format, const Conversion &conversion)
 {
-    return pixelsOf(source, platform::Orientation::Upright).and_then([&](const Bitmap &bitmap) {
+    return source.decode().and_then([&](const Bitmap &bitmap) {
         platform::EncodeOptions options = withResolution();
         options.lossyQuality = conversion.quality;
         return platform::writeImageFile(conversion.destination, bitmap, format, options);

@@ -71,6 +71,7 @@ BitmapHandle ZtImageHandling::hStringToCGImageRef(const QString &path)
         return {};
     platform::DecodeOptions asStored;
     asStored.orientation = platform::Orientation::AsStored;
+    asStored.forms = platform::Forms::AsTiffHolds; // what it will be written as shows later
     const Result<Bitmap> bitmap = source ? source->decode(asStored) : Result<Bitmap>(Bitmap());
     if (imageRefVariable.isNull())
         imageRefVariable = BitmapHandle(Bitmap());
@@ -125,7 +126,7 @@ QString ZtImageHandling::resizeImage(const QString &path, quint32 number, quint3
         myScaleFactor = size->scaleFactor.value_or(myScaleFactor);
     }
     return writeDrawn({image::outputBase(prefix, path), myFileType, qualityCode},
-                      image::resized(imageCIImage, QSize(newImgW, newImgH)));
+                      image::resized(imageCIImage, QSize(newImgW, newImgH), image::formsFor(myFileType)));
 }
 
 QString ZtImageHandling::resizeImage2(const QString &path, quint32 width, quint32 height, int mode,
@@ -138,14 +139,14 @@ QString ZtImageHandling::resizeImage2(const QString &path, quint32 width, quint3
     const QSize box = QSize(qint32(width), qint32(height));
     constexpr int fillAndCut = 1;
     if (mode != fillAndCut)
-        return writeDrawn(target, image::resized(imageCIImage, box));
+        return writeDrawn(target, image::resized(imageCIImage, box, image::formsFor(myFileType)));
     const QSizeF extent = imageCIImage.uprightSize();
     const image::FilledBox filled = image::filledBox(width, height, extent.width(), extent.height());
     newImgW = filled.drawn.width;
     newImgH = filled.drawn.height;
     myXWOffset = filled.offset.x();
     myYHOffset = filled.offset.y();
-    return writeDrawn(target, image::resizedAndCut(imageCIImage, QSize(newImgW, newImgH), QRect(filled.offset, box)));
+    return writeDrawn(target, image::resizedAndCut(imageCIImage, QSize(newImgW, newImgH), QRect(filled.offset, box), image::formsFor(myFileType)));
 }
 
 QString ZtImageHandling::writeDrawn(const Target &target, const Result<Bitmap> &drawn)

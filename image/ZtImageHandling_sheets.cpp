@@ -94,7 +94,7 @@ QString ZtImageHandling::cropImage(const QString &path, int width, int height, c
     openUpright(path);
     const image::CropRect rect = readCrop(QSize(width, height), image::CropSpace::TopLeft);
     const QRect part = image::visiblePart(rect, imageCIImage.uprightSize());
-    const Result<Bitmap> kept = imageCIImage.decodePart(part);
+    const Result<Bitmap> kept = imageCIImage.decodePart(part, image::formsFor(myFileType));
     // A source that cannot be read is answered without a word; where nothing of a good one is left, the writer tells it.
     if (!kept && (imageCIImage.isNull() || !part.isEmpty()))
         return image::statusFailed();

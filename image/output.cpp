@@ -60,6 +60,12 @@ bool isNeverWritten(const QString &typeIdentifier)
            typeIdentifier == QLatin1String("com.adobe.pdf");
 }
 
+platform::Forms formsFor(const QString &typeIdentifier)
+{
+    const bool isTiff = typeIdentifier == QLatin1String("public.tiff");
+    return isTiff ? platform::Forms::AsTiffHolds : platform::Forms::Plain;
+}
+
 QString extensionForType(const QString &typeIdentifier)
 {
     for (const TypeExtension &entry : typeExtensions)

@@ -21,6 +21,9 @@ bool keepsSourceType(const QVariant &requestedType);
 /** Types that are recognised and never written. */
 bool isNeverWritten(const QString &typeIdentifier);
 
+/** The forms of pixels that a type can hold. */
+platform::Forms formsFor(const QString &typeIdentifier);
+
 /** ".png" for "public.png" and so on; empty for a type that is not written. */
 QString extensionForType(const QString &typeIdentifier);
 

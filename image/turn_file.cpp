@@ -72,6 +72,7 @@ QString turnFile(const QString &sourcePath, const QString &targetPath, const QSt
             return writeAnswering(targetPath, *file);
     platform::DecodeOptions asStored;
     asStored.orientation = platform::Orientation::AsStored;
+    asStored.forms = formsFor(type);
     Result<Bitmap> stored = source->decode(asStored);
     if (!stored)
         return noImage();

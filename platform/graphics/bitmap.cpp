@@ -50,8 +50,8 @@ bool isRgbOrGreyOfIntegers(const VImage &image)
 {
     const bool isInteger = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT;
     const VipsInterpretation space = image.interpretation();
-    return isInteger && space != VIPS_INTERPRETATION_CMYK && space != VIPS_INTERPRETATION_LAB &&
-           space != VIPS_INTERPRETATION_LABS;
+    return isInteger && otherBands(image) == 0 && space != VIPS_INTERPRETATION_CMYK &&
+           space != VIPS_INTERPRETATION_LAB;
 }
 
 /** RGB or grey of 8 or 16 bits with nothing converted that is one already. */
@@ -59,7 +59,7 @@ VImage asRgbOrGrey(const VImage &image)
 {
     if (isRgbOrGreyOfIntegers(image))
         return image;
-    return with8Bits(convertedToSrgb(image));
+    return with8Bits(convertedToSrgb(inForm(image)));
 }
 
 } // namespace
@@ -112,7 +112,7 @@ int Bitmap::bandCount() const
 
 bool Bitmap::hasAlpha() const
 {
-    return m_pixels && m_pixels->image.has_alpha();
+    return m_pixels && hasTransparency(m_pixels->image);
 }
 
 int Bitmap::bitsPerComponent() const
@@ -167,7 +167,7 @@ QImage Bitmap::toScreenImage() const
     if (!m_pixels)
         return {};
     try {
-        return qImageFrom(with8Bits(convertedToSrgb(m_pixels->image)));
+        return qImageFrom(with8Bits(convertedToSrgb(inForm(m_pixels->image))));
     } catch (const vips::VError &error) {
         takeVipsError(error);
         return toRawImage();

@@ -17,6 +17,17 @@ namespace platform {
 
 enum class ColorModel { Gray, Rgb, Cmyk, Lab };
 
+/** Which forms the pixels of a picture may have. */
+enum class Forms {
+    /** Grey or RGB, with or without transparency, or CMYK without; 8 or 16 bits. */
+    Plain,
+    /**
+     * Also Lab and floating point, transparency with all of them, and channels of any other meaning behind these. No other
+     * type than TIFF holds them, so they are for what goes from TIFF to TIFF.
+     */
+    AsTiffHolds,
+};
+
 /** How a JPEG was quantised, so that a new JPEG of the same picture can be written without a second loss of its own. */
 struct JpegQuantisation
 {

@@ -233,7 +233,7 @@ int drawRegion(VipsRegion *region, void *, void *jobAddress, void *, gboolean *)
 
 template<typename Component> VipsGenerateFn drawerFor(const VImage &picture)
 {
-    if (picture.has_alpha())
+    if (hasTransparency(picture))
         return drawRegion<Component, SeenMixer<Component>>;
     return drawRegion<Component, OpaqueMixer<Component>>;
 }
@@ -258,21 +258,14 @@ bool isDrawnAsItIs(VipsBandFormat format)
            format == VIPS_FORMAT_FLOAT;
 }
 
-float opaqueOf(const VImage &image)
-{
-    const bool is16 =
-        image.interpretation() == VIPS_INTERPRETATION_GREY16 || image.interpretation() == VIPS_INTERPRETATION_RGB16;
-    return is16 ? 65535 : 255;
-}
-
 } // namespace
 
 VImage turnedFreely(const VImage &image, const FreeTurn &turn)
 {
     const VipsBandFormat format = image.format();
     const VImage picture = (isDrawnAsItIs(format) ? image : image.cast(VIPS_FORMAT_FLOAT)).copy_memory();
-    const bool addsAlpha = turn.surroundings == Surroundings::Transparent && !picture.has_alpha();
-    Job job = {picture, Placement(picture, turn), addsAlpha, addsAlpha || picture.has_alpha(), opaqueOf(picture)};
+    const bool addsAlpha = turn.surroundings == Surroundings::Transparent && !hasTransparency(picture);
+    Job job = {picture, Placement(picture, turn), addsAlpha, addsAlpha || hasTransparency(picture), float(opaqueValue(picture))};
     const VImage canvas(vips_image_new());
     VipsImage *out = canvas.get_image();
     if (vips_image_pipelinev(out, VIPS_DEMAND_STYLE_SMALLTILE, picture.get_image(), nullptr) != 0)

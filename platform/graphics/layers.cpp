@@ -156,6 +156,7 @@ bool isGrey(const QColor &color)
 
 VImage colorImage(const QColor &color)
 {
+    initVips();
     const QRgba64 parts = color.rgba64();
     std::array<quint16, 3> pixel = {parts.red(), parts.green(), parts.blue()};
     const int bands = isGrey(color) ? 1 : 3;
@@ -167,24 +168,9 @@ VImage colorImage(const QColor &color)
 
 VImage composable(const VImage &image, bool needsColors)
 {
-    const bool isInteger = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT;
-    VImage plain = image;
-    switch (image.interpretation()) {
-    case VIPS_INTERPRETATION_CMYK:
-    case VIPS_INTERPRETATION_LAB:
-    case VIPS_INTERPRETATION_LABS:
-    case VIPS_INTERPRETATION_scRGB:
-        plain = convertedToSrgb(image);
-        break;
-    default:
-        if (needsColors && isColorless(image) && isInteger)
-            plain = convertedToSrgb(image);
-    }
-    if (plain.format() != VIPS_FORMAT_UCHAR && plain.format() != VIPS_FORMAT_USHORT)
-        plain = with8Bits(plain);
-    constexpr int mostBands = 4;
-    if (plain.bands() > mostBands)
-        plain = plain.extract_band(0, VImage::option()->set("n", mostBands));
+    VImage plain = inForm(image);
+    if (plain.interpretation() == VIPS_INTERPRETATION_CMYK || (needsColors && isColorless(plain)))
+        plain = convertedToSrgb(plain);
     if (needsColors && isColorless(plain))
         plain = plain.colourspace(isDeep(plain) ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB);
     return plain.copy_memory();

@@ -30,7 +30,6 @@ bool profileFits(const VImage &image)
     case VIPS_INTERPRETATION_CMYK:
         return space == "CMYK";
     case VIPS_INTERPRETATION_LAB:
-    case VIPS_INTERPRETATION_LABS:
         return space == "Lab ";
     default:
         return space == "RGB ";
@@ -56,7 +55,7 @@ void dropMetadata(VImage &image)
     const bool keepProfile = profileFits(image);
     gchar **fields = vips_image_get_fields(image.get_image());
     for (gchar **field = fields; field && *field; ++field) {
-        if (keepProfile && std::strcmp(*field, profileField) == 0)
+        if ((keepProfile && std::strcmp(*field, profileField) == 0) || isFormField(*field))
             continue;
         vips_image_remove(image.get_image(), *field);
     }
@@ -100,32 +99,6 @@ VImage inMemory(const VImage &image)
     return computed;
 }
 
-VImage withKnownInterpretation(const VImage &image)
-{
-    VImage plain = image.coding() == VIPS_CODING_NONE ? image : image.colourspace(VIPS_INTERPRETATION_LAB);
-    switch (plain.interpretation()) {
-    case VIPS_INTERPRETATION_B_W:
-    case VIPS_INTERPRETATION_GREY16:
-    case VIPS_INTERPRETATION_sRGB:
-    case VIPS_INTERPRETATION_RGB16:
-    case VIPS_INTERPRETATION_CMYK:
-    case VIPS_INTERPRETATION_LAB:
-    case VIPS_INTERPRETATION_LABS:
-    case VIPS_INTERPRETATION_scRGB:
-        return plain;
-    case VIPS_INTERPRETATION_RGB:
-        return plain.copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
-    default:
-        break;
-    }
-    if (plain.bands() >= 3 && plain.interpretation() != VIPS_INTERPRETATION_MULTIBAND)
-        return plain.colourspace(VIPS_INTERPRETATION_sRGB);
-    const bool is16 = plain.format() == VIPS_FORMAT_USHORT;
-    const VipsInterpretation grey = is16 ? VIPS_INTERPRETATION_GREY16 : VIPS_INTERPRETATION_B_W;
-    const VipsInterpretation rgb = is16 ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB;
-    return plain.copy(VImage::option()->set("interpretation", plain.bands() < 3 ? grey : rgb));
-}
-
 double dotsPerInch(double dotsPerMetre)
 {
     constexpr double metresPerInch = 0.0254;
@@ -150,7 +123,7 @@ int bytesPerComponent(const VImage &image)
 
 VImage bareImage(const VImage &image)
 {
-    VImage bare = withKnownInterpretation(image).copy();
+    VImage bare = inForm(image, Forms::AsTiffHolds).copy();
     dropMetadata(bare);
     return bare;
 }
@@ -184,26 +157,43 @@ VImage turnedUpright(const VImage &image, int orientation)
     }
 }
 
+static VImage resized(const VImage &image, double horizontal, double vertical)
+{
+    // Box pre-shrinking (the gap) is only for shrinks so strong that the full filter would cost too much.
+    constexpr double strongestPureShrink = 8;
+    const bool isPure = std::min(horizontal, vertical) >= 1.0 / strongestPureShrink;
+    return image.resize(
+        horizontal,
+        VImage::option()->set("vscale", vertical)->set("kernel", VIPS_KERNEL_LANCZOS3)->set("gap", isPure ? 0.0 : 2.0));
+}
+
+/** Pixels that cannot be seen lend no colour to those that can. */
+static VImage resizedByTransparency(const VImage &image, double horizontal, double vertical)
+{
+    const double opaque = opaqueValue(image);
+    const VImage source = image.premultiply(VImage::option()->set("max_alpha", opaque));
+    const VImage scaled =
+        resized(source, horizontal, vertical).unpremultiply(VImage::option()->set("max_alpha", opaque));
+    return image.format() == VIPS_FORMAT_FLOAT ? scaled : scaled.rint().cast(image.format());
+}
+
 VImage scaledTo(const VImage &image, QSize size)
 {
     if (image.width() == size.width() && image.height() == size.height())
         return image;
     const double horizontal = double(size.width()) / image.width();
     const double vertical = double(size.height()) / image.height();
-    // Box pre-shrinking (the gap) is only for shrinks so strong that the full filter would cost too much.
-    constexpr double strongestPureShrink = 8;
-    const bool isPure = std::min(horizontal, vertical) >= 1.0 / strongestPureShrink;
-    const bool hasAlpha = vips_image_hasalpha(image.get_image());
-    const VipsBandFormat format = image.format();
-    const VImage source = hasAlpha ? image.premultiply() : image;
-    VImage scaled = source.resize(
-        horizontal,
-        VImage::option()->set("vscale", vertical)->set("kernel", VIPS_KERNEL_LANCZOS3)->set("gap", isPure ? 0.0 : 2.0));
-    if (hasAlpha)
-        scaled = scaled.unpremultiply().rint().cast(format);
+    const int others = otherBands(image);
+    const int seen = image.bands() - others;
+    const VImage picture = others == 0 ? image : image.extract_band(0, VImage::option()->set("n", seen));
+    VImage scaled = hasTransparency(image) ? resizedByTransparency(picture, horizontal, vertical)
+                                           : resized(picture, horizontal, vertical);
+    if (others > 0)
+        scaled = scaled.bandjoin(
+            resized(image.extract_band(seen, VImage::option()->set("n", others)), horizontal, vertical));
     if (scaled.width() != size.width() || scaled.height() != size.height())
         throw vips::VError("the picture could not be scaled to its exact size");
-    return scaled;
+    return scaled.copy(VImage::option()->set("interpretation", image.interpretation()));
 }
 
 static bool isIntegerRgb(const VImage &image)
@@ -234,30 +224,17 @@ VImage convertedToSrgb(const VImage &image)
         converted.remove(profileField);
         return converted;
     }
-    switch (image.interpretation()) {
-    case VIPS_INTERPRETATION_LAB:
-    case VIPS_INTERPRETATION_LABS:
-    case VIPS_INTERPRETATION_scRGB:
-        return image.colourspace(VIPS_INTERPRETATION_sRGB);
-    default:
-        return image;
-    }
+    return image;
 }
 
 VImage with8Bits(const VImage &image)
 {
-    if (image.format() == VIPS_FORMAT_UCHAR)
-        return image;
-    const bool isGrey = image.bands() < 3;
-    if (image.format() == VIPS_FORMAT_USHORT) {
-        return image.cast(VIPS_FORMAT_UCHAR, VImage::option()->set("shift", true))
-            .copy(VImage::option()->set("interpretation", isGrey ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB));
-    }
-    return image.colourspace(isGrey ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB).cast(VIPS_FORMAT_UCHAR);
+    return image.format() == VIPS_FORMAT_USHORT ? roundedTo8Bits(image) : image;
 }
 
 VImage imageFromQImage(const QImage &image)
 {
+    initVips();
     const bool is16 = image.depth() > 32 || image.format() == QImage::Format_Grayscale16;
     const bool isGrey = image.isGrayscale() && !image.hasAlphaChannel();
     QImage::Format format = QImage::Format_RGB888;
@@ -292,6 +269,9 @@ VImage imageFromQImage(const QImage &image)
 QImage qImageFrom(const VImage &image)
 {
     const bool is16 = image.format() == VIPS_FORMAT_USHORT;
+    constexpr int mostBands = 4;
+    if (image.bands() > mostBands)
+        throw vips::VError("the picture has more channels than can be shown");
     VImage layered = image;
     if (image.bands() == 2)
         layered = image.extract_band(0)

@@ -3,6 +3,7 @@
 // Private to the platform: what a Bitmap is made of. Not to be included from any other room.
 
 #include "platform/graphics/bitmap.h"
+#include "platform/graphics/pixel_forms.h"
 
 #include <vips/vips8>
 
@@ -27,7 +28,10 @@ struct Bitmap::Pixels
     std::optional<JpegQuantisation> quantisation;
 };
 
-/** Makes the library ready for use; cheap when it is. Every entry of the platform that uses it calls this first. */
+/**
+ * Makes the library ready for use; cheap when it is. Whatever makes an image where there was none calls this first, and so
+ * does what clears the library's errors: before its start even that ends the process.
+ */
 void initVips();
 
 /** The text of a caught library error, and an empty error buffer for the next operation. */
@@ -46,10 +50,7 @@ QByteArray iccProfileOf(const vips::VImage &image);
 /** Bytes per component of an image's band format. */
 int bytesPerComponent(const vips::VImage &image);
 
-/** The image with an interpretation that fits its bands and format, where the file named none that can be worked in. */
-vips::VImage withKnownInterpretation(const vips::VImage &image);
-
-/** The image in the form that bitmaps have, still to be computed: a known interpretation, no metadata but a profile that fits. */
+/** The image in a form that bitmaps have, still to be computed: see inForm(); no metadata but a profile that fits. */
 vips::VImage bareImage(const vips::VImage &image);
 
 /** An image of any kind with pixels pulled into memory, metadata dropped but for a profile that fits its colours. */
@@ -63,18 +64,18 @@ vips::VImage turnedUpright(const vips::VImage &image, int orientation);
 vips::VImage scaledTo(const vips::VImage &image, QSize size);
 
 /**
- * An image in sRGB: converted from its profile, or from CMYK or Lab. RGB and grey without a profile stay as they are, and so
- * do the pixels where the profile means sRGB, whatever its name; see isSrgb().
+ * An image in a plain form in sRGB: converted from its profile, or from CMYK. RGB and grey without a profile stay as they are,
+ * and so do the pixels where the profile means sRGB, whatever its name; see isSrgb().
  */
 vips::VImage convertedToSrgb(const vips::VImage &image);
 
-/** An image with 8 bit components, from 16 bit or floating point ones. */
+/** An image in a plain form with 8 bits a component. */
 vips::VImage with8Bits(const vips::VImage &image);
 
 /** RGB, RGBA, grey or grey and alpha pixels of a Qt image as an image that owns a copy of them. */
 vips::VImage imageFromQImage(const QImage &image);
 
-/** A Qt image with 8 or 16 bits from an RGB, RGBA or grey image; null if memory fails. */
+/** A Qt image with 8 or 16 bits from an image of grey or RGB in a plain form; null if memory fails. */
 QImage qImageFrom(const vips::VImage &image);
 
 } // namespace platform

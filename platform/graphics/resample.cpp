@@ -21,19 +21,6 @@ qint64 memoryBudgetBytes()
     return budget;
 }
 
-double opaqueAlpha(VipsInterpretation space)
-{
-    switch (space) {
-    case VIPS_INTERPRETATION_RGB16:
-    case VIPS_INTERPRETATION_GREY16:
-        return 65535;
-    case VIPS_INTERPRETATION_scRGB:
-        return 1;
-    default:
-        return 255;
-    }
-}
-
 tl::unexpected<Error> impossible(QSize size)
 {
     return failure(ErrorCode::TooLarge,
@@ -110,8 +97,8 @@ Result<Bitmap> placed(const Bitmap &bitmap, QPoint place, QSize size)
     if (!fitsMemoryBudget(size.width(), size.height(), pixels.image.bands() + 1, bytesPerComponent(pixels.image)))
         return impossible(size);
     try {
-        const double opaque = opaqueAlpha(pixels.image.interpretation());
-        const vips::VImage layer = part.hasAlpha() ? pixels.image : pixels.image.bandjoin_const({opaque});
+        const vips::VImage plain = inForm(pixels.image);
+        const vips::VImage layer = hasTransparency(plain) ? plain : plain.bandjoin_const({opaqueValue(plain)});
         const QPoint corner(std::max(0, place.x()), std::max(0, place.y()));
         return bitmapFromImage(layer.embed(corner.x(), corner.y(), size.width(), size.height()), pixels.resolution,
                                pixels.quantisation);

@@ -112,7 +112,9 @@ Result<Bitmap> turned(const Bitmap &bitmap, const FreeTurn &turn)
     if (!std::isfinite(turn.degrees) || !std::isfinite(turn.centre.x()) || !std::isfinite(turn.centre.y()))
         return failure(ErrorCode::InvalidValue,
                        QCoreApplication::translate("platform", "A picture cannot be turned by that angle"));
-    const VImage &image = bitmap.pixels().image;
+    VImage image = bitmap.pixels().image;
+    if (otherBands(image) > 0)
+        image = inForm(image); // where they belong is not known outside of the picture
     if (!fitsMemoryBudget(turn.canvas.width(), turn.canvas.height(), image.bands() + 1, bytesPerComponent(image)))
         return failure(ErrorCode::TooLarge,
                        QCoreApplication::translate("platform", "No picture of %1 x %2 pixels can be made")

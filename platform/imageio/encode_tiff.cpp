@@ -11,6 +11,8 @@ namespace {
 enum class Type : quint16 { Short = 3, Long = 4, Fraction = 5, Undefined = 7 };
 
 constexpr int rowsPerStrip = 128;
+/** What offsets of 32 bits surely reach. */
+constexpr quint64 mostBytes = quint64(std::numeric_limits<qint32>::max());
 
 template<typename T> void append(QByteArray &bytes, T number)
 {
@@ -125,22 +127,52 @@ ColourModel modelOf(const vips::VImage &image)
     constexpr ColourModel minIsBlack = {1, 1};
     constexpr ColourModel rgb = {2, 3};
     constexpr ColourModel separated = {5, 4};
-    if (image.interpretation() == VIPS_INTERPRETATION_CMYK)
+    constexpr ColourModel lab = {8, 3};
+    switch (image.interpretation()) {
+    case VIPS_INTERPRETATION_CMYK:
         return separated;
-    return image.bands() < rgb.colours ? minIsBlack : rgb;
+    case VIPS_INTERPRETATION_LAB:
+        return lab;
+    case VIPS_INTERPRETATION_B_W:
+    case VIPS_INTERPRETATION_GREY16:
+        return minIsBlack;
+    default:
+        return rgb;
+    }
+}
+
+/** Lab as the format has it: whole numbers, the two colours with a sign; @p image is in floating point. */
+vips::VImage storedLab(const vips::VImage &image)
+{
+    const bool isDeep = isDeepLab(image);
+    const VipsBandFormat format = isDeep ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR;
+    const VipsBandFormat withSign = isDeep ? VIPS_FORMAT_SHORT : VIPS_FORMAT_CHAR;
+    constexpr double lightest = 100;
+    const double most = isDeep ? 65535 : 255;
+    const auto stored = [&](int band, double scale, VipsBandFormat as) {
+        return image.extract_band(band)
+            .linear(scale, 0.0)
+            .rint()
+            .cast(as)
+            .copy(vips::VImage::option()->set("format", format));
+    };
+    vips::VImage result = stored(0, most / lightest, format);
+    for (int band = 1; band < image.bands(); ++band)
+        result = result.bandjoin(band < 3 ? stored(band, isDeep ? 256 : 1, withSign) : stored(band, most / 255, format));
+    return result.copy(vips::VImage::option()->set("interpretation", VIPS_INTERPRETATION_LAB));
 }
 
 } // namespace
 
 bool isPlainTiff(const vips::VImage &image)
 {
-    constexpr quint64 mostBytes = quint64(std::numeric_limits<qint32>::max());
-    const bool isWhole = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT;
+    const bool isHeld = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT ||
+                        image.format() == VIPS_FORMAT_FLOAT;
     const VipsInterpretation space = image.interpretation();
     const bool isKnown = space == VIPS_INTERPRETATION_sRGB || space == VIPS_INTERPRETATION_RGB16 ||
-                         space == VIPS_INTERPRETATION_B_W || space == VIPS_INTERPRETATION_GREY16 ||
-                         space == VIPS_INTERPRETATION_CMYK;
-    return isWhole && isKnown && image.bands() <= 5 && VIPS_IMAGE_SIZEOF_IMAGE(image.get_image()) < mostBytes;
+                         space == VIPS_INTERPRETATION_scRGB || space == VIPS_INTERPRETATION_B_W ||
+                         space == VIPS_INTERPRETATION_GREY16 || space == VIPS_INTERPRETATION_CMYK;
+    return isHeld && isKnown && VIPS_IMAGE_SIZEOF_IMAGE(image.get_image()) < mostBytes;
 }
 
 FileEnds plainTiffEnds(const vips::VImage &image, Resolution resolution, qint64 tailAt)
@@ -166,18 +198,23 @@ FileEnds plainTiffEnds(const vips::VImage &image, Resolution resolution, qint64 
     directory.add(0x0128, 2); // inches
     QList<quint16> others(image.bands() - model.colours, 0);
     if (!others.isEmpty()) {
-        others.first() = 2; // transparency, not multiplied
+        others.first() = others.size() > otherBands(image) ? 2 : 0; // 2: transparency, not multiplied
         directory.addShorts(0x0152, others);
     }
+    if (image.format() == VIPS_FORMAT_FLOAT)
+        directory.addShorts(0x0153, QList<quint16>(image.bands(), 3));
     addProfile(directory, image);
     return directory.finished();
 }
 
 QByteArray encodePlainTiff(const vips::VImage &image, Resolution resolution)
 {
-    if (!isPlainTiff(image))
+    const bool isLab = image.interpretation() == VIPS_INTERPRETATION_LAB && image.format() == VIPS_FORMAT_FLOAT;
+    if (!isLab && !isPlainTiff(image))
         return {};
-    const vips::VImage pixels = inMemory(image);
+    const vips::VImage pixels = inMemory(isLab ? storedLab(image) : image);
+    if (VIPS_IMAGE_SIZEOF_IMAGE(pixels.get_image()) > mostBytes)
+        return {};
     const auto size = qsizetype(VIPS_IMAGE_SIZEOF_IMAGE(pixels.get_image()));
     const FileEnds ends = plainTiffEnds(pixels, resolution, plainTiffHeadBytes + size);
     QByteArray file;

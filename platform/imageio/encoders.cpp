@@ -49,7 +49,7 @@ FormatAbilities abilitiesOf(FileFormat format)
     case FileFormat::Png:
         return {.profile = true, .alpha = true, .deep = true};
     case FileFormat::Tiff:
-        return {.profile = true, .alpha = true, .deep = true, .cmyk = true, .lab = true, .floatingPoint = true};
+        return {.profile = true, .alpha = true, .deep = true, .cmyk = true, .anyForm = true};
     case FileFormat::Jpeg:
         return {.profile = true, .cmyk = true};
     case FileFormat::Jpeg2000:
@@ -64,22 +64,17 @@ FormatAbilities abilitiesOf(FileFormat format)
 
 VImage preparedFor(const FormatAbilities &abilities, const VImage &image)
 {
-    const VipsInterpretation space = image.interpretation();
-    const bool isCmyk = space == VIPS_INTERPRETATION_CMYK;
-    const bool isLab = space == VIPS_INTERPRETATION_LAB || space == VIPS_INTERPRETATION_LABS;
-    const bool isFloat = image.format() != VIPS_FORMAT_UCHAR && image.format() != VIPS_FORMAT_USHORT && !isLab;
-    const bool hasProfile = image.get_typeof(VIPS_META_ICC_NAME) != 0;
-    VImage result = image;
-    if ((isCmyk && !abilities.cmyk) || (isLab && !abilities.lab) || (hasProfile && !abilities.profile) ||
-        (isFloat && !abilities.floatingPoint))
+    if (abilities.anyForm)
+        return image;
+    VImage result = inForm(image);
+    const bool isCmyk = result.interpretation() == VIPS_INTERPRETATION_CMYK;
+    const bool hasProfile = result.get_typeof(VIPS_META_ICC_NAME) != 0;
+    if ((isCmyk && !abilities.cmyk) || (hasProfile && !abilities.profile))
         result = convertedToSrgb(result);
-    const bool isDeep = result.format() != VIPS_FORMAT_UCHAR;
-    if (isDeep && !abilities.deep)
+    if (!abilities.deep)
         result = with8Bits(result);
-    if (result.has_alpha() && !abilities.alpha) {
-        const double opaque = result.format() == VIPS_FORMAT_USHORT ? 65535 : 255;
-        result = result.flatten(VImage::option()->set("max_alpha", opaque));
-    }
+    if (hasTransparency(result) && !abilities.alpha)
+        result = result.flatten(VImage::option()->set("max_alpha", opaqueValue(result)));
     return result;
 }
 
@@ -87,11 +82,11 @@ QByteArray encodeTiff(const VImage &image, Resolution resolution)
 {
     if (const QByteArray plain = encodePlainTiff(image, resolution); !plain.isEmpty())
         return plain;
-    // Lab is worked on in floating point; files that others can read keep it in 8 bits.
-    const VImage kept = image.interpretation() == VIPS_INTERPRETATION_LAB ? image.Lab2LabQ() : image;
+    const VImage kept = image.interpretation() == VIPS_INTERPRETATION_LAB ? inForm(image) : image;
     return bytesOf(withResolution(kept, resolution)
                        .tiffsave_buffer(VImage::option()
                                             ->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_NONE)
+                                            ->set("bigtiff", true)
                                             ->set("resunit", VIPS_FOREIGN_TIFF_RESUNIT_INCH)));
 }
 

@@ -15,8 +15,7 @@ struct FormatAbilities
     bool alpha = false;
     bool deep = false; ///< 16 bits per component
     bool cmyk = false;
-    bool lab = false;
-    bool floatingPoint = false;
+    bool anyForm = false; ///< Lab, floating point and channels of other meanings too
 };
 
 FormatAbilities abilitiesOf(FileFormat format);
@@ -38,10 +37,10 @@ Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &set
 /** These throw vips::VError. */
 QByteArray encodePng(const vips::VImage &image, Resolution resolution);
 QByteArray encodeTiff(const vips::VImage &image, Resolution resolution);
-/** As encodeTiff(), for grey, RGB and CMYK of 8 or 16 bits only, which it does without any detour; empty for others. */
+/** As encodeTiff(), for what is small enough for offsets of 32 bits, which it does without any detour; empty for others. */
 QByteArray encodePlainTiff(const vips::VImage &image, Resolution resolution);
 
-/** Grey, RGB or CMYK of 8 or 16 bits, and small enough for offsets of 32 bits. */
+/** Grey, RGB or CMYK of 8 or 16 bits or in floating point, and small enough for offsets of 32 bits. */
 bool isPlainTiff(const vips::VImage &image);
 
 /**

@@ -37,6 +37,12 @@ tl::unexpected<Error> tooLarge(const QString &name, QSize size)
                                             .arg(size.height()));
 }
 
+/** The picture in the form that is asked for; only TIFF files hold others than the plain ones. */
+VImage openedInForm(const File &file, const LoadOptions &options, Forms forms)
+{
+    return inForm(openImage(file.bytes, file.content, options), file.content == Content::Tiff ? forms : Forms::Plain);
+}
+
 bool isWithinBudget(const VImage &image)
 {
     return fitsMemoryBudget(image.width(), image.height(), image.bands(), bytesPerComponent(image));
@@ -284,7 +290,7 @@ Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const
         initVips();
         LoadOptions load;
         load.page = options.index;
-        VImage image = openImage(m_file->bytes, m_file->content, load);
+        VImage image = openedInForm(*m_file, load, options.forms);
         if (!isWithinBudget(image))
             return tooLarge(m_file->name(), QSize(image.width(), image.height()));
         if (options.orientation == Orientation::Upright && m_file->orientation > 1)
@@ -295,17 +301,17 @@ Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const
     }
 }
 
-Result<Bitmap> ImageSource::decodePart(const QRect &part) const
+Result<Bitmap> ImageSource::decodePart(const QRect &part, Forms forms) const
 {
     const QRect whole(QPoint(0, 0), uprightSize());
     const QRect kept = part.intersected(whole);
     if (!m_file || kept.isEmpty())
         return failure(ErrorCode::InvalidValue, text("There is nothing of the picture in that part"));
     if (kept == whole)
-        return decode();
+        return decode({.forms = forms});
     try {
         initVips();
-        const VImage image = openImage(m_file->bytes, m_file->content);
+        const VImage image = openedInForm(*m_file, {}, forms);
         const QRect stored = storedPart(kept, QSize(image.width(), image.height()), m_file->orientation);
         const VImage rows = image.extract_area(stored.x(), stored.y(), stored.width(), stored.height());
         if (m_file->orientation <= 1)
@@ -316,17 +322,17 @@ Result<Bitmap> ImageSource::decodePart(const QRect &part) const
     }
 }
 
-Result<Bitmap> ImageSource::decodeScaled(QSize size) const
+Result<Bitmap> ImageSource::decodeScaled(QSize size, Forms forms) const
 {
-    return decodeFor(size, Scaling::Exact);
+    return decodeFor(size, Scaling::Exact, forms);
 }
 
 Result<Bitmap> ImageSource::decodeAtLeast(QSize size) const
 {
-    return decodeFor(size, Scaling::AtLeast);
+    return decodeFor(size, Scaling::AtLeast, Forms::Plain);
 }
 
-Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling) const
+Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) const
 {
     if (!m_file)
         return failure(ErrorCode::InvalidValue, text("There is no picture to scale"));
@@ -337,7 +343,7 @@ Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling) const
     try {
         initVips();
         const LoadOptions load = loadOptionsFor(*m_file, wanted);
-        VImage image = withKnownInterpretation(openImage(m_file->bytes, m_file->content, load));
+        VImage image = openedInForm(*m_file, load, forms);
         if (load.jpegShrink > 1)
             image = withWholeEdges(image, m_file->storedSize, load.jpegShrink);
         if (!fitsMemoryBudget(wanted.width(), wanted.height(), image.bands(), bytesPerComponent(image)))

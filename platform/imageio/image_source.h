@@ -18,6 +18,7 @@ struct DecodeOptions
 {
     int index = 0; ///< which image of the file, 0 to imageCount() - 1
     Orientation orientation = Orientation::Upright;
+    Forms forms = Forms::Plain; ///< others than plain ones come of a TIFF only
 };
 
 /**
@@ -70,13 +71,13 @@ public:
      * far as the part reaches, so that memory is needed for the part alone. Fails as decode() does, and with
      * InvalidValue where nothing is left.
      */
-    Result<Bitmap> decodePart(const QRect &part) const;
+    Result<Bitmap> decodePart(const QRect &part, Forms forms = Forms::Plain) const;
 
     /**
      * Image 0, upright, at exactly @p size pixels: the cheapest decode that is at least that large, then a
      * resampling as resample() has it. Fails as decode() does, and with InvalidValue or TooLarge for the size.
      */
-    Result<Bitmap> decodeScaled(QSize size) const;
+    Result<Bitmap> decodeScaled(QSize size, Forms forms = Forms::Plain) const;
 
     /** As decodeScaled(), left at the size that the decoder gives; less than @p size only where the picture is. */
     Result<Bitmap> decodeAtLeast(QSize size) const;
@@ -125,7 +126,7 @@ public:
 private:
     enum class Scaling { Exact, AtLeast };
     explicit ImageSource(std::shared_ptr<const File> file) : m_file(std::move(file)) {}
-    Result<Bitmap> decodeFor(QSize size, Scaling scaling) const;
+    Result<Bitmap> decodeFor(QSize size, Scaling scaling, Forms forms) const;
     std::shared_ptr<const File> m_file;
 };
 

@@ -99,7 +99,7 @@ Result<bool> isDone(const Result<void> &written)
 
 Result<bool> writeBmp(const ImageSource::File &file, const QString &path)
 {
-    const VImage shape = bareImage(openImage(file.bytes, file.content));
+    const VImage shape = bareImage(inForm(openImage(file.bytes, file.content)));
     const QByteArray profile = iccProfileOf(shape);
     if (!isOfBytes(shape) || (!profile.isEmpty() && !isSrgb(profile)))
         return false;
@@ -114,7 +114,7 @@ Result<bool> writeBmp(const ImageSource::File &file, const QString &path)
 
 Result<bool> writeTiff(const ImageSource::File &file, const QString &path, const Metadata &metadata)
 {
-    const VImage shape = bareImage(openImage(file.bytes, file.content));
+    const VImage shape = bareImage(inForm(openImage(file.bytes, file.content)));
     const qint64 pixelBytes = qint64(VIPS_IMAGE_SIZEOF_IMAGE(shape.get_image()));
     if (!isOfBytes(shape) || !isPlainTiff(shape))
         return false;

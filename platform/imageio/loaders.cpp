@@ -3,7 +3,10 @@
 #include "platform/foundation/regular_file.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/bmp_header.h"
+#include "platform/imageio/bmp_pixels.h"
 #include "platform/imageio/jpeg2000_reader.h"
+#include "platform/imageio/photoshop_pixels.h"
+#include "platform/imageio/tiff_samples.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -45,22 +48,6 @@ VImage withOwnProfile(const VImage &image)
     return owner;
 }
 
-/** Reads through Qt; the caller has checked the size the file claims. */
-VImage loadThroughQt(const PictureBytes &source, const char *format)
-{
-    const std::unique_ptr<QIODevice> device = source.device();
-    QImageReader::setAllocationLimit(0); // sizes are checked against a budget of ours
-    QImageReader reader(device.get(), format);
-    const QImage image = reader.read();
-    if (image.isNull())
-        throw vips::VError(reader.errorString().toStdString());
-    constexpr double millimetresPerMetre = 1000;
-    const VImage pixels = imageFromQImage(image).copy(VImage::option()
-                                                          ->set("xres", image.dotsPerMeterX() / millimetresPerMetre)
-                                                          ->set("yres", image.dotsPerMeterY() / millimetresPerMetre));
-    return pixels;
-}
-
 /** The image with a profile that its decoder passes over. */
 VImage withProfile(const VImage &image, const QByteArray &profile)
 {
@@ -71,43 +58,78 @@ VImage withProfile(const VImage &image, const QByteArray &profile)
     return owner;
 }
 
+std::unique_ptr<QIODevice> openedDevice(const PictureBytes &source)
+{
+    std::unique_ptr<QIODevice> device = source.device();
+    if (!device)
+        throw vips::VError("it cannot be opened");
+    return device;
+}
+
 VImage loadBitmapFile(const PictureBytes &source)
 {
-    const std::unique_ptr<QIODevice> device = source.device();
-    return withProfile(loadThroughQt(source, "bmp"), device ? readBmpProfile(*device) : QByteArray());
+    const std::unique_ptr<QIODevice> device = openedDevice(source);
+    const VImage pixels = bmpPixels(*device);
+    return withProfile(pixels, readBmpProfile(*device));
 }
 
-/** The general reader of many formats, for the one that no other reads; the size is known to be in the budget. */
-VImage loadPhotoshop(const PictureBytes &source)
+/**
+ * Some old compressions are read by Qt's decoder only, and in one piece, and so are samples that stand for the logarithm of a
+ * brightness, which it brings to what is seen of them.
+ */
+VImage loadTiffThroughQt(const PictureBytes &source, const vips::VError &reason)
 {
-    const QByteArray bytes = source.all();
-    const std::unique_ptr<VipsBlob, void (*)(VipsBlob *)> blob(
-        vips_blob_copy(bytes.constData(), size_t(bytes.size())),
-        [](VipsBlob *area) { vips_area_unref(VIPS_AREA(area)); });
-    // Its first page is the merged picture, the others are layers.
-    return VImage::magickload_buffer(blob.get(), VImage::option()->set("page", 0));
-}
-
-/** Some old compressions are read by Qt's decoder only, and in one piece. */
-VImage loadOldTiff(const PictureBytes &source, const vips::VError &reason)
-{
-    const std::unique_ptr<QIODevice> device = source.device();
-    const QSize size = QImageReader(device.get(), "tiff").size();
+    const std::unique_ptr<QIODevice> device = openedDevice(source);
+    QImageReader::setAllocationLimit(0); // sizes are checked against a budget of ours
+    QImageReader reader(device.get(), "tiff");
     constexpr int rgba = 4;
-    if (!fitsMemoryBudget(size.width(), size.height(), rgba, 1))
+    if (!fitsMemoryBudget(reader.size().width(), reader.size().height(), rgba, 1))
         throw reason;
     vips_error_clear();
-    return loadThroughQt(source, "tiff");
+    const QImage image = reader.read();
+    if (image.isNull())
+        throw vips::VError(reader.errorString().toStdString());
+    constexpr double millimetresPerMetre = 1000;
+    return imageFromQImage(image).copy(VImage::option()
+                                           ->set("xres", image.dotsPerMeterX() / millimetresPerMetre)
+                                           ->set("yres", image.dotsPerMeterY() / millimetresPerMetre));
+}
+
+/** What the tags of the file say of the bands. */
+SampleFacts factsOf(const TiffSamples &samples, const VImage &image)
+{
+    enum Photometric { MinIsWhite = 0, MinIsBlack = 1, Palette = 3, Separated = 5 };
+    constexpr int rgb = 3;
+    constexpr int cmyk = 4;
+    SampleFacts facts;
+    const bool isGrey = samples.photometric == MinIsWhite || samples.photometric == MinIsBlack;
+    const bool isGreyPalette = samples.photometric == Palette && image.bands() < rgb;
+    if (isGrey || isGreyPalette || image.bands() < rgb)
+        facts.colours = 1;
+    else
+        facts.colours = samples.photometric == Separated && image.bands() >= cmyk ? cmyk : rgb;
+    facts.alpha = SampleFacts::none;
+    for (int other = 0; other < samples.others.size() && facts.alpha == SampleFacts::none; ++other)
+        if (samples.others[other] == 1 || samples.others[other] == 2)
+            facts.alpha = facts.colours + other;
+    if (samples.bits >= 8) // fewer have been brought to the full range
+        facts.bits = samples.bits;
+    return facts;
 }
 
 VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
 {
+    const TiffSamples samples = readTiffSamples(*openedDevice(source), options.page);
+    if (samples.isLogarithmic() && options.page == 0)
+        return loadTiffThroughQt(source, vips::VError("its size is too large"));
     try {
-        return VImage::tiffload_source(sourceOf(source), commonOptions()->set("page", options.page));
+        const VImage image =
+            VImage::tiffload_source(sourceOf(source), commonOptions()->set("page", options.page));
+        return samples.isKnown ? withSampleFacts(image, factsOf(samples, image)) : image;
     } catch (const vips::VError &error) {
         if (options.page > 0)
             throw;
-        return loadOldTiff(source, error);
+        return loadTiffThroughQt(source, error);
     }
 }
 
@@ -139,6 +161,7 @@ QByteArray PictureBytes::all() const
 
 VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options)
 {
+    initVips();
     // What an earlier picture left in the library's one buffer would be told as the reason of this one.
     vips_error_clear();
     switch (content) {
@@ -160,7 +183,7 @@ VImage openImage(const PictureBytes &source, Content content, const LoadOptions 
     case Content::Jpeg2000:
         return loadJpeg2000(source);
     case Content::Photoshop:
-        return loadPhotoshop(source);
+        return photoshopPixels(*openedDevice(source));
     case Content::Pdf:
         return VImage::pdfload_source(sourceOf(source),
                                       commonOptions()->set("page", options.page)->set("scale", options.drawingScale));

@@ -35,7 +35,8 @@ struct LoadOptions
 
 /**
  * Opens image @p options.page of the file for one pass from top to bottom; pixels are decoded as they are pulled, and a
- * damaged or cut picture fails then. Throws vips::VError.
+ * damaged or cut picture fails then. The samples are those of the file, with what is known of them: inForm() makes pixels of
+ * them that can be worked with. Throws vips::VError.
  */
 vips::VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options = {});
 

@@ -65,10 +65,10 @@ QByteArray pageOfPixels(const Bitmap &bitmap, QSizeF points)
 {
     constexpr FormatAbilities abilities = {.profile = true, .alpha = true, .deep = true, .cmyk = true};
     const VImage prepared = inMemory(preparedFor(abilities, bitmap.pixels().image));
-    const int components = prepared.has_alpha() ? prepared.bands() - 1 : prepared.bands();
+    const int components = hasTransparency(prepared) ? prepared.bands() - 1 : prepared.bands();
     PdfFile file;
     const QByteArray space = colourSpace(file, iccProfileOf(prepared), components);
-    if (!prepared.has_alpha()) {
+    if (!hasTransparency(prepared)) {
         file.add(storedPixels(prepared, space));
         return file.finished(points);
     }

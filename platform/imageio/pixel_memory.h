@@ -1,0 +1,49 @@
+#pragma once
+
+// Private to the platform: pixels that a decoder of ours fills row by row.
+
+#include "platform/graphics/pixels.h"
+
+namespace platform {
+
+/** Memory for an image, zeroed, that becomes the image without being copied. */
+class PixelMemory
+{
+public:
+    /** @param format  VIPS_FORMAT_UCHAR or one of the others; throws vips::VError where there is no memory for it. */
+    PixelMemory(QSize size, int bands, VipsBandFormat format)
+        : m_size(size), m_bands(bands), m_format(format),
+          m_rowBytes(size_t(size.width()) * size_t(bands) * size_t(vips_format_sizeof(format))),
+          m_bytes(static_cast<uchar *>(g_try_malloc0(m_rowBytes * size_t(size.height()))))
+    {
+        if (!m_bytes)
+            throw vips::VError("out of memory");
+    }
+    PixelMemory(const PixelMemory &) = delete;
+    PixelMemory &operator=(const PixelMemory &) = delete;
+    ~PixelMemory() { g_free(m_bytes); }
+
+    uchar *row(int y) { return m_bytes + m_rowBytes * size_t(y); }
+    template<typename T> T *rowOf(int y) { return reinterpret_cast<T *>(row(y)); }
+    int bands() const { return m_bands; }
+
+    /** The image, which has the memory from now on. */
+    vips::VImage taken(VipsInterpretation space)
+    {
+        const vips::VImage image =
+            vips::VImage::new_from_memory_steal(m_bytes, m_rowBytes * size_t(m_size.height()), m_size.width(),
+                                                m_size.height(), m_bands, m_format);
+        m_bytes = nullptr;
+        image.get_image()->Type = space;
+        return image;
+    }
+
+private:
+    QSize m_size;
+    int m_bands;
+    VipsBandFormat m_format;
+    size_t m_rowBytes;
+    uchar *m_bytes;
+};
+
+} // namespace platform
