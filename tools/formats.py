@@ -31,6 +31,9 @@ PROMISES = {
     "bmp": {"size": "upright", "depth": NOT, "profile": "srgb", "alpha": "black", "resolution": KEPT, "orientation": "turned",
             "exif": NOT, "gps": NOT, "iptc": NOT, "xmp": NOT},
 }
+# How far the pixels of a target may be off on average, of 255. GIF has 256 colours, and mixes others by dots of these, each of
+# which is off though what is seen of them is not: its bound is measured on photographs and only tells a wrong picture.
+BOUNDS = {"png": 0.5, "tiff": 0.5, "bmp": 0.5, "pdf": 0.5, "jpeg": 3, "jp2": 3, "gif": 12}
 NAMES = {"png": "PNG", "tiff": "TIFF", "pdf": "PDF", "jpeg": "JPEG", "jp2": "JPEG 2000", "gif": "GIF", "bmp": "BMP"}
 # What a source can hold, by the name that exiftool has for its type.
 SOURCES = {

@@ -2,6 +2,7 @@
 
 #include "platform/graphics/icc_profile.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <malloc.h>
@@ -50,6 +51,24 @@ void keepMemoryForNextPicture()
 #endif
 }
 
+/**
+ * True where one of the lines is more than a remark of the JPEG reader about an odd file whose pixels are all there: bytes that
+ * stand between segments, headers and profiles that are not quite as they should be.
+ */
+bool tellsOfDamage(const char *texts)
+{
+    static const QList<QByteArray> remarks = {
+        "extraneous bytes before marker", "Invalid SOS parameters",    "Inconsistent progression sequence",
+        "Unknown Adobe color transform",  "unsupported JFIF revision", "bad ICC marker"};
+    for (const QByteArray &line : QByteArray(texts).split('\n')) {
+        const bool isRemark = std::any_of(remarks.begin(), remarks.end(),
+                                          [&line](const QByteArray &remark) { return line.contains(remark); });
+        if (!line.trimmed().isEmpty() && !(line.startsWith("VipsJpeg:") && isRemark))
+            return true;
+    }
+    return false;
+}
+
 void dropMetadata(VImage &image)
 {
     const bool keepProfile = profileFits(image);
@@ -92,10 +111,9 @@ VImage inMemory(const VImage &image)
 {
     vips_error_clear();
     const VImage computed = image.copy_memory();
-    // Other readers leave texts there about pictures that are good.
-    for (const char *reader : {"vipspng", "jpeg2000"})
-        if (std::strstr(vips_error_buffer(), reader) != nullptr)
-            throw vips::VError(vips_error_buffer());
+    if (tellsOfDamage(vips_error_buffer()))
+        throw vips::VError(vips_error_buffer());
+    vips_error_clear();
     return computed;
 }
 

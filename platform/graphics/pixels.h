@@ -39,8 +39,8 @@ QString takeVipsError(const vips::VError &error);
 
 /**
  * The image with its pixels computed, in memory. Throws where the file behind it is damaged, also where the library
- * itself forgets about it: with several threads at work it has been seen to call a PNG good whose last rows it had
- * failed to read, with nothing but a text in its error buffer to tell.
+ * itself forgets about it: with several threads at work it loses the failure of one of them, leaves what that one should have
+ * computed black and calls the picture good, with nothing but a text in its error buffer to tell.
  */
 vips::VImage inMemory(const vips::VImage &image);
 
