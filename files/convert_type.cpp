@@ -47,8 +47,7 @@ Metadata metadataForStoredPixels(const ImageSource &source)
 Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, const Metadata &metadata,
                                   const QString &destination)
 {
-    const platform::Forms forms =
-        format == FileFormat::Tiff ? platform::Forms::AsTiffHolds : platform::Forms::Plain;
+    const platform::Forms forms = format == FileFormat::Tiff ? platform::Forms::AsTiffHolds : platform::Forms::Plain;
     const Result<QByteArray> plain =
         source.decode({0, platform::Orientation::AsStored, forms}).and_then([format](const Bitmap &bitmap) {
             return platform::encodeImage(bitmap, format, withResolution());

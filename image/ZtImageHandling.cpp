@@ -146,7 +146,8 @@ QString ZtImageHandling::resizeImage2(const QString &path, quint32 width, quint3
     newImgH = filled.drawn.height;
     myXWOffset = filled.offset.x();
     myYHOffset = filled.offset.y();
-    return writeDrawn(target, image::resizedAndCut(imageCIImage, QSize(newImgW, newImgH), QRect(filled.offset, box), image::formsFor(myFileType)));
+    return writeDrawn(target, image::resizedAndCut(imageCIImage, QSize(newImgW, newImgH), QRect(filled.offset, box),
+                                                   image::formsFor(myFileType)));
 }
 
 QString ZtImageHandling::writeDrawn(const Target &target, const Result<Bitmap> &drawn)

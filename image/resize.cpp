@@ -10,9 +10,11 @@ platform::Result<platform::Bitmap> resized(const platform::ImageSource &source, 
 }
 
 platform::Result<platform::Bitmap> resizedAndCut(const platform::ImageSource &source, QSize size, const QRect &kept,
-                                              platform::Forms forms)
+                                                 platform::Forms forms)
 {
-    return resized(source, size, forms).map([&kept](const platform::Bitmap &drawn) { return platform::cut(drawn, kept); });
+    return resized(source, size, forms).map([&kept](const platform::Bitmap &drawn) {
+        return platform::cut(drawn, kept);
+    });
 }
 
 } // namespace image

@@ -9,10 +9,10 @@ namespace image {
 
 /** Image 0 of a file, upright, drawn at exactly @p size pixels. Fails where the picture cannot be read or made. */
 platform::Result<platform::Bitmap> resized(const platform::ImageSource &source, QSize size,
-                                        platform::Forms forms = platform::Forms::Plain);
+                                           platform::Forms forms = platform::Forms::Plain);
 
 /** As resized(), then cut to @p kept. Fails too where nothing of the picture lies in @p kept. */
 platform::Result<platform::Bitmap> resizedAndCut(const platform::ImageSource &source, QSize size, const QRect &kept,
-                                              platform::Forms forms = platform::Forms::Plain);
+                                                 platform::Forms forms = platform::Forms::Plain);
 
 } // namespace image

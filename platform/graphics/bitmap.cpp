@@ -50,8 +50,7 @@ bool isRgbOrGreyOfIntegers(const VImage &image)
 {
     const bool isInteger = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT;
     const VipsInterpretation space = image.interpretation();
-    return isInteger && otherBands(image) == 0 && space != VIPS_INTERPRETATION_CMYK &&
-           space != VIPS_INTERPRETATION_LAB;
+    return isInteger && otherBands(image) == 0 && space != VIPS_INTERPRETATION_CMYK && space != VIPS_INTERPRETATION_LAB;
 }
 
 /** RGB or grey of 8 or 16 bits with nothing converted that is one already. */

@@ -265,7 +265,8 @@ VImage turnedFreely(const VImage &image, const FreeTurn &turn)
     const VipsBandFormat format = image.format();
     const VImage picture = (isDrawnAsItIs(format) ? image : image.cast(VIPS_FORMAT_FLOAT)).copy_memory();
     const bool addsAlpha = turn.surroundings == Surroundings::Transparent && !hasTransparency(picture);
-    Job job = {picture, Placement(picture, turn), addsAlpha, addsAlpha || hasTransparency(picture), float(opaqueValue(picture))};
+    Job job = {picture, Placement(picture, turn), addsAlpha, addsAlpha || hasTransparency(picture),
+               float(opaqueValue(picture))};
     const VImage canvas(vips_image_new());
     VipsImage *out = canvas.get_image();
     if (vips_image_pipelinev(out, VIPS_DEMAND_STYLE_SMALLTILE, picture.get_image(), nullptr) != 0)

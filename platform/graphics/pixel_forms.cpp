@@ -32,8 +32,7 @@ VImage typed(const VImage &image, VipsInterpretation space)
 
 VImage bandsOf(const VImage &image, int first, int count)
 {
-    return first == 0 && count == image.bands() ? image
-                                                : image.extract_band(first, VImage::option()->set("n", count));
+    return first == 0 && count == image.bands() ? image : image.extract_band(first, VImage::option()->set("n", count));
 }
 
 bool isLab(const VImage &image)
@@ -45,6 +44,17 @@ bool isLab(const VImage &image)
 bool isFloat(const VImage &image)
 {
     return image.format() == VIPS_FORMAT_FLOAT || image.format() == VIPS_FORMAT_DOUBLE;
+}
+
+/** The bytes of a file with Lab, which the library would take for ten bits of lightness and so make darker. */
+VImage uncodedLab(const VImage &image)
+{
+    const VImage bytes = image.copy(
+        VImage::option()->set("coding", VIPS_CODING_NONE)->set("interpretation", VIPS_INTERPRETATION_MULTIBAND));
+    const VImage lightness = bytes.extract_band(0).linear(100 / most8, 0.0);
+    const VImage colours =
+        bandsOf(bytes, 1, 2).copy(VImage::option()->set("format", VIPS_FORMAT_CHAR)).cast(VIPS_FORMAT_FLOAT);
+    return typed(lightness.bandjoin(colours), VIPS_INTERPRETATION_LAB);
 }
 
 /** Which bands are what. */
@@ -109,12 +119,13 @@ VImage asPlainLab(const VImage &image)
     if (image.interpretation() == VIPS_INTERPRETATION_LAB && isFloat(image))
         return image;
     const VImage lab = bandsOf(image, 0, colours);
-    const VImage plain = image.interpretation() == VIPS_INTERPRETATION_LABS ? lab.LabS2Lab() : lab.colourspace(VIPS_INTERPRETATION_LAB);
+    const VImage plain =
+        image.interpretation() == VIPS_INTERPRETATION_LABS ? lab.LabS2Lab() : lab.colourspace(VIPS_INTERPRETATION_LAB);
     if (image.bands() == colours)
         return plain;
     // What stands behind the colours is not signed, whatever the library calls it.
-    const VImage others = bandsOf(image, colours, image.bands() - colours)
-                              .copy(VImage::option()->set("format", VIPS_FORMAT_USHORT));
+    const VImage others =
+        bandsOf(image, colours, image.bands() - colours).copy(VImage::option()->set("format", VIPS_FORMAT_USHORT));
     return plain.bandjoin(others.linear(most8 / most16, 0.0));
 }
 
@@ -243,7 +254,7 @@ VImage inForm(const VImage &image, Forms forms)
     if (isInForm(image, forms))
         return image;
     constexpr int inks = 4;
-    const VImage uncoded = image.coding() == VIPS_CODING_NONE ? image : image.colourspace(VIPS_INTERPRETATION_LAB);
+    const VImage uncoded = image.coding() == VIPS_CODING_LABQ ? uncodedLab(image) : image;
     const Bands bands = bandsIn(uncoded);
     if (isLab(uncoded))
         return labInForm(uncoded, bands, forms);

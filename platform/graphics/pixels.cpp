@@ -57,9 +57,9 @@ void keepMemoryForNextPicture()
  */
 bool tellsOfDamage(const char *texts)
 {
-    static const QList<QByteArray> remarks = {
-        "extraneous bytes before marker", "Invalid SOS parameters",    "Inconsistent progression sequence",
-        "Unknown Adobe color transform",  "unsupported JFIF revision", "bad ICC marker"};
+    static const QList<QByteArray> remarks = {"extraneous bytes before marker",    "Invalid SOS parameters",
+                                              "Inconsistent progression sequence", "Unknown Adobe color transform",
+                                              "unsupported JFIF revision",         "bad ICC marker"};
     for (const QByteArray &line : QByteArray(texts).split('\n')) {
         const bool isRemark = std::any_of(remarks.begin(), remarks.end(),
                                           [&line](const QByteArray &remark) { return line.contains(remark); });

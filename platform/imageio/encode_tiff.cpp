@@ -158,7 +158,8 @@ vips::VImage storedLab(const vips::VImage &image)
     };
     vips::VImage result = stored(0, most / lightest, format);
     for (int band = 1; band < image.bands(); ++band)
-        result = result.bandjoin(band < 3 ? stored(band, isDeep ? 256 : 1, withSign) : stored(band, most / 255, format));
+        result =
+            result.bandjoin(band < 3 ? stored(band, isDeep ? 256 : 1, withSign) : stored(band, most / 255, format));
     return result.copy(vips::VImage::option()->set("interpretation", VIPS_INTERPRETATION_LAB));
 }
 

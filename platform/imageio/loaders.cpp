@@ -123,8 +123,7 @@ VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
     if (samples.isLogarithmic() && options.page == 0)
         return loadTiffThroughQt(source, vips::VError("its size is too large"));
     try {
-        const VImage image =
-            VImage::tiffload_source(sourceOf(source), commonOptions()->set("page", options.page));
+        const VImage image = VImage::tiffload_source(sourceOf(source), commonOptions()->set("page", options.page));
         return samples.isKnown ? withSampleFacts(image, factsOf(samples, image)) : image;
     } catch (const vips::VError &error) {
         if (options.page > 0)

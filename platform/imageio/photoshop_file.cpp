@@ -74,7 +74,8 @@ void checkKind(const PhotoshopFile &file)
 {
     const bool isBits = file.mode == PhotoshopFile::Mode::Bitmap && file.bits == 1;
     const bool isNumbers = file.mode != PhotoshopFile::Mode::Bitmap && (file.bits == 8 || file.bits == 16);
-    const bool isFloat = file.bits == 32 && (file.mode == PhotoshopFile::Mode::Grey || file.mode == PhotoshopFile::Mode::Rgb);
+    const bool isFloat =
+        file.bits == 32 && (file.mode == PhotoshopFile::Mode::Grey || file.mode == PhotoshopFile::Mode::Rgb);
     if (file.colours() == 0 || file.channels < file.colours() || (!isBits && !isNumbers && !isFloat))
         refuse("it has colours of a kind that is not known here");
 }

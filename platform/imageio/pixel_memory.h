@@ -30,9 +30,8 @@ public:
     /** The image, which has the memory from now on. */
     vips::VImage taken(VipsInterpretation space)
     {
-        const vips::VImage image =
-            vips::VImage::new_from_memory_steal(m_bytes, m_rowBytes * size_t(m_size.height()), m_size.width(),
-                                                m_size.height(), m_bands, m_format);
+        const vips::VImage image = vips::VImage::new_from_memory_steal(
+            m_bytes, m_rowBytes * size_t(m_size.height()), m_size.width(), m_size.height(), m_bands, m_format);
         m_bytes = nullptr;
         image.get_image()->Type = space;
         return image;

@@ -25,6 +25,7 @@ SOME = {"orientation": re.compile(r"landscape_[36]|portrait_5|exif_imagemagick|g
         "exif-real": re.compile(r"DSCN|Reagan|i18n|bug528"), "cameras": re.compile(r"Canon\.jpg|Nikon\.jpg|FLIR|rw2|mrw|cr3|crw|x3f|iiq")}
 # Neither the program nor a reader to compare with reads these, or the size by the container is another.
 UNREAD = re.compile(r"00r1_graya_la|IMG_1361|iphone-irot")
+OF_LAB = 2
 MADE = {
     "grey.tif": ["-size", "60x40", "gradient:"], "rgb.tif": ["-size", "60x40", "plasma:red-blue", "-blur", "0x2", "-depth", "8"],
     "deep.tif": ["-size", "60x40", "plasma:red-blue", "-blur", "0x2", "-depth", "16"], "deep.png": ["-size", "60x40", "plasma:red-blue", "-blur", "0x2", "-depth", "16"],
@@ -212,6 +213,8 @@ def held(picture, target, path):
     if picture.space == "CMYK" and not picture.has_alpha and target in ("tiff", "jpeg", "pdf"):
         return of_inks((picture.raw, turn), (shown, []), picture.work), bound
     lab = picture.space in ("Lab", "CIELab")
+    if lab: # of 8 bits ImageMagick takes the two colours half a step lower than the format has them
+        bound = max(bound, OF_LAB)
     if lab and target == "tiff":
         return of_inks((picture.raw, turn), (shown, []), picture.work), bound
     converted = lab or picture.space == "CMYK" or (picture.has_profile and promise["profile"] in ("srgb", "matrix"))

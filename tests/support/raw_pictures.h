@@ -161,7 +161,8 @@ inline QByteArray bmp(const BmpKind &kind, int width, int height, const QByteArr
     appendLittle(file, quint16(1));
     appendLittle(file, quint16(kind.bits));
     appendLittle(file, quint32(kind.compression));
-    for (const quint32 number : {quint32(rows.size()), quint32(0), quint32(0), quint32(kind.palette.size()), quint32(0)})
+    for (const quint32 number :
+         {quint32(rows.size()), quint32(0), quint32(0), quint32(kind.palette.size()), quint32(0)})
         appendLittle(file, number);
     return file + packed(kind.masks) + packed(kind.palette) + rows;
 }

@@ -113,8 +113,9 @@ private:
         const QString plain = folder.filePath(QStringLiteral("plain.tif"));
         const QString packed = folder.filePath(QStringLiteral("packed.tif"));
         if (!platform::writeImageFile(plain, bitmap, FileFormat::Tiff) ||
-            QProcess::execute(QStringLiteral("tiffcp"), {QStringLiteral("-c"), QStringLiteral("zip"), QStringLiteral("-r"),
-                                                         QStringLiteral("16"), plain, packed}) != 0)
+            QProcess::execute(QStringLiteral("tiffcp"), {QStringLiteral("-c"), QStringLiteral("zip"),
+                                                         QStringLiteral("-r"), QStringLiteral("16"), plain, packed}) !=
+                0)
             return;
         QTest::newRow("TIFF, a strip changed") << damagedAt(contentOf(packed), 0.5, 200);
     }

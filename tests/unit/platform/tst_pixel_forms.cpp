@@ -79,6 +79,47 @@ QByteArray told(const Pixel &pixel)
     return parts.join(u' ').toLatin1();
 }
 
+Pixel greyPixel(int value)
+{
+    return {value, value, value, 255};
+}
+
+void addPhotoshopFiles()
+{
+    QTest::newRow("PSD, grey") << pictures::psd({1, 8, 1, 0}, side, side, flatPlanes({200}, 8)) << greyPixel(200);
+    QTest::newRow("PSD, deep grey") << pictures::psd({1, 16, 1, 0}, side, side, flatPlanes({51400}, 16))
+                                    << greyPixel(200);
+    QTest::newRow("PSD, duotone") << pictures::psd({8, 8, 1, 0}, side, side, flatPlanes({200}, 8)) << greyPixel(200);
+    QTest::newRow("PSD, bits") << pictures::psd({0, 1, 1, 0}, side, side, QByteArray(side * side / 8, '\xFF'))
+                               << greyPixel(0);
+    QTest::newRow("PSD, runs") << pictures::psd({3, 8, 3, 0}, side, side, flatPlanes({200, 100, 50}, 8), true)
+                               << Pixel{200, 100, 50, 255};
+    QTest::newRow("PSB, runs") << pictures::psd({3, 8, 3, 0, true}, side, side, flatPlanes({200, 100, 50}, 8), true)
+                               << Pixel{200, 100, 50, 255};
+    QTest::newRow("PSD, RGB and a selection")
+        << pictures::psd({3, 8, 4, 0}, side, side, flatPlanes({200, 100, 50, 0}, 8)) << Pixel{200, 100, 50, 255};
+    QTest::newRow("PSD, CMYK, white") << pictures::psd({4, 8, 4, 0}, side, side, flatPlanes({255, 255, 255, 255}, 8))
+                                      << greyPixel(255);
+    QTest::newRow("PSD, deep CMYK, white")
+        << pictures::psd({4, 16, 4, 0}, side, side, flatPlanes({65535, 65535, 65535, 65535}, 16)) << greyPixel(255);
+}
+
+void addBitmapFiles()
+{
+    const auto bmpRow = [](const QByteArray &pixel) { return pixel.repeated(side * side); };
+    QTest::newRow("BMP, 5 bits") << pictures::bmp({16, 0, {}, {}}, side, side, bmpRow("\xFF\x7F")) << greyPixel(255);
+    QTest::newRow("BMP, 5 and 6 bits") << pictures::bmp({16, 3, {0xF800, 0x07E0, 0x001F}, {}}, side, side,
+                                                        bmpRow(QByteArray("\x10\x84", 2)))
+                                       << Pixel{132, 130, 132, 255};
+    QTest::newRow("BMP, 10 bits") << pictures::bmp({32, 3, {0x3FF00000, 0x000FFC00, 0x000003FF}, {}}, side, side,
+                                                   bmpRow(pictures::packed<quint32>({0x3FF801FF})))
+                                  << Pixel{255, 128, 127, 255};
+    QTest::newRow("BMP, masks the other way round, from above")
+        << pictures::bmp({32, 3, {0x000000FF, 0x0000FF00, 0x00FF0000}, {}}, side, -side,
+                         bmpRow(QByteArray("\xC8\x64\x32\x00", 4)))
+        << Pixel{200, 100, 50, 255};
+}
+
 } // namespace
 
 class PixelForms : public QObject
@@ -90,18 +131,20 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<Pixel>("pixel");
-        const auto grey = [](int value) { return Pixel{value, value, value, 255}; };
         const TiffKind greyFloat = {1, 32, 1, 3, {}};
-        QTest::newRow("grey, float") << flatTiff(greyFloat, pictures::packed<float>({0.5F})) << grey(128);
-        QTest::newRow("grey, float above white") << flatTiff(greyFloat, pictures::packed<float>({1e30F})) << grey(255);
+        QTest::newRow("grey, float") << flatTiff(greyFloat, pictures::packed<float>({0.5F})) << greyPixel(128);
+        QTest::newRow("grey, float above white")
+            << flatTiff(greyFloat, pictures::packed<float>({1e30F})) << greyPixel(255);
         QTest::newRow("RGB, float") << flatTiff({2, 32, 3, 3, {}}, pictures::packed<float>({0.2F, 1, 0}))
                                     << Pixel{51, 255, 0, 255};
-        QTest::newRow("grey, signed") << flatTiff({1, 16, 1, 2, {}}, pictures::packed<qint16>({-32768})) << grey(0);
+        QTest::newRow("grey, signed") << flatTiff({1, 16, 1, 2, {}}, pictures::packed<qint16>({-32768}))
+                                      << greyPixel(0);
         QTest::newRow("grey, signed, light")
-            << flatTiff({1, 16, 1, 2, {}}, pictures::packed<qint16>({32767})) << grey(255);
-        QTest::newRow("grey, signed bytes") << flatTiff({1, 8, 1, 2, {}}, pictures::packed<qint8>({0})) << grey(128);
+            << flatTiff({1, 16, 1, 2, {}}, pictures::packed<qint16>({32767})) << greyPixel(255);
+        QTest::newRow("grey, signed bytes")
+            << flatTiff({1, 8, 1, 2, {}}, pictures::packed<qint8>({0})) << greyPixel(128);
         QTest::newRow("grey, 32 bits") << flatTiff({1, 32, 1, 1, {}}, pictures::packed<quint32>({0x80808080}))
-                                       << grey(128);
+                                       << greyPixel(128);
         QTest::newRow("RGB and two selections")
             << flatTiff({2, 8, 5, 1, {0, 0}}, QByteArray("\xC8\x64\x32\x00\xFF", 5)) << Pixel{200, 100, 50, 255};
         QTest::newRow("RGB and a selection")
@@ -109,41 +152,16 @@ private Q_SLOTS:
         QTest::newRow("RGB and a fourth sample of no meaning")
             << flatTiff({2, 8, 4, 1, {}}, QByteArray("\xC8\x64\x32\x00", 4)) << Pixel{200, 100, 50, 255};
         QTest::newRow("grey and a selection")
-            << flatTiff({1, 8, 2, 1, {0}}, QByteArray("\xC8\x00", 2)) << grey(200);
+            << flatTiff({1, 8, 2, 1, {0}}, QByteArray("\xC8\x00", 2)) << greyPixel(200);
         QTest::newRow("grey and three selections")
-            << flatTiff({1, 8, 4, 1, {0, 0, 0}}, QByteArray("\xC8\x00\x40\x80", 4)) << grey(200);
+            << flatTiff({1, 8, 4, 1, {0, 0, 0}}, QByteArray("\xC8\x00\x40\x80", 4)) << greyPixel(200);
         QTest::newRow("a selection, then transparency")
             << flatTiff({2, 8, 5, 1, {0, 2}}, QByteArray("\xC8\x64\x32\x07\xFF", 5)) << Pixel{200, 100, 50, 255};
-        QTest::newRow("PSD, grey") << pictures::psd({1, 8, 1, 0}, side, side, flatPlanes({200}, 8)) << grey(200);
-        QTest::newRow("PSD, deep grey") << pictures::psd({1, 16, 1, 0}, side, side, flatPlanes({51400}, 16))
-                                        << grey(200);
-        QTest::newRow("PSD, duotone") << pictures::psd({8, 8, 1, 0}, side, side, flatPlanes({200}, 8)) << grey(200);
-        QTest::newRow("PSD, bits") << pictures::psd({0, 1, 1, 0}, side, side, QByteArray(side * side / 8, '\xFF'))
-                                   << grey(0);
-        QTest::newRow("PSD, runs") << pictures::psd({3, 8, 3, 0}, side, side, flatPlanes({200, 100, 50}, 8), true)
-                                   << Pixel{200, 100, 50, 255};
-        QTest::newRow("PSB, runs") << pictures::psd({3, 8, 3, 0, true}, side, side, flatPlanes({200, 100, 50}, 8), true)
-                                   << Pixel{200, 100, 50, 255};
-        QTest::newRow("PSD, RGB and a selection")
-            << pictures::psd({3, 8, 4, 0}, side, side, flatPlanes({200, 100, 50, 0}, 8)) << Pixel{200, 100, 50, 255};
-        QTest::newRow("PSD, CMYK, white") << pictures::psd({4, 8, 4, 0}, side, side, flatPlanes({255, 255, 255, 255}, 8))
-                                          << grey(255);
-        QTest::newRow("PSD, deep CMYK, white")
-            << pictures::psd({4, 16, 4, 0}, side, side, flatPlanes({65535, 65535, 65535, 65535}, 16)) << grey(255);
+        QTest::newRow("Lab, white") << flatTiff({8, 8, 3, 1, {}}, QByteArray("\xFF\x00\x00", 3)) << greyPixel(255);
         QTest::newRow("CMYK, 16 bits, white")
-            << flatTiff({5, 16, 4, 1, {}}, pictures::packed<quint16>({0, 0, 0, 0})) << grey(255);
-        const auto bmpRow = [](const QByteArray &pixel) { return pixel.repeated(side * side); };
-        QTest::newRow("BMP, 5 bits") << pictures::bmp({16, 0, {}, {}}, side, side, bmpRow("\xFF\x7F")) << grey(255);
-        QTest::newRow("BMP, 5 and 6 bits")
-            << pictures::bmp({16, 3, {0xF800, 0x07E0, 0x001F}, {}}, side, side, bmpRow(QByteArray("\x10\x84", 2)))
-            << Pixel{132, 130, 132, 255};
-        QTest::newRow("BMP, 10 bits") << pictures::bmp({32, 3, {0x3FF00000, 0x000FFC00, 0x000003FF}, {}}, side, side,
-                                                       bmpRow(pictures::packed<quint32>({0x3FF801FF})))
-                                      << Pixel{255, 128, 127, 255};
-        QTest::newRow("BMP, masks the other way round, from above")
-            << pictures::bmp({32, 3, {0x000000FF, 0x0000FF00, 0x00FF0000}, {}}, side, -side,
-                             bmpRow(QByteArray("\xC8\x64\x32\x00", 4)))
-            << Pixel{200, 100, 50, 255};
+            << flatTiff({5, 16, 4, 1, {}}, pictures::packed<quint16>({0, 0, 0, 0})) << greyPixel(255);
+        addPhotoshopFiles();
+        addBitmapFiles();
     }
 
     void showsEverySampleInEveryTarget()
@@ -230,8 +248,7 @@ private Q_SLOTS:
     void takesThePaperOutOfAPhotoshopPictureThatLiesOnIt()
     {
         // Half of black on white is what the file holds of black that is half there.
-        const Bitmap bitmap =
-            decoded(pictures::psd({3, 8, 4, -1}, side, side, flatPlanes({127, 127, 127, 128}, 8)));
+        const Bitmap bitmap = decoded(pictures::psd({3, 8, 4, -1}, side, side, flatPlanes({127, 127, 127, 128}, 8)));
         QVERIFY2(isNear(bitmap.pixel(2, 2), {0, 0, 0, 128}, 1), told(bitmap.pixel(2, 2)));
     }
 
