@@ -26,14 +26,14 @@ inline int repetitions(int few, int many)
 /** Remembers a test; @p file is the path of its source. Returns true, for the sake of an initialiser. */
 bool remember(const char *file, Main main);
 
-template <class Test> int mainWithoutWindows(int argc, char **argv)
+template<class Test> int mainWithoutWindows(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
     Test test;
     return QTest::qExec(&test, argc, argv);
 }
 
-template <class Test, class Application> int mainWithWindows(int argc, char **argv)
+template<class Test, class Application> int mainWithWindows(int argc, char **argv)
 {
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi, true);
     const Application app(argc, argv);
@@ -43,7 +43,7 @@ template <class Test, class Application> int mainWithWindows(int argc, char **ar
 
 } // namespace tests
 
-#define QUORLIN_REMEMBER_TEST(Class, ...) \
+#define QUORLIN_REMEMBER_TEST(Class, ...)                                                                              \
     [[maybe_unused]] static const bool isKnown##Class = tests::remember(__FILE__, __VA_ARGS__);
 
 #define QUORLIN_TEST(Class) QUORLIN_REMEMBER_TEST(Class, &tests::mainWithoutWindows<Class>)
