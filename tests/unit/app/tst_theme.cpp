@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -56,7 +57,13 @@ class TestTheme : public QObject
     }
 
 private Q_SLOTS:
-    void init() { use(m_themes); }
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("stylesheet|svg")));
+        use(m_themes);
+    }
+
+    void fillsInAllOfItsSheet();
 
     void showsTextsAsTheyAre();
     void showsToolTipsAsTheyAre();
@@ -68,6 +75,16 @@ private Q_SLOTS:
     void pressesTheButtonThatHasTheFocus_data();
     void pressesTheButtonThatHasTheFocus();
 };
+
+void TestTheme::fillsInAllOfItsSheet()
+{
+    for (const char *name : {"light", "dark"}) {
+        m_theme->choose(QString::fromLatin1(name));
+        QVERIFY(!qApp->styleSheet().isEmpty());
+        const auto left = QRegularExpression(QStringLiteral("@\\w+@")).match(qApp->styleSheet());
+        QVERIFY2(!left.hasMatch(), qPrintable(left.captured()));
+    }
+}
 
 void TestTheme::showsTextsAsTheyAre()
 {
