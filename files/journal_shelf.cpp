@@ -1,7 +1,10 @@
 #include "files/journal_shelf.h"
 
+#include "files/move_record.h"
+
 #include "platform/foundation/atomic_file.h"
 #include "platform/foundation/folders.h"
+#include "platform/foundation/living_process.h"
 #include "platform/foundation/paths.h"
 #include "platform/foundation/regular_file.h"
 
@@ -54,6 +57,9 @@ bool DiskJournalShelf::hold(const QString &name)
         return false;
     auto file = platform::HeldFile::open(path(name));
     if (!file)
+        return false;
+    const QString by = file->isLocked() ? QString() : summaryOf(ends(name)).by;
+    if (!by.isEmpty() && by != platform::processMark() && platform::mayBeLiving(by))
         return false;
     m_held.insert_or_assign(name, std::move(*file));
     return true;

@@ -177,6 +177,7 @@ private:
         run.title = line[key("title")].toString();
         run.date = line[key("date")].toString();
         run.undoes = line[key("undoes")].toString();
+        run.by = line[key("by")].toString();
         run.isByHand = line[key("byHand")].toBool();
         run.count = line[key("count")].toInt();
         return true;
@@ -308,6 +309,8 @@ QByteArray headLines(const RunRecord &run)
                         {key("byHand"), run.isByHand}};
     if (!run.undoes.isEmpty())
         head.insert(key("undoes"), run.undoes);
+    if (!run.by.isEmpty())
+        head.insert(key("by"), run.by);
     QByteArray lines = lineOf(head);
     for (int i = 0; i < int(run.items.size()); ++i)
         lines += itemLine(i, run.items[size_t(i)].item);

@@ -74,6 +74,7 @@ struct RunRecord
     QString title;
     QString date;          ///< ISO, with the time zone
     QString undoes;        ///< the run that this one takes back
+    QString by;            ///< the mark of the process that began it
     bool isByHand = false; ///< items are added one by one
     int count = 0;         ///< items that the journal must tell before the first of them moves
     std::vector<MoveRecord> items;

@@ -3,6 +3,7 @@
 #include "files/move_names.h"
 #include "files/move_paths.h"
 
+#include "platform/foundation/living_process.h"
 #include "platform/foundation/paths.h"
 
 #include <QCoreApplication>
@@ -78,6 +79,7 @@ RunRecord newRecord(const QString &title)
     RunRecord record;
     record.id = newId(now);
     record.title = title;
+    record.by = platform::processMark();
     record.date = now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODate);
     return record;
 }

@@ -4,6 +4,7 @@
 #include "files/move_undo.h"
 
 #include "platform/foundation/folders.h"
+#include "platform/foundation/hidden_item.h"
 #include "platform/foundation/paths.h"
 
 #include <algorithm>
@@ -334,7 +335,15 @@ QVariantList MoveDesk::runs() const
 
 QVariantList MoveDesk::recover()
 {
-    return listOf(files::recoverMoves(m_disk, m_shelf));
+    const QStringList named = platform::sweepHiddenItems();
+    QVariantList runs = listOf(files::recoverMoves(m_disk, m_shelf));
+    if (named.isEmpty())
+        return runs;
+    files::RecoveredRun swept;
+    swept.title = tr("Copying or moving a file");
+    for (const QString &path : named)
+        swept.problems.append(tr("%1 had been put aside and has a name again").arg(path));
+    return runs << mapOf(swept);
 }
 
 } // namespace window

@@ -1,6 +1,7 @@
 #include "platform/foundation/folders.h"
 
 #include "platform/foundation/copy_tree.h"
+#include "platform/foundation/hidden_item.h"
 #include "platform/foundation/paths.h"
 #include "platform/foundation/same_content.h"
 
@@ -129,24 +130,16 @@ tl::unexpected<Error> notMoved(const QString &from, const QString &to, const std
                    QStringLiteral("Cannot move %1 to %2: %3").arg(from, to, because(error)));
 }
 
-/** An item that stood aside gets its name back, or one with a number where another program has taken that since. */
-void bringBack(const QString &aside, const QString &path)
-{
-    constexpr int mostNumbers = 1000;
-    std::error_code error = renameToNew(aside, path);
-    for (int number = 2; error == std::errc::file_exists && number < mostNumbers; ++number)
-        error = renameToNew(aside, QStringLiteral("%1 (%2)").arg(path).arg(number));
-}
-
 /** Takes a copy away again whose source stays; a source that is gone meanwhile has left the copy as the last one. */
 Result<void> withoutCopy(const QString &from, const QString &to, const std::error_code &why)
 {
     const QString aside = besideOf(to);
+    const HiddenItem noted(HiddenItem::What::Copy, aside, from, to);
     if (!renameToNew(to, aside)) {
         if (isTaken(from))
             (void)discardTree(native(aside));
         else
-            bringBack(aside, to);
+            giveNameBack(aside, to);
     }
     return isTaken(from) ? notMoved(from, to, why) : Result<void>();
 }
@@ -163,15 +156,16 @@ Result<void> moveByCopying(const QString &from, const QString &to)
         return copied;
     settle(parentFolder(to));
     const QString aside = besideOf(from);
+    const HiddenItem noted(HiddenItem::What::Aside, aside, from, to);
     if (const std::error_code error = renameToNew(from, aside))
         return withoutCopy(from, to, error);
     if (!haveSameContent(native(aside), native(to))) {
-        bringBack(aside, from);
+        giveNameBack(aside, from);
         return withoutCopy(from, to, std::make_error_code(std::errc::device_or_resource_busy));
     }
     const auto removed = removeItem(aside);
     if (!removed)
-        bringBack(aside, from);
+        giveNameBack(aside, from);
     return removed;
 }
 
@@ -263,6 +257,7 @@ Result<void> copyItem(const QString &from, const QString &to)
     if (isWithin(native(to), native(from)))
         return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot copy %1 into itself").arg(from));
     const QString beside = besideOf(to);
+    const HiddenItem noted(HiddenItem::What::Copy, beside, from, to);
     std::error_code error = copyTree(native(from), native(beside));
     if (!error)
         error = renameToNew(beside, to);
@@ -277,6 +272,18 @@ std::error_code renameToNew(const QString &from, const QString &to)
     if (!canBeAPath(from) || !canBeAPath(to))
         return std::make_error_code(std::errc::no_such_file_or_directory);
     return renamePath(native(from), native(to));
+}
+
+QString giveNameBack(const QString &aside, const QString &path)
+{
+    constexpr int mostNumbers = 1000;
+    QString place = path;
+    std::error_code error = renameToNew(aside, place);
+    for (int number = 2; error == std::errc::file_exists && number < mostNumbers; ++number) {
+        place = QStringLiteral("%1 (%2)").arg(path).arg(number);
+        error = renameToNew(aside, place);
+    }
+    return error ? aside : place;
 }
 
 std::error_code renameWithoutPromise(const QString &from, const QString &to)

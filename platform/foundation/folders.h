@@ -68,6 +68,12 @@ std::error_code renameToNew(const QString &from, const QString &to);
 std::error_code renameWithoutPromise(const QString &from, const QString &to);
 
 /**
+ * Gives an item that stood aside its name @p path again, or one with a number where another program has taken that since. Answers the
+ * path that it has now.
+ */
+QString giveNameBack(const QString &aside, const QString &path);
+
+/**
  * Moves the file, link or folder at @p from to the new item @p to, to another file system too.
  *
  * Fails with WriteFailed when @p to is taken, its folder is missing, or the source cannot be taken away, and with NotFound.

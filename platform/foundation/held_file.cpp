@@ -22,7 +22,7 @@ tl::unexpected<Error> because(ErrorCode code, const QString &path, int reason)
 } // namespace
 
 HeldFile::HeldFile(HeldFile &&other) noexcept
-    : m_path(std::move(other.m_path)), m_descriptor(std::exchange(other.m_descriptor, -1))
+    : m_path(std::move(other.m_path)), m_descriptor(std::exchange(other.m_descriptor, -1)), m_isLocked(other.m_isLocked)
 {
 }
 
@@ -30,6 +30,7 @@ HeldFile &HeldFile::operator=(HeldFile &&other) noexcept
 {
     std::swap(m_path, other.m_path);
     std::swap(m_descriptor, other.m_descriptor);
+    std::swap(m_isLocked, other.m_isLocked);
     return *this;
 }
 
@@ -68,8 +69,8 @@ Result<HeldFile> HeldFile::open(const QString &path)
 
 bool HeldFile::lock()
 {
-    // A file system without locks has nobody to keep out.
-    return ::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    m_isLocked = ::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0;
+    return m_isLocked || errno != EWOULDBLOCK;
 }
 
 Result<void> HeldFile::append(const QByteArray &bytes, Lasting lasting)

@@ -31,6 +31,8 @@ public:
      */
     Result<void> append(const QByteArray &bytes, Lasting lasting);
     Result<QByteArray> readAll() const;
+    /** False where the file system has no locks: others may have the file open then. */
+    bool isLocked() const { return m_isLocked; }
 
 private:
     HeldFile(const QString &path, int descriptor) : m_path(path), m_descriptor(descriptor) {}
@@ -38,6 +40,7 @@ private:
 
     QString m_path;
     int m_descriptor = -1;
+    bool m_isLocked = false;
 };
 
 } // namespace platform

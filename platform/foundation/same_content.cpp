@@ -32,6 +32,14 @@ bool haveSameBytes(const fs::path &one, const fs::path &other)
     return a.eof() && b.eof() && !a.bad() && !b.bad();
 }
 
+/** Two links may lead to one item, or to none. */
+bool haveSameLink(const fs::path &one, const fs::path &other)
+{
+    std::error_code error;
+    return fs::is_symlink(fs::symlink_status(one, error)) && fs::is_symlink(fs::symlink_status(other, error)) &&
+           fs::read_symlink(one, error) == fs::read_symlink(other, error) && !error;
+}
+
 bool haveSameItems(const fs::path &one, const fs::path &other)
 {
     std::error_code error;
@@ -73,6 +81,20 @@ bool haveSameContent(const fs::path &one, const fs::path &other)
     if (fs::is_directory(a))
         return haveSameItems(one, other);
     return fs::is_regular_file(a) && haveSameBytes(one, other);
+}
+
+bool holdsAll(const fs::path &whole, const fs::path &part)
+{
+    std::error_code error;
+    if (fs::equivalent(whole, part, error) || error)
+        return haveSameLink(whole, part);
+    if (!fs::is_directory(fs::symlink_status(part, error)) || fs::is_symlink(fs::symlink_status(whole, error)))
+        return haveSameContent(part, whole);
+    for (auto entry = fs::directory_iterator(part, error); !error && entry != fs::directory_iterator();
+         entry.increment(error))
+        if (!holdsAll(whole / entry->path().filename(), entry->path()))
+            return false;
+    return !error;
 }
 
 std::error_code settleTree(const fs::path &item)

@@ -13,6 +13,9 @@ namespace platform {
  */
 bool haveSameContent(const std::filesystem::path &one, const std::filesystem::path &other);
 
+/** Whether everything of @p part, of which a piece may be gone already, is also in @p whole, another item. */
+bool holdsAll(const std::filesystem::path &whole, const std::filesystem::path &part);
+
 /** Waits until a file, or a folder with all in it, is on the disk. */
 std::error_code settleTree(const std::filesystem::path &item);
 

@@ -1,0 +1,348 @@
+#include "tests/support/every_call.h"
+
+#include "files/move_recovery.h"
+#include "files/move_undo.h"
+#include "files/placing.h"
+#include "tests/support/scratch_folder.h"
+
+#include "platform/desktop/disk_file_system.h"
+#include "platform/desktop/trash.h"
+#include "platform/foundation/hidden_item.h"
+
+#include <QDirIterator>
+#include <QTest>
+
+#include <map>
+#include <sys/wait.h>
+
+using namespace files;
+
+namespace {
+
+using Tree = std::map<QString, QByteArray>;
+
+/** Pictures on two disks, with a data folder of their own, and what is done to them. */
+class Place
+{
+public:
+    Place() : m_other(QStringLiteral("/dev/shm"))
+    {
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_here.path("data")));
+        QVERIFY(m_here.write("in/a.jpg", "a") && m_here.write("in/folder/b.jpg", "b") &&
+                m_here.write("in/folder/inner/c.jpg", "c"));
+        QVERIFY(m_here.link("..", "in/folder/up") && m_here.link("/dev/zero", "in/folder/endless"));
+        QVERIFY(m_here.allow("in/folder/b.jpg", 0444) && m_other.write("d.jpg", "d"));
+    }
+
+    bool isOnTwoDisks() const { return areApart(m_here.path(), m_other.path()); }
+    QString here(const char *name) const { return m_here.path(name); }
+    QString other(const char *name) const { return m_other.path(name); }
+
+    /** Every file and link that a user can see, and what is in the trash. */
+    Tree shown() const { return tree(false); }
+    Tree hidden() const { return tree(true); }
+
+    QList<QByteArray> contents() const
+    {
+        QList<QByteArray> all;
+        for (const auto &entry : shown())
+            all.append(entry.second);
+        return all;
+    }
+
+private:
+    Tree tree(bool isHidden) const
+    {
+        Tree all;
+        for (const QString &folder : {m_here.path(), m_other.path()}) {
+            QDirIterator files(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                               QDirIterator::Subdirectories);
+            while (files.hasNext()) {
+                const QFileInfo info(files.next());
+                if (info.filePath().contains(QStringLiteral("/quorlin/")) ||
+                    info.filePath().contains(QStringLiteral("/.quorlin-")) != isHidden)
+                    continue;
+                QFile file(info.filePath());
+                if (info.isSymLink())
+                    all[info.filePath()] = "link";
+                else if (info.isFile() && !info.filePath().endsWith(QStringLiteral(".trashinfo")) &&
+                         file.open(QIODevice::ReadOnly))
+                    all[info.filePath()] = file.readAll();
+                else if (isHidden)
+                    all[info.filePath()] = "folder";
+            }
+        }
+        return all;
+    }
+
+    ScratchFolder m_here;
+    ScratchFolder m_other;
+};
+
+void carryOut(const Place &place, const MoveOrderForm &form)
+{
+    platform::DiskFileSystem disk;
+    DiskJournalShelf shelf(place.here("data/quorlin/moves"));
+    QString problem;
+    if (const auto run = MoveRun::begin(disk, shelf, form, &problem)) {
+        while (run->next()) {
+        }
+        run->end();
+    }
+}
+
+QStringList recover(const Place &place)
+{
+    platform::sweepHiddenItems();
+    platform::DiskFileSystem disk;
+    DiskJournalShelf shelf(place.here("data/quorlin/moves"));
+    QStringList problems;
+    for (const RecoveredRun &run : recoverMoves(disk, shelf))
+        problems += run.problems;
+    return problems;
+}
+
+MoveOrderForm undoOfLast(const Place &place)
+{
+    platform::DiskFileSystem disk;
+    DiskJournalShelf shelf(place.here("data/quorlin/moves"));
+    return shelf.names().isEmpty() ? MoveOrderForm() : planUndo(disk, shelf, shelf.names().first()).form;
+}
+
+MoveOrderForm formOf(std::vector<MoveItem> items)
+{
+    MoveOrderForm form;
+    form.items = std::move(items);
+    return form;
+}
+
+/** What is done in one try: first what is only there to be taken back, then what the others meddle with. */
+struct Work
+{
+    std::function<void(const Place &)> before;
+    std::function<void(const Place &)> act;
+};
+
+const std::map<QByteArray, Work> &works()
+{
+    static const auto nothing = [](const Place &) {};
+    static const auto copies = [](const Place &place) {
+        carryOut(place, formOf({{Deed::Copy, place.here("in/a.jpg"), place.here("copies/a.jpg")},
+                                {Deed::Copy, place.here("in/folder"), place.other("copies/folder")}}));
+    };
+    static const auto moves = [](const Place &place) {
+        carryOut(place, formOf({{Deed::Move, place.here("in/a.jpg"), place.other("new/a.jpg")},
+                                {Deed::Move, place.here("in/folder"), place.other("new/er/folder")},
+                                {Deed::Move, place.other("d.jpg"), place.here("in/d.jpg")}}));
+    };
+    static const auto undo = [](const Place &place) { carryOut(place, undoOfLast(place)); };
+    static const std::map<QByteArray, Work> all = {
+        {"moves to another disk", {nothing, moves}},
+        {"takes moves back", {moves, undo}},
+        {"takes copies back", {copies, undo}},
+        {"trashes",
+         {nothing,
+          [](const Place &place) {
+              carryOut(place, formOf({{Deed::Trash, place.here("in/a.jpg"), {}},
+                                      {Deed::Trash, place.here("in/folder"), {}},
+                                      {Deed::Trash, place.other("d.jpg"), {}}}));
+          }}},
+        {"places files on another disk",
+         {nothing,
+          [](const Place &place) {
+              (void)files::place(Placing::Move, place.here("in/a.jpg"), place.other("new/a.jpg"));
+              (void)files::place(Placing::Move, place.here("in/folder"), place.other("new/folder"));
+              (void)files::place(Placing::Copy, place.other("d.jpg"), place.here("in/d.jpg"));
+          }}},
+    };
+    return all;
+}
+
+/** The trash of another disk cannot be made, so that items are copied into the user's. */
+int refusalOf(std::string_view call, const char *path)
+{
+    return call == "mkdir" && QByteArray(path).contains("/.Trash-") ? EACCES : 0;
+}
+
+/** Runs the work in a process that ends at the given call; false where it ended before. */
+bool killAt(int call, const std::function<void()> &work)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        EveryCall::count = 0;
+        EveryCall::before = [call](std::string_view name, const char *path) {
+            if (EveryCall::count > call)
+                ::_exit(9);
+            return refusalOf(name, path);
+        };
+        work();
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 9;
+}
+
+} // namespace
+
+/** A kill, and another program, at every single call that changes the disk. */
+class TestEveryCall : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { EveryCall::before = nullptr; }
+    void losesNothingByAKill_data();
+    void losesNothingByAKill();
+    void losesNothingByAKillOfRecovery_data();
+    void losesNothingByAKillOfRecovery();
+    void losesNothingByAnotherProgram_data();
+    void losesNothingByAnotherProgram();
+
+private:
+    void checkAllIsThere(const Place &place, const QByteArray &told) const;
+};
+
+void TestEveryCall::checkAllIsThere(const Place &place, const QByteArray &told) const
+{
+    const QList<QByteArray> contents = place.contents();
+    QByteArray all = told;
+    for (const auto &[path, what] : place.shown())
+        all += "\n" + path.toUtf8() + ": " + what;
+    for (const char *content : {"a", "b", "c", "d", "link"})
+        QVERIFY2(contents.contains(content), all + "\nmissing: " + content);
+    for (const auto &[path, what] : place.hidden())
+        QVERIFY2(false, all + "\nhidden: " + path.toUtf8());
+}
+
+void TestEveryCall::losesNothingByAKill_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const auto &work : works())
+        QTest::newRow(work.first) << work.first;
+}
+
+void TestEveryCall::losesNothingByAKill()
+{
+    QFETCH(QByteArray, name);
+    const Work &work = works().at(name);
+    int calls = 0;
+    for (bool isKilled = true; isKilled; ++calls) {
+        const Place place;
+        if (!place.isOnTwoDisks())
+            QSKIP("no second disk");
+        work.before(place);
+        isKilled = killAt(calls, [&] { work.act(place); });
+        const QStringList problems = recover(place);
+        checkAllIsThere(place,
+                        name + " killed at call " + QByteArray::number(calls) + ' ' + problems.join(u'|').toUtf8());
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u' ')));
+        if (QTest::currentTestFailed())
+            return;
+    }
+    qInfo("%d calls", calls);
+    QVERIFY(calls > 10);
+}
+
+void TestEveryCall::losesNothingByAKillOfRecovery_data()
+{
+    losesNothingByAKill_data();
+}
+
+void TestEveryCall::losesNothingByAKillOfRecovery()
+{
+    QFETCH(QByteArray, name);
+    const Work &work = works().at(name);
+    int tries = 0;
+    for (int first = 3; first < 200; first += 11) {
+        bool isKilled = true;
+        bool wasBegun = true;
+        for (int second = 0; isKilled && wasBegun; ++second, ++tries) {
+            const Place place;
+            if (!place.isOnTwoDisks())
+                QSKIP("no second disk");
+            work.before(place);
+            wasBegun = killAt(first, [&] { work.act(place); });
+            isKilled = killAt(second, [&] { recover(place); });
+            recover(place);
+            checkAllIsThere(place, name + " killed at " + QByteArray::number(first) + ", then at " +
+                                       QByteArray::number(second));
+            if (QTest::currentTestFailed())
+                return;
+        }
+        if (!wasBegun)
+            break;
+    }
+    qInfo("%d tries", tries);
+    QVERIFY(tries > 3);
+}
+
+void TestEveryCall::losesNothingByAnotherProgram_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("deed");
+    for (const auto &work : works())
+        for (const char *deed : {"writes into", "saves over", "takes away", "makes a target"})
+            QTest::addRow("%s: %s", work.first.constData(), deed) << work.first << QByteArray(deed);
+}
+
+/** At every call another program does something to a picture, or makes one where the other is to go. */
+void TestEveryCall::losesNothingByAnotherProgram()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, deed);
+    const Work &work = works().at(name);
+    int calls = 0;
+    for (bool hasMore = true; hasMore; ++calls) {
+        const Place place;
+        if (!place.isOnTwoDisks())
+            QSKIP("no second disk");
+        work.before(place);
+        bool isDone = false;
+        const auto meddle = [&] {
+            for (const QString &path : {place.here("in/a.jpg"), place.other("new/a.jpg"), place.here("copies/a.jpg"),
+                                        place.here("in/folder/b.jpg")}) {
+                QFile file(path);
+                if (deed == "makes a target" && !file.exists() && QDir(QFileInfo(path).path()).exists())
+                    isDone = file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write("new") == 3;
+                else if (deed == "writes into" && file.exists())
+                    isDone = file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write("new") == 3;
+                else if (deed == "saves over" && file.exists()) {
+                    QFile saved(path + QStringLiteral("~"));
+                    isDone = saved.open(QIODevice::WriteOnly) && saved.write("new") == 3 && saved.flush() &&
+                             ::rename(QFile::encodeName(saved.fileName()).constData(),
+                                      QFile::encodeName(path).constData()) == 0;
+                } else if (deed == "takes away" && file.exists())
+                    isDone = QFile::rename(path, place.here("in/taken.jpg"));
+                if (isDone)
+                    return;
+            }
+        };
+        EveryCall::count = 0;
+        EveryCall::before = [&](std::string_view call, const char *path) {
+            if (EveryCall::count == calls + 1)
+                meddle();
+            return refusalOf(call, path);
+        };
+        work.act(place);
+        EveryCall::before = nullptr;
+        hasMore = EveryCall::count > calls;
+        recover(place);
+        QByteArray told = name + ": another program " + deed + " at call " + QByteArray::number(calls);
+        for (const auto &[path, what] : place.shown())
+            told += "\n" + path.toUtf8() + ": " + what;
+        const QList<QByteArray> contents = place.contents();
+        QVERIFY2(!isDone || deed == "takes away" || contents.contains("new"), told);
+        for (const char *content : {"a", "b", "c", "d"}) {
+            // What it has written over is gone by its own will.
+            const bool isOverwritten = (deed == "writes into" || deed == "saves over") && *content < 'c';
+            QVERIFY2(isOverwritten || contents.contains(content), told + "\nmissing: " + content);
+        }
+        for (const auto &[path, what] : place.hidden())
+            QVERIFY2(false, told + "\nhidden: " + path.toUtf8());
+    }
+    qInfo("%d calls", calls);
+}
+
+QTEST_GUILESS_MAIN(TestEveryCall)
+#include "tst_every_call.moc"
