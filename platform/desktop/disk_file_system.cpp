@@ -173,7 +173,8 @@ std::optional<TrashedItem> DiskFileSystem::findTrashed(const QString &path, cons
 {
     for (const TrashedItem &item : trashedFrom(path)) {
         const auto found = look(item.path);
-        if (found && found->kind == state.kind && found->inode == state.inode && found->device == state.device)
+        // Not the device: it may have another number after a restart.
+        if (found && found->kind == state.kind && found->inode == state.inode && found->bornNs == state.bornNs)
             return item;
     }
     return std::nullopt;

@@ -30,6 +30,8 @@ struct Item
 
 enum class Reach { OneFileSystem, AnyFileSystem };
 
+const QString infoEnding = QStringLiteral(".trashinfo");
+
 QByteArray native(const QString &path)
 {
     return QFile::encodeName(path);
@@ -66,7 +68,7 @@ QString fileIn(const QString &trash, const QString &name)
 
 QString infoIn(const QString &trash, const QString &name)
 {
-    return joinedPath(trash, QStringLiteral("info/") + name + QStringLiteral(".trashinfo"));
+    return joinedPath(trash, QStringLiteral("info/") + name + infoEnding);
 }
 
 /** The @p number-th name to try: "a.jpg", "a.2.jpg", "a.3.jpg" ..., cut so that the info file's name is not too long. */
@@ -152,6 +154,8 @@ std::optional<dev_t> deviceOf(const QString &folder)
 /** The topmost folder of the file system that @p folder, a path without links, is on. */
 QString topFolderOf(QString folder)
 {
+    while (!deviceOf(folder) && folder != QStringLiteral("/"))
+        folder = parentFolder(folder);
     const auto device = deviceOf(folder);
     while (folder != QStringLiteral("/") && deviceOf(parentFolder(folder)) == device)
         folder = parentFolder(folder);
@@ -196,11 +200,18 @@ QString homeTrash()
     return joinedPath(applicationSupportFolder(), QStringLiteral("Trash"));
 }
 
+/** The folder without links; of one that is gone, the part that is left. */
+QString canonicalFolder(const QString &folder)
+{
+    const QString canonical = QFileInfo(folder.isEmpty() ? QStringLiteral(".") : folder).canonicalFilePath();
+    if (!canonical.isEmpty() || folder.size() < 2)
+        return canonical;
+    return joinedPath(canonicalFolder(parentFolder(folder)), lastPathComponent(folder));
+}
+
 QString withoutLinks(const QString &path)
 {
-    const QString folder = parentFolder(path);
-    return joinedPath(QFileInfo(folder.isEmpty() ? QStringLiteral(".") : folder).canonicalFilePath(),
-                      lastPathComponent(path));
+    return joinedPath(canonicalFolder(parentFolder(path)), lastPathComponent(path));
 }
 
 constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
@@ -250,18 +261,43 @@ bool isBeginningOf(const QString &part, const QString &whole)
     });
 }
 
-/** Adds what one trash says to have come from @p place, the last one first. */
-void addTrashedFrom(const QString &trash, const QString &place, std::vector<TrashedItem> &found)
+/** A trash and how its info files call a place. */
+struct NamedPlace
 {
-    const QByteArray line = "Path=" + QUrl::toPercentEncoding(place, "/");
-    const QString ending = QStringLiteral(".trashinfo");
-    const QDir info(joinedPath(trash, QStringLiteral("info")));
-    for (const QString &name : info.entryList({u'*' + ending}, QDir::Files | QDir::Hidden, QDir::Time)) {
-        QFile file(info.filePath(name));
-        const QString item = fileIn(trash, name.chopped(ending.size()));
-        if (file.open(QIODevice::ReadOnly) && file.readAll().split('\n').contains(line) && isTaken(item))
-            found.push_back({item});
+    QString trash;
+    QString place;
+};
+
+std::vector<NamedPlace> trashesFor(const QString &place)
+{
+    const QString top = topFolderOf(parentFolder(place));
+    const QString user = QString::number(::geteuid());
+    std::vector<NamedPlace> all = {{homeTrash(), place}};
+    for (const QString &trash : {QStringLiteral(".Trash/") + user, QStringLiteral(".Trash-") + user})
+        all.push_back({joinedPath(top, trash), belowTop(place, top)});
+    return all;
+}
+
+/** The info files of one trash that speak of the place, the last one first. */
+QStringList infoFilesOf(const NamedPlace &named)
+{
+    constexpr qint64 longestInfo = 1 << 16;
+    const QByteArray line = "Path=" + QUrl::toPercentEncoding(named.place, "/");
+    const QDir info(joinedPath(named.trash, QStringLiteral("info")));
+    QStringList found;
+    // A link could lead to a device that has no end.
+    constexpr auto filter = QDir::Files | QDir::Hidden | QDir::NoSymLinks;
+    for (const QFileInfo &entry : info.entryInfoList({u'*' + infoEnding}, filter, QDir::Time)) {
+        QFile file(entry.filePath());
+        if (entry.isFile() && file.open(QIODevice::ReadOnly) && file.read(longestInfo).split('\n').contains(line))
+            found.append(entry.filePath());
     }
+    return found;
+}
+
+QString itemOf(const QString &trash, const QString &infoFile)
+{
+    return fileIn(trash, lastPathComponent(infoFile).chopped(infoEnding.size()));
 }
 
 } // namespace
@@ -301,31 +337,24 @@ std::error_code restoreFromTrash(const TrashedItem &item, const QString &path)
 void discardHalfTrashed(const QString &path)
 {
     const QString place = withoutLinks(path);
-    const QByteArray line = "Path=" + QUrl::toPercentEncoding(place, "/");
-    const QString ending = QStringLiteral(".trashinfo");
-    const QString trash = homeTrash();
-    const QDir info(joinedPath(trash, QStringLiteral("info")));
-    for (const QString &name : info.entryList({u'*' + ending}, QDir::Files | QDir::Hidden)) {
-        QFile file(info.filePath(name));
-        if (!isTaken(fileIn(trash, name.chopped(ending.size()))) && file.open(QIODevice::ReadOnly) &&
-            file.readAll().split('\n').contains(line))
-            file.remove();
+    for (const NamedPlace &named : trashesFor(place)) {
+        for (const QString &infoFile : infoFilesOf(named))
+            if (!isTaken(itemOf(named.trash, infoFile)))
+                ::unlink(native(infoFile).constData());
+        const QDir copies(joinedPath(named.trash, QStringLiteral("files")));
+        for (const QString &name : copies.entryList({QStringLiteral(".quorlin-*")}, everything))
+            if (const QString copy = copies.filePath(name); isLeftAlone(copy) && isBeginningOf(copy, place))
+                (void)removeItem(copy);
     }
-    const QDir copies(joinedPath(trash, QStringLiteral("files")));
-    for (const QString &name : copies.entryList({QStringLiteral(".quorlin-*")}, everything))
-        if (const QString copy = copies.filePath(name); isLeftAlone(copy) && isBeginningOf(copy, place))
-            (void)removeItem(copy);
 }
 
 std::vector<TrashedItem> trashedFrom(const QString &path)
 {
-    const QString place = withoutLinks(path);
-    const QString top = topFolderOf(parentFolder(place));
-    const QString user = QString::number(::geteuid());
     std::vector<TrashedItem> found;
-    addTrashedFrom(homeTrash(), place, found);
-    for (const QString &trash : {QStringLiteral(".Trash/") + user, QStringLiteral(".Trash-") + user})
-        addTrashedFrom(joinedPath(top, trash), belowTop(place, top), found);
+    for (const NamedPlace &named : trashesFor(withoutLinks(path)))
+        for (const QString &infoFile : infoFilesOf(named))
+            if (const QString item = itemOf(named.trash, infoFile); isTaken(item))
+                found.push_back({item});
     return found;
 }
 

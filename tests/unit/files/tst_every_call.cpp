@@ -161,7 +161,7 @@ const std::map<QByteArray, Work> &works()
 /** The trash of another disk cannot be made, so that items are copied into the user's. */
 int refusalOf(std::string_view call, const char *path)
 {
-    return call == "mkdir" && QByteArray(path).contains("/.Trash-") ? EACCES : 0;
+    return (call == "mkdir" || call == "open") && QByteArray(path).contains("/.Trash-") ? EACCES : 0;
 }
 
 /** Runs the work in a process that ends at the given call; false where it ended before. */
