@@ -4,6 +4,7 @@
 #include "tests/support/scratch_folder.h"
 
 #include "platform/desktop/disk_file_system.h"
+#include "platform/foundation/folders.h"
 #include "tests/support/test_program.h"
 
 #include <QDirIterator>
@@ -88,6 +89,18 @@ Tree withoutTop(Tree tree)
     return tree;
 }
 
+/** Copies that were taken back are in the trash of the other disk, which is not the test's. */
+void emptyTrashOf(const JournalShelf &shelf)
+{
+    for (const QString &name : shelf.names())
+        for (const MoveRecord &record : readRecord(shelf.read(name).value()).items)
+            if (const QFileInfo trashed(record.path); trashed.path().endsWith(QStringLiteral("/files"))) {
+                (void)platform::removeItem(trashed.filePath());
+                QFile::remove(QFileInfo(trashed.path()).path() + QStringLiteral("/info/") + trashed.fileName() +
+                              QStringLiteral(".trashinfo"));
+            }
+}
+
 void carryOut(platform::FileSystem &disk, JournalShelf &shelf, const MoveOrderForm &form)
 {
     QString problem;
@@ -133,6 +146,7 @@ void TestMoveDisk::doesOnTheDiskWhatItDoesOnTheModel()
         QVERIFY(undo.problems.empty());
         carryOut(disk, shelf, undo.form);
         QCOMPARE(twin.everything(), before);
+        emptyTrashOf(shelf);
         compared += int(form.items.size());
     }
     qInfo("%d items", compared);

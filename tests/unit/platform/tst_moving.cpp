@@ -1,10 +1,14 @@
 #include "platform/foundation/folders.h"
+#include "platform/foundation/hidden_item.h"
+#include "platform/foundation/living_process.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 
 #include <QDateTime>
 #include <QTest>
 
+#include <csignal>
+#include <sys/wait.h>
 #include <sys/xattr.h>
 
 using namespace platform;
@@ -25,6 +29,9 @@ private Q_SLOTS:
     void leavesTheSourceOfAMoveToAnotherFileSystem_data();
     void leavesTheSourceOfAMoveToAnotherFileSystem();
     void carriesDatesPermissionsAndAttributes();
+    void carriesAttributesOfWhatIsReadOnly();
+    void endsWhatAKillLeftUnderHiddenNames();
+    void knowsAProcessThatHasEnded();
     void copiesAFolderThatMayNotBeChanged();
     void copiesUnderTheLongestNames();
     void linksToExactlyWhatIsSaid_data();
@@ -155,6 +162,89 @@ void TestMoving::carriesDatesPermissionsAndAttributes()
     char tags[8] = {};
     QCOMPARE(::getxattr(QFile::encodeName(copy.filePath()).constData(), "user.xdg.tags", tags, 7), ssize_t(7));
     QCOMPARE(QByteArray(tags), QByteArray("red,sea"));
+}
+
+/** Who may not write to a file may not hang anything on it either, not even the user whose file it is. */
+void TestMoving::carriesAttributesOfWhatIsReadOnly()
+{
+    const Nobody nobody;
+    const ScratchFolder here;
+    QVERIFY(nobody.ready() && here.write("a.jpg", "a"));
+    const QByteArray name = QFile::encodeName(here.path("a.jpg"));
+    if (::setxattr(name.constData(), "user.xdg.tags", "red,sea", 7, 0) != 0)
+        QSKIP("this file system keeps no attributes");
+    // The owner and the group may read, user 1 too; others may nothing.
+    const QByteArray list = QByteArray::fromHex("02000000"
+                                                "01000400ffffffff"
+                                                "0200040001000000"
+                                                "04000400ffffffff"
+                                                "10000400ffffffff"
+                                                "20000000ffffffff");
+    const bool hasList =
+        ::setxattr(name.constData(), "system.posix_acl_access", list.constData(), size_t(list.size()), 0) == 0;
+    QVERIFY(here.allow("a.jpg", 0440));
+    QVERIFY(copyItem(here.path("a.jpg"), here.path("copy.jpg")));
+    const QByteArray copy = QFile::encodeName(here.path("copy.jpg"));
+    char value[256] = {};
+    QCOMPARE(::getxattr(copy.constData(), "user.xdg.tags", value, sizeof value), ssize_t(7));
+    QCOMPARE(QFileInfo(here.path("copy.jpg")).permissions(), QFileInfo(here.path("a.jpg")).permissions());
+    if (!hasList)
+        QSKIP("this file system keeps no access lists");
+    const ssize_t size = ::getxattr(copy.constData(), "system.posix_acl_access", value, sizeof value);
+    QCOMPARE(QByteArray(value, std::max<ssize_t>(size, 0)), list);
+}
+
+/** What a kill leaves under a hidden name is noted, and ended by the next program. */
+void TestMoving::endsWhatAKillLeftUnderHiddenNames()
+{
+    const ScratchFolder here;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(here.path("data")));
+    QVERIFY(here.write("in/a.jpg", "a") && here.write("in/b.jpg", "b") && here.write("in/c.jpg", "c"));
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const auto hidden = [&](int i) { return here.path(QStringLiteral("in/.quorlin-%1").arg(i)); };
+        const HiddenItem one(HiddenItem::What::Copy, hidden(1), here.path("in/a.jpg"), here.path("in/x.jpg"));
+        const HiddenItem two(HiddenItem::What::Aside, hidden(2), here.path("in/gone.jpg"), here.path("in/b.jpg"));
+        const HiddenItem three(HiddenItem::What::Aside, hidden(3), here.path("in/c.jpg"), here.path("in/b.jpg"));
+        (void)(here.write("in/.quorlin-1", "") && here.write("in/.quorlin-2", "b") &&
+               here.write("in/.quorlin-3", "worked on") && here.write("in/.quorlin-other", "of others"));
+        ::_exit(0);
+    }
+    ::waitpid(child, nullptr, 0);
+    // Those of a living process are left alone: this one.
+    const HiddenItem own(HiddenItem::What::Copy, here.path("in/.quorlin-4"), here.path("in/a.jpg"),
+                         here.path("in/y.jpg"));
+    QVERIFY(here.write("in/.quorlin-4", "h"));
+    QCOMPARE(sweepHiddenItems(), QStringList(here.path("in/c.jpg (2)")));
+    QCOMPARE(here.read("in/c.jpg (2)"), QByteArray("worked on"));
+    QCOMPARE(here.names("in"), QStringLiteral(".quorlin-4,.quorlin-other,a.jpg,b.jpg,c.jpg,c.jpg (2)").split(u','));
+    QVERIFY(sweepHiddenItems().isEmpty());
+}
+
+void TestMoving::knowsAProcessThatHasEnded()
+{
+    int ends[2] = {-1, -1};
+    QCOMPARE(::pipe(ends), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const QByteArray own = processMark().toLatin1();
+        (void)!::write(ends[1], own.constData(), size_t(own.size()));
+        ::pause();
+    }
+    QByteArray bytes(256, '\0');
+    bytes.truncate(std::max<ssize_t>(0, ::read(ends[0], bytes.data(), size_t(bytes.size()))));
+    const QString mark = QString::fromLatin1(bytes);
+    QVERIFY(mayBeLiving(processMark()) && mayBeLiving(mark) && mark != processMark());
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    QVERIFY(!mayBeLiving(mark));
+    QStringList parts = processMark().split(u'/');
+    parts[3] = QStringLiteral("1"); // the number was given to another process
+    QVERIFY(!mayBeLiving(parts.join(u'/')));
+    parts[1] = QStringLiteral("4711"); // a container
+    QVERIFY(mayBeLiving(parts.join(u'/')));
+    parts[0] = QStringLiteral("another start");
+    QVERIFY(!mayBeLiving(parts.join(u'/')) && !mayBeLiving(QString()));
 }
 
 void TestMoving::copiesAFolderThatMayNotBeChanged()
