@@ -4,6 +4,7 @@
 #include "platform/imageio/image_source.h"
 
 #include "tests/support/corpus.h"
+#include "tests/support/test_program.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -121,5 +122,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(DamagedPictures)
+QUORLIN_TEST(DamagedPictures)
 #include "tst_damaged_pictures.moc"

@@ -4,6 +4,7 @@
 #include "platform/imageio/image_source.h"
 
 #include "tests/support/raw_pictures.h"
+#include "tests/support/test_program.h"
 
 #include <QTest>
 
@@ -284,5 +285,5 @@ private Q_SLOTS:
 
 Q_DECLARE_METATYPE(TiffKind)
 
-QTEST_GUILESS_MAIN(PixelForms)
+QUORLIN_TEST(PixelForms)
 #include "tst_pixel_forms.moc"
