@@ -67,7 +67,9 @@ def text():
              "|---" * (len(targets) + 1) + "|"]
     for name, words in PROPERTIES.items():
         lines.append(row([words] + [WORDS[PROMISES[target][name]] for target in targets]))
-    lines += ["", "CMYK stays in TIFF, JPEG and PDF, Lab and floating point in TIFF; elsewhere they become sRGB. Of files with several",
+    lines += ["", "CMYK stays in TIFF, JPEG and PDF; elsewhere it becomes sRGB. Lab, floating point, CMYK with transparency and channels that",
+              "are neither colour nor transparency stay from TIFF to TIFF; elsewhere the first three become RGB and the last are left out.",
+              "Signed and long samples, and those of less than 8 bits, are brought to the full range of 8 or 16 bits. Of files with several",
               "pictures, pages or frames the first one is converted. A JPEG goes into a PDF page byte for byte where it is upright, with",
               "whatever it holds in itself; one that lies on its side is turned first, without loss where that can be done. What a PNG says",
               "in texts, and its gamma, goes along into a PNG. PDF and SVG are drawn at 72 pixels per inch.", "",
@@ -75,6 +77,11 @@ def text():
               "|---" * (len(targets) + 1) + "|"]
     for source in SOURCES:
         lines.append(row([source] + [lost(source, target) for target in targets]))
+    lines += ["", "## How near the pixels are", "", "The mean difference to what another program reads in the source, of 255, is at most this. A test converts pictures of",
+              "every kind and has other programs compare them; the differences that are there come of rounding 16 bits to 8, of lossy",
+              "types, and of the 256 colours of a GIF, which mixes others by dots of these: each dot is off, what is seen of them is not.",
+              "Lab of 8 bits is held against a reader that is half a step off itself, with a bound of 2.", "",
+              row([NAMES[target] for target in targets]), "|---" * len(targets) + "|", row([f"{BOUNDS[target]:g}" for target in targets])]
     lines += ["", "A PDF page has the picture's size in points, so that its resolution is told by its pixels."]
     return "\n".join(lines) + "\n"
 
