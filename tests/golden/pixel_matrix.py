@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""pixel_matrix.py RUNNER WORK_FOLDER [CORPUS]: pictures of every kind to every type, and how far their pixels are off.
+"""pixel_matrix.py RUNNER WORK_FOLDER [CORPUS [EXPRESSION]]: pictures of every kind to every type, and how far their pixels are off.
 
 The script runner converts each picture to all targets. Another program reads the source, another reads what was written, and
 the mean difference of the two is held against the bound of tools/formats.py. Without CORPUS small pictures of unusual kinds
-take part, which ImageMagick makes; with it everything in it of moderate size. Ends with 77 where CORPUS is not there.
+take part, which ImageMagick makes; with it everything in it of moderate size, or what an expression finds in the name. Ends with 77 where CORPUS is not there.
 """
 import re
 import shutil
@@ -101,6 +101,9 @@ class Picture:
             run("heif-convert", self.path, self.work / "item.png")
             found = sorted(self.work.glob("item*.png"))
             source = found[0] if found else source
+        elif kind == ".jp2":
+            run("opj_decompress", "-i", self.path, "-o", self.work / "unpacked-source.png")
+            source = self.work / "unpacked-source.png" if (self.work / "unpacked-source.png").exists() else source
         elif kind == ".svg":
             run("vips", "copy", self.path, self.work / "drawn.png")
             source = self.work / "drawn.png"
@@ -112,6 +115,8 @@ class Picture:
         if not self.raw.exists():
             return f"no reference: {made.stderr.strip()[-120:]}"
         facts = run("identify", "-quiet", "-format", "%[colorspace]|%A|%[profile:icc]|%w|%h\n", f"{self.raw}[0]").stdout.split("\n")[0].split("|")
+        if len(facts) != 5:
+            return "no reference: it cannot be read again"
         self.space, self.has_alpha, self.has_profile = facts[0], facts[1] in ("True", "Blend"), facts[2] != ""
         self.size = (int(facts[3]), int(facts[4]))
         self.orientation = run("exiftool", "-s3", "-n", "-IFD0:Orientation", self.path).stdout.strip() if kind not in (".heic", ".avif") else ""
@@ -261,13 +266,15 @@ def judged(runner, path, work):
     return problems, figures
 
 
-def main(runner, work, corpus=None):
+def main(runner, work, corpus=None, *some):
     shutil.rmtree(work, ignore_errors=True)
     work.mkdir(parents=True)
     paths = made(work) if corpus is None else chosen(corpus)
     if corpus is not None and not paths:
         print("no pictures here")
         return SKIPPED
+    if len(some) > 0:
+        paths = [path for path in paths if re.search(some[0], path.name)]
     with ThreadPoolExecutor(2) as pool:
         found = list(pool.map(lambda job: judged(runner, job[1], work / str(job[0])), enumerate(paths)))
     problems = [line for lines, _ in found for line in lines]
@@ -281,4 +288,4 @@ def main(runner, work, corpus=None):
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1], Path(sys.argv[2]), *map(Path, sys.argv[3:4])))
+    sys.exit(main(sys.argv[1], Path(sys.argv[2]), *map(Path, sys.argv[3:4]), *sys.argv[4:5]))
