@@ -277,6 +277,7 @@ void TestFileDesk::collectsWhatIsHardToReach()
     QCOMPARE(paths[0], at("in/link.jpg"));
     QVERIFY(paths[1].startsWith(at("in/odd")));
     QVERIFY(paths[2].endsWith(text("/far.jpg")) && paths[2].size() > 6000);
+    ::unlink(odd.constData());                             // the folder's own removal has no word for this name
     std::filesystem::current_path(at("in").toStdString()); // too deep to be removed by its path
     std::filesystem::remove_all(name.toStdString());
     std::filesystem::current_path("/");
