@@ -350,5 +350,5 @@ void TestEveryCall::losesNothingByAnotherProgram()
     qInfo("%d calls", calls);
 }
 
-QTEST_GUILESS_MAIN(TestEveryCall)
+QUORLIN_TEST(TestEveryCall)
 #include "tst_every_call.moc"

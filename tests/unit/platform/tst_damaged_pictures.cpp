@@ -20,9 +20,7 @@ namespace {
 /** How often each file is tried; a longer run sets it. */
 int repeats()
 {
-    constexpr int few = 25;
-    const int said = qEnvironmentVariableIntValue("QUORLIN_TEST_TRIES");
-    return said > 0 ? said : few;
+    return tests::repetitions(25, 200);
 }
 
 /** Pixels that no compression makes small. */

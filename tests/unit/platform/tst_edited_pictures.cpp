@@ -97,9 +97,7 @@ bool isDamaged(const QByteArray &bytes)
 
 int tries()
 {
-    constexpr int few = 150;
-    const int wanted = qEnvironmentVariableIntValue("QUORLIN_TEST_TRIES");
-    return wanted > 0 ? wanted : few;
+    return tests::repetitions(150, 2000);
 }
 
 } // namespace
