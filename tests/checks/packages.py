@@ -13,7 +13,7 @@ from pathlib import Path
 
 import source_tree as tree
 
-GROUPS = {"build", "run", "test", "lint", "package", "bench", "fuzz", "bare"}
+GROUPS = {"build", "run", "test", "lint", "package", "pictures", "bench", "fuzz", "bare"}
 # What every Debian has: essential packages, bash and what a shell provides itself.
 ALWAYS = set("""apt-get awk basename bash cat cd chmod cmp comm cp cut date df dirname dpkg-query du echo env exec exit
     export find grep gzip head id kill ln ls mapfile mkdir mktemp mv nice printf read rm sed seq set sh sha256sum sleep
@@ -22,6 +22,7 @@ ALWAYS = set("""apt-get awk basename bash cat cd chmod cmp comm cp cut date df d
 KNOWN = """cmake ctest cpack ninja pkg-config python3 git exiftool vips vipsheader vipsthumbnail vipsedit identify
     convert gm mogrify exiv2 Xvfb xvfb-run xdotool import desktop-file-validate appstreamcli clang-format clang-tidy
     run-clang-tidy hyperfine jpegtran djpeg cjpeg tiffinfo pdfinfo pdftoppm pdfimages opj_decompress opj_compress compare lupdate lrelease rsvg-convert file xauth
+    cwebp gif2webp heif-enc tiffcp tiffset
     sqlite3 plistutil dbus-run-session strace valgrind mmdebstrap""".split()
 HEADERS = {"tl/expected.hpp"}
 # Formats of Qt that are read and written by plugins of a package of their own.
@@ -106,6 +107,8 @@ def groups_for(where):
         return {"build", "run", "test", "bare"}
     if where == "tests/checks/format.py" or where.endswith("Lint.cmake"):
         return {"build", "run", "test", "lint"}
+    if where.startswith("tests/pictures/"):
+        return {"test", "pictures"}
     if where.startswith(("tests/", ".ci/")) or where in ("test", "tools/make-samples.py"):
         return {"build", "run", "test"}
     return {"build"}

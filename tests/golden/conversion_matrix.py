@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""conversion_matrix.py SCRIPT_RUNNER CORPUS WORK_FOLDER: real pictures of every readable type to every target, read by others.
+"""conversion_matrix.py SCRIPT_RUNNER own|CORPUS WORK_FOLDER: pictures of every readable type to every target, read by others.
 
 One run of the script runner converts them all. exiftool, ImageMagick, poppler, libtiff and OpenJPEG then look at what was
 written, and what they find is held against the table of promises in tools/formats.py. Ends with 77 where there is no corpus.
@@ -14,19 +14,20 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools"))
 import formats
+import picture_folders
 
 SKIPPED = 77
 TARGETS = list(formats.PROMISES)
 SUFFIX = {"jpeg": "JPEG", "png": "PNG", "tiff": "TIFF", "bmp": "BMP", "gif": "GIF", "jp2": "JP2", "pdf": "PDF"}
-FOLDERS = ("formats", "exif-real", "orientation", "dpi")
-PHOTO = "formats/flower.jpg"
+FOLDERS = ("formats", "exif-real", "metadata", "orientation", "dpi")
+PHOTOS = ("formats/flower.jpg", "formats/photo.jpg")
 # More pixels only take time.
 MOST_PIXELS = 1_300_000
 # Two of 255, which nobody sees.
 TWO_LEVELS = 2 / 255
 # Pictures of a series of which a few say all.
-SOME = {"orientation": re.compile(r"landscape_[368]|portrait_5|exif_imagemagick|g4_|webp|avif"),
-        "exif-real": re.compile(r"DSCN|Pentax|Reagan|uc-unicode|i18n|bug528|Canon_40D|Paint"), "dpi": re.compile(""),
+SOME = {"orientation": re.compile(r"landscape_[368]|portrait_5|exif_imagemagick|g4_|webp|avif|turned|container"),
+        "exif-real": re.compile(r"DSCN|Pentax|Reagan|uc-unicode|i18n|bug528|Canon_40D|Paint"), "dpi": re.compile(""), "metadata": re.compile(""),
         "formats": re.compile("")}
 # No decoder here reads these: nothing may come of them.
 UNREAD = {"formats/IMG_1361.dng"}
@@ -39,16 +40,13 @@ GROUPS = {"exif": ("ExifIFD",), "gps": ("GPS",), "iptc": ("IPTC",), "xmp": ("XMP
 
 def sources(corpus):
     """The rows of EXPECT.tsv that take part."""
-    lines = (corpus / "EXPECT.tsv").read_text(encoding="utf-8").rstrip("\n").split("\n")
-    names = lines[0].split("\t")
-    rows = [dict(zip(names, line.split("\t"))) for line in lines[1:]]
     chosen = []
-    for row in rows:
+    for row in picture_folders.rows(corpus):
         folder = row["path"].split("/")[0]
         width, height = (float(side) for side in row["upright_wxh"].split("x")) if "x" in row["upright_wxh"] else (0, 0)
         if folder in FOLDERS and SOME[folder].search(row["path"]) and width * height <= MOST_PIXELS:
             chosen.append(row)
-    chosen.sort(key=lambda row: row["path"] != PHOTO)
+    chosen.sort(key=lambda row: row["path"] not in PHOTOS)
     return chosen
 
 
@@ -256,10 +254,10 @@ def check_qualities(matrix):
     found = pixels_of([str(path) for path in paths.values()])
     qualities = [int(found[str(path)]["quality"]) for path in paths.values()]
     wanted = [10, 20, 30, 40, 50, 60, 70, 80, 90, 90, 90]
-    matrix.expect(qualities == wanted, {"path": PHOTO}, "jpeg", f"qualities {qualities}")
+    matrix.expect(qualities == wanted, matrix.rows[0], "jpeg", f"qualities {qualities}")
     sizes = [path.stat().st_size for path in paths.values()]
     grows = all(small < large for small, large in zip(sizes[:8], sizes[1:9])) and len(set(sizes[8:])) == 1
-    matrix.expect(grows, {"path": PHOTO}, "jpeg", f"sizes {sizes}")
+    matrix.expect(grows, matrix.rows[0], "jpeg", f"sizes {sizes}")
 
 
 def softened(path, work, name):
@@ -286,13 +284,13 @@ def check_gif(matrix, work):
     dots = [error(path, truth) for path in (ours, theirs)]
     seen = [error(softened(path, work, name), original) for path, name in ((ours, "ours"), (theirs, "theirs"))]
     print(f"GIF of a photograph, ours and ImageMagick's: error {dots[0]:.4f} and {dots[1]:.4f}, softened {seen[0]:.4f} and {seen[1]:.4f}")
-    matrix.expect(dots[0] < dots[1], {"path": PHOTO}, "gif", f"error {dots[0]}, ImageMagick's {dots[1]}")
-    matrix.expect(seen[0] < TWO_LEVELS, {"path": PHOTO}, "gif", f"colours are off by {seen[0]}")
+    matrix.expect(dots[0] < dots[1], matrix.rows[0], "gif", f"error {dots[0]}, ImageMagick's {dots[1]}")
+    matrix.expect(seen[0] < TWO_LEVELS, matrix.rows[0], "gif", f"colours are off by {seen[0]}")
 
 
-def main(runner, corpus, work):
-    if not (corpus / "EXPECT.tsv").exists():
-        print("no pictures here")
+def main(runner, pictures, work):
+    corpus = picture_folders.named(pictures)
+    if corpus is None:
         return SKIPPED
     rows = sources(corpus)
     shutil.rmtree(work, ignore_errors=True)
@@ -312,4 +310,4 @@ def main(runner, corpus, work):
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1], Path(sys.argv[2]), Path(sys.argv[3])))
+    sys.exit(main(sys.argv[1], sys.argv[2], Path(sys.argv[3])))

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""corpus_batch.py SCRIPT_RUNNER CORPUS WORK_FOLDER FOLDER...: a batch over folders of real pictures, read back by others.
+"""corpus_batch.py SCRIPT_RUNNER own|CORPUS WORK_FOLDER FOLDER...: a batch over folders of pictures, read back by others.
 
 One run of the script runner resizes every picture in nine ways. Then programs that are not ours (exiftool, vips) look at
 what was written: exactly the files that had to come, each of the right size and type, each decodable to its last byte,
@@ -13,6 +13,8 @@ import subprocess
 import sys
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
+
+import picture_folders
 
 SKIPPED = 77
 MEMORY_BOUND_MB = 400
@@ -32,10 +34,7 @@ UNREADABLE = ("no", "partial")
 
 def expectations(corpus, folders):
     """The rows of EXPECT.tsv for these folders, as dictionaries."""
-    lines = (corpus / "EXPECT.tsv").read_text(encoding="utf-8").rstrip("\n").split("\n")
-    names = lines[0].split("\t")
-    rows = [dict(zip(names, line.split("\t"))) for line in lines[1:]]
-    return [row for row in rows if row["path"].split("/")[0] in folders]
+    return [row for row in picture_folders.rows(corpus) if row["path"].split("/")[0] in folders]
 
 
 def digests(corpus, folders):
@@ -207,9 +206,8 @@ def mean_difference(one, other, work):
 
 
 def main():
-    runner, corpus, work, folders = sys.argv[1], Path(sys.argv[2]), Path(sys.argv[3]), sys.argv[4:]
-    if not (corpus / "EXPECT.tsv").exists():
-        print(f"no corpus in {corpus}")
+    runner, corpus, work, folders = sys.argv[1], picture_folders.named(sys.argv[2]), Path(sys.argv[3]), sys.argv[4:]
+    if corpus is None:
         return SKIPPED
     work.mkdir(parents=True, exist_ok=True)
     before = digests(corpus, folders)

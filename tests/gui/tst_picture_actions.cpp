@@ -159,7 +159,7 @@ private Q_SLOTS:
         QFETCH(QString, fileType);
         QFETCH(QString, written);
         const QString path = m_pictures + QStringLiteral("/landscape_6.jpg");
-        QVERIFY(QFile::copy(corpusPath("orientation/landscape_6.jpg"), path));
+        QVERIFY(QFile::copy(picturePath("own/orientation/landscape_6.jpg"), path));
         m_driver->drop({m_pictures});
         m_driver->show(qPrintable(action));
         m_driver->choose("fileType", fileType);
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QFETCH(int, orientation);
         const QString name = QStringLiteral("landscape_%1.jpg").arg(orientation);
         const QString path = m_pictures + QLatin1Char('/') + name;
-        QVERIFY(QFile::copy(corpusPath("orientation/") + name, path));
+        QVERIFY(QFile::copy(picturePath(QStringLiteral("own/orientation/") + name), path));
         const platform::Picture before = platform::Picture::fromFile(path);
         m_driver->drop({m_pictures});
         m_driver->show("turn");

@@ -6,7 +6,7 @@
 #include <QList>
 #include <QStringList>
 
-/** A file name of the shared corpus in the forms that another implementation of Unicode gives it. */
+/** A file name in the forms that another implementation of Unicode gives it. */
 struct CorpusName
 {
     QString name;
@@ -31,19 +31,33 @@ inline QString unescaped(const QString &text)
     return result;
 }
 
-/** Empty where the corpus is not there. */
+/** Those of the tests themselves, and those of the corpus where it is there. */
 inline QList<CorpusName> corpusNames()
 {
-    QFile file(corpusPath("names/names-expect.tsv"));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
     QList<CorpusName> names;
-    QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
-    for (const QString &line : lines.mid(1)) {
-        QStringList columns = line.split(u'\t');
-        for (QString &column : columns)
-            column = unescaped(column);
-        names.append({columns.value(0), columns.value(1), columns.value(2), columns.value(4), columns.value(5)});
+    for (const QString &table :
+         {QStringLiteral(QUORLIN_TEST_DATA "/names/names-expect.tsv"), corpusPath("names/names-expect.tsv")}) {
+        QFile file(table);
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        for (const QString &line : lines.mid(1)) {
+            QStringList columns = line.split(u'\t');
+            for (QString &column : columns)
+                column = unescaped(column);
+            names.append({columns.value(0), columns.value(1), columns.value(2), columns.value(4), columns.value(5)});
+        }
     }
+    return names;
+}
+
+/** The names that one folder can hold, each once. */
+inline QStringList oddNames()
+{
+    QStringList names;
+    for (const CorpusName &each : corpusNames())
+        if (!each.name.contains(u'/') && QFile::encodeName(each.name).size() <= 255)
+            names << each.name;
+    names.removeDuplicates();
     return names;
 }

@@ -295,7 +295,7 @@ void TestPrinting::printsPicturesUpright_data()
 void TestPrinting::printsPicturesUpright()
 {
     QFETCH(QString, name);
-    const QString folder = corpusPath("orientation/");
+    const QString folder = picturePath("own/orientation/");
     const QImage right = printed(folder + name.left(name.size() - 5) + QStringLiteral("2.jpg"));
     const QImage out = printed(folder + name);
     QVERIFY(!inkOf(out).isEmpty());

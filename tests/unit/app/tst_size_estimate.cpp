@@ -128,6 +128,7 @@ void TestSizeEstimate::isExactWhereAllPixelsAreThere()
 void TestSizeEstimate::comesNearForCameraPhotos_data()
 {
     QTest::addColumn<QString>("path");
+    SKIP_WITHOUT_CORPUS();
     for (const expected::Row &row : expected::rows(QStringLiteral("exif-real/")))
         if (row.format == QLatin1String("JPEG") && row.isDecodable && row.upright.width() >= 600 &&
             !row.name.contains(QLatin1String("/uc-"))) // of the same pixels

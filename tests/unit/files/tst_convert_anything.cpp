@@ -33,7 +33,7 @@ void ConvertAnything::endsWithAPictureOrNothing_data()
 {
     QTest::addColumn<QString>("path");
     constexpr int mostPixels = 400'000; // more only take time
-    for (const char *folder : {"broken/", "formats/", "orientation/rot", "dpi/"})
+    for (const char *folder : {"broken/", "formats/", "orientation/rot", "orientation/container", "dpi/"})
         for (const expected::Row &row : expected::rows(QString::fromLatin1(folder)))
             if (!row.isDecodable || row.upright.width() * row.upright.height() <= mostPixels)
                 QTest::newRow(qPrintable(row.name)) << row.path;

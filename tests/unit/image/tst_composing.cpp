@@ -27,9 +27,9 @@ QString text(const char *chars)
     return QString::fromUtf8(chars);
 }
 
-QString corpus(const char *name)
+QString pictureNamed(const char *name)
 {
-    return corpusPath(text(name));
+    return picturePath(name);
 }
 
 } // namespace
@@ -115,14 +115,14 @@ private Q_SLOTS:
 
     void neverWritesPhotoshopAndPdf()
     {
-        for (const char *name : {"formats/hopper.psd", "formats/ISO_12233-reschart.pdf"}) {
-            QCOMPARE(rounded(corpus(name), 5, "0", "9"), notSupported);
-            QCOMPARE(laid(corpus(name), "9"), notSupported);
+        for (const char *name : {"own/formats/rgb.psd", "own/formats/drawing.pdf"}) {
+            QCOMPARE(rounded(pictureNamed(name), 5, "0", "9"), notSupported);
+            QCOMPARE(laid(pictureNamed(name), "9"), notSupported);
             QCOMPARE(written(), QStringList());
         }
-        QCOMPARE(laid(corpus("formats/hopper.psd"), "0"), ok);
-        QCOMPARE(rounded(corpus("formats/hopper.psd"), 5, "0", "1"), ok);
-        QCOMPARE(written(), (QStringList{text("hopper.png"), text("hopper.tiff")}));
+        QCOMPARE(laid(pictureNamed("own/formats/rgb.psd"), "0"), ok);
+        QCOMPARE(rounded(pictureNamed("own/formats/rgb.psd"), 5, "0", "1"), ok);
+        QCOMPARE(written(), (QStringList{text("rgb.png"), text("rgb.tiff")}));
     }
 
     void failsWithoutASource()
@@ -233,7 +233,7 @@ private Q_SLOTS:
 
     void carriesMetadataOnlyWithRoundCorners()
     {
-        const QString path = corpus("exif-real/Canon_40D.jpg");
+        const QString path = pictureNamed("own/metadata/every-group.jpg");
         const auto model = [this](const char *name) {
             const auto opened = ImageSource::open(m_out + text(name));
             return opened ? opened->properties().value(text("{TIFF}")).toMap().value(text("Model")).toString()
@@ -241,20 +241,20 @@ private Q_SLOTS:
         };
         for (const char *code : {"1", "7"})
             QCOMPARE(rounded(path, 10, "0", code), ok);
-        QCOMPARE(model("Canon_40D.tiff"), QStringLiteral("Canon EOS 40D"));
-        QCOMPARE(model("Canon_40D.jpg"), QStringLiteral("Canon EOS 40D"));
+        QCOMPARE(model("every-group.tiff"), QStringLiteral("Test Camera"));
+        QCOMPARE(model("every-group.jpg"), QStringLiteral("Test Camera"));
         for (const char *code : {"1", "7"})
             QCOMPARE(laid(path, code), ok);
-        QCOMPARE(model("Canon_40D.tiff"), QString());
-        QCOMPARE(model("Canon_40D.jpg"), QString());
+        QCOMPARE(model("every-group.tiff"), QString());
+        QCOMPARE(model("every-group.jpg"), QString());
     }
 
     void keepsTheTablesOfAJpeg()
     {
-        const QString path = corpus("exif-real/Canon_40D.jpg");
+        const QString path = pictureNamed("own/metadata/every-group.jpg");
         QCOMPARE(laid(path, "7"), ok);
         const auto before = Picture::fromFile(path).bitmap().jpegQuantisation();
-        const auto after = result("Canon_40D.jpg").jpegQuantisation();
+        const auto after = result("every-group.jpg").jpegQuantisation();
         QVERIFY(before && after);
         QCOMPARE(after->tables, before->tables);
     }
@@ -263,8 +263,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<double>("dpi");
-        for (const auto &[name, dpi] : std::initializer_list<std::pair<const char *, double>>{
-                 {"dpi/jfif-300dpi.jpg", 300}, {"dpi/phys-144dpi.png", 144}, {"dpi/exif300-jfif72.jpg", 300}})
+        for (const auto &[name, dpi] :
+             std::initializer_list<std::pair<const char *, double>>{{"own/dpi/jfif-300dpi.jpg", 300},
+                                                                    {"own/dpi/phys-144dpi.png", 144},
+                                                                    {"own/dpi/exif300-jfif72.jpg", 300}})
             QTest::newRow(name) << text(name) << dpi;
     }
 
@@ -272,7 +274,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(double, dpi);
-        const QString path = corpusPath(name);
+        const QString path = picturePath(name);
         const QSize size = Picture::fromFile(path).bitmap().size();
         for (const char *code : {"0", "1", "7"}) {
             for (const bool isRounded : {true, false}) {
@@ -310,7 +312,7 @@ private Q_SLOTS:
         QCOMPARE(framed.size(), QSizeF(120, 100));
         QCOMPARE(framed.bitmap().pixel(9, 50), (Pixel{255, 255, 255, 255}));
         QCOMPARE(framed.bitmap().pixel(10, 10), plain.bitmap().pixel(0, 0));
-        const Picture dense = m_service->addBorderToImage(Picture::fromFile(corpus("dpi/jfif-300dpi.jpg")));
+        const Picture dense = m_service->addBorderToImage(Picture::fromFile(pictureNamed("own/dpi/jfif-300dpi.jpg")));
         QCOMPARE(dense.size(), QSizeF(220, 170));
         QCOMPARE(dense.bitmap().pixel(10 + 48, 159), (Pixel{255, 255, 255, 255})); // 200 pixels are 48 points
         QVERIFY(dense.bitmap().pixel(10 + 47, 159) != (Pixel{255, 255, 255, 255}));

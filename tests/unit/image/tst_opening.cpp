@@ -64,18 +64,18 @@ private Q_SLOTS:
     void readsTheStoredPixels()
     {
         ZtImageHandling service;
-        const BitmapHandle tall = service.hStringToCGImageRef(corpusPath("orientation/landscape_6.jpg"));
-        QCOMPARE(tall.bitmap().size(), QSize(450, 600));
+        const BitmapHandle tall = service.hStringToCGImageRef(picturePath("own/orientation/landscape_6.jpg"));
+        QCOMPARE(tall.bitmap().size(), QSize(40, 60));
     }
 
     void tellsAMissingSourceFromOneWithoutAnImage()
     {
         ZtImageHandling service;
-        const QString corpus = corpusPath("broken/");
-        QVERIFY(service.hStringToCGImageRef(corpus + QStringLiteral("missing.jpg")).isNull());
-        QVERIFY(service.hStringToCGImageRef(corpus + QStringLiteral("text-named.jpg")).isNull());
+        const QString broken = picturePath("own/broken/");
+        QVERIFY(service.hStringToCGImageRef(broken + QStringLiteral("missing.jpg")).isNull());
+        QVERIFY(service.hStringToCGImageRef(broken + QStringLiteral("text-named.jpg")).isNull());
         service.hStringToCGImageRef(picture("a.png", 30, 20));
-        const BitmapHandle damaged = service.hStringToCGImageRef(corpus + QStringLiteral("truncated_image.png"));
+        const BitmapHandle damaged = service.hStringToCGImageRef(broken + QStringLiteral("truncated.png"));
         QVERIFY(!damaged.isNull());
         QVERIFY(damaged.bitmap().isNull());
         QVERIFY(service.property("myImageRef").value<BitmapHandle>().isNull());
@@ -92,10 +92,10 @@ private Q_SLOTS:
     void makesAPictureOfThePixelSize()
     {
         ZtImageHandling service;
-        const BitmapHandle bitmap = service.hStringToCGImageRef(corpusPath("dpi/tiff-300dpi-inch.tif"));
-        QCOMPARE(qRound(bitmap.bitmap().pointSize().width() * 1000), 48000);
+        const BitmapHandle bitmap = service.hStringToCGImageRef(picturePath("own/dpi/tiff-300dpi-inch.tif"));
+        QCOMPARE(qRound(bitmap.bitmap().pointSize().width() * 1000), 14400);
         const platform::Picture made = service.imageFromCGImageRef(bitmap);
-        QCOMPARE(made.size(), QSizeF(200, 150));
+        QCOMPARE(made.size(), QSizeF(60, 40));
         QCOMPARE(made.bitmap().pixel(10, 10), bitmap.bitmap().pixel(10, 10));
         QVERIFY(service.imageFromCGImageRef(BitmapHandle()).isNull());
     }

@@ -11,7 +11,7 @@ using platform::ImageSource;
 using platform::Metadata;
 
 namespace {
-const QString camera = corpusPath("exif-real/canon_hdr_NO.jpg");
+const QString camera = picturePath("own/metadata/tall.jpg");
 
 Metadata metadataOf(const QString &path)
 {
@@ -37,16 +37,16 @@ private Q_SLOTS:
     void reachATiffWithTheirOrientationEntry()
     {
         ZtImageHandling service;
-        QCOMPARE(service.resizeImage(camera, 200, 2, out(), QStringLiteral("public.tiff"), {}), QStringLiteral("OK"));
-        const QString path = out() + QStringLiteral("canon_hdr_NO.tiff");
+        QCOMPARE(service.resizeImage(camera, 30, 2, out(), QStringLiteral("public.tiff"), {}), QStringLiteral("OK"));
+        const QString path = out() + QStringLiteral("tall.tiff");
         const Metadata written = metadataOf(path);
         // The pixels stand upright already, and the entry of the source is carried all the same.
         QCOMPARE(written.orientation(), 6);
-        QCOMPARE(ImageSource::open(path)->storedSize(), QSize(150, 200));
+        QCOMPARE(ImageSource::open(path)->storedSize(), QSize(20, 30));
         QCOMPARE(group(written, "{TIFF}").value(QStringLiteral("Make")),
                  group(metadataOf(camera), "{TIFF}").value(QStringLiteral("Make")));
         QCOMPARE(group(written, "{Exif}").value(QStringLiteral("DateTimeOriginal")).toString(),
-                 QStringLiteral("2015:02:09 22:47:44"));
+                 QStringLiteral("2026:05:17 14:03:09"));
         QCOMPARE(written.toProperties().value(QStringLiteral("DPIWidth")).toDouble(), 180.0);
     }
 
@@ -54,11 +54,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("name");
-        QTest::newRow("JPEG") << QStringLiteral("public.jpeg") << QStringLiteral("canon_hdr_NO.jpg");
-        QTest::newRow("PNG") << QStringLiteral("public.png") << QStringLiteral("canon_hdr_NO.png");
-        QTest::newRow("JPEG 2000") << QStringLiteral("public.jp2") << QStringLiteral("canon_hdr_NO.jp2");
-        QTest::newRow("GIF") << QStringLiteral("com.compuserve.gif") << QStringLiteral("canon_hdr_NO.gif");
-        QTest::newRow("BMP") << QStringLiteral("public.bmp") << QStringLiteral("canon_hdr_NO.bmp");
+        QTest::newRow("JPEG") << QStringLiteral("public.jpeg") << QStringLiteral("tall.jpg");
+        QTest::newRow("PNG") << QStringLiteral("public.png") << QStringLiteral("tall.png");
+        QTest::newRow("JPEG 2000") << QStringLiteral("public.jp2") << QStringLiteral("tall.jp2");
+        QTest::newRow("GIF") << QStringLiteral("com.compuserve.gif") << QStringLiteral("tall.gif");
+        QTest::newRow("BMP") << QStringLiteral("public.bmp") << QStringLiteral("tall.bmp");
     }
 
     void reachNoOtherTypeOfAResize()
@@ -66,7 +66,7 @@ private Q_SLOTS:
         QFETCH(QString, type);
         QFETCH(QString, name);
         ZtImageHandling service;
-        QCOMPARE(service.resizeImage(camera, 200, 2, out(), type, QStringLiteral("8")), QStringLiteral("OK"));
+        QCOMPARE(service.resizeImage(camera, 30, 2, out(), type, QStringLiteral("8")), QStringLiteral("OK"));
         QVERIFY(metadataOf(out() + name).isEmpty());
     }
 
@@ -110,7 +110,7 @@ private Q_SLOTS:
     void carryTheResolutionOfAPngIntoATiff()
     {
         ZtImageHandling service;
-        service.resizeImage(corpusPath("dpi/phys-144dpi.png"), 50, 3, out(), QStringLiteral("public.tiff"), {});
+        service.resizeImage(picturePath("own/dpi/phys-144dpi.png"), 50, 3, out(), QStringLiteral("public.tiff"), {});
         const auto written = ImageSource::open(out() + QStringLiteral("phys-144dpi.tiff"))->decode();
         QVERIFY(std::abs(written->horizontalDpi() - 144) < 0.1);
     }

@@ -160,7 +160,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<double>("dpi");
-        for (const char *folder : {"dpi/", "formats/", "exif-real/", "orientation/"})
+        for (const char *folder : {"dpi/", "formats/", "exif-real/", "metadata/", "orientation/"})
             for (const expected::Row &row : expected::rows(QString::fromLatin1(folder)))
                 QTest::newRow(qPrintable(row.name)) << row.path << row.dpi;
     }
@@ -227,7 +227,7 @@ private Q_SLOTS:
         for (const expected::Row &row : expected::rows(QStringLiteral("broken/")))
             QVERIFY(
                 std::isfinite(conversion.convertXtoPixel(row.path, QStringLiteral("pixel"), QStringLiteral("cm"), 3)));
-        QCOMPARE(conversion.getPictureDPI(corpusPath("broken/zero-byte.jpg")), 0.0F);
+        QCOMPARE(conversion.getPictureDPI(picturePath("own/broken/zero-byte.jpg")), 0.0F);
         QCOMPARE(log.text(), QByteArray());
     }
 };

@@ -50,7 +50,7 @@ private Q_SLOTS:
 
     void isTheWholeForALargerPart()
     {
-        const auto source = ImageSource::open(corpusPath("dpi/jfif-72dpi.jpg"));
+        const auto source = ImageSource::open(picturePath("own/dpi/jfif-72dpi.jpg"));
         QVERIFY(source);
         const auto part = source->decodePart(QRect(-100, -100, 2000, 2000));
         QVERIFY(part);
@@ -59,7 +59,7 @@ private Q_SLOTS:
 
     void failsWhereNothingIsLeft()
     {
-        const auto source = ImageSource::open(corpusPath("dpi/jfif-72dpi.jpg"));
+        const auto source = ImageSource::open(picturePath("own/dpi/jfif-72dpi.jpg"));
         QVERIFY(source);
         for (const QRect &part : {QRect(), QRect(200, 0, 10, 10), QRect(0, -10, 10, 10), QRect(5, 5, 0, 3)}) {
             const auto decoded = source->decodePart(part);

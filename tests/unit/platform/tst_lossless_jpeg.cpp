@@ -225,7 +225,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         for (const expected::Row &row : expected::rows())
-            if (row.format == QLatin1String("JPEG") && row.isDecodable && !row.name.startsWith(QLatin1String("broken")))
+            if (row.format == QLatin1String("JPEG") && row.isDecodable && !row.name.contains(QLatin1String("broken/")))
                 QTest::newRow(qPrintable(row.name)) << row.path;
     }
 

@@ -12,9 +12,9 @@ using namespace platform;
 
 namespace {
 
-QString corpus(const QString &name)
+QString pictureNamed(const QString &name)
 {
-    return corpusPath("orientation/") + name;
+    return picturePath(QStringLiteral("own/orientation/") + name);
 }
 
 } // namespace
@@ -30,8 +30,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("before");
         for (int orientation = 1; orientation <= 8; ++orientation)
             QTest::addRow("jpeg %d", orientation) << QStringLiteral("landscape_%1.jpg").arg(orientation) << orientation;
-        QTest::newRow("tiff 1") << QStringLiteral("g4_orientation_1.tif") << 1;
-        QTest::newRow("tiff 6") << QStringLiteral("g4_orientation_6.tif") << 6;
+        QTest::newRow("tiff 1") << QStringLiteral("turned_1.tif") << 1;
+        QTest::newRow("tiff 6") << QStringLiteral("turned_6.tif") << 6;
     }
 
     void marksAFileUprightAndChangesNothingElse()
@@ -40,7 +40,7 @@ private Q_SLOTS:
         QFETCH(int, before);
         QTemporaryDir folder;
         const QString path = folder.filePath(name);
-        QVERIFY(QFile::copy(corpus(name), path));
+        QVERIFY(QFile::copy(pictureNamed(name), path));
         QCOMPARE(ImageSource::open(path)->orientation(), before);
         const QByteArray was = pictures::bytesOf(path);
         QVERIFY(markUpright(path).has_value());
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, statement);
         QFETCH(QByteArray, marked);
         const QByteArray name("http://ns.adobe.com/xap/1.0/\0", 29);
-        const QByteArray plain = pictures::bytesOf(corpus(QStringLiteral("landscape_1.jpg")));
+        const QByteArray plain = pictures::bytesOf(pictureNamed(QStringLiteral("landscape_1.jpg")));
         const QByteArray packet = name + "<x>" + statement + "</x>";
         const QByteArray head = QByteArray("\xff\xe1") + char(0) + char(packet.size() + 2);
         const QByteArray file = plain.left(2) + head + packet + plain.mid(2);
@@ -80,7 +80,7 @@ private Q_SLOTS:
 
     void leavesAFileThatStatesNone()
     {
-        const QByteArray file = pictures::bytesOf(corpus(QStringLiteral("exif-orientation-0.jpg")));
+        const QByteArray file = pictures::bytesOf(pictureNamed(QStringLiteral("invalid_0.jpg")));
         const Result<QByteArray> marked = markedUpright(file);
         QVERIFY(marked.has_value());
         QVERIFY(Metadata::fromFileBytes(*marked).orientation() <= 1);
@@ -90,7 +90,7 @@ private Q_SLOTS:
     {
         QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("a.png"));
-        QVERIFY(QFile::copy(corpus(QStringLiteral("exif_imagemagick_orientation.png")), path));
+        QVERIFY(QFile::copy(pictureNamed(QStringLiteral("turned_6.png")), path));
         const QByteArray was = pictures::bytesOf(path);
         const Result<void> result = markUpright(path);
         QVERIFY(!result.has_value());

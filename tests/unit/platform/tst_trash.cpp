@@ -1,5 +1,5 @@
 #include "platform/desktop/trash.h"
-#include "tests/support/corpus.h"
+#include "tests/support/corpus_names.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 
@@ -8,22 +8,6 @@
 #include <QUrl>
 
 using namespace platform;
-
-namespace {
-
-/** Every name that is handed to people who make file names up, one a line with escapes for what a line cannot hold. */
-QStringList oddNames()
-{
-    QFile file(corpusPath("names/names.txt"));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QStringList names = QString::fromUtf8(file.readAll()).split(u'\n');
-    names.removeAll(QString());
-    names.removeIf([](const QString &name) { return name.contains(u'/') || QFile::encodeName(name).size() > 255; });
-    return names;
-}
-
-} // namespace
 
 /** The trash: what lies in it, what file managers are told, and that nothing is ever lost. */
 class TestTrash : public QObject
@@ -156,8 +140,7 @@ void TestTrash::trashesALinkAndNotWhatItLeadsTo()
 void TestTrash::takesEveryName()
 {
     const QStringList names = oddNames();
-    if (names.isEmpty())
-        QSKIP("no list of names here");
+    QVERIFY(names.size() > 20);
     for (const QString &name : names) {
         QVERIFY2(m_home->write(QStringLiteral("in/") + name, name.toUtf8()), qPrintable(name));
         QVERIFY2(moveToTrash(m_home->path(QStringLiteral("in/") + name)), qPrintable(name));

@@ -207,17 +207,19 @@ private Q_SLOTS:
     void keepsColoursOfEveryKind_data()
     {
         QTest::addColumn<QString>("name");
-        for (const char *name : {"pil_sample_cmyk.jpg", "hopper.iccprofile.tif", "hopper.Lab.tif", "hopper_gray.jpg",
-                                 "tiff_16bit_RGBa.tiff", "tiff_strip_cmyk_jpeg.tif", "pngsuite-basn4a16.png"})
-            QTest::newRow(name) << QString::fromUtf8(name);
+        for (const QString &name : picturesThere(
+                 {"own/formats/cmyk.jpg", "own/formats/profile.tif", "own/formats/lab8.tif", "own/formats/grey.jpg",
+                  "own/formats/rgba16.tif", "own/formats/cmyk16.tif", "own/formats/grey-alpha16.png",
+                  "formats/pil_sample_cmyk.jpg", "formats/hopper.iccprofile.tif", "formats/hopper.Lab.tif",
+                  "formats/hopper_gray.jpg", "formats/tiff_16bit_RGBa.tiff", "formats/tiff_strip_cmyk_jpeg.tif",
+                  "formats/pngsuite-basn4a16.png"}))
+            QTest::newRow(qPrintable(name)) << name;
     }
 
     void keepsColoursOfEveryKind()
     {
         QFETCH(QString, name);
-        const QString path = corpusPath("formats/") + name;
-        if (!QFile::exists(path))
-            QSKIP("the shared pictures are not here");
+        const QString path = picturePath(name);
         const Bitmap source = platform::ImageSource::open(path)->decode().value_or(Bitmap());
         QVERIFY(!source.isNull());
         const int longest = std::max(source.width(), source.height());

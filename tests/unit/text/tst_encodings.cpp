@@ -94,8 +94,7 @@ void TestEncodings::replacesHalvesOfPairs()
 void TestEncodings::cutsNamesIntoPieces()
 {
     const QList<CorpusName> names = corpusNames();
-    if (names.isEmpty())
-        QSKIP("The corpus is not here");
+    QVERIFY(!names.isEmpty());
     for (const CorpusName &name : names) {
         for (const QString &separator : {QStringLiteral("."), QStringLiteral(" "), QStringLiteral("no such text")}) {
             const QStringList pieces = text::pieces(name.name, separator);

@@ -88,8 +88,7 @@ void TestLetters::foldsAccents()
 void TestLetters::foldsHowTheNameIsStoredAway()
 {
     const QList<CorpusName> names = corpusNames();
-    if (names.isEmpty())
-        QSKIP("The corpus is not here");
+    QVERIFY(!names.isEmpty());
     for (const CorpusName &name : names) {
         const QString folded = text::foldedToAscii(name.name);
         QVERIFY2(std::all_of(folded.begin(), folded.end(), [](QChar c) { return c.unicode() < 128; }),

@@ -126,8 +126,7 @@ void TestRanges::inserts()
 void TestRanges::putsNamesTogetherAgain()
 {
     const QList<CorpusName> names = corpusNames();
-    if (names.isEmpty())
-        QSKIP("The corpus is not here");
+    QVERIFY(!names.isEmpty());
     for (const CorpusName &name : names) {
         const int length = int(name.name.size());
         for (int i = 0; i <= length; ++i) {
