@@ -6,6 +6,8 @@
 
 #include <QtEndian>
 
+#include <cmath>
+
 namespace platform {
 namespace {
 
@@ -45,6 +47,11 @@ Resolution ofPhotoshop(QIODevice &file)
     constexpr int headerBytes = 26;
     constexpr quint16 resolutionId = 1005;
     constexpr double onePerInch = 65536; // fixed point
+    // A whole number that somebody's rounding has moved by the last bit is read as what was meant.
+    const auto meant = [](quint32 value) {
+        const double perInch = value / onePerInch;
+        return std::abs(perInch - std::round(perInch)) <= 1 / onePerInch ? std::round(perInch) : perInch;
+    };
     const auto number = [&file] {
         const QByteArray bytes = file.read(4);
         return bytes.size() == 4 ? qint64(qFromBigEndian<quint32>(bytes.constData())) : -1;
@@ -66,8 +73,8 @@ Resolution ofPhotoshop(QIODevice &file)
         if (qFromBigEndian<quint16>(head.constData() + 4) == resolutionId) {
             const QByteArray values = file.read(16);
             return values.size() < 16 ? Resolution()
-                                      : Resolution{qFromBigEndian<quint32>(values.constData()) / onePerInch,
-                                                   qFromBigEndian<quint32>(values.constData() + 8) / onePerInch};
+                                      : Resolution{meant(qFromBigEndian<quint32>(values.constData())),
+                                                   meant(qFromBigEndian<quint32>(values.constData() + 8))};
         }
         if (!file.seek(file.pos() + length + length % 2))
             return {};
@@ -130,7 +137,9 @@ Resolution resolutionOf(const PictureBytes &bytes, Content content)
     case Content::Png:
     case Content::Bmp:
     case Content::Photoshop:
-        return plausible(ofContainer(bytes, content));
+        if (const Resolution own = plausible(ofContainer(bytes, content)); own.horizontal > 0)
+            return own;
+        return plausible(ofMetadata(bytes, content));
     case Content::Pdf:
     case Content::Svg:
     case Content::Gif:

@@ -6,11 +6,13 @@
 #include "platform/desktop/user_defaults.h"
 
 #include "tests/support/own_settings.h"
+#include "tests/support/pinned_world.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QFontInfo>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTest>
@@ -32,8 +34,12 @@ private:
 
 } // namespace
 
-WindowDriver::WindowDriver(QApplication &application) : m_application(application)
+// The name is no longer for a test of a longer name, since windows show paths.
+WindowDriver::WindowDriver(QApplication &application)
+    : m_application(application), m_home(QDir::tempPath() + QStringLiteral("/quorlin-XXXXXX"))
 {
+    if (const QString family = QFontInfo(QFont()).family(); family != QLatin1String("DejaVu Sans"))
+        qFatal("the tests measure with DejaVu Sans, of the package fonts-dejavu-core, and got %s", qPrintable(family));
     qputenv("HOME", m_home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", (m_home.path() + QStringLiteral("/.local/share")).toLocal8Bit());
     keepSettingsIn(m_home.path() + QStringLiteral("/.config"));

@@ -313,11 +313,11 @@ private Q_SLOTS:
         QCOMPARE(framed.bitmap().pixel(9, 50), (Pixel{255, 255, 255, 255}));
         QCOMPARE(framed.bitmap().pixel(10, 10), plain.bitmap().pixel(0, 0));
         const Picture dense = m_service->addBorderToImage(Picture::fromFile(pictureNamed("own/dpi/jfif-300dpi.jpg")));
-        QCOMPARE(dense.size(), QSizeF(220, 170));
-        QCOMPARE(dense.bitmap().pixel(10 + 48, 159), (Pixel{255, 255, 255, 255})); // 200 pixels are 48 points
-        QVERIFY(dense.bitmap().pixel(10 + 47, 159) != (Pixel{255, 255, 255, 255}));
-        QVERIFY(dense.bitmap().pixel(10, 170 - 10 - 36) != (Pixel{255, 255, 255, 255}));
-        QCOMPARE(dense.bitmap().pixel(10, 170 - 10 - 37), (Pixel{255, 255, 255, 255}));
+        QCOMPARE(dense.size(), QSizeF(80, 60));
+        QCOMPARE(dense.bitmap().pixel(10 + 15, 49), (Pixel{255, 255, 255, 255})); // 60 pixels are 14.4 points
+        QVERIFY(dense.bitmap().pixel(10 + 13, 49) != (Pixel{255, 255, 255, 255}));
+        QVERIFY(dense.bitmap().pixel(10, 60 - 10 - 9) != (Pixel{255, 255, 255, 255}));
+        QCOMPARE(dense.bitmap().pixel(10, 60 - 10 - 11), (Pixel{255, 255, 255, 255}));
         QVERIFY(m_service->addBorderToImage(Picture()).isNull());
     }
 
