@@ -204,6 +204,7 @@ constexpr const char *leftOut[] = {
     "IFD0:OtherImage",
     "IFD0:PageNumber",
     "IFD0:PlanarConfiguration",
+    "IFD0:ReferenceBlackWhite",
     "IFD0:Predictor",
     "IFD0:PreviewImage",
     "IFD0:PreviewImageLength",

@@ -127,7 +127,8 @@ private Q_SLOTS:
         row("own/broken/missing.jpg", ErrorCode::NotFound);
         row("own/broken/zero-byte.jpg", ErrorCode::NotAPicture);
         row("own/broken/text-named.jpg", ErrorCode::NotAPicture);
-        for (const char *name : {"own/broken/truncated.jpg", "own/broken/truncated.png", "own/broken/truncated.gif", "own/broken/bomb-30000x30000.bmp"})
+        for (const char *name : {"own/broken/truncated.jpg", "own/broken/truncated.png", "own/broken/truncated.gif",
+                                 "own/broken/bomb-30000x30000.bmp"})
             row(name, ErrorCode::Unreadable);
         row("own/broken/bomb-60000x60000.png", ErrorCode::TooLarge);
         row("own/broken/bomb-100000x100000.tif", ErrorCode::TooLarge);
