@@ -193,6 +193,7 @@ constexpr Tag tags[] = {
  */
 constexpr const char *leftOut[] = {
     "IFD0:BitsPerSample",
+    "IFD0:ColorMap",
     "IFD0:ExtraSamples",
     "IFD0:FillOrder",
     "IFD0:ImageHeight",
@@ -235,6 +236,7 @@ constexpr const char *leftOut[] = {
     "IFD0:UniqueCameraModel",
     "IPTC:ApplicationRecordVersion",
     "IPTC:CodedCharacterSet",
+    "IPTC:EnvelopeRecordVersion",
 };
 
 } // namespace same

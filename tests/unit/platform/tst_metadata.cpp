@@ -495,6 +495,8 @@ void TheMetadata::survivesBrokenFiles()
             for (const QByteArray &plain : {jpeg, tiff}) {
                 const auto written = each.writtenInto(plain);
                 QVERIFY(written);
+                const auto opened = platform::ImageSource::fromData(*written);
+                QVERIFY2(opened, opened ? "" : qPrintable(opened.error().message));
                 QCOMPARE(storedPixels(*written), storedPixels(plain));
             }
     }
