@@ -93,15 +93,24 @@ void PictureTable::arrangeColumns()
         return qMax(kinds[i].widthPx, horizontalHeader()->sectionSizeHint(int(i)));
     };
     const auto shareOf = [this](size_t i) { return m_model.stressesNewNames() ? kinds[i].share : 1; };
+    int texts = 0;
     for (size_t i = 0; i < kinds.size(); ++i) {
         room -= m_columnShown[i] && kinds[i].widthPx > 0 ? fixedWidth(i) : 0;
         shares += m_columnShown[i] && kinds[i].widthPx == 0 ? shareOf(i) : 0;
+        texts += m_columnShown[i] && kinds[i].widthPx == 0 ? 1 : 0;
     }
+    // Where not even narrow texts have room, a long heading is cut off, since the list is not to be moved sideways.
+    int lacking = qMax(0, texts * narrowestTextPx - room);
+    const auto cutWidth = [&](size_t i) {
+        const int given = qMin(lacking, fixedWidth(i) - kinds[i].widthPx);
+        lacking -= given;
+        return fixedWidth(i) - given;
+    };
     for (size_t i = 0; i < kinds.size(); ++i) {
         if (!m_columnShown[i])
             continue;
         const int text = qMax(narrowestTextPx, room * shareOf(i) / qMax(1, shares));
-        horizontalHeader()->resizeSection(int(i), kinds[i].widthPx > 0 ? fixedWidth(i) : text);
+        horizontalHeader()->resizeSection(int(i), kinds[i].widthPx > 0 ? cutWidth(i) : text);
     }
     m_arranging = false;
 }

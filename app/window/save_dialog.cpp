@@ -7,6 +7,7 @@
 #include "platform/foundation/paths.h"
 #include "platform/foundation/type_identifiers.h"
 
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -122,6 +123,11 @@ void SaveDialog::arrange(const platform::PanelRequest &request)
 void SaveDialog::showNames()
 {
     setLabelText(LookIn, tr("Save in:"));
+    // A path may be longer than any window is wide.
+    if (auto *path = findChild<QComboBox *>(QStringLiteral("lookInCombo"))) {
+        path->setToolTip(path->currentText());
+        connect(path, &QComboBox::currentTextChanged, path, &QComboBox::setToolTip);
+    }
     if (auto *list = findChild<QTreeView *>(QStringLiteral("treeView"))) {
         constexpr int measuredRows = 50; // all of a folder would take long
         list->header()->setResizeContentsPrecision(measuredRows);

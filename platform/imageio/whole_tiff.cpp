@@ -137,8 +137,12 @@ private:
         const qint64 size = type < elementSizes.size() ? elementSizes[type] : 0;
         if (size == 0 || (count >= 0 && count <= inlineSize / size))
             return;
+        // A value that is longer than all of the file is nonsense in one entry, which writers hand on, and no sign of a cut:
+        // the pixels are behind it or before the directory, and are looked for where they should be.
+        if (count < 0 || count > m_file.size() / size)
+            return;
         const qint64 at = m_file.number(entry + 4 + inlineSize, inlineSize, m_isLittle);
-        m_isSound = m_isSound && count >= 0 && at >= 0 && at <= m_file.size() && count <= (m_file.size() - at) / size;
+        m_isSound = m_isSound && at >= 0 && at <= m_file.size() && count <= (m_file.size() - at) / size;
     }
 
     void takeEntry(Directory &directory, qint64 entry)

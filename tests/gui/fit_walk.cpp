@@ -110,7 +110,8 @@ QString comboLack(const QComboBox &box)
 bool isNamedByPeople(const QComboBox &box)
 {
     static const QStringList names = {QStringLiteral("preset"), QStringLiteral("destination"),
-                                      QStringLiteral("pattern"), QStringLiteral("sortDestination")};
+                                      QStringLiteral("pattern"), QStringLiteral("sortDestination"),
+                                      QStringLiteral("lookInCombo")};
     return names.contains(box.objectName());
 }
 
