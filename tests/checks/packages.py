@@ -22,7 +22,7 @@ ALWAYS = set("""apt-get awk basename bash cat cd chmod cmp comm cp cut date df d
 KNOWN = """cmake ctest cpack ninja pkg-config python3 git exiftool vips vipsheader vipsthumbnail vipsedit identify
     convert gm mogrify exiv2 Xvfb xvfb-run xdotool import desktop-file-validate appstreamcli clang-format clang-tidy
     run-clang-tidy hyperfine jpegtran djpeg cjpeg tiffinfo pdfinfo pdftoppm pdfimages opj_decompress opj_compress compare lupdate lrelease rsvg-convert file xauth
-    cwebp gif2webp heif-enc tiffcp tiffset
+    cwebp gif2webp webpmux heif-enc tiffcp tiffset
     sqlite3 plistutil dbus-run-session strace valgrind mmdebstrap""".split()
 HEADERS = {"tl/expected.hpp"}
 # Formats of Qt that are read and written by plugins of a package of their own.
