@@ -48,7 +48,8 @@ cNSStringHandling::cNSStringHandling(QObject *parent) : QObject(parent) {}
 
 QString cNSStringHandling::hChangeCaseFiles(const QString &text, const QVariant &mode) const
 {
-    return sameNull(text, text::changedCase(text, caseChange(mode)));
+    const text::CaseChange change = caseChange(mode);
+    return change == text::CaseChange::None ? formatted(text) : sameNull(text, text::changedCase(text, change));
 }
 
 QStringList cNSStringHandling::hSplitString(const QString &text, const QString &separator) const

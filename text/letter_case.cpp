@@ -90,15 +90,15 @@ QString capitalised(const QString &text)
 {
     QString result;
     result.reserve(text.size());
-    bool isLetterDue = true;
+    bool isBetweenWords = true;
     for (qsizetype i = 0; i < text.size(); i += unitsOf(characterAt(text, i))) {
         const char32_t c = characterAt(text, i);
-        const bool isFirstLetter = isLetterDue && QChar::isLetter(c);
-        if (isFirstLetter)
+        // Of a word only its very first character counts: "1st", not "1St".
+        if (isBetweenWords && QChar::isLetter(c))
             result += titleCase(c);
         else
             appendLower(result, text, i);
-        isLetterDue = QChar::isSpace(c) || (isLetterDue && !isFirstLetter);
+        isBetweenWords = QChar::isSpace(c);
     }
     return result;
 }

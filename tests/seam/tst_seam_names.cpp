@@ -46,12 +46,15 @@ void TestSeamNames::changesText_data()
     addColumns();
     row("s.hChangeCaseFiles('JOHN smith', 3)", "\"John Smith\"");
     row("s.hChangeCaseFiles('JOHN smith', '3')", "\"John Smith\"");
-    row("[0, '0', 4, 'x', 1.5, null, [], {}].every(m => s.hChangeCaseFiles('JOHN smith', m) === 'JOHN smith')", "true");
+    row("[0, '0', 4, 'x', 1.5, null].every(m => s.hChangeCaseFiles('JOHN smith', m) === 'JOHN smith')", "true");
     row("s.hChangeCaseFiles('JOHN smith', 1) + s.hChangeCaseFiles('JOHN smith', '2')", "\"john smithJOHN SMITH\"");
     row("s.hChangeCaseFiles('', 3)", "\"\"");
+    row("s.hChangeCaseFiles('1ST 2nd a-b', 3)", "\"1st 2nd A-b\"");
     row("s.hChangeCaseFiles(null, 3)", "null");
-    row("s.hChangeCaseFiles('a', true)",
-        "TypeError: Expected text, a number, a list, a dictionary or null for mode but received true");
+    row("[0, '0', 4, null].map(m => s.hChangeCaseFiles(null, m))", "[\"(null)\",\"(null)\",\"(null)\",\"(null)\"]");
+    row("s.hChangeCaseFiles('a', [])", "TypeError: Expected text, a number or null for mode but received a list");
+    row("s.hChangeCaseFiles('a', {})", "TypeError: Expected text, a number or null for mode but received an object");
+    row("s.hChangeCaseFiles('a', true)", "TypeError: Expected text, a number or null for mode but received true");
     row("s.hSplitString('a-b--c', '-').join('|')", "\"a|b||c\"");
     row("s.hSplitString('a+b', '+').concat(s.hSplitString('a', '+'), s.hSplitString('', '+')).join('|')", "\"a|b|a|\"");
     row("s.hSplitString('ab', '').length", "1");

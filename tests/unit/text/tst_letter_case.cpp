@@ -66,8 +66,8 @@ void TestLetterCase::capitalisesTheFirstLetterOfEachWord_data()
     row("o'NEIL", "O'neil");
     row("JEAN-luc", "Jean-luc");
     row("IMG_A.JPG", "Img_a.jpg");
-    row("(john) \"SMITH\"", "(John) \"Smith\"");
-    row("2nd", "2Nd");
+    row("(john) \"SMITH\" smith", "(john) \"smith\" Smith");
+    row("1ST 2nd", "1st 2nd");
     row("a\tb\nc\u00A0d\u3000e\u2028f", "A\tB\nC\u00A0D\u3000E\u2028F");
     row("a\u200Bb", "A\u200Bb");
     row("  two  spaces ", "  Two  Spaces ");
@@ -77,7 +77,7 @@ void TestLetterCase::capitalisesTheFirstLetterOfEachWord_data()
     row("İSTANBUL ıSPARTA", "İstanbul Isparta");
     row("ΟΔΟΣ ΣΑΣ", "Οδος Σας");
     row("写真ABC", "写真abc");
-    row("😀smile", "😀Smile");
+    row("😀Smile smile", "😀smile Smile");
     row("𐐨𐐀", "𐐀𐐨");
 }
 
