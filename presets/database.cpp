@@ -1,5 +1,6 @@
 #include "presets/database.h"
 
+#include "platform/foundation/utf8.h"
 #include "presets/guard.h"
 
 #include <QFile>
@@ -181,7 +182,9 @@ bool Prepared::step()
 QString Prepared::text(int index) const
 {
     const auto *bytes = reinterpret_cast<const char *>(sqlite3_column_text(m_statement, index));
-    const QString text = QString::fromUtf8(bytes, sqlite3_column_bytes(m_statement, index));
+    const QByteArray column(bytes, sqlite3_column_bytes(m_statement, index));
+    // What is no UTF-8 is read as well as it can be; the toolkit's reader would leave out U+FEFF in front of a text.
+    const QString text = platform::textFromUtf8(column).value_or(QString::fromUtf8(column));
     return text.isNull() ? QStringLiteral("") : text;
 }
 

@@ -188,10 +188,10 @@ platform::SharedTexts dbViewController::checkForActionType(const QString &table,
 
 QString dbViewController::removePresetFromDatabase(const QString &table, const QString &column, const QString &value)
 {
-    open();
+    const bool isOpen = open();
     {
         presets::Prepared rows = m_db.prepare(presets::deleteWhere(table, column, value));
-        if (!rows.isValid())
+        if (isOpen && !rows.isValid())
             m_presetExist = QStringLiteral("preset not found");
         while (rows.step())
             m_presetExist = QStringLiteral("preset removed"); // a removal gives no rows

@@ -91,7 +91,8 @@ public:
     Q_INVOKABLE platform::SharedTexts checkForActionType(const QString &table, const QString &column,
                                                          const QString &value);
 
-    /** Removes the rows that match. "preset not found" for an invalid statement; else myPresetExist as it was. */
+    /** Removes the rows that match. "preset not found" for an invalid statement; else, also where the file cannot be opened, myPresetExist
+     * as it was. */
     Q_INVOKABLE QString removePresetFromDatabase(const QString &table, const QString &column, const QString &value);
 
     /** Adds two rows to Image where there is such a table, one with the data and one with NULL. Leaves the file open. */

@@ -82,7 +82,7 @@ std::optional<QString> takeName(QStringView &rest, int mostParts)
 std::optional<QString> oneName(const QString &text, int mostParts)
 {
     QStringView rest = withoutSpace(text);
-    const std::optional<QString> name = takeName(rest, mostParts);
+    const std::optional<QString> name = text.isValidUtf16() ? takeName(rest, mostParts) : std::nullopt;
     return rest.isEmpty() ? name : std::nullopt;
 }
 
@@ -107,7 +107,7 @@ std::optional<QStringList> columnList(const QString &text)
 
 bool staysInsideQuotes(const QString &text)
 {
-    return !text.contains(u'\'') && !text.contains(QChar(u'\0'));
+    return !text.contains(u'\'') && !text.contains(QChar(u'\0')) && text.isValidUtf16();
 }
 
 bool isSameName(const QString &a, const QString &b)

@@ -22,7 +22,10 @@ std::optional<QString> oneName(const QString &text, int mostParts);
 /** The columns of a list such as "StrField0, StrField1", "*" among them where it stands; nothing if one is no name. */
 std::optional<QStringList> columnList(const QString &text);
 
-/** Whether @p text can stand between single quotes without ending them, or the statement. */
+/**
+ * Whether @p text can stand between single quotes without ending them, or the statement, and as itself: half a character would
+ * become another text in UTF-8.
+ */
 bool staysInsideQuotes(const QString &text);
 
 /** Whether two names are the same to SQLite, which folds the letters A to Z only. */

@@ -58,6 +58,17 @@ void TestSeamPresets::answersInTheFormsOfScripts_data()
              {"db.checkPresetNameFromTableNamed('Presets', 'NameOfPreset', 'x')", "null"},
              {"db.removePresetFromDatabase('None', 'NameOfPreset', 'x')", "\"preset not found\""},
              {"db.checkForActionType('Presets', 'Process', 'x')", "null"},
+             {"['\\uFEFFa', '\\uFEFF', 'a\\uFEFF'].map(n => { db.insertSortingPresetToDB01(row(n, n)); "
+              "return db.checkPresetNameFromTableNamed('Presets', 'NameOfPreset', n) === n && "
+              "db.checkForActionType('Presets', 'Process', n)[0].split('|')[0] === n; })",
+              "[true,true,true]"},
+             {"(() => { db.insertSortingPresetToDB01(row('a?', 'p')); "
+              "const answer = db.removePresetFromDatabase('Presets', 'NameOfPreset', 'a\\uD800'); "
+              "return [answer, db.checkPresetNameFromTableNamed('Presets', 'NameOfPreset', 'a?')]; })()",
+              "[\"preset not found\",\"a?\"]"},
+             {"(() => { try { db.insertSortingPresetToDB01(row('\\uDC00', 'p')); } catch (e) { return e.message; } "
+              "})()",
+              "\"Error updating table.\""},
              {"[db.myPresetsArray, db.myPresetsArrayToPass]", "[null,null]"},
              {"(db.checkForActionType('Presets', 'Process', 'x'), [db.myPresetsArray, db.myPresetsArrayToPass])",
               "[[],null]"},

@@ -192,8 +192,17 @@ void TestDamagedFiles::failsAtAFolderInItsPlace()
     QCOMPARE(raisedBy([&] { db.insertSortingPresetToDB(); }), openFailure);
     QVERIFY(!db.connection().isOpen());
     QVERIFY(db.checkPresetNameFromTableNamed(presetsTable, process, sorting).isNull());
-    QCOMPARE(db.removePresetFromDatabase(presetsTable, process, sorting), notFound);
+    // Nobody could look, so nobody says that there is none.
+    QVERIFY(db.removePresetFromDatabase(presetsTable, process, sorting).isNull());
     QVERIFY(QFileInfo(m_store->path()).isDir());
+    QVERIFY(QDir().rmdir(m_store->path()));
+    db.linkToPresetsDB();
+    db.insertSortingPresetToDB();
+    const QString name = db.checkPresetNameFromTableNamed(presetsTable, process, sorting);
+    QVERIFY(QFile::remove(m_store->path()));
+    QVERIFY(QDir().mkpath(m_store->path()));
+    QCOMPARE(db.removePresetFromDatabase(presetsTable, process, sorting), name);
+    QVERIFY(!name.isEmpty());
 }
 
 void TestDamagedFiles::makesTheFileBehindALinkToNothing()
