@@ -206,14 +206,11 @@ void ZtImageHandling::setCurrentImage(const BitmapHandle &imageRef)
 bool ZtImageHandling::decideType(const QString &path, const QVariant &requestedType)
 {
     fileExtension = platform::pathExtension(path);
-    const QString sourceType = platform::typeIdentifierForExtension(fileExtension);
-    if (image::keepsSourceType(requestedType)) {
+    fileUTI = platform::typeIdentifierForExtension(fileExtension);
+    const bool keepsType = image::keepsSourceType(requestedType);
+    if (keepsType)
         fileExtensionNSString = fileExtension;
-        myFileType = sourceType;
-    } else {
-        fileUTI = sourceType;
-        myFileType = requestedType.toString();
-    }
+    myFileType = keepsType ? fileUTI : requestedType.toString();
     return !image::isNeverWritten(myFileType);
 }
 
