@@ -15,6 +15,7 @@
 #include "platform/foundation/folders.h"
 #include "platform/foundation/human_texts.h"
 #include "platform/foundation/item_facts.h"
+#include "platform/foundation/locations.h"
 #include "platform/foundation/paths.h"
 #include "platform/foundation/plist.h"
 #include "platform/foundation/raised.h"
@@ -29,7 +30,7 @@ QString okOrFailed(bool isDone)
 QUrl locationFrom(const QVariant &value, qsizetype index)
 {
     const bool isText = value.metaType() == QMetaType::fromType<QString>();
-    const QUrl location(isText ? value.toString() : QString());
+    const QUrl location = platform::locationOf(isText ? value.toString() : QString());
     if (!location.isValid() || location.isRelative())
         throw platform::Raised::typeError(
             QStringLiteral("Expected a location such as file:///a/b.jpg for locations[%1] but received %2")
@@ -165,12 +166,12 @@ QVariant cNSFileHandling::readPlist(const QString &path, const QString &key)
     return value && value->isValid() ? *value : QVariant::fromValue(nullptr);
 }
 
-void cNSFileHandling::writeToPlist(const QString &path, const QString &key, const QVariant &value)
+void cNSFileHandling::writeToPlist(const QString &path, const QString &key, const platform::PropertyValue &value)
 {
     const auto file = platform::readFile(path);
     if (!file)
         return;
-    if (const auto changed = platform::withPropertyListValue(*file, key, value))
+    if (const auto changed = platform::withPropertyListValue(*file, key, value.value))
         (void)platform::replaceFile(path, *changed);
 }
 

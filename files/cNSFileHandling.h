@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/property_value.h"
 #include "platform/foundation/sender.h"
 #include "platform/graphics/picture.h"
 
@@ -126,7 +127,7 @@ public:
      * Changes one key of a property list; a null value removes it. Everything else and the form of the file are kept.
      * Nothing happens where no property list with a dictionary is at @p path, and for a value that none can hold.
      */
-    Q_INVOKABLE void writeToPlist(const QString &path, const QString &key, const QVariant &value);
+    Q_INVOKABLE void writeToPlist(const QString &path, const QString &key, const platform::PropertyValue &value);
 
     /** Replaces the file at @p path, or makes it; nothing happens for null. */
     Q_INVOKABLE void writeNSDataToFile(const QByteArray &data, const QString &path);

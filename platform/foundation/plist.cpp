@@ -137,7 +137,7 @@ QVariant valueOf(plist_t node)
 bool isAllowedInXml(const QString &text)
 {
     const bool hasControls = std::any_of(text.begin(), text.end(), [](QChar c) {
-        const bool isControl = c < u' ' && c != u'\t' && c != u'\n';
+        const bool isControl = c < u' ' && c != u'\t' && c != u'\n' && c != u'\r';
         return isControl || c == QChar(0xFFFE) || c == QChar(0xFFFF);
     });
     return !hasControls && text.isValidUtf16();
@@ -241,7 +241,9 @@ QByteArray written(plist_t root, bool isBinary)
     else
         plist_to_xml(root, &memory, &size);
     const Memory owner(memory);
-    return memory ? QByteArray(memory, qsizetype(size)) : QByteArray();
+    QByteArray bytes = memory ? QByteArray(memory, qsizetype(size)) : QByteArray();
+    // As it stands, every reader of XML would take a carriage return for a line feed, or drop it before one.
+    return isBinary ? bytes : bytes.replace('\r', "&#13;");
 }
 
 } // namespace

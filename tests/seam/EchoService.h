@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/foundation/flag.h"
+#include "platform/foundation/property_value.h"
 #include "platform/foundation/sender.h"
 #include "platform/graphics/picture.h"
 
@@ -56,6 +57,7 @@ public:
     Q_INVOKABLE QString takeFlag(platform::Flag flag) const;
     Q_INVOKABLE QString takeSender(platform::Sender) const { return QStringLiteral("taken"); }
     Q_INVOKABLE QString takeAny(const QVariant &thing) const;
+    Q_INVOKABLE QString takeProperty(const platform::PropertyValue &thing) const { return takeAny(thing.value); }
     Q_INVOKABLE QString takeDictionary(const QVariantMap &dictionary) const;
     Q_INVOKABLE QString takeList(const QVariantList &list) const;
     Q_INVOKABLE QString takeTexts(const QStringList &names) const;
@@ -76,7 +78,7 @@ public:
     // What is answered.
     Q_INVOKABLE void giveNothing() const {}
     Q_INVOKABLE QString giveText(const QString &text) const { return text; }
-    Q_INVOKABLE QVariant giveAny(const QVariant &thing) const { return thing; }
+    Q_INVOKABLE QVariant giveAny(const platform::PropertyValue &thing) const { return thing.value; }
     Q_INVOKABLE QVariantMap giveDictionary(const QVariantMap &dictionary) const { return dictionary; }
     Q_INVOKABLE QVariantList giveList(const QVariantList &list) const { return list; }
     Q_INVOKABLE QStringList giveTexts(const QStringList &names) const { return names; }

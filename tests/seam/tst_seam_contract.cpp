@@ -38,6 +38,7 @@ QString wordOf(script::Kind kind, QMetaType type)
         {Kind::Flag, QStringLiteral("flag")},
         {Kind::Sender, QStringLiteral("sender")},
         {Kind::Any, QStringLiteral("anything")},
+        {Kind::Property, QStringLiteral("property")},
         {Kind::Dictionary, QStringLiteral("dictionary")},
         {Kind::List, QStringLiteral("list")},
         {Kind::TextList, QStringLiteral("texts")},

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void readsAndWritesFiles() { answersWhatItIsAsked(); }
     void waitsForNoPipe_data();
     void waitsForNoPipe() { answersWhatItIsAsked(); }
+    void changesPropertyLists_data();
+    void changesPropertyLists() { readsAndWritesFiles(); }
     void convertsPictures_data();
     void convertsPictures() { answersWhatItIsAsked(); }
     void answersWhatItIsAsked();
@@ -110,8 +112,21 @@ void TestSeamFiles::readsAndWritesFiles_data()
         "0");
     row("(f.writeNSDataToFile(null, 'FOLDER/a.txt'), f.readNSDataFromFile('FOLDER/a.txt').byteLength)", "5");
     row("f.readNSDataFromFile('FOLDER/missing')", "null");
+}
+
+void TestSeamFiles::changesPropertyLists_data()
+{
+    QTest::addColumn<QString>("expression");
+    QTest::addColumn<QString>("outcome");
+    const auto row = [](const char *expression, const char *outcome) {
+        QTest::newRow(expression) << QString::fromUtf8(expression) << QString::fromUtf8(outcome);
+    };
     row("(f.writeToPlist('FOLDER/none.plist', 'a', 1), f.hCheckIfFileExist('FOLDER/none.plist'))", "\"NO\"");
     row("(f.writeToPlist('FOLDER/a.txt', 'a', 1), f.hReadTextFileLbyL('FOLDER/a.txt'))", "[\"hello\"]");
+    row("(f.hWriteTextFile('FOLDER/l.txt', 'x'), f.hDeleteFiles(['file://localhostFOLDER/l.txt', "
+        "'file://other/FOLDER/a.txt']), "
+        "[f.hCheckIfFileExist('FOLDER/l.txt'), f.hCheckIfFileExist('FOLDER/a.txt')])",
+        "[\"NO\",\"OK\"]");
     row("f.readPlist('FOLDER/a.txt', 'a')", "null");
     row("f.readPlist('FOLDER/missing', 'a')", "null");
     row("[plist('<true/>'), f.readPlist('FOLDER/a.plist', 'other')]", "[true,null]");
@@ -126,6 +141,29 @@ void TestSeamFiles::readsAndWritesFiles_data()
         "[\"x\",7,2.5,[1,\"a\",true],{\"k\":\"1970-01-01T00:00:01.000Z\"},\"\",true]");
     row("(plist('<true/>'), f.writeToPlist('FOLDER/a.plist', 'key', null), f.readPlist('FOLDER/a.plist', 'key'))",
         "null");
+    row("(plist('<true/>'), [true, false, new Date(1000), 'a\\r\\nb\\rc', {}, []].map(v => {"
+        " f.writeToPlist('FOLDER/a.plist', 'key', v); return f.readPlist('FOLDER/a.plist', 'key'); }))",
+        "[true,false,\"1970-01-01T00:00:01.000Z\",\"a\\r\\nb\\rc\",{},[]]");
+    row("(plist('<true/>'), f.writeToPlist('FOLDER/a.plist', 'key', new Uint8Array([1, 255]).buffer), "
+        "new Uint8Array(f.readPlist('FOLDER/a.plist', 'key')).join())",
+        "\"1,255\"");
+    row("(plist('<true/>'), f.writeToPlist('FOLDER/a.plist', 'key', 'a\\rb'), "
+        "f.hReadTextFileLbyL('FOLDER/a.plist').filter(l => l.includes('a&#13;b')).length)",
+        "1");
+    row("(plist('<true/>'), f.writeToPlist('FOLDER/a.plist', 'key', Array(20000).fill({a: [1, 'x']})), "
+        "f.readPlist('FOLDER/a.plist', 'key').length)",
+        "20000");
+    row("f.writeToPlist('FOLDER/a.plist', 'key', () => 1)",
+        "TypeError: Expected text, a number, true or false, a date, data, a list, a dictionary or null for value but "
+        "received a function");
+    row("(() => { let a = []; for (let i = 0; i < 60; ++i) a = [a, a]; f.writeToPlist('FOLDER/a.plist', 'key', a); "
+        "})()",
+        "TypeError: value holds more than 1000000 values");
+    row("(plist('<true/>'), f.writeToPlist('FOLDER/a.plist', 'key', JSON.parse('{\"__proto__\": {\"a\": 1}, \"b\": "
+        "2}')), "
+        "Object.keys(f.readPlist('FOLDER/a.plist', 'key')).concat(f.readPlist('FOLDER/a.plist', 'key').a === "
+        "undefined))",
+        "[\"__proto__\",\"b\",true]");
     row("(plist('<true/>'), f.writeToPlist('FOLDER/a.plist', 'key', [null]), f.readPlist('FOLDER/a.plist', 'key'))",
         "true");
 }
