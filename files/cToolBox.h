@@ -153,7 +153,7 @@ private:
     QString myCompType;
     QVariant extensions;
     QString myJPEGcompression;
-    std::unique_ptr<platform::SavePanel> m_panel;
+    std::shared_ptr<platform::SavePanel> m_panel;
     QVariant tagNames;
     QPointer<QObject> wwFormats;
     QPointer<QObject> pubFileType;

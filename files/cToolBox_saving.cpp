@@ -57,8 +57,10 @@ QVariant cToolBox::hSaveDialogFile(const QString &source)
     request.folder = files::startFolder();
     request.showsTagField = asksForTags;
     request.accessory = wwFormats;
-    m_panel = std::make_unique<platform::SavePanel>();
-    const platform::PanelAnswer answer = m_panel->run(request);
+    // A script that runs while the panel is up may open another one, which takes its place in the field.
+    const auto panel = std::make_shared<platform::SavePanel>();
+    m_panel = panel;
+    const platform::PanelAnswer answer = panel->run(request);
     const QString path = files::chosenPath(answer);
     if (path.isNull())
         return QVariant::fromValue(nullptr);

@@ -4,6 +4,7 @@
 #include "app/script/defaults_module.h"
 #include "app/script/facade.h"
 #include "app/script/host_call.h"
+#include "app/script/import_place.h"
 #include "app/script/no_network.h"
 #include "app/script/panels_module.h"
 #include "app/script/seam.h"
@@ -151,13 +152,28 @@ QString ScriptEngine::describe(const QJSValue &error, const QStringList &trace, 
                     error.property(QStringLiteral("lineNumber")).toInt()};
         text = error.toString();
     } else {
-        text = QStringLiteral("Error: %1").arg(error.isString() ? error.toString() : m_seam->values().described(error));
+        text = nameAndMessage(error);
     }
+    if (!isUsable(location))
+        location = placeOfMissingImport(file, text);
     if (!isUsable(location))
         location = locationInTrace(trace);
     if (!isUsable(location))
         location = {file, 1};
     return sentence(location, text);
+}
+
+/** What was thrown and is no error, in the form of one. */
+QString ScriptEngine::nameAndMessage(const QJSValue &thrown) const
+{
+    const QString name = thrown.property(QStringLiteral("name")).toString();
+    const QJSValue message = thrown.property(QStringLiteral("message"));
+    const bool saysMore = thrown.isObject() && message.isString();
+    const bool hasName = saysMore && thrown.property(QStringLiteral("name")).isString() && !name.isEmpty();
+    m_engine->catchError(); // a getter of the script may throw
+    if (saysMore)
+        return QStringLiteral("%1: %2").arg(hasName ? name : QStringLiteral("Error"), message.toString());
+    return QStringLiteral("Error: %1").arg(thrown.isString() ? thrown.toString() : m_seam->values().described(thrown));
 }
 
 void ScriptEngine::reportWarnings(const QList<QQmlError> &warnings)

@@ -88,6 +88,7 @@ private:
 
     platform::Result<QJSValue> run(const QString &program, const Body &body, const QString &file);
     QString describe(const QJSValue &error, const QStringList &trace, const QString &file) const;
+    QString nameAndMessage(const QJSValue &thrown) const;
     void reportWarnings(const QList<QQmlError> &warnings);
     void registerOwnModules();
 

@@ -29,7 +29,17 @@ namespace {
 
 template<typename T> ServiceEntry standIn()
 {
-    return serviceEntry<T>("quorlin/controls", true);
+    ServiceEntry entry = serviceEntry<T>("quorlin/controls", true);
+    entry.isControl = true;
+    return entry;
+}
+
+/** A class of windows or views, which outlets take. */
+template<typename T> ServiceEntry onScreen()
+{
+    ServiceEntry entry = serviceEntry<T>();
+    entry.isControl = true;
+    return entry;
 }
 
 ServiceEntry pictures()
@@ -58,7 +68,7 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<Messenger>(),
         serviceEntry<MyModel>(),
         serviceEntry<MyObjectControler>(),
-        serviceEntry<ZtFFullScreen>(),
+        onScreen<ZtFFullScreen>(),
         serviceEntry<ZtImageHandling>(),
         serviceEntry<Ztbookmarks>(),
         serviceEntry<cNSStringHandling>(),
@@ -73,8 +83,8 @@ std::vector<ServiceEntry> registeredServices()
         serviceEntry<mMeta>(),
         serviceEntry<mainViewController>(),
         serviceEntry<mainWindowClass>(),
-        serviceEntry<my2ndPhotoView>(),
-        serviceEntry<myMainPhotoView>(),
+        onScreen<my2ndPhotoView>(),
+        onScreen<myMainPhotoView>(),
         pictures(),
         savePanels(),
         standIn<platform::TextField>(),

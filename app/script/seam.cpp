@@ -8,11 +8,7 @@
 #include <QMetaProperty>
 #include <QPointer>
 #include <QQmlEngine>
-#include <QUrl>
 #include <QVarLengthArray>
-
-#include <algorithm>
-#include <new>
 
 namespace script {
 namespace {
@@ -70,27 +66,14 @@ QString nameOf(const ServiceClass &service)
 
 } // namespace
 
-Location locationInStack(const QString &stack)
-{
-    for (const QString &frame : stack.split(u'\n')) {
-        const qsizetype at = frame.indexOf(u'@');
-        const qsizetype colon = frame.lastIndexOf(u':');
-        if (at < 0 || colon < at + 1)
-            continue;
-        const QString source = frame.mid(at + 1, colon - at - 1);
-        const int line = std::abs(frame.mid(colon + 1).toInt());
-        if (line == 0 || source.isEmpty() || source.endsWith(facadeFileName()))
-            continue;
-        const QUrl url(source);
-        return {url.isLocalFile() ? url.toLocalFile() : source, line};
-    }
-    return {};
-}
-
 Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engine), m_values(engine)
 {
     engine.setProperty(propertyOfEngine, QVariant::fromValue<QObject *>(this));
     m_values.objectOf = [this](const QJSValue &value) { return objectOf(value); };
+    m_values.isControl = [this](const QObject &object) {
+        const ServiceClass *service = classOf(&object);
+        return !service || service->entry.isControl;
+    };
     m_values.facadeOf = [this](QObject *object) { return facadeOf(object, Owner::Application); };
     m_values.facadeOfNew = [this](QObject *object) { return facadeOf(object, Owner::Scripts); };
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
@@ -177,21 +160,32 @@ const ServiceClass *Seam::classOf(const QObject *object) const
     return nullptr;
 }
 
+/** The hold that scripts have on @p object; none where they have none, or had one on what lay there before. */
+std::shared_ptr<Holding> Seam::holdingOf(QObject *object) const
+{
+    const std::shared_ptr<Holding> holding = m_held.value(object).lock();
+    return holding && holding->object == object ? holding : nullptr;
+}
+
 QVariant Seam::hold(QObject *object, Owner owner)
 {
-    std::shared_ptr<QObject> shared = m_held.value(object).lock();
-    if (!shared) {
-        const QPointer<QObject> guard(object);
-        shared = std::shared_ptr<QObject>(object, [this, guard, owner](QObject *held) {
-            m_held.remove(held);
-            m_attached.remove(held);
-            QObject *alive = guard.data();
-            if (owner == Owner::Scripts && alive && !alive->parent())
-                delete alive;
-        });
-        m_held.insert(object, shared);
+    std::shared_ptr<Holding> holding = holdingOf(object);
+    if (!holding) {
+        const auto release = [this, object, owner](Holding *held) { letGo(held, object, owner); };
+        holding = std::shared_ptr<Holding>(new Holding{object}, release);
+        m_held.insert(object, holding);
     }
-    return QVariant::fromValue(Native{shared});
+    return QVariant::fromValue(Native{holding});
+}
+
+void Seam::letGo(Holding *holding, QObject *address, Owner owner)
+{
+    if (m_held.value(address).expired())
+        m_held.remove(address);
+    QObject *alive = holding->object.data();
+    delete holding;
+    if (owner == Owner::Scripts && alive && !alive->parent())
+        delete alive;
 }
 
 QJSValue Seam::facadeOf(QObject *object, Owner owner)
@@ -199,7 +193,7 @@ QJSValue Seam::facadeOf(QObject *object, Owner owner)
     const ServiceClass *service = classOf(object);
     if (!service)
         return shellOf(object);
-    if (m_attached.contains(object))
+    if (const auto holding = holdingOf(object); holding && holding->isAttached)
         if (const QJSValue facade = m_facadeIn.call({shellOf(object)}); facade.isObject())
             return facade;
     const QJSValue wrap = m_definitions[size_t(m_classIds.value(service->entry.meta))].property(QStringLiteral("wrap"));
@@ -213,7 +207,7 @@ QObject *Seam::objectOf(const QJSValue &value) const
     if (!value.isObject())
         return nullptr;
     const QJSValue native = m_nativeOf.call({value});
-    return native.isVariant() ? native.toVariant().value<Native>().object.get() : nullptr;
+    return native.isVariant() ? native.toVariant().value<Native>().object() : nullptr;
 }
 
 QJSValue Seam::shellOf(QObject *object) const
@@ -227,10 +221,11 @@ QJSValue Seam::shellOf(QObject *object) const
 void Seam::attachToShell(const QJSValue &facade)
 {
     QObject *object = facade.isQObject() ? nullptr : objectOf(facade);
-    if (!object || m_attached.contains(object))
+    const std::shared_ptr<Holding> holding = object ? holdingOf(object) : nullptr;
+    if (!holding || holding->isAttached)
         return;
     m_attach.call({shellOf(object), facade});
-    m_attached.insert(object);
+    holding->isAttached = true;
 }
 
 QJSValue Seam::make(int classId, bool isConstructed, const QJSValue &arguments)
@@ -259,7 +254,10 @@ QJSValue Seam::make(int classId, bool isConstructed, const QJSValue &arguments)
 
 QObject *Seam::target(const QVariant &native, ServiceClass &owner, const QByteArray &member) const
 {
-    QObject *object = native.value<Native>().object.get();
+    QObject *object = native.value<Native>().object();
+    if (!object && native.value<Native>().holding)
+        throw platform::Raised::typeError(QStringLiteral("%1 is called on %2 that is gone")
+                                              .arg(QString::fromLatin1(member), withArticle(nameOf(owner))));
     if (!object || !object->metaObject()->inherits(owner.entry.meta))
         throw platform::Raised::typeError(
             QStringLiteral("%1 is called on %2").arg(QString::fromLatin1(member), withArticle(nameOf(owner))));
@@ -348,54 +346,13 @@ void Seam::write(const QVariant &native, int fieldId, const QJSValue &value)
         const QString name = QString::fromLatin1(field->name);
         if (!field->isWritable)
             throw platform::Raised::typeError(QStringLiteral("%1 of %2 is read only").arg(name, nameOf(*owner)));
-        const QVariant converted = m_values.toNative(value, field->kind, field->type, name);
+        const QVariant converted = field->kind == Kind::Any ? m_values.anything(value, name)
+                                                            : m_values.toNative(value, field->kind, field->type, name);
         object->metaObject()->property(field->propertyIndex).write(object, converted);
         if (field->kind == Kind::Object)
             attachToShell(value);
         return QJSValue();
     });
-}
-
-void Seam::rejectName(const QString &className, const QString &name)
-{
-    raise(QStringLiteral("TypeError"), QStringLiteral("%1 has no operation or field %2").arg(className, name));
-}
-
-void Seam::rejectAssignment(const QString &className, const QString &name)
-{
-    raise(QStringLiteral("TypeError"), QStringLiteral("%1 has no field %2 that can be set").arg(className, name));
-}
-
-void Seam::raise(const QString &name, const QString &message)
-{
-    const auto type = name == QStringLiteral("TypeError")    ? QJSValue::TypeError
-                      : name == QStringLiteral("RangeError") ? QJSValue::RangeError
-                                                             : QJSValue::GenericError;
-    QJSValue error = m_engine.newErrorObject(type, message);
-    if (type == QJSValue::GenericError && name != QStringLiteral("Error"))
-        m_setName.call({error, name});
-    m_lastErrorLocation = locationInStack(error.property(QStringLiteral("stack")).toString());
-    if (!m_lastErrorLocation.file.isEmpty()) {
-        error.setProperty(QStringLiteral("fileName"), m_lastErrorLocation.file);
-        error.setProperty(QStringLiteral("lineNumber"), m_lastErrorLocation.line);
-    }
-    m_engine.throwError(error);
-}
-
-void Seam::raiseCurrentException()
-{
-    const QString genericName = QStringLiteral("Error");
-    try {
-        throw;
-    } catch (const platform::Raised &raised) {
-        raise(raised.name(), raised.message());
-    } catch (const std::bad_alloc &) {
-        raise(QStringLiteral("RangeError"), QStringLiteral("There is not enough memory"));
-    } catch (const std::exception &exception) {
-        raise(genericName, QString::fromUtf8(exception.what()));
-    } catch (...) {
-        raise(genericName, QStringLiteral("An unknown exception was thrown"));
-    }
 }
 
 } // namespace script

@@ -7,16 +7,29 @@
 #include <QJSEngine>
 #include <QJSValue>
 #include <QObject>
-#include <QSet>
+#include <QPointer>
 
 #include <exception>
 
 namespace script {
 
-/** What lies behind a facade: the service object, shared with every other facade of it that scripts own. */
+/**
+ * The one hold that scripts have on a service object, shared by all its facades. The object may go first where it belongs to
+ * the application; then another one may come to lie at the same address.
+ */
+struct Holding
+{
+    QPointer<QObject> object;
+    /** Its facade was set on a field; see the facade's script. */
+    bool isAttached = false;
+};
+
+/** What lies behind a facade. */
 struct Native
 {
-    std::shared_ptr<QObject> object;
+    std::shared_ptr<Holding> holding;
+
+    QObject *object() const { return holding ? holding->object.data() : nullptr; }
 };
 
 /** Where in a script something happened. */
@@ -101,7 +114,9 @@ private:
     QJSValue operationTable(ServiceClass &service);
     QJSValue fieldTable(ServiceClass &service);
     const ServiceClass *classOf(const QObject *object) const;
+    std::shared_ptr<Holding> holdingOf(QObject *object) const;
     QVariant hold(QObject *object, Owner owner);
+    void letGo(Holding *holding, QObject *address, Owner owner);
     QObject *target(const QVariant &native, ServiceClass &owner, const QByteArray &member) const;
     QJSValue invoke(QObject *object, const Operation &operation, const QJSValue &arguments);
     QJSValue resultToScript(QObject *object, const QVariant &result, Kind kind);
@@ -118,14 +133,12 @@ private:
     std::vector<FieldOfClass> m_fields;
     std::vector<QJSValue> m_definitions;
     QHash<const QMetaObject *, int> m_classIds;
-    QHash<QObject *, std::weak_ptr<QObject>> m_held;
+    QHash<QObject *, std::weak_ptr<Holding>> m_held;
     QJSValue m_define;
     QJSValue m_nativeOf;
     QJSValue m_setName;
     QJSValue m_attach;
     QJSValue m_facadeIn;
-    /** Objects whose facade was set on a field; see the facade's script. */
-    QSet<const QObject *> m_attached;
     QJSValue m_itself;
     Location m_lastErrorLocation;
     qint64 m_pixelBytesHandedOut = 0;

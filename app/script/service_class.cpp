@@ -1,6 +1,7 @@
 #include "app/script/service_class.h"
 
 #include "platform/foundation/flag.h"
+#include "platform/foundation/property_value.h"
 #include "platform/foundation/sender.h"
 #include "platform/foundation/shared_texts.h"
 #include "platform/graphics/picture.h"
@@ -36,6 +37,7 @@ const QHash<int, Kind> &kindsById()
         {QMetaType::Bool, Kind::Truth},
         {idOf<platform::Flag>(), Kind::Flag},
         {idOf<platform::Sender>(), Kind::Sender},
+        {idOf<platform::PropertyValue>(), Kind::Property},
         {QMetaType::QVariant, Kind::Any},
         {QMetaType::QVariantMap, Kind::Dictionary},
         {QMetaType::QVariantList, Kind::List},

@@ -22,7 +22,8 @@ enum class Kind {
     Truth,       ///< bool
     Flag,        ///< platform::Flag: a boolean or a number
     Sender,      ///< platform::Sender: whatever the script has
-    Any,         ///< QVariant: text, number, list, dictionary or null
+    Any,         ///< QVariant: text, number or null
+    Property,    ///< platform::PropertyValue: what a property list can hold, or null
     Dictionary,  ///< QVariantMap
     List,        ///< QVariantList
     TextList,    ///< QStringList
@@ -85,6 +86,8 @@ struct ServiceEntry
     QByteArray module = "quorlin";
     /** new takes a dictionary of fields. */
     bool takesFields = false;
+    /** It stands for a window, a view or a control: outlets that are not of a class of their own take it. */
+    bool isControl = false;
     /** Scripts can make one with new; otherwise they get such objects from operations only. */
     bool isMadeByScripts = true;
 };
@@ -93,7 +96,7 @@ struct ServiceEntry
 template<typename T> ServiceEntry serviceEntry(const char *module = "quorlin", bool takesFields = false)
 {
     const QByteArray name = T::staticMetaObject.className();
-    return {name.mid(name.lastIndexOf(':') + 1), &T::staticMetaObject, [] { return new T; }, module, takesFields, true};
+    return {name.mid(name.lastIndexOf(':') + 1), &T::staticMetaObject, [] { return new T; }, module, takesFields};
 }
 
 /** What the meta-object of an entry says, looked up once. */

@@ -3,6 +3,8 @@
 #include "app/script/picture_object.h"
 
 #include "platform/foundation/flag.h"
+#include "platform/foundation/locations.h"
+#include "platform/foundation/property_value.h"
 #include "platform/foundation/raised.h"
 #include "platform/foundation/sender.h"
 
@@ -22,6 +24,12 @@ namespace {
 /** Deeper nesting than any real settings have; a list that holds itself ends here. */
 constexpr int deepestNesting = 64;
 
+/** Lists that hold one list twice, which holds another one twice and so on, are more than memory holds after a few levels. */
+constexpr qint64 mostValues = 1'000'000;
+
+/** So much of a name of many levels is put into a sentence. */
+constexpr qsizetype longestName = 120;
+
 constexpr double largestWholeNumber = 9007199254740992.0;
 
 QString notEmptyNull(const QString &text)
@@ -29,17 +37,11 @@ QString notEmptyNull(const QString &text)
     return text.isNull() ? QStringLiteral("") : text;
 }
 
-QString lastName(const QMetaObject &meta)
-{
-    const QString name = QString::fromLatin1(meta.className());
-    return name.mid(name.lastIndexOf(u':') + 1);
-}
-
 QString wordsForObject(QMetaType type)
 {
     const QMetaObject *meta = type.metaObject();
     return !meta || meta == &QObject::staticMetaObject ? QStringLiteral("a control or null")
-                                                       : withArticle(lastName(*meta)) + QStringLiteral(" or null");
+                                                       : withArticle(classWord(*meta)) + QStringLiteral(" or null");
 }
 
 /** Whole numbers stay whole, so that 3 is written "3" wherever a service formats it. */
@@ -53,15 +55,12 @@ QVariant wholeOrNot(double number)
 
 } // namespace
 
-QString withArticle(const QString &noun)
-{
-    const bool startsWithVowel = QStringLiteral("AEIOU").contains(noun.left(1).toUpper());
-    return (startsWithVowel ? QStringLiteral("an ") : QStringLiteral("a ")) + noun;
-}
-
 Values::Values(QJSEngine &engine)
     : m_engine(engine), m_objectPrototype(engine.evaluate(QStringLiteral("Object.prototype"))),
-      m_dataPrototype(engine.evaluate(QStringLiteral("ArrayBuffer.prototype")))
+      m_dataPrototype(engine.evaluate(QStringLiteral("ArrayBuffer.prototype"))),
+      m_defineKey(
+          engine.evaluate(QStringLiteral("((o, k, v) => Object.defineProperty(o, k, "
+                                         "{ value: v, writable: true, enumerable: true, configurable: true }))")))
 {
 }
 
@@ -73,6 +72,7 @@ void Values::reject(const QString &expected, const QString &name, const QJSValue
 
 QVariant Values::toNative(const QJSValue &value, Kind kind, QMetaType type, const QString &name) const
 {
+    m_valuesLeft = mostValues;
     switch (kind) {
     case Kind::Text:
         if (!value.isString() && !value.isNull())
@@ -104,7 +104,9 @@ QVariant Values::compositeToNative(const QJSValue &value, Kind kind, QMetaType t
             reject(QStringLiteral("an object or null"), name, value);
         return QVariant::fromValue(platform::Sender());
     case Kind::Any:
-        return anyToNative(value, name, 0);
+        return scalarToNative(value, name);
+    case Kind::Property:
+        return QVariant::fromValue(platform::PropertyValue(value.isNull() ? QVariant() : setting(value, name)));
     case Kind::Dictionary:
         return value.isNull() ? QVariantMap() : dictionaryToNative(value, name, 0);
     case Kind::List:
@@ -115,6 +117,14 @@ QVariant Values::compositeToNative(const QJSValue &value, Kind kind, QMetaType t
         if (!value.isArray() && !value.isNull())
             reject(QStringLiteral("a list or null"), name, value);
         return QVariant::fromValue(value);
+    default:
+        return otherToNative(value, kind, type, name);
+    }
+}
+
+QVariant Values::otherToNative(const QJSValue &value, Kind kind, QMetaType type, const QString &name) const
+{
+    switch (kind) {
     case Kind::Data:
         return dataToNative(value, name);
     case Kind::Date:
@@ -163,30 +173,38 @@ QVariant Values::numberToNative(const QJSValue &value, Kind kind, const QString 
     return kind == Kind::Whole ? QVariant(int(number)) : QVariant(uint(number));
 }
 
-QVariant Values::anyToNative(const QJSValue &value, const QString &name, int depth) const
+/** Where an operation takes any object it means one thing that it writes as text. */
+QVariant Values::scalarToNative(const QJSValue &value, const QString &name) const
 {
-    if (depth > deepestNesting)
-        throw platform::Raised::typeError(QStringLiteral("%1 is nested too deeply").arg(name));
     if (value.isNull())
         return QVariant();
-    if (value.isString())
-        return notEmptyNull(value.toString());
     if (value.isNumber())
         return wholeOrNot(value.toNumber());
+    if (!value.isString())
+        reject(QStringLiteral("text, a number or null"), name, value);
+    return notEmptyNull(value.toString());
+}
+
+QVariant Values::nestedToNative(const QJSValue &value, const QString &name, int depth) const
+{
+    if (depth > deepestNesting)
+        throw platform::Raised::typeError(QStringLiteral("%1 is nested too deeply").arg(name.left(longestName)));
+    if (--m_valuesLeft < 0)
+        throw platform::Raised::typeError(
+            QStringLiteral("%1 holds more than %2 values").arg(name.section(u'[', 0, 0)).arg(mostValues));
+    if (value.isNull() || value.isString() || value.isNumber())
+        return scalarToNative(value, name);
+    if (value.isBool())
+        return value.toBool();
     if (value.isArray())
         return listToNative(value, name, depth);
     if (isPlainObject(value))
         return dictionaryToNative(value, name, depth);
-    const bool isInside = depth > 0;
-    if (isInside && value.isBool())
-        return value.toBool();
-    if (isInside && value.isDate() && value.toDateTime().isValid())
+    if (value.isDate() && value.toDateTime().isValid())
         return value.toDateTime();
-    if (isInside && isData(value))
+    if (isData(value))
         return dataToNative(value, name);
-    reject(isInside ? QStringLiteral("text, a number, true or false, a date, data, a list, a dictionary or null")
-                    : QStringLiteral("text, a number, a list, a dictionary or null"),
-           name, value);
+    reject(QStringLiteral("text, a number, true or false, a date, data, a list, a dictionary or null"), name, value);
 }
 
 QVariantMap Values::dictionaryToNative(const QJSValue &value, const QString &name, int depth) const
@@ -195,7 +213,7 @@ QVariantMap Values::dictionaryToNative(const QJSValue &value, const QString &nam
         reject(QStringLiteral("a dictionary"), name, value);
     QVariantMap map;
     for (QJSValueIterator entry(value); entry.next();)
-        map.insert(entry.name(), anyToNative(entry.value(), name + u'.' + entry.name(), depth + 1));
+        map.insert(entry.name(), nestedToNative(entry.value(), name + u'.' + entry.name(), depth + 1));
     return map;
 }
 
@@ -207,7 +225,7 @@ QVariantList Values::listToNative(const QJSValue &value, const QString &name, in
     QVariantList list;
     list.reserve(length);
     for (quint32 i = 0; i < length; ++i)
-        list.append(anyToNative(value.property(i), QStringLiteral("%1[%2]").arg(name).arg(i), depth + 1));
+        list.append(nestedToNative(value.property(i), QStringLiteral("%1[%2]").arg(name).arg(i), depth + 1));
     return list;
 }
 
@@ -241,7 +259,7 @@ QVariant Values::locationToNative(const QJSValue &value, const QString &name) co
 {
     if (value.isNull())
         return QUrl();
-    const QUrl url(value.isString() ? value.toString() : QString());
+    const QUrl url = platform::locationOf(value.isString() ? value.toString() : QString());
     if (!url.isValid() || url.isRelative())
         reject(QStringLiteral("a location such as file:///a/b.jpg or null"), name, value);
     return url;
@@ -307,7 +325,10 @@ QVariant Values::pictureToNative(const QJSValue &value, const QString &name) con
 QVariant Values::objectToNative(const QJSValue &value, QMetaType type, const QString &name) const
 {
     QObject *object = value.isNull() ? nullptr : objectOf(value);
-    if (!value.isNull() && (!object || !object->metaObject()->inherits(type.metaObject())))
+    const bool isAnyControl = type.metaObject() == &QObject::staticMetaObject;
+    const bool isTaken =
+        object && object->metaObject()->inherits(type.metaObject()) && (!isAnyControl || isControl(*object));
+    if (!value.isNull() && !isTaken)
         reject(wordsForObject(type), name, value);
     return QVariant(type, &object);
 }
@@ -322,11 +343,17 @@ QStringList Values::keysOf(const QJSValue &value, const QString &name) const
     return keys;
 }
 
+QVariant Values::anything(const QJSValue &value, const QString &name) const
+{
+    m_valuesLeft = mostValues;
+    return nestedToNative(value, name, 0);
+}
+
 QVariant Values::setting(const QJSValue &value, const QString &name) const
 {
     if (value.isNull())
         reject(QStringLiteral("text, a number, true or false, a date, data, a list or a dictionary"), name, value);
-    return anyToNative(value, name, 1);
+    return anything(value, name);
 }
 
 bool Values::isPlainObject(const QJSValue &value) const
@@ -340,30 +367,6 @@ bool Values::isPlainObject(const QJSValue &value) const
 bool Values::isData(const QJSValue &value) const
 {
     return value.isObject() && value.prototype().strictlyEquals(m_dataPrototype);
-}
-
-QString Values::described(const QJSValue &value) const
-{
-    if (value.isString()) {
-        const QString text = value.toString();
-        constexpr int longest = 60;
-        return u'"' + (text.size() > longest ? text.left(longest) + u'…' : text) + u'"';
-    }
-    if (value.isUndefined() || value.isNull() || value.isBool() || value.isNumber())
-        return value.toString();
-    if (!value.isObject())
-        return QStringLiteral("a symbol");
-    if (value.isArray())
-        return QStringLiteral("a list");
-    if (value.isCallable())
-        return QStringLiteral("a function");
-    if (value.isDate())
-        return QStringLiteral("a date");
-    if (isData(value))
-        return QStringLiteral("data");
-    if (const QObject *object = objectOf(value))
-        return withArticle(lastName(*object->metaObject()));
-    return QStringLiteral("an object");
 }
 
 } // namespace script

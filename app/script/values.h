@@ -17,6 +17,9 @@ namespace script {
 /** "a TextField", "an ArrayController". */
 QString withArticle(const QString &noun);
 
+/** The name of a class without its namespaces. */
+QString classWord(const QMetaObject &meta);
+
 /**
  * Turns values of scripts into values of services and back, by the rules of the seam: nothing is converted in silence.
  *
@@ -30,6 +33,8 @@ public:
 
     /** Finds the service object behind a facade or a wrapped control; null for other values. */
     std::function<QObject *(const QJSValue &)> objectOf;
+    /** Whether an outlet for any control takes the object: a stand-in, a window or view, or a real control. */
+    std::function<bool(const QObject &)> isControl;
     /** The facade of a service object, or the control itself. */
     std::function<QJSValue(QObject *)> facadeOf;
     /** The same for an object that was made for the script and belongs to it from now on. */
@@ -42,7 +47,9 @@ public:
     QStringList textList(const QJSValue &value, const QString &name) const { return textListToNative(value, name); }
     /** The keys of a plain object. */
     QStringList keysOf(const QJSValue &value, const QString &name) const;
-    /** Whatever may stand inside a list: text, numbers, booleans, dates, data, lists, dictionaries; null is refused. */
+    /** Whatever may stand inside a list: text, numbers, booleans, dates, data, lists, dictionaries, null. */
+    QVariant anything(const QJSValue &value, const QString &name) const;
+    /** The same, but null is refused. */
     QVariant setting(const QJSValue &value, const QString &name) const;
 
     /** A service's value as scripts see it: null for what is nothing. */
@@ -56,7 +63,9 @@ public:
 
 private:
     QVariant compositeToNative(const QJSValue &value, Kind kind, QMetaType type, const QString &name) const;
-    QVariant anyToNative(const QJSValue &value, const QString &name, int depth) const;
+    QVariant otherToNative(const QJSValue &value, Kind kind, QMetaType type, const QString &name) const;
+    QVariant scalarToNative(const QJSValue &value, const QString &name) const;
+    QVariant nestedToNative(const QJSValue &value, const QString &name, int depth) const;
     QVariantMap dictionaryToNative(const QJSValue &value, const QString &name, int depth) const;
     QVariantList listToNative(const QJSValue &value, const QString &name, int depth) const;
     QStringList textListToNative(const QJSValue &value, const QString &name) const;
@@ -78,10 +87,14 @@ private:
     QJSValue sharedTextsToScript(platform::SharedTexts texts) const;
     QJSValue textListToScript(const QStringList &list) const;
     QJSValue dictionaryToScript(const QVariantMap &map) const;
+    void setKey(QJSValue &object, const QString &key, const QJSValue &value) const;
 
     QJSEngine &m_engine;
+    /** How many more values the running conversion may take; see nestedToNative(). */
+    mutable qint64 m_valuesLeft = 0;
     QJSValue m_objectPrototype;
     QJSValue m_dataPrototype;
+    QJSValue m_defineKey;
 };
 
 } // namespace script

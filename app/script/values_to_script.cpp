@@ -146,12 +146,57 @@ QJSValue Values::sharedTextsToScript(platform::SharedTexts texts) const
     return texts.form().value<QJSValue>();
 }
 
+/** Under this one name plain assignment would make the value the prototype of the object. */
+void Values::setKey(QJSValue &object, const QString &key, const QJSValue &value) const
+{
+    if (key == QStringLiteral("__proto__"))
+        m_defineKey.call({object, key, value});
+    else
+        object.setProperty(key, value);
+}
+
 QJSValue Values::dictionaryToScript(const QVariantMap &map) const
 {
     QJSValue object = m_engine.newObject();
     for (auto entry = map.begin(); entry != map.end(); ++entry)
-        object.setProperty(entry.key(), toScript(entry.value()));
+        setKey(object, entry.key(), toScript(entry.value()));
     return object;
+}
+
+QString withArticle(const QString &noun)
+{
+    const bool startsWithVowel = QStringLiteral("AEIOU").contains(noun.left(1).toUpper());
+    return (startsWithVowel ? QStringLiteral("an ") : QStringLiteral("a ")) + noun;
+}
+
+QString classWord(const QMetaObject &meta)
+{
+    const QString name = QString::fromLatin1(meta.className());
+    return name.mid(name.lastIndexOf(u':') + 1);
+}
+
+QString Values::described(const QJSValue &value) const
+{
+    if (value.isString()) {
+        const QString text = value.toString();
+        constexpr int longest = 60;
+        return u'"' + (text.size() > longest ? text.left(longest) + u'…' : text) + u'"';
+    }
+    if (value.isUndefined() || value.isNull() || value.isBool() || value.isNumber())
+        return value.toString();
+    if (!value.isObject())
+        return QStringLiteral("a symbol");
+    if (value.isArray())
+        return QStringLiteral("a list");
+    if (value.isCallable())
+        return QStringLiteral("a function");
+    if (value.isDate())
+        return QStringLiteral("a date");
+    if (isData(value))
+        return QStringLiteral("data");
+    if (const QObject *object = objectOf(value))
+        return withArticle(classWord(*object->metaObject()));
+    return QStringLiteral("an object");
 }
 
 } // namespace script

@@ -1,6 +1,7 @@
 #include "app/window/job_driver.h"
 
 #include <QElapsedTimer>
+#include <QJSEngine>
 #include <QLoggingCategory>
 
 #include <utility>
@@ -37,6 +38,11 @@ JobDriver::JobDriver(QObject *parent) : QObject(parent)
 
 void JobDriver::start(const QJSValue &generator, const QJSValue &onStep, const QJSValue &onEnd)
 {
+    if (!generator.property(QStringLiteral("next")).isCallable()) {
+        if (QJSEngine *engine = qjsEngine(this))
+            engine->throwError(QJSValue::TypeError, QStringLiteral("A job is started with a generator"));
+        return;
+    }
     if (isRunning())
         cancel();
     m_generator = generator;
@@ -88,13 +94,22 @@ void JobDriver::slice()
     }
 }
 
+/** What next() answers; an error where that is no step, since what never says that it is done would never end. */
+QJSValue JobDriver::nextStep()
+{
+    const QJSValue result = m_generator.property(QStringLiteral("next")).callWithInstance(m_generator);
+    QJSEngine *engine = result.isObject() ? nullptr : qjsEngine(this);
+    return engine ? engine->newErrorObject(QJSValue::TypeError, QStringLiteral("A step of a job is an object"))
+                  : result;
+}
+
 // One step of the generator; true if there is another one to come.
 bool JobDriver::step()
 {
     if (m_inStep)
         return false;
     m_inStep = true;
-    const QJSValue result = m_generator.property(QStringLiteral("next")).callWithInstance(m_generator);
+    const QJSValue result = nextStep();
     const bool ended = result.isError() || result.property(QStringLiteral("done")).toBool();
     if (!ended)
         call(m_onStep, {result.property(QStringLiteral("value"))});

@@ -28,7 +28,7 @@ public:
     /**
      * Starts; a job that runs is cancelled first.
      *
-     * @param generator  what a generator function returned
+     * @param generator  what a generator function returned; anything else is a TypeError
      * @param onStep     function(value), called with each value that was yielded
      * @param onEnd      function(how, value): "done" with the returned value, "cancelled", or "failed" with the error
      */
@@ -40,6 +40,7 @@ public:
 
 private:
     void slice();
+    QJSValue nextStep();
     bool step();
     void finish(const QString &how, const QJSValue &value);
 

@@ -80,10 +80,21 @@ private:
 
 void RunRows::follow(LogModel *log)
 {
+    if (m_log)
+        m_log->disconnect(this);
     m_log = log;
     connect(log, &LogModel::grown, this, &RunRows::update);
+    connect(log, &QObject::destroyed, this, &RunRows::forget);
     connect(log, &QAbstractItemModel::modelReset, this, &RunRows::update);
     update();
+}
+
+void RunRows::forget()
+{
+    beginResetModel();
+    m_log = nullptr;
+    m_rows = 0;
+    endResetModel();
 }
 
 // The runs are as many as the log has at this moment, or as it had when its rows were told.

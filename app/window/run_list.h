@@ -3,6 +3,7 @@
 #include "app/window/log_model.h"
 
 #include <QListView>
+#include <QPointer>
 
 namespace window {
 
@@ -39,10 +40,11 @@ public:
 
 private:
     void update();
+    void forget();
     QString counted(const char *one, const char *many, int count) const;
     QVariant cell(int number, int role) const;
 
-    LogModel *m_log = nullptr;
+    LogModel *m_log = nullptr; ///< null again when its table is gone
     QVariantMap m_texts;
     int m_rows = 0;
 };

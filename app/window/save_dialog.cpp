@@ -113,7 +113,9 @@ void SaveDialog::arrange(const platform::PanelRequest &request)
     showNames();
     if (request.showsTagField)
         addTagField(grid);
-    if (auto *view = qobject_cast<QWidget *>(request.accessory.data()))
+    // The window that the panel stands on cannot lie in the panel.
+    auto *view = qobject_cast<QWidget *>(request.accessory.data());
+    if (view && !view->isAncestorOf(this))
         addView(grid, view);
     buttons->setOrientation(Qt::Horizontal);
     grid->addWidget(buttons, grid->rowCount(), 0, 1, -1);

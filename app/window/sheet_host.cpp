@@ -17,7 +17,8 @@ void SheetHost::setSheet(QObject *sheet)
     auto *dialog = qobject_cast<QDialog *>(sheet);
     if (!sheet)
         m_sheet = nullptr;
-    if (!dialog)
+    // A window is no sheet of itself, nor of what lies in it.
+    if (!dialog || dialog == &m_window || dialog->isAncestorOf(&m_window))
         return;
     if (dialog->parentWidget() != &m_window)
         dialog->setParent(&m_window, dialog->windowFlags());

@@ -124,10 +124,15 @@ QObject *Form::find(const QString &name, const char *kind)
     if (m_root)
         found = m_root->objectName() == name ? m_root.data() : m_root->findChild<QObject *>(name);
     if (!found)
-        if (QJSEngine *engine = qjsEngine(this))
-            engine->throwError(QJSValue::ReferenceError,
-                               QStringLiteral("%1 has no %2 \"%3\"").arg(m_file, QLatin1String(kind), name));
+        throwError(QJSValue::ReferenceError,
+                   QStringLiteral("%1 has no %2 \"%3\"").arg(m_file, QLatin1String(kind), name));
     return found;
+}
+
+void Form::throwError(QJSValue::ErrorType type, const QString &message)
+{
+    if (QJSEngine *engine = qjsEngine(this))
+        engine->throwError(type, message);
 }
 
 QObject *Form::control(const QString &name)
@@ -152,7 +157,15 @@ void Form::place(const QString &name, QObject *form)
 {
     auto *container = qobject_cast<QWidget *>(find(name, "container"));
     const auto *other = qobject_cast<Form *>(form);
-    if (container && container->layout() && other && other->root())
+    const bool isSound = container && container->layout() && other && other->root();
+    if (!isSound)
+        return;
+    // A window cannot go into itself, nor into what lies in it.
+    const bool isInside = other->root() == container || other->root()->isAncestorOf(container);
+    if (isInside)
+        throwError(QJSValue::TypeError,
+                   QStringLiteral("%1 cannot be placed in \"%2\", which lies in it").arg(m_file, name));
+    else
         container->layout()->addWidget(other->root());
 }
 
@@ -341,6 +354,7 @@ bool Form::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     keepLayout();
+    Q_EMIT closing();
     return false;
 }
 

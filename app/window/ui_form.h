@@ -63,11 +63,16 @@ public:
     /** Gives all labels with the role "field" of the forms the width of the widest, so that the fields line up. */
     static void alignFields(const QList<Form *> &forms);
 
+Q_SIGNALS:
+    /** The user closes the window, and nothing has kept it open. */
+    void closing();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QObject *find(const QString &name, const char *kind);
+    void throwError(QJSValue::ErrorType type, const QString &message);
     void keepLayout() const;
 
     QPointer<QWidget> m_root;

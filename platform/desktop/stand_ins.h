@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QVariant>
 
@@ -138,9 +139,14 @@ class Window : public QObject
 {
     Q_OBJECT
     /** The sheet that is open on the window, or null. */
-    Q_PROPERTY(QObject *sheet MEMBER m_sheet)
+    Q_PROPERTY(QObject *sheet READ sheet WRITE setSheet)
 
-    QObject *m_sheet = nullptr;
+public:
+    QObject *sheet() const { return m_sheet; }
+    void setSheet(QObject *sheet) { m_sheet = sheet; }
+
+private:
+    QPointer<QObject> m_sheet; ///< the sheet belongs to whoever made it and may go first
 };
 
 } // namespace platform

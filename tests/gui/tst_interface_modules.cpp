@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QQmlEngine>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -174,7 +175,59 @@ private Q_SLOTS:
         QVERIFY2(module.error().message.contains(QLatin1String("probe.js:3")), qPrintable(module.error().message));
     }
 
+    void aWindowDoesNotGoIntoItself()
+    {
+        const QString made = QStringLiteral("import { shell } from 'quorlin/shell';\n"
+                                            "const form = shell.loadForm('windows/main/main.ui');\n");
+        QVERIFY(runScript(made + QStringLiteral("try { form.place('centre', form); throw 'placed'; }\n"
+                                                "catch (e) { if (!(e instanceof TypeError)) throw e; }\n"))
+                    .isEmpty());
+    }
+
+    void aDialogIsNoSheetOfItself()
+    {
+        const QString problem =
+            runScript(QStringLiteral("import { shell } from 'quorlin/shell';\n"
+                                     "const dialog = shell.loadForm('windows/preferences/preferences.ui');\n"
+                                     "const host = shell.sheetHost(dialog);\n"
+                                     "const root = dialog.control(dialog.names().length > 0 ? ROOT : '');\n"
+                                     "host.sheet = root;\nif (host.sheet !== null) throw 'opened';\n"));
+        QCOMPARE(problem, QString());
+    }
+
+    void aJobIsAGenerator()
+    {
+        const QString problem = runScript(
+            QStringLiteral("import { shell } from 'quorlin/shell';\n"
+                           "for (const each of [{}, null, undefined, 3, 'x', { next: 3 }]) {\n"
+                           "    const job = shell.job();\n"
+                           "    try { job.start(each, null, null); throw 'started'; }\n"
+                           "    catch (e) { if (!(e instanceof TypeError)) throw e; }\n"
+                           "    if (job.running) throw 'runs';\n"
+                           "}\n"
+                           "const endless = shell.job();\n"
+                           "endless.start({ next: () => undefined }, null, how => shell.theme.setObjectName(how));\n"
+                           "Function('return this')().endless = endless;\n"));
+        QCOMPARE(problem, QString());
+        const QJSValue job = m_startUp->scripts().engine().globalObject().property(QStringLiteral("endless"));
+        QTRY_VERIFY(!job.property(QStringLiteral("running")).toBool());
+    }
+
 private:
+    /** What a module with this text fails with; empty where it does not. */
+    QString runScript(QString text)
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("probe.js"));
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly))
+            return QStringLiteral("the script cannot be written");
+        file.write(text.replace(QStringLiteral("ROOT"), QStringLiteral("'preferencesWindow'")).toUtf8());
+        file.close();
+        const auto module = m_startUp->scripts().importFile(path);
+        return module ? QString() : module.error().message;
+    }
+
     std::unique_ptr<window::StartUp> m_startUp;
 };
 

@@ -32,6 +32,8 @@ std::vector<script::ServiceEntry> entries()
     std::vector<script::ServiceEntry> all = script::registeredServices();
     all.push_back(script::serviceEntry<EchoService>());
     all.push_back(script::serviceEntry<EchoPartner>());
+    for (size_t i = all.size() - 2; i < all.size(); ++i)
+        all[i].isControl = true; // they stand for the controls that a program adds
     return all;
 }
 

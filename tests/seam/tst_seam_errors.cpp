@@ -18,6 +18,7 @@ private Q_SLOTS:
     void saysWhereAModuleFailed_data();
     void saysWhereAModuleFailed();
     void saysWhichFileIsMissing();
+    void saysWhereAMissingFileIsImported();
     void failsAgainWithTheSameWords();
     void importsRelativeToTheImportingFile();
     void answersWhatAModuleExports();
@@ -83,6 +84,10 @@ void TestSeamErrors::saysWhereAModuleFailed_data()
     row("thrown text", "function f() {\n    throw 'only text';\n}\nf();", 3, "Error: only text");
     row("thrown number", "\n\nthrow 3;", 4, "Error: 3");
     row("thrown nothing", "throw null;", 2, "Error: null");
+    row("thrown object", "\nthrow { name: 'Own', message: 'x' };", 3, "Own: x");
+    row("thrown object without a name", "throw { message: 'x' };", 2, "Error: x");
+    row("thrown object without words", "throw { name: 'Own' };", 2, "Error: an object");
+    row("thrown object that throws", "throw { get message() { throw 1; } };", 2, "Error: an object");
     row("own class of error", "class Own extends Error { get name() { return 'Own'; } }\nthrow new Own('x');", 3,
         "Own: x");
     row("unknown variable", "nowhere();", 2, "ReferenceError: nowhere is not defined");
@@ -113,6 +118,20 @@ void TestSeamErrors::saysWhichFileIsMissing()
 
     QVERIFY(!run.runFile(QStringLiteral("root.js"), QStringLiteral("import { x } from './nowhere.js';")));
     QVERIFY2(run.error.contains(QStringLiteral("nowhere.js")), qPrintable(run.error));
+}
+
+void TestSeamErrors::saysWhereAMissingFileIsImported()
+{
+    ScriptRun run;
+    run.write(QStringLiteral("b.js"),
+              QStringLiteral("export const b = 1;\n\nimport { x,\n    y }\n  from './none.js';"));
+    QVERIFY(!run.runFile(QStringLiteral("a.js"), QStringLiteral("import 'quorlin';\nimport { b } from './b.js';")));
+    QVERIFY2(run.error.startsWith(run.pathOf(QStringLiteral("b.js")) + QStringLiteral(":3: ")), qPrintable(run.error));
+    QVERIFY2(run.error.contains(QStringLiteral("none.js")), qPrintable(run.error));
+    QVERIFY(!run.runFile(QStringLiteral("c.js"), QStringLiteral("\n\n/* x */\nexport * from './no such.js';")));
+    QVERIFY2(run.error.startsWith(run.pathOf(QStringLiteral("c.js")) + QStringLiteral(":4: ")), qPrintable(run.error));
+    QVERIFY(!run.runFile(QStringLiteral("d.js"), QStringLiteral("\nimport { x } from 'quorlinx';")));
+    QVERIFY2(run.error.startsWith(run.pathOf(QStringLiteral("d.js")) + QStringLiteral(":2: ")), qPrintable(run.error));
 }
 
 void TestSeamErrors::failsAgainWithTheSameWords()

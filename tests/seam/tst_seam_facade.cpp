@@ -19,6 +19,7 @@ private Q_SLOTS:
     void keepsAServiceAliveThatWasGivenBack();
     void deletesServicesThatNobodyHolds();
     void findsOneObjectThroughTwoFields();
+    void outlivesWhatItHolds();
     void leavesObjectsOfTheApplicationAlone();
     void answersManyCallsAndPrintsWhatOneCosts();
 };
@@ -41,6 +42,14 @@ void TestSeamFacade::letsThroughWhatTheClassDeclares_data()
              {"echo.whole = 1.5", "TypeError: Expected a whole number for whole but received 1.5"},
              {"echo.text = undefined", "TypeError: Expected text or null for text but received undefined"},
              {"echo.outlet = 'x'", "TypeError: Expected a control or null for outlet but received \"x\""},
+             {"echo.outlet = new ZtImageHandling()",
+              "TypeError: Expected a control or null for outlet but received a ZtImageHandling"},
+             {"echo.takeControl(new mMeta())",
+              "TypeError: Expected a control or null for control but received a mMeta"},
+             {"(new Window()).sheet = new cToolBox()",
+              "TypeError: Expected a control or null for sheet but received a cToolBox"},
+             {"(echo.outlet = new ZtFFullScreen()) !== null", "true"},
+             {"(echo.outlet = new myMainPhotoView()) !== null", "true"},
              {"echo.partner = new TextField()",
               "TypeError: Expected an EchoPartner or null for partner but received a TextField"},
              {"new EchoService(1)", "TypeError: new EchoService takes no arguments but received 1"},
@@ -150,6 +159,29 @@ void TestSeamFacade::findsOneObjectThroughTwoFields()
                                "report(Object.getOwnPropertySymbols(a).every(s => !('objectName' in Object(a[s]))));")),
         qPrintable(run.error));
     QCOMPARE(run.reports, (QStringList{QStringLiteral("[true,true]"), QStringLiteral("true")}));
+}
+
+void TestSeamFacade::outlivesWhatItHolds()
+{
+    ScriptRun run;
+    QVERIFY2(
+        run.run(QStringLiteral("import { cSheetControl } from 'quorlin';\n"
+                               "const main = new Window(), s = new cSheetControl(), box = new cToolBox();\n"
+                               "s.wwMainWindow = main;\n"
+                               "(() => { s.wwPreferencesWindow = new Window(); s.hCallPreferencesWw(null); })();\n"
+                               "s.wwPreferencesWindow = null;\n"
+                               "const collect = () => { for (let i = 0; i < 10; ++i) { gc(); new Array(1000); } };\n"
+                               "collect(); report(main.sheet);\n"
+                               "panels.accept(['/nowhere/a.png']); box.hSaveDialogFile('/nowhere/b.png');\n"
+                               "const first = box.panel; report(first !== null);\n"
+                               "panels.accept(['/nowhere/a.png'], { whileOpen: () => {\n"
+                               "    panels.cancel(); box.hSaveDialogFile('/nowhere/c.png'); collect(); } });\n"
+                               "box.hSaveDialogFile('/nowhere/b.png'); collect();\n"
+                               "reportError(() => first.allowedTypes);")),
+        qPrintable(run.error));
+    QCOMPARE(run.reports,
+             (QStringList{QStringLiteral("null"), QStringLiteral("true"),
+                          QStringLiteral("TypeError: allowedTypes is called on a SavePanel that is gone")}));
 }
 
 void TestSeamFacade::leavesObjectsOfTheApplicationAlone()
