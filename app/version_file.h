@@ -1,11 +1,30 @@
 #pragma once
 
+#include "platform/foundation/result.h"
+
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 #include <optional>
 
 namespace app {
+
+/** Where the version file is, by the configured host (see app::updateHost()); an invalid address where there is none. */
+QUrl versionFileAddress();
+
+/** What a look at the version file came to. */
+struct VersionAnswer
+{
+    std::optional<QStringList> fields; ///< of a newer build, see newerVersion()
+    QString problem;                   ///< why nobody knows whether there is one; null where that is known
+};
+
+/**
+ * Judges what was downloaded. A page of something else, such as that of a network that wants a sign-in first, is a problem:
+ * it does not say that there is nothing newer. Raises like newerVersion().
+ */
+VersionAnswer versionAnswer(const platform::Result<QString> &text, int runningBuild);
 
 /**
  * Reads a version file: fields between ";", of which field 1 is a build number and fields 0, 2 and 3 are texts for the user.

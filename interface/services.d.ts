@@ -17,8 +17,10 @@ type single = number;
 type flag = boolean | number;
 /** Not looked at. */
 type sender = any;
-/** Text or a number where one thing is meant. Booleans, dates and data inside lists and dictionaries only. */
-type anything = string | number | list | dictionary | null;
+/** An argument is text, a number or null; a field can hold anything that a list can. */
+type anything = string | number | boolean | Date | ArrayBuffer | any[] | { [key: string]: any } | null;
+/** A value of a property list; null is none. */
+type property = anything;
 type dictionary = { [key: string]: any } | null;
 type list = any[] | null;
 /** None of the texts is null. */
@@ -326,7 +328,7 @@ declare module "quorlin" {
     /** Asks the maker's server for a newer build. */
     export class cAppUpdater {
         constructor();
-        /** Why the last download failed; null where it did not. */
+        /** Why the last download failed, or brought no version file; null where it did not. */
         err: anything;
         /** Fields 0, 2 and 3 of the version file where its build is greater, else null; a RangeError for too few fields. */
         getAppVersion(runningBuild: whole): anything;
@@ -413,7 +415,7 @@ declare module "quorlin" {
         /** Null where the file or the key is missing. */
         readPlist(path: text, key: text): anything;
         /** Null removes the key. Never makes a file. */
-        writeToPlist(path: text, key: text, value: anything): null;
+        writeToPlist(path: text, key: text, value: property): null;
         writeNSDataToFile(data: data, path: text): null;
         readNSDataFromFile(path: text): data;
         /**

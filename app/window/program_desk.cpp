@@ -1,17 +1,22 @@
 #include "app/window/program_desk.h"
 
 #include "app/configuration.h"
+#include "app/download.h"
 #include "app/print_job.h"
 #include "app/print_settings.h"
+#include "app/version_file.h"
 #include "app/window/interface_folder.h"
 #include "app/window/print_dialog.h"
 #include "platform/desktop/strings_tables.h"
 #include "platform/desktop/user_defaults.h"
+#include "platform/foundation/log.h"
+#include "platform/foundation/raised.h"
 #include "platform/imageio/library_versions.h"
 #include "presets/database_version.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJSEngine>
 #include <QVersionNumber>
 
 namespace window {
@@ -33,6 +38,21 @@ void recallPage(QPageLayout &page)
     if (id >= 0 && id < QPageSize::LastPageSize && id != QPageSize::Custom)
         page.setPageSize(QPageSize(QPageSize::PageSizeId(id)));
     page.setOrientation(platform::userDefault(landscapeKey).toBool() ? QPageLayout::Landscape : QPageLayout::Portrait);
+}
+
+/** For a file that ends too early too, which is an error for whoever waits for it. */
+app::VersionAnswer answerTo(const platform::Result<QString> &text, int build)
+{
+    try {
+        return app::versionAnswer(text, build);
+    } catch (const platform::Raised &raised) {
+        return {std::nullopt, raised.message()};
+    }
+}
+
+QJSValue textsOrNull(QJSEngine &engine, const std::optional<QStringList> &texts)
+{
+    return texts ? engine.toScriptValue(*texts) : QJSValue(QJSValue::NullValue);
 }
 
 QVariantMap described(const platform::Library &library)
@@ -79,6 +99,20 @@ QString ProgramDesk::manual() const
     const QDir folder(interfaceFolder());
     const QString path = QDir::cleanPath(folder.filePath(QStringLiteral("../docs/manual")));
     return QFileInfo::exists(path + QStringLiteral("/index.md")) ? path : QString();
+}
+
+void ProgramDesk::lookForUpdate(const QJSValue &taken)
+{
+    app::downloadText(app::versionFileAddress(), this, [this, taken](const platform::Result<QString> &text) {
+        QJSEngine *engine = qjsEngine(this);
+        if (!engine || !taken.isCallable())
+            return;
+        const app::VersionAnswer answer = answerTo(text, build());
+        const QJSValue problem = answer.problem.isNull() ? QJSValue(QJSValue::NullValue) : QJSValue(answer.problem);
+        const QJSValue result = taken.call({textsOrNull(*engine, answer.fields), problem});
+        if (result.isError())
+            platform::logLine(result.toString());
+    });
 }
 
 void ProgramDesk::print(const QStringList &paths)

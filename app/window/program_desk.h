@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJSValue>
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
@@ -33,6 +34,12 @@ public:
     QVariantList libraries() const;
     QString language() const;
     QString manual() const;
+
+    /**
+     * Asks in the background whether there is a newer build, and calls @p taken(fields, problem) from the event loop: the
+     * fields of cAppUpdater.getAppVersion() or null, and a sentence where nobody knows, or null.
+     */
+    Q_INVOKABLE void lookForUpdate(const QJSValue &taken);
 
     /** Shows the print panel and prints each picture on a page of its own, fitted and in the middle, without margins. */
     Q_INVOKABLE void print(const QStringList &paths);

@@ -4,24 +4,14 @@ export const KEY = "UpdateCheck";
 export const STANDARD = { onStart: false };
 
 /**
- * Asks once.
- *
- * @param updater  getAppVersion(build) and err, as cAppUpdater has them
+ * @param fields   label, and two texts, of a newer version, or null
+ * @param problem  why nobody knows whether there is one, or null
  * @return {kind: "newer", version, notes}, {kind: "current"}, or {kind: "failed"} where nobody could be asked or the answer
  *         made no sense
  */
-export function look(updater, build) {
-    let fields = null;
-    try {
-        fields = updater.getAppVersion(build);
-    } catch (error) {
-        if (!(error instanceof RangeError)) {
-            throw error;
-        }
-        return { kind: "failed" };
-    }
+export function outcome(fields, problem) {
     if (fields === null) {
-        return { kind: updater.err === null ? "current" : "failed" };
+        return { kind: problem === null ? "current" : "failed" };
     }
     return { kind: "newer", version: fields[0].trim(), notes: [fields[1], fields[2]].map((text) => text.trim()).filter((text) => text !== "").join("\n\n") };
 }

@@ -1,5 +1,6 @@
 #include "ScriptRun.h"
 
+#include "app/download.h"
 #include "platform/desktop/user_defaults.h"
 #include "tests/support/test_program.h"
 #include "tests/support/web_server.h"
@@ -32,6 +33,7 @@ class TestSeamUpdater : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void cleanup();
     void answersByTheVersionFile_data();
     void answersByTheVersionFile();
@@ -42,6 +44,17 @@ private Q_SLOTS:
     void forgetsAnErrorWhenItSucceeds();
     void refusesWrongArguments();
 };
+
+void TestSeamUpdater::initTestCase()
+{
+    for (const char *proxy : {"http_proxy", "HTTP_PROXY", "all_proxy", "ALL_PROXY"})
+        qunsetenv(proxy);
+    // As usual first: the figures are a promise.
+    QCOMPARE(app::usualDownloadLimits().silenceMs, 15'000);
+    QCOMPARE(app::usualDownloadLimits().wholeMs, 60'000);
+    QCOMPARE(app::usualDownloadLimits().bytes, 4 * 1024 * 1024);
+    app::usualDownloadLimits().silenceMs = 1000;
+}
 
 void TestSeamUpdater::cleanup()
 {
@@ -75,6 +88,9 @@ void TestSeamUpdater::answersByTheVersionFile_data()
     QTest::newRow("three fields") << WebServer::page("3.2;121;Notes") << 120 << tooShort(3);
     QTest::newRow("three fields, the same") << WebServer::page("3.2;121;Notes") << 121 << none;
     QTest::newRow("a page of words") << WebServer::page("<html>Sign in</html>") << 120 << tooShort(1);
+    QTest::newRow("a page to sign in") << WebServer::page("<html><style>a{b:c;d:e;f:g}</style>;h;i</html>") << 120
+                                       << failed;
+    QTest::newRow("a large page") << WebServer::page("3.2;121;Notes;" + QByteArray(1 << 20, 'x') + ";") << 121 << none;
     QTest::newRow("garbage") << WebServer::page(QByteArray::fromHex("89504e470d0a1a0affd8fe00")) << 120 << failed;
     QTest::newRow("not found") << WebServer::page("3.2;121;Notes;More", "404 Not Found") << 120 << failed;
     QTest::newRow("slow") << WebServer::silence() << 120 << failed;
@@ -98,7 +114,7 @@ void TestSeamUpdater::answersNullWithoutAServer_data()
     quint16 closed = 0;
     {
         const WebServer server(WebServer::silence());
-        closed = server.serverPort();
+        closed = server.port();
     }
     QTest::newRow("closed port") << "http://127.0.0.1:" + QByteArray::number(closed);
     QTest::newRow("none configured") << QByteArray();
@@ -133,7 +149,7 @@ void TestSeamUpdater::findsItsHost()
     if (!setting.isEmpty())
         platform::setUserDefault(key, setting.replace(QStringLiteral("%1"), server.host()));
     QVERIFY(answerTo(120).contains(QStringLiteral("Notes")));
-    QVERIFY(server.requests.value(0).startsWith("GET /version/Quorlin.txt HTTP"));
+    QVERIFY(server.requests().value(0).startsWith("GET /version/Quorlin.txt HTTP"));
 }
 
 void TestSeamUpdater::forgetsAnErrorWhenItSucceeds()

@@ -1,32 +1,48 @@
 #pragma once
 
 #include <QHostAddress>
-#include <QPointer>
+#include <QMutex>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QThread>
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 
-/** A server of this process that answers every request as the test says. */
-class WebServer : public QTcpServer
+/**
+ * A server of this process that answers every request as the test says, from a thread of its own: whoever waits for the answer
+ * may stand still.
+ */
+class WebServer
 {
 public:
     using Answer = std::function<void(QTcpSocket &)>;
 
     explicit WebServer(Answer answer) : m_answer(std::move(answer))
     {
-        if (!listen(QHostAddress::LocalHost))
-            qFatal("no port is free");
-        connect(this, &QTcpServer::newConnection, this, [this] {
-            while (QTcpSocket *socket = nextPendingConnection())
-                connect(socket, &QTcpSocket::readyRead, this, [this, socket] { take(*socket); });
-        });
+        m_thread.start();
+        onThread([this] { listen(); });
     }
 
-    QString host() const { return QStringLiteral("http://127.0.0.1:%1").arg(serverPort()); }
+    ~WebServer()
+    {
+        onThread([this] { m_server.reset(); });
+        m_thread.quit();
+        m_thread.wait();
+    }
+
+    WebServer(const WebServer &) = delete;
+    WebServer &operator=(const WebServer &) = delete;
+
+    quint16 port() const { return m_port; }
+    QString host() const { return QStringLiteral("http://127.0.0.1:%1").arg(m_port); }
     /** The request lines and headers that came, in order. */
-    QByteArrayList requests;
+    QByteArrayList requests() const
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_requests;
+    }
 
     static Answer page(const QByteArray &body, const QByteArray &status = "200 OK", const QByteArray &headers = {})
     {
@@ -58,7 +74,7 @@ public:
         return [=](QTcpSocket &socket) {
             socket.write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n");
             auto *timer = new QTimer(&socket);
-            connect(timer, &QTimer::timeout, &socket, [&socket, piece] { socket.write(piece); });
+            QObject::connect(timer, &QTimer::timeout, &socket, [&socket, piece] { socket.write(piece); });
             timer->start(everyMs);
         };
     }
@@ -68,16 +84,54 @@ public:
         return [](QTcpSocket &) {};
     }
 
+    /** Field after field of a head that never ends. */
+    static Answer endlessHead(const QByteArray &field, int everyMs)
+    {
+        return [=](QTcpSocket &socket) {
+            socket.write("HTTP/1.1 200 OK\r\n");
+            auto *timer = new QTimer(&socket);
+            QObject::connect(timer, &QTimer::timeout, &socket, [&socket, field] { socket.write(field + "\r\n"); });
+            timer->start(everyMs);
+        };
+    }
+
 private:
+    template<typename Body> void onThread(Body body)
+    {
+        QObject context;
+        context.moveToThread(&m_thread);
+        QMetaObject::invokeMethod(&context, body, Qt::BlockingQueuedConnection);
+    }
+
+    void listen()
+    {
+        m_server = std::make_unique<QTcpServer>();
+        if (!m_server->listen(QHostAddress::LocalHost))
+            qFatal("no port is free");
+        m_port = m_server->serverPort();
+        QObject::connect(m_server.get(), &QTcpServer::newConnection, m_server.get(), [this] {
+            while (QTcpSocket *socket = m_server->nextPendingConnection())
+                QObject::connect(socket, &QTcpSocket::readyRead, m_server.get(), [this, socket] { take(*socket); });
+        });
+    }
+
     void take(QTcpSocket &socket)
     {
         const QByteArray request = socket.readAll();
         if (!request.startsWith("GET "))
             return;
-        requests.append(request);
+        {
+            const QMutexLocker lock(&m_mutex);
+            m_requests.append(request);
+        }
         socket.setProperty("path", request.mid(4, request.indexOf(' ', 4) - 4));
         m_answer(socket);
     }
 
     Answer m_answer;
+    QThread m_thread;
+    std::unique_ptr<QTcpServer> m_server; ///< lives on the thread
+    quint16 m_port = 0;
+    mutable QMutex m_mutex;
+    QByteArrayList m_requests;
 };

@@ -1,13 +1,13 @@
 // What the main window says about itself: the Help menu, the info buttons of the panes, and new versions.
-// Services used: cAppUpdater, cSheetControl, defaults, files, program.
+// Services used: cSheetControl, defaults, program.
 
-import { cAppUpdater, cSheetControl } from "quorlin";
+import { cSheetControl } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { recall } from "../../lib/store.js";
-import { KEY, look, STANDARD } from "../../lib/update.js";
+import { KEY, outcome, STANDARD } from "../../lib/update.js";
 import { About } from "../about/about.js";
 import { Info, INFO_BUTTONS } from "../info/info.js";
 import { Manual } from "../manual/manual.js";
@@ -24,6 +24,8 @@ export class Help {
         this.sheets = new cSheetControl();
         this.sheets.wwMainWindow = this.host;
         this.parts = {};
+        this.found = null; // what a look came to that nobody was told of yet
+        this.asked = false;
         this.join(window.form);
         const deeds = { about: () => this.about(), update: () => this.check(true), manual: () => this.manual() };
         Object.keys(deeds).forEach((name) => window.form.control(name + "Action").triggered.connect(guard(name, deeds[name])));
@@ -62,7 +64,25 @@ export class Help {
 
     /** Looks for a new version; only who asked is told that there is none, or that nobody answers. */
     check(asked) {
-        const found = look(new cAppUpdater(), program.build);
+        this.asked = this.asked || asked;
+        if (asked) {
+            this.window.say(qsTr("Looking for a new version…"));
+        }
+        program.lookForUpdate(guard("update", (fields, problem) => {
+            this.found = outcome(fields, problem);
+            this.tell();
+        }));
+    }
+
+    /** Tells what the look came to; after the run where there is one. */
+    tell() {
+        const found = this.found;
+        if (found === null || (this.window.run !== null && this.window.run.isBusy())) {
+            return;
+        }
+        const asked = this.asked;
+        this.found = null;
+        this.asked = false;
         if (found.kind === "newer") {
             this.part("version", () => new NewVersion(this.sheets)).open(found.version, found.notes);
         } else if (asked) {

@@ -8,13 +8,15 @@
 
 namespace {
 
-const QByteArray bytes65536 = QByteArray(65536, 'x');
+/** With the head of the page, less than is allowed; and more. */
+const QByteArray allowed = QByteArray(19'900, 'x');
+const app::DownloadLimits limits = {.silenceMs = 700, .wholeMs = 1500, .bytes = 20'000};
 const QString path = QStringLiteral("/version/Quorlin.txt");
 
 /** The text, or "failed" where the sentence says that, of which address, and why. */
 QString outcomeOf(const QUrl &address)
 {
-    const auto text = app::downloadedText(address, {.timeoutMs = 1000});
+    const auto text = app::downloadedText(address, limits);
     if (text)
         return text->isNull() ? QStringLiteral("null") : *text;
     const QString sentence = text.error().message;
@@ -32,6 +34,8 @@ class TestDownload : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
+    void cleanup() { init(); }
     void answersTheTextOrFails_data();
     void answersTheTextOrFails();
     void asksOnceAndPolitely();
@@ -41,7 +45,16 @@ private Q_SLOTS:
     void takesNoOtherAddresses_data();
     void takesNoOtherAddresses();
     void staysUsableAfterAFailure();
+    void asksTheProxyOfTheEnvironment();
+    void handlesNoEventMeanwhile();
+    void answersInTheBackground();
 };
+
+void TestDownload::init()
+{
+    for (const char *variable : {"http_proxy", "HTTP_PROXY", "all_proxy", "ALL_PROXY", "no_proxy", "NO_PROXY"})
+        qunsetenv(variable);
+}
 
 void TestDownload::answersTheTextOrFails_data()
 {
@@ -50,8 +63,20 @@ void TestDownload::answersTheTextOrFails_data()
     const QString failed = QStringLiteral("failed");
     QTest::newRow("text") << WebServer::page("3.2;121;é\n") << QStringLiteral("3.2;121;é\n");
     QTest::newRow("nothing") << WebServer::page("") << QString();
-    QTest::newRow("as much as is allowed") << WebServer::page(bytes65536) << QString::fromLatin1(bytes65536);
-    QTest::newRow("a byte more") << WebServer::page(bytes65536 + "x") << failed;
+    QTest::newRow("as much as is allowed") << WebServer::page(allowed) << QString::fromLatin1(allowed);
+    QTest::newRow("more") << WebServer::page(allowed + QByteArray(200, 'x')) << failed;
+    QTest::newRow("more in the head") << WebServer::page("x", "200 OK", "X: " + allowed + allowed + "\r\n") << failed;
+    QTest::newRow("endless head") << WebServer::endlessHead(QByteArray("X: ") + QByteArray(1 << 20, 'x'), 0) << failed;
+    QTest::newRow("in chunks") << WebServer::Answer([](QTcpSocket &socket) {
+        socket.write("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n4\r\n3.2;\r\n5;x=y\r\n121;a\r\n0\r\n\r\n");
+    }) << QStringLiteral("3.2;121;a");
+    QTest::newRow("without a length") << WebServer::Answer([](QTcpSocket &socket) {
+        socket.write("HTTP/1.1 200 OK\r\n\r\n3.2;121;a");
+        socket.disconnectFromHost();
+    }) << QStringLiteral("3.2;121;a");
+    QTest::newRow("announced before") << WebServer::Answer([](QTcpSocket &socket) {
+        socket.write("HTTP/1.1 103 Early Hints\r\n\r\nHTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nab");
+    }) << QStringLiteral("ab");
     QTest::newRow("huge") << WebServer::page(QByteArray(50 << 20, 'x')) << failed;
     QTest::newRow("endless") << WebServer::endless(QByteArray(1 << 20, 'x'), 0) << failed;
     QTest::newRow("not UTF-8") << WebServer::page("3.2;121;\xff;x") << failed;
@@ -87,10 +112,10 @@ void TestDownload::asksOnceAndPolitely()
 {
     WebServer server(WebServer::page("x"));
     outcomeOf(QUrl(server.host() + path));
-    QCOMPARE(server.requests.size(), 1);
-    QVERIFY(server.requests.first().startsWith("GET /version/Quorlin.txt HTTP/1.1\r\n"));
-    QVERIFY(server.requests.first().contains("User-Agent: Quorlin/"));
-    QVERIFY(!server.requests.first().toLower().contains("cookie"));
+    QCOMPARE(server.requests().size(), 1);
+    QVERIFY(server.requests().first().startsWith("GET /version/Quorlin.txt HTTP/1.1\r\n"));
+    QVERIFY(server.requests().first().contains("User-Agent: Quorlin/"));
+    QVERIFY(!server.requests().first().toLower().contains("cookie"));
 }
 
 void TestDownload::failsAtOnceWhereNobodyListens()
@@ -111,6 +136,7 @@ void TestDownload::waitsNoLongerThanItsLimit_data()
     QTest::addColumn<WebServer::Answer>("answer");
     QTest::newRow("says nothing") << WebServer::silence();
     QTest::newRow("says a byte now and then") << WebServer::endless("x", 100);
+    QTest::newRow("says a field now and then") << WebServer::endlessHead("X: y", 100);
     QTest::newRow("sends on and on") << WebServer::redirect("/again");
 }
 
@@ -136,7 +162,7 @@ void TestDownload::takesNoOtherAddresses_data()
 void TestDownload::takesNoOtherAddresses()
 {
     QFETCH(QString, address);
-    const auto text = app::downloadedText(QUrl(address), {.timeoutMs = 1000});
+    const auto text = app::downloadedText(QUrl(address), limits);
     QVERIFY(!text);
     QVERIFY(text.error().message.contains(QStringLiteral("no web address")));
 }
@@ -147,6 +173,55 @@ void TestDownload::staysUsableAfterAFailure()
     QCOMPARE(outcomeOf(QUrl(slow.host() + path)), QStringLiteral("failed"));
     WebServer server(WebServer::page("there"));
     QCOMPARE(outcomeOf(QUrl(server.host() + path)), QStringLiteral("there"));
+}
+
+void TestDownload::asksTheProxyOfTheEnvironment()
+{
+    WebServer proxy(WebServer::page("through"));
+    qputenv("http_proxy", proxy.host().toLatin1());
+    QCOMPARE(outcomeOf(QUrl(QStringLiteral("http://versions.invalid/version/Quorlin.txt"))), QStringLiteral("through"));
+    QCOMPARE(proxy.requests().size(), 1);
+    QVERIFY(proxy.requests().first().startsWith("GET http://versions.invalid/version/Quorlin.txt HTTP/1.1\r\n"));
+    QVERIFY(proxy.requests().first().contains("\r\nHost: versions.invalid\r\n"));
+    for (const char *exempt : {"127.0.0.1", "*", "example.org, 127.0.0.1:80"}) {
+        WebServer server(WebServer::page("direct"));
+        qputenv("no_proxy", exempt);
+        QCOMPARE(outcomeOf(QUrl(server.host() + path)), QStringLiteral("direct"));
+    }
+    qputenv("no_proxy", ".invalid");
+    QCOMPARE(outcomeOf(QUrl(QStringLiteral("http://versions.invalid/"))), QStringLiteral("failed"));
+    QCOMPARE(proxy.requests().size(), 1);
+}
+
+void TestDownload::handlesNoEventMeanwhile()
+{
+    WebServer server(WebServer::silence());
+    bool hasRun = false;
+    QTimer::singleShot(0, this, [&hasRun] { hasRun = true; });
+    QCOMPARE(outcomeOf(QUrl(server.host() + path)), QStringLiteral("failed"));
+    QVERIFY(!hasRun);
+    QCoreApplication::processEvents();
+    QVERIFY(hasRun);
+}
+
+void TestDownload::answersInTheBackground()
+{
+    WebServer server(WebServer::page("there"));
+    QString taken;
+    QObject receiver;
+    app::downloadText(
+        QUrl(server.host() + path), &receiver, [&](const auto &text) { taken = text.value_or(QString()); }, limits);
+    QVERIFY(taken.isNull());
+    QTRY_COMPARE(taken, QStringLiteral("there"));
+    bool isCalled = false;
+    {
+        QObject gone;
+        app::downloadText(
+            QUrl(server.host() + path), &gone, [&](const auto &) { isCalled = true; }, limits);
+    }
+    QTRY_COMPARE(server.requests().size(), 2);
+    QTest::qWait(100);
+    QVERIFY(!isCalled);
 }
 
 QUORLIN_TEST(TestDownload)
