@@ -2,7 +2,6 @@
 
 #include "app/print_settings.h"
 
-#include "platform/desktop/panels.h"
 #include "platform/foundation/atomic_file.h"
 #include "platform/graphics/picture.h"
 
@@ -10,6 +9,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -59,7 +59,8 @@ void drawPage(QPainter &painter, const QString &path, const PrintSettings &setti
 }
 
 /** One page for each picture, in the device's own paper and orientation. */
-void drawPages(QPagedPaintDevice &device, const QStringList &paths, PrintSettings settings)
+void drawPages(QPagedPaintDevice &device, const QStringList &paths, PrintSettings settings,
+               const platform::PrintPages &pages)
 {
     settings.page = device.pageLayout();
     QPainter painter;
@@ -68,15 +69,15 @@ void drawPages(QPagedPaintDevice &device, const QStringList &paths, PrintSetting
     // From here on a unit is a point and the origin the corner of the paper.
     painter.scale(device.logicalDpiX() / pointsPerInch, device.logicalDpiY() / pointsPerInch);
     bool isFirst = true;
-    for (const QString &path : paths) {
+    for (const int page : pagesToPrint(int(paths.size()), pages)) {
         if (!isFirst && !device.newPage())
             return;
         isFirst = false;
-        drawPage(painter, path, settings);
+        drawPage(painter, paths.at(page), settings);
     }
 }
 
-QByteArray pdfOf(const QStringList &paths, const PrintSettings &settings)
+QByteArray pdfOf(const QStringList &paths, const PrintSettings &settings, const platform::PrintPages &pages)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -84,24 +85,43 @@ QByteArray pdfOf(const QStringList &paths, const PrintSettings &settings)
     writer.setCreator(QStringLiteral("Quorlin"));
     writer.setResolution(1200);
     writer.setPageLayout(settings.page);
-    drawPages(writer, paths, settings);
+    drawPages(writer, paths, settings, pages);
     return buffer.data();
 }
 
 } // namespace
+
+std::vector<int> pagesToPrint(int count, const platform::PrintPages &pages)
+{
+    const int first = std::max(pages.from, 1) - 1;
+    const int end = pages.from > 0 ? std::min(pages.to, count) : count;
+    std::vector<int> once;
+    for (int page = first; page < end; ++page)
+        once.push_back(page);
+    if (pages.isBackwards)
+        std::reverse(once.begin(), once.end());
+    const int inner = pages.areCollated ? 1 : pages.copies;
+    const int outer = pages.areCollated ? pages.copies : 1;
+    std::vector<int> all;
+    for (int copy = 0; copy < outer; ++copy)
+        for (const int page : once)
+            all.insert(all.end(), size_t(std::max(inner, 0)), page);
+    return all;
+}
 
 void printPictures(const QStringList &paths, const PrintSettings &settings)
 {
     platform::PanelRequest request;
     request.kind = platform::PanelKind::Print;
     request.page = settings.page;
+    request.pageCount = int(paths.size());
     const platform::PanelAnswer answer = platform::runPanel(request);
     if (!answer.accepted)
         return;
     if (answer.printer)
-        drawPages(*answer.printer, paths, settings);
+        drawPages(*answer.printer, paths, settings, answer.pages);
     else if (!answer.paths.isEmpty())
-        static_cast<void>(platform::replaceFile(answer.paths.constFirst(), pdfOf(paths, settings)));
+        static_cast<void>(platform::replaceFile(answer.paths.constFirst(), pdfOf(paths, settings, answer.pages)));
 }
 
 } // namespace app

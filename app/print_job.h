@@ -1,10 +1,17 @@
 #pragma once
 
+#include "platform/desktop/panels.h"
+
 #include <QStringList>
+
+#include <vector>
 
 namespace app {
 
 struct PrintSettings;
+
+/** The numbers of the pages, from 0, in the order in which they are printed, each as often as it is. */
+std::vector<int> pagesToPrint(int count, const platform::PrintPages &pages);
 
 /**
  * Shows the print panel and, unless it is cancelled, prints each picture on a page of its own: on the printer that was chosen in

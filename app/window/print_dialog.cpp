@@ -24,13 +24,32 @@ std::shared_ptr<QPrinter> printerFor(const QPageLayout &page)
     return printer;
 }
 
+/** What is left to whoever draws the pages: a print system that makes copies by itself is told of them. */
+platform::PrintPages chosenPages(const QPrinter &printer)
+{
+    platform::PrintPages pages;
+    if (printer.printRange() == QPrinter::PageRange) {
+        pages.from = printer.fromPage();
+        pages.to = printer.toPage();
+    }
+    pages.copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
+    pages.areCollated = printer.collateCopies();
+    pages.isBackwards = printer.pageOrder() == QPrinter::LastPageFirst;
+    return pages;
+}
+
 } // namespace
 
 platform::PanelAnswer runPrintDialog(const platform::PanelRequest &request)
 {
     const std::shared_ptr<QPrinter> printer = printerFor(request.page);
     QPrintDialog dialog(printer.get(), QApplication::activeWindow());
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
+                      QAbstractPrintDialog::PrintCollateCopies);
+    if (request.pageCount > 1) {
+        dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+        dialog.setMinMax(1, request.pageCount);
+    }
     if (dialog.exec() != QDialog::Accepted)
         return {};
     // The dialog may have put margins back that the printer likes.
@@ -39,6 +58,7 @@ platform::PanelAnswer runPrintDialog(const platform::PanelRequest &request)
     platform::PanelAnswer answer;
     answer.accepted = true;
     answer.printer = printer;
+    answer.pages = chosenPages(*printer);
     return answer;
 }
 

@@ -36,7 +36,18 @@ struct PanelRequest
     QPointer<QObject> accessory;
     /** Tells when the types change while the panel is up; null where they cannot. */
     QPointer<SavePanel> panel;
-    QPageLayout page; ///< print panels: the paper and its orientation, which the user may change there
+    int pageCount = 1; ///< print panels: how many pages there are to choose from
+    QPageLayout page;  ///< print panels: the paper and its orientation, which the user may change there
+};
+
+/** Which pages are printed, in which order and how often, as the user chose it in a print panel. */
+struct PrintPages
+{
+    int from = 0; ///< the first page, from 1; 0 for all of them
+    int to = 0;
+    int copies = 1; ///< those that the printer does not make by itself
+    bool areCollated = true;
+    bool isBackwards = false;
 };
 
 /** What the user did with a panel. Anything but acceptance counts as cancelled. */
@@ -47,6 +58,7 @@ struct PanelAnswer
     QStringList tags;
     /** Print panels: where to print, set up as the user chose; null where a path says it. */
     std::shared_ptr<QPagedPaintDevice> printer = nullptr;
+    PrintPages pages = {};
 };
 
 /** Shows panels. One provider serves the process: dialogs in the application, queued answers where nobody looks. */

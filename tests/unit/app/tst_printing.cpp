@@ -27,8 +27,10 @@ public:
     platform::PanelAnswer run(const platform::PanelRequest &request) override
     {
         shown.append(request);
-        return {!path.isNull(), path.isEmpty() ? QStringList() : QStringList{path}, {}};
+        return {!path.isNull(), path.isEmpty() ? QStringList() : QStringList{path}, {}, nullptr, pages};
     }
+
+    platform::PrintPages pages;
 
     QString path;
     QList<platform::PanelRequest> shown;
@@ -76,6 +78,8 @@ QImage quarters(int width, int height)
 
 } // namespace
 
+Q_DECLARE_METATYPE(platform::PrintPages)
+
 /** Pages as they come out of a printer that writes PDF, rasterised and looked at. */
 class TestPrinting : public QObject
 {
@@ -99,6 +103,8 @@ private Q_SLOTS:
     void printsColoursAsTheyLook();
     void printsLargePictures();
     void printsOnePageForEachPicture();
+    void printsThePagesThatWereChosen_data();
+    void printsThePagesThatWereChosen();
     void replacesTheFileAndLeavesTheSource();
     void survivesAFolderThatCannotBeWritten();
 
@@ -113,6 +119,43 @@ private:
     QTemporaryDir m_colors; ///< what the rows of a data function name must outlive a single test
     PrintPanels *m_panels = nullptr;
 };
+
+void TestPrinting::printsThePagesThatWereChosen_data()
+{
+    QTest::addColumn<platform::PrintPages>("pages");
+    QTest::addColumn<QByteArray>("order"); // a: red, b: green, c: blue
+    QTest::newRow("all") << platform::PrintPages() << QByteArray("abc");
+    QTest::newRow("a range") << platform::PrintPages{2, 3, 1, true, false} << QByteArray("bc");
+    QTest::newRow("one page") << platform::PrintPages{2, 2, 1, true, false} << QByteArray("b");
+    QTest::newRow("beyond the end") << platform::PrintPages{3, 9, 1, true, false} << QByteArray("c");
+    QTest::newRow("backwards") << platform::PrintPages{0, 0, 1, true, true} << QByteArray("cba");
+    QTest::newRow("collated copies") << platform::PrintPages{0, 0, 2, true, false} << QByteArray("abcabc");
+    QTest::newRow("copies") << platform::PrintPages{1, 2, 2, false, false} << QByteArray("aabb");
+    QTest::newRow("everything") << platform::PrintPages{1, 2, 2, true, true} << QByteArray("baba");
+}
+
+void TestPrinting::printsThePagesThatWereChosen()
+{
+    QFETCH(platform::PrintPages, pages);
+    QFETCH(QByteArray, order);
+    QStringList pictures;
+    for (const QRgb color : {qRgb(200, 0, 0), qRgb(0, 160, 0), qRgb(0, 0, 200)}) {
+        QImage image(40, 40, QImage::Format_RGB32);
+        image.fill(color);
+        pictures.append(saved(image, qPrintable(QStringLiteral("%1.png").arg(pictures.size()))));
+    }
+    m_panels->pages = pages;
+    app::printPictures(pictures, app::sharedPrintSettings());
+    QCOMPARE(m_panels->shown.constLast().pageCount, 3);
+    QCOMPARE(pageCount(), int(order.size()));
+    QByteArray seen;
+    for (int number = 1; number <= order.size(); ++number) {
+        const QImage sheet = page(number);
+        const QRgb middle = sheet.pixel(inkOf(sheet).center());
+        seen.append(qRed(middle) > 100 ? 'a' : qGreen(middle) > 100 ? 'b' : 'c');
+    }
+    QCOMPARE(seen, order);
+}
 
 void TestPrinting::init()
 {
