@@ -1,9 +1,13 @@
 #include "app/window/main_frame.h"
 
 #include "platform/desktop/menu_bar.h"
+#include "platform/desktop/screens.h"
 
 #include <QAction>
 #include <QMenuBar>
+#include <QScreen>
+
+#include <utility>
 
 namespace window {
 
@@ -19,10 +23,16 @@ MainFrame::MainFrame(QMainWindow &window) : m_window(&window)
         if (QWidget *bar = shown ? shown->menuWidget() : nullptr)
             bar->setVisible(visible);
     });
+    // The first screen is the one that the window stands on.
+    platform::setScreenProvider([this] {
+        const QWidget *shown = m_window.data();
+        return shown ? QRectF(shown->screen()->geometry()) : QRectF();
+    });
 }
 
 MainFrame::~MainFrame()
 {
+    platform::setScreenProvider({});
     platform::setMenuBarPresenter({});
 }
 
@@ -43,11 +53,17 @@ void MainFrame::setFrame(const QRectF &frame, app::WindowExtent extent)
     m_screenFrame = whole ? frame : QRectF();
     window->setProperty("fullScreen", whole);
     if (whole) {
-        window->showFullScreen();
-    } else {
-        window->showNormal();
-        window->setGeometry(frame.toRect());
+        m_wasMaximised = m_wasMaximised || window->isMaximized();
+        window->setWindowState(window->windowState() | Qt::WindowFullScreen);
+        window->show();
+        return;
     }
+    const bool isMaximised = std::exchange(m_wasMaximised, false);
+    window->setWindowState(isMaximised ? Qt::WindowMaximized : Qt::WindowNoState);
+    window->show();
+    // A maximised window keeps the frame that it has without that.
+    if (!isMaximised)
+        window->setGeometry(frame.toRect());
 }
 
 } // namespace window

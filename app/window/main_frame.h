@@ -7,7 +7,10 @@
 
 namespace window {
 
-/** The main window as the full-screen service handles it. Frames are those of the content, without the title bar. */
+/**
+ * The main window as the full-screen service handles it. Frames are those of the content, without the title bar. It fills the
+ * screen that it stands on, and is maximised again afterwards where it was before.
+ */
 class MainFrame : public app::WindowBackend
 {
 public:
@@ -20,6 +23,7 @@ public:
 
 private:
     QPointer<QMainWindow> m_window;
+    bool m_wasMaximised = false;
     QRectF m_screenFrame; ///< while the window covers the screen; the desktop tells the real one only later
 };
 

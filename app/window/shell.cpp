@@ -248,6 +248,8 @@ void Shell::setMainForm(QObject *form)
     m_mainFrame = std::make_unique<MainFrame>(*window);
     m_fullScreen.attach(m_mainFrame.get());
     m_fullScreen.initWithContentRect(window->geometry(), 0, 0, platform::Flag());
+    window->setAttribute(Qt::WA_ShowWithoutActivating, !m_fullScreen.canBecomeKeyWindow());
+    connect(m_mainForm, &Form::closing, this, [this] { m_fullScreen.windowWillClose({}); });
 }
 
 void Shell::toggleFullScreen()

@@ -3,6 +3,8 @@
 
 #include "app/window/side_bar.h"
 
+#include "platform/desktop/menu_bar.h"
+#include "platform/desktop/screens.h"
 #include "platform/desktop/panels.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/imageio/image_source.h"
@@ -19,6 +21,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSplitter>
 #include <QTest>
 #include <QTimer>
@@ -367,6 +370,51 @@ private Q_SLOTS:
         QVERIFY(m_driver->pictures().currentId() != first);
         QTest::keyClick(&m_driver->pictures(), Qt::Key_Left);
         QCOMPARE(m_driver->pictures().currentId(), first);
+    }
+
+    void aMaximisedWindowComesBackMaximised()
+    {
+        QMainWindow &window = m_driver->window();
+        window.showMaximized();
+        QTRY_VERIFY(window.isMaximized());
+        m_driver->trigger("fullScreenAction");
+        QTRY_VERIFY(window.isFullScreen());
+        QCOMPARE(window.geometry(), window.screen()->geometry());
+        m_driver->trigger("fullScreenAction");
+        QTRY_VERIFY(!window.isFullScreen());
+        QVERIFY(window.isMaximized());
+        window.showNormal();
+        QTRY_VERIFY(!window.isMaximized());
+        const QRect usual(30, 40, 1100, 700);
+        window.setGeometry(usual);
+        m_driver->trigger("fullScreenAction");
+        m_driver->trigger("fullScreenAction");
+        QTRY_VERIFY(!window.isFullScreen());
+        QVERIFY(!window.isMaximized());
+        QCOMPARE(window.geometry(), usual);
+    }
+
+    void callsTheOperationsOfTheLifeOfAWindow()
+    {
+        QMainWindow &window = m_driver->window();
+        QVERIFY(window.property("titlebarAppearsTransparent").toBool());
+        QCOMPARE(window.windowOpacity(), 1.0);
+        m_driver->trigger("fullScreenAction");
+        QVERIFY(!platform::isMenuBarVisible());
+        window.close();
+        QVERIFY(platform::isMenuBarVisible());
+        m_driver->startAgain();
+    }
+
+    void fillsTheScreenThatTheWindowStandsOn()
+    {
+        QMainWindow &window = m_driver->window();
+        QCOMPARE(platform::firstScreenFrame(), QRectF(window.screen()->geometry()));
+    }
+
+    void panelsAskForTags()
+    {
+        QCOMPARE(platform::userDefault(QStringLiteral("MOS")).toString(), QStringLiteral("109+"));
     }
 
     void fullScreenHidesTheMenuBarAndComesBack()

@@ -86,7 +86,7 @@ private Q_SLOTS:
         QString name;
         save([&](window::SaveDialog &panel) {
             name = inPanel<QLineEdit>("fileNameEdit")->text();
-            QVERIFY(!panel.findChild<QLineEdit *>(QStringLiteral("tagField")));
+            QVERIFY(panel.findChild<QLineEdit *>(QStringLiteral("tagField")));
             confirm(panel);
         });
         QCOMPARE(name, QStringLiteral("a.b.jpeg"));
@@ -235,13 +235,24 @@ private Q_SLOTS:
 
     void asksForTagsWhereTheSystemHasThem()
     {
-        platform::setUserDefault(QStringLiteral("MOS"), QStringLiteral("109+"));
         save([&](window::SaveDialog &panel) {
             inPanel<QLineEdit>("tagField")->setText(QStringLiteral("red, holiday photos"));
             confirm(panel);
         });
         QCOMPARE(platform::tagsOf(m_driver->folder() + QStringLiteral("/Desktop/a.b.jpeg")),
                  (QStringList{QStringLiteral("red"), QStringLiteral("holiday photos")}));
+    }
+
+    void asksForNoTagsWhereTheSystemHasNone()
+    {
+        qputenv("QUORLIN_FRAMEWORK_VERSION", "800");
+        m_driver->startAgain();
+        qunsetenv("QUORLIN_FRAMEWORK_VERSION");
+        QCOMPARE(platform::userDefault(QStringLiteral("MOS")).toString(), QStringLiteral("108"));
+        save([&](window::SaveDialog &panel) {
+            QVERIFY(!panel.findChild<QLineEdit *>(QStringLiteral("tagField")));
+            panel.reject();
+        });
     }
 
     void saysWhereItCouldNotBeSaved()

@@ -1,6 +1,7 @@
 // The main window: puts its parts together and joins controls to deeds.
-// Services used: what the parts of the window use.
+// Services used: cToolBox, the controllers and views of the window, and what the parts of the window use.
 
+import { cToolBox, mainViewController, mainWindowClass, my2ndPhotoView, myMainPhotoView } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard, onProblem } from "../../lib/guard.js";
@@ -117,6 +118,7 @@ function showAll(window) {
     showInputState(window);
     showDeed(window);
     showStatusBar(window);
+    window.help.tell();
 }
 
 function showCurrent(window) {
@@ -353,10 +355,21 @@ function connectAppearance(window) {
     show();
 }
 
+// What a window and its views are told when they come out of their form.
+function awake(window) {
+    window.controllers = { window: new mainWindowClass(), view: new mainViewController() };
+    window.photoViews = [new myMainPhotoView(), new my2ndPhotoView()];
+    window.photoViews.forEach((view) => view.awakeFromNib());
+    window.controllers.window.windowDidLoad();
+    window.controllers.view.window = window.form.control("mainWindow");
+}
+
 /** Makes and shows the main window. */
 export function openMainWindow() {
     onProblem(tellProblem);
+    defaults.set("MOS", cToolBox.hGetMacOSVersion());
     const window = makeWindow();
+    awake(window);
     window.say = (text) => say(window, text);
     window.showState = () => showAll(window);
     window.reloadPreview = () => { window.preview.reload(); showCurrent(window); };
@@ -390,6 +403,7 @@ export function openMainWindow() {
     showTitle(window);
     showCurrent(window);
     showAll(window);
+    window.controllers.view.viewWillAppear();
     window.form.show();
     window.form.control("central").setFocus();
     watchSettings(window.note);
