@@ -10,6 +10,11 @@
 
 #include <array>
 #include <cstdio>
+#include <cstring>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace {
 
@@ -20,15 +25,38 @@ constexpr int badCommandLine = 2;
 const char usage[] = "Usage: quorlin-script FILE.js [ARG...]\n"
                      "Runs one script module with the service classes of Quorlin.\n";
 
+/** Whether somebody listens where the environment says: the variable outlives the session that set it. */
+bool isWaylandThere()
+{
+    const QByteArray name = qgetenv("WAYLAND_DISPLAY");
+    const QByteArray path = name.startsWith('/') ? name : qgetenv("XDG_RUNTIME_DIR") + '/' + name;
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    if (name.isEmpty() || size_t(path.size()) >= sizeof address.sun_path)
+        return false;
+    std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const bool answers =
+        socket >= 0 && ::connect(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+    if (socket >= 0)
+        ::close(socket);
+    return answers;
+}
+
 /**
  * The option that names the platform: without a display, or with one that does not answer, the windowless one will do. A
  * platform that the caller named wins, and the environment of programs that a script starts stays as it is.
  */
 QByteArray platformOption()
 {
-    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return {};
-    return qEnvironmentVariableIsEmpty("DISPLAY") ? "offscreen" : "xcb;offscreen";
+    QByteArray platforms;
+    if (isWaylandThere())
+        platforms += "wayland;";
+    if (!qEnvironmentVariableIsEmpty("DISPLAY"))
+        platforms += "xcb;";
+    return platforms + "offscreen";
 }
 
 int runScript(const QString &file, const QStringList &arguments)

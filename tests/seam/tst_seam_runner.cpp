@@ -1,6 +1,7 @@
 #include "tests/support/test_program.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -14,6 +15,19 @@ struct Run
     QString output;
     QString errors;
 };
+
+/** The text of all settings files of a home. */
+QString settingsBelow(const QString &home)
+{
+    QString all;
+    QDirIterator walk(home + QStringLiteral("/config"), QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        QFile file(walk.next());
+        if (file.open(QIODevice::ReadOnly))
+            all += QString::fromUtf8(file.readAll());
+    }
+    return all;
+}
 
 } // namespace
 
@@ -31,6 +45,7 @@ private Q_SLOTS:
     void refusesABadCommandLine_data();
     void refusesABadCommandLine();
     void needsNoDisplay();
+    void aWindowSaysNothingOfItsServices();
     void importsFromTheFolderOfTheScript();
     void runsEveryModuleThereIs();
 
@@ -156,6 +171,37 @@ void TestSeamRunner::needsNoDisplay()
     const Run dead = run({file}, nothing + QStringList{QStringLiteral("DISPLAY=:65000")});
     QCOMPARE(dead.output, QStringLiteral("no display\n"));
     QCOMPARE(dead.status, 0);
+    // A session that is over leaves its variable behind.
+    const Run stale = run({file}, nothing + QStringList{QStringLiteral("WAYLAND_DISPLAY=wayland-77"),
+                                                        QStringLiteral("XDG_RUNTIME_DIR=") + m_folder.path()});
+    QCOMPARE(stale.errors, QString());
+    QCOMPARE(stale.output, QStringLiteral("no display\n"));
+    QCOMPARE(stale.status, 0);
+}
+
+void TestSeamRunner::aWindowSaysNothingOfItsServices()
+{
+    const QString home = m_folder.filePath(QStringLiteral("home"));
+    QVERIFY(QDir().mkpath(home));
+    QVERIFY(QFile::setPermissions(home, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    QProcess process;
+    process.setEnvironment(QProcess::systemEnvironment() +
+                           QStringList{QStringLiteral("QT_QPA_PLATFORM=offscreen"), QStringLiteral("HOME=") + home,
+                                       QStringLiteral("XDG_CONFIG_HOME=") + home + QStringLiteral("/config"),
+                                       QStringLiteral("XDG_DATA_HOME=") + home + QStringLiteral("/data"),
+                                       QStringLiteral("XDG_RUNTIME_DIR=") + home,
+                                       QStringLiteral("QUORLIN_INTERFACE=" QUORLIN_INTERFACE_FOLDER)});
+    process.start(QStringLiteral(QUORLIN_PROGRAM), {});
+    QVERIFY(process.waitForStarted());
+    // The version word is written when the window is made, at which point its views have logged that they are awake.
+    QString settings;
+    QTRY_VERIFY_WITH_TIMEOUT((settings = settingsBelow(home)).contains(QStringLiteral("MOS")), 20000);
+    QTest::qWait(500);
+    process.terminate();
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(QString::fromUtf8(process.readAllStandardError()), QString());
+    QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()), QString());
+    QVERIFY2(settings.contains(QStringLiteral("109+")), qPrintable(settings));
 }
 
 void TestSeamRunner::importsFromTheFolderOfTheScript()

@@ -1,0 +1,57 @@
+#include "tests/support/test_program.h"
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+/** Every operation with values of every wrong kind: none crashes, hangs, or answers what no operation answers. */
+class TestSeamWrongValues : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void areAnsweredByTheContract_data();
+    void areAnsweredByTheContract();
+};
+
+void TestSeamWrongValues::areAnsweredByTheContract_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::newRow("one at a time") << QStringLiteral("one");
+    if (tests::isSlowRun())
+        QTest::newRow("two at a time") << QStringLiteral("pairs");
+}
+
+void TestSeamWrongValues::areAnsweredByTheContract()
+{
+    QFETCH(QString, how);
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("home/no-programs")));
+    QImage picture(20, 10, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(folder.filePath(QStringLiteral("p.png"))));
+    const QString home = folder.filePath(QStringLiteral("home"));
+    QProcess process;
+    process.setWorkingDirectory(home);
+    // No browser and no file manager is to open.
+    process.setEnvironment({QStringLiteral("QT_QPA_PLATFORM=offscreen"), QStringLiteral("HOME=") + home,
+                            QStringLiteral("PATH=") + home + QStringLiteral("/no-programs"),
+                            QStringLiteral("XDG_RUNTIME_DIR=") + home, QStringLiteral("LC_ALL=C.UTF-8"),
+                            QStringLiteral("ASAN_OPTIONS=") + qEnvironmentVariable("ASAN_OPTIONS"),
+                            QStringLiteral("LSAN_OPTIONS=") + qEnvironmentVariable("LSAN_OPTIONS")});
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(QStringLiteral(QUORLIN_SCRIPT), {QStringLiteral(QUORLIN_WRONG_VALUES), folder.path(), how});
+    constexpr int longestMs = 280'000;
+    QVERIFY2(process.waitForFinished(longestMs), "it hangs");
+    const QString output = QString::fromUtf8(process.readAllStandardOutput());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY2(output.contains(QRegularExpression(QStringLiteral("^0 faults in \\d{4,} calls"))),
+             qPrintable(output.left(4000)));
+}
+
+QUORLIN_TEST(TestSeamWrongValues)
+#include "tst_seam_wrong_values.moc"
