@@ -59,6 +59,12 @@ QVariant emptyOf(Kind kind, QMetaType type)
     return kind == Kind::Nothing || kind == Kind::Any ? QVariant() : QVariant(type);
 }
 
+/** Text that is nothing and empty text: a field that is a member is left as it is where the two compare equal. */
+bool isOtherNothing(const QString &present, const QString &wanted)
+{
+    return present.isEmpty() && wanted.isEmpty() && present.isNull() != wanted.isNull();
+}
+
 QString nameOf(const ServiceClass &service)
 {
     return QString::fromLatin1(service.entry.name);
@@ -348,7 +354,10 @@ void Seam::write(const QVariant &native, int fieldId, const QJSValue &value)
             throw platform::Raised::typeError(QStringLiteral("%1 of %2 is read only").arg(name, nameOf(*owner)));
         const QVariant converted = field->kind == Kind::Any ? m_values.anything(value, name)
                                                             : m_values.toNative(value, field->kind, field->type, name);
-        object->metaObject()->property(field->propertyIndex).write(object, converted);
+        const QMetaProperty property = object->metaObject()->property(field->propertyIndex);
+        if (field->kind == Kind::Text && isOtherNothing(property.read(object).toString(), converted.toString()))
+            property.write(object, QStringLiteral("another text"));
+        property.write(object, converted);
         if (field->kind == Kind::Object)
             attachToShell(value);
         return QJSValue();

@@ -93,7 +93,7 @@ void setTextOf(QObject *control, const QString &text)
     if (isNumberControl(control))
         write(control, {"value"}, text.toDouble());
     else
-        write(control, textNames, text);
+        write(control, textNames, text.isNull() ? QStringLiteral("") : text); // a control shows nothing as no text
 }
 
 int leadingInteger(const QString &text)

@@ -8,6 +8,7 @@
 /**
  * Stand-ins for the controls of a window: the properties that services read and write, and nothing to see.
  *
+ * A text that is nothing and an empty text are not the same here: what sets one assigns it, whatever was there.
  * Services never name these types; they reach every control, these and real ones, through controls.h.
  */
 namespace platform {
@@ -15,9 +16,14 @@ namespace platform {
 class TextField : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QString stringValue MEMBER m_stringValue)
+    Q_PROPERTY(QString stringValue READ stringValue WRITE setStringValue)
     Q_PROPERTY(bool enabled MEMBER m_enabled)
 
+public:
+    QString stringValue() const { return m_stringValue; }
+    void setStringValue(const QString &value) { m_stringValue = value; }
+
+private:
     QString m_stringValue = QStringLiteral("");
     bool m_enabled = true;
 };
@@ -61,8 +67,13 @@ class SegmentedControl : public QObject
 class TabView : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QString selectedLabel MEMBER m_selectedLabel)
+    Q_PROPERTY(QString selectedLabel READ selectedLabel WRITE setSelectedLabel)
 
+public:
+    QString selectedLabel() const { return m_selectedLabel; }
+    void setSelectedLabel(const QString &label) { m_selectedLabel = label; }
+
+private:
     QString m_selectedLabel = QStringLiteral("");
 };
 
@@ -70,9 +81,14 @@ class PopUpButton : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QStringList titles MEMBER m_titles)
-    Q_PROPERTY(QString selectedTitle MEMBER m_selectedTitle)
+    Q_PROPERTY(QString selectedTitle READ selectedTitle WRITE setSelectedTitle)
     Q_PROPERTY(bool enabled MEMBER m_enabled)
 
+public:
+    QString selectedTitle() const { return m_selectedTitle; }
+    void setSelectedTitle(const QString &title) { m_selectedTitle = title; }
+
+private:
     QStringList m_titles;
     QString m_selectedTitle = QStringLiteral("");
     bool m_enabled = true;
@@ -81,8 +97,13 @@ class PopUpButton : public QObject
 class TextView : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QString text MEMBER m_text)
+    Q_PROPERTY(QString text READ text WRITE setText)
 
+public:
+    QString text() const { return m_text; }
+    void setText(const QString &text) { m_text = text; }
+
+private:
     QString m_text = QStringLiteral("");
 };
 

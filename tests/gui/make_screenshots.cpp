@@ -154,6 +154,7 @@ void showHelp(WindowDriver &driver, const QString &name)
     driver.click("infoPresets");
     save("infoSheet", "infoClose");
     driver.trigger("updateAction");
+    driver.waitFor([] { return QApplication::activeModalWidget() != nullptr; });
     save("newVersionWindow", "newVersionClose");
 }
 

@@ -260,6 +260,8 @@ void WindowTour::visitSheet(const char *opens, bool isAction, const char *sheet,
         m_driver.trigger(opens);
     else
         m_driver.control<QPushButton>(opens)->click();
+    // The one of a new version opens when the server has answered.
+    m_driver.waitFor([] { return QApplication::activeModalWidget() != nullptr; });
     look(QString::fromLatin1(sheet), *m_driver.control<QDialog>(sheet));
     m_driver.click(closes);
 }

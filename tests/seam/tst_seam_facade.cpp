@@ -19,6 +19,7 @@ private Q_SLOTS:
     void keepsAServiceAliveThatWasGivenBack();
     void deletesServicesThatNobodyHolds();
     void findsOneObjectThroughTwoFields();
+    void tellsNoTextFromEmptyText();
     void outlivesWhatItHolds();
     void leavesObjectsOfTheApplicationAlone();
     void answersManyCallsAndPrintsWhatOneCosts();
@@ -159,6 +160,29 @@ void TestSeamFacade::findsOneObjectThroughTwoFields()
                                "report(Object.getOwnPropertySymbols(a).every(s => !('objectName' in Object(a[s]))));")),
         qPrintable(run.error));
     QCOMPARE(run.reports, (QStringList{QStringLiteral("[true,true]"), QStringLiteral("true")}));
+}
+
+void TestSeamFacade::tellsNoTextFromEmptyText()
+{
+    ScriptRun run;
+    QVERIFY2(run.run(QStringLiteral(
+                 "import { cSheetControl, dbViewController, cMConversion } from 'quorlin';\n"
+                 "let fields = 0;\n"
+                 "for (const Make of [ZtImageHandling, cNSStringHandling, cSheetControl, cToolBox, dbViewController, mMeta, "
+                 "cEditMetaData, cNSFileHandling, cMConversion, TextField, TabView, PopUpButton, TextView]) {\n"
+                 "    const o = new Make();\n"
+                 "    for (const name of Object.keys(o)) {\n"
+                 "        try { o[name] = ''; } catch (e) { continue; }\n"
+                 "        fields += 1;\n"
+                 "        for (const value of ['', null, 'a', null, '', 'a', '', null, null, '']) {\n"
+                 "            o[name] = value;\n"
+                 "            if (o[name] !== value) report([Make.name, name, value, o[name]]);\n"
+                 "        }\n"
+                 "    }\n"
+                 "}\n"
+                 "report(fields > 20);")),
+             qPrintable(run.error));
+    QCOMPARE(run.reports, QStringList{QStringLiteral("true")});
 }
 
 void TestSeamFacade::outlivesWhatItHolds()

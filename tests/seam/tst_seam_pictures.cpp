@@ -15,6 +15,7 @@ private Q_SLOTS:
     void answersWhatItIsAsked_data();
     void answersWhatItIsAsked();
     void writesWhatItRead();
+    void notesTheTypeOfTheSource();
     void handsBitmapsOn();
     void keepsMemoryBounded();
 
@@ -92,6 +93,18 @@ void TestSeamPictures::writesWhatItRead()
     QCOMPARE(written.size(), QSize(3, 2));
     QCOMPARE(written.pixelColor(2, 1), QColor(200, 100, 50, 128));
     QCOMPARE(written.pixelColor(0, 0), QColor(10, 20, 30));
+}
+
+void TestSeamPictures::notesTheTypeOfTheSource()
+{
+    for (const char *type : {"original file type", "public.jpeg"}) {
+        QVERIFY2(m_run.run(withFile(QStringLiteral("const image = new ZtImageHandling(); report(image.fileUTI); "
+                                                   "image.resizeImage('FOLDER/a.png', 2, 0, '/nowhere/', '%1', '5'); "
+                                                   "report(image.fileUTI);")
+                                        .arg(QLatin1String(type)))),
+                 qPrintable(m_run.error));
+        QCOMPARE(m_run.reports, (QStringList{QStringLiteral("null"), QStringLiteral("\"public.png\"")}));
+    }
 }
 
 void TestSeamPictures::handsBitmapsOn()
