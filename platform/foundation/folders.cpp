@@ -16,6 +16,7 @@
 #include <filesystem>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace platform {
@@ -51,17 +52,32 @@ std::error_code lastError()
     return std::error_code(errno, std::generic_category());
 }
 
-/** The empty file that is made first keeps the name; whoever comes later finds it taken. */
+/** Whether the path still leads to the file that is open, and nobody has written to that. */
+bool isStillEmpty(int file, const fs::path &path)
+{
+    struct stat open = {};
+    struct stat there = {};
+    return ::fstat(file, &open) == 0 && ::lstat(path.c_str(), &there) == 0 && open.st_ino == there.st_ino &&
+           open.st_dev == there.st_dev && open.st_size == 0;
+}
+
+/**
+ * The empty file that is made first keeps the name; whoever comes later finds it taken. One who writes into it or puts another in its
+ * place all the same is noticed up to the last moment.
+ */
 std::error_code renameOntoPlaceholder(const fs::path &from, const fs::path &to)
 {
     const int placeholder = ::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (placeholder < 0)
         return lastError();
+    std::error_code error = std::make_error_code(std::errc::file_exists);
+    if (isStillEmpty(placeholder, to) && ::rename(from.c_str(), to.c_str()) == 0)
+        error = {};
+    else if (isStillEmpty(placeholder, to)) {
+        error = lastError();
+        ::unlink(to.c_str());
+    }
     ::close(placeholder);
-    if (::rename(from.c_str(), to.c_str()) == 0)
-        return {};
-    const std::error_code error = lastError();
-    ::unlink(to.c_str());
     return error;
 }
 

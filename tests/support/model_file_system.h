@@ -6,6 +6,7 @@
 #include "platform/foundation/file_system.h"
 #include "platform/foundation/paths.h"
 
+#include <QDateTime>
 #include <QSet>
 
 #include <functional>
@@ -383,6 +384,7 @@ private:
     std::error_code renameOntoPlaceholder(const QString &from, const QString &to)
     {
         const auto placeholder = newNode(Kind::File, {});
+        placeholder->changed = QDateTime::currentMSecsSinceEpoch() * 1'000'000;
         put(to, placeholder);
         if (const std::error_code error = disturbed()) {
             if (find(to) == placeholder && placeholder->bytes.isEmpty())

@@ -8,6 +8,7 @@
 
 #include "platform/desktop/disk_file_system.h"
 #include "platform/desktop/trash.h"
+#include "platform/foundation/folders.h"
 #include "platform/foundation/hidden_item.h"
 
 #include <QDirIterator>
@@ -204,6 +205,8 @@ private Q_SLOTS:
     void losesNothingByAKillOfRecovery();
     void losesNothingByAnotherProgram_data();
     void losesNothingByAnotherProgram();
+    void replacesNothingWhereADiskPromisesNothing_data();
+    void replacesNothingWhereADiskPromisesNothing();
 
 private:
     void checkAllIsThere(const Place &place, const QByteArray &told) const;
@@ -348,6 +351,51 @@ void TestEveryCall::losesNothingByAnotherProgram()
             QVERIFY2(false, told + "\nhidden: " + path.toUtf8());
     }
     qInfo("%d calls", calls);
+}
+
+void TestEveryCall::replacesNothingWhereADiskPromisesNothing_data()
+{
+    QTest::addColumn<bool>("hasLinks");
+    QTest::newRow("with second names") << true;
+    QTest::newRow("without") << false;
+}
+
+/** Another program makes the target, writes into it or puts another in its place, at every call of a rename. */
+void TestEveryCall::replacesNothingWhereADiskPromisesNothing()
+{
+    QFETCH(bool, hasLinks);
+    for (const char *deed : {"makes", "writes", "puts"}) {
+        // A second name is the file itself: who overwrites that wants to.
+        bool hasMore = !hasLinks || deed == QByteArray("makes");
+        for (int calls = 0; hasMore; ++calls) {
+            const ScratchFolder folder;
+            QVERIFY(folder.write("a", "a"));
+            bool isDone = false;
+            EveryCall::count = 0;
+            EveryCall::before = [&](std::string_view call, const char *) {
+                QFile target(folder.path("b"));
+                QFile other(folder.path("other"));
+                const bool isHere = EveryCall::count == calls + 1;
+                // Between the last look and the rename itself nothing can be done on such a disk.
+                const bool canBeNoticed = call != "rename";
+                if (isHere && canBeNoticed && deed == QByteArray("puts"))
+                    isDone = other.open(QIODevice::WriteOnly) && other.write("new") == 3 && other.flush() &&
+                             ::rename(other.fileName().toLatin1().constData(),
+                                      target.fileName().toLatin1().constData()) == 0;
+                else if (isHere && canBeNoticed && deed == QByteArray("writes"))
+                    isDone = target.exists() && target.open(QIODevice::WriteOnly) && target.write("new") == 3;
+                else if (isHere && deed == QByteArray("makes") && !target.exists())
+                    isDone = target.open(QIODevice::WriteOnly | QIODevice::NewOnly) && target.write("new") == 3;
+                return call == "link" && !hasLinks ? EPERM : 0;
+            };
+            const std::error_code error = platform::renameWithoutPromise(folder.path("a"), folder.path("b"));
+            EveryCall::before = nullptr;
+            hasMore = EveryCall::count > calls;
+            QCOMPARE(folder.read(error ? "a" : "b"), QByteArray("a"));
+            QVERIFY2(!isDone || (error && folder.read("b") == "new"), deed);
+            QCOMPARE(bool(error), isDone);
+        }
+    }
 }
 
 QUORLIN_TEST(TestEveryCall)

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void saysWhatADiskCannotHold();
     void settlesEveryNewFolderOnTheWayToAnotherDisk();
     void endsNoRunWhoseJournalLacksALine();
+    void keepsNoPlaceholderAndNoPlaceOfOthers();
     void knowsWhatIsInTheTrashAfterAKill_data();
     void knowsWhatIsInTheTrashAfterAKill();
     void leavesRunsOfOthersAlone();
@@ -412,6 +413,46 @@ void TestMoveRun::endsNoRunWhoseJournalLacksALine()
         QCOMPARE(carriedOut(undo.form.items).count(QStringLiteral("OK")), 3);
         QVERIFY(m_disk->everything() == before);
     }
+}
+
+/** A disk that can only keep a name with an empty file: that is not left by a kill, and what others put there stays. */
+void TestMoveRun::keepsNoPlaceholderAndNoPlaceOfOthers()
+{
+    for (const bool isKilled : {true, false})
+        for (int change = 0; change < 12; ++change) {
+            init();
+            m_disk->canReplace = true;
+            Fuse fuse;
+            bool isMade = false;
+            int changes = 0;
+            if (isKilled) {
+                m_disk->fuse = m_shelf->fuse = &fuse;
+                fuse.light(change);
+            } else {
+                m_disk->trouble = [&]() -> std::error_code {
+                    if (changes++ == change && !m_disk->look(at("x"))) {
+                        m_disk->addFile(at("x"), "foreign");
+                        isMade = true;
+                    } else if (changes == change + 1 && m_disk->bytes(at("x")).isEmpty()) {
+                        m_disk->change(at("x"), "foreign");
+                        isMade = true;
+                    }
+                    return {};
+                };
+            }
+            try {
+                (void)carriedOut({move("a", "x"), move("b", "y")});
+            } catch (const Killed &) {
+            }
+            fuse.putOut();
+            m_disk->trouble = nullptr;
+            m_shelf->held.clear();
+            recoverMoves(*m_disk, *m_shelf);
+            const QList<QByteArray> contents = m_disk->allBytes();
+            QVERIFY(contents.contains("a") && contents.contains("b") && (!isMade || contents.contains("foreign")));
+            QVERIFY2(!contents.contains(QByteArray()), qPrintable(names().join(u' ')));
+            QCOMPARE(contents.size(), int(isMade) + 4);
+        }
 }
 
 void TestMoveRun::knowsWhatIsInTheTrashAfterAKill_data()
