@@ -19,17 +19,25 @@ private Q_SLOTS:
 
 void TestSeamWrongValues::areAnsweredByTheContract_data()
 {
+    QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("how");
-    QTest::newRow("one at a time") << QStringLiteral("one");
-    if (tests::isSlowRun())
-        QTest::newRow("two at a time") << QStringLiteral("pairs");
+    const QString services = QStringLiteral("wrong-values.js");
+    const QString desks = QStringLiteral("wrong-desk-values.js");
+    QTest::newRow("services") << services << QStringLiteral("one");
+    if (!tests::isSlowRun())
+        return;
+    QTest::newRow("desks") << desks << QStringLiteral("one");
+    QTest::newRow("services, two at a time") << services << QStringLiteral("pairs");
+    QTest::newRow("desks, more at a time") << desks << QStringLiteral("pairs");
 }
 
 void TestSeamWrongValues::areAnsweredByTheContract()
 {
+    QFETCH(QString, script);
     QFETCH(QString, how);
     QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("home/no-programs")));
+    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("home/no-programs")) &&
+            QDir(folder.path()).mkpath(QStringLiteral("probe")));
     QImage picture(20, 10, QImage::Format_RGB32);
     picture.fill(Qt::red);
     QVERIFY(picture.save(folder.filePath(QStringLiteral("p.png"))));
@@ -43,7 +51,8 @@ void TestSeamWrongValues::areAnsweredByTheContract()
                             QStringLiteral("ASAN_OPTIONS=") + qEnvironmentVariable("ASAN_OPTIONS"),
                             QStringLiteral("LSAN_OPTIONS=") + qEnvironmentVariable("LSAN_OPTIONS")});
     process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(QStringLiteral(QUORLIN_SCRIPT), {QStringLiteral(QUORLIN_WRONG_VALUES), folder.path(), how});
+    process.start(QStringLiteral(QUORLIN_SCRIPT),
+                  {QStringLiteral(QUORLIN_WRONG_VALUES "/") + script, folder.path(), how});
     constexpr int longestMs = 280'000;
     QVERIFY2(process.waitForFinished(longestMs), "it hangs");
     const QString output = QString::fromUtf8(process.readAllStandardOutput());
