@@ -106,7 +106,7 @@ CommentSplices jpegCommentSplices(QFile &file, const QString &comment)
 CommentSplices tiffCommentSplices(QFile &file, const QString &comment)
 {
     const MappedFile mapped(file);
-    if (!mapped.isThere())
+    if (!mapped.isThere() || !tellsWhereItsPixelsAre(mapped.bytes()))
         return damagedFile();
     const auto splices = userCommentSplices(mapped.bytes(), comment, otherPagesOf(mapped.bytes()));
     return splices ? CommentSplices(*splices) : damagedFile();

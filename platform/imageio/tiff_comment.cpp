@@ -1,5 +1,6 @@
 #include "platform/imageio/tiff_comment.h"
 
+#include "platform/imageio/raw_preview.h"
 #include "platform/imageio/tiff_tree.h"
 #include "platform/imageio/user_comment.h"
 
@@ -43,6 +44,7 @@ private:
     QByteArray entry(quint16 tag, quint16 type, quint64 count, const QByteArray &field) const;
     QByteArray pointerTo(quint64 directory) const;
     bool isShared(const TiffRange &range) const;
+    bool changesPixels() const;
     TiffRange roomOf(const TiffRange &range) const;
 
     const QByteArray &m_bytes;
@@ -208,10 +210,21 @@ void CommentEditor::setComment()
     overwrite(m_tree.firstAt(), form().bytes(newFirst, form().offsetSize()));
 }
 
+/** In a damaged file pixels may be said to lie where directories are. */
+bool CommentEditor::changesPixels() const
+{
+    const QList<TiffRange> pixels = m_tree.extents(TiffTree::Pages::All).pixels;
+    return std::any_of(m_overwritten.begin(), m_overwritten.end(), [&pixels](const Splice &splice) {
+        const TiffRange changed{splice.at, splice.removed};
+        return std::any_of(pixels.begin(), pixels.end(),
+                           [&changed](const TiffRange &each) { return each.overlaps(changed); });
+    });
+}
+
 std::optional<QList<Splice>> CommentEditor::splices() const
 {
     constexpr qint64 largestClassic = 0xffffffff;
-    if (!m_tree.isValid() || (!form().big && m_kept + m_appended.size() > largestClassic))
+    if (!m_tree.isValid() || (!form().big && m_kept + m_appended.size() > largestClassic) || changesPixels())
         return std::nullopt;
     QList<Splice> all = m_overwritten;
     std::stable_sort(all.begin(), all.end(), [](const Splice &a, const Splice &b) { return a.at < b.at; });
@@ -250,6 +263,28 @@ std::optional<QList<Splice>> userCommentSplices(const QByteArray &bytes, const Q
     return editor.splices();
 }
 
+bool tellsWhereItsPixelsAre(const QByteArray &bytes)
+{
+    const TiffTree tree(bytes);
+    const TiffTags first = tree.first();
+    const auto all = quint64(bytes.size());
+    for (const auto &[offsetsTag, sizesTag] : {std::pair<quint16, quint16>(0x0111, 0x0117), {0x0144, 0x0145}}) {
+        const TiffTag *offsets = first.find(offsetsTag);
+        const TiffTag *sizes = first.find(sizesTag);
+        if (!offsets && !sizes)
+            continue;
+        if (!offsets || !sizes || !offsets->isSound || !sizes->isSound || offsets->count != sizes->count)
+            return false;
+        for (quint64 i = 0; i < offsets->count; ++i) {
+            const quint64 start = tree.integer(*offsets, i);
+            if (start < quint64(tree.headerSize()) || start > all || tree.integer(*sizes, i) > all - start)
+                return false;
+        }
+        return offsets->count > 0;
+    }
+    return isCameraRaw(bytes); // which may keep them further down
+}
+
 int otherPageCount(const QByteArray &bytes)
 {
     constexpr qsizetype mostPages = 65536;
@@ -271,6 +306,8 @@ QByteArray exifBlockWithUserComment(const QByteArray &block, const QString &comm
             const QByteArray edited = spliced(block, *splices);
             return holdsComment(edited, comment) ? edited : QByteArray();
         }
+    if (tree.first().valid && !tree.form().big)
+        return {}; // what is in it can be read, and would be lost
     const QByteArray empty("II*\0\0\0\0\0", 8);
     const auto splices = userCommentSplices(empty, comment, OtherPages::Keep);
     return splices ? spliced(empty, *splices) + block : QByteArray();

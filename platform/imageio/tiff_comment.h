@@ -28,6 +28,9 @@ enum class OtherPages { Keep, Drop };
  */
 std::optional<QList<Splice>> userCommentSplices(const QByteArray &bytes, const QString &comment, OtherPages pages);
 
+/** False where the first directory has pixels and does not say for sure which bytes they are. */
+bool tellsWhereItsPixelsAre(const QByteArray &bytes);
+
 /** How many directories follow the first one of a TIFF file: its further pages. */
 int otherPageCount(const QByteArray &bytes);
 

@@ -192,10 +192,13 @@ private:
             const auto all = quint64(m_tree.m_bytes.size());
             const quint64 start = m_tree.integer(*offsets, i);
             const quint64 size = m_tree.integer(*sizes, i);
-            if (start <= all && size <= all - start)
-                add({qint64(start), qint64(size)});
-            else
+            if (start > all || size > all - start) {
                 m_extents.isComplete = false;
+                continue;
+            }
+            add({qint64(start), qint64(size)});
+            if (size > 0)
+                m_extents.pixels.append({qint64(start), qint64(size)});
         }
     }
 

@@ -55,6 +55,7 @@ struct TiffTags
 struct TiffExtents
 {
     QList<TiffRange> ranges;
+    QList<TiffRange> pixels; ///< those of them that are pixels
     bool isComplete = true; ///< nothing was met that may lead to bytes elsewhere
 };
 

@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
+#include <QtEndian>
 
 #include <optional>
 
@@ -95,6 +96,22 @@ bool isDamaged(const QByteArray &bytes)
     return !source;
 }
 
+/** The part of a WebP file that holds the pixels; null for other files. Its decoder may show anything for damaged ones. */
+QByteArray webpPixels(const QByteArray &bytes)
+{
+    const qsizetype at = bytes.indexOf("VP8", 12);
+    const qsizetype pixels = bytes.mid(at, 4) == "VP8X" ? bytes.indexOf("VP8", at + 4) : at;
+    if (!bytes.startsWith("RIFF") || pixels < 0 || pixels + 8 > bytes.size())
+        return {};
+    return bytes.mid(pixels, 8 + qFromLittleEndian<quint32>(bytes.constData() + pixels + 4));
+}
+
+bool hasItsPixels(const QByteArray &edited, const QByteArray &original)
+{
+    const QByteArray pixels = webpPixels(original);
+    return !pixels.isNull() && webpPixels(edited) == pixels;
+}
+
 int tries()
 {
     return tests::repetitions(150, 2000);
@@ -111,6 +128,8 @@ private Q_SLOTS:
     void keepTheirPixelsOrStayAsTheyAre_data();
     void keepTheirPixelsOrStayAsTheyAre();
     void aDirectoryCutAtItsEndIsNotReplaced();
+    void aPictureThatIsCutShortIsLeftAlone_data() { keepTheirPixelsOrStayAsTheyAre_data(); }
+    void aPictureThatIsCutShortIsLeftAlone();
 };
 
 void TestEditedPictures::keepTheirPixelsOrStayAsTheyAre_data()
@@ -146,7 +165,8 @@ void TestEditedPictures::keepTheirPixelsOrStayAsTheyAre()
         const QString comment = i % 2 == 0 ? QStringLiteral("x") : QString(100 + i % 50, QChar(u'Ж'));
         const auto result = writeUserComment(folder.path("a"), comment);
         const bool isAsItWas = folder.read("a") == damaged;
-        const QByteArray what = "try " + QByteArray::number(i) + ": " + damaged.toBase64();
+        const QByteArray what = "try " + QByteArray::number(i) + ": " +
+                                qCompress(damaged, 9).toBase64(); // a message has not room for all of it
         QVERIFY2(result || isAsItWas, what.constData());
         QVERIFY2(before || isAsItWas, what.constData());
         if (isAsItWas)
@@ -154,7 +174,7 @@ void TestEditedPictures::keepTheirPixelsOrStayAsTheyAre()
         ++written;
         const std::optional<QImage> after = shownBy(folder.path("a"));
         QVERIFY2(after, what.constData());
-        QVERIFY2(*after == *before || isDamaged(damaged), what.constData());
+        QVERIFY2(*after == *before || isDamaged(damaged) || hasItsPixels(folder.read("a"), damaged), what.constData());
         QCOMPARE(platform::readUserComment(folder.path("a")).value_or(QString()), comment);
     }
     qInfo("%d of %d were written", written, tries());
@@ -170,6 +190,22 @@ void TestEditedPictures::aDirectoryCutAtItsEndIsNotReplaced()
         QVERIFY(folder.write("a.tif", cut));
         QVERIFY(!writeUserComment(folder.path("a.tif"), QStringLiteral("x")));
         QCOMPARE(folder.read("a.tif"), cut);
+    }
+}
+
+void TestEditedPictures::aPictureThatIsCutShortIsLeftAlone()
+{
+    QFETCH(QByteArray, bytes);
+    if (bytes.isEmpty())
+        QSKIP("the program that makes this picture is not installed");
+    const ScratchFolder folder;
+    constexpr qsizetype step = 17;
+    for (qsizetype missing = 1; missing < bytes.size(); missing += missing < 40 ? 1 : step) {
+        const QByteArray cut = bytes.chopped(missing);
+        QVERIFY(folder.write("a", cut));
+        const auto written = writeUserComment(folder.path("a"), QStringLiteral("not into this one"));
+        QVERIFY2(!written, qPrintable(QStringLiteral("without its last %1 bytes").arg(missing)));
+        QCOMPARE(folder.read("a"), cut);
     }
 }
 
