@@ -1,6 +1,11 @@
 #include "platform/imageio/container_blocks.h"
 
+#include "platform/imageio/content.h"
+#include "platform/imageio/tiff_tree.h"
+
 #include <QtEndian>
+
+#include <algorithm>
 
 namespace platform {
 namespace {
@@ -78,7 +83,57 @@ qsizetype behindColours(const QByteArray &bytes, qsizetype flagsAt, qsizetype at
     return (flags & 0x80) != 0 ? at + 3 * (qsizetype(2) << (flags & 7)) : at;
 }
 
+QByteArray xmpOfPng(const QByteArray &bytes)
+{
+    static const QByteArray keyword("XML:com.adobe.xmp\0\0", 19); // and not compressed
+    constexpr qsizetype frame = 12;
+    for (qsizetype at = 8; at + frame <= bytes.size();) {
+        const auto size = qsizetype(qFromBigEndian<quint32>(bytes.constData() + at));
+        if (size > bytes.size() - at - frame)
+            break;
+        const auto data = QByteArray::fromRawData(bytes.constData() + at + 8, size);
+        if (bytes.mid(at + 4, 4) == "iTXt" && data.startsWith(keyword))
+            return data.mid(std::max<qsizetype>(0, data.indexOf('<')));
+        at += frame + size;
+    }
+    return {};
+}
+
+QByteArray xmpOfWebp(const QByteArray &bytes)
+{
+    constexpr qsizetype frame = 8;
+    for (qsizetype at = 12; at + frame <= bytes.size();) {
+        const auto size = qsizetype(qFromLittleEndian<quint32>(bytes.constData() + at + 4));
+        if (bytes.mid(at, 4) == "XMP ")
+            return bytes.mid(at + frame, size);
+        at += frame + size + size % 2;
+    }
+    return {};
+}
+
+QByteArray xmpOfTiff(const QByteArray &bytes)
+{
+    constexpr quint16 packetTag = 0x02bc;
+    const TiffTags first = TiffTree(bytes).first();
+    const TiffTag *tag = first.find(packetTag);
+    return tag && tag->isSound ? bytes.mid(tag->value.start, tag->value.size) : QByteArray();
+}
+
 } // namespace
+
+QByteArray xmpPacketOf(const QByteArray &bytes)
+{
+    switch (contentOf(bytes.left(contentHeadBytes))) {
+    case Content::Png:
+        return xmpOfPng(bytes);
+    case Content::Webp:
+        return xmpOfWebp(bytes);
+    case Content::Tiff:
+        return xmpOfTiff(bytes);
+    default:
+        return {};
+    }
+}
 
 ContainerBlocks jpeg2000Blocks(const QByteArray &bytes)
 {

@@ -20,4 +20,7 @@ ContainerBlocks jpeg2000Blocks(const QByteArray &bytes);
 /** The application block of a GIF file that holds XMP, as it is or cut into pieces; only XMP is known there. */
 ContainerBlocks gifBlocks(const QByteArray &bytes);
 
+/** The XMP packet of a PNG, TIFF or WebP file; empty where there is none, or where it is compressed. */
+QByteArray xmpPacketOf(const QByteArray &bytes);
+
 } // namespace platform

@@ -9,6 +9,7 @@
 #include "platform/imageio/png_chunks.h"
 #include "platform/imageio/user_comment.h"
 #include "platform/imageio/webp_exif.h"
+#include "platform/imageio/xmp_packet.h"
 
 #include <exception>
 
@@ -62,12 +63,23 @@ void readExifBlock(Metadata::Blocks &blocks, const QByteArray &block)
     blocks.exifBlock = block;
 }
 
+/** Of a TIFF file, without its XMP. The tags of other files are read from the blocks that hold them. */
+void readTagsAlone(Metadata::Blocks &blocks, const QByteArray &bytes)
+{
+    if (platform::contentOf(bytes.left(contentHeadBytes)) != Content::Tiff || bytes.size() > 0xffffffffLL)
+        return;
+    const auto order = Exiv2::ExifParser::decode(blocks.exif, bytePointer(bytes), uint32_t(bytes.size()));
+    blocks.byteOrder = order == Exiv2::bigEndian ? Exiv2::bigEndian : Exiv2::littleEndian;
+}
+
 void readXmpPacket(Metadata::Blocks &blocks, const QByteArray &packet)
 {
     if (packet.isEmpty() || packet.size() > largestBlock)
         return;
     const std::string text(packet.constData(), size_t(packet.size()));
-    if (Exiv2::XmpParser::decode(blocks.xmp, text) == 0)
+    if (!isDigestibleXmp(packet))
+        blocks.xmpPacket = text;
+    else if (Exiv2::XmpParser::decode(blocks.xmp, text) == 0)
         blocks.xmpPacket = text;
 }
 
@@ -141,7 +153,12 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
         return fromBlocks(found.exif, found.xmp, found.iptc);
     }
     const JpegSegments segments = findJpegSegments(bytes);
-    attempt([&] { isBigTiff(bytes) ? readBigTiff(*blocks, bytes) : readImage(*blocks, bytes); });
+    if (const QByteArray packet = xmpPacketOf(bytes); !isDigestibleXmp(packet)) {
+        blocks->xmpPacket = packet.toStdString();
+        attempt([&] { readTagsAlone(*blocks, bytes); });
+    } else {
+        attempt([&] { isBigTiff(bytes) ? readBigTiff(*blocks, bytes) : readImage(*blocks, bytes); });
+    }
     if (segments.exifSegments > 1) { // exiv2 reads the first part alone
         blocks->exif.clear();
         attempt([&] { readExifBlock(*blocks, segments.exif); });
@@ -181,7 +198,8 @@ Metadata Metadata::fromBlocks(const QByteArray &exif, const QByteArray &xmp, con
 
 bool Metadata::isEmpty() const
 {
-    return !m_blocks || (m_blocks->exif.empty() && m_blocks->iptc.empty() && m_blocks->xmp.empty());
+    return !m_blocks ||
+           (m_blocks->exif.empty() && m_blocks->iptc.empty() && m_blocks->xmp.empty() && m_blocks->xmpPacket.empty());
 }
 
 bool Metadata::hasUserComment() const

@@ -141,7 +141,8 @@ QByteArray rewrittenTiff(const Metadata::Blocks &blocks, const QByteArray &encod
     image->setIptcData(blocks.iptc);
     const QByteArray packet = madeOrNothing([&] { return xmpPacket(blocks, pixels); });
     image->clearXmpData();
-    if (!packet.isEmpty() && Exiv2::XmpParser::decode(image->xmpData(), packet.toStdString()) == 0)
+    if (!packet.isEmpty() && isDigestibleXmp(packet) &&
+        Exiv2::XmpParser::decode(image->xmpData(), packet.toStdString()) == 0)
         image->setXmpPacket(packet.toStdString());
     image->writeMetadata();
     return contentOf(*image);

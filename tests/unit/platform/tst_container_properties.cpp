@@ -12,6 +12,7 @@
 #include "tests/support/corpus.h"
 
 #include <QBuffer>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
 #include <QImageWriter>
@@ -144,6 +145,47 @@ class ContainerProperties : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void isNotHeldUpByTooManyProperties_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isKnown");
+        QByteArray attributes;
+        QByteArray elements;
+        QByteArray items;
+        constexpr int many = 60'000; // which would take a minute
+        for (int i = 0; i < many; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            attributes += " x:p" + number + "='v'";
+            elements += "<x:p" + number + ">v</x:p" + number + ">";
+            items += "<rdf:li>v</rdf:li>";
+        }
+        const QByteArray head = "<rdf:Description rdf:about='' xmlns:x='http://e.x/'";
+        QTest::newRow("attributes") << head + attributes + "/>" << false;
+        QTest::newRow("elements") << head + ">" + elements + "</rdf:Description>" << false;
+        QTest::newRow("items of a list") << head + "><x:list><rdf:Bag>" + items +
+                                                "</rdf:Bag></x:list></rdf:Description>"
+                                         << true;
+    }
+
+    void isNotHeldUpByTooManyProperties()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, isKnown);
+        const QByteArray packetText = "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
+                                      "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>" +
+                                      content + "</rdf:RDF></x:xmpmeta>";
+        const QByteArray bytes = png(chunk("iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) + packetText) +
+                                     chunk("IDAT", zlib(QByteArray(4, '\0'))));
+        QElapsedTimer timer;
+        timer.start();
+        const auto metadata = platform::Metadata::fromFileBytes(bytes);
+        QCOMPARE(metadata.toProperties().contains(QStringLiteral("{XMP}")), isKnown);
+        QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
+        // It is carried all the same.
+        const auto carried = metadata.writtenInto(png(chunk("IDAT", zlib(QByteArray(4, '\0')))));
+        QVERIFY(carried && carried->contains(packetText));
+    }
+
     void carriesTheXmpOfAGif_data()
     {
         QTest::addColumn<QByteArray>("gif");
