@@ -56,7 +56,7 @@ struct TiffExtents
 {
     QList<TiffRange> ranges;
     QList<TiffRange> pixels; ///< those of them that are pixels
-    bool isComplete = true; ///< nothing was met that may lead to bytes elsewhere
+    bool isComplete = true;  ///< nothing was met that may lead to bytes elsewhere
 };
 
 class TiffTree
