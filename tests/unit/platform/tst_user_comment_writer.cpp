@@ -213,7 +213,8 @@ void TestUserCommentWriter::changesNothingWhereItSaysThatAlready()
 void TestUserCommentWriter::keepsTheFirstPageOfATiffFile()
 {
     const ScratchFolder folder;
-    for (const QByteArray &pages : {pictures::madeTiff({3}), fileNamed("own/formats/pages.tif"), fileNamed("formats/g4-multi.tiff")}) {
+    for (const QByteArray &pages :
+         {pictures::madeTiff({3}), fileNamed("own/formats/pages.tif"), fileNamed("formats/g4-multi.tiff")}) {
         for (const char *name : {"a.tiff", "a.CR2", "a.jpg", "a"}) { // the content counts
             if (pages.isEmpty())
                 continue;
