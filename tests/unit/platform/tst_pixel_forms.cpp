@@ -158,6 +158,7 @@ private Q_SLOTS:
             << flatTiff({1, 8, 4, 1, {0, 0, 0}}, QByteArray("\xC8\x00\x40\x80", 4)) << greyPixel(200);
         QTest::newRow("a selection, then transparency")
             << flatTiff({2, 8, 5, 1, {0, 2}}, QByteArray("\xC8\x64\x32\x07\xFF", 5)) << Pixel{200, 100, 50, 255};
+        QTest::newRow("Lab") << flatTiff({8, 8, 3, 1, {}}, QByteArray("\xE8\xFD\x0B", 3)) << Pixel{232, 230, 208, 255};
         QTest::newRow("Lab, white") << flatTiff({8, 8, 3, 1, {}}, QByteArray("\xFF\x00\x00", 3)) << greyPixel(255);
         QTest::newRow("CMYK, 16 bits, white")
             << flatTiff({5, 16, 4, 1, {}}, pictures::packed<quint16>({0, 0, 0, 0})) << greyPixel(255);
