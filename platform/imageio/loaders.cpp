@@ -6,6 +6,7 @@
 #include "platform/imageio/bmp_pixels.h"
 #include "platform/imageio/jpeg2000_reader.h"
 #include "platform/imageio/photoshop_pixels.h"
+#include "platform/imageio/svg_work.h"
 #include "platform/imageio/tiff_samples.h"
 
 #include <QBuffer>
@@ -132,6 +133,15 @@ VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
     }
 }
 
+/** A short text can ask for any amount of work, and nothing can stop the library once it draws. */
+VImage loadSvg(const PictureBytes &source, const LoadOptions &options)
+{
+    const VImage image = VImage::svgload_source(sourceOf(source), commonOptions()->set("scale", options.drawingScale));
+    if (!canDrawSvg(source.all(), QSize(image.width(), image.height())))
+        throw vips::VError("drawing it would take too long");
+    return image;
+}
+
 } // namespace
 
 std::unique_ptr<QIODevice> PictureBytes::device() const
@@ -187,7 +197,7 @@ VImage openImage(const PictureBytes &source, Content content, const LoadOptions 
         return VImage::pdfload_source(sourceOf(source),
                                       commonOptions()->set("page", options.page)->set("scale", options.drawingScale));
     case Content::Svg:
-        return VImage::svgload_source(sourceOf(source), commonOptions()->set("scale", options.drawingScale));
+        return loadSvg(source, options);
     case Content::Unknown:
         break;
     }

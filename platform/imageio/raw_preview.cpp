@@ -2,6 +2,7 @@
 
 #include "platform/imageio/metadata_blocks.h"
 #include "platform/imageio/tiff_reader.h"
+#include "platform/imageio/xmp_bounds.h"
 
 #include <QFile>
 
@@ -42,6 +43,19 @@ bool describesRaw(const QByteArray &head, const TiffNumbers &numbers)
     return findEntry(directory, dngVersionTag) || isSmallOfMore || isSensorCompression(number(compressionTag));
 }
 
+/** The library reads all metadata on its way to the preview. */
+bool hasEndlessXmp(const PictureBytes &file)
+{
+    const auto isEndless = [](const QByteArray &bytes) {
+        return withoutEndlessXmp(bytes).constData() != bytes.constData();
+    };
+    QFile opened(file.path);
+    if (file.path.isEmpty() || !opened.open(QIODevice::ReadOnly))
+        return isEndless(file.bytes);
+    const uchar *data = opened.map(0, opened.size());
+    return data && isEndless(QByteArray::fromRawData(reinterpret_cast<const char *>(data), opened.size()));
+}
+
 QByteArray largestJpeg(const Exiv2::Image &image)
 {
     const Exiv2::PreviewManager previews(image);
@@ -72,6 +86,8 @@ bool isCameraRaw(const QByteArray &head)
 QByteArray rawPreview(const PictureBytes &file)
 {
     startMetadataLibrary();
+    if (hasEndlessXmp(file))
+        return {};
     try {
         const auto image =
             file.path.isEmpty()

@@ -38,17 +38,21 @@ bool isWholeJpeg(QIODevice &file)
 bool isWholePng(QIODevice &file)
 {
     constexpr int chunkFrame = 12;
+    constexpr int mostOtherChunks = 100'000; // than of pixels: what reads them all takes its time for each
     BlockReader reader(file);
     qint64 position = 8;
-    for (;;) {
+    for (int others = 0; others < mostOtherChunks;) {
         const qint64 length = reader.number(position, 4);
         if (length < 0)
             return false;
-        const bool isLast = reader.at(position + 4, 4) == QByteArrayView("IEND");
+        const QByteArrayView name = reader.at(position + 4, 4);
+        const bool isLast = name == QByteArrayView("IEND");
+        others += name == QByteArrayView("IDAT") || name == QByteArrayView("fdAT") ? 0 : 1;
         position += chunkFrame + length;
         if (isLast)
             return position <= reader.size();
     }
+    return false;
 }
 
 /** Steps over the sub-blocks from @p position on; the position behind them, or -1 where they are cut short. */

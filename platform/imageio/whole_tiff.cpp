@@ -51,7 +51,8 @@ public:
     }
 
 private:
-    enum class Place { Page, Below };
+    /** What a camera notes of a picture may be damaged and is carried along as it is: the picture is whole without it. */
+    enum class Place { Page, Below, Notes };
 
     struct Waiting
     {
@@ -97,10 +98,10 @@ private:
         }
         Directory directory;
         for (qint64 entry = 0; m_isSound && entry < count; ++entry)
-            takeEntry(directory, position + countSize + entry * entrySize);
+            takeEntry(directory, position + countSize + entry * entrySize, waiting.place);
         // Some directories below a page leave out the place of a next one where they end the file.
         const bool isNextCut = nextAt + offsetSize > m_file.size();
-        follow(isNextCut && waiting.place == Place::Below ? 0 : m_file.number(nextAt, offsetSize, m_isLittle),
+        follow(isNextCut && waiting.place != Place::Page ? 0 : m_file.number(nextAt, offsetSize, m_isLittle),
                waiting.place);
         checkPixels(directory);
     }
@@ -145,8 +146,10 @@ private:
         m_isSound = m_isSound && at >= 0 && at <= m_file.size() && count <= (m_file.size() - at) / size;
     }
 
-    void takeEntry(Directory &directory, qint64 entry)
+    void takeEntry(Directory &directory, qint64 entry, Place place)
     {
+        if (place == Place::Notes)
+            return;
         checkValue(entry);
         switch (m_file.number(entry, 2, m_isLittle)) {
         case compressionTag:
@@ -167,20 +170,22 @@ private:
             directory.jpegLength = numbersAt(entry);
             break;
         case subDirectoriesTag:
+            followAll(numbersAt(entry), Place::Below);
+            break;
         case exifTag:
         case gpsTag:
-            followAll(numbersAt(entry));
+            followAll(numbersAt(entry), Place::Notes);
             break;
         default:
             break;
         }
     }
 
-    void followAll(const Numbers &directories)
+    void followAll(const Numbers &directories, Place place)
     {
         constexpr qint64 mostBelowOne = 1000;
         for (qint64 index = 0; m_isSound && index < std::min(directories.count, mostBelowOne); ++index)
-            follow(number(directories, index), Place::Below);
+            follow(number(directories, index), place);
     }
 
     void checkPixels(const Directory &directory)

@@ -2,7 +2,9 @@
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/picture_facts.h"
+#include "platform/imageio/svg_work.h"
 #include "platform/imageio/whole_picture.h"
+#include "platform/imageio/xmp_bounds.h"
 #include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
@@ -97,6 +99,11 @@ private Q_SLOTS:
     void stepsOverSmallPartsInBlocks();
     void readsAJpegWithBytesBetweenItsSegments();
     void factsAndMetadataAgreeAboutRawFiles();
+    void passesOverEndlessXmp_data();
+    void passesOverEndlessXmp();
+    void reckonsTheWorkOfDrawings_data();
+    void reckonsTheWorkOfDrawings();
+    void doesNotDrawWhatTakesTooLong();
 
 private:
     QString at(const QString &name) const { return m_folder.filePath(name); }
@@ -208,7 +215,7 @@ void TestWholePicture::stepsOverSmallPartsInBlocks_data()
     const QByteArray chunk = big32(0) + "teXt" + big32(0);
     QTest::newRow("PNG of empty chunks") << int(Content::Png)
                                          << "\x89PNG\r\n\x1A\n" + chunk.repeated(parts) + big32(0) + "IEND" + big32(0)
-                                         << true;
+                                         << false;
     QTest::newRow("GIF of short blocks") << int(Content::Gif)
                                          << QByteArray("GIF89a\x01\0\x01\0\0\0\0!\xFE", 15) +
                                                 QByteArray("\x01x", 2).repeated(parts) + QByteArray("\0;", 2)
@@ -263,6 +270,77 @@ void TestWholePicture::factsAndMetadataAgreeAboutRawFiles()
         return;
     QCOMPARE(platform::pictureFacts(real).pixels, ImageSource::open(real)->uprightSize());
     QCOMPARE(platform::pictureFacts(real).camera, QStringLiteral("Panasonic DMC-LX3"));
+}
+
+void TestWholePicture::passesOverEndlessXmp_data()
+{
+    QTest::addColumn<int>("properties");
+    QTest::addColumn<bool>("isList");
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("some") << 1000 << false << true;
+    QTest::newRow("too many") << 30'000 << false << false;
+    QTest::newRow("a long list") << 30'000 << true << true;
+}
+
+void TestWholePicture::passesOverEndlessXmp()
+{
+    QFETCH(int, properties);
+    QFETCH(bool, isList);
+    QFETCH(bool, isRead);
+    QByteArray body = isList ? "<x:list><rdf:Bag>" : "";
+    for (int index = 0; index < properties; ++index)
+        body += isList ? QByteArray("<rdf:li>v</rdf:li>") : "<x:p" + QByteArray::number(index) + "/>";
+    body += isList ? "</rdf:Bag></x:list>" : "";
+    const QByteArray packet =
+        "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF "
+        "xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\"><rdf:Description rdf:about=\"\" "
+        "xmlns:x=\"http://example.org/\">" +
+        body + "</rdf:Description></rdf:RDF></x:xmpmeta>";
+    QCOMPARE(platform::isEndlessXmp(packet), !isRead);
+}
+
+void TestWholePicture::reckonsTheWorkOfDrawings_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isDrawn");
+    const QByteArray shadow = "<filter id='f'><feOffset dx='2'/><feGaussianBlur stdDeviation='3'/></filter>";
+    const QByteArray clouds = "<filter id='f'><feTurbulence numOctaves='200'/></filter>";
+    const QByteArray shape = "<rect width='9' height='9' filter='url(#f)'/>";
+    QByteArray copies = "<g id='c0'>" + shape + "</g>";
+    for (int level = 1; level < 30; ++level) {
+        const QByteArray use = "<use href='#c" + QByteArray::number(level - 1) + "'/>";
+        copies += "<g id='c" + QByteArray::number(level) + "'>" + use + use + "</g>";
+    }
+    QTest::newRow("shapes") << QByteArray("<rect width='9' height='9'/>").repeated(20'000) << QSize(2000, 2000) << true;
+    QTest::newRow("a few shadows") << shadow + shape.repeated(20) << QSize(1000, 800) << true;
+    QTest::newRow("thousands of shadows") << shadow + shape.repeated(5000) << QSize(2000, 2000) << false;
+    QTest::newRow("clouds of many octaves") << clouds + shape << QSize(2000, 2000) << false;
+    QTest::newRow("the same in a style") << clouds + "<rect style='fill:red;filter:url(#f)'/>" << QSize(2000, 2000)
+                                         << false;
+    QTest::newRow("the same in a style sheet")
+        << clouds + "<style>rect{filter:url(#f)}</style><rect/>" << QSize(2000, 2000) << false;
+    QTest::newRow("a filter on a large canvas") << shadow + shape << QSize(20'000, 20'000) << false;
+    QTest::newRow("copies of copies") << shadow + copies << QSize(500, 500) << false;
+    QTest::newRow("itself") << QByteArray("<g id='a'><use href='#a'/></g>") << QSize(500, 500) << true;
+    QTest::newRow("groups in groups") << QByteArray("<g>").repeated(100'000) << QSize(500, 500) << false;
+}
+
+void TestWholePicture::reckonsTheWorkOfDrawings()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QSize, size);
+    QFETCH(bool, isDrawn);
+    const QByteArray text = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>" + content + "</svg>";
+    QCOMPARE(platform::canDrawSvg(text, size), isDrawn);
+}
+
+void TestWholePicture::doesNotDrawWhatTakesTooLong()
+{
+    const QByteArray text =
+        "<svg xmlns='http://www.w3.org/2000/svg' width='3000' height='3000'><filter id='f'>"
+        "<feTurbulence numOctaves='300'/></filter><rect width='9' height='9' filter='url(#f)'/></svg>";
+    QVERIFY(!ImageSource::fromData(text));
 }
 
 QUORLIN_TEST(TestWholePicture)
