@@ -3,6 +3,7 @@
 #include "platform/graphics/resample.h"
 #include "platform/imageio/opened_file.h"
 #include "platform/imageio/raw_preview.h"
+#include "platform/imageio/shrunk_jpeg.h"
 #include "platform/imageio/whole_picture.h"
 
 #include <QCoreApplication>
@@ -195,25 +196,6 @@ Bitmap finished(const File &file, const VImage &image, Orientation orientation =
     return bitmapFromImage(image, isTurned ? uprightResolution(stored, file.orientation) : stored, quantisation);
 }
 
-/** The strongest shrink of the JPEG decoder that still leaves at least the size that is wanted. */
-int jpegShrinkFor(QSize stored, QSize wanted)
-{
-    for (const int shrink : {8, 4, 2})
-        if (stored.width() / shrink >= wanted.width() && stored.height() / shrink >= wanted.height())
-            return shrink;
-    return 1;
-}
-
-/** The decoder leaves out a last column or row that is not whole after shrinking: its neighbour stands in for it. */
-VImage withWholeEdges(const VImage &image, QSize stored, int shrink)
-{
-    const auto shrunk = [shrink](int side) { return (side + shrink - 1) / shrink; };
-    const QSize whole(shrunk(stored.width()), shrunk(stored.height()));
-    if (whole == QSize(image.width(), image.height()))
-        return image;
-    return image.embed(0, 0, whole.width(), whole.height(), VImage::option()->set("extend", VIPS_EXTEND_COPY));
-}
-
 LoadOptions loadOptionsFor(const File &file, QSize wanted)
 {
     LoadOptions options;
@@ -344,13 +326,14 @@ Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) 
         initVips();
         const LoadOptions load = loadOptionsFor(*m_file, wanted);
         VImage image = openedInForm(*m_file, load, forms);
-        if (load.jpegShrink > 1)
-            image = withWholeEdges(image, m_file->storedSize, load.jpegShrink);
+        const int shrink = load.jpegShrink;
+        if (shrink > 1)
+            image = withWholeEdges(image, m_file->storedSize, shrink);
         if (!fitsMemoryBudget(wanted.width(), wanted.height(), image.bands(), bytesPerComponent(image)))
             return failure(ErrorCode::TooLarge,
                            text("No picture of %1 x %2 pixels can be made").arg(size.width()).arg(size.height()));
         if (scaling == Scaling::Exact)
-            image = scaledTo(image, wanted);
+            image = shrink > 1 ? scaledFromShrunk(image, m_file->storedSize, shrink, wanted) : scaledTo(image, wanted);
         if (m_file->orientation > 1)
             image = turnedUpright(inMemory(image), m_file->orientation);
         return finished(*m_file, image);

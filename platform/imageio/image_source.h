@@ -94,9 +94,9 @@ public:
     /**
      * Image 0 as a PDF file of one page that has the size of the upright picture in points.
      *
-     * A grey or RGB JPEG goes in as it is, byte for byte where it is upright; one that lies on its side is turned first where
+     * The scan of a grey or RGB JPEG goes in byte for byte where it is upright; one that lies on its side is turned first where
      * that can be done without loss. All other pictures are stored without loss, 8 or 16 bits a component, grey, RGB or CMYK,
-     * with their transparency. The colour profile goes along; other metadata does not, but for what a JPEG holds in itself.
+     * with their transparency. The colour profile goes along, metadata does not.
      *
      * Fails as decode() does, and with WriteFailed where the page cannot be made.
      */

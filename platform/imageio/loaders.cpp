@@ -133,6 +133,17 @@ VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
     }
 }
 
+/** The file says which of its items is the picture; the others count behind it, in their order. */
+VImage loadHeif(const PictureBytes &source, const LoadOptions &options)
+{
+    const VImage primary = VImage::heifload_source(sourceOf(source), commonOptions()); // where no page is named
+    if (options.page == 0)
+        return withOwnProfile(primary);
+    const int primaryPage = primary.get_typeof("heif-primary") != 0 ? primary.get_int("heif-primary") : 0;
+    const int page = options.page - (options.page <= primaryPage ? 1 : 0);
+    return withOwnProfile(VImage::heifload_source(sourceOf(source), commonOptions()->set("page", page)));
+}
+
 /** A short text can ask for any amount of work, and nothing can stop the library once it draws. */
 VImage loadSvg(const PictureBytes &source, const LoadOptions &options)
 {
@@ -188,7 +199,7 @@ VImage openImage(const PictureBytes &source, Content content, const LoadOptions 
         return VImage::webpload_source(sourceOf(source), commonOptions()->set("page", options.page));
     case Content::Heif:
     case Content::Avif:
-        return withOwnProfile(VImage::heifload_source(sourceOf(source), commonOptions()->set("page", options.page)));
+        return loadHeif(source, options);
     case Content::Jpeg2000:
         return loadJpeg2000(source);
     case Content::Photoshop:

@@ -1,3 +1,4 @@
+#include "platform/imageio/bare_jpeg.h"
 #include "platform/imageio/deflate.h"
 #include "platform/imageio/encoders.h"
 #include "platform/imageio/jpeg_segments.h"
@@ -109,20 +110,21 @@ QByteArray uprightJpeg(const ImageSource &source, const PictureBytes &bytes)
 }
 
 /** The page of a JPEG as it is; empty where a page cannot hold it so. */
-QByteArray pageOfJpeg(const QByteArray &jpeg, const QByteArray &profile, QSizeF points)
+QByteArray pageOfJpeg(const QByteArray &file, const QByteArray &profile, QSizeF points)
 {
+    const QByteArray jpeg = withoutMetadata(file);
     const JpegSegments segments = findJpegSegments(jpeg);
     const JpegFrame &frame = segments.frame;
     const bool isHeld = frame.bitsPerComponent == 8 && frame.isHuffmanCoded && !frame.contradictsItself;
     if (!segments.valid || !isHeld || (frame.componentCount != 1 && frame.componentCount != 3))
         return {};
-    PdfFile file;
+    PdfFile page;
     QByteArray entries = sizeEntries(segments.size) + " /ColorSpace " +
-                         colourSpace(file, profile, frame.componentCount) + " /BitsPerComponent 8 /Filter /DCTDecode";
+                         colourSpace(page, profile, frame.componentCount) + " /BitsPerComponent 8 /Filter /DCTDecode";
     if (frame.isPlainRgb)
         entries += " /DecodeParms << /ColorTransform 0 >>";
-    file.add({entries, jpeg});
-    return file.finished(points);
+    page.add({entries, jpeg});
+    return page.finished(points);
 }
 
 } // namespace

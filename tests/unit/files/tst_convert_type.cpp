@@ -141,6 +141,7 @@ private Q_SLOTS:
     void showsTurnedPicturesUpright_data();
     void showsTurnedPicturesUpright();
     void passesJpegsThroughIntoPages();
+    void tellsNothingInAPageButThePicture();
     void storesPagesWithoutLoss();
     void makesPagesOfTheSizeInPoints();
     void keepsDeepColoursAndTransparency();
@@ -341,6 +342,31 @@ void TestConvertType::passesJpegsThroughIntoPages()
         const QRgb is = after.pixel(before.width() / 2, before.height() / 2);
         QVERIFY2(std::abs(qRed(was) - qRed(is)) < 40 && std::abs(qBlue(was) - qBlue(is)) < 40, each.file);
     }
+}
+
+void TestConvertType::tellsNothingInAPageButThePicture()
+{
+    const QByteArray plain = pictures::bytesOf(QStringLiteral(QUORLIN_TEST_DATA "/jpeg/progressive.jpg"));
+    const auto segment = [](char marker, const QByteArray &data) {
+        const qsizetype size = data.size() + 2;
+        return QByteArray("\xFF") + marker + char(size >> 8) + char(size & 255) + data;
+    };
+    const QByteArray exif("Exif\0\0II*\0\x08\0\0\0\0\0\0\0\0\0 serial 4711", 32);
+    QByteArray told = plain;
+    told.insert(2, segment('\xE1', exif) +
+                       segment('\xE1', QByteArray("http://ns.adobe.com/xap/1.0/\0<x:secret/>", 42)) +
+                       segment('\xED', "Photoshop 3.0 caption") + segment('\xFE', "a comment") +
+                       segment('\xE2', QByteArray("MPF\0index", 9)) + segment('\xEB', "maker's"));
+    told += plain + "behind it a position";
+    QVERIFY(m_home->write("told.jpg", told));
+    convert(at("told.jpg"), "pdf", "made.pdf");
+    const QByteArray page = m_home->read("made.pdf");
+    for (const char *secret : {"serial", "secret", "caption", "comment", "MPF", "maker's", "behind it", "Exif"})
+        QVERIFY2(!page.contains(secret), secret);
+    const qsizetype scan = plain.indexOf("\xFF\xDA");
+    QVERIFY(scan > 0 && page.contains(plain.mid(scan)));
+    QCOMPARE(page.count("\xFF\xD8\xFF"), 1);
+    QCOMPARE(decoded(at("made.pdf")).toScreenImage().size(), decoded(at("told.jpg")).toScreenImage().size());
 }
 
 void TestConvertType::storesPagesWithoutLoss()

@@ -1,9 +1,11 @@
+#include "platform/graphics/resample.h"
 #include "platform/imageio/image_source.h"
 #include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -192,6 +194,82 @@ private Q_SLOTS:
             QVERIFY2(!bitmap.error().message.contains(QStringLiteral("profile.heic")),
                      qPrintable(bitmap.error().message));
         }
+    }
+
+    void takesThePrimaryItemForThePicture()
+    {
+        QTemporaryDir folder;
+        const QString small = folder.filePath(QStringLiteral("small.png"));
+        const QString large = folder.filePath(QStringLiteral("large.png"));
+        const QString both = folder.filePath(QStringLiteral("both.heic"));
+        QVERIFY(pictures::gradient(64, 48).save(small) && pictures::gradient(200, 100).save(large));
+        QProcess program;
+        program.start(QStringLiteral("heif-enc"), {small, large, QStringLiteral("-o"), both});
+        QVERIFY(program.waitForFinished() && program.exitCode() == 0);
+        QByteArray bytes = pictures::bytesOf(both);
+        const qsizetype box = bytes.indexOf("pitm");
+        QVERIFY(box > 0);
+        QCOMPARE(ImageSource::fromData(bytes)->storedSize(), QSize(64, 48));
+        constexpr qsizetype numberBehindName = 9;
+        bool isFound = false;
+        for (char item = 1; item < 8 && !isFound; ++item) { // which numbers the items have is up to the program
+            bytes[box + numberBehindName] = item;
+            const Result<ImageSource> source = ImageSource::fromData(bytes);
+            isFound = source && source->storedSize() == QSize(200, 100);
+            if (!isFound)
+                continue;
+            QCOMPARE(source->decode()->size(), QSize(200, 100));
+            QCOMPARE(source->imageCount(), 2);
+            QCOMPARE(source->decode({.index = 1})->size(), QSize(64, 48));
+        }
+        QVERIFY(isFound);
+        const QString tiled = corpusPath("found/32Bit-72dpi-sRGB-800x600.avif");
+        if (QFile::exists(tiled))
+            QCOMPARE(ImageSource::open(tiled)->storedSize(), QSize(800, 600));
+    }
+
+    void doesNotStretchWhatIsNoWholeNumberOfBlocks_data()
+    {
+        QTest::addColumn<QSize>("stored");
+        for (const QSize stored :
+             {QSize(801, 601), QSize(807, 600), QSize(803, 607), QSize(800, 600), QSize(1999, 999)})
+            QTest::addRow("%d x %d", stored.width(), stored.height()) << stored;
+    }
+
+    void doesNotStretchWhatIsNoWholeNumberOfBlocks()
+    {
+        QFETCH(QSize, stored);
+        // Slopes tell places: a shift of a pixel in the result changes its value by a known step.
+        constexpr int part = 8; // only the last eighth of a side rises
+        const auto height = [](int place, int side) {
+            return std::max(0, (place - side + side / part) * part * 255 / side);
+        };
+        QImage slope(stored, QImage::Format_RGB32);
+        for (int y = 0; y < stored.height(); ++y)
+            for (int x = 0; x < stored.width(); ++x)
+                slope.setPixel(x, y, qRgb(height(x, stored.width()), height(y, stored.height()), 128));
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("slope.jpg"));
+        QVERIFY(slope.save(path, "jpg", 100));
+        const Result<ImageSource> source = ImageSource::open(path);
+        const QSize wanted(stored.width() / 8, stored.height() / 8);
+        const Bitmap made = source->decodeScaled(wanted).value_or(Bitmap());
+        const Bitmap exact = platform::resample(source->decode().value_or(Bitmap()), wanted).value_or(Bitmap());
+        QCOMPARE(made.size(), wanted);
+        double across = 0;
+        double down = 0;
+        constexpr int border = 4;
+        const int right = wanted.width() - border;
+        const int bottom = wanted.height() - border;
+        for (int step = border; step < bottom; ++step)
+            across += made.pixel(right, step)[0] - exact.pixel(right, step)[0];
+        for (int step = border; step < right; ++step)
+            down += made.pixel(step, bottom)[1] - exact.pixel(step, bottom)[1];
+        constexpr double mostShift = 0.15; // of a pixel
+        across *= wanted.width() / 255.0 / part / (bottom - border);
+        down *= wanted.height() / 255.0 / part / (right - border);
+        QVERIFY2(std::abs(across) < mostShift && std::abs(down) < mostShift,
+                 qPrintable(QStringLiteral("%1 %2").arg(across).arg(down)));
     }
 
     void refusesAnImageThatIsNotThere()
