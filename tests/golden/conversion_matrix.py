@@ -155,11 +155,13 @@ class Matrix:
         self.expect(stated == wanted, row, target, f"orientation {stated} instead of {wanted}")
 
     def check_depth(self, row, target, path, page, promise):
-        deep = row["bit_depth"] == "16" and promise["depth"] == formats.KEPT
+        deep = row["bit_depth"] in ("10", "12", "16", "32") and promise["depth"] == formats.KEPT
+        # Floating point stays in TIFF, and becomes 16 bits elsewhere.
+        most = 32 if row["bit_depth"] == "32" and target == "tiff" else 16
         depth = int(page["images"][0]["bpc"]) if page is not None and page["images"] else int(self.pixels.get(path, {}).get("depth", 0))
         # ImageMagick tells the depth that the pixels need, not the file's.
-        right = depth == (16 if deep else 8) or (page is None and not deep and 1 <= depth <= 8)
-        self.expect(right, row, target, f"{depth} bits instead of {16 if deep else 8}")
+        right = depth == (most if deep else 8) or (page is None and not deep and 1 <= depth <= 8)
+        self.expect(right, row, target, f"{depth} bits instead of {most if deep else 8}")
 
     def check_profile(self, row, target, tags, page, promise):
         profile = "" if row["icc_profile"] == "-" else row["icc_profile"]
@@ -182,7 +184,8 @@ class Matrix:
         else:
             has = self.pixels.get(path, {}).get("alpha") in ("True", "Blend")
         # A GIF has one transparent index, which need not be used, and a palette need not say that all of it is opaque.
-        if target != "gif" and row["format"] not in ("GIF", "WEBP", "SVG", "PDF"):
+        # ImageMagick takes every fourth channel for transparency.
+        if target != "gif" and "extra-channel" not in row["path"] and row["format"] not in ("GIF", "WEBP", "SVG", "PDF"):
             self.expect(has == wanted, row, target, "transparency " + ("made up" if has else "lost"))
 
     def check_resolution(self, row, target, tags, page, promise):
@@ -214,7 +217,7 @@ class Matrix:
         """Targets without loss hold the same pixels, whoever reads them."""
         for number, row in enumerate(self.rows):
             plain = row["icc_profile"] == "-" and row["has_alpha"] == "no" and row["orientation"] in ("-", "1")
-            if row["path"] in UNREAD or not plain or row["bit_depth"] != "8" or row["colour_model"] not in ("rgb", "gray"):
+            if row["path"] in UNREAD or not plain or "extra-channel" in row["path"] or row["bit_depth"] != "8" or row["colour_model"] not in ("rgb", "gray"):
                 continue
             marks = {self.pixels.get(str(self.path(number, target)), {}).get("signature") for target in ("png", "tiff", "bmp")}
             self.expect(len(marks) == 1, row, "png, tiff and bmp", "not the same pixels")
