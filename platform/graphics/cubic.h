@@ -38,7 +38,7 @@ struct CubicWeights
 };
 
 /** The pixels that one new pixel is made of: rows of four, one below the other. */
-template<typename Component> struct Window
+template<typename Component> struct SourceWindow
 {
     const Component *first;
     ptrdiff_t rowLength; ///< in components
@@ -62,7 +62,7 @@ public:
     static constexpr int readsBeyond = 0; ///< components that are read, and not used, behind each row of a window
 
     OpaqueMixer(int bands, float) : m_bands(bands) {}
-    void mix(Window<Component> window, const CubicWeights &across, const CubicWeights &down, Component *out) const
+    void mix(SourceWindow<Component> window, const CubicWeights &across, const CubicWeights &down, Component *out) const
     {
         for (int band = 0; band < m_bands; ++band) {
             float sum = 0;
@@ -87,7 +87,7 @@ public:
     static constexpr int readsBeyond = 0;
 
     SeenMixer(int bands, float opaque) : m_colours(bands - 1), m_opaque(opaque) {}
-    void mix(Window<Component> window, const CubicWeights &across, const CubicWeights &down, Component *out) const
+    void mix(SourceWindow<Component> window, const CubicWeights &across, const CubicWeights &down, Component *out) const
     {
         std::array<float, taps *taps> weights = {};
         float seen = 0;
@@ -106,7 +106,7 @@ public:
     }
 
 private:
-    Component at(Window<Component> window, size_t tap, int band) const
+    Component at(SourceWindow<Component> window, size_t tap, int band) const
     {
         return window.first[ptrdiff_t(tap / taps) * window.rowLength + ptrdiff_t(tap % taps) * (m_colours + 1) + band];
     }
@@ -124,7 +124,7 @@ public:
     static constexpr int readsBeyond = 4;
 
     RgbMixer(int, float) {}
-    void mix(Window<quint8> window, const CubicWeights &across, const CubicWeights &down, quint8 *out) const
+    void mix(SourceWindow<quint8> window, const CubicWeights &across, const CubicWeights &down, quint8 *out) const
     {
         const Bytes top = load(window.first);
         const Bytes second = load(window.first + window.rowLength);

@@ -192,7 +192,7 @@ private:
         }
     }
 
-    Window<Component> windowAt(int x, int y)
+    SourceWindow<Component> windowAt(int x, int y)
     {
         const int left = x - 1;
         const int top = y - 1;
