@@ -52,21 +52,27 @@ void keepMemoryForNextPicture()
 }
 
 /**
- * True where one of the lines is more than a remark of the JPEG reader about an odd file whose pixels are all there: bytes that
- * stand between segments, headers and profiles that are not quite as they should be.
+ * A remark about an odd file whose pixels are all there: the JPEG reader tells of bytes that stand between segments, and of
+ * headers and profiles that are not quite as they should be; the TIFF reader of tags that it leaves out, such as a camera's
+ * (it fails by itself where pixels need one).
  */
+bool isRemark(const QByteArray &line)
+{
+    static const QList<QByteArray> aboutJpegs = {"extraneous bytes before marker",    "Invalid SOS parameters",
+                                                 "Inconsistent progression sequence", "Unknown Adobe color transform",
+                                                 "unsupported JFIF revision",         "bad ICC marker"};
+    return line.startsWith("_TIFFVSetField:") ||
+           (line.startsWith("VipsJpeg:") &&
+            std::any_of(aboutJpegs.begin(), aboutJpegs.end(),
+                        [&line](const QByteArray &part) { return line.contains(part); }));
+}
+
+/** True where one of the lines is more than a remark. */
 bool tellsOfDamage(const char *texts)
 {
-    static const QList<QByteArray> remarks = {"extraneous bytes before marker",    "Invalid SOS parameters",
-                                              "Inconsistent progression sequence", "Unknown Adobe color transform",
-                                              "unsupported JFIF revision",         "bad ICC marker"};
-    for (const QByteArray &line : QByteArray(texts).split('\n')) {
-        const bool isRemark = std::any_of(remarks.begin(), remarks.end(),
-                                          [&line](const QByteArray &remark) { return line.contains(remark); });
-        if (!line.trimmed().isEmpty() && !(line.startsWith("VipsJpeg:") && isRemark))
-            return true;
-    }
-    return false;
+    const QList<QByteArray> lines = QByteArray(texts).split('\n');
+    return std::any_of(lines.begin(), lines.end(),
+                       [](const QByteArray &line) { return !line.trimmed().isEmpty() && !isRemark(line); });
 }
 
 void dropMetadata(VImage &image)
@@ -175,14 +181,33 @@ VImage turnedUpright(const VImage &image, int orientation)
     }
 }
 
+/** The library's own enlargement lays the result half a pixel of it to the right and below. */
+static VImage enlarged(const VImage &image, double horizontal, double vertical)
+{
+    const auto between = [](double scale) { return (scale - 1) / 2; }; // the centres of the first pixels
+    const std::vector<int> area = {0, 0, int(std::lround(image.width() * horizontal)),
+                                   int(std::lround(image.height() * vertical))};
+    return image.affine({horizontal, 0, 0, vertical},
+                        VImage::option()
+                            ->set("oarea", area)
+                            ->set("odx", between(horizontal))
+                            ->set("ody", between(vertical))
+                            ->set("extend", VIPS_EXTEND_COPY)
+                            ->set("interpolate", vips::VInterpolate::new_from_name("bicubic")));
+}
+
 static VImage resized(const VImage &image, double horizontal, double vertical)
 {
     // Box pre-shrinking (the gap) is only for shrinks so strong that the full filter would cost too much.
     constexpr double strongestPureShrink = 8;
     const bool isPure = std::min(horizontal, vertical) >= 1.0 / strongestPureShrink;
-    return image.resize(
-        horizontal,
-        VImage::option()->set("vscale", vertical)->set("kernel", VIPS_KERNEL_LANCZOS3)->set("gap", isPure ? 0.0 : 2.0));
+    const VImage fewer = horizontal >= 1 && vertical >= 1
+                             ? image
+                             : image.resize(std::min(horizontal, 1.0), VImage::option()
+                                                                           ->set("vscale", std::min(vertical, 1.0))
+                                                                           ->set("kernel", VIPS_KERNEL_LANCZOS3)
+                                                                           ->set("gap", isPure ? 0.0 : 2.0));
+    return horizontal > 1 || vertical > 1 ? enlarged(fewer, std::max(horizontal, 1.0), std::max(vertical, 1.0)) : fewer;
 }
 
 /** Pixels that cannot be seen lend no colour to those that can. */

@@ -5,6 +5,7 @@
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
+#include <QBuffer>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -134,18 +135,18 @@ private Q_SLOTS:
             row(name, ErrorCode::Unreadable);
         row("own/broken/bomb-60000x60000.png", ErrorCode::TooLarge);
         row("own/broken/bomb-100000x100000.tif", ErrorCode::TooLarge);
-        row("zero-byte.jpg", ErrorCode::NotAPicture);
-        row("text-named.jpg", ErrorCode::NotAPicture);
-        row("truncated-real-camera.jpg", ErrorCode::Unreadable);
-        row("truncated_image.png", ErrorCode::Unreadable);
-        row("truncated.gif", ErrorCode::Unreadable);
-        row("broken_data_stream.png", ErrorCode::Unreadable);
-        row("libpng-huge_IDAT.png", ErrorCode::Unreadable);
-        row("decompression_bomb.gif", ErrorCode::Unreadable);
-        row("bomb-60000x60000.png", ErrorCode::TooLarge);
-        row("bomb-100000x100000.tif", ErrorCode::TooLarge);
-        row("bomb-30000x30000.bmp", ErrorCode::Unreadable);
-        row("17000x17000.avif", ErrorCode::Unreadable);
+        row("broken/zero-byte.jpg", ErrorCode::NotAPicture);
+        row("broken/text-named.jpg", ErrorCode::NotAPicture);
+        row("broken/truncated-real-camera.jpg", ErrorCode::Unreadable);
+        row("broken/truncated_image.png", ErrorCode::Unreadable);
+        row("broken/truncated.gif", ErrorCode::Unreadable);
+        row("broken/broken_data_stream.png", ErrorCode::Unreadable);
+        row("broken/libpng-huge_IDAT.png", ErrorCode::Unreadable);
+        row("broken/decompression_bomb.gif", ErrorCode::Unreadable);
+        row("broken/bomb-60000x60000.png", ErrorCode::TooLarge);
+        row("broken/bomb-100000x100000.tif", ErrorCode::TooLarge);
+        row("broken/bomb-30000x30000.bmp", ErrorCode::Unreadable);
+        row("broken/17000x17000.avif", ErrorCode::Unreadable);
     }
 
     void doesNotOpenWhatIsNoWholePicture()
@@ -184,10 +185,9 @@ private Q_SLOTS:
     {
         const Result<ImageSource> phone = ImageSource::open(picturePath("own/formats/profile.heic"));
         QVERIFY(phone && phone->decode());
-        for (const QString &name :
-             picturesThere({"own/broken/truncated.gif", "own/broken/spoilt-data.png", "own/broken/truncated.tif",
-                            "broken/2018-01-09-exiv2-crash-001.tiff",
-                            "broken/decompression_bomb.gif", "broken/libpng-huge_IDAT.png"})) {
+        for (const QString &name : picturesThere({"own/broken/truncated.gif", "own/broken/spoilt-data.png",
+                                                  "own/broken/truncated.tif", "broken/2018-01-09-exiv2-crash-001.tiff",
+                                                  "broken/decompression_bomb.gif", "broken/libpng-huge_IDAT.png"})) {
             const Result<ImageSource> broken = ImageSource::open(picturePath(name));
             const Result<Bitmap> bitmap = broken ? broken->decode() : tl::make_unexpected(broken.error());
             QVERIFY(!bitmap);
@@ -226,6 +226,37 @@ private Q_SLOTS:
         const QString tiled = corpusPath("found/32Bit-72dpi-sRGB-800x600.avif");
         if (QFile::exists(tiled))
             QCOMPARE(ImageSource::open(tiled)->storedSize(), QSize(800, 600));
+    }
+
+    void enlargesAroundTheMiddle_data()
+    {
+        QTest::addColumn<QSize>("size");
+        for (const QSize size : {QSize(8, 8), QSize(10, 8), QSize(16, 24), QSize(9, 2), QSize(2, 9), QSize(100, 101)})
+            QTest::addRow("%d x %d", size.width(), size.height()) << size;
+    }
+
+    // What is mirrored before it is enlarged is the mirrored enlargement: nothing moves by a part of a pixel.
+    void enlargesAroundTheMiddle()
+    {
+        QFETCH(QSize, size);
+        QImage corner(4, 4, QImage::Format_RGB32);
+        corner.fill(Qt::black);
+        corner.setPixel(0, 0, qRgb(255, 255, 255));
+        corner.setPixel(1, 1, qRgb(0, 200, 90));
+        const auto enlarged = [size](const QImage &image) {
+            QBuffer file;
+            (void)image.save(&file, "png");
+            const Bitmap bitmap = ImageSource::fromData(file.data())->decode().value_or(Bitmap());
+            return platform::resample(bitmap, size).value_or(Bitmap()).toRawImage();
+        };
+        const QImage expected = enlarged(corner).mirrored(true, true);
+        const QImage made = enlarged(corner.mirrored(true, true));
+        QCOMPARE(made.size(), size);
+        for (int y = 0; y < size.height(); ++y)
+            for (int x = 0; x < size.width(); ++x)
+                QVERIFY2(qAbs(qRed(made.pixel(x, y)) - qRed(expected.pixel(x, y))) <= 1 &&
+                             qAbs(qGreen(made.pixel(x, y)) - qGreen(expected.pixel(x, y))) <= 1,
+                         qPrintable(QStringLiteral("at %1, %2").arg(x).arg(y)));
     }
 
     void doesNotStretchWhatIsNoWholeNumberOfBlocks_data()
