@@ -76,7 +76,7 @@ private:
         if (position == 0 || m_seen.contains(position))
             return;
         if (position < 0 || position >= m_file.size() || m_seen.size() >= mostDirectories) {
-            m_isSound = false;
+            m_isSound = m_isSound && place == Place::Notes;
             return;
         }
         m_seen.insert(position);
@@ -93,7 +93,7 @@ private:
         const qint64 count = m_file.number(position, countSize, m_isLittle);
         const qint64 nextAt = position + countSize + count * entrySize;
         if (count < 0 || count > mostEntries || nextAt > m_file.size()) {
-            m_isSound = false;
+            m_isSound = m_isSound && waiting.place == Place::Notes;
             return;
         }
         Directory directory;

@@ -155,6 +155,10 @@ class Batch:
         if "File:ExifByteOrder" not in old:  # what a first EXIF block brings along
             new.pop("File:ExifByteOrder", None)
             new.update({"RIFF:WebP_Flags": flags & ~8 for flags in [new.get("RIFF:WebP_Flags")] if flags is not None})
+            if old.get("File:FileType") == "WEBP":  # only the extended form holds a block
+                new["File:FileType"] = "WEBP" if new.get("File:FileType") == "Extended WEBP" else new.get("File:FileType")
+                if new.get("RIFF:WebP_Flags") == 0:
+                    new["RIFF:WebP_Flags"] = old.get("RIFF:WebP_Flags")
         for key in sorted(set(old) | set(new)):
             if old.get(key) != new.get(key):
                 self.fault(path, f"{key} was {str(old.get(key))[:80]!r} and is {str(new.get(key))[:80]!r}")

@@ -4,8 +4,8 @@
 #include "app/window/side_bar.h"
 
 #include "platform/desktop/menu_bar.h"
-#include "platform/desktop/screens.h"
 #include "platform/desktop/panels.h"
+#include "platform/desktop/screens.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/imageio/image_source.h"
 #include "tests/support/own_settings.h"

@@ -165,23 +165,24 @@ void TestSeamFacade::findsOneObjectThroughTwoFields()
 void TestSeamFacade::tellsNoTextFromEmptyText()
 {
     ScriptRun run;
-    QVERIFY2(run.run(QStringLiteral(
-                 "import { cSheetControl, dbViewController, cMConversion } from 'quorlin';\n"
-                 "let fields = 0;\n"
-                 "for (const Make of [ZtImageHandling, cNSStringHandling, cSheetControl, cToolBox, dbViewController, mMeta, "
-                 "cEditMetaData, cNSFileHandling, cMConversion, TextField, TabView, PopUpButton, TextView]) {\n"
-                 "    const o = new Make();\n"
-                 "    for (const name of Object.keys(o)) {\n"
-                 "        try { o[name] = ''; } catch (e) { continue; }\n"
-                 "        fields += 1;\n"
-                 "        for (const value of ['', null, 'a', null, '', 'a', '', null, null, '']) {\n"
-                 "            o[name] = value;\n"
-                 "            if (o[name] !== value) report([Make.name, name, value, o[name]]);\n"
-                 "        }\n"
-                 "    }\n"
-                 "}\n"
-                 "report(fields > 20);")),
-             qPrintable(run.error));
+    QVERIFY2(
+        run.run(QStringLiteral(
+            "import { cSheetControl, dbViewController, cMConversion } from 'quorlin';\n"
+            "let fields = 0;\n"
+            "for (const Make of [ZtImageHandling, cNSStringHandling, cSheetControl, cToolBox, dbViewController, mMeta, "
+            "cEditMetaData, cNSFileHandling, cMConversion, TextField, TabView, PopUpButton, TextView]) {\n"
+            "    const o = new Make();\n"
+            "    for (const name of Object.keys(o)) {\n"
+            "        try { o[name] = ''; } catch (e) { continue; }\n"
+            "        fields += 1;\n"
+            "        for (const value of ['', null, 'a', null, '', 'a', '', null, null, '']) {\n"
+            "            o[name] = value;\n"
+            "            if (o[name] !== value) report([Make.name, name, value, o[name]]);\n"
+            "        }\n"
+            "    }\n"
+            "}\n"
+            "report(fields > 20);")),
+        qPrintable(run.error));
     QCOMPARE(run.reports, QStringList{QStringLiteral("true")});
 }
 
