@@ -49,7 +49,7 @@ Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, 
 {
     const platform::Forms forms = format == FileFormat::Tiff ? platform::Forms::AsTiffHolds : platform::Forms::Plain;
     const Result<QByteArray> plain =
-        source.decode({0, platform::Orientation::AsStored, forms}).and_then([format](const Bitmap &bitmap) {
+        source.decode({0, platform::Orientation::AsStored, forms, format}).and_then([format](const Bitmap &bitmap) {
             return platform::encodeImage(bitmap, format, withResolution());
         });
     if (!plain)
@@ -62,7 +62,7 @@ Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, 
 
 Result<void> writePixels(const ImageSource &source, FileFormat format, const Conversion &conversion)
 {
-    return source.decode().and_then([&](const Bitmap &bitmap) {
+    return source.decode({.written = format}).and_then([&](const Bitmap &bitmap) {
         platform::EncodeOptions options = withResolution();
         options.lossyQuality = conversion.quality;
         return platform::writeImageFile(conversion.destination, bitmap, format, options);

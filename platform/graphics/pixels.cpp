@@ -1,6 +1,9 @@
 #include "platform/graphics/pixels.h"
 
+#include "platform/foundation/memory_left.h"
 #include "platform/graphics/icc_profile.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -116,6 +119,12 @@ QString takeVipsError(const vips::VError &error)
 VImage inMemory(const VImage &image)
 {
     vips_error_clear();
+    const bool isComputed = image.get_image()->dtype == VIPS_IMAGE_SETBUF;
+    const auto left = isComputed ? Result<void>()
+                                 : memoryIsLeftFor(qint64(VIPS_IMAGE_SIZEOF_IMAGE(image.get_image())),
+                                                   QCoreApplication::translate("platform", "The picture"));
+    if (!left)
+        throw vips::VError(left.error().message.toStdString());
     const VImage computed = image.copy_memory();
     if (tellsOfDamage(vips_error_buffer()))
         throw vips::VError(vips_error_buffer());

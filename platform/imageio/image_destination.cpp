@@ -1,8 +1,10 @@
 #include "platform/imageio/image_destination.h"
 
 #include "platform/foundation/atomic_file.h"
+#include "platform/foundation/memory_left.h"
 #include "platform/imageio/encoders.h"
 #include "platform/imageio/jp2_profile.h"
+#include "platform/imageio/memory_need.h"
 
 #include <QCoreApplication>
 
@@ -78,6 +80,10 @@ Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const En
                        QCoreApplication::translate("platform", "There is no picture to write"));
     try {
         initVips();
+        const auto left = memoryIsLeftFor(memoryNeedOfWriting(format, bitmap.pixels().image),
+                                          QCoreApplication::translate("platform", "Writing the picture"));
+        if (!left)
+            return tl::unexpected<Error>(left.error());
         const Result<QByteArray> encoded = encodePixels(bitmap, format, options);
         if (!encoded || options.metadata.isEmpty() || !holdsMetadata(format))
             return encoded;

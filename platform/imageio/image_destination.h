@@ -32,7 +32,8 @@ struct EncodeOptions
  * formats without them, the pixels are converted to sRGB. Depth: 16 bits stay in PNG, TIFF and JPEG 2000. Alpha is laid
  * on black in JPEG and BMP.
  *
- * Fails with WriteFailed if the encoder fails, and with InvalidValue for a null bitmap.
+ * Fails with WriteFailed if the encoder fails, with InvalidValue for a null bitmap, and with TooLarge where it needs more memory
+ * than is left, before anything is encoded.
  */
 Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options = {});
 

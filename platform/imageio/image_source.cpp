@@ -1,6 +1,7 @@
 #include "platform/imageio/image_source.h"
 
 #include "platform/graphics/resample.h"
+#include "platform/imageio/memory_need.h"
 #include "platform/imageio/opened_file.h"
 #include "platform/imageio/raw_preview.h"
 #include "platform/imageio/shrunk_jpeg.h"
@@ -275,7 +276,11 @@ Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const
         VImage image = openedInForm(*m_file, load, options.forms);
         if (!isWithinBudget(image))
             return tooLarge(m_file->name(), QSize(image.width(), image.height()));
-        if (options.orientation == Orientation::Upright && m_file->orientation > 1)
+        const bool isTurned = options.orientation == Orientation::Upright && m_file->orientation > 1;
+        const QSize made(image.width(), image.height());
+        if (const auto left = memoryIsLeftToDecode(*m_file, image, {made, isTurned, options.written}); !left)
+            return tl::unexpected<Error>(left.error());
+        if (isTurned)
             image = turnedUpright(inMemory(image), m_file->orientation);
         return finished(*m_file, image, options.orientation);
     } catch (const vips::VError &error) {
@@ -295,6 +300,8 @@ Result<Bitmap> ImageSource::decodePart(const QRect &part, Forms forms) const
         initVips();
         const VImage image = openedInForm(*m_file, {}, forms);
         const QRect stored = storedPart(kept, QSize(image.width(), image.height()), m_file->orientation);
+        if (const auto left = memoryIsLeftToDecode(*m_file, image, {stored.size(), m_file->orientation > 1}); !left)
+            return tl::unexpected<Error>(left.error());
         const VImage rows = image.extract_area(stored.x(), stored.y(), stored.width(), stored.height());
         if (m_file->orientation <= 1)
             return finished(*m_file, rows);
@@ -332,6 +339,10 @@ Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) 
         if (!fitsMemoryBudget(wanted.width(), wanted.height(), image.bands(), bytesPerComponent(image)))
             return failure(ErrorCode::TooLarge,
                            text("No picture of %1 x %2 pixels can be made").arg(size.width()).arg(size.height()));
+        const QSize decoded(image.width(), image.height());
+        const QSize made = scaling == Scaling::Exact ? wanted : decoded;
+        if (const auto left = memoryIsLeftToDecode(*m_file, image, {made, m_file->orientation > 1}); !left)
+            return tl::unexpected<Error>(left.error());
         if (scaling == Scaling::Exact)
             image = shrink > 1 ? scaledFromShrunk(image, m_file->storedSize, shrink, wanted) : scaledTo(image, wanted);
         if (m_file->orientation > 1)

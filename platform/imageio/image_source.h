@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/graphics/turn.h"
+#include "platform/imageio/image_destination.h"
 #include "platform/imageio/metadata.h"
 
 #include <QMetaType>
@@ -19,6 +20,8 @@ struct DecodeOptions
     int index = 0; ///< which image of the file, 0 to imageCount() - 1
     Orientation orientation = Orientation::Upright;
     Forms forms = Forms::Plain; ///< others than plain ones come of a TIFF only
+    /** What the pixels are written as next, which needs memory too. */
+    std::optional<FileFormat> written = {};
 };
 
 /**
@@ -26,7 +29,8 @@ struct DecodeOptions
  *
  * A cheap value that shares what it knows of the file. Files are recognised by their content, never by their name.
  * Opening costs about a millisecond. A file that is cut short, or that claims more pixels than the memory budget
- * allows, does not open: it is refused before anything is decoded.
+ * allows, does not open: it is refused before anything is decoded. So are, when pixels are asked for, those that need more
+ * memory than is left then; the log says so.
  */
 class ImageSource
 {

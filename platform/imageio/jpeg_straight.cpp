@@ -4,6 +4,7 @@
 #include "platform/graphics/icc_profile.h"
 #include "platform/imageio/encoders.h"
 #include "platform/imageio/jpeg_rows.h"
+#include "platform/imageio/memory_need.h"
 #include "platform/imageio/opened_file.h"
 
 #include <algorithm>
@@ -99,7 +100,10 @@ Result<bool> isDone(const Result<void> &written)
 
 Result<bool> writeBmp(const ImageSource::File &file, const QString &path)
 {
-    const VImage shape = bareImage(inForm(openImage(file.bytes, file.content)));
+    const VImage image = openImage(file.bytes, file.content);
+    if (!memoryIsLeftToDecode(file, image, {}))
+        return false;
+    const VImage shape = bareImage(inForm(image));
     const QByteArray profile = iccProfileOf(shape);
     if (!isOfBytes(shape) || (!profile.isEmpty() && !isSrgb(profile)))
         return false;
@@ -114,7 +118,10 @@ Result<bool> writeBmp(const ImageSource::File &file, const QString &path)
 
 Result<bool> writeTiff(const ImageSource::File &file, const QString &path, const Metadata &metadata)
 {
-    const VImage shape = bareImage(inForm(openImage(file.bytes, file.content)));
+    const VImage image = openImage(file.bytes, file.content);
+    if (!memoryIsLeftToDecode(file, image, {}))
+        return false;
+    const VImage shape = bareImage(inForm(image));
     const qint64 pixelBytes = qint64(VIPS_IMAGE_SIZEOF_IMAGE(shape.get_image()));
     if (!isOfBytes(shape) || !isPlainTiff(shape))
         return false;

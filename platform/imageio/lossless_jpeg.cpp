@@ -1,5 +1,6 @@
 #include "platform/imageio/lossless_jpeg.h"
 
+#include "platform/foundation/memory_left.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/jpeg_segments.h"
 #include "platform/imageio/opened_file.h"
@@ -83,7 +84,8 @@ bool coefficientsFit(QSize size)
 {
     constexpr int components = 3;
     constexpr int bytesOfBoth = 4;
-    return fitsMemoryBudget(size.width(), size.height(), components, bytesOfBoth);
+    const qint64 need = qint64(size.width()) * size.height() * components * bytesOfBoth;
+    return fitsMemoryBudget(size.width(), size.height(), components, bytesOfBoth) && need < memoryLeft();
 }
 
 } // namespace

@@ -1,7 +1,9 @@
+#include "platform/foundation/memory_left.h"
 #include "platform/imageio/bare_jpeg.h"
 #include "platform/imageio/deflate.h"
 #include "platform/imageio/encoders.h"
 #include "platform/imageio/jpeg_segments.h"
+#include "platform/imageio/memory_need.h"
 #include "platform/imageio/opened_file.h"
 #include "platform/imageio/orientation_mark.h"
 #include "platform/imageio/pdf_file.h"
@@ -146,7 +148,11 @@ Result<QByteArray> ImageSource::asPdfPage() const
             if (!page.isEmpty())
                 return page;
         }
-        return decode().map([this](const Bitmap &bitmap) { return pageOfPixels(bitmap, pointSize()); });
+        return decode().and_then([this](const Bitmap &bitmap) {
+            return memoryIsLeftFor(memoryNeedOfPage(bitmap.pixels().image), m_file->name()).map([&] {
+                return pageOfPixels(bitmap, pointSize());
+            });
+        });
     } catch (const vips::VError &error) {
         return failure(
             ErrorCode::WriteFailed,

@@ -2,7 +2,10 @@
 
 // Private to the platform: pixels that a decoder of ours fills row by row.
 
+#include "platform/foundation/memory_left.h"
 #include "platform/graphics/pixels.h"
+
+#include <QCoreApplication>
 
 namespace platform {
 
@@ -13,9 +16,13 @@ public:
     /** @param format  VIPS_FORMAT_UCHAR or one of the others; throws vips::VError where there is no memory for it. */
     PixelMemory(QSize size, int bands, VipsBandFormat format)
         : m_size(size), m_bands(bands), m_format(format),
-          m_rowBytes(size_t(size.width()) * size_t(bands) * size_t(vips_format_sizeof(format))),
-          m_bytes(static_cast<uchar *>(g_try_malloc0(m_rowBytes * size_t(size.height()))))
+          m_rowBytes(size_t(size.width()) * size_t(bands) * size_t(vips_format_sizeof(format)))
     {
+        const auto left = memoryIsLeftFor(qint64(m_rowBytes) * size.height(),
+                                          QCoreApplication::translate("platform", "Reading the picture"));
+        if (!left)
+            throw vips::VError(left.error().message.toStdString());
+        m_bytes = static_cast<uchar *>(g_try_malloc0(m_rowBytes * size_t(size.height())));
         if (!m_bytes)
             throw vips::VError("out of memory");
     }
@@ -42,7 +49,7 @@ private:
     int m_bands;
     VipsBandFormat m_format;
     size_t m_rowBytes;
-    uchar *m_bytes;
+    uchar *m_bytes = nullptr;
 };
 
 } // namespace platform

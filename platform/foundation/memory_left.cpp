@@ -1,0 +1,150 @@
+#include "platform/foundation/memory_left.h"
+
+#include "platform/foundation/human_texts.h"
+#include "platform/foundation/log.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <algorithm>
+#include <limits>
+#include <malloc.h>
+#include <optional>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+constexpr qint64 unlimited = std::numeric_limits<qint64>::max();
+constexpr qint64 bytesPerKilobyte = 1024;
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/** The number behind the first word @p name of a line; none where there is no such line. */
+std::optional<qint64> numberOf(const QByteArray &lines, const char *name)
+{
+    for (const QByteArray &line : lines.split('\n')) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        if (words.size() > 1 && words[0] == name)
+            return words[1].toLongLong();
+    }
+    return std::nullopt;
+}
+
+qint64 leftOnMachine(const QString &root)
+{
+    const auto available = numberOf(contentOf(root + QStringLiteral("proc/meminfo")), "MemAvailable:");
+    return available ? *available * bytesPerKilobyte : unlimited;
+}
+
+/** What the files of one control group leave; the two generations of them have different names. */
+struct GroupFiles
+{
+    QString folder; ///< below "sys/fs/cgroup"
+    QString limit;
+    QString used;
+    const char *cache; ///< in "memory.stat": what is given back when it is needed
+};
+
+const GroupFiles &unified()
+{
+    static const GroupFiles files = {QString(), QStringLiteral("memory.max"), QStringLiteral("memory.current"),
+                                     "inactive_file"};
+    return files;
+}
+
+const GroupFiles &divided()
+{
+    static const GroupFiles files = {QStringLiteral("/memory"), QStringLiteral("memory.limit_in_bytes"),
+                                     QStringLiteral("memory.usage_in_bytes"), "total_inactive_file"};
+    return files;
+}
+
+qint64 leftInGroup(const QString &folder, const GroupFiles &files)
+{
+    bool isLimited = false;
+    bool isUsed = false;
+    const qint64 limit = contentOf(folder + files.limit).trimmed().toLongLong(&isLimited);
+    const qint64 used = contentOf(folder + files.used).trimmed().toLongLong(&isUsed);
+    if (!isLimited || !isUsed)
+        return unlimited;
+    const qint64 cache = numberOf(contentOf(folder + QStringLiteral("memory.stat")), files.cache).value_or(0);
+    return std::max<qint64>(0, limit - used + std::min(cache, used));
+}
+
+/** A group counts with all that it is in; a container sees its own as the topmost, whatever it is called outside. */
+qint64 leftInGroups(const QString &root, QString group, const GroupFiles &files)
+{
+    const QString top = root + QStringLiteral("sys/fs/cgroup") + files.folder;
+    qint64 left = leftInGroup(top + u'/', files);
+    for (; group.size() > 1; group.truncate(std::max<qsizetype>(0, group.lastIndexOf(u'/'))))
+        left = std::min(left, leftInGroup(top + group + u'/', files));
+    return left;
+}
+
+qint64 leftInAllGroups(const QString &root)
+{
+    qint64 left = unlimited;
+    for (const QByteArray &line : contentOf(root + QStringLiteral("proc/self/cgroup")).split('\n')) {
+        const qsizetype first = line.indexOf(':');
+        const qsizetype second = line.indexOf(':', first + 1);
+        if (first < 0 || second < 0)
+            continue;
+        const QByteArray controllers = line.mid(first + 1, second - first - 1);
+        const QString group = QFile::decodeName(line.mid(second + 1));
+        if (controllers.isEmpty())
+            left = std::min(left, leftInGroups(root, group, unified()));
+        else if (controllers.split(',').contains("memory"))
+            left = std::min(left, leftInGroups(root, group, divided()));
+    }
+    return left;
+}
+
+qint64 leftOfAddresses(const QString &root)
+{
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_AS, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY)
+        return unlimited;
+    const qint64 pages = contentOf(root + QStringLiteral("proc/self/statm")).split(' ').value(0).toLongLong();
+    return std::max<qint64>(0, qint64(limit.rlim_cur) - pages * ::sysconf(_SC_PAGESIZE));
+}
+
+} // namespace
+
+qint64 memoryLeft(const QString &root, qint64 addresses)
+{
+    const qint64 ofAddresses = std::max<qint64>(0, leftOfAddresses(root) - addresses);
+    return std::min({leftOnMachine(root), leftInAllGroups(root), ofAddresses});
+}
+
+QString memorySentence(const QString &name, qint64 need, qint64 left)
+{
+    return QCoreApplication::translate("platform", "%1 needs about %2 of memory, %3 is free")
+        .arg(name, byteCountText(need), byteCountText(left));
+}
+
+Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses)
+{
+    constexpr qint64 besides = 64LL << 20; // threads, their stacks and what they cut their work into
+    const QString root = QStringLiteral("/");
+    const qint64 all = need + besides;
+    qint64 left = memoryLeft(root, addresses);
+    if (all <= left)
+        return {};
+#ifdef __GLIBC__
+    ::malloc_trim(0); // what earlier pictures left, which is kept for the next
+    left = memoryLeft(root, addresses);
+    if (all <= left)
+        return {};
+#endif
+    const QString sentence = memorySentence(name, all, left);
+    logLine(sentence);
+    return failure(ErrorCode::TooLarge, sentence);
+}
+
+} // namespace platform
