@@ -18,26 +18,28 @@ struct Cost
 };
 
 /** What a decoder keeps beside the pixels that it hands out. */
-Cost costOfDecoding(Content content)
+Cost costOfDecoding(Content content, int bands)
 {
     switch (content) {
     case Content::Tiff: // a strip may hold all rows
-    case Content::Webp:
         return {.aByte = 1};
+    case Content::Webp:
+        return {.aPixel = 8, .aByte = 2};
     case Content::Gif:
         return {.aPixel = 5.5};
     case Content::Heif:
     case Content::Avif:
         return {.aPixel = 6, .aByte = 1};
     case Content::Jpeg2000: // every sample as a number of four bytes, and all pixels once more
-        return {.aByte = 6};
+        return {.aPixel = 4.0 * bands, .aByte = 1.25};
+    case Content::Photoshop:
+        return {.aByte = 0.5};
     case Content::Pdf:
     case Content::Svg:
         return {.aPixel = 4};
     case Content::Jpeg:
     case Content::Png:
     case Content::Bmp:
-    case Content::Photoshop:
     case Content::Unknown:
         break;
     }
@@ -90,7 +92,7 @@ qint64 bytesFor(Cost cost, const vips::VImage &image)
 qint64 memoryNeed(const DecodingFacts &facts, const Outcome &outcome)
 {
     const int pixelBytes = facts.bands * facts.componentBytes;
-    Cost decoding = costOfDecoding(facts.content);
+    Cost decoding = costOfDecoding(facts.content, facts.bands);
     if (facts.comesInPasses && facts.content == Content::Jpeg)
         decoding.aByte += 2; // the coefficients of all colours
     else if (facts.comesInPasses)
