@@ -259,4 +259,15 @@ VImage bmpPixels(QIODevice &file)
     return layout.palette.empty() ? colouredPixels(file, layout) : palettePixels(file, layout);
 }
 
+int bmpDepth(QIODevice &file)
+{
+    const Layout layout = layoutOf(file);
+    if (!layout.palette.empty())
+        return layout.bits;
+    int widest = 8;
+    for (const quint32 mask : layout.masks)
+        widest = std::max(widest, std::popcount(mask));
+    return widest;
+}
+
 } // namespace platform

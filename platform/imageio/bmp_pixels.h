@@ -15,4 +15,7 @@ namespace platform {
  */
 vips::VImage bmpPixels(QIODevice &file);
 
+/** Bits of an index into the palette, or of the widest component and at least 8. Throws vips::VError as bmpPixels() does. */
+int bmpDepth(QIODevice &file);
+
 } // namespace platform

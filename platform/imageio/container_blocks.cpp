@@ -1,8 +1,11 @@
 #include "platform/imageio/container_blocks.h"
 
+#include "platform/graphics/pixels.h"
 #include "platform/imageio/content.h"
+#include "platform/imageio/photoshop_file.h"
 #include "platform/imageio/tiff_tree.h"
 
+#include <QBuffer>
 #include <QtEndian>
 
 #include <algorithm>
@@ -179,6 +182,24 @@ ContainerBlocks gifBlocks(const QByteArray &bytes)
         }
     }
     return {};
+}
+
+bool isLargePhotoshop(const QByteArray &bytes)
+{
+    return bytes.startsWith(QByteArrayView("8BPS\0\2", 6));
+}
+
+ContainerBlocks photoshopBlocks(const QByteArray &bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    try {
+        const PhotoshopFile file = readPhotoshopFile(buffer);
+        return {file.exif, file.xmp, file.iptc};
+    } catch (const vips::VError &) {
+        return {}; // whoever wants the pixels is told why
+    }
 }
 
 } // namespace platform

@@ -20,6 +20,12 @@ ContainerBlocks jpeg2000Blocks(const QByteArray &bytes);
 /** The application block of a GIF file that holds XMP, as it is or cut into pieces; only XMP is known there. */
 ContainerBlocks gifBlocks(const QByteArray &bytes);
 
+/** True for a PSB file, which the metadata library takes for a damaged PSD. */
+bool isLargePhotoshop(const QByteArray &bytes);
+
+/** What a Photoshop file embeds among its resources. */
+ContainerBlocks photoshopBlocks(const QByteArray &bytes);
+
 /** The XMP packet of a PNG, TIFF or WebP file; empty where there is none, or where it is compressed. */
 QByteArray xmpPacketOf(const QByteArray &bytes);
 

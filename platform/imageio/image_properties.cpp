@@ -1,6 +1,7 @@
 #include "platform/imageio/container_properties.h"
 #include "platform/imageio/opened_file.h"
 #include "platform/imageio/profile_name.h"
+#include "platform/imageio/sample_depth.h"
 
 namespace platform {
 namespace {
@@ -33,12 +34,10 @@ QString unprofiledName(const QString &model)
 
 void addPixelProperties(QVariantMap &properties, const vips::VImage &image)
 {
-    constexpr int bitsPerByte = 8;
     properties.insert(QStringLiteral("PixelWidth"), image.width());
     properties.insert(QStringLiteral("PixelHeight"), image.height());
-    properties.insert(QStringLiteral("Depth"), bytesPerComponent(image) * bitsPerByte);
     properties.insert(QStringLiteral("ColorModel"), colorModelName(image));
-    properties.insert(QStringLiteral("HasAlpha"), image.has_alpha());
+    properties.insert(QStringLiteral("HasAlpha"), hasTransparency(image));
     const QString name = profileName(iccProfileOf(image));
     if (!name.isEmpty())
         properties.insert(QStringLiteral("ProfileName"), name);
@@ -81,6 +80,7 @@ QVariantMap ImageSource::properties() const
     try {
         const vips::VImage image = openImage(m_file->bytes, m_file->content);
         addPixelProperties(properties, image);
+        properties.insert(QStringLiteral("Depth"), sampleDepth(m_file->bytes, m_file->content, image));
         const Resolution resolution = resolutionOf(m_file->bytes, m_file->content);
         if (resolution.horizontal > 0) {
             properties.insert(QStringLiteral("DPIWidth"), resolution.horizontal);

@@ -12,6 +12,7 @@
 #include "platform/imageio/xmp_packet.h"
 
 #include <exception>
+#include <optional>
 
 namespace platform {
 namespace {
@@ -61,6 +62,21 @@ void readExifBlock(Metadata::Blocks &blocks, const QByteArray &block)
     const auto order = Exiv2::ExifParser::decode(blocks.exif, bytePointer(block), uint32_t(block.size()));
     blocks.byteOrder = order == Exiv2::bigEndian ? Exiv2::bigEndian : Exiv2::littleEndian;
     blocks.exifBlock = block;
+}
+
+/** Of a file of a type that the library does not read; none for all others. */
+std::optional<ContainerBlocks> blocksOf(const QByteArray &bytes)
+{
+    switch (platform::contentOf(bytes.left(contentHeadBytes))) {
+    case Content::Jpeg2000:
+        return jpeg2000Blocks(bytes);
+    case Content::Gif:
+        return gifBlocks(bytes);
+    case Content::Photoshop:
+        return isLargePhotoshop(bytes) ? std::optional(photoshopBlocks(bytes)) : std::nullopt;
+    default:
+        return std::nullopt;
+    }
 }
 
 /** Of a TIFF file, without its XMP. The tags of other files are read from the blocks that hold them. */
@@ -147,11 +163,8 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
 {
     startMetadataLibrary();
     auto blocks = std::make_shared<Blocks>();
-    if (const Content content = platform::contentOf(bytes.left(contentHeadBytes));
-        content == Content::Jpeg2000 || content == Content::Gif) {
-        const ContainerBlocks found = content == Content::Gif ? gifBlocks(bytes) : jpeg2000Blocks(bytes);
-        return fromBlocks(found.exif, found.xmp, found.iptc);
-    }
+    if (const std::optional<ContainerBlocks> found = blocksOf(bytes))
+        return fromBlocks(found->exif, found->xmp, found->iptc);
     const JpegSegments segments = findJpegSegments(bytes);
     if (const QByteArray packet = xmpPacketOf(bytes); !isDigestibleXmp(packet)) {
         blocks->xmpPacket = packet.toStdString();

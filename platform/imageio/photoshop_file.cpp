@@ -7,9 +7,8 @@
 namespace platform {
 namespace {
 
-constexpr quint16 profileResource = 1039;
 constexpr int longestSide = 300'000;
-constexpr qint64 mostProfileBytes = 16 << 20;
+constexpr qint64 mostBlockBytes = 16 << 20;
 
 [[noreturn]] void refuse(const char *reason)
 {
@@ -80,6 +79,23 @@ void checkKind(const PhotoshopFile &file)
         refuse("it has colours of a kind that is not known here");
 }
 
+/** Where a resource that is of use goes; null for all others. */
+QByteArray *placeOf(PhotoshopFile &file, quint16 resource)
+{
+    switch (resource) {
+    case 1028:
+        return &file.iptc;
+    case 1039:
+        return &file.profile;
+    case 1058:
+        return &file.exif;
+    case 1060:
+        return &file.xmp;
+    default:
+        return nullptr;
+    }
+}
+
 void readResources(PhotoshopFile &file, Reader &reader, qint64 end)
 {
     constexpr qint64 smallestBlock = 12;
@@ -94,8 +110,8 @@ void readResources(PhotoshopFile &file, Reader &reader, qint64 end)
         if (size > end - reader.position())
             return;
         const qint64 next = reader.position() + size + size % 2;
-        if (id == profileResource && size <= mostProfileBytes)
-            file.profile = reader.bytes(size);
+        if (QByteArray *place = placeOf(file, id); place && size <= mostBlockBytes)
+            *place = reader.bytes(size);
         reader.goTo(std::min(next, end));
     }
 }

@@ -22,6 +22,9 @@ struct PhotoshopFile
     Mode mode = Mode::Rgb;
     QByteArray palette; ///< 256 reds, then greens, then blues; empty for all but palettes
     QByteArray profile;
+    QByteArray exif; ///< this and the next two as they are embedded, each empty where there is none
+    QByteArray xmp;
+    QByteArray iptc;
     /** The first channel behind the colours is the transparency of the whole; else it is a saved selection or a spot colour. */
     bool hasTransparency = false;
     qint64 pixelsAt = 0; ///< of the merged picture, which begins with how it is compressed

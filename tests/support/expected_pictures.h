@@ -17,6 +17,7 @@ struct Row
     QString format;
     QSize stored;
     QSize upright;
+    int depth = 0; ///< bits of a channel or of an index; 0 for drawings
     QString colourModel;
     bool hasAlpha = false;
     double dpi = 0; ///< 0 where none is stated
@@ -39,6 +40,7 @@ inline Row rowFrom(const QStringList &cell)
     row.format = cell[2];
     row.stored = sizeFrom(cell[4]);
     row.upright = sizeFrom(cell[6]);
+    row.depth = cell[7].toInt();
     row.colourModel = cell[8];
     row.hasAlpha = cell[9] == QLatin1String("yes");
     row.dpi = cell[10].toDouble();

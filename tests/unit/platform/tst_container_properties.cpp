@@ -9,7 +9,7 @@
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
-#include "tests/support/corpus.h"
+#include "tests/support/expected_pictures.h"
 
 #include <QBuffer>
 #include <QElapsedTimer>
@@ -138,6 +138,33 @@ QByteArray profileNamed(const QList<std::array<QString, 3>> &names)
     return QByteArray(128, '\0') + big(1) + "desc" + big(144) + big(quint32(tag.size())) + tag;
 }
 
+QByteArray big16(quint16 value)
+{
+    return big(value).mid(2);
+}
+
+QByteArray resource(quint16 number, const QByteArray &data)
+{
+    return "8BIM" + big16(number) + QByteArray(2, '\0') + big(quint32(data.size())) + data +
+           QByteArray(data.size() % 2, '\0');
+}
+
+/** A picture of 2 by 1 pixels in 8 bits; @p layers is how many of them there are, negative where they do not cover all. */
+QByteArray photoshop(bool isLarge, int channels, qint16 layers, const QByteArray &resources = {})
+{
+    const auto length = [isLarge](quint32 value) { return isLarge ? big(0) + big(value) : big(value); };
+    const QByteArray layerData = length(2) + big16(quint16(layers));
+    return "8BPS" + big16(isLarge ? 2 : 1) + QByteArray(6, '\0') + big16(quint16(channels)) + big(1) + big(2) +
+           big16(8) + big16(3) + big(0) + big(quint32(resources.size())) + resources +
+           length(quint32(layerData.size())) + layerData + big16(0) + QByteArray(2 * channels, '\x7f');
+}
+
+QVariantMap propertiesOf(const QByteArray &file)
+{
+    const auto source = ImageSource::fromData(file);
+    return source ? source->properties() : QVariantMap();
+}
+
 } // namespace
 
 class ContainerProperties : public QObject
@@ -231,6 +258,68 @@ private Q_SLOTS:
         const auto written = platform::writeUserComment(folder.path("a.jp2"), QStringLiteral("read me"));
         QVERIFY2(written, written ? "" : qPrintable(written.error().message));
         QCOMPARE(platform::readUserComment(folder.path("a.jp2")).value(), QStringLiteral("read me"));
+    }
+
+    void tellsDepthAndTransparencyAsTheFileHasThem_data()
+    {
+        QTest::addColumn<expected::Row>("row");
+        const QString found = QStringLiteral("found/");
+        const auto more = expected::tableOf(corpusPath(found), found);
+        for (const expected::Row &row : expected::rows() + more)
+            if (row.isDecodable && ImageSource::open(row.path))
+                QTest::newRow(qPrintable(row.name)) << row;
+    }
+
+    void tellsDepthAndTransparencyAsTheFileHasThem()
+    {
+        QFETCH(expected::Row, row);
+        const QVariantMap properties = ImageSource::open(row.path)->properties();
+        if (row.depth > 0)
+            QCOMPARE(value(properties, "Depth").toInt(), row.depth);
+        QCOMPARE(value(properties, "HasAlpha").toBool(), row.hasAlpha);
+    }
+
+    void tellsTheDepthOfWideMasks()
+    {
+        const auto little = [](quint32 number) {
+            return big(qbswap(number));
+        };
+        const QByteArray bmp = "BM" + little(70) + little(0) + little(66) + little(40) + little(1) + little(1) +
+                               bytes("\1\0\x20\0") + little(3) + QByteArray(20, '\0') + little(0x3ff00000) +
+                               little(0xffc00) + little(0x3ff) + little(0x12345678);
+        const QVariantMap properties = propertiesOf(bmp);
+        QCOMPARE(value(properties, "Depth").toInt(), 10);
+        QCOMPARE(value(properties, "HasAlpha").toBool(), false);
+    }
+
+    void takesASavedSelectionForNoTransparency()
+    {
+        for (const bool isLarge : {false, true}) {
+            QCOMPARE(value(propertiesOf(photoshop(isLarge, 3, -1)), "HasAlpha"), QVariant(false));
+            QCOMPARE(value(propertiesOf(photoshop(isLarge, 4, 1)), "HasAlpha"), QVariant(false));
+            QCOMPARE(value(propertiesOf(photoshop(isLarge, 5, 1)), "HasAlpha"), QVariant(false));
+            QCOMPARE(value(propertiesOf(photoshop(isLarge, 4, -1)), "HasAlpha"), QVariant(true));
+            QCOMPARE(value(propertiesOf(photoshop(isLarge, 4, -1)), "Depth").toInt(), 8);
+        }
+    }
+
+    void readsWhatALargePhotoshopFileSays()
+    {
+        const QByteArray exif = "MM" + big16(42) + big(8) + big16(1) + big16(0x010f) + big16(2) + big(4) + "Cam" +
+                                QByteArray(1, '\0') + big(0);
+        const QByteArray resources =
+            resource(1005, big(300 << 16) + big(0x00010001) + big(300 << 16) + big(0x00010001)) +
+            resource(1028, bytes("\x1c\2\x69\0\4Head")) + resource(1058, exif) + resource(1060, packet);
+        for (const bool isLarge : {false, true}) {
+            const QVariantMap properties = propertiesOf(photoshop(isLarge, 3, 1, resources));
+            const auto told = [&properties](const char *group, const char *key) {
+                return value(value(properties, group).toMap(), key).toString();
+            };
+            QCOMPARE(value(properties, "DPIWidth").toDouble(), 300.0);
+            QCOMPARE(told("{TIFF}", "Make"), QStringLiteral("Cam"));
+            QCOMPARE(told("{IPTC}", "Headline"), QStringLiteral("Head"));
+            QCOMPARE(told("{XMP}", "photoshop:Headline"), QStringLiteral("From a GIF"));
+        }
     }
 
     void answersTheSameForACommentInTheWrongDirectory()
