@@ -86,6 +86,11 @@ def page_of(path):
             "images": [dict(zip(("page", "num", "type", "width", "height", "color", "comp", "bpc", "enc"), image)) for image in images]}
 
 
+def others_in(groups):
+    """What a TIFF file says of the channels behind its colours: "1" and "2" are transparency, "0" is something else."""
+    return str(groups.get("IFD0", {}).get("ExtraSamples", "")).split()
+
+
 def carried(groups, kind):
     """The tags of one kind that a file should hand on."""
     return {f"{group}:{tag}": value for group, tags in groups.items() if group.startswith(GROUPS[kind])
@@ -130,7 +135,7 @@ class Matrix:
         self.check_size(row, target, tags, page, promise)
         self.check_depth(row, target, path, page, promise)
         self.check_profile(row, target, tags, page, promise)
-        self.check_alpha(row, target, path, page, promise)
+        self.check_alpha(row, target, tags, path, page, promise)
         self.check_resolution(row, target, tags, page, promise)
         self.check_metadata(row, target, tags, promise)
 
@@ -177,16 +182,27 @@ class Matrix:
         elif promise["profile"] == "matrix":
             self.expect(found in ("", profile), row, target, f"profile '{found}'")
 
-    def check_alpha(self, row, target, path, page, promise):
+    def check_alpha(self, row, target, tags, path, page, promise):
         wanted = row["has_alpha"] == "yes" and promise["alpha"] == formats.KEPT
         if page is not None:
             has = any(image["type"] == "smask" for image in page["images"])
         else:
             has = self.pixels.get(path, {}).get("alpha") in ("True", "Blend")
+        if target == "tiff":
+            # ImageMagick takes a fourth channel for transparency whatever its tag says.
+            has = bool({"1", "2"} & set(others_in(tags)))
+            self.check_others(row, path)
         # A GIF has one transparent index, which need not be used, and a palette need not say that all of it is opaque.
-        # ImageMagick takes every fourth channel for transparency.
-        if target != "gif" and "extra-channel" not in row["path"] and row["format"] not in ("GIF", "WEBP", "SVG", "PDF"):
+        if target != "gif" and row["format"] not in ("GIF", "WEBP", "SVG", "PDF"):
             self.expect(has == wanted, row, target, "transparency " + ("made up" if has else "lost"))
+
+    def check_others(self, row, path):
+        """A channel that is neither colour nor transparency is there in another TIFF file, sample for sample."""
+        source = str(self.corpus / row["path"])
+        if "0" in others_in(self.tags.get(source, {})):
+            marks = [pixels_of([each])[each]["signature"] for each in (source, path)]
+            said = others_in(self.tags.get(path, {}))
+            self.expect("0" in said and marks[0] == marks[1], row, "tiff", f"the channel beside the colours is changed or lost, {said}")
 
     def check_resolution(self, row, target, tags, page, promise):
         is_stated = row["dpi_x"] not in ("-", "0") and row["format"] not in ("PDF", "SVG")
@@ -213,13 +229,19 @@ class Matrix:
         if promise["exif"] == formats.KEPT and source.get("IFD0", {}).get("Make") and row["format"] == "JPEG":
             self.expect(tags.get("IFD0", {}).get("Make") == source["IFD0"]["Make"], row, target, "the camera is lost")
 
+    def colours_of(self, path):
+        """A signature of the colours alone where there are other channels."""
+        if others_in(self.tags.get(path, {})):
+            return run("convert", f"{path}[0]", "-alpha", "off", "-format", "%#", "info:")
+        return self.pixels.get(path, {}).get("signature")
+
     def check_signatures(self):
         """Targets without loss hold the same pixels, whoever reads them."""
         for number, row in enumerate(self.rows):
             plain = row["icc_profile"] == "-" and row["has_alpha"] == "no" and row["orientation"] in ("-", "1")
-            if row["path"] in UNREAD or not plain or "extra-channel" in row["path"] or row["bit_depth"] != "8" or row["colour_model"] not in ("rgb", "gray"):
+            if row["path"] in UNREAD or not plain or row["bit_depth"] != "8" or row["colour_model"] not in ("rgb", "gray"):
                 continue
-            marks = {self.pixels.get(str(self.path(number, target)), {}).get("signature") for target in ("png", "tiff", "bmp")}
+            marks = {self.colours_of(str(self.path(number, target))) for target in ("png", "tiff", "bmp")}
             self.expect(len(marks) == 1, row, "png, tiff and bmp", "not the same pixels")
 
 
