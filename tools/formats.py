@@ -80,7 +80,7 @@ def text():
     lines += ["", "## How near the pixels are", "", "The mean difference to what another program reads in the source, of 255, is at most this. A test converts pictures of",
               "every kind and has other programs compare them; the differences that are there come of rounding 16 bits to 8, of lossy",
               "types, and of the 256 colours of a GIF, which mixes others by dots of these: each dot is off, what is seen of them is not.",
-              "Of noise another program's JPEG is the measure, and Lab of 8 bits, which the other reader takes a step off, is held to 5.", "",
+              "Of noise another program's JPEG is the measure. What Lab of 8 bits is in sRGB is calculated by its formula.", "",
               row([NAMES[target] for target in targets]), "|---" * len(targets) + "|", row([f"{BOUNDS[target]:g}" for target in targets])]
     lines += ["", "A PDF page has the picture's size in points, so that its resolution is told by its pixels."]
     return "\n".join(lines) + "\n"

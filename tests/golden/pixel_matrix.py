@@ -7,8 +7,10 @@ take part, which ImageMagick makes; with it everything in it of moderate size, o
 """
 import re
 import shutil
+import struct
 import subprocess
 import sys
+import zlib
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
@@ -25,9 +27,6 @@ SOME = {"orientation": re.compile(r"landscape_[36]|portrait_5|exif_imagemagick|g
         "exif-real": re.compile(r"DSCN|Reagan|i18n|bug528"), "cameras": re.compile(r"Canon\.jpg|Nikon\.jpg|FLIR|rw2|mrw|cr3|crw|x3f|iiq")}
 # Neither the program nor a reader to compare with reads these, or the size by the container is another.
 UNREAD = re.compile(r"00r1_graya_la|IMG_1361|iphone-irot")
-# ImageMagick takes the two colours of Lab of 8 bits up to a step off what the format says; that ours are right to the step is held
-# elsewhere, by the formula.
-OF_LAB = 5
 MADE = {
     "grey.tif": ["-size", "60x40", "gradient:"], "rgb.tif": ["-size", "60x40", "plasma:red-blue", "-blur", "0x2", "-depth", "8"],
     "deep.tif": ["-size", "60x40", "plasma:red-blue", "-blur", "0x2", "-depth", "16"], "deep.png": ["-size", "60x40", "plasma:red-blue", "-blur", "0x2", "-depth", "16"],
@@ -97,7 +96,8 @@ class Picture:
         source = f"{self.path}[0]"
         info = run("tiffinfo", "-0", self.path).stdout if kind in (".tif", ".tiff") else ""
         if kind == ".pdf":
-            run("pdftoppm", "-r", "72", "-png", "-singlefile", self.path, self.work / "page")
+            # A chart of fine lines is off by more than 4 of 255 between poppler's two ways of smoothing edges; the other one is not ours.
+            run("pdftocairo", "-r", "72", "-png", "-singlefile", self.path, self.work / "page")
             source = self.work / "page.png"
         elif kind in (".heic", ".avif"):
             run("heif-convert", self.path, self.work / "item.png")
@@ -144,7 +144,8 @@ class Picture:
             return converted
         plain = self.work / "plain.tif"
         if self.space in ("Lab", "CIELab"):
-            run("convert", "-quiet", self.raw, "-colorspace", "sRGB", "-depth", "16", converted)
+            if not lab_by_formula(self.path, self.work, converted):
+                run("convert", "-quiet", self.raw, "-colorspace", "sRGB", "-depth", "16", converted)
         elif self.space == "CMYK" or self.has_profile:
             source = self.raw
             if self.has_alpha and self.space == "CMYK": # its colours and its transparency one by one
@@ -177,14 +178,83 @@ def readable(path, target, work, inks):
         made.unlink(missing_ok=True)
         run("opj_decompress", "-i", path, "-o", made)
         return made
-    if target == "pdf":
-        for old in work.glob("image-*"):
-            old.unlink()
-        # Its own PNG of 16 bits turns the lightest into the darkest, so that only inks come in a type that holds more than 8.
-        run("pdfimages", *(["-all"] if inks else []), path, work / "image")
+    return on_page(path, work, inks) if target == "pdf" else f"{path}[0]"
+
+
+def on_page(path, work, inks):
+    """The picture on a page, with its mask."""
+    for old in work.glob("image-*"):
+        old.unlink()
+    if inks or is_scan(path):
+        run("pdfimages", "-all", path, work / "image")
         found = sorted(work.glob("image-*"))
-        return found[0] if found else work / "none"
-    return f"{path}[0]"
+    else:
+        found = as_png_files(path, work) # poppler converts by the profile and makes 8 bits of 16
+    if len(found) == 2:
+        both = work / "image-masked.png"
+        run("convert", *found, "-alpha", "off", "-compose", "copy-opacity", "-composite", f"PNG64:{both}")
+        return both
+    return found[0] if found else work / "none"
+
+
+def is_scan(path):
+    """A JPEG file stands on the page as it was."""
+    return " jpeg " in run("pdfimages", "-list", path).stdout
+
+
+def chunk(kind, data):
+    return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+
+
+def as_png_files(path, work):
+    """The pictures in a PDF file as they stand there: rows that are filtered and compressed as in a PNG are one but for its head."""
+    data, made = path.read_bytes(), []
+    for found in re.finditer(rb"/Subtype /Image /Width (\d+) /Height (\d+) .*/Predictor 15 /Colors (\d) /BitsPerComponent (\d+) .*"
+                             rb"/Length (\d+) >>\s*stream\r?\n", data):
+        width, height, colours, bits, length = map(int, found.groups())
+        head = struct.pack(">IIBBBBB", width, height, bits, {1: 0, 3: 2}[colours], 0, 0, 0)
+        made.append(work / f"image-{len(made):03}.png")
+        made[-1].write_bytes(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", data[found.end():found.end() + length])
+                             + chunk(b"IEND", b""))
+    return made[::-1] # a mask stands in front of what it masks
+
+
+def srgb_of_lab(lightness, a, b):
+    """Three numbers of 16 bits from CIE Lab whose white is that of sRGB."""
+    middle = (lightness + 16) / 116
+    cubes = [value ** 3 if value > 6 / 29 else 3 * (6 / 29) ** 2 * (value - 4 / 29) for value in (middle + a / 500, middle, middle - b / 200)]
+    x, y, z = (cube * white for cube, white in zip(cubes, (0.95047, 1, 1.08883)))
+    linear = (3.2404542 * x - 1.5371385 * y - 0.4985314 * z, -0.9692660 * x + 1.8760108 * y + 0.0415560 * z,
+              0.0556434 * x - 0.2040259 * y + 1.0572252 * z)
+    bounded = (min(max(value, 0), 1) for value in linear)
+    return [round(65535 * (12.92 * value if value <= 0.0031308 else 1.055 * value ** (1 / 2.4) - 0.055)) for value in bounded]
+
+
+def lab_by_formula(path, work, made):
+    """The sRGB of a TIFF file in CIE Lab of 8 bits, calculated here: ImageMagick takes the two colours up to a step off. False for others."""
+    plain = work / "lab-plain.tif"
+    run("tiffcp", "-c", "none", "-p", "contig", "-r", "1000000", f"{path},0", plain)
+    said = run("exiftool", "-s3", "-n", "-f", "-ImageWidth", "-ImageHeight", "-SamplesPerPixel", "-PhotometricInterpretation", "-BitsPerSample",
+               "-StripOffsets", plain).stdout.split("\n")
+    if len(said) < 6 or said[3] != "8" or not said[4].startswith("8") or " " in said[5]:
+        return False
+    width, height, bands, start = int(said[0]), int(said[1]), int(said[2]), int(said[5])
+    samples = plain.read_bytes()[start:start + width * height * bands]
+    signed = lambda byte: byte - 256 if byte > 127 else byte
+    known, rows = {}, []
+    for row in range(height):
+        line = bytearray(1) # no filter
+        for at in range(row * width * bands, (row + 1) * width * bands, bands):
+            lab = samples[at:at + 3]
+            if lab not in known:
+                known[lab] = struct.pack(">3H", *srgb_of_lab(lab[0] / 2.55, signed(lab[1]), signed(lab[2])))
+            line += known[lab] + (bytes(2 * samples[at + 3:at + 4]) if bands > 3 else b"")
+        rows.append(line)
+    head = struct.pack(">IIBBBBB", width, height, 16, 6 if bands > 3 else 2, 0, 0, 0)
+    png = work / "lab.png"
+    png.write_bytes(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", zlib.compress(b"".join(rows), 1)) + chunk(b"IEND", b""))
+    run("convert", "-quiet", png, "-depth", "16", made)
+    return True
 
 
 def difference(one, other, ground, work):
@@ -220,13 +290,11 @@ def held(picture, target, path):
     if picture.space == "CMYK" and not picture.has_alpha and target in ("tiff", "jpeg", "pdf"):
         return of_inks((picture.raw, turn), (shown, []), picture.work), bound
     lab = picture.space in ("Lab", "CIELab")
-    if lab:
-        bound = max(bound, OF_LAB)
     if lab and target == "tiff":
         return of_inks((picture.raw, turn), (shown, []), picture.work), bound
     converted = lab or picture.space == "CMYK" or (picture.has_profile and promise["profile"] in ("srgb", "matrix"))
-    if picture.has_profile and target in ("pdf", "jp2"):
-        # A matrix profile stays in a JPEG 2000, and poppler may or may not convert: the nearer of the two is meant.
+    if picture.has_profile and target == "jp2":
+        # A matrix profile stays in a JPEG 2000: the nearer of the two is meant.
         two = [of_ground((source, turn), (shown, []), picture, promise) for source in (picture.raw, picture.in_srgb())]
         numbers = [value for value in two if isinstance(value, float)]
         return (min(numbers) if numbers else two[0]), max(bound, formats.BOUNDS["jpeg"])
@@ -235,8 +303,6 @@ def held(picture, target, path):
 
 def of_ground(one, other, picture, promise):
     grounds = ["black", "white"] if picture.has_alpha and promise["alpha"] == formats.KEPT else ["black"]
-    if promise["alpha"] == formats.KEPT and picture.has_alpha and str(other[0]).rpartition("/")[2].startswith("image-"):
-        return difference((one[0], [*one[1], "-alpha", "off"]), other, "black", picture.work) # the page's picture comes without its mask
     if promise is formats.PROMISES["gif"] and picture.has_alpha: # one colour of its table is transparent, the others are not
         one = (one[0], [*one[1], "-channel", "A", "-threshold", "50%", "+channel"])
     found = [difference(one, other, ground, picture.work) for ground in grounds]
