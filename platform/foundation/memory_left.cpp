@@ -4,6 +4,7 @@
 #include "platform/foundation/log.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 
 #include <algorithm>
@@ -114,6 +115,19 @@ qint64 leftOfAddresses(const QString &root)
     return std::max<qint64>(0, qint64(limit.rlim_cur) - pages * ::sysconf(_SC_PAGESIZE));
 }
 
+/** What a view asks for at every painting is told once a second. */
+void tell(const QString &name, const QString &sentence)
+{
+    constexpr qint64 milliseconds = 1000;
+    thread_local QString lastName;
+    thread_local QElapsedTimer since;
+    if (name == lastName && since.isValid() && !since.hasExpired(milliseconds))
+        return;
+    lastName = name;
+    since.start();
+    logLine(sentence);
+}
+
 } // namespace
 
 qint64 memoryLeft(const QString &root, qint64 addresses)
@@ -143,7 +157,7 @@ Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses)
         return {};
 #endif
     const QString sentence = memorySentence(name, all, left);
-    logLine(sentence);
+    tell(name, sentence);
     return failure(ErrorCode::TooLarge, sentence);
 }
 

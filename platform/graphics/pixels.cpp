@@ -119,7 +119,8 @@ QString takeVipsError(const vips::VError &error)
 VImage inMemory(const VImage &image)
 {
     vips_error_clear();
-    const bool isComputed = image.get_image()->dtype == VIPS_IMAGE_SETBUF;
+    const VipsImageType kind = image.get_image()->dtype;
+    const bool isComputed = kind == VIPS_IMAGE_SETBUF || kind == VIPS_IMAGE_SETBUF_FOREIGN;
     const auto left = isComputed ? Result<void>()
                                  : memoryIsLeftFor(qint64(VIPS_IMAGE_SIZEOF_IMAGE(image.get_image())),
                                                    QCoreApplication::translate("platform", "The picture"));

@@ -143,6 +143,19 @@ private Q_SLOTS:
         QCOMPARE(result, 0);
     }
 
+    void theSameIsToldOnceForManyAttempts()
+    {
+        const int lines = resultWithin(100 * mega, [] {
+            int count = 0;
+            platform::setLogSink([&count](const QString &) { ++count; });
+            for (const char *name : {"a", "a", "a", "b"})
+                if (platform::memoryIsLeftFor(200 * mega, QString::fromLatin1(name)))
+                    return 90;
+            return count;
+        });
+        QCOMPARE(lines, 2);
+    }
+
     void whatIsTooMuchIsToldInASentence()
     {
         QCOMPARE(platform::memorySentence(QStringLiteral("/a/b.png"), 3'600'000'000, 1'200'000'000),
