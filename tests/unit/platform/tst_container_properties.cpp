@@ -281,9 +281,7 @@ private Q_SLOTS:
 
     void tellsTheDepthOfWideMasks()
     {
-        const auto little = [](quint32 number) {
-            return big(qbswap(number));
-        };
+        const auto little = [](quint32 number) { return big(qbswap(number)); };
         const QByteArray bmp = "BM" + little(70) + little(0) + little(66) + little(40) + little(1) + little(1) +
                                bytes("\1\0\x20\0") + little(3) + QByteArray(20, '\0') + little(0x3ff00000) +
                                little(0xffc00) + little(0x3ff) + little(0x12345678);
