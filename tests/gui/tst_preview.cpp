@@ -244,8 +244,12 @@ void TestPreview::showsACropAtTheScaleOfTheOriginal()
     const double scale = cropFrame().shownFrame().width() / 150;
     QVERIFY(scale < 1);
     const int half = int(75 * scale);
-    QCOMPARE(at(middleOfResult() + QPoint(half - 2, 0)), QColor(Qt::blue));
-    QCOMPARE(at(middleOfResult() - QPoint(half - 2, 0)), QColor(Qt::blue));
+    // The crop begins where red ends: what resampling leaves of that two pixels on is a ripple of one step.
+    const auto isBlue = [](const QColor &color) {
+        return color.red() <= 1 && color.green() == 0 && color.blue() >= 254;
+    };
+    QVERIFY(isBlue(at(middleOfResult() + QPoint(half - 2, 0))));
+    QVERIFY(isBlue(at(middleOfResult() - QPoint(half - 2, 0))));
     QVERIFY(at(middleOfResult() + QPoint(half + 3, 0)) != QColor(Qt::blue));
     QSignalSpy shown(m_preview.get(), &ComparePreview::resultShown);
     m_preview->setCropFrame(QJSValue(QJSValue::NullValue));

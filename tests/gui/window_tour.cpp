@@ -100,7 +100,10 @@ void WindowTour::look(const QString &place, QWidget &window)
     // Layouts of hidden rows take effect in the second round.
     for (int i = 0; i < 3; ++i)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    // A label that needs more lines asks the layout round it, which asks the next one.
+    constexpr int deepest = 8;
+    for (int i = 0; i < deepest; ++i)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     m_look(place, window);
 }
 
