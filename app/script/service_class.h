@@ -86,7 +86,7 @@ struct ServiceEntry
     QByteArray module = "quorlin";
     /** new takes a dictionary of fields. */
     bool takesFields = false;
-    /** It stands for a window, a view or a control: outlets that are not of a class of their own take it. */
+    /** It stands for a window, a view or a control: outlets without a class take it. */
     bool isControl = false;
     /** Scripts can make one with new; otherwise they get such objects from operations only. */
     bool isMadeByScripts = true;

@@ -10,7 +10,7 @@ namespace window {
 struct CollectRule
 {
     QStringList extensions; ///< of the files that are taken; "*" takes every file, those in packages too
-    QStringList companions; ///< of files that may go along with a picture
+    QStringList companions; ///< of files that may accompany a picture
     QStringList listed; ///< of all files that come into the list, if another action takes them; empty for those taken
 };
 
