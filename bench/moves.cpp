@@ -1,11 +1,11 @@
 // moves FOLDER COUNT: plans and carries out a run that turns COUNT new files of FOLDER over, takes it back, and prints how long it
 // took in milliseconds. FOLDER must be empty.
 
-#include "files/move_plan.h"
-#include "files/move_run.h"
-#include "files/move_undo.h"
+#include "files/moving/move_run.h"
+#include "files/moving/move_undo.h"
+#include "files/planning/move_plan.h"
 
-#include "platform/desktop/disk_file_system.h"
+#include "platform/disk/disk_file_system.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -1,6 +1,6 @@
 // walk FOLDER: collects the pictures below a folder as the "sortDir" action does, without a panel, and prints their number.
 
-#include "files/input_collection.h"
+#include "files/items/input_collection.h"
 
 #include <QFile>
 

@@ -1,4 +1,4 @@
-# quorlin_tests(program LABELS ... FOLDER ... LINKS ... DEFINITIONS ...): all QTest files tst_*.cpp of a folder, each known to
+# quorlin_tests(program LABELS ... FOLDER ... LINKS ... DEFINITIONS ...): all QTest files tst_*.cpp below a folder, each known to
 # ctest under the name of its file. They share one program, which does the test under whose name it is called (see
 # tests/support/test_program.h); a file with a main of its own (QTEST_MAIN and its kin) is a program of its own. A file that
 # asks whether the run is a slow one has a second entry, NAME-slow, with the label slow, in which it does all it can.
@@ -68,7 +68,7 @@ endfunction()
 
 function(quorlin_tests program)
   cmake_parse_arguments(arg "" "FOLDER" "LABELS;LINKS;DEFINITIONS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${arg_FOLDER}/tst_*.cpp)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${arg_FOLDER}/tst_*.cpp)
   set(shared)
   foreach(source ${sources})
     get_filename_component(name ${source} NAME_WE)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/foundation/property_value.h"
 #include "platform/foundation/sender.h"
 #include "platform/graphics/picture.h"
+#include "platform/plist/property_value.h"
 
 #include <QObject>
 #include <QPointer>

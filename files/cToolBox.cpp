@@ -1,10 +1,10 @@
 #include "files/cToolBox.h"
 
-#include "files/input_collection.h"
-#include "files/rename_by_location.h"
-#include "files/staging.h"
+#include "files/items/input_collection.h"
+#include "files/items/rename_by_location.h"
+#include "files/items/staging.h"
 
-#include "platform/desktop/panels.h"
+#include "platform/controls/panels.h"
 #include "platform/desktop/workspace.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/save_panel.h"
+#include "platform/controls/save_panel.h"
 #include "platform/foundation/sender.h"
 
 #include <QObject>

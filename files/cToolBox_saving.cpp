@@ -1,14 +1,14 @@
 #include "files/cToolBox.h"
 
-#include "files/convert_type.h"
-#include "files/saving.h"
-#include "files/text_files.h"
+#include "files/items/convert_type.h"
+#include "files/items/saving.h"
+#include "files/items/text_files.h"
 
-#include "platform/desktop/controls.h"
-#include "platform/desktop/save_panel.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/save_panel.h"
 #include "platform/desktop/tags.h"
 #include "platform/desktop/user_defaults.h"
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 #include "platform/foundation/paths.h"
 #include "platform/foundation/utf8.h"
 

@@ -4,7 +4,7 @@
 
 #include "image/output.h"
 #include "image/overlay.h"
-#include "platform/desktop/controls.h"
+#include "platform/controls/controls.h"
 #include "platform/foundation/paths.h"
 #include "platform/foundation/type_identifiers.h"
 

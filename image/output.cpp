@@ -1,6 +1,6 @@
 #include "image/output.h"
 
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 #include "platform/foundation/log.h"
 #include "platform/foundation/paths.h"
 

@@ -3,7 +3,7 @@
 #include "files/cToolBox.h"
 #include "meta/edit_log.h"
 #include "meta/mMeta.h"
-#include "platform/desktop/controls.h"
+#include "platform/controls/controls.h"
 
 cEditMetaData::cEditMetaData(QObject *parent) : QObject(parent) {}
 

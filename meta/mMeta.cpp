@@ -3,7 +3,7 @@
 #include "meta/edit_log.h"
 #include "meta/property_tree.h"
 
-#include "platform/desktop/controls.h"
+#include "platform/controls/controls.h"
 #include "platform/desktop/strings_tables.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/user_comment_writer.h"

@@ -1,6 +1,6 @@
 #include "presets/dbViewController.h"
 
-#include "platform/foundation/folders.h"
+#include "platform/disk/folders.h"
 #include "platform/foundation/log.h"
 #include "platform/foundation/raised.h"
 #include "presets/layout.h"

@@ -1,6 +1,6 @@
 #include "presets/unusable_database.h"
 
-#include "platform/foundation/folders.h"
+#include "platform/disk/folders.h"
 
 #include <QFile>
 #include <QFileInfo>

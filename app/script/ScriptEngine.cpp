@@ -1,13 +1,13 @@
 #include "app/script/ScriptEngine.h"
 
-#include "app/configuration.h"
 #include "app/script/defaults_module.h"
-#include "app/script/facade.h"
-#include "app/script/host_call.h"
 #include "app/script/import_place.h"
 #include "app/script/no_network.h"
 #include "app/script/panels_module.h"
-#include "app/script/seam.h"
+#include "app/seam/facade.h"
+#include "app/seam/host_call.h"
+#include "app/seam/seam.h"
+#include "app/setup/configuration.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>

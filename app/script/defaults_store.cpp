@@ -1,7 +1,7 @@
 #include "app/script/defaults_store.h"
 
 #include "app/script/ScriptEngine.h"
-#include "app/script/seam.h"
+#include "app/seam/seam.h"
 
 #include "platform/desktop/user_defaults.h"
 #include "platform/foundation/raised.h"

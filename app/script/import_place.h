@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/script/seam.h"
+#include "app/seam/seam.h"
 
 namespace script {
 

@@ -1,9 +1,9 @@
 #include "app/script/panel_queue.h"
 
 #include "app/script/ScriptEngine.h"
-#include "app/script/seam.h"
+#include "app/seam/seam.h"
 
-#include "platform/desktop/save_panel.h"
+#include "platform/controls/save_panel.h"
 #include "platform/foundation/raised.h"
 
 #include <QQmlEngine>

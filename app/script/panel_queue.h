@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/panels.h"
+#include "platform/controls/panels.h"
 
 #include <QJSValue>
 #include <QObject>

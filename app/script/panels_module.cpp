@@ -2,7 +2,7 @@
 
 #include "app/script/ScriptEngine.h"
 #include "app/script/panel_queue.h"
-#include "app/script/seam.h"
+#include "app/seam/seam.h"
 
 #include <QQmlEngine>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/script/service_class.h"
+#include "app/seam/service_class.h"
 
 namespace script {
 

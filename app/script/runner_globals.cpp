@@ -2,7 +2,7 @@
 
 #include "app/script/ScriptEngine.h"
 #include "app/script/process_exit.h"
-#include "app/script/seam.h"
+#include "app/seam/seam.h"
 
 #include "platform/foundation/raised.h"
 

@@ -6,9 +6,9 @@
 #include "app/window/picture_collector.h"
 #include "app/window/staging.h"
 
-#include "platform/foundation/atomic_file.h"
-#include "platform/foundation/item_identity.h"
-#include "platform/foundation/regular_file.h"
+#include "platform/disk/item_identity.h"
+#include "platform/file/atomic_file.h"
+#include "platform/file/regular_file.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/jpeg_header.h"
 #include "platform/imageio/orientation_mark.h"

@@ -2,7 +2,7 @@
 
 #include "app/window/formats.h"
 
-#include "platform/foundation/item_facts.h"
+#include "platform/disk/item_facts.h"
 #include "platform/imageio/picture_facts.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "app/window/line_file.h"
 
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 
 #include <QFile>
 #include <QFileInfo>

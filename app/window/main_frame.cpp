@@ -1,7 +1,7 @@
 #include "app/window/main_frame.h"
 
-#include "platform/desktop/menu_bar.h"
-#include "platform/desktop/screens.h"
+#include "platform/controls/menu_bar.h"
+#include "platform/controls/screens.h"
 
 #include <QAction>
 #include <QMenuBar>

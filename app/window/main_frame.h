@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/WindowBackend.h"
+#include "app/services/WindowBackend.h"
 
 #include <QMainWindow>
 #include <QPointer>

@@ -1,10 +1,10 @@
 #include "app/window/move_desk.h"
 
-#include "files/move_recovery.h"
-#include "files/move_undo.h"
+#include "files/moving/move_recovery.h"
+#include "files/moving/move_undo.h"
 
-#include "platform/foundation/folders.h"
-#include "platform/foundation/hidden_item.h"
+#include "platform/disk/folders.h"
+#include "platform/disk/hidden_item.h"
 #include "platform/foundation/paths.h"
 
 #include <algorithm>

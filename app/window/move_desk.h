@@ -1,10 +1,10 @@
 #pragma once
 
-#include "files/journal_shelf.h"
-#include "files/move_plan.h"
-#include "files/move_run.h"
+#include "files/moving/journal_shelf.h"
+#include "files/moving/move_run.h"
+#include "files/planning/move_plan.h"
 
-#include "platform/desktop/disk_file_system.h"
+#include "platform/disk/disk_file_system.h"
 
 #include <QObject>
 #include <QVariant>

@@ -1,6 +1,6 @@
 #include "app/window/picture_collector.h"
 
-#include "platform/foundation/folder_walk.h"
+#include "platform/disk/folder_walk.h"
 
 #include <QCollator>
 #include <QFile>

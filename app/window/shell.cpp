@@ -1,13 +1,13 @@
 #include "app/window/shell.h"
 
-#include "app/window/compare_preview.h"
-#include "app/window/drop_target.h"
+#include "app/script/job_driver.h"
 #include "app/window/file_manager.h"
-#include "app/window/job_driver.h"
-#include "app/window/sheet_host.h"
-#include "app/window/ui_form.h"
+#include "app/window/forms/sheet_host.h"
+#include "app/window/forms/ui_form.h"
+#include "app/window/pictures/drop_target.h"
+#include "app/window/preview/compare_preview.h"
 
-#include "platform/desktop/panels.h"
+#include "platform/controls/panels.h"
 #include "platform/desktop/user_defaults.h"
 
 #include <QAbstractButton>

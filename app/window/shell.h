@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/ZtFFullScreen.h"
+#include "app/services/ZtFFullScreen.h"
+#include "app/window/forms/ui_form.h"
+#include "app/window/look/theme.h"
 #include "app/window/main_frame.h"
-#include "app/window/theme.h"
-#include "app/window/ui_form.h"
 
 #include <QJSValue>
 #include <QObject>

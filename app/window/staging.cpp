@@ -1,9 +1,9 @@
 #include "app/window/staging.h"
 
-#include "platform/foundation/folders.h"
-#include "platform/foundation/item_identity.h"
+#include "platform/disk/folders.h"
+#include "platform/disk/item_identity.h"
+#include "platform/file/sign_of_life.h"
 #include "platform/foundation/paths.h"
-#include "platform/foundation/sign_of_life.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>

@@ -1,7 +1,7 @@
 #include "platform/desktop/custom_icon.h"
 
-#include "platform/foundation/atomic_file.h"
-#include "platform/foundation/folders.h"
+#include "platform/disk/folders.h"
+#include "platform/file/atomic_file.h"
 #include "platform/foundation/paths.h"
 #include "platform/imageio/image_destination.h"
 

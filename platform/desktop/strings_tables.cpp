@@ -1,7 +1,7 @@
 #include "platform/desktop/strings_tables.h"
 
-#include "platform/foundation/atomic_file.h"
-#include "platform/foundation/folders.h"
+#include "platform/disk/folders.h"
+#include "platform/file/atomic_file.h"
 
 #include <QHash>
 #include <QJsonDocument>

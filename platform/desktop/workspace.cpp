@@ -1,6 +1,6 @@
 #include "platform/desktop/workspace.h"
 
-#include "platform/foundation/folders.h"
+#include "platform/disk/folders.h"
 #include "platform/foundation/type_identifiers.h"
 
 #include <QDesktopServices>

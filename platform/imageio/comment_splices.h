@@ -2,7 +2,7 @@
 
 // Inside platform/ only: what has to change in each kind of file for it to have another EXIF user comment.
 
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 #include "platform/imageio/content.h"
 
 #include <QFile>

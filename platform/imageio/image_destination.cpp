@@ -1,6 +1,6 @@
 #include "platform/imageio/image_destination.h"
 
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/imageio/encoders.h"
 #include "platform/imageio/jp2_profile.h"

@@ -1,6 +1,6 @@
 // A JPEG goes into an uncompressed file row by row, since that costs half of decoding it into memory and encoding that.
 
-#include "platform/foundation/replacement_file.h"
+#include "platform/file/replacement_file.h"
 #include "platform/graphics/icc_profile.h"
 #include "platform/imageio/encoders.h"
 #include "platform/imageio/jpeg_rows.h"

@@ -1,6 +1,6 @@
 #include "platform/imageio/loaders.h"
 
-#include "platform/foundation/regular_file.h"
+#include "platform/file/regular_file.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/bmp_header.h"
 #include "platform/imageio/bmp_pixels.h"

@@ -1,4 +1,4 @@
-#include "platform/foundation/regular_file.h"
+#include "platform/file/regular_file.h"
 #include "platform/imageio/opened_file.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "platform/imageio/orientation_mark.h"
 
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 #include "platform/imageio/exif_in_place.h"
 #include "platform/imageio/jpeg_segments.h"
 #include "platform/imageio/tiff_reader.h"

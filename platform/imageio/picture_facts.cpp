@@ -1,6 +1,6 @@
 #include "platform/imageio/picture_facts.h"
 
-#include "platform/foundation/regular_file.h"
+#include "platform/file/regular_file.h"
 #include "platform/imageio/content.h"
 #include "platform/imageio/exif_tags.h"
 #include "platform/imageio/image_source.h"

@@ -2,7 +2,7 @@
 
 // Inside platform/ only.
 
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 
 #include <QByteArray>
 #include <QString>

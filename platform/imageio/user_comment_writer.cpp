@@ -1,6 +1,6 @@
 #include "platform/imageio/user_comment_writer.h"
 
-#include "platform/foundation/regular_file.h"
+#include "platform/file/regular_file.h"
 #include "platform/imageio/comment_splices.h"
 #include "platform/imageio/image_source.h"
 

@@ -1,6 +1,6 @@
 #include "platform/imageio/whole_picture.h"
 
-#include "platform/foundation/regular_file.h"
+#include "platform/file/regular_file.h"
 #include "platform/imageio/block_reader.h"
 #include "platform/imageio/bmp_header.h"
 #include "platform/imageio/raw_preview.h"

@@ -1,5 +1,5 @@
 // The writer of the comment on any bytes at all: it must leave each file as it was, or one that can be written to again.
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 #include "platform/imageio/tiff_comment.h"
 #include "platform/imageio/tiff_tree.h"
 #include "platform/imageio/user_comment_writer.h"

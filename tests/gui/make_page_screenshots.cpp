@@ -1,10 +1,10 @@
 // make_page_screenshots SAMPLES FOLDER: pictures of the pages that own the centre of the window, light and dark, in two sizes.
 
-#include "screen_tools.h"
+#include "tests/gui/support/screen_tools.h"
 
-#include "app/window/log_table.h"
-#include "app/window/run_list.h"
-#include "app/window/segmented_control.h"
+#include "app/window/controls/segmented_control.h"
+#include "app/window/log/log_table.h"
+#include "app/window/log/run_list.h"
 #include "meta/mMeta.h"
 
 #include "platform/desktop/user_defaults.h"

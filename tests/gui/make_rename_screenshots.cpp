@@ -1,6 +1,6 @@
 // make_rename_screenshots SAMPLES FOLDER: pictures of the main window with the Rename action, light and dark, in two sizes.
 
-#include "screen_tools.h"
+#include "tests/gui/support/screen_tools.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,10 +1,10 @@
 // make_screenshots SAMPLES FOLDER: pictures of the main window with each action, light and dark, in two sizes.
 
-#include "screen_tools.h"
+#include "tests/gui/support/screen_tools.h"
 
-#include "app/window/folder_tree.h"
-#include "app/window/side_bar.h"
-#include "app/window/theme.h"
+#include "app/window/folders/folder_tree.h"
+#include "app/window/folders/side_bar.h"
+#include "app/window/look/theme.h"
 #include "tests/support/web_server.h"
 
 #include "tests/support/dated_pictures.h"

@@ -1,7 +1,7 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/compare_preview.h"
+#include "app/window/preview/compare_preview.h"
 #include "platform/imageio/image_source.h"
 
 #include "tests/support/corpus.h"

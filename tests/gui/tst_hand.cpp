@@ -1,13 +1,13 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/compare_preview.h"
+#include "app/window/controls/segmented_control.h"
 #include "app/window/file_facts.h"
-#include "app/window/log_table.h"
-#include "app/window/run_list.h"
-#include "app/window/segmented_control.h"
-#include "app/window/side_bar.h"
-#include "app/window/slot_list.h"
+#include "app/window/folders/side_bar.h"
+#include "app/window/log/log_table.h"
+#include "app/window/log/run_list.h"
+#include "app/window/preview/compare_preview.h"
+#include "app/window/slots/slot_list.h"
 
 #include "platform/desktop/user_defaults.h"
 

@@ -1,7 +1,7 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/download.h"
+#include "app/network/download.h"
 #include "app/script/ScriptEngine.h"
 #include "platform/desktop/user_defaults.h"
 #include "tests/support/test_pictures.h"

@@ -1,7 +1,7 @@
 #include "app/script/ScriptEngine.h"
+#include "app/window/forms/ui_form.h"
 #include "app/window/shell.h"
 #include "app/window/start_up.h"
-#include "app/window/ui_form.h"
 #include "tests/support/test_program.h"
 
 #include <QDirIterator>

@@ -1,7 +1,7 @@
-#include "fit_walk.h"
+#include "tests/gui/support/fit_walk.h"
+#include "tests/gui/support/text_walk.h"
+#include "tests/gui/support/window_tour.h"
 #include "tests/support/test_program.h"
-#include "text_walk.h"
-#include "window_tour.h"
 
 #include "platform/desktop/user_defaults.h"
 #include "tests/support/pseudo_texts.h"

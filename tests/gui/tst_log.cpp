@@ -1,9 +1,9 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/compare_preview.h"
-#include "app/window/log_table.h"
-#include "app/window/run_list.h"
+#include "app/window/log/log_table.h"
+#include "app/window/log/run_list.h"
+#include "app/window/preview/compare_preview.h"
 
 #include <QApplication>
 #include <QClipboard>

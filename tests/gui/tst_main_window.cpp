@@ -1,11 +1,11 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/side_bar.h"
+#include "app/window/folders/side_bar.h"
 
-#include "platform/desktop/menu_bar.h"
-#include "platform/desktop/panels.h"
-#include "platform/desktop/screens.h"
+#include "platform/controls/menu_bar.h"
+#include "platform/controls/panels.h"
+#include "platform/controls/screens.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/imageio/image_source.h"
 #include "tests/support/own_settings.h"

@@ -1,8 +1,8 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/manual_view.h"
-#include "app/window/page_list.h"
+#include "app/window/controls/page_list.h"
+#include "app/window/manual/manual_view.h"
 #include "tests/support/pseudo_texts.h"
 #include "tests/support/test_pictures.h"
 

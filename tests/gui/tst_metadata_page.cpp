@@ -1,15 +1,15 @@
-#include "app/window/log_table.h"
-#include "app/window/property_tree.h"
-#include "app/window/run_list.h"
-#include "app/window/segmented_control.h"
+#include "app/window/controls/segmented_control.h"
+#include "app/window/log/log_table.h"
+#include "app/window/log/run_list.h"
+#include "app/window/properties/property_tree.h"
 #include "meta/mMeta.h"
 #include "platform/imageio/metadata.h"
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/corpus.h"
 #include "tests/support/made_tiff.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
 #include <QCheckBox>
 #include <QClipboard>

@@ -1,14 +1,14 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
+#include "app/window/controls/segmented_control.h"
 #include "app/window/file_facts.h"
-#include "app/window/segmented_control.h"
 
-#include "files/journal_shelf.h"
-#include "files/move_run.h"
+#include "files/moving/journal_shelf.h"
+#include "files/moving/move_run.h"
 
-#include "platform/desktop/disk_file_system.h"
 #include "platform/desktop/user_defaults.h"
+#include "platform/disk/disk_file_system.h"
 
 #include <QApplication>
 #include <QDir>

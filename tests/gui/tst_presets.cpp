@@ -1,8 +1,8 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/position_pad.h"
-#include "app/window/segmented_control.h"
+#include "app/window/controls/position_pad.h"
+#include "app/window/controls/segmented_control.h"
 
 #include "platform/desktop/user_defaults.h"
 

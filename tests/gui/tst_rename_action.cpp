@@ -1,9 +1,9 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/card_handle.h"
-#include "app/window/run_list.h"
-#include "app/window/segmented_control.h"
+#include "app/window/controls/card_handle.h"
+#include "app/window/controls/segmented_control.h"
+#include "app/window/log/run_list.h"
 
 #include <QApplication>
 #include <QCheckBox>

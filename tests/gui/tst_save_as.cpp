@@ -1,8 +1,8 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/compare_preview.h"
-#include "app/window/save_dialog.h"
+#include "app/window/panels/save_dialog.h"
+#include "app/window/preview/compare_preview.h"
 #include "platform/desktop/tags.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/imageio/image_source.h"

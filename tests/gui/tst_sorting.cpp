@@ -1,8 +1,8 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/folder_tree.h"
-#include "app/window/segmented_control.h"
+#include "app/window/controls/segmented_control.h"
+#include "app/window/folders/folder_tree.h"
 
 #include "tests/support/dated_pictures.h"
 #include "tests/support/test_pictures.h"

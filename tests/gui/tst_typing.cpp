@@ -1,7 +1,7 @@
+#include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
-#include "window_driver.h"
 
-#include "app/window/segmented_control.h"
+#include "app/window/controls/segmented_control.h"
 
 #include <QApplication>
 #include <QComboBox>

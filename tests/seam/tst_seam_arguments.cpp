@@ -1,4 +1,4 @@
-#include "ScriptRun.h"
+#include "tests/seam/support/ScriptRun.h"
 #include "tests/support/test_program.h"
 
 #include <QTest>

@@ -1,6 +1,6 @@
-#include "ScriptRun.h"
 #include "platform/desktop/settings_text.h"
 #include "platform/desktop/user_defaults.h"
+#include "tests/seam/support/ScriptRun.h"
 #include "tests/support/test_program.h"
 
 #include <QFile>

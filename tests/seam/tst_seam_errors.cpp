@@ -1,6 +1,6 @@
-#include "EchoService.h"
-#include "ScriptRun.h"
-#include "app/script/seam.h"
+#include "app/seam/seam.h"
+#include "tests/seam/support/EchoService.h"
+#include "tests/seam/support/ScriptRun.h"
 #include "tests/support/test_program.h"
 
 #include <QQmlEngine>

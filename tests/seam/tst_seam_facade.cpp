@@ -1,5 +1,5 @@
-#include "EchoService.h"
-#include "ScriptRun.h"
+#include "tests/seam/support/EchoService.h"
+#include "tests/seam/support/ScriptRun.h"
 #include "tests/support/test_program.h"
 
 #include <QQmlEngine>

@@ -1,4 +1,4 @@
-#include "ScriptRun.h"
+#include "tests/seam/support/ScriptRun.h"
 
 #include "platform/graphics/picture.h"
 #include "tests/support/test_pictures.h"

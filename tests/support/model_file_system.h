@@ -1,9 +1,9 @@
 #pragma once
 
-#include "files/journal_shelf.h"
-#include "files/move_names.h"
+#include "files/moving/journal_shelf.h"
+#include "files/planning/move_names.h"
 
-#include "platform/foundation/file_system.h"
+#include "platform/disk/file_system.h"
 #include "platform/foundation/paths.h"
 
 #include <QDateTime>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "files/move_plan.h"
-#include "files/move_run.h"
+#include "files/moving/move_run.h"
+#include "files/planning/move_plan.h"
 #include "tests/support/model_file_system.h"
 
 #include <QRandomGenerator>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/stand_ins.h"
+#include "platform/controls/stand_ins.h"
 
 #include <QVariant>
 

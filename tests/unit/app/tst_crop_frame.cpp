@@ -1,4 +1,4 @@
-#include "app/window/crop_frame.h"
+#include "app/window/preview/crop_frame.h"
 #include "tests/support/test_program.h"
 
 #include <QRandomGenerator>

@@ -1,4 +1,4 @@
-#include "app/download.h"
+#include "app/network/download.h"
 
 #include "tests/support/test_program.h"
 #include "tests/support/web_server.h"

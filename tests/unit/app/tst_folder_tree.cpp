@@ -1,4 +1,4 @@
-#include "app/window/folder_tree.h"
+#include "app/window/folders/folder_tree.h"
 #include "tests/support/test_program.h"
 
 #include <QElapsedTimer>

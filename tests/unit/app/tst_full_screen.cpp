@@ -1,6 +1,6 @@
-#include "app/ZtFFullScreen.h"
-#include "platform/desktop/menu_bar.h"
-#include "platform/desktop/screens.h"
+#include "app/services/ZtFFullScreen.h"
+#include "platform/controls/menu_bar.h"
+#include "platform/controls/screens.h"
 #include "tests/support/test_program.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "app/window/interface_texts.h"
+#include "app/window/look/interface_texts.h"
 
 #include "app/script/ScriptEngine.h"
 #include "app/window/formats.h"

@@ -1,8 +1,8 @@
-#include "app/cPrint.h"
-#include "app/print_job.h"
-#include "app/print_settings.h"
+#include "app/printing/print_job.h"
+#include "app/printing/print_settings.h"
+#include "app/services/cPrint.h"
 
-#include "platform/desktop/panels.h"
+#include "platform/controls/panels.h"
 #include "platform/graphics/picture.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"

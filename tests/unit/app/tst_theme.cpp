@@ -1,6 +1,6 @@
-#include "app/window/interface_folder.h"
-#include "app/window/theme.h"
-#include "app/window/ui_form.h"
+#include "app/setup/interface_folder.h"
+#include "app/window/forms/ui_form.h"
+#include "app/window/look/theme.h"
 #include "tests/support/test_program.h"
 
 #include <QCheckBox>

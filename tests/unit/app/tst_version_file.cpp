@@ -1,4 +1,4 @@
-#include "app/version_file.h"
+#include "app/network/version_file.h"
 
 #include "platform/foundation/raised.h"
 #include "tests/support/test_program.h"

@@ -1,7 +1,7 @@
-#include "app/window/color_well.h"
-#include "app/window/position_pad.h"
-#include "app/window/segmented_control.h"
-#include "app/window/widget_controls.h"
+#include "app/window/controls/color_well.h"
+#include "app/window/controls/position_pad.h"
+#include "app/window/controls/segmented_control.h"
+#include "app/window/forms/widget_controls.h"
 #include "tests/support/test_program.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
-#include "app/MyObjectControler.h"
-#include "app/ZtFFullScreen.h"
-#include "app/mainViewController.h"
-#include "app/mainWindowClass.h"
+#include "app/services/MyObjectControler.h"
+#include "app/services/ZtFFullScreen.h"
+#include "app/services/mainViewController.h"
+#include "app/services/mainWindowClass.h"
 #include "tests/support/test_program.h"
 
 #include <QTest>

@@ -1,5 +1,5 @@
 #include "files/cNSFileHandling.h"
-#include "files/convert_type.h"
+#include "files/items/convert_type.h"
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
 #include "tests/support/corpus.h"

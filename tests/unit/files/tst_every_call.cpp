@@ -1,15 +1,15 @@
 #include "tests/support/every_call.h"
 
-#include "files/move_recovery.h"
-#include "files/move_undo.h"
-#include "files/placing.h"
+#include "files/items/placing.h"
+#include "files/moving/move_recovery.h"
+#include "files/moving/move_undo.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 
-#include "platform/desktop/disk_file_system.h"
-#include "platform/desktop/trash.h"
-#include "platform/foundation/folders.h"
-#include "platform/foundation/hidden_item.h"
+#include "platform/disk/disk_file_system.h"
+#include "platform/disk/folders.h"
+#include "platform/disk/hidden_item.h"
+#include "platform/disk/trash.h"
 
 #include <QDirIterator>
 #include <QTest>

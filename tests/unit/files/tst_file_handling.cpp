@@ -1,5 +1,5 @@
 #include "files/cNSFileHandling.h"
-#include "platform/desktop/stand_ins.h"
+#include "platform/controls/stand_ins.h"
 #include "platform/foundation/raised.h"
 #include "tests/support/corpus_names.h"
 #include "tests/support/scratch_folder.h"

@@ -1,5 +1,5 @@
 #include "files/cToolBox.h"
-#include "files/input_collection.h"
+#include "files/items/input_collection.h"
 #include "tests/support/test_program.h"
 
 #include <QDir>

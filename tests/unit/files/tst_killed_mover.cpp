@@ -1,9 +1,9 @@
-#include "files/move_paths.h"
-#include "files/move_recovery.h"
-#include "files/move_undo.h"
+#include "files/moving/move_paths.h"
+#include "files/moving/move_recovery.h"
+#include "files/moving/move_undo.h"
 #include "tests/support/scratch_folder.h"
 
-#include "platform/desktop/disk_file_system.h"
+#include "platform/disk/disk_file_system.h"
 #include "tests/support/test_program.h"
 
 #include <QDirIterator>

@@ -1,4 +1,4 @@
-#include "files/make_folder.h"
+#include "files/items/make_folder.h"
 #include "tests/support/test_program.h"
 
 #include <QDir>

@@ -1,10 +1,10 @@
-#include "files/move_recovery.h"
-#include "files/move_undo.h"
+#include "files/moving/move_recovery.h"
+#include "files/moving/move_undo.h"
 #include "tests/support/move_world.h"
 #include "tests/support/scratch_folder.h"
 
-#include "platform/desktop/disk_file_system.h"
-#include "platform/foundation/folders.h"
+#include "platform/disk/disk_file_system.h"
+#include "platform/disk/folders.h"
 #include "tests/support/test_program.h"
 
 #include <QDirIterator>

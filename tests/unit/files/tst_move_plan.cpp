@@ -1,4 +1,4 @@
-#include "files/move_plan.h"
+#include "files/planning/move_plan.h"
 #include "tests/support/model_file_system.h"
 #include "tests/support/test_program.h"
 

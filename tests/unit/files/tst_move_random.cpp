@@ -1,6 +1,6 @@
-#include "files/move_paths.h"
-#include "files/move_recovery.h"
-#include "files/move_undo.h"
+#include "files/moving/move_paths.h"
+#include "files/moving/move_recovery.h"
+#include "files/moving/move_undo.h"
 #include "tests/support/move_world.h"
 #include "tests/support/test_program.h"
 

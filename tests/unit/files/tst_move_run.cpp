@@ -1,5 +1,5 @@
-#include "files/move_recovery.h"
-#include "files/move_undo.h"
+#include "files/moving/move_recovery.h"
+#include "files/moving/move_undo.h"
 #include "tests/support/model_file_system.h"
 #include "tests/support/test_program.h"
 

@@ -1,5 +1,5 @@
-#include "files/placing.h"
-#include "files/rename_by_location.h"
+#include "files/items/placing.h"
+#include "files/items/rename_by_location.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 

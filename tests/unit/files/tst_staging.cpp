@@ -1,6 +1,6 @@
 #include "files/cToolBox.h"
-#include "files/staging.h"
-#include "platform/desktop/panels.h"
+#include "files/items/staging.h"
+#include "platform/controls/panels.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/desktop/workspace.h"
 #include "tests/support/scratch_folder.h"

@@ -1,5 +1,5 @@
-#include "files/text_files.h"
-#include "platform/foundation/atomic_file.h"
+#include "files/items/text_files.h"
+#include "platform/file/atomic_file.h"
 #include "tests/support/test_program.h"
 
 #include <QDir>

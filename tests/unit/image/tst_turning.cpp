@@ -1,5 +1,5 @@
 #include "image/ZtImageHandling.h"
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 #include "platform/foundation/type_identifiers.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/log_capture.h"

@@ -1,5 +1,5 @@
-#include "platform/foundation/atomic_file.h"
-#include "platform/foundation/sign_of_life.h"
+#include "platform/file/atomic_file.h"
+#include "platform/file/sign_of_life.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 

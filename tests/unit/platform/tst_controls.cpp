@@ -1,5 +1,5 @@
-#include "platform/desktop/controls.h"
-#include "platform/desktop/stand_ins.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/stand_ins.h"
 #include "tests/support/test_program.h"
 
 #include <QTest>

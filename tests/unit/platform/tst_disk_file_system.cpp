@@ -1,6 +1,6 @@
-#include "platform/desktop/disk_file_system.h"
-#include "platform/foundation/folders.h"
-#include "platform/foundation/held_file.h"
+#include "platform/disk/disk_file_system.h"
+#include "platform/disk/folders.h"
+#include "platform/file/held_file.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 

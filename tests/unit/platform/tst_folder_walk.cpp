@@ -1,4 +1,4 @@
-#include "platform/foundation/folder_walk.h"
+#include "platform/disk/folder_walk.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 

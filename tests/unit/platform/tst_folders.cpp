@@ -1,4 +1,4 @@
-#include "platform/foundation/folders.h"
+#include "platform/disk/folders.h"
 #include "tests/support/test_program.h"
 
 #include <QDateTime>

@@ -1,4 +1,4 @@
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 #include "platform/imageio/image_destination.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/metadata.h"

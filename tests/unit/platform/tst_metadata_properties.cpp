@@ -1,4 +1,4 @@
-#include "platform/foundation/atomic_file.h"
+#include "platform/file/atomic_file.h"
 #include "platform/imageio/metadata.h"
 #include "tests/support/corpus.h"
 #include "tests/support/same_tags.h"

@@ -1,6 +1,6 @@
-#include "platform/foundation/folders.h"
-#include "platform/foundation/hidden_item.h"
-#include "platform/foundation/living_process.h"
+#include "platform/disk/folders.h"
+#include "platform/disk/hidden_item.h"
+#include "platform/file/living_process.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 

@@ -1,5 +1,5 @@
-#include "platform/foundation/plist.h"
-#include "platform/foundation/plist_check.h"
+#include "platform/plist/plist.h"
+#include "platform/plist/plist_check.h"
 #include "tests/support/test_program.h"
 
 #include "tests/support/corpus.h"

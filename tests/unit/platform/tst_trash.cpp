@@ -1,4 +1,4 @@
-#include "platform/desktop/trash.h"
+#include "platform/disk/trash.h"
 #include "tests/support/corpus_names.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"

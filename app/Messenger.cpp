@@ -1,8 +1,0 @@
-#include "app/Messenger.h"
-
-#include "platform/desktop/strings_tables.h"
-
-QString Messenger::getLangStr(const QString &key, const QString &defaultValue, const QString &table) const
-{
-    return platform::localizedText(key, defaultValue, table);
-}

@@ -1,3 +1,0 @@
-#include "app/mainWindowClass.h"
-
-void mainWindowClass::windowDidLoad() {}

@@ -1,0 +1,143 @@
+#include "app/script/job_driver.h"
+
+#include <QElapsedTimer>
+#include <QJSEngine>
+#include <QLoggingCategory>
+
+#include <utility>
+
+namespace window {
+
+namespace {
+
+constexpr int sliceMs = 10;
+
+void reportError(const QJSValue &error)
+{
+    qWarning("%s:%d: %s", qUtf8Printable(error.property(QStringLiteral("fileName")).toString()),
+             error.property(QStringLiteral("lineNumber")).toInt(), qUtf8Printable(error.toString()));
+}
+
+QJSValue call(const QJSValue &function, const QJSValueList &arguments)
+{
+    if (!function.isCallable())
+        return {};
+    const QJSValue result = function.call(arguments);
+    if (result.isError())
+        reportError(result);
+    return result;
+}
+
+} // namespace
+
+JobDriver::JobDriver(QObject *parent) : QObject(parent)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &JobDriver::slice);
+}
+
+void JobDriver::start(const QJSValue &generator, const QJSValue &onStep, const QJSValue &onEnd)
+{
+    if (!generator.property(QStringLiteral("next")).isCallable()) {
+        if (QJSEngine *engine = qjsEngine(this))
+            engine->throwError(QJSValue::TypeError, QStringLiteral("A job is started with a generator"));
+        return;
+    }
+    if (isRunning())
+        cancel();
+    m_generator = generator;
+    m_onStep = onStep;
+    m_onEnd = onEnd;
+    m_paused = false;
+    m_cancelWanted = false;
+    m_timer.start(0);
+}
+
+void JobDriver::pause()
+{
+    m_paused = true;
+    m_timer.stop();
+}
+
+void JobDriver::resume()
+{
+    m_paused = false;
+    if (isRunning())
+        m_timer.start(0);
+}
+
+void JobDriver::cancel()
+{
+    if (!isRunning())
+        return;
+    if (m_inStep) {
+        m_cancelWanted = true;
+        return;
+    }
+    m_timer.stop();
+    const QJSValue result = m_generator.property(QStringLiteral("return")).callWithInstance(m_generator);
+    if (result.isError())
+        finish(QStringLiteral("failed"), result);
+    else
+        finish(QStringLiteral("cancelled"), result.property(QStringLiteral("value")));
+}
+
+void JobDriver::slice()
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (isRunning() && !m_paused && step()) {
+        if (clock.elapsed() >= sliceMs) {
+            m_timer.start(0);
+            return;
+        }
+    }
+}
+
+/** What next() answers; an error where that is no step, since what never says that it is done would never end. */
+QJSValue JobDriver::nextStep()
+{
+    const QJSValue result = m_generator.property(QStringLiteral("next")).callWithInstance(m_generator);
+    QJSEngine *engine = result.isObject() ? nullptr : qjsEngine(this);
+    return engine ? engine->newErrorObject(QJSValue::TypeError, QStringLiteral("A step of a job is an object"))
+                  : result;
+}
+
+// One step of the generator; true if there is another one to come.
+bool JobDriver::step()
+{
+    if (m_inStep)
+        return false;
+    m_inStep = true;
+    const QJSValue result = nextStep();
+    const bool ended = result.isError() || result.property(QStringLiteral("done")).toBool();
+    if (!ended)
+        call(m_onStep, {result.property(QStringLiteral("value"))});
+    m_inStep = false;
+    if (result.isError())
+        finish(QStringLiteral("failed"), result);
+    else if (ended)
+        finish(QStringLiteral("done"), result.property(QStringLiteral("value")));
+    else if (std::exchange(m_cancelWanted, false))
+        cancel();
+    return !ended && isRunning();
+}
+
+void JobDriver::finish(const QString &how, const QJSValue &value)
+{
+    m_timer.stop();
+    m_generator = {};
+    m_onStep = {};
+    const QJSValue onEnd = std::exchange(m_onEnd, {});
+    if (value.isError())
+        reportError(value);
+    call(onEnd, {how, value});
+}
+
+ScriptTimer::ScriptTimer(const QJSValue &function, QObject *parent) : QObject(parent), m_function(function)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, [this] { call(m_function, {}); });
+}
+
+} // namespace window

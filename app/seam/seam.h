@@ -1,0 +1,150 @@
+#pragma once
+
+#include "app/seam/service_class.h"
+#include "app/seam/values.h"
+
+#include <QHash>
+#include <QJSEngine>
+#include <QJSValue>
+#include <QObject>
+#include <QPointer>
+
+#include <exception>
+
+namespace script {
+
+/**
+ * The one hold that scripts have on a service object, shared by all its facades. The object may go first where it belongs to
+ * the application; then another one may come to lie at the same address.
+ */
+struct Holding
+{
+    QPointer<QObject> object;
+    /** Its facade was set on a field; see the facade's script. */
+    bool isAttached = false;
+};
+
+/** What lies behind a facade. */
+struct Native
+{
+    std::shared_ptr<Holding> holding;
+
+    QObject *object() const { return holding ? holding->object.data() : nullptr; }
+};
+
+/** Where in a script something happened. */
+struct Location
+{
+    QString file; ///< a path, or another name where the script is not a file; empty if unknown
+    int line = 0;
+};
+
+/** The topmost place in a stack, as errors hold it, that is not in the facade's own script. */
+Location locationInStack(const QString &stack);
+
+/**
+ * The one way from scripts to services.
+ *
+ * Makes the classes that scripts see and carries every call, read and write of a field: looks the operation up in what the
+ * meta-object said, checks count and types of the arguments, converts them, calls, converts the result. Everything that
+ * is thrown underneath ends here as an error of the script; a C++ exception that entered the engine would end the process.
+ */
+class Seam : public QObject
+{
+    Q_OBJECT
+
+public:
+    Seam(QJSEngine &engine, std::vector<ServiceEntry> entries);
+    ~Seam() override;
+
+    /** The seam of an engine, which must not outlive it; null for an engine without one. */
+    static Seam *of(const QJSEngine *engine);
+
+    /** What `import ... from "module"` gives. */
+    QJSValue exportsOf(const QByteArray &module) const;
+
+    /** Who deletes an object without a parent: the scripts with their last facade of it, or the C++ that made it. */
+    enum class Owner { Scripts, Application };
+
+    /**
+     * The facade for an object of a registered class; other objects, such as real controls, are handed out as they are and
+     * always belong to the application. An object that has a facade already keeps its owner.
+     */
+    QJSValue facadeOf(QObject *object, Owner owner);
+    /** The object behind a facade or a wrapped control; null for other values. */
+    QObject *objectOf(const QJSValue &value) const;
+
+    const Values &values() const { return m_values; }
+    const std::vector<std::unique_ptr<ServiceClass>> &classes() const { return m_classes; }
+    /** Where the last error that the seam raised happened, and its text. */
+    const Location &lastErrorLocation() const { return m_lastErrorLocation; }
+
+    /** Runs @p body; what it throws becomes an error of the running script. */
+    template<typename Body> QJSValue guarded(Body body)
+    {
+        try {
+            return body();
+        } catch (...) {
+            raiseCurrentException();
+            return QJSValue(QJSValue::NullValue);
+        }
+    }
+
+    // Called by the facade's script only.
+    Q_INVOKABLE QJSValue make(int classId, bool isConstructed, const QJSValue &arguments);
+    Q_INVOKABLE QJSValue call(const QVariant &native, int operationId, const QJSValue &arguments);
+    Q_INVOKABLE QJSValue read(const QVariant &native, int fieldId, const QJSValue &kept);
+    Q_INVOKABLE void write(const QVariant &native, int fieldId, const QJSValue &value);
+    Q_INVOKABLE void rejectName(const QString &className, const QString &name);
+    Q_INVOKABLE void rejectAssignment(const QString &className, const QString &name);
+
+private:
+    struct OperationOfClass
+    {
+        ServiceClass *owner;
+        const Operation *operation;
+    };
+    struct FieldOfClass
+    {
+        ServiceClass *owner;
+        const Field *field;
+    };
+
+    QJSValue defineClass(int classId);
+    QJSValue operationTable(ServiceClass &service);
+    QJSValue fieldTable(ServiceClass &service);
+    const ServiceClass *classOf(const QObject *object) const;
+    std::shared_ptr<Holding> holdingOf(QObject *object) const;
+    QVariant hold(QObject *object, Owner owner);
+    void letGo(Holding *holding, QObject *address, Owner owner);
+    QObject *target(const QVariant &native, ServiceClass &owner, const QByteArray &member) const;
+    QJSValue invoke(QObject *object, const Operation &operation, const QJSValue &arguments);
+    QJSValue resultToScript(QObject *object, const QVariant &result, Kind kind);
+    QJSValue shellOf(QObject *object) const;
+    void attachToShell(const QJSValue &facade);
+    void collectAfterPixels(const QVariant &value, Kind kind);
+    void raise(const QString &name, const QString &message);
+    void raiseCurrentException();
+
+    QJSEngine &m_engine;
+    Values m_values;
+    std::vector<std::unique_ptr<ServiceClass>> m_classes;
+    std::vector<OperationOfClass> m_operations;
+    std::vector<FieldOfClass> m_fields;
+    std::vector<QJSValue> m_definitions;
+    QHash<const QMetaObject *, int> m_classIds;
+    QHash<QObject *, std::weak_ptr<Holding>> m_held;
+    QJSValue m_define;
+    QJSValue m_nativeOf;
+    QJSValue m_setName;
+    QJSValue m_attach;
+    QJSValue m_facadeIn;
+    QJSValue m_itself;
+    Location m_lastErrorLocation;
+    qint64 m_pixelBytesHandedOut = 0;
+    int m_pixelValuesHandedOut = 0;
+};
+
+} // namespace script
+
+Q_DECLARE_METATYPE(script::Native)

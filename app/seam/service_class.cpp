@@ -1,0 +1,109 @@
+#include "app/seam/service_class.h"
+
+#include "platform/foundation/flag.h"
+#include "platform/foundation/sender.h"
+#include "platform/foundation/shared_texts.h"
+#include "platform/graphics/picture.h"
+#include "platform/imageio/image_source.h"
+#include "platform/plist/property_value.h"
+#include "presets/database.h"
+
+#include <QDateTime>
+#include <QJSValue>
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QUrl>
+
+namespace script {
+namespace {
+
+template<typename T> int idOf()
+{
+    return QMetaType::fromType<T>().id();
+}
+
+const QHash<int, Kind> &kindsById()
+{
+    static const QHash<int, Kind> kinds = {
+        {QMetaType::Void, Kind::Nothing},
+        {QMetaType::QString, Kind::Text},
+        {QMetaType::Int, Kind::Whole},
+        {QMetaType::UInt, Kind::Unsigned},
+        {QMetaType::Double, Kind::Number},
+        {QMetaType::Float, Kind::Single},
+        {QMetaType::Bool, Kind::Truth},
+        {idOf<platform::Flag>(), Kind::Flag},
+        {idOf<platform::Sender>(), Kind::Sender},
+        {idOf<platform::PropertyValue>(), Kind::Property},
+        {QMetaType::QVariant, Kind::Any},
+        {QMetaType::QVariantMap, Kind::Dictionary},
+        {QMetaType::QVariantList, Kind::List},
+        {QMetaType::QStringList, Kind::TextList},
+        {idOf<QJSValue>(), Kind::SharedList},
+        {idOf<platform::SharedTexts>(), Kind::SharedTexts},
+        {QMetaType::QByteArray, Kind::Data},
+        {QMetaType::QDateTime, Kind::Date},
+        {QMetaType::QUrl, Kind::Location},
+        {QMetaType::QSizeF, Kind::Size},
+        {QMetaType::QPointF, Kind::Point},
+        {QMetaType::QRectF, Kind::Rectangle},
+        {idOf<platform::Bitmap>(), Kind::Opaque},
+        {idOf<platform::BitmapHandle>(), Kind::Opaque},
+        {idOf<platform::ImageSource>(), Kind::Opaque},
+        {idOf<presets::Connection>(), Kind::Opaque},
+        {idOf<platform::Picture>(), Kind::Picture},
+    };
+    return kinds;
+}
+
+Operation operationOf(const QMetaMethod &method, const QByteArrayList &classOperations)
+{
+    Operation operation;
+    operation.name = method.name();
+    operation.methodIndex = method.methodIndex();
+    operation.isClassLevel = classOperations.contains(operation.name);
+    operation.resultType = method.returnMetaType();
+    operation.resultKind = kindOf(operation.resultType);
+    const QByteArrayList names = method.parameterNames();
+    for (int i = 0; i < method.parameterCount(); ++i) {
+        const QMetaType type = method.parameterMetaType(i);
+        const QByteArray name = names.at(i).isEmpty() ? "argument " + QByteArray::number(i + 1) : names.at(i);
+        operation.parameters.push_back({name, type, kindOf(type)});
+    }
+    return operation;
+}
+
+Field fieldOf(const QMetaProperty &property)
+{
+    const QMetaType type = property.metaType();
+    return {property.name(), property.propertyIndex(), property.isWritable(), type, kindOf(type)};
+}
+
+} // namespace
+
+Kind kindOf(QMetaType type)
+{
+    if (type.flags() & QMetaType::PointerToQObject)
+        return Kind::Object;
+    return kindsById().value(type.id(), Kind::Unreachable);
+}
+
+ServiceClass::ServiceClass(ServiceEntry description) : entry(std::move(description))
+{
+    const QMetaObject &meta = *entry.meta;
+    const int info = meta.indexOfClassInfo("ClassOperations");
+    const QByteArrayList classOperations =
+        info < 0 ? QByteArrayList() : QByteArray(meta.classInfo(info).value()).simplified().split(' ');
+    for (int i = QObject::staticMetaObject.methodCount(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        if (method.methodType() == QMetaMethod::Method && method.access() == QMetaMethod::Public)
+            operations.push_back(operationOf(method, classOperations));
+    }
+    for (int i = QObject::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i)
+        fields.push_back(fieldOf(meta.property(i)));
+}
+
+} // namespace script

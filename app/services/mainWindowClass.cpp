@@ -1,0 +1,3 @@
+#include "app/services/mainWindowClass.h"
+
+void mainWindowClass::windowDidLoad() {}

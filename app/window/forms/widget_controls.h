@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/controls/controls.h"
+
+namespace window {
+
+/** How services reach tab views, menus and check boxes with three states, which tell themselves by no property. */
+class WidgetControls : public platform::WindowControls
+{
+public:
+    /** Of a QTabWidget or QTabBar, without the mark of its key; null where no tab is chosen. */
+    std::optional<QString> selectedLabel(const QObject &control) const override;
+    /** Of a QCheckBox: 1, 0, or -1 where it is partly checked. */
+    std::optional<int> state(const QObject &control) const override;
+    /** Of a QComboBox. */
+    std::optional<QStringList> titles(const QObject &control) const override;
+    bool setTitles(QObject &control, const QStringList &titles) const override;
+};
+
+} // namespace window

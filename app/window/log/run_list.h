@@ -1,0 +1,93 @@
+#pragma once
+
+#include "app/window/log/log_model.h"
+
+#include <QListView>
+#include <QPointer>
+
+namespace window {
+
+class LogTable;
+
+/** The runs of a log, the newest first, under one entry that stands for all of them. */
+class RunRows : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    /** Numbers of runs are found under this role; -1 stands for all. */
+    static constexpr int numberRole = Qt::UserRole;
+    static constexpr int dateRole = Qt::UserRole + 1;
+    static constexpr int countRole = Qt::UserRole + 2;
+    static constexpr int problemsRole = Qt::UserRole + 3;
+
+    using QAbstractListModel::QAbstractListModel;
+
+    void follow(LogModel *log);
+    /**
+     * %1 stands for a number: {all, oneEntry, entries, oneProblem, problems}; or for a deed that was taken back or done
+     * again: {undo, redo}; in {of} %1 is that, and %2 the date of the run that it took back.
+     */
+    void setTexts(const QVariantMap &texts) { m_texts = texts; }
+    /** What was done: "Rename", or "Undo of Rename" for a run that took one back. */
+    QString title(int number) const;
+    /** The same, with the date of the run that was taken back. */
+    QString longTitle(int number) const;
+    int rowOf(int run) const;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    void update();
+    void forget();
+    QString counted(const char *one, const char *many, int count) const;
+    QVariant cell(int number, int role) const;
+
+    LogModel *m_log = nullptr; ///< null again when its table is gone
+    QVariantMap m_texts;
+    int m_rows = 0;
+};
+
+/** A list of the runs of a log, each with its deed, date and counts; choosing one shows its entries in the table. */
+class RunList : public QListView
+{
+    Q_OBJECT
+    /** The run that is chosen, as its entries name it; empty for all, and for a run that they do not name. */
+    Q_PROPERTY(QString run READ run)
+
+public:
+    explicit RunList(QWidget *parent = nullptr);
+
+    /** Shows the runs of the log in @p table, and filters it. @param texts  see RunRows::setTexts() */
+    Q_INVOKABLE void follow(QObject *table, const QVariantMap &texts);
+    QString run() const;
+    /**
+     * The chosen run: {count (of its entries), problems, process, title (with what it took back), areEdits (of comments), edits (how
+     * many can be reverted), undone (how many entries were taken back since)}; null where all are shown.
+     */
+    Q_INVOKABLE QVariant chosen() const;
+    /** The edits of the chosen run; see LogTable::editsOfRun(). */
+    Q_INVOKABLE QVariantList edits() const;
+    /** Chooses the run with that name; false where the log has none. */
+    Q_INVOKABLE bool choose(const QString &run);
+    Q_INVOKABLE void chooseAll();
+
+    QSize sizeHint() const override { return {230, 300}; }
+
+Q_SIGNALS:
+    void runChosen();
+
+protected:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+
+private:
+    int number() const;
+    void keepChoice();
+
+    RunRows m_rows;
+    LogTable *m_table = nullptr; ///< in the same window
+    int m_number = -1;
+};
+
+} // namespace window

@@ -1,0 +1,264 @@
+#include "app/window/manual/manual_view.h"
+
+#include "app/window/look/theme.h"
+#include "platform/file/atomic_file.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QMouseEvent>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextList>
+
+namespace window {
+
+namespace {
+
+constexpr int widestTextPx = 760;
+constexpr int marginPx = 24;
+
+QString titleOf(const QString &text, const QString &otherwise)
+{
+    static const QRegularExpression heading(QStringLiteral("^# +(.+?)\\s*$"), QRegularExpression::MultilineOption);
+    const QRegularExpressionMatch found = heading.match(text);
+    return found.hasMatch() ? found.captured(1) : otherwise;
+}
+
+// What Markdown leaves to whoever draws it: room between the lines and paragraphs, and colours of the theme.
+void dress(QTextDocument &document)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextCursor cursor(block);
+        QTextBlockFormat format = block.blockFormat();
+        const int level = format.headingLevel();
+        // A picture is as high as it is.
+        const bool isPicture = block.text().contains(QChar::ObjectReplacementCharacter);
+        format.setLineHeight(isPicture ? 100 : 125, QTextBlockFormat::ProportionalHeight);
+        format.setTopMargin(level == 1 ? 4 : level > 1 ? 18 : 0);
+        format.setBottomMargin(block.textList() ? 4 : 9);
+        cursor.setBlockFormat(format);
+        cursor.select(QTextCursor::BlockUnderCursor);
+        QTextCharFormat letters;
+        letters.setForeground(Theme::color(QStringLiteral("text")));
+        if (level > 0) {
+            letters.setProperty(QTextFormat::FontSizeAdjustment, QVariant());
+            letters.setFontPointSize(level == 1 ? 17 : level == 2 ? 13 : 11);
+            letters.setFontWeight(QFont::DemiBold);
+        }
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            if (part.fragment().charFormat().isAnchor() || part.fragment().charFormat().isImageFormat())
+                continue;
+            QTextCursor some(&document);
+            some.setPosition(part.fragment().position());
+            some.setPosition(part.fragment().position() + part.fragment().length(), QTextCursor::KeepAnchor);
+            some.mergeCharFormat(letters);
+        }
+    }
+}
+
+} // namespace
+
+QString anchorOfHeading(const QString &heading)
+{
+    QString anchor;
+    for (const QChar each : heading.toLower())
+        if (each.isLetterOrNumber() || each == u'-' || each == u'_')
+            anchor += each;
+        else if (each.isSpace())
+            anchor += u'-';
+    return anchor;
+}
+
+ManualView::ManualView(QWidget *parent) : QTextBrowser(parent)
+{
+    setOpenLinks(false);
+    setFrameShape(NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(this, &QTextBrowser::anchorClicked, this, &ManualView::follow);
+}
+
+void ManualView::setFolder(const QString &folder)
+{
+    m_folder = folder;
+    setSearchPaths({folder});
+    m_visited.clear();
+    m_at = -1;
+}
+
+QString ManualView::page() const
+{
+    return m_at < 0 ? QString() : m_visited.at(m_at).page;
+}
+
+QString ManualView::textOf(const QString &page) const
+{
+    return QString::fromUtf8(platform::readFile(m_folder + u'/' + page + QStringLiteral(".md")).value_or(QByteArray()));
+}
+
+QStringList ManualView::names() const
+{
+    static const QRegularExpression link(QStringLiteral("\\]\\(([\\w-]+)\\.md"));
+    QStringList names = {QStringLiteral("index")};
+    for (auto found = link.globalMatch(textOf(names.constFirst())); found.hasNext();)
+        names.append(found.next().captured(1));
+    for (const QString &file : QDir(m_folder).entryList({QStringLiteral("*.md")}, QDir::Files, QDir::Name))
+        names.append(QFileInfo(file).completeBaseName());
+    names.removeDuplicates();
+    names.removeIf(
+        [this](const QString &name) { return !QFileInfo::exists(m_folder + u'/' + name + QStringLiteral(".md")); });
+    return names;
+}
+
+QVariantList ManualView::pages() const
+{
+    QVariantList all;
+    for (const QString &name : names())
+        all.append(QVariantMap{{QStringLiteral("name"), name}, {QStringLiteral("title"), titleOf(textOf(name), name)}});
+    return all;
+}
+
+void ManualView::open(const QString &page, const QString &anchor)
+{
+    if (m_at < 0 || m_visited.at(m_at).page != page || m_visited.at(m_at).anchor != anchor) {
+        m_visited.resize(m_at + 1);
+        m_visited.append({page, anchor});
+        ++m_at;
+    }
+    show(m_visited.at(m_at));
+}
+
+void ManualView::goTo(qsizetype at)
+{
+    if (at < 0 || at >= m_visited.size())
+        return;
+    m_at = at;
+    show(m_visited.at(at));
+}
+
+void ManualView::show(const Place &place)
+{
+    drawAnew();
+    verticalScrollBar()->setValue(0);
+    if (!place.anchor.isEmpty())
+        scrollToHeading(place.anchor);
+    Q_EMIT pageShown(place.page);
+}
+
+void ManualView::drawAnew()
+{
+    if (m_at < 0)
+        return;
+    const int place = verticalScrollBar()->value();
+    const QString text = textOf(page());
+    auto *drawn = new QTextDocument(this);
+    drawn->setDefaultFont(font());
+    drawn->setDocumentMargin(marginPx);
+    m_drawnWidth = textWidth();
+    drawn->setMarkdown(text.isEmpty() ? tr("This page of the manual is missing.") : text);
+    dress(*drawn);
+    setDocument(drawn);
+    if (m_drawn)
+        m_drawn->deleteLater();
+    m_drawn = drawn;
+    setLineWrapMode(FixedPixelWidth);
+    setLineWrapColumnOrWidth(m_drawnWidth + 2 * marginPx);
+    verticalScrollBar()->setValue(place);
+}
+
+int ManualView::textWidth() const
+{
+    return qBound(200, viewport()->width() - 2 * marginPx, widestTextPx);
+}
+
+void ManualView::scrollToHeading(const QString &anchor)
+{
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() == 0 || anchorOfHeading(block.text()) != anchor)
+            continue;
+        setTextCursor(QTextCursor(block));
+        const QRectF place = document()->documentLayout()->blockBoundingRect(block);
+        verticalScrollBar()->setValue(int(place.top()) - 8);
+        return;
+    }
+}
+
+void ManualView::follow(const QUrl &link)
+{
+    if (link.scheme() == QStringLiteral("http") || link.scheme() == QStringLiteral("https")) {
+        QDesktopServices::openUrl(link);
+        return;
+    }
+    const QString file = QFileInfo(link.path()).completeBaseName();
+    open(file.isEmpty() ? page() : file, link.fragment());
+}
+
+QVariant ManualView::loadResource(int type, const QUrl &name)
+{
+    if (type != QTextDocument::ImageResource || !name.isRelative())
+        return {};
+    QString path = QDir::cleanPath(m_folder + u'/' + name.path());
+    const QString dark = QString(path).replace(QStringLiteral("-light.png"), QStringLiteral("-dark.png"));
+    if (Theme::appearance() == Appearance::Dark && QFileInfo::exists(dark))
+        path = dark;
+    QImage picture(path);
+    // A picture that is wider than the text is drawn with more than one of its pixels a point, which is sharper too.
+    if (picture.width() > m_drawnWidth)
+        picture.setDevicePixelRatio(double(picture.width()) / m_drawnWidth);
+    return picture;
+}
+
+bool ManualView::findFromHere(const QString &text)
+{
+    return !text.isEmpty() && find(text);
+}
+
+bool ManualView::findNext(const QString &text)
+{
+    if (text.isEmpty() || findFromHere(text))
+        return !text.isEmpty();
+    const QStringList all = names();
+    const qsizetype here = all.indexOf(page());
+    for (qsizetype i = 1; i <= all.size(); ++i) {
+        const QString &name = all.at((here + i) % all.size());
+        if (!textOf(name).contains(text, Qt::CaseInsensitive))
+            continue;
+        if (name != page())
+            open(name);
+        moveCursor(QTextCursor::Start);
+        // The file may have it where no reader sees it, such as in the address of a link.
+        if (findFromHere(text))
+            return true;
+    }
+    return false;
+}
+
+void ManualView::resizeEvent(QResizeEvent *event)
+{
+    QTextBrowser::resizeEvent(event);
+    if (m_at >= 0 && textWidth() != m_drawnWidth)
+        drawAnew();
+}
+
+// The manual alone keeps the program from ending no longer.
+void ManualView::showEvent(QShowEvent *event)
+{
+    window()->setAttribute(Qt::WA_QuitOnClose, false);
+    QTextBrowser::showEvent(event);
+}
+
+void ManualView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::BackButton)
+        goBack();
+    else if (event->button() == Qt::ForwardButton)
+        goForward();
+    else
+        QTextBrowser::mousePressEvent(event);
+}
+
+} // namespace window

@@ -1,0 +1,95 @@
+#include "app/window/panels/dialog_panels.h"
+
+#include "app/window/panels/print_dialog.h"
+#include "app/window/panels/save_dialog.h"
+
+#include "platform/desktop/user_defaults.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace window {
+
+namespace {
+
+const QString lastFolderKey = QStringLiteral("LastPanelFolder");
+
+} // namespace
+
+QString panelFilter(const QStringList &types)
+{
+    QStringList patterns;
+    for (const QString &type : types) {
+        patterns.append(QStringLiteral("*.") + type.toLower());
+        patterns.append(QStringLiteral("*.") + type.toUpper());
+    }
+    patterns.removeDuplicates();
+    return QFileDialog::tr("Files that can be chosen") + QStringLiteral(" (%1)").arg(patterns.join(QLatin1Char(' ')));
+}
+
+namespace {
+
+void prepareOpen(QFileDialog &dialog, const platform::PanelRequest &request)
+{
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    if (request.choosesFolders && !request.choosesFiles) {
+        dialog.setFileMode(QFileDialog::Directory);
+        dialog.setOption(QFileDialog::ShowDirsOnly);
+    } else {
+        dialog.setFileMode(request.choosesSeveral ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+    }
+    if (request.types && !request.types->isEmpty() && request.choosesFiles)
+        dialog.setNameFilter(panelFilter(*request.types));
+}
+
+/** The first of these that is there: what was asked for, the folder of the last panel, pictures, home. */
+QString startFolder(const platform::PanelRequest &request)
+{
+    const QString last = request.folder.isEmpty() ? platform::userDefault(lastFolderKey).toString() : QString();
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    for (const QString &folder : {request.folder, last, pictures})
+        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+            return folder;
+    return QDir::homePath();
+}
+
+/** Shows the panel; false where it is cancelled. */
+bool isAccepted(QFileDialog &dialog, const platform::PanelRequest &request)
+{
+    dialog.setDirectory(startFolder(request));
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    platform::setUserDefault(lastFolderKey, dialog.directory().absolutePath());
+    return true;
+}
+
+platform::PanelAnswer runSave(const platform::PanelRequest &request)
+{
+    SaveDialog dialog(request, QApplication::activeWindow());
+    if (!isAccepted(dialog, request))
+        return {};
+    return {true, {dialog.chosenPath()}, dialog.tags()};
+}
+
+} // namespace
+
+platform::PanelAnswer DialogPanels::run(const platform::PanelRequest &request)
+{
+    if (request.kind == platform::PanelKind::Print)
+        return runPrintDialog(request);
+    if (request.kind == platform::PanelKind::Save)
+        return runSave(request);
+    QFileDialog dialog(QApplication::activeWindow());
+    if (!request.message.isEmpty())
+        dialog.setWindowTitle(request.message);
+    if (!request.createsFolders && request.choosesFiles)
+        dialog.setOption(QFileDialog::ReadOnly);
+    prepareOpen(dialog, request);
+    if (!isAccepted(dialog, request))
+        return {};
+    return {true, dialog.selectedFiles(), {}};
+}
+
+} // namespace window

@@ -1,0 +1,75 @@
+#include "app/window/panels/print_dialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+namespace window {
+
+namespace {
+
+std::shared_ptr<QPrinter> printerFor(const QPageLayout &page)
+{
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setCreator(QStringLiteral("Quorlin"));
+    printer->setDocName(QStringLiteral("Quorlin")); // what print queues show
+    // Without a printer the dialog prints into a file, and wants to be told the name of one.
+    if (QPrinterInfo::availablePrinterNames().isEmpty())
+        printer->setOutputFileName(QDir::homePath() + QStringLiteral("/Quorlin.pdf"));
+    printer->setPageLayout(page);
+    printer->setFullPage(true);
+    return printer;
+}
+
+/** What is left to whoever draws the pages: a print system that makes copies by itself is told of them. */
+platform::PrintPages chosenPages(const QPrinter &printer)
+{
+    platform::PrintPages pages;
+    if (printer.printRange() == QPrinter::PageRange) {
+        pages.from = printer.fromPage();
+        pages.to = printer.toPage();
+    }
+    pages.copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
+    pages.areCollated = printer.collateCopies();
+    pages.isBackwards = printer.pageOrder() == QPrinter::LastPageFirst;
+    return pages;
+}
+
+} // namespace
+
+platform::PanelAnswer runPrintDialog(const platform::PanelRequest &request)
+{
+    const std::shared_ptr<QPrinter> printer = printerFor(request.page);
+    QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
+                      QAbstractPrintDialog::PrintCollateCopies);
+    if (request.pageCount > 1) {
+        dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+        dialog.setMinMax(1, request.pageCount);
+    }
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    // The dialog may have put margins back that the printer likes.
+    printer->setFullPage(true);
+    printer->setPageMargins(request.page.margins(), request.page.units());
+    platform::PanelAnswer answer;
+    answer.accepted = true;
+    answer.printer = printer;
+    answer.pages = chosenPages(*printer);
+    return answer;
+}
+
+void runPageSetup(QPageLayout &page)
+{
+    const std::shared_ptr<QPrinter> printer = printerFor(page);
+    QPageSetupDialog dialog(printer.get(), QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    page.setPageSize(printer->pageLayout().pageSize());
+    page.setOrientation(printer->pageLayout().orientation());
+}
+
+} // namespace window

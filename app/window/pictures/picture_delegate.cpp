@@ -1,0 +1,100 @@
+#include "app/window/pictures/picture_delegate.h"
+
+#include "app/window/look/theme.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace window {
+
+namespace {
+
+constexpr int paddingPx = 10;
+
+QString colorName(StatusKind kind)
+{
+    switch (kind) {
+    case StatusKind::Good:
+        return QStringLiteral("good");
+    case StatusKind::Bad:
+        return QStringLiteral("bad");
+    case StatusKind::Caution:
+        return QStringLiteral("caution");
+    case StatusKind::Planned:
+    case StatusKind::Busy:
+        return QStringLiteral("text");
+    case StatusKind::None:
+    case StatusKind::Waiting:
+        return QStringLiteral("faint");
+    }
+    return {};
+}
+
+bool isFinal(StatusKind kind)
+{
+    return kind == StatusKind::Good || kind == StatusKind::Bad || kind == StatusKind::Caution;
+}
+
+} // namespace
+
+PictureDelegate::PictureDelegate(const PictureModel &model, const QAbstractProxyModel &order, QObject *parent)
+    : QStyledItemDelegate(parent), m_model(model), m_order(order)
+{
+}
+
+void PictureDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const int row = m_order.mapToSource(index).row();
+    painter->save();
+    if (option.state & QStyle::State_Selected)
+        painter->fillRect(option.rect, Theme::color(QStringLiteral("row")));
+    painter->fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
+                      Theme::color(QStringLiteral("hairline")));
+    if (index.column() == PictureModel::Thumbnail)
+        paintThumbnail(*painter, option.rect, row);
+    else
+        paintText(*painter, option, m_model.row(row), index.column());
+    painter->restore();
+}
+
+void PictureDelegate::paintThumbnail(QPainter &painter, const QRect &cell, int row) const
+{
+    QRect place(QPoint(0, 0), thumbnailSize());
+    place.moveCenter(cell.center());
+    QPainterPath shape;
+    shape.addRoundedRect(place, 3, 3);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPixmap pixmap = m_model.thumbnail(row);
+    if (pixmap.isNull()) {
+        painter.fillPath(shape, Theme::color(QStringLiteral("hairline")));
+        return;
+    }
+    painter.setClipPath(shape);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(place, pixmap);
+}
+
+void PictureDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &option, const PictureRow &row,
+                                int column) const
+{
+    QFont font = option.font;
+    QColor color = Theme::color(column == PictureModel::Name ? QStringLiteral("text") : QStringLiteral("muted"));
+    if (column == PictureModel::Status) {
+        color = Theme::color(colorName(row.kind));
+        font.setWeight(isFinal(row.kind) ? QFont::DemiBold : QFont::Normal);
+    } else if (column == PictureModel::NewName || column == PictureModel::NewSize) {
+        color = Theme::color(QStringLiteral("text"));
+        if (column == PictureModel::NewName && m_model.stressesNewNames())
+            font.setWeight(QFont::DemiBold);
+    }
+    const QString text = m_model.data(m_model.index(int(&row - &m_model.row(0)), column), Qt::DisplayRole).toString();
+    const QRect place = option.rect.adjusted(paddingPx, 0, -paddingPx / 2, -1);
+    const Qt::TextElideMode elide =
+        column == PictureModel::Name || column == PictureModel::NewName ? Qt::ElideMiddle : Qt::ElideRight;
+    painter.setFont(font);
+    painter.setPen(color);
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                     QFontMetrics(font).elidedText(text, elide, place.width()));
+}
+
+} // namespace window

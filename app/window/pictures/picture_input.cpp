@@ -1,0 +1,123 @@
+// Which rows of the picture list an action works on, and in what order.
+
+#include "app/window/pictures/picture_table.h"
+
+namespace window {
+
+void PictureTable::setInput(const QStringList &extensions, bool folders)
+{
+    InputRule rule;
+    rule.folders = folders;
+    rule.anyFile = extensions.contains(QLatin1String("*"));
+    for (const QString &extension : extensions)
+        rule.extensions.insert(extension.toLower());
+    m_order.setInput(rule);
+    countTaken();
+    chooseSomeRow();
+    Q_EMIT currentPictureChanged(currentId());
+    Q_EMIT countChanged(count());
+    wakeLoader();
+}
+
+void PictureTable::countTaken()
+{
+    m_taken = 0;
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        m_taken += m_order.input().takes(m_model.row(row)) ? 1 : 0;
+}
+
+void PictureTable::chooseSomeRow()
+{
+    if (!currentIndex().isValid() && m_order.rowCount() > 0)
+        setCurrentIndex(m_order.index(0, PictureModel::Name));
+}
+
+void PictureTable::showOnly(const QVariantList &ids)
+{
+    QSet<int> shown;
+    for (const QVariant &id : ids)
+        shown.insert(id.toInt());
+    m_order.setOnly(shown);
+    chooseSomeRow();
+    wakeLoader();
+}
+
+void PictureTable::showAll()
+{
+    m_order.setOnly({});
+    chooseSomeRow();
+    wakeLoader();
+}
+
+// Rows that a filter hides have no place of their own: then the order of adding holds.
+std::vector<int> PictureTable::rowsInOrder() const
+{
+    std::vector<int> rows;
+    rows.reserve(size_t(m_taken));
+    const bool allShown = m_order.rowCount() == m_taken;
+    for (int i = 0; i < m_model.rowCount() && !allShown; ++i)
+        if (m_order.input().takes(m_model.row(i)))
+            rows.push_back(i);
+    for (int i = 0; i < m_order.rowCount() && allShown; ++i)
+        rows.push_back(m_order.mapToSource(m_order.index(i, 0)).row());
+    return rows;
+}
+
+QVariantList PictureTable::ids() const
+{
+    QVariantList found;
+    for (const int row : rowsInOrder())
+        found.append(m_model.row(row).id);
+    return found;
+}
+
+QStringList PictureTable::paths() const
+{
+    QStringList found;
+    for (const int row : rowsInOrder())
+        found.append(m_model.row(row).path);
+    return found;
+}
+
+QStringList PictureTable::hiddenPaths() const
+{
+    QStringList found;
+    for (int i = 0; i < m_model.rowCount(); ++i)
+        if (!m_order.input().takes(m_model.row(i)))
+            found.append(m_model.row(i).path);
+    return found;
+}
+
+void PictureTable::setPath(int id, const QString &path)
+{
+    const int index = m_model.indexOfId(id);
+    if (index >= 0)
+        m_model.setPath(index, path);
+}
+
+void PictureTable::removeIds(const QVariantList &ids)
+{
+    QList<int> gone;
+    for (const QVariant &id : ids)
+        gone.append(id.toInt());
+    if (gone.isEmpty())
+        return;
+    m_model.removeIds(gone);
+    countTaken();
+    m_headersUpTo = 0;
+    chooseSomeRow();
+    if (m_order.rowCount() == 0)
+        Q_EMIT currentPictureChanged(0);
+    Q_EMIT countChanged(count());
+    wakeLoader();
+}
+
+QString PictureTable::pathBeside(int rows) const
+{
+    const int row = currentIndex().row() + rows;
+    return currentIndex().isValid() && row >= 0 && row < m_order.rowCount()
+               ? m_model.row(m_order.mapToSource(m_order.index(row, 0)).row()).path
+               : QString();
+}
+
+} // namespace window

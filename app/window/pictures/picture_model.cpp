@@ -1,0 +1,263 @@
+#include "app/window/pictures/picture_model.h"
+
+#include "app/window/formats.h"
+
+#include "platform/imageio/image_source.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+
+namespace window {
+
+namespace {
+constexpr int keptThumbnails = 800;
+
+QString cellText(const PictureRow &row, int column)
+{
+    const QString none = QStringLiteral("–");
+    switch (column) {
+    case PictureModel::Name:
+        return row.name;
+    case PictureModel::Pixels:
+        return row.pixels.isEmpty() ? (row.headerRead ? none : QString()) : pixelText(row.pixels);
+    case PictureModel::Bytes:
+        return row.bytes < 0 ? none : byteText(row.bytes);
+    case PictureModel::Type:
+        return row.type;
+    case PictureModel::NewName:
+        return row.newName;
+    case PictureModel::NewSize:
+        return row.newSize;
+    case PictureModel::Status:
+        return row.status;
+    default:
+        return {};
+    }
+}
+} // namespace
+
+bool InputRule::takes(const PictureRow &row) const
+{
+    if (row.isFolder || folders)
+        return row.isFolder && folders;
+    const qsizetype dot = row.name.lastIndexOf(QLatin1Char('.'));
+    return anyFile || (dot > 0 && extensions.contains(row.name.mid(dot + 1).toLower()));
+}
+
+PictureModel::PictureModel(QObject *parent) : QAbstractTableModel(parent), m_thumbnails(keptThumbnails) {}
+
+int PictureModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+int PictureModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant PictureModel::data(const QModelIndex &index, int role) const
+{
+    const PictureRow &row = m_rows[size_t(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return cellText(row, index.column());
+    case Qt::AccessibleTextRole:
+        return index.column() == Thumbnail ? tr("Thumbnail of %1").arg(row.name) : cellText(row, index.column());
+    case Qt::ToolTipRole:
+        if (index.column() == Status)
+            return row.detail.isEmpty() ? row.status : row.detail;
+        return index.column() == NewName ? row.newName : QDir::toNativeSeparators(row.path);
+    default:
+        return {};
+    }
+}
+
+QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return int(Qt::AlignLeft | Qt::AlignVCenter);
+    // A heading that is cut off can be read in its tooltip.
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
+        return {};
+    if (m_headings.contains(section))
+        return m_headings.value(section);
+    switch (section) {
+    case Name:
+        return tr("Name");
+    case Pixels:
+        return tr("Pixels");
+    case Bytes:
+        return tr("Size");
+    case Type:
+        return tr("Type");
+    case NewName:
+        return tr("New name");
+    case NewSize:
+        return tr("New size");
+    case Status:
+        return tr("Status");
+    default:
+        return QString();
+    }
+}
+
+int PictureModel::add(const QStringList &paths)
+{
+    std::vector<PictureRow> fresh;
+    for (const QString &path : paths) {
+        if (m_idOfPath.contains(path))
+            continue;
+        PictureRow row;
+        row.id = m_nextId++;
+        row.path = path;
+        row.name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+        row.isFolder = QFileInfo(path).isDir();
+        row.type = row.isFolder ? tr("Folder") : typeWord(typeOfName(row.name));
+        row.bytes = fileBytes(path);
+        m_idOfPath.insert(path, row.id);
+        fresh.push_back(std::move(row));
+    }
+    if (fresh.empty())
+        return 0;
+    const int first = int(m_rows.size());
+    beginInsertRows({}, first, first + int(fresh.size()) - 1);
+    for (PictureRow &row : fresh) {
+        m_indexOfId.insert(row.id, int(m_rows.size()));
+        m_rows.push_back(std::move(row));
+    }
+    endInsertRows();
+    return int(fresh.size());
+}
+
+void PictureModel::setHeadings(const QHash<int, QString> &headings)
+{
+    m_headings = headings;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+}
+
+void PictureModel::removeIds(const QList<int> &ids)
+{
+    const QSet<int> gone(ids.begin(), ids.end());
+    beginResetModel();
+    std::erase_if(m_rows, [this, &gone](const PictureRow &row) {
+        if (!gone.contains(row.id))
+            return false;
+        m_idOfPath.remove(row.path);
+        m_thumbnails.remove(row.id);
+        return true;
+    });
+    rebuildIndex();
+    endResetModel();
+}
+
+void PictureModel::clear()
+{
+    beginResetModel();
+    m_rows.clear();
+    m_idOfPath.clear();
+    m_indexOfId.clear();
+    m_thumbnails.clear();
+    endResetModel();
+}
+
+const PictureRow &PictureModel::withHeader(int index)
+{
+    PictureRow &row = m_rows[size_t(index)];
+    if (row.headerRead)
+        return row;
+    row.headerRead = true;
+    row.bytes = fileBytes(row.path);
+    if (const auto source = platform::ImageSource::open(row.path)) {
+        row.pixels = source->uprightSize();
+        row.orientation = source->orientation();
+        row.type = typeWord(source->typeIdentifier());
+    }
+    changed(index, Pixels, Type);
+    return row;
+}
+
+void PictureModel::setPath(int index, const QString &path)
+{
+    PictureRow &row = m_rows[size_t(index)];
+    // In a swap two rows bear one path for a moment; the later one is the path's.
+    if (m_idOfPath.value(row.path) == row.id)
+        m_idOfPath.remove(row.path);
+    row.path = path;
+    row.name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+    m_idOfPath.insert(path, row.id);
+    changed(index, Name, Name);
+}
+
+void PictureModel::setPlan(int index, const QString &newName, const QString &newSize)
+{
+    PictureRow &row = m_rows[size_t(index)];
+    if (row.newName == newName && row.newSize == newSize)
+        return;
+    row.newName = newName;
+    row.newSize = newSize;
+    changed(index, NewName, NewSize);
+}
+
+void PictureModel::setStatus(int index, StatusKind kind, const QString &text, const QString &detail)
+{
+    PictureRow &row = m_rows[size_t(index)];
+    if (row.kind == kind && row.status == text && row.detail == detail)
+        return;
+    row.kind = kind;
+    row.status = text;
+    row.detail = detail;
+    changed(index, Status, Status);
+}
+
+QPixmap PictureModel::thumbnail(int index) const
+{
+    const QPixmap *found = m_thumbnails.object(row(index).id);
+    return found ? *found : QPixmap();
+}
+
+void PictureModel::loadThumbnail(int index, QSize devicePixels)
+{
+    PictureRow &row = m_rows[size_t(index)];
+    row.thumbnailTried = true;
+    const auto source = platform::ImageSource::open(row.path);
+    if (!source)
+        return;
+    const QSize size = source->uprightSize().scaled(devicePixels, Qt::KeepAspectRatioByExpanding).expandedTo({1, 1});
+    // A strip of film is not worth a thumbnail of thousands of pixels.
+    const QSize bounded = size.boundedTo(devicePixels * 4);
+    const auto bitmap = source->decodeScaled(bounded);
+    if (!bitmap)
+        return;
+    const QImage image = bitmap->toScreenImage();
+    const QRect middle(QPoint((image.width() - devicePixels.width()) / 2, (image.height() - devicePixels.height()) / 2),
+                       devicePixels);
+    m_thumbnails.insert(row.id, new QPixmap(QPixmap::fromImage(image.copy(middle))));
+    changed(index, Thumbnail, Thumbnail);
+}
+
+void PictureModel::forget(int index)
+{
+    PictureRow &row = m_rows[size_t(index)];
+    row.headerRead = false;
+    row.thumbnailTried = false;
+    m_thumbnails.remove(row.id);
+    changed(index, Thumbnail, Type);
+}
+
+void PictureModel::changed(int index, Column first, Column last)
+{
+    Q_EMIT dataChanged(createIndex(index, first), createIndex(index, last));
+}
+
+void PictureModel::rebuildIndex()
+{
+    m_indexOfId.clear();
+    for (size_t i = 0; i < m_rows.size(); ++i)
+        m_indexOfId.insert(m_rows[i].id, int(i));
+}
+
+} // namespace window

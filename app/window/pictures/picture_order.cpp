@@ -1,0 +1,87 @@
+#include "app/window/pictures/picture_order.h"
+
+#include <QCollator>
+
+namespace window {
+
+namespace {
+
+const QCollator &naturalOrder()
+{
+    static const QCollator collator = [] {
+        QCollator made;
+        made.setNumericMode(true);
+        made.setCaseSensitivity(Qt::CaseInsensitive);
+        return made;
+    }();
+    return collator;
+}
+
+qint64 area(const PictureRow &row)
+{
+    return qint64(row.pixels.width()) * row.pixels.height();
+}
+
+QString textOf(const PictureRow &row, int column)
+{
+    switch (column) {
+    case PictureModel::Type:
+        return row.type;
+    case PictureModel::NewName:
+        return row.newName;
+    case PictureModel::NewSize:
+        return row.newSize;
+    case PictureModel::Status:
+        return row.status;
+    default:
+        return row.name;
+    }
+}
+
+} // namespace
+
+PictureOrder::PictureOrder(PictureModel &model, QObject *parent) : QSortFilterProxyModel(parent), m_model(model)
+{
+    setDynamicSortFilter(false);
+    setSourceModel(&model);
+}
+
+void PictureOrder::setProblemsOnly(bool on)
+{
+    m_problemsOnly = on;
+    invalidateFilter();
+}
+
+void PictureOrder::setOnly(const std::optional<QSet<int>> &ids)
+{
+    if (!ids && !m_only)
+        return;
+    m_only = ids;
+    invalidateFilter();
+}
+
+void PictureOrder::setInput(const InputRule &rule)
+{
+    m_input = rule;
+    invalidateFilter();
+}
+
+bool PictureOrder::lessThan(const QModelIndex &left, const QModelIndex &right) const
+{
+    const PictureRow &a = m_model.row(left.row());
+    const PictureRow &b = m_model.row(right.row());
+    if (left.column() == PictureModel::Bytes)
+        return a.bytes < b.bytes;
+    if (left.column() == PictureModel::Pixels)
+        return area(a) < area(b);
+    return naturalOrder().compare(textOf(a, left.column()), textOf(b, left.column())) < 0;
+}
+
+bool PictureOrder::filterAcceptsRow(int row, const QModelIndex &) const
+{
+    const PictureRow &picture = m_model.row(row);
+    return m_input.takes(picture) && (!m_problemsOnly || picture.kind == StatusKind::Bad) &&
+           (!m_only || m_only->contains(picture.id));
+}
+
+} // namespace window

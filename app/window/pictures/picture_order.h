@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/window/pictures/picture_model.h"
+
+#include <QSet>
+#include <QSortFilterProxyModel>
+
+#include <optional>
+
+namespace window {
+
+/** Sorts by what the cells mean (numbers, natural order of names) and can show the problems, or some of the pictures, only. */
+class PictureOrder : public QSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    explicit PictureOrder(PictureModel &model, QObject *parent);
+    void setProblemsOnly(bool on);
+    bool problemsOnly() const { return m_problemsOnly; }
+    /** Shows the pictures with these ids only; all for none. */
+    void setOnly(const std::optional<QSet<int>> &ids);
+    bool showsSome() const { return m_problemsOnly || m_only.has_value(); }
+    /** Rows that an action does not work on are not shown. */
+    void setInput(const InputRule &rule);
+    const InputRule &input() const { return m_input; }
+
+protected:
+    bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
+
+private:
+    PictureModel &m_model;
+    InputRule m_input;
+    std::optional<QSet<int>> m_only;
+    bool m_problemsOnly = false;
+};
+
+} // namespace window

@@ -1,0 +1,307 @@
+#include "app/window/pictures/picture_table.h"
+
+#include "app/window/pictures/picture_delegate.h"
+
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <utility>
+
+namespace window {
+
+namespace {
+
+constexpr int sliceMs = 8;
+/** Between slices the event loop is left alone this long, so that reading ahead takes a part of one processor only. */
+constexpr int pauseMs = 4;
+
+StatusKind kindOf(const QString &word)
+{
+    static const QHash<QString, StatusKind> kinds = {
+        {QStringLiteral("waiting"), StatusKind::Waiting}, {QStringLiteral("planned"), StatusKind::Planned},
+        {QStringLiteral("busy"), StatusKind::Busy},       {QStringLiteral("good"), StatusKind::Good},
+        {QStringLiteral("bad"), StatusKind::Bad},         {QStringLiteral("caution"), StatusKind::Caution}};
+    return kinds.value(word, StatusKind::None);
+}
+
+} // namespace
+
+PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_model, this)
+{
+    setModel(&m_order);
+    setItemDelegate(new PictureDelegate(m_model, m_order, this));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setMouseTracking(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setCornerButtonEnabled(false);
+    prepareHeader();
+    m_loader.setSingleShot(true);
+    connect(&m_loader, &QTimer::timeout, this, &PictureTable::loadSlice);
+}
+
+int PictureTable::count() const
+{
+    return m_taken;
+}
+
+int PictureTable::currentId() const
+{
+    const QModelIndex index = currentIndex();
+    return index.isValid() ? m_model.row(m_order.mapToSource(index).row()).id : 0;
+}
+
+void PictureTable::setProblemsOnly(bool on)
+{
+    m_order.setProblemsOnly(on);
+    wakeLoader();
+}
+
+void PictureTable::setBusy(bool busy)
+{
+    m_busy = busy;
+    wakeLoader();
+}
+
+int PictureTable::addPaths(const QStringList &paths)
+{
+    const int added = m_model.add(paths);
+    if (added == 0)
+        return 0;
+    countTaken();
+    chooseSomeRow();
+    Q_EMIT countChanged(count());
+    wakeLoader();
+    return added;
+}
+
+void PictureTable::removeSelected()
+{
+    QList<int> gone;
+    int top = m_order.rowCount();
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    for (const QModelIndex &index : rows) {
+        gone.append(m_model.row(m_order.mapToSource(index).row()).id);
+        top = qMin(top, index.row());
+    }
+    if (gone.isEmpty())
+        return;
+    m_model.removeIds(gone);
+    countTaken();
+    m_headersUpTo = 0;
+    const int rest = m_order.rowCount();
+    if (rest > 0)
+        setCurrentIndex(m_order.index(qMin(top, rest - 1), PictureModel::Name));
+    else
+        Q_EMIT currentPictureChanged(0);
+    Q_EMIT countChanged(count());
+    wakeLoader();
+}
+
+void PictureTable::removeAll()
+{
+    m_model.clear();
+    countTaken();
+    m_headersUpTo = 0;
+    m_order.setProblemsOnly(false);
+    Q_EMIT currentPictureChanged(0);
+    Q_EMIT countChanged(0);
+}
+
+QVariantList PictureTable::selectedIds() const
+{
+    QList<int> rows;
+    const QModelIndexList chosen = selectionModel()->selectedRows();
+    for (const QModelIndex &index : chosen)
+        rows.append(index.row());
+    std::sort(rows.begin(), rows.end());
+    QVariantList found;
+    for (int row : std::as_const(rows))
+        found.append(m_model.row(m_order.mapToSource(m_order.index(row, 0)).row()).id);
+    return found;
+}
+
+void PictureTable::step(int rows)
+{
+    const int last = m_order.rowCount() - 1;
+    if (last < 0)
+        return;
+    const int now = currentIndex().isValid() ? currentIndex().row() : 0;
+    setCurrentIndex(m_order.index(qBound(0, now + rows, last), PictureModel::Name));
+}
+
+void PictureTable::selectId(int id)
+{
+    const QModelIndex index = shownIndex(id);
+    if (index.isValid())
+        setCurrentIndex(index);
+}
+
+QVariant PictureTable::photo(int id)
+{
+    const int index = m_model.indexOfId(id);
+    if (index < 0)
+        return QVariant::fromValue(nullptr);
+    const PictureRow &row = m_model.withHeader(index);
+    return QVariantMap{{QStringLiteral("id"), row.id},
+                       {QStringLiteral("path"), row.path},
+                       {QStringLiteral("name"), row.name},
+                       {QStringLiteral("type"), row.type},
+                       {QStringLiteral("bytes"), double(row.bytes)},
+                       {QStringLiteral("width"), qMax(0, row.pixels.width())},
+                       {QStringLiteral("height"), qMax(0, row.pixels.height())},
+                       {QStringLiteral("orientation"), row.orientation}};
+}
+
+void PictureTable::setPlan(int id, const QString &newName, const QString &newSize)
+{
+    const int index = m_model.indexOfId(id);
+    if (index >= 0)
+        m_model.setPlan(index, newName, newSize);
+}
+
+void PictureTable::setStatus(int id, const QString &kind, const QString &text, const QString &detail)
+{
+    const int index = m_model.indexOfId(id);
+    if (index >= 0)
+        m_model.setStatus(index, kindOf(kind), text, detail);
+}
+
+QVariant PictureTable::shown(int id) const
+{
+    const int index = m_model.indexOfId(id);
+    if (index < 0)
+        return QVariant::fromValue(nullptr);
+    const PictureRow &row = m_model.row(index);
+    return QVariantMap{{QStringLiteral("newName"), row.newName},
+                       {QStringLiteral("newSize"), row.newSize},
+                       {QStringLiteral("status"), row.status}};
+}
+
+void PictureTable::forget(int id)
+{
+    const int index = m_model.indexOfId(id);
+    if (index < 0)
+        return;
+    m_model.forget(index);
+    m_headersUpTo = qMin(m_headersUpTo, index);
+    wakeLoader();
+}
+
+void PictureTable::reveal(int id)
+{
+    const QModelIndex index = shownIndex(id);
+    if (index.isValid() && !hasFocus())
+        scrollTo(index, EnsureVisible);
+}
+
+QModelIndex PictureTable::shownIndex(int id) const
+{
+    const int index = m_model.indexOfId(id);
+    return index < 0 ? QModelIndex() : m_order.mapFromSource(m_model.index(index, PictureModel::Name));
+}
+
+// Left and right walk the list as up and down do: the columns of a row are not places of their own.
+QModelIndex PictureTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    if (action == MoveLeft)
+        action = MoveUp;
+    else if (action == MoveRight)
+        action = MoveDown;
+    return QTableView::moveCursor(action, modifiers);
+}
+
+void PictureTable::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Space && !(event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)))
+        Q_EMIT largePreviewRequested();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void PictureTable::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    arrangeColumns();
+    wakeLoader();
+}
+
+void PictureTable::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    wakeLoader();
+}
+
+void PictureTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.row() != previous.row() || previous.model() == nullptr)
+        Q_EMIT currentPictureChanged(currentId());
+}
+
+void PictureTable::wakeLoader()
+{
+    if (!m_loader.isActive())
+        m_loader.start(0);
+}
+
+void PictureTable::loadSlice()
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (loadNextVisible() || (!m_busy && loadNextHeader())) {
+        if (clock.elapsed() >= sliceMs) {
+            m_loader.start(pauseMs);
+            return;
+        }
+    }
+    if (std::exchange(m_resortPending, false))
+        m_order.sort(horizontalHeader()->sortIndicatorSection(), horizontalHeader()->sortIndicatorOrder());
+}
+
+bool PictureTable::loadNextVisible()
+{
+    if (!isVisible() || m_order.rowCount() == 0)
+        return false;
+    const int first = qMax(0, rowAt(0));
+    const int bottom = rowAt(viewport()->height() - 1);
+    const int last = bottom < 0 ? m_order.rowCount() - 1 : bottom;
+    const QSize thumbnail = PictureDelegate::thumbnailSize() * devicePixelRatioF();
+    for (int i = first; i <= last; ++i) {
+        const int row = m_order.mapToSource(m_order.index(i, 0)).row();
+        if (!m_model.row(row).headerRead) {
+            m_model.withHeader(row);
+            return true;
+        }
+    }
+    for (int i = first; i <= last; ++i) {
+        const int row = m_order.mapToSource(m_order.index(i, 0)).row();
+        if (m_model.hasThumbnail(row) || (m_model.row(row).thumbnailTried && m_model.row(row).pixels.isEmpty()))
+            continue;
+        m_model.loadThumbnail(row, thumbnail);
+        if (m_model.hasThumbnail(row))
+            return true;
+    }
+    return false;
+}
+
+bool PictureTable::loadNextHeader()
+{
+    while (m_headersUpTo < m_model.rowCount()) {
+        const int row = m_headersUpTo++;
+        if (m_model.row(row).headerRead)
+            continue;
+        m_model.withHeader(row);
+        return true;
+    }
+    return false;
+}
+
+} // namespace window

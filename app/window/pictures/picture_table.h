@@ -1,0 +1,130 @@
+#pragma once
+
+#include "app/window/pictures/picture_order.h"
+
+#include <QTableView>
+#include <QTimer>
+#include <QVariant>
+
+namespace window {
+
+/**
+ * The list of input pictures, as windows show it and as scripts handle it. A picture is named by its id.
+ *
+ * Rows stay when another action works on the list; those that it does not take are hidden, and are then in none of the
+ * counts and lists below. Sizes and thumbnails arrive from the event loop in slices of a few milliseconds, those of visible rows first.
+ */
+class PictureTable : public QTableView
+{
+    Q_OBJECT
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_PROPERTY(int currentId READ currentId NOTIFY currentPictureChanged)
+    /** The place of the current picture in the list as it is shown, from 1; 0 where there is none. */
+    Q_PROPERTY(int currentPlace READ currentPlace NOTIFY currentPictureChanged)
+    Q_PROPERTY(bool problemsOnly READ problemsOnly WRITE setProblemsOnly)
+    Q_PROPERTY(bool busy READ isBusy WRITE setBusy)
+
+public:
+    explicit PictureTable(QWidget *parent = nullptr);
+
+    int count() const;
+    int currentId() const;
+    int currentPlace() const { return currentIndex().isValid() ? currentIndex().row() + 1 : 0; }
+    bool problemsOnly() const { return m_order.problemsOnly(); }
+    void setProblemsOnly(bool on);
+    bool isBusy() const { return m_busy; }
+    /** While busy (a job runs) nothing is read in the background for rows that are not visible. */
+    void setBusy(bool busy);
+
+    /**
+     * Says what the action takes: files with one of the extensions, or any file for "*", or folders and no files.
+     */
+    Q_INVOKABLE void setInput(const QStringList &extensions, bool folders);
+    /** How many rows the action does not take. */
+    Q_INVOKABLE int hiddenCount() const { return m_model.rowCount() - m_taken; }
+    /** The paths of these rows, in the order of adding. */
+    Q_INVOKABLE QStringList hiddenPaths() const;
+    /**
+     * Shows these columns only: "thumbnail", "name", "pixels", "size", "type", "newName", "newSize", "status".
+     *
+     * @param headings  other words for the heads of columns, by the same names
+     * @param stressed  new names are what the list is about
+     */
+    Q_INVOKABLE void setColumns(const QStringList &columns, const QVariantMap &headings, bool stressed);
+
+    /** Adds the paths that are not in the list yet; returns how many those were. */
+    Q_INVOKABLE int addPaths(const QStringList &paths);
+    Q_INVOKABLE void removeSelected();
+    Q_INVOKABLE void removeIds(const QVariantList &ids);
+    Q_INVOKABLE void removeAll();
+    /** The path of the picture that is @p rows behind the current one, as the list is shown; empty beyond its ends. */
+    Q_INVOKABLE QString pathBeside(int rows) const;
+    /** The ids of all pictures, in the order shown; in the order of adding while a filter hides some. */
+    Q_INVOKABLE QVariantList ids() const;
+    /** The paths of all pictures, in the order of ids(). */
+    Q_INVOKABLE QStringList paths() const;
+    /** The file of a picture is at another path now, because it was renamed. */
+    Q_INVOKABLE void setPath(int id, const QString &path);
+    /** Shows the pictures with these ids only, and the first of them as the current one if the current one is not among them. */
+    Q_INVOKABLE void showOnly(const QVariantList &ids);
+    /** Takes back showOnly(). */
+    Q_INVOKABLE void showAll();
+    /** The chosen rows, in the order shown. */
+    Q_INVOKABLE QVariantList selectedIds() const;
+    /** Moves the current row by @p rows; stays at the ends. */
+    Q_INVOKABLE void step(int rows);
+    Q_INVOKABLE void selectId(int id);
+    /**
+     * {id, path, name, type (in words), bytes (-1 unknown), width, height (upright; 0 for an unreadable picture),
+     * orientation}. Reads the file's header if need be. Null for an unknown id.
+     */
+    Q_INVOKABLE QVariant photo(int id);
+    Q_INVOKABLE void setPlan(int id, const QString &newName, const QString &newSize);
+    /** @param kind  "none", "waiting", "planned", "busy", "good", "bad" or "caution" */
+    Q_INVOKABLE void setStatus(int id, const QString &kind, const QString &text, const QString &detail);
+    /** {newName, newSize, kind, status} as the list shows them; null for an unknown id. */
+    Q_INVOKABLE QVariant shown(int id) const;
+    Q_INVOKABLE void forget(int id);
+    /** Scrolls so that the row can be seen, unless the user works in the list. */
+    Q_INVOKABLE void reveal(int id);
+
+Q_SIGNALS:
+    void countChanged(int count);
+    /** The pictures are shown in another order. */
+    void orderChanged();
+    void currentPictureChanged(int id);
+    void largePreviewRequested();
+
+protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void prepareHeader();
+    void arrangeColumns();
+    void loadSlice();
+    bool loadNextVisible();
+    bool loadNextHeader();
+    void wakeLoader();
+    QModelIndex shownIndex(int id) const;
+    std::vector<int> rowsInOrder() const;
+    void countTaken();
+    /** Keeps a row current as long as there is one. */
+    void chooseSomeRow();
+
+    PictureModel m_model;
+    PictureOrder m_order;
+    QTimer m_loader;
+    int m_headersUpTo = 0;
+    bool m_busy = false;
+    bool m_resortPending = false;
+    bool m_arranging = false;
+    int m_taken = 0; ///< rows that the action takes
+    std::vector<bool> m_columnShown;
+    bool m_columnsChosen = false; ///< by hand; then their widths are left alone
+};
+
+} // namespace window

@@ -1,0 +1,170 @@
+#pragma once
+
+#include "app/window/preview/crop_frame_editor.h"
+#include "app/window/preview/picture_ahead.h"
+#include "app/window/preview/preview_deeds.h"
+#include "app/window/preview/result_estimate.h"
+#include "platform/graphics/picture.h"
+#include "views/my2ndPhotoView.h"
+#include "views/myMainPhotoView.h"
+
+#include <QImage>
+#include <QJSValue>
+#include <QPixmap>
+#include <QTimer>
+#include <QVariantMap>
+#include <QWidget>
+
+namespace window {
+
+struct PreviewHost;
+
+/**
+ * The current picture and, beside it, what the settings make of it, on a dark surround.
+ *
+ * The picture is decoded once for its size on the screen, from the event loop when picture and size have settled; what is
+ * decoded is kept. A result is made of it from the event loop too, and only the last one that was asked for. With "fit" a
+ * picture is never shown larger than its own pixels; with "fill" it covers its half.
+ */
+class ComparePreview : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(bool fill READ fill WRITE setFill)
+    Q_PROPERTY(bool showsResult READ showsResult WRITE setShowsResult)
+    /** What is shown, for now, in the place of a picture that is not there; empty for the usual sentence. */
+    Q_PROPERTY(QString problem READ problem WRITE setProblem)
+    /** The size that the file of the result will have, see resultEstimated(); -1 while it is not known. */
+    Q_PROPERTY(double estimatedBytes READ estimatedBytes)
+
+public:
+    explicit ComparePreview(QWidget *parent = nullptr);
+    ~ComparePreview() override;
+
+    bool fill() const { return m_fill; }
+    void setFill(bool fill);
+    bool showsResult() const { return m_showsResult; }
+    void setShowsResult(bool shows);
+
+    QString problem() const { return m_givenProblem; }
+    void setProblem(const QString &problem);
+
+    double estimatedBytes() const { return m_estimate.bytes(); }
+
+    /** Shows the picture at @p path, or nothing where it is empty. */
+    Q_INVOKABLE void showPicture(const QString &path);
+    /** Pictures that will probably be shown next, the likeliest first: they are decoded beforehand. */
+    Q_INVOKABLE void prepare(const QStringList &paths) { m_ahead.want(paths); }
+    /** Reads the file again, because it was written. */
+    Q_INVOKABLE void reload();
+    /**
+     * What the result half shows.
+     *
+     * @param result  {deeds: list, see preview_deeds.h; width, height: pixels of the result; type: its type identifier;
+     *                quality: quality code, "" where the action has none; message: shown instead where width is 0}.
+     *                A deed that is not known is a TypeError.
+     */
+    Q_INVOKABLE void showResult(const QVariantMap &result);
+    Q_INVOKABLE void setTitles(const QString &original, const QString &result);
+    Q_INVOKABLE void setCaptions(const QString &original, const QString &result);
+    /** A second line under the result: what it will not hold. */
+    Q_INVOKABLE void setNotes(const QString &notes);
+
+    /**
+     * A frame on the original that can be moved and sized: {x, y, width, height: pixels of the upright original; ratio:
+     * width by height to keep, 0 for free}; null takes it away. Meanwhile the result is shown at the original's scale.
+     */
+    Q_INVOKABLE void setCropFrame(const QJSValue &frame);
+    /** A Picture that is drawn over the whole original, or null; it is seen where there is a crop frame. */
+    Q_INVOKABLE void setOverlay(const QJSValue &picture);
+
+    /** Covers the parent from now on, also when that changes its size. */
+    void coverParent();
+
+    QSize sizeHint() const override { return {640, 360}; }
+    QSize minimumSizeHint() const override { return {240, 120}; }
+
+Q_SIGNALS:
+    void stepRequested(int rows);
+    void largePreviewRequested();
+    void closeRequested();
+    /** A picture was decoded and is on the screen. */
+    void pictureShown();
+    /** A result was made and is on the screen. */
+    void resultShown();
+    /** How large the file of the result will be, a while after the last change; exact for BMP and for small results. */
+    void resultEstimated(double bytes);
+    /** The user moved or sized the crop frame; pixels of the upright original. */
+    void cropFrameEdited(int x, int y, int width, int height);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    /** What was asked for last. */
+    struct Wanted
+    {
+        Deeds deeds;
+        QSize size;
+        QString message;
+        QString type;
+        QString qualityCode;
+    };
+
+    void load();
+    void openPicture();
+    void fitViews();
+    void render();
+    void placeCropFrame();
+    void prepareOverlay();
+    void showCropped();
+    QRectF croppedRect() const;
+    void paintCropped(QPainter &painter) const;
+    void describe();
+    QRect originalArea() const;
+    QRect resultArea() const;
+    QSizeF shownSize(QSize pixels, const QRect &area) const;
+    QRectF pictureRect(QSize pixels, const QRect &area) const;
+    QSize decodedSize(QSize pixels) const;
+    void paintOriginal(QPainter &painter) const;
+    void paintResult(QPainter &painter) const;
+    void paintMessage(QPainter &painter, const QRect &area, const QString &message) const;
+    const QPixmap &scaledResult(QSize devicePixels) const;
+
+    QString m_path;
+    PictureAhead m_ahead;
+    platform::Picture m_picture; ///< one pixel a point
+    platform::Bitmap m_base;     ///< the picture at its size on the screen
+    bool m_isStale = false;      ///< the file is to be opened again
+    QString m_problem;           ///< in words, where the picture cannot be shown
+    QString m_givenProblem;      ///< what stands there instead
+    std::unique_ptr<PreviewHost> m_mainHost;
+    std::unique_ptr<PreviewHost> m_cropHost;
+    myMainPhotoView m_mainView;
+    my2ndPhotoView m_cropView;
+    CropFrameEditor *m_cropFrame;
+    platform::Picture m_overlay;
+    QTimer m_settled;
+    QTimer m_asked;
+    bool m_fill = false;
+    bool m_showsResult = true;
+    Wanted m_wanted;
+    Rendition m_result;
+    QImage m_resultImage;
+    ResultEstimate m_estimate;
+    QString m_resultProblem;
+    mutable QPixmap m_scaledResult;
+    QString m_originalTitle;
+    QString m_resultTitle;
+    QString m_originalCaption;
+    QString m_resultCaption;
+    QString m_notes;
+};
+
+} // namespace window

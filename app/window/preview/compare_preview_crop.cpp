@@ -1,0 +1,90 @@
+#include "app/seam/picture_object.h"
+#include "app/seam/seam.h"
+#include "app/window/preview/compare_preview.h"
+#include "app/window/preview/preview_host.h"
+#include "app/window/preview/preview_paint.h"
+
+#include "platform/graphics/resample.h"
+#include "views/bounds_text.h"
+
+#include <QPainter>
+
+namespace window {
+
+void ComparePreview::setCropFrame(const QJSValue &frame)
+{
+    const QVariantMap map = frame.toVariant().toMap();
+    const auto whole = [&map](const char *name) { return qRound(map.value(QString::fromLatin1(name)).toDouble()); };
+    const bool wasShown = m_cropFrame->isShown();
+    m_cropFrame->setFrame(QRect(whole("x"), whole("y"), whole("width"), whole("height")),
+                          map.value(QStringLiteral("ratio")).toDouble());
+    if (wasShown != m_cropFrame->isShown())
+        m_asked.start(0);
+}
+
+void ComparePreview::setOverlay(const QJSValue &picture)
+{
+    const script::Seam *seam = script::Seam::of(qjsEngine(this));
+    const auto *object = seam ? qobject_cast<script::PictureObject *>(seam->objectOf(picture)) : nullptr;
+    m_overlay = object ? object->picture() : platform::Picture();
+    prepareOverlay();
+}
+
+void ComparePreview::placeCropFrame()
+{
+    m_cropFrame->setPlace(pictureRect(m_picture.pixelSize(), originalArea()), originalArea(),
+                          m_base.isNull() ? QSize() : m_picture.pixelSize());
+    prepareOverlay();
+}
+
+void ComparePreview::prepareOverlay()
+{
+    QImage image;
+    if (!m_overlay.isNull() && !m_base.isNull())
+        image =
+            platform::resampleRoughly(m_overlay.bitmap(), m_base.size()).value_or(platform::Bitmap()).toScreenImage();
+    m_cropFrame->setOverlay(image);
+}
+
+/**
+ * Hands the result to the crop preview view, which shows it at the scale of the original: in the middle of an empty picture
+ * of the original's size, fitted into the bounds that the original's view has published.
+ */
+void ComparePreview::showCropped()
+{
+    const QSizeF bounds = m_mainView.frame().size();
+    if (views::publishedBounds() != bounds)
+        m_mainView.boundsDidChangeNotification({});
+    m_cropHost->content = QSizeF(resultArea().size()) * devicePixelRatioF();
+    const QSize canvas = m_base.size().expandedTo(m_result.bitmap.size());
+    const QSize margin = (canvas - m_result.bitmap.size()) / 2;
+    const auto placed = platform::placed(m_result.bitmap, QPoint(margin.width(), margin.height()), canvas);
+    m_cropView.setImage(platform::Picture(placed.value_or(platform::Bitmap()), QSizeF(m_picture.pixelSize())));
+}
+
+/** Where the result is on the screen: at the scale of the original. */
+QRectF ComparePreview::croppedRect() const
+{
+    const qreal ratio = devicePixelRatioF();
+    const QRectF bounds = pictureRect(m_picture.pixelSize(), resultArea());
+    const double scale = bounds.width() / m_picture.pixelSize().width();
+    const QSizeF shown = QSizeF(wholePixels(QSizeF(m_result.full) * scale * ratio)) / ratio;
+    QRectF place(QPointF(0, 0), shown);
+    place.moveCenter(QRectF(resultArea()).center());
+    return place;
+}
+
+void ComparePreview::paintCropped(QPainter &painter) const
+{
+    const QRectF place = croppedRect();
+    paintShadow(painter, place);
+    if (m_resultImage.hasAlphaChannel())
+        paintCheckerboard(painter, place);
+    painter.save();
+    painter.translate(resultArea().topLeft());
+    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+    m_cropView.draw(painter, views::Medium::Screen);
+    painter.restore();
+}
+
+} // namespace window

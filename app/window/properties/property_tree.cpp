@@ -1,0 +1,174 @@
+#include "app/window/properties/property_tree.h"
+
+#include "platform/imageio/image_source.h"
+#include "platform/imageio/property_labels.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QTreeWidgetItemIterator>
+
+namespace window {
+namespace {
+
+constexpr int rowHeightPx = 24;
+
+/** "Exposure time: 1/250 s", and below a branch each of its lines, further in. */
+void addLines(QStringList &lines, const QTreeWidgetItem &item, int depth)
+{
+    const QString value = item.text(1);
+    lines << QString(2 * depth, u' ') + item.text(0) + (value.isEmpty() ? QString() : QStringLiteral(": ") + value);
+    for (int i = 0; i < item.childCount(); ++i)
+        if (!item.child(i)->isHidden())
+            addLines(lines, *item.child(i), depth + 1);
+}
+
+} // namespace
+
+PropertyTree::PropertyTree(QWidget *parent) : QTreeWidget(parent)
+{
+    setColumnCount(2);
+    setHeaderLabels({tr("Property"), tr("Value")});
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setFrameShape(NoFrame);
+    addMenu();
+    header()->setSectionResizeMode(0, QHeaderView::Interactive);
+    header()->setStretchLastSection(true);
+    constexpr int namesPx = 260;
+    header()->resizeSection(0, namesPx);
+    connect(this, &QTreeWidget::itemExpanded, this,
+            [this](QTreeWidgetItem *item) { m_closed.removeAll(item->text(0)); });
+    connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem *item) {
+        if (!m_closed.contains(item->text(0)))
+            m_closed << item->text(0);
+    });
+}
+
+void PropertyTree::addMenu()
+{
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    addAction(tr("Copy"), this, [this] { copyChosen(); });
+    for (const auto &[text, form] : {std::pair(tr("Copy Place in Degrees"), QStringLiteral("degrees")),
+                                     std::pair(tr("Copy Place in Minutes"), QStringLiteral("minutes"))})
+        addAction(text, this, [this, form = form] { copyPlace(form); })->setObjectName(form);
+}
+
+void PropertyTree::add(const QVariantMap &properties, QTreeWidgetItem *above)
+{
+    for (auto entry = properties.begin(); entry != properties.end(); ++entry) {
+        auto *item = above ? new QTreeWidgetItem(above) : new QTreeWidgetItem(this);
+        item->setText(0, platform::propertyLabel(entry.key()));
+        item->setSizeHint(0, QSize(0, rowHeightPx));
+        if (entry.value().typeId() == QMetaType::QVariantMap) {
+            add(entry.value().toMap(), item);
+            continue;
+        }
+        const QString words = propertyWords(entry.key(), entry.value(), properties);
+        item->setText(1, QString(words).replace(u'\n', u' '));
+        item->setToolTip(1, words);
+        item->setToolTip(0, entry.key());
+    }
+}
+
+bool PropertyTree::showFile(const QString &path)
+{
+    const auto source = platform::ImageSource::open(path);
+    const QVariantMap properties = source ? source->properties() : QVariantMap();
+    setUpdatesEnabled(false);
+    clear();
+    add(properties, nullptr);
+    m_place = placeOf(properties);
+    for (const char *form : {"degrees", "minutes"})
+        findChild<QAction *>(QString::fromLatin1(form))->setEnabled(hasPlace());
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        QTreeWidgetItem *item = topLevelItem(i);
+        const bool open = !m_closed.contains(item->text(0));
+        item->setExpanded(open);
+        filter(item, m_words.isEmpty());
+    }
+    setUpdatesEnabled(true);
+    return source.has_value();
+}
+
+/** Shown is what matches, what lies below a name that matches, and the way to it. */
+bool PropertyTree::filter(QTreeWidgetItem *item, bool isShown)
+{
+    bool matches = true;
+    for (const QString &word : m_words)
+        matches = matches && (item->text(0).contains(word, Qt::CaseInsensitive) ||
+                              item->text(1).contains(word, Qt::CaseInsensitive));
+    isShown = isShown || matches;
+    bool any = isShown;
+    for (int i = 0; i < item->childCount(); ++i)
+        any = filter(item->child(i), isShown) || any;
+    item->setHidden(!any);
+    if (!m_words.isEmpty() && any && item->childCount() > 0) {
+        const QStringList closed = m_closed; // found is shown, whatever was closed before
+        item->setExpanded(true);
+        m_closed = closed;
+    }
+    return any;
+}
+
+void PropertyTree::look(const QString &text)
+{
+    m_words = text.split(u' ', Qt::SkipEmptyParts);
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        filter(topLevelItem(i), m_words.isEmpty());
+}
+
+int PropertyTree::shownCount() const
+{
+    int count = 0;
+    for (QTreeWidgetItemIterator it(const_cast<PropertyTree *>(this)); *it; ++it)
+        count += (*it)->childCount() == 0 && !(*it)->isHidden();
+    return count;
+}
+
+int PropertyTree::copyChosen() const
+{
+    const QTreeWidgetItem *item = currentItem();
+    if (!item)
+        return 0;
+    QStringList lines;
+    addLines(lines, *item, 0);
+    const bool isValue = item->childCount() == 0;
+    QGuiApplication::clipboard()->setText(isValue ? item->toolTip(1) : lines.join(u'\n'));
+    return int(lines.size());
+}
+
+QString PropertyTree::copyPlace(const QString &form) const
+{
+    if (!m_place)
+        return {};
+    const QString words =
+        placeWords(*m_place, form == QLatin1String("minutes") ? PlaceForm::Minutes : PlaceForm::Degrees);
+    QGuiApplication::clipboard()->setText(words);
+    return words;
+}
+
+QString PropertyTree::words(const QStringList &names) const
+{
+    const QTreeWidgetItem *item = invisibleRootItem();
+    for (const QString &name : names) {
+        const QTreeWidgetItem *found = nullptr;
+        for (int i = 0; item && i < item->childCount(); ++i)
+            if (item->child(i)->text(0) == name)
+                found = item->child(i);
+        item = found;
+    }
+    return item && item != invisibleRootItem() ? item->text(1) : QString();
+}
+
+void PropertyTree::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copyChosen();
+    else
+        QTreeWidget::keyPressEvent(event);
+}
+
+} // namespace window

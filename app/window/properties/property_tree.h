@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/window/properties/property_words.h"
+
+#include <QTreeWidget>
+#include <QVariant>
+
+#include <optional>
+
+namespace window {
+
+/**
+ * The properties of one picture as a tree with names and values, units in words; searched, and copied by value or branch.
+ *
+ * What was opened and closed stays so from picture to picture.
+ */
+class PropertyTree : public QTreeWidget
+{
+    Q_OBJECT
+    /** How many values are shown. */
+    Q_PROPERTY(int shownCount READ shownCount)
+    /** Whether the picture tells where it was taken. */
+    Q_PROPERTY(bool hasPlace READ hasPlace)
+
+public:
+    explicit PropertyTree(QWidget *parent = nullptr);
+
+    int shownCount() const;
+    bool hasPlace() const { return m_place.has_value(); }
+
+    /** Shows the properties of the file at @p path; false, and nothing shown, for what is no picture. */
+    Q_INVOKABLE bool showFile(const QString &path);
+    /** Shows the values in whose name or words every word of @p text occurs, in any case of letters. */
+    Q_INVOKABLE void look(const QString &text);
+    /** Puts the chosen value, or all of the chosen branch, on the clipboard; returns how many lines. */
+    Q_INVOKABLE int copyChosen() const;
+    /** Puts the place on the clipboard, in "degrees" or in "minutes", and returns it; see placeWords(). */
+    Q_INVOKABLE QString copyPlace(const QString &form) const;
+    /** The value in words of a property, by the names shown: ["Exif", "F-number"]; "" where it is not there. For tests and scripts. */
+    Q_INVOKABLE QString words(const QStringList &names) const;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void add(const QVariantMap &properties, QTreeWidgetItem *above);
+    bool filter(QTreeWidgetItem *item, bool isShown);
+
+    void addMenu();
+
+    std::optional<Place> m_place;
+    QStringList m_words; ///< looked for
+    QStringList m_closed;
+};
+
+} // namespace window

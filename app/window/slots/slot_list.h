@@ -1,0 +1,96 @@
+#pragma once
+
+#include "app/window/slots/slot_rows.h"
+
+#include <QListView>
+#include <QTimer>
+#include <QVariant>
+
+class QShortcut;
+
+namespace window {
+
+/**
+ * Folders as slots with keys. A key, a click or Enter chooses a slot; F2 edits its label; slots are dragged to another place, and
+ * folders that are dropped on the list become new ones. What that does is the script's affair.
+ *
+ * The keys work wherever the focus is in the window, but in fields that take text, while the list is visible and active.
+ */
+class SlotList : public QListView
+{
+    Q_OBJECT
+    Q_PROPERTY(bool active READ isActive WRITE setActive)
+    Q_PROPERTY(int count READ count)
+    /** The row that the menu and the keyboard work on; -1 where there is none. */
+    Q_PROPERTY(int current READ current)
+
+public:
+    explicit SlotList(QWidget *parent = nullptr);
+
+    bool isActive() const { return m_active; }
+    void setActive(bool active);
+    int count() const { return m_rows.count(); }
+    int current() const { return currentIndex().row(); }
+
+    /** @param slots  [{key ("1", "A", "Shift+A"), label, note, problem, count}, ...], see window::Slot */
+    Q_INVOKABLE void setSlots(const QVariantList &slots);
+    /** The entries of the menu of a slot and what they are called; "-" is a separator. */
+    Q_INVOKABLE void setMenu(const QStringList &texts, const QStringList &deeds);
+    Q_INVOKABLE void editLabel(int row);
+    /** Lights a slot up for a moment, because something went there. */
+    Q_INVOKABLE void light(int row);
+    Q_INVOKABLE void reveal(int row);
+    Q_INVOKABLE void choose(int row) { setCurrentIndex(m_rows.index(row)); }
+
+    const SlotRows &rows() const { return m_rows; }
+    int litRow() const { return m_litTimer.isActive() ? m_lit : -1; }
+    int slotWidth() const;
+
+    /** As high as all slots in one column; with less room they scroll. */
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    void slotChosen(int row);
+    void labelEdited(int row, const QString &label);
+    /** A slot was dragged so that it should stand at @p to. */
+    void slotMoved(int from, int to);
+    void foldersDropped(const QStringList &paths);
+    void menuChosen(int row, const QString &deed);
+    /** Another slot is the one that the menu and the keyboard work on. */
+    void currentSlotChanged(int row);
+
+protected:
+    bool event(QEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void startDrag(Qt::DropActions actions) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void makeShortcuts();
+    void arrange();
+    int rowAt(QPoint place) const;
+
+    SlotRows m_rows;
+    QList<QShortcut *> m_shortcuts;
+    QStringList m_menuTexts;
+    QStringList m_menuDeeds;
+    bool m_active = true;
+    int m_columns = 1;
+    int m_pressed = -1;
+    int m_dragged = -1;
+    int m_dropRow = -1;
+    int m_lit = -1;
+    QTimer m_litTimer;
+};
+
+} // namespace window

@@ -1,0 +1,136 @@
+#include "files/items/convert_type.h"
+
+#include "platform/file/atomic_file.h"
+#include "platform/imageio/image_destination.h"
+#include "platform/imageio/image_source.h"
+
+#include <array>
+
+namespace files {
+namespace {
+
+using platform::Bitmap;
+using platform::FileFormat;
+using platform::ImageSource;
+using platform::Metadata;
+using platform::Result;
+
+struct Keyword
+{
+    QLatin1String text;
+    TargetType type;
+};
+
+constexpr std::array<Keyword, 7> keywords = {{
+    {QLatin1String("pdf"), TargetType::Pdf},
+    {QLatin1String("png"), TargetType::Png},
+    {QLatin1String("tiff"), TargetType::Tiff},
+    {QLatin1String("bmp"), TargetType::Bmp},
+    {QLatin1String("gif"), TargetType::Gif},
+    {QLatin1String("jpeg"), TargetType::Jpeg},
+    {QLatin1String("jp2"), TargetType::Jpeg2000},
+}};
+
+platform::EncodeOptions withResolution()
+{
+    platform::EncodeOptions options;
+    options.resolution = platform::WriteResolution::Yes;
+    return options;
+}
+
+/** The source's metadata, with the orientation that its stored pixels have and nothing else claims. */
+Metadata metadataForStoredPixels(const ImageSource &source)
+{
+    return source.metadata().withOrientation(source.orientation());
+}
+
+Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, const Metadata &metadata,
+                                  const QString &destination)
+{
+    const platform::Forms forms = format == FileFormat::Tiff ? platform::Forms::AsTiffHolds : platform::Forms::Plain;
+    const Result<QByteArray> plain =
+        source.decode({0, platform::Orientation::AsStored, forms, format}).and_then([format](const Bitmap &bitmap) {
+            return platform::encodeImage(bitmap, format, withResolution());
+        });
+    if (!plain)
+        return tl::unexpected<platform::Error>(plain.error());
+    return platform::replaceFile(destination, *plain).and_then([&] {
+        return metadata.writtenInto(*plain).and_then(
+            [&](const QByteArray &whole) { return platform::replaceFile(destination, whole); });
+    });
+}
+
+Result<void> writePixels(const ImageSource &source, FileFormat format, const Conversion &conversion)
+{
+    return source.decode({.written = format}).and_then([&](const Bitmap &bitmap) {
+        platform::EncodeOptions options = withResolution();
+        options.lossyQuality = conversion.quality;
+        return platform::writeImageFile(conversion.destination, bitmap, format, options);
+    });
+}
+
+/** The short way, or the one that always goes. */
+template<typename Way> Result<void> orElse(const Result<bool> &shortWay, Way otherWay)
+{
+    if (!shortWay)
+        return tl::unexpected<platform::Error>(shortWay.error());
+    return *shortWay ? Result<void>() : otherWay();
+}
+
+Result<void> writePage(const ImageSource &source, const QString &destination)
+{
+    return source.asPdfPage().and_then(
+        [&](const QByteArray &page) { return platform::replaceFile(destination, page); });
+}
+
+Result<void> write(const ImageSource &source, const Conversion &conversion)
+{
+    switch (conversion.type) {
+    case TargetType::Pdf:
+        return writePage(source, conversion.destination);
+    case TargetType::Png:
+        return writeKeepingMetadata(source, FileFormat::Png, metadataForStoredPixels(source), conversion.destination);
+    case TargetType::Tiff: {
+        const Metadata metadata = metadataForStoredPixels(source);
+        return orElse(source.writeRowsAsTiff(conversion.destination, metadata),
+                      [&] { return writeKeepingMetadata(source, FileFormat::Tiff, metadata, conversion.destination); });
+    }
+    case TargetType::Bmp:
+        return orElse(source.writeRowsAsBmp(conversion.destination),
+                      [&] { return writePixels(source, FileFormat::Bmp, conversion); });
+    case TargetType::Gif:
+        return writePixels(source, FileFormat::Gif, conversion);
+    case TargetType::Jpeg:
+        return writePixels(source, FileFormat::Jpeg, conversion);
+    case TargetType::Jpeg2000:
+        return writePixels(source, FileFormat::Jpeg2000, conversion);
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+std::optional<TargetType> targetTypeFor(const QString &keyword)
+{
+    for (const Keyword &entry : keywords)
+        if (keyword == entry.text)
+            return entry.type;
+    return std::nullopt;
+}
+
+double conversionQuality(const QString &code)
+{
+    const bool isOneToEight = code.size() == 1 && code[0] >= u'1' && code[0] <= u'8';
+    constexpr double steps = 10;
+    constexpr double highest = 0.9;
+    return isOneToEight ? (code[0].unicode() - u'0') / steps : highest;
+}
+
+Result<void> convertFile(const Conversion &conversion)
+{
+    return ImageSource::open(conversion.source).and_then([&](const ImageSource &source) {
+        return write(source, conversion);
+    });
+}
+
+} // namespace files

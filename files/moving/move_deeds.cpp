@@ -1,0 +1,417 @@
+#include "files/moving/move_deeds.h"
+
+#include "files/planning/move_names.h"
+
+#include "platform/foundation/paths.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace files {
+namespace {
+
+using platform::ItemKind;
+using platform::ItemState;
+using platform::joinedPath;
+using platform::lastPathComponent;
+using platform::parentFolder;
+
+QString said(const char *sentence, const QString &name)
+{
+    return QCoreApplication::translate("files", sentence).arg(name);
+}
+
+DeedOutcome failed(const QString &code, const QString &path)
+{
+    return {code, MoveDeeds::sentence(code, path), {}, {}};
+}
+
+/** The standard library has no name for a user's share of the disk being used up. */
+bool isForLackOfRoom(const std::error_code &error)
+{
+    return error == std::errc::no_space_on_device || error == std::error_code(EDQUOT, std::generic_category());
+}
+
+} // namespace
+
+DeedOutcome failureFor(const std::error_code &error, const QString &path, const QString &to)
+{
+    if (error == std::errc::file_exists || error == std::errc::directory_not_empty)
+        return failed(QStringLiteral("taken"), to);
+    if (error == std::errc::no_such_file_or_directory)
+        return failed(QStringLiteral("gone"), path);
+    if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
+        error == std::errc::read_only_file_system)
+        return failed(QStringLiteral("locked"), path);
+    if (isForLackOfRoom(error))
+        return failed(QStringLiteral("full"), path);
+    if (error == std::errc::invalid_argument)
+        return failed(QStringLiteral("illegal"), to);
+    if (error == std::errc::filename_too_long)
+        return failed(QStringLiteral("long"), to);
+    DeedOutcome other;
+    other.code = QStringLiteral("other");
+    other.message = QCoreApplication::translate("files", "%1 stays as it is: %2")
+                        .arg(lastPathComponent(path), QString::fromLocal8Bit(error.message().c_str()));
+    return other;
+}
+
+QString MoveDeeds::sentence(const QString &code, const QString &path)
+{
+    const QString name = lastPathComponent(path);
+    if (code == QStringLiteral("taken"))
+        return said(QT_TRANSLATE_NOOP("files", "The name %1 is taken"), name);
+    if (code == QStringLiteral("gone"))
+        return said(QT_TRANSLATE_NOOP("files", "%1 is not there any more"), name);
+    if (code == QStringLiteral("changed"))
+        return said(QT_TRANSLATE_NOOP("files", "%1 was changed or replaced in the meantime"), name);
+    if (code == QStringLiteral("locked"))
+        return said(QT_TRANSLATE_NOOP("files", "%1 or its folder may not be changed"), name);
+    if (code == QStringLiteral("full"))
+        return said(QT_TRANSLATE_NOOP("files", "There is no room left on the disk for %1"), name);
+    if (code == QStringLiteral("long"))
+        return said(QT_TRANSLATE_NOOP("files", "The name %1 is too long for this disk"), name);
+    if (code == QStringLiteral("illegal"))
+        return said(QT_TRANSLATE_NOOP("files", "The name %1 cannot be used on this disk"), name);
+    if (code == QStringLiteral("original"))
+        return said(QT_TRANSLATE_NOOP("files", "%1 is the original itself by now, no copy of it"), name);
+    if (code == QStringLiteral("inside"))
+        return said(QT_TRANSLATE_NOOP("files", "The folder %1 cannot go into itself"), name);
+    if (code == QStringLiteral("circle"))
+        return said(QT_TRANSLATE_NOOP("files", "%1 could not get its new name, and others wait for its old one"), name);
+    if (code == QStringLiteral("leader"))
+        return said(QT_TRANSLATE_NOOP("files", "%1, which it belongs to, keeps its name"), name);
+    return said(QT_TRANSLATE_NOOP("files", "%1 could not be copied correctly"), name);
+}
+
+QString asidePath(const QString &run, int index, const MoveItem &item)
+{
+    return joinedPath(parentFolder(item.isAhead ? item.to : item.from),
+                      QStringLiteral(".quorlin-aside-%1-%2").arg(run).arg(index));
+}
+
+QString partPath(const QString &run, int index, const QString &to)
+{
+    return joinedPath(parentFolder(to), QStringLiteral(".quorlin-aside-%1-%2-copy").arg(run).arg(index));
+}
+
+DeedOutcome MoveDeeds::carryOut(int index, const MoveItem &item, const QString &source)
+{
+    if (item.deed == Deed::Link)
+        return linked(item);
+    const auto state = m_disk.look(source);
+    if (!state)
+        return failed(QStringLiteral("gone"), item.from);
+    if (item.was && !isSameItem(*state, *item.was))
+        return failed(QStringLiteral("changed"), item.from);
+    switch (item.deed) {
+    case Deed::Move:
+        return moved(index, item, source);
+    case Deed::Copy:
+        return copied(index, source, item.to);
+    case Deed::Trash:
+        return trashed(source);
+    case Deed::RemoveCopy:
+        return copyRemoved(item);
+    case Deed::RemoveLink:
+        return linkRemoved(index, item);
+    case Deed::Restore:
+        return restored(item);
+    case Deed::Link:
+        break;
+    }
+    Q_UNREACHABLE();
+}
+
+DeedOutcome MoveDeeds::stepAside(int index, const MoveItem &item)
+{
+    const auto state = m_disk.look(item.from);
+    if (!state)
+        return failed(QStringLiteral("gone"), item.from);
+    if (item.was && !isSameItem(*state, *item.was))
+        return failed(QStringLiteral("changed"), item.from);
+    const QString aside = asidePath(m_run, index, item);
+    if (const std::error_code error = m_disk.rename(item.from, aside))
+        return failureFor(error, item.from, aside);
+    return {{}, {}, aside, state};
+}
+
+DeedOutcome MoveDeeds::done(const QString &path) const
+{
+    return {{}, {}, path, m_disk.look(path)};
+}
+
+DeedOutcome MoveDeeds::moved(int index, const MoveItem &item, const QString &source)
+{
+    DeedOutcome outcome = move(index, source, item.to);
+    if (outcome.code == QStringLiteral("taken") && source == item.from && isSameUnderOtherCase(source, item.to))
+        return renamedInCase(index, item.from, item.to);
+    return outcome;
+}
+
+DeedOutcome MoveDeeds::move(int index, const QString &from, const QString &to)
+{
+    if (DeedOutcome made = madeFolders(parentFolder(to)); !made.code.isEmpty())
+        return made;
+    const std::error_code error = m_disk.rename(from, to);
+    if (!error)
+        return done(to);
+    if (error == std::errc::cross_device_link)
+        return movedToOtherDisk(index, from, to);
+    return error == std::errc::invalid_argument && isInside(parentFolder(to), from)
+               ? failed(QStringLiteral("inside"), from)
+               : failureFor(error, from, to);
+}
+
+/** By identity, so that another road to a folder, such as a second mount of its disk, is seen through. */
+bool MoveDeeds::isInside(const QString &folder, const QString &item) const
+{
+    const auto outer = m_disk.look(item);
+    for (QString inner = m_disk.canonicalFolder(folder); outer && !inner.isEmpty(); inner = parentFolder(inner)) {
+        const auto state = m_disk.look(inner);
+        if (state && isOneItem(*state, *outer))
+            return true;
+        if (inner.size() < 2)
+            break;
+    }
+    return false;
+}
+
+/** On a disk that does not tell cases apart, the new name seems to be taken by the item itself. */
+bool MoveDeeds::isSameUnderOtherCase(const QString &from, const QString &to) const
+{
+    const QString folder = parentFolder(from);
+    const QString name = lastPathComponent(to);
+    if (folder != parentFolder(to) || nameKey(lastPathComponent(from)) != nameKey(name))
+        return false;
+    const auto one = m_disk.look(from);
+    const auto other = m_disk.look(to);
+    const auto entries = m_disk.list(m_disk.canonicalFolder(folder));
+    return one && other && entries && isSameItem(*one, *other) &&
+           std::none_of(entries->begin(), entries->end(),
+                        [&](const platform::FolderEntry &entry) { return entry.name == name; });
+}
+
+DeedOutcome MoveDeeds::renamedInCase(int index, const QString &from, const QString &to)
+{
+    const QString aside = asidePath(m_run, index, {Deed::Move, from, to});
+    if (const std::error_code error = m_disk.rename(from, aside))
+        return failureFor(error, from, aside);
+    const std::error_code error = m_disk.rename(aside, to);
+    if (!error)
+        return done(to);
+    if (m_disk.rename(aside, from))
+        return {QStringLiteral("taken"), sentence(QStringLiteral("taken"), to), aside, {}};
+    return failureFor(error, from, to);
+}
+
+DeedOutcome MoveDeeds::copied(int index, const QString &from, const QString &to)
+{
+    if (DeedOutcome made = madeFolders(parentFolder(to)); !made.code.isEmpty())
+        return made;
+    if (m_disk.look(to))
+        return failed(QStringLiteral("taken"), to);
+    if (isInside(parentFolder(to), from))
+        return failed(QStringLiteral("inside"), from);
+    const QString part = partPath(m_run, index, to);
+    discard(part);
+    DeedOutcome outcome;
+    if (const std::error_code error = m_disk.copy(from, part))
+        outcome = failureFor(error, from, to);
+    else if (!m_disk.haveSameContent(from, part) && m_disk.look(from))
+        outcome = failed(QStringLiteral("damaged"), from);
+    else if (const auto state = m_disk.look(part); !state)
+        outcome = failed(QStringLiteral("damaged"), from);
+    else if (const QString problem = m_log.noteCopy(index, *state); !problem.isEmpty())
+        outcome = {QStringLiteral("other"), problem, {}, {}};
+    else if (const std::error_code taken = m_disk.rename(part, to))
+        outcome = failureFor(taken, from, to);
+    if (!outcome.code.isEmpty()) {
+        discard(part);
+        return outcome;
+    }
+    settleWayTo(to);
+    return done(to);
+}
+
+/** A name is on the disk only when the names of all the new folders above it are. */
+void MoveDeeds::settleWayTo(const QString &path)
+{
+    m_disk.settle(parentFolder(path));
+    const auto isAbove = [&](const QString &folder) { return path.startsWith(folder + u'/'); };
+    for (const QString &folder : m_newFolders)
+        if (isAbove(folder))
+            m_disk.settle(parentFolder(folder));
+    m_newFolders.removeIf(isAbove);
+}
+
+void MoveDeeds::discard(const QString &path)
+{
+    if (m_disk.look(path) && m_disk.discard(path))
+        m_hasLeftOver = true;
+}
+
+DeedOutcome MoveDeeds::movedToOtherDisk(int index, const QString &from, const QString &to)
+{
+    if (!m_disk.mayBeTakenAway(from))
+        return failed(QStringLiteral("locked"), from);
+    const auto before = m_disk.look(from);
+    DeedOutcome outcome = copied(index, from, to);
+    if (!outcome.code.isEmpty())
+        return outcome;
+    const auto after = m_disk.look(from);
+    if (!after)
+        return outcome; // somebody has taken the source away: this is the last that is left of it
+    if (!before || !isUnchanged(*before, *after))
+        return withoutCopy(index, failed(QStringLiteral("changed"), from), from, outcome);
+    const Removal removal = removeWhole(index, from, to);
+    if (!removal.error || !m_disk.look(removal.path))
+        return outcome;
+    DeedOutcome why = failureFor(removal.error, from, to);
+    if (removal.error == std::errc::device_or_resource_busy)
+        why = failed(QStringLiteral("changed"), from);
+    if (removal.path != from)
+        why.path = removal.path;
+    if (removal.isWhole)
+        return withoutCopy(index, why, removal.path, outcome);
+    outcome.message =
+        QCoreApplication::translate("files", "A part of %1 could not be removed and is still there").arg(removal.path);
+    return outcome;
+}
+
+/**
+ * Takes a copy away again whose source has to stay, unless somebody has put something into it. It is put aside first and the source
+ * looked for once more after that, so that two who give way to each other do not both take theirs away.
+ */
+DeedOutcome MoveDeeds::withoutCopy(int index, DeedOutcome why, const QString &source, const DeedOutcome &copy)
+{
+    const QString part = partPath(m_run, index, copy.path);
+    if (m_disk.rename(copy.path, part)) {
+        m_hasLeftOver = m_hasLeftOver || m_disk.look(copy.path);
+        return why;
+    }
+    const auto state = m_disk.look(part);
+    const bool isFolder = state && state->kind == ItemKind::Folder;
+    const bool isOurs =
+        isFolder ? m_disk.haveSameContent(source, part) : state && copy.is && isUnchanged(*state, *copy.is);
+    if (isOurs && m_disk.look(source)) {
+        discard(part);
+        return why;
+    }
+    const QString place = putBack(part, copy.path);
+    m_hasLeftOver = m_hasLeftOver || place == part;
+    if (!m_disk.look(source))
+        return done(place);
+    why.message = QCoreApplication::translate("files", "%1; a copy is at %2").arg(why.message, place);
+    return why;
+}
+
+/** What is removed leaves its place in one step and goes only if it is still what was copied. */
+MoveDeeds::Removal MoveDeeds::removeWhole(int index, const QString &path, const QString &copy)
+{
+    const QString aside = asidePath(m_run, index, {Deed::Move, path, {}});
+    if (path != aside)
+        if (const std::error_code error = m_disk.rename(path, aside))
+            return {error, path, true};
+    std::error_code error = std::make_error_code(std::errc::device_or_resource_busy);
+    if (m_disk.haveSameContent(aside, copy))
+        error = m_disk.remove(aside);
+    if (!error)
+        return {};
+    const bool isWhole = error == std::errc::device_or_resource_busy || m_disk.haveSameContent(aside, copy);
+    return {error, path == aside ? aside : putBack(aside, path), isWhole};
+}
+
+QString MoveDeeds::putBack(const QString &aside, const QString &path)
+{
+    constexpr int mostNumbers = 1000;
+    constexpr int mostTries = 10;
+    const auto state = m_disk.look(aside);
+    const NameOf what = state && state->kind == ItemKind::Folder ? NameOf::Folder : NameOf::File;
+    QString place = path;
+    for (int number = 2, tries = 0; number < mostNumbers && tries < mostTries;) {
+        const std::error_code error = m_disk.rename(aside, place);
+        if (!error)
+            return place;
+        if (error == std::errc::file_exists)
+            place = joinedPath(parentFolder(path), numberedName(lastPathComponent(path), number++, what));
+        else
+            ++tries;
+    }
+    m_hasLeftOver = true;
+    return aside;
+}
+
+DeedOutcome MoveDeeds::linked(const MoveItem &item)
+{
+    if (DeedOutcome made = madeFolders(parentFolder(item.to)); !made.code.isEmpty())
+        return made;
+    if (const std::error_code error = m_disk.makeLink(item.from, item.to))
+        return failureFor(error, item.to, item.to);
+    return done(item.to);
+}
+
+DeedOutcome MoveDeeds::trashed(const QString &path)
+{
+    const auto trashed = m_disk.trash(path);
+    if (trashed)
+        return done(trashed->path);
+    return {QStringLiteral("other"), trashed.error().message, {}, {}};
+}
+
+/** A copy goes into the trash: whatever somebody does to it, or to its original, at the last moment, nothing is lost. */
+DeedOutcome MoveDeeds::copyRemoved(const MoveItem &item)
+{
+    const auto copy = m_disk.look(item.from);
+    const auto original = m_disk.look(item.to);
+    if (copy && original && isOneItem(*copy, *original))
+        return failed(QStringLiteral("original"), item.from);
+    return trashed(item.from);
+}
+
+DeedOutcome MoveDeeds::linkRemoved(int index, const MoveItem &item)
+{
+    const QString aside = asidePath(m_run, index, {Deed::Move, item.from, {}});
+    if (m_disk.linkText(item.from) != item.to)
+        return failed(QStringLiteral("changed"), item.from);
+    if (const std::error_code error = m_disk.rename(item.from, aside))
+        return failureFor(error, item.from, item.from);
+    std::error_code error = std::make_error_code(std::errc::device_or_resource_busy);
+    if (m_disk.linkText(aside) == item.to)
+        error = m_disk.remove(aside);
+    if (!error)
+        return {};
+    DeedOutcome outcome = error == std::errc::device_or_resource_busy ? failed(QStringLiteral("changed"), item.from)
+                                                                      : failureFor(error, item.from, item.from);
+    outcome.path = putBack(aside, item.from);
+    return outcome;
+}
+
+DeedOutcome MoveDeeds::restored(const MoveItem &item)
+{
+    if (DeedOutcome made = madeFolders(parentFolder(item.to)); !made.code.isEmpty())
+        return made;
+    if (const std::error_code error = m_disk.restore({item.from}, item.to))
+        return failureFor(error, item.to, item.to);
+    return done(item.to);
+}
+
+DeedOutcome MoveDeeds::madeFolders(const QString &folder)
+{
+    if (!m_disk.canonicalFolder(folder).isNull())
+        return {};
+    if (folder.size() < 2 || m_disk.look(folder))
+        return failed(QStringLiteral("taken"), folder);
+    if (DeedOutcome above = madeFolders(parentFolder(folder)); !above.code.isEmpty())
+        return above;
+    if (const QString problem = m_log.noteFolder(folder); !problem.isEmpty())
+        return {QStringLiteral("other"), problem, {}, {}};
+    const std::error_code error = m_disk.makeFolder(folder);
+    if (!error)
+        m_newFolders.append(folder);
+    return error && error != std::errc::file_exists ? failureFor(error, folder, folder) : DeedOutcome();
+}
+
+} // namespace files

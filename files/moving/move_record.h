@@ -1,0 +1,119 @@
+#pragma once
+
+#include "files/planning/move_order.h"
+
+#include "platform/disk/file_system.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace files {
+
+/** What is done with one item of a run. The last three take back what the others did. */
+enum class Deed {
+    Move,
+    Copy,
+    Link,       ///< `from` is what the link says
+    Trash,      ///< `to` is empty
+    RemoveCopy, ///< `from` is the copy, `to` its original
+    RemoveLink, ///< `from` is the link, `to` what it must say
+    Restore,    ///< `from` is in the trash
+};
+
+enum class Stand {
+    Waiting,   ///< has its old name
+    Aside,     ///< has a temporary name
+    Done,      ///< has its new name
+    Failed,    ///< has its old name, and keeps it
+    Skipped,   ///< nothing was to be done
+    TakenBack, ///< was done, and has its old name again
+};
+
+struct MoveItem
+{
+    Deed deed = Deed::Move;
+    QString from;
+    QString to;
+    int of = -1;          ///< when a run is taken back: the item of that run
+    int leader = -1;      ///< the item that this one goes along with
+    bool isAhead = false; ///< it steps aside in the folder of `to`, not in its own
+    std::optional<platform::ItemState> was =
+        std::nullopt; ///< what was at `from` when the run began; for a link, nothing
+};
+
+/** One item of a run as its journal tells it. */
+struct MoveRecord
+{
+    MoveItem item;
+    bool isKnown = true; ///< false: its line in the journal cannot be read
+    Stand stand = Stand::Waiting;
+    QString code;    ///< why it failed
+    QString message; ///< the same as a sentence
+    QString path;    ///< where it is since it is done; in the trash, if it was trashed; empty if it is removed
+    std::optional<platform::ItemState> is = std::nullopt;     ///< what is there since then
+    std::optional<platform::ItemState> copied = std::nullopt; ///< the copy that was about to get its name
+};
+
+/** What can be made out of a line that is damaged. */
+struct DamagedLine
+{
+    int item = -1;
+    QString from;      ///< the old place of the item, perhaps with a wrong letter
+    QStringList paths; ///< all that look like places
+};
+
+/** A run as its journal tells it. */
+struct RunRecord
+{
+    QString id;
+    QString title;
+    QString date;          ///< ISO, with the time zone
+    QString undoes;        ///< the run that this one takes back
+    QString by;            ///< the mark of the process that began it
+    bool isByHand = false; ///< items are added one by one
+    int count = 0;         ///< items that the journal must tell before the first of them moves
+    std::vector<MoveRecord> items;
+    std::vector<MoveStep> steps;
+    QStringList made; ///< folders that the run made
+    QString end;      ///< "done", "cancelled" or "recovered"; empty while it is open
+    int doneAtEnd = 0;
+    bool isWhole = true;    ///< false: the last line was cut short
+    bool isBegun = false;   ///< a line tells that something was done
+    bool isDamaged = false; ///< lines cannot be read, or speak of what cannot be
+    std::vector<DamagedLine> damaged;
+};
+
+/** Whether two paths lead to one item, at this moment. */
+bool isOneItem(const platform::ItemState &one, const platform::ItemState &other);
+bool isSameItem(const platform::ItemState &one, const platform::ItemState &other);
+/** Two items that could be the same but for their identity: one kind, as large and as old. */
+bool isAlike(const platform::ItemState &one, const platform::ItemState &other);
+/** The same item with, as far as dates and sizes tell, the same content. A folder may have changed inside. */
+bool isUnchanged(const platform::ItemState &one, const platform::ItemState &other);
+
+/** The head of a journal: the run, its items and its steps. */
+QByteArray headLines(const RunRecord &run);
+QByteArray itemLine(int index, const MoveItem &item);
+QByteArray doneLine(int index, const MoveRecord &record);
+QByteArray failedLine(int index, const MoveRecord &record);
+QByteArray takenBackLine(int index);
+QByteArray copiedLine(int index, const platform::ItemState &state);
+QByteArray makingLine(const QString &folder);
+/** Ends a line that was cut short. */
+QByteArray cutLine();
+QByteArray endLine(const QString &end, int count, int done);
+
+/**
+ * A journal read again. Every line has a sum by which a damaged one is known; those are passed over, as one that was cut short is.
+ * Items whose lines are damaged are there, unknown and skipped, so that the numbers of the others are right.
+ */
+RunRecord readRecord(const QByteArray &journal);
+/** A run without its items, from the first and the last line of its journal. */
+RunRecord summaryOf(const std::pair<QByteArray, QByteArray> &ends);
+
+} // namespace files

@@ -1,0 +1,403 @@
+#include "files/moving/move_recovery.h"
+
+#include "files/moving/move_paths.h"
+#include "files/moving/move_rescue.h"
+#include "files/moving/move_run.h"
+
+#include "platform/foundation/paths.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace files {
+namespace {
+
+using platform::ItemState;
+
+constexpr qint64 nsPerMs = 1'000'000;
+
+/** Finds out where the items of an interrupted run are, and takes away what is left of unfinished copies. */
+class Search
+{
+public:
+    Search(platform::FileSystem &disk, RunRecord &run) : m_disk(disk), m_run(run), m_now(run) {}
+
+    QStringList problems;
+
+    void lookAgain()
+    {
+        for (int i = 0; i < int(m_run.items.size()); ++i) {
+            MoveRecord &record = m_run.items[size_t(i)];
+            if (!record.isKnown)
+                continue;
+            removePart(i, record);
+            removePlaceholder(record);
+            switch (record.item.deed) {
+            case Deed::Move:
+                findMoved(i, record);
+                break;
+            case Deed::Copy:
+                decide(record, record.copied && isAt(record.item.to, record.copied));
+                break;
+            case Deed::Link:
+                decide(record, m_disk.linkText(record.item.to) == record.item.from);
+                break;
+            case Deed::Trash:
+                findTrashed(record);
+                break;
+            case Deed::RemoveCopy:
+                findRemoved(i, record);
+                break;
+            case Deed::RemoveLink:
+                bringBackRemoved(i, record);
+                decide(record, m_disk.linkText(record.item.from) != record.item.to);
+                break;
+            case Deed::Restore:
+                decide(record, isAt(record.item.to, record.item.was));
+                break;
+            }
+        }
+    }
+
+private:
+    bool isAt(const QString &path, const std::optional<ItemState> &state) const
+    {
+        const auto found = m_disk.look(path);
+        return found && state && isSameItem(*found, *state);
+    }
+
+    void done(MoveRecord &record, const QString &path)
+    {
+        if (record.stand == Stand::Done)
+            return;
+        record.stand = Stand::Done;
+        record.code.clear();
+        record.message.clear();
+        record.path = path;
+        record.is = path.isEmpty() ? std::nullopt : m_disk.look(path);
+    }
+
+    /** What the journal says was done stands; what it does not know was done if it looks so. */
+    void decide(MoveRecord &record, bool looksDone)
+    {
+        if (record.stand == Stand::Waiting && looksDone)
+            done(record, record.item.deed == Deed::RemoveLink ? QString() : record.item.to);
+    }
+
+    /** A copy that never got its name goes, if what it was made from is still there; else it is the last that is left. */
+    void removePart(int index, MoveRecord &record)
+    {
+        const bool makesCopy = record.item.deed == Deed::Move || record.item.deed == Deed::Copy;
+        if (!makesCopy)
+            return;
+        const QStringList sources = {m_now(record.item.from, index), record.item.from,
+                                     asidePath(m_run.id, index, record.item)};
+        const QString part = partPath(m_run.id, index, record.item.to);
+        for (const QString &place : {part, m_now(part, index)}) {
+            if (!m_disk.look(place))
+                continue;
+            const bool hasSource = std::any_of(sources.begin(), sources.end(),
+                                               [&](const QString &source) { return isSource(source, place, record); });
+            if (hasSource || (record.stand == Stand::Done && m_disk.look(m_now(record.path, index))))
+                (void)m_disk.discard(place);
+            else
+                nameLastCopy(record, place);
+        }
+    }
+
+    /** Some disks number their items differently after a restart; what is at least alike is then taken for the source. */
+    bool isSource(const QString &path, const QString &part, const MoveRecord &record) const
+    {
+        const auto found = m_disk.look(path);
+        const auto &was = record.item.was;
+        if (!found || !was || isSameItem(*found, *was))
+            return found.has_value();
+        return isAlike(*found, *was) && holds(path, part);
+    }
+
+    void nameLastCopy(MoveRecord &record, const QString &part)
+    {
+        const bool isWhole = record.copied && isAt(part, record.copied);
+        const QString place = m_names.putBack(part, record.item.to);
+        if (isWhole && place == record.item.to)
+            done(record, place);
+        else
+            problems.append(QCoreApplication::translate("files", "%1 is gone; what was copied of it is at %2")
+                                .arg(record.item.from, place));
+    }
+
+    /** On a disk that can only keep a name with an empty file, such a file is left where the item never came. */
+    void removePlaceholder(const MoveRecord &record)
+    {
+        const bool takesPlace = record.item.deed == Deed::Move && record.stand == Stand::Waiting;
+        const auto there = takesPlace ? m_disk.look(record.item.to) : std::nullopt;
+        const bool isEmpty = there && there->kind == platform::ItemKind::File && there->bytes == 0 && there->names == 1;
+        const qint64 begunNs = QDateTime::fromString(m_run.date, Qt::ISODate).toMSecsSinceEpoch() * nsPerMs;
+        const bool isOurs = isEmpty && there->changedNs >= begunNs && record.item.was && record.item.was->bytes != 0 &&
+                            !isSameItem(*there, *record.item.was);
+        if (isOurs && (isAt(record.item.from, record.item.was) || m_disk.look(aside(record))))
+            (void)m_disk.remove(record.item.to);
+    }
+
+    QString aside(const MoveRecord &record) const
+    {
+        return asidePath(m_run.id, int(&record - m_run.items.data()), record.item);
+    }
+
+    void findMoved(int index, MoveRecord &record)
+    {
+        const MoveItem &item = record.item;
+        const QString aside = asidePath(m_run.id, index, item);
+        const bool isCopied = record.copied && isAt(item.to, record.copied);
+        if (m_disk.look(aside))
+            return findAside(record, aside, isCopied);
+        if (const QString since = m_now(aside, index); since != aside && m_disk.look(since))
+            putAway(item, since);
+        const bool isOld = isAt(item.from, item.was);
+        const bool isNew = isCopied || isAt(item.to, item.was);
+        if (isOld && isNew)
+            return findBoth(index, record, isCopied);
+        if (isNew)
+            done(record, item.to);
+        else if (isOld && record.stand == Stand::Done)
+            record.stand = Stand::TakenBack;
+        else if (!isOld && record.stand == Stand::Waiting)
+            problems.append(MoveDeeds::sentence(QStringLiteral("gone"), item.from));
+    }
+
+    /** Whether everything of @p part is also in @p whole; @p part may have been half removed. Links are not followed. */
+    bool holds(const QString &whole, const QString &part) const
+    {
+        const auto state = m_disk.look(part);
+        const auto other = m_disk.look(whole);
+        const bool isFolder = state && state->kind == platform::ItemKind::Folder;
+        if (!state || !other || state->kind != other->kind || isOneItem(*state, *other))
+            return false;
+        if (!isFolder)
+            return m_disk.haveSameContent(part, whole);
+        const auto entries = m_disk.list(part);
+        if (!entries)
+            return false;
+        return std::all_of(entries->begin(), entries->end(), [&](const platform::FolderEntry &entry) {
+            return holds(platform::joinedPath(whole, entry.name), platform::joinedPath(part, entry.name));
+        });
+    }
+
+    /** A folder is also aside while it is removed, after it was copied to another disk. */
+    void findAside(MoveRecord &record, const QString &aside, bool isCopied)
+    {
+        if (!isCopied || !holds(record.item.to, aside)) {
+            record.stand = Stand::Aside;
+            return;
+        }
+        if (m_disk.remove(aside))
+            problems.append(QCoreApplication::translate("files", "A part of %1 could not be removed and is still there")
+                                .arg(m_names.putBack(aside, record.item.from)));
+        done(record, record.item.to);
+    }
+
+    /** What is left of a folder that was copied to another disk, in a folder that moved since. */
+    void putAway(const MoveItem &item, const QString &left)
+    {
+        const QString place =
+            platform::joinedPath(platform::parentFolder(left), platform::lastPathComponent(item.from));
+        if (holds(item.to, left) && !m_disk.remove(left))
+            return;
+        if (m_names.putBack(left, place) == left)
+            problems.append(QCoreApplication::translate("files", "%1 could not be put away").arg(left));
+    }
+
+    /** A copy on another disk, or a second name on this one, was made and the first not yet removed. */
+    void findBoth(int index, MoveRecord &record, bool isCopied)
+    {
+        const MoveItem &item = record.item;
+        const auto found = m_disk.look(item.to);
+        const bool isSecondName = !isCopied && found && item.was && found->names > item.was->names;
+        if (record.stand == Stand::Done || (!isSecondName && !isCopied))
+            return;
+        if (isSecondName || m_disk.haveSameContent(item.from, item.to)) {
+            const QString left = asidePath(m_run.id, index, item);
+            const bool isAside = !m_disk.rename(item.from, left);
+            const bool isSame = isAside && isAt(left, item.was) &&
+                                (isSecondName ? isAt(item.to, item.was) : m_disk.haveSameContent(left, item.to));
+            if (isSame && !m_disk.remove(left))
+                return done(record, item.to);
+            if (isAside && m_disk.look(left))
+                (void)m_names.putBack(left, item.from);
+        }
+        problems.append(QCoreApplication::translate("files", "%1 is also at %2").arg(item.from, item.to));
+    }
+
+    void findTrashed(MoveRecord &record)
+    {
+        const MoveItem &item = record.item;
+        if (record.stand == Stand::Done || !item.was)
+            return;
+        if (isAt(item.from, item.was))
+            return m_disk.discardHalfTrashed(item.from);
+        if (const auto trashed = m_disk.findTrashed(item.from, *item.was))
+            done(record, trashed->path);
+        else if (!findHalfTrashed(record) && !findCopyInTrash(record) && !m_disk.look(item.from))
+            problems.append(MoveDeeds::sentence(QStringLiteral("gone"), item.from));
+    }
+
+    /** Nothing is left of it but the copy in the trash, which is another item with the same size and date. */
+    bool findCopyInTrash(MoveRecord &record)
+    {
+        for (const platform::TrashedItem &trashed : m_disk.allTrashed(record.item.from)) {
+            const auto state = m_disk.look(trashed.path);
+            if (!state || !isAlikeOnAnyDisk(*state, *record.item.was))
+                continue;
+            done(record, trashed.path);
+            return true;
+        }
+        return false;
+    }
+
+    /** Some disks keep dates of two seconds. */
+    static bool isAlikeOnAnyDisk(ItemState one, const ItemState &other)
+    {
+        constexpr qint64 coarse = 2'000'000'000;
+        if (std::abs(one.changedNs - other.changedNs) < coarse)
+            one.changedNs = other.changedNs;
+        return isAlike(one, other);
+    }
+
+    /**
+     * Where a file system has no trash the item is copied into one, and then leaves its place under a hidden name. What is left of
+     * it there goes if the trash has all of it, and back into its place otherwise.
+     */
+    bool findHalfTrashed(MoveRecord &record)
+    {
+        const MoveItem &item = record.item;
+        const QString folder = platform::parentFolder(item.from);
+        for (const platform::FolderEntry &entry :
+             m_disk.list(m_disk.canonicalFolder(folder)).value_or(std::vector<platform::FolderEntry>())) {
+            const QString aside = platform::joinedPath(folder, entry.name);
+            if (!entry.name.startsWith(QStringLiteral(".quorlin-")) || !isAt(aside, item.was))
+                continue;
+            for (const platform::TrashedItem &trashed : m_disk.allTrashed(item.from))
+                if (holds(trashed.path, aside) && !m_disk.remove(aside)) {
+                    done(record, trashed.path);
+                    return true;
+                }
+            return !m_disk.rename(aside, item.from);
+        }
+        return false;
+    }
+
+    /** What was removed stands aside for a moment. */
+    void bringBackRemoved(int index, const MoveRecord &record)
+    {
+        if (const QString left = asidePath(m_run.id, index, record.item); m_disk.look(left))
+            (void)m_names.putBack(left, record.item.from);
+    }
+
+    /** Copies are trashed; older journals tell of those that were removed. */
+    void findRemoved(int index, MoveRecord &record)
+    {
+        const MoveItem &item = record.item;
+        bringBackRemoved(index, record);
+        if (record.stand != Stand::Waiting || !item.was || isAt(item.from, item.was))
+            return;
+        if (const auto trashed = m_disk.findTrashed(item.from, *item.was))
+            done(record, trashed->path);
+        else if (!findHalfTrashed(record) && !findCopyInTrash(record) && !m_disk.look(item.from))
+            done(record, QString());
+    }
+
+    platform::FileSystem &m_disk;
+    RunRecord &m_run;
+    PathsSince m_now;
+    SilentDeedLog m_log;
+    MoveDeeds m_names{m_disk, m_run.id, m_log}; ///< gives names back
+};
+
+/** Tells the journal what was found, so that it stands by itself afterwards. */
+QByteArray newsOf(const RunRecord &before, const RunRecord &now)
+{
+    QByteArray lines;
+    for (int i = 0; i < int(now.items.size()); ++i) {
+        const MoveRecord &record = now.items[size_t(i)];
+        if (record.stand == before.items[size_t(i)].stand)
+            continue;
+        if (record.stand == Stand::Done)
+            lines += doneLine(i, record);
+        else if (record.stand == Stand::TakenBack)
+            lines += takenBackLine(i);
+    }
+    return lines;
+}
+
+RecoveredRun reportOf(const RunRecord &before, const RunRecord &found, const RunRecord &after)
+{
+    RecoveredRun report;
+    report.id = after.id;
+    report.title = after.title;
+    for (size_t i = 0; i < after.items.size(); ++i) {
+        const bool wasDone = before.items[i].stand == Stand::Done;
+        const bool isDone = after.items[i].stand == Stand::Done;
+        const bool wasInTheMiddle = found.items[i].stand == Stand::Aside || wasDone;
+        report.done += wasDone && isDone;
+        report.finished += !wasDone && isDone;
+        report.takenBack += !isDone && wasInTheMiddle;
+        report.left += after.items[i].stand == Stand::Waiting;
+        if (after.items[i].stand == Stand::Aside)
+            report.problems.append(after.items[i].message);
+    }
+    return report;
+}
+
+RecoveredRun recoverOne(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record)
+{
+    if (!record.isWhole)
+        shelf.append(record.id, cutLine(), Lasting::WhenTheSystemLikes);
+    const RunRecord before = record;
+    Search search(disk, record);
+    search.lookAgain();
+    const RunRecord found = record;
+    if (const QByteArray news = newsOf(before, record); !news.isEmpty())
+        shelf.append(record.id, news, Lasting::AtOnce);
+    const auto run = MoveRun::resume(disk, shelf, std::move(record));
+    run->mend();
+    if (before.isDamaged)
+        search.problems += rescueHidden(disk, before);
+    run->close(QStringLiteral("recovered"));
+    RecoveredRun report = reportOf(before, found, run->record());
+    report.problems += search.problems;
+    return report;
+}
+
+/** Nothing moves before the head of the journal is whole, so a run without one has done nothing. */
+bool neverBegan(platform::FileSystem &disk, const RunRecord &run)
+{
+    const bool isHeadWhole = run.isByHand || (int(run.items.size()) == run.count && !run.steps.empty());
+    return !isHeadWhole && !run.isDamaged && !run.isBegun && !hasHidden(disk, run);
+}
+
+} // namespace
+
+std::vector<RecoveredRun> recoverMoves(platform::FileSystem &disk, JournalShelf &shelf)
+{
+    std::vector<RecoveredRun> recovered;
+    for (const QString &name : shelf.names()) {
+        if (!summaryOf(shelf.ends(name)).end.isEmpty() || !shelf.hold(name))
+            continue;
+        const auto journal = shelf.read(name);
+        RunRecord record = readRecord(journal.value_or(QByteArray()));
+        record.isDamaged = record.isDamaged || (record.id != name && record.isBegun);
+        record.id = name;
+        if (!journal || !record.end.isEmpty())
+            shelf.letGo(name);
+        else if (neverBegan(disk, record))
+            shelf.remove(name);
+        else
+            recovered.push_back(recoverOne(disk, shelf, std::move(record)));
+    }
+    return recovered;
+}
+
+} // namespace files

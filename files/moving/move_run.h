@@ -1,0 +1,110 @@
+#pragma once
+
+#include "files/moving/journal_shelf.h"
+#include "files/moving/move_deeds.h"
+
+#include <deque>
+#include <memory>
+#include <set>
+
+namespace files {
+
+/** What became of one item. */
+struct MoveResult
+{
+    int index = -1;
+    Stand stand = Stand::Waiting; ///< Done, Failed or Skipped
+    QString code;                 ///< why it failed; see DeedOutcome, and "circle", "leader", "same"
+    QString message;
+    QString path; ///< where the item is now
+};
+
+/** A run as it is begun. */
+struct MoveOrderForm
+{
+    QString title;
+    std::vector<MoveItem> items;
+    QString undoes;           ///< the run that is taken back
+    QStringList emptyFolders; ///< taken away at the end if nothing is in them
+};
+
+/**
+ * A run that renames, moves, copies and links, in steps, with a journal.
+ *
+ * The journal is on the disk before the first item moves. An item that stands in the way of others in a circle steps aside under a
+ * hidden name in its folder; the steps of one circle are taken together, so that between two calls of next() every item has its
+ * old or its new name. Nothing is ever replaced. An item that fails keeps its old name; only where that was taken by another
+ * program in between it gets a number behind it, and says so.
+ *
+ * Destroying a run ends nothing: what is left then is what an interruption leaves, and MoveRecovery ends it.
+ */
+class MoveRun : private DeedLog
+{
+public:
+    /** Begins a run; null and a sentence where the journal cannot be written. */
+    static std::unique_ptr<MoveRun> begin(platform::FileSystem &disk, JournalShelf &shelf, const MoveOrderForm &form,
+                                          QString *problem);
+    /** A run without items, which are added one by one. */
+    static std::unique_ptr<MoveRun> open(platform::FileSystem &disk, JournalShelf &shelf, const QString &title,
+                                         QString *problem);
+    /** A run that was interrupted; its journal must be held. */
+    static std::unique_ptr<MoveRun> resume(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record);
+
+    QString id() const { return m_record.id; }
+    const RunRecord &record() const { return m_record; }
+
+    /** Carries out one more item; nothing after the last one. */
+    std::optional<MoveResult> next();
+    /** Ends the run, before its last item too. A sentence where the journal could not be written to the end, else empty. */
+    QString end();
+
+    /** Adds an item to a run that was opened and carries it out. */
+    MoveResult add(MoveItem item);
+    /** The last item that stands, or -1. */
+    int lastDone() const;
+    /** Takes back one item, with the deed that does so. */
+    MoveResult takeBack(int index, const MoveItem &deed);
+
+    /** Finishes or takes back what was interrupted in the middle; the records say where everything is now. */
+    void mend();
+    void close(const QString &end);
+
+private:
+    MoveRun(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record);
+
+    QString noteCopy(int index, const platform::ItemState &state) override;
+    QString noteFolder(const QString &folder) override;
+    QString note(const QByteArray &line, Lasting lasting = Lasting::WhenTheSystemLikes);
+
+    MoveRecord &at(int index) { return m_record.items[size_t(index)]; }
+    void findGroup();
+    void runGroup();
+    void stepAside(int index);
+    void giveName(int index);
+    bool isToBeSkipped(int index);
+    bool isWaitedFor(int index);
+    void takeBackGroup(const DeedOutcome &why);
+    void bringBack(int index, const DeedOutcome &why);
+    void markDone(int index, const DeedOutcome &outcome);
+    void markFailed(int index, const DeedOutcome &outcome);
+    void settleResult(int index);
+    void refuseWithoutSteps();
+    void removeEmptyFolders();
+
+    platform::FileSystem &m_disk;
+    JournalShelf &m_shelf;
+    RunRecord m_record;
+    MoveDeeds m_deeds;
+    size_t m_step = 0;
+    size_t m_groupBegin = 0; ///< steps that leave nothing under a temporary name when all are taken
+    size_t m_groupEnd = 0;
+    std::vector<int> m_settled; ///< items of the group that have come to an end, in order
+    std::deque<MoveResult> m_results;
+    std::set<QString> m_touched;
+    QStringList m_emptyFolders;
+    QByteArray m_unwritten; ///< lines that the journal still lacks
+    QString m_trouble;
+    bool m_areRestRefused = false;
+};
+
+} // namespace files

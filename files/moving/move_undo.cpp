@@ -1,0 +1,268 @@
+#include "files/moving/move_undo.h"
+
+#include "files/moving/move_paths.h"
+#include "files/planning/move_names.h"
+
+#include "platform/foundation/paths.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+#include <set>
+
+namespace files {
+namespace {
+
+UndoProblem problemAt(const QString &path, const QString &code)
+{
+    return {path, code, MoveDeeds::sentence(code, path)};
+}
+
+/** The deed that takes an item back, where everything still is as it was left. */
+MoveItem inverseOf(const MoveRecord &record, int index, PathsSince &now)
+{
+    const MoveItem &item = record.item;
+    const QString path = now(record.path, index);
+    switch (item.deed) {
+    case Deed::Move:
+        return {Deed::Move, path, now(item.from, index), index};
+    case Deed::Copy:
+        return {Deed::RemoveCopy, path, now(item.from, index), index};
+    case Deed::Link:
+        return {Deed::RemoveLink, path, item.from, index};
+    case Deed::Trash:
+        return {Deed::Restore, record.path, now(item.from, index), index};
+    case Deed::RemoveCopy:
+        if (!record.path.isEmpty())
+            return {Deed::Restore, record.path, now(item.from, index), index};
+        return {Deed::Copy, now(item.to, index), now(item.from, index), index};
+    case Deed::RemoveLink:
+        return {Deed::Link, item.to, now(item.from, index), index};
+    case Deed::Restore:
+        return {Deed::Trash, path, QString(), index};
+    }
+    Q_UNREACHABLE();
+}
+
+/** Whether what the deed works on is still what the run left there. */
+UndoProblem faultOf(const platform::FileSystem &disk, const MoveItem &deed, const MoveRecord &record,
+                    const PathsSince &now)
+{
+    const bool madeItem = deed.deed != Deed::Link && deed.deed != Deed::Copy;
+    const auto state = deed.deed == Deed::Link ? std::nullopt : disk.look(deed.from);
+    if (!state && deed.deed != Deed::Link)
+        return problemAt(deed.from, QStringLiteral("gone"));
+    if (!madeItem)
+        return {};
+    // A copy that was changed goes to the trash, from where it can be taken.
+    const bool isSame = !record.is || (now.wasCopied(record.path, deed.of) ? isAlike(*state, *record.is)
+                                       : deed.deed == Deed::RemoveCopy     ? isSameItem(*state, *record.is)
+                                                                           : isUnchanged(*state, *record.is));
+    if (!isSame)
+        return problemAt(deed.from, QStringLiteral("changed"));
+    const auto original = deed.deed == Deed::RemoveCopy ? disk.look(deed.to) : std::nullopt;
+    if (original && isOneItem(*state, *original))
+        return problemAt(deed.from, QStringLiteral("original"));
+    if (deed.deed == Deed::RemoveLink && disk.linkText(deed.from) != deed.to)
+        return problemAt(deed.from, QStringLiteral("changed"));
+    return {};
+}
+
+bool takesPlace(const MoveItem &deed)
+{
+    return deed.deed == Deed::Move || deed.deed == Deed::Copy || deed.deed == Deed::Link || deed.deed == Deed::Restore;
+}
+
+bool leavesPlace(const MoveItem &deed)
+{
+    return deed.deed != Deed::Copy && deed.deed != Deed::Link;
+}
+
+QString keyOf(const QString &path)
+{
+    return placeKey(platform::parentFolder(path), platform::lastPathComponent(path));
+}
+
+/** Leaves out what wants a place that something else keeps, and then what wanted the place of that. */
+void leaveOutHindered(const platform::FileSystem &disk, std::vector<MoveItem> &deeds,
+                      std::vector<UndoProblem> &problems)
+{
+    QHash<QString, int> leaving;
+    QHash<QString, int> similar; // on a disk that does not tell cases apart
+    QHash<QString, int> taking;
+    std::vector<int> questions;
+    for (int i = 0; i < int(deeds.size()); ++i) {
+        if (leavesPlace(deeds[size_t(i)])) {
+            leaving.insert(deeds[size_t(i)].from, i);
+            similar.insert(keyOf(deeds[size_t(i)].from), i);
+        }
+        if (takesPlace(deeds[size_t(i)])) {
+            taking.insert(deeds[size_t(i)].to, i);
+            questions.push_back(i);
+        }
+    }
+    std::vector<bool> isOut(deeds.size());
+    while (!questions.empty()) {
+        const int i = questions.back();
+        questions.pop_back();
+        const MoveItem &deed = deeds[size_t(i)];
+        const int leaver = leaving.value(deed.to, similar.value(keyOf(deed.to), -1));
+        const auto there = isOut[size_t(i)] ? std::nullopt : disk.look(deed.to);
+        const auto own = there && deed.deed == Deed::Move ? disk.look(deed.from) : std::nullopt;
+        const bool isItself = own && isSameItem(*there, *own);
+        if (!there || isItself || (leaver >= 0 && !isOut[size_t(leaver)]))
+            continue;
+        isOut[size_t(i)] = true;
+        problems.push_back(problemAt(deed.to, QStringLiteral("taken")));
+        if (const int waiting = taking.value(deed.from, -1); leavesPlace(deed) && waiting >= 0)
+            questions.push_back(waiting);
+    }
+    std::vector<MoveItem> kept;
+    for (size_t i = 0; i < deeds.size(); ++i)
+        if (!isOut[i])
+            kept.push_back(deeds[i]);
+    deeds = std::move(kept);
+}
+
+RunRecord recordOf(const JournalShelf &shelf, const QString &run)
+{
+    if (!shelf.names().contains(run))
+        return {};
+    RunRecord record = readRecord(shelf.read(run).value_or(QByteArray()));
+    if (record.isDamaged)
+        record.id = run;
+    return record;
+}
+
+/** Which runs take back which, as the journals tell. */
+class Undoers
+{
+public:
+    explicit Undoers(const JournalShelf &shelf) : m_shelf(shelf)
+    {
+        for (const QString &name : shelf.names())
+            if (const QString undoes = summaryOf(shelf.ends(name)).undoes; !undoes.isEmpty())
+                m_undoers.insert(undoes, name);
+    }
+
+    /** The items of a run that were done and not taken back, by it or by a run that still stands. */
+    std::set<int> standingItems(const RunRecord &run)
+    {
+        std::set<int> standing;
+        for (int i = 0; i < int(run.items.size()); ++i)
+            if (run.items[size_t(i)].stand == Stand::Done && run.items[size_t(i)].isKnown)
+                standing.insert(i);
+        m_seen.insert(run.id);
+        for (const QString &name : m_undoers.values(run.id)) {
+            if (m_seen.contains(name)) // a damaged journal can take itself back
+                continue;
+            const RunRecord undo = readRecord(m_shelf.read(name).value_or(QByteArray()));
+            if (undo.id == name)
+                for (const int item : standingItems(undo))
+                    standing.erase(undo.items[size_t(item)].item.of);
+        }
+        return standing;
+    }
+
+private:
+    const JournalShelf &m_shelf;
+    QMultiHash<QString, QString> m_undoers;
+    std::set<QString> m_seen;
+};
+
+std::set<int> standingItems(const JournalShelf &shelf, const RunRecord &run)
+{
+    return run.id.isEmpty() ? std::set<int>() : Undoers(shelf).standingItems(run);
+}
+
+QString whyNot(const RunRecord &run, const std::set<int> &standing)
+{
+    if (run.id.isEmpty())
+        return QCoreApplication::translate("files", "Nothing is known of this run any more");
+    if (run.end.isEmpty())
+        return QCoreApplication::translate("files", "This run has not ended yet");
+    if (!standing.empty())
+        return {};
+    return run.doneAtEnd == 0 ? QCoreApplication::translate("files", "Nothing was done in this run")
+                              : QCoreApplication::translate("files", "This run was taken back already");
+}
+
+} // namespace
+
+UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run)
+{
+    UndoPlan plan;
+    const RunRecord record = recordOf(shelf, run);
+    const std::set<int> standing = standingItems(shelf, record);
+    plan.problem = whyNot(record, standing);
+    if (!plan.problem.isEmpty())
+        return plan;
+    PathsSince now(record);
+    for (const MoveRecord &item : record.items)
+        if (!item.isKnown && item.stand == Stand::Done)
+            plan.problems.push_back(
+                {item.path, QStringLiteral("other"),
+                 QCoreApplication::translate("files", "The journal of this run is damaged: %1").arg(run)});
+    for (auto index = standing.rbegin(); index != standing.rend(); ++index) {
+        const MoveRecord &done = record.items[size_t(*index)];
+        const MoveItem deed = inverseOf(done, *index, now);
+        const UndoProblem fault = faultOf(disk, deed, done, now);
+        if (fault.code.isEmpty())
+            plan.form.items.push_back(deed);
+        else
+            plan.problems.push_back(fault);
+    }
+    leaveOutHindered(disk, plan.form.items, plan.problems);
+    if (plan.form.items.empty())
+        plan.problem = QCoreApplication::translate("files", "Nothing of this run can be taken back any more");
+    plan.form.title = record.title;
+    plan.form.undoes = run;
+    for (const QString &folder : record.made)
+        plan.form.emptyFolders.append(now(folder, -1));
+    return plan;
+}
+
+TakeBack takeBackOf(const platform::FileSystem &disk, const RunRecord &run, int index)
+{
+    PathsSince now(run);
+    const MoveRecord &record = run.items[size_t(index)];
+    std::vector<MoveItem> deeds = {inverseOf(record, index, now)};
+    TakeBack answer = {deeds.front(), faultOf(disk, deeds.front(), record, now)};
+    std::vector<UndoProblem> problems;
+    leaveOutHindered(disk, deeds, problems);
+    if (answer.problem.code.isEmpty() && !problems.empty())
+        answer.problem = problems.front();
+    return answer;
+}
+
+Undoable undoableItems(const JournalShelf &shelf, const QString &run)
+{
+    const RunRecord record = recordOf(shelf, run);
+    const std::set<int> standing = standingItems(shelf, record);
+    return {int(standing.size()), whyNot(record, standing)};
+}
+
+std::vector<RunSummary> listRuns(const JournalShelf &shelf)
+{
+    std::vector<RunSummary> runs;
+    QHash<QString, bool> isTakenBack; // by runs that still stand
+    for (const QString &name : shelf.names()) {
+        RunSummary summary;
+        summary.run = summaryOf(shelf.ends(name));
+        if (summary.run.id.isEmpty()) {
+            summary.run.id = name;
+            summary.run.title =
+                QCoreApplication::translate("files", "The journal of this run is damaged: %1").arg(name);
+        }
+        const bool isUndone = isTakenBack.value(name);
+        summary.state = summary.run.end.isEmpty() ? QStringLiteral("open")
+                        : isUndone                ? QStringLiteral("undone")
+                                                  : summary.run.end;
+        if (!summary.run.undoes.isEmpty() && !isUndone && summary.run.doneAtEnd > 0)
+            isTakenBack.insert(summary.run.undoes, true);
+        runs.push_back(summary);
+    }
+    return runs;
+}
+
+} // namespace files

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "files/moving/journal_shelf.h"
+#include "files/moving/move_run.h"
+
+#include <vector>
+
+namespace files {
+
+/** An item of a run that cannot be taken back. */
+struct UndoProblem
+{
+    QString path;
+    QString code; ///< see DeedOutcome
+    QString reason;
+};
+
+/** What takes a run back: a run again, to be begun like any other. */
+struct UndoPlan
+{
+    MoveOrderForm form;
+    std::vector<UndoProblem> problems;
+    QString problem; ///< why the whole run cannot be taken back; empty where it can
+};
+
+/**
+ * Plans how a run is taken back, the last item first. Looks whether every item is still the one that was moved and whether its old
+ * place is free; those that are changed, gone or hindered are left out with the reason. Copies are trashed,
+ * unless a copy is its own original by now; links are removed if they still say the same; what was trashed comes back. What was
+ * taken back before is left out. The run that takes another back can be taken back too.
+ */
+UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run);
+
+/** The deed that takes back one item of a run that is open, or why it cannot be done. */
+struct TakeBack
+{
+    MoveItem deed;
+    UndoProblem problem; ///< its code is empty where it can
+};
+TakeBack takeBackOf(const platform::FileSystem &disk, const RunRecord &run, int index);
+
+struct Undoable
+{
+    int count = 0;
+    QString reason; ///< why nothing can be taken back; empty where something can, as far as the journal tells
+};
+Undoable undoableItems(const JournalShelf &shelf, const QString &run);
+
+/** A run in the list of all. */
+struct RunSummary
+{
+    RunRecord run; ///< without its items
+    QString state; ///< "open", "done", "cancelled", "recovered" or "undone"
+};
+
+/** All runs whose journals are kept, the newest first. */
+std::vector<RunSummary> listRuns(const JournalShelf &shelf);
+
+} // namespace files

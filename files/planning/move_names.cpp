@@ -1,0 +1,58 @@
+#include "files/planning/move_names.h"
+
+#include "platform/foundation/paths.h"
+
+#include <QFile>
+
+#include <climits>
+
+namespace files {
+namespace {
+
+QString faultOfName(QStringView name)
+{
+    constexpr qsizetype longestName = 255;
+    if (name.trimmed().isEmpty())
+        return QStringLiteral("empty");
+    if (name == QStringLiteral(".") || name == QStringLiteral("..") || name.contains(QChar(u'\0')) ||
+        !name.isValidUtf16())
+        return QStringLiteral("illegal");
+    return name.size() * 3 > longestName && name.toUtf8().size() > longestName ? QStringLiteral("long") : QString();
+}
+
+} // namespace
+
+QString nameKey(const QString &name)
+{
+    return name.normalized(QString::NormalizationForm_C).toLower();
+}
+
+QString numberedName(const QString &name, int number, NameOf what)
+{
+    const QString tag = QStringLiteral(" (%1)").arg(number);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    const bool hasExtension = what == NameOf::File && dot > 0 && dot < name.size() - 1;
+    return hasExtension ? name.left(dot) + tag + name.mid(dot) : name + tag;
+}
+
+QString placeKey(const QString &folder, const QString &name)
+{
+    return platform::joinedPath(folder, nameKey(name));
+}
+
+QString faultOfPath(const QString &path)
+{
+    if (!path.startsWith(u'/'))
+        return path.isEmpty() ? QStringLiteral("empty") : QStringLiteral("illegal");
+    for (qsizetype at = 1; at <= path.size();) {
+        const qsizetype slash = path.indexOf(u'/', at);
+        const qsizetype end = slash < 0 ? path.size() : slash;
+        if (const QString fault = faultOfName(QStringView(path).mid(at, end - at)); !fault.isEmpty())
+            return fault;
+        at = end + 1;
+    }
+    return path.size() * 3 >= PATH_MAX && QFile::encodeName(path).size() >= PATH_MAX ? QStringLiteral("long")
+                                                                                     : QString();
+}
+
+} // namespace files

@@ -1,0 +1,204 @@
+#include "files/planning/move_order.h"
+
+#include "files/planning/move_names.h"
+
+#include "platform/foundation/paths.h"
+
+#include <QHash>
+
+namespace files {
+namespace {
+
+enum class Mark { New, Open, Done };
+
+struct Node
+{
+    std::vector<int> inner; ///< items that are in this folder or go into it
+    int blocker = -1;       ///< the item that is still at the place that this one takes
+    size_t nextInner = 0;
+    Mark mark = Mark::New;
+    bool isAside = false;
+    bool isAhead = false;
+};
+
+/** Walks from every item to those that it waits for, and writes the steps down on the way back. */
+class Walk
+{
+public:
+    explicit Walk(const std::vector<Displacement> &items) : m_items(items), m_nodes(items.size())
+    {
+        findBlockers(items);
+        findInner(items);
+    }
+
+    MoveOrder order()
+    {
+        for (int item = 0; item < int(m_nodes.size()); ++item) {
+            visit(item);
+            while (!m_returning.empty()) {
+                const int aside = m_returning.back();
+                m_returning.pop_back();
+                visit(aside);
+            }
+        }
+        return std::move(m_order);
+    }
+
+private:
+    static QString keyOf(const QString &path)
+    {
+        return placeKey(platform::parentFolder(path), platform::lastPathComponent(path));
+    }
+
+    void findBlockers(const std::vector<Displacement> &items)
+    {
+        QHash<QString, int> exact;
+        QHash<QString, int> similar;
+        for (int i = 0; i < int(items.size()); ++i)
+            if (const QString &place = items[size_t(i)].leaves; !place.isEmpty()) {
+                exact.insert(place, i);
+                similar.insert(keyOf(place), i);
+            }
+        for (int i = 0; i < int(items.size()); ++i) {
+            const QString &place = items[size_t(i)].takes;
+            if (place.isEmpty())
+                continue;
+            const auto found = exact.constFind(place);
+            const int blocker = found != exact.constEnd() ? *found : similar.value(keyOf(place), -1);
+            m_nodes[size_t(i)].blocker = blocker == i ? -1 : blocker;
+        }
+    }
+
+    void findInner(const std::vector<Displacement> &items)
+    {
+        QHash<QString, int> folders;
+        QHash<QString, int> leavers;
+        bool isAnyReading = false;
+        for (int i = 0; i < int(items.size()); ++i) {
+            const Displacement &item = items[size_t(i)];
+            isAnyReading = isAnyReading || !item.reads.isEmpty();
+            if (item.isFolder && !item.leaves.isEmpty())
+                folders.insert(item.leaves, i);
+        }
+        for (int i = 0; isAnyReading && i < int(items.size()); ++i)
+            if (!items[size_t(i)].leaves.isEmpty())
+                leavers.insert(items[size_t(i)].leaves, i);
+        for (int i = 0; i < int(items.size()) && !(folders.isEmpty() && leavers.isEmpty()); ++i) {
+            const Displacement &item = items[size_t(i)];
+            for (const QString &path : {item.leaves, item.takes, item.reads})
+                if (!path.isEmpty())
+                    putInto(folders, platform::parentFolder(path), i);
+            if (const int leaver = leavers.value(item.reads, -1); leaver >= 0 && leaver != i)
+                m_nodes[size_t(leaver)].inner.push_back(i);
+        }
+    }
+
+    /** Notes the item with the nearest folder at or above @p path that leaves its place. */
+    void putInto(const QHash<QString, int> &folders, QString path, int item)
+    {
+        for (; path.size() > 1; path = platform::parentFolder(path)) {
+            const int folder = folders.value(path, -1);
+            if (folder >= 0 && folder != item) {
+                m_nodes[size_t(folder)].inner.push_back(item);
+                return;
+            }
+        }
+    }
+
+    Node &node(int item) { return m_nodes[size_t(item)]; }
+
+    void visit(int root)
+    {
+        if (node(root).mark != Mark::New)
+            return;
+        open(root);
+        while (!m_stack.empty()) {
+            const int item = m_stack.back();
+            Node &at = node(item);
+            if (at.nextInner < at.inner.size()) {
+                waitFor(at.inner[at.nextInner], true);
+            } else if (at.blocker >= 0 && node(at.blocker).mark != Mark::Done && !node(at.blocker).isAside) {
+                waitFor(at.blocker, false);
+            } else {
+                m_order.steps.push_back({item, false, false});
+                at.mark = Mark::Done;
+                m_stack.pop_back();
+            }
+        }
+    }
+
+    void open(int item)
+    {
+        node(item).mark = Mark::Open;
+        m_stack.push_back(item);
+    }
+
+    void waitFor(int item, bool isInner)
+    {
+        const int waiting = m_stack.back();
+        if (node(item).mark == Mark::Done || (isInner && node(item).isAhead && !goesInto(item, waiting)))
+            node(waiting).nextInner += isInner;
+        else if (node(item).mark == Mark::New)
+            open(item);
+        else
+            breakCircle(item);
+    }
+
+    bool waitsForPlace(int item) { return node(item).nextInner == node(item).inner.size(); }
+
+    bool goesInto(int item, int folder) const
+    {
+        return m_items[size_t(item)].takes.startsWith(m_items[size_t(folder)].leaves + u'/');
+    }
+
+    bool mayStep(int item) const { return m_items[size_t(item)].mayStepAside; }
+
+    /** The top of the stack waits for @p item, which waits for it. One that only stands in the way can step aside. */
+    void breakCircle(int item)
+    {
+        size_t first = m_stack.size() - 1;
+        while (m_stack[first] != item)
+            --first;
+        const auto waiting = [&](size_t at) { return at == first ? m_stack.back() : m_stack[at - 1]; };
+        const auto kept = [&](size_t at) { return at == first ? m_stack.size() : at; };
+        for (size_t at = first; at < m_stack.size(); ++at)
+            if (mayStep(m_stack[at]) && waitsForPlace(m_stack[at]) && waitsForPlace(waiting(at)))
+                return stepAside(m_stack[at], kept(at), false);
+        for (size_t at = first; at < m_stack.size(); ++at)
+            if (mayStep(m_stack[at]) && waitsForPlace(m_stack[at]) && !node(m_stack[at]).isAside &&
+                !goesInto(m_stack[at], waiting(at)))
+                return stepAside(m_stack[at], kept(at), true);
+        const int impossible = m_stack.back();
+        m_order.impossible.push_back(impossible);
+        node(impossible).mark = Mark::Done;
+        m_stack.pop_back();
+    }
+
+    /** What lies above @p kept on the stack starts again later. */
+    void stepAside(int item, size_t kept, bool isAhead)
+    {
+        m_order.steps.push_back({item, true, isAhead});
+        node(item).isAside = true;
+        node(item).isAhead = isAhead;
+        m_returning.push_back(item);
+        for (; m_stack.size() > kept; m_stack.pop_back()) {
+            node(m_stack.back()).mark = Mark::New;
+            node(m_stack.back()).nextInner = 0;
+        }
+    }
+
+    const std::vector<Displacement> &m_items;
+    std::vector<Node> m_nodes;
+    std::vector<int> m_stack;
+    std::vector<int> m_returning;
+    MoveOrder m_order;
+};
+
+} // namespace
+
+MoveOrder orderMoves(const std::vector<Displacement> &items)
+{
+    return Walk(items).order();
+}
+
+} // namespace files

@@ -1,0 +1,88 @@
+#include "files/planning/move_places.h"
+
+#include "files/planning/move_names.h"
+
+#include "platform/foundation/paths.h"
+
+namespace files {
+
+Spot &FolderView::spot(const QString &name)
+{
+    return spots[nameKey(name)];
+}
+
+Spot::Tenant *FolderView::tenant(const QString &name)
+{
+    const auto found = spots.find(nameKey(name));
+    if (found == spots.end())
+        return nullptr;
+    for (Spot::Tenant &tenant : found->tenants)
+        if (tenant.name == name)
+            return &tenant;
+    return nullptr;
+}
+
+FolderView &Places::folder(const QString &path)
+{
+    FolderView *known = existing(path);
+    if (!known)
+        known = m_byPath.value(path);
+    if (!known)
+        known = m_byPath.insert(path, &imagine(path)).value();
+    return *known;
+}
+
+FolderView *Places::existing(const QString &path)
+{
+    if (FolderView *known = m_byPath.value(path))
+        return known->isThere ? known : nullptr;
+    const QString canonical = m_disk.canonicalFolder(path);
+    return canonical.isNull() ? nullptr : m_byPath.insert(path, &read(canonical)).value();
+}
+
+FolderView &Places::read(const QString &canonical)
+{
+    if (FolderView *known = m_byCanonicalPath.value(canonical))
+        return *known;
+    FolderView &view = *m_all.emplace_back(std::make_unique<FolderView>());
+    m_byCanonicalPath.insert(canonical, &view);
+    view.path = canonical;
+    view.isThere = true;
+    view.mayChange = m_disk.mayChange(canonical);
+    if (const auto state = m_disk.look(canonical))
+        view.device = state->device;
+    if (const auto entries = m_disk.list(canonical)) {
+        view.spots.reserve(qsizetype(entries->size()));
+        for (const platform::FolderEntry &entry : *entries)
+            view.spot(entry.name).tenants.push_back({entry.name, entry.mayBeFolder, -1});
+    }
+    return view;
+}
+
+FolderView &Places::imagine(const QString &path)
+{
+    FolderView &parent = folder(platform::parentFolder(path));
+    const QString name = platform::lastPathComponent(path);
+    const QString place = platform::joinedPath(parent.path, name);
+    if (FolderView *known = m_byCanonicalPath.value(place))
+        return *known;
+    FolderView &view = *m_all.emplace_back(std::make_unique<FolderView>());
+    m_byCanonicalPath.insert(place, &view);
+    view.path = place;
+    view.mayChange = parent.mayChange;
+    view.device = parent.device;
+    view.fault = parent.fault;
+    view.faultOther = parent.faultOther;
+    Spot &spot = parent.spot(name);
+    if (view.fault.isEmpty() && (!spot.tenants.empty() || !spot.madeFolder.isEmpty())) {
+        const bool isTenant = !spot.tenants.empty();
+        const QString other = isTenant ? spot.tenants.front().name : platform::lastPathComponent(spot.madeFolder);
+        view.fault = parent.tenant(name) ? QStringLiteral("taken") : QStringLiteral("case");
+        view.faultOther = platform::joinedPath(parent.path, parent.tenant(name) ? name : other);
+    } else if (view.fault.isEmpty()) {
+        spot.madeFolder = place;
+    }
+    return view;
+}
+
+} // namespace files

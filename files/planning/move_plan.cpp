@@ -1,0 +1,409 @@
+#include "files/planning/move_plan.h"
+
+#include "files/planning/move_names.h"
+#include "files/planning/move_order.h"
+#include "files/planning/move_places.h"
+
+#include "platform/foundation/paths.h"
+
+namespace files {
+namespace {
+
+using platform::joinedPath;
+using platform::lastPathComponent;
+using platform::parentFolder;
+
+/** Where a wish stands while the plan is made. */
+struct Draft
+{
+    FolderView *fromFolder = nullptr;
+    FolderView *toFolder = nullptr;
+    QString fromName;
+    QString toName;    ///< as it was wished
+    QString givenName; ///< as it is claimed, with its number
+    bool isFolder = false;
+    bool isClaimed = false;
+    int number = 1;
+    std::vector<int> followers; ///< wishes that are numbered as this one is
+};
+
+/** Why a name cannot be had, or whose leaving it waits for. */
+struct Obstacle
+{
+    QString code; ///< empty: none
+    QString other;
+    QString leaving; ///< the path of an item that makes the place free
+};
+
+} // namespace
+
+class MovePlanner
+{
+public:
+    MovePlanner(const std::vector<MoveWish> &wishes, const platform::FileSystem &disk)
+        : m_wishes(wishes), m_disk(disk), m_places(disk), m_drafts(wishes.size()), m_plan(wishes.size())
+    {
+    }
+
+    /** Does a small part of the work; false when there is nothing left to do. */
+    bool advance()
+    {
+        if (m_stage >= Stage::Claim && !m_refused.empty()) {
+            settleOne();
+            return true;
+        }
+        if (m_at == count()) {
+            m_at = 0;
+            m_stage = Stage(int(m_stage) + 1);
+            return m_stage != Stage::Done;
+        }
+        work(m_at++);
+        return true;
+    }
+
+    const std::vector<PlannedMove> &plan() const { return m_plan; }
+
+private:
+    /** Each goes through all wishes, the folders through all at once. */
+    enum class Stage { Read, FindLeaders, Claim, Folders, Describe, Done };
+
+    void work(int i)
+    {
+        switch (m_stage) {
+        case Stage::Read:
+            return read(i);
+        case Stage::FindLeaders:
+            return findLeader(i);
+        case Stage::Claim:
+            return isOpen(i) && !draft(i).isClaimed ? claim(groupOf(i)) : void();
+        case Stage::Folders:
+            m_at = count();
+            return refuseImpossible();
+        case Stage::Describe:
+            return describe(i);
+        case Stage::Done:
+            return;
+        }
+    }
+
+    int count() const { return int(m_wishes.size()); }
+    const MoveWish &wish(int i) const { return m_wishes[size_t(i)]; }
+    Draft &draft(int i) { return m_drafts[size_t(i)]; }
+    PlannedMove &planned(int i) { return m_plan[size_t(i)]; }
+    bool isFolder(const QString &path) const
+    {
+        const auto state = m_disk.look(path);
+        return state && state->kind == platform::ItemKind::Folder;
+    }
+    bool isOpen(int i) { return planned(i).status == PlanStatus::Ready; }
+    bool leaves(int i) const { return wish(i).kind == MoveKind::Move; }
+
+    void read(int i)
+    {
+        planned(i).to = wish(i).to;
+        if (const QString fault = faultOfPath(wish(i).to); !fault.isEmpty())
+            return refuse(i, fault);
+        if (wish(i).from == wish(i).to) {
+            planned(i).status = PlanStatus::Same;
+            return;
+        }
+        Draft &d = draft(i);
+        d.fromName = lastPathComponent(wish(i).from);
+        d.toName = d.givenName = lastPathComponent(wish(i).to);
+        d.fromFolder = m_places.existing(parentFolder(wish(i).from));
+        if (!d.fromFolder || !readSource(i))
+            return refuse(i, QStringLiteral("gone"));
+        d.toFolder = &m_places.folder(parentFolder(wish(i).to));
+        if (d.fromFolder == d.toFolder && d.fromName == d.toName)
+            planned(i).status = PlanStatus::Same;
+        else
+            readPlaces(i);
+    }
+
+    bool readSource(int i)
+    {
+        Draft &d = draft(i);
+        if (!wish(i).from.startsWith(u'/') || d.fromName.isEmpty())
+            return false;
+        Spot::Tenant *tenant = d.fromFolder->tenant(d.fromName);
+        // A disk that does not tell cases apart knows the item by another writing than its own.
+        const auto state = tenant ? std::nullopt : m_disk.look(joinedPath(d.fromFolder->path, d.fromName));
+        if (!tenant && state)
+            if (Spot &spot = d.fromFolder->spot(d.fromName); !spot.tenants.empty()) {
+                tenant = &spot.tenants.front();
+                d.fromName = tenant->name;
+            }
+        return tenant;
+    }
+
+    void readPlaces(int i)
+    {
+        Draft &d = draft(i);
+        Spot::Tenant *tenant = d.fromFolder->tenant(d.fromName);
+        if (!d.toFolder->fault.isEmpty())
+            return refuse(i, d.toFolder->fault, d.toFolder->faultOther);
+        if (!d.toFolder->mayChange || (leaves(i) && !d.fromFolder->mayChange))
+            return refuse(i, QStringLiteral("locked"), d.toFolder->mayChange ? d.fromFolder->path : d.toFolder->path);
+        if (leaves(i) && tenant->leaver >= 0)
+            return refuse(i, QStringLiteral("twice"), wish(i).from);
+        const QString source = joinedPath(d.fromFolder->path, d.fromName);
+        const bool isInside = (d.toFolder->path + u'/').startsWith(source + u'/');
+        d.isFolder = tenant->mayBeFolder && isFolder(source);
+        if (d.isFolder && isInside && wish(i).kind != MoveKind::Link)
+            return refuse(i, QStringLiteral("inside"));
+        if (leaves(i))
+            tenant->leaver = i;
+    }
+
+    /** The wish at the head of those that go along; a circle of leaders leads nowhere. */
+    int headOf(int i)
+    {
+        int head = i;
+        for (int steps = 0; steps < count(); ++steps) {
+            const int next = wish(head).leader;
+            if (next < 0 || next >= count() || next == head)
+                return head;
+            head = next;
+        }
+        return i;
+    }
+
+    void findLeader(int i)
+    {
+        if (const int head = headOf(i); head != i) {
+            m_companions.insert(head, i);
+            if (wish(i).isNumbered && wish(head).isNumbered && isOpen(i) && isOpen(head))
+                draft(head).followers.push_back(i);
+        }
+    }
+
+    int groupOf(int i)
+    {
+        const int head = headOf(i);
+        return wish(i).isNumbered && wish(head).isNumbered && isOpen(head) ? head : i;
+    }
+
+    Obstacle obstacleOf(int i, const QString &name)
+    {
+        const Draft &d = draft(i);
+        const Spot &spot = d.toFolder->spot(name);
+        if (spot.claimer >= 0 && spot.claimer != i)
+            return {spot.claimedName == name ? QStringLiteral("twice") : QStringLiteral("case"),
+                    wish(spot.claimer).from,
+                    {}};
+        if (!spot.madeFolder.isEmpty())
+            return {lastPathComponent(spot.madeFolder) == name ? QStringLiteral("taken") : QStringLiteral("case"),
+                    spot.madeFolder,
+                    {}};
+        Obstacle none;
+        for (const Spot::Tenant &tenant : spot.tenants) {
+            const QString path = joinedPath(d.toFolder->path, tenant.name);
+            if (tenant.leaver == i)
+                continue;
+            const bool isOwnSource = d.fromFolder == d.toFolder && tenant.name == d.fromName;
+            if (tenant.leaver < 0 || !isOpen(tenant.leaver) || isOwnSource)
+                return {tenant.name == name ? QStringLiteral("taken") : QStringLiteral("case"), path, {}};
+            none.leaving = path;
+        }
+        return none;
+    }
+
+    /** Claims the names of a wish and of those that are numbered with it, all with the same number. */
+    void claim(int head)
+    {
+        std::vector<int> group = {head};
+        for (const int follower : draft(head).followers)
+            if (isOpen(follower))
+                group.push_back(follower);
+        for (int number = 1; isOpen(head); number = numberAfter(head, number)) {
+            const Obstacle obstacle = firstObstacle(group, number);
+            if (obstacle.code.isEmpty())
+                return take(group, number);
+            if (!wish(head).isNumbered || obstacle.code == QStringLiteral("long"))
+                refuse(head, obstacle.code, obstacle.other);
+        }
+    }
+
+    int numberAfter(int head, int number)
+    {
+        return std::max(number + 1, draft(head).toFolder->spot(draft(head).toName).nextNumber);
+    }
+
+    QString nameOf(int i, int number)
+    {
+        return number == 1 ? draft(i).toName
+                           : numberedName(draft(i).toName, number, draft(i).isFolder ? NameOf::Folder : NameOf::File);
+    }
+
+    Obstacle firstObstacle(const std::vector<int> &group, int number)
+    {
+        for (const int i : group) {
+            const QString name = nameOf(i, number);
+            if (!faultOfPath(u'/' + name).isEmpty())
+                return {QStringLiteral("long"), {}, {}};
+            if (const Obstacle obstacle = obstacleOf(i, name); !obstacle.code.isEmpty())
+                return obstacle;
+        }
+        return {};
+    }
+
+    void take(const std::vector<int> &group, int number)
+    {
+        for (const int i : group) {
+            Draft &d = draft(i);
+            d.givenName = nameOf(i, number);
+            d.number = number;
+            d.isClaimed = true;
+            Spot &spot = d.toFolder->spot(d.givenName);
+            spot.claimer = i;
+            spot.claimedName = d.givenName;
+            if (number > 1)
+                d.toFolder->spot(d.toName).nextNumber = number + 1;
+        }
+    }
+
+    void giveUp(int i)
+    {
+        if (draft(i).isClaimed)
+            draft(i).toFolder->spot(draft(i).givenName).claimer = -1;
+        draft(i).isClaimed = false;
+    }
+
+    void refuse(int i, const QString &code, const QString &other = QString())
+    {
+        planned(i).status = PlanStatus::Refused;
+        planned(i).code = code;
+        planned(i).other = other;
+        giveUp(i);
+        m_refused.push_back(i);
+    }
+
+    /** What follows from the refusals: their items stay, so whoever relied on their leaving is looked at again. */
+    void settle()
+    {
+        while (!m_refused.empty())
+            settleOne();
+    }
+
+    void settleOne()
+    {
+        const int i = m_refused.back();
+        m_refused.pop_back();
+        for (const int companion : m_companions.values(i))
+            if (isOpen(companion))
+                refuse(companion, QStringLiteral("leader"), wish(i).from);
+        Draft &d = draft(i);
+        Spot::Tenant *tenant = leaves(i) && d.fromFolder ? d.fromFolder->tenant(d.fromName) : nullptr;
+        if (!tenant || tenant->leaver != i)
+            return;
+        tenant->leaver = -1;
+        if (const int claimer = d.fromFolder->spot(d.fromName).claimer; claimer >= 0)
+            claimAnew(groupOf(claimer));
+    }
+
+    void claimAnew(int head)
+    {
+        giveUp(head);
+        for (const int follower : draft(head).followers)
+            giveUp(follower);
+        claim(head);
+    }
+
+    /** Folders that are to go into each other, and the like. Only folders can be so entangled. */
+    void refuseImpossible()
+    {
+        bool isAnyFolder = false;
+        for (int i = 0; i < count() && !isAnyFolder; ++i)
+            isAnyFolder = isOpen(i) && leaves(i) && draft(i).isFolder;
+        while (isAnyFolder) {
+            std::vector<int> open;
+            std::vector<Displacement> displacements;
+            for (int i = 0; i < count(); ++i)
+                if (isOpen(i)) {
+                    open.push_back(i);
+                    displacements.push_back(displacement(i));
+                }
+            const std::vector<int> impossible = orderMoves(displacements).impossible;
+            for (const int at : impossible)
+                refuse(open[size_t(at)], QStringLiteral("inside"));
+            settle();
+            isAnyFolder = !impossible.empty();
+        }
+    }
+
+    Displacement displacement(int i)
+    {
+        const Draft &d = draft(i);
+        const QString from = joinedPath(d.fromFolder->path, d.fromName);
+        const QString to = joinedPath(d.toFolder->path, d.givenName);
+        return {leaves(i) ? from : QString(), to, wish(i).kind == MoveKind::Copy ? from : QString(), d.isFolder,
+                leaves(i)};
+    }
+
+    void describe(int i)
+    {
+        if (!isOpen(i))
+            return;
+        const Draft &d = draft(i);
+        PlannedMove &answer = planned(i);
+        if (d.fromFolder == d.toFolder && d.fromName == d.givenName)
+            answer.status = PlanStatus::Same;
+        answer.to = joinedPath(parentFolder(wish(i).to), d.givenName);
+        if (answer.status == PlanStatus::Same)
+            return;
+        const QString leaving = obstacleOf(i, d.givenName).leaving;
+        if (d.number > 1) {
+            answer.code = QStringLiteral("numbered");
+            answer.other = wish(i).to;
+        } else if (leaves(i) && d.fromFolder->device != d.toFolder->device) {
+            answer.code = QStringLiteral("disk");
+        } else if (leaves(i) && d.fromFolder == d.toFolder && nameKey(d.fromName) == nameKey(d.givenName)) {
+            answer.code = QStringLiteral("case");
+        } else if (!leaving.isEmpty()) {
+            answer.code = QStringLiteral("aside");
+            answer.other = leaving;
+        }
+    }
+
+    const std::vector<MoveWish> &m_wishes;
+    const platform::FileSystem &m_disk;
+    Places m_places;
+    std::vector<Draft> m_drafts;
+    std::vector<PlannedMove> m_plan;
+    std::vector<int> m_refused;
+    QMultiHash<int, int> m_companions;
+    Stage m_stage = Stage::Read;
+    int m_at = 0;
+};
+
+std::vector<PlannedMove> planMoves(const std::vector<MoveWish> &wishes, const platform::FileSystem &disk)
+{
+    MovePlanner planner(wishes, disk);
+    while (planner.advance())
+        continue;
+    return planner.plan();
+}
+
+MovePlanning::MovePlanning(std::vector<MoveWish> wishes, const platform::FileSystem &disk)
+    : m_wishes(std::move(wishes)), m_planner(std::make_unique<MovePlanner>(m_wishes, disk))
+{
+}
+
+MovePlanning::~MovePlanning() = default;
+
+bool MovePlanning::workFor(std::chrono::milliseconds time)
+{
+    const auto end = std::chrono::steady_clock::now() + time;
+    do {
+        if (!m_planner->advance())
+            return true;
+    } while (std::chrono::steady_clock::now() < end);
+    return false;
+}
+
+const std::vector<PlannedMove> &MovePlanning::plan() const
+{
+    return m_planner->plan();
+}
+
+} // namespace files

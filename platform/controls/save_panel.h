@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/controls/panels.h"
+
+#include <QObject>
+
+namespace platform {
+
+/** A save panel whose allowed types can change while it is on the screen. Main thread only. */
+class SavePanel : public QObject
+{
+    Q_OBJECT
+    /** Extensions without the dot; the first is the one that a name without extension gets. */
+    Q_PROPERTY(QStringList allowedTypes READ allowedTypes WRITE setAllowedTypes NOTIFY allowedTypesChanged)
+
+public:
+    using QObject::QObject;
+
+    QStringList allowedTypes() const { return m_request.types.value_or(QStringList()); }
+    void setAllowedTypes(const QStringList &types);
+
+    /** Shows the panel and returns when it closes; what kind of panel @p request names does not count. Modal. */
+    PanelAnswer run(const PanelRequest &request);
+
+Q_SIGNALS:
+    void allowedTypesChanged(const QStringList &types);
+
+private:
+    PanelRequest m_request;
+};
+
+} // namespace platform

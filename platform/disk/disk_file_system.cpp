@@ -1,0 +1,198 @@
+#include "platform/disk/disk_file_system.h"
+
+#include "platform/disk/copy_tree.h"
+#include "platform/disk/folders.h"
+#include "platform/disk/same_content.h"
+#include "platform/disk/trash.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+std::error_code lastError()
+{
+    return std::error_code(errno, std::generic_category());
+}
+
+std::error_code outcome(int answer)
+{
+    return answer == 0 ? std::error_code() : lastError();
+}
+
+ItemKind kindOf(quint32 mode)
+{
+    if (S_ISREG(mode))
+        return ItemKind::File;
+    if (S_ISDIR(mode))
+        return ItemKind::Folder;
+    return S_ISLNK(mode) ? ItemKind::Link : ItemKind::Other;
+}
+
+qint64 nanoseconds(const struct statx_timestamp &time)
+{
+    return time.tv_sec * 1'000'000'000 + time.tv_nsec;
+}
+
+std::filesystem::path native(const QString &path)
+{
+    return std::filesystem::path(QFile::encodeName(path).toStdString());
+}
+
+} // namespace
+
+std::optional<ItemState> DiskFileSystem::look(const QString &path) const
+{
+    struct statx found = {};
+    constexpr unsigned wanted = STATX_BASIC_STATS | STATX_BTIME;
+    if (::statx(AT_FDCWD, QFile::encodeName(path).constData(), AT_SYMLINK_NOFOLLOW, wanted, &found) != 0)
+        return std::nullopt;
+    ItemState state;
+    state.kind = kindOf(found.stx_mode);
+    state.device = (quint64(found.stx_dev_major) << 32) | found.stx_dev_minor;
+    state.inode = found.stx_ino;
+    state.bytes = qint64(found.stx_size);
+    state.changedNs = nanoseconds(found.stx_mtime);
+    state.bornNs = (found.stx_mask & STATX_BTIME) ? nanoseconds(found.stx_btime) : 0;
+    state.names = found.stx_nlink;
+    return state;
+}
+
+std::optional<std::vector<FolderEntry>> DiskFileSystem::list(const QString &folder) const
+{
+    constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const int descriptor = ::open(QFile::encodeName(folder).constData(), flags);
+    const std::unique_ptr<DIR, int (*)(DIR *)> open(descriptor < 0 ? nullptr : ::fdopendir(descriptor), &::closedir);
+    if (!open)
+        return std::nullopt;
+    std::vector<FolderEntry> entries;
+    errno = 0;
+    while (const dirent *entry = ::readdir(open.get())) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..")
+            entries.push_back(
+                {QFile::decodeName(entry->d_name), entry->d_type == DT_DIR || entry->d_type == DT_UNKNOWN});
+    }
+    return errno == 0 ? std::optional(std::move(entries)) : std::nullopt;
+}
+
+QString DiskFileSystem::canonicalFolder(const QString &folder) const
+{
+    char resolved[PATH_MAX];
+    struct stat found = {};
+    if (!::realpath(QFile::encodeName(folder).constData(), resolved) || ::stat(resolved, &found) != 0 ||
+        !S_ISDIR(found.st_mode))
+        return {};
+    return QFile::decodeName(resolved);
+}
+
+bool DiskFileSystem::mayChange(const QString &folder) const
+{
+    return ::faccessat(AT_FDCWD, QFile::encodeName(folder).constData(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+bool DiskFileSystem::mayBeTakenAway(const QString &path) const
+{
+    return platform::mayBeTakenAway(path);
+}
+
+QString DiskFileSystem::linkText(const QString &path) const
+{
+    char text[PATH_MAX];
+    const ssize_t size = ::readlink(QFile::encodeName(path).constData(), text, sizeof text);
+    return size < 0 ? QString() : QFile::decodeName(QByteArray(text, size));
+}
+
+bool DiskFileSystem::haveSameContent(const QString &one, const QString &other) const
+{
+    return platform::haveSameContent(native(one), native(other));
+}
+
+std::error_code DiskFileSystem::rename(const QString &from, const QString &to)
+{
+    return renameToNew(from, to);
+}
+
+std::error_code DiskFileSystem::makeFolder(const QString &path)
+{
+    return outcome(::mkdir(QFile::encodeName(path).constData(), 0777));
+}
+
+std::error_code DiskFileSystem::removeEmptyFolder(const QString &path)
+{
+    return outcome(::rmdir(QFile::encodeName(path).constData()));
+}
+
+std::error_code DiskFileSystem::makeLink(const QString &target, const QString &path)
+{
+    return outcome(::symlink(QFile::encodeName(target).constData(), QFile::encodeName(path).constData()));
+}
+
+std::error_code DiskFileSystem::copy(const QString &from, const QString &to)
+{
+    if (const std::error_code error = copyTree(native(from), native(to)))
+        return error;
+    return settleTree(native(to));
+}
+
+std::error_code DiskFileSystem::remove(const QString &path)
+{
+    std::error_code error;
+    if (std::filesystem::remove_all(native(path), error) == 0 && !error)
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    return error;
+}
+
+std::error_code DiskFileSystem::discard(const QString &path)
+{
+    return discardTree(native(path));
+}
+
+Result<TrashedItem> DiskFileSystem::trash(const QString &path)
+{
+    return moveToTrash(path);
+}
+
+std::error_code DiskFileSystem::restore(const TrashedItem &item, const QString &path)
+{
+    return restoreFromTrash(item, path);
+}
+
+std::optional<TrashedItem> DiskFileSystem::findTrashed(const QString &path, const ItemState &state) const
+{
+    for (const TrashedItem &item : trashedFrom(path)) {
+        const auto found = look(item.path);
+        // Not the device: it may have another number after a restart.
+        if (found && found->kind == state.kind && found->inode == state.inode && found->bornNs == state.bornNs)
+            return item;
+    }
+    return std::nullopt;
+}
+
+std::vector<TrashedItem> DiskFileSystem::allTrashed(const QString &path) const
+{
+    return trashedFrom(path);
+}
+
+void DiskFileSystem::discardHalfTrashed(const QString &path)
+{
+    platform::discardHalfTrashed(path);
+}
+
+void DiskFileSystem::settle(const QString &folder)
+{
+    settleFolder(folder);
+}
+
+} // namespace platform

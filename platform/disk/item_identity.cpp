@@ -1,0 +1,47 @@
+#include "platform/disk/item_identity.h"
+
+#include "platform/foundation/paths.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <sys/stat.h>
+
+namespace platform {
+
+QString identityOf(const struct stat &item)
+{
+    return QStringLiteral("%1:%2").arg(item.st_dev).arg(item.st_ino);
+}
+
+QString itemIdentity(const QString &path)
+{
+    struct stat item = {};
+    const bool isThere =
+        canBeAPath(path) && ::lstat(QFile::encodeName(withoutTrailingSlashes(path)).constData(), &item) == 0;
+    return isThere ? identityOf(item) : QString();
+}
+
+QString targetIdentity(const QString &path)
+{
+    struct stat item = {};
+    return canBeAPath(path) && ::stat(QFile::encodeName(path).constData(), &item) == 0 ? identityOf(item) : QString();
+}
+
+QString folderIdentity(const QString &path)
+{
+    // Before "a/.." can be left out, "a" must be known to be no link: what is there is asked with the path as it is.
+    QString there = withoutTrailingSlashes(path);
+    QString rest;
+    while (!there.isEmpty()) {
+        const QString known = targetIdentity(there);
+        if (!known.isEmpty())
+            return rest.isEmpty() ? known : known + QDir::cleanPath(rest);
+        rest = u'/' + lastPathComponent(there) + rest;
+        const QString above = parentFolder(there);
+        there = above == there ? QString() : above;
+    }
+    return QDir::cleanPath(path);
+}
+
+} // namespace platform

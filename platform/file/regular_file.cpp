@@ -1,0 +1,56 @@
+#include "platform/file/regular_file.h"
+
+#include "platform/foundation/paths.h"
+
+#include <QCoreApplication>
+
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+namespace {
+
+tl::unexpected<Error> unread(const QString &path, const QString &reason)
+{
+    return failure(ErrorCode::NotFound,
+                   QCoreApplication::translate("platform", "Cannot read %1: %2").arg(path, reason));
+}
+
+tl::unexpected<Error> unreadBecause(const QString &path, int reason)
+{
+    return unread(path, QString::fromLocal8Bit(std::strerror(reason)));
+}
+
+tl::unexpected<Error> noOrdinaryFile(const QString &path)
+{
+    return unread(path, QCoreApplication::translate("platform", "this is not an ordinary file"));
+}
+
+} // namespace
+
+Result<void> openToRead(QFile &file, QIODevice::OpenMode more)
+{
+    const QString path = file.fileName();
+    if (!canBeAPath(path))
+        return unreadBecause(path, ENOENT);
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status = {};
+    if (::stat(name.constData(), &status) != 0)
+        return unreadBecause(path, errno);
+    if (!S_ISREG(status.st_mode)) // opening a device can already do something
+        return noOrdinaryFile(path);
+    const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0)
+        return unreadBecause(path, errno);
+    const bool isOrdinary = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    if (isOrdinary && file.open(descriptor, QIODevice::ReadOnly | more, QFileDevice::AutoCloseHandle))
+        return {};
+    ::close(descriptor);
+    return isOrdinary ? unread(path, file.errorString()) : noOrdinaryFile(path);
+}
+
+} // namespace platform

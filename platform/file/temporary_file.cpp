@@ -1,0 +1,237 @@
+#include "platform/file/temporary_file.h"
+
+#include "platform/file/sign_of_life.h"
+#include "platform/foundation/paths.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+#include <utility>
+
+namespace platform {
+namespace {
+
+/** Access lists and what users and programs attach; not what the system's security module decides for each file. */
+bool isHandedOn(const QByteArray &attribute)
+{
+    return attribute.startsWith("user.") || attribute.startsWith("system.posix_acl_");
+}
+
+void copyAttribute(int source, int target, const QByteArray &name)
+{
+    const ssize_t size = ::fgetxattr(source, name.constData(), nullptr, 0);
+    if (size < 0)
+        return;
+    QByteArray value(size, '\0');
+    const ssize_t read = ::fgetxattr(source, name.constData(), value.data(), size_t(value.size()));
+    if (read == size)
+        ::fsetxattr(target, name.constData(), value.constData(), size_t(size), 0);
+}
+
+void copyAttributes(int source, int target)
+{
+    const ssize_t size = ::flistxattr(source, nullptr, 0);
+    if (size <= 0)
+        return;
+    QByteArray names(size, '\0');
+    const ssize_t read = ::flistxattr(source, names.data(), size_t(names.size()));
+    if (read <= 0)
+        return;
+    for (const QByteArray &name : names.left(read).split('\0'))
+        if (isHandedOn(name))
+            copyAttribute(source, target, name);
+}
+
+/** Only an ordinary file or a link gives way to another file: a device, a pipe or a socket is no place for one. */
+bool mayBeReplaced(const QByteArray &path)
+{
+    struct stat there = {};
+    if (::lstat(path.constData(), &there) != 0)
+        return errno == ENOENT;
+    errno = S_ISDIR(there.st_mode) ? EISDIR : EEXIST;
+    return S_ISREG(there.st_mode) || S_ISLNK(there.st_mode);
+}
+
+} // namespace
+
+tl::unexpected<Error> writeFailure(const QString &path, int code)
+{
+    return failure(ErrorCode::WriteFailed, QCoreApplication::translate("platform", "Cannot write %1: %2")
+                                               .arg(path, QString::fromLocal8Bit(std::strerror(code))));
+}
+
+TemporaryFile::TemporaryFile(const QString &target)
+    : m_target(QFile::encodeName(target)), m_folder(QFile::encodeName(QFileInfo(target).path()))
+{
+    errno = ENOENT;
+    if (!canBeAPath(target) || !mayBeReplaced(m_target))
+        return;
+    sweepUnfinishedOnce(QFileInfo(target).path());
+    m_descriptor = ::open(m_folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
+    if (m_descriptor >= 0)
+        showLife(m_descriptor);
+    else
+        openNamed();
+}
+
+TemporaryFile::~TemporaryFile()
+{
+    if (isOpen())
+        ::close(m_descriptor);
+    if (!m_name.isEmpty())
+        ::unlink(m_name.constData());
+}
+
+bool TemporaryFile::openNamed()
+{
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        QByteArray name = m_folder + '/' + unfinishedName + "XXXXXX";
+        m_descriptor = ::mkostemp(name.data(), O_CLOEXEC);
+        if (!isOpen())
+            return false;
+        // Before it showed life, somebody may have taken it for what an ended process left.
+        if (showLife(m_descriptor) != Life::Others && isStillNamed(m_descriptor, name)) {
+            m_name = name;
+            return true;
+        }
+        ::close(m_descriptor);
+        m_descriptor = -1;
+    }
+    errno = EBUSY;
+    return false;
+}
+
+bool TemporaryFile::write(const QByteArray &bytes)
+{
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t count = ::write(m_descriptor, bytes.constData() + done, size_t(bytes.size() - done));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return false;
+        done += count;
+    }
+    return true;
+}
+
+bool TemporaryFile::writeAt(qint64 position, const char *bytes, qint64 count)
+{
+    for (qint64 done = 0; done < count;) {
+        const ssize_t written = ::pwrite(m_descriptor, bytes + done, size_t(count - done), position + done);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
+bool TemporaryFile::copyFrom(int source, qint64 position, qint64 size)
+{
+    off64_t at = position;
+    const off64_t end = position + size;
+    while (at < end) {
+        const ssize_t count = ::copy_file_range(source, &at, m_descriptor, nullptr, size_t(end - at), 0);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0 && (errno == EXDEV || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP))
+            return copyByHand(source, at, end - at);
+        if (count <= 0) {
+            errno = count == 0 ? EIO : errno; // the source became shorter meanwhile
+            return false;
+        }
+    }
+    return true;
+}
+
+bool TemporaryFile::copyByHand(int source, qint64 position, qint64 size)
+{
+    constexpr qint64 step = 1 << 20;
+    QByteArray buffer(std::min(step, size), Qt::Uninitialized);
+    for (qint64 done = 0; done < size;) {
+        const qint64 wanted = std::min<qint64>(buffer.size(), size - done);
+        const ssize_t count = ::pread(source, buffer.data(), size_t(wanted), position + done);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0) {
+            errno = count == 0 ? EIO : errno;
+            return false;
+        }
+        if (!write(QByteArray::fromRawData(buffer.constData(), count)))
+            return false;
+        done += count;
+    }
+    return true;
+}
+
+bool TemporaryFile::takePermissions()
+{
+    struct stat old = {};
+    if (::lstat(m_target.constData(), &old) == 0 && S_ISREG(old.st_mode))
+        return ::fchmod(m_descriptor, old.st_mode & 07777) == 0;
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return ::fchmod(m_descriptor, 0666 & ~mask) == 0;
+}
+
+bool TemporaryFile::takeAttributesOf(int source)
+{
+    struct stat old = {};
+    struct stat own = {};
+    if (::fstat(source, &old) != 0 || ::fstat(m_descriptor, &own) != 0)
+        return false;
+    const bool isAnothers = old.st_uid != own.st_uid || old.st_gid != own.st_gid;
+    const bool hasOwner = !isAnothers || ::fchown(m_descriptor, old.st_uid, old.st_gid) == 0 ||
+                          (::fchown(m_descriptor, uid_t(-1), old.st_gid) == 0 && old.st_uid == own.st_uid);
+    copyAttributes(source, m_descriptor);
+    // A file that could not keep its owner must not lend another one's rights.
+    const mode_t mode = old.st_mode & (hasOwner ? 07777 : 0777);
+    return ::fchmod(m_descriptor, mode) == 0;
+}
+
+bool TemporaryFile::nameIt()
+{
+    const QByteArray open = "/proc/self/fd/" + QByteArray::number(m_descriptor);
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        const QByteArray name = m_folder + '/' + unfinishedName + QByteArray::number(quint32(::random()), 36) +
+                                QByteArray::number(qint64(::getpid()), 36);
+        if (::linkat(AT_FDCWD, open.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0) {
+            m_name = name;
+            return true;
+        }
+        if (errno != EEXIST)
+            return false;
+    }
+    return false;
+}
+
+bool TemporaryFile::takePlace()
+{
+    if (::fdatasync(m_descriptor) != 0 || (m_name.isEmpty() && !nameIt()))
+        return false;
+    // Some disks tell of an error only when a file is closed; the second descriptor goes on showing life until it is named.
+    const int alive = ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);
+    const int descriptor = std::exchange(m_descriptor, -1);
+    const bool isNamed =
+        ::close(descriptor) == 0 && mayBeReplaced(m_target) && ::rename(m_name.constData(), m_target.constData()) == 0;
+    const int problem = errno;
+    if (alive >= 0)
+        ::close(alive);
+    errno = problem;
+    if (isNamed)
+        m_name.clear();
+    return isNamed;
+}
+
+} // namespace platform

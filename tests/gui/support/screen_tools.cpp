@@ -1,0 +1,55 @@
+#include "tests/gui/support/screen_tools.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QPixmap>
+#include <QTest>
+
+QString samplePictures(const QString &from, const QString &folder)
+{
+    const QString made = folder + QStringLiteral("/Pictures");
+    QDir().mkpath(made);
+    for (const QString &name : QDir(from).entryList(QDir::Files))
+        QFile::copy(from + QLatin1Char('/') + name, made + QLatin1Char('/') + name);
+    QFile broken(made + QStringLiteral("/Scan 7.jpg"));
+    if (broken.open(QIODevice::WriteOnly))
+        broken.write("The rest of this picture was lost.");
+    return made;
+}
+
+void settle(WindowDriver &driver)
+{
+    QTest::qWait(900);
+    driver.waitFor([] { return true; });
+}
+
+void saveScreen(WindowDriver &driver, const QString &path)
+{
+    driver.control<QWidget>("central")->setFocus();
+    settle(driver);
+    driver.window().grab().toImage().convertToFormat(QImage::Format_RGB888).save(path, "PNG", 0);
+}
+
+void choosePreset(WindowDriver &driver, const char *name)
+{
+    driver.choose("preset", QLatin1Char('=') + QCoreApplication::translate("starting-presets", name));
+}
+
+int makeScreenshots(int argc, char **argv,
+                    const std::function<void(WindowDriver &, const QString &samples, const PicturePath &)> &work)
+{
+    QApplication application(argc, argv);
+    const QString samples = QString::fromLocal8Bit(argv[1]);
+    const QString folder = QString::fromLocal8Bit(argv[2]);
+    QDir().mkpath(folder);
+    for (const char *appearance : {"light", "dark"}) {
+        qputenv("QUORLIN_APPEARANCE", appearance);
+        WindowDriver driver(application);
+        driver.window().resize(1440, 900);
+        work(driver, samples, [&](const char *name) {
+            return folder + QLatin1Char('/') + QLatin1String(name) + QLatin1Char('-') + QLatin1String(appearance);
+        });
+    }
+    return 0;
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "app/window/pictures/picture_table.h"
+#include "app/window/shell.h"
+#include "app/window/start_up.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QTemporaryDir>
+
+#include <functional>
+
+/**
+ * The program with its main window, as a person would work it: finds controls by name, waits for what the window does.
+ * Settings and logs go to a folder of its own.
+ */
+class WindowDriver
+{
+public:
+    explicit WindowDriver(QApplication &application);
+    ~WindowDriver();
+
+    /** The program with the interface of the clone, as tests of one action want it: with that one chosen. */
+    static std::unique_ptr<WindowDriver> showing(const char *action);
+    /** A folder of the person's own for what the program is given; made on first use. */
+    QString inputFolder() const;
+
+    /** Ends the program and starts it anew, with the same settings. */
+    void startAgain();
+
+    QMainWindow &window();
+    window::StartUp &startUp() { return *m_startUp; }
+    window::PictureTable &pictures() { return *control<window::PictureTable>("pictures"); }
+
+    /** The control of that name, the one that is shown where several panes have one; ends the test where there is none. */
+    template<typename T> T *control(const char *name)
+    {
+        const QList<T *> found = window().findChildren<T *>(QString::fromLatin1(name));
+        if (found.isEmpty())
+            qFatal("no control %s", name);
+        for (T *each : found)
+            if (isShown(each))
+                return each;
+        return found.constFirst();
+    }
+
+    /** Chooses an action in the sidebar. */
+    void show(const char *action);
+
+    void click(const char *button);
+    void trigger(const char *action);
+    /** Chooses an entry of a combo box by the value behind it, as a person would. */
+    void choose(const char *box, const QString &value);
+    QString text(const char *label) { return control<QLabel>(label)->text(); }
+    /** The cell of the list in row @p row, in the order of adding. */
+    QString cell(int row, int column);
+
+    /** Drops files and folders onto the window. */
+    void drop(const QStringList &paths);
+    /** Lets the window work until the condition holds; false after @p timeoutMs. */
+    bool waitFor(const std::function<bool()> &condition, int timeoutMs = 20000);
+    /** Waits until a run has ended and its summary is shown; returns the summary. */
+    QString waitForSummary();
+
+    /** Clicks a button of the next message box, by its text. */
+    static void answerNextQuestion(const QString &button);
+    /** Answers every panel from now on with these paths, until the program starts again. */
+    static void answerPanels(const QStringList &paths);
+
+    QString folder() const { return m_home.path(); }
+
+private:
+    static bool isShown(const QObject *object);
+
+    QApplication &m_application;
+    QTemporaryDir m_home;
+    std::unique_ptr<window::StartUp> m_startUp;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "tests/gui/support/window_driver.h"
+
+#include <QSet>
+#include <QTimer>
+
+/**
+ * Leads through all that the program shows: each action without and with pictures, each choice of its settings, its cards and
+ * slots, a run and its summary, every sheet, and questions that come up. At each place the window, or the sheet, is handed to whoever looks.
+ */
+class WindowTour
+{
+public:
+    using Look = std::function<void(const QString &place, const QWidget &window)>;
+
+    /** @param size  of the main window; sheets have their own */
+    WindowTour(WindowDriver &driver, QSize size, Look look);
+
+    void actions();
+    /** What asks for something without a window of its own. */
+    void bars();
+    void runs();
+    void sheets();
+    void savePanel();
+
+private:
+    void look(const QString &place);
+    void look(const QString &place, QWidget &window);
+    void addPictures();
+    void addFolders();
+    void visit(const QString &place, QSet<QString> &visited);
+    void visitValues(const QString &place, QWidget &control, QSet<QString> &visited);
+    void visitCards();
+    void lookAtQuestion();
+    void startAgain();
+    void choosePreset();
+    void visitSheet(const char *opens, bool isAction, const char *sheet, const char *closes);
+
+    WindowDriver &m_driver;
+    QSize m_size;
+    Look m_look;
+    QSet<QString> m_visited;
+    QTimer m_questions;
+};
