@@ -5,13 +5,13 @@
 // Services used: those of the step, files.
 
 import { files } from "quorlin/files";
-import { runItems } from "./lib/job.js";
-import { planRun } from "./lib/plan.js";
-import { logRow, summaryOf } from "./lib/report.js";
-import { keepRows, newRunName } from "./lib/log-file.js";
+import { runItems } from "./runs/job.js";
+import { planRun } from "./runs/plan.js";
+import { logRow, summaryOf } from "./runs/report.js";
+import { keepRows, newRunName } from "./runs/log-file.js";
 import { pixels, statusText } from "./lib/wording.js";
 import { makeServices } from "./services.js";
-import * as resize from "./steps/resize.js";
+import * as resize from "./actions/resize/resize-step.js";
 
 // A generator is run to its end; each value it yields is handed on.
 function carryOut(generator, onValue) {

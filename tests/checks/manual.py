@@ -8,7 +8,7 @@ import re
 import sys
 from pathlib import Path
 
-ACTIONS = "interface/windows/main/actions.js"
+ACTIONS = "interface/actions/actions.js"
 LINK = re.compile(r"(!?)\[[^\]]*\]\(([^)\s]+)[^)]*\)")
 
 

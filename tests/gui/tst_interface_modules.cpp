@@ -87,24 +87,26 @@ private Q_SLOTS:
             QStringLiteral("windows/main/action-page.js"),  QStringLiteral("windows/main/status-bar.js"),
             QStringLiteral("windows/main/preview-side.js"), QStringLiteral("windows/main/support-bar.js")};
         QTest::newRow("main window") << mainParts << QStringList{QStringLiteral("windows/main/main.ui")};
-        QTest::newRow("log") << QStringList{QStringLiteral("windows/log/log-page.js")}
-                             << QStringList{QStringLiteral("windows/log/log.ui")};
-        QTest::newRow("sorting by hand") << QStringList{QStringLiteral("windows/hand/hand-page.js")}
-                                         << QStringList{QStringLiteral("windows/hand/hand.ui"),
+        QTest::newRow("log") << QStringList{QStringLiteral("actions/log/log-page.js")}
+                             << QStringList{QStringLiteral("actions/log/log-page.ui")};
+        QTest::newRow("sorting by hand") << QStringList{QStringLiteral("actions/hand/hand-page.js")}
+                                         << QStringList{QStringLiteral("actions/hand/hand-page.ui"),
                                                         QStringLiteral("windows/main/main.ui")};
-        QTest::newRow("metadata") << QStringList{QStringLiteral("windows/metadata/metadata-page.js")}
-                                  << QStringList{QStringLiteral("windows/metadata/metadata.ui"),
+        QTest::newRow("metadata") << QStringList{QStringLiteral("actions/metadata/metadata-page.js")}
+                                  << QStringList{QStringLiteral("actions/metadata/metadata-page.ui"),
                                                  QStringLiteral("windows/main/main.ui")};
         QTest::newRow("preferences") << QStringList{QStringLiteral("windows/preferences/preferences.js")}
                                      << QStringList{QStringLiteral("windows/preferences/preferences.ui")};
-        for (const char *name : {"resize-pane", "crop-pane", "turn-pane", "round-pane", "background-pane", "pane",
-                                 "output-pane", "preset-pane", "hand-pane"}) {
-            const QString base = QStringLiteral("panes/") + QLatin1String(name);
-            // What all panes have in common must be in each; one stands for all.
-            const QString pane = qstrcmp(name, "pane") == 0 ? QStringLiteral("panes/resize-pane") : base;
-            QTest::newRow(name) << QStringList{base + QStringLiteral(".js")}
-                                << QStringList{pane + QStringLiteral(".ui")};
+        for (const char *pane : {"actions/resize/resize-pane", "actions/crop/crop-pane", "actions/turn/turn-pane",
+                                 "actions/round/round-pane", "actions/background/background-pane",
+                                 "actions/hand/hand-pane", "actions/shared/output-pane", "presets/preset-pane"}) {
+            const QString base = QLatin1String(pane);
+            QTest::newRow(pane) << QStringList{base + QStringLiteral(".js")}
+                                << QStringList{base + QStringLiteral(".ui")};
         }
+        // What all panes have in common must be in each; one stands for all.
+        QTest::newRow("pane") << QStringList{QStringLiteral("actions/shared/pane.js")}
+                              << QStringList{QStringLiteral("actions/resize/resize-pane.ui")};
     }
 
     void everyControlThatAModuleNamesIsInItsForm()
@@ -166,8 +168,8 @@ private Q_SLOTS:
         const QString path = folder.filePath(QStringLiteral("probe.js"));
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(
-            "import { shell } from 'quorlin/shell';\n\nshell.loadForm('panes/output-pane.ui').control('nobody');\n");
+        file.write("import { shell } from "
+                   "'quorlin/shell';\n\nshell.loadForm('actions/shared/output-pane.ui').control('nobody');\n");
         file.close();
         const auto module = m_startUp->scripts().importFile(path);
         QVERIFY(!module.has_value());

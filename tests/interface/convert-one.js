@@ -3,7 +3,7 @@
 import { mMeta } from "quorlin";
 import { files } from "quorlin/files";
 import { makeServices } from "../../interface/services.js";
-import * as convert from "../../interface/steps/convert.js";
+import * as convert from "../../interface/actions/convert/convert-step.js";
 
 const [path, folder, target] = scriptArguments;
 if (target === "comment") {

@@ -4,13 +4,13 @@
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
-import { FORMS } from "../../lib/preset-forms.js";
+import { FORMS } from "../../presets/preset-forms.js";
 import { keep, recall } from "../../lib/store.js";
 import { firstSettings } from "../../lib/wishes.js";
-import { carriedBy } from "../../lib/written.js";
-import { OutputPane } from "../../panes/output-pane.js";
-import { PresetPane } from "../../panes/preset-pane.js";
-import { actionNamed, allActions, GROUPS, standardSettings } from "./actions.js";
+import { carriedBy } from "../../actions/shared/written.js";
+import { OutputPane } from "../../actions/shared/output-pane.js";
+import { PresetPane } from "../../presets/preset-pane.js";
+import { actionNamed, allActions, GROUPS, standardSettings } from "../../actions/actions.js";
 
 const SHOWN = "ShownAction";
 

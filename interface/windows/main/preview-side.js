@@ -5,7 +5,7 @@ import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { madeType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { carriedBy, lossText } from "../../lib/written.js";
+import { carriedBy, lossText } from "../../actions/shared/written.js";
 
 function pixelsText(size) {
     return fill(qsTr("%1 × %2 px"), size.width, size.height);

@@ -4,7 +4,7 @@ import { cSheetControl } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
-import { limitRows } from "../../lib/log-file.js";
+import { limitRows } from "../../runs/log-file.js";
 import { keep, recall } from "../../lib/store.js";
 import { KEY as UPDATE, STANDARD as UPDATE_STANDARD } from "../../lib/update.js";
 import { keepWish, LOG_ROWS, TAKEN, wishes } from "../../lib/wishes.js";

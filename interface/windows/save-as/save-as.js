@@ -8,7 +8,7 @@ import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
-import { isTarget, KEYWORDS, QUALITIES, targetNamed, targetText } from "../../lib/targets.js";
+import { isTarget, KEYWORDS, QUALITIES, targetNamed, targetText } from "../../actions/convert/targets.js";
 import { fill } from "../../lib/wording.js";
 
 const KEY = "SaveAs";

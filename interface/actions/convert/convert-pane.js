@@ -1,0 +1,40 @@
+// The settings of the Convert action. Services used: none; the step says what comes out.
+
+import { KEYWORDS, QUALITIES, targetNamed, targetText } from "./targets.js";
+import { pixels } from "../../lib/wording.js";
+import * as convert from "./convert-step.js";
+import { Pane } from "../shared/pane.js";
+
+function qualityText(code) {
+    const texts = { 1: qsTr("1 – smallest file"), 9: qsTr("9 – best") };
+    return texts[code] || code;
+}
+
+export class ConvertPane extends Pane {
+    constructor(settings, changed) {
+        super("actions/convert/convert-pane.ui", convert, settings, changed);
+        this.join();
+        this.fill();
+    }
+
+    join() {
+        this.form.setItems("target", KEYWORDS.map((keyword) => targetNamed(keyword).word), KEYWORDS);
+        this.form.setItems("convertQuality", QUALITIES.map((code) => qualityText(code)), QUALITIES);
+        this.choice("target", "target");
+        this.choice("convertQuality", "quality");
+    }
+
+    showValues() {
+        this.form.chooseValue("target", this.settings.target);
+        this.form.chooseValue("convertQuality", this.settings.quality);
+    }
+
+    showState() {
+        this.visible(["convertQualityLabel", "convertQuality"], targetNamed(this.settings.target).quality);
+        this.form.control("targetNote").text = targetText(this.settings.target);
+    }
+
+    resultText(photo, planned) {
+        return pixels(planned) + ", " + planned.name;
+    }
+}

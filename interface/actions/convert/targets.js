@@ -1,0 +1,91 @@
+// What pictures can be converted to, and what gets lost on the way. Pure but for translation; no service is used.
+
+import { splitPath } from "../../lib/names.js";
+import { PDF_PAGE, PICTURE_INPUT, typeOfExtension, writtenType } from "../../lib/types.js";
+import { mayBeTransparent } from "../shared/written.js";
+
+// keyword: what the service calls it. metadata: keeps EXIF, IPTC and XMP. deep: keeps 16 bits a colour.
+const TARGETS = [
+    { keyword: "jpeg", id: "public.jpeg", metadata: false, deep: false },
+    { keyword: "png", id: "public.png", metadata: true, deep: true },
+    { keyword: "tiff", id: "public.tiff", metadata: true, deep: true },
+    { keyword: "pdf", id: PDF_PAGE.id, metadata: false, deep: true },
+    { keyword: "jp2", id: "public.jp2", metadata: false, deep: true },
+    { keyword: "gif", id: "com.compuserve.gif", metadata: false, deep: false },
+    { keyword: "bmp", id: "public.bmp", metadata: false, deep: false },
+];
+
+/** The keywords of the targets, in the order in which they are offered. */
+export const KEYWORDS = TARGETS.map((target) => target.keyword);
+
+/** The codes of JPEG quality; "9" is the highest. */
+export const QUALITIES = ["1", "2", "3", "4", "5", "6", "7", "8", "9"];
+
+const RAW = ["dng", "cr2", "nef", "arw", "orf", "rw2", "raf", "pef", "srw"];
+
+/** The files that can be converted, by extension. */
+export const CONVERTED_INPUT = PICTURE_INPUT.concat(["jpe", "heic", "heif", "webp", "avif", "psd", "pdf", "svg"], RAW);
+
+/** {keyword, metadata, deep, id, extension, word, profile, alpha, quality} of a keyword. */
+export function targetNamed(keyword) {
+    const target = TARGETS.find((each) => each.keyword === keyword);
+    return Object.assign({}, target.id === PDF_PAGE.id ? PDF_PAGE : writtenType(target.id), target);
+}
+
+export function isTarget(keyword) {
+    return KEYWORDS.indexOf(keyword) >= 0;
+}
+
+/** What becomes of everything in a picture that is written as this target, in sentences. */
+export function targetText(keyword) {
+    return {
+        jpeg: () => qsTr("Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black and 16 bits become 8. The colour profile is kept."),
+        png: () => qsTr("Nothing is lost: pixels, transparency, 16 bits, colour profile, EXIF, IPTC and XMP are kept."),
+        tiff: () => qsTr("Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile, EXIF, IPTC and XMP are kept. Large files."),
+        pdf: () => qsTr("One page of the picture’s own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept."),
+        jp2: () => qsTr("Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC, XMP and the resolution are not. Few programs show such files."),
+        gif: () => qsTr("256 colours at most, and a pixel is either transparent or not. EXIF, IPTC, XMP and the resolution are not kept; colours become sRGB."),
+        bmp: () => qsTr("Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black, and 16 bits become 8."),
+    }[keyword]();
+}
+
+/** What the result of one picture will not hold, in a few words; empty where nothing is lost. */
+export function lostText(photo, target) {
+    const lost = [];
+    if (!target.metadata) {
+        lost.push(qsTr("EXIF, IPTC and XMP are not kept"));
+    }
+    if (target.keyword === "gif") {
+        lost.push(qsTr("256 colours"));
+    } else if (!target.profile && target.keyword !== "jp2") {
+        lost.push(qsTr("colours become sRGB"));
+    }
+    if (target.keyword === "gif" || target.keyword === "jp2") {
+        lost.push(qsTr("the resolution is not kept"));
+    }
+    if (!target.alpha && mayBeTransparent(photo)) {
+        lost.push(qsTr("transparent parts become black"));
+    }
+    return lost.join(" · ");
+}
+
+/** What is to be known of a source, in sentences. */
+export function sourceNotes(photo, target) {
+    const extension = splitPath(photo.path).extension.toLowerCase();
+    const notes = [];
+    if (RAW.indexOf(extension) >= 0) {
+        notes.push(qsTr("The preview that the camera put into the raw file is converted, not the raw data."));
+    } else if (extension === "pdf") {
+        notes.push(qsTr("The first page is drawn at 72 pixels per inch."));
+    } else if (extension === "gif" && target.keyword !== "gif") {
+        notes.push(qsTr("Of an animation the first picture is converted."));
+    } else if (extension === "tif" || extension === "tiff") {
+        notes.push(qsTr("Of several pages the first is converted."));
+    } else if (extension === "psd") {
+        notes.push(qsTr("Layers become one picture."));
+    }
+    if (typeOfExtension(extension) === target.id) {
+        notes.push(qsTr("It is %1 already and is written anew.").replace("%1", target.word));
+    }
+    return notes;
+}

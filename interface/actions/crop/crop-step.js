@@ -1,0 +1,125 @@
+// Cuts a rectangle out of a picture.
+// Services used: image (cropImage, with its outlets), units, files. Plain data in, plain data out.
+
+import { cropFrame, insidePicture } from "./crops.js";
+import { inPixels, PIXEL, UNITS } from "../../lib/measure.js";
+import { splitPath } from "../../lib/names.js";
+import { ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
+import { fill } from "../../lib/wording.js";
+import { outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
+
+export const MOST = 100000;
+
+/** What a new pane shows. */
+export const defaults = {
+    mode: "percent", width: 1200, height: 800, unit: PIXEL, percent: 20, pixels: 200, position: 4, offsetX: 0, offsetY: 0,
+    ratio: "free",
+    output: {
+        fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: qsTr("Cropped"), path: "" },
+        ifTaken: "number", simulation: false,
+    },
+};
+
+/** What the output block offers; see the Resize step. */
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, metadata: ["public.tiff"] };
+
+const LABELS = { size: "W x H", percent: "%", pixels: "Pixels" };
+
+/** The settings in a few words, for the log. */
+export function describe(settings) {
+    const size = { size: settings.width + "×" + settings.height + " " + settings.unit, percent: fill(qsTr("%1 % away"), settings.percent),
+                   pixels: fill(qsTr("%1 pixels away"), settings.pixels) }[settings.mode];
+    const moved = settings.offsetX || settings.offsetY ? [fill(qsTr("moved %1, %2 %3"), settings.offsetX, settings.offsetY, settings.unit)] : [];
+    return [size, fill(qsTr("position %1"), settings.position + 1)].concat(moved).join(", ");
+}
+
+function isWhole(value, least, most) {
+    return Number.isInteger(value) && value >= least && value <= most;
+}
+
+function sizeMessages(settings) {
+    if (settings.mode === "percent") {
+        return isWhole(settings.percent, 0, 99) ? [] : [qsTr("Enter a whole number from 0 to 99 per cent.")];
+    }
+    if (settings.mode === "pixels") {
+        return isWhole(settings.pixels, 0, MOST) ? [] : [qsTr("Enter a whole number from 0 to %1.").replace("%1", String(MOST))];
+    }
+    const good = (value) => value > 0 && value <= MOST && (settings.unit !== PIXEL || Number.isInteger(value));
+    return good(settings.width) && good(settings.height) ? [] : [qsTr("Enter a width and a height.")];
+}
+
+/** Messages on what is wrong with the settings; empty if a run can start. */
+export function validate(settings) {
+    const messages = sizeMessages(settings);
+    if (!isWhole(settings.position, 0, 8)) {
+        messages.push(qsTr("Choose one of the nine positions."));
+    }
+    if (!(Math.abs(settings.offsetX) <= MOST && Math.abs(settings.offsetY) <= MOST) || UNITS.indexOf(settings.unit) < 0) {
+        messages.push(qsTr("Enter offsets from %1 to %2.").replace("%1", String(-MOST)).replace("%2", String(MOST)));
+    }
+    return messages.concat(outputMessages(settings.output));
+}
+
+/** The settings with all lengths in pixels of the picture. */
+export function forPhoto(photo, settings, services) {
+    const lengths = settings.mode === "size" ? ["width", "height", "offsetX", "offsetY"] : ["offsetX", "offsetY"];
+    return inPixels(photo, settings, lengths, services);
+}
+
+/** What a run would write for one picture: a plan with the frame, or a final status with its reason. */
+export function plan(photo, settings, services) {
+    const target = targetOf(photo, settings.output.fileType);
+    if (target.refusal !== null) {
+        return target.refusal;
+    }
+    const frame = cropFrame(photo, forPhoto(photo, settings, services));
+    if (!(frame.width > 0 && frame.height > 0)) {
+        return { status: "Failed", reason: qsTr("nothing would be left of it") };
+    }
+    const inside = insidePicture(photo, frame);
+    if (inside === null) {
+        return { status: "Failed", reason: qsTr("the frame lies outside the picture") };
+    }
+    const cut = inside.width < frame.width || inside.height < frame.height;
+    const notes = cut ? [qsTr("Cut off at the picture’s edge.")] : [];
+    const planned = ready(splitPath(photo.path).base + target.type.extension, target.type, inside, notes);
+    planned.frame = frame;
+    planned.inside = inside;
+    return planned;
+}
+
+/** Fills the outlets of the operation. */
+export function fillOutlets(photo, settings, services) {
+    const pixels = forPhoto(photo, settings, services);
+    const outlets = services.outlets;
+    outlets.cropType.selectedLabel = LABELS[settings.mode];
+    outlets.position.selectedSegment = settings.position;
+    outlets.xOffset.stringValue = String(pixels.offsetX);
+    outlets.yOffset.stringValue = String(pixels.offsetY);
+    outlets.width.stringValue = String(pixels.width);
+    outlets.height.stringValue = String(pixels.height);
+    outlets.percentage.stringValue = String(settings.percent);
+    outlets.pixels.stringValue = String(settings.pixels);
+    return pixels;
+}
+
+/** Writes the cut picture as settings.prefix + name, where plan() tells the name; see the Resize step. */
+export function run(photo, settings, services) {
+    const planned = plan(photo, settings, services);
+    if (planned.status !== "ready") {
+        return refused(planned);
+    }
+    const output = settings.output;
+    fillOutlets(photo, settings, services);
+    const status = services.image.cropImage(photo.path, planned.frame.width, planned.frame.height, settings.prefix, output.fileType,
+                                            output.quality);
+    return uprightOutcome(status, settings.prefix + planned.name, planned, photo, offer.metadata, services);
+}
+
+/** What the preview does to the upright picture to show the result. */
+export function preview(photo, settings, planned) {
+    const part = planned.inside;
+    const deeds = [{ do: "cut", x: part.x, y: part.y, width: part.width, height: part.height }];
+    return { deeds: writtenType(planned.type).alpha ? deeds : deeds.concat([{ do: "flatten" }]), width: planned.width,
+             height: planned.height, type: planned.type, quality: settings.output.quality };
+}

@@ -1,0 +1,250 @@
+// Sort by Hand: one picture large, and a key for each folder. The pictures are those of the list, in its order.
+// Services used: moves, files, and those of hand-sorting.
+
+import { files } from "quorlin/files";
+import { guard } from "../../lib/guard.js";
+import { deedWords, HandSorting, MODES, TRASH } from "./hand-sorting.js";
+import { slotProblem } from "./hand-slots.js";
+import { appendRows, trimRows } from "../../runs/log-file.js";
+import { roomProblem } from "../../runs/room.js";
+import { Sidecars } from "../../lib/sidecars.js";
+import { count, fill } from "../../lib/wording.js";
+import { shell } from "quorlin/shell";
+
+// So many pictures are decoded before they are asked for.
+const AHEAD = 3;
+
+export class HandPage {
+    /** @param window  the main window's parts: pictures, pane, services, preview, input, note(text) */
+    constructor(window) {
+        this.window = window;
+        this.list = window.pictures;
+        this.form = shell.loadForm("actions/hand/hand-page.ui");
+        this.view = this.form.control("handView");
+        this.view.showsResult = false;
+        this.shown = false;
+        this.sorting = null;
+        this.connect();
+    }
+
+    connect() {
+        const join = (signal, name, deed) => signal.connect(guard("hand." + name, deed));
+        const control = (name) => this.form.control(name);
+        const deeds = { handBack: () => this.step(-1), handSkip: () => this.step(1), handTrash: () => this.trash(), handUndo: () => this.undo() };
+        Object.keys(deeds).forEach((name) => {
+            join(control(name).triggered, name, deeds[name]);
+            join(control(name + "Button").clicked, name, () => { deeds[name](); this.view.setFocus(); });
+        });
+        join(control("handBackspace").triggered, "back", deeds.handBack);
+        const choices = { handMove: MODES[0], handCopy: MODES[1], handLink: MODES[2] };
+        Object.keys(choices).forEach((name) => join(control(name).triggered, name, () => this.chooseMode(choices[name])));
+        join(control("handAddPictures").clicked, "add", () => this.window.input.addPictures());
+        join(control("handAddPictureFolder").clicked, "add", () => this.window.input.addFolder());
+        join(this.view.largePreviewRequested, "large", () => this.window.form.control("largeAction").trigger());
+        join(this.view.pictureShown, "ahead", () => this.prepare());
+        join(this.list.currentPictureChanged, "current", () => this.showCurrent());
+    }
+
+    show() {
+        this.shown = true;
+        this.sorting = new HandSorting(this.window.services.moves, (path) => new Sidecars(files).of(path), (rows) => appendRows(files, rows));
+        this.window.pane.use((folder) => this.sorting.countIn(folder), (slot, row) => this.put(slot, row));
+        this.showCurrent();
+    }
+
+    mayLeave() {
+        this.finish();
+        return true;
+    }
+
+    leave() {
+        this.finish();
+        this.shown = false;
+        this.view.prepare([]);
+    }
+
+    // What is in the trash is no picture of the list any more.
+    finish() {
+        if (this.sorting === null || !this.sorting.isOpen()) {
+            return;
+        }
+        const trashed = this.sorting.decided().filter((id) => this.sorting.isTrashed({ id: id }));
+        const problem = this.sorting.end() || this.sorting.logProblem || trimRows(files);
+        this.list.removeIds(trashed);
+        this.window.pane.showSlots();
+        if (problem) {
+            this.window.note(problem);
+        }
+        this.showCurrent();
+    }
+
+    listChanged() {
+        this.showCurrent();
+    }
+
+    current() {
+        const id = this.list.currentId;
+        return id > 0 ? this.list.photo(id) : null;
+    }
+
+    showCurrent() {
+        if (!this.shown) {
+            return;
+        }
+        const photo = this.current();
+        this.form.control("handPage").currentIndex = photo === null ? 0 : 1;
+        if (photo !== null) {
+            this.showPicture(photo);
+            this.showTexts(photo);
+        }
+        if (this.window.preview.large.visible) {
+            this.window.preview.showLarge();
+        }
+        this.showButtons(photo);
+    }
+
+    showPicture(photo) {
+        const path = this.sorting.placeOf(photo);
+        this.view.problem = path === "" ? qsTr("In the trash") : "";
+        this.view.showPicture(path);
+        this.view.setTitles(this.sorting.wordsFor(photo), "");
+        this.view.setCaptions("", "");
+    }
+
+    showTexts(photo) {
+        const control = (name) => this.form.control(name);
+        const done = this.sorting.wordsFor(photo);
+        const parts = photo.width > 0 ? [fill(qsTr("%1 × %2 px"), photo.width, photo.height)] : [];
+        const date = this.dateOf(photo);
+        control("handName").text = photo.name;
+        control("handName").toolTip = photo.path;
+        control("handPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
+        control("handDone").text = done;
+        control("handDone").visible = done !== "";
+        control("handFacts").text = (date === "" ? [] : [date]).concat(parts, photo.bytes >= 0 ? [files.byteText(photo.bytes)] : []).join(" · ");
+        this.view.accessibleName = fill(qsTr("%1, %2"), photo.name, control("handPlace").text);
+    }
+
+    // When it was taken; else when the file was made.
+    dateOf(photo) {
+        const path = this.sorting.placeOf(photo);
+        const facts = path === "" ? null : files.facts(path);
+        return facts === null ? "" : facts.taken ? files.dateText(facts.taken) : fill(qsTr("file of %1"), files.dateText(facts.changed));
+    }
+
+    showButtons(photo) {
+        const control = (name) => this.form.control(name);
+        const last = this.sorting.last();
+        const states = { handBack: this.list.currentPlace > 1, handSkip: photo !== null && this.list.currentPlace < this.list.count,
+                         handTrash: photo !== null && !this.sorting.isTrashed(photo), handUndo: last !== null };
+        Object.keys(states).forEach((name) => {
+            control(name).enabled = states[name];
+            control(name + "Button").enabled = states[name];
+        });
+        control("handUndoButton").toolTip = last === null ? qsTr("Take back the last deed (Ctrl+Z)")
+            : fill(qsTr("Take back: %1 (Ctrl+Z)"), deedWords(last.kind, last.label));
+        this.form.control("handBackspace").enabled = states.handBack;
+    }
+
+    // The pictures that come next, and the one before.
+    prepare() {
+        if (this.shown) {
+            const paths = [];
+            for (let rows = 1; rows <= AHEAD; rows += 1) {
+                paths.push(this.list.pathBeside(rows));
+            }
+            this.view.prepare(paths.concat([this.list.pathBeside(-1)]).filter((path) => path !== ""));
+        }
+    }
+
+    // What the keys of the folders do from now on; said, since nobody looks at the pane while working by keys.
+    chooseMode(mode) {
+        this.window.pane.chooseMode(mode);
+        const words = { move: qsTr("Keys move pictures now."), copy: qsTr("Keys copy pictures now."), link: qsTr("Keys link pictures now.") };
+        this.window.note(words[mode]);
+    }
+
+    step(rows) {
+        this.list.step(rows);
+    }
+
+    put(slot, row) {
+        const photo = this.current();
+        // A folder that is gone is not made anew by a key.
+        const problem = slotProblem(slot.path, files) || this.roomProblem(photo, slot);
+        if (problem !== "") {
+            this.window.pane.look();
+            this.window.note(fill(qsTr("%1: %2. The picture stays where it is."), slot.label, problem));
+        } else if (photo !== null) {
+            this.tell(photo, this.sorting.put(photo, this.window.settings.mode, slot), row);
+        }
+    }
+
+    roomProblem(photo, slot) {
+        const path = photo === null ? "" : this.sorting.placeOf(photo);
+        return path === "" ? "" : roomProblem(path, slot.path, this.window.settings.mode, files);
+    }
+
+    trash() {
+        const photo = this.current();
+        if (photo !== null) {
+            this.tell(photo, this.sorting.trash(photo), -1);
+        }
+    }
+
+    // Shows what came of a deed, and the next picture.
+    tell(photo, result, row) {
+        if (result.status !== "OK") {
+            this.window.pane.look();
+            this.window.note(fill(qsTr("%1: %2"), photo.name, result.message));
+            return;
+        }
+        this.showState(photo);
+        this.window.pane.showSlots();
+        if (row >= 0) {
+            this.window.pane.list.light(row);
+            this.window.pane.list.reveal(row);
+        }
+        if (this.list.currentPlace < this.list.count) {
+            this.step(1);
+        } else {
+            this.showCurrent();
+            this.window.note(this.lastWords());
+        }
+    }
+
+    lastWords() {
+        const open = this.list.count - this.sorting.decided().length;
+        return open === 0 ? qsTr("That was the last picture. All of them are sorted.")
+            : fill(qsTr("That was the last picture. %1"), count(open, qsTr("1 was skipped."), qsTr("%1 were skipped.")));
+    }
+
+    // The row of the list follows the file, and says what was done with it.
+    showState(photo) {
+        const words = this.sorting.wordsFor(photo);
+        const place = this.sorting.placeOf(photo);
+        if (place !== "" && place !== photo.path) {
+            this.list.setPath(photo.id, place);
+        }
+        this.list.setStatus(photo.id, words === "" ? "none" : place === "" ? "caution" : "good", words, "");
+    }
+
+    undo() {
+        const result = this.sorting.takeBack();
+        if (result === null) {
+            return;
+        }
+        const photo = this.list.photo(result.deed.id);
+        if (result.status !== "OK") {
+            this.window.note(result.message);
+        } else if (photo !== null) {
+            if (result.deed.kind === "move" || result.deed.kind === TRASH) {
+                this.list.setPath(photo.id, result.deed.from);
+            }
+            this.showState(this.list.photo(photo.id));
+            this.list.selectId(photo.id);
+        }
+        this.window.pane.look();
+        this.showCurrent();
+    }
+}

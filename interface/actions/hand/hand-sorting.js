@@ -1,0 +1,243 @@
+// Sorting one picture after the other into folders: what was done with which picture, where it is now, and taking it back.
+// Pure but for translation; the move engine, the file service and the log are handed in.
+
+import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
+import { logRow } from "../../runs/report.js";
+import { fill } from "../../lib/wording.js";
+
+export const MODES = ["move", "copy", "link"];
+
+export const TRASH = "trash";
+
+/** The deed in words, as the log and the list say it. */
+export function deedWords(kind, label) {
+    const words = { move: qsTr("Moved to %1"), copy: qsTr("Copied to %1"), link: qsTr("Linked in %1"), trash: qsTr("In the trash") };
+    return fill(words[kind], label);
+}
+
+function logWords(kind, label) {
+    const words = { move: qsTr("Move to %1"), copy: qsTr("Copy to %1"), link: qsTr("Link in %1"), trash: qsTr("Trash") };
+    return fill(words[kind], label);
+}
+
+function failed(message) {
+    return { status: "Failed", message: message, deed: null };
+}
+
+export class HandSorting {
+    /**
+     * @param moves   the move engine: open, add, takeBack, end
+     * @param along   function(path): the files that go along with a picture, [{name, ending}, ...]
+     * @param keep    function(rows): adds rows to the log; returns a message where that failed
+     */
+    constructor(moves, along, keep) {
+        this.moves = moves;
+        this.along = along;
+        this.keep = keep;
+        this.run = "";
+        this.logProblem = "";
+        this.forget();
+    }
+
+    forget() {
+        this.deeds = [];
+        this.byPicture = emptyTable();
+        this.counts = emptyTable();
+        this.companions = emptyTable();
+    }
+
+    isOpen() {
+        return this.run !== "";
+    }
+
+    /** Where the file of a picture is now; "" in the trash. */
+    placeOf(photo) {
+        const deed = this.lastOf(photo, (each) => each.kind === "move" || each.kind === TRASH);
+        return deed === null ? photo.path : deed.kind === TRASH ? "" : deed.parts[0].to;
+    }
+
+    isTrashed(photo) {
+        return this.placeOf(photo) === "";
+    }
+
+    /** All that was done with a picture and stands, oldest first: [{kind, label, from}, ...]. */
+    doneWith(photo) {
+        return this.byPicture[photo.id] || [];
+    }
+
+    /** The ids of the pictures with which something was done. */
+    decided() {
+        return Object.keys(this.byPicture).filter((id) => this.byPicture[id].length > 0).map(Number);
+    }
+
+    /** The last deed that stands, or null. */
+    last() {
+        return this.deeds.length > 0 ? this.deeds[this.deeds.length - 1] : null;
+    }
+
+    /** What was done with it, in words; "" for nothing. */
+    wordsFor(photo) {
+        return this.doneWith(photo).map((deed) => deedWords(deed.kind, deed.label)).join(" · ");
+    }
+
+    /** How many pictures of this session are in a folder, by what was done here. */
+    countIn(folder) {
+        return this.counts[folder] || 0;
+    }
+
+    lastOf(photo, test) {
+        return this.doneWith(photo).slice().reverse().find(test) || null;
+    }
+
+    /**
+     * Puts a picture {id, name, path as it was at first} into the folder of a slot {path, label}: {status, message, deed}. What is
+     * there is never replaced: a name that is taken gets a number.
+     */
+    put(photo, kind, slot) {
+        const from = this.placeOf(photo);
+        if (from === "") {
+            return failed(qsTr("This picture is in the trash. Undo brings it back."));
+        }
+        if (kind === "move" && splitPath(from).folder === slot.path) {
+            return { status: "Same", message: fill(qsTr("This picture is in %1 already."), slot.label), deed: null };
+        }
+        return this.act(photo, kind, from, slot);
+    }
+
+    trash(photo) {
+        const from = this.placeOf(photo);
+        return from === "" ? failed(qsTr("This picture is in the trash already.")) : this.act(photo, TRASH, from, { path: "", label: "" });
+    }
+
+    act(photo, kind, from, slot) {
+        const problem = this.open();
+        if (problem) {
+            return failed(problem);
+        }
+        const deed = { id: photo.id, kind: kind, label: slot.label, folder: slot.path, from: from, parts: [],
+                       left: kind === "move" || kind === TRASH ? this.sessionFolder(photo) : "" };
+        const result = this.addPart(deed, kind, from, joinPath(slot.path, splitPath(from).name));
+        if (result.status === "OK") {
+            this.addAlong(deed, from);
+            this.deeds.push(deed);
+            this.byPicture[photo.id] = this.doneWith(photo).concat([deed]);
+            this.count(deed, 1);
+        }
+        this.write([this.row(kind, from, result, logWords(kind, slot.label))]);
+        return { status: result.status, message: result.message, deed: result.status === "OK" ? deed : null };
+    }
+
+    addPart(deed, kind, from, to) {
+        const result = this.moves.add(this.run, { kind: kind, from: from, to: kind === TRASH ? "" : to, number: true });
+        if (result.status === "OK") {
+            deed.parts.push({ from: from, to: result.path || "" });
+        }
+        return result;
+    }
+
+    // The folder is looked through once for a picture, not at every key.
+    alongOf(path) {
+        if (this.companions[path] === undefined) {
+            this.companions[path] = this.along(path);
+        }
+        return this.companions[path];
+    }
+
+    // Files that go along take the name that the picture got.
+    addAlong(deed, from) {
+        if (deed.kind === "link") {
+            return;
+        }
+        const folder = splitPath(from).folder;
+        const to = deed.kind === TRASH ? from : deed.parts[0].to;
+        const gone = [];
+        for (const other of this.alongOf(from)) {
+            const result = this.addPart(deed, deed.kind, joinPath(folder, other.name), joinPath(deed.folder, splitPath(to).base + other.ending));
+            if (result.status === "OK") {
+                gone.push({ name: result.path ? splitPath(result.path).name : other.name, ending: other.ending });
+            } else {
+                this.write([this.row(deed.kind, joinPath(folder, other.name), result, logWords(deed.kind, deed.label))]);
+            }
+        }
+        if (deed.kind === "move") {
+            this.companions[to] = gone;
+        }
+    }
+
+    /** Takes back the last deed that stands: {status, message, deed}, or null where there is none. */
+    takeBack() {
+        const deed = this.last();
+        if (deed === null) {
+            return null;
+        }
+        while (deed.parts.length > 0) {
+            const part = deed.parts[deed.parts.length - 1];
+            const result = this.moves.takeBack(this.run);
+            if (result === null || result.status !== "OK") {
+                return this.notTakenBack(deed, part, result);
+            }
+            deed.parts.pop();
+            if (deed.parts.length === 0) {
+                this.deeds.pop();
+                this.byPicture[deed.id] = this.doneWith({ id: deed.id }).slice(0, -1);
+                this.count(deed, -1);
+                this.write([this.row("move", part.to, { status: "OK", message: "", path: part.from },
+                                     fill(qsTr("Undo: %1"), logWords(deed.kind, deed.label)))]);
+            }
+        }
+        return { status: "OK", message: "", deed: deed };
+    }
+
+    notTakenBack(deed, part, result) {
+        const message = result === null ? qsTr("There is nothing left to undo.") : result.message;
+        this.write([this.row("move", part.to, { status: "Failed", message: message, path: "" },
+                             fill(qsTr("Undo: %1"), logWords(deed.kind, deed.label)))]);
+        return { status: "Failed", message: message, deed: deed };
+    }
+
+    /** Ends the session: what was done can then be undone as a whole, from the log. Returns a message, or "". */
+    end() {
+        if (!this.isOpen()) {
+            return "";
+        }
+        const problem = this.moves.end(this.run);
+        this.run = "";
+        this.forget();
+        return problem;
+    }
+
+    open() {
+        if (this.isOpen()) {
+            return "";
+        }
+        const opened = this.moves.open(qsTr("Sort by Hand"));
+        this.run = opened.run || "";
+        return opened.problem || "";
+    }
+
+    // The folder into which an earlier deed of this session brought the picture: it leaves it now.
+    sessionFolder(photo) {
+        const deed = this.lastOf(photo, (each) => each.kind === "move");
+        return deed === null ? "" : deed.folder;
+    }
+
+    count(deed, change) {
+        if (deed.folder !== "") {
+            this.counts[deed.folder] = this.countIn(deed.folder) + change;
+        }
+        if (deed.left !== "") {
+            this.counts[deed.left] = this.countIn(deed.left) - change;
+        }
+    }
+
+    row(kind, from, result, action) {
+        const isThere = result.status === "OK" && Boolean(result.path) && kind !== TRASH;
+        const parts = { status: result.status, reason: result.message, photo: { name: splitPath(from).name, path: from },
+                        name: isThere ? splitPath(result.path).name : "", path: isThere ? result.path : "" };
+        return logRow(parts, qsTr("Sort by Hand"), action, new Date().toISOString(), this.run);
+    }
+
+    write(rows) {
+        this.logProblem = this.keep(rows) || this.logProblem;
+    }
+}

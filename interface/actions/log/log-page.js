@@ -1,0 +1,306 @@
+// The log of all runs: the newest first, searched, filtered by run, status and kind, sorted, exported; runs are undone and comments
+// reverted from here. Services used: files (through log-file and comment-run), moves, defaults.
+
+import { defaults } from "quorlin/defaults";
+import { files } from "quorlin/files";
+import { shell } from "quorlin/shell";
+import { commentsOf, editWords, reverting } from "../../runs/comment-run.js";
+import { guard } from "../../lib/guard.js";
+import { clearRows, keepRows, logPath, rowLimit } from "../../runs/log-file.js";
+import { csvHead, csvLines } from "../../runs/report.js";
+import { keep, recall } from "../../lib/store.js";
+import { count, fill, statusText } from "../../lib/wording.js";
+import { CommentJob, commentsReverted, commentSummary } from "../../runs/comment-job.js";
+import { problemsOfUndo, revertWords, undoAction, undoing, undoWords } from "../../runs/undo-run.js";
+
+const STATES = ["OK", "Failed", "Not Supported", "Skipped"];
+// So many rows are written at a time, and the window answers in between.
+const BATCH = 400;
+const COLUMNS = "LogColumns";
+const COMMENTS = "comments";
+
+function shownStates() {
+    const shown = {};
+    STATES.forEach((state) => { shown[state] = statusText(state, ""); });
+    shown.edit = editWords("%1", "%2");
+    shown.newEdit = editWords("", "%1");
+    shown.lastEdit = editWords("%1", "");
+    return shown;
+}
+
+// The entries that are shown, as CSV, worked out in batches.
+function* csvOf(table) {
+    const parts = [csvHead(table.comments)];
+    for (let first = 0; first < table.shownCount; first += BATCH) {
+        parts.push(csvLines(table.entries(first, BATCH), table.comments));
+        yield first;
+    }
+    return parts.join("");
+}
+
+export class LogPage {
+    /** @param window  the main window's parts: services, pictures, preview, note(text) */
+    constructor(window) {
+        this.window = window;
+        this.job = shell.job();
+        this.undo = null;
+        this.words = null;
+        this.comments = commentsOf(files);
+        this.reverting = new CommentJob();
+        this.form = shell.loadForm("actions/log/log-page.ui");
+        this.table = this.form.control("logTable");
+        this.runs = this.form.control("logRuns");
+        this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder"), qsTr("Old comment"), qsTr("New comment")],
+                            shownStates());
+        this.table.columns = recall(defaults, COLUMNS, { columns: "" }).columns;
+        this.runs.follow(this.table, { all: qsTr("All runs"), oneEntry: qsTr("1 entry"), entries: qsTr("%1 entries"),
+                                       oneProblem: qsTr("1 problem"), problems: qsTr("%1 problems"),
+                                       undo: qsTr("Undo of %1"), redo: qsTr("Redo of %1"), of: qsTr("%1 (run of %2)") });
+        this.form.setItems("logKind", [qsTr("Any deed"), qsTr("Comments only")], ["", COMMENTS]);
+        this.form.setItems("logStatus", [qsTr("Any status")].concat(STATES.map((state) => statusText(state, ""))), [""].concat(STATES));
+        this.form.setSplit("logSplitter", [230, 800]);
+        this.connect();
+    }
+
+    connect() {
+        const control = (name) => this.form.control(name);
+        control("logSearch").textChanged.connect(guard("log.search", () => this.look()));
+        control("logStatus").activated.connect(guard("log.status", () => this.look()));
+        control("logKind").activated.connect(guard("log.kind", () => this.look()));
+        control("logRevert").clicked.connect(guard("log.revert", () => this.revert(this.table.chosenEdits())));
+        control("logExport").clicked.connect(guard("log.export", () => this.save()));
+        control("logOpen").clicked.connect(guard("log.open", () => shell.showInFolder(this.chosenPath())));
+        control("logPicture").clicked.connect(guard("log.picture", () => this.showPicture()));
+        control("logUndo").clicked.connect(guard("log.undo", () => this.takeRunBack()));
+        control("logStop").clicked.connect(guard("log.stop", () => this.stop()));
+        control("logCancel").triggered.connect(guard("log.stop", () => this.stop()));
+        control("logFind").triggered.connect(guard("log.find", () => this.find()));
+        this.table.changed.connect(guard("log.chosen", () => this.showState()));
+        this.table.openRequested.connect(guard("log.picture", () => this.showPicture()));
+        this.runs.runChosen.connect(guard("log.run", () => this.showRun()));
+    }
+
+    /** Reads what is new in the log. */
+    show() {
+        this.table.follow(logPath(files));
+        this.showRun();
+    }
+
+    /** Shows what was written into comments, and nothing else. */
+    showComments() {
+        this.form.chooseValue("logKind", COMMENTS);
+        this.form.control("logSearch").text = "";
+        this.form.chooseValue("logStatus", "");
+        this.runs.chooseAll();
+        this.look();
+    }
+
+    leave() {
+        keep(defaults, COLUMNS, { columns: this.table.columns });
+    }
+
+    mayLeave() {
+        if (this.isBusy()) {
+            this.window.note(qsTr("A run is being undone. Stop it first, or wait."));
+        }
+        this.leave();
+        return !this.isBusy();
+    }
+
+    isBusy() {
+        return this.undo !== null || this.reverting.running;
+    }
+
+    stop() {
+        (this.undo === null ? this.reverting : this.job).cancel();
+    }
+
+    find() {
+        this.form.control("logSearch").setFocus();
+        this.form.control("logSearch").selectAll();
+    }
+
+    look() {
+        this.showColumns();
+        this.table.look(this.form.control("logSearch").text, this.form.value("logStatus"), this.form.value("logKind") === COMMENTS);
+    }
+
+    // Old and new comments are shown where there are such.
+    showColumns() {
+        const chosen = this.runs.chosen();
+        this.table.comments = this.form.value("logKind") === COMMENTS || (chosen !== null && chosen.areEdits);
+    }
+
+    showState() {
+        const control = (name) => this.form.control(name);
+        const shown = this.table.shownCount;
+        const total = this.table.totalCount;
+        control("logCount").text = shown === total ? count(total, qsTr("1 entry"), qsTr("%1 entries")).replace(String(total), this.table.countText)
+            : fill(qsTr("%1 of %2 entries"), this.table.shownText, this.table.countText);
+        control("logExport").enabled = shown > 0 && !this.table.reading && !this.job.running;
+        control("logOpen").enabled = this.chosenPath() !== "";
+        control("logPicture").enabled = this.picturePath() !== "";
+        control("logTable").visible = shown > 0;
+        control("logEmpty").visible = shown === 0;
+        control("logEmpty").text = this.table.reading ? "" : total > 0 ? qsTr("No entry matches.")
+            : fill(qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %1 entries are kept."), this.table.numberText(rowLimit()));
+        const chosen = this.table.chosenCount;
+        this.form.setMenu("logMore", [chosen > 1 ? fill(qsTr("Copy %1 Rows"), chosen) : qsTr("Copy Row"), "-", qsTr("Clear Log…")],
+                          [chosen > 0 ? "copy" : null, null, total > 0 && !this.isBusy() ? "clear" : null],
+                          guard("log.more", (deed) => (deed === "copy" ? this.table.copyChosen() : this.clear())));
+        this.showChosenEdits();
+    }
+
+    // The bar below the table is that of the chosen run, or of the chosen edits.
+    showChosenEdits() {
+        const control = (name) => this.form.control(name);
+        const edits = this.table.chosenEditCount;
+        const busy = this.isBusy();
+        control("logRevert").visible = edits > 0 && !busy;
+        control("logRevert").text = count(edits, qsTr("Revert Comment"), qsTr("Revert %1 Comments"));
+        control("logRunBar").visible = this.words !== null || edits > 0 || busy;
+        control("logUndo").visible = this.words !== null && !busy;
+        control("logStop").visible = busy;
+        control("logCancel").enabled = busy;
+        control("logRuns").enabled = !busy;
+        if (this.words === null && !busy && edits > 0) {
+            const edit = this.table.chosen();
+            control("logRunTitle").text = count(edits, qsTr("1 comment chosen"), qsTr("%1 comments chosen"));
+            control("logRunNote").text = edits === 1 && edit.after !== edit.before ? editWords(edit.before, edit.after) : "";
+        }
+    }
+
+    // The run that is chosen, and whether it can be undone.
+    showRun() {
+        const control = (name) => this.form.control(name);
+        const chosen = this.runs.chosen();
+        const words = chosen === null ? null : chosen.areEdits ? revertWords(chosen) : undoWords(this.window.services.moves, this.runs.run);
+        this.words = words;
+        this.showColumns();
+        if (!this.isBusy() && words !== null) {
+            const entries = count(chosen.count, qsTr("1 entry"), qsTr("%1 entries"));
+            const problems = chosen.problems > 0 ? " · " + count(chosen.problems, qsTr("1 problem"), qsTr("%1 problems")) : "";
+            control("logRunTitle").text = chosen.title + " · " + entries + problems;
+            control("logRunNote").text = words.note;
+            control("logUndo").enabled = words.can;
+            control("logUndo").text = words.button;
+        }
+        this.showState();
+    }
+
+    // The result of the chosen entry, or the file that it was made of.
+    chosenPath() {
+        const entry = this.table.chosen();
+        return entry === null ? "" : entry.outputPath || entry.inputPath;
+    }
+
+    // The first of result and source that is still there.
+    picturePath() {
+        const entry = this.table.chosen();
+        const paths = entry === null ? [] : [entry.outputPath, entry.inputPath];
+        return paths.find((path) => path !== "" && files.info(path).exists && !files.info(path).isFolder) || "";
+    }
+
+    showPicture() {
+        const path = this.picturePath();
+        if (path !== "") {
+            this.window.preview.showFile(path, this.table);
+        }
+    }
+
+    save() {
+        const path = shell.chooseNewFile(qsTr("Export the log"), "", qsTr("Log") + ".csv", "csv");
+        if (path !== null) {
+            this.job.start(csvOf(this.table), () => undefined, guard("log.exported", (how, text) => this.saved(how, path, text)));
+            this.showState();
+        }
+    }
+
+    saved(how, path, text) {
+        if (how !== "cancelled") {
+            this.window.note(how === "failed" ? String(text) : files.writeText(path, text) || fill(qsTr("Log saved as %1"), path));
+        }
+        this.showState();
+    }
+
+    clear() {
+        const answer = shell.ask({
+            title: qsTr("Clear log"), text: fill(qsTr("Remove all %1 entries from the log?"), this.table.countText),
+            detail: qsTr("Your files stay as they are. Runs can then no longer be undone from here."),
+            buttons: [qsTr("Clear"), qsTr("Keep")], initial: 1, escape: 1, check: "",
+        });
+        if (answer.button === 0) {
+            const problem = clearRows(files);
+            this.runs.chooseAll();
+            this.show();
+            if (problem) {
+                this.window.note(problem);
+            }
+        }
+    }
+
+    takeRunBack() {
+        if (this.runs.chosen().areEdits) {
+            this.revert(this.runs.edits());
+        } else {
+            this.undoRun();
+        }
+    }
+
+    // Gives pictures their old comments again.
+    revert(edits) {
+        this.reverting.start(reverting(this.comments, edits), qsTr("Revert comment"), (work) => {
+            this.form.control("logRunTitle").text = fill(qsTr("Reverting: %1 of %2"), work.tried, edits.length);
+            this.form.control("logRunNote").text = "";
+        }, (work) => {
+            this.window.note(commentSummary(work, commentsReverted(work.done)));
+            this.show();
+        });
+        this.showState();
+    }
+
+    undoRun() {
+        const begun = this.window.services.moves.undo(this.runs.run);
+        if (begun.problem) {
+            this.window.note(begun.problem);
+            return;
+        }
+        this.undo = { rows: [], done: 0, problems: problemsOfUndo(begun), count: begun.items.length, places: this.placesOfRows() };
+        const undone = { id: this.runs.run, process: this.runs.chosen().process, action: undoAction(this.words.isRedo) };
+        this.job.start(undoing(this.window.services.moves, begun, undone), guard("log.undone", (step) => this.tookBack(step)),
+                       guard("log.undoEnd", (how, value) => this.undoEnded(how, value)));
+        this.showRun();
+    }
+
+    tookBack(step) {
+        this.undo.rows.push(step.row);
+        this.undo.done += step.row.status === "OK" ? 1 : 0;
+        if (step.row.status !== "OK") {
+            this.undo.problems.push(step.row.reason);
+        }
+        const id = this.undo.places[step.from];
+        if (step.row.status === "OK" && id !== undefined && step.to !== "") {
+            this.window.pictures.setPath(id, step.to);
+        }
+        this.form.control("logRunTitle").text = fill(qsTr("Undoing: %1 of %2"), this.undo.rows.length, this.undo.count);
+        this.form.control("logRunNote").text = "";
+    }
+
+    // Rows of the list by where their files are.
+    placesOfRows() {
+        const places = Object.create(null);
+        const ids = this.window.pictures.ids();
+        this.window.pictures.paths().forEach((path, i) => { places[path] = ids[i]; });
+        return places;
+    }
+
+    undoEnded(how, value) {
+        const undo = this.undo;
+        this.undo = null;
+        const problem = keepRows(files, undo.rows) || (how === "failed" ? String(value) : value || "");
+        const done = count(undo.done, qsTr("1 file taken back"), qsTr("%1 files taken back"));
+        const parts = [done].concat(undo.problems.length > 0 ? [count(undo.problems.length, qsTr("1 problem"), qsTr("%1 problems"))] : [], problem ? [problem] : []);
+        this.window.note((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));
+        this.show();
+    }
+}

@@ -1,0 +1,339 @@
+// Metadata: the properties of one picture as a tree, its user comment, and the comments of many pictures: those of the list, chosen files, or
+// a folder. Services used: files, defaults, and those of comment-job.
+
+import { defaults } from "quorlin/defaults";
+import { files } from "quorlin/files";
+import { shell } from "quorlin/shell";
+import { commentExample, commentMaker, commentProblem, commentsOf, pagesAtStake, reverting, writing } from "../../runs/comment-run.js";
+import { guard } from "../../lib/guard.js";
+import { splitPath } from "../../lib/names.js";
+import { keep, recall } from "../../lib/store.js";
+import { tokens } from "../../lib/tokens.js";
+import { COMMENT_INPUT, PICTURE_INPUT } from "../../lib/types.js";
+import { count, fill } from "../../lib/wording.js";
+import { CommentJob, commentsReverted, commentSummary, commentsWritten } from "../../runs/comment-job.js";
+
+const KEPT = "Comments";
+const ONE = 0;
+const MANY = 1;
+// Of these the name says already that they can hold a comment.
+const HOLDING = PICTURE_INPUT.filter((extension) => extension !== "gif" && extension !== "bmp").concat(["jpe", "webp", "dng"]);
+
+function mayHold(path) {
+    return HOLDING.indexOf(splitPath(path).extension.toLowerCase()) >= 0 || files.holdsComment(path);
+}
+
+export class MetadataPage {
+    /** @param window  the main window's parts: form, pictures, input, pages, note(text) */
+    constructor(window) {
+        this.window = window;
+        this.list = window.pictures;
+        this.comments = commentsOf(files);
+        this.job = new CommentJob();
+        this.shown = false;
+        // What was read from the picture that is shown, to tell whether the field was changed.
+        this.read = "";
+        this.path = "";
+        this.holds = false;
+        // The edits of the last run, which can be reverted.
+        this.edits = [];
+        // The field shows the comment of one picture, or what is written into many.
+        this.scope = ONE;
+        this.wanted = ONE;
+        this.texts = ["", recall(defaults, KEPT, { text: "" }).text ];
+        this.form = shell.loadForm("actions/metadata/metadata-page.ui");
+        this.tree = this.form.control("metaTree");
+        this.view = this.form.control("metaView");
+        this.view.showsResult = false;
+        this.form.control("metaScope").segments = [qsTr("This Picture"), qsTr("Many Pictures")];
+        this.connect();
+        this.connectTokens();
+    }
+
+    connect() {
+        const join = (signal, name, deed) => signal.connect(guard("metadata." + name, deed));
+        const control = (name) => this.form.control(name);
+        const clicks = {
+            metaAddPictures: () => this.window.input.addPictures(), metaAddFolder: () => this.window.input.addFolder(), metaApply: () => this.apply(),
+            metaApplyAll: () => this.writeInto(this.list.paths()), metaChooseFiles: () => this.writeIntoFiles(),
+            metaChooseFolder: () => this.writeIntoFolder(), metaRevert: () => this.revert(),
+            metaStop: () => this.job.cancel(), metaLog: () => this.showLog(),
+        };
+        Object.keys(clicks).forEach((name) => join(control(name).clicked, name, clicks[name]));
+        join(control("metaSearch").textChanged, "search", () => this.look());
+        join(control("metaComment").textChanged, "comment", () => this.showButtons());
+        join(control("metaScope").chosen, "scope", (scope) => this.takeScope(scope));
+        join(this.view.largePreviewRequested, "large", () => this.window.form.control("largeAction").trigger());
+        join(control("metaFind").triggered, "find", () => this.find());
+        join(control("metaCancel").triggered, "stop", () => this.job.cancel());
+        join(this.list.currentPictureChanged, "current", () => this.showCurrent());
+    }
+
+    connectTokens() {
+        const control = (name) => this.form.control(name);
+        const offered = [];
+        tokens().forEach((token) => token.forms.forEach((form) => {
+            offered.push({ title: token.words + (form === "" ? "" : "  " + form), text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
+        }));
+        const menu = control("metaTokenMenu");
+        menu.setPlaceholder(qsTr("Search values"));
+        menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text), offered.map((each) => each.example), offered.map((each) => each.text));
+        menu.chosen.connect(guard("metadata.token", (text) => {
+            control("metaComment").insertPlainText(text);
+            control("metaComment").setFocus();
+        }));
+        control("metaToken").clicked.connect(guard("metadata.tokens", () => menu.popUp(control("metaToken"))));
+    }
+
+    show() {
+        this.shown = true;
+        this.path = "";
+        this.showCurrent();
+    }
+
+    leave() {
+        this.keepText();
+        this.shown = false;
+    }
+
+    mayLeave() {
+        if (this.job.running) {
+            this.window.note(qsTr("Comments are being written. Cancel it first, or wait."));
+        }
+        this.keepText();
+        return !this.job.running;
+    }
+
+    listChanged() {
+        this.showCurrent();
+    }
+
+    find() {
+        this.form.control("metaSearch").setFocus();
+        this.form.control("metaSearch").selectAll();
+    }
+
+    showLog() {
+        this.window.form.control("sideBar").currentAction = "log";
+        if (this.window.pages.shown !== null && this.window.pages.shown.showComments !== undefined) {
+            this.window.pages.shown.showComments();
+        }
+    }
+
+    showCurrent() {
+        if (this.shown) {
+            this.showPhoto(this.list.currentId > 0 ? this.list.photo(this.list.currentId) : null);
+        }
+    }
+
+    showPhoto(photo) {
+        this.form.control("metaPage").currentIndex = photo === null ? 0 : 1;
+        if (photo === null) {
+            this.path = "";
+            this.read = "";
+            this.texts[ONE] = "";
+        } else if (photo.path !== this.path) {
+            this.showPicture(photo);
+        }
+        this.useScope(photo === null ? MANY : this.wanted);
+    }
+
+    showPicture(photo) {
+        const control = (name) => this.form.control(name);
+        this.path = photo.path;
+        const isPicture = this.tree.showFile(photo.path);
+        const found = this.comments.read(photo.path);
+        this.read = found.comment;
+        this.holds = found.problem === "" && files.holdsComment(photo.path);
+        this.view.showPicture(photo.path);
+        this.view.setTitles("", "");
+        this.view.setCaptions("", "");
+        this.texts[ONE] = this.read;
+        if (this.scope === ONE) {
+            control("metaComment").plainText = this.read;
+        }
+        control("metaName").text = photo.name;
+        control("metaName").toolTip = photo.path;
+        control("metaProblem").text = isPicture ? found.problem : qsTr("This file is not a picture that can be read.");
+        control("metaProblem").visible = !isPicture || found.problem !== "";
+        this.showCopyMenu();
+    }
+
+    showCopyMenu() {
+        const texts = [qsTr("Copy Value or Branch"), "-", qsTr("Copy Place in Degrees, 48.85840, 2.29450"), qsTr("Copy Place in Minutes, 48° 51′ 30″ N")];
+        const place = this.tree.hasPlace;
+        this.form.setMenu("metaCopy", texts, ["", null, place ? "degrees" : null, place ? "minutes" : null],
+                          guard("metadata.copy", (form) => (form === "" ? this.copy() : this.copyPlace(form))));
+    }
+
+    takeScope(scope) {
+        this.wanted = scope;
+        this.useScope(scope);
+        this.form.control("metaComment").setFocus();
+    }
+
+    // What was typed for the other scope is kept.
+    useScope(scope) {
+        if (scope !== this.scope) {
+            this.texts[this.scope] = this.text();
+            this.scope = scope;
+            this.form.control("metaComment").plainText = this.texts[scope];
+        }
+        this.form.control("metaScope").selectedSegment = scope;
+        this.showButtons();
+    }
+
+    keepText() {
+        this.texts[this.scope] = this.text();
+        keep(defaults, KEPT, { text: this.texts[MANY] });
+    }
+
+    look() {
+        this.tree.look(this.form.control("metaSearch").text);
+        this.showButtons();
+    }
+
+    copy() {
+        const lines = this.tree.copyChosen();
+        this.window.note(lines > 0 ? count(lines, qsTr("1 line copied"), qsTr("%1 lines copied")) : qsTr("Choose a property to copy first."));
+    }
+
+    copyPlace(form) {
+        this.window.note(fill(qsTr("Copied: %1"), this.tree.copyPlace(form)));
+    }
+
+    text() {
+        return this.form.control("metaComment").plainText;
+    }
+
+    // What stands under the field while nothing runs.
+    note(problem) {
+        if (this.scope === ONE) {
+            return this.holds ? "" : qsTr("Files of this type have no place for a comment.");
+        }
+        if (problem !== "" || this.text() === "") {
+            return problem || qsTr("Tokens such as {name}, {date} and {counter} stand for what each picture has; {{ is a brace.");
+        }
+        const example = commentExample(this.text(), this.path, files);
+        return fill(qsTr("For example %1: “%2”"), example.name, example.comment.replace(/\s+/g, " "));
+    }
+
+    showButtons() {
+        const control = (name) => this.form.control(name);
+        const busy = this.job.running;
+        const isOne = this.scope === ONE;
+        const problem = isOne ? "" : commentProblem(this.text());
+        const pictures = this.list.count;
+        control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, pictures);
+        control("metaFound").text = control("metaSearch").text.trim() === "" ? "" : count(this.tree.shownCount, qsTr("1 property"), qsTr("%1 properties"));
+        if (!busy) {
+            control("metaNote").text = this.note(problem);
+        }
+        control("metaComment").readOnly = busy || (isOne && !this.holds);
+        this.form.setLook("metaComment", "holds", String(!isOne || this.holds));
+        control("metaToken").visible = !isOne;
+        control("metaScope").enabled = !busy && this.path !== "";
+        for (const name of ["metaApplyAll", "metaChooseFiles", "metaChooseFolder"]) {
+            control(name).visible = !isOne && !busy;
+            control(name).enabled = problem === "";
+        }
+        control("metaApplyAll").visible = !isOne && !busy && pictures > 0;
+        control("metaApplyAll").text = count(pictures, qsTr("Write into 1…"), qsTr("Write into All %1…"));
+        control("metaApply").visible = isOne && !busy;
+        control("metaApply").enabled = this.path !== "" && this.holds && this.text() !== this.read;
+        control("metaRevert").visible = !busy;
+        control("metaRevert").enabled = this.edits.length > 0;
+        control("metaRevert").text = this.edits.length > 1 ? fill(qsTr("Revert %1"), this.edits.length) : qsTr("Revert");
+        control("metaLog").enabled = !busy;
+        for (const name of ["metaStop", "metaProgress"]) {
+            control(name).visible = busy;
+        }
+        control("metaCancel").enabled = busy;
+    }
+
+    // What whoever writes into pictures must know before.
+    warnings(paths, lost) {
+        const without = paths.filter((path) => !mayHold(path)).length;
+        const pages = count(lost.pages, qsTr("1 further page"), qsTr("%1 further pages"));
+        return [
+            qsTr("The originals themselves are changed: their comment, and nothing else in them."),
+            lost.files === 0 ? "" : paths.length === 1
+                ? fill(qsTr("This file has %1, which would be taken out and cannot be brought back: only its first page is kept."), pages)
+                : fill(count(lost.files, qsTr("1 file has several pages and is left out; its comment would cost it %2: %3."),
+                             qsTr("%1 files have several pages and are left out; their comments would cost them %2: %3.")), lost.files, pages, lost.words),
+            without > 0 ? count(without, qsTr("1 file is of a type that has no place for a comment, and stays as it is."),
+                                qsTr("%1 files are of types that have no place for a comment, and stay as they are.")) : "",
+        ].filter((each) => each !== "");
+    }
+
+    // Whether to write, and whether files with several pages may lose all but their first: only where that was asked for.
+    mayWrite(paths, comment, lost) {
+        const isOne = paths.length === 1 && lost.files === 1;
+        const answer = shell.ask({
+            title: qsTr("Write comment"),
+            text: comment === "" ? count(paths.length, qsTr("Empty the comment of this picture?"), qsTr("Empty the comments of %1 pictures?"))
+                : count(paths.length, qsTr("Write the comment into this picture?"), qsTr("Write the comment into %1 pictures?")),
+            detail: this.warnings(paths, lost).join(" "), initial: 1, escape: 1,
+            buttons: [isOne ? qsTr("Write and Remove Pages") : qsTr("Write"), qsTr("Cancel")],
+            check: lost.files > 0 && !isOne ? qsTr("Write into these too, and keep only their first page") : "",
+        });
+        return { goesOn: answer.button === 0, pagesMayGo: isOne || answer.checked };
+    }
+
+    // One picture that loses nothing is written without a question.
+    write(paths, comment, maker) {
+        const lost = pagesAtStake(this.comments, paths);
+        const answer = this.scope === ONE && lost.files === 0 ? { goesOn: true, pagesMayGo: false } : this.mayWrite(paths, comment, lost);
+        if (answer.goesOn) {
+            this.run(paths, writing(this.comments, paths, maker, answer.pagesMayGo), qsTr("Write comment"), commentsWritten);
+        }
+    }
+
+    apply() {
+        const comment = this.text();
+        this.write([this.path], comment, () => comment);
+    }
+
+    writeInto(paths) {
+        if (paths.length > 0) {
+            this.write(paths, this.text(), commentMaker(this.text(), files));
+        }
+    }
+
+    writeIntoFiles() {
+        this.writeInto(shell.chooseFiles(qsTr("Write the comment into pictures"), "", COMMENT_INPUT));
+    }
+
+    writeIntoFolder() {
+        const folder = shell.chooseFolder(qsTr("Write the comment into all pictures of a folder"), "");
+        if (folder !== null) {
+            this.writeInto(files.collect([folder], COMMENT_INPUT, [], []).paths);
+        }
+    }
+
+    revert() {
+        const edits = this.edits;
+        this.run(edits, reverting(this.comments, edits), qsTr("Revert comment"), commentsReverted);
+    }
+
+    // The bar advances with each picture that has its comment.
+    run(items, generator, action, words) {
+        const bar = this.form.control("metaProgress");
+        const isRevert = words === commentsReverted;
+        bar.maximum = items.length;
+        bar.value = 0;
+        this.job.start(generator, action, (work) => {
+            bar.value = work.done;
+            this.form.control("metaNote").text = fill(qsTr("%1 of %2"), work.tried, items.length);
+        }, (work) => this.ended(work, words(work.done), isRevert));
+        this.showButtons();
+    }
+
+    ended(work, done, isRevert) {
+        this.form.control("metaProgress").value = 0;
+        this.edits = isRevert ? [] : work.edits;
+        this.path = "";
+        this.showCurrent();
+        this.window.note(commentSummary(work, done));
+    }
+}

@@ -1,0 +1,88 @@
+// A chain of steps that makes new names of old ones. Pure; the operations on texts are handed in.
+
+import { splitPath } from "../../lib/names.js";
+import { prepared } from "./name-steps.js";
+
+// A slash or a zero in a value is no part of a name; one that the user typed is told.
+function clean(value) {
+    return value.replace(/[/\u0000]/g, "-");
+}
+
+export class NameChain {
+    /**
+     * @param steps    those of name-steps.js; the ones that are off are passed over
+     * @param names    the operations (cNSStringHandling)
+     * @param standIn  (token) => text for a value that a file does not have
+     */
+    constructor(steps, names, standIn) {
+        this.steps = steps.map((step, i) => ({ index: i, ready: prepared(step, names), part: step.part || "name", isOn: step.on }))
+            .filter((each) => each.isOn);
+        this.standIn = standIn;
+        this.needsFacts = this.steps.some((each) => each.ready.needsFacts);
+    }
+
+    /**
+     * The new name of one file or folder: {name, base, extension, missing: tokens without a value, short: indices of the steps
+     * that could not change it because it is too short, cut: "half" or "mark" if a character was parted, trace: the name after
+     * each step that was applied, by the step's index, if it is asked for}.
+     *
+     * Files are to be given in their order, for the counters count.
+     */
+    apply(path, isFolder, facts, wantsTrace) {
+        const file = splitPath(path);
+        const now = isFolder ? { base: file.name, extension: "" } : { base: file.base, extension: file.extension };
+        const told = { name: file.name, base: now.base, extension: now.extension, missing: [], short: [], cut: "", trace: wantsTrace ? {} : null };
+        const context = { folder: file.folder, extension: now.extension, facts: facts, standIn: this.standIn, clean: clean };
+        for (let i = 0; i < this.steps.length; i += 1) {
+            context.extension = now.extension;
+            const made = this.applyOne(this.steps[i], now, context, isFolder);
+            note(told, made, this.steps[i].index);
+            if (wantsTrace) {
+                told.trace[this.steps[i].index] = joined(now);
+            }
+            if (made.stop) {
+                break;
+            }
+        }
+        told.base = now.base;
+        told.extension = now.extension;
+        told.name = joined(now);
+        return told;
+    }
+
+    // Changes the part of `now` that the step works on.
+    applyOne(each, now, context, isFolder) {
+        if (each.part === "both" && !isFolder) {
+            const made = each.ready.apply(joined(now), context);
+            const file = splitPath("/" + made.text);
+            // A text with a slash in it is no path: it is told as it is.
+            now.base = made.text.indexOf("/") < 0 ? file.base : made.text;
+            now.extension = made.text.indexOf("/") < 0 ? file.extension : "";
+            return made;
+        }
+        if (each.part === "extension" && (isFolder || now.extension === "")) {
+            return {};
+        }
+        const part = each.part === "extension" ? "extension" : "base";
+        const made = each.ready.apply(now[part], context);
+        now[part] = made.text;
+        return made;
+    }
+}
+
+// An empty name is empty, whatever its extension.
+function joined(now) {
+    return now.base === "" || now.extension === "" ? now.base : now.base + "." + now.extension;
+}
+
+function note(told, made, index) {
+    if (made.short) {
+        told.short.push(index);
+    }
+    if (made.cut && told.cut !== "half") {
+        told.cut = made.cut;
+    }
+    if (made.missing) {
+        made.missing.forEach((token) => { told.missing.push(token); });
+    }
+}

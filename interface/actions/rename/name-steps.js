@@ -1,0 +1,195 @@
+// The steps that a chain of names is made of: what each is called, which settings it has and what it does to a text. The
+// operations on texts are handed in. Pure but for translation; no service is used.
+
+import { cutAt } from "./text-cuts.js";
+import { expand, needsFacts, parse, problems } from "../../lib/tokens.js";
+
+/** What a step can work on. */
+export const PARTS = ["name", "extension", "both"];
+
+/** Whether a counter goes on, or begins anew with each folder or each day. */
+export const SCOPES = ["run", "folder", "date"];
+
+// Marks a text that the step could not change: it stays as it is, and the step says so.
+function unchanged(text) {
+    return { text: text, short: true };
+}
+
+// Letters below these are never a part of another one.
+const MAY_BELONG = /[\u0300-\uffff]/;
+
+// The first harm that a cut at one of the positions does.
+function harm(text, positions) {
+    return !MAY_BELONG.test(text) ? "" : positions.map((position) => cutAt(text, position)).find((each) => each !== "") || "";
+}
+
+function strip(step, text, names) {
+    if (step.count > text.length) {
+        return unchanged(text);
+    }
+    const at = step.side === "fLeft" ? step.count : text.length - step.count;
+    return { text: names.hStripString(text, step.side, step.count), cut: harm(text, [at]) };
+}
+
+function section(step, text, names) {
+    const start = step.start - 1;
+    if (start + step.length > text.length) {
+        return unchanged(text);
+    }
+    return { text: names.hSubsectionString(text, start, step.length), cut: harm(text, [start, start + step.length]) };
+}
+
+function insert(step, text, names) {
+    const at = step.from === "end" ? text.length - step.position : step.position;
+    return at < 0 || at > text.length ? unchanged(text)
+                                      : { text: names.hInsertStringInString(text, step.text, at), cut: harm(text, [at]) };
+}
+
+// The question marks that were there are not those that stand for letters without a plain form.
+function fold(step, text, names) {
+    const pieces = names.hSplitString(text, "?").map((piece) => {
+        const folded = names.hConvertAccentLetters(piece);
+        return step.other === "?" ? folded : names.hReplaceStringInString(folded, "?", step.other);
+    });
+    return { text: pieces.join("?") };
+}
+
+/** The pieces that a list such as "2,1,-1" names, counted from 1, or from the end for less than 0; all of them for "". */
+export function chosenPieces(pieces, list) {
+    if (list.trim() === "") {
+        return pieces;
+    }
+    return list.split(",").map((entry) => Number(entry)).map((number) => pieces[number > 0 ? number - 1 : pieces.length + number])
+        .filter((piece) => piece !== undefined);
+}
+
+function split(step, text, names) {
+    const chosen = chosenPieces(names.hSplitString(text, step.separator), step.pieces);
+    if (chosen.length === 0) {
+        return unchanged(text);
+    }
+    return { text: chosen.reduce((joined, piece) => names.hConcatString(joined, step.joiner, piece)) };
+}
+
+// Only what is outside ASCII can be written in two ways or be damaged.
+function utf8(step, text, names) {
+    return { text: /^[\x00-\x7f]*$/.test(text) ? text : names.hUTF8toNSString(text.normalize(step.form)) };
+}
+
+function fits(step, text, names) {
+    if (step.where === "contains") {
+        return names.hStringContainsString(text, step.text) === "YES";
+    }
+    if (step.where === "begins") {
+        return names.hStringBeginsWith(text, step.text) === "YES";
+    }
+    // The operation raises for an ending that is longer than the text.
+    return step.text.length <= text.length && names.hStringEndWith(text, step.text) === "YES";
+}
+
+/**
+ * By the name of the kind: standard, what a new step has; parts, whether it can be told what to work on; apply(step, text, names)
+ * gives {text, short: it stayed as it was because it is too short, cut: "half" or "mark" if a character was parted, stop: the
+ * steps behind are passed over}. names has the operations.
+ */
+const DEEDS = {
+    text: { standard: { pattern: "{name}", counterStep: 1, counterScope: "run" }, parts: false },
+    "case": { standard: { mode: "1" }, parts: true, apply: (step, text, names) => ({ text: names.hChangeCaseFiles(text, step.mode) }) },
+    replace: { standard: { search: "", replacement: "" }, parts: true,
+               apply: (step, text, names) => ({ text: names.hReplaceStringInString(text, step.search, step.replacement) }) },
+    insert: { standard: { text: "", from: "start", position: 0 }, parts: true, apply: insert },
+    around: { standard: { before: "", after: "" }, parts: true,
+              apply: (step, text, names) => ({ text: names.hConcatString(step.before, text, step.after) }) },
+    strip: { standard: { side: "fLeft", count: 1 }, parts: true, apply: strip },
+    section: { standard: { start: 1, length: 8 }, parts: true, apply: section },
+    split: { standard: { separator: "_", pieces: "", joiner: " " }, parts: false, apply: split },
+    letters: { standard: { keep: "NA" }, parts: true, apply: (step, text, names) => ({ text: names.hRemoveNonLetters(text, step.keep) }) },
+    spaces: { standard: {}, parts: true, apply: (step, text, names) => ({ text: names.hRemoveWhiteSpace(text) }) },
+    fold: { standard: { other: "?" }, parts: true, apply: fold },
+    utf8: { standard: { form: "NFC" }, parts: true, apply: utf8 },
+    only: { standard: { where: "contains", text: "" }, parts: true,
+            apply: (step, text, names) => (fits(step, text, names) ? { text: text } : { text: text, stop: true }) },
+};
+
+export const KINDS = Object.keys(DEEDS);
+
+/** Settings of steps that can only be one of a few words. */
+export const WORDS = {
+    part: PARTS, mode: ["1", "2", "3"], side: ["fLeft", "fRight"], from: ["start", "end"], keep: ["NA", "OL"], form: ["NFC", "NFD"],
+    where: ["contains", "begins", "ends"], counterScope: SCOPES,
+};
+
+/** A new step of a kind, with some settings of its own. */
+export function newStep(kind, changes) {
+    return Object.assign({ kind: kind, on: true }, DEEDS[kind].parts ? { part: "name" } : {}, DEEDS[kind].standard, changes || {});
+}
+
+export function hasParts(kind) {
+    return DEEDS[kind].parts;
+}
+
+function isValue(field, value, standard) {
+    if (typeof value !== typeof standard || (WORDS[field] !== undefined && WORDS[field].indexOf(value) < 0)) {
+        return false;
+    }
+    return typeof value !== "number" || (Number.isInteger(value) && Math.abs(value) <= 999999);
+}
+
+/** The step that was kept somewhere, or null if it is none: kinds and words that are not known are not guessed at. */
+export function stepFrom(kept) {
+    if (kept === null || typeof kept !== "object" || DEEDS[kept.kind] === undefined) {
+        return null;
+    }
+    const step = newStep(kept.kind);
+    for (const field of Object.keys(step)) {
+        if (kept[field] !== undefined) {
+            if (!isValue(field, kept[field], step[field])) {
+                return null;
+            }
+            step[field] = kept[field];
+        }
+    }
+    return step;
+}
+
+/** What is wrong with the settings of a step, in sentences. */
+export function stepProblems(step) {
+    if (step.kind === "text") {
+        return step.pattern === "" ? [qsTr("Enter a text.")] : problems(step.pattern);
+    }
+    if (step.kind === "split" && !/^\s*(-?[1-9][0-9]*\s*(,\s*-?[1-9][0-9]*\s*)*)?$/.test(step.pieces)) {
+        return [qsTr("Write numbers of pieces with commas between them, such as 2,1; -1 is the last.")];
+    }
+    return [];
+}
+
+// What makes a counter begin anew.
+function counterKey(step, context) {
+    if (step.counterScope === "folder") {
+        return context.folder;
+    }
+    return step.counterScope === "date" ? (context.facts && context.facts.taken || "").slice(0, 10) : "";
+}
+
+function nextIndex(step, counters, context) {
+    const key = counterKey(step, context);
+    const index = counters[key] || 0;
+    counters[key] = index + 1;
+    return index * step.counterStep;
+}
+
+/** A step, made ready to be applied to many names: apply(text, context) as in DEEDS; see NameChain. */
+export function prepared(step, names) {
+    if (step.kind !== "text") {
+        return { step: step, needsFacts: false, counts: false, apply: (text) => DEEDS[step.kind].apply(step, text, names) };
+    }
+    const parts = parse(step.pattern);
+    const counters = Object.create(null);
+    const counts = parts.some((part) => part.token === "counter");
+    const apply = (text, context) => {
+        const made = expand(parts, { path: context.folder + "/" + text + (context.extension ? "." + context.extension : ""), facts: context.facts,
+                                     index: counts ? nextIndex(step, counters, context) : 0, standIn: context.standIn, clean: context.clean });
+        return { text: made.text, missing: made.missing };
+    };
+    return { step: step, needsFacts: needsFacts(parts) || (counts && step.counterScope === "date"), counts: counts, apply: apply };
+}

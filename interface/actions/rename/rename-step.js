@@ -1,0 +1,158 @@
+// Renames files or folders by a chain of steps. Services used: names (cNSStringHandling), files (names), facts (lib/known-facts.js).
+// Plain data in, plain data out; the run that moves files carries out what rows() wishes for.
+
+import { row } from "../../runs/move-plan.js";
+import { NameChain } from "./name-chain.js";
+import { stepFrom, stepProblems } from "./name-steps.js";
+import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
+import { riskOf } from "./risky-names.js";
+import { Sidecars } from "../../lib/sidecars.js";
+import { kindWords } from "./step-words.js";
+import { hasHalf } from "./text-cuts.js";
+import { tokens } from "../../lib/tokens.js";
+import { fill } from "../../lib/wording.js";
+
+// Names are made for about this long before the window gets its turn.
+const SLICE_MS = 8;
+const LOOKED_UP = 250;
+
+export const MOST_STEPS = 30;
+
+/** What a new pane shows. what: "files" or "folders"; steps: those of name-steps.js; sidecars: they go along. */
+export const defaults = { what: "files", steps: [], sidecars: true, simulation: false };
+
+/** The settings in a few words, for the log. */
+export function describe(settings) {
+    const words = kindWords();
+    const steps = stepsOf(settings).filter((step) => step.on).map((step) => (step.kind === "text" ? step.pattern : words[step.kind].title));
+    return fill({ files: qsTr("files: %1"), folders: qsTr("folders: %1") }[settings.what], steps.join(", "));
+}
+
+/** The steps that can be understood. */
+export function stepsOf(settings) {
+    return settings.steps.map(stepFrom).filter((step) => step !== null);
+}
+
+/** Messages on what is wrong with the settings; empty if a run can start. */
+export function validate(settings) {
+    const messages = stepsOf(settings).filter((step) => step.on).reduce((all, step) => all.concat(stepProblems(step)), []);
+    return messages.filter((message, i) => messages.indexOf(message) === i);
+}
+
+function missingWords(token) {
+    const dates = { taken: qsTr("no date taken"), created: qsTr("no date of creation"), changed: qsTr("no date of change") };
+    const known = tokens().find((each) => each.name === token);
+    return dates[token] || fill(qsTr("no value for “%1”"), known === undefined ? token : known.words);
+}
+
+/** What stands in for a value that a file does not have. */
+export function standIn(token) {
+    return ["taken", "created", "changed"].indexOf(token) >= 0 ? qsTr("undated") : qsTr("unknown");
+}
+
+/** The chain of the settings, made ready; see name-chain.js. */
+export function chainOf(settings, services) {
+    return new NameChain(stepsOf(settings), services.names, standIn);
+}
+
+function cautionOf(made) {
+    return made.missing.length === 0 ? "" : fill(qsTr("%1: “%2”"), missingWords(made.missing[0]), standIn(made.missing[0]));
+}
+
+function notesOf(made, oldName) {
+    const notes = [];
+    if (made.cut === "mark") {
+        notes.push(qsTr("a letter and its accent are parted"));
+    }
+    const risk = made.name === oldName ? "" : riskOf(made.name);
+    return risk === "" ? notes : notes.concat([risk]);
+}
+
+// A sidecar bears the new name with its own ending; "a.JPG.xmp" goes with the extension of its picture.
+function companion(folder, other, old, made) {
+    const doubled = "." + old.extension + ".";
+    const ending = old.extension !== "" && other.ending.startsWith(doubled)
+        ? "." + made.extension + other.ending.slice(doubled.length - 1) : other.ending;
+    return { from: joinPath(folder, other.name), to: joinPath(folder, made.base + ending) };
+}
+
+function wish(path, made, companions) {
+    const old = splitPath(path);
+    if (hasHalf(made.name)) {
+        return row({ status: "Failed", reason: qsTr("a character would be cut in two"), shown: "–" });
+    }
+    return row({ to: joinPath(old.folder, made.name), shown: made.name === "" ? "–" : made.name, caution: cautionOf(made),
+                 notes: notesOf(made, old.name), along: companions.map((other) => companion(old.folder, other, old, made)) });
+}
+
+// The sidecars of every file, and for each sidecar that is in the list itself the row of its picture. Looked up in slices.
+function* companionsOf(paths, services) {
+    const sidecars = new Sidecars(services.files);
+    const found = [];
+    const at = emptyTable();
+    for (let i = 0; i < paths.length; i += 1) {
+        found.push(sidecars.of(paths[i]));
+        at[paths[i]] = i;
+        if (i % LOOKED_UP === LOOKED_UP - 1) {
+            yield i;
+        }
+    }
+    return { of: (i) => found[i], leader: (path) => (sidecars.ownerOf(path) === undefined ? -1 : at[sidecars.ownerOf(path)]) };
+}
+
+const NOBODY = { of: () => [], leader: () => -1 };
+
+function rowFor(path, i, context) {
+    const leader = context.companions.leader(path);
+    if (leader >= 0) {
+        return row({ goesWith: leader });
+    }
+    const facts = context.chain.needsFacts ? context.services.facts.of(path) : null;
+    const made = context.chain.apply(path, context.areFolders, facts, false);
+    made.short.forEach((step) => { context.short[step] = (context.short[step] || 0) + 1; });
+    return wish(path, made, context.companions.of(i));
+}
+
+// A sidecar shows the name that it will have beside its picture.
+function nameFollowers(found, paths) {
+    found.forEach((each, i) => {
+        if (each.goesWith >= 0) {
+            const own = found[each.goesWith].along.find((other) => other.from === paths[i]);
+            each.shown = own === undefined ? "–" : splitPath(own.to).name;
+        }
+    });
+}
+
+/**
+ * A generator that makes the new names: see move-plan.js. The array also has `short`: by the index of a step of stepsOf(), how
+ * many names it could not change because they are too short.
+ */
+export function* rows(paths, settings, services) {
+    const areFolders = settings.what === "folders";
+    const found = [];
+    const context = { chain: chainOf(settings, services), areFolders: areFolders, services: services, short: [], companions: NOBODY };
+    if (settings.sidecars && !areFolders) {
+        const looking = companionsOf(paths, services);
+        let step = looking.next();
+        for (; !step.done; step = looking.next()) {
+            yield { rows: found, from: 0, to: 0 };
+        }
+        context.companions = step.value;
+    }
+    let from = 0;
+    let since = Date.now();
+    for (let i = 0; i < paths.length; i += 1) {
+        found.push(rowFor(paths[i], i, context));
+        if (Date.now() - since >= SLICE_MS) {
+            yield { rows: found, from: from, to: found.length };
+            from = found.length;
+            since = Date.now();
+        }
+    }
+    nameFollowers(found, paths);
+    found.short = context.short;
+    if (from < found.length) {
+        yield { rows: found, from: from, to: found.length };
+    }
+    return found;
+}

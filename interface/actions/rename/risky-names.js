@@ -1,0 +1,23 @@
+// Names that this system takes and others do not. Pure but for translation; no service is used.
+
+import { fill } from "../../lib/wording.js";
+
+const SIGNS = "\\:*?\"<>|";
+const DEVICES = /^(con|prn|aux|nul|com[1-9]|lpt[1-9])(\..*)?$/i;
+
+const RISKY = /[\\:*?"<>|\x00-\x1f\x7f]|^ |[ .]$/;
+
+/** What other systems do not take of a name, in a few words; "" if nothing. */
+export function riskOf(name) {
+    const found = RISKY.exec(name);
+    if (found === null) {
+        return DEVICES.test(name) ? fill(qsTr("other systems keep the name %1 for themselves"), name) : "";
+    }
+    if (SIGNS.indexOf(found[0]) >= 0) {
+        return fill(qsTr("other systems do not take %1"), found[0]);
+    }
+    if (found[0] !== " " && found[0] !== ".") {
+        return qsTr("it has a control character in it");
+    }
+    return found.index === 0 && name.length > 1 ? qsTr("it begins with a blank") : qsTr("other systems take no blank or dot at the end");
+}

@@ -1,0 +1,60 @@
+// The settings of the Resize action. Services used: none; the step says what sizes come out.
+
+import { PIXEL } from "../../lib/measure.js";
+import { scalePercent } from "./sizes.js";
+import { percent, pixels } from "../../lib/wording.js";
+import * as resize from "./resize-step.js";
+import { Pane } from "../shared/pane.js";
+
+const MODES = ["width", "height", "longest", "percent", "box"];
+
+export class ResizePane extends Pane {
+    constructor(settings, changed) {
+        super("actions/resize/resize-pane.ui", resize, settings, changed);
+        this.join();
+        this.fill();
+    }
+
+    join() {
+        this.form.control("mode").segments = [qsTr("Width"), qsTr("Height"), qsTr("Longest"), "%", qsTr("Box")];
+        this.form.setItems("boxFit", [qsTr("Fill the box and cut"), qsTr("Stretch to the box")], ["fill", "stretch"]);
+        this.form.control("value").maximum = resize.MOST_PIXELS;
+        this.segments("mode", "mode", MODES);
+        this.number("value", () => this.settings.mode);
+        this.number("boxWidth", "boxWidth");
+        this.number("boxHeight", "boxHeight");
+        this.choice("boxFit", "boxFit");
+        this.check("neverEnlarge", "neverEnlarge");
+        this.units("unit", resize.LENGTHS);
+    }
+
+    showValues() {
+        this.form.control("mode").selectedSegment = MODES.indexOf(this.settings.mode);
+        this.form.control("neverEnlarge").checked = this.settings.neverEnlarge;
+        this.form.chooseValue("boxFit", this.settings.boxFit);
+        this.form.chooseValue("unit", this.settings.unit);
+    }
+
+    showState() {
+        const mode = this.settings.mode;
+        const labels = { width: qsTr("Width"), height: qsTr("Height"), longest: qsTr("Longest side"), percent: qsTr("Per cent"), box: qsTr("Box") };
+        this.visible(["value"], mode !== "box");
+        this.visible(["boxWidth", "boxTimes", "boxHeight", "fitLabel", "boxFit"], mode === "box");
+        this.visible(["unit"], mode !== "percent");
+        this.form.control("valueLabel").text = labels[mode];
+        this.form.control("value").accessibleName = labels[mode];
+        this.showLength("boxWidth", this.settings.boxWidth, this.settings.unit, "");
+        this.showLength("boxHeight", this.settings.boxHeight, this.settings.unit, "");
+        if (mode === "percent") {
+            this.showLength("value", this.settings.percent, PIXEL, "%");
+        } else if (mode !== "box") {
+            this.showLength("value", this.settings[mode], this.settings.unit, "");
+        }
+    }
+
+    resultText(photo, planned) {
+        return pixels(photo) + " → " + pixels(planned) + (this.settings.unit === PIXEL || this.settings.mode === "percent"
+            ? " (" + percent(scalePercent(photo, planned)) + ")"
+            : this.dpiText());
+    }
+}

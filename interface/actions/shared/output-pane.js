@@ -1,0 +1,146 @@
+// Where results go and what they are: file type, quality, folder, taken names, simulation. Every action that writes
+// pictures has this block. Services used: files (home).
+
+import { shell } from "quorlin/shell";
+import { files } from "quorlin/files";
+import { guard } from "../../lib/guard.js";
+import { withNewest } from "../../lib/store.js";
+import { ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
+import { fill, shortPath } from "../../lib/wording.js";
+
+const KEPT_FOLDERS = 5;
+const FOLDER = "folder:";
+
+// What goes along into each type, in plain words.
+function metadataNote(types) {
+    if (types.length === 0) {
+        return qsTr("EXIF, IPTC and XMP do not go along.");
+    }
+    return fill(qsTr("EXIF, IPTC and XMP go along into %1 files only."), types.map((id) => writtenType(id).word).join(qsTr(" and ")));
+}
+
+function noteFor(choice, carried) {
+    const type = writtenType(choice);
+    if (type === null) {
+        return metadataNote(carried);
+    }
+    const sentences = [];
+    if (carried.indexOf(type.id) >= 0) {
+        sentences.push(qsTr("Metadata and colour profile go along."));
+    } else if (type.profile) {
+        sentences.push(qsTr("The colour profile goes along; EXIF, IPTC and XMP do not."));
+    } else {
+        sentences.push(qsTr("Neither metadata nor colour profile go along; colours become sRGB."));
+    }
+    return sentences.concat(type.alpha ? [] : [qsTr("Transparent parts become black.")]).join(" ");
+}
+
+/** The block. `recent` is the list of folders that were saved to; changed() is called after each change. */
+export class OutputPane {
+    constructor(recent, changed) {
+        this.recent = recent;
+        this.changed = changed;
+        this.output = null;
+        this.offer = null;
+        this.form = shell.loadForm("actions/shared/output-pane.ui");
+        const codes = ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10"];
+        this.form.setItems("quality", codes, codes);
+        this.form.setItems("ifTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")],
+                           ["number", "replace", "skip", "ask"]);
+        this.connect();
+    }
+
+    /** Shows the output settings of an action, which are changed in place, and what its step offers. */
+    use(output, offer) {
+        this.output = null;
+        this.offer = offer;
+        const types = offer.types.map((id) => writtenType(id));
+        this.form.setItems("fileType", [qsTr("Original file type")].concat(types.map((type) => type.word)), [ORIGINAL].concat(offer.types));
+        for (const name of ["fileType", "quality", "ifTaken"]) {
+            this.form.chooseValue(name, output[name]);
+        }
+        this.form.control("simulation").checked = output.simulation;
+        this.output = output;
+        this.showDestinations();
+        this.showType();
+    }
+
+    connect() {
+        for (const name of ["fileType", "quality", "ifTaken"]) {
+            this.form.control(name).activated.connect(guard("output." + name, () => {
+                this.output[name] = this.form.value(name);
+                this.showType();
+                this.changed();
+            }));
+        }
+        this.form.control("destination").activated.connect(guard("output.destination", () => this.destinationChosen()));
+        const simulation = this.form.control("simulation");
+        simulation.toggled.connect(guard("output.simulation", () => {
+            if (this.output !== null) {
+                this.output.simulation = simulation.checked;
+                this.changed();
+            }
+        }));
+    }
+
+    showDestinations() {
+        const chosen = this.output.destination;
+        const texts = [fill(qsTr("Folder “%1” beside it"), chosen.name), qsTr("Folder of the original")];
+        const values = ["beside", "source"];
+        for (const folder of this.recent) {
+            texts.push(shortPath(folder, files.home));
+            values.push(FOLDER + folder);
+        }
+        this.form.setItems("destination", texts.concat(["-", qsTr("Choose Folder…")]), values.concat(["-", "choose"]));
+        this.form.chooseValue("destination", chosen.kind === "folder" ? FOLDER + chosen.path : chosen.kind);
+        this.form.control("destination").toolTip = chosen.kind === "folder" ? chosen.path : "";
+    }
+
+    destinationChosen() {
+        const value = this.form.value("destination");
+        if (value === "choose") {
+            const folder = shell.chooseFolder(qsTr("Save results to"), this.output.destination.path || files.home);
+            if (folder === null) {
+                this.showDestinations();
+            } else {
+                this.useFolder(folder);
+            }
+        } else if (value.startsWith(FOLDER)) {
+            this.useFolder(value.slice(FOLDER.length));
+        } else {
+            this.output.destination.kind = value;
+            this.showDestinations();
+            this.changed();
+        }
+    }
+
+    useFolder(folder) {
+        this.output.destination.kind = "folder";
+        this.output.destination.path = folder;
+        const newest = withNewest(this.recent, folder, KEPT_FOLDERS);
+        this.recent.splice(0, this.recent.length);
+        newest.forEach((entry) => this.recent.push(entry));
+        this.showDestinations();
+        this.changed();
+    }
+
+    showType() {
+        const type = writtenType(this.output.fileType);
+        const hasQuality = type === null || type.quality;
+        for (const name of ["fileTypeLabel", "fileType"]) {
+            this.form.control(name).visible = this.offer.types.length > 0;
+        }
+        for (const name of ["qualityLabel", "qualityHost"]) {
+            this.form.control(name).visible = this.offer.quality;
+        }
+        this.form.control("quality").enabled = hasQuality;
+        this.form.control("qualityLabel").enabled = hasQuality;
+    }
+
+    /** Says what of metadata, profile and transparency the results keep; carried: the types that metadata goes into. */
+    showNote(carried) {
+        const note = this.form.control("typeNote");
+        note.visible = this.offer.saysNothing !== true;
+        note.text = noteFor(this.output.fileType, carried);
+    }
+}

@@ -1,0 +1,118 @@
+// The folders that will come to be, beside the list: counts, what is new, and whether there is room for copies. Choosing a folder
+// shows only the files that will go there. Services used: files (space, byteText, home), moves of the plan.
+
+import { files } from "quorlin/files";
+import { shell } from "quorlin/shell";
+import { rowsBelow, treeParts, treeRows } from "./folder-tree.js";
+import { guard } from "../../lib/guard.js";
+import { isReadyRow } from "../../runs/move-plan.js";
+import { DiskNeeds, roomText } from "../../runs/room.js";
+import { count, fill, shortPath } from "../../lib/wording.js";
+
+// Rows are looked at in parts, so that the window answers.
+const AT_ONCE = 200;
+
+/** "240 files into 12 folders · 9 new folders". */
+export function summaryText(ready, folders, fresh) {
+    if (ready === 0) {
+        return qsTr("No file will go anywhere.");
+    }
+    const words = fill(qsTr("%1 into %2"), count(ready, qsTr("1 file"), qsTr("%1 files")), count(folders, qsTr("1 folder"), qsTr("%1 folders")));
+    return words + " · " + (fresh === 0 ? qsTr("no new folder") : count(fresh, qsTr("1 new folder"), qsTr("%1 new folders")));
+}
+
+export class SortTree {
+    /** @param window  the main window's parts: pictures, livePlan */
+    constructor(window) {
+        this.window = window;
+        this.form = shell.loadForm("actions/sort/sort-tree.ui");
+        this.tree = this.form.control("sortTree");
+        this.book = null;
+        this.ids = [];
+        this.tree.folderChosen.connect(guard("tree", () => this.showChosen()));
+        this.form.control("sortShowAll").clicked.connect(guard("tree.all", () => this.showAll()));
+    }
+
+    /** A generator that shows what a plan makes of the folders; ids are those of its rows. */
+    * show(plan, ids) {
+        const book = plan.rows.book;
+        const needs = new DiskNeeds((path) => files.space(path));
+        let ready = 0;
+        for (let i = 0; i < plan.rows.length; i += 1) {
+            if (isReadyRow(plan, i)) {
+                book.count(plan.rows[i].node, i);
+                needs.add(plan, i);
+                ready += 1;
+            }
+            if (i % AT_ONCE === AT_ONCE - 1) {
+                yield plan.rows.length;
+            }
+        }
+        const sum = yield* this.fillTree(book, plan.rows.length);
+        this.book = book;
+        this.ids = ids;
+        this.tree.showFolders();
+        this.showChosen();
+        this.say(summaryText(ready, sum.used, sum.fresh), needs.disks());
+    }
+
+    // {used: folders that get files themselves, fresh: those that will be made}
+    * fillTree(book, shown) {
+        const sum = { used: 0, fresh: 0 };
+        this.tree.beginFolders();
+        const parts = treeParts(book);
+        for (let part = parts.next(); !part.done; part = parts.next()) {
+            part.value.filter((row) => row.above === "").forEach((row) => { row.name = shortPath(row.path, files.home); });
+            sum.used += part.value.filter((row) => row.count > 0).length;
+            sum.fresh += part.value.filter((row) => row.isNew).length;
+            this.tree.addFolders(part.value);
+            yield shown;
+        }
+        return sum;
+    }
+
+    say(summary, disks) {
+        const room = roomText(disks, (bytes) => files.byteText(bytes));
+        this.form.control("sortTreeSummary").text = summary;
+        this.line("sortTreeSpaceNote", room.note);
+        this.line("sortTreeProblem", room.problem);
+    }
+
+    line(name, text) {
+        this.form.control(name).text = text;
+        this.form.control(name).visible = text !== "";
+    }
+
+    /** Folders were made or taken away. */
+    lookAgain() {
+        const rows = this.book === null ? [] : treeRows(this.book);
+        rows.forEach((row) => {
+            row.isNew = !files.info(row.path).exists;
+            row.name = row.above === "" ? shortPath(row.path, files.home) : row.name;
+        });
+        this.tree.setFolders(rows);
+    }
+
+    showAll() {
+        this.tree.chosen = "";
+    }
+
+    /** There is no plan, since something is wrong with the settings. */
+    clear() {
+        this.book = null;
+        this.tree.setFolders([]);
+        this.say("", []);
+        this.showChosen();
+    }
+
+    /** The list shows the files that go into the chosen folder; all of them where none is chosen. */
+    showChosen() {
+        const chosen = this.book === null ? "" : this.tree.chosen;
+        this.form.control("sortShowAll").visible = chosen !== "";
+        if (chosen === "") {
+            this.window.pictures.showAll();
+        } else {
+            this.window.pictures.showOnly(rowsBelow(this.book, chosen).map((row) => this.ids[row]));
+        }
+    }
+}

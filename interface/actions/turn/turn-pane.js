@@ -1,0 +1,69 @@
+// The settings of the Rotate & Flip action. Services used: none; the step says what comes out.
+
+import { shell } from "quorlin/shell";
+import { guard } from "../../lib/guard.js";
+import { shortestTurn } from "./turns.js";
+import * as turn from "./turn-step.js";
+import { Pane } from "../shared/pane.js";
+
+const QUARTERS = { turnLeft: 90, turnRight: -90, turnHalf: 180 };
+
+// Which way an angle turns, counter-clockwise being positive.
+function senseText(angle) {
+    if (angle === 0) {
+        return qsTr("not turned");
+    }
+    return angle > 0 ? qsTr("↺ to the left") : qsTr("↻ to the right");
+}
+
+export class TurnPane extends Pane {
+    constructor(settings, changed) {
+        super("actions/turn/turn-pane.ui", turn, settings, changed);
+        this.join();
+        this.fill();
+    }
+
+    join() {
+        for (const name of Object.keys(QUARTERS)) {
+            this.form.control(name).clicked.connect(guard(name, () => this.set("angle", shortestTurn(this.settings.angle + QUARTERS[name]))));
+        }
+        this.form.control("angleDial").turned.connect(guard("angleDial", (degrees) => this.set("angle", degrees)));
+        this.number("angle", "angle");
+        this.check("flipHorizontal", "flipHorizontal");
+        this.check("flipVertical", "flipVertical");
+        this.form.control("turnReset").clicked.connect(guard("turnReset", () => this.reset()));
+        this.showIcons();
+        shell.theme.changed.connect(guard("turn.theme", () => this.showIcons()));
+    }
+
+    // Drawn anew in the colours of the appearance.
+    showIcons() {
+        const icons = { turnLeft: "turn-left", turnRight: "turn-right", turnHalf: "turn-half", flipHorizontal: "flip-across",
+                        flipVertical: "flip-down" };
+        Object.keys(icons).forEach((name) => this.form.setIcon(name, icons[name]));
+    }
+
+    showValues() {
+        this.form.control("flipHorizontal").checked = this.settings.flipHorizontal;
+        this.form.control("flipVertical").checked = this.settings.flipVertical;
+        this.form.control("angle").value = this.settings.angle;
+        this.form.control("angleDial").value = this.settings.angle;
+    }
+
+    showState() {
+        const before = this.filling;
+        this.filling = true;
+        this.form.control("angle").value = this.settings.angle;
+        this.form.control("angleDial").value = this.settings.angle;
+        this.filling = before;
+        this.form.control("angleSense").text = senseText(this.settings.angle);
+    }
+
+    reset() {
+        this.settings.angle = 0;
+        this.settings.flipHorizontal = false;
+        this.settings.flipVertical = false;
+        this.fill();
+        this.changed();
+    }
+}

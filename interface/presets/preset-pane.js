@@ -1,0 +1,338 @@
+// The head of every pane: the action's name, and its presets to choose, store, rename, remove, export and import.
+// Services used: dbViewController, files, defaults.
+
+import { dbViewController } from "quorlin";
+import { defaults } from "quorlin/defaults";
+import { files } from "quorlin/files";
+import { shell } from "quorlin/shell";
+import { guard } from "../lib/guard.js";
+import { emptyTable, splitPath } from "../lib/names.js";
+import { PresetStore } from "./preset-store.js";
+import { FIELDS, fileText, freeName, rowOf, rowsOfFile, storedName } from "./presets.js";
+import { writeStartingPresets } from "./starting-presets.js";
+import { keep, recall } from "../lib/store.js";
+import { count, fill } from "../lib/wording.js";
+
+const FILE_TYPE = "c-action";
+// Each waits for the disk: a few are brought in at once, and many while the window goes on.
+const MOST_AT_ONCE = 20;
+// What stands before the name of a preset that can be used, and before the number of one that cannot.
+const READY = "=";
+const OTHER = "?";
+
+function keyOf(action) {
+    return "Preset-" + action;
+}
+
+function stateWord(preset) {
+    const words = { newer: qsTr("%1 (newer version)"), unknown: qsTr("%1 (unknown)"), damaged: qsTr("%1 (damaged)") };
+    return fill(words[preset.state] || "%1", preset.name);
+}
+
+export class PresetPane {
+    /**
+     * @param standard  the settings of a new pane, by the name of the action
+     * @param take      called with the settings of a preset that was chosen
+     * @param say       called with what there is to tell
+     */
+    constructor(standard, take, say) {
+        this.store = new PresetStore(() => new dbViewController(), files, standard);
+        this.standard = standard;
+        this.take = take;
+        this.say = say;
+        this.action = "";
+        this.pane = null;
+        this.settings = null;
+        this.presets = [];
+        this.chosen = null;
+        this.editing = "";
+        this.taken = [];
+        this.problem = "";
+        this.importing = shell.job();
+        this.menuState = "";
+        this.form = shell.loadForm("presets/preset-pane.ui");
+        this.connect();
+    }
+
+    connect() {
+        const control = (name) => this.form.control(name);
+        control("preset").activated.connect(guard("preset", () => this.choiceMade(this.form.value("preset"))));
+        control("presetName").textChanged.connect(guard("presetName", () => this.showNameProblem()));
+        control("presetName").returnPressed.connect(guard("presetName", () => this.endEditing()));
+        control("presetOk").clicked.connect(guard("presetOk", () => this.endEditing()));
+        control("presetCancel").clicked.connect(guard("presetCancel", () => this.cancelEditing()));
+        control("presetEscape").triggered.connect(guard("presetCancel", () => this.cancelEditing()));
+    }
+
+    /** Shows the presets of an action, whose settings, those of the pane, are compared with them. */
+    use(action, title, pane) {
+        this.action = action;
+        this.pane = pane;
+        this.settings = pane.settings;
+        this.editing = "";
+        this.problem = "";
+        this.form.control("paneTitle").text = title;
+        this.presets = this.store.list(action);
+        if (this.store.problem === "" && writeStartingPresets(action, this.standard[action], shell.interfaceFolder + "/patterns", this.store, defaults)) {
+            this.presets = this.store.list(action);
+        }
+        this.showChosen(recall(defaults, keyOf(action), { name: "" }).name);
+        if (this.store.notice !== "") {
+            this.say(this.store.notice);
+            this.store.notice = "";
+        }
+    }
+
+    /** Called after a change of the settings. */
+    settingsChanged() {
+        this.showChoice();
+        this.showMenu();
+    }
+
+    // Reads the presets anew; the ready one of that name is the chosen one.
+    look(name) {
+        this.presets = this.store.list(this.action);
+        this.showChosen(name);
+    }
+
+    showChosen(name) {
+        this.chosen = this.presets.find((preset) => preset.state === "ready" && preset.name === name) || null;
+        this.showAll();
+    }
+
+    remember() {
+        keep(defaults, keyOf(this.action), { name: this.chosen === null ? "" : this.chosen.name });
+    }
+
+    isReady() {
+        return this.chosen !== null && this.chosen.state === "ready";
+    }
+
+    isChanged() {
+        const text = (settings) => rowOf(this.action, "", settings).join("|");
+        return this.isReady() && text(this.settings) !== text(this.pane.resolved(this.chosen.settings));
+    }
+
+    choiceMade(value) {
+        this.problem = "";
+        if (value.startsWith(READY)) {
+            this.choose(value.slice(READY.length));
+        } else if (value.startsWith(OTHER)) {
+            // It says what it is and can be exported; the settings stay.
+            this.chosen = this.presets[Number(value.slice(OTHER.length))];
+            this.showAll();
+        }
+    }
+
+    choose(name) {
+        this.chosen = this.presets.find((preset) => preset.state === "ready" && preset.name === name) || null;
+        this.remember();
+        if (this.isReady()) {
+            this.take(this.chosen.settings);
+        }
+        this.showAll();
+    }
+
+    valueOf(preset) {
+        return preset.state === "ready" ? READY + preset.name : OTHER + this.presets.indexOf(preset);
+    }
+
+    showAll() {
+        this.showChoice();
+        this.showMenu();
+        this.showEditing();
+    }
+
+    showChoice() {
+        const changed = this.isChanged();
+        const texts = this.presets.map((preset) => (changed && preset === this.chosen ? "• " + preset.name : stateWord(preset)));
+        const none = this.chosen === null;
+        this.form.setItems("preset", (none ? [qsTr("None")] : []).concat(texts), (none ? [""] : []).concat(this.presets.map((preset) => this.valueOf(preset))));
+        this.form.chooseValue("preset", none ? "" : this.valueOf(this.chosen));
+        this.form.control("preset").enabled = this.store.problem === "" && this.presets.length > 0;
+        // The dot stands before the name, where a long one is not cut off.
+        this.form.control("preset").toolTip = none ? "" : changed ? fill(qsTr("%1, changed"), this.chosen.name) : this.chosen.name;
+        this.form.control("preset").accessibleDescription = changed ? qsTr("changed") : "";
+        this.label("presetProblem", this.problem || this.store.problem);
+        this.label("presetNote", none ? "" : this.chosen.note);
+    }
+
+    label(name, text) {
+        this.form.control(name).text = text;
+        this.form.control(name).visible = text !== "";
+    }
+
+    // An entry without a deed cannot be chosen now.
+    showMenu() {
+        const works = this.store.problem === "";
+        const ready = works && this.isReady();
+        const entries = [
+            [qsTr("Save"), ready && this.isChanged() ? "save" : null], [qsTr("Save As…"), works ? "saveAs" : null],
+            [qsTr("Rename…"), ready ? "rename" : null], [qsTr("Delete…"), ready ? "remove" : null], ["-", null],
+            [qsTr("Export…"), this.chosen !== null && this.chosen.fields.length === FIELDS ? "save as file" : null],
+            [qsTr("Import…"), works ? "bring in" : null],
+        ].concat(works ? [] : [["-", null], [qsTr("Look Again"), "look"]]);
+        const state = JSON.stringify(entries);
+        if (state !== this.menuState) {
+            this.menuState = state;
+            this.form.setMenu("presetMenu", entries.map((entry) => entry[0]), entries.map((entry) => entry[1]), guard("presets", (deed) => this.act(deed)));
+        }
+    }
+
+    act(deed) {
+        this.problem = "";
+        const deeds = { save: () => this.save(), saveAs: () => this.edit("saveAs"), rename: () => this.edit("rename"), remove: () => this.remove(),
+                        "save as file": () => this.saveFile(), "bring in": () => this.bringIn(), look: () => this.lookAgain() };
+        deeds[deed]();
+        this.showAll();
+    }
+
+    // Shows what came of a deed: the preset of that name is the chosen one, or the problem is told.
+    ended(problem, name) {
+        this.problem = problem;
+        this.look(problem === "" || this.chosen === null ? name : this.chosen.name);
+        this.remember();
+    }
+
+    lookAgain() {
+        this.use(this.action, this.form.control("paneTitle").text, this.pane);
+    }
+
+    save() {
+        this.ended(this.store.save(this.action, this.chosen.name, this.settings), this.chosen.name);
+    }
+
+    edit(what) {
+        this.editing = what;
+        this.taken = this.store.names();
+        const name = what === "rename" ? this.chosen.name : freeName(this.isReady() ? this.chosen.name : qsTr("My preset"), this.taken);
+        if (what === "rename") {
+            this.taken = this.taken.filter((other) => other !== name);
+        }
+        this.form.control("presetOk").text = what === "rename" ? qsTr("Rename") : qsTr("Save");
+        this.form.control("presetName").text = name;
+        this.showEditing();
+        this.form.control("presetName").setFocus();
+        this.form.control("presetName").selectAll();
+    }
+
+    showEditing() {
+        const on = this.editing !== "";
+        for (const name of ["nameLabel", "presetName", "nameButtons"]) {
+            this.form.control(name).visible = on;
+        }
+        for (const name of ["presetLabel", "presetHost"]) {
+            this.form.control(name).visible = !on;
+        }
+        this.form.control("presetEscape").enabled = on;
+        this.showNameProblem();
+    }
+
+    showNameProblem() {
+        const problem = this.editing === "" ? "" : this.store.nameProblem(this.form.control("presetName").text, this.taken);
+        const isSame = this.editing === "rename" && this.newName() === this.chosen.name;
+        this.label("nameProblem", isSame ? "" : problem);
+        this.form.control("presetOk").enabled = problem === "" || isSame;
+    }
+
+    newName() {
+        return storedName(this.form.control("presetName").text);
+    }
+
+    cancelEditing() {
+        this.editing = "";
+        this.showAll();
+        this.form.control("preset").setFocus();
+    }
+
+    endEditing() {
+        const name = this.newName();
+        const what = this.editing;
+        if (what === "" || !this.form.control("presetOk").enabled) {
+            return;
+        }
+        this.editing = "";
+        if (what === "saveAs") {
+            this.ended(this.store.save(this.action, name, this.settings), name);
+        } else if (name !== this.chosen.name) {
+            this.ended(this.store.rename(this.chosen, name), name);
+        }
+        this.showAll();
+        this.form.control("preset").setFocus();
+    }
+
+    remove() {
+        const name = this.chosen.name;
+        const answer = shell.ask({
+            title: qsTr("Delete preset"), text: fill(qsTr("Delete the preset “%1”?"), name), detail: qsTr("The settings stay as they are now."),
+            buttons: [qsTr("Delete"), qsTr("Keep")], initial: 1, escape: 1, check: "",
+        });
+        if (answer.button === 0) {
+            const problem = this.store.remove(this.action, name);
+            this.chosen = problem === "" ? null : this.chosen;
+            this.ended(problem, "");
+        }
+    }
+
+    saveFile() {
+        const offered = this.chosen.name.replace(/[\/\\:*?"<>|]/g, "-") + "." + FILE_TYPE;
+        const path = shell.chooseNewFile(qsTr("Export the preset"), "", offered, FILE_TYPE);
+        if (path !== null) {
+            this.problem = files.writeText(path, fileText([this.chosen.fields]));
+            this.say(this.problem || fill(qsTr("Preset exported as %1"), path));
+        }
+    }
+
+    bringIn() {
+        if (this.importing.running) {
+            return;
+        }
+        const path = shell.chooseFile(qsTr("Import presets"), "", [FILE_TYPE]);
+        if (path === null) {
+            return;
+        }
+        const text = files.readText(path);
+        if (text === null) {
+            this.problem = fill(qsTr("%1 cannot be read."), splitPath(path).name);
+            return;
+        }
+        const read = rowsOfFile(text);
+        if (read.rows.length <= MOST_AT_ONCE) {
+            this.broughtIn(this.store.bringIn(read.rows), read);
+            return;
+        }
+        const work = this.store.bringingIn(read.rows);
+        this.importing.start(work, guard("presets.import", (stored) => this.say(fill(qsTr("%1 of %2 presets imported"), stored, read.rows.length))),
+                             guard("presets.imported", (how, value) => this.importEnded(how, value, read)));
+    }
+
+    importEnded(how, value, read) {
+        this.broughtIn(how === "done" ? value : { names: [], renamed: 0, problem: how === "failed" ? String(value) : "" }, read);
+    }
+
+    // What was stored is shown; the first of this action becomes the chosen one.
+    broughtIn(done, read) {
+        this.problem = done.problem || read.problem;
+        this.look(this.chosen === null ? "" : this.chosen.name);
+        const names = emptyTable();
+        done.names.forEach((name) => { names[name] = true; });
+        const own = this.presets.filter((preset) => preset.state === "ready" && names[preset.name]);
+        if (own.length > 0) {
+            this.choose(own[0].name);
+        }
+        if (done.names.length > 0) {
+            this.say(this.broughtInText(done, own.length));
+        }
+    }
+
+    broughtInText(done, own) {
+        const parts = [count(done.names.length, qsTr("1 preset imported"), qsTr("%1 presets imported"))];
+        if (done.renamed > 0) {
+            parts.push(count(done.renamed, qsTr("1 renamed, its name was taken"), qsTr("%1 renamed, their names were taken")));
+        }
+        if (own === 0) {
+            parts.push(qsTr("none for this action"));
+        }
+        return parts.join(" · ");
+    }
+}

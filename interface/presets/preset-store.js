@@ -1,0 +1,247 @@
+// The presets of all actions in the presets database: listed, stored, renamed, removed, brought in. Pure: the database service and the
+// files are handed in. Every answer is a fresh one, since the service answers a failed query with the result of the one before.
+
+import { FORMS } from "./preset-forms.js";
+import { emptyTable, splitPath } from "../lib/names.js";
+import { FIELDS, nameProblem, presetOf, rowOf, storedName, TakenNames } from "./presets.js";
+import { fill } from "../lib/wording.js";
+
+const TABLE = "Presets";
+const NAME = "NameOfPreset";
+const HEADER = "SQLite format 3";
+// No more rows than this bear one name.
+const MOST_COPIES = 100;
+// And an older row of a name is not looked for further back than this.
+const MOST_LOOKS = 2000;
+
+function textOf(data) {
+    return data === null ? "" : String.fromCharCode.apply(null, Array.from(new Uint8Array(data)));
+}
+
+export class PresetStore {
+    /**
+     * @param makeDb    makes a dbViewController
+     * @param files     readText, info and setAsideUnusableDatabase are used
+     * @param standard  the settings of a new pane, by the name of the action
+     */
+    constructor(makeDb, files, standard) {
+        this.makeDb = makeDb;
+        this.files = files;
+        this.standard = standard;
+        /** Why the presets cannot be read, in a sentence; empty while they can. */
+        this.problem = "";
+        /** What happened to the database, to be said once; empty for nothing. */
+        this.notice = "";
+    }
+
+    // The rows that match, as texts; null where the database did not answer.
+    rows(column, value, table) {
+        const db = this.makeDb();
+        const found = db.checkForActionType(table || TABLE, column, value);
+        if (db.myPresetsArray === null) {
+            return null;
+        }
+        return found === null ? [] : found.slice();
+    }
+
+    // Makes the database where there is none yet.
+    link() {
+        try {
+            this.makeDb().linkToPresetsDB();
+        } catch (error) {
+            // What is wrong shows when it is read.
+            this.linkError = error;
+        }
+    }
+
+    /**
+     * The presets of an action, in the order in which they were stored: presetOf() of each, with its `fields`. Of several ready ones
+     * with one name, which two programs at once can make, the newest.
+     */
+    list(action) {
+        this.link();
+        let rows = this.rows("Process", FORMS[action].process);
+        if (rows === null && this.setAside()) {
+            this.link();
+            rows = this.rows("Process", FORMS[action].process);
+        }
+        this.problem = rows === null ? this.readProblem() : "";
+        const all = (rows || []).map((row) => Object.assign({ fields: row.split("|") }, presetOf(row, this.standard)));
+        const newest = emptyTable();
+        all.filter((preset) => preset.state === "ready").forEach((preset) => { newest[preset.name] = preset; });
+        const older = all.filter((preset) => preset.state === "ready" && newest[preset.name] !== preset);
+        if (older.length > 0) {
+            this.removeOlder(action, older.map((preset) => preset.name));
+        }
+        return all.filter((preset) => preset.state !== "ready" || newest[preset.name] === preset);
+    }
+
+    // A database that can hold nothing gives way, so that the service makes a new one; the service itself repairs none.
+    setAside() {
+        const name = this.files.setAsideUnusableDatabase(this.path());
+        if (name !== "") {
+            this.notice = fill(qsTr("The presets database was empty and could not be used. It is called %1 now, and there is a new one."),
+                               splitPath(name).name);
+        }
+        return name !== "";
+    }
+
+    // What was cut off between storing a preset anew and removing the row before is done to its end. The service tells the
+    // number of the newest row of a name only: those below it are looked through.
+    removeOlder(action, names) {
+        for (const name of names.filter((each, i) => names.indexOf(each) === i)) {
+            let left = names.filter((each) => each === name).length;
+            const newest = Number(this.idOf(action, name));
+            for (let id = newest - 1; id > 0 && id > newest - MOST_LOOKS && left > 0; id -= 1) {
+                const rows = this.rows("ID", String(id)) || [];
+                const preset = rows.length === 1 ? presetOf(rows[0], this.standard) : null;
+                if (preset !== null && preset.state === "ready" && preset.action === action && preset.name === name) {
+                    this.removeId(String(id));
+                    left -= 1;
+                }
+            }
+        }
+    }
+
+    /** The names of the presets of all actions. */
+    names() {
+        return Object.keys(FORMS).reduce((names, action) => {
+            const rows = this.rows("Process", FORMS[action].process) || [];
+            return names.concat(rows.map((row) => row.split("|")[0]));
+        }, []);
+    }
+
+    /** What is wrong with a name, in a sentence; also a name that a preset of another program has. */
+    nameProblem(text, names) {
+        const name = storedName(text);
+        const problem = nameProblem(name, names);
+        return problem !== "" ? problem : nameProblem(name, (this.rows(NAME, name) || []).map((row) => row.split("|")[0]));
+    }
+
+    /** Stores settings under a name; a ready preset of this action with that name is replaced. Returns a problem, or "". */
+    save(action, name, settings) {
+        const replaced = this.idOf(action, name);
+        const problem = this.insert(rowOf(action, name, settings));
+        if (problem === "" && replaced !== "") {
+            this.removeId(replaced);
+        }
+        return problem;
+    }
+
+    /** Gives a preset another name. Returns a problem, or "". Cut off in the middle it leaves both names. */
+    rename(preset, name) {
+        return this.insert([name].concat(preset.fields.slice(1))) || this.remove(preset.action, preset.name);
+    }
+
+    /** Removes the ready presets of an action with that name. Returns a problem, or "". */
+    remove(action, name) {
+        for (let i = 0; i < MOST_COPIES; i += 1) {
+            const id = this.idOf(action, name);
+            if (id === "") {
+                return "";
+            }
+            this.removeId(id);
+            if (this.idOf(action, name) === id) {
+                return this.writeProblem();
+            }
+        }
+        return "";
+    }
+
+    /** Stores rows as they stand, under free names: {names, renamed (count), problem}. */
+    bringIn(rows) {
+        const work = this.bringingIn(rows);
+        let step = work.next();
+        while (!step.done) {
+            step = work.next();
+        }
+        return step.value;
+    }
+
+    /** The same as a generator that yields how many rows are stored, after each: every one waits for the disk. */
+    *bringingIn(rows) {
+        const taken = new TakenNames(this.names());
+        const result = { names: [], renamed: 0, problem: "" };
+        for (const row of rows) {
+            let name = taken.free(row[0]);
+            while ((this.rows(NAME, name) || []).length > 0) {
+                taken.take(name);
+                name = taken.free(row[0]);
+            }
+            result.problem = this.insert([name].concat(row.slice(1)));
+            if (result.problem !== "") {
+                break;
+            }
+            result.renamed += name === storedName(row[0]) ? 0 : 1;
+            result.names.push(name);
+            taken.take(name);
+            yield result.names.length;
+        }
+        return result;
+    }
+
+    insert(row) {
+        if (row.length !== FIELDS) {
+            throw new Error("A preset has " + FIELDS + " values");
+        }
+        try {
+            this.makeDb().insertSortingPresetToDB01(row);
+        } catch (error) {
+            if (error.name !== "InternalInconsistency") {
+                throw error;
+            }
+            return this.writeProblem();
+        }
+        return "";
+    }
+
+    // The number of the newest row with that name in the process of the action, if it is a ready preset; else "".
+    idOf(action, name) {
+        if ((this.rows(NAME, name) || []).length === 0) {
+            return "";
+        }
+        const id = textOf(this.makeDb().hGetBookMarkedFolders(TABLE, NAME, name, "Process", FORMS[action].process, NAME + ", ID"));
+        if (!/^[0-9]+$/.test(id)) {
+            return "";
+        }
+        const rows = this.rows("ID", id) || [];
+        const preset = rows.length === 1 ? presetOf(rows[0], this.standard) : null;
+        return preset !== null && preset.state === "ready" && preset.name === name ? id : "";
+    }
+
+    removeId(id) {
+        this.makeDb().removePresetFromDatabase(TABLE, "ID", id);
+    }
+
+    path() {
+        return this.makeDb().dbFilePath();
+    }
+
+    readProblem() {
+        const path = this.path();
+        if (!this.files.info(path).exists) {
+            return qsTr("Presets cannot be kept: their database cannot be made.");
+        }
+        const text = this.files.readText(path);
+        if (text === null) {
+            return qsTr("The presets database cannot be read.");
+        }
+        if (text !== "" && !text.startsWith(HEADER)) {
+            return qsTr("The presets database is damaged. It is left as it is.");
+        }
+        return text === "" || this.rows("StrField0", "appSys", "AppResource") !== null
+            ? qsTr("The presets database has no place for presets. It is left as it is.")
+            : qsTr("The presets database is in use by another program, or damaged. It is left as it is.");
+    }
+
+    writeProblem() {
+        const path = this.path();
+        const folder = path.slice(0, path.lastIndexOf("/"));
+        if (!this.files.info(path).writable || !this.files.info(folder).writable) {
+            return qsTr("The presets database is read-only; nothing was changed.");
+        }
+        return this.rows(NAME, "") === null
+            ? this.readProblem()
+            : qsTr("The presets database is in use by another program, or the disk is full; nothing was changed.");
+    }
+}

@@ -1,0 +1,346 @@
+// Presets: an action's settings as the 62 texts of a row of the presets database, and back; names; exported files. Pure but for
+// translation; no service is used. docs/presets.md has the layout.
+
+import { emptyTable } from "../lib/names.js";
+import { FIRST_SLOT, FORMS, SLOTS, VERSION } from "./preset-forms.js";
+import { fill } from "../lib/wording.js";
+
+export const FIELDS = 62;
+export const LONGEST_NAME = 100;
+
+const MARK = "Quorlin ";
+const FILE_MARK = "Quorlin presets";
+
+// The place of a column in a row: NameOfPreset, Process and Action are 0 to 2, StrField3 is 3.
+function placeOf(column) {
+    return Number(column.slice("StrField".length));
+}
+
+const HEX = "0123456789ABCDEF";
+
+function hex(code, digits) {
+    let text = "";
+    for (let shift = 4 * (digits - 1); shift >= 0; shift -= 4) {
+        text += HEX[(code >> shift) & 15];
+    }
+    return text;
+}
+
+function isHalf(code) {
+    return code >= 0xd800 && code <= 0xdfff;
+}
+
+function isPair(text, i) {
+    const first = text.charCodeAt(i);
+    const second = text.charCodeAt(i + 1);
+    return first >= 0xd800 && first <= 0xdbff && second >= 0xdc00 && second <= 0xdfff;
+}
+
+/** Any text without what a value must not hold: an apostrophe, a bar, a control character, half a surrogate pair. */
+export function encoded(text) {
+    let result = "";
+    for (let i = 0; i < text.length; i += 1) {
+        const code = text.charCodeAt(i);
+        if (isPair(text, i)) {
+            result += text.substr(i, 2);
+            i += 1;
+        } else if (isHalf(code)) {
+            result += "%u" + hex(code, 4);
+        } else {
+            result += code < 32 || code === 127 || "%'|".indexOf(text[i]) >= 0 ? "%" + hex(code, 2) : text[i];
+        }
+    }
+    return result;
+}
+
+/** What encoded() was given; null for a text that it never gives. */
+export function decoded(text) {
+    const result = text.replace(/%u([0-9A-F]{4})|%([0-9A-F]{2})/g, (all, four, two) => String.fromCharCode(parseInt(four || two, 16)));
+    return encoded(result) === text ? result : null;
+}
+
+const WRITERS = {
+    text: (value) => (typeof value === "string" ? encoded(value) : null),
+    color: (value) => (typeof value === "string" ? encoded(value) : null),
+    number: (value) => (typeof value === "number" && isFinite(value) ? String(value) : null),
+    whole: (value) => (Number.isSafeInteger(value) ? String(value) : null),
+    flag: (value) => (typeof value === "boolean" ? (value ? "1" : "0") : null),
+};
+
+const READERS = {
+    text: decoded,
+    color: (text) => (/^#[0-9a-f]{6}$/i.test(text) ? text : null),
+    number: (text) => (/^-?\d+(\.\d+)?(e[-+]?\d+)?$/.test(text) && isFinite(Number(text)) ? Number(text) : null),
+    whole: (text) => (/^-?\d+$/.test(text) && Number.isSafeInteger(Number(text)) ? Number(text) : null),
+    flag: (text) => (text === "1" ? true : text === "0" ? false : null),
+};
+
+function valueAt(settings, path) {
+    return path.split(".").reduce((part, key) => (part === null || part === undefined ? undefined : part[key]), settings);
+}
+
+function setAt(settings, path, value) {
+    const keys = path.split(".");
+    const last = keys.pop();
+    const owner = keys.reduce((part, key) => part[key], settings);
+    owner[last] = value;
+}
+
+function copyOf(settings) {
+    return JSON.parse(JSON.stringify(settings));
+}
+
+// A folder and what it is called, if that is not its own name.
+function slotText(slot) {
+    return encoded(slot.path + (slot.label === "" ? "" : "\n" + slot.label));
+}
+
+function slotIn(text) {
+    const parts = (decoded(text) || "").split("\n");
+    return parts[0].startsWith("/") && parts.length <= 2 ? { path: parts[0], label: parts[1] || "" } : null;
+}
+
+function writeSlots(row, slots) {
+    if (!Array.isArray(slots) || slots.length > SLOTS) {
+        throw new Error("A preset has up to " + SLOTS + " folders");
+    }
+    slots.forEach((slot, i) => { row[FIRST_SLOT + i] = slotText(slot); });
+}
+
+/**
+ * The 62 texts for a preset. `action` is the name of the action's step. Settings that the form does not know, or that are of
+ * another kind than it says, are an error of the program.
+ */
+export function rowOf(action, name, settings) {
+    const form = FORMS[action];
+    const row = Array(FIELDS).fill("");
+    row[0] = name;
+    row[1] = form.process;
+    const mode = form.mode === "" ? "" : encoded(String(settings[form.mode]));
+    if (form.slots === undefined) {
+        row[2] = mode;
+        row[3] = MARK + VERSION;
+    } else {
+        row[2] = form.subMode + " " + MARK + VERSION + " " + mode;
+        writeSlots(row, settings[form.slots]);
+    }
+    for (const column of Object.keys(form.columns)) {
+        const [path, kind] = form.columns[column];
+        const text = WRITERS[kind](valueAt(settings, path));
+        if (text === null) {
+            throw new Error("The setting " + path + " of " + action + " has no form for a preset");
+        }
+        row[placeOf(column)] = text;
+    }
+    if (form.list !== undefined) {
+        valueAt(settings, form.list.path).forEach((part, i) => { row[placeOf(form.list.columns[i])] = encoded(JSON.stringify(part)); });
+    }
+    return row;
+}
+
+function versionOf(mark) {
+    const found = new RegExp("^" + MARK + "([1-9][0-9]{0,5})$").exec(mark);
+    return found === null ? 0 : Number(found[1]);
+}
+
+// The mark and the mode of a row: {version, mode}.
+function headOf(row, form) {
+    if (form.slots === undefined) {
+        return { version: versionOf(row[3]), mode: row[2] };
+    }
+    const found = new RegExp("^" + form.subMode + " (" + MARK + "[0-9]+) (.*)$").exec(row[2]);
+    return found === null ? { version: 0, mode: "" } : { version: versionOf(found[1]), mode: found[2] };
+}
+
+// The settings of a row of folders, or null if one of its values is none.
+function slotSettings(row, form, standard) {
+    const settings = copyOf(standard);
+    const texts = row.slice(FIRST_SLOT).filter((text) => text !== "");
+    const mode = headOf(row, form).mode;
+    settings[form.mode] = mode;
+    settings[form.slots] = texts.map(slotIn);
+    return form.modes.indexOf(mode) < 0 || settings[form.slots].indexOf(null) >= 0 ? null : settings;
+}
+
+// The list of a row, or null if one of its parts is none.
+function listIn(row, list) {
+    const parts = [];
+    for (const column of list.columns.filter((each) => row[placeOf(each)] !== "")) {
+        const text = decoded(row[placeOf(column)]);
+        let part = null;
+        try {
+            part = text === null ? null : list.read(JSON.parse(text));
+        } catch (error) {
+            part = null;
+        }
+        if (part === null) {
+            return null;
+        }
+        parts.push(part);
+    }
+    return parts;
+}
+
+// The settings of a row, or null if one of its values is none.
+function settingsIn(row, form, standard) {
+    const settings = copyOf(standard);
+    for (const column of Object.keys(form.columns)) {
+        const [path, kind, values] = form.columns[column];
+        const text = row[placeOf(column)];
+        // A setting that came later than the preset has an empty column; no number and no flag is written like that.
+        const value = text === "" && kind !== "text" ? valueAt(standard, path) : READERS[kind](text);
+        if (value === null || (values !== undefined && values.indexOf(value) < 0)) {
+            return null;
+        }
+        setAt(settings, path, value);
+    }
+    const list = form.list === undefined ? [] : listIn(row, form.list);
+    if (list === null) {
+        return null;
+    }
+    if (form.list !== undefined) {
+        setAt(settings, form.list.path, list);
+    }
+    const mode = decoded(row[2]);
+    if (form.mode !== "" && mode) {
+        settings[form.mode] = mode;
+    }
+    const isMode = form.mode === "" || !mode || form.modes.indexOf(mode) >= 0;
+    return mode === null || !isMode ? null : settings;
+}
+
+/**
+ * What a row of the database is: {name, process, action, state, settings, note}. `standard` is the settings that a new pane has, by the
+ * action's name; `action` is that name, or "" for a process that is not ours.
+ *
+ * state: "ready" with settings; "newer", a form of a later version; "unknown", of another kind; "damaged", with a value that is
+ * none. Only a ready one has settings, and none of the others may be changed; note says so in a sentence.
+ */
+export function presetOf(row, standard) {
+    const fields = typeof row === "string" ? row.split("|") : row;
+    const action = Object.keys(FORMS).find((name) => FORMS[name].process === fields[1]) || "";
+    const preset = { name: fields[0], process: fields[1] || "", action: action, state: "unknown", settings: null, note: "" };
+    const version = fields.length === FIELDS && action !== "" ? headOf(fields, FORMS[action]).version : 0;
+    if (action === "" || version === 0) {
+        preset.note = qsTr("This preset was not made by Quorlin. It is left as it is.");
+    } else if (version > VERSION) {
+        preset.state = "newer";
+        preset.note = qsTr("This preset was made by a newer Quorlin. It is left as it is.");
+    } else {
+        const form = FORMS[action];
+        preset.settings = form.slots === undefined ? settingsIn(fields, form, standard[action]) : slotSettings(fields, form, standard[action]);
+        preset.state = preset.settings === null ? "damaged" : "ready";
+        preset.note = preset.settings === null ? qsTr("This preset is damaged and cannot be used.") : "";
+    }
+    return preset;
+}
+
+/** A name as it is stored: without blanks around it, accents in one writing. */
+export function storedName(text) {
+    return text.trim().normalize("NFC");
+}
+
+function sameName(a, b) {
+    return storedName(a).toLowerCase() === storedName(b).toLowerCase();
+}
+
+/** What is wrong with a name, in a sentence; "" if nothing is. `taken` are the names of all presets of every action. */
+export function nameProblem(text, taken) {
+    const name = storedName(text);
+    if (name === "") {
+        return qsTr("Enter a name.");
+    }
+    if (name.indexOf("'") >= 0) {
+        return qsTr("A name cannot have a straight apostrophe (') in it. A curved one (\u2019) is fine.");
+    }
+    if (name.indexOf("|") >= 0) {
+        return qsTr("A name cannot have a bar (|) in it.");
+    }
+    // All that is left to be written as a code: control characters, and half a character.
+    if (encoded(name.replace(/%/g, "")).indexOf("%") >= 0) {
+        return qsTr("A name cannot have line breaks or control characters in it.");
+    }
+    if (name.length > LONGEST_NAME) {
+        return fill(qsTr("A name can have up to %1 characters."), LONGEST_NAME);
+    }
+    const other = taken.find((known) => sameName(known, name));
+    return other === undefined ? "" : fill(qsTr("There is a preset named %1 already."), other);
+}
+
+// What two names have in common that are one.
+function keyOf(name) {
+    return storedName(name).toLowerCase();
+}
+
+/** Names that are taken, and the free ones nearest to others. Thousands are no matter. */
+export class TakenNames {
+    constructor(names) {
+        this.taken = emptyTable();
+        this.next = emptyTable();
+        names.forEach((name) => this.take(name));
+    }
+
+    take(name) {
+        this.taken[keyOf(name)] = true;
+    }
+
+    /** The name with the lowest number behind it that makes it free: "Web", "Web 2" ... A long name loses its end for it. */
+    free(text) {
+        const name = storedName(text);
+        if (!this.taken[keyOf(name)]) {
+            return name;
+        }
+        const key = keyOf(name);
+        let number = this.next[key] || 2;
+        let candidate = numbered(name, number);
+        while (this.taken[keyOf(candidate)]) {
+            number += 1;
+            candidate = numbered(name, number);
+        }
+        this.next[key] = number;
+        return candidate;
+    }
+}
+
+// "Web", 2 gives "Web 2", with no more characters than a name may have, and none of them cut in two.
+function numbered(name, number) {
+    const ending = " " + number;
+    let kept = name.slice(0, LONGEST_NAME - ending.length);
+    if (kept.length < name.length && isPair(name, kept.length - 1)) {
+        kept = kept.slice(0, -1);
+    }
+    return kept + ending;
+}
+
+/** The name with the lowest number behind it that makes it free. */
+export function freeName(text, taken) {
+    return new TakenNames(taken).free(text);
+}
+
+/** The text of an exported file with these rows, as they stand, of whatever form. */
+export function fileText(rows) {
+    return JSON.stringify({ format: FILE_MARK, version: 1, presets: rows }, null, 1) + "\n";
+}
+
+function isRow(row) {
+    return Array.isArray(row) && row.length === FIELDS && row.every((value) => typeof value === "string" && !/['|\u0000]/.test(value));
+}
+
+/** What a file holds: {rows, problem}; problem is a sentence where it is no file of presets, or holds some that are none. */
+export function rowsOfFile(text) {
+    let content = null;
+    try {
+        content = JSON.parse(text);
+    } catch (error) {
+        content = null;
+    }
+    if (content === null || typeof content !== "object" || content.format !== FILE_MARK || !Array.isArray(content.presets)) {
+        return { rows: [], problem: qsTr("This file holds no presets.") };
+    }
+    if (content.version !== 1) {
+        return { rows: [], problem: qsTr("This file was made by a newer Quorlin.") };
+    }
+    const rows = content.presets.filter((row) => isRow(row) && nameProblem(row[0], []) === "");
+    const lost = content.presets.length - rows.length;
+    return { rows: rows, problem: lost === 0 ? "" : fill(qsTr("%1 of %2 presets in this file cannot be used."), lost, content.presets.length) };
+}

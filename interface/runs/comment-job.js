@@ -1,0 +1,70 @@
+// A run over the comments of pictures: writes or reverts them one by one, keeps each edit in the log at once, and sums up.
+// Services used: files (through log-file the log).
+
+import { files } from "quorlin/files";
+import { shell } from "quorlin/shell";
+import { editRow, editsOf } from "./comment-run.js";
+import { guard } from "../lib/guard.js";
+import { appendRows, newRunName, trimRows } from "./log-file.js";
+import { count } from "../lib/wording.js";
+
+export class CommentJob {
+    constructor() {
+        this.job = shell.job();
+    }
+
+    get running() {
+        return this.job.running;
+    }
+
+    cancel() {
+        this.job.cancel();
+    }
+
+    /**
+     * Carries out a generator of comment-run; one at a time.
+     *
+     * @param action  how the log calls it
+     * @param onStep  called with {tried, done} after each picture
+     * @param onEnd   called with {tried, done, first: the first problem, problem: of the run as a whole, cancelled, edits: that can be
+     *                reverted}
+     */
+    start(generator, action, onStep, onEnd) {
+        const work = { run: newRunName(), pagesRun: newRunName(), action: action, tried: 0, done: 0, first: "", problem: "", cancelled: false, edits: [] };
+        this.job.start(generator, guard("comments.step", (result) => { this.take(work, result); onStep(work); }),
+                       guard("comments.end", (how, value) => {
+            work.cancelled = how === "cancelled";
+            work.edits.reverse();
+            work.problem = (how === "failed" ? String(value) : "") || work.problem || trimRows(files);
+            onEnd(work);
+        }));
+    }
+
+    // An edit that is in the file is in the log, whatever happens to this program after it.
+    take(work, result) {
+        work.tried += 1;
+        work.done += result.status === "OK" ? 1 : 0;
+        work.first = work.first || (result.status === "OK" ? "" : result.reason);
+        // What cannot be reverted as a whole stands apart, as a run beside the other.
+        const lostPages = result.pages > 0;
+        const run = lostPages ? work.pagesRun : work.run;
+        const action = lostPages ? qsTr("Write comment, keep the first page only") : work.action;
+        editsOf([result], run).forEach((edit) => work.edits.push(edit));
+        work.problem = work.problem || appendRows(files, [editRow(result, action, new Date().toISOString(), run)]);
+    }
+}
+
+/** What became of a run, as one line; done says how many pictures it changed. */
+export function commentSummary(work, done) {
+    const left = work.tried - work.done;
+    const parts = [done].concat(left > 0 ? [count(left, qsTr("1 problem"), qsTr("%1 problems")), work.first] : [], work.problem ? [work.problem] : []);
+    return (work.cancelled ? qsTr("Stopped:") + " " : "") + parts.join(" · ");
+}
+
+export function commentsWritten(number) {
+    return count(number, qsTr("1 comment written"), qsTr("%1 comments written"));
+}
+
+export function commentsReverted(number) {
+    return count(number, qsTr("1 comment reverted"), qsTr("%1 comments reverted"));
+}

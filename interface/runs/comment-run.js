@@ -1,0 +1,168 @@
+// Writing the user comment into pictures and reverting it, with what the file really says afterwards. Pure but for translation; what
+// reads and writes comments is handed in.
+
+import { splitPath } from "../lib/names.js";
+import { logRow, undoing } from "./report.js";
+import { expand, needsFacts, parse, problems, tokens } from "../lib/tokens.js";
+import { count, fill } from "../lib/wording.js";
+
+// Stands for any picture where there is none yet.
+const MADE_UP = { path: "/IMG_4711.JPG", facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
+                                                       width: 4032, height: 3024, bytes: 2440000 } };
+
+/**
+ * Reads and writes comments with the service files: read(path) => {comment, problem}; write(path, text) => "" or what went wrong;
+ * pagesLost(path) => how many pages a file with several would lose.
+ */
+export function commentsOf(files) {
+    return { read: (path) => files.readComment(path), write: (path, comment) => files.writeComment(path, comment),
+             pagesLost: (path) => files.pagesLostToComment(path), isThere: (path) => files.info(path).exists };
+}
+
+function failed(path, reason, now) {
+    return { path: path, status: "Failed", reason: reason, before: now, after: now };
+}
+
+function skipped(path, reason, now) {
+    return { path: path, status: "Skipped", reason: reason, before: now, after: now };
+}
+
+// So many files with several pages are named.
+const MOST_NAMED = 5;
+
+/** What is wrong with the text of a comment that may have tokens in it, as one sentence; "" if nothing is. */
+export function commentProblem(text) {
+    return problems(text)[0] || "";
+}
+
+/** A function (path, index) => comment for the text of a comment, which may have tokens in it. */
+export function commentMaker(text, files) {
+    const parts = parse(text);
+    const asks = needsFacts(parts);
+    return (path, index) => expand(parts, { path: path, index: index, facts: asks ? files.facts(path) : null }).text;
+}
+
+/** What a text with tokens comes to: {name, comment} for the picture at a path, or for one that is made up where path is "". */
+export function commentExample(text, path, files) {
+    if (path !== "") {
+        return { name: splitPath(path).name, comment: commentMaker(text, files)(path, 0) };
+    }
+    const facts = Object.assign({}, MADE_UP.facts);
+    tokens().forEach((each) => { facts[each.name] = facts[each.name] === undefined ? each.example : facts[each.name]; });
+    return { name: splitPath(MADE_UP.path).name, comment: expand(parse(text), { path: MADE_UP.path, index: 0, facts: facts }).text };
+}
+
+// What is written was checked before it took the old file's place; what can be read back counts beside that, but a file that cannot be
+// read just then is not one without its comment.
+function written(comments, path, before, comment) {
+    const problem = comments.write(path, comment);
+    const after = comments.read(path);
+    if (problem !== "") {
+        return { path: path, status: "Failed", before: before, after: after.problem === "" ? after.comment : before, reason: problem };
+    }
+    const isThere = after.problem !== "" || after.comment === comment;
+    return { path: path, status: isThere ? "OK" : "Failed", before: before, after: after.problem === "" ? after.comment : comment,
+             reason: isThere ? "" : qsTr("The file does not say what was written into it.") };
+}
+
+/** Writes one comment: {path, status, reason, before, after}. A file whose old comment cannot be read keeps it. */
+export function writeComment(comments, path, comment) {
+    const before = comments.read(path);
+    return before.problem === "" ? written(comments, path, before.comment, comment) : failed(path, before.problem, "");
+}
+
+/** What is said of pages that go, or would go. */
+export function pagesGone(pages) {
+    return count(pages, qsTr("1 further page was taken out and does not come back."), qsTr("%1 further pages were taken out and do not come back."));
+}
+
+function pagesInTheWay(pages) {
+    return count(pages, qsTr("It has 1 further page, which would be lost."), qsTr("It has %1 further pages, which would be lost."));
+}
+
+// A file that lost its further pages says how many.
+function writeOne(comments, path, comment, pagesMayGo) {
+    const pages = comments.pagesLost(path);
+    if (pages > 0 && !pagesMayGo) {
+        return skipped(path, pagesInTheWay(pages), "");
+    }
+    const result = writeComment(comments, path, comment);
+    return pages > 0 && result.status === "OK" && comments.pagesLost(path) === 0
+        ? Object.assign(result, { pages: pages, reason: pagesGone(pages) }) : result;
+}
+
+/**
+ * A generator that writes a comment into each file; yields what writeComment() gives, with pages where a file lost its further ones.
+ *
+ * @param pagesMayGo  without it files with several pages are left as they are
+ */
+export function* writing(comments, paths, comment, pagesMayGo) {
+    for (let i = 0; i < paths.length; ++i) {
+        yield writeOne(comments, paths[i], comment(paths[i], i), pagesMayGo);
+    }
+}
+
+// Why an edit is not reverted; null where it can be.
+function obstacle(comments, edit) {
+    if (!comments.isThere(edit.path)) {
+        return failed(edit.path, qsTr("The file is not there any more."), "");
+    }
+    const now = comments.read(edit.path);
+    if (now.problem !== "") {
+        return failed(edit.path, now.problem, "");
+    }
+    if (now.comment === edit.before) {
+        return skipped(edit.path, qsTr("It has its old comment already."), now.comment);
+    }
+    return now.comment === edit.after ? null
+        : skipped(edit.path, fill(qsTr("The comment was changed since and stays: “%1”"), now.comment), now.comment);
+}
+
+/**
+ * A generator that gives pictures their old comments again; yields what writeComment() gives, with undoes, the run of the edit. A
+ * comment that somebody changed since stays.
+ *
+ * @param edits  {path, before, after, run}, in the order in which they are reverted: the newest first
+ */
+export function* reverting(comments, edits) {
+    for (const edit of edits) {
+        const found = obstacle(comments, edit);
+        yield Object.assign(found === null ? writeOne(comments, edit.path, edit.before, false) : found, { undoes: edit.run });
+    }
+}
+
+/**
+ * What files of many pages would lose: {files, pages, words}, words naming the first of them.
+ *
+ * @param paths  of any files
+ */
+export function pagesAtStake(comments, paths) {
+    const found = paths.map((path) => ({ name: splitPath(path).name, pages: comments.pagesLost(path) })).filter((each) => each.pages > 0);
+    const named = found.slice(0, MOST_NAMED).map((each) => fill(qsTr("%1 (%2)"), each.name, each.pages));
+    const rest = found.length - named.length;
+    return { files: found.length, pages: found.reduce((sum, each) => sum + each.pages, 0),
+             words: named.concat(rest > 0 ? [count(rest, qsTr("1 more file"), qsTr("%1 more files"))] : []).join(", ") };
+}
+
+/** The edits among the results of a run that can be reverted, the newest first. */
+export function editsOf(results, run) {
+    return results.filter((result) => result.status === "OK" && result.before !== result.after)
+        .map((result) => ({ path: result.path, before: result.before, after: result.after, run: run })).reverse();
+}
+
+/** What an edit was, as one sentence. */
+export function editWords(before, after) {
+    if (before === "" || after === "") {
+        return before === "" ? fill(qsTr("“%1” was written"), after) : fill(qsTr("“%1” was emptied"), before);
+    }
+    return fill(qsTr("“%1” became “%2”"), before, after);
+}
+
+/** A result as a row of the log, with the old and the new comment. */
+export function editRow(result, action, date, run) {
+    const photo = { name: splitPath(result.path).name, path: result.path };
+    const row = logRow({ status: result.status, reason: result.reason, photo: photo, name: photo.name, path: result.path },
+                       qsTr("Metadata"), action, date, run);
+    const edit = Object.assign(row, { before: result.before, after: result.after });
+    return result.undoes === undefined ? edit : undoing(edit, result.undoes);
+}

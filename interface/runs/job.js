@@ -1,0 +1,139 @@
+// Carries out a plan, one picture after the other. A generator: whoever runs it may stop after any picture, and what is
+// unfinished is then removed. The same runner serves the windows and the command line.
+// Services used: files (info, makeFolder, makeStaging, place, ...), and what the step uses.
+
+import { joinPath, numberedName } from "../lib/names.js";
+
+const MOST_NUMBERS = 10000;
+const MOST_OPEN = 64;
+
+// The folders that a run writes to: made when they are first needed, each with a hidden folder for unfinished files.
+class Workshop {
+    constructor(files) {
+        this.files = files;
+        this.stagings = new Map();
+        this.made = [];
+    }
+
+    /** {staging} or {problem}. */
+    open(folder) {
+        if (this.stagings.has(folder)) {
+            return { staging: this.stagings.get(folder) };
+        }
+        if (!this.files.info(folder).exists) {
+            const problem = this.files.makeFolder(folder);
+            if (problem) {
+                return { problem: problem };
+            }
+            this.made.push(folder);
+        }
+        this.closeOldest();
+        this.files.sweep(folder);
+        const staging = this.files.makeStaging(folder);
+        if (staging === null) {
+            return { problem: qsTr("the folder cannot be written") };
+        }
+        this.stagings.set(folder, staging);
+        return { staging: staging };
+    }
+
+    // Each hidden folder is held open, and a process may not hold many.
+    closeOldest() {
+        if (this.stagings.size >= MOST_OPEN) {
+            const oldest = this.stagings.keys().next().value;
+            this.files.removeStaging(this.stagings.get(oldest));
+            this.stagings.delete(oldest);
+        }
+    }
+
+    close() {
+        for (const staging of this.stagings.values()) {
+            this.files.removeStaging(staging);
+        }
+        // A folder in which nothing came to be is taken away again.
+        for (const folder of this.made) {
+            this.files.removeEmptyFolder(folder);
+        }
+    }
+}
+
+function failed(reason) {
+    return { status: "Failed", reason: reason };
+}
+
+// The name was free when the run was planned. If it was taken since, the rule for taken names holds again.
+function placeResult(from, item, rule, files) {
+    let name = item.name;
+    for (let number = 2; number < MOST_NUMBERS; number += 1) {
+        const answer = files.place(from, joinPath(item.folder, name), item.replaced);
+        if (answer.status === "OK") {
+            return { status: "OK", name: name };
+        }
+        if (answer.status !== "Taken") {
+            return failed(answer.message);
+        }
+        if (rule === "skip") {
+            return { status: "Skipped", reason: qsTr("a file of this name is there") };
+        }
+        name = numberedName(item.name, number);
+    }
+    return failed(qsTr("no free name was found"));
+}
+
+function makeOne(item, step, settings, services, workshop) {
+    if (item.status !== "ready") {
+        return { status: item.status, reason: item.reason };
+    }
+    const place = workshop.open(item.folder);
+    if (place.problem) {
+        return failed(place.problem);
+    }
+    const made = step.run(item.photo, Object.assign({}, settings, { prefix: place.staging }), services);
+    if (made.status !== "OK") {
+        return { status: made.status, reason: made.reason };
+    }
+    const bytes = services.files.info(made.outputs[0]).bytes;
+    const placed = placeResult(made.outputs[0], item, settings.output.ifTaken, services.files);
+    if (placed.status !== "OK") {
+        return placed;
+    }
+    return { status: "OK", reason: "", name: placed.name, path: joinPath(item.folder, placed.name), folder: item.folder,
+             bytes: bytes, width: made.width, height: made.height };
+}
+
+// A step that throws has met a mistake of ours; the other pictures are none the worse for it.
+function finalResult(item, step, settings, services, workshop) {
+    const started = Date.now();
+    let result;
+    try {
+        result = makeOne(item, step, settings, services, workshop);
+    } catch (error) {
+        result = failed(String(error.message || error));
+    }
+    result.photo = item.photo;
+    result.ms = Date.now() - started;
+    return result;
+}
+
+/**
+ * A generator that carries out the items of a plan. Before each picture it yields {kind: "start", index, item}, after it
+ * {kind: "end", index, item, result}; exactly one end per picture. Returns the list of all results.
+ *
+ * A result has status "OK", "Failed", "Not Supported" or "Skipped", reason, photo, ms, and if OK name, path, folder, bytes,
+ * width, height. Stopping it (return) removes what is unfinished.
+ */
+export function* runItems(items, step, settings, services) {
+    const workshop = new Workshop(services.files);
+    const results = [];
+    try {
+        for (let index = 0; index < items.length; index += 1) {
+            yield { kind: "start", index: index, item: items[index] };
+            const result = finalResult(items[index], step, settings, services, workshop);
+            results.push(result);
+            yield { kind: "end", index: index, item: items[index], result: result };
+        }
+    } finally {
+        workshop.close();
+    }
+    return results;
+}

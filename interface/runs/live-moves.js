@@ -1,0 +1,113 @@
+// What a run that moves files would do, in the list. Services used: those of the step, moves (plan).
+
+import { itemOf, planMoves, shownName } from "./move-plan.js";
+import { stateOf } from "./move-words.js";
+import { splitPath } from "../lib/names.js";
+import { LivePlan } from "./live-plan.js";
+
+// A plan is made in slices of rows, so that the window answers while ten thousand of them are shown.
+const ROWS_A_SLICE = 40;
+const SETTLE_MS = 15;
+const TELL_MS = 400;
+
+/** Shows the state of one row of a plan; returns "ready", "same", "along" or "attention". */
+export function showRow(list, id, plan, i, paths) {
+    const row = plan.rows[i];
+    const item = itemOf(plan, i);
+    const state = stateOf(row, item, row.goesWith >= 0 ? splitPath(paths[row.goesWith]).name : "");
+    list.setPlan(id, shownName(row, item), "");
+    list.setStatus(id, state.kind, state.text, state.detail);
+    return state.state;
+}
+
+/** A generator that plans and shows the plan. It yields between slices, and returns the plan with its states. */
+export function* showPlan(list, ids, paths, step, settings, services, isFinal) {
+    const planning = planMoves(paths, step, settings, services);
+    let part = planning.next();
+    while (!part.done) {
+        const named = part.value;
+        for (let i = named.from; i < named.to; i += 1) {
+            if (!isFinal(ids[i])) {
+                list.setPlan(ids[i], shownName(named.rows[i], null) || splitPath(named.rows[i].to).name, "");
+            }
+        }
+        yield named.to;
+        part = planning.next();
+    }
+    const plan = part.value;
+    plan.states = [];
+    for (let i = 0; i < plan.rows.length; i += 1) {
+        plan.states.push(isFinal(ids[i]) ? null : showRow(list, ids[i], plan, i, paths));
+        if (i % ROWS_A_SLICE === ROWS_A_SLICE - 1) {
+            yield plan.rows.length;
+        }
+    }
+    return plan;
+}
+
+/** {ready, attention, same, along}: how many rows are in which state, and how many files go along with those that are ready. */
+export function countStates(plan) {
+    const sum = { ready: 0, attention: 0, same: 0, along: 0 };
+    plan.states.forEach((state, i) => {
+        if (state !== null && state !== "along") {
+            sum[state] += 1;
+        }
+        if (state === "ready") {
+            sum.along += plan.rows[i].along.length;
+        }
+    });
+    return sum;
+}
+
+export class LiveMoves extends LivePlan {
+    constructor(window, planned) {
+        super(window, planned);
+        this.settleMs = SETTLE_MS;
+    }
+
+    nothing() {
+        return { ready: 0, attention: 0, same: 0, along: 0 };
+    }
+
+    work(ids, settings) {
+        this.toldMs = Date.now() + TELL_MS;
+        // The engine loses a generator that is returned by the call that makes it.
+        const planning = this.planAll(ids, settings);
+        return planning;
+    }
+
+    // The pane may have something to show beside the list.
+    * planAll(ids, settings) {
+        const window = this.window;
+        const plan = yield* showPlan(window.pictures, ids, window.pictures.paths(), window.action.step, settings, window.services,
+                                     (id) => this.isFinal(id));
+        if (window.pane.showPlan !== undefined) {
+            yield* window.pane.showPlan(plan, ids);
+        }
+        return plan;
+    }
+
+    // Where files have to be looked into it takes a while, and the window says how far it is.
+    take(named) {
+        const now = Date.now();
+        if (now - this.toldMs >= TELL_MS && named < this.ids.length) {
+            this.toldMs = now;
+            this.planned({ named: named, all: this.ids.length });
+        }
+    }
+
+    ended(plan, summary) {
+        Object.assign(summary, countStates(plan));
+        if (this.window.pane.planned !== undefined) {
+            this.window.pane.planned(plan);
+        }
+    }
+
+    // Names that no plan stands behind are not left standing.
+    refused() {
+        this.ids.filter((id) => !this.isFinal(id)).forEach((id) => {
+            this.window.pictures.setPlan(id, "", "");
+            this.window.pictures.setStatus(id, "none", "", "");
+        });
+    }
+}

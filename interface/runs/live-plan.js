@@ -1,0 +1,92 @@
+// Shows in the list what a run with the settings as they are would do. It is worked out from the event loop, whenever
+// things have settled, by the same plan that a run carries out; the classes above say what that plan is.
+
+import { guard } from "../lib/guard.js";
+import { emptyTable } from "../lib/names.js";
+import { shell } from "quorlin/shell";
+
+export class LivePlan {
+    /** @param window  the main window's parts; planned(summary) is called when the whole list was planned */
+    constructor(window, planned) {
+        this.window = window;
+        this.planned = planned;
+        this.job = shell.job();
+        this.finished = emptyTable();
+        this.ids = [];
+        this.next = 0;
+        this.settleMs = 180;
+        this.makeTimer();
+    }
+
+    // Not in the constructor: an arrow there does not know `this` in the classes above.
+    makeTimer() {
+        this.timer = shell.timer(guard("plan", () => this.start()));
+    }
+
+    /** The summary of a plan of nothing. */
+    nothing() {
+        return { ready: 0 };
+    }
+
+    /** A generator that plans; take() gets what it yields. */
+    work() {
+        throw new Error("A plan must say how it is made.");
+    }
+
+    take() {
+        return undefined;
+    }
+
+    /** Called with what the generator returned. */
+    ended() {
+        return undefined;
+    }
+
+    /** Plans anew when things have settled. */
+    refresh() {
+        this.job.cancel();
+        this.timer.start(this.settleMs);
+    }
+
+    stop() {
+        this.timer.stop();
+        this.job.cancel();
+    }
+
+    /** Rows that show what a run made of them keep that until the settings change. */
+    keepFinal(id) {
+        this.finished[id] = true;
+    }
+
+    forgetFinal() {
+        this.finished = emptyTable();
+    }
+
+    isFinal(id) {
+        return this.finished[id] === true;
+    }
+
+    start() {
+        const window = this.window;
+        const summary = this.nothing();
+        this.ids = window.pictures.ids();
+        this.next = 0;
+        if (window.action.step.validate(window.settings).length > 0) {
+            this.refused();
+            this.planned(summary);
+            return;
+        }
+        const settings = JSON.parse(JSON.stringify(window.settings));
+        this.job.start(this.work(this.ids, settings), guard("plan.item", (part) => this.take(part, summary)), guard("plan.end", (how, value) => {
+            if (how === "done") {
+                this.ended(value, summary);
+                this.planned(summary);
+            }
+        }));
+    }
+
+    /** Called where nothing can be planned with the settings as they are. */
+    refused() {
+        return undefined;
+    }
+}

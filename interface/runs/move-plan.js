@@ -1,0 +1,190 @@
+// The plan of a run that moves files: the step says for every row of the list which path it wishes for, the engine says
+// which of the wishes can be had, and both are put together here. Pure; the engine is handed in.
+
+import { splitPath } from "../lib/names.js";
+
+// So many wishes are handed to the engine at once, and it works for so long, before the window gets its turn.
+const AT_ONCE = 100;
+const WORK_MS = 5;
+
+const NONE = Object.freeze([]);
+
+/**
+ * What a step's rows() says of one row; see row() for the standard values.
+ *
+ *   to       the path that is wished for, or "" where there is none: then status and reason say why
+ *   kind     "move", "copy" or "link"
+ *   number   give it a number where the path is taken
+ *   skips    staying where the path is taken is what the user chose
+ *   isLeft   having no wish is what the user chose
+ *   caution  what stands in for a thing that is missing, in words: shown as the status of a row that is ready
+ *   notes    what else is to be known, for the tool tip
+ *   along    [{from, to}]: files that go with this one; if one of them cannot, this one stays too
+ *   goesWith the index of the row that takes this one along, or -1; then it has no wish of its own
+ *   shown    what the column of new names shows; the name of `to` where it is ""
+ */
+export function row(changes) {
+    const made = Object.assign({ to: "", kind: "move", number: false, skips: false, isLeft: false, caution: "", notes: NONE, along: NONE, goesWith: -1,
+                                 shown: "", status: "", reason: "" }, changes);
+    if (made.along.length === 0) {
+        made.along = NONE;
+    }
+    return made;
+}
+
+// Tells the engine the wishes of all rows that are not left out. {ofRow, count}: ofRow is where the wish of a row stands, and those
+// behind it go along.
+function* tellWishes(name, paths, rows, leftOut, moves, part) {
+    const ofRow = [];
+    let count = 0;
+    let told = [];
+    for (let i = 0; i < rows.length; i += 1) {
+        const row = rows[i];
+        const isAsked = row.to !== "" && leftOut[i] === undefined;
+        ofRow.push(isAsked ? count : -1);
+        if (isAsked) {
+            told.push({ kind: row.kind, from: paths[i], to: row.to, number: row.number, leader: -1 });
+            row.along.forEach((other) => told.push({ kind: row.kind, from: other.from, to: other.to, number: row.number, leader: ofRow[i] }));
+            count += 1 + row.along.length;
+        }
+        if (told.length >= AT_ONCE || i === rows.length - 1) {
+            moves.addWishes(name, told);
+            told = [];
+            yield part;
+        }
+    }
+    return { ofRow: ofRow, count: count };
+}
+
+// Has the engine plan once: {paths, rows, items, ofRow, leftOut}. An item is null where a wish is ready and gets what it asked for.
+function* plannedOnce(paths, rows, leftOut, moves, part) {
+    const name = moves.beginPlan();
+    try {
+        const told = yield* tellWishes(name, paths, rows, leftOut, moves, part);
+        while (!moves.workOut(name, WORK_MS)) {
+            yield part;
+        }
+        const items = [];
+        while (items.length < told.count) {
+            moves.planned(name, items.length, Math.min(told.count, items.length + AT_ONCE)).forEach((item) => items.push(item));
+            yield part;
+        }
+        return { paths: paths, rows: rows, items: items, ofRow: told.ofRow, leftOut: leftOut };
+    } finally {
+        moves.dropPlan(name);
+    }
+}
+
+function isReady(item) {
+    return item === null || item.status === "ready";
+}
+
+// A file is not parted from those that go with it: the first of its companions that cannot go, or null.
+function stayingCompanion(items, first, count) {
+    for (let i = first; i < first + count; i += 1) {
+        if (items[i] !== null && items[i].status === "refused" && items[i].code !== "leader") {
+            return items[i];
+        }
+    }
+    return null;
+}
+
+// Leaves out the rows whose companions cannot go along; returns how many were found.
+function leaveOutParted(plan) {
+    let found = 0;
+    plan.rows.forEach((row, i) => {
+        const at = plan.ofRow[i];
+        const item = at >= 0 && row.along.length > 0 && isReady(plan.items[at]) ? stayingCompanion(plan.items, at + 1, row.along.length) : null;
+        if (item !== null) {
+            plan.leftOut[i] = { status: "refused", code: "along", other: item.other, to: row.to, why: item.code };
+            found += 1;
+        }
+    });
+    return found;
+}
+
+// How often the rest is planned anew without those whose companions cannot go along.
+const MOST_ROUNDS = 5;
+
+// Settles the wishes of rows, in parts; see planMoves().
+function* settled(paths, rows, moves) {
+    const leftOut = [];
+    const part = { rows: rows, from: rows.length, to: rows.length };
+    let plan = null;
+    let found = 1;
+    const anyAlong = rows.some((row) => row.along.length > 0);
+    // Those that the last round finds are left out too, only without a plan made anew.
+    for (let round = 0; round < MOST_ROUNDS && found > 0; round += 1) {
+        plan = yield* plannedOnce(paths, rows, leftOut, moves, part);
+        found = anyAlong ? leaveOutParted(plan) : 0;
+    }
+    return plan;
+}
+
+/** What the engine says of a row: an item, or null where the row has no wish. */
+export function itemOf(plan, i) {
+    if (plan.leftOut[i] !== undefined) {
+        return plan.leftOut[i];
+    }
+    const at = plan.ofRow[i];
+    return at < 0 ? null : plan.items[at] || { status: "ready", code: "", other: "", to: plan.rows[i].to };
+}
+
+/** True if the file of a row is to be carried out. */
+export function isReadyRow(plan, i) {
+    return plan.ofRow[i] >= 0 && plan.leftOut[i] === undefined && isReady(plan.items[plan.ofRow[i]]);
+}
+
+// The items of one row; first is what the first of them is among all.
+function readyOfRow(plan, i, first) {
+    const row = plan.rows[i];
+    const at = plan.ofRow[i];
+    const ready = [];
+    if (at < 0 || plan.leftOut[i] !== undefined) {
+        return ready;
+    }
+    const hasLeader = isReady(plan.items[at]);
+    if (hasLeader) {
+        ready.push({ kind: row.kind, from: plan.paths[i], to: itemOf(plan, i).to, row: i, along: false, leader: -1 });
+    }
+    row.along.forEach((other, k) => {
+        const item = plan.items[at + 1 + k];
+        if (isReady(item)) {
+            ready.push({ kind: row.kind, from: other.from, to: item === null ? other.to : item.to, row: i, along: true, leader: hasLeader ? first : -1 });
+        }
+    });
+    return ready;
+}
+
+/**
+ * A generator that returns the items that are to be carried out, with the row each belongs to and whether it goes along with that
+ * row's own file, which is then its leader, by its index among the items; -1 for none.
+ */
+export function* readyItems(plan) {
+    const ready = [];
+    for (let i = 0; i < plan.rows.length; i += 1) {
+        readyOfRow(plan, i, ready.length).forEach((item) => ready.push(item));
+        if (i % AT_ONCE === AT_ONCE - 1) {
+            yield plan.rows.length;
+        }
+    }
+    return ready;
+}
+
+/** What the column of new names shows. */
+export function shownName(row, item) {
+    return row.shown || (item === null ? "" : splitPath(item.to || row.to).name);
+}
+
+/**
+ * A generator that plans. The step's rows(paths, settings, services) is a generator too: it yields {rows, from, to} as the
+ * rows from..to-1 are known, which is handed on, and returns all of them.
+ *
+ * Returns {paths, rows, items (of the wishes, null for one that is ready and gets what it asked for), ofRow (index of a row's wish,
+ * or -1), leftOut}. Nothing is touched.
+ */
+export function* planMoves(paths, step, settings, services) {
+    const rows = yield* step.rows(paths, settings, services);
+    const plan = yield* settled(paths, rows, services.moves);
+    return plan;
+}

@@ -1,0 +1,391 @@
+// A run that moves files through the move engine: plan anew, carry out one after the other or only show, and undo.
+// Services used: those of the step, moves.
+
+import { guard } from "../lib/guard.js";
+import { isReadyRow, itemOf, planMoves, readyItems } from "./move-plan.js";
+import { refusalText } from "./move-words.js";
+import { splitPath } from "../lib/names.js";
+import { clockText, Progress } from "./progress.js";
+import { logRow, undoing } from "./report.js";
+import { retryRows } from "./retry.js";
+import { DiskNeeds, roomText } from "./room.js";
+import { undoAction } from "./undo-run.js";
+import { count, fill, statusKind, statusText } from "../lib/wording.js";
+import { showPlan } from "./live-moves.js";
+import { BaseRun } from "./run-base.js";
+import { shell } from "quorlin/shell";
+
+// The window is told at most this often.
+const TELL_MS = 100;
+const ROWS_A_SLICE = 200;
+
+function problemsText(number) {
+    return count(number, qsTr("1 problem"), qsTr("%1 problems"));
+}
+
+// Carries out what was begun; whatever happens the engine is told the end.
+function* carriedOut(moves, run) {
+    let problem = "";
+    try {
+        let result = moves.next(run);
+        while (result !== null) {
+            yield result;
+            result = moves.next(run);
+        }
+    } finally {
+        problem = moves.end(run);
+    }
+    return problem;
+}
+
+export class MoveRun extends BaseRun {
+    constructor(window, changed) {
+        super(window, changed);
+        this.last = null;
+    }
+
+    reset(ids) {
+        super.reset(ids);
+        this.again = [];
+        this.wished = null;
+    }
+
+    // The pane may want to know when a run begins and ends.
+    tellPane(deed) {
+        const pane = this.window.pane;
+        if (pane !== null && pane[deed] !== undefined) {
+            pane[deed]();
+        }
+    }
+
+    start() {
+        const window = this.window;
+        this.tellPane("starting");
+        this.startPlanning(window.pictures.ids());
+        this.title = window.action.title();
+        this.undoes = "";
+        this.takenBack = null;
+        this.toldMs = 0;
+        this.paths = window.pictures.paths();
+        const work = this.plan();
+        this.job.start(work, () => undefined, guard("moves.planEnd", (how, plan) => this.planEnded(how, plan)));
+        this.changed();
+    }
+
+    * plan() {
+        const window = this.window;
+        const plan = yield* showPlan(window.pictures, this.ids, this.paths, window.action.step, this.settings, window.services, () => false);
+        plan.ready = yield* readyItems(plan);
+        plan.needs = new DiskNeeds((folder) => window.services.files.space(folder));
+        for (let i = 0; i < plan.rows.length; i += 1) {
+            if (plan.rows[i].bytes > 0 && isReadyRow(plan, i)) {
+                plan.needs.add(plan, i);
+            }
+            if (i % ROWS_A_SLICE === ROWS_A_SLICE - 1) {
+                yield i;
+            }
+        }
+        return plan;
+    }
+
+    // More than is free is copied only if somebody insists: the engine stops by itself at what finds no room.
+    mayFill(disks) {
+        const files = this.window.services.files;
+        const problem = roomText(disks, (bytes) => files.byteText(bytes)).problem;
+        if (problem === "") {
+            return true;
+        }
+        const answer = shell.ask({
+            title: qsTr("Too little room"), text: problem, detail: qsTr("Files that find no room stay where they are."),
+            buttons: [qsTr("Start Anyway"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
+        });
+        return answer.button === 0;
+    }
+
+    /** Of the rows whose files could not be carried out. */
+    failedIds() {
+        return this.again.map((row) => this.ids[row.of]);
+    }
+
+    /** Only what failed once more, under the names that were planned for it: a counter does not begin again. */
+    retry() {
+        const again = this.again.filter((row) => this.window.pictures.photo(this.ids[row.of]) !== null);
+        const others = this.ids.filter((id) => again.every((row) => this.ids[row.of] !== id));
+        this.tellPane("starting");
+        this.startPlanning(this.ids);
+        others.forEach((id) => this.window.livePlan.keepFinal(id));
+        this.undoes = "";
+        this.leftOut = 0;
+        this.job.start(this.planAgain(again), () => undefined, guard("moves.retryEnd", (how, plan) => this.plannedAgain(how, plan, again)));
+        this.changed();
+    }
+
+    * planAgain(again) {
+        const rows = again.map((row) => row.wish);
+        const step = { rows: function* () { return rows; } };
+        const plan = yield* planMoves(again.map((row) => row.from), step, this.settings, this.window.services);
+        plan.ready = yield* readyItems(plan);
+        return plan;
+    }
+
+    plannedAgain(how, plan, again) {
+        if (how !== "done") {
+            this.again = again;
+            this.finish(how === "failed" ? String(plan) : qsTr("Cancelled before the first file. Nothing was moved."));
+            return;
+        }
+        this.wished = [];
+        again.forEach((row) => { this.wished[row.of] = row.wish; });
+        this.items = plan.ready.map((item) => Object.assign({}, item, { row: again[item.row].of, along: item.along || again[item.row].isAlong }));
+        this.startMoving();
+        again.forEach((row, i) => {
+            if (!isReadyRow(plan, i)) {
+                this.noteFailed({ kind: row.wish.kind, from: row.from, to: row.wish.to, row: row.of, along: row.isAlong },
+                                { status: "Failed", reason: refusalText(itemOf(plan, i)), path: "" });
+            }
+        });
+        if (this.items.length > 0) {
+            this.begin();
+        } else {
+            this.runEnded("done", "");
+        }
+    }
+
+    planEnded(how, plan) {
+        if (how !== "done") {
+            this.finish(how === "failed" ? String(plan) : qsTr("Cancelled before the first file. Nothing was moved."));
+            return;
+        }
+        this.items = plan.ready;
+        this.leftOut = plan.states.filter((state) => state === "attention").length;
+        if (this.settings.simulation) {
+            this.endSimulation(plan);
+        } else if (this.items.length === 0) {
+            this.finish(qsTr("There is nothing to do."));
+        } else if (this.mayFill(plan.needs.disks())) {
+            this.wished = plan.rows;
+            this.startMoving();
+            this.begin();
+        } else {
+            this.finish(qsTr("Cancelled. Nothing was moved."));
+        }
+    }
+
+    endSimulation(plan) {
+        const ready = plan.states.filter((state) => state === "ready").length;
+        const parts = [fill(qsTr("Simulation: %1"), this.window.action.deed(ready, this.settings))];
+        if (this.leftOut > 0) {
+            parts.push(fill(qsTr("%1 left out"), this.leftOut));
+        }
+        this.finish(parts.concat([qsTr("nothing was moved")]).join(" · "));
+    }
+
+    begin() {
+        const moves = this.window.services.moves;
+        const begun = moves.begin({ title: this.title, items: this.items.map((item) => ({ kind: item.kind, from: item.from, to: item.to, leader: item.leader })) });
+        if (begun.problem) {
+            this.finish(begun.problem);
+        } else {
+            this.carryOut(begun.run);
+        }
+    }
+
+    startMoving() {
+        this.done = [];
+        this.moved = 0;
+        this.unfinished = [];
+    }
+
+    carryOut(run) {
+        this.id = run;
+        this.phase = "running";
+        this.progress = new Progress(this.items.map(() => 1));
+        this.steppedMs = Date.now();
+        this.job.start(carriedOut(this.window.services.moves, run), guard("moves.step", (result) => this.takeResult(result)),
+                       guard("moves.end", (how, value) => this.runEnded(how, value)));
+        this.showProgress();
+    }
+
+    takeResult(result) {
+        const now = Date.now();
+        const item = this.items[result.index];
+        const told = { status: result.status, reason: result.message, path: result.path || item.to };
+        this.done[result.index] = true;
+        // What goes along with a file that failed waits for it.
+        if (result.status === "Failed" || result.code === "leader") {
+            this.noteFailed(item, told);
+        } else {
+            this.noteResult(item, told);
+        }
+        this.progress.add(1, now - this.steppedMs);
+        this.steppedMs = now;
+        if (now - this.toldMs >= TELL_MS) {
+            this.toldMs = now;
+            this.showProgress();
+        }
+    }
+
+    noteFailed(item, result) {
+        this.unfinished.push(item);
+        this.noteResult(item, result);
+    }
+
+    noteResult(item, result) {
+        const window = this.window;
+        const isDone = result.status === "OK";
+        const parts = { status: result.status, reason: result.reason, photo: { name: splitPath(item.from).name, path: item.from },
+                        name: isDone ? splitPath(result.path).name : "", path: isDone ? result.path : "" };
+        this.noteRow(parts);
+        this.moved += isDone && !item.along ? 1 : 0;
+        const id = this.idOf(item);
+        if (id > 0 && !item.along) {
+            window.livePlan.keepFinal(id);
+            window.pictures.setStatus(id, statusKind(result.status), isDone ? qsTr("done") : statusText(result.status, result.reason), "");
+            if (isDone && item.kind === "move") {
+                window.pictures.setPath(id, result.path);
+            }
+        }
+        if (isDone && item.kind === "move" && item.along) {
+            this.followed(item.from, result.path);
+        }
+    }
+
+    noteRow(parts) {
+        const back = this.takenBack;
+        const action = back === null ? this.window.action.step.describe(this.settings) : undoAction(back.undoes !== "");
+        const row = logRow(parts, this.title, action, new Date().toISOString());
+        this.note(parts, back === null ? row : undoing(row, back.id));
+    }
+
+    // The row that an item belongs to; in an undo, rows are found by where their files are.
+    idOf(item) {
+        return item.row === undefined ? this.rowAt[item.from] || 0 : this.ids[item.row];
+    }
+
+    // A file that went along may have a row of its own.
+    followed(from, to) {
+        if (this.rowAt === undefined || this.rowAt === null) {
+            this.rowAt = this.rowsByPath();
+        }
+        const id = this.rowAt[from];
+        if (id !== undefined) {
+            this.window.livePlan.keepFinal(id);
+            this.window.pictures.setPath(id, to);
+            this.window.pictures.setStatus(id, "good", qsTr("done"), "");
+        }
+    }
+
+    rowsByPath() {
+        const table = Object.create(null);
+        const ids = this.window.pictures.ids();
+        this.window.pictures.paths().forEach((path, i) => { table[path] = ids[i]; });
+        return table;
+    }
+
+    runEnded(how, value) {
+        const reason = how === "failed" ? String(value) : qsTr("cancelled before its turn");
+        this.items.forEach((item, i) => {
+            if (!this.done[i]) {
+                this.noteResult(item, { status: "Skipped", reason: reason, path: "" });
+            }
+        });
+        const told = [how === "done" && value ? value : "", this.keepLog()].filter((text) => text);
+        this.last = null;
+        this.rowAt = null;
+        this.again = this.undoes === "" && this.wished !== null ? retryRows(this.unfinished, this.wished) : [];
+        this.wished = null;
+        this.window.planned = {};
+        // Facts are known by path, and other files are at these paths now.
+        this.window.services.facts.forget();
+        this.finish([this.summaryText(how)].concat(told).join(" · "));
+        this.tellPane("runEnded");
+        this.window.reloadPreview();
+    }
+
+    summaryText(how) {
+        const action = this.window.action;
+        const done = this.undoes === "" ? action.done(this.moved, this.settings) : action.undone(this.moved, this.settings);
+        const parts = [done + ", " + problemsText(this.problems)];
+        if (this.undoes === "" && this.leftOut > 0) {
+            parts.push(fill(qsTr("%1 left out"), this.leftOut));
+        }
+        parts.push(clockText(Date.now() - this.startedMs));
+        return (how === "done" ? "" : qsTr("Cancelled:") + " ") + parts.join(" · ");
+    }
+
+    // The newest run of all, with whether it can be undone; read once after each run.
+    lastRun() {
+        if (this.last === null) {
+            const moves = this.window.services.moves;
+            const newest = moves.runs()[0];
+            this.last = newest === undefined || newest.state === "open" || newest.done === 0
+                ? { run: null } : { run: newest, can: moves.undoable(newest.id).can };
+        }
+        return this.last;
+    }
+
+    /** Forgets what it knows of the newest run, because another one was made elsewhere. */
+    look() {
+        this.last = null;
+    }
+
+    undoOffer() {
+        const last = this.isBusy() ? { run: null } : this.lastRun();
+        if (last.run === null || !last.can || (this.phase === "ended" && last.run.id !== this.id)) {
+            return null;
+        }
+        return { id: last.run.id, text: last.run.undoes ? qsTr("Redo") : qsTr("Undo") };
+    }
+
+    idleText() {
+        const last = this.lastRun();
+        if (last.run === null || !last.can) {
+            return "";
+        }
+        const run = last.run;
+        const action = this.window.action;
+        const words = run.title !== action.title() ? fill(qsTr("%1, %2"), run.title, count(run.done, qsTr("1 file"), qsTr("%1 files")))
+            : run.undoes ? action.undone(run.done, null) : action.done(run.done, null);
+        return fill(qsTr("Last run: %1, %2"), words, problemsText(Math.max(0, run.count - run.done)));
+    }
+
+    /** Takes back the newest run, or does again what was taken back. */
+    undo() {
+        const offer = this.undoOffer();
+        if (offer === null) {
+            return;
+        }
+        const moves = this.window.services.moves;
+        const newest = this.lastRun().run;
+        this.startPlanning(this.window.pictures.ids());
+        this.title = newest.title;
+        this.undoes = newest.undoes ? "" : offer.id;
+        this.takenBack = newest;
+        this.toldMs = 0;
+        this.leftOut = 0;
+        const begun = moves.undo(offer.id);
+        if (begun.problem) {
+            this.finish(begun.problem);
+            return;
+        }
+        this.rowAt = this.rowsByPath();
+        this.startMoving();
+        this.items = begun.items.map((item) => ({ kind: "move", from: item.from, to: item.to, row: undefined, along: false }));
+        begun.problems.forEach((problem) => this.noteUnable(problem));
+        this.carryOut(begun.run);
+    }
+
+    // A file that cannot go back stays where it is.
+    noteUnable(problem) {
+        this.noteRow({ status: "Failed", reason: problem.reason, photo: { name: splitPath(problem.path).name, path: problem.path } });
+    }
+
+    /** Takes the summary away; the rows then show what the settings would make of them now. */
+    dismiss() {
+        if (this.phase === "ended") {
+            super.dismiss();
+            this.window.livePlan.forgetFinal();
+            this.window.livePlan.refresh();
+        }
+    }
+}

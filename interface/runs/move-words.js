@@ -1,0 +1,100 @@
+// What the plan of a run that moves files says, in words. Pure but for translation; no service is used.
+
+import { splitPath } from "../lib/names.js";
+import { fill } from "../lib/wording.js";
+
+function nameOf(path) {
+    return path ? splitPath(path).name : "";
+}
+
+const REFUSED = {
+    empty: () => qsTr("name is empty"),
+    illegal: () => qsTr("a name cannot have “/” in it or be “.” or “..”"),
+    long: () => qsTr("name is too long"),
+    gone: () => qsTr("the file is not there any more"),
+    twice: (other) => fill(qsTr("%1 would get this name too"), other),
+    taken: (other) => (other ? fill(qsTr("name is taken by %1, which is not in this list or stays"), other)
+                             : qsTr("name is taken by a file not in this list")),
+    "case": (other) => fill(qsTr("differs only by case or accents from %1"), other),
+    inside: () => qsTr("a folder cannot go into itself"),
+    locked: () => qsTr("the folder cannot be written"),
+    leader: () => qsTr("the file that it goes with stays"),
+    along: (other) => (other ? fill(qsTr("a file that goes along cannot: %1 is in its place"), other)
+                             : qsTr("a file that goes along cannot")),
+};
+
+/** Why a wish cannot be had. */
+export function refusalText(item) {
+    const words = REFUSED[item.code];
+    const other = nameOf(item.other);
+    // The name itself is what is taken: saying it again would say nothing.
+    return words === undefined ? qsTr("cannot be done") : words(item.code === "taken" && other === nameOf(item.to) ? "" : other);
+}
+
+function companions(row) {
+    const seen = [];
+    row.along.forEach((other) => {
+        const ending = "." + splitPath(other.from).extension.toLowerCase();
+        if (seen.indexOf(ending) < 0) {
+            seen.push(ending);
+        }
+    });
+    return seen.join(", ");
+}
+
+function readyText(row, item) {
+    if (item.code === "aside") {
+        return fill(qsTr("changes places with %1: done in two steps"), nameOf(item.other));
+    }
+    if (item.code === "case" && row.along.length > 0) {
+        return fill(qsTr("ready, with its %1"), companions(row));
+    }
+    const words = { numbered: qsTr("ready, numbered because the name is taken"), disk: qsTr("ready, onto another disk"),
+                    "case": qsTr("ready, only the case changes") };
+    return words[item.code] || (row.along.length > 0 ? fill(qsTr("ready, with its %1"), companions(row)) : qsTr("ready"));
+}
+
+function ready(row, item) {
+    const isPlainMove = item.code === "" || item.code === "case";
+    const notes = row.notes.concat(row.along.length > 0 && !isPlainMove ? [fill(qsTr("Goes with its %1."), companions(row))] : []);
+    if (row.caution !== "") {
+        const text = readyText(row, item);
+        return { state: "ready", kind: "caution", text: row.caution, detail: [row.caution, text].concat(notes).join("\n") };
+    }
+    const isPlain = isPlainMove && row.notes.length === 0;
+    const text = isPlainMove && row.notes.length > 0 ? fill(qsTr("ready, but %1"), row.notes[0]) : readyText(row, item);
+    return { state: "ready", kind: isPlain ? "good" : item.code === "aside" ? "waiting" : "caution", text: text,
+             detail: [text].concat(notes).join("\n") };
+}
+
+const TAKEN = ["taken", "twice", "case"];
+
+// The rule for names that are taken is to leave such files where they are.
+function skipped(item) {
+    const text = item.code === "twice" ? fill(qsTr("stays: %1 gets this name"), nameOf(item.other)) : qsTr("stays: a file of this name is there");
+    return { state: "same", kind: "caution", text: text, detail: fill(qsTr("In the way: %1"), item.other) };
+}
+
+/**
+ * The state of a row: {state: "ready", "same", "along" or "attention", kind, text, detail}; kind is that of the list's
+ * statuses, detail is for the tool tip. leaderName: of the row that takes this one along.
+ */
+export function stateOf(row, item, leaderName) {
+    if (row.goesWith >= 0) {
+        return { state: "along", kind: "waiting", text: fill(qsTr("goes along with %1"), leaderName), detail: "" };
+    }
+    if (item === null) {
+        return { state: row.isLeft ? "same" : "attention", kind: row.isLeft ? "caution" : "bad", text: row.reason, detail: row.notes.join("\n") };
+    }
+    if (item.status === "same") {
+        return { state: "same", kind: "none", text: qsTr("stays as it is"), detail: row.notes.join("\n") };
+    }
+    if (item.status === "refused" && row.skips && TAKEN.indexOf(item.code) >= 0) {
+        return skipped(item);
+    }
+    if (item.status === "refused") {
+        const text = refusalText(item);
+        return { state: "attention", kind: "bad", text: text, detail: [text].concat(row.notes).join("\n") };
+    }
+    return ready(row, item);
+}

@@ -1,0 +1,51 @@
+// The manner of actions that move files through the move engine, and can be undone.
+
+import { count, fill } from "../lib/wording.js";
+import { LiveMoves } from "./live-moves.js";
+import { MoveRun } from "./move-run.js";
+
+function deedText(window) {
+    const ready = window.planned.ready;
+    if (!ready) {
+        return window.action.title();
+    }
+    const deed = window.action.deed(ready, window.settings);
+    return window.settings.simulation ? fill(qsTr("Simulate: %1"), deed) : deed;
+}
+
+function deedNote(window) {
+    const planned = window.planned;
+    if (planned.named !== undefined) {
+        return fill(qsTr("Working out names: %1 of %2…"), planned.named, planned.all);
+    }
+    // After a run there is no plan until something changes.
+    if (window.pictures.count === 0 || planned.ready === undefined) {
+        return "";
+    }
+    const parts = [fill(qsTr("%1 ready"), planned.ready)];
+    if (planned.attention > 0) {
+        parts.push(count(planned.attention, qsTr("1 needs attention"), qsTr("%1 need attention")));
+    }
+    if (planned.same > 0) {
+        parts.push(count(planned.same, qsTr("1 stays as it is"), qsTr("%1 stay as they are")));
+    }
+    if (planned.along > 0) {
+        parts.push(count(planned.along, qsTr("1 goes along"), qsTr("%1 go along")));
+    }
+    return parts.concat(planned.ready > 0 ? [qsTr("can be undone")] : []).join(" · ");
+}
+
+export const MOVES = {
+    makeRun: (window, changed) => new MoveRun(window, changed),
+    makePlan: (window, planned) => new LiveMoves(window, planned),
+    output: false,
+    preview: false,
+    pane: true,
+    columns: ["thumbnail", "name", "newName", "status"],
+    headings: () => ({ name: qsTr("Now") }),
+    stressed: true,
+    deedText: deedText,
+    deedNote: deedNote,
+    isReady: (window) => window.pictures.count > 0 && window.planned.ready > 0,
+    replaces: () => false,
+};

@@ -1,0 +1,159 @@
+// The plan of a run: for every picture what will be written and under which name, before anything is written.
+// Services used: files (names, info, identity ...), ask (optional). The step says what it would write; names are settled here.
+
+import { emptyTable, FolderNames, joinPath, splitPath } from "../lib/names.js";
+
+/** The folder that results of a picture go to; see the output settings of panes. */
+export function targetFolder(photo, destination) {
+    const source = splitPath(photo.path).folder;
+    if (destination.kind === "folder") {
+        return destination.path;
+    }
+    return destination.kind === "beside" ? joinPath(source, destination.name) : source;
+}
+
+/** True for a name that a folder beside others can have: "." and ".." are not beside, and a path leads anywhere. */
+export function isPlainName(name) {
+    return name !== "" && name !== "." && name !== ".." && name.indexOf("/") < 0 && name.indexOf("\0") < 0;
+}
+
+/** True for a destination that says one folder for each picture. */
+export function isSound(destination) {
+    if (destination.kind === "folder") {
+        return destination.path.startsWith("/");
+    }
+    return destination.kind !== "beside" || isPlainName(destination.name);
+}
+
+function foldersOf(services) {
+    const known = emptyTable();
+    const keys = emptyTable();
+    return (folder) => {
+        // One folder may be reached by several paths, and its names are those of one folder all the same.
+        if (keys[folder] === undefined) {
+            keys[folder] = services.files.folderIdentity(folder);
+        }
+        const key = keys[folder];
+        if (known[key] === undefined) {
+            known[key] = new FolderNames(services.files.names(folder));
+        }
+        return known[key];
+    };
+}
+
+// Which files are still to be read, by what they are and not by how their paths are spelled. Made when it is first needed;
+// most runs replace nothing.
+function ownersOf(paths, services) {
+    let table = null;
+    return (identity) => {
+        if (table === null) {
+            table = services.files.owners(paths);
+        }
+        return table[identity] || [];
+    };
+}
+
+// What of a file may be replaced by a result of this picture: {identity, isOriginal}; null if nothing may. A picture that is
+// still to be read may not, and neither may a folder.
+function replaceable(path, photo, owners, services) {
+    const identity = services.files.identity(path);
+    const readers = owners(identity);
+    if (identity === "" || readers.some((reader) => reader !== photo.path) || services.files.info(path).isFolder) {
+        return null;
+    }
+    return { identity: identity, isOriginal: readers.length > 0 };
+}
+
+function askRule(item, existing, memory, services) {
+    if (memory.forAll) {
+        return memory.forAll;
+    }
+    if (!services.ask) {
+        item.asks = true;
+        return "number";
+    }
+    const answer = services.ask({ photo: item.photo, folder: item.folder, name: existing });
+    if (answer.forAll) {
+        memory.forAll = answer.rule;
+    }
+    return answer.rule;
+}
+
+function skip(item, reason) {
+    item.status = "Skipped";
+    item.reason = reason;
+}
+
+function replaceOrNumber(item, names, existing, context) {
+    const old = existing === null
+        ? null : replaceable(joinPath(item.folder, existing), item.photo, context.owners, context.services);
+    if (old === null) {
+        item.name = names.giveNumbered(item.name);
+        item.numbered = true;
+        return;
+    }
+    item.name = names.give(existing);
+    item.replaces = true;
+    item.replaced = old.identity;
+    item.replacesOriginal = old.isOriginal;
+}
+
+function settleName(item, names, rule, context) {
+    const wanted = item.name;
+    if (names.isFree(wanted)) {
+        names.give(wanted);
+        return;
+    }
+    const given = names.isGiven(wanted);
+    const existing = names.onDiskAs(wanted);
+    let chosen = rule;
+    if (rule === "ask" && !given) {
+        chosen = askRule(item, existing, context.memory, context.services);
+    }
+    if (chosen === "cancel") {
+        context.cancelled = true;
+        skip(item, qsTr("cancelled"));
+    } else if (chosen === "skip") {
+        skip(item, given ? qsTr("another picture of this run gets this name") : qsTr("a file of this name is there"));
+    } else {
+        replaceOrNumber(item, names, chosen === "replace" && !given ? existing : null, context);
+    }
+}
+
+function itemFor(photo, planned, settings) {
+    const item = {
+        photo: photo, status: planned.status, reason: planned.reason || "", notes: planned.notes || [],
+        folder: targetFolder(photo, settings.output.destination), name: planned.name || "", path: "",
+        width: planned.width || 0, height: planned.height || 0,
+        replaces: false, replaced: "", replacesOriginal: false, numbered: false, asks: false,
+    };
+    if (item.status === "ready" && !isSound(settings.output.destination)) {
+        item.status = "Failed";
+        item.reason = qsTr("the folder to save to has no name of its own");
+    }
+    return item;
+}
+
+/**
+ * A generator that plans a run. It yields each item as it is planned and returns {items, cancelled}.
+ *
+ * photoOf(i) gives the i-th of `count` pictures as plain data; paths are all input paths. An item has status "ready" or
+ * a final one with its reason, and then folder, name, path, width, height, replaces, replaced (the identity of the file that
+ * may be replaced), replacesOriginal, numbered, notes.
+ */
+export function* planRun(count, photoOf, paths, step, settings, services) {
+    const namesIn = foldersOf(services);
+    const context = { owners: ownersOf(paths, services), memory: { forAll: null }, services: services, cancelled: false };
+    const items = [];
+    for (let i = 0; i < count && !context.cancelled; i += 1) {
+        const photo = photoOf(i);
+        const item = itemFor(photo, step.plan(photo, settings, services), settings);
+        if (item.status === "ready") {
+            settleName(item, namesIn(item.folder), settings.output.ifTaken, context);
+            item.path = joinPath(item.folder, item.name);
+        }
+        items.push(item);
+        yield item;
+    }
+    return { items: items, cancelled: context.cancelled };
+}

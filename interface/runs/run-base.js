@@ -1,0 +1,146 @@
+// What all runs have in common: phases, pause, cancel, the summary and the report. What a run plans and carries out is the
+// affair of the classes above it. Services used: files (writeText, through log-file the log).
+
+import { files } from "quorlin/files";
+import { shell } from "quorlin/shell";
+import { keepRows } from "./log-file.js";
+import { clockText, Progress } from "./progress.js";
+import { toCsv } from "./report.js";
+import { count, fill } from "../lib/wording.js";
+
+function problemsText(number) {
+    return number === 0 ? qsTr("no problems") : count(number, qsTr("1 problem"), qsTr("%1 problems"));
+}
+
+export class BaseRun {
+    /** @param window  the main window's parts; changed() is called when buttons and texts should be looked at again */
+    constructor(window, changed) {
+        this.window = window;
+        this.changed = changed;
+        this.job = shell.job();
+        this.phase = "idle";
+        this.reset([]);
+    }
+
+    reset(ids) {
+        this.ids = ids;
+        this.items = [];
+        this.results = [];
+        this.problems = 0;
+        this.rows = [];
+        this.paused = false;
+        this.text = "";
+        this.detail = "";
+        this.progress = new Progress([]);
+        this.startedMs = Date.now();
+        // Rows of the log say to which run they belong.
+        this.id = new Date(this.startedMs).toISOString();
+    }
+
+    /** Where all rows of the list begin again: planning, with the settings as they are. */
+    startPlanning(ids) {
+        const window = this.window;
+        window.livePlan.stop();
+        window.livePlan.forgetFinal();
+        window.said = "";
+        window.pictures.setFocus();
+        this.reset(ids);
+        this.settings = JSON.parse(JSON.stringify(window.settings));
+        this.phase = "planning";
+        this.text = qsTr("Planning…");
+        window.pictures.busy = true;
+        window.pictures.problemsOnly = false;
+    }
+
+    isBusy() {
+        return this.phase === "planning" || this.phase === "running";
+    }
+
+    hasProblems() {
+        return this.problems > 0;
+    }
+
+    /** Notes the final result of one file and its row of the log. */
+    note(result, row) {
+        this.results.push(result);
+        this.problems += result.status === "Failed" || result.status === "Not Supported" ? 1 : 0;
+        this.rows.push(row);
+    }
+
+    failedIds() {
+        return this.ids.filter((id, i) => i < this.results.length && this.results[i].status === "Failed");
+    }
+
+    /** Folders with results, to be opened from the summary. */
+    folders() {
+        return [];
+    }
+
+    /** What can be undone now: {id, text} or null; text stands on the button. */
+    undoOffer() {
+        return null;
+    }
+
+    /** Called when the action is shown, for runs may have been made elsewhere. */
+    look() {
+        return undefined;
+    }
+
+    /** What to say while nothing runs; "" for nothing. */
+    idleText() {
+        return "";
+    }
+
+    showProgress() {
+        const left = this.progress.leftMs();
+        const time = this.paused ? qsTr("paused") : left === null ? "" : fill(qsTr("%1 left"), clockText(left));
+        this.text = fill(qsTr("%1 of %2"), this.progress.done, this.progress.count);
+        this.detail = (time ? [time] : []).concat([problemsText(this.problems)]).join(" · ");
+        this.changed();
+    }
+
+    /** Writes the rows of the run into the log; returns what to say if that failed. */
+    keepLog() {
+        this.rows.forEach((row) => { row.run = this.id; });
+        return keepRows(files, this.rows);
+    }
+
+    finish(text) {
+        this.phase = "ended";
+        this.text = text;
+        this.detail = "";
+        this.window.pictures.busy = false;
+        this.changed();
+    }
+
+    togglePause() {
+        this.paused = !this.paused;
+        if (this.paused) {
+            this.job.pause();
+        } else {
+            this.job.resume();
+        }
+        this.showProgress();
+    }
+
+    cancel() {
+        this.job.cancel();
+    }
+
+    /** Takes the summary away; it stays in the log. */
+    dismiss() {
+        if (this.phase === "ended") {
+            this.phase = "idle";
+            this.detail = "";
+        }
+    }
+
+    /** Writes the rows of this run where the user wants them; returns what to say about it. */
+    saveReport() {
+        const path = shell.chooseNewFile(qsTr("Save the report"), "", qsTr("Report") + ".csv", "csv");
+        if (path === null) {
+            return "";
+        }
+        return files.writeText(path, toCsv(this.rows)) || fill(qsTr("Report saved as %1"), path);
+    }
+}

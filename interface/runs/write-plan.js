@@ -1,0 +1,51 @@
+// What a run that writes pictures would write: new names, new sizes, what is replaced and what is left out.
+// Services used: those of the step, and files.
+
+import { planRun } from "./plan.js";
+import { fill, pixels, statusKind, statusText } from "../lib/wording.js";
+import { LivePlan } from "./live-plan.js";
+
+/** Shows an item of a plan in its row; `simulated` says so in words. */
+export function showItem(list, id, item, simulated) {
+    if (item.status !== "ready") {
+        list.setPlan(id, "–", "–");
+        list.setStatus(id, statusKind(item.status), statusText(item.status, item.reason), "");
+        return;
+    }
+    list.setPlan(id, item.name, pixels(item));
+    const detail = item.notes.join("\n");
+    if (item.asks) {
+        list.setStatus(id, "planned", qsTr("name is taken: will ask"), detail);
+    } else if (item.replaces) {
+        const text = item.replacesOriginal ? qsTr("replaces original") : fill(qsTr("replaces %1"), item.name);
+        list.setStatus(id, "caution", text, detail);
+    } else {
+        list.setStatus(id, simulated ? "planned" : "waiting", simulated ? qsTr("would be written") : qsTr("ready"), detail);
+    }
+}
+
+export class WritePlan extends LivePlan {
+    nothing() {
+        return { ready: 0, originals: 0, replaced: 0 };
+    }
+
+    work(ids, settings) {
+        const window = this.window;
+        // The engine loses a generator that is returned by the call that makes it.
+        const planning = planRun(ids.length, (i) => window.pictures.photo(ids[i]), window.pictures.paths(), window.action.step,
+                                 settings, window.services);
+        return planning;
+    }
+
+    take(item, summary) {
+        const id = this.ids[this.next];
+        this.next += 1;
+        if (this.isFinal(id)) {
+            return;
+        }
+        summary.ready += item.status === "ready" ? 1 : 0;
+        summary.originals += item.replacesOriginal ? 1 : 0;
+        summary.replaced += item.replaces ? 1 : 0;
+        showItem(this.window.pictures, id, item, false);
+    }
+}

@@ -1,0 +1,161 @@
+// A run that writes pictures: plan, carry out or only show, and what came of it. Services used: those of the step, files.
+
+import { files } from "quorlin/files";
+import { shell } from "quorlin/shell";
+import { guard } from "../lib/guard.js";
+import { runItems } from "./job.js";
+import { emptyTable } from "../lib/names.js";
+import { planRun } from "./plan.js";
+import { clockText, costOf, Progress } from "./progress.js";
+import { logRow, summaryOf } from "./report.js";
+import { count, fill, pixels, statusKind, statusText } from "../lib/wording.js";
+import { BaseRun } from "./run-base.js";
+import { showItem } from "./write-plan.js";
+
+function askAboutName(question) {
+    const answer = shell.ask({
+        title: qsTr("Name taken"),
+        text: fill(qsTr("There is a file “%1” in the folder already."), question.name),
+        detail: question.folder,
+        buttons: [qsTr("Number"), qsTr("Replace"), qsTr("Skip"), qsTr("Cancel Run")],
+        initial: 0,
+        escape: 3,
+        check: qsTr("Do this for all"),
+    });
+    return { rule: ["number", "replace", "skip", "cancel"][answer.button], forAll: answer.checked };
+}
+
+// The button said so already; it is said again, with the number, before originals are gone.
+function mayReplace(items) {
+    const originals = items.filter((item) => item.replacesOriginal).length;
+    if (originals === 0) {
+        return true;
+    }
+    const answer = shell.ask({
+        title: qsTr("Replace originals"),
+        text: count(originals, qsTr("1 original will be replaced by its result."), qsTr("%1 originals will be replaced by their results.")),
+        detail: qsTr("What is in them now cannot be brought back."),
+        buttons: [qsTr("Replace"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
+    });
+    return answer.button === 0;
+}
+
+export class WriteRun extends BaseRun {
+    folders() {
+        return summaryOf(this.results).folders;
+    }
+
+    /** Plans, then carries out or shows the plan of all pictures in the list. */
+    start() {
+        this.begin(this.window.pictures.ids());
+    }
+
+    retry() {
+        const failed = this.failedIds().filter((id) => this.window.pictures.photo(id) !== null);
+        failed.forEach((id) => this.window.pictures.forget(id));
+        this.begin(failed);
+    }
+
+    begin(ids) {
+        const window = this.window;
+        this.startPlanning(ids);
+        window.services.unitCache = emptyTable();
+        this.simulated = this.settings.output.simulation;
+        const work = planRun(ids.length, (i) => window.pictures.photo(ids[i]), window.pictures.paths(), window.action.step,
+                             this.settings, Object.assign({}, window.services, { ask: askAboutName }));
+        this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
+                       guard("run.planEnd", (how, value) => this.planEnded(how, value)));
+        this.changed();
+    }
+
+    takeItem(item) {
+        this.items.push(item);
+        showItem(this.window.pictures, this.ids[this.items.length - 1], item, this.simulated);
+    }
+
+    planEnded(how, value) {
+        if (how !== "done" || value.cancelled) {
+            this.finish(qsTr("Cancelled before the first picture. Nothing was written."));
+        } else if (this.simulated) {
+            this.endSimulation();
+        } else if (mayReplace(this.items)) {
+            this.carryOut();
+        } else {
+            this.finish(qsTr("Cancelled. Nothing was written."));
+        }
+    }
+
+    endSimulation() {
+        const ready = this.items.filter((item) => item.status === "ready").length;
+        const parts = [count(ready, qsTr("Simulation: 1 picture would be written"), qsTr("Simulation: %1 pictures would be written"))];
+        if (ready < this.items.length) {
+            parts.push(fill(qsTr("%1 left out"), this.items.length - ready));
+        }
+        this.finish(parts.concat([qsTr("nothing was written")]).join(" · "));
+    }
+
+    carryOut() {
+        this.phase = "running";
+        this.progress = new Progress(this.items.map((item) => costOf(item.photo)));
+        this.items.forEach((item, i) => {
+            if (item.status === "ready") {
+                this.window.pictures.setStatus(this.ids[i], "waiting", qsTr("waiting"), "");
+            }
+        });
+        this.job.start(runItems(this.items, this.window.action.step, this.settings, this.window.services),
+                       guard("run.step", (event) => this.stepDone(event)),
+                       guard("run.end", (how, value) => this.runEnded(how, value)));
+        this.showProgress();
+    }
+
+    stepDone(event) {
+        const id = this.ids[event.index];
+        if (event.kind === "end") {
+            this.takeResult(id, event.item, event.result);
+            this.showProgress();
+        } else if (event.item.status === "ready") {
+            this.window.pictures.setStatus(id, "busy", qsTr("working…"), "");
+            this.window.pictures.reveal(id);
+        }
+    }
+
+    takeResult(id, item, result) {
+        const list = this.window.pictures;
+        const action = this.window.action;
+        this.note(result, logRow(result, action.title(), action.step.describe(this.settings), new Date().toISOString()));
+        this.progress.add(costOf(item.photo), result.ms);
+        this.window.livePlan.keepFinal(id);
+        if (result.status === "OK") {
+            list.setPlan(id, result.name, pixels(result));
+        }
+        list.setStatus(id, statusKind(result.status), statusText(result.status, result.reason), item.notes.join("\n"));
+        if (result.status === "OK" && item.replacesOriginal) {
+            list.forget(id);
+        }
+    }
+
+    // Each picture has one final state, also those whose turn never came.
+    runEnded(how, value) {
+        const reason = how === "failed" ? String(value) : qsTr("cancelled before its turn");
+        for (let i = this.results.length; i < this.items.length; i += 1) {
+            const photo = this.items[i].photo;
+            this.takeResult(this.ids[i], this.items[i], { status: "Skipped", reason: reason, photo: photo, ms: 0 });
+        }
+        const problem = this.keepLog();
+        this.finish(this.summaryText(how) + (problem ? " · " + problem : ""));
+        if (this.items.some((item) => item.replacesOriginal)) {
+            this.window.reloadPreview();
+        }
+    }
+
+    summaryText(how) {
+        const sum = summaryOf(this.results);
+        const parts = [count(sum.done, qsTr("1 picture done"), qsTr("%1 pictures done"))];
+        const add = (number, text) => number > 0 && parts.push(fill(text, number));
+        add(sum.failed, qsTr("%1 failed"));
+        add(sum.unsupported, qsTr("%1 not supported"));
+        add(sum.skipped, qsTr("%1 skipped"));
+        parts.push(fill(qsTr("%1 written"), files.byteText(sum.bytes)), clockText(Date.now() - this.startedMs));
+        return (how === "done" ? "" : qsTr("Cancelled:") + " ") + parts.join(" · ");
+    }
+}

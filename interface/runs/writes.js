@@ -1,0 +1,45 @@
+// The manner of actions that write pictures through the output block.
+
+import { count, fill } from "../lib/wording.js";
+import { WritePlan } from "./write-plan.js";
+import { WriteRun } from "./write-run.js";
+
+function deedText(window) {
+    const total = window.pictures.count;
+    const originals = window.planned.originals;
+    if (total === 0) {
+        return window.action.title();
+    }
+    if (window.settings.output.simulation) {
+        return fill(qsTr("Simulate: %1"), window.action.deed(total));
+    }
+    return originals > 0
+        ? window.action.deed(total) + ", " + count(originals, qsTr("Replace 1 Original"), qsTr("Replace %1 Originals"))
+        : window.action.deed(total);
+}
+
+function deedNote(window) {
+    const planned = window.planned;
+    if (window.pictures.count === 0 || window.settings.output.simulation) {
+        return "";
+    }
+    if (planned.originals > 0) {
+        return qsTr("Originals are replaced by their results.");
+    }
+    return planned.replaced > 0 ? count(planned.replaced, qsTr("1 file is replaced."), qsTr("%1 files are replaced.")) : "";
+}
+
+export const WRITES = {
+    makeRun: (window, changed) => new WriteRun(window, changed),
+    makePlan: (window, planned) => new WritePlan(window, planned),
+    output: true,
+    preview: true,
+    pane: true,
+    columns: ["thumbnail", "name", "pixels", "size", "type", "newName", "newSize", "status"],
+    headings: () => ({}),
+    stressed: false,
+    deedText: deedText,
+    deedNote: deedNote,
+    isReady: (window) => window.pictures.count > 0,
+    replaces: (window) => window.planned.originals > 0 && !window.settings.output.simulation,
+};

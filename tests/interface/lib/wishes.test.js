@@ -1,0 +1,30 @@
+// What the preferences keep, with a stand-in for the user's defaults.
+
+import { equal, finish, test } from "../check.js";
+import { firstSettings, keepWish, wishes } from "../../../interface/lib/wishes.js";
+
+function makeDefaults(text) {
+    const kept = { Preferences: text };
+    return { get: (key) => kept[key] === undefined ? null : kept[key], set: (key, value) => { kept[key] = value; } };
+}
+
+const USUAL = { ifTaken: "number", logRows: 100000 };
+
+for (const text of [undefined, "", "no JSON", "[]", "{\"ifTaken\":\"burn\",\"logRows\":-5}", "{\"ifTaken\":7,\"logRows\":\"x\"}"]) {
+    test("isAsUsualFor " + text, () => equal(wishes(makeDefaults(text)), USUAL));
+}
+
+test("keepsOneWishAndLeavesTheOther", () => {
+    const defaults = makeDefaults("{\"ifTaken\":\"skip\"}");
+    keepWish(defaults, "logRows", 1000);
+    equal(wishes(defaults), { ifTaken: "skip", logRows: 1000 });
+});
+
+test("startsAnActionAsWished", () => {
+    const standard = { a: 1, output: { ifTaken: "number", type: "x" } };
+    equal(firstSettings(makeDefaults("{\"ifTaken\":\"ask\"}"), standard), { a: 1, output: { ifTaken: "ask", type: "x" } });
+    equal(standard.output.ifTaken, "number");
+    equal(firstSettings(makeDefaults("{\"ifTaken\":\"ask\"}"), { a: 1 }), { a: 1 });
+});
+
+finish();

@@ -1,0 +1,308 @@
+import { PresetStore } from "../../../interface/presets/preset-store.js";
+import { rowOf } from "../../../interface/presets/presets.js";
+import { startingPresets, writeStartingPresets } from "../../../interface/presets/starting-presets.js";
+import { defaults as background } from "../../../interface/actions/background/background-step.js";
+import * as backgroundStep from "../../../interface/actions/background/background-step.js";
+import * as convertStep from "../../../interface/actions/convert/convert-step.js";
+import * as cropStep from "../../../interface/actions/crop/crop-step.js";
+import * as resizeStep from "../../../interface/actions/resize/resize-step.js";
+import * as roundStep from "../../../interface/actions/round/round-step.js";
+import * as turnStep from "../../../interface/actions/turn/turn-step.js";
+import { equal, finish, isTrue, test } from "../check.js";
+
+const STEPS = { background: backgroundStep, convert: convertStep, crop: cropStep, resize: resizeStep, round: roundStep, turn: turnStep };
+const STANDARD = {};
+Object.keys(STEPS).forEach((name) => { STANDARD[name] = STEPS[name].defaults; });
+const PATH = "/data/BrelmarkCom/QuorlinPS.sql";
+const COLUMNS = { NameOfPreset: 0, Process: 1, Action: 2 };
+
+function asData(text) {
+    const bytes = new Uint8Array(text.length);
+    for (let i = 0; i < text.length; i += 1) {
+        bytes[i] = text.charCodeAt(i);
+    }
+    return bytes.buffer;
+}
+
+// The file that all services work on: rows with their IDs, and what is the matter with it.
+class FakeFile {
+    constructor() {
+        this.rows = [];
+        this.nextId = 1;
+        this.exists = false;
+        this.unreadable = false;
+        this.withoutTable = false;
+        this.sealed = false;
+        this.text = "SQLite format 3\u0000";
+    }
+
+    add(row) {
+        this.rows.push({ id: String(this.nextId), fields: row });
+        this.nextId += 1;
+    }
+
+    matching(column, value) {
+        return this.rows.filter((row) => (column === "ID" ? row.id : row.fields[COLUMNS[column]]) === value);
+    }
+}
+
+function inconsistency(message) {
+    return Object.defineProperty(new Error(message), "name", { value: "InternalInconsistency" });
+}
+
+// Answers as the service does, its old answers included.
+class FakeDb {
+    constructor(file) {
+        this.file = file;
+        this.myPresetsArray = null;
+    }
+
+    dbFilePath() {
+        return PATH;
+    }
+
+    linkToPresetsDB() {
+        if (this.file.exists) {
+            return;
+        }
+        if (this.file.sealed) {
+            throw inconsistency("Presets Db failed to open.");
+        }
+        this.file.exists = true;
+    }
+
+    fails(table, value) {
+        return !this.file.exists || this.file.unreadable || value.indexOf("'") >= 0 || (table === "Presets" && this.file.withoutTable);
+    }
+
+    checkForActionType(table, column, value) {
+        if (this.fails(table, value)) {
+            return null;
+        }
+        this.myPresetsArray = table === "Presets" ? this.file.matching(column, value).map((row) => row.fields.join("|")) : ["appSys"];
+        return this.myPresetsArray.length > 0 ? this.myPresetsArray : null;
+    }
+
+    hGetBookMarkedFolders(table, columnA, valueA, columnB, valueB) {
+        const found = this.fails(table, valueA) ? [] : this.file.matching(columnA, valueA).filter((row) => row.fields[COLUMNS[columnB]] === valueB);
+        return found.length > 0 ? asData(found[found.length - 1].id) : null;
+    }
+
+    insertSortingPresetToDB01(values) {
+        if (this.file.sealed || this.fails("Presets", values.join("|"))) {
+            throw inconsistency("Error updating table.");
+        }
+        this.file.add(values.slice());
+    }
+
+    removePresetFromDatabase(table, column, value) {
+        if (!this.file.sealed) {
+            const gone = this.file.matching(column, value);
+            this.file.rows = this.file.rows.filter((row) => gone.indexOf(row) < 0);
+        }
+        return "preset not found";
+    }
+}
+
+class FakeDefaults {
+    constructor() {
+        this.kept = {};
+    }
+
+    get(key) {
+        return this.kept[key] === undefined ? null : this.kept[key];
+    }
+
+    set(key, value) {
+        this.kept[key] = value;
+    }
+}
+
+function make(state) {
+    const file = Object.assign(new FakeFile(), state);
+    const files = {
+        info: () => ({ exists: file.exists, writable: file.writable !== false }),
+        readText: () => file.text,
+        setAsideUnusableDatabase: (path) => {
+            if (!file.exists || !file.unusable) {
+                return "";
+            }
+            Object.assign(file, { exists: false, unusable: false, unreadable: false, rows: [] });
+            return path + ".unusable-1";
+        },
+    };
+    return { file: file, store: new PresetStore(() => new FakeDb(file), files, STANDARD) };
+}
+
+function changed(action, changes) {
+    return Object.assign(JSON.parse(JSON.stringify(STANDARD[action])), changes);
+}
+
+test("listsWhatWasSaved", () => {
+    const { store } = make({});
+    equal([store.list("resize"), store.problem], [[], ""]);
+    equal(store.save("resize", "Größe 🙂", changed("resize", { longest: 77 })), "");
+    equal(store.save("crop", "Other", changed("crop", {})), "");
+    const [preset] = store.list("resize");
+    equal([preset.name, preset.settings.longest, preset.fields.length, store.list("resize").length], ["Größe 🙂", 77, 62, 1]);
+    equal(store.names().sort(), ["Größe 🙂", "Other"]);
+});
+
+test("replacesItsOwnPresetOnly", () => {
+    const { file, store } = make({});
+    store.list("resize");
+    file.add(["Web", "Sorting", "ByHand"].concat(Array(59).fill("Loc")));
+    store.save("resize", "Web", changed("resize", { longest: 1 }));
+    store.save("resize", "Web", changed("resize", { longest: 2 }));
+    equal([file.rows.length, file.rows[0].fields[1], store.list("resize")[0].settings.longest], [2, "Sorting", 2]);
+    equal(store.remove("resize", "Web"), "");
+    equal(file.rows.map((row) => row.fields[1]), ["Sorting"]);
+});
+
+test("givesADatabaseThatCanHoldNothingAway", () => {
+    const { file, store } = make({ exists: true, unusable: true, unreadable: true, text: "" });
+    equal([store.list("resize"), store.problem, file.exists], [[], "", true]);
+    isTrue(/QuorlinPS\.sql\.unusable-1/.test(store.notice), store.notice);
+    equal([store.save("resize", "Web", changed("resize", {})), store.list("resize").length], ["", 1]);
+});
+
+test("endsWhatWasCutOffBetweenStoringAndRemoving", () => {
+    const { file, store } = make({});
+    store.list("resize");
+    file.add(["Web", "Sorting", "ByHand"].concat(Array(59).fill("Loc")));
+    [1, 2, 3].forEach((longest) => file.add(rowOf("resize", "Web", changed("resize", { longest: longest }))));
+    file.add(rowOf("crop", "Web", changed("crop", {})));
+    equal(store.list("resize").map((preset) => preset.settings.longest), [3]);
+    equal(file.rows.map((row) => [row.id, row.fields[1]]), [["1", "Sorting"], ["4", "Resize"], ["5", "Crop"]]);
+});
+
+test("bringsInThousandsOfOneName", () => {
+    const { file, store } = make({});
+    store.list("turn");
+    // Looking for a name in the database costs what it costs there, and is nothing of this test.
+    file.matching = (column, value) => column === "NameOfPreset" ? [] : file.rows.filter((row) => row.fields[COLUMNS[column]] === value);
+    const start = Date.now();
+    const done = store.bringIn(Array(3000).fill(rowOf("turn", "Web", changed("turn", {}))));
+    equal([done.names.length, done.names[0], done.names[2999], done.problem], [3000, "Web", "Web 3000", ""]);
+    equal(store.list("turn").length, 3000);
+    isTrue(Date.now() - start < 5000, "took " + (Date.now() - start) + " ms");
+});
+
+test("removesAllCopiesAndShowsTheNewest", () => {
+    const { file, store } = make({});
+    store.list("resize");
+    [1, 2, 3].forEach((longest) => file.add(rowOf("resize", "Web", changed("resize", { longest: longest }))));
+    equal(store.list("resize").map((preset) => preset.settings.longest), [3]);
+    equal([store.remove("resize", "Web"), file.rows.length], ["", 0]);
+});
+
+test("leavesRowsOfAnUnknownOrNewerFormAlone", () => {
+    const { file, store } = make({});
+    store.list("resize");
+    const newer = rowOf("resize", "New", changed("resize", {}));
+    newer[3] = "Quorlin 99";
+    const foreign = rowOf("resize", "Old", changed("resize", {}));
+    foreign[3] = "";
+    file.add(newer);
+    file.add(foreign);
+    equal(store.list("resize").map((preset) => preset.state), ["newer", "unknown"]);
+    equal([store.remove("resize", "New"), store.remove("resize", "Old"), file.rows.length], ["", "", 2]);
+    store.save("resize", "New", changed("resize", {}));
+    equal(file.rows.map((row) => row.fields[3]), ["Quorlin 99", "", "Quorlin 1"]);
+});
+
+test("renamesAndKeepsTheSettings", () => {
+    const { store } = make({});
+    store.list("resize");
+    store.save("resize", "Web", changed("resize", { longest: 5 }));
+    equal(store.rename(store.list("resize")[0], "Größe"), "");
+    equal(store.list("resize").map((preset) => [preset.name, preset.settings.longest]), [["Größe", 5]]);
+});
+
+test("saysWhenAnotherProgramHasThatName", () => {
+    const { file, store } = make({});
+    store.list("resize");
+    file.add(["Mine", "Sorting", "ByHand"].concat(Array(59).fill("Loc")));
+    isTrue(/named Mine already/.test(store.nameProblem(" Mine ", [])));
+    equal(store.nameProblem("Free", []), "");
+});
+
+test("bringsRowsInUnderFreeNames", () => {
+    const { file, store } = make({});
+    store.list("resize");
+    file.add(["Web 2", "Sorting", "ByHand"].concat(Array(59).fill("Loc")));
+    store.save("resize", "Web", changed("resize", {}));
+    const rows = [rowOf("crop", "Web", changed("crop", {})), rowOf("turn", "Free", changed("turn", {}))];
+    equal(store.bringIn(rows), { names: ["Web 3", "Free"], renamed: 1, problem: "" });
+    equal(file.rows.map((row) => row.fields[0]), ["Web 2", "Web", "Web 3", "Free"]);
+});
+
+test("saysWhyPresetsCannotBeRead", () => {
+    const cases = [
+        [{ sealed: true }, /cannot be made/], [{ exists: true, unreadable: true }, /in use by another program, or damaged/],
+        [{ exists: true, unreadable: true, text: "Dear diary" }, /damaged/], [{ exists: true, unreadable: true, text: null }, /cannot be read/],
+        [{ exists: true, withoutTable: true }, /no place for presets/], [{ exists: true, withoutTable: true, text: "" }, /no place for presets/],
+    ];
+    for (const [state, words] of cases) {
+        const { store } = make(state);
+        equal(store.list("resize"), []);
+        isTrue(words.test(store.problem), JSON.stringify(state) + store.problem);
+    }
+});
+
+test("saysWhyAPresetCannotBeWrittenAndKeepsTheOldOne", () => {
+    const { file, store } = make({});
+    store.list("resize");
+    store.save("resize", "Web", changed("resize", { longest: 1 }));
+    file.sealed = true;
+    for (const [writable, words] of [[false, /read-only; nothing was changed/], [true, /in use by another program, or the disk is full/]]) {
+        file.writable = writable;
+        const problems = [store.save("resize", "Web", changed("resize", { longest: 2 })), store.remove("resize", "Web"),
+                          store.rename(store.list("resize")[0], "New"), store.bringIn([rowOf("turn", "t", changed("turn", {}))]).problem];
+        problems.forEach((problem) => isTrue(words.test(problem), problem));
+    }
+    equal([file.rows.length, store.list("resize")[0].settings.longest], [1, 1]);
+});
+
+for (const action of Object.keys(STEPS)) {
+    test("startsWithPresetsThatWork " + action, () => {
+        const list = startingPresets(action, STANDARD[action], "/patterns");
+        isTrue(list.length >= 4);
+        for (const [name, settings] of list) {
+            equal(STEPS[action].validate(settings), [], name);
+            const { store } = make({});
+            store.list(action);
+            equal([store.nameProblem(name, []), store.save(action, name, settings)], ["", ""]);
+            equal(store.list(action)[0].settings, settings, name);
+        }
+    });
+}
+
+test("givesEveryStartingPresetANameOfItsOwn", () => {
+    const names = Object.keys(STEPS).reduce((all, action) => all.concat(startingPresets(action, STANDARD[action], "").map((entry) => entry[0])), []);
+    equal(names.filter((name, i) => names.indexOf(name) !== i), []);
+});
+
+test("writesStartingPresetsOnce", () => {
+    const { file, store } = make({});
+    const defaults = new FakeDefaults();
+    store.list("background");
+    writeStartingPresets("background", background, "/p", store, defaults);
+    const written = file.rows.length;
+    store.remove("background", "Black band");
+    writeStartingPresets("background", background, "/p", store, defaults);
+    equal([written - file.rows.length, store.list("background").some((preset) => preset.name === "Black band")], [1, false]);
+});
+
+test("writesStartingPresetsLaterWhereTheyCannotBeWrittenNow", () => {
+    const { file, store } = make({ exists: true, sealed: true });
+    const defaults = new FakeDefaults();
+    writeStartingPresets("turn", STANDARD.turn, "/p", store, defaults);
+    equal([file.rows.length, defaults.kept], [0, {}]);
+    file.sealed = false;
+    store.save("resize", "Mirrored", changed("resize", {}));
+    writeStartingPresets("turn", STANDARD.turn, "/p", store, defaults);
+    equal(store.list("turn").map((preset) => preset.name), ["A quarter left", "A quarter right", "Upside down"]);
+});
+
+finish();

@@ -1,0 +1,59 @@
+import { FakeFiles } from "../fakes.js";
+import { DiskNeeds, roomProblem, roomText } from "../../../interface/runs/room.js";
+import { equal, finish, test } from "../check.js";
+
+const SPACES = { "/a": { disk: 1, free: 100 }, "/b": { disk: 1, free: 100 }, "/c": { disk: 2, free: 50 }, "/unknown": { disk: -1, free: -1 } };
+
+function space(path) {
+    return SPACES[path.startsWith("/unknown") ? "/unknown" : path.slice(0, 2)];
+}
+
+// Rows that are ready: [base, bytes, kind, code].
+function needs(rows) {
+    const plan = {
+        paths: [], leftOut: [], ofRow: rows.map((row, i) => i), rows: rows.map((row) => ({ base: row[0], bytes: row[1], kind: row[2], to: row[0] + "/x" })),
+        items: rows.map((row) => (row[3] === "" ? null : { status: "ready", code: row[3], other: "", to: row[0] + "/x" })),
+    };
+    const sum = new DiskNeeds(space);
+    rows.forEach((row, i) => sum.add(plan, i));
+    return sum.disks();
+}
+
+const words = (bytes) => bytes + " B";
+
+const ROWS = [
+    [[["/a", 60, "copy", ""], ["/b", 50, "copy", ""]], "The files need 110 B, but only 100 B are free for /a."],
+    [[["/a", 60, "copy", ""], ["/c", 50, "copy", ""]], ""],
+    [[["/a", 60, "copy", ""], ["/c", 51, "copy", "numbered"]], "The files need 51 B, but only 50 B are free for /c."],
+    [[["/a", 900, "move", ""], ["/a", 900, "link", ""]], ""],
+    [[["/c", 900, "move", "disk"]], "The files need 900 B, but only 50 B are free for /c."],
+    [[["/unknown", 900, "copy", ""]], ""],
+    [[], ""],
+];
+
+for (const row of ROWS) {
+    test("tells too little room: " + JSON.stringify(row[0]), () => equal(roomText(needs(row[0]), words).problem, row[1]));
+}
+
+test("tellsWhatIsFreeWhereThereIsRoom", () => {
+    equal(roomText(needs([["/a", 60, "copy", ""]]), words).note, "60 B to be written; 100 B are free");
+    equal(roomText(needs([["/a", 60, "copy", ""], ["/c", 6, "copy", ""]]), words).note, "66 B to be written");
+});
+
+// [path, folder, kind, whether there is room]
+const SINGLE = [
+    ["/a/x", "/b", "copy", false], ["/a/x", "/b", "move", true], ["/a/x", "/c", "move", false], ["/a/x", "/c", "link", true],
+    ["/a/y", "/c", "move", true], ["/a/x", "/unknown", "copy", true],
+];
+
+for (const row of SINGLE) {
+    test("knows whether " + row.slice(0, 3).join(" ") + " finds room", () => {
+        const files = new FakeFiles({ "/a/x": 101, "/a/y": 50 });
+        files.space = space;
+        files.byteText = words;
+        const free = row[1] === "/c" ? 50 : 100;
+        equal(roomProblem(row[0], row[1], row[2], files), row[3] ? "" : "too little room (needs 101 B, " + free + " B are free)");
+    });
+}
+
+finish();
