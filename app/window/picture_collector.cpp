@@ -1,8 +1,8 @@
 #include "app/window/picture_collector.h"
 
 #include "platform/disk/folder_walk.h"
+#include "platform/foundation/natural_order.h"
 
-#include <QCollator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -40,10 +40,8 @@ class Collector
 public:
     explicit Collector(const CollectRule &rule)
         : m_takesAny(rule.extensions.contains(QLatin1String("*"))), m_extensions(lowered(rule.extensions)),
-          m_companions(lowered(rule.companions)), m_listed(lowered(rule.listed))
+          m_companions(lowered(rule.companions)), m_listed(lowered(rule.listed)), m_order(platform::naturalOrder())
     {
-        m_order.setNumericMode(true);
-        m_order.setCaseSensitivity(Qt::CaseInsensitive);
     }
 
     void take(const QString &path);

@@ -3,6 +3,8 @@
 #include "app/window/look/icons.h"
 #include "app/window/look/theme.h"
 
+#include "platform/foundation/natural_order.h"
+
 #include <QKeyEvent>
 #include <QLocale>
 #include <QPainter>
@@ -113,7 +115,7 @@ std::unique_ptr<QTreeWidgetItem> itemFor(const QVariantMap &folder)
 
 } // namespace
 
-FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent)
+FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent), m_order(platform::naturalOrder())
 {
     setItemDelegate(new FolderDelegate(this));
     setColumnCount(1);
@@ -125,10 +127,6 @@ FolderTree::FolderTree(QWidget *parent) : QTreeWidget(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
     setExpandsOnDoubleClick(true);
-    // The order of the C locale is that of the codes: 10 would come before 2.
-    m_order.setLocale(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
-    m_order.setNumericMode(true);
-    m_order.setCaseSensitivity(Qt::CaseInsensitive);
     connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem *item) { rememberOpen(item, true); });
     connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem *item) { rememberOpen(item, false); });
     connect(this, &QTreeWidget::itemSelectionChanged, this, [this] {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/log/log_model.h"
+#include "app/models/log_model.h"
 
 #include <QTableView>
 #include <QVariant>

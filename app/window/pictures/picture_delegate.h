@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/pictures/picture_model.h"
+#include "app/models/picture_model.h"
 
 #include <QAbstractProxyModel>
 #include <QStyledItemDelegate>

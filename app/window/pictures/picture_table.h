@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/pictures/picture_order.h"
+#include "app/models/picture_order.h"
 
 #include <QTableView>
 #include <QTimer>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "app/preview/picture_ahead.h"
+#include "app/preview/preview_deeds.h"
+#include "app/preview/result_estimate.h"
 #include "app/window/preview/crop_frame_editor.h"
-#include "app/window/preview/picture_ahead.h"
-#include "app/window/preview/preview_deeds.h"
-#include "app/window/preview/result_estimate.h"
 #include "platform/graphics/picture.h"
 #include "views/my2ndPhotoView.h"
 #include "views/myMainPhotoView.h"

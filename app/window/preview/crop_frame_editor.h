@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/preview/crop_frame.h"
+#include "app/preview/crop_frame.h"
 
 #include <QImage>
 #include <QWidget>

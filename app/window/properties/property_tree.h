@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/properties/property_words.h"
+#include "app/models/property_words.h"
 
 #include <QTreeWidget>
 #include <QVariant>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/slots/slot_rows.h"
+#include "app/models/slot_rows.h"
 
 #include <QListView>
 #include <QTimer>

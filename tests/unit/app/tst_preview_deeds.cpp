@@ -1,4 +1,4 @@
-#include "app/window/preview/preview_deeds.h"
+#include "app/preview/preview_deeds.h"
 #include "image/overlay.h"
 #include "image/round_corners.h"
 #include "image/turn.h"

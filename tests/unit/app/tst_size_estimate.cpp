@@ -1,4 +1,4 @@
-#include "app/window/preview/size_estimate.h"
+#include "app/preview/size_estimate.h"
 #include "platform/graphics/picture.h"
 #include "platform/imageio/content.h"
 #include "tests/support/expected_pictures.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/preview/preview_deeds.h"
+#include "app/preview/preview_deeds.h"
 
 #include <QObject>
 #include <QTimer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/preview/preview_deeds.h"
+#include "app/preview/preview_deeds.h"
 #include "platform/imageio/image_destination.h"
 
 /** How large a file will be, told from a rendition of the picture with fewer pixels. Nothing here touches a file. */

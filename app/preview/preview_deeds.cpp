@@ -1,4 +1,4 @@
-#include "app/window/preview/preview_deeds.h"
+#include "app/preview/preview_deeds.h"
 
 #include "image/crop.h"
 #include "image/overlay.h"

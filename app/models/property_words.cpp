@@ -1,4 +1,4 @@
-#include "app/window/properties/property_words.h"
+#include "app/models/property_words.h"
 
 #include <QCoreApplication>
 #include <QHash>

@@ -1,4 +1,4 @@
-#include "app/window/preview/size_estimate.h"
+#include "app/preview/size_estimate.h"
 
 #include "platform/graphics/resample.h"
 #include "platform/imageio/content.h"

@@ -1,5 +1,5 @@
+#include "app/models/log_model.h"
 #include "app/window/line_file.h"
-#include "app/window/log/log_model.h"
 #include "tests/support/test_program.h"
 
 #include <QElapsedTimer>

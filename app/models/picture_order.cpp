@@ -1,21 +1,10 @@
-#include "app/window/pictures/picture_order.h"
+#include "app/models/picture_order.h"
 
-#include <QCollator>
+#include "platform/foundation/natural_order.h"
 
 namespace window {
 
 namespace {
-
-const QCollator &naturalOrder()
-{
-    static const QCollator collator = [] {
-        QCollator made;
-        made.setNumericMode(true);
-        made.setCaseSensitivity(Qt::CaseInsensitive);
-        return made;
-    }();
-    return collator;
-}
 
 qint64 area(const PictureRow &row)
 {
@@ -40,7 +29,8 @@ QString textOf(const PictureRow &row, int column)
 
 } // namespace
 
-PictureOrder::PictureOrder(PictureModel &model, QObject *parent) : QSortFilterProxyModel(parent), m_model(model)
+PictureOrder::PictureOrder(PictureModel &model, QObject *parent)
+    : QSortFilterProxyModel(parent), m_model(model), m_order(platform::naturalOrder())
 {
     setDynamicSortFilter(false);
     setSourceModel(&model);
@@ -74,7 +64,7 @@ bool PictureOrder::lessThan(const QModelIndex &left, const QModelIndex &right) c
         return a.bytes < b.bytes;
     if (left.column() == PictureModel::Pixels)
         return area(a) < area(b);
-    return naturalOrder().compare(textOf(a, left.column()), textOf(b, left.column())) < 0;
+    return m_order.compare(textOf(a, left.column()), textOf(b, left.column())) < 0;
 }
 
 bool PictureOrder::filterAcceptsRow(int row, const QModelIndex &) const

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "app/window/pictures/picture_model.h"
+#include "app/models/picture_model.h"
 
+#include <QCollator>
 #include <QSet>
 #include <QSortFilterProxyModel>
 
@@ -20,7 +21,6 @@ public:
     bool problemsOnly() const { return m_problemsOnly; }
     /** Shows the pictures with these ids only; all for none. */
     void setOnly(const std::optional<QSet<int>> &ids);
-    bool showsSome() const { return m_problemsOnly || m_only.has_value(); }
     /** Rows that an action does not work on are not shown. */
     void setInput(const InputRule &rule);
     const InputRule &input() const { return m_input; }
@@ -31,6 +31,7 @@ protected:
 
 private:
     PictureModel &m_model;
+    QCollator m_order;
     InputRule m_input;
     std::optional<QSet<int>> m_only;
     bool m_problemsOnly = false;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window/log/log_entries.h"
+#include "app/models/log_entries.h"
 
 #include <QAbstractTableModel>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "app/window/properties/property_words.h"
+#include "app/models/property_words.h"
 #include "platform/imageio/property_labels.h"
 #include "tests/support/test_program.h"
 

@@ -1,4 +1,4 @@
-#include "app/window/pictures/picture_model.h"
+#include "app/models/picture_model.h"
 
 #include "app/window/formats.h"
 

@@ -1,9 +1,10 @@
-#include "app/window/log/log_model.h"
+#include "app/models/log_model.h"
 
 #include "app/window/look/theme.h"
-#include "platform/file/regular_file.h"
 
-#include <QCollator>
+#include "platform/file/regular_file.h"
+#include "platform/foundation/natural_order.h"
+
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QLocale>
@@ -21,14 +22,6 @@ constexpr int headBytes = 256;
 QString dateText(qint64 time, QLocale::FormatType form)
 {
     return time == 0 ? QString() : QLocale().toString(QDateTime::fromMSecsSinceEpoch(time), form);
-}
-
-QCollator natural()
-{
-    QCollator collator;
-    collator.setNumericMode(true);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    return collator;
 }
 
 /** Sorts places by a key that is worked out once for each. */
@@ -53,7 +46,7 @@ template<typename Key> void sortBy(std::vector<int> &places, Qt::SortOrder order
 /** The place that each text of a pool has among all of them. */
 std::vector<int> ranks(const TextPool &pool)
 {
-    const QCollator collator = natural();
+    const QCollator collator = platform::naturalOrder();
     std::vector<int> numbers(size_t(pool.count()));
     std::iota(numbers.begin(), numbers.end(), 0);
     std::sort(numbers.begin(), numbers.end(),
@@ -273,7 +266,7 @@ void LogModel::order()
     const auto entry = [this](int place) -> const LogEntry & { return m_entries.at(place); };
     const std::vector<int> rank = m_sortColumn == Date ? std::vector<int>() : ranks(m_entries.texts());
     const auto rankOf = [&rank](int text) { return rank[size_t(text)]; };
-    QCollator collator = natural();
+    const QCollator collator = platform::naturalOrder();
     switch (m_sortColumn) {
     case Deed:
         sortBy(m_shown, m_sortOrder,

@@ -1,4 +1,4 @@
-#include "app/window/slots/slot_rows.h"
+#include "app/models/slot_rows.h"
 
 #include <QKeySequence>
 

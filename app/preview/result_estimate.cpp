@@ -1,6 +1,6 @@
-#include "app/window/preview/result_estimate.h"
+#include "app/preview/result_estimate.h"
 
-#include "app/window/preview/size_estimate.h"
+#include "app/preview/size_estimate.h"
 #include "image/output.h"
 #include "platform/file/regular_file.h"
 #include "platform/imageio/content.h"

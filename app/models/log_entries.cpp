@@ -1,4 +1,4 @@
-#include "app/window/log/log_entries.h"
+#include "app/models/log_entries.h"
 
 #include <QDateTime>
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "app/window/preview/crop_frame.h"
+#include "app/preview/crop_frame.h"
 
 #include <QRectF>
 

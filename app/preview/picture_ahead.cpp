@@ -1,4 +1,4 @@
-#include "app/window/preview/picture_ahead.h"
+#include "app/preview/picture_ahead.h"
 
 #include <QFileInfo>
 
