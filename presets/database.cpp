@@ -137,7 +137,7 @@ Prepared Connection::prepare(const Statement &statement) const
     sqlite3_prepare_v2(d->handle, text.constData(), -1, &compiled, &tail);
     d->guard.endCompiling();
     Prepared prepared(compiled);
-    if (hasMore(tail) || !d->guard.sawItsDeed())
+    if (hasMore(tail) || !d->guard.sawItsStatement())
         return Prepared();
     return prepared;
 }

@@ -30,60 +30,61 @@ void Guard::expect(const Statement &statement)
     m_isCompiling = true;
 }
 
-bool Guard::isOnTable(const Deed &deed) const
+bool Guard::isOnTable(const Access &access) const
 {
-    return qstrcmp(deed.database, "main") == 0 && isSameName(QString::fromUtf8(deed.first), m_statement.table);
+    return qstrcmp(access.database, "main") == 0 && isSameName(QString::fromUtf8(access.first), m_statement.table);
 }
 
-bool Guard::allowsReading(const Deed &deed)
+bool Guard::allowsReading(const Access &access)
 {
-    if (!isOnTable(deed))
+    if (!isOnTable(access))
         return false;
-    m_columnsRead.insert(QString::fromUtf8(deed.second));
+    m_columnsRead.insert(QString::fromUtf8(access.second));
     return true;
 }
 
-bool Guard::isTheVerb(const Deed &deed) const
+bool Guard::isTheVerb(const Access &access) const
 {
     switch (m_statement.verb) {
     case Verb::CreateTable:
-        return deed.action == SQLITE_CREATE_TABLE && isOnTable(deed);
+        return access.action == SQLITE_CREATE_TABLE && isOnTable(access);
     case Verb::Insert:
-        return deed.action == SQLITE_INSERT && isOnTable(deed) && !isInternal(m_statement.table);
+        return access.action == SQLITE_INSERT && isOnTable(access) && !isInternal(m_statement.table);
     case Verb::Delete:
-        return deed.action == SQLITE_DELETE && isOnTable(deed) && !isInternal(m_statement.table);
+        return access.action == SQLITE_DELETE && isOnTable(access) && !isInternal(m_statement.table);
     case Verb::Select:
-        return deed.action == SQLITE_SELECT && (!m_sawVerb || !m_isCompiling); // one, and none inside it
+        return access.action == SQLITE_SELECT && (!m_sawVerb || !m_isCompiling); // one, and none inside it
     }
     return false;
 }
 
 /** A new table is written down in the list of tables, and the first one with counted keys brings the list of counters. */
-bool Guard::allowsListKeeping(const Deed &deed) const
+bool Guard::allowsListKeeping(const Access &access) const
 {
-    if (qstrcmp(deed.database, "main") != 0)
+    if (qstrcmp(access.database, "main") != 0)
         return false;
-    if (deed.action == SQLITE_CREATE_TABLE)
-        return qstrcmp(deed.first, "sqlite_sequence") == 0;
-    const bool isKeeping = deed.action == SQLITE_INSERT || deed.action == SQLITE_UPDATE || deed.action == SQLITE_READ;
-    return isKeeping && qstrcmp(deed.first, "sqlite_master") == 0;
+    if (access.action == SQLITE_CREATE_TABLE)
+        return qstrcmp(access.first, "sqlite_sequence") == 0;
+    const bool isKeeping =
+        access.action == SQLITE_INSERT || access.action == SQLITE_UPDATE || access.action == SQLITE_READ;
+    return isKeeping && qstrcmp(access.first, "sqlite_master") == 0;
 }
 
-bool Guard::allows(const Deed &deed)
+bool Guard::allows(const Access &access)
 {
-    if (deed.trigger)
+    if (access.trigger)
         return false;
-    if (isTheVerb(deed)) {
+    if (isTheVerb(access)) {
         m_sawVerb = true;
         return true;
     }
     if (m_statement.verb == Verb::CreateTable)
-        return allowsListKeeping(deed);
+        return allowsListKeeping(access);
     const bool mayRead = m_statement.verb == Verb::Select || m_statement.verb == Verb::Delete;
-    return mayRead && deed.action == SQLITE_READ && allowsReading(deed);
+    return mayRead && access.action == SQLITE_READ && allowsReading(access);
 }
 
-bool Guard::sawItsDeed() const
+bool Guard::sawItsStatement() const
 {
     // A query that reads no table is none of ours.
     if (!m_sawVerb || (m_statement.verb == Verb::Select && m_columnsRead.isEmpty()))

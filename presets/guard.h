@@ -7,7 +7,7 @@
 namespace presets {
 
 /** One question of the database while it compiles a statement. Null pointers where a question has no such part. */
-struct Deed
+struct Access
 {
     int action = 0;
     const char *first = nullptr;    ///< mostly the table
@@ -17,7 +17,7 @@ struct Deed
 };
 
 /**
- * Answers the database's questions about a statement: yes to exactly the deed that was meant, no to everything else, whatever
+ * Answers the database's questions about a statement: yes to exactly the access that was meant, no to everything else, whatever
  * the text has turned into. A statement that got a no fails to compile.
  */
 class Guard
@@ -28,19 +28,19 @@ public:
     /** Compiling is over. When the database compiles anew by itself, it may ask the same again. */
     void endCompiling() { m_isCompiling = false; }
 
-    bool allows(const Deed &deed);
+    bool allows(const Access &access);
 
     /**
      * Whether the statement did what was meant: its verb, on its table, reading every column that it names, so that none was a
      * word with a meaning of its own.
      */
-    bool sawItsDeed() const;
+    bool sawItsStatement() const;
 
 private:
-    bool allowsListKeeping(const Deed &deed) const;
-    bool allowsReading(const Deed &deed);
-    bool isOnTable(const Deed &deed) const;
-    bool isTheVerb(const Deed &deed) const;
+    bool allowsListKeeping(const Access &access) const;
+    bool allowsReading(const Access &access);
+    bool isOnTable(const Access &access) const;
+    bool isTheVerb(const Access &access) const;
 
     Statement m_statement;
     QSet<QString> m_columnsRead;

@@ -11,7 +11,7 @@ namespace presets {
 
 enum class Verb { CreateTable, Insert, Select, Delete };
 
-/** A statement's text, and the one deed that it was meant for. */
+/** A statement's text, and the one change that it was meant for. */
 struct Statement
 {
     QString text;

@@ -268,7 +268,7 @@ void LogModel::order()
     const auto rankOf = [&rank](int text) { return rank[size_t(text)]; };
     const QCollator collator = platform::naturalOrder();
     switch (m_sortColumn) {
-    case Deed:
+    case Action:
         sortBy(m_shown, m_sortOrder,
                [&](int place) { return std::pair(rankOf(entry(place).process), rankOf(entry(place).action)); });
         break;
@@ -331,7 +331,7 @@ QString LogModel::cell(const LogEntry &entry, int column) const
     switch (column) {
     case Date:
         return dateText(entry.time, QLocale::ShortFormat);
-    case Deed:
+    case Action:
         return entry.action == 0 ? texts.text(entry.process)
                                  : texts.text(entry.process) + QStringLiteral(", ") + texts.text(entry.action);
     case File:

@@ -29,7 +29,7 @@ class LogModel : public QAbstractTableModel
 
 public:
     /** Before and After are comments: those of an edit. */
-    enum Column { Date, Deed, File, Status, Result, Folder, Before, After, ColumnCount };
+    enum Column { Date, Action, File, Status, Result, Folder, Before, After, ColumnCount };
 
     explicit LogModel(QObject *parent = nullptr);
 

@@ -21,7 +21,7 @@ MEMORY_BOUND_MB = 400
 SECONDS_BOUND = 120
 TYPES = {"public.png": ("png", "PNG"), "public.tiff": ("tiff", "TIFF"), "public.bmp": ("bmp", "BMP"),
          "com.compuserve.gif": ("gif", "GIF"), "public.jpeg": ("jpg", "JPEG"), "public.jp2": ("jp2", "JP2")}
-DEEDS = [*TYPES, "half", "fill", "stretch"]
+OPERATIONS = [*TYPES, "half", "fill", "stretch"]
 # What "original file type" means: by the source's name, whatever its bytes are.
 WRITTEN_AS = {"png": "public.png", "tif": "public.tiff", "tiff": "public.tiff", "bmp": "public.bmp", "jp2": "public.jp2",
               "gif": "com.compuserve.gif", "jpg": "public.jpeg", "jpeg": "public.jpeg", "jpe": "public.jpeg"}
@@ -49,16 +49,16 @@ def longest_side(width, height, side):
     return int(side * 100 / height * width / 100.0), side
 
 
-def wanted_size(deed, width, height):
-    if deed in TYPES:
+def wanted_size(operation, width, height):
+    if operation in TYPES:
         return longest_side(width, height, 160)
-    return {"half": (int(width * 50 / 100.0), int(height * 50 / 100.0)), "fill": (120, 80), "stretch": (90, 70)}[deed]
+    return {"half": (int(width * 50 / 100.0), int(height * 50 / 100.0)), "fill": (120, 80), "stretch": (90, 70)}[operation]
 
 
-def written_type(deed, source):
+def written_type(operation, source):
     """Type identifier of the new file; the status word instead where none is written."""
-    if deed != "half":
-        return {"fill": "public.png", "stretch": "public.jpeg"}.get(deed, deed)
+    if operation != "half":
+        return {"fill": "public.png", "stretch": "public.jpeg"}.get(operation, operation)
     extension = source.suffix[1:].lower()
     return "Not Supported" if extension in NOT_SUPPORTED else WRITTEN_AS.get(extension, "Failed")
 
@@ -74,10 +74,10 @@ class Batch:
         self.faults.append(f"{what}: {text}")
 
     def run(self):
-        """Runs the batch; the answers by source number and deed."""
+        """Runs the batch; the answers by source number and operation."""
         shutil.rmtree(self.out, ignore_errors=True)
-        for deed in DEEDS:
-            (self.out / deed).mkdir(parents=True)
+        for operation in OPERATIONS:
+            (self.out / operation).mkdir(parents=True)
         script = Path(__file__).with_name("corpus-batch.js")
         with open(self.out.parent / "log.txt", "w", encoding="utf-8") as log:
             process = subprocess.Popen([self.runner, script, self.out, *self.sources], stdin=subprocess.DEVNULL,
@@ -108,23 +108,23 @@ class Batch:
                 readable = False
             elif readable and size != row["upright_wxh"] + "px":
                 self.fault(row["path"], f"its size is told as {size}, not {row['upright_wxh']}px")
-            for deed in DEEDS:
-                self.check_answer(number, deed, answers.get((number, deed)), readable)
+            for operation in OPERATIONS:
+                self.check_answer(number, operation, answers.get((number, operation)), readable)
 
-    def check_answer(self, number, deed, answer, readable):
+    def check_answer(self, number, operation, answer, readable):
         row, source = self.rows[number], self.sources[number]
-        kind = written_type(deed, source)
+        kind = written_type(operation, source)
         if kind not in TYPES:
             allowed = {kind} if readable or kind == "Not Supported" else {kind, "OK"}
         else:
             allowed = {"OK"} if readable else {"OK", "Failed"}
         if answer not in allowed:
-            self.fault(row["path"], f"{deed} answered {answer!r}, not one of {sorted(allowed)}")
+            self.fault(row["path"], f"{operation} answered {answer!r}, not one of {sorted(allowed)}")
         if readable and kind in TYPES and row["upright_wxh"] != "-":
-            width, height = wanted_size(deed, *map(int, row["upright_wxh"].split("x")))
+            width, height = wanted_size(operation, *map(int, row["upright_wxh"].split("x")))
             if width > 0 and height > 0:
-                path = self.out / deed / f"{number}-{source.stem}.{TYPES[kind][0]}"
-                self.written[path] = (width, height, kind, row, deed)
+                path = self.out / operation / f"{number}-{source.stem}.{TYPES[kind][0]}"
+                self.written[path] = (width, height, kind, row, operation)
 
     def check_files(self):
         """Exactly the files that had to come are there: nothing half, nothing temporary, nothing too many."""
@@ -142,14 +142,14 @@ class Batch:
         for line in self.exiftool():
             told[Path(line["SourceFile"])] = line
         for path in paths:
-            width, height, kind, row, deed = self.written[path]
+            width, height, kind, row, operation = self.written[path]
             line, name = told.get(path, {}), path.relative_to(self.out)
             size = (line.get("ImageWidth"), abs(line.get("ImageHeight", 0)))
             if size != (width, height):
                 self.fault(name, f"is {size[0]} x {size[1]}, not {width} x {height} (from {row['path']})")
             if line.get("FileType") != TYPES[kind][1]:
                 self.fault(name, f"is a {line.get('FileType')}, not a {TYPES[kind][1]}")
-            self.check_tags(name, kind, row, deed, line)
+            self.check_tags(name, kind, row, operation, line)
 
     def exiftool(self):
         answer = subprocess.run(
@@ -157,7 +157,7 @@ class Batch:
              "-IFD0:Orientation", "-ICC_Profile:ProfileDescription", self.out], capture_output=True, text=True)
         return json.loads(answer.stdout or "[]")
 
-    def check_tags(self, name, kind, row, deed, line):
+    def check_tags(self, name, kind, row, operation, line):
         """A profile stays with the picture; TIFF keeps the orientation entry, a turned JPEG must not turn twice."""
         profile = row["icc_profile"]
         keeps = kind in ("public.jpeg", "public.png", "public.tiff") and row["colour_model"] in ("rgb", "gray")
@@ -180,8 +180,8 @@ class Batch:
     def check_upright(self):
         """All eight orientations of one scene come out alike."""
         for scene in ("landscape", "portrait"):
-            made = {row["path"]: path for path, (_, _, kind, row, deed) in self.written.items()
-                    if deed == "public.png" and f"/{scene}_" in row["path"] and path.exists()}
+            made = {row["path"]: path for path, (_, _, kind, row, operation) in self.written.items()
+                    if operation == "public.png" and f"/{scene}_" in row["path"] and path.exists()}
             first = made.get(f"orientation/{scene}_2.jpg")
             for source, path in made.items():
                 difference = mean_difference(first, path, self.out.parent) if first else None

@@ -14,7 +14,7 @@ import time
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
-DEEDS = ["size", "thumbnail", "handle", "preview", "properties", "conversion"]
+OPERATIONS = ["size", "thumbnail", "handle", "preview", "properties", "conversion"]
 SCRIPT = Path(__file__).with_name("first-picture.js")
 LONGEST = 120
 MADE = {
@@ -84,9 +84,9 @@ def in_window(window, home, files):
 def runs_of(files, other):
     """What the runner does, process by process."""
     for path in files:
-        for deed in DEEDS:
-            yield [(deed, path)]
-            yield [("preview", other), (deed, path)]
+        for operation in OPERATIONS:
+            yield [(operation, path)]
+            yield [("preview", other), (operation, path)]
 
 
 def main(runner, window, work, corpus=None):
@@ -103,8 +103,8 @@ def main(runner, window, work, corpus=None):
     runs = list(runs_of(own if corpus is None else [], other))
     if corpus is not None:
         for path in files:
-            runs += [[(first, path), *[(deed, path) for deed in DEEDS]] for first in ("preview", "properties")]
-            runs.append([("thumbnail", other), *[(deed, path) for deed in DEEDS]])
+            runs += [[(first, path), *[(operation, path) for operation in OPERATIONS]] for first in ("preview", "properties")]
+            runs.append([("thumbnail", other), *[(operation, path) for operation in OPERATIONS]])
     shown = [[path] for path in (files if corpus is not None else [path for path in own if path.suffix in (".bmp", ".psd")][:4])]
     if corpus is not None:
         shown += [[other, path] for path in files]

@@ -193,14 +193,14 @@ private Q_SLOTS:
         }
     }
 
-    // Two deeds on one key would both do nothing.
+    // Two uses of one key would both do nothing.
     void noKeyIsGivenTwice()
     {
         begin({"Lake"});
         QMap<QKeySequence, QString> known;
-        const auto note = [&known](const QKeySequence &keys, const QString &deed) {
-            QVERIFY2(!known.contains(keys), qPrintable(known.value(keys) + QLatin1Char(' ') + deed));
-            known.insert(keys, deed);
+        const auto note = [&known](const QKeySequence &keys, const QString &use) {
+            QVERIFY2(!known.contains(keys), qPrintable(known.value(keys) + QLatin1Char(' ') + use));
+            known.insert(keys, use);
         };
         for (const QAction *action : m_driver->window().findChildren<QAction *>())
             for (const QKeySequence &keys : action->isEnabled() ? action->shortcuts() : QList<QKeySequence>())
@@ -226,7 +226,7 @@ private Q_SLOTS:
         QCOMPARE(m_driver->pictures().count(), 3);
     }
 
-    void undoTakesBackAnyNumberOfDeeds()
+    void undoTakesBackAnyNumberOfSteps()
     {
         begin({"Lake", "Sea"});
         const QStringList before = everything();
@@ -394,7 +394,7 @@ private Q_SLOTS:
         m_driver->show("log");
         auto *log = m_driver->control<window::LogTable>("logTable");
         QVERIFY(m_driver->waitFor([log] { return log->shownCount() == 2; }));
-        QCOMPARE(log->model()->index(0, window::LogModel::Deed).data().toString(),
+        QCOMPARE(log->model()->index(0, window::LogModel::Action).data().toString(),
                  QStringLiteral("Sort by Hand, Move to Lake"));
         QCOMPARE(m_driver->control<window::RunList>("logRuns")->model()->rowCount(), 2);
     }

@@ -166,14 +166,14 @@ private Q_SLOTS:
         table()->sortByColumn(window::LogModel::File, Qt::AscendingOrder);
         QCOMPARE(names(), QStringLiteral("a.jpg b.jpg c.jpg"));
         table()->horizontalHeader()->moveSection(0, 2);
-        table()->setColumnWidth(window::LogModel::Deed, 222);
+        table()->setColumnWidth(window::LogModel::Action, 222);
         m_driver->window().close();
         m_driver->startAgain();
         m_driver->show("log");
         QVERIFY(m_driver->waitFor([this] { return table()->shownCount() == 3; }));
         QCOMPARE(names(), QStringLiteral("a.jpg b.jpg c.jpg"));
         QCOMPARE(table()->horizontalHeader()->visualIndex(window::LogModel::Date), 2);
-        QCOMPARE(table()->columnWidth(window::LogModel::Deed), 222);
+        QCOMPARE(table()->columnWidth(window::LogModel::Action), 222);
     }
 
     void exportsWhatIsShown()

@@ -63,15 +63,15 @@ def main():
         script.flush()
         all_pictures = list(pictures(folders))
         for limit in LIMITS:
-            deeds = 0
+            operations = 0
             for picture in all_pictures:
                 trouble, done = outcome(program, script.name, picture, limit)
-                deeds += done
+                operations += done
                 if trouble:
                     failures += 1
                     print(f"{limit} MB: {picture}: {trouble}", flush=True)
-            print(f"{limit} MB: {len(all_pictures)} pictures, {deeds} operations done", flush=True)
-            if deeds == 0:
+            print(f"{limit} MB: {len(all_pictures)} pictures, {operations} operations done", flush=True)
+            if operations == 0:
                 failures += 1
     return 1 if failures or not all_pictures else 0
 

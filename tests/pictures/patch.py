@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""patch.py DEED ...: what no program at hand writes, put into the bytes of a picture. The deeds are the functions below."""
+"""patch.py CHANGE ...: what no program at hand writes, put into the bytes of a picture. The changes are the functions below."""
 import struct
 import sys
 import zlib

@@ -91,12 +91,12 @@ void TestSeamShapes::drivesTheOperations()
             "  image.tvCropType = new TabView({selectedLabel: label});"
             "  image.scImageCropPos = new SegmentedControl({selectedSegment: place});"
             "  for (const name in fields) image[name] = new TextField({stringValue: fields[name]}); }"
-            "function deed() { %2 }"
-            "export const told = () => { try { return JSON.stringify(deed()); }"
+            "function call() { %2 }"
+            "export const told = () => { try { return JSON.stringify(call()); }"
             "  catch (error) { return JSON.stringify(error.name); } };")
             .arg(folder, body);
-    QVERIFY2(run.runFile(QStringLiteral("deed.js"), script), qPrintable(run.error));
-    const auto module = run.engine().importFile(run.pathOf(QStringLiteral("deed.js")));
+    QVERIFY2(run.runFile(QStringLiteral("call.js"), script), qPrintable(run.error));
+    const auto module = run.engine().importFile(run.pathOf(QStringLiteral("call.js")));
     QVERIFY(module);
     const auto told = run.engine().call(module->property(QStringLiteral("told")), {});
     QVERIFY(told);

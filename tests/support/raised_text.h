@@ -2,11 +2,11 @@
 
 #include "platform/foundation/raised.h"
 
-/** What @p deed raises as "NAME: MESSAGE"; "nothing" if it raises nothing. */
-template<typename Deed> QString raisedBy(Deed deed)
+/** What @p call raises as "NAME: MESSAGE"; "nothing" if it raises nothing. */
+template<typename Call> QString raisedBy(Call call)
 {
     try {
-        deed();
+        call();
     } catch (const platform::Raised &raised) {
         return raised.name() + QStringLiteral(": ") + raised.message();
     }

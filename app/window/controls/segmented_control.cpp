@@ -128,7 +128,7 @@ int SegmentedControl::segmentAt(const QPointF &place) const
     return -1;
 }
 
-// The arrow keys belong to the choice while it has the focus, also where a window has deeds of its own for them.
+// The arrow keys belong to the choice while it has the focus, also where a window has other uses for them.
 bool SegmentedControl::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && !m_tips.isEmpty()) {

@@ -259,7 +259,7 @@ void LogTable::arrangeColumns()
     const int date = fontMetrics().horizontalAdvance(QLocale().toString(wide, QLocale::ShortFormat)) + paddingPx;
     setColumnWidth(LogModel::Date, date);
     const auto arrange = [&](const auto &parts) {
-        for (int column = LogModel::Deed; column < int(std::size(parts)); ++column)
+        for (int column = LogModel::Action; column < int(std::size(parts)); ++column)
             if (parts[column] > 0)
                 setColumnWidth(column, qMax((viewport()->width() - date) * parts[column] / 100,
                                             horizontalHeader()->sectionSizeHint(column)));

@@ -25,7 +25,7 @@ public:
 
     void follow(LogModel *log);
     /**
-     * %1 stands for a number: {all, oneEntry, entries, oneProblem, problems}; or for a deed that was taken back or done
+     * %1 stands for a number: {all, oneEntry, entries, oneProblem, problems}; or for a run that was taken back or done
      * again: {undo, redo}; in {of} %1 is that, and %2 the date of the run that it took back.
      */
     void setTexts(const QVariantMap &texts) { m_texts = texts; }
@@ -49,7 +49,7 @@ private:
     int m_rows = 0;
 };
 
-/** A list of the runs of a log, each with its deed, date and counts; choosing one shows its entries in the table. */
+/** A list of the runs of a log, each with its action, date and counts; choosing one shows its entries in the table. */
 class RunList : public QListView
 {
     Q_OBJECT

@@ -89,7 +89,7 @@ QSize SlotList::minimumSizeHint() const
     return {180, slotHeightPx * qBound(1, m_rows.count(), leastShown) + 4};
 }
 
-// Up, Down and F2 belong to the list while it has the focus, also where a window has deeds of its own for them. To the left and
+// Up, Down and F2 belong to the list while it has the focus, also where a window has other uses for them. To the left and
 // right nothing is to be chosen.
 bool SlotList::event(QEvent *event)
 {
@@ -123,10 +123,10 @@ void SlotList::makeShortcuts()
         m_shortcuts[row]->setKey(QKeySequence(m_rows.slot(row).key, QKeySequence::PortableText));
 }
 
-void SlotList::setMenu(const QStringList &texts, const QStringList &deeds)
+void SlotList::setMenu(const QStringList &texts, const QStringList &words)
 {
     m_menuTexts = texts;
-    m_menuDeeds = deeds;
+    m_menuWords = words;
 }
 
 void SlotList::editLabel(int row)
@@ -213,7 +213,7 @@ void SlotList::contextMenuEvent(QContextMenuEvent *event)
         if (m_menuTexts[i] == QLatin1String("-"))
             menu.addSeparator();
         else
-            menu.addAction(m_menuTexts[i])->setData(m_menuDeeds.value(i));
+            menu.addAction(m_menuTexts[i])->setData(m_menuWords.value(i));
     }
     const QPoint place = isByMouse ? event->globalPos() : viewport()->mapToGlobal(visualRect(currentIndex()).center());
     if (const QAction *chosen = menu.exec(place))

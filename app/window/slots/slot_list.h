@@ -35,7 +35,7 @@ public:
     /** @param slots  [{key ("1", "A", "Shift+A"), label, note, problem, count}, ...], see window::Slot */
     Q_INVOKABLE void setSlots(const QVariantList &slots);
     /** The entries of the menu of a slot and what they are called; "-" is a separator. */
-    Q_INVOKABLE void setMenu(const QStringList &texts, const QStringList &deeds);
+    Q_INVOKABLE void setMenu(const QStringList &texts, const QStringList &words);
     Q_INVOKABLE void editLabel(int row);
     /** Lights a slot up for a moment, because something went there. */
     Q_INVOKABLE void light(int row);
@@ -56,7 +56,7 @@ Q_SIGNALS:
     /** A slot was dragged so that it should stand at @p to. */
     void slotMoved(int from, int to);
     void foldersDropped(const QStringList &paths);
-    void menuChosen(int row, const QString &deed);
+    void menuChosen(int row, const QString &word);
     /** Another slot is the one that the menu and the keyboard work on. */
     void currentSlotChanged(int row);
 
@@ -83,7 +83,7 @@ private:
     SlotRows m_rows;
     QList<QShortcut *> m_shortcuts;
     QStringList m_menuTexts;
-    QStringList m_menuDeeds;
+    QStringList m_menuWords;
     bool m_active = true;
     int m_columns = 1;
     int m_pressed = -1;

@@ -62,13 +62,13 @@ class Turning : public QObject
         return done ? at(name) : QString();
     }
 
-    static QString turn(ZtImageHandling &service, const QString &deed, const QString &path, const QString &prefix)
+    static QString turn(ZtImageHandling &service, const QString &operation, const QString &path, const QString &prefix)
     {
-        if (deed == QLatin1String("horizontal"))
+        if (operation == QLatin1String("horizontal"))
             return service.hFlipHorizontalPicture(path, prefix);
-        if (deed == QLatin1String("vertical"))
+        if (operation == QLatin1String("vertical"))
             return service.hFlipVerticalPicture(path, prefix);
-        return service.hRotatePicture(path, prefix, deed);
+        return service.hRotatePicture(path, prefix, operation);
     }
 
 private Q_SLOTS:
@@ -82,13 +82,13 @@ private Q_SLOTS:
     void turnsIntoTheSourcesOwnTypeAndName_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("deed");
+        QTest::addColumn<QString>("operation");
         QTest::addColumn<QSize>("size");
         QTest::addColumn<QPointF>("red");
         for (const char *type : types) {
-            const auto row = [type](const char *deed, QSize size, QPointF red) {
-                QTest::addRow("%s %s", type, deed) << QStringLiteral("a picture.") + QString::fromLatin1(type)
-                                                   << QString::fromLatin1(deed) << size << red;
+            const auto row = [type](const char *operation, QSize size, QPointF red) {
+                QTest::addRow("%s %s", type, operation) << QStringLiteral("a picture.") + QString::fromLatin1(type)
+                                                        << QString::fromLatin1(operation) << size << red;
             };
             row("horizontal", {96, 64}, {0.25, 0.25});
             row("vertical", {96, 64}, {0.75, 0.75});
@@ -106,13 +106,13 @@ private Q_SLOTS:
     void turnsIntoTheSourcesOwnTypeAndName()
     {
         QFETCH(QString, name);
-        QFETCH(QString, deed);
+        QFETCH(QString, operation);
         QFETCH(QSize, size);
         QFETCH(QPointF, red);
         const QString source = made(name, asymmetric(96, 64));
         const QByteArray before = pictures::bytesOf(source);
         ZtImageHandling service;
-        QCOMPARE(turn(service, deed, source, out()), QStringLiteral("OK"));
+        QCOMPARE(turn(service, operation, source, out()), QStringLiteral("OK"));
         QCOMPARE(written(), QStringList{name});
         QCOMPARE(pictures::bytesOf(source), before);
         const Bitmap result = storedPixels(out() + name);
@@ -166,8 +166,8 @@ private Q_SLOTS:
         QFETCH(QString, name);
         LogCapture log;
         ZtImageHandling service;
-        for (const char *deed : {"horizontal", "vertical", "90"})
-            QCOMPARE(turn(service, QString::fromLatin1(deed), at(name), out()), QStringLiteral("Not Supported"));
+        for (const char *operation : {"horizontal", "vertical", "90"})
+            QCOMPARE(turn(service, QString::fromLatin1(operation), at(name), out()), QStringLiteral("Not Supported"));
         QCOMPARE(log.text(), QByteArray());
         QVERIFY(written().isEmpty());
     }
@@ -200,10 +200,10 @@ private Q_SLOTS:
         QFETCH(QByteArray, message);
         if (!content.isEmpty())
             QVERIFY(platform::replaceFile(at(QStringLiteral("a.jpg")), content));
-        for (const char *deed : {"horizontal", "vertical", "90", "7"}) {
+        for (const char *operation : {"horizontal", "vertical", "90", "7"}) {
             LogCapture log;
             ZtImageHandling service;
-            const QString answer = turn(service, QString::fromLatin1(deed), at(QStringLiteral("a.jpg")), out());
+            const QString answer = turn(service, QString::fromLatin1(operation), at(QStringLiteral("a.jpg")), out());
             QCOMPARE(log.text(), message);
             QVERIFY(answer.isNull());
             QVERIFY(written().isEmpty());
@@ -291,9 +291,9 @@ private Q_SLOTS:
         const QString name = QFileInfo(path).fileName();
         const QString type = platform::typeIdentifierForPath(path);
         const bool carries = type == QLatin1String("public.jpeg") || type == QLatin1String("public.tiff");
-        for (const char *deed : {"horizontal", "90", "7"}) {
+        for (const char *operation : {"horizontal", "90", "7"}) {
             ZtImageHandling service;
-            const QString answer = turn(service, QString::fromLatin1(deed), path, out());
+            const QString answer = turn(service, QString::fromLatin1(operation), path, out());
             if (!platform::fileFormatForType(type)) {
                 QCOMPARE(answer, QStringLiteral("Failed"));
                 continue;
@@ -302,9 +302,9 @@ private Q_SLOTS:
             const auto result = ImageSource::open(out() + name);
             QVERIFY(result.has_value());
             QCOMPARE(result->orientation(), carries ? source->orientation() : 1);
-            if (deed[0] == 'h')
+            if (operation[0] == 'h')
                 QCOMPARE(result->storedSize(), source->storedSize());
-            if (deed[0] == '9')
+            if (operation[0] == '9')
                 QCOMPARE(result->storedSize(), source->storedSize().transposed());
         }
     }
@@ -357,15 +357,15 @@ private Q_SLOTS:
         };
         QCOMPARE(dpi(at(name)), QSize(204, 98));
         ZtImageHandling service;
-        for (const char *deed : {"90", "-90"}) {
-            QCOMPARE(turn(service, QString::fromLatin1(deed), at(name), out()), QStringLiteral("OK"));
+        for (const char *operation : {"90", "-90"}) {
+            QCOMPARE(turn(service, QString::fromLatin1(operation), at(name), out()), QStringLiteral("OK"));
             QCOMPARE(dpi(out() + name), QSize(98, 204));
             const QVariantMap properties = ImageSource::open(out() + name)->metadata().toProperties();
             QCOMPARE(properties.value(QStringLiteral("DPIWidth")).toDouble(), 98.0);
             QCOMPARE(properties.value(QStringLiteral("DPIHeight")).toDouble(), 204.0);
         }
-        for (const char *deed : {"horizontal", "180", "7"}) {
-            QCOMPARE(turn(service, QString::fromLatin1(deed), at(name), out()), QStringLiteral("OK"));
+        for (const char *operation : {"horizontal", "180", "7"}) {
+            QCOMPARE(turn(service, QString::fromLatin1(operation), at(name), out()), QStringLiteral("OK"));
             QCOMPARE(dpi(out() + name), QSize(204, 98));
         }
     }

@@ -42,18 +42,19 @@ private Q_SLOTS:
         QFETCH(bool, isDecodable);
         const qint64 pixels = isDecodable ? qint64(stored.width()) * stored.height() : 0;
         constexpr qint64 large = 1'000'000;
-        QStringList deeds = {QStringLiteral("7")};
+        QStringList operations = {QStringLiteral("7")};
         if (pixels <= large)
-            deeds << QStringLiteral("horizontal") << QStringLiteral("vertical") << QStringLiteral("90")
-                  << QStringLiteral("45");
+            operations << QStringLiteral("horizontal") << QStringLiteral("vertical") << QStringLiteral("90")
+                       << QStringLiteral("45");
         const QByteArray before = pictures::bytesOf(path);
         const QString name = QFileInfo(path).fileName();
-        for (const QString &deed : std::as_const(deeds)) {
+        for (const QString &operation : std::as_const(operations)) {
             LogCapture log;
             ZtImageHandling service;
-            const QString answer = deed == QLatin1String("horizontal") ? service.hFlipHorizontalPicture(path, out())
-                                   : deed == QLatin1String("vertical") ? service.hFlipVerticalPicture(path, out())
-                                                                       : service.hRotatePicture(path, out(), deed);
+            const QString answer =
+                operation == QLatin1String("horizontal") ? service.hFlipHorizontalPicture(path, out())
+                : operation == QLatin1String("vertical") ? service.hFlipVerticalPicture(path, out())
+                                                         : service.hRotatePicture(path, out(), operation);
             const QByteArray said = log.text();
             if (answer == QLatin1String("OK")) {
                 const auto result = ImageSource::open(out() + name);

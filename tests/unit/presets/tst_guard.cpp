@@ -18,10 +18,10 @@ class TestGuard : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void refusesAllButTheDeed_data();
-    void refusesAllButTheDeed();
-    void allowsTheDeed_data();
-    void allowsTheDeed();
+    void refusesAllButTheStatement_data();
+    void refusesAllButTheStatement();
+    void allowsTheStatement_data();
+    void allowsTheStatement();
     void runsNothingThatIsNotSound();
     void refusesEveryActionThatWasNotMeant_data();
     void refusesEveryActionThatWasNotMeant();
@@ -41,7 +41,7 @@ void TestGuard::initTestCase()
     m_bytes = m_store.bytes();
 }
 
-void TestGuard::refusesAllButTheDeed_data()
+void TestGuard::refusesAllButTheStatement_data()
 {
     QTest::addColumn<Verb>("verb");
     QTest::addColumn<QString>("text");
@@ -103,7 +103,7 @@ static QString tableFor(Verb verb)
     return verb == Verb::CreateTable ? QStringLiteral("New") : QStringLiteral("Presets");
 }
 
-void TestGuard::refusesAllButTheDeed()
+void TestGuard::refusesAllButTheStatement()
 {
     QFETCH(Verb, verb);
     QFETCH(QString, text);
@@ -114,7 +114,7 @@ void TestGuard::refusesAllButTheDeed()
     QCOMPARE(m_store.bytes(), m_bytes);
 }
 
-void TestGuard::allowsTheDeed_data()
+void TestGuard::allowsTheStatement_data()
 {
     QTest::addColumn<Verb>("verb");
     QTest::addColumn<QString>("text");
@@ -124,7 +124,7 @@ void TestGuard::allowsTheDeed_data()
     QTest::newRow("create") << Verb::CreateTable << "CREATE TABLE New (a INTEGER PRIMARY KEY AUTOINCREMENT)";
 }
 
-void TestGuard::allowsTheDeed()
+void TestGuard::allowsTheStatement()
 {
     QFETCH(Verb, verb);
     QFETCH(QString, text);

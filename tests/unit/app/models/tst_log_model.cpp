@@ -39,7 +39,7 @@ private Q_SLOTS:
     {
         write(line(1, "a.jpg", "OK", "one") + line(2, "b.jpg", "OK", "one") + line(3, "c.jpg", "OK", "two"));
         QCOMPARE(names(), QStringLiteral("c.jpg b.jpg a.jpg"));
-        QCOMPARE(cell(0, window::LogModel::Deed), QStringLiteral("Resize, longest 1600"));
+        QCOMPARE(cell(0, window::LogModel::Action), QStringLiteral("Resize, longest 1600"));
         QCOMPARE(cell(0, window::LogModel::Folder), QStringLiteral("/p/Web"));
         QCOMPARE(m_model->entries().inputPath(m_model->entries().at(m_model->place(0))),
                  QStringLiteral("/p/Lake/c.jpg"));
@@ -100,7 +100,7 @@ private Q_SLOTS:
             R"({"LogDate":"2026-11-21T10:00:00.000Z","LogProcess":"File Editing","LogAction":"Edit meta data","LogStatus":"OK",)"
             R"("LogI":"a.jpg","LogO":"a.jpg","LogIpath":"/p/a.jpg","LogOpath":"/p/a.jpg"})"
             "\n");
-        QCOMPARE(cell(0, window::LogModel::Deed), QStringLiteral("File Editing, Edit meta data"));
+        QCOMPARE(cell(0, window::LogModel::Action), QStringLiteral("File Editing, Edit meta data"));
         QCOMPARE(cell(0, window::LogModel::File), QStringLiteral("a.jpg"));
         QCOMPARE(m_model->data(m_model->index(0, window::LogModel::Result), Qt::ToolTipRole).toString(),
                  QStringLiteral("/p/a.jpg"));
