@@ -112,7 +112,8 @@ QString cNSFileHandling::hCheckIfFileExist(const QString &path)
 QString cNSFileHandling::getFileSize(const QString &path)
 {
     if (const auto facts = platform::itemFacts(path))
-        myFileSizeStr = platform::byteCountText(facts->sizeInBytes);
+        myFileSizeStr =
+            facts->sizeInBytes == 0 ? QStringLiteral("Zero KB") : platform::byteCountText(facts->sizeInBytes);
     return myFileSizeStr;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/window/formats.h"
 
+#include "platform/foundation/human_texts.h"
 #include "platform/imageio/image_source.h"
 
 #include <QDir>
@@ -22,7 +23,7 @@ QString cellText(const PictureRow &row, int column)
     case PictureModel::Pixels:
         return row.pixels.isEmpty() ? (row.headerRead ? none : QString()) : pixelText(row.pixels);
     case PictureModel::Bytes:
-        return row.bytes < 0 ? none : byteText(row.bytes);
+        return row.bytes < 0 ? none : platform::localByteCountText(row.bytes);
     case PictureModel::Type:
         return row.type;
     case PictureModel::NewName:

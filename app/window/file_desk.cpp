@@ -9,6 +9,7 @@
 #include "platform/disk/item_identity.h"
 #include "platform/file/atomic_file.h"
 #include "platform/file/regular_file.h"
+#include "platform/foundation/human_texts.h"
 #include "platform/imageio/image_source.h"
 #include "platform/imageio/jpeg_header.h"
 #include "platform/imageio/orientation_mark.h"
@@ -280,7 +281,7 @@ QString FileDesk::setAsideUnusableDatabase(const QString &path) const
 
 QString FileDesk::byteText(double bytes) const
 {
-    return window::byteText(qint64(bytes));
+    return platform::localByteCountText(qint64(bytes));
 }
 
 QString FileDesk::dateText(const QString &date) const

@@ -3,6 +3,7 @@
 #include "app/window/formats.h"
 
 #include "platform/disk/item_facts.h"
+#include "platform/foundation/human_texts.h"
 #include "platform/imageio/picture_facts.h"
 
 #include <QFile>
@@ -55,6 +56,7 @@ QVariant fileFacts(const QString &path)
                        {QStringLiteral("created"), dateText(item->created)},
                        {QStringLiteral("changed"), dateText(item->modified)},
                        {QStringLiteral("bytes"), double(item->sizeInBytes)},
+                       {QStringLiteral("size"), platform::byteCountText(item->sizeInBytes)},
                        {QStringLiteral("width"), std::max(0, picture.pixels.width())},
                        {QStringLiteral("height"), std::max(0, picture.pixels.height())},
                        {QStringLiteral("type"), textOf(typeWord(type))},

@@ -13,6 +13,7 @@ namespace window {
  * - taken, created, changed: "2026-08-14T10:20:30", local time without zone; taken is "" where the file states no date
  * - camera, lens: "" where the file states none
  * - bytes: of the file that a link leads to
+ * - size: the same in words ("2.4 MB"), English in every language; see platform::byteCountText()
  * - width, height: upright pixels; 0 where the file is no picture that can be read
  * - type: in words ("JPEG"), by the content of a picture and by the name of any other file
  * - isFolder

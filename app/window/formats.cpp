@@ -5,50 +5,14 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
-#include <QLocale>
 
 #include <sys/stat.h>
 
 namespace window {
 
-namespace {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("formats", text);
-}
-
-} // namespace
-
 QString pixelText(QSize pixels)
 {
     return QStringLiteral("%1×%2").arg(pixels.width()).arg(pixels.height());
-}
-
-QString byteText(qint64 bytes)
-{
-    if (bytes == 0)
-        return translated(QT_TRANSLATE_NOOP("formats", "Zero KB"));
-    if (bytes == 1)
-        return translated(QT_TRANSLATE_NOOP("formats", "1 byte"));
-    if (bytes < 1000)
-        return translated(QT_TRANSLATE_NOOP("formats", "%1 bytes")).arg(bytes);
-    const char *const units[] = {QT_TRANSLATE_NOOP("formats", "KB"), QT_TRANSLATE_NOOP("formats", "MB"),
-                                 QT_TRANSLATE_NOOP("formats", "GB"), QT_TRANSLATE_NOOP("formats", "TB")};
-    const int decimalsOfUnit[] = {0, 1, 2, 2};
-    double value = double(bytes) / 1000;
-    int unit = 0;
-    while (value >= 999.5 && unit < 3) {
-        value /= 1000;
-        ++unit;
-    }
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    QString number = locale.toString(value, 'f', value >= 100 ? 0 : decimalsOfUnit[unit]);
-    const QString point = locale.decimalPoint();
-    while (number.contains(point) && (number.endsWith(QLatin1Char('0')) || number.endsWith(point)))
-        number.chop(1);
-    return number + QLatin1Char(' ') + translated(units[unit]);
 }
 
 QString typeOfName(const QString &name)

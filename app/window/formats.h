@@ -8,9 +8,6 @@ namespace window {
 /** "4032×3024". */
 QString pixelText(QSize pixels);
 
-/** Decimal units in the reader's words, never more than three figures: "Zero KB", "1 byte", "999 bytes", "12 KB", "2.4 MB", "1.25 GB". */
-QString byteText(qint64 bytes);
-
 /** The type identifier that a file's name promises; see platform::typeIdentifierForPath(). */
 QString typeOfName(const QString &name);
 

@@ -242,28 +242,15 @@ export function sizeClasses() {
     ];
 }
 
-function threeFigures(value, decimals) {
-    return String(Number(value.toFixed(value >= 100 ? 0 : decimals)));
-}
-
-function sizeText(bytes, form) {
-    if (form === "class") {
-        return sizeClasses().find((each) => bytes < each.below).text;
+function sizeText(facts, form) {
+    switch (form) {
+    case "class":
+        return sizeClasses().find((each) => facts.bytes < each.below).text;
+    case "MB":
+        return String(Math.round(facts.bytes / 1e5) / 10);
+    default:
+        return facts.size;
     }
-    if (form === "MB") {
-        return threeFigures(bytes / 1e6, 1);
-    }
-    if (bytes < 1000) {
-        return bytes + (bytes === 1 ? " byte" : " bytes");
-    }
-    const units = ["KB", "MB", "GB", "TB"];
-    let value = bytes / 1000;
-    let unit = 0;
-    while (value >= 999.5 && unit < units.length - 1) {
-        value /= 1000;
-        unit += 1;
-    }
-    return threeFigures(value, [0, 1, 2, 2][unit]) + " " + units[unit];
 }
 
 /** Landscape, portrait or square, in words; "" for no picture. */
@@ -298,7 +285,7 @@ function valueOf(part, path, facts, index) {
     case "height":
         return facts[part.token] > 0 ? String(facts[part.token]) : "";
     case "size":
-        return facts.bytes >= 0 ? sizeText(facts.bytes, part.form) : "";
+        return facts.bytes >= 0 ? sizeText(facts, part.form) : "";
     case "orientation":
         return orientationText(facts);
     default:
@@ -306,7 +293,7 @@ function valueOf(part, path, facts, index) {
     }
 }
 
-const NO_FACTS = { taken: "", created: "", changed: "", camera: "", lens: "", type: "", bytes: -1, width: 0, height: 0 };
+const NO_FACTS = { taken: "", created: "", changed: "", camera: "", lens: "", type: "", bytes: -1, size: "", width: 0, height: 0 };
 
 /**
  * The text for one file.

@@ -1,7 +1,9 @@
 #include "platform/foundation/human_texts.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
+#include <algorithm>
 #include <array>
 
 namespace platform {
@@ -15,12 +17,12 @@ struct Unit
 };
 
 constexpr std::array<Unit, 6> units = {{
-    {1000LL, 0, "KB"},
-    {1000000LL, 1, "MB"},
-    {1000000000LL, 2, "GB"},
-    {1000000000000LL, 2, "TB"},
-    {1000000000000000LL, 2, "PB"},
-    {1000000000000000000LL, 2, "EB"},
+    {1000LL, 0, QT_TRANSLATE_NOOP("platform", "KB")},
+    {1000000LL, 1, QT_TRANSLATE_NOOP("platform", "MB")},
+    {1000000000LL, 2, QT_TRANSLATE_NOOP("platform", "GB")},
+    {1000000000000LL, 2, QT_TRANSLATE_NOOP("platform", "TB")},
+    {1000000000000000LL, 2, QT_TRANSLATE_NOOP("platform", "PB")},
+    {1000000000000000000LL, 2, QT_TRANSLATE_NOOP("platform", "EB")},
 }};
 
 constexpr std::array<int, 3> partsByDecimals = {1, 10, 100};
@@ -33,35 +35,53 @@ qint64 partsOf(qint64 bytes, const Unit &unit)
     return bytes / part + (roundsUp ? 1 : 0);
 }
 
-QString inUnit(qint64 parts, const Unit &unit)
+QString numberText(qint64 parts, int decimals, const QString &point)
 {
-    const int perUnit = partsByDecimals.at(size_t(unit.decimals));
-    QString text = QString::number(parts / perUnit);
-    QString fraction = QString::number(parts % perUnit).rightJustified(unit.decimals, u'0');
+    const int perUnit = partsByDecimals.at(size_t(decimals));
+    const QString whole = QString::number(parts / perUnit);
+    QString fraction = decimals == 0 ? QString() : QString::number(parts % perUnit).rightJustified(decimals, u'0');
     while (fraction.endsWith(u'0'))
         fraction.chop(1);
-    if (unit.decimals > 0 && !fraction.isEmpty())
-        text += u'.' + fraction;
-    return text + u' ' + QString::fromLatin1(unit.name);
+    return fraction.isEmpty() ? whole : whole + point + fraction;
+}
+
+constexpr qint64 thousand = 1000;
+
+/** A count of at least a thousand: its number, and the unit that the number counts. */
+struct Amount
+{
+    QString number;
+    const char *unit;
+};
+
+Amount amountOf(qint64 bytes, const QString &point)
+{
+    auto unit = units.begin();
+    while (unit + 1 != units.end() && partsOf(bytes, *unit) >= thousand * partsByDecimals.at(size_t(unit->decimals)))
+        ++unit;
+    return {numberText(partsOf(bytes, *unit), unit->decimals, point), unit->name};
 }
 
 } // namespace
 
 QString byteCountText(qint64 bytes)
 {
-    constexpr qint64 thousand = 1000;
-    if (bytes <= 0)
-        return QStringLiteral("Zero KB");
-    if (bytes == 1)
-        return QStringLiteral("1 byte");
-    if (bytes < thousand)
-        return QString::number(bytes) + QStringLiteral(" bytes");
-    for (const Unit &unit : units) {
-        const qint64 parts = partsOf(bytes, unit);
-        if (parts < thousand * partsByDecimals.at(size_t(unit.decimals)) || &unit == &units.back())
-            return inUnit(parts, unit);
-    }
-    return {};
+    const qint64 count = std::max<qint64>(0, bytes);
+    if (count < thousand)
+        return QStringLiteral("%1 %2").arg(QString::number(count), count == 1 ? u"byte" : u"bytes");
+    const Amount amount = amountOf(count, QStringLiteral("."));
+    return amount.number + u' ' + QString::fromLatin1(amount.unit);
+}
+
+QString localByteCountText(qint64 bytes)
+{
+    const qint64 count = std::max<qint64>(0, bytes);
+    if (count == 1)
+        return QCoreApplication::translate("platform", "1 byte");
+    if (count < thousand)
+        return QCoreApplication::translate("platform", "%1 bytes").arg(count);
+    const Amount amount = amountOf(count, QLocale().decimalPoint());
+    return amount.number + u' ' + QCoreApplication::translate("platform", amount.unit);
 }
 
 QString mediumDateText(const QDateTime &date)

@@ -139,7 +139,7 @@ qint64 memoryLeft(const QString &root, qint64 addresses)
 QString memorySentence(const QString &name, qint64 need, qint64 left)
 {
     return QCoreApplication::translate("platform", "%1 needs about %2 of memory, %3 is free")
-        .arg(name, byteCountText(need), byteCountText(left));
+        .arg(name, localByteCountText(need), localByteCountText(left));
 }
 
 Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses)

@@ -12,7 +12,8 @@ import { RenameCard } from "./rename-card.js";
 const WHAT = ["files", "folders"];
 // What stands for a file where the list is empty.
 const SAMPLE = { path: "/IMG_2041.JPG", facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
-                                                 camera: "Canon EOS 40D", lens: "EF 50mm f/1.4", type: "JPEG", bytes: 4100000, width: 4032, height: 3024 } };
+                                                 camera: "Canon EOS 40D", lens: "EF 50mm f/1.4", type: "JPEG", bytes: 4100000, size: "4.1 MB",
+                                                 width: 4032, height: 3024 } };
 // About the height of a closed card and the gap behind it.
 const CARD_PX = 84;
 const SAMPLE_FOLDER = "/" + qsTr("Holiday 2026");

@@ -6,7 +6,7 @@ import { cutAt, hasHalf } from "../../../interface/actions/rename/text-cuts.js";
 import { equal, finish, isTrue, test } from "../check.js";
 
 const names = new cNSStringHandling();
-const FACTS = { taken: "2026-08-14T10:20:30", created: "", changed: "", camera: "", lens: "", type: "JPEG", bytes: 2400000, width: 40, height: 30 };
+const FACTS = { taken: "2026-08-14T10:20:30", created: "", changed: "", camera: "", lens: "", type: "JPEG", bytes: 2400000, size: "2.4 MB", width: 40, height: 30 };
 
 function made(steps, path, isFolder, facts) {
     return new NameChain(steps, names, () => "undated").apply(path, isFolder === true, facts === undefined ? FACTS : facts, true);

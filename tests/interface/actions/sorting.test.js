@@ -6,7 +6,7 @@ import { equal, finish, isTrue, test } from "../check.js";
 
 const FACTS = {
     taken: "2026-08-14T10:20:30", created: "2025-01-02T03:04:05", changed: "2024-12-31T23:59:58", camera: "Canon EOS 40D", lens: "",
-    bytes: 2440000, width: 3024, height: 4032, type: "JPEG", isFolder: false,
+    bytes: 2440000, size: "2.4 MB", width: 3024, height: 4032, type: "JPEG", isFolder: false,
 };
 const RULE = { undated: "folder", undatedName: "No date" };
 

@@ -5,7 +5,7 @@ import { equal, finish, isTrue, test } from "../check.js";
 
 const FACTS = {
     taken: "2026-08-14T10:20:30", created: "2025-01-02T03:04:05", changed: "2024-12-31T23:59:58", camera: "Canon EOS 40D",
-    lens: "EF 50mm", bytes: 2440000, width: 4032, height: 3024, type: "JPEG", isFolder: false,
+    lens: "EF 50mm", bytes: 2440000, size: "2.4 MB", width: 4032, height: 3024, type: "JPEG", isFolder: false,
 };
 const PATH = "/photos/Holiday/IMG_4711.JPG";
 
@@ -77,9 +77,15 @@ test("isNotMisledByValuesThatLookLikeTokens", () => {
     equal(expand(parse(literal("{taken} {")), { path: PATH, facts: FACTS }).text, "{taken} {");
 });
 
-const SIZES = [[0, "0 bytes"], [1, "1 byte"], [999, "999 bytes"], [12345, "12 KB"], [999499, "999 KB"], [999500, "1 MB"], [1.25e9, "1.25 GB"]];
-for (const row of SIZES) {
-    test("writes " + row[0] + " bytes", () => equal(expanded("{size}", { facts: { bytes: row[0] } }).text, row[1]));
+test("writesSizesAsTheFactsSayThem", () => {
+    equal(expanded("{size}", { facts: { bytes: 123400000, size: "123.4 MB" } }).text, "123.4 MB");
+    equal(expanded("{size}", { facts: { bytes: 0, size: "0 bytes" } }).text, "0 bytes");
+    equal(expanded("{size}", { facts: { bytes: -1, size: "" } }), { text: "", missing: ["size"] });
+});
+
+const MEGABYTES = [[0, "0"], [49999, "0"], [50000, "0.1"], [2440000, "2.4"], [2450000, "2.5"], [3e6, "3"], [123400000, "123.4"], [1.25e9, "1250"]];
+for (const row of MEGABYTES) {
+    test("writes " + row[0] + " bytes in megabytes", () => equal(expanded("{size:MB}", { facts: { bytes: row[0] } }).text, row[1]));
 }
 
 const CLASSES = [[0, "Under 1 MB"], [999999, "Under 1 MB"], [1e6, "1 to 5 MB"], [5e6, "5 to 20 MB"], [20e6, "20 MB and more"]];

@@ -80,7 +80,7 @@ for (const row of UNABLE) {
     });
 }
 
-const FACTS = { taken: "2026-08-14T10:20:30", created: "", changed: "2025-01-02T00:00:00", camera: "", lens: "", type: "", bytes: 1, width: 1, height: 1 };
+const FACTS = { taken: "2026-08-14T10:20:30", created: "", changed: "2025-01-02T00:00:00", camera: "", lens: "", type: "", bytes: 1, size: "1 byte", width: 1, height: 1 };
 
 test("putsTokensIntoComments", () => {
     const comment = commentMaker("{name}, {date:yyyy}, {counter:01}", { facts: () => FACTS });

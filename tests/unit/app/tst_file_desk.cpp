@@ -70,6 +70,7 @@ private Q_SLOTS:
     void collectsInNaturalOrderFilesFirst();
     void collectsWhatIsHardToReach();
     void tellsWhatItLeavesOut();
+    void saysSizesInEnglishForNamesAndInTheReadersWayForTheEye();
 };
 
 void TestFileDesk::placesOnlyWhereNothingIs()
@@ -300,6 +301,18 @@ void TestFileDesk::tellsWhatItLeavesOut()
     QCOMPARE(dropped.paths, QStringList{at("a.jpg")});
     QCOMPARE(dropped.leftOut, 2);
     QCOMPARE(dropped.example, text("missing.jpg"));
+}
+
+void TestFileDesk::saysSizesInEnglishForNamesAndInTheReadersWayForTheEye()
+{
+    QFile large(at("large"));
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(123400000));
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    const FileDesk desk;
+    QCOMPARE(desk.facts(at("large")).toMap().value(text("size")).toString(), text("123.4 MB"));
+    QCOMPARE(desk.byteText(123400000), text("123,4 MB"));
+    QLocale::setDefault(before);
 }
 
 QUORLIN_TEST(TestFileDesk)

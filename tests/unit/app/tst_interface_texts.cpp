@@ -1,7 +1,7 @@
 #include "app/window/look/interface_texts.h"
 
 #include "app/script/ScriptEngine.h"
-#include "app/window/formats.h"
+#include "platform/foundation/human_texts.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
@@ -92,7 +92,7 @@ void TestInterfaceTexts::tellsSizesInTheReadersWords_data()
 {
     QTest::addColumn<qint64>("bytes");
     QTest::addColumn<QString>("text");
-    QTest::newRow("nothing") << qint64(0) << QStringLiteral("0 Ko");
+    QTest::newRow("nothing") << qint64(0) << QStringLiteral("0 octets");
     QTest::newRow("bytes") << qint64(34) << QStringLiteral("34 octets");
     QTest::newRow("millions") << qint64(2400000) << QStringLiteral("2.4 Mo");
     QTest::newRow("not translated") << qint64(3000000000) << QStringLiteral("3 GB");
@@ -102,10 +102,9 @@ void TestInterfaceTexts::tellsSizesInTheReadersWords()
 {
     QFETCH(qint64, bytes);
     window::InterfaceTexts texts;
-    QVERIFY(texts.read(
-        write("fr.json", "{\"formats\": {\"Zero KB\": \"0 Ko\", \"%1 bytes\": \"%1 octets\", \"MB\": \"Mo\"}}")));
+    QVERIFY(texts.read(write("fr.json", "{\"platform\": {\"%1 bytes\": \"%1 octets\", \"MB\": \"Mo\"}}")));
     QVERIFY(QCoreApplication::installTranslator(&texts));
-    QTEST(window::byteText(bytes), "text");
+    QTEST(platform::localByteCountText(bytes), "text");
     QCoreApplication::removeTranslator(&texts);
 }
 

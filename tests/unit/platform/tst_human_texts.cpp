@@ -1,6 +1,7 @@
 #include "platform/foundation/human_texts.h"
 #include "tests/support/test_program.h"
 
+#include <QLocale>
 #include <QTest>
 
 #include <limits>
@@ -15,6 +16,7 @@ class TestHumanTexts : public QObject
 private Q_SLOTS:
     void countsBytes_data();
     void countsBytes();
+    void countsBytesWithTheReadersDecimalSign();
     void writesDatesTheBritishWay_data();
     void writesDatesTheBritishWay();
 };
@@ -26,8 +28,8 @@ void TestHumanTexts::countsBytes_data()
     const auto row = [](qint64 bytes, const char *text) {
         QTest::addRow("%lld", bytes) << bytes << QString::fromUtf8(text);
     };
-    row(-1, "Zero KB");
-    row(0, "Zero KB");
+    row(-1, "0 bytes");
+    row(0, "0 bytes");
     row(1, "1 byte");
     row(2, "2 bytes");
     row(999, "999 bytes");
@@ -44,6 +46,7 @@ void TestHumanTexts::countsBytes_data()
     row(1050000, "1.1 MB");
     row(2400000, "2.4 MB");
     row(10000000, "10 MB");
+    row(123400000, "123.4 MB");
     row(999949999, "999.9 MB");
     row(999950000, "1 GB");
     row(1005000000, "1.01 GB");
@@ -61,6 +64,18 @@ void TestHumanTexts::countsBytes()
     QFETCH(qint64, bytes);
     QFETCH(QString, text);
     QCOMPARE(byteCountText(bytes), text);
+    QCOMPARE(localByteCountText(bytes), text);
+}
+
+void TestHumanTexts::countsBytesWithTheReadersDecimalSign()
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    QCOMPARE(localByteCountText(123400000), QStringLiteral("123,4 MB"));
+    QCOMPARE(localByteCountText(1250000000), QStringLiteral("1,25 GB"));
+    QCOMPARE(localByteCountText(1000), QStringLiteral("1 KB"));
+    QCOMPARE(byteCountText(123400000), QStringLiteral("123.4 MB"));
+    QLocale::setDefault(before);
 }
 
 void TestHumanTexts::writesDatesTheBritishWay_data()
