@@ -10,6 +10,7 @@ import shutil
 import signal
 import subprocess
 import sys
+import tempfile
 import time
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
@@ -46,39 +47,49 @@ def told(code):
 
 def in_runner(runner, work, steps):
     words = [str(word) for step in steps for word in step]
-    ended = subprocess.run([runner, str(SCRIPT), f"{work}/{os.getpid()}-", *words], capture_output=True, text=True,
-                           errors="replace", timeout=LONGEST)
+    with tempfile.TemporaryDirectory(dir=work) as folder:
+        try:
+            ended = subprocess.run([runner, str(SCRIPT), f"{folder}/", *words], capture_output=True, text=True,
+                                   errors="replace", timeout=LONGEST)
+        except subprocess.TimeoutExpired:
+            return [f"{' '.join(words)}: takes more than {LONGEST} s"]
     answers = len(ended.stdout.splitlines())
     if ended.returncode == 0 and answers == len(steps):
         return []
     return [f"{' '.join(words)}: {told(ended.returncode)}, {answers} answers of {len(steps)}: {ended.stderr.strip()[-200:]}"]
 
 
-def spent(process):
-    """What a process has computed, in the kernel's ticks."""
+def has_started(home):
+    """The window writes down which action it shows as soon as it does."""
+    return any(b"ShownAction" in settings.read_bytes() for settings in home.glob("config/*/*.ini"))
+
+
+def stand(process):
+    """Whether a process waits for something to happen, and what it has computed, in the kernel's ticks."""
     fields = Path(f"/proc/{process.pid}/stat").read_text().rpartition(")")[2].split()
-    return int(fields[11]) + int(fields[12])
+    return fields[0] == "S", int(fields[11]) + int(fields[12])
 
 
 def in_window(window, home, files):
-    """Opens the window with pictures and waits until it has nothing more to do."""
+    """Opens the window with pictures and waits until it is there and has nothing more to do."""
     environment = dict(os.environ, HOME=str(home), XDG_CONFIG_HOME=f"{home}/config", XDG_DATA_HOME=f"{home}/data")
     process = subprocess.Popen([window, *map(str, files)], env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     start, last, quiet = time.monotonic(), -1, 0
-    least_ticks, least_quiet, pause = 20, 4, 0.25
+    least_quiet, pause = 6, 0.1
     while process.poll() is None and time.monotonic() - start < LONGEST and quiet < least_quiet:
         time.sleep(pause)
         try:
-            now = spent(process)
+            waits, now = stand(process)
         except OSError:
             continue
-        quiet = quiet + 1 if now - last <= 1 and now > least_ticks else 0
+        quiet = quiet + 1 if waits and now == last and (quiet > 0 or has_started(home)) else 0
         last = now
+    name = f"window with {' '.join(map(str, files))}"
     if process.poll() is not None:
-        return [f"window with {' '.join(map(str, files))}: {told(process.returncode)}"]
+        return [f"{name}: {told(process.returncode)}"]
     process.terminate()
     process.wait()
-    return []
+    return [] if quiet >= least_quiet else [f"{name}: still busy after {LONGEST} s"]
 
 
 def runs_of(files, other):
@@ -108,10 +119,12 @@ def main(runner, window, work, corpus=None):
     shown = [[path] for path in (files if corpus is not None else [path for path in own if path.suffix in (".bmp", ".psd")][:4])]
     if corpus is not None:
         shown += [[other, path] for path in files]
-    with ThreadPoolExecutor(2) as pool:
+    # Nobody may be in the way of another: a window waits longer than it computes, the runner does not wait.
+    processors = len(os.sched_getaffinity(0))
+    with ThreadPoolExecutor(processors) as pool:
         problems = [line for found in pool.map(lambda run: in_runner(runner, work, run), runs) for line in found]
     homes = iter(range(len(shown)))
-    with ThreadPoolExecutor(4) as pool:
+    with ThreadPoolExecutor(4 * processors) as pool:
         problems += [line for found in pool.map(lambda paths: in_window(window, work / f"home{next(homes)}", paths), shown)
                      for line in found]
     print(f"{len(runs)} processes of the runner, {len(shown)} windows, {len(problems)} problems")
