@@ -2,7 +2,9 @@
 
 #include "platform/graphics/pixels.h"
 #include "platform/imageio/content.h"
+#include "platform/imageio/jpeg_segments.h"
 #include "platform/imageio/photoshop_file.h"
+#include "platform/imageio/png_exif_text.h"
 #include "platform/imageio/tiff_tree.h"
 
 #include <QBuffer>
@@ -88,17 +90,26 @@ qsizetype behindColours(const QByteArray &bytes, qsizetype flagsAt, qsizetype at
 
 QByteArray xmpOfPng(const QByteArray &bytes)
 {
-    static const QByteArray keyword("XML:com.adobe.xmp\0\0", 19); // and not compressed
     constexpr qsizetype frame = 12;
     for (qsizetype at = 8; at + frame <= bytes.size();) {
         const auto size = qsizetype(qFromBigEndian<quint32>(bytes.constData() + at));
         if (size > bytes.size() - at - frame)
             break;
         const auto data = QByteArray::fromRawData(bytes.constData() + at + 8, size);
-        if (bytes.mid(at + 4, 4) == "iTXt" && data.startsWith(keyword))
-            return data.mid(std::max<qsizetype>(0, data.indexOf('<')));
+        if (const auto packet = xmpOfPngText(bytes.mid(at + 4, 4), data))
+            return packet->mid(std::max<qsizetype>(0, packet->indexOf('<')));
         at += frame + size;
     }
+    return {};
+}
+
+QByteArray xmpOfJpeg(const QByteArray &bytes)
+{
+    static const QByteArray name("http://ns.adobe.com/xap/1.0/\0", 29);
+    constexpr qsizetype marker = 4; // and the length
+    for (const JpegSegments::Range &segment : findJpegSegments(bytes).metadata)
+        if (bytes.mid(segment.start + marker, name.size()) == name)
+            return bytes.mid(segment.start, segment.size).mid(marker + name.size());
     return {};
 }
 
@@ -127,6 +138,8 @@ QByteArray xmpOfTiff(const QByteArray &bytes)
 QByteArray xmpPacketOf(const QByteArray &bytes)
 {
     switch (contentOf(bytes.left(contentHeadBytes))) {
+    case Content::Jpeg:
+        return xmpOfJpeg(bytes);
     case Content::Png:
         return xmpOfPng(bytes);
     case Content::Webp:

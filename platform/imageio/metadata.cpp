@@ -9,7 +9,7 @@
 #include "platform/imageio/png_chunks.h"
 #include "platform/imageio/user_comment.h"
 #include "platform/imageio/webp_exif.h"
-#include "platform/imageio/xmp_packet.h"
+#include "platform/imageio/xmp_bounds.h"
 
 #include <exception>
 #include <optional>
@@ -166,9 +166,10 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
     if (const std::optional<ContainerBlocks> found = blocksOf(bytes))
         return fromBlocks(found->exif, found->xmp, found->iptc);
     const JpegSegments segments = findJpegSegments(bytes);
-    if (const QByteArray packet = xmpPacketOf(bytes); !isDigestibleXmp(packet)) {
+    if (const QByteArray packet = xmpPacketOf(bytes); !isDigestibleXmp(packet) || !holdsDigestibleXmp(bytes)) {
         blocks->xmpPacket = packet.toStdString();
         attempt([&] { readTagsAlone(*blocks, bytes); });
+        attempt([&] { readExifBlock(*blocks, segments.exif); });
     } else {
         attempt([&] { isBigTiff(bytes) ? readBigTiff(*blocks, bytes) : readImage(*blocks, bytes); });
     }

@@ -5,6 +5,7 @@
 #include "platform/imageio/png_chunks.h"
 #include "platform/imageio/tiff_graft.h"
 #include "platform/imageio/tiff_reader.h"
+#include "platform/imageio/xmp_bounds.h"
 #include "platform/imageio/xmp_packet.h"
 
 #include <QtEndian>

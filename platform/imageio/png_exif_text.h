@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include <optional>
+
 namespace platform {
 
 /** A compressed text of a PNG, or nothing where it is not sound or longer than @p most bytes; never makes more of it. */
@@ -17,5 +19,13 @@ QByteArray inflatedText(const QByteArray &compressed, qsizetype most);
  * @param chunk  keyword and text as the file has them
  */
 QByteArray exifOfPngText(const QByteArray &type, const QByteArray &chunk);
+
+/**
+ * The XMP packet of such a text, or of one that is made for it; empty where it is damaged or longer than four megabytes, and
+ * none for other texts.
+ *
+ * @param type   "iTXt" too
+ */
+std::optional<QByteArray> xmpOfPngText(const QByteArray &type, const QByteArray &chunk);
 
 } // namespace platform

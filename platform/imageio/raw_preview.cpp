@@ -44,16 +44,13 @@ bool describesRaw(const QByteArray &head, const TiffNumbers &numbers)
 }
 
 /** The library reads all metadata on its way to the preview. */
-bool hasEndlessXmp(const PictureBytes &file)
+bool hasReadableMetadata(const PictureBytes &file)
 {
-    const auto isEndless = [](const QByteArray &bytes) {
-        return withoutEndlessXmp(bytes).constData() != bytes.constData();
-    };
     QFile opened(file.path);
     if (file.path.isEmpty() || !opened.open(QIODevice::ReadOnly))
-        return isEndless(file.bytes);
+        return holdsDigestibleXmp(file.bytes);
     const uchar *data = opened.map(0, opened.size());
-    return data && isEndless(QByteArray::fromRawData(reinterpret_cast<const char *>(data), opened.size()));
+    return !data || holdsDigestibleXmp(QByteArray::fromRawData(reinterpret_cast<const char *>(data), opened.size()));
 }
 
 QByteArray largestJpeg(const Exiv2::Image &image)
@@ -86,7 +83,7 @@ bool isCameraRaw(const QByteArray &head)
 QByteArray rawPreview(const PictureBytes &file)
 {
     startMetadataLibrary();
-    if (hasEndlessXmp(file))
+    if (!hasReadableMetadata(file))
         return {};
     try {
         const auto image =

@@ -6,98 +6,121 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <optional>
 
 namespace platform {
 namespace {
 
-constexpr qsizetype mostBeside = 5000;     // properties in one place, of which each is compared with each
-constexpr qsizetype mostInAll = 300'000;   // entries of lists too
-constexpr qsizetype surelyFew = 30 * 1024; // no packet of this size can hold as many
+constexpr qsizetype surelyFew = 16384; // no packet of this size can hold as many
 constexpr QByteArrayView nameSpace("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
+constexpr QByteArrayView pngSignature("\x89PNG\r\n\x1a\n");
 
-/** From the start of the element around @p hit to the end of the packet, or of the file. */
-QByteArrayView packetAround(const QByteArray &file, qsizetype hit)
+/** So many properties side by side take a third of a second. */
+constexpr qsizetype mostTogether = 4000;
+
+/** Whether one tag has so many attributes that even the reader of XML, which compares each with each, takes long. */
+bool hasCrowdedTag(const QByteArray &packet)
 {
-    const qsizetype start = std::max<qsizetype>(0, file.lastIndexOf('<', hit));
-    const qsizetype end = file.indexOf("RDF>", hit);
-    return QByteArrayView(file).sliced(start, (end < 0 ? file.size() : end + 4) - start);
-}
-
-/** A PNG may hold its packet compressed, and in the hexadecimal digits of older programs. */
-bool isEndlessPngText(const QByteArray &type, const QByteArray &data)
-{
-    constexpr qsizetype mostText = 4 << 20;
-    constexpr qsizetype textFlags = 5; // two flags and three ends of texts
-    const QByteArray keyword = data.left(data.indexOf('\0'));
-    if (keyword.toLower() == "raw profile type xmp")
-        return data.size() > surelyFew;
-    if (type != "iTXt" || keyword != "XML:com.adobe.xmp" || data.size() <= keyword.size() + textFlags)
-        return false;
-    const bool isCompressed = data.at(keyword.size() + 1) != 0;
-    const qsizetype language = data.indexOf('\0', keyword.size() + 3);
-    const qsizetype text = language < 0 ? -1 : data.indexOf('\0', language + 1);
-    if (!isCompressed || text < 0)
-        return false;
-    const QByteArray packet = inflatedText(data.mid(text + 1), mostText);
-    return packet.isEmpty() || isEndlessXmp(packet);
-}
-
-/** Gives the chunks of a PNG that hold such a packet a name that nobody reads. */
-void renameEndlessTexts(QByteArray &file)
-{
-    constexpr qsizetype signature = 8;
-    constexpr qsizetype frame = 12;
-    for (qsizetype at = signature; at + frame <= file.size();) {
-        const auto size = qsizetype(qFromBigEndian<quint32>(file.constData() + at));
-        if (size > file.size() - at - frame)
-            return;
-        const auto type = QByteArrayView(file).sliced(at + 4, 4);
-        const bool isText = type == QByteArrayView("iTXt") || type == QByteArrayView("zTXt");
-        if (isText && isEndlessPngText(type.toByteArray(), QByteArray::fromRawData(file.constData() + at + 8, size)))
-            file.replace(at + 4, 4, "quRx");
-        at += frame + size;
-    }
-}
-
-} // namespace
-
-bool isEndlessXmp(const QByteArray &packet)
-{
-    if (packet.size() <= surelyFew)
-        return false;
-    QXmlStreamReader reader(packet);
-    QList<qsizetype> beside = {0};
-    qsizetype inAll = 0;
-    while (!reader.atEnd()) {
-        const auto token = reader.readNext();
-        if (token == QXmlStreamReader::EndElement && beside.size() > 1)
-            beside.removeLast();
-        if (token != QXmlStreamReader::StartElement)
-            continue;
-        const qsizetype attributes = reader.attributes().size();
-        const bool isEntry = reader.qualifiedName().endsWith(QLatin1String(":li"));
-        beside.last() += isEntry ? 0 : 1;
-        inAll += 1 + attributes;
-        if (beside.last() > mostBeside || attributes > mostBeside || inAll > mostInAll)
+    qsizetype count = 0;
+    for (const char letter : packet) {
+        count = letter == '<' ? 0 : count + (letter == '=');
+        if (count > mostTogether)
             return true;
-        beside.append(attributes);
     }
     return false;
 }
 
-QByteArray withoutEndlessXmp(const QByteArray &file)
+/** Counts what stands side by side: properties of the picture, and those within each item of a list. */
+class PropertyCount
 {
-    QByteArray readable = file;
-    for (qsizetype hit = file.indexOf(nameSpace); hit >= 0; hit = file.indexOf(nameSpace, hit + nameSpace.size())) {
-        if (file.size() - hit <= surelyFew)
-            break;
-        const QByteArrayView packet = packetAround(file, hit);
-        if (isEndlessXmp(QByteArray::fromRawData(packet.data(), packet.size())))
-            readable.replace(packet.data() - file.constData(), packet.size(), QByteArray(packet.size(), ' '));
+public:
+    bool isBeyond() const { return m_outside > mostTogether || m_inItem > mostTogether || m_all > mostAltogether; }
+
+    void enter(const QXmlStreamReader &reader)
+    {
+        const bool isItem = reader.name() == QLatin1String("li");
+        m_inItem = isItem && m_items == 0 ? 0 : m_inItem;
+        (m_items > 0 ? m_inItem : m_outside) += (isItem ? 0 : 1) + reader.attributes().size();
+        m_all += 1 + reader.attributes().size();
+        m_items += isItem;
     }
-    if (file.startsWith("\x89PNG"))
-        renameEndlessTexts(readable);
-    return readable;
+    void leave(const QXmlStreamReader &reader) { m_items -= reader.name() == QLatin1String("li"); }
+
+private:
+    static constexpr qsizetype mostAltogether = 100'000;
+
+    qsizetype m_outside = 0;
+    qsizetype m_inItem = 0;
+    qsizetype m_all = 0;
+    int m_items = 0; ///< that are open
+};
+
+/** Behind the tag that closes what begins at @p at; the end of the file where there is none. */
+qsizetype endOfPacket(QByteArrayView file, qsizetype at)
+{
+    constexpr QByteArrayView tail("RDF>");
+    constexpr qsizetype longestPrefix = 64;
+    for (qsizetype found = file.indexOf(tail, at); found >= 0; found = file.indexOf(tail, found + tail.size())) {
+        const QByteArrayView before = file.first(found).last(std::min(found - at, longestPrefix));
+        const qsizetype tag = before.lastIndexOf('<');
+        if (tag >= 0 && tag + 1 < before.size() && before.at(tag + 1) == '/')
+            return found + tail.size();
+    }
+    return file.size();
+}
+
+/** A PNG may hold its packet compressed, or in the hexadecimal digits of older programs. */
+bool holdsDigestibleTexts(const QByteArray &png)
+{
+    constexpr qsizetype frame = 12;
+    for (qsizetype at = pngSignature.size(); at + frame <= png.size();) {
+        const auto size = qsizetype(qFromBigEndian<quint32>(png.constData() + at));
+        if (size > png.size() - at - frame)
+            break;
+        const QByteArray chunk = QByteArray::fromRawData(png.constData() + at + 8, size);
+        const std::optional<QByteArray> packet = xmpOfPngText(png.mid(at + 4, 4), chunk);
+        if (packet && !isDigestibleXmp(*packet))
+            return false;
+        at += frame + size;
+    }
+    return true;
+}
+
+} // namespace
+
+bool isDigestibleXmp(const QByteArray &packet)
+{
+    if (packet.size() <= surelyFew)
+        return true;
+    if (hasCrowdedTag(packet))
+        return false;
+    QXmlStreamReader reader(packet);
+    PropertyCount count;
+    while (!reader.atEnd() && !count.isBeyond()) {
+        const auto token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            count.enter(reader);
+        else if (token == QXmlStreamReader::EndElement)
+            count.leave(reader);
+    }
+    return !count.isBeyond();
+}
+
+bool holdsDigestibleXmp(const QByteArray &file)
+{
+    const QByteArrayView all(file);
+    for (qsizetype done = 0; all.size() - done > surelyFew;) {
+        const QByteArrayView rest = all.sliced(done);
+        const qsizetype hit = rest.indexOf(nameSpace);
+        if (hit < 0)
+            break;
+        const qsizetype start = std::max<qsizetype>(0, rest.first(hit).lastIndexOf('<'));
+        const qsizetype end = endOfPacket(rest, hit);
+        if (!isDigestibleXmp(QByteArray::fromRawData(rest.data() + start, end - start)))
+            return false;
+        done += end;
+    }
+    return !file.startsWith(pngSignature) || holdsDigestibleTexts(file);
 }
 
 } // namespace platform

@@ -6,13 +6,16 @@
 
 namespace platform {
 
-/** True for an XMP packet of more properties than its reader, which compares each with each, can take in. */
-bool isEndlessXmp(const QByteArray &packet);
+/**
+ * False for a packet with so many properties that taking it apart, which takes time by the square of their number, would hold
+ * up whoever asks; lists may be long. Such a packet is carried as it is, and its properties are not known.
+ */
+bool isDigestibleXmp(const QByteArray &packet);
 
 /**
- * The bytes of a file as its metadata may be read: those of the file, or a copy in which blanks stand in the place of an
- * endless XMP packet.
+ * False where a file of any type holds a packet that is not digestible, so that nobody may read it who takes apart all packets
+ * on the way.
  */
-QByteArray withoutEndlessXmp(const QByteArray &file);
+bool holdsDigestibleXmp(const QByteArray &file);
 
 } // namespace platform

@@ -11,10 +11,4 @@ namespace platform {
  */
 QByteArray xmpForNewPixels(const QByteArray &packet, QSize pixels);
 
-/**
- * False for a packet with so many properties that taking it apart, which takes time by the square of their number, would hold
- * up whoever asks; lists may be long. Such a packet is carried as it is, and its properties are not known.
- */
-bool isDigestibleXmp(const QByteArray &packet);
-
 } // namespace platform

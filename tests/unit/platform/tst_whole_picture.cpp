@@ -4,7 +4,6 @@
 #include "platform/imageio/picture_facts.h"
 #include "platform/imageio/svg_work.h"
 #include "platform/imageio/whole_picture.h"
-#include "platform/imageio/xmp_bounds.h"
 #include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
@@ -99,8 +98,6 @@ private Q_SLOTS:
     void stepsOverSmallPartsInBlocks();
     void readsAJpegWithBytesBetweenItsSegments();
     void factsAndMetadataAgreeAboutRawFiles();
-    void passesOverEndlessXmp_data();
-    void passesOverEndlessXmp();
     void reckonsTheWorkOfDrawings_data();
     void reckonsTheWorkOfDrawings();
     void doesNotDrawWhatTakesTooLong();
@@ -270,33 +267,6 @@ void TestWholePicture::factsAndMetadataAgreeAboutRawFiles()
         return;
     QCOMPARE(platform::pictureFacts(real).pixels, ImageSource::open(real)->uprightSize());
     QCOMPARE(platform::pictureFacts(real).camera, QStringLiteral("Panasonic DMC-LX3"));
-}
-
-void TestWholePicture::passesOverEndlessXmp_data()
-{
-    QTest::addColumn<int>("properties");
-    QTest::addColumn<bool>("isList");
-    QTest::addColumn<bool>("isRead");
-    QTest::newRow("some") << 1000 << false << true;
-    QTest::newRow("too many") << 30'000 << false << false;
-    QTest::newRow("a long list") << 30'000 << true << true;
-}
-
-void TestWholePicture::passesOverEndlessXmp()
-{
-    QFETCH(int, properties);
-    QFETCH(bool, isList);
-    QFETCH(bool, isRead);
-    QByteArray body = isList ? "<x:list><rdf:Bag>" : "";
-    for (int index = 0; index < properties; ++index)
-        body += isList ? QByteArray("<rdf:li>v</rdf:li>") : "<x:p" + QByteArray::number(index) + "/>";
-    body += isList ? "</rdf:Bag></x:list>" : "";
-    const QByteArray packet =
-        "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF "
-        "xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\"><rdf:Description rdf:about=\"\" "
-        "xmlns:x=\"http://example.org/\">" +
-        body + "</rdf:Description></rdf:RDF></x:xmpmeta>";
-    QCOMPARE(platform::isEndlessXmp(packet), !isRead);
 }
 
 void TestWholePicture::reckonsTheWorkOfDrawings_data()
