@@ -1,6 +1,7 @@
 #include "app/window/picture_desk.h"
 
 #include "image/overlay.h"
+#include "platform/foundation/memory_left.h"
 #include "platform/foundation/type_identifiers.h"
 #include "platform/graphics/picture.h"
 #include "platform/imageio/image_destination.h"
@@ -25,6 +26,11 @@ QString PictureDesk::layOnPattern(const QString &path, const QString &pattern, c
     options.resolution = platform::WriteResolution::Yes;
     const auto written = platform::writeImageFile(target, *laid, *format, options);
     return written ? QString() : written.error().message;
+}
+
+QString PictureDesk::takeMemoryRefusal() const
+{
+    return platform::takeMemoryRefusal();
 }
 
 } // namespace window

@@ -20,6 +20,9 @@ public:
      * @return a sentence that says what failed; empty where nothing did
      */
     Q_INVOKABLE QString layOnPattern(const QString &path, const QString &pattern, const QString &target) const;
+
+    /** See platform::takeMemoryRefusal(): the operations of the services answer "Failed" and no more. */
+    Q_INVOKABLE QString takeMemoryRefusal() const;
 };
 
 } // namespace window

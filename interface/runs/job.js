@@ -1,6 +1,6 @@
 // Carries out a plan, one picture after the other. A generator: whoever runs it may stop after any picture, and what is
 // unfinished is then removed. The same runner serves the windows and the command line.
-// Services used: files (info, makeFolder, makeStaging, place, ...), and what the step uses.
+// Services used: files (info, makeFolder, makeStaging, place, ...), pictures (takeMemoryRefusal), and what the step uses.
 
 import { joinPath, numberedName } from "../lib/names.js";
 
@@ -105,8 +105,11 @@ function makeOne(item, step, settings, services, workshop) {
 function finalResult(item, step, settings, services, workshop) {
     const started = Date.now();
     let result;
+    services.pictures.takeMemoryRefusal(); // of what was shown before
     try {
         result = makeOne(item, step, settings, services, workshop);
+        const refusal = services.pictures.takeMemoryRefusal();
+        result.reason = result.status === "Failed" && refusal !== "" ? refusal : result.reason;
     } catch (error) {
         result = failed(String(error.message || error));
     }

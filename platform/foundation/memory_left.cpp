@@ -13,6 +13,7 @@
 #include <optional>
 #include <sys/resource.h>
 #include <unistd.h>
+#include <utility>
 
 namespace platform {
 namespace {
@@ -128,6 +129,12 @@ void tell(const QString &name, const QString &sentence)
     logLine(sentence);
 }
 
+QString &lastRefusal()
+{
+    thread_local QString words;
+    return words;
+}
+
 } // namespace
 
 qint64 memoryLeft(const QString &root, qint64 addresses)
@@ -140,6 +147,11 @@ QString memorySentence(const QString &name, qint64 need, qint64 left)
 {
     return QCoreApplication::translate("platform", "%1 needs about %2 of memory, %3 is free")
         .arg(name, localByteCountText(need), localByteCountText(left));
+}
+
+QString takeMemoryRefusal()
+{
+    return std::exchange(lastRefusal(), QString());
 }
 
 Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses)
@@ -157,6 +169,8 @@ Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses)
         return {};
 #endif
     const QString sentence = memorySentence(name, all, left);
+    lastRefusal() = QCoreApplication::translate("platform", "needs about %1 of memory, %2 is free")
+                        .arg(byteCountText(all), byteCountText(left));
     tell(name, sentence);
     return failure(ErrorCode::TooLarge, sentence);
 }

@@ -17,6 +17,12 @@ qint64 memoryLeft(const QString &root = QStringLiteral("/"), qint64 addresses = 
 QString memorySentence(const QString &name, qint64 need, qint64 left);
 
 /**
+ * What was refused last for want of memory, in words without its name: "needs about 3.6 GB of memory, 1.2 GB is free". Empty where
+ * nothing was since this was asked before. For those who learn no more from an operation than that it failed.
+ */
+QString takeMemoryRefusal();
+
+/**
  * Fails with TooLarge, a sentence and a line in the log where @p need bytes, and a little for what every operation takes
  * beside, are not to be had.
  *

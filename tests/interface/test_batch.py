@@ -18,7 +18,8 @@ def digest(path):
 def run(runner, batch, out, files, home):
     environment = dict(os.environ, HOME=str(home), XDG_DATA_HOME=str(home / "data"), XDG_CONFIG_HOME=str(home / "config"),
                        QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
-    return subprocess.run([runner, batch, str(out), *map(str, files)], capture_output=True, text=True, env=environment,
+    command = runner if isinstance(runner, list) else [runner]
+    return subprocess.run([*command, batch, str(out), *map(str, files)], capture_output=True, text=True, env=environment,
                           timeout=200, check=False)
 
 
@@ -49,6 +50,14 @@ def main():
         assert bad.returncode == 1, bad.stdout
         assert "Failed: not a readable picture" in bad.stdout, bad.stdout
         assert not (base / "out2").exists(), "a folder in which nothing came to be is taken away"
+
+        large = source / "large.png"
+        subprocess.run(["convert", "-size", "14000x10000", "xc:white", "-define", "png:color-type=2", str(large)], check=True)
+        limited = ["prlimit", "--as=600000000", runner]
+        short = run(limited, batch, base / "out3", [large, files[0]], base)
+        large.unlink()
+        if not os.environ.get("QUORLIN_SANITIZED"):
+            assert "Failed: needs about " in short.stdout and "1 done, 1 failed" in short.stdout, short.stdout + short.stderr
 
         assert run(runner, batch, out, [], base).returncode == 2
         assert [digest(path) for path in files] == before, "the originals were touched"

@@ -3,6 +3,7 @@
 #include "app/window/look/theme.h"
 #include "app/window/preview/preview_host.h"
 #include "app/window/preview/preview_paint.h"
+#include "platform/foundation/memory_left.h"
 
 #include <QFocusEvent>
 #include <QJSEngine>
@@ -15,6 +16,11 @@ namespace {
 constexpr int marginPx = 32;
 constexpr int settleMs = 90;
 constexpr int nextPictureMs = 15;
+
+QString reasonText(const QString &reason)
+{
+    return reason.isEmpty() ? reason : QStringLiteral(": ") + reason;
+}
 
 } // namespace
 
@@ -187,9 +193,10 @@ void ComparePreview::load()
         openPicture();
     m_base = {};
     if (!m_picture.isNull()) {
+        platform::takeMemoryRefusal();
         m_base = m_picture.scaledTo(decodedSize(m_picture.pixelSize())).value_or(platform::Bitmap());
         if (m_base.isNull())
-            m_problem = tr("This picture cannot be shown");
+            m_problem = tr("This picture cannot be shown") + reasonText(platform::takeMemoryRefusal());
     }
     m_estimate.setOriginal(m_path, {m_base, m_picture.pixelSize()});
     fitViews();

@@ -9,11 +9,18 @@ function item(name, changes) {
                            path: "/out/" + name, replaces: false, replaced: "" }, changes || {});
 }
 
+// What was refused for want of memory: by somebody else before, and by the operation.
+const memory = { told: "", takeMemoryRefusal() { const words = this.told; this.told = ""; return words; } };
+
 // Writes a file of 5 bytes, but for names that say otherwise.
 const step = {
     run(picture, settings, services) {
         if (picture.name.startsWith("bad")) {
             return { status: "Failed", reason: "not a readable picture", outputs: [] };
+        }
+        if (picture.name.startsWith("large")) {
+            memory.told = "needs about 3.6 GB of memory, 1.2 GB is free";
+            return { status: "Failed", reason: "the file could not be written", outputs: [] };
         }
         if (picture.name.startsWith("throws")) {
             throw new Error("a mistake of ours");
@@ -24,7 +31,7 @@ const step = {
 };
 
 function run(items, files, settings) {
-    return drain(runItems(items, step, settings || SETTINGS, { files: files }));
+    return drain(runItems(items, step, settings || SETTINGS, { files: files, pictures: memory }));
 }
 
 test("bringsEveryResultIntoItsPlace", () => {
@@ -38,6 +45,13 @@ test("goesOnAfterAFailure", () => {
     const results = run([item("bad.jpg"), item("throws.jpg"), item("c.jpg")], new FakeFiles({})).result;
     equal(results.map((result) => result.status), ["Failed", "Failed", "OK"]);
     equal(results[1].reason, "a mistake of ours");
+});
+
+test("saysThatMemoryIsShort", () => {
+    memory.told = "needs 1 GB for a picture that was only looked at";
+    const results = run([item("bad.jpg"), item("large.jpg"), item("c.jpg"), item("bad2.jpg")], new FakeFiles({})).result;
+    equal(results.map((result) => result.reason),
+          ["not a readable picture", "needs about 3.6 GB of memory, 1.2 GB is free", "", "not a readable picture"]);
 });
 
 test("reportsExactlyOneEndPerPicture", () => {
@@ -75,7 +89,7 @@ test("holdsOnlyAFewFoldersAtATime", () => {
     const files = new FakeFiles({});
     let most = 0;
     const many = Array(200).fill(0).map((zero, i) => item("a.jpg", { folder: "/out" + i, path: "/out" + i + "/a.jpg" }));
-    const work = runItems(many, step, SETTINGS, { files: files });
+    const work = runItems(many, step, SETTINGS, { files: files, pictures: memory });
     for (let next = work.next(); !next.done; next = work.next()) {
         most = Math.max(most, files.stagings.length);
     }
@@ -84,7 +98,7 @@ test("holdsOnlyAFewFoldersAtATime", () => {
 
 test("removesWhatIsUnfinishedWhenStopped", () => {
     const files = new FakeFiles({});
-    const work = runItems([item("a.jpg"), item("b.jpg")], step, SETTINGS, { files: files });
+    const work = runItems([item("a.jpg"), item("b.jpg")], step, SETTINGS, { files: files, pictures: memory });
     work.next();
     work.next();
     equal(files.stagings.length, 1);

@@ -162,6 +162,22 @@ private Q_SLOTS:
                  QStringLiteral("/a/b.png needs about 3.6 GB of memory, 1.2 GB is free"));
     }
 
+    void whatWasRefusedIsAskedForOnce()
+    {
+        const int result = resultWithin(100 * mega, [] {
+            platform::setLogSink([](const QString &) {});
+            if (!platform::takeMemoryRefusal().isEmpty())
+                return 1;
+            if (platform::memoryIsLeftFor(200 * mega, QStringLiteral("/a/b.png")))
+                return 2;
+            const QString words = platform::takeMemoryRefusal();
+            if (!words.startsWith(QLatin1String("needs about 267")) || !words.endsWith(QLatin1String(" is free")))
+                return 3;
+            return platform::takeMemoryRefusal().isEmpty() ? 0 : 4;
+        });
+        QCOMPARE(result, 0);
+    }
+
     void aPictureThatCannotFitIsRefusedBeforeItIsDecoded()
     {
         const auto isRefused = [this](const auto &attempt) {
