@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstring>
 #include <malloc.h>
+#include <sys/resource.h>
 
 namespace platform {
 namespace {
@@ -51,6 +52,19 @@ void keepMemoryForNextPicture()
     constexpr int mostKept = 256 << 20;
     mallopt(M_MMAP_THRESHOLD, noBufferIsLargeEnough);
     mallopt(M_TRIM_THRESHOLD, mostKept);
+#endif
+}
+
+/**
+ * A heap of its own for each thread reserves 64 MB of address space and more. Where that is limited, what is left for pixels
+ * would depend on how many threads there happen to be, and libraries that end the process where they get nothing would.
+ */
+void shareOneHeapWhereAddressesAreShort()
+{
+#ifdef __GLIBC__
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY)
+        mallopt(M_ARENA_MAX, 1);
 #endif
 }
 
@@ -98,6 +112,7 @@ void initVips()
         // Libraries below report odd files on standard error, which belongs to the log lines of this program.
         g_log_set_handler("VIPS", GLogLevelFlags(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_INFO | G_LOG_LEVEL_MESSAGE),
                           ignoreMessage, nullptr);
+        shareOneHeapWhereAddressesAreShort();
         if (VIPS_INIT("quorlin") != 0)
             return false;
         keepMemoryForNextPicture();
