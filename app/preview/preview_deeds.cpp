@@ -221,15 +221,18 @@ Result<Rendition> doneOne(const PatternDeed &deed, const Rendition &start)
     return with(image::laidOnPattern(start.bitmap, *small), start.full);
 }
 
+/**
+ * The pixels of the rendition stay as they are, so the frame is whole pixels of it, on all sides the same: half of one more or
+ * less than it would be.
+ */
 Result<Rendition> doneOne(const FrameDeed &, const Rendition &start)
 {
     constexpr int framePx = 10;
-    const QSize full = start.full + QSize(2 * framePx, 2 * framePx);
-    const QSize drawn = scaledSize(start.full, start);
-    const QSize canvas = scaledSize(full, start);
-    const QPoint corner(int(std::lround(framePx * start.across())),
-                        canvas.height() - int(std::lround(framePx * start.down())) - drawn.height());
-    return with(platform::drawnOnWhite(start.bitmap, canvas, QRect(corner, drawn)), full);
+    const QSize size = start.bitmap.size();
+    const QSize frame(int(std::lround(framePx * start.across())), int(std::lround(framePx * start.down())));
+    const QRect place(QPoint(frame.width(), frame.height()), size);
+    return with(platform::drawnOnWhite(start.bitmap, size + 2 * frame, place),
+                start.full + QSize(2 * framePx, 2 * framePx));
 }
 
 Result<Rendition> doneOne(const FlattenDeed &, const Rendition &start)

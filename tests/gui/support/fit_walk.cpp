@@ -106,7 +106,8 @@ QString comboLack(const QComboBox &box)
     return lack(box, text, advance(box, box.currentText()), roomOf(box));
 }
 
-// What the box is for should be seen without the pointer, so only names that people give may be cut off.
+// What the box is for should be seen without the pointer, so only names that people give may be cut off; the last of them holds
+// paths, which may be longer than any window. What is chosen there is held by comboLack(): all of it or a tooltip.
 bool isNamedByPeople(const QComboBox &box)
 {
     static const QStringList names = {QStringLiteral("preset"), QStringLiteral("destination"),
