@@ -313,8 +313,9 @@ def of_ground(one, other, picture, promise):
 def lost_by_another(picture):
     """What ImageMagick loses with the same quality: noise and dithered colours suffer more than photographs, whoever writes them."""
     made = picture.work / "theirs.jpg"
-    run("convert", "-quiet", picture.raw, "-alpha", "off", "-quality", "90", "-sampling-factor", "1x1", made)
-    value = difference((picture.raw, ["-alpha", "off"]), (made, []), "black", picture.work)
+    on_black = ["-background", "black", "-alpha", "remove", "-alpha", "off"]
+    run("convert", "-quiet", picture.raw, *on_black, "-quality", "90", "-sampling-factor", "1x1", made)
+    value = difference((picture.raw, on_black), (made, []), "black", picture.work)
     return value if isinstance(value, float) else 0
 
 
@@ -337,7 +338,7 @@ def judged(runner, path, work):
         if picture.path.suffix.lower() == ".gif" and target == "gif":
             bound = formats.BOUNDS["gif"]
         if target == "jpeg" and isinstance(value, float) and value > bound:
-            bound = max(bound, 1.1 * lost_by_another(picture))
+            bound = max(bound, 1.02 * lost_by_another(picture))
         figures[target] = value if isinstance(value, float) else None
         if not isinstance(value, float) or value > bound:
             problems.append(f"{path.name} to {target}: {value if not isinstance(value, float) else f'{value:.2f}, {bound} at most'}")
