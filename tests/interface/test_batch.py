@@ -52,8 +52,8 @@ def main():
         assert not (base / "out2").exists(), "a folder in which nothing came to be is taken away"
 
         large = source / "large.png"
-        subprocess.run(["convert", "-size", "14000x10000", "xc:white", "-define", "png:color-type=2", str(large)], check=True)
-        limited = ["prlimit", "--as=600000000", runner]
+        subprocess.run(["convert", "-size", "8000x6000", "xc:white", "-interlace", "PNG", "-define", "png:color-type=2", str(large)], check=True)
+        limited = ["prlimit", "--as=400000000", runner]
         short = run(limited, batch, base / "out3", [large, files[0]], base)
         large.unlink()
         if not os.environ.get("QUORLIN_SANITIZED"):
