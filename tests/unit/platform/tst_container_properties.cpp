@@ -283,8 +283,8 @@ private Q_SLOTS:
         const QByteArray name = "http://www.w3.org/1999/02/22-rdf-syntax-ns#";
         QTest::newRow("beginnings alone") << name.repeated(300'000) << true;
         QTest::newRow("openings alone") << QByteArray("<a b='" + name + "'><rdf:RDF>").repeated(200'000) << true;
-        QTest::newRow("without an opening") << QByteArray(name + "</rdf:RDF>").replace('<', ' ').repeated(200'000)
-                                            << true;
+        QTest::newRow("without an opening")
+            << QByteArray(name + "</rdf:RDF>").replace('<', ' ').repeated(200'000) << true;
         QTest::newRow("many small ones") << packetOf(description(9)).repeated(40'000) << true;
         const QByteArray far(9'000'000, ' ');
         QTest::newRow("far behind") << far + packetOf(description(9)) + far + packetOf(description(9000)) << false;
