@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/sender.h"
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 #include "platform/plist/property_value.h"
 
 #include <QObject>

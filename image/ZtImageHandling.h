@@ -3,9 +3,9 @@
 #include "image/crop.h"
 #include "image/round_corners.h"
 #include "platform/foundation/sender.h"
-#include "platform/graphics/picture.h"
-#include "platform/imageio/image_destination.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/source/image_source.h"
+#include "platform/imageio/source/picture.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,7 +1,7 @@
 #include "image/cMConversion.h"
 
 #include "image/unit_conversion.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
 
 #include <cmath>
 

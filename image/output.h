@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/graphics/bitmap.h"
-#include "platform/imageio/image_destination.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/source/image_source.h"
 
 #include <QString>
 #include <QVariant>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/graphics/bitmap.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
 
 #include <QRect>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/graphics/picture.h"
 #include "platform/graphics/turn.h"
+#include "platform/imageio/source/picture.h"
 
 namespace image {
 

@@ -3,7 +3,8 @@
 #include "image/output.h"
 #include "image/turn.h"
 #include "platform/foundation/log.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/convert/lossless_turn.h"
+#include "platform/imageio/source/image_source.h"
 
 namespace image {
 namespace {
@@ -68,7 +69,7 @@ QString turnFile(const QString &sourcePath, const QString &targetPath, const QSt
         return isNoSource(source.error()) ? noSource() : noImage();
     const std::optional<FileFormat> format = platform::fileFormatForType(type);
     if (turning.exact && format == FileFormat::Jpeg)
-        if (const std::optional<QByteArray> file = source->turnedWithoutLoss(*turning.exact))
+        if (const std::optional<QByteArray> file = platform::turnedWithoutLoss(*source, *turning.exact))
             return writeAnswering(targetPath, *file);
     platform::DecodeOptions asStored;
     asStored.orientation = platform::Orientation::AsStored;

@@ -5,8 +5,8 @@
 
 #include "platform/controls/controls.h"
 #include "platform/desktop/strings_tables.h"
-#include "platform/imageio/image_source.h"
-#include "platform/imageio/user_comment_writer.h"
+#include "platform/imageio/comments/user_comment_writer.h"
+#include "platform/imageio/source/image_source.h"
 
 using platform::ImageSource;
 

@@ -1,6 +1,6 @@
 #include "meta/property_tree.h"
 
-#include "platform/imageio/property_labels.h"
+#include "platform/imageio/metadata/property_labels.h"
 
 namespace meta {
 

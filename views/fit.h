@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 
 #include <QRectF>
 

@@ -3,7 +3,7 @@
 #include "app/window/formats.h"
 
 #include "platform/foundation/human_texts.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
 
 #include <QDir>
 #include <QFileInfo>

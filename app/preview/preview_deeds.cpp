@@ -5,8 +5,8 @@
 #include "image/round_corners.h"
 #include "image/turn.h"
 #include "platform/graphics/compose.h"
-#include "platform/graphics/picture.h"
 #include "platform/graphics/resample.h"
+#include "platform/imageio/source/picture.h"
 
 #include <QCoreApplication>
 #include <QHash>

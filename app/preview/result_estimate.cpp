@@ -3,7 +3,7 @@
 #include "app/preview/size_estimate.h"
 #include "image/output.h"
 #include "platform/file/regular_file.h"
-#include "platform/imageio/content.h"
+#include "platform/imageio/formats/content.h"
 
 #include <QFile>
 

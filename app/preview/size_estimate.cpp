@@ -1,7 +1,7 @@
 #include "app/preview/size_estimate.h"
 
 #include "platform/graphics/resample.h"
-#include "platform/imageio/content.h"
+#include "platform/imageio/formats/content.h"
 
 #include <QBuffer>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/preview/preview_deeds.h"
-#include "platform/imageio/image_destination.h"
+#include "platform/imageio/encode/image_destination.h"
 
 /** How large a file will be, told from a rendition of the picture with fewer pixels. Nothing here touches a file. */
 namespace window {

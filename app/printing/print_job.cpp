@@ -3,7 +3,7 @@
 #include "app/printing/print_settings.h"
 
 #include "platform/file/atomic_file.h"
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 
 #include <QBuffer>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "app/seam/picture_object.h"
 
-#include "platform/imageio/image_destination.h"
+#include "platform/imageio/encode/image_destination.h"
 
 namespace script {
 

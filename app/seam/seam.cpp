@@ -3,7 +3,7 @@
 #include "app/seam/facade.h"
 
 #include "platform/foundation/raised.h"
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 
 #include <QMetaProperty>
 #include <QPointer>

@@ -3,8 +3,8 @@
 #include "platform/foundation/flag.h"
 #include "platform/foundation/sender.h"
 #include "platform/foundation/shared_texts.h"
-#include "platform/graphics/picture.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
+#include "platform/imageio/source/picture.h"
 #include "platform/plist/property_value.h"
 #include "presets/database.h"
 

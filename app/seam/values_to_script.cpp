@@ -3,7 +3,7 @@
 
 #include "platform/foundation/flag.h"
 #include "platform/foundation/shared_texts.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
 #include "presets/database.h"
 
 #include <QDateTime>

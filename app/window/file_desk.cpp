@@ -10,10 +10,10 @@
 #include "platform/file/atomic_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/foundation/human_texts.h"
-#include "platform/imageio/image_source.h"
-#include "platform/imageio/jpeg_header.h"
-#include "platform/imageio/orientation_mark.h"
-#include "platform/imageio/user_comment_writer.h"
+#include "platform/imageio/comments/user_comment_writer.h"
+#include "platform/imageio/exif/orientation_mark.h"
+#include "platform/imageio/jpeg/jpeg_header.h"
+#include "platform/imageio/source/image_source.h"
 #include "presets/unusable_database.h"
 
 #include <QDateTime>

@@ -4,7 +4,7 @@
 
 #include "platform/disk/item_facts.h"
 #include "platform/foundation/human_texts.h"
-#include "platform/imageio/picture_facts.h"
+#include "platform/imageio/source/picture_facts.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -3,8 +3,8 @@
 #include "image/overlay.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/foundation/type_identifiers.h"
-#include "platform/graphics/picture.h"
-#include "platform/imageio/image_destination.h"
+#include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/source/picture.h"
 
 namespace window {
 

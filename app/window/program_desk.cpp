@@ -11,7 +11,7 @@
 #include "platform/desktop/user_defaults.h"
 #include "platform/foundation/log.h"
 #include "platform/foundation/raised.h"
-#include "platform/imageio/library_versions.h"
+#include "platform/imageio/load/library_versions.h"
 #include "presets/database_version.h"
 
 #include <QDir>

@@ -1,8 +1,10 @@
 #include "files/items/convert_type.h"
 
 #include "platform/file/atomic_file.h"
-#include "platform/imageio/image_destination.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/convert/jpeg_straight.h"
+#include "platform/imageio/convert/pdf_page.h"
+#include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/source/image_source.h"
 
 #include <array>
 
@@ -79,7 +81,7 @@ template<typename Way> Result<void> orElse(const Result<bool> &shortWay, Way oth
 
 Result<void> writePage(const ImageSource &source, const QString &destination)
 {
-    return source.asPdfPage().and_then(
+    return platform::pdfPageOf(source).and_then(
         [&](const QByteArray &page) { return platform::replaceFile(destination, page); });
 }
 
@@ -92,11 +94,11 @@ Result<void> write(const ImageSource &source, const Conversion &conversion)
         return writeKeepingMetadata(source, FileFormat::Png, metadataForStoredPixels(source), conversion.destination);
     case TargetType::Tiff: {
         const Metadata metadata = metadataForStoredPixels(source);
-        return orElse(source.writeRowsAsTiff(conversion.destination, metadata),
+        return orElse(platform::writeRowsAsTiff(source, conversion.destination, metadata),
                       [&] { return writeKeepingMetadata(source, FileFormat::Tiff, metadata, conversion.destination); });
     }
     case TargetType::Bmp:
-        return orElse(source.writeRowsAsBmp(conversion.destination),
+        return orElse(platform::writeRowsAsBmp(source, conversion.destination),
                       [&] { return writePixels(source, FileFormat::Bmp, conversion); });
     case TargetType::Gif:
         return writePixels(source, FileFormat::Gif, conversion);

@@ -3,7 +3,7 @@
 #include "platform/disk/folders.h"
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/paths.h"
-#include "platform/imageio/image_destination.h"
+#include "platform/imageio/encode/image_destination.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/result.h"
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 
 namespace platform {
 

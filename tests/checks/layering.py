@@ -26,6 +26,45 @@ MAY_ENTER = {
     "tests": set(tree.ROOMS) | {"tools"},
     "bench": set(tree.ROOMS) | {"tools"},
 }
+# Sub-rooms: the folders of a room by their paths below it, in an order in which each enters none that stands behind it, and
+# which of them each may enter beside its own ("*" stands for all above it). A room that is listed here lists all folders in
+# which it has sources, the room itself as "" where it has some.
+SUB_ROOMS = {
+    "platform": {
+        "foundation": "",
+        "plist": "foundation",
+        "file": "foundation",
+        "disk": "foundation file",
+        "controls": "foundation",
+        "graphics": "foundation",
+        # Pictures as files: bytes first, then one folder for each kind of file, then what is said and done about all of them.
+        "imageio/bytes": "foundation file",
+        "imageio/formats": "graphics imageio/bytes",
+        "imageio/jpeg": "foundation graphics imageio/bytes",
+        "imageio/jpeg2000": "graphics imageio/bytes",
+        "imageio/png": "graphics imageio/bytes",
+        "imageio/tiff": "imageio/bytes",
+        "imageio/bmp": "graphics imageio/bytes",
+        "imageio/photoshop": "graphics imageio/bytes",
+        "imageio/whole": "file imageio/bytes imageio/formats imageio/jpeg2000 imageio/tiff imageio/bmp",
+        "imageio/exif": "foundation file imageio/bytes imageio/jpeg imageio/tiff",
+        "imageio/xmp": "imageio/png",
+        "imageio/metadata": "foundation graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/tiff "
+                            "imageio/photoshop imageio/exif imageio/xmp",
+        "imageio/load": "file graphics imageio/bytes imageio/formats imageio/jpeg2000 imageio/tiff imageio/bmp "
+                        "imageio/photoshop",
+        "imageio/facts": "file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png imageio/tiff "
+                         "imageio/bmp imageio/photoshop imageio/exif imageio/xmp imageio/metadata imageio/load",
+        "imageio/encode": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png "
+                          "imageio/metadata",
+        "imageio/source": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/tiff imageio/whole "
+                          "imageio/exif imageio/metadata imageio/load imageio/facts",
+        "imageio/convert": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/exif "
+                           "imageio/load imageio/facts imageio/encode imageio/source",
+        "imageio/comments": "foundation file imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/exif imageio/source",
+        "desktop": "foundation file disk imageio/encode imageio/source",
+    },
+}
 # Qt modules by room. Nothing below views and app needs a widget, so that services run in a process without windows.
 SERVICE_QT = {"QtCore", "QtGui", "QtQml"}
 QT_MODULES = {room: SERVICE_QT for room in ("image", "files", "meta", "presets")}
@@ -77,6 +116,39 @@ def check_own_include(room, name, path, root):
     if not (root / name).exists() and not (path.parent / name).exists():
         return f"{name} does not exist"
     return None
+
+
+def sub_room(room, name):
+    """The folder of a file below its room, "" for one that lies in the room itself."""
+    return "/".join(name.split("/")[1:-1])
+
+
+def check_sub_rooms(room, path, root):
+    """A file in a sub-room enters those of its row only; it must have a row."""
+    rows = SUB_ROOMS[room]
+    where = path.relative_to(root)
+    own = sub_room(room, where.as_posix())
+    if own not in rows:
+        yield f"{where}: {room}/{own} is not known to this check: say in layering.py which sub-rooms it may enter"
+        return
+    for name in own_includes(tree.without_comments(tree.read(path))):
+        other = sub_room(room, name)
+        if name.startswith(room + "/") and other != own and other not in entered_by(rows, own):
+            yield f"{where}: {room}/{own} may not enter {room}/{other}".replace("/ ", " ").removesuffix("/")
+
+
+def entered_by(rows, name):
+    """The sub-rooms that one may enter."""
+    before = list(rows)[:list(rows).index(name)]
+    return before if rows[name] == "*" else rows[name].split()
+
+
+def check_order(room):
+    """A row names nothing but rows above it, so that there is no way round in a circle."""
+    rows = SUB_ROOMS[room]
+    for place, name in enumerate(rows):
+        for other in sorted(set(entered_by(rows, name)) - set(list(rows)[:place])):
+            yield f"layering.py: {room}/{name} enters {room}/{other}, which does not stand above it"
 
 
 def check_foreign_include(room, name, modules):
@@ -177,6 +249,8 @@ def check_links(room, path, root):
 def check(root, modules):
     problems, seen = [], 0
     closed = closed_headers(root)
+    for room in SUB_ROOMS:
+        problems += check_order(room)
     for room in MAY_ENTER:
         if not (root / room).is_dir():
             continue
@@ -184,6 +258,8 @@ def check(root, modules):
             if path.suffix in tree.CPP:
                 seen += 1
                 problems += check_includes(path, room, root, modules)
+                if room in SUB_ROOMS:
+                    problems += check_sub_rooms(room, path, root)
                 if room not in ("platform", "tests"):
                     problems += check_leaks(path, root, closed)
             if path.name == "CMakeLists.txt":

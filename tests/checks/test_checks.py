@@ -6,6 +6,7 @@ import sys
 import tempfile
 import unittest
 from pathlib import Path
+from unittest import mock
 
 sys.path.insert(0, str(Path(__file__).parent))
 import format as format_check  # noqa: E402
@@ -65,7 +66,7 @@ class Layering(Tree):
 
     def test_finds_every_wrong_include(self):
         for name, text, said in [
-            ("platform/a.cpp", '#include "image/resize.h"', "platform/ may not enter image/"),
+            ("platform/graphics/a.cpp", '#include "image/resize.h"', "platform/ may not enter image/"),
             ("text/a.cpp", '#include "image/resize.h"', "text/ may not enter image/"),
             ("image/a.cpp", '#include "files/walk.h"', "image/ may not enter files/"),
             ("image/a.cpp", '#include "platform/graphics/none.h"', "does not exist"),
@@ -75,8 +76,8 @@ class Layering(Tree):
             ("app/a.cpp", "#include <exiv2/exiv2.hpp>", "belongs to platform/ only"),
             ("views/a.cpp", "#include <cairo.h>", "belongs to platform/ only"),
             ("files/a.cpp", "#include <sqlite3.h>", "belongs to presets/ only"),
-            ("platform/a.cpp", "#include <sqlite3.h>", "belongs to presets/ only"),
-            ("platform/a.cpp", "#include <boost/any.hpp>", "not known to this check"),
+            ("platform/graphics/a.cpp", "#include <sqlite3.h>", "belongs to presets/ only"),
+            ("platform/graphics/a.cpp", "#include <boost/any.hpp>", "not known to this check"),
             ("text/a.cpp", "#include <QImage>", "text/ may not use QtGui"),
             ("image/a.cpp", "#include <QWidget>", "image/ may not use QtWidgets"),
             ("image/a.cpp", "#include <QtWidgets/QWidget>", "image/ may not use QtWidgets"),
@@ -112,9 +113,44 @@ class Layering(Tree):
         for line, said in [('return QStringLiteral("Not Supported");', "Not Supported"), ("class cToolBox;", "cToolBox"),
                            ('if (keyword == u"EMMDir")', "EMMDir"), ('log("Failed to write image to %1");', "Failed to")]:
             with self.subTest(line=line):
-                found = self.faults("platform/a.cpp", line + "\n")
+                found = self.faults("platform/graphics/a.cpp", line + "\n")
                 self.assertEqual(len(found), 1, found)
                 self.assertIn(said, found[0])
+
+    def rows(self, rows):
+        """The check with these rows for the platform in place of the true ones."""
+        return mock.patch.dict(layering.SUB_ROOMS, {"platform": rows}, clear=True)
+
+    def test_keeps_sub_rooms_apart(self):
+        good = {"graphics": "", "imageio/tiff": "graphics", "imageio/exif": "*", "desktop": ""}
+        with self.rows(good):
+            self.assertEqual(self.faults(), [])
+            for name, text, said in [
+                ("platform/imageio/tiff/a.cpp", '#include "platform/graphics/bitmap.h"', ""),
+                ("platform/imageio/exif/a.cpp", '#include "platform/graphics/bitmap.h"', ""),
+                ("platform/imageio/exif/a.h", '#include "platform/imageio/exif/a.h"', ""),
+                ("platform/desktop/a.cpp", '#include "platform/graphics/bitmap.h"',
+                 "platform/desktop may not enter platform/graphics"),
+                ("platform/graphics/a.h", '#include "platform/desktop/a.h"', "platform/graphics may not enter platform/desktop"),
+                ("platform/imageio/png/a.cpp", "#include <QString>", "platform/imageio/png is not known to this check"),
+                ("platform/a.cpp", "#include <QString>", "platform/ is not known to this check"),
+            ]:
+                with self.subTest(name=name):
+                    found = [fault for fault in self.faults(name, text + "\n") if "does not exist" not in fault]
+                    self.assertEqual(len(found), 1 if said else 0, found)
+                    self.assertIn(said, "".join(found))
+                    (self.root / name).unlink()
+
+    def test_refuses_a_circle_of_sub_rooms(self):
+        for rows in [{"graphics": "desktop", "desktop": "graphics"}, {"graphics": "graphics"}, {"graphics": "nowhere"}]:
+            with self.subTest(rows=rows), self.rows(rows):
+                self.assertIn("does not stand above it", "".join(self.faults()))
+
+    def test_knows_every_sub_room_of_the_platform_by_a_row_that_is_used(self):
+        root = Path(__file__).resolve().parents[2]
+        for room, rows in layering.SUB_ROOMS.items():
+            for name in rows:
+                self.assertTrue((root / room / name).is_dir(), f"{room}/{name}")
 
     def test_fails_on_an_empty_tree(self):
         self.assertEqual(run_main(layering, self.root)[0], 1)
@@ -208,7 +244,7 @@ class Packages(Tree):
             ("tests/a.sh", "x=$(vipsheader a.jpg)\n"),
             ("tests/tst_a.cpp", 'process.start(QStringLiteral("vips"), arguments);'),
             ("tests/tst_a.cpp", "#include <tl/expected.hpp>\n"),
-            ("platform/a.cpp", 'QImageReader reader(device.get(), "tiff");\n'),
+            ("platform/graphics/a.cpp", 'QImageReader reader(device.get(), "tiff");\n'),
             ("run", "#!/usr/bin/env bash\nexiftool a.jpg\n"),
         ]:
             with self.subTest(name=name, text=text):

@@ -1,8 +1,8 @@
 // The writer of the comment on any bytes at all: it must leave each file as it was, or one that can be written to again.
 #include "platform/file/atomic_file.h"
-#include "platform/imageio/tiff_comment.h"
-#include "platform/imageio/tiff_tree.h"
-#include "platform/imageio/user_comment_writer.h"
+#include "platform/imageio/comments/user_comment_writer.h"
+#include "platform/imageio/exif/tiff_comment.h"
+#include "platform/imageio/tiff/tiff_tree.h"
 
 #include <QFile>
 

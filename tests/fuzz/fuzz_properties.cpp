@@ -1,6 +1,6 @@
 // The reader of properties on any bytes at all.
-#include "platform/imageio/container_properties.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/facts/container_properties.h"
+#include "platform/imageio/source/image_source.h"
 
 #include <QBuffer>
 

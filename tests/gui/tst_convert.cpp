@@ -2,7 +2,7 @@
 #include "tests/support/test_program.h"
 
 #include "app/window/preview/compare_preview.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
 
 #include "tests/support/corpus.h"
 

@@ -7,7 +7,7 @@
 #include "platform/controls/panels.h"
 #include "platform/controls/screens.h"
 #include "platform/desktop/user_defaults.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
 #include "tests/support/own_settings.h"
 
 #include <QApplication>

@@ -3,7 +3,7 @@
 #include "app/window/log/run_list.h"
 #include "app/window/properties/property_tree.h"
 #include "meta/mMeta.h"
-#include "platform/imageio/metadata.h"
+#include "platform/imageio/metadata/metadata.h"
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/corpus.h"
 #include "tests/support/made_tiff.h"

@@ -8,8 +8,8 @@
 #include "app/window/folders/side_bar.h"
 #include "app/window/preview/compare_preview.h"
 
-#include "platform/graphics/picture.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
+#include "platform/imageio/source/picture.h"
 
 #include "tests/support/corpus.h"
 

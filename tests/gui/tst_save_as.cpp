@@ -5,7 +5,7 @@
 #include "app/window/preview/compare_preview.h"
 #include "platform/desktop/tags.h"
 #include "platform/desktop/user_defaults.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "tests/seam/support/ScriptRun.h"
 
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/imageio/metadata.h"
+#include "platform/imageio/metadata/metadata.h"
 
 #include <QBuffer>
 #include <QFile>

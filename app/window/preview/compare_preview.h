@@ -4,7 +4,7 @@
 #include "app/preview/preview_deeds.h"
 #include "app/preview/result_estimate.h"
 #include "app/window/preview/crop_frame_editor.h"
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 #include "views/my2ndPhotoView.h"
 #include "views/myMainPhotoView.h"
 

@@ -1,7 +1,7 @@
 #include "app/window/properties/property_tree.h"
 
-#include "platform/imageio/image_source.h"
-#include "platform/imageio/property_labels.h"
+#include "platform/imageio/metadata/property_labels.h"
+#include "platform/imageio/source/image_source.h"
 
 #include <QAction>
 #include <QClipboard>

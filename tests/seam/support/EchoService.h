@@ -2,7 +2,7 @@
 
 #include "platform/foundation/flag.h"
 #include "platform/foundation/sender.h"
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 #include "platform/plist/property_value.h"
 
 #include <QDateTime>

@@ -3,7 +3,7 @@
 #include "app/services/cPrint.h"
 
 #include "platform/controls/panels.h"
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"

@@ -1,6 +1,6 @@
 #include "app/preview/size_estimate.h"
-#include "platform/graphics/picture.h"
-#include "platform/imageio/content.h"
+#include "platform/imageio/formats/content.h"
+#include "platform/imageio/source/picture.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"

@@ -1,5 +1,5 @@
 #include "files/cNSFileHandling.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"

@@ -1,5 +1,5 @@
 #include "image/ZtImageHandling.h"
-#include "platform/imageio/image_source.h"
+#include "platform/imageio/source/image_source.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"

@@ -1,5 +1,5 @@
 #include "image/round_corners.h"
-#include "platform/graphics/picture.h"
+#include "platform/imageio/source/picture.h"
 #include "tests/support/corpus.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_pictures.h"

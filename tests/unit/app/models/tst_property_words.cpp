@@ -1,5 +1,5 @@
 #include "app/models/property_words.h"
-#include "platform/imageio/property_labels.h"
+#include "platform/imageio/metadata/property_labels.h"
 #include "tests/support/test_program.h"
 
 #include <QLocale>

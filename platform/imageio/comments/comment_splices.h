@@ -1,0 +1,35 @@
+#pragma once
+
+// Inside platform/ only: what has to change in each kind of file for it to have another EXIF user comment.
+
+#include "platform/file/atomic_file.h"
+#include "platform/imageio/formats/content.h"
+
+#include <QFile>
+
+namespace platform {
+
+/** Splices in ascending order, or why there are none, as half a sentence. The file is read where it is needed. */
+using CommentSplices = Result<QList<Splice>>;
+
+CommentSplices jpegCommentSplices(QFile &file, const QString &comment);
+CommentSplices tiffCommentSplices(QFile &file, const QString &comment);
+CommentSplices pngCommentSplices(QFile &file, const QString &comment);
+CommentSplices jpeg2000CommentSplices(QFile &file, const QString &comment);
+CommentSplices webpCommentSplices(QFile &file, const QString &comment);
+
+/** How many pages behind the first tiffCommentSplices() takes out of the file. */
+int pagesLostToComment(QFile &file);
+
+/** The largest EXIF block that is read into memory. */
+constexpr qint64 largestExifBlock = 32 << 20;
+
+/** "the file is damaged", with the code that belongs to it. */
+tl::unexpected<Error> damagedFile();
+/** "the comment is too long". */
+tl::unexpected<Error> commentTooLong();
+
+/** Exactly @p size bytes from @p position on; empty where the file has not so many. */
+QByteArray bytesOf(QFile &file, qint64 position, qint64 size);
+
+} // namespace platform

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/graphics/turn.h"
+#include "platform/imageio/source/image_source.h"
+
+namespace platform {
+
+/**
+ * The bytes of a JPEG file with the stored pixels of image 0 of @p source turned, without decoding them and so without any
+ * loss; metadata, profile and orientation tag go along, sizes in the metadata are right again.
+ *
+ * None where that cannot be done exactly: for other kinds of file, where a side that is mirrored is not whole
+ * blocks, and for damaged files. Memory: the file twice and up to 12 bytes a pixel.
+ */
+std::optional<QByteArray> turnedWithoutLoss(const ImageSource &source, ExactTurn turn);
+
+} // namespace platform

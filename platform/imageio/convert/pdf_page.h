@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/imageio/source/image_source.h"
+
+namespace platform {
+
+/**
+ * Image 0 of @p source as a PDF file of one page that has the size of the upright picture in points.
+ *
+ * The scan of a grey or RGB JPEG goes in byte for byte where it is upright; one that lies on its side is turned first where
+ * that can be done without loss. All other pictures are stored without loss, 8 or 16 bits a component, grey, RGB or CMYK,
+ * with their transparency. The colour profile goes along, metadata does not.
+ *
+ * Fails as ImageSource::decode() does, and with WriteFailed where the page cannot be made.
+ */
+Result<QByteArray> pdfPageOf(const ImageSource &source);
+
+} // namespace platform

@@ -1,0 +1,170 @@
+#include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/jpeg/jpeg_error.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+namespace platform {
+namespace {
+
+constexpr double qualityWithoutSource = 0.92;
+/** From this quality on colour is kept at full resolution. */
+constexpr int fullColourQuality = 90;
+
+/** Owns the encoder and the bytes it makes, whichever way the call ends. */
+struct Encoder
+{
+    jpeg_compress_struct info = {};
+    JpegErrorManager errors;
+    unsigned char *bytes = nullptr;
+    unsigned long size = 0;
+
+    Encoder() = default;
+    Encoder(const Encoder &) = delete;
+    Encoder &operator=(const Encoder &) = delete;
+    ~Encoder()
+    {
+        jpeg_destroy_compress(&info);
+        std::free(bytes);
+    }
+};
+
+J_COLOR_SPACE colorSpaceOf(int bands)
+{
+    constexpr int cmykBands = 4;
+    if (bands == 1)
+        return JCS_GRAYSCALE;
+    return bands == cmykBands ? JCS_CMYK : JCS_RGB;
+}
+
+/** The tables of the source can be used again where it had the same components. */
+bool canUseTables(const jpeg_compress_struct &info, const JpegQuantisation &tables)
+{
+    for (int component = 0; component < info.num_components; ++component) {
+        const auto table = size_t(tables.tableOfComponent[size_t(component)]);
+        if (table >= tables.tables.size() || tables.tables[table][0] == 0)
+            return false;
+    }
+    return true;
+}
+
+void useTables(jpeg_compress_struct &info, const JpegQuantisation &source)
+{
+    for (size_t table = 0; table < source.tables.size(); ++table) {
+        if (source.tables[table][0] == 0)
+            continue;
+        std::array<unsigned int, DCTSIZE2> values = {};
+        std::copy(source.tables[table].begin(), source.tables[table].end(), values.begin());
+        constexpr int asTheyAre = 100;
+        jpeg_add_quant_table(&info, int(table), values.data(), asTheyAre, TRUE);
+    }
+    for (int component = 0; component < info.num_components; ++component)
+        info.comp_info[component].quant_tbl_no = source.tableOfComponent[size_t(component)];
+    constexpr int mostSampling = 2;
+    info.comp_info[0].h_samp_factor = std::clamp(source.horizontalSampling, 1, mostSampling);
+    info.comp_info[0].v_samp_factor = std::clamp(source.verticalSampling, 1, mostSampling);
+}
+
+void useQuality(jpeg_compress_struct &info, double quality)
+{
+    constexpr double best = 100;
+    const int percent = std::clamp(int(std::lround(quality * best)), 1, int(best));
+    jpeg_set_quality(&info, percent, TRUE);
+    const bool keepsColour = percent >= fullColourQuality || info.num_components != 3;
+    info.comp_info[0].h_samp_factor = keepsColour ? 1 : 2;
+    info.comp_info[0].v_samp_factor = keepsColour ? 1 : 2;
+}
+
+/** True for a density that a file, which holds whole numbers only, can state well enough. */
+bool isNearlyWhole(double density)
+{
+    constexpr double tolerance = 0.02;
+    return std::abs(density - std::round(density)) < tolerance;
+}
+
+void useResolution(jpeg_compress_struct &info, Resolution resolution)
+{
+    constexpr double mostDensity = 65535;
+    if (resolution.horizontal < 1 || resolution.horizontal > mostDensity || resolution.vertical > mostDensity)
+        return;
+    constexpr double centimetresPerInch = 2.54;
+    const bool isMetric =
+        !isNearlyWhole(resolution.horizontal) && isNearlyWhole(resolution.horizontal / centimetresPerInch);
+    const double scale = isMetric ? centimetresPerInch : 1;
+    // Four colours would go without this segment, which is the one place that states a resolution. Readers of theirs go by
+    // the Adobe segment behind it.
+    info.write_JFIF_header = TRUE;
+    info.density_unit = isMetric ? 2 : 1;
+    info.X_density = UINT16(std::lround(resolution.horizontal / scale));
+    info.Y_density = UINT16(std::max(1L, std::lround(resolution.vertical / scale)));
+}
+
+void configure(jpeg_compress_struct &info, const vips::VImage &image, const JpegSettings &settings)
+{
+    info.image_width = JDIMENSION(image.width());
+    info.image_height = JDIMENSION(image.height());
+    info.input_components = image.bands();
+    info.in_color_space = colorSpaceOf(image.bands());
+    jpeg_set_defaults(&info);
+    const bool keepsTables = !settings.quality && settings.sourceTables && canUseTables(info, *settings.sourceTables);
+    if (keepsTables)
+        useTables(info, *settings.sourceTables);
+    else
+        useQuality(info, settings.quality.value_or(qualityWithoutSource));
+    useResolution(info, settings.resolution);
+    if (info.in_color_space == JCS_CMYK)
+        info.write_Adobe_marker = TRUE;
+}
+
+void writeProfile(jpeg_compress_struct &info, const vips::VImage &image)
+{
+    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
+        return;
+    size_t length = 0;
+    const void *profile = image.get_blob(VIPS_META_ICC_NAME, &length);
+    jpeg_write_icc_profile(&info, static_cast<const JOCTET *>(profile), unsigned(length));
+}
+
+/** Rows go to the encoder as they are, but CMYK inverted, which is how readers expect it. */
+void writeRows(jpeg_compress_struct &info, const vips::VImage &image, std::vector<JSAMPLE> &scratch)
+{
+    const auto *data = static_cast<const JSAMPLE *>(image.data());
+    const size_t rowBytes = VIPS_IMAGE_SIZEOF_LINE(image.get_image());
+    const bool isInverted = info.in_color_space == JCS_CMYK;
+    while (info.next_scanline < info.image_height) {
+        const JSAMPLE *row = data + rowBytes * info.next_scanline;
+        if (isInverted)
+            std::transform(row, row + rowBytes, scratch.begin(), [](JSAMPLE ink) { return JSAMPLE(MAXJSAMPLE - ink); });
+        else
+            std::copy(row, row + rowBytes, scratch.begin());
+        JSAMPLE *line = scratch.data();
+        jpeg_write_scanlines(&info, &line, 1);
+    }
+}
+
+} // namespace
+
+Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &settings)
+{
+    Encoder encoder;
+    std::vector<JSAMPLE> scratch(VIPS_IMAGE_SIZEOF_LINE(image.get_image()));
+    encoder.info.err = prepare(encoder.errors);
+    if (setjmp(encoder.errors.jump))
+        return failure(ErrorCode::WriteFailed, QCoreApplication::translate("platform", "The JPEG could not be made: %1")
+                                                   .arg(QString::fromLatin1(encoder.errors.message)));
+    jpeg_create_compress(&encoder.info);
+    jpeg_mem_dest(&encoder.info, &encoder.bytes, &encoder.size);
+    configure(encoder.info, image, settings);
+    jpeg_start_compress(&encoder.info, TRUE);
+    writeProfile(encoder.info, image);
+    writeRows(encoder.info, image, scratch);
+    jpeg_finish_compress(&encoder.info);
+    return QByteArray(reinterpret_cast<const char *>(encoder.bytes), qsizetype(encoder.size));
+}
+
+} // namespace platform

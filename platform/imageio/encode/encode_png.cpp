@@ -1,0 +1,76 @@
+#include "platform/imageio/bytes/deflate.h"
+#include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/png/png_chunks.h"
+#include "platform/imageio/png/png_rows.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+namespace {
+
+QByteArray bigEndian(quint32 number)
+{
+    QByteArray bytes(4, Qt::Uninitialized);
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+QByteArray headerOf(const vips::VImage &image)
+{
+    constexpr char colourTypes[] = {0, 4, 2, 6}; // grey, grey with alpha, RGB, RGB with alpha
+    QByteArray header = bigEndian(quint32(image.width())) + bigEndian(quint32(image.height()));
+    header.append(char(bytesPerComponent(image) * 8));
+    header.append(colourTypes[image.bands() - 1]);
+    return header.append(3, '\0'); // the one compression, the one set of filters, not interlaced
+}
+
+void appendResolution(QByteArray &png, Resolution resolution)
+{
+    constexpr double inchesPerMetre = 1 / 0.0254;
+    constexpr double mostDots = 1e9;
+    const double vertical = resolution.vertical > 0 ? resolution.vertical : resolution.horizontal;
+    if (!(resolution.horizontal > 0) || resolution.horizontal > mostDots || vertical > mostDots)
+        return;
+    const auto perMetre = [](double dots) { return bigEndian(quint32(std::lround(dots * inchesPerMetre))); };
+    appendPngChunk(png, "pHYs", perMetre(resolution.horizontal) + perMetre(vertical) + '\x01');
+}
+
+void appendProfile(QByteArray &png, const vips::VImage &image)
+{
+    const QByteArray profile = iccProfileOf(image);
+    if (!profile.isEmpty())
+        appendPngChunk(png, "iCCP", QByteArray("icc\0\0", 5) + deflated(profile));
+}
+
+/** The image with no more than the four components that the format has. */
+vips::VImage fitted(const vips::VImage &image)
+{
+    constexpr int mostBands = 4;
+    return image.bands() > mostBands ? image.extract_band(0, vips::VImage::option()->set("n", mostBands)) : image;
+}
+
+} // namespace
+
+QByteArray encodePng(const vips::VImage &image, Resolution resolution)
+{
+    const vips::VImage pixels = inMemory(fitted(image));
+    const QByteArray stream = deflated(filteredRows(pixels));
+    if (stream.isEmpty())
+        throw vips::VError("not enough memory");
+    QByteArray png("\x89PNG\r\n\x1a\n");
+    png.reserve(stream.size() + 65536);
+    appendPngChunk(png, "IHDR", headerOf(pixels));
+    appendProfile(png, pixels);
+    appendResolution(png, resolution);
+    constexpr qsizetype largestChunk = 1 << 30;
+    for (qsizetype at = 0; at < stream.size(); at += largestChunk)
+        appendPngChunk(png, "IDAT",
+                       QByteArray::fromRawData(stream.constData() + at, std::min(largestChunk, stream.size() - at)));
+    appendPngChunk(png, "IEND", {});
+    return png;
+}
+
+} // namespace platform

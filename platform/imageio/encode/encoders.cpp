@@ -1,0 +1,117 @@
+#include "platform/imageio/encode/encoders.h"
+
+#include <algorithm>
+
+#include <cmath>
+#include <cstring>
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+
+QByteArray bytesOf(VipsBlob *blob)
+{
+    size_t length = 0;
+    const void *data = vips_blob_get(blob, &length);
+    QByteArray bytes(static_cast<const char *>(data), qsizetype(length));
+    vips_area_unref(VIPS_AREA(blob));
+    return bytes;
+}
+
+constexpr double millimetresPerInch = 25.4;
+constexpr double defaultDpi = 72;
+
+VImage withResolution(const VImage &image, Resolution resolution)
+{
+    const double horizontal = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
+    const double vertical = resolution.vertical > 0 ? resolution.vertical : defaultDpi;
+    return image.copy(
+        VImage::option()->set("xres", horizontal / millimetresPerInch)->set("yres", vertical / millimetresPerInch));
+}
+
+/** The side of a tile that leaves no narrow strip at the end of @p side: 512 where it may be. */
+int jpeg2000TileSide(int side)
+{
+    constexpr int usual = 512;
+    constexpr int narrow = 128;
+    int tile = usual;
+    while (side > tile && side % tile != 0 && side % tile < narrow && tile > narrow)
+        tile -= 32;
+    return tile;
+}
+
+} // namespace
+
+FormatAbilities abilitiesOf(FileFormat format)
+{
+    switch (format) {
+    case FileFormat::Png:
+        return {.profile = true, .alpha = true, .deep = true};
+    case FileFormat::Tiff:
+        return {.profile = true, .alpha = true, .deep = true, .cmyk = true, .anyForm = true};
+    case FileFormat::Jpeg:
+        return {.profile = true, .cmyk = true};
+    case FileFormat::Jpeg2000:
+        return {.alpha = true, .deep = true};
+    case FileFormat::Gif:
+        return {.alpha = true};
+    case FileFormat::Bmp:
+        break;
+    }
+    return {};
+}
+
+VImage preparedFor(const FormatAbilities &abilities, const VImage &image)
+{
+    if (abilities.anyForm)
+        return image;
+    VImage result = inForm(image);
+    const bool isCmyk = result.interpretation() == VIPS_INTERPRETATION_CMYK;
+    const bool hasProfile = result.get_typeof(VIPS_META_ICC_NAME) != 0;
+    if ((isCmyk && !abilities.cmyk) || (hasProfile && !abilities.profile))
+        result = convertedToSrgb(result);
+    if (!abilities.deep)
+        result = with8Bits(result);
+    if (hasTransparency(result) && !abilities.alpha)
+        result = result.flatten(VImage::option()->set("max_alpha", opaqueValue(result)));
+    return result;
+}
+
+QByteArray encodeTiff(const VImage &image, Resolution resolution)
+{
+    if (const QByteArray plain = encodePlainTiff(image, resolution); !plain.isEmpty())
+        return plain;
+    const VImage kept = image.interpretation() == VIPS_INTERPRETATION_LAB ? inForm(image) : image;
+    return bytesOf(withResolution(kept, resolution)
+                       .tiffsave_buffer(VImage::option()
+                                            ->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_NONE)
+                                            ->set("bigtiff", true)
+                                            ->set("resunit", VIPS_FOREIGN_TIFF_RESUNIT_INCH)));
+}
+
+QByteArray encodeGif(const VImage &image)
+{
+    // The default of 7 takes half as long again; its palette is nearer to single dots, but not to what is seen of them.
+    constexpr int effort = 3;
+    return bytesOf(image.gifsave_buffer(VImage::option()->set("effort", effort)));
+}
+
+QByteArray encodeJpeg2000(const VImage &image)
+{
+    // Above this the difference to the source cannot be seen.
+    constexpr int visuallyLossless = 60;
+    // The encoder reckons with what a tile holds: one that is small and flat comes out as another colour.
+    constexpr int leastSide = 128;
+    constexpr int leastArea = 256 * 256;
+    const bool isSmall =
+        std::min(image.width(), image.height()) < leastSide || image.width() <= leastArea / image.height();
+    return bytesOf(image.jp2ksave_buffer(VImage::option()
+                                             ->set("Q", visuallyLossless)
+                                             ->set("lossless", isSmall)
+                                             ->set("tile_width", jpeg2000TileSide(image.width()))
+                                             ->set("tile_height", jpeg2000TileSide(image.height()))
+                                             ->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));
+}
+
+} // namespace platform

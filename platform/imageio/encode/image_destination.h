@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/graphics/bitmap.h"
+#include "platform/imageio/formats/file_format.h"
+#include "platform/imageio/metadata/metadata.h"
+
+#include <optional>
+
+namespace platform {
+
+/** Whether the resolution of the bitmap is written into the file. */
+enum class WriteResolution { No, Yes };
+
+struct EncodeOptions
+{
+    /** JPEG only, 0.01 to 1. Without it a picture from a JPEG keeps its own quantisation and others get 0.92. */
+    std::optional<double> lossyQuality;
+    WriteResolution resolution = WriteResolution::No;
+    /** Carried into JPEG and TIFF; other formats leave it. A resolution that it states is written with it. */
+    Metadata metadata;
+};
+
+/**
+ * One bitmap as the bytes of a file.
+ *
+ * Colour: the profile stays with the picture in every format that can hold one; otherwise, and for CMYK and Lab in
+ * formats without them, the pixels are converted to sRGB. Depth: 16 bits stay in PNG, TIFF and JPEG 2000. Alpha is laid
+ * on black in JPEG and BMP.
+ *
+ * Fails with WriteFailed if the encoder fails, with InvalidValue for a null bitmap, and with TooLarge where it needs more memory
+ * than is left, before anything is encoded.
+ */
+Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options = {});
+
+/** encodeImage(), then an atomic replacement of the file at @p path; its folder must exist. */
+Result<void> writeImageFile(const QString &path, const Bitmap &bitmap, FileFormat format,
+                            const EncodeOptions &options = {});
+
+} // namespace platform

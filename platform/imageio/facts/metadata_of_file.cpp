@@ -1,0 +1,95 @@
+#include "platform/imageio/facts/metadata_of_file.h"
+
+#include "platform/file/regular_file.h"
+#include "platform/imageio/load/loaders.h"
+
+#include <QFile>
+
+namespace platform {
+namespace {
+
+/** Files up to this size are read as a whole; larger ones are mapped. */
+constexpr qint64 mostReadAtOnce = 64 << 20;
+
+QByteArray blockOf(const vips::VImage &image, const char *field)
+{
+    if (image.get_typeof(field) == 0)
+        return {};
+    size_t length = 0;
+    const void *block = image.get_blob(field, &length);
+    return {static_cast<const char *>(block), qsizetype(length)};
+}
+
+/** XMP stands among the numbered items of a HEIC or AVIF file, and nothing but its content tells it. */
+QByteArray xmpOf(const vips::VImage &image)
+{
+    constexpr int mostItems = 16;
+    for (int number = 0; number < mostItems; ++number) {
+        const QByteArray item = blockOf(image, QByteArray("heif-mime-" + QByteArray::number(number)).constData());
+        if (item.contains("adobe:ns:meta"))
+            return item;
+    }
+    return blockOf(image, VIPS_META_XMP_NAME);
+}
+
+/** The decoder takes the blocks out of a container that the metadata reader does not know. */
+Metadata fromDecoder(const PictureBytes &bytes, Content content)
+{
+    try {
+        initVips();
+        const vips::VImage image = openImage(bytes, content);
+        return Metadata::fromBlocks(blockOf(image, VIPS_META_EXIF_NAME), xmpOf(image),
+                                    blockOf(image, VIPS_META_IPTC_NAME));
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+        return {};
+    }
+}
+
+Metadata fromLargeFile(const QString &path)
+{
+    QFile file(path);
+    if (!openToRead(file))
+        return {};
+    const uchar *data = file.map(0, file.size());
+    if (!data)
+        return {};
+    return Metadata::fromFileBytes(QByteArray::fromRawData(reinterpret_cast<const char *>(data), file.size()));
+}
+
+/** The segments before the first scan hold all the metadata of a JPEG; the reader looks a little further ahead. */
+QByteArray jpegHead(QIODevice &device)
+{
+    constexpr qint64 readAhead = 4096;
+    const qint64 scan = startOfJpegScan(device);
+    return scan > 0 && device.seek(0) ? device.read(scan + readAhead) : QByteArray();
+}
+
+} // namespace
+
+Metadata metadataOf(const PictureBytes &bytes, Content content)
+{
+    switch (content) {
+    case Content::Heif:
+    case Content::Avif:
+        // The decoder has obeyed the container's own turn, and this one would turn the picture again.
+        return fromDecoder(bytes, content).withOrientation(1);
+    case Content::Bmp:
+    case Content::Pdf:
+    case Content::Svg:
+    case Content::Unknown:
+        return {};
+    default:
+        break;
+    }
+    const std::unique_ptr<QIODevice> device = bytes.device();
+    if (!device)
+        return {};
+    if (content == Content::Jpeg)
+        return Metadata::fromFileBytes(jpegHead(*device));
+    if (device->size() <= mostReadAtOnce || bytes.path.isEmpty())
+        return Metadata::fromFileBytes(device->readAll());
+    return fromLargeFile(bytes.path);
+}
+
+} // namespace platform

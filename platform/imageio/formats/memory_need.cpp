@@ -1,0 +1,110 @@
+#include "platform/imageio/formats/memory_need.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+namespace {
+
+/** Bytes a pixel: some whatever the pixels are, some for each byte that a pixel has. Measured with bench/memory. */
+struct Cost
+{
+    double aPixel = 0;
+    double aByte = 0;
+};
+
+/** What a decoder keeps beside the pixels that it hands out. */
+Cost costOfDecoding(Content content, int bands)
+{
+    switch (content) {
+    case Content::Tiff: // a strip may hold all rows
+        return {.aByte = 1};
+    case Content::Webp:
+        return {.aPixel = 8, .aByte = 2};
+    case Content::Gif:
+        return {.aPixel = 5.5};
+    case Content::Heif:
+    case Content::Avif:
+        return {.aPixel = 6, .aByte = 1};
+    case Content::Jpeg2000: // every sample as a number of four bytes, and all pixels once more
+        return {.aPixel = 4.0 * bands, .aByte = 1.25};
+    case Content::Photoshop:
+        return {.aByte = 0.5};
+    case Content::Pdf:
+    case Content::Svg:
+        return {.aPixel = 4};
+    case Content::Jpeg:
+    case Content::Png:
+    case Content::Bmp:
+    case Content::Unknown:
+        break;
+    }
+    return {};
+}
+
+/** What an encoder and the file that it makes take beside the pixels that it is given. */
+Cost costOfWriting(FileFormat format)
+{
+    switch (format) {
+    case FileFormat::Png: // the filtered rows, what becomes of them at the worst, and the file
+        return {.aByte = 2.75};
+    case FileFormat::Tiff: // the file without metadata and with it
+        return {.aByte = 2.25};
+    case FileFormat::Bmp:
+        return {.aPixel = 6};
+    case FileFormat::Jpeg:
+        return {.aPixel = 3, .aByte = 0.25};
+    case FileFormat::Jpeg2000:
+        return {.aPixel = 2, .aByte = 1.2};
+    case FileFormat::Gif: // a copy with transparency and an index for each pixel, twice
+        return {.aPixel = 15};
+    }
+    return {};
+}
+
+qint64 bytesFor(Cost cost, QSize size, int pixelBytes)
+{
+    const double pixels = double(size.width()) * size.height();
+    return qint64(std::ceil(pixels * (cost.aPixel + cost.aByte * pixelBytes)));
+}
+
+qint64 bytesFor(Cost cost, const vips::VImage &image)
+{
+    return bytesFor(cost, {image.width(), image.height()}, image.bands() * bytesPerComponent(image));
+}
+
+} // namespace
+
+qint64 memoryNeed(const DecodingFacts &facts, const Outcome &outcome)
+{
+    const int pixelBytes = facts.bands * facts.componentBytes;
+    Cost decoding = costOfDecoding(facts.content, facts.bands);
+    if (facts.comesInPasses && facts.content == Content::Jpeg)
+        decoding.aByte += 2; // the coefficients of all colours
+    else if (facts.comesInPasses)
+        decoding.aByte += 1;
+    const qint64 ofDecoding = bytesFor(decoding, facts.decoded, pixelBytes);
+    const Cost writing = outcome.written ? costOfWriting(*outcome.written) : Cost{};
+    const qint64 ofWriting = bytesFor(writing, outcome.made, pixelBytes);
+    const qint64 pixels = bytesFor({.aByte = outcome.isTurned ? 2.0 : 1.0}, outcome.made, pixelBytes);
+    // What the decoder has given back is in pieces, and not all of it can be used again.
+    return facts.fileBytes + pixels + std::max(ofDecoding, ofWriting) + std::min(ofDecoding, ofWriting) / 2;
+}
+
+qint64 addressesOfThreads(Content content)
+{
+    constexpr qint64 forEight = 768LL << 20;
+    return content == Content::Heif || content == Content::Avif ? forEight : 0;
+}
+
+qint64 memoryNeedOfWriting(FileFormat format, const vips::VImage &image)
+{
+    return bytesFor(costOfWriting(format), image);
+}
+
+qint64 memoryNeedOfPage(const vips::VImage &image)
+{
+    return bytesFor({.aByte = 4}, image);
+}
+
+} // namespace platform

@@ -1,0 +1,101 @@
+#include "platform/imageio/jpeg/jpeg_header.h"
+
+#include "platform/imageio/jpeg/jpeg_error.h"
+
+#include <algorithm>
+
+namespace platform {
+namespace {
+
+/** Feeds the decoder from a device, so that only the beginning of a large file is read. */
+struct DeviceSource
+{
+    jpeg_source_mgr base = {};
+    QIODevice *device = nullptr;
+    std::array<JOCTET, 65536> buffer = {};
+};
+
+void initSource(j_decompress_ptr) {}
+
+boolean fillBuffer(j_decompress_ptr info)
+{
+    auto *source = reinterpret_cast<DeviceSource *>(info->src);
+    const qint64 count =
+        source->device->read(reinterpret_cast<char *>(source->buffer.data()), qint64(source->buffer.size()));
+    if (count <= 0) {
+        source->buffer = {0xFF, JPEG_EOI};
+        source->base.bytes_in_buffer = 2;
+    } else {
+        source->base.bytes_in_buffer = size_t(count);
+    }
+    source->base.next_input_byte = source->buffer.data();
+    return TRUE;
+}
+
+void skipBytes(j_decompress_ptr info, long count)
+{
+    auto *source = reinterpret_cast<DeviceSource *>(info->src);
+    while (count > long(source->base.bytes_in_buffer)) {
+        count -= long(source->base.bytes_in_buffer);
+        fillBuffer(info);
+    }
+    source->base.next_input_byte += count;
+    source->base.bytes_in_buffer -= size_t(count);
+}
+
+void readTables(const jpeg_decompress_struct &info, JpegHeader &header)
+{
+    header.componentCount = info.num_components;
+    header.size = QSize(int(info.image_width), int(info.image_height));
+    const int known = std::min(info.num_components, int(header.quantisation.tableOfComponent.size()));
+    for (int component = 0; component < known; ++component)
+        header.quantisation.tableOfComponent[size_t(component)] = info.comp_info[component].quant_tbl_no;
+    for (size_t table = 0; table < header.quantisation.tables.size(); ++table)
+        if (const JQUANT_TBL *values = info.quant_tbl_ptrs[table])
+            std::copy(std::begin(values->quantval), std::end(values->quantval),
+                      header.quantisation.tables[table].begin());
+    header.quantisation.horizontalSampling = info.comp_info[0].h_samp_factor;
+    header.quantisation.verticalSampling = info.comp_info[0].v_samp_factor;
+}
+
+void readDensity(const jpeg_decompress_struct &info, JpegHeader &header)
+{
+    constexpr int perInch = 1;
+    constexpr int perCentimetre = 2;
+    constexpr double centimetresPerInch = 2.54;
+    if (!info.saw_JFIF_marker || (info.density_unit != perInch && info.density_unit != perCentimetre))
+        return;
+    const double factor = info.density_unit == perCentimetre ? centimetresPerInch : 1;
+    header.horizontalDpi = info.X_density * factor;
+    header.verticalDpi = info.Y_density * factor;
+}
+
+} // namespace
+
+std::optional<JpegHeader> readJpegHeader(QIODevice &file)
+{
+    JpegErrorManager errors;
+    jpeg_decompress_struct info = {};
+    auto source = std::make_unique<DeviceSource>();
+    JpegHeader header;
+    info.err = prepare(errors);
+    if (setjmp(errors.jump)) {
+        jpeg_destroy_decompress(&info);
+        return std::nullopt;
+    }
+    jpeg_create_decompress(&info);
+    source->device = &file;
+    source->base.init_source = initSource;
+    source->base.fill_input_buffer = fillBuffer;
+    source->base.skip_input_data = skipBytes;
+    source->base.resync_to_restart = jpeg_resync_to_restart;
+    source->base.term_source = initSource;
+    info.src = &source->base;
+    jpeg_read_header(&info, TRUE);
+    readTables(info, header);
+    readDensity(info, header);
+    jpeg_destroy_decompress(&info);
+    return header;
+}
+
+} // namespace platform

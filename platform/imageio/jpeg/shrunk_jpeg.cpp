@@ -1,0 +1,52 @@
+#include "platform/imageio/jpeg/shrunk_jpeg.h"
+
+#include <vector>
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+
+VImage enlarged(const VImage &image, QSize size)
+{
+    if (size == QSize(image.width(), image.height()))
+        return image;
+    return image.embed(0, 0, size.width(), size.height(), VImage::option()->set("extend", VIPS_EXTEND_COPY));
+}
+
+} // namespace
+
+int jpegShrinkFor(QSize stored, QSize wanted)
+{
+    for (const int shrink : {8, 4, 2})
+        if (stored.width() / shrink >= wanted.width() && stored.height() / shrink >= wanted.height())
+            return shrink;
+    return 1;
+}
+
+VImage withWholeEdges(const VImage &image, QSize stored, int shrink)
+{
+    const auto shrunk = [shrink](int side) { return (side + shrink - 1) / shrink; };
+    return enlarged(image, {shrunk(stored.width()), shrunk(stored.height())});
+}
+
+VImage scaledFromShrunk(const VImage &image, QSize stored, int shrink, QSize wanted)
+{
+    const VImage whole = withWholeEdges(image, stored, shrink);
+    const double across = double(whole.width()) * shrink / stored.width();
+    const double down = double(whole.height()) * shrink / stored.height();
+    if (across == 1 && down == 1)
+        return scaledTo(whole, wanted);
+    // What the last column stands for is less than it shows: all are drawn a little wider, until it ends at the edge.
+    const auto offset = [](double scale) { return (scale - 1) / 2; }; // between the centres of the first pixels
+    const VImage fitting = inMemory(whole).affine(
+        {across, 0, 0, down}, VImage::option()
+                                  ->set("oarea", std::vector<int>{0, 0, whole.width(), whole.height()})
+                                  ->set("odx", offset(across))
+                                  ->set("ody", offset(down))
+                                  ->set("extend", VIPS_EXTEND_COPY)
+                                  ->set("interpolate", vips::VInterpolate::new_from_name("bicubic")));
+    return scaledTo(fitting, wanted);
+}
+
+} // namespace platform

@@ -1,0 +1,212 @@
+#include "platform/imageio/load/loaders.h"
+
+#include "platform/file/regular_file.h"
+#include "platform/graphics/resample.h"
+#include "platform/imageio/bmp/bmp_header.h"
+#include "platform/imageio/bmp/bmp_pixels.h"
+#include "platform/imageio/jpeg2000/jpeg2000_reader.h"
+#include "platform/imageio/load/svg_work.h"
+#include "platform/imageio/photoshop/photoshop_pixels.h"
+#include "platform/imageio/tiff/tiff_samples.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <QtEndian>
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+using vips::VOption;
+using vips::VSource;
+
+VSource sourceOf(const PictureBytes &source)
+{
+    if (!source.path.isEmpty()) {
+        QFile file(source.path); // by its descriptor, so that what is read is what was asked
+        if (const auto opened = openToRead(file); !opened)
+            throw vips::VError(opened.error().message.toStdString());
+        return VSource::new_from_descriptor(file.handle());
+    }
+    return VSource::new_from_memory(source.bytes.constData(), size_t(source.bytes.size()));
+}
+
+VOption *commonOptions()
+{
+    return VImage::option()->set("access", VIPS_ACCESS_SEQUENTIAL)->set("fail_on", VIPS_FAIL_ON_ERROR);
+}
+
+/** The decoder of these containers frees the profile while the image still refers to it: the image gets a copy. */
+VImage withOwnProfile(const VImage &image)
+{
+    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
+        return image;
+    size_t length = 0;
+    const void *profile = image.get_blob(VIPS_META_ICC_NAME, &length);
+    const VImage owner = image.copy();
+    vips_image_set_blob_copy(owner.get_image(), VIPS_META_ICC_NAME, profile, length);
+    return owner;
+}
+
+/** The image with a profile that its decoder passes over. */
+VImage withProfile(const VImage &image, const QByteArray &profile)
+{
+    if (profile.isEmpty())
+        return image;
+    const VImage owner = image.copy();
+    vips_image_set_blob_copy(owner.get_image(), VIPS_META_ICC_NAME, profile.constData(), size_t(profile.size()));
+    return owner;
+}
+
+std::unique_ptr<QIODevice> openedDevice(const PictureBytes &source)
+{
+    std::unique_ptr<QIODevice> device = source.device();
+    if (!device)
+        throw vips::VError("it cannot be opened");
+    return device;
+}
+
+VImage loadBitmapFile(const PictureBytes &source)
+{
+    const std::unique_ptr<QIODevice> device = openedDevice(source);
+    const VImage pixels = bmpPixels(*device);
+    return withProfile(pixels, readBmpProfile(*device));
+}
+
+/**
+ * Some old compressions are read by Qt's decoder only, and in one piece, and so are samples that stand for the logarithm of a
+ * brightness, which it brings to what is seen of them.
+ */
+VImage loadTiffThroughQt(const PictureBytes &source, const vips::VError &reason)
+{
+    const std::unique_ptr<QIODevice> device = openedDevice(source);
+    QImageReader::setAllocationLimit(0); // sizes are checked against a budget of ours
+    QImageReader reader(device.get(), "tiff");
+    constexpr int rgba = 4;
+    if (!fitsMemoryBudget(reader.size().width(), reader.size().height(), rgba, 1))
+        throw reason;
+    vips_error_clear();
+    const QImage image = reader.read();
+    if (image.isNull())
+        throw vips::VError(reader.errorString().toStdString());
+    constexpr double millimetresPerMetre = 1000;
+    return imageFromQImage(image).copy(VImage::option()
+                                           ->set("xres", image.dotsPerMeterX() / millimetresPerMetre)
+                                           ->set("yres", image.dotsPerMeterY() / millimetresPerMetre));
+}
+
+/** What the tags of the file say of the bands. */
+SampleFacts factsOf(const TiffSamples &samples, const VImage &image)
+{
+    enum Photometric { MinIsWhite = 0, MinIsBlack = 1, Palette = 3, Separated = 5 };
+    constexpr int rgb = 3;
+    constexpr int cmyk = 4;
+    SampleFacts facts;
+    const bool isGrey = samples.photometric == MinIsWhite || samples.photometric == MinIsBlack;
+    const bool isGreyPalette = samples.photometric == Palette && image.bands() < rgb;
+    if (isGrey || isGreyPalette || image.bands() < rgb)
+        facts.colours = 1;
+    else
+        facts.colours = samples.photometric == Separated && image.bands() >= cmyk ? cmyk : rgb;
+    facts.alpha = SampleFacts::none;
+    for (int other = 0; other < samples.others.size() && facts.alpha == SampleFacts::none; ++other)
+        if (samples.others[other] == 1 || samples.others[other] == 2)
+            facts.alpha = facts.colours + other;
+    if (samples.bits >= 8) // fewer have been brought to the full range
+        facts.bits = samples.bits;
+    return facts;
+}
+
+VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
+{
+    const TiffSamples samples = readTiffSamples(*openedDevice(source), options.page);
+    if (samples.isLogarithmic() && options.page == 0)
+        return loadTiffThroughQt(source, vips::VError("its size is too large"));
+    try {
+        const VImage image = VImage::tiffload_source(sourceOf(source), commonOptions()->set("page", options.page));
+        return samples.isKnown ? withSampleFacts(image, factsOf(samples, image)) : image;
+    } catch (const vips::VError &error) {
+        if (options.page > 0)
+            throw;
+        return loadTiffThroughQt(source, error);
+    }
+}
+
+/** The file says which of its items is the picture; the others count behind it, in their order. */
+VImage loadHeif(const PictureBytes &source, const LoadOptions &options)
+{
+    const VImage primary = VImage::heifload_source(sourceOf(source), commonOptions()); // where no page is named
+    if (options.page == 0)
+        return withOwnProfile(primary);
+    const int primaryPage = primary.get_typeof("heif-primary") != 0 ? primary.get_int("heif-primary") : 0;
+    const int page = options.page - (options.page <= primaryPage ? 1 : 0);
+    return withOwnProfile(VImage::heifload_source(sourceOf(source), commonOptions()->set("page", page)));
+}
+
+/** A short text can ask for any amount of work, and nothing can stop the library once it draws. */
+VImage loadSvg(const PictureBytes &source, const LoadOptions &options)
+{
+    const VImage image = VImage::svgload_source(sourceOf(source), commonOptions()->set("scale", options.drawingScale));
+    if (!canDrawSvg(source.all(), QSize(image.width(), image.height())))
+        throw vips::VError("drawing it would take too long");
+    return image;
+}
+
+} // namespace
+
+VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options)
+{
+    initVips();
+    // What an earlier picture left in the library's one buffer would be told as the reason of this one.
+    vips_error_clear();
+    switch (content) {
+    case Content::Jpeg:
+        return VImage::jpegload_source(sourceOf(source), commonOptions()->set("shrink", options.jpegShrink));
+    case Content::Png:
+        return VImage::pngload_source(sourceOf(source), commonOptions());
+    case Content::Tiff:
+        return loadTiff(source, options);
+    case Content::Gif:
+        return VImage::gifload_source(sourceOf(source), commonOptions()->set("page", options.page));
+    case Content::Bmp:
+        return loadBitmapFile(source);
+    case Content::Webp:
+        return VImage::webpload_source(sourceOf(source), commonOptions()->set("page", options.page));
+    case Content::Heif:
+    case Content::Avif:
+        return loadHeif(source, options);
+    case Content::Jpeg2000:
+        return loadJpeg2000(source);
+    case Content::Photoshop:
+        return photoshopPixels(*openedDevice(source));
+    case Content::Pdf:
+        return VImage::pdfload_source(sourceOf(source),
+                                      commonOptions()->set("page", options.page)->set("scale", options.drawingScale));
+    case Content::Svg:
+        return loadSvg(source, options);
+    case Content::Unknown:
+        break;
+    }
+    throw vips::VError("not a picture");
+}
+
+QSize claimedSize(const PictureBytes &source, Content content)
+{
+    const std::unique_ptr<QIODevice> device = source.device();
+    if (!device)
+        return {};
+    if (content == Content::Bmp)
+        return readBmpHeader(*device).size;
+    constexpr int photoshopHeaderBytes = 26;
+    const QByteArray head = device->read(photoshopHeaderBytes);
+    if (content != Content::Photoshop || head.size() < photoshopHeaderBytes)
+        return {};
+    const auto height = qFromBigEndian<quint32>(head.constData() + 14);
+    const auto width = qFromBigEndian<quint32>(head.constData() + 18);
+    constexpr quint32 largestSide = 300'000; // of the format
+    if (width > largestSide || height > largestSide)
+        return {};
+    return {int(width), int(height)};
+}
+
+} // namespace platform

@@ -1,0 +1,233 @@
+#include "platform/imageio/bytes/deflate.h"
+#include "platform/imageio/exif/tiff_graft.h"
+#include "platform/imageio/jpeg/jpeg_segments.h"
+#include "platform/imageio/metadata/exif_block.h"
+#include "platform/imageio/metadata/metadata_blocks.h"
+#include "platform/imageio/png/png_chunks.h"
+#include "platform/imageio/tiff/tiff_reader.h"
+#include "platform/imageio/xmp/xmp_bounds.h"
+#include "platform/imageio/xmp/xmp_packet.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <exception>
+
+namespace platform {
+namespace {
+
+constexpr qsizetype largestSegment = 0xffff - 2;
+
+void appendSegment(QByteArray &out, uchar marker, const QByteArray &payload)
+{
+    if (payload.isEmpty() || payload.size() > largestSegment)
+        return;
+    char length[2];
+    qToBigEndian<quint16>(quint16(payload.size() + 2), length);
+    out.append('\xff').append(char(marker)).append(length, 2).append(payload);
+}
+
+/** What one block's maker gives, or nothing where it throws: the other blocks are carried all the same. */
+template<typename Maker> QByteArray madeOrNothing(Maker make)
+{
+    try {
+        return make();
+    } catch (const std::exception &) {
+        return {};
+    }
+}
+
+/** The packet as it was read; one that was never a packet is made of its entries. */
+QByteArray xmpPacket(const Metadata::Blocks &blocks, QSize pixels)
+{
+    std::string packet = blocks.xmpPacket;
+    if (packet.empty() && !blocks.xmp.empty() &&
+        Exiv2::XmpParser::encode(packet, blocks.xmp, Exiv2::XmpParser::useCompactFormat) != 0)
+        return {};
+    return xmpForNewPixels(QByteArray(packet.data(), qsizetype(packet.size())), pixels);
+}
+
+QByteArray xmpPayload(const Metadata::Blocks &blocks, QSize pixels)
+{
+    const QByteArray packet = xmpPacket(blocks, pixels);
+    return packet.isEmpty() ? packet : QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + packet;
+}
+
+/** IPTC as one Photoshop resource; empty where there is none. */
+QByteArray iptcResources(const Metadata::Blocks &blocks)
+{
+    if (blocks.iptc.empty())
+        return {};
+    const Exiv2::DataBuf resources = Exiv2::Photoshop::setIptcIrb(nullptr, 0, blocks.iptc);
+    return {reinterpret_cast<const char *>(resources.pData_), std::max(0L, resources.size_)};
+}
+
+QByteArray iptcPayload(const Metadata::Blocks &blocks)
+{
+    const QByteArray resources = iptcResources(blocks);
+    return resources.isEmpty() ? resources : QByteArray("Photoshop 3.0\0", 14) + resources;
+}
+
+QByteArray writtenIntoJpeg(const Metadata::Blocks &blocks, const QByteArray &encoded, const JpegSegments &segments)
+{
+    const QByteArray exif = encodeExifBlock(blocks, segments.size, blocks.byteOrder, largestSegment - 6);
+    QByteArray out;
+    out.reserve(encoded.size() + exif.size() + qsizetype(blocks.xmpPacket.size()) + 4096);
+    out.append(encoded.constData(), segments.insertAt);
+    if (!exif.isEmpty())
+        appendSegment(out, 0xe1, QByteArray("Exif\0\0", 6) + exif);
+    appendSegment(out, 0xe1, madeOrNothing([&] { return xmpPayload(blocks, segments.size); }));
+    appendSegment(out, 0xed, madeOrNothing([&] { return iptcPayload(blocks); }));
+    qsizetype position = segments.insertAt;
+    for (const JpegSegments::Range &range : segments.metadata) {
+        out.append(encoded.constData() + position, range.start - position);
+        position = range.start + range.size;
+    }
+    return out.append(encoded.constData() + position, encoded.size() - position);
+}
+
+QByteArray iptcRecords(const Metadata::Blocks &blocks)
+{
+    if (blocks.iptc.empty())
+        return {};
+    const Exiv2::DataBuf records = Exiv2::IptcParser::encode(blocks.iptc);
+    return QByteArray(reinterpret_cast<const char *>(records.pData_), records.size_);
+}
+
+/** What goes into a TIFF file of some shape. */
+GraftedBlocks blocksFor(const Metadata::Blocks &blocks, const TiffShape &shape)
+{
+    constexpr qsizetype largestBlock = 32 << 20;
+    const Exiv2::ByteOrder own = shape.littleEndian ? Exiv2::littleEndian : Exiv2::bigEndian;
+    const Exiv2::ByteOrder order = shape.hasByteSamples ? blocks.byteOrder : own;
+    return {encodeExifBlock(blocks, shape.pixels, order, largestBlock),
+            madeOrNothing([&] { return xmpPacket(blocks, shape.pixels); }),
+            madeOrNothing([&] { return iptcRecords(blocks); })};
+}
+
+/** Empty where the file is not of the plain kind that this works for. */
+QByteArray graftedIntoTiff(const Metadata::Blocks &blocks, const QByteArray &encoded)
+{
+    const TiffShape shape = tiffShape(encoded);
+    return shape.valid ? graftIntoTiff(encoded, blocksFor(blocks, shape)) : QByteArray();
+}
+
+QByteArray contentOf(Exiv2::Image &image)
+{
+    Exiv2::BasicIo &io = image.io();
+    if (io.open() != 0)
+        return {};
+    const Exiv2::byte *data = io.mmap();
+    QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(io.size()));
+    io.munmap();
+    io.close();
+    return bytes;
+}
+
+/** For all other TIFF files. Throws where exiv2 cannot do it. */
+QByteArray rewrittenTiff(const Metadata::Blocks &blocks, const QByteArray &encoded, MakerNotes makerNotes)
+{
+    const auto image =
+        Exiv2::ImageFactory::open(reinterpret_cast<const Exiv2::byte *>(encoded.constData()), long(encoded.size()));
+    image->readMetadata();
+    const QSize pixels(image->pixelWidth(), image->pixelHeight());
+    Exiv2::ExifData &exif = image->exifData();
+    for (const Exiv2::Exifdatum &tag : exifForNewFile(blocks.exif, pixels, makerNotes)) {
+        const auto there = exif.findKey(Exiv2::ExifKey(tag.key()));
+        if (there == exif.end())
+            exif.add(tag);
+        else
+            there->setValue(&tag.value());
+    }
+    image->setIptcData(blocks.iptc);
+    const QByteArray packet = madeOrNothing([&] { return xmpPacket(blocks, pixels); });
+    image->clearXmpData();
+    if (!packet.isEmpty() && isDigestibleXmp(packet) &&
+        Exiv2::XmpParser::decode(image->xmpData(), packet.toStdString()) == 0)
+        image->setXmpPacket(packet.toStdString());
+    image->writeMetadata();
+    return contentOf(*image);
+}
+
+/** Throws, or gives nothing, where it cannot be done. */
+QByteArray writtenIntoTiff(const Metadata::Blocks &blocks, const QByteArray &encoded, MakerNotes makerNotes)
+{
+    const QByteArray grafted = graftedIntoTiff(blocks, encoded);
+    return grafted.isEmpty() ? rewrittenTiff(blocks, encoded, makerNotes) : grafted;
+}
+
+/** Texts of a raw profile: name, length, then hexadecimal digits in lines. This is the one way in which PNG holds IPTC. */
+QByteArray rawProfile(const QByteArray &name, const QByteArray &bytes)
+{
+    constexpr qsizetype digitsInLine = 72;
+    const QByteArray digits = bytes.toHex();
+    QByteArray text = '\n' + name + '\n' + QByteArray::number(bytes.size()).rightJustified(8) + '\n';
+    for (qsizetype at = 0; at < digits.size(); at += digitsInLine)
+        text += digits.mid(at, digitsInLine) + '\n';
+    return text;
+}
+
+QByteArray writtenIntoPng(const Metadata::Blocks &blocks, const QByteArray &encoded, const PngParts &parts)
+{
+    constexpr qsizetype largestBlock = 32 << 20;
+    const QByteArray exif = encodeExifBlock(blocks, parts.pixels, blocks.byteOrder, largestBlock);
+    const QByteArray xmp = madeOrNothing([&] { return xmpPacket(blocks, parts.pixels); });
+    const QByteArray iptc = madeOrNothing([&] { return iptcResources(blocks); });
+    QByteArray out;
+    out.reserve(encoded.size() + exif.size() + xmp.size() + blocks.pngChunks.size() + 3 * iptc.size() + 4096);
+    out.append(encoded.constData(), parts.pixelsAt);
+    out.append(blocks.pngChunks);
+    if (!exif.isEmpty())
+        appendPngChunk(out, "eXIf", exif);
+    if (!xmp.isEmpty()) // not compressed, in no language
+        appendPngChunk(out, "iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) + xmp);
+    if (!iptc.isEmpty())
+        appendPngChunk(out, "zTXt", QByteArray("Raw profile type iptc\0\0", 23) + deflated(rawProfile("iptc", iptc)));
+    return out.append(encoded.constData() + parts.pixelsAt, encoded.size() - parts.pixelsAt);
+}
+
+} // namespace
+
+Result<QByteArray> Metadata::writtenInto(const QByteArray &encoded) const
+{
+    const JpegSegments segments = findJpegSegments(encoded);
+    const PngParts parts = findPngParts(encoded);
+    TiffNumbers numbers;
+    if (!segments.valid && !parts.valid && !isTiffHeader(encoded, numbers))
+        return failure(ErrorCode::Unsupported,
+                       QStringLiteral("Cannot write metadata: not a JPEG, a TIFF or a PNG file"));
+    const bool hasOnlyChunks = isEmpty() && m_blocks && parts.valid && !m_blocks->pngChunks.isEmpty();
+    if (isEmpty() && !hasOnlyChunks)
+        return encoded;
+    startMetadataLibrary();
+    if (parts.valid)
+        return writtenIntoPng(*m_blocks, encoded, parts);
+    for (const MakerNotes makerNotes : {MakerNotes::Keep, MakerNotes::Drop}) {
+        try {
+            const QByteArray written = segments.valid ? writtenIntoJpeg(*m_blocks, encoded, segments)
+                                                      : writtenIntoTiff(*m_blocks, encoded, makerNotes);
+            if (!written.isEmpty())
+                return written;
+        } catch (const std::exception &) {
+            // With less, or at the end with nothing: the picture itself is what must not be lost.
+        }
+    }
+    return encoded;
+}
+
+std::optional<FileEnds> Metadata::writtenAround(const FileEnds &bare, qint64 pixelBytes) const
+{
+    const QByteArray file = bare.head + bare.tail;
+    const TiffShape shape = tiffShape(file);
+    if (isEmpty() || !shape.valid)
+        return std::nullopt;
+    startMetadataLibrary();
+    try {
+        const FileEnds ends = graftAroundPixels(file, pixelBytes, blocksFor(*m_blocks, shape));
+        return ends.tail.isEmpty() ? std::nullopt : std::optional(ends);
+    } catch (const std::exception &) {
+        return std::nullopt; // writtenInto() knows what to leave out
+    }
+}
+
+} // namespace platform

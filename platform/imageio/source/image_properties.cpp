@@ -1,0 +1,97 @@
+#include "platform/imageio/facts/container_properties.h"
+#include "platform/imageio/facts/profile_name.h"
+#include "platform/imageio/facts/resolution.h"
+#include "platform/imageio/facts/sample_depth.h"
+#include "platform/imageio/load/loaders.h"
+#include "platform/imageio/source/opened_file.h"
+
+namespace platform {
+namespace {
+
+QString colorModelName(const vips::VImage &image)
+{
+    switch (image.interpretation()) {
+    case VIPS_INTERPRETATION_B_W:
+    case VIPS_INTERPRETATION_GREY16:
+        return QStringLiteral("Gray");
+    case VIPS_INTERPRETATION_CMYK:
+        return QStringLiteral("CMYK");
+    case VIPS_INTERPRETATION_LAB:
+    case VIPS_INTERPRETATION_LABS:
+        return QStringLiteral("Lab");
+    default:
+        return QStringLiteral("RGB");
+    }
+}
+
+/** What pixels without a profile are taken to be. */
+QString unprofiledName(const QString &model)
+{
+    if (model == QLatin1String("Gray"))
+        return QStringLiteral("Gray Gamma 2.2");
+    if (model == QLatin1String("CMYK"))
+        return QStringLiteral("Generic CMYK");
+    return model == QLatin1String("Lab") ? model : QStringLiteral("sRGB IEC61966-2.1");
+}
+
+void addPixelProperties(QVariantMap &properties, const vips::VImage &image)
+{
+    properties.insert(QStringLiteral("PixelWidth"), image.width());
+    properties.insert(QStringLiteral("PixelHeight"), image.height());
+    properties.insert(QStringLiteral("ColorModel"), colorModelName(image));
+    properties.insert(QStringLiteral("HasAlpha"), hasTransparency(image));
+    const QString name = profileName(iccProfileOf(image));
+    if (!name.isEmpty())
+        properties.insert(QStringLiteral("ProfileName"), name);
+}
+
+} // namespace
+
+QSizeF ImageSource::pointSize() const
+{
+    constexpr double pointsPerInch = 72;
+    Resolution resolution;
+    if (m_file)
+        resolution = uprightResolution(resolutionOf(m_file->bytes, m_file->content), m_file->orientation);
+    const auto inPoints = [](int pixels, double dpi) { return dpi > 0 ? pixels * pointsPerInch / dpi : pixels; };
+    const QSize pixels = uprightSize();
+    return {inPoints(pixels.width(), resolution.horizontal), inPoints(pixels.height(), resolution.vertical)};
+}
+
+QString ImageSource::colorSpaceName() const
+{
+    if (!m_file)
+        return {};
+    try {
+        const vips::VImage image = openImage(m_file->bytes, m_file->content);
+        const QString name = profileName(iccProfileOf(image));
+        return name.isEmpty() ? unprofiledName(colorModelName(image)) : name;
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+        return {};
+    }
+}
+
+QVariantMap ImageSource::properties() const
+{
+    if (!m_file)
+        return {};
+    QVariantMap properties = metadata().toProperties();
+    if (const std::unique_ptr<QIODevice> device = m_file->bytes.device())
+        properties.insert(containerProperties(*device));
+    try {
+        const vips::VImage image = openImage(m_file->bytes, m_file->content);
+        addPixelProperties(properties, image);
+        properties.insert(QStringLiteral("Depth"), sampleDepth(m_file->bytes, m_file->content, image));
+        const Resolution resolution = resolutionOf(m_file->bytes, m_file->content);
+        if (resolution.horizontal > 0) {
+            properties.insert(QStringLiteral("DPIWidth"), resolution.horizontal);
+            properties.insert(QStringLiteral("DPIHeight"), resolution.vertical);
+        }
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+    }
+    return properties;
+}
+
+} // namespace platform

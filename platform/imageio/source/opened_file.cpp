@@ -1,0 +1,27 @@
+#include "platform/imageio/source/opened_file.h"
+
+#include "platform/foundation/memory_left.h"
+#include "platform/imageio/facts/metadata_of_file.h"
+
+#include <QFileInfo>
+
+namespace platform {
+
+Metadata ImageSource::File::metadata() const
+{
+    return isRaw() ? metadataOf(raw, Content::Tiff) : metadataOf(bytes, content);
+}
+
+Result<void> memoryIsLeftToDecode(const ImageSource::File &file, const vips::VImage &image, const Outcome &outcome)
+{
+    DecodingFacts facts;
+    facts.content = file.content;
+    facts.fileBytes = file.bytes.path.isEmpty() ? 0 : QFileInfo(file.bytes.path).size();
+    facts.decoded = QSize(image.width(), image.height());
+    facts.bands = image.bands();
+    facts.componentBytes = bytesPerComponent(image);
+    facts.comesInPasses = image.get_typeof("interlaced") != 0 && image.get_int("interlaced") != 0;
+    return memoryIsLeftFor(memoryNeed(facts, outcome), file.name(), addressesOfThreads(file.content));
+}
+
+} // namespace platform

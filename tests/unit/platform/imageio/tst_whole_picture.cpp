@@ -1,0 +1,317 @@
+#include "platform/imageio/bytes/block_reader.h"
+#include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/load/svg_work.h"
+#include "platform/imageio/source/image_source.h"
+#include "platform/imageio/source/picture_facts.h"
+#include "platform/imageio/whole/whole_picture.h"
+#include "tests/support/corpus.h"
+#include "tests/support/expected_pictures.h"
+#include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
+
+#include <QBuffer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+using platform::Content;
+using platform::ImageSource;
+
+namespace {
+
+/** Bytes that count how often they are asked for some. */
+class CountingBuffer : public QBuffer
+{
+public:
+    explicit CountingBuffer(const QByteArray &bytes)
+    {
+        setData(bytes);
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    int reads = 0;
+
+protected:
+    qint64 readData(char *data, qint64 most) override
+    {
+        ++reads;
+        return QBuffer::readData(data, most);
+    }
+};
+
+QByteArray big32(quint32 number)
+{
+    QByteArray bytes(4, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+QByteArray write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? bytes : QByteArray();
+}
+
+bool run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    return process.waitForFinished() && process.exitCode() == 0;
+}
+
+/** A raw file as cameras build it: a small first directory, and below it one with the sensor's data in one strip. */
+QByteArray rawFile(const QByteArray &preview)
+{
+    const auto entry = [](quint16 tag, quint16 type, quint32 count, quint32 value) {
+        QByteArray bytes(12, '\0');
+        qToLittleEndian(tag, bytes.data());
+        qToLittleEndian(type, bytes.data() + 2);
+        qToLittleEndian(count, bytes.data() + 4);
+        qToLittleEndian(value, bytes.data() + 8);
+        return bytes;
+    };
+    constexpr quint32 below = 8 + 2 + 5 * 12 + 4;
+    constexpr quint32 previewAt = below + 2 + 2 * 12 + 4;
+    const auto size = quint32(preview.size());
+    QByteArray file("II*\0\x08\0\0\0\x05\0", 10);
+    file += entry(0x00fe, 4, 1, 1) + entry(0x014a, 4, 1, below) + entry(0x0201, 4, 1, previewAt) +
+            entry(0x0202, 4, 1, size) + entry(0xc612, 1, 4, 0x00000401) + QByteArray(4, '\0');
+    file += QByteArray("\x02\0", 2) + entry(0x0111, 4, 1, previewAt + size) + entry(0x0117, 4, 1, 5000);
+    return file + QByteArray(4, '\0') + preview + QByteArray(5000, 'x');
+}
+
+} // namespace
+
+class TestWholePicture : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void refusesWhatIsCut_data();
+    void refusesWhatIsCut();
+    void keepsOddFilesThatAreWhole();
+    void readsWhatOthersDecode();
+    void refusesACutRawFile();
+    void missesATileOfACodestream();
+    void stepsOverSmallPartsInBlocks_data();
+    void stepsOverSmallPartsInBlocks();
+    void readsAJpegWithBytesBetweenItsSegments();
+    void factsAndMetadataAgreeAboutRawFiles();
+    void reckonsTheWorkOfDrawings_data();
+    void reckonsTheWorkOfDrawings();
+    void doesNotDrawWhatTakesTooLong();
+
+private:
+    QString at(const QString &name) const { return m_folder.filePath(name); }
+    QByteArray plainJpeg() const { return pictures::bytesOf(at(QStringLiteral("a.jpg"))); }
+
+    QTemporaryDir m_folder;
+};
+
+void TestWholePicture::initTestCase()
+{
+    const QString png = at(QStringLiteral("a.png"));
+    QVERIFY(pictures::gradient(150, 90).save(png));
+    for (const char *name : {"a.jpg", "a.gif", "a.bmp", "a.tif", "a.jp2", "a.j2k", "a.psd"})
+        QVERIFY2(run(QStringLiteral("convert"), {png, at(QString::fromLatin1(name))}), name);
+    QVERIFY(run(QStringLiteral("convert"),
+                {png, QStringLiteral("-colors"), QStringLiteral("16"), QStringLiteral("-compress"),
+                 QStringLiteral("RLE"), at(QStringLiteral("runs.bmp"))}));
+    QVERIFY(run(QStringLiteral("convert"),
+                {png, QStringLiteral("-compress"), QStringLiteral("LZW"), QStringLiteral("-define"),
+                 QStringLiteral("tiff:rows-per-strip=7"), at(QStringLiteral("strips.tif"))}));
+    QVERIFY(run(QStringLiteral("convert"), {png, png, at(QStringLiteral("pages.tif"))}));
+    QVERIFY(run(QStringLiteral("convert"), {png, png, at(QStringLiteral("frames.gif"))}));
+    QVERIFY(run(QStringLiteral("vips"), {QStringLiteral("copy"), png, at(QStringLiteral("tiles.tif[tile,bigtiff]"))}));
+    QVERIFY(run(QStringLiteral("vips"), {QStringLiteral("copy"), png, at(QStringLiteral("a.webp"))}));
+    QVERIFY(run(QStringLiteral("vips"),
+                {QStringLiteral("heifsave"), png, at(QStringLiteral("a.avif")), QStringLiteral("--compression"),
+                 QStringLiteral("av1"), QStringLiteral("--effort"), QStringLiteral("0")}));
+}
+
+void TestWholePicture::refusesWhatIsCut_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"a.png", "a.jpg", "a.gif", "a.bmp", "a.tif", "a.jp2", "a.j2k", "a.psd", "runs.bmp",
+                             "strips.tif", "pages.tif", "frames.gif", "tiles.tif", "a.webp", "a.avif"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TestWholePicture::refusesWhatIsCut()
+{
+    QFETCH(QString, name);
+    const QByteArray whole = pictures::bytesOf(at(name));
+    QVERIFY(platform::isWholePicture(at(name)));
+    const auto source = ImageSource::open(at(name));
+    QVERIFY2(source, source ? "" : qPrintable(source.error().message));
+    QVERIFY(source->decode().has_value());
+    const QString cut = at(QStringLiteral("cut-") + name);
+    for (const qsizetype left : {whole.size() - 1, whole.size() * 9 / 10, whole.size() / 2, whole.size() / 4}) {
+        write(cut, whole.left(left));
+        QVERIFY2(!platform::isWholePicture(cut), qPrintable(QString::number(left)));
+        QVERIFY(!ImageSource::open(cut));
+        QVERIFY(!ImageSource::canOpen(cut));
+        QVERIFY(platform::pictureFacts(cut).pixels.isEmpty());
+    }
+}
+
+void TestWholePicture::keepsOddFilesThatAreWhole()
+{
+    // Other bytes behind the end of a picture are no part of it.
+    for (const char *name : {"a.png", "a.jpg", "a.gif", "a.bmp", "a.tif", "a.jp2", "a.psd", "a.webp"}) {
+        const QString longer = at(QStringLiteral("longer-") + QString::fromLatin1(name));
+        write(longer, pictures::bytesOf(at(QString::fromLatin1(name))) + QByteArray(5, '\0'));
+        QVERIFY2(platform::isWholePicture(longer), name);
+    }
+}
+
+void TestWholePicture::readsWhatOthersDecode()
+{
+    const QList<expected::Row> rows = expected::rows();
+    if (rows.isEmpty())
+        QSKIP("no shared pictures");
+    for (const expected::Row &row : rows)
+        if (row.isDecodable)
+            QVERIFY2(platform::isWholePicture(row.path), qPrintable(row.name));
+}
+
+void TestWholePicture::refusesACutRawFile()
+{
+    const QByteArray raw = rawFile(plainJpeg());
+    write(at(QStringLiteral("whole.dng")), raw);
+    QVERIFY(platform::isWholePicture(at(QStringLiteral("whole.dng"))));
+    QVERIFY(ImageSource::open(at(QStringLiteral("whole.dng"))).has_value());
+    // The preview is all there; what the sensor saw is not.
+    write(at(QStringLiteral("cut.dng")), raw.chopped(1));
+    QVERIFY(!platform::isWholePicture(at(QStringLiteral("cut.dng"))));
+    QVERIFY(!ImageSource::open(at(QStringLiteral("cut.dng"))));
+}
+
+void TestWholePicture::missesATileOfACodestream()
+{
+    const QString png = at(QStringLiteral("a.png"));
+    QVERIFY(run(QStringLiteral("opj_compress"),
+                {QStringLiteral("-i"), png, QStringLiteral("-o"), at(QStringLiteral("tiled.j2k")), QStringLiteral("-t"),
+                 QStringLiteral("64,64")}));
+    const QByteArray whole = pictures::bytesOf(at(QStringLiteral("tiled.j2k")));
+    QVERIFY(platform::isWholePicture(at(QStringLiteral("tiled.j2k"))));
+    const QByteArray startOfTile("\xFF\x90\0\x0A", 4);
+    const qsizetype last = whole.lastIndexOf(startOfTile);
+    QVERIFY(last > 0);
+    write(at(QStringLiteral("tiled.j2k")), whole.left(last) + QByteArray("\xFF\xD9", 2));
+    QVERIFY(!platform::isWholePicture(at(QStringLiteral("tiled.j2k"))));
+}
+
+void TestWholePicture::stepsOverSmallPartsInBlocks_data()
+{
+    QTest::addColumn<int>("content");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("isWhole");
+    constexpr int parts = 500'000;
+    const QByteArray chunk = big32(0) + "teXt" + big32(0);
+    QTest::newRow("PNG of empty chunks") << int(Content::Png)
+                                         << "\x89PNG\r\n\x1A\n" + chunk.repeated(parts) + big32(0) + "IEND" + big32(0)
+                                         << false;
+    QTest::newRow("GIF of short blocks") << int(Content::Gif)
+                                         << QByteArray("GIF89a\x01\0\x01\0\0\0\0!\xFE", 15) +
+                                                QByteArray("\x01x", 2).repeated(parts) + QByteArray("\0;", 2)
+                                         << false;
+    QTest::newRow("JPEG head before zeros")
+        << int(Content::Jpeg)
+        << QByteArray("\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0", 20) + QByteArray(8 << 20, '\0') << false;
+    QTest::newRow("JPEG head before fill bytes")
+        << int(Content::Jpeg) << "\xFF\xD8" + QByteArray(8 << 20, '\xFF') << false;
+}
+
+void TestWholePicture::stepsOverSmallPartsInBlocks()
+{
+    QFETCH(int, content);
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, isWhole);
+    CountingBuffer file(bytes);
+    QCOMPARE(platform::isWhole(file, Content(content)), isWhole);
+    QVERIFY2(file.reads < 500, qPrintable(QString::number(file.reads)));
+}
+
+void TestWholePicture::readsAJpegWithBytesBetweenItsSegments()
+{
+    QByteArray jpeg = plainJpeg();
+    QByteArray all;
+    for (int byte = 0; byte < 256; ++byte)
+        all += char(byte);
+    const qsizetype second = 4 + qFromBigEndian<quint16>(jpeg.constData() + 4);
+    jpeg.insert(second, all).insert(2, all);
+    const auto source = ImageSource::fromData(jpeg);
+    QVERIFY2(source, source ? "" : qPrintable(source.error().message));
+    QCOMPARE(source->typeIdentifier(), QStringLiteral("public.jpeg"));
+    QCOMPARE(source->decode()->size(), QSize(150, 90));
+    write(at(QStringLiteral("between.jpg")), jpeg);
+    QCOMPARE(platform::pictureFacts(at(QStringLiteral("between.jpg"))).pixels, QSize(150, 90));
+    // Two bytes of a beginning are not enough.
+    QVERIFY(!ImageSource::fromData("\xFF\xD8 plain text that happens to begin so"));
+    QVERIFY(!ImageSource::fromData("\xFF\xD8" + QByteArray(1000, '\0') + "\xFF\xE5\0\x04zz"));
+}
+
+void TestWholePicture::factsAndMetadataAgreeAboutRawFiles()
+{
+    // A maker's own mark in the place of TIFF's number.
+    QByteArray raw = rawFile(plainJpeg());
+    raw[2] = 'U';
+    write(at(QStringLiteral("maker.rw2")), raw);
+    const auto source = ImageSource::open(at(QStringLiteral("maker.rw2")));
+    const platform::PictureFacts facts = platform::pictureFacts(at(QStringLiteral("maker.rw2")));
+    QCOMPARE(facts.pixels, source ? source->uprightSize() : QSize());
+    const QString real = corpusPath("cameras/Panasonic.rw2");
+    if (!QFile::exists(real))
+        return;
+    QCOMPARE(platform::pictureFacts(real).pixels, ImageSource::open(real)->uprightSize());
+    QCOMPARE(platform::pictureFacts(real).camera, QStringLiteral("Panasonic DMC-LX3"));
+}
+
+void TestWholePicture::reckonsTheWorkOfDrawings_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isDrawn");
+    const QByteArray shadow = "<filter id='f'><feOffset dx='2'/><feGaussianBlur stdDeviation='3'/></filter>";
+    const QByteArray clouds = "<filter id='f'><feTurbulence numOctaves='200'/></filter>";
+    const QByteArray shape = "<rect width='9' height='9' filter='url(#f)'/>";
+    QByteArray copies = "<g id='c0'>" + shape + "</g>";
+    for (int level = 1; level < 30; ++level) {
+        const QByteArray use = "<use href='#c" + QByteArray::number(level - 1) + "'/>";
+        copies += "<g id='c" + QByteArray::number(level) + "'>" + use + use + "</g>";
+    }
+    QTest::newRow("shapes") << QByteArray("<rect width='9' height='9'/>").repeated(20'000) << QSize(2000, 2000) << true;
+    QTest::newRow("a few shadows") << shadow + shape.repeated(20) << QSize(1000, 800) << true;
+    QTest::newRow("thousands of shadows") << shadow + shape.repeated(5000) << QSize(2000, 2000) << false;
+    QTest::newRow("clouds of many octaves") << clouds + shape << QSize(2000, 2000) << false;
+    QTest::newRow("the same in a style") << clouds + "<rect style='fill:red;filter:url(#f)'/>" << QSize(2000, 2000)
+                                         << false;
+    QTest::newRow("the same in a style sheet")
+        << clouds + "<style>rect{filter:url(#f)}</style><rect/>" << QSize(2000, 2000) << false;
+    QTest::newRow("a filter on a large canvas") << shadow + shape << QSize(20'000, 20'000) << false;
+    QTest::newRow("copies of copies") << shadow + copies << QSize(500, 500) << false;
+    QTest::newRow("itself") << QByteArray("<g id='a'><use href='#a'/></g>") << QSize(500, 500) << true;
+    QTest::newRow("groups in groups") << QByteArray("<g>").repeated(100'000) << QSize(500, 500) << false;
+}
+
+void TestWholePicture::reckonsTheWorkOfDrawings()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QSize, size);
+    QFETCH(bool, isDrawn);
+    const QByteArray text = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>" + content + "</svg>";
+    QCOMPARE(platform::canDrawSvg(text, size), isDrawn);
+}
+
+void TestWholePicture::doesNotDrawWhatTakesTooLong()
+{
+    const QByteArray text =
+        "<svg xmlns='http://www.w3.org/2000/svg' width='3000' height='3000'><filter id='f'>"
+        "<feTurbulence numOctaves='300'/></filter><rect width='9' height='9' filter='url(#f)'/></svg>";
+    QVERIFY(!ImageSource::fromData(text));
+}
+
+QUORLIN_TEST(TestWholePicture)
+#include "tst_whole_picture.moc"
