@@ -28,7 +28,7 @@ StartUp::StartUp(QApplication &application)
     QGuiApplication::setDesktopFileName(QStringLiteral("com.brelmark.Quorlin"));
     const QString folder = interfaceFolder();
     useLanguage(folder);
-    setIconFolder(folder + QStringLiteral("/icons"));
+    setIconsOf(folder);
     m_theme = std::make_unique<Theme>(application, folder + QStringLiteral("/themes"));
     m_shell = std::make_unique<Shell>(folder, *m_theme);
     // The engine's queue of answers comes before the dialogs.

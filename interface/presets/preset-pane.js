@@ -31,13 +31,13 @@ function stateWord(preset) {
 
 export class PresetPane {
     /**
-     * @param standard  the settings of a new pane, by the name of the action
+     * @param kinds     what presets are kept of: see presetKinds() of actions.js
      * @param take      called with the settings of a preset that was chosen
      * @param say       called with what there is to tell
      */
-    constructor(standard, take, say) {
-        this.store = new PresetStore(() => new dbViewController(), files, standard);
-        this.standard = standard;
+    constructor(kinds, take, say) {
+        this.store = new PresetStore(() => new dbViewController(), files, kinds);
+        this.kinds = kinds;
         this.take = take;
         this.say = say;
         this.action = "";
@@ -73,7 +73,7 @@ export class PresetPane {
         this.problem = "";
         this.form.control("paneTitle").text = title;
         this.presets = this.store.list(action);
-        if (this.store.problem === "" && writeStartingPresets(action, this.standard[action], shell.interfaceFolder + "/patterns", this.store, defaults)) {
+        if (this.store.problem === "" && writeStartingPresets(action, shell.interfaceFolder + "/patterns", this.store, defaults)) {
             this.presets = this.store.list(action);
         }
         this.showChosen(recall(defaults, keyOf(action), { name: "" }).name);
@@ -109,7 +109,7 @@ export class PresetPane {
     }
 
     isChanged() {
-        const text = (settings) => rowOf(this.action, "", settings).join("|");
+        const text = (settings) => rowOf(this.kinds[this.action].form, "", settings).join("|");
         return this.isReady() && text(this.settings) !== text(this.pane.resolved(this.chosen.settings));
     }
 

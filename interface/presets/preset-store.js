@@ -1,7 +1,6 @@
 // The presets of all actions in the presets database: listed, stored, renamed, removed, brought in. Pure: the database service and the
 // files are handed in. Every answer is a fresh one, since the service answers a failed query with the result of the one before.
 
-import { FORMS } from "./preset-forms.js";
 import { emptyTable, splitPath } from "../lib/names.js";
 import { FIELDS, nameProblem, presetOf, rowOf, storedName, TakenNames } from "./presets.js";
 import { fill } from "../lib/wording.js";
@@ -22,12 +21,12 @@ export class PresetStore {
     /**
      * @param makeDb    makes a dbViewController
      * @param files     readText, info and setAsideUnusableDatabase are used
-     * @param standard  the settings of a new pane, by the name of the action
+     * @param kinds     {form, standard, starting} by the name of the action: see presetKinds() of actions.js
      */
-    constructor(makeDb, files, standard) {
+    constructor(makeDb, files, kinds) {
         this.makeDb = makeDb;
         this.files = files;
-        this.standard = standard;
+        this.kinds = kinds;
         /** Why the presets cannot be read, in a sentence; empty while they can. */
         this.problem = "";
         /** What happened to the database, to be said once; empty for nothing. */
@@ -60,13 +59,13 @@ export class PresetStore {
      */
     list(action) {
         this.link();
-        let rows = this.rows("Process", FORMS[action].process);
+        let rows = this.rows("Process", this.kinds[action].form.process);
         if (rows === null && this.setAside()) {
             this.link();
-            rows = this.rows("Process", FORMS[action].process);
+            rows = this.rows("Process", this.kinds[action].form.process);
         }
         this.problem = rows === null ? this.readProblem() : "";
-        const all = (rows || []).map((row) => Object.assign({ fields: row.split("|") }, presetOf(row, this.standard)));
+        const all = (rows || []).map((row) => Object.assign({ fields: row.split("|") }, presetOf(row, this.kinds)));
         const newest = emptyTable();
         all.filter((preset) => preset.state === "ready").forEach((preset) => { newest[preset.name] = preset; });
         const older = all.filter((preset) => preset.state === "ready" && newest[preset.name] !== preset);
@@ -94,7 +93,7 @@ export class PresetStore {
             const newest = Number(this.idOf(action, name));
             for (let id = newest - 1; id > 0 && id > newest - MOST_LOOKS && left > 0; id -= 1) {
                 const rows = this.rows("ID", String(id)) || [];
-                const preset = rows.length === 1 ? presetOf(rows[0], this.standard) : null;
+                const preset = rows.length === 1 ? presetOf(rows[0], this.kinds) : null;
                 if (preset !== null && preset.state === "ready" && preset.action === action && preset.name === name) {
                     this.removeId(String(id));
                     left -= 1;
@@ -105,8 +104,8 @@ export class PresetStore {
 
     /** The names of the presets of all actions. */
     names() {
-        return Object.keys(FORMS).reduce((names, action) => {
-            const rows = this.rows("Process", FORMS[action].process) || [];
+        return Object.keys(this.kinds).reduce((names, action) => {
+            const rows = this.rows("Process", this.kinds[action].form.process) || [];
             return names.concat(rows.map((row) => row.split("|")[0]));
         }, []);
     }
@@ -121,7 +120,7 @@ export class PresetStore {
     /** Stores settings under a name; a ready preset of this action with that name is replaced. Returns a problem, or "". */
     save(action, name, settings) {
         const replaced = this.idOf(action, name);
-        const problem = this.insert(rowOf(action, name, settings));
+        const problem = this.insert(rowOf(this.kinds[action].form, name, settings));
         if (problem === "" && replaced !== "") {
             this.removeId(replaced);
         }
@@ -200,12 +199,12 @@ export class PresetStore {
         if ((this.rows(NAME, name) || []).length === 0) {
             return "";
         }
-        const id = textOf(this.makeDb().hGetBookMarkedFolders(TABLE, NAME, name, "Process", FORMS[action].process, NAME + ", ID"));
+        const id = textOf(this.makeDb().hGetBookMarkedFolders(TABLE, NAME, name, "Process", this.kinds[action].form.process, NAME + ", ID"));
         if (!/^[0-9]+$/.test(id)) {
             return "";
         }
         const rows = this.rows("ID", id) || [];
-        const preset = rows.length === 1 ? presetOf(rows[0], this.standard) : null;
+        const preset = rows.length === 1 ? presetOf(rows[0], this.kinds) : null;
         return preset !== null && preset.state === "ready" && preset.name === name ? id : "";
     }
 

@@ -2,7 +2,7 @@
 // translation; no service is used. docs/presets.md has the layout.
 
 import { emptyTable } from "../lib/names.js";
-import { FIRST_SLOT, FORMS, SLOTS, VERSION } from "./preset-forms.js";
+import { FIRST_SLOT, SLOTS, VERSION } from "./preset-forms.js";
 import { fill } from "../lib/wording.js";
 
 export const FIELDS = 62;
@@ -108,11 +108,10 @@ function writeSlots(row, slots) {
 }
 
 /**
- * The 62 texts for a preset. `action` is the name of the action's step. Settings that the form does not know, or that are of
- * another kind than it says, are an error of the program.
+ * The 62 texts for a preset. Settings that the form does not know, or that are of another kind than it says, are an error of the
+ * program.
  */
-export function rowOf(action, name, settings) {
-    const form = FORMS[action];
+export function rowOf(form, name, settings) {
     const row = Array(FIELDS).fill("");
     row[0] = name;
     row[1] = form.process;
@@ -128,7 +127,7 @@ export function rowOf(action, name, settings) {
         const [path, kind] = form.columns[column];
         const text = WRITERS[kind](valueAt(settings, path));
         if (text === null) {
-            throw new Error("The setting " + path + " of " + action + " has no form for a preset");
+            throw new Error("The setting " + path + " of " + form.process + " has no form for a preset");
         }
         row[placeOf(column)] = text;
     }
@@ -210,25 +209,25 @@ function settingsIn(row, form, standard) {
 }
 
 /**
- * What a row of the database is: {name, process, action, state, settings, note}. `standard` is the settings that a new pane has, by the
- * action's name; `action` is that name, or "" for a process that is not ours.
+ * What a row of the database is: {name, process, action, state, settings, note}. `kinds` has {form, standard} by the action's name, standard
+ * being the settings of a new pane; `action` is that name, or "" for a process that is not ours.
  *
  * state: "ready" with settings; "newer", a form of a later version; "unknown", of another kind; "damaged", with a value that is
  * none. Only a ready one has settings, and none of the others may be changed; note says so in a sentence.
  */
-export function presetOf(row, standard) {
+export function presetOf(row, kinds) {
     const fields = typeof row === "string" ? row.split("|") : row;
-    const action = Object.keys(FORMS).find((name) => FORMS[name].process === fields[1]) || "";
+    const action = Object.keys(kinds).find((name) => kinds[name].form.process === fields[1]) || "";
     const preset = { name: fields[0], process: fields[1] || "", action: action, state: "unknown", settings: null, note: "" };
-    const version = fields.length === FIELDS && action !== "" ? headOf(fields, FORMS[action]).version : 0;
+    const version = fields.length === FIELDS && action !== "" ? headOf(fields, kinds[action].form).version : 0;
     if (action === "" || version === 0) {
         preset.note = qsTr("This preset was not made by Quorlin. It is left as it is.");
     } else if (version > VERSION) {
         preset.state = "newer";
         preset.note = qsTr("This preset was made by a newer Quorlin. It is left as it is.");
     } else {
-        const form = FORMS[action];
-        preset.settings = form.slots === undefined ? settingsIn(fields, form, standard[action]) : slotSettings(fields, form, standard[action]);
+        const { form, standard } = kinds[action];
+        preset.settings = form.slots === undefined ? settingsIn(fields, form, standard) : slotSettings(fields, form, standard);
         preset.state = preset.settings === null ? "damaged" : "ready";
         preset.note = preset.settings === null ? qsTr("This preset is damaged and cannot be used.") : "";
     }

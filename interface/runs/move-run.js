@@ -173,7 +173,7 @@ export class MoveRun extends BaseRun {
 
     endSimulation(plan) {
         const ready = plan.states.filter((state) => state === "ready").length;
-        const parts = [fill(qsTr("Simulation: %1"), this.window.action.deed(ready, this.settings))];
+        const parts = [fill(qsTr("Simulation: %1"), this.window.action.startText(ready, this.settings))];
         if (this.leftOut > 0) {
             parts.push(fill(qsTr("%1 left out"), this.leftOut));
         }

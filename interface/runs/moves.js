@@ -9,7 +9,7 @@ function deedText(window) {
     if (!ready) {
         return window.action.title();
     }
-    const deed = window.action.deed(ready, window.settings);
+    const deed = window.action.startText(ready, window.settings);
     return window.settings.simulation ? fill(qsTr("Simulate: %1"), deed) : deed;
 }
 

@@ -11,11 +11,11 @@ function deedText(window) {
         return window.action.title();
     }
     if (window.settings.output.simulation) {
-        return fill(qsTr("Simulate: %1"), window.action.deed(total));
+        return fill(qsTr("Simulate: %1"), window.action.startText(total));
     }
     return originals > 0
-        ? window.action.deed(total) + ", " + count(originals, qsTr("Replace 1 Original"), qsTr("Replace %1 Originals"))
-        : window.action.deed(total);
+        ? window.action.startText(total) + ", " + count(originals, qsTr("Replace 1 Original"), qsTr("Replace %1 Originals"))
+        : window.action.startText(total);
 }
 
 function deedNote(window) {

@@ -7,13 +7,12 @@ from pathlib import Path
 
 import manual
 
-ACTIONS = 'onPictures("crop", () => 1)\n{\n name: "log", title: () => 1 }\n'
-
 
 class Manual(unittest.TestCase):
     def setUp(self):
         self.root = Path(tempfile.mkdtemp())
-        self.write(manual.ACTIONS, ACTIONS)
+        for name in ("crop/crop-action.js", "crop/crop-step.js", "log/log-action.js", "shared/on-pictures.js"):
+            self.write(f"{manual.ACTIONS}/{name}", "")
         self.write("docs/manual/index.md", "# All\n\n[Crop](crop.md#how-it-goes), [Log](log.md), [web](https://example.org)\n")
         self.write("docs/manual/crop.md", "# Crop\n\n## How `it` goes\n\n![Window](../screenshots/crop-light.png)\n")
         self.write("docs/manual/log.md", "# Log\n\n[top](#log)\n")

@@ -12,7 +12,7 @@ namespace window {
 
 namespace {
 
-QString &iconFolder()
+QString &interfaceOfIcons()
 {
     static QString folder;
     return folder;
@@ -54,17 +54,19 @@ private:
 
 } // namespace
 
-void setIconFolder(const QString &folder)
+void setIconsOf(const QString &interfaceFolder)
 {
-    iconFolder() = folder;
+    interfaceOfIcons() = interfaceFolder;
 }
 
 QIcon icon(const QString &name)
 {
-    QFile file(iconFolder() + QLatin1Char('/') + name + QStringLiteral(".svg"));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QIcon(new LineIconEngine(file.readAll()));
+    for (const QString &place : {QStringLiteral("/icons/%1.svg"), QStringLiteral("/actions/%1/%1.svg")}) {
+        QFile file(interfaceOfIcons() + place.arg(name));
+        if (file.open(QIODevice::ReadOnly))
+            return QIcon(new LineIconEngine(file.readAll()));
+    }
+    return {};
 }
 
 } // namespace window

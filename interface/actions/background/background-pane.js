@@ -9,7 +9,6 @@ import { PICTURE_INPUT } from "../../lib/types.js";
 import * as background from "./background-step.js";
 import { Pane } from "../shared/pane.js";
 
-const UNDER = ["color", "pattern"];
 const OWN = ["checks", "lines", "dots", "linen", "paper"];
 const CHOOSE = "choose";
 
@@ -42,9 +41,9 @@ export class BackgroundPane extends Pane {
     join() {
         this.form.control("under").segments = [qsTr("Colour"), qsTr("Pattern")];
         this.form.setItems("frame", [qsTr("None"), qsTr("White, 10 pixels around"), qsTr("Coloured band inside")],
-                           ["none", "white", "band"]);
+                           background.FRAMES);
         this.chosen = [];
-        this.segments("under", "under", UNDER);
+        this.segments("under", "under", background.GROUNDS);
         this.color("underColor", "color");
         this.choice("frame", "frame");
         this.color("bandColor", "bandColor");
@@ -94,7 +93,7 @@ export class BackgroundPane extends Pane {
 
     showValues() {
         this.showPatterns();
-        this.form.control("under").selectedSegment = UNDER.indexOf(this.settings.under);
+        this.form.control("under").selectedSegment = background.GROUNDS.indexOf(this.settings.under);
         this.form.control("underColor").color = this.settings.color;
         this.form.chooseValue("frame", this.settings.frame);
         this.form.control("bandColor").color = this.settings.bandColor;

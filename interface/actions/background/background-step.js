@@ -8,6 +8,9 @@ import { fill } from "../../lib/wording.js";
 import { mayBeTransparent, outcome, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
 
 export const MOST_BAND = 10000;
+/** What can lie under a picture. */
+export const GROUNDS = ["color", "pattern"];
+export const FRAMES = ["none", "white", "band"];
 /** The white frame is as wide on every side, in pixels. */
 export const FRAME = 10;
 

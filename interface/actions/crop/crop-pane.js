@@ -6,8 +6,6 @@ import { fill, pixels } from "../../lib/wording.js";
 import * as crop from "./crop-step.js";
 import { Pane } from "../shared/pane.js";
 
-const RATIOS = ["free", "original", "1:1", "3:2", "4:3", "16:9", "2:3", "3:4", "9:16"];
-const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8];
 const LENGTHS = ["width", "height", "offsetX", "offsetY"];
 
 export class CropPane extends Pane {
@@ -21,9 +19,9 @@ export class CropPane extends Pane {
         this.form.control("cropMode").segments = [qsTr("W × H"), "%", qsTr("Pixels")];
         this.form.control("position").names = [qsTr("Top left"), qsTr("Top"), qsTr("Top right"), qsTr("Left"), qsTr("Centre"),
                                                qsTr("Right"), qsTr("Bottom left"), qsTr("Bottom"), qsTr("Bottom right")];
-        this.form.setItems("ratio", [qsTr("Free"), qsTr("Original")].concat(RATIOS.slice(2)), RATIOS);
+        this.form.setItems("ratio", [qsTr("Free"), qsTr("Original")].concat(crop.RATIOS.slice(2)), crop.RATIOS);
         this.segments("cropMode", "mode", MODES);
-        this.segments("position", "position", PLACES);
+        this.segments("position", "position", crop.PLACES);
         this.number("cropWidth", "width");
         this.number("cropHeight", "height");
         this.number("cropPercent", "percent");

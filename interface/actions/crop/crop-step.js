@@ -9,6 +9,10 @@ import { fill } from "../../lib/wording.js";
 import { outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
 
 export const MOST = 100000;
+/** The ratios of the frame that can be kept: "free" for none, "original" for that of the picture. */
+export const RATIOS = ["free", "original", "1:1", "3:2", "4:3", "16:9", "2:3", "3:4", "9:16"];
+/** The nine positions of the frame, row by row. */
+export const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8];
 
 /** What a new pane shows. */
 export const defaults = {

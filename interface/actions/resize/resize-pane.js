@@ -1,12 +1,10 @@
 // The settings of the Resize action. Services used: none; the step says what sizes come out.
 
 import { PIXEL } from "../../lib/measure.js";
-import { scalePercent } from "./sizes.js";
+import { MODES, scalePercent } from "./sizes.js";
 import { percent, pixels } from "../../lib/wording.js";
 import * as resize from "./resize-step.js";
 import { Pane } from "../shared/pane.js";
-
-const MODES = ["width", "height", "longest", "percent", "box"];
 
 export class ResizePane extends Pane {
     constructor(settings, changed) {
@@ -17,7 +15,7 @@ export class ResizePane extends Pane {
 
     join() {
         this.form.control("mode").segments = [qsTr("Width"), qsTr("Height"), qsTr("Longest"), "%", qsTr("Box")];
-        this.form.setItems("boxFit", [qsTr("Fill the box and cut"), qsTr("Stretch to the box")], ["fill", "stretch"]);
+        this.form.setItems("boxFit", [qsTr("Fill the box and cut"), qsTr("Stretch to the box")], resize.BOX_FITS);
         this.form.control("value").maximum = resize.MOST_PIXELS;
         this.segments("mode", "mode", MODES);
         this.number("value", () => this.settings.mode);

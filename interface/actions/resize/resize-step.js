@@ -13,6 +13,9 @@ export const MOST_PERCENT = 1000;
 /** The settings that are lengths in the unit. */
 export const LENGTHS = ["width", "height", "longest", "boxWidth", "boxHeight"];
 
+/** How a picture gets the shape of the box. */
+export const BOX_FITS = ["fill", "stretch"];
+
 /** What a new pane shows. */
 export const defaults = {
     mode: "longest", width: 1600, height: 1200, longest: 1600, percent: 50, boxWidth: 1600, boxHeight: 1200,

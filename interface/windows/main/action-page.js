@@ -4,13 +4,12 @@
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
-import { FORMS } from "../../presets/preset-forms.js";
 import { keep, recall } from "../../lib/store.js";
 import { firstSettings } from "../../lib/wishes.js";
 import { carriedBy } from "../../actions/shared/written.js";
 import { OutputPane } from "../../actions/shared/output-pane.js";
 import { PresetPane } from "../../presets/preset-pane.js";
-import { actionNamed, allActions, GROUPS, standardSettings } from "../../actions/actions.js";
+import { actionNamed, allActions, GROUPS, presetKinds } from "../../actions/actions.js";
 
 const SHOWN = "ShownAction";
 
@@ -28,7 +27,7 @@ export class ActionPage {
         this.saveFolders = recall(defaults, "SaveFolders", { folders: [] }).folders;
         this.output = new OutputPane(this.saveFolders, this.changed);
         window.form.place("outputHost", this.output.form);
-        this.presets = new PresetPane(standardSettings(), (settings) => this.take(settings), (text) => window.say(text));
+        this.presets = new PresetPane(presetKinds(), (settings) => this.take(settings), (text) => window.say(text));
         window.form.place("headHost", this.presets.form);
         [this.output.form, this.presets.form].forEach((form) => window.help.join(form));
         const simulation = window.form.control("moveSimulation");
@@ -60,7 +59,7 @@ export class ActionPage {
         const manner = action.manner;
         const control = (name) => window.form.control(name);
         control("outputHost").visible = manner.output;
-        control("headHost").visible = FORMS[action.name] !== undefined;
+        control("headHost").visible = action.presets !== undefined;
         control("moveSimulationHost").visible = page.settings.simulation !== undefined;
         control("moveSimulation").checked = page.settings.simulation === true;
         control("preview").visible = manner.preview;
@@ -69,7 +68,7 @@ export class ActionPage {
             this.output.use(page.settings.output, action.step.offer);
             this.showCarried();
         }
-        if (FORMS[action.name] !== undefined) {
+        if (action.presets !== undefined) {
             this.presets.use(action.name, action.title(), page.pane);
         }
         if (manner.columns.length > 0) {

@@ -1,18 +1,11 @@
 import { PresetStore } from "../../../interface/presets/preset-store.js";
 import { rowOf } from "../../../interface/presets/presets.js";
 import { startingPresets, writeStartingPresets } from "../../../interface/presets/starting-presets.js";
-import { defaults as background } from "../../../interface/actions/background/background-step.js";
-import * as backgroundStep from "../../../interface/actions/background/background-step.js";
-import * as convertStep from "../../../interface/actions/convert/convert-step.js";
-import * as cropStep from "../../../interface/actions/crop/crop-step.js";
-import * as resizeStep from "../../../interface/actions/resize/resize-step.js";
-import * as roundStep from "../../../interface/actions/round/round-step.js";
-import * as turnStep from "../../../interface/actions/turn/turn-step.js";
 import { equal, finish, isTrue, test } from "../check.js";
+import { KINDS } from "./kinds.js";
 
-const STEPS = { background: backgroundStep, convert: convertStep, crop: cropStep, resize: resizeStep, round: roundStep, turn: turnStep };
-const STANDARD = {};
-Object.keys(STEPS).forEach((name) => { STANDARD[name] = STEPS[name].defaults; });
+// The actions that start with presets.
+const STARTED = Object.keys(KINDS).filter((name) => KINDS[name].starting !== undefined);
 const PATH = "/data/BrelmarkCom/QuorlinPS.sql";
 const COLUMNS = { NameOfPreset: 0, Process: 1, Action: 2 };
 
@@ -131,11 +124,11 @@ function make(state) {
             return path + ".unusable-1";
         },
     };
-    return { file: file, store: new PresetStore(() => new FakeDb(file), files, STANDARD) };
+    return { file: file, store: new PresetStore(() => new FakeDb(file), files, KINDS) };
 }
 
 function changed(action, changes) {
-    return Object.assign(JSON.parse(JSON.stringify(STANDARD[action])), changes);
+    return Object.assign(JSON.parse(JSON.stringify(KINDS[action].standard)), changes);
 }
 
 test("listsWhatWasSaved", () => {
@@ -170,8 +163,8 @@ test("endsWhatWasCutOffBetweenStoringAndRemoving", () => {
     const { file, store } = make({});
     store.list("resize");
     file.add(["Web", "Sorting", "ByHand"].concat(Array(59).fill("Loc")));
-    [1, 2, 3].forEach((longest) => file.add(rowOf("resize", "Web", changed("resize", { longest: longest }))));
-    file.add(rowOf("crop", "Web", changed("crop", {})));
+    [1, 2, 3].forEach((longest) => file.add(rowOf(KINDS.resize.form, "Web", changed("resize", { longest: longest }))));
+    file.add(rowOf(KINDS.crop.form, "Web", changed("crop", {})));
     equal(store.list("resize").map((preset) => preset.settings.longest), [3]);
     equal(file.rows.map((row) => [row.id, row.fields[1]]), [["1", "Sorting"], ["4", "Resize"], ["5", "Crop"]]);
 });
@@ -182,7 +175,7 @@ test("bringsInThousandsOfOneName", () => {
     // Looking for a name in the database costs what it costs there, and is nothing of this test.
     file.matching = (column, value) => column === "NameOfPreset" ? [] : file.rows.filter((row) => row.fields[COLUMNS[column]] === value);
     const start = Date.now();
-    const done = store.bringIn(Array(3000).fill(rowOf("turn", "Web", changed("turn", {}))));
+    const done = store.bringIn(Array(3000).fill(rowOf(KINDS.turn.form, "Web", changed("turn", {}))));
     equal([done.names.length, done.names[0], done.names[2999], done.problem], [3000, "Web", "Web 3000", ""]);
     equal(store.list("turn").length, 3000);
     isTrue(Date.now() - start < 5000, "took " + (Date.now() - start) + " ms");
@@ -191,7 +184,7 @@ test("bringsInThousandsOfOneName", () => {
 test("removesAllCopiesAndShowsTheNewest", () => {
     const { file, store } = make({});
     store.list("resize");
-    [1, 2, 3].forEach((longest) => file.add(rowOf("resize", "Web", changed("resize", { longest: longest }))));
+    [1, 2, 3].forEach((longest) => file.add(rowOf(KINDS.resize.form, "Web", changed("resize", { longest: longest }))));
     equal(store.list("resize").map((preset) => preset.settings.longest), [3]);
     equal([store.remove("resize", "Web"), file.rows.length], ["", 0]);
 });
@@ -199,9 +192,9 @@ test("removesAllCopiesAndShowsTheNewest", () => {
 test("leavesRowsOfAnUnknownOrNewerFormAlone", () => {
     const { file, store } = make({});
     store.list("resize");
-    const newer = rowOf("resize", "New", changed("resize", {}));
+    const newer = rowOf(KINDS.resize.form, "New", changed("resize", {}));
     newer[3] = "Quorlin 99";
-    const foreign = rowOf("resize", "Old", changed("resize", {}));
+    const foreign = rowOf(KINDS.resize.form, "Old", changed("resize", {}));
     foreign[3] = "";
     file.add(newer);
     file.add(foreign);
@@ -232,7 +225,7 @@ test("bringsRowsInUnderFreeNames", () => {
     store.list("resize");
     file.add(["Web 2", "Sorting", "ByHand"].concat(Array(59).fill("Loc")));
     store.save("resize", "Web", changed("resize", {}));
-    const rows = [rowOf("crop", "Web", changed("crop", {})), rowOf("turn", "Free", changed("turn", {}))];
+    const rows = [rowOf(KINDS.crop.form, "Web", changed("crop", {})), rowOf(KINDS.turn.form, "Free", changed("turn", {}))];
     equal(store.bringIn(rows), { names: ["Web 3", "Free"], renamed: 1, problem: "" });
     equal(file.rows.map((row) => row.fields[0]), ["Web 2", "Web", "Web 3", "Free"]);
 });
@@ -258,18 +251,18 @@ test("saysWhyAPresetCannotBeWrittenAndKeepsTheOldOne", () => {
     for (const [writable, words] of [[false, /read-only; nothing was changed/], [true, /in use by another program, or the disk is full/]]) {
         file.writable = writable;
         const problems = [store.save("resize", "Web", changed("resize", { longest: 2 })), store.remove("resize", "Web"),
-                          store.rename(store.list("resize")[0], "New"), store.bringIn([rowOf("turn", "t", changed("turn", {}))]).problem];
+                          store.rename(store.list("resize")[0], "New"), store.bringIn([rowOf(KINDS.turn.form, "t", changed("turn", {}))]).problem];
         problems.forEach((problem) => isTrue(words.test(problem), problem));
     }
     equal([file.rows.length, store.list("resize")[0].settings.longest], [1, 1]);
 });
 
-for (const action of Object.keys(STEPS)) {
+for (const action of STARTED) {
     test("startsWithPresetsThatWork " + action, () => {
-        const list = startingPresets(action, STANDARD[action], "/patterns");
+        const list = startingPresets(KINDS[action], "/patterns");
         isTrue(list.length >= 4);
         for (const [name, settings] of list) {
-            equal(STEPS[action].validate(settings), [], name);
+            equal(KINDS[action].step.validate(settings), [], name);
             const { store } = make({});
             store.list(action);
             equal([store.nameProblem(name, []), store.save(action, name, settings)], ["", ""]);
@@ -279,7 +272,8 @@ for (const action of Object.keys(STEPS)) {
 }
 
 test("givesEveryStartingPresetANameOfItsOwn", () => {
-    const names = Object.keys(STEPS).reduce((all, action) => all.concat(startingPresets(action, STANDARD[action], "").map((entry) => entry[0])), []);
+    const names = STARTED.reduce((all, action) => all.concat(startingPresets(KINDS[action], "").map((entry) => entry[0])), []);
+    isTrue(names.length > 30);
     equal(names.filter((name, i) => names.indexOf(name) !== i), []);
 });
 
@@ -287,21 +281,21 @@ test("writesStartingPresetsOnce", () => {
     const { file, store } = make({});
     const defaults = new FakeDefaults();
     store.list("background");
-    writeStartingPresets("background", background, "/p", store, defaults);
+    writeStartingPresets("background", "/p", store, defaults);
     const written = file.rows.length;
     store.remove("background", "Black band");
-    writeStartingPresets("background", background, "/p", store, defaults);
+    writeStartingPresets("background", "/p", store, defaults);
     equal([written - file.rows.length, store.list("background").some((preset) => preset.name === "Black band")], [1, false]);
 });
 
 test("writesStartingPresetsLaterWhereTheyCannotBeWrittenNow", () => {
     const { file, store } = make({ exists: true, sealed: true });
     const defaults = new FakeDefaults();
-    writeStartingPresets("turn", STANDARD.turn, "/p", store, defaults);
+    writeStartingPresets("turn", "/p", store, defaults);
     equal([file.rows.length, defaults.kept], [0, {}]);
     file.sealed = false;
     store.save("resize", "Mirrored", changed("resize", {}));
-    writeStartingPresets("turn", STANDARD.turn, "/p", store, defaults);
+    writeStartingPresets("turn", "/p", store, defaults);
     equal(store.list("turn").map((preset) => preset.name), ["A quarter left", "A quarter right", "Upside down"]);
 });
 

@@ -1,19 +1,21 @@
-import { FORMS, VERSION } from "../../../interface/presets/preset-forms.js";
+import { VERSION } from "../../../interface/presets/preset-forms.js";
 import { decoded, encoded, fileText, freeName, nameProblem, presetOf, rowOf, rowsOfFile, storedName } from "../../../interface/presets/presets.js";
-import { defaults as background } from "../../../interface/actions/background/background-step.js";
-import { defaults as convert } from "../../../interface/actions/convert/convert-step.js";
-import { defaults as crop } from "../../../interface/actions/crop/crop-step.js";
-import { KINDS, newStep } from "../../../interface/actions/rename/name-steps.js";
+import { KINDS as STEP_KINDS, newStep } from "../../../interface/actions/rename/name-steps.js";
 import { defaults as rename } from "../../../interface/actions/rename/rename-step.js";
 import { defaults as resize } from "../../../interface/actions/resize/resize-step.js";
-import { defaults as round } from "../../../interface/actions/round/round-step.js";
-import { defaults as sort } from "../../../interface/actions/sort/sort-step.js";
 import { defaults as turn } from "../../../interface/actions/turn/turn-step.js";
 import { dbViewController } from "quorlin";
 import { equal, finish, isTrue, test } from "../check.js";
+import { KINDS } from "./kinds.js";
 
-const STANDARD = { background: background, convert: convert, crop: crop, rename: rename, resize: resize, round: round, sort: sort, turn: turn };
-const ACTIONS = Object.keys(STANDARD);
+// Those with a value for each setting: a preset of folders has none.
+const ACTIONS = Object.keys(KINDS).filter((name) => KINDS[name].form.slots === undefined);
+const FORMS = {};
+const STANDARD = {};
+Object.keys(KINDS).forEach((name) => {
+    FORMS[name] = KINDS[name].form;
+    STANDARD[name] = KINDS[name].standard;
+});
 const TEXTS = [
     "", " ", "plain", "it's", "a|b", "100 %", "%27", "%u0041", "%", "%%", "Größe – “x”", "日本語", "🙂🏔️", "e\u0301", "\ud83d", "\ude42x", "a\nb\tc\r",
     "\u0000", "\u007f", "\u2028", "\\'\"`", "0050", "1e3", "'; DROP TABLE Presets; --",
@@ -31,7 +33,7 @@ function copyOf(settings) {
 }
 
 function readBack(action, settings) {
-    return presetOf(rowOf(action, "n", settings).join("|"), STANDARD);
+    return presetOf(rowOf(FORMS[action], "n", settings).join("|"), KINDS);
 }
 
 for (const action of ACTIONS) {
@@ -62,18 +64,18 @@ for (const action of ACTIONS) {
             const settings = copyOf(STANDARD[action]);
             settings.output.destination.path = text;
             settings.output.destination.name = text + text;
-            const row = rowOf(action, "n", settings);
+            const row = rowOf(FORMS[action], "n", settings);
             isTrue(row.length === 62 && row.every((value) => !/['|\u0000-\u001f]/.test(value)), JSON.stringify(text));
-            equal(presetOf(row.join("|"), STANDARD).settings, settings, JSON.stringify(text));
+            equal(presetOf(row.join("|"), KINDS).settings, settings, JSON.stringify(text));
         }
     });
 
     test("takesWhatCameLaterFromTheStandard " + action, () => {
-        const row = rowOf(action, "n", STANDARD[action]);
+        const row = rowOf(FORMS[action], "n", STANDARD[action]);
         for (const column of Object.keys(form.columns).filter((name) => form.columns[name][1] !== "text")) {
             row[Number(column.slice(8))] = "";
         }
-        equal(presetOf(row, STANDARD).settings, STANDARD[action]);
+        equal(presetOf(row, KINDS).settings, STANDARD[action]);
     });
 }
 
@@ -82,11 +84,11 @@ function chain(steps) {
 }
 
 test("keepsAChainOfSteps", () => {
-    const settings = chain(KINDS.map((kind) => newStep(kind, { on: kind !== "case" })).concat(TEXTS.map((text) => newStep("around", { before: text })).slice(0, 17)));
+    const settings = chain(STEP_KINDS.map((kind) => newStep(kind, { on: kind !== "case" })).concat(TEXTS.map((text) => newStep("around", { before: text })).slice(0, 17)));
     equal(settings.steps.length, 30);
-    const row = rowOf("rename", "n", settings);
+    const row = rowOf(FORMS.rename, "n", settings);
     isTrue(row.length === 62 && row.every((value) => !/['|\u0000-\u001f]/.test(value)));
-    equal(presetOf(row.join("|"), STANDARD).settings, settings);
+    equal(presetOf(row.join("|"), KINDS).settings, settings);
 });
 
 test("keepsOddTextsInAStep", () => {
@@ -98,14 +100,10 @@ test("keepsOddTextsInAStep", () => {
 
 test("takesNoStepThatItDoesNotKnow", () => {
     for (const text of ["{}", "nothing", "{\"kind\":\"later\",\"on\":true}", "{\"kind\":\"case\",\"mode\":\"9\"}", "[", "null", "%27"]) {
-        const row = rowOf("rename", "n", chain([newStep("case")]));
+        const row = rowOf(FORMS.rename, "n", chain([newStep("case")]));
         row[12] = text;
-        equal(presetOf(row, STANDARD).state, "damaged", text);
+        equal(presetOf(row, KINDS).state, "damaged", text);
     }
-});
-
-test("hasAStandardForEveryForm", () => {
-    equal(Object.keys(FORMS).filter((name) => FORMS[name].slots === undefined).sort(), ACTIONS.slice().sort());
 });
 
 test("givesEveryActionAProcessOfItsOwn", () => {
@@ -127,37 +125,37 @@ test("refusesSettingsWithoutAForm", () => {
         settings.angle = value;
         let message = "none";
         try {
-            rowOf("turn", "n", settings);
+            rowOf(FORMS.turn, "n", settings);
         } catch (error) {
             message = error.message;
         }
-        equal(message, "The setting angle of turn has no form for a preset");
+        equal(message, "The setting angle of Rotate and Flip has no form for a preset");
     }
 });
 
 test("leavesOthersPresetsAlone", () => {
     const sample = ["myPresetName", "Sorting", "ByHand"].concat(Array(59).fill("").map((none, i) => "Loc" + (i + 1)));
-    const preset = presetOf(sample.join("|"), STANDARD);
+    const preset = presetOf(sample.join("|"), KINDS);
     equal([preset.name, preset.process, preset.action, preset.state, preset.settings], ["myPresetName", "Sorting", "hand", "unknown", null]);
     isTrue(preset.note.length > 0);
-    const row = rowOf("resize", "n", resize);
+    const row = rowOf(FORMS.resize, "n", resize);
     for (const mark of ["", "Quorlin", "Quorlin 0", "Quorlin 01", "Quorlin x", "quorlin 1", "Quorlin 1 ", "Other 1"]) {
         row[3] = mark;
-        equal(presetOf(row, STANDARD).state, "unknown", mark);
+        equal(presetOf(row, KINDS).state, "unknown", mark);
     }
 });
 
 test("knowsANewerForm", () => {
-    const row = rowOf("resize", "n", resize);
+    const row = rowOf(FORMS.resize, "n", resize);
     row[3] = "Quorlin " + (VERSION + 1);
-    const preset = presetOf(row, STANDARD);
+    const preset = presetOf(row, KINDS);
     equal([preset.state, preset.settings, preset.action], ["newer", null, "resize"]);
     isTrue(/newer/.test(preset.note));
 });
 
 test("takesARowOfAnotherLengthForUnknown", () => {
-    const row = rowOf("resize", "n", resize);
-    equal([presetOf(row.concat(["x"]), STANDARD).state, presetOf(row.slice(1), STANDARD).state, presetOf("", STANDARD).state],
+    const row = rowOf(FORMS.resize, "n", resize);
+    equal([presetOf(row.concat(["x"]), KINDS).state, presetOf(row.slice(1), KINDS).state, presetOf("", KINDS).state],
           ["unknown", "unknown", "unknown"]);
 });
 
@@ -166,9 +164,9 @@ test("saysWhenAPresetIsDamaged", () => {
                      ["StrField22", "true"], ["StrField4", "%zz"], ["StrField4", "it's"], ["StrField4", "%41"], ["StrField4", "public.heic"],
                      ["StrField5", "11"], ["StrField6", ""], ["StrField9", "overwrite"], ["StrField17", "tile"], ["StrField18", "mile"]];
     for (const [column, value] of damages) {
-        const row = rowOf("resize", "n", resize);
+        const row = rowOf(FORMS.resize, "n", resize);
         row[Number(column.slice(8))] = value;
-        const preset = presetOf(row, STANDARD);
+        const preset = presetOf(row, KINDS);
         equal([preset.state, preset.settings], ["damaged", null], column + " " + value);
         isTrue(preset.note.length > 0);
     }
@@ -178,9 +176,9 @@ test("takesOnlyWordsThatASettingCanHave", () => {
     for (const [action, place, value] of [["resize", 2, "depth"], ["crop", 2, "x"], ["crop", 18, "7:1"], ["crop", 22, "9"], ["round", 2, "star"],
                                           ["round", 12, "red"], ["background", 2, "fur"], ["background", 13, "gold"],
                                           ["background", 14, "#12345"], ["convert", 2, "jpg"], ["convert", 11, "10"]]) {
-        const row = rowOf(action, "n", STANDARD[action]);
+        const row = rowOf(FORMS[action], "n", STANDARD[action]);
         row[place] = value;
-        equal(presetOf(row, STANDARD).state, "damaged", action + " " + place + " " + value);
+        equal(presetOf(row, KINDS).state, "damaged", action + " " + place + " " + value);
     }
 });
 
@@ -211,13 +209,13 @@ test("findsAFreeName", () => {
 });
 
 test("exportsAndImportsRowsAsTheyStand", () => {
-    const rows = ACTIONS.map((action) => rowOf(action, "Größe 🙂 " + action, STANDARD[action]));
+    const rows = ACTIONS.map((action) => rowOf(FORMS[action], "Größe 🙂 " + action, STANDARD[action]));
     rows.push(["other", "Sorting", "ByHand"].concat(Array(59).fill("x")));
     equal(rowsOfFile(fileText(rows)), { rows: rows, problem: "" });
 });
 
 test("takesFromAFileOnlyWhatARowCanBe", () => {
-    const good = rowOf("resize", "a", resize);
+    const good = rowOf(FORMS.resize, "a", resize);
     const bad = [good.slice(1), good.concat(["x"]), ["it's"].concat(good.slice(1)), [""].concat(good.slice(1)), good.slice(0, 61).concat(["a|b"]),
                  good.slice(0, 61).concat([3]), null, "text", {}];
     const read = rowsOfFile(JSON.stringify({ format: "Quorlin presets", version: 1, presets: bad.concat([good]) }));
@@ -254,11 +252,11 @@ test("comesBackFromTheDatabase", () => {
             settings.output.destination.path = odd;
             settings.output.simulation = true;
         }
-        db.insertSortingPresetToDB01(rowOf(action, name + action, settings));
+        db.insertSortingPresetToDB01(rowOf(FORMS[action], name + action, settings));
         const rows = db.checkForActionType("Presets", "NameOfPreset", name + action).slice();
         db.removePresetFromDatabase("Presets", "NameOfPreset", name + action);
         equal(rows.length, 1);
-        const preset = presetOf(rows[0], STANDARD);
+        const preset = presetOf(rows[0], KINDS);
         equal([preset.name, preset.state], [name + action, "ready"]);
         equal(preset.settings, settings);
     }

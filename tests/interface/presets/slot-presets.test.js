@@ -1,9 +1,10 @@
+import { presets } from "../../../interface/actions/hand/hand-presets.js";
 import { defaults } from "../../../interface/actions/hand/hand-step.js";
 import { presetOf, rowOf } from "../../../interface/presets/presets.js";
 import { dbViewController } from "quorlin";
 import { equal, finish, isTrue, test } from "../check.js";
 
-const STANDARD = { hand: defaults };
+const KINDS = { hand: { form: presets.form, standard: defaults } };
 const ODD = ["it's", "a|b", "100 %", "%27", "Größe – “x”", "日本語", "🙂🏔️", "e\u0301", "a\tb", "'; DROP TABLE Presets; --", "0050", "1e3"];
 
 function settingsWith(slots, mode) {
@@ -15,7 +16,7 @@ function all59(label) {
 }
 
 function readBack(settings) {
-    return presetOf(rowOf("hand", "n", settings).join("|"), STANDARD);
+    return presetOf(rowOf(presets.form, "n", settings).join("|"), KINDS);
 }
 
 const CASES = [settingsWith([]), settingsWith([{ path: "/", label: "" }]), settingsWith(all59(""), "copy"), settingsWith(all59("Lake"), "link"),
@@ -29,16 +30,16 @@ CASES.forEach((settings, i) => {
 });
 
 test("aFolderLiesInEachColumnAndTheMarkInAction", () => {
-    const row = rowOf("hand", "n", settingsWith(all59("Lake"), "copy"));
+    const row = rowOf(presets.form, "n", settingsWith(all59("Lake"), "copy"));
     equal([row.length, row[1], row[2], row[3], row[61]], [62, "Sorting", "ByHand Quorlin 1 copy", "/s/1%0ALake", "/s/59%0ALake"]);
     isTrue(row.every((value) => !/['|\u0000-\u001f]/.test(value)));
-    equal(rowOf("hand", "n", settingsWith([{ path: "/s/1", label: "" }]))[4], "");
+    equal(rowOf(presets.form, "n", settingsWith([{ path: "/s/1", label: "" }]))[4], "");
 });
 
 test("refusesMoreFoldersThanThereAreColumns", () => {
     let message = "none";
     try {
-        rowOf("hand", "n", settingsWith(all59("").concat([{ path: "/x", label: "" }])));
+        rowOf(presets.form, "n", settingsWith(all59("").concat([{ path: "/x", label: "" }])));
     } catch (error) {
         message = error.message;
     }
@@ -49,18 +50,18 @@ const HEADS = [["ByHand", "unknown"], ["ByHand Quorlin 0 move", "unknown"], ["by
                ["ByHand Quorlin 2 move", "newer"], ["ByHand Quorlin 1 burn", "damaged"], ["ByHand Quorlin 1 ", "damaged"], ["Quorlin 1 move", "unknown"]];
 for (const [head, state] of HEADS) {
     test("a row with " + JSON.stringify(head) + " is " + state, () => {
-        const row = rowOf("hand", "n", settingsWith([{ path: "/s/1", label: "" }]));
+        const row = rowOf(presets.form, "n", settingsWith([{ path: "/s/1", label: "" }]));
         row[2] = head;
-        const preset = presetOf(row.join("|"), STANDARD);
+        const preset = presetOf(row.join("|"), KINDS);
         equal([preset.state, preset.settings], [state, null]);
     });
 }
 
 for (const text of ["Loc1", "%", "%2", "s/1", "/a%0Ab%0Ac", "17"]) {
     test("a folder " + JSON.stringify(text) + " is damaged", () => {
-        const row = rowOf("hand", "n", settingsWith([{ path: "/s/1", label: "" }]));
+        const row = rowOf(presets.form, "n", settingsWith([{ path: "/s/1", label: "" }]));
         row[20] = text;
-        equal(presetOf(row.join("|"), STANDARD).state, "damaged");
+        equal(presetOf(row.join("|"), KINDS).state, "damaged");
     });
 }
 
@@ -69,10 +70,10 @@ test("comesBackFromTheDatabase", () => {
     db.linkToPresetsDB();
     const settings = settingsWith(all59("").map((slot, i) => ({ path: "/s/" + ODD[i % ODD.length] + i, label: i % 2 ? ODD[i % ODD.length] : "" })), "copy");
     const name = "slots " + Date.now();
-    db.insertSortingPresetToDB01(rowOf("hand", name, settings));
+    db.insertSortingPresetToDB01(rowOf(presets.form, name, settings));
     const rows = db.checkForActionType("Presets", "NameOfPreset", name).slice();
     equal(rows.length, 1);
-    equal(presetOf(rows[0], STANDARD).settings, settings);
+    equal(presetOf(rows[0], KINDS).settings, settings);
     db.removePresetFromDatabase("Presets", "NameOfPreset", name);
 });
 

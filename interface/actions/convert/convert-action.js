@@ -1,0 +1,18 @@
+// Convert: writes pictures as another file type.
+
+import { count } from "../../lib/wording.js";
+import { onPictures } from "../shared/on-pictures.js";
+import { ConvertPane } from "./convert-pane.js";
+import { presets } from "./convert-presets.js";
+import * as step from "./convert-step.js";
+import { CONVERTED_INPUT } from "./targets.js";
+
+export const convert = onPictures({
+    name: "convert",
+    title: () => qsTr("Convert"),
+    step: step,
+    pane: ConvertPane,
+    presets: presets,
+    takes: CONVERTED_INPUT,
+    startText: (number) => count(number, qsTr("Convert 1 Picture"), qsTr("Convert %1 Pictures")),
+});

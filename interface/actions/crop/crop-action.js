@@ -1,0 +1,16 @@
+// Crop: cuts a rectangle out of pictures.
+
+import { count } from "../../lib/wording.js";
+import { onPictures } from "../shared/on-pictures.js";
+import { CropPane } from "./crop-pane.js";
+import { presets } from "./crop-presets.js";
+import * as step from "./crop-step.js";
+
+export const crop = onPictures({
+    name: "crop",
+    title: () => qsTr("Crop"),
+    step: step,
+    pane: CropPane,
+    presets: presets,
+    startText: (number) => count(number, qsTr("Crop 1 Picture"), qsTr("Crop %1 Pictures")),
+});

@@ -1,0 +1,16 @@
+// Resize: gives pictures another size.
+
+import { count } from "../../lib/wording.js";
+import { onPictures } from "../shared/on-pictures.js";
+import { ResizePane } from "./resize-pane.js";
+import { presets } from "./resize-presets.js";
+import * as step from "./resize-step.js";
+
+export const resize = onPictures({
+    name: "resize",
+    title: () => qsTr("Resize"),
+    step: step,
+    pane: ResizePane,
+    presets: presets,
+    startText: (number) => count(number, qsTr("Resize 1 Picture"), qsTr("Resize %1 Pictures")),
+});

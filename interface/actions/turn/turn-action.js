@@ -1,0 +1,16 @@
+// Rotate & Flip: turns pictures by any angle and mirrors them.
+
+import { count } from "../../lib/wording.js";
+import { onPictures } from "../shared/on-pictures.js";
+import { TurnPane } from "./turn-pane.js";
+import { presets } from "./turn-presets.js";
+import * as step from "./turn-step.js";
+
+export const turn = onPictures({
+    name: "turn",
+    title: () => qsTr("Rotate & Flip"),
+    step: step,
+    pane: TurnPane,
+    presets: presets,
+    startText: (number) => count(number, qsTr("Turn 1 Picture"), qsTr("Turn %1 Pictures")),
+});

@@ -1,0 +1,45 @@
+// Makes pictures smaller. Plain data in, plain data out.
+
+import { splitPath } from "../../lib/names.js";
+import { ORIGINAL, WRITTEN } from "../../lib/types.js";
+import { fill } from "../../lib/wording.js";
+import { outcome, outputMessages, ready, refused, targetOf } from "../shared/written.js";
+
+const PER_CENT = 3;
+
+export const defaults = {
+    percent: 50,
+    output: { fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: "Shrunk", path: "" }, ifTaken: "number", simulation: false },
+};
+
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, metadata: ["public.tiff"] };
+
+export function describe(settings) {
+    return fill(qsTr("to %1 %"), settings.percent);
+}
+
+export function validate(settings) {
+    return outputMessages(settings.output);
+}
+
+export function plan(photo, settings) {
+    const target = targetOf(photo, settings.output.fileType);
+    const part = (length) => Math.trunc((length * settings.percent) / 100);
+    const size = { width: part(photo.width), height: part(photo.height) };
+    return target.refusal || ready(splitPath(photo.path).base + target.type.extension, target.type, size, []);
+}
+
+export function run(photo, settings, services) {
+    const planned = plan(photo, settings);
+    if (planned.status !== "ready") {
+        return refused(planned);
+    }
+    const output = settings.output;
+    const status = services.image.resizeImage(photo.path, settings.percent, PER_CENT, settings.prefix, output.fileType, output.quality);
+    return outcome(status, settings.prefix + planned.name, planned, services);
+}
+
+export function preview(photo, settings, planned) {
+    return { deeds: [{ do: "scale", width: planned.width, height: planned.height }], width: planned.width, height: planned.height,
+             type: planned.type, quality: settings.output.quality };
+}
