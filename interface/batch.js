@@ -44,7 +44,8 @@ function main(folder, paths) {
     const settings = settingsFor(folder);
     const services = makeServices();
     const photos = paths.map((path) => files.picture(path));
-    const planned = carryOut(planRun(photos.length, (i) => photos[i], paths, resize, settings, services), () => undefined);
+    const input = { count: photos.length, at: (i) => photos[i], paths: paths };
+    const planned = carryOut(planRun(input, resize, settings, services), () => undefined);
     const results = carryOut(runItems(planned.items, resize, settings, services), tell);
     const run = newRunName();
     const problem = keepRows(files, results.map((result) => logRow(result, "Resize", resize.describe(settings), new Date().toISOString(), run)));

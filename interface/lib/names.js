@@ -31,7 +31,10 @@ function bytesOf(code) {
     if (code < 0x80) {
         return 1;
     }
-    return code < 0x800 ? 2 : code < 0x10000 ? 3 : 4;
+    if (code < 0x800) {
+        return 2;
+    }
+    return code < 0x10000 ? 3 : 4;
 }
 
 /** The beginning of a text that has at most so many bytes of UTF-8; no character is cut in two. */

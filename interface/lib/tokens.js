@@ -264,33 +264,34 @@ export function orientationText(size) {
     return size.width > size.height ? qsTr("Landscape") : qsTr("Portrait");
 }
 
+function dateOrNothing(date, form) {
+    return date ? dateText(date, form) : "";
+}
+
+function lengthText(pixels) {
+    return pixels > 0 ? String(pixels) : "";
+}
+
+// What tokens stand for; those that are missing here stand for the fact of their name.
+const VALUES = {
+    name: (form, path) => namePart(path.base, form),
+    extension: (form, path) => path.extension,
+    folder: (form, path) => path.folder.slice(path.folder.lastIndexOf("/") + 1),
+    counter: (form, path, facts, index) => counterText(form, index),
+    date: (form, path, facts) => dateOrNothing(facts.taken || facts.changed, form),
+    taken: (form, path, facts) => dateOrNothing(facts.taken, form),
+    created: (form, path, facts) => dateOrNothing(facts.created, form),
+    changed: (form, path, facts) => dateOrNothing(facts.changed, form),
+    width: (form, path, facts) => lengthText(facts.width),
+    height: (form, path, facts) => lengthText(facts.height),
+    size: (form, path, facts) => (facts.bytes >= 0 ? sizeText(facts, form) : ""),
+    orientation: (form, path, facts) => orientationText(facts),
+};
+
 /** What a token stands for; "" where that is missing. */
 function valueOf(part, path, facts, index) {
-    switch (part.token) {
-    case "name":
-        return namePart(path.base, part.form);
-    case "extension":
-        return path.extension;
-    case "folder":
-        return path.folder.slice(path.folder.lastIndexOf("/") + 1);
-    case "counter":
-        return counterText(part.form, index);
-    case "date":
-        return facts.taken || facts.changed ? dateText(facts.taken || facts.changed, part.form) : "";
-    case "taken":
-    case "created":
-    case "changed":
-        return facts[part.token] ? dateText(facts[part.token], part.form) : "";
-    case "width":
-    case "height":
-        return facts[part.token] > 0 ? String(facts[part.token]) : "";
-    case "size":
-        return facts.bytes >= 0 ? sizeText(facts, part.form) : "";
-    case "orientation":
-        return orientationText(facts);
-    default:
-        return facts[part.token] || "";
-    }
+    const value = VALUES[part.token];
+    return value === undefined ? facts[part.token] || "" : value(part.form, path, facts, index);
 }
 
 const NO_FACTS = { taken: "", created: "", changed: "", camera: "", lens: "", type: "", bytes: -1, size: "", width: 0, height: 0 };

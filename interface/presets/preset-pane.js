@@ -145,13 +145,15 @@ export class PresetPane {
 
     showChoice() {
         const changed = this.isChanged();
-        const texts = this.presets.map((preset) => (changed && preset === this.chosen ? "• " + preset.name : stateWord(preset)));
         const none = this.chosen === null;
-        this.form.setItems("preset", (none ? [qsTr("None")] : []).concat(texts), (none ? [""] : []).concat(this.presets.map((preset) => this.valueOf(preset))));
+        // The dot stands before the name, where a long one is not cut off.
+        const texts = this.presets.map((preset) => (changed && preset === this.chosen ? "• " + preset.name : stateWord(preset)));
+        const values = this.presets.map((preset) => this.valueOf(preset));
+        this.form.setItems("preset", (none ? [qsTr("None")] : []).concat(texts), (none ? [""] : []).concat(values));
         this.form.chooseValue("preset", none ? "" : this.valueOf(this.chosen));
         this.form.control("preset").enabled = this.store.problem === "" && this.presets.length > 0;
-        // The dot stands before the name, where a long one is not cut off.
-        this.form.control("preset").toolTip = none ? "" : changed ? fill(qsTr("%1, changed"), this.chosen.name) : this.chosen.name;
+        const name = none ? "" : this.chosen.name;
+        this.form.control("preset").toolTip = changed ? fill(qsTr("%1, changed"), name) : name;
         this.form.control("preset").accessibleDescription = changed ? qsTr("changed") : "";
         this.label("presetProblem", this.problem || this.store.problem);
         this.label("presetNote", none ? "" : this.chosen.note);
@@ -162,32 +164,40 @@ export class PresetPane {
         this.form.control(name).visible = text !== "";
     }
 
-    // An entry without a deed cannot be chosen now.
-    showMenu() {
+    // [text, what it does]; an entry that does nothing cannot be chosen now.
+    menuEntries() {
         const works = this.store.problem === "";
         const ready = works && this.isReady();
-        const entries = [
-            [qsTr("Save"), ready && this.isChanged() ? "save" : null], [qsTr("Save As…"), works ? "saveAs" : null],
-            [qsTr("Rename…"), ready ? "rename" : null], [qsTr("Delete…"), ready ? "remove" : null], ["-", null],
-            [qsTr("Export…"), this.chosen !== null && this.chosen.fields.length === FIELDS ? "save as file" : null],
-            [qsTr("Import…"), works ? "bring in" : null],
+        const ifTrue = (condition, what) => (condition ? what : null);
+        return [
+            [qsTr("Save"), ifTrue(ready && this.isChanged(), "save")], [qsTr("Save As…"), ifTrue(works, "saveAs")],
+            [qsTr("Rename…"), ifTrue(ready, "rename")], [qsTr("Delete…"), ifTrue(ready, "remove")], ["-", null],
+            [qsTr("Export…"), ifTrue(this.chosen !== null && this.chosen.fields.length === FIELDS, "save as file")],
+            [qsTr("Import…"), ifTrue(works, "bring in")],
         ].concat(works ? [] : [["-", null], [qsTr("Look Again"), "look"]]);
+    }
+
+    showMenu() {
+        const entries = this.menuEntries();
         const state = JSON.stringify(entries);
         if (state !== this.menuState) {
             this.menuState = state;
-            this.form.setMenu("presetMenu", entries.map((entry) => entry[0]), entries.map((entry) => entry[1]), guard("presets", (deed) => this.act(deed)));
+            this.form.setMenu("presetMenu", entries.map((entry) => entry[0]), entries.map((entry) => entry[1]),
+                              guard("presets", (what) => this.act(what)));
         }
     }
 
-    act(deed) {
+    act(what) {
         this.problem = "";
-        const deeds = { save: () => this.save(), saveAs: () => this.edit("saveAs"), rename: () => this.edit("rename"), remove: () => this.remove(),
-                        "save as file": () => this.saveFile(), "bring in": () => this.bringIn(), look: () => this.lookAgain() };
-        deeds[deed]();
+        const doings = {
+            save: () => this.save(), saveAs: () => this.edit("saveAs"), rename: () => this.edit("rename"), remove: () => this.remove(),
+            "save as file": () => this.saveFile(), "bring in": () => this.bringIn(), look: () => this.lookAgain(),
+        };
+        doings[what]();
         this.showAll();
     }
 
-    // Shows what came of a deed: the preset of that name is the chosen one, or the problem is told.
+    // Shows what came of it: the preset of that name is the chosen one, or the problem is told.
     ended(problem, name) {
         this.problem = problem;
         this.look(problem === "" || this.chosen === null ? name : this.chosen.name);

@@ -49,7 +49,7 @@ export class PresetStore {
             this.makeDb().linkToPresetsDB();
         } catch (error) {
             // What is wrong shows when it is read.
-            this.linkError = error;
+            return;
         }
     }
 
@@ -92,14 +92,20 @@ export class PresetStore {
             let left = names.filter((each) => each === name).length;
             const newest = Number(this.idOf(action, name));
             for (let id = newest - 1; id > 0 && id > newest - MOST_LOOKS && left > 0; id -= 1) {
-                const rows = this.rows("ID", String(id)) || [];
-                const preset = rows.length === 1 ? presetOf(rows[0], this.kinds) : null;
-                if (preset !== null && preset.state === "ready" && preset.action === action && preset.name === name) {
+                const preset = this.readyAt(String(id));
+                if (preset !== null && preset.action === action && preset.name === name) {
                     this.removeId(String(id));
                     left -= 1;
                 }
             }
         }
+    }
+
+    // The preset with that number, if it is a ready one; else null.
+    readyAt(id) {
+        const rows = this.rows("ID", id) || [];
+        const preset = rows.length === 1 ? presetOf(rows[0], this.kinds) : null;
+        return preset !== null && preset.state === "ready" ? preset : null;
     }
 
     /** The names of the presets of all actions. */
@@ -203,9 +209,8 @@ export class PresetStore {
         if (!/^[0-9]+$/.test(id)) {
             return "";
         }
-        const rows = this.rows("ID", id) || [];
-        const preset = rows.length === 1 ? presetOf(rows[0], this.kinds) : null;
-        return preset !== null && preset.state === "ready" && preset.name === name ? id : "";
+        const preset = this.readyAt(id);
+        return preset !== null && preset.name === name ? id : "";
     }
 
     removeId(id) {

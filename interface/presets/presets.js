@@ -64,7 +64,7 @@ const WRITERS = {
     color: (value) => (typeof value === "string" ? encoded(value) : null),
     number: (value) => (typeof value === "number" && isFinite(value) ? String(value) : null),
     whole: (value) => (Number.isSafeInteger(value) ? String(value) : null),
-    flag: (value) => (typeof value === "boolean" ? (value ? "1" : "0") : null),
+    flag: (value) => (typeof value === "boolean" ? String(Number(value)) : null),
 };
 
 const READERS = {
@@ -72,7 +72,7 @@ const READERS = {
     color: (text) => (/^#[0-9a-f]{6}$/i.test(text) ? text : null),
     number: (text) => (/^-?\d+(\.\d+)?(e[-+]?\d+)?$/.test(text) && isFinite(Number(text)) ? Number(text) : null),
     whole: (text) => (/^-?\d+$/.test(text) && Number.isSafeInteger(Number(text)) ? Number(text) : null),
-    flag: (text) => (text === "1" ? true : text === "0" ? false : null),
+    flag: (text) => (text === "1" || text === "0" ? text === "1" : null),
 };
 
 function valueAt(settings, path) {
@@ -180,32 +180,45 @@ function listIn(row, list) {
     return parts;
 }
 
-// The settings of a row, or null if one of its values is none.
-function settingsIn(row, form, standard) {
-    const settings = copyOf(standard);
+// Puts the values of the columns into the settings; false if one of them is none.
+function readColumns(row, form, settings) {
     for (const column of Object.keys(form.columns)) {
         const [path, kind, values] = form.columns[column];
         const text = row[placeOf(column)];
         // A setting that came later than the preset has an empty column; no number and no flag is written like that.
-        const value = text === "" && kind !== "text" ? valueAt(standard, path) : READERS[kind](text);
+        const value = text === "" && kind !== "text" ? valueAt(settings, path) : READERS[kind](text);
         if (value === null || (values !== undefined && values.indexOf(value) < 0)) {
-            return null;
+            return false;
         }
         setAt(settings, path, value);
     }
-    const list = form.list === undefined ? [] : listIn(row, form.list);
-    if (list === null) {
-        return null;
-    }
-    if (form.list !== undefined) {
+    return true;
+}
+
+// Puts the list of a row into the settings; false if one of its parts is none.
+function readList(row, form, settings) {
+    const list = form.list === undefined ? null : listIn(row, form.list);
+    if (list !== null) {
         setAt(settings, form.list.path, list);
     }
+    return form.list === undefined || list !== null;
+}
+
+// Puts what stands in Action into the settings; false if it is none of the values of that setting.
+function readMode(row, form, settings) {
     const mode = decoded(row[2]);
-    if (form.mode !== "" && mode) {
-        settings[form.mode] = mode;
+    if (form.mode === "" || mode === "") {
+        return mode !== null;
     }
-    const isMode = form.mode === "" || !mode || form.modes.indexOf(mode) >= 0;
-    return mode === null || !isMode ? null : settings;
+    settings[form.mode] = mode;
+    return form.modes.indexOf(mode) >= 0;
+}
+
+// The settings of a row, or null if one of its values is none.
+function settingsIn(row, form, standard) {
+    const settings = copyOf(standard);
+    const isRead = readColumns(row, form, settings) && readList(row, form, settings) && readMode(row, form, settings);
+    return isRead ? settings : null;
 }
 
 /**
@@ -218,20 +231,28 @@ function settingsIn(row, form, standard) {
 export function presetOf(row, kinds) {
     const fields = typeof row === "string" ? row.split("|") : row;
     const action = Object.keys(kinds).find((name) => kinds[name].form.process === fields[1]) || "";
-    const preset = { name: fields[0], process: fields[1] || "", action: action, state: "unknown", settings: null, note: "" };
     const version = fields.length === FIELDS && action !== "" ? headOf(fields, kinds[action].form).version : 0;
-    if (action === "" || version === 0) {
-        preset.note = qsTr("This preset was not made by Quorlin. It is left as it is.");
-    } else if (version > VERSION) {
-        preset.state = "newer";
-        preset.note = qsTr("This preset was made by a newer Quorlin. It is left as it is.");
-    } else {
-        const { form, standard } = kinds[action];
-        preset.settings = form.slots === undefined ? settingsIn(fields, form, standard) : slotSettings(fields, form, standard);
-        preset.state = preset.settings === null ? "damaged" : "ready";
-        preset.note = preset.settings === null ? qsTr("This preset is damaged and cannot be used.") : "";
+    const preset = { name: fields[0], process: fields[1] || "", action: action };
+    return Object.assign(preset, action === "" || version === 0 ? stateOf("unknown", null) : readState(fields, version, kinds[action]));
+}
+
+function stateOf(state, settings) {
+    const notes = {
+        unknown: qsTr("This preset was not made by Quorlin. It is left as it is."),
+        newer: qsTr("This preset was made by a newer Quorlin. It is left as it is."),
+        damaged: qsTr("This preset is damaged and cannot be used."),
+    };
+    return { state: state, settings: settings, note: notes[state] || "" };
+}
+
+// What a row of ours holds.
+function readState(fields, version, kind) {
+    if (version > VERSION) {
+        return stateOf("newer", null);
     }
-    return preset;
+    const read = kind.form.slots === undefined ? settingsIn : slotSettings;
+    const settings = read(fields, kind.form, kind.standard);
+    return stateOf(settings === null ? "damaged" : "ready", settings);
 }
 
 /** A name as it is stored: without blanks around it, accents in one writing. */

@@ -20,9 +20,17 @@ export function showRow(list, id, plan, i, paths) {
     return state.state;
 }
 
-/** A generator that plans and shows the plan. It yields between slices, and returns the plan with its states. */
-export function* showPlan(list, ids, paths, step, settings, services, isFinal) {
-    const planning = planMoves(paths, step, settings, services);
+/**
+ * A generator that plans and shows the plan. It yields between slices, and returns the plan with its states.
+ *
+ * @param rows     {ids, paths} of the list
+ * @param settings of the action that the window shows
+ * @param isFinal  whether the row with an id is left as it is
+ */
+export function* showPlan(window, rows, settings, isFinal) {
+    const list = window.pictures;
+    const { ids, paths } = rows;
+    const planning = planMoves(paths, window.action.step, settings, window.services);
     let part = planning.next();
     while (!part.done) {
         const named = part.value;
@@ -79,8 +87,8 @@ export class LiveMoves extends LivePlan {
     // The pane may have something to show beside the list.
     * planAll(ids, settings) {
         const window = this.window;
-        const plan = yield* showPlan(window.pictures, ids, window.pictures.paths(), window.action.step, settings, window.services,
-                                     (id) => this.isFinal(id));
+        const rows = { ids: ids, paths: window.pictures.paths() };
+        const plan = yield* showPlan(window, rows, settings, (id) => this.isFinal(id));
         if (window.pane.showPlan !== undefined) {
             yield* window.pane.showPlan(plan, ids);
         }

@@ -34,21 +34,21 @@ export function row(changes) {
 
 // Tells the engine the wishes of all rows that are not left out. {ofRow, count}: ofRow is where the wish of a row stands, and those
 // behind it go along.
-function* tellWishes(name, paths, rows, leftOut, moves, part) {
+function* tellWishes(tell, paths, rows, leftOut, part) {
     const ofRow = [];
     let count = 0;
     let told = [];
     for (let i = 0; i < rows.length; i += 1) {
-        const row = rows[i];
-        const isAsked = row.to !== "" && leftOut[i] === undefined;
+        const { kind, to, number, along } = rows[i];
+        const isAsked = to !== "" && leftOut[i] === undefined;
         ofRow.push(isAsked ? count : -1);
         if (isAsked) {
-            told.push({ kind: row.kind, from: paths[i], to: row.to, number: row.number, leader: -1 });
-            row.along.forEach((other) => told.push({ kind: row.kind, from: other.from, to: other.to, number: row.number, leader: ofRow[i] }));
-            count += 1 + row.along.length;
+            told.push({ kind: kind, from: paths[i], to: to, number: number, leader: -1 });
+            along.forEach((other) => told.push({ kind: kind, from: other.from, to: other.to, number: number, leader: ofRow[i] }));
+            count += 1 + along.length;
         }
         if (told.length >= AT_ONCE || i === rows.length - 1) {
-            moves.addWishes(name, told);
+            tell(told);
             told = [];
             yield part;
         }
@@ -60,7 +60,7 @@ function* tellWishes(name, paths, rows, leftOut, moves, part) {
 function* plannedOnce(paths, rows, leftOut, moves, part) {
     const name = moves.beginPlan();
     try {
-        const told = yield* tellWishes(name, paths, rows, leftOut, moves, part);
+        const told = yield* tellWishes((wishes) => moves.addWishes(name, wishes), paths, rows, leftOut, part);
         while (!moves.workOut(name, WORK_MS)) {
             yield part;
         }
@@ -92,11 +92,12 @@ function stayingCompanion(items, first, count) {
 // Leaves out the rows whose companions cannot go along; returns how many were found.
 function leaveOutParted(plan) {
     let found = 0;
-    plan.rows.forEach((row, i) => {
+    plan.rows.forEach(({ to, along }, i) => {
         const at = plan.ofRow[i];
-        const item = at >= 0 && row.along.length > 0 && isReady(plan.items[at]) ? stayingCompanion(plan.items, at + 1, row.along.length) : null;
+        const mayPart = at >= 0 && along.length > 0 && isReady(plan.items[at]);
+        const item = mayPart ? stayingCompanion(plan.items, at + 1, along.length) : null;
         if (item !== null) {
-            plan.leftOut[i] = { status: "refused", code: "along", other: item.other, to: row.to, why: item.code };
+            plan.leftOut[i] = { status: "refused", code: "along", other: item.other, to: to, why: item.code };
             found += 1;
         }
     });
@@ -106,13 +107,13 @@ function leaveOutParted(plan) {
 // How often the rest is planned anew without those whose companions cannot go along.
 const MOST_ROUNDS = 5;
 
-// Settles the wishes of rows, in parts; see planMoves().
-function* settled(paths, rows, moves) {
+/** A generator that settles the wishes of rows, in parts; see planMoves(). */
+export function* settled(paths, rows, moves) {
     const leftOut = [];
     const part = { rows: rows, from: rows.length, to: rows.length };
     let plan = null;
     let found = 1;
-    const anyAlong = rows.some((row) => row.along.length > 0);
+    const anyAlong = rows.some((each) => each.along.length > 0);
     // Those that the last round finds are left out too, only without a plan made anew.
     for (let round = 0; round < MOST_ROUNDS && found > 0; round += 1) {
         plan = yield* plannedOnce(paths, rows, leftOut, moves, part);
@@ -137,7 +138,7 @@ export function isReadyRow(plan, i) {
 
 // The items of one row; first is what the first of them is among all.
 function readyOfRow(plan, i, first) {
-    const row = plan.rows[i];
+    const { kind, along } = plan.rows[i];
     const at = plan.ofRow[i];
     const ready = [];
     if (at < 0 || plan.leftOut[i] !== undefined) {
@@ -145,12 +146,13 @@ function readyOfRow(plan, i, first) {
     }
     const hasLeader = isReady(plan.items[at]);
     if (hasLeader) {
-        ready.push({ kind: row.kind, from: plan.paths[i], to: itemOf(plan, i).to, row: i, along: false, leader: -1 });
+        ready.push({ kind: kind, from: plan.paths[i], to: itemOf(plan, i).to, row: i, along: false, leader: -1 });
     }
-    row.along.forEach((other, k) => {
+    const leader = hasLeader ? first : -1;
+    along.forEach((other, k) => {
         const item = plan.items[at + 1 + k];
         if (isReady(item)) {
-            ready.push({ kind: row.kind, from: other.from, to: item === null ? other.to : item.to, row: i, along: true, leader: hasLeader ? first : -1 });
+            ready.push({ kind: kind, from: other.from, to: item === null ? other.to : item.to, row: i, along: true, leader: leader });
         }
     });
     return ready;
@@ -171,9 +173,9 @@ export function* readyItems(plan) {
     return ready;
 }
 
-/** What the column of new names shows. */
-export function shownName(row, item) {
-    return row.shown || (item === null ? "" : splitPath(item.to || row.to).name);
+/** What the column of new names shows for a row of the step. */
+export function shownName(wish, item) {
+    return wish.shown || (item === null ? "" : splitPath(item.to || wish.to).name);
 }
 
 /**

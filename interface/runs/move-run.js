@@ -2,7 +2,7 @@
 // Services used: those of the step, moves.
 
 import { guard } from "../lib/guard.js";
-import { isReadyRow, itemOf, planMoves, readyItems } from "./move-plan.js";
+import { isReadyRow, itemOf, readyItems, settled } from "./move-plan.js";
 import { refusalText } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
 import { clockText, Progress } from "./progress.js";
@@ -74,7 +74,7 @@ export class MoveRun extends BaseRun {
 
     * plan() {
         const window = this.window;
-        const plan = yield* showPlan(window.pictures, this.ids, this.paths, window.action.step, this.settings, window.services, () => false);
+        const plan = yield* showPlan(window, { ids: this.ids, paths: this.paths }, this.settings, () => false);
         plan.ready = yield* readyItems(plan);
         plan.needs = new DiskNeeds((folder) => window.services.files.space(folder));
         for (let i = 0; i < plan.rows.length; i += 1) {
@@ -121,9 +121,7 @@ export class MoveRun extends BaseRun {
     }
 
     * planAgain(again) {
-        const rows = again.map((row) => row.wish);
-        const step = { rows: function* () { return rows; } };
-        const plan = yield* planMoves(again.map((row) => row.from), step, this.settings, this.window.services);
+        const plan = yield* settled(again.map((row) => row.from), again.map((row) => row.wish), this.window.services.moves);
         plan.ready = yield* readyItems(plan);
         return plan;
     }
@@ -231,22 +229,30 @@ export class MoveRun extends BaseRun {
     }
 
     noteResult(item, result) {
-        const window = this.window;
         const isDone = result.status === "OK";
         const parts = { status: result.status, reason: result.reason, photo: { name: splitPath(item.from).name, path: item.from },
                         name: isDone ? splitPath(result.path).name : "", path: isDone ? result.path : "" };
+        const isMoved = isDone && item.kind === "move";
         this.noteRow(parts);
-        this.moved += isDone && !item.along ? 1 : 0;
-        const id = this.idOf(item);
-        if (id > 0 && !item.along) {
-            window.livePlan.keepFinal(id);
-            window.pictures.setStatus(id, statusKind(result.status), isDone ? qsTr("done") : statusText(result.status, result.reason), "");
-            if (isDone && item.kind === "move") {
-                window.pictures.setPath(id, result.path);
-            }
-        }
-        if (isDone && item.kind === "move" && item.along) {
+        if (!item.along) {
+            this.moved += isDone ? 1 : 0;
+            this.showResult(this.idOf(item), result, isMoved);
+        } else if (isMoved) {
             this.followed(item.from, result.path);
+        }
+    }
+
+    // In the row of the list, if the file has one.
+    showResult(id, result, isMoved) {
+        if (id <= 0) {
+            return;
+        }
+        const list = this.window.pictures;
+        const text = result.status === "OK" ? qsTr("done") : statusText(result.status, result.reason);
+        this.window.livePlan.keepFinal(id);
+        list.setStatus(id, statusKind(result.status), text, "");
+        if (isMoved) {
+            list.setPath(id, result.path);
         }
     }
 
@@ -344,8 +350,9 @@ export class MoveRun extends BaseRun {
         }
         const run = last.run;
         const action = this.window.action;
-        const words = run.title !== action.title() ? fill(qsTr("%1, %2"), run.title, count(run.done, qsTr("1 file"), qsTr("%1 files")))
-            : run.undoes ? action.undone(run.done, null) : action.done(run.done, null);
+        const isOther = run.title !== action.title();
+        const own = () => (run.undoes ? action.undone(run.done, null) : action.done(run.done, null));
+        const words = isOther ? fill(qsTr("%1, %2"), run.title, count(run.done, qsTr("1 file"), qsTr("%1 files"))) : own();
         return fill(qsTr("Last run: %1, %2"), words, problemsText(Math.max(0, run.count - run.done)));
     }
 

@@ -63,7 +63,8 @@ function ready(row, item) {
     }
     const isPlain = isPlainMove && row.notes.length === 0;
     const text = isPlainMove && row.notes.length > 0 ? fill(qsTr("ready, but %1"), row.notes[0]) : readyText(row, item);
-    return { state: "ready", kind: isPlain ? "good" : item.code === "aside" ? "waiting" : "caution", text: text,
+    const other = item.code === "aside" ? "waiting" : "caution";
+    return { state: "ready", kind: isPlain ? "good" : other, text: text,
              detail: [text].concat(notes).join("\n") };
 }
 

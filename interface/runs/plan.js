@@ -137,16 +137,16 @@ function itemFor(photo, planned, settings) {
 /**
  * A generator that plans a run. It yields each item as it is planned and returns {items, cancelled}.
  *
- * photoOf(i) gives the i-th of `count` pictures as plain data; paths are all input paths. An item has status "ready" or
- * a final one with its reason, and then folder, name, path, width, height, replaces, replaced (the identity of the file that
+ * photos: {count, at, paths}: at(i) gives the i-th of `count` pictures as plain data; paths are all input paths. An item has status
+ * "ready" or a final one with its reason, and then folder, name, path, width, height, replaces, replaced (the identity of the file that
  * may be replaced), replacesOriginal, numbered, notes.
  */
-export function* planRun(count, photoOf, paths, step, settings, services) {
+export function* planRun(photos, step, settings, services) {
     const namesIn = foldersOf(services);
-    const context = { owners: ownersOf(paths, services), memory: { forAll: null }, services: services, cancelled: false };
+    const context = { owners: ownersOf(photos.paths, services), memory: { forAll: null }, services: services, cancelled: false };
     const items = [];
-    for (let i = 0; i < count && !context.cancelled; i += 1) {
-        const photo = photoOf(i);
+    for (let i = 0; i < photos.count && !context.cancelled; i += 1) {
+        const photo = photos.at(i);
         const item = itemFor(photo, step.plan(photo, settings, services), settings);
         if (item.status === "ready") {
             settleName(item, namesIn(item.folder), settings.output.ifTaken, context);

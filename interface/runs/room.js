@@ -65,8 +65,8 @@ export function roomText(disks, byteText) {
  */
 export function roomProblem(path, folder, kind, files) {
     const target = files.space(folder);
-    const isWritten = kind === "copy" || (kind === "move" && target.disk !== files.space(path).disk);
-    const bytes = isWritten ? files.info(path).bytes : 0;
+    const needsRoom = kind === "copy" || (kind === "move" && target.disk !== files.space(path).disk);
+    const bytes = needsRoom ? files.info(path).bytes : 0;
     return target.free >= 0 && bytes > target.free
         ? fill(qsTr("too little room (needs %1, %2 are free)"), files.byteText(bytes), files.byteText(target.free)) : "";
 }

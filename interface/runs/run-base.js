@@ -93,7 +93,8 @@ export class BaseRun {
 
     showProgress() {
         const left = this.progress.leftMs();
-        const time = this.paused ? qsTr("paused") : left === null ? "" : fill(qsTr("%1 left"), clockText(left));
+        const leftText = left === null ? "" : fill(qsTr("%1 left"), clockText(left));
+        const time = this.paused ? qsTr("paused") : leftText;
         this.text = fill(qsTr("%1 of %2"), this.progress.done, this.progress.count);
         this.detail = (time ? [time] : []).concat([problemsText(this.problems)]).join(" · ");
         this.changed();

@@ -30,10 +30,19 @@ export function undoWords(moves, run) {
 /** The same of a run that wrote comments; chosen is what the list of runs tells of it. */
 export function revertWords(chosen) {
     const left = chosen.edits - chosen.undone;
-    const before = chosen.undone > 0 ? count(chosen.undone, qsTr("1 was reverted before."), qsTr("%1 were reverted before.")) : "";
-    return { can: left > 0, button: qsTr("Revert This Run"), isRedo: false,
-             note: chosen.edits === 0 ? qsTr("No comment was changed.") : left <= 0 ? qsTr("All its comments were reverted already.")
-                 : [count(left, qsTr("1 comment can be reverted."), qsTr("%1 comments can be reverted."))].concat(before || []).join(" ") };
+    return { can: left > 0, button: qsTr("Revert This Run"), isRedo: false, note: revertNote(chosen, left) };
+}
+
+function revertNote(chosen, left) {
+    if (chosen.edits === 0) {
+        return qsTr("No comment was changed.");
+    }
+    if (left <= 0) {
+        return qsTr("All its comments were reverted already.");
+    }
+    const now = count(left, qsTr("1 comment can be reverted."), qsTr("%1 comments can be reverted."));
+    const before = count(chosen.undone, qsTr("1 was reverted before."), qsTr("%1 were reverted before."));
+    return chosen.undone > 0 ? now + " " + before : now;
 }
 
 /** How the log calls the taking back of a run: one that took back another is done again. */

@@ -5,6 +5,11 @@ import { planRun } from "./plan.js";
 import { fill, pixels, statusKind, statusText } from "../lib/wording.js";
 import { LivePlan } from "./live-plan.js";
 
+/** What planRun() plans for the rows with these ids. */
+export function photosOf(list, ids) {
+    return { count: ids.length, at: (i) => list.photo(ids[i]), paths: list.paths() };
+}
+
 /** Shows an item of a plan in its row; `simulated` says so in words. */
 export function showItem(list, id, item, simulated) {
     if (item.status !== "ready") {
@@ -32,8 +37,7 @@ export class WritePlan extends LivePlan {
     work(ids, settings) {
         const window = this.window;
         // The engine loses a generator that is returned by the call that makes it.
-        const planning = planRun(ids.length, (i) => window.pictures.photo(ids[i]), window.pictures.paths(), window.action.step,
-                                 settings, window.services);
+        const planning = planRun(photosOf(window.pictures, ids), window.action.step, settings, window.services);
         return planning;
     }
 

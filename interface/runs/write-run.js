@@ -10,7 +10,7 @@ import { clockText, costOf, Progress } from "./progress.js";
 import { logRow, summaryOf } from "./report.js";
 import { count, fill, pixels, statusKind, statusText } from "../lib/wording.js";
 import { BaseRun } from "./run-base.js";
-import { showItem } from "./write-plan.js";
+import { photosOf, showItem } from "./write-plan.js";
 
 function askAboutName(question) {
     const answer = shell.ask({
@@ -61,8 +61,8 @@ export class WriteRun extends BaseRun {
         this.startPlanning(ids);
         window.services.unitCache = emptyTable();
         this.simulated = this.settings.output.simulation;
-        const work = planRun(ids.length, (i) => window.pictures.photo(ids[i]), window.pictures.paths(), window.action.step,
-                             this.settings, Object.assign({}, window.services, { ask: askAboutName }));
+        const services = Object.assign({}, window.services, { ask: askAboutName });
+        const work = planRun(photosOf(window.pictures, ids), window.action.step, this.settings, services);
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
                        guard("run.planEnd", (how, value) => this.planEnded(how, value)));
         this.changed();

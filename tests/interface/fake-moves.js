@@ -15,7 +15,8 @@ export class FakeMoves {
             if (wish.to === wish.from) {
                 return { status: "same", code: "", other: "", to: wish.to };
             }
-            const code = this.refused[wish.to] || (given[wish.to] ? "twice" : wish.to.endsWith("/") ? "empty" : "");
+            const isEmpty = wish.to.endsWith("/") ? "empty" : "";
+            const code = this.refused[wish.to] || (given[wish.to] ? "twice" : isEmpty);
             given[wish.to] = wish.from;
             return { status: code ? "refused" : "ready", code: code, other: code === "taken" ? wish.to : "", to: wish.to };
         });

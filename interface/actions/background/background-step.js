@@ -5,7 +5,7 @@
 import { FORMAT_CODES, MASK_TYPES, maskName } from "../shared/masks.js";
 import { ORIGINAL, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { mayBeTransparent, outcome, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
+import { handsOnTurn, mayBeTransparent, outcome, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
 
 export const MOST_BAND = 10000;
 /** What can lie under a picture. */
@@ -122,7 +122,8 @@ export function run(photo, settings, services) {
         return outcome(putFrame(from, planned, output, services), output, planned, services);
     }
     const code = laid ? FORMAT_CODES[ORIGINAL] : FORMAT_CODES[settings.output.fileType];
-    return uprightOutcome(putBand(from, settings, code, services), output, planned, photo, ["public.jpeg", "public.tiff"], services);
+    const isTagged = handsOnTurn(photo, planned, ["public.jpeg", "public.tiff"]);
+    return uprightOutcome(putBand(from, settings, code, services), output, planned, isTagged, services);
 }
 
 /** What the preview does to the upright picture to show the result. */

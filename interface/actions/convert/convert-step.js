@@ -61,10 +61,12 @@ function verified(path, planned, photo, services) {
         return { status: "Failed", reason: qsTr("the file was written but cannot be read again"), outputs: [] };
     }
     // The picture is written first and its metadata after it; on a full disk only the first may have gone well.
-    const lost = planned.metadata ? services.files.lostMetadata(photo.path, path) : [];
-    return lost.length === 0
-        ? { status: "OK", reason: "", outputs: [path], width: planned.width, height: planned.height }
-        : { status: "Failed", reason: fill(qsTr("the metadata could not be written (%1); the disk may be full"), lost.join(", ")), outputs: [] };
+    const missing = planned.metadata ? services.files.lostMetadata(photo.path, path) : [];
+    if (missing.length > 0) {
+        const reason = fill(qsTr("the metadata could not be written (%1); the disk may be full"), missing.join(", "));
+        return { status: "Failed", reason: reason, outputs: [] };
+    }
+    return { status: "OK", reason: "", outputs: [path], width: planned.width, height: planned.height };
 }
 
 /** Writes the picture as settings.prefix + name, where plan() tells the name; see the Resize step. */

@@ -6,7 +6,7 @@ import { inPixels, PIXEL, UNITS } from "../../lib/measure.js";
 import { splitPath } from "../../lib/names.js";
 import { ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
+import { handsOnTurn, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
 
 export const MOST = 100000;
 /** The ratios of the frame that can be kept: "free" for none, "original" for that of the picture. */
@@ -117,7 +117,7 @@ export function run(photo, settings, services) {
     fillOutlets(photo, settings, services);
     const status = services.image.cropImage(photo.path, planned.frame.width, planned.frame.height, settings.prefix, output.fileType,
                                             output.quality);
-    return uprightOutcome(status, settings.prefix + planned.name, planned, photo, offer.metadata, services);
+    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata), services);
 }
 
 /** What the preview does to the upright picture to show the result. */

@@ -129,7 +129,10 @@ export class HandPage {
     dateOf(photo) {
         const path = this.sorting.placeOf(photo);
         const facts = path === "" ? null : files.facts(path);
-        return facts === null ? "" : facts.taken ? files.dateText(facts.taken) : fill(qsTr("file of %1"), files.dateText(facts.changed));
+        if (facts === null) {
+            return "";
+        }
+        return facts.taken ? files.dateText(facts.taken) : fill(qsTr("file of %1"), files.dateText(facts.changed));
     }
 
     showButtons(photo) {
@@ -226,7 +229,8 @@ export class HandPage {
         if (place !== "" && place !== photo.path) {
             this.list.setPath(photo.id, place);
         }
-        this.list.setStatus(photo.id, words === "" ? "none" : place === "" ? "caution" : "good", words, "");
+        const kind = place === "" ? "caution" : "good";
+        this.list.setStatus(photo.id, words === "" ? "none" : kind, words, "");
     }
 
     undo() {

@@ -120,7 +120,8 @@ export class HandPane extends Pane {
     // A new folder lies beside the last one of the list, or beside the picture.
     parentFolder() {
         const last = this.settings.slots[this.settings.slots.length - 1];
-        return last !== undefined ? splitPath(last.path).folder : this.picture !== "" ? splitPath(this.picture).folder : files.home;
+        const beside = last !== undefined ? last.path : this.picture;
+        return beside === "" ? files.home : splitPath(beside).folder;
     }
 
     askName(on) {

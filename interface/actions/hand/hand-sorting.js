@@ -53,7 +53,10 @@ export class HandSorting {
     /** Where the file of a picture is now; "" in the trash. */
     placeOf(photo) {
         const deed = this.lastOf(photo, (each) => each.kind === "move" || each.kind === TRASH);
-        return deed === null ? photo.path : deed.kind === TRASH ? "" : deed.parts[0].to;
+        if (deed === null) {
+            return photo.path;
+        }
+        return deed.kind === TRASH ? "" : deed.parts[0].to;
     }
 
     isTrashed(photo) {

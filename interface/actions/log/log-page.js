@@ -142,8 +142,7 @@ export class LogPage {
         control("logPicture").enabled = this.picturePath() !== "";
         control("logTable").visible = shown > 0;
         control("logEmpty").visible = shown === 0;
-        control("logEmpty").text = this.table.reading ? "" : total > 0 ? qsTr("No entry matches.")
-            : fill(qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %1 entries are kept."), this.table.numberText(rowLimit()));
+        control("logEmpty").text = this.table.reading ? "" : this.emptyText(total);
         const chosen = this.table.chosenCount;
         this.form.setMenu("logMore", [chosen > 1 ? fill(qsTr("Copy %1 Rows"), chosen) : qsTr("Copy Row"), "-", qsTr("Clear Log…")],
                           [chosen > 0 ? "copy" : null, null, total > 0 && !this.isBusy() ? "clear" : null],
@@ -170,11 +169,22 @@ export class LogPage {
         }
     }
 
+    // Why the table is empty.
+    emptyText(total) {
+        return total > 0 ? qsTr("No entry matches.")
+            : fill(qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %1 entries are kept."),
+                   this.table.numberText(rowLimit()));
+    }
+
+    wordsFor(run) {
+        return run.areEdits ? revertWords(run) : undoWords(this.window.services.moves, this.runs.run);
+    }
+
     // The run that is chosen, and whether it can be undone.
     showRun() {
         const control = (name) => this.form.control(name);
         const chosen = this.runs.chosen();
-        const words = chosen === null ? null : chosen.areEdits ? revertWords(chosen) : undoWords(this.window.services.moves, this.runs.run);
+        const words = chosen === null ? null : this.wordsFor(chosen);
         this.words = words;
         this.showColumns();
         if (!this.isBusy() && words !== null) {

@@ -223,9 +223,9 @@ export class MetadataPage {
         const busy = this.job.running;
         const isOne = this.scope === ONE;
         const problem = isOne ? "" : commentProblem(this.text());
-        const pictures = this.list.count;
-        control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, pictures);
-        control("metaFound").text = control("metaSearch").text.trim() === "" ? "" : count(this.tree.shownCount, qsTr("1 property"), qsTr("%1 properties"));
+        control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
+        const found = count(this.tree.shownCount, qsTr("1 property"), qsTr("%1 properties"));
+        control("metaFound").text = control("metaSearch").text.trim() === "" ? "" : found;
         if (!busy) {
             control("metaNote").text = this.note(problem);
         }
@@ -233,12 +233,7 @@ export class MetadataPage {
         this.form.setLook("metaComment", "holds", String(!isOne || this.holds));
         control("metaToken").visible = !isOne;
         control("metaScope").enabled = !busy && this.path !== "";
-        for (const name of ["metaApplyAll", "metaChooseFiles", "metaChooseFolder"]) {
-            control(name).visible = !isOne && !busy;
-            control(name).enabled = problem === "";
-        }
-        control("metaApplyAll").visible = !isOne && !busy && pictures > 0;
-        control("metaApplyAll").text = count(pictures, qsTr("Write into 1…"), qsTr("Write into All %1…"));
+        this.showWriting(!isOne && !busy, problem === "");
         control("metaApply").visible = isOne && !busy;
         control("metaApply").enabled = this.path !== "" && this.holds && this.text() !== this.read;
         control("metaRevert").visible = !busy;
@@ -251,16 +246,33 @@ export class MetadataPage {
         control("metaCancel").enabled = busy;
     }
 
+    // What writes into several pictures.
+    showWriting(on, enabled) {
+        const pictures = this.list.count;
+        for (const name of ["metaApplyAll", "metaChooseFiles", "metaChooseFolder"]) {
+            this.form.control(name).visible = on;
+            this.form.control(name).enabled = enabled;
+        }
+        this.form.control("metaApplyAll").visible = on && pictures > 0;
+        this.form.control("metaApplyAll").text = count(pictures, qsTr("Write into 1…"), qsTr("Write into All %1…"));
+    }
+
+    pagesText(lost, isOne) {
+        const pages = count(lost.pages, qsTr("1 further page"), qsTr("%1 further pages"));
+        if (isOne) {
+            return fill(qsTr("This file has %1, which would be taken out and cannot be brought back: only its first page is kept."), pages);
+        }
+        const words = count(lost.files, qsTr("1 file has several pages and is left out; its comment would cost it %2: %3."),
+                            qsTr("%1 files have several pages and are left out; their comments would cost them %2: %3."));
+        return fill(words, lost.files, pages, lost.words);
+    }
+
     // What whoever writes into pictures must know before.
     warnings(paths, lost) {
         const without = paths.filter((path) => !mayHold(path)).length;
-        const pages = count(lost.pages, qsTr("1 further page"), qsTr("%1 further pages"));
         return [
             qsTr("The originals themselves are changed: their comment, and nothing else in them."),
-            lost.files === 0 ? "" : paths.length === 1
-                ? fill(qsTr("This file has %1, which would be taken out and cannot be brought back: only its first page is kept."), pages)
-                : fill(count(lost.files, qsTr("1 file has several pages and is left out; its comment would cost it %2: %3."),
-                             qsTr("%1 files have several pages and are left out; their comments would cost them %2: %3.")), lost.files, pages, lost.words),
+            lost.files === 0 ? "" : this.pagesText(lost, paths.length === 1),
             without > 0 ? count(without, qsTr("1 file is of a type that has no place for a comment, and stays as it is."),
                                 qsTr("%1 files are of types that have no place for a comment, and stay as they are.")) : "",
         ].filter((each) => each !== "");

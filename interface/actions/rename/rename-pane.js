@@ -135,7 +135,11 @@ export class RenamePane extends Pane {
 
     remove(index) {
         this.settings.steps.splice(index, 1);
-        this.open = this.open === index ? -1 : this.open > index ? this.open - 1 : this.open;
+        if (this.open === index) {
+            this.open = -1;
+        } else if (this.open > index) {
+            this.open -= 1;
+        }
         this.stepsChanged();
         const next = Math.min(index, this.settings.steps.length - 1);
         (next >= 0 ? this.cards[next].control("cardTitle") : this.form.control("addStep")).setFocus();
@@ -155,7 +159,11 @@ export class RenamePane extends Pane {
         const step = steps[from];
         steps[from] = steps[to];
         steps[to] = step;
-        this.open = this.open === from ? to : this.open === to ? from : this.open;
+        if (this.open === from) {
+            this.open = to;
+        } else if (this.open === to) {
+            this.open = from;
+        }
         this.stepsChanged();
         return true;
     }
@@ -191,12 +199,17 @@ export class RenamePane extends Pane {
         return null;
     }
 
+    factsOf(path) {
+        return this.photo === null ? SAMPLE.facts : this.window.services.facts.of(path);
+    }
+
     // A counter shows its first number, on the first file.
     explain() {
         const areFolders = this.settings.what === "folders";
-        const path = this.photo !== null ? this.photo.path : areFolders ? SAMPLE_FOLDER : SAMPLE.path;
+        const sample = areFolders ? SAMPLE_FOLDER : SAMPLE.path;
+        const path = this.photo !== null ? this.photo.path : sample;
         const chain = rename.chainOf(this.settings, this.window.services);
-        const facts = !chain.needsFacts ? null : this.photo === null ? SAMPLE.facts : this.window.services.facts.of(path);
+        const facts = chain.needsFacts ? this.factsOf(path) : null;
         const made = chain.apply(path, areFolders, facts, true);
         let before = splitPath(path).name;
         this.settings.steps.forEach((step, i) => {

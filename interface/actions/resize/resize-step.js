@@ -6,7 +6,7 @@ import { splitPath } from "../../lib/names.js";
 import { newSize } from "./sizes.js";
 import { ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
+import { handsOnTurn, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
 
 export const MOST_PIXELS = 100000;
 export const MOST_PERCENT = 1000;
@@ -108,7 +108,7 @@ export function run(photo, settings, services) {
         return refused(planned);
     }
     const status = callService(photo, sizeFor(photo, settings, services).size, settings, services.image);
-    return uprightOutcome(status, settings.prefix + planned.name, planned, photo, offer.metadata, services);
+    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata), services);
 }
 
 /**

@@ -4,7 +4,7 @@
 import { FORMAT_CODES, MASK_TYPES, maskName } from "../shared/masks.js";
 import { writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
+import { handsOnTurn, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
 
 export const MOST_RADIUS = 100000;
 export const MOST_BAND = 10000;
@@ -86,7 +86,7 @@ export function run(photo, settings, services) {
     outlets.bandWidth.stringValue = String(settings.band);
     const status = services.image.roundCornersOfImage(photo.path, settings.prefix, settings.radius, SHAPE_CODES[settings.shape],
                                                       FORMAT_CODES[settings.output.fileType]);
-    return uprightOutcome(status, settings.prefix + planned.name, planned, photo, offer.metadata, services);
+    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata), services);
 }
 
 /** What the preview does to the upright picture to show the result. */

@@ -5,7 +5,7 @@ import { shell } from "quorlin/shell";
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { withNewest } from "../../lib/store.js";
-import { ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
+import { ORIGINAL, writtenType } from "../../lib/types.js";
 import { fill, shortPath } from "../../lib/wording.js";
 
 const KEPT_FOLDERS = 5;

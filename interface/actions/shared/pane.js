@@ -142,15 +142,23 @@ export class Pane {
     /** Shows what a picture becomes; photo may be null. Returns what the step plans for it, or null. */
     show(photo, services) {
         this.photo = photo;
-        const usesUnits = photo !== null && photo.width > 0 && this.settings.unit !== undefined;
-        this.dpi = usesUnits && services.units ? dpiOf(photo, services) : USUAL_DPI;
+        this.dpi = photo !== null && this.usesUnits(photo, services) ? dpiOf(photo, services) : USUAL_DPI;
         const messages = this.step.validate(this.settings);
         const planned = photo === null || messages.length > 0 ? null : this.step.plan(photo, this.settings, services);
-        const ready = planned !== null && planned.status === "ready";
         this.say("problemText", messages.join("\n"));
-        this.say("planNote", ready ? planned.notes.join(" ") : "");
-        this.form.control("resultText").text = planned === null ? "–" : ready ? this.resultText(photo, planned) : planned.reason;
+        this.showPlanned(photo, planned);
         return planned;
+    }
+
+    usesUnits(photo, services) {
+        return photo.width > 0 && this.settings.unit !== undefined && Boolean(services.units);
+    }
+
+    showPlanned(photo, planned) {
+        const ready = planned !== null && planned.status === "ready";
+        const reason = planned === null ? "–" : planned.reason;
+        this.say("planNote", ready ? planned.notes.join(" ") : "");
+        this.form.control("resultText").text = ready ? this.resultText(photo, planned) : reason;
     }
 
     say(name, text) {

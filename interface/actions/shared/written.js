@@ -76,13 +76,18 @@ export function outcome(status, path, planned, services, stored) {
     return { status: "OK", reason: "", outputs: [path], width: planned.width, height: planned.height };
 }
 
+/** True if the orientation tag of the source is handed on by an operation that carries metadata into the given types. */
+export function handsOnTurn(photo, planned, carrying) {
+    return (photo.orientation || 1) !== 1 && carrying.indexOf(planned.type) >= 0;
+}
+
 /**
- * As outcome(), for an operation that writes upright pixels and hands on the metadata of the source into the given types:
- * the orientation tag that went along is set right, or the picture would be shown turned.
+ * As outcome(), for an operation that writes upright pixels: where the orientation tag was handed on (see handsOnTurn()) it is set
+ * right, or the picture would be shown turned.
  */
-export function uprightOutcome(status, path, planned, photo, carrying, services) {
+export function uprightOutcome(status, path, planned, isTagged, services) {
     const result = outcome(status, path, planned, services);
-    if (result.status !== "OK" || (photo.orientation || 1) === 1 || carrying.indexOf(planned.type) < 0) {
+    if (result.status !== "OK" || !isTagged) {
         return result;
     }
     const problem = services.files.markUpright(path);

@@ -163,6 +163,11 @@ function withDate(facts, rule) {
         ? Object.assign({}, facts, { taken: facts[rule.undated] }) : facts;
 }
 
+function withoutLaterDates(levels) {
+    const first = levels.findIndex((each) => each.isDated);
+    return levels.filter((each, i) => !each.isDated || i === first);
+}
+
 /**
  * The folders that a file is sorted into: {folders: [name, ...], isUndated, stays}.
  *
@@ -180,15 +185,9 @@ export function foldersFor(ready, path, facts, rule, index) {
     }
     const dated = isUndated ? withDate(facts, rule) : facts;
     const hasNoDate = isUndated && (dated === null || dated.taken === "");
-    const folders = [];
-    let named = false;
-    for (const each of ready.levels) {
-        if (!each.isDated || !hasNoDate) {
-            folders.push(nameOfLevel(each.parts, path, dated, index));
-        } else if (!named) {
-            named = true;
-            folders.push(safeName(rule.undatedName) || standInFor("taken"));
-        }
-    }
+    // The levels that name a date are one folder where there is none.
+    const levels = hasNoDate ? withoutLaterDates(ready.levels) : ready.levels;
+    const folders = levels.map((each) => (each.isDated && hasNoDate ? safeName(rule.undatedName) || standInFor("taken")
+                                                                    : nameOfLevel(each.parts, path, dated, index)));
     return { folders: folders, isUndated: isUndated, stays: false };
 }

@@ -8,24 +8,37 @@ function listText(window) {
     return window.pictures.count > 0 ? words.count(window.pictures.count) : words.none();
 }
 
+function showTexts(window, busy, ended) {
+    const run = window.run;
+    const idleText = window.said || run.idleText() || listText(window);
+    window.form.control("statusText").text = busy || ended ? run.text : idleText;
+    window.form.control("statusDetail").text = ended && window.said ? window.said : run.detail;
+}
+
+// Which buttons the summary of a run has.
+function endButtons(run, ended) {
+    return {
+        dismissButton: ended,
+        openFolderButton: ended && run.folders().length > 0,
+        showFailedButton: ended && run.hasProblems(),
+        retryButton: ended && run.failedIds().length > 0,
+        reportButton: ended && run.rows.length > 0,
+    };
+}
+
 export function showStatusBar(window) {
     const control = (name) => window.form.control(name);
     const run = window.run;
     const busy = run.isBusy();
     const ended = run.phase === "ended";
     const offer = run.undoOffer();
-    const idleText = window.said || run.idleText() || listText(window);
-    control("statusText").text = busy || ended ? run.text : idleText;
-    control("statusDetail").text = ended && window.said ? window.said : run.detail;
+    showTexts(window, busy, ended);
     control("progress").visible = busy;
     control("progress").maximum = run.phase === "planning" ? 0 : Math.max(1, run.progress.count);
     control("progress").value = run.progress.done;
-    const visible = { pauseButton: run.phase === "running", cancelButton: busy, dismissButton: ended,
-                      undoButton: offer !== null && !window.said,
-                      openFolderButton: ended && run.folders().length > 0,
-                      showFailedButton: ended && run.hasProblems(),
-                      retryButton: ended && run.failedIds().length > 0,
-                      reportButton: ended && run.rows.length > 0 };
+    const visible = Object.assign(endButtons(run, ended), {
+        pauseButton: run.phase === "running", cancelButton: busy, undoButton: offer !== null && !window.said,
+    });
     Object.keys(visible).forEach((name) => { control(name).visible = visible[name]; });
     control("undoButton").text = offer === null ? qsTr("Undo") : offer.text;
     control("undoAction").enabled = offer !== null;

@@ -14,7 +14,7 @@ function settings(ifTaken, destination, fileType) {
 
 function plan(photos, chosen, files, ask) {
     const services = { files: files, ask: ask || null };
-    const work = planRun(photos.length, (i) => photos[i], photos.map((each) => each.path), resize, chosen, services);
+    const work = planRun({ count: photos.length, at: (i) => photos[i], paths: photos.map((each) => each.path) }, resize, chosen, services);
     return drain(work).result;
 }
 

@@ -69,7 +69,10 @@ test("rowsThatComeOneByOneLetTheLogGrowUntilItIsTrimmed", () => {
     equal(files.texts["/data/log.jsonl"].split("\n").length, KEPT_ROWS + 1);
 });
 
-test("givesEachRunANameOfItsOwn", () => equal(newRunName() === newRunName(), false));
+test("givesEachRunANameOfItsOwn", () => {
+    const first = newRunName();
+    equal(newRunName() === first, false);
+});
 
 const CLOCKS = [[0, "0:00"], [8000, "0:08"], [61000, "1:01"], [3700000, "1:01:40"]];
 for (const row of CLOCKS) {
