@@ -2,6 +2,7 @@
 
 #include "app/script/defaults_module.h"
 #include "app/script/import_place.h"
+#include "app/script/list_texts.h"
 #include "app/script/no_network.h"
 #include "app/script/panels_module.h"
 #include "app/seam/facade.h"
@@ -63,6 +64,7 @@ ScriptEngine::ScriptEngine(std::vector<ServiceEntry> services, QObject *parent)
     m_engine->setNetworkAccessManagerFactory(&noNetwork);
     m_engine->setOutputWarningsToStandardError(false);
     connect(m_engine.get(), &QQmlEngine::warnings, this, &ScriptEngine::reportWarnings);
+    boundListTexts(*m_engine);
     m_seam = std::make_unique<Seam>(*m_engine, std::move(services));
     registerOwnModules();
 }
@@ -87,6 +89,13 @@ bool ScriptEngine::registerModule(const QString &name, const QJSValue &value)
         return false;
     m_modules.insert(name);
     return true;
+}
+
+void ScriptEngine::registerServices(const QByteArray &module, std::vector<ServiceEntry> services)
+{
+    for (ServiceEntry &service : services)
+        m_seam->add(std::move(service));
+    registerModule(QString::fromLatin1(module), m_seam->exportsOf(module));
 }
 
 platform::Result<QJSValue> ScriptEngine::importFile(const QString &path)

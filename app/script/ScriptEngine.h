@@ -59,6 +59,9 @@ public:
     /** Makes the properties of @p value importable from @p name. False if the name is taken. */
     bool registerModule(const QString &name, const QJSValue &value);
 
+    /** Makes services importable from @p module, behind the same facade as those that are there from the start. */
+    void registerServices(const QByteArray &module, std::vector<ServiceEntry> services);
+
     /**
      * Loads and runs the module at @p path, relative to the current folder, and everything that it imports.
      *

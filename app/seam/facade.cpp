@@ -64,6 +64,21 @@ const char *const source = R"js((function (seam) {
         };
     }
 
+    // What is connected is kept by the engine as long as the object lives; the function gets values as operations answer them.
+    function signal(id) {
+        return {
+            get() {
+                const native = nativeOf(this);
+                return Object.freeze({ connect: (...values) => seam.connectTo(native, id, values) });
+            },
+            enumerable: true
+        };
+    }
+
+    function handler(received, call) {
+        return (...values) => { call(...values.map(received)); };
+    }
+
     function wrap(prototype, fields, native) {
         const facade = Object.create(prototype, fields);
         Object.defineProperty(facade, NATIVE, { value: native });
@@ -79,7 +94,7 @@ const char *const source = R"js((function (seam) {
         }
     }
 
-    function define(classId, name, operations, fieldList, takesFields) {
+    function define(classId, name, { operations, fields: fieldList, signals, takesFields }) {
         const prototype = Object.create(guard(Object.prototype, name));
         const fields = {};
         const make = function (...values) {
@@ -94,6 +109,8 @@ const char *const source = R"js((function (seam) {
             Object.defineProperty(o.isClassLevel ? make : prototype, o.name, { value: operation(o.id, o.name) });
         for (const f of fieldList)
             fields[f.name] = field(f.id, f.name, f.isObject);
+        for (const s of signals)
+            fields[s.name] = signal(s.id);
         Object.defineProperty(prototype, "toString", { value: () => "[object " + name + "]" });
         Object.defineProperty(prototype, "constructor", { value: make });
         Object.defineProperty(make, "name", { value: name });
@@ -116,7 +133,7 @@ const char *const source = R"js((function (seam) {
         Object.defineProperty(error, "name", { value: name, writable: true, configurable: true });
     }
 
-    return { define, nativeOf, setName, attach, facadeIn, ITSELF };
+    return { define, nativeOf, setName, attach, facadeIn, handler, ITSELF };
 }))js";
 
 } // namespace

@@ -70,6 +70,11 @@ QString nameOf(const ServiceClass &service)
     return QString::fromLatin1(service.entry.name);
 }
 
+Values::NullText nullTextOf(const ServiceClass &service)
+{
+    return service.entry.answersNullTexts ? Values::NullText::Null : Values::NullText::Empty;
+}
+
 } // namespace
 
 Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engine), m_values(engine)
@@ -84,7 +89,8 @@ Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engi
     m_values.facadeOfNew = [this](QObject *object) { return facadeOf(object, Owner::Scripts); };
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
     const QJSValue makeFacades = engine.evaluate(facadeSource(), facadeFileName());
-    const QJSValue facades = makeFacades.call({engine.newQObject(this)});
+    const QJSValue own = engine.newQObject(this);
+    const QJSValue facades = makeFacades.call({own});
     Q_ASSERT_X(!facades.isError(), "seam", qPrintable(facades.toString()));
     m_define = facades.property(QStringLiteral("define"));
     m_nativeOf = facades.property(QStringLiteral("nativeOf"));
@@ -92,16 +98,22 @@ Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engi
     m_attach = facades.property(QStringLiteral("attach"));
     m_facadeIn = facades.property(QStringLiteral("facadeIn"));
     m_itself = facades.property(QStringLiteral("ITSELF"));
+    m_handler = facades.property(QStringLiteral("handler"));
+    m_received = own.property(QStringLiteral("received"));
     for (ServiceEntry &entry : entries)
-        m_classes.push_back(std::make_unique<ServiceClass>(std::move(entry)));
-    for (int id = 0; id < int(m_classes.size()); ++id) {
-        m_classIds.insert(m_classes[size_t(id)]->entry.meta, id);
-        m_definitions.push_back(defineClass(id));
-    }
+        add(std::move(entry));
 }
 
 // The engine may be gone already.
 Seam::~Seam() = default;
+
+void Seam::add(ServiceEntry entry)
+{
+    const int id = int(m_classes.size());
+    m_classes.push_back(std::make_unique<ServiceClass>(std::move(entry)));
+    m_classIds.insert(m_classes.back()->entry.meta, id);
+    m_definitions.push_back(defineClass(id));
+}
 
 Seam *Seam::of(const QJSEngine *engine)
 {
@@ -138,23 +150,43 @@ QJSValue Seam::fieldTable(ServiceClass &service)
     return table;
 }
 
+QJSValue Seam::signalTable(ServiceClass &service)
+{
+    QJSValue table = m_engine.newArray(uint(service.signalList.size()));
+    for (size_t i = 0; i < service.signalList.size(); ++i) {
+        const Signal &signal = service.signalList[i];
+        QJSValue row = m_engine.newObject();
+        row.setProperty(QStringLiteral("id"), int(m_signals.size()));
+        row.setProperty(QStringLiteral("name"), QString::fromLatin1(signal.name));
+        table.setProperty(quint32(i), row);
+        m_signals.push_back({&service, &signal});
+    }
+    return table;
+}
+
 QJSValue Seam::defineClass(int classId)
 {
     ServiceClass &service = *m_classes[size_t(classId)];
-    const QJSValue operations = operationTable(service);
-    const QJSValue fields = fieldTable(service);
-    const QJSValue definition =
-        m_define.call({classId, nameOf(service), operations, fields, service.entry.takesFields});
+    QJSValue parts = m_engine.newObject();
+    parts.setProperty(QStringLiteral("operations"), operationTable(service));
+    parts.setProperty(QStringLiteral("fields"), fieldTable(service));
+    parts.setProperty(QStringLiteral("signals"), signalTable(service));
+    parts.setProperty(QStringLiteral("takesFields"), service.entry.takesFields);
+    const QJSValue definition = m_define.call({classId, nameOf(service), parts});
     Q_ASSERT_X(!definition.isError(), "seam", qPrintable(definition.toString()));
     return definition;
 }
 
-QJSValue Seam::exportsOf(const QByteArray &module) const
+QJSValue Seam::exportsOf(const QByteArray &module)
 {
     QJSValue exports = m_engine.newObject();
-    for (size_t id = 0; id < m_classes.size(); ++id)
-        if (m_classes[id]->entry.module == module)
-            exports.setProperty(nameOf(*m_classes[id]), m_definitions[id].property(QStringLiteral("make")));
+    for (size_t id = 0; id < m_classes.size(); ++id) {
+        const ServiceEntry &entry = m_classes[id]->entry;
+        if (entry.module == module)
+            exports.setProperty(nameOf(*m_classes[id]), entry.isOneObject
+                                                            ? facadeOf(entry.object, Owner::Application)
+                                                            : m_definitions[id].property(QStringLiteral("make")));
+    }
     return exports;
 }
 
@@ -218,8 +250,8 @@ QObject *Seam::objectOf(const QJSValue &value) const
 
 QJSValue Seam::shellOf(QObject *object) const
 {
-    if (QJSEngine::objectOwnership(object) != QJSEngine::CppOwnership)
-        QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
+    // Said before the engine sees it: of what nobody has spoken for the engine becomes the owner.
+    QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
     return m_engine.newQObject(object);
 }
 
@@ -266,24 +298,27 @@ QObject *Seam::target(const QVariant &native, ServiceClass &owner, const QByteAr
                                               .arg(QString::fromLatin1(member), withArticle(nameOf(owner))));
     if (!object || !object->metaObject()->inherits(owner.entry.meta))
         throw platform::Raised::typeError(
-            QStringLiteral("%1 is called on %2").arg(QString::fromLatin1(member), withArticle(nameOf(owner))));
+            QStringLiteral("%1 is called on %2")
+                .arg(QString::fromLatin1(member),
+                     owner.entry.isOneObject ? nameOf(owner) : withArticle(nameOf(owner))));
     return object;
 }
 
 QJSValue Seam::call(const QVariant &native, int operationId, const QJSValue &arguments)
 {
     return guarded([&] {
-        const auto &[owner, operation] = m_operations[size_t(operationId)];
-        if (!operation->isClassLevel)
-            return invoke(target(native, *owner, operation->name), *operation, arguments);
-        if (!owner->hidden)
-            owner->hidden.reset(owner->entry.make());
-        return invoke(owner->hidden.get(), *operation, arguments);
+        const OperationOfClass called = m_operations[size_t(operationId)];
+        if (!called.operation->isClassLevel)
+            return invoke(target(native, *called.owner, called.operation->name), called, arguments);
+        if (!called.owner->hidden)
+            called.owner->hidden.reset(called.owner->entry.make());
+        return invoke(called.owner->hidden.get(), called, arguments);
     });
 }
 
-QJSValue Seam::invoke(QObject *object, const Operation &operation, const QJSValue &arguments)
+QJSValue Seam::invoke(QObject *object, const OperationOfClass &called, const QJSValue &arguments)
 {
+    const Operation &operation = *called.operation;
     const int received = arguments.property(QStringLiteral("length")).toInt();
     const auto count = int(operation.parameters.size());
     if (received != count)
@@ -299,20 +334,20 @@ QJSValue Seam::invoke(QObject *object, const Operation &operation, const QJSValu
     QVariant result = emptyOf(operation.resultKind, operation.resultType);
     pointers[0] = operation.resultKind == Kind::Nothing ? nullptr : storage(result, operation.resultKind);
     QMetaObject::metacall(object, QMetaObject::InvokeMetaMethod, operation.methodIndex, pointers.data());
-    QJSValue answer = resultToScript(object, result, operation.resultKind);
+    QJSValue answer = resultToScript(object, result, called);
     collectAfterPixels(result, operation.resultKind);
     return answer;
 }
 
-QJSValue Seam::resultToScript(QObject *object, const QVariant &result, Kind kind)
+QJSValue Seam::resultToScript(QObject *object, const QVariant &result, const OperationOfClass &called)
 {
-    QObject *answered = kind == Kind::Object ? result.value<QObject *>() : nullptr;
+    QObject *answered = called.operation->resultKind == Kind::Object ? result.value<QObject *>() : nullptr;
     if (answered && answered == object)
         return m_itself;
     // What an operation made for the script belongs to the script.
     if (answered && !answered->parent())
         return facadeOf(answered, Owner::Scripts);
-    return m_values.toScript(result);
+    return m_values.toScript(result, nullTextOf(*called.owner));
 }
 
 void Seam::collectAfterPixels(const QVariant &value, Kind kind)
@@ -335,7 +370,7 @@ QJSValue Seam::read(const QVariant &native, int fieldId, const QJSValue &kept)
         const QObject *object = target(native, *owner, field->name);
         const QVariant value = object->metaObject()->property(field->propertyIndex).read(object);
         if (field->kind != Kind::Object) {
-            const QJSValue answer = m_values.toScript(value);
+            const QJSValue answer = m_values.toScript(value, nullTextOf(*owner));
             collectAfterPixels(value, field->kind);
             return answer;
         }
@@ -361,6 +396,34 @@ void Seam::write(const QVariant &native, int fieldId, const QJSValue &value)
         if (field->kind == Kind::Object)
             attachToShell(value);
         return QJSValue();
+    });
+}
+
+void Seam::connectTo(const QVariant &native, int signalId, const QJSValue &arguments)
+{
+    guarded([&] {
+        const auto &[owner, signal] = m_signals[size_t(signalId)];
+        QObject *object = target(native, *owner, signal->name);
+        const int received = arguments.property(QStringLiteral("length")).toInt();
+        if (received != 1)
+            throw platform::Raised::typeError(QStringLiteral("connect takes 1 argument but received %1").arg(received));
+        const QJSValue function = arguments.property(0);
+        if (!function.isCallable())
+            throw platform::Raised::typeError(QStringLiteral("Expected a function for %1 but received %2")
+                                                  .arg(QString::fromLatin1(signal->name), m_values.described(function)));
+        const QJSValue raw = shellOf(object).property(QString::fromLatin1(signal->name));
+        raw.property(QStringLiteral("connect")).callWithInstance(raw, {m_handler.call({m_received, function})});
+        return QJSValue();
+    });
+}
+
+/** What a signal tells, as an operation would answer it. */
+QJSValue Seam::received(const QJSValue &value)
+{
+    return guarded([&] {
+        if (value.isQObject())
+            return facadeOf(value.toQObject(), Owner::Application);
+        return value.isObject() ? m_values.toScript(value.toVariant(), Values::NullText::Empty) : value;
     });
 }
 

@@ -60,8 +60,11 @@ public:
     /** The seam of an engine, which must not outlive it; null for an engine without one. */
     static Seam *of(const QJSEngine *engine);
 
+    /** Adds a class, or the one object of a module. Before exportsOf() its module. */
+    void add(ServiceEntry entry);
+
     /** What `import ... from "module"` gives. */
-    QJSValue exportsOf(const QByteArray &module) const;
+    QJSValue exportsOf(const QByteArray &module);
 
     /** Who deletes an object without a parent: the scripts with their last facade of it, or the C++ that made it. */
     enum class Owner { Scripts, Application };
@@ -95,6 +98,8 @@ public:
     Q_INVOKABLE QJSValue call(const QVariant &native, int operationId, const QJSValue &arguments);
     Q_INVOKABLE QJSValue read(const QVariant &native, int fieldId, const QJSValue &kept);
     Q_INVOKABLE void write(const QVariant &native, int fieldId, const QJSValue &value);
+    Q_INVOKABLE void connectTo(const QVariant &native, int signalId, const QJSValue &arguments);
+    Q_INVOKABLE QJSValue received(const QJSValue &value);
     Q_INVOKABLE void rejectName(const QString &className, const QString &name);
     Q_INVOKABLE void rejectAssignment(const QString &className, const QString &name);
 
@@ -109,17 +114,23 @@ private:
         ServiceClass *owner;
         const Field *field;
     };
+    struct SignalOfClass
+    {
+        ServiceClass *owner;
+        const Signal *signal;
+    };
 
     QJSValue defineClass(int classId);
     QJSValue operationTable(ServiceClass &service);
     QJSValue fieldTable(ServiceClass &service);
+    QJSValue signalTable(ServiceClass &service);
     const ServiceClass *classOf(const QObject *object) const;
     std::shared_ptr<Holding> holdingOf(QObject *object) const;
     QVariant hold(QObject *object, Owner owner);
     void letGo(Holding *holding, QObject *address, Owner owner);
     QObject *target(const QVariant &native, ServiceClass &owner, const QByteArray &member) const;
-    QJSValue invoke(QObject *object, const Operation &operation, const QJSValue &arguments);
-    QJSValue resultToScript(QObject *object, const QVariant &result, Kind kind);
+    QJSValue invoke(QObject *object, const OperationOfClass &called, const QJSValue &arguments);
+    QJSValue resultToScript(QObject *object, const QVariant &result, const OperationOfClass &called);
     QJSValue shellOf(QObject *object) const;
     void attachToShell(const QJSValue &facade);
     void collectAfterPixels(const QVariant &value, Kind kind);
@@ -131,6 +142,7 @@ private:
     std::vector<std::unique_ptr<ServiceClass>> m_classes;
     std::vector<OperationOfClass> m_operations;
     std::vector<FieldOfClass> m_fields;
+    std::vector<SignalOfClass> m_signals;
     std::vector<QJSValue> m_definitions;
     QHash<const QMetaObject *, int> m_classIds;
     QHash<QObject *, std::weak_ptr<Holding>> m_held;
@@ -139,6 +151,8 @@ private:
     QJSValue m_setName;
     QJSValue m_attach;
     QJSValue m_facadeIn;
+    QJSValue m_handler;
+    QJSValue m_received;
     QJSValue m_itself;
     Location m_lastErrorLocation;
     qint64 m_pixelBytesHandedOut = 0;

@@ -40,6 +40,7 @@ void Seam::raise(const QString &name, const QString &message)
 {
     const auto type = name == QStringLiteral("TypeError")    ? QJSValue::TypeError
                       : name == QStringLiteral("RangeError") ? QJSValue::RangeError
+                      : name == QStringLiteral("ReferenceError") ? QJSValue::ReferenceError
                                                              : QJSValue::GenericError;
     QJSValue error = m_engine.newErrorObject(type, message);
     if (type == QJSValue::GenericError && name != QStringLiteral("Error"))

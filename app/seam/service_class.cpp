@@ -1,5 +1,7 @@
 #include "app/seam/service_class.h"
 
+#include "app/seam/function.h"
+
 #include "platform/foundation/flag.h"
 #include "platform/foundation/sender.h"
 #include "platform/foundation/shared_texts.h"
@@ -55,8 +57,23 @@ const QHash<int, Kind> &kindsById()
         {idOf<platform::ImageSource>(), Kind::Opaque},
         {idOf<presets::Connection>(), Kind::Opaque},
         {idOf<platform::Picture>(), Kind::Picture},
+        {idOf<QObjectList>(), Kind::ObjectList},
+        {idOf<Function>(), Kind::Function},
+        {idOf<Generator>(), Kind::Generator},
     };
     return kinds;
+}
+
+std::vector<Parameter> parametersOf(const QMetaMethod &method)
+{
+    std::vector<Parameter> parameters;
+    const QByteArrayList names = method.parameterNames();
+    for (int i = 0; i < method.parameterCount(); ++i) {
+        const QMetaType type = method.parameterMetaType(i);
+        const QByteArray name = names.at(i).isEmpty() ? "argument " + QByteArray::number(i + 1) : names.at(i);
+        parameters.push_back({name, type, kindOf(type)});
+    }
+    return parameters;
 }
 
 Operation operationOf(const QMetaMethod &method, const QByteArrayList &classOperations)
@@ -67,12 +84,7 @@ Operation operationOf(const QMetaMethod &method, const QByteArrayList &classOper
     operation.isClassLevel = classOperations.contains(operation.name);
     operation.resultType = method.returnMetaType();
     operation.resultKind = kindOf(operation.resultType);
-    const QByteArrayList names = method.parameterNames();
-    for (int i = 0; i < method.parameterCount(); ++i) {
-        const QMetaType type = method.parameterMetaType(i);
-        const QByteArray name = names.at(i).isEmpty() ? "argument " + QByteArray::number(i + 1) : names.at(i);
-        operation.parameters.push_back({name, type, kindOf(type)});
-    }
+    operation.parameters = parametersOf(method);
     return operation;
 }
 
@@ -101,6 +113,8 @@ ServiceClass::ServiceClass(ServiceEntry description) : entry(std::move(descripti
         const QMetaMethod method = meta.method(i);
         if (method.methodType() == QMetaMethod::Method && method.access() == QMetaMethod::Public)
             operations.push_back(operationOf(method, classOperations));
+        if (entry.offersSignals && method.methodType() == QMetaMethod::Signal)
+            signalList.push_back({method.name(), parametersOf(method)});
     }
     for (int i = QObject::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i)
         fields.push_back(fieldOf(meta.property(i)));

@@ -38,6 +38,9 @@ enum class Kind {
     Opaque,      ///< a bitmap handle and the like: handed on, never looked into
     Picture,     ///< platform::Picture
     Object,      ///< a pointer to a QObject: a control, or a service
+    ObjectList,  ///< QObjectList: controls or services, none of them null
+    Function,    ///< script::Function: a function of the script, or none
+    Generator,   ///< script::Generator: what a generator function returned
     Unreachable, ///< scripts have no form for this type
 };
 
@@ -69,6 +72,13 @@ struct Field
     Kind kind = Kind::Unreachable;
 };
 
+/** What an object tells whoever connects a function to it. */
+struct Signal
+{
+    QByteArray name;
+    std::vector<Parameter> parameters;
+};
+
 /**
  * One class as the application offers it to scripts.
  *
@@ -90,6 +100,14 @@ struct ServiceEntry
     bool isControl = false;
     /** Scripts can make one with new; otherwise they get such objects from operations only. */
     bool isMadeByScripts = true;
+    /** The module exports one object, under the name of the entry, in place of the class. */
+    bool isOneObject = false;
+    /** That object; it must outlive the engine. */
+    QObject *object = nullptr;
+    /** Its signals are fields to which scripts connect functions. */
+    bool offersSignals = false;
+    /** Whether a text that it answers may be nothing; otherwise it is empty then. */
+    bool answersNullTexts = true;
 };
 
 /** The entry of a class with a default constructor, under its own name without namespaces. */
@@ -97,6 +115,32 @@ template<typename T> ServiceEntry serviceEntry(const char *module = "quorlin", b
 {
     const QByteArray name = T::staticMetaObject.className();
     return {name.mid(name.lastIndexOf(':') + 1), &T::staticMetaObject, [] { return new T; }, module, takesFields};
+}
+
+/**
+ * The entry of a class that scripts do not make and whose signals they hear, with texts that are never nothing: one that belongs
+ * to the windows and to the work of jobs, whose classes have no names of their own in the contract of the services.
+ */
+template<typename T> ServiceEntry givenEntry(const char *module)
+{
+    const QByteArray name = T::staticMetaObject.className();
+    ServiceEntry entry;
+    entry.name = name.mid(name.lastIndexOf(':') + 1);
+    entry.meta = &T::staticMetaObject;
+    entry.module = module;
+    entry.isMadeByScripts = false;
+    entry.offersSignals = true;
+    entry.answersNullTexts = false;
+    return entry;
+}
+
+/** The same for the one object @p name of a module. */
+template<typename T> ServiceEntry oneObject(const char *module, const char *name)
+{
+    ServiceEntry entry = givenEntry<T>(module);
+    entry.name = name;
+    entry.isOneObject = true;
+    return entry;
 }
 
 /** What the meta-object of an entry says, looked up once. */
@@ -107,6 +151,7 @@ struct ServiceClass
     ServiceEntry entry;
     std::vector<Operation> operations;
     std::vector<Field> fields;
+    std::vector<Signal> signalList; ///< empty where none are offered
     /** The object that class-level operations run on; made at the first call. */
     std::unique_ptr<QObject> hidden;
 };

@@ -1,5 +1,6 @@
 #include "app/seam/values.h"
 
+#include "app/seam/function.h"
 #include "app/seam/picture_object.h"
 
 #include "platform/foundation/flag.h"
@@ -24,8 +25,11 @@ namespace {
 /** Deeper nesting than any real settings have; a list that holds itself ends here. */
 constexpr int deepestNesting = 64;
 
-/** Lists that hold one list twice, which holds another one twice and so on, are more than memory holds after a few levels. */
-constexpr qint64 mostValues = 1'000'000;
+/**
+ * Lists that hold one list twice, which holds another one twice and so on, are more than memory holds after a few levels. A run over
+ * half a million files is less than this.
+ */
+constexpr qint64 mostValues = 3'000'000;
 
 /** So much of a name of many levels is put into a sentence. */
 constexpr qsizetype longestName = 120;
@@ -143,6 +147,12 @@ QVariant Values::otherToNative(const QJSValue &value, Kind kind, QMetaType type,
         return pictureToNative(value, name);
     case Kind::Object:
         return objectToNative(value, type, name);
+    case Kind::ObjectList:
+        return objectListToNative(value, name);
+    case Kind::Function:
+        return functionToNative(value, name);
+    case Kind::Generator:
+        return generatorToNative(value, name);
     default:
         break;
     }
@@ -331,6 +341,35 @@ QVariant Values::objectToNative(const QJSValue &value, QMetaType type, const QSt
     if (!value.isNull() && !isTaken)
         reject(wordsForObject(type), name, value);
     return QVariant(type, &object);
+}
+
+QVariant Values::objectListToNative(const QJSValue &value, const QString &name) const
+{
+    if (!value.isArray())
+        reject(QStringLiteral("a list of objects"), name, value);
+    const quint32 length = value.property(QStringLiteral("length")).toUInt();
+    QObjectList list;
+    for (quint32 i = 0; i < length; ++i) {
+        QObject *object = objectOf(value.property(i));
+        if (!object)
+            reject(QStringLiteral("a control or a service"), QStringLiteral("%1[%2]").arg(name).arg(i), value.property(i));
+        list.append(object);
+    }
+    return QVariant::fromValue(list);
+}
+
+QVariant Values::functionToNative(const QJSValue &value, const QString &name) const
+{
+    if (!value.isCallable() && !value.isNull())
+        reject(QStringLiteral("a function or null"), name, value);
+    return QVariant::fromValue(value.isNull() ? Function() : Function(value, *this));
+}
+
+QVariant Values::generatorToNative(const QJSValue &value, const QString &name) const
+{
+    if (!value.property(QStringLiteral("next")).isCallable())
+        reject(QStringLiteral("a generator"), name, value);
+    return QVariant::fromValue(Generator{value, &m_engine});
 }
 
 QStringList Values::keysOf(const QJSValue &value, const QString &name) const

@@ -52,8 +52,11 @@ public:
     /** The same, but null is refused. */
     QVariant setting(const QJSValue &value, const QString &name) const;
 
+    /** What a text that is nothing is in scripts. */
+    enum class NullText { Null, Empty };
+
     /** A service's value as scripts see it: null for what is nothing. */
-    QJSValue toScript(const QVariant &value) const;
+    QJSValue toScript(const QVariant &value, NullText nullText = NullText::Null) const;
 
     /** A value in words: "abc" in quotation marks, numbers as they are, "a list" ... */
     QString described(const QJSValue &value) const;
@@ -76,6 +79,9 @@ private:
     QVariant opaqueToNative(const QJSValue &value, QMetaType type, const QString &name) const;
     QVariant pictureToNative(const QJSValue &value, const QString &name) const;
     QVariant objectToNative(const QJSValue &value, QMetaType type, const QString &name) const;
+    QVariant objectListToNative(const QJSValue &value, const QString &name) const;
+    QVariant functionToNative(const QJSValue &value, const QString &name) const;
+    QVariant generatorToNative(const QJSValue &value, const QString &name) const;
     QList<double> numbersOf(const QJSValue &value, const QStringList &keys, const QString &shape,
                             const QString &name) const;
     bool isData(const QJSValue &value) const;
@@ -83,10 +89,10 @@ private:
 
     QJSValue otherToScript(const QVariant &value, Kind kind) const;
     QJSValue numbersToScript(const QStringList &keys, const QList<double> &numbers) const;
-    QJSValue listToScript(const QVariantList &list) const;
+    QJSValue listToScript(const QVariantList &list, NullText nullText) const;
     QJSValue sharedTextsToScript(platform::SharedTexts texts) const;
-    QJSValue textListToScript(const QStringList &list) const;
-    QJSValue dictionaryToScript(const QVariantMap &map) const;
+    QJSValue textListToScript(const QStringList &list, NullText nullText) const;
+    QJSValue dictionaryToScript(const QVariantMap &map, NullText nullText) const;
     void setKey(QJSValue &object, const QString &key, const QJSValue &value) const;
 
     QJSEngine &m_engine;

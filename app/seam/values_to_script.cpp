@@ -20,6 +20,11 @@ QJSValue nothing()
     return QJSValue(QJSValue::NullValue);
 }
 
+QJSValue textToScript(const QString &text, Values::NullText nullText)
+{
+    return text.isNull() && nullText == Values::NullText::Null ? nothing() : QJSValue(text);
+}
+
 template<typename T> bool isNull(const QVariant &value)
 {
     return value.metaType() == QMetaType::fromType<T>() && value.value<T>().isNull();
@@ -33,14 +38,12 @@ bool isNullOpaque(const QVariant &value)
 
 } // namespace
 
-QJSValue Values::toScript(const QVariant &value) const
+QJSValue Values::toScript(const QVariant &value, NullText nullText) const
 {
     const Kind kind = kindOf(value.metaType());
     switch (kind) {
-    case Kind::Text: {
-        const QString text = value.toString();
-        return text.isNull() ? nothing() : QJSValue(text);
-    }
+    case Kind::Text:
+        return textToScript(value.toString(), nullText);
     case Kind::Whole:
         return QJSValue(value.toInt());
     case Kind::Unsigned:
@@ -53,11 +56,11 @@ QJSValue Values::toScript(const QVariant &value) const
     case Kind::Flag:
         return QJSValue(value.value<platform::Flag>().on);
     case Kind::Dictionary:
-        return dictionaryToScript(value.toMap());
+        return dictionaryToScript(value.toMap(), nullText);
     case Kind::List:
-        return listToScript(value.toList());
+        return listToScript(value.toList(), nullText);
     case Kind::TextList:
-        return textListToScript(value.toStringList());
+        return textListToScript(value.toStringList(), nullText);
     default:
         return otherToScript(value, kind);
     }
@@ -118,19 +121,19 @@ QJSValue Values::numbersToScript(const QStringList &keys, const QList<double> &n
     return object;
 }
 
-QJSValue Values::listToScript(const QVariantList &list) const
+QJSValue Values::listToScript(const QVariantList &list, NullText nullText) const
 {
     QJSValue array = m_engine.newArray(uint(list.size()));
     for (qsizetype i = 0; i < list.size(); ++i)
-        array.setProperty(quint32(i), toScript(list.at(i)));
+        array.setProperty(quint32(i), toScript(list.at(i), nullText));
     return array;
 }
 
-QJSValue Values::textListToScript(const QStringList &list) const
+QJSValue Values::textListToScript(const QStringList &list, NullText nullText) const
 {
     QJSValue array = m_engine.newArray(uint(list.size()));
     for (qsizetype i = 0; i < list.size(); ++i)
-        array.setProperty(quint32(i), list.at(i).isNull() ? nothing() : QJSValue(list.at(i)));
+        array.setProperty(quint32(i), textToScript(list.at(i), nullText));
     return array;
 }
 
@@ -139,7 +142,7 @@ QJSValue Values::sharedTextsToScript(platform::SharedTexts texts) const
     if (texts.isNull())
         return nothing();
     if (!texts.form().isValid()) {
-        QJSValue array = textListToScript(texts.texts());
+        QJSValue array = textListToScript(texts.texts(), NullText::Null);
         texts.setForm(QVariant::fromValue(array),
                       [array]() mutable { array.setProperty(QStringLiteral("length"), 0); });
     }
@@ -155,11 +158,11 @@ void Values::setKey(QJSValue &object, const QString &key, const QJSValue &value)
         object.setProperty(key, value);
 }
 
-QJSValue Values::dictionaryToScript(const QVariantMap &map) const
+QJSValue Values::dictionaryToScript(const QVariantMap &map, NullText nullText) const
 {
     QJSValue object = m_engine.newObject();
     for (auto entry = map.begin(); entry != map.end(); ++entry)
-        setKey(object, entry.key(), toScript(entry.value()));
+        setKey(object, entry.key(), toScript(entry.value(), nullText));
     return object;
 }
 

@@ -23,6 +23,10 @@ public:
     }
     /** An index, range or size outside what the operation allows. */
     static Raised rangeError(const QString &message) { return Raised(QStringLiteral("RangeError"), message); }
+    /** A name that nothing has. */
+    static Raised referenceError(const QString &message) { return Raised(QStringLiteral("ReferenceError"), message); }
+    /** Anything else that a script is to stop at. */
+    static Raised error(const QString &message) { return Raised(QStringLiteral("Error"), message); }
     /** An argument of the wrong type, or a list of the wrong length. */
     static Raised typeError(const QString &message) { return Raised(QStringLiteral("TypeError"), message); }
 

@@ -158,7 +158,7 @@ void TestSeamFiles::changesPropertyLists_data()
         "received a function");
     row("(() => { let a = []; for (let i = 0; i < 60; ++i) a = [a, a]; f.writeToPlist('FOLDER/a.plist', 'key', a); "
         "})()",
-        "TypeError: value holds more than 1000000 values");
+        "TypeError: value holds more than 3000000 values");
     row("(plist('<true/>'), f.writeToPlist('FOLDER/a.plist', 'key', JSON.parse('{\"__proto__\": {\"a\": 1}, \"b\": "
         "2}')), "
         "Object.keys(f.readPlist('FOLDER/a.plist', 'key')).concat(f.readPlist('FOLDER/a.plist', 'key').a === "
