@@ -18,14 +18,11 @@ void reportError(const QJSValue &error)
              error.property(QStringLiteral("lineNumber")).toInt(), qUtf8Printable(error.toString()));
 }
 
-QJSValue call(const QJSValue &function, const QJSValueList &arguments)
+void call(const script::Function &function, const QJSValueList &arguments)
 {
-    if (!function.isCallable())
-        return {};
-    const QJSValue result = function.call(arguments);
+    const QJSValue result = function.callWith(arguments);
     if (result.isError())
         reportError(result);
-    return result;
 }
 
 } // namespace
@@ -36,13 +33,8 @@ JobDriver::JobDriver(QObject *parent) : QObject(parent)
     connect(&m_timer, &QTimer::timeout, this, &JobDriver::slice);
 }
 
-void JobDriver::start(const QJSValue &generator, const QJSValue &onStep, const QJSValue &onEnd)
+void JobDriver::start(const script::Generator &generator, const script::Function &onStep, const script::Function &onEnd)
 {
-    if (!generator.property(QStringLiteral("next")).isCallable()) {
-        if (QJSEngine *engine = qjsEngine(this))
-            engine->throwError(QJSValue::TypeError, QStringLiteral("A job is started with a generator"));
-        return;
-    }
     if (isRunning())
         cancel();
     m_generator = generator;
@@ -75,7 +67,7 @@ void JobDriver::cancel()
         return;
     }
     m_timer.stop();
-    const QJSValue result = m_generator.property(QStringLiteral("return")).callWithInstance(m_generator);
+    const QJSValue result = m_generator.object.property(QStringLiteral("return")).callWithInstance(m_generator.object);
     if (result.isError())
         finish(QStringLiteral("failed"), result);
     else
@@ -97,10 +89,10 @@ void JobDriver::slice()
 /** What next() answers; an error where that is no step, since what never says that it is done would never end. */
 QJSValue JobDriver::nextStep()
 {
-    const QJSValue result = m_generator.property(QStringLiteral("next")).callWithInstance(m_generator);
-    QJSEngine *engine = result.isObject() ? nullptr : qjsEngine(this);
-    return engine ? engine->newErrorObject(QJSValue::TypeError, QStringLiteral("A step of a job is an object"))
-                  : result;
+    const QJSValue result = m_generator.object.property(QStringLiteral("next")).callWithInstance(m_generator.object);
+    return result.isObject() ? result
+                             : m_generator.engine->newErrorObject(QJSValue::TypeError,
+                                                                  QStringLiteral("A step of a job is an object"));
 }
 
 // One step of the generator; true if there is another one to come.
@@ -128,13 +120,13 @@ void JobDriver::finish(const QString &how, const QJSValue &value)
     m_timer.stop();
     m_generator = {};
     m_onStep = {};
-    const QJSValue onEnd = std::exchange(m_onEnd, {});
+    const script::Function onEnd = std::exchange(m_onEnd, {});
     if (value.isError())
         reportError(value);
     call(onEnd, {how, value});
 }
 
-ScriptTimer::ScriptTimer(const QJSValue &function, QObject *parent) : QObject(parent), m_function(function)
+ScriptTimer::ScriptTimer(script::Function function, QObject *parent) : QObject(parent), m_function(std::move(function))
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, [this] { call(m_function, {}); });

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/seam/function.h"
+
 #include <QJSValue>
 #include <QObject>
 #include <QTimer>
@@ -22,17 +24,18 @@ class JobDriver : public QObject
 public:
     explicit JobDriver(QObject *parent);
 
-    bool isRunning() const { return !m_generator.isUndefined(); }
+    bool isRunning() const { return !m_generator.object.isUndefined(); }
     bool isPaused() const { return m_paused; }
 
     /**
      * Starts; a job that runs is cancelled first.
      *
-     * @param generator  what a generator function returned; anything else is a TypeError
+     * @param generator  what a generator function returned
      * @param onStep     function(value), called with each value that was yielded
      * @param onEnd      function(how, value): "done" with the returned value, "cancelled", or "failed" with the error
      */
-    Q_INVOKABLE void start(const QJSValue &generator, const QJSValue &onStep, const QJSValue &onEnd);
+    Q_INVOKABLE void start(const script::Generator &generator, const script::Function &onStep,
+                           const script::Function &onEnd);
     Q_INVOKABLE void pause();
     Q_INVOKABLE void resume();
     /** Stops after the current step: calls the generator's return(), so that its finally blocks run. */
@@ -45,9 +48,9 @@ private:
     void finish(const QString &how, const QJSValue &value);
 
     QTimer m_timer;
-    QJSValue m_generator;
-    QJSValue m_onStep;
-    QJSValue m_onEnd;
+    script::Generator m_generator;
+    script::Function m_onStep;
+    script::Function m_onEnd;
     bool m_paused = false;
     bool m_inStep = false;
     bool m_cancelWanted = false;
@@ -59,14 +62,14 @@ class ScriptTimer : public QObject
     Q_OBJECT
 
 public:
-    ScriptTimer(const QJSValue &function, QObject *parent);
+    ScriptTimer(script::Function function, QObject *parent);
 
     Q_INVOKABLE void start(int ms) { m_timer.start(ms); }
     Q_INVOKABLE void stop() { m_timer.stop(); }
 
 private:
     QTimer m_timer;
-    QJSValue m_function;
+    script::Function m_function;
 };
 
 } // namespace window

@@ -75,6 +75,12 @@ Values::NullText nullTextOf(const ServiceClass &service)
     return service.entry.answersNullTexts ? Values::NullText::Null : Values::NullText::Empty;
 }
 
+/** Said before the engine sees an object: what nobody has spoken for it takes, and deletes. */
+void keepFromEngine(QObject *object)
+{
+    QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
+}
+
 } // namespace
 
 Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engine), m_values(engine)
@@ -212,6 +218,8 @@ QVariant Seam::hold(QObject *object, Owner owner)
         const auto release = [this, object, owner](Holding *held) { letGo(held, object, owner); };
         holding = std::shared_ptr<Holding>(new Holding{object}, release);
         m_held.insert(object, holding);
+        if (owner == Owner::Application)
+            keepFromEngine(object);
     }
     return QVariant::fromValue(Native{holding});
 }
@@ -229,8 +237,10 @@ void Seam::letGo(Holding *holding, QObject *address, Owner owner)
 QJSValue Seam::facadeOf(QObject *object, Owner owner)
 {
     const ServiceClass *service = classOf(object);
-    if (!service)
+    if (!service) {
+        keepFromEngine(object);
         return shellOf(object);
+    }
     if (const auto holding = holdingOf(object); holding && holding->isAttached)
         if (const QJSValue facade = m_facadeIn.call({shellOf(object)}); facade.isObject())
             return facade;
@@ -250,8 +260,8 @@ QObject *Seam::objectOf(const QJSValue &value) const
 
 QJSValue Seam::shellOf(QObject *object) const
 {
-    // Said before the engine sees it: of what nobody has spoken for the engine becomes the owner.
-    QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
+    if (QJSEngine::objectOwnership(object) != QJSEngine::CppOwnership)
+        QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
     return m_engine.newQObject(object);
 }
 
@@ -297,10 +307,10 @@ QObject *Seam::target(const QVariant &native, ServiceClass &owner, const QByteAr
         throw platform::Raised::typeError(QStringLiteral("%1 is called on %2 that is gone")
                                               .arg(QString::fromLatin1(member), withArticle(nameOf(owner))));
     if (!object || !object->metaObject()->inherits(owner.entry.meta))
-        throw platform::Raised::typeError(
-            QStringLiteral("%1 is called on %2")
-                .arg(QString::fromLatin1(member),
-                     owner.entry.isOneObject ? nameOf(owner) : withArticle(nameOf(owner))));
+        throw platform::Raised::typeError(QStringLiteral("%1 is called on %2")
+                                              .arg(QString::fromLatin1(member), owner.entry.isOneObject
+                                                                                    ? nameOf(owner)
+                                                                                    : withArticle(nameOf(owner))));
     return object;
 }
 
@@ -409,8 +419,9 @@ void Seam::connectTo(const QVariant &native, int signalId, const QJSValue &argum
             throw platform::Raised::typeError(QStringLiteral("connect takes 1 argument but received %1").arg(received));
         const QJSValue function = arguments.property(0);
         if (!function.isCallable())
-            throw platform::Raised::typeError(QStringLiteral("Expected a function for %1 but received %2")
-                                                  .arg(QString::fromLatin1(signal->name), m_values.described(function)));
+            throw platform::Raised::typeError(
+                QStringLiteral("Expected a function for %1 but received %2")
+                    .arg(QString::fromLatin1(signal->name), m_values.described(function)));
         const QJSValue raw = shellOf(object).property(QString::fromLatin1(signal->name));
         raw.property(QStringLiteral("connect")).callWithInstance(raw, {m_handler.call({m_received, function})});
         return QJSValue();

@@ -38,10 +38,10 @@ void Seam::rejectAssignment(const QString &className, const QString &name)
 
 void Seam::raise(const QString &name, const QString &message)
 {
-    const auto type = name == QStringLiteral("TypeError")    ? QJSValue::TypeError
-                      : name == QStringLiteral("RangeError") ? QJSValue::RangeError
+    const auto type = name == QStringLiteral("TypeError")        ? QJSValue::TypeError
+                      : name == QStringLiteral("RangeError")     ? QJSValue::RangeError
                       : name == QStringLiteral("ReferenceError") ? QJSValue::ReferenceError
-                                                             : QJSValue::GenericError;
+                                                                 : QJSValue::GenericError;
     QJSValue error = m_engine.newErrorObject(type, message);
     if (type == QJSValue::GenericError && name != QStringLiteral("Error"))
         m_setName.call({error, name});

@@ -206,7 +206,7 @@ QVariant Values::nestedToNative(const QJSValue &value, const QString &name, int 
         return scalarToNative(value, name);
     if (value.isBool())
         return value.toBool();
-    if (value.isArray())
+    if (isList(value))
         return listToNative(value, name, depth);
     if (isPlainObject(value))
         return dictionaryToNative(value, name, depth);
@@ -229,7 +229,7 @@ QVariantMap Values::dictionaryToNative(const QJSValue &value, const QString &nam
 
 QVariantList Values::listToNative(const QJSValue &value, const QString &name, int depth) const
 {
-    if (!value.isArray())
+    if (!isList(value))
         reject(QStringLiteral("a list"), name, value);
     const quint32 length = value.property(QStringLiteral("length")).toUInt();
     QVariantList list;
@@ -241,7 +241,7 @@ QVariantList Values::listToNative(const QJSValue &value, const QString &name, in
 
 QStringList Values::textListToNative(const QJSValue &value, const QString &name) const
 {
-    if (!value.isArray())
+    if (!isList(value))
         reject(QStringLiteral("a list of texts"), name, value);
     const quint32 length = value.property(QStringLiteral("length")).toUInt();
     QStringList list;
@@ -352,7 +352,8 @@ QVariant Values::objectListToNative(const QJSValue &value, const QString &name) 
     for (quint32 i = 0; i < length; ++i) {
         QObject *object = objectOf(value.property(i));
         if (!object)
-            reject(QStringLiteral("a control or a service"), QStringLiteral("%1[%2]").arg(name).arg(i), value.property(i));
+            reject(QStringLiteral("a control or a service"), QStringLiteral("%1[%2]").arg(name).arg(i),
+                   value.property(i));
         list.append(object);
     }
     return QVariant::fromValue(list);
@@ -401,6 +402,15 @@ bool Values::isPlainObject(const QJSValue &value) const
         return false;
     const QJSValue prototype = value.prototype();
     return prototype.isNull() || prototype.strictlyEquals(m_objectPrototype);
+}
+
+/** Controls answer and tell lists of texts in a form of the engine's own, which is no array to it. */
+bool Values::isList(const QJSValue &value) const
+{
+    if (value.isArray())
+        return true;
+    const bool isCounted = value.isObject() && value.property(QStringLiteral("length")).isNumber();
+    return isCounted && value.toVariant().typeId() == QMetaType::QStringList;
 }
 
 bool Values::isData(const QJSValue &value) const

@@ -84,6 +84,7 @@ private:
     QVariant generatorToNative(const QJSValue &value, const QString &name) const;
     QList<double> numbersOf(const QJSValue &value, const QStringList &keys, const QString &shape,
                             const QString &name) const;
+    bool isList(const QJSValue &value) const;
     bool isData(const QJSValue &value) const;
     [[noreturn]] void reject(const QString &expected, const QString &name, const QJSValue &value) const;
 

@@ -10,6 +10,7 @@
 #include "platform/file/atomic_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/foundation/human_texts.h"
+#include "platform/foundation/raised.h"
 #include "platform/imageio/comments/user_comment_writer.h"
 #include "platform/imageio/exif/orientation_mark.h"
 #include "platform/imageio/jpeg/jpeg_header.h"
@@ -22,6 +23,8 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QStandardPaths>
+
+#include <cmath>
 
 namespace window {
 
@@ -144,6 +147,9 @@ void FileDesk::sweep(const QString &folder) const
 
 QVariantMap FileDesk::place(const QString &from, const QString &to, const QString &replaced) const
 {
+    if (!replaced.isEmpty() && !platform::isIdentity(replaced))
+        throw platform::Raised::typeError(
+            QStringLiteral("Expected an identity or empty text for replaced but received \"%1\"").arg(replaced));
     const PlaceResult result = replaced.isEmpty() ? placeFile(from, to) : placeFileInsteadOf(from, to, replaced);
     const QString status = result.outcome == PlaceOutcome::Placed  ? QStringLiteral("OK")
                            : result.outcome == PlaceOutcome::Taken ? QStringLiteral("Taken")
@@ -247,15 +253,6 @@ QString FileDesk::writeText(const QString &path, const QString &text) const
     return written ? QString() : written.error().message;
 }
 
-QString FileDesk::appendText(const QString &path, const QString &text) const
-{
-    QFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    if (file.open(QIODevice::WriteOnly | QIODevice::Append) && file.write(bytes) == bytes.size() && file.flush())
-        return {};
-    return QStringLiteral("%1: %2").arg(path, file.errorString());
-}
-
 QString FileDesk::appendLines(const QString &path, const QString &lines) const
 {
     const auto added = window::appendLines(path, lines.toUtf8());
@@ -281,6 +278,10 @@ QString FileDesk::setAsideUnusableDatabase(const QString &path) const
 
 QString FileDesk::byteText(double bytes) const
 {
+    constexpr double mostBytes = 9007199254740992.0;
+    if (!(std::abs(bytes) <= mostBytes))
+        throw platform::Raised::typeError(
+            QStringLiteral("Expected a number of bytes for bytes but received %1").arg(bytes));
     return platform::localByteCountText(qint64(bytes));
 }
 

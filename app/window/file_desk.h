@@ -106,7 +106,6 @@ public:
     Q_INVOKABLE bool holdsComment(const QString &path) const;
 
     Q_INVOKABLE QString writeText(const QString &path, const QString &text) const;
-    Q_INVOKABLE QString appendText(const QString &path, const QString &text) const;
     /** Adds lines, each ending in a line feed; see window::appendLines(). */
     Q_INVOKABLE QString appendLines(const QString &path, const QString &lines) const;
     /** See window::keepNewestLines(). */

@@ -16,7 +16,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QJSEngine>
 #include <QVersionNumber>
 
 namespace window {
@@ -48,11 +47,6 @@ app::VersionAnswer answerTo(const platform::Result<QString> &text, int build)
     } catch (const platform::Raised &raised) {
         return {std::nullopt, raised.message()};
     }
-}
-
-QJSValue textsOrNull(QJSEngine &engine, const std::optional<QStringList> &texts)
-{
-    return texts ? engine.toScriptValue(*texts) : QJSValue(QJSValue::NullValue);
 }
 
 QVariantMap described(const platform::Library &library)
@@ -101,15 +95,14 @@ QString ProgramDesk::manual() const
     return QFileInfo::exists(path + QStringLiteral("/index.md")) ? path : QString();
 }
 
-void ProgramDesk::lookForUpdate(const QJSValue &taken)
+void ProgramDesk::lookForUpdate(const script::Function &taken)
 {
     app::downloadText(app::versionFileAddress(), this, [this, taken](const platform::Result<QString> &text) {
-        QJSEngine *engine = qjsEngine(this);
-        if (!engine || !taken.isCallable())
+        if (!taken.isCallable())
             return;
         const app::VersionAnswer answer = answerTo(text, build());
-        const QJSValue problem = answer.problem.isNull() ? QJSValue(QJSValue::NullValue) : QJSValue(answer.problem);
-        const QJSValue result = taken.call({textsOrNull(*engine, answer.fields), problem});
+        const QJSValue result =
+            taken.call({answer.fields ? QVariant(*answer.fields) : QVariant(), QVariant(answer.problem)});
         if (result.isError())
             platform::logLine(result.toString());
     });

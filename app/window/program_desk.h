@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QJSValue>
+#include "app/seam/function.h"
+
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
@@ -39,7 +40,7 @@ public:
      * Asks in the background whether there is a newer build, and calls @p taken(fields, problem) from the event loop: the
      * fields of cAppUpdater.getAppVersion() or null, and a sentence where nobody knows, or null.
      */
-    Q_INVOKABLE void lookForUpdate(const QJSValue &taken);
+    Q_INVOKABLE void lookForUpdate(const script::Function &taken);
 
     /** Shows the print panel and prints each picture on a page of its own, fitted and in the middle, without margins. */
     Q_INVOKABLE void print(const QStringList &paths);

@@ -7,33 +7,67 @@
 #include "app/window/program_desk.h"
 #include "app/window/shell.h"
 
-#include <QQmlEngine>
-
 namespace window {
 
 namespace {
 
-void addObject(script::ScriptEngine &scripts, const QString &module, const QString &name, QObject *object)
+using script::ServiceEntry;
+
+const char *const shellModule = "quorlin/shell";
+
+/** A window with sheets is what the outlets of services take for one. */
+ServiceEntry sheetHosts()
 {
-    QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
-    QJSValue exports = scripts.engine().newObject();
-    exports.setProperty(name, scripts.engine().newQObject(object));
-    scripts.registerModule(module, exports);
+    ServiceEntry entry = script::givenEntry<SheetHost>(shellModule);
+    entry.isControl = true;
+    return entry;
+}
+
+void offer(script::ScriptEngine &scripts, const std::vector<ServiceEntry> &services, const QByteArray &module,
+           QObject *object)
+{
+    std::vector<ServiceEntry> ofModule;
+    for (const ServiceEntry &entry : services) {
+        if (entry.module != module)
+            continue;
+        ofModule.push_back(entry);
+        if (entry.isOneObject)
+            ofModule.back().object = object;
+    }
+    scripts.registerServices(module, ofModule);
 }
 
 } // namespace
 
+std::vector<ServiceEntry> fileServices()
+{
+    return {script::oneObject<FileDesk>("quorlin/files", "files"),
+            script::oneObject<MoveDesk>("quorlin/moves", "moves"),
+            script::oneObject<PictureDesk>("quorlin/pictures", "pictures")};
+}
+
+std::vector<ServiceEntry> windowServices()
+{
+    return {script::oneObject<Shell>(shellModule, "shell"),
+            script::givenEntry<Form>(shellModule),
+            script::givenEntry<JobDriver>(shellModule),
+            script::givenEntry<ScriptTimer>(shellModule),
+            script::givenEntry<Theme>(shellModule),
+            sheetHosts(),
+            script::oneObject<ProgramDesk>("quorlin/program", "program")};
+}
+
 void addFilesModule(script::ScriptEngine &scripts)
 {
-    addObject(scripts, QStringLiteral("quorlin/files"), QStringLiteral("files"), new FileDesk(&scripts));
-    addObject(scripts, QStringLiteral("quorlin/moves"), QStringLiteral("moves"), new MoveDesk(&scripts));
-    addObject(scripts, QStringLiteral("quorlin/pictures"), QStringLiteral("pictures"), new PictureDesk(&scripts));
+    offer(scripts, fileServices(), "quorlin/files", new FileDesk(&scripts));
+    offer(scripts, fileServices(), "quorlin/moves", new MoveDesk(&scripts));
+    offer(scripts, fileServices(), "quorlin/pictures", new PictureDesk(&scripts));
 }
 
 void addShellModule(script::ScriptEngine &scripts, Shell &shell)
 {
-    addObject(scripts, QStringLiteral("quorlin/shell"), QStringLiteral("shell"), &shell);
-    addObject(scripts, QStringLiteral("quorlin/program"), QStringLiteral("program"), new ProgramDesk(&scripts));
+    offer(scripts, windowServices(), shellModule, &shell);
+    offer(scripts, windowServices(), "quorlin/program", new ProgramDesk(&scripts));
 }
 
 } // namespace window

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/seam/service_class.h"
+
 namespace script {
 class ScriptEngine;
 }
@@ -8,13 +10,16 @@ namespace window {
 
 class Shell;
 
-/**
- * Adds the modules "quorlin/files" with the object files, a FileDesk, "quorlin/moves" with the object moves, a MoveDesk, and
- * "quorlin/pictures" with the object pictures, a PictureDesk. They need no window.
- */
+/** The services of the modules "quorlin/files", "quorlin/moves" and "quorlin/pictures", without their objects. */
+std::vector<script::ServiceEntry> fileServices();
+
+/** The services of the modules "quorlin/shell" and "quorlin/program", and the classes of what they hand out. */
+std::vector<script::ServiceEntry> windowServices();
+
+/** Adds the modules of fileServices(). They need no window. */
 void addFilesModule(script::ScriptEngine &scripts);
 
-/** Adds the modules "quorlin/shell" with the object shell and "quorlin/program" with the object program, a ProgramDesk. */
+/** Adds the modules of windowServices(). */
 void addShellModule(script::ScriptEngine &scripts, Shell &shell);
 
 } // namespace window

@@ -9,6 +9,7 @@
 
 #include "platform/controls/panels.h"
 #include "platform/desktop/user_defaults.h"
+#include "platform/foundation/raised.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,7 +17,6 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QFileInfo>
-#include <QJSEngine>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -31,14 +31,6 @@ namespace {
 
 const QVariant nothing = QVariant::fromValue(nullptr);
 
-// The collector must not take an object that a window or the shell owns.
-template<typename T> T *owned(T *object)
-{
-    if (object)
-        QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
-    return object;
-}
-
 QVariant firstPath(const platform::PanelRequest &request)
 {
     const platform::PanelAnswer answer = platform::runPanel(request);
@@ -50,7 +42,6 @@ QVariant firstPath(const platform::PanelRequest &request)
 Shell::Shell(const QString &interfaceFolder, Theme &theme, QObject *parent)
     : QObject(parent), m_folder(interfaceFolder), m_theme(theme)
 {
-    owned(&theme);
     // Some settings are set while windows close: scripts hear of it when that is done.
     platform::tellOfUnkeptUserDefaults([this] { QTimer::singleShot(0, this, &Shell::settingsNotKept); });
 }
@@ -65,44 +56,40 @@ bool Shell::keepsSettings() const
     return platform::areUserDefaultsKept();
 }
 
-QObject *Shell::loadForm(const QString &file)
+Form *Shell::loadForm(const QString &file)
 {
     QString problem;
     Form *form = Form::load(m_folder + QLatin1Char('/') + file, nullptr, this, &problem);
     if (!form)
-        if (QJSEngine *engine = qjsEngine(this))
-            engine->throwError(QJSValue::GenericError, problem);
-    if (form)
-        m_windows.append(form->root());
-    return owned(form);
+        throw platform::Raised::error(problem);
+    m_windows.append(form->root());
+    return form;
 }
 
-void Shell::alignFields(const QVariantList &forms)
+void Shell::alignFields(const QObjectList &forms)
 {
     QList<Form *> all;
-    for (const QVariant &form : forms)
-        if (auto *found = qobject_cast<Form *>(form.value<QObject *>()))
+    for (QObject *form : forms)
+        if (auto *found = qobject_cast<Form *>(form))
             all.append(found);
     Form::alignFields(all);
 }
 
-QObject *Shell::dropTarget(QObject *form)
+QObject *Shell::dropTarget(Form *form)
 {
-    const auto *window = qobject_cast<Form *>(form);
-    return window && window->root() ? owned(new DropTarget(window->root())) : nullptr;
+    return form && form->root() ? new DropTarget(form->root()) : nullptr;
 }
 
-QObject *Shell::largePreview(QObject *form)
+QObject *Shell::largePreview(Form *form)
 {
-    const auto *window = qobject_cast<Form *>(form);
-    if (!window || !window->root())
+    if (!form || !form->root())
         return nullptr;
-    auto *preview = new ComparePreview(window->root());
+    auto *preview = new ComparePreview(form->root());
     preview->setObjectName(QStringLiteral("largePreview"));
     preview->setShowsResult(false);
     preview->coverParent();
     preview->hide();
-    return owned(preview);
+    return preview;
 }
 
 void Shell::cover(QObject *object)
@@ -116,20 +103,19 @@ void Shell::cover(QObject *object)
     widget->setFocus(Qt::OtherFocusReason);
 }
 
-QObject *Shell::sheetHost(QObject *form)
+SheetHost *Shell::sheetHost(Form *form)
 {
-    const auto *window = qobject_cast<Form *>(form);
-    return window && window->root() ? owned(new SheetHost(*window->root())) : nullptr;
+    return form && form->root() ? new SheetHost(*form->root()) : nullptr;
 }
 
-QObject *Shell::timer(const QJSValue &function)
+ScriptTimer *Shell::timer(const script::Function &handler)
 {
-    return owned(new ScriptTimer(function, this));
+    return new ScriptTimer(handler, this);
 }
 
-QObject *Shell::job()
+JobDriver *Shell::job()
 {
-    return owned(new JobDriver(this));
+    return new JobDriver(this);
 }
 
 QVariantMap Shell::ask(const QVariantMap &question)
@@ -237,9 +223,9 @@ void Shell::quit()
     QApplication::quit();
 }
 
-void Shell::setMainForm(QObject *form)
+void Shell::setMainForm(Form *form)
 {
-    m_mainForm = qobject_cast<Form *>(form);
+    m_mainForm = form;
     auto *window = m_mainForm ? qobject_cast<QMainWindow *>(m_mainForm->root()) : nullptr;
     m_fullScreen.attach(nullptr);
     m_mainFrame.reset();

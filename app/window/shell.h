@@ -1,11 +1,13 @@
 #pragma once
 
+#include "app/script/job_driver.h"
+#include "app/seam/function.h"
 #include "app/services/ZtFFullScreen.h"
+#include "app/window/forms/sheet_host.h"
 #include "app/window/forms/ui_form.h"
 #include "app/window/look/theme.h"
 #include "app/window/main_frame.h"
 
-#include <QJSValue>
 #include <QObject>
 #include <QStringList>
 #include <QVariant>
@@ -15,15 +17,11 @@
 
 namespace window {
 
-class DropTarget;
-class JobDriver;
-class ScriptTimer;
-
 /** What a user-interface script cannot do by itself: windows from .ui files, timers, jobs, dialogs, the desktop. */
 class Shell : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QObject *theme READ theme CONSTANT)
+    Q_PROPERTY(window::Theme *theme READ theme CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QStringList arguments READ arguments CONSTANT)
     Q_PROPERTY(QString interfaceFolder READ interfaceFolder CONSTANT)
@@ -36,7 +34,7 @@ public:
     ~Shell() override;
     Q_DISABLE_COPY_MOVE(Shell)
 
-    QObject *theme() const { return &m_theme; }
+    Theme *theme() const { return &m_theme; }
     bool keepsSettings() const;
     QString version() const { return QStringLiteral(QUORLIN_VERSION); }
 
@@ -48,18 +46,20 @@ public:
 
     /** A window from a file such as "windows/main/main.ui"; throws an Error that names the file if it cannot be loaded.
      */
-    Q_INVOKABLE QObject *loadForm(const QString &file);
-    Q_INVOKABLE void alignFields(const QVariantList &forms);
+    Q_INVOKABLE window::Form *loadForm(const QString &file);
+    /** Gives the fields of the forms one left edge; see Form::alignFields(). */
+    Q_INVOKABLE void alignFields(const QObjectList &forms);
     /** Covers the window of the form while files are dragged over it. */
-    Q_INVOKABLE QObject *dropTarget(QObject *form);
+    Q_INVOKABLE QObject *dropTarget(window::Form *form);
     /** A picture view that covers the window of the form; hidden at first. */
-    Q_INVOKABLE QObject *largePreview(QObject *form);
+    Q_INVOKABLE QObject *largePreview(window::Form *form);
+    /** Lays a widget over all of its window and gives it the focus. */
     Q_INVOKABLE void cover(QObject *widget);
     /** The window of the form, as the services know it that open sheets; see SheetHost. */
-    Q_INVOKABLE QObject *sheetHost(QObject *form);
+    Q_INVOKABLE window::SheetHost *sheetHost(window::Form *form);
 
-    Q_INVOKABLE QObject *timer(const QJSValue &function);
-    Q_INVOKABLE QObject *job();
+    Q_INVOKABLE window::ScriptTimer *timer(const script::Function &handler);
+    Q_INVOKABLE window::JobDriver *job();
 
     /**
      * Asks the user and waits for the answer.
@@ -87,7 +87,7 @@ public:
     /** The main window of the program, once a script made one. */
     Form *mainForm() const { return m_mainForm; }
     /** Tells which form is the main window, so that it can fill the screen. */
-    Q_INVOKABLE void setMainForm(QObject *form);
+    Q_INVOKABLE void setMainForm(window::Form *form);
     /** The window fills the screen, without its menu bar, or goes back to where it was. */
     Q_INVOKABLE void toggleFullScreen();
     bool isFullScreen() const { return m_fullScreen.property("fullscreenState").toInt() != 0; }

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
+
 #include <sys/stat.h>
 
 namespace platform {
@@ -12,6 +14,15 @@ namespace platform {
 QString identityOf(const struct stat &item)
 {
     return QStringLiteral("%1:%2").arg(item.st_dev).arg(item.st_ino);
+}
+
+bool isIdentity(QStringView text)
+{
+    const auto isNumber = [](QStringView part) {
+        return !part.isEmpty() && std::all_of(part.begin(), part.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    };
+    const qsizetype colon = text.indexOf(u':');
+    return colon > 0 && isNumber(text.left(colon)) && isNumber(text.mid(colon + 1));
 }
 
 QString itemIdentity(const QString &path)

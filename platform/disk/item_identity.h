@@ -12,6 +12,9 @@ namespace platform {
  */
 QString identityOf(const struct stat &item);
 
+/** Whether a text has the form of an identity. */
+bool isIdentity(QStringView text);
+
 /** Of the item itself, a link not followed. */
 QString itemIdentity(const QString &path);
 

@@ -4,6 +4,7 @@
 #include "app/window/look/icons.h"
 
 #include "platform/desktop/user_defaults.h"
+#include "platform/foundation/raised.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -124,23 +125,14 @@ QObject *Form::find(const QString &name, const char *kind)
     if (m_root)
         found = m_root->objectName() == name ? m_root.data() : m_root->findChild<QObject *>(name);
     if (!found)
-        throwError(QJSValue::ReferenceError,
-                   QStringLiteral("%1 has no %2 \"%3\"").arg(m_file, QLatin1String(kind), name));
+        throw platform::Raised::referenceError(
+            QStringLiteral("%1 has no %2 \"%3\"").arg(m_file, QLatin1String(kind), name));
     return found;
-}
-
-void Form::throwError(QJSValue::ErrorType type, const QString &message)
-{
-    if (QJSEngine *engine = qjsEngine(this))
-        engine->throwError(type, message);
 }
 
 QObject *Form::control(const QString &name)
 {
-    QObject *found = find(name, "control");
-    if (found)
-        QJSEngine::setObjectOwnership(found, QJSEngine::CppOwnership);
-    return found;
+    return find(name, "control");
 }
 
 QStringList Form::names() const
@@ -153,20 +145,18 @@ QStringList Form::names() const
     return all;
 }
 
-void Form::place(const QString &name, QObject *form)
+void Form::place(const QString &name, Form *other)
 {
     auto *container = qobject_cast<QWidget *>(find(name, "container"));
-    const auto *other = qobject_cast<Form *>(form);
     const bool isSound = container && container->layout() && other && other->root();
     if (!isSound)
         return;
     // A window cannot go into itself, nor into what lies in it.
     const bool isInside = other->root() == container || other->root()->isAncestorOf(container);
     if (isInside)
-        throwError(QJSValue::TypeError,
-                   QStringLiteral("%1 cannot be placed in \"%2\", which lies in it").arg(m_file, name));
-    else
-        container->layout()->addWidget(other->root());
+        throw platform::Raised::typeError(
+            QStringLiteral("%1 cannot be placed in \"%2\", which lies in it").arg(m_file, name));
+    container->layout()->addWidget(other->root());
 }
 
 bool Form::isShown() const
@@ -242,11 +232,11 @@ void Form::setLook(const QString &name, const QString &property, const QString &
     widget->style()->polish(widget);
 }
 
-void Form::setMenu(const QString &name, const QStringList &texts, const QVariantList &values, const QJSValue &chosen)
+void Form::setMenu(const QString &name, const QStringList &texts, const QVariantList &values,
+                   const script::Function &chosen)
 {
     QMenu *menu = menuOf(find(name, "menu"));
-    QJSEngine *engine = qjsEngine(this);
-    if (!menu || !engine)
+    if (!menu)
         return;
     menu->clear();
     menu->setEnabled(!texts.isEmpty());
@@ -259,15 +249,17 @@ void Form::setMenu(const QString &name, const QStringList &texts, const QVariant
         // An ampersand in a folder's name is no mnemonic.
         QAction *action = menu->addAction(QString(texts.at(i)).replace(QLatin1Char('&'), QLatin1String("&&")));
         action->setEnabled(!value.isNull());
-        connect(action, &QAction::triggered, this,
-                [engine, chosen, value] { chosen.call({engine->toScriptValue(value)}); });
+        connect(action, &QAction::triggered, this, [chosen, value] { chosen.call({value}); });
     }
 }
 
-void Form::setSplit(const QString &name, const QList<int> &sizes)
+void Form::setSplit(const QString &name, const QVariantList &sizes)
 {
+    QList<int> pixels;
+    for (const QVariant &size : sizes)
+        pixels.append(size.toInt());
     if (auto *splitter = qobject_cast<QSplitter *>(find(name, "splitter")))
-        splitter->setSizes(sizes);
+        splitter->setSizes(pixels);
 }
 
 void Form::group(const QStringList &names)
@@ -348,7 +340,7 @@ bool Form::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_root || event->type() != QEvent::Close)
         return QObject::eventFilter(watched, event);
-    const QJSValue answer = m_onClose.isCallable() ? m_onClose.call() : QJSValue(true);
+    const QJSValue answer = m_onClose.call();
     if (answer.isBool() && !answer.toBool()) {
         event->ignore();
         return true;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QJSValue>
+#include "app/seam/function.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -31,7 +32,7 @@ public:
     Q_INVOKABLE QStringList names() const;
 
     /** Puts another form into the layout of the container @p name. */
-    Q_INVOKABLE void place(const QString &name, QObject *form);
+    Q_INVOKABLE void place(const QString &name, window::Form *other);
     /** Lets the Tab key walk over the controls as they lie: row by row, container by container. */
     Q_INVOKABLE void arrangeTabs();
     /** The entries of a combo box: texts to read and the values that stand behind them; "-" is a separator. */
@@ -45,9 +46,9 @@ public:
     /** The entries of a menu, or of the menu of a button: each calls @p chosen with its value. "-" is a separator, and an
      * entry whose value is null cannot be chosen. */
     Q_INVOKABLE void setMenu(const QString &name, const QStringList &texts, const QVariantList &values,
-                             const QJSValue &chosen);
+                             const script::Function &chosen);
     /** Sizes of the parts of a splitter, in pixels; what the user set and was remembered wins. */
-    Q_INVOKABLE void setSplit(const QString &name, const QList<int> &sizes);
+    Q_INVOKABLE void setSplit(const QString &name, const QVariantList &sizes);
     /** Makes several tool actions or menu entries exclude one another. */
     Q_INVOKABLE void group(const QStringList &names);
 
@@ -58,7 +59,7 @@ public:
     /** Keeps size, place and splitters of this window under @p key, and takes up what was kept. */
     Q_INVOKABLE void remember(const QString &key);
     /** Called when the user closes the window; where it returns false the window stays. */
-    Q_INVOKABLE void onClose(const QJSValue &function) { m_onClose = function; }
+    Q_INVOKABLE void onClose(const script::Function &handler) { m_onClose = handler; }
 
     /** Gives all labels with the role "field" of the forms the width of the widest, so that the fields line up. */
     static void alignFields(const QList<Form *> &forms);
@@ -72,13 +73,12 @@ protected:
 
 private:
     QObject *find(const QString &name, const char *kind);
-    void throwError(QJSValue::ErrorType type, const QString &message);
     void keepLayout() const;
 
     QPointer<QWidget> m_root;
     QString m_file;
     QString m_key;
-    QJSValue m_onClose;
+    script::Function m_onClose;
 };
 
 } // namespace window

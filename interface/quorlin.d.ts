@@ -1,8 +1,11 @@
 /**
- * What scripts of Quorlin can import. A test holds the classes against the program: names, order, parameters and types.
+ * What scripts of Quorlin can import: nine modules. A test holds each of them against the program: names, order, parameters and
+ * types. There is no other way from a script to a service.
  *
  * Nothing is converted in silence: an argument of another type, or another number of arguments, is a TypeError; a whole
- * number outside the range of its type is a RangeError. Nothing is null, never undefined.
+ * number outside the range of its type is a RangeError; a word that is not among those of its type is a TypeError. Nothing is
+ * null, never undefined. Null is taken where a text, a list, a dictionary or an object is; an answer is null only where it
+ * says so.
  */
 
 type text = string | null;
@@ -44,6 +47,11 @@ type Connection = object;
 /** A stand-in from "quorlin/controls", or a control of a window. */
 type Control = object;
 type fieldsOf<T> = Partial<T>;
+
+/** What an object tells: each function that is connected is called each time, as long as the object lives. */
+interface Signal<Handler> {
+    connect(handler: Handler): null;
+}
 
 /** The service classes. */
 declare module "quorlin" {
@@ -829,6 +837,146 @@ declare module "quorlin/defaults" {
     };
 }
 
+/**
+ * Looking at folders and files, collecting input, and bringing finished files to their places without ever overwriting one
+ * unasked. Paths are absolute. A problem is a sentence; where there is none it is empty.
+ */
+declare module "quorlin/files" {
+    interface Info {
+        /** True of a broken link too. */
+        exists: boolean;
+        isFolder: boolean;
+        isLink: boolean;
+        /** -1 where it cannot be told. */
+        bytes: double;
+        writable: boolean;
+    }
+
+    interface Pixels {
+        width: whole;
+        height: whole;
+    }
+
+    interface PictureInfo extends Pixels {
+        path: string;
+        name: string;
+        /** 1 to 8. */
+        orientation: whole;
+        /** In words: "JPEG". */
+        type: string;
+        bytes: double;
+    }
+
+    interface Facts extends Pixels {
+        /** "2026-08-14T10:20:30", local time without zone; empty where the file states none. */
+        taken: string;
+        created: string;
+        changed: string;
+        camera: string;
+        lens: string;
+        bytes: double;
+        /** The same in words, "2.4 MB", English in every language, for names. */
+        size: string;
+        type: string;
+        isFolder: boolean;
+    }
+
+    interface Found {
+        /** What the action takes. */
+        paths: string[];
+        /** What comes into the list. */
+        listed: string[];
+        /** Those of the given paths that are folders. */
+        folders: string[];
+        /** How many files are not taken. */
+        leftOut: whole;
+        /** Those of them that may accompany a picture. */
+        companions: string[];
+        /** The name of one that may not. */
+        example: string;
+    }
+
+    export const files: {
+        /** The user's folder. */
+        readonly home: string;
+        /** The folder for this program's own data, made if need be. */
+        readonly dataFolder: string;
+        info(path: text): Info;
+        /** Bytes that this user may still write there, and what tells file systems apart; -1 where it is not known. */
+        space(path: text): { free: double; disk: double };
+        /** From the current folder. */
+        absolute(path: text): string;
+        /** What tells an item from all others, however its path is spelled; a link not followed. Empty where nothing is. */
+        identity(path: text): string;
+        /** The same for a folder, followed through links; it need not be there yet. */
+        folderIdentity(folder: text): string;
+        /** Which of the paths are, or lead to, an item: {identity: [path ...]}. */
+        owners(paths: texts): { [identity: string]: string[] };
+        /** All entries of a folder, in no order; empty where it cannot be read. */
+        names(folder: text): string[];
+        /** Its folders. */
+        folders(folder: text): string[];
+        /** Files and folders as they were dropped, as the list to work on. "*" takes every file; an empty list of listed means those taken. */
+        collect(paths: texts, extensions: texts, companions: texts, listed: texts): Found;
+        /** Makes a folder and those above it; answers the problem. */
+        makeFolder(folder: text): string;
+        removeEmptyFolder(folder: text): null;
+        /** A hidden, private folder for unfinished files, with "/" at its end; null where it cannot be made. */
+        makeStaging(folder: text): string | null;
+        /** Removes such a folder, and no other. */
+        removeStaging(staging: text): null;
+        /** Removes what processes that have ended left in a folder. */
+        sweep(folder: text): null;
+        /** In one step, inside one file system. Only the item with the identity `replaced` is replaced; "" for none. */
+        place(from: text, to: text, replaced: text): { status: "OK" | "Taken" | "Failed"; message: string };
+        /** As stored; null for an unreadable file. */
+        storedSize(path: text): Pixels | null;
+        /** One block of a JPEG file, as stored; null for any other file. */
+        jpegBlock(path: text): Pixels | null;
+        /** Marks a JPEG or TIFF file of ours as upright; answers the problem. */
+        markUpright(path: text): string;
+        /** Upright; width 0 for an unreadable file. */
+        picture(path: text): PictureInfo;
+        /** What is known without decoding; null where nothing is. */
+        facts(path: text): Facts | null;
+        /** Empty where the picture has no colour profile. */
+        profileName(path: text): string;
+        /** Writes the user comment; answers the problem. */
+        writeComment(path: text, comment: text): string;
+        /** "EXIF", "GPS", "IPTC" and "XMP": what one picture holds and another, made of it, does not. */
+        lostMetadata(from: text, to: text): string[];
+        readComment(path: text): { comment: string; problem: string };
+        /** How many pages a file would lose to a comment. */
+        pagesLostToComment(path: text): whole;
+        /** Whether a file is of a kind that can hold a comment. */
+        holdsComment(path: text): boolean;
+        /** In UTF-8, atomic; answers the problem. */
+        writeText(path: text, text: text): string;
+        /** Adds lines, each ending in a line feed; answers the problem. */
+        appendLines(path: text, lines: text): string;
+        /** Keeps the last lines of a file that has more than `limit` of them; answers the problem. */
+        keepNewestLines(path: text, most: whole, limit: whole): string;
+        /** Null where the file cannot be read. */
+        readText(path: text): string | null;
+        /** The new path of a presets database that could hold no preset; empty where it is left. */
+        setAsideUnusableDatabase(path: text): string;
+        /** "2.4 MB", in the reader's own form. */
+        byteText(bytes: double): string;
+        /** "2026-08-14T10:20:30" in the reader's own form; empty for what is none. */
+        dateText(date: text): string;
+    };
+}
+
+/** What pictures need besides the operations of the services. */
+declare module "quorlin/pictures" {
+    export const pictures: {
+        /** Writes a picture, laid on copies of another one, as the type of the target's extension; answers the problem. */
+        layOnPattern(path: text, pattern: text, target: text): string;
+        /** Why memory was too short for a picture since this was asked last; empty where it was not. */
+        takeMemoryRefusal(): string;
+    };
+}
+
 /** Renaming, moving, copying and linking so that no file is ever lost or replaced. Paths are absolute. */
 declare module "quorlin/moves" {
     type kind = "move" | "copy" | "link";
@@ -840,7 +988,7 @@ declare module "quorlin/moves" {
         /** Where `to` is taken, it gets a number: "name (2).jpg". */
         number?: boolean;
         /** The index of the wish that this one goes along with. */
-        leader?: number;
+        leader?: whole;
     }
 
     interface Planned {
@@ -876,8 +1024,8 @@ declare module "quorlin/moves" {
         title: string;
         /** ISO, with the time zone. */
         date: string;
-        count: number;
-        done: number;
+        count: whole;
+        done: whole;
         state: "open" | "done" | "cancelled" | "undone" | "recovered";
         /** The run that this one takes back, or empty. */
         undoes: string;
@@ -887,13 +1035,13 @@ declare module "quorlin/moves" {
         id: string;
         title: string;
         /** Had their new names already. */
-        done: number;
+        done: whole;
         /** Were in the middle, and have their new names now. */
-        finished: number;
+        finished: whole;
         /** Were in the middle, and have their old names again. */
-        takenBack: number;
+        takenBack: whole;
         /** Their turn had not come. */
-        left: number;
+        left: whole;
         problems: string[];
     }
 
@@ -903,32 +1051,190 @@ declare module "quorlin/moves" {
         /** The same plan in slices: this one names it. */
         beginPlan(): string;
         /** Leaders count from the first of all wishes. */
-        addWishes(plan: string, wishes: Wish[]): void;
+        addWishes(plan: text, wishes: Wish[]): null;
         /** Works for about so long; true when the plan is made. */
-        workOut(plan: string, milliseconds: number): boolean;
+        workOut(plan: text, milliseconds: whole): boolean;
         /** From `from` to before `to`; null for a wish that is ready, without a code, and gets the path that it asked for. */
-        planned(plan: string, from: number, to: number): (Planned | null)[];
+        planned(plan: text, from: whole, to: whole): (Planned | null)[];
         /** Ends a plan, made or not. */
-        dropPlan(plan: string): void;
+        dropPlan(plan: text): null;
         begin(run: { title: string; items: Wish[] }): { run: string } | { problem: string };
         /** Carries out one more item; null after the last one. */
-        next(run: string): (Outcome & { index: number }) | null;
+        next(run: text): (Outcome & { index: whole }) | null;
         /** Empty, or what went wrong. May come before the last item: every file then has its old or its new name. */
-        end(run: string): string;
+        end(run: text): string;
         /** A run whose items are added one by one. */
-        open(title: string): { run: string } | { problem: string };
-        add(run: string, item: { kind: kind | "trash"; from: string; to: string; number?: boolean }): Outcome;
+        open(title: text): { run: string } | { problem: string };
+        add(run: text, item: { kind: kind | "trash"; from: string; to: string; number?: boolean }): Outcome;
         /** Undoes the last item of an open run that still stands; null where there is none. */
-        takeBack(run: string): (Outcome & { kind: kind | "trash"; from: string; to: string }) | null;
-        undoable(run: string): { can: boolean; count: number; reason: string };
+        takeBack(run: text): (Outcome & { kind: kind | "trash"; from: string; to: string }) | null;
+        undoable(run: text): { can: boolean; count: whole; reason: string };
         /** Begins the run that takes another back; next() and end() drive it. That run can be taken back too. */
-        undo(run: string):
+        undo(run: text):
             | { run: string; items: { kind: kind | "trash" | "remove"; from: string; to: string }[]; problems: Problem[] }
             | { problem: string; problems: Problem[] };
         /** The last 200, the newest first. */
         runs(): Run[];
         /** Ends what a crash interrupted; runs of another living process are left alone. Once, at start. */
         recover(): Recovered[];
+    };
+}
+
+/** What a script of windows cannot do by itself: windows, timers, jobs, dialogs, the desktop. */
+declare module "quorlin/shell" {
+    interface Question {
+        title: string;
+        text: string;
+        detail?: string;
+        buttons: string[];
+        /** The button that Return presses, and the one that Escape does. */
+        initial?: whole;
+        escape?: whole;
+        /** The text of a box to check; empty for none. */
+        check?: string;
+    }
+
+    export const shell: {
+        readonly theme: Theme | null;
+        readonly version: string;
+        /** Files and folders that the program was started with. */
+        readonly arguments: string[];
+        /** The folder of main.js, without "/" at its end. */
+        readonly interfaceFolder: string;
+        /** False while a change of the settings could not be written. */
+        readonly keepsSettings: boolean;
+        /** A change of the settings cannot be written; told once in the life of the program. */
+        readonly settingsNotKept: Signal<() => any>;
+        /** A window or pane from a file such as "windows/main/main.ui"; an Error that names the file if it cannot be loaded. */
+        loadForm(file: text): Form | null;
+        /** Gives the fields of the forms one left edge. */
+        alignFields(forms: Form[]): null;
+        /** Covers the window while files are dragged over it. */
+        dropTarget(form: Form | null): Control | null;
+        /** A picture view that covers the window; hidden at first. */
+        largePreview(form: Form | null): Control | null;
+        /** Lays a widget over all of its window and gives it the focus. */
+        cover(widget: Control | null): null;
+        /** The window as the services know it that open sheets. */
+        sheetHost(form: Form | null): SheetHost | null;
+        timer(handler: Function | null): ScriptTimer | null;
+        job(): JobDriver | null;
+        /** Asks the user and waits for the answer. */
+        ask(question: Question): { button: whole; checked: boolean };
+        /** The path that was chosen, or null. */
+        chooseFolder(title: text, start: text): string | null;
+        /** An empty list of extensions means any file. */
+        chooseFiles(title: text, folder: text, extensions: texts): string[];
+        chooseFile(title: text, folder: text, extensions: texts): string | null;
+        /** The path of a file to write, or null. */
+        chooseNewFile(title: text, folder: text, name: text, extension: text): string | null;
+        openFolder(folder: text): null;
+        /** Shows a file in its folder. */
+        showInFolder(path: text): null;
+        /** Files that were copied, or lines of text that are paths. */
+        clipboardPaths(): string[];
+        quit(): null;
+        /** Tells which form is the main window. */
+        setMainForm(form: Form | null): null;
+        toggleFullScreen(): null;
+    };
+
+    /** A window or pane that was loaded from a file. An unknown name is a ReferenceError. */
+    export class Form {
+        private constructor();
+        shown: boolean;
+        /** The user closes the window, and nothing has kept it open. */
+        readonly closing: Signal<() => any>;
+        /** The control, action or menu of that name. */
+        control(name: text): Control | null;
+        names(): string[];
+        /** Puts another form into the layout of a container. */
+        place(name: text, other: Form | null): null;
+        /** Lets the Tab key walk over the controls as they lie. */
+        arrangeTabs(): null;
+        /** The entries of a combo box: texts to read and the values behind them; "-" is a separator. */
+        setItems(name: text, texts: texts, values: list): null;
+        value(name: text): anything;
+        /** False where no entry has that value. */
+        chooseValue(name: text, value: anything): boolean;
+        setIcon(name: text, icon: text): null;
+        /** Sets a property that the style sheet looks at. */
+        setLook(name: text, property: text, value: text): null;
+        /** The entries of a menu: each calls `chosen` with its value; one whose value is null cannot be chosen. */
+        setMenu(name: text, texts: texts, values: list, chosen: Function | null): null;
+        /** Sizes of the parts of a splitter, in pixels; what the user set and was remembered wins. */
+        setSplit(name: text, sizes: list): null;
+        /** Makes several tool actions or menu entries exclude one another. */
+        group(names: texts): null;
+        show(): null;
+        /** Brings the window before the others. */
+        raise(): null;
+        close(): null;
+        /** Keeps size, place and splitters under a key, and takes up what was kept. */
+        remember(key: text): null;
+        /** Called when the user closes the window; where it answers false the window stays. */
+        onClose(handler: Function | null): null;
+    }
+
+    /** Carries out a generator from the event loop, so that windows answer between its steps. */
+    export class JobDriver {
+        private constructor();
+        readonly running: boolean;
+        readonly paused: boolean;
+        /** onStep(value) for each value that was yielded; onEnd(how, value): "done", "cancelled" or "failed". */
+        start(generator: Iterator<any>, onStep: Function | null, onEnd: Function | null): null;
+        pause(): null;
+        resume(): null;
+        /** Stops after the current step; finally blocks run. */
+        cancel(): null;
+    }
+
+    /** Calls its function once, some time later; starting again puts it off. */
+    export class ScriptTimer {
+        private constructor();
+        start(ms: whole): null;
+        stop(): null;
+    }
+
+    /** Colours and style of every window. */
+    export class Theme {
+        private constructor();
+        /** "light" or "dark". */
+        readonly appearance: string;
+        readonly changed: Signal<() => any>;
+        /** "light", "dark" or "system"; kept for the next start. */
+        choose(name: text): null;
+        choice(): string;
+    }
+
+    /** A window on which sheets are opened. */
+    export class SheetHost {
+        private constructor();
+        /** The dialog that is open on it, or null. */
+        sheet: Control | null;
+    }
+}
+
+/** What windows ask about the program itself, and printing. */
+declare module "quorlin/program" {
+    export const program: {
+        readonly version: string;
+        /** The number that version files are compared with: 1.2.3 is 10203. */
+        readonly build: whole;
+        /** Where the program can be got; empty where nobody configured it. */
+        readonly productPage: string;
+        readonly hasUpdateHost: boolean;
+        readonly libraries: { name: string; version: string; licence: string }[];
+        /** The code of the language of the texts. */
+        readonly language: string;
+        /** The folder of the manual, or empty. */
+        readonly manual: string;
+        /** Asks in the background for a newer build and calls taken(fields, problem): one of them is null. */
+        lookForUpdate(taken: Function | null): null;
+        /** Shows the print panel and prints each picture on a page of its own. */
+        print(paths: texts): null;
+        /** Lets the user choose paper and orientation for this print and those to come. */
+        setUpPage(): null;
     };
 }
 
