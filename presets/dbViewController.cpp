@@ -2,6 +2,7 @@
 
 #include "platform/disk/folders.h"
 #include "platform/foundation/log.h"
+#include "platform/foundation/paths.h"
 #include "platform/foundation/raised.h"
 #include "presets/layout.h"
 #include "presets/statements.h"

@@ -4,7 +4,7 @@
 #include "files/moving/move_undo.h"
 
 #include "platform/disk/folders.h"
-#include "platform/disk/hidden_item.h"
+#include "platform/disk/hidden_sweep.h"
 #include "platform/foundation/paths.h"
 
 #include <algorithm>

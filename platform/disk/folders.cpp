@@ -1,8 +1,9 @@
 #include "platform/disk/folders.h"
 
 #include "platform/disk/copy_tree.h"
-#include "platform/disk/hidden_item.h"
 #include "platform/disk/same_content.h"
+#include "platform/file/hidden_item.h"
+#include "platform/file/sign_of_life.h"
 #include "platform/foundation/paths.h"
 
 #include <QDir>
@@ -63,13 +64,16 @@ bool isStillEmpty(int file, const fs::path &path)
 
 /**
  * The empty file that is made first keeps the name; whoever comes later finds it taken. One who writes into it or puts another in its
- * place all the same is noticed up to the last moment.
+ * place all the same is noticed up to the last moment. The note is for a kill before the rename.
  */
 std::error_code renameOntoPlaceholder(const fs::path &from, const fs::path &to)
 {
+    const HiddenItem noted(HiddenItem::What::Placeholder, QFile::decodeName(to.c_str()),
+                           QFile::decodeName(from.c_str()));
     const int placeholder = ::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (placeholder < 0)
         return lastError();
+    showLife(placeholder);
     std::error_code error = std::make_error_code(std::errc::file_exists);
     if (isStillEmpty(placeholder, to) && ::rename(from.c_str(), to.c_str()) == 0)
         error = {};
@@ -203,12 +207,6 @@ bool mayBeTakenAway(const QString &path)
         std::error_code ignored;
         return !entry.is_directory(ignored) || entry.is_symlink(ignored) || mayChange(entry.path());
     });
-}
-
-QString applicationSupportFolder()
-{
-    const QString said = qEnvironmentVariable("XDG_DATA_HOME");
-    return QDir::cleanPath(said.startsWith(u'/') ? said : QDir::homePath() + QStringLiteral("/.local/share"));
 }
 
 bool itemExists(const QString &path)

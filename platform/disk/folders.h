@@ -6,12 +6,6 @@
 
 namespace platform {
 
-/**
- * The folder in which programs keep their data for one user: $XDG_DATA_HOME where that is an absolute path, else
- * .local/share in the user's home folder. Without "/" at its end; not made here.
- */
-QString applicationSupportFolder();
-
 /** Whether anything is at @p path: a link to nothing is not. */
 bool itemExists(const QString &path);
 

@@ -1,5 +1,7 @@
 #include "platform/file/sign_of_life.h"
 
+#include "platform/foundation/paths.h"
+
 #include <QFile>
 #include <QSet>
 
@@ -45,6 +47,12 @@ bool isStillNamed(int descriptor, const QByteArray &path)
     struct stat named = {};
     return ::fstat(descriptor, &opened) == 0 && ::lstat(path.constData(), &named) == 0 &&
            opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+}
+
+void sweepUnfinishedFile(const QString &path)
+{
+    if (lastPathComponent(path).startsWith(QLatin1String(unfinishedName)))
+        sweepOne(AT_FDCWD, QFile::encodeName(path).constData());
 }
 
 void sweepUnfinished(const QString &folder)

@@ -24,6 +24,9 @@ bool isStillNamed(int descriptor, const QByteArray &path);
 /** How the hidden names of unfinished files begin that may be removed once nobody shows a sign of life on them. */
 inline constexpr char unfinishedName[] = ".quorlin-part-";
 
+/** Removes an unfinished file: an ordinary file of this user, under such a name, on which nobody shows a sign of life. */
+void sweepUnfinishedFile(const QString &path);
+
 /**
  * Removes what ended processes left of unfinished files in a folder: ordinary files of this user whose names begin as
  * unfinishedName says and on which nobody shows a sign of life. Costs one read of the folder.

@@ -6,10 +6,10 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -91,11 +91,26 @@ TemporaryFile::~TemporaryFile()
         ::unlink(m_name.constData());
 }
 
+QByteArray TemporaryFile::anyHiddenName() const
+{
+    return m_folder + '/' + unfinishedName + QByteArray::number(QRandomGenerator::global()->generate(), 36) +
+           QByteArray::number(qint64(::getpid()), 36);
+}
+
+/** Before there is such a file, so that no kill can come between the two. */
+void TemporaryFile::noteName(const QByteArray &name)
+{
+    m_noted.emplace(HiddenItem::What::Part, QFile::decodeName(name), QFile::decodeName(m_target));
+}
+
 bool TemporaryFile::openNamed()
 {
     for (int attempt = 0; attempt < 100; ++attempt) {
-        QByteArray name = m_folder + '/' + unfinishedName + "XXXXXX";
-        m_descriptor = ::mkostemp(name.data(), O_CLOEXEC);
+        const QByteArray name = anyHiddenName();
+        noteName(name);
+        m_descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+        if (!isOpen() && errno == EEXIST)
+            continue;
         if (!isOpen())
             return false;
         // Before it showed life, somebody may have taken it for what an ended process left.
@@ -204,8 +219,8 @@ bool TemporaryFile::nameIt()
 {
     const QByteArray open = "/proc/self/fd/" + QByteArray::number(m_descriptor);
     for (int attempt = 0; attempt < 100; ++attempt) {
-        const QByteArray name = m_folder + '/' + unfinishedName + QByteArray::number(quint32(::random()), 36) +
-                                QByteArray::number(qint64(::getpid()), 36);
+        const QByteArray name = anyHiddenName();
+        noteName(name);
         if (::linkat(AT_FDCWD, open.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0) {
             m_name = name;
             return true;
@@ -229,8 +244,10 @@ bool TemporaryFile::takePlace()
     if (alive >= 0)
         ::close(alive);
     errno = problem;
-    if (isNamed)
+    if (isNamed) {
         m_name.clear();
+        m_noted.reset();
+    }
     return isNamed;
 }
 

@@ -2,10 +2,13 @@
 
 // Inside platform/foundation only.
 
+#include "platform/file/hidden_item.h"
 #include "platform/foundation/result.h"
 
 #include <QByteArray>
 #include <QString>
+
+#include <optional>
 
 #include <sys/types.h>
 
@@ -17,7 +20,7 @@ tl::unexpected<Error> writeFailure(const QString &path, int code);
 /**
  * A new file that has no name until it takes the place of another one, so that a process that ends in between leaves
  * nothing behind. Where the file system cannot do that it has a hidden name beside its target, and is removed by the
- * destructor. All functions answer false and leave errno where they fail.
+ * destructor; after a kill by sweepHiddenItems(). All functions answer false and leave errno where they fail.
  */
 class TemporaryFile
 {
@@ -44,12 +47,15 @@ public:
 
 private:
     bool copyByHand(int source, qint64 position, qint64 size);
+    QByteArray anyHiddenName() const;
+    void noteName(const QByteArray &name);
     bool nameIt();
     bool openNamed();
 
     QByteArray m_target;
     QByteArray m_folder;
     QByteArray m_name; ///< empty as long as the file has none
+    std::optional<HiddenItem> m_noted;
     int m_descriptor = -1;
 };
 

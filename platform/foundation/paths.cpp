@@ -1,5 +1,7 @@
 #include "platform/foundation/paths.h"
 
+#include <QDir>
+
 namespace platform {
 namespace {
 
@@ -66,6 +68,12 @@ QString joinedPath(const QString &folder, const QString &name)
         ++start;
     const QString front = withoutTrailingSlashes(folder);
     return (front == QStringLiteral("/") ? front : front + u'/') + name.mid(start);
+}
+
+QString applicationSupportFolder()
+{
+    const QString said = qEnvironmentVariable("XDG_DATA_HOME");
+    return QDir::cleanPath(said.startsWith(u'/') ? said : QDir::homePath() + QStringLiteral("/.local/share"));
 }
 
 } // namespace platform

@@ -31,4 +31,10 @@ QString parentFolder(const QString &path);
 /** @p name in @p folder, with one slash between them; the folder itself where the name is empty. */
 QString joinedPath(const QString &folder, const QString &name);
 
+/**
+ * The folder in which programs keep their data for one user: $XDG_DATA_HOME where that is an absolute path, else
+ * .local/share in the user's home folder. Without "/" at its end; not made here.
+ */
+QString applicationSupportFolder();
+
 } // namespace platform

@@ -80,7 +80,7 @@ THIRD_PARTY = [
 LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "PkgConfig::CAIRO": "platform",
                 "PkgConfig::JPEG": "platform", "PkgConfig::TURBOJPEG": "platform", "PkgConfig::PLIST": "platform", "PkgConfig::OPENJPEG": "platform",
                 "PkgConfig::DEFLATE": "platform", "PkgConfig::SQLITE": "presets", "SQLite::SQLite3": "presets"}
-SYSTEM = re.compile(r"(sys|linux|netinet)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|signal|pwd|errno|time|malloc|syslog)\.h")
+SYSTEM = re.compile(r"(sys|linux|netinet)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|sched|signal|pwd|errno|time|malloc|syslog)\.h")
 STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits)\.h")
 
 # Words of the product that the platform must not know: classes of the seam, status words, action keywords.

@@ -84,6 +84,13 @@ int chmod(const char *path, mode_t mode) noexcept
 {
     return int(afterMeeting("chmod", path, [=] { return ::syscall(SYS_fchmodat, AT_FDCWD, path, mode); }));
 }
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wshadow" // there is a struct of that name too
+int flock(int file, int deed) noexcept
+{
+    return int(afterMeeting("flock", nullptr, [=] { return ::syscall(SYS_flock, file, deed); }));
+}
+#pragma GCC diagnostic pop
 ssize_t write(int file, const void *bytes, size_t count)
 {
     return afterMeeting("write", nullptr, [=] { return ::syscall(SYS_write, file, bytes, count); });
@@ -100,7 +107,14 @@ int open(const char *path, int flags, ...)
     const mode_t mode = (flags & (O_CREAT | __O_TMPFILE)) ? va_arg(rest, mode_t) : 0;
     va_end(rest);
     const auto call = [=] { return ::syscall(SYS_openat, AT_FDCWD, path, flags, mode); };
+    if ((flags & O_TMPFILE) == O_TMPFILE)
+        return int(afterMeeting("open without a name", path, call));
     return int((flags & O_CREAT) ? afterMeeting("open", path, call) : call());
+}
+int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags) noexcept
+{
+    return int(
+        afterMeeting("linkat", from, [=] { return ::syscall(SYS_linkat, fromFolder, from, toFolder, to, flags); }));
 }
 int open64(const char *path, int flags, ...)
 {

@@ -8,7 +8,7 @@
 
 #include "platform/disk/disk_file_system.h"
 #include "platform/disk/folders.h"
-#include "platform/disk/hidden_item.h"
+#include "platform/disk/hidden_sweep.h"
 #include "platform/disk/trash.h"
 
 #include <QDirIterator>
@@ -367,6 +367,7 @@ void TestEveryCall::replacesNothingWhereADiskPromisesNothing()
     for (const char *deed : {"makes", "writes", "puts"}) {
         // A second name is the file itself: who overwrites that wants to.
         bool hasMore = !hasLinks || deed == QByteArray("makes");
+        bool wasDone = !hasMore;
         for (int calls = 0; hasMore; ++calls) {
             const ScratchFolder folder;
             QVERIFY(folder.write("a", "a"));
@@ -378,6 +379,8 @@ void TestEveryCall::replacesNothingWhereADiskPromisesNothing()
                 const bool isHere = EveryCall::count == calls + 1;
                 // Between the last look and the rename itself nothing can be done on such a disk.
                 const bool canBeNoticed = call != "rename";
+                if (call == "write") // a note of the program's own, also when all is done
+                    return 0;
                 if (isHere && canBeNoticed && deed == QByteArray("puts"))
                     isDone = other.open(QIODevice::WriteOnly) && other.write("new") == 3 && other.flush() &&
                              ::rename(other.fileName().toLatin1().constData(),
@@ -394,7 +397,9 @@ void TestEveryCall::replacesNothingWhereADiskPromisesNothing()
             QCOMPARE(folder.read(error ? "a" : "b"), QByteArray("a"));
             QVERIFY2(!isDone || (error && folder.read("b") == "new"), deed);
             QCOMPARE(bool(error), isDone);
+            wasDone = wasDone || isDone;
         }
+        QVERIFY2(wasDone, deed);
     }
 }
 

@@ -1,4 +1,5 @@
 #include "platform/disk/folders.h"
+#include "platform/foundation/paths.h"
 #include "tests/support/test_program.h"
 
 #include <QDateTime>

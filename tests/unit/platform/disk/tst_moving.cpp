@@ -1,5 +1,6 @@
 #include "platform/disk/folders.h"
-#include "platform/disk/hidden_item.h"
+#include "platform/disk/hidden_sweep.h"
+#include "platform/file/hidden_item.h"
 #include "platform/file/living_process.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
