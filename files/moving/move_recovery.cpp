@@ -33,8 +33,8 @@ public:
             MoveRecord &record = m_run.items[size_t(i)];
             if (!record.isKnown)
                 continue;
+            removePlaceholders(i, record);
             removePart(i, record);
-            removePlaceholder(record);
             switch (record.item.deed) {
             case Deed::Move:
                 findMoved(i, record);
@@ -129,17 +129,35 @@ private:
                                 .arg(record.item.from, place));
     }
 
-    /** On a disk that can only keep a name with an empty file, such a file is left where the item never came. */
-    void removePlaceholder(const MoveRecord &record)
+    /**
+     * On a disk that can only keep a name with an empty file, such a file is left where the item never came: under its new name, its
+     * hidden one, that of a copy that was to go, or its old one.
+     */
+    void removePlaceholders(int index, const MoveRecord &record)
     {
-        const bool takesPlace = record.item.deed == Deed::Move && record.stand == Stand::Waiting;
-        const auto there = takesPlace ? m_disk.look(record.item.to) : std::nullopt;
+        const MoveItem &item = record.item;
+        const bool isMove = item.deed == Deed::Move;
+        if (!item.was || (!isMove && item.deed != Deed::Copy))
+            return;
+        const QString hidden = aside(record);
+        const bool isAtHome = isAt(item.from, item.was);
+        if (record.stand == Stand::Waiting && (isAtHome || m_disk.look(hidden)))
+            removePlaceholder(item.to, *item.was);
+        if (isMove && isAtHome)
+            removePlaceholder(hidden, *item.was);
+        else if (isMove && isAt(hidden, item.was))
+            removePlaceholder(item.from, *item.was);
+        if (record.copied && isAt(item.to, record.copied))
+            removePlaceholder(partPath(m_run.id, index, item.to), *item.was);
+    }
+
+    void removePlaceholder(const QString &path, const ItemState &was)
+    {
+        const auto there = m_disk.look(path);
         const bool isEmpty = there && there->kind == platform::ItemKind::File && there->bytes == 0 && there->names == 1;
         const qint64 begunNs = QDateTime::fromString(m_run.date, Qt::ISODate).toMSecsSinceEpoch() * nsPerMs;
-        const bool isOurs = isEmpty && there->changedNs >= begunNs && record.item.was && record.item.was->bytes != 0 &&
-                            !isSameItem(*there, *record.item.was);
-        if (isOurs && (isAt(record.item.from, record.item.was) || m_disk.look(aside(record))))
-            (void)m_disk.remove(record.item.to);
+        if (isEmpty && there->changedNs >= begunNs && was.bytes != 0 && !isSameItem(*there, was))
+            (void)m_disk.remove(path);
     }
 
     QString aside(const MoveRecord &record) const

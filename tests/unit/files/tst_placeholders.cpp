@@ -1,0 +1,200 @@
+#include "files/moving/move_recovery.h"
+#include "files/moving/move_undo.h"
+#include "tests/support/model_file_system.h"
+#include "tests/support/test_program.h"
+
+#include <QTest>
+
+using namespace files;
+
+namespace {
+
+const QString folder = QStringLiteral("/d/");
+const QString other = QStringLiteral("/other/");
+
+/** A disk that has neither second names nor a rename that replaces nothing, with three pictures on it. */
+class Place
+{
+public:
+    Place()
+    {
+        disk.canReplace = true;
+        for (const char *name : {"a", "b", "c"})
+            disk.addFile(folder + QLatin1String(name), name);
+        disk.fuse = shelf.fuse = &fuse;
+    }
+
+    void carryOut(const MoveOrderForm &form)
+    {
+        QString problem;
+        if (const auto run = MoveRun::begin(disk, shelf, form, &problem)) {
+            while (run->next()) {
+            }
+            run->end();
+        }
+    }
+
+    void carryOut(std::vector<MoveItem> items)
+    {
+        MoveOrderForm form;
+        form.items = std::move(items);
+        carryOut(form);
+    }
+
+    /** As the next start finds it. */
+    QStringList recover()
+    {
+        fuse.putOut();
+        disk.trouble = nullptr;
+        shelf.held.clear();
+        QStringList problems;
+        for (const RecoveredRun &run : recoverMoves(disk, shelf))
+            problems += run.problems;
+        return problems;
+    }
+
+    QByteArray told() const
+    {
+        QByteArray all;
+        for (const auto &[path, what] : disk.everything())
+            all += path.toUtf8() + '=' + what + ' ';
+        return all;
+    }
+
+    bool hasHidden() const { return told().contains("/.quorlin"); }
+
+    ModelFileSystem disk;
+    ModelShelf shelf;
+    Fuse fuse;
+};
+
+void moves(Place &place)
+{
+    place.carryOut({{Deed::Move, folder + u'a', folder + u'x'}, {Deed::Move, folder + u'b', folder + u'a'}});
+}
+
+void swaps(Place &place)
+{
+    place.carryOut({{Deed::Move, folder + u'a', folder + u'b'}, {Deed::Move, folder + u'b', folder + u'a'}});
+}
+
+void copies(Place &place)
+{
+    place.carryOut({{Deed::Copy, folder + u'a', folder + u'x'}, {Deed::Copy, folder + u'b', other + u'y'}});
+}
+
+void movesAway(Place &place)
+{
+    place.carryOut({{Deed::Move, folder + u'a', other + u'x'}, {Deed::Move, folder + u'b', other + u'y'}});
+}
+
+void undo(Place &place)
+{
+    place.carryOut(planUndo(place.disk, place.shelf, place.shelf.names().first()).form);
+}
+
+struct Work
+{
+    void (*before)(Place &);
+    void (*act)(Place &);
+};
+
+const std::map<QByteArray, Work> &works()
+{
+    static const std::map<QByteArray, Work> all = {
+        {"moves", {[](Place &) {}, moves}},
+        {"copies", {[](Place &) {}, copies}},
+        {"to another disk", {[](Place &) {}, movesAway}},
+        {"moves taken back", {moves, undo}},
+        {"swaps", {[](Place &) {}, swaps}},
+        {"brought back from another disk", {movesAway, undo}},
+    };
+    return all;
+}
+
+} // namespace
+
+/** The empty file that keeps a name for a moment, where a disk has nothing better. */
+class TestPlaceholders : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void areGoneAfterAKill_data() { everyWork(); }
+    void areGoneAfterAKill();
+    void takeNobodysPlace_data() { everyWork(); }
+    void takeNobodysPlace();
+
+private:
+    void everyWork();
+};
+
+void TestPlaceholders::everyWork()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const auto &work : works())
+        QTest::newRow(work.first) << work.first;
+}
+
+void TestPlaceholders::areGoneAfterAKill()
+{
+    QFETCH(QByteArray, name);
+    int change = 0;
+    for (bool isKilled = true; isKilled; ++change) {
+        Place place;
+        works().at(name).before(place);
+        place.fuse.light(change);
+        isKilled = false;
+        try {
+            works().at(name).act(place);
+        } catch (const Killed &) {
+            isKilled = true;
+        }
+        const QByteArray when = name + " killed at change " + QByteArray::number(change) + ": ";
+        const QStringList problems = place.recover();
+        QVERIFY2(problems.isEmpty(), when + problems.join(u' ').toUtf8());
+        const QList<QByteArray> contents = place.disk.allBytes();
+        for (const char *content : {"a", "b", "c"})
+            QVERIFY2(contents.contains(content), when + place.told());
+        QVERIFY2(!contents.contains(QByteArray()) && !place.hasHidden(), when + place.told());
+    }
+    QVERIFY(change > 8);
+}
+
+/** Another program saves under the new name, or into the empty file that keeps it, at each change. */
+void TestPlaceholders::takeNobodysPlace()
+{
+    QFETCH(QByteArray, name);
+    int saved = 0;
+    for (const char target : {'x', 'y', 'a', 'b'})
+        for (const QString &where : {folder, other})
+            for (int change = 0, changes = 1; change < changes; ++change) {
+                Place place;
+                works().at(name).before(place);
+                const QString path = where + QLatin1Char(target);
+                bool isSaved = false;
+                changes = 0;
+                place.disk.trouble = [&]() -> std::error_code {
+                    const bool isFree = !place.disk.look(path);
+                    if (changes++ == change && (isFree || place.disk.bytes(path).isEmpty())) {
+                        isFree ? place.disk.addFile(path, "of another program")
+                               : place.disk.change(path, "of another program");
+                        isSaved = true;
+                    }
+                    return {};
+                };
+                works().at(name).act(place);
+                place.recover();
+                const QList<QByteArray> contents = place.disk.allBytes();
+                const QByteArray when = name + ", saved at change " + QByteArray::number(change) + ": " + place.told();
+                QVERIFY2(!isSaved || contents.contains("of another program"), when);
+                for (const char *content : {"a", "b", "c"})
+                    QVERIFY2(contents.contains(content), when);
+                QVERIFY2(!contents.contains(QByteArray()), when);
+                saved += isSaved;
+            }
+    QVERIFY(saved > 5);
+}
+
+QUORLIN_TEST(TestPlaceholders)
+#include "tst_placeholders.moc"
