@@ -17,10 +17,20 @@ function textOf(data) {
     return data === null ? "" : String.fromCharCode.apply(null, Array.from(new Uint8Array(data)));
 }
 
+// What a rename noted; null for a text that is none of it.
+function noteIn(text) {
+    try {
+        const note = JSON.parse(text);
+        return [note.action, note.from, note.to].every((each) => typeof each === "string") ? note : null;
+    } catch (error) {
+        return null;
+    }
+}
+
 export class PresetStore {
     /**
      * @param makeDb    makes a dbViewController
-     * @param files     readText, info and setAsideUnusableDatabase are used
+     * @param files     readText, writeText, info and setAsideUnusableDatabase are used
      * @param kinds     {form, standard, starting} by the name of the action: see presetKinds() of actions.js
      */
     constructor(makeDb, files, kinds) {
@@ -65,6 +75,9 @@ export class PresetStore {
             rows = this.rows("Process", this.kinds[action].form.process);
         }
         this.problem = rows === null ? this.readProblem() : "";
+        if (rows !== null && this.endRename(action)) {
+            rows = this.rows("Process", this.kinds[action].form.process);
+        }
         const all = (rows || []).map((row) => Object.assign({ fields: row.split("|") }, presetOf(row, this.kinds)));
         const newest = emptyTable();
         all.filter((preset) => preset.state === "ready").forEach((preset) => { newest[preset.name] = preset; });
@@ -133,9 +146,40 @@ export class PresetStore {
         return problem;
     }
 
-    /** Gives a preset another name. Returns a problem, or "". Cut off in the middle it leaves both names. */
+    /** Gives a preset another name. Returns a problem, or "". What is cut off in the middle is ended by the next list(). */
     rename(preset, name) {
-        return this.insert([name].concat(preset.fields.slice(1))) || this.remove(preset.action, preset.name);
+        if (name === preset.name) {
+            return "";
+        }
+        const note = { action: preset.action, from: preset.name, to: name };
+        if (this.files.writeText(this.renamePath(), JSON.stringify(note)) !== "") {
+            return this.writeProblem();
+        }
+        const problem = this.insert([name].concat(preset.fields.slice(1))) || this.remove(preset.action, preset.name);
+        this.files.writeText(this.renamePath(), "");
+        return problem;
+    }
+
+    // A row of the database cannot say that it is to go; a text beside it does, for as long as there may be two.
+    renamePath() {
+        return this.path() + ".renaming";
+    }
+
+    // Removes the row of the old name if all of it is there under the new one. Whether there was something to remove.
+    endRename(action) {
+        const text = this.files.info(this.renamePath()).exists ? this.files.readText(this.renamePath()) : "";
+        const note = text ? noteIn(text) : null;
+        if (note === null || note.action !== action) {
+            return false;
+        }
+        const ids = [note.from, note.to].map((name) => this.idOf(action, name));
+        const [before, after] = ids.map((id) => id === "" ? "" : this.rows("ID", id)[0].split("|").slice(1).join("|"));
+        const isCutOff = before !== "" && before === after;
+        if (isCutOff) {
+            this.removeId(ids[0]);
+        }
+        this.files.writeText(this.renamePath(), "");
+        return isCutOff;
     }
 
     /** Removes the ready presets of an action with that name. Returns a problem, or "". */

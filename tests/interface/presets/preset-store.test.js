@@ -113,9 +113,15 @@ class FakeDefaults {
 
 function make(state) {
     const file = Object.assign(new FakeFile(), state);
+    const texts = {};
     const files = {
-        info: () => ({ exists: file.exists, writable: file.writable !== false }),
-        readText: () => file.text,
+        texts: texts,
+        info: (path) => ({ exists: texts[path] !== undefined || file.exists, writable: file.writable !== false }),
+        readText: (path) => path === PATH ? file.text : texts[path] || "",
+        writeText: (path, text) => {
+            texts[path] = text;
+            return "";
+        },
         setAsideUnusableDatabase: (path) => {
             if (!file.exists || !file.unusable) {
                 return "";
@@ -124,7 +130,7 @@ function make(state) {
             return path + ".unusable-1";
         },
     };
-    return { file: file, store: new PresetStore(() => new FakeDb(file), files, KINDS) };
+    return { file: file, files: files, store: new PresetStore(() => new FakeDb(file), files, KINDS) };
 }
 
 function changed(action, changes) {
@@ -210,6 +216,42 @@ test("renamesAndKeepsTheSettings", () => {
     store.save("resize", "Web", changed("resize", { longest: 5 }));
     equal(store.rename(store.list("resize")[0], "Größe"), "");
     equal(store.list("resize").map((preset) => [preset.name, preset.settings.longest]), [["Größe", 5]]);
+    equal([store.rename(store.list("resize")[0], "Größe"), store.list("resize").length], ["", 1]);
+});
+
+// The note of a rename, in which the first `done` of its three steps were done before the end.
+function cutOffRename(done) {
+    const made = make({});
+    made.store.list("resize");
+    made.store.save("resize", "Web", changed("resize", { longest: 5 }));
+    made.files.texts[PATH + ".renaming"] = JSON.stringify({ action: "resize", from: "Web", to: "Größe" });
+    if (done > 0) {
+        made.file.add(["Größe"].concat(made.file.rows[0].fields.slice(1)));
+    }
+    if (done > 1) {
+        made.file.rows.shift();
+    }
+    return made;
+}
+
+test("endsARenameThatWasCutOff", () => {
+    [["Web"], ["Größe"], ["Größe"]].forEach((names, done) => {
+        const { store, files } = cutOffRename(done);
+        equal(store.list("crop"), []);
+        equal(store.list("resize").map((preset) => preset.name), names, String(done));
+        equal([store.list("resize").length, files.texts[PATH + ".renaming"]], [1, ""]);
+    });
+});
+
+test("leavesAPresetThatWasChangedSinceARenameWasCutOff", () => {
+    const { store } = cutOffRename(1);
+    store.save("resize", "Web", changed("resize", { longest: 6 }));
+    equal(store.list("resize").map((preset) => preset.name), ["Größe", "Web"]);
+    for (const text of ["no note", "null", "[]", JSON.stringify({ action: "resize", from: 1, to: "Web" })]) {
+        const { store: other, files } = cutOffRename(1);
+        files.texts[PATH + ".renaming"] = text;
+        equal(other.list("resize").length, 2, text);
+    }
 });
 
 test("saysWhenAnotherProgramHasThatName", () => {
