@@ -102,13 +102,14 @@ QString ZtImageHandling::hSaveToNewImageFileMPR(const QString &basePath, const Q
     return write({basePath, type, qualityCode}, imageRef.bitmap(), ofSource);
 }
 
-QString ZtImageHandling::write(const Target &target, const Bitmap &bitmap, const EncodeOptions &ofSource)
+QString ZtImageHandling::write(const Target &target, const Bitmap &bitmap, const Result<EncodeOptions> &ofSource)
 {
-    EncodeOptions options = ofSource;
+    Result<EncodeOptions> options = ofSource;
     if (isJpeg(target.type)) {
         const double quality = image::qualityForCode(target.qualityCode);
         properties = QVariantMap{{qualityKey(), quality}};
-        options.lossyQuality = quality;
+        if (options)
+            options->lossyQuality = quality;
     }
     return image::writeAnswering(target.basePath + image::extensionForType(target.type), target.type, bitmap, options);
 }

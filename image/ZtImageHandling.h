@@ -190,14 +190,15 @@ private:
     /** Sets the type variables; false where the type is recognised and never written. */
     bool decideType(const QString &path, const QVariant &requestedType);
     void openUpright(const QString &path);
-    QString write(const Target &target, const platform::Bitmap &bitmap, const platform::EncodeOptions &ofSource);
+    QString write(const Target &target, const platform::Bitmap &bitmap,
+                  const platform::Result<platform::EncodeOptions> &ofSource);
     QString writeDrawn(const Target &target, const platform::Result<platform::Bitmap> &drawn);
     /** Reads the crop sheet; tells the rectangle and keeps its origin. @p size belongs to the tab "W x H". */
     image::CropRect readCrop(QSize size, image::CropSpace space);
     image::CornerOptions readCorners(quint32 radius, const QString &shapeCode) const;
     /** Sets the type variables by a format code; answers the name of the new file. */
     QString decideComposedName(const QString &path, const QString &formatCode);
-    QString writeComposed(const QString &path, const platform::EncodeOptions &options);
+    QString writeComposed(const QString &path, const platform::Result<platform::EncodeOptions> &options);
 
     QPointer<QObject> scImageCropPos;
     QPointer<QObject> tfCropXOffset;

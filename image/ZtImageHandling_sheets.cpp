@@ -172,7 +172,7 @@ QString ZtImageHandling::addOverlayColor(const QString &path, const QString &pre
     return writeComposed(prefix + name, options);
 }
 
-QString ZtImageHandling::writeComposed(const QString &path, const EncodeOptions &options)
+QString ZtImageHandling::writeComposed(const QString &path, const Result<EncodeOptions> &options)
 {
     imageMasked = composedMasked.isNull() ? BitmapHandle() : BitmapHandle(composedMasked.bitmap());
     return image::writeAnswering(path, myFileType, composedMasked.bitmap(), options);

@@ -86,23 +86,27 @@ QString outputBase(const QString &prefix, const QString &sourcePath)
     return prefix + platform::baseName(sourcePath);
 }
 
-platform::EncodeOptions optionsCarrying(const platform::ImageSource &source)
+platform::Result<platform::EncodeOptions> optionsCarrying(const platform::ImageSource &source)
 {
-    platform::EncodeOptions options;
-    options.metadata = source.metadata();
-    options.resolution = platform::WriteResolution::Yes;
-    return options;
+    return source.metadata().map([](const platform::Metadata &metadata) {
+        platform::EncodeOptions options;
+        options.metadata = metadata;
+        options.resolution = platform::WriteResolution::Yes;
+        return options;
+    });
 }
 
 QString writeAnswering(const QString &path, const QString &type, const platform::Bitmap &bitmap,
-                       const platform::EncodeOptions &options)
+                       const platform::Result<platform::EncodeOptions> &options)
 {
     if (isNeverWritten(type))
         return statusNotSupported();
     const std::optional<platform::FileFormat> format = platform::fileFormatForType(type);
     if (!format)
         return statusFailed();
-    return answerFor(path, platform::writeImageFile(path, bitmap, *format, options));
+    return answerFor(path, options.and_then([&](const platform::EncodeOptions &known) {
+        return platform::writeImageFile(path, bitmap, *format, known);
+    }));
 }
 
 QString writeAnswering(const QString &path, const QByteArray &encoded)

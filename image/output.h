@@ -33,8 +33,11 @@ double qualityForCode(const QString &code);
 /** The output prefix with the source's name, less its extension, directly behind it. */
 QString outputBase(const QString &prefix, const QString &sourcePath);
 
-/** Options that carry a source's metadata and the resolution of what is written, where the type can hold them. */
-platform::EncodeOptions optionsCarrying(const platform::ImageSource &source);
+/**
+ * Options that carry a source's metadata and the resolution of what is written, where the type can hold them. Fails with Unreadable
+ * where it cannot be told what metadata there is.
+ */
+platform::Result<platform::EncodeOptions> optionsCarrying(const platform::ImageSource &source);
 
 /**
  * Writes one bitmap to a new file, replacing a file that is there.
@@ -42,13 +45,14 @@ platform::EncodeOptions optionsCarrying(const platform::ImageSource &source);
  * @param path    absolute, extension included; the folder must exist
  * @param type    type identifier of one of the six written types
  * @param bitmap  may be null, which fails
+ * @param options why there are none is a failure too
  * @return "OK"; "Failed" if the file could not be written or the type is unknown; "Not Supported" for Photoshop and PDF
  *
  * Atomic: on failure what was at @p path is still there. Logs "Failed to write image to " and the location when
  * encoding or writing fails, and nothing for a type that is not written.
  */
 QString writeAnswering(const QString &path, const QString &type, const platform::Bitmap &bitmap,
-                       const platform::EncodeOptions &options);
+                       const platform::Result<platform::EncodeOptions> &options);
 
 /** The same for a file that is encoded already: "OK", or "Failed" and the line in the log. */
 QString writeAnswering(const QString &path, const QByteArray &encoded);

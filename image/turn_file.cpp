@@ -39,15 +39,15 @@ Result<Bitmap> turnedPixels(Bitmap stored, const Turning &turning)
     return turning.exact ? platform::turned(stored, *turning.exact) : turned(stored, turning.degrees);
 }
 
-EncodeOptions optionsFor(const ImageSource &source, std::optional<FileFormat> format, const Turning &turning)
+Result<EncodeOptions> optionsFor(const ImageSource &source, std::optional<FileFormat> format, const Turning &turning)
 {
-    EncodeOptions options;
-    if (format == FileFormat::Jpeg || format == FileFormat::Tiff) {
-        const bool isOnItsSide = turning.exact && platform::swapsSides(*turning.exact);
-        options.metadata = isOnItsSide ? source.metadata().withResolutionSwapped() : source.metadata();
-        options.resolution = platform::WriteResolution::Yes;
-    }
-    return options;
+    if (format != FileFormat::Jpeg && format != FileFormat::Tiff)
+        return EncodeOptions();
+    return optionsCarrying(source).map([&](EncodeOptions options) {
+        if (turning.exact && platform::swapsSides(*turning.exact))
+            options.metadata = options.metadata.withResolutionSwapped();
+        return options;
+    });
 }
 
 } // namespace

@@ -30,16 +30,16 @@ mMeta::mMeta(QObject *parent) : QObject(parent) {}
 
 QVariant mMeta::hiDoNothing(const QString &path)
 {
-    const auto source = ImageSource::open(path);
-    if (!source) {
+    const auto properties =
+        ImageSource::open(path).and_then([](const ImageSource &source) { return source.properties(); });
+    if (!properties) {
         platform::setTextOf(m_commentField, mainText("NotSupported"));
         platform::setContentOf(m_treeController, {});
         return m_tree;
     }
-    const QVariantMap properties = source->properties();
-    const QVariant comment = commentIn(properties);
+    const QVariant comment = commentIn(*properties);
     platform::setTextOf(m_commentField, comment.isValid() ? comment.toString() : mainText("NotSupportedOrAvailable"));
-    propTree(properties);
+    propTree(*properties);
     platform::setContentOf(m_treeController, m_tree.toList());
     return m_tree;
 }
@@ -54,8 +54,7 @@ QVariantList mMeta::propTree(const QVariantMap &properties)
 
 QString mMeta::hGetExifUc(const QString &path)
 {
-    const auto source = ImageSource::open(path);
-    const QString comment = source ? source->metadata().userComment() : QString();
+    const QString comment = platform::readUserComment(path).value_or(QString());
     return comment.isNull() ? QStringLiteral("") : comment;
 }
 

@@ -204,8 +204,9 @@ QVariant FileDesk::facts(const QString &path) const
 
 QString FileDesk::profileName(const QString &path) const
 {
-    const auto source = platform::ImageSource::open(path);
-    return source ? source->properties().value(QStringLiteral("ProfileName")).toString() : QString();
+    const auto properties =
+        platform::ImageSource::open(path).and_then([](const auto &source) { return source.properties(); });
+    return properties.value_or(QVariantMap()).value(QStringLiteral("ProfileName")).toString();
 }
 
 QString FileDesk::writeComment(const QString &path, const QString &comment) const
@@ -217,8 +218,10 @@ QString FileDesk::writeComment(const QString &path, const QString &comment) cons
 QStringList FileDesk::lostMetadata(const QString &from, const QString &to) const
 {
     const auto groupsOf = [](const QString &path) {
-        const auto source = platform::ImageSource::open(path);
-        return source ? source->metadata().toProperties() : QVariantMap();
+        return platform::ImageSource::open(path)
+            .and_then([](const auto &source) { return source.metadata(); })
+            .value_or(platform::Metadata())
+            .toProperties();
     };
     const QVariantMap had = groupsOf(from);
     const QVariantMap has = groupsOf(to);

@@ -41,9 +41,10 @@ platform::EncodeOptions withResolution()
 }
 
 /** The source's metadata, with the orientation that its stored pixels have and nothing else claims. */
-Metadata metadataForStoredPixels(const ImageSource &source)
+Result<Metadata> metadataForStoredPixels(const ImageSource &source)
 {
-    return source.metadata().withOrientation(source.orientation());
+    return source.metadata().map(
+        [&source](const Metadata &metadata) { return metadata.withOrientation(source.orientation()); });
 }
 
 Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, const Metadata &metadata,
@@ -91,12 +92,15 @@ Result<void> write(const ImageSource &source, const Conversion &conversion)
     case TargetType::Pdf:
         return writePage(source, conversion.destination);
     case TargetType::Png:
-        return writeKeepingMetadata(source, FileFormat::Png, metadataForStoredPixels(source), conversion.destination);
-    case TargetType::Tiff: {
-        const Metadata metadata = metadataForStoredPixels(source);
-        return orElse(platform::writeRowsAsTiff(source, conversion.destination, metadata),
-                      [&] { return writeKeepingMetadata(source, FileFormat::Tiff, metadata, conversion.destination); });
-    }
+        return metadataForStoredPixels(source).and_then([&](const Metadata &metadata) {
+            return writeKeepingMetadata(source, FileFormat::Png, metadata, conversion.destination);
+        });
+    case TargetType::Tiff:
+        return metadataForStoredPixels(source).and_then([&](const Metadata &metadata) {
+            return orElse(platform::writeRowsAsTiff(source, conversion.destination, metadata), [&] {
+                return writeKeepingMetadata(source, FileFormat::Tiff, metadata, conversion.destination);
+            });
+        });
     case TargetType::Bmp:
         return orElse(platform::writeRowsAsBmp(source, conversion.destination),
                       [&] { return writePixels(source, FileFormat::Bmp, conversion); });

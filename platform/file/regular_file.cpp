@@ -32,6 +32,20 @@ tl::unexpected<Error> noOrdinaryFile(const QString &path)
 
 } // namespace
 
+qint64 NamedFile::readData(char *data, qint64 count)
+{
+    const qint64 read = QFile::readData(data, count);
+    if (read < 0)
+        m_readProblem = errorString();
+    return read;
+}
+
+QString readProblemOf(const QIODevice &device)
+{
+    const auto *file = dynamic_cast<const NamedFile *>(&device);
+    return file ? file->readProblem() : QString();
+}
+
 Result<void> openToRead(QFile &file, QIODevice::OpenMode more)
 {
     const QString path = file.fileName();

@@ -6,16 +6,28 @@
 
 namespace platform {
 
-/** A file that knows its name also when it was opened by a descriptor. */
+/**
+ * A file that knows its name also when it was opened by a descriptor, and remembers that some of it could not be read, which
+ * QFile forgets with the next call. Whoever looks for something that may not be there asks for that before he says "there is none".
+ */
 class NamedFile : public QFile
 {
 public:
     explicit NamedFile(const QString &path) : QFile(path), m_path(path) {}
     QString fileName() const override { return m_path; }
+    /** Why some of it could not be read; empty where all that was asked for was read. */
+    const QString &readProblem() const { return m_readProblem; }
+
+protected:
+    qint64 readData(char *data, qint64 count) override;
 
 private:
     QString m_path;
+    QString m_readProblem;
 };
+
+/** The same of any device; empty for those that are no NamedFile. */
+QString readProblemOf(const QIODevice &device);
 
 /**
  * Opens an ordinary file, or what a link to one leads to, for reading. Never waits for anybody.

@@ -1,7 +1,7 @@
 // Pictures made of any bytes at all: opened, looked at and decoded as the list, the preview and a conversion do it.
-#include "platform/imageio/image_source.h"
-#include "platform/imageio/picture_facts.h"
-#include "platform/imageio/user_comment_writer.h"
+#include "platform/imageio/comments/user_comment_writer.h"
+#include "platform/imageio/source/image_source.h"
+#include "platform/imageio/source/picture_facts.h"
 
 #include <QFile>
 #include <QImage>

@@ -37,6 +37,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     qsizetype count = walked(metadata.toProperties()) + metadata.userComment().size() + walked(block.toProperties()) +
                       block.userComment().size() + walked(platform::containerProperties(buffer));
     if (const auto source = platform::ImageSource::fromData(bytes))
-        count += walked(source->properties());
+        count += walked(source->properties().value_or(QVariantMap()));
     return count < 0 ? -1 : 0;
 }

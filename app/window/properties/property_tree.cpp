@@ -75,8 +75,9 @@ void PropertyTree::add(const QVariantMap &properties, QTreeWidgetItem *above)
 
 bool PropertyTree::showFile(const QString &path)
 {
-    const auto source = platform::ImageSource::open(path);
-    const QVariantMap properties = source ? source->properties() : QVariantMap();
+    const auto known =
+        platform::ImageSource::open(path).and_then([](const auto &source) { return source.properties(); });
+    const QVariantMap properties = known.value_or(QVariantMap());
     setUpdatesEnabled(false);
     clear();
     add(properties, nullptr);
@@ -90,7 +91,7 @@ bool PropertyTree::showFile(const QString &path)
         filter(item, m_words.isEmpty());
     }
     setUpdatesEnabled(true);
-    return source.has_value();
+    return known.has_value();
 }
 
 /** Shown is what matches, what lies below a name that matches, and the way to it. */

@@ -1,6 +1,7 @@
 #include "platform/imageio/bytes/picture_bytes.h"
 
 #include "platform/file/regular_file.h"
+#include "platform/graphics/pixels.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -15,7 +16,7 @@ std::unique_ptr<QIODevice> PictureBytes::device() const
         buffer->setData(bytes);
         result = std::move(buffer);
     } else {
-        auto file = std::make_unique<QFile>(path);
+        auto file = std::make_unique<NamedFile>(path);
         if (!openToRead(*file))
             return nullptr;
         return file;
@@ -27,8 +28,24 @@ std::unique_ptr<QIODevice> PictureBytes::device() const
 
 QByteArray PictureBytes::all() const
 {
-    const std::unique_ptr<QIODevice> opened = device();
-    return opened ? opened->readAll() : QByteArray();
+    const std::unique_ptr<QIODevice> opened = openedDevice();
+    QByteArray everything = opened->readAll();
+    demandRead(*opened);
+    return everything;
+}
+
+std::unique_ptr<QIODevice> PictureBytes::openedDevice() const
+{
+    std::unique_ptr<QIODevice> opened = device();
+    if (!opened)
+        throw vips::VError("it cannot be opened");
+    return opened;
+}
+
+void demandRead(const QIODevice &device)
+{
+    if (const QString problem = readProblemOf(device); !problem.isEmpty())
+        throw vips::VError(problem.toStdString());
 }
 
 } // namespace platform

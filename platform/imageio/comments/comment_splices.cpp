@@ -1,5 +1,6 @@
 #include "platform/imageio/comments/comment_splices.h"
 
+#include "platform/file/mapped_file.h"
 #include "platform/imageio/exif/tiff_comment.h"
 #include "platform/imageio/jpeg/jpeg_segments.h"
 #include "platform/imageio/tiff/camera_raw.h"
@@ -38,26 +39,6 @@ CommentSplices overSegments(const QList<JpegSegments::Range> &ranges, const QByt
     }
     return splices;
 }
-
-/** The bytes of an open file, without reading those that nobody asks for. */
-class MappedFile
-{
-public:
-    explicit MappedFile(QFile &file) : m_file(file), m_data(file.map(0, file.size())) {}
-    ~MappedFile()
-    {
-        if (m_data)
-            m_file.unmap(m_data);
-    }
-    Q_DISABLE_COPY_MOVE(MappedFile)
-
-    bool isThere() const { return m_data != nullptr; }
-    QByteArray bytes() const { return QByteArray::fromRawData(reinterpret_cast<const char *>(m_data), m_file.size()); }
-
-private:
-    QFile &m_file;
-    uchar *m_data;
-};
 
 /** A later page of a raw file of a camera may be the raw picture itself. */
 OtherPages otherPagesOf(const QByteArray &bytes)
@@ -109,7 +90,7 @@ CommentSplices tiffCommentSplices(QFile &file, const QString &comment)
     if (!mapped.isThere() || !tellsWhereItsPixelsAre(mapped.bytes()))
         return damagedFile();
     const auto splices = userCommentSplices(mapped.bytes(), comment, otherPagesOf(mapped.bytes()));
-    return splices ? CommentSplices(*splices) : damagedFile();
+    return splices && !mapped.isSpoilt() ? CommentSplices(*splices) : damagedFile();
 }
 
 int pagesLostToComment(QFile &file)

@@ -154,7 +154,10 @@ QByteArray webpHeader(QFile &file, const Part &picture)
 CommentSplices withRiffSize(QFile &file, QList<Splice> splices)
 {
     constexpr qint64 mostBytes = 0xfffffffe;
-    qint64 size = qint64(qFromLittleEndian<quint32>(bytesOf(file, 4, 4).constData()));
+    const QByteArray stated = bytesOf(file, 4, 4);
+    if (stated.isEmpty())
+        return damagedFile();
+    qint64 size = qint64(qFromLittleEndian<quint32>(stated.constData()));
     for (const Splice &splice : splices)
         size += splice.inserted.size() - splice.removed;
     if (size > mostBytes)
@@ -218,6 +221,8 @@ CommentSplices webpCommentSplices(QFile &file, const QString &comment)
     if (chunks.first().name == "VP8X") {
         const QByteArray flags = bytesOf(file, chunks.first().dataAt, 1);
         constexpr char hasExif = 0x08;
+        if (flags.isEmpty())
+            return damagedFile();
         splices.append({chunks.first().dataAt, 1, QByteArray(1, char(flags.at(0) | hasExif))});
     } else {
         QByteArray header = webpHeader(file, chunks.first());

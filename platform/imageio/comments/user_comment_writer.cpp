@@ -57,7 +57,8 @@ Result<void> checkEdited(const ImageSource &before, const QString &editedPath, c
                                edited->typeIdentifier() == before.typeIdentifier();
     if (!isSamePicture)
         return failure(ErrorCode::Unreadable, text("the picture could not be read afterwards"));
-    if (edited->metadata().userComment() != comment)
+    const Result<Metadata> written = edited->metadata();
+    if (!written || written->userComment() != comment)
         return failure(ErrorCode::Unreadable, text("the comment could not be read afterwards"));
     return {};
 }
@@ -76,7 +77,9 @@ bool canHoldUserComment(const QString &path)
 
 Result<QString> readUserComment(const QString &path)
 {
-    return ImageSource::open(path).map([](const ImageSource &source) { return source.metadata().userComment(); });
+    return ImageSource::open(path)
+        .and_then([](const ImageSource &source) { return source.metadata(); })
+        .map([](const Metadata &metadata) { return metadata.userComment(); });
 }
 
 int pagesLostToUserComment(const QString &path)
@@ -98,6 +101,8 @@ Result<void> writeUserComment(const QString &path, const QString &comment)
     if (const auto opened = openToRead(file, QIODevice::Unbuffered); !opened)
         return failed(opened.error().code, opened.error().message);
     const Result<QList<Splice>> splices = splicesFor(file, contentOf(file.read(contentHeadBytes)), comment);
+    if (!file.readProblem().isEmpty()) // what could not be read would be taken for not there, and be written over
+        return failed(ErrorCode::Unreadable, file.readProblem());
     if (!splices)
         return failed(splices.error().code, splices.error().message);
     const Result<ImageSource> picture = ImageSource::open(path);

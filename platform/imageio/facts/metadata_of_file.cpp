@@ -1,5 +1,6 @@
 #include "platform/imageio/facts/metadata_of_file.h"
 
+#include "platform/file/mapped_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/imageio/load/loaders.h"
 
@@ -35,26 +36,24 @@ QByteArray xmpOf(const vips::VImage &image)
 /** The decoder takes the blocks out of a container that the metadata reader does not know. */
 Metadata fromDecoder(const PictureBytes &bytes, Content content)
 {
-    try {
-        initVips();
-        const vips::VImage image = openImage(bytes, content);
-        return Metadata::fromBlocks(blockOf(image, VIPS_META_EXIF_NAME), xmpOf(image),
-                                    blockOf(image, VIPS_META_IPTC_NAME));
-    } catch (const vips::VError &error) {
-        takeVipsError(error);
-        return {};
-    }
+    initVips();
+    const vips::VImage image = openImage(bytes, content);
+    return Metadata::fromBlocks(blockOf(image, VIPS_META_EXIF_NAME), xmpOf(image), blockOf(image, VIPS_META_IPTC_NAME));
 }
 
 Metadata fromLargeFile(const QString &path)
 {
     QFile file(path);
-    if (!openToRead(file))
-        return {};
-    const uchar *data = file.map(0, file.size());
-    if (!data)
-        return {};
-    return Metadata::fromFileBytes(QByteArray::fromRawData(reinterpret_cast<const char *>(data), file.size()));
+    const auto opened = openToRead(file);
+    if (!opened)
+        throw vips::VError(opened.error().message.toStdString());
+    const MappedFile mapped(file);
+    if (!mapped.isThere())
+        throw vips::VError(file.errorString().toStdString());
+    Metadata metadata = Metadata::fromFileBytes(mapped.bytes());
+    if (mapped.isSpoilt())
+        throw vips::VError("some of it cannot be read");
+    return metadata;
 }
 
 /** The segments before the first scan hold all the metadata of a JPEG; the reader looks a little further ahead. */
@@ -63,6 +62,12 @@ QByteArray jpegHead(QIODevice &device)
     constexpr qint64 readAhead = 4096;
     const qint64 scan = startOfJpegScan(device);
     return scan > 0 && device.seek(0) ? device.read(scan + readAhead) : QByteArray();
+}
+
+Metadata inBytes(const QIODevice &device, const QByteArray &bytes)
+{
+    demandRead(device);
+    return Metadata::fromFileBytes(bytes);
 }
 
 } // namespace
@@ -82,13 +87,11 @@ Metadata metadataOf(const PictureBytes &bytes, Content content)
     default:
         break;
     }
-    const std::unique_ptr<QIODevice> device = bytes.device();
-    if (!device)
-        return {};
+    const std::unique_ptr<QIODevice> device = bytes.openedDevice();
     if (content == Content::Jpeg)
-        return Metadata::fromFileBytes(jpegHead(*device));
+        return inBytes(*device, jpegHead(*device));
     if (device->size() <= mostReadAtOnce || bytes.path.isEmpty())
-        return Metadata::fromFileBytes(device->readAll());
+        return inBytes(*device, device->readAll());
     return fromLargeFile(bytes.path);
 }
 

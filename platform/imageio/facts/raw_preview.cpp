@@ -1,5 +1,6 @@
 #include "platform/imageio/facts/raw_preview.h"
 
+#include "platform/file/mapped_file.h"
 #include "platform/imageio/formats/content.h"
 #include "platform/imageio/metadata/metadata_blocks.h"
 #include "platform/imageio/xmp/xmp_bounds.h"
@@ -17,8 +18,8 @@ bool hasReadableMetadata(const PictureBytes &file)
     QFile opened(file.path);
     if (file.path.isEmpty() || !opened.open(QIODevice::ReadOnly))
         return holdsDigestibleXmp(file.bytes);
-    const uchar *data = opened.map(0, opened.size());
-    return !data || holdsDigestibleXmp(QByteArray::fromRawData(reinterpret_cast<const char *>(data), opened.size()));
+    const MappedFile mapped(opened);
+    return !mapped.isThere() || (holdsDigestibleXmp(mapped.bytes()) && !mapped.isSpoilt());
 }
 
 QByteArray largestJpeg(const Exiv2::Image &image)

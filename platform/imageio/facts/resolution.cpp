@@ -91,12 +91,11 @@ Resolution ofMetadata(const PictureBytes &bytes, Content content)
 
 Resolution ofContainer(const PictureBytes &bytes, Content content)
 {
-    const std::unique_ptr<QIODevice> device = bytes.device();
-    if (!device)
-        return {};
-    if (content == Content::Png)
-        return ofPng(*device);
-    return content == Content::Bmp ? ofBitmapFile(*device) : ofPhotoshop(*device);
+    const std::unique_ptr<QIODevice> device = bytes.openedDevice();
+    const auto of = content == Content::Png ? ofPng : content == Content::Bmp ? ofBitmapFile : ofPhotoshop;
+    const Resolution stated = of(*device);
+    demandRead(*device);
+    return stated;
 }
 
 /** What the decoder finds in files whose metadata cannot be read otherwise. */
@@ -127,8 +126,10 @@ std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content conten
 {
     if (content != Content::Jpeg)
         return std::nullopt;
-    const std::unique_ptr<QIODevice> device = bytes.device();
-    return device ? readJpegHeader(*device) : std::nullopt;
+    const std::unique_ptr<QIODevice> device = bytes.openedDevice();
+    std::optional<JpegHeader> header = readJpegHeader(*device);
+    demandRead(*device);
+    return header;
 }
 
 Resolution resolutionOf(const PictureBytes &bytes, Content content)

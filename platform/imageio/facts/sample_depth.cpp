@@ -48,8 +48,10 @@ int sampleDepth(const PictureBytes &source, Content content, const vips::VImage 
 {
     constexpr const char *heifField = "heif-bitdepth";
     constexpr int bitsPerByte = 8;
-    const std::unique_ptr<QIODevice> device = source.device();
-    if (const int stated = device ? statedDepth(*device, content) : unknown; stated > unknown)
+    const std::unique_ptr<QIODevice> device = source.openedDevice();
+    const int stated = statedDepth(*device, content);
+    demandRead(*device);
+    if (stated > unknown)
         return stated;
     return image.get_typeof(heifField) != 0 ? image.get_int(heifField) : bytesPerComponent(image) * bitsPerByte;
 }

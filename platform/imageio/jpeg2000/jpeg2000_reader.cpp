@@ -113,10 +113,10 @@ VImage convertedFromLab(const VImage &samples, const Jpeg2000Header &header)
 VImage loadJpeg2000(const PictureBytes &source)
 {
     constexpr qint64 mostBeforePixels = 4 << 20;
-    const std::unique_ptr<QIODevice> device = source.device();
+    const std::unique_ptr<QIODevice> device = source.openedDevice();
     auto decoding = std::make_unique<Decoding>();
     decoding->source = source;
-    decoding->header = device ? readJpeg2000Header(*device) : Jpeg2000Header();
+    decoding->header = readJpeg2000Header(*device);
     if (!decoding->header.valid)
         throw vips::VError("its header is damaged");
     const Jpeg2000Header header = decoding->header;
@@ -127,6 +127,7 @@ VImage loadJpeg2000(const PictureBytes &source)
         return convertedFromLab(pixels, header);
     device->seek(0);
     const QByteArray profile = jpeg2000Profile(device->read(mostBeforePixels));
+    demandRead(*device);
     if (profile.isEmpty())
         return pixels;
     const VImage owner = pixels.copy();

@@ -31,6 +31,18 @@ VSource sourceOf(const PictureBytes &source)
     return VSource::new_from_memory(source.bytes.constData(), size_t(source.bytes.size()));
 }
 
+/** Of a container whose library ends the program where a read fails in the middle of a number: it gets bytes that are there. */
+VSource wholeSourceOf(const PictureBytes &source)
+{
+    if (source.path.isEmpty())
+        return sourceOf(source);
+    const QByteArray bytes = source.all();
+    VipsBlob *blob = vips_blob_copy(bytes.constData(), size_t(bytes.size()));
+    const VSource whole = VSource::new_from_blob(blob);
+    vips_area_unref(VIPS_AREA(blob));
+    return whole;
+}
+
 VOption *commonOptions()
 {
     return VImage::option()->set("access", VIPS_ACCESS_SEQUENTIAL)->set("fail_on", VIPS_FAIL_ON_ERROR);
@@ -58,19 +70,13 @@ VImage withProfile(const VImage &image, const QByteArray &profile)
     return owner;
 }
 
-std::unique_ptr<QIODevice> openedDevice(const PictureBytes &source)
-{
-    std::unique_ptr<QIODevice> device = source.device();
-    if (!device)
-        throw vips::VError("it cannot be opened");
-    return device;
-}
-
 VImage loadBitmapFile(const PictureBytes &source)
 {
-    const std::unique_ptr<QIODevice> device = openedDevice(source);
+    const std::unique_ptr<QIODevice> device = source.openedDevice();
     const VImage pixels = bmpPixels(*device);
-    return withProfile(pixels, readBmpProfile(*device));
+    const QByteArray profile = readBmpProfile(*device);
+    demandRead(*device);
+    return withProfile(pixels, profile);
 }
 
 /**
@@ -79,7 +85,7 @@ VImage loadBitmapFile(const PictureBytes &source)
  */
 VImage loadTiffThroughQt(const PictureBytes &source, const vips::VError &reason)
 {
-    const std::unique_ptr<QIODevice> device = openedDevice(source);
+    const std::unique_ptr<QIODevice> device = source.openedDevice();
     QImageReader::setAllocationLimit(0); // sizes are checked against a budget of ours
     QImageReader reader(device.get(), "tiff");
     constexpr int rgba = 4;
@@ -119,7 +125,9 @@ SampleFacts factsOf(const TiffSamples &samples, const VImage &image)
 
 VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
 {
-    const TiffSamples samples = readTiffSamples(*openedDevice(source), options.page);
+    const std::unique_ptr<QIODevice> device = source.openedDevice();
+    const TiffSamples samples = readTiffSamples(*device, options.page);
+    demandRead(*device);
     if (samples.isLogarithmic() && options.page == 0)
         return loadTiffThroughQt(source, vips::VError("its size is too large"));
     try {
@@ -135,12 +143,12 @@ VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
 /** The file says which of its items is the picture; the others count behind it, in their order. */
 VImage loadHeif(const PictureBytes &source, const LoadOptions &options)
 {
-    const VImage primary = VImage::heifload_source(sourceOf(source), commonOptions()); // where no page is named
+    const VImage primary = VImage::heifload_source(wholeSourceOf(source), commonOptions()); // where no page is named
     if (options.page == 0)
         return withOwnProfile(primary);
     const int primaryPage = primary.get_typeof("heif-primary") != 0 ? primary.get_int("heif-primary") : 0;
     const int page = options.page - (options.page <= primaryPage ? 1 : 0);
-    return withOwnProfile(VImage::heifload_source(sourceOf(source), commonOptions()->set("page", page)));
+    return withOwnProfile(VImage::heifload_source(wholeSourceOf(source), commonOptions()->set("page", page)));
 }
 
 /** A short text can ask for any amount of work, and nothing can stop the library once it draws. */
@@ -178,7 +186,7 @@ VImage openImage(const PictureBytes &source, Content content, const LoadOptions 
     case Content::Jpeg2000:
         return loadJpeg2000(source);
     case Content::Photoshop:
-        return photoshopPixels(*openedDevice(source));
+        return photoshopPixels(*source.openedDevice());
     case Content::Pdf:
         return VImage::pdfload_source(sourceOf(source),
                                       commonOptions()->set("page", options.page)->set("scale", options.drawingScale));

@@ -51,8 +51,12 @@ QSizeF ImageSource::pointSize() const
 {
     constexpr double pointsPerInch = 72;
     Resolution resolution;
-    if (m_file)
-        resolution = uprightResolution(resolutionOf(m_file->bytes, m_file->content), m_file->orientation);
+    try {
+        if (m_file)
+            resolution = uprightResolution(resolutionOf(m_file->bytes, m_file->content), m_file->orientation);
+    } catch (const vips::VError &error) {
+        takeVipsError(error); // whoever reads the pixels is told
+    }
     const auto inPoints = [](int pixels, double dpi) { return dpi > 0 ? pixels * pointsPerInch / dpi : pixels; };
     const QSize pixels = uprightSize();
     return {inPoints(pixels.width(), resolution.horizontal), inPoints(pixels.height(), resolution.vertical)};
@@ -72,14 +76,15 @@ QString ImageSource::colorSpaceName() const
     }
 }
 
-QVariantMap ImageSource::properties() const
+Result<QVariantMap> ImageSource::properties() const
 {
     if (!m_file)
-        return {};
-    QVariantMap properties = metadata().toProperties();
-    if (const std::unique_ptr<QIODevice> device = m_file->bytes.device())
-        properties.insert(containerProperties(*device));
+        return QVariantMap();
     try {
+        QVariantMap properties = m_file->metadata().toProperties();
+        const std::unique_ptr<QIODevice> device = m_file->bytes.openedDevice();
+        properties.insert(containerProperties(*device));
+        demandRead(*device);
         const vips::VImage image = openImage(m_file->bytes, m_file->content);
         addPixelProperties(properties, image);
         properties.insert(QStringLiteral("Depth"), sampleDepth(m_file->bytes, m_file->content, image));
@@ -88,10 +93,10 @@ QVariantMap ImageSource::properties() const
             properties.insert(QStringLiteral("DPIWidth"), resolution.horizontal);
             properties.insert(QStringLiteral("DPIHeight"), resolution.vertical);
         }
+        return properties;
     } catch (const vips::VError &error) {
-        takeVipsError(error);
+        return unreadable(m_file->name(), takeVipsError(error));
     }
-    return properties;
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #include "platform/imageio/source/image_source.h"
 
+#include "platform/file/regular_file.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/facts/metadata_of_file.h"
 #include "platform/imageio/facts/raw_preview.h"
@@ -28,11 +29,6 @@ using File = ImageSource::File;
 QString text(const char *sentence)
 {
     return QCoreApplication::translate("platform", sentence);
-}
-
-tl::unexpected<Error> unreadable(const QString &name, const QString &reason)
-{
-    return failure(ErrorCode::Unreadable, text("Cannot read %1: %2").arg(name, reason));
 }
 
 tl::unexpected<Error> tooLarge(const QString &name, QSize size)
@@ -148,6 +144,8 @@ Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
                            .arg(file->name(), exists ? text("no permission") : text("there is no such file")));
     }
     const QByteArray head = device->read(contentHeadBytes);
+    if (const QString problem = readProblemOf(*device); !problem.isEmpty())
+        return unreadable(file->name(), problem);
     file->content = contentOf(head);
     const bool isRaw = isCameraRaw(head);
     const bool isRawWhole = !isRaw || isWholeRaw(*device);
@@ -214,6 +212,22 @@ LoadOptions loadOptionsFor(const File &file, QSize wanted)
 
 } // namespace
 
+tl::unexpected<Error> unreadable(const QString &name, const QString &reason)
+{
+    return failure(ErrorCode::Unreadable, text("Cannot read %1: %2").arg(name, reason));
+}
+
+Result<Metadata> ImageSource::metadata() const
+{
+    if (!m_file)
+        return Metadata();
+    try {
+        return m_file->metadata();
+    } catch (const vips::VError &error) {
+        return unreadable(m_file->name(), takeVipsError(error));
+    }
+}
+
 Result<ImageSource> ImageSource::open(const QString &path)
 {
     return opened({path, {}}).map([](std::shared_ptr<const File> file) { return ImageSource(std::move(file)); });
@@ -262,11 +276,6 @@ QSize ImageSource::uprightSize() const
 int ImageSource::orientation() const
 {
     return m_file ? m_file->orientation : 1;
-}
-
-Metadata ImageSource::metadata() const
-{
-    return m_file ? m_file->metadata() : Metadata();
 }
 
 Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const

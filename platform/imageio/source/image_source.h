@@ -62,10 +62,10 @@ public:
     /** 1 to 8; 1 where none or no valid one is stated, or where the container has turned the picture already. */
     int orientation() const;
 
-    /** The file's metadata, for writing it into another file. Empty where it has none. */
-    Metadata metadata() const;
-    /** The file's metadata as nested dictionaries; see Metadata::toProperties() and containerProperties() for the keys. */
-    QVariantMap properties() const;
+    /** The file's metadata, for writing it into another file. Empty where it has none; Unreadable where that cannot be told. */
+    Result<Metadata> metadata() const;
+    /** The file's metadata as nested dictionaries. Fails with Unreadable where some of it could not be read. */
+    Result<QVariantMap> properties() const;
 
     /** All pixels. Fails with Unreadable (damaged, cut short), InvalidValue (index) or TooLarge. */
     Result<Bitmap> decode(const DecodeOptions &options = {}) const;

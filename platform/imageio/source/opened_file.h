@@ -23,11 +23,17 @@ struct ImageSource::File
     QString name() const { return path().isEmpty() ? QStringLiteral("the data") : path(); }
     bool isRaw() const { return !raw.path.isEmpty() || !raw.bytes.isEmpty(); }
     QString path() const { return isRaw() ? raw.path : bytes.path; }
-    /** What the file says of the picture; of a raw file, what the camera wrote there and not into the preview. */
+    /**
+     * What the file says of the picture; of a raw file, what the camera wrote there and not into the preview. Throws vips::VError
+     * where the file cannot be read any more.
+     */
     Metadata metadata() const;
 };
 
 /** Asks for that amount before anything of @p image, which is still to be computed, is decoded; see memoryIsLeftFor(). */
 Result<void> memoryIsLeftToDecode(const ImageSource::File &file, const vips::VImage &image, const Outcome &outcome);
+
+/** The failure of reading that messages tell. */
+tl::unexpected<Error> unreadable(const QString &name, const QString &reason);
 
 } // namespace platform

@@ -212,13 +212,9 @@ PictureFacts factsOfRawFile(QIODevice &file)
     return facts.camera.isEmpty() ? PictureFacts() : facts;
 }
 
-} // namespace
-
-PictureFacts pictureFacts(const QString &path)
+PictureFacts factsOf(QFile &file)
 {
-    QFile file(path);
-    if (!openToRead(file))
-        return {};
+    const QString path = file.fileName();
     const QByteArray head = file.peek(contentHeadBytes);
     const Content content = contentOf(head);
     if (content == Content::Unknown && !isCameraRaw(head)) // raw files of some makers have a mark of their own
@@ -232,11 +228,26 @@ PictureFacts pictureFacts(const QString &path)
     facts.pixels = source->uprightSize();
     facts.typeIdentifier = source->typeIdentifier();
     const MetadataParts parts = partsOf(file, content);
+    const Result<Metadata> all = parts.isElsewhere ? source->metadata() : Metadata();
+    if (!all)
+        return {};
     if (parts.isElsewhere)
-        takeProperties(facts, source->metadata().toProperties());
+        takeProperties(facts, all->toProperties());
     else
         takeParts(facts, parts);
     return facts;
+}
+
+} // namespace
+
+PictureFacts pictureFacts(const QString &path)
+{
+    NamedFile file(path);
+    if (!openToRead(file))
+        return {};
+    const PictureFacts facts = factsOf(file);
+    // A picture of which some could not be read has not "no date": sorted by it, it would go astray.
+    return file.readProblem().isEmpty() ? facts : PictureFacts();
 }
 
 QDateTime statedDate(const QString &text)

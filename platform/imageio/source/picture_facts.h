@@ -18,7 +18,7 @@ struct PictureFacts
 
 /**
  * Reads the header of the file at @p path; a fraction of a millisecond for a JPEG of any size. A file that is no picture, is
- * cut short or damaged has no facts. Of a camera's raw file whose picture cannot be decoded, what it states is known and its
+ * cut short or damaged has no facts, and neither has one of which some cannot be read. Of a camera's raw file whose picture cannot be decoded, what it states is known and its
  * size is not.
  *
  * taken is the EXIF original date, else the date of scanning, else the TIFF date, else the date in XMP; a date that no

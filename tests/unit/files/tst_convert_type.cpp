@@ -440,10 +440,10 @@ void TestConvertType::keepsMetadataInPngAndTiffOnly()
     QFETCH(QString, name);
     const auto source = ImageSource::open(pictureNamed(name));
     QVERIFY(source);
-    const QVariantMap known = source->metadata().toProperties();
+    const QVariantMap known = source->metadata()->toProperties();
     const auto kept = [&](const char *type) {
         convert(pictureNamed(name), type, "made");
-        return ImageSource::open(at("made"))->metadata().toProperties();
+        return ImageSource::open(at("made"))->metadata()->toProperties();
     };
     for (const char *type : {"png", "tiff"}) {
         const QVariantMap made = kept(type);

@@ -236,7 +236,7 @@ private Q_SLOTS:
         const QString path = pictureNamed("own/metadata/every-group.jpg");
         const auto model = [this](const char *name) {
             const auto opened = ImageSource::open(m_out + text(name));
-            return opened ? opened->properties().value(text("{TIFF}")).toMap().value(text("Model")).toString()
+            return opened ? opened->properties()->value(text("{TIFF}")).toMap().value(text("Model")).toString()
                           : QStringLiteral("no picture");
         };
         for (const char *code : {"1", "7"})

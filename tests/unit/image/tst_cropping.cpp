@@ -271,7 +271,7 @@ private Q_SLOTS:
         const auto model = [this](const char *name) {
             const auto written = platform::ImageSource::open(m_out + QString::fromUtf8(name));
             return written
-                       ? written->properties().value(QStringLiteral("{TIFF}")).toMap().value(QStringLiteral("Model"))
+                       ? written->properties()->value(QStringLiteral("{TIFF}")).toMap().value(QStringLiteral("Model"))
                        : QVariant();
         };
         QCOMPARE(model("every-group.tiff").toString(), QStringLiteral("Test Camera"));

@@ -15,7 +15,7 @@ const QString camera = picturePath("own/metadata/tall.jpg");
 
 Metadata metadataOf(const QString &path)
 {
-    return ImageSource::open(path).value_or(ImageSource()).metadata();
+    return ImageSource::open(path).value_or(ImageSource()).metadata().value();
 }
 
 QVariantMap group(const Metadata &metadata, const char *name)

@@ -360,7 +360,7 @@ private Q_SLOTS:
         for (const char *operation : {"90", "-90"}) {
             QCOMPARE(turn(service, QString::fromLatin1(operation), at(name), out()), QStringLiteral("OK"));
             QCOMPARE(dpi(out() + name), QSize(98, 204));
-            const QVariantMap properties = ImageSource::open(out() + name)->metadata().toProperties();
+            const QVariantMap properties = ImageSource::open(out() + name)->metadata()->toProperties();
             QCOMPARE(properties.value(QStringLiteral("DPIWidth")).toDouble(), 98.0);
             QCOMPARE(properties.value(QStringLiteral("DPIHeight")).toDouble(), 204.0);
         }

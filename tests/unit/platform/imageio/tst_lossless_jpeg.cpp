@@ -247,8 +247,8 @@ private Q_SLOTS:
             QCOMPARE(result->storedSize(), size);
             QCOMPARE(result->orientation(), source->orientation());
             QCOMPARE(stored(*turned).iccProfile(), stored(pictures::bytesOf(path)).iccProfile());
-            const QVariantMap before = source->metadata().toProperties();
-            const QVariantMap after = result->metadata().toProperties();
+            const QVariantMap before = source->metadata()->toProperties();
+            const QVariantMap after = result->metadata()->toProperties();
             QVariantMap tiff = before.value(QStringLiteral("{TIFF}")).toMap();
             tiff.remove(QStringLiteral("Compression")); // of the old file's pixels, and wrong in any JPEG
             tiff.remove(QStringLiteral("PhotometricInterpretation"));

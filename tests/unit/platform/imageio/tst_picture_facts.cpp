@@ -275,7 +275,7 @@ private Q_SLOTS:
                 continue;
             QVERIFY2(facts.pixels == source->uprightSize(), qPrintable(path));
             QVERIFY2(facts.typeIdentifier == source->typeIdentifier(), qPrintable(path));
-            const QVariantMap properties = source->metadata().toProperties();
+            const QVariantMap properties = source->metadata()->toProperties();
             const auto text = [&properties](const char *group, const char *key) {
                 return properties.value(QString::fromLatin1(group)).toMap().value(QString::fromLatin1(key)).toString();
             };

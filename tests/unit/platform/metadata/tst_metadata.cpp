@@ -120,7 +120,7 @@ QImage storedPixels(const QByteArray &file)
 Metadata metadataOfPicture(const QString &path)
 {
     const auto source = platform::ImageSource::open(pictureNamed(path));
-    return source ? source->metadata() : Metadata::fromFileBytes(contentOf(pictureNamed(path)));
+    return source ? source->metadata().value() : Metadata::fromFileBytes(contentOf(pictureNamed(path)));
 }
 
 /** Everything from the first table on: what says how the pixels are coded, and the pixels. */
