@@ -1,10 +1,11 @@
 #include "platform/imageio/bytes/picture_bytes.h"
 
 #include "platform/file/regular_file.h"
-#include "platform/graphics/pixels.h"
 
 #include <QBuffer>
 #include <QFile>
+
+#include <vips/vips8>
 
 namespace platform {
 
