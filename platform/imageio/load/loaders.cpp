@@ -154,8 +154,12 @@ VImage loadHeif(const PictureBytes &source, const LoadOptions &options)
 /** A short text can ask for any amount of work, and nothing can stop the library once it draws. */
 VImage loadSvg(const PictureBytes &source, const LoadOptions &options)
 {
+    const QByteArray text = source.all();
+    // Over some numbers the library ends the process as soon as it reads them, before it tells any size.
+    if (!canDrawSvg(text, QSize(1, 1)))
+        throw vips::VError("drawing it would take too long");
     const VImage image = VImage::svgload_source(sourceOf(source), commonOptions()->set("scale", options.drawingScale));
-    if (!canDrawSvg(source.all(), QSize(image.width(), image.height())))
+    if (!canDrawSvg(text, QSize(image.width(), image.height())))
         throw vips::VError("drawing it would take too long");
     return image;
 }

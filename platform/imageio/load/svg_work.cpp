@@ -1,10 +1,9 @@
 #include "platform/imageio/load/svg_work.h"
 
-#include "platform/graphics/resample.h"
+#include "platform/imageio/load/svg_elements.h"
 
 #include <QHash>
 #include <QList>
-#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -13,167 +12,144 @@
 namespace platform {
 namespace {
 
-/** Nanoseconds for each pixel of the canvas; measured with the library that draws. */
-constexpr double plainPrimitive = 40;
-constexpr double onePerOctave = 60;
-constexpr double onePerRadius = 50;
-constexpr double onePerKernelNumber = 6;
-constexpr double layer = 10;
-constexpr double smallShape = 0.005;
 /** More than this is as good as endless. */
 constexpr double endless = 1e15;
 
-struct Node
+SvgCost sum(const SvgCost &a, const SvgCost &b, double times = 1)
 {
-    double own = smallShape;
-    int surfaces = 0;          ///< of the size of the canvas
-    QList<QString> references; ///< what it is painted, masked or filtered with, or a copy of
-    QList<qsizetype> children;
-    bool isDefinition = false; ///< drawn only where it is referred to
-};
-
-double largestNumber(QStringView text)
-{
-    double largest = 0;
-    for (const QStringView part : text.split(u' ', Qt::SkipEmptyParts))
-        largest = std::max(largest, std::abs(part.toDouble()));
-    return largest;
-}
-
-/** What one part of a filter takes. */
-double primitiveCost(QStringView name, const QXmlStreamAttributes &attributes)
-{
-    const auto number = [&attributes](const char *key) {
-        return largestNumber(attributes.value(QLatin1String(key)).toString().replace(u',', u' '));
-    };
-    if (name == QLatin1String("feTurbulence"))
-        return plainPrimitive + onePerOctave * std::max(1.0, number("numOctaves"));
-    if (name == QLatin1String("feMorphology"))
-        return plainPrimitive + onePerRadius * number("radius");
-    if (name == QLatin1String("feConvolveMatrix"))
-        return plainPrimitive + onePerKernelNumber * std::pow(std::max(3.0, number("order")), 2);
-    return plainPrimitive;
-}
-
-bool isDefinition(QStringView name)
-{
-    static const QList<QLatin1String> names = {
-        QLatin1String("defs"),    QLatin1String("filter"), QLatin1String("mask"),  QLatin1String("clipPath"),
-        QLatin1String("pattern"), QLatin1String("symbol"), QLatin1String("marker")};
-    return std::any_of(names.begin(), names.end(), [name](QLatin1String each) { return name == each; });
+    const auto bounded = [times](double one, double other) { return std::min(one + times * other, endless); };
+    return {bounded(a.aPixel, b.aPixel), bounded(a.aSide, b.aSide), bounded(a.once, b.once)};
 }
 
 /** The elements of a drawing, with what each of them takes. */
 class Drawing
 {
 public:
-    explicit Drawing(const QByteArray &text)
+    Drawing(const QByteArray &text, QSize size) : m_size(size)
     {
+        m_styles = SvgStyles(styleSheetOf(text));
         QXmlStreamReader reader(text);
         QList<qsizetype> open;
-        while (!reader.atEnd()) {
+        while (!reader.atEnd() && !m_isRefused) {
             const auto token = reader.readNext();
             if (token == QXmlStreamReader::EndElement && !open.isEmpty())
                 open.removeLast();
-            if (token == QXmlStreamReader::Characters)
-                m_styles = m_styles || reader.text().contains(QLatin1String("filter"));
-            if (token != QXmlStreamReader::StartElement)
-                continue;
-            const qsizetype index = m_nodes.size();
-            if (!open.isEmpty())
-                m_nodes[open.last()].children.append(index);
-            open.append(index);
-            m_isTooDeep = m_isTooDeep || open.size() > deepest || index > mostElements;
-            if (m_isTooDeep)
-                return;
-            addNode(reader.name(), reader.attributes());
+            if (token == QXmlStreamReader::Characters && !open.isEmpty())
+                addText(open.last(), reader.text().size());
+            if (token == QXmlStreamReader::StartElement) {
+                open.append(m_elements.size());
+                if (open.size() > 1)
+                    m_children[open.at(open.size() - 2)].append(open.last());
+                m_isRefused = open.size() > deepest || m_elements.size() > mostElements;
+                addElement(reader);
+            }
         }
         // What this reader cannot read the other one may.
-        if (reader.hasError() && text.contains("filter"))
-            m_isTooDeep = true;
+        if (reader.hasError() && (text.contains("filter") || text.contains("<!ENTITY")))
+            m_isRefused = true;
     }
 
-    double cost()
+    SvgWork work()
     {
-        if (m_isTooDeep)
-            return endless;
-        // A style sheet can put any filter on any element.
-        const double filtered = m_styles ? m_dearestFilter * double(m_nodes.size()) : 0;
-        return m_nodes.isEmpty() ? 0 : costOf(0, 0) + filtered;
+        if (m_isRefused)
+            return {endless, 0};
+        if (m_elements.isEmpty())
+            return {};
+        constexpr double nanosecond = 1e-9;
+        constexpr double tileSide = 2000; // the library draws in tiles, and all of a filter for each of them
+        constexpr double bytesPerPixel = 4;
+        const Total &total = totalOf(0, 0);
+        const double pixels = double(m_size.width()) * m_size.height();
+        const double tiles = std::ceil(m_size.width() / tileSide) * std::ceil(m_size.height() / tileSide);
+        const double side = std::max(m_size.width(), m_size.height());
+        const double matching = selectorCost * m_styles.selectors() * double(m_elements.size());
+        const double all =
+            total.cost.aPixel * pixels * tiles + total.cost.aSide * side * tiles + total.cost.once * tiles;
+        const int surfaces = std::max(m_hasLayers ? surfacesOfFilter : 0, 2 * total.layers);
+        return {(all + matching) * nanosecond, pixels * bytesPerPixel * (1 + surfaces) + bytesPerLetter * m_letters};
     }
-    int surfaces() const { return m_surfaces; }
 
 private:
     static constexpr qsizetype deepest = 500;
     static constexpr qsizetype mostElements = 1'000'000;
+    static constexpr double letterCost = 25'000;
+    static constexpr double bytesPerLetter = 5000;
+    static constexpr double selectorCost = 150;
+    static constexpr int surfacesOfFilter = 6;
 
-    void addNode(QStringView name, const QXmlStreamAttributes &attributes)
+    struct Total
     {
-        static const QRegularExpression reference(QStringLiteral("url\\(\\s*['\"]?#([^)'\"]+)['\"]?\\s*\\)"));
-        Node node;
-        node.isDefinition = isDefinition(name);
-        if (name.startsWith(QLatin1String("fe")))
-            node.own = primitiveCost(name, attributes);
-        m_dearestFilter += name.startsWith(QLatin1String("fe")) ? node.own : 0;
-        for (const QXmlStreamAttribute &attribute : attributes) {
-            const QString value = attribute.value().toString();
-            if (attribute.name() == QLatin1String("id"))
-                m_byId.insert(value, m_nodes.size());
-            if (attribute.name() == QLatin1String("href") && value.startsWith(u'#'))
-                node.references.append(value.mid(1));
-            for (auto match = reference.globalMatch(value); match.hasNext();)
-                node.references.append(match.next().captured(1));
-            const bool isLayer =
-                attribute.name() == QLatin1String("filter") || attribute.name() == QLatin1String("mask") ||
-                attribute.name() == QLatin1String("opacity") || value.contains(QLatin1String("filter:"));
-            node.own += isLayer ? layer : 0;
-            m_surfaces = std::max(m_surfaces, isLayer ? 6 : 0);
-        }
-        m_nodes.append(node);
+        SvgCost cost;
+        int layers = 0; ///< one in another
+    };
+
+    void addElement(const QXmlStreamReader &reader)
+    {
+        const qsizetype index = m_elements.size();
+        if (index == 0)
+            m_canvas = svgCanvas(reader.attributes(), m_size);
+        const SvgElement element = svgElement(reader.name(), reader.attributes(), m_styles, m_canvas);
+        m_isRefused = m_isRefused || element.isRefused;
+        m_hasLayers = m_hasLayers || element.isLayer;
+        if (!element.id.isEmpty())
+            m_byId.insert(element.id, index);
+        m_elements.append(element);
     }
 
-    double costOf(qsizetype index, int depth)
+    void addText(qsizetype element, qsizetype letters)
+    {
+        if (!m_elements.at(element).isText)
+            return;
+        m_elements[element].cost.once += letterCost * double(letters);
+        m_letters += double(letters);
+    }
+
+    Total totalOf(qsizetype index, int depth)
     {
         if (depth > deepest)
-            return endless;
+            return {{endless, endless, endless}, 0};
         if (const auto known = m_known.constFind(index); known != m_known.cend())
             return *known;
-        m_known.insert(index, 0); // whoever refers to itself is drawn once, or not at all
-        double sum = m_nodes[index].own;
-        for (const qsizetype child : m_nodes[index].children)
-            sum += m_nodes[child].isDefinition ? 0 : costOf(child, depth + 1);
-        for (const QString &name : m_nodes[index].references)
-            if (const auto target = m_byId.constFind(name); target != m_byId.cend())
-                sum += costOf(*target, depth + 1);
-        m_known.insert(index, std::min(sum, endless));
-        return m_known.value(index);
+        m_known.insert(index, {}); // whoever refers to itself is drawn once, or not at all
+        const SvgElement &element = m_elements.at(index);
+        Total total{element.cost, 0};
+        const auto add = [&total](const Total &part, double times) {
+            total.cost = sum(total.cost, part.cost, times);
+            total.layers = std::max(total.layers, part.layers);
+        };
+        for (const qsizetype child : m_children.value(index))
+            if (!m_elements.at(child).isDefinition)
+                add(totalOf(child, depth + 1), 1);
+        for (const SvgReference &reference : element.references)
+            if (const auto target = m_byId.constFind(reference.id); target != m_byId.cend())
+                add(totalOf(*target, depth + 1), reference.times);
+        total.layers += element.isLayer;
+        m_known.insert(index, total);
+        return total;
     }
 
-    QList<Node> m_nodes;
+    QSize m_size;
+    SvgStyles m_styles;
+    SvgCanvas m_canvas;
+    QList<SvgElement> m_elements;
+    QHash<qsizetype, QList<qsizetype>> m_children;
     QHash<QString, qsizetype> m_byId;
-    QHash<qsizetype, double> m_known;
-    double m_dearestFilter = 0;
-    int m_surfaces = 0;
-    bool m_styles = false;
-    bool m_isTooDeep = false;
+    QHash<qsizetype, Total> m_known;
+    double m_letters = 0;
+    bool m_hasLayers = false;
+    bool m_isRefused = false;
 };
 
 } // namespace
 
 SvgWork svgWork(const QByteArray &text, QSize size)
 {
-    Drawing drawing(text);
-    constexpr double nanosecond = 1e-9;
-    constexpr double tileSide = 2000; // the library draws in tiles, and all of a filter for each of them
-    constexpr double bytesPerPixel = 4;
-    const double pixels = double(size.width()) * size.height();
-    const double tiles = std::ceil(size.width() / tileSide) * std::ceil(size.height() / tileSide);
-    return {drawing.cost() * pixels * tiles * nanosecond, pixels * bytesPerPixel * (1 + drawing.surfaces())};
+    return Drawing(text, size).work();
 }
 
 bool canDrawSvg(const QByteArray &text, QSize size)
 {
-    constexpr double mostSeconds = 10;
+    constexpr double mostSeconds = 5;
     constexpr double mostBytes = 1e9;
     const SvgWork work = svgWork(text, size);
     return work.seconds <= mostSeconds && work.bytes <= mostBytes;

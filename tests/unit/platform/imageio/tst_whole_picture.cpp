@@ -98,6 +98,7 @@ private Q_SLOTS:
     void stepsOverSmallPartsInBlocks();
     void readsAJpegWithBytesBetweenItsSegments();
     void factsAndMetadataAgreeAboutRawFiles();
+    void isNotEndedByADrawing();
     void reckonsTheWorkOfDrawings_data();
     void reckonsTheWorkOfDrawings();
     void doesNotDrawWhatTakesTooLong();
@@ -269,6 +270,61 @@ void TestWholePicture::factsAndMetadataAgreeAboutRawFiles()
     QCOMPARE(platform::pictureFacts(real).camera, QStringLiteral("Panasonic DMC-LX3"));
 }
 
+/** Rows of content, size, and whether it is drawn. */
+static void addDrawingsOfAllKinds()
+{
+    const QByteArray path = "<path d='M10 10C900 0 0 900 500 500' stroke='red'/>";
+    QTest::newRow("small paths") << QByteArray("<path d='M10 10c9 0 0 9 5 5l1-1z'/>").repeated(30'000)
+                                 << QSize(1000, 1000) << true;
+    QTest::newRow("paths over all of it") << path.repeated(1000) << QSize(1000, 1000) << true;
+    QTest::newRow("too many of these") << path.repeated(100'000) << QSize(1000, 1000) << false;
+    QTest::newRow("a tangle") << "<path d='M0 0" + QByteArray("L900 5L5 900").repeated(100'000) + "'/>"
+                              << QSize(1000, 1000) << false;
+    QTest::newRow("a wide line") << "<path stroke-width='500' d='M0 0" + QByteArray("L900 5L5 900").repeated(3000) +
+                                        "'/>"
+                                 << QSize(1000, 1000) << false;
+    QTest::newRow("large rectangles") << QByteArray("<rect width='1000' height='1000'/>").repeated(100'000)
+                                      << QSize(1000, 1000) << false;
+    const QByteArray marked = "<marker id='m'><g opacity='.5'><rect width='9' height='9'/></g></marker>";
+    const QByteArray marking = QByteArray("d='M0 0") + QByteArray("L5 5").repeated(5000) + "'/>";
+    QTest::newRow("markers") << marked + "<path marker-mid='url(#m)' " + marking << QSize(1000, 1000) << false;
+    QTest::newRow("markers by a style sheet")
+        << "<style>.a,path.b{marker-mid:url(#m)}</style>" + marked + "<path class='b' " + marking << QSize(1000, 1000)
+        << false;
+    QTest::newRow("layers in layers") << QByteArray("<g style='opacity:.9'>").repeated(300) << QSize(1000, 1000)
+                                      << false;
+    QTest::newRow("layers by a style sheet")
+        << "<style>.l{mix-blend-mode:multiply}</style>" + QByteArray("<g class='l'/>").repeated(3000)
+        << QSize(1000, 1000) << false;
+    QTest::newRow("others by a style sheet")
+        << "<style>.l{opacity:.5}.k{fill-opacity:.5}</style>" + QByteArray("<rect class='k'/>").repeated(3000)
+        << QSize(1000, 1000) << true;
+    QTest::newRow("a book") << "<text>" + QByteArray("word ").repeated(100'000) + "</text>" << QSize(1000, 1000)
+                            << false;
+    QTest::newRow("a page") << "<text>" + QByteArray("word ").repeated(1000) + "</text>" << QSize(1000, 1000) << true;
+    QTest::newRow("a rainbow") << "<radialGradient id='g'>" + QByteArray("<stop/>").repeated(5000) +
+                                      "</radialGradient>" +
+                                      QByteArray("<rect fill='url(#g)' width='1000' height='1000'/>").repeated(9)
+                               << QSize(1000, 1000) << false;
+    QTest::newRow("rules for everybody") << "<style>" + QByteArray("a b{fill:red}").repeated(6000) + "</style>" +
+                                                QByteArray("<g/>").repeated(10'000)
+                                         << QSize(100, 100) << false;
+    const auto kernel = [](const char *order) { return QByteArray("<feConvolveMatrix order='") + order + "'/>"; };
+    QTest::newRow("a large kernel") << kernel("20") << QSize(10, 10) << true;
+    QTest::newRow("a kernel that ends the process") << kernel("21") << QSize(10, 10) << false;
+    QTest::newRow("a filter that is nowhere") << QByteArray("<filter width='0'/>") << QSize(10, 10) << false;
+    QTest::newRow("a filter far away") << QByteArray("<filter y='1e38'/>") << QSize(10, 10) << false;
+}
+
+void TestWholePicture::isNotEndedByADrawing()
+{
+    const QByteArray kernel = "<feConvolveMatrix order='40' kernelMatrix='" + QByteArray("1 ").repeated(1600) + "'/>";
+    const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='90' height='90'><filter id='f'>" + kernel +
+                           "</filter><rect width='90' height='90' filter='url(#f)'/></svg>";
+    const auto source = ImageSource::fromData(svg);
+    QVERIFY(!source || !source->decode());
+}
+
 void TestWholePicture::reckonsTheWorkOfDrawings_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -293,6 +349,7 @@ void TestWholePicture::reckonsTheWorkOfDrawings_data()
     QTest::newRow("a filter on a large canvas") << shadow + shape << QSize(20'000, 20'000) << false;
     QTest::newRow("copies of copies") << shadow + copies << QSize(500, 500) << false;
     QTest::newRow("itself") << QByteArray("<g id='a'><use href='#a'/></g>") << QSize(500, 500) << true;
+    addDrawingsOfAllKinds();
     QTest::newRow("groups in groups") << QByteArray("<g>").repeated(100'000) << QSize(500, 500) << false;
 }
 
@@ -301,7 +358,8 @@ void TestWholePicture::reckonsTheWorkOfDrawings()
     QFETCH(QByteArray, content);
     QFETCH(QSize, size);
     QFETCH(bool, isDrawn);
-    const QByteArray text = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>" + content + "</svg>";
+    const QByteArray box = "0 0 " + QByteArray::number(size.width()) + ' ' + QByteArray::number(size.height());
+    const QByteArray text = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='" + box + "'>" + content + "</svg>";
     QCOMPARE(platform::canDrawSvg(text, size), isDrawn);
 }
 
