@@ -594,9 +594,6 @@ declare module "quorlin" {
      */
     export class my2ndPhotoView {
         constructor();
-        simulationMode: Control | null;
-        /** The drawing scale after the last adjustment of the frame. */
-        pScale: double;
         /** The last angle given to rotateByDegrees, in degrees. */
         pAngle: double;
         pImageSize: size;
@@ -609,6 +606,11 @@ declare module "quorlin" {
         tNewFrameY: double;
         tNewFrameW: double;
         tNewFrameH: double;
+        /** Setting another frame tells cropBoundsDidChangeNotification of it, once awakeFromNib has run. */
+        frame: rectangle;
+        simulationMode: Control | null;
+        /** The drawing scale after the last adjustment of the frame. */
+        pScale: double;
         /** A picture is there. */
         pImageLoadedCrop: boolean;
         /** The mode; both show the same. */
@@ -617,8 +619,16 @@ declare module "quorlin" {
         pImageMain: Picture | null;
         pImageMainOrig: Picture | null;
         pImageCrop: Picture | null;
-        /** Setting another frame tells cropBoundsDidChangeNotification of it, once awakeFromNib has run. */
-        frame: rectangle;
+        /** Keeps the angle. The picture is not turned. */
+        rotateByDegrees(degrees: double): null;
+        /** A new picture of exactly this size in points, with all of the image in it. */
+        resizeImageAspectRatioFit(image: Picture | null, size: size): Picture | null;
+        /** A new picture of exactly this size, filled by the image. */
+        resizeImageAspectRatioFitFullFrame(image: Picture | null, size: size): Picture | null;
+        /** Does nothing. */
+        viewWillDraw(): null;
+        /** Does nothing without a widget to draw to. */
+        drawRect(dirtyRect: rectangle): null;
         /** Starts without a picture and in fitted mode. */
         awakeFromNib(): null;
         /** Shows the picture at the path; one that cannot be read shows nothing. */
@@ -633,17 +643,7 @@ declare module "quorlin" {
         setImageToFullSize(): null;
         /** Takes the content size of the enclosing scroll view, where there is one, and sets the drawing scale. */
         adjustFrameToFit(): null;
-        /** Keeps the angle. The picture is not turned. */
-        rotateByDegrees(degrees: double): null;
         cropBoundsDidChangeNotification(notification: sender): null;
-        /** A new picture of exactly this size in points, with all of the image in it. */
-        resizeImageAspectRatioFit(image: Picture | null, size: size): Picture | null;
-        /** A new picture of exactly this size, filled by the image. */
-        resizeImageAspectRatioFitFullFrame(image: Picture | null, size: size): Picture | null;
-        /** Does nothing. */
-        viewWillDraw(): null;
-        /** Does nothing without a widget to draw to. */
-        drawRect(dirtyRect: rectangle): null;
     }
 
     /**
@@ -652,8 +652,6 @@ declare module "quorlin" {
      */
     export class myMainPhotoView {
         constructor();
-        tfActivePicture: Control | null;
-        pScale: double;
         /** The last angle given to rotateByDegrees, in degrees. */
         pAngle: double;
         pImageSize: size;
@@ -666,6 +664,10 @@ declare module "quorlin" {
         tNewFrameY: double;
         tNewFrameW: double;
         tNewFrameH: double;
+        /** Setting another frame tells boundsDidChangeNotification of it, once awakeFromNib has run. */
+        frame: rectangle;
+        tfActivePicture: Control | null;
+        pScale: double;
         /** A picture is there; nothing is drawn while there is none. */
         pImageLoaded: boolean;
         /** True: the whole picture is fitted into the view. False: it fills the view. */
@@ -674,8 +676,16 @@ declare module "quorlin" {
         pImageOrig: Picture | null;
         pImage: Picture | null;
         pImageCrop: Picture | null;
-        /** Setting another frame tells boundsDidChangeNotification of it, once awakeFromNib has run. */
-        frame: rectangle;
+        /** Keeps the angle. The picture is not turned. */
+        rotateByDegrees(degrees: double): null;
+        /** A new picture of exactly this size in points, with all of the image in it. */
+        resizeImageAspectRatioFit(image: Picture | null, size: size): Picture | null;
+        /** A new picture of exactly this size, filled by the image. */
+        resizeImageAspectRatioFitFullFrame(image: Picture | null, size: size): Picture | null;
+        /** Does nothing. */
+        viewWillDraw(): null;
+        /** Does nothing without a widget to draw to. */
+        drawRect(dirtyRect: rectangle): null;
         /** Starts without a picture and in fitted mode. Logs "awakeFromNib". */
         awakeFromNib(): null;
         /** Shows the picture at the path; one that cannot be read shows nothing. */
@@ -692,17 +702,7 @@ declare module "quorlin" {
         setImageToFullSize(): null;
         /** Takes the content size of the enclosing scroll view, where there is one, and sets the drawing scale. */
         adjustFrameToFit(): null;
-        /** Keeps the angle. The picture is not turned. */
-        rotateByDegrees(degrees: double): null;
         boundsDidChangeNotification(notification: sender): null;
-        /** A new picture of exactly this size in points, with all of the image in it. */
-        resizeImageAspectRatioFit(image: Picture | null, size: size): Picture | null;
-        /** A new picture of exactly this size, filled by the image. */
-        resizeImageAspectRatioFitFullFrame(image: Picture | null, size: size): Picture | null;
-        /** Does nothing. */
-        viewWillDraw(): null;
-        /** Does nothing without a widget to draw to. */
-        drawRect(dirtyRect: rectangle): null;
     }
 }
 

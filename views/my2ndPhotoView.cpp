@@ -1,7 +1,6 @@
 #include "views/my2ndPhotoView.h"
 
 #include "views/bounds_text.h"
-#include "views/fit.h"
 
 using platform::Picture;
 
@@ -52,15 +51,8 @@ void my2ndPhotoView::setImageToFullSize()
 
 void my2ndPhotoView::adjustFrameToFit()
 {
-    pDrawScaleX = m_stage.fillScrollView(pMaxFrameSize);
-    pDrawScaleY = pDrawScaleX;
+    fillScrollView();
     pScale = pDrawScaleX;
-}
-
-void my2ndPhotoView::rotateByDegrees(double degrees)
-{
-    pAngle = degrees;
-    m_stage.redisplay();
 }
 
 void my2ndPhotoView::cropBoundsDidChangeNotification(platform::Sender notification)
@@ -68,23 +60,6 @@ void my2ndPhotoView::cropBoundsDidChangeNotification(platform::Sender notificati
     Q_UNUSED(notification)
     applyMode();
     m_stage.layout();
-}
-
-Picture my2ndPhotoView::resizeImageAspectRatioFit(const Picture &image, const QSizeF &size)
-{
-    return views::laidInto(image, size, views::Fit::Whole);
-}
-
-Picture my2ndPhotoView::resizeImageAspectRatioFitFullFrame(const Picture &image, const QSizeF &size)
-{
-    return views::laidInto(image, size, views::Fit::Fill);
-}
-
-void my2ndPhotoView::viewWillDraw() {}
-
-void my2ndPhotoView::drawRect(const QRectF &dirtyRect)
-{
-    Q_UNUSED(dirtyRect)
 }
 
 void my2ndPhotoView::draw(QPainter &painter, views::Medium medium) const

@@ -2,7 +2,6 @@
 
 #include "platform/foundation/log.h"
 #include "views/bounds_text.h"
-#include "views/fit.h"
 
 using platform::Picture;
 
@@ -71,14 +70,7 @@ void myMainPhotoView::setImageToFullSize()
 
 void myMainPhotoView::adjustFrameToFit()
 {
-    pDrawScaleX = m_stage.fillScrollView(pMaxFrameSize);
-    pDrawScaleY = pDrawScaleX;
-}
-
-void myMainPhotoView::rotateByDegrees(double degrees)
-{
-    pAngle = degrees;
-    m_stage.redisplay();
+    fillScrollView();
 }
 
 void myMainPhotoView::boundsDidChangeNotification(platform::Sender notification)
@@ -87,23 +79,6 @@ void myMainPhotoView::boundsDidChangeNotification(platform::Sender notification)
     fitOriginal();
     views::publishBounds(m_stage.boundsSize());
     applyMode();
-}
-
-Picture myMainPhotoView::resizeImageAspectRatioFit(const Picture &image, const QSizeF &size)
-{
-    return views::laidInto(image, size, views::Fit::Whole);
-}
-
-Picture myMainPhotoView::resizeImageAspectRatioFitFullFrame(const Picture &image, const QSizeF &size)
-{
-    return views::laidInto(image, size, views::Fit::Fill);
-}
-
-void myMainPhotoView::viewWillDraw() {}
-
-void myMainPhotoView::drawRect(const QRectF &dirtyRect)
-{
-    Q_UNUSED(dirtyRect)
 }
 
 void myMainPhotoView::draw(QPainter &painter, views::Medium medium) const

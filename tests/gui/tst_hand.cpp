@@ -38,11 +38,9 @@ class Hand : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
-
     void init()
     {
-        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+        m_driver = WindowDriver::started();
         QDir().mkpath(path("In"));
         for (const char *name : {"a.jpg", "b.jpg", "c.jpg", "d.jpg"})
             picture(name, 40, 30);

@@ -38,8 +38,7 @@ private Q_SLOTS:
             qunsetenv(variable);
         app::usualDownloadLimits().silenceMs = 1000;
         app::usualDownloadLimits().wholeMs = 3000;
-        qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER);
-        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+        m_driver = WindowDriver::started();
     }
     void cleanup() { m_driver.reset(); }
 

@@ -67,11 +67,9 @@ class MainWindow : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
-
     void init()
     {
-        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+        m_driver = WindowDriver::started();
         m_pictures = m_driver->folder() + QStringLiteral("/in");
         m_results = m_driver->folder() + QStringLiteral("/in/Resized");
         QVERIFY(QDir().mkpath(m_pictures));

@@ -35,7 +35,6 @@ class TestMetadataPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
     void init();
     void cleanup() { m_driver.reset(); }
     void showsTheChosenPictureAndItsComment();
@@ -87,7 +86,7 @@ private:
 
 void TestMetadataPage::init()
 {
-    m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+    m_driver = WindowDriver::started();
     m_pictures = m_driver->folder() + QStringLiteral("/pictures");
     QVERIFY(QDir().mkpath(m_pictures));
     for (const char *name : {"a.jpg", "b.jpg", "c.png", "d.bmp"})

@@ -27,11 +27,9 @@ class MoveRuns : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
-
     void init()
     {
-        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+        m_driver = WindowDriver::started();
         QVERIFY(QDir().mkpath(at("")));
     }
 

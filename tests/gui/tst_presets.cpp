@@ -27,12 +27,7 @@ class Presets : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
-
-    void init()
-    {
-        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
-    }
+    void init() { m_driver = WindowDriver::started(); }
 
     void cleanup() { m_driver.reset(); }
 

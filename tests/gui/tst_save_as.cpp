@@ -62,13 +62,11 @@ class SaveAs : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER); }
-
     void init()
     {
         for (const char *key : {"SaveAs", "MOS", "LastPanelFolder", "PictureSavePanelSize"})
             platform::removeUserDefault(QString::fromLatin1(key));
-        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+        m_driver = WindowDriver::started();
         QVERIFY(QDir().mkpath(m_driver->folder() + QStringLiteral("/Desktop")));
         QImage image(64, 48, QImage::Format_ARGB32);
         image.fill(QColor(200, 40, 20, 120));

@@ -25,10 +25,7 @@ class Typing : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
-    }
+    void init() { m_driver = WindowDriver::started(); }
 
     void cleanup() { m_driver.reset(); }
 

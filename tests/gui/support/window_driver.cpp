@@ -56,12 +56,17 @@ void WindowDriver::startAgain()
         qFatal("%s", qPrintable(m_startUp->problem()));
 }
 
-std::unique_ptr<WindowDriver> WindowDriver::showing(const char *action)
+std::unique_ptr<WindowDriver> WindowDriver::started()
 {
 #ifdef QUORLIN_INTERFACE_FOLDER
     qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER);
 #endif
-    auto driver = std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+    return std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+}
+
+std::unique_ptr<WindowDriver> WindowDriver::showing(const char *action)
+{
+    auto driver = started();
     driver->show(action);
     return driver;
 }

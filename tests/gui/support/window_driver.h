@@ -23,7 +23,9 @@ public:
     explicit WindowDriver(QApplication &application);
     ~WindowDriver();
 
-    /** The program with the interface of the clone, as tests of one action want it: with that one chosen. */
+    /** The program with the interface of the clone. */
+    static std::unique_ptr<WindowDriver> started();
+    /** The same, with one action chosen. */
     static std::unique_ptr<WindowDriver> showing(const char *action);
     /** A folder of the person's own for what the program is given; made on first use. */
     QString inputFolder() const;
