@@ -143,12 +143,15 @@ VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
 /** The file says which of its items is the picture; the others count behind it, in their order. */
 VImage loadHeif(const PictureBytes &source, const LoadOptions &options)
 {
-    const VImage primary = VImage::heifload_source(wholeSourceOf(source), commonOptions()); // where no page is named
+    // First of all: the options of a call that is never made would be freed by nobody.
+    const VSource whole = wholeSourceOf(source);
+    const VImage primary = VImage::heifload_source(whole, commonOptions()); // where no page is named
     if (options.page == 0)
         return withOwnProfile(primary);
     const int primaryPage = primary.get_typeof("heif-primary") != 0 ? primary.get_int("heif-primary") : 0;
     const int page = options.page - (options.page <= primaryPage ? 1 : 0);
-    return withOwnProfile(VImage::heifload_source(wholeSourceOf(source), commonOptions()->set("page", page)));
+    const VSource again = wholeSourceOf(source);
+    return withOwnProfile(VImage::heifload_source(again, commonOptions()->set("page", page)));
 }
 
 /** A short text can ask for any amount of work, and nothing can stop the library once it draws. */
