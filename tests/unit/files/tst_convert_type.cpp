@@ -354,7 +354,7 @@ void TestConvertType::tellsNothingInAPageButThePicture()
     const QByteArray exif("Exif\0\0II*\0\x08\0\0\0\0\0\0\0\0\0 serial 4711", 32);
     QByteArray told = plain;
     told.insert(2, segment('\xE1', exif) +
-                       segment('\xE1', QByteArray("http://ns.adobe.com/xap/1.0/\0<x:secret/>", 42)) +
+                       segment('\xE1', QByteArray("http://ns.adobe.com/xap/1.0/\0<x:secret/>", 40)) +
                        segment('\xED', "Photoshop 3.0 caption") + segment('\xFE', "a comment") +
                        segment('\xE2', QByteArray("MPF\0index", 9)) + segment('\xEB', "maker's"));
     told += plain + "behind it a position";
