@@ -7,7 +7,7 @@
 #include "image/turn_file.h"
 #include "platform/foundation/numbers.h"
 #include "platform/foundation/paths.h"
-#include "platform/foundation/type_identifiers.h"
+#include "platform/imageio/formats/type_identifiers.h"
 
 using platform::Bitmap;
 using platform::BitmapHandle;

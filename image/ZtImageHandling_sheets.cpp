@@ -6,7 +6,7 @@
 #include "image/overlay.h"
 #include "platform/controls/controls.h"
 #include "platform/foundation/paths.h"
-#include "platform/foundation/type_identifiers.h"
+#include "platform/imageio/formats/type_identifiers.h"
 
 #include <array>
 

@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
 """formats.py [--check] FILE: what a conversion keeps, as docs/formats.md shows it. Writes FILE, or compares it.
 
-PROMISES is the one table of that; a test converts real pictures and holds programs that are not ours against it.
+Beside FILE, which lies in docs/, it does the same with the table in manual/convert.md. What a format keeps is read from the
+program's own table; PROMISES adds what a conversion makes of it. A test converts real pictures and holds programs that are
+not ours against it.
 """
+import re
 import sys
 from pathlib import Path
 
@@ -15,22 +18,32 @@ NOT = "-"
 # What becomes of each property. "stored": the pixels as they are stored, with the tag that turns them. "upright": turned
 # upright, since no tag would do it. "srgb": colours are converted to sRGB. "matrix": kept where it is a profile of grey, or
 # of three colours by a matrix, else converted. "black": laid on black. "page": the page's size in points.
-PROMISES = {
-    "png": {"size": "stored", "depth": KEPT, "profile": KEPT, "alpha": KEPT, "resolution": KEPT, "orientation": "tag",
-            "exif": KEPT, "gps": KEPT, "iptc": KEPT, "xmp": KEPT},
-    "tiff": {"size": "stored", "depth": KEPT, "profile": KEPT, "alpha": KEPT, "resolution": KEPT, "orientation": "tag",
-             "exif": KEPT, "gps": KEPT, "iptc": KEPT, "xmp": KEPT},
-    "pdf": {"size": "upright", "depth": KEPT, "profile": KEPT, "alpha": KEPT, "resolution": "page", "orientation": "turned",
-            "exif": NOT, "gps": NOT, "iptc": NOT, "xmp": NOT},
-    "jpeg": {"size": "upright", "depth": NOT, "profile": KEPT, "alpha": "black", "resolution": KEPT, "orientation": "turned",
-             "exif": NOT, "gps": NOT, "iptc": NOT, "xmp": NOT},
-    "jp2": {"size": "upright", "depth": KEPT, "profile": "matrix", "alpha": KEPT, "resolution": NOT, "orientation": "turned",
-            "exif": NOT, "gps": NOT, "iptc": NOT, "xmp": NOT},
-    "gif": {"size": "upright", "depth": NOT, "profile": "srgb", "alpha": KEPT, "resolution": NOT, "orientation": "turned",
-            "exif": NOT, "gps": NOT, "iptc": NOT, "xmp": NOT},
-    "bmp": {"size": "upright", "depth": NOT, "profile": "srgb", "alpha": "black", "resolution": KEPT, "orientation": "turned",
-            "exif": NOT, "gps": NOT, "iptc": NOT, "xmp": NOT},
-}
+TARGETS = {"png": "public.png", "tiff": "public.tiff", "pdf": "com.adobe.pdf", "jpeg": "public.jpeg", "jp2": "public.jp2",
+           "gif": "com.compuserve.gif", "bmp": "public.bmp"}
+# A conversion hands metadata on into these types, and leaves pixels as they are stored; those in other types are turned upright.
+CARRYING = ("png", "tiff")
+TABLE = Path(__file__).resolve().parents[1] / "platform/imageio/formats/formats.cpp"
+
+
+def kept_by_format():
+    """What the table of formats says: type identifier to {name of a field: "true", "Yes", "IfItFits" ...}."""
+    rows = re.findall(r'\.identifier = latin1\("([^"]+)"\)(.*?)(?=\{\.content|^\}\};)', TABLE.read_text(encoding="utf-8"), re.S | re.M)
+    return {name: dict(re.findall(r"\.(\w+) = (?:Kept::)?(\w+)", text.partition(".keeps")[2])) for name, text in rows}
+
+
+def promises(target, kept):
+    """What becomes of each property in a file of one type."""
+    metadata = KEPT if target in CARRYING else NOT
+    return {"size": "stored" if target in CARRYING else "upright", "depth": KEPT if "depth16" in kept else NOT,
+            "profile": {"Yes": KEPT, "IfItFits": "matrix"}.get(kept.get("profile"), "srgb"),
+            "alpha": KEPT if "alpha" in kept else "black",
+            "resolution": "page" if target == "pdf" else KEPT if "resolution" in kept else NOT,
+            "orientation": "tag" if target in CARRYING else "turned",
+            **{name: metadata for name in ("exif", "gps", "iptc", "xmp")}}
+
+
+_KEPT = kept_by_format()
+PROMISES = {target: promises(target, _KEPT[name]) for target, name in TARGETS.items()}
 # How far the pixels of a target may be off on average, of 255. GIF has 256 colours, and mixes others by dots of these, each of
 # which is off though what is seen of them is not: its bound is measured on photographs and only tells a wrong picture.
 BOUNDS = {"png": 0.5, "tiff": 0.5, "bmp": 0.5, "pdf": 0.5, "jpeg": 3, "jp2": 3, "gif": 12}
@@ -89,15 +102,32 @@ def text():
     return "\n".join(lines) + "\n"
 
 
+def manual_table():
+    """The same in the few words of the manual."""
+    words = {**WORDS, KEPT: "yes", "matrix": "if it fits", "srgb": "sRGB", "black": "black", "page": "page size"}
+    rows = {"16 bits": "depth", "Profile": "profile", "Transparency": "alpha", "Resolution": "resolution", "Metadata": "exif"}
+    lines = [row([""] + [NAMES[name] for name in PROMISES]).replace("|  |", "| |"), row(["---"] * (len(PROMISES) + 1))]
+    return "\n".join(lines + [row([said] + [words[PROMISES[target][name]] for target in PROMISES]) for said, name in rows.items()])
+
+
+def with_manual_table(page):
+    """The page of the manual with that table in place of the one that it has."""
+    head, mark, rest = page.partition("## What is kept, exactly\n\n")
+    return head + mark + re.sub(r"\A(\|[^\n]*\n)+", manual_table() + "\n", rest)
+
+
 def main(arguments):
     path = Path(arguments[-1])
+    page = path.parent / "manual/convert.md"
+    wanted = {path: text(), page: with_manual_table(page.read_text(encoding="utf-8"))}
     if arguments[0] != "--check":
-        path.write_text(text(), encoding="utf-8")
+        for name, content in wanted.items():
+            name.write_text(content, encoding="utf-8")
         return 0
-    if path.read_text(encoding="utf-8") == text():
-        return 0
-    print(f"{path.name} is not what the table says: run tools/formats.py docs/formats.md")
-    return 1
+    wrong = [name.name for name, content in wanted.items() if name.read_text(encoding="utf-8") != content]
+    for name in wrong:
+        print(f"{name} is not what the table says: run tools/formats.py docs/formats.md")
+    return 1 if wrong else 0
 
 
 if __name__ == "__main__":

@@ -1,6 +1,6 @@
 #include "app/window/formats.h"
 
-#include "platform/foundation/type_identifiers.h"
+#include "platform/imageio/formats/type_identifiers.h"
 
 #include <QCoreApplication>
 #include <QFile>

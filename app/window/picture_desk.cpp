@@ -2,11 +2,37 @@
 
 #include "image/overlay.h"
 #include "platform/foundation/memory_left.h"
-#include "platform/foundation/type_identifiers.h"
 #include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/formats/formats.h"
+#include "platform/imageio/formats/type_identifiers.h"
+#include "platform/imageio/source/image_source.h"
 #include "platform/imageio/source/picture.h"
 
 namespace window {
+namespace {
+
+QString wordFor(platform::Kept kept)
+{
+    switch (kept) {
+    case platform::Kept::No:
+        return QStringLiteral("no");
+    case platform::Kept::IfItFits:
+        return QStringLiteral("ifItFits");
+    case platform::Kept::Yes:
+        return QStringLiteral("yes");
+    }
+    Q_UNREACHABLE();
+}
+
+QVariantList extensionsOf(const platform::Format &format)
+{
+    QVariantList extensions;
+    for (const QString &extension : QString(format.extensions).split(u' '))
+        extensions.append(extension);
+    return extensions;
+}
+
+} // namespace
 
 QString PictureDesk::layOnPattern(const QString &path, const QString &pattern, const QString &target) const
 {
@@ -31,6 +57,36 @@ QString PictureDesk::layOnPattern(const QString &path, const QString &pattern, c
 QString PictureDesk::takeMemoryRefusal() const
 {
     return platform::takeMemoryRefusal();
+}
+
+QVariantList PictureDesk::formats() const
+{
+    QVariantList rows;
+    for (const platform::Format &format : platform::formats())
+        rows.append(QVariantMap{{QStringLiteral("id"), QString(format.identifier)},
+                                {QStringLiteral("extensions"), extensionsOf(format)},
+                                {QStringLiteral("profile"), wordFor(format.keeps.profile)},
+                                {QStringLiteral("alpha"), format.keeps.alpha},
+                                {QStringLiteral("depth16"), format.keeps.depth16},
+                                {QStringLiteral("resolution"), format.keeps.resolution},
+                                {QStringLiteral("quality"), format.keeps.quality}});
+    return rows;
+}
+
+QVariantList PictureDesk::rawTypes() const
+{
+    QVariantList rows;
+    for (const platform::RawType &type : platform::rawTypes())
+        rows.append(QVariantMap{{QStringLiteral("extension"), QString(type.extension)},
+                                {QStringLiteral("hasPreview"), type.hasPreview}});
+    return rows;
+}
+
+bool PictureDesk::keepsProfile(const QString &path, const QString &typeIdentifier) const
+{
+    const auto source = platform::ImageSource::open(path);
+    const auto format = platform::fileFormatForType(typeIdentifier);
+    return source && format && platform::holdsProfile(*format, source->iccProfile());
 }
 
 } // namespace window

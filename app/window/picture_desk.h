@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QVariantList>
 
 namespace window {
 
@@ -20,6 +21,22 @@ public:
      * @return a sentence that says what failed; empty where nothing did
      */
     Q_INVOKABLE QString layOnPattern(const QString &path, const QString &pattern, const QString &target) const;
+
+    /**
+     * The kinds of picture files, each as {id, extensions, profile, alpha, depth16, resolution, quality}: the type identifier,
+     * the extensions of its names, of which new files get the first, and what its files keep of a picture; of the profile
+     * "yes", "no" or "ifItFits". All false for kinds that are not written.
+     */
+    Q_INVOKABLE QVariantList formats() const;
+
+    /** The kinds of raw files of cameras, each as {extension, hasPreview}; only those with a preview can be converted. */
+    Q_INVOKABLE QVariantList rawTypes() const;
+
+    /**
+     * True where a file of @p typeIdentifier holds the colour profile of the picture at @p path, or that has none; otherwise
+     * its colours become sRGB. False for what cannot be opened or written. Reads the header.
+     */
+    Q_INVOKABLE bool keepsProfile(const QString &path, const QString &typeIdentifier) const;
 
     /** See platform::takeMemoryRefusal(): the operations of the services answer "Failed" and no more. */
     Q_INVOKABLE QString takeMemoryRefusal() const;

@@ -1,7 +1,7 @@
 #include "platform/desktop/workspace.h"
 
 #include "platform/disk/folders.h"
-#include "platform/foundation/type_identifiers.h"
+#include "platform/imageio/formats/type_identifiers.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>

@@ -39,7 +39,7 @@ SUB_ROOMS = {
         "graphics": "foundation",
         # Pictures as files: bytes first, then one folder for each kind of file, then what is said and done about all of them.
         "imageio/bytes": "foundation file",
-        "imageio/formats": "graphics imageio/bytes",
+        "imageio/formats": "foundation graphics imageio/bytes",
         "imageio/jpeg": "foundation graphics imageio/bytes",
         "imageio/jpeg2000": "graphics imageio/bytes",
         "imageio/png": "graphics imageio/bytes",
@@ -62,7 +62,7 @@ SUB_ROOMS = {
         "imageio/convert": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/exif "
                            "imageio/load imageio/facts imageio/encode imageio/source",
         "imageio/comments": "foundation file imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/exif imageio/source",
-        "desktop": "foundation file disk imageio/encode imageio/source",
+        "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },
 }
 # Qt modules by room. Nothing below views and app needs a widget, so that services run in a process without windows.

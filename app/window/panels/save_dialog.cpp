@@ -5,7 +5,7 @@
 #include "platform/controls/save_panel.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/foundation/paths.h"
-#include "platform/foundation/type_identifiers.h"
+#include "platform/imageio/formats/type_identifiers.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -1,18 +1,18 @@
-// What pictures can be converted to, and what gets lost on the way. Pure but for translation; no service is used.
+// What pictures can be converted to, and what gets lost on the way.
 
 import { splitPath } from "../../lib/names.js";
-import { PDF_PAGE, PICTURE_INPUT, typeOfExtension, writtenType } from "../../lib/types.js";
+import { FURTHER_INPUT, keepsProfile, PDF_PAGE, PICTURE_INPUT, RAW_WITH_PREVIEW, typeOfExtension, writtenType } from "../../lib/types.js";
 import { mayBeTransparent } from "../shared/written.js";
 
-// keyword: what the service calls it. metadata: keeps EXIF, IPTC and XMP. deep: keeps 16 bits a colour.
+// keyword: what the service calls it. metadata: keeps EXIF, IPTC and XMP.
 const TARGETS = [
-    { keyword: "jpeg", id: "public.jpeg", metadata: false, deep: false },
-    { keyword: "png", id: "public.png", metadata: true, deep: true },
-    { keyword: "tiff", id: "public.tiff", metadata: true, deep: true },
-    { keyword: "pdf", id: PDF_PAGE.id, metadata: false, deep: true },
-    { keyword: "jp2", id: "public.jp2", metadata: false, deep: true },
-    { keyword: "gif", id: "com.compuserve.gif", metadata: false, deep: false },
-    { keyword: "bmp", id: "public.bmp", metadata: false, deep: false },
+    { keyword: "jpeg", id: "public.jpeg", metadata: false },
+    { keyword: "png", id: "public.png", metadata: true },
+    { keyword: "tiff", id: "public.tiff", metadata: true },
+    { keyword: "pdf", id: PDF_PAGE.id, metadata: false },
+    { keyword: "jp2", id: "public.jp2", metadata: false },
+    { keyword: "gif", id: "com.compuserve.gif", metadata: false },
+    { keyword: "bmp", id: "public.bmp", metadata: false },
 ];
 
 /** The keywords of the targets, in the order in which they are offered. */
@@ -21,12 +21,10 @@ export const KEYWORDS = TARGETS.map((target) => target.keyword);
 /** The codes of JPEG quality; "9" is the highest. */
 export const QUALITIES = ["1", "2", "3", "4", "5", "6", "7", "8", "9"];
 
-const RAW = ["dng", "cr2", "nef", "arw", "orf", "rw2", "raf", "pef", "srw"];
-
 /** The files that can be converted, by extension. */
-export const CONVERTED_INPUT = PICTURE_INPUT.concat(["jpe", "heic", "heif", "webp", "avif", "psd", "pdf", "svg"], RAW);
+export const CONVERTED_INPUT = PICTURE_INPUT.concat(FURTHER_INPUT, RAW_WITH_PREVIEW);
 
-/** {keyword, metadata, deep, id, extension, word, profile, alpha, quality} of a keyword. */
+/** {keyword, metadata} of a keyword with all that lib/types.js knows of its type. */
 export function targetNamed(keyword) {
     const target = TARGETS.find((each) => each.keyword === keyword);
     return Object.assign({}, target.id === PDF_PAGE.id ? PDF_PAGE : writtenType(target.id), target);
@@ -57,10 +55,10 @@ export function lostText(photo, target) {
     }
     if (target.keyword === "gif") {
         lost.push(qsTr("256 colours"));
-    } else if (!target.profile && target.keyword !== "jp2") {
+    } else if (!keepsProfile(photo.path, target)) {
         lost.push(qsTr("colours become sRGB"));
     }
-    if (target.keyword === "gif" || target.keyword === "jp2") {
+    if (!target.resolution && target.id !== PDF_PAGE.id) { // which has a size instead
         lost.push(qsTr("the resolution is not kept"));
     }
     if (!target.alpha && mayBeTransparent(photo)) {
@@ -73,7 +71,7 @@ export function lostText(photo, target) {
 export function sourceNotes(photo, target) {
     const extension = splitPath(photo.path).extension.toLowerCase();
     const notes = [];
-    if (RAW.indexOf(extension) >= 0) {
+    if (RAW_WITH_PREVIEW.indexOf(extension) >= 0) {
         notes.push(qsTr("The preview that the camera put into the raw file is converted, not the raw data."));
     } else if (extension === "pdf") {
         notes.push(qsTr("The first page is drawn at 72 pixels per inch."));

@@ -27,7 +27,9 @@ function noteFor(choice, carried) {
     const sentences = [];
     if (carried.indexOf(type.id) >= 0) {
         sentences.push(qsTr("Metadata and colour profile go along."));
-    } else if (type.profile) {
+    } else if (type.profile === "ifItFits") {
+        sentences.push(qsTr("The colour profile goes along if it fits, else colours become sRGB; EXIF, IPTC and XMP do not."));
+    } else if (type.profile === "yes") {
         sentences.push(qsTr("The colour profile goes along; EXIF, IPTC and XMP do not."));
     } else {
         sentences.push(qsTr("Neither metadata nor colour profile go along; colours become sRGB."));

@@ -4,7 +4,7 @@
 import { splitPath } from "../../lib/names.js";
 import { isSound } from "../../runs/plan.js";
 import { fill } from "../../lib/wording.js";
-import { ORIGINAL, resultType, typeOfExtension, writtenType } from "../../lib/types.js";
+import { keepsProfile, ORIGINAL, resultType, typeOfExtension, writtenType } from "../../lib/types.js";
 
 /** Messages on output settings that no run can start with. */
 export function outputMessages(output) {
@@ -103,7 +103,7 @@ export function carriedBy(step, settings) {
 export function lossText(photo, typeId, carried) {
     const type = writtenType(typeId);
     const lost = [];
-    if (!type.profile) {
+    if (!keepsProfile(photo.path, type)) {
         lost.push(qsTr("Metadata and colour profile are not kept"));
     } else if (carried.indexOf(typeId) < 0) {
         lost.push(qsTr("EXIF, IPTC and XMP are not kept"));

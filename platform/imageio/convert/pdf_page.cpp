@@ -69,8 +69,7 @@ Stream storedPixels(const VImage &image, const QByteArray &space)
 /** The page of a picture whose pixels are in memory. Throws vips::VError. */
 QByteArray pageOfPixels(const Bitmap &bitmap, QSizeF points)
 {
-    constexpr FormatAbilities abilities = {.profile = true, .alpha = true, .deep = true, .cmyk = true};
-    const VImage prepared = inMemory(preparedFor(abilities, bitmap.pixels().image));
+    const VImage prepared = inMemory(preparedFor(formatOf(Content::Pdf)->keeps, bitmap.pixels().image));
     const int components = hasTransparency(prepared) ? prepared.bands() - 1 : prepared.bands();
     PdfFile file;
     const QByteArray space = colourSpace(file, iccProfileOf(prepared), components);

@@ -43,37 +43,18 @@ int jpeg2000TileSide(int side)
 
 } // namespace
 
-FormatAbilities abilitiesOf(FileFormat format)
+VImage preparedFor(const Keeping &keeps, const VImage &image)
 {
-    switch (format) {
-    case FileFormat::Png:
-        return {.profile = true, .alpha = true, .deep = true};
-    case FileFormat::Tiff:
-        return {.profile = true, .alpha = true, .deep = true, .cmyk = true, .anyForm = true};
-    case FileFormat::Jpeg:
-        return {.profile = true, .cmyk = true};
-    case FileFormat::Jpeg2000:
-        return {.alpha = true, .deep = true};
-    case FileFormat::Gif:
-        return {.alpha = true};
-    case FileFormat::Bmp:
-        break;
-    }
-    return {};
-}
-
-VImage preparedFor(const FormatAbilities &abilities, const VImage &image)
-{
-    if (abilities.anyForm)
+    if (keeps.anyForm)
         return image;
     VImage result = inForm(image);
     const bool isCmyk = result.interpretation() == VIPS_INTERPRETATION_CMYK;
     const bool hasProfile = result.get_typeof(VIPS_META_ICC_NAME) != 0;
-    if ((isCmyk && !abilities.cmyk) || (hasProfile && !abilities.profile))
+    if ((isCmyk && !keeps.cmyk) || (hasProfile && keeps.profile != Kept::Yes))
         result = convertedToSrgb(result);
-    if (!abilities.deep)
+    if (!keeps.depth16)
         result = with8Bits(result);
-    if (hasTransparency(result) && !abilities.alpha)
+    if (hasTransparency(result) && !keeps.alpha)
         result = result.flatten(VImage::option()->set("max_alpha", opaqueValue(result)));
     return result;
 }

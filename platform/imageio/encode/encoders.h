@@ -4,24 +4,12 @@
 
 #include "platform/graphics/pixels.h"
 #include "platform/imageio/bytes/file_ends.h"
-#include "platform/imageio/formats/file_format.h"
+#include "platform/imageio/formats/formats.h"
 
 namespace platform {
 
-/** What a format can hold; the rest is converted before the encoder sees it. */
-struct FormatAbilities
-{
-    bool profile = false;
-    bool alpha = false;
-    bool deep = false; ///< 16 bits per component
-    bool cmyk = false;
-    bool anyForm = false; ///< Lab, floating point and channels of other meanings too
-};
-
-FormatAbilities abilitiesOf(FileFormat format);
-
-/** The pixels in a form that @p abilities allow. Throws vips::VError. */
-vips::VImage preparedFor(const FormatAbilities &abilities, const vips::VImage &image);
+/** The pixels in a form that a file which keeps so much can hold; a profile that might fit does not. Throws vips::VError. */
+vips::VImage preparedFor(const Keeping &keeps, const vips::VImage &image);
 
 struct JpegSettings
 {

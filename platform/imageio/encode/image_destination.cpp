@@ -3,6 +3,7 @@
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/formats/formats.h"
 #include "platform/imageio/formats/memory_need.h"
 #include "platform/imageio/jpeg2000/jp2_profile.h"
 
@@ -18,11 +19,11 @@ Resolution writtenResolution(const Bitmap &bitmap, const EncodeOptions &options)
 
 Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
 {
-    FormatAbilities abilities = abilitiesOf(format);
+    Keeping keeps = formatOf(format).keeps;
     const QByteArray profile = bitmap.iccProfile();
-    if (format == FileFormat::Jpeg2000)
-        abilities.profile = fitsJpeg2000(profile);
-    const vips::VImage image = preparedFor(abilities, bitmap.pixels().image);
+    if (keeps.profile == Kept::IfItFits)
+        keeps.profile = !profile.isEmpty() && holdsProfile(format, profile) ? Kept::Yes : Kept::No;
+    const vips::VImage image = preparedFor(keeps, bitmap.pixels().image);
     const Resolution resolution = writtenResolution(bitmap, options);
     switch (format) {
     case FileFormat::Png:
@@ -36,7 +37,7 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
     case FileFormat::Jpeg:
         return encodeJpeg(image.copy_memory(), {options.lossyQuality, bitmap.pixels().quantisation, resolution});
     case FileFormat::Jpeg2000:
-        return abilities.profile ? withJpeg2000Profile(encodeJpeg2000(image), profile) : encodeJpeg2000(image);
+        return keeps.profile == Kept::Yes ? withJpeg2000Profile(encodeJpeg2000(image), profile) : encodeJpeg2000(image);
     }
     return failure(ErrorCode::Unsupported, QString());
 }
@@ -47,6 +48,12 @@ bool holdsMetadata(FileFormat format)
 }
 
 } // namespace
+
+bool holdsProfile(FileFormat format, const QByteArray &iccProfile)
+{
+    const Kept kept = formatOf(format).keeps.profile;
+    return iccProfile.isEmpty() || kept == Kept::Yes || (kept == Kept::IfItFits && fitsJpeg2000(iccProfile));
+}
 
 Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
 {

@@ -8,6 +8,9 @@
 
 namespace platform {
 
+/** Whether a file of @p format can hold that profile; true for an empty one. Where it cannot, colours become sRGB. */
+bool holdsProfile(FileFormat format, const QByteArray &iccProfile);
+
 /** Whether the resolution of the bitmap is written into the file. */
 enum class WriteResolution { No, Yes };
 

@@ -76,6 +76,19 @@ QString ImageSource::colorSpaceName() const
     }
 }
 
+QByteArray ImageSource::iccProfile() const
+{
+    if (!m_file)
+        return {};
+    try {
+        initVips();
+        return iccProfileOf(openImage(m_file->bytes, m_file->content));
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+        return {};
+    }
+}
+
 Result<QVariantMap> ImageSource::properties() const
 {
     if (!m_file)

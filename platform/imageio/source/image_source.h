@@ -54,6 +54,8 @@ public:
     int imageCount() const;
     /** The name of image 0's colour space: its profile's, or that of the one its kind of pixels has without. Reads the header again. */
     QString colorSpaceName() const;
+    /** The colour profile of image 0; empty where it has none. Reads the header again. */
+    QByteArray iccProfile() const;
     /** Pixels of image 0 as stored, and turned upright by the orientation it states. */
     QSize storedSize() const;
     QSize uprightSize() const;

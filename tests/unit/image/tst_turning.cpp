@@ -1,6 +1,6 @@
 #include "image/ZtImageHandling.h"
 #include "platform/file/atomic_file.h"
-#include "platform/foundation/type_identifiers.h"
+#include "platform/imageio/formats/type_identifiers.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/test_pictures.h"

@@ -1,4 +1,4 @@
-#include "platform/foundation/type_identifiers.h"
+#include "platform/imageio/formats/type_identifiers.h"
 #include "tests/support/test_program.h"
 
 #include <QTest>
