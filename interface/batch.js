@@ -5,6 +5,7 @@
 // Services used: those of the step, files.
 
 import { files } from "quorlin/files";
+import { copyOf } from "./lib/copies.js";
 import { runItems } from "./runs/job.js";
 import { planRun } from "./runs/plan.js";
 import { logRow, summaryOf } from "./runs/report.js";
@@ -24,7 +25,7 @@ function carryOut(generator, onValue) {
 }
 
 function settingsFor(folder) {
-    const settings = JSON.parse(JSON.stringify(resize.defaults));
+    const settings = copyOf(resize.defaults);
     settings.output.destination = { kind: "folder", name: "", path: folder };
     return settings;
 }

@@ -79,11 +79,6 @@ export function parse(pattern) {
     return text === "" ? parts : parts.concat([{ text: text }]);
 }
 
-/** A text so written that parse() gives it back as it is. */
-export function literal(text) {
-    return text.split("{").join("{{");
-}
-
 /** True if the facts of the file (files.facts) are needed for these parts. */
 export function needsFacts(parts) {
     return parts.some((part) => part.token !== undefined && BY_PATH.indexOf(part.token) < 0);

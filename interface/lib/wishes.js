@@ -1,5 +1,6 @@
 // What the user chose in the preferences that no service keeps. The user's defaults are handed in.
 
+import { copyOf } from "./copies.js";
 import { keep, recall } from "./store.js";
 
 const KEY = "Preferences";
@@ -27,7 +28,7 @@ export function keepWish(defaults, field, value) {
 
 /** The settings that an action starts with when it is used for the first time; a copy. */
 export function firstSettings(defaults, standard) {
-    const first = JSON.parse(JSON.stringify(standard));
+    const first = copyOf(standard);
     if (first.output !== undefined && first.output.ifTaken !== undefined) {
         first.output.ifTaken = wishes(defaults).ifTaken;
     }

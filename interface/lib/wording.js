@@ -39,3 +39,8 @@ export function statusText(status, reason) {
 export function statusKind(status) {
     return { "OK": "good", "Failed": "bad", "Not Supported": "bad", "Skipped": "caution" }[status];
 }
+
+/** "2 problems". */
+export function problemsText(number) {
+    return count(number, qsTr("1 problem"), qsTr("%1 problems"));
+}

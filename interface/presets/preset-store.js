@@ -59,7 +59,6 @@ export class PresetStore {
             this.makeDb().linkToPresetsDB();
         } catch (error) {
             // What is wrong shows when it is read.
-            return;
         }
     }
 

@@ -1,6 +1,7 @@
 // Presets: an action's settings as the 62 texts of a row of the presets database, and back; names; exported files. Pure but for
 // translation; no service is used. docs/presets.md has the layout.
 
+import { copyOf } from "../lib/copies.js";
 import { emptyTable } from "../lib/names.js";
 import { FIRST_SLOT, SLOTS, VERSION } from "./preset-forms.js";
 import { fill } from "../lib/wording.js";
@@ -84,10 +85,6 @@ function setAt(settings, path, value) {
     const last = keys.pop();
     const owner = keys.reduce((part, key) => part[key], settings);
     owner[last] = value;
-}
-
-function copyOf(settings) {
-    return JSON.parse(JSON.stringify(settings));
 }
 
 // A folder and what it is called, if that is not its own name.

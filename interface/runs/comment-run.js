@@ -2,7 +2,7 @@
 // reads and writes comments is handed in.
 
 import { splitPath } from "../lib/names.js";
-import { logRow, undoing } from "./report.js";
+import { logRow } from "./report.js";
 import { expand, needsFacts, parse, problems, tokens } from "../lib/tokens.js";
 import { count, fill } from "../lib/wording.js";
 
@@ -164,5 +164,5 @@ export function editRow(result, action, date, run) {
     const row = logRow({ status: result.status, reason: result.reason, photo: photo, name: photo.name, path: result.path },
                        qsTr("Metadata"), action, date, run);
     const edit = Object.assign(row, { before: result.before, after: result.after });
-    return result.undoes === undefined ? edit : undoing(edit, result.undoes);
+    return result.undoes === undefined ? edit : Object.assign(edit, { undoes: result.undoes });
 }

@@ -1,6 +1,7 @@
 // Shows in the list what a run with the settings as they are would do. It is worked out from the event loop, whenever
 // things have settled, by the same plan that a run carries out; the classes above say what that plan is.
 
+import { copyOf } from "../lib/copies.js";
 import { guard } from "../lib/guard.js";
 import { emptyTable } from "../lib/names.js";
 import { shell } from "quorlin/shell";
@@ -76,7 +77,7 @@ export class LivePlan {
             this.planned(summary);
             return;
         }
-        const settings = JSON.parse(JSON.stringify(window.settings));
+        const settings = copyOf(window.settings);
         this.job.start(this.work(this.ids, settings), guard("plan.item", (part) => this.take(part, summary)), guard("plan.end", (how, value) => {
             if (how === "done") {
                 this.ended(value, summary);

@@ -6,11 +6,12 @@ import { isReadyRow, itemOf, readyItems, settled } from "./move-plan.js";
 import { refusalText } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
 import { clockText, Progress } from "./progress.js";
-import { logRow, undoing } from "./report.js";
+import { rowsByPath } from "./list-rows.js";
+import { logRow } from "./report.js";
 import { retryRows } from "./retry.js";
 import { DiskNeeds, roomText } from "./room.js";
-import { undoAction } from "./undo-run.js";
-import { count, fill, statusKind, statusText } from "../lib/wording.js";
+import { undoAction, undoing, undoRow, unableSteps } from "./undo-run.js";
+import { count, fill, problemsText, statusKind, statusText } from "../lib/wording.js";
 import { showPlan } from "./live-moves.js";
 import { BaseRun } from "./run-base.js";
 import { shell } from "quorlin/shell";
@@ -18,10 +19,6 @@ import { shell } from "quorlin/shell";
 // The window is told at most this often.
 const TELL_MS = 100;
 const ROWS_A_SLICE = 200;
-
-function problemsText(number) {
-    return count(number, qsTr("1 problem"), qsTr("%1 problems"));
-}
 
 // Carries out what was begun; whatever happens the engine is told the end.
 function* carriedOut(moves, run) {
@@ -64,7 +61,7 @@ export class MoveRun extends BaseRun {
         this.startPlanning(window.pictures.ids());
         this.title = window.action.title();
         this.undoes = "";
-        this.takenBack = null;
+        this.undone = null;
         this.toldMs = 0;
         this.paths = window.pictures.paths();
         const work = this.plan();
@@ -184,7 +181,7 @@ export class MoveRun extends BaseRun {
         if (begun.problem) {
             this.finish(begun.problem);
         } else {
-            this.carryOut(begun.run);
+            this.carryOut(begun.run, carriedOut(moves, begun.run), (result) => this.takeResult(result));
         }
     }
 
@@ -194,18 +191,18 @@ export class MoveRun extends BaseRun {
         this.unfinished = [];
     }
 
-    carryOut(run) {
+    // work is a generator; take() gets what it yields for each file.
+    carryOut(run, work, take) {
         this.id = run;
         this.phase = "running";
         this.progress = new Progress(this.items.map(() => 1));
         this.steppedMs = Date.now();
-        this.job.start(carriedOut(this.window.services.moves, run), guard("moves.step", (result) => this.takeResult(result)),
+        this.job.start(work, guard("moves.step", take),
                        guard("moves.end", (how, value) => this.runEnded(how, value)));
         this.showProgress();
     }
 
     takeResult(result) {
-        const now = Date.now();
         const item = this.items[result.index];
         const told = { status: result.status, reason: result.message, path: result.path || item.to };
         this.done[result.index] = true;
@@ -215,6 +212,12 @@ export class MoveRun extends BaseRun {
         } else {
             this.noteResult(item, told);
         }
+        this.countOne();
+    }
+
+    // One more file has had its turn.
+    countOne() {
+        const now = Date.now();
         this.progress.add(1, now - this.steppedMs);
         this.steppedMs = now;
         if (now - this.toldMs >= TELL_MS) {
@@ -257,10 +260,8 @@ export class MoveRun extends BaseRun {
     }
 
     noteRow(parts) {
-        const back = this.takenBack;
-        const action = back === null ? this.window.action.step.describe(this.settings) : undoAction(back.undoes !== "");
-        const row = logRow(parts, this.title, action, new Date().toISOString());
-        this.note(parts, back === null ? row : undoing(row, back.id));
+        const describe = () => logRow(parts, this.title, this.window.action.step.describe(this.settings), new Date().toISOString());
+        this.note(parts, this.undone === null ? describe() : undoRow(parts, this.undone, this.id));
     }
 
     // The row that an item belongs to; in an undo, rows are found by where their files are.
@@ -271,7 +272,7 @@ export class MoveRun extends BaseRun {
     // A file that went along may have a row of its own.
     followed(from, to) {
         if (this.rowAt === undefined || this.rowAt === null) {
-            this.rowAt = this.rowsByPath();
+            this.rowAt = rowsByPath(this.window.pictures);
         }
         const id = this.rowAt[from];
         if (id !== undefined) {
@@ -279,13 +280,6 @@ export class MoveRun extends BaseRun {
             this.window.pictures.setPath(id, to);
             this.window.pictures.setStatus(id, "good", qsTr("done"), "");
         }
-    }
-
-    rowsByPath() {
-        const table = Object.create(null);
-        const ids = this.window.pictures.ids();
-        this.window.pictures.paths().forEach((path, i) => { table[path] = ids[i]; });
-        return table;
     }
 
     runEnded(how, value) {
@@ -367,7 +361,7 @@ export class MoveRun extends BaseRun {
         this.startPlanning(this.window.pictures.ids());
         this.title = newest.title;
         this.undoes = newest.undoes ? "" : offer.id;
-        this.takenBack = newest;
+        this.undone = { id: newest.id, process: newest.title, action: undoAction(newest.undoes !== "") };
         this.toldMs = 0;
         this.leftOut = 0;
         const begun = moves.undo(offer.id);
@@ -375,16 +369,20 @@ export class MoveRun extends BaseRun {
             this.finish(begun.problem);
             return;
         }
-        this.rowAt = this.rowsByPath();
+        this.rowAt = rowsByPath(this.window.pictures);
         this.startMoving();
         this.items = begun.items.map((item) => ({ kind: "move", from: item.from, to: item.to, row: undefined, along: false }));
-        begun.problems.forEach((problem) => this.noteUnable(problem));
-        this.carryOut(begun.run);
+        unableSteps(begun, this.undone).forEach((step) => this.note(step.result, step.row));
+        this.carryOut(begun.run, undoing(moves, begun, this.undone), (step) => this.tookBack(step));
     }
 
-    // A file that cannot go back stays where it is.
-    noteUnable(problem) {
-        this.noteRow({ status: "Failed", reason: problem.reason, photo: { name: splitPath(problem.path).name, path: problem.path } });
+    tookBack(step) {
+        const { status, reason } = step.result;
+        this.done[step.index] = true;
+        this.note(step.result, step.row);
+        this.moved += status === "OK" ? 1 : 0;
+        this.showResult(this.rowAt[step.from] || 0, { status: status, reason: reason, path: step.to }, status === "OK");
+        this.countOne();
     }
 
     /** Takes the summary away; the rows then show what the settings would make of them now. */

@@ -40,7 +40,6 @@ export const MOVES = {
     makePlan: (window, planned) => new LiveMoves(window, planned),
     output: false,
     preview: false,
-    pane: true,
     columns: ["thumbnail", "name", "newName", "status"],
     headings: () => ({ name: qsTr("Now") }),
     stressed: true,

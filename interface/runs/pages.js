@@ -15,7 +15,6 @@ export const PAGE = {
     makePlan: (window, planned) => new NoPlan(window, planned),
     output: false,
     preview: false,
-    pane: false,
     columns: [],
     headings: () => ({}),
     stressed: false,

@@ -35,12 +35,6 @@ export function csvLines(rows, areEdits) {
                               row.bytes].concat(areEdits ? [row.before, row.after] : []).map(cell).join(",") + LINE_END).join("");
 }
 
-/** A row of a run that takes another one back, by the name of that run. */
-export function undoing(row, undoes) {
-    row.undoes = undoes;
-    return row;
-}
-
 /** All rows as a CSV file. */
 export function toCsv(rows) {
     return csvHead() + csvLines(rows);

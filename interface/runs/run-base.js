@@ -3,14 +3,11 @@
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
+import { copyOf } from "../lib/copies.js";
 import { keepRows } from "./log-file.js";
 import { clockText, Progress } from "./progress.js";
 import { toCsv } from "./report.js";
-import { count, fill } from "../lib/wording.js";
-
-function problemsText(number) {
-    return number === 0 ? qsTr("no problems") : count(number, qsTr("1 problem"), qsTr("%1 problems"));
-}
+import { fill, problemsText } from "../lib/wording.js";
 
 export class BaseRun {
     /** @param window  the main window's parts; changed() is called when buttons and texts should be looked at again */
@@ -45,7 +42,7 @@ export class BaseRun {
         window.said = "";
         window.pictures.setFocus();
         this.reset(ids);
-        this.settings = JSON.parse(JSON.stringify(window.settings));
+        this.settings = copyOf(window.settings);
         this.phase = "planning";
         this.text = qsTr("Planning…");
         window.pictures.busy = true;
@@ -96,7 +93,7 @@ export class BaseRun {
         const leftText = left === null ? "" : fill(qsTr("%1 left"), clockText(left));
         const time = this.paused ? qsTr("paused") : leftText;
         this.text = fill(qsTr("%1 of %2"), this.progress.done, this.progress.count);
-        this.detail = (time ? [time] : []).concat([problemsText(this.problems)]).join(" · ");
+        this.detail = (time ? [time] : []).concat([this.problems === 0 ? qsTr("no problems") : problemsText(this.problems)]).join(" · ");
         this.changed();
     }
 

@@ -1,7 +1,7 @@
 // Undoing a run from the log: what can be said of it, and carrying it out. Pure but for translation; the move engine is handed in.
 
 import { splitPath } from "../lib/names.js";
-import { logRow, undoing as undoingRow } from "./report.js";
+import { logRow } from "./report.js";
 import { count } from "../lib/wording.js";
 
 // Runs that write new files give themselves such a name; those that move files have theirs from the move engine.
@@ -55,27 +55,36 @@ export function problemsOfUndo(begun) {
     return begun.problems.map((problem) => problem.path + ": " + problem.reason);
 }
 
+/** The row of the log for one file of a run that takes back `undone`: {id, process, action (of undoAction())}. */
+export function undoRow(result, undone, run) {
+    return Object.assign(logRow(result, undone.process, undone.action, new Date().toISOString(), run), { undoes: undone.id });
+}
+
+/** What becomes of the files that an undo cannot even begin with, as undoing() yields it. */
+export function unableSteps(begun, undone) {
+    return begun.problems.map((problem) => {
+        const photo = { name: splitPath(problem.path).name, path: problem.path };
+        const result = { status: "Failed", reason: problem.reason, photo: photo };
+        return { index: -1, from: problem.path, to: "", result: result, row: undoRow(result, undone, begun.run) };
+    });
+}
+
 /**
- * A generator that carries out an undo that was begun ({run, items, problems}), one file after the other. Yields {from, to, row}, the row
- * being that of the log. Returns a message, or "". Stopping it ends the run properly.
+ * A generator that carries out an undo that was begun ({run, items, problems}), one file after the other. Yields {index of the item, from,
+ * to, result, row}, the row being that of the log. Returns a message, or "". Stopping it ends the run properly.
  *
- * @param undone  the run that is taken back: {id, process, action (of undoAction())}
+ * @param undone  the run that is taken back, see undoRow()
  */
 export function* undoing(moves, begun, undone) {
-    const rowOf = (result) => undoingRow(logRow(result, undone.process, undone.action, new Date().toISOString(), begun.run), undone.id);
     let problem = "";
     try {
-        for (const failed of begun.problems) {
-            const result = { status: "Failed", reason: failed.reason, photo: { name: splitPath(failed.path).name, path: failed.path } };
-            yield { from: failed.path, to: "", row: rowOf(result) };
-        }
         for (let step = moves.next(begun.run); step !== null; step = moves.next(begun.run)) {
             const item = begun.items[step.index];
             const isDone = step.status === "OK";
             const to = isDone ? step.path || item.to : "";
             const result = { status: step.status, reason: step.message, photo: { name: splitPath(item.from).name, path: item.from },
                              name: isDone ? splitPath(to).name : "", path: to };
-            yield { from: item.from, to: to, row: rowOf(result) };
+            yield { index: step.index, from: item.from, to: to, result: result, row: undoRow(result, undone, begun.run) };
         }
     } finally {
         problem = moves.end(begun.run);

@@ -3,12 +3,8 @@
 
 import { planRun } from "./plan.js";
 import { fill, pixels, statusKind, statusText } from "../lib/wording.js";
+import { photosOf } from "./list-rows.js";
 import { LivePlan } from "./live-plan.js";
-
-/** What planRun() plans for the rows with these ids. */
-export function photosOf(list, ids) {
-    return { count: ids.length, at: (i) => list.photo(ids[i]), paths: list.paths() };
-}
 
 /** Shows an item of a plan in its row; `simulated` says so in words. */
 export function showItem(list, id, item, simulated) {

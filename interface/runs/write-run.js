@@ -10,7 +10,8 @@ import { clockText, costOf, Progress } from "./progress.js";
 import { logRow, summaryOf } from "./report.js";
 import { count, fill, pixels, statusKind, statusText } from "../lib/wording.js";
 import { BaseRun } from "./run-base.js";
-import { photosOf, showItem } from "./write-plan.js";
+import { photosOf } from "./list-rows.js";
+import { showItem } from "./write-plan.js";
 
 function askAboutName(question) {
     const answer = shell.ask({

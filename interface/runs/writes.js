@@ -34,7 +34,6 @@ export const WRITES = {
     makePlan: (window, planned) => new WritePlan(window, planned),
     output: true,
     preview: true,
-    pane: true,
     columns: ["thumbnail", "name", "pixels", "size", "type", "newName", "newSize", "status"],
     headings: () => ({}),
     stressed: false,

@@ -11,8 +11,10 @@ function convert(file, target, code, path) {
 }
 
 files.forEach((file, number) => {
-    for (const target of ["pdf", "png", "tiff", "bmp", "gif", "jpeg", "jp2"])
+    for (const target of ["pdf", "png", "tiff", "bmp", "gif", "jpeg", "jp2"]) {
         convert(file, target, "8", out + "/" + number + "." + target);
+    }
 });
-for (const code of ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10", ""])
+for (const code of ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10", ""]) {
     convert(files[0], "jpeg", code, out + "/quality-" + code + ".jpeg");
+}

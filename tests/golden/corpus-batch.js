@@ -14,8 +14,9 @@ function tell(number, folder, answer) {
 files.forEach((file, number) => {
     const prefix = folder => out + "/" + folder + "/" + number + "-";
     tell(number, "size", images.hGetPixelSize(file));
-    for (const type of types)
+    for (const type of types) {
         tell(number, type, images.resizeImage(file, 160, 2, prefix(type), type, "8"));
+    }
     tell(number, "half", images.resizeImage(file, 50, 3, prefix("half"), "original file type", "9"));
     tell(number, "fill", images.resizeImage2(file, 120, 80, 1, prefix("fill"), "public.png", ""));
     tell(number, "stretch", images.resizeImage2(file, 90, 70, 0, prefix("stretch"), "public.jpeg", "5"));

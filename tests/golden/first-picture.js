@@ -15,5 +15,6 @@ const deeds = {
     conversion: file => handling.hConvertFileType(file, "bmp", "8", prefix + "converted.bmp").length,
 };
 
-for (let at = 0; at + 1 < rest.length; at += 2)
+for (let at = 0; at + 1 < rest.length; at += 2) {
     print(rest[at] + " " + deeds[rest[at]](rest[at + 1]));
+}

@@ -1,5 +1,6 @@
 // A file service that works on a table of names, and pictures for it.
 
+import { copyOf } from "../../interface/lib/copies.js";
 import { splitPath } from "../../interface/lib/names.js";
 
 export class FakeFiles {
@@ -150,7 +151,7 @@ export class FakeImage {
 
     note(operation, values) {
         this.calls.push([operation].concat(values));
-        this.said.push(JSON.parse(JSON.stringify(this.outlets)));
+        this.said.push(copyOf(this.outlets));
         this.files.sizes = this.written;
         return this.status;
     }
@@ -212,7 +213,7 @@ export function fakeServices(written, status) {
 
 /** A copy of a step's own settings with changes; fields of `output` go into its output settings. */
 export function settingsOf(step, changes, output) {
-    const made = Object.assign(JSON.parse(JSON.stringify(step.defaults)), { prefix: "/s/" }, changes || {});
+    const made = Object.assign(copyOf(step.defaults), { prefix: "/s/" }, changes || {});
     Object.assign(made.output, output || {});
     return made;
 }

@@ -7,11 +7,12 @@ import { shell } from "quorlin/shell";
 import { commentsOf, editWords, reverting } from "../../runs/comment-run.js";
 import { guard } from "../../lib/guard.js";
 import { clearRows, keepRows, logPath, rowLimit } from "../../runs/log-file.js";
+import { rowsByPath } from "../../runs/list-rows.js";
 import { csvHead, csvLines } from "../../runs/report.js";
 import { keep, recall } from "../../lib/store.js";
-import { count, fill, statusText } from "../../lib/wording.js";
+import { count, fill, problemsText, statusText } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary } from "../../runs/comment-job.js";
-import { problemsOfUndo, revertWords, undoAction, undoing, undoWords } from "../../runs/undo-run.js";
+import { problemsOfUndo, revertWords, undoAction, undoing, undoWords, unableSteps } from "../../runs/undo-run.js";
 
 const STATES = ["OK", "Failed", "Not Supported", "Skipped"];
 // So many rows are written at a time, and the window answers in between.
@@ -275,8 +276,9 @@ export class LogPage {
             this.window.note(begun.problem);
             return;
         }
-        this.undo = { rows: [], done: 0, problems: problemsOfUndo(begun), count: begun.items.length, places: this.placesOfRows() };
+        this.undo = { rows: [], done: 0, problems: problemsOfUndo(begun), count: begun.items.length, places: rowsByPath(this.window.pictures) };
         const undone = { id: this.runs.run, process: this.runs.chosen().process, action: undoAction(this.words.isRedo) };
+        unableSteps(begun, undone).forEach((step) => this.tookBack(step));
         this.job.start(undoing(this.window.services.moves, begun, undone), guard("log.undone", (step) => this.tookBack(step)),
                        guard("log.undoEnd", (how, value) => this.undoEnded(how, value)));
         this.showRun();
@@ -296,20 +298,12 @@ export class LogPage {
         this.form.control("logRunNote").text = "";
     }
 
-    // Rows of the list by where their files are.
-    placesOfRows() {
-        const places = Object.create(null);
-        const ids = this.window.pictures.ids();
-        this.window.pictures.paths().forEach((path, i) => { places[path] = ids[i]; });
-        return places;
-    }
-
     undoEnded(how, value) {
         const undo = this.undo;
         this.undo = null;
         const problem = keepRows(files, undo.rows) || (how === "failed" ? String(value) : value || "");
         const done = count(undo.done, qsTr("1 file taken back"), qsTr("%1 files taken back"));
-        const parts = [done].concat(undo.problems.length > 0 ? [count(undo.problems.length, qsTr("1 problem"), qsTr("%1 problems"))] : [], problem ? [problem] : []);
+        const parts = [done].concat(undo.problems.length > 0 ? [problemsText(undo.problems.length)] : [], problem ? [problem] : []);
         this.window.note((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));
         this.show();
     }

@@ -236,14 +236,19 @@ export class MetadataPage {
         this.showWriting(!isOne && !busy, problem === "");
         control("metaApply").visible = isOne && !busy;
         control("metaApply").enabled = this.path !== "" && this.holds && this.text() !== this.read;
-        control("metaRevert").visible = !busy;
-        control("metaRevert").enabled = this.edits.length > 0;
-        control("metaRevert").text = this.edits.length > 1 ? fill(qsTr("Revert %1"), this.edits.length) : qsTr("Revert");
+        this.showRevert(!busy);
         control("metaLog").enabled = !busy;
         for (const name of ["metaStop", "metaProgress"]) {
             control(name).visible = busy;
         }
         control("metaCancel").enabled = busy;
+    }
+
+    showRevert(on) {
+        const many = this.edits.length;
+        this.form.control("metaRevert").visible = on;
+        this.form.control("metaRevert").enabled = many > 0;
+        this.form.control("metaRevert").text = many > 1 ? fill(qsTr("Revert %1"), many) : qsTr("Revert");
     }
 
     // What writes into several pictures.

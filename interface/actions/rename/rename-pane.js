@@ -1,6 +1,7 @@
 // The settings of the Rename action: files or folders, and the chain of steps as cards. Services used: names, facts (through the
 // step), for the example.
 
+import { copyOf } from "../../lib/copies.js";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { menuEntries } from "./step-words.js";
@@ -17,10 +18,6 @@ const SAMPLE = { path: "/IMG_2041.JPG", facts: { taken: "2026-08-14T10:20:30", c
 // About the height of a closed card and the gap behind it.
 const CARD_PX = 84;
 const SAMPLE_FOLDER = "/" + qsTr("Holiday 2026");
-
-function copyOf(step) {
-    return JSON.parse(JSON.stringify(step));
-}
 
 export class RenamePane extends Pane {
     /** @param window  the main window's parts: services, pictures */

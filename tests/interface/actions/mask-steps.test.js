@@ -7,11 +7,13 @@ const wide = photo("/p/a.jpg", 400, 300);
 const turned = Object.assign(photo("/p/a.jpg", 300, 400), { orientation: 6 });
 const clear = photo("/p/a.png", 400, 300);
 
-function run(step, picture, changes, output, name, size, status) {
+// What a step makes of a picture; `made` is the size of the file that the service writes, where it is another one, and what it answers.
+function run(step, picture, settings, name, made) {
     const written = {};
+    const { size, status } = made || {};
     written["/s/" + name] = size || { width: picture.width, height: picture.height };
     const services = fakeServices(written, status);
-    const result = step.run(picture, settingsOf(step, changes, output), services);
+    const result = step.run(picture, settings, services);
     return { result: result, services: services, calls: services.image.calls, said: services.image.said };
 }
 
@@ -24,7 +26,7 @@ const SHAPES = [
 
 for (const row of SHAPES) {
     test("rounds as " + JSON.stringify(row[0]) + " into " + row[1], () => {
-        const done = run(round, wide, row[0], { fileType: row[1] }, row[3], row[4]);
+        const done = run(round, wide, settingsOf(round, row[0], { fileType: row[1] }), row[3], { size: row[4] });
         equal(done.calls, [["roundCornersOfImage"].concat(row[2])]);
         equal([done.result.status, done.result.outputs], ["OK", ["/s/" + row[3]]]);
         equal(done.said[0].backgroundCheck.state, 0);
@@ -32,14 +34,14 @@ for (const row of SHAPES) {
 }
 
 test("tellsColourAndBand", () => {
-    const said = run(round, wide, { background: true, color: "#102030", band: 20 }, {}, "a.png").said[0];
+    const said = run(round, wide, settingsOf(round, { background: true, color: "#102030", band: 20 }, {}), "a.png").said[0];
     equal([said.backgroundCheck.state, said.backgroundColor.color, said.bandWidth.stringValue], [1, "#102030", "20"]);
 });
 
 test("marksRoundedJpegAndTiffUprightAndNoOther", () => {
-    equal(run(round, turned, {}, { fileType: "original file type" }, "a.jpg").services.files.marked, ["/s/a.jpg"]);
-    equal(run(round, turned, {}, { fileType: "public.tiff" }, "a.tiff").services.files.marked, ["/s/a.tiff"]);
-    equal(run(round, turned, {}, {}, "a.png").services.files.marked, undefined);
+    equal(run(round, turned, settingsOf(round, {}, { fileType: "original file type" }), "a.jpg").services.files.marked, ["/s/a.jpg"]);
+    equal(run(round, turned, settingsOf(round, {}, { fileType: "public.tiff" }), "a.tiff").services.files.marked, ["/s/a.tiff"]);
+    equal(run(round, turned, settingsOf(round, {}, {}), "a.png").services.files.marked, undefined);
 });
 
 test("failsWhereTheMarkCannotBeSet", () => {
@@ -64,13 +66,13 @@ test("refusesABandThatCoversAll", () => {
 });
 
 test("laysOnAColour", () => {
-    const done = run(background, clear, { color: "#ff0000" }, {}, "a.png");
+    const done = run(background, clear, settingsOf(background, { color: "#ff0000" }, {}), "a.png");
     equal(done.calls, [["addOverlayColor", "/p/a.png", "/s/", "", "", "9"]]);
     equal([done.said[0].backgroundColor.color, done.result.status], ["#ff0000", "OK"]);
 });
 
 test("laysOnAPattern", () => {
-    const done = run(background, clear, { under: "pattern", pattern: "/t/dots.png" }, { fileType: "public.tiff" }, "a.tiff");
+    const done = run(background, clear, settingsOf(background, { under: "pattern", pattern: "/t/dots.png" }, { fileType: "public.tiff" }), "a.tiff");
     equal([done.services.laid, done.calls, done.result.status], [[["/p/a.png", "/t/dots.png", "/s/a.tiff"]], [], "OK"]);
 });
 
@@ -83,7 +85,7 @@ test("saysWhyAPatternFailed", () => {
 });
 
 test("putsAWhiteFrameRoundAndLetsGoOfThePictures", () => {
-    const done = run(background, wide, { frame: "white" }, {}, "a.jpg", { width: 420, height: 320 });
+    const done = run(background, wide, settingsOf(background, { frame: "white" }, {}), "a.jpg", { size: { width: 420, height: 320 } });
     equal(done.calls, [["imageFromCGImageRef", "bitmap of /p/a.jpg"], ["addBorderToImage", "pointwise bitmap of /p/a.jpg"],
                        ["hSaveToNewImageFile", "/s/a.jpg", "public.jpeg", "bitmap of framed pointwise bitmap of /p/a.jpg", {}]]);
     equal([done.result.status, done.result.width], ["OK", 420]);
@@ -91,12 +93,12 @@ test("putsAWhiteFrameRoundAndLetsGoOfThePictures", () => {
 });
 
 test("laysAPictureThatMayBeTransparentBeforeItIsFramed", () => {
-    const done = run(background, clear, { frame: "white", color: "#00ff00" }, {}, "a.png", { width: 420, height: 320 });
+    const done = run(background, clear, settingsOf(background, { frame: "white", color: "#00ff00" }, {}), "a.png", { size: { width: 420, height: 320 } });
     equal([done.calls[0][0], done.calls[1]], ["addOverlayColor", ["imageFromCGImageRef", "bitmap of /s/a.png"]]);
 });
 
 test("paintsABandOverTheEdge", () => {
-    const done = run(background, turned, { frame: "band", bandColor: "#0000ff", bandWidth: 12 }, {}, "a.jpg");
+    const done = run(background, turned, settingsOf(background, { frame: "band", bandColor: "#0000ff", bandWidth: 12 }, {}), "a.jpg");
     equal(done.calls, [["roundCornersOfImage", "/p/a.jpg", "/s/", 0, "0", "9"]]);
     const said = done.said[0];
     equal([said.backgroundCheck.state, said.backgroundColor.color, said.bandWidth.stringValue], [1, "#0000ff", "12"]);
@@ -104,12 +106,12 @@ test("paintsABandOverTheEdge", () => {
 });
 
 test("laysAndBandsInTheUnfinishedFile", () => {
-    const done = run(background, clear, { frame: "band", bandWidth: 12 }, { fileType: "public.tiff" }, "a.tiff");
+    const done = run(background, clear, settingsOf(background, { frame: "band", bandWidth: 12 }, { fileType: "public.tiff" }), "a.tiff");
     equal(done.calls, [["addOverlayColor", "/p/a.png", "/s/", "", "", "1"], ["roundCornersOfImage", "/s/a.tiff", "/s/", 0, "0", "9"]]);
 });
 
 test("stopsAtTheFirstFailure", () => {
-    const done = run(background, clear, { frame: "band" }, {}, "a.png", null, "Failed");
+    const done = run(background, clear, settingsOf(background, { frame: "band" }, {}), "a.png", { status: "Failed" });
     equal([done.calls.length, done.result.status], [1, "Failed"]);
 });
 

@@ -1,3 +1,4 @@
+import { copyOf } from "../../../interface/lib/copies.js";
 import { cNSStringHandling } from "quorlin";
 import { NameChain } from "../../../interface/actions/rename/name-chain.js";
 import { chosenPieces, KINDS, newStep, stepFrom, stepProblems, WORDS } from "../../../interface/actions/rename/name-steps.js";
@@ -138,7 +139,7 @@ test("warnsOfNamesThatOtherSystemsDoNotTake", () => {
 });
 
 test("takesOnlyStepsThatItKnows", () => {
-    const kept = KINDS.map((kind) => JSON.parse(JSON.stringify(newStep(kind))));
+    const kept = KINDS.map((kind) => copyOf(newStep(kind)));
     equal(kept.map(stepFrom), kept);
     equal(stepFrom({ kind: "case" }), newStep("case"));
     equal([null, 1, {}, { kind: "nothing" }, { kind: "case", mode: "9" }, { kind: "case", mode: 1 }, { kind: "strip", count: 1.5 },

@@ -1,3 +1,4 @@
+import { copyOf } from "../../../interface/lib/copies.js";
 import * as sort from "../../../interface/actions/sort/sort-step.js";
 import { treeRows } from "../../../interface/actions/sort/folder-tree.js";
 import { KnownFacts } from "../../../interface/lib/known-facts.js";
@@ -20,7 +21,7 @@ function servicesWith(dates, others) {
 }
 
 function rowsOf(dates, changes, others) {
-    const settings = Object.assign(JSON.parse(JSON.stringify(sort.defaults)), changes || {});
+    const settings = Object.assign(copyOf(sort.defaults), changes || {});
     const work = sort.rows(Object.keys(dates), settings, servicesWith(dates, others));
     let part = work.next();
     let upTo = 0;

@@ -1,5 +1,5 @@
 import {
-    TOKENS, dateText, expand, literal, namePart, needsFacts, orientationText, parse, problems, tokens,
+    TOKENS, dateText, expand, namePart, needsFacts, orientationText, parse, problems, tokens,
 } from "../../../interface/lib/tokens.js";
 import { equal, finish, isTrue, test } from "../check.js";
 
@@ -74,7 +74,7 @@ test("cleansValuesAndLeavesThePatternAsItIs", () => {
 
 test("isNotMisledByValuesThatLookLikeTokens", () => {
     equal(expanded("{name}", { path: "/a/{taken}{{.jpg" }).text, "{taken}{{");
-    equal(expand(parse(literal("{taken} {")), { path: PATH, facts: FACTS }).text, "{taken} {");
+    equal(expand(parse("{{taken} {{"), { path: PATH, facts: FACTS }).text, "{taken} {");
 });
 
 test("writesSizesAsTheFactsSayThem", () => {

@@ -1,3 +1,4 @@
+import { copyOf } from "../../../interface/lib/copies.js";
 import { PresetStore } from "../../../interface/presets/preset-store.js";
 import { rowOf } from "../../../interface/presets/presets.js";
 import { startingPresets, writeStartingPresets } from "../../../interface/presets/starting-presets.js";
@@ -134,7 +135,7 @@ function make(state) {
 }
 
 function changed(action, changes) {
-    return Object.assign(JSON.parse(JSON.stringify(KINDS[action].standard)), changes);
+    return Object.assign(copyOf(KINDS[action].standard), changes);
 }
 
 test("listsWhatWasSaved", () => {

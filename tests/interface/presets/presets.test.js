@@ -1,3 +1,4 @@
+import { copyOf } from "../../../interface/lib/copies.js";
 import { VERSION } from "../../../interface/presets/preset-forms.js";
 import { decoded, encoded, fileText, freeName, nameProblem, presetOf, rowOf, rowsOfFile, storedName } from "../../../interface/presets/presets.js";
 import { KINDS as STEP_KINDS, newStep } from "../../../interface/actions/rename/name-steps.js";
@@ -26,10 +27,6 @@ function leaves(value, path) {
         return [path];
     }
     return Object.keys(value).reduce((all, key) => all.concat(leaves(value[key], path === "" ? key : path + "." + key)), []);
-}
-
-function copyOf(settings) {
-    return JSON.parse(JSON.stringify(settings));
 }
 
 function readBack(action, settings) {

@@ -1,3 +1,4 @@
+import { copyOf } from "../../../interface/lib/copies.js";
 import { planRun, targetFolder } from "../../../interface/runs/plan.js";
 import { outputMessages } from "../../../interface/actions/shared/written.js";
 import * as resize from "../../../interface/actions/resize/resize-step.js";
@@ -5,7 +6,7 @@ import { drain, equal, finish, test } from "../check.js";
 import { FakeFiles, photo } from "../fakes.js";
 
 function settings(ifTaken, destination, fileType) {
-    const made = JSON.parse(JSON.stringify(resize.defaults));
+    const made = copyOf(resize.defaults);
     made.output.ifTaken = ifTaken;
     made.output.destination = destination || { kind: "folder", name: "", path: "/out" };
     made.output.fileType = fileType || made.output.fileType;

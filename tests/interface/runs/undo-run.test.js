@@ -1,4 +1,4 @@
-import { problemsOfUndo, revertWords, undoAction, undoing, undoWords } from "../../../interface/runs/undo-run.js";
+import { problemsOfUndo, revertWords, undoAction, undoing, undoWords, unableSteps } from "../../../interface/runs/undo-run.js";
 import { drain, equal, finish, isTrue, test } from "../check.js";
 
 // Runs as the move engine tells of them, and an undo of three files of which the second fails.
@@ -55,12 +55,13 @@ test("saysWhyNot", () => {
 test("carriesAnUndoOutAndLogsEachFile", () => {
     const moves = engine();
     const done = drain(undoing(moves, BEGUN, UNDONE));
-    equal(done.values.map((step) => [step.from, step.to]),
+    const steps = unableSteps(BEGUN, UNDONE).concat(done.values);
+    equal(steps.map((step) => [step.from, step.to]),
           [["/p/x 4.jpg", ""], ["/p/x 1.jpg", "/p/a.jpg"], ["/p/x 2.jpg", ""], ["/p/x 3.jpg", "/p/c.jpg"]]);
-    equal(done.values.map((step) => [step.row.status, step.row.reason, step.row.input, step.row.output]),
+    equal(steps.map((step) => [step.row.status, step.row.reason, step.row.input, step.row.output]),
           [["Failed", "it is not there any more", "x 4.jpg", ""], ["OK", "", "x 1.jpg", "a.jpg"], ["Failed", "locked", "x 2.jpg", ""],
            ["OK", "", "x 3.jpg", "c.jpg"]]);
-    isTrue(done.values.every((step) => step.row.run === "r3" && step.row.process === "Rename" && step.row.action === "Undo" && step.row.undoes === "r1"));
+    isTrue(steps.every((step) => step.row.run === "r3" && step.row.process === "Rename" && step.row.action === "Undo" && step.row.undoes === "r1"));
     equal([done.result, moves.ended], ["end", ["r3"]]);
     equal(problemsOfUndo(BEGUN), ["/p/x 4.jpg: it is not there any more"]);
 });
