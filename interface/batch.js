@@ -36,7 +36,8 @@ function tell(event) {
     }
     const result = event.result;
     const what = result.status === "OK"
-        ? "-> " + result.path + " (" + pixels(result.photo) + " -> " + pixels(result) + ", " + files.byteText(result.bytes) + ")"
+        ? "-> " + result.path + " (" + pixels(result.photo) + " -> " + pixels(result) + ", "
+        + files.byteText(result.bytes) + ")"
         : "";
     print(statusText(result.status, result.reason) + "  " + result.photo.path + " " + what);
 }
@@ -49,10 +50,13 @@ function main(folder, paths) {
     const planned = carryOut(planRun(input, resize, settings, services), () => undefined);
     const results = carryOut(runItems(planned.items, resize, settings, services), tell);
     const run = newRunName();
-    const problem = keepRows(files, results.map((result) => logRow(result, "Resize", resize.describe(settings), new Date().toISOString(), run)));
+    const problem = keepRows(files,
+                             results.map((result) =>
+                                 logRow(result, "Resize", resize.describe(settings), new Date().toISOString(), run)));
     const sum = summaryOf(results);
     print(sum.done + " done, " + (sum.failed + sum.unsupported) + " failed, " + sum.skipped + " skipped, "
-          + files.byteText(sum.bytes) + " written to " + folder + (problem ? "; the log was not written: " + problem : ""));
+          + files.byteText(sum.bytes) + " written to " + folder
+          + (problem ? "; the log was not written: " + problem : ""));
     quit(sum.done === results.length ? 0 : 1);
 }
 

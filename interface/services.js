@@ -11,7 +11,8 @@ import { emptyTable } from "./lib/names.js";
 
 function makeOutlets() {
     return {
-        cropType: new TabView({}), position: new SegmentedControl({}), xOffset: new TextField({}), yOffset: new TextField({}),
+        cropType: new TabView({}), position: new SegmentedControl({}), xOffset: new TextField({}),
+        yOffset: new TextField({}),
         width: new TextField({}), height: new TextField({}), percentage: new TextField({}), pixels: new TextField({}),
         backgroundCheck: new CheckBox({}), backgroundColor: new ColorWell({}), bandWidth: new TextField({}),
     };

@@ -68,7 +68,8 @@ export function allActions() {
 export function presetKinds() {
     const kinds = {};
     allActions().filter((action) => action.presets !== undefined)
-        .forEach((action) => { kinds[action.name] = Object.assign({ standard: action.step.defaults }, action.presets); });
+        .forEach((action) => { kinds[action.name] = Object.assign({ standard: action.step.defaults },
+                                                                  action.presets); });
     return kinds;
 }
 

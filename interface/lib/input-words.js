@@ -14,8 +14,12 @@ const WORDS = {
         add: () => qsTr("Add Pictures…"),
         title: () => qsTr("Drop pictures or folders here"),
         text: () => qsTr("Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise."),
-        leftOut: (found) => leftOut(found, qsTr("“%1” is not a picture that can be taken"), qsTr("%1 files are not pictures that can be taken")),
-        hidden: (number) => count(number, qsTr("1 other file of the list is not a picture that can be taken"), qsTr("%1 other files of the list are not pictures that can be taken")),
+        leftOut: (found) =>
+            leftOut(found, qsTr("“%1” is not a picture that can be taken"),
+                    qsTr("%1 files are not pictures that can be taken")),
+        hidden: (number) =>
+            count(number, qsTr("1 other file of the list is not a picture that can be taken"),
+                  qsTr("%1 other files of the list are not pictures that can be taken")),
     },
     files: {
         count: (number) => count(number, qsTr("1 file"), qsTr("%1 files")),
@@ -25,7 +29,8 @@ const WORDS = {
         title: () => qsTr("Drop files or folders here"),
         text: () => qsTr("Then say on the right what is to become of them. You see everything before it happens, and can undo it afterwards."),
         leftOut: (found) => leftOut(found, qsTr("“%1” cannot be taken"), qsTr("%1 files cannot be taken")),
-        hidden: (number) => count(number, qsTr("1 folder of the list is left out"), qsTr("%1 folders of the list are left out")),
+        hidden: (number) =>
+            count(number, qsTr("1 folder of the list is left out"), qsTr("%1 folders of the list are left out")),
     },
     folders: {
         count: (number) => count(number, qsTr("1 folder"), qsTr("%1 folders")),
@@ -35,7 +40,8 @@ const WORDS = {
         title: () => qsTr("Drop folders here"),
         text: () => qsTr("The folders themselves are worked on; what is in them stays in them."),
         leftOut: (found) => leftOut(found, qsTr("“%1” is not a folder"), qsTr("%1 files are not folders")),
-        hidden: (number) => count(number, qsTr("1 file of the list is left out"), qsTr("%1 files of the list are left out")),
+        hidden: (number) =>
+            count(number, qsTr("1 file of the list is left out"), qsTr("%1 files of the list are left out")),
     },
 };
 

@@ -15,7 +15,8 @@ export function decimalsOf(unit) {
 
 /** The sign of a unit, for menus and behind numbers. */
 export function unitSign(unit) {
-    return { pixel: qsTr("px"), mm: qsTr("mm"), cm: qsTr("cm"), inch: qsTr("in"), pica: qsTr("pc"), punt: qsTr("pt") }[unit];
+    return { pixel: qsTr("px"), mm: qsTr("mm"), cm: qsTr("cm"), inch: qsTr("in"), pica: qsTr("pc"),
+             punt: qsTr("pt") }[unit];
 }
 
 function remembered(services, key, find) {
@@ -57,7 +58,8 @@ export class UnitMemory {
     /** The length that shows @p value, in @p from, in the unit @p to. */
     inUnit(field, value, from, to, dpi) {
         const known = this.lengths[field];
-        const length = known !== undefined && known.shown === value && known.shownUnit === from ? known : { value: value, unit: from };
+        const length = known !== undefined && known.shown === value && known.shownUnit === from
+            ? known : { value: value, unit: from };
         length.shown = to === length.unit ? length.value : converted(length.value, length.unit, to, dpi);
         length.shownUnit = to;
         this.lengths[field] = length;

@@ -11,7 +11,8 @@ const ENDING = new RegExp("[^.]\\.(" + SIDECARS.join("|") + ")$", "i");
 /** Those of these files that go along with one of the pictures: their extension is one of SIDECARS, and they bear its name. */
 export function goingAlong(candidates, pictures) {
     const bearers = emptyTable();
-    candidates.filter((path) => ENDING.test(path)).forEach((path) => { bearers[path.slice(0, path.lastIndexOf("."))] = false; });
+    candidates.filter((path) => ENDING.test(path))
+        .forEach((path) => { bearers[path.slice(0, path.lastIndexOf("."))] = false; });
     if (candidates.length > 0) {
         pictures.forEach((path) => {
             const file = splitPath(path);
@@ -44,7 +45,8 @@ export class Sidecars {
     inFolder(folder) {
         if (this.folders[folder] === undefined) {
             const found = emptyTable();
-            this.files.names(folder).filter((name) => ENDING.test(name)).forEach((name) => push(found, splitPath(name).base, name));
+            this.files.names(folder).filter((name) => ENDING.test(name))
+                .forEach((name) => push(found, splitPath(name).base, name));
             this.folders[folder] = found;
         }
         return this.folders[folder];

@@ -123,7 +123,8 @@ function isFormKnown(kind, form) {
 function formHint(kind, written, form) {
     switch (kind) {
     case FORMS.date:
-        return qsTr("“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss").replace("%1", form);
+        return qsTr("“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss").replace("%1",
+                                                                                                               form);
     case FORMS.counter:
         return qsTr("“%1” is no first number of a counter").replace("%1", form);
     case FORMS.name:
@@ -147,7 +148,8 @@ function partProblem(part) {
 
 /** What is wrong with a text, as sentences; empty if nothing is. */
 export function problems(pattern) {
-    const found = parse(pattern).map((part) => (part.token === undefined ? "" : partProblem(part))).filter((each) => each !== "");
+    const found = parse(pattern).map((part) => (part.token === undefined ? "" : partProblem(part)))
+        .filter((each) => each !== "");
     const plain = parse(pattern).map((part) => part.text || "").join("");
     const written = pattern.split("{{").join("");
     if (plain.indexOf("{") >= 0 && written.lastIndexOf("{") > written.lastIndexOf("}")) {
@@ -191,7 +193,8 @@ function datePiece(date, part) {
 
 /** A date as files.facts gives it ("2026-08-14T10:20:30") in a form. */
 export function dateText(date, form) {
-    return piecesOf(form || "yyyy-MM-dd").map((piece) => (piece.part ? datePiece(date, piece.part) : piece.text)).join("");
+    return piecesOf(form || "yyyy-MM-dd").map((piece) => (piece.part ? datePiece(date, piece.part) : piece.text))
+        .join("");
 }
 
 function counterText(form, index) {
@@ -201,7 +204,8 @@ function counterText(form, index) {
 
 /** The words of the form "~a,b". */
 function wordsOf(form) {
-    return form.startsWith("~") ? form.slice(1).split(",").map((word) => word.trim()).filter((word) => word !== "") : [];
+    return form.startsWith("~")
+        ? form.slice(1).split(",").map((word) => word.trim()).filter((word) => word !== "") : [];
 }
 
 /** The first letters of a text; one that takes two places is one letter (the engine's own iterator would cut it in two). */
@@ -289,7 +293,8 @@ function valueOf(part, path, facts, index) {
     return value === undefined ? facts[part.token] || "" : value(part.form, path, facts, index);
 }
 
-const NO_FACTS = { taken: "", created: "", changed: "", camera: "", lens: "", type: "", bytes: -1, size: "", width: 0, height: 0 };
+const NO_FACTS = { taken: "", created: "", changed: "", camera: "", lens: "", type: "", bytes: -1, size: "", width: 0,
+                   height: 0 };
 
 /**
  * The text for one file.

@@ -31,7 +31,8 @@ export function shortPath(path, home) {
 
 /** A status word and its reason as one text. */
 export function statusText(status, reason) {
-    const words = { "OK": qsTr("OK"), "Failed": qsTr("Failed"), "Not Supported": qsTr("Not Supported"), "Skipped": qsTr("Skipped") };
+    const words = { "OK": qsTr("OK"), "Failed": qsTr("Failed"), "Not Supported": qsTr("Not Supported"),
+                    "Skipped": qsTr("Skipped") };
     return reason ? fill(qsTr("%1: %2"), words[status], reason) : words[status];
 }
 

@@ -14,8 +14,10 @@ const QUALITIES = ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10"];
 
 const OUTPUT = {
     StrField4: ["output.fileType", "text", TYPES], StrField5: ["output.quality", "text", QUALITIES],
-    StrField6: ["output.destination.kind", "text", ["beside", "source", "folder"]], StrField7: ["output.destination.name", "text"],
-    StrField8: ["output.destination.path", "text"], StrField9: ["output.ifTaken", "text", ["number", "replace", "skip", "ask"]],
+    StrField6: ["output.destination.kind", "text", ["beside", "source", "folder"]],
+    StrField7: ["output.destination.name", "text"],
+    StrField8: ["output.destination.path", "text"],
+    StrField9: ["output.ifTaken", "text", ["number", "replace", "skip", "ask"]],
     StrField21: ["output.simulation", "flag"],
 };
 
@@ -40,5 +42,6 @@ export function writingForm(process, mode, modes, own) {
 
 /** The form of an action that moves files: it has no output but a simulation. */
 export function movingForm(process, mode, modes, own) {
-    return { process: process, mode: mode, modes: modes, columns: Object.assign({ StrField21: ["simulation", "flag"] }, own) };
+    return { process: process, mode: mode, modes: modes,
+             columns: Object.assign({ StrField21: ["simulation", "flag"] }, own) };
 }

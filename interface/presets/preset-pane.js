@@ -73,7 +73,8 @@ export class PresetPane {
         this.problem = "";
         this.form.control("paneTitle").text = title;
         this.presets = this.store.list(action);
-        if (this.store.problem === "" && writeStartingPresets(action, shell.interfaceFolder + "/patterns", this.store, defaults)) {
+        if (this.store.problem === ""
+            && writeStartingPresets(action, shell.interfaceFolder + "/patterns", this.store, defaults)) {
             this.presets = this.store.list(action);
         }
         this.showChosen(recall(defaults, keyOf(action), { name: "" }).name);
@@ -147,7 +148,8 @@ export class PresetPane {
         const changed = this.isChanged();
         const none = this.chosen === null;
         // The dot stands before the name, where a long one is not cut off.
-        const texts = this.presets.map((preset) => (changed && preset === this.chosen ? "• " + preset.name : stateWord(preset)));
+        const texts = this.presets
+            .map((preset) => (changed && preset === this.chosen ? "• " + preset.name : stateWord(preset)));
         const values = this.presets.map((preset) => this.valueOf(preset));
         this.form.setItems("preset", (none ? [qsTr("None")] : []).concat(texts), (none ? [""] : []).concat(values));
         this.form.chooseValue("preset", none ? "" : this.valueOf(this.chosen));
@@ -190,7 +192,8 @@ export class PresetPane {
     act(what) {
         this.problem = "";
         const doings = {
-            save: () => this.save(), saveAs: () => this.edit("saveAs"), rename: () => this.edit("rename"), remove: () => this.remove(),
+            save: () => this.save(), saveAs: () => this.edit("saveAs"), rename: () => this.edit("rename"),
+            remove: () => this.remove(),
             "save as file": () => this.saveFile(), "bring in": () => this.bringIn(), look: () => this.lookAgain(),
         };
         doings[what]();
@@ -215,7 +218,8 @@ export class PresetPane {
     edit(what) {
         this.editing = what;
         this.taken = this.store.names();
-        const name = what === "rename" ? this.chosen.name : freeName(this.isReady() ? this.chosen.name : qsTr("My preset"), this.taken);
+        const name = what === "rename"
+            ? this.chosen.name : freeName(this.isReady() ? this.chosen.name : qsTr("My preset"), this.taken);
         if (what === "rename") {
             this.taken = this.taken.filter((other) => other !== name);
         }
@@ -239,7 +243,8 @@ export class PresetPane {
     }
 
     showNameProblem() {
-        const problem = this.editing === "" ? "" : this.store.nameProblem(this.form.control("presetName").text, this.taken);
+        const problem = this.editing === ""
+            ? "" : this.store.nameProblem(this.form.control("presetName").text, this.taken);
         const isSame = this.editing === "rename" && this.newName() === this.chosen.name;
         this.label("nameProblem", isSame ? "" : problem);
         this.form.control("presetOk").enabled = problem === "" || isSame;
@@ -274,7 +279,8 @@ export class PresetPane {
     remove() {
         const name = this.chosen.name;
         const answer = shell.ask({
-            title: qsTr("Delete preset"), text: fill(qsTr("Delete the preset “%1”?"), name), detail: qsTr("The settings stay as they are now."),
+            title: qsTr("Delete preset"), text: fill(qsTr("Delete the preset “%1”?"), name),
+            detail: qsTr("The settings stay as they are now."),
             buttons: [qsTr("Delete"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
         if (answer.button === 0) {
@@ -312,12 +318,16 @@ export class PresetPane {
             return;
         }
         const work = this.store.bringingIn(read.rows);
-        this.importing.start(work, guard("presets.import", (stored) => this.say(fill(qsTr("%1 of %2 presets imported"), stored, read.rows.length))),
+        this.importing.start(work,
+                             guard("presets.import",
+                                   (stored) => this.say(fill(qsTr("%1 of %2 presets imported"), stored,
+                                                             read.rows.length))),
                              guard("presets.imported", (how, value) => this.importEnded(how, value, read)));
     }
 
     importEnded(how, value, read) {
-        this.broughtIn(how === "done" ? value : { names: [], renamed: 0, problem: how === "failed" ? String(value) : "" }, read);
+        this.broughtIn(how === "done"
+                       ? value : { names: [], renamed: 0, problem: how === "failed" ? String(value) : "" }, read);
     }
 
     // What was stored is shown; the first of this action becomes the chosen one.
@@ -338,7 +348,8 @@ export class PresetPane {
     broughtInText(done, own) {
         const parts = [count(done.names.length, qsTr("1 preset imported"), qsTr("%1 presets imported"))];
         if (done.renamed > 0) {
-            parts.push(count(done.renamed, qsTr("1 renamed, its name was taken"), qsTr("%1 renamed, their names were taken")));
+            parts.push(count(done.renamed, qsTr("1 renamed, its name was taken"),
+                             qsTr("%1 renamed, their names were taken")));
         }
         if (own === 0) {
             parts.push(qsTr("none for this action"));

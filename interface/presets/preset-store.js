@@ -248,7 +248,8 @@ export class PresetStore {
         if ((this.rows(NAME, name) || []).length === 0) {
             return "";
         }
-        const id = textOf(this.makeDb().hGetBookMarkedFolders(TABLE, NAME, name, "Process", this.kinds[action].form.process, NAME + ", ID"));
+        const id = textOf(this.makeDb().hGetBookMarkedFolders(TABLE, NAME, name, "Process",
+                                                              this.kinds[action].form.process, NAME + ", ID"));
         if (!/^[0-9]+$/.test(id)) {
             return "";
         }

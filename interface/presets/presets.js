@@ -56,7 +56,8 @@ export function encoded(text) {
 
 /** What encoded() was given; null for a text that it never gives. */
 export function decoded(text) {
-    const result = text.replace(/%u([0-9A-F]{4})|%([0-9A-F]{2})/g, (all, four, two) => String.fromCharCode(parseInt(four || two, 16)));
+    const result = text.replace(/%u([0-9A-F]{4})|%([0-9A-F]{2})/g,
+                                (all, four, two) => String.fromCharCode(parseInt(four || two, 16)));
     return encoded(result) === text ? result : null;
 }
 
@@ -77,7 +78,8 @@ const READERS = {
 };
 
 function valueAt(settings, path) {
-    return path.split(".").reduce((part, key) => (part === null || part === undefined ? undefined : part[key]), settings);
+    return path.split(".")
+        .reduce((part, key) => (part === null || part === undefined ? undefined : part[key]), settings);
 }
 
 function setAt(settings, path, value) {
@@ -129,7 +131,8 @@ export function rowOf(form, name, settings) {
         row[placeOf(column)] = text;
     }
     if (form.list !== undefined) {
-        valueAt(settings, form.list.path).forEach((part, i) => { row[placeOf(form.list.columns[i])] = encoded(JSON.stringify(part)); });
+        valueAt(settings, form.list.path)
+            .forEach((part, i) => { row[placeOf(form.list.columns[i])] = encoded(JSON.stringify(part)); });
     }
     return row;
 }
@@ -219,7 +222,8 @@ function settingsIn(row, form, standard) {
 }
 
 /**
- * What a row of the database is: {name, process, action, state, settings, note}. `kinds` has {form, standard} by the action's name, standard
+ * What a row of the database is: {name, process, action, state, settings, note}. `kinds` has {form, standard} by the action's
+ * name, standard
  * being the settings of a new pane; `action` is that name, or "" for a process that is not ours.
  *
  * state: "ready" with settings; "newer", a form of a later version; "unknown", of another kind; "damaged", with a value that is
@@ -230,7 +234,9 @@ export function presetOf(row, kinds) {
     const action = Object.keys(kinds).find((name) => kinds[name].form.process === fields[1]) || "";
     const version = fields.length === FIELDS && action !== "" ? headOf(fields, kinds[action].form).version : 0;
     const preset = { name: fields[0], process: fields[1] || "", action: action };
-    return Object.assign(preset, action === "" || version === 0 ? stateOf("unknown", null) : readState(fields, version, kinds[action]));
+    return Object.assign(preset,
+                         action === "" || version === 0
+                             ? stateOf("unknown", null) : readState(fields, version, kinds[action]));
 }
 
 function stateOf(state, settings) {
@@ -340,7 +346,8 @@ export function fileText(rows) {
 }
 
 function isRow(row) {
-    return Array.isArray(row) && row.length === FIELDS && row.every((value) => typeof value === "string" && !/['|\u0000]/.test(value));
+    return Array.isArray(row) && row.length === FIELDS
+        && row.every((value) => typeof value === "string" && !/['|\u0000]/.test(value));
 }
 
 /** What a file holds: {rows, problem}; problem is a sentence where it is no file of presets, or holds some that are none. */
@@ -351,7 +358,8 @@ export function rowsOfFile(text) {
     } catch (error) {
         content = null;
     }
-    if (content === null || typeof content !== "object" || content.format !== FILE_MARK || !Array.isArray(content.presets)) {
+    if (content === null || typeof content !== "object" || content.format !== FILE_MARK
+        || !Array.isArray(content.presets)) {
         return { rows: [], problem: qsTr("This file holds no presets.") };
     }
     if (content.version !== 1) {
@@ -359,5 +367,7 @@ export function rowsOfFile(text) {
     }
     const rows = content.presets.filter((row) => isRow(row) && nameProblem(row[0], []) === "");
     const lost = content.presets.length - rows.length;
-    return { rows: rows, problem: lost === 0 ? "" : fill(qsTr("%1 of %2 presets in this file cannot be used."), lost, content.presets.length) };
+    return { rows: rows,
+             problem: lost === 0
+                 ? "" : fill(qsTr("%1 of %2 presets in this file cannot be used."), lost, content.presets.length) };
 }

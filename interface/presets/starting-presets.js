@@ -14,9 +14,13 @@ function laidOver(standard, changes) {
     return result;
 }
 
-/** The presets that an action starts with: [name, settings] each. `kind` is of presetKinds(); `patterns` is the folder of the supplied patterns. */
+/**
+ * The presets that an action starts with: [name, settings] each. `kind` is of presetKinds(); `patterns` is the folder of the
+ * supplied patterns.
+ */
 export function startingPresets(kind, patterns) {
-    return (kind.starting === undefined ? [] : kind.starting(patterns)).map((entry) => [entry[0], laidOver(kind.standard, entry[1])]);
+    return (kind.starting === undefined ? [] : kind.starting(patterns))
+        .map((entry) => [entry[0], laidOver(kind.standard, entry[1])]);
 }
 
 /**

@@ -30,7 +30,8 @@ export class CommentJob {
      *                reverted}
      */
     start(generator, action, onStep, onEnd) {
-        const work = { run: newRunName(), pagesRun: newRunName(), action: action, tried: 0, done: 0, first: "", problem: "", cancelled: false, edits: [] };
+        const work = { run: newRunName(), pagesRun: newRunName(), action: action, tried: 0, done: 0, first: "",
+                       problem: "", cancelled: false, edits: [] };
         this.job.start(generator, guard("comments.step", (result) => { this.take(work, result); onStep(work); }),
                        guard("comments.end", (how, value) => {
             work.cancelled = how === "cancelled";
@@ -57,7 +58,9 @@ export class CommentJob {
 /** What became of a run, as one line; done says how many pictures it changed. */
 export function commentSummary(work, done) {
     const left = work.tried - work.done;
-    const parts = [done].concat(left > 0 ? [count(left, qsTr("1 problem"), qsTr("%1 problems")), work.first] : [], work.problem ? [work.problem] : []);
+    const parts = [done]
+        .concat(left > 0 ? [count(left, qsTr("1 problem"), qsTr("%1 problems")), work.first] : [],
+                work.problem ? [work.problem] : []);
     return (work.cancelled ? qsTr("Stopped:") + " " : "") + parts.join(" · ");
 }
 

@@ -7,7 +7,8 @@ import { expand, needsFacts, parse, problems, tokens } from "../lib/tokens.js";
 import { count, fill } from "../lib/wording.js";
 
 // Stands for any picture where there is none yet.
-const MADE_UP = { path: "/IMG_4711.JPG", facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
+const MADE_UP = { path: "/IMG_4711.JPG",
+                  facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
                                                        width: 4032, height: 3024, bytes: 2440000, size: "2.4 MB" } };
 
 /**
@@ -48,8 +49,10 @@ export function commentExample(text, path, files) {
         return { name: splitPath(path).name, comment: commentMaker(text, files)(path, 0) };
     }
     const facts = Object.assign({}, MADE_UP.facts);
-    tokens().forEach((each) => { facts[each.name] = facts[each.name] === undefined ? each.example : facts[each.name]; });
-    return { name: splitPath(MADE_UP.path).name, comment: expand(parse(text), { path: MADE_UP.path, index: 0, facts: facts }).text };
+    tokens().forEach((each) => { facts[each.name] = facts[each.name] === undefined
+                                 ? each.example : facts[each.name]; });
+    return { name: splitPath(MADE_UP.path).name,
+             comment: expand(parse(text), { path: MADE_UP.path, index: 0, facts: facts }).text };
 }
 
 // What is written was checked before it took the old file's place; what can be read back counts beside that, but a file that cannot be
@@ -58,10 +61,12 @@ function written(comments, path, before, comment) {
     const problem = comments.write(path, comment);
     const after = comments.read(path);
     if (problem !== "") {
-        return { path: path, status: "Failed", before: before, after: after.problem === "" ? after.comment : before, reason: problem };
+        return { path: path, status: "Failed", before: before, after: after.problem === "" ? after.comment : before,
+                 reason: problem };
     }
     const isThere = after.problem !== "" || after.comment === comment;
-    return { path: path, status: isThere ? "OK" : "Failed", before: before, after: after.problem === "" ? after.comment : comment,
+    return { path: path, status: isThere ? "OK" : "Failed", before: before,
+             after: after.problem === "" ? after.comment : comment,
              reason: isThere ? "" : qsTr("The file does not say what was written into it.") };
 }
 
@@ -73,11 +78,13 @@ export function writeComment(comments, path, comment) {
 
 /** What is said of pages that go, or would go. */
 export function pagesGone(pages) {
-    return count(pages, qsTr("1 further page was taken out and does not come back."), qsTr("%1 further pages were taken out and do not come back."));
+    return count(pages, qsTr("1 further page was taken out and does not come back."),
+                 qsTr("%1 further pages were taken out and do not come back."));
 }
 
 function pagesInTheWay(pages) {
-    return count(pages, qsTr("It has 1 further page, which would be lost."), qsTr("It has %1 further pages, which would be lost."));
+    return count(pages, qsTr("It has 1 further page, which would be lost."),
+                 qsTr("It has %1 further pages, which would be lost."));
 }
 
 // A file that lost its further pages says how many.
@@ -127,7 +134,8 @@ function obstacle(comments, edit) {
 export function* reverting(comments, edits) {
     for (const edit of edits) {
         const found = obstacle(comments, edit);
-        yield Object.assign(found === null ? writeOne(comments, edit.path, edit.before, false) : found, { undoes: edit.run });
+        yield Object.assign(found === null ? writeOne(comments, edit.path, edit.before, false) : found,
+                            { undoes: edit.run });
     }
 }
 
@@ -137,11 +145,13 @@ export function* reverting(comments, edits) {
  * @param paths  of any files
  */
 export function pagesAtStake(comments, paths) {
-    const found = paths.map((path) => ({ name: splitPath(path).name, pages: comments.pagesLost(path) })).filter((each) => each.pages > 0);
+    const found = paths.map((path) => ({ name: splitPath(path).name, pages: comments.pagesLost(path) }))
+        .filter((each) => each.pages > 0);
     const named = found.slice(0, MOST_NAMED).map((each) => fill(qsTr("%1 (%2)"), each.name, each.pages));
     const rest = found.length - named.length;
     return { files: found.length, pages: found.reduce((sum, each) => sum + each.pages, 0),
-             words: named.concat(rest > 0 ? [count(rest, qsTr("1 more file"), qsTr("%1 more files"))] : []).join(", ") };
+             words: named.concat(rest > 0 ? [count(rest, qsTr("1 more file"), qsTr("%1 more files"))] : [])
+             .join(", ") };
 }
 
 /** The edits among the results of a run that can be reverted, the newest first. */
@@ -161,7 +171,8 @@ export function editWords(before, after) {
 /** A result as a row of the log, with the old and the new comment. */
 export function editRow(result, action, date, run) {
     const photo = { name: splitPath(result.path).name, path: result.path };
-    const row = logRow({ status: result.status, reason: result.reason, photo: photo, name: photo.name, path: result.path },
+    const row = logRow({ status: result.status, reason: result.reason, photo: photo, name: photo.name,
+                         path: result.path },
                        qsTr("Metadata"), action, date, run);
     const edit = Object.assign(row, { before: result.before, after: result.after });
     return result.undoes === undefined ? edit : Object.assign(edit, { undoes: result.undoes });

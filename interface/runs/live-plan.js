@@ -78,7 +78,8 @@ export class LivePlan {
             return;
         }
         const settings = copyOf(window.settings);
-        this.job.start(this.work(this.ids, settings), guard("plan.item", (part) => this.take(part, summary)), guard("plan.end", (how, value) => {
+        this.job.start(this.work(this.ids, settings), guard("plan.item", (part) => this.take(part, summary)),
+                       guard("plan.end", (how, value) => {
             if (how === "done") {
                 this.ended(value, summary);
                 this.planned(summary);

@@ -42,7 +42,8 @@ export function appendRows(files, rows) {
 /** Takes the oldest rows away when there are too many; returns a message if that failed. */
 export function trimRows(files) {
     const limit = Math.round(mostRows * (1 + SLACK));
-    return files.info(logPath(files)).bytes > limit * SHORTEST_ROW ? files.keepNewestLines(logPath(files), mostRows, limit) : "";
+    return files.info(logPath(files)).bytes > limit * SHORTEST_ROW
+        ? files.keepNewestLines(logPath(files), mostRows, limit) : "";
 }
 
 /** Takes all rows away; returns a message if that failed. */

@@ -24,7 +24,8 @@ const NONE = Object.freeze([]);
  *   shown    what the column of new names shows; the name of `to` where it is ""
  */
 export function row(changes) {
-    const made = Object.assign({ to: "", kind: "move", number: false, skips: false, isLeft: false, caution: "", notes: NONE, along: NONE, goesWith: -1,
+    const made = Object.assign({ to: "", kind: "move", number: false, skips: false, isLeft: false, caution: "",
+                                 notes: NONE, along: NONE, goesWith: -1,
                                  shown: "", status: "", reason: "" }, changes);
     if (made.along.length === 0) {
         made.along = NONE;
@@ -44,7 +45,8 @@ function* tellWishes(tell, paths, rows, leftOut, part) {
         ofRow.push(isAsked ? count : -1);
         if (isAsked) {
             told.push({ kind: kind, from: paths[i], to: to, number: number, leader: -1 });
-            along.forEach((other) => told.push({ kind: kind, from: other.from, to: other.to, number: number, leader: ofRow[i] }));
+            along.forEach((other) =>
+                told.push({ kind: kind, from: other.from, to: other.to, number: number, leader: ofRow[i] }));
             count += 1 + along.length;
         }
         if (told.length >= AT_ONCE || i === rows.length - 1) {
@@ -66,7 +68,8 @@ function* plannedOnce(paths, rows, leftOut, moves, part) {
         }
         const items = [];
         while (items.length < told.count) {
-            moves.planned(name, items.length, Math.min(told.count, items.length + AT_ONCE)).forEach((item) => items.push(item));
+            moves.planned(name, items.length, Math.min(told.count, items.length + AT_ONCE))
+                .forEach((item) => items.push(item));
             yield part;
         }
         return { paths: paths, rows: rows, items: items, ofRow: told.ofRow, leftOut: leftOut };
@@ -152,7 +155,8 @@ function readyOfRow(plan, i, first) {
     along.forEach((other, k) => {
         const item = plan.items[at + 1 + k];
         if (isReady(item)) {
-            ready.push({ kind: kind, from: other.from, to: item === null ? other.to : item.to, row: i, along: true, leader: leader });
+            ready.push({ kind: kind, from: other.from, to: item === null ? other.to : item.to, row: i, along: true,
+                         leader: leader });
         }
     });
     return ready;

@@ -113,12 +113,14 @@ export class MoveRun extends BaseRun {
         others.forEach((id) => this.window.livePlan.keepFinal(id));
         this.undoes = "";
         this.leftOut = 0;
-        this.job.start(this.planAgain(again), () => undefined, guard("moves.retryEnd", (how, plan) => this.plannedAgain(how, plan, again)));
+        this.job.start(this.planAgain(again), () => undefined,
+                       guard("moves.retryEnd", (how, plan) => this.plannedAgain(how, plan, again)));
         this.changed();
     }
 
     * planAgain(again) {
-        const plan = yield* settled(again.map((row) => row.from), again.map((row) => row.wish), this.window.services.moves);
+        const plan = yield* settled(again.map((row) => row.from), again.map((row) => row.wish),
+                                    this.window.services.moves);
         plan.ready = yield* readyItems(plan);
         return plan;
     }
@@ -131,11 +133,14 @@ export class MoveRun extends BaseRun {
         }
         this.wished = [];
         again.forEach((row) => { this.wished[row.of] = row.wish; });
-        this.items = plan.ready.map((item) => Object.assign({}, item, { row: again[item.row].of, along: item.along || again[item.row].isAlong }));
+        this.items = plan.ready
+            .map((item) =>
+                Object.assign({}, item, { row: again[item.row].of, along: item.along || again[item.row].isAlong }));
         this.startMoving();
         again.forEach((row, i) => {
             if (!isReadyRow(plan, i)) {
-                this.noteFailed({ kind: row.wish.kind, from: row.from, to: row.wish.to, row: row.of, along: row.isAlong },
+                this.noteFailed({ kind: row.wish.kind, from: row.from, to: row.wish.to, row: row.of,
+                                  along: row.isAlong },
                                 { status: "Failed", reason: refusalText(itemOf(plan, i)), path: "" });
             }
         });
@@ -177,7 +182,10 @@ export class MoveRun extends BaseRun {
 
     begin() {
         const moves = this.window.services.moves;
-        const begun = moves.begin({ title: this.title, items: this.items.map((item) => ({ kind: item.kind, from: item.from, to: item.to, leader: item.leader })) });
+        const begun = moves.begin({ title: this.title,
+                                    items: this.items
+                                    .map((item) =>
+                                        ({ kind: item.kind, from: item.from, to: item.to, leader: item.leader })) });
         if (begun.problem) {
             this.finish(begun.problem);
         } else {
@@ -233,7 +241,8 @@ export class MoveRun extends BaseRun {
 
     noteResult(item, result) {
         const isDone = result.status === "OK";
-        const parts = { status: result.status, reason: result.reason, photo: { name: splitPath(item.from).name, path: item.from },
+        const parts = { status: result.status, reason: result.reason,
+                        photo: { name: splitPath(item.from).name, path: item.from },
                         name: isDone ? splitPath(result.path).name : "", path: isDone ? result.path : "" };
         const isMoved = isDone && item.kind === "move";
         this.noteRow(parts);
@@ -260,7 +269,8 @@ export class MoveRun extends BaseRun {
     }
 
     noteRow(parts) {
-        const describe = () => logRow(parts, this.title, this.window.action.step.describe(this.settings), new Date().toISOString());
+        const describe = () =>
+            logRow(parts, this.title, this.window.action.step.describe(this.settings), new Date().toISOString());
         this.note(parts, this.undone === null ? describe() : undoRow(parts, this.undone, this.id));
     }
 
@@ -304,7 +314,8 @@ export class MoveRun extends BaseRun {
 
     summaryText(how) {
         const action = this.window.action;
-        const done = this.undoes === "" ? action.done(this.moved, this.settings) : action.undone(this.moved, this.settings);
+        const done = this.undoes === ""
+            ? action.done(this.moved, this.settings) : action.undone(this.moved, this.settings);
         const parts = [done + ", " + problemsText(this.problems)];
         if (this.undoes === "" && this.leftOut > 0) {
             parts.push(fill(qsTr("%1 left out"), this.leftOut));
@@ -346,7 +357,8 @@ export class MoveRun extends BaseRun {
         const action = this.window.action;
         const isOther = run.title !== action.title();
         const own = () => (run.undoes ? action.undone(run.done, null) : action.done(run.done, null));
-        const words = isOther ? fill(qsTr("%1, %2"), run.title, count(run.done, qsTr("1 file"), qsTr("%1 files"))) : own();
+        const words = isOther
+            ? fill(qsTr("%1, %2"), run.title, count(run.done, qsTr("1 file"), qsTr("%1 files"))) : own();
         return fill(qsTr("Last run: %1, %2"), words, problemsText(Math.max(0, run.count - run.done)));
     }
 
@@ -371,7 +383,8 @@ export class MoveRun extends BaseRun {
         }
         this.rowAt = rowsByPath(this.window.pictures);
         this.startMoving();
-        this.items = begun.items.map((item) => ({ kind: "move", from: item.from, to: item.to, row: undefined, along: false }));
+        this.items = begun.items
+            .map((item) => ({ kind: "move", from: item.from, to: item.to, row: undefined, along: false }));
         unableSteps(begun, this.undone).forEach((step) => this.note(step.result, step.row));
         this.carryOut(begun.run, undoing(moves, begun, this.undone), (step) => this.tookBack(step));
     }

@@ -28,7 +28,8 @@ export function refusalText(item) {
     const words = REFUSED[item.code];
     const other = nameOf(item.other);
     // The name itself is what is taken: saying it again would say nothing.
-    return words === undefined ? qsTr("cannot be done") : words(item.code === "taken" && other === nameOf(item.to) ? "" : other);
+    return words === undefined
+        ? qsTr("cannot be done") : words(item.code === "taken" && other === nameOf(item.to) ? "" : other);
 }
 
 function companions(row) {
@@ -51,15 +52,18 @@ function readyText(row, item) {
     }
     const words = { numbered: qsTr("ready, numbered because the name is taken"), disk: qsTr("ready, onto another disk"),
                     "case": qsTr("ready, only the case changes") };
-    return words[item.code] || (row.along.length > 0 ? fill(qsTr("ready, with its %1"), companions(row)) : qsTr("ready"));
+    return words[item.code]
+        || (row.along.length > 0 ? fill(qsTr("ready, with its %1"), companions(row)) : qsTr("ready"));
 }
 
 function ready(row, item) {
     const isPlainMove = item.code === "" || item.code === "case";
-    const notes = row.notes.concat(row.along.length > 0 && !isPlainMove ? [fill(qsTr("Goes with its %1."), companions(row))] : []);
+    const notes = row.notes
+        .concat(row.along.length > 0 && !isPlainMove ? [fill(qsTr("Goes with its %1."), companions(row))] : []);
     if (row.caution !== "") {
         const text = readyText(row, item);
-        return { state: "ready", kind: "caution", text: row.caution, detail: [row.caution, text].concat(notes).join("\n") };
+        return { state: "ready", kind: "caution", text: row.caution,
+                 detail: [row.caution, text].concat(notes).join("\n") };
     }
     const isPlain = isPlainMove && row.notes.length === 0;
     const text = isPlainMove && row.notes.length > 0 ? fill(qsTr("ready, but %1"), row.notes[0]) : readyText(row, item);
@@ -72,7 +76,8 @@ const TAKEN = ["taken", "twice", "case"];
 
 // The rule for names that are taken is to leave such files where they are.
 function skipped(item) {
-    const text = item.code === "twice" ? fill(qsTr("stays: %1 gets this name"), nameOf(item.other)) : qsTr("stays: a file of this name is there");
+    const text = item.code === "twice"
+        ? fill(qsTr("stays: %1 gets this name"), nameOf(item.other)) : qsTr("stays: a file of this name is there");
     return { state: "same", kind: "caution", text: text, detail: fill(qsTr("In the way: %1"), item.other) };
 }
 
@@ -85,7 +90,8 @@ export function stateOf(row, item, leaderName) {
         return { state: "along", kind: "waiting", text: fill(qsTr("goes along with %1"), leaderName), detail: "" };
     }
     if (item === null) {
-        return { state: row.isLeft ? "same" : "attention", kind: row.isLeft ? "caution" : "bad", text: row.reason, detail: row.notes.join("\n") };
+        return { state: row.isLeft ? "same" : "attention", kind: row.isLeft ? "caution" : "bad", text: row.reason,
+                 detail: row.notes.join("\n") };
     }
     if (item.status === "same") {
         return { state: "same", kind: "none", text: qsTr("stays as it is"), detail: row.notes.join("\n") };

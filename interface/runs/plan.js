@@ -143,7 +143,8 @@ function itemFor(photo, planned, settings) {
  */
 export function* planRun(photos, step, settings, services) {
     const namesIn = foldersOf(services);
-    const context = { owners: ownersOf(photos.paths, services), memory: { forAll: null }, services: services, cancelled: false };
+    const context = { owners: ownersOf(photos.paths, services), memory: { forAll: null }, services: services,
+                      cancelled: false };
     const items = [];
     for (let i = 0; i < photos.count && !context.cancelled; i += 1) {
         const photo = photos.at(i);

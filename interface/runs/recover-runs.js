@@ -10,7 +10,8 @@ export function recoverRuns(say) {
     if (words !== null && words.detail === "") {
         say(words.text);
     } else if (words !== null) {
-        shell.ask({ title: qsTr("A run was interrupted"), text: words.text, detail: words.detail, buttons: [qsTr("Continue")], initial: 0, escape: 0,
+        shell.ask({ title: qsTr("A run was interrupted"), text: words.text, detail: words.detail,
+                    buttons: [qsTr("Continue")], initial: 0, escape: 0,
                     check: "" });
     }
 }

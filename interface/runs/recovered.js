@@ -10,13 +10,15 @@ function counted(count, one, many) {
 export function recoveredText(run) {
     const parts = [];
     if (run.done + run.finished > 0) {
-        parts.push(counted(run.done + run.finished, qsTr("1 item has its new name"), qsTr("%1 items have their new names")));
+        parts.push(counted(run.done + run.finished, qsTr("1 item has its new name"),
+                           qsTr("%1 items have their new names")));
     }
     if (run.takenBack > 0) {
         parts.push(counted(run.takenBack, qsTr("1 item was taken back"), qsTr("%1 items were taken back")));
     }
     if (run.left > 0) {
-        parts.push(counted(run.left, qsTr("the turn of 1 item had not come"), qsTr("the turn of %1 items had not come")));
+        parts.push(counted(run.left, qsTr("the turn of 1 item had not come"),
+                           qsTr("the turn of %1 items had not come")));
     }
     const what = fill(qsTr("%1 was interrupted and is ended now"), run.title);
     return (parts.length > 0 ? fill(qsTr("%1: %2"), what, parts.join(", ")) : what) + ".";

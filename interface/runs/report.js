@@ -1,6 +1,7 @@
 // The rows of a run: counted for the summary, written as CSV and as lines of the log. Pure; no service is used.
 
-const COLUMNS = ["Date", "Process", "Action", "Status", "Reason", "Input", "Output", "InputPath", "OutputPath", "Bytes"];
+const COLUMNS = ["Date", "Process", "Action", "Status", "Reason", "Input", "Output", "InputPath", "OutputPath",
+                 "Bytes"];
 const EDIT_COLUMNS = ["Before", "After"];
 
 // Spreadsheets take a file without this mark for one in some older set of letters.
@@ -31,8 +32,11 @@ export function csvHead(areEdits) {
 
 /** Rows as lines of a CSV file; lines end as the format wants it, in CR and LF. */
 export function csvLines(rows, areEdits) {
-    return rows.map((row) => [row.date, row.process, row.action, row.status, row.reason, row.input, row.output, row.inputPath, row.outputPath,
-                              row.bytes].concat(areEdits ? [row.before, row.after] : []).map(cell).join(",") + LINE_END).join("");
+    return rows.map((row) =>
+        [row.date, row.process, row.action, row.status, row.reason, row.input, row.output, row.inputPath,
+         row.outputPath,
+                              row.bytes].concat(areEdits ? [row.before, row.after] : []).map(cell).join(",") + LINE_END)
+                              .join("");
 }
 
 /** All rows as a CSV file. */

@@ -18,7 +18,8 @@ export function retryRows(unfinished, wished) {
         const along = old.along.filter((other) => waiting[other.from] !== undefined);
         along.forEach((other) => { delete waiting[other.from]; });
         return { from: item.from, of: item.row, isAlong: false,
-                 wish: row({ to: old.to, kind: old.kind, number: old.number, skips: old.skips, along: along, shown: old.shown }) };
+                 wish: row({ to: old.to, kind: old.kind, number: old.number, skips: old.skips, along: along,
+                             shown: old.shown }) };
     });
     const lone = Object.keys(waiting).map((from) => waiting[from]).map((item) => ({
         from: item.from, of: item.row, isAlong: true, wish: row({ to: item.to, kind: item.kind }) }));

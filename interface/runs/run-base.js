@@ -93,7 +93,8 @@ export class BaseRun {
         const leftText = left === null ? "" : fill(qsTr("%1 left"), clockText(left));
         const time = this.paused ? qsTr("paused") : leftText;
         this.text = fill(qsTr("%1 of %2"), this.progress.done, this.progress.count);
-        this.detail = (time ? [time] : []).concat([this.problems === 0 ? qsTr("no problems") : problemsText(this.problems)]).join(" · ");
+        this.detail = (time ? [time] : [])
+            .concat([this.problems === 0 ? qsTr("no problems") : problemsText(this.problems)]).join(" · ");
         this.changed();
     }
 

@@ -22,7 +22,8 @@ export function undoWords(moves, run) {
     const button = isRedo ? qsTr("Redo") : qsTr("Undo This Run");
     const undoable = moves.undoable(run);
     if (undoable.can) {
-        return { can: true, button: button, isRedo: isRedo, note: count(undoable.count, qsTr("1 file can be taken back."), qsTr("%1 files can be taken back.")) };
+        return { can: true, button: button, isRedo: isRedo,
+                 note: count(undoable.count, qsTr("1 file can be taken back."), qsTr("%1 files can be taken back.")) };
     }
     return { can: false, button: button, isRedo: isRedo, note: sentence(undoable.reason) };
 }
@@ -57,7 +58,8 @@ export function problemsOfUndo(begun) {
 
 /** The row of the log for one file of a run that takes back `undone`: {id, process, action (of undoAction())}. */
 export function undoRow(result, undone, run) {
-    return Object.assign(logRow(result, undone.process, undone.action, new Date().toISOString(), run), { undoes: undone.id });
+    return Object.assign(logRow(result, undone.process, undone.action, new Date().toISOString(), run),
+                         { undoes: undone.id });
 }
 
 /** What becomes of the files that an undo cannot even begin with, as undoing() yields it. */
@@ -82,9 +84,11 @@ export function* undoing(moves, begun, undone) {
             const item = begun.items[step.index];
             const isDone = step.status === "OK";
             const to = isDone ? step.path || item.to : "";
-            const result = { status: step.status, reason: step.message, photo: { name: splitPath(item.from).name, path: item.from },
+            const result = { status: step.status, reason: step.message,
+                             photo: { name: splitPath(item.from).name, path: item.from },
                              name: isDone ? splitPath(to).name : "", path: to };
-            yield { index: step.index, from: item.from, to: to, result: result, row: undoRow(result, undone, begun.run) };
+            yield { index: step.index, from: item.from, to: to, result: result,
+                    row: undoRow(result, undone, begun.run) };
         }
     } finally {
         problem = moves.end(begun.run);

@@ -21,7 +21,8 @@ export function showItem(list, id, item, simulated) {
         const text = item.replacesOriginal ? qsTr("replaces original") : fill(qsTr("replaces %1"), item.name);
         list.setStatus(id, "caution", text, detail);
     } else {
-        list.setStatus(id, simulated ? "planned" : "waiting", simulated ? qsTr("would be written") : qsTr("ready"), detail);
+        list.setStatus(id, simulated ? "planned" : "waiting", simulated ? qsTr("would be written") : qsTr("ready"),
+                       detail);
     }
 }
 

@@ -34,7 +34,8 @@ function mayReplace(items) {
     }
     const answer = shell.ask({
         title: qsTr("Replace originals"),
-        text: count(originals, qsTr("1 original will be replaced by its result."), qsTr("%1 originals will be replaced by their results.")),
+        text: count(originals, qsTr("1 original will be replaced by its result."),
+                    qsTr("%1 originals will be replaced by their results.")),
         detail: qsTr("What is in them now cannot be brought back."),
         buttons: [qsTr("Replace"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
     });
@@ -88,7 +89,8 @@ export class WriteRun extends BaseRun {
 
     endSimulation() {
         const ready = this.items.filter((item) => item.status === "ready").length;
-        const parts = [count(ready, qsTr("Simulation: 1 picture would be written"), qsTr("Simulation: %1 pictures would be written"))];
+        const parts = [count(ready, qsTr("Simulation: 1 picture would be written"),
+                             qsTr("Simulation: %1 pictures would be written"))];
         if (ready < this.items.length) {
             parts.push(fill(qsTr("%1 left out"), this.items.length - ready));
         }
@@ -123,7 +125,8 @@ export class WriteRun extends BaseRun {
     takeResult(id, item, result) {
         const list = this.window.pictures;
         const action = this.window.action;
-        this.note(result, logRow(result, action.title(), action.step.describe(this.settings), new Date().toISOString()));
+        this.note(result,
+                  logRow(result, action.title(), action.step.describe(this.settings), new Date().toISOString()));
         this.progress.add(costOf(item.photo), result.ms);
         this.window.livePlan.keepFinal(id);
         if (result.status === "OK") {

@@ -14,7 +14,8 @@ function deedText(window) {
         return fill(qsTr("Simulate: %1"), window.action.startText(total));
     }
     return originals > 0
-        ? window.action.startText(total) + ", " + count(originals, qsTr("Replace 1 Original"), qsTr("Replace %1 Originals"))
+        ? window.action.startText(total) + ", "
+        + count(originals, qsTr("Replace 1 Original"), qsTr("Replace %1 Originals"))
         : window.action.startText(total);
 }
 
@@ -26,7 +27,8 @@ function deedNote(window) {
     if (planned.originals > 0) {
         return qsTr("Originals are replaced by their results.");
     }
-    return planned.replaced > 0 ? count(planned.replaced, qsTr("1 file is replaced."), qsTr("%1 files are replaced.")) : "";
+    return planned.replaced > 0
+        ? count(planned.replaced, qsTr("1 file is replaced."), qsTr("%1 files are replaced.")) : "";
 }
 
 export const WRITES = {

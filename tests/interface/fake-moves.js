@@ -18,7 +18,8 @@ export class FakeMoves {
             const isEmpty = wish.to.endsWith("/") ? "empty" : "";
             const code = this.refused[wish.to] || (given[wish.to] ? "twice" : isEmpty);
             given[wish.to] = wish.from;
-            return { status: code ? "refused" : "ready", code: code, other: code === "taken" ? wish.to : "", to: wish.to };
+            return { status: code ? "refused" : "ready", code: code, other: code === "taken" ? wish.to : "",
+                     to: wish.to };
         });
         wishes.forEach((wish, i) => {
             if (wish.leader >= 0 && items[wish.leader].status === "refused") {
@@ -49,7 +50,8 @@ export class FakeMoves {
     }
 
     planned(plan, from, to) {
-        return this.items.slice(from, to).map((item, i) => (item.status === "ready" && item.code === "" && item.to === this.wishes[from + i].to
+        return this.items.slice(from, to)
+            .map((item, i) => (item.status === "ready" && item.code === "" && item.to === this.wishes[from + i].to
             ? null : item));
     }
 

@@ -22,7 +22,8 @@ export class FakeFiles {
 
     names(spelling) {
         const folder = this.folderIdentity(spelling);
-        return Object.keys(this.entries).filter((path) => splitPath(path).folder === folder).map((path) => splitPath(path).name);
+        return Object.keys(this.entries).filter((path) => splitPath(path).folder === folder)
+            .map((path) => splitPath(path).name);
     }
 
     folders(folder) {
@@ -56,7 +57,8 @@ export class FakeFiles {
 
     removeStaging(staging) {
         this.stagings = this.stagings.filter((other) => other !== staging);
-        Object.keys(this.entries).filter((path) => path.startsWith(staging)).forEach((path) => { delete this.entries[path]; });
+        Object.keys(this.entries).filter((path) => path.startsWith(staging))
+            .forEach((path) => { delete this.entries[path]; });
     }
 
     // Folders that are other spellings of one are told in `same`: {spelling: folder}.
@@ -131,7 +133,8 @@ export class FakeFiles {
 }
 
 export function photo(path, width, height) {
-    return { path: path, name: splitPath(path).name, type: "JPEG", bytes: 1000, width: width, height: height, orientation: 1 };
+    return { path: path, name: splitPath(path).name, type: "JPEG", bytes: 1000, width: width, height: height,
+             orientation: 1 };
 }
 
 /**
@@ -199,7 +202,13 @@ export function fakeServices(written, status) {
     const services = {
         files: files, outlets: outlets, image: new FakeImage(files, outlets, written, status), unitCache: {}, laid: [],
         openPicture: (path) => new FakePicture(path),
-        pictures: { layOnPattern: (...values) => { services.laid.push(values); files.sizes = written; return services.patternProblem || ""; } },
+        pictures: {
+            layOnPattern: (...values) => {
+                services.laid.push(values);
+                files.sizes = written;
+                return services.patternProblem || "";
+            },
+        },
         // 254 dots per inch: ten to the millimetre.
         units: { asked: 0,
                  getPictureDPI: () => 254,

@@ -13,7 +13,8 @@ const OWN = ["checks", "lines", "dots", "linen", "paper"];
 const CHOOSE = "choose";
 
 function ownWord(name) {
-    return { checks: qsTr("Checks"), lines: qsTr("Lines"), dots: qsTr("Dots"), linen: qsTr("Linen"), paper: qsTr("Paper") }[name];
+    return { checks: qsTr("Checks"), lines: qsTr("Lines"), dots: qsTr("Dots"), linen: qsTr("Linen"),
+             paper: qsTr("Paper") }[name];
 }
 
 function suppliedPatterns() {
@@ -59,7 +60,8 @@ export class BackgroundPane extends Pane {
         const supplied = this.supplied;
         const all = supplied.concat(found, this.chosen, [this.settings.pattern]);
         const others = all.filter((path, i) => i >= supplied.length && all.indexOf(path) === i);
-        const names = OWN.map((name) => ownWord(name)).concat(others.length > 0 ? ["-"] : [], others.map((path) => splitPath(path).name));
+        const names = OWN.map((name) => ownWord(name))
+            .concat(others.length > 0 ? ["-"] : [], others.map((path) => splitPath(path).name));
         const values = supplied.concat(others.length > 0 ? ["-"] : [], others);
         this.form.setItems("pattern", names.concat(["-", qsTr("Choose…")]), values.concat(["-", CHOOSE]));
         this.form.chooseValue("pattern", this.settings.pattern);

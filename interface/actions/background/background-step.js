@@ -5,7 +5,8 @@
 import { FORMAT_CODES, MASK_TYPES, maskName } from "../shared/masks.js";
 import { ORIGINAL, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { handsOnTurn, mayBeTransparent, outcome, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
+import { handsOnTurn, mayBeTransparent, outcome, outputMessages, ready, refused, targetOf,
+         uprightOutcome } from "../shared/written.js";
 
 export const MOST_BAND = 10000;
 /** What can lie under a picture. */
@@ -33,8 +34,10 @@ export function carried(settings) {
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const under = settings.under === "color" ? fill(qsTr("on %1"), settings.color) : fill(qsTr("on pattern %1"), settings.pattern);
-    const frames = { none: [], white: [qsTr("white frame")], band: [fill(qsTr("band of %1 px in %2"), settings.bandWidth, settings.bandColor)] };
+    const under = settings.under === "color"
+        ? fill(qsTr("on %1"), settings.color) : fill(qsTr("on pattern %1"), settings.pattern);
+    const frames = { none: [], white: [qsTr("white frame")],
+                     band: [fill(qsTr("band of %1 px in %2"), settings.bandWidth, settings.bandColor)] };
     return [under].concat(frames[settings.frame]).join(", ");
 }
 
@@ -44,7 +47,8 @@ export function validate(settings) {
     if (settings.under === "pattern" && !settings.pattern) {
         messages.push(qsTr("Choose a pattern."));
     }
-    if (settings.frame === "band" && !(Number.isInteger(settings.bandWidth) && settings.bandWidth >= 1 && settings.bandWidth <= MOST_BAND)) {
+    if (settings.frame === "band"
+        && !(Number.isInteger(settings.bandWidth) && settings.bandWidth >= 1 && settings.bandWidth <= MOST_BAND)) {
         messages.push(qsTr("Enter a width of the band from 1 to %1.").replace("%1", String(MOST_BAND)));
     }
     return messages.concat(outputMessages(settings.output));
@@ -75,7 +79,8 @@ export function plan(photo, settings) {
 function lay(photo, settings, planned, output, services) {
     if (settings.under === "color") {
         services.outlets.backgroundColor.color = settings.color;
-        return services.image.addOverlayColor(photo.path, settings.prefix, "", "", FORMAT_CODES[settings.output.fileType]);
+        return services.image.addOverlayColor(photo.path, settings.prefix, "", "",
+                                              FORMAT_CODES[settings.output.fileType]);
     }
     const problem = services.pictures.layOnPattern(photo.path, settings.pattern, output);
     return problem || "OK";
@@ -89,7 +94,8 @@ function putFrame(from, planned, output, services) {
     }
     const pointwise = services.image.imageFromCGImageRef(opened.bitmap());
     const framed = pointwise === null ? null : services.image.addBorderToImage(pointwise);
-    const status = framed === null ? "Failed" : services.image.hSaveToNewImageFile(output, planned.type, framed.bitmap(), {});
+    const status = framed === null
+        ? "Failed" : services.image.hSaveToNewImageFile(output, planned.type, framed.bitmap(), {});
     [opened, pointwise, framed].forEach((picture) => picture !== null && picture.release());
     return status;
 }
@@ -130,7 +136,8 @@ export function run(photo, settings, services) {
 export function preview(photo, settings, planned) {
     const deeds = [];
     if (isLaid(photo, settings)) {
-        deeds.push(settings.under === "color" ? { do: "lay", color: settings.color } : { do: "pattern", path: settings.pattern });
+        deeds.push(settings.under === "color"
+                   ? { do: "lay", color: settings.color } : { do: "pattern", path: settings.pattern });
     }
     if (settings.frame === "white") {
         deeds.push({ do: "frame" });

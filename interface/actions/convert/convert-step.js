@@ -22,7 +22,8 @@ export const offer = { types: [], quality: false, metadata: ["public.png", "publ
 /** The settings in a few words, for the log. */
 export function describe(settings) {
     const target = targetNamed(settings.target);
-    return target.quality ? fill(qsTr("to %1, quality %2"), target.word, settings.quality) : fill(qsTr("to %1"), target.word);
+    return target.quality
+        ? fill(qsTr("to %1, quality %2"), target.word, settings.quality) : fill(qsTr("to %1"), target.word);
 }
 
 /** Messages on what is wrong with the settings; empty if a run can start. */
@@ -83,7 +84,8 @@ export function run(photo, settings, services) {
 /** What the preview does to the upright picture to show the result. bytes: where that is known without a try. */
 export function preview(photo, settings, planned) {
     const target = targetNamed(settings.target);
-    const shown = { deeds: target.alpha ? [] : [{ do: "flatten" }], width: planned.width, height: planned.height, type: planned.type,
+    const shown = { deeds: target.alpha ? [] : [{ do: "flatten" }], width: planned.width, height: planned.height,
+                    type: planned.type,
                     quality: target.quality ? settings.quality : "" };
     if (settings.target === "pdf" && photo.type === "JPEG" && (photo.orientation || 1) === 1) {
         shown.bytes = photo.bytes;

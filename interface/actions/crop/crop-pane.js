@@ -17,8 +17,10 @@ export class CropPane extends Pane {
 
     join() {
         this.form.control("cropMode").segments = [qsTr("W × H"), "%", qsTr("Pixels")];
-        this.form.control("position").names = [qsTr("Top left"), qsTr("Top"), qsTr("Top right"), qsTr("Left"), qsTr("Centre"),
-                                               qsTr("Right"), qsTr("Bottom left"), qsTr("Bottom"), qsTr("Bottom right")];
+        this.form.control("position").names = [qsTr("Top left"), qsTr("Top"), qsTr("Top right"), qsTr("Left"),
+                                               qsTr("Centre"),
+                                               qsTr("Right"), qsTr("Bottom left"), qsTr("Bottom"),
+                                               qsTr("Bottom right")];
         this.form.setItems("ratio", [qsTr("Free"), qsTr("Original")].concat(crop.RATIOS.slice(2)), crop.RATIOS);
         this.segments("cropMode", "mode", MODES);
         this.segments("position", "position", crop.PLACES);
@@ -115,7 +117,8 @@ export class CropPane extends Pane {
     /** The frame on a picture, for the view: whole pixels and the ratio that is kept while it is sized (0: none). */
     frame(photo, services) {
         const rectangle = cropFrame(photo, crop.forPhoto(photo, this.settings, services));
-        return { x: rectangle.x, y: rectangle.y, width: rectangle.width, height: rectangle.height, ratio: this.ratio() };
+        return { x: rectangle.x, y: rectangle.y, width: rectangle.width, height: rectangle.height,
+                 ratio: this.ratio() };
     }
 
     /** The frame as the service draws it, on a transparent picture of that size; null for a picture that cannot be read. */

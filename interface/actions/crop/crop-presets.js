@@ -13,7 +13,8 @@ export const presets = {
     form: writingForm("Crop", "mode", MODES, {
         StrField11: ["width", "number"], StrField12: ["height", "number"], StrField13: ["unit", "text", UNITS],
         StrField14: ["percent", "number"], StrField15: ["pixels", "number"], StrField16: ["offsetX", "number"],
-        StrField17: ["offsetY", "number"], StrField18: ["ratio", "text", RATIOS], StrField22: ["position", "whole", PLACES],
+        StrField17: ["offsetY", "number"], StrField18: ["ratio", "text", RATIOS],
+        StrField22: ["position", "whole", PLACES],
     }),
     starting: () => [
         [qsTr("Centre square 1080"), size(1080, 1080, "1:1")],

@@ -16,7 +16,8 @@ export const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8];
 
 /** What a new pane shows. */
 export const defaults = {
-    mode: "percent", width: 1200, height: 800, unit: PIXEL, percent: 20, pixels: 200, position: 4, offsetX: 0, offsetY: 0,
+    mode: "percent", width: 1200, height: 800, unit: PIXEL, percent: 20, pixels: 200, position: 4, offsetX: 0,
+    offsetY: 0,
     ratio: "free",
     output: {
         fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: qsTr("Cropped"), path: "" },
@@ -31,9 +32,11 @@ const LABELS = { size: "W x H", percent: "%", pixels: "Pixels" };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const size = { size: settings.width + "×" + settings.height + " " + settings.unit, percent: fill(qsTr("%1 % away"), settings.percent),
+    const size = { size: settings.width + "×" + settings.height + " " + settings.unit,
+                   percent: fill(qsTr("%1 % away"), settings.percent),
                    pixels: fill(qsTr("%1 pixels away"), settings.pixels) }[settings.mode];
-    const moved = settings.offsetX || settings.offsetY ? [fill(qsTr("moved %1, %2 %3"), settings.offsetX, settings.offsetY, settings.unit)] : [];
+    const moved = settings.offsetX || settings.offsetY
+        ? [fill(qsTr("moved %1, %2 %3"), settings.offsetX, settings.offsetY, settings.unit)] : [];
     return [size, fill(qsTr("position %1"), settings.position + 1)].concat(moved).join(", ");
 }
 
@@ -46,7 +49,8 @@ function sizeMessages(settings) {
         return isWhole(settings.percent, 0, 99) ? [] : [qsTr("Enter a whole number from 0 to 99 per cent.")];
     }
     if (settings.mode === "pixels") {
-        return isWhole(settings.pixels, 0, MOST) ? [] : [qsTr("Enter a whole number from 0 to %1.").replace("%1", String(MOST))];
+        return isWhole(settings.pixels, 0, MOST)
+            ? [] : [qsTr("Enter a whole number from 0 to %1.").replace("%1", String(MOST))];
     }
     const good = (value) => value > 0 && value <= MOST && (settings.unit !== PIXEL || Number.isInteger(value));
     return good(settings.width) && good(settings.height) ? [] : [qsTr("Enter a width and a height.")];
@@ -58,7 +62,8 @@ export function validate(settings) {
     if (!isWhole(settings.position, 0, 8)) {
         messages.push(qsTr("Choose one of the nine positions."));
     }
-    if (!(Math.abs(settings.offsetX) <= MOST && Math.abs(settings.offsetY) <= MOST) || UNITS.indexOf(settings.unit) < 0) {
+    if (!(Math.abs(settings.offsetX) <= MOST && Math.abs(settings.offsetY) <= MOST)
+        || UNITS.indexOf(settings.unit) < 0) {
         messages.push(qsTr("Enter offsets from %1 to %2.").replace("%1", String(-MOST)).replace("%2", String(MOST)));
     }
     return messages.concat(outputMessages(settings.output));
@@ -115,9 +120,11 @@ export function run(photo, settings, services) {
     }
     const output = settings.output;
     fillOutlets(photo, settings, services);
-    const status = services.image.cropImage(photo.path, planned.frame.width, planned.frame.height, settings.prefix, output.fileType,
+    const status = services.image.cropImage(photo.path, planned.frame.width, planned.frame.height, settings.prefix,
+                                            output.fileType,
                                             output.quality);
-    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata), services);
+    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata),
+                          services);
 }
 
 /** What the preview does to the upright picture to show the result. */

@@ -19,7 +19,8 @@ function sizeOf(photo, settings) {
 
 function originOf(photo, size, position) {
     const along = (room, place) => [0, half(room), room][place];
-    return { x: along(photo.width - size.width, position % 3), y: along(photo.height - size.height, Math.trunc(position / 3)) };
+    return { x: along(photo.width - size.width, position % 3),
+             y: along(photo.height - size.height, Math.trunc(position / 3)) };
 }
 
 /**

@@ -30,14 +30,16 @@ export class HandPage {
     connect() {
         const join = (signal, name, deed) => signal.connect(guard("hand." + name, deed));
         const control = (name) => this.form.control(name);
-        const deeds = { handBack: () => this.step(-1), handSkip: () => this.step(1), handTrash: () => this.trash(), handUndo: () => this.undo() };
+        const deeds = { handBack: () => this.step(-1), handSkip: () => this.step(1), handTrash: () => this.trash(),
+                        handUndo: () => this.undo() };
         Object.keys(deeds).forEach((name) => {
             join(control(name).triggered, name, deeds[name]);
             join(control(name + "Button").clicked, name, () => { deeds[name](); this.view.setFocus(); });
         });
         join(control("handBackspace").triggered, "back", deeds.handBack);
         const choices = { handMove: MODES[0], handCopy: MODES[1], handLink: MODES[2] };
-        Object.keys(choices).forEach((name) => join(control(name).triggered, name, () => this.chooseMode(choices[name])));
+        Object.keys(choices)
+            .forEach((name) => join(control(name).triggered, name, () => this.chooseMode(choices[name])));
         join(control("handAddPictures").clicked, "add", () => this.window.input.addPictures());
         join(control("handAddPictureFolder").clicked, "add", () => this.window.input.addFolder());
         join(this.view.largePreviewRequested, "large", () => this.window.form.control("largeAction").trigger());
@@ -47,7 +49,8 @@ export class HandPage {
 
     show() {
         this.shown = true;
-        this.sorting = new HandSorting(this.window.services.moves, (path) => new Sidecars(files).of(path), (rows) => appendRows(files, rows));
+        this.sorting = new HandSorting(this.window.services.moves, (path) => new Sidecars(files).of(path),
+                                       (rows) => appendRows(files, rows));
         this.window.pane.use((folder) => this.sorting.countIn(folder), (slot, row) => this.put(slot, row));
         this.showCurrent();
     }
@@ -138,7 +141,8 @@ export class HandPage {
     showButtons(photo) {
         const control = (name) => this.form.control(name);
         const last = this.sorting.last();
-        const states = { handBack: this.list.currentPlace > 1, handSkip: photo !== null && this.list.currentPlace < this.list.count,
+        const states = { handBack: this.list.currentPlace > 1,
+                         handSkip: photo !== null && this.list.currentPlace < this.list.count,
                          handTrash: photo !== null && !this.sorting.isTrashed(photo), handUndo: last !== null };
         Object.keys(states).forEach((name) => {
             control(name).enabled = states[name];
@@ -163,7 +167,8 @@ export class HandPage {
     // What the keys of the folders do from now on; said, since nobody looks at the pane while working by keys.
     chooseMode(mode) {
         this.window.pane.chooseMode(mode);
-        const words = { move: qsTr("Keys move pictures now."), copy: qsTr("Keys copy pictures now."), link: qsTr("Keys link pictures now.") };
+        const words = { move: qsTr("Keys move pictures now."), copy: qsTr("Keys copy pictures now."),
+                        link: qsTr("Keys link pictures now.") };
         this.window.note(words[mode]);
     }
 
@@ -219,7 +224,8 @@ export class HandPage {
     lastWords() {
         const open = this.list.count - this.sorting.decided().length;
         return open === 0 ? qsTr("That was the last picture. All of them are sorted.")
-            : fill(qsTr("That was the last picture. %1"), count(open, qsTr("1 was skipped."), qsTr("%1 were skipped.")));
+            : fill(qsTr("That was the last picture. %1"),
+                   count(open, qsTr("1 was skipped."), qsTr("%1 were skipped.")));
     }
 
     // The row of the list follows the file, and says what was done with it.

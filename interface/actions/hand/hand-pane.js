@@ -4,7 +4,8 @@ import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { MODES } from "./hand-sorting.js";
-import { KEYS, labelOf, MOST_SLOTS, slotProblem, withFolders, withLabel, withMoved, withoutSlot } from "./hand-slots.js";
+import { KEYS, labelOf, MOST_SLOTS, slotProblem, withFolders, withLabel, withMoved,
+         withoutSlot } from "./hand-slots.js";
 import { joinPath, splitPath } from "../../lib/names.js";
 import { count, fill, shortPath } from "../../lib/wording.js";
 import * as hand from "./hand-step.js";
@@ -33,7 +34,8 @@ export class HandPane extends Pane {
     join() {
         const control = (name) => this.form.control(name);
         control("handMode").segments = [qsTr("Move"), qsTr("Copy"), qsTr("Link")];
-        control("handMode").tips = [qsTr("The picture leaves its folder. (Alt+1)"), qsTr("The picture stays, and a copy goes into the folder. (Alt+2)"),
+        control("handMode").tips = [qsTr("The picture leaves its folder. (Alt+1)"),
+                                    qsTr("The picture stays, and a copy goes into the folder. (Alt+2)"),
                                     qsTr("The picture stays, and the folder gets a link to it. (Alt+3)")];
         this.segments("handMode", "mode", MODES);
         control("handAdd").clicked.connect(guard("hand.add", () => this.addFolder()));
@@ -43,8 +45,10 @@ export class HandPane extends Pane {
         control("handNewName").returnPressed.connect(guard("hand.new", () => this.makeFolder()));
         control("handNewName").textChanged.connect(guard("hand.new", () => this.showNew()));
         this.list.slotChosen.connect(guard("hand.slot", (row) => this.chosen(this.slotAt(row), row)));
-        this.list.labelEdited.connect(guard("hand.label", (row, label) => this.change(withLabel(this.settings.slots, row, label))));
-        this.list.slotMoved.connect(guard("hand.move", (from, to) => this.change(withMoved(this.settings.slots, from, to))));
+        this.list.labelEdited.connect(guard("hand.label",
+                                            (row, label) => this.change(withLabel(this.settings.slots, row, label))));
+        this.list.slotMoved.connect(guard("hand.move",
+                                          (from, to) => this.change(withMoved(this.settings.slots, from, to))));
         this.list.foldersDropped.connect(guard("hand.drop", (paths) => this.addFolders(paths)));
         this.list.menuChosen.connect(guard("hand.menu", (row, deed) => this.act(row, deed)));
         this.list.currentSlotChanged.connect(guard("hand.current", () => this.showMore()));
@@ -58,7 +62,8 @@ export class HandPane extends Pane {
     }
 
     menuTexts() {
-        return [qsTr("Change Label"), qsTr("Show Folder"), "-", qsTr("Move Up"), qsTr("Move Down"), "-", qsTr("Remove from List"), qsTr("Remove All…")];
+        return [qsTr("Change Label"), qsTr("Show Folder"), "-", qsTr("Move Up"), qsTr("Move Down"), "-",
+                qsTr("Remove from List"), qsTr("Remove All…")];
     }
 
     menuDeeds() {
@@ -84,8 +89,11 @@ export class HandPane extends Pane {
 
     mayClear() {
         const answer = shell.ask({
-            title: qsTr("Remove all folders"), text: count(this.settings.slots.length, qsTr("Take the folder off the list?"), qsTr("Take all %1 folders off the list?")),
-            detail: qsTr("The folders themselves stay as they are, and so do presets."), buttons: [qsTr("Remove"), qsTr("Keep")], initial: 1, escape: 1, check: "",
+            title: qsTr("Remove all folders"),
+            text: count(this.settings.slots.length, qsTr("Take the folder off the list?"),
+                        qsTr("Take all %1 folders off the list?")),
+            detail: qsTr("The folders themselves stay as they are, and so do presets."),
+            buttons: [qsTr("Remove"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
         return answer.button === 0;
     }
@@ -98,7 +106,8 @@ export class HandPane extends Pane {
 
     addFolder() {
         const last = this.settings.slots[this.settings.slots.length - 1];
-        const folder = shell.chooseFolder(qsTr("Choose a folder to sort into"), last === undefined ? "" : splitPath(last.path).folder);
+        const folder = shell.chooseFolder(qsTr("Choose a folder to sort into"),
+                                          last === undefined ? "" : splitPath(last.path).folder);
         if (folder !== null) {
             this.addFolders([folder]);
         }
@@ -108,7 +117,9 @@ export class HandPane extends Pane {
         const result = withFolders(this.settings.slots, paths);
         this.change(result.slots);
         this.list.reveal(result.slots.length - 1);
-        const parts = result.known > 0 ? [count(result.known, qsTr("1 folder is in the list already."), qsTr("%1 folders are in the list already."))] : [];
+        const parts = result.known > 0
+            ? [count(result.known, qsTr("1 folder is in the list already."),
+                     qsTr("%1 folders are in the list already."))] : [];
         if (result.full > 0) {
             parts.push(fill(qsTr("There are keys for %1 folders only."), MOST_SLOTS));
         }
@@ -137,14 +148,16 @@ export class HandPane extends Pane {
         if (name.indexOf("/") >= 0 || name === "." || name === "..") {
             return qsTr("A folder cannot be called that.");
         }
-        return files.info(joinPath(this.parentFolder(), name)).exists ? qsTr("There is something of this name already.") : "";
+        return files.info(joinPath(this.parentFolder(), name)).exists
+            ? qsTr("There is something of this name already.") : "";
     }
 
     showNew() {
         const name = this.form.control("handNewName").text.trim();
         const problem = name === "" ? "" : this.nameProblem(name);
         this.form.control("handNewMake").enabled = name !== "" && problem === "";
-        this.form.control("handNewNote").text = problem || fill(qsTr("In %1"), shortPath(this.parentFolder(), files.home));
+        this.form.control("handNewNote").text = problem
+            || fill(qsTr("In %1"), shortPath(this.parentFolder(), files.home));
         this.form.setLook("handNewNote", "role", problem ? "problem" : "note");
     }
 
@@ -185,7 +198,10 @@ export class HandPane extends Pane {
     /** Shows the folders and how many pictures went there. */
     showSlots() {
         const slots = this.settings.slots;
-        this.list.setSlots(slots.map((slot, i) => ({ key: KEYS[i], label: labelOf(slot), note: shortPath(slot.path, files.home), problem: this.problems[i],
+        this.list.setSlots(slots
+                               .map((slot, i) =>
+                                   ({ key: KEYS[i], label: labelOf(slot), note: shortPath(slot.path, files.home),
+                                      problem: this.problems[i],
                                                      count: this.countIn(slot.path) })));
         this.list.visible = slots.length > 0;
         this.form.control("handSlotsEmpty").visible = slots.length === 0;

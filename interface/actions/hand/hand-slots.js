@@ -9,7 +9,8 @@ const DIGITS = "1234567890";
 const LETTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 
 /** The keys of the slots in their order: 1 to 9 and 0, the letters, then letters with Shift. */
-export const KEYS = Array.from(DIGITS + LETTERS).concat(Array.from(LETTERS).map((letter) => "Shift+" + letter)).slice(0, MOST_SLOTS);
+export const KEYS = Array.from(DIGITS + LETTERS)
+    .concat(Array.from(LETTERS).map((letter) => "Shift+" + letter)).slice(0, MOST_SLOTS);
 
 /** What a folder is called until somebody calls it otherwise. */
 export function labelOf(slot) {
@@ -64,5 +65,7 @@ export function withMoved(slots, from, to) {
 /** The slots with another label; the folder's own name is no label. */
 export function withLabel(slots, row, text) {
     const label = text.replace(/[\u0000-\u001f\u007f]/g, " ").trim();
-    return slots.map((slot, i) => (i === row ? { path: slot.path, label: label === splitPath(slot.path).name ? "" : label } : slot));
+    return slots
+        .map((slot, i) =>
+            (i === row ? { path: slot.path, label: label === splitPath(slot.path).name ? "" : label } : slot));
 }

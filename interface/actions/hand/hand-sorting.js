@@ -11,12 +11,14 @@ export const TRASH = "trash";
 
 /** The deed in words, as the log and the list say it. */
 export function deedWords(kind, label) {
-    const words = { move: qsTr("Moved to %1"), copy: qsTr("Copied to %1"), link: qsTr("Linked in %1"), trash: qsTr("In the trash") };
+    const words = { move: qsTr("Moved to %1"), copy: qsTr("Copied to %1"), link: qsTr("Linked in %1"),
+                    trash: qsTr("In the trash") };
     return fill(words[kind], label);
 }
 
 function logWords(kind, label) {
-    const words = { move: qsTr("Move to %1"), copy: qsTr("Copy to %1"), link: qsTr("Link in %1"), trash: qsTr("Trash") };
+    const words = { move: qsTr("Move to %1"), copy: qsTr("Copy to %1"), link: qsTr("Link in %1"),
+                    trash: qsTr("Trash") };
     return fill(words[kind], label);
 }
 
@@ -109,7 +111,9 @@ export class HandSorting {
 
     trash(photo) {
         const from = this.placeOf(photo);
-        return from === "" ? failed(qsTr("This picture is in the trash already.")) : this.act(photo, TRASH, from, { path: "", label: "" });
+        return from === ""
+            ? failed(qsTr("This picture is in the trash already."))
+            : this.act(photo, TRASH, from, { path: "", label: "" });
     }
 
     act(photo, kind, from, slot) {
@@ -155,11 +159,13 @@ export class HandSorting {
         const to = deed.kind === TRASH ? from : deed.parts[0].to;
         const gone = [];
         for (const other of this.alongOf(from)) {
-            const result = this.addPart(deed, deed.kind, joinPath(folder, other.name), joinPath(deed.folder, splitPath(to).base + other.ending));
+            const result = this.addPart(deed, deed.kind, joinPath(folder, other.name),
+                                        joinPath(deed.folder, splitPath(to).base + other.ending));
             if (result.status === "OK") {
                 gone.push({ name: result.path ? splitPath(result.path).name : other.name, ending: other.ending });
             } else {
-                this.write([this.row(deed.kind, joinPath(folder, other.name), result, logWords(deed.kind, deed.label))]);
+                this.write([this.row(deed.kind, joinPath(folder, other.name), result,
+                                     logWords(deed.kind, deed.label))]);
             }
         }
         if (deed.kind === "move") {
@@ -235,7 +241,8 @@ export class HandSorting {
 
     row(kind, from, result, action) {
         const isThere = result.status === "OK" && Boolean(result.path) && kind !== TRASH;
-        const parts = { status: result.status, reason: result.message, photo: { name: splitPath(from).name, path: from },
+        const parts = { status: result.status, reason: result.message,
+                        photo: { name: splitPath(from).name, path: from },
                         name: isThere ? splitPath(result.path).name : "", path: isThere ? result.path : "" };
         return logRow(parts, qsTr("Sort by Hand"), action, new Date().toISOString(), this.run);
     }

@@ -51,14 +51,17 @@ export class LogPage {
         this.form = shell.loadForm("actions/log/log-page.ui");
         this.table = this.form.control("logTable");
         this.runs = this.form.control("logRuns");
-        this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder"), qsTr("Old comment"), qsTr("New comment")],
+        this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder"),
+                             qsTr("Old comment"), qsTr("New comment")],
                             shownStates());
         this.table.columns = recall(defaults, COLUMNS, { columns: "" }).columns;
         this.runs.follow(this.table, { all: qsTr("All runs"), oneEntry: qsTr("1 entry"), entries: qsTr("%1 entries"),
                                        oneProblem: qsTr("1 problem"), problems: qsTr("%1 problems"),
-                                       undo: qsTr("Undo of %1"), redo: qsTr("Redo of %1"), of: qsTr("%1 (run of %2)") });
+                                       undo: qsTr("Undo of %1"), redo: qsTr("Redo of %1"),
+                                       of: qsTr("%1 (run of %2)") });
         this.form.setItems("logKind", [qsTr("Any deed"), qsTr("Comments only")], ["", COMMENTS]);
-        this.form.setItems("logStatus", [qsTr("Any status")].concat(STATES.map((state) => statusText(state, ""))), [""].concat(STATES));
+        this.form.setItems("logStatus", [qsTr("Any status")].concat(STATES.map((state) => statusText(state, ""))),
+                           [""].concat(STATES));
         this.form.setSplit("logSplitter", [230, 800]);
         this.connect();
     }
@@ -123,7 +126,8 @@ export class LogPage {
 
     look() {
         this.showColumns();
-        this.table.look(this.form.control("logSearch").text, this.form.value("logStatus"), this.form.value("logKind") === COMMENTS);
+        this.table.look(this.form.control("logSearch").text, this.form.value("logStatus"),
+                        this.form.value("logKind") === COMMENTS);
     }
 
     // Old and new comments are shown where there are such.
@@ -136,7 +140,8 @@ export class LogPage {
         const control = (name) => this.form.control(name);
         const shown = this.table.shownCount;
         const total = this.table.totalCount;
-        control("logCount").text = shown === total ? count(total, qsTr("1 entry"), qsTr("%1 entries")).replace(String(total), this.table.countText)
+        control("logCount").text = shown === total
+            ? count(total, qsTr("1 entry"), qsTr("%1 entries")).replace(String(total), this.table.countText)
             : fill(qsTr("%1 of %2 entries"), this.table.shownText, this.table.countText);
         control("logExport").enabled = shown > 0 && !this.table.reading && !this.job.running;
         control("logOpen").enabled = this.chosenPath() !== "";
@@ -145,7 +150,8 @@ export class LogPage {
         control("logEmpty").visible = shown === 0;
         control("logEmpty").text = this.table.reading ? "" : this.emptyText(total);
         const chosen = this.table.chosenCount;
-        this.form.setMenu("logMore", [chosen > 1 ? fill(qsTr("Copy %1 Rows"), chosen) : qsTr("Copy Row"), "-", qsTr("Clear Log…")],
+        this.form.setMenu("logMore",
+                          [chosen > 1 ? fill(qsTr("Copy %1 Rows"), chosen) : qsTr("Copy Row"), "-", qsTr("Clear Log…")],
                           [chosen > 0 ? "copy" : null, null, total > 0 && !this.isBusy() ? "clear" : null],
                           guard("log.more", (deed) => (deed === "copy" ? this.table.copyChosen() : this.clear())));
         this.showChosenEdits();
@@ -190,7 +196,8 @@ export class LogPage {
         this.showColumns();
         if (!this.isBusy() && words !== null) {
             const entries = count(chosen.count, qsTr("1 entry"), qsTr("%1 entries"));
-            const problems = chosen.problems > 0 ? " · " + count(chosen.problems, qsTr("1 problem"), qsTr("%1 problems")) : "";
+            const problems = chosen.problems > 0
+                ? " · " + count(chosen.problems, qsTr("1 problem"), qsTr("%1 problems")) : "";
             control("logRunTitle").text = chosen.title + " · " + entries + problems;
             control("logRunNote").text = words.note;
             control("logUndo").enabled = words.can;
@@ -222,14 +229,16 @@ export class LogPage {
     save() {
         const path = shell.chooseNewFile(qsTr("Export the log"), "", qsTr("Log") + ".csv", "csv");
         if (path !== null) {
-            this.job.start(csvOf(this.table), () => undefined, guard("log.exported", (how, text) => this.saved(how, path, text)));
+            this.job.start(csvOf(this.table), () => undefined,
+                           guard("log.exported", (how, text) => this.saved(how, path, text)));
             this.showState();
         }
     }
 
     saved(how, path, text) {
         if (how !== "cancelled") {
-            this.window.note(how === "failed" ? String(text) : files.writeText(path, text) || fill(qsTr("Log saved as %1"), path));
+            this.window.note(how === "failed"
+                             ? String(text) : files.writeText(path, text) || fill(qsTr("Log saved as %1"), path));
         }
         this.showState();
     }
@@ -276,10 +285,13 @@ export class LogPage {
             this.window.note(begun.problem);
             return;
         }
-        this.undo = { rows: [], done: 0, problems: problemsOfUndo(begun), count: begun.items.length, places: rowsByPath(this.window.pictures) };
-        const undone = { id: this.runs.run, process: this.runs.chosen().process, action: undoAction(this.words.isRedo) };
+        this.undo = { rows: [], done: 0, problems: problemsOfUndo(begun), count: begun.items.length,
+                      places: rowsByPath(this.window.pictures) };
+        const undone = { id: this.runs.run, process: this.runs.chosen().process,
+                         action: undoAction(this.words.isRedo) };
         unableSteps(begun, undone).forEach((step) => this.tookBack(step));
-        this.job.start(undoing(this.window.services.moves, begun, undone), guard("log.undone", (step) => this.tookBack(step)),
+        this.job.start(undoing(this.window.services.moves, begun, undone),
+                       guard("log.undone", (step) => this.tookBack(step)),
                        guard("log.undoEnd", (how, value) => this.undoEnded(how, value)));
         this.showRun();
     }
@@ -303,7 +315,8 @@ export class LogPage {
         this.undo = null;
         const problem = keepRows(files, undo.rows) || (how === "failed" ? String(value) : value || "");
         const done = count(undo.done, qsTr("1 file taken back"), qsTr("%1 files taken back"));
-        const parts = [done].concat(undo.problems.length > 0 ? [problemsText(undo.problems.length)] : [], problem ? [problem] : []);
+        const parts = [done]
+            .concat(undo.problems.length > 0 ? [problemsText(undo.problems.length)] : [], problem ? [problem] : []);
         this.window.note((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));
         this.show();
     }

@@ -1,10 +1,12 @@
-// Metadata: the properties of one picture as a tree, its user comment, and the comments of many pictures: those of the list, chosen files, or
+// Metadata: the properties of one picture as a tree, its user comment, and the comments of many pictures: those of the list,
+// chosen files, or
 // a folder. Services used: files, defaults, and those of comment-job.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
-import { commentExample, commentMaker, commentProblem, commentsOf, pagesAtStake, reverting, writing } from "../../runs/comment-run.js";
+import { commentExample, commentMaker, commentProblem, commentsOf, pagesAtStake, reverting,
+         writing } from "../../runs/comment-run.js";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
@@ -17,7 +19,8 @@ const KEPT = "Comments";
 const ONE = 0;
 const MANY = 1;
 // Of these the name says already that they can hold a comment.
-const HOLDING = PICTURE_INPUT.filter((extension) => extension !== "gif" && extension !== "bmp").concat(["jpe", "webp", "dng"]);
+const HOLDING = PICTURE_INPUT.filter((extension) => extension !== "gif" && extension !== "bmp")
+    .concat(["jpe", "webp", "dng"]);
 
 function mayHold(path) {
     return HOLDING.indexOf(splitPath(path).extension.toLowerCase()) >= 0 || files.holdsComment(path);
@@ -54,7 +57,8 @@ export class MetadataPage {
         const join = (signal, name, deed) => signal.connect(guard("metadata." + name, deed));
         const control = (name) => this.form.control(name);
         const clicks = {
-            metaAddPictures: () => this.window.input.addPictures(), metaAddFolder: () => this.window.input.addFolder(), metaApply: () => this.apply(),
+            metaAddPictures: () => this.window.input.addPictures(), metaAddFolder: () => this.window.input.addFolder(),
+            metaApply: () => this.apply(),
             metaApplyAll: () => this.writeInto(this.list.paths()), metaChooseFiles: () => this.writeIntoFiles(),
             metaChooseFolder: () => this.writeIntoFolder(), metaRevert: () => this.revert(),
             metaStop: () => this.job.cancel(), metaLog: () => this.showLog(),
@@ -73,11 +77,13 @@ export class MetadataPage {
         const control = (name) => this.form.control(name);
         const offered = [];
         tokens().forEach((token) => token.forms.forEach((form) => {
-            offered.push({ title: token.words + (form === "" ? "" : "  " + form), text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
+            offered.push({ title: token.words + (form === "" ? "" : "  " + form),
+                           text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
         }));
         const menu = control("metaTokenMenu");
         menu.setPlaceholder(qsTr("Search values"));
-        menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text), offered.map((each) => each.example), offered.map((each) => each.text));
+        menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text),
+                        offered.map((each) => each.example), offered.map((each) => each.text));
         menu.chosen.connect(guard("metadata.token", (text) => {
             control("metaComment").insertPlainText(text);
             control("metaComment").setFocus();
@@ -160,7 +166,8 @@ export class MetadataPage {
     }
 
     showCopyMenu() {
-        const texts = [qsTr("Copy Value or Branch"), "-", qsTr("Copy Place in Degrees, 48.85840, 2.29450"), qsTr("Copy Place in Minutes, 48° 51′ 30″ N")];
+        const texts = [qsTr("Copy Value or Branch"), "-", qsTr("Copy Place in Degrees, 48.85840, 2.29450"),
+                       qsTr("Copy Place in Minutes, 48° 51′ 30″ N")];
         const place = this.tree.hasPlace;
         this.form.setMenu("metaCopy", texts, ["", null, place ? "degrees" : null, place ? "minutes" : null],
                           guard("metadata.copy", (form) => (form === "" ? this.copy() : this.copyPlace(form))));
@@ -195,7 +202,9 @@ export class MetadataPage {
 
     copy() {
         const lines = this.tree.copyChosen();
-        this.window.note(lines > 0 ? count(lines, qsTr("1 line copied"), qsTr("%1 lines copied")) : qsTr("Choose a property to copy first."));
+        this.window.note(lines > 0
+                         ? count(lines, qsTr("1 line copied"), qsTr("%1 lines copied"))
+                         : qsTr("Choose a property to copy first."));
     }
 
     copyPlace(form) {
@@ -223,9 +232,7 @@ export class MetadataPage {
         const busy = this.job.running;
         const isOne = this.scope === ONE;
         const problem = isOne ? "" : commentProblem(this.text());
-        control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
-        const found = count(this.tree.shownCount, qsTr("1 property"), qsTr("%1 properties"));
-        control("metaFound").text = control("metaSearch").text.trim() === "" ? "" : found;
+        this.showPlace();
         if (!busy) {
             control("metaNote").text = this.note(problem);
         }
@@ -242,6 +249,13 @@ export class MetadataPage {
             control(name).visible = busy;
         }
         control("metaCancel").enabled = busy;
+    }
+
+    // Which picture it is, and how much of it is shown.
+    showPlace() {
+        this.form.control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
+        const found = count(this.tree.shownCount, qsTr("1 property"), qsTr("%1 properties"));
+        this.form.control("metaFound").text = this.form.control("metaSearch").text.trim() === "" ? "" : found;
     }
 
     showRevert(on) {
@@ -267,7 +281,8 @@ export class MetadataPage {
         if (isOne) {
             return fill(qsTr("This file has %1, which would be taken out and cannot be brought back: only its first page is kept."), pages);
         }
-        const words = count(lost.files, qsTr("1 file has several pages and is left out; its comment would cost it %2: %3."),
+        const words = count(lost.files,
+                            qsTr("1 file has several pages and is left out; its comment would cost it %2: %3."),
                             qsTr("%1 files have several pages and are left out; their comments would cost them %2: %3."));
         return fill(words, lost.files, pages, lost.words);
     }
@@ -278,8 +293,10 @@ export class MetadataPage {
         return [
             qsTr("The originals themselves are changed: their comment, and nothing else in them."),
             lost.files === 0 ? "" : this.pagesText(lost, paths.length === 1),
-            without > 0 ? count(without, qsTr("1 file is of a type that has no place for a comment, and stays as it is."),
-                                qsTr("%1 files are of types that have no place for a comment, and stay as they are.")) : "",
+            without > 0 ? count(without,
+                                qsTr("1 file is of a type that has no place for a comment, and stays as it is."),
+                                qsTr("%1 files are of types that have no place for a comment, and stay as they are."))
+                                    : "",
         ].filter((each) => each !== "");
     }
 
@@ -288,8 +305,11 @@ export class MetadataPage {
         const isOne = paths.length === 1 && lost.files === 1;
         const answer = shell.ask({
             title: qsTr("Write comment"),
-            text: comment === "" ? count(paths.length, qsTr("Empty the comment of this picture?"), qsTr("Empty the comments of %1 pictures?"))
-                : count(paths.length, qsTr("Write the comment into this picture?"), qsTr("Write the comment into %1 pictures?")),
+            text: comment === ""
+                ? count(paths.length, qsTr("Empty the comment of this picture?"),
+                        qsTr("Empty the comments of %1 pictures?"))
+                : count(paths.length, qsTr("Write the comment into this picture?"),
+                        qsTr("Write the comment into %1 pictures?")),
             detail: this.warnings(paths, lost).join(" "), initial: 1, escape: 1,
             buttons: [isOne ? qsTr("Write and Remove Pages") : qsTr("Write"), qsTr("Cancel")],
             check: lost.files > 0 && !isOne ? qsTr("Write into these too, and keep only their first page") : "",
@@ -300,9 +320,11 @@ export class MetadataPage {
     // One picture that loses nothing is written without a question.
     write(paths, comment, maker) {
         const lost = pagesAtStake(this.comments, paths);
-        const answer = this.scope === ONE && lost.files === 0 ? { goesOn: true, pagesMayGo: false } : this.mayWrite(paths, comment, lost);
+        const answer = this.scope === ONE && lost.files === 0
+            ? { goesOn: true, pagesMayGo: false } : this.mayWrite(paths, comment, lost);
         if (answer.goesOn) {
-            this.run(paths, writing(this.comments, paths, maker, answer.pagesMayGo), qsTr("Write comment"), commentsWritten);
+            this.run(paths, writing(this.comments, paths, maker, answer.pagesMayGo), qsTr("Write comment"),
+                     commentsWritten);
         }
     }
 

@@ -15,7 +15,8 @@ export class NameChain {
      * @param standIn  (token) => text for a value that a file does not have
      */
     constructor(steps, names, standIn) {
-        this.steps = steps.map((step, i) => ({ index: i, ready: prepared(step, names), part: step.part || "name", isOn: step.on }))
+        this.steps = steps
+            .map((step, i) => ({ index: i, ready: prepared(step, names), part: step.part || "name", isOn: step.on }))
             .filter((each) => each.isOn);
         this.standIn = standIn;
         this.needsFacts = this.steps.some((each) => each.ready.needsFacts);
@@ -31,8 +32,10 @@ export class NameChain {
     apply(path, isFolder, facts, wantsTrace) {
         const file = splitPath(path);
         const now = isFolder ? { base: file.name, extension: "" } : { base: file.base, extension: file.extension };
-        const told = { name: file.name, base: now.base, extension: now.extension, missing: [], short: [], cut: "", trace: wantsTrace ? {} : null };
-        const context = { folder: file.folder, extension: now.extension, facts: facts, standIn: this.standIn, clean: clean };
+        const told = { name: file.name, base: now.base, extension: now.extension, missing: [], short: [], cut: "",
+                       trace: wantsTrace ? {} : null };
+        const context = { folder: file.folder, extension: now.extension, facts: facts, standIn: this.standIn,
+                          clean: clean };
         for (let i = 0; i < this.steps.length; i += 1) {
             context.extension = now.extension;
             const made = this.applyOne(this.steps[i], now, context, isFolder);

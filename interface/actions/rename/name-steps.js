@@ -20,7 +20,8 @@ const MAY_BELONG = /[\u0300-\uffff]/;
 
 // The first harm that a cut at one of the positions does.
 function harm(text, positions) {
-    return !MAY_BELONG.test(text) ? "" : positions.map((position) => cutAt(text, position)).find((each) => each !== "") || "";
+    return !MAY_BELONG.test(text)
+        ? "" : positions.map((position) => cutAt(text, position)).find((each) => each !== "") || "";
 }
 
 function strip(step, text, names) {
@@ -42,7 +43,8 @@ function section(step, text, names) {
 function insert(step, text, names) {
     const at = step.from === "end" ? text.length - step.position : step.position;
     return at < 0 || at > text.length ? unchanged(text)
-                                      : { text: names.hInsertStringInString(text, step.text, at), cut: harm(text, [at]) };
+                                      : { text: names.hInsertStringInString(text, step.text, at),
+                                          cut: harm(text, [at]) };
 }
 
 // The question marks that were there are not those that stand for letters without a plain form.
@@ -59,7 +61,8 @@ export function chosenPieces(pieces, list) {
     if (list.trim() === "") {
         return pieces;
     }
-    return list.split(",").map((entry) => Number(entry)).map((number) => pieces[number > 0 ? number - 1 : pieces.length + number])
+    return list.split(",").map((entry) => Number(entry))
+        .map((number) => pieces[number > 0 ? number - 1 : pieces.length + number])
         .filter((piece) => piece !== undefined);
 }
 
@@ -94,16 +97,19 @@ function fits(step, text, names) {
  */
 const DEEDS = {
     text: { standard: { pattern: "{name}", counterStep: 1, counterScope: "run" }, parts: false },
-    "case": { standard: { mode: "1" }, parts: true, apply: (step, text, names) => ({ text: names.hChangeCaseFiles(text, step.mode) }) },
+    "case": { standard: { mode: "1" }, parts: true,
+              apply: (step, text, names) => ({ text: names.hChangeCaseFiles(text, step.mode) }) },
     replace: { standard: { search: "", replacement: "" }, parts: true,
-               apply: (step, text, names) => ({ text: names.hReplaceStringInString(text, step.search, step.replacement) }) },
+               apply: (step, text, names) =>
+                   ({ text: names.hReplaceStringInString(text, step.search, step.replacement) }) },
     insert: { standard: { text: "", from: "start", position: 0 }, parts: true, apply: insert },
     around: { standard: { before: "", after: "" }, parts: true,
               apply: (step, text, names) => ({ text: names.hConcatString(step.before, text, step.after) }) },
     strip: { standard: { side: "fLeft", count: 1 }, parts: true, apply: strip },
     section: { standard: { start: 1, length: 8 }, parts: true, apply: section },
     split: { standard: { separator: "_", pieces: "", joiner: " " }, parts: false, apply: split },
-    letters: { standard: { keep: "NA" }, parts: true, apply: (step, text, names) => ({ text: names.hRemoveNonLetters(text, step.keep) }) },
+    letters: { standard: { keep: "NA" }, parts: true,
+               apply: (step, text, names) => ({ text: names.hRemoveNonLetters(text, step.keep) }) },
     spaces: { standard: {}, parts: true, apply: (step, text, names) => ({ text: names.hRemoveWhiteSpace(text) }) },
     fold: { standard: { other: "?" }, parts: true, apply: fold },
     utf8: { standard: { form: "NFC" }, parts: true, apply: utf8 },
@@ -115,13 +121,15 @@ export const KINDS = Object.keys(DEEDS);
 
 /** Settings of steps that can only be one of a few words. */
 export const WORDS = {
-    part: PARTS, mode: ["1", "2", "3"], side: ["fLeft", "fRight"], from: ["start", "end"], keep: ["NA", "OL"], form: ["NFC", "NFD"],
+    part: PARTS, mode: ["1", "2", "3"], side: ["fLeft", "fRight"], from: ["start", "end"], keep: ["NA", "OL"],
+    form: ["NFC", "NFD"],
     where: ["contains", "begins", "ends"], counterScope: SCOPES,
 };
 
 /** A new step of a kind, with some settings of its own. */
 export function newStep(kind, changes) {
-    return Object.assign({ kind: kind, on: true }, DEEDS[kind].parts ? { part: "name" } : {}, DEEDS[kind].standard, changes || {});
+    return Object.assign({ kind: kind, on: true }, DEEDS[kind].parts ? { part: "name" } : {}, DEEDS[kind].standard,
+                         changes || {});
 }
 
 export function hasParts(kind) {
@@ -181,15 +189,21 @@ function nextIndex(step, counters, context) {
 /** A step, made ready to be applied to many names: apply(text, context) as in DEEDS; see NameChain. */
 export function prepared(step, names) {
     if (step.kind !== "text") {
-        return { step: step, needsFacts: false, counts: false, apply: (text) => DEEDS[step.kind].apply(step, text, names) };
+        return { step: step, needsFacts: false, counts: false,
+                 apply: (text) => DEEDS[step.kind].apply(step, text, names) };
     }
     const parts = parse(step.pattern);
     const counters = Object.create(null);
     const counts = parts.some((part) => part.token === "counter");
     const apply = (text, context) => {
-        const made = expand(parts, { path: context.folder + "/" + text + (context.extension ? "." + context.extension : ""), facts: context.facts,
-                                     index: counts ? nextIndex(step, counters, context) : 0, standIn: context.standIn, clean: context.clean });
+        const made = expand(parts,
+                            { path: context.folder + "/" + text + (context.extension ? "." + context.extension : ""),
+                              facts: context.facts,
+                                     index: counts
+                                         ? nextIndex(step, counters, context) : 0, standIn: context.standIn,
+                                         clean: context.clean });
         return { text: made.text, missing: made.missing };
     };
-    return { step: step, needsFacts: needsFacts(parts) || (counts && step.counterScope === "date"), counts: counts, apply: apply };
+    return { step: step, needsFacts: needsFacts(parts) || (counts && step.counterScope === "date"), counts: counts,
+             apply: apply };
 }

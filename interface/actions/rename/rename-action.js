@@ -21,9 +21,11 @@ export const rename = {
     pane: RenamePane,
     presets: presets,
     lists: (settings) => settings.what,
-    startText: (number, settings) => renamed(settings, number, [qsTr("Rename 1 File"), qsTr("Rename %1 Files"), qsTr("Rename 1 Folder"),
+    startText: (number, settings) =>
+        renamed(settings, number, [qsTr("Rename 1 File"), qsTr("Rename %1 Files"), qsTr("Rename 1 Folder"),
                                                                 qsTr("Rename %1 Folders")]),
-    done: (number, settings) => renamed(settings, number, [qsTr("1 file renamed"), qsTr("%1 files renamed"), qsTr("1 folder renamed"),
+    done: (number, settings) =>
+        renamed(settings, number, [qsTr("1 file renamed"), qsTr("%1 files renamed"), qsTr("1 folder renamed"),
                                                            qsTr("%1 folders renamed")]),
     undone: (number, settings) => renamed(settings, number, [
         qsTr("1 file has its old name again"), qsTr("%1 files have their old names again"),

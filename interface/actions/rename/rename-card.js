@@ -15,21 +15,32 @@ function fieldsOf(step) {
     const tables = {
         text: () => [text("pattern", qsTr("Text"))].concat(counter ? [
             ["firstNumber", "counterStep", qsTr("Count by")],
-            ["firstChoice", "counterScope", qsTr("Begin anew"), [["run", qsTr("Never")], ["folder", qsTr("In each folder")], ["date", qsTr("On each date taken")]]],
+            ["firstChoice", "counterScope", qsTr("Begin anew"),
+             [["run", qsTr("Never")], ["folder", qsTr("In each folder")], ["date", qsTr("On each date taken")]]],
         ] : []),
-        "case": () => [["firstChoice", "mode", qsTr("Case"), [["1", qsTr("lower case")], ["2", qsTr("UPPER CASE")], ["3", qsTr("Words With Capitals")]]]],
+        "case": () =>
+            [["firstChoice", "mode", qsTr("Case"),
+              [["1", qsTr("lower case")], ["2", qsTr("UPPER CASE")], ["3", qsTr("Words With Capitals")]]]],
         replace: () => [text("search", qsTr("Replace")), ["secondText", "replacement", qsTr("With")]],
         insert: () => [text("text", qsTr("Insert")), ["firstNumber", "position", qsTr("After")],
-                       ["firstChoice", "from", qsTr("Characters"), [["start", qsTr("from the start")], ["end", qsTr("from the end")]]]],
+                       ["firstChoice", "from", qsTr("Characters"),
+                        [["start", qsTr("from the start")], ["end", qsTr("from the end")]]]],
         around: () => [text("before", qsTr("Before")), ["secondText", "after", qsTr("Behind")]],
-        strip: () => [["firstNumber", "count", qsTr("Characters")], ["firstChoice", "side", qsTr("From"), [["fLeft", qsTr("the left")], ["fRight", qsTr("the right")]]]],
+        strip: () =>
+            [["firstNumber", "count", qsTr("Characters")],
+             ["firstChoice", "side", qsTr("From"), [["fLeft", qsTr("the left")], ["fRight", qsTr("the right")]]]],
         section: () => [["firstNumber", "start", qsTr("From the")], ["secondNumber", "length", qsTr("Characters")]],
-        split: () => [text("separator", qsTr("Split at")), ["secondText", "pieces", qsTr("Pieces")], ["thirdText", "joiner", qsTr("Join by")]],
-        letters: () => [["firstChoice", "keep", qsTr("Keep"), [["NA", qsTr("letters and digits")], ["OL", qsTr("letters only")]]]],
+        split: () =>
+            [text("separator", qsTr("Split at")), ["secondText", "pieces", qsTr("Pieces")],
+             ["thirdText", "joiner", qsTr("Join by")]],
+        letters: () =>
+            [["firstChoice", "keep", qsTr("Keep"), [["NA", qsTr("letters and digits")], ["OL", qsTr("letters only")]]]],
         spaces: () => [],
         fold: () => [text("other", qsTr("Others"))],
-        utf8: () => [["firstChoice", "form", qsTr("Accents"), [["NFC", qsTr("as one letter (NFC)")], ["NFD", qsTr("apart (NFD)")]]]],
-        only: () => [["firstChoice", "where", qsTr("Names that"), [["contains", qsTr("contain")], ["begins", qsTr("begin with")], ["ends", qsTr("end with")]]],
+        utf8: () => [["firstChoice", "form", qsTr("Accents"),
+                      [["NFC", qsTr("as one letter (NFC)")], ["NFD", qsTr("apart (NFD)")]]]],
+        only: () => [["firstChoice", "where", qsTr("Names that"),
+                      [["contains", qsTr("contain")], ["begins", qsTr("begin with")], ["ends", qsTr("end with")]]],
                      text("text", qsTr("Text"))],
     };
     return tables[step.kind]();
@@ -71,14 +82,17 @@ export class RenameCard {
         control("cardHandle").stepped.connect(guard("cardHandle", (by) => deeds.move(this.index, by)));
         control("cardHandle").dragged.connect(guard("cardHandle", (by) => deeds.drag(this.index, by)));
         control("cardHandle").released.connect(guard("cardHandle", () => deeds.drop()));
-        control("cardTokens").clicked.connect(guard("cardTokens", () => deeds.offerTokens(this.index, control("cardTokens"))));
+        control("cardTokens").clicked.connect(guard("cardTokens",
+                                                    () => deeds.offerTokens(this.index, control("cardTokens"))));
         for (const name of ["firstText", "secondText", "thirdText"]) {
             control(name).textChanged.connect(guard(name, () => this.setField(name, control(name).text)));
         }
         for (const name of ["firstNumber", "secondNumber"]) {
             control(name).valueChanged.connect(guard(name, () => this.setField(name, control(name).value)));
         }
-        control("firstChoice").activated.connect(guard("firstChoice", () => this.setField("firstChoice", this.form.value("firstChoice"))));
+        control("firstChoice").activated.connect(guard("firstChoice",
+                                                       () => this.setField("firstChoice",
+                                                                           this.form.value("firstChoice"))));
         control("part").activated.connect(guard("part", () => this.set("part", this.form.value("part"))));
     }
 
@@ -106,7 +120,8 @@ export class RenameCard {
         this.filling = true;
         const words = kindWords()[step.kind];
         this.control("cardTitle").text = words.title;
-        this.control("cardTitle").accessibleName = words.title + ": " + summaryOf(step).map((part) => part.text).join("");
+        this.control("cardTitle").accessibleName = words.title + ": " + summaryOf(step).map((part) => part.text)
+            .join("");
         this.control("cardOn").checked = step.on;
         this.form.setLook("renameCard", "open", String(isOpen));
         this.control("cardFields").visible = isOpen;
@@ -168,7 +183,8 @@ export class RenameCard {
     explain(before, after, short) {
         const problems = stepProblems(this.step);
         const tooShort = this.step.on && short > 0
-            ? [count(short, qsTr("1 name is too short for this and stays as it is."), qsTr("%1 names are too short for this and stay as they are."))] : [];
+            ? [count(short, qsTr("1 name is too short for this and stays as it is."),
+                     qsTr("%1 names are too short for this and stay as they are."))] : [];
         this.say("cardExample", this.step.on && problems.length === 0 && after !== undefined && after !== before ? before + " → " + after : "");
         this.say("cardProblem", problems.concat(tooShort).join("\n"));
     }

@@ -12,8 +12,10 @@ import { RenameCard } from "./rename-card.js";
 
 const WHAT = ["files", "folders"];
 // What stands for a file where the list is empty.
-const SAMPLE = { path: "/IMG_2041.JPG", facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
-                                                 camera: "Canon EOS 40D", lens: "EF 50mm f/1.4", type: "JPEG", bytes: 4100000, size: "4.1 MB",
+const SAMPLE = { path: "/IMG_2041.JPG",
+                 facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
+                                                 camera: "Canon EOS 40D", lens: "EF 50mm f/1.4", type: "JPEG",
+                                                 bytes: 4100000, size: "4.1 MB",
                                                  width: 4032, height: 3024 } };
 // About the height of a closed card and the gap behind it.
 const CARD_PX = 84;
@@ -43,7 +45,8 @@ export class RenamePane extends Pane {
         const entries = menuEntries();
         const steps = control("addMenu");
         steps.setPlaceholder(qsTr("Search steps"));
-        steps.setEntries(entries.map((entry) => entry.title), entries.map((entry) => entry.explanation), entries.map((entry) => entry.words),
+        steps.setEntries(entries.map((entry) => entry.title), entries.map((entry) => entry.explanation),
+                         entries.map((entry) => entry.words),
                          entries.map((entry, i) => i));
         steps.chosen.connect(guard("addMenu", (i) => this.add(copyOf(menuEntries()[i].step))));
         control("addStep").clicked.connect(guard("addStep", () => steps.popUp(control("addStep"))));
@@ -53,17 +56,21 @@ export class RenamePane extends Pane {
     joinTokens(menu) {
         const offered = [];
         tokens().forEach((token) => token.forms.forEach((form) => {
-            offered.push({ title: token.words + (form === "" ? "" : "  " + form), text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
+            offered.push({ title: token.words + (form === "" ? "" : "  " + form),
+                           text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
         }));
         menu.setPlaceholder(qsTr("Search values"));
-        menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text), offered.map((each) => each.example), offered.map((each) => each.text));
+        menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text),
+                        offered.map((each) => each.example), offered.map((each) => each.text));
         menu.chosen.connect(guard("tokenMenu", (text) => this.insertToken(text)));
     }
 
     deeds() {
         return {
-            changed: (index) => this.stepChanged(index), toggle: (index) => this.toggle(index), move: (index, by) => this.move(index, by),
-            drag: (index, by) => this.drag(index, by), drop: () => { this.dragged = null; }, remove: (index) => this.remove(index),
+            changed: (index) => this.stepChanged(index), toggle: (index) => this.toggle(index),
+            move: (index, by) => this.move(index, by),
+            drag: (index, by) => this.drag(index, by), drop: () => { this.dragged = null; },
+            remove: (index) => this.remove(index),
             offerTokens: (index, button) => { this.tokensFor = index; this.form.control("tokenMenu").popUp(button); },
         };
     }
@@ -95,11 +102,13 @@ export class RenamePane extends Pane {
             this.form.place("steps", card.form);
             this.cards.push(card);
         }
-        this.cards.forEach((card, i) => card.show(i < steps.length ? steps[i] : null, i === this.open, this.settings.what === "folders"));
+        this.cards.forEach((card, i) =>
+            card.show(i < steps.length ? steps[i] : null, i === this.open, this.settings.what === "folders"));
         this.form.control("noSteps").visible = steps.length === 0;
         this.form.control("steps").visible = steps.length > 0;
         this.form.control("addStep").enabled = steps.length < rename.MOST_STEPS;
-        this.form.control("renameNote").text = steps.length < rename.MOST_STEPS ? "" : qsTr("A chain can have up to 30 steps.");
+        this.form.control("renameNote").text = steps.length < rename.MOST_STEPS
+            ? "" : qsTr("A chain can have up to 30 steps.");
         this.form.control("renameNote").visible = steps.length >= rename.MOST_STEPS;
         this.form.arrangeTabs();
     }
@@ -191,7 +200,8 @@ export class RenamePane extends Pane {
     show(photo) {
         this.photo = photo;
         const messages = rename.validate(this.settings);
-        this.say("renameProblem", messages.length > 0 ? qsTr("A step needs attention: names are not made before it is right.") : "");
+        this.say("renameProblem",
+                 messages.length > 0 ? qsTr("A step needs attention: names are not made before it is right.") : "");
         this.explain();
         return null;
     }

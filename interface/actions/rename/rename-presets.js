@@ -11,8 +11,11 @@ export const presets = {
     form: Object.assign(movingForm("Rename", "what", ["files", "folders"], { StrField22: ["sidecars", "flag"] }),
                         { list: { path: "steps", columns: PART_COLUMNS, read: stepFrom } }),
     starting: () => [
-        [qsTr("Date and place"), chain([["text", { pattern: "{taken:yyyy-MM-dd} " + qsTr("place") + " {counter:001}" }], ["case", { part: "extension" }]])],
-        [qsTr("Clean for the web"), chain([["fold", { other: "-" }], ["case", { part: "both" }], ["replace", { search: " ", replacement: "-" }],
+        [qsTr("Date and place"),
+         chain([["text", { pattern: "{taken:yyyy-MM-dd} " + qsTr("place") + " {counter:001}" }],
+                ["case", { part: "extension" }]])],
+        [qsTr("Clean for the web"),
+         chain([["fold", { other: "-" }], ["case", { part: "both" }], ["replace", { search: " ", replacement: "-" }],
                                            ["replace", { search: "_", replacement: "-" }]])],
         [qsTr("Lower-case extensions"), chain([["case", { part: "extension" }]])],
         [qsTr("Date in front"), chain([["text", { pattern: "{taken:yyyy-MM-dd} {name}" }]])],

@@ -24,7 +24,8 @@ export const defaults = { what: "files", steps: [], sidecars: true, simulation: 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
     const words = kindWords();
-    const steps = stepsOf(settings).filter((step) => step.on).map((step) => (step.kind === "text" ? step.pattern : words[step.kind].title));
+    const steps = stepsOf(settings).filter((step) => step.on)
+        .map((step) => (step.kind === "text" ? step.pattern : words[step.kind].title));
     return fill({ files: qsTr("files: %1"), folders: qsTr("folders: %1") }[settings.what], steps.join(", "));
 }
 
@@ -35,12 +36,14 @@ export function stepsOf(settings) {
 
 /** Messages on what is wrong with the settings; empty if a run can start. */
 export function validate(settings) {
-    const messages = stepsOf(settings).filter((step) => step.on).reduce((all, step) => all.concat(stepProblems(step)), []);
+    const messages = stepsOf(settings).filter((step) => step.on)
+        .reduce((all, step) => all.concat(stepProblems(step)), []);
     return messages.filter((message, i) => messages.indexOf(message) === i);
 }
 
 function missingWords(token) {
-    const dates = { taken: qsTr("no date taken"), created: qsTr("no date of creation"), changed: qsTr("no date of change") };
+    const dates = { taken: qsTr("no date taken"), created: qsTr("no date of creation"),
+                    changed: qsTr("no date of change") };
     const known = tokens().find((each) => each.name === token);
     return dates[token] || fill(qsTr("no value for “%1”"), known === undefined ? token : known.words);
 }
@@ -56,7 +59,8 @@ export function chainOf(settings, services) {
 }
 
 function cautionOf(made) {
-    return made.missing.length === 0 ? "" : fill(qsTr("%1: “%2”"), missingWords(made.missing[0]), standIn(made.missing[0]));
+    return made.missing.length === 0
+        ? "" : fill(qsTr("%1: “%2”"), missingWords(made.missing[0]), standIn(made.missing[0]));
 }
 
 function notesOf(made, oldName) {
@@ -81,8 +85,10 @@ function wish(path, made, companions) {
     if (hasHalf(made.name)) {
         return row({ status: "Failed", reason: qsTr("a character would be cut in two"), shown: "–" });
     }
-    return row({ to: joinPath(old.folder, made.name), shown: made.name === "" ? "–" : made.name, caution: cautionOf(made),
-                 notes: notesOf(made, old.name), along: companions.map((other) => companion(old.folder, other, old, made)) });
+    return row({ to: joinPath(old.folder, made.name), shown: made.name === "" ? "–" : made.name,
+                 caution: cautionOf(made),
+                 notes: notesOf(made, old.name),
+                 along: companions.map((other) => companion(old.folder, other, old, made)) });
 }
 
 // The sidecars of every file, and for each sidecar that is in the list itself the row of its picture. Looked up in slices.
@@ -97,7 +103,8 @@ function* companionsOf(paths, services) {
             yield i;
         }
     }
-    return { of: (i) => found[i], leader: (path) => (sidecars.ownerOf(path) === undefined ? -1 : at[sidecars.ownerOf(path)]) };
+    return { of: (i) => found[i],
+             leader: (path) => (sidecars.ownerOf(path) === undefined ? -1 : at[sidecars.ownerOf(path)]) };
 }
 
 const NOBODY = { of: () => [], leader: () => -1 };
@@ -130,7 +137,8 @@ function nameFollowers(found, paths) {
 export function* rows(paths, settings, services) {
     const areFolders = settings.what === "folders";
     const found = [];
-    const context = { chain: chainOf(settings, services), areFolders: areFolders, services: services, short: [], companions: NOBODY };
+    const context = { chain: chainOf(settings, services), areFolders: areFolders, services: services, short: [],
+                      companions: NOBODY };
     if (settings.sidecars && !areFolders) {
         const looking = companionsOf(paths, services);
         let step = looking.next();

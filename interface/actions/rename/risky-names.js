@@ -19,5 +19,6 @@ export function riskOf(name) {
     if (found[0] !== " " && found[0] !== ".") {
         return qsTr("it has a control character in it");
     }
-    return found.index === 0 && name.length > 1 ? qsTr("it begins with a blank") : qsTr("other systems take no blank or dot at the end");
+    return found.index === 0 && name.length > 1
+        ? qsTr("it begins with a blank") : qsTr("other systems take no blank or dot at the end");
 }

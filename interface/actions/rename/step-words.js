@@ -8,19 +8,32 @@ import { fill } from "../../lib/wording.js";
 /** {title, explanation, words} by the name of the kind. */
 export function kindWords() {
     return {
-        text: { title: qsTr("New text"), explanation: qsTr("Text with dates, counters and other values"), words: qsTr("token pattern write template") },
-        "case": { title: qsTr("Change case"), explanation: qsTr("lower case, UPPER CASE, Words"), words: qsTr("capital small letters") },
-        replace: { title: qsTr("Replace text"), explanation: qsTr("One text by another, wherever it occurs"), words: qsTr("search find substitute delete") },
-        insert: { title: qsTr("Insert text"), explanation: qsTr("At a place counted from the start or the end"), words: qsTr("add position") },
-        around: { title: qsTr("Add before and after"), explanation: qsTr("Text in front of the name and behind it"), words: qsTr("prefix suffix append join concatenate") },
-        strip: { title: qsTr("Strip characters"), explanation: qsTr("A number of them from the left or the right"), words: qsTr("remove cut trim shorten") },
-        section: { title: qsTr("Keep a section"), explanation: qsTr("Only the characters at certain places"), words: qsTr("part substring range middle") },
-        split: { title: qsTr("Split and join"), explanation: qsTr("Take pieces between separators, in any order"), words: qsTr("pieces rearrange swap") },
-        letters: { title: qsTr("Remove signs"), explanation: qsTr("Keep letters, or letters and digits"), words: qsTr("non-letters clean punctuation digits") },
-        spaces: { title: qsTr("Remove spaces"), explanation: qsTr("All blanks, also between words"), words: qsTr("blanks whitespace") },
-        fold: { title: qsTr("Fold accents"), explanation: qsTr("é becomes e"), words: qsTr("ascii umlaut diacritics plain") },
-        utf8: { title: qsTr("One writing of accents"), explanation: qsTr("For names that came from another system"), words: qsTr("unicode utf-8 normalise nfc nfd repair") },
-        only: { title: qsTr("Only some names"), explanation: qsTr("The steps below work on names that fit"), words: qsTr("filter condition contains begins ends if") },
+        text: { title: qsTr("New text"), explanation: qsTr("Text with dates, counters and other values"),
+                words: qsTr("token pattern write template") },
+        "case": { title: qsTr("Change case"), explanation: qsTr("lower case, UPPER CASE, Words"),
+                  words: qsTr("capital small letters") },
+        replace: { title: qsTr("Replace text"), explanation: qsTr("One text by another, wherever it occurs"),
+                   words: qsTr("search find substitute delete") },
+        insert: { title: qsTr("Insert text"), explanation: qsTr("At a place counted from the start or the end"),
+                  words: qsTr("add position") },
+        around: { title: qsTr("Add before and after"), explanation: qsTr("Text in front of the name and behind it"),
+                  words: qsTr("prefix suffix append join concatenate") },
+        strip: { title: qsTr("Strip characters"), explanation: qsTr("A number of them from the left or the right"),
+                 words: qsTr("remove cut trim shorten") },
+        section: { title: qsTr("Keep a section"), explanation: qsTr("Only the characters at certain places"),
+                   words: qsTr("part substring range middle") },
+        split: { title: qsTr("Split and join"), explanation: qsTr("Take pieces between separators, in any order"),
+                 words: qsTr("pieces rearrange swap") },
+        letters: { title: qsTr("Remove signs"), explanation: qsTr("Keep letters, or letters and digits"),
+                   words: qsTr("non-letters clean punctuation digits") },
+        spaces: { title: qsTr("Remove spaces"), explanation: qsTr("All blanks, also between words"),
+                  words: qsTr("blanks whitespace") },
+        fold: { title: qsTr("Fold accents"), explanation: qsTr("é becomes e"),
+                words: qsTr("ascii umlaut diacritics plain") },
+        utf8: { title: qsTr("One writing of accents"), explanation: qsTr("For names that came from another system"),
+                words: qsTr("unicode utf-8 normalise nfc nfd repair") },
+        only: { title: qsTr("Only some names"), explanation: qsTr("The steps below work on names that fit"),
+                words: qsTr("filter condition contains begins ends if") },
     };
 }
 
@@ -28,16 +41,20 @@ export function kindWords() {
 export function menuEntries() {
     const words = kindWords();
     const own = (kind, changes) => Object.assign({}, words[kind], { step: newStep(kind, changes) });
-    const text = (title, explanation, more, pattern) => ({ title: title, explanation: explanation, words: more, step: newStep("text", { pattern: pattern }) });
+    const text = (title, explanation, more, pattern) =>
+        ({ title: title, explanation: explanation, words: more, step: newStep("text", { pattern: pattern }) });
     return [
         own("text", {}),
         text(qsTr("Counter"), qsTr("001, 002, 003 behind the name"), qsTr("number sequence"), "{name} {counter:001}"),
         text(qsTr("Date taken"), qsTr("In front of the name"), qsTr("exif time shot"), "{taken:yyyy-MM-dd} {name}"),
-        text(qsTr("Date changed or created"), qsTr("In front of the name"), qsTr("modified file time"), "{changed:yyyy-MM-dd} {name}"),
+        text(qsTr("Date changed or created"), qsTr("In front of the name"), qsTr("modified file time"),
+             "{changed:yyyy-MM-dd} {name}"),
         text(qsTr("Camera"), qsTr("Behind the name"), qsTr("model lens"), "{name} {camera}"),
-        text(qsTr("Size in pixels"), qsTr("Behind the name"), qsTr("width height resolution"), "{name} {width}x{height}"),
+        text(qsTr("Size in pixels"), qsTr("Behind the name"), qsTr("width height resolution"),
+             "{name} {width}x{height}"),
         text(qsTr("Name of the folder"), qsTr("In front of the name"), qsTr("directory parent"), "{folder} {name}"),
-        own("case", {}), own("replace", {}), own("around", {}), own("insert", {}), own("strip", {}), own("section", {}), own("split", {}),
+        own("case", {}), own("replace", {}), own("around", {}), own("insert", {}), own("strip", {}), own("section", {}),
+        own("split", {}),
         own("letters", {}), own("spaces", {}), own("fold", {}), own("utf8", {}), own("only", {}),
     ];
 }
@@ -57,19 +74,28 @@ function tokenText(part) {
 }
 
 const SUMMARIES = {
-    "case": (step) => fill({ "1": qsTr("%1 to lower case"), "2": qsTr("%1 to UPPER CASE"), "3": qsTr("%1 to Words With Capitals") }[step.mode], partWord(step)),
+    "case": (step) =>
+        fill({ "1": qsTr("%1 to lower case"), "2": qsTr("%1 to UPPER CASE"),
+               "3": qsTr("%1 to Words With Capitals") }[step.mode], partWord(step)),
     replace: (step) => fill(qsTr("%1 becomes %2"), quoted(step.search), quoted(step.replacement)),
-    insert: (step) => fill(step.from === "end" ? qsTr("%1, %2 from the end") : qsTr("%1, %2 from the start"), quoted(step.text), step.position),
+    insert: (step) =>
+        fill(step.from === "end" ? qsTr("%1, %2 from the end") : qsTr("%1, %2 from the start"), quoted(step.text),
+             step.position),
     around: (step) => fill(qsTr("%1 before, %2 behind"), quoted(step.before), quoted(step.after)),
     strip: (step) => fill(step.side === "fLeft" ? qsTr("%1 from the left") : qsTr("%1 from the right"), step.count),
     section: (step) => fill(qsTr("%2 characters from the %1."), step.start, step.length),
-    split: (step) => (step.pieces === "" ? fill(qsTr("at %1, joined by %2"), quoted(step.separator), quoted(step.joiner))
-                                         : fill(qsTr("at %1, pieces %3, joined by %2"), quoted(step.separator), quoted(step.joiner), step.pieces)),
+    split: (step) =>
+        (step.pieces === "" ? fill(qsTr("at %1, joined by %2"), quoted(step.separator), quoted(step.joiner))
+                                         : fill(qsTr("at %1, pieces %3, joined by %2"), quoted(step.separator),
+                                                quoted(step.joiner), step.pieces)),
     letters: (step) => (step.keep === "OL" ? qsTr("only letters stay") : qsTr("only letters and digits stay")),
     spaces: () => qsTr("no blanks are left"),
-    fold: (step) => (step.other === "?" ? qsTr("é becomes e") : fill(qsTr("é becomes e, others %1"), quoted(step.other))),
+    fold: (step) =>
+        (step.other === "?" ? qsTr("é becomes e") : fill(qsTr("é becomes e, others %1"), quoted(step.other))),
     utf8: (step) => (step.form === "NFD" ? qsTr("accents apart (NFD)") : qsTr("accents and letters as one (NFC)")),
-    only: (step) => fill({ contains: qsTr("that contain %1"), begins: qsTr("that begin with %1"), ends: qsTr("that end with %1") }[step.where], quoted(step.text)),
+    only: (step) =>
+        fill({ contains: qsTr("that contain %1"), begins: qsTr("that begin with %1"),
+               ends: qsTr("that end with %1") }[step.where], quoted(step.text)),
 };
 
 /** The settings of a step in a line: [{text, chip}]; a chip stands for a value of the file. */
@@ -77,5 +103,7 @@ export function summaryOf(step) {
     if (step.kind !== "text") {
         return [{ text: SUMMARIES[step.kind](step), chip: false }];
     }
-    return parse(step.pattern).map((part) => (part.token === undefined ? { text: part.text, chip: false } : { text: tokenText(part), chip: true }));
+    return parse(step.pattern)
+        .map((part) =>
+            (part.token === undefined ? { text: part.text, chip: false } : { text: tokenText(part), chip: true }));
 }

@@ -35,7 +35,8 @@ export class ResizePane extends Pane {
 
     showState() {
         const mode = this.settings.mode;
-        const labels = { width: qsTr("Width"), height: qsTr("Height"), longest: qsTr("Longest side"), percent: qsTr("Per cent"), box: qsTr("Box") };
+        const labels = { width: qsTr("Width"), height: qsTr("Height"), longest: qsTr("Longest side"),
+                         percent: qsTr("Per cent"), box: qsTr("Box") };
         this.visible(["value"], mode !== "box");
         this.visible(["boxWidth", "boxTimes", "boxHeight", "fitLabel", "boxFit"], mode === "box");
         this.visible(["unit"], mode !== "percent");
@@ -51,7 +52,8 @@ export class ResizePane extends Pane {
     }
 
     resultText(photo, planned) {
-        return pixels(photo) + " → " + pixels(planned) + (this.settings.unit === PIXEL || this.settings.mode === "percent"
+        return pixels(photo) + " → " + pixels(planned)
+            + (this.settings.unit === PIXEL || this.settings.mode === "percent"
             ? " (" + percent(scalePercent(photo, planned)) + ")"
             : this.dpiText());
     }

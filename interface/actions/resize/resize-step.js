@@ -32,8 +32,10 @@ export const offer = { types: WRITTEN.map((type) => type.id), quality: true, met
 /** The settings in a few words, for the log. */
 export function describe(settings) {
     const unit = settings.unit === PIXEL || settings.mode === "percent" ? "" : " " + settings.unit;
-    const size = settings.mode === "box" ? settings.boxWidth + "×" + settings.boxHeight : String(settings[settings.mode]);
-    const words = { width: qsTr("width %1"), height: qsTr("height %1"), longest: qsTr("longest %1"), percent: qsTr("percent %1"), box: qsTr("box %1") };
+    const size = settings.mode === "box"
+        ? settings.boxWidth + "×" + settings.boxHeight : String(settings[settings.mode]);
+    const words = { width: qsTr("width %1"), height: qsTr("height %1"), longest: qsTr("longest %1"),
+                    percent: qsTr("percent %1"), box: qsTr("box %1") };
     return fill(words[settings.mode], size + unit);
 }
 
@@ -93,7 +95,8 @@ export function plan(photo, settings, services) {
 function callService(photo, size, settings, image) {
     const output = settings.output;
     if (size.box) {
-        return image.resizeImage2(photo.path, size.width, size.height, size.mode, settings.prefix, output.fileType, output.quality);
+        return image.resizeImage2(photo.path, size.width, size.height, size.mode, settings.prefix, output.fileType,
+                                  output.quality);
     }
     return image.resizeImage(photo.path, size.n, size.mode, settings.prefix, output.fileType, output.quality);
 }
@@ -108,7 +111,8 @@ export function run(photo, settings, services) {
         return refused(planned);
     }
     const status = callService(photo, sizeFor(photo, settings, services).size, settings, services.image);
-    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata), services);
+    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata),
+                          services);
 }
 
 /**

@@ -26,7 +26,8 @@ const SHAPE_CODES = { rectangle: "0", circle: "1", ellipse: "2" };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const shapes = { rectangle: fill(qsTr("corners of %1 px"), settings.radius), circle: qsTr("circle"), ellipse: qsTr("ellipse") };
+    const shapes = { rectangle: fill(qsTr("corners of %1 px"), settings.radius), circle: qsTr("circle"),
+                     ellipse: qsTr("ellipse") };
     const background = settings.background ? [fill(qsTr("on %1"), settings.color)] : [];
     const band = settings.background && settings.band > 0 ? [fill(qsTr("band of %1 px"), settings.band)] : [];
     return [shapes[settings.shape]].concat(background, band).join(", ");
@@ -71,7 +72,8 @@ export function plan(photo, settings) {
         return { status: "Failed", reason: qsTr("the band would cover all of it") };
     }
     const size = settings.shape === "circle" ? { width: shorter, height: shorter } : photo;
-    return ready(maskName(photo.path, settings.output.fileType), target.type, size, notesFor(photo, settings, target.type));
+    return ready(maskName(photo.path, settings.output.fileType), target.type, size,
+                 notesFor(photo, settings, target.type));
 }
 
 /** Writes the cut picture as settings.prefix + name, where plan() tells the name; see the Resize step. */
@@ -84,9 +86,11 @@ export function run(photo, settings, services) {
     outlets.backgroundCheck.state = settings.background ? 1 : 0;
     outlets.backgroundColor.color = settings.color;
     outlets.bandWidth.stringValue = String(settings.band);
-    const status = services.image.roundCornersOfImage(photo.path, settings.prefix, settings.radius, SHAPE_CODES[settings.shape],
+    const status = services.image.roundCornersOfImage(photo.path, settings.prefix, settings.radius,
+                                                      SHAPE_CODES[settings.shape],
                                                       FORMAT_CODES[settings.output.fileType]);
-    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata), services);
+    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata),
+                          services);
 }
 
 /** What the preview does to the upright picture to show the result. */

@@ -16,7 +16,8 @@ function metadataNote(types) {
     if (types.length === 0) {
         return qsTr("EXIF, IPTC and XMP do not go along.");
     }
-    return fill(qsTr("EXIF, IPTC and XMP go along into %1 files only."), types.map((id) => writtenType(id).word).join(qsTr(" and ")));
+    return fill(qsTr("EXIF, IPTC and XMP go along into %1 files only."),
+                types.map((id) => writtenType(id).word).join(qsTr(" and ")));
 }
 
 function noteFor(choice, carried) {
@@ -57,7 +58,8 @@ export class OutputPane {
         this.output = null;
         this.offer = offer;
         const types = offer.types.map((id) => writtenType(id));
-        this.form.setItems("fileType", [qsTr("Original file type")].concat(types.map((type) => type.word)), [ORIGINAL].concat(offer.types));
+        this.form.setItems("fileType", [qsTr("Original file type")].concat(types.map((type) => type.word)),
+                           [ORIGINAL].concat(offer.types));
         for (const name of ["fileType", "quality", "ifTaken"]) {
             this.form.chooseValue(name, output[name]);
         }

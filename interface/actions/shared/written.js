@@ -26,7 +26,8 @@ export function targetOf(photo, fileType) {
     const type = resultType(extension, fileType);
     if (type === null) {
         const word = photo.type || extension.toUpperCase();
-        const reason = fileType === ORIGINAL ? qsTr("%1 cannot be written, choose another file type") : qsTr("%1 cannot be written");
+        const reason = fileType === ORIGINAL
+            ? qsTr("%1 cannot be written, choose another file type") : qsTr("%1 cannot be written");
         return { type: null, refusal: { status: "Not Supported", reason: reason.replace("%1", word) } };
     }
     return photo.width && photo.height
@@ -42,7 +43,8 @@ export function mayBeTransparent(photo) {
 
 /** A plan that can be carried out. */
 export function ready(name, type, size, notes) {
-    return { status: "ready", reason: "", name: name, type: type.id, width: size.width, height: size.height, notes: notes };
+    return { status: "ready", reason: "", name: name, type: type.id, width: size.width, height: size.height,
+             notes: notes };
 }
 
 function failed(reason) {
@@ -60,7 +62,8 @@ export function refused(planned) {
  */
 export function outcome(status, path, planned, services, stored) {
     if (status !== "OK") {
-        const reason = status === "Not Supported" ? qsTr("this type cannot be written") : qsTr("the file could not be written");
+        const reason = status === "Not Supported"
+            ? qsTr("this type cannot be written") : qsTr("the file could not be written");
         return { status: status === "Not Supported" ? status : "Failed", reason: reason, outputs: [] };
     }
     // An operation also answers "OK" where no bitmap could be made and no file was written.
@@ -71,7 +74,8 @@ export function outcome(status, path, planned, services, stored) {
     const expected = stored || planned;
     if (written.width !== expected.width || written.height !== expected.height) {
         const words = (size) => size.width + "×" + size.height;
-        return failed(qsTr("the result is %1 instead of %2").replace("%1", words(written)).replace("%2", words(expected)));
+        return failed(qsTr("the result is %1 instead of %2").replace("%1", words(written)).replace("%2",
+                                                                                                   words(expected)));
     }
     return { status: "OK", reason: "", outputs: [path], width: planned.width, height: planned.height };
 }

@@ -7,7 +7,8 @@ const NONE = Object.freeze([]);
 
 // Ten thousand folders are many: lists are made when something goes into them.
 function nodeAt(path, name, parent, exists) {
-    return { path: path, name: name, parent: parent, exists: exists, inTheWay: "", children: NONE, count: 0, total: 0, rows: NONE };
+    return { path: path, name: name, parent: parent, exists: exists, inTheWay: "", children: NONE, count: 0, total: 0,
+             rows: NONE };
 }
 
 function added(list, value) {
@@ -132,7 +133,8 @@ export function* treeParts(book) {
     while (open.length > 0) {
         const node = open.pop();
         if (node.total > 0) {
-            rows.push({ path: node.path, above: node.parent === null ? "" : node.parent.path, name: node.name, count: node.count,
+            rows.push({ path: node.path, above: node.parent === null ? "" : node.parent.path, name: node.name,
+                        count: node.count,
                         total: node.total, isNew: !node.exists });
             for (let i = node.children.length - 1; i >= 0; i -= 1) {
                 open.push(node.children[i]);
@@ -164,5 +166,6 @@ export function rowsBelow(book, path) {
 export function endsWithFolders(folder, names) {
     const parts = folder.split("/");
     const end = parts.slice(Math.max(0, parts.length - names.length));
-    return names.length > 0 && parts.length > names.length && end.every((name, i) => nameKey(name) === nameKey(names[i]));
+    return names.length > 0 && parts.length > names.length
+        && end.every((name, i) => nameKey(name) === nameKey(names[i]));
 }

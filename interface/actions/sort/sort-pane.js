@@ -47,14 +47,17 @@ export class SortPane extends Pane {
     }
 
     join() {
-        LEVELS.forEach((name, at) => this.form.control(name).activated.connect(guard(name, () => this.levelChosen(at))));
+        LEVELS.forEach((name, at) =>
+            this.form.control(name).activated.connect(guard(name, () => this.levelChosen(at))));
         const pattern = this.form.control("sortPattern");
         pattern.textEdited.connect(guard("sortPattern", () => this.set("pattern", pattern.text)));
-        pattern.cursorPositionChanged.connect(guard("sortPattern.caret", () => this.caretMoved(pattern.cursorPosition)));
+        pattern.cursorPositionChanged.connect(guard("sortPattern.caret",
+                                                    () => this.caretMoved(pattern.cursorPosition)));
         const entries = tokenEntries();
         this.form.setMenu("sortToken", entries.map((entry) => entry.text), entries.map((entry) => entry.value),
                           guard("sortToken", (token) => this.insert(token)));
-        this.form.setItems("sortUndated", [qsTr("Folder of their own"), qsTr("Use date created"), qsTr("Use date changed"),
+        this.form.setItems("sortUndated",
+                           [qsTr("Folder of their own"), qsTr("Use date created"), qsTr("Use date changed"),
                                            qsTr("Leave where they are")], UNDATED);
         this.choice("sortUndated", "undated");
         const name = this.form.control("sortUndatedName");
@@ -63,7 +66,8 @@ export class SortPane extends Pane {
         this.segments("sortKind", "kind", sort.KINDS);
         this.form.setItems("sortTaken", [qsTr("Number the file"), qsTr("Skip")], ["number", "skip"]);
         this.choice("sortTaken", "ifTaken");
-        this.form.control("sortDestination").activated.connect(guard("sortDestination", () => this.destinationChosen()));
+        this.form.control("sortDestination").activated.connect(guard("sortDestination",
+                                                                     () => this.destinationChosen()));
     }
 
     showValues() {
@@ -96,8 +100,10 @@ export class SortPane extends Pane {
             group.forEach((choice) => { texts.push(choice.text); values.push(choice.value); });
         });
         const first = chosen === null || chosen[0] === "" ? [[qsTr("Own pattern")], [OWN]] : [[], []];
-        this.form.setItems("sortLevel1", first[0].concat(texts.slice(first[0].length > 0 ? 0 : 1)), first[1].concat(values.slice(first[0].length > 0 ? 0 : 1)));
-        LEVELS.slice(1).forEach((name) => this.form.setItems(name, [qsTr("No more folders")].concat(texts), [""].concat(values)));
+        this.form.setItems("sortLevel1", first[0].concat(texts.slice(first[0].length > 0 ? 0 : 1)),
+                           first[1].concat(values.slice(first[0].length > 0 ? 0 : 1)));
+        LEVELS.slice(1)
+            .forEach((name) => this.form.setItems(name, [qsTr("No more folders")].concat(texts), [""].concat(values)));
         const levels = chosen === null || chosen[0] === "" ? [OWN, "", ""] : chosen;
         LEVELS.forEach((name, at) => this.form.chooseValue(name, levels[at]));
         this.visible(["sortLevel2Label", "sortLevel2"], levels[0] !== OWN);
@@ -149,10 +155,12 @@ export class SortPane extends Pane {
 
     showDestinations() {
         const chosen = this.settings.destination;
-        const folders = chosen.kind === "folder" && this.recent.indexOf(chosen.path) < 0 ? [chosen.path].concat(this.recent) : this.recent;
+        const folders = chosen.kind === "folder" && this.recent.indexOf(chosen.path) < 0
+            ? [chosen.path].concat(this.recent) : this.recent;
         const texts = [qsTr("Folder of each picture")].concat(folders.map((folder) => shortPath(folder, files.home)));
         const values = ["beside"].concat(folders.map((folder) => FOLDER + folder));
-        this.form.setItems("sortDestination", texts.concat(["-", qsTr("Choose Folder…")]), values.concat(["-", "choose"]));
+        this.form.setItems("sortDestination", texts.concat(["-", qsTr("Choose Folder…")]),
+                           values.concat(["-", "choose"]));
         this.form.chooseValue("sortDestination", chosen.kind === "folder" ? FOLDER + chosen.path : "beside");
         this.form.control("sortDestination").toolTip = chosen.kind === "folder" ? chosen.path : "";
     }
@@ -163,7 +171,8 @@ export class SortPane extends Pane {
             this.useDestination({ kind: "beside", path: this.settings.destination.path });
             return;
         }
-        const folder = value === "choose" ? shell.chooseFolder(qsTr("Sort into"), this.settings.destination.path || files.home)
+        const folder = value === "choose"
+            ? shell.chooseFolder(qsTr("Sort into"), this.settings.destination.path || files.home)
                                           : value.slice(FOLDER.length);
         if (folder === null) {
             this.showDestinations();
@@ -198,9 +207,11 @@ export class SortPane extends Pane {
             this.say("sortExample", "");
             return;
         }
-        const sorted = foldersFor(prepared(this.settings.pattern), this.photo.path, this.services.facts.of(this.photo.path), this.settings, 0);
+        const sorted = foldersFor(prepared(this.settings.pattern), this.photo.path,
+                                  this.services.facts.of(this.photo.path), this.settings, 0);
         this.say("sortExample", sorted.stays ? fill(qsTr("%1 has no date and stays."), this.photo.name)
-                                             : fill(qsTr("%1 goes into %2"), this.photo.name, sorted.folders.join("/")));
+                                             : fill(qsTr("%1 goes into %2"), this.photo.name,
+                                                    sorted.folders.join("/")));
     }
 
     /** A generator that shows a plan of the whole list in the tree; ids are those of its rows. */

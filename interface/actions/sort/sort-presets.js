@@ -7,7 +7,8 @@ import { KINDS } from "./sort-step.js";
 export const presets = {
     form: movingForm("Sort into Folders", "kind", KINDS, {
         StrField6: ["destination.kind", "text", ["beside", "folder"]], StrField8: ["destination.path", "text"],
-        StrField9: ["ifTaken", "text", ["number", "skip"]], StrField11: ["pattern", "text"], StrField12: ["undated", "text", UNDATED],
+        StrField9: ["ifTaken", "text", ["number", "skip"]], StrField11: ["pattern", "text"],
+        StrField12: ["undated", "text", UNDATED],
         StrField13: ["undatedName", "text"],
     }),
     starting: () => [

@@ -63,7 +63,8 @@ function wish(path, node, sorted, settings, context) {
     const along = context.sidecars.of(path)
         .map((other) => ({ from: joinPath(file.folder, other.name), to: joinPath(node.path, other.name) }));
     return row({ to: joinPath(node.path, file.name), kind: settings.kind, number: settings.ifTaken === "number",
-                 skips: settings.ifTaken === "skip", along: along, shown: sorted.folders.join("/"), caution: sorted.isUndated ? undatedText(settings) : "",
+                 skips: settings.ifTaken === "skip", along: along, shown: sorted.folders.join("/"),
+                 caution: sorted.isUndated ? undatedText(settings) : "",
                  notes: sorted.isUndated ? [qsTr("The file states no date on which it was taken.")] : [] });
 }
 
@@ -77,13 +78,16 @@ function rowFor(path, index, settings, context) {
     const base = baseOf(path, settings.destination);
     const folder = splitPath(path).folder;
     if (settings.destination.kind === "beside" && endsWithFolders(folder, sorted.folders)) {
-        return row({ to: path, kind: settings.kind, shown: sorted.folders.join("/"), notes: [qsTr("It lies in such a folder already.")] });
+        return row({ to: path, kind: settings.kind, shown: sorted.folders.join("/"),
+                     notes: [qsTr("It lies in such a folder already.")] });
     }
     const node = context.book.place(base, sorted.folders);
     const made = wish(path, node, sorted, settings, context);
     made.base = base;
     made.node = node;
-    made.bytes = context.needsBytes ? made.along.reduce((sum, other) => sum + sizeOf(other.from, null, services), sizeOf(path, facts, services)) : 0;
+    made.bytes = context.needsBytes
+        ? made.along.reduce((sum, other) => sum + sizeOf(other.from, null, services), sizeOf(path, facts, services))
+        : 0;
     return made;
 }
 
@@ -92,8 +96,10 @@ function rowFor(path, index, settings, context) {
  * are in, node, that of their folder, and bytes where these may have to be copied; the array has `book`, the folders (folder-tree.js).
  */
 export function* rows(paths, settings, services) {
-    const context = { ready: prepared(settings.pattern), book: new FolderBook(services.files), sidecars: new Sidecars(services.files),
-                      services: services, needsBytes: settings.kind === "copy" || settings.destination.kind === "folder" };
+    const context = { ready: prepared(settings.pattern), book: new FolderBook(services.files),
+                      sidecars: new Sidecars(services.files),
+                      services: services,
+                      needsBytes: settings.kind === "copy" || settings.destination.kind === "folder" };
     const found = [];
     let from = 0;
     let since = Date.now();

@@ -17,8 +17,10 @@ export function summaryText(ready, folders, fresh) {
     if (ready === 0) {
         return qsTr("No file will go anywhere.");
     }
-    const words = fill(qsTr("%1 into %2"), count(ready, qsTr("1 file"), qsTr("%1 files")), count(folders, qsTr("1 folder"), qsTr("%1 folders")));
-    return words + " · " + (fresh === 0 ? qsTr("no new folder") : count(fresh, qsTr("1 new folder"), qsTr("%1 new folders")));
+    const words = fill(qsTr("%1 into %2"), count(ready, qsTr("1 file"), qsTr("%1 files")),
+                       count(folders, qsTr("1 folder"), qsTr("%1 folders")));
+    return words + " · "
+        + (fresh === 0 ? qsTr("no new folder") : count(fresh, qsTr("1 new folder"), qsTr("%1 new folders")));
 }
 
 export class SortTree {
@@ -62,7 +64,8 @@ export class SortTree {
         this.tree.beginFolders();
         const parts = treeParts(book);
         for (let part = parts.next(); !part.done; part = parts.next()) {
-            part.value.filter((row) => row.above === "").forEach((row) => { row.name = shortPath(row.path, files.home); });
+            part.value.filter((row) => row.above === "")
+                .forEach((row) => { row.name = shortPath(row.path, files.home); });
             sum.used += part.value.filter((row) => row.count > 0).length;
             sum.fresh += part.value.filter((row) => row.isNew).length;
             this.tree.addFolders(part.value);

@@ -24,7 +24,8 @@ export function levelChoices() {
          level("{created:yyyy-MM-dd}", qsTr("Day created"))],
         [level("{changed:yyyy}", qsTr("Year changed")), level("{changed:yyyy-MM}", qsTr("Month changed")),
          level("{changed:yyyy-MM-dd}", qsTr("Day changed"))],
-        [level("{type}", qsTr("File type")), level("{size:class}", qsTr("File size")), level("{orientation}", qsTr("Orientation")),
+        [level("{type}", qsTr("File type")), level("{size:class}", qsTr("File size")),
+         level("{orientation}", qsTr("Orientation")),
          level("{camera}", qsTr("Camera")), level("{lens}", qsTr("Lens"))],
         [level("{name:word}", qsTr("Name up to a number")), level("{name:1}", qsTr("First letter")),
          level("{name:3}", qsTr("First 3 letters"))],
@@ -119,7 +120,8 @@ function cutToBytes(text, most) {
 
 // Half a pair of places cannot be written as a name.
 function withoutHalves(text) {
-    return text.replace(/[\ud800-\udbff][\udc00-\udfff]|[\ud800-\udfff]/g, (found) => (found.length === 2 ? found : "-"));
+    return text.replace(/[\ud800-\udbff][\udc00-\udfff]|[\ud800-\udfff]/g,
+                        (found) => (found.length === 2 ? found : "-"));
 }
 
 /**
@@ -136,7 +138,8 @@ export function safeName(value) {
 export function standInFor(token) {
     const words = {
         taken: qsTr("Undated"), created: qsTr("Undated"), changed: qsTr("Undated"), camera: qsTr("Unknown camera"),
-        lens: qsTr("Unknown lens"), width: qsTr("Unknown size"), height: qsTr("Unknown size"), size: qsTr("Unknown size"),
+        lens: qsTr("Unknown lens"), width: qsTr("Unknown size"), height: qsTr("Unknown size"),
+        size: qsTr("Unknown size"),
         type: qsTr("Unknown type"), orientation: qsTr("Unknown orientation"), extension: qsTr("Without extension"),
         name: qsTr("Other names"), folder: qsTr("Other folders"),
     };

@@ -25,7 +25,10 @@ export class TurnPane extends Pane {
 
     join() {
         for (const name of Object.keys(QUARTERS)) {
-            this.form.control(name).clicked.connect(guard(name, () => this.set("angle", shortestTurn(this.settings.angle + QUARTERS[name]))));
+            this.form.control(name).clicked.connect(guard(name,
+                                                          () => this.set("angle",
+                                                                         shortestTurn(this.settings.angle
+                                                                                      + QUARTERS[name]))));
         }
         this.form.control("angleDial").turned.connect(guard("angleDial", (degrees) => this.set("angle", degrees)));
         this.number("angle", "angle");
@@ -38,7 +41,8 @@ export class TurnPane extends Pane {
 
     // Drawn anew in the colours of the appearance.
     showIcons() {
-        const icons = { turnLeft: "turn-left", turnRight: "turn-right", turnHalf: "turn-half", flipHorizontal: "flip-across",
+        const icons = { turnLeft: "turn-left", turnRight: "turn-right", turnHalf: "turn-half",
+                        flipHorizontal: "flip-across",
                         flipVertical: "flip-down" };
         Object.keys(icons).forEach((name) => this.form.setIcon(name, icons[name]));
     }

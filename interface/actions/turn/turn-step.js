@@ -25,7 +25,9 @@ const KEEPS_TAG = ["public.jpeg", "public.tiff"];
 /** The settings in a few words, for the log. */
 export function describe(settings) {
     const parts = settings.angle !== 0 ? [fill(qsTr("turn %1°"), settings.angle)] : [];
-    return parts.concat(settings.flipHorizontal ? [qsTr("flip horizontally")] : [], settings.flipVertical ? [qsTr("flip vertically")] : []).join(", ");
+    return parts
+        .concat(settings.flipHorizontal ? [qsTr("flip horizontally")] : [],
+                settings.flipVertical ? [qsTr("flip vertically")] : []).join(", ");
 }
 
 /** Messages on what is wrong with the settings; empty if a run can start. */
@@ -78,12 +80,14 @@ export function plan(photo, settings, services) {
     const target = targetOf(photo, ORIGINAL);
     if (target.refusal !== null) {
         const reason = target.refusal.status === "Not Supported"
-            ? qsTr("%1 cannot be written; convert it first").replace("%1", photo.type || splitPath(photo.path).extension.toUpperCase())
+            ? qsTr("%1 cannot be written; convert it first").replace("%1", photo.type
+                                                                     || splitPath(photo.path).extension.toUpperCase())
             : target.refusal.reason;
         return { status: target.refusal.status, reason: reason };
     }
     const work = workOn(photo, settings, target.type);
-    const planned = ready(splitPath(photo.path).name, target.type, work.seen, notesFor(photo, target.type, work, services));
+    const planned = ready(splitPath(photo.path).name, target.type, work.seen,
+                          notesFor(photo, target.type, work, services));
     planned.stored = work.stored;
     planned.operations = operations(work.element);
     return planned;
@@ -93,7 +97,8 @@ function carryOut(operation, path, prefix, image) {
     if (operation.turn !== undefined) {
         return image.hRotatePicture(path, prefix, operation.turn);
     }
-    return operation.flip === "horizontal" ? image.hFlipHorizontalPicture(path, prefix) : image.hFlipVerticalPicture(path, prefix);
+    return operation.flip === "horizontal"
+        ? image.hFlipHorizontalPicture(path, prefix) : image.hFlipVerticalPicture(path, prefix);
 }
 
 /** Writes the turned picture as settings.prefix + its own name; see the Resize step. */

@@ -9,7 +9,8 @@ const AS_STORED = { mirror: false, angle: 0 };
 // What makes the stored pixels upright, by the orientation tag.
 const UPRIGHT = {
     1: AS_STORED, 2: { mirror: true, angle: 0 }, 3: { mirror: false, angle: 180 }, 4: { mirror: true, angle: 180 },
-    5: { mirror: true, angle: 90 }, 6: { mirror: false, angle: 270 }, 7: { mirror: true, angle: 270 }, 8: { mirror: false, angle: 90 },
+    5: { mirror: true, angle: 90 }, 6: { mirror: false, angle: 270 }, 7: { mirror: true, angle: 270 },
+    8: { mirror: false, angle: 90 },
 };
 
 /** The angle as 0 up to, but not including, 360; kept to tenths. */
@@ -26,11 +27,13 @@ export function shortestTurn(angle) {
 
 /** First one element, then the other, as one. */
 export function then(first, second) {
-    return { mirror: first.mirror !== second.mirror, angle: wholeTurn(second.angle + (second.mirror ? -first.angle : first.angle)) };
+    return { mirror: first.mirror !== second.mirror,
+             angle: wholeTurn(second.angle + (second.mirror ? -first.angle : first.angle)) };
 }
 
 export function inverse(element) {
-    return element.mirror ? { mirror: true, angle: element.angle } : { mirror: false, angle: wholeTurn(-element.angle) };
+    return element.mirror
+        ? { mirror: true, angle: element.angle } : { mirror: false, angle: wholeTurn(-element.angle) };
 }
 
 /** What the settings do to the upright picture: flips first, then the turn. */
@@ -79,11 +82,13 @@ export function isExact(element) {
 /** The size of the canvas that just holds a turned picture, in whole pixels. */
 export function turnedSize(size, element) {
     if (isExact(element)) {
-        return element.angle % 180 === 0 ? { width: size.width, height: size.height } : { width: size.height, height: size.width };
+        return element.angle % 180 === 0
+            ? { width: size.width, height: size.height } : { width: size.height, height: size.width };
     }
     // The operation takes the angle in single precision.
     const radians = Math.fround(shortestTurn(element.angle)) * 0.017453292519943295;
     const across = Math.abs(Math.cos(radians));
     const down = Math.abs(Math.sin(radians));
-    return { width: Math.trunc(size.width * across + size.height * down), height: Math.trunc(size.width * down + size.height * across) };
+    return { width: Math.trunc(size.width * across + size.height * down),
+             height: Math.trunc(size.width * down + size.height * across) };
 }

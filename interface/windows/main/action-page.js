@@ -122,7 +122,8 @@ export class ActionPage {
     /** Called when files that a pane offers may have changed. */
     filesChanged() {
         const before = JSON.stringify(this.window.settings);
-        Object.keys(this.pages).filter((name) => this.pages[name].pane !== null).forEach((name) => this.pages[name].pane.fill());
+        Object.keys(this.pages).filter((name) => this.pages[name].pane !== null)
+            .forEach((name) => this.pages[name].pane.fill());
         if (JSON.stringify(this.window.settings) !== before && !this.window.run.isBusy()) {
             this.changed();
         }
@@ -137,7 +138,8 @@ export class ActionPage {
 
     pageOf(action) {
         if (this.pages[action.name] === undefined) {
-            const settings = action.step === undefined ? {} : recall(defaults, "Settings-" + action.name, firstSettings(defaults, action.step.defaults));
+            const settings = action.step === undefined
+                ? {} : recall(defaults, "Settings-" + action.name, firstSettings(defaults, action.step.defaults));
             const pane = action.pane === undefined ? null : new action.pane(settings, this.changed, this.window);
             if (pane !== null) {
                 this.window.form.place("actionHost", pane.form);
@@ -171,5 +173,7 @@ export function fillSideBar(window, chosen) {
 /** While a run is under way only its own action and pages that do not use the list can be shown. */
 export function lockSideBar(window, locked) {
     const bar = window.form.control("sideBar");
-    allActions().forEach((action) => bar.setEntryEnabled(action.name, !locked || !action.usesList || action.name === window.action.name));
+    allActions()
+        .forEach((action) =>
+            bar.setEntryEnabled(action.name, !locked || !action.usesList || action.name === window.action.name));
 }

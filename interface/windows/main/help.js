@@ -28,7 +28,8 @@ export class Help {
         this.asked = false;
         this.join(window.form);
         const deeds = { about: () => this.about(), update: () => this.check(true), manual: () => this.manual() };
-        Object.keys(deeds).forEach((name) => window.form.control(name + "Action").triggered.connect(guard(name, deeds[name])));
+        Object.keys(deeds)
+            .forEach((name) => window.form.control(name + "Action").triggered.connect(guard(name, deeds[name])));
         this.started = shell.timer(guard("update", () => this.check(false)));
         if (recall(defaults, KEY, STANDARD).onStart) {
             this.started.start(AFTER_START_MS);
@@ -58,7 +59,8 @@ export class Help {
     /** Joins the info buttons of a pane. */
     join(form) {
         form.names().filter((name) => INFO_BUTTONS[name] !== undefined).forEach((name) => {
-            form.control(name).clicked.connect(guard("info", () => this.part("info", () => new Info(this.sheets)).open(name)));
+            form.control(name).clicked.connect(guard("info",
+                                                     () => this.part("info", () => new Info(this.sheets)).open(name)));
         });
     }
 

@@ -21,7 +21,8 @@ function addedText(found, added, words) {
         parts.push(fill(qsTr("%1 added"), words.count(added)));
     }
     if (found.paths.length > added) {
-        parts.push(count(found.paths.length - added, qsTr("1 was in the list already"), qsTr("%1 were in the list already")));
+        parts.push(count(found.paths.length - added, qsTr("1 was in the list already"),
+                         qsTr("%1 were in the list already")));
     }
     if (found.along > 0) {
         parts.push(count(found.along, qsTr("1 file goes along"), qsTr("%1 files go along")));
@@ -129,7 +130,9 @@ export class Input {
     /** Files and folders, as they were dropped, pasted or named at start-up. */
     addPaths(paths) {
         const kind = this.window.action.lists(this.window.settings);
-        const found = kind === "folders" ? foldersAmong(paths) : files.collect(paths, this.takes(), SIDECARS, kind === "pictures" ? PHOTO_INPUT : []);
+        const found = kind === "folders"
+            ? foldersAmong(paths)
+            : files.collect(paths, this.takes(), SIDECARS, kind === "pictures" ? PHOTO_INPUT : []);
         for (const folder of found.folders) {
             this.rememberFolder(folder);
         }
@@ -151,7 +154,8 @@ export class Input {
 
     addFolder() {
         const kind = this.window.action.lists(this.window.settings);
-        const titles = { pictures: qsTr("Add all pictures of a folder"), files: qsTr("Add all files of a folder"), folders: qsTr("Add a folder") };
+        const titles = { pictures: qsTr("Add all pictures of a folder"), files: qsTr("Add all files of a folder"),
+                         folders: qsTr("Add a folder") };
         const folder = shell.chooseFolder(titles[kind], this.recent[0] || "");
         if (folder !== null) {
             this.addPaths([folder]);

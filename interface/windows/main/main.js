@@ -24,7 +24,8 @@ const SAID_MS = 8000;
 
 function tellProblem(where, error) {
     console.error(where + ": " + error + "\n" + (error && error.stack ? error.stack : ""));
-    shell.ask({ title: qsTr("Something went wrong"), text: String(error), detail: where, buttons: [qsTr("Continue")], initial: 0, escape: 0, check: "" });
+    shell.ask({ title: qsTr("Something went wrong"), text: String(error), detail: where, buttons: [qsTr("Continue")],
+                initial: 0, escape: 0, check: "" });
 }
 
 function makeWindow() {
@@ -67,7 +68,8 @@ function useManner(window, made, manner) {
 function showDeed(window) {
     const busy = window.run.isBusy();
     const manner = window.manner;
-    const ready = manner.isReady(window) && window.shownPage === null && window.action.step.validate(window.settings).length === 0;
+    const ready = manner.isReady(window) && window.shownPage === null
+        && window.action.step.validate(window.settings).length === 0;
     const control = (name) => window.form.control(name);
     const note = manner.deedNote(window);
     control("startButton").text = manner.deedText(window);
@@ -95,8 +97,10 @@ function showInputState(window) {
     const any = window.pictures.count > 0;
     const control = (name) => window.form.control(name);
     showCentre(window, any);
-    for (const name of ["addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction", "renameAction",
-                        "headHost", "actionHost", "outputHost", "moveSimulation", "emptyAddPictures", "emptyAddFolder"]) {
+    for (const name of ["addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction",
+                        "renameAction",
+                        "headHost", "actionHost", "outputHost", "moveSimulation", "emptyAddPictures",
+                        "emptyAddFolder"]) {
         control(name).enabled = !busy;
     }
     for (const name of ["removeAction", "selectAllAction"]) {
@@ -295,13 +299,15 @@ function deedsOf(window) {
 
 const BUTTONS = {
     addPicturesButton: "addPictures", emptyAddPictures: "addPictures", addFolderButton: "addFolder",
-    emptyAddFolder: "addFolder", clearButton: "clear", startButton: "start", pauseButton: "pause", cancelButton: "cancel",
+    emptyAddFolder: "addFolder", clearButton: "clear", startButton: "start", pauseButton: "pause",
+    cancelButton: "cancel",
     retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report", openFolderButton: "openFolders",
     showFailedButton: "showFailed", dismissButton: "dismiss", undoButton: "undo",
 };
 
 const ENTRIES = [
-    "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "saveAs", "quit", "paste",
+    "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "saveAs", "quit",
+    "paste",
     "remove", "selectAll", "next", "previous", "large", "fit", "fill", "showFailed", "undo", "rename",
 ];
 

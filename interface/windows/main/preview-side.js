@@ -63,11 +63,13 @@ export class PreviewSide {
     show(photo, planned) {
         this.showOriginal(photo);
         const ready = planned !== null && planned.status === "ready";
-        const shown = ready ? this.window.action.step.preview(photo, this.window.settings, planned, this.window.services) : null;
+        const shown = ready
+            ? this.window.action.step.preview(photo, this.window.settings, planned, this.window.services) : null;
         this.shown = ready ? { planned: planned, result: shown } : null;
         this.showFrame(photo, planned);
         this.view.setNotes(ready ? this.lostText(photo, planned) : "");
-        this.view.showResult(ready ? Object.assign({ message: "" }, shown) : nothing(planned === null ? "" : planned.reason));
+        this.view.showResult(ready
+                             ? Object.assign({ message: "" }, shown) : nothing(planned === null ? "" : planned.reason));
         this.showCaptions(this.view.estimatedBytes);
     }
 
@@ -75,7 +77,8 @@ export class PreviewSide {
     lostText(photo, planned) {
         const step = this.window.action.step;
         const settings = this.window.settings;
-        return step.lost === undefined ? lossText(photo, planned.type, carriedBy(step, settings)) : step.lost(photo, settings);
+        return step.lost === undefined
+            ? lossText(photo, planned.type, carriedBy(step, settings)) : step.lost(photo, settings);
     }
 
     showCaptions(bytes) {

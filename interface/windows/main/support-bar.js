@@ -13,7 +13,8 @@ export class SupportBar {
         this.window = window;
         this.preferences = new Preferences(window.form, () => this.folderChosen());
         window.form.control("preferencesAction").triggered.connect(guard("preferences", () => this.preferences.open()));
-        window.form.control("supportChoose").clicked.connect(guard("support.choose", () => this.preferences.chooseFirst()));
+        window.form.control("supportChoose").clicked.connect(guard("support.choose",
+                                                                   () => this.preferences.chooseFirst()));
         window.form.control("supportLater").clicked.connect(guard("support.later", () => this.putOff()));
         this.show();
     }
@@ -30,7 +31,8 @@ export class SupportBar {
     }
 
     show() {
-        const isAsked = defaults.get("SupportFilesDestination") === null && !recall(defaults, PUT_OFF, { on: false }).on;
+        const isAsked = defaults.get("SupportFilesDestination") === null
+            && !recall(defaults, PUT_OFF, { on: false }).on;
         this.window.form.control("supportBar").visible = isAsked;
     }
 }

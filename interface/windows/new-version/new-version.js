@@ -12,7 +12,8 @@ export class NewVersion {
         sheets.wwApplicationVersionWindow = this.form.control("newVersionWindow");
         sheets.tfNewApplicationVersion = this.form.control("newApplicationVersion");
         sheets.tvWhatsNew = this.form.control("whatsNew");
-        this.form.control("newVersionClose").clicked.connect(guard("version", () => sheets.closeApplicationVersionSheetObjC(null)));
+        this.form.control("newVersionClose").clicked.connect(guard("version", () =>
+            sheets.closeApplicationVersionSheetObjC(null)));
         this.form.control("productPage").clicked.connect(guard("version", () => sheets.goToProductPage(null)));
         this.form.control("productPage").visible = program.productPage !== "";
     }

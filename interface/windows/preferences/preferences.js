@@ -33,10 +33,15 @@ export class Preferences {
     }
 
     fillMenus() {
-        this.form.setItems("wishLanguage", [qsTr("As the system")].concat(LANGUAGES.map((each) => each[1])), ["system"].concat(LANGUAGES.map((each) => each[0])));
-        this.form.setItems("wishAppearance", [qsTr("As the system"), qsTr("Light"), qsTr("Dark")], ["system", "light", "dark"]);
-        this.form.setItems("wishTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")], TAKEN);
-        this.form.setItems("wishLogRows", [qsTr("the newest 1,000 entries"), qsTr("the newest 10,000 entries"), qsTr("the newest 100,000 entries")], LOG_ROWS);
+        this.form.setItems("wishLanguage", [qsTr("As the system")].concat(LANGUAGES.map((each) => each[1])),
+                           ["system"].concat(LANGUAGES.map((each) => each[0])));
+        this.form.setItems("wishAppearance", [qsTr("As the system"), qsTr("Light"), qsTr("Dark")],
+                           ["system", "light", "dark"]);
+        this.form.setItems("wishTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")],
+                           TAKEN);
+        this.form.setItems("wishLogRows",
+                           [qsTr("the newest 1,000 entries"), qsTr("the newest 10,000 entries"),
+                            qsTr("the newest 100,000 entries")], LOG_ROWS);
     }
 
     connect() {

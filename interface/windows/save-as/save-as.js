@@ -69,18 +69,22 @@ export class SaveAs {
         const saved = this.box.hSaveDialogFile(this.photo.path);
         this.view.showPicture("");
         if (saved !== null) {
-            keep(defaults, KEY, { type: this.form.value("pubFileType"), quality: this.form.value("pubJPEGcompression") });
+            keep(defaults, KEY,
+                 { type: this.form.value("pubFileType"), quality: this.form.value("pubJPEGcompression") });
             this.tell(decodeURIComponent(saved[0].replace(/^file:\/\//, "")));
         }
     }
 
     show() {
         const target = this.target();
-        const isPlainPage = target.keyword === "pdf" && this.photo.type === "JPEG" && (this.photo.orientation || 1) === 1;
+        const isPlainPage = target.keyword === "pdf" && this.photo.type === "JPEG"
+            && (this.photo.orientation || 1) === 1;
         this.knownBytes = isPlainPage ? this.photo.bytes : -1;
         this.form.control("saveAsNote").text = targetText(target.keyword);
-        this.view.showResult({ deeds: target.alpha ? [] : [{ do: "flatten" }], width: this.photo.width, height: this.photo.height,
-                               type: target.id, quality: target.quality ? this.form.value("pubJPEGcompression") : "", message: "" });
+        this.view.showResult({ deeds: target.alpha ? [] : [{ do: "flatten" }], width: this.photo.width,
+                               height: this.photo.height,
+                               type: target.id, quality: target.quality
+                                   ? this.form.value("pubJPEGcompression") : "", message: "" });
         this.showSize(this.view.estimatedBytes);
     }
 

@@ -31,7 +31,8 @@ function settings(target, changes) {
     return Object.assign(settingsOf(convert, Object.assign({ target: target }, changes || {})), { prefix: "/s/" });
 }
 
-const NAMES = { jpeg: "a.b.jpg", png: "a.b.png", tiff: "a.b.tiff", pdf: "a.b.pdf", jp2: "a.b.jp2", gif: "a.b.gif", bmp: "a.b.bmp" };
+const NAMES = { jpeg: "a.b.jpg", png: "a.b.png", tiff: "a.b.tiff", pdf: "a.b.pdf", jp2: "a.b.jp2", gif: "a.b.gif",
+                bmp: "a.b.bmp" };
 
 test("offersTheSevenTypesEachWithWordsOfItsOwn", () => {
     equal(KEYWORDS.slice().sort(), Object.keys(NAMES).sort());
@@ -40,7 +41,8 @@ test("offersTheSevenTypesEachWithWordsOfItsOwn", () => {
 });
 
 test("namesResultsByTheirType", () => {
-    equal(KEYWORDS.map((keyword) => convert.plan(source("a.b.heic"), settings(keyword)).name), KEYWORDS.map((keyword) => NAMES[keyword]));
+    equal(KEYWORDS.map((keyword) => convert.plan(source("a.b.heic"), settings(keyword)).name),
+          KEYWORDS.map((keyword) => NAMES[keyword]));
 });
 
 test("asksTheServiceAndLooksAtTheFile", () => {
@@ -53,7 +55,9 @@ test("asksTheServiceAndLooksAtTheFile", () => {
 });
 
 test("failsWhereMetadataThatWasPromisedIsNotThere", () => {
-    const run = (target, word) => convert.run(source("a.jpg"), settings(target), servicesThatLeave({ type: word, width: 400, height: 300, lost: ["EXIF", "XMP"] }));
+    const run = (target, word) =>
+        convert.run(source("a.jpg"), settings(target),
+                    servicesThatLeave({ type: word, width: 400, height: 300, lost: ["EXIF", "XMP"] }));
     for (const [target, word] of [["png", "PNG"], ["tiff", "TIFF"]]) {
         const result = run(target, word);
         equal([result.status, result.outputs], ["Failed", []]);
@@ -81,7 +85,8 @@ test("leavesOutWhatIsNoPicture", () => {
 test("refusesOtherTypesAndQualities", () => {
     equal(convert.validate(settings("png")), []);
     equal(["jpg", "", "tif", "psd"].map((target) => convert.validate(settings(target)).length), [1, 1, 1, 1]);
-    equal(["0", "10", "", "best"].map((quality) => convert.validate(settings("jpeg", { quality: quality })).length), [1, 1, 1, 1]);
+    equal(["0", "10", "", "best"].map((quality) => convert.validate(settings("jpeg", { quality: quality })).length),
+          [1, 1, 1, 1]);
 });
 
 // The words of docs/formats.md, whose table is held against real files.
@@ -96,7 +101,8 @@ test("saysOfEachTargetWhatItCannotHold", () => {
     says("jp2", ["resolution"]);
     says("png", ["Nothing is lost"]);
     says("tiff", ["Nothing is lost"]);
-    isTrue(/resolution/.test(convert.lost(source("a.png"), settings("jp2"))) && !/resolution/.test(convert.lost(source("a.png"), settings("bmp"))));
+    isTrue(/resolution/.test(convert.lost(source("a.png"), settings("jp2")))
+           && !/resolution/.test(convert.lost(source("a.png"), settings("bmp"))));
 });
 
 test("saysWhatGetsLostOfThisPicture", () => {
@@ -116,7 +122,8 @@ test("saysWhatASourceIs", () => {
 });
 
 test("showsWhatTransparencyBecomesAndTheSizeOfAPageWithAJpeg", () => {
-    const shown = (picture, target) => convert.preview(picture, settings(target), convert.plan(picture, settings(target)));
+    const shown = (picture, target) =>
+        convert.preview(picture, settings(target), convert.plan(picture, settings(target)));
     equal(shown(source("a.png", "PNG"), "jpeg").deeds, [{ do: "flatten" }]);
     equal(shown(source("a.png", "PNG"), "png").deeds, []);
     equal([shown(source("a.jpg"), "jpeg").quality, shown(source("a.jpg"), "png").quality], ["8", ""]);

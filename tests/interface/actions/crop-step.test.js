@@ -16,8 +16,10 @@ const FRAMES = [
     ["a size, top left", { mode: "size", width: 1000, height: 500, position: 0 }, [0, 0, 1000, 500]],
     ["a size, top centre", { mode: "size", width: 1000, height: 500, position: 1 }, [1500, 0, 1000, 500]],
     ["a size, middle right", { mode: "size", width: 1000, height: 500, position: 5 }, [3000, 1250, 1000, 500]],
-    ["a size, bottom left, moved", { mode: "size", width: 1000, height: 500, position: 6, offsetX: 7, offsetY: -9 }, [7, 2491, 1000, 500]],
-    ["odd room is halved toward zero", { mode: "size", width: 1001, height: 4003, position: 4 }, [1499, -501, 1001, 4003]],
+    ["a size, bottom left, moved", { mode: "size", width: 1000, height: 500, position: 6, offsetX: 7, offsetY: -9 },
+     [7, 2491, 1000, 500]],
+    ["odd room is halved toward zero", { mode: "size", width: 1001, height: 4003, position: 4 },
+     [1499, -501, 1001, 4003]],
 ];
 
 for (const row of FRAMES) {
@@ -27,20 +29,23 @@ for (const row of FRAMES) {
 test("offsetsPutAnyRectangleBackWhereItWas", () => {
     for (let position = 0; position < 9; position += 1) {
         const rectangle = { x: 123, y: 77, width: 1001, height: 999 };
-        const settings = Object.assign({ mode: "size", width: 1001, height: 999, position: position }, offsetsFor(picture, rectangle, position));
+        const settings = Object.assign({ mode: "size", width: 1001, height: 999, position: position },
+                                       offsetsFor(picture, rectangle, position));
         equal(cropFrame(picture, settings), rectangle, "position " + position);
     }
 });
 
 test("whatLiesInsideIsKept", () => {
-    equal(insidePicture(picture, { x: -100, y: 2900, width: 300, height: 300 }), { x: 0, y: 2900, width: 200, height: 100 });
+    equal(insidePicture(picture, { x: -100, y: 2900, width: 300, height: 300 }),
+          { x: 0, y: 2900, width: 200, height: 100 });
     equal(insidePicture(picture, { x: 4000, y: 0, width: 10, height: 10 }), null);
 });
 
 test("theLargestFrameOfARatio", () => {
     equal([largestOf(1, picture), largestOf(16 / 9, picture), largestOf(2 / 3, picture)],
           [{ width: 3000, height: 3000 }, { width: 4000, height: 2250 }, { width: 2000, height: 3000 }]);
-    equal([ratioOf("free", picture), ratioOf("original", picture), ratioOf("original", null), ratioOf("3:2", null)], [0, 4 / 3, 0, 1.5]);
+    equal([ratioOf("free", picture), ratioOf("original", picture), ratioOf("original", null), ratioOf("3:2", null)],
+          [0, 4 / 3, 0, 1.5]);
 });
 
 function run(changes, written, output, source, status) {
@@ -50,21 +55,25 @@ function run(changes, written, output, source, status) {
 }
 
 test("fillsTheOutletsAndCuts", () => {
-    const done = run({ mode: "size", width: 1000, height: 500, position: 5, offsetX: -3, offsetY: 4 }, { "/s/a.jpg": { width: 1000, height: 500 } });
+    const done = run({ mode: "size", width: 1000, height: 500, position: 5, offsetX: -3, offsetY: 4 },
+                     { "/s/a.jpg": { width: 1000, height: 500 } });
     equal(done.calls, [["cropImage", "/p/a.JPG", 1000, 500, "/s/", "original file type", "9"]]);
     const said = done.services.image.said[0];
-    equal([said.cropType, said.position, said.xOffset, said.yOffset], [{ selectedLabel: "W x H" }, { selectedSegment: 5 },
+    equal([said.cropType, said.position, said.xOffset, said.yOffset],
+          [{ selectedLabel: "W x H" }, { selectedSegment: 5 },
                                                                        { stringValue: "-3" }, { stringValue: "4" }]);
     equal([done.result.status, done.result.outputs, done.result.width], ["OK", ["/s/a.jpg"], 1000]);
 });
 
 test("tellsThePerCentToCutAway", () => {
-    const said = run({ mode: "percent", percent: 25 }, { "/s/a.jpg": { width: 3000, height: 2250 } }).services.image.said[0];
+    const said = run({ mode: "percent", percent: 25 },
+                     { "/s/a.jpg": { width: 3000, height: 2250 } }).services.image.said[0];
     equal([said.cropType.selectedLabel, said.percentage.stringValue], ["%", "25"]);
 });
 
 test("convertsLengthsToPixelsOfThePicture", () => {
-    const done = run({ mode: "size", unit: "mm", width: 100.5, height: 50, offsetX: 1, position: 0 }, { "/s/a.jpg": { width: 1005, height: 500 } });
+    const done = run({ mode: "size", unit: "mm", width: 100.5, height: 50, offsetX: 1, position: 0 },
+                     { "/s/a.jpg": { width: 1005, height: 500 } });
     equal(done.calls[0].slice(2, 4), [1005, 500]);
     equal([done.services.image.said[0].xOffset.stringValue, done.result.status], ["10", "OK"]);
 });
@@ -79,7 +88,8 @@ test("asksForTheSameLengthOnlyOnce", () => {
 });
 
 test("aFrameThatReachesOutsideIsCutAndSaidSo", () => {
-    const planned = crop.plan(picture, settingsOf(crop, { mode: "size", width: 5000, height: 100, position: 4 }), fakeServices({}));
+    const planned = crop.plan(picture, settingsOf(crop, { mode: "size", width: 5000, height: 100, position: 4 }),
+                              fakeServices({}));
     equal([planned.status, planned.width, planned.height, planned.notes.length], ["ready", 4000, 100, 1]);
 });
 
@@ -89,7 +99,8 @@ const REFUSED = [
 ];
 
 for (const row of REFUSED) {
-    test("plans a failure where " + row[0], () => { equal(crop.plan(picture, settingsOf(crop, row[1]), fakeServices({})).status, row[2]); });
+    test("plans a failure where " + row[0],
+         () => { equal(crop.plan(picture, settingsOf(crop, row[1]), fakeServices({})).status, row[2]); });
 }
 
 test("marksATurnedTiffUpright", () => {
@@ -97,7 +108,8 @@ test("marksATurnedTiffUpright", () => {
     const written = { "/s/a.tiff": { width: 80, height: 80 } };
     equal(run({}, written, {}, turned).services.files.marked, ["/s/a.tiff"]);
     equal(run({}, written, {}, photo("/p/a.tif", 100, 100)).services.files.marked, undefined);
-    equal(run({}, { "/s/a.jpg": { width: 80, height: 80 } }, { fileType: "public.jpeg" }, turned).services.files.marked, undefined);
+    equal(run({}, { "/s/a.jpg": { width: 80, height: 80 } }, { fileType: "public.jpeg" }, turned).services.files.marked,
+          undefined);
 });
 
 test("failsWhereTheFileHasAnotherSize", () => {
@@ -107,20 +119,25 @@ test("failsWhereTheFileHasAnotherSize", () => {
 });
 
 const VALID = [
-    [{ mode: "percent", percent: 99 }, 0], [{ mode: "percent", percent: 100 }, 1], [{ mode: "percent", percent: -1 }, 1],
+    [{ mode: "percent", percent: 99 }, 0], [{ mode: "percent", percent: 100 }, 1],
+    [{ mode: "percent", percent: -1 }, 1],
     [{ mode: "pixels", pixels: 0 }, 0], [{ mode: "pixels", pixels: 1.5 }, 1],
     [{ mode: "size", width: 0, height: 5 }, 1], [{ mode: "size", width: 1.5, height: 5 }, 1],
-    [{ mode: "size", width: 1.5, height: 5, unit: "mm" }, 0], [{ position: 9 }, 1], [{ offsetX: 100001 }, 1], [{ unit: "ell" }, 1],
+    [{ mode: "size", width: 1.5, height: 5, unit: "mm" }, 0], [{ position: 9 }, 1], [{ offsetX: 100001 }, 1],
+    [{ unit: "ell" }, 1],
 ];
 
 for (const row of VALID) {
-    test("validates " + JSON.stringify(row[0]), () => { equal(crop.validate(settingsOf(crop, row[0])).length, row[1]); });
+    test("validates " + JSON.stringify(row[0]),
+         () => { equal(crop.validate(settingsOf(crop, row[0])).length, row[1]); });
 }
 
 test("showsTheCutAndWhatBecomesOfTransparency", () => {
     const settings = settingsOf(crop, { mode: "percent", percent: 25 });
     const shown = crop.preview(picture, settings, crop.plan(picture, settings, fakeServices({})));
-    equal(shown, { deeds: [{ do: "cut", x: 500, y: 375, width: 3000, height: 2250 }, { do: "flatten" }], width: 3000, height: 2250,
+    equal(shown,
+          { deeds: [{ do: "cut", x: 500, y: 375, width: 3000, height: 2250 }, { do: "flatten" }], width: 3000,
+            height: 2250,
                    type: "public.jpeg", quality: "9" });
 });
 

@@ -20,12 +20,14 @@ test("countsIntoFoldersAndThoseAbove", () => {
     filled.count(year, 2);
     equal(shown(filled), [["/p", "", "/p", 0, 3, false], ["/p/2026", "/p", "2026", 1, 3, false],
                           ["/p/2026/08-14", "/p/2026", "08-14", 2, 2, true]]);
-    equal([rowsBelow(filled, "/p"), rowsBelow(filled, "/p/2026/08-14"), rowsBelow(filled, "/else")], [[2, 0, 1], [0, 1], []]);
+    equal([rowsBelow(filled, "/p"), rowsBelow(filled, "/p/2026/08-14"), rowsBelow(filled, "/else")],
+          [[2, 0, 1], [0, 1], []]);
 });
 
 test("takesTheSpellingOfTheDiskThenTheFirstOne", () => {
     const filled = book({ "/p": "folder", "/p/canon": "folder" });
-    equal([filled.place("/p", ["Canon"]).path, filled.place("/p", ["CANON", "Mine"]).path, filled.place("/p", ["canon", "mine"]).path],
+    equal([filled.place("/p", ["Canon"]).path, filled.place("/p", ["CANON", "Mine"]).path,
+           filled.place("/p", ["canon", "mine"]).path],
           ["/p/canon", "/p/canon/Mine", "/p/canon/Mine"]);
     equal(filled.place("/p", ["e\u0301"]).path === filled.place("/p", ["\u00e9"]).path, true);
 });
@@ -43,7 +45,8 @@ test("joinsABaseToTheTreeAboveIt", () => {
         const places = { "/p": ["2026", "a"], "/p/2026": ["b"] };
         const folders = order.map((base) => filled.place(base, places[base]));
         folders.forEach((folder, i) => filled.count(folder, i));
-        equal(shown(filled).map((row) => row[0] + " " + row[4]).sort(), ["/p 2", "/p/2026 2", "/p/2026/a 1", "/p/2026/b 1"], order.join());
+        equal(shown(filled).map((row) => row[0] + " " + row[4]).sort(),
+              ["/p 2", "/p/2026 2", "/p/2026/a 1", "/p/2026/b 1"], order.join());
     }
 });
 
@@ -59,11 +62,13 @@ test("asksTheDiskOnceForEachFolder", () => {
 });
 
 const ENDS = [
-    ["/p/2026/08", ["2026", "08"], true], ["/p/2026/08", ["08"], true], ["/p/2026/08", ["2026"], false], ["/2026/08", ["2026", "08"], true],
+    ["/p/2026/08", ["2026", "08"], true], ["/p/2026/08", ["08"], true], ["/p/2026/08", ["2026"], false],
+    ["/2026/08", ["2026", "08"], true],
     ["/p/CANON", ["Canon"], true], ["/p", [], false], ["/08", ["2026", "08"], false],
 ];
 for (const row of ENDS) {
-    test("knows whether " + row[0] + " ends with " + row[1].join("/"), () => equal(endsWithFolders(row[0], row[1]), row[2]));
+    test("knows whether " + row[0] + " ends with " + row[1].join("/"),
+         () => equal(endsWithFolders(row[0], row[1]), row[2]));
 }
 
 test("placesTenThousandInLittleTime", () => {

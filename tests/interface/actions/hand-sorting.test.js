@@ -1,5 +1,6 @@
 import { HandSorting } from "../../../interface/actions/hand/hand-sorting.js";
-import { KEYS, labelOf, MOST_SLOTS, slotProblem, withFolders, withLabel, withMoved, withoutSlot } from "../../../interface/actions/hand/hand-slots.js";
+import { KEYS, labelOf, MOST_SLOTS, slotProblem, withFolders, withLabel, withMoved,
+         withoutSlot } from "../../../interface/actions/hand/hand-slots.js";
 import { equal, finish, isTrue, test } from "../check.js";
 import { FakeFiles } from "../fakes.js";
 import { OneByOne } from "../one-by-one.js";
@@ -9,7 +10,8 @@ const SEA = { path: "/s/Sea", label: "By the sea" };
 const SHUT = { path: "/shut", label: "Shut" };
 
 function made(disk, along) {
-    const moves = new OneByOne(Object.assign({ "/p/a.jpg": "A", "/p/b.jpg": "B" }, disk || {}), ["/p", "/s/Lake", "/s/Sea"]);
+    const moves = new OneByOne(Object.assign({ "/p/a.jpg": "A", "/p/b.jpg": "B" }, disk || {}),
+                               ["/p", "/s/Lake", "/s/Sea"]);
     const rows = [];
     const sorting = new HandSorting(moves, along || (() => []), (added) => { rows.push(...added); return ""; });
     return { moves: moves, rows: rows, sorting: sorting, disk: () => moves.disk };
@@ -25,20 +27,24 @@ const B = picture(2, "/p/b.jpg");
 const DEEDS = [
     ["move", { "/p/b.jpg": "B", "/s/Lake/a.jpg": "A" }, "/s/Lake/a.jpg", "Moved to Lake", "Move to Lake"],
     ["copy", { "/p/a.jpg": "A", "/p/b.jpg": "B", "/s/Lake/a.jpg": "A" }, "/p/a.jpg", "Copied to Lake", "Copy to Lake"],
-    ["link", { "/p/a.jpg": "A", "/p/b.jpg": "B", "/s/Lake/a.jpg": "-> /p/a.jpg" }, "/p/a.jpg", "Linked in Lake", "Link in Lake"],
+    ["link", { "/p/a.jpg": "A", "/p/b.jpg": "B", "/s/Lake/a.jpg": "-> /p/a.jpg" }, "/p/a.jpg", "Linked in Lake",
+     "Link in Lake"],
 ];
 for (const [kind, disk, place, words, logged] of DEEDS) {
     test(kind + " puts a picture into a folder, and is taken back", () => {
         const { sorting, rows, moves } = made();
         const before = JSON.stringify(moves.disk);
         equal(sorting.put(A, kind, LAKE).status, "OK");
-        equal(Object.keys(moves.disk).sort().map((path) => [path, moves.disk[path]]), Object.keys(disk).sort().map((path) => [path, disk[path]]));
-        equal([sorting.placeOf(A), sorting.wordsFor(A), sorting.wordsFor(B), sorting.countIn("/s/Lake")], [place, words, "", 1]);
+        equal(Object.keys(moves.disk).sort().map((path) => [path, moves.disk[path]]),
+              Object.keys(disk).sort().map((path) => [path, disk[path]]));
+        equal([sorting.placeOf(A), sorting.wordsFor(A), sorting.wordsFor(B), sorting.countIn("/s/Lake")],
+              [place, words, "", 1]);
         equal([rows[0].status, rows[0].action, rows[0].inputPath, rows[0].outputPath, rows[0].run],
               ["OK", logged, "/p/a.jpg", "/s/Lake/a.jpg", "run 1"]);
         equal(sorting.takeBack().deed.id, 1);
         equal(Object.keys(moves.disk).sort(), Object.keys(JSON.parse(before)).sort());
-        equal([sorting.placeOf(A), sorting.wordsFor(A), sorting.countIn("/s/Lake"), sorting.takeBack()], ["/p/a.jpg", "", 0, null]);
+        equal([sorting.placeOf(A), sorting.wordsFor(A), sorting.countIn("/s/Lake"), sorting.takeBack()],
+              ["/p/a.jpg", "", 0, null]);
         equal([rows.length, rows[1].action, rows[1].status], [2, "Undo: " + logged, "OK"]);
     });
 }
@@ -46,10 +52,12 @@ for (const [kind, disk, place, words, logged] of DEEDS) {
 test("neverReplacesAFile", () => {
     const { sorting, moves, rows } = made({ "/s/Lake/a.jpg": "another" });
     sorting.put(A, "move", LAKE);
-    equal([moves.disk["/s/Lake/a.jpg"], moves.disk["/s/Lake/a (2).jpg"], rows[0].output], ["another", "A", "a (2).jpg"]);
+    equal([moves.disk["/s/Lake/a.jpg"], moves.disk["/s/Lake/a (2).jpg"], rows[0].output],
+          ["another", "A", "a (2).jpg"]);
     equal(sorting.placeOf(A), "/s/Lake/a (2).jpg");
     sorting.takeBack();
-    equal([moves.disk["/s/Lake/a.jpg"], moves.disk["/s/Lake/a (2).jpg"], moves.disk["/p/a.jpg"]], ["another", undefined, "A"]);
+    equal([moves.disk["/s/Lake/a.jpg"], moves.disk["/s/Lake/a (2).jpg"], moves.disk["/p/a.jpg"]],
+          ["another", undefined, "A"]);
 });
 
 test("aPictureThatWasMovedGoesOnFromWhereItIs", () => {
@@ -63,14 +71,16 @@ test("aPictureThatWasMovedGoesOnFromWhereItIs", () => {
     equal([sorting.placeOf(A), sorting.countIn("/s/Lake"), sorting.countIn("/s/Sea")], ["/s/Lake/a.jpg", 1, 1]);
     sorting.takeBack();
     sorting.takeBack();
-    equal([Object.keys(moves.disk).sort(), sorting.countIn("/s/Lake"), sorting.countIn("/s/Sea")], [["/p/a.jpg", "/p/b.jpg"], 0, 0]);
+    equal([Object.keys(moves.disk).sort(), sorting.countIn("/s/Lake"), sorting.countIn("/s/Sea")],
+          [["/p/a.jpg", "/p/b.jpg"], 0, 0]);
 });
 
 test("whatIsInTheTrashComesBackOnlyByUndo", () => {
     const { sorting, moves } = made();
     sorting.put(A, "move", LAKE);
     equal(sorting.trash(A).status, "OK");
-    equal([sorting.isTrashed(A), sorting.wordsFor(A), sorting.countIn("/s/Lake")], [true, "Moved to Lake · In the trash", 0]);
+    equal([sorting.isTrashed(A), sorting.wordsFor(A), sorting.countIn("/s/Lake")],
+          [true, "Moved to Lake · In the trash", 0]);
     equal([sorting.put(A, "move", SEA).status, sorting.trash(A).status, moves.trashed], ["Failed", "Failed", ["A"]]);
     sorting.takeBack();
     equal([sorting.isTrashed(A), sorting.placeOf(A), sorting.countIn("/s/Lake")], [false, "/s/Lake/a.jpg", 1]);
@@ -105,10 +115,14 @@ test("anUndoThatFailsLeavesTheDeedStanding", () => {
 
 test("filesThatGoAlongGoAndComeBackWithTheirPicture", () => {
     const disk = { "/p/a.xmp": "settings", "/s/Lake/a.jpg": "another", "/p/a.jpg.thm": "small" };
-    const { sorting, moves } = made(disk, (path) => (path === "/p/a.jpg" ? [{ name: "a.xmp", ending: ".xmp" }, { name: "a.jpg.thm", ending: ".jpg.thm" }] : []));
+    const { sorting, moves } = made(disk,
+                                    (path) => (path === "/p/a.jpg"
+                                               ? [{ name: "a.xmp", ending: ".xmp" },
+                                                  { name: "a.jpg.thm", ending: ".jpg.thm" }] : []));
     const before = JSON.stringify(Object.keys(moves.disk).sort());
     sorting.put(A, "move", LAKE);
-    equal([moves.disk["/s/Lake/a (2).jpg"], moves.disk["/s/Lake/a (2).xmp"], moves.disk["/s/Lake/a (2).jpg.thm"]], ["A", "settings", "small"]);
+    equal([moves.disk["/s/Lake/a (2).jpg"], moves.disk["/s/Lake/a (2).xmp"], moves.disk["/s/Lake/a (2).jpg.thm"]],
+          ["A", "settings", "small"]);
     equal(sorting.countIn("/s/Lake"), 1);
     sorting.takeBack();
     equal(JSON.stringify(Object.keys(moves.disk).sort()), before);
@@ -142,7 +156,8 @@ test("aSessionIsOneRunAndItsEndBeginsAnother", () => {
 test("aRunThatCannotBeOpenedMovesNothing", () => {
     const { sorting, moves } = made();
     moves.refuses = "the disk is full";
-    equal([sorting.put(A, "move", LAKE).message, moves.disk["/p/a.jpg"], sorting.isOpen()], ["the disk is full", "A", false]);
+    equal([sorting.put(A, "move", LAKE).message, moves.disk["/p/a.jpg"], sorting.isOpen()],
+          ["the disk is full", "A", false]);
 });
 
 test("aLogThatCannotBeWrittenIsTold", () => {
@@ -152,7 +167,8 @@ test("aLogThatCannotBeWrittenIsTold", () => {
 });
 
 test("hasAKeyForEachOfFiftyNineSlots", () => {
-    equal([KEYS.length, KEYS[0], KEYS[9], KEYS[10], KEYS[35], KEYS[36], KEYS[58]], [MOST_SLOTS, "1", "0", "A", "Z", "Shift+A", "Shift+W"]);
+    equal([KEYS.length, KEYS[0], KEYS[9], KEYS[10], KEYS[35], KEYS[36], KEYS[58]],
+          [MOST_SLOTS, "1", "0", "A", "Z", "Shift+A", "Shift+W"]);
     isTrue(KEYS.every((key, i) => KEYS.indexOf(key) === i));
 });
 
@@ -175,7 +191,8 @@ for (const [from, to, result] of MOVES) {
 
 const LABELS = [["Holiday", "Holiday"], ["  By the sea ", "By the sea"], ["Lake", ""], ["", ""], ["a\nb", "a b"]];
 for (const [text, label] of LABELS) {
-    test("label " + JSON.stringify(text), () => equal(withLabel([{ path: "/s/Lake", label: "x" }], 0, text), [{ path: "/s/Lake", label: label }]));
+    test("label " + JSON.stringify(text),
+         () => equal(withLabel([{ path: "/s/Lake", label: "x" }], 0, text), [{ path: "/s/Lake", label: label }]));
 }
 
 test("removesASlot", () => equal(withoutSlot([LAKE, SEA], 0), [SEA]));
@@ -184,7 +201,8 @@ test("saysWhatIsWrongWithAFolder", () => {
     const files = new FakeFiles({ "/s/Lake": "folder", "/s/file": 5, "/s/sealed": "folder" });
     const info = files.info.bind(files);
     files.info = (path) => Object.assign(info(path), { writable: path !== "/s/sealed" });
-    equal(["/s/Lake", "/none", "/s/file", "/s/sealed"].map((path) => slotProblem(path, files)), ["", "not there", "not a folder", "cannot be written"]);
+    equal(["/s/Lake", "/none", "/s/file", "/s/sealed"].map((path) => slotProblem(path, files)),
+          ["", "not there", "not a folder", "cannot be written"]);
 });
 
 finish();

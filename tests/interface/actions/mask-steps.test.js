@@ -19,7 +19,8 @@ function run(step, picture, settings, name, made) {
 
 const SHAPES = [
     [{ shape: "rectangle", radius: 40 }, "public.png", ["/p/a.jpg", "/s/", 40, "0", "0"], "a.png", null],
-    [{ shape: "circle", radius: 40 }, "public.tiff", ["/p/a.jpg", "/s/", 40, "1", "1"], "a.tiff", { width: 300, height: 300 }],
+    [{ shape: "circle", radius: 40 }, "public.tiff", ["/p/a.jpg", "/s/", 40, "1", "1"], "a.tiff",
+     { width: 300, height: 300 }],
     [{ shape: "ellipse", radius: 40 }, "com.compuserve.gif", ["/p/a.jpg", "/s/", 40, "2", "2"], "a.gif", null],
     [{ shape: "rectangle", radius: 0 }, "original file type", ["/p/a.jpg", "/s/", 0, "0", "9"], "a.jpg", null],
 ];
@@ -34,13 +35,16 @@ for (const row of SHAPES) {
 }
 
 test("tellsColourAndBand", () => {
-    const said = run(round, wide, settingsOf(round, { background: true, color: "#102030", band: 20 }, {}), "a.png").said[0];
+    const said = run(round, wide, settingsOf(round, { background: true, color: "#102030", band: 20 }, {}),
+                     "a.png").said[0];
     equal([said.backgroundCheck.state, said.backgroundColor.color, said.bandWidth.stringValue], [1, "#102030", "20"]);
 });
 
 test("marksRoundedJpegAndTiffUprightAndNoOther", () => {
-    equal(run(round, turned, settingsOf(round, {}, { fileType: "original file type" }), "a.jpg").services.files.marked, ["/s/a.jpg"]);
-    equal(run(round, turned, settingsOf(round, {}, { fileType: "public.tiff" }), "a.tiff").services.files.marked, ["/s/a.tiff"]);
+    equal(run(round, turned, settingsOf(round, {}, { fileType: "original file type" }), "a.jpg").services.files.marked,
+          ["/s/a.jpg"]);
+    equal(run(round, turned, settingsOf(round, {}, { fileType: "public.tiff" }), "a.tiff").services.files.marked,
+          ["/s/a.tiff"]);
     equal(run(round, turned, settingsOf(round, {}, {}), "a.png").services.files.marked, undefined);
 });
 
@@ -56,7 +60,8 @@ test("saysWhichSquareACircleIsCutFrom", () => {
 });
 
 test("saysWhatBecomesBlack", () => {
-    const notes = (changes) => round.plan(wide, settingsOf(round, changes, { fileType: "original file type" })).notes.length;
+    const notes = (changes) =>
+        round.plan(wide, settingsOf(round, changes, { fileType: "original file type" })).notes.length;
     equal([notes({}), notes({ background: true })], [1, 0]);
 });
 
@@ -72,7 +77,9 @@ test("laysOnAColour", () => {
 });
 
 test("laysOnAPattern", () => {
-    const done = run(background, clear, settingsOf(background, { under: "pattern", pattern: "/t/dots.png" }, { fileType: "public.tiff" }), "a.tiff");
+    const done = run(background, clear,
+                     settingsOf(background, { under: "pattern", pattern: "/t/dots.png" }, { fileType: "public.tiff" }),
+                     "a.tiff");
     equal([done.services.laid, done.calls, done.result.status], [[["/p/a.png", "/t/dots.png", "/s/a.tiff"]], [], "OK"]);
 });
 
@@ -85,20 +92,25 @@ test("saysWhyAPatternFailed", () => {
 });
 
 test("putsAWhiteFrameRoundAndLetsGoOfThePictures", () => {
-    const done = run(background, wide, settingsOf(background, { frame: "white" }, {}), "a.jpg", { size: { width: 420, height: 320 } });
-    equal(done.calls, [["imageFromCGImageRef", "bitmap of /p/a.jpg"], ["addBorderToImage", "pointwise bitmap of /p/a.jpg"],
-                       ["hSaveToNewImageFile", "/s/a.jpg", "public.jpeg", "bitmap of framed pointwise bitmap of /p/a.jpg", {}]]);
+    const done = run(background, wide, settingsOf(background, { frame: "white" }, {}), "a.jpg",
+                     { size: { width: 420, height: 320 } });
+    equal(done.calls,
+          [["imageFromCGImageRef", "bitmap of /p/a.jpg"], ["addBorderToImage", "pointwise bitmap of /p/a.jpg"],
+                       ["hSaveToNewImageFile", "/s/a.jpg", "public.jpeg",
+                        "bitmap of framed pointwise bitmap of /p/a.jpg", {}]]);
     equal([done.result.status, done.result.width], ["OK", 420]);
     isTrue(FakePicture.all.every((picture) => picture.released));
 });
 
 test("laysAPictureThatMayBeTransparentBeforeItIsFramed", () => {
-    const done = run(background, clear, settingsOf(background, { frame: "white", color: "#00ff00" }, {}), "a.png", { size: { width: 420, height: 320 } });
+    const done = run(background, clear, settingsOf(background, { frame: "white", color: "#00ff00" }, {}), "a.png",
+                     { size: { width: 420, height: 320 } });
     equal([done.calls[0][0], done.calls[1]], ["addOverlayColor", ["imageFromCGImageRef", "bitmap of /s/a.png"]]);
 });
 
 test("paintsABandOverTheEdge", () => {
-    const done = run(background, turned, settingsOf(background, { frame: "band", bandColor: "#0000ff", bandWidth: 12 }, {}), "a.jpg");
+    const done = run(background, turned,
+                     settingsOf(background, { frame: "band", bandColor: "#0000ff", bandWidth: 12 }, {}), "a.jpg");
     equal(done.calls, [["roundCornersOfImage", "/p/a.jpg", "/s/", 0, "0", "9"]]);
     const said = done.said[0];
     equal([said.backgroundCheck.state, said.backgroundColor.color, said.bandWidth.stringValue], [1, "#0000ff", "12"]);
@@ -106,8 +118,11 @@ test("paintsABandOverTheEdge", () => {
 });
 
 test("laysAndBandsInTheUnfinishedFile", () => {
-    const done = run(background, clear, settingsOf(background, { frame: "band", bandWidth: 12 }, { fileType: "public.tiff" }), "a.tiff");
-    equal(done.calls, [["addOverlayColor", "/p/a.png", "/s/", "", "", "1"], ["roundCornersOfImage", "/s/a.tiff", "/s/", 0, "0", "9"]]);
+    const done = run(background, clear,
+                     settingsOf(background, { frame: "band", bandWidth: 12 }, { fileType: "public.tiff" }), "a.tiff");
+    equal(done.calls,
+          [["addOverlayColor", "/p/a.png", "/s/", "", "", "1"],
+           ["roundCornersOfImage", "/s/a.tiff", "/s/", 0, "0", "9"]]);
 });
 
 test("stopsAtTheFirstFailure", () => {
@@ -116,13 +131,16 @@ test("stopsAtTheFirstFailure", () => {
 });
 
 const VALID = [
-    [round, { radius: -1 }, 1], [round, { shape: "circle", radius: -1 }, 0], [round, { background: true, band: -1 }, 1], [round, { band: -1 }, 0],
-    [background, {}, 0], [background, { under: "pattern", pattern: "" }, 1], [background, { frame: "band", bandWidth: 0 }, 1],
+    [round, { radius: -1 }, 1], [round, { shape: "circle", radius: -1 }, 0], [round, { background: true, band: -1 }, 1],
+    [round, { band: -1 }, 0],
+    [background, {}, 0], [background, { under: "pattern", pattern: "" }, 1],
+    [background, { frame: "band", bandWidth: 0 }, 1],
     [background, { frame: "white", bandWidth: 0 }, 0],
 ];
 
 for (const row of VALID) {
-    test("validates " + JSON.stringify(row[1]), () => { equal(row[0].validate(settingsOf(row[0], row[1])).length, row[2]); });
+    test("validates " + JSON.stringify(row[1]),
+         () => { equal(row[0].validate(settingsOf(row[0], row[1])).length, row[2]); });
 }
 
 test("showsWhatIsLaidAndFramed", () => {
@@ -130,7 +148,8 @@ test("showsWhatIsLaidAndFramed", () => {
         const settings = settingsOf(background, changes);
         return background.preview(picture, settings, background.plan(picture, settings)).deeds.map((deed) => deed.do);
     };
-    equal([shown(clear, {}), shown(clear, { under: "pattern", pattern: "/t" }), shown(clear, { frame: "white" }), shown(wide, { frame: "band" })],
+    equal([shown(clear, {}), shown(clear, { under: "pattern", pattern: "/t" }), shown(clear, { frame: "white" }),
+           shown(wide, { frame: "band" })],
           [["lay"], ["pattern"], ["lay", "frame"], ["round", "flatten"]]);
 });
 

@@ -1,16 +1,19 @@
 import { copyOf } from "../../../interface/lib/copies.js";
 import { cNSStringHandling } from "quorlin";
 import { NameChain } from "../../../interface/actions/rename/name-chain.js";
-import { chosenPieces, KINDS, newStep, stepFrom, stepProblems, WORDS } from "../../../interface/actions/rename/name-steps.js";
+import { chosenPieces, KINDS, newStep, stepFrom, stepProblems,
+         WORDS } from "../../../interface/actions/rename/name-steps.js";
 import { riskOf } from "../../../interface/actions/rename/risky-names.js";
 import { cutAt, hasHalf } from "../../../interface/actions/rename/text-cuts.js";
 import { equal, finish, isTrue, test } from "../check.js";
 
 const names = new cNSStringHandling();
-const FACTS = { taken: "2026-08-14T10:20:30", created: "", changed: "", camera: "", lens: "", type: "JPEG", bytes: 2400000, size: "2.4 MB", width: 40, height: 30 };
+const FACTS = { taken: "2026-08-14T10:20:30", created: "", changed: "", camera: "", lens: "", type: "JPEG",
+                bytes: 2400000, size: "2.4 MB", width: 40, height: 30 };
 
 function made(steps, path, isFolder, facts) {
-    return new NameChain(steps, names, () => "undated").apply(path, isFolder === true, facts === undefined ? FACTS : facts, true);
+    return new NameChain(steps, names, () => "undated").apply(path, isFolder === true,
+                                                              facts === undefined ? FACTS : facts, true);
 }
 
 // [what, steps, old name, new name]
@@ -46,10 +49,14 @@ const ROWS = [
     ["one writing of accents", [["utf8", {}]], "e\u0301.jpg", "\u00e9.jpg"],
     ["the other writing of accents", [["utf8", { form: "NFD" }]], "\u00e9.jpg", "e\u0301.jpg"],
     ["only names that contain", [["only", { text: "img" }], ["around", { before: "x" }]], "IMG_1.jpg", "xIMG_1.jpg"],
-    ["not names that begin otherwise", [["only", { where: "begins", text: "img" }], ["around", { before: "x" }]], "IMG_1.jpg", "IMG_1.jpg"],
-    ["an ending longer than the name", [["only", { where: "ends", text: "longer" }], ["around", { before: "x" }]], "a.jpg", "a.jpg"],
-    ["an ending", [["only", { where: "ends", text: "PG", part: "extension" }], ["around", { before: "x" }]], "a.JPG", "xa.JPG"],
-    ["a text with tokens", [["text", { pattern: "{taken} lake {counter:001}" }], ["case", { part: "extension" }]], "IMG.JPG", "2026-08-14 lake 001.jpg"],
+    ["not names that begin otherwise", [["only", { where: "begins", text: "img" }], ["around", { before: "x" }]],
+     "IMG_1.jpg", "IMG_1.jpg"],
+    ["an ending longer than the name", [["only", { where: "ends", text: "longer" }], ["around", { before: "x" }]],
+     "a.jpg", "a.jpg"],
+    ["an ending", [["only", { where: "ends", text: "PG", part: "extension" }], ["around", { before: "x" }]], "a.JPG",
+     "xa.JPG"],
+    ["a text with tokens", [["text", { pattern: "{taken} lake {counter:001}" }], ["case", { part: "extension" }]],
+     "IMG.JPG", "2026-08-14 lake 001.jpg"],
     ["a text with the name so far", [["case", {}], ["text", { pattern: "{name}-x" }]], "IMG.JPG", "img-x.JPG"],
     ["a step that is off", [["around", { before: "x", on: false }]], "a.jpg", "a.jpg"],
     ["a hidden file", [["around", { after: "x" }]], ".hidden", ".hiddenx"],
@@ -69,7 +76,8 @@ test("takesTheWholeNameOfAFolder", () => {
 });
 
 test("saysWhichStepsCouldNotChangeAShortName", () => {
-    equal(made([newStep("case"), newStep("strip", { count: 8 }), newStep("section", { start: 3, length: 20 })], "/p/Photo01.jpg").short, [1, 2]);
+    equal(made([newStep("case"), newStep("strip", { count: 8 }), newStep("section", { start: 3, length: 20 })],
+               "/p/Photo01.jpg").short, [1, 2]);
 });
 
 test("saysWhatIsMissing", () => {
@@ -87,7 +95,8 @@ test("leavesASlashThatWasTypedToBeToldOf", () => {
 });
 
 test("tellsTheNameAfterEachStep", () => {
-    equal(made([newStep("strip", { count: 4 }), newStep("around", { before: "lake " })], "/p/IMG_2041.jpg").trace, { 0: "2041.jpg", 1: "lake 2041.jpg" });
+    equal(made([newStep("strip", { count: 4 }), newStep("around", { before: "lake " })], "/p/IMG_2041.jpg").trace,
+          { 0: "2041.jpg", 1: "lake 2041.jpg" });
 });
 
 // [scope, paths, numbers]
@@ -99,7 +108,9 @@ const COUNTERS = [
 
 for (const entry of COUNTERS) {
     test("counts anew for each " + entry[0], () => {
-        const chain = new NameChain([newStep("text", { pattern: "{counter:05}", counterStep: 2, counterScope: entry[0] })], names, () => "");
+        const chain = new NameChain([newStep("text",
+                                             { pattern: "{counter:05}", counterStep: 2, counterScope: entry[0] })],
+                                             names, () => "");
         const facts = (path) => Object.assign({}, FACTS, { taken: "2026-08-" + path.slice(3, 5) + "T10:00:00" });
         equal(entry[1].map((path) => chain.apply(path, false, facts(path), false).name), entry[2]);
     });
@@ -107,8 +118,10 @@ for (const entry of COUNTERS) {
 
 // [text, position, harm]
 const CUTS = [
-    ["abc", 1, ""], ["abc", 0, ""], ["abc", 3, ""], ["a\ud83d\ude00b", 2, "half"], ["a\ud83d\ude00b", 1, ""], ["a\ud83d\ude00b", 3, ""],
-    ["e\u0301x", 1, "mark"], ["e\u0301x", 2, ""], ["\u2764\ufe0f", 1, "mark"], ["\ud83d\udc69\u200d\ud83d\udcbb", 3, "mark"], ["\ud83d\udc4d\ud83c\udffd", 2, "mark"],
+    ["abc", 1, ""], ["abc", 0, ""], ["abc", 3, ""], ["a\ud83d\ude00b", 2, "half"], ["a\ud83d\ude00b", 1, ""],
+    ["a\ud83d\ude00b", 3, ""],
+    ["e\u0301x", 1, "mark"], ["e\u0301x", 2, ""], ["\u2764\ufe0f", 1, "mark"],
+    ["\ud83d\udc69\u200d\ud83d\udcbb", 3, "mark"], ["\ud83d\udc4d\ud83c\udffd", 2, "mark"],
 ];
 
 for (const entry of CUTS) {
@@ -129,11 +142,13 @@ test("saysWhenACharacterIsParted", () => {
 
 test("choosesPieces", () => {
     const all = ["a", "b", "c"];
-    equal(["", "2", "-1", "3,1", "9", "1,9,2", "-4"].map((list) => chosenPieces(all, list).join("")), ["abc", "b", "c", "ca", "", "ab", ""]);
+    equal(["", "2", "-1", "3,1", "9", "1,9,2", "-4"].map((list) => chosenPieces(all, list).join("")),
+          ["abc", "b", "c", "ca", "", "ab", ""]);
 });
 
 test("warnsOfNamesThatOtherSystemsDoNotTake", () => {
-    const risky = ["a:b.jpg", "a?.jpg", "a\\b", "a*", "a<", "a>", "a|", "a\"", "con", "COM1.txt", "a.", "a ", " a", "a\u0001"];
+    const risky = ["a:b.jpg", "a?.jpg", "a\\b", "a*", "a<", "a>", "a|", "a\"", "con", "COM1.txt", "a.", "a ", " a",
+                   "a\u0001"];
     isTrue(risky.every((name) => riskOf(name) !== ""));
     isTrue(["a.jpg", "console.jpg", "été", "a b", "com10.txt", ".hidden"].every((name) => riskOf(name) === ""));
 });
@@ -142,8 +157,10 @@ test("takesOnlyStepsThatItKnows", () => {
     const kept = KINDS.map((kind) => copyOf(newStep(kind)));
     equal(kept.map(stepFrom), kept);
     equal(stepFrom({ kind: "case" }), newStep("case"));
-    equal([null, 1, {}, { kind: "nothing" }, { kind: "case", mode: "9" }, { kind: "case", mode: 1 }, { kind: "strip", count: 1.5 },
-           { kind: "strip", side: "left" }, { kind: "case", part: "all" }, { kind: "case", on: "yes" }].map(stepFrom).filter((step) => step !== null), []);
+    equal([null, 1, {}, { kind: "nothing" }, { kind: "case", mode: "9" }, { kind: "case", mode: 1 },
+           { kind: "strip", count: 1.5 },
+           { kind: "strip", side: "left" }, { kind: "case", part: "all" },
+           { kind: "case", on: "yes" }].map(stepFrom).filter((step) => step !== null), []);
     equal(Object.keys(stepFrom({ kind: "case", other: 1 })).indexOf("other"), -1);
     isTrue(Object.keys(WORDS).length > 5);
 });
@@ -152,7 +169,8 @@ test("saysWhatIsWrongWithAStep", () => {
     equal(stepProblems(newStep("text", { pattern: "" })).length, 1);
     equal(stepProblems(newStep("text", { pattern: "{nobody}" })).length, 1);
     equal(stepProblems(newStep("split", { pieces: "1;2" })).length, 1);
-    equal(["", "1", "2, 1", "-1"].map((pieces) => stepProblems(newStep("split", { pieces: pieces })).length), [0, 0, 0, 0]);
+    equal(["", "1", "2, 1", "-1"].map((pieces) => stepProblems(newStep("split", { pieces: pieces })).length),
+          [0, 0, 0, 0]);
 });
 
 finish();

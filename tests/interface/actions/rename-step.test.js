@@ -23,8 +23,10 @@ function settings(steps, changes) {
 function planned(paths, steps, changes, own) {
     const used = own || services();
     const plan = drain(planMoves(paths, rename, settings(steps, changes), used)).result;
-    const states = plan.rows.map((row, i) => stateOf(row, itemOf(plan, i), row.goesWith >= 0 ? splitPath(paths[row.goesWith]).name : ""));
-    return { plan: plan, names: plan.rows.map((row, i) => shownName(row, itemOf(plan, i))), states: states, texts: states.map((state) => state.text) };
+    const states = plan.rows
+        .map((row, i) => stateOf(row, itemOf(plan, i), row.goesWith >= 0 ? splitPath(paths[row.goesWith]).name : ""));
+    return { plan: plan, names: plan.rows.map((row, i) => shownName(row, itemOf(plan, i))), states: states,
+             texts: states.map((state) => state.text) };
 }
 
 function readyOf(plan) {
@@ -71,7 +73,8 @@ test("aPictureStaysWhereItsSidecarMust", () => {
 
 // [code, words]
 const REFUSED = [
-    ["taken", "name is taken by a file not in this list"], ["long", "name is too long"], ["gone", "the file is not there any more"],
+    ["taken", "name is taken by a file not in this list"], ["long", "name is too long"],
+    ["gone", "the file is not there any more"],
     ["locked", "the folder cannot be written"], ["case", "differs only by case or accents from "],
 ];
 
@@ -96,7 +99,8 @@ test("dropsThePlanThatIsMadeNoMore", () => {
 
 test("saysThatAPlaceIsChanged", () => {
     const row = { along: [], caution: "", notes: [], goesWith: -1 };
-    equal(stateOf(row, { status: "ready", code: "aside", other: "/p/d.jpg", to: "/p/d.jpg" }, "").text, "changes places with d.jpg: done in two steps");
+    equal(stateOf(row, { status: "ready", code: "aside", other: "/p/d.jpg", to: "/p/d.jpg" }, "").text,
+          "changes places with d.jpg: done in two steps");
 });
 
 test("saysThatANameIsEmpty", () => {
@@ -106,7 +110,8 @@ test("saysThatANameIsEmpty", () => {
 
 test("saysThatNoDateIsThere", () => {
     const own = services();
-    const made = planned(["/p/dated.jpg", "/p/scan.png"], [newStep("text", { pattern: "{taken} {counter:001}" })], {}, own);
+    const made = planned(["/p/dated.jpg", "/p/scan.png"], [newStep("text", { pattern: "{taken} {counter:001}" })], {},
+                         own);
     equal(made.names, ["2026-08-14 001.jpg", "undated 002.png"]);
     equal([made.states[1].state, made.states[1].kind, made.texts[1]], ["ready", "caution", "no date taken: “undated”"]);
     equal(own.facts.asked, 2);
@@ -120,12 +125,14 @@ test("readsNoFactsThatItDoesNotNeed", () => {
 
 test("neverMakesHalfACharacter", () => {
     const made = planned(["/p/\ud83d\ude00a.jpg"], [newStep("strip", { count: 1 })]);
-    equal([made.states[0].state, made.texts[0], readyOf(made.plan)], ["attention", "a character would be cut in two", []]);
+    equal([made.states[0].state, made.texts[0], readyOf(made.plan)],
+          ["attention", "a character would be cut in two", []]);
 });
 
 test("warnsAndStillRenames", () => {
     const made = planned(["/p/a.jpg"], [newStep("around", { after: ":" })]);
-    equal([made.states[0].state, made.states[0].kind, made.texts[0]], ["ready", "caution", "ready, but other systems do not take :"]);
+    equal([made.states[0].state, made.states[0].kind, made.texts[0]],
+          ["ready", "caution", "ready, but other systems do not take :"]);
 });
 
 test("foldersKeepTheirDots", () => {
@@ -152,7 +159,8 @@ test("plansTenThousandNamesInSlices", () => {
     for (let i = 0; i < 10000; i += 1) {
         paths.push("/p/IMG_" + i + ".JPG");
     }
-    const steps = [newStep("text", { pattern: "{name} lake {counter:00001}" }), lower, newStep("replace", { search: "_", replacement: "-" })];
+    const steps = [newStep("text", { pattern: "{name} lake {counter:00001}" }), lower,
+                   newStep("replace", { search: "_", replacement: "-" })];
     const work = rename.rows(paths, settings(steps), services());
     let longest = 0;
     let since = Date.now();

@@ -12,12 +12,15 @@ function run(chosen, written, status) {
 test("asksForTheLongestSideInTheOriginalType", () => {
     const done = run(settings(), { width: 1600, height: 1200 });
     equal(done.calls, [["resizeImage", "/p/a.jpg", 1600, 2, "/s/", "original file type", "8"]]);
-    equal([done.result.status, done.result.outputs, done.result.width, done.result.height], ["OK", ["/s/a.jpg"], 1600, 1200]);
+    equal([done.result.status, done.result.outputs, done.result.width, done.result.height],
+          ["OK", ["/s/a.jpg"], 1600, 1200]);
 });
 
 test("asksForABoxThatIsFilled", () => {
-    const done = run(settings({ mode: "box", boxWidth: 1000, boxHeight: 900, boxFit: "fill" }), { width: 1000, height: 900 });
-    equal([done.calls, done.result.status], [[["resizeImage2", "/p/a.jpg", 1000, 900, 1, "/s/", "original file type", "8"]], "OK"]);
+    const done = run(settings({ mode: "box", boxWidth: 1000, boxHeight: 900, boxFit: "fill" }),
+                     { width: 1000, height: 900 });
+    equal([done.calls, done.result.status],
+          [[["resizeImage2", "/p/a.jpg", 1000, 900, 1, "/s/", "original file type", "8"]], "OK"]);
 });
 
 test("failsWhereTheServiceSaysOkWithoutAFile", () => {
@@ -30,7 +33,8 @@ test("failsWhereTheFileHasAnotherSize", () => {
 });
 
 test("handsOnWhatTheServiceRefuses", () => {
-    equal([run(settings(), null, "Failed").result.status, run(settings(), null, "Not Supported").result.status], ["Failed", "Not Supported"]);
+    equal([run(settings(), null, "Failed").result.status, run(settings(), null, "Not Supported").result.status],
+          ["Failed", "Not Supported"]);
 });
 
 const RANGES = [
@@ -59,10 +63,12 @@ test("wantsAFolderWhereOneIsToBeChosen", () => {
 test("cutsBeforeItScalesInThePreview", () => {
     const shown = (changes) => {
         const chosen = settings(changes);
-        return resize.preview(photo("/p/a.png", 4000, 3000), chosen, resize.plan(photo("/p/a.png", 4000, 3000), chosen, fakeServices({}))).deeds;
+        return resize.preview(photo("/p/a.png", 4000, 3000), chosen,
+                              resize.plan(photo("/p/a.png", 4000, 3000), chosen, fakeServices({}))).deeds;
     };
     equal(shown({}), [{ do: "scale", width: 1600, height: 1200 }]);
-    equal(shown({ mode: "box", boxWidth: 1000, boxHeight: 1000 }), [{ do: "cut", x: 498, y: 0, width: 3001, height: 3000 }, { do: "scale", width: 1000, height: 1000 }]);
+    equal(shown({ mode: "box", boxWidth: 1000, boxHeight: 1000 }),
+          [{ do: "cut", x: 498, y: 0, width: 3001, height: 3000 }, { do: "scale", width: 1000, height: 1000 }]);
 });
 
 finish();

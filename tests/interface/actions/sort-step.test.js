@@ -14,7 +14,8 @@ function servicesWith(dates, others) {
     Object.keys(dates).forEach((path) => { entries[path] = 1000; });
     const files = new FakeFiles(entries);
     files.facts = (path) => (dates[path] === undefined ? null : {
-        taken: dates[path], created: "2020-01-01T00:00:00", changed: "2021-01-01T00:00:00", camera: "", lens: "", bytes: 1000,
+        taken: dates[path], created: "2020-01-01T00:00:00", changed: "2021-01-01T00:00:00", camera: "", lens: "",
+        bytes: 1000,
         width: 3, height: 2, type: "JPEG", isFolder: false,
     });
     return { files: files, facts: new KnownFacts(files) };
@@ -41,11 +42,13 @@ function paths(rows) {
 test("sortsBesideThePictures", () => {
     const rows = rowsOf({ "/in/a.jpg": DAY, "/in/x/b.jpg": DAY });
     equal(paths(rows), ["/in/2026/2026-08-14/a.jpg", "/in/x/2026/2026-08-14/b.jpg"]);
-    equal([rows[0].kind, rows[0].number, rows[0].shown, rows[0].notes, rows[0].base], ["move", true, "2026/2026-08-14", [], "/in"]);
+    equal([rows[0].kind, rows[0].number, rows[0].shown, rows[0].notes, rows[0].base],
+          ["move", true, "2026/2026-08-14", [], "/in"]);
 });
 
 test("sortsIntoAChosenFolder", () => {
-    const rows = rowsOf({ "/in/a.jpg": DAY, "/in/x/b.jpg": DAY }, { destination: { kind: "folder", path: "/out" }, kind: "copy", ifTaken: "skip" });
+    const rows = rowsOf({ "/in/a.jpg": DAY, "/in/x/b.jpg": DAY },
+                        { destination: { kind: "folder", path: "/out" }, kind: "copy", ifTaken: "skip" });
     equal(paths(rows), ["/out/2026/2026-08-14/a.jpg", "/out/2026/2026-08-14/b.jpg"]);
     equal([rows[0].kind, rows[0].number, rows[0].bytes], ["copy", false, 1000]);
 });
@@ -83,10 +86,12 @@ test("takesSidecarsAlong", () => {
 
 test("staysWhereNamesAreTakenIfThatIsTheRule", () => {
     const dates = { "/in/a.jpg": DAY };
-    const item = { status: "refused", code: "taken", other: "/in/2026/2026-08-14/a.jpg", to: "/in/2026/2026-08-14/a.jpg" };
+    const item = { status: "refused", code: "taken", other: "/in/2026/2026-08-14/a.jpg",
+                   to: "/in/2026/2026-08-14/a.jpg" };
     const skipping = stateOf(rowsOf(dates, { ifTaken: "skip" })[0], item, "");
     equal([skipping.state, skipping.kind, skipping.text], ["same", "caution", "stays: a file of this name is there"]);
-    equal(stateOf(rowsOf(dates, { ifTaken: "skip" })[0], Object.assign({}, item, { code: "locked" }), "").state, "attention");
+    equal(stateOf(rowsOf(dates, { ifTaken: "skip" })[0], Object.assign({}, item, { code: "locked" }), "").state,
+          "attention");
     equal(stateOf(rowsOf(dates, { ifTaken: "number" })[0], item, "").state, "attention");
 });
 
@@ -126,7 +131,9 @@ for (const row of VALID) {
 }
 
 test("describesItself", () => {
-    equal([sort.describe(sort.defaults), sort.describe(Object.assign({}, sort.defaults, { kind: "copy", destination: { kind: "folder", path: "/x" } }))],
+    equal([sort.describe(sort.defaults),
+           sort.describe(Object.assign({}, sort.defaults,
+                                       { kind: "copy", destination: { kind: "folder", path: "/x" } }))],
           ["move into {taken:yyyy}/{taken:yyyy-MM-dd}", "copy into {taken:yyyy}/{taken:yyyy-MM-dd} in /x"]);
 });
 
@@ -148,7 +155,8 @@ test("sortsTenThousandFilesInSlices", () => {
             longest = Math.max(longest, Date.now() - since);
             since = Date.now();
         }
-        print("10,000 files, " + round + " time: " + (Date.now() - start) + " ms, the longest slice " + longest + " ms");
+        print("10,000 files, " + round + " time: " + (Date.now() - start) + " ms, the longest slice " + longest
+              + " ms");
         // However busy the machine is: no slice is a large part of the whole.
         isTrue(longest < 100 || longest * 4 < Date.now() - start, longest + " ms");
     }

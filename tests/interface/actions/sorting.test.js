@@ -5,7 +5,8 @@ import { problems } from "../../../interface/lib/tokens.js";
 import { equal, finish, isTrue, test } from "../check.js";
 
 const FACTS = {
-    taken: "2026-08-14T10:20:30", created: "2025-01-02T03:04:05", changed: "2024-12-31T23:59:58", camera: "Canon EOS 40D", lens: "",
+    taken: "2026-08-14T10:20:30", created: "2025-01-02T03:04:05", changed: "2024-12-31T23:59:58",
+    camera: "Canon EOS 40D", lens: "",
     bytes: 2440000, size: "2.4 MB", width: 3024, height: 4032, type: "JPEG", isFolder: false,
 };
 const RULE = { undated: "folder", undatedName: "No date" };
@@ -24,8 +25,10 @@ const FOLDERS = [
     ["Photos/{type} of {taken:yyyy}", {}, ["Photos", "JPEG of 2026"]],
     ["/{type}", {}, ["JPEG"]], ["//{type}//x/", {}, ["JPEG", "x"]],
     ["{camera}", { camera: "A/B" }, ["A-B"]], ["{camera}", { camera: "/etc/passwd" }, ["-etc-passwd"]],
-    ["{camera}", { camera: ".." }, ["-"]], ["{camera}", { camera: "../../x" }, ["-..-x"]], ["{camera}/x", { camera: "..." }, ["-", "x"]],
-    ["{camera}", { camera: ".hidden" }, ["hidden"]], ["{camera}", { camera: "x. " }, ["x"]], ["{camera}", { camera: "a\nb\u0000c" }, ["a b c"]],
+    ["{camera}", { camera: ".." }, ["-"]], ["{camera}", { camera: "../../x" }, ["-..-x"]],
+    ["{camera}/x", { camera: "..." }, ["-", "x"]],
+    ["{camera}", { camera: ".hidden" }, ["hidden"]], ["{camera}", { camera: "x. " }, ["x"]],
+    ["{camera}", { camera: "a\nb\u0000c" }, ["a b c"]],
     ["{camera}", { camera: "" }, ["Unknown camera"]], ["{lens}", {}, ["Unknown lens"]],
     ["{camera}.{lens}", { camera: "." }, ["Unknown lens"]], ["a{camera}", { camera: "." }, ["a"]],
     ["{taken:yyyy/MM}", {}, ["2026-08"]], ["{taken:HH:mm}", {}, ["10-20"]],
@@ -74,7 +77,8 @@ test("neverGivesANameThatLeadsElsewhere", () => {
             value += signs[Math.floor(state / 65536) % signs.length];
         }
         for (const name of sorted("{camera}/x{lens}y/{camera}{lens}", { camera: value, lens: value }).folders) {
-            isTrue(name !== "" && name !== "." && name !== ".." && !/[/\u0000\\]/.test(name) && !name.startsWith(".") && name === name.trim(),
+            isTrue(name !== "" && name !== "." && name !== ".." && !/[/\u0000\\]/.test(name) && !name.startsWith(".")
+                   && name === name.trim(),
                    JSON.stringify([value, name]));
         }
     }
@@ -88,16 +92,20 @@ test("cutsLongValues", () => {
 });
 
 const PATTERN_PROBLEMS = [
-    ["{taken:yyyy}", 0], ["Photos of mine/{type}", 0], ["/absolute/{type}", 0], ["a//b", 0], ["{{x}", 0], ["{name:~a,b}", 0],
-    ["", 1], ["/", 1], ["//", 1], ["../{type}", 1], ["./{type}", 1], ["{type}/..", 1], ["{type}/ /x", 1], ["{foo}", 1], ["{type", 1],
+    ["{taken:yyyy}", 0], ["Photos of mine/{type}", 0], ["/absolute/{type}", 0], ["a//b", 0], ["{{x}", 0],
+    ["{name:~a,b}", 0],
+    ["", 1], ["/", 1], ["//", 1], ["../{type}", 1], ["./{type}", 1], ["{type}/..", 1], ["{type}/ /x", 1], ["{foo}", 1],
+    ["{type", 1],
     ["{taken:YYYY}", 1], ["a\u0001b", 1], [LONG, 1], ["{foo}/..", 2],
 ];
 for (const row of PATTERN_PROBLEMS) {
-    test("finds " + row[1] + " problems with the pattern “" + row[0].slice(0, 30) + "”", () => equal(patternProblems(row[0]).length, row[1]));
+    test("finds " + row[1] + " problems with the pattern “" + row[0].slice(0, 30) + "”",
+         () => equal(patternProblems(row[0]).length, row[1]));
 }
 
 for (const row of [["Undated", 0], [" No date ", 0], ["", 1], ["  ", 1], ["a/b", 1], ["..", 1], [".x", 1]]) {
-    test("finds " + row[1] + " problems with the folder name “" + row[0] + "”", () => equal(folderNameProblems(row[0]).length, row[1]));
+    test("finds " + row[1] + " problems with the folder name “" + row[0] + "”",
+         () => equal(folderNameProblems(row[0]).length, row[1]));
 }
 
 test("choosesLevelsAndReadsThemBack", () => {
@@ -114,7 +122,8 @@ test("choosesLevelsAndReadsThemBack", () => {
 });
 
 test("hasWordsForEveryMissingValue", () => {
-    for (const token of ["taken", "camera", "lens", "type", "orientation", "name", "extension", "size", "width", "anything"]) {
+    for (const token of ["taken", "camera", "lens", "type", "orientation", "name", "extension", "size", "width",
+                         "anything"]) {
         equal(safeName(standInFor(token)), standInFor(token));
         isTrue(standInFor(token).length > 0, token);
     }

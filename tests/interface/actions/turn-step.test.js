@@ -14,22 +14,30 @@ function run(picture, changes, stored, status) {
 }
 
 const ROADS = [
-    ["a turn", source("a.jpg", 400, 300), { angle: 90 }, [["hRotatePicture", "/p/a.jpg", "/s/", 90]], [300, 400], [300, 400]],
-    ["a flip", source("a.jpg", 400, 300), { angle: 0, flipHorizontal: true }, [["hFlipHorizontalPicture", "/p/a.jpg", "/s/"]], [400, 300], [400, 300]],
-    ["a flip down", source("a.png", 400, 300), { angle: 0, flipVertical: true }, [["hFlipVerticalPicture", "/p/a.png", "/s/"]], [400, 300], [400, 300]],
+    ["a turn", source("a.jpg", 400, 300), { angle: 90 }, [["hRotatePicture", "/p/a.jpg", "/s/", 90]], [300, 400],
+     [300, 400]],
+    ["a flip", source("a.jpg", 400, 300), { angle: 0, flipHorizontal: true },
+     [["hFlipHorizontalPicture", "/p/a.jpg", "/s/"]], [400, 300], [400, 300]],
+    ["a flip down", source("a.png", 400, 300), { angle: 0, flipVertical: true },
+     [["hFlipVerticalPicture", "/p/a.png", "/s/"]], [400, 300], [400, 300]],
     ["a flip and a turn, through the unfinished file", source("a.jpg", 400, 300), { angle: 90, flipHorizontal: true },
-     [["hFlipHorizontalPicture", "/p/a.jpg", "/s/"], ["hRotatePicture", "/s/a.jpg", "/s/", 90]], [300, 400], [300, 400]],
+     [["hFlipHorizontalPicture", "/p/a.jpg", "/s/"], ["hRotatePicture", "/s/a.jpg", "/s/", 90]], [300, 400],
+     [300, 400]],
     // Upright 300 x 400, stored 400 x 300 with the tag: across in the upright picture is down in the stored one.
-    ["a flip of a turned JPEG", source("a.jpg", 300, 400, 6), { angle: 0, flipHorizontal: true }, [["hFlipVerticalPicture", "/p/a.jpg", "/s/"]], [400, 300], [300, 400]],
-    ["a turn of a turned PNG, whose tag is lost", source("a.png", 300, 400, 6), { angle: 90 }, [["hRotatePicture", "/p/a.png", "/s/", 0]], [400, 300], [400, 300]],
-    ["any angle", source("a.png", 100, 100), { angle: 45 }, [["hRotatePicture", "/p/a.png", "/s/", 45]], [141, 141], [141, 141]],
+    ["a flip of a turned JPEG", source("a.jpg", 300, 400, 6), { angle: 0, flipHorizontal: true },
+     [["hFlipVerticalPicture", "/p/a.jpg", "/s/"]], [400, 300], [300, 400]],
+    ["a turn of a turned PNG, whose tag is lost", source("a.png", 300, 400, 6), { angle: 90 },
+     [["hRotatePicture", "/p/a.png", "/s/", 0]], [400, 300], [400, 300]],
+    ["any angle", source("a.png", 100, 100), { angle: 45 }, [["hRotatePicture", "/p/a.png", "/s/", 45]], [141, 141],
+     [141, 141]],
 ];
 
 for (const row of ROADS) {
     test("asks for " + row[0], () => {
         const done = run(row[1], row[2], { width: row[4][0], height: row[4][1] });
         equal(done.calls, row[3]);
-        equal([done.result.status, done.result.reason, done.result.width, done.result.height], ["OK", "", row[5][0], row[5][1]]);
+        equal([done.result.status, done.result.reason, done.result.width, done.result.height],
+              ["OK", "", row[5][0], row[5][1]]);
     });
 }
 
@@ -46,7 +54,8 @@ test("saysWithoutLossOnlyWhereThatIsCertain", () => {
     const services = fakeServices({});
     const said = (picture) => turn.plan(picture, settingsOf(turn), services).notes.length;
     services.files.block = { width: 16, height: 8 };
-    equal([said(source("a.jpg", 4000, 3000)), said(source("a.jpg", 4000, 3001)), said(source("a.png", 4000, 3000))], [1, 0, 0]);
+    equal([said(source("a.jpg", 4000, 3000)), said(source("a.jpg", 4000, 3001)), said(source("a.png", 4000, 3000))],
+          [1, 0, 0]);
     // Stored as 4008 x 3000 and shown standing: 4008 is no multiple of 16, but 3000 is one of 8.
     equal([said(source("a.jpg", 3000, 4008, 6)), said(source("a.jpg", 3000, 4000, 6))], [0, 1]);
     services.files.block = null;
@@ -63,13 +72,15 @@ const VALID = [[{ angle: 90 }, 0], [{ angle: 0 }, 1], [{ angle: 0, flipVertical:
                [{ angle: 180, flipVertical: true, flipHorizontal: true }, 1]];
 
 for (const row of VALID) {
-    test("validates " + JSON.stringify(row[0]), () => { equal(turn.validate(settingsOf(turn, row[0])).length, row[1]); });
+    test("validates " + JSON.stringify(row[0]),
+         () => { equal(turn.validate(settingsOf(turn, row[0])).length, row[1]); });
 }
 
 test("showsFlipsFirstAndThenTheTurn", () => {
     const settings = settingsOf(turn, { angle: -7.5, flipHorizontal: true });
     const picture = source("a.png", 100, 100, 6);
-    equal(turn.preview(picture, settings, turn.plan(picture, settings, fakeServices({}))).deeds, [{ do: "flip", axis: "horizontal" }, { do: "turn", degrees: -7.5 }]);
+    equal(turn.preview(picture, settings, turn.plan(picture, settings, fakeServices({}))).deeds,
+          [{ do: "flip", axis: "horizontal" }, { do: "turn", degrees: -7.5 }]);
 });
 
 finish();

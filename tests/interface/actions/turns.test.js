@@ -1,4 +1,5 @@
-import { forStored, inverse, isNothing, operations, shortestTurn, then, turnedSize, upright, wanted } from "../../../interface/actions/turn/turns.js";
+import { forStored, inverse, isNothing, operations, shortestTurn, then, turnedSize, upright,
+         wanted } from "../../../interface/actions/turn/turns.js";
 import { equal, finish, isTrue, test } from "../check.js";
 
 // A picture of 3 x 2 letters, and the operations done to it letter by letter, so that nothing is taken from what is tested.
@@ -66,16 +67,20 @@ for (let orientation = 1; orientation <= 8; orientation += 1) {
         test("needs one flip and one turn at most: " + name, () => {
             for (const keeps of [true, false]) {
                 const steps = operations(forStored(wanted(deed), orientation, keeps));
-                isTrue(steps.length === 1 || (steps.length === 2 && steps[0].flip !== undefined && steps[1].turn !== undefined));
+                isTrue(steps.length === 1
+                       || (steps.length === 2 && steps[0].flip !== undefined && steps[1].turn !== undefined));
             }
         });
     }
 }
 
 test("turnsTheOtherWayInAMirroredPicture", () => {
-    equal(operations(forStored(wanted({ flipHorizontal: false, flipVertical: false, angle: 7.3 }), 2, true)), [{ turn: -7.3 }]);
-    equal(operations(forStored(wanted({ flipHorizontal: false, flipVertical: false, angle: 7.3 }), 6, true)), [{ turn: 7.3 }]);
-    equal(operations(forStored(wanted({ flipHorizontal: false, flipVertical: false, angle: 7.3 }), 6, false)), [{ turn: -82.7 }]);
+    equal(operations(forStored(wanted({ flipHorizontal: false, flipVertical: false, angle: 7.3 }), 2, true)),
+          [{ turn: -7.3 }]);
+    equal(operations(forStored(wanted({ flipHorizontal: false, flipVertical: false, angle: 7.3 }), 6, true)),
+          [{ turn: 7.3 }]);
+    equal(operations(forStored(wanted({ flipHorizontal: false, flipVertical: false, angle: 7.3 }), 6, false)),
+          [{ turn: -82.7 }]);
 });
 
 test("twoFlipsAreHalfATurn", () => {
@@ -88,13 +93,15 @@ test("anElementAndItsInverseAreNothing", () => {
     }
 });
 
-const ANGLES = [[0, 0], [90, 90], [-90, -90], [270, -90], [180, 180], [-180, 180], [360, 0], [450, 90], [-7.5, -7.5], [352.5, -7.5], [180.1, -179.9]];
+const ANGLES = [[0, 0], [90, 90], [-90, -90], [270, -90], [180, 180], [-180, 180], [360, 0], [450, 90], [-7.5, -7.5],
+                [352.5, -7.5], [180.1, -179.9]];
 
 for (const row of ANGLES) {
     test("the shortest way to " + row[0] + " degrees", () => { equal(shortestTurn(row[0]), row[1]); });
 }
 
-const SIZES = [[4000, 3000, 90, 3000, 4000], [4000, 3000, 0, 4000, 3000], [4000, 3000, 180, 4000, 3000], [100, 100, 45, 141, 141], [200, 100, 30, 223, 186]];
+const SIZES = [[4000, 3000, 90, 3000, 4000], [4000, 3000, 0, 4000, 3000], [4000, 3000, 180, 4000, 3000],
+               [100, 100, 45, 141, 141], [200, 100, 30, 223, 186]];
 
 for (const row of SIZES) {
     test("the canvas of " + row[0] + "x" + row[1] + " turned by " + row[2], () => {

@@ -12,15 +12,18 @@ test("leavesPixelsAlone", () => {
 
 test("changesOnlyTheNamedLengths", () => {
     const settings = { unit: "cm", width: 2.5, height: 2.5, percent: 7 };
-    equal(inPixels(picture, settings, ["width"], fakeServices({})), { unit: "cm", width: 250, height: 2.5, percent: 7 });
+    equal(inPixels(picture, settings, ["width"], fakeServices({})),
+          { unit: "cm", width: 250, height: 2.5, percent: 7 });
     equal(settings.width, 2.5);
 });
 
-const LENGTHS = [[300, "pixel", "inch", 300, 1], [1, "inch", "cm", 300, 2.54], [25.4, "mm", "pixel", 300, 300], [72, "punt", "inch", 72, 1],
+const LENGTHS = [[300, "pixel", "inch", 300, 1], [1, "inch", "cm", 300, 2.54], [25.4, "mm", "pixel", 300, 300],
+                 [72, "punt", "inch", 72, 1],
                  [1600, "pixel", "mm", 300, 135.5], [135.5, "mm", "pixel", 300, 1600], [10, "cm", "cm", 300, 10]];
 
 for (const row of LENGTHS) {
-    test("shows " + row[0] + " " + row[1] + " in " + row[2], () => { equal(converted(row[0], row[1], row[2], row[3]), row[4]); });
+    test("shows " + row[0] + " " + row[1] + " in " + row[2],
+         () => { equal(converted(row[0], row[1], row[2], row[3]), row[4]); });
 }
 
 test("aTypedLengthComesBackWithItsUnit", () => {
@@ -33,7 +36,8 @@ test("aTypedLengthComesBackWithItsUnit", () => {
 test("aLengthThatWasChangedIsTheNewOne", () => {
     const lengths = new UnitMemory();
     lengths.inUnit("width", 1600, "pixel", "cm", 72);
-    equal([lengths.inUnit("width", 50, "cm", "pixel", 72), lengths.inUnit("width", 1417, "pixel", "cm", 72)], [1417, 50]);
+    equal([lengths.inUnit("width", 50, "cm", "pixel", 72), lengths.inUnit("width", 1417, "pixel", "cm", 72)],
+          [1417, 50]);
 });
 
 test("everyUnitHasItsDecimals", () => {
@@ -43,7 +47,8 @@ test("everyUnitHasItsDecimals", () => {
 test("resizesToALengthAtThePicturesOwnResolution", () => {
     const services = fakeServices({ "/s/a.jpg": { width: 1200, height: 900 } });
     const result = resize.run(picture, settingsOf(resize, { mode: "width", unit: "mm", width: 120 }), services);
-    equal([services.image.calls, result.status], [[["resizeImage", "/p/a.jpg", 1200, 0, "/s/", "original file type", "8"]], "OK"]);
+    equal([services.image.calls, result.status],
+          [[["resizeImage", "/p/a.jpg", 1200, 0, "/s/", "original file type", "8"]], "OK"]);
 });
 
 const REFUSED = [["no pixel would be left", 0.05], ["it would be too large", 50000]];

@@ -3,7 +3,8 @@ import { equal, finish, test } from "../check.js";
 
 const PATHS = [
     ["/a/b.jpg", "/a", "b.jpg", "b", "jpg"], ["/b.tar.gz", "/", "b.tar.gz", "b.tar", "gz"],
-    ["/a/.hidden", "/a", ".hidden", ".hidden", ""], ["/a/dot.", "/a", "dot.", "dot.", ""], ["/a/plain", "/a", "plain", "plain", ""],
+    ["/a/.hidden", "/a", ".hidden", ".hidden", ""], ["/a/dot.", "/a", "dot.", "dot.", ""],
+    ["/a/plain", "/a", "plain", "plain", ""],
 ];
 
 for (const row of PATHS) {
@@ -15,7 +16,8 @@ for (const row of PATHS) {
 }
 
 test("numbersBeforeTheExtension", () => {
-    equal([numberedName("a.jpg", 2), numberedName("a", 3), numberedName("a.b.jpg", 10)], ["a (2).jpg", "a (3)", "a.b (10).jpg"]);
+    equal([numberedName("a.jpg", 2), numberedName("a", 3), numberedName("a.b.jpg", 10)],
+          ["a (2).jpg", "a (3)", "a.b (10).jpg"]);
 });
 
 // Names of 255 bytes, the longest there are, of characters of one to four bytes.

@@ -21,7 +21,8 @@ const ROWS = [
 ];
 
 for (const row of ROWS) {
-    test("finds what belongs to " + row[1] + " among " + row[0].join(" "), () => equal(sidecarsAmong(row[0]).of(row[1]), row[2]));
+    test("finds what belongs to " + row[1] + " among " + row[0].join(" "),
+         () => equal(sidecarsAmong(row[0]).of(row[1]), row[2]));
 }
 
 test("givesASidecarToOnePictureOnly", () => {

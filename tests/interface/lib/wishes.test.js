@@ -10,7 +10,8 @@ function makeDefaults(text) {
 
 const USUAL = { ifTaken: "number", logRows: 100000 };
 
-for (const text of [undefined, "", "no JSON", "[]", "{\"ifTaken\":\"burn\",\"logRows\":-5}", "{\"ifTaken\":7,\"logRows\":\"x\"}"]) {
+for (const text of [undefined, "", "no JSON", "[]", "{\"ifTaken\":\"burn\",\"logRows\":-5}",
+                    "{\"ifTaken\":7,\"logRows\":\"x\"}"]) {
     test("isAsUsualFor " + text, () => equal(wishes(makeDefaults(text)), USUAL));
 }
 
@@ -22,7 +23,8 @@ test("keepsOneWishAndLeavesTheOther", () => {
 
 test("startsAnActionAsWished", () => {
     const standard = { a: 1, output: { ifTaken: "number", type: "x" } };
-    equal(firstSettings(makeDefaults("{\"ifTaken\":\"ask\"}"), standard), { a: 1, output: { ifTaken: "ask", type: "x" } });
+    equal(firstSettings(makeDefaults("{\"ifTaken\":\"ask\"}"), standard),
+          { a: 1, output: { ifTaken: "ask", type: "x" } });
     equal(standard.output.ifTaken, "number");
     equal(firstSettings(makeDefaults("{\"ifTaken\":\"ask\"}"), { a: 1 }), { a: 1 });
 });

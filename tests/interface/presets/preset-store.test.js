@@ -66,19 +66,22 @@ class FakeDb {
     }
 
     fails(table, value) {
-        return !this.file.exists || this.file.unreadable || value.indexOf("'") >= 0 || (table === "Presets" && this.file.withoutTable);
+        return !this.file.exists || this.file.unreadable || value.indexOf("'") >= 0
+            || (table === "Presets" && this.file.withoutTable);
     }
 
     checkForActionType(table, column, value) {
         if (this.fails(table, value)) {
             return null;
         }
-        this.myPresetsArray = table === "Presets" ? this.file.matching(column, value).map((row) => row.fields.join("|")) : ["appSys"];
+        this.myPresetsArray = table === "Presets"
+            ? this.file.matching(column, value).map((row) => row.fields.join("|")) : ["appSys"];
         return this.myPresetsArray.length > 0 ? this.myPresetsArray : null;
     }
 
     hGetBookMarkedFolders(table, columnA, valueA, columnB, valueB) {
-        const found = this.fails(table, valueA) ? [] : this.file.matching(columnA, valueA).filter((row) => row.fields[COLUMNS[columnB]] === valueB);
+        const found = this.fails(table, valueA)
+            ? [] : this.file.matching(columnA, valueA).filter((row) => row.fields[COLUMNS[columnB]] === valueB);
         return found.length > 0 ? asData(found[found.length - 1].id) : null;
     }
 
@@ -144,7 +147,8 @@ test("listsWhatWasSaved", () => {
     equal(store.save("resize", "Größe 🙂", changed("resize", { longest: 77 })), "");
     equal(store.save("crop", "Other", changed("crop", {})), "");
     const [preset] = store.list("resize");
-    equal([preset.name, preset.settings.longest, preset.fields.length, store.list("resize").length], ["Größe 🙂", 77, 62, 1]);
+    equal([preset.name, preset.settings.longest, preset.fields.length, store.list("resize").length],
+          ["Größe 🙂", 77, 62, 1]);
     equal(store.names().sort(), ["Größe 🙂", "Other"]);
 });
 
@@ -180,7 +184,8 @@ test("bringsInThousandsOfOneName", () => {
     const { file, store } = make({});
     store.list("turn");
     // Looking for a name in the database costs what it costs there, and is nothing of this test.
-    file.matching = (column, value) => column === "NameOfPreset" ? [] : file.rows.filter((row) => row.fields[COLUMNS[column]] === value);
+    file.matching = (column, value) => column === "NameOfPreset"
+        ? [] : file.rows.filter((row) => row.fields[COLUMNS[column]] === value);
     const start = Date.now();
     const done = store.bringIn(Array(3000).fill(rowOf(KINDS.turn.form, "Web", changed("turn", {}))));
     equal([done.names.length, done.names[0], done.names[2999], done.problem], [3000, "Web", "Web 3000", ""]);
@@ -268,16 +273,20 @@ test("bringsRowsInUnderFreeNames", () => {
     store.list("resize");
     file.add(["Web 2", "Sorting", "ByHand"].concat(Array(59).fill("Loc")));
     store.save("resize", "Web", changed("resize", {}));
-    const rows = [rowOf(KINDS.crop.form, "Web", changed("crop", {})), rowOf(KINDS.turn.form, "Free", changed("turn", {}))];
+    const rows = [rowOf(KINDS.crop.form, "Web", changed("crop", {})),
+                  rowOf(KINDS.turn.form, "Free", changed("turn", {}))];
     equal(store.bringIn(rows), { names: ["Web 3", "Free"], renamed: 1, problem: "" });
     equal(file.rows.map((row) => row.fields[0]), ["Web 2", "Web", "Web 3", "Free"]);
 });
 
 test("saysWhyPresetsCannotBeRead", () => {
     const cases = [
-        [{ sealed: true }, /cannot be made/], [{ exists: true, unreadable: true }, /in use by another program, or damaged/],
-        [{ exists: true, unreadable: true, text: "Dear diary" }, /damaged/], [{ exists: true, unreadable: true, text: null }, /cannot be read/],
-        [{ exists: true, withoutTable: true }, /no place for presets/], [{ exists: true, withoutTable: true, text: "" }, /no place for presets/],
+        [{ sealed: true }, /cannot be made/],
+        [{ exists: true, unreadable: true }, /in use by another program, or damaged/],
+        [{ exists: true, unreadable: true, text: "Dear diary" }, /damaged/],
+        [{ exists: true, unreadable: true, text: null }, /cannot be read/],
+        [{ exists: true, withoutTable: true }, /no place for presets/],
+        [{ exists: true, withoutTable: true, text: "" }, /no place for presets/],
     ];
     for (const [state, words] of cases) {
         const { store } = make(state);
@@ -291,10 +300,12 @@ test("saysWhyAPresetCannotBeWrittenAndKeepsTheOldOne", () => {
     store.list("resize");
     store.save("resize", "Web", changed("resize", { longest: 1 }));
     file.sealed = true;
-    for (const [writable, words] of [[false, /read-only; nothing was changed/], [true, /in use by another program, or the disk is full/]]) {
+    for (const [writable, words] of [[false, /read-only; nothing was changed/],
+                                     [true, /in use by another program, or the disk is full/]]) {
         file.writable = writable;
         const problems = [store.save("resize", "Web", changed("resize", { longest: 2 })), store.remove("resize", "Web"),
-                          store.rename(store.list("resize")[0], "New"), store.bringIn([rowOf(KINDS.turn.form, "t", changed("turn", {}))]).problem];
+                          store.rename(store.list("resize")[0], "New"),
+                          store.bringIn([rowOf(KINDS.turn.form, "t", changed("turn", {}))]).problem];
         problems.forEach((problem) => isTrue(words.test(problem), problem));
     }
     equal([file.rows.length, store.list("resize")[0].settings.longest], [1, 1]);
@@ -315,7 +326,8 @@ for (const action of STARTED) {
 }
 
 test("givesEveryStartingPresetANameOfItsOwn", () => {
-    const names = STARTED.reduce((all, action) => all.concat(startingPresets(KINDS[action], "").map((entry) => entry[0])), []);
+    const names = STARTED
+        .reduce((all, action) => all.concat(startingPresets(KINDS[action], "").map((entry) => entry[0])), []);
     isTrue(names.length > 30);
     equal(names.filter((name, i) => names.indexOf(name) !== i), []);
 });
@@ -328,7 +340,8 @@ test("writesStartingPresetsOnce", () => {
     const written = file.rows.length;
     store.remove("background", "Black band");
     writeStartingPresets("background", "/p", store, defaults);
-    equal([written - file.rows.length, store.list("background").some((preset) => preset.name === "Black band")], [1, false]);
+    equal([written - file.rows.length, store.list("background").some((preset) => preset.name === "Black band")],
+          [1, false]);
 });
 
 test("writesStartingPresetsLaterWhereTheyCannotBeWrittenNow", () => {

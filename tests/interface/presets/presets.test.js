@@ -1,6 +1,7 @@
 import { copyOf } from "../../../interface/lib/copies.js";
 import { VERSION } from "../../../interface/presets/preset-forms.js";
-import { decoded, encoded, fileText, freeName, nameProblem, presetOf, rowOf, rowsOfFile, storedName } from "../../../interface/presets/presets.js";
+import { decoded, encoded, fileText, freeName, nameProblem, presetOf, rowOf, rowsOfFile,
+         storedName } from "../../../interface/presets/presets.js";
 import { KINDS as STEP_KINDS, newStep } from "../../../interface/actions/rename/name-steps.js";
 import { defaults as rename } from "../../../interface/actions/rename/rename-step.js";
 import { defaults as resize } from "../../../interface/actions/resize/resize-step.js";
@@ -18,7 +19,8 @@ Object.keys(KINDS).forEach((name) => {
     STANDARD[name] = KINDS[name].standard;
 });
 const TEXTS = [
-    "", " ", "plain", "it's", "a|b", "100 %", "%27", "%u0041", "%", "%%", "Größe – “x”", "日本語", "🙂🏔️", "e\u0301", "\ud83d", "\ude42x", "a\nb\tc\r",
+    "", " ", "plain", "it's", "a|b", "100 %", "%27", "%u0041", "%", "%%", "Größe – “x”", "日本語", "🙂🏔️", "e\u0301",
+    "\ud83d", "\ude42x", "a\nb\tc\r",
     "\u0000", "\u007f", "\u2028", "\\'\"`", "0050", "1e3", "'; DROP TABLE Presets; --",
 ];
 
@@ -26,7 +28,8 @@ function leaves(value, path) {
     if (value === null || typeof value !== "object") {
         return [path];
     }
-    return Object.keys(value).reduce((all, key) => all.concat(leaves(value[key], path === "" ? key : path + "." + key)), []);
+    return Object.keys(value)
+        .reduce((all, key) => all.concat(leaves(value[key], path === "" ? key : path + "." + key)), []);
 }
 
 function readBack(action, settings) {
@@ -37,7 +40,8 @@ for (const action of ACTIONS) {
     const form = FORMS[action];
 
     test("keepsEverySettingOf " + action, () => {
-        const mapped = Object.keys(form.columns).map((column) => form.columns[column][0]).concat(form.mode === "" ? [] : [form.mode]);
+        const mapped = Object.keys(form.columns).map((column) => form.columns[column][0])
+            .concat(form.mode === "" ? [] : [form.mode]);
         equal(mapped.sort(), leaves(STANDARD[action], "").sort());
     });
 
@@ -52,7 +56,8 @@ for (const action of ACTIONS) {
 
     test("comesBackAsItWas " + action, () => {
         const preset = readBack(action, STANDARD[action]);
-        equal([preset.name, preset.process, preset.action, preset.state, preset.note], ["n", form.process, action, "ready", ""]);
+        equal([preset.name, preset.process, preset.action, preset.state, preset.note],
+              ["n", form.process, action, "ready", ""]);
         equal(preset.settings, STANDARD[action]);
     });
 
@@ -81,7 +86,8 @@ function chain(steps) {
 }
 
 test("keepsAChainOfSteps", () => {
-    const settings = chain(STEP_KINDS.map((kind) => newStep(kind, { on: kind !== "case" })).concat(TEXTS.map((text) => newStep("around", { before: text })).slice(0, 17)));
+    const settings = chain(STEP_KINDS.map((kind) => newStep(kind, { on: kind !== "case" }))
+                               .concat(TEXTS.map((text) => newStep("around", { before: text })).slice(0, 17)));
     equal(settings.steps.length, 30);
     const row = rowOf(FORMS.rename, "n", settings);
     isTrue(row.length === 62 && row.every((value) => !/['|\u0000-\u001f]/.test(value)));
@@ -96,7 +102,8 @@ test("keepsOddTextsInAStep", () => {
 });
 
 test("takesNoStepThatItDoesNotKnow", () => {
-    for (const text of ["{}", "nothing", "{\"kind\":\"later\",\"on\":true}", "{\"kind\":\"case\",\"mode\":\"9\"}", "[", "null", "%27"]) {
+    for (const text of ["{}", "nothing", "{\"kind\":\"later\",\"on\":true}", "{\"kind\":\"case\",\"mode\":\"9\"}", "[",
+                        "null", "%27"]) {
         const row = rowOf(FORMS.rename, "n", chain([newStep("case")]));
         row[12] = text;
         equal(presetOf(row, KINDS).state, "damaged", text);
@@ -133,7 +140,8 @@ test("refusesSettingsWithoutAForm", () => {
 test("leavesOthersPresetsAlone", () => {
     const sample = ["myPresetName", "Sorting", "ByHand"].concat(Array(59).fill("").map((none, i) => "Loc" + (i + 1)));
     const preset = presetOf(sample.join("|"), KINDS);
-    equal([preset.name, preset.process, preset.action, preset.state, preset.settings], ["myPresetName", "Sorting", "hand", "unknown", null]);
+    equal([preset.name, preset.process, preset.action, preset.state, preset.settings],
+          ["myPresetName", "Sorting", "hand", "unknown", null]);
     isTrue(preset.note.length > 0);
     const row = rowOf(FORMS.resize, "n", resize);
     for (const mark of ["", "Quorlin", "Quorlin 0", "Quorlin 01", "Quorlin x", "quorlin 1", "Quorlin 1 ", "Other 1"]) {
@@ -157,9 +165,12 @@ test("takesARowOfAnotherLengthForUnknown", () => {
 });
 
 test("saysWhenAPresetIsDamaged", () => {
-    const damages = [["StrField11", "12px"], ["StrField11", "0x10"], ["StrField11", "1e999"], ["StrField11", " 5"], ["StrField22", "2"],
-                     ["StrField22", "true"], ["StrField4", "%zz"], ["StrField4", "it's"], ["StrField4", "%41"], ["StrField4", "public.heic"],
-                     ["StrField5", "11"], ["StrField6", ""], ["StrField9", "overwrite"], ["StrField17", "tile"], ["StrField18", "mile"]];
+    const damages = [["StrField11", "12px"], ["StrField11", "0x10"], ["StrField11", "1e999"], ["StrField11", " 5"],
+                     ["StrField22", "2"],
+                     ["StrField22", "true"], ["StrField4", "%zz"], ["StrField4", "it's"], ["StrField4", "%41"],
+                     ["StrField4", "public.heic"],
+                     ["StrField5", "11"], ["StrField6", ""], ["StrField9", "overwrite"], ["StrField17", "tile"],
+                     ["StrField18", "mile"]];
     for (const [column, value] of damages) {
         const row = rowOf(FORMS.resize, "n", resize);
         row[Number(column.slice(8))] = value;
@@ -170,7 +181,8 @@ test("saysWhenAPresetIsDamaged", () => {
 });
 
 test("takesOnlyWordsThatASettingCanHave", () => {
-    for (const [action, place, value] of [["resize", 2, "depth"], ["crop", 2, "x"], ["crop", 18, "7:1"], ["crop", 22, "9"], ["round", 2, "star"],
+    for (const [action, place, value] of [["resize", 2, "depth"], ["crop", 2, "x"], ["crop", 18, "7:1"],
+                                          ["crop", 22, "9"], ["round", 2, "star"],
                                           ["round", 12, "red"], ["background", 2, "fur"], ["background", 13, "gold"],
                                           ["background", 14, "#12345"], ["convert", 2, "jpg"], ["convert", 11, "10"]]) {
         const row = rowOf(FORMS[action], "n", STANDARD[action]);
@@ -189,11 +201,14 @@ test("writesTextsThatAreReadBack", () => {
 
 test("saysWhatANameCannotBe", () => {
     const names = ["Web", "Größe"];
-    for (const good of ["a", "Web 1600", "100 %", "Anna\u2019s", "日本語 🙂", "Print 10 x 15 cm", "%41", "\"x\"", "; --", "x".repeat(100)]) {
+    for (const good of ["a", "Web 1600", "100 %", "Anna\u2019s", "日本語 🙂", "Print 10 x 15 cm", "%41", "\"x\"", "; --",
+                        "x".repeat(100)]) {
         equal(nameProblem(good, names), "", good);
     }
-    const problems = [["", /Enter/], ["  \t", /Enter/], ["it's", /apostrophe/], ["a|b", /bar/], ["a\nb", /line breaks/], ["a\u0000", /control/],
-                      ["a\u007f", /control/], ["a\ud83d", /control/], ["x".repeat(101), /100/], ["Web", /named Web already/],
+    const problems = [["", /Enter/], ["  \t", /Enter/], ["it's", /apostrophe/], ["a|b", /bar/], ["a\nb", /line breaks/],
+                      ["a\u0000", /control/],
+                      ["a\u007f", /control/], ["a\ud83d", /control/], ["x".repeat(101), /100/],
+                      ["Web", /named Web already/],
                       [" wEB ", /named Web already/], ["Gro\u0308ße", /named Größe already/]];
     for (const [name, words] of problems) {
         isTrue(words.test(nameProblem(name, names)), JSON.stringify(name));
@@ -201,7 +216,8 @@ test("saysWhatANameCannotBe", () => {
 });
 
 test("findsAFreeName", () => {
-    equal([freeName(" Web ", []), freeName("Web", ["web"]), freeName("Web", ["Web", "WEB 2", "Web 3"]), storedName("e\u0301 ")],
+    equal([freeName(" Web ", []), freeName("Web", ["web"]), freeName("Web", ["Web", "WEB 2", "Web 3"]),
+           storedName("e\u0301 ")],
           ["Web", "Web 2", "Web 4", "é"]);
 });
 
@@ -213,7 +229,8 @@ test("exportsAndImportsRowsAsTheyStand", () => {
 
 test("takesFromAFileOnlyWhatARowCanBe", () => {
     const good = rowOf(FORMS.resize, "a", resize);
-    const bad = [good.slice(1), good.concat(["x"]), ["it's"].concat(good.slice(1)), [""].concat(good.slice(1)), good.slice(0, 61).concat(["a|b"]),
+    const bad = [good.slice(1), good.concat(["x"]), ["it's"].concat(good.slice(1)), [""].concat(good.slice(1)),
+                 good.slice(0, 61).concat(["a|b"]),
                  good.slice(0, 61).concat([3]), null, "text", {}];
     const read = rowsOfFile(JSON.stringify({ format: "Quorlin presets", version: 1, presets: bad.concat([good]) }));
     equal(read.rows, [good]);

@@ -1,5 +1,6 @@
 import {
-    commentExample, commentMaker, commentProblem, commentsOf, editRow, editsOf, editWords, pagesAtStake, reverting, writeComment, writing,
+    commentExample, commentMaker, commentProblem, commentsOf, editRow, editsOf, editWords, pagesAtStake, reverting,
+        writeComment, writing,
 } from "../../../interface/runs/comment-run.js";
 import { fill } from "../../../interface/lib/wording.js";
 import { drain, equal, finish, isTrue, test } from "../check.js";
@@ -33,13 +34,16 @@ function service(texts) {
 
 test("writesAndSaysWhatWasThere", () => {
     const comments = service({ "/p/a.jpg": "old" });
-    equal(writeComment(comments, "/p/a.jpg", "new"), { path: "/p/a.jpg", status: "OK", before: "old", after: "new", reason: "" });
-    equal(writeComment(comments, "/p/a.jpg", "  "), { path: "/p/a.jpg", status: "OK", before: "new", after: "  ", reason: "" });
+    equal(writeComment(comments, "/p/a.jpg", "new"),
+          { path: "/p/a.jpg", status: "OK", before: "old", after: "new", reason: "" });
+    equal(writeComment(comments, "/p/a.jpg", "  "),
+          { path: "/p/a.jpg", status: "OK", before: "new", after: "  ", reason: "" });
 });
 
 test("aCommentThatCannotBeReadIsNotOverwritten", () => {
     const comments = service({ "/p/secret.jpg": "old" });
-    equal(writeComment(comments, "/p/secret.jpg", "new"), { path: "/p/secret.jpg", status: "Failed", reason: "Cannot read /p/secret.jpg", before: "", after: "" });
+    equal(writeComment(comments, "/p/secret.jpg", "new"),
+          { path: "/p/secret.jpg", status: "Failed", reason: "Cannot read /p/secret.jpg", before: "", after: "" });
     const back = drain(reverting(comments, [{ path: "/p/secret.jpg", before: "", after: "new", run: "r1" }])).values[0];
     equal([back.status, back.reason, comments.texts["/p/secret.jpg"]], ["Failed", "Cannot read /p/secret.jpg", "old"]);
 });
@@ -55,7 +59,8 @@ test("leavesFilesWithSeveralPagesOutUnlessAskedFor", () => {
     equal(left.map((each) => [each.status, each.pages]), [["Skipped", undefined], ["OK", undefined]]);
     isTrue(left[0].reason.indexOf("2 further pages") >= 0, left[0].reason);
     equal(comments.texts["/p/pages.tif"], "old");
-    const back = drain(reverting(comments, [{ path: "/p/pages.tif", before: "older", after: "old", run: "r1" }])).values[0];
+    const back = drain(reverting(comments,
+                                 [{ path: "/p/pages.tif", before: "older", after: "old", run: "r1" }])).values[0];
     equal([back.status, comments.texts["/p/pages.tif"]], ["Skipped", "old"]);
     const done = drain(writing(comments, ["/p/pages.tif"], () => "new", true)).values[0];
     equal([done.status, done.pages, comments.texts["/p/pages.tif"]], ["OK", 2, "new"]);
@@ -64,12 +69,15 @@ test("leavesFilesWithSeveralPagesOutUnlessAskedFor", () => {
 
 test("countsThePagesAtStake", () => {
     const comments = { pagesLost: (path) => (path.indexOf("t") >= 0 ? path.length : 0) };
-    equal(pagesAtStake(comments, ["/a/x.jpg", "/a/t.tif", "/a/tt.tif"]), { files: 2, pages: 17, words: "t.tif (8), tt.tif (9)" });
-    equal(pagesAtStake(comments, Array.from({ length: 7 }, (each, index) => "/a/" + index + "t")).words, "0t (5), 1t (5), 2t (5), 3t (5), 4t (5), 2 more files");
+    equal(pagesAtStake(comments, ["/a/x.jpg", "/a/t.tif", "/a/tt.tif"]),
+          { files: 2, pages: 17, words: "t.tif (8), tt.tif (9)" });
+    equal(pagesAtStake(comments, Array.from({ length: 7 }, (each, index) => "/a/" + index + "t")).words,
+          "0t (5), 1t (5), 2t (5), 3t (5), 4t (5), 2 more files");
     equal(pagesAtStake(comments, ["/a/x.jpg"]), { files: 0, pages: 0, words: "" });
 });
 
-const UNABLE = [["/p/locked.gif", "write-protected"], ["/p/text.jpg", "not a picture"], ["/p/lying.jpg", "does not say"]];
+const UNABLE = [["/p/locked.gif", "write-protected"], ["/p/text.jpg", "not a picture"],
+                ["/p/lying.jpg", "does not say"]];
 for (const row of UNABLE) {
     test("says why " + row[0] + " did not take it", () => {
         const texts = {};
@@ -80,7 +88,8 @@ for (const row of UNABLE) {
     });
 }
 
-const FACTS = { taken: "2026-08-14T10:20:30", created: "", changed: "2025-01-02T00:00:00", camera: "", lens: "", type: "", bytes: 1, size: "1 byte", width: 1, height: 1 };
+const FACTS = { taken: "2026-08-14T10:20:30", created: "", changed: "2025-01-02T00:00:00", camera: "", lens: "",
+                type: "", bytes: 1, size: "1 byte", width: 1, height: 1 };
 
 test("putsTokensIntoComments", () => {
     const comment = commentMaker("{name}, {date:yyyy}, {counter:01}", { facts: () => FACTS });
@@ -101,17 +110,21 @@ test("givesAnExampleOfAPictureOrOfAMadeUpOne", () => {
 
 test("writesAllAndRevertsThemFromTheLastOn", () => {
     const comments = service({ "/p/a.jpg": "one", "/p/b.jpg": "two", "/p/locked.jpg": "three" });
-    const results = drain(writing(comments, ["/p/a.jpg", "/p/text.jpg", "/p/b.jpg", "/p/locked.jpg"], () => "new", false)).values;
+    const results = drain(writing(comments, ["/p/a.jpg", "/p/text.jpg", "/p/b.jpg", "/p/locked.jpg"], () => "new",
+                                  false)).values;
     equal(results.map((each) => each.status), ["OK", "Failed", "OK", "Failed"]);
     const back = drain(reverting(comments, editsOf(results, "r1"))).values;
-    equal(back.map((each) => [each.path, each.status, each.undoes]), [["/p/b.jpg", "OK", "r1"], ["/p/a.jpg", "OK", "r1"]]);
+    equal(back.map((each) => [each.path, each.status, each.undoes]),
+          [["/p/b.jpg", "OK", "r1"], ["/p/a.jpg", "OK", "r1"]]);
     equal(comments.texts, { "/p/a.jpg": "one", "/p/b.jpg": "two", "/p/locked.jpg": "three" });
 });
 
 // What stands in the file when an edit from "one" to "new" is reverted, and what becomes of it.
 const REVERTS = [
-    ["as it was written", "/p/a.jpg", "new", "OK", ""], ["changed since", "/p/a.jpg", "somebody else's", "Skipped", "“somebody else's”"],
-    ["reverted before", "/p/a.jpg", "one", "Skipped", "old comment already"], ["gone", "/p/a.jpg", undefined, "Failed", "not there any more"],
+    ["as it was written", "/p/a.jpg", "new", "OK", ""],
+    ["changed since", "/p/a.jpg", "somebody else's", "Skipped", "“somebody else's”"],
+    ["reverted before", "/p/a.jpg", "one", "Skipped", "old comment already"],
+    ["gone", "/p/a.jpg", undefined, "Failed", "not there any more"],
     ["locked", "/p/locked.jpg", "new", "Failed", "write-protected"],
 ];
 for (const row of REVERTS) {
@@ -136,14 +149,18 @@ test("aRevertCanBeReverted", () => {
 });
 
 test("logsTheOldAndTheNewComment", () => {
-    const row = editRow({ path: "/p/a.jpg", status: "OK", reason: "", before: "old", after: "new" }, "Comment", "2026-11-21T10:00:00Z", "r1");
-    equal([row.process, row.action, row.status, row.input, row.inputPath, row.outputPath, row.run, row.before, row.after, row.undoes],
+    const row = editRow({ path: "/p/a.jpg", status: "OK", reason: "", before: "old", after: "new" }, "Comment",
+                        "2026-11-21T10:00:00Z", "r1");
+    equal([row.process, row.action, row.status, row.input, row.inputPath, row.outputPath, row.run, row.before,
+           row.after, row.undoes],
           ["Metadata", "Comment", "OK", "a.jpg", "/p/a.jpg", "/p/a.jpg", "r1", "old", "new", undefined]);
-    equal(editRow({ path: "/p/a.jpg", status: "OK", reason: "", before: "new", after: "old", undoes: "r1" }, "Revert", "", "r2").undoes, "r1");
+    equal(editRow({ path: "/p/a.jpg", status: "OK", reason: "", before: "new", after: "old", undoes: "r1" }, "Revert",
+                  "", "r2").undoes, "r1");
 });
 
 test("saysWhatAnEditWas", () => {
-    equal([editWords("a", "b"), editWords("", "b"), editWords("a", "")], ["“a” became “b”", "“b” was written", "“a” was emptied"]);
+    equal([editWords("a", "b"), editWords("", "b"), editWords("a", "")],
+          ["“a” became “b”", "“b” was written", "“a” was emptied"]);
 });
 
 test("valuesThatLookLikePlacesStayAsTheyAre", () => {

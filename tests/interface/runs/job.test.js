@@ -37,7 +37,8 @@ function run(items, files, settings) {
 test("bringsEveryResultIntoItsPlace", () => {
     const files = new FakeFiles({});
     const results = run([item("a.jpg"), item("b.jpg")], files).result;
-    equal(results.map((result) => [result.status, result.path, result.bytes]), [["OK", "/out/a.jpg", 5], ["OK", "/out/b.jpg", 5]]);
+    equal(results.map((result) => [result.status, result.path, result.bytes]),
+          [["OK", "/out/a.jpg", 5], ["OK", "/out/b.jpg", 5]]);
     equal([files.entries["/out/a.jpg"], files.stagings], [5, []]);
 });
 
@@ -49,13 +50,15 @@ test("goesOnAfterAFailure", () => {
 
 test("saysThatMemoryIsShort", () => {
     memory.told = "needs 1 GB for a picture that was only looked at";
-    const results = run([item("bad.jpg"), item("large.jpg"), item("c.jpg"), item("bad2.jpg")], new FakeFiles({})).result;
+    const results = run([item("bad.jpg"), item("large.jpg"), item("c.jpg"), item("bad2.jpg")],
+                        new FakeFiles({})).result;
     equal(results.map((result) => result.reason),
           ["not a readable picture", "needs about 3.6 GB of memory, 1.2 GB is free", "", "not a readable picture"]);
 });
 
 test("reportsExactlyOneEndPerPicture", () => {
-    const events = run([item("a.jpg"), item("bad.jpg"), item("c.jpg", { status: "Skipped", reason: "x" })], new FakeFiles({})).values;
+    const events = run([item("a.jpg"), item("bad.jpg"), item("c.jpg", { status: "Skipped", reason: "x" })],
+                       new FakeFiles({})).values;
     equal(events.map((event) => event.kind + event.index), ["start0", "end0", "start1", "end1", "start2", "end2"]);
     equal(events[5].result.status, "Skipped");
 });
@@ -88,7 +91,8 @@ test("numbersWhereAnotherFileIsThereThanTheOneToBeReplaced", () => {
 test("holdsOnlyAFewFoldersAtATime", () => {
     const files = new FakeFiles({});
     let most = 0;
-    const many = Array(200).fill(0).map((zero, i) => item("a.jpg", { folder: "/out" + i, path: "/out" + i + "/a.jpg" }));
+    const many = Array(200).fill(0)
+        .map((zero, i) => item("a.jpg", { folder: "/out" + i, path: "/out" + i + "/a.jpg" }));
     const work = runItems(many, step, SETTINGS, { files: files, pictures: memory });
     for (let next = work.next(); !next.done; next = work.next()) {
         most = Math.max(most, files.stagings.length);

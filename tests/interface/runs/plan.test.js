@@ -15,7 +15,8 @@ function settings(ifTaken, destination, fileType) {
 
 function plan(photos, chosen, files, ask) {
     const services = { files: files, ask: ask || null };
-    const work = planRun({ count: photos.length, at: (i) => photos[i], paths: photos.map((each) => each.path) }, resize, chosen, services);
+    const work = planRun({ count: photos.length, at: (i) => photos[i], paths: photos.map((each) => each.path) }, resize,
+                         chosen, services);
     return drain(work).result;
 }
 
@@ -45,7 +46,8 @@ test("neverTakesTheNameOfTheOriginalByItself", () => {
 
 for (const rule of ["number", "replace"]) {
     test("numbersTwoResultsOfOneRunWithOneName: " + rule, () => {
-        equal(names(plan([big("/p/a.jpg"), big("/q/a.jpg")], settings(rule), new FakeFiles({}))), ["a.jpg", "a (2).jpg"]);
+        equal(names(plan([big("/p/a.jpg"), big("/q/a.jpg")], settings(rule), new FakeFiles({}))),
+              ["a.jpg", "a (2).jpg"]);
     });
 }
 
@@ -69,7 +71,8 @@ test("neverReplacesAPictureThatIsStillToBeRead", () => {
 // "/other" and "/p/../p" lead to the folder of the originals.
 for (const spelling of ["/other", "/p/../p"]) {
     const destination = { kind: "folder", name: "", path: spelling };
-    const files = () => Object.assign(new FakeFiles({ "/p/a.png": 1, "/p/a.jpg": 1 }), { same: { "/other": "/p", "/p/../p": "/p" } });
+    const files = () =>
+        Object.assign(new FakeFiles({ "/p/a.png": 1, "/p/a.jpg": 1 }), { same: { "/other": "/p", "/p/../p": "/p" } });
 
     test("knowsTheFolderOfTheOriginalsBySpelling: " + spelling, () => {
         const item = plan([big("/p/a.jpg")], settings("replace", destination), files()).items[0];
@@ -77,14 +80,16 @@ for (const spelling of ["/other", "/p/../p"]) {
     });
 
     test("neverReplacesAPictureThatIsStillToBeReadBySpelling: " + spelling, () => {
-        const planned = plan([big("/p/a.png"), big("/p/a.jpg")], settings("replace", destination, "public.jpeg"), files());
+        const planned = plan([big("/p/a.png"), big("/p/a.jpg")], settings("replace", destination, "public.jpeg"),
+                             files());
         equal(names(planned), ["a (2).jpg", "a.jpg"]);
     });
 }
 
 test("readsOnePictureTwiceBeforeItIsReplaced", () => {
     const files = Object.assign(new FakeFiles({ "/p/a.jpg": 1 }), { same: { "/other": "/p" } });
-    equal(names(plan([big("/p/a.jpg"), big("/other/a.jpg")], settings("replace", SOURCE), files)), ["a (2).jpg", "a (3).jpg"]);
+    equal(names(plan([big("/p/a.jpg"), big("/other/a.jpg")], settings("replace", SOURCE), files)),
+          ["a (2).jpg", "a (3).jpg"]);
 });
 
 test("givesNamesOfOneFolderOnceHoweverItIsSpelled", () => {
@@ -96,7 +101,8 @@ for (const name of ["", ".", "..", "../in", "a/b", "/", "a\0b"]) {
     const destination = { kind: "beside", name: name, path: "" };
 
     test("refusesToSaveBesideUnderTheName " + JSON.stringify(name), () => {
-        const item = plan([big("/p/a.jpg")], settings("replace", destination), new FakeFiles({ "/p/a.jpg": 1 })).items[0];
+        const item = plan([big("/p/a.jpg")], settings("replace", destination),
+                          new FakeFiles({ "/p/a.jpg": 1 })).items[0];
         equal([item.status, item.replaces], ["Failed", false]);
         equal(outputMessages({ destination: destination }).length, 1);
     });
@@ -115,7 +121,8 @@ test("letsAFolderBesideHaveAnyPlainName", () => {
 });
 
 test("neverReplacesAFolder", () => {
-    equal(names(plan([big("/p/a.jpg")], settings("replace"), new FakeFiles({ "/out/a.jpg": "folder" }))), ["a (2).jpg"]);
+    equal(names(plan([big("/p/a.jpg")], settings("replace"), new FakeFiles({ "/out/a.jpg": "folder" }))),
+          ["a (2).jpg"]);
 });
 
 test("asksOnceForAll", () => {
@@ -128,7 +135,8 @@ test("asksOnceForAll", () => {
 
 test("stopsPlanningWhenTheAnswerIsCancel", () => {
     const files = new FakeFiles({ "/out/a.jpg": 1 });
-    const planned = plan([big("/p/a.jpg"), big("/p/b.jpg")], settings("ask"), files, () => ({ rule: "cancel", forAll: false }));
+    const planned = plan([big("/p/a.jpg"), big("/p/b.jpg")], settings("ask"), files,
+                         () => ({ rule: "cancel", forAll: false }));
     equal([planned.cancelled, planned.items.length], [true, 1]);
 });
 

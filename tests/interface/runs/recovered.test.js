@@ -2,7 +2,8 @@ import { recoveredText, recoveredWords } from "../../../interface/runs/recovered
 import { equal, finish, test } from "../check.js";
 
 function run(counts) {
-    return Object.assign({ id: "1", title: "Rename", done: 0, finished: 0, takenBack: 0, left: 0, problems: [] }, counts);
+    return Object.assign({ id: "1", title: "Rename", done: 0, finished: 0, takenBack: 0, left: 0, problems: [] },
+                         counts);
 }
 
 const ROWS = [

@@ -6,11 +6,13 @@ import { shortPath, statusText } from "../../../interface/lib/wording.js";
 import { equal, finish, test } from "../check.js";
 import { FakeFiles, photo } from "../fakes.js";
 
-const done = { status: "OK", photo: photo("/p/a.jpg", 4, 3), name: "a.jpg", path: "/out/a.jpg", folder: "/out", bytes: 7 };
+const done = { status: "OK", photo: photo("/p/a.jpg", 4, 3), name: "a.jpg", path: "/out/a.jpg", folder: "/out",
+               bytes: 7 };
 const broken = { status: "Failed", reason: 'no "picture", alas', photo: photo("/p/=b.jpg", 0, 0) };
 
 test("countsTheFinalStates", () => {
-    equal(summaryOf([done, broken, done]), { done: 2, failed: 1, unsupported: 0, skipped: 0, bytes: 14, folders: ["/out"] });
+    equal(summaryOf([done, broken, done]),
+          { done: 2, failed: 1, unsupported: 0, skipped: 0, bytes: 14, folders: ["/out"] });
 });
 
 test("writesCsvThatKeepsQuotesAndIsNoFormula", () => {
@@ -21,8 +23,10 @@ test("writesCsvThatKeepsQuotesAndIsNoFormula", () => {
     equal(lines[1], '2026-11-21,Resize,longest 1600,Failed,"no ""picture"", alas","\'=b.jpg",,/p/=b.jpg,,0');
 });
 
-const FORMULAS = [["=1+1", '"\'=1+1"'], ["+cmd|x", '"\'+cmd|x"'], ["-a", '"\'-a"'], ["@SUM(A1)", '"\'@SUM(A1)"'], ["\t=1", '"\'\t=1"'],
-                  ["\r=1", '"\'\r=1"'], ["-5", "-5"], ["a=b", "a=b"], ["a,b", '"a,b"'], ['"', '""""'], ["a\nb", '"a\nb"'], ["Été 日本", "Été 日本"]];
+const FORMULAS = [["=1+1", '"\'=1+1"'], ["+cmd|x", '"\'+cmd|x"'], ["-a", '"\'-a"'], ["@SUM(A1)", '"\'@SUM(A1)"'],
+                  ["\t=1", '"\'\t=1"'],
+                  ["\r=1", '"\'\r=1"'], ["-5", "-5"], ["a=b", "a=b"], ["a,b", '"a,b"'], ['"', '""""'],
+                  ["a\nb", '"a\nb"'], ["Été 日本", "Été 日本"]];
 for (const row of FORMULAS) {
     test("cell " + JSON.stringify(row[0]), () => {
         const made = logRow({ status: "OK", reason: row[0], photo: photo("/p/a.jpg", 1, 1) }, "P", "A", "d", "r");
@@ -44,14 +48,16 @@ test("keepsTheLog", () => {
     equal(files.texts["/data/log.jsonl"], undefined);
     equal(keepRows(files, rows), "");
     equal(keepRows(files, rows.slice(0, 1)), "");
-    equal(files.texts["/data/log.jsonl"].split("\n").slice(0, -1).map((line) => JSON.parse(line)), rows.concat(rows.slice(0, 1)));
+    equal(files.texts["/data/log.jsonl"].split("\n").slice(0, -1).map((line) => JSON.parse(line)),
+          rows.concat(rows.slice(0, 1)));
     clearRows(files);
     equal(files.texts["/data/log.jsonl"], "");
 });
 
 test("cutsTheLogBackToTheNewestRowsWhenItHasGrownBeyondThem", () => {
     const files = new FakeFiles({});
-    const line = JSON.stringify({ date: "2026-11-21T10:00:00.000Z", process: "Resize", input: "picture.jpg", inputPath: "/p/picture.jpg" });
+    const line = JSON.stringify({ date: "2026-11-21T10:00:00.000Z", process: "Resize", input: "picture.jpg",
+                                  inputPath: "/p/picture.jpg" });
     files.texts["/data/log.jsonl"] = (line + "\n").repeat(KEPT_ROWS + 10000);
     keepRows(files, [logRow(done, "Resize", "x", "d", "one")]);
     const lines = files.texts["/data/log.jsonl"].split("\n");

@@ -17,14 +17,16 @@ test("wishesForTheSameOnceMore", () => {
 });
 
 test("keepsCompanionsThatWait", () => {
-    const again = retryRows([item("/p/a.jpg", "/q/a (2).jpg", 1, false), item("/p/a.aae", "/q/a (2).aae", 1, true)], WISHED);
+    const again = retryRows([item("/p/a.jpg", "/q/a (2).jpg", 1, false), item("/p/a.aae", "/q/a (2).aae", 1, true)],
+                            WISHED);
     equal(again.length, 1);
     equal([again[0].wish.to, again[0].wish.number, again[0].wish.along], ["/q/a.jpg", true, [AAE]]);
 });
 
 test("wishesForACompanionWhoseLeaderWentUnderItsPlannedName", () => {
     const again = retryRows([item("/p/a.xmp", "/q/a (2).xmp", 1, true)], WISHED);
-    equal(again.map((each) => [each.from, each.of, each.isAlong, each.wish.to, each.wish.kind, each.wish.number, each.wish.along]),
+    equal(again.map((each) =>
+        [each.from, each.of, each.isAlong, each.wish.to, each.wish.kind, each.wish.number, each.wish.along]),
           [["/p/a.xmp", 1, true, "/q/a (2).xmp", "copy", false, []]]);
 });
 

@@ -2,7 +2,8 @@ import { FakeFiles } from "../fakes.js";
 import { DiskNeeds, roomProblem, roomText } from "../../../interface/runs/room.js";
 import { equal, finish, test } from "../check.js";
 
-const SPACES = { "/a": { disk: 1, free: 100 }, "/b": { disk: 1, free: 100 }, "/c": { disk: 2, free: 50 }, "/unknown": { disk: -1, free: -1 } };
+const SPACES = { "/a": { disk: 1, free: 100 }, "/b": { disk: 1, free: 100 }, "/c": { disk: 2, free: 50 },
+                 "/unknown": { disk: -1, free: -1 } };
 
 function space(path) {
     return SPACES[path.startsWith("/unknown") ? "/unknown" : path.slice(0, 2)];
@@ -11,8 +12,10 @@ function space(path) {
 // Rows that are ready: [base, bytes, kind, code].
 function needs(rows) {
     const plan = {
-        paths: [], leftOut: [], ofRow: rows.map((row, i) => i), rows: rows.map((row) => ({ base: row[0], bytes: row[1], kind: row[2], to: row[0] + "/x" })),
-        items: rows.map((row) => (row[3] === "" ? null : { status: "ready", code: row[3], other: "", to: row[0] + "/x" })),
+        paths: [], leftOut: [], ofRow: rows.map((row, i) => i),
+        rows: rows.map((row) => ({ base: row[0], bytes: row[1], kind: row[2], to: row[0] + "/x" })),
+        items: rows.map((row) =>
+            (row[3] === "" ? null : { status: "ready", code: row[3], other: "", to: row[0] + "/x" })),
     };
     const sum = new DiskNeeds(space);
     rows.forEach((row, i) => sum.add(plan, i));
@@ -32,7 +35,8 @@ const ROWS = [
 ];
 
 for (const row of ROWS) {
-    test("tells too little room: " + JSON.stringify(row[0]), () => equal(roomText(needs(row[0]), words).problem, row[1]));
+    test("tells too little room: " + JSON.stringify(row[0]),
+         () => equal(roomText(needs(row[0]), words).problem, row[1]));
 }
 
 test("tellsWhatIsFreeWhereThereIsRoom", () => {
@@ -42,7 +46,8 @@ test("tellsWhatIsFreeWhereThereIsRoom", () => {
 
 // [path, folder, kind, whether there is room]
 const SINGLE = [
-    ["/a/x", "/b", "copy", false], ["/a/x", "/b", "move", true], ["/a/x", "/c", "move", false], ["/a/x", "/c", "link", true],
+    ["/a/x", "/b", "copy", false], ["/a/x", "/b", "move", true], ["/a/x", "/c", "move", false],
+    ["/a/x", "/c", "link", true],
     ["/a/y", "/c", "move", true], ["/a/x", "/unknown", "copy", true],
 ];
 
@@ -52,7 +57,8 @@ for (const row of SINGLE) {
         files.space = space;
         files.byteText = words;
         const free = row[1] === "/c" ? 50 : 100;
-        equal(roomProblem(row[0], row[1], row[2], files), row[3] ? "" : "too little room (needs 101 B, " + free + " B are free)");
+        equal(roomProblem(row[0], row[1], row[2], files),
+              row[3] ? "" : "too little room (needs 101 B, " + free + " B are free)");
     });
 }
 
