@@ -48,10 +48,10 @@ export class MoveRun extends BaseRun {
     }
 
     // The pane may want to know when a run begins and ends.
-    tellPane(deed) {
+    tellPane(event) {
         const pane = this.window.pane;
-        if (pane !== null && pane[deed] !== undefined) {
-            pane[deed]();
+        if (pane !== null && pane[event] !== undefined) {
+            pane[event]();
         }
     }
 
@@ -271,7 +271,7 @@ export class MoveRun extends BaseRun {
     noteRow(parts) {
         const describe = () =>
             logRow(parts, this.title, this.window.action.step.describe(this.settings), new Date().toISOString());
-        this.note(parts, this.undone === null ? describe() : undoRow(parts, this.undone, this.id));
+        this.noteInLog(parts, this.undone === null ? describe() : undoRow(parts, this.undone, this.id));
     }
 
     // The row that an item belongs to; in an undo, rows are found by where their files are.
@@ -385,14 +385,14 @@ export class MoveRun extends BaseRun {
         this.startMoving();
         this.items = begun.items
             .map((item) => ({ kind: "move", from: item.from, to: item.to, row: undefined, along: false }));
-        unableSteps(begun, this.undone).forEach((step) => this.note(step.result, step.row));
+        unableSteps(begun, this.undone).forEach((step) => this.noteInLog(step.result, step.row));
         this.carryOut(begun.run, undoing(moves, begun, this.undone), (step) => this.tookBack(step));
     }
 
     tookBack(step) {
         const { status, reason } = step.result;
         this.done[step.index] = true;
-        this.note(step.result, step.row);
+        this.noteInLog(step.result, step.row);
         this.moved += status === "OK" ? 1 : 0;
         this.showResult(this.rowAt[step.from] || 0, { status: status, reason: reason, path: step.to }, status === "OK");
         this.countOne();

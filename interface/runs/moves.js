@@ -4,16 +4,16 @@ import { count, fill } from "../lib/wording.js";
 import { LiveMoves } from "./live-moves.js";
 import { MoveRun } from "./move-run.js";
 
-function deedText(window) {
+function startText(window) {
     const ready = window.planned.ready;
     if (!ready) {
         return window.action.title();
     }
-    const deed = window.action.startText(ready, window.settings);
-    return window.settings.simulation ? fill(qsTr("Simulate: %1"), deed) : deed;
+    const text = window.action.startText(ready, window.settings);
+    return window.settings.simulation ? fill(qsTr("Simulate: %1"), text) : text;
 }
 
-function deedNote(window) {
+function startNote(window) {
     const planned = window.planned;
     if (planned.named !== undefined) {
         return fill(qsTr("Working out names: %1 of %2…"), planned.named, planned.all);
@@ -43,8 +43,8 @@ export const MOVES = {
     columns: ["thumbnail", "name", "newName", "status"],
     headings: () => ({ name: qsTr("Now") }),
     stressed: true,
-    deedText: deedText,
-    deedNote: deedNote,
+    startText: startText,
+    startNote: startNote,
     isReady: (window) => window.pictures.count > 0 && window.planned.ready > 0,
     replaces: () => false,
 };

@@ -18,8 +18,8 @@ export const PAGE = {
     columns: [],
     headings: () => ({}),
     stressed: false,
-    deedText: (window) => window.action.title(),
-    deedNote: () => "",
+    startText: (window) => window.action.title(),
+    startNote: () => "",
     isReady: () => false,
     replaces: () => false,
 };

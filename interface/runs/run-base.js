@@ -58,7 +58,7 @@ export class BaseRun {
     }
 
     /** Notes the final result of one file and its row of the log. */
-    note(result, row) {
+    noteInLog(result, row) {
         this.results.push(result);
         this.problems += result.status === "Failed" || result.status === "Not Supported" ? 1 : 0;
         this.rows.push(row);

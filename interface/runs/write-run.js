@@ -125,7 +125,7 @@ export class WriteRun extends BaseRun {
     takeResult(id, item, result) {
         const list = this.window.pictures;
         const action = this.window.action;
-        this.note(result,
+        this.noteInLog(result,
                   logRow(result, action.title(), action.step.describe(this.settings), new Date().toISOString()));
         this.progress.add(costOf(item.photo), result.ms);
         this.window.livePlan.keepFinal(id);

@@ -4,7 +4,7 @@ import { count, fill } from "../lib/wording.js";
 import { WritePlan } from "./write-plan.js";
 import { WriteRun } from "./write-run.js";
 
-function deedText(window) {
+function startText(window) {
     const total = window.pictures.count;
     const originals = window.planned.originals;
     if (total === 0) {
@@ -19,7 +19,7 @@ function deedText(window) {
         : window.action.startText(total);
 }
 
-function deedNote(window) {
+function startNote(window) {
     const planned = window.planned;
     if (window.pictures.count === 0 || window.settings.output.simulation) {
         return "";
@@ -39,8 +39,8 @@ export const WRITES = {
     columns: ["thumbnail", "name", "pixels", "size", "type", "newName", "newSize", "status"],
     headings: () => ({}),
     stressed: false,
-    deedText: deedText,
-    deedNote: deedNote,
+    startText: startText,
+    startNote: startNote,
     isReady: (window) => window.pictures.count > 0,
     replaces: (window) => window.planned.originals > 0 && !window.settings.output.simulation,
 };

@@ -83,9 +83,10 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("modules");
         QTest::addColumn<QStringList>("forms");
         const QStringList mainParts = {
-            QStringLiteral("windows/main/main.js"),         QStringLiteral("windows/main/input.js"),
-            QStringLiteral("windows/main/action-page.js"),  QStringLiteral("windows/main/status-bar.js"),
-            QStringLiteral("windows/main/preview-side.js"), QStringLiteral("windows/main/support-bar.js")};
+            QStringLiteral("windows/main/main-window.js"), QStringLiteral("windows/main/main-controls.js"),
+            QStringLiteral("windows/main/input.js"),       QStringLiteral("windows/main/action-page.js"),
+            QStringLiteral("windows/main/status-bar.js"),  QStringLiteral("windows/main/preview-side.js"),
+            QStringLiteral("windows/main/support-bar.js")};
         QTest::newRow("main window") << mainParts << QStringList{QStringLiteral("windows/main/main.ui")};
         QTest::newRow("log") << QStringList{QStringLiteral("actions/log/log-page.js")}
                              << QStringList{QStringLiteral("actions/log/log-page.ui")};

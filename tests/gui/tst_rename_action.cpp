@@ -65,7 +65,7 @@ private Q_SLOTS:
         m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
         QVERIFY(waitForNames({"IMG_1.jpg", "IMG_2.jpg", "notes.txt"}));
         QVERIFY(waitForDeed("Rename 3 Files"));
-        QCOMPARE(m_driver->text("deedNote"), QStringLiteral("3 ready · can be undone"));
+        QCOMPARE(m_driver->text("startNote"), QStringLiteral("3 ready · can be undone"));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("3 files renamed, 0 problems")));
         QCOMPARE(namesIn(m_folder), texts({"IMG_1.jpg", "IMG_2.jpg", "notes.txt"}));
@@ -181,7 +181,7 @@ private Q_SLOTS:
         replaceBy("a", "x");
         QVERIFY(waitForStatus(0, "name is taken by a file not in this list"));
         QVERIFY(waitForStatus(1, "stays as it is"));
-        QCOMPARE(m_driver->text("deedNote"), QStringLiteral("0 ready · 1 needs attention · 1 stays as it is"));
+        QCOMPARE(m_driver->text("startNote"), QStringLiteral("0 ready · 1 needs attention · 1 stays as it is"));
         QVERIFY(!m_driver->control<QAbstractButton>("startButton")->isEnabled());
         addStep("Add before");
         m_driver->control<QLineEdit>("secondText")->setText(QStringLiteral("-"));

@@ -53,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(m_driver->cell(0, PictureModel::NewName), QStringLiteral("2026/2026-08-14"));
         QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("no date taken"));
         QCOMPARE(button("startButton")->text(), QStringLiteral("Sort 4 Files into Folders"));
-        QCOMPARE(m_driver->text("deedNote"), QStringLiteral("4 ready · 1 goes along · can be undone"));
+        QCOMPARE(m_driver->text("startNote"), QStringLiteral("4 ready · 1 goes along · can be undone"));
         QCOMPARE(filesBelow(m_pictures).size(), 5);
     }
 
@@ -246,7 +246,7 @@ private Q_SLOTS:
         QVERIFY(waitForTree(5));
         QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("no date taken: stays"));
         QVERIFY(!m_driver->control<QLineEdit>("sortUndatedName")->isVisible());
-        QVERIFY(m_driver->text("deedNote").contains(QLatin1String("1 stays as it is")));
+        QVERIFY(m_driver->text("startNote").contains(QLatin1String("1 stays as it is")));
         m_driver->choose("sortUndated", QStringLiteral("changed"));
         QVERIFY(m_driver->waitFor([this] {
             return m_driver->cell(3, PictureModel::NewName) ==

@@ -3,7 +3,7 @@
 
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
-import { deedWords, HandSorting, MODES, TRASH } from "./hand-sorting.js";
+import { actWords, HandSorting, MODES, TRASH } from "./hand-sorting.js";
 import { slotProblem } from "./hand-slots.js";
 import { appendRows, trimRows } from "../../runs/log-file.js";
 import { roomProblem } from "../../runs/room.js";
@@ -28,15 +28,15 @@ export class HandPage {
     }
 
     connect() {
-        const join = (signal, name, deed) => signal.connect(guard("hand." + name, deed));
+        const join = (signal, name, handler) => signal.connect(guard("hand." + name, handler));
         const control = (name) => this.form.control(name);
-        const deeds = { handBack: () => this.step(-1), handSkip: () => this.step(1), handTrash: () => this.trash(),
+        const handlers = { handBack: () => this.step(-1), handSkip: () => this.step(1), handTrash: () => this.trash(),
                         handUndo: () => this.undo() };
-        Object.keys(deeds).forEach((name) => {
-            join(control(name).triggered, name, deeds[name]);
-            join(control(name + "Button").clicked, name, () => { deeds[name](); this.view.setFocus(); });
+        Object.keys(handlers).forEach((name) => {
+            join(control(name).triggered, name, handlers[name]);
+            join(control(name + "Button").clicked, name, () => { handlers[name](); this.view.setFocus(); });
         });
-        join(control("handBackspace").triggered, "back", deeds.handBack);
+        join(control("handBackspace").triggered, "back", handlers.handBack);
         const choices = { handMove: MODES[0], handCopy: MODES[1], handLink: MODES[2] };
         Object.keys(choices)
             .forEach((name) => join(control(name).triggered, name, () => this.chooseMode(choices[name])));
@@ -76,7 +76,7 @@ export class HandPage {
         this.list.removeIds(trashed);
         this.window.pane.showSlots();
         if (problem) {
-            this.window.note(problem);
+            this.window.sayBeside(problem);
         }
         this.showCurrent();
     }
@@ -149,7 +149,7 @@ export class HandPage {
             control(name + "Button").enabled = states[name];
         });
         control("handUndoButton").toolTip = last === null ? qsTr("Take back the last deed (Ctrl+Z)")
-            : fill(qsTr("Take back: %1 (Ctrl+Z)"), deedWords(last.kind, last.label));
+            : fill(qsTr("Take back: %1 (Ctrl+Z)"), actWords(last.kind, last.label));
         this.form.control("handBackspace").enabled = states.handBack;
     }
 
@@ -169,7 +169,7 @@ export class HandPage {
         this.window.pane.chooseMode(mode);
         const words = { move: qsTr("Keys move pictures now."), copy: qsTr("Keys copy pictures now."),
                         link: qsTr("Keys link pictures now.") };
-        this.window.note(words[mode]);
+        this.window.sayBeside(words[mode]);
     }
 
     step(rows) {
@@ -182,7 +182,7 @@ export class HandPage {
         const problem = slotProblem(slot.path, files) || this.roomProblem(photo, slot);
         if (problem !== "") {
             this.window.pane.look();
-            this.window.note(fill(qsTr("%1: %2. The picture stays where it is."), slot.label, problem));
+            this.window.sayBeside(fill(qsTr("%1: %2. The picture stays where it is."), slot.label, problem));
         } else if (photo !== null) {
             this.tell(photo, this.sorting.put(photo, this.window.settings.mode, slot), row);
         }
@@ -200,11 +200,11 @@ export class HandPage {
         }
     }
 
-    // Shows what came of a deed, and the next picture.
+    // Shows what came of an act, and the next picture.
     tell(photo, result, row) {
         if (result.status !== "OK") {
             this.window.pane.look();
-            this.window.note(fill(qsTr("%1: %2"), photo.name, result.message));
+            this.window.sayBeside(fill(qsTr("%1: %2"), photo.name, result.message));
             return;
         }
         this.showState(photo);
@@ -217,7 +217,7 @@ export class HandPage {
             this.step(1);
         } else {
             this.showCurrent();
-            this.window.note(this.lastWords());
+            this.window.sayBeside(this.lastWords());
         }
     }
 
@@ -244,12 +244,12 @@ export class HandPage {
         if (result === null) {
             return;
         }
-        const photo = this.list.photo(result.deed.id);
+        const photo = this.list.photo(result.act.id);
         if (result.status !== "OK") {
-            this.window.note(result.message);
+            this.window.sayBeside(result.message);
         } else if (photo !== null) {
-            if (result.deed.kind === "move" || result.deed.kind === TRASH) {
-                this.list.setPath(photo.id, result.deed.from);
+            if (result.act.kind === "move" || result.act.kind === TRASH) {
+                this.list.setPath(photo.id, result.act.from);
             }
             this.showState(this.list.photo(photo.id));
             this.list.selectId(photo.id);

@@ -12,9 +12,10 @@ import * as hand from "./hand-step.js";
 import { Pane } from "../shared/pane.js";
 
 export class HandPane extends Pane {
-    constructor(settings, changed, window) {
+    /** @param parts  what panes get of the window: sayBeside is used */
+    constructor(settings, changed, parts) {
         super("actions/hand/hand-pane.ui", hand, settings, changed);
-        this.window = window;
+        this.sayBeside = parts.sayBeside;
         this.list = this.form.control("handSlots");
         this.countIn = () => 0;
         this.chosen = () => undefined;
@@ -50,9 +51,9 @@ export class HandPane extends Pane {
         this.list.slotMoved.connect(guard("hand.move",
                                           (from, to) => this.change(withMoved(this.settings.slots, from, to))));
         this.list.foldersDropped.connect(guard("hand.drop", (paths) => this.addFolders(paths)));
-        this.list.menuChosen.connect(guard("hand.menu", (row, deed) => this.act(row, deed)));
+        this.list.menuChosen.connect(guard("hand.menu", (row, action) => this.act(row, action)));
         this.list.currentSlotChanged.connect(guard("hand.current", () => this.showMore()));
-        this.list.setMenu(this.menuTexts(), this.menuDeeds());
+        this.list.setMenu(this.menuTexts(), this.menuActions());
         this.askName(false);
     }
 
@@ -66,23 +67,23 @@ export class HandPane extends Pane {
                 qsTr("Remove from List"), qsTr("Remove All…")];
     }
 
-    menuDeeds() {
+    menuActions() {
         return ["label", "open", null, "up", "down", null, "remove", "clear"];
     }
 
-    act(row, deed) {
+    act(row, action) {
         const slots = this.settings.slots;
-        if (deed === "label") {
+        if (action === "label") {
             this.list.editLabel(row);
-        } else if (deed === "open") {
+        } else if (action === "open") {
             shell.openFolder(slots[row].path);
-        } else if (deed === "up" || deed === "down") {
-            const to = row + (deed === "up" ? -1 : 1);
+        } else if (action === "up" || action === "down") {
+            const to = row + (action === "up" ? -1 : 1);
             this.change(withMoved(slots, row, to));
             this.list.choose(Math.max(0, Math.min(slots.length - 1, to)));
-        } else if (deed === "remove") {
+        } else if (action === "remove") {
             this.change(withoutSlot(slots, row));
-        } else if (deed === "clear" && this.mayClear()) {
+        } else if (action === "clear" && this.mayClear()) {
             this.change([]);
         }
     }
@@ -124,7 +125,7 @@ export class HandPane extends Pane {
             parts.push(fill(qsTr("There are keys for %1 folders only."), MOST_SLOTS));
         }
         if (parts.length > 0) {
-            this.window.note(parts.join(" "));
+            this.sayBeside(parts.join(" "));
         }
     }
 
@@ -170,7 +171,7 @@ export class HandPane extends Pane {
         const problem = files.makeFolder(path);
         this.askName(false);
         if (problem) {
-            this.window.note(problem);
+            this.sayBeside(problem);
         } else {
             this.addFolders([path]);
         }
@@ -212,8 +213,8 @@ export class HandPane extends Pane {
 
     showMore() {
         const row = this.list.current;
-        const deeds = this.menuDeeds().map((deed) => (row >= 0 || deed === "clear" ? deed : null));
-        this.form.setMenu("handMore", this.menuTexts(), deeds, guard("hand.more", (deed) => this.act(row, deed)));
+        const actions = this.menuActions().map((action) => (row >= 0 || action === "clear" ? action : null));
+        this.form.setMenu("handMore", this.menuTexts(), actions, guard("hand.more", (action) => this.act(row, action)));
         this.form.control("handMore").enabled = this.settings.slots.length > 0;
     }
 

@@ -9,8 +9,8 @@ export const MODES = ["move", "copy", "link"];
 
 export const TRASH = "trash";
 
-/** The deed in words, as the log and the list say it. */
-export function deedWords(kind, label) {
+/** The act in words, as the log and the list say it. */
+export function actWords(kind, label) {
     const words = { move: qsTr("Moved to %1"), copy: qsTr("Copied to %1"), link: qsTr("Linked in %1"),
                     trash: qsTr("In the trash") };
     return fill(words[kind], label);
@@ -23,7 +23,7 @@ function logWords(kind, label) {
 }
 
 function failed(message) {
-    return { status: "Failed", message: message, deed: null };
+    return { status: "Failed", message: message, act: null };
 }
 
 export class HandSorting {
@@ -42,7 +42,7 @@ export class HandSorting {
     }
 
     forget() {
-        this.deeds = [];
+        this.acts = [];
         this.byPicture = emptyTable();
         this.counts = emptyTable();
         this.companions = emptyTable();
@@ -54,11 +54,11 @@ export class HandSorting {
 
     /** Where the file of a picture is now; "" in the trash. */
     placeOf(photo) {
-        const deed = this.lastOf(photo, (each) => each.kind === "move" || each.kind === TRASH);
-        if (deed === null) {
+        const act = this.lastOf(photo, (each) => each.kind === "move" || each.kind === TRASH);
+        if (act === null) {
             return photo.path;
         }
-        return deed.kind === TRASH ? "" : deed.parts[0].to;
+        return act.kind === TRASH ? "" : act.parts[0].to;
     }
 
     isTrashed(photo) {
@@ -75,14 +75,14 @@ export class HandSorting {
         return Object.keys(this.byPicture).filter((id) => this.byPicture[id].length > 0).map(Number);
     }
 
-    /** The last deed that stands, or null. */
+    /** The last act that stands, or null. */
     last() {
-        return this.deeds.length > 0 ? this.deeds[this.deeds.length - 1] : null;
+        return this.acts.length > 0 ? this.acts[this.acts.length - 1] : null;
     }
 
     /** What was done with it, in words; "" for nothing. */
     wordsFor(photo) {
-        return this.doneWith(photo).map((deed) => deedWords(deed.kind, deed.label)).join(" · ");
+        return this.doneWith(photo).map((act) => actWords(act.kind, act.label)).join(" · ");
     }
 
     /** How many pictures of this session are in a folder, by what was done here. */
@@ -95,7 +95,7 @@ export class HandSorting {
     }
 
     /**
-     * Puts a picture {id, name, path as it was at first} into the folder of a slot {path, label}: {status, message, deed}. What is
+     * Puts a picture {id, name, path as it was at first} into the folder of a slot {path, label}: {status, message, act}. What is
      * there is never replaced: a name that is taken gets a number.
      */
     put(photo, kind, slot) {
@@ -104,7 +104,7 @@ export class HandSorting {
             return failed(qsTr("This picture is in the trash. Undo brings it back."));
         }
         if (kind === "move" && splitPath(from).folder === slot.path) {
-            return { status: "Same", message: fill(qsTr("This picture is in %1 already."), slot.label), deed: null };
+            return { status: "Same", message: fill(qsTr("This picture is in %1 already."), slot.label), act: null };
         }
         return this.act(photo, kind, from, slot);
     }
@@ -121,23 +121,23 @@ export class HandSorting {
         if (problem) {
             return failed(problem);
         }
-        const deed = { id: photo.id, kind: kind, label: slot.label, folder: slot.path, from: from, parts: [],
+        const act = { id: photo.id, kind: kind, label: slot.label, folder: slot.path, from: from, parts: [],
                        left: kind === "move" || kind === TRASH ? this.sessionFolder(photo) : "" };
-        const result = this.addPart(deed, kind, from, joinPath(slot.path, splitPath(from).name));
+        const result = this.addPart(act, kind, from, joinPath(slot.path, splitPath(from).name));
         if (result.status === "OK") {
-            this.addAlong(deed, from);
-            this.deeds.push(deed);
-            this.byPicture[photo.id] = this.doneWith(photo).concat([deed]);
-            this.count(deed, 1);
+            this.addAlong(act, from);
+            this.acts.push(act);
+            this.byPicture[photo.id] = this.doneWith(photo).concat([act]);
+            this.count(act, 1);
         }
         this.write([this.row(kind, from, result, logWords(kind, slot.label))]);
-        return { status: result.status, message: result.message, deed: result.status === "OK" ? deed : null };
+        return { status: result.status, message: result.message, act: result.status === "OK" ? act : null };
     }
 
-    addPart(deed, kind, from, to) {
+    addPart(act, kind, from, to) {
         const result = this.moves.add(this.run, { kind: kind, from: from, to: kind === TRASH ? "" : to, number: true });
         if (result.status === "OK") {
-            deed.parts.push({ from: from, to: result.path || "" });
+            act.parts.push({ from: from, to: result.path || "" });
         }
         return result;
     }
@@ -151,57 +151,57 @@ export class HandSorting {
     }
 
     // Files that go along take the name that the picture got.
-    addAlong(deed, from) {
-        if (deed.kind === "link") {
+    addAlong(act, from) {
+        if (act.kind === "link") {
             return;
         }
         const folder = splitPath(from).folder;
-        const to = deed.kind === TRASH ? from : deed.parts[0].to;
+        const to = act.kind === TRASH ? from : act.parts[0].to;
         const gone = [];
         for (const other of this.alongOf(from)) {
-            const result = this.addPart(deed, deed.kind, joinPath(folder, other.name),
-                                        joinPath(deed.folder, splitPath(to).base + other.ending));
+            const result = this.addPart(act, act.kind, joinPath(folder, other.name),
+                                        joinPath(act.folder, splitPath(to).base + other.ending));
             if (result.status === "OK") {
                 gone.push({ name: result.path ? splitPath(result.path).name : other.name, ending: other.ending });
             } else {
-                this.write([this.row(deed.kind, joinPath(folder, other.name), result,
-                                     logWords(deed.kind, deed.label))]);
+                this.write([this.row(act.kind, joinPath(folder, other.name), result,
+                                     logWords(act.kind, act.label))]);
             }
         }
-        if (deed.kind === "move") {
+        if (act.kind === "move") {
             this.companions[to] = gone;
         }
     }
 
-    /** Takes back the last deed that stands: {status, message, deed}, or null where there is none. */
+    /** Takes back the last act that stands: {status, message, act}, or null where there is none. */
     takeBack() {
-        const deed = this.last();
-        if (deed === null) {
+        const act = this.last();
+        if (act === null) {
             return null;
         }
-        while (deed.parts.length > 0) {
-            const part = deed.parts[deed.parts.length - 1];
+        while (act.parts.length > 0) {
+            const part = act.parts[act.parts.length - 1];
             const result = this.moves.takeBack(this.run);
             if (result === null || result.status !== "OK") {
-                return this.notTakenBack(deed, part, result);
+                return this.notTakenBack(act, part, result);
             }
-            deed.parts.pop();
-            if (deed.parts.length === 0) {
-                this.deeds.pop();
-                this.byPicture[deed.id] = this.doneWith({ id: deed.id }).slice(0, -1);
-                this.count(deed, -1);
+            act.parts.pop();
+            if (act.parts.length === 0) {
+                this.acts.pop();
+                this.byPicture[act.id] = this.doneWith({ id: act.id }).slice(0, -1);
+                this.count(act, -1);
                 this.write([this.row("move", part.to, { status: "OK", message: "", path: part.from },
-                                     fill(qsTr("Undo: %1"), logWords(deed.kind, deed.label)))]);
+                                     fill(qsTr("Undo: %1"), logWords(act.kind, act.label)))]);
             }
         }
-        return { status: "OK", message: "", deed: deed };
+        return { status: "OK", message: "", act: act };
     }
 
-    notTakenBack(deed, part, result) {
+    notTakenBack(act, part, result) {
         const message = result === null ? qsTr("There is nothing left to undo.") : result.message;
         this.write([this.row("move", part.to, { status: "Failed", message: message, path: "" },
-                             fill(qsTr("Undo: %1"), logWords(deed.kind, deed.label)))]);
-        return { status: "Failed", message: message, deed: deed };
+                             fill(qsTr("Undo: %1"), logWords(act.kind, act.label)))]);
+        return { status: "Failed", message: message, act: act };
     }
 
     /** Ends the session: what was done can then be undone as a whole, from the log. Returns a message, or "". */
@@ -224,18 +224,18 @@ export class HandSorting {
         return opened.problem || "";
     }
 
-    // The folder into which an earlier deed of this session brought the picture: it leaves it now.
+    // The folder into which an earlier act of this session brought the picture: it leaves it now.
     sessionFolder(photo) {
-        const deed = this.lastOf(photo, (each) => each.kind === "move");
-        return deed === null ? "" : deed.folder;
+        const act = this.lastOf(photo, (each) => each.kind === "move");
+        return act === null ? "" : act.folder;
     }
 
-    count(deed, change) {
-        if (deed.folder !== "") {
-            this.counts[deed.folder] = this.countIn(deed.folder) + change;
+    count(act, change) {
+        if (act.folder !== "") {
+            this.counts[act.folder] = this.countIn(act.folder) + change;
         }
-        if (deed.left !== "") {
-            this.counts[deed.left] = this.countIn(deed.left) - change;
+        if (act.left !== "") {
+            this.counts[act.left] = this.countIn(act.left) - change;
         }
     }
 

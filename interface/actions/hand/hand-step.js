@@ -1,4 +1,4 @@
-// Sort by Hand: the folders and what a key does. The deeds themselves are those of hand-sorting. Pure but for translation.
+// Sort by Hand: the folders and what a key does. What a key does is in hand-sorting. Pure but for translation.
 
 import { MODES } from "./hand-sorting.js";
 

@@ -105,7 +105,7 @@ export class LogPage {
 
     mayLeave() {
         if (this.isBusy()) {
-            this.window.note(qsTr("A run is being undone. Stop it first, or wait."));
+            this.window.sayBeside(qsTr("A run is being undone. Stop it first, or wait."));
         }
         this.leave();
         return !this.isBusy();
@@ -153,7 +153,7 @@ export class LogPage {
         this.form.setMenu("logMore",
                           [chosen > 1 ? fill(qsTr("Copy %1 Rows"), chosen) : qsTr("Copy Row"), "-", qsTr("Clear Log…")],
                           [chosen > 0 ? "copy" : null, null, total > 0 && !this.isBusy() ? "clear" : null],
-                          guard("log.more", (deed) => (deed === "copy" ? this.table.copyChosen() : this.clear())));
+                          guard("log.more", (what) => (what === "copy" ? this.table.copyChosen() : this.clear())));
         this.showChosenEdits();
     }
 
@@ -237,7 +237,7 @@ export class LogPage {
 
     saved(how, path, text) {
         if (how !== "cancelled") {
-            this.window.note(how === "failed"
+            this.window.sayBeside(how === "failed"
                              ? String(text) : files.writeText(path, text) || fill(qsTr("Log saved as %1"), path));
         }
         this.showState();
@@ -254,7 +254,7 @@ export class LogPage {
             this.runs.chooseAll();
             this.show();
             if (problem) {
-                this.window.note(problem);
+                this.window.sayBeside(problem);
             }
         }
     }
@@ -273,7 +273,7 @@ export class LogPage {
             this.form.control("logRunTitle").text = fill(qsTr("Reverting: %1 of %2"), work.tried, edits.length);
             this.form.control("logRunNote").text = "";
         }, (work) => {
-            this.window.note(commentSummary(work, commentsReverted(work.done)));
+            this.window.sayBeside(commentSummary(work, commentsReverted(work.done)));
             this.show();
         });
         this.showState();
@@ -282,7 +282,7 @@ export class LogPage {
     undoRun() {
         const begun = this.window.services.moves.undo(this.runs.run);
         if (begun.problem) {
-            this.window.note(begun.problem);
+            this.window.sayBeside(begun.problem);
             return;
         }
         this.undo = { rows: [], done: 0, problems: problemsOfUndo(begun), count: begun.items.length,
@@ -317,7 +317,7 @@ export class LogPage {
         const done = count(undo.done, qsTr("1 file taken back"), qsTr("%1 files taken back"));
         const parts = [done]
             .concat(undo.problems.length > 0 ? [problemsText(undo.problems.length)] : [], problem ? [problem] : []);
-        this.window.note((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));
+        this.window.sayBeside((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));
         this.show();
     }
 }

@@ -54,7 +54,7 @@ export class MetadataPage {
     }
 
     connect() {
-        const join = (signal, name, deed) => signal.connect(guard("metadata." + name, deed));
+        const join = (signal, name, handler) => signal.connect(guard("metadata." + name, handler));
         const control = (name) => this.form.control(name);
         const clicks = {
             metaAddPictures: () => this.window.input.addPictures(), metaAddFolder: () => this.window.input.addFolder(),
@@ -104,7 +104,7 @@ export class MetadataPage {
 
     mayLeave() {
         if (this.job.running) {
-            this.window.note(qsTr("Comments are being written. Cancel it first, or wait."));
+            this.window.sayBeside(qsTr("Comments are being written. Cancel it first, or wait."));
         }
         this.keepText();
         return !this.job.running;
@@ -121,8 +121,8 @@ export class MetadataPage {
 
     showLog() {
         this.window.form.control("sideBar").currentAction = "log";
-        if (this.window.pages.shown !== null && this.window.pages.shown.showComments !== undefined) {
-            this.window.pages.shown.showComments();
+        if (this.window.pageHost.shown !== null && this.window.pageHost.shown.showComments !== undefined) {
+            this.window.pageHost.shown.showComments();
         }
     }
 
@@ -202,13 +202,13 @@ export class MetadataPage {
 
     copy() {
         const lines = this.tree.copyChosen();
-        this.window.note(lines > 0
+        this.window.sayBeside(lines > 0
                          ? count(lines, qsTr("1 line copied"), qsTr("%1 lines copied"))
                          : qsTr("Choose a property to copy first."));
     }
 
     copyPlace(form) {
-        this.window.note(fill(qsTr("Copied: %1"), this.tree.copyPlace(form)));
+        this.window.sayBeside(fill(qsTr("Copied: %1"), this.tree.copyPlace(form)));
     }
 
     text() {
@@ -236,13 +236,13 @@ export class MetadataPage {
         if (!busy) {
             control("metaNote").text = this.note(problem);
         }
-        control("metaComment").readOnly = busy || (isOne && !this.holds);
-        this.form.setLook("metaComment", "holds", String(!isOne || this.holds));
+        const holds = !isOne || this.holds;
+        control("metaComment").readOnly = busy || !holds;
+        this.form.setLook("metaComment", "holds", String(holds));
         control("metaToken").visible = !isOne;
         control("metaScope").enabled = !busy && this.path !== "";
         this.showWriting(!isOne && !busy, problem === "");
-        control("metaApply").visible = isOne && !busy;
-        control("metaApply").enabled = this.path !== "" && this.holds && this.text() !== this.read;
+        this.showApply(isOne && !busy);
         this.showRevert(!busy);
         control("metaLog").enabled = !busy;
         for (const name of ["metaStop", "metaProgress"]) {
@@ -256,6 +256,11 @@ export class MetadataPage {
         this.form.control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
         const found = count(this.tree.shownCount, qsTr("1 property"), qsTr("%1 properties"));
         this.form.control("metaFound").text = this.form.control("metaSearch").text.trim() === "" ? "" : found;
+    }
+
+    showApply(on) {
+        this.form.control("metaApply").visible = on;
+        this.form.control("metaApply").enabled = this.path !== "" && this.holds && this.text() !== this.read;
     }
 
     showRevert(on) {
@@ -373,6 +378,6 @@ export class MetadataPage {
         this.edits = isRevert ? [] : work.edits;
         this.path = "";
         this.showCurrent();
-        this.window.note(commentSummary(work, done));
+        this.window.sayBeside(commentSummary(work, done));
     }
 }

@@ -95,7 +95,7 @@ function fits(step, text, names) {
  * gives {text, short: it stayed as it was because it is too short, cut: "half" or "mark" if a character was parted, stop: the
  * steps behind are passed over}. names has the operations.
  */
-const DEEDS = {
+const STEPS = {
     text: { standard: { pattern: "{name}", counterStep: 1, counterScope: "run" }, parts: false },
     "case": { standard: { mode: "1" }, parts: true,
               apply: (step, text, names) => ({ text: names.hChangeCaseFiles(text, step.mode) }) },
@@ -117,7 +117,7 @@ const DEEDS = {
             apply: (step, text, names) => (fits(step, text, names) ? { text: text } : { text: text, stop: true }) },
 };
 
-export const KINDS = Object.keys(DEEDS);
+export const KINDS = Object.keys(STEPS);
 
 /** Settings of steps that can only be one of a few words. */
 export const WORDS = {
@@ -128,12 +128,12 @@ export const WORDS = {
 
 /** A new step of a kind, with some settings of its own. */
 export function newStep(kind, changes) {
-    return Object.assign({ kind: kind, on: true }, DEEDS[kind].parts ? { part: "name" } : {}, DEEDS[kind].standard,
+    return Object.assign({ kind: kind, on: true }, STEPS[kind].parts ? { part: "name" } : {}, STEPS[kind].standard,
                          changes || {});
 }
 
 export function hasParts(kind) {
-    return DEEDS[kind].parts;
+    return STEPS[kind].parts;
 }
 
 function isValue(field, value, standard) {
@@ -145,7 +145,7 @@ function isValue(field, value, standard) {
 
 /** The step that was kept somewhere, or null if it is none: kinds and words that are not known are not guessed at. */
 export function stepFrom(kept) {
-    if (kept === null || typeof kept !== "object" || DEEDS[kept.kind] === undefined) {
+    if (kept === null || typeof kept !== "object" || STEPS[kept.kind] === undefined) {
         return null;
     }
     const step = newStep(kept.kind);
@@ -186,11 +186,11 @@ function nextIndex(step, counters, context) {
     return index * step.counterStep;
 }
 
-/** A step, made ready to be applied to many names: apply(text, context) as in DEEDS; see NameChain. */
+/** A step, made ready to be applied to many names: apply(text, context) as in STEPS; see NameChain. */
 export function prepared(step, names) {
     if (step.kind !== "text") {
         return { step: step, needsFacts: false, counts: false,
-                 apply: (text) => DEEDS[step.kind].apply(step, text, names) };
+                 apply: (text) => STEPS[step.kind].apply(step, text, names) };
     }
     const parts = parse(step.pattern);
     const counters = Object.create(null);

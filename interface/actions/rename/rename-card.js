@@ -53,12 +53,12 @@ const PLACEHOLDERS = { pieces: () => qsTr("all, or 2,1 or -1"), pattern: () => q
 
 export class RenameCard {
     /**
-     * @param deeds  what the pane does: changed(index), toggle(index), move(index, by), drag(index, by), drop(), remove(index),
+     * @param handlers  what the pane does: changed(index), toggle(index), move(index, by), drag(index, by), drop(), remove(index),
      *               offerTokens(index, control)
      */
-    constructor(index, deeds) {
+    constructor(index, handlers) {
         this.index = index;
-        this.deeds = deeds;
+        this.handlers = handlers;
         this.step = null;
         this.filling = false;
         this.shownFields = [];
@@ -72,18 +72,18 @@ export class RenameCard {
 
     connect() {
         const control = (name) => this.form.control(name);
-        const deeds = this.deeds;
+        const handlers = this.handlers;
         control("cardOn").toggled.connect(guard("cardOn", () => this.set("on", control("cardOn").checked)));
-        control("cardTitle").clicked.connect(guard("cardTitle", () => deeds.toggle(this.index)));
-        control("cardDelete").clicked.connect(guard("cardDelete", () => deeds.remove(this.index)));
-        control("cardRemove").triggered.connect(guard("cardRemove", () => deeds.remove(this.index)));
-        control("cardUp").triggered.connect(guard("cardUp", () => deeds.move(this.index, -1)));
-        control("cardDown").triggered.connect(guard("cardDown", () => deeds.move(this.index, 1)));
-        control("cardHandle").stepped.connect(guard("cardHandle", (by) => deeds.move(this.index, by)));
-        control("cardHandle").dragged.connect(guard("cardHandle", (by) => deeds.drag(this.index, by)));
-        control("cardHandle").released.connect(guard("cardHandle", () => deeds.drop()));
+        control("cardTitle").clicked.connect(guard("cardTitle", () => handlers.toggle(this.index)));
+        control("cardDelete").clicked.connect(guard("cardDelete", () => handlers.remove(this.index)));
+        control("cardRemove").triggered.connect(guard("cardRemove", () => handlers.remove(this.index)));
+        control("cardUp").triggered.connect(guard("cardUp", () => handlers.move(this.index, -1)));
+        control("cardDown").triggered.connect(guard("cardDown", () => handlers.move(this.index, 1)));
+        control("cardHandle").stepped.connect(guard("cardHandle", (by) => handlers.move(this.index, by)));
+        control("cardHandle").dragged.connect(guard("cardHandle", (by) => handlers.drag(this.index, by)));
+        control("cardHandle").released.connect(guard("cardHandle", () => handlers.drop()));
         control("cardTokens").clicked.connect(guard("cardTokens",
-                                                    () => deeds.offerTokens(this.index, control("cardTokens"))));
+                                                    () => handlers.offerTokens(this.index, control("cardTokens"))));
         for (const name of ["firstText", "secondText", "thirdText"]) {
             control(name).textChanged.connect(guard(name, () => this.setField(name, control(name).text)));
         }
@@ -106,7 +106,7 @@ export class RenameCard {
     set(setting, value) {
         if (!this.filling && this.step !== null && this.step[setting] !== value) {
             this.step[setting] = value;
-            this.deeds.changed(this.index);
+            this.handlers.changed(this.index);
         }
     }
 

@@ -22,10 +22,10 @@ const CARD_PX = 84;
 const SAMPLE_FOLDER = "/" + qsTr("Holiday 2026");
 
 export class RenamePane extends Pane {
-    /** @param window  the main window's parts: services, pictures */
-    constructor(settings, changed, window) {
+    /** @param parts  what panes get of the window: services is used */
+    constructor(settings, changed, parts) {
         super("actions/rename/rename-pane.ui", rename, settings, changed);
-        this.window = window;
+        this.services = parts.services;
         this.cards = [];
         this.open = -1;
         this.dragged = null;
@@ -65,7 +65,7 @@ export class RenamePane extends Pane {
         menu.chosen.connect(guard("tokenMenu", (text) => this.insertToken(text)));
     }
 
-    deeds() {
+    cardHandlers() {
         return {
             changed: (index) => this.stepChanged(index), toggle: (index) => this.toggle(index),
             move: (index, by) => this.move(index, by),
@@ -98,7 +98,7 @@ export class RenamePane extends Pane {
     showCards() {
         const steps = this.settings.steps;
         while (this.cards.length < steps.length) {
-            const card = new RenameCard(this.cards.length, this.deeds());
+            const card = new RenameCard(this.cards.length, this.cardHandlers());
             this.form.place("steps", card.form);
             this.cards.push(card);
         }
@@ -207,7 +207,7 @@ export class RenamePane extends Pane {
     }
 
     factsOf(path) {
-        return this.photo === null ? SAMPLE.facts : this.window.services.facts.of(path);
+        return this.photo === null ? SAMPLE.facts : this.services.facts.of(path);
     }
 
     // A counter shows its first number, on the first file.
@@ -215,7 +215,7 @@ export class RenamePane extends Pane {
         const areFolders = this.settings.what === "folders";
         const sample = areFolders ? SAMPLE_FOLDER : SAMPLE.path;
         const path = this.photo !== null ? this.photo.path : sample;
-        const chain = rename.chainOf(this.settings, this.window.services);
+        const chain = rename.chainOf(this.settings, this.services);
         const facts = chain.needsFacts ? this.factsOf(path) : null;
         const made = chain.apply(path, areFolders, facts, true);
         let before = splitPath(path).name;

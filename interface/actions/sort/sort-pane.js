@@ -34,11 +34,11 @@ function tokenEntries() {
 }
 
 export class SortPane extends Pane {
-    constructor(settings, changed, window) {
+    /** @param parts  what panes get of the window: list is used */
+    constructor(settings, changed, parts) {
         super("actions/sort/sort-pane.ui", sort, settings, changed);
         this.recent = recall(defaults, KEY, { folders: [] }).folders;
-        this.window = window;
-        this.tree = new SortTree(window);
+        this.tree = new SortTree(parts.list);
         this.beside = this.tree.form;
         this.services = null;
         this.caret = 0;

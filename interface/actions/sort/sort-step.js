@@ -23,8 +23,8 @@ export const defaults = {
 /** The settings in a few words, for the log. */
 export function describe(settings) {
     const words = { move: qsTr("move into %1"), copy: qsTr("copy into %1"), link: qsTr("link into %1") };
-    const deed = fill(words[settings.kind], settings.pattern);
-    return settings.destination.kind === "folder" ? fill(qsTr("%1 in %2"), deed, settings.destination.path) : deed;
+    const text = fill(words[settings.kind], settings.pattern);
+    return settings.destination.kind === "folder" ? fill(qsTr("%1 in %2"), text, settings.destination.path) : text;
 }
 
 /** Messages on what is wrong with the settings; empty if a run can start. */

@@ -24,9 +24,9 @@ export function summaryText(ready, folders, fresh) {
 }
 
 export class SortTree {
-    /** @param window  the main window's parts: pictures, livePlan */
-    constructor(window) {
-        this.window = window;
+    /** @param list  the list of the window, of which the files of a folder are shown */
+    constructor(list) {
+        this.list = list;
         this.form = shell.loadForm("actions/sort/sort-tree.ui");
         this.tree = this.form.control("sortTree");
         this.book = null;
@@ -113,9 +113,9 @@ export class SortTree {
         const chosen = this.book === null ? "" : this.tree.chosen;
         this.form.control("sortShowAll").visible = chosen !== "";
         if (chosen === "") {
-            this.window.pictures.showAll();
+            this.list.showAll();
         } else {
-            this.window.pictures.showOnly(rowsBelow(this.book, chosen).map((row) => this.ids[row]));
+            this.list.showOnly(rowsBelow(this.book, chosen).map((row) => this.ids[row]));
         }
     }
 }

@@ -22,7 +22,7 @@ export class ActionPage {
             this.presets.settingsChanged();
             changed();
         });
-        this.pages = {};
+        this.made = {};
         this.input = "";
         this.saveFolders = recall(defaults, "SaveFolders", { folders: [] }).folders;
         this.output = new OutputPane(this.saveFolders, this.changed);
@@ -41,7 +41,7 @@ export class ActionPage {
         const named = actionNamed(name);
         const page = this.pageOf(named.usesList ? named : allActions()[0]);
         const action = page.action;
-        Object.keys(this.pages).forEach((other) => this.showPane(this.pages[other], this.pages[other] === page));
+        Object.keys(this.made).forEach((other) => this.showPane(this.made[other], this.made[other] === page));
         window.action = action;
         window.settings = page.settings;
         window.pane = page.pane;
@@ -122,8 +122,8 @@ export class ActionPage {
     /** Called when files that a pane offers may have changed. */
     filesChanged() {
         const before = JSON.stringify(this.window.settings);
-        Object.keys(this.pages).filter((name) => this.pages[name].pane !== null)
-            .forEach((name) => this.pages[name].pane.fill());
+        Object.keys(this.made).filter((name) => this.made[name].pane !== null)
+            .forEach((name) => this.made[name].pane.fill());
         if (JSON.stringify(this.window.settings) !== before && !this.window.run.isBusy()) {
             this.changed();
         }
@@ -137,10 +137,11 @@ export class ActionPage {
     }
 
     pageOf(action) {
-        if (this.pages[action.name] === undefined) {
+        if (this.made[action.name] === undefined) {
             const settings = action.step === undefined
                 ? {} : recall(defaults, "Settings-" + action.name, firstSettings(defaults, action.step.defaults));
-            const pane = action.pane === undefined ? null : new action.pane(settings, this.changed, this.window);
+            const pane = action.pane === undefined
+                ? null : new action.pane(settings, this.changed, this.window.forPanes());
             if (pane !== null) {
                 this.window.form.place("actionHost", pane.form);
                 this.window.help.join(pane.form);
@@ -148,9 +149,9 @@ export class ActionPage {
             if (pane !== null && pane.beside !== undefined) {
                 this.window.form.place("besideHost", pane.beside);
             }
-            this.pages[action.name] = { action: action, settings: settings, pane: pane };
+            this.made[action.name] = { action: action, settings: settings, pane: pane };
         }
-        return this.pages[action.name];
+        return this.made[action.name];
     }
 
     keepSettings() {

@@ -27,9 +27,9 @@ export class Help {
         this.found = null; // what a look came to that nobody was told of yet
         this.asked = false;
         this.join(window.form);
-        const deeds = { about: () => this.about(), update: () => this.check(true), manual: () => this.manual() };
-        Object.keys(deeds)
-            .forEach((name) => window.form.control(name + "Action").triggered.connect(guard(name, deeds[name])));
+        const handlers = { about: () => this.about(), update: () => this.check(true), manual: () => this.manual() };
+        Object.keys(handlers)
+            .forEach((name) => window.form.control(name + "Action").triggered.connect(guard(name, handlers[name])));
         this.started = shell.timer(guard("update", () => this.check(false)));
         if (recall(defaults, KEY, STANDARD).onStart) {
             this.started.start(AFTER_START_MS);

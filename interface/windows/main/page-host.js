@@ -1,7 +1,7 @@
 // Where the pages of the window stand, each made when it is first shown. Services used: none.
 
 /** The pages of the window: [action's name] = page. */
-export class Pages {
+export class PageHost {
     /** @param window  the main window's parts: form */
     constructor(window) {
         this.window = window;

@@ -140,7 +140,7 @@ export class PreviewSide {
         this.large.setCaptions(originalCaption(photo), "");
         this.large.showPicture(path);
         shell.cover(this.large);
-        this.window.showState();
+        this.window.showAll();
     }
 
     closeLarge() {

@@ -22,7 +22,7 @@ export class SupportBar {
     // A panel that was cancelled changes nothing: the bar stays.
     folderChosen() {
         this.show();
-        this.window.page.filesChanged();
+        this.window.actionPage.filesChanged();
     }
 
     putOff() {

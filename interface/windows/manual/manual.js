@@ -20,16 +20,16 @@ export class Manual {
     }
 
     connect() {
-        const deeds = {
+        const handlers = {
             manualBack: () => this.view.goBack(),
             manualForward: () => this.view.goForward(),
             manualFind: () => this.search.setFocus(),
             manualFindNext: () => this.findNext(),
             manualClose: () => this.form.close(),
         };
-        Object.keys(deeds).forEach((name) => this.form.control(name).triggered.connect(guard(name, deeds[name])));
-        this.form.control("manualBackButton").clicked.connect(guard("manual", deeds.manualBack));
-        this.form.control("manualForwardButton").clicked.connect(guard("manual", deeds.manualForward));
+        Object.keys(handlers).forEach((name) => this.form.control(name).triggered.connect(guard(name, handlers[name])));
+        this.form.control("manualBackButton").clicked.connect(guard("manual", handlers.manualBack));
+        this.form.control("manualForwardButton").clicked.connect(guard("manual", handlers.manualForward));
         this.search.returnPressed.connect(guard("manualSearch", () => this.findNext()));
         this.search.textEdited.connect(guard("manualSearch", () => this.note("")));
         this.list.chosen.connect(guard("manualPages", (name) => this.view.open(name)));

@@ -45,14 +45,14 @@ export class Preferences {
     }
 
     connect() {
-        const deeds = {
+        const choices = {
             wishLanguage: (value) => this.chooseLanguage(value),
             wishAppearance: (value) => shell.theme.choose(value),
             wishTaken: (value) => keepWish(defaults, "ifTaken", value),
             wishLogRows: (value) => { keepWish(defaults, "logRows", value); limitRows(value); },
         };
-        Object.keys(deeds).forEach((name) => {
-            this.form.control(name).activated.connect(guard("preferences", () => deeds[name](this.form.value(name))));
+        Object.keys(choices).forEach((name) => {
+            this.form.control(name).activated.connect(guard("preferences", () => choices[name](this.form.value(name))));
         });
         const update = this.form.control("wishUpdate");
         update.toggled.connect(guard("preferences", () => keep(defaults, UPDATE, { onStart: update.checked })));

@@ -24,13 +24,13 @@ function picture(id, path) {
 const A = picture(1, "/p/a.jpg");
 const B = picture(2, "/p/b.jpg");
 
-const DEEDS = [
+const ACTS = [
     ["move", { "/p/b.jpg": "B", "/s/Lake/a.jpg": "A" }, "/s/Lake/a.jpg", "Moved to Lake", "Move to Lake"],
     ["copy", { "/p/a.jpg": "A", "/p/b.jpg": "B", "/s/Lake/a.jpg": "A" }, "/p/a.jpg", "Copied to Lake", "Copy to Lake"],
     ["link", { "/p/a.jpg": "A", "/p/b.jpg": "B", "/s/Lake/a.jpg": "-> /p/a.jpg" }, "/p/a.jpg", "Linked in Lake",
      "Link in Lake"],
 ];
-for (const [kind, disk, place, words, logged] of DEEDS) {
+for (const [kind, disk, place, words, logged] of ACTS) {
     test(kind + " puts a picture into a folder, and is taken back", () => {
         const { sorting, rows, moves } = made();
         const before = JSON.stringify(moves.disk);
@@ -41,7 +41,7 @@ for (const [kind, disk, place, words, logged] of DEEDS) {
               [place, words, "", 1]);
         equal([rows[0].status, rows[0].action, rows[0].inputPath, rows[0].outputPath, rows[0].run],
               ["OK", logged, "/p/a.jpg", "/s/Lake/a.jpg", "run 1"]);
-        equal(sorting.takeBack().deed.id, 1);
+        equal(sorting.takeBack().act.id, 1);
         equal(Object.keys(moves.disk).sort(), Object.keys(JSON.parse(before)).sort());
         equal([sorting.placeOf(A), sorting.wordsFor(A), sorting.countIn("/s/Lake"), sorting.takeBack()],
               ["/p/a.jpg", "", 0, null]);
@@ -103,7 +103,7 @@ test("aFailureIsToldAndLoggedAndChangesNothing", () => {
     equal(sorting.takeBack(), null);
 });
 
-test("anUndoThatFailsLeavesTheDeedStanding", () => {
+test("anUndoThatFailsLeavesTheActStanding", () => {
     const { sorting, moves, rows } = made();
     sorting.put(A, "move", LAKE);
     moves.stuck = true;

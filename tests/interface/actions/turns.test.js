@@ -42,10 +42,10 @@ function asWanted(rows, settings) {
     return turned(settings.flipVertical ? flipVertical(across) : across, settings.angle);
 }
 
-const DEEDS = [];
+const WISHES = [];
 for (const angle of [0, 90, 180, -90]) {
     for (const flips of [[false, false], [true, false], [false, true], [true, true]]) {
-        DEEDS.push({ flipHorizontal: flips[0], flipVertical: flips[1], angle: angle });
+        WISHES.push({ flipHorizontal: flips[0], flipVertical: flips[1], angle: angle });
     }
 }
 
@@ -54,19 +54,19 @@ test("knowsTheTransposedOrientations", () => {
 });
 
 for (let orientation = 1; orientation <= 8; orientation += 1) {
-    for (const deed of DEEDS) {
-        const name = "orientation " + orientation + " " + JSON.stringify(deed);
-        const seen = asWanted(SHOWN[orientation](PICTURE), deed);
+    for (const wish of WISHES) {
+        const name = "orientation " + orientation + " " + JSON.stringify(wish);
+        const seen = asWanted(SHOWN[orientation](PICTURE), wish);
         test("shows what was wanted where the tag is kept: " + name, () => {
-            const steps = operations(forStored(wanted(deed), orientation, true));
+            const steps = operations(forStored(wanted(wish), orientation, true));
             equal(SHOWN[orientation](carriedOut(PICTURE, steps)), seen);
         });
         test("shows what was wanted where the tag is lost: " + name, () => {
-            equal(carriedOut(PICTURE, operations(forStored(wanted(deed), orientation, false))), seen);
+            equal(carriedOut(PICTURE, operations(forStored(wanted(wish), orientation, false))), seen);
         });
         test("needs one flip and one turn at most: " + name, () => {
             for (const keeps of [true, false]) {
-                const steps = operations(forStored(wanted(deed), orientation, keeps));
+                const steps = operations(forStored(wanted(wish), orientation, keeps));
                 isTrue(steps.length === 1
                        || (steps.length === 2 && steps[0].flip !== undefined && steps[1].turn !== undefined));
             }

@@ -9,7 +9,8 @@ const PER_CENT = 3;
 
 export const defaults = {
     percent: 50,
-    output: { fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: "Shrunk", path: "" }, ifTaken: "number", simulation: false },
+    output: { fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: "Shrunk", path: "" },
+              ifTaken: "number", simulation: false },
 };
 
 export const offer = { types: WRITTEN.map((type) => type.id), quality: true, metadata: ["public.tiff"] };
@@ -35,11 +36,13 @@ export function run(photo, settings, services) {
         return refused(planned);
     }
     const output = settings.output;
-    const status = services.image.resizeImage(photo.path, settings.percent, PER_CENT, settings.prefix, output.fileType, output.quality);
+    const status = services.image.resizeImage(photo.path, settings.percent, PER_CENT, settings.prefix, output.fileType,
+                                              output.quality);
     return outcome(status, settings.prefix + planned.name, planned, services);
 }
 
 export function preview(photo, settings, planned) {
-    return { deeds: [{ do: "scale", width: planned.width, height: planned.height }], width: planned.width, height: planned.height,
+    return { deeds: [{ do: "scale", width: planned.width, height: planned.height }], width: planned.width,
+             height: planned.height,
              type: planned.type, quality: settings.output.quality };
 }

@@ -1,0 +1,96 @@
+// What the controls of the main window do: buttons, entries of menus, the list, the views and the appearance. Services used: none.
+
+import { shell } from "quorlin/shell";
+import { guard } from "../../lib/guard.js";
+
+function doingsOf(window) {
+    return {
+        addPictures: () => window.input.addPictures(),
+        addFolder: () => window.input.addFolder(),
+        clear: () => window.pictures.removeAll(),
+        start: () => window.run.start(),
+        pause: () => window.run.togglePause(),
+        cancel: () => window.cancel(),
+        retry: () => window.run.retry(),
+        fullScreen: () => shell.toggleFullScreen(),
+        report: () => window.sayBeside(window.run.saveReport()),
+        saveAs: () => window.saveAs(),
+        showFailed: () => window.showProblemsOnly(!window.pictures.problemsOnly),
+        openFolders: () => window.openFolders(),
+        dismiss: () => window.dismiss(),
+        undo: () => window.run.undo(),
+        rename: () => { window.form.control("sideBar").currentAction = "rename"; },
+        quit: () => window.form.close(),
+        paste: () => window.input.paste(),
+        remove: () => window.pictures.removeSelected(),
+        selectAll: () => window.pictures.selectAll(),
+        next: () => window.pictures.step(1),
+        previous: () => window.pictures.step(-1),
+        large: () => window.toggleLarge(),
+        fit: () => window.setFill(false),
+        fill: () => window.setFill(true),
+    };
+}
+
+const BUTTONS = {
+    addPicturesButton: "addPictures", emptyAddPictures: "addPictures", addFolderButton: "addFolder",
+    emptyAddFolder: "addFolder", clearButton: "clear", startButton: "start", pauseButton: "pause",
+    cancelButton: "cancel", retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report",
+    openFolderButton: "openFolders",
+    showFailedButton: "showFailed", dismissButton: "dismiss", undoButton: "undo",
+};
+
+const ENTRIES = [
+    "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "saveAs", "quit",
+    "paste", "remove", "selectAll", "next", "previous", "large", "fit", "fill", "showFailed", "undo", "rename",
+];
+
+function connectControls(window) {
+    const doings = doingsOf(window);
+    for (const name of Object.keys(BUTTONS)) {
+        window.form.control(name).clicked.connect(guard(name, doings[BUTTONS[name]]));
+    }
+    for (const name of ENTRIES) {
+        window.form.control(name + "Action").triggered.connect(guard(name, doings[name]));
+    }
+}
+
+function connectViews(window) {
+    const list = window.pictures;
+    const large = guard("large", () => window.toggleLarge());
+    const step = guard("step", (rows) => list.step(rows));
+    list.countChanged.connect(guard("list", () => window.listChanged()));
+    list.orderChanged.connect(guard("order", () => window.orderChanged()));
+    list.currentPictureChanged.connect(guard("current", () => window.showCurrent()));
+    list.largePreviewRequested.connect(large);
+    for (const view of [window.preview.view, window.preview.large]) {
+        view.stepRequested.connect(step);
+        view.largePreviewRequested.connect(large);
+    }
+    window.preview.large.closeRequested.connect(guard("large.close", () => window.cancel()));
+    window.drop.dropped.connect(guard("drop", (paths) => window.input.addPaths(paths)));
+    window.form.control("fitFill").chosen.connect(guard("fit", (index) => window.setFill(index === 1)));
+}
+
+function connectAppearance(window) {
+    const names = { system: "systemAppearanceAction", light: "lightAppearanceAction", dark: "darkAppearanceAction" };
+    window.form.group([names.system, names.light, names.dark]);
+    window.form.group(["fitAction", "fillAction"]);
+    for (const choice of Object.keys(names)) {
+        const action = window.form.control(names[choice]);
+        action.triggered.connect(guard("appearance", () => shell.theme.choose(choice)));
+    }
+    const show = () => {
+        window.form.setIcon("emptyIcon", "pictures-large");
+        window.form.control(names[shell.theme.choice()]).checked = true;
+    };
+    shell.theme.changed.connect(guard("theme", show));
+    show();
+}
+
+/** Joins all controls of the window to what they do. */
+export function connect(window) {
+    connectControls(window);
+    connectViews(window);
+    connectAppearance(window);
+}

@@ -1,0 +1,321 @@
+// The main window: its parts, what of them can be used, and how an action or a page is chosen.
+// Services used: defaults, and what the parts of the window use.
+
+import { defaults } from "quorlin/defaults";
+import { shell } from "quorlin/shell";
+import { actionNamed } from "../../actions/actions.js";
+import { guard } from "../../lib/guard.js";
+import { keep, recall } from "../../lib/store.js";
+import { makeServices } from "../../services.js";
+import { SaveAs } from "../save-as/save-as.js";
+import { ActionPage, fillSideBar, lockSideBar } from "./action-page.js";
+import { Controllers } from "./controllers.js";
+import { Help } from "./help.js";
+import { Input } from "./input.js";
+import { PageHost } from "./page-host.js";
+import { PreviewSide } from "./preview-side.js";
+import { Printing } from "./printing.js";
+import { showStatusBar } from "./status-bar.js";
+import { SupportBar } from "./support-bar.js";
+
+const SAID_MS = 8000;
+// What adds to the list or changes settings.
+const INPUT = [
+    "addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction", "renameAction",
+    "headHost", "actionHost", "outputHost", "moveSimulation", "emptyAddPictures", "emptyAddFolder",
+];
+
+export class MainWindow {
+    constructor() {
+        this.form = shell.loadForm("windows/main/main.ui");
+        /** The list. */
+        this.pictures = this.form.control("pictures");
+        this.services = makeServices();
+        this.controllers = new Controllers(this.form);
+        /** The action that works on the list, its settings and its pane, or null; all three are set by ActionPage. */
+        this.action = null;
+        this.settings = null;
+        this.pane = null;
+        /** Of the manner of that action: what runs it and what shows its plan. */
+        this.manner = null;
+        this.run = null;
+        this.livePlan = null;
+        this.madeParts = [];
+        /** The summary of the newest plan. */
+        this.planned = {};
+        /** The action whose page is shown instead of list and settings, or null. */
+        this.shownPage = null;
+        /** What is said for a while in the status bar; "" for nothing. */
+        this.said = "";
+        this.saidTimer = shell.timer(guard("said", () => this.endSaying()));
+        this.saving = null;
+        this.drop = shell.dropTarget(this.form);
+        this.drop.setMessage(qsTr("Drop to add pictures and folders"));
+        this.makeParts();
+    }
+
+    // In an order in which each finds those that it needs.
+    makeParts() {
+        this.pageHost = new PageHost(this);
+        this.preview = new PreviewSide(this);
+        this.help = new Help(this);
+        this.printing = new Printing(this);
+        this.actionPage = new ActionPage(this, () => this.settingsChanged());
+        this.input = new Input(this);
+        this.support = new SupportBar(this);
+        this.shownPage = this.action.page === undefined ? null : this.action;
+        this.pageHost.show(this.shownPage);
+        fillSideBar(this, (name) => this.chooseAction(name));
+        this.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill")];
+    }
+
+    /** What a pane gets of the window: the list, the services, and sayBeside(). */
+    forPanes() {
+        return { list: this.pictures, services: this.services, sayBeside: (text) => this.sayBeside(text) };
+    }
+
+    /** Shows all as it is kept in the settings, and the window itself. */
+    open() {
+        this.setFill(recall(defaults, "Preview", { fill: false }).fill);
+        this.form.onClose(guard("close", () => this.mayClose()));
+        this.form.setSplit("bodySplitter", [196, 884, 346]);
+        this.form.setSplit("centreSplitter", [560, 300]);
+        this.form.setSplit("listSplitter", [600, 284]);
+        this.form.remember("MainWindow");
+        shell.setMainForm(this.form);
+        this.showTitle();
+        this.showCurrent();
+        this.showAll();
+    }
+
+    /** Takes the run and the plan of a manner. Actions of one manner share them; they are made when the first of these is shown. */
+    use(manner) {
+        let parts = this.madeParts.find((each) => each.manner === manner);
+        if (parts === undefined) {
+            parts = { manner: manner, run: null, livePlan: null };
+            parts.run = manner.makeRun(this, () => this.showAll());
+            parts.livePlan = manner.makePlan(this, (summary) => { this.planned = summary; this.showStart(); });
+            this.madeParts.push(parts);
+        }
+        if (this.livePlan !== null) {
+            this.livePlan.stop();
+        }
+        this.manner = manner;
+        this.run = parts.run;
+        this.livePlan = parts.livePlan;
+        this.planned = parts.livePlan.nothing();
+        this.run.look();
+    }
+
+    /** Reads the current file again, because it was replaced. */
+    reloadPreview() {
+        this.preview.reload();
+        this.showCurrent();
+    }
+
+    endSaying() {
+        this.said = "";
+        showStatusBar(this);
+    }
+
+    showStart() {
+        const busy = this.run.isBusy();
+        const manner = this.manner;
+        const ready = manner.isReady(this) && this.shownPage === null
+            && this.action.step.validate(this.settings).length === 0;
+        const control = (name) => this.form.control(name);
+        const note = manner.startNote(this);
+        control("startButton").text = manner.startText(this);
+        control("startButton").enabled = ready && !busy;
+        control("startAction").enabled = ready && !busy;
+        control("startAction").text = manner.startText(this);
+        this.form.setLook("startButton", "replaces", String(manner.replaces(this)));
+        control("startNote").text = note;
+        control("startNote").visible = note !== "";
+    }
+
+    // A page that works on the list has its settings beside it, if it has a pane.
+    showCentre(any) {
+        const page = this.shownPage;
+        const listed = page === null;
+        const control = (name) => this.form.control(name);
+        control("centre").currentIndex = listed ? Number(any) : 2;
+        control("settings").visible = listed || (page.usesList && this.pane !== null);
+        control("startHost").visible = listed;
+        control("fitFill").visible = listed && this.manner.preview;
+    }
+
+    // What can be done with the list.
+    showInputState() {
+        const busy = this.run.isBusy();
+        const any = this.pictures.count > 0;
+        const onList = this.shownPage === null || this.shownPage.usesList;
+        const enable = (names, on) => names.forEach((name) => { this.form.control(name).enabled = on; });
+        this.showCentre(any);
+        enable(INPUT, !busy);
+        enable(["removeAction", "selectAllAction"], any && !busy && this.shownPage === null);
+        enable(["clearButton", "clearAction", "saveAsAction"], any && !busy && onList);
+        enable(["nextAction", "previousAction", "largeAction"], any && onList);
+        this.drop.open = !busy;
+        this.input.showWords();
+        lockSideBar(this, busy);
+    }
+
+    showAll() {
+        this.showInputState();
+        this.showStart();
+        showStatusBar(this);
+        this.help.tell();
+    }
+
+    showCurrent() {
+        const id = this.pictures.currentId;
+        const photo = id > 0 ? this.pictures.photo(id) : null;
+        if (this.pane === null) {
+            return;
+        }
+        const planned = this.pane.show(photo, this.services);
+        if (this.manner.preview) {
+            this.preview.show(photo, planned);
+        }
+    }
+
+    settingsChanged() {
+        this.actionPage.keepSettings();
+        this.actionPage.showInput();
+        this.planAgain();
+    }
+
+    // What a run made of the pictures is the past now: the list shows what the settings would make of them.
+    planAgain() {
+        this.livePlan.forgetFinal();
+        this.run.dismiss();
+        this.pictures.problemsOnly = false;
+        this.showCurrent();
+        this.livePlan.refresh();
+        this.showAll();
+    }
+
+    listChanged() {
+        if (this.pictures.count > 0 && (this.shownPage === null || !this.shownPage.usesList)) {
+            this.form.control("sideBar").currentAction = this.action.name;
+        }
+        this.pageHost.listChanged();
+        if (!this.run.isBusy()) {
+            this.livePlan.refresh();
+        }
+        if (this.pictures.count === 0) {
+            this.run.dismiss();
+        }
+        this.showAll();
+    }
+
+    // Counters count in the order shown.
+    orderChanged() {
+        if (!this.run.isBusy()) {
+            this.livePlan.refresh();
+        }
+    }
+
+    /** Says something for a while; it takes the place of the summary of a run. */
+    say(text) {
+        this.said = text;
+        this.saidTimer.start(SAID_MS);
+        if (this.run.phase === "ended" && this.pictures.count > 0) {
+            this.run.dismiss();
+        }
+        showStatusBar(this);
+    }
+
+    /** Says something for a while, beside the summary of a run. */
+    sayBeside(text) {
+        this.said = text;
+        this.saidTimer.start(SAID_MS);
+        showStatusBar(this);
+    }
+
+    showTitle() {
+        this.form.control("windowTitle").text = "Quorlin – " + (this.shownPage || this.action).title();
+    }
+
+    // A page takes the place of list and settings. The list stays when another action is chosen; adding to it leads back from
+    // a page that does not work on it.
+    chooseAction(name) {
+        const action = actionNamed(name);
+        if (action === (this.shownPage || this.action)) {
+            return;
+        }
+        if (!this.pageHost.mayLeave()) {
+            this.form.control("sideBar").currentAction = (this.shownPage || this.action).name;
+            return;
+        }
+        this.shownPage = action.page === undefined ? null : action;
+        if (action.usesList && name !== this.action.name) {
+            this.actionPage.choose(name);
+            this.planAgain();
+        } else {
+            this.run.look();
+        }
+        this.pageHost.show(this.shownPage);
+        this.showTitle();
+        this.showAll();
+    }
+
+    setFill(on) {
+        this.preview.view.fill = on;
+        this.form.control("fitFill").selectedSegment = on ? 1 : 0;
+        this.form.control(on ? "fillAction" : "fitAction").checked = true;
+        keep(defaults, "Preview", { fill: on });
+    }
+
+    showProblemsOnly(on) {
+        this.pictures.problemsOnly = on;
+        showStatusBar(this);
+    }
+
+    mayClose() {
+        if (!this.run.isBusy()) {
+            this.livePlan.stop();
+            return this.pageHost.mayLeave();
+        }
+        const answer = shell.ask({ title: qsTr("A run is under way"), text: qsTr("Stop the run and close the window?"),
+            detail: qsTr("What is finished stays; nothing half written is left."),
+            buttons: [qsTr("Stop and Close"), qsTr("Keep Running")], initial: 1, escape: 1, check: "" });
+        if (answer.button === 0) {
+            this.run.cancel();
+        }
+        return answer.button === 0;
+    }
+
+    cancel() {
+        if (this.preview.large.visible) {
+            this.preview.closeLarge();
+        } else if (this.run.isBusy()) {
+            this.run.cancel();
+        }
+        showStatusBar(this);
+    }
+
+    toggleLarge() {
+        this.preview.toggleLarge();
+        showStatusBar(this);
+    }
+
+    dismiss() {
+        this.run.dismiss();
+        this.said = "";
+        this.showProblemsOnly(false);
+    }
+
+    openFolders() {
+        this.run.folders().slice(0, 3).forEach((folder) => shell.openFolder(folder));
+    }
+
+    // Made when it is first used.
+    saveAs() {
+        if (this.saving === null) {
+            this.saving = new SaveAs(this);
+        }
+        this.saving.open();
+    }
+}
