@@ -45,7 +45,7 @@ type ImageSource = object;
 /** Only to be compared with null. */
 type Connection = object;
 /** A stand-in from "quorlin/controls", or a control of a window. */
-type Control = object;
+type Control = any;
 type fieldsOf<T> = Partial<T>;
 
 /** What an object tells: each function that is connected is called each time, as long as the object lives. */

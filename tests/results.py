@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
 """results.py passed|skipped FILE...: what the files that ctest --output-junit wrote come to, in one line.
+   results.py demand FILE NAME...: fails where one of these tests was skipped or is not there.
 
 passed:  how many programs passed, failed and were skipped.
 skipped: how many tests were skipped because the corpus of real pictures is not there: whole programs, and single functions
@@ -42,5 +43,20 @@ def skipped(paths):
     return f"{count} {'test was' if count == 1 else 'tests were'} skipped for lack of the corpus"
 
 
+def not_run(path, names):
+    """Those of the tests that were left out."""
+    there = {case.get("name") for case in cases([path]) if status_of(case) != "notrun"}
+    return [name for name in names if name not in there]
+
+
+def demand(path, names):
+    left_out = not_run(path, names)
+    for name in left_out:
+        print(f"{name} was left out")
+    return 1 if left_out else 0
+
+
 if __name__ == "__main__":
+    if sys.argv[1] == "demand":
+        sys.exit(demand(sys.argv[2], sys.argv[3:]))
     print({"passed": passed, "skipped": skipped}[sys.argv[1]](sys.argv[2:]))

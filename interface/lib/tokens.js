@@ -300,10 +300,10 @@ const NO_FACTS = { taken: "", created: "", changed: "", camera: "", lens: "", ty
  * The text for one file.
  *
  * @param parts    of parse()
- * @param context  {path; facts: of files.facts, or null; index: how many files came before this one, 0 by default; standIn:
+ * @param {any} context  path; facts: of files.facts, or null; index: how many files came before this one, 0 by default; standIn:
  *                 (token, form) => text for a missing value, "" by default; clean: (value) => text, what becomes of each value
- *                 before it is put in}
- * @return {text, missing: names of the tokens that this file has no value for}
+ *                 before it is put in
+ * @return the text, and missing: names of the tokens that this file has no value for
  */
 export function expand(parts, context) {
     const path = splitPath(context.path);

@@ -6,8 +6,7 @@ export const STANDARD = { onStart: false };
 /**
  * @param fields   label, and two texts, of a newer version, or null
  * @param problem  why nobody knows whether there is one, or null
- * @return {kind: "newer", version, notes}, {kind: "current"}, or {kind: "failed"} where nobody could be asked or the answer
- *         made no sense
+ * @return kind: "newer" with version and notes, "current", or "failed" where nobody could be asked or the answer made no sense
  */
 export function outcome(fields, problem) {
     if (fields === null) {

@@ -31,7 +31,7 @@ export class PresetStore {
     /**
      * @param makeDb    makes a dbViewController
      * @param files     readText, writeText, info and setAsideUnusableDatabase are used
-     * @param kinds     {form, standard, starting} by the name of the action: see presetKinds() of actions.js
+     * @param kinds     what presets are kept of: see presetKinds() of actions.js
      */
     constructor(makeDb, files, kinds) {
         this.makeDb = makeDb;

@@ -129,7 +129,7 @@ function obstacle(comments, edit) {
  * A generator that gives pictures their old comments again; yields what writeComment() gives, with undoes, the run of the edit. A
  * comment that somebody changed since stays.
  *
- * @param edits  {path, before, after, run}, in the order in which they are reverted: the newest first
+ * @param edits  each has path, before, after and run; in the order in which they are reverted: the newest first
  */
 export function* reverting(comments, edits) {
     for (const edit of edits) {

@@ -23,7 +23,7 @@ export function showRow(list, id, plan, i, paths) {
 /**
  * A generator that plans and shows the plan. It yields between slices, and returns the plan with its states.
  *
- * @param rows     {ids, paths} of the list
+ * @param rows     ids and paths of the list
  * @param settings of the action that the window shows
  * @param isFinal  whether the row with an id is left as it is
  */

@@ -29,17 +29,21 @@ export class LivePlan {
         return { ready: 0 };
     }
 
-    /** A generator that plans; take() gets what it yields. */
-    work() {
+    /**
+     * A generator that plans; take() gets what it yields.
+     *
+     * @return {any}
+     */
+    work(_ids, _settings) {
         throw new Error("A plan must say how it is made.");
     }
 
-    take() {
+    take(_part, _summary) {
         return undefined;
     }
 
     /** Called with what the generator returned. */
-    ended() {
+    ended(_value, _summary) {
         return undefined;
     }
 

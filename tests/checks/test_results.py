@@ -40,6 +40,10 @@ class Results(unittest.TestCase):
     def test_only_what_lacks_the_corpus_is_said_to(self):
         self.assertEqual(results.skipped([self.path]), "3 tests were skipped for lack of the corpus")
 
+    def test_what_is_demanded_must_have_run(self):
+        self.assertEqual(results.not_run(self.path, ["good", "bad"]), [])
+        self.assertEqual(results.not_run(self.path, ["good", "skipped", "nowhere"]), ["skipped", "nowhere"])
+
 
 if __name__ == "__main__":
     unittest.main()

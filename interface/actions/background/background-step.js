@@ -110,7 +110,7 @@ function putBand(from, settings, code, services) {
 
 /** Writes the picture as settings.prefix + name, where plan() tells the name; see the Resize step. */
 export function run(photo, settings, services) {
-    const planned = plan(photo, settings, services);
+    const planned = plan(photo, settings);
     if (planned.status !== "ready") {
         return refused(planned);
     }

@@ -130,6 +130,7 @@ export function run(photo, settings, services) {
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned) {
     const part = planned.inside;
+    /** @type {any[]} */
     const deeds = [{ do: "cut", x: part.x, y: part.y, width: part.width, height: part.height }];
     return { deeds: writtenType(planned.type).alpha ? deeds : deeds.concat([{ do: "flatten" }]), width: planned.width,
              height: planned.height, type: planned.type, quality: settings.output.quality };

@@ -17,8 +17,8 @@ export class HandPane extends Pane {
         super("actions/hand/hand-pane.ui", hand, settings, changed);
         this.sayBeside = parts.sayBeside;
         this.list = this.form.control("handSlots");
-        this.countIn = () => 0;
-        this.chosen = () => undefined;
+        this.countIn = (_folder) => 0;
+        this.chosen = (_slot, _row) => undefined;
         this.picture = "";
         this.problems = [];
         this.join();

@@ -158,7 +158,7 @@ export function* rows(paths, settings, services) {
         }
     }
     nameFollowers(found, paths);
-    found.short = context.short;
+    Object.assign(found, { short: context.short });
     if (from < found.length) {
         yield { rows: found, from: from, to: found.length };
     }

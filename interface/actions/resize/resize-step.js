@@ -121,6 +121,7 @@ export function run(photo, settings, services) {
  */
 export function preview(photo, settings, planned) {
     const part = planned.part;
+    /** @type {any[]} */
     const deeds = part.width < 1 || part.height < 1
         ? [{ do: "cut", x: Math.round(part.left * photo.width), y: Math.round(part.top * photo.height),
              width: Math.round(part.width * photo.width), height: Math.round(part.height * photo.height) }]

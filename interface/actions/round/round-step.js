@@ -78,7 +78,7 @@ export function plan(photo, settings) {
 
 /** Writes the cut picture as settings.prefix + name, where plan() tells the name; see the Resize step. */
 export function run(photo, settings, services) {
-    const planned = plan(photo, settings, services);
+    const planned = plan(photo, settings);
     if (planned.status !== "ready") {
         return refused(planned);
     }
@@ -95,6 +95,7 @@ export function run(photo, settings, services) {
 
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned) {
+    /** @type {any[]} */
     const deeds = [{ do: "round", shape: SHAPE_CODES[settings.shape], radius: settings.radius,
                      color: settings.background ? settings.color : "", band: settings.background ? settings.band : 0 }];
     return { deeds: writtenType(planned.type).alpha ? deeds : deeds.concat([{ do: "flatten" }]), width: planned.width,

@@ -109,8 +109,8 @@ export class OutputPane {
             } else {
                 this.useFolder(folder);
             }
-        } else if (value.startsWith(FOLDER)) {
-            this.useFolder(value.slice(FOLDER.length));
+        } else if (String(value).startsWith(FOLDER)) {
+            this.useFolder(String(value).slice(FOLDER.length));
         } else {
             this.output.destination.kind = value;
             this.showDestinations();

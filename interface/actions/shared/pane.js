@@ -47,7 +47,7 @@ export class Pane {
     }
 
     /** Called after a person changed one of the settings, before anybody is told: what else does that change? */
-    adjust() {
+    adjust(_field) {
         this.showState();
     }
 

@@ -173,7 +173,7 @@ export class SortPane extends Pane {
         }
         const folder = value === "choose"
             ? shell.chooseFolder(qsTr("Sort into"), this.settings.destination.path || files.home)
-                                          : value.slice(FOLDER.length);
+            : String(value).slice(FOLDER.length);
         if (folder === null) {
             this.showDestinations();
         } else {

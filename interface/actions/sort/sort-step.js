@@ -111,7 +111,7 @@ export function* rows(paths, settings, services) {
             since = Date.now();
         }
     }
-    found.book = context.book;
+    Object.assign(found, { book: context.book });
     if (from < found.length) {
         yield { rows: found, from: from, to: found.length };
     }

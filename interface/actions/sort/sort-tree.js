@@ -62,13 +62,11 @@ export class SortTree {
     * fillTree(book, shown) {
         const sum = { used: 0, fresh: 0 };
         this.tree.beginFolders();
-        const parts = treeParts(book);
-        for (let part = parts.next(); !part.done; part = parts.next()) {
-            part.value.filter((row) => row.above === "")
-                .forEach((row) => { row.name = shortPath(row.path, files.home); });
-            sum.used += part.value.filter((row) => row.count > 0).length;
-            sum.fresh += part.value.filter((row) => row.isNew).length;
-            this.tree.addFolders(part.value);
+        for (const rows of treeParts(book)) {
+            rows.filter((row) => row.above === "").forEach((row) => { row.name = shortPath(row.path, files.home); });
+            sum.used += rows.filter((row) => row.count > 0).length;
+            sum.fresh += rows.filter((row) => row.isNew).length;
+            this.tree.addFolders(rows);
             yield shown;
         }
         return sum;

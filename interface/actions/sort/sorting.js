@@ -176,7 +176,7 @@ function withoutLaterDates(levels) {
  *
  * @param ready  of prepared()
  * @param facts  of files.facts; may be null where needsFacts is false
- * @param rule   {undated: one of UNDATED, undatedName}
+ * @param rule   has undated, one of UNDATED, and undatedName
  * @param index  how many files came before this one
  *
  * A file without a date has one folder for all the levels that name one. Where it is to be left, `stays` is true.

@@ -123,6 +123,7 @@ export function run(photo, settings, services) {
 
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned) {
+    /** @type {any[]} */
     const deeds = operations(wanted(settings)).map((operation) => (operation.turn !== undefined
         ? { do: "turn", degrees: shortestTurn(operation.turn) }
         : { do: "flip", axis: operation.flip }));

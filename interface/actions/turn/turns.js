@@ -69,6 +69,7 @@ export function operations(element) {
     if (element.mirror && element.angle === 180) {
         return [{ flip: "vertical" }];
     }
+    /** @type {any[]} */
     const flips = element.mirror ? [{ flip: "horizontal" }] : [];
     const turns = element.angle !== 0 || !element.mirror ? [{ turn: shortestTurn(element.angle) }] : [];
     return flips.concat(turns);
