@@ -2,7 +2,6 @@
 //     quorlin-script interface/batch.js OUTDIR FILE...
 // Every file gets a longest side of 1600 pixels in its own type; a name that is taken is numbered. Prints what was written
 // and where. The exit status is 0 if every picture became a file, 1 if not, 2 for a bad command line.
-// Services used: those of the step, files.
 
 import { files } from "quorlin/files";
 import { copyOf } from "./lib/copies.js";

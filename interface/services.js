@@ -1,5 +1,4 @@
 // The services that the steps use, made once for a window or a batch, with stand-ins on the outlets of the operations.
-// Services used: ZtImageHandling, cMConversion, cNSFileHandling, cNSStringHandling, Picture, files, moves, pictures.
 
 import { cMConversion, cNSFileHandling, cNSStringHandling, Picture, ZtImageHandling } from "quorlin";
 import { CheckBox, ColorWell, SegmentedControl, TabView, TextField } from "quorlin/controls";

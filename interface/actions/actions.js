@@ -1,5 +1,5 @@
 // The actions of the sidebar. A new action is a folder beside this file and two lines in it: its import and its place in a group.
-// docs/adding-an-action.md leads through it. A title or sentence is a function, because texts are translated when they are shown.
+// CONTRIBUTING.md leads through it. A title or sentence is a function, because texts are translated when they are shown.
 //
 // Every entry:
 //   name     that of its folder, its icon and its settings too

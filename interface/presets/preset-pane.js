@@ -1,5 +1,4 @@
 // The head of every pane: the action's name, and its presets to choose, store, rename, remove, export and import.
-// Services used: dbViewController, files, defaults.
 
 import { dbViewController } from "quorlin";
 import { defaults } from "quorlin/defaults";

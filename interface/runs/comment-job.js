@@ -1,5 +1,4 @@
 // A run over the comments of pictures: writes or reverts them one by one, keeps each edit in the log at once, and sums up.
-// Services used: files (through log-file the log).
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";

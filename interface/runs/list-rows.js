@@ -1,4 +1,4 @@
-// The rows of the list as runs look at them. Services used: none; the list is handed in.
+// The rows of the list as runs look at them.
 
 /** The rows with these ids as planRun() takes them: {count, at, paths}. */
 export function photosOf(list, ids) {

@@ -1,5 +1,4 @@
 // A run that moves files through the move engine: plan anew, carry out one after the other or only show, and undo.
-// Services used: those of the step, moves.
 
 import { guard } from "../lib/guard.js";
 import { isReadyRow, itemOf, readyItems, settled } from "./move-plan.js";

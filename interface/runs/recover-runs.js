@@ -1,4 +1,4 @@
-// Ends at start what a crash interrupted, and says so. Services used: moves, shell.
+// Ends at start what a crash interrupted, and says so.
 
 import { moves } from "quorlin/moves";
 import { shell } from "quorlin/shell";

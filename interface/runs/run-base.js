@@ -1,5 +1,5 @@
 // What all runs have in common: phases, pause, cancel, the summary and the report. What a run plans and carries out is the
-// affair of the classes above it. Services used: files (writeText, through log-file the log).
+// affair of the classes above it.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";

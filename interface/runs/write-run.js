@@ -1,4 +1,4 @@
-// A run that writes pictures: plan, carry out or only show, and what came of it. Services used: those of the step, files.
+// A run that writes pictures: plan, carry out or only show, and what came of it.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";

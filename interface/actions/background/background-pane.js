@@ -1,4 +1,4 @@
-// The settings of the Background & Border action. Services used: files and defaults, for the patterns.
+// The settings of the Background & Border action.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";

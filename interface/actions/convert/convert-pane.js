@@ -1,4 +1,4 @@
-// The settings of the Convert action. Services used: none; the step says what comes out.
+// The settings of the Convert action.
 
 import { KEYWORDS, QUALITIES, targetNamed, targetText } from "./targets.js";
 import { pixels } from "../../lib/wording.js";

@@ -1,4 +1,4 @@
-// The settings of the Crop action. Services used: none; the step says what the frame is.
+// The settings of the Crop action.
 
 import { cropFrame, largestOf, MODES, offsetsFor, ratioOf } from "./crops.js";
 import { converted, PIXEL, unitSign } from "../../lib/measure.js";

@@ -1,5 +1,4 @@
 // Sort by Hand: one picture large, and a key for each folder. The pictures are those of the list, in its order.
-// Services used: moves, files, and those of hand-sorting.
 
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";

@@ -1,4 +1,4 @@
-// The settings of Sort by Hand: what a key does, and the folders with their keys. Services used: files.
+// The settings of Sort by Hand: what a key does, and the folders with their keys.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";

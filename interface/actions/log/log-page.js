@@ -1,5 +1,5 @@
-// The log of all runs: the newest first, searched, filtered by run, status and kind, sorted, exported; runs are undone and comments
-// reverted from here. Services used: files (through log-file and comment-run), moves, defaults.
+// The log of all runs: the newest first, searched, filtered by run, status and kind, sorted, exported; runs are undone and
+// comments reverted from here.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";

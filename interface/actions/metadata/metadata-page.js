@@ -1,6 +1,5 @@
 // Metadata: the properties of one picture as a tree, its user comment, and the comments of many pictures: those of the list,
-// chosen files, or
-// a folder. Services used: files, defaults, and those of comment-job.
+// chosen files, or a folder.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";

@@ -1,5 +1,4 @@
 // One step of a chain of names as a card: switched on and off, moved, removed, edited in place, explained by an example.
-// Services used: none.
 
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";

@@ -1,4 +1,4 @@
-// The settings of the Resize action. Services used: none; the step says what sizes come out.
+// The settings of the Resize action.
 
 import { PIXEL } from "../../lib/measure.js";
 import { MODES, scalePercent } from "./sizes.js";

@@ -1,4 +1,4 @@
-// The settings of the Round Corners action. Services used: none; the step says what comes out.
+// The settings of the Round Corners action.
 
 import * as round from "./round-step.js";
 import { Pane } from "../shared/pane.js";

@@ -1,4 +1,4 @@
-// What the actions have in common that write a new picture for each of the list. Services used: none.
+// What the actions have in common that write a new picture for each of the list.
 
 import { PICTURE_INPUT } from "../../lib/types.js";
 import { WRITES } from "../../runs/writes.js";

@@ -1,5 +1,5 @@
-// Where results go and what they are: file type, quality, folder, taken names, simulation. Every action that writes
-// pictures has this block. Services used: files (home).
+// Where results go and what they are: file type, quality, folder, taken names, simulation. Every action that writes pictures
+// has this block.
 
 import { shell } from "quorlin/shell";
 import { files } from "quorlin/files";

@@ -1,5 +1,5 @@
-// What the panes of all actions have in common: controls joined to settings, lengths in units, and the lines that say
-// what comes out. Services used: those of the step, for the picture that is shown.
+// What the panes of all actions have in common: controls joined to settings, lengths in units, and the lines that say what
+// comes out.
 
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";

@@ -1,5 +1,4 @@
 // The settings of the Sort into Folders action, and the tree of folders beside the list.
-// Services used: files (home), defaults; those of the step.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";

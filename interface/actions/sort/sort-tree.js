@@ -1,5 +1,5 @@
-// The folders that will come to be, beside the list: counts, what is new, and whether there is room for copies. Choosing a folder
-// shows only the files that will go there. Services used: files (space, byteText, home), moves of the plan.
+// The folders that will come to be, beside the list: counts, what is new, and whether there is room for copies. Choosing a
+// folder shows only the files that will go there.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";

@@ -1,4 +1,4 @@
-// The settings of the Rotate & Flip action. Services used: none; the step says what comes out.
+// The settings of the Rotate & Flip action.
 
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";

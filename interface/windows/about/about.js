@@ -1,4 +1,4 @@
-// The About sheet: what the program is, and what it stands on. Services used: program.
+// The About sheet: what the program is, and what it stands on.
 
 import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";

@@ -1,4 +1,4 @@
-// The info sheet: a short text on one thing. Services used: cSheetControl.
+// The info sheet: a short text on one thing.
 
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";

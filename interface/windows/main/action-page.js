@@ -1,5 +1,5 @@
-// The action that is shown: its settings, its pane, and the output block under it. Panes are made when they are first
-// shown; each action keeps settings of its own. Services used: defaults.
+// The action that is shown: its settings, its pane, and the output block under it. Panes are made when they are first shown;
+// each action keeps settings of its own.
 
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";

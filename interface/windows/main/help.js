@@ -1,5 +1,4 @@
 // What the main window says about itself: the Help menu, the info buttons of the panes, and new versions.
-// Services used: cSheetControl, defaults, program.
 
 import { cSheetControl } from "quorlin";
 import { defaults } from "quorlin/defaults";

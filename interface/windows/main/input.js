@@ -1,5 +1,4 @@
 // Adding pictures to the list: panels, drops, paste, recent folders; and saying what was left out.
-// Services used: files (collect), defaults.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";

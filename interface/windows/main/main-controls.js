@@ -1,4 +1,4 @@
-// What the controls of the main window do: buttons, entries of menus, the list, the views and the appearance. Services used: none.
+// What the controls of the main window do: buttons, entries of menus, the list, the views and the appearance.
 
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";

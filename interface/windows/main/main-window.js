@@ -1,5 +1,4 @@
 // The main window: its parts, what of them can be used, and how an action or a page is chosen.
-// Services used: defaults, and what the parts of the window use.
 
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";

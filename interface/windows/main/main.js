@@ -1,4 +1,4 @@
-// Opens the main window. Services used: cToolBox, defaults.
+// Opens the main window.
 
 import { cToolBox } from "quorlin";
 import { defaults } from "quorlin/defaults";

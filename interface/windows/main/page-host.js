@@ -1,4 +1,4 @@
-// Where the pages of the window stand, each made when it is first shown. Services used: none.
+// Where the pages of the window stand, each made when it is first shown.
 
 /** The pages of the window: [action's name] = page. */
 export class PageHost {

@@ -1,4 +1,4 @@
-// The preview of the current picture and what the settings make of it. Services used: files (profileName, byteText).
+// The preview of the current picture and what the settings make of it.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";

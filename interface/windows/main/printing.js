@@ -1,4 +1,4 @@
-// Printing the chosen pictures of the list. Services used: program, which shows the print panel.
+// Printing the chosen pictures of the list.
 
 import { program } from "quorlin/program";
 import { guard } from "../../lib/guard.js";

@@ -1,4 +1,4 @@
-// Says once in the life of the program that its settings cannot be written. Services used: shell.
+// Says once in the life of the program that its settings cannot be written.
 
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";

@@ -1,4 +1,4 @@
-// The bar that offers to choose the support folder, until it was chosen or put off. Services used: defaults.
+// The bar that offers to choose the support folder, until it was chosen or put off.
 
 import { defaults } from "quorlin/defaults";
 import { guard } from "../../lib/guard.js";

@@ -1,4 +1,4 @@
-// The window of the manual: pages at the left, the page at the right. Services used: program.
+// The window of the manual: pages at the left, the page at the right.
 
 import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";

@@ -1,4 +1,4 @@
-// The new-version sheet. Services used: cSheetControl, program.
+// The new-version sheet.
 
 import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";

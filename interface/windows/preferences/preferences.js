@@ -1,4 +1,4 @@
-// The preferences: a sheet of the main window. Services used: cSheetControl, for the support folder; defaults.
+// The preferences: a sheet of the main window.
 
 import { cSheetControl } from "quorlin";
 import { defaults } from "quorlin/defaults";

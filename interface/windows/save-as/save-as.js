@@ -1,5 +1,4 @@
 // Saves the current picture under another name, type and quality, through a panel with a view of what comes out.
-// Services used: cToolBox (hSaveDialogFile, hChooseFileType, hChooseCompType), files, defaults.
 
 import { cToolBox } from "quorlin";
 import { defaults } from "quorlin/defaults";
