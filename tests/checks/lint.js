@@ -1,8 +1,10 @@
-// lint.js ROOT: what ESLint says of all scripts. It is called through its interface, since its own printer needs a package that is
-// only recommended. Ends with 77 where ESLint is not installed (package eslint), 1 with findings, 0 without.
+// lint.js ROOT: what ESLint says of all scripts, and whether those of the interface keep to their folders. ESLint is called through its
+// interface, since its own printer needs a package that is only recommended. Ends with 77 where ESLint is not installed (package
+// eslint), 1 with findings, 0 without.
 
 "use strict";
 
+const fs = require("fs");
 const path = require("path");
 
 const RULES = {
@@ -35,6 +37,26 @@ function linter() {
     }
 }
 
+// What the folders of the interface may import besides themselves. Of the actions each has a folder, and enters no other's.
+const MAY_ENTER = {
+    lib: [], runs: ["lib"], presets: ["lib"], "actions/shared": ["lib", "runs"], actions: ["lib", "runs", "presets", "actions/shared"],
+};
+
+// "actions/crop" of "actions/crop/crop-step.js".
+function folderOf(file) {
+    const parts = file.split("/");
+    return parts.slice(0, parts[0] === "actions" && parts.length > 2 ? 2 : 1).join("/");
+}
+
+function wrongImports(file, text) {
+    const own = folderOf(file);
+    const isList = file === "actions/actions.js";
+    const allowed = MAY_ENTER[own] || (own.startsWith("actions/") ? MAY_ENTER.actions : null);
+    const imports = Array.from(text.matchAll(/from "(\.[^"]+)"/g)).map((found) => path.join(path.dirname(file), found[1]));
+    const wrong = (other) => folderOf(other) !== own && allowed.indexOf(folderOf(other)) < 0;
+    return allowed === null || isList ? [] : imports.filter(wrong).map((other) => `interface/${file}: must not import ${other}`);
+}
+
 const root = path.resolve(process.argv[2]);
 const engine = new (linter())({
     useEslintrc: false, cwd: root, envs: ["es6"], globals: GLOBALS, rules: RULES, ignore: false,
@@ -46,5 +68,9 @@ for (const file of report.results) {
         console.log(`${path.relative(root, file.filePath)}:${found.line}: ${found.message} (${found.ruleId})`);
     }
 }
-console.log(`${report.errorCount} findings in ${report.results.length} files`);
-process.exit(report.errorCount > 0 || report.results.length < 100 ? 1 : 0);
+const folder = path.join(root, "interface");
+const entered = report.results.map((file) => path.relative(folder, file.filePath)).filter((file) => !file.startsWith(".."))
+    .reduce((all, file) => all.concat(wrongImports(file, fs.readFileSync(path.join(folder, file), "utf8"))), []);
+entered.forEach((line) => console.log(line));
+console.log(`${report.errorCount + entered.length} findings in ${report.results.length} files`);
+process.exit(report.errorCount + entered.length > 0 || report.results.length < 100 ? 1 : 0);
