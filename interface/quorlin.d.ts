@@ -972,6 +972,15 @@ declare module "quorlin/pictures" {
     export const pictures: {
         /** Writes a picture, laid on copies of another one, as the type of the target's extension; answers the problem. */
         layOnPattern(path: text, pattern: text, target: text): string;
+        /**
+         * The kinds of picture files, each as {id, extensions, profile, alpha, depth16, resolution, quality}: new files get the first of
+         * the extensions; profile is "yes", "no" or "ifItFits".
+         */
+        formats(): list;
+        /** The kinds of raw files of cameras, each as {extension, hasPreview}; only those with a preview can be converted. */
+        rawTypes(): list;
+        /** Whether a file of the type holds the colour profile of the picture, or there is none. */
+        keepsProfile(path: text, typeIdentifier: text): boolean;
         /** Why memory was too short for a picture since this was asked last; empty where it was not. */
         takeMemoryRefusal(): string;
     };

@@ -1,5 +1,4 @@
 // The file types that can be written, in the order and words of lists; what each can hold is told by the table of formats.
-// Services used: pictures (formats, rawTypes, keepsProfile).
 
 import { pictures } from "quorlin/pictures";
 

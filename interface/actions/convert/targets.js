@@ -1,7 +1,8 @@
 // What pictures can be converted to, and what gets lost on the way.
 
 import { splitPath } from "../../lib/names.js";
-import { FURTHER_INPUT, keepsProfile, PDF_PAGE, PICTURE_INPUT, RAW_WITH_PREVIEW, typeOfExtension, writtenType } from "../../lib/types.js";
+import { FURTHER_INPUT, keepsProfile, PDF_PAGE, PICTURE_INPUT, RAW_WITH_PREVIEW, typeOfExtension,
+         writtenType } from "../../lib/types.js";
 import { mayBeTransparent } from "../shared/written.js";
 
 // keyword: what the service calls it. metadata: keeps EXIF, IPTC and XMP.

@@ -12,12 +12,15 @@ const unreadable = photo("/nowhere/a.jpg", 60, 40);
 
 test("knowsWhatIsWrittenAndUnderWhichNames", () => {
     equal(WRITTEN.map((type) => type.id + type.extension),
-          ["public.jpeg.jpg", "public.png.png", "public.tiff.tiff", "public.bmp.bmp", "com.compuserve.gif.gif", "public.jp2.jp2"]);
+          ["public.jpeg.jpg", "public.png.png", "public.tiff.tiff", "public.bmp.bmp", "com.compuserve.gif.gif",
+           "public.jp2.jp2"]);
     equal(WRITTEN.map((type) => type.profile), ["yes", "yes", "yes", "no", "no", "ifItFits"]);
     equal(WRITTEN.map((type) => [type.alpha, type.quality]),
           [[false, true], [true, false], [true, false], [false, false], [true, false], [true, false]]);
-    equal(["JPE", "tif", "heif", "xyz", ""].map(typeOfExtension), ["public.jpeg", "public.tiff", "public.heif", "", ""]);
-    equal([resultType("tif", "original file type").id, resultType("heic", "original file type")], ["public.tiff", null]);
+    equal(["JPE", "tif", "heif", "xyz", ""].map(typeOfExtension),
+          ["public.jpeg", "public.tiff", "public.heif", "", ""]);
+    equal([resultType("tif", "original file type").id, resultType("heic", "original file type")],
+          ["public.tiff", null]);
 });
 
 test("saysOfAJpeg2000WhatItKeepsOfThisPicture", () => {
@@ -30,7 +33,8 @@ test("saysOfAJpeg2000WhatItKeepsOfThisPicture", () => {
 });
 
 test("asksNoPictureWhereTheTypeTellsItAll", () => {
-    equal([keepsProfile(unreadable.path, writtenType("public.jpeg")), keepsProfile(fitting.path, writtenType("public.bmp"))], [true, false]);
+    equal([keepsProfile(unreadable.path, writtenType("public.jpeg")),
+           keepsProfile(fitting.path, writtenType("public.bmp"))], [true, false]);
     equal(lossText(fitting, "public.bmp", []), "Metadata and colour profile are not kept");
     equal(lossText(fitting, "public.png", ["public.png"]), "");
 });
