@@ -15,8 +15,7 @@ const QUALITIES = ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10"];
 const OUTPUT = {
     StrField4: ["output.fileType", "text", TYPES], StrField5: ["output.quality", "text", QUALITIES],
     StrField6: ["output.destination.kind", "text", ["beside", "source", "folder"]],
-    StrField7: ["output.destination.name", "text"],
-    StrField8: ["output.destination.path", "text"],
+    StrField7: ["output.destination.name", "text"], StrField8: ["output.destination.path", "text"],
     StrField9: ["output.ifTaken", "text", ["number", "replace", "skip", "ask"]],
     StrField21: ["output.simulation", "flag"],
 };

@@ -18,8 +18,7 @@ export class CropPane extends Pane {
     join() {
         this.form.control("cropMode").segments = [qsTr("W × H"), "%", qsTr("Pixels")];
         this.form.control("position").names = [qsTr("Top left"), qsTr("Top"), qsTr("Top right"), qsTr("Left"),
-                                               qsTr("Centre"),
-                                               qsTr("Right"), qsTr("Bottom left"), qsTr("Bottom"),
+                                               qsTr("Centre"), qsTr("Right"), qsTr("Bottom left"), qsTr("Bottom"),
                                                qsTr("Bottom right")];
         this.form.setItems("ratio", [qsTr("Free"), qsTr("Original")].concat(crop.RATIOS.slice(2)), crop.RATIOS);
         this.segments("cropMode", "mode", MODES);

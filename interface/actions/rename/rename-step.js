@@ -86,8 +86,7 @@ function wish(path, made, companions) {
         return row({ status: "Failed", reason: qsTr("a character would be cut in two"), shown: "–" });
     }
     return row({ to: joinPath(old.folder, made.name), shown: made.name === "" ? "–" : made.name,
-                 caution: cautionOf(made),
-                 notes: notesOf(made, old.name),
+                 caution: cautionOf(made), notes: notesOf(made, old.name),
                  along: companions.map((other) => companion(old.folder, other, old, made)) });
 }
 

@@ -97,8 +97,7 @@ function rowFor(path, index, settings, context) {
  */
 export function* rows(paths, settings, services) {
     const context = { ready: prepared(settings.pattern), book: new FolderBook(services.files),
-                      sidecars: new Sidecars(services.files),
-                      services: services,
+                      sidecars: new Sidecars(services.files), services: services,
                       needsBytes: settings.kind === "copy" || settings.destination.kind === "folder" };
     const found = [];
     let from = 0;

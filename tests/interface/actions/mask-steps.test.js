@@ -132,8 +132,7 @@ test("stopsAtTheFirstFailure", () => {
 
 const VALID = [
     [round, { radius: -1 }, 1], [round, { shape: "circle", radius: -1 }, 0], [round, { background: true, band: -1 }, 1],
-    [round, { band: -1 }, 0],
-    [background, {}, 0], [background, { under: "pattern", pattern: "" }, 1],
+    [round, { band: -1 }, 0], [background, {}, 0], [background, { under: "pattern", pattern: "" }, 1],
     [background, { frame: "band", bandWidth: 0 }, 1],
     [background, { frame: "white", bandWidth: 0 }, 0],
 ];
