@@ -1,25 +1,21 @@
 #include "platform/disk/copy_tree.h"
 
+#include "platform/file/attributes.h"
+#include "platform/foundation/last_error.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace platform {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::error_code lastError()
-{
-    return std::error_code(errno, std::generic_category());
-}
 
 /** A descriptor that is closed in the end. */
 class Open
@@ -45,44 +41,6 @@ public:
 private:
     int m_descriptor;
 };
-
-/** What the user or a program of the user hung on the item, and who else may use it. */
-bool isHandedOn(std::string_view name)
-{
-    return name.substr(0, 5) == "user." || name.substr(0, 17) == "system.posix_acl_";
-}
-
-void copyAttribute(const fs::path &from, const fs::path &to, const char *name)
-{
-    const ssize_t size = ::lgetxattr(from.c_str(), name, nullptr, 0);
-    if (size < 0)
-        return;
-    std::string value(size_t(size), '\0');
-    if (::lgetxattr(from.c_str(), name, value.data(), value.size()) == size)
-        ::lsetxattr(to.c_str(), name, value.data(), value.size(), 0);
-}
-
-/** Only while the user may write to the copy: attributes are refused for what is read-only. */
-void copyAttributes(const fs::path &from, const fs::path &to)
-{
-    const ssize_t size = ::llistxattr(from.c_str(), nullptr, 0);
-    if (size <= 0)
-        return;
-    std::string names(size_t(size), '\0');
-    if (::llistxattr(from.c_str(), names.data(), names.size()) != size)
-        return;
-    std::vector<const char *> accessLists;
-    for (size_t at = 0; at < names.size(); at += std::string_view(names.data() + at).size() + 1) {
-        const char *name = names.data() + at;
-        if (isHandedOn(name) && *name == 'u')
-            copyAttribute(from, to, name);
-        else if (isHandedOn(name))
-            accessLists.push_back(name);
-    }
-    // An access list can take the right to write away, so it is the last.
-    for (const char *name : accessLists)
-        copyAttribute(from, to, name);
-}
 
 void copyDates(const struct stat &from, const fs::path &to)
 {
@@ -192,7 +150,7 @@ std::error_code copyTree(const fs::path &from, const fs::path &to)
     if (error)
         return error;
     if (!S_ISLNK(source.st_mode)) {
-        copyAttributes(from, to);
+        copyAttributes({.path = from.c_str()}, {.path = to.c_str()});
         (void)::chmod(to.c_str(), source.st_mode & 07777);
     }
     copyDates(source, to);

@@ -4,6 +4,7 @@
 #include "platform/disk/folders.h"
 #include "platform/disk/same_content.h"
 #include "platform/disk/trash.h"
+#include "platform/foundation/last_error.h"
 
 #include <QFile>
 
@@ -20,11 +21,6 @@
 
 namespace platform {
 namespace {
-
-std::error_code lastError()
-{
-    return std::error_code(errno, std::generic_category());
-}
 
 std::error_code outcome(int answer)
 {

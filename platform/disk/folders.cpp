@@ -4,6 +4,7 @@
 #include "platform/disk/same_content.h"
 #include "platform/file/hidden_item.h"
 #include "platform/file/sign_of_life.h"
+#include "platform/foundation/last_error.h"
 #include "platform/foundation/paths.h"
 
 #include <QDir>
@@ -46,11 +47,6 @@ QString besideOf(const QString &item)
 {
     const QString tag = QUuid::createUuid().toString(QUuid::Id128).left(12);
     return joinedPath(parentFolder(QDir(item).absolutePath()), QStringLiteral(".quorlin-") + tag);
-}
-
-std::error_code lastError()
-{
-    return std::error_code(errno, std::generic_category());
 }
 
 /** Whether the path still leads to the file that is open, and nobody has written to that. */

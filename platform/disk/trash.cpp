@@ -1,6 +1,7 @@
 #include "platform/disk/trash.h"
 
 #include "platform/disk/folders.h"
+#include "platform/foundation/last_error.h"
 #include "platform/foundation/paths.h"
 
 #include <QCoreApplication>
@@ -35,11 +36,6 @@ const QString infoEnding = QStringLiteral(".trashinfo");
 QByteArray native(const QString &path)
 {
     return QFile::encodeName(path);
-}
-
-std::error_code lastError()
-{
-    return std::error_code(errno, std::generic_category());
 }
 
 bool isOwnFolder(const QString &path)

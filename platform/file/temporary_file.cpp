@@ -1,5 +1,6 @@
 #include "platform/file/temporary_file.h"
 
+#include "platform/file/attributes.h"
 #include "platform/file/sign_of_life.h"
 #include "platform/foundation/paths.h"
 
@@ -13,43 +14,11 @@
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
 namespace platform {
 namespace {
-
-/** Access lists and what users and programs attach; not what the system's security module decides for each file. */
-bool isHandedOn(const QByteArray &attribute)
-{
-    return attribute.startsWith("user.") || attribute.startsWith("system.posix_acl_");
-}
-
-void copyAttribute(int source, int target, const QByteArray &name)
-{
-    const ssize_t size = ::fgetxattr(source, name.constData(), nullptr, 0);
-    if (size < 0)
-        return;
-    QByteArray value(size, '\0');
-    const ssize_t read = ::fgetxattr(source, name.constData(), value.data(), size_t(value.size()));
-    if (read == size)
-        ::fsetxattr(target, name.constData(), value.constData(), size_t(size), 0);
-}
-
-void copyAttributes(int source, int target)
-{
-    const ssize_t size = ::flistxattr(source, nullptr, 0);
-    if (size <= 0)
-        return;
-    QByteArray names(size, '\0');
-    const ssize_t read = ::flistxattr(source, names.data(), size_t(names.size()));
-    if (read <= 0)
-        return;
-    for (const QByteArray &name : names.left(read).split('\0'))
-        if (isHandedOn(name))
-            copyAttribute(source, target, name);
-}
 
 /** Only an ordinary file or a link gives way to another file: a device, a pipe or a socket is no place for one. */
 bool mayBeReplaced(const QByteArray &path)
@@ -209,7 +178,7 @@ bool TemporaryFile::takeAttributesOf(int source)
     const bool isAnothers = old.st_uid != own.st_uid || old.st_gid != own.st_gid;
     const bool hasOwner = !isAnothers || ::fchown(m_descriptor, old.st_uid, old.st_gid) == 0 ||
                           (::fchown(m_descriptor, uid_t(-1), old.st_gid) == 0 && old.st_uid == own.st_uid);
-    copyAttributes(source, m_descriptor);
+    copyAttributes({.descriptor = source}, {.descriptor = m_descriptor});
     // A file that could not keep its owner must not lend another one's rights.
     const mode_t mode = old.st_mode & (hasOwner ? 07777 : 0777);
     return ::fchmod(m_descriptor, mode) == 0;

@@ -1,5 +1,7 @@
 #include "platform/graphics/icc_profile.h"
 
+#include "platform/foundation/byte_order.h"
+
 #include <QtEndian>
 
 #include <algorithm>
@@ -19,16 +21,10 @@ using Matrix = std::array<Triple, 3>; ///< rows
 /** The light that each level of a component stands for, 0 to 1. */
 using Curve = std::array<double, levels>;
 
-quint32 numberAt(const QByteArray &bytes, qsizetype at)
-{
-    const bool isInside = at >= 0 && at + 4 <= bytes.size();
-    return isInside ? qFromBigEndian<quint32>(bytes.constData() + at) : 0;
-}
-
 double fixedAt(const QByteArray &bytes, qsizetype at)
 {
     constexpr double one = 65536;
-    return qint32(numberAt(bytes, at)) / one;
+    return qint32(bigEndian32At(bytes, at)) / one;
 }
 
 double srgbOfLight(double light)
@@ -56,7 +52,7 @@ std::optional<Matrix> colorantsOf(const QByteArray &profile)
 /** A sampled curve, or one power. */
 std::optional<Curve> sampledCurve(const QByteArray &tag)
 {
-    const auto count = qsizetype(numberAt(tag, numbersAt));
+    const auto count = qsizetype(bigEndian32At(tag, numbersAt));
     constexpr qsizetype samplesAt = numbersAt + 4;
     if (count > (tag.size() - samplesAt) / 2)
         return std::nullopt;
@@ -81,7 +77,7 @@ std::optional<Curve> sampledCurve(const QByteArray &tag)
 std::optional<Curve> formulaCurve(const QByteArray &tag)
 {
     constexpr std::array<int, 5> parameterCounts = {1, 3, 4, 5, 7};
-    const auto kind = size_t(numberAt(tag, numbersAt) >> 16);
+    const auto kind = size_t(bigEndian32At(tag, numbersAt) >> 16);
     constexpr qsizetype parametersAt = numbersAt + 4;
     if (kind >= parameterCounts.size() || tag.size() < parametersAt + 4 * parameterCounts[kind])
         return std::nullopt;
@@ -182,11 +178,12 @@ QByteArray iccTag(const QByteArray &profile, const char *name)
 {
     constexpr quint32 mostTags = 100;
     constexpr qsizetype entryBytes = 12;
-    const quint32 count = std::min(numberAt(profile, headerBytes), mostTags);
+    const quint32 count = std::min(bigEndian32At(profile, headerBytes), mostTags);
     for (quint32 tag = 0; tag < count; ++tag) {
         const qsizetype entry = headerBytes + 4 + qsizetype(tag) * entryBytes;
         if (profile.mid(entry, 4) == name)
-            return profile.mid(qsizetype(numberAt(profile, entry + 4)), qsizetype(numberAt(profile, entry + 8)));
+            return profile.mid(qsizetype(bigEndian32At(profile, entry + 4)),
+                               qsizetype(bigEndian32At(profile, entry + 8)));
     }
     return {};
 }

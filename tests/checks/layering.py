@@ -41,7 +41,7 @@ SUB_ROOMS = {
         "imageio/bytes": "foundation file",
         "imageio/formats": "foundation graphics imageio/bytes",
         "imageio/jpeg": "foundation graphics imageio/bytes",
-        "imageio/jpeg2000": "graphics imageio/bytes",
+        "imageio/jpeg2000": "foundation graphics imageio/bytes",
         "imageio/png": "graphics imageio/bytes",
         "imageio/tiff": "imageio/bytes",
         "imageio/bmp": "graphics imageio/bytes",
@@ -53,7 +53,7 @@ SUB_ROOMS = {
                             "imageio/photoshop imageio/exif imageio/xmp",
         "imageio/load": "file graphics imageio/bytes imageio/formats imageio/jpeg2000 imageio/tiff imageio/bmp "
                         "imageio/photoshop",
-        "imageio/facts": "file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png imageio/tiff "
+        "imageio/facts": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png imageio/tiff "
                          "imageio/bmp imageio/photoshop imageio/exif imageio/xmp imageio/metadata imageio/load",
         "imageio/encode": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png "
                           "imageio/metadata",

@@ -1,5 +1,6 @@
 // PNG, JPEG 2000 and WebP: chains of parts, each with its length and its name.
 
+#include "platform/foundation/byte_order.h"
 #include "platform/imageio/comments/comment_splices.h"
 #include "platform/imageio/exif/tiff_comment.h"
 #include "platform/imageio/png/png_chunks.h"
@@ -47,13 +48,6 @@ const Part *firstNamed(const QList<Part> &all, const QByteArray &name)
 {
     const auto found = std::find_if(all.begin(), all.end(), [&](const Part &part) { return part.name == name; });
     return found == all.end() ? nullptr : &*found;
-}
-
-template<typename Number> QByteArray bigEndian(Number number)
-{
-    QByteArray bytes(sizeof(Number), '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes;
 }
 
 QByteArray littleEndian32(quint32 number)

@@ -1,22 +1,14 @@
+#include "platform/foundation/byte_order.h"
 #include "platform/imageio/bytes/deflate.h"
 #include "platform/imageio/encode/encoders.h"
 #include "platform/imageio/png/png_chunks.h"
 #include "platform/imageio/png/png_rows.h"
-
-#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
 
 namespace platform {
 namespace {
-
-QByteArray bigEndian(quint32 number)
-{
-    QByteArray bytes(4, Qt::Uninitialized);
-    qToBigEndian(number, bytes.data());
-    return bytes;
-}
 
 QByteArray headerOf(const vips::VImage &image)
 {

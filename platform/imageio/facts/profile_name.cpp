@@ -1,9 +1,9 @@
 #include "platform/imageio/facts/profile_name.h"
 
+#include "platform/foundation/byte_order.h"
 #include "platform/graphics/icc_profile.h"
 
 #include <QStringDecoder>
-#include <QtEndian>
 
 #include <algorithm>
 
@@ -11,12 +11,6 @@ namespace platform {
 namespace {
 
 /** A number at @p position; 0 outside the bytes. */
-quint32 numberAt(const QByteArray &bytes, qsizetype position)
-{
-    const bool isInside = position >= 0 && position + 4 <= bytes.size();
-    return isInside ? qFromBigEndian<quint32>(bytes.constData() + position) : 0;
-}
-
 /** One text of a profile's name, and the reader it is for. */
 struct NamedText
 {
@@ -30,12 +24,12 @@ QList<NamedText> textsOf(const QByteArray &tag)
 {
     constexpr qsizetype mostTexts = 256;
     constexpr qsizetype recordsAt = 16;
-    const auto count = std::min(qsizetype(numberAt(tag, 8)), mostTexts);
-    const auto recordSize = qsizetype(numberAt(tag, 12));
+    const auto count = std::min(qsizetype(bigEndian32At(tag, 8)), mostTexts);
+    const auto recordSize = qsizetype(bigEndian32At(tag, 12));
     QList<NamedText> texts;
     for (qsizetype at = recordsAt; recordSize >= 12 && texts.size() < count && at + 12 <= tag.size(); at += recordSize)
-        texts.append({tag.mid(at, 2).toLower(), tag.mid(at + 2, 2).toUpper(), qsizetype(numberAt(tag, at + 8)),
-                      qsizetype(numberAt(tag, at + 4))});
+        texts.append({tag.mid(at, 2).toLower(), tag.mid(at + 2, 2).toUpper(), qsizetype(bigEndian32At(tag, at + 8)),
+                      qsizetype(bigEndian32At(tag, at + 4))});
     return texts;
 }
 
@@ -67,7 +61,7 @@ QString localisedText(const QByteArray &tag, const QStringList &languages)
 
 QString plainText(const QByteArray &tag)
 {
-    const auto length = qsizetype(numberAt(tag, 8));
+    const auto length = qsizetype(bigEndian32At(tag, 8));
     return QString::fromLatin1(tag.mid(12, length));
 }
 

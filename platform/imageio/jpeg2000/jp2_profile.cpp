@@ -1,5 +1,6 @@
 #include "platform/imageio/jpeg2000/jp2_profile.h"
 
+#include "platform/foundation/byte_order.h"
 #include "platform/graphics/icc_profile.h"
 
 #include <QtEndian>
@@ -38,13 +39,6 @@ Box colourBox(const QByteArray &file)
     if (!header.isThere())
         return {};
     return findBox(file, "colr", header.start + boxHeaderBytes, header.start + header.size);
-}
-
-QByteArray bigEndian(quint32 number)
-{
-    QByteArray bytes(4, '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes;
 }
 
 bool hasTag(const QByteArray &profile, const char *name)

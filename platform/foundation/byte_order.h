@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QByteArray>
+#include <QtEndian>
+
+namespace platform {
+
+/** The bytes of a number, the highest first. */
+template<typename Number> QByteArray bigEndian(Number number)
+{
+    QByteArray bytes(sizeof(Number), Qt::Uninitialized);
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+/** The number of four bytes, the highest first, at @p position; 0 where it does not lie within @p bytes. */
+inline quint32 bigEndian32At(const QByteArray &bytes, qsizetype position)
+{
+    const bool isInside = position >= 0 && position + 4 <= bytes.size();
+    return isInside ? qFromBigEndian<quint32>(bytes.constData() + position) : 0;
+}
+
+} // namespace platform
