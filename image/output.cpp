@@ -3,26 +3,10 @@
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/log.h"
 #include "platform/foundation/paths.h"
-
-#include <array>
+#include "platform/imageio/formats/formats.h"
 
 namespace image {
 namespace {
-
-struct TypeExtension
-{
-    QLatin1String type;
-    QLatin1String extension;
-};
-
-const std::array<TypeExtension, 6> typeExtensions = {{
-    {QLatin1String("public.png"), QLatin1String(".png")},
-    {QLatin1String("public.tiff"), QLatin1String(".tiff")},
-    {QLatin1String("public.bmp"), QLatin1String(".bmp")},
-    {QLatin1String("com.compuserve.gif"), QLatin1String(".gif")},
-    {QLatin1String("public.jpeg"), QLatin1String(".jpg")},
-    {QLatin1String("public.jp2"), QLatin1String(".jp2")},
-}};
 
 QString answerFor(const QString &path, const platform::Result<void> &written)
 {
@@ -68,10 +52,8 @@ platform::Forms formsFor(const QString &typeIdentifier)
 
 QString extensionForType(const QString &typeIdentifier)
 {
-    for (const TypeExtension &entry : typeExtensions)
-        if (typeIdentifier == entry.type)
-            return entry.extension;
-    return {};
+    const platform::Format *format = platform::formatNamed(typeIdentifier);
+    return format && format->written ? u'.' + QString(format->extensions).section(u' ', 0, 0) : QString();
 }
 
 double qualityForCode(const QString &code)
