@@ -9,6 +9,11 @@
 #include <cmath>
 #include <optional>
 
+// An ICC profile; numbers have their highest byte first:
+//
+//     header (128), with the space of its colours at 16 and the connecting one at 20 | number of tags (4) |
+//     for each tag: name (4), offset (4), size (4) | the tags, each its type (4), four zeros, and what the type says
+
 namespace platform {
 namespace {
 

@@ -4,6 +4,14 @@
 
 #include <cstdlib>
 
+// A bitmap file; numbers have their lowest byte first, places count from the first byte:
+//
+//     0 "BM"  2 size of the file  10 where the rows begin | 14 size of the second header, which tells its version:
+//     12: 18 width (2)  20 height (2)  24 bits (2)
+//     40 and more: 18 width (4)  22 height (4), negative where rows go downwards  28 bits (2)  30 compression (4)
+//                  38 and 42 pixels a metre
+//     124: 70 kind of colour space  126 where the profile begins, counted from 14  130 its size
+
 namespace platform {
 namespace {
 

@@ -5,6 +5,14 @@
 
 #include <algorithm>
 
+// An EXIF block is a TIFF file without a picture, in which offsets count from its first byte:
+//
+//     "II" or "MM", 42, offset | directory 0 ... | EXIF, GPS directories | values, maker notes | directory 1 | thumbnail
+//     directory: number of entries (2 bytes) | entries of 12 bytes: tag, type, count, value or its offset | next directory
+//
+// Maker notes may hold offsets of the same kind that nobody can find, so nothing is moved: a directory gets shorter where it
+// stands, and only the end of the block is cut.
+
 namespace platform {
 namespace {
 

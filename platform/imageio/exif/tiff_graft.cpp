@@ -6,6 +6,13 @@
 #include <algorithm>
 #include <map>
 
+// The new file, in which every offset of the block still holds and those of the encoded file grow by one number:
+//
+//     EXIF block, whose header is the file's | zeros | encoded file without its header, and without its directory where that
+//     is its end | XMP, IPTC, values in the other byte order | the new directory, to which the header leads
+//
+// Without an EXIF block the encoded file keeps its own header.
+
 namespace platform {
 namespace {
 

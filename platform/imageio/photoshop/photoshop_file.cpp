@@ -4,6 +4,13 @@
 
 #include <QtEndian>
 
+// A Photoshop file; numbers have their highest byte first, and lengths marked * take 8 bytes in a large file (version 2):
+//
+//     "8BPS", version (2), 6 zeros, channels (2), height (4), width (4), bits (2), mode (2)
+//     length (4) | palette        length (4) | resources        length* | layers and further blocks
+//     compression (2) | the merged picture, channel by channel
+//     resource: "8BIM" | number (2) | name, its length first, in all even | length (4) | data, padded to even
+
 namespace platform {
 namespace {
 

@@ -7,6 +7,10 @@
 #include <algorithm>
 #include <array>
 
+// A PNG is 8 bytes of signature and then chunks up to IEND; numbers have their highest byte first:
+//
+//     length of the data (4) | name (4) | data | sum of name and data (4)
+
 namespace platform {
 namespace {
 
