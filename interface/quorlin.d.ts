@@ -958,12 +958,12 @@ declare module "quorlin/files" {
         keepNewestLines(path: text, most: whole, limit: whole): string;
         /** Null where the file cannot be read. */
         readText(path: text): string | null;
-        /** The new path of a presets database that could hold no preset; empty where it is left. */
-        setAsideUnusableDatabase(path: text): string;
         /** "2.4 MB", in the reader's own form. */
         byteText(bytes: double): string;
         /** "2026-08-14T10:20:30" in the reader's own form; empty for what is none. */
         dateText(date: text): string;
+        /** The new path of a presets database that could hold no preset; empty where it is left. */
+        setAsideUnusableDatabase(path: text): string;
     };
 }
 

@@ -1,6 +1,6 @@
 #include "app/models/picture_model.h"
 
-#include "app/window/formats.h"
+#include "image/services/format_words.h"
 
 #include "platform/foundation/human_texts.h"
 #include "platform/imageio/source/image_source.h"
@@ -21,7 +21,7 @@ QString cellText(const PictureRow &row, int column)
     case PictureModel::Name:
         return row.name;
     case PictureModel::Pixels:
-        return row.pixels.isEmpty() ? (row.headerRead ? none : QString()) : pixelText(row.pixels);
+        return row.pixels.isEmpty() ? (row.headerRead ? none : QString()) : image::pixelText(row.pixels);
     case PictureModel::Bytes:
         return row.bytes < 0 ? none : platform::localByteCountText(row.bytes);
     case PictureModel::Type:
@@ -117,8 +117,8 @@ int PictureModel::add(const QStringList &paths)
         row.path = path;
         row.name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
         row.isFolder = QFileInfo(path).isDir();
-        row.type = row.isFolder ? tr("Folder") : typeWord(typeOfName(row.name));
-        row.bytes = fileBytes(path);
+        row.type = row.isFolder ? tr("Folder") : image::typeWord(image::typeOfName(row.name));
+        row.bytes = image::fileBytes(path);
         m_idOfPath.insert(path, row.id);
         fresh.push_back(std::move(row));
     }
@@ -171,11 +171,11 @@ const PictureRow &PictureModel::withHeader(int index)
     if (row.headerRead)
         return row;
     row.headerRead = true;
-    row.bytes = fileBytes(row.path);
+    row.bytes = image::fileBytes(row.path);
     if (const auto source = platform::ImageSource::open(row.path)) {
         row.pixels = source->uprightSize();
         row.orientation = source->orientation();
-        row.type = typeWord(source->typeIdentifier());
+        row.type = image::typeWord(source->typeIdentifier());
     }
     changed(index, Pixels, Type);
     return row;

@@ -1,11 +1,12 @@
 #include "app/window/script_modules.h"
 
 #include "app/script/ScriptEngine.h"
-#include "app/window/file_desk.h"
-#include "app/window/move_desk.h"
-#include "app/window/picture_desk.h"
 #include "app/window/program_desk.h"
 #include "app/window/shell.h"
+#include "app/window/window_files.h"
+
+#include "files/services/move_service.h"
+#include "image/services/picture_service.h"
 
 namespace window {
 
@@ -41,9 +42,9 @@ void offer(script::ScriptEngine &scripts, const std::vector<ServiceEntry> &servi
 
 std::vector<ServiceEntry> fileServices()
 {
-    return {script::oneObject<FileDesk>("quorlin/files", "files"),
-            script::oneObject<MoveDesk>("quorlin/moves", "moves"),
-            script::oneObject<PictureDesk>("quorlin/pictures", "pictures")};
+    return {script::oneObject<WindowFiles>("quorlin/files", "files"),
+            script::oneObject<files::MoveService>("quorlin/moves", "moves"),
+            script::oneObject<image::PictureService>("quorlin/pictures", "pictures")};
 }
 
 std::vector<ServiceEntry> windowServices()
@@ -59,9 +60,9 @@ std::vector<ServiceEntry> windowServices()
 
 void addFilesModule(script::ScriptEngine &scripts)
 {
-    offer(scripts, fileServices(), "quorlin/files", new FileDesk(&scripts));
-    offer(scripts, fileServices(), "quorlin/moves", new MoveDesk(&scripts));
-    offer(scripts, fileServices(), "quorlin/pictures", new PictureDesk(&scripts));
+    offer(scripts, fileServices(), "quorlin/files", new WindowFiles(&scripts));
+    offer(scripts, fileServices(), "quorlin/moves", new files::MoveService(&scripts));
+    offer(scripts, fileServices(), "quorlin/pictures", new image::PictureService(&scripts));
 }
 
 void addShellModule(script::ScriptEngine &scripts, Shell &shell)

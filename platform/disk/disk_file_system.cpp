@@ -120,6 +120,28 @@ std::error_code DiskFileSystem::rename(const QString &from, const QString &to)
     return renameToNew(from, to);
 }
 
+std::error_code DiskFileSystem::exchange(const QString &one, const QString &other)
+{
+    const std::error_code error = outcome(::renameat2(AT_FDCWD, QFile::encodeName(one).constData(), AT_FDCWD,
+                                                      QFile::encodeName(other).constData(), RENAME_EXCHANGE));
+    // Old systems and some file systems do not know the request.
+    const bool isUnknown = error == std::errc::invalid_argument || error == std::errc::function_not_supported ||
+                           error == std::errc::operation_not_supported;
+    return isUnknown ? std::make_error_code(std::errc::operation_not_supported) : error;
+}
+
+std::error_code DiskFileSystem::replace(const QString &from, const QString &to)
+{
+    return outcome(::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()));
+}
+
+void DiskFileSystem::copyPermissions(const QString &from, const QString &to)
+{
+    struct stat source = {};
+    if (::lstat(QFile::encodeName(from).constData(), &source) == 0)
+        ::chmod(QFile::encodeName(to).constData(), source.st_mode & 07777);
+}
+
 std::error_code DiskFileSystem::makeFolder(const QString &path)
 {
     return outcome(::mkdir(QFile::encodeName(path).constData(), 0777));

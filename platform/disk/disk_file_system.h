@@ -16,6 +16,9 @@ public:
     QString linkText(const QString &path) const override;
     bool haveSameContent(const QString &one, const QString &other) const override;
     std::error_code rename(const QString &from, const QString &to) override;
+    std::error_code exchange(const QString &one, const QString &other) override;
+    std::error_code replace(const QString &from, const QString &to) override;
+    void copyPermissions(const QString &from, const QString &to) override;
     std::error_code makeFolder(const QString &path) override;
     std::error_code removeEmptyFolder(const QString &path) override;
     std::error_code makeLink(const QString &target, const QString &path) override;

@@ -40,7 +40,7 @@ struct TrashedItem
  * The file system as one who moves files meets it, so that the same code runs on a disk and on a model in memory.
  *
  * Paths are absolute and never followed through a link in their last component. What changes something answers the system's
- * error and has then changed nothing, unless it says otherwise. Nothing here ever replaces an item.
+ * error and has then changed nothing, unless it says otherwise. Nothing here ever replaces an item, but for replace().
  */
 class FileSystem
 {
@@ -66,6 +66,15 @@ public:
 
     /** Fails with file_exists where @p to is taken, with cross_device_link where the two are on different file systems. */
     virtual std::error_code rename(const QString &from, const QString &to) = 0;
+    /**
+     * Swaps the names of two items of one file system, in one step; not a folder's. operation_not_supported where the file system
+     * cannot do that.
+     */
+    virtual std::error_code exchange(const QString &one, const QString &other) = 0;
+    /** Renames a file, in one step, over the file or link that is at @p to. */
+    virtual std::error_code replace(const QString &from, const QString &to) = 0;
+    /** Gives a file the permissions of another one, as far as that is allowed. */
+    virtual void copyPermissions(const QString &from, const QString &to) = 0;
     /** Makes one folder. */
     virtual std::error_code makeFolder(const QString &path) = 0;
     virtual std::error_code removeEmptyFolder(const QString &path) = 0;

@@ -1,5 +1,6 @@
 #include "platform/disk/item_identity.h"
 
+#include "platform/disk/file_system.h"
 #include "platform/foundation/paths.h"
 
 #include <QDir>
@@ -8,12 +9,18 @@
 #include <algorithm>
 
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 namespace platform {
 
 QString identityOf(const struct stat &item)
 {
     return QStringLiteral("%1:%2").arg(item.st_dev).arg(item.st_ino);
+}
+
+QString identityOf(const ItemState &item)
+{
+    return QStringLiteral("%1:%2").arg(makedev(uint(item.device >> 32), uint(item.device))).arg(item.inode);
 }
 
 bool isIdentity(QStringView text)

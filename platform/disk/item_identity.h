@@ -6,11 +6,14 @@ struct stat;
 
 namespace platform {
 
+struct ItemState;
+
 /**
  * What tells an item from all others, however its path is spelled: through links, ".." or a second mount. Two names of one
  * file have the same. Empty where nothing is. To be compared within one run of the program, not to be kept.
  */
 QString identityOf(const struct stat &item);
+QString identityOf(const ItemState &item);
 
 /** Whether a text has the form of an identity. */
 bool isIdentity(QStringView text);

@@ -11,15 +11,15 @@ from pathlib import Path
 
 import source_tree as tree
 
-# Room: the rooms that it may enter beside its own. The product's rooms do not know each other, but for the two lines
-# where a date stamp or a collection of files is built with another room's help.
+# Room: the rooms that it may enter beside its own. The product's rooms do not know each other, but for the lines
+# where a date stamp, a collection of files or what is said of a picture's file is made with another room's help.
 MAY_ENTER = {
     "platform": set(),
     "text": {"platform"},
     "image": {"platform"},
     "presets": {"platform"},
     "views": {"platform"},
-    "files": {"platform", "text"},
+    "files": {"platform", "text", "image"},
     "meta": {"platform", "files"},
     "app": set(tree.ROOMS),
     "tools": set(tree.ROOMS),

@@ -2,12 +2,12 @@
 #include "tests/support/test_program.h"
 
 #include "app/window/controls/segmented_control.h"
-#include "app/window/file_facts.h"
 #include "app/window/folders/side_bar.h"
 #include "app/window/log/log_table.h"
 #include "app/window/log/run_list.h"
 #include "app/window/preview/compare_preview.h"
 #include "app/window/slots/slot_list.h"
+#include "files/items/file_facts.h"
 
 #include "platform/desktop/user_defaults.h"
 
@@ -133,7 +133,7 @@ private Q_SLOTS:
     {
         begin({"Lake"});
         const qint64 bytes = QFileInfo(path("In/a.jpg")).size();
-        window::setDiskSpaceSource([bytes](const QString &) { return window::DiskSpace{bytes - 1, 1}; });
+        files::setDiskSpaceSource([bytes](const QString &) { return files::DiskSpace{bytes - 1, 1}; });
         QTest::keyClick(&m_driver->window(), Qt::Key_2, Qt::AltModifier);
         key(Qt::Key_1);
         QVERIFY(!QFile::exists(path("Lake/a.jpg")));
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QVERIFY2(said.startsWith(QStringLiteral("Lake: too little room (needs ")), qPrintable(said));
         QTest::keyClick(&m_driver->window(), Qt::Key_1, Qt::AltModifier); // moving on one disk needs none
         key(Qt::Key_1);
-        window::setDiskSpaceSource({});
+        files::setDiskSpaceSource({});
         QVERIFY(QFile::exists(path("Lake/a.jpg")) && !QFile::exists(path("In/a.jpg")));
     }
 

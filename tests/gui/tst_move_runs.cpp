@@ -2,7 +2,7 @@
 #include "tests/support/test_program.h"
 
 #include "app/window/controls/segmented_control.h"
-#include "app/window/file_facts.h"
+#include "files/items/file_facts.h"
 
 #include "files/moving/journal_shelf.h"
 #include "files/moving/move_run.h"
@@ -35,7 +35,7 @@ private Q_SLOTS:
 
     void cleanup()
     {
-        window::setDiskSpaceSource({});
+        files::setDiskSpaceSource({});
         m_driver.reset();
     }
 
@@ -164,7 +164,7 @@ private Q_SLOTS:
     void asksNothingWhereThereIsRoom()
     {
         sortIntoAFullDisk();
-        window::setDiskSpaceSource([](const QString &) { return window::DiskSpace{1000000000, 1}; });
+        files::setDiskSpaceSource([](const QString &) { return files::DiskSpace{1000000000, 1}; });
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("3 files copied, 0 problems")));
     }
@@ -248,7 +248,7 @@ private:
         for (const char *name : {"a.jpg", "b.jpg", "c.jpg"})
             write(QString::fromLatin1(name));
         QVERIFY(QDir().mkpath(at("../sorted")));
-        window::setDiskSpaceSource([](const QString &) { return window::DiskSpace{999, 1}; });
+        files::setDiskSpaceSource([](const QString &) { return files::DiskSpace{999, 1}; });
         m_driver->show("sort");
         m_driver->drop({at("")});
         WindowDriver::answerPanels({QDir::cleanPath(at("../sorted"))});

@@ -12,6 +12,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 
 /** Thrown where a process is to end at once, as by a kill. */
 struct Killed
@@ -165,6 +166,41 @@ public:
         return a && b && areSame(*a, *b);
     }
 
+    /** Whether two names can be swapped in one step. */
+    bool canExchange = true;
+    /** Called after a look at what is there and before a name changes: what another program does meanwhile. */
+    std::function<void()> meanwhile;
+    QStringList permissionsCopied;
+
+    std::error_code exchange(const QString &one, const QString &other) override
+    {
+        if (const std::error_code error = interrupted())
+            return error;
+        if (!canExchange)
+            return std::make_error_code(std::errc::operation_not_supported);
+        const auto first = find(one);
+        const auto second = find(other);
+        if (!first || !second)
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        folderOf(one)->items[platform::lastPathComponent(one)] = second;
+        folderOf(other)->items[platform::lastPathComponent(other)] = first;
+        return {};
+    }
+    std::error_code replace(const QString &from, const QString &to) override
+    {
+        if (const std::error_code error = interrupted())
+            return error;
+        const auto node = find(from);
+        if (!node || !folderOf(to))
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        drop(from);
+        folderOf(to)->items[platform::lastPathComponent(to)] = node;
+        return {};
+    }
+    void copyPermissions(const QString &from, const QString &to) override
+    {
+        permissionsCopied.append(from + u'>' + to);
+    }
     std::error_code rename(const QString &from, const QString &to) override
     {
         if (const std::error_code error = disturbed())
@@ -458,6 +494,13 @@ private:
         if (fuse && fuse->burns())
             throw Killed();
         return trouble ? trouble() : std::error_code();
+    }
+    /** The same, after another program had its turn. */
+    std::error_code interrupted()
+    {
+        if (const auto turn = std::exchange(meanwhile, {}))
+            turn();
+        return disturbed();
     }
     static void collect(const Node &folder, const QString &path, std::map<QString, QByteArray> &all)
     {

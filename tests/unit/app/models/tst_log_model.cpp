@@ -1,5 +1,5 @@
 #include "app/models/log_model.h"
-#include "app/window/line_file.h"
+#include "files/items/line_file.h"
 #include "tests/support/test_program.h"
 
 #include <QElapsedTimer>
@@ -77,7 +77,7 @@ private Q_SLOTS:
     void readsOnlyWhatWasAdded()
     {
         write(line(1, "a.jpg", "OK", "one"));
-        QVERIFY(window::appendLines(m_path, line(2, "b.jpg", "OK", "one") + line(3, "c.jpg", "Failed", "two")));
+        QVERIFY(files::appendLines(m_path, line(2, "b.jpg", "OK", "one") + line(3, "c.jpg", "Failed", "two")));
         m_model->follow(m_path);
         QCOMPARE(names(), QStringLiteral("c.jpg b.jpg a.jpg"));
         QCOMPARE(m_model->entries().newest(), 1);
@@ -139,7 +139,7 @@ private Q_SLOTS:
         const int older = m_model->entries().runOrder().back();
         m_model->setFilter({{}, QStringLiteral("Failed"), older});
         QCOMPARE(names(), QStringLiteral("b.jpg"));
-        QVERIFY(window::appendLines(m_path, line(4, "d.jpg", "Failed", "one") + line(5, "e.jpg", "OK", "one")));
+        QVERIFY(files::appendLines(m_path, line(4, "d.jpg", "Failed", "one") + line(5, "e.jpg", "OK", "one")));
         m_model->follow(m_path);
         QCOMPARE(names(), QStringLiteral("d.jpg b.jpg"));
     }
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringLiteral("a10.jpg a2.jpg a1.jpg"));
         m_model->sort(window::LogModel::Status, Qt::AscendingOrder);
         QCOMPARE(names(), QStringLiteral("a2.jpg a1.jpg a10.jpg"));
-        QVERIFY(window::appendLines(m_path, line(4, "b.jpg", "Failed", "two")));
+        QVERIFY(files::appendLines(m_path, line(4, "b.jpg", "Failed", "two")));
         m_model->follow(m_path);
         QCOMPARE(names(), QStringLiteral("b.jpg a2.jpg a1.jpg a10.jpg"));
         m_model->sort(-1, Qt::AscendingOrder);
@@ -186,13 +186,13 @@ private Q_SLOTS:
         QCOMPARE(run("one").edits, 2);
         QCOMPARE(run("two").undoes, QStringLiteral("one"));
         QCOMPARE(entries.undoneOf(QStringLiteral("one")), 1);
-        QVERIFY(window::appendLines(m_path, edit(6, "OK", "three", "two")));
+        QVERIFY(files::appendLines(m_path, edit(6, "OK", "three", "two")));
         m_model->follow(m_path);
         QCOMPARE(entries.undoneOf(QStringLiteral("one")), 0); // done again
         QCOMPARE(entries.undoneOf(QString()), 0);
         // Lines that go round in a circle.
         QVERIFY(
-            window::appendLines(m_path, edit(7, "OK", "p", "q") + edit(8, "OK", "q", "p") + edit(9, "OK", "r", "r")));
+            files::appendLines(m_path, edit(7, "OK", "p", "q") + edit(8, "OK", "q", "p") + edit(9, "OK", "r", "r")));
         m_model->follow(m_path);
         QVERIFY(entries.undoneOf(QStringLiteral("p")) >= 0 && entries.undoneOf(QStringLiteral("r")) >= 0);
     }
@@ -201,7 +201,7 @@ private Q_SLOTS:
     {
         write(line(1, "a.jpg", "OK", "") + line(2, "b.jpg", "OK", "") + line(40, "c.jpg", "OK", ""));
         QCOMPARE(m_model->entries().runCount(), 2);
-        QVERIFY(window::appendLines(m_path, line(41, "d.jpg", "OK", "")));
+        QVERIFY(files::appendLines(m_path, line(41, "d.jpg", "OK", "")));
         m_model->follow(m_path);
         QCOMPARE(m_model->entries().runCount(), 2);
         QCOMPARE(m_model->entries().run(m_model->entries().runOrder().front()).count, 2);
@@ -210,9 +210,9 @@ private Q_SLOTS:
     void beginsALineOfItsOwnBehindOneThatWasCutOff()
     {
         put("half a li");
-        QVERIFY(window::appendLines(m_path, "whole\n"));
+        QVERIFY(files::appendLines(m_path, "whole\n"));
         QCOMPARE(content(), QByteArray("half a li\nwhole\n"));
-        QVERIFY(!window::appendLines(m_folder->path(), "no file\n"));
+        QVERIFY(!files::appendLines(m_folder->path(), "no file\n"));
     }
 
     void keepsTheNewestLines_data()
@@ -233,9 +233,9 @@ private Q_SLOTS:
         QFETCH(int, most);
         QFETCH(int, limit);
         put(text);
-        QVERIFY(window::keepNewestLines(m_path, most, limit));
+        QVERIFY(files::keepNewestLines(m_path, most, limit));
         QTEST(content(), "kept");
-        QVERIFY(!window::keepNewestLines(m_folder->filePath(QStringLiteral("none")), most, limit));
+        QVERIFY(!files::keepNewestLines(m_folder->filePath(QStringLiteral("none")), most, limit));
     }
 
     void aHundredThousandEntriesStayFluid();

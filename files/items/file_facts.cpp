@@ -1,7 +1,6 @@
-#include "app/window/file_facts.h"
+#include "files/items/file_facts.h"
 
-#include "app/window/formats.h"
-
+#include "image/services/format_words.h"
 #include "platform/disk/item_facts.h"
 #include "platform/foundation/human_texts.h"
 #include "platform/imageio/source/picture_facts.h"
@@ -15,7 +14,7 @@
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 
-namespace window {
+namespace files {
 
 namespace {
 
@@ -48,7 +47,7 @@ QVariant fileFacts(const QString &path)
     const bool isFolder = info.isDir();
     const platform::PictureFacts picture = isFolder ? platform::PictureFacts() : platform::pictureFacts(path);
     const QString type = isFolder                           ? QStringLiteral("public.folder")
-                         : picture.typeIdentifier.isEmpty() ? typeOfName(path)
+                         : picture.typeIdentifier.isEmpty() ? image::typeOfName(path)
                                                             : picture.typeIdentifier;
     return QVariantMap{{QStringLiteral("taken"), dateText(picture.taken)},
                        {QStringLiteral("camera"), textOf(picture.camera)},
@@ -59,7 +58,7 @@ QVariant fileFacts(const QString &path)
                        {QStringLiteral("size"), platform::byteCountText(item->sizeInBytes)},
                        {QStringLiteral("width"), std::max(0, picture.pixels.width())},
                        {QStringLiteral("height"), std::max(0, picture.pixels.height())},
-                       {QStringLiteral("type"), textOf(typeWord(type))},
+                       {QStringLiteral("type"), textOf(image::typeWord(type))},
                        {QStringLiteral("isFolder"), isFolder}};
 }
 
@@ -81,4 +80,4 @@ DiskSpace diskSpace(const QString &path)
     return space;
 }
 
-} // namespace window
+} // namespace files

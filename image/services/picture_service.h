@@ -4,10 +4,10 @@
 #include <QString>
 #include <QVariantList>
 
-namespace window {
+namespace image {
 
 /** What the scripts of a job do with pictures beside the services' own operations. Nothing here needs a window. */
-class PictureDesk : public QObject
+class PictureService : public QObject
 {
     Q_OBJECT
 
@@ -42,4 +42,4 @@ public:
     Q_INVOKABLE QString takeMemoryRefusal() const;
 };
 
-} // namespace window
+} // namespace image

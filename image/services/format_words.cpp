@@ -1,4 +1,4 @@
-#include "app/window/formats.h"
+#include "image/services/format_words.h"
 
 #include "platform/imageio/formats/type_identifiers.h"
 
@@ -8,7 +8,7 @@
 
 #include <sys/stat.h>
 
-namespace window {
+namespace image {
 
 QString pixelText(QSize pixels)
 {
@@ -52,4 +52,4 @@ qint64 fileBytes(const QString &path)
     return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? qint64(status.st_size) : -1;
 }
 
-} // namespace window
+} // namespace image

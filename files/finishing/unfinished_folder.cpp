@@ -1,4 +1,4 @@
-#include "app/window/staging.h"
+#include "files/finishing/unfinished_folder.h"
 
 #include "platform/disk/folders.h"
 #include "platform/disk/item_identity.h"
@@ -15,15 +15,13 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace window {
+namespace files {
 
 namespace {
 
@@ -96,29 +94,6 @@ void removeOpen(int descriptor, const QByteArray &path)
         ::rmdir(path.constData());
 }
 
-PlaceResult failed(const QString &to, int error)
-{
-    return {PlaceOutcome::Failed, QCoreApplication::translate("window::FileDesk", "%1 cannot be written: %2")
-                                      .arg(QFileInfo(to).fileName(), QString::fromLocal8Bit(std::strerror(error)))};
-}
-
-PlaceResult resultOf(const QString &to, const std::error_code &error)
-{
-    if (!error)
-        return {PlaceOutcome::Placed, {}};
-    return error == std::errc::file_exists ? PlaceResult{PlaceOutcome::Taken, {}} : failed(to, error.value());
-}
-
-bool swapNames(const QByteArray &one, const QByteArray &other)
-{
-    return ::renameat2(AT_FDCWD, one.constData(), AT_FDCWD, other.constData(), RENAME_EXCHANGE) == 0;
-}
-
-bool isForLackOfSwapping(int error)
-{
-    return error == EINVAL || error == ENOSYS || error == ENOTSUP;
-}
-
 } // namespace
 
 QString makeStaging(const QString &folder)
@@ -176,38 +151,4 @@ void sweepStagings(const QString &folder)
     platform::sweepUnfinished(folder);
 }
 
-PlaceResult placeFile(const QString &from, const QString &to)
-{
-    return resultOf(to, platform::renameToNew(from, to));
-}
-
-PlaceResult placeFileInsteadOf(const QString &from, const QString &to, const QString &known)
-{
-    if (!platform::canBeAPath(from) || !platform::canBeAPath(to))
-        return failed(to, ENOENT);
-    const QByteArray source = QFile::encodeName(from);
-    const QByteArray target = QFile::encodeName(to);
-    struct stat old = {};
-    if (::lstat(target.constData(), &old) != 0)
-        return errno == ENOENT ? placeFile(from, to) : failed(to, errno);
-    const bool isReplaceable = S_ISREG(old.st_mode) || S_ISLNK(old.st_mode);
-    if (!isReplaceable || platform::identityOf(old) != known)
-        return {PlaceOutcome::Taken, {}};
-    if (S_ISREG(old.st_mode))
-        ::chmod(source.constData(), old.st_mode & 07777);
-    if (!swapNames(source, target)) {
-        if (errno == ENOENT)
-            return placeFile(from, to);
-        if (!isForLackOfSwapping(errno))
-            return failed(to, errno);
-        return ::rename(source.constData(), target.constData()) == 0 ? PlaceResult{PlaceOutcome::Placed, {}}
-                                                                     : failed(to, errno);
-    }
-    // What was replaced is at hand now, and goes back if it is not what was meant.
-    if (platform::itemIdentity(from) != known)
-        return swapNames(source, target) ? PlaceResult{PlaceOutcome::Taken, {}} : failed(to, errno);
-    ::unlink(source.constData());
-    return {PlaceOutcome::Placed, {}};
-}
-
-} // namespace window
+} // namespace files

@@ -3,7 +3,7 @@
 #include <QSize>
 #include <QString>
 
-namespace window {
+namespace image {
 
 /** "4032×3024". */
 QString pixelText(QSize pixels);
@@ -17,4 +17,4 @@ QString typeWord(const QString &typeIdentifier);
 /** The size of the file in bytes, -1 where there is none. */
 qint64 fileBytes(const QString &path);
 
-} // namespace window
+} // namespace image

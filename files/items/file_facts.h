@@ -5,7 +5,7 @@
 
 #include <functional>
 
-namespace window {
+namespace files {
 
 /**
  * What is known of the file or folder at @p path without decoding it:
@@ -34,4 +34,4 @@ DiskSpace diskSpace(const QString &path);
 /** Tests have disks as full as they like: answers in place of the file systems, until it is set to nothing. */
 void setDiskSpaceSource(std::function<DiskSpace(const QString &path)> source);
 
-} // namespace window
+} // namespace files

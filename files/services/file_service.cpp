@@ -1,11 +1,13 @@
-#include "app/window/file_desk.h"
+#include "files/services/file_service.h"
 
-#include "app/window/file_facts.h"
-#include "app/window/formats.h"
-#include "app/window/line_file.h"
-#include "app/window/picture_collector.h"
-#include "app/window/staging.h"
+#include "files/finishing/put_in_place.h"
+#include "files/finishing/unfinished_folder.h"
+#include "files/items/file_facts.h"
+#include "files/items/line_file.h"
+#include "files/items/picture_collector.h"
 
+#include "image/services/format_words.h"
+#include "platform/disk/disk_file_system.h"
 #include "platform/disk/item_identity.h"
 #include "platform/file/atomic_file.h"
 #include "platform/file/regular_file.h"
@@ -15,7 +17,6 @@
 #include "platform/imageio/exif/orientation_mark.h"
 #include "platform/imageio/jpeg/jpeg_header.h"
 #include "platform/imageio/source/image_source.h"
-#include "presets/unusable_database.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -26,7 +27,7 @@
 
 #include <cmath>
 
-namespace window {
+namespace files {
 
 namespace {
 
@@ -34,14 +35,14 @@ const QVariant nothing = QVariant::fromValue(nullptr);
 
 } // namespace
 
-FileDesk::FileDesk(QObject *parent) : QObject(parent) {}
+FileService::FileService(QObject *parent) : QObject(parent) {}
 
-QString FileDesk::home() const
+QString FileService::home() const
 {
     return QDir::homePath();
 }
 
-QString FileDesk::dataFolder() const
+QString FileService::dataFolder() const
 {
     const QString folder =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/quorlin");
@@ -49,38 +50,38 @@ QString FileDesk::dataFolder() const
     return folder;
 }
 
-QVariantMap FileDesk::info(const QString &path) const
+QVariantMap FileService::info(const QString &path) const
 {
     const QFileInfo info(path);
     return {{QStringLiteral("exists"), info.exists() || info.isSymLink()},
             {QStringLiteral("isFolder"), info.isDir()},
             {QStringLiteral("isLink"), info.isSymLink()},
-            {QStringLiteral("bytes"), double(fileBytes(path))},
+            {QStringLiteral("bytes"), double(image::fileBytes(path))},
             {QStringLiteral("writable"), info.isWritable()}};
 }
 
-QVariantMap FileDesk::space(const QString &path) const
+QVariantMap FileService::space(const QString &path) const
 {
     const DiskSpace space = diskSpace(path);
     return {{QStringLiteral("free"), double(space.freeBytes)}, {QStringLiteral("disk"), double(space.disk)}};
 }
 
-QString FileDesk::absolute(const QString &path) const
+QString FileService::absolute(const QString &path) const
 {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
-QString FileDesk::identity(const QString &path) const
+QString FileService::identity(const QString &path) const
 {
     return platform::itemIdentity(path);
 }
 
-QString FileDesk::folderIdentity(const QString &folder) const
+QString FileService::folderIdentity(const QString &folder) const
 {
     return platform::folderIdentity(folder);
 }
 
-QVariantMap FileDesk::owners(const QStringList &paths) const
+QVariantMap FileService::owners(const QStringList &paths) const
 {
     QVariantMap owners;
     for (const QString &path : paths) {
@@ -97,19 +98,19 @@ QVariantMap FileDesk::owners(const QStringList &paths) const
     return owners;
 }
 
-QStringList FileDesk::names(const QString &folder) const
+QStringList FileService::names(const QString &folder) const
 {
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                                   QDir::Unsorted);
 }
 
-QStringList FileDesk::folders(const QString &folder) const
+QStringList FileService::folders(const QString &folder) const
 {
     return QDir(folder).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Unsorted);
 }
 
-QVariantMap FileDesk::collect(const QStringList &paths, const QStringList &extensions, const QStringList &companions,
-                              const QStringList &listed) const
+QVariantMap FileService::collect(const QStringList &paths, const QStringList &extensions, const QStringList &companions,
+                                 const QStringList &listed) const
 {
     const Collected found = collectFiles(paths, {extensions, companions, listed});
     return {{QStringLiteral("paths"), found.paths},           {QStringLiteral("listed"), found.listed},
@@ -117,47 +118,49 @@ QVariantMap FileDesk::collect(const QStringList &paths, const QStringList &exten
             {QStringLiteral("companions"), found.companions}, {QStringLiteral("example"), found.example}};
 }
 
-QString FileDesk::makeFolder(const QString &folder) const
+QString FileService::makeFolder(const QString &folder) const
 {
     if (QDir().mkpath(folder))
         return {};
     return tr("The folder %1 cannot be made").arg(QDir::toNativeSeparators(folder));
 }
 
-void FileDesk::removeEmptyFolder(const QString &folder) const
+void FileService::removeEmptyFolder(const QString &folder) const
 {
     QDir().rmdir(folder);
 }
 
-QVariant FileDesk::makeStaging(const QString &folder) const
+QVariant FileService::makeStaging(const QString &folder) const
 {
-    const QString made = window::makeStaging(folder);
+    const QString made = files::makeStaging(folder);
     return made.isEmpty() ? nothing : QVariant(made);
 }
 
-void FileDesk::removeStaging(const QString &staging) const
+void FileService::removeStaging(const QString &staging) const
 {
-    window::removeStaging(staging);
+    files::removeStaging(staging);
 }
 
-void FileDesk::sweep(const QString &folder) const
+void FileService::sweep(const QString &folder) const
 {
-    window::sweepStagings(folder);
+    files::sweepStagings(folder);
 }
 
-QVariantMap FileDesk::place(const QString &from, const QString &to, const QString &replaced) const
+QVariantMap FileService::place(const QString &from, const QString &to, const QString &replaced) const
 {
     if (!replaced.isEmpty() && !platform::isIdentity(replaced))
         throw platform::Raised::typeError(
             QStringLiteral("Expected an identity or empty text for replaced but received \"%1\"").arg(replaced));
-    const PlaceResult result = replaced.isEmpty() ? placeFile(from, to) : placeFileInsteadOf(from, to, replaced);
+    platform::DiskFileSystem disk;
+    const PlaceResult result =
+        replaced.isEmpty() ? placeFile(disk, from, to) : placeFileInsteadOf(disk, from, to, replaced);
     const QString status = result.outcome == PlaceOutcome::Placed  ? QStringLiteral("OK")
                            : result.outcome == PlaceOutcome::Taken ? QStringLiteral("Taken")
                                                                    : QStringLiteral("Failed");
     return {{QStringLiteral("status"), status}, {QStringLiteral("message"), result.message}};
 }
 
-QVariant FileDesk::storedSize(const QString &path) const
+QVariant FileService::storedSize(const QString &path) const
 {
     const auto source = platform::ImageSource::open(path);
     if (!source)
@@ -166,7 +169,7 @@ QVariant FileDesk::storedSize(const QString &path) const
                        {QStringLiteral("height"), source->storedSize().height()}};
 }
 
-QVariant FileDesk::jpegBlock(const QString &path) const
+QVariant FileService::jpegBlock(const QString &path) const
 {
     QFile file(path);
     const auto header = platform::openToRead(file) ? platform::readJpegHeader(file) : std::nullopt;
@@ -178,13 +181,13 @@ QVariant FileDesk::jpegBlock(const QString &path) const
                        {QStringLiteral("height"), isSampled ? side * header->quantisation.verticalSampling : side}};
 }
 
-QString FileDesk::markUpright(const QString &path) const
+QString FileService::markUpright(const QString &path) const
 {
     const auto marked = platform::markUpright(path);
     return marked ? QString() : marked.error().message;
 }
 
-QVariantMap FileDesk::picture(const QString &path) const
+QVariantMap FileService::picture(const QString &path) const
 {
     const auto source = platform::ImageSource::open(path);
     const QSize size = source ? source->uprightSize() : QSize(0, 0);
@@ -193,29 +196,29 @@ QVariantMap FileDesk::picture(const QString &path) const
             {QStringLiteral("width"), size.width()},
             {QStringLiteral("height"), size.height()},
             {QStringLiteral("orientation"), source ? source->orientation() : 1},
-            {QStringLiteral("type"), typeWord(source ? source->typeIdentifier() : typeOfName(path))},
-            {QStringLiteral("bytes"), double(fileBytes(path))}};
+            {QStringLiteral("type"), image::typeWord(source ? source->typeIdentifier() : image::typeOfName(path))},
+            {QStringLiteral("bytes"), double(image::fileBytes(path))}};
 }
 
-QVariant FileDesk::facts(const QString &path) const
+QVariant FileService::facts(const QString &path) const
 {
     return fileFacts(path);
 }
 
-QString FileDesk::profileName(const QString &path) const
+QString FileService::profileName(const QString &path) const
 {
     const auto properties =
         platform::ImageSource::open(path).and_then([](const auto &source) { return source.properties(); });
     return properties.value_or(QVariantMap()).value(QStringLiteral("ProfileName")).toString();
 }
 
-QString FileDesk::writeComment(const QString &path, const QString &comment) const
+QString FileService::writeComment(const QString &path, const QString &comment) const
 {
     const auto written = platform::writeUserComment(path, comment);
     return written ? QString() : written.error().message;
 }
 
-QStringList FileDesk::lostMetadata(const QString &from, const QString &to) const
+QStringList FileService::lostMetadata(const QString &from, const QString &to) const
 {
     const auto groupsOf = [](const QString &path) {
         return platform::ImageSource::open(path)
@@ -233,53 +236,48 @@ QStringList FileDesk::lostMetadata(const QString &from, const QString &to) const
     return lost;
 }
 
-QVariantMap FileDesk::readComment(const QString &path) const
+QVariantMap FileService::readComment(const QString &path) const
 {
     const auto comment = platform::readUserComment(path);
     return {{QStringLiteral("comment"), comment.value_or(QStringLiteral(""))},
             {QStringLiteral("problem"), comment ? QStringLiteral("") : comment.error().message}};
 }
 
-int FileDesk::pagesLostToComment(const QString &path) const
+int FileService::pagesLostToComment(const QString &path) const
 {
     return platform::pagesLostToUserComment(path);
 }
 
-bool FileDesk::holdsComment(const QString &path) const
+bool FileService::holdsComment(const QString &path) const
 {
     return platform::canHoldUserComment(path);
 }
 
-QString FileDesk::writeText(const QString &path, const QString &text) const
+QString FileService::writeText(const QString &path, const QString &text) const
 {
     const auto written = platform::replaceFile(path, text.toUtf8());
     return written ? QString() : written.error().message;
 }
 
-QString FileDesk::appendLines(const QString &path, const QString &lines) const
+QString FileService::appendLines(const QString &path, const QString &lines) const
 {
-    const auto added = window::appendLines(path, lines.toUtf8());
+    const auto added = files::appendLines(path, lines.toUtf8());
     return added ? QString() : added.error().message;
 }
 
-QString FileDesk::keepNewestLines(const QString &path, int most, int limit) const
+QString FileService::keepNewestLines(const QString &path, int most, int limit) const
 {
-    const auto kept = window::keepNewestLines(path, most, limit);
+    const auto kept = files::keepNewestLines(path, most, limit);
     return kept ? QString() : kept.error().message;
 }
 
-QVariant FileDesk::readText(const QString &path) const
+QVariant FileService::readText(const QString &path) const
 {
     const auto bytes = platform::readFile(path);
     return bytes ? QVariant(QString::fromUtf8(*bytes)) : nothing;
 }
 
-QString FileDesk::setAsideUnusableDatabase(const QString &path) const
-{
-    return presets::setAsideUnusableDatabase(path);
-}
-
-QString FileDesk::byteText(double bytes) const
+QString FileService::byteText(double bytes) const
 {
     constexpr double mostBytes = 9007199254740992.0;
     if (!(std::abs(bytes) <= mostBytes))
@@ -288,10 +286,10 @@ QString FileDesk::byteText(double bytes) const
     return platform::localByteCountText(qint64(bytes));
 }
 
-QString FileDesk::dateText(const QString &date) const
+QString FileService::dateText(const QString &date) const
 {
     const QDateTime read = QDateTime::fromString(date, Qt::ISODate);
     return read.isValid() ? QLocale().toString(read, QLocale::ShortFormat) : QString();
 }
 
-} // namespace window
+} // namespace files

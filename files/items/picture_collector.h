@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace window {
+namespace files {
 
 /** Which files a job takes, and what else is noted of those it passes over. Extensions in any case of letters. */
 struct CollectRule
@@ -33,4 +33,4 @@ struct Collected
  */
 Collected collectFiles(const QStringList &paths, const CollectRule &rule);
 
-} // namespace window
+} // namespace files

@@ -1,4 +1,4 @@
-#include "app/window/picture_desk.h"
+#include "image/services/picture_service.h"
 
 #include "image/overlay.h"
 #include "platform/foundation/memory_left.h"
@@ -8,7 +8,7 @@
 #include "platform/imageio/source/image_source.h"
 #include "platform/imageio/source/picture.h"
 
-namespace window {
+namespace image {
 namespace {
 
 QString wordFor(platform::Kept kept)
@@ -34,7 +34,7 @@ QVariantList extensionsOf(const platform::Format &format)
 
 } // namespace
 
-QString PictureDesk::layOnPattern(const QString &path, const QString &pattern, const QString &target) const
+QString PictureService::layOnPattern(const QString &path, const QString &pattern, const QString &target) const
 {
     const platform::Picture picture = platform::Picture::fromFile(path);
     if (picture.isNull())
@@ -54,12 +54,12 @@ QString PictureDesk::layOnPattern(const QString &path, const QString &pattern, c
     return written ? QString() : written.error().message;
 }
 
-QString PictureDesk::takeMemoryRefusal() const
+QString PictureService::takeMemoryRefusal() const
 {
     return platform::takeMemoryRefusal();
 }
 
-QVariantList PictureDesk::formats() const
+QVariantList PictureService::formats() const
 {
     QVariantList rows;
     for (const platform::Format &format : platform::formats())
@@ -73,7 +73,7 @@ QVariantList PictureDesk::formats() const
     return rows;
 }
 
-QVariantList PictureDesk::rawTypes() const
+QVariantList PictureService::rawTypes() const
 {
     QVariantList rows;
     for (const platform::RawType &type : platform::rawTypes())
@@ -82,11 +82,11 @@ QVariantList PictureDesk::rawTypes() const
     return rows;
 }
 
-bool PictureDesk::keepsProfile(const QString &path, const QString &typeIdentifier) const
+bool PictureService::keepsProfile(const QString &path, const QString &typeIdentifier) const
 {
     const auto source = platform::ImageSource::open(path);
     const auto format = platform::fileFormatForType(typeIdentifier);
     return source && format && platform::holdsProfile(*format, source->iccProfile());
 }
 
-} // namespace window
+} // namespace image

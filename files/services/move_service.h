@@ -4,7 +4,7 @@
 #include "files/moving/move_run.h"
 #include "files/planning/move_plan.h"
 
-#include "platform/disk/disk_file_system.h"
+#include "platform/disk/file_system.h"
 
 #include <QObject>
 #include <QVariant>
@@ -13,7 +13,7 @@
 #include <memory>
 #include <set>
 
-namespace window {
+namespace files {
 
 /**
  * What the scripts of a job do to rename, move, copy, link and trash files so that none is ever lost: plans, runs with a
@@ -22,19 +22,23 @@ namespace window {
  * Paths are absolute. Nothing here needs a window. Failures are sentences beside a code; an empty text means success. The journals
  * are in the folder "moves" of the program's data folder; the last 200 runs can be told and taken back.
  */
-class MoveDesk : public QObject
+class MoveService : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit MoveDesk(QObject *parent = nullptr);
-    ~MoveDesk() override;
+    explicit MoveService(QObject *parent = nullptr);
+    /** On another disk, with journals elsewhere. */
+    MoveService(std::unique_ptr<platform::FileSystem> disk, std::unique_ptr<JournalShelf> shelf,
+                QObject *parent = nullptr);
+    ~MoveService() override;
 
     /**
      * Says what would become of each wish; touches nothing.
      *
-     * @param wishes  [{kind: "move" (default), "copy" or "link", from, to, number: false, leader: -1}]
-     * @return [{status: "ready", "same" or "refused", code, other, to}], see files::planMoves()
+     * @param wishes  [{kind: "move" (default), "copy" or "link", from, to, number: false, leader: -1}]; another word, and a value of
+     *                another type, is a TypeError here as in all operations
+     * @return [{status: "ready", "same" or "refused", code, other, to}], see planMoves()
      */
     Q_INVOKABLE QVariantList plan(const QVariantList &wishes) const;
 
@@ -72,7 +76,7 @@ public:
      * {run, items: [{kind, from, to}], problems: [{path, code, reason}]}, or {problem, problems}
      */
     Q_INVOKABLE QVariantMap undo(const QString &run);
-    /** [{id, title, date, count, done, state, undoes}], the newest first; see files::listRuns(). */
+    /** [{id, title, date, count, done, state, undoes}], the newest first; see listRuns(). */
     Q_INVOKABLE QVariantList runs() const;
     /** Ends what was interrupted: [{id, title, done, finished, takenBack, left, problems}]. Once, at start. */
     Q_INVOKABLE QVariantList recover();
@@ -81,19 +85,19 @@ private:
     /** A plan in the making; it is begun when the last wish is known. */
     struct Draft
     {
-        std::vector<files::MoveWish> wishes;
-        std::unique_ptr<files::MovePlanning> planning;
+        std::vector<MoveWish> wishes;
+        std::unique_ptr<MovePlanning> planning;
     };
 
-    QVariantMap started(std::unique_ptr<files::MoveRun> run, const QString &problem);
-    files::MoveRun *found(const QString &run) const;
+    QVariantMap started(std::unique_ptr<MoveRun> run, const QString &problem);
+    MoveRun *found(const QString &run) const;
 
-    mutable platform::DiskFileSystem m_disk;
-    files::DiskJournalShelf m_shelf;
+    std::unique_ptr<platform::FileSystem> m_disk;
+    std::unique_ptr<JournalShelf> m_shelf;
     std::map<QString, Draft> m_plans;
     int m_lastPlan = 0;
-    std::map<QString, std::unique_ptr<files::MoveRun>> m_runs;
+    std::map<QString, std::unique_ptr<MoveRun>> m_runs;
     std::set<std::pair<QString, int>> m_givenUp; ///< items that could not be taken back
 };
 
-} // namespace window
+} // namespace files

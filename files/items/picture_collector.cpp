@@ -1,4 +1,4 @@
-#include "app/window/picture_collector.h"
+#include "files/items/picture_collector.h"
 
 #include "platform/disk/folder_walk.h"
 #include "platform/foundation/natural_order.h"
@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace window {
+namespace files {
 
 namespace {
 
@@ -160,4 +160,4 @@ Collected collectFiles(const QStringList &paths, const CollectRule &rule)
     return collector.result();
 }
 
-} // namespace window
+} // namespace files

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 
-namespace window {
+namespace files {
 
 /**
  * What the scripts of a job do with files beside the pictures' own operations: look at folders, collect input, and
@@ -13,14 +13,14 @@ namespace window {
  *
  * Paths are absolute. Nothing here needs a window. Failures are sentences; an empty text means success.
  */
-class FileDesk : public QObject
+class FileService : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString home READ home CONSTANT)
     Q_PROPERTY(QString dataFolder READ dataFolder CONSTANT)
 
 public:
-    explicit FileDesk(QObject *parent = nullptr);
+    explicit FileService(QObject *parent = nullptr);
 
     QString home() const;
     /** The folder for this program's own data, made if need be. */
@@ -106,19 +106,16 @@ public:
     Q_INVOKABLE bool holdsComment(const QString &path) const;
 
     Q_INVOKABLE QString writeText(const QString &path, const QString &text) const;
-    /** Adds lines, each ending in a line feed; see window::appendLines(). */
+    /** Adds lines, each ending in a line feed; see files::appendLines(). */
     Q_INVOKABLE QString appendLines(const QString &path, const QString &lines) const;
-    /** See window::keepNewestLines(). */
+    /** See files::keepNewestLines(). */
     Q_INVOKABLE QString keepNewestLines(const QString &path, int most, int limit) const;
     /** Null where the file cannot be read. */
     Q_INVOKABLE QVariant readText(const QString &path) const;
-
-    /** The new path of a presets database that could hold no preset; empty where it is left. See the function of that name. */
-    Q_INVOKABLE QString setAsideUnusableDatabase(const QString &path) const;
 
     Q_INVOKABLE QString byteText(double bytes) const;
     /** A local date and time such as "2026-08-14T10:20:30" in the reader's own form; empty for what is none. */
     Q_INVOKABLE QString dateText(const QString &date) const;
 };
 
-} // namespace window
+} // namespace files

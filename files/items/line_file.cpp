@@ -1,4 +1,4 @@
-#include "app/window/line_file.h"
+#include "files/items/line_file.h"
 
 #include "platform/file/atomic_file.h"
 
@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace window {
+namespace files {
 
 namespace {
 
@@ -52,4 +52,4 @@ platform::Result<void> keepNewestLines(const QString &path, int most, int limit)
     return platform::replaceFile(path, text->mid(startOfLast(*text, most)));
 }
 
-} // namespace window
+} // namespace files

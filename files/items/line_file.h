@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
-namespace window {
+namespace files {
 
 /**
  * Adds lines to the end of a file, which is made if need be. They begin a line of their own also where the file ends in the
@@ -22,4 +22,4 @@ platform::Result<void> appendLines(const QString &path, const QByteArray &lines)
  */
 platform::Result<void> keepNewestLines(const QString &path, int most, int limit);
 
-} // namespace window
+} // namespace files

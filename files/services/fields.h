@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+namespace files {
+
+/**
+ * What a script wrote in a dictionary, read by names. What is of another type than is meant raises platform::Raised, a TypeError
+ * of the form "Expected X for N but received V"; what is missing or null is the value that is asked for instead.
+ */
+class Fields
+{
+public:
+    /** @param name  what the sentence calls the dictionary: "wishes[2]". Raises where @p value is none. */
+    Fields(const QVariant &value, QString name);
+
+    QString text(const char *key) const;
+    bool truth(const char *key, bool otherwise) const;
+    int whole(const char *key, int otherwise) const;
+    /** Empty where it is missing. */
+    QVariantList list(const char *key) const;
+
+    /** Says that @p key holds something else than is expected: "\"move\", \"copy\" or \"link\"". */
+    [[noreturn]] void reject(const char *expected, const char *key) const;
+
+private:
+    QVariant value(const char *key) const { return m_map.value(QString::fromLatin1(key)); }
+
+    QVariantMap m_map;
+    QString m_name;
+};
+
+} // namespace files

@@ -1,0 +1,324 @@
+#include "files/services/move_service.h"
+
+#include "files/moving/move_recovery.h"
+#include "files/moving/move_undo.h"
+#include "files/services/fields.h"
+#include "files/services/move_words.h"
+
+#include "platform/disk/disk_file_system.h"
+#include "platform/disk/folders.h"
+#include "platform/disk/hidden_sweep.h"
+#include "platform/foundation/paths.h"
+
+#include <algorithm>
+
+namespace files {
+
+namespace {
+
+const QVariant nothing = QVariant::fromValue(nullptr);
+
+QString journalFolder()
+{
+    return platform::joinedPath(platform::applicationSupportFolder(), QStringLiteral("quorlin/moves"));
+}
+
+/** The kind that is meant where none is said. */
+const QString usualKind = QStringLiteral("move");
+
+QString kindOf(const Fields &fields)
+{
+    const QString kind = fields.text("kind");
+    return kind.isNull() ? usualKind : kind;
+}
+
+MoveWish wishFrom(const Fields &fields)
+{
+    const std::optional<MoveKind> kind = moveKind(kindOf(fields));
+    if (!kind)
+        fields.reject("\"move\", \"copy\" or \"link\"", "kind");
+    return {*kind, fields.text("from"), fields.text("to"), fields.truth("number", false), fields.whole("leader", -1)};
+}
+
+MoveItem itemFrom(const Fields &fields)
+{
+    const std::optional<Deed> deed = wantedDeed(kindOf(fields));
+    if (!deed)
+        fields.reject("\"move\", \"copy\", \"link\" or \"trash\"", "kind");
+    MoveItem item;
+    item.deed = *deed;
+    item.from = fields.text("from");
+    item.to = fields.text("to");
+    item.leader = fields.whole("leader", -1);
+    return item;
+}
+
+std::vector<MoveWish> wishesFrom(const QVariantList &list)
+{
+    std::vector<MoveWish> wishes;
+    wishes.reserve(size_t(list.size()));
+    for (const QVariant &wish : list)
+        wishes.push_back(wishFrom({wish, QStringLiteral("wishes[%1]").arg(wishes.size())}));
+    return wishes;
+}
+
+QVariantMap mapOf(const PlannedMove &planned)
+{
+    return {{QStringLiteral("status"), wordOf(planned.status)},
+            {QStringLiteral("code"), planned.code},
+            {QStringLiteral("other"), planned.other},
+            {QStringLiteral("to"), planned.to}};
+}
+
+QVariantMap mapOf(const MoveResult &result)
+{
+    return {{QStringLiteral("index"), result.index},
+            {QStringLiteral("status"), statusWord(result.stand)},
+            {QStringLiteral("code"), result.code},
+            {QStringLiteral("message"), result.message},
+            {QStringLiteral("path"), result.path}};
+}
+
+QVariantMap mapOf(const UndoProblem &problem)
+{
+    return {{QStringLiteral("path"), problem.path},
+            {QStringLiteral("code"), problem.code},
+            {QStringLiteral("reason"), problem.reason}};
+}
+
+QVariantMap mapOf(const RunSummary &summary)
+{
+    return {{QStringLiteral("id"), summary.run.id},          {QStringLiteral("title"), summary.run.title},
+            {QStringLiteral("date"), summary.run.date},      {QStringLiteral("count"), summary.run.count},
+            {QStringLiteral("done"), summary.run.doneAtEnd}, {QStringLiteral("state"), summary.state},
+            {QStringLiteral("undoes"), summary.run.undoes}};
+}
+
+QVariantMap mapOf(const RecoveredRun &run)
+{
+    return {{QStringLiteral("id"), run.id},
+            {QStringLiteral("title"), run.title},
+            {QStringLiteral("done"), run.done},
+            {QStringLiteral("finished"), run.finished},
+            {QStringLiteral("takenBack"), run.takenBack},
+            {QStringLiteral("left"), run.left},
+            {QStringLiteral("problems"), run.problems}};
+}
+
+template<typename Values> QVariantList listOf(const Values &values)
+{
+    QVariantList list;
+    for (const auto &value : values)
+        list.append(mapOf(value));
+    return list;
+}
+
+QVariantMap failed(const QString &code, const QString &message, const QString &path)
+{
+    return mapOf(MoveResult{-1, Stand::Failed, code, message, path});
+}
+
+} // namespace
+
+MoveService::MoveService(QObject *parent)
+    : MoveService(std::make_unique<platform::DiskFileSystem>(), std::make_unique<DiskJournalShelf>(journalFolder()),
+                  parent)
+{
+}
+
+MoveService::MoveService(std::unique_ptr<platform::FileSystem> disk, std::unique_ptr<JournalShelf> shelf,
+                         QObject *parent)
+    : QObject(parent), m_disk(std::move(disk)), m_shelf(std::move(shelf))
+{
+}
+
+MoveService::~MoveService() = default;
+
+QVariantList MoveService::plan(const QVariantList &wishes) const
+{
+    return listOf(planMoves(wishesFrom(wishes), *m_disk));
+}
+
+QString MoveService::beginPlan()
+{
+    const QString plan = QStringLiteral("plan %1").arg(++m_lastPlan);
+    m_plans[plan] = {};
+    return plan;
+}
+
+void MoveService::addWishes(const QString &plan, const QVariantList &wishes)
+{
+    const auto found = m_plans.find(plan);
+    if (found == m_plans.end() || found->second.planning)
+        return;
+    const std::vector<MoveWish> more = wishesFrom(wishes);
+    found->second.wishes.insert(found->second.wishes.end(), more.begin(), more.end());
+}
+
+bool MoveService::workOut(const QString &plan, int milliseconds)
+{
+    const auto found = m_plans.find(plan);
+    if (found == m_plans.end())
+        return true;
+    Draft &draft = found->second;
+    if (!draft.planning)
+        draft.planning = std::make_unique<MovePlanning>(std::move(draft.wishes), *m_disk);
+    return draft.planning->workFor(std::chrono::milliseconds(milliseconds));
+}
+
+QVariantList MoveService::planned(const QString &plan, int from, int to) const
+{
+    QVariantList list;
+    const auto found = m_plans.find(plan);
+    if (found == m_plans.end() || !found->second.planning)
+        return list;
+    const MovePlanning &made = *found->second.planning;
+    for (int i = std::max(0, from); i < std::min(to, int(made.plan().size())); ++i) {
+        const PlannedMove &planned = made.plan()[size_t(i)];
+        const bool isPlain =
+            planned.status == PlanStatus::Ready && planned.code.isEmpty() && planned.to == made.wishes()[size_t(i)].to;
+        list.append(isPlain ? nothing : QVariant(mapOf(planned)));
+    }
+    return list;
+}
+
+void MoveService::dropPlan(const QString &plan)
+{
+    m_plans.erase(plan);
+}
+
+QVariantMap MoveService::started(std::unique_ptr<MoveRun> run, const QString &problem)
+{
+    if (!run)
+        return {{QStringLiteral("problem"), problem}};
+    const QString id = run->id();
+    m_runs.insert_or_assign(id, std::move(run));
+    return {{QStringLiteral("run"), id}};
+}
+
+MoveRun *MoveService::found(const QString &run) const
+{
+    const auto at = m_runs.find(run);
+    return at == m_runs.end() ? nullptr : at->second.get();
+}
+
+QVariantMap MoveService::begin(const QVariantMap &run)
+{
+    MoveOrderForm form;
+    const Fields fields(run, QStringLiteral("run"));
+    form.title = fields.text("title");
+    for (const QVariant &item : fields.list("items"))
+        form.items.push_back(itemFrom({item, QStringLiteral("run.items[%1]").arg(form.items.size())}));
+    QString problem;
+    return started(MoveRun::begin(*m_disk, *m_shelf, form, &problem), problem);
+}
+
+QVariant MoveService::next(const QString &run)
+{
+    MoveRun *active = found(run);
+    const auto result = active ? active->next() : std::nullopt;
+    return result ? QVariant(mapOf(*result)) : nothing;
+}
+
+QString MoveService::end(const QString &run)
+{
+    MoveRun *active = found(run);
+    if (!active)
+        return tr("This run is not open");
+    const QString problem = active->end();
+    m_runs.erase(run);
+    return problem;
+}
+
+QVariantMap MoveService::open(const QString &title)
+{
+    QString problem;
+    return started(MoveRun::open(*m_disk, *m_shelf, title, &problem), problem);
+}
+
+QVariantMap MoveService::add(const QString &run, const QVariantMap &item)
+{
+    MoveRun *active = found(run);
+    const Fields fields(item, QStringLiteral("item"));
+    MoveItem added = itemFrom(fields);
+    if (!active)
+        return failed(QStringLiteral("other"), tr("This run is not open"), added.from);
+    if (added.deed != Deed::Trash) {
+        const PlannedMove planned = planMoves({wishFrom(fields)}, *m_disk).front();
+        if (planned.status == PlanStatus::Refused)
+            return failed(planned.code,
+                          MoveDeeds::sentence(planned.code, planned.other.isEmpty() ? added.from : planned.other),
+                          added.from);
+        added.to = planned.to;
+    }
+    return mapOf(active->add(added));
+}
+
+QVariant MoveService::takeBack(const QString &run)
+{
+    MoveRun *active = found(run);
+    int index = active ? active->lastDone() : -1;
+    while (index >= 0 &&
+           (m_givenUp.contains({run, index}) || active->record().items[size_t(index)].stand != Stand::Done))
+        --index;
+    if (index < 0)
+        return nothing;
+    const MoveRecord record = active->record().items[size_t(index)];
+    const TakeBack back = takeBackOf(*m_disk, active->record(), index);
+    const UndoProblem &problem = back.problem;
+    const MoveResult result = problem.code.isEmpty()
+                                  ? active->takeBack(index, back.deed)
+                                  : MoveResult{index, Stand::Failed, problem.code, problem.reason, problem.path};
+    if (result.stand != Stand::Done)
+        m_givenUp.insert({run, index});
+    QVariantMap answer = mapOf(result);
+    answer.insert(QStringLiteral("kind"), wordOf(record.item.deed));
+    answer.insert(QStringLiteral("from"), record.item.from);
+    answer.insert(QStringLiteral("to"), record.path);
+    return answer;
+}
+
+QVariantMap MoveService::undoable(const QString &run) const
+{
+    const Undoable answer = undoableItems(*m_shelf, run);
+    return {{QStringLiteral("can"), answer.reason.isEmpty()},
+            {QStringLiteral("count"), answer.count},
+            {QStringLiteral("reason"), answer.reason}};
+}
+
+QVariantMap MoveService::undo(const QString &run)
+{
+    const UndoPlan plan = planUndo(*m_disk, *m_shelf, run);
+    QVariantList items;
+    for (const MoveItem &item : plan.form.items)
+        items.append(QVariantMap{{QStringLiteral("kind"), wordOf(item.deed)},
+                                 {QStringLiteral("from"), item.from},
+                                 {QStringLiteral("to"), item.to}});
+    QString problem = plan.problem;
+    QVariantMap answer = problem.isEmpty() ? started(MoveRun::begin(*m_disk, *m_shelf, plan.form, &problem), problem)
+                                           : started(nullptr, problem);
+    answer.insert(QStringLiteral("problems"), listOf(plan.problems));
+    if (answer.contains(QStringLiteral("run")))
+        answer.insert(QStringLiteral("items"), items);
+    return answer;
+}
+
+QVariantList MoveService::runs() const
+{
+    return listOf(listRuns(*m_shelf));
+}
+
+QVariantList MoveService::recover()
+{
+    const QStringList named = platform::sweepHiddenItems();
+    QVariantList runs = listOf(recoverMoves(*m_disk, *m_shelf));
+    if (named.isEmpty())
+        return runs;
+    RecoveredRun swept;
+    swept.title = tr("Copying or moving a file");
+    for (const QString &path : named)
+        swept.problems.append(tr("%1 had been put aside and has a name again").arg(path));
+    return runs << mapOf(swept);
+}
+
+} // namespace files

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "files/moving/move_record.h"
+#include "files/planning/move_plan.h"
+
+#include <QStringView>
+
+#include <optional>
+
+namespace files {
+
+/** "move", "copy" or "link"; nothing for any other word. */
+std::optional<MoveKind> moveKind(QStringView word);
+
+/** "move", "copy", "link" or "trash": what a script may ask to be done with an item. Nothing for any other word. */
+std::optional<Deed> wantedDeed(QStringView word);
+
+/** What was done with an item, in a word: "move", "copy", "link", "trash" or "remove". */
+QString wordOf(Deed deed);
+
+/** "ready", "same" or "refused". */
+QString wordOf(PlanStatus status);
+
+/** How it went with an item of a run: "OK", "Skipped" or "Failed". */
+QString statusWord(Stand stand);
+
+} // namespace files
