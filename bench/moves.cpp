@@ -59,9 +59,9 @@ std::vector<MoveItem> itemsOf(const std::vector<MoveWish> &wishes)
 
 QString carryOut(platform::FileSystem &disk, JournalShelf &shelf, const char *what, const MoveOrderForm &form)
 {
-    QString problem;
     std::printf("%s\n", what);
-    const auto run = timed("  begin, journal on the disk", [&] { return MoveRun::begin(disk, shelf, form, &problem); });
+    const auto run =
+        timed("  begin, journal on the disk", [&] { return std::move(*MoveRun::begin(disk, shelf, form)); });
     const int done = timed("  all items", [&] {
         int count = 0;
         while (const auto result = run->next())

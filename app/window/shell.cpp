@@ -58,12 +58,11 @@ bool Shell::keepsSettings() const
 
 Form *Shell::loadForm(const QString &file)
 {
-    QString problem;
-    Form *form = Form::load(m_folder + QLatin1Char('/') + file, nullptr, this, &problem);
+    const auto form = Form::load(m_folder + QLatin1Char('/') + file, nullptr, this);
     if (!form)
-        throw platform::Raised::error(problem);
-    m_windows.append(form->root());
-    return form;
+        throw platform::Raised::error(form.error().message);
+    m_windows.append((*form)->root());
+    return *form;
 }
 
 void Shell::alignFields(const QObjectList &forms)

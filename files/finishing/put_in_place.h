@@ -25,6 +25,8 @@ PlaceResult placeFile(platform::FileSystem &disk, const QString &from, const QSt
 /**
  * The same, but the one file or link whose platform::itemIdentity() is @p known may be replaced; anything else at @p to,
  * also if it got there a moment ago, is Taken. The new file takes the permissions of a regular file that was there.
+ *
+ * Only a file system that cannot swap two names, such as FAT, looks first and then renames: what gets there in between is replaced.
  */
 PlaceResult placeFileInsteadOf(platform::FileSystem &disk, const QString &from, const QString &to,
                                const QString &known);

@@ -35,16 +35,16 @@ QStringList DiskJournalShelf::names() const
     return names;
 }
 
-QString DiskJournalShelf::make(const QString &name, const QByteArray &lines)
+platform::Result<void> DiskJournalShelf::make(const QString &name, const QByteArray &lines)
 {
     if (const auto folder = platform::makeFolder(m_folder); !folder)
-        return folder.error().message;
+        return tl::unexpected(folder.error());
     auto file = platform::HeldFile::make(path(name));
     if (!file)
-        return file.error().message;
+        return tl::unexpected(file.error());
     if (const auto written = file->append(lines, Lasting::AtOnce); !written) {
         QFile::remove(path(name));
-        return written.error().message;
+        return written;
     }
     platform::settleFolder(m_folder);
     m_held.insert_or_assign(name, std::move(*file));
@@ -70,13 +70,13 @@ void DiskJournalShelf::letGo(const QString &name)
     m_held.erase(name);
 }
 
-QString DiskJournalShelf::append(const QString &name, const QByteArray &lines, Lasting lasting)
+platform::Result<void> DiskJournalShelf::append(const QString &name, const QByteArray &lines, Lasting lasting)
 {
     const auto held = m_held.find(name);
     if (held == m_held.end())
-        return QStringLiteral("The journal %1 is not open").arg(name);
-    const auto written = held->second.append(lines, lasting);
-    return written ? QString() : written.error().message;
+        return platform::failure(platform::ErrorCode::WriteFailed,
+                                 QStringLiteral("The journal %1 is not open").arg(name));
+    return held->second.append(lines, lasting);
 }
 
 std::optional<QByteArray> DiskJournalShelf::read(const QString &name) const

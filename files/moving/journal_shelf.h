@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/file/held_file.h"
+#include "platform/foundation/result.h"
 
 #include <QByteArray>
 #include <QString>
@@ -27,13 +28,13 @@ public:
 
     /** Names of all journals, newest first: names begin with the time. */
     virtual QStringList names() const = 0;
-    /** Makes a journal with these lines, on the disk at once, and holds it. A sentence on failure, else empty. */
-    virtual QString make(const QString &name, const QByteArray &lines) = 0;
+    /** Makes a journal with these lines, on the disk at once, and holds it. */
+    virtual platform::Result<void> make(const QString &name, const QByteArray &lines) = 0;
     /** Holds a journal so that no other process touches it; false where another does. */
     virtual bool hold(const QString &name) = 0;
     virtual void letGo(const QString &name) = 0;
-    /** Adds lines to a journal that is held. A sentence on failure, else empty. */
-    virtual QString append(const QString &name, const QByteArray &lines, Lasting lasting) = 0;
+    /** Adds lines to a journal that is held. */
+    virtual platform::Result<void> append(const QString &name, const QByteArray &lines, Lasting lasting) = 0;
     /** Nothing where it cannot be read. */
     virtual std::optional<QByteArray> read(const QString &name) const = 0;
     /** The first line and the last one, without reading what is between. */
@@ -48,10 +49,10 @@ public:
     explicit DiskJournalShelf(const QString &folder) : m_folder(folder) {}
 
     QStringList names() const override;
-    QString make(const QString &name, const QByteArray &lines) override;
+    platform::Result<void> make(const QString &name, const QByteArray &lines) override;
     bool hold(const QString &name) override;
     void letGo(const QString &name) override;
-    QString append(const QString &name, const QByteArray &lines, Lasting lasting) override;
+    platform::Result<void> append(const QString &name, const QByteArray &lines, Lasting lasting) override;
     std::optional<QByteArray> read(const QString &name) const override;
     std::pair<QByteArray, QByteArray> ends(const QString &name) const override;
     void remove(const QString &name) override;

@@ -18,14 +18,9 @@ using platform::joinedPath;
 using platform::lastPathComponent;
 using platform::parentFolder;
 
-QString said(const char *sentence, const QString &name)
+DeedOutcome failed(MoveProblem why, const QString &path)
 {
-    return QCoreApplication::translate("files", sentence).arg(name);
-}
-
-DeedOutcome failed(const QString &code, const QString &path)
-{
-    return {code, MoveDeeds::sentence(code, path), {}, {}};
+    return {why, sentence(why, path), {}, {}};
 }
 
 /** The standard library has no name for a user's share of the disk being used up. */
@@ -39,51 +34,23 @@ bool isForLackOfRoom(const std::error_code &error)
 DeedOutcome failureFor(const std::error_code &error, const QString &path, const QString &to)
 {
     if (error == std::errc::file_exists || error == std::errc::directory_not_empty)
-        return failed(QStringLiteral("taken"), to);
+        return failed(MoveProblem::Taken, to);
     if (error == std::errc::no_such_file_or_directory)
-        return failed(QStringLiteral("gone"), path);
+        return failed(MoveProblem::Gone, path);
     if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
         error == std::errc::read_only_file_system)
-        return failed(QStringLiteral("locked"), path);
+        return failed(MoveProblem::Locked, path);
     if (isForLackOfRoom(error))
-        return failed(QStringLiteral("full"), path);
+        return failed(MoveProblem::Full, path);
     if (error == std::errc::invalid_argument)
-        return failed(QStringLiteral("illegal"), to);
+        return failed(MoveProblem::Illegal, to);
     if (error == std::errc::filename_too_long)
-        return failed(QStringLiteral("long"), to);
+        return failed(MoveProblem::TooLong, to);
     DeedOutcome other;
-    other.code = QStringLiteral("other");
+    other.why = MoveProblem::Other;
     other.message = QCoreApplication::translate("files", "%1 stays as it is: %2")
                         .arg(lastPathComponent(path), QString::fromLocal8Bit(error.message().c_str()));
     return other;
-}
-
-QString MoveDeeds::sentence(const QString &code, const QString &path)
-{
-    const QString name = lastPathComponent(path);
-    if (code == QStringLiteral("taken"))
-        return said(QT_TRANSLATE_NOOP("files", "The name %1 is taken"), name);
-    if (code == QStringLiteral("gone"))
-        return said(QT_TRANSLATE_NOOP("files", "%1 is not there any more"), name);
-    if (code == QStringLiteral("changed"))
-        return said(QT_TRANSLATE_NOOP("files", "%1 was changed or replaced in the meantime"), name);
-    if (code == QStringLiteral("locked"))
-        return said(QT_TRANSLATE_NOOP("files", "%1 or its folder may not be changed"), name);
-    if (code == QStringLiteral("full"))
-        return said(QT_TRANSLATE_NOOP("files", "There is no room left on the disk for %1"), name);
-    if (code == QStringLiteral("long"))
-        return said(QT_TRANSLATE_NOOP("files", "The name %1 is too long for this disk"), name);
-    if (code == QStringLiteral("illegal"))
-        return said(QT_TRANSLATE_NOOP("files", "The name %1 cannot be used on this disk"), name);
-    if (code == QStringLiteral("original"))
-        return said(QT_TRANSLATE_NOOP("files", "%1 is the original itself by now, no copy of it"), name);
-    if (code == QStringLiteral("inside"))
-        return said(QT_TRANSLATE_NOOP("files", "The folder %1 cannot go into itself"), name);
-    if (code == QStringLiteral("circle"))
-        return said(QT_TRANSLATE_NOOP("files", "%1 could not get its new name, and others wait for its old one"), name);
-    if (code == QStringLiteral("leader"))
-        return said(QT_TRANSLATE_NOOP("files", "%1, which it belongs to, keeps its name"), name);
-    return said(QT_TRANSLATE_NOOP("files", "%1 could not be copied correctly"), name);
 }
 
 QString asidePath(const QString &run, int index, const MoveItem &item)
@@ -103,9 +70,9 @@ DeedOutcome MoveDeeds::carryOut(int index, const MoveItem &item, const QString &
         return linked(item);
     const auto state = m_disk.look(source);
     if (!state)
-        return failed(QStringLiteral("gone"), item.from);
+        return failed(MoveProblem::Gone, item.from);
     if (item.was && !isSameItem(*state, *item.was))
-        return failed(QStringLiteral("changed"), item.from);
+        return failed(MoveProblem::Changed, item.from);
     switch (item.deed) {
     case Deed::Move:
         return moved(index, item, source);
@@ -129,9 +96,9 @@ DeedOutcome MoveDeeds::stepAside(int index, const MoveItem &item)
 {
     const auto state = m_disk.look(item.from);
     if (!state)
-        return failed(QStringLiteral("gone"), item.from);
+        return failed(MoveProblem::Gone, item.from);
     if (item.was && !isSameItem(*state, *item.was))
-        return failed(QStringLiteral("changed"), item.from);
+        return failed(MoveProblem::Changed, item.from);
     const QString aside = asidePath(m_run, index, item);
     if (const std::error_code error = m_disk.rename(item.from, aside))
         return failureFor(error, item.from, aside);
@@ -146,23 +113,22 @@ DeedOutcome MoveDeeds::done(const QString &path) const
 DeedOutcome MoveDeeds::moved(int index, const MoveItem &item, const QString &source)
 {
     DeedOutcome outcome = move(index, source, item.to);
-    if (outcome.code == QStringLiteral("taken") && source == item.from && isSameUnderOtherCase(source, item.to))
+    if (outcome.why == MoveProblem::Taken && source == item.from && isSameUnderOtherCase(source, item.to))
         return renamedInCase(index, item.from, item.to);
     return outcome;
 }
 
 DeedOutcome MoveDeeds::move(int index, const QString &from, const QString &to)
 {
-    if (DeedOutcome made = madeFolders(parentFolder(to)); !made.code.isEmpty())
+    if (DeedOutcome made = madeFolders(parentFolder(to)); made.why != MoveProblem::None)
         return made;
     const std::error_code error = m_disk.rename(from, to);
     if (!error)
         return done(to);
     if (error == std::errc::cross_device_link)
         return movedToOtherDisk(index, from, to);
-    return error == std::errc::invalid_argument && isInside(parentFolder(to), from)
-               ? failed(QStringLiteral("inside"), from)
-               : failureFor(error, from, to);
+    return error == std::errc::invalid_argument && isInside(parentFolder(to), from) ? failed(MoveProblem::Inside, from)
+                                                                                    : failureFor(error, from, to);
 }
 
 /** By identity, so that another road to a folder, such as a second mount of its disk, is seen through. */
@@ -203,32 +169,32 @@ DeedOutcome MoveDeeds::renamedInCase(int index, const QString &from, const QStri
     if (!error)
         return done(to);
     if (m_disk.rename(aside, from))
-        return {QStringLiteral("taken"), sentence(QStringLiteral("taken"), to), aside, {}};
+        return {MoveProblem::Taken, sentence(MoveProblem::Taken, to), aside, {}};
     return failureFor(error, from, to);
 }
 
 DeedOutcome MoveDeeds::copied(int index, const QString &from, const QString &to)
 {
-    if (DeedOutcome made = madeFolders(parentFolder(to)); !made.code.isEmpty())
+    if (DeedOutcome made = madeFolders(parentFolder(to)); made.why != MoveProblem::None)
         return made;
     if (m_disk.look(to))
-        return failed(QStringLiteral("taken"), to);
+        return failed(MoveProblem::Taken, to);
     if (isInside(parentFolder(to), from))
-        return failed(QStringLiteral("inside"), from);
+        return failed(MoveProblem::Inside, from);
     const QString part = partPath(m_run, index, to);
     discard(part);
     DeedOutcome outcome;
     if (const std::error_code error = m_disk.copy(from, part))
         outcome = failureFor(error, from, to);
     else if (!m_disk.haveSameContent(from, part) && m_disk.look(from))
-        outcome = failed(QStringLiteral("damaged"), from);
+        outcome = failed(MoveProblem::Damaged, from);
     else if (const auto state = m_disk.look(part); !state)
-        outcome = failed(QStringLiteral("damaged"), from);
-    else if (const QString problem = m_log.noteCopy(index, *state); !problem.isEmpty())
-        outcome = {QStringLiteral("other"), problem, {}, {}};
+        outcome = failed(MoveProblem::Damaged, from);
+    else if (const auto noted = m_log.noteCopy(index, *state); !noted)
+        outcome = {MoveProblem::Other, noted.error().message, {}, {}};
     else if (const std::error_code taken = m_disk.rename(part, to))
         outcome = failureFor(taken, from, to);
-    if (!outcome.code.isEmpty()) {
+    if (outcome.why != MoveProblem::None) {
         discard(part);
         return outcome;
     }
@@ -256,22 +222,22 @@ void MoveDeeds::discard(const QString &path)
 DeedOutcome MoveDeeds::movedToOtherDisk(int index, const QString &from, const QString &to)
 {
     if (!m_disk.mayBeTakenAway(from))
-        return failed(QStringLiteral("locked"), from);
+        return failed(MoveProblem::Locked, from);
     const auto before = m_disk.look(from);
     DeedOutcome outcome = copied(index, from, to);
-    if (!outcome.code.isEmpty())
+    if (outcome.why != MoveProblem::None)
         return outcome;
     const auto after = m_disk.look(from);
     if (!after)
         return outcome; // somebody has taken the source away: this is the last that is left of it
     if (!before || !isUnchanged(*before, *after))
-        return withoutCopy(index, failed(QStringLiteral("changed"), from), from, outcome);
+        return withoutCopy(index, failed(MoveProblem::Changed, from), from, outcome);
     const Removal removal = removeWhole(index, from, to);
     if (!removal.error || !m_disk.look(removal.path))
         return outcome;
     DeedOutcome why = failureFor(removal.error, from, to);
     if (removal.error == std::errc::device_or_resource_busy)
-        why = failed(QStringLiteral("changed"), from);
+        why = failed(MoveProblem::Changed, from);
     if (removal.path != from)
         why.path = removal.path;
     if (removal.isWhole)
@@ -346,7 +312,7 @@ QString MoveDeeds::putBack(const QString &aside, const QString &path)
 
 DeedOutcome MoveDeeds::linked(const MoveItem &item)
 {
-    if (DeedOutcome made = madeFolders(parentFolder(item.to)); !made.code.isEmpty())
+    if (DeedOutcome made = madeFolders(parentFolder(item.to)); made.why != MoveProblem::None)
         return made;
     if (const std::error_code error = m_disk.makeLink(item.from, item.to))
         return failureFor(error, item.to, item.to);
@@ -358,7 +324,7 @@ DeedOutcome MoveDeeds::trashed(const QString &path)
     const auto trashed = m_disk.trash(path);
     if (trashed)
         return done(trashed->path);
-    return {QStringLiteral("other"), trashed.error().message, {}, {}};
+    return {MoveProblem::Other, trashed.error().message, {}, {}};
 }
 
 /** A copy goes into the trash: whatever somebody does to it, or to its original, at the last moment, nothing is lost. */
@@ -367,7 +333,7 @@ DeedOutcome MoveDeeds::copyRemoved(const MoveItem &item)
     const auto copy = m_disk.look(item.from);
     const auto original = m_disk.look(item.to);
     if (copy && original && isOneItem(*copy, *original))
-        return failed(QStringLiteral("original"), item.from);
+        return failed(MoveProblem::Original, item.from);
     return trashed(item.from);
 }
 
@@ -375,7 +341,7 @@ DeedOutcome MoveDeeds::linkRemoved(int index, const MoveItem &item)
 {
     const QString aside = asidePath(m_run, index, {Deed::Move, item.from, {}});
     if (m_disk.linkText(item.from) != item.to)
-        return failed(QStringLiteral("changed"), item.from);
+        return failed(MoveProblem::Changed, item.from);
     if (const std::error_code error = m_disk.rename(item.from, aside))
         return failureFor(error, item.from, item.from);
     std::error_code error = std::make_error_code(std::errc::device_or_resource_busy);
@@ -383,7 +349,7 @@ DeedOutcome MoveDeeds::linkRemoved(int index, const MoveItem &item)
         error = m_disk.remove(aside);
     if (!error)
         return {};
-    DeedOutcome outcome = error == std::errc::device_or_resource_busy ? failed(QStringLiteral("changed"), item.from)
+    DeedOutcome outcome = error == std::errc::device_or_resource_busy ? failed(MoveProblem::Changed, item.from)
                                                                       : failureFor(error, item.from, item.from);
     outcome.path = putBack(aside, item.from);
     return outcome;
@@ -391,7 +357,7 @@ DeedOutcome MoveDeeds::linkRemoved(int index, const MoveItem &item)
 
 DeedOutcome MoveDeeds::restored(const MoveItem &item)
 {
-    if (DeedOutcome made = madeFolders(parentFolder(item.to)); !made.code.isEmpty())
+    if (DeedOutcome made = madeFolders(parentFolder(item.to)); made.why != MoveProblem::None)
         return made;
     if (const std::error_code error = m_disk.restore({item.from}, item.to))
         return failureFor(error, item.to, item.to);
@@ -403,11 +369,11 @@ DeedOutcome MoveDeeds::madeFolders(const QString &folder)
     if (!m_disk.canonicalFolder(folder).isNull())
         return {};
     if (folder.size() < 2 || m_disk.look(folder))
-        return failed(QStringLiteral("taken"), folder);
-    if (DeedOutcome above = madeFolders(parentFolder(folder)); !above.code.isEmpty())
+        return failed(MoveProblem::Taken, folder);
+    if (DeedOutcome above = madeFolders(parentFolder(folder)); above.why != MoveProblem::None)
         return above;
-    if (const QString problem = m_log.noteFolder(folder); !problem.isEmpty())
-        return {QStringLiteral("other"), problem, {}, {}};
+    if (const auto noted = m_log.noteFolder(folder); !noted)
+        return {MoveProblem::Other, noted.error().message, {}, {}};
     const std::error_code error = m_disk.makeFolder(folder);
     if (!error)
         m_newFolders.append(folder);

@@ -7,14 +7,13 @@ namespace files {
 /** How the deed on one item went. */
 struct DeedOutcome
 {
-    QString
-        code; ///< empty: done; else "gone", "changed", "taken", "locked", "full", "long", "illegal", "inside", "original" or "other"
-    QString message; ///< why not, a sentence
-    QString path;    ///< where the item is since then; empty if it was removed
+    MoveProblem why = MoveProblem::None; ///< none: done
+    QString message;                     ///< why not, a sentence
+    QString path;                        ///< where the item is since then; empty if it was removed
     std::optional<platform::ItemState> is = std::nullopt;
 };
 
-/** What must be in the journal before a deed goes on. Answers a sentence where it could not be written. */
+/** What must be in the journal before a deed goes on. Fails where it could not be written. */
 class DeedLog
 {
 public:
@@ -23,9 +22,9 @@ public:
     DeedLog &operator=(const DeedLog &) = delete;
     virtual ~DeedLog() = default;
     /** A copy is whole, under its temporary name. */
-    virtual QString noteCopy(int index, const platform::ItemState &state) = 0;
+    virtual platform::Result<void> noteCopy(int index, const platform::ItemState &state) = 0;
     /** A folder is about to be made. */
-    virtual QString noteFolder(const QString &folder) = 0;
+    virtual platform::Result<void> noteFolder(const QString &folder) = 0;
 };
 
 /** The hidden name of an item that stands aside, in its own folder or in the one that it goes to. */
@@ -58,9 +57,6 @@ public:
 
     /** Whether something under a temporary name could not be taken away. */
     bool hasLeftOver() const { return m_hasLeftOver; }
-
-    /** The same as a sentence. */
-    static QString sentence(const QString &code, const QString &path);
 
 private:
     struct Removal

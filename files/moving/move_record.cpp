@@ -222,7 +222,7 @@ private:
             record->is = record->is ? record->is : record->item.was;
         } else if (word == "failed") {
             record->stand = line[key("skipped")].toBool() ? Stand::Skipped : Stand::Failed;
-            record->code = line[key("code")].toString();
+            record->why = moveProblem(line[key("code")].toString()).value_or(MoveProblem::Other);
             record->message = line[key("message")].toString();
             record->path = line[key("path")].toString();
         } else if (word == "copied") {
@@ -347,7 +347,7 @@ QByteArray doneLine(int index, const MoveRecord &record)
 
 QByteArray failedLine(int index, const MoveRecord &record)
 {
-    QJsonObject line = {{key("failed"), index}, {key("code"), record.code}, {key("message"), record.message}};
+    QJsonObject line = {{key("failed"), index}, {key("code"), wordOf(record.why)}, {key("message"), record.message}};
     if (record.stand == Stand::Skipped)
         line.insert(key("skipped"), true);
     if (!record.path.isEmpty())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/planning/move_order.h"
+#include "files/planning/move_problem.h"
 
 #include "platform/disk/file_system.h"
 
@@ -52,9 +53,9 @@ struct MoveRecord
     MoveItem item;
     bool isKnown = true; ///< false: its line in the journal cannot be read
     Stand stand = Stand::Waiting;
-    QString code;    ///< why it failed
-    QString message; ///< the same as a sentence
-    QString path;    ///< where it is since it is done; in the trash, if it was trashed; empty if it is removed
+    MoveProblem why = MoveProblem::None; ///< it failed
+    QString message;                     ///< the same as a sentence
+    QString path; ///< where it is since it is done; in the trash, if it was trashed; empty if it is removed
     std::optional<platform::ItemState> is = std::nullopt;     ///< what is there since then
     std::optional<platform::ItemState> copied = std::nullopt; ///< the copy that was about to get its name
 };

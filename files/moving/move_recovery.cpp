@@ -74,7 +74,7 @@ private:
         if (record.stand == Stand::Done)
             return;
         record.stand = Stand::Done;
-        record.code.clear();
+        record.why = MoveProblem::None;
         record.message.clear();
         record.path = path;
         record.is = path.isEmpty() ? std::nullopt : m_disk.look(path);
@@ -183,7 +183,7 @@ private:
         else if (isOld && record.stand == Stand::Done)
             record.stand = Stand::TakenBack;
         else if (!isOld && record.stand == Stand::Waiting)
-            problems.append(MoveDeeds::sentence(QStringLiteral("gone"), item.from));
+            problems.append(sentence(MoveProblem::Gone, item.from));
     }
 
     /** Whether everything of @p part is also in @p whole; @p part may have been half removed. Links are not followed. */
@@ -259,7 +259,7 @@ private:
         if (const auto trashed = m_disk.findTrashed(item.from, *item.was))
             done(record, trashed->path);
         else if (!findHalfTrashed(record) && !findCopyInTrash(record) && !m_disk.look(item.from))
-            problems.append(MoveDeeds::sentence(QStringLiteral("gone"), item.from));
+            problems.append(sentence(MoveProblem::Gone, item.from));
     }
 
     /** Nothing is left of it but the copy in the trash, which is another item with the same size and date. */
@@ -372,13 +372,13 @@ RecoveredRun reportOf(const RunRecord &before, const RunRecord &found, const Run
 RecoveredRun recoverOne(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record)
 {
     if (!record.isWhole)
-        shelf.append(record.id, cutLine(), Lasting::WhenTheSystemLikes);
+        (void)shelf.append(record.id, cutLine(), Lasting::WhenTheSystemLikes);
     const RunRecord before = record;
     Search search(disk, record);
     search.lookAgain();
     const RunRecord found = record;
     if (const QByteArray news = newsOf(before, record); !news.isEmpty())
-        shelf.append(record.id, news, Lasting::AtOnce);
+        (void)shelf.append(record.id, news, Lasting::AtOnce);
     const auto run = MoveRun::resume(disk, shelf, std::move(record));
     run->mend();
     if (before.isDamaged)

@@ -9,8 +9,8 @@ namespace files {
 /** For deeds that no journal has to tell of. */
 class SilentDeedLog : public DeedLog
 {
-    QString noteCopy(int, const platform::ItemState &) override { return {}; }
-    QString noteFolder(const QString &) override { return {}; }
+    platform::Result<void> noteCopy(int, const platform::ItemState &) override { return {}; }
+    platform::Result<void> noteFolder(const QString &) override { return {}; }
 };
 
 /** Whether items that have their temporary names from this run lie in the folders that its journal mentions. */

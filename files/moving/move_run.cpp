@@ -101,8 +101,8 @@ MoveRun::MoveRun(platform::FileSystem &disk, JournalShelf &shelf, RunRecord reco
 {
 }
 
-std::unique_ptr<MoveRun> MoveRun::begin(platform::FileSystem &disk, JournalShelf &shelf, const MoveOrderForm &form,
-                                        QString *problem)
+platform::Result<std::unique_ptr<MoveRun>> MoveRun::begin(platform::FileSystem &disk, JournalShelf &shelf,
+                                                          const MoveOrderForm &form)
 {
     RunRecord record = newRecord(form.title);
     record.undoes = form.undoes;
@@ -121,23 +121,21 @@ std::unique_ptr<MoveRun> MoveRun::begin(platform::FileSystem &disk, JournalShelf
         if (step.isAhead)
             record.items[size_t(step.item)].item.isAhead = true;
     discardOld(shelf);
-    *problem = shelf.make(record.id, headLines(record));
-    if (!problem->isEmpty())
-        return nullptr;
+    if (const auto made = shelf.make(record.id, headLines(record)); !made)
+        return tl::unexpected(made.error());
     std::unique_ptr<MoveRun> run(new MoveRun(disk, shelf, std::move(record)));
     run->m_emptyFolders = form.emptyFolders;
     return run;
 }
 
-std::unique_ptr<MoveRun> MoveRun::open(platform::FileSystem &disk, JournalShelf &shelf, const QString &title,
-                                       QString *problem)
+platform::Result<std::unique_ptr<MoveRun>> MoveRun::open(platform::FileSystem &disk, JournalShelf &shelf,
+                                                         const QString &title)
 {
     RunRecord record = newRecord(title);
     record.isByHand = true;
     discardOld(shelf);
-    *problem = shelf.make(record.id, headLines(record));
-    if (!problem->isEmpty())
-        return nullptr;
+    if (const auto made = shelf.make(record.id, headLines(record)); !made)
+        return tl::unexpected(made.error());
     return std::unique_ptr<MoveRun>(new MoveRun(disk, shelf, std::move(record)));
 }
 
@@ -147,22 +145,22 @@ std::unique_ptr<MoveRun> MoveRun::resume(platform::FileSystem &disk, JournalShel
 }
 
 /** What could not be written, on a disk that was full, comes before the next line; so the journal lacks nothing in the middle. */
-QString MoveRun::note(const QByteArray &line, Lasting lasting)
+platform::Result<void> MoveRun::note(const QByteArray &line, Lasting lasting)
 {
     m_unwritten += line;
-    const QString problem = m_shelf.append(m_record.id, m_unwritten, lasting);
-    if (problem.isEmpty())
+    auto written = m_shelf.append(m_record.id, m_unwritten, lasting);
+    if (written)
         m_unwritten.clear();
-    return problem;
+    return written;
 }
 
-QString MoveRun::noteCopy(int index, const platform::ItemState &state)
+platform::Result<void> MoveRun::noteCopy(int index, const platform::ItemState &state)
 {
     at(index).copied = state;
     return note(copiedLine(index, state), Lasting::AtOnce);
 }
 
-QString MoveRun::noteFolder(const QString &folder)
+platform::Result<void> MoveRun::noteFolder(const QString &folder)
 {
     m_record.made.append(folder);
     return note(makingLine(folder));
@@ -187,8 +185,7 @@ void MoveRun::refuseWithoutSteps()
     m_areRestRefused = true;
     for (int i = 0; i < int(m_record.items.size()); ++i)
         if (at(i).stand == Stand::Waiting) {
-            const QString code = QStringLiteral("inside");
-            markFailed(i, {code, MoveDeeds::sentence(code, at(i).item.from), {}, {}});
+            markFailed(i, {MoveProblem::Inside, sentence(MoveProblem::Inside, at(i).item.from), {}, {}});
             settleResult(i);
         }
 }
@@ -227,7 +224,7 @@ void MoveRun::stepAside(int index)
     if (at(index).stand != Stand::Waiting)
         return;
     const DeedOutcome outcome = m_deeds.stepAside(index, at(index).item);
-    if (outcome.code.isEmpty())
+    if (outcome.why == MoveProblem::None)
         at(index).stand = Stand::Aside;
     else
         markFailed(index, outcome);
@@ -243,14 +240,13 @@ void MoveRun::giveName(int index)
         return;
     const QString source = isAside ? asidePath(m_record.id, index, record.item) : record.item.from;
     const DeedOutcome outcome = m_deeds.carryOut(index, record.item, source);
-    if (outcome.code.isEmpty())
+    if (outcome.why == MoveProblem::None)
         return markDone(index, outcome);
     if (isAside)
         return takeBackGroup(outcome);
     markFailed(index, outcome);
-    if (outcome.code != QStringLiteral("gone") && isWaitedFor(index))
-        takeBackGroup(
-            {QStringLiteral("circle"), MoveDeeds::sentence(QStringLiteral("circle"), record.item.from), {}, {}});
+    if (outcome.why != MoveProblem::Gone && isWaitedFor(index))
+        takeBackGroup({MoveProblem::Circle, sentence(MoveProblem::Circle, record.item.from), {}, {}});
 }
 
 bool MoveRun::isToBeSkipped(int index)
@@ -262,10 +258,10 @@ bool MoveRun::isToBeSkipped(int index)
     if (!isLeft && (record.item.from != record.item.to))
         return false;
     record.stand = Stand::Skipped;
-    record.code = isLeft ? QStringLiteral("leader") : QStringLiteral("same");
-    record.message = isLeft ? MoveDeeds::sentence(record.code, at(leader).item.from) : QString();
+    record.why = isLeft ? MoveProblem::Leader : MoveProblem::Same;
+    record.message = isLeft ? sentence(record.why, at(leader).item.from) : QString();
     record.path = record.item.from;
-    note(failedLine(index, record));
+    (void)note(failedLine(index, record));
     m_settled.push_back(index);
     return true;
 }
@@ -289,7 +285,7 @@ void MoveRun::takeBackGroup(const DeedOutcome &why)
         if (step.isAside && record.stand == Stand::Aside) {
             bringBack(step.item, why);
         } else if (!step.isAside && record.stand == Stand::Done && record.item.deed == Deed::Move &&
-                   m_deeds.move(step.item, record.path, record.item.from).code.isEmpty()) {
+                   m_deeds.move(step.item, record.path, record.item.from).why == MoveProblem::None) {
             m_settled.erase(std::remove(m_settled.begin(), m_settled.end(), step.item), m_settled.end());
             markFailed(step.item, why);
         }
@@ -303,7 +299,7 @@ void MoveRun::bringBack(int index, const DeedOutcome &why)
     const QString aside = asidePath(m_record.id, index, item);
     if (!m_disk.rename(aside, item.from))
         return markFailed(index, why);
-    if (const DeedOutcome given = m_deeds.carryOut(index, item, aside); given.code.isEmpty())
+    if (const DeedOutcome given = m_deeds.carryOut(index, item, aside); given.why == MoveProblem::None)
         return markDone(index, given);
     DeedOutcome outcome = why;
     outcome.path = m_deeds.putBack(aside, item.from);
@@ -319,11 +315,11 @@ void MoveRun::markDone(int index, const DeedOutcome &outcome)
 {
     MoveRecord &record = at(index);
     record.stand = Stand::Done;
-    record.code.clear();
+    record.why = MoveProblem::None;
     record.message = outcome.message;
     record.path = outcome.path;
     record.is = outcome.is;
-    note(doneLine(index, record));
+    (void)note(doneLine(index, record));
     m_touched.insert(parentFolder(record.item.from));
     m_touched.insert(parentFolder(record.item.to));
     m_settled.push_back(index);
@@ -333,10 +329,10 @@ void MoveRun::markFailed(int index, const DeedOutcome &outcome)
 {
     MoveRecord &record = at(index);
     record.stand = Stand::Failed;
-    record.code = outcome.code;
+    record.why = outcome.why;
     record.message = outcome.message;
     record.path = outcome.path.isEmpty() ? record.item.from : outcome.path;
-    note(failedLine(index, record));
+    (void)note(failedLine(index, record));
     m_settled.push_back(index);
 }
 
@@ -344,10 +340,10 @@ void MoveRun::settleResult(int index)
 {
     const MoveRecord &record = at(index);
     const Stand stand = record.stand == Stand::Aside ? Stand::Failed : record.stand;
-    m_results.push_back({index, stand, record.code, record.message, record.path});
+    m_results.push_back({index, stand, record.why, record.message, record.path});
 }
 
-QString MoveRun::end()
+platform::Result<void> MoveRun::end()
 {
     const bool isCancelled = m_step < m_record.steps.size() && !m_record.isByHand;
     close(isCancelled ? QStringLiteral("cancelled") : QStringLiteral("done"));
@@ -365,8 +361,7 @@ void MoveRun::close(const QString &end)
     // What could not be brought back or taken away is tried again at the next start, and so is a journal that lacks a line.
     if (!m_unwritten.isEmpty())
         m_trouble = note({}, Lasting::AtOnce);
-    if (m_trouble.isEmpty() && !m_deeds.hasLeftOver() &&
-        std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
+    if (m_trouble && !m_deeds.hasLeftOver() && std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
         m_trouble = note(endLine(end, int(m_record.items.size()), int(done)), Lasting::AtOnce);
     m_record.end = end;
     m_record.doneAtEnd = int(done);
@@ -390,10 +385,10 @@ MoveResult MoveRun::add(MoveItem item)
     MoveRecord &record = m_record.items.emplace_back();
     record.item = item;
     m_settled.clear();
-    if (const QString problem = note(itemLine(index, item), Lasting::AtOnce); problem.isEmpty())
+    if (const auto noted = note(itemLine(index, item), Lasting::AtOnce); noted)
         giveName(index);
     else
-        markFailed(index, {QStringLiteral("other"), problem, {}, {}});
+        markFailed(index, {MoveProblem::Other, noted.error().message, {}, {}});
     settleResult(index);
     MoveResult result = m_results.back();
     m_results.clear();
@@ -411,12 +406,12 @@ int MoveRun::lastDone() const
 MoveResult MoveRun::takeBack(int index, const MoveItem &deed)
 {
     const DeedOutcome outcome = m_deeds.carryOut(index, deed, deed.from);
-    if (!outcome.code.isEmpty())
-        return {index, Stand::Failed, outcome.code, outcome.message, deed.from};
+    if (outcome.why != MoveProblem::None)
+        return {index, Stand::Failed, outcome.why, outcome.message, deed.from};
     at(index).stand = Stand::TakenBack;
-    note(takenBackLine(index), Lasting::AtOnce);
+    (void)note(takenBackLine(index), Lasting::AtOnce);
     m_touched.insert(parentFolder(deed.from));
-    return {index, Stand::Done, {}, outcome.message, outcome.path};
+    return {index, Stand::Done, MoveProblem::None, outcome.message, outcome.path};
 }
 
 void MoveRun::mend()
@@ -432,8 +427,7 @@ void MoveRun::mend()
     }
     for (int i = 0; i < int(m_record.items.size()); ++i)
         if (at(i).stand == Stand::Aside)
-            bringBack(
-                i, {QStringLiteral("other"), QCoreApplication::translate("files", "The run was interrupted"), {}, {}});
+            bringBack(i, {MoveProblem::Other, QCoreApplication::translate("files", "The run was interrupted"), {}, {}});
 }
 
 } // namespace files

@@ -13,8 +13,8 @@ namespace files {
 struct MoveResult
 {
     int index = -1;
-    Stand stand = Stand::Waiting; ///< Done, Failed or Skipped
-    QString code;                 ///< why it failed; see DeedOutcome, and "circle", "leader", "same"
+    Stand stand = Stand::Waiting;        ///< Done, Failed or Skipped
+    MoveProblem why = MoveProblem::None; ///< it failed or was skipped
     QString message;
     QString path; ///< where the item is now
 };
@@ -41,12 +41,12 @@ struct MoveOrderForm
 class MoveRun : private DeedLog
 {
 public:
-    /** Begins a run; null and a sentence where the journal cannot be written. */
-    static std::unique_ptr<MoveRun> begin(platform::FileSystem &disk, JournalShelf &shelf, const MoveOrderForm &form,
-                                          QString *problem);
+    /** Begins a run. Fails where the journal cannot be written; nothing has moved then. */
+    static platform::Result<std::unique_ptr<MoveRun>> begin(platform::FileSystem &disk, JournalShelf &shelf,
+                                                            const MoveOrderForm &form);
     /** A run without items, which are added one by one. */
-    static std::unique_ptr<MoveRun> open(platform::FileSystem &disk, JournalShelf &shelf, const QString &title,
-                                         QString *problem);
+    static platform::Result<std::unique_ptr<MoveRun>> open(platform::FileSystem &disk, JournalShelf &shelf,
+                                                           const QString &title);
     /** A run that was interrupted; its journal must be held. */
     static std::unique_ptr<MoveRun> resume(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record);
 
@@ -55,8 +55,8 @@ public:
 
     /** Carries out one more item; nothing after the last one. */
     std::optional<MoveResult> next();
-    /** Ends the run, before its last item too. A sentence where the journal could not be written to the end, else empty. */
-    QString end();
+    /** Ends the run, before its last item too. Fails where the journal could not be written to the end. */
+    platform::Result<void> end();
 
     /** Adds an item to a run that was opened and carries it out. */
     MoveResult add(MoveItem item);
@@ -72,9 +72,9 @@ public:
 private:
     MoveRun(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record);
 
-    QString noteCopy(int index, const platform::ItemState &state) override;
-    QString noteFolder(const QString &folder) override;
-    QString note(const QByteArray &line, Lasting lasting = Lasting::WhenTheSystemLikes);
+    platform::Result<void> noteCopy(int index, const platform::ItemState &state) override;
+    platform::Result<void> noteFolder(const QString &folder) override;
+    platform::Result<void> note(const QByteArray &line, Lasting lasting = Lasting::WhenTheSystemLikes);
 
     MoveRecord &at(int index) { return m_record.items[size_t(index)]; }
     void findGroup();
@@ -103,7 +103,7 @@ private:
     std::set<QString> m_touched;
     QStringList m_emptyFolders;
     QByteArray m_unwritten; ///< lines that the journal still lacks
-    QString m_trouble;
+    platform::Result<void> m_trouble;
     bool m_areRestRefused = false;
 };
 

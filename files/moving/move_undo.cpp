@@ -13,9 +13,9 @@
 namespace files {
 namespace {
 
-UndoProblem problemAt(const QString &path, const QString &code)
+UndoProblem problemAt(const QString &path, MoveProblem why)
 {
-    return {path, code, MoveDeeds::sentence(code, path)};
+    return {path, why, sentence(why, path)};
 }
 
 /** The deed that takes an item back, where everything still is as it was left. */
@@ -51,7 +51,7 @@ UndoProblem faultOf(const platform::FileSystem &disk, const MoveItem &deed, cons
     const bool madeItem = deed.deed != Deed::Link && deed.deed != Deed::Copy;
     const auto state = deed.deed == Deed::Link ? std::nullopt : disk.look(deed.from);
     if (!state && deed.deed != Deed::Link)
-        return problemAt(deed.from, QStringLiteral("gone"));
+        return problemAt(deed.from, MoveProblem::Gone);
     if (!madeItem)
         return {};
     // A copy that was changed goes to the trash, from where it can be taken.
@@ -59,12 +59,12 @@ UndoProblem faultOf(const platform::FileSystem &disk, const MoveItem &deed, cons
                                        : deed.deed == Deed::RemoveCopy     ? isSameItem(*state, *record.is)
                                                                            : isUnchanged(*state, *record.is));
     if (!isSame)
-        return problemAt(deed.from, QStringLiteral("changed"));
+        return problemAt(deed.from, MoveProblem::Changed);
     const auto original = deed.deed == Deed::RemoveCopy ? disk.look(deed.to) : std::nullopt;
     if (original && isOneItem(*state, *original))
-        return problemAt(deed.from, QStringLiteral("original"));
+        return problemAt(deed.from, MoveProblem::Original);
     if (deed.deed == Deed::RemoveLink && disk.linkText(deed.from) != deed.to)
-        return problemAt(deed.from, QStringLiteral("changed"));
+        return problemAt(deed.from, MoveProblem::Changed);
     return {};
 }
 
@@ -113,7 +113,7 @@ void leaveOutHindered(const platform::FileSystem &disk, std::vector<MoveItem> &d
         if (!there || isItself || (leaver >= 0 && !isOut[size_t(leaver)]))
             continue;
         isOut[size_t(i)] = true;
-        problems.push_back(problemAt(deed.to, QStringLiteral("taken")));
+        problems.push_back(problemAt(deed.to, MoveProblem::Taken));
         if (const int waiting = taking.value(deed.from, -1); leavesPlace(deed) && waiting >= 0)
             questions.push_back(waiting);
     }
@@ -201,13 +201,13 @@ UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, c
     for (const MoveRecord &item : record.items)
         if (!item.isKnown && item.stand == Stand::Done)
             plan.problems.push_back(
-                {item.path, QStringLiteral("other"),
+                {item.path, MoveProblem::Other,
                  QCoreApplication::translate("files", "The journal of this run is damaged: %1").arg(run)});
     for (auto index = standing.rbegin(); index != standing.rend(); ++index) {
         const MoveRecord &done = record.items[size_t(*index)];
         const MoveItem deed = inverseOf(done, *index, now);
         const UndoProblem fault = faultOf(disk, deed, done, now);
-        if (fault.code.isEmpty())
+        if (fault.why == MoveProblem::None)
             plan.form.items.push_back(deed);
         else
             plan.problems.push_back(fault);
@@ -230,7 +230,7 @@ TakeBack takeBackOf(const platform::FileSystem &disk, const RunRecord &run, int 
     TakeBack answer = {deeds.front(), faultOf(disk, deeds.front(), record, now)};
     std::vector<UndoProblem> problems;
     leaveOutHindered(disk, deeds, problems);
-    if (answer.problem.code.isEmpty() && !problems.empty())
+    if (answer.problem.why == MoveProblem::None && !problems.empty())
         answer.problem = problems.front();
     return answer;
 }

@@ -11,7 +11,7 @@ namespace files {
 struct UndoProblem
 {
     QString path;
-    QString code; ///< see DeedOutcome
+    MoveProblem why = MoveProblem::None;
     QString reason;
 };
 
@@ -35,7 +35,7 @@ UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, c
 struct TakeBack
 {
     MoveItem deed;
-    UndoProblem problem; ///< its code is empty where it can
+    UndoProblem problem; ///< none where it can
 };
 TakeBack takeBackOf(const platform::FileSystem &disk, const RunRecord &run, int index);
 

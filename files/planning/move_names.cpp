@@ -9,15 +9,16 @@
 namespace files {
 namespace {
 
-QString faultOfName(QStringView name)
+MoveProblem faultOfName(QStringView name)
 {
     constexpr qsizetype longestName = 255;
     if (name.trimmed().isEmpty())
-        return QStringLiteral("empty");
+        return MoveProblem::Empty;
     if (name == QStringLiteral(".") || name == QStringLiteral("..") || name.contains(QChar(u'\0')) ||
         !name.isValidUtf16())
-        return QStringLiteral("illegal");
-    return name.size() * 3 > longestName && name.toUtf8().size() > longestName ? QStringLiteral("long") : QString();
+        return MoveProblem::Illegal;
+    return name.size() * 3 > longestName && name.toUtf8().size() > longestName ? MoveProblem::TooLong
+                                                                               : MoveProblem::None;
 }
 
 } // namespace
@@ -40,19 +41,19 @@ QString placeKey(const QString &folder, const QString &name)
     return platform::joinedPath(folder, nameKey(name));
 }
 
-QString faultOfPath(const QString &path)
+MoveProblem faultOfPath(const QString &path)
 {
     if (!path.startsWith(u'/'))
-        return path.isEmpty() ? QStringLiteral("empty") : QStringLiteral("illegal");
+        return path.isEmpty() ? MoveProblem::Empty : MoveProblem::Illegal;
     for (qsizetype at = 1; at <= path.size();) {
         const qsizetype slash = path.indexOf(u'/', at);
         const qsizetype end = slash < 0 ? path.size() : slash;
-        if (const QString fault = faultOfName(QStringView(path).mid(at, end - at)); !fault.isEmpty())
+        if (const MoveProblem fault = faultOfName(QStringView(path).mid(at, end - at)); fault != MoveProblem::None)
             return fault;
         at = end + 1;
     }
-    return path.size() * 3 >= PATH_MAX && QFile::encodeName(path).size() >= PATH_MAX ? QStringLiteral("long")
-                                                                                     : QString();
+    return path.size() * 3 >= PATH_MAX && QFile::encodeName(path).size() >= PATH_MAX ? MoveProblem::TooLong
+                                                                                     : MoveProblem::None;
 }
 
 } // namespace files

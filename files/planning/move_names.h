@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files/planning/move_problem.h"
+
 #include <QString>
 
 namespace files {
@@ -18,7 +20,7 @@ QString numberedName(const QString &name, int number, NameOf what);
 /** The path without links is @p folder, the name @p name: what places are told apart by. */
 QString placeKey(const QString &folder, const QString &name);
 
-/** Why a path cannot be given to an item, by its form alone; empty where it can: "empty", "illegal" or "long". */
-QString faultOfPath(const QString &path);
+/** Why a path cannot be given to an item, by its form alone: Empty, Illegal, TooLong, or None where it can. */
+MoveProblem faultOfPath(const QString &path);
 
 } // namespace files

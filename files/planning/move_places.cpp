@@ -74,12 +74,12 @@ FolderView &Places::imagine(const QString &path)
     view.fault = parent.fault;
     view.faultOther = parent.faultOther;
     Spot &spot = parent.spot(name);
-    if (view.fault.isEmpty() && (!spot.tenants.empty() || !spot.madeFolder.isEmpty())) {
+    if (view.fault == MoveProblem::None && (!spot.tenants.empty() || !spot.madeFolder.isEmpty())) {
         const bool isTenant = !spot.tenants.empty();
         const QString other = isTenant ? spot.tenants.front().name : platform::lastPathComponent(spot.madeFolder);
-        view.fault = parent.tenant(name) ? QStringLiteral("taken") : QStringLiteral("case");
+        view.fault = parent.tenant(name) ? MoveProblem::Taken : MoveProblem::OtherCase;
         view.faultOther = platform::joinedPath(parent.path, parent.tenant(name) ? name : other);
-    } else if (view.fault.isEmpty()) {
+    } else if (view.fault == MoveProblem::None) {
         spot.madeFolder = place;
     }
     return view;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files/planning/move_problem.h"
+
 #include "platform/disk/file_system.h"
 
 #include <QHash>
@@ -32,7 +34,7 @@ struct FolderView
     bool isThere = false;
     bool mayChange = false;
     quint64 device = 0;
-    QString fault; ///< why it cannot be made: a code, empty where it is there or can be
+    MoveProblem fault = MoveProblem::None; ///< why it cannot be made
     QString faultOther;
     QHash<QString, Spot> spots; ///< by nameKey()
 

@@ -30,7 +30,7 @@ struct Draft
 /** Why a name cannot be had, or whose leaving it waits for. */
 struct Obstacle
 {
-    QString code; ///< empty: none
+    MoveProblem why = MoveProblem::None;
     QString other;
     QString leaving; ///< the path of an item that makes the place free
 };
@@ -101,7 +101,7 @@ private:
     void read(int i)
     {
         planned(i).to = wish(i).to;
-        if (const QString fault = faultOfPath(wish(i).to); !fault.isEmpty())
+        if (const MoveProblem fault = faultOfPath(wish(i).to); fault != MoveProblem::None)
             return refuse(i, fault);
         if (wish(i).from == wish(i).to) {
             planned(i).status = PlanStatus::Same;
@@ -112,7 +112,7 @@ private:
         d.toName = d.givenName = lastPathComponent(wish(i).to);
         d.fromFolder = m_places.existing(parentFolder(wish(i).from));
         if (!d.fromFolder || !readSource(i))
-            return refuse(i, QStringLiteral("gone"));
+            return refuse(i, MoveProblem::Gone);
         d.toFolder = &m_places.folder(parentFolder(wish(i).to));
         if (d.fromFolder == d.toFolder && d.fromName == d.toName)
             planned(i).status = PlanStatus::Same;
@@ -140,17 +140,17 @@ private:
     {
         Draft &d = draft(i);
         Spot::Tenant *tenant = d.fromFolder->tenant(d.fromName);
-        if (!d.toFolder->fault.isEmpty())
+        if (d.toFolder->fault != MoveProblem::None)
             return refuse(i, d.toFolder->fault, d.toFolder->faultOther);
         if (!d.toFolder->mayChange || (leaves(i) && !d.fromFolder->mayChange))
-            return refuse(i, QStringLiteral("locked"), d.toFolder->mayChange ? d.fromFolder->path : d.toFolder->path);
+            return refuse(i, MoveProblem::Locked, d.toFolder->mayChange ? d.fromFolder->path : d.toFolder->path);
         if (leaves(i) && tenant->leaver >= 0)
-            return refuse(i, QStringLiteral("twice"), wish(i).from);
+            return refuse(i, MoveProblem::Twice, wish(i).from);
         const QString source = joinedPath(d.fromFolder->path, d.fromName);
         const bool isInside = (d.toFolder->path + u'/').startsWith(source + u'/');
         d.isFolder = tenant->mayBeFolder && isFolder(source);
         if (d.isFolder && isInside && wish(i).kind != MoveKind::Link)
-            return refuse(i, QStringLiteral("inside"));
+            return refuse(i, MoveProblem::Inside);
         if (leaves(i))
             tenant->leaver = i;
     }
@@ -188,11 +188,10 @@ private:
         const Draft &d = draft(i);
         const Spot &spot = d.toFolder->spot(name);
         if (spot.claimer >= 0 && spot.claimer != i)
-            return {spot.claimedName == name ? QStringLiteral("twice") : QStringLiteral("case"),
-                    wish(spot.claimer).from,
-                    {}};
+            return {
+                spot.claimedName == name ? MoveProblem::Twice : MoveProblem::OtherCase, wish(spot.claimer).from, {}};
         if (!spot.madeFolder.isEmpty())
-            return {lastPathComponent(spot.madeFolder) == name ? QStringLiteral("taken") : QStringLiteral("case"),
+            return {lastPathComponent(spot.madeFolder) == name ? MoveProblem::Taken : MoveProblem::OtherCase,
                     spot.madeFolder,
                     {}};
         Obstacle none;
@@ -202,7 +201,7 @@ private:
                 continue;
             const bool isOwnSource = d.fromFolder == d.toFolder && tenant.name == d.fromName;
             if (tenant.leaver < 0 || !isOpen(tenant.leaver) || isOwnSource)
-                return {tenant.name == name ? QStringLiteral("taken") : QStringLiteral("case"), path, {}};
+                return {tenant.name == name ? MoveProblem::Taken : MoveProblem::OtherCase, path, {}};
             none.leaving = path;
         }
         return none;
@@ -217,10 +216,10 @@ private:
                 group.push_back(follower);
         for (int number = 1; isOpen(head); number = numberAfter(head, number)) {
             const Obstacle obstacle = firstObstacle(group, number);
-            if (obstacle.code.isEmpty())
+            if (obstacle.why == MoveProblem::None)
                 return take(group, number);
-            if (!wish(head).isNumbered || obstacle.code == QStringLiteral("long"))
-                refuse(head, obstacle.code, obstacle.other);
+            if (!wish(head).isNumbered || obstacle.why == MoveProblem::TooLong)
+                refuse(head, obstacle.why, obstacle.other);
         }
     }
 
@@ -239,9 +238,9 @@ private:
     {
         for (const int i : group) {
             const QString name = nameOf(i, number);
-            if (!faultOfPath(u'/' + name).isEmpty())
-                return {QStringLiteral("long"), {}, {}};
-            if (const Obstacle obstacle = obstacleOf(i, name); !obstacle.code.isEmpty())
+            if (faultOfPath(u'/' + name) != MoveProblem::None)
+                return {MoveProblem::TooLong, {}, {}};
+            if (const Obstacle obstacle = obstacleOf(i, name); obstacle.why != MoveProblem::None)
                 return obstacle;
         }
         return {};
@@ -269,10 +268,10 @@ private:
         draft(i).isClaimed = false;
     }
 
-    void refuse(int i, const QString &code, const QString &other = QString())
+    void refuse(int i, MoveProblem why, const QString &other = QString())
     {
         planned(i).status = PlanStatus::Refused;
-        planned(i).code = code;
+        planned(i).why = why;
         planned(i).other = other;
         giveUp(i);
         m_refused.push_back(i);
@@ -291,7 +290,7 @@ private:
         m_refused.pop_back();
         for (const int companion : m_companions.values(i))
             if (isOpen(companion))
-                refuse(companion, QStringLiteral("leader"), wish(i).from);
+                refuse(companion, MoveProblem::Leader, wish(i).from);
         Draft &d = draft(i);
         Spot::Tenant *tenant = leaves(i) && d.fromFolder ? d.fromFolder->tenant(d.fromName) : nullptr;
         if (!tenant || tenant->leaver != i)
@@ -325,7 +324,7 @@ private:
                 }
             const std::vector<int> impossible = orderMoves(displacements).impossible;
             for (const int at : impossible)
-                refuse(open[size_t(at)], QStringLiteral("inside"));
+                refuse(open[size_t(at)], MoveProblem::Inside);
             settle();
             isAnyFolder = !impossible.empty();
         }
@@ -353,14 +352,14 @@ private:
             return;
         const QString leaving = obstacleOf(i, d.givenName).leaving;
         if (d.number > 1) {
-            answer.code = QStringLiteral("numbered");
+            answer.remark = PlanRemark::Numbered;
             answer.other = wish(i).to;
         } else if (leaves(i) && d.fromFolder->device != d.toFolder->device) {
-            answer.code = QStringLiteral("disk");
+            answer.remark = PlanRemark::OtherDisk;
         } else if (leaves(i) && d.fromFolder == d.toFolder && nameKey(d.fromName) == nameKey(d.givenName)) {
-            answer.code = QStringLiteral("case");
+            answer.remark = PlanRemark::OtherCase;
         } else if (!leaving.isEmpty()) {
-            answer.code = QStringLiteral("aside");
+            answer.remark = PlanRemark::Aside;
             answer.other = leaving;
         }
     }

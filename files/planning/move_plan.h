@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files/planning/move_problem.h"
+
 #include "platform/disk/file_system.h"
 
 #include <QString>
@@ -28,13 +30,10 @@ enum class PlanStatus { Ready, Same, Refused };
 struct PlannedMove
 {
     PlanStatus status = PlanStatus::Ready;
-    /**
-     * Refused: "empty", "illegal", "long", "gone", "twice", "taken", "case", "inside", "locked", "leader".
-     * Ready: "", "aside", "case", "numbered", "disk".
-     */
-    QString code;
-    QString other; ///< the path that stands in the way, or did
-    QString to;    ///< the path that the item will have
+    MoveProblem why = MoveProblem::None;  ///< it is refused
+    PlanRemark remark = PlanRemark::None; ///< of one that is ready
+    QString other;                        ///< the path that stands in the way, or did
+    QString to;                           ///< the path that the item will have
 };
 
 /**

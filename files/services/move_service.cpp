@@ -62,10 +62,15 @@ std::vector<MoveWish> wishesFrom(const QVariantList &list)
     return wishes;
 }
 
+QString codeOf(const PlannedMove &planned)
+{
+    return planned.status == PlanStatus::Refused ? wordOf(planned.why) : wordOf(planned.remark);
+}
+
 QVariantMap mapOf(const PlannedMove &planned)
 {
     return {{QStringLiteral("status"), wordOf(planned.status)},
-            {QStringLiteral("code"), planned.code},
+            {QStringLiteral("code"), codeOf(planned)},
             {QStringLiteral("other"), planned.other},
             {QStringLiteral("to"), planned.to}};
 }
@@ -74,7 +79,7 @@ QVariantMap mapOf(const MoveResult &result)
 {
     return {{QStringLiteral("index"), result.index},
             {QStringLiteral("status"), statusWord(result.stand)},
-            {QStringLiteral("code"), result.code},
+            {QStringLiteral("code"), wordOf(result.why)},
             {QStringLiteral("message"), result.message},
             {QStringLiteral("path"), result.path}};
 }
@@ -82,7 +87,7 @@ QVariantMap mapOf(const MoveResult &result)
 QVariantMap mapOf(const UndoProblem &problem)
 {
     return {{QStringLiteral("path"), problem.path},
-            {QStringLiteral("code"), problem.code},
+            {QStringLiteral("code"), wordOf(problem.why)},
             {QStringLiteral("reason"), problem.reason}};
 }
 
@@ -113,9 +118,9 @@ template<typename Values> QVariantList listOf(const Values &values)
     return list;
 }
 
-QVariantMap failed(const QString &code, const QString &message, const QString &path)
+QVariantMap failed(MoveProblem why, const QString &message, const QString &path)
 {
-    return mapOf(MoveResult{-1, Stand::Failed, code, message, path});
+    return mapOf(MoveResult{-1, Stand::Failed, why, message, path});
 }
 
 } // namespace
@@ -175,8 +180,8 @@ QVariantList MoveService::planned(const QString &plan, int from, int to) const
     const MovePlanning &made = *found->second.planning;
     for (int i = std::max(0, from); i < std::min(to, int(made.plan().size())); ++i) {
         const PlannedMove &planned = made.plan()[size_t(i)];
-        const bool isPlain =
-            planned.status == PlanStatus::Ready && planned.code.isEmpty() && planned.to == made.wishes()[size_t(i)].to;
+        const bool isPlain = planned.status == PlanStatus::Ready && planned.remark == PlanRemark::None &&
+                             planned.to == made.wishes()[size_t(i)].to;
         list.append(isPlain ? nothing : QVariant(mapOf(planned)));
     }
     return list;
@@ -187,12 +192,12 @@ void MoveService::dropPlan(const QString &plan)
     m_plans.erase(plan);
 }
 
-QVariantMap MoveService::started(std::unique_ptr<MoveRun> run, const QString &problem)
+QVariantMap MoveService::started(platform::Result<std::unique_ptr<MoveRun>> run)
 {
     if (!run)
-        return {{QStringLiteral("problem"), problem}};
-    const QString id = run->id();
-    m_runs.insert_or_assign(id, std::move(run));
+        return {{QStringLiteral("problem"), run.error().message}};
+    const QString id = (*run)->id();
+    m_runs.insert_or_assign(id, std::move(*run));
     return {{QStringLiteral("run"), id}};
 }
 
@@ -209,8 +214,7 @@ QVariantMap MoveService::begin(const QVariantMap &run)
     form.title = fields.text("title");
     for (const QVariant &item : fields.list("items"))
         form.items.push_back(itemFrom({item, QStringLiteral("run.items[%1]").arg(form.items.size())}));
-    QString problem;
-    return started(MoveRun::begin(*m_disk, *m_shelf, form, &problem), problem);
+    return started(MoveRun::begin(*m_disk, *m_shelf, form));
 }
 
 QVariant MoveService::next(const QString &run)
@@ -225,15 +229,14 @@ QString MoveService::end(const QString &run)
     MoveRun *active = found(run);
     if (!active)
         return tr("This run is not open");
-    const QString problem = active->end();
+    const auto ended = active->end();
     m_runs.erase(run);
-    return problem;
+    return ended ? QString() : ended.error().message;
 }
 
 QVariantMap MoveService::open(const QString &title)
 {
-    QString problem;
-    return started(MoveRun::open(*m_disk, *m_shelf, title, &problem), problem);
+    return started(MoveRun::open(*m_disk, *m_shelf, title));
 }
 
 QVariantMap MoveService::add(const QString &run, const QVariantMap &item)
@@ -242,12 +245,11 @@ QVariantMap MoveService::add(const QString &run, const QVariantMap &item)
     const Fields fields(item, QStringLiteral("item"));
     MoveItem added = itemFrom(fields);
     if (!active)
-        return failed(QStringLiteral("other"), tr("This run is not open"), added.from);
+        return failed(MoveProblem::Other, tr("This run is not open"), added.from);
     if (added.deed != Deed::Trash) {
         const PlannedMove planned = planMoves({wishFrom(fields)}, *m_disk).front();
         if (planned.status == PlanStatus::Refused)
-            return failed(planned.code,
-                          MoveDeeds::sentence(planned.code, planned.other.isEmpty() ? added.from : planned.other),
+            return failed(planned.why, sentence(planned.why, planned.other.isEmpty() ? added.from : planned.other),
                           added.from);
         added.to = planned.to;
     }
@@ -266,9 +268,9 @@ QVariant MoveService::takeBack(const QString &run)
     const MoveRecord record = active->record().items[size_t(index)];
     const TakeBack back = takeBackOf(*m_disk, active->record(), index);
     const UndoProblem &problem = back.problem;
-    const MoveResult result = problem.code.isEmpty()
+    const MoveResult result = problem.why == MoveProblem::None
                                   ? active->takeBack(index, back.deed)
-                                  : MoveResult{index, Stand::Failed, problem.code, problem.reason, problem.path};
+                                  : MoveResult{index, Stand::Failed, problem.why, problem.reason, problem.path};
     if (result.stand != Stand::Done)
         m_givenUp.insert({run, index});
     QVariantMap answer = mapOf(result);
@@ -294,9 +296,8 @@ QVariantMap MoveService::undo(const QString &run)
         items.append(QVariantMap{{QStringLiteral("kind"), wordOf(item.deed)},
                                  {QStringLiteral("from"), item.from},
                                  {QStringLiteral("to"), item.to}});
-    QString problem = plan.problem;
-    QVariantMap answer = problem.isEmpty() ? started(MoveRun::begin(*m_disk, *m_shelf, plan.form, &problem), problem)
-                                           : started(nullptr, problem);
+    QVariantMap answer = plan.problem.isEmpty() ? started(MoveRun::begin(*m_disk, *m_shelf, plan.form))
+                                                : QVariantMap{{QStringLiteral("problem"), plan.problem}};
     answer.insert(QStringLiteral("problems"), listOf(plan.problems));
     if (answer.contains(QStringLiteral("run")))
         answer.insert(QStringLiteral("items"), items);

@@ -89,7 +89,7 @@ private:
         std::unique_ptr<MovePlanning> planning;
     };
 
-    QVariantMap started(std::unique_ptr<MoveRun> run, const QString &problem);
+    QVariantMap started(platform::Result<std::unique_ptr<MoveRun>> run);
     MoveRun *found(const QString &run) const;
 
     std::unique_ptr<platform::FileSystem> m_disk;

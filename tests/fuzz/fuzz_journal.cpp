@@ -34,11 +34,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     (void)files::recoverMoves(disk, shelf);
     checkPictures(disk);
     const files::UndoPlan undo = files::planUndo(disk, shelf, run);
-    QString problem;
-    if (const auto again = files::MoveRun::begin(disk, shelf, undo.form, &problem)) {
-        while (again->next()) {
+    if (const auto again = files::MoveRun::begin(disk, shelf, undo.form)) {
+        while ((*again)->next()) {
         }
-        again->end();
+        (void)(*again)->end();
     }
     checkPictures(disk);
     return 0;

@@ -553,7 +553,7 @@ public:
             all.prepend(journal.first);
         return all;
     }
-    QString make(const QString &name, const QByteArray &lines) override
+    platform::Result<void> make(const QString &name, const QByteArray &lines) override
     {
         held.insert(name);
         return add(name, lines);
@@ -566,9 +566,11 @@ public:
         return true;
     }
     void letGo(const QString &name) override { held.remove(name); }
-    QString append(const QString &name, const QByteArray &lines, files::Lasting) override
+    platform::Result<void> append(const QString &name, const QByteArray &lines, files::Lasting) override
     {
-        return held.contains(name) ? add(name, lines) : QStringLiteral("not held");
+        if (!held.contains(name))
+            return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("not held"));
+        return add(name, lines);
     }
     std::optional<QByteArray> read(const QString &name) const override
     {
@@ -583,7 +585,7 @@ public:
     void remove(const QString &name) override { journals.erase(name); }
 
 private:
-    QString add(const QString &name, const QByteArray &lines)
+    platform::Result<void> add(const QString &name, const QByteArray &lines)
     {
         const bool isCutShort = fuse && fuse->burns();
         journals[name] += isCutShort ? lines.left(lines.size() / 2) : lines;

@@ -132,8 +132,7 @@ private:
 /** Carries out a run to its end, or up to @p most results. */
 inline std::unique_ptr<files::MoveRun> carriedOut(World &world, const files::MoveOrderForm &form, int most = 1'000'000)
 {
-    QString problem;
-    auto run = files::MoveRun::begin(world.disk, world.shelf, form, &problem);
+    auto run = std::move(*files::MoveRun::begin(world.disk, world.shelf, form));
     std::vector<int> told(form.items.size());
     for (int i = 0; i < most; ++i) {
         const auto result = run->next();
@@ -143,6 +142,6 @@ inline std::unique_ptr<files::MoveRun> carriedOut(World &world, const files::Mov
     }
     if (std::any_of(told.begin(), told.end(), [](int count) { return count > 1; }))
         qFatal("an item has come to two ends");
-    run->end();
+    (void)run->end();
     return run;
 }

@@ -103,19 +103,18 @@ Form::Form(QWidget *root, const QString &file, QObject *parent) : QObject(parent
         button->setAutoDefault(true);
 }
 
-Form *Form::load(const QString &path, QWidget *parentWidget, QObject *owner, QString *problem)
+platform::Result<Form *> Form::load(const QString &path, QWidget *parentWidget, QObject *owner)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *problem = QStringLiteral("%1: %2").arg(path, file.errorString());
-        return nullptr;
-    }
+    const auto unreadable = [&path](const QString &why) {
+        return platform::failure(platform::ErrorCode::Unreadable, QStringLiteral("%1: %2").arg(path, why));
+    };
+    if (!file.open(QIODevice::ReadOnly))
+        return unreadable(file.errorString());
     Loader loader;
     QWidget *root = loader.load(&file, parentWidget);
-    if (!root) {
-        *problem = QStringLiteral("%1: %2").arg(path, loader.errorString());
-        return nullptr;
-    }
+    if (!root)
+        return unreadable(loader.errorString());
     return new Form(root, path, owner);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/seam/function.h"
+#include "platform/foundation/result.h"
 
 #include <QObject>
 #include <QPointer>
@@ -19,9 +20,8 @@ class Form : public QObject
 public:
     Form(QWidget *root, const QString &file, QObject *parent);
 
-    /** Loads @p file; null with @p problem filled in where that fails. The form owns nothing: the widget has a parent
-     * or is a window. */
-    static Form *load(const QString &file, QWidget *parentWidget, QObject *owner, QString *problem);
+    /** Loads @p file. Fails with Unreadable. The form owns nothing: the widget has a parent or is a window. */
+    static platform::Result<Form *> load(const QString &file, QWidget *parentWidget, QObject *owner);
 
     QWidget *root() const { return m_root; }
     bool isShown() const;

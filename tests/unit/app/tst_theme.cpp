@@ -188,12 +188,11 @@ void TestTheme::pressesTheButtonThatHasTheFocus()
 {
     QFETCH(QString, form);
     QFETCH(QString, button);
-    QString problem;
     QObject owner;
-    const auto *loaded =
-        window::Form::load(window::interfaceFolder() + QStringLiteral("/windows/") + form, nullptr, &owner, &problem);
-    QVERIFY2(loaded, qPrintable(problem));
-    const std::unique_ptr<QWidget> root(loaded->root());
+    const auto loaded =
+        window::Form::load(window::interfaceFolder() + QStringLiteral("/windows/") + form, nullptr, &owner);
+    QVERIFY(loaded);
+    const std::unique_ptr<QWidget> root((*loaded)->root());
     int pressed = 0;
     const QList<QPushButton *> buttons = root->findChildren<QPushButton *>();
     for (const QPushButton *each : buttons)

@@ -18,11 +18,10 @@ constexpr int notAllowed = 77;
 
 void carryOut(platform::FileSystem &disk, JournalShelf &shelf, const MoveOrderForm &form)
 {
-    QString problem;
-    if (const auto run = MoveRun::begin(disk, shelf, form, &problem)) {
-        while (run->next()) {
+    if (const auto run = MoveRun::begin(disk, shelf, form)) {
+        while ((*run)->next()) {
         }
-        run->end();
+        (void)(*run)->end();
     }
 }
 
@@ -53,7 +52,7 @@ int takeBack(const ScratchFolder &here, bool isPlannedBefore)
         return 2;
     if (!isPlannedBefore) {
         undo = planUndo(disk, shelf, run);
-        if (undo.problems.size() != 1 || undo.problems.front().code != QStringLiteral("original"))
+        if (undo.problems.size() != 1 || undo.problems.front().why != MoveProblem::Original)
             return 3;
     }
     carryOut(disk, shelf, undo.form);

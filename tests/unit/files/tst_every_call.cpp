@@ -85,11 +85,10 @@ void carryOut(const Place &place, const MoveOrderForm &form)
 {
     platform::DiskFileSystem disk;
     DiskJournalShelf shelf(place.here("data/quorlin/moves"));
-    QString problem;
-    if (const auto run = MoveRun::begin(disk, shelf, form, &problem)) {
-        while (run->next()) {
+    if (const auto run = MoveRun::begin(disk, shelf, form)) {
+        while ((*run)->next()) {
         }
-        run->end();
+        (void)(*run)->end();
     }
 }
 

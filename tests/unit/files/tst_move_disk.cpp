@@ -103,11 +103,10 @@ void emptyTrashOf(const JournalShelf &shelf)
 
 void carryOut(platform::FileSystem &disk, JournalShelf &shelf, const MoveOrderForm &form)
 {
-    QString problem;
-    const auto run = MoveRun::begin(disk, shelf, form, &problem);
+    const auto run = std::move(*MoveRun::begin(disk, shelf, form));
     while (run->next()) {
     }
-    run->end();
+    (void)run->end();
 }
 
 } // namespace
@@ -176,9 +175,7 @@ void TestMoveDisk::endsTrashingThatWasCutShort()
         DiskJournalShelf shelf(journals.path());
         MoveOrderForm form;
         form.items = {{Deed::Trash, folder.path("in/a.jpg"), {}}};
-        QString problem;
-        const auto run = MoveRun::begin(disk, shelf, form, &problem);
-        QVERIFY2(run, qPrintable(problem));
+        QVERIFY(MoveRun::begin(disk, shelf, form));
     }
     QVERIFY(QFile::rename(folder.path("in/a.jpg"), folder.path("in/.quorlin-0123456789ab")));
     QVERIFY(folder.write("in/.quorlin-other", "of another program"));
@@ -214,8 +211,7 @@ void TestMoveDisk::takesAwayTheBeginningOfACopyInTheTrash()
         DiskJournalShelf shelf(journals.path());
         MoveOrderForm form;
         form.items = {{Deed::Trash, folder.path("in/a"), {}}};
-        QString problem;
-        QVERIFY2(MoveRun::begin(disk, shelf, form, &problem), qPrintable(problem));
+        QVERIFY(MoveRun::begin(disk, shelf, form));
     }
     const auto write = [&](const char *name, const QByteArray &bytes, int secondsAgo) {
         QVERIFY(folder.write(name, bytes));

@@ -92,9 +92,8 @@ void TestMoveJournal::hidesNothingWhateverByteIsDamaged()
         Fuse fuse;
         disk.fuse = shelf.fuse = &fuse;
         fuse.light(burns);
-        QString problem;
         try {
-            const auto run = MoveRun::begin(disk, shelf, form, &problem);
+            const auto run = std::move(*MoveRun::begin(disk, shelf, form));
             while (run->next()) {
             }
         } catch (const Killed &) {

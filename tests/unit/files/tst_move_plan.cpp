@@ -40,9 +40,10 @@ QString wordsFor(const PlannedMove &planned, const MoveWish &wish)
     QString words = planned.status == PlanStatus::Same    ? QStringLiteral("same")
                     : planned.status == PlanStatus::Ready ? QStringLiteral("ready")
                                                           : QStringLiteral("refused");
-    if (!planned.code.isEmpty())
-        words += u' ' + planned.code;
-    if (!planned.other.isEmpty() && planned.code != QStringLiteral("numbered"))
+    const QString code = planned.why != MoveProblem::None ? wordOf(planned.why) : wordOf(planned.remark);
+    if (!code.isEmpty())
+        words += u' ' + code;
+    if (!planned.other.isEmpty() && planned.remark != PlanRemark::Numbered)
         words += u' ' + planned.other;
     if (planned.status == PlanStatus::Ready && planned.to != wish.to)
         words += u' ' + planned.to;
@@ -191,16 +192,16 @@ void TestMovePlan::refusesNamesThatAreTooLong()
     const auto codeFor = [&](const QString &name, bool isNumbered = false) {
         return planMoves({{MoveKind::Move, QStringLiteral("/d/a"), QStringLiteral("/d/") + name, isNumbered, -1}}, disk)
             .front()
-            .code;
+            .why;
     };
-    QCOMPARE(codeFor(QString(255, u'x')), QString());
-    QCOMPARE(codeFor(QString(256, u'x')), QStringLiteral("long"));
-    QCOMPARE(codeFor(QString(127, QChar(0xe9)) + u'x'), QString());
-    QCOMPARE(codeFor(QString(128, QChar(0xe9))), QStringLiteral("long"));
-    QCOMPARE(codeFor(QString(255, u'b'), true), QStringLiteral("long"));
-    QCOMPARE(codeFor(QStringLiteral("a\0b").left(1) + QChar(u'\0') + u'b'), QStringLiteral("illegal"));
-    QCOMPARE(codeFor(QString(QChar(0xd800))), QStringLiteral("illegal"));
-    QCOMPARE(codeFor((QString(250, u'x') + u'/').repeated(17) + u'x'), QStringLiteral("long"));
+    QCOMPARE(codeFor(QString(255, u'x')), MoveProblem::None);
+    QCOMPARE(codeFor(QString(256, u'x')), MoveProblem::TooLong);
+    QCOMPARE(codeFor(QString(127, QChar(0xe9)) + u'x'), MoveProblem::None);
+    QCOMPARE(codeFor(QString(128, QChar(0xe9))), MoveProblem::TooLong);
+    QCOMPARE(codeFor(QString(255, u'b'), true), MoveProblem::TooLong);
+    QCOMPARE(codeFor(QStringLiteral("a\0b").left(1) + QChar(u'\0') + u'b'), MoveProblem::Illegal);
+    QCOMPARE(codeFor(QString(QChar(0xd800))), MoveProblem::Illegal);
+    QCOMPARE(codeFor((QString(250, u'x') + u'/').repeated(17) + u'x'), MoveProblem::TooLong);
 }
 
 void TestMovePlan::planningTouchesNothing()
@@ -238,7 +239,7 @@ void TestMovePlan::plansTenThousandWishesInOneGo()
     // All refused in turn when the last one runs into a wall, which must not take a pass for each.
     disk.addFile(QStringLiteral("/d/%1").arg(count), "wall");
     for (const PlannedMove &planned : planMoves(wishes, disk))
-        QCOMPARE(planned.code, QStringLiteral("taken"));
+        QCOMPARE(planned.why, MoveProblem::Taken);
     QCOMPARE(disk.listings, 1);
     MovePlanning slices(wishes, disk);
     int sliceCount = 1;
@@ -246,11 +247,11 @@ void TestMovePlan::plansTenThousandWishesInOneGo()
         ++sliceCount;
     QVERIFY2(sliceCount > 4 * count, qPrintable(QString::number(sliceCount))); // no part of it is long
     for (const PlannedMove &planned : slices.plan())
-        QCOMPARE(planned.code, QStringLiteral("taken"));
+        QCOMPARE(planned.why, MoveProblem::Taken);
     disk.drop(QStringLiteral("/d/%1").arg(count));
     int asides = 0;
     for (const PlannedMove &planned : planMoves(wishes, disk))
-        asides += planned.code == QStringLiteral("aside");
+        asides += planned.remark == PlanRemark::Aside;
     QCOMPARE(asides, count - 1);
 }
 

@@ -56,7 +56,7 @@ void TestMoveRandom::checkPlaces(World &world, const RunRecord &record, const st
         const bool isNumbered = item.stand == Stand::Failed && !item.path.isEmpty();
         const QString place = item.stand == Stand::Done || isNumbered ? item.path : item.item.from;
         const QByteArray held = before.at(item.item.from).mid(1);
-        if (item.code != QStringLiteral("gone"))
+        if (item.why != MoveProblem::Gone)
             QVERIFY2(world.disk.bytes(now(place, i)) == held, qPrintable(now(place, i)));
     }
 }

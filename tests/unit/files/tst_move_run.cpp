@@ -84,20 +84,20 @@ void TestMoveRun::init()
 /** "OK", or the code of the failure, for every item in its order; "" for one without a result. */
 QStringList TestMoveRun::carriedOut(const std::vector<MoveItem> &items)
 {
-    QString problem;
     MoveOrderForm form;
     form.title = QStringLiteral("Test");
     form.items = items;
-    const auto run = MoveRun::begin(*m_disk, *m_shelf, form, &problem);
-    if (!run)
-        return {problem};
+    const auto begun = MoveRun::begin(*m_disk, *m_shelf, form);
+    if (!begun)
+        return {begun.error().message};
+    const auto &run = *begun;
     m_run = run->id();
     if (m_afterBegin)
         m_afterBegin();
     QStringList answers(qsizetype(items.size()), QString());
     while (const auto result = run->next())
-        answers[result->index] = result->stand == Stand::Done ? QStringLiteral("OK") : result->code;
-    run->end();
+        answers[result->index] = result->stand == Stand::Done ? QStringLiteral("OK") : wordOf(result->why);
+    (void)run->end();
     return answers;
 }
 
@@ -128,7 +128,10 @@ void TestMoveRun::movesNothingWithoutAJournal()
 {
     class FullShelf : public ModelShelf
     {
-        QString make(const QString &, const QByteArray &) override { return QStringLiteral("full"); }
+        platform::Result<void> make(const QString &, const QByteArray &) override
+        {
+            return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("full"));
+        }
     };
     m_shelf = std::make_unique<FullShelf>();
     const auto before = m_disk->everything();
@@ -264,7 +267,7 @@ void TestMoveRun::trashesNoCopyThatIsItsOriginalByNow()
     m_disk->drop(at("folder"));
     m_disk->addLink(at("folder"), QStringLiteral("/new"));
     const UndoPlan undo = planUndo(*m_disk, *m_shelf, m_run);
-    QCOMPARE(undo.problems.at(0).code, QStringLiteral("original"));
+    QCOMPARE(undo.problems.at(0).why, MoveProblem::Original);
     QVERIFY(undo.form.items.empty());
     QCOMPARE(carriedOut(before.form.items), QStringList(QStringLiteral("original")));
     QCOMPARE(m_disk->bytes(QStringLiteral("/new/in")), QByteArray("folder/in"));
@@ -389,9 +392,11 @@ void TestMoveRun::endsNoRunWhoseJournalLacksALine()
         {
         public:
             bool *isFull = nullptr;
-            QString append(const QString &name, const QByteArray &lines, Lasting lasting) override
+            platform::Result<void> append(const QString &name, const QByteArray &lines, Lasting lasting) override
             {
-                return *isFull ? QStringLiteral("full") : ModelShelf::append(name, lines, lasting);
+                if (*isFull)
+                    return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("full"));
+                return ModelShelf::append(name, lines, lasting);
             }
         };
         auto shelf = std::make_unique<SmallShelf>();
@@ -400,13 +405,12 @@ void TestMoveRun::endsNoRunWhoseJournalLacksALine()
         const auto before = m_disk->everything();
         MoveOrderForm form;
         form.items = {move("a", "x"), move("b", "y"), move("c", "z")};
-        QString problem;
-        const auto run = MoveRun::begin(*m_disk, *m_shelf, form, &problem);
+        const auto run = std::move(*MoveRun::begin(*m_disk, *m_shelf, form));
         for (int i = 0; i < 3; ++i) {
             isFull = isFreedInTime ? i == 1 : i >= 1;
             QCOMPARE(run->next()->stand, Stand::Done);
         }
-        QCOMPARE(run->end().isEmpty(), isFreedInTime);
+        QCOMPARE(run->end().has_value(), isFreedInTime);
         isFull = false;
         QCOMPARE(recoverMoves(*m_disk, *m_shelf).size(), size_t(isFreedInTime ? 0 : 1));
         const UndoPlan undo = planUndo(*m_disk, *m_shelf, run->id());
@@ -498,8 +502,7 @@ void TestMoveRun::leavesRunsOfOthersAlone()
 {
     MoveOrderForm form;
     form.items = {move("a", "x"), move("b", "y")};
-    QString problem;
-    const auto run = MoveRun::begin(*m_disk, *m_shelf, form, &problem);
+    const auto run = std::move(*MoveRun::begin(*m_disk, *m_shelf, form));
     run->next();
     m_shelf->held.clear();
     m_shelf->heldByOthers.insert(run->id());

@@ -191,7 +191,9 @@ void TestMoveService::undoesARun()
     drive(field(back, "run"));
     QCOMPARE(m_service->end(field(back, "run")), QString());
     QCOMPARE(m_disk->everything(), before);
-    QCOMPARE(each(m_service->runs(), "undoes"), QStringList({id, text("")}));
+    QStringList undone = each(m_service->runs(), "undoes");
+    undone.sort(); // both may have begun in one millisecond
+    QCOMPARE(undone, QStringList({text(""), id}));
     QCOMPARE(field(m_service->undo(id), "problem"), text("This run was taken back already"));
 }
 
@@ -231,7 +233,10 @@ void TestMoveService::beginsNothingWithoutAJournal()
 {
     class NoShelf : public ModelShelf
     {
-        QString make(const QString &, const QByteArray &) override { return QStringLiteral("no room"); }
+        platform::Result<void> make(const QString &, const QByteArray &) override
+        {
+            return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("no room"));
+        }
     };
     MoveService service(std::make_unique<ModelFileSystem>(), std::make_unique<NoShelf>());
     QCOMPARE(field(service.begin(run({item("/d/a", "/d/x")})), "problem"), text("no room"));

@@ -26,11 +26,10 @@ public:
 
     void carryOut(const MoveOrderForm &form)
     {
-        QString problem;
-        if (const auto run = MoveRun::begin(disk, shelf, form, &problem)) {
-            while (run->next()) {
+        if (const auto run = MoveRun::begin(disk, shelf, form)) {
+            while ((*run)->next()) {
             }
-            run->end();
+            (void)(*run)->end();
         }
     }
 

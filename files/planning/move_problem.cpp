@@ -1,0 +1,84 @@
+#include "files/planning/move_problem.h"
+
+#include "platform/foundation/paths.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <iterator>
+
+namespace files {
+namespace {
+
+struct Row
+{
+    MoveProblem problem;
+    const char *word;
+    const char *sentence = QT_TRANSLATE_NOOP("files", "%1 could not be copied correctly");
+};
+
+// In the order of the enum. Journals of earlier runs have these words too.
+const Row table[] = {
+    {MoveProblem::None, ""},
+    {MoveProblem::Empty, "empty"},
+    {MoveProblem::Illegal, "illegal", QT_TRANSLATE_NOOP("files", "The name %1 cannot be used on this disk")},
+    {MoveProblem::TooLong, "long", QT_TRANSLATE_NOOP("files", "The name %1 is too long for this disk")},
+    {MoveProblem::Gone, "gone", QT_TRANSLATE_NOOP("files", "%1 is not there any more")},
+    {MoveProblem::Twice, "twice"},
+    {MoveProblem::Taken, "taken", QT_TRANSLATE_NOOP("files", "The name %1 is taken")},
+    {MoveProblem::OtherCase, "case"},
+    {MoveProblem::Inside, "inside", QT_TRANSLATE_NOOP("files", "The folder %1 cannot go into itself")},
+    {MoveProblem::Locked, "locked", QT_TRANSLATE_NOOP("files", "%1 or its folder may not be changed")},
+    {MoveProblem::Leader, "leader", QT_TRANSLATE_NOOP("files", "%1, which it belongs to, keeps its name")},
+    {MoveProblem::Changed, "changed", QT_TRANSLATE_NOOP("files", "%1 was changed or replaced in the meantime")},
+    {MoveProblem::Full, "full", QT_TRANSLATE_NOOP("files", "There is no room left on the disk for %1")},
+    {MoveProblem::Original, "original", QT_TRANSLATE_NOOP("files", "%1 is the original itself by now, no copy of it")},
+    {MoveProblem::Damaged, "damaged"},
+    {MoveProblem::Circle, "circle",
+     QT_TRANSLATE_NOOP("files", "%1 could not get its new name, and others wait for its old one")},
+    {MoveProblem::Same, "same"},
+    {MoveProblem::Other, "other"},
+};
+
+const Row &rowOf(MoveProblem problem)
+{
+    return table[size_t(problem)];
+}
+
+} // namespace
+
+QString wordOf(MoveProblem problem)
+{
+    return QString::fromLatin1(rowOf(problem).word);
+}
+
+QString wordOf(PlanRemark remark)
+{
+    switch (remark) {
+    case PlanRemark::None:
+        return QStringLiteral("");
+    case PlanRemark::Aside:
+        return QStringLiteral("aside");
+    case PlanRemark::OtherCase:
+        return QStringLiteral("case");
+    case PlanRemark::Numbered:
+        return QStringLiteral("numbered");
+    case PlanRemark::OtherDisk:
+        return QStringLiteral("disk");
+    }
+    Q_UNREACHABLE();
+}
+
+std::optional<MoveProblem> moveProblem(QStringView word)
+{
+    const auto found = std::find_if(std::begin(table), std::end(table),
+                                    [word](const Row &row) { return word == QLatin1String(row.word); });
+    return found == std::end(table) ? std::nullopt : std::optional(found->problem);
+}
+
+QString sentence(MoveProblem problem, const QString &path)
+{
+    return QCoreApplication::translate("files", rowOf(problem).sentence).arg(platform::lastPathComponent(path));
+}
+
+} // namespace files

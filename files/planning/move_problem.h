@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+namespace files {
+
+/** Why an item cannot have its new name, or did not get it. */
+enum class MoveProblem {
+    None,
+    Empty,     ///< the name is empty
+    Illegal,   ///< no name at all, or none that the disk can hold
+    TooLong,   ///< the name or the path is too long
+    Gone,      ///< nothing is at the old place
+    Twice,     ///< another wish has the item, or its new place
+    Taken,     ///< something is at the new place
+    OtherCase, ///< something there differs only by case or accents
+    Inside,    ///< a folder is to go into itself
+    Locked,    ///< the item or a folder may not be changed
+    Leader,    ///< what it goes along with stays
+    Changed,   ///< it was changed or replaced since the beginning
+    Full,      ///< there is no room on the disk
+    Original,  ///< what is to go is no copy, but the original itself
+    Damaged,   ///< the copy is not what was copied
+    Circle,    ///< others wait for its place, and it cannot leave
+    Same,      ///< it has that name already
+    Other,     ///< what the system says, in the message beside it
+};
+
+/** What is worth telling of an item that can have its new name. */
+enum class PlanRemark {
+    None,
+    Aside,     ///< what is there now leaves in the same plan
+    OtherCase, ///< only case or accents change
+    Numbered,  ///< it gets a number behind its name
+    OtherDisk, ///< it goes to another file system
+};
+
+/** The word for it in journals and for scripts: "gone", "taken", "long" ...; empty for none. */
+QString wordOf(MoveProblem problem);
+/** "aside", "case", "numbered" or "disk"; empty for none. */
+QString wordOf(PlanRemark remark);
+/** The problem that a word stands for; nothing for a word that is none. */
+std::optional<MoveProblem> moveProblem(QStringView word);
+
+/** The problem with the item at @p path as a sentence; "could not be copied correctly" for those that have none of their own. */
+QString sentence(MoveProblem problem, const QString &path);
+
+} // namespace files
