@@ -1,6 +1,7 @@
 #include "app/window/look/theme.h"
 
 #include "platform/desktop/user_defaults.h"
+#include "platform/foundation/raised.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -164,6 +165,11 @@ QString Theme::appearanceName() const
 
 void Theme::choose(const QString &name)
 {
+    const bool isKnown =
+        name == QLatin1String("light") || name == QLatin1String("dark") || name == QLatin1String("system");
+    if (!isKnown)
+        throw platform::Raised::typeError(
+            QStringLiteral("Expected \"light\", \"dark\" or \"system\" for name but received \"%1\"").arg(name));
     platform::setUserDefault(QStringLiteral("Appearance"), name);
     apply(wanted());
 }

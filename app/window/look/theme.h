@@ -33,7 +33,7 @@ public:
     static Appearance appearance();
 
     QString appearanceName() const;
-    /** "light", "dark" or "system"; kept for the next start. */
+    /** "light", "dark" or "system"; another word is a TypeError. Kept for the next start. */
     Q_INVOKABLE void choose(const QString &name);
     /** What choose() was told last: "light", "dark" or "system". */
     Q_INVOKABLE QString choice() const;

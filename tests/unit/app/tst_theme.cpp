@@ -1,6 +1,7 @@
 #include "app/setup/interface_folder.h"
 #include "app/window/forms/ui_form.h"
 #include "app/window/look/theme.h"
+#include "tests/support/raised_text.h"
 #include "tests/support/test_program.h"
 
 #include <QCheckBox>
@@ -71,6 +72,7 @@ private Q_SLOTS:
     void readsItsFilesFromAnyFolder_data();
     void readsItsFilesFromAnyFolder();
     void staysLegibleWithoutItsFiles();
+    void takesNoOtherAppearance();
     void looksForScriptsWhereItIsInstalled();
     void pressesTheButtonThatHasTheFocus_data();
     void pressesTheButtonThatHasTheFocus();
@@ -84,6 +86,14 @@ void TestTheme::fillsInAllOfItsSheet()
         const auto left = QRegularExpression(QStringLiteral("@\\w+@")).match(qApp->styleSheet());
         QVERIFY2(!left.hasMatch(), qPrintable(left.captured()));
     }
+}
+
+void TestTheme::takesNoOtherAppearance()
+{
+    m_theme->choose(QStringLiteral("light"));
+    QCOMPARE(raisedBy([this] { m_theme->choose(QStringLiteral("Dark")); }),
+             QStringLiteral("TypeError: Expected \"light\", \"dark\" or \"system\" for name but received \"Dark\""));
+    QCOMPARE(m_theme->choice(), QStringLiteral("light"));
 }
 
 void TestTheme::showsTextsAsTheyAre()
