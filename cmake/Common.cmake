@@ -31,6 +31,7 @@ option(QUORLIN_PRECOMPILE "Precompile the headers of the toolkit" ON)
 set(QUORLIN_CORE_HEADERS <algorithm> <array> <cmath> <functional> <memory> <optional> <string> <vector>
   <QByteArray> <QCoreApplication> <QDateTime> <QDir> <QFile> <QFileInfo> <QHash> <QList> <QMap> <QString> <QStringList>
   <QUrl> <QVariant> <QtEndian>)
+set(QUORLIN_SCRIPT_HEADERS ${QUORLIN_CORE_HEADERS} <QJSEngine> <QJSValue> <QLocale> <QPointer> <QQmlEngine> <QTimer>)
 set(QUORLIN_WINDOW_HEADERS ${QUORLIN_CORE_HEADERS} <QAbstractItemModel> <QApplication> <QJSEngine> <QJSValue> <QKeyEvent> <QLabel>
   <QLocale> <QPainter> <QPainterPath> <QPointer> <QQmlEngine> <QStyledItemDelegate> <QTimer> <QWidget>)
 

@@ -1,7 +1,7 @@
+#include "app/modules/file_modules.h"
 #include "app/script/ScriptEngine.h"
 #include "app/script/runner_globals.h"
 #include "app/script/script_output.h"
-#include "app/window/script_modules.h"
 
 #include "platform/foundation/log.h"
 
@@ -68,7 +68,7 @@ int runScript(const QString &file, const QStringList &arguments)
         status = uncaughtError;
     });
     script::addRunnerGlobals(scripts, arguments);
-    window::addFilesModule(scripts);
+    script::addFileModules(scripts);
     const auto module = scripts.importFile(file);
     if (!module)
         scripts.reportUncaught(module.error().message);

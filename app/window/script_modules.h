@@ -10,14 +10,8 @@ namespace window {
 
 class Shell;
 
-/** The services of the modules "quorlin/files", "quorlin/moves" and "quorlin/pictures", without their objects. */
-std::vector<script::ServiceEntry> fileServices();
-
 /** The services of the modules "quorlin/shell" and "quorlin/program", and the classes of what they hand out. */
 std::vector<script::ServiceEntry> windowServices();
-
-/** Adds the modules of fileServices(). They need no window. */
-void addFilesModule(script::ScriptEngine &scripts);
 
 /** Adds the modules of windowServices(). */
 void addShellModule(script::ScriptEngine &scripts, Shell &shell);

@@ -1,5 +1,6 @@
 #include "app/window/start_up.h"
 
+#include "app/modules/file_modules.h"
 #include "app/script/ScriptEngine.h"
 #include "app/setup/configuration.h"
 #include "app/setup/interface_folder.h"
@@ -35,7 +36,7 @@ StartUp::StartUp(QApplication &application)
     platform::setPanelProvider(std::make_unique<DialogPanels>());
     platform::setWindowControls(std::make_unique<WidgetControls>());
     m_scripts = std::make_unique<script::ScriptEngine>();
-    addFilesModule(*m_scripts);
+    script::addFileModules(*m_scripts);
     addShellModule(*m_scripts, *m_shell);
     QObject::connect(m_scripts.get(), &script::ScriptEngine::uncaughtError, m_shell.get(),
                      [](const QString &message) { platform::logLine(message); });

@@ -1,3 +1,4 @@
+#include "app/modules/file_modules.h"
 #include "app/script/registry.h"
 #include "app/window/script_modules.h"
 #include "tests/seam/support/ScriptRun.h"
@@ -103,7 +104,7 @@ QString lineOf(const script::Signal &signal)
 std::vector<script::ServiceEntry> allServices()
 {
     std::vector<script::ServiceEntry> all = script::registeredServices();
-    for (const auto &more : {window::fileServices(), window::windowServices()})
+    for (const auto &more : {script::fileServices(), window::windowServices()})
         all.insert(all.end(), more.begin(), more.end());
     return all;
 }

@@ -1,4 +1,4 @@
-#include "app/window/script_modules.h"
+#include "app/modules/file_modules.h"
 #include "tests/seam/support/ScriptRun.h"
 #include "tests/support/test_program.h"
 
@@ -31,7 +31,7 @@ private:
 void TestSeamModules::initTestCase()
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(m_run.pathOf(QStringLiteral("data"))));
-    window::addFilesModule(m_run.engine());
+    script::addFileModules(m_run.engine());
 }
 
 QString TestSeamModules::answer(const QString &expression)

@@ -1,6 +1,6 @@
 #include "tests/seam/support/ScriptRun.h"
 
-#include "app/window/script_modules.h"
+#include "app/modules/file_modules.h"
 #include "tests/support/test_program.h"
 
 #include <QFile>
@@ -39,7 +39,7 @@ void TestSeamMoves::init()
 {
     m_run = std::make_unique<ScriptRun>();
     qputenv("XDG_DATA_HOME", QFile::encodeName(m_run->pathOf(QStringLiteral("data"))));
-    window::addFilesModule(m_run->engine());
+    script::addFileModules(m_run->engine());
     for (const char *name : {"a.jpg", "b.jpg", "c.jpg"})
         m_run->write(QString::fromLatin1(name), QString::fromLatin1(name));
 }
@@ -199,7 +199,7 @@ void TestSeamMoves::endsWhatWasInterrupted()
     const auto startAnew = [this] {
         m_run = nullptr;
         m_run = std::make_unique<ScriptRun>();
-        window::addFilesModule(m_run->engine());
+        script::addFileModules(m_run->engine());
     };
     qputenv("XDG_DATA_HOME", QFile::encodeName(place.filePath(QStringLiteral("data"))));
     for (const char *name : {"a", "b"})

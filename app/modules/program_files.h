@@ -2,10 +2,10 @@
 
 #include "files/services/file_service.h"
 
-namespace window {
+namespace script {
 
 /** The service of files with what takes more rooms than it may enter. */
-class WindowFiles : public files::FileService
+class ProgramFiles : public files::FileService
 {
     Q_OBJECT
 
@@ -16,4 +16,4 @@ public:
     Q_INVOKABLE QString setAsideUnusableDatabase(const QString &path) const;
 };
 
-} // namespace window
+} // namespace script
