@@ -64,11 +64,51 @@ SUB_ROOMS = {
         "imageio/comments": "foundation file imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/exif imageio/source",
         "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },
+    "image": {"": "", "services": "*"},
+    "files": {
+        "items": "",
+        "planning": "",
+        "moving": "planning",
+        "finishing": "",
+        "services": "items planning moving finishing",
+        "": "items",
+    },
+    "app": {
+        # Without a widget: all of these but the last two are what quorlin-script links.
+        "setup": "",
+        "network": "setup",
+        "printing": "",
+        "services": "setup network printing",
+        "seam": "",
+        "script": "setup services seam",
+        "modules": "seam script",
+        "preview": "",
+        # Windows.
+        "window/look": "",
+        "models": "window/look",
+        "window/controls": "window/look",
+        "window/folders": "window/look",
+        "window/log": "models window/look",
+        "window/manual": "window/look",
+        "window/panels": "",
+        "window/pictures": "models window/look",
+        "window/preview": "seam preview window/look",
+        "window/properties": "models",
+        "window/slots": "models window/look",
+        "window/forms": "seam window/look window/controls window/folders window/log window/manual window/pictures window/preview "
+                        "window/properties window/slots",
+        "window": "*",
+        "": "*",
+    },
 }
 # Qt modules by room. Nothing below views and app needs a widget, so that services run in a process without windows.
 SERVICE_QT = {"QtCore", "QtGui", "QtQml"}
 QT_MODULES = {room: SERVICE_QT for room in ("image", "files", "meta", "presets")}
-QT_MODULES.update({"text": {"QtCore"}, "platform": {"QtCore", "QtGui"}, "views": SERVICE_QT | {"QtWidgets"}})
+QT_MODULES.update({"text": {"QtCore"}, "platform": {"QtCore", "QtGui"}, "views": SERVICE_QT})
+# The same for sub-rooms of the room that has windows, and for the library that is linked where there are none.
+WITHOUT_WIDGETS = ("setup", "network", "printing", "services", "seam", "script", "modules", "preview", "models")
+QT_MODULES.update({f"app/{name}": SERVICE_QT | {"QtNetwork"} for name in WITHOUT_WIDGETS})
+QT_OF_TARGET = {"quorlin_script": SERVICE_QT | {"QtNetwork"}}
 
 # Third-party headers and targets, by the one room that may include or link them.
 THIRD_PARTY = [
@@ -151,10 +191,10 @@ def check_order(room):
             yield f"layering.py: {room}/{name} enters {room}/{other}, which does not stand above it"
 
 
-def check_foreign_include(room, name, modules):
+def check_foreign_include(room, name, modules, part=""):
     module = name.split("/")[0] if name.startswith("Qt") and "/" in name else modules.get(name)
     if module:
-        allowed = QT_MODULES.get(room)
+        allowed = QT_MODULES.get(f"{room}/{part}", QT_MODULES.get(room))
         return f"{room}/ may not use {module} ({name})" if allowed is not None and module not in allowed else None
     if re.fullmatch(r"[Qq][A-Za-z0-9]+(\.h)?", name) and not modules:
         return None
@@ -175,7 +215,8 @@ def check_includes(path, room, root, modules):
             continue
         if own and re.match(r"ui_\w+\.h", own):
             continue
-        fault = check_own_include(room, own, path, root) if own else check_foreign_include(room, foreign, modules)
+        fault = check_own_include(room, own, path, root) if own else \
+            check_foreign_include(room, foreign, modules, sub_room(room, path.relative_to(root).as_posix()))
         if fault:
             yield f"{path.relative_to(root)}:{text.count(chr(10), 0, match.start()) + 1}: {fault}"
 
@@ -231,6 +272,11 @@ def cmake_links(text):
                 yield name, word
 
 
+def may_link_qt(room, target, linked):
+    allowed = QT_OF_TARGET.get(target, QT_MODULES.get(room))
+    return allowed is None or not linked.startswith("Qt6::") or "Qt" + linked[5:] in allowed
+
+
 def check_links(room, path, root):
     for target, linked in cmake_links(tree.read(path)):
         fault = None
@@ -240,8 +286,10 @@ def check_links(room, path, root):
             fault = f"{linked} belongs to {LINK_TARGETS[linked]}/ only"
         elif linked.startswith("PkgConfig::") and linked not in LINK_TARGETS:
             fault = f"{linked} is not known to this check: say in layering.py which room may link it"
-        elif linked.startswith("Qt6::") and room in QT_MODULES and "Qt" + linked[5:] not in QT_MODULES[room]:
+        elif not may_link_qt(room, target, linked):
             fault = f"{room}/ may not link {linked}"
+        elif target in QT_OF_TARGET and linked == "quorlin_window":
+            fault = f"{target} may not link {linked}"
         if fault:
             yield f"{path.relative_to(root)}: {target}: {fault}"
 

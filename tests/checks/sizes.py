@@ -1,16 +1,19 @@
 #!/usr/bin/env python3
-"""sizes.py ROOT: how long functions and files are.
+"""sizes.py ROOT: how long functions and files are, and how many files stand side by side.
 
-Small on purpose: what is above the mark is listed for the next review, what is clearly above it fails.
+Small on purpose: what is above the mark is listed for the next review, what is clearly above it fails. A folder is a list
+of contents: more sources than can be read as one have sub-folders named for their topics.
 """
 import re
 import sys
+from collections import Counter
 from pathlib import Path
 
 import source_tree as tree
 
 FUNCTION_MARK, FUNCTION_LIMIT = 40, 60
 FILE_MARK, FILE_LIMIT = 400, 600
+FOLDER_LIMIT = 25
 
 CONTROL = re.compile(r"\b(if|for|while|switch|catch|do|else|try|return|namespace|class|struct|union|enum|extern)\b")
 # What may stand between the parentheses of a signature and its body.
@@ -80,11 +83,20 @@ def measure(root):
     return long_functions + long_files, lengths
 
 
+def crowded_folders(root):
+    """(folder, number of sources) for every folder with more of them side by side than the limit."""
+    sources = Counter(path.parent for path in tree.files(root, {".h", ".cpp", ".js", ".ui"}))
+    return sorted((str(folder.relative_to(root)), count) for folder, count in sources.items() if count > FOLDER_LIMIT)
+
+
 def main():
-    marked, lengths = measure(Path(sys.argv[1]).resolve())
+    root = Path(sys.argv[1]).resolve()
+    marked, lengths = measure(root)
     for size, limit, line in sorted(marked, reverse=True):
         print(f"for review: {line} (mark {FUNCTION_MARK if limit == FUNCTION_LIMIT else FILE_MARK})")
     problems = [f"{line}, the limit is {limit}" for size, limit, line in marked if size > limit]
+    problems += [f"{folder}: {count} sources side by side, the limit is {FOLDER_LIMIT}"
+                 for folder, count in crowded_folders(root)]
     if not lengths:
         problems.append("no function found")
     lengths.sort()

@@ -146,7 +146,24 @@ class Layering(Tree):
             with self.subTest(rows=rows), self.rows(rows):
                 self.assertIn("does not stand above it", "".join(self.faults()))
 
-    def test_knows_every_sub_room_of_the_platform_by_a_row_that_is_used(self):
+    def test_keeps_widgets_out_of_what_the_runner_links(self):
+        with mock.patch.dict(layering.SUB_ROOMS, clear=True):
+            for name, text, said in [
+                ("app/window/a.cpp", "#include <QWidget>\n", ""),
+                ("app/seam/a.cpp", "#include <QWidget>\n", "app/ may not use QtWidgets"),
+                ("app/CMakeLists.txt", "quorlin_library(quorlin_window SOURCES LINKS quorlin_script Qt6::Widgets)\n", ""),
+                ("app/CMakeLists.txt", "quorlin_library(quorlin_script SOURCES LINKS Qt6::Widgets)\n",
+                 "may not link Qt6::Widgets"),
+                ("app/CMakeLists.txt", "quorlin_library(quorlin_script SOURCES LINKS quorlin_window)\n",
+                 "quorlin_script may not link quorlin_window"),
+            ]:
+                with self.subTest(text=text):
+                    found = self.faults(name, text)
+                    self.assertEqual(len(found), 1 if said else 0, found)
+                    self.assertIn(said, "".join(found))
+                    (self.root / name).unlink()
+
+    def test_knows_every_sub_room_by_a_row_that_is_used(self):
         root = Path(__file__).resolve().parents[2]
         for room, rows in layering.SUB_ROOMS.items():
             for name in rows:
@@ -188,6 +205,17 @@ class Sizes(Tree):
                 answer, out = run_main(sizes, self.root)
                 self.assertEqual(answer, status, out)
                 self.assertIn(said, out)
+
+    def test_fails_on_a_folder_of_more_sources_than_a_list_of_contents_holds(self):
+        for number in range(sizes.FOLDER_LIMIT):
+            self.write(f"image/a{number}.cpp", "void f()\n{\n}\n")
+        self.write("image/more/b.cpp", "void f()\n{\n}\n")
+        self.write("image/CMakeLists.txt", "")
+        self.assertEqual(run_main(sizes, self.root)[0], 0)
+        self.write("image/c.ui", "")
+        answer, out = run_main(sizes, self.root)
+        self.assertEqual(answer, 1)
+        self.assertIn("image: 26 sources side by side, the limit is 25", out)
 
     def test_fails_on_a_file_that_is_clearly_too_long(self):
         self.write("image/a.cpp", "void f()\n{\n}\n" + "\n" * sizes.FILE_LIMIT)
