@@ -1,11 +1,11 @@
 #include "files/cNSFileHandling.h"
 
-#include "files/items/convert_type.h"
 #include "files/items/date_stamp.h"
 #include "files/items/make_folder.h"
 #include "files/items/placing.h"
 #include "files/items/rename_by_location.h"
 #include "files/items/text_files.h"
+#include "image/convert.h"
 
 #include "platform/controls/controls.h"
 #include "platform/desktop/custom_icon.h"
@@ -194,7 +194,7 @@ QVariantList cNSFileHandling::hConvertFileType(const QString &source, const QStr
                                                const QString &destination)
 {
     saveURL = QUrl::fromLocalFile(destination);
-    if (const auto target = files::targetTypeFor(type))
-        (void)files::convertFile({source, *target, files::conversionQuality(qualityCode), destination});
+    if (const auto target = image::targetTypeFor(type))
+        (void)image::convertFile({source, *target, image::conversionQuality(qualityCode), destination});
     return {saveURL, type, platform::baseName(source)};
 }

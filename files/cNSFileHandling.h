@@ -136,7 +136,7 @@ public:
     Q_INVOKABLE QByteArray readNSDataFromFile(const QString &path);
 
     /**
-     * Writes image 0 of a picture file as another type; see files::convertFile().
+     * Writes image 0 of a picture file as another type; see image::convertFile().
      *
      * @param type         "pdf", "png", "tiff", "bmp", "gif", "jpeg" or "jp2", letter for letter; nothing is written for
      *                     any other text

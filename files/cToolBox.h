@@ -112,7 +112,7 @@ public:
 
     /**
      * Asks where to save a picture, and writes it there as the type and with the quality that the menus of pubFileType and
-     * pubJPEGcompression say when the panel closes, by the rules of files::convertFile().
+     * pubJPEGcompression say when the panel closes, by the rules of image::convertFile().
      *
      * The panel starts in the Desktop folder with the source's name, shows wwFormats, and takes files of the chosen type only.
      * Where the user default "MOS" is "109+" it also asks for tags, which are set on the file.

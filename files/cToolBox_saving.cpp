@@ -1,8 +1,8 @@
 #include "files/cToolBox.h"
 
-#include "files/items/convert_type.h"
 #include "files/items/saving.h"
 #include "files/items/text_files.h"
+#include "image/convert.h"
 
 #include "platform/controls/controls.h"
 #include "platform/controls/save_panel.h"
@@ -67,8 +67,8 @@ QVariant cToolBox::hSaveDialogFile(const QString &source)
     myCompType = platform::selectedTitleOf(pubJPEGcompression);
     if (asksForTags)
         tagNames = answer.tags;
-    if (const auto target = files::targetTypeFor(myFileType))
-        (void)files::convertFile({source, *target, files::conversionQuality(myCompType), path});
+    if (const auto target = image::targetTypeFor(myFileType))
+        (void)image::convertFile({source, *target, image::conversionQuality(myCompType), path});
     if (asksForTags)
         (void)platform::setTags(path, answer.tags);
     return QVariantList{QUrl::fromLocalFile(path), myFileType, platform::baseName(source)};

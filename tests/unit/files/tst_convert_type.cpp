@@ -1,5 +1,5 @@
 #include "files/cNSFileHandling.h"
-#include "files/items/convert_type.h"
+#include "image/convert.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/source/image_source.h"
 #include "tests/support/corpus.h"
@@ -13,7 +13,7 @@
 
 #include <sys/inotify.h>
 
-using files::TargetType;
+using image::TargetType;
 using platform::Bitmap;
 using platform::ImageSource;
 
@@ -174,19 +174,19 @@ void TestConvertType::init()
 void TestConvertType::knowsTheKeywordsLetterForLetter()
 {
     for (const char *type : allTypes)
-        QVERIFY(files::targetTypeFor(QString::fromUtf8(type)).has_value());
+        QVERIFY(image::targetTypeFor(QString::fromUtf8(type)).has_value());
     for (const char *text : {"", "jpg", "tif", "PNG", "jpeg ", " jpeg", "jpeg2000", "public.png", "psd"})
-        QVERIFY2(!files::targetTypeFor(QString::fromUtf8(text)).has_value(), text);
-    QVERIFY(!files::targetTypeFor(QString()).has_value());
+        QVERIFY2(!image::targetTypeFor(QString::fromUtf8(text)).has_value(), text);
+    QVERIFY(!image::targetTypeFor(QString()).has_value());
 }
 
 void TestConvertType::knowsTheQualities()
 {
     for (int code = 1; code <= 8; ++code)
-        QCOMPARE(files::conversionQuality(QString::number(code)), code / 10.0);
+        QCOMPARE(image::conversionQuality(QString::number(code)), code / 10.0);
     for (const char *code : {"", "0", "9", "10", "08", "8 ", "1.0", "best", "-1"})
-        QCOMPARE(files::conversionQuality(QString::fromUtf8(code)), 0.9);
-    QCOMPARE(files::conversionQuality(QString()), 0.9);
+        QCOMPARE(image::conversionQuality(QString::fromUtf8(code)), 0.9);
+    QCOMPARE(image::conversionQuality(QString()), 0.9);
 }
 
 void TestConvertType::answersTheListInEveryCase()

@@ -1,4 +1,4 @@
-#include "files/items/convert_type.h"
+#include "image/convert.h"
 
 #include "platform/file/atomic_file.h"
 #include "platform/imageio/convert/jpeg_straight.h"
@@ -8,7 +8,7 @@
 
 #include <array>
 
-namespace files {
+namespace image {
 namespace {
 
 using platform::Bitmap;
@@ -139,4 +139,4 @@ Result<void> convertFile(const Conversion &conversion)
     });
 }
 
-} // namespace files
+} // namespace image

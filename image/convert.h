@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace files {
+namespace image {
 
 /** What a picture can be converted to. */
 enum class TargetType { Pdf, Png, Tiff, Bmp, Gif, Jpeg, Jpeg2000 };
@@ -39,4 +39,4 @@ struct Conversion
  */
 platform::Result<void> convertFile(const Conversion &conversion);
 
-} // namespace files
+} // namespace image
