@@ -7,7 +7,9 @@ foreach(program quorlin quorlin-script)
   endif()
 endforeach()
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/interface DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin
-  PATTERN "*.qrc" EXCLUDE PATTERN "CMakeLists.txt" EXCLUDE)
+  PATTERN "*.qrc" EXCLUDE PATTERN "CMakeLists.txt" EXCLUDE PATTERN "quorlin_*.ts" EXCLUDE)
+install(DIRECTORY ${CMAKE_BINARY_DIR}/texts DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin/interface
+  FILES_MATCHING PATTERN "quorlin_*.qm")
 # The manual stands beside the interface as in the source tree, with the pictures that it shows.
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/manual ${CMAKE_SOURCE_DIR}/docs/screenshots
   DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin/docs FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
@@ -30,7 +32,9 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# What no library of the programs names: icons and some old TIFFs are read through plugins, letters need a font.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, qt6-image-formats-plugins, fonts-dejavu-core | fonts-freefont-ttf, hicolor-icon-theme")
+# What no library of the programs names: icons and some old TIFFs are read through plugins, letters need a font, the toolkit's
+# dialogs their translations.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS
+  "libqt6svg6, qt6-image-formats-plugins, qt6-translations-l10n, fonts-dejavu-core | fonts-freefont-ttf, hicolor-icon-theme")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
 include(CPack)

@@ -2,6 +2,7 @@
 #include "app/script/ScriptEngine.h"
 #include "app/script/runner_globals.h"
 #include "app/script/script_output.h"
+#include "app/setup/translations.h"
 
 #include "platform/foundation/log.h"
 
@@ -104,5 +105,6 @@ int main(int argc, char **argv)
     int count = platform.isEmpty() ? 1 : 3;
     QGuiApplication application(count, applicationArguments.data());
     QCoreApplication::setApplicationName(QStringLiteral("quorlin"));
+    const app::Translations english(QStringLiteral("en"));
     return runScript(file, arguments);
 }

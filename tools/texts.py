@@ -1,11 +1,10 @@
 #!/usr/bin/env python3
-"""texts.py extract SOURCE FILE | check SOURCE | update SOURCE: the texts that users read, and their translations.
+"""texts.py extract SOURCE FILE.ts | check SOURCE | update SOURCE: the texts that users read, and their translations.
 
-extract  collects the texts of scripts, forms and C++ into FILE (JSON: {context: {text: [places]}}).
-check    holds the tables of interface/texts against each other and against the texts: nothing is missing or unused, and the
-         places for values are the same in every language. What still waits to be translated is counted, not a problem, as
-         long as a language has no Interface.json; from then on every text must be in it.
-update   adds the texts that a language's Interface.json lacks, as null, and takes away those that nobody uses.
+extract  collects the texts of scripts, forms and C++ into FILE.ts.
+check    holds the translations, interface/texts/quorlin_*.ts, against the texts, and the tables of services against each
+         other: nothing is missing, unfinished or unused, and the places for values are the same in every language.
+update   adds the texts that a translation lacks, unfinished, and takes away those that nobody uses.
 
 Needs lupdate of Qt, which cannot read modules: it gets copies of the scripts with "import" and "export" blanked.
 """
@@ -24,7 +23,8 @@ MODULE_WORDS = re.compile(r"^(\s*)(import\b[^;]*;|export\s+default\b|export\b)",
 # What lupdate says of C++ that it need not understand.
 HARMLESS = ("Ignoring definition of undeclared qualified class", "Discarding unconsumed meta data")
 # %1, %2 ..., %n, and the %@ of keys that services fill.
-PLACES = re.compile(r"%(?:L?[1-9]|n|@)")
+PLACES = re.compile(r"%(?:L?[1-9]|L?n|@)")
+COUNTS = ("%n", "%Ln")
 
 
 def without_modules(text):
@@ -51,23 +51,44 @@ def copied_sources(root, work):
         yield target
 
 
-def extracted(root):
-    """{context: {text: ["file:line", ...]}}, and what lupdate complained about."""
+def collect(root, *runs):
+    """Runs lupdate over the texts with each list of options; what it complained about."""
+    complaints = []
     with tempfile.TemporaryDirectory() as folder:
         work = Path(folder)
         names = work / "sources.lst"
         names.write_text("\n".join(str(path) for path in copied_sources(root, work)), encoding="utf-8")
-        run = subprocess.run([lupdate(), "-silent", "-locations", "absolute", "-I", str(work), f"@{names}", "-ts", str(work / "all.ts")],
-                             capture_output=True, text=True)
-        if run.returncode != 0:
-            sys.exit(f"texts: lupdate failed: {run.stderr}")
-        contexts = {}
-        for context in ElementTree.parse(work / "all.ts").getroot().iter("context"):
-            texts = contexts.setdefault(context.findtext("name"), {})
-            for message in context.iter("message"):
-                places = [f"{Path(each.get('filename')).as_posix()}:{each.get('line')}" for each in message.iter("location")]
-                texts[message.findtext("source")] = places
-        return contexts, [line for line in run.stderr.splitlines() if line.strip() and not any(word in line for word in HARMLESS)]
+        for options in runs:
+            run = subprocess.run([lupdate(), "-silent", "-no-obsolete", "-locations", "none", "-source-language", "en", "-I", str(work),
+                                  f"@{names}", *options], capture_output=True, text=True)
+            if run.returncode != 0:
+                sys.exit(f"texts: lupdate failed: {run.stderr}")
+            complaints += [line for line in run.stderr.splitlines() if line.strip() and not any(word in line for word in HARMLESS)]
+    return complaints
+
+
+def extracted(root):
+    """The messages of all texts, and what lupdate complained about."""
+    with tempfile.TemporaryDirectory() as folder:
+        all_texts = Path(folder) / "all.ts"
+        complaints = collect(root, ["-ts", str(all_texts)])
+        return messages(all_texts), complaints
+
+
+def messages(path):
+    """{"context: text": (text, forms of the translation or None, has a count)} of a .ts file."""
+    found = {}
+    for context in ElementTree.parse(path).getroot().iter("context"):
+        for message in context.iter("message"):
+            text, made = message.findtext("source"), message.find("translation")
+            has_count = message.get("numerus") == "yes"
+            forms = [form.text or "" for form in made.iter("numerusform")] if has_count else [made.text or ""]
+            found[f"{context.findtext('name')}: {text}"] = (text, None if made.get("type") else forms, has_count)
+    return found
+
+
+def translation(root, language):
+    return root / "interface/texts" / f"quorlin_{language}.ts"
 
 
 def table(root, language, name):
@@ -95,7 +116,7 @@ def compare_texts(where, base, other):
 
 def check_tables(root):
     """The tables of services, in which each language has each key."""
-    names = sorted({path.stem for path in (root / "interface/texts").rglob("*.json")} - {"Interface"})
+    names = sorted({path.stem for path in (root / "interface/texts").rglob("*.json")})
     problems = []
     for name in names:
         base = table(root, "en", name)
@@ -123,46 +144,54 @@ def check_keys(root):
             if key not in used]
 
 
-def check_interface(root, contexts):
-    """The translations of scripts, forms and C++: whole where a language has any."""
-    problems, waiting = [], []
-    base = {f"{context}: {text}": text for context, texts in contexts.items() for text in texts}
-    for language in LANGUAGES[1:]:
-        there = table(root, language, "Interface")
-        if there is None:
-            waiting.append(language)
-            continue
-        flat = {f"{context}: {text}": value for context, texts in there.items() for text, value in texts.items()}
-        problems += compare_texts(f"{language}/Interface.json", base, flat)
-    return problems, waiting
+def fault_of(text, forms, has_count):
+    """What is wrong with a finished translation. Each of our languages has two forms; the one for 1 need not tell the number."""
+    if len(forms) != (2 if has_count else 1):
+        return "lacks a form" if len(forms) < 2 else "has a form too many"
+    if not all(forms):
+        return "is empty"
+    wanted, found = places_of(text), [places_of(form) for form in forms]
+    uncounted = [place for place in wanted if place not in COUNTS]
+    if found[-1] != wanted or found[0] != wanted and not (has_count and found[0] == uncounted):
+        return "has other places for values than in English"
+    return ""
+
+
+def check_translation(path, base):
+    """A translation beside all texts; of English only those with counts."""
+    if not path.exists():
+        return [f"{path.name} is missing"]
+    there = messages(path)
+    problems = [f"{path.name}: lacks {key}" for key in base if key not in there]
+    problems += [f"{path.name}: nobody uses {key}" for key in there if key not in base]
+    for key, (text, forms, has_count) in there.items():
+        fault = "is unfinished" if forms is None else fault_of(text, forms, has_count)
+        if fault:
+            problems.append(f"{path.name}: {fault}: {key}")
+    return problems
 
 
 def check(root):
-    contexts, complaints = extracted(root)
+    texts, complaints = extracted(root)
     problems, names = check_tables(root)
     problems += check_keys(root) + [f"lupdate: {line}" for line in complaints]
-    more, waiting = check_interface(root, contexts)
-    problems += more
-    count = sum(len(texts) for texts in contexts.values())
-    if count == 0 or not names:
+    counts = {key: message for key, message in texts.items() if message[2]}
+    for language in LANGUAGES:
+        problems += check_translation(translation(root, language), counts if language == "en" else texts)
+    if not texts or not names:
         problems.append("no texts found")
     for problem in problems:
         print(problem)
-    state = f", not yet translated: {' '.join(waiting)}" if waiting else ""
-    print(f"{len(problems)} problems" if problems else f"{count} texts in {len(contexts)} contexts{state}; tables: {' '.join(names)}")
+    print(f"{len(problems)} problems" if problems else f"{len(texts)} texts, {len(counts)} of them with counts; tables: {' '.join(names)}")
     return 1 if problems else 0
 
 
 def update(root):
-    contexts, _ = extracted(root)
-    for language in LANGUAGES[1:]:
-        old = table(root, language, "Interface") or {}
-        new = {context: {text: old.get(context, {}).get(text) for text in sorted(texts)}
-               for context, texts in sorted(contexts.items())}
-        path = root / "interface/texts" / language / "Interface.json"
-        path.write_text(json.dumps(new, ensure_ascii=False, indent=1) + "\n", encoding="utf-8")
-        missing = sum(value is None for texts in new.values() for value in texts.values())
-        print(f"{path.relative_to(root)}: {missing} texts wait for their translation")
+    others = [str(translation(root, language)) for language in LANGUAGES if language != "en"]
+    collect(root, ["-ts", *others], ["-pluralonly", "-ts", str(translation(root, "en"))])
+    for language in LANGUAGES:
+        waiting = sum(forms is None for _, forms, _ in messages(translation(root, language)).values())
+        print(f"{translation(root, language).relative_to(root)}: {waiting} texts wait for their translation")
     return 0
 
 
@@ -172,9 +201,8 @@ def main():
         return 2
     root = Path(sys.argv[2]).resolve()
     if sys.argv[1] == "extract":
-        contexts, _ = extracted(root)
-        Path(sys.argv[3]).write_text(json.dumps(contexts, ensure_ascii=False, indent=1, sort_keys=True) + "\n", encoding="utf-8")
-        print(f"{sum(len(texts) for texts in contexts.values())} texts in {len(contexts)} contexts")
+        Path(sys.argv[3]).unlink(missing_ok=True)
+        collect(root, ["-ts", sys.argv[3]])
         return 0
     return check(root) if sys.argv[1] == "check" else update(root)
 

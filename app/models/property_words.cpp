@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <limits>
 
 namespace window {
 namespace {
@@ -23,6 +24,12 @@ QString number(double value)
     constexpr int digits = 6;
     const bool whole = std::trunc(value) == value && std::abs(value) < 1e15;
     return whole ? QString::number(qint64(value)) : QLocale().toString(value, 'g', digits);
+}
+
+/** A count of pixels or bits; files that state nonsense are not counted in. */
+int countOf(double value)
+{
+    return value >= 0 && value <= std::numeric_limits<int>::max() ? int(value) : 0;
 }
 
 /** "1/250 s" for less than a third of a second, "0.5 s" for more. */
@@ -202,11 +209,15 @@ QString withUnit(const QString &key, double value, const QVariantMap &group)
         {QStringLiteral("ImgDirection"), [](double degrees) { return number(degrees) + u'°'; }},
         {QStringLiteral("DestBearing"), [](double degrees) { return number(degrees) + u'°'; }},
         {QStringLiteral("PixelWidth"),
-         [](double pixels) { return translated(QT_TRANSLATE_NOOP("properties", "%1 pixels")).arg(number(pixels)); }},
+         [](double pixels) {
+             return QCoreApplication::translate("properties", "%n pixels", nullptr, countOf(pixels));
+         }},
         {QStringLiteral("PixelHeight"),
-         [](double pixels) { return translated(QT_TRANSLATE_NOOP("properties", "%1 pixels")).arg(number(pixels)); }},
+         [](double pixels) {
+             return QCoreApplication::translate("properties", "%n pixels", nullptr, countOf(pixels));
+         }},
         {QStringLiteral("Depth"),
-         [](double bits) { return translated(QT_TRANSLATE_NOOP("properties", "%1 bits")).arg(number(bits)); }},
+         [](double bits) { return QCoreApplication::translate("properties", "%n bits", nullptr, countOf(bits)); }},
         {QStringLiteral("DelayTime"), seconds},
         {QStringLiteral("Orientation"), orientation},
         {QStringLiteral("Flash"), flash},
@@ -238,8 +249,7 @@ QString propertyWords(const QString &key, const QVariant &value, const QVariantM
         return words.join(QStringLiteral(", "));
     }
     case QMetaType::QByteArray:
-        return translated(QT_TRANSLATE_NOOP("properties", "%1 bytes"))
-            .arg(QLocale().toString(value.toByteArray().size()));
+        return QCoreApplication::translate("properties", "%Ln bytes", nullptr, int(value.toByteArray().size()));
     case QMetaType::Bool:
         return value.toBool() ? translated(QT_TRANSLATE_NOOP("properties", "yes"))
                               : translated(QT_TRANSLATE_NOOP("properties", "no"));

@@ -32,7 +32,7 @@ QString SlotRows::spoken(const Slot &slot) const
     const QString key = QKeySequence(slot.key).toString(QKeySequence::NativeText);
     QStringList parts = {tr("%1: %2").arg(key, slot.label)};
     if (slot.count > 0)
-        parts.append(slot.count == 1 ? tr("1 picture") : tr("%1 pictures").arg(slot.count));
+        parts.append(tr("%n pictures", nullptr, slot.count));
     if (!slot.problem.isEmpty())
         parts.append(slot.problem);
     return parts.join(QStringLiteral(", "));

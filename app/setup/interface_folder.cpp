@@ -6,6 +6,17 @@
 
 namespace window {
 
+namespace {
+
+// Anybody may make the folder of a build on another machine, so only a program within its build looks into it and its source.
+bool isInItsBuild(const QString &programFolder)
+{
+    const QString build = QFileInfo(QStringLiteral(QUORLIN_BUILD_FOLDER)).canonicalFilePath();
+    return !build.isEmpty() && QFileInfo(programFolder).canonicalFilePath().startsWith(build + u'/');
+}
+
+} // namespace
+
 QString interfaceFolder()
 {
     const QString said = qEnvironmentVariable("QUORLIN_INTERFACE");
@@ -20,10 +31,15 @@ QString interfaceFolderOf(const QString &programFolder)
     const QString installed = QDir::cleanPath(program.filePath(QStringLiteral("../share/quorlin/interface")));
     if (QFileInfo::exists(installed + QStringLiteral("/main.js")))
         return installed;
-    // Anybody may make the folder of a build on another machine, so only a program within its build looks into its source.
-    const QString build = QFileInfo(QStringLiteral(QUORLIN_BUILD_FOLDER)).canonicalFilePath();
-    const bool isInBuild = !build.isEmpty() && QFileInfo(program.path()).canonicalFilePath().startsWith(build + u'/');
-    return isInBuild ? QStringLiteral(QUORLIN_SOURCE_INTERFACE) : installed;
+    return isInItsBuild(programFolder) ? QStringLiteral(QUORLIN_SOURCE_INTERFACE) : installed;
+}
+
+QString translationFile(const QString &language)
+{
+    const QString name = QStringLiteral("/texts/quorlin_%1.qm").arg(language);
+    const QString installed = interfaceFolder() + name;
+    const bool isBuilt = !QFileInfo::exists(installed) && isInItsBuild(QCoreApplication::applicationDirPath());
+    return isBuilt ? QStringLiteral(QUORLIN_BUILD_FOLDER) + name : installed;
 }
 
 } // namespace window

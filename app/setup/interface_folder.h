@@ -13,4 +13,10 @@ QString interfaceFolder();
 /** The same without the variable, for a program in @p programFolder. What is answered need not be there. */
 QString interfaceFolderOf(const QString &programFolder);
 
+/**
+ * The compiled translation into @p language, "quorlin_de.qm": among the texts of the interface folder where it is installed,
+ * else, for a program within the folder that it was built in, that of the build. It need not be there.
+ */
+QString translationFile(const QString &language);
+
 } // namespace window

@@ -4,9 +4,9 @@
 #include "app/script/ScriptEngine.h"
 #include "app/setup/configuration.h"
 #include "app/setup/interface_folder.h"
+#include "app/setup/translations.h"
 #include "app/window/forms/widget_controls.h"
 #include "app/window/look/icons.h"
-#include "app/window/look/interface_texts.h"
 #include "app/window/look/theme.h"
 #include "app/window/panels/dialog_panels.h"
 #include "app/window/script_modules.h"
@@ -28,7 +28,7 @@ StartUp::StartUp(QApplication &application)
     QCoreApplication::setApplicationVersion(QStringLiteral(QUORLIN_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.brelmark.Quorlin"));
     const QString folder = interfaceFolder();
-    useLanguage(folder);
+    useLanguage();
     setIconsOf(folder);
     m_theme = std::make_unique<Theme>(application, folder + QStringLiteral("/themes"));
     m_shell = std::make_unique<Shell>(folder, *m_theme);
@@ -42,14 +42,11 @@ StartUp::StartUp(QApplication &application)
                      [](const QString &message) { platform::logLine(message); });
 }
 
-void StartUp::useLanguage(const QString &folder)
+void StartUp::useLanguage()
 {
     app::useTexts();
     QLocale::setDefault(app::wantedLocale());
-    m_texts = std::make_unique<InterfaceTexts>();
-    if (m_texts->read(folder + QStringLiteral("/texts/") + platform::languageOfTexts() +
-                      QStringLiteral("/Interface.json")))
-        QCoreApplication::installTranslator(m_texts.get());
+    m_translations = std::make_unique<app::Translations>(platform::languageOfTexts());
 }
 
 // The windows go first: their controls still hold functions of the scripts.

@@ -7,13 +7,16 @@
 
 class QApplication;
 
+namespace app {
+class Translations;
+}
+
 namespace script {
 class ScriptEngine;
 }
 
 namespace window {
 
-class InterfaceTexts;
 class Shell;
 class Theme;
 
@@ -38,10 +41,10 @@ public:
     script::ScriptEngine &scripts() { return *m_scripts; }
 
 private:
-    void useLanguage(const QString &folder);
+    void useLanguage();
 
     QString m_problem;
-    std::unique_ptr<InterfaceTexts> m_texts;
+    std::unique_ptr<app::Translations> m_translations;
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<Shell> m_shell;
     std::unique_ptr<script::ScriptEngine> m_scripts;

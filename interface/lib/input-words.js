@@ -1,9 +1,10 @@
 // What the list holds, in words: pictures, files of any kind, or folders. Pure but for translation; no service is used.
 
-import { count, fill, pictures } from "./wording.js";
+import { fill, pictures } from "./wording.js";
 
+// A single file is named.
 function leftOut(found, one, many) {
-    return found.leftOut === 1 ? fill(one, found.example) : fill(many, found.leftOut);
+    return found.leftOut === 1 ? fill(one, found.example) : many;
 }
 
 const WORDS = {
@@ -16,32 +17,33 @@ const WORDS = {
         text: () => qsTr("Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise."),
         leftOut: (found) =>
             leftOut(found, qsTr("“%1” is not a picture that can be taken"),
-                    qsTr("%1 files are not pictures that can be taken")),
+                    qsTr("%n files are not pictures that can be taken", "", found.leftOut)),
         hidden: (number) =>
-            count(number, qsTr("1 other file of the list is not a picture that can be taken"),
-                  qsTr("%1 other files of the list are not pictures that can be taken")),
+            qsTr("%n other files of the list are not pictures that can be taken", "", number),
     },
     files: {
-        count: (number) => count(number, qsTr("1 file"), qsTr("%1 files")),
+        count: (number) => qsTr("%n files", "", number),
         none: () => qsTr("No files yet"),
         nothing: () => qsTr("No files there"),
         add: () => qsTr("Add Files…"),
         title: () => qsTr("Drop files or folders here"),
         text: () => qsTr("Then say on the right what is to become of them. You see everything before it happens, and can undo it afterwards."),
-        leftOut: (found) => leftOut(found, qsTr("“%1” cannot be taken"), qsTr("%1 files cannot be taken")),
+        leftOut: (found) => leftOut(found, qsTr("“%1” cannot be taken"),
+                                    qsTr("%n files cannot be taken", "", found.leftOut)),
         hidden: (number) =>
-            count(number, qsTr("1 folder of the list is left out"), qsTr("%1 folders of the list are left out")),
+            qsTr("%n folders of the list are left out", "", number),
     },
     folders: {
-        count: (number) => count(number, qsTr("1 folder"), qsTr("%1 folders")),
+        count: (number) => qsTr("%n folders", "", number),
         none: () => qsTr("No folders yet"),
         nothing: () => qsTr("No folders there"),
         add: () => qsTr("Add Folder…"),
         title: () => qsTr("Drop folders here"),
         text: () => qsTr("The folders themselves are worked on; what is in them stays in them."),
-        leftOut: (found) => leftOut(found, qsTr("“%1” is not a folder"), qsTr("%1 files are not folders")),
+        leftOut: (found) => leftOut(found, qsTr("“%1” is not a folder"),
+                                    qsTr("%n files are not folders", "", found.leftOut)),
         hidden: (number) =>
-            count(number, qsTr("1 file of the list is left out"), qsTr("%1 files of the list are left out")),
+            qsTr("%n files of the list are left out", "", number),
     },
 };
 

@@ -5,13 +5,8 @@ export function fill(text, ...values) {
     return text.replace(/%([1-9])/g, (place, number) => (number <= values.length ? String(values[number - 1]) : place));
 }
 
-/** One of two texts, by number; %1 in it becomes the number. */
-export function count(number, one, many) {
-    return fill(number === 1 ? one : many, number);
-}
-
 export function pictures(number) {
-    return count(number, qsTr("1 picture"), qsTr("%1 pictures"));
+    return qsTr("%n pictures", "", number);
 }
 
 /** "4032×3024". */
@@ -43,5 +38,5 @@ export function statusKind(status) {
 
 /** "2 problems". */
 export function problemsText(number) {
-    return count(number, qsTr("1 problem"), qsTr("%1 problems"));
+    return qsTr("%n problems", "", number);
 }

@@ -10,7 +10,7 @@ import { PresetStore } from "./preset-store.js";
 import { FIELDS, fileText, freeName, rowOf, rowsOfFile, storedName } from "./presets.js";
 import { writeStartingPresets } from "./starting-presets.js";
 import { keep, recall } from "../lib/store.js";
-import { count, fill } from "../lib/wording.js";
+import { fill } from "../lib/wording.js";
 
 const FILE_TYPE = "c-action";
 // Each waits for the disk: a few are brought in at once, and many while the window goes on.
@@ -319,8 +319,8 @@ export class PresetPane {
         const work = this.store.bringingIn(read.rows);
         this.importing.start(work,
                              guard("presets.import",
-                                   (stored) => this.say(fill(qsTr("%1 of %2 presets imported"), stored,
-                                                             read.rows.length))),
+                                   (stored) => this.say(fill(qsTr("%1 of %n presets imported", "", read.rows.length),
+                                                             stored))),
                              guard("presets.imported", (how, value) => this.importEnded(how, value, read)));
     }
 
@@ -345,10 +345,9 @@ export class PresetPane {
     }
 
     broughtInText(done, own) {
-        const parts = [count(done.names.length, qsTr("1 preset imported"), qsTr("%1 presets imported"))];
+        const parts = [qsTr("%n presets imported", "", done.names.length)];
         if (done.renamed > 0) {
-            parts.push(count(done.renamed, qsTr("1 renamed, its name was taken"),
-                             qsTr("%1 renamed, their names were taken")));
+            parts.push(qsTr("%n renamed, their names were taken", "", done.renamed));
         }
         if (own === 0) {
             parts.push(qsTr("none for this action"));

@@ -284,7 +284,7 @@ export function nameProblem(text, taken) {
         return qsTr("A name cannot have line breaks or control characters in it.");
     }
     if (name.length > LONGEST_NAME) {
-        return fill(qsTr("A name can have up to %1 characters."), LONGEST_NAME);
+        return qsTr("A name can have up to %n characters.", "", LONGEST_NAME);
     }
     const other = taken.find((known) => sameName(known, name));
     return other === undefined ? "" : fill(qsTr("There is a preset named %1 already."), other);
@@ -369,5 +369,5 @@ export function rowsOfFile(text) {
     const lost = content.presets.length - rows.length;
     return { rows: rows,
              problem: lost === 0
-                 ? "" : fill(qsTr("%1 of %2 presets in this file cannot be used."), lost, content.presets.length) };
+                 ? "" : fill(qsTr("%1 of %n presets in this file cannot be used.", "", content.presets.length), lost) };
 }

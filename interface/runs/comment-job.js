@@ -5,7 +5,7 @@ import { shell } from "quorlin/shell";
 import { editRow, editsOf } from "./comment-run.js";
 import { guard } from "../lib/guard.js";
 import { appendRows, newRunName, trimRows } from "./log-file.js";
-import { count } from "../lib/wording.js";
+
 
 export class CommentJob {
     constructor() {
@@ -58,15 +58,15 @@ export class CommentJob {
 export function commentSummary(work, done) {
     const left = work.tried - work.done;
     const parts = [done]
-        .concat(left > 0 ? [count(left, qsTr("1 problem"), qsTr("%1 problems")), work.first] : [],
+        .concat(left > 0 ? [qsTr("%n problems", "", left), work.first] : [],
                 work.problem ? [work.problem] : []);
     return (work.cancelled ? qsTr("Stopped:") + " " : "") + parts.join(" · ");
 }
 
 export function commentsWritten(number) {
-    return count(number, qsTr("1 comment written"), qsTr("%1 comments written"));
+    return qsTr("%n comments written", "", number);
 }
 
 export function commentsReverted(number) {
-    return count(number, qsTr("1 comment reverted"), qsTr("%1 comments reverted"));
+    return qsTr("%n comments reverted", "", number);
 }

@@ -4,7 +4,7 @@
 import { splitPath } from "../lib/names.js";
 import { logRow } from "./report.js";
 import { expand, needsFacts, parse, problems, tokens } from "../lib/tokens.js";
-import { count, fill } from "../lib/wording.js";
+import { fill } from "../lib/wording.js";
 
 // Stands for any picture where there is none yet.
 const MADE_UP = { path: "/IMG_4711.JPG",
@@ -78,13 +78,11 @@ export function writeComment(comments, path, comment) {
 
 /** What is said of pages that go, or would go. */
 export function pagesGone(pages) {
-    return count(pages, qsTr("1 further page was taken out and does not come back."),
-                 qsTr("%1 further pages were taken out and do not come back."));
+    return qsTr("%n further pages were taken out and do not come back.", "", pages);
 }
 
 function pagesInTheWay(pages) {
-    return count(pages, qsTr("It has 1 further page, which would be lost."),
-                 qsTr("It has %1 further pages, which would be lost."));
+    return qsTr("It has %n further pages, which would be lost.", "", pages);
 }
 
 // A file that lost its further pages says how many.
@@ -150,7 +148,7 @@ export function pagesAtStake(comments, paths) {
     const named = found.slice(0, MOST_NAMED).map((each) => fill(qsTr("%1 (%2)"), each.name, each.pages));
     const rest = found.length - named.length;
     return { files: found.length, pages: found.reduce((sum, each) => sum + each.pages, 0),
-             words: named.concat(rest > 0 ? [count(rest, qsTr("1 more file"), qsTr("%1 more files"))] : [])
+             words: named.concat(rest > 0 ? [qsTr("%n more files", "", rest)] : [])
              .join(", ") };
 }
 

@@ -10,7 +10,7 @@ import { logRow } from "./report.js";
 import { retryRows } from "./retry.js";
 import { DiskNeeds, roomText } from "./room.js";
 import { undoAction, undoing, undoRow, unableSteps } from "./undo-run.js";
-import { count, fill, problemsText, statusKind, statusText } from "../lib/wording.js";
+import { fill, problemsText, statusKind, statusText } from "../lib/wording.js";
 import { showPlan } from "./live-moves.js";
 import { BaseRun } from "./run-base.js";
 import { shell } from "quorlin/shell";
@@ -357,7 +357,7 @@ export class MoveRun extends BaseRun {
         const isOther = run.title !== action.title();
         const own = () => (run.undoes ? action.undone(run.done, null) : action.done(run.done, null));
         const words = isOther
-            ? fill(qsTr("%1, %2"), run.title, count(run.done, qsTr("1 file"), qsTr("%1 files"))) : own();
+            ? fill(qsTr("%1, %2"), run.title, qsTr("%n files", "", run.done)) : own();
         return fill(qsTr("Last run: %1, %2"), words, problemsText(Math.max(0, run.count - run.done)));
     }
 

@@ -1,6 +1,6 @@
 // The manner of actions that move files through the move engine, and can be undone.
 
-import { count, fill } from "../lib/wording.js";
+import { fill } from "../lib/wording.js";
 import { LiveMoves } from "./live-moves.js";
 import { MoveRun } from "./move-run.js";
 
@@ -24,13 +24,13 @@ function startNote(window) {
     }
     const parts = [fill(qsTr("%1 ready"), planned.ready)];
     if (planned.attention > 0) {
-        parts.push(count(planned.attention, qsTr("1 needs attention"), qsTr("%1 need attention")));
+        parts.push(qsTr("%n need attention", "", planned.attention));
     }
     if (planned.same > 0) {
-        parts.push(count(planned.same, qsTr("1 stays as it is"), qsTr("%1 stay as they are")));
+        parts.push(qsTr("%n stay as they are", "", planned.same));
     }
     if (planned.along > 0) {
-        parts.push(count(planned.along, qsTr("1 goes along"), qsTr("%1 go along")));
+        parts.push(qsTr("%n go along", "", planned.along));
     }
     return parts.concat(planned.ready > 0 ? [qsTr("can be undone")] : []).join(" · ");
 }

@@ -2,23 +2,17 @@
 
 import { fill } from "../lib/wording.js";
 
-function counted(count, one, many) {
-    return count === 1 ? one : many.replace("%1", String(count));
-}
-
 /** One run in words: what became of its items. */
 export function recoveredText(run) {
     const parts = [];
     if (run.done + run.finished > 0) {
-        parts.push(counted(run.done + run.finished, qsTr("1 item has its new name"),
-                           qsTr("%1 items have their new names")));
+        parts.push(qsTr("%n items have their new names", "", run.done + run.finished));
     }
     if (run.takenBack > 0) {
-        parts.push(counted(run.takenBack, qsTr("1 item was taken back"), qsTr("%1 items were taken back")));
+        parts.push(qsTr("%n items were taken back", "", run.takenBack));
     }
     if (run.left > 0) {
-        parts.push(counted(run.left, qsTr("the turn of 1 item had not come"),
-                           qsTr("the turn of %1 items had not come")));
+        parts.push(qsTr("the turn of %n items had not come", "", run.left));
     }
     const what = fill(qsTr("%1 was interrupted and is ended now"), run.title);
     return (parts.length > 0 ? fill(qsTr("%1: %2"), what, parts.join(", ")) : what) + ".";

@@ -2,7 +2,7 @@
 
 import { splitPath } from "../lib/names.js";
 import { logRow } from "./report.js";
-import { count } from "../lib/wording.js";
+
 
 // Runs that write new files give themselves such a name; those that move files have theirs from the move engine.
 const WRITES = /^\d{4}-\d\d-\d\dT/;
@@ -23,7 +23,7 @@ export function undoWords(moves, run) {
     const undoable = moves.undoable(run);
     if (undoable.can) {
         return { can: true, button: button, isRedo: isRedo,
-                 note: count(undoable.count, qsTr("1 file can be taken back."), qsTr("%1 files can be taken back.")) };
+                 note: qsTr("%n files can be taken back.", "", undoable.count) };
     }
     return { can: false, button: button, isRedo: isRedo, note: sentence(undoable.reason) };
 }
@@ -41,8 +41,8 @@ function revertNote(chosen, left) {
     if (left <= 0) {
         return qsTr("All its comments were reverted already.");
     }
-    const now = count(left, qsTr("1 comment can be reverted."), qsTr("%1 comments can be reverted."));
-    const before = count(chosen.undone, qsTr("1 was reverted before."), qsTr("%1 were reverted before."));
+    const now = qsTr("%n comments can be reverted.", "", left);
+    const before = qsTr("%n were reverted before.", "", chosen.undone);
     return chosen.undone > 0 ? now + " " + before : now;
 }
 

@@ -8,7 +8,7 @@ import { emptyTable } from "../lib/names.js";
 import { planRun } from "./plan.js";
 import { clockText, costOf, Progress } from "./progress.js";
 import { logRow, summaryOf } from "./report.js";
-import { count, fill, pixels, statusKind, statusText } from "../lib/wording.js";
+import { fill, pixels, statusKind, statusText } from "../lib/wording.js";
 import { BaseRun } from "./run-base.js";
 import { photosOf } from "./list-rows.js";
 import { showItem } from "./write-plan.js";
@@ -34,8 +34,7 @@ function mayReplace(items) {
     }
     const answer = shell.ask({
         title: qsTr("Replace originals"),
-        text: count(originals, qsTr("1 original will be replaced by its result."),
-                    qsTr("%1 originals will be replaced by their results.")),
+        text: qsTr("%n originals will be replaced by their results.", "", originals),
         detail: qsTr("What is in them now cannot be brought back."),
         buttons: [qsTr("Replace"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
     });
@@ -89,8 +88,7 @@ export class WriteRun extends BaseRun {
 
     endSimulation() {
         const ready = this.items.filter((item) => item.status === "ready").length;
-        const parts = [count(ready, qsTr("Simulation: 1 picture would be written"),
-                             qsTr("Simulation: %1 pictures would be written"))];
+        const parts = [qsTr("Simulation: %n pictures would be written", "", ready)];
         if (ready < this.items.length) {
             parts.push(fill(qsTr("%1 left out"), this.items.length - ready));
         }
@@ -154,7 +152,7 @@ export class WriteRun extends BaseRun {
 
     summaryText(how) {
         const sum = summaryOf(this.results);
-        const parts = [count(sum.done, qsTr("1 picture done"), qsTr("%1 pictures done"))];
+        const parts = [qsTr("%n pictures done", "", sum.done)];
         const add = (number, text) => number > 0 && parts.push(fill(text, number));
         add(sum.failed, qsTr("%1 failed"));
         add(sum.unsupported, qsTr("%1 not supported"));

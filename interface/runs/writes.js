@@ -1,6 +1,6 @@
 // The manner of actions that write pictures through the output block.
 
-import { count, fill } from "../lib/wording.js";
+import { fill } from "../lib/wording.js";
 import { WritePlan } from "./write-plan.js";
 import { WriteRun } from "./write-run.js";
 
@@ -15,7 +15,7 @@ function startText(window) {
     }
     return originals > 0
         ? window.action.startText(total) + ", "
-        + count(originals, qsTr("Replace 1 Original"), qsTr("Replace %1 Originals"))
+        + qsTr("Replace %n Originals", "", originals)
         : window.action.startText(total);
 }
 
@@ -28,7 +28,7 @@ function startNote(window) {
         return qsTr("Originals are replaced by their results.");
     }
     return planned.replaced > 0
-        ? count(planned.replaced, qsTr("1 file is replaced."), qsTr("%1 files are replaced.")) : "";
+        ? qsTr("%n files are replaced.", "", planned.replaced) : "";
 }
 
 export const WRITES = {

@@ -76,10 +76,8 @@ QString byteCountText(qint64 bytes)
 QString localByteCountText(qint64 bytes)
 {
     const qint64 count = std::max<qint64>(0, bytes);
-    if (count == 1)
-        return QCoreApplication::translate("platform", "1 byte");
     if (count < thousand)
-        return QCoreApplication::translate("platform", "%1 bytes").arg(count);
+        return QCoreApplication::translate("platform", "%n bytes", nullptr, int(count));
     const Amount amount = amountOf(count, QLocale().decimalPoint());
     return amount.number + u' ' + QCoreApplication::translate("platform", amount.unit);
 }

@@ -170,7 +170,7 @@ Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses)
 #endif
     const QString sentence = memorySentence(name, all, left);
     lastRefusal() = QCoreApplication::translate("platform", "needs about %1 of memory, %2 is free")
-                        .arg(byteCountText(all), byteCountText(left));
+                        .arg(localByteCountText(all), localByteCountText(left));
     tell(name, sentence);
     return failure(ErrorCode::TooLarge, sentence);
 }

@@ -18,6 +18,7 @@ import { fill,
 export const title = () => qsTr("Open %1");
 export default class Pane {
     text() { return qsTr("Close"); }
+    files(n) { return qsTr("%n files", "", n); }
 }
 const example = "export import qsTr";
 """
@@ -25,6 +26,17 @@ FORM = """<ui version="4.0"><class>Window</class><widget class="QWidget" name="w
 <property name="windowTitle"><string>Title</string></property></widget></ui>"""
 HEADER = "namespace a { class B : public QObject { Q_OBJECT\npublic: QString f(); }; }\n"
 SOURCE = '#include "app/b.h"\nnamespace a {\nQString B::f() { return tr("Said by %1"); }\nvoid g() { key("isSave"); }\n}\n'
+
+WHOLE = {"Window: Title": "Titel", "a::B: Said by %1": "Van %1", "some-pane: Close": "Sluit", "some-pane: Open %1": "Open %1"}
+
+
+def message(text, translation):
+    """One message of a .ts file; a list are forms for counts, and None is nothing yet."""
+    if isinstance(translation, list):
+        forms = "".join(f"<numerusform>{form}</numerusform>" for form in translation)
+        return f'<message numerus="yes"><source>{text}</source><translation>{forms}</translation></message>'
+    made = '<translation type="unfinished"></translation>' if translation is None else f"<translation>{translation}</translation>"
+    return f"<message><source>{text}</source>{made}</message>"
 
 
 class Texts(unittest.TestCase):
@@ -36,6 +48,7 @@ class Texts(unittest.TestCase):
         self.write("app/b.cpp", SOURCE)
         for language in texts.LANGUAGES:
             self.table(language, "Localizable", {"isSave": "%1 in " + language})
+            self.translate(language, {**({} if language == "en" else WHOLE), "some-pane: %n files": ["%n a", "%n b"]})
 
     def tearDown(self):
         shutil.rmtree(self.root)
@@ -47,6 +60,16 @@ class Texts(unittest.TestCase):
 
     def table(self, language, name, content):
         self.write(f"interface/texts/{language}/{name}.json", json.dumps(content))
+
+    def translate(self, language, translations):
+        """Writes the .ts file of {"context: text": translation}."""
+        contexts = "".join(f"<context><name>{key.rsplit(': ', 1)[0]}</name>{message(key.rsplit(': ', 1)[1], made)}</context>"
+                           for key, made in translations.items())
+        self.write(f"interface/texts/quorlin_{language}.ts",
+                   f'<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS><TS version="2.1" language="{language}">{contexts}</TS>')
+
+    def translated(self, language):
+        return {key: forms for key, (_, forms, _) in texts.messages(texts.translation(self.root, language)).items()}
 
     def check(self):
         said = io.StringIO()
@@ -68,17 +91,16 @@ class Texts(unittest.TestCase):
         self.assertIn("class Pane {", plain)
         self.assertIn('"export import qsTr"', plain)
 
-    def test_extracts_scripts_forms_and_classes_with_their_places(self):
+    def test_extracts_scripts_forms_and_classes(self):
         found, complaints = texts.extracted(self.root)
-        self.assertEqual({context: sorted(each) for context, each in found.items()},
-                         {"some-pane": ["Close", "Open %1"], "Window": ["Title"], "a::B": ["Said by %1"]})
-        self.assertTrue(found["some-pane"]["Open %1"][0].endswith("some-pane.js:4"))
+        self.assertEqual({key: has_count for key, (_, _, has_count) in found.items()},
+                         {**{key: False for key in WHOLE}, "some-pane: %n files": True})
         self.assertEqual(complaints, [])
 
     def test_leaves_a_good_tree_alone(self):
         status, said = self.check()
         self.assertEqual(status, 0, said)
-        self.assertIn("4 texts", said)
+        self.assertIn("5 texts, 1 of them with counts", said)
 
     def test_finds_faults_of_tables(self):
         self.table("nl", "Localizable", {})
@@ -98,24 +120,38 @@ class Texts(unittest.TestCase):
         self.assert_finds("nobody looks up forgotten")
 
     def test_holds_translations_against_the_texts(self):
-        whole = {"some-pane": {"Close": "Sluit", "Open %1": "Open %1"}, "Window": {"Title": "Titel"}, "a::B": {"Said by %1": "Van %1"}}
-        self.table("nl", "Interface", whole)
+        whole = {**WHOLE, "some-pane: %n files": ["%n a", "%n b"]}
+        self.translate("nl", {**whole, "Window: Title": None})
+        self.assert_finds("quorlin_nl.ts: is unfinished: Window: Title")
+        self.translate("nl", {key: text for key, text in whole.items() if key != "Window: Title"})
+        self.assert_finds("quorlin_nl.ts: lacks Window: Title")
+        self.translate("nl", {**whole, "Window: Old": "Oud"})
+        self.assert_finds("quorlin_nl.ts: nobody uses Window: Old")
+        self.translate("nl", {**whole, "some-pane: Open %1": "Open"})
+        self.assert_finds("has other places for values than in English: some-pane: Open %1")
+        self.translate("nl", {**whole, "Window: Title": ""})
+        self.assert_finds("quorlin_nl.ts: is empty: Window: Title")
+        texts.translation(self.root, "nl").unlink()
+        self.assert_finds("quorlin_nl.ts is missing")
+
+    def test_holds_the_forms_for_counts_against_the_texts(self):
+        self.translate("nl", {**WHOLE, "some-pane: %n files": ["the a", "%n b"]})
         self.assertEqual(self.check()[0], 0)
-        self.table("nl", "Interface", {**whole, "Window": {"Title": None}})
-        self.assert_finds("nl/Interface.json: Window: Title is no text")
-        self.table("nl", "Interface", {**whole, "Window": {}})
-        self.assert_finds("no text for Window: Title")
-        self.table("nl", "Interface", {**whole, "Window": {"Title": "Titel", "Old": "Oud"}})
-        self.assert_finds("nobody has the key Window: Old")
-        self.table("nl", "Interface", {**whole, "some-pane": {"Close": "Sluit", "Open %1": "Open"}})
-        self.assert_finds("other places for values")
+        for forms, fault in ((["%n a", "the b"], "other places"), (["%n a", ""], "is empty"), (["%n %1", "%n b"], "other places"),
+                             (["%n a", "%n b", "%n c"], "a form too many"), (["%n a"], "lacks a form")):
+            self.translate("nl", {**WHOLE, "some-pane: %n files": forms})
+            self.assert_finds("quorlin_nl.ts: ", fault)
+        self.translate("en", {})
+        self.assert_finds("quorlin_en.ts: lacks some-pane: %n files")
+        self.translate("en", {"some-pane: %n files": ["%n file", "%n files"], "Window: Title": "Title"})
+        self.assert_finds("quorlin_en.ts: nobody uses Window: Title")
 
     def test_updates_what_is_there(self):
-        self.table("nl", "Interface", {"Window": {"Title": "Titel", "Old": "Oud"}})
+        self.translate("nl", {"Window: Title": "Titel", "Window: Old": "Oud"})
         with contextlib.redirect_stdout(io.StringIO()):
             texts.update(self.root)
-        self.assertEqual(texts.table(self.root, "nl", "Interface"),
-                         {"Window": {"Title": "Titel"}, "a::B": {"Said by %1": None}, "some-pane": {"Close": None, "Open %1": None}})
+        self.assertEqual(self.translated("nl"), {**{key: None for key in WHOLE}, "some-pane: %n files": None, "Window: Title": ["Titel"]})
+        self.assertEqual(self.translated("en"), {"some-pane: %n files": ["%n a", "%n b"]})
 
     def test_fails_on_an_empty_tree(self):
         shutil.rmtree(self.root / "interface")

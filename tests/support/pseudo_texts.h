@@ -6,7 +6,12 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLibraryInfo>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
 
 /** A language that nobody speaks: English in brackets, with accents, and 40 % longer. What stands outside of brackets is not translated. */
 namespace pseudo {
@@ -84,10 +89,81 @@ inline bool copyTree(const QString &from, const QString &to)
     return true;
 }
 
+/** Runs a program of the toolkit for translators. */
+inline bool runTool(const QString &name, const QStringList &arguments)
+{
+    return QProcess::execute(QLibraryInfo::path(QLibraryInfo::BinariesPath) + u'/' + name, arguments) == 0;
+}
+
+/** Writes the translations of the messages of a .ts file; contexts, texts and what tells texts apart stay. */
+inline void translateMessages(QXmlStreamReader &from, QXmlStreamWriter &to)
+{
+    QString source;
+    bool hasCount = false;
+    while (!from.atEnd()) {
+        from.readNext();
+        if (from.isEndElement() && (from.name() == u"context" || from.name() == u"message"))
+            to.writeEndElement();
+        if (!from.isStartElement())
+            continue;
+        const QString name = from.name().toString();
+        if (name == u"context" || name == u"message") {
+            to.writeStartElement(name);
+            hasCount = from.attributes().value(QStringLiteral("numerus")) == u"yes";
+            if (hasCount)
+                to.writeAttribute(QStringLiteral("numerus"), QStringLiteral("yes"));
+        } else if (name == u"name" || name == u"source" || name == u"comment") {
+            const QString content = from.readElementText();
+            source = name == u"source" ? content : source;
+            to.writeTextElement(name, content);
+        } else if (name == u"translation") {
+            from.skipCurrentElement();
+            to.writeStartElement(name);
+            for (int form = 0; hasCount && form < 2; ++form)
+                to.writeTextElement(QStringLiteral("numerusform"), text(source));
+            if (!hasCount)
+                to.writeCharacters(text(source));
+            to.writeEndElement();
+        }
+    }
+}
+
+/** The .ts file @p source in that language, with two forms for counts as English has. */
+inline bool translateTable(const QString &source, const QString &target)
+{
+    QFile from(source);
+    QFile to(target);
+    if (!from.open(QIODevice::ReadOnly) || !to.open(QIODevice::WriteOnly))
+        return false;
+    QXmlStreamReader reader(&from);
+    QXmlStreamWriter writer(&to);
+    writer.writeStartDocument();
+    writer.writeStartElement(QStringLiteral("TS"));
+    writer.writeAttribute(QStringLiteral("version"), QStringLiteral("2.1"));
+    writer.writeAttribute(QStringLiteral("language"), QStringLiteral("en"));
+    translateMessages(reader, writer);
+    writer.writeEndDocument();
+    return !reader.hasError() && !writer.hasError();
+}
+
+/** All texts of the program, and those of the toolkit that its German translation has, compiled into @p target. */
+inline bool compileTexts(const QString &texts, const QString &target)
+{
+    const QTemporaryDir work;
+    const QString toolkit = QLibraryInfo::path(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_de.qm");
+    const QString words = work.filePath(QStringLiteral("words.ts"));
+    const QString made = work.filePath(QStringLiteral("made.ts"));
+    const QString madeWords = work.filePath(QStringLiteral("made-words.ts"));
+    return runTool(QStringLiteral("lconvert"), {toolkit, QStringLiteral("-o"), words}) && translateTable(texts, made) &&
+           translateTable(words, madeWords) &&
+           runTool(QStringLiteral("lrelease"),
+                   {QStringLiteral("-silent"), made, madeWords, QStringLiteral("-qm"), target});
+}
+
 /**
  * Copies the interface folder to @p to, with one more language in it.
  *
- * @param texts     the file that the build collects all texts in: {context: {text: places}}
+ * @param texts     the .ts file that the build collects all texts in
  * @param language  the code of the new language
  */
 inline bool addLanguage(const QString &interface, const QString &texts, const QString &language, const QString &to)
@@ -95,17 +171,10 @@ inline bool addLanguage(const QString &interface, const QString &texts, const QS
     const QString folder = to + QStringLiteral("/texts/") + language;
     if (!copyTree(interface, to) || !QDir().mkpath(folder))
         return false;
-    QJsonObject contexts = readObject(texts);
-    for (auto context = contexts.begin(); context != contexts.end(); ++context) {
-        QJsonObject translated;
-        for (const QString &each : context.value().toObject().keys())
-            translated.insert(each, text(each));
-        context.value() = translated;
-    }
     QJsonObject services = readObject(interface + QStringLiteral("/texts/en/Localizable.json"));
     for (auto entry = services.begin(); entry != services.end(); ++entry)
         entry.value() = text(entry.value().toString());
-    return !contexts.isEmpty() && writeObject(folder + QStringLiteral("/Interface.json"), contexts) &&
+    return compileTexts(texts, to + QStringLiteral("/texts/quorlin_%1.qm").arg(language)) &&
            writeObject(folder + QStringLiteral("/Localizable.json"), services);
 }
 

@@ -92,8 +92,7 @@ public:
 QString spoken(const QVariantMap &folder)
 {
     const int total = folder.value(QStringLiteral("total")).toInt();
-    const QString files =
-        total == 1 ? FolderTree::tr("1 file") : FolderTree::tr("%1 files").arg(QLocale().toString(total));
+    const QString files = FolderTree::tr("%Ln files", nullptr, total);
     const bool isNew = folder.value(QStringLiteral("isNew")).toBool();
     const QString sentence =
         isNew ? FolderTree::tr("%1, new folder, %2") : FolderTree::tr("%1, folder that exists, %2");

@@ -23,9 +23,8 @@ class LogTable : public QTableView
     Q_PROPERTY(int chosenEditCount READ chosenEditCount)
     /** Whether the columns of old and new comments are shown, in place of those of results. */
     Q_PROPERTY(bool comments READ showsComments WRITE setShowsComments)
-    /** How many entries are shown, and how many there are, in the reader's own form: "12,400". */
+    /** How many entries are shown, in the reader's own form: "12,400". */
     Q_PROPERTY(QString shownText READ shownText)
-    Q_PROPERTY(QString countText READ countText)
     Q_PROPERTY(bool reading READ isReading)
     /** Widths and order of the columns and what is sorted by, as a text to be kept; "" for the first arrangement. */
     Q_PROPERTY(QString columns READ columns WRITE setColumns)
@@ -39,8 +38,7 @@ public:
     int chosenEditCount() const { return int(placesOfChosenEdits().size()); }
     bool showsComments() const { return m_showsComments; }
     void setShowsComments(bool shows);
-    QString shownText() const { return numberText(shownCount()); }
-    QString countText() const { return numberText(totalCount()); }
+    QString shownText() const { return locale().toString(shownCount()); }
     bool isReading() const { return m_model.isReading(); }
     QString columns() const;
     void setColumns(const QString &kept);
@@ -67,8 +65,6 @@ public:
     QVariantList editsOfRun(int number) const;
     /** Puts the chosen rows on the clipboard, their cells between tabs; returns how many. */
     Q_INVOKABLE int copyChosen() const;
-    /** A whole number in the reader's own form: "12,400". */
-    Q_INVOKABLE QString numberText(int number) const { return locale().toString(number); }
     Q_INVOKABLE void selectRow(int row) { setCurrentIndex(m_model.index(row, 0)); }
 
 Q_SIGNALS:

@@ -124,13 +124,6 @@ int RunRows::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : m_rows;
 }
 
-QString RunRows::counted(const char *one, const char *many, int count) const
-{
-    return m_texts.value(QString::fromLatin1(count == 1 ? one : many))
-        .toString()
-        .replace(QLatin1String("%1"), QLocale().toString(count));
-}
-
 QString RunRows::title(int number) const
 {
     const LogEntries &entries = m_log->entries();
@@ -167,9 +160,9 @@ QVariant RunRows::cell(int number, int role) const
         return run.first == 0 ? QString()
                               : QLocale().toString(QDateTime::fromMSecsSinceEpoch(run.first), QLocale::ShortFormat);
     case countRole:
-        return counted("oneEntry", "entries", isAll ? entries.count() : run.count);
+        return tr("%Ln entries", nullptr, isAll ? entries.count() : run.count);
     case problemsRole:
-        return run.problems == 0 ? QString() : counted("oneProblem", "problems", run.problems);
+        return run.problems == 0 ? QString() : tr("%Ln problems", nullptr, run.problems);
     default:
         return {};
     }

@@ -25,8 +25,8 @@ public:
 
     void follow(LogModel *log);
     /**
-     * %1 stands for a number: {all, oneEntry, entries, oneProblem, problems}; or for a run that was taken back or done
-     * again: {undo, redo}; in {of} %1 is that, and %2 the date of the run that it took back.
+     * {all, undo, redo, of}. In undo and redo %1 stands for the deed that was taken back or done again; in of %1 is that, and
+     * %2 the date of the run that it took back.
      */
     void setTexts(const QVariantMap &texts) { m_texts = texts; }
     /** What was done: "Rename", or "Undo of Rename" for a run that took one back. */
@@ -41,7 +41,6 @@ public:
 private:
     void update();
     void forget();
-    QString counted(const char *one, const char *many, int count) const;
     QVariant cell(int number, int role) const;
 
     LogModel *m_log = nullptr; ///< null again when its table is gone

@@ -1,6 +1,6 @@
 // Background & Border: lays pictures on something and frames them.
 
-import { count } from "../../lib/wording.js";
+
 import { onPictures } from "../shared/on-pictures.js";
 import { BackgroundPane } from "./background-pane.js";
 import { presets } from "./background-presets.js";
@@ -12,5 +12,5 @@ export const background = onPictures({
     step: step,
     pane: BackgroundPane,
     presets: presets,
-    startText: (number) => count(number, qsTr("Frame 1 Picture"), qsTr("Frame %1 Pictures")),
+    startText: (number) => qsTr("Frame %n Pictures", "", number),
 });

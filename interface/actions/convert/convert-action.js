@@ -1,6 +1,6 @@
 // Convert: writes pictures as another file type.
 
-import { count } from "../../lib/wording.js";
+
 import { onPictures } from "../shared/on-pictures.js";
 import { ConvertPane } from "./convert-pane.js";
 import { presets } from "./convert-presets.js";
@@ -14,5 +14,5 @@ export const convert = onPictures({
     pane: ConvertPane,
     presets: presets,
     takes: CONVERTED_INPUT,
-    startText: (number) => count(number, qsTr("Convert 1 Picture"), qsTr("Convert %1 Pictures")),
+    startText: (number) => qsTr("Convert %n Pictures", "", number),
 });

@@ -1,6 +1,6 @@
 // Crop: cuts a rectangle out of pictures.
 
-import { count } from "../../lib/wording.js";
+
 import { onPictures } from "../shared/on-pictures.js";
 import { CropPane } from "./crop-pane.js";
 import { presets } from "./crop-presets.js";
@@ -12,5 +12,5 @@ export const crop = onPictures({
     step: step,
     pane: CropPane,
     presets: presets,
-    startText: (number) => count(number, qsTr("Crop 1 Picture"), qsTr("Crop %1 Pictures")),
+    startText: (number) => qsTr("Crop %n Pictures", "", number),
 });

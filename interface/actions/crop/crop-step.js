@@ -34,7 +34,7 @@ const LABELS = { size: "W x H", percent: "%", pixels: "Pixels" };
 export function describe(settings) {
     const size = { size: settings.width + "×" + settings.height + " " + settings.unit,
                    percent: fill(qsTr("%1 % away"), settings.percent),
-                   pixels: fill(qsTr("%1 pixels away"), settings.pixels) }[settings.mode];
+                   pixels: qsTr("%n pixels away", "", settings.pixels) }[settings.mode];
     const moved = settings.offsetX || settings.offsetY
         ? [fill(qsTr("moved %1, %2 %3"), settings.offsetX, settings.offsetY, settings.unit)] : [];
     return [size, fill(qsTr("position %1"), settings.position + 1)].concat(moved).join(", ");

@@ -7,7 +7,7 @@ import { slotProblem } from "./hand-slots.js";
 import { appendRows, trimRows } from "../../runs/log-file.js";
 import { roomProblem } from "../../runs/room.js";
 import { Sidecars } from "../../lib/sidecars.js";
-import { count, fill } from "../../lib/wording.js";
+import { fill } from "../../lib/wording.js";
 import { shell } from "quorlin/shell";
 
 // So many pictures are decoded before they are asked for.
@@ -224,7 +224,7 @@ export class HandPage {
         const open = this.list.count - this.sorting.decided().length;
         return open === 0 ? qsTr("That was the last picture. All of them are sorted.")
             : fill(qsTr("That was the last picture. %1"),
-                   count(open, qsTr("1 was skipped."), qsTr("%1 were skipped.")));
+                   qsTr("%n were skipped.", "", open));
     }
 
     // The row of the list follows the file, and says what was done with it.

@@ -7,7 +7,7 @@ import { MODES } from "./hand-sorting.js";
 import { KEYS, labelOf, MOST_SLOTS, slotProblem, withFolders, withLabel, withMoved,
          withoutSlot } from "./hand-slots.js";
 import { joinPath, splitPath } from "../../lib/names.js";
-import { count, fill, shortPath } from "../../lib/wording.js";
+import { fill, shortPath } from "../../lib/wording.js";
 import * as hand from "./hand-step.js";
 import { Pane } from "../shared/pane.js";
 
@@ -91,8 +91,7 @@ export class HandPane extends Pane {
     mayClear() {
         const answer = shell.ask({
             title: qsTr("Remove all folders"),
-            text: count(this.settings.slots.length, qsTr("Take the folder off the list?"),
-                        qsTr("Take all %1 folders off the list?")),
+            text: qsTr("Take all %n folders off the list?", "", this.settings.slots.length),
             detail: qsTr("The folders themselves stay as they are, and so do presets."),
             buttons: [qsTr("Remove"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
@@ -119,10 +118,9 @@ export class HandPane extends Pane {
         this.change(result.slots);
         this.list.reveal(result.slots.length - 1);
         const parts = result.known > 0
-            ? [count(result.known, qsTr("1 folder is in the list already."),
-                     qsTr("%1 folders are in the list already."))] : [];
+            ? [qsTr("%n folders are in the list already.", "", result.known)] : [];
         if (result.full > 0) {
-            parts.push(fill(qsTr("There are keys for %1 folders only."), MOST_SLOTS));
+            parts.push(qsTr("There are keys for %n folders only.", "", MOST_SLOTS));
         }
         if (parts.length > 0) {
             this.sayBeside(parts.join(" "));

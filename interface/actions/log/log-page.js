@@ -10,7 +10,7 @@ import { clearRows, keepRows, logPath, rowLimit } from "../../runs/log-file.js";
 import { rowsByPath } from "../../runs/list-rows.js";
 import { csvHead, csvLines } from "../../runs/report.js";
 import { keep, recall } from "../../lib/store.js";
-import { count, fill, problemsText, statusText } from "../../lib/wording.js";
+import { fill, problemsText, statusText } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary } from "../../runs/comment-job.js";
 import { problemsOfUndo, revertWords, undoAction, undoing, undoWords, unableSteps } from "../../runs/undo-run.js";
 
@@ -55,9 +55,7 @@ export class LogPage {
                              qsTr("Old comment"), qsTr("New comment")],
                             shownStates());
         this.table.columns = recall(defaults, COLUMNS, { columns: "" }).columns;
-        this.runs.follow(this.table, { all: qsTr("All runs"), oneEntry: qsTr("1 entry"), entries: qsTr("%1 entries"),
-                                       oneProblem: qsTr("1 problem"), problems: qsTr("%1 problems"),
-                                       undo: qsTr("Undo of %1"), redo: qsTr("Redo of %1"),
+        this.runs.follow(this.table, { all: qsTr("All runs"), undo: qsTr("Undo of %1"), redo: qsTr("Redo of %1"),
                                        of: qsTr("%1 (run of %2)") });
         this.form.setItems("logKind", [qsTr("Any deed"), qsTr("Comments only")], ["", COMMENTS]);
         this.form.setItems("logStatus", [qsTr("Any status")].concat(STATES.map((state) => statusText(state, ""))),
@@ -141,8 +139,8 @@ export class LogPage {
         const shown = this.table.shownCount;
         const total = this.table.totalCount;
         control("logCount").text = shown === total
-            ? count(total, qsTr("1 entry"), qsTr("%1 entries")).replace(String(total), this.table.countText)
-            : fill(qsTr("%1 of %2 entries"), this.table.shownText, this.table.countText);
+            ? qsTr("%Ln entries", "", total)
+            : fill(qsTr("%1 of %Ln entries", "", total), this.table.shownText);
         control("logExport").enabled = shown > 0 && !this.table.reading && !this.job.running;
         control("logOpen").enabled = this.chosenPath() !== "";
         control("logPicture").enabled = this.picturePath() !== "";
@@ -151,7 +149,7 @@ export class LogPage {
         control("logEmpty").text = this.table.reading ? "" : this.emptyText(total);
         const chosen = this.table.chosenCount;
         this.form.setMenu("logMore",
-                          [chosen > 1 ? fill(qsTr("Copy %1 Rows"), chosen) : qsTr("Copy Row"), "-", qsTr("Clear Log…")],
+                          [qsTr("Copy %n Rows", "", Math.max(1, chosen)), "-", qsTr("Clear Log…")],
                           [chosen > 0 ? "copy" : null, null, total > 0 && !this.isBusy() ? "clear" : null],
                           guard("log.more", (what) => (what === "copy" ? this.table.copyChosen() : this.clear())));
         this.showChosenEdits();
@@ -163,7 +161,7 @@ export class LogPage {
         const edits = this.table.chosenEditCount;
         const busy = this.isBusy();
         control("logRevert").visible = edits > 0 && !busy;
-        control("logRevert").text = count(edits, qsTr("Revert Comment"), qsTr("Revert %1 Comments"));
+        control("logRevert").text = qsTr("Revert %n Comments", "", edits);
         control("logRunBar").visible = this.words !== null || edits > 0 || busy;
         control("logUndo").visible = this.words !== null && !busy;
         control("logStop").visible = busy;
@@ -171,7 +169,7 @@ export class LogPage {
         control("logRuns").enabled = !busy;
         if (this.words === null && !busy && edits > 0) {
             const edit = this.table.chosen();
-            control("logRunTitle").text = count(edits, qsTr("1 comment chosen"), qsTr("%1 comments chosen"));
+            control("logRunTitle").text = qsTr("%n comments chosen", "", edits);
             control("logRunNote").text = edits === 1 && edit.after !== edit.before ? editWords(edit.before, edit.after) : "";
         }
     }
@@ -179,8 +177,8 @@ export class LogPage {
     // Why the table is empty.
     emptyText(total) {
         return total > 0 ? qsTr("No entry matches.")
-            : fill(qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %1 entries are kept."),
-                   this.table.numberText(rowLimit()));
+            : qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.", "",
+                   rowLimit());
     }
 
     wordsFor(run) {
@@ -195,9 +193,9 @@ export class LogPage {
         this.words = words;
         this.showColumns();
         if (!this.isBusy() && words !== null) {
-            const entries = count(chosen.count, qsTr("1 entry"), qsTr("%1 entries"));
+            const entries = qsTr("%Ln entries", "", chosen.count);
             const problems = chosen.problems > 0
-                ? " · " + count(chosen.problems, qsTr("1 problem"), qsTr("%1 problems")) : "";
+                ? " · " + qsTr("%n problems", "", chosen.problems) : "";
             control("logRunTitle").text = chosen.title + " · " + entries + problems;
             control("logRunNote").text = words.note;
             control("logUndo").enabled = words.can;
@@ -245,7 +243,7 @@ export class LogPage {
 
     clear() {
         const answer = shell.ask({
-            title: qsTr("Clear log"), text: fill(qsTr("Remove all %1 entries from the log?"), this.table.countText),
+            title: qsTr("Clear log"), text: qsTr("Remove all %Ln entries from the log?", "", this.table.totalCount),
             detail: qsTr("Your files stay as they are. Runs can then no longer be undone from here."),
             buttons: [qsTr("Clear"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
@@ -314,7 +312,7 @@ export class LogPage {
         const undo = this.undo;
         this.undo = null;
         const problem = keepRows(files, undo.rows) || (how === "failed" ? String(value) : value || "");
-        const done = count(undo.done, qsTr("1 file taken back"), qsTr("%1 files taken back"));
+        const done = qsTr("%n files taken back", "", undo.done);
         const parts = [done]
             .concat(undo.problems.length > 0 ? [problemsText(undo.problems.length)] : [], problem ? [problem] : []);
         this.window.sayBeside((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));

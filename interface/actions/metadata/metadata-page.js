@@ -11,7 +11,7 @@ import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
 import { tokens } from "../../lib/tokens.js";
 import { COMMENT_INPUT, PICTURE_INPUT } from "../../lib/types.js";
-import { count, fill } from "../../lib/wording.js";
+import { fill } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary, commentsWritten } from "../../runs/comment-job.js";
 
 const KEPT = "Comments";
@@ -202,7 +202,7 @@ export class MetadataPage {
     copy() {
         const lines = this.tree.copyChosen();
         this.window.sayBeside(lines > 0
-                         ? count(lines, qsTr("1 line copied"), qsTr("%1 lines copied"))
+                         ? qsTr("%n lines copied", "", lines)
                          : qsTr("Choose a property to copy first."));
     }
 
@@ -253,7 +253,7 @@ export class MetadataPage {
     // Which picture it is, and how much of it is shown.
     showPlace() {
         this.form.control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
-        const found = count(this.tree.shownCount, qsTr("1 property"), qsTr("%1 properties"));
+        const found = qsTr("%n properties", "", this.tree.shownCount);
         this.form.control("metaFound").text = this.form.control("metaSearch").text.trim() === "" ? "" : found;
     }
 
@@ -266,7 +266,7 @@ export class MetadataPage {
         const many = this.edits.length;
         this.form.control("metaRevert").visible = on;
         this.form.control("metaRevert").enabled = many > 0;
-        this.form.control("metaRevert").text = many > 1 ? fill(qsTr("Revert %1"), many) : qsTr("Revert");
+        this.form.control("metaRevert").text = qsTr("Revert %n", "", Math.max(1, many));
     }
 
     // What writes into several pictures.
@@ -277,18 +277,17 @@ export class MetadataPage {
             this.form.control(name).enabled = enabled;
         }
         this.form.control("metaApplyAll").visible = on && pictures > 0;
-        this.form.control("metaApplyAll").text = count(pictures, qsTr("Write into 1…"), qsTr("Write into All %1…"));
+        this.form.control("metaApplyAll").text = qsTr("Write into All %n…", "", pictures);
     }
 
     pagesText(lost, isOne) {
-        const pages = count(lost.pages, qsTr("1 further page"), qsTr("%1 further pages"));
+        const pages = qsTr("%n further pages", "", lost.pages);
         if (isOne) {
             return fill(qsTr("This file has %1, which would be taken out and cannot be brought back: only its first page is kept."), pages);
         }
-        const words = count(lost.files,
-                            qsTr("1 file has several pages and is left out; its comment would cost it %2: %3."),
-                            qsTr("%1 files have several pages and are left out; their comments would cost them %2: %3."));
-        return fill(words, lost.files, pages, lost.words);
+        const words = qsTr("%n files have several pages and are left out; their comments would cost them %1: %2.", "",
+                           lost.files);
+        return fill(words, pages, lost.words);
     }
 
     // What whoever writes into pictures must know before.
@@ -297,10 +296,8 @@ export class MetadataPage {
         return [
             qsTr("The originals themselves are changed: their comment, and nothing else in them."),
             lost.files === 0 ? "" : this.pagesText(lost, paths.length === 1),
-            without > 0 ? count(without,
-                                qsTr("1 file is of a type that has no place for a comment, and stays as it is."),
-                                qsTr("%1 files are of types that have no place for a comment, and stay as they are."))
-                                    : "",
+            without === 0 ? ""
+                : qsTr("%n files are of types that have no place for a comment, and stay as they are.", "", without),
         ].filter((each) => each !== "");
     }
 
@@ -310,10 +307,8 @@ export class MetadataPage {
         const answer = shell.ask({
             title: qsTr("Write comment"),
             text: comment === ""
-                ? count(paths.length, qsTr("Empty the comment of this picture?"),
-                        qsTr("Empty the comments of %1 pictures?"))
-                : count(paths.length, qsTr("Write the comment into this picture?"),
-                        qsTr("Write the comment into %1 pictures?")),
+                ? qsTr("Empty the comments of %n pictures?", "", paths.length)
+                : qsTr("Write the comment into %n pictures?", "", paths.length),
             detail: this.warnings(paths, lost).join(" "), initial: 1, escape: 1,
             buttons: [isOne ? qsTr("Write and Remove Pages") : qsTr("Write"), qsTr("Cancel")],
             check: lost.files > 0 && !isOne ? qsTr("Write into these too, and keep only their first page") : "",

@@ -5,7 +5,7 @@ import { guard } from "../../lib/guard.js";
 import { hasParts, PARTS, stepProblems } from "./name-steps.js";
 import { kindWords, summaryOf } from "./step-words.js";
 import { parse } from "../../lib/tokens.js";
-import { count } from "../../lib/wording.js";
+
 
 // Which field of the form is which setting, by kind: [field, setting, label, texts of the choices].
 function fieldsOf(step) {
@@ -182,8 +182,7 @@ export class RenameCard {
     explain(before, after, short) {
         const problems = stepProblems(this.step);
         const tooShort = this.step.on && short > 0
-            ? [count(short, qsTr("1 name is too short for this and stays as it is."),
-                     qsTr("%1 names are too short for this and stay as they are."))] : [];
+            ? [qsTr("%n names are too short for this and stay as they are.", "", short)] : [];
         this.say("cardExample", this.step.on && problems.length === 0 && after !== undefined && after !== before ? before + " → " + after : "");
         this.say("cardProblem", problems.concat(tooShort).join("\n"));
     }

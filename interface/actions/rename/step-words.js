@@ -83,7 +83,7 @@ const SUMMARIES = {
              step.position),
     around: (step) => fill(qsTr("%1 before, %2 behind"), quoted(step.before), quoted(step.after)),
     strip: (step) => fill(step.side === "fLeft" ? qsTr("%1 from the left") : qsTr("%1 from the right"), step.count),
-    section: (step) => fill(qsTr("%2 characters from the %1."), step.start, step.length),
+    section: (step) => fill(qsTr("%n characters from the %1.", "", step.length), step.start),
     split: (step) =>
         (step.pieces === "" ? fill(qsTr("at %1, joined by %2"), quoted(step.separator), quoted(step.joiner))
                                          : fill(qsTr("at %1, pieces %3, joined by %2"), quoted(step.separator),

@@ -1,6 +1,6 @@
 // Resize: gives pictures another size.
 
-import { count } from "../../lib/wording.js";
+
 import { onPictures } from "../shared/on-pictures.js";
 import { ResizePane } from "./resize-pane.js";
 import { presets } from "./resize-presets.js";
@@ -12,5 +12,5 @@ export const resize = onPictures({
     step: step,
     pane: ResizePane,
     presets: presets,
-    startText: (number) => count(number, qsTr("Resize 1 Picture"), qsTr("Resize %1 Pictures")),
+    startText: (number) => qsTr("Resize %n Pictures", "", number),
 });

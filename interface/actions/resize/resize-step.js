@@ -66,7 +66,7 @@ function sizeFor(photo, settings, services) {
     const lengths = usedFields(settings).filter((field) => field !== "percent");
     const inUnits = inPixels(photo, settings, lengths, services);
     if (lengths.some((field) => inUnits[field] > MOST_PIXELS)) {
-        return { size: null, reason: qsTr("it would be larger than %1 pixels").replace("%1", String(MOST_PIXELS)) };
+        return { size: null, reason: qsTr("it would be larger than %n pixels", "", MOST_PIXELS) };
     }
     const size = lengths.every((field) => inUnits[field] >= 1) ? newSize(photo, inUnits) : { width: 0, height: 0 };
     return size.width < 1 || size.height < 1

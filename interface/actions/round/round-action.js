@@ -1,6 +1,6 @@
 // Round Corners: cuts pictures to a shape.
 
-import { count } from "../../lib/wording.js";
+
 import { onPictures } from "../shared/on-pictures.js";
 import { RoundPane } from "./round-pane.js";
 import { presets } from "./round-presets.js";
@@ -12,5 +12,5 @@ export const round = onPictures({
     step: step,
     pane: RoundPane,
     presets: presets,
-    startText: (number) => count(number, qsTr("Round 1 Picture"), qsTr("Round %1 Pictures")),
+    startText: (number) => qsTr("Round %n Pictures", "", number),
 });

@@ -1,7 +1,7 @@
 // Sort into Folders: moves, copies or links files into folders that a pattern names.
 
 import { PHOTO_INPUT } from "../../lib/types.js";
-import { count } from "../../lib/wording.js";
+
 import { MOVES } from "../../runs/moves.js";
 import { SortPane } from "./sort-pane.js";
 import { presets } from "./sort-presets.js";
@@ -9,17 +9,17 @@ import * as step from "./sort-step.js";
 
 function startText(number, settings) {
     return {
-        move: () => count(number, qsTr("Sort 1 File into Folders"), qsTr("Sort %1 Files into Folders")),
-        copy: () => count(number, qsTr("Copy 1 File into Folders"), qsTr("Copy %1 Files into Folders")),
-        link: () => count(number, qsTr("Link 1 File into Folders"), qsTr("Link %1 Files into Folders")),
+        move: () => qsTr("Sort %n Files into Folders", "", number),
+        copy: () => qsTr("Copy %n Files into Folders", "", number),
+        link: () => qsTr("Link %n Files into Folders", "", number),
     }[settings.kind]();
 }
 
 function done(number, settings) {
     return {
-        move: () => count(number, qsTr("1 file sorted"), qsTr("%1 files sorted")),
-        copy: () => count(number, qsTr("1 file copied"), qsTr("%1 files copied")),
-        link: () => count(number, qsTr("1 link made"), qsTr("%1 links made")),
+        move: () => qsTr("%n files sorted", "", number),
+        copy: () => qsTr("%n files copied", "", number),
+        link: () => qsTr("%n links made", "", number),
     }[settings === null ? "move" : settings.kind]();
 }
 
@@ -37,5 +37,5 @@ export const sort = {
     headings: () => ({ newName: qsTr("Folder") }),
     startText: startText,
     done: done,
-    undone: (number) => count(number, qsTr("1 file put back"), qsTr("%1 files put back")),
+    undone: (number) => qsTr("%n files put back", "", number),
 };

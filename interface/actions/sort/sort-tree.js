@@ -7,7 +7,7 @@ import { rowsBelow, treeParts, treeRows } from "./folder-tree.js";
 import { guard } from "../../lib/guard.js";
 import { isReadyRow } from "../../runs/move-plan.js";
 import { DiskNeeds, roomText } from "../../runs/room.js";
-import { count, fill, shortPath } from "../../lib/wording.js";
+import { fill, shortPath } from "../../lib/wording.js";
 
 // Rows are looked at in parts, so that the window answers.
 const AT_ONCE = 200;
@@ -17,10 +17,10 @@ export function summaryText(ready, folders, fresh) {
     if (ready === 0) {
         return qsTr("No file will go anywhere.");
     }
-    const words = fill(qsTr("%1 into %2"), count(ready, qsTr("1 file"), qsTr("%1 files")),
-                       count(folders, qsTr("1 folder"), qsTr("%1 folders")));
+    const words = fill(qsTr("%1 into %2"), qsTr("%n files", "", ready),
+                       qsTr("%n folders", "", folders));
     return words + " · "
-        + (fresh === 0 ? qsTr("no new folder") : count(fresh, qsTr("1 new folder"), qsTr("%1 new folders")));
+        + (fresh === 0 ? qsTr("no new folder") : qsTr("%n new folders", "", fresh));
 }
 
 export class SortTree {

@@ -1,6 +1,6 @@
 // Rotate & Flip: turns pictures by any angle and mirrors them.
 
-import { count } from "../../lib/wording.js";
+
 import { onPictures } from "../shared/on-pictures.js";
 import { TurnPane } from "./turn-pane.js";
 import { presets } from "./turn-presets.js";
@@ -12,5 +12,5 @@ export const turn = onPictures({
     step: step,
     pane: TurnPane,
     presets: presets,
-    startText: (number) => count(number, qsTr("Turn 1 Picture"), qsTr("Turn %1 Pictures")),
+    startText: (number) => qsTr("Turn %n Pictures", "", number),
 });

@@ -9,7 +9,7 @@ import { splitPath } from "../../lib/names.js";
 import { goingAlong, SIDECARS } from "../../lib/sidecars.js";
 import { recall, keep, withNewest } from "../../lib/store.js";
 import { PHOTO_INPUT } from "../../lib/types.js";
-import { count, fill, shortPath } from "../../lib/wording.js";
+import { fill, shortPath } from "../../lib/wording.js";
 
 const KEPT_FOLDERS = 8;
 const KEY = "RecentFolders";
@@ -20,11 +20,10 @@ function addedText(found, added, words) {
         parts.push(fill(qsTr("%1 added"), words.count(added)));
     }
     if (found.paths.length > added) {
-        parts.push(count(found.paths.length - added, qsTr("1 was in the list already"),
-                         qsTr("%1 were in the list already")));
+        parts.push(qsTr("%n were in the list already", "", found.paths.length - added));
     }
     if (found.along > 0) {
-        parts.push(count(found.along, qsTr("1 file goes along"), qsTr("%1 files go along")));
+        parts.push(qsTr("%n files go along", "", found.along));
     }
     if (found.leftOut > 0) {
         parts.push(words.leftOut(found));

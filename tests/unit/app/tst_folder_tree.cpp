@@ -1,3 +1,4 @@
+#include "app/setup/translations.h"
 #include "app/window/folders/folder_tree.h"
 #include "tests/support/test_program.h"
 
@@ -60,6 +61,7 @@ private Q_SLOTS:
 
     void saysWhatItShows()
     {
+        const app::Translations english(QStringLiteral("en"));
         FolderTree tree;
         tree.setFolders(threeYears());
         const auto spoken = [&tree](const char *name) {

@@ -1,6 +1,5 @@
 // An action that the program does not have: what adding one takes.
 
-import { count } from "../../lib/wording.js";
 import { onPictures } from "../shared/on-pictures.js";
 import { ShrinkPane } from "./shrink-pane.js";
 import { presets } from "./shrink-presets.js";
@@ -12,5 +11,5 @@ export const shrink = onPictures({
     step: step,
     pane: ShrinkPane,
     presets: presets,
-    startText: (number) => count(number, qsTr("Shrink 1 Picture"), qsTr("Shrink %1 Pictures")),
+    startText: (number) => qsTr("Shrink %n Picture(s)", "", number),
 });

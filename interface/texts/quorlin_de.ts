@@ -1,0 +1,7628 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>About</name>
+    <message>
+        <source>About Quorlin</source>
+        <translation>Über Quorlin</translation>
+    </message>
+    <message>
+        <source>One deed for a whole folder of pictures: it shows what it will do, does it, checks what it did, and can say so in a log.</source>
+        <translation>Ein Arbeitsgang für einen ganzen Ordner voller Bilder: Quorlin zeigt, was es tun wird, tut es, prüft das Ergebnis und hält alles in einem Protokoll fest.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. It comes without any warranty.</source>
+        <translation>Freie Software unter der GNU General Public License, Version 3 oder neuer. Es gibt keinerlei Gewährleistung.</translation>
+    </message>
+    <message>
+        <source>It stands on these libraries</source>
+        <translation>Verwendete Bibliotheken</translation>
+    </message>
+    <message>
+        <source>Libraries with their versions and licences</source>
+        <translation>Bibliotheken mit Versionen und Lizenzen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>BackgroundPane</name>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>What lies under transparent parts</source>
+        <translation>Was unter transparenten Bereichen liegt</translation>
+    </message>
+    <message>
+        <source>Colour under transparent parts</source>
+        <translation>Farbe unter transparenten Bereichen</translation>
+    </message>
+    <message>
+        <source>Pattern under transparent parts</source>
+        <translation>Muster unter transparenten Bereichen</translation>
+    </message>
+    <message>
+        <source>About patterns of your own</source>
+        <translation>Über eigene Muster</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Colour of the band</source>
+        <translation>Farbe des Rahmens</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Width of the band</source>
+        <translation>Breite des Rahmens</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertPane</name>
+    <message>
+        <source>Convert to</source>
+        <translation>Umwandeln in</translation>
+    </message>
+    <message>
+        <source>File type of the results</source>
+        <translation>Dateityp der Ergebnisse</translation>
+    </message>
+    <message>
+        <source>What the pictures become</source>
+        <translation>Was aus den Bildern wird</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 9</source>
+        <translation>JPEG-Qualität, 1 bis 9</translation>
+    </message>
+    <message>
+        <source>The higher, the finer and the larger</source>
+        <translation>Je höher, desto feiner und größer</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>CropPane</name>
+    <message>
+        <source>W × H</source>
+        <translation>B × H</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>What the frame is given by</source>
+        <translation>Wie der Ausschnitt angegeben wird</translation>
+    </message>
+    <message>
+        <source>Width, height</source>
+        <translation>Breite, Höhe</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Width of the frame</source>
+        <translation>Breite des Ausschnitts</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Height of the frame</source>
+        <translation>Höhe des Ausschnitts</translation>
+    </message>
+    <message>
+        <source>Cut away</source>
+        <translation>Abschneiden</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Per cent to cut away from both sides</source>
+        <translation>Prozent, die an beiden Seiten wegfallen</translation>
+    </message>
+    <message>
+        <source>Pixels to cut away from both sides</source>
+        <translation>Pixel, die an beiden Seiten wegfallen</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Verhältnis</translation>
+    </message>
+    <message>
+        <source>Ratio of width to height</source>
+        <translation>Verhältnis von Breite zu Höhe</translation>
+    </message>
+    <message>
+        <source>Unit of size and offsets</source>
+        <translation>Einheit für Größe und Versatz</translation>
+    </message>
+    <message>
+        <source>Unit of size and offsets: pixels, millimetres, centimetres, inches, picas, points</source>
+        <translation>Einheit für Größe und Versatz: Pixel, Millimeter, Zentimeter, Zoll, Pica, Punkt</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Position of the frame</source>
+        <translation>Position des Ausschnitts</translation>
+    </message>
+    <message>
+        <source>Offset to the right</source>
+        <translation>Versatz nach rechts</translation>
+    </message>
+    <message>
+        <source>How far the frame is moved to the right</source>
+        <translation>Wie weit der Ausschnitt nach rechts rückt</translation>
+    </message>
+    <message>
+        <source>→ </source>
+        <translation>→ </translation>
+    </message>
+    <message>
+        <source>Offset downward</source>
+        <translation>Versatz nach unten</translation>
+    </message>
+    <message>
+        <source>How far the frame is moved down</source>
+        <translation>Wie weit der Ausschnitt nach unten rückt</translation>
+    </message>
+    <message>
+        <source>↓ </source>
+        <translation>↓ </translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>HandPage</name>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Bilder oder Ordner hier ablegen</translation>
+    </message>
+    <message>
+        <source>They are shown one after the other, and each goes with one key into one of your folders.</source>
+        <translation>Sie werden nacheinander gezeigt, und jedes kommt mit einem Tastendruck in einen Ihrer Ordner.</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Bilder hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add pictures (Ctrl+O)</source>
+        <translation>Bilder hinzufügen (Strg+O)</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Ordner hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <translation>Alle Bilder eines Ordners und seiner Unterordner hinzufügen (Strg+Umschalt+O)</translation>
+    </message>
+    <message>
+        <source>The picture to sort</source>
+        <translation>Das Bild zum Einsortieren</translation>
+    </message>
+    <message>
+        <source>← Back</source>
+        <translation>← Zurück</translation>
+    </message>
+    <message>
+        <source>The picture before (Left, Backspace)</source>
+        <translation>Vorheriges Bild (Links, Rücktaste)</translation>
+    </message>
+    <message>
+        <source>Skip →</source>
+        <translation>Weiter →</translation>
+    </message>
+    <message>
+        <source>On to the next picture (Right)</source>
+        <translation>Weiter zum nächsten Bild (Rechts)</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Papierkorb</translation>
+    </message>
+    <message>
+        <source>Move the picture to the trash (Del)</source>
+        <translation>Bild in den Papierkorb legen (Entf)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Take back the last deed (Ctrl+Z)</source>
+        <translation>Letzten Schritt zurücknehmen (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Keys Move</source>
+        <translation>Tasten: verschieben</translation>
+    </message>
+    <message>
+        <source>Keys Copy</source>
+        <translation>Tasten: kopieren</translation>
+    </message>
+    <message>
+        <source>Keys Link</source>
+        <translation>Tasten: verknüpfen</translation>
+    </message>
+</context>
+<context>
+    <name>HandPane</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Verknüpfen</translation>
+    </message>
+    <message>
+        <source>What a key does with the picture</source>
+        <translation>Was eine Taste mit dem Bild tut</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Choose a folder; folders can be dropped on the list too</source>
+        <translation>Ordner wählen; Ordner lassen sich auch auf der Liste ablegen</translation>
+    </message>
+    <message>
+        <source>New…</source>
+        <translation>Neu…</translation>
+    </message>
+    <message>
+        <source>Make a new folder</source>
+        <translation>Neuen Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>⋯</source>
+        <translation>⋯</translation>
+    </message>
+    <message>
+        <source>More deeds for the chosen folder</source>
+        <translation>Mehr für den gewählten Ordner</translation>
+    </message>
+    <message>
+        <source>Name of the new folder</source>
+        <translation>Name des neuen Ordners</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Make no folder (Esc)</source>
+        <translation>Keinen Ordner anlegen (Esc)</translation>
+    </message>
+    <message>
+        <source>Make Folder</source>
+        <translation>Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>Make the folder and give it a key (Return)</source>
+        <translation>Ordner anlegen und ihm eine Taste geben (Eingabe)</translation>
+    </message>
+    <message>
+        <source>Folders and their keys</source>
+        <translation>Ordner und ihre Tasten</translation>
+    </message>
+    <message>
+        <source>Add the folders that you sort into. The first gets the key 1, and so on: up to 59 folders.</source>
+        <translation>Fügen Sie die Ordner hinzu, in die Sie sortieren. Der erste bekommt die Taste 1 und so weiter: bis zu 59 Ordner.</translation>
+    </message>
+</context>
+<context>
+    <name>Info</name>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation>Erklärung</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>Search the log</source>
+        <translation>Im Protokoll suchen</translation>
+    </message>
+    <message>
+        <source>Every word must occur somewhere in an entry (Ctrl+F)</source>
+        <translation>Jedes Wort muss irgendwo im Eintrag vorkommen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Show entries with this status</source>
+        <translation>Einträge mit diesem Status zeigen</translation>
+    </message>
+    <message>
+        <source>Show entries of this kind</source>
+        <translation>Einträge dieser Art zeigen</translation>
+    </message>
+    <message>
+        <source>Show Picture</source>
+        <translation>Bild zeigen</translation>
+    </message>
+    <message>
+        <source>Show the picture large, if it is still there (Enter)</source>
+        <translation>Bild groß zeigen, falls es noch da ist (Eingabe)</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Open the folder of the file and choose the file there</source>
+        <translation>Ordner der Datei öffnen und die Datei darin auswählen</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Save the entries that are shown as CSV, for spreadsheets</source>
+        <translation>Gezeigte Einträge als CSV für Tabellenprogramme speichern</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>More deeds for the log</source>
+        <translation>Mehr zum Protokoll</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Durchläufe</translation>
+    </message>
+    <message>
+        <source>Entries of the log</source>
+        <translation>Einträge des Protokolls</translation>
+    </message>
+    <message>
+        <source>Revert Comment</source>
+        <translation>Kommentar zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Give the chosen pictures their old comments again</source>
+        <translation>Den gewählten Bildern ihre alten Kommentare zurückgeben</translation>
+    </message>
+    <message>
+        <source>Undo This Run</source>
+        <translation>Rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Search the Log</source>
+        <translation>Im Protokoll suchen</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Quorlin</source>
+        <translation>Quorlin</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Bilder hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add pictures (Ctrl+O)</source>
+        <translation>Bilder hinzufügen (Strg+O)</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Ordner hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <translation>Alle Bilder eines Ordners und seiner Unterordner hinzufügen (Strg+Umschalt+O)</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Take all pictures off the list; the files stay</source>
+        <translation>Alle Bilder aus der Liste nehmen; die Dateien bleiben</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>How the preview fits its place</source>
+        <translation>Wie die Vorschau ihren Platz ausfüllt</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Full screen and back (F11)</source>
+        <translation>Vollbild ein und aus (F11)</translation>
+    </message>
+    <message>
+        <source>Choose a folder for your own background patterns?</source>
+        <translation>Einen Ordner für eigene Hintergrundmuster wählen?</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>It can be chosen in the preferences at any time (Ctrl+,)</source>
+        <translation>Er lässt sich jederzeit in den Einstellungen wählen (Strg+,)</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Aktionen</translation>
+    </message>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Bilder oder Ordner hier ablegen</translation>
+    </message>
+    <message>
+        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
+        <translation>Wählen Sie dann links, was mit ihnen geschehen soll. Ihre Originale bleiben, wie sie sind, sofern Sie nichts anderes bestimmen.</translation>
+    </message>
+    <message>
+        <source>Preview of the original and the result</source>
+        <translation>Vorschau von Original und Ergebnis</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Simulation: show, move nothing</source>
+        <translation>Simulation: zeigen, nichts bewegen</translation>
+    </message>
+    <message>
+        <source>What simulation means</source>
+        <translation>Was Simulation bedeutet</translation>
+    </message>
+    <message>
+        <source>Resize Pictures</source>
+        <translation>Bilder skalieren</translation>
+    </message>
+    <message>
+        <source>Start (Ctrl+Return)</source>
+        <translation>Starten (Strg+Eingabe)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Fortschritt des Durchlaufs</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop after the current picture (Esc)</source>
+        <translation>Nach dem laufenden Bild anhalten (Esc)</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Show Failed</source>
+        <translation>Fehler zeigen</translation>
+    </message>
+    <message>
+        <source>Retry Failed</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Save Report…</source>
+        <translation>Bericht speichern…</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Recent &amp;Folders</source>
+        <translation>&amp;Letzte Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>&amp;Darstellung</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>D&amp;urchlauf</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Add Pictures…</source>
+        <translation>Bilder &amp;hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folder…</source>
+        <translation>&amp;Ordner hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Save Picture &amp;As…</source>
+        <translation>Bild speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Save Report…</source>
+        <translation>Be&amp;richt speichern…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Pictures</source>
+        <translation>Bilder &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>Aus Liste ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Einstellungen…</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Preview</source>
+        <translation>Vorschau &amp;einpassen</translation>
+    </message>
+    <message>
+        <source>F&amp;ill Preview</source>
+        <translation>Vorschau &amp;füllen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Picture</source>
+        <translation>&amp;Nächstes Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Picture</source>
+        <translation>&amp;Vorheriges Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Large Preview</source>
+        <translation>&amp;Große Vorschau</translation>
+    </message>
+    <message>
+        <source>Like the &amp;System</source>
+        <translation>Wie das &amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>Full &amp;Screen</source>
+        <translation>Voll&amp;bild</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Starten</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>&amp;Umbenennen…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Last Run</source>
+        <translation>Letzten Durchlauf &amp;zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Failed Only</source>
+        <translation>Nur &amp;Fehlgeschlagene zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Retry Failed</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>&amp;Seite einrichten…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken…</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Handbuch</translation>
+    </message>
+    <message>
+        <source>Look for a &amp;New Version</source>
+        <translation>Nach &amp;neuer Version suchen</translation>
+    </message>
+    <message>
+        <source>&amp;About Quorlin</source>
+        <translation>&amp;Über Quorlin</translation>
+    </message>
+</context>
+<context>
+    <name>Manual</name>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Back (Alt+Left)</source>
+        <translation>Zurück (Alt+Links)</translation>
+    </message>
+    <message>
+        <source>Forward (Alt+Right)</source>
+        <translation>Vor (Alt+Rechts)</translation>
+    </message>
+    <message>
+        <source>Find in the manual</source>
+        <translation>Im Handbuch suchen</translation>
+    </message>
+    <message>
+        <source>Return shows the next place (Ctrl+F, F3)</source>
+        <translation>Die Eingabetaste zeigt die nächste Stelle (Strg+F, F3)</translation>
+    </message>
+    <message>
+        <source>Pages of the manual</source>
+        <translation>Seiten des Handbuchs</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Seite des Handbuchs</translation>
+    </message>
+</context>
+<context>
+    <name>MetadataPage</name>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Bilder oder Ordner hier ablegen</translation>
+    </message>
+    <message>
+        <source>All properties of each are shown, and its comment can be read, written and reverted.</source>
+        <translation>Zu jedem werden alle Eigenschaften gezeigt; seinen Kommentar können Sie lesen, schreiben und zurücksetzen.</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Bilder hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Ordner hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Search properties</source>
+        <translation>Eigenschaften suchen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the chosen value or branch (Ctrl+C in the tree), or the place where the picture was taken</source>
+        <translation>Gewählten Wert oder Zweig kopieren (Strg+C im Baum) oder den Ort der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Properties of the picture</source>
+        <translation>Eigenschaften des Bildes</translation>
+    </message>
+    <message>
+        <source>The picture</source>
+        <translation>Das Bild</translation>
+    </message>
+    <message>
+        <source>User comment</source>
+        <translation>Benutzerkommentar</translation>
+    </message>
+    <message>
+        <source>Whose comment is written</source>
+        <translation>Wessen Kommentar geschrieben wird</translation>
+    </message>
+    <message>
+        <source>Insert Token…</source>
+        <translation>Platzhalter einfügen…</translation>
+    </message>
+    <message>
+        <source>Insert what stands for something that each picture has</source>
+        <translation>Einfügen, was für einen Wert jedes Bildes steht</translation>
+    </message>
+    <message>
+        <source>Edit Log</source>
+        <translation>Kommentarprotokoll</translation>
+    </message>
+    <message>
+        <source>Show what was written into comments, with old and new comments, and revert it</source>
+        <translation>Zeigen, was in Kommentare geschrieben wurde, mit altem und neuem Text, und es zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Progress of the comments</source>
+        <translation>Fortschritt der Kommentare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop after the picture that is being written (Esc)</source>
+        <translation>Nach dem Bild anhalten, das gerade geschrieben wird (Esc)</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Give the pictures of the last run their old comments again</source>
+        <translation>Den Bildern des letzten Durchlaufs ihre alten Kommentare zurückgeben</translation>
+    </message>
+    <message>
+        <source>Choose Files…</source>
+        <translation>Dateien wählen…</translation>
+    </message>
+    <message>
+        <source>Choose JPEG and TIFF files and write the comment into each</source>
+        <translation>JPEG- und TIFF-Dateien wählen und den Kommentar in jede schreiben</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>Choose a folder and write the comment into each JPEG and TIFF file in it and in its folders</source>
+        <translation>Einen Ordner wählen und den Kommentar in jede JPEG- und TIFF-Datei darin und in seinen Unterordnern schreiben</translation>
+    </message>
+    <message>
+        <source>Write into All…</source>
+        <translation>In alle schreiben…</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Write the comment into this picture</source>
+        <translation>Kommentar in dieses Bild schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>NewVersion</name>
+    <message>
+        <source>New version</source>
+        <translation>Neue Version</translation>
+    </message>
+    <message>
+        <source>A new version of Quorlin is available</source>
+        <translation>Eine neue Version von Quorlin ist verfügbar</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>Was ist neu</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Go to Product Page</source>
+        <translation>Zur Produktseite</translation>
+    </message>
+</context>
+<context>
+    <name>OutputPane</name>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>File type of the results</source>
+        <translation>Dateityp der Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 10</source>
+        <translation>JPEG-Qualität, 1 bis 10</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Speichern in</translation>
+    </message>
+    <message>
+        <source>Folder of the results</source>
+        <translation>Ordner der Ergebnisse</translation>
+    </message>
+    <message>
+        <source>About the folder of the results</source>
+        <translation>Über den Ordner der Ergebnisse</translation>
+    </message>
+    <message>
+        <source>If name is taken</source>
+        <translation>Name vergeben</translation>
+    </message>
+    <message>
+        <source>If a file of that name is there</source>
+        <translation>Wenn es schon eine Datei dieses Namens gibt</translation>
+    </message>
+    <message>
+        <source>Simulation: show, write nothing</source>
+        <translation>Simulation: zeigen, nichts schreiben</translation>
+    </message>
+    <message>
+        <source>What simulation means</source>
+        <translation>Was Simulation bedeutet</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Support folder</source>
+        <translation>Hilfsordner</translation>
+    </message>
+    <message>
+        <source>None chosen yet</source>
+        <translation>Noch keiner gewählt</translation>
+    </message>
+    <message>
+        <source>Quorlin keeps your background patterns in a folder below this one. Whatever you put there can be chosen in Background &amp; Border.</source>
+        <translation>Quorlin bewahrt Ihre Hintergrundmuster in einem Ordner unter diesem auf. Was Sie dort ablegen, lässt sich in Hintergrund &amp; Rand wählen.</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Ändern…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Takes effect when Quorlin starts again.</source>
+        <translation>Gilt ab dem nächsten Start von Quorlin.</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>If name is taken</source>
+        <translation>Name vergeben</translation>
+    </message>
+    <message>
+        <source>What an action does at first where a name is taken</source>
+        <translation>Was eine Aktion anfangs tut, wenn ein Name vergeben ist</translation>
+    </message>
+    <message>
+        <source>For actions that you use for the first time; each one keeps what you choose there.</source>
+        <translation>Für Aktionen, die Sie zum ersten Mal verwenden; jede merkt sich, was Sie dort wählen.</translation>
+    </message>
+    <message>
+        <source>Log keeps</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>How many entries the log keeps</source>
+        <translation>Wie viele Einträge das Protokoll behält</translation>
+    </message>
+    <message>
+        <source>Look for a new version at every start</source>
+        <translation>Bei jedem Start nach einer neuen Version suchen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>PresetPane</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>Save, rename, delete, export or import presets</source>
+        <translation>Vorgaben speichern, umbenennen, löschen, exportieren oder importieren</translation>
+    </message>
+    <message>
+        <source>About presets</source>
+        <translation>Über Vorgaben</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Name der Vorgabe</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <translation>Laufwerk</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Files that can be chosen</source>
+        <translation>Wählbare Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Alle speichern</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintPropertiesDialog</name>
+    <message>
+        <source>Printer Properties</source>
+        <translation>Eigenschaften des Druckers</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintPropertiesWidget</name>
+    <message>
+        <source>Advanced</source>
+        <translation>Erweitert</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintSettingsOutput</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Double Sided Printing</source>
+        <translation>Beidseitig</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Long side binding</source>
+        <translation>Bindung an langer Seite</translation>
+    </message>
+    <message>
+        <source>Short side binding</source>
+        <translation>Bindung an kurzer Seite</translation>
+    </message>
+</context>
+<context>
+    <name>RenameCard</name>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Move this step (arrow keys)</source>
+        <translation>Schritt verschieben (Pfeiltasten)</translation>
+    </message>
+    <message>
+        <source>Drag to another place, or Alt+Up and Alt+Down</source>
+        <translation>An einen anderen Platz ziehen oder Alt+Hoch und Alt+Runter</translation>
+    </message>
+    <message>
+        <source>Use this step</source>
+        <translation>Schritt verwenden</translation>
+    </message>
+    <message>
+        <source>Show or hide its settings</source>
+        <translation>Einstellungen ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Remove this step</source>
+        <translation>Schritt entfernen</translation>
+    </message>
+    <message>
+        <source>Remove this step (Ctrl+Del)</source>
+        <translation>Schritt entfernen (Strg+Entf)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Insert a value of the file</source>
+        <translation>Einen Wert der Datei einfügen</translation>
+    </message>
+    <message>
+        <source>With</source>
+        <translation>Durch</translation>
+    </message>
+    <message>
+        <source>How</source>
+        <translation>Wie</translation>
+    </message>
+    <message>
+        <source>How many</source>
+        <translation>Wie viele</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Works on</source>
+        <translation>Wirkt auf</translation>
+    </message>
+</context>
+<context>
+    <name>RenamePane</name>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>What is renamed</source>
+        <translation>Was umbenannt wird</translation>
+    </message>
+    <message>
+        <source>No steps yet: names stay as they are. Add a step, or choose a preset.</source>
+        <translation>Noch keine Schritte: Namen bleiben, wie sie sind. Fügen Sie einen Schritt hinzu oder wählen Sie eine Vorgabe.</translation>
+    </message>
+    <message>
+        <source>+ Add Step…</source>
+        <translation>+ Schritt…</translation>
+    </message>
+    <message>
+        <source>Add a step (Ctrl+Shift+A)</source>
+        <translation>Schritt hinzufügen (Strg+Umschalt+A)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Example</source>
+        <translation>Beispiel</translation>
+    </message>
+    <message>
+        <source>Take sidecar files (.xmp …) along</source>
+        <translation>Begleitdateien (.xmp …) mitnehmen</translation>
+    </message>
+    <message>
+        <source>Files of other programs that bear the name of a picture get its new name too</source>
+        <translation>Dateien anderer Programme, die den Namen eines Bildes tragen, bekommen ebenfalls den neuen Namen</translation>
+    </message>
+</context>
+<context>
+    <name>ResizePane</name>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Längste</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>What the size is given by</source>
+        <translation>Wodurch die Größe bestimmt wird</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Längste Seite</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Neue Größe</translation>
+    </message>
+    <message>
+        <source>Width of the box</source>
+        <translation>Breite des Formats</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Height of the box</source>
+        <translation>Höhe des Formats</translation>
+    </message>
+    <message>
+        <source>Unit of the size</source>
+        <translation>Einheit der Größe</translation>
+    </message>
+    <message>
+        <source>Unit of the size: pixels, millimetres, centimetres, inches, picas, points</source>
+        <translation>Einheit der Größe: Pixel, Millimeter, Zentimeter, Zoll, Pica, Punkt</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>How the picture fits the box</source>
+        <translation>Wie das Bild ins Format passt</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>Never enlarge</source>
+        <translation>Nie vergrößern</translation>
+    </message>
+</context>
+<context>
+    <name>RoundPane</name>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Shape that is cut out</source>
+        <translation>Form, die ausgeschnitten wird</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Radius of the corners</source>
+        <translation>Radius der Ecken</translation>
+    </message>
+    <message>
+        <source>Colour outside the shape</source>
+        <translation>Farbe außerhalb der Form</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Width of the coloured band inside the edge</source>
+        <translation>Breite des farbigen Rahmens innen am Rand</translation>
+    </message>
+    <message>
+        <source>A band of the colour inside the edge; 0 is none</source>
+        <translation>Ein Rahmen dieser Farbe innen am Rand; 0: keiner</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>SaveAs</name>
+    <message>
+        <source>File &amp;type</source>
+        <translation>Datei&amp;typ</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>&amp;Qualität</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 9</source>
+        <translation>JPEG-Qualität, 1 bis 9</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Estimated size of the file</source>
+        <translation>Geschätzte Größe der Datei</translation>
+    </message>
+    <message>
+        <source>Preview of the original and of what is saved</source>
+        <translation>Vorschau von Original und gespeichertem Bild</translation>
+    </message>
+</context>
+<context>
+    <name>SortPane</name>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>First level of folders</source>
+        <translation>Erste Ordnerebene</translation>
+    </message>
+    <message>
+        <source>in them</source>
+        <translation>darin</translation>
+    </message>
+    <message>
+        <source>Second level of folders</source>
+        <translation>Zweite Ordnerebene</translation>
+    </message>
+    <message>
+        <source>in those</source>
+        <translation>darin</translation>
+    </message>
+    <message>
+        <source>Third level of folders</source>
+        <translation>Dritte Ordnerebene</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Pattern of folders</source>
+        <translation>Ordnermuster</translation>
+    </message>
+    <message>
+        <source>Text and tokens in braces, with “/” between the levels of folders</source>
+        <translation>Text und Platzhalter in geschweiften Klammern, mit „/“ zwischen den Ordnerebenen</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Insert a token</source>
+        <translation>Platzhalter einfügen</translation>
+    </message>
+    <message>
+        <source>Without a date</source>
+        <translation>Ohne Datum</translation>
+    </message>
+    <message>
+        <source>What becomes of files without a date taken</source>
+        <translation>Was mit Dateien ohne Aufnahmedatum geschieht</translation>
+    </message>
+    <message>
+        <source>Name of the folder for files without a date taken</source>
+        <translation>Name des Ordners für Dateien ohne Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Move, copy or link</source>
+        <translation>Verschieben, kopieren oder verknüpfen</translation>
+    </message>
+    <message>
+        <source>Into</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>Where the folders are made</source>
+        <translation>Wo die Ordner angelegt werden</translation>
+    </message>
+    <message>
+        <source>If name is taken</source>
+        <translation>Name vergeben</translation>
+    </message>
+</context>
+<context>
+    <name>SortTree</name>
+    <message>
+        <source>Folders after the run</source>
+        <translation>Ordner danach</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>Show all files in the list again</source>
+        <translation>Wieder alle Dateien in der Liste zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>TurnPane</name>
+    <message>
+        <source>90°</source>
+        <translation>90°</translation>
+    </message>
+    <message>
+        <source>Turn 90 degrees to the left</source>
+        <translation>Um 90 Grad nach links drehen</translation>
+    </message>
+    <message>
+        <source>90 degrees to the left</source>
+        <translation>90 Grad nach links</translation>
+    </message>
+    <message>
+        <source>Turn 90 degrees to the right</source>
+        <translation>Um 90 Grad nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>90 degrees to the right</source>
+        <translation>90 Grad nach rechts</translation>
+    </message>
+    <message>
+        <source>180°</source>
+        <translation>180°</translation>
+    </message>
+    <message>
+        <source>Turn 180 degrees</source>
+        <translation>Um 180 Grad drehen</translation>
+    </message>
+    <message>
+        <source>Half a turn</source>
+        <translation>Halbe Drehung</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Angle, counter-clockwise</source>
+        <translation>Winkel, gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Angle in degrees, counter-clockwise</source>
+        <translation>Winkel in Grad, gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>nach links</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Flip horizontally: left and right change places</source>
+        <translation>Horizontal spiegeln: links und rechts vertauschen</translation>
+    </message>
+    <message>
+        <source>Left and right change places</source>
+        <translation>Links und rechts vertauschen</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>Flip vertically: top and bottom change places</source>
+        <translation>Vertikal spiegeln: oben und unten vertauschen</translation>
+    </message>
+    <message>
+        <source>Top and bottom change places</source>
+        <translation>Oben und unten vertauschen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Back to no turn and no flip</source>
+        <translation>Zurück zu keiner Drehung und Spiegelung</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>about</name>
+    <message>
+        <source>Quorlin %1</source>
+        <translation>Quorlin %1</translation>
+    </message>
+</context>
+<context>
+    <name>actions</name>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+</context>
+<context>
+    <name>background-action</name>
+    <message>
+        <source>Background &amp; Border</source>
+        <translation>Hintergrund &amp; Rand</translation>
+    </message>
+    <message numerus="yes">
+        <source>Frame %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild rahmen</numerusform>
+            <numerusform>%n Bilder rahmen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>background-pane</name>
+    <message>
+        <source>Checks</source>
+        <translation>Karos</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Linen</source>
+        <translation>Leinen</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>White, 10 pixels around</source>
+        <translation>Weiß, ringsum 10 Pixel</translation>
+    </message>
+    <message>
+        <source>Coloured band inside</source>
+        <translation>Farbiger Rahmen innen</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Choose a pattern</source>
+        <translation>Muster wählen</translation>
+    </message>
+</context>
+<context>
+    <name>background-presets</name>
+    <message>
+        <source>White background</source>
+        <translation>Weißer Hintergrund</translation>
+    </message>
+    <message>
+        <source>White frame</source>
+        <translation>Weißer Rand</translation>
+    </message>
+    <message>
+        <source>Black band</source>
+        <translation>Schwarzer Rahmen</translation>
+    </message>
+    <message>
+        <source>Ivory mount</source>
+        <translation>Passepartout Elfenbein</translation>
+    </message>
+    <message>
+        <source>On paper</source>
+        <translation>Auf Papier</translation>
+    </message>
+</context>
+<context>
+    <name>background-step</name>
+    <message>
+        <source>Framed</source>
+        <translation>Gerahmt</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>auf %1</translation>
+    </message>
+    <message>
+        <source>on pattern %1</source>
+        <translation>auf Muster %1</translation>
+    </message>
+    <message>
+        <source>white frame</source>
+        <translation>weißer Rand</translation>
+    </message>
+    <message>
+        <source>band of %1 px in %2</source>
+        <translation>Rahmen von %1 px in %2</translation>
+    </message>
+    <message>
+        <source>Choose a pattern.</source>
+        <translation>Wählen Sie ein Muster.</translation>
+    </message>
+    <message>
+        <source>Enter a width of the band from 1 to %1.</source>
+        <translation>Geben Sie eine Rahmenbreite von 1 bis %1 ein.</translation>
+    </message>
+    <message>
+        <source>the band would cover all of it</source>
+        <translation>der Rahmen würde alles bedecken</translation>
+    </message>
+    <message>
+        <source>A %1 picture has no transparent parts: it stays as it looks.</source>
+        <translation>Ein %1-Bild hat keine transparenten Bereiche: Es bleibt, wie es aussieht.</translation>
+    </message>
+</context>
+<context>
+    <name>comment-job</name>
+    <message>
+        <source>Write comment, keep the first page only</source>
+        <translation>Kommentar schreiben, nur die erste Seite behalten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n Problem</numerusform>
+            <numerusform>%n Probleme</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped:</source>
+        <translation>Gestoppt:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments written</source>
+        <translation>
+            <numerusform>%n Kommentar geschrieben</numerusform>
+            <numerusform>%n Kommentare geschrieben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments reverted</source>
+        <translation>
+            <numerusform>%n Kommentar zurückgesetzt</numerusform>
+            <numerusform>%n Kommentare zurückgesetzt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>comment-run</name>
+    <message>
+        <source>The file does not say what was written into it.</source>
+        <translation>In der Datei steht nicht, was in sie geschrieben wurde.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages were taken out and do not come back.</source>
+        <translation>
+            <numerusform>%n weitere Seite wurde entfernt und kommt nicht zurück.</numerusform>
+            <numerusform>%n weitere Seiten wurden entfernt und kommen nicht zurück.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n further pages, which would be lost.</source>
+        <translation>
+            <numerusform>Sie hat %n weitere Seite, die verloren ginge.</numerusform>
+            <numerusform>Sie hat %n weitere Seiten, die verloren gingen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file is not there any more.</source>
+        <translation>Die Datei ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>It has its old comment already.</source>
+        <translation>Es hat seinen alten Kommentar schon.</translation>
+    </message>
+    <message>
+        <source>The comment was changed since and stays: “%1”</source>
+        <translation>Der Kommentar wurde seitdem geändert und bleibt: „%1“</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more files</source>
+        <translation>
+            <numerusform>%n weitere Datei</numerusform>
+            <numerusform>%n weitere Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” was written</source>
+        <translation>„%1“ wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>“%1” was emptied</source>
+        <translation>„%1“ wurde geleert</translation>
+    </message>
+    <message>
+        <source>“%1” became “%2”</source>
+        <translation>aus „%1“ wurde „%2“</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+</context>
+<context>
+    <name>convert-action</name>
+    <message>
+        <source>Convert</source>
+        <translation>Umwandeln</translation>
+    </message>
+    <message numerus="yes">
+        <source>Convert %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild umwandeln</numerusform>
+            <numerusform>%n Bilder umwandeln</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>convert-pane</name>
+    <message>
+        <source>1 – smallest file</source>
+        <translation>1 – kleinste Datei</translation>
+    </message>
+    <message>
+        <source>9 – best</source>
+        <translation>9 – beste Qualität</translation>
+    </message>
+</context>
+<context>
+    <name>convert-presets</name>
+    <message>
+        <source>JPEG for everyone</source>
+        <translation>JPEG für alle</translation>
+    </message>
+    <message>
+        <source>Small JPEG</source>
+        <translation>Kleines JPEG</translation>
+    </message>
+    <message>
+        <source>PNG with all metadata</source>
+        <translation>PNG mit allen Metadaten</translation>
+    </message>
+    <message>
+        <source>TIFF for printing</source>
+        <translation>TIFF für den Druck</translation>
+    </message>
+    <message>
+        <source>PDF pages</source>
+        <translation>PDF-Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>convert-step</name>
+    <message>
+        <source>Converted</source>
+        <translation>Umgewandelt</translation>
+    </message>
+    <message>
+        <source>to %1, quality %2</source>
+        <translation>in %1, Qualität %2</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message>
+        <source>Choose what to convert to.</source>
+        <translation>Wählen Sie, worin umgewandelt wird.</translation>
+    </message>
+    <message>
+        <source>Choose a quality from 1 to 9.</source>
+        <translation>Wählen Sie eine Qualität von 1 bis 9.</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>kein lesbares Bild</translation>
+    </message>
+    <message>
+        <source>the file could not be written</source>
+        <translation>die Datei konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the file was written but cannot be read again</source>
+        <translation>die Datei wurde geschrieben, lässt sich aber nicht wieder lesen</translation>
+    </message>
+    <message>
+        <source>the metadata could not be written (%1); the disk may be full</source>
+        <translation>die Metadaten konnten nicht geschrieben werden (%1); vielleicht ist der Datenträger voll</translation>
+    </message>
+</context>
+<context>
+    <name>crop-action</name>
+    <message>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Crop %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild zuschneiden</numerusform>
+            <numerusform>%n Bilder zuschneiden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>crop-pane</name>
+    <message>
+        <source>W × H</source>
+        <translation>B × H</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>%1 at %2, %3</source>
+        <translation>%1 bei %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>crop-presets</name>
+    <message>
+        <source>Centre square 1080</source>
+        <translation>Quadrat aus der Mitte 1080</translation>
+    </message>
+    <message>
+        <source>3:2, 1800 × 1200</source>
+        <translation>3:2, 1800 × 1200</translation>
+    </message>
+    <message>
+        <source>4:3, 1600 × 1200</source>
+        <translation>4:3, 1600 × 1200</translation>
+    </message>
+    <message>
+        <source>16:9, 1920 × 1080</source>
+        <translation>16:9, 1920 × 1080</translation>
+    </message>
+    <message>
+        <source>Trim 5 %</source>
+        <translation>5 % beschneiden</translation>
+    </message>
+</context>
+<context>
+    <name>crop-step</name>
+    <message>
+        <source>Cropped</source>
+        <translation>Zugeschnitten</translation>
+    </message>
+    <message>
+        <source>%1 % away</source>
+        <translation>%1 % ab</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixels away</source>
+        <translation>
+            <numerusform>%n Pixel ab</numerusform>
+            <numerusform>%n Pixel ab</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>moved %1, %2 %3</source>
+        <translation>versetzt %1, %2 %3</translation>
+    </message>
+    <message>
+        <source>position %1</source>
+        <translation>Position %1</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 0 to 99 per cent.</source>
+        <translation>Geben Sie eine ganze Zahl von 0 bis 99 Prozent ein.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 0 to %1.</source>
+        <translation>Geben Sie eine ganze Zahl von 0 bis %1 ein.</translation>
+    </message>
+    <message>
+        <source>Enter a width and a height.</source>
+        <translation>Geben Sie Breite und Höhe ein.</translation>
+    </message>
+    <message>
+        <source>Choose one of the nine positions.</source>
+        <translation>Wählen Sie eine der neun Positionen.</translation>
+    </message>
+    <message>
+        <source>Enter offsets from %1 to %2.</source>
+        <translation>Geben Sie für den Versatz Werte von %1 bis %2 ein.</translation>
+    </message>
+    <message>
+        <source>nothing would be left of it</source>
+        <translation>es bliebe nichts davon übrig</translation>
+    </message>
+    <message>
+        <source>the frame lies outside the picture</source>
+        <translation>der Ausschnitt liegt außerhalb des Bildes</translation>
+    </message>
+    <message>
+        <source>Cut off at the picture’s edge.</source>
+        <translation>Am Bildrand abgeschnitten.</translation>
+    </message>
+</context>
+<context>
+    <name>files</name>
+    <message>
+        <source>Cannot read %1: it is not UTF-8 text</source>
+        <translation>%1 kann nicht gelesen werden: kein Text in UTF-8</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 bleibt, wie es ist: %2</translation>
+    </message>
+    <message>
+        <source>A part of %1 could not be removed and is still there</source>
+        <translation>Ein Teil von %1 konnte nicht entfernt werden und ist noch da</translation>
+    </message>
+    <message>
+        <source>%1; a copy is at %2</source>
+        <translation>%1; eine Kopie liegt unter %2</translation>
+    </message>
+    <message>
+        <source>%1 is gone; what was copied of it is at %2</source>
+        <translation>%1 ist weg; was davon kopiert wurde, liegt unter %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be put away</source>
+        <translation>%1 konnte nicht weggeräumt werden</translation>
+    </message>
+    <message>
+        <source>%1 is also at %2</source>
+        <translation>%1 liegt auch unter %2</translation>
+    </message>
+    <message>
+        <source>%1 had only its temporary name left and is now called %2</source>
+        <translation>%1 hatte nur noch seinen vorläufigen Namen und heißt jetzt %2</translation>
+    </message>
+    <message>
+        <source>The journal of this run is damaged: %1</source>
+        <translation>Das Protokoll dieses Durchlaufs ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>The name %1 was taken in the meantime; the item is now called %2</source>
+        <translation>Der Name %1 wurde inzwischen vergeben; das Element heißt jetzt %2</translation>
+    </message>
+    <message>
+        <source>The run was interrupted</source>
+        <translation>Der Durchlauf wurde unterbrochen</translation>
+    </message>
+    <message>
+        <source>Nothing is known of this run any more</source>
+        <translation>Über diesen Durchlauf ist nichts mehr bekannt</translation>
+    </message>
+    <message>
+        <source>This run has not ended yet</source>
+        <translation>Dieser Durchlauf ist noch nicht beendet</translation>
+    </message>
+    <message>
+        <source>Nothing was done in this run</source>
+        <translation>In diesem Durchlauf wurde nichts getan</translation>
+    </message>
+    <message>
+        <source>This run was taken back already</source>
+        <translation>Dieser Durchlauf wurde schon zurückgenommen</translation>
+    </message>
+    <message>
+        <source>Nothing of this run can be taken back any more</source>
+        <translation>Von diesem Durchlauf lässt sich nichts mehr zurücknehmen</translation>
+    </message>
+    <message>
+        <source>%1 could not be copied correctly</source>
+        <translation>%1 konnte nicht richtig kopiert werden</translation>
+    </message>
+    <message>
+        <source>The name %1 cannot be used on this disk</source>
+        <translation>Der Name %1 ist auf diesem Laufwerk nicht möglich</translation>
+    </message>
+    <message>
+        <source>The name %1 is too long for this disk</source>
+        <translation>Der Name %1 ist für dieses Laufwerk zu lang</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more</source>
+        <translation>%1 ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>The name %1 is taken</source>
+        <translation>Der Name %1 ist vergeben</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot go into itself</source>
+        <translation>Der Ordner %1 kann nicht in sich selbst</translation>
+    </message>
+    <message>
+        <source>%1 or its folder may not be changed</source>
+        <translation>%1 oder sein Ordner darf nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>%1, which it belongs to, keeps its name</source>
+        <translation>%1, wozu es gehört, behält seinen Namen</translation>
+    </message>
+    <message>
+        <source>%1 was changed or replaced in the meantime</source>
+        <translation>%1 wurde inzwischen geändert oder ersetzt</translation>
+    </message>
+    <message>
+        <source>There is no room left on the disk for %1</source>
+        <translation>Auf dem Laufwerk ist kein Platz mehr für %1</translation>
+    </message>
+    <message>
+        <source>%1 is the original itself by now, no copy of it</source>
+        <translation>%1 ist inzwischen das Original selbst und keine Kopie davon</translation>
+    </message>
+    <message>
+        <source>%1 could not get its new name, and others wait for its old one</source>
+        <translation>%1 konnte seinen neuen Namen nicht bekommen, und andere warten auf seinen alten</translation>
+    </message>
+</context>
+<context>
+    <name>files::FileService</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+</context>
+<context>
+    <name>files::MoveService</name>
+    <message>
+        <source>This run is not open</source>
+        <translation>Dieser Durchlauf ist nicht offen</translation>
+    </message>
+    <message>
+        <source>Copying or moving a file</source>
+        <translation>Kopieren oder Verschieben einer Datei</translation>
+    </message>
+    <message>
+        <source>%1 had been put aside and has a name again</source>
+        <translation>%1 war beiseitegelegt und hat wieder einen Namen</translation>
+    </message>
+</context>
+<context>
+    <name>hand-action</name>
+    <message>
+        <source>Sort by Hand</source>
+        <translation>Von Hand sortieren</translation>
+    </message>
+</context>
+<context>
+    <name>hand-page</name>
+    <message>
+        <source>In the trash</source>
+        <translation>Im Papierkorb</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>file of %1</source>
+        <translation>Datei vom %1</translation>
+    </message>
+    <message>
+        <source>Take back the last deed (Ctrl+Z)</source>
+        <translation>Letzten Schritt zurücknehmen (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Take back: %1 (Ctrl+Z)</source>
+        <translation>Zurücknehmen: %1 (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Keys move pictures now.</source>
+        <translation>Die Tasten verschieben jetzt Bilder.</translation>
+    </message>
+    <message>
+        <source>Keys copy pictures now.</source>
+        <translation>Die Tasten kopieren jetzt Bilder.</translation>
+    </message>
+    <message>
+        <source>Keys link pictures now.</source>
+        <translation>Die Tasten verknüpfen jetzt Bilder.</translation>
+    </message>
+    <message>
+        <source>%1: %2. The picture stays where it is.</source>
+        <translation>%1: %2. Das Bild bleibt, wo es ist.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>That was the last picture. All of them are sorted.</source>
+        <translation>Das war das letzte Bild. Alle sind sortiert.</translation>
+    </message>
+    <message>
+        <source>That was the last picture. %1</source>
+        <translation>Das war das letzte Bild. %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were skipped.</source>
+        <translation>
+            <numerusform>%n wurde übersprungen.</numerusform>
+            <numerusform>%n wurden übersprungen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>hand-pane</name>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Verknüpfen</translation>
+    </message>
+    <message>
+        <source>The picture leaves its folder. (Alt+1)</source>
+        <translation>Das Bild verlässt seinen Ordner. (Alt+1)</translation>
+    </message>
+    <message>
+        <source>The picture stays, and a copy goes into the folder. (Alt+2)</source>
+        <translation>Das Bild bleibt, und eine Kopie kommt in den Ordner. (Alt+2)</translation>
+    </message>
+    <message>
+        <source>The picture stays, and the folder gets a link to it. (Alt+3)</source>
+        <translation>Das Bild bleibt, und der Ordner bekommt eine Verknüpfung darauf. (Alt+3)</translation>
+    </message>
+    <message>
+        <source>Change Label</source>
+        <translation>Bezeichnung ändern</translation>
+    </message>
+    <message>
+        <source>Show Folder</source>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Aus Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Remove All…</source>
+        <translation>Alle entfernen…</translation>
+    </message>
+    <message>
+        <source>Remove all folders</source>
+        <translation>Alle Ordner entfernen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take all %n folders off the list?</source>
+        <translation>
+            <numerusform>Den Ordner aus der Liste nehmen?</numerusform>
+            <numerusform>Alle %n Ordner aus der Liste nehmen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The folders themselves stay as they are, and so do presets.</source>
+        <translation>Die Ordner selbst bleiben, wie sie sind, ebenso die Vorgaben.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Choose a folder to sort into</source>
+        <translation>Zielordner wählen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders are in the list already.</source>
+        <translation>
+            <numerusform>%n Ordner ist schon in der Liste.</numerusform>
+            <numerusform>%n Ordner sind schon in der Liste.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are keys for %n folders only.</source>
+        <translation>
+            <numerusform>Es gibt nur für %n Ordner eine Taste.</numerusform>
+            <numerusform>Es gibt nur für %n Ordner Tasten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder cannot be called that.</source>
+        <translation>So kann ein Ordner nicht heißen.</translation>
+    </message>
+    <message>
+        <source>There is something of this name already.</source>
+        <translation>Etwas mit diesem Namen gibt es schon.</translation>
+    </message>
+    <message>
+        <source>In %1</source>
+        <translation>In %1</translation>
+    </message>
+</context>
+<context>
+    <name>hand-slots</name>
+    <message>
+        <source>not there</source>
+        <translation>nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>not a folder</source>
+        <translation>kein Ordner</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>nicht beschreibbar</translation>
+    </message>
+</context>
+<context>
+    <name>hand-sorting</name>
+    <message>
+        <source>Moved to %1</source>
+        <translation>Verschoben nach %1</translation>
+    </message>
+    <message>
+        <source>Copied to %1</source>
+        <translation>Kopiert nach %1</translation>
+    </message>
+    <message>
+        <source>Linked in %1</source>
+        <translation>Verknüpft in %1</translation>
+    </message>
+    <message>
+        <source>In the trash</source>
+        <translation>Im Papierkorb</translation>
+    </message>
+    <message>
+        <source>Move to %1</source>
+        <translation>Verschieben nach %1</translation>
+    </message>
+    <message>
+        <source>Copy to %1</source>
+        <translation>Kopieren nach %1</translation>
+    </message>
+    <message>
+        <source>Link in %1</source>
+        <translation>Verknüpfen in %1</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>This picture is in the trash. Undo brings it back.</source>
+        <translation>Dieses Bild ist im Papierkorb. „Rückgängig“ holt es zurück.</translation>
+    </message>
+    <message>
+        <source>This picture is in %1 already.</source>
+        <translation>Dieses Bild ist schon in %1.</translation>
+    </message>
+    <message>
+        <source>This picture is in the trash already.</source>
+        <translation>Dieses Bild ist schon im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>There is nothing left to undo.</source>
+        <translation>Es gibt nichts mehr zurückzunehmen.</translation>
+    </message>
+    <message>
+        <source>Sort by Hand</source>
+        <translation>Von Hand sortieren</translation>
+    </message>
+</context>
+<context>
+    <name>hand-step</name>
+    <message>
+        <source>move</source>
+        <translation>verschieben</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>kopieren</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>verknüpfen</translation>
+    </message>
+</context>
+<context>
+    <name>help</name>
+    <message>
+        <source>The manual is not installed.</source>
+        <translation>Das Handbuch ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Looking for a new version…</source>
+        <translation>Nach einer neuen Version wird gesucht…</translation>
+    </message>
+    <message>
+        <source>This is the newest version.</source>
+        <translation>Dies ist die neueste Version.</translation>
+    </message>
+    <message>
+        <source>Nobody answers where new versions are announced.</source>
+        <translation>Die Stelle, die neue Versionen ankündigt, antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>This installation does not know where new versions are announced.</source>
+        <translation>Diese Installation weiß nicht, wo neue Versionen angekündigt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>image::PictureService</name>
+    <message>
+        <source>not a readable picture</source>
+        <translation>kein lesbares Bild</translation>
+    </message>
+    <message>
+        <source>the pattern cannot be read</source>
+        <translation>das Muster kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>this type cannot be written</source>
+        <translation>dieser Typ kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>input</name>
+    <message>
+        <source>%1 added</source>
+        <translation>%1 hinzugefügt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were in the list already</source>
+        <translation>
+            <numerusform>%n war schon in der Liste</numerusform>
+            <numerusform>%n waren schon in der Liste</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files go along</source>
+        <translation>
+            <numerusform>%n Datei geht mit</numerusform>
+            <numerusform>%n Dateien gehen mit</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>+ %1</source>
+        <translation>+ %1</translation>
+    </message>
+    <message>
+        <source>Add all pictures of a folder</source>
+        <translation>Alle Bilder eines Ordners hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add all files of a folder</source>
+        <translation>Alle Dateien eines Ordners hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>In der Zwischenablage sind keine Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>input-words</name>
+    <message>
+        <source>No pictures yet</source>
+        <translation>Noch keine Bilder</translation>
+    </message>
+    <message>
+        <source>No pictures there</source>
+        <translation>Keine Bilder gefunden</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Bilder hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Bilder oder Ordner hier ablegen</translation>
+    </message>
+    <message>
+        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
+        <translation>Wählen Sie dann links, was mit ihnen geschehen soll. Ihre Originale bleiben, wie sie sind, sofern Sie nichts anderes bestimmen.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a picture that can be taken</source>
+        <translation>„%1“ ist kein verwendbares Bild</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are not pictures that can be taken</source>
+        <translation>
+            <numerusform>%n Datei ist kein verwendbares Bild</numerusform>
+            <numerusform>%n Dateien sind keine verwendbaren Bilder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other files of the list are not pictures that can be taken</source>
+        <translation>
+            <numerusform>%n weitere Datei der Liste ist kein verwendbares Bild</numerusform>
+            <numerusform>%n weitere Dateien der Liste sind keine verwendbaren Bilder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Noch keine Dateien</translation>
+    </message>
+    <message>
+        <source>No files there</source>
+        <translation>Keine Dateien gefunden</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>Dateien hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here</source>
+        <translation>Dateien oder Ordner hier ablegen</translation>
+    </message>
+    <message>
+        <source>Then say on the right what is to become of them. You see everything before it happens, and can undo it afterwards.</source>
+        <translation>Bestimmen Sie dann rechts, was mit ihnen geschehen soll. Sie sehen alles vorher und können es nachher rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be taken</source>
+        <translation>„%1“ ist nicht verwendbar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files cannot be taken</source>
+        <translation>
+            <numerusform>%n Datei ist nicht verwendbar</numerusform>
+            <numerusform>%n Dateien sind nicht verwendbar</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders of the list are left out</source>
+        <translation>
+            <numerusform>%n Ordner der Liste wird ausgelassen</numerusform>
+            <numerusform>%n Ordner der Liste werden ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n Ordner</numerusform>
+            <numerusform>%n Ordner</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No folders yet</source>
+        <translation>Noch keine Ordner</translation>
+    </message>
+    <message>
+        <source>No folders there</source>
+        <translation>Keine Ordner gefunden</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Ordner hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Drop folders here</source>
+        <translation>Ordner hier ablegen</translation>
+    </message>
+    <message>
+        <source>The folders themselves are worked on; what is in them stays in them.</source>
+        <translation>Bearbeitet werden die Ordner selbst; was darin ist, bleibt darin.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a folder</source>
+        <translation>„%1“ ist kein Ordner</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are not folders</source>
+        <translation>
+            <numerusform>%n Datei ist kein Ordner</numerusform>
+            <numerusform>%n Dateien sind keine Ordner</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of the list are left out</source>
+        <translation>
+            <numerusform>%n Datei der Liste wird ausgelassen</numerusform>
+            <numerusform>%n Dateien der Liste werden ausgelassen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>job</name>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>der Ordner ist nicht beschreibbar</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>es gibt schon eine Datei dieses Namens</translation>
+    </message>
+    <message>
+        <source>no free name was found</source>
+        <translation>kein freier Name gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>log-action</name>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+</context>
+<context>
+    <name>log-page</name>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Deed</source>
+        <translation>Vorgang</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Old comment</source>
+        <translation>Alter Kommentar</translation>
+    </message>
+    <message>
+        <source>New comment</source>
+        <translation>Neuer Kommentar</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Alle Durchläufe</translation>
+    </message>
+    <message>
+        <source>Undo of %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redo of %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>%1 (run of %2)</source>
+        <translation>%1 (Durchlauf vom %2)</translation>
+    </message>
+    <message>
+        <source>Any deed</source>
+        <translation>Jeder Vorgang</translation>
+    </message>
+    <message>
+        <source>Comments only</source>
+        <translation>Nur Kommentare</translation>
+    </message>
+    <message>
+        <source>Any status</source>
+        <translation>Jeder Status</translation>
+    </message>
+    <message>
+        <source>A run is being undone. Stop it first, or wait.</source>
+        <translation>Ein Durchlauf wird gerade zurückgenommen. Stoppen Sie das zuerst oder warten Sie.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln Eintrag</numerusform>
+            <numerusform>%Ln Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %Ln entries</source>
+        <translation>
+            <numerusform>%1 von %Ln Eintrag</numerusform>
+            <numerusform>%1 von %Ln Einträgen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy %n Rows</source>
+        <translation>
+            <numerusform>Zeile kopieren</numerusform>
+            <numerusform>%n Zeilen kopieren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Clear Log…</source>
+        <translation>Protokoll leeren…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Revert %n Comments</source>
+        <translation>
+            <numerusform>Kommentar zurücksetzen</numerusform>
+            <numerusform>%n Kommentare zurücksetzen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments chosen</source>
+        <translation>
+            <numerusform>%n Kommentar gewählt</numerusform>
+            <numerusform>%n Kommentare gewählt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No entry matches.</source>
+        <translation>Kein Eintrag passt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</source>
+        <translation>
+            <numerusform>Noch ist nichts geschehen. Jeder Durchlauf hält hier fest, was aus jedem Bild wurde; der neueste Eintrag bleibt erhalten.</numerusform>
+            <numerusform>Noch ist nichts geschehen. Jeder Durchlauf hält hier fest, was aus jedem Bild wurde; die neuesten %Ln Einträge bleiben erhalten.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n Problem</numerusform>
+            <numerusform>%n Probleme</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export the log</source>
+        <translation>Protokoll exportieren</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Log saved as %1</source>
+        <translation>Protokoll gespeichert als %1</translation>
+    </message>
+    <message>
+        <source>Clear log</source>
+        <translation>Protokoll leeren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln entries from the log?</source>
+        <translation>
+            <numerusform>Den einzigen Eintrag aus dem Protokoll entfernen?</numerusform>
+            <numerusform>Alle %Ln Einträge aus dem Protokoll entfernen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Your files stay as they are. Runs can then no longer be undone from here.</source>
+        <translation>Ihre Dateien bleiben, wie sie sind. Durchläufe lassen sich danach von hier aus nicht mehr rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Revert comment</source>
+        <translation>Kommentar zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reverting: %1 of %2</source>
+        <translation>Zurücksetzen: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Undoing: %1 of %2</source>
+        <translation>Wird zurückgenommen: %1 von %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files taken back</source>
+        <translation>
+            <numerusform>%n Datei zurückgenommen</numerusform>
+            <numerusform>%n Dateien zurückgenommen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped:</source>
+        <translation>Gestoppt:</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Something went wrong</source>
+        <translation>Etwas ist schiefgegangen</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>main-window</name>
+    <message>
+        <source>Drop to add pictures and folders</source>
+        <translation>Hier ablegen, um Bilder und Ordner hinzuzufügen</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>A run is under way</source>
+        <translation>Ein Durchlauf ist im Gang</translation>
+    </message>
+    <message>
+        <source>Stop the run and close the window?</source>
+        <translation>Den Durchlauf abbrechen und das Fenster schließen?</translation>
+    </message>
+    <message>
+        <source>What is finished stays; nothing half written is left.</source>
+        <translation>Was fertig ist, bleibt; nichts halb Geschriebenes bleibt zurück.</translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <translation>Abbrechen und schließen</translation>
+    </message>
+    <message>
+        <source>Keep Running</source>
+        <translation>Weiterlaufen lassen</translation>
+    </message>
+</context>
+<context>
+    <name>manual</name>
+    <message>
+        <source>No page says “%1”.</source>
+        <translation>„%1“ steht auf keiner Seite.</translation>
+    </message>
+</context>
+<context>
+    <name>measure</name>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>pc</source>
+        <translation>pc</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation>pt</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-action</name>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-page</name>
+    <message>
+        <source>This Picture</source>
+        <translation>Dieses Bild</translation>
+    </message>
+    <message>
+        <source>Many Pictures</source>
+        <translation>Viele Bilder</translation>
+    </message>
+    <message>
+        <source>Search values</source>
+        <translation>Werte suchen</translation>
+    </message>
+    <message>
+        <source>Comments are being written. Cancel it first, or wait.</source>
+        <translation>Kommentare werden gerade geschrieben. Brechen Sie das zuerst ab oder warten Sie.</translation>
+    </message>
+    <message>
+        <source>This file is not a picture that can be read.</source>
+        <translation>Diese Datei ist kein lesbares Bild.</translation>
+    </message>
+    <message>
+        <source>Copy Value or Branch</source>
+        <translation>Wert oder Zweig kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Place in Degrees, 48.85840, 2.29450</source>
+        <translation>Ort in Grad kopieren, 48.85840, 2.29450</translation>
+    </message>
+    <message>
+        <source>Copy Place in Minutes, 48° 51′ 30″ N</source>
+        <translation>Ort in Minuten kopieren, 48° 51′ 30″ N</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines copied</source>
+        <translation>
+            <numerusform>%n Zeile kopiert</numerusform>
+            <numerusform>%n Zeilen kopiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose a property to copy first.</source>
+        <translation>Wählen Sie zuerst die Eigenschaft, die kopiert werden soll.</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Kopiert: %1</translation>
+    </message>
+    <message>
+        <source>Files of this type have no place for a comment.</source>
+        <translation>Dateien dieses Typs haben keinen Platz für einen Kommentar.</translation>
+    </message>
+    <message>
+        <source>Tokens such as {name}, {date} and {counter} stand for what each picture has; {{ is a brace.</source>
+        <translation>Platzhalter wie {name}, {date} und {counter} stehen für die Werte jedes Bildes; {{ ergibt eine geschweifte Klammer.</translation>
+    </message>
+    <message>
+        <source>For example %1: “%2”</source>
+        <translation>Zum Beispiel %1: „%2“</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n properties</source>
+        <translation>
+            <numerusform>%n Eigenschaft</numerusform>
+            <numerusform>%n Eigenschaften</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Revert %n</source>
+        <translation>
+            <numerusform>Zurücksetzen</numerusform>
+            <numerusform>%n zurücksetzen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write into All %n…</source>
+        <translation>
+            <numerusform>In %n schreiben…</numerusform>
+            <numerusform>In alle %n schreiben…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages</source>
+        <translation>
+            <numerusform>%n weitere Seite</numerusform>
+            <numerusform>%n weitere Seiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
+        <translation>Diese Datei hat %1. Sie würden entfernt und lassen sich nicht zurückholen: Nur die erste Seite bleibt erhalten.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <translation>
+            <numerusform>%n Datei hat mehrere Seiten und wird ausgelassen; der Kommentar würde sie %1 kosten: %2.</numerusform>
+            <numerusform>%n Dateien haben mehrere Seiten und werden ausgelassen; der Kommentar würde sie %1 kosten: %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
+        <translation>Geändert werden die Originale selbst: ihr Kommentar und sonst nichts.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <translation>
+            <numerusform>%n Datei ist von einem Typ ohne Platz für einen Kommentar und bleibt, wie sie ist.</numerusform>
+            <numerusform>%n Dateien sind von einem Typ ohne Platz für einen Kommentar und bleiben, wie sie sind.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write comment</source>
+        <translation>Kommentar schreiben</translation>
+    </message>
+    <message numerus="yes">
+        <source>Empty the comments of %n pictures?</source>
+        <translation>
+            <numerusform>Den Kommentar dieses Bildes leeren?</numerusform>
+            <numerusform>Die Kommentare von %n Bildern leeren?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write the comment into %n pictures?</source>
+        <translation>
+            <numerusform>Den Kommentar in dieses Bild schreiben?</numerusform>
+            <numerusform>Den Kommentar in %n Bilder schreiben?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write and Remove Pages</source>
+        <translation>Schreiben und Seiten entfernen</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Write into these too, and keep only their first page</source>
+        <translation>Auch in diese schreiben und nur die erste Seite behalten</translation>
+    </message>
+    <message>
+        <source>Write the comment into pictures</source>
+        <translation>Kommentar in Bilder schreiben</translation>
+    </message>
+    <message>
+        <source>Write the comment into all pictures of a folder</source>
+        <translation>Kommentar in alle Bilder eines Ordners schreiben</translation>
+    </message>
+    <message>
+        <source>Revert comment</source>
+        <translation>Kommentar zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>move-run</name>
+    <message>
+        <source>Too little room</source>
+        <translation>Zu wenig Platz</translation>
+    </message>
+    <message>
+        <source>Files that find no room stay where they are.</source>
+        <translation>Dateien, die keinen Platz finden, bleiben, wo sie sind.</translation>
+    </message>
+    <message>
+        <source>Start Anyway</source>
+        <translation>Trotzdem starten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancelled before the first file. Nothing was moved.</source>
+        <translation>Vor der ersten Datei abgebrochen. Nichts wurde bewegt.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do.</source>
+        <translation>Es gibt nichts zu tun.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was moved.</source>
+        <translation>Abgebrochen. Nichts wurde bewegt.</translation>
+    </message>
+    <message>
+        <source>Simulation: %1</source>
+        <translation>Simulation: %1</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 ausgelassen</translation>
+    </message>
+    <message>
+        <source>nothing was moved</source>
+        <translation>nichts wurde bewegt</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>fertig</translation>
+    </message>
+    <message>
+        <source>cancelled before its turn</source>
+        <translation>vorher abgebrochen</translation>
+    </message>
+    <message>
+        <source>Cancelled:</source>
+        <translation>Abgebrochen:</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Last run: %1, %2</source>
+        <translation>Letzter Durchlauf: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>move-words</name>
+    <message>
+        <source>name is empty</source>
+        <translation>Name ist leer</translation>
+    </message>
+    <message>
+        <source>a name cannot have “/” in it or be “.” or “..”</source>
+        <translation>ein Name darf kein „/“ enthalten und nicht „.“ oder „..“ sein</translation>
+    </message>
+    <message>
+        <source>name is too long</source>
+        <translation>Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>the file is not there any more</source>
+        <translation>die Datei ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>%1 would get this name too</source>
+        <translation>%1 bekäme diesen Namen auch</translation>
+    </message>
+    <message>
+        <source>name is taken by %1, which is not in this list or stays</source>
+        <translation>Name vergeben an %1, das nicht in dieser Liste steht oder bleibt</translation>
+    </message>
+    <message>
+        <source>name is taken by a file not in this list</source>
+        <translation>Name vergeben: Datei nicht in Liste</translation>
+    </message>
+    <message>
+        <source>differs only by case or accents from %1</source>
+        <translation>unterscheidet sich nur in Großschreibung oder Akzenten von %1</translation>
+    </message>
+    <message>
+        <source>a folder cannot go into itself</source>
+        <translation>ein Ordner kann nicht in sich selbst</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>der Ordner ist nicht beschreibbar</translation>
+    </message>
+    <message>
+        <source>the file that it goes with stays</source>
+        <translation>die Datei, zu der sie gehört, bleibt</translation>
+    </message>
+    <message>
+        <source>a file that goes along cannot: %1 is in its place</source>
+        <translation>eine Begleitdatei kann nicht mit: %1 ist an ihrer Stelle</translation>
+    </message>
+    <message>
+        <source>a file that goes along cannot</source>
+        <translation>eine Begleitdatei kann nicht mit</translation>
+    </message>
+    <message>
+        <source>cannot be done</source>
+        <translation>nicht möglich</translation>
+    </message>
+    <message>
+        <source>changes places with %1: done in two steps</source>
+        <translation>tauscht mit %1: geschieht in zwei Schritten</translation>
+    </message>
+    <message>
+        <source>ready, with its %1</source>
+        <translation>bereit, samt %1</translation>
+    </message>
+    <message>
+        <source>ready, numbered because the name is taken</source>
+        <translation>bereit, nummeriert, da der Name vergeben ist</translation>
+    </message>
+    <message>
+        <source>ready, onto another disk</source>
+        <translation>bereit, auf anderes Laufwerk</translation>
+    </message>
+    <message>
+        <source>ready, only the case changes</source>
+        <translation>bereit, nur Groß/klein ändert sich</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>Goes with its %1.</source>
+        <translation>Nimmt %1 mit.</translation>
+    </message>
+    <message>
+        <source>ready, but %1</source>
+        <translation>bereit, aber %1</translation>
+    </message>
+    <message>
+        <source>stays: %1 gets this name</source>
+        <translation>bleibt: %1 bekommt diesen Namen</translation>
+    </message>
+    <message>
+        <source>stays: a file of this name is there</source>
+        <translation>bleibt: es gibt schon eine Datei dieses Namens</translation>
+    </message>
+    <message>
+        <source>In the way: %1</source>
+        <translation>Im Weg: %1</translation>
+    </message>
+    <message>
+        <source>goes along with %1</source>
+        <translation>geht mit %1 mit</translation>
+    </message>
+    <message>
+        <source>stays as it is</source>
+        <translation>bleibt, wie es ist</translation>
+    </message>
+</context>
+<context>
+    <name>moves</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simulation: %1</translation>
+    </message>
+    <message>
+        <source>Working out names: %1 of %2…</source>
+        <translation>Namen werden gebildet: %1 von %2…</translation>
+    </message>
+    <message>
+        <source>%1 ready</source>
+        <translation>%1 bereit</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n need attention</source>
+        <translation>
+            <numerusform>%n zu prüfen</numerusform>
+            <numerusform>%n zu prüfen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stay as they are</source>
+        <translation>
+            <numerusform>%n bleibt unverändert</numerusform>
+            <numerusform>%n bleiben unverändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n go along</source>
+        <translation>
+            <numerusform>%n geht mit</numerusform>
+            <numerusform>%n gehen mit</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>can be undone</source>
+        <translation>lässt sich rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>name-steps</name>
+    <message>
+        <source>Enter a text.</source>
+        <translation>Geben Sie einen Text ein.</translation>
+    </message>
+    <message>
+        <source>Write numbers of pieces with commas between them, such as 2,1; -1 is the last.</source>
+        <translation>Schreiben Sie Nummern von Teilen mit Kommas dazwischen, etwa 2,1; -1 ist das letzte.</translation>
+    </message>
+</context>
+<context>
+    <name>new-version</name>
+    <message>
+        <source>Quorlin</source>
+        <translation>Quorlin</translation>
+    </message>
+</context>
+<context>
+    <name>output-pane</name>
+    <message>
+        <source>EXIF, IPTC and XMP do not go along.</source>
+        <translation>EXIF, IPTC und XMP werden nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP go along into %1 files only.</source>
+        <translation>EXIF, IPTC und XMP werden nur bei %1 übernommen.</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation> und </translation>
+    </message>
+    <message>
+        <source>Metadata and colour profile go along.</source>
+        <translation>Metadaten und Farbprofil werden übernommen.</translation>
+    </message>
+    <message>
+        <source>The colour profile goes along if it fits, else colours become sRGB; EXIF, IPTC and XMP do not.</source>
+        <translation>Das Farbprofil wird übernommen, wenn es passt, sonst werden die Farben zu sRGB; EXIF, IPTC und XMP nicht.</translation>
+    </message>
+    <message>
+        <source>The colour profile goes along; EXIF, IPTC and XMP do not.</source>
+        <translation>Das Farbprofil wird übernommen; EXIF, IPTC und XMP nicht.</translation>
+    </message>
+    <message>
+        <source>Neither metadata nor colour profile go along; colours become sRGB.</source>
+        <translation>Weder Metadaten noch Farbprofil werden übernommen; Farben werden zu sRGB.</translation>
+    </message>
+    <message>
+        <source>Transparent parts become black.</source>
+        <translation>Transparente Bereiche werden schwarz.</translation>
+    </message>
+    <message>
+        <source>Number the new file</source>
+        <translation>Neue Datei nummerieren</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Fragen</translation>
+    </message>
+    <message>
+        <source>Original file type</source>
+        <translation>Typ des Originals</translation>
+    </message>
+    <message>
+        <source>Folder “%1” beside it</source>
+        <translation>„%1“ daneben</translation>
+    </message>
+    <message>
+        <source>Folder of the original</source>
+        <translation>Ordner des Originals</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>Save results to</source>
+        <translation>Ergebnisse speichern in</translation>
+    </message>
+</context>
+<context>
+    <name>pane</name>
+    <message>
+        <source> at %1 dpi</source>
+        <translation> bei %1 dpi</translation>
+    </message>
+</context>
+<context>
+    <name>plan</name>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>another picture of this run gets this name</source>
+        <translation>ein anderes Bild dieses Durchlaufs bekommt diesen Namen</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>es gibt schon eine Datei dieses Namens</translation>
+    </message>
+    <message>
+        <source>the folder to save to has no name of its own</source>
+        <translation>der Zielordner hat keinen eigenen Namen</translation>
+    </message>
+</context>
+<context>
+    <name>platform</name>
+    <message>
+        <source>The tags of %1 could not be written</source>
+        <translation>Die Schlagwörter von %1 konnten nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Cannot trash %1</source>
+        <translation>%1 kann nicht in den Papierkorb</translation>
+    </message>
+    <message>
+        <source>Cannot trash %1: there is nothing</source>
+        <translation>%1 kann nicht in den Papierkorb: Dort ist nichts</translation>
+    </message>
+    <message>
+        <source>Cannot trash %1: %2</source>
+        <translation>%1 kann nicht in den Papierkorb: %2</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>dies ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
+    </message>
+    <message>
+        <source>PB</source>
+        <translation>PB</translation>
+    </message>
+    <message>
+        <source>EB</source>
+        <translation>EB</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%n Byte</numerusform>
+            <numerusform>%n Byte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 needs about %2 of memory, %3 is free</source>
+        <translation>%1 braucht etwa %2 Speicher, frei sind %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, %2 is free</source>
+        <translation>braucht etwa %1 Speicher, frei sind %2</translation>
+    </message>
+    <message>
+        <source>There is no picture to draw</source>
+        <translation>Es gibt kein Bild zum Zeichnen</translation>
+    </message>
+    <message>
+        <source>The picture is too large</source>
+        <translation>Das Bild ist zu groß</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw</source>
+        <translation>Es gibt nichts zu zeichnen</translation>
+    </message>
+    <message>
+        <source>No picture of %1 x %2 pixels can be made</source>
+        <translation>Ein Bild von %1 x %2 Pixeln ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>Reading the picture</source>
+        <translation>Das Lesen des Bildes</translation>
+    </message>
+    <message>
+        <source>The picture</source>
+        <translation>Das Bild</translation>
+    </message>
+    <message>
+        <source>There is no picture to scale</source>
+        <translation>Es gibt kein Bild zum Skalieren</translation>
+    </message>
+    <message>
+        <source>There is no picture to turn</source>
+        <translation>Es gibt kein Bild zum Drehen</translation>
+    </message>
+    <message>
+        <source>A picture cannot be turned by that angle</source>
+        <translation>Um diesen Winkel lässt sich kein Bild drehen</translation>
+    </message>
+    <message>
+        <source>the file is damaged</source>
+        <translation>die Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the comment is too long</source>
+        <translation>der Kommentar ist zu lang</translation>
+    </message>
+    <message>
+        <source>There is no picture to write</source>
+        <translation>Es gibt kein Bild zum Schreiben</translation>
+    </message>
+    <message>
+        <source>The page could not be made: %1</source>
+        <translation>Die Seite konnte nicht erzeugt werden: %1</translation>
+    </message>
+    <message>
+        <source>The JPEG could not be made: %1</source>
+        <translation>Das JPEG konnte nicht erzeugt werden: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture</source>
+        <translation>Das Schreiben des Bildes</translation>
+    </message>
+    <message>
+        <source>The picture could not be encoded: %1</source>
+        <translation>Das Bild konnte nicht codiert werden: %1</translation>
+    </message>
+    <message>
+        <source>The file is neither JPEG nor TIFF</source>
+        <translation>Die Datei ist weder JPEG noch TIFF</translation>
+    </message>
+    <message>
+        <source>This is no property list with a dictionary</source>
+        <translation>Dies ist keine Eigenschaftsliste mit einem Wörterbuch</translation>
+    </message>
+    <message>
+        <source>A property list cannot hold this under %1</source>
+        <translation>Eine Eigenschaftsliste kann das unter %1 nicht aufnehmen</translation>
+    </message>
+</context>
+<context>
+    <name>preferences</name>
+    <message>
+        <source>As the system</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Number the new file</source>
+        <translation>Neue Datei nummerieren</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Fragen</translation>
+    </message>
+    <message>
+        <source>the newest 1,000 entries</source>
+        <translation>die neuesten 1.000 Einträge</translation>
+    </message>
+    <message>
+        <source>the newest 10,000 entries</source>
+        <translation>die neuesten 10.000 Einträge</translation>
+    </message>
+    <message>
+        <source>the newest 100,000 entries</source>
+        <translation>die neuesten 100.000 Einträge</translation>
+    </message>
+</context>
+<context>
+    <name>preset-pane</name>
+    <message>
+        <source>%1 (newer version)</source>
+        <translation>%1 (neuere Version)</translation>
+    </message>
+    <message>
+        <source>%1 (unknown)</source>
+        <translation>%1 (unbekannt)</translation>
+    </message>
+    <message>
+        <source>%1 (damaged)</source>
+        <translation>%1 (beschädigt)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1, geändert</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Speichern unter…</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Umbenennen…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Löschen…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren…</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Erneut nachsehen</translation>
+    </message>
+    <message>
+        <source>My preset</source>
+        <translation>Meine Vorgabe</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete preset</source>
+        <translation>Vorgabe löschen</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>Die Vorgabe „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>The settings stay as they are now.</source>
+        <translation>Die Einstellungen bleiben, wie sie jetzt sind.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Export the preset</source>
+        <translation>Vorgabe exportieren</translation>
+    </message>
+    <message>
+        <source>Preset exported as %1</source>
+        <translation>Vorgabe exportiert als %1</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>Vorgaben importieren</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n presets imported</source>
+        <translation>
+            <numerusform>%1 von %n Vorgabe importiert</numerusform>
+            <numerusform>%1 von %n Vorgaben importiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n presets imported</source>
+        <translation>
+            <numerusform>%n Vorgabe importiert</numerusform>
+            <numerusform>%n Vorgaben importiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed, their names were taken</source>
+        <translation>
+            <numerusform>%n umbenannt, da ihr Name vergeben war</numerusform>
+            <numerusform>%n umbenannt, da ihre Namen vergeben waren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>none for this action</source>
+        <translation>keine für diese Aktion</translation>
+    </message>
+</context>
+<context>
+    <name>preset-store</name>
+    <message>
+        <source>The presets database was empty and could not be used. It is called %1 now, and there is a new one.</source>
+        <translation>Die Datenbank der Vorgaben war leer und unbrauchbar. Sie heißt jetzt %1, und es gibt eine neue.</translation>
+    </message>
+    <message>
+        <source>Presets cannot be kept: their database cannot be made.</source>
+        <translation>Vorgaben können nicht gespeichert werden: Ihre Datenbank lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>The presets database cannot be read.</source>
+        <translation>Die Datenbank der Vorgaben kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The presets database is damaged. It is left as it is.</source>
+        <translation>Die Datenbank der Vorgaben ist beschädigt. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The presets database has no place for presets. It is left as it is.</source>
+        <translation>Die Datenbank der Vorgaben hat keinen Platz für Vorgaben. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The presets database is in use by another program, or damaged. It is left as it is.</source>
+        <translation>Die Datenbank der Vorgaben wird von einem anderen Programm benutzt oder ist beschädigt. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The presets database is read-only; nothing was changed.</source>
+        <translation>Die Datenbank der Vorgaben ist schreibgeschützt; nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>The presets database is in use by another program, or the disk is full; nothing was changed.</source>
+        <translation>Die Datenbank der Vorgaben wird von einem anderen Programm benutzt oder das Laufwerk ist voll; nichts wurde geändert.</translation>
+    </message>
+</context>
+<context>
+    <name>presets</name>
+    <message>
+        <source>This preset was not made by Quorlin. It is left as it is.</source>
+        <translation>Diese Vorgabe stammt nicht von Quorlin. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>This preset was made by a newer Quorlin. It is left as it is.</source>
+        <translation>Diese Vorgabe stammt von einem neueren Quorlin. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>This preset is damaged and cannot be used.</source>
+        <translation>Diese Vorgabe ist beschädigt und nicht verwendbar.</translation>
+    </message>
+    <message>
+        <source>Enter a name.</source>
+        <translation>Geben Sie einen Namen ein.</translation>
+    </message>
+    <message>
+        <source>A name cannot have a straight apostrophe (&apos;) in it. A curved one (’) is fine.</source>
+        <translation>Ein Name darf keinen geraden Apostroph (&apos;) enthalten. Ein runder (’) ist erlaubt.</translation>
+    </message>
+    <message>
+        <source>A name cannot have a bar (|) in it.</source>
+        <translation>Ein Name darf keinen senkrechten Strich (|) enthalten.</translation>
+    </message>
+    <message>
+        <source>A name cannot have line breaks or control characters in it.</source>
+        <translation>Ein Name darf keine Zeilenumbrüche oder Steuerzeichen enthalten.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A name can have up to %n characters.</source>
+        <translation>
+            <numerusform>Ein Name darf höchstens %n Zeichen haben.</numerusform>
+            <numerusform>Ein Name darf höchstens %n Zeichen haben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is a preset named %1 already.</source>
+        <translation>Eine Vorgabe namens %1 gibt es schon.</translation>
+    </message>
+    <message>
+        <source>This file holds no presets.</source>
+        <translation>Diese Datei enthält keine Vorgaben.</translation>
+    </message>
+    <message>
+        <source>This file was made by a newer Quorlin.</source>
+        <translation>Diese Datei stammt von einem neueren Quorlin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n presets in this file cannot be used.</source>
+        <translation>
+            <numerusform>%1 von %n Vorgabe in dieser Datei ist nicht verwendbar.</numerusform>
+            <numerusform>%1 von %n Vorgaben in dieser Datei sind nicht verwendbar.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>preview-side</name>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>quality %1</source>
+        <translation>Qualität %1</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>etwa %1</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Large preview</source>
+        <translation>Große Vorschau</translation>
+    </message>
+</context>
+<context>
+    <name>properties</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 EV</source>
+        <translation>%1 EV</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>aufrecht</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>gespiegelt</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>kopfüber</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>kopfüber, gespiegelt</translation>
+    </message>
+    <message>
+        <source>on its left side, mirrored</source>
+        <translation>auf der linken Seite, gespiegelt</translation>
+    </message>
+    <message>
+        <source>turn right to see it upright</source>
+        <translation>nach rechts drehen, um es aufrecht zu sehen</translation>
+    </message>
+    <message>
+        <source>on its right side, mirrored</source>
+        <translation>auf der rechten Seite, gespiegelt</translation>
+    </message>
+    <message>
+        <source>turn left to see it upright</source>
+        <translation>nach links drehen, um es aufrecht zu sehen</translation>
+    </message>
+    <message>
+        <source>fired</source>
+        <translation>ausgelöst</translation>
+    </message>
+    <message>
+        <source>did not fire</source>
+        <translation>nicht ausgelöst</translation>
+    </message>
+    <message>
+        <source>manual</source>
+        <translation>manuell</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source>aperture priority</source>
+        <translation>Blendenvorwahl</translation>
+    </message>
+    <message>
+        <source>shutter priority</source>
+        <translation>Zeitvorwahl</translation>
+    </message>
+    <message>
+        <source>creative</source>
+        <translation>kreativ</translation>
+    </message>
+    <message>
+        <source>action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation>Porträt</translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation>Landschaft</translation>
+    </message>
+    <message>
+        <source>average</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>centre-weighted</source>
+        <translation>mittenbetont</translation>
+    </message>
+    <message>
+        <source>spot</source>
+        <translation>Spot</translation>
+    </message>
+    <message>
+        <source>several spots</source>
+        <translation>Mehrfachspot</translation>
+    </message>
+    <message>
+        <source>several fields</source>
+        <translation>Mehrfeld</translation>
+    </message>
+    <message>
+        <source>part of the picture</source>
+        <translation>Teilbild</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>night</source>
+        <translation>Nacht</translation>
+    </message>
+    <message>
+        <source>bracketing</source>
+        <translation>Belichtungsreihe</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>centimetre</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>not sRGB</source>
+        <translation>nicht sRGB</translation>
+    </message>
+    <message>
+        <source>above sea level</source>
+        <translation>über dem Meeresspiegel</translation>
+    </message>
+    <message>
+        <source>below sea level</source>
+        <translation>unter dem Meeresspiegel</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixels</source>
+        <translation>
+            <numerusform>%n Pixel</numerusform>
+            <numerusform>%n Pixel</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bits</source>
+        <translation>
+            <numerusform>%n Bit</numerusform>
+            <numerusform>%n Bit</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln bytes</source>
+        <translation>
+            <numerusform>%Ln Byte</numerusform>
+            <numerusform>%Ln Byte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Beschleunigung</translation>
+    </message>
+    <message>
+        <source>Action advised</source>
+        <translation>Empfohlene Maßnahme</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Altitude reference</source>
+        <translation>Höhe (Bezug)</translation>
+    </message>
+    <message>
+        <source>Aperture value</source>
+        <translation>Blendenwert</translation>
+    </message>
+    <message>
+        <source>Area information</source>
+        <translation>Gebietsangabe</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Künstler</translation>
+    </message>
+    <message>
+        <source>Audio duration</source>
+        <translation>Audiodauer</translation>
+    </message>
+    <message>
+        <source>Audio outcue</source>
+        <translation>Audio-Schlussworte</translation>
+    </message>
+    <message>
+        <source>Audio rate</source>
+        <translation>Audio-Abtastrate</translation>
+    </message>
+    <message>
+        <source>Audio resolution</source>
+        <translation>Audio-Auflösung</translation>
+    </message>
+    <message>
+        <source>Audio type</source>
+        <translation>Audiotyp</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Battery level</source>
+        <translation>Akkustand</translation>
+    </message>
+    <message>
+        <source>Body serial number</source>
+        <translation>Seriennummer des Gehäuses</translation>
+    </message>
+    <message>
+        <source>Brightness value</source>
+        <translation>Helligkeitswert</translation>
+    </message>
+    <message>
+        <source>By-line</source>
+        <translation>Urheber</translation>
+    </message>
+    <message>
+        <source>By-line title</source>
+        <translation>Position des Urhebers</translation>
+    </message>
+    <message>
+        <source>CFA pattern</source>
+        <translation>CFA-Muster</translation>
+    </message>
+    <message>
+        <source>CFA repeat pattern size</source>
+        <translation>CFA-Mustergröße</translation>
+    </message>
+    <message>
+        <source>Camera elevation angle</source>
+        <translation>Kameraneigung</translation>
+    </message>
+    <message>
+        <source>Camera owner name</source>
+        <translation>Kamerabesitzer</translation>
+    </message>
+    <message>
+        <source>Caption or abstract</source>
+        <translation>Bildunterschrift</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Chromaticities</source>
+        <translation>Farbwertanteile</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stadt</translation>
+    </message>
+    <message>
+        <source>Color model</source>
+        <translation>Farbmodell</translation>
+    </message>
+    <message>
+        <source>Color space</source>
+        <translation>Farbraum</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>Components configuration</source>
+        <translation>Komponentenanordnung</translation>
+    </message>
+    <message>
+        <source>Composite image</source>
+        <translation>Zusammengesetztes Bild</translation>
+    </message>
+    <message>
+        <source>Compressed bits per pixel</source>
+        <translation>Komprimierte Bits pro Pixel</translation>
+    </message>
+    <message>
+        <source>Compression</source>
+        <translation>Komprimierung</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Kontakt</translation>
+    </message>
+    <message>
+        <source>Content location code</source>
+        <translation>Ortscode des Inhalts</translation>
+    </message>
+    <message>
+        <source>Content location name</source>
+        <translation>Ortsname des Inhalts</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>Copyright-Vermerk</translation>
+    </message>
+    <message>
+        <source>Country code</source>
+        <translation>Ländercode</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Creation time</source>
+        <translation>Erstellungszeit</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>Bildnachweis</translation>
+    </message>
+    <message>
+        <source>Custom rendered</source>
+        <translation>Besondere Bildverarbeitung</translation>
+    </message>
+    <message>
+        <source>Dilution of precision</source>
+        <translation>Messgenauigkeit (DOP)</translation>
+    </message>
+    <message>
+        <source>DPI height</source>
+        <translation>DPI in der Höhe</translation>
+    </message>
+    <message>
+        <source>DPI width</source>
+        <translation>DPI in der Breite</translation>
+    </message>
+    <message>
+        <source>Date created</source>
+        <translation>Erstelldatum</translation>
+    </message>
+    <message>
+        <source>Date (UTC)</source>
+        <translation>Datum (UTC)</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Date and time, digitized</source>
+        <translation>Datum und Uhrzeit, digitalisiert</translation>
+    </message>
+    <message>
+        <source>Date and time, original</source>
+        <translation>Datum und Uhrzeit, Aufnahme</translation>
+    </message>
+    <message>
+        <source>Delay time</source>
+        <translation>Verzögerung</translation>
+    </message>
+    <message>
+        <source>Density unit</source>
+        <translation>Einheit der Dichte</translation>
+    </message>
+    <message>
+        <source>Depth</source>
+        <translation>Farbtiefe</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Destination bearing</source>
+        <translation>Richtung zum Ziel</translation>
+    </message>
+    <message>
+        <source>Destination bearing reference</source>
+        <translation>Richtung zum Ziel (Bezug)</translation>
+    </message>
+    <message>
+        <source>Destination distance</source>
+        <translation>Entfernung zum Ziel</translation>
+    </message>
+    <message>
+        <source>Destination distance reference</source>
+        <translation>Entfernung zum Ziel (Bezug)</translation>
+    </message>
+    <message>
+        <source>Destination latitude</source>
+        <translation>Breitengrad des Ziels</translation>
+    </message>
+    <message>
+        <source>Destination latitude reference</source>
+        <translation>Breitengrad des Ziels (Bezug)</translation>
+    </message>
+    <message>
+        <source>Destination longitude</source>
+        <translation>Längengrad des Ziels</translation>
+    </message>
+    <message>
+        <source>Destination longitude reference</source>
+        <translation>Längengrad des Ziels (Bezug)</translation>
+    </message>
+    <message>
+        <source>Device setting description</source>
+        <translation>Geräteeinstellungen</translation>
+    </message>
+    <message>
+        <source>Differential</source>
+        <translation>Differenzialkorrektur</translation>
+    </message>
+    <message>
+        <source>Digital creation date</source>
+        <translation>Digitales Erstelldatum</translation>
+    </message>
+    <message>
+        <source>Digital creation time</source>
+        <translation>Digitale Erstellungszeit</translation>
+    </message>
+    <message>
+        <source>Digital zoom ratio</source>
+        <translation>Digitalzoom-Faktor</translation>
+    </message>
+    <message>
+        <source>Disclaimer</source>
+        <translation>Haftungsausschluss</translation>
+    </message>
+    <message>
+        <source>Document name</source>
+        <translation>Dokumentname</translation>
+    </message>
+    <message>
+        <source>Edit status</source>
+        <translation>Bearbeitungsstatus</translation>
+    </message>
+    <message>
+        <source>Editorial update</source>
+        <translation>Redaktionelle Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Exif version</source>
+        <translation>Exif-Version</translation>
+    </message>
+    <message>
+        <source>Expiration date</source>
+        <translation>Ablaufdatum</translation>
+    </message>
+    <message>
+        <source>Expiration time</source>
+        <translation>Ablaufzeit</translation>
+    </message>
+    <message>
+        <source>Exposure bias value</source>
+        <translation>Belichtungskorrektur</translation>
+    </message>
+    <message>
+        <source>Exposure index</source>
+        <translation>Belichtungsindex</translation>
+    </message>
+    <message>
+        <source>Exposure mode</source>
+        <translation>Belichtungsmodus</translation>
+    </message>
+    <message>
+        <source>Exposure program</source>
+        <translation>Belichtungsprogramm</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation>Belichtungszeit</translation>
+    </message>
+    <message>
+        <source>F-number</source>
+        <translation>Blendenzahl</translation>
+    </message>
+    <message>
+        <source>File source</source>
+        <translation>Dateiquelle</translation>
+    </message>
+    <message>
+        <source>Fixture identifier</source>
+        <translation>Kennung der Serie</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>Blitz</translation>
+    </message>
+    <message>
+        <source>Flash energy</source>
+        <translation>Blitzenergie</translation>
+    </message>
+    <message>
+        <source>FlashPix version</source>
+        <translation>FlashPix-Version</translation>
+    </message>
+    <message>
+        <source>Focal length in 35 mm film</source>
+        <translation>Brennweite (Kleinbild)</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Brennweite</translation>
+    </message>
+    <message>
+        <source>Focal plane resolution unit</source>
+        <translation>Einheit der Sensorauflösung</translation>
+    </message>
+    <message>
+        <source>Focal plane X resolution</source>
+        <translation>Sensorauflösung X</translation>
+    </message>
+    <message>
+        <source>Focal plane Y resolution</source>
+        <translation>Sensorauflösung Y</translation>
+    </message>
+    <message>
+        <source>GPS version</source>
+        <translation>GPS-Version</translation>
+    </message>
+    <message>
+        <source>Gain control</source>
+        <translation>Verstärkung</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Horizontal positioning error</source>
+        <translation>Horizontaler Ortungsfehler</translation>
+    </message>
+    <message>
+        <source>Has alpha</source>
+        <translation>Alphakanal</translation>
+    </message>
+    <message>
+        <source>Has global color map</source>
+        <translation>Globale Farbtabelle</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Überschrift</translation>
+    </message>
+    <message>
+        <source>Host computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Humidity</source>
+        <translation>Luftfeuchtigkeit</translation>
+    </message>
+    <message>
+        <source>ISO speed</source>
+        <translation>ISO-Wert</translation>
+    </message>
+    <message>
+        <source>ISO speed latitude yyy</source>
+        <translation>ISO-Spielraum yyy</translation>
+    </message>
+    <message>
+        <source>ISO speed latitude zzz</source>
+        <translation>ISO-Spielraum zzz</translation>
+    </message>
+    <message>
+        <source>ISO speed ratings</source>
+        <translation>ISO-Empfindlichkeit</translation>
+    </message>
+    <message>
+        <source>Image description</source>
+        <translation>Bildbeschreibung</translation>
+    </message>
+    <message>
+        <source>Image history</source>
+        <translation>Bildgeschichte</translation>
+    </message>
+    <message>
+        <source>Image ID</source>
+        <translation>Bild-ID</translation>
+    </message>
+    <message>
+        <source>Image height</source>
+        <translation>Bildhöhe</translation>
+    </message>
+    <message>
+        <source>Image number</source>
+        <translation>Bildnummer</translation>
+    </message>
+    <message>
+        <source>Image orientation</source>
+        <translation>Bildausrichtung</translation>
+    </message>
+    <message>
+        <source>Image type</source>
+        <translation>Bildtyp</translation>
+    </message>
+    <message>
+        <source>Unique image ID</source>
+        <translation>Eindeutige Bild-ID</translation>
+    </message>
+    <message>
+        <source>Image width</source>
+        <translation>Bildbreite</translation>
+    </message>
+    <message>
+        <source>Image direction</source>
+        <translation>Blickrichtung</translation>
+    </message>
+    <message>
+        <source>Image direction reference</source>
+        <translation>Blickrichtung (Bezug)</translation>
+    </message>
+    <message>
+        <source>Interlace</source>
+        <translation>Interlace</translation>
+    </message>
+    <message>
+        <source>Interlace type</source>
+        <translation>Interlace-Typ</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Is progressive</source>
+        <translation>Progressiv</translation>
+    </message>
+    <message>
+        <source>JFIF version</source>
+        <translation>JFIF-Version</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Language identifier</source>
+        <translation>Sprachkennung</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breitengrad</translation>
+    </message>
+    <message>
+        <source>Latitude reference</source>
+        <translation>Breitengrad (Bezug)</translation>
+    </message>
+    <message>
+        <source>Lens make</source>
+        <translation>Objektivhersteller</translation>
+    </message>
+    <message>
+        <source>Lens model</source>
+        <translation>Objektivmodell</translation>
+    </message>
+    <message>
+        <source>Lens serial number</source>
+        <translation>Seriennummer des Objektivs</translation>
+    </message>
+    <message>
+        <source>Lens range</source>
+        <translation>Objektivbereich</translation>
+    </message>
+    <message>
+        <source>Light source</source>
+        <translation>Lichtquelle</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Längengrad</translation>
+    </message>
+    <message>
+        <source>Longitude reference</source>
+        <translation>Längengrad (Bezug)</translation>
+    </message>
+    <message>
+        <source>Loop count</source>
+        <translation>Wiederholungen</translation>
+    </message>
+    <message>
+        <source>Camera make</source>
+        <translation>Kamerahersteller</translation>
+    </message>
+    <message>
+        <source>Maker note</source>
+        <translation>Herstellernotiz</translation>
+    </message>
+    <message>
+        <source>Map datum</source>
+        <translation>Geodätisches Datum</translation>
+    </message>
+    <message>
+        <source>Largest aperture value</source>
+        <translation>Größte Blende</translation>
+    </message>
+    <message>
+        <source>Measure mode</source>
+        <translation>Messmodus</translation>
+    </message>
+    <message>
+        <source>Metering mode</source>
+        <translation>Messmethode</translation>
+    </message>
+    <message>
+        <source>Camera model</source>
+        <translation>Kameramodell</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>Rauschen</translation>
+    </message>
+    <message>
+        <source>Opto-electric conversion function</source>
+        <translation>Opto-elektronische Umwandlungsfunktion</translation>
+    </message>
+    <message>
+        <source>Object attribute reference</source>
+        <translation>Objektattribut</translation>
+    </message>
+    <message>
+        <source>Object cycle</source>
+        <translation>Objektzyklus</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>Objektname</translation>
+    </message>
+    <message>
+        <source>Object type reference</source>
+        <translation>Objekttyp</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+    <message>
+        <source>Time zone, digitized</source>
+        <translation>Zeitzone, digitalisiert</translation>
+    </message>
+    <message>
+        <source>Time zone, original</source>
+        <translation>Zeitzone, Aufnahme</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Original transmission reference</source>
+        <translation>Ursprüngliche Auftragskennung</translation>
+    </message>
+    <message>
+        <source>Originating program</source>
+        <translation>Erzeugendes Programm</translation>
+    </message>
+    <message>
+        <source>Page name</source>
+        <translation>Seitenname</translation>
+    </message>
+    <message>
+        <source>Page number</source>
+        <translation>Seitennummer</translation>
+    </message>
+    <message>
+        <source>Photometric interpretation</source>
+        <translation>Fotometrische Interpretation</translation>
+    </message>
+    <message>
+        <source>Pixel height</source>
+        <translation>Höhe in Pixeln</translation>
+    </message>
+    <message>
+        <source>Pixel width</source>
+        <translation>Breite in Pixeln</translation>
+    </message>
+    <message>
+        <source>Pixel X dimension</source>
+        <translation>Pixelmaß X</translation>
+    </message>
+    <message>
+        <source>Pixel Y dimension</source>
+        <translation>Pixelmaß Y</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>Luftdruck</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Preview format</source>
+        <translation>Vorschauformat</translation>
+    </message>
+    <message>
+        <source>Preview version</source>
+        <translation>Vorschauversion</translation>
+    </message>
+    <message>
+        <source>Primary chromaticities</source>
+        <translation>Farbwertanteile der Primärfarben</translation>
+    </message>
+    <message>
+        <source>Processing method</source>
+        <translation>Ortungsverfahren</translation>
+    </message>
+    <message>
+        <source>Processing software</source>
+        <translation>Bearbeitungssoftware</translation>
+    </message>
+    <message>
+        <source>Profile name</source>
+        <translation>Profilname</translation>
+    </message>
+    <message>
+        <source>Program version</source>
+        <translation>Programmversion</translation>
+    </message>
+    <message>
+        <source>Province or state</source>
+        <translation>Bundesland oder Provinz</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Bewertung</translation>
+    </message>
+    <message>
+        <source>Rating percent</source>
+        <translation>Bewertung in Prozent</translation>
+    </message>
+    <message>
+        <source>Recommended exposure index</source>
+        <translation>Empfohlener Belichtungsindex</translation>
+    </message>
+    <message>
+        <source>Reference black and white</source>
+        <translation>Schwarz- und Weißreferenz</translation>
+    </message>
+    <message>
+        <source>Reference date</source>
+        <translation>Referenzdatum</translation>
+    </message>
+    <message>
+        <source>Reference number</source>
+        <translation>Referenznummer</translation>
+    </message>
+    <message>
+        <source>Reference service</source>
+        <translation>Referenzdienst</translation>
+    </message>
+    <message>
+        <source>Related sound file</source>
+        <translation>Zugehörige Tondatei</translation>
+    </message>
+    <message>
+        <source>Release date</source>
+        <translation>Freigabedatum</translation>
+    </message>
+    <message>
+        <source>Release time</source>
+        <translation>Freigabezeit</translation>
+    </message>
+    <message>
+        <source>Resolution unit</source>
+        <translation>Einheit der Auflösung</translation>
+    </message>
+    <message>
+        <source>Satellites</source>
+        <translation>Satelliten</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Scene capture type</source>
+        <translation>Aufnahmeart</translation>
+    </message>
+    <message>
+        <source>Scene type</source>
+        <translation>Szenentyp</translation>
+    </message>
+    <message>
+        <source>Security classification</source>
+        <translation>Geheimhaltungsstufe</translation>
+    </message>
+    <message>
+        <source>Self-timer mode</source>
+        <translation>Selbstauslöser</translation>
+    </message>
+    <message>
+        <source>Sensing method</source>
+        <translation>Sensortyp</translation>
+    </message>
+    <message>
+        <source>Sensitivity type</source>
+        <translation>Art der Empfindlichkeit</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Schärfe</translation>
+    </message>
+    <message>
+        <source>Shutter speed value</source>
+        <translation>Verschlusszeit</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Source exposure times of composite image</source>
+        <translation>Belichtungszeiten der Quellbilder</translation>
+    </message>
+    <message>
+        <source>Source image number of composite image</source>
+        <translation>Anzahl der Quellbilder</translation>
+    </message>
+    <message>
+        <source>Spatial frequency response</source>
+        <translation>Ortsfrequenzgang</translation>
+    </message>
+    <message>
+        <source>Special instructions</source>
+        <translation>Besondere Anweisungen</translation>
+    </message>
+    <message>
+        <source>Spectral sensitivity</source>
+        <translation>Spektrale Empfindlichkeit</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Speed reference</source>
+        <translation>Geschwindigkeit (Bezug)</translation>
+    </message>
+    <message>
+        <source>Standard output sensitivity</source>
+        <translation>Standard-Ausgabeempfindlichkeit</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Sub-location</source>
+        <translation>Ortsdetail</translation>
+    </message>
+    <message>
+        <source>Subject area</source>
+        <translation>Motivbereich</translation>
+    </message>
+    <message>
+        <source>Subject distance range</source>
+        <translation>Bereich des Motivabstands</translation>
+    </message>
+    <message>
+        <source>Subject distance</source>
+        <translation>Motivabstand</translation>
+    </message>
+    <message>
+        <source>Subject location</source>
+        <translation>Motivposition</translation>
+    </message>
+    <message>
+        <source>Subject reference</source>
+        <translation>Themenreferenz</translation>
+    </message>
+    <message>
+        <source>Fraction of the second</source>
+        <translation>Sekundenbruchteil</translation>
+    </message>
+    <message>
+        <source>Fraction of the second, digitized</source>
+        <translation>Sekundenbruchteil, digitalisiert</translation>
+    </message>
+    <message>
+        <source>Fraction of the second, original</source>
+        <translation>Sekundenbruchteil, Aufnahme</translation>
+    </message>
+    <message>
+        <source>Supplemental category</source>
+        <translation>Zusatzkategorie</translation>
+    </message>
+    <message>
+        <source>TIFF/EP standard ID</source>
+        <translation>TIFF/EP-Standard-ID</translation>
+    </message>
+    <message>
+        <source>Target printer</source>
+        <translation>Zieldrucker</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Time created</source>
+        <translation>Erstellungszeit</translation>
+    </message>
+    <message>
+        <source>Time (UTC)</source>
+        <translation>Uhrzeit (UTC)</translation>
+    </message>
+    <message>
+        <source>Time zone offset</source>
+        <translation>Zeitzonenversatz</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Direction of movement</source>
+        <translation>Bewegungsrichtung</translation>
+    </message>
+    <message>
+        <source>Direction of movement reference</source>
+        <translation>Bewegungsrichtung (Bezug)</translation>
+    </message>
+    <message>
+        <source>Transfer function</source>
+        <translation>Übertragungsfunktion</translation>
+    </message>
+    <message>
+        <source>Urgency</source>
+        <translation>Dringlichkeit</translation>
+    </message>
+    <message>
+        <source>User comment</source>
+        <translation>Benutzerkommentar</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Water depth</source>
+        <translation>Wassertiefe</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>Weißabgleich</translation>
+    </message>
+    <message>
+        <source>White point</source>
+        <translation>Weißpunkt</translation>
+    </message>
+    <message>
+        <source>Writer or editor</source>
+        <translation>Texter oder Redakteur</translation>
+    </message>
+    <message>
+        <source>X density</source>
+        <translation>Dichte X</translation>
+    </message>
+    <message>
+        <source>Author (Windows)</source>
+        <translation>Autor (Windows)</translation>
+    </message>
+    <message>
+        <source>Comment (Windows)</source>
+        <translation>Kommentar (Windows)</translation>
+    </message>
+    <message>
+        <source>Keywords (Windows)</source>
+        <translation>Stichwörter (Windows)</translation>
+    </message>
+    <message>
+        <source>Subject (Windows)</source>
+        <translation>Thema (Windows)</translation>
+    </message>
+    <message>
+        <source>Title (Windows)</source>
+        <translation>Titel (Windows)</translation>
+    </message>
+    <message>
+        <source>X pixels per meter</source>
+        <translation>Pixel pro Meter X</translation>
+    </message>
+    <message>
+        <source>X position</source>
+        <translation>Position X</translation>
+    </message>
+    <message>
+        <source>X resolution</source>
+        <translation>Auflösung X</translation>
+    </message>
+    <message>
+        <source>YCbCr coefficients</source>
+        <translation>YCbCr-Koeffizienten</translation>
+    </message>
+    <message>
+        <source>YCbCr positioning</source>
+        <translation>YCbCr-Positionierung</translation>
+    </message>
+    <message>
+        <source>YCbCr subsampling</source>
+        <translation>YCbCr-Unterabtastung</translation>
+    </message>
+    <message>
+        <source>Y density</source>
+        <translation>Dichte Y</translation>
+    </message>
+    <message>
+        <source>Y pixels per meter</source>
+        <translation>Pixel pro Meter Y</translation>
+    </message>
+    <message>
+        <source>Y position</source>
+        <translation>Position Y</translation>
+    </message>
+    <message>
+        <source>Y resolution</source>
+        <translation>Auflösung Y</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <source>Lens info</source>
+        <translation>Objektivdaten</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Contributor</source>
+        <translation>Mitwirkende</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>Geltungsbereich</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Ersteller</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Herausgeber</translation>
+    </message>
+    <message>
+        <source>Relation</source>
+        <translation>Beziehung</translation>
+    </message>
+    <message>
+        <source>Rights</source>
+        <translation>Rechte</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Author&apos;s position</source>
+        <translation>Position des Autors</translation>
+    </message>
+    <message>
+        <source>Caption writer</source>
+        <translation>Verfasser der Bildunterschrift</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>ICC profile</source>
+        <translation>ICC-Profil</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Anweisungen</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Bundesland</translation>
+    </message>
+    <message>
+        <source>Supplemental categories</source>
+        <translation>Zusatzkategorien</translation>
+    </message>
+    <message>
+        <source>Transmission reference</source>
+        <translation>Auftragskennung</translation>
+    </message>
+    <message>
+        <source>sRGB intent</source>
+        <translation>sRGB-Renderpriorität</translation>
+    </message>
+    <message>
+        <source>Create date</source>
+        <translation>Erstellt am</translation>
+    </message>
+    <message>
+        <source>Creator tool</source>
+        <translation>Erstellt mit</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etikett</translation>
+    </message>
+    <message>
+        <source>Metadata date</source>
+        <translation>Metadaten geändert am</translation>
+    </message>
+    <message>
+        <source>Modify date</source>
+        <translation>Geändert am</translation>
+    </message>
+    <message>
+        <source>Nickname</source>
+        <translation>Kurzname</translation>
+    </message>
+    <message>
+        <source>Document ID</source>
+        <translation>Dokument-ID</translation>
+    </message>
+    <message>
+        <source>Instance ID</source>
+        <translation>Instanz-ID</translation>
+    </message>
+    <message>
+        <source>Original document ID</source>
+        <translation>ID des Originaldokuments</translation>
+    </message>
+    <message>
+        <source>Rights marked</source>
+        <translation>Urheberrechtlich geschützt</translation>
+    </message>
+    <message>
+        <source>Rights owner</source>
+        <translation>Rechteinhaber</translation>
+    </message>
+    <message>
+        <source>Rights usage terms</source>
+        <translation>Nutzungsbedingungen</translation>
+    </message>
+    <message>
+        <source>Rights web statement</source>
+        <translation>Rechteangabe im Web</translation>
+    </message>
+    <message>
+        <source>Exif</source>
+        <translation>Exif</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>GPS</source>
+        <translation>GPS</translation>
+    </message>
+    <message>
+        <source>IPTC</source>
+        <translation>IPTC</translation>
+    </message>
+    <message>
+        <source>JFIF</source>
+        <translation>JFIF</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>TIFF</source>
+        <translation>TIFF</translation>
+    </message>
+    <message>
+        <source>XMP</source>
+        <translation>XMP</translation>
+    </message>
+</context>
+<context>
+    <name>recover-runs</name>
+    <message>
+        <source>A run was interrupted</source>
+        <translation>Ein Durchlauf wurde unterbrochen</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>recovered</name>
+    <message numerus="yes">
+        <source>%n items have their new names</source>
+        <translation>
+            <numerusform>%n Element hat seinen neuen Namen</numerusform>
+            <numerusform>%n Elemente haben ihre neuen Namen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were taken back</source>
+        <translation>
+            <numerusform>%n Element wurde zurückgenommen</numerusform>
+            <numerusform>%n Elemente wurden zurückgenommen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the turn of %n items had not come</source>
+        <translation>
+            <numerusform>%n Element war noch nicht an der Reihe</numerusform>
+            <numerusform>%n Elemente waren noch nicht an der Reihe</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was interrupted and is ended now</source>
+        <translation>„%1“ wurde unterbrochen und ist jetzt beendet</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>rename-action</name>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Rename %n Folders</source>
+        <translation>
+            <numerusform>%n Ordner umbenennen</numerusform>
+            <numerusform>%n Ordner umbenennen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rename %n Files</source>
+        <translation>
+            <numerusform>%n Datei umbenennen</numerusform>
+            <numerusform>%n Dateien umbenennen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders renamed</source>
+        <translation>
+            <numerusform>%n Ordner umbenannt</numerusform>
+            <numerusform>%n Ordner umbenannt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files renamed</source>
+        <translation>
+            <numerusform>%n Datei umbenannt</numerusform>
+            <numerusform>%n Dateien umbenannt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders have their old names again</source>
+        <translation>
+            <numerusform>%n Ordner hat wieder seinen alten Namen</numerusform>
+            <numerusform>%n Ordner haben wieder ihre alten Namen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have their old names again</source>
+        <translation>
+            <numerusform>%n Datei hat wieder ihren alten Namen</numerusform>
+            <numerusform>%n Dateien haben wieder ihre alten Namen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>rename-card</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Count by</source>
+        <translation>Schrittweite</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Neu beginnen</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>In each folder</source>
+        <translation>In jedem Ordner</translation>
+    </message>
+    <message>
+        <source>On each date taken</source>
+        <translation>An jedem Aufnahmetag</translation>
+    </message>
+    <message>
+        <source>Case</source>
+        <translation>Schreibweise</translation>
+    </message>
+    <message>
+        <source>lower case</source>
+        <translation>kleinbuchstaben</translation>
+    </message>
+    <message>
+        <source>UPPER CASE</source>
+        <translation>GROSSBUCHSTABEN</translation>
+    </message>
+    <message>
+        <source>Words With Capitals</source>
+        <translation>Wörter Groß Beginnen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>With</source>
+        <translation>Durch</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nach</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>from the start</source>
+        <translation>vom Anfang</translation>
+    </message>
+    <message>
+        <source>from the end</source>
+        <translation>vom Ende</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Davor</translation>
+    </message>
+    <message>
+        <source>Behind</source>
+        <translation>Dahinter</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>From the</source>
+        <translation>Ab dem</translation>
+    </message>
+    <message>
+        <source>Split at</source>
+        <translation>Teilen bei</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Teile</translation>
+    </message>
+    <message>
+        <source>Join by</source>
+        <translation>Verbinden mit</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>letters and digits</source>
+        <translation>Buchstaben und Ziffern</translation>
+    </message>
+    <message>
+        <source>letters only</source>
+        <translation>nur Buchstaben</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Andere</translation>
+    </message>
+    <message>
+        <source>Accents</source>
+        <translation>Akzente</translation>
+    </message>
+    <message>
+        <source>as one letter (NFC)</source>
+        <translation>als ein Zeichen (NFC)</translation>
+    </message>
+    <message>
+        <source>apart (NFD)</source>
+        <translation>getrennt (NFD)</translation>
+    </message>
+    <message>
+        <source>Names that</source>
+        <translation>Namen, die</translation>
+    </message>
+    <message>
+        <source>contain</source>
+        <translation>enthalten</translation>
+    </message>
+    <message>
+        <source>begin with</source>
+        <translation>beginnen mit</translation>
+    </message>
+    <message>
+        <source>end with</source>
+        <translation>enden mit</translation>
+    </message>
+    <message>
+        <source>all, or 2,1 or -1</source>
+        <translation>alle oder 2,1 oder -1</translation>
+    </message>
+    <message>
+        <source>{taken} lake {counter:001}</source>
+        <translation>{taken} See {counter:001}</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Endung</translation>
+    </message>
+    <message>
+        <source>Name and extension</source>
+        <translation>Name und Endung</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names are too short for this and stay as they are.</source>
+        <translation>
+            <numerusform>%n Name ist dafür zu kurz und bleibt, wie er ist.</numerusform>
+            <numerusform>%n Namen sind dafür zu kurz und bleiben, wie sie sind.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>rename-pane</name>
+    <message>
+        <source>Holiday 2026</source>
+        <translation>Urlaub 2026</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Search steps</source>
+        <translation>Schritte suchen</translation>
+    </message>
+    <message>
+        <source>Search values</source>
+        <translation>Werte suchen</translation>
+    </message>
+    <message>
+        <source>A chain can have up to 30 steps.</source>
+        <translation>Eine Kette kann bis zu 30 Schritte haben.</translation>
+    </message>
+    <message>
+        <source>A step needs attention: names are not made before it is right.</source>
+        <translation>Ein Schritt ist zu prüfen: Erst wenn er stimmt, werden Namen gebildet.</translation>
+    </message>
+</context>
+<context>
+    <name>rename-presets</name>
+    <message>
+        <source>Date and place</source>
+        <translation>Datum und Ort</translation>
+    </message>
+    <message>
+        <source>place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Clean for the web</source>
+        <translation>Sauber fürs Web</translation>
+    </message>
+    <message>
+        <source>Lower-case extensions</source>
+        <translation>Endungen klein</translation>
+    </message>
+    <message>
+        <source>Date in front</source>
+        <translation>Datum voran</translation>
+    </message>
+    <message>
+        <source>Number behind</source>
+        <translation>Nummer dahinter</translation>
+    </message>
+</context>
+<context>
+    <name>rename-step</name>
+    <message>
+        <source>files: %1</source>
+        <translation>Dateien: %1</translation>
+    </message>
+    <message>
+        <source>folders: %1</source>
+        <translation>Ordner: %1</translation>
+    </message>
+    <message>
+        <source>no date taken</source>
+        <translation>kein Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>no date of creation</source>
+        <translation>kein Erstelldatum</translation>
+    </message>
+    <message>
+        <source>no date of change</source>
+        <translation>kein Änderungsdatum</translation>
+    </message>
+    <message>
+        <source>no value for “%1”</source>
+        <translation>kein Wert für „%1“</translation>
+    </message>
+    <message>
+        <source>undated</source>
+        <translation>undatiert</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>%1: “%2”</source>
+        <translation>%1: „%2“</translation>
+    </message>
+    <message>
+        <source>a letter and its accent are parted</source>
+        <translation>ein Buchstabe und sein Akzent werden getrennt</translation>
+    </message>
+    <message>
+        <source>a character would be cut in two</source>
+        <translation>ein Zeichen würde zerteilt</translation>
+    </message>
+</context>
+<context>
+    <name>resize-action</name>
+    <message>
+        <source>Resize</source>
+        <translation>Skalieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Resize %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild skalieren</numerusform>
+            <numerusform>%n Bilder skalieren</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>resize-pane</name>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Längste</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Fill the box and cut</source>
+        <translation>Format füllen und beschneiden</translation>
+    </message>
+    <message>
+        <source>Stretch to the box</source>
+        <translation>Auf das Format strecken</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Längste Seite</translation>
+    </message>
+    <message>
+        <source>Per cent</source>
+        <translation>Prozent</translation>
+    </message>
+</context>
+<context>
+    <name>resize-presets</name>
+    <message>
+        <source>Web 1600</source>
+        <translation>Web 1600</translation>
+    </message>
+    <message>
+        <source>Web</source>
+        <translation>Web</translation>
+    </message>
+    <message>
+        <source>Mail 1024</source>
+        <translation>Mail 1024</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>Mail</translation>
+    </message>
+    <message>
+        <source>Square 1080</source>
+        <translation>Quadrat 1080</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>Print 15 × 10 cm, 300 dpi</source>
+        <translation>Druck 15 × 10 cm, 300 dpi</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Print 10 × 15 cm, 300 dpi</source>
+        <translation>Druck 10 × 15 cm, 300 dpi</translation>
+    </message>
+    <message>
+        <source>Contact thumbnails</source>
+        <translation>Miniaturen für Kontaktbogen</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Miniaturen</translation>
+    </message>
+</context>
+<context>
+    <name>resize-step</name>
+    <message>
+        <source>Resized</source>
+        <translation>Skaliert</translation>
+    </message>
+    <message>
+        <source>width %1</source>
+        <translation>Breite %1</translation>
+    </message>
+    <message>
+        <source>height %1</source>
+        <translation>Höhe %1</translation>
+    </message>
+    <message>
+        <source>longest %1</source>
+        <translation>längste Seite %1</translation>
+    </message>
+    <message>
+        <source>percent %1</source>
+        <translation>%1 Prozent</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>Format %1</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 1 to %1.</source>
+        <translation>Geben Sie eine ganze Zahl von 1 bis %1 ein.</translation>
+    </message>
+    <message>
+        <source>Enter a number above 0, up to %1.</source>
+        <translation>Geben Sie eine Zahl über 0 bis %1 ein.</translation>
+    </message>
+    <message numerus="yes">
+        <source>it would be larger than %n pixels</source>
+        <translation>
+            <numerusform>es würde größer als %n Pixel</numerusform>
+            <numerusform>es würde größer als %n Pixel</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it would be less than one pixel in size</source>
+        <translation>es würde kleiner als ein Pixel</translation>
+    </message>
+</context>
+<context>
+    <name>risky-names</name>
+    <message>
+        <source>other systems keep the name %1 for themselves</source>
+        <translation>andere Systeme behalten sich den Namen %1 vor</translation>
+    </message>
+    <message>
+        <source>other systems do not take %1</source>
+        <translation>andere Systeme erlauben kein %1</translation>
+    </message>
+    <message>
+        <source>it has a control character in it</source>
+        <translation>der Name enthält ein Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>it begins with a blank</source>
+        <translation>der Name beginnt mit einem Leerzeichen</translation>
+    </message>
+    <message>
+        <source>other systems take no blank or dot at the end</source>
+        <translation>andere Systeme erlauben kein Leerzeichen und keinen Punkt am Ende</translation>
+    </message>
+</context>
+<context>
+    <name>room</name>
+    <message>
+        <source>The files need %1, but only %2 are free for %3.</source>
+        <translation>Die Dateien brauchen %1, aber für %3 sind nur %2 frei.</translation>
+    </message>
+    <message>
+        <source>%1 are free</source>
+        <translation>%1 sind frei</translation>
+    </message>
+    <message>
+        <source>%1 to be written</source>
+        <translation>%1 zu schreiben</translation>
+    </message>
+    <message>
+        <source>too little room (needs %1, %2 are free)</source>
+        <translation>zu wenig Platz (braucht %1, frei sind %2)</translation>
+    </message>
+</context>
+<context>
+    <name>round-action</name>
+    <message>
+        <source>Round Corners</source>
+        <translation>Ecken abrunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Round %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild abrunden</numerusform>
+            <numerusform>%n Bilder abrunden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>round-pane</name>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+</context>
+<context>
+    <name>round-presets</name>
+    <message>
+        <source>Soft corners</source>
+        <translation>Weiche Ecken</translation>
+    </message>
+    <message>
+        <source>Round corners on white</source>
+        <translation>Runde Ecken auf Weiß</translation>
+    </message>
+    <message>
+        <source>Circle portrait</source>
+        <translation>Rundes Porträt</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+</context>
+<context>
+    <name>round-step</name>
+    <message>
+        <source>Rounded</source>
+        <translation>Abgerundet</translation>
+    </message>
+    <message>
+        <source>corners of %1 px</source>
+        <translation>Ecken von %1 px</translation>
+    </message>
+    <message>
+        <source>circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>auf %1</translation>
+    </message>
+    <message>
+        <source>band of %1 px</source>
+        <translation>Rahmen von %1 px</translation>
+    </message>
+    <message>
+        <source>Enter a radius from 0 to %1.</source>
+        <translation>Geben Sie einen Radius von 0 bis %1 ein.</translation>
+    </message>
+    <message>
+        <source>Enter a width of the band from 0 to %1.</source>
+        <translation>Geben Sie eine Rahmenbreite von 0 bis %1 ein.</translation>
+    </message>
+    <message>
+        <source>The circle is cut from the square at the left.</source>
+        <translation>Der Kreis wird aus dem Quadrat am linken Rand geschnitten.</translation>
+    </message>
+    <message>
+        <source>The circle is cut from the square at the bottom.</source>
+        <translation>Der Kreis wird aus dem Quadrat am unteren Rand geschnitten.</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: what lies outside the shape becomes black.</source>
+        <translation>%1 kennt keine Transparenz: Was außerhalb der Form liegt, wird schwarz.</translation>
+    </message>
+    <message>
+        <source>the band would cover all of it</source>
+        <translation>der Rahmen würde alles bedecken</translation>
+    </message>
+</context>
+<context>
+    <name>run-base</name>
+    <message>
+        <source>Planning…</source>
+        <translation>Wird geplant…</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>no problems</source>
+        <translation>keine Probleme</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Report saved as %1</source>
+        <translation>Bericht gespeichert als %1</translation>
+    </message>
+</context>
+<context>
+    <name>save-as</name>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>Choose a picture to save</source>
+        <translation>Wählen Sie ein Bild zum Speichern</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>etwa %1</translation>
+    </message>
+    <message>
+        <source>Saved %1, %2</source>
+        <translation>%1 gespeichert, %2</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written.</source>
+        <translation>„%1“ konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The folder may be locked, the disk full, or “%1” damaged.</source>
+        <translation>Vielleicht ist der Ordner gesperrt, das Laufwerk voll oder „%1“ beschädigt.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>script::ScriptEngine</name>
+    <message>
+        <source>Cannot read %1: there is no such file</source>
+        <translation>%1 kann nicht gelesen werden: Es gibt keine solche Datei</translation>
+    </message>
+    <message>
+        <source>This is not a function of a script</source>
+        <translation>Das ist keine Funktion eines Skripts</translation>
+    </message>
+</context>
+<context>
+    <name>settings-watch</name>
+    <message>
+        <source>Settings cannot be written. What you change holds until you quit.</source>
+        <translation>Die Einstellungen können nicht gespeichert werden. Änderungen gelten bis zum Beenden.</translation>
+    </message>
+</context>
+<context>
+    <name>sort-action</name>
+    <message numerus="yes">
+        <source>Sort %n Files into Folders</source>
+        <translation>
+            <numerusform>%n Datei in Ordner sortieren</numerusform>
+            <numerusform>%n Dateien in Ordner sortieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy %n Files into Folders</source>
+        <translation>
+            <numerusform>%n Datei in Ordner kopieren</numerusform>
+            <numerusform>%n Dateien in Ordner kopieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Link %n Files into Folders</source>
+        <translation>
+            <numerusform>%n Datei in Ordnern verknüpfen</numerusform>
+            <numerusform>%n Dateien in Ordnern verknüpfen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files sorted</source>
+        <translation>
+            <numerusform>%n Datei sortiert</numerusform>
+            <numerusform>%n Dateien sortiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files copied</source>
+        <translation>
+            <numerusform>%n Datei kopiert</numerusform>
+            <numerusform>%n Dateien kopiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links made</source>
+        <translation>
+            <numerusform>%n Verknüpfung angelegt</numerusform>
+            <numerusform>%n Verknüpfungen angelegt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sort into Folders</source>
+        <translation>In Ordner sortieren</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files put back</source>
+        <translation>
+            <numerusform>%n Datei zurückgelegt</numerusform>
+            <numerusform>%n Dateien zurückgelegt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>sort-pane</name>
+    <message>
+        <source>Folder of their own</source>
+        <translation>Eigener Ordner</translation>
+    </message>
+    <message>
+        <source>Use date created</source>
+        <translation>Erstelldatum nehmen</translation>
+    </message>
+    <message>
+        <source>Use date changed</source>
+        <translation>Änderungsdatum nehmen</translation>
+    </message>
+    <message>
+        <source>Leave where they are</source>
+        <translation>Liegen lassen</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Verknüpfen</translation>
+    </message>
+    <message>
+        <source>Number the file</source>
+        <translation>Datei nummerieren</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>The originals stay where they are.</source>
+        <translation>Die Originale bleiben, wo sie sind.</translation>
+    </message>
+    <message>
+        <source>Links lead to the files where they are now.</source>
+        <translation>Verknüpfungen führen zu den Dateien an ihrem jetzigen Ort.</translation>
+    </message>
+    <message>
+        <source>Own pattern</source>
+        <translation>Eigenes Muster</translation>
+    </message>
+    <message>
+        <source>No more folders</source>
+        <translation>Keine weiteren Ordner</translation>
+    </message>
+    <message>
+        <source>Folder of each picture</source>
+        <translation>Ordner jedes Bildes</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>Sort into</source>
+        <translation>Sortieren in</translation>
+    </message>
+    <message>
+        <source>%1 has no date and stays.</source>
+        <translation>%1 hat kein Datum und bleibt.</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2</source>
+        <translation>%1 kommt in %2</translation>
+    </message>
+</context>
+<context>
+    <name>sort-presets</name>
+    <message>
+        <source>By year and day taken</source>
+        <translation>Nach Aufnahmejahr und -tag</translation>
+    </message>
+    <message>
+        <source>By year and month taken</source>
+        <translation>Nach Aufnahmejahr und -monat</translation>
+    </message>
+    <message>
+        <source>By day changed</source>
+        <translation>Nach Tag der Änderung</translation>
+    </message>
+    <message>
+        <source>By camera and day taken</source>
+        <translation>Nach Kamera und Aufnahmetag</translation>
+    </message>
+    <message>
+        <source>By type</source>
+        <translation>Nach Typ</translation>
+    </message>
+    <message>
+        <source>By orientation</source>
+        <translation>Nach Ausrichtung</translation>
+    </message>
+    <message>
+        <source>By file size</source>
+        <translation>Nach Dateigröße</translation>
+    </message>
+    <message>
+        <source>By start of name</source>
+        <translation>Nach Namensanfang</translation>
+    </message>
+</context>
+<context>
+    <name>sort-step</name>
+    <message>
+        <source>Undated</source>
+        <translation>Ohne Datum</translation>
+    </message>
+    <message>
+        <source>move into %1</source>
+        <translation>verschieben nach %1</translation>
+    </message>
+    <message>
+        <source>copy into %1</source>
+        <translation>kopieren nach %1</translation>
+    </message>
+    <message>
+        <source>link into %1</source>
+        <translation>verknüpfen in %1</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>Choose a folder to sort into.</source>
+        <translation>Wählen Sie einen Ordner, in den sortiert wird.</translation>
+    </message>
+    <message>
+        <source>no date taken</source>
+        <translation>kein Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>by date created</source>
+        <translation>nach Erstelldatum</translation>
+    </message>
+    <message>
+        <source>by date changed</source>
+        <translation>nach Änderungsdatum</translation>
+    </message>
+    <message>
+        <source>no date taken: stays</source>
+        <translation>kein Aufnahmedatum: bleibt</translation>
+    </message>
+    <message>
+        <source>a file has the name of the folder: %1</source>
+        <translation>eine Datei heißt wie der Ordner: %1</translation>
+    </message>
+    <message>
+        <source>The file states no date on which it was taken.</source>
+        <translation>Die Datei nennt kein Aufnahmedatum.</translation>
+    </message>
+    <message>
+        <source>It lies in such a folder already.</source>
+        <translation>Es liegt schon in einem solchen Ordner.</translation>
+    </message>
+</context>
+<context>
+    <name>sort-tree</name>
+    <message>
+        <source>No file will go anywhere.</source>
+        <translation>Keine Datei wird bewegt.</translation>
+    </message>
+    <message>
+        <source>%1 into %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n Ordner</numerusform>
+            <numerusform>%n Ordner</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no new folder</source>
+        <translation>kein neuer Ordner</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new folders</source>
+        <translation>
+            <numerusform>%n neuer Ordner</numerusform>
+            <numerusform>%n neue Ordner</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>sorting</name>
+    <message>
+        <source>Year taken</source>
+        <translation>Jahr der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Month taken</source>
+        <translation>Monat der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Day taken</source>
+        <translation>Tag der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Year created</source>
+        <translation>Jahr der Erstellung</translation>
+    </message>
+    <message>
+        <source>Month created</source>
+        <translation>Monat der Erstellung</translation>
+    </message>
+    <message>
+        <source>Day created</source>
+        <translation>Tag der Erstellung</translation>
+    </message>
+    <message>
+        <source>Year changed</source>
+        <translation>Jahr der Änderung</translation>
+    </message>
+    <message>
+        <source>Month changed</source>
+        <translation>Monat der Änderung</translation>
+    </message>
+    <message>
+        <source>Day changed</source>
+        <translation>Tag der Änderung</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Dateigröße</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <source>Name up to a number</source>
+        <translation>Name bis zu einer Zahl</translation>
+    </message>
+    <message>
+        <source>First letter</source>
+        <translation>Erster Buchstabe</translation>
+    </message>
+    <message>
+        <source>First 3 letters</source>
+        <translation>Erste 3 Buchstaben</translation>
+    </message>
+    <message>
+        <source>Choose a rule, or write a pattern of folders.</source>
+        <translation>Wählen Sie eine Regel oder schreiben Sie ein Ordnermuster.</translation>
+    </message>
+    <message>
+        <source>A folder cannot be called “.” or “..”.</source>
+        <translation>Ein Ordner kann nicht „.“ oder „..“ heißen.</translation>
+    </message>
+    <message>
+        <source>A folder cannot have a name of blanks only.</source>
+        <translation>Ein Ordnername kann nicht nur aus Leerzeichen bestehen.</translation>
+    </message>
+    <message>
+        <source>The name of a folder is too long.</source>
+        <translation>Ein Ordnername ist zu lang.</translation>
+    </message>
+    <message>
+        <source>A pattern cannot hold control characters.</source>
+        <translation>Ein Muster darf keine Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>Enter a name for the folder of pictures without a date.</source>
+        <translation>Geben Sie einen Namen für den Ordner der Bilder ohne Datum ein.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a folder.</source>
+        <translation>„%1“ ist kein möglicher Ordnername.</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Ohne Datum</translation>
+    </message>
+    <message>
+        <source>Unknown camera</source>
+        <translation>Unbekannte Kamera</translation>
+    </message>
+    <message>
+        <source>Unknown lens</source>
+        <translation>Unbekanntes Objektiv</translation>
+    </message>
+    <message>
+        <source>Unknown size</source>
+        <translation>Unbekannte Größe</translation>
+    </message>
+    <message>
+        <source>Unknown type</source>
+        <translation>Unbekannter Typ</translation>
+    </message>
+    <message>
+        <source>Unknown orientation</source>
+        <translation>Unbekannte Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Without extension</source>
+        <translation>Ohne Endung</translation>
+    </message>
+    <message>
+        <source>Other names</source>
+        <translation>Andere Namen</translation>
+    </message>
+    <message>
+        <source>Other folders</source>
+        <translation>Andere Ordner</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Andere</translation>
+    </message>
+</context>
+<context>
+    <name>status-bar</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>step-words</name>
+    <message>
+        <source>New text</source>
+        <translation>Neuer Text</translation>
+    </message>
+    <message>
+        <source>Text with dates, counters and other values</source>
+        <translation>Text mit Datum, Zähler und anderen Werten</translation>
+    </message>
+    <message>
+        <source>token pattern write template</source>
+        <translation>platzhalter muster schreiben schablone</translation>
+    </message>
+    <message>
+        <source>Change case</source>
+        <translation>Groß und klein</translation>
+    </message>
+    <message>
+        <source>lower case, UPPER CASE, Words</source>
+        <translation>klein, GROSS, Wörter</translation>
+    </message>
+    <message>
+        <source>capital small letters</source>
+        <translation>großbuchstaben kleinbuchstaben großschreibung kleinschreibung</translation>
+    </message>
+    <message>
+        <source>Replace text</source>
+        <translation>Text ersetzen</translation>
+    </message>
+    <message>
+        <source>One text by another, wherever it occurs</source>
+        <translation>Einen Text durch einen anderen, wo immer er vorkommt</translation>
+    </message>
+    <message>
+        <source>search find substitute delete</source>
+        <translation>suchen finden austauschen löschen</translation>
+    </message>
+    <message>
+        <source>Insert text</source>
+        <translation>Text einfügen</translation>
+    </message>
+    <message>
+        <source>At a place counted from the start or the end</source>
+        <translation>An einer Stelle, vom Anfang oder Ende gezählt</translation>
+    </message>
+    <message>
+        <source>add position</source>
+        <translation>hinzufügen position stelle</translation>
+    </message>
+    <message>
+        <source>Add before and after</source>
+        <translation>Davor und dahinter</translation>
+    </message>
+    <message>
+        <source>Text in front of the name and behind it</source>
+        <translation>Text vor und hinter dem Namen</translation>
+    </message>
+    <message>
+        <source>prefix suffix append join concatenate</source>
+        <translation>präfix suffix anhängen voranstellen hinzufügen</translation>
+    </message>
+    <message>
+        <source>Strip characters</source>
+        <translation>Zeichen abschneiden</translation>
+    </message>
+    <message>
+        <source>A number of them from the left or the right</source>
+        <translation>Einige von links oder von rechts</translation>
+    </message>
+    <message>
+        <source>remove cut trim shorten</source>
+        <translation>entfernen kürzen abschneiden weg</translation>
+    </message>
+    <message>
+        <source>Keep a section</source>
+        <translation>Abschnitt behalten</translation>
+    </message>
+    <message>
+        <source>Only the characters at certain places</source>
+        <translation>Nur die Zeichen an bestimmten Stellen</translation>
+    </message>
+    <message>
+        <source>part substring range middle</source>
+        <translation>teil ausschnitt bereich mitte</translation>
+    </message>
+    <message>
+        <source>Split and join</source>
+        <translation>Teilen und verbinden</translation>
+    </message>
+    <message>
+        <source>Take pieces between separators, in any order</source>
+        <translation>Teile zwischen Trennzeichen nehmen, in beliebiger Folge</translation>
+    </message>
+    <message>
+        <source>pieces rearrange swap</source>
+        <translation>stücke umstellen tauschen</translation>
+    </message>
+    <message>
+        <source>Remove signs</source>
+        <translation>Sonderzeichen entfernen</translation>
+    </message>
+    <message>
+        <source>Keep letters, or letters and digits</source>
+        <translation>Buchstaben behalten, auf Wunsch auch Ziffern</translation>
+    </message>
+    <message>
+        <source>non-letters clean punctuation digits</source>
+        <translation>satzzeichen säubern bereinigen ziffern</translation>
+    </message>
+    <message>
+        <source>Remove spaces</source>
+        <translation>Leerzeichen entfernen</translation>
+    </message>
+    <message>
+        <source>All blanks, also between words</source>
+        <translation>Alle, auch zwischen Wörtern</translation>
+    </message>
+    <message>
+        <source>blanks whitespace</source>
+        <translation>leerraum lücken blanks</translation>
+    </message>
+    <message>
+        <source>Fold accents</source>
+        <translation>Akzente auflösen</translation>
+    </message>
+    <message>
+        <source>é becomes e</source>
+        <translation>é wird zu e</translation>
+    </message>
+    <message>
+        <source>ascii umlaut diacritics plain</source>
+        <translation>ascii umlaut diakritische einfach</translation>
+    </message>
+    <message>
+        <source>One writing of accents</source>
+        <translation>Akzente einheitlich</translation>
+    </message>
+    <message>
+        <source>For names that came from another system</source>
+        <translation>Für Namen von anderen Systemen</translation>
+    </message>
+    <message>
+        <source>unicode utf-8 normalise nfc nfd repair</source>
+        <translation>unicode utf-8 normalisieren nfc nfd reparieren</translation>
+    </message>
+    <message>
+        <source>Only some names</source>
+        <translation>Nur manche Namen</translation>
+    </message>
+    <message>
+        <source>The steps below work on names that fit</source>
+        <translation>Die Schritte darunter gelten für passende Namen</translation>
+    </message>
+    <message>
+        <source>filter condition contains begins ends if</source>
+        <translation>filter bedingung enthält beginnt endet wenn</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Zähler</translation>
+    </message>
+    <message>
+        <source>001, 002, 003 behind the name</source>
+        <translation>001, 002, 003 hinter dem Namen</translation>
+    </message>
+    <message>
+        <source>number sequence</source>
+        <translation>nummer laufend folge</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>In front of the name</source>
+        <translation>Vor dem Namen</translation>
+    </message>
+    <message>
+        <source>exif time shot</source>
+        <translation>exif zeit aufgenommen fotografiert</translation>
+    </message>
+    <message>
+        <source>Date changed or created</source>
+        <translation>Änderungs- oder Erstelldatum</translation>
+    </message>
+    <message>
+        <source>modified file time</source>
+        <translation>geändert datei zeit</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Behind the name</source>
+        <translation>Hinter dem Namen</translation>
+    </message>
+    <message>
+        <source>model lens</source>
+        <translation>modell objektiv</translation>
+    </message>
+    <message>
+        <source>Size in pixels</source>
+        <translation>Größe in Pixeln</translation>
+    </message>
+    <message>
+        <source>width height resolution</source>
+        <translation>breite höhe auflösung</translation>
+    </message>
+    <message>
+        <source>Name of the folder</source>
+        <translation>Name des Ordners</translation>
+    </message>
+    <message>
+        <source>directory parent</source>
+        <translation>verzeichnis übergeordnet</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>extension</source>
+        <translation>Endung</translation>
+    </message>
+    <message>
+        <source>name and extension</source>
+        <translation>Name und Endung</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>%1 to lower case</source>
+        <translation>%1 in Kleinbuchstaben</translation>
+    </message>
+    <message>
+        <source>%1 to UPPER CASE</source>
+        <translation>%1 in GROSSBUCHSTABEN</translation>
+    </message>
+    <message>
+        <source>%1 to Words With Capitals</source>
+        <translation>%1: Wörter Groß Beginnen</translation>
+    </message>
+    <message>
+        <source>%1 becomes %2</source>
+        <translation>%1 wird zu %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 from the end</source>
+        <translation>%1, %2 vom Ende</translation>
+    </message>
+    <message>
+        <source>%1, %2 from the start</source>
+        <translation>%1, %2 vom Anfang</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 behind</source>
+        <translation>%1 davor, %2 dahinter</translation>
+    </message>
+    <message>
+        <source>%1 from the left</source>
+        <translation>%1 von links</translation>
+    </message>
+    <message>
+        <source>%1 from the right</source>
+        <translation>%1 von rechts</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters from the %1.</source>
+        <translation>
+            <numerusform>%n Zeichen ab dem %1.</numerusform>
+            <numerusform>%n Zeichen ab dem %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>at %1, joined by %2</source>
+        <translation>bei %1, verbunden mit %2</translation>
+    </message>
+    <message>
+        <source>at %1, pieces %3, joined by %2</source>
+        <translation>bei %1, Teile %3, verbunden mit %2</translation>
+    </message>
+    <message>
+        <source>only letters stay</source>
+        <translation>nur Buchstaben bleiben</translation>
+    </message>
+    <message>
+        <source>only letters and digits stay</source>
+        <translation>nur Buchstaben und Ziffern bleiben</translation>
+    </message>
+    <message>
+        <source>no blanks are left</source>
+        <translation>kein Leerzeichen bleibt</translation>
+    </message>
+    <message>
+        <source>é becomes e, others %1</source>
+        <translation>é wird zu e, andere zu %1</translation>
+    </message>
+    <message>
+        <source>accents apart (NFD)</source>
+        <translation>Akzente getrennt (NFD)</translation>
+    </message>
+    <message>
+        <source>accents and letters as one (NFC)</source>
+        <translation>Akzent und Buchstabe als ein Zeichen (NFC)</translation>
+    </message>
+    <message>
+        <source>that contain %1</source>
+        <translation>die %1 enthalten</translation>
+    </message>
+    <message>
+        <source>that begin with %1</source>
+        <translation>die mit %1 beginnen</translation>
+    </message>
+    <message>
+        <source>that end with %1</source>
+        <translation>die mit %1 enden</translation>
+    </message>
+</context>
+<context>
+    <name>targets</name>
+    <message>
+        <source>Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black and 16 bits become 8. The colour profile is kept.</source>
+        <translation>Kleine Dateien zum Zeigen. Feine Details gehen verloren, je niedriger die Qualität, desto mehr; EXIF, IPTC und XMP entfallen, transparente Bereiche werden schwarz, aus 16 Bit werden 8. Das Farbprofil bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, colour profile, EXIF, IPTC and XMP are kept.</source>
+        <translation>Nichts geht verloren: Pixel, Transparenz, 16 Bit, Farbprofil, EXIF, IPTC und XMP bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile, EXIF, IPTC and XMP are kept. Large files.</source>
+        <translation>Nichts geht verloren: Pixel, Transparenz, 16 Bit, CMYK, Farbprofil, EXIF, IPTC und XMP bleiben erhalten. Große Dateien.</translation>
+    </message>
+    <message>
+        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept.</source>
+        <translation>Eine Seite in der Größe des Bildes. Ein JPEG kommt unverändert hinein, anderes verlustfrei. EXIF, IPTC und XMP entfallen.</translation>
+    </message>
+    <message>
+        <source>Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC, XMP and the resolution are not. Few programs show such files.</source>
+        <translation>Verlust, den man nicht sieht. Transparenz und 16 Bit bleiben erhalten; EXIF, IPTC, XMP und die Auflösung entfallen. Wenige Programme zeigen solche Dateien.</translation>
+    </message>
+    <message>
+        <source>256 colours at most, and a pixel is either transparent or not. EXIF, IPTC, XMP and the resolution are not kept; colours become sRGB.</source>
+        <translation>Höchstens 256 Farben, und ein Pixel ist entweder transparent oder nicht. EXIF, IPTC, XMP und die Auflösung entfallen; Farben werden zu sRGB.</translation>
+    </message>
+    <message>
+        <source>Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black, and 16 bits become 8.</source>
+        <translation>Nur Pixel, in großen Dateien. EXIF, IPTC und XMP entfallen, Farben werden zu sRGB, transparente Bereiche schwarz, aus 16 Bit werden 8.</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP are not kept</source>
+        <translation>EXIF, IPTC und XMP entfallen</translation>
+    </message>
+    <message>
+        <source>256 colours</source>
+        <translation>256 Farben</translation>
+    </message>
+    <message>
+        <source>colours become sRGB</source>
+        <translation>Farben werden zu sRGB</translation>
+    </message>
+    <message>
+        <source>the resolution is not kept</source>
+        <translation>die Auflösung entfällt</translation>
+    </message>
+    <message>
+        <source>transparent parts become black</source>
+        <translation>transparente Bereiche werden schwarz</translation>
+    </message>
+    <message>
+        <source>The preview that the camera put into the raw file is converted, not the raw data.</source>
+        <translation>Umgewandelt wird die Vorschau, die die Kamera in die RAW-Datei gelegt hat, nicht die Rohdaten.</translation>
+    </message>
+    <message>
+        <source>The first page is drawn at 72 pixels per inch.</source>
+        <translation>Die erste Seite wird mit 72 Pixeln pro Zoll gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Of an animation the first picture is converted.</source>
+        <translation>Von einer Animation wird das erste Bild umgewandelt.</translation>
+    </message>
+    <message>
+        <source>Of several pages the first is converted.</source>
+        <translation>Von mehreren Seiten wird die erste umgewandelt.</translation>
+    </message>
+    <message>
+        <source>Layers become one picture.</source>
+        <translation>Ebenen werden zu einem Bild.</translation>
+    </message>
+    <message>
+        <source>It is %1 already and is written anew.</source>
+        <translation>Es ist schon %1 und wird neu geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>tokens</name>
+    <message>
+        <source>Name without extension</source>
+        <translation>Name ohne Endung</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Endung</translation>
+    </message>
+    <message>
+        <source>Date taken, or else changed</source>
+        <translation>Aufnahmedatum, sonst geändert</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>Date created</source>
+        <translation>Erstelldatum</translation>
+    </message>
+    <message>
+        <source>Date changed</source>
+        <translation>Änderungsdatum</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Zähler</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Breite in Pixeln</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Höhe in Pixeln</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Dateigröße</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>Landscape, portrait or square</source>
+        <translation>Quer, hoch oder quadratisch</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Name of its folder</source>
+        <translation>Name des Ordners</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Urlaub</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>„%1“ ist keine Form eines Datums: Schreiben Sie es mit yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+    </message>
+    <message>
+        <source>“%1” is no first number of a counter</source>
+        <translation>„%1“ ist keine Anfangszahl für einen Zähler</translation>
+    </message>
+    <message>
+        <source>“%1” takes no part of a name: write a number of letters, “word”, or “~” and words with commas between them</source>
+        <translation>„%1“ nimmt keinen Teil eines Namens: Schreiben Sie eine Anzahl von Buchstaben, „word“ oder „~“ und Wörter mit Kommas dazwischen</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a size: write “class” or “MB”</source>
+        <translation>„%1“ ist keine Form einer Größe: Schreiben Sie „class“ oder „MB“</translation>
+    </message>
+    <message>
+        <source>{%1} has no forms: leave out what stands behind its colon</source>
+        <translation>{%1} hat keine Formen: Lassen Sie weg, was hinter dem Doppelpunkt steht</translation>
+    </message>
+    <message>
+        <source>There is no token between the braces; a brace of its own is written {{</source>
+        <translation>Zwischen den geschweiften Klammern fehlt der Platzhalter; für die Klammer selbst schreiben Sie {{</translation>
+    </message>
+    <message>
+        <source>There is no token {%1}</source>
+        <translation>Einen Platzhalter {%1} gibt es nicht</translation>
+    </message>
+    <message>
+        <source>A brace is not closed; a brace of its own is written {{</source>
+        <translation>Eine geschweifte Klammer ist nicht geschlossen; für die Klammer selbst schreiben Sie {{</translation>
+    </message>
+    <message>
+        <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
+        <translation>Jan Feb Mrz Apr Mai Jun Jul Aug Sep Okt Nov Dez</translation>
+    </message>
+    <message>
+        <source>Sun Mon Tue Wed Thu Fri Sat</source>
+        <translation>So Mo Di Mi Do Fr Sa</translation>
+    </message>
+    <message>
+        <source>Under 1 MB</source>
+        <translation>Unter 1 MB</translation>
+    </message>
+    <message>
+        <source>1 to 5 MB</source>
+        <translation>1 bis 5 MB</translation>
+    </message>
+    <message>
+        <source>5 to 20 MB</source>
+        <translation>5 bis 20 MB</translation>
+    </message>
+    <message>
+        <source>20 MB and more</source>
+        <translation>20 MB und mehr</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+</context>
+<context>
+    <name>turn-action</name>
+    <message>
+        <source>Rotate &amp; Flip</source>
+        <translation>Drehen &amp; Spiegeln</translation>
+    </message>
+    <message numerus="yes">
+        <source>Turn %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild drehen</numerusform>
+            <numerusform>%n Bilder drehen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>turn-pane</name>
+    <message>
+        <source>not turned</source>
+        <translation>nicht gedreht</translation>
+    </message>
+    <message>
+        <source>↺ to the left</source>
+        <translation>↺ nach links</translation>
+    </message>
+    <message>
+        <source>↻ to the right</source>
+        <translation>↻ nach rechts</translation>
+    </message>
+</context>
+<context>
+    <name>turn-presets</name>
+    <message>
+        <source>A quarter left</source>
+        <translation>Vierteldrehung links</translation>
+    </message>
+    <message>
+        <source>A quarter right</source>
+        <translation>Vierteldrehung rechts</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>Kopfüber</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>Gespiegelt</translation>
+    </message>
+</context>
+<context>
+    <name>turn-step</name>
+    <message>
+        <source>Turned</source>
+        <translation>Gedreht</translation>
+    </message>
+    <message>
+        <source>turn %1°</source>
+        <translation>%1° drehen</translation>
+    </message>
+    <message>
+        <source>flip horizontally</source>
+        <translation>horizontal spiegeln</translation>
+    </message>
+    <message>
+        <source>flip vertically</source>
+        <translation>vertikal spiegeln</translation>
+    </message>
+    <message>
+        <source>Enter an angle from -180 to 180 degrees.</source>
+        <translation>Geben Sie einen Winkel von -180 bis 180 Grad ein.</translation>
+    </message>
+    <message>
+        <source>Choose an angle or a flip.</source>
+        <translation>Wählen Sie einen Winkel oder eine Spiegelung.</translation>
+    </message>
+    <message>
+        <source>Turned without loss.</source>
+        <translation>Verlustfrei gedreht.</translation>
+    </message>
+    <message>
+        <source>The canvas grows so that the corners fit.</source>
+        <translation>Die Bildfläche wächst, damit die Ecken Platz haben.</translation>
+    </message>
+    <message>
+        <source>The canvas grows so that the corners fit; what is beside the picture becomes black.</source>
+        <translation>Die Bildfläche wächst, damit die Ecken Platz haben; was neben dem Bild liegt, wird schwarz.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written; convert it first</source>
+        <translation>%1 kann nicht geschrieben werden; wandeln Sie es zuerst um</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>kein lesbares Bild</translation>
+    </message>
+</context>
+<context>
+    <name>undo-run</name>
+    <message>
+        <source>Undo This Run</source>
+        <translation>Rückgängig machen</translation>
+    </message>
+    <message>
+        <source>This run wrote new files and moved none, so that there is nothing to take back: its results can be deleted.</source>
+        <translation>Dieser Durchlauf hat neue Dateien geschrieben und keine bewegt; es gibt also nichts zurückzunehmen: Seine Ergebnisse können gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files can be taken back.</source>
+        <translation>
+            <numerusform>%n Datei kann zurückgenommen werden.</numerusform>
+            <numerusform>%n Dateien können zurückgenommen werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Revert This Run</source>
+        <translation>Durchlauf zurücksetzen</translation>
+    </message>
+    <message>
+        <source>No comment was changed.</source>
+        <translation>Kein Kommentar wurde geändert.</translation>
+    </message>
+    <message>
+        <source>All its comments were reverted already.</source>
+        <translation>Alle seine Kommentare wurden schon zurückgesetzt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments can be reverted.</source>
+        <translation>
+            <numerusform>%n Kommentar kann zurückgesetzt werden.</numerusform>
+            <numerusform>%n Kommentare können zurückgesetzt werden.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were reverted before.</source>
+        <translation>
+            <numerusform>%n wurde schon zurückgesetzt.</numerusform>
+            <numerusform>%n wurden schon zurückgesetzt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+</context>
+<context>
+    <name>window</name>
+    <message>
+        <source>Nothing of the picture is left</source>
+        <translation>Vom Bild bleibt nichts übrig</translation>
+    </message>
+    <message>
+        <source>The pattern cannot be read</source>
+        <translation>Das Muster kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>window::ComparePreview</name>
+    <message>
+        <source>Not a readable picture</source>
+        <translation>Kein lesbares Bild</translation>
+    </message>
+    <message>
+        <source>This picture cannot be shown</source>
+        <translation>Dieses Bild kann nicht gezeigt werden</translation>
+    </message>
+</context>
+<context>
+    <name>window::CropFrameEditor</name>
+    <message>
+        <source>Crop frame</source>
+        <translation>Ausschnitt</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels, %3 from the left, %4 from the top</source>
+        <translation>%1 mal %2 Pixel, %3 von links, %4 von oben</translation>
+    </message>
+</context>
+<context>
+    <name>window::FolderTree</name>
+    <message>
+        <source>new</source>
+        <translation>neu</translation>
+    </message>
+    <message>
+        <source>exists</source>
+        <translation>da</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files</source>
+        <translation>
+            <numerusform>%Ln Datei</numerusform>
+            <numerusform>%Ln Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, new folder, %2</source>
+        <translation>%1, neuer Ordner, %2</translation>
+    </message>
+    <message>
+        <source>%1, folder that exists, %2</source>
+        <translation>%1, vorhandener Ordner, %2</translation>
+    </message>
+</context>
+<context>
+    <name>window::ManualView</name>
+    <message>
+        <source>This page of the manual is missing.</source>
+        <translation>Diese Seite des Handbuchs fehlt.</translation>
+    </message>
+</context>
+<context>
+    <name>window::PictureModel</name>
+    <message>
+        <source>Thumbnail of %1</source>
+        <translation>Miniatur von %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Neuer Name</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Neue Pixel</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>window::PropertyTree</name>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Place in Degrees</source>
+        <translation>Ort in Grad kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Place in Minutes</source>
+        <translation>Ort in Minuten kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>window::RunRows</name>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln Eintrag</numerusform>
+            <numerusform>%Ln Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln problems</source>
+        <translation>
+            <numerusform>%Ln Problem</numerusform>
+            <numerusform>%Ln Probleme</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::SaveDialog</name>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Save in:</source>
+        <translation>Speichern in:</translation>
+    </message>
+    <message>
+        <source>Ta&amp;gs:</source>
+        <translation>Schla&amp;gwörter:</translation>
+    </message>
+    <message>
+        <source>separated by commas</source>
+        <translation>durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>Tags, separated by commas</source>
+        <translation>Schlagwörter, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Replace it?</source>
+        <translation>„%1“ gibt es schon. Ersetzen?</translation>
+    </message>
+</context>
+<context>
+    <name>window::SlotRows</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::StartUp</name>
+    <message>
+        <source>Quorlin cannot start: a script of its windows failed.</source>
+        <translation>Quorlin kann nicht starten: Ein Skript seiner Fenster ist fehlgeschlagen.</translation>
+    </message>
+</context>
+<context>
+    <name>wording</name>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>Nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Übersprungen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n Problem</numerusform>
+            <numerusform>%n Probleme</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>write-plan</name>
+    <message>
+        <source>name is taken: will ask</source>
+        <translation>Name vergeben: fragt nach</translation>
+    </message>
+    <message>
+        <source>replaces original</source>
+        <translation>ersetzt Original</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <translation>ersetzt %1</translation>
+    </message>
+    <message>
+        <source>would be written</source>
+        <translation>würde geschrieben</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+</context>
+<context>
+    <name>write-run</name>
+    <message>
+        <source>Name taken</source>
+        <translation>Name vergeben</translation>
+    </message>
+    <message>
+        <source>There is a file “%1” in the folder already.</source>
+        <translation>Eine Datei „%1“ gibt es in dem Ordner schon.</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummerieren</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Cancel Run</source>
+        <translation>Durchlauf abbrechen</translation>
+    </message>
+    <message>
+        <source>Do this for all</source>
+        <translation>Auf alle anwenden</translation>
+    </message>
+    <message>
+        <source>Replace originals</source>
+        <translation>Originale ersetzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n originals will be replaced by their results.</source>
+        <translation>
+            <numerusform>%n Original wird durch sein Ergebnis ersetzt.</numerusform>
+            <numerusform>%n Originale werden durch ihre Ergebnisse ersetzt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What is in them now cannot be brought back.</source>
+        <translation>Was jetzt in ihnen steht, lässt sich nicht wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancelled before the first picture. Nothing was written.</source>
+        <translation>Vor dem ersten Bild abgebrochen. Nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Abgebrochen. Nichts wurde geschrieben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Simulation: %n pictures would be written</source>
+        <translation>
+            <numerusform>Simulation: %n Bild würde geschrieben</numerusform>
+            <numerusform>Simulation: %n Bilder würden geschrieben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 ausgelassen</translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>nichts wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>working…</source>
+        <translation>in Arbeit…</translation>
+    </message>
+    <message>
+        <source>cancelled before its turn</source>
+        <translation>vorher abgebrochen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures done</source>
+        <translation>
+            <numerusform>%n Bild fertig</numerusform>
+            <numerusform>%n Bilder fertig</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%1 not supported</source>
+        <translation>%1 nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>%1 übersprungen</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+    <message>
+        <source>Cancelled:</source>
+        <translation>Abgebrochen:</translation>
+    </message>
+</context>
+<context>
+    <name>writes</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simulation: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n Originals</source>
+        <translation>
+            <numerusform>%n Original ersetzen</numerusform>
+            <numerusform>%n Originale ersetzen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Originals are replaced by their results.</source>
+        <translation>Originale werden durch ihre Ergebnisse ersetzt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are replaced.</source>
+        <translation>
+            <numerusform>%n Datei wird ersetzt.</numerusform>
+            <numerusform>%n Dateien werden ersetzt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>written</name>
+    <message>
+        <source>Choose a folder to save to.</source>
+        <translation>Wählen Sie einen Ordner zum Speichern.</translation>
+    </message>
+    <message>
+        <source>“%1” is no name for a folder beside the originals.</source>
+        <translation>„%1“ ist kein Name für einen Ordner neben den Originalen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written, choose another file type</source>
+        <translation>%1 kann nicht geschrieben werden, wählen Sie einen anderen Dateityp</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>kein lesbares Bild</translation>
+    </message>
+    <message>
+        <source>this type cannot be written</source>
+        <translation>dieser Typ kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the file could not be written</source>
+        <translation>die Datei konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the result is %1 instead of %2</source>
+        <translation>das Ergebnis ist %1 statt %2</translation>
+    </message>
+    <message>
+        <source>Metadata and colour profile are not kept</source>
+        <translation>Metadaten und Farbprofil entfallen</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP are not kept</source>
+        <translation>EXIF, IPTC und XMP entfallen</translation>
+    </message>
+    <message>
+        <source>transparent parts become black</source>
+        <translation>transparente Bereiche werden schwarz</translation>
+    </message>
+</context>
+</TS>

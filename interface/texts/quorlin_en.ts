@@ -1,0 +1,767 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>background-action</name>
+    <message numerus="yes">
+        <source>Frame %n Pictures</source>
+        <translation>
+            <numerusform>Frame %n Picture</numerusform>
+            <numerusform>Frame %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>comment-job</name>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n problem</numerusform>
+            <numerusform>%n problems</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments written</source>
+        <translation>
+            <numerusform>%n comment written</numerusform>
+            <numerusform>%n comments written</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments reverted</source>
+        <translation>
+            <numerusform>%n comment reverted</numerusform>
+            <numerusform>%n comments reverted</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>comment-run</name>
+    <message numerus="yes">
+        <source>%n further pages were taken out and do not come back.</source>
+        <translation>
+            <numerusform>%n further page was taken out and does not come back.</numerusform>
+            <numerusform>%n further pages were taken out and do not come back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n further pages, which would be lost.</source>
+        <translation>
+            <numerusform>It has %n further page, which would be lost.</numerusform>
+            <numerusform>It has %n further pages, which would be lost.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more files</source>
+        <translation>
+            <numerusform>%n more file</numerusform>
+            <numerusform>%n more files</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>convert-action</name>
+    <message numerus="yes">
+        <source>Convert %n Pictures</source>
+        <translation>
+            <numerusform>Convert %n Picture</numerusform>
+            <numerusform>Convert %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>crop-action</name>
+    <message numerus="yes">
+        <source>Crop %n Pictures</source>
+        <translation>
+            <numerusform>Crop %n Picture</numerusform>
+            <numerusform>Crop %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>crop-step</name>
+    <message numerus="yes">
+        <source>%n pixels away</source>
+        <translation>
+            <numerusform>%n pixel away</numerusform>
+            <numerusform>%n pixels away</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>hand-page</name>
+    <message numerus="yes">
+        <source>%n were skipped.</source>
+        <translation>
+            <numerusform>%n was skipped.</numerusform>
+            <numerusform>%n were skipped.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>hand-pane</name>
+    <message numerus="yes">
+        <source>Take all %n folders off the list?</source>
+        <translation>
+            <numerusform>Take the folder off the list?</numerusform>
+            <numerusform>Take all %n folders off the list?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders are in the list already.</source>
+        <translation>
+            <numerusform>%n folder is in the list already.</numerusform>
+            <numerusform>%n folders are in the list already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are keys for %n folders only.</source>
+        <translation>
+            <numerusform>There is a key for %n folder only.</numerusform>
+            <numerusform>There are keys for %n folders only.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>input</name>
+    <message numerus="yes">
+        <source>%n were in the list already</source>
+        <translation>
+            <numerusform>%n was in the list already</numerusform>
+            <numerusform>%n were in the list already</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files go along</source>
+        <translation>
+            <numerusform>%n file goes along</numerusform>
+            <numerusform>%n files go along</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>input-words</name>
+    <message numerus="yes">
+        <source>%n files are not pictures that can be taken</source>
+        <translation>
+            <numerusform>%n file is not a picture that can be taken</numerusform>
+            <numerusform>%n files are not pictures that can be taken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other files of the list are not pictures that can be taken</source>
+        <translation>
+            <numerusform>%n other file of the list is not a picture that can be taken</numerusform>
+            <numerusform>%n other files of the list are not pictures that can be taken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n file</numerusform>
+            <numerusform>%n files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files cannot be taken</source>
+        <translation>
+            <numerusform>%n file cannot be taken</numerusform>
+            <numerusform>%n files cannot be taken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders of the list are left out</source>
+        <translation>
+            <numerusform>%n folder of the list is left out</numerusform>
+            <numerusform>%n folders of the list are left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n folder</numerusform>
+            <numerusform>%n folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are not folders</source>
+        <translation>
+            <numerusform>%n file is not a folder</numerusform>
+            <numerusform>%n files are not folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of the list are left out</source>
+        <translation>
+            <numerusform>%n file of the list is left out</numerusform>
+            <numerusform>%n files of the list are left out</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>log-page</name>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln entry</numerusform>
+            <numerusform>%Ln entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %Ln entries</source>
+        <translation>
+            <numerusform>%1 of %Ln entry</numerusform>
+            <numerusform>%1 of %Ln entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy %n Rows</source>
+        <translation>
+            <numerusform>Copy Row</numerusform>
+            <numerusform>Copy %n Rows</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Revert %n Comments</source>
+        <translation>
+            <numerusform>Revert Comment</numerusform>
+            <numerusform>Revert %n Comments</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments chosen</source>
+        <translation>
+            <numerusform>%n comment chosen</numerusform>
+            <numerusform>%n comments chosen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</source>
+        <translation>
+            <numerusform>Nothing was done yet. Every run writes what became of each picture here; the newest entry is kept.</numerusform>
+            <numerusform>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n problem</numerusform>
+            <numerusform>%n problems</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln entries from the log?</source>
+        <translation>
+            <numerusform>Remove the only entry from the log?</numerusform>
+            <numerusform>Remove all %Ln entries from the log?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files taken back</source>
+        <translation>
+            <numerusform>%n file taken back</numerusform>
+            <numerusform>%n files taken back</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-page</name>
+    <message numerus="yes">
+        <source>%n lines copied</source>
+        <translation>
+            <numerusform>%n line copied</numerusform>
+            <numerusform>%n lines copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n properties</source>
+        <translation>
+            <numerusform>%n property</numerusform>
+            <numerusform>%n properties</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Revert %n</source>
+        <translation>
+            <numerusform>Revert</numerusform>
+            <numerusform>Revert %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write into All %n…</source>
+        <translation>
+            <numerusform>Write into %n…</numerusform>
+            <numerusform>Write into All %n…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages</source>
+        <translation>
+            <numerusform>%n further page</numerusform>
+            <numerusform>%n further pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <translation>
+            <numerusform>%n file has several pages and is left out; its comment would cost it %1: %2.</numerusform>
+            <numerusform>%n files have several pages and are left out; their comments would cost them %1: %2.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <translation>
+            <numerusform>%n file is of a type that has no place for a comment, and stays as it is.</numerusform>
+            <numerusform>%n files are of types that have no place for a comment, and stay as they are.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Empty the comments of %n pictures?</source>
+        <translation>
+            <numerusform>Empty the comment of this picture?</numerusform>
+            <numerusform>Empty the comments of %n pictures?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write the comment into %n pictures?</source>
+        <translation>
+            <numerusform>Write the comment into this picture?</numerusform>
+            <numerusform>Write the comment into %n pictures?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>move-run</name>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n file</numerusform>
+            <numerusform>%n files</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>moves</name>
+    <message numerus="yes">
+        <source>%n need attention</source>
+        <translation>
+            <numerusform>%n needs attention</numerusform>
+            <numerusform>%n need attention</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stay as they are</source>
+        <translation>
+            <numerusform>%n stays as it is</numerusform>
+            <numerusform>%n stay as they are</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n go along</source>
+        <translation>
+            <numerusform>%n goes along</numerusform>
+            <numerusform>%n go along</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>platform</name>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%n byte</numerusform>
+            <numerusform>%n bytes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>preset-pane</name>
+    <message numerus="yes">
+        <source>%1 of %n presets imported</source>
+        <translation>
+            <numerusform>%1 of %n preset imported</numerusform>
+            <numerusform>%1 of %n presets imported</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n presets imported</source>
+        <translation>
+            <numerusform>%n preset imported</numerusform>
+            <numerusform>%n presets imported</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed, their names were taken</source>
+        <translation>
+            <numerusform>%n renamed, its name was taken</numerusform>
+            <numerusform>%n renamed, their names were taken</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>presets</name>
+    <message numerus="yes">
+        <source>A name can have up to %n characters.</source>
+        <translation>
+            <numerusform>A name can have up to %n character.</numerusform>
+            <numerusform>A name can have up to %n characters.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n presets in this file cannot be used.</source>
+        <translation>
+            <numerusform>%1 of %n preset in this file cannot be used.</numerusform>
+            <numerusform>%1 of %n presets in this file cannot be used.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>properties</name>
+    <message numerus="yes">
+        <source>%n pixels</source>
+        <translation>
+            <numerusform>%n pixel</numerusform>
+            <numerusform>%n pixels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bits</source>
+        <translation>
+            <numerusform>%n bit</numerusform>
+            <numerusform>%n bits</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln bytes</source>
+        <translation>
+            <numerusform>%Ln byte</numerusform>
+            <numerusform>%Ln bytes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>recovered</name>
+    <message numerus="yes">
+        <source>%n items have their new names</source>
+        <translation>
+            <numerusform>%n item has its new name</numerusform>
+            <numerusform>%n items have their new names</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were taken back</source>
+        <translation>
+            <numerusform>%n item was taken back</numerusform>
+            <numerusform>%n items were taken back</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the turn of %n items had not come</source>
+        <translation>
+            <numerusform>the turn of %n item had not come</numerusform>
+            <numerusform>the turn of %n items had not come</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>rename-action</name>
+    <message numerus="yes">
+        <source>Rename %n Folders</source>
+        <translation>
+            <numerusform>Rename %n Folder</numerusform>
+            <numerusform>Rename %n Folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rename %n Files</source>
+        <translation>
+            <numerusform>Rename %n File</numerusform>
+            <numerusform>Rename %n Files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders renamed</source>
+        <translation>
+            <numerusform>%n folder renamed</numerusform>
+            <numerusform>%n folders renamed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files renamed</source>
+        <translation>
+            <numerusform>%n file renamed</numerusform>
+            <numerusform>%n files renamed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders have their old names again</source>
+        <translation>
+            <numerusform>%n folder has its old name again</numerusform>
+            <numerusform>%n folders have their old names again</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have their old names again</source>
+        <translation>
+            <numerusform>%n file has its old name again</numerusform>
+            <numerusform>%n files have their old names again</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>rename-card</name>
+    <message numerus="yes">
+        <source>%n names are too short for this and stay as they are.</source>
+        <translation>
+            <numerusform>%n name is too short for this and stays as it is.</numerusform>
+            <numerusform>%n names are too short for this and stay as they are.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>resize-action</name>
+    <message numerus="yes">
+        <source>Resize %n Pictures</source>
+        <translation>
+            <numerusform>Resize %n Picture</numerusform>
+            <numerusform>Resize %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>resize-step</name>
+    <message numerus="yes">
+        <source>it would be larger than %n pixels</source>
+        <translation>
+            <numerusform>it would be larger than %n pixel</numerusform>
+            <numerusform>it would be larger than %n pixels</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>round-action</name>
+    <message numerus="yes">
+        <source>Round %n Pictures</source>
+        <translation>
+            <numerusform>Round %n Picture</numerusform>
+            <numerusform>Round %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>sort-action</name>
+    <message numerus="yes">
+        <source>Sort %n Files into Folders</source>
+        <translation>
+            <numerusform>Sort %n File into Folders</numerusform>
+            <numerusform>Sort %n Files into Folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy %n Files into Folders</source>
+        <translation>
+            <numerusform>Copy %n File into Folders</numerusform>
+            <numerusform>Copy %n Files into Folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Link %n Files into Folders</source>
+        <translation>
+            <numerusform>Link %n File into Folders</numerusform>
+            <numerusform>Link %n Files into Folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files sorted</source>
+        <translation>
+            <numerusform>%n file sorted</numerusform>
+            <numerusform>%n files sorted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files copied</source>
+        <translation>
+            <numerusform>%n file copied</numerusform>
+            <numerusform>%n files copied</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links made</source>
+        <translation>
+            <numerusform>%n link made</numerusform>
+            <numerusform>%n links made</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files put back</source>
+        <translation>
+            <numerusform>%n file put back</numerusform>
+            <numerusform>%n files put back</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>sort-tree</name>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n file</numerusform>
+            <numerusform>%n files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n folder</numerusform>
+            <numerusform>%n folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new folders</source>
+        <translation>
+            <numerusform>%n new folder</numerusform>
+            <numerusform>%n new folders</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>step-words</name>
+    <message numerus="yes">
+        <source>%n characters from the %1.</source>
+        <translation>
+            <numerusform>%n character from the %1.</numerusform>
+            <numerusform>%n characters from the %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>turn-action</name>
+    <message numerus="yes">
+        <source>Turn %n Pictures</source>
+        <translation>
+            <numerusform>Turn %n Picture</numerusform>
+            <numerusform>Turn %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>undo-run</name>
+    <message numerus="yes">
+        <source>%n files can be taken back.</source>
+        <translation>
+            <numerusform>%n file can be taken back.</numerusform>
+            <numerusform>%n files can be taken back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments can be reverted.</source>
+        <translation>
+            <numerusform>%n comment can be reverted.</numerusform>
+            <numerusform>%n comments can be reverted.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were reverted before.</source>
+        <translation>
+            <numerusform>%n was reverted before.</numerusform>
+            <numerusform>%n were reverted before.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::FolderTree</name>
+    <message numerus="yes">
+        <source>%Ln files</source>
+        <translation>
+            <numerusform>%Ln file</numerusform>
+            <numerusform>%Ln files</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::RunRows</name>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln entry</numerusform>
+            <numerusform>%Ln entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln problems</source>
+        <translation>
+            <numerusform>%Ln problem</numerusform>
+            <numerusform>%Ln problems</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::SlotRows</name>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n picture</numerusform>
+            <numerusform>%n pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>wording</name>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n picture</numerusform>
+            <numerusform>%n pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n problem</numerusform>
+            <numerusform>%n problems</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>write-run</name>
+    <message numerus="yes">
+        <source>%n originals will be replaced by their results.</source>
+        <translation>
+            <numerusform>%n original will be replaced by its result.</numerusform>
+            <numerusform>%n originals will be replaced by their results.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Simulation: %n pictures would be written</source>
+        <translation>
+            <numerusform>Simulation: %n picture would be written</numerusform>
+            <numerusform>Simulation: %n pictures would be written</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures done</source>
+        <translation>
+            <numerusform>%n picture done</numerusform>
+            <numerusform>%n pictures done</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>writes</name>
+    <message numerus="yes">
+        <source>Replace %n Originals</source>
+        <translation>
+            <numerusform>Replace %n Original</numerusform>
+            <numerusform>Replace %n Originals</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are replaced.</source>
+        <translation>
+            <numerusform>%n file is replaced.</numerusform>
+            <numerusform>%n files are replaced.</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

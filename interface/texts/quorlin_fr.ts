@@ -1,0 +1,7628 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>About</name>
+    <message>
+        <source>About Quorlin</source>
+        <translation>À propos de Quorlin</translation>
+    </message>
+    <message>
+        <source>One deed for a whole folder of pictures: it shows what it will do, does it, checks what it did, and can say so in a log.</source>
+        <translation>Une action pour tout un dossier d’images&#x202f;: Quorlin montre ce qu’il va faire, le fait, vérifie ce qu’il a fait et peut le noter dans un journal.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. It comes without any warranty.</source>
+        <translation>Logiciel libre sous licence publique générale GNU, version 3 ou ultérieure. Il est fourni sans aucune garantie.</translation>
+    </message>
+    <message>
+        <source>It stands on these libraries</source>
+        <translation>Quorlin s’appuie sur ces bibliothèques</translation>
+    </message>
+    <message>
+        <source>Libraries with their versions and licences</source>
+        <translation>Bibliothèques, versions et licences</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>BackgroundPane</name>
+    <message>
+        <source>Background</source>
+        <translation>Fond</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>What lies under transparent parts</source>
+        <translation>Ce qui se trouve sous les parties transparentes</translation>
+    </message>
+    <message>
+        <source>Colour under transparent parts</source>
+        <translation>Couleur sous les parties transparentes</translation>
+    </message>
+    <message>
+        <source>Pattern under transparent parts</source>
+        <translation>Motif sous les parties transparentes</translation>
+    </message>
+    <message>
+        <source>About patterns of your own</source>
+        <translation>À propos de vos propres motifs</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Bordure</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Bande</translation>
+    </message>
+    <message>
+        <source>Colour of the band</source>
+        <translation>Couleur de la bande</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Width of the band</source>
+        <translation>Largeur de la bande</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertPane</name>
+    <message>
+        <source>Convert to</source>
+        <translation>Convertir en</translation>
+    </message>
+    <message>
+        <source>File type of the results</source>
+        <translation>Format des résultats</translation>
+    </message>
+    <message>
+        <source>What the pictures become</source>
+        <translation>Ce que deviennent les images</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 9</source>
+        <translation>Qualité JPEG, de 1 à 9</translation>
+    </message>
+    <message>
+        <source>The higher, the finer and the larger</source>
+        <translation>Plus haut&#x202f;: plus fin, mais plus lourd</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>CropPane</name>
+    <message>
+        <source>W × H</source>
+        <translation>L × H</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>What the frame is given by</source>
+        <translation>Façon de définir le cadre</translation>
+    </message>
+    <message>
+        <source>Width, height</source>
+        <translation>Largeur, hauteur</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Width of the frame</source>
+        <translation>Largeur du cadre</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Height of the frame</source>
+        <translation>Hauteur du cadre</translation>
+    </message>
+    <message>
+        <source>Cut away</source>
+        <translation>Rogner</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Per cent to cut away from both sides</source>
+        <translation>Pourcentage à rogner de chaque côté</translation>
+    </message>
+    <message>
+        <source>Pixels to cut away from both sides</source>
+        <translation>Pixels à rogner de chaque côté</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Ratio of width to height</source>
+        <translation>Rapport entre largeur et hauteur</translation>
+    </message>
+    <message>
+        <source>Unit of size and offsets</source>
+        <translation>Unité de la taille et des décalages</translation>
+    </message>
+    <message>
+        <source>Unit of size and offsets: pixels, millimetres, centimetres, inches, picas, points</source>
+        <translation>Unité de la taille et des décalages&#x202f;: pixels, millimètres, centimètres, pouces, picas, points</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Position of the frame</source>
+        <translation>Position du cadre</translation>
+    </message>
+    <message>
+        <source>Offset to the right</source>
+        <translation>Décalage vers la droite</translation>
+    </message>
+    <message>
+        <source>How far the frame is moved to the right</source>
+        <translation>Décalage du cadre vers la droite</translation>
+    </message>
+    <message>
+        <source>→ </source>
+        <translation>→ </translation>
+    </message>
+    <message>
+        <source>Offset downward</source>
+        <translation>Décalage vers le bas</translation>
+    </message>
+    <message>
+        <source>How far the frame is moved down</source>
+        <translation>Décalage du cadre vers le bas</translation>
+    </message>
+    <message>
+        <source>↓ </source>
+        <translation>↓ </translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>HandPage</name>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Déposez ici des images ou des dossiers</translation>
+    </message>
+    <message>
+        <source>They are shown one after the other, and each goes with one key into one of your folders.</source>
+        <translation>Elles s’affichent l’une après l’autre, et une touche envoie chacune dans l’un de vos dossiers.</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Ajouter des images…</translation>
+    </message>
+    <message>
+        <source>Add pictures (Ctrl+O)</source>
+        <translation>Ajouter des images (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Ajouter un dossier…</translation>
+    </message>
+    <message>
+        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <translation>Ajouter toutes les images d’un dossier et de ses sous-dossiers (Ctrl+Maj+O)</translation>
+    </message>
+    <message>
+        <source>The picture to sort</source>
+        <translation>Image à classer</translation>
+    </message>
+    <message>
+        <source>← Back</source>
+        <translation>← Retour</translation>
+    </message>
+    <message>
+        <source>The picture before (Left, Backspace)</source>
+        <translation>Image précédente (Gauche, Retour arrière)</translation>
+    </message>
+    <message>
+        <source>Skip →</source>
+        <translation>Passer →</translation>
+    </message>
+    <message>
+        <source>On to the next picture (Right)</source>
+        <translation>Passer à l’image suivante (Droite)</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Corbeille</translation>
+    </message>
+    <message>
+        <source>Move the picture to the trash (Del)</source>
+        <translation>Mettre l’image à la corbeille (Suppr)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Take back the last deed (Ctrl+Z)</source>
+        <translation>Annuler la dernière action (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Passer</translation>
+    </message>
+    <message>
+        <source>Keys Move</source>
+        <translation>Touches&#x202f;: déplacer</translation>
+    </message>
+    <message>
+        <source>Keys Copy</source>
+        <translation>Touches&#x202f;: copier</translation>
+    </message>
+    <message>
+        <source>Keys Link</source>
+        <translation>Touches&#x202f;: lier</translation>
+    </message>
+</context>
+<context>
+    <name>HandPane</name>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Lier</translation>
+    </message>
+    <message>
+        <source>What a key does with the picture</source>
+        <translation>Ce qu’une touche fait de l’image</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Dossiers</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Ajouter…</translation>
+    </message>
+    <message>
+        <source>Choose a folder; folders can be dropped on the list too</source>
+        <translation>Choisir un dossier&#x202f;; vous pouvez aussi en déposer sur la liste</translation>
+    </message>
+    <message>
+        <source>New…</source>
+        <translation>Nouveau…</translation>
+    </message>
+    <message>
+        <source>Make a new folder</source>
+        <translation>Créer un dossier</translation>
+    </message>
+    <message>
+        <source>⋯</source>
+        <translation>⋯</translation>
+    </message>
+    <message>
+        <source>More deeds for the chosen folder</source>
+        <translation>Autres actions pour le dossier choisi</translation>
+    </message>
+    <message>
+        <source>Name of the new folder</source>
+        <translation>Nom du nouveau dossier</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Make no folder (Esc)</source>
+        <translation>Ne pas créer de dossier (Échap)</translation>
+    </message>
+    <message>
+        <source>Make Folder</source>
+        <translation>Créer</translation>
+    </message>
+    <message>
+        <source>Make the folder and give it a key (Return)</source>
+        <translation>Créer le dossier et lui donner une touche (Entrée)</translation>
+    </message>
+    <message>
+        <source>Folders and their keys</source>
+        <translation>Dossiers et leurs touches</translation>
+    </message>
+    <message>
+        <source>Add the folders that you sort into. The first gets the key 1, and so on: up to 59 folders.</source>
+        <translation>Ajoutez les dossiers où vous voulez classer. Le premier reçoit la touche 1, et ainsi de suite&#x202f;: jusqu’à 59 dossiers.</translation>
+    </message>
+</context>
+<context>
+    <name>Info</name>
+    <message>
+        <source>Information</source>
+        <translation>Informations</translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation>Explication</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>Search the log</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Every word must occur somewhere in an entry (Ctrl+F)</source>
+        <translation>Chaque mot doit figurer quelque part dans une entrée (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Show entries with this status</source>
+        <translation>Afficher les entrées de ce statut</translation>
+    </message>
+    <message>
+        <source>Show entries of this kind</source>
+        <translation>Afficher les entrées de ce genre</translation>
+    </message>
+    <message>
+        <source>Show Picture</source>
+        <translation>Voir l’image</translation>
+    </message>
+    <message>
+        <source>Show the picture large, if it is still there (Enter)</source>
+        <translation>Voir l’image en grand, si elle existe encore (Entrée)</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Voir dans le dossier</translation>
+    </message>
+    <message>
+        <source>Open the folder of the file and choose the file there</source>
+        <translation>Ouvrir le dossier du fichier et y sélectionner celui-ci</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Save the entries that are shown as CSV, for spreadsheets</source>
+        <translation>Enregistrer les entrées affichées en CSV, pour les tableurs</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>More deeds for the log</source>
+        <translation>Autres actions pour le journal</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Traitements</translation>
+    </message>
+    <message>
+        <source>Entries of the log</source>
+        <translation>Entrées du journal</translation>
+    </message>
+    <message>
+        <source>Revert Comment</source>
+        <translation>Restaurer le commentaire</translation>
+    </message>
+    <message>
+        <source>Give the chosen pictures their old comments again</source>
+        <translation>Rendre aux images choisies leur ancien commentaire</translation>
+    </message>
+    <message>
+        <source>Undo This Run</source>
+        <translation>Annuler ce traitement</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Search the Log</source>
+        <translation>Rechercher</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Quorlin</source>
+        <translation>Quorlin</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Ajouter des images…</translation>
+    </message>
+    <message>
+        <source>Add pictures (Ctrl+O)</source>
+        <translation>Ajouter des images (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Ajouter un dossier…</translation>
+    </message>
+    <message>
+        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <translation>Ajouter toutes les images d’un dossier et de ses sous-dossiers (Ctrl+Maj+O)</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
+        <source>Take all pictures off the list; the files stay</source>
+        <translation>Retirer toutes les images de la liste&#x202f;; les fichiers restent</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>How the preview fits its place</source>
+        <translation>Façon dont l’aperçu occupe sa place</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>Full screen and back (F11)</source>
+        <translation>Plein écran et retour (F11)</translation>
+    </message>
+    <message>
+        <source>Choose a folder for your own background patterns?</source>
+        <translation>Choisir un dossier pour vos propres motifs de fond&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Choisir un dossier…</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>It can be chosen in the preferences at any time (Ctrl+,)</source>
+        <translation>Vous pouvez le choisir à tout moment dans les préférences (Ctrl+,)</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Déposez ici des images ou des dossiers</translation>
+    </message>
+    <message>
+        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
+        <translation>Choisissez ensuite à gauche ce que vous voulez en faire. Vos originaux restent tels quels, sauf si vous en décidez autrement.</translation>
+    </message>
+    <message>
+        <source>Preview of the original and the result</source>
+        <translation>Aperçu de l’original et du résultat</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Simulation: show, move nothing</source>
+        <translation>Simulation&#x202f;: montrer sans déplacer</translation>
+    </message>
+    <message>
+        <source>What simulation means</source>
+        <translation>À quoi sert la simulation</translation>
+    </message>
+    <message>
+        <source>Resize Pictures</source>
+        <translation>Redimensionner les images</translation>
+    </message>
+    <message>
+        <source>Start (Ctrl+Return)</source>
+        <translation>Démarrer (Ctrl+Entrée)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Avancement du traitement</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Stop after the current picture (Esc)</source>
+        <translation>Arrêter après l’image en cours (Échap)</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Show Failed</source>
+        <translation>Voir les échecs</translation>
+    </message>
+    <message>
+        <source>Retry Failed</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Save Report…</source>
+        <translation>Rapport…</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>Recent &amp;Folders</source>
+        <translation>Dossiers &amp;récents</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>Appare&amp;nce</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Traitement</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;Add Pictures…</source>
+        <translation>&amp;Ajouter des images…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folder…</source>
+        <translation>Ajouter un &amp;dossier…</translation>
+    </message>
+    <message>
+        <source>Save Picture &amp;As…</source>
+        <translation>&amp;Enregistrer l’image sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Save Report…</source>
+        <translation>Enregistrer le rapp&amp;ort…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Pictures</source>
+        <translation>&amp;Coller des images</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>&amp;Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Vider la liste</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Préférences…</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Preview</source>
+        <translation>&amp;Ajuster l’aperçu</translation>
+    </message>
+    <message>
+        <source>F&amp;ill Preview</source>
+        <translation>&amp;Remplir l’aperçu</translation>
+    </message>
+    <message>
+        <source>&amp;Next Picture</source>
+        <translation>Image &amp;suivante</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Picture</source>
+        <translation>Image &amp;précédente</translation>
+    </message>
+    <message>
+        <source>&amp;Large Preview</source>
+        <translation>&amp;Grand aperçu</translation>
+    </message>
+    <message>
+        <source>Like the &amp;System</source>
+        <translation>Comme le s&amp;ystème</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>Full &amp;Screen</source>
+        <translation>Plein é&amp;cran</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>Re&amp;nommer…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Last Run</source>
+        <translation>A&amp;nnuler le dernier traitement</translation>
+    </message>
+    <message>
+        <source>Show &amp;Failed Only</source>
+        <translation>Échecs &amp;seulement</translation>
+    </message>
+    <message>
+        <source>&amp;Retry Failed</source>
+        <translation>&amp;Réessayer les échecs</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>&amp;Mise en page…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Imprimer…</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manuel</translation>
+    </message>
+    <message>
+        <source>Look for a &amp;New Version</source>
+        <translation>Chercher une &amp;nouvelle version</translation>
+    </message>
+    <message>
+        <source>&amp;About Quorlin</source>
+        <translation>À &amp;propos de Quorlin</translation>
+    </message>
+</context>
+<context>
+    <name>Manual</name>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Rechercher la suite</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Back (Alt+Left)</source>
+        <translation>Précédent (Alt+Gauche)</translation>
+    </message>
+    <message>
+        <source>Forward (Alt+Right)</source>
+        <translation>Suivant (Alt+Droite)</translation>
+    </message>
+    <message>
+        <source>Find in the manual</source>
+        <translation>Rechercher dans le manuel</translation>
+    </message>
+    <message>
+        <source>Return shows the next place (Ctrl+F, F3)</source>
+        <translation>Entrée montre l’occurrence suivante (Ctrl+F, F3)</translation>
+    </message>
+    <message>
+        <source>Pages of the manual</source>
+        <translation>Pages du manuel</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Page du manuel</translation>
+    </message>
+</context>
+<context>
+    <name>MetadataPage</name>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Déposez ici des images ou des dossiers</translation>
+    </message>
+    <message>
+        <source>All properties of each are shown, and its comment can be read, written and reverted.</source>
+        <translation>Toutes leurs propriétés s’affichent&#x202f;; leur commentaire peut être lu, écrit et restauré.</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Ajouter des images…</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Ajouter un dossier…</translation>
+    </message>
+    <message>
+        <source>Search properties</source>
+        <translation>Chercher une propriété</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy the chosen value or branch (Ctrl+C in the tree), or the place where the picture was taken</source>
+        <translation>Copier la valeur ou la branche choisie (Ctrl+C dans l’arbre), ou le lieu de la prise de vue</translation>
+    </message>
+    <message>
+        <source>Properties of the picture</source>
+        <translation>Propriétés de l’image</translation>
+    </message>
+    <message>
+        <source>The picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>User comment</source>
+        <translation>Commentaire utilisateur</translation>
+    </message>
+    <message>
+        <source>Whose comment is written</source>
+        <translation>Images dont le commentaire est écrit</translation>
+    </message>
+    <message>
+        <source>Insert Token…</source>
+        <translation>Insérer une variable…</translation>
+    </message>
+    <message>
+        <source>Insert what stands for something that each picture has</source>
+        <translation>Insérer une variable qui prend la valeur de chaque image</translation>
+    </message>
+    <message>
+        <source>Edit Log</source>
+        <translation>Voir le journal</translation>
+    </message>
+    <message>
+        <source>Show what was written into comments, with old and new comments, and revert it</source>
+        <translation>Voir ce qui a été écrit dans les commentaires, l’ancien et le nouveau, et le restaurer</translation>
+    </message>
+    <message>
+        <source>Progress of the comments</source>
+        <translation>Avancement des commentaires</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Stop after the picture that is being written (Esc)</source>
+        <translation>Arrêter après l’image en cours d’écriture (Échap)</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Give the pictures of the last run their old comments again</source>
+        <translation>Rendre aux images du dernier traitement leur ancien commentaire</translation>
+    </message>
+    <message>
+        <source>Choose Files…</source>
+        <translation>Choisir des fichiers…</translation>
+    </message>
+    <message>
+        <source>Choose JPEG and TIFF files and write the comment into each</source>
+        <translation>Choisir des fichiers JPEG et TIFF et écrire le commentaire dans chacun</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Choisir un dossier…</translation>
+    </message>
+    <message>
+        <source>Choose a folder and write the comment into each JPEG and TIFF file in it and in its folders</source>
+        <translation>Choisir un dossier et écrire le commentaire dans chaque fichier JPEG et TIFF qui s’y trouve, sous-dossiers compris</translation>
+    </message>
+    <message>
+        <source>Write into All…</source>
+        <translation>Écrire dans toutes…</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Write the comment into this picture</source>
+        <translation>Écrire le commentaire dans cette image</translation>
+    </message>
+</context>
+<context>
+    <name>NewVersion</name>
+    <message>
+        <source>New version</source>
+        <translation>Nouvelle version</translation>
+    </message>
+    <message>
+        <source>A new version of Quorlin is available</source>
+        <translation>Une nouvelle version de Quorlin est disponible</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>Nouveautés</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Go to Product Page</source>
+        <translation>Voir la page du produit</translation>
+    </message>
+</context>
+<context>
+    <name>OutputPane</name>
+    <message>
+        <source>File type</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>File type of the results</source>
+        <translation>Format des résultats</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 10</source>
+        <translation>Qualité JPEG, de 1 à 10</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Destination</translation>
+    </message>
+    <message>
+        <source>Folder of the results</source>
+        <translation>Dossier des résultats</translation>
+    </message>
+    <message>
+        <source>About the folder of the results</source>
+        <translation>À propos du dossier des résultats</translation>
+    </message>
+    <message>
+        <source>If name is taken</source>
+        <translation>Nom déjà pris</translation>
+    </message>
+    <message>
+        <source>If a file of that name is there</source>
+        <translation>Si un fichier de ce nom existe déjà</translation>
+    </message>
+    <message>
+        <source>Simulation: show, write nothing</source>
+        <translation>Simulation&#x202f;: montrer sans écrire</translation>
+    </message>
+    <message>
+        <source>What simulation means</source>
+        <translation>À quoi sert la simulation</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Support folder</source>
+        <translation>Dossier d’appoint</translation>
+    </message>
+    <message>
+        <source>None chosen yet</source>
+        <translation>Pas encore choisi</translation>
+    </message>
+    <message>
+        <source>Quorlin keeps your background patterns in a folder below this one. Whatever you put there can be chosen in Background &amp; Border.</source>
+        <translation>Quorlin garde vos motifs de fond dans un dossier placé sous celui-ci. Ce que vous y mettez peut être choisi dans Fond et bordure.</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Changer…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Takes effect when Quorlin starts again.</source>
+        <translation>Prend effet au prochain démarrage de Quorlin.</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>If name is taken</source>
+        <translation>Nom déjà pris</translation>
+    </message>
+    <message>
+        <source>What an action does at first where a name is taken</source>
+        <translation>Ce qu’une action fait au départ quand un nom est pris</translation>
+    </message>
+    <message>
+        <source>For actions that you use for the first time; each one keeps what you choose there.</source>
+        <translation>Pour les actions utilisées pour la première fois&#x202f;; chacune retient ensuite votre choix.</translation>
+    </message>
+    <message>
+        <source>Log keeps</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>How many entries the log keeps</source>
+        <translation>Nombre d’entrées gardées dans le journal</translation>
+    </message>
+    <message>
+        <source>Look for a new version at every start</source>
+        <translation>Chercher une nouvelle version à chaque démarrage</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>PresetPane</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Préréglage</translation>
+    </message>
+    <message>
+        <source>Save, rename, delete, export or import presets</source>
+        <translation>Enregistrer, renommer, supprimer, exporter ou importer des préréglages</translation>
+    </message>
+    <message>
+        <source>About presets</source>
+        <translation>À propos des préréglages</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Nom du préréglage</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <translation>Lecteur</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnu</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Files that can be chosen</source>
+        <translation>Fichiers acceptés</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Tout enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintPropertiesDialog</name>
+    <message>
+        <source>Printer Properties</source>
+        <translation>Propriétés de l’imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintPropertiesWidget</name>
+    <message>
+        <source>Advanced</source>
+        <translation>Avancé</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintSettingsOutput</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Double Sided Printing</source>
+        <translation>Recto verso</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Long side binding</source>
+        <translation>Reliure grand côté</translation>
+    </message>
+    <message>
+        <source>Short side binding</source>
+        <translation>Reliure petit côté</translation>
+    </message>
+</context>
+<context>
+    <name>RenameCard</name>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Move this step (arrow keys)</source>
+        <translation>Déplacer cette étape (touches fléchées)</translation>
+    </message>
+    <message>
+        <source>Drag to another place, or Alt+Up and Alt+Down</source>
+        <translation>Glisser à une autre place, ou Alt+Haut et Alt+Bas</translation>
+    </message>
+    <message>
+        <source>Use this step</source>
+        <translation>Utiliser cette étape</translation>
+    </message>
+    <message>
+        <source>Show or hide its settings</source>
+        <translation>Afficher ou masquer ses réglages</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Remove this step</source>
+        <translation>Retirer cette étape</translation>
+    </message>
+    <message>
+        <source>Remove this step (Ctrl+Del)</source>
+        <translation>Retirer cette étape (Ctrl+Suppr)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Insert a value of the file</source>
+        <translation>Insérer une valeur du fichier</translation>
+    </message>
+    <message>
+        <source>With</source>
+        <translation>Par</translation>
+    </message>
+    <message>
+        <source>How</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>How many</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>Works on</source>
+        <translation>Agit sur</translation>
+    </message>
+</context>
+<context>
+    <name>RenamePane</name>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>What is renamed</source>
+        <translation>Ce qui est renommé</translation>
+    </message>
+    <message>
+        <source>No steps yet: names stay as they are. Add a step, or choose a preset.</source>
+        <translation>Aucune étape&#x202f;: les noms restent tels quels. Ajoutez une étape ou choisissez un préréglage.</translation>
+    </message>
+    <message>
+        <source>+ Add Step…</source>
+        <translation>+ Ajouter une étape…</translation>
+    </message>
+    <message>
+        <source>Add a step (Ctrl+Shift+A)</source>
+        <translation>Ajouter une étape (Ctrl+Maj+A)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Example</source>
+        <translation>Exemple</translation>
+    </message>
+    <message>
+        <source>Take sidecar files (.xmp …) along</source>
+        <translation>Inclure les fichiers annexes (.xmp …)</translation>
+    </message>
+    <message>
+        <source>Files of other programs that bear the name of a picture get its new name too</source>
+        <translation>Les fichiers d’autres programmes qui portent le nom d’une image reçoivent aussi son nouveau nom</translation>
+    </message>
+</context>
+<context>
+    <name>ResizePane</name>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Grand côté</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Cadre</translation>
+    </message>
+    <message>
+        <source>What the size is given by</source>
+        <translation>Façon de définir la taille</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Grand côté</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Nouvelle taille</translation>
+    </message>
+    <message>
+        <source>Width of the box</source>
+        <translation>Largeur du cadre</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Height of the box</source>
+        <translation>Hauteur du cadre</translation>
+    </message>
+    <message>
+        <source>Unit of the size</source>
+        <translation>Unité de la taille</translation>
+    </message>
+    <message>
+        <source>Unit of the size: pixels, millimetres, centimetres, inches, picas, points</source>
+        <translation>Unité de la taille&#x202f;: pixels, millimètres, centimètres, pouces, picas, points</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>How the picture fits the box</source>
+        <translation>Façon dont l’image occupe le cadre</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>Never enlarge</source>
+        <translation>Ne jamais agrandir</translation>
+    </message>
+</context>
+<context>
+    <name>RoundPane</name>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cercle</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Shape that is cut out</source>
+        <translation>Forme découpée</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Rayon</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Radius of the corners</source>
+        <translation>Rayon des coins</translation>
+    </message>
+    <message>
+        <source>Colour outside the shape</source>
+        <translation>Couleur hors de la forme</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Bande</translation>
+    </message>
+    <message>
+        <source>Width of the coloured band inside the edge</source>
+        <translation>Largeur de la bande colorée à l’intérieur du bord</translation>
+    </message>
+    <message>
+        <source>A band of the colour inside the edge; 0 is none</source>
+        <translation>Bande de la couleur à l’intérieur du bord&#x202f;; 0&#x202f;: aucune</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>SaveAs</name>
+    <message>
+        <source>File &amp;type</source>
+        <translation>&amp;Format</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>&amp;Qualité</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 9</source>
+        <translation>Qualité JPEG, de 1 à 9</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Poids</translation>
+    </message>
+    <message>
+        <source>Estimated size of the file</source>
+        <translation>Poids estimé du fichier</translation>
+    </message>
+    <message>
+        <source>Preview of the original and of what is saved</source>
+        <translation>Aperçu de l’original et du fichier enregistré</translation>
+    </message>
+</context>
+<context>
+    <name>SortPane</name>
+    <message>
+        <source>Folders</source>
+        <translation>Dossiers</translation>
+    </message>
+    <message>
+        <source>First level of folders</source>
+        <translation>Premier niveau de dossiers</translation>
+    </message>
+    <message>
+        <source>in them</source>
+        <translation>puis</translation>
+    </message>
+    <message>
+        <source>Second level of folders</source>
+        <translation>Deuxième niveau de dossiers</translation>
+    </message>
+    <message>
+        <source>in those</source>
+        <translation>puis</translation>
+    </message>
+    <message>
+        <source>Third level of folders</source>
+        <translation>Troisième niveau de dossiers</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Pattern of folders</source>
+        <translation>Modèle de dossiers</translation>
+    </message>
+    <message>
+        <source>Text and tokens in braces, with “/” between the levels of folders</source>
+        <translation>Texte et variables entre accolades, avec «&#x202f;/&#x202f;» entre les niveaux de dossiers</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Insert a token</source>
+        <translation>Insérer une variable</translation>
+    </message>
+    <message>
+        <source>Without a date</source>
+        <translation>Sans date</translation>
+    </message>
+    <message>
+        <source>What becomes of files without a date taken</source>
+        <translation>Que faire des fichiers sans date de prise de vue</translation>
+    </message>
+    <message>
+        <source>Name of the folder for files without a date taken</source>
+        <translation>Nom du dossier des fichiers sans date de prise de vue</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Move, copy or link</source>
+        <translation>Déplacer, copier ou lier</translation>
+    </message>
+    <message>
+        <source>Into</source>
+        <translation>Dans</translation>
+    </message>
+    <message>
+        <source>Where the folders are made</source>
+        <translation>Où les dossiers sont créés</translation>
+    </message>
+    <message>
+        <source>If name is taken</source>
+        <translation>Nom déjà pris</translation>
+    </message>
+</context>
+<context>
+    <name>SortTree</name>
+    <message>
+        <source>Folders after the run</source>
+        <translation>Dossiers après traitement</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Show all files in the list again</source>
+        <translation>Afficher à nouveau tous les fichiers de la liste</translation>
+    </message>
+</context>
+<context>
+    <name>TurnPane</name>
+    <message>
+        <source>90°</source>
+        <translation>90°</translation>
+    </message>
+    <message>
+        <source>Turn 90 degrees to the left</source>
+        <translation>Pivoter de 90 degrés à gauche</translation>
+    </message>
+    <message>
+        <source>90 degrees to the left</source>
+        <translation>90 degrés à gauche</translation>
+    </message>
+    <message>
+        <source>Turn 90 degrees to the right</source>
+        <translation>Pivoter de 90 degrés à droite</translation>
+    </message>
+    <message>
+        <source>90 degrees to the right</source>
+        <translation>90 degrés à droite</translation>
+    </message>
+    <message>
+        <source>180°</source>
+        <translation>180°</translation>
+    </message>
+    <message>
+        <source>Turn 180 degrees</source>
+        <translation>Pivoter de 180 degrés</translation>
+    </message>
+    <message>
+        <source>Half a turn</source>
+        <translation>Demi-tour</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Angle, counter-clockwise</source>
+        <translation>Angle, sens antihoraire</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Angle in degrees, counter-clockwise</source>
+        <translation>Angle en degrés, sens antihoraire</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>vers la gauche</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Miroir</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Flip horizontally: left and right change places</source>
+        <translation>Miroir horizontal&#x202f;: gauche et droite s’échangent</translation>
+    </message>
+    <message>
+        <source>Left and right change places</source>
+        <translation>Gauche et droite s’échangent</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Flip vertically: top and bottom change places</source>
+        <translation>Miroir vertical&#x202f;: haut et bas s’échangent</translation>
+    </message>
+    <message>
+        <source>Top and bottom change places</source>
+        <translation>Haut et bas s’échangent</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Back to no turn and no flip</source>
+        <translation>Revenir sans rotation ni miroir</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>about</name>
+    <message>
+        <source>Quorlin %1</source>
+        <translation>Quorlin %1</translation>
+    </message>
+</context>
+<context>
+    <name>actions</name>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informations</translation>
+    </message>
+</context>
+<context>
+    <name>background-action</name>
+    <message>
+        <source>Background &amp; Border</source>
+        <translation>Fond et bordure</translation>
+    </message>
+    <message numerus="yes">
+        <source>Frame %n Pictures</source>
+        <translation>
+            <numerusform>Encadrer %n image</numerusform>
+            <numerusform>Encadrer %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>background-pane</name>
+    <message>
+        <source>Checks</source>
+        <translation>Damier</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Linen</source>
+        <translation>Lin</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>White, 10 pixels around</source>
+        <translation>Blanche, 10 pixels autour</translation>
+    </message>
+    <message>
+        <source>Coloured band inside</source>
+        <translation>Bande colorée à l’intérieur</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Choose a pattern</source>
+        <translation>Choisir un motif</translation>
+    </message>
+</context>
+<context>
+    <name>background-presets</name>
+    <message>
+        <source>White background</source>
+        <translation>Fond blanc</translation>
+    </message>
+    <message>
+        <source>White frame</source>
+        <translation>Bordure blanche</translation>
+    </message>
+    <message>
+        <source>Black band</source>
+        <translation>Bande noire</translation>
+    </message>
+    <message>
+        <source>Ivory mount</source>
+        <translation>Passe-partout ivoire</translation>
+    </message>
+    <message>
+        <source>On paper</source>
+        <translation>Sur papier</translation>
+    </message>
+</context>
+<context>
+    <name>background-step</name>
+    <message>
+        <source>Framed</source>
+        <translation>Encadrées</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>sur %1</translation>
+    </message>
+    <message>
+        <source>on pattern %1</source>
+        <translation>sur le motif %1</translation>
+    </message>
+    <message>
+        <source>white frame</source>
+        <translation>bordure blanche</translation>
+    </message>
+    <message>
+        <source>band of %1 px in %2</source>
+        <translation>bande de %1 px en %2</translation>
+    </message>
+    <message>
+        <source>Choose a pattern.</source>
+        <translation>Choisissez un motif.</translation>
+    </message>
+    <message>
+        <source>Enter a width of the band from 1 to %1.</source>
+        <translation>Saisissez une largeur de bande de 1 à %1.</translation>
+    </message>
+    <message>
+        <source>the band would cover all of it</source>
+        <translation>la bande couvrirait toute l’image</translation>
+    </message>
+    <message>
+        <source>A %1 picture has no transparent parts: it stays as it looks.</source>
+        <translation>Une image %1 n’a pas de parties transparentes&#x202f;: elle garde son aspect.</translation>
+    </message>
+</context>
+<context>
+    <name>comment-job</name>
+    <message>
+        <source>Write comment, keep the first page only</source>
+        <translation>Écrire le commentaire, ne garder que la première page</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n problème</numerusform>
+            <numerusform>%n problèmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped:</source>
+        <translation>Arrêté&#x202f;:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments written</source>
+        <translation>
+            <numerusform>%n commentaire écrit</numerusform>
+            <numerusform>%n commentaires écrits</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments reverted</source>
+        <translation>
+            <numerusform>%n commentaire restauré</numerusform>
+            <numerusform>%n commentaires restaurés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>comment-run</name>
+    <message>
+        <source>The file does not say what was written into it.</source>
+        <translation>Relu, le fichier ne contient pas ce qui y a été écrit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages were taken out and do not come back.</source>
+        <translation>
+            <numerusform>%n autre page a été retirée et ne reviendra pas.</numerusform>
+            <numerusform>%n autres pages ont été retirées et ne reviendront pas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n further pages, which would be lost.</source>
+        <translation>
+            <numerusform>Il a %n autre page, qui serait perdue.</numerusform>
+            <numerusform>Il a %n autres pages, qui seraient perdues.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file is not there any more.</source>
+        <translation>Le fichier n’existe plus.</translation>
+    </message>
+    <message>
+        <source>It has its old comment already.</source>
+        <translation>L’ancien commentaire y est déjà.</translation>
+    </message>
+    <message>
+        <source>The comment was changed since and stays: “%1”</source>
+        <translation>Le commentaire a été modifié depuis et reste&#x202f;: «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more files</source>
+        <translation>
+            <numerusform>%n autre fichier</numerusform>
+            <numerusform>%n autres fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” was written</source>
+        <translation>«&#x202f;%1&#x202f;» a été écrit</translation>
+    </message>
+    <message>
+        <source>“%1” was emptied</source>
+        <translation>«&#x202f;%1&#x202f;» a été vidé</translation>
+    </message>
+    <message>
+        <source>“%1” became “%2”</source>
+        <translation>«&#x202f;%1&#x202f;» est devenu «&#x202f;%2&#x202f;»</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Métadonnées</translation>
+    </message>
+</context>
+<context>
+    <name>convert-action</name>
+    <message>
+        <source>Convert</source>
+        <translation>Convertir</translation>
+    </message>
+    <message numerus="yes">
+        <source>Convert %n Pictures</source>
+        <translation>
+            <numerusform>Convertir %n image</numerusform>
+            <numerusform>Convertir %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>convert-pane</name>
+    <message>
+        <source>1 – smallest file</source>
+        <translation>1 – fichier le plus léger</translation>
+    </message>
+    <message>
+        <source>9 – best</source>
+        <translation>9 – la meilleure</translation>
+    </message>
+</context>
+<context>
+    <name>convert-presets</name>
+    <message>
+        <source>JPEG for everyone</source>
+        <translation>JPEG pour tous</translation>
+    </message>
+    <message>
+        <source>Small JPEG</source>
+        <translation>Petit JPEG</translation>
+    </message>
+    <message>
+        <source>PNG with all metadata</source>
+        <translation>PNG avec toutes les métadonnées</translation>
+    </message>
+    <message>
+        <source>TIFF for printing</source>
+        <translation>TIFF pour l’impression</translation>
+    </message>
+    <message>
+        <source>PDF pages</source>
+        <translation>Pages PDF</translation>
+    </message>
+</context>
+<context>
+    <name>convert-step</name>
+    <message>
+        <source>Converted</source>
+        <translation>Converties</translation>
+    </message>
+    <message>
+        <source>to %1, quality %2</source>
+        <translation>en %1, qualité %2</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <translation>en %1</translation>
+    </message>
+    <message>
+        <source>Choose what to convert to.</source>
+        <translation>Choisissez un format.</translation>
+    </message>
+    <message>
+        <source>Choose a quality from 1 to 9.</source>
+        <translation>Choisissez une qualité de 1 à 9.</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>image illisible</translation>
+    </message>
+    <message>
+        <source>the file could not be written</source>
+        <translation>le fichier n’a pas pu être écrit</translation>
+    </message>
+    <message>
+        <source>the file was written but cannot be read again</source>
+        <translation>le fichier a été écrit mais ne peut pas être relu</translation>
+    </message>
+    <message>
+        <source>the metadata could not be written (%1); the disk may be full</source>
+        <translation>les métadonnées n’ont pas pu être écrites (%1) ; le disque est peut-être plein</translation>
+    </message>
+</context>
+<context>
+    <name>crop-action</name>
+    <message>
+        <source>Crop</source>
+        <translation>Recadrer</translation>
+    </message>
+    <message numerus="yes">
+        <source>Crop %n Pictures</source>
+        <translation>
+            <numerusform>Recadrer %n image</numerusform>
+            <numerusform>Recadrer %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>crop-pane</name>
+    <message>
+        <source>W × H</source>
+        <translation>L × H</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>En haut</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Au centre</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>En bas</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>%1 at %2, %3</source>
+        <translation>%1 en %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>crop-presets</name>
+    <message>
+        <source>Centre square 1080</source>
+        <translation>Carré central 1080</translation>
+    </message>
+    <message>
+        <source>3:2, 1800 × 1200</source>
+        <translation>3:2, 1800 × 1200</translation>
+    </message>
+    <message>
+        <source>4:3, 1600 × 1200</source>
+        <translation>4:3, 1600 × 1200</translation>
+    </message>
+    <message>
+        <source>16:9, 1920 × 1080</source>
+        <translation>16:9, 1920 × 1080</translation>
+    </message>
+    <message>
+        <source>Trim 5 %</source>
+        <translation>Rogner 5 %</translation>
+    </message>
+</context>
+<context>
+    <name>crop-step</name>
+    <message>
+        <source>Cropped</source>
+        <translation>Recadrées</translation>
+    </message>
+    <message>
+        <source>%1 % away</source>
+        <translation>%1 % rognés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixels away</source>
+        <translation>
+            <numerusform>%n pixel rogné</numerusform>
+            <numerusform>%n pixels rognés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>moved %1, %2 %3</source>
+        <translation>décalé de %1, %2 %3</translation>
+    </message>
+    <message>
+        <source>position %1</source>
+        <translation>position %1</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 0 to 99 per cent.</source>
+        <translation>Saisissez un nombre entier de 0 à 99 pour cent.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 0 to %1.</source>
+        <translation>Saisissez un nombre entier de 0 à %1.</translation>
+    </message>
+    <message>
+        <source>Enter a width and a height.</source>
+        <translation>Saisissez une largeur et une hauteur.</translation>
+    </message>
+    <message>
+        <source>Choose one of the nine positions.</source>
+        <translation>Choisissez l’une des neuf positions.</translation>
+    </message>
+    <message>
+        <source>Enter offsets from %1 to %2.</source>
+        <translation>Saisissez des décalages de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>nothing would be left of it</source>
+        <translation>il n’en resterait rien</translation>
+    </message>
+    <message>
+        <source>the frame lies outside the picture</source>
+        <translation>le cadre est hors de l’image</translation>
+    </message>
+    <message>
+        <source>Cut off at the picture’s edge.</source>
+        <translation>Coupé au bord de l’image.</translation>
+    </message>
+</context>
+<context>
+    <name>files</name>
+    <message>
+        <source>Cannot read %1: it is not UTF-8 text</source>
+        <translation>Lecture de %1 impossible&#x202f;: ce n’est pas du texte UTF-8</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 reste tel quel&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>A part of %1 could not be removed and is still there</source>
+        <translation>Une partie de %1 n’a pas pu être supprimée et est toujours là</translation>
+    </message>
+    <message>
+        <source>%1; a copy is at %2</source>
+        <translation>%1 ; une copie se trouve dans %2</translation>
+    </message>
+    <message>
+        <source>%1 is gone; what was copied of it is at %2</source>
+        <translation>%1 a disparu ; ce qui en a été copié se trouve dans %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be put away</source>
+        <translation>%1 n’a pas pu être rangé</translation>
+    </message>
+    <message>
+        <source>%1 is also at %2</source>
+        <translation>%1 se trouve aussi dans %2</translation>
+    </message>
+    <message>
+        <source>%1 had only its temporary name left and is now called %2</source>
+        <translation>%1 n’avait plus que son nom temporaire et s’appelle maintenant %2</translation>
+    </message>
+    <message>
+        <source>The journal of this run is damaged: %1</source>
+        <translation>Le journal de ce traitement est endommagé : %1</translation>
+    </message>
+    <message>
+        <source>The name %1 was taken in the meantime; the item is now called %2</source>
+        <translation>Le nom %1 a été pris entre-temps&#x202f;; l’élément s’appelle maintenant %2</translation>
+    </message>
+    <message>
+        <source>The run was interrupted</source>
+        <translation>Le traitement a été interrompu</translation>
+    </message>
+    <message>
+        <source>Nothing is known of this run any more</source>
+        <translation>On ne sait plus rien de ce traitement</translation>
+    </message>
+    <message>
+        <source>This run has not ended yet</source>
+        <translation>Ce traitement n’est pas encore terminé</translation>
+    </message>
+    <message>
+        <source>Nothing was done in this run</source>
+        <translation>Rien n’a été fait dans ce traitement</translation>
+    </message>
+    <message>
+        <source>This run was taken back already</source>
+        <translation>Ce traitement a déjà été annulé</translation>
+    </message>
+    <message>
+        <source>Nothing of this run can be taken back any more</source>
+        <translation>Plus rien de ce traitement ne peut être annulé</translation>
+    </message>
+    <message>
+        <source>%1 could not be copied correctly</source>
+        <translation>%1 n’a pas pu être copié correctement</translation>
+    </message>
+    <message>
+        <source>The name %1 cannot be used on this disk</source>
+        <translation>Le nom %1 n’est pas possible sur ce disque</translation>
+    </message>
+    <message>
+        <source>The name %1 is too long for this disk</source>
+        <translation>Le nom %1 est trop long pour ce disque</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more</source>
+        <translation>%1 n’existe plus</translation>
+    </message>
+    <message>
+        <source>The name %1 is taken</source>
+        <translation>Le nom %1 est déjà pris</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot go into itself</source>
+        <translation>Le dossier %1 ne peut pas aller dans lui-même</translation>
+    </message>
+    <message>
+        <source>%1 or its folder may not be changed</source>
+        <translation>%1 ou son dossier ne peut pas être modifié</translation>
+    </message>
+    <message>
+        <source>%1, which it belongs to, keeps its name</source>
+        <translation>%1, dont il dépend, garde son nom</translation>
+    </message>
+    <message>
+        <source>%1 was changed or replaced in the meantime</source>
+        <translation>%1 a été modifié ou remplacé entre-temps</translation>
+    </message>
+    <message>
+        <source>There is no room left on the disk for %1</source>
+        <translation>Il n’y a plus de place sur le disque pour %1</translation>
+    </message>
+    <message>
+        <source>%1 is the original itself by now, no copy of it</source>
+        <translation>%1 est désormais l’original lui-même et non une copie</translation>
+    </message>
+    <message>
+        <source>%1 could not get its new name, and others wait for its old one</source>
+        <translation>%1 n’a pas pu recevoir son nouveau nom, et d’autres attendent l’ancien</translation>
+    </message>
+</context>
+<context>
+    <name>files::FileService</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>Écriture de %1 impossible&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made</source>
+        <translation>Le dossier %1 ne peut pas être créé</translation>
+    </message>
+</context>
+<context>
+    <name>files::MoveService</name>
+    <message>
+        <source>This run is not open</source>
+        <translation>Ce traitement n’est pas ouvert</translation>
+    </message>
+    <message>
+        <source>Copying or moving a file</source>
+        <translation>Copie ou déplacement d’un fichier</translation>
+    </message>
+    <message>
+        <source>%1 had been put aside and has a name again</source>
+        <translation>%1 avait été mis de côté et a de nouveau un nom</translation>
+    </message>
+</context>
+<context>
+    <name>hand-action</name>
+    <message>
+        <source>Sort by Hand</source>
+        <translation>Classer à la main</translation>
+    </message>
+</context>
+<context>
+    <name>hand-page</name>
+    <message>
+        <source>In the trash</source>
+        <translation>À la corbeille</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>file of %1</source>
+        <translation>fichier du %1</translation>
+    </message>
+    <message>
+        <source>Take back the last deed (Ctrl+Z)</source>
+        <translation>Annuler la dernière action (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Take back: %1 (Ctrl+Z)</source>
+        <translation>Annuler&#x202f;: %1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Keys move pictures now.</source>
+        <translation>Les touches déplacent maintenant les images.</translation>
+    </message>
+    <message>
+        <source>Keys copy pictures now.</source>
+        <translation>Les touches copient maintenant les images.</translation>
+    </message>
+    <message>
+        <source>Keys link pictures now.</source>
+        <translation>Les touches lient maintenant les images.</translation>
+    </message>
+    <message>
+        <source>%1: %2. The picture stays where it is.</source>
+        <translation>%1&#x202f;: %2. L’image reste où elle est.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>That was the last picture. All of them are sorted.</source>
+        <translation>C’était la dernière image. Toutes sont classées.</translation>
+    </message>
+    <message>
+        <source>That was the last picture. %1</source>
+        <translation>C’était la dernière image. %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were skipped.</source>
+        <translation>
+            <numerusform>%n a été passée.</numerusform>
+            <numerusform>%n ont été passées.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>hand-pane</name>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Lier</translation>
+    </message>
+    <message>
+        <source>The picture leaves its folder. (Alt+1)</source>
+        <translation>L’image quitte son dossier. (Alt+1)</translation>
+    </message>
+    <message>
+        <source>The picture stays, and a copy goes into the folder. (Alt+2)</source>
+        <translation>L’image reste, et une copie va dans le dossier. (Alt+2)</translation>
+    </message>
+    <message>
+        <source>The picture stays, and the folder gets a link to it. (Alt+3)</source>
+        <translation>L’image reste, et le dossier reçoit un lien vers elle. (Alt+3)</translation>
+    </message>
+    <message>
+        <source>Change Label</source>
+        <translation>Changer le libellé</translation>
+    </message>
+    <message>
+        <source>Show Folder</source>
+        <translation>Voir le dossier</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>Remove All…</source>
+        <translation>Tout retirer…</translation>
+    </message>
+    <message>
+        <source>Remove all folders</source>
+        <translation>Retirer tous les dossiers</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take all %n folders off the list?</source>
+        <translation>
+            <numerusform>Retirer le dossier de la liste&#x202f;?</numerusform>
+            <numerusform>Retirer les %n dossiers de la liste&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The folders themselves stay as they are, and so do presets.</source>
+        <translation>Les dossiers eux-mêmes restent tels quels, les préréglages aussi.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>Choose a folder to sort into</source>
+        <translation>Choisir un dossier où classer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders are in the list already.</source>
+        <translation>
+            <numerusform>%n dossier est déjà dans la liste.</numerusform>
+            <numerusform>%n dossiers sont déjà dans la liste.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are keys for %n folders only.</source>
+        <translation>
+            <numerusform>Il n’y a de touche que pour %n dossier.</numerusform>
+            <numerusform>Il n’y a de touches que pour %n dossiers.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder cannot be called that.</source>
+        <translation>Un dossier ne peut pas s’appeler ainsi.</translation>
+    </message>
+    <message>
+        <source>There is something of this name already.</source>
+        <translation>Ce nom est déjà pris.</translation>
+    </message>
+    <message>
+        <source>In %1</source>
+        <translation>Dans %1</translation>
+    </message>
+</context>
+<context>
+    <name>hand-slots</name>
+    <message>
+        <source>not there</source>
+        <translation>introuvable</translation>
+    </message>
+    <message>
+        <source>not a folder</source>
+        <translation>pas un dossier</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>écriture impossible</translation>
+    </message>
+</context>
+<context>
+    <name>hand-sorting</name>
+    <message>
+        <source>Moved to %1</source>
+        <translation>Déplacée vers %1</translation>
+    </message>
+    <message>
+        <source>Copied to %1</source>
+        <translation>Copiée vers %1</translation>
+    </message>
+    <message>
+        <source>Linked in %1</source>
+        <translation>Liée dans %1</translation>
+    </message>
+    <message>
+        <source>In the trash</source>
+        <translation>À la corbeille</translation>
+    </message>
+    <message>
+        <source>Move to %1</source>
+        <translation>Déplacer vers %1</translation>
+    </message>
+    <message>
+        <source>Copy to %1</source>
+        <translation>Copier vers %1</translation>
+    </message>
+    <message>
+        <source>Link in %1</source>
+        <translation>Lier dans %1</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Corbeille</translation>
+    </message>
+    <message>
+        <source>This picture is in the trash. Undo brings it back.</source>
+        <translation>Cette image est à la corbeille. «&#x202f;Annuler&#x202f;» la ramène.</translation>
+    </message>
+    <message>
+        <source>This picture is in %1 already.</source>
+        <translation>Cette image est déjà dans %1.</translation>
+    </message>
+    <message>
+        <source>This picture is in the trash already.</source>
+        <translation>Cette image est déjà à la corbeille.</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Annuler&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>There is nothing left to undo.</source>
+        <translation>Il n’y a plus rien à annuler.</translation>
+    </message>
+    <message>
+        <source>Sort by Hand</source>
+        <translation>Classer à la main</translation>
+    </message>
+</context>
+<context>
+    <name>hand-step</name>
+    <message>
+        <source>move</source>
+        <translation>déplacer</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>copier</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>lier</translation>
+    </message>
+</context>
+<context>
+    <name>help</name>
+    <message>
+        <source>The manual is not installed.</source>
+        <translation>Le manuel n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>Looking for a new version…</source>
+        <translation>Recherche d’une nouvelle version…</translation>
+    </message>
+    <message>
+        <source>This is the newest version.</source>
+        <translation>C’est la version la plus récente.</translation>
+    </message>
+    <message>
+        <source>Nobody answers where new versions are announced.</source>
+        <translation>Le service qui annonce les nouvelles versions ne répond pas.</translation>
+    </message>
+    <message>
+        <source>This installation does not know where new versions are announced.</source>
+        <translation>Cette installation ne sait pas où les nouvelles versions sont annoncées.</translation>
+    </message>
+</context>
+<context>
+    <name>image::PictureService</name>
+    <message>
+        <source>not a readable picture</source>
+        <translation>image illisible</translation>
+    </message>
+    <message>
+        <source>the pattern cannot be read</source>
+        <translation>le motif ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>this type cannot be written</source>
+        <translation>ce format ne peut pas être écrit</translation>
+    </message>
+</context>
+<context>
+    <name>input</name>
+    <message>
+        <source>%1 added</source>
+        <translation>Ajout de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were in the list already</source>
+        <translation>
+            <numerusform>%n était déjà dans la liste</numerusform>
+            <numerusform>%n étaient déjà dans la liste</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files go along</source>
+        <translation>
+            <numerusform>%n fichier suit</numerusform>
+            <numerusform>%n fichiers suivent</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>+ %1</source>
+        <translation>+ %1</translation>
+    </message>
+    <message>
+        <source>Add all pictures of a folder</source>
+        <translation>Ajouter toutes les images d’un dossier</translation>
+    </message>
+    <message>
+        <source>Add all files of a folder</source>
+        <translation>Ajouter tous les fichiers d’un dossier</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>Ajouter un dossier</translation>
+    </message>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>Il n’y a pas de fichiers dans le presse-papiers</translation>
+    </message>
+</context>
+<context>
+    <name>input-words</name>
+    <message>
+        <source>No pictures yet</source>
+        <translation>Pas encore d’images</translation>
+    </message>
+    <message>
+        <source>No pictures there</source>
+        <translation>Aucune image à cet endroit</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Ajouter des images…</translation>
+    </message>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Déposez ici des images ou des dossiers</translation>
+    </message>
+    <message>
+        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
+        <translation>Choisissez ensuite à gauche ce que vous voulez en faire. Vos originaux restent tels quels, sauf si vous en décidez autrement.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a picture that can be taken</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une image acceptée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are not pictures that can be taken</source>
+        <translation>
+            <numerusform>%n fichier n’est pas une image acceptée</numerusform>
+            <numerusform>%n fichiers ne sont pas des images acceptées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other files of the list are not pictures that can be taken</source>
+        <translation>
+            <numerusform>%n autre fichier de la liste n’est pas une image acceptée</numerusform>
+            <numerusform>%n autres fichiers de la liste ne sont pas des images acceptées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Pas encore de fichiers</translation>
+    </message>
+    <message>
+        <source>No files there</source>
+        <translation>Aucun fichier à cet endroit</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>Ajouter des fichiers…</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here</source>
+        <translation>Déposez ici des fichiers ou des dossiers</translation>
+    </message>
+    <message>
+        <source>Then say on the right what is to become of them. You see everything before it happens, and can undo it afterwards.</source>
+        <translation>Dites ensuite à droite ce qu’ils doivent devenir. Vous voyez tout avant que cela ne se fasse, et pouvez l’annuler après.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be taken</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas accepté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files cannot be taken</source>
+        <translation>
+            <numerusform>%n fichier n’est pas accepté</numerusform>
+            <numerusform>%n fichiers ne sont pas acceptés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders of the list are left out</source>
+        <translation>
+            <numerusform>%n dossier de la liste est exclu</numerusform>
+            <numerusform>%n dossiers de la liste sont exclus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n dossier</numerusform>
+            <numerusform>%n dossiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No folders yet</source>
+        <translation>Pas encore de dossiers</translation>
+    </message>
+    <message>
+        <source>No folders there</source>
+        <translation>Aucun dossier à cet endroit</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Ajouter un dossier…</translation>
+    </message>
+    <message>
+        <source>Drop folders here</source>
+        <translation>Déposez ici des dossiers</translation>
+    </message>
+    <message>
+        <source>The folders themselves are worked on; what is in them stays in them.</source>
+        <translation>L’action porte sur les dossiers eux-mêmes&#x202f;; leur contenu y reste.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a folder</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un dossier</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are not folders</source>
+        <translation>
+            <numerusform>%n fichier n’est pas un dossier</numerusform>
+            <numerusform>%n fichiers ne sont pas des dossiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of the list are left out</source>
+        <translation>
+            <numerusform>%n fichier de la liste est exclu</numerusform>
+            <numerusform>%n fichiers de la liste sont exclus</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>job</name>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>impossible d’écrire dans le dossier</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>un fichier de ce nom existe déjà</translation>
+    </message>
+    <message>
+        <source>no free name was found</source>
+        <translation>aucun nom libre n’a été trouvé</translation>
+    </message>
+</context>
+<context>
+    <name>log-action</name>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+</context>
+<context>
+    <name>log-page</name>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Deed</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Statut</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Old comment</source>
+        <translation>Ancien commentaire</translation>
+    </message>
+    <message>
+        <source>New comment</source>
+        <translation>Nouveau commentaire</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Tous les traitements</translation>
+    </message>
+    <message>
+        <source>Undo of %1</source>
+        <translation>Annulation&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>Redo of %1</source>
+        <translation>Rétablissement&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 (run of %2)</source>
+        <translation>%1 (traitement du %2)</translation>
+    </message>
+    <message>
+        <source>Any deed</source>
+        <translation>Toutes les actions</translation>
+    </message>
+    <message>
+        <source>Comments only</source>
+        <translation>Commentaires seuls</translation>
+    </message>
+    <message>
+        <source>Any status</source>
+        <translation>Tous les statuts</translation>
+    </message>
+    <message>
+        <source>A run is being undone. Stop it first, or wait.</source>
+        <translation>L’annulation d’un traitement est en cours. Arrêtez-la d’abord, ou attendez.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln entrée</numerusform>
+            <numerusform>%Ln entrées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %Ln entries</source>
+        <translation>
+            <numerusform>%1 sur %Ln entrée</numerusform>
+            <numerusform>%1 sur %Ln entrées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy %n Rows</source>
+        <translation>
+            <numerusform>Copier la ligne</numerusform>
+            <numerusform>Copier %n lignes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Clear Log…</source>
+        <translation>Vider le journal…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Revert %n Comments</source>
+        <translation>
+            <numerusform>Restaurer le commentaire</numerusform>
+            <numerusform>Restaurer %n commentaires</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments chosen</source>
+        <translation>
+            <numerusform>%n commentaire choisi</numerusform>
+            <numerusform>%n commentaires choisis</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No entry matches.</source>
+        <translation>Aucune entrée ne correspond.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</source>
+        <translation>
+            <numerusform>Rien n’a encore été fait. Chaque traitement écrit ici ce que chaque image est devenue&#x202f;; la dernière entrée est gardée.</numerusform>
+            <numerusform>Rien n’a encore été fait. Chaque traitement écrit ici ce que chaque image est devenue&#x202f;; les %Ln dernières entrées sont gardées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n problème</numerusform>
+            <numerusform>%n problèmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export the log</source>
+        <translation>Exporter le journal</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Log saved as %1</source>
+        <translation>Journal enregistré sous %1</translation>
+    </message>
+    <message>
+        <source>Clear log</source>
+        <translation>Vider le journal</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln entries from the log?</source>
+        <translation>
+            <numerusform>Retirer la seule entrée du journal&#x202f;?</numerusform>
+            <numerusform>Retirer les %Ln entrées du journal&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Your files stay as they are. Runs can then no longer be undone from here.</source>
+        <translation>Vos fichiers restent tels quels. Les traitements ne pourront plus être annulés d’ici.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>Revert comment</source>
+        <translation>Restaurer le commentaire</translation>
+    </message>
+    <message>
+        <source>Reverting: %1 of %2</source>
+        <translation>Restauration&#x202f;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Undoing: %1 of %2</source>
+        <translation>Annulation&#x202f;: %1 sur %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files taken back</source>
+        <translation>
+            <numerusform>%n fichier remis en place</numerusform>
+            <numerusform>%n fichiers remis en place</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped:</source>
+        <translation>Arrêté&#x202f;:</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Something went wrong</source>
+        <translation>Un problème est survenu</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
+    <name>main-window</name>
+    <message>
+        <source>Drop to add pictures and folders</source>
+        <translation>Déposez pour ajouter images et dossiers</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>A run is under way</source>
+        <translation>Un traitement est en cours</translation>
+    </message>
+    <message>
+        <source>Stop the run and close the window?</source>
+        <translation>Arrêter le traitement et fermer la fenêtre&#x202f;?</translation>
+    </message>
+    <message>
+        <source>What is finished stays; nothing half written is left.</source>
+        <translation>Ce qui est terminé reste&#x202f;; rien n’est laissé à moitié écrit.</translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <translation>Arrêter et fermer</translation>
+    </message>
+    <message>
+        <source>Keep Running</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
+    <name>manual</name>
+    <message>
+        <source>No page says “%1”.</source>
+        <translation>Aucune page ne contient «&#x202f;%1&#x202f;».</translation>
+    </message>
+</context>
+<context>
+    <name>measure</name>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>po</translation>
+    </message>
+    <message>
+        <source>pc</source>
+        <translation>pc</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation>pt</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-action</name>
+    <message>
+        <source>Metadata</source>
+        <translation>Métadonnées</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-page</name>
+    <message>
+        <source>This Picture</source>
+        <translation>Cette image</translation>
+    </message>
+    <message>
+        <source>Many Pictures</source>
+        <translation>Plusieurs images</translation>
+    </message>
+    <message>
+        <source>Search values</source>
+        <translation>Chercher une valeur</translation>
+    </message>
+    <message>
+        <source>Comments are being written. Cancel it first, or wait.</source>
+        <translation>L’écriture des commentaires est en cours. Arrêtez-la d’abord, ou attendez.</translation>
+    </message>
+    <message>
+        <source>This file is not a picture that can be read.</source>
+        <translation>Ce fichier n’est pas une image lisible.</translation>
+    </message>
+    <message>
+        <source>Copy Value or Branch</source>
+        <translation>Copier la valeur ou la branche</translation>
+    </message>
+    <message>
+        <source>Copy Place in Degrees, 48.85840, 2.29450</source>
+        <translation>Copier le lieu en degrés, 48.85840, 2.29450</translation>
+    </message>
+    <message>
+        <source>Copy Place in Minutes, 48° 51′ 30″ N</source>
+        <translation>Copier le lieu en minutes, 48° 51′ 30″ N</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines copied</source>
+        <translation>
+            <numerusform>%n ligne copiée</numerusform>
+            <numerusform>%n lignes copiées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose a property to copy first.</source>
+        <translation>Choisissez d’abord une propriété à copier.</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Copié&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>Files of this type have no place for a comment.</source>
+        <translation>Les fichiers de ce format n’ont pas de place pour un commentaire.</translation>
+    </message>
+    <message>
+        <source>Tokens such as {name}, {date} and {counter} stand for what each picture has; {{ is a brace.</source>
+        <translation>Des variables comme {name}, {date} et {counter} valent ce que contient chaque image&#x202f;; {{ donne une accolade.</translation>
+    </message>
+    <message>
+        <source>For example %1: “%2”</source>
+        <translation>Par exemple %1&#x202f;: «&#x202f;%2&#x202f;»</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n properties</source>
+        <translation>
+            <numerusform>%n propriété</numerusform>
+            <numerusform>%n propriétés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Revert %n</source>
+        <translation>
+            <numerusform>Restaurer</numerusform>
+            <numerusform>Restaurer (%n)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write into All %n…</source>
+        <translation>
+            <numerusform>Écrire dans %n…</numerusform>
+            <numerusform>Écrire dans les %n…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages</source>
+        <translation>
+            <numerusform>%n autre page</numerusform>
+            <numerusform>%n autres pages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
+        <translation>Ce fichier a %1, qui seraient retirées sans retour possible : seule la première page est gardée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <translation>
+            <numerusform>%n fichier a plusieurs pages et est laissé de côté ; le commentaire lui coûterait %1 : %2.</numerusform>
+            <numerusform>%n fichiers ont plusieurs pages et sont laissés de côté ; le commentaire leur coûterait %1 : %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
+        <translation>Les originaux eux-mêmes sont modifiés&#x202f;: leur commentaire, et rien d’autre.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <translation>
+            <numerusform>%n fichier a un format sans place pour un commentaire et reste tel quel.</numerusform>
+            <numerusform>%n fichiers ont un format sans place pour un commentaire et restent tels quels.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write comment</source>
+        <translation>Écrire le commentaire</translation>
+    </message>
+    <message numerus="yes">
+        <source>Empty the comments of %n pictures?</source>
+        <translation>
+            <numerusform>Vider le commentaire de cette image&#x202f;?</numerusform>
+            <numerusform>Vider le commentaire de %n images&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write the comment into %n pictures?</source>
+        <translation>
+            <numerusform>Écrire le commentaire dans cette image&#x202f;?</numerusform>
+            <numerusform>Écrire le commentaire dans %n images&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write and Remove Pages</source>
+        <translation>Écrire et retirer les pages</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Write into these too, and keep only their first page</source>
+        <translation>Écrire aussi dans ceux-ci et ne garder que leur première page</translation>
+    </message>
+    <message>
+        <source>Write the comment into pictures</source>
+        <translation>Écrire le commentaire dans des images</translation>
+    </message>
+    <message>
+        <source>Write the comment into all pictures of a folder</source>
+        <translation>Écrire le commentaire dans toutes les images d’un dossier</translation>
+    </message>
+    <message>
+        <source>Revert comment</source>
+        <translation>Restaurer le commentaire</translation>
+    </message>
+</context>
+<context>
+    <name>move-run</name>
+    <message>
+        <source>Too little room</source>
+        <translation>Pas assez de place</translation>
+    </message>
+    <message>
+        <source>Files that find no room stay where they are.</source>
+        <translation>Les fichiers qui ne trouvent pas de place restent où ils sont.</translation>
+    </message>
+    <message>
+        <source>Start Anyway</source>
+        <translation>Démarrer quand même</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Cancelled before the first file. Nothing was moved.</source>
+        <translation>Arrêté avant le premier fichier. Rien n’a été déplacé.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do.</source>
+        <translation>Il n’y a rien à faire.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was moved.</source>
+        <translation>Arrêté. Rien n’a été déplacé.</translation>
+    </message>
+    <message>
+        <source>Simulation: %1</source>
+        <translation>Simulation&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>exclus&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>nothing was moved</source>
+        <translation>rien n’a été déplacé</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>fait</translation>
+    </message>
+    <message>
+        <source>cancelled before its turn</source>
+        <translation>arrêté avant son tour</translation>
+    </message>
+    <message>
+        <source>Cancelled:</source>
+        <translation>Arrêté&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Last run: %1, %2</source>
+        <translation>Dernier traitement&#x202f;: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>move-words</name>
+    <message>
+        <source>name is empty</source>
+        <translation>le nom est vide</translation>
+    </message>
+    <message>
+        <source>a name cannot have “/” in it or be “.” or “..”</source>
+        <translation>un nom ne peut ni contenir «&#x202f;/&#x202f;» ni être «&#x202f;.&#x202f;» ou «&#x202f;..&#x202f;»</translation>
+    </message>
+    <message>
+        <source>name is too long</source>
+        <translation>le nom est trop long</translation>
+    </message>
+    <message>
+        <source>the file is not there any more</source>
+        <translation>le fichier n’existe plus</translation>
+    </message>
+    <message>
+        <source>%1 would get this name too</source>
+        <translation>%1 prendrait aussi ce nom</translation>
+    </message>
+    <message>
+        <source>name is taken by %1, which is not in this list or stays</source>
+        <translation>nom pris par %1, qui n’est pas dans cette liste ou reste</translation>
+    </message>
+    <message>
+        <source>name is taken by a file not in this list</source>
+        <translation>nom pris par un fichier hors de cette liste</translation>
+    </message>
+    <message>
+        <source>differs only by case or accents from %1</source>
+        <translation>ne diffère de %1 que par la casse ou les accents</translation>
+    </message>
+    <message>
+        <source>a folder cannot go into itself</source>
+        <translation>un dossier ne peut pas aller dans lui-même</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>impossible d’écrire dans le dossier</translation>
+    </message>
+    <message>
+        <source>the file that it goes with stays</source>
+        <translation>le fichier qu’il suit reste</translation>
+    </message>
+    <message>
+        <source>a file that goes along cannot: %1 is in its place</source>
+        <translation>un fichier annexe ne peut pas suivre&#x202f;: %1 occupe sa place</translation>
+    </message>
+    <message>
+        <source>a file that goes along cannot</source>
+        <translation>un fichier annexe ne peut pas suivre</translation>
+    </message>
+    <message>
+        <source>cannot be done</source>
+        <translation>impossible</translation>
+    </message>
+    <message>
+        <source>changes places with %1: done in two steps</source>
+        <translation>échange sa place avec %1&#x202f;: en deux étapes</translation>
+    </message>
+    <message>
+        <source>ready, with its %1</source>
+        <translation>prêt, avec son %1</translation>
+    </message>
+    <message>
+        <source>ready, numbered because the name is taken</source>
+        <translation>prêt, numéroté car le nom est pris</translation>
+    </message>
+    <message>
+        <source>ready, onto another disk</source>
+        <translation>prêt, vers un autre disque</translation>
+    </message>
+    <message>
+        <source>ready, only the case changes</source>
+        <translation>prêt, seule la casse change</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prêt</translation>
+    </message>
+    <message>
+        <source>Goes with its %1.</source>
+        <translation>Avec son %1.</translation>
+    </message>
+    <message>
+        <source>ready, but %1</source>
+        <translation>prêt, mais %1</translation>
+    </message>
+    <message>
+        <source>stays: %1 gets this name</source>
+        <translation>reste&#x202f;: %1 prend ce nom</translation>
+    </message>
+    <message>
+        <source>stays: a file of this name is there</source>
+        <translation>reste&#x202f;: un fichier de ce nom existe déjà</translation>
+    </message>
+    <message>
+        <source>In the way: %1</source>
+        <translation>Déjà à cette place&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>goes along with %1</source>
+        <translation>suit %1</translation>
+    </message>
+    <message>
+        <source>stays as it is</source>
+        <translation>reste tel quel</translation>
+    </message>
+</context>
+<context>
+    <name>moves</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simuler&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>Working out names: %1 of %2…</source>
+        <translation>Calcul des noms&#x202f;: %1 sur %2…</translation>
+    </message>
+    <message>
+        <source>%1 ready</source>
+        <translation>Prêts&#x202f;: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n need attention</source>
+        <translation>
+            <numerusform>%n à vérifier</numerusform>
+            <numerusform>%n à vérifier</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stay as they are</source>
+        <translation>
+            <numerusform>%n reste tel quel</numerusform>
+            <numerusform>%n restent tels quels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n go along</source>
+        <translation>
+            <numerusform>%n suit</numerusform>
+            <numerusform>%n suivent</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>can be undone</source>
+        <translation>annulable</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nom actuel</translation>
+    </message>
+</context>
+<context>
+    <name>name-steps</name>
+    <message>
+        <source>Enter a text.</source>
+        <translation>Saisissez un texte.</translation>
+    </message>
+    <message>
+        <source>Write numbers of pieces with commas between them, such as 2,1; -1 is the last.</source>
+        <translation>Saisissez des numéros de morceaux séparés par des virgules, comme 2,1&#x202f;; -1 est le dernier.</translation>
+    </message>
+</context>
+<context>
+    <name>new-version</name>
+    <message>
+        <source>Quorlin</source>
+        <translation>Quorlin</translation>
+    </message>
+</context>
+<context>
+    <name>output-pane</name>
+    <message>
+        <source>EXIF, IPTC and XMP do not go along.</source>
+        <translation>EXIF, IPTC et XMP ne sont pas repris.</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP go along into %1 files only.</source>
+        <translation>EXIF, IPTC et XMP ne sont repris que dans les fichiers %1.</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation> et </translation>
+    </message>
+    <message>
+        <source>Metadata and colour profile go along.</source>
+        <translation>Métadonnées et profil colorimétrique sont repris.</translation>
+    </message>
+    <message>
+        <source>The colour profile goes along if it fits, else colours become sRGB; EXIF, IPTC and XMP do not.</source>
+        <translation>Le profil colorimétrique est repris s’il convient, sinon les couleurs passent en sRGB ; EXIF, IPTC et XMP ne le sont pas.</translation>
+    </message>
+    <message>
+        <source>The colour profile goes along; EXIF, IPTC and XMP do not.</source>
+        <translation>Le profil colorimétrique est repris&#x202f;; EXIF, IPTC et XMP ne le sont pas.</translation>
+    </message>
+    <message>
+        <source>Neither metadata nor colour profile go along; colours become sRGB.</source>
+        <translation>Ni les métadonnées ni le profil colorimétrique ne sont repris&#x202f;; les couleurs passent en sRGB.</translation>
+    </message>
+    <message>
+        <source>Transparent parts become black.</source>
+        <translation>Les parties transparentes deviennent noires.</translation>
+    </message>
+    <message>
+        <source>Number the new file</source>
+        <translation>Numéroter le nouveau</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>Original file type</source>
+        <translation>Format d’origine</translation>
+    </message>
+    <message>
+        <source>Folder “%1” beside it</source>
+        <translation>«&#x202f;%1&#x202f;» à côté</translation>
+    </message>
+    <message>
+        <source>Folder of the original</source>
+        <translation>Dossier de l’original</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Choisir un dossier…</translation>
+    </message>
+    <message>
+        <source>Save results to</source>
+        <translation>Enregistrer les résultats dans</translation>
+    </message>
+</context>
+<context>
+    <name>pane</name>
+    <message>
+        <source> at %1 dpi</source>
+        <translation> à %1 dpi</translation>
+    </message>
+</context>
+<context>
+    <name>plan</name>
+    <message>
+        <source>cancelled</source>
+        <translation>arrêté</translation>
+    </message>
+    <message>
+        <source>another picture of this run gets this name</source>
+        <translation>une autre image de ce traitement prend ce nom</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>un fichier de ce nom existe déjà</translation>
+    </message>
+    <message>
+        <source>the folder to save to has no name of its own</source>
+        <translation>le dossier de destination n’a pas de nom propre</translation>
+    </message>
+</context>
+<context>
+    <name>platform</name>
+    <message>
+        <source>The tags of %1 could not be written</source>
+        <translation>Les étiquettes de %1 n’ont pas pu être écrites</translation>
+    </message>
+    <message>
+        <source>Cannot trash %1</source>
+        <translation>Impossible de mettre %1 à la corbeille</translation>
+    </message>
+    <message>
+        <source>Cannot trash %1: there is nothing</source>
+        <translation>Impossible de mettre %1 à la corbeille&#x202f;: il n’y a rien</translation>
+    </message>
+    <message>
+        <source>Cannot trash %1: %2</source>
+        <translation>Impossible de mettre %1 à la corbeille&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>Lecture de %1 impossible&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Écriture de %1 impossible&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>Ko</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>Go</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>To</translation>
+    </message>
+    <message>
+        <source>PB</source>
+        <translation>Po</translation>
+    </message>
+    <message>
+        <source>EB</source>
+        <translation>Eo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%n octet</numerusform>
+            <numerusform>%n octets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 needs about %2 of memory, %3 is free</source>
+        <translation>%1 demande environ %2 de mémoire, %3 sont libres</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, %2 is free</source>
+        <translation>demande environ %1 de mémoire, %2 sont libres</translation>
+    </message>
+    <message>
+        <source>There is no picture to draw</source>
+        <translation>Il n’y a pas d’image à dessiner</translation>
+    </message>
+    <message>
+        <source>The picture is too large</source>
+        <translation>L’image est trop grande</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw</source>
+        <translation>Il n’y a rien à dessiner</translation>
+    </message>
+    <message>
+        <source>No picture of %1 x %2 pixels can be made</source>
+        <translation>Impossible de créer une image de %1 x %2 pixels</translation>
+    </message>
+    <message>
+        <source>Reading the picture</source>
+        <translation>La lecture de l’image</translation>
+    </message>
+    <message>
+        <source>The picture</source>
+        <translation>L’image</translation>
+    </message>
+    <message>
+        <source>There is no picture to scale</source>
+        <translation>Il n’y a pas d’image à redimensionner</translation>
+    </message>
+    <message>
+        <source>There is no picture to turn</source>
+        <translation>Il n’y a pas d’image à pivoter</translation>
+    </message>
+    <message>
+        <source>A picture cannot be turned by that angle</source>
+        <translation>Une image ne peut pas être pivotée de cet angle</translation>
+    </message>
+    <message>
+        <source>the file is damaged</source>
+        <translation>le fichier est endommagé</translation>
+    </message>
+    <message>
+        <source>the comment is too long</source>
+        <translation>le commentaire est trop long</translation>
+    </message>
+    <message>
+        <source>There is no picture to write</source>
+        <translation>Il n’y a pas d’image à écrire</translation>
+    </message>
+    <message>
+        <source>The page could not be made: %1</source>
+        <translation>La page n’a pas pu être créée&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>The JPEG could not be made: %1</source>
+        <translation>Le JPEG n’a pas pu être créé&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture</source>
+        <translation>L’écriture de l’image</translation>
+    </message>
+    <message>
+        <source>The picture could not be encoded: %1</source>
+        <translation>L’image n’a pas pu être encodée&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>The file is neither JPEG nor TIFF</source>
+        <translation>Le fichier n’est ni JPEG ni TIFF</translation>
+    </message>
+    <message>
+        <source>This is no property list with a dictionary</source>
+        <translation>Ce n’est pas une liste de propriétés avec un dictionnaire</translation>
+    </message>
+    <message>
+        <source>A property list cannot hold this under %1</source>
+        <translation>Une liste de propriétés ne peut pas contenir ceci sous %1</translation>
+    </message>
+</context>
+<context>
+    <name>preferences</name>
+    <message>
+        <source>As the system</source>
+        <translation>Comme le système</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Number the new file</source>
+        <translation>Numéroter le nouveau</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>the newest 1,000 entries</source>
+        <translation>les 1&#x202f;000 dernières entrées</translation>
+    </message>
+    <message>
+        <source>the newest 10,000 entries</source>
+        <translation>les 10&#x202f;000 dernières entrées</translation>
+    </message>
+    <message>
+        <source>the newest 100,000 entries</source>
+        <translation>les 100&#x202f;000 dernières entrées</translation>
+    </message>
+</context>
+<context>
+    <name>preset-pane</name>
+    <message>
+        <source>%1 (newer version)</source>
+        <translation>%1 (version plus récente)</translation>
+    </message>
+    <message>
+        <source>%1 (unknown)</source>
+        <translation>%1 (inconnu)</translation>
+    </message>
+    <message>
+        <source>%1 (damaged)</source>
+        <translation>%1 (endommagé)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1, modifié</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modifié</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Renommer…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Supprimer…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Relire</translation>
+    </message>
+    <message>
+        <source>My preset</source>
+        <translation>Mon préréglage</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Delete preset</source>
+        <translation>Supprimer le préréglage</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>Supprimer le préréglage «&#x202f;%1&#x202f;»&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The settings stay as they are now.</source>
+        <translation>Les réglages restent tels quels.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>Export the preset</source>
+        <translation>Exporter le préréglage</translation>
+    </message>
+    <message>
+        <source>Preset exported as %1</source>
+        <translation>Préréglage exporté sous %1</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>Importer des préréglages</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>Lecture de %1 impossible.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n presets imported</source>
+        <translation>
+            <numerusform>%1 préréglage sur %n importé</numerusform>
+            <numerusform>%1 préréglages sur %n importés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n presets imported</source>
+        <translation>
+            <numerusform>%n préréglage importé</numerusform>
+            <numerusform>%n préréglages importés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed, their names were taken</source>
+        <translation>
+            <numerusform>%n renommé, son nom était pris</numerusform>
+            <numerusform>%n renommés, leurs noms étaient pris</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>none for this action</source>
+        <translation>aucun pour cette action</translation>
+    </message>
+</context>
+<context>
+    <name>preset-store</name>
+    <message>
+        <source>The presets database was empty and could not be used. It is called %1 now, and there is a new one.</source>
+        <translation>La base des préréglages était vide et inutilisable. Elle s’appelle maintenant %1, et il y en a une nouvelle.</translation>
+    </message>
+    <message>
+        <source>Presets cannot be kept: their database cannot be made.</source>
+        <translation>Les préréglages ne peuvent pas être gardés&#x202f;: leur base de données ne peut pas être créée.</translation>
+    </message>
+    <message>
+        <source>The presets database cannot be read.</source>
+        <translation>La base de données des préréglages ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>The presets database is damaged. It is left as it is.</source>
+        <translation>La base de données des préréglages est endommagée. Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>The presets database has no place for presets. It is left as it is.</source>
+        <translation>La base de données des préréglages n’a pas de place pour des préréglages. Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>The presets database is in use by another program, or damaged. It is left as it is.</source>
+        <translation>La base de données des préréglages est utilisée par un autre programme, ou endommagée. Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>The presets database is read-only; nothing was changed.</source>
+        <translation>La base de données des préréglages est en lecture seule&#x202f;; rien n’a été modifié.</translation>
+    </message>
+    <message>
+        <source>The presets database is in use by another program, or the disk is full; nothing was changed.</source>
+        <translation>La base de données des préréglages est utilisée par un autre programme, ou le disque est plein&#x202f;; rien n’a été modifié.</translation>
+    </message>
+</context>
+<context>
+    <name>presets</name>
+    <message>
+        <source>This preset was not made by Quorlin. It is left as it is.</source>
+        <translation>Ce préréglage n’a pas été créé par Quorlin. Il est laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>This preset was made by a newer Quorlin. It is left as it is.</source>
+        <translation>Ce préréglage a été créé par une version plus récente de Quorlin. Il est laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>This preset is damaged and cannot be used.</source>
+        <translation>Ce préréglage est endommagé et inutilisable.</translation>
+    </message>
+    <message>
+        <source>Enter a name.</source>
+        <translation>Saisissez un nom.</translation>
+    </message>
+    <message>
+        <source>A name cannot have a straight apostrophe (&apos;) in it. A curved one (’) is fine.</source>
+        <translation>Un nom ne peut pas contenir d’apostrophe droite (&apos;). L’apostrophe courbe (’) convient.</translation>
+    </message>
+    <message>
+        <source>A name cannot have a bar (|) in it.</source>
+        <translation>Un nom ne peut pas contenir de barre verticale (|).</translation>
+    </message>
+    <message>
+        <source>A name cannot have line breaks or control characters in it.</source>
+        <translation>Un nom ne peut contenir ni saut de ligne ni caractère de contrôle.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A name can have up to %n characters.</source>
+        <translation>
+            <numerusform>Un nom peut avoir jusqu’à %n caractère.</numerusform>
+            <numerusform>Un nom peut avoir jusqu’à %n caractères.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is a preset named %1 already.</source>
+        <translation>Il y a déjà un préréglage nommé %1.</translation>
+    </message>
+    <message>
+        <source>This file holds no presets.</source>
+        <translation>Ce fichier ne contient pas de préréglages.</translation>
+    </message>
+    <message>
+        <source>This file was made by a newer Quorlin.</source>
+        <translation>Ce fichier a été créé par une version plus récente de Quorlin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n presets in this file cannot be used.</source>
+        <translation>
+            <numerusform>%1 préréglage de ce fichier sur %n est inutilisable.</numerusform>
+            <numerusform>%1 préréglages de ce fichier sur %n sont inutilisables.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>preview-side</name>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>quality %1</source>
+        <translation>qualité %1</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>env. %1</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Large preview</source>
+        <translation>Grand aperçu</translation>
+    </message>
+</context>
+<context>
+    <name>properties</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 EV</source>
+        <translation>%1 IL</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>à l’endroit</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>en miroir</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>tête en bas</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>tête en bas, en miroir</translation>
+    </message>
+    <message>
+        <source>on its left side, mirrored</source>
+        <translation>couchée à gauche, en miroir</translation>
+    </message>
+    <message>
+        <source>turn right to see it upright</source>
+        <translation>à pivoter vers la droite pour la voir à l’endroit</translation>
+    </message>
+    <message>
+        <source>on its right side, mirrored</source>
+        <translation>couchée à droite, en miroir</translation>
+    </message>
+    <message>
+        <source>turn left to see it upright</source>
+        <translation>à pivoter vers la gauche pour la voir à l’endroit</translation>
+    </message>
+    <message>
+        <source>fired</source>
+        <translation>déclenché</translation>
+    </message>
+    <message>
+        <source>did not fire</source>
+        <translation>non déclenché</translation>
+    </message>
+    <message>
+        <source>manual</source>
+        <translation>manuel</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatique</translation>
+    </message>
+    <message>
+        <source>aperture priority</source>
+        <translation>priorité à l’ouverture</translation>
+    </message>
+    <message>
+        <source>shutter priority</source>
+        <translation>priorité à la vitesse</translation>
+    </message>
+    <message>
+        <source>creative</source>
+        <translation>créatif</translation>
+    </message>
+    <message>
+        <source>action</source>
+        <translation>action</translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation>portrait</translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation>paysage</translation>
+    </message>
+    <message>
+        <source>average</source>
+        <translation>moyenne</translation>
+    </message>
+    <message>
+        <source>centre-weighted</source>
+        <translation>pondérée au centre</translation>
+    </message>
+    <message>
+        <source>spot</source>
+        <translation>spot</translation>
+    </message>
+    <message>
+        <source>several spots</source>
+        <translation>multispot</translation>
+    </message>
+    <message>
+        <source>several fields</source>
+        <translation>multizone</translation>
+    </message>
+    <message>
+        <source>part of the picture</source>
+        <translation>partielle</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>standard</translation>
+    </message>
+    <message>
+        <source>night</source>
+        <translation>nuit</translation>
+    </message>
+    <message>
+        <source>bracketing</source>
+        <translation>bracketing</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>pouce</translation>
+    </message>
+    <message>
+        <source>centimetre</source>
+        <translation>centimètre</translation>
+    </message>
+    <message>
+        <source>not sRGB</source>
+        <translation>autre que sRGB</translation>
+    </message>
+    <message>
+        <source>above sea level</source>
+        <translation>au-dessus du niveau de la mer</translation>
+    </message>
+    <message>
+        <source>below sea level</source>
+        <translation>sous le niveau de la mer</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixels</source>
+        <translation>
+            <numerusform>%n pixel</numerusform>
+            <numerusform>%n pixels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bits</source>
+        <translation>
+            <numerusform>%n bit</numerusform>
+            <numerusform>%n bits</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln bytes</source>
+        <translation>
+            <numerusform>%Ln octet</numerusform>
+            <numerusform>%Ln octets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Accélération</translation>
+    </message>
+    <message>
+        <source>Action advised</source>
+        <translation>Action conseillée</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Altitude</translation>
+    </message>
+    <message>
+        <source>Altitude reference</source>
+        <translation>Référence d’altitude</translation>
+    </message>
+    <message>
+        <source>Aperture value</source>
+        <translation>Valeur d’ouverture</translation>
+    </message>
+    <message>
+        <source>Area information</source>
+        <translation>Informations de zone</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artiste</translation>
+    </message>
+    <message>
+        <source>Audio duration</source>
+        <translation>Durée audio</translation>
+    </message>
+    <message>
+        <source>Audio outcue</source>
+        <translation>Fin de l’audio</translation>
+    </message>
+    <message>
+        <source>Audio rate</source>
+        <translation>Échantillonnage audio</translation>
+    </message>
+    <message>
+        <source>Audio resolution</source>
+        <translation>Résolution audio</translation>
+    </message>
+    <message>
+        <source>Audio type</source>
+        <translation>Type audio</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Battery level</source>
+        <translation>Niveau de la batterie</translation>
+    </message>
+    <message>
+        <source>Body serial number</source>
+        <translation>Numéro de série du boîtier</translation>
+    </message>
+    <message>
+        <source>Brightness value</source>
+        <translation>Valeur de luminosité</translation>
+    </message>
+    <message>
+        <source>By-line</source>
+        <translation>Signature</translation>
+    </message>
+    <message>
+        <source>By-line title</source>
+        <translation>Titre du signataire</translation>
+    </message>
+    <message>
+        <source>CFA pattern</source>
+        <translation>Motif CFA</translation>
+    </message>
+    <message>
+        <source>CFA repeat pattern size</source>
+        <translation>Taille du motif CFA</translation>
+    </message>
+    <message>
+        <source>Camera elevation angle</source>
+        <translation>Angle d’élévation de l’appareil</translation>
+    </message>
+    <message>
+        <source>Camera owner name</source>
+        <translation>Propriétaire de l’appareil</translation>
+    </message>
+    <message>
+        <source>Caption or abstract</source>
+        <translation>Légende ou résumé</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Catégorie</translation>
+    </message>
+    <message>
+        <source>Chromaticities</source>
+        <translation>Chromaticités</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <source>Color model</source>
+        <translation>Modèle colorimétrique</translation>
+    </message>
+    <message>
+        <source>Color space</source>
+        <translation>Espace colorimétrique</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Commentaire</translation>
+    </message>
+    <message>
+        <source>Components configuration</source>
+        <translation>Configuration des composantes</translation>
+    </message>
+    <message>
+        <source>Composite image</source>
+        <translation>Image composite</translation>
+    </message>
+    <message>
+        <source>Compressed bits per pixel</source>
+        <translation>Bits compressés par pixel</translation>
+    </message>
+    <message>
+        <source>Compression</source>
+        <translation>Compression</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Contact</translation>
+    </message>
+    <message>
+        <source>Content location code</source>
+        <translation>Code du lieu du contenu</translation>
+    </message>
+    <message>
+        <source>Content location name</source>
+        <translation>Nom du lieu du contenu</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>Mention de copyright</translation>
+    </message>
+    <message>
+        <source>Country code</source>
+        <translation>Code du pays</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Pays</translation>
+    </message>
+    <message>
+        <source>Creation time</source>
+        <translation>Date et heure de création</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>Crédit</translation>
+    </message>
+    <message>
+        <source>Custom rendered</source>
+        <translation>Rendu personnalisé</translation>
+    </message>
+    <message>
+        <source>Dilution of precision</source>
+        <translation>Dilution de la précision</translation>
+    </message>
+    <message>
+        <source>DPI height</source>
+        <translation>Résolution verticale (dpi)</translation>
+    </message>
+    <message>
+        <source>DPI width</source>
+        <translation>Résolution horizontale (dpi)</translation>
+    </message>
+    <message>
+        <source>Date created</source>
+        <translation>Date de création</translation>
+    </message>
+    <message>
+        <source>Date (UTC)</source>
+        <translation>Date (UTC)</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>Date and time, digitized</source>
+        <translation>Date et heure de numérisation</translation>
+    </message>
+    <message>
+        <source>Date and time, original</source>
+        <translation>Date et heure de prise de vue</translation>
+    </message>
+    <message>
+        <source>Delay time</source>
+        <translation>Délai entre images</translation>
+    </message>
+    <message>
+        <source>Density unit</source>
+        <translation>Unité de densité</translation>
+    </message>
+    <message>
+        <source>Depth</source>
+        <translation>Profondeur</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Destination bearing</source>
+        <translation>Relèvement de la destination</translation>
+    </message>
+    <message>
+        <source>Destination bearing reference</source>
+        <translation>Référence du relèvement de la destination</translation>
+    </message>
+    <message>
+        <source>Destination distance</source>
+        <translation>Distance de la destination</translation>
+    </message>
+    <message>
+        <source>Destination distance reference</source>
+        <translation>Référence de la distance de la destination</translation>
+    </message>
+    <message>
+        <source>Destination latitude</source>
+        <translation>Latitude de la destination</translation>
+    </message>
+    <message>
+        <source>Destination latitude reference</source>
+        <translation>Référence de la latitude de la destination</translation>
+    </message>
+    <message>
+        <source>Destination longitude</source>
+        <translation>Longitude de la destination</translation>
+    </message>
+    <message>
+        <source>Destination longitude reference</source>
+        <translation>Référence de la longitude de la destination</translation>
+    </message>
+    <message>
+        <source>Device setting description</source>
+        <translation>Réglages de l’appareil</translation>
+    </message>
+    <message>
+        <source>Differential</source>
+        <translation>Correction différentielle</translation>
+    </message>
+    <message>
+        <source>Digital creation date</source>
+        <translation>Date de numérisation</translation>
+    </message>
+    <message>
+        <source>Digital creation time</source>
+        <translation>Heure de numérisation</translation>
+    </message>
+    <message>
+        <source>Digital zoom ratio</source>
+        <translation>Zoom numérique</translation>
+    </message>
+    <message>
+        <source>Disclaimer</source>
+        <translation>Clause de non-responsabilité</translation>
+    </message>
+    <message>
+        <source>Document name</source>
+        <translation>Nom du document</translation>
+    </message>
+    <message>
+        <source>Edit status</source>
+        <translation>État de l’édition</translation>
+    </message>
+    <message>
+        <source>Editorial update</source>
+        <translation>Mise à jour éditoriale</translation>
+    </message>
+    <message>
+        <source>Exif version</source>
+        <translation>Version Exif</translation>
+    </message>
+    <message>
+        <source>Expiration date</source>
+        <translation>Date d’expiration</translation>
+    </message>
+    <message>
+        <source>Expiration time</source>
+        <translation>Heure d’expiration</translation>
+    </message>
+    <message>
+        <source>Exposure bias value</source>
+        <translation>Correction d’exposition</translation>
+    </message>
+    <message>
+        <source>Exposure index</source>
+        <translation>Indice d’exposition</translation>
+    </message>
+    <message>
+        <source>Exposure mode</source>
+        <translation>Mode d’exposition</translation>
+    </message>
+    <message>
+        <source>Exposure program</source>
+        <translation>Programme d’exposition</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation>Temps de pose</translation>
+    </message>
+    <message>
+        <source>F-number</source>
+        <translation>Ouverture</translation>
+    </message>
+    <message>
+        <source>File source</source>
+        <translation>Source du fichier</translation>
+    </message>
+    <message>
+        <source>Fixture identifier</source>
+        <translation>Identifiant de rubrique</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>Flash</translation>
+    </message>
+    <message>
+        <source>Flash energy</source>
+        <translation>Énergie du flash</translation>
+    </message>
+    <message>
+        <source>FlashPix version</source>
+        <translation>Version FlashPix</translation>
+    </message>
+    <message>
+        <source>Focal length in 35 mm film</source>
+        <translation>Focale équivalente 35 mm</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Focale</translation>
+    </message>
+    <message>
+        <source>Focal plane resolution unit</source>
+        <translation>Unité de résolution du plan focal</translation>
+    </message>
+    <message>
+        <source>Focal plane X resolution</source>
+        <translation>Résolution X du plan focal</translation>
+    </message>
+    <message>
+        <source>Focal plane Y resolution</source>
+        <translation>Résolution Y du plan focal</translation>
+    </message>
+    <message>
+        <source>GPS version</source>
+        <translation>Version GPS</translation>
+    </message>
+    <message>
+        <source>Gain control</source>
+        <translation>Contrôle du gain</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Horizontal positioning error</source>
+        <translation>Erreur de position horizontale</translation>
+    </message>
+    <message>
+        <source>Has alpha</source>
+        <translation>Couche alpha</translation>
+    </message>
+    <message>
+        <source>Has global color map</source>
+        <translation>Palette globale</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>En-tête</translation>
+    </message>
+    <message>
+        <source>Host computer</source>
+        <translation>Ordinateur hôte</translation>
+    </message>
+    <message>
+        <source>Humidity</source>
+        <translation>Humidité</translation>
+    </message>
+    <message>
+        <source>ISO speed</source>
+        <translation>Vitesse ISO</translation>
+    </message>
+    <message>
+        <source>ISO speed latitude yyy</source>
+        <translation>Latitude ISO yyy</translation>
+    </message>
+    <message>
+        <source>ISO speed latitude zzz</source>
+        <translation>Latitude ISO zzz</translation>
+    </message>
+    <message>
+        <source>ISO speed ratings</source>
+        <translation>Sensibilité ISO</translation>
+    </message>
+    <message>
+        <source>Image description</source>
+        <translation>Description de l’image</translation>
+    </message>
+    <message>
+        <source>Image history</source>
+        <translation>Historique de l’image</translation>
+    </message>
+    <message>
+        <source>Image ID</source>
+        <translation>Identifiant de l’image</translation>
+    </message>
+    <message>
+        <source>Image height</source>
+        <translation>Hauteur de l’image</translation>
+    </message>
+    <message>
+        <source>Image number</source>
+        <translation>Numéro de l’image</translation>
+    </message>
+    <message>
+        <source>Image orientation</source>
+        <translation>Orientation de l’image</translation>
+    </message>
+    <message>
+        <source>Image type</source>
+        <translation>Type d’image</translation>
+    </message>
+    <message>
+        <source>Unique image ID</source>
+        <translation>Identifiant unique de l’image</translation>
+    </message>
+    <message>
+        <source>Image width</source>
+        <translation>Largeur de l’image</translation>
+    </message>
+    <message>
+        <source>Image direction</source>
+        <translation>Direction de prise de vue</translation>
+    </message>
+    <message>
+        <source>Image direction reference</source>
+        <translation>Référence de la direction de prise de vue</translation>
+    </message>
+    <message>
+        <source>Interlace</source>
+        <translation>Entrelacement</translation>
+    </message>
+    <message>
+        <source>Interlace type</source>
+        <translation>Type d’entrelacement</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Lieu</translation>
+    </message>
+    <message>
+        <source>Is progressive</source>
+        <translation>Progressif</translation>
+    </message>
+    <message>
+        <source>JFIF version</source>
+        <translation>Version JFIF</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Language identifier</source>
+        <translation>Identifiant de langue</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Latitude reference</source>
+        <translation>Référence de latitude</translation>
+    </message>
+    <message>
+        <source>Lens make</source>
+        <translation>Marque de l’objectif</translation>
+    </message>
+    <message>
+        <source>Lens model</source>
+        <translation>Modèle de l’objectif</translation>
+    </message>
+    <message>
+        <source>Lens serial number</source>
+        <translation>Numéro de série de l’objectif</translation>
+    </message>
+    <message>
+        <source>Lens range</source>
+        <translation>Plage de l’objectif</translation>
+    </message>
+    <message>
+        <source>Light source</source>
+        <translation>Source lumineuse</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>Longitude reference</source>
+        <translation>Référence de longitude</translation>
+    </message>
+    <message>
+        <source>Loop count</source>
+        <translation>Nombre de boucles</translation>
+    </message>
+    <message>
+        <source>Camera make</source>
+        <translation>Marque de l’appareil</translation>
+    </message>
+    <message>
+        <source>Maker note</source>
+        <translation>Données du fabricant</translation>
+    </message>
+    <message>
+        <source>Map datum</source>
+        <translation>Système géodésique</translation>
+    </message>
+    <message>
+        <source>Largest aperture value</source>
+        <translation>Ouverture maximale</translation>
+    </message>
+    <message>
+        <source>Measure mode</source>
+        <translation>Mode de mesure GPS</translation>
+    </message>
+    <message>
+        <source>Metering mode</source>
+        <translation>Mode de mesure</translation>
+    </message>
+    <message>
+        <source>Camera model</source>
+        <translation>Modèle de l’appareil</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>Bruit</translation>
+    </message>
+    <message>
+        <source>Opto-electric conversion function</source>
+        <translation>Fonction de conversion optoélectronique</translation>
+    </message>
+    <message>
+        <source>Object attribute reference</source>
+        <translation>Référence d’attribut de l’objet</translation>
+    </message>
+    <message>
+        <source>Object cycle</source>
+        <translation>Cycle de l’objet</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>Nom de l’objet</translation>
+    </message>
+    <message>
+        <source>Object type reference</source>
+        <translation>Référence de type de l’objet</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Fuseau horaire</translation>
+    </message>
+    <message>
+        <source>Time zone, digitized</source>
+        <translation>Fuseau horaire, numérisation</translation>
+    </message>
+    <message>
+        <source>Time zone, original</source>
+        <translation>Fuseau horaire, prise de vue</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Original transmission reference</source>
+        <translation>Référence de transmission d’origine</translation>
+    </message>
+    <message>
+        <source>Originating program</source>
+        <translation>Programme d’origine</translation>
+    </message>
+    <message>
+        <source>Page name</source>
+        <translation>Nom de la page</translation>
+    </message>
+    <message>
+        <source>Page number</source>
+        <translation>Numéro de page</translation>
+    </message>
+    <message>
+        <source>Photometric interpretation</source>
+        <translation>Interprétation photométrique</translation>
+    </message>
+    <message>
+        <source>Pixel height</source>
+        <translation>Hauteur en pixels</translation>
+    </message>
+    <message>
+        <source>Pixel width</source>
+        <translation>Largeur en pixels</translation>
+    </message>
+    <message>
+        <source>Pixel X dimension</source>
+        <translation>Dimension X en pixels</translation>
+    </message>
+    <message>
+        <source>Pixel Y dimension</source>
+        <translation>Dimension Y en pixels</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>Pression</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Preview format</source>
+        <translation>Format de l’aperçu</translation>
+    </message>
+    <message>
+        <source>Preview version</source>
+        <translation>Version de l’aperçu</translation>
+    </message>
+    <message>
+        <source>Primary chromaticities</source>
+        <translation>Chromaticités primaires</translation>
+    </message>
+    <message>
+        <source>Processing method</source>
+        <translation>Méthode de traitement</translation>
+    </message>
+    <message>
+        <source>Processing software</source>
+        <translation>Logiciel de traitement</translation>
+    </message>
+    <message>
+        <source>Profile name</source>
+        <translation>Nom du profil</translation>
+    </message>
+    <message>
+        <source>Program version</source>
+        <translation>Version du programme</translation>
+    </message>
+    <message>
+        <source>Province or state</source>
+        <translation>Région ou État</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Rating percent</source>
+        <translation>Note en pour cent</translation>
+    </message>
+    <message>
+        <source>Recommended exposure index</source>
+        <translation>Indice d’exposition recommandé</translation>
+    </message>
+    <message>
+        <source>Reference black and white</source>
+        <translation>Noir et blanc de référence</translation>
+    </message>
+    <message>
+        <source>Reference date</source>
+        <translation>Date de référence</translation>
+    </message>
+    <message>
+        <source>Reference number</source>
+        <translation>Numéro de référence</translation>
+    </message>
+    <message>
+        <source>Reference service</source>
+        <translation>Service de référence</translation>
+    </message>
+    <message>
+        <source>Related sound file</source>
+        <translation>Fichier audio associé</translation>
+    </message>
+    <message>
+        <source>Release date</source>
+        <translation>Date de publication</translation>
+    </message>
+    <message>
+        <source>Release time</source>
+        <translation>Heure de publication</translation>
+    </message>
+    <message>
+        <source>Resolution unit</source>
+        <translation>Unité de résolution</translation>
+    </message>
+    <message>
+        <source>Satellites</source>
+        <translation>Satellites</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Scene capture type</source>
+        <translation>Type de prise de vue</translation>
+    </message>
+    <message>
+        <source>Scene type</source>
+        <translation>Type de scène</translation>
+    </message>
+    <message>
+        <source>Security classification</source>
+        <translation>Niveau de confidentialité</translation>
+    </message>
+    <message>
+        <source>Self-timer mode</source>
+        <translation>Mode retardateur</translation>
+    </message>
+    <message>
+        <source>Sensing method</source>
+        <translation>Type de capteur</translation>
+    </message>
+    <message>
+        <source>Sensitivity type</source>
+        <translation>Type de sensibilité</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>Shutter speed value</source>
+        <translation>Vitesse d’obturation</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Logiciel</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Source exposure times of composite image</source>
+        <translation>Temps de pose des images sources du composite</translation>
+    </message>
+    <message>
+        <source>Source image number of composite image</source>
+        <translation>Nombre d’images sources du composite</translation>
+    </message>
+    <message>
+        <source>Spatial frequency response</source>
+        <translation>Réponse en fréquence spatiale</translation>
+    </message>
+    <message>
+        <source>Special instructions</source>
+        <translation>Instructions particulières</translation>
+    </message>
+    <message>
+        <source>Spectral sensitivity</source>
+        <translation>Sensibilité spectrale</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Speed reference</source>
+        <translation>Référence de vitesse</translation>
+    </message>
+    <message>
+        <source>Standard output sensitivity</source>
+        <translation>Sensibilité de sortie standard</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Statut</translation>
+    </message>
+    <message>
+        <source>Sub-location</source>
+        <translation>Lieu précis</translation>
+    </message>
+    <message>
+        <source>Subject area</source>
+        <translation>Zone du sujet</translation>
+    </message>
+    <message>
+        <source>Subject distance range</source>
+        <translation>Plage de distance du sujet</translation>
+    </message>
+    <message>
+        <source>Subject distance</source>
+        <translation>Distance du sujet</translation>
+    </message>
+    <message>
+        <source>Subject location</source>
+        <translation>Emplacement du sujet</translation>
+    </message>
+    <message>
+        <source>Subject reference</source>
+        <translation>Référence du sujet</translation>
+    </message>
+    <message>
+        <source>Fraction of the second</source>
+        <translation>Fraction de seconde</translation>
+    </message>
+    <message>
+        <source>Fraction of the second, digitized</source>
+        <translation>Fraction de seconde, numérisation</translation>
+    </message>
+    <message>
+        <source>Fraction of the second, original</source>
+        <translation>Fraction de seconde, prise de vue</translation>
+    </message>
+    <message>
+        <source>Supplemental category</source>
+        <translation>Catégorie supplémentaire</translation>
+    </message>
+    <message>
+        <source>TIFF/EP standard ID</source>
+        <translation>Identifiant de norme TIFF/EP</translation>
+    </message>
+    <message>
+        <source>Target printer</source>
+        <translation>Imprimante cible</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Time created</source>
+        <translation>Heure de création</translation>
+    </message>
+    <message>
+        <source>Time (UTC)</source>
+        <translation>Heure (UTC)</translation>
+    </message>
+    <message>
+        <source>Time zone offset</source>
+        <translation>Décalage horaire</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Direction of movement</source>
+        <translation>Direction du déplacement</translation>
+    </message>
+    <message>
+        <source>Direction of movement reference</source>
+        <translation>Référence de la direction du déplacement</translation>
+    </message>
+    <message>
+        <source>Transfer function</source>
+        <translation>Fonction de transfert</translation>
+    </message>
+    <message>
+        <source>Urgency</source>
+        <translation>Urgence</translation>
+    </message>
+    <message>
+        <source>User comment</source>
+        <translation>Commentaire utilisateur</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Water depth</source>
+        <translation>Profondeur d’eau</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>Balance des blancs</translation>
+    </message>
+    <message>
+        <source>White point</source>
+        <translation>Point blanc</translation>
+    </message>
+    <message>
+        <source>Writer or editor</source>
+        <translation>Rédacteur ou éditeur</translation>
+    </message>
+    <message>
+        <source>X density</source>
+        <translation>Densité X</translation>
+    </message>
+    <message>
+        <source>Author (Windows)</source>
+        <translation>Auteur (Windows)</translation>
+    </message>
+    <message>
+        <source>Comment (Windows)</source>
+        <translation>Commentaire (Windows)</translation>
+    </message>
+    <message>
+        <source>Keywords (Windows)</source>
+        <translation>Mots-clés (Windows)</translation>
+    </message>
+    <message>
+        <source>Subject (Windows)</source>
+        <translation>Objet (Windows)</translation>
+    </message>
+    <message>
+        <source>Title (Windows)</source>
+        <translation>Titre (Windows)</translation>
+    </message>
+    <message>
+        <source>X pixels per meter</source>
+        <translation>Pixels par mètre en X</translation>
+    </message>
+    <message>
+        <source>X position</source>
+        <translation>Position X</translation>
+    </message>
+    <message>
+        <source>X resolution</source>
+        <translation>Résolution X</translation>
+    </message>
+    <message>
+        <source>YCbCr coefficients</source>
+        <translation>Coefficients YCbCr</translation>
+    </message>
+    <message>
+        <source>YCbCr positioning</source>
+        <translation>Positionnement YCbCr</translation>
+    </message>
+    <message>
+        <source>YCbCr subsampling</source>
+        <translation>Sous-échantillonnage YCbCr</translation>
+    </message>
+    <message>
+        <source>Y density</source>
+        <translation>Densité Y</translation>
+    </message>
+    <message>
+        <source>Y pixels per meter</source>
+        <translation>Pixels par mètre en Y</translation>
+    </message>
+    <message>
+        <source>Y position</source>
+        <translation>Position Y</translation>
+    </message>
+    <message>
+        <source>Y resolution</source>
+        <translation>Résolution Y</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Micrologiciel</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>Lens info</source>
+        <translation>Informations sur l’objectif</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Contributor</source>
+        <translation>Contributeur</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>Couverture</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Créateur</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Identifiant</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Éditeur</translation>
+    </message>
+    <message>
+        <source>Relation</source>
+        <translation>Relation</translation>
+    </message>
+    <message>
+        <source>Rights</source>
+        <translation>Droits</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Author&apos;s position</source>
+        <translation>Fonction de l’auteur</translation>
+    </message>
+    <message>
+        <source>Caption writer</source>
+        <translation>Auteur de la légende</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Mode colorimétrique</translation>
+    </message>
+    <message>
+        <source>ICC profile</source>
+        <translation>Profil ICC</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instructions</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Région ou État</translation>
+    </message>
+    <message>
+        <source>Supplemental categories</source>
+        <translation>Catégories supplémentaires</translation>
+    </message>
+    <message>
+        <source>Transmission reference</source>
+        <translation>Référence de transmission</translation>
+    </message>
+    <message>
+        <source>sRGB intent</source>
+        <translation>Intention de rendu sRGB</translation>
+    </message>
+    <message>
+        <source>Create date</source>
+        <translation>Date de création</translation>
+    </message>
+    <message>
+        <source>Creator tool</source>
+        <translation>Outil de création</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Libellé</translation>
+    </message>
+    <message>
+        <source>Metadata date</source>
+        <translation>Date des métadonnées</translation>
+    </message>
+    <message>
+        <source>Modify date</source>
+        <translation>Date de modification</translation>
+    </message>
+    <message>
+        <source>Nickname</source>
+        <translation>Surnom</translation>
+    </message>
+    <message>
+        <source>Document ID</source>
+        <translation>Identifiant du document</translation>
+    </message>
+    <message>
+        <source>Instance ID</source>
+        <translation>Identifiant d’instance</translation>
+    </message>
+    <message>
+        <source>Original document ID</source>
+        <translation>Identifiant du document d’origine</translation>
+    </message>
+    <message>
+        <source>Rights marked</source>
+        <translation>Droits réservés</translation>
+    </message>
+    <message>
+        <source>Rights owner</source>
+        <translation>Détenteur des droits</translation>
+    </message>
+    <message>
+        <source>Rights usage terms</source>
+        <translation>Conditions d’utilisation</translation>
+    </message>
+    <message>
+        <source>Rights web statement</source>
+        <translation>Page web des droits</translation>
+    </message>
+    <message>
+        <source>Exif</source>
+        <translation>Exif</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>GPS</source>
+        <translation>GPS</translation>
+    </message>
+    <message>
+        <source>IPTC</source>
+        <translation>IPTC</translation>
+    </message>
+    <message>
+        <source>JFIF</source>
+        <translation>JFIF</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>TIFF</source>
+        <translation>TIFF</translation>
+    </message>
+    <message>
+        <source>XMP</source>
+        <translation>XMP</translation>
+    </message>
+</context>
+<context>
+    <name>recover-runs</name>
+    <message>
+        <source>A run was interrupted</source>
+        <translation>Un traitement a été interrompu</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
+    <name>recovered</name>
+    <message numerus="yes">
+        <source>%n items have their new names</source>
+        <translation>
+            <numerusform>%n élément a son nouveau nom</numerusform>
+            <numerusform>%n éléments ont leur nouveau nom</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were taken back</source>
+        <translation>
+            <numerusform>%n élément a été remis en place</numerusform>
+            <numerusform>%n éléments ont été remis en place</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the turn of %n items had not come</source>
+        <translation>
+            <numerusform>le tour de %n élément n’était pas venu</numerusform>
+            <numerusform>le tour de %n éléments n’était pas venu</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was interrupted and is ended now</source>
+        <translation>«&#x202f;%1&#x202f;» a été interrompu et est maintenant clos</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#x202f;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>rename-action</name>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message numerus="yes">
+        <source>Rename %n Folders</source>
+        <translation>
+            <numerusform>Renommer %n dossier</numerusform>
+            <numerusform>Renommer %n dossiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rename %n Files</source>
+        <translation>
+            <numerusform>Renommer %n fichier</numerusform>
+            <numerusform>Renommer %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders renamed</source>
+        <translation>
+            <numerusform>%n dossier renommé</numerusform>
+            <numerusform>%n dossiers renommés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files renamed</source>
+        <translation>
+            <numerusform>%n fichier renommé</numerusform>
+            <numerusform>%n fichiers renommés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders have their old names again</source>
+        <translation>
+            <numerusform>%n dossier a retrouvé son ancien nom</numerusform>
+            <numerusform>%n dossiers ont retrouvé leur ancien nom</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have their old names again</source>
+        <translation>
+            <numerusform>%n fichier a retrouvé son ancien nom</numerusform>
+            <numerusform>%n fichiers ont retrouvé leur ancien nom</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>rename-card</name>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Count by</source>
+        <translation>Pas</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Recommencer</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <source>In each folder</source>
+        <translation>Dans chaque dossier</translation>
+    </message>
+    <message>
+        <source>On each date taken</source>
+        <translation>À chaque date de prise de vue</translation>
+    </message>
+    <message>
+        <source>Case</source>
+        <translation>Casse</translation>
+    </message>
+    <message>
+        <source>lower case</source>
+        <translation>minuscules</translation>
+    </message>
+    <message>
+        <source>UPPER CASE</source>
+        <translation>MAJUSCULES</translation>
+    </message>
+    <message>
+        <source>Words With Capitals</source>
+        <translation>Initiales Majuscules</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>With</source>
+        <translation>Par</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Insérer</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Après</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Caractères</translation>
+    </message>
+    <message>
+        <source>from the start</source>
+        <translation>depuis le début</translation>
+    </message>
+    <message>
+        <source>from the end</source>
+        <translation>depuis la fin</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>Behind</source>
+        <translation>Après</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Depuis</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>la gauche</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>la droite</translation>
+    </message>
+    <message>
+        <source>From the</source>
+        <translation>À partir du</translation>
+    </message>
+    <message>
+        <source>Split at</source>
+        <translation>Couper à</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Morceaux</translation>
+    </message>
+    <message>
+        <source>Join by</source>
+        <translation>Réunir par</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>letters and digits</source>
+        <translation>lettres et chiffres</translation>
+    </message>
+    <message>
+        <source>letters only</source>
+        <translation>lettres seules</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>Accents</source>
+        <translation>Accents</translation>
+    </message>
+    <message>
+        <source>as one letter (NFC)</source>
+        <translation>unis à la lettre (NFC)</translation>
+    </message>
+    <message>
+        <source>apart (NFD)</source>
+        <translation>séparés (NFD)</translation>
+    </message>
+    <message>
+        <source>Names that</source>
+        <translation>Noms qui</translation>
+    </message>
+    <message>
+        <source>contain</source>
+        <translation>contiennent</translation>
+    </message>
+    <message>
+        <source>begin with</source>
+        <translation>commencent par</translation>
+    </message>
+    <message>
+        <source>end with</source>
+        <translation>finissent par</translation>
+    </message>
+    <message>
+        <source>all, or 2,1 or -1</source>
+        <translation>tous, ou 2,1 ou -1</translation>
+    </message>
+    <message>
+        <source>{taken} lake {counter:001}</source>
+        <translation>{taken} lac {counter:001}</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extension</translation>
+    </message>
+    <message>
+        <source>Name and extension</source>
+        <translation>Nom et extension</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names are too short for this and stay as they are.</source>
+        <translation>
+            <numerusform>%n nom est trop court pour cela et reste tel quel.</numerusform>
+            <numerusform>%n noms sont trop courts pour cela et restent tels quels.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>rename-pane</name>
+    <message>
+        <source>Holiday 2026</source>
+        <translation>Vacances 2026</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Dossiers</translation>
+    </message>
+    <message>
+        <source>Search steps</source>
+        <translation>Chercher une étape</translation>
+    </message>
+    <message>
+        <source>Search values</source>
+        <translation>Chercher une valeur</translation>
+    </message>
+    <message>
+        <source>A chain can have up to 30 steps.</source>
+        <translation>Une chaîne peut avoir jusqu’à 30 étapes.</translation>
+    </message>
+    <message>
+        <source>A step needs attention: names are not made before it is right.</source>
+        <translation>Une étape est à corriger&#x202f;: d’ici là, pas de nouveaux noms.</translation>
+    </message>
+</context>
+<context>
+    <name>rename-presets</name>
+    <message>
+        <source>Date and place</source>
+        <translation>Date et lieu</translation>
+    </message>
+    <message>
+        <source>place</source>
+        <translation>lieu</translation>
+    </message>
+    <message>
+        <source>Clean for the web</source>
+        <translation>Propre pour le web</translation>
+    </message>
+    <message>
+        <source>Lower-case extensions</source>
+        <translation>Extensions en minuscules</translation>
+    </message>
+    <message>
+        <source>Date in front</source>
+        <translation>Date devant</translation>
+    </message>
+    <message>
+        <source>Number behind</source>
+        <translation>Numéro derrière</translation>
+    </message>
+</context>
+<context>
+    <name>rename-step</name>
+    <message>
+        <source>files: %1</source>
+        <translation>fichiers&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>folders: %1</source>
+        <translation>dossiers&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>no date taken</source>
+        <translation>sans date de prise de vue</translation>
+    </message>
+    <message>
+        <source>no date of creation</source>
+        <translation>sans date de création</translation>
+    </message>
+    <message>
+        <source>no date of change</source>
+        <translation>sans date de modification</translation>
+    </message>
+    <message>
+        <source>no value for “%1”</source>
+        <translation>pas de valeur pour «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>undated</source>
+        <translation>sans date</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>%1: “%2”</source>
+        <translation>%1&#x202f;: «&#x202f;%2&#x202f;»</translation>
+    </message>
+    <message>
+        <source>a letter and its accent are parted</source>
+        <translation>une lettre et son accent sont séparés</translation>
+    </message>
+    <message>
+        <source>a character would be cut in two</source>
+        <translation>un caractère serait coupé en deux</translation>
+    </message>
+</context>
+<context>
+    <name>resize-action</name>
+    <message>
+        <source>Resize</source>
+        <translation>Redimensionner</translation>
+    </message>
+    <message numerus="yes">
+        <source>Resize %n Pictures</source>
+        <translation>
+            <numerusform>Redimensionner %n image</numerusform>
+            <numerusform>Redimensionner %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>resize-pane</name>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Grand côté</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Cadre</translation>
+    </message>
+    <message>
+        <source>Fill the box and cut</source>
+        <translation>Remplir le cadre et rogner</translation>
+    </message>
+    <message>
+        <source>Stretch to the box</source>
+        <translation>Étirer au cadre</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Grand côté</translation>
+    </message>
+    <message>
+        <source>Per cent</source>
+        <translation>Pour cent</translation>
+    </message>
+</context>
+<context>
+    <name>resize-presets</name>
+    <message>
+        <source>Web 1600</source>
+        <translation>Web 1600</translation>
+    </message>
+    <message>
+        <source>Web</source>
+        <translation>Web</translation>
+    </message>
+    <message>
+        <source>Mail 1024</source>
+        <translation>E-mail 1024</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Square 1080</source>
+        <translation>Carré 1080</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Carré</translation>
+    </message>
+    <message>
+        <source>Print 15 × 10 cm, 300 dpi</source>
+        <translation>Tirage 15 × 10 cm, 300 dpi</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Tirages</translation>
+    </message>
+    <message>
+        <source>Print 10 × 15 cm, 300 dpi</source>
+        <translation>Tirage 10 × 15 cm, 300 dpi</translation>
+    </message>
+    <message>
+        <source>Contact thumbnails</source>
+        <translation>Planche-contact</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Vignettes</translation>
+    </message>
+</context>
+<context>
+    <name>resize-step</name>
+    <message>
+        <source>Resized</source>
+        <translation>Redimensionnées</translation>
+    </message>
+    <message>
+        <source>width %1</source>
+        <translation>largeur %1</translation>
+    </message>
+    <message>
+        <source>height %1</source>
+        <translation>hauteur %1</translation>
+    </message>
+    <message>
+        <source>longest %1</source>
+        <translation>grand côté %1</translation>
+    </message>
+    <message>
+        <source>percent %1</source>
+        <translation>à %1 %</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>cadre %1</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 1 to %1.</source>
+        <translation>Saisissez un nombre entier de 1 à %1.</translation>
+    </message>
+    <message>
+        <source>Enter a number above 0, up to %1.</source>
+        <translation>Saisissez un nombre supérieur à 0, jusqu’à %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>it would be larger than %n pixels</source>
+        <translation>
+            <numerusform>l’image dépasserait %n pixel</numerusform>
+            <numerusform>l’image dépasserait %n pixels</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it would be less than one pixel in size</source>
+        <translation>l’image ferait moins d’un pixel</translation>
+    </message>
+</context>
+<context>
+    <name>risky-names</name>
+    <message>
+        <source>other systems keep the name %1 for themselves</source>
+        <translation>d’autres systèmes se réservent le nom %1</translation>
+    </message>
+    <message>
+        <source>other systems do not take %1</source>
+        <translation>d’autres systèmes n’acceptent pas %1</translation>
+    </message>
+    <message>
+        <source>it has a control character in it</source>
+        <translation>le nom contient un caractère de contrôle</translation>
+    </message>
+    <message>
+        <source>it begins with a blank</source>
+        <translation>le nom commence par un espace</translation>
+    </message>
+    <message>
+        <source>other systems take no blank or dot at the end</source>
+        <translation>d’autres systèmes n’acceptent ni espace ni point à la fin</translation>
+    </message>
+</context>
+<context>
+    <name>room</name>
+    <message>
+        <source>The files need %1, but only %2 are free for %3.</source>
+        <translation>Les fichiers demandent %1, mais il ne reste que %2 pour %3.</translation>
+    </message>
+    <message>
+        <source>%1 are free</source>
+        <translation>%1 libres</translation>
+    </message>
+    <message>
+        <source>%1 to be written</source>
+        <translation>%1 à écrire</translation>
+    </message>
+    <message>
+        <source>too little room (needs %1, %2 are free)</source>
+        <translation>pas assez de place (il faut %1, %2 libres)</translation>
+    </message>
+</context>
+<context>
+    <name>round-action</name>
+    <message>
+        <source>Round Corners</source>
+        <translation>Arrondir les coins</translation>
+    </message>
+    <message numerus="yes">
+        <source>Round %n Pictures</source>
+        <translation>
+            <numerusform>Arrondir %n image</numerusform>
+            <numerusform>Arrondir %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>round-pane</name>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cercle</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+</context>
+<context>
+    <name>round-presets</name>
+    <message>
+        <source>Soft corners</source>
+        <translation>Coins adoucis</translation>
+    </message>
+    <message>
+        <source>Round corners on white</source>
+        <translation>Coins ronds sur blanc</translation>
+    </message>
+    <message>
+        <source>Circle portrait</source>
+        <translation>Portrait en cercle</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+</context>
+<context>
+    <name>round-step</name>
+    <message>
+        <source>Rounded</source>
+        <translation>Arrondies</translation>
+    </message>
+    <message>
+        <source>corners of %1 px</source>
+        <translation>coins de %1 px</translation>
+    </message>
+    <message>
+        <source>circle</source>
+        <translation>cercle</translation>
+    </message>
+    <message>
+        <source>ellipse</source>
+        <translation>ellipse</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>sur %1</translation>
+    </message>
+    <message>
+        <source>band of %1 px</source>
+        <translation>bande de %1 px</translation>
+    </message>
+    <message>
+        <source>Enter a radius from 0 to %1.</source>
+        <translation>Saisissez un rayon de 0 à %1.</translation>
+    </message>
+    <message>
+        <source>Enter a width of the band from 0 to %1.</source>
+        <translation>Saisissez une largeur de bande de 0 à %1.</translation>
+    </message>
+    <message>
+        <source>The circle is cut from the square at the left.</source>
+        <translation>Le cercle est découpé dans le carré de gauche.</translation>
+    </message>
+    <message>
+        <source>The circle is cut from the square at the bottom.</source>
+        <translation>Le cercle est découpé dans le carré du bas.</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: what lies outside the shape becomes black.</source>
+        <translation>%1 n’a pas de transparence&#x202f;: ce qui est hors de la forme devient noir.</translation>
+    </message>
+    <message>
+        <source>the band would cover all of it</source>
+        <translation>la bande couvrirait toute l’image</translation>
+    </message>
+</context>
+<context>
+    <name>run-base</name>
+    <message>
+        <source>Planning…</source>
+        <translation>Préparation…</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>reste %1</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pause</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>no problems</source>
+        <translation>aucun problème</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Enregistrer le rapport</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Report saved as %1</source>
+        <translation>Rapport enregistré sous %1</translation>
+    </message>
+</context>
+<context>
+    <name>save-as</name>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>Choose a picture to save</source>
+        <translation>Choisissez une image à enregistrer</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>env. %1</translation>
+    </message>
+    <message>
+        <source>Saved %1, %2</source>
+        <translation>%1 enregistré, %2</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Non enregistré</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written.</source>
+        <translation>«&#x202f;%1&#x202f;» n’a pas pu être écrit.</translation>
+    </message>
+    <message>
+        <source>The folder may be locked, the disk full, or “%1” damaged.</source>
+        <translation>Le dossier est peut-être verrouillé, le disque plein ou «&#x202f;%1&#x202f;» endommagé.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>script::ScriptEngine</name>
+    <message>
+        <source>Cannot read %1: there is no such file</source>
+        <translation>Lecture de %1 impossible&#x202f;: ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>This is not a function of a script</source>
+        <translation>Ce n’est pas une fonction d’un script</translation>
+    </message>
+</context>
+<context>
+    <name>settings-watch</name>
+    <message>
+        <source>Settings cannot be written. What you change holds until you quit.</source>
+        <translation>Les réglages ne peuvent pas être enregistrés. Vos changements valent jusqu’à la fermeture.</translation>
+    </message>
+</context>
+<context>
+    <name>sort-action</name>
+    <message numerus="yes">
+        <source>Sort %n Files into Folders</source>
+        <translation>
+            <numerusform>Classer %n fichier en dossiers</numerusform>
+            <numerusform>Classer %n fichiers en dossiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy %n Files into Folders</source>
+        <translation>
+            <numerusform>Copier %n fichier dans des dossiers</numerusform>
+            <numerusform>Copier %n fichiers dans des dossiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Link %n Files into Folders</source>
+        <translation>
+            <numerusform>Lier %n fichier dans des dossiers</numerusform>
+            <numerusform>Lier %n fichiers dans des dossiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files sorted</source>
+        <translation>
+            <numerusform>%n fichier classé</numerusform>
+            <numerusform>%n fichiers classés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files copied</source>
+        <translation>
+            <numerusform>%n fichier copié</numerusform>
+            <numerusform>%n fichiers copiés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links made</source>
+        <translation>
+            <numerusform>%n lien créé</numerusform>
+            <numerusform>%n liens créés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sort into Folders</source>
+        <translation>Classer en dossiers</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files put back</source>
+        <translation>
+            <numerusform>%n fichier remis en place</numerusform>
+            <numerusform>%n fichiers remis en place</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>sort-pane</name>
+    <message>
+        <source>Folder of their own</source>
+        <translation>Dossier à part</translation>
+    </message>
+    <message>
+        <source>Use date created</source>
+        <translation>Date de création</translation>
+    </message>
+    <message>
+        <source>Use date changed</source>
+        <translation>Date de modification</translation>
+    </message>
+    <message>
+        <source>Leave where they are</source>
+        <translation>Laisser sur place</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Lier</translation>
+    </message>
+    <message>
+        <source>Number the file</source>
+        <translation>Numéroter le fichier</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>The originals stay where they are.</source>
+        <translation>Les originaux restent où ils sont.</translation>
+    </message>
+    <message>
+        <source>Links lead to the files where they are now.</source>
+        <translation>Les liens mènent aux fichiers là où ils sont.</translation>
+    </message>
+    <message>
+        <source>Own pattern</source>
+        <translation>Modèle personnel</translation>
+    </message>
+    <message>
+        <source>No more folders</source>
+        <translation>Pas d’autre dossier</translation>
+    </message>
+    <message>
+        <source>Folder of each picture</source>
+        <translation>Dossier de chaque image</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Choisir un dossier…</translation>
+    </message>
+    <message>
+        <source>Sort into</source>
+        <translation>Classer dans</translation>
+    </message>
+    <message>
+        <source>%1 has no date and stays.</source>
+        <translation>%1 n’a pas de date et reste.</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2</source>
+        <translation>%1 va dans %2</translation>
+    </message>
+</context>
+<context>
+    <name>sort-presets</name>
+    <message>
+        <source>By year and day taken</source>
+        <translation>Par année et jour de prise de vue</translation>
+    </message>
+    <message>
+        <source>By year and month taken</source>
+        <translation>Par année et mois de prise de vue</translation>
+    </message>
+    <message>
+        <source>By day changed</source>
+        <translation>Par jour de modification</translation>
+    </message>
+    <message>
+        <source>By camera and day taken</source>
+        <translation>Par appareil et jour de prise de vue</translation>
+    </message>
+    <message>
+        <source>By type</source>
+        <translation>Par format</translation>
+    </message>
+    <message>
+        <source>By orientation</source>
+        <translation>Par orientation</translation>
+    </message>
+    <message>
+        <source>By file size</source>
+        <translation>Par poids du fichier</translation>
+    </message>
+    <message>
+        <source>By start of name</source>
+        <translation>Par début du nom</translation>
+    </message>
+</context>
+<context>
+    <name>sort-step</name>
+    <message>
+        <source>Undated</source>
+        <translation>Sans date</translation>
+    </message>
+    <message>
+        <source>move into %1</source>
+        <translation>déplacer dans %1</translation>
+    </message>
+    <message>
+        <source>copy into %1</source>
+        <translation>copier dans %1</translation>
+    </message>
+    <message>
+        <source>link into %1</source>
+        <translation>lier dans %1</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 sous %2</translation>
+    </message>
+    <message>
+        <source>Choose a folder to sort into.</source>
+        <translation>Choisissez un dossier où classer.</translation>
+    </message>
+    <message>
+        <source>no date taken</source>
+        <translation>sans date</translation>
+    </message>
+    <message>
+        <source>by date created</source>
+        <translation>date de création</translation>
+    </message>
+    <message>
+        <source>by date changed</source>
+        <translation>date de modification</translation>
+    </message>
+    <message>
+        <source>no date taken: stays</source>
+        <translation>sans date&#x202f;: reste</translation>
+    </message>
+    <message>
+        <source>a file has the name of the folder: %1</source>
+        <translation>un fichier porte le nom du dossier&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>The file states no date on which it was taken.</source>
+        <translation>Le fichier n’indique pas de date de prise de vue.</translation>
+    </message>
+    <message>
+        <source>It lies in such a folder already.</source>
+        <translation>Il est déjà dans un tel dossier.</translation>
+    </message>
+</context>
+<context>
+    <name>sort-tree</name>
+    <message>
+        <source>No file will go anywhere.</source>
+        <translation>Aucun fichier n’ira dans un dossier.</translation>
+    </message>
+    <message>
+        <source>%1 into %2</source>
+        <translation>%1 dans %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n fichier</numerusform>
+            <numerusform>%n fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n dossier</numerusform>
+            <numerusform>%n dossiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no new folder</source>
+        <translation>aucun nouveau dossier</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new folders</source>
+        <translation>
+            <numerusform>%n nouveau dossier</numerusform>
+            <numerusform>%n nouveaux dossiers</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>sorting</name>
+    <message>
+        <source>Year taken</source>
+        <translation>Année de prise de vue</translation>
+    </message>
+    <message>
+        <source>Month taken</source>
+        <translation>Mois de prise de vue</translation>
+    </message>
+    <message>
+        <source>Day taken</source>
+        <translation>Jour de prise de vue</translation>
+    </message>
+    <message>
+        <source>Year created</source>
+        <translation>Année de création</translation>
+    </message>
+    <message>
+        <source>Month created</source>
+        <translation>Mois de création</translation>
+    </message>
+    <message>
+        <source>Day created</source>
+        <translation>Jour de création</translation>
+    </message>
+    <message>
+        <source>Year changed</source>
+        <translation>Année de modification</translation>
+    </message>
+    <message>
+        <source>Month changed</source>
+        <translation>Mois de modification</translation>
+    </message>
+    <message>
+        <source>Day changed</source>
+        <translation>Jour de modification</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Format de fichier</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Poids du fichier</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Appareil photo</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>Name up to a number</source>
+        <translation>Nom jusqu’à un chiffre</translation>
+    </message>
+    <message>
+        <source>First letter</source>
+        <translation>Première lettre</translation>
+    </message>
+    <message>
+        <source>First 3 letters</source>
+        <translation>3 premières lettres</translation>
+    </message>
+    <message>
+        <source>Choose a rule, or write a pattern of folders.</source>
+        <translation>Choisissez une règle, ou écrivez un modèle de dossiers.</translation>
+    </message>
+    <message>
+        <source>A folder cannot be called “.” or “..”.</source>
+        <translation>Un dossier ne peut pas s’appeler «&#x202f;.&#x202f;» ou «&#x202f;..&#x202f;».</translation>
+    </message>
+    <message>
+        <source>A folder cannot have a name of blanks only.</source>
+        <translation>Le nom d’un dossier ne peut pas être fait d’espaces seulement.</translation>
+    </message>
+    <message>
+        <source>The name of a folder is too long.</source>
+        <translation>Le nom d’un dossier est trop long.</translation>
+    </message>
+    <message>
+        <source>A pattern cannot hold control characters.</source>
+        <translation>Un modèle ne peut pas contenir de caractères de contrôle.</translation>
+    </message>
+    <message>
+        <source>Enter a name for the folder of pictures without a date.</source>
+        <translation>Saisissez un nom pour le dossier des images sans date.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a folder.</source>
+        <translation>«&#x202f;%1&#x202f;» ne peut pas être le nom d’un dossier.</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Sans date</translation>
+    </message>
+    <message>
+        <source>Unknown camera</source>
+        <translation>Appareil inconnu</translation>
+    </message>
+    <message>
+        <source>Unknown lens</source>
+        <translation>Objectif inconnu</translation>
+    </message>
+    <message>
+        <source>Unknown size</source>
+        <translation>Taille inconnue</translation>
+    </message>
+    <message>
+        <source>Unknown type</source>
+        <translation>Format inconnu</translation>
+    </message>
+    <message>
+        <source>Unknown orientation</source>
+        <translation>Orientation inconnue</translation>
+    </message>
+    <message>
+        <source>Without extension</source>
+        <translation>Sans extension</translation>
+    </message>
+    <message>
+        <source>Other names</source>
+        <translation>Autres noms</translation>
+    </message>
+    <message>
+        <source>Other folders</source>
+        <translation>Autres dossiers</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autres</translation>
+    </message>
+</context>
+<context>
+    <name>status-bar</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+</context>
+<context>
+    <name>step-words</name>
+    <message>
+        <source>New text</source>
+        <translation>Nouveau texte</translation>
+    </message>
+    <message>
+        <source>Text with dates, counters and other values</source>
+        <translation>Texte avec dates, compteur et autres valeurs</translation>
+    </message>
+    <message>
+        <source>token pattern write template</source>
+        <translation>variable modèle écrire</translation>
+    </message>
+    <message>
+        <source>Change case</source>
+        <translation>Changer la casse</translation>
+    </message>
+    <message>
+        <source>lower case, UPPER CASE, Words</source>
+        <translation>minuscules, MAJUSCULES, Initiales</translation>
+    </message>
+    <message>
+        <source>capital small letters</source>
+        <translation>capitales majuscules minuscules lettres</translation>
+    </message>
+    <message>
+        <source>Replace text</source>
+        <translation>Remplacer un texte</translation>
+    </message>
+    <message>
+        <source>One text by another, wherever it occurs</source>
+        <translation>Un texte par un autre, partout où il figure</translation>
+    </message>
+    <message>
+        <source>search find substitute delete</source>
+        <translation>chercher trouver substituer supprimer</translation>
+    </message>
+    <message>
+        <source>Insert text</source>
+        <translation>Insérer un texte</translation>
+    </message>
+    <message>
+        <source>At a place counted from the start or the end</source>
+        <translation>À une place comptée depuis le début ou la fin</translation>
+    </message>
+    <message>
+        <source>add position</source>
+        <translation>ajouter position</translation>
+    </message>
+    <message>
+        <source>Add before and after</source>
+        <translation>Ajouter avant et après</translation>
+    </message>
+    <message>
+        <source>Text in front of the name and behind it</source>
+        <translation>Du texte devant le nom et derrière</translation>
+    </message>
+    <message>
+        <source>prefix suffix append join concatenate</source>
+        <translation>préfixe suffixe joindre concaténer</translation>
+    </message>
+    <message>
+        <source>Strip characters</source>
+        <translation>Ôter des caractères</translation>
+    </message>
+    <message>
+        <source>A number of them from the left or the right</source>
+        <translation>Un certain nombre, à gauche ou à droite</translation>
+    </message>
+    <message>
+        <source>remove cut trim shorten</source>
+        <translation>enlever supprimer couper raccourcir</translation>
+    </message>
+    <message>
+        <source>Keep a section</source>
+        <translation>Garder un extrait</translation>
+    </message>
+    <message>
+        <source>Only the characters at certain places</source>
+        <translation>Seulement les caractères à certaines places</translation>
+    </message>
+    <message>
+        <source>part substring range middle</source>
+        <translation>partie section intervalle milieu</translation>
+    </message>
+    <message>
+        <source>Split and join</source>
+        <translation>Couper et réunir</translation>
+    </message>
+    <message>
+        <source>Take pieces between separators, in any order</source>
+        <translation>Prendre des morceaux entre séparateurs, dans l’ordre voulu</translation>
+    </message>
+    <message>
+        <source>pieces rearrange swap</source>
+        <translation>morceaux réordonner échanger diviser joindre</translation>
+    </message>
+    <message>
+        <source>Remove signs</source>
+        <translation>Ôter les signes</translation>
+    </message>
+    <message>
+        <source>Keep letters, or letters and digits</source>
+        <translation>Garder les lettres, ou les lettres et les chiffres</translation>
+    </message>
+    <message>
+        <source>non-letters clean punctuation digits</source>
+        <translation>nettoyer ponctuation chiffres enlever supprimer</translation>
+    </message>
+    <message>
+        <source>Remove spaces</source>
+        <translation>Ôter les espaces</translation>
+    </message>
+    <message>
+        <source>All blanks, also between words</source>
+        <translation>Tous les espaces, même entre les mots</translation>
+    </message>
+    <message>
+        <source>blanks whitespace</source>
+        <translation>blancs espaces enlever supprimer</translation>
+    </message>
+    <message>
+        <source>Fold accents</source>
+        <translation>Ôter les accents</translation>
+    </message>
+    <message>
+        <source>é becomes e</source>
+        <translation>é devient e</translation>
+    </message>
+    <message>
+        <source>ascii umlaut diacritics plain</source>
+        <translation>ascii tréma diacritiques simple enlever supprimer</translation>
+    </message>
+    <message>
+        <source>One writing of accents</source>
+        <translation>Unifier les accents</translation>
+    </message>
+    <message>
+        <source>For names that came from another system</source>
+        <translation>Pour les noms venus d’un autre système</translation>
+    </message>
+    <message>
+        <source>unicode utf-8 normalise nfc nfd repair</source>
+        <translation>unicode utf-8 normaliser nfc nfd réparer</translation>
+    </message>
+    <message>
+        <source>Only some names</source>
+        <translation>Certains noms seulement</translation>
+    </message>
+    <message>
+        <source>The steps below work on names that fit</source>
+        <translation>Les étapes suivantes ne touchent que les noms qui conviennent</translation>
+    </message>
+    <message>
+        <source>filter condition contains begins ends if</source>
+        <translation>filtre condition contient commence finit si</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Compteur</translation>
+    </message>
+    <message>
+        <source>001, 002, 003 behind the name</source>
+        <translation>001, 002, 003 derrière le nom</translation>
+    </message>
+    <message>
+        <source>number sequence</source>
+        <translation>numéro suite séquence</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Date de prise de vue</translation>
+    </message>
+    <message>
+        <source>In front of the name</source>
+        <translation>Devant le nom</translation>
+    </message>
+    <message>
+        <source>exif time shot</source>
+        <translation>exif heure photo</translation>
+    </message>
+    <message>
+        <source>Date changed or created</source>
+        <translation>Date de modification ou de création</translation>
+    </message>
+    <message>
+        <source>modified file time</source>
+        <translation>modifié fichier heure</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Appareil photo</translation>
+    </message>
+    <message>
+        <source>Behind the name</source>
+        <translation>Derrière le nom</translation>
+    </message>
+    <message>
+        <source>model lens</source>
+        <translation>modèle objectif</translation>
+    </message>
+    <message>
+        <source>Size in pixels</source>
+        <translation>Taille en pixels</translation>
+    </message>
+    <message>
+        <source>width height resolution</source>
+        <translation>largeur hauteur résolution dimensions</translation>
+    </message>
+    <message>
+        <source>Name of the folder</source>
+        <translation>Nom du dossier</translation>
+    </message>
+    <message>
+        <source>directory parent</source>
+        <translation>répertoire parent</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>nom</translation>
+    </message>
+    <message>
+        <source>extension</source>
+        <translation>extension</translation>
+    </message>
+    <message>
+        <source>name and extension</source>
+        <translation>nom et extension</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>«&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>%1 to lower case</source>
+        <translation>%1 en minuscules</translation>
+    </message>
+    <message>
+        <source>%1 to UPPER CASE</source>
+        <translation>%1 en MAJUSCULES</translation>
+    </message>
+    <message>
+        <source>%1 to Words With Capitals</source>
+        <translation>%1 en Initiales Majuscules</translation>
+    </message>
+    <message>
+        <source>%1 becomes %2</source>
+        <translation>%1 devient %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 from the end</source>
+        <translation>%1, à %2 de la fin</translation>
+    </message>
+    <message>
+        <source>%1, %2 from the start</source>
+        <translation>%1, à %2 du début</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 behind</source>
+        <translation>%1 avant, %2 après</translation>
+    </message>
+    <message>
+        <source>%1 from the left</source>
+        <translation>%1 depuis la gauche</translation>
+    </message>
+    <message>
+        <source>%1 from the right</source>
+        <translation>%1 depuis la droite</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters from the %1.</source>
+        <translation>
+            <numerusform>%n caractère à partir du %1.</numerusform>
+            <numerusform>%n caractères à partir du %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>at %1, joined by %2</source>
+        <translation>à %1, réunis par %2</translation>
+    </message>
+    <message>
+        <source>at %1, pieces %3, joined by %2</source>
+        <translation>à %1, morceaux %3, réunis par %2</translation>
+    </message>
+    <message>
+        <source>only letters stay</source>
+        <translation>seules les lettres restent</translation>
+    </message>
+    <message>
+        <source>only letters and digits stay</source>
+        <translation>seuls les lettres et les chiffres restent</translation>
+    </message>
+    <message>
+        <source>no blanks are left</source>
+        <translation>il ne reste aucun espace</translation>
+    </message>
+    <message>
+        <source>é becomes e, others %1</source>
+        <translation>é devient e, autres %1</translation>
+    </message>
+    <message>
+        <source>accents apart (NFD)</source>
+        <translation>accents séparés (NFD)</translation>
+    </message>
+    <message>
+        <source>accents and letters as one (NFC)</source>
+        <translation>accents unis aux lettres (NFC)</translation>
+    </message>
+    <message>
+        <source>that contain %1</source>
+        <translation>qui contiennent %1</translation>
+    </message>
+    <message>
+        <source>that begin with %1</source>
+        <translation>qui commencent par %1</translation>
+    </message>
+    <message>
+        <source>that end with %1</source>
+        <translation>qui finissent par %1</translation>
+    </message>
+</context>
+<context>
+    <name>targets</name>
+    <message>
+        <source>Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black and 16 bits become 8. The colour profile is kept.</source>
+        <translation>Fichiers légers, pour montrer. Les détails fins se perdent, d’autant plus que la qualité est basse ; EXIF, IPTC et XMP ne sont pas conservés, les parties transparentes deviennent noires, 16 bits deviennent 8. Le profil colorimétrique est conservé.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, colour profile, EXIF, IPTC and XMP are kept.</source>
+        <translation>Rien n’est perdu&#x202f;: pixels, transparence, 16 bits, profil colorimétrique, EXIF, IPTC et XMP sont conservés.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile, EXIF, IPTC and XMP are kept. Large files.</source>
+        <translation>Rien n’est perdu&#x202f;: pixels, transparence, 16 bits, CMJN, profil colorimétrique, EXIF, IPTC et XMP sont conservés. Fichiers lourds.</translation>
+    </message>
+    <message>
+        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept.</source>
+        <translation>Une page à la taille de l’image. Un JPEG y entre tel quel&#x202f;; les autres, sans perte. EXIF, IPTC et XMP ne sont pas conservés.</translation>
+    </message>
+    <message>
+        <source>Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC, XMP and the resolution are not. Few programs show such files.</source>
+        <translation>Perte invisible. Transparence et 16 bits sont conservés ; EXIF, IPTC, XMP et la résolution ne le sont pas. Peu de programmes affichent ces fichiers.</translation>
+    </message>
+    <message>
+        <source>256 colours at most, and a pixel is either transparent or not. EXIF, IPTC, XMP and the resolution are not kept; colours become sRGB.</source>
+        <translation>256 couleurs au plus, et un pixel est transparent ou ne l’est pas. EXIF, IPTC, XMP et la résolution ne sont pas conservés ; les couleurs passent en sRGB.</translation>
+    </message>
+    <message>
+        <source>Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black, and 16 bits become 8.</source>
+        <translation>Les pixels seulement, en fichiers lourds. EXIF, IPTC et XMP ne sont pas conservés, les couleurs passent en sRGB, les parties transparentes deviennent noires, 16 bits deviennent 8.</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP are not kept</source>
+        <translation>Sans EXIF, IPTC ni XMP</translation>
+    </message>
+    <message>
+        <source>256 colours</source>
+        <translation>256 couleurs</translation>
+    </message>
+    <message>
+        <source>colours become sRGB</source>
+        <translation>les couleurs passent en sRGB</translation>
+    </message>
+    <message>
+        <source>the resolution is not kept</source>
+        <translation>la résolution n’est pas conservée</translation>
+    </message>
+    <message>
+        <source>transparent parts become black</source>
+        <translation>transparence en noir</translation>
+    </message>
+    <message>
+        <source>The preview that the camera put into the raw file is converted, not the raw data.</source>
+        <translation>L’aperçu que l’appareil a mis dans le fichier RAW est converti, non les données brutes.</translation>
+    </message>
+    <message>
+        <source>The first page is drawn at 72 pixels per inch.</source>
+        <translation>La première page est rendue à 72 pixels par pouce.</translation>
+    </message>
+    <message>
+        <source>Of an animation the first picture is converted.</source>
+        <translation>D’une animation, la première image est convertie.</translation>
+    </message>
+    <message>
+        <source>Of several pages the first is converted.</source>
+        <translation>De plusieurs pages, la première est convertie.</translation>
+    </message>
+    <message>
+        <source>Layers become one picture.</source>
+        <translation>Les calques sont réunis en une image.</translation>
+    </message>
+    <message>
+        <source>It is %1 already and is written anew.</source>
+        <translation>C’est déjà du %1&#x202f;; le fichier est écrit à nouveau.</translation>
+    </message>
+</context>
+<context>
+    <name>tokens</name>
+    <message>
+        <source>Name without extension</source>
+        <translation>Nom sans extension</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extension</translation>
+    </message>
+    <message>
+        <source>Date taken, or else changed</source>
+        <translation>Date de prise de vue, sinon de modification</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Date de prise de vue</translation>
+    </message>
+    <message>
+        <source>Date created</source>
+        <translation>Date de création</translation>
+    </message>
+    <message>
+        <source>Date changed</source>
+        <translation>Date de modification</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Compteur</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Appareil photo</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Largeur en pixels</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Hauteur en pixels</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Poids du fichier</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Format de fichier</translation>
+    </message>
+    <message>
+        <source>Landscape, portrait or square</source>
+        <translation>Paysage, portrait ou carré</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Name of its folder</source>
+        <translation>Nom de son dossier</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Vacances</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une forme de date&#x202f;: écrivez-la avec yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+    </message>
+    <message>
+        <source>“%1” is no first number of a counter</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un premier numéro de compteur</translation>
+    </message>
+    <message>
+        <source>“%1” takes no part of a name: write a number of letters, “word”, or “~” and words with commas between them</source>
+        <translation>«&#x202f;%1&#x202f;» ne prend aucune partie d’un nom&#x202f;: écrivez un nombre de lettres, «&#x202f;word&#x202f;», ou «&#x202f;~&#x202f;» et des mots séparés par des virgules</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a size: write “class” or “MB”</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une forme de poids&#x202f;: écrivez «&#x202f;class&#x202f;» ou «&#x202f;MB&#x202f;»</translation>
+    </message>
+    <message>
+        <source>{%1} has no forms: leave out what stands behind its colon</source>
+        <translation>{%1} n’a pas de variantes&#x202f;: supprimez ce qui suit les deux-points</translation>
+    </message>
+    <message>
+        <source>There is no token between the braces; a brace of its own is written {{</source>
+        <translation>Il n’y a pas de variable entre les accolades&#x202f;; une accolade seule s’écrit {{</translation>
+    </message>
+    <message>
+        <source>There is no token {%1}</source>
+        <translation>La variable {%1} n’existe pas</translation>
+    </message>
+    <message>
+        <source>A brace is not closed; a brace of its own is written {{</source>
+        <translation>Une accolade n’est pas fermée&#x202f;; une accolade seule s’écrit {{</translation>
+    </message>
+    <message>
+        <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
+        <translation>janv févr mars avr mai juin juil août sept oct nov déc</translation>
+    </message>
+    <message>
+        <source>Sun Mon Tue Wed Thu Fri Sat</source>
+        <translation>dim lun mar mer jeu ven sam</translation>
+    </message>
+    <message>
+        <source>Under 1 MB</source>
+        <translation>Moins de 1 Mo</translation>
+    </message>
+    <message>
+        <source>1 to 5 MB</source>
+        <translation>1 à 5 Mo</translation>
+    </message>
+    <message>
+        <source>5 to 20 MB</source>
+        <translation>5 à 20 Mo</translation>
+    </message>
+    <message>
+        <source>20 MB and more</source>
+        <translation>20 Mo et plus</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Carré</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+</context>
+<context>
+    <name>turn-action</name>
+    <message>
+        <source>Rotate &amp; Flip</source>
+        <translation>Rotation et miroir</translation>
+    </message>
+    <message numerus="yes">
+        <source>Turn %n Pictures</source>
+        <translation>
+            <numerusform>Pivoter %n image</numerusform>
+            <numerusform>Pivoter %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>turn-pane</name>
+    <message>
+        <source>not turned</source>
+        <translation>sans rotation</translation>
+    </message>
+    <message>
+        <source>↺ to the left</source>
+        <translation>↺ vers la gauche</translation>
+    </message>
+    <message>
+        <source>↻ to the right</source>
+        <translation>↻ vers la droite</translation>
+    </message>
+</context>
+<context>
+    <name>turn-presets</name>
+    <message>
+        <source>A quarter left</source>
+        <translation>Quart de tour à gauche</translation>
+    </message>
+    <message>
+        <source>A quarter right</source>
+        <translation>Quart de tour à droite</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>Tête en bas</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>En miroir</translation>
+    </message>
+</context>
+<context>
+    <name>turn-step</name>
+    <message>
+        <source>Turned</source>
+        <translation>Pivotées</translation>
+    </message>
+    <message>
+        <source>turn %1°</source>
+        <translation>pivoter de %1°</translation>
+    </message>
+    <message>
+        <source>flip horizontally</source>
+        <translation>miroir horizontal</translation>
+    </message>
+    <message>
+        <source>flip vertically</source>
+        <translation>miroir vertical</translation>
+    </message>
+    <message>
+        <source>Enter an angle from -180 to 180 degrees.</source>
+        <translation>Saisissez un angle de -180 à 180 degrés.</translation>
+    </message>
+    <message>
+        <source>Choose an angle or a flip.</source>
+        <translation>Choisissez un angle ou un miroir.</translation>
+    </message>
+    <message>
+        <source>Turned without loss.</source>
+        <translation>Rotation sans perte.</translation>
+    </message>
+    <message>
+        <source>The canvas grows so that the corners fit.</source>
+        <translation>La surface s’agrandit pour que les coins tiennent.</translation>
+    </message>
+    <message>
+        <source>The canvas grows so that the corners fit; what is beside the picture becomes black.</source>
+        <translation>La surface s’agrandit pour que les coins tiennent&#x202f;; ce qui entoure l’image devient noir.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written; convert it first</source>
+        <translation>%1 ne peut pas être écrit&#x202f;; convertissez d’abord l’image</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>image illisible</translation>
+    </message>
+</context>
+<context>
+    <name>undo-run</name>
+    <message>
+        <source>Undo This Run</source>
+        <translation>Annuler ce traitement</translation>
+    </message>
+    <message>
+        <source>This run wrote new files and moved none, so that there is nothing to take back: its results can be deleted.</source>
+        <translation>Ce traitement a écrit de nouveaux fichiers et n’en a déplacé aucun&#x202f;: il n’y a rien à remettre en place, et ses résultats peuvent être supprimés.</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files can be taken back.</source>
+        <translation>
+            <numerusform>%n fichier peut être remis en place.</numerusform>
+            <numerusform>%n fichiers peuvent être remis en place.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Revert This Run</source>
+        <translation>Restaurer tout</translation>
+    </message>
+    <message>
+        <source>No comment was changed.</source>
+        <translation>Aucun commentaire n’a été modifié.</translation>
+    </message>
+    <message>
+        <source>All its comments were reverted already.</source>
+        <translation>Tous ses commentaires ont déjà été restaurés.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments can be reverted.</source>
+        <translation>
+            <numerusform>%n commentaire peut être restauré.</numerusform>
+            <numerusform>%n commentaires peuvent être restaurés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were reverted before.</source>
+        <translation>
+            <numerusform>%n a déjà été restauré.</numerusform>
+            <numerusform>%n ont déjà été restaurés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>window</name>
+    <message>
+        <source>Nothing of the picture is left</source>
+        <translation>Il ne reste rien de l’image</translation>
+    </message>
+    <message>
+        <source>The pattern cannot be read</source>
+        <translation>Le motif ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+</context>
+<context>
+    <name>window::ComparePreview</name>
+    <message>
+        <source>Not a readable picture</source>
+        <translation>Image illisible</translation>
+    </message>
+    <message>
+        <source>This picture cannot be shown</source>
+        <translation>Cette image ne peut pas être affichée</translation>
+    </message>
+</context>
+<context>
+    <name>window::CropFrameEditor</name>
+    <message>
+        <source>Crop frame</source>
+        <translation>Cadre de recadrage</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels, %3 from the left, %4 from the top</source>
+        <translation>%1 sur %2 pixels, %3 depuis la gauche, %4 depuis le haut</translation>
+    </message>
+</context>
+<context>
+    <name>window::FolderTree</name>
+    <message>
+        <source>new</source>
+        <translation>nouveau</translation>
+    </message>
+    <message>
+        <source>exists</source>
+        <translation>existe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files</source>
+        <translation>
+            <numerusform>%Ln fichier</numerusform>
+            <numerusform>%Ln fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, new folder, %2</source>
+        <translation>%1, nouveau dossier, %2</translation>
+    </message>
+    <message>
+        <source>%1, folder that exists, %2</source>
+        <translation>%1, dossier existant, %2</translation>
+    </message>
+</context>
+<context>
+    <name>window::ManualView</name>
+    <message>
+        <source>This page of the manual is missing.</source>
+        <translation>Cette page du manuel est absente.</translation>
+    </message>
+</context>
+<context>
+    <name>window::PictureModel</name>
+    <message>
+        <source>Thumbnail of %1</source>
+        <translation>Vignette de %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Poids</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nom final</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Statut</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+</context>
+<context>
+    <name>window::PropertyTree</name>
+    <message>
+        <source>Property</source>
+        <translation>Propriété</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy Place in Degrees</source>
+        <translation>Copier le lieu en degrés</translation>
+    </message>
+    <message>
+        <source>Copy Place in Minutes</source>
+        <translation>Copier le lieu en minutes</translation>
+    </message>
+</context>
+<context>
+    <name>window::RunRows</name>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln entrée</numerusform>
+            <numerusform>%Ln entrées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln problems</source>
+        <translation>
+            <numerusform>%Ln problème</numerusform>
+            <numerusform>%Ln problèmes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::SaveDialog</name>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Save in:</source>
+        <translation>Enregistrer dans&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Ta&amp;gs:</source>
+        <translation>Étiq&amp;uettes&#x202f;:</translation>
+    </message>
+    <message>
+        <source>separated by commas</source>
+        <translation>séparées par des virgules</translation>
+    </message>
+    <message>
+        <source>Tags, separated by commas</source>
+        <translation>Étiquettes, séparées par des virgules</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Replace it?</source>
+        <translation>«&#x202f;%1&#x202f;» existe déjà. Le remplacer&#x202f;?</translation>
+    </message>
+</context>
+<context>
+    <name>window::SlotRows</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#x202f;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::StartUp</name>
+    <message>
+        <source>Quorlin cannot start: a script of its windows failed.</source>
+        <translation>Quorlin ne peut pas démarrer&#x202f;: un script de ses fenêtres a échoué.</translation>
+    </message>
+</context>
+<context>
+    <name>wording</name>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>Non pris en charge</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Ignoré</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#x202f;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n problème</numerusform>
+            <numerusform>%n problèmes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>write-plan</name>
+    <message>
+        <source>name is taken: will ask</source>
+        <translation>nom déjà pris&#x202f;: question à venir</translation>
+    </message>
+    <message>
+        <source>replaces original</source>
+        <translation>remplace l’original</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <translation>remplace %1</translation>
+    </message>
+    <message>
+        <source>would be written</source>
+        <translation>serait écrit</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prêt</translation>
+    </message>
+</context>
+<context>
+    <name>write-run</name>
+    <message>
+        <source>Name taken</source>
+        <translation>Nom déjà pris</translation>
+    </message>
+    <message>
+        <source>There is a file “%1” in the folder already.</source>
+        <translation>Il y a déjà un fichier «&#x202f;%1&#x202f;» dans le dossier.</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numéroter</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Cancel Run</source>
+        <translation>Tout arrêter</translation>
+    </message>
+    <message>
+        <source>Do this for all</source>
+        <translation>Faire de même pour tous</translation>
+    </message>
+    <message>
+        <source>Replace originals</source>
+        <translation>Remplacer les originaux</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n originals will be replaced by their results.</source>
+        <translation>
+            <numerusform>%n original sera remplacé par son résultat.</numerusform>
+            <numerusform>%n originaux seront remplacés par leurs résultats.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What is in them now cannot be brought back.</source>
+        <translation>Leur contenu actuel ne pourra pas être récupéré.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Cancelled before the first picture. Nothing was written.</source>
+        <translation>Arrêté avant la première image. Rien n’a été écrit.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Arrêté. Rien n’a été écrit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Simulation: %n pictures would be written</source>
+        <translation>
+            <numerusform>Simulation&#x202f;: %n image serait écrite</numerusform>
+            <numerusform>Simulation&#x202f;: %n images seraient écrites</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>exclues&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>rien n’a été écrit</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>en attente</translation>
+    </message>
+    <message>
+        <source>working…</source>
+        <translation>en cours…</translation>
+    </message>
+    <message>
+        <source>cancelled before its turn</source>
+        <translation>arrêté avant son tour</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures done</source>
+        <translation>
+            <numerusform>%n image traitée</numerusform>
+            <numerusform>%n images traitées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>échecs&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 not supported</source>
+        <translation>non prises en charge&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>ignorées&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 écrits</translation>
+    </message>
+    <message>
+        <source>Cancelled:</source>
+        <translation>Arrêté&#x202f;:</translation>
+    </message>
+</context>
+<context>
+    <name>writes</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simuler&#x202f;: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n Originals</source>
+        <translation>
+            <numerusform>remplacer %n original</numerusform>
+            <numerusform>remplacer %n originaux</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Originals are replaced by their results.</source>
+        <translation>Les originaux sont remplacés par leurs résultats.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are replaced.</source>
+        <translation>
+            <numerusform>%n fichier est remplacé.</numerusform>
+            <numerusform>%n fichiers sont remplacés.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>written</name>
+    <message>
+        <source>Choose a folder to save to.</source>
+        <translation>Choisissez un dossier de destination.</translation>
+    </message>
+    <message>
+        <source>“%1” is no name for a folder beside the originals.</source>
+        <translation>« %1 » n’est pas un nom pour un dossier à côté des originaux.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written, choose another file type</source>
+        <translation>%1 ne peut pas être écrit, choisissez un autre format</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>image illisible</translation>
+    </message>
+    <message>
+        <source>this type cannot be written</source>
+        <translation>ce format ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>the file could not be written</source>
+        <translation>le fichier n’a pas pu être écrit</translation>
+    </message>
+    <message>
+        <source>the result is %1 instead of %2</source>
+        <translation>le résultat fait %1 au lieu de %2</translation>
+    </message>
+    <message>
+        <source>Metadata and colour profile are not kept</source>
+        <translation>Sans métadonnées ni profil colorimétrique</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP are not kept</source>
+        <translation>Sans EXIF, IPTC ni XMP</translation>
+    </message>
+    <message>
+        <source>transparent parts become black</source>
+        <translation>transparence en noir</translation>
+    </message>
+</context>
+</TS>

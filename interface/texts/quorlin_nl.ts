@@ -1,0 +1,7628 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl_NL" sourcelanguage="en">
+<context>
+    <name>About</name>
+    <message>
+        <source>About Quorlin</source>
+        <translation>Over Quorlin</translation>
+    </message>
+    <message>
+        <source>One deed for a whole folder of pictures: it shows what it will do, does it, checks what it did, and can say so in a log.</source>
+        <translation>Eén bewerking voor een hele map foto’s: Quorlin toont wat het gaat doen, doet het, controleert het resultaat en houdt er een logboek van bij.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. It comes without any warranty.</source>
+        <translation>Vrije software onder de GNU General Public License, versie 3 of later. Zonder enige garantie.</translation>
+    </message>
+    <message>
+        <source>It stands on these libraries</source>
+        <translation>Gebruikte bibliotheken</translation>
+    </message>
+    <message>
+        <source>Libraries with their versions and licences</source>
+        <translation>Bibliotheken met hun versies en licenties</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>BackgroundPane</name>
+    <message>
+        <source>Background</source>
+        <translation>Achtergrond</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Kleur</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Patroon</translation>
+    </message>
+    <message>
+        <source>What lies under transparent parts</source>
+        <translation>Wat onder transparante delen ligt</translation>
+    </message>
+    <message>
+        <source>Colour under transparent parts</source>
+        <translation>Kleur onder transparante delen</translation>
+    </message>
+    <message>
+        <source>Pattern under transparent parts</source>
+        <translation>Patroon onder transparante delen</translation>
+    </message>
+    <message>
+        <source>About patterns of your own</source>
+        <translation>Over eigen patronen</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Binnenrand</translation>
+    </message>
+    <message>
+        <source>Colour of the band</source>
+        <translation>Kleur van de binnenrand</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Width of the band</source>
+        <translation>Breedte binnenrand</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertPane</name>
+    <message>
+        <source>Convert to</source>
+        <translation>Naar</translation>
+    </message>
+    <message>
+        <source>File type of the results</source>
+        <translation>Bestandstype van de resultaten</translation>
+    </message>
+    <message>
+        <source>What the pictures become</source>
+        <translation>Wat de foto’s worden</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Kwaliteit</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 9</source>
+        <translation>JPEG-kwaliteit, 1 tot 9</translation>
+    </message>
+    <message>
+        <source>The higher, the finer and the larger</source>
+        <translation>Hoe hoger, hoe fijner en hoe groter</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>CropPane</name>
+    <message>
+        <source>W × H</source>
+        <translation>B × H</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>What the frame is given by</source>
+        <translation>Waarmee het kader wordt bepaald</translation>
+    </message>
+    <message>
+        <source>Width, height</source>
+        <translation>Breedte, hoogte</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Width of the frame</source>
+        <translation>Breedte van het kader</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Height of the frame</source>
+        <translation>Hoogte van het kader</translation>
+    </message>
+    <message>
+        <source>Cut away</source>
+        <translation>Wegsnijden</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Per cent to cut away from both sides</source>
+        <translation>Percentage dat aan beide kanten wordt weggesneden</translation>
+    </message>
+    <message>
+        <source>Pixels to cut away from both sides</source>
+        <translation>Pixels die aan beide kanten worden weggesneden</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Verhouding</translation>
+    </message>
+    <message>
+        <source>Ratio of width to height</source>
+        <translation>Verhouding tussen breedte en hoogte</translation>
+    </message>
+    <message>
+        <source>Unit of size and offsets</source>
+        <translation>Eenheid van formaat en verschuiving</translation>
+    </message>
+    <message>
+        <source>Unit of size and offsets: pixels, millimetres, centimetres, inches, picas, points</source>
+        <translation>Eenheid van formaat en verschuiving: pixels, millimeters, centimeters, inches, pica’s, punten</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Positie</translation>
+    </message>
+    <message>
+        <source>Position of the frame</source>
+        <translation>Positie van het kader</translation>
+    </message>
+    <message>
+        <source>Offset to the right</source>
+        <translation>Verschuiving naar rechts</translation>
+    </message>
+    <message>
+        <source>How far the frame is moved to the right</source>
+        <translation>Hoe ver het kader naar rechts schuift</translation>
+    </message>
+    <message>
+        <source>→ </source>
+        <translation>→ </translation>
+    </message>
+    <message>
+        <source>Offset downward</source>
+        <translation>Verschuiving omlaag</translation>
+    </message>
+    <message>
+        <source>How far the frame is moved down</source>
+        <translation>Hoe ver het kader omlaag schuift</translation>
+    </message>
+    <message>
+        <source>↓ </source>
+        <translation>↓ </translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>HandPage</name>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Sleep foto’s of mappen hierheen</translation>
+    </message>
+    <message>
+        <source>They are shown one after the other, and each goes with one key into one of your folders.</source>
+        <translation>Ze komen een voor een in beeld, en elke foto gaat met één toets naar een van uw mappen.</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Foto’s toevoegen…</translation>
+    </message>
+    <message>
+        <source>Add pictures (Ctrl+O)</source>
+        <translation>Foto’s toevoegen (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Map toevoegen…</translation>
+    </message>
+    <message>
+        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <translation>Alle foto’s van een map en de mappen daarin toevoegen (Ctrl+Shift+O)</translation>
+    </message>
+    <message>
+        <source>The picture to sort</source>
+        <translation>De te sorteren foto</translation>
+    </message>
+    <message>
+        <source>← Back</source>
+        <translation>← Terug</translation>
+    </message>
+    <message>
+        <source>The picture before (Left, Backspace)</source>
+        <translation>Vorige foto (Links, Backspace)</translation>
+    </message>
+    <message>
+        <source>Skip →</source>
+        <translation>Verder →</translation>
+    </message>
+    <message>
+        <source>On to the next picture (Right)</source>
+        <translation>Naar de volgende foto (Rechts)</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Prullenbak</translation>
+    </message>
+    <message>
+        <source>Move the picture to the trash (Del)</source>
+        <translation>Foto naar de prullenbak verplaatsen (Del)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Take back the last deed (Ctrl+Z)</source>
+        <translation>Laatste handeling ongedaan maken (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Terug</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Verder</translation>
+    </message>
+    <message>
+        <source>Keys Move</source>
+        <translation>Toetsen: verplaatsen</translation>
+    </message>
+    <message>
+        <source>Keys Copy</source>
+        <translation>Toetsen: kopiëren</translation>
+    </message>
+    <message>
+        <source>Keys Link</source>
+        <translation>Toetsen: linken</translation>
+    </message>
+</context>
+<context>
+    <name>HandPane</name>
+    <message>
+        <source>Keys</source>
+        <translation>Toetsen</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verplaatsen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Linken</translation>
+    </message>
+    <message>
+        <source>What a key does with the picture</source>
+        <translation>Wat een toets met de foto doet</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Mappen</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Toevoegen…</translation>
+    </message>
+    <message>
+        <source>Choose a folder; folders can be dropped on the list too</source>
+        <translation>Een map kiezen; u kunt mappen ook naar de lijst slepen</translation>
+    </message>
+    <message>
+        <source>New…</source>
+        <translation>Nieuw…</translation>
+    </message>
+    <message>
+        <source>Make a new folder</source>
+        <translation>Een nieuwe map maken</translation>
+    </message>
+    <message>
+        <source>⋯</source>
+        <translation>⋯</translation>
+    </message>
+    <message>
+        <source>More deeds for the chosen folder</source>
+        <translation>Meer opties voor de map die is gekozen</translation>
+    </message>
+    <message>
+        <source>Name of the new folder</source>
+        <translation>Naam van de nieuwe map</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Make no folder (Esc)</source>
+        <translation>Geen map maken (Esc)</translation>
+    </message>
+    <message>
+        <source>Make Folder</source>
+        <translation>Map maken</translation>
+    </message>
+    <message>
+        <source>Make the folder and give it a key (Return)</source>
+        <translation>De map maken en een toets geven (Enter)</translation>
+    </message>
+    <message>
+        <source>Folders and their keys</source>
+        <translation>Mappen en hun toetsen</translation>
+    </message>
+    <message>
+        <source>Add the folders that you sort into. The first gets the key 1, and so on: up to 59 folders.</source>
+        <translation>Voeg de mappen toe waarin u sorteert. De eerste krijgt toets 1, enzovoort: tot 59 mappen.</translation>
+    </message>
+</context>
+<context>
+    <name>Info</name>
+    <message>
+        <source>Information</source>
+        <translation>Informatie</translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation>Uitleg</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>Search the log</source>
+        <translation>Logboek doorzoeken</translation>
+    </message>
+    <message>
+        <source>Every word must occur somewhere in an entry (Ctrl+F)</source>
+        <translation>Elk woord moet ergens in een regel voorkomen (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Show entries with this status</source>
+        <translation>Regels met deze status tonen</translation>
+    </message>
+    <message>
+        <source>Show entries of this kind</source>
+        <translation>Regels van deze soort tonen</translation>
+    </message>
+    <message>
+        <source>Show Picture</source>
+        <translation>Foto tonen</translation>
+    </message>
+    <message>
+        <source>Show the picture large, if it is still there (Enter)</source>
+        <translation>De foto groot tonen, als die er nog is (Enter)</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>In map tonen</translation>
+    </message>
+    <message>
+        <source>Open the folder of the file and choose the file there</source>
+        <translation>De map van het bestand openen en het bestand daar selecteren</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporteren…</translation>
+    </message>
+    <message>
+        <source>Save the entries that are shown as CSV, for spreadsheets</source>
+        <translation>De getoonde regels bewaren als CSV, voor rekenbladen</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Meer</translation>
+    </message>
+    <message>
+        <source>More deeds for the log</source>
+        <translation>Meer opties voor het logboek</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Opdrachten</translation>
+    </message>
+    <message>
+        <source>Entries of the log</source>
+        <translation>Regels van het logboek</translation>
+    </message>
+    <message>
+        <source>Revert Comment</source>
+        <translation>Opmerking terugzetten</translation>
+    </message>
+    <message>
+        <source>Give the chosen pictures their old comments again</source>
+        <translation>De gekozen foto’s hun oude opmerking teruggeven</translation>
+    </message>
+    <message>
+        <source>Undo This Run</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Search the Log</source>
+        <translation>Logboek doorzoeken</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Quorlin</source>
+        <translation>Quorlin</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Foto’s toevoegen…</translation>
+    </message>
+    <message>
+        <source>Add pictures (Ctrl+O)</source>
+        <translation>Foto’s toevoegen (Ctrl+O)</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Map toevoegen…</translation>
+    </message>
+    <message>
+        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <translation>Alle foto’s van een map en de mappen daarin toevoegen (Ctrl+Shift+O)</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leegmaken</translation>
+    </message>
+    <message>
+        <source>Take all pictures off the list; the files stay</source>
+        <translation>Alle foto’s uit de lijst halen; de bestanden blijven</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Passend</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Vullend</translation>
+    </message>
+    <message>
+        <source>How the preview fits its place</source>
+        <translation>Hoe het voorbeeld zijn plaats vult</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Volledig scherm</translation>
+    </message>
+    <message>
+        <source>Full screen and back (F11)</source>
+        <translation>Volledig scherm aan en uit (F11)</translation>
+    </message>
+    <message>
+        <source>Choose a folder for your own background patterns?</source>
+        <translation>Een map voor uw eigen achtergrondpatronen kiezen?</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Niet nu</translation>
+    </message>
+    <message>
+        <source>It can be chosen in the preferences at any time (Ctrl+,)</source>
+        <translation>U kunt de map ook later kiezen in de voorkeuren (Ctrl+,)</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Bewerkingen</translation>
+    </message>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Sleep foto’s of mappen hierheen</translation>
+    </message>
+    <message>
+        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
+        <translation>Kies daarna links wat ermee moet gebeuren. Uw originelen blijven ongewijzigd, tenzij u anders kiest.</translation>
+    </message>
+    <message>
+        <source>Preview of the original and the result</source>
+        <translation>Voorbeeld van het origineel en het resultaat</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Foto’s</translation>
+    </message>
+    <message>
+        <source>Simulation: show, move nothing</source>
+        <translation>Simulatie: tonen, niets verplaatsen</translation>
+    </message>
+    <message>
+        <source>What simulation means</source>
+        <translation>Wat simulatie betekent</translation>
+    </message>
+    <message>
+        <source>Resize Pictures</source>
+        <translation>Foto’s schalen</translation>
+    </message>
+    <message>
+        <source>Start (Ctrl+Return)</source>
+        <translation>Starten (Ctrl+Enter)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Voortgang van de opdracht</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauzeren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Stop after the current picture (Esc)</source>
+        <translation>Stoppen na de huidige foto (Esc)</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Map openen</translation>
+    </message>
+    <message>
+        <source>Show Failed</source>
+        <translation>Mislukte tonen</translation>
+    </message>
+    <message>
+        <source>Retry Failed</source>
+        <translation>Mislukte opnieuw</translation>
+    </message>
+    <message>
+        <source>Save Report…</source>
+        <translation>Rapport bewaren…</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Bestand</translation>
+    </message>
+    <message>
+        <source>Recent &amp;Folders</source>
+        <translation>Recen&amp;te mappen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Be&amp;werken</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Bee&amp;ld</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>&amp;Uiterlijk</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Opdracht</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Add Pictures…</source>
+        <translation>&amp;Foto’s toevoegen…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Folder…</source>
+        <translation>&amp;Map toevoegen…</translation>
+    </message>
+    <message>
+        <source>Save Picture &amp;As…</source>
+        <translation>Foto bewaren &amp;als…</translation>
+    </message>
+    <message>
+        <source>&amp;Save Report…</source>
+        <translation>&amp;Rapport bewaren…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Af&amp;sluiten</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Pictures</source>
+        <translation>Foto’s &amp;plakken</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>Uit lijst &amp;verwijderen</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Lijst &amp;leegmaken</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles selecteren</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Voorkeuren…</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Preview</source>
+        <translation>Voorbeeld &amp;passend</translation>
+    </message>
+    <message>
+        <source>F&amp;ill Preview</source>
+        <translation>Voorbeeld &amp;vullend</translation>
+    </message>
+    <message>
+        <source>&amp;Next Picture</source>
+        <translation>Volgende &amp;foto</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Picture</source>
+        <translation>V&amp;orige foto</translation>
+    </message>
+    <message>
+        <source>&amp;Large Preview</source>
+        <translation>&amp;Groot voorbeeld</translation>
+    </message>
+    <message>
+        <source>Like the &amp;System</source>
+        <translation>Zoals het &amp;systeem</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Licht</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Donker</translation>
+    </message>
+    <message>
+        <source>Full &amp;Screen</source>
+        <translation>Volledig &amp;scherm</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Starten</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pauzeren</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuleren</translation>
+    </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>&amp;Hernoemen…</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Last Run</source>
+        <translation>&amp;Laatste ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Show &amp;Failed Only</source>
+        <translation>Alleen m&amp;islukte tonen</translation>
+    </message>
+    <message>
+        <source>&amp;Retry Failed</source>
+        <translation>&amp;Mislukte opnieuw</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>&amp;Pagina-instelling…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>Af&amp;drukken…</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Handleiding</translation>
+    </message>
+    <message>
+        <source>Look for a &amp;New Version</source>
+        <translation>&amp;Nieuwe versie zoeken</translation>
+    </message>
+    <message>
+        <source>&amp;About Quorlin</source>
+        <translation>&amp;Over Quorlin</translation>
+    </message>
+</context>
+<context>
+    <name>Manual</name>
+    <message>
+        <source>Manual</source>
+        <translation>Handleiding</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Terug</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vooruit</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Volgende zoeken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Back (Alt+Left)</source>
+        <translation>Terug (Alt+Links)</translation>
+    </message>
+    <message>
+        <source>Forward (Alt+Right)</source>
+        <translation>Vooruit (Alt+Rechts)</translation>
+    </message>
+    <message>
+        <source>Find in the manual</source>
+        <translation>Zoeken in de handleiding</translation>
+    </message>
+    <message>
+        <source>Return shows the next place (Ctrl+F, F3)</source>
+        <translation>Enter toont de volgende plek (Ctrl+F, F3)</translation>
+    </message>
+    <message>
+        <source>Pages of the manual</source>
+        <translation>Pagina’s van de handleiding</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Pagina van de handleiding</translation>
+    </message>
+</context>
+<context>
+    <name>MetadataPage</name>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Sleep foto’s of mappen hierheen</translation>
+    </message>
+    <message>
+        <source>All properties of each are shown, and its comment can be read, written and reverted.</source>
+        <translation>Van elke foto ziet u alle eigenschappen; de opmerking kunt u lezen, schrijven en terugzetten.</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Foto’s toevoegen…</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Map toevoegen…</translation>
+    </message>
+    <message>
+        <source>Search properties</source>
+        <translation>Eigenschappen zoeken</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy the chosen value or branch (Ctrl+C in the tree), or the place where the picture was taken</source>
+        <translation>De gekozen waarde of tak kopiëren (Ctrl+C in de boom), of de plaats van opname</translation>
+    </message>
+    <message>
+        <source>Properties of the picture</source>
+        <translation>Eigenschappen van de foto</translation>
+    </message>
+    <message>
+        <source>The picture</source>
+        <translation>De foto</translation>
+    </message>
+    <message>
+        <source>User comment</source>
+        <translation>Gebruikersopmerking</translation>
+    </message>
+    <message>
+        <source>Whose comment is written</source>
+        <translation>Wiens opmerking wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Insert Token…</source>
+        <translation>Code invoegen…</translation>
+    </message>
+    <message>
+        <source>Insert what stands for something that each picture has</source>
+        <translation>Een code invoegen voor iets wat elke foto heeft</translation>
+    </message>
+    <message>
+        <source>Edit Log</source>
+        <translation>Logboek van opmerkingen</translation>
+    </message>
+    <message>
+        <source>Show what was written into comments, with old and new comments, and revert it</source>
+        <translation>Tonen wat in opmerkingen is geschreven, met de oude en de nieuwe, en het terugzetten</translation>
+    </message>
+    <message>
+        <source>Progress of the comments</source>
+        <translation>Voortgang van de opmerkingen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Stop after the picture that is being written (Esc)</source>
+        <translation>Stoppen na de foto die nu wordt geschreven (Esc)</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Terugzetten</translation>
+    </message>
+    <message>
+        <source>Give the pictures of the last run their old comments again</source>
+        <translation>De foto’s van de laatste opdracht hun oude opmerking teruggeven</translation>
+    </message>
+    <message>
+        <source>Choose Files…</source>
+        <translation>Bestanden kiezen…</translation>
+    </message>
+    <message>
+        <source>Choose JPEG and TIFF files and write the comment into each</source>
+        <translation>JPEG- en TIFF-bestanden kiezen en de opmerking in elk ervan schrijven</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Choose a folder and write the comment into each JPEG and TIFF file in it and in its folders</source>
+        <translation>Een map kiezen en de opmerking in elk JPEG- en TIFF-bestand daarin en in de mappen eronder schrijven</translation>
+    </message>
+    <message>
+        <source>Write into All…</source>
+        <translation>In alle schrijven…</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Toepassen</translation>
+    </message>
+    <message>
+        <source>Write the comment into this picture</source>
+        <translation>De opmerking in deze foto schrijven</translation>
+    </message>
+</context>
+<context>
+    <name>NewVersion</name>
+    <message>
+        <source>New version</source>
+        <translation>Nieuwe versie</translation>
+    </message>
+    <message>
+        <source>A new version of Quorlin is available</source>
+        <translation>Er is een nieuwe versie van Quorlin</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>Wat er nieuw is</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>Go to Product Page</source>
+        <translation>Naar productpagina</translation>
+    </message>
+</context>
+<context>
+    <name>OutputPane</name>
+    <message>
+        <source>File type</source>
+        <translation>Bestandstype</translation>
+    </message>
+    <message>
+        <source>File type of the results</source>
+        <translation>Bestandstype van de resultaten</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Kwaliteit</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 10</source>
+        <translation>JPEG-kwaliteit, 1 tot 10</translation>
+    </message>
+    <message>
+        <source>Save to</source>
+        <translation>Bewaren in</translation>
+    </message>
+    <message>
+        <source>Folder of the results</source>
+        <translation>Map van de resultaten</translation>
+    </message>
+    <message>
+        <source>About the folder of the results</source>
+        <translation>Over de map van de resultaten</translation>
+    </message>
+    <message>
+        <source>If name is taken</source>
+        <translation>Bij bestaande naam</translation>
+    </message>
+    <message>
+        <source>If a file of that name is there</source>
+        <translation>Als er al een bestand met die naam is</translation>
+    </message>
+    <message>
+        <source>Simulation: show, write nothing</source>
+        <translation>Simulatie: tonen, niets schrijven</translation>
+    </message>
+    <message>
+        <source>What simulation means</source>
+        <translation>Wat simulatie betekent</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Voorkeuren</translation>
+    </message>
+    <message>
+        <source>Support folder</source>
+        <translation>Hulpmap</translation>
+    </message>
+    <message>
+        <source>None chosen yet</source>
+        <translation>Nog geen gekozen</translation>
+    </message>
+    <message>
+        <source>Quorlin keeps your background patterns in a folder below this one. Whatever you put there can be chosen in Background &amp; Border.</source>
+        <translation>Quorlin bewaart uw achtergrondpatronen in een map onder deze. Wat u daar neerzet, kunt u kiezen in Achtergrond en rand.</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Wijzigen…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>Takes effect when Quorlin starts again.</source>
+        <translation>Werkt zodra Quorlin opnieuw start.</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Uiterlijk</translation>
+    </message>
+    <message>
+        <source>If name is taken</source>
+        <translation>Bij bestaande naam</translation>
+    </message>
+    <message>
+        <source>What an action does at first where a name is taken</source>
+        <translation>Wat een bewerking eerst doet als een naam al bestaat</translation>
+    </message>
+    <message>
+        <source>For actions that you use for the first time; each one keeps what you choose there.</source>
+        <translation>Voor bewerkingen die u voor het eerst gebruikt; elke onthoudt wat u daar kiest.</translation>
+    </message>
+    <message>
+        <source>Log keeps</source>
+        <translation>Logboek bewaart</translation>
+    </message>
+    <message>
+        <source>How many entries the log keeps</source>
+        <translation>Hoeveel regels het logboek bewaart</translation>
+    </message>
+    <message>
+        <source>Look for a new version at every start</source>
+        <translation>Bij elke start een nieuwe versie zoeken</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gereed</translation>
+    </message>
+</context>
+<context>
+    <name>PresetPane</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation>Voorinstelling</translation>
+    </message>
+    <message>
+        <source>Save, rename, delete, export or import presets</source>
+        <translation>Voorinstellingen bewaren, hernoemen, verwijderen, exporteren of importeren</translation>
+    </message>
+    <message>
+        <source>About presets</source>
+        <translation>Over voorinstellingen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Naam van de voorinstelling</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Bewaren</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Onbekend</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Save As</source>
+        <translation>Bewaren als</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Bewaren</translation>
+    </message>
+    <message>
+        <source>Files that can be chosen</source>
+        <translation>Bestanden die u kunt kiezen</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>Save</source>
+        <translation>Bewaren</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Alles bewaren</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintPropertiesDialog</name>
+    <message>
+        <source>Printer Properties</source>
+        <translation>Eigenschappen van de printer</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintPropertiesWidget</name>
+    <message>
+        <source>Advanced</source>
+        <translation>Geavanceerd</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintSettingsOutput</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pagina’s</translation>
+    </message>
+    <message>
+        <source>Double Sided Printing</source>
+        <translation>Dubbelzijdig</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Uit</translation>
+    </message>
+    <message>
+        <source>Long side binding</source>
+        <translation>Binden aan lange zijde</translation>
+    </message>
+    <message>
+        <source>Short side binding</source>
+        <translation>Binden aan korte zijde</translation>
+    </message>
+</context>
+<context>
+    <name>RenameCard</name>
+    <message>
+        <source>Move up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Omlaag</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Move this step (arrow keys)</source>
+        <translation>Deze stap verplaatsen (pijltoetsen)</translation>
+    </message>
+    <message>
+        <source>Drag to another place, or Alt+Up and Alt+Down</source>
+        <translation>Sleep naar een andere plaats, of Alt+Omhoog en Alt+Omlaag</translation>
+    </message>
+    <message>
+        <source>Use this step</source>
+        <translation>Deze stap gebruiken</translation>
+    </message>
+    <message>
+        <source>Show or hide its settings</source>
+        <translation>Instellingen tonen of verbergen</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Remove this step</source>
+        <translation>Deze stap verwijderen</translation>
+    </message>
+    <message>
+        <source>Remove this step (Ctrl+Del)</source>
+        <translation>Deze stap verwijderen (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Insert a value of the file</source>
+        <translation>Een waarde van het bestand invoegen</translation>
+    </message>
+    <message>
+        <source>With</source>
+        <translation>Door</translation>
+    </message>
+    <message>
+        <source>How</source>
+        <translation>Hoe</translation>
+    </message>
+    <message>
+        <source>How many</source>
+        <translation>Hoeveel</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Lengte</translation>
+    </message>
+    <message>
+        <source>Works on</source>
+        <translation>Werkt op</translation>
+    </message>
+</context>
+<context>
+    <name>RenamePane</name>
+    <message>
+        <source>Rename</source>
+        <translation>Hernoemen</translation>
+    </message>
+    <message>
+        <source>What is renamed</source>
+        <translation>Wat wordt hernoemd</translation>
+    </message>
+    <message>
+        <source>No steps yet: names stay as they are. Add a step, or choose a preset.</source>
+        <translation>Nog geen stappen: namen blijven ongewijzigd. Voeg een stap toe of kies een voorinstelling.</translation>
+    </message>
+    <message>
+        <source>+ Add Step…</source>
+        <translation>+ Stap toevoegen…</translation>
+    </message>
+    <message>
+        <source>Add a step (Ctrl+Shift+A)</source>
+        <translation>Een stap toevoegen (Ctrl+Shift+A)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Example</source>
+        <translation>Voorbeeld</translation>
+    </message>
+    <message>
+        <source>Take sidecar files (.xmp …) along</source>
+        <translation>Sidecarbestanden (.xmp …) meenemen</translation>
+    </message>
+    <message>
+        <source>Files of other programs that bear the name of a picture get its new name too</source>
+        <translation>Bestanden van andere programma’s met dezelfde naam als een foto krijgen ook de nieuwe naam</translation>
+    </message>
+</context>
+<context>
+    <name>ResizePane</name>
+    <message>
+        <source>Width</source>
+        <translation>Breedte</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hoogte</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Langste</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Vak</translation>
+    </message>
+    <message>
+        <source>What the size is given by</source>
+        <translation>Waarmee het formaat wordt bepaald</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Langste zijde</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Nieuw formaat</translation>
+    </message>
+    <message>
+        <source>Width of the box</source>
+        <translation>Breedte van het vak</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Height of the box</source>
+        <translation>Hoogte van het vak</translation>
+    </message>
+    <message>
+        <source>Unit of the size</source>
+        <translation>Eenheid van het formaat</translation>
+    </message>
+    <message>
+        <source>Unit of the size: pixels, millimetres, centimetres, inches, picas, points</source>
+        <translation>Eenheid van het formaat: pixels, millimeters, centimeters, inches, pica’s, punten</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>How the picture fits the box</source>
+        <translation>Hoe de foto in het vak past</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+    <message>
+        <source>Never enlarge</source>
+        <translation>Nooit vergroten</translation>
+    </message>
+</context>
+<context>
+    <name>RoundPane</name>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechthoek</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cirkel</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellips</translation>
+    </message>
+    <message>
+        <source>Shape that is cut out</source>
+        <translation>Vorm die wordt uitgesneden</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Straal</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Radius of the corners</source>
+        <translation>Straal van de hoeken</translation>
+    </message>
+    <message>
+        <source>Colour outside the shape</source>
+        <translation>Kleur buiten de vorm</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Kleur</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Binnenrand</translation>
+    </message>
+    <message>
+        <source>Width of the coloured band inside the edge</source>
+        <translation>Breedte van de gekleurde binnenrand</translation>
+    </message>
+    <message>
+        <source>A band of the colour inside the edge; 0 is none</source>
+        <translation>Een rand in deze kleur binnen de fotorand; 0 is geen</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>SaveAs</name>
+    <message>
+        <source>File &amp;type</source>
+        <translation>Bestands&amp;type</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Bestandstype</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>&amp;Kwaliteit</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 9</source>
+        <translation>JPEG-kwaliteit, 1 tot 9</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source>Estimated size of the file</source>
+        <translation>Geschatte grootte van het bestand</translation>
+    </message>
+    <message>
+        <source>Preview of the original and of what is saved</source>
+        <translation>Voorbeeld van het origineel en van wat wordt bewaard</translation>
+    </message>
+</context>
+<context>
+    <name>SortPane</name>
+    <message>
+        <source>Folders</source>
+        <translation>Mappen</translation>
+    </message>
+    <message>
+        <source>First level of folders</source>
+        <translation>Eerste niveau van mappen</translation>
+    </message>
+    <message>
+        <source>in them</source>
+        <translation>daarin</translation>
+    </message>
+    <message>
+        <source>Second level of folders</source>
+        <translation>Tweede niveau van mappen</translation>
+    </message>
+    <message>
+        <source>in those</source>
+        <translation>en daarin</translation>
+    </message>
+    <message>
+        <source>Third level of folders</source>
+        <translation>Derde niveau van mappen</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Patroon</translation>
+    </message>
+    <message>
+        <source>Pattern of folders</source>
+        <translation>Patroon van mappen</translation>
+    </message>
+    <message>
+        <source>Text and tokens in braces, with “/” between the levels of folders</source>
+        <translation>Tekst en codes tussen accolades, met “/” tussen de niveaus van mappen</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Insert a token</source>
+        <translation>Een code invoegen</translation>
+    </message>
+    <message>
+        <source>Without a date</source>
+        <translation>Zonder datum</translation>
+    </message>
+    <message>
+        <source>What becomes of files without a date taken</source>
+        <translation>Wat er gebeurt met bestanden zonder opnamedatum</translation>
+    </message>
+    <message>
+        <source>Name of the folder for files without a date taken</source>
+        <translation>Naam van de map voor bestanden zonder opnamedatum</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Move, copy or link</source>
+        <translation>Verplaatsen, kopiëren of linken</translation>
+    </message>
+    <message>
+        <source>Into</source>
+        <translation>Naar</translation>
+    </message>
+    <message>
+        <source>Where the folders are made</source>
+        <translation>Waar de mappen worden gemaakt</translation>
+    </message>
+    <message>
+        <source>If name is taken</source>
+        <translation>Bij bestaande naam</translation>
+    </message>
+</context>
+<context>
+    <name>SortTree</name>
+    <message>
+        <source>Folders after the run</source>
+        <translation>Mappen na de opdracht</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Alles tonen</translation>
+    </message>
+    <message>
+        <source>Show all files in the list again</source>
+        <translation>Alle bestanden weer in de lijst tonen</translation>
+    </message>
+</context>
+<context>
+    <name>TurnPane</name>
+    <message>
+        <source>90°</source>
+        <translation>90°</translation>
+    </message>
+    <message>
+        <source>Turn 90 degrees to the left</source>
+        <translation>90 graden naar links draaien</translation>
+    </message>
+    <message>
+        <source>90 degrees to the left</source>
+        <translation>90 graden naar links</translation>
+    </message>
+    <message>
+        <source>Turn 90 degrees to the right</source>
+        <translation>90 graden naar rechts draaien</translation>
+    </message>
+    <message>
+        <source>90 degrees to the right</source>
+        <translation>90 graden naar rechts</translation>
+    </message>
+    <message>
+        <source>180°</source>
+        <translation>180°</translation>
+    </message>
+    <message>
+        <source>Turn 180 degrees</source>
+        <translation>180 graden draaien</translation>
+    </message>
+    <message>
+        <source>Half a turn</source>
+        <translation>Een halve slag</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Hoek</translation>
+    </message>
+    <message>
+        <source>Angle, counter-clockwise</source>
+        <translation>Hoek, tegen de klok in</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Angle in degrees, counter-clockwise</source>
+        <translation>Hoek in graden, tegen de klok in</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>naar links</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Spiegelen</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Horiz.</translation>
+    </message>
+    <message>
+        <source>Flip horizontally: left and right change places</source>
+        <translation>Horizontaal spiegelen: links en rechts wisselen van plaats</translation>
+    </message>
+    <message>
+        <source>Left and right change places</source>
+        <translation>Links en rechts wisselen van plaats</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Vert.</translation>
+    </message>
+    <message>
+        <source>Flip vertically: top and bottom change places</source>
+        <translation>Verticaal spiegelen: boven en onder wisselen van plaats</translation>
+    </message>
+    <message>
+        <source>Top and bottom change places</source>
+        <translation>Boven en onder wisselen van plaats</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Herstellen</translation>
+    </message>
+    <message>
+        <source>Back to no turn and no flip</source>
+        <translation>Terug naar niet gedraaid en niet gespiegeld</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>about</name>
+    <message>
+        <source>Quorlin %1</source>
+        <translation>Quorlin %1</translation>
+    </message>
+</context>
+<context>
+    <name>actions</name>
+    <message>
+        <source>Pictures</source>
+        <translation>Foto’s</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informatie</translation>
+    </message>
+</context>
+<context>
+    <name>background-action</name>
+    <message>
+        <source>Background &amp; Border</source>
+        <translation>Achtergrond en rand</translation>
+    </message>
+    <message numerus="yes">
+        <source>Frame %n Pictures</source>
+        <translation>
+            <numerusform>%n foto inlijsten</numerusform>
+            <numerusform>%n foto’s inlijsten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>background-pane</name>
+    <message>
+        <source>Checks</source>
+        <translation>Ruiten</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lijnen</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>Stippen</translation>
+    </message>
+    <message>
+        <source>Linen</source>
+        <translation>Linnen</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Kleur</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Patroon</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Geen</translation>
+    </message>
+    <message>
+        <source>White, 10 pixels around</source>
+        <translation>Wit, 10 pixels rondom</translation>
+    </message>
+    <message>
+        <source>Coloured band inside</source>
+        <translation>Gekleurde binnenrand</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Kiezen…</translation>
+    </message>
+    <message>
+        <source>Choose a pattern</source>
+        <translation>Patroon kiezen</translation>
+    </message>
+</context>
+<context>
+    <name>background-presets</name>
+    <message>
+        <source>White background</source>
+        <translation>Witte achtergrond</translation>
+    </message>
+    <message>
+        <source>White frame</source>
+        <translation>Witte rand</translation>
+    </message>
+    <message>
+        <source>Black band</source>
+        <translation>Zwarte binnenrand</translation>
+    </message>
+    <message>
+        <source>Ivory mount</source>
+        <translation>Ivoren passe-partout</translation>
+    </message>
+    <message>
+        <source>On paper</source>
+        <translation>Op papier</translation>
+    </message>
+</context>
+<context>
+    <name>background-step</name>
+    <message>
+        <source>Framed</source>
+        <translation>Ingelijst</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>op %1</translation>
+    </message>
+    <message>
+        <source>on pattern %1</source>
+        <translation>op patroon %1</translation>
+    </message>
+    <message>
+        <source>white frame</source>
+        <translation>witte rand</translation>
+    </message>
+    <message>
+        <source>band of %1 px in %2</source>
+        <translation>binnenrand van %1 px in %2</translation>
+    </message>
+    <message>
+        <source>Choose a pattern.</source>
+        <translation>Kies een patroon.</translation>
+    </message>
+    <message>
+        <source>Enter a width of the band from 1 to %1.</source>
+        <translation>Geef een breedte van de binnenrand op van 1 tot %1.</translation>
+    </message>
+    <message>
+        <source>the band would cover all of it</source>
+        <translation>de binnenrand zou alles bedekken</translation>
+    </message>
+    <message>
+        <source>A %1 picture has no transparent parts: it stays as it looks.</source>
+        <translation>Een %1-foto heeft geen transparante delen: het uiterlijk verandert niet.</translation>
+    </message>
+</context>
+<context>
+    <name>comment-job</name>
+    <message>
+        <source>Write comment, keep the first page only</source>
+        <translation>Opmerking schrijven, alleen de eerste pagina houden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n probleem</numerusform>
+            <numerusform>%n problemen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped:</source>
+        <translation>Gestopt:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments written</source>
+        <translation>
+            <numerusform>%n opmerking geschreven</numerusform>
+            <numerusform>%n opmerkingen geschreven</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments reverted</source>
+        <translation>
+            <numerusform>%n opmerking teruggezet</numerusform>
+            <numerusform>%n opmerkingen teruggezet</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>comment-run</name>
+    <message>
+        <source>The file does not say what was written into it.</source>
+        <translation>In het bestand staat niet wat erin is geschreven.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages were taken out and do not come back.</source>
+        <translation>
+            <numerusform>%n verdere pagina is verwijderd en komt niet terug.</numerusform>
+            <numerusform>%n verdere pagina’s zijn verwijderd en komen niet terug.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n further pages, which would be lost.</source>
+        <translation>
+            <numerusform>Het heeft nog %n pagina, die verloren zou gaan.</numerusform>
+            <numerusform>Het heeft nog %n pagina’s, die verloren zouden gaan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file is not there any more.</source>
+        <translation>Het bestand is er niet meer.</translation>
+    </message>
+    <message>
+        <source>It has its old comment already.</source>
+        <translation>De foto heeft de oude opmerking al.</translation>
+    </message>
+    <message>
+        <source>The comment was changed since and stays: “%1”</source>
+        <translation>De opmerking is sindsdien gewijzigd en blijft: “%1”</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more files</source>
+        <translation>
+            <numerusform>nog %n bestand</numerusform>
+            <numerusform>nog %n bestanden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” was written</source>
+        <translation>“%1” is geschreven</translation>
+    </message>
+    <message>
+        <source>“%1” was emptied</source>
+        <translation>“%1” is leeggemaakt</translation>
+    </message>
+    <message>
+        <source>“%1” became “%2”</source>
+        <translation>“%1” werd “%2”</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
+    </message>
+</context>
+<context>
+    <name>convert-action</name>
+    <message>
+        <source>Convert</source>
+        <translation>Converteren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Convert %n Pictures</source>
+        <translation>
+            <numerusform>%n foto converteren</numerusform>
+            <numerusform>%n foto’s converteren</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>convert-pane</name>
+    <message>
+        <source>1 – smallest file</source>
+        <translation>1 – kleinste bestand</translation>
+    </message>
+    <message>
+        <source>9 – best</source>
+        <translation>9 – beste</translation>
+    </message>
+</context>
+<context>
+    <name>convert-presets</name>
+    <message>
+        <source>JPEG for everyone</source>
+        <translation>JPEG voor iedereen</translation>
+    </message>
+    <message>
+        <source>Small JPEG</source>
+        <translation>Kleine JPEG</translation>
+    </message>
+    <message>
+        <source>PNG with all metadata</source>
+        <translation>PNG met alle metadata</translation>
+    </message>
+    <message>
+        <source>TIFF for printing</source>
+        <translation>TIFF voor drukwerk</translation>
+    </message>
+    <message>
+        <source>PDF pages</source>
+        <translation>PDF-pagina’s</translation>
+    </message>
+</context>
+<context>
+    <name>convert-step</name>
+    <message>
+        <source>Converted</source>
+        <translation>Geconverteerd</translation>
+    </message>
+    <message>
+        <source>to %1, quality %2</source>
+        <translation>naar %1, kwaliteit %2</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <translation>naar %1</translation>
+    </message>
+    <message>
+        <source>Choose what to convert to.</source>
+        <translation>Kies waarnaar u wilt converteren.</translation>
+    </message>
+    <message>
+        <source>Choose a quality from 1 to 9.</source>
+        <translation>Kies een kwaliteit van 1 tot 9.</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>geen leesbare foto</translation>
+    </message>
+    <message>
+        <source>the file could not be written</source>
+        <translation>het bestand kon niet worden geschreven</translation>
+    </message>
+    <message>
+        <source>the file was written but cannot be read again</source>
+        <translation>het bestand is geschreven, maar kan niet worden teruggelezen</translation>
+    </message>
+    <message>
+        <source>the metadata could not be written (%1); the disk may be full</source>
+        <translation>de metagegevens konden niet geschreven worden (%1); misschien is de schijf vol</translation>
+    </message>
+</context>
+<context>
+    <name>crop-action</name>
+    <message>
+        <source>Crop</source>
+        <translation>Bijsnijden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Crop %n Pictures</source>
+        <translation>
+            <numerusform>%n foto bijsnijden</numerusform>
+            <numerusform>%n foto’s bijsnijden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>crop-pane</name>
+    <message>
+        <source>W × H</source>
+        <translation>B × H</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Linksboven</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Boven</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Rechtsboven</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Midden</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Linksonder</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Onder</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Rechtsonder</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Vrij</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Origineel</translation>
+    </message>
+    <message>
+        <source>%1 at %2, %3</source>
+        <translation>%1 op %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>crop-presets</name>
+    <message>
+        <source>Centre square 1080</source>
+        <translation>Vierkant uit het midden 1080</translation>
+    </message>
+    <message>
+        <source>3:2, 1800 × 1200</source>
+        <translation>3:2, 1800 × 1200</translation>
+    </message>
+    <message>
+        <source>4:3, 1600 × 1200</source>
+        <translation>4:3, 1600 × 1200</translation>
+    </message>
+    <message>
+        <source>16:9, 1920 × 1080</source>
+        <translation>16:9, 1920 × 1080</translation>
+    </message>
+    <message>
+        <source>Trim 5 %</source>
+        <translation>Randen 5 % inkorten</translation>
+    </message>
+</context>
+<context>
+    <name>crop-step</name>
+    <message>
+        <source>Cropped</source>
+        <translation>Bijgesneden</translation>
+    </message>
+    <message>
+        <source>%1 % away</source>
+        <translation>%1 % eraf</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixels away</source>
+        <translation>
+            <numerusform>%n pixel eraf</numerusform>
+            <numerusform>%n pixels eraf</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>moved %1, %2 %3</source>
+        <translation>verschoven %1, %2 %3</translation>
+    </message>
+    <message>
+        <source>position %1</source>
+        <translation>positie %1</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 0 to 99 per cent.</source>
+        <translation>Geef een geheel getal op van 0 tot 99 procent.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 0 to %1.</source>
+        <translation>Geef een geheel getal op van 0 tot %1.</translation>
+    </message>
+    <message>
+        <source>Enter a width and a height.</source>
+        <translation>Geef een breedte en een hoogte op.</translation>
+    </message>
+    <message>
+        <source>Choose one of the nine positions.</source>
+        <translation>Kies een van de negen posities.</translation>
+    </message>
+    <message>
+        <source>Enter offsets from %1 to %2.</source>
+        <translation>Geef verschuivingen op van %1 tot %2.</translation>
+    </message>
+    <message>
+        <source>nothing would be left of it</source>
+        <translation>er zou niets van overblijven</translation>
+    </message>
+    <message>
+        <source>the frame lies outside the picture</source>
+        <translation>het kader ligt buiten de foto</translation>
+    </message>
+    <message>
+        <source>Cut off at the picture’s edge.</source>
+        <translation>Afgesneden aan de rand van de foto.</translation>
+    </message>
+</context>
+<context>
+    <name>files</name>
+    <message>
+        <source>Cannot read %1: it is not UTF-8 text</source>
+        <translation>Kan %1 niet lezen: het is geen UTF-8-tekst</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 blijft zoals het is: %2</translation>
+    </message>
+    <message>
+        <source>A part of %1 could not be removed and is still there</source>
+        <translation>Een deel van %1 kon niet worden verwijderd en is er nog</translation>
+    </message>
+    <message>
+        <source>%1; a copy is at %2</source>
+        <translation>%1; een kopie staat in %2</translation>
+    </message>
+    <message>
+        <source>%1 is gone; what was copied of it is at %2</source>
+        <translation>%1 is weg; wat ervan is gekopieerd, staat in %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be put away</source>
+        <translation>%1 kon niet worden opgeruimd</translation>
+    </message>
+    <message>
+        <source>%1 is also at %2</source>
+        <translation>%1 staat ook in %2</translation>
+    </message>
+    <message>
+        <source>%1 had only its temporary name left and is now called %2</source>
+        <translation>%1 had alleen nog zijn tijdelijke naam en heet nu %2</translation>
+    </message>
+    <message>
+        <source>The journal of this run is damaged: %1</source>
+        <translation>Het logboek van deze opdracht is beschadigd: %1</translation>
+    </message>
+    <message>
+        <source>The name %1 was taken in the meantime; the item is now called %2</source>
+        <translation>De naam %1 bestaat intussen al; het onderdeel heet nu %2</translation>
+    </message>
+    <message>
+        <source>The run was interrupted</source>
+        <translation>De opdracht is onderbroken</translation>
+    </message>
+    <message>
+        <source>Nothing is known of this run any more</source>
+        <translation>Van deze opdracht is niets meer bekend</translation>
+    </message>
+    <message>
+        <source>This run has not ended yet</source>
+        <translation>Deze opdracht is nog niet afgelopen</translation>
+    </message>
+    <message>
+        <source>Nothing was done in this run</source>
+        <translation>In deze opdracht is niets gedaan</translation>
+    </message>
+    <message>
+        <source>This run was taken back already</source>
+        <translation>Deze opdracht is al ongedaan gemaakt</translation>
+    </message>
+    <message>
+        <source>Nothing of this run can be taken back any more</source>
+        <translation>Van deze opdracht kan niets meer ongedaan gemaakt worden</translation>
+    </message>
+    <message>
+        <source>%1 could not be copied correctly</source>
+        <translation>%1 kon niet goed gekopieerd worden</translation>
+    </message>
+    <message>
+        <source>The name %1 cannot be used on this disk</source>
+        <translation>De naam %1 kan op deze schijf niet worden gebruikt</translation>
+    </message>
+    <message>
+        <source>The name %1 is too long for this disk</source>
+        <translation>De naam %1 is te lang voor deze schijf</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more</source>
+        <translation>%1 is er niet meer</translation>
+    </message>
+    <message>
+        <source>The name %1 is taken</source>
+        <translation>De naam %1 bestaat al</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot go into itself</source>
+        <translation>De map %1 kan niet in zichzelf</translation>
+    </message>
+    <message>
+        <source>%1 or its folder may not be changed</source>
+        <translation>%1 of de map ervan mag niet gewijzigd worden</translation>
+    </message>
+    <message>
+        <source>%1, which it belongs to, keeps its name</source>
+        <translation>%1, waar het bij hoort, houdt zijn naam</translation>
+    </message>
+    <message>
+        <source>%1 was changed or replaced in the meantime</source>
+        <translation>%1 is intussen gewijzigd of vervangen</translation>
+    </message>
+    <message>
+        <source>There is no room left on the disk for %1</source>
+        <translation>Er is op de schijf geen ruimte meer voor %1</translation>
+    </message>
+    <message>
+        <source>%1 is the original itself by now, no copy of it</source>
+        <translation>%1 is intussen het origineel zelf en geen kopie ervan</translation>
+    </message>
+    <message>
+        <source>%1 could not get its new name, and others wait for its old one</source>
+        <translation>%1 kon de nieuwe naam niet krijgen, en andere wachten op de oude</translation>
+    </message>
+</context>
+<context>
+    <name>files::FileService</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kan niet worden geschreven: %2</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made</source>
+        <translation>De map %1 kan niet worden gemaakt</translation>
+    </message>
+</context>
+<context>
+    <name>files::MoveService</name>
+    <message>
+        <source>This run is not open</source>
+        <translation>Deze opdracht is niet geopend</translation>
+    </message>
+    <message>
+        <source>Copying or moving a file</source>
+        <translation>Een bestand kopiëren of verplaatsen</translation>
+    </message>
+    <message>
+        <source>%1 had been put aside and has a name again</source>
+        <translation>%1 was opzijgezet en heeft weer een naam</translation>
+    </message>
+</context>
+<context>
+    <name>hand-action</name>
+    <message>
+        <source>Sort by Hand</source>
+        <translation>Handmatig sorteren</translation>
+    </message>
+</context>
+<context>
+    <name>hand-page</name>
+    <message>
+        <source>In the trash</source>
+        <translation>In de prullenbak</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 van %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>file of %1</source>
+        <translation>bestand %1</translation>
+    </message>
+    <message>
+        <source>Take back the last deed (Ctrl+Z)</source>
+        <translation>Laatste handeling ongedaan maken (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Take back: %1 (Ctrl+Z)</source>
+        <translation>Ongedaan maken: %1 (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Keys move pictures now.</source>
+        <translation>Toetsen verplaatsen nu foto’s.</translation>
+    </message>
+    <message>
+        <source>Keys copy pictures now.</source>
+        <translation>Toetsen kopiëren nu foto’s.</translation>
+    </message>
+    <message>
+        <source>Keys link pictures now.</source>
+        <translation>Toetsen linken nu foto’s.</translation>
+    </message>
+    <message>
+        <source>%1: %2. The picture stays where it is.</source>
+        <translation>%1: %2. De foto blijft op de huidige plaats.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>That was the last picture. All of them are sorted.</source>
+        <translation>Dat was de laatste foto. Ze zijn allemaal gesorteerd.</translation>
+    </message>
+    <message>
+        <source>That was the last picture. %1</source>
+        <translation>Dat was de laatste foto. %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were skipped.</source>
+        <translation>
+            <numerusform>%n is overgeslagen.</numerusform>
+            <numerusform>%n zijn overgeslagen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>hand-pane</name>
+    <message>
+        <source>Move</source>
+        <translation>Verplaatsen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Linken</translation>
+    </message>
+    <message>
+        <source>The picture leaves its folder. (Alt+1)</source>
+        <translation>De foto verdwijnt uit de huidige map. (Alt+1)</translation>
+    </message>
+    <message>
+        <source>The picture stays, and a copy goes into the folder. (Alt+2)</source>
+        <translation>De foto blijft, en een kopie gaat naar de map. (Alt+2)</translation>
+    </message>
+    <message>
+        <source>The picture stays, and the folder gets a link to it. (Alt+3)</source>
+        <translation>De foto blijft, en in de map komt een link ernaar. (Alt+3)</translation>
+    </message>
+    <message>
+        <source>Change Label</source>
+        <translation>Label wijzigen</translation>
+    </message>
+    <message>
+        <source>Show Folder</source>
+        <translation>Map tonen</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Omlaag</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Uit lijst verwijderen</translation>
+    </message>
+    <message>
+        <source>Remove All…</source>
+        <translation>Alle verwijderen…</translation>
+    </message>
+    <message>
+        <source>Remove all folders</source>
+        <translation>Alle mappen verwijderen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take all %n folders off the list?</source>
+        <translation>
+            <numerusform>De map uit de lijst halen?</numerusform>
+            <numerusform>Alle %n mappen uit de lijst halen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The folders themselves stay as they are, and so do presets.</source>
+        <translation>De mappen zelf blijven ongewijzigd, en voorinstellingen ook.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>Choose a folder to sort into</source>
+        <translation>Map kiezen om in te sorteren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders are in the list already.</source>
+        <translation>
+            <numerusform>%n map staat al in de lijst.</numerusform>
+            <numerusform>%n mappen staan al in de lijst.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are keys for %n folders only.</source>
+        <translation>
+            <numerusform>Er is maar voor %n map een toets.</numerusform>
+            <numerusform>Er zijn maar toetsen voor %n mappen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>A folder cannot be called that.</source>
+        <translation>Zo kan een map niet heten.</translation>
+    </message>
+    <message>
+        <source>There is something of this name already.</source>
+        <translation>Er is al iets met deze naam.</translation>
+    </message>
+    <message>
+        <source>In %1</source>
+        <translation>In %1</translation>
+    </message>
+</context>
+<context>
+    <name>hand-slots</name>
+    <message>
+        <source>not there</source>
+        <translation>niet gevonden</translation>
+    </message>
+    <message>
+        <source>not a folder</source>
+        <translation>geen map</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>niet beschrijfbaar</translation>
+    </message>
+</context>
+<context>
+    <name>hand-sorting</name>
+    <message>
+        <source>Moved to %1</source>
+        <translation>Verplaatst naar %1</translation>
+    </message>
+    <message>
+        <source>Copied to %1</source>
+        <translation>Gekopieerd naar %1</translation>
+    </message>
+    <message>
+        <source>Linked in %1</source>
+        <translation>Gelinkt in %1</translation>
+    </message>
+    <message>
+        <source>In the trash</source>
+        <translation>In de prullenbak</translation>
+    </message>
+    <message>
+        <source>Move to %1</source>
+        <translation>Naar %1 verplaatsen</translation>
+    </message>
+    <message>
+        <source>Copy to %1</source>
+        <translation>Naar %1 kopiëren</translation>
+    </message>
+    <message>
+        <source>Link in %1</source>
+        <translation>In %1 linken</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Naar de prullenbak</translation>
+    </message>
+    <message>
+        <source>This picture is in the trash. Undo brings it back.</source>
+        <translation>Deze foto ligt in de prullenbak. Met Ongedaan maken komt de foto terug.</translation>
+    </message>
+    <message>
+        <source>This picture is in %1 already.</source>
+        <translation>Deze foto staat al in %1.</translation>
+    </message>
+    <message>
+        <source>This picture is in the trash already.</source>
+        <translation>Deze foto ligt al in de prullenbak.</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Ongedaan maken: %1</translation>
+    </message>
+    <message>
+        <source>There is nothing left to undo.</source>
+        <translation>Er valt niets meer ongedaan te maken.</translation>
+    </message>
+    <message>
+        <source>Sort by Hand</source>
+        <translation>Handmatig sorteren</translation>
+    </message>
+</context>
+<context>
+    <name>hand-step</name>
+    <message>
+        <source>move</source>
+        <translation>verplaatsen</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>kopiëren</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>linken</translation>
+    </message>
+</context>
+<context>
+    <name>help</name>
+    <message>
+        <source>The manual is not installed.</source>
+        <translation>De handleiding is niet geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>Looking for a new version…</source>
+        <translation>Er wordt naar een nieuwe versie gezocht…</translation>
+    </message>
+    <message>
+        <source>This is the newest version.</source>
+        <translation>Dit is de nieuwste versie.</translation>
+    </message>
+    <message>
+        <source>Nobody answers where new versions are announced.</source>
+        <translation>Er komt geen antwoord van de plaats waar nieuwe versies worden aangekondigd.</translation>
+    </message>
+    <message>
+        <source>This installation does not know where new versions are announced.</source>
+        <translation>Deze installatie weet niet waar nieuwe versies worden aangekondigd.</translation>
+    </message>
+</context>
+<context>
+    <name>image::PictureService</name>
+    <message>
+        <source>not a readable picture</source>
+        <translation>geen leesbare foto</translation>
+    </message>
+    <message>
+        <source>the pattern cannot be read</source>
+        <translation>het patroon kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>this type cannot be written</source>
+        <translation>dit type kan niet worden geschreven</translation>
+    </message>
+</context>
+<context>
+    <name>input</name>
+    <message>
+        <source>%1 added</source>
+        <translation>%1 toegevoegd</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were in the list already</source>
+        <translation>
+            <numerusform>%n stond al in de lijst</numerusform>
+            <numerusform>%n stonden al in de lijst</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files go along</source>
+        <translation>
+            <numerusform>%n bestand gaat mee</numerusform>
+            <numerusform>%n bestanden gaan mee</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>+ %1</source>
+        <translation>+ %1</translation>
+    </message>
+    <message>
+        <source>Add all pictures of a folder</source>
+        <translation>Alle foto’s van een map toevoegen</translation>
+    </message>
+    <message>
+        <source>Add all files of a folder</source>
+        <translation>Alle bestanden van een map toevoegen</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>Een map toevoegen</translation>
+    </message>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>Er staan geen bestanden op het klembord</translation>
+    </message>
+</context>
+<context>
+    <name>input-words</name>
+    <message>
+        <source>No pictures yet</source>
+        <translation>Nog geen foto’s</translation>
+    </message>
+    <message>
+        <source>No pictures there</source>
+        <translation>Daar zijn geen foto’s</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Foto’s toevoegen…</translation>
+    </message>
+    <message>
+        <source>Drop pictures or folders here</source>
+        <translation>Sleep foto’s of mappen hierheen</translation>
+    </message>
+    <message>
+        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
+        <translation>Kies daarna links wat ermee moet gebeuren. Uw originelen blijven ongewijzigd, tenzij u anders kiest.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a picture that can be taken</source>
+        <translation>“%1” is geen bruikbare foto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are not pictures that can be taken</source>
+        <translation>
+            <numerusform>%n bestand is geen bruikbare foto</numerusform>
+            <numerusform>%n bestanden zijn geen bruikbare foto’s</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other files of the list are not pictures that can be taken</source>
+        <translation>
+            <numerusform>%n ander bestand in de lijst is geen bruikbare foto</numerusform>
+            <numerusform>%n andere bestanden in de lijst zijn geen bruikbare foto’s</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n bestand</numerusform>
+            <numerusform>%n bestanden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Nog geen bestanden</translation>
+    </message>
+    <message>
+        <source>No files there</source>
+        <translation>Daar zijn geen bestanden</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>Bestanden toevoegen…</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here</source>
+        <translation>Sleep bestanden of mappen hierheen</translation>
+    </message>
+    <message>
+        <source>Then say on the right what is to become of them. You see everything before it happens, and can undo it afterwards.</source>
+        <translation>Kies daarna rechts wat ermee moet gebeuren. U ziet alles voordat het gebeurt en kunt het achteraf ongedaan maken.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be taken</source>
+        <translation>“%1” is niet bruikbaar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files cannot be taken</source>
+        <translation>
+            <numerusform>%n bestand is niet bruikbaar</numerusform>
+            <numerusform>%n bestanden zijn niet bruikbaar</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders of the list are left out</source>
+        <translation>
+            <numerusform>%n map in de lijst telt niet mee</numerusform>
+            <numerusform>%n mappen in de lijst tellen niet mee</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n map</numerusform>
+            <numerusform>%n mappen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No folders yet</source>
+        <translation>Nog geen mappen</translation>
+    </message>
+    <message>
+        <source>No folders there</source>
+        <translation>Daar zijn geen mappen</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Map toevoegen…</translation>
+    </message>
+    <message>
+        <source>Drop folders here</source>
+        <translation>Sleep mappen hierheen</translation>
+    </message>
+    <message>
+        <source>The folders themselves are worked on; what is in them stays in them.</source>
+        <translation>De mappen zelf worden bewerkt; wat erin staat, blijft erin.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a folder</source>
+        <translation>“%1” is geen map</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are not folders</source>
+        <translation>
+            <numerusform>%n bestand is geen map</numerusform>
+            <numerusform>%n bestanden zijn geen mappen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of the list are left out</source>
+        <translation>
+            <numerusform>%n bestand in de lijst telt niet mee</numerusform>
+            <numerusform>%n bestanden in de lijst tellen niet mee</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>job</name>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>de map is niet beschrijfbaar</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>er is al een bestand met deze naam</translation>
+    </message>
+    <message>
+        <source>no free name was found</source>
+        <translation>geen vrije naam gevonden</translation>
+    </message>
+</context>
+<context>
+    <name>log-action</name>
+    <message>
+        <source>Log</source>
+        <translation>Logboek</translation>
+    </message>
+</context>
+<context>
+    <name>log-page</name>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Deed</source>
+        <translation>Handeling</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Old comment</source>
+        <translation>Oude opmerking</translation>
+    </message>
+    <message>
+        <source>New comment</source>
+        <translation>Nieuwe opmerking</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Alle opdrachten</translation>
+    </message>
+    <message>
+        <source>Undo of %1</source>
+        <translation>Ongedaan: %1</translation>
+    </message>
+    <message>
+        <source>Redo of %1</source>
+        <translation>Opnieuw: %1</translation>
+    </message>
+    <message>
+        <source>%1 (run of %2)</source>
+        <translation>%1 (opdracht van %2)</translation>
+    </message>
+    <message>
+        <source>Any deed</source>
+        <translation>Elke handeling</translation>
+    </message>
+    <message>
+        <source>Comments only</source>
+        <translation>Alleen opmerkingen</translation>
+    </message>
+    <message>
+        <source>Any status</source>
+        <translation>Elke status</translation>
+    </message>
+    <message>
+        <source>A run is being undone. Stop it first, or wait.</source>
+        <translation>Een opdracht wordt ongedaan gemaakt. Stop dat eerst, of wacht.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln regel</numerusform>
+            <numerusform>%Ln regels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %Ln entries</source>
+        <translation>
+            <numerusform>%1 van %Ln regel</numerusform>
+            <numerusform>%1 van %Ln regels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy %n Rows</source>
+        <translation>
+            <numerusform>Regel kopiëren</numerusform>
+            <numerusform>%n regels kopiëren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Clear Log…</source>
+        <translation>Logboek leegmaken…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Revert %n Comments</source>
+        <translation>
+            <numerusform>Opmerking terugzetten</numerusform>
+            <numerusform>%n opmerkingen terugzetten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments chosen</source>
+        <translation>
+            <numerusform>%n opmerking gekozen</numerusform>
+            <numerusform>%n opmerkingen gekozen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No entry matches.</source>
+        <translation>Geen regel voldoet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</source>
+        <translation>
+            <numerusform>Er is nog niets gedaan. Elke opdracht noteert hier wat er met elke foto is gebeurd; de nieuwste regel blijft bewaard.</numerusform>
+            <numerusform>Er is nog niets gedaan. Elke opdracht noteert hier wat er met elke foto is gebeurd; de nieuwste %Ln regels blijven bewaard.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n probleem</numerusform>
+            <numerusform>%n problemen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export the log</source>
+        <translation>Logboek exporteren</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Logboek</translation>
+    </message>
+    <message>
+        <source>Log saved as %1</source>
+        <translation>Logboek bewaard als %1</translation>
+    </message>
+    <message>
+        <source>Clear log</source>
+        <translation>Logboek leegmaken</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln entries from the log?</source>
+        <translation>
+            <numerusform>De enige regel uit het logboek verwijderen?</numerusform>
+            <numerusform>Alle %Ln regels uit het logboek verwijderen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Your files stay as they are. Runs can then no longer be undone from here.</source>
+        <translation>Uw bestanden blijven ongewijzigd. Opdrachten kunnen daarna niet meer vanaf hier ongedaan worden gemaakt.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leegmaken</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>Revert comment</source>
+        <translation>Opmerking terugzetten</translation>
+    </message>
+    <message>
+        <source>Reverting: %1 of %2</source>
+        <translation>Terugzetten: %1 van %2</translation>
+    </message>
+    <message>
+        <source>Undoing: %1 of %2</source>
+        <translation>Ongedaan maken: %1 van %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files taken back</source>
+        <translation>
+            <numerusform>%n bestand teruggezet</numerusform>
+            <numerusform>%n bestanden teruggezet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped:</source>
+        <translation>Gestopt:</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Something went wrong</source>
+        <translation>Er ging iets mis</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+</context>
+<context>
+    <name>main-window</name>
+    <message>
+        <source>Drop to add pictures and folders</source>
+        <translation>Laat los om foto’s en mappen toe te voegen</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Passend</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Vullend</translation>
+    </message>
+    <message>
+        <source>A run is under way</source>
+        <translation>Er loopt een opdracht</translation>
+    </message>
+    <message>
+        <source>Stop the run and close the window?</source>
+        <translation>De opdracht stoppen en het venster sluiten?</translation>
+    </message>
+    <message>
+        <source>What is finished stays; nothing half written is left.</source>
+        <translation>Wat klaar is, blijft; er blijft niets half geschreven achter.</translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <translation>Stoppen en sluiten</translation>
+    </message>
+    <message>
+        <source>Keep Running</source>
+        <translation>Laten doorgaan</translation>
+    </message>
+</context>
+<context>
+    <name>manual</name>
+    <message>
+        <source>No page says “%1”.</source>
+        <translation>Op geen pagina staat “%1”.</translation>
+    </message>
+</context>
+<context>
+    <name>measure</name>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>pc</source>
+        <translation>pc</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation>pt</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-action</name>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-page</name>
+    <message>
+        <source>This Picture</source>
+        <translation>Deze foto</translation>
+    </message>
+    <message>
+        <source>Many Pictures</source>
+        <translation>Meerdere foto’s</translation>
+    </message>
+    <message>
+        <source>Search values</source>
+        <translation>Waarden zoeken</translation>
+    </message>
+    <message>
+        <source>Comments are being written. Cancel it first, or wait.</source>
+        <translation>Er worden opmerkingen geschreven. Annuleer dat eerst, of wacht.</translation>
+    </message>
+    <message>
+        <source>This file is not a picture that can be read.</source>
+        <translation>Dit bestand is geen leesbare foto.</translation>
+    </message>
+    <message>
+        <source>Copy Value or Branch</source>
+        <translation>Waarde of tak kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy Place in Degrees, 48.85840, 2.29450</source>
+        <translation>Plaats kopiëren in graden, 48.85840, 2.29450</translation>
+    </message>
+    <message>
+        <source>Copy Place in Minutes, 48° 51′ 30″ N</source>
+        <translation>Plaats kopiëren in minuten, 48° 51′ 30″ N</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines copied</source>
+        <translation>
+            <numerusform>%n regel gekopieerd</numerusform>
+            <numerusform>%n regels gekopieerd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose a property to copy first.</source>
+        <translation>Kies eerst een eigenschap om te kopiëren.</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Gekopieerd: %1</translation>
+    </message>
+    <message>
+        <source>Files of this type have no place for a comment.</source>
+        <translation>Bestanden van dit type hebben geen plaats voor een opmerking.</translation>
+    </message>
+    <message>
+        <source>Tokens such as {name}, {date} and {counter} stand for what each picture has; {{ is a brace.</source>
+        <translation>Codes zoals {name}, {date} en {counter} staan voor wat elke foto heeft; {{ is een accolade.</translation>
+    </message>
+    <message>
+        <source>For example %1: “%2”</source>
+        <translation>Bijvoorbeeld %1: “%2”</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 van %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n properties</source>
+        <translation>
+            <numerusform>%n eigenschap</numerusform>
+            <numerusform>%n eigenschappen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Revert %n</source>
+        <translation>
+            <numerusform>Terugzetten</numerusform>
+            <numerusform>%n terugzetten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write into All %n…</source>
+        <translation>
+            <numerusform>In %n schrijven…</numerusform>
+            <numerusform>In alle %n schrijven…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages</source>
+        <translation>
+            <numerusform>nog %n pagina</numerusform>
+            <numerusform>nog %n pagina’s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
+        <translation>Dit bestand heeft %1. Die zouden verwijderd worden en zijn niet terug te halen: alleen de eerste pagina blijft over.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <translation>
+            <numerusform>%n bestand heeft meer pagina’s en wordt overgeslagen; de opmerking zou het %1 kosten: %2.</numerusform>
+            <numerusform>%n bestanden hebben meer pagina’s en worden overgeslagen; de opmerking zou ze %1 kosten: %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
+        <translation>De originelen zelf worden gewijzigd: hun opmerking, en verder niets.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <translation>
+            <numerusform>%n bestand is van een type zonder plaats voor een opmerking en blijft zoals het is.</numerusform>
+            <numerusform>%n bestanden zijn van een type zonder plaats voor een opmerking en blijven zoals ze zijn.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write comment</source>
+        <translation>Opmerking schrijven</translation>
+    </message>
+    <message numerus="yes">
+        <source>Empty the comments of %n pictures?</source>
+        <translation>
+            <numerusform>De opmerking van deze foto leegmaken?</numerusform>
+            <numerusform>De opmerking van %n foto’s leegmaken?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write the comment into %n pictures?</source>
+        <translation>
+            <numerusform>De opmerking in deze foto schrijven?</numerusform>
+            <numerusform>De opmerking in %n foto’s schrijven?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write and Remove Pages</source>
+        <translation>Schrijven en pagina’s verwijderen</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schrijven</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Write into these too, and keep only their first page</source>
+        <translation>Ook in deze schrijven en alleen de eerste pagina houden</translation>
+    </message>
+    <message>
+        <source>Write the comment into pictures</source>
+        <translation>De opmerking in foto’s schrijven</translation>
+    </message>
+    <message>
+        <source>Write the comment into all pictures of a folder</source>
+        <translation>De opmerking in alle foto’s van een map schrijven</translation>
+    </message>
+    <message>
+        <source>Revert comment</source>
+        <translation>Opmerking terugzetten</translation>
+    </message>
+</context>
+<context>
+    <name>move-run</name>
+    <message>
+        <source>Too little room</source>
+        <translation>Te weinig ruimte</translation>
+    </message>
+    <message>
+        <source>Files that find no room stay where they are.</source>
+        <translation>Bestanden waarvoor geen ruimte is, blijven op hun plaats.</translation>
+    </message>
+    <message>
+        <source>Start Anyway</source>
+        <translation>Toch starten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Cancelled before the first file. Nothing was moved.</source>
+        <translation>Geannuleerd vóór het eerste bestand. Er is niets verplaatst.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do.</source>
+        <translation>Er is niets te doen.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was moved.</source>
+        <translation>Geannuleerd. Er is niets verplaatst.</translation>
+    </message>
+    <message>
+        <source>Simulation: %1</source>
+        <translation>Simulatie: %1</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 niet meegenomen</translation>
+    </message>
+    <message>
+        <source>nothing was moved</source>
+        <translation>er is niets verplaatst</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>gedaan</translation>
+    </message>
+    <message>
+        <source>cancelled before its turn</source>
+        <translation>geannuleerd vóór de beurt</translation>
+    </message>
+    <message>
+        <source>Cancelled:</source>
+        <translation>Geannuleerd:</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Opnieuw uitvoeren</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n bestand</numerusform>
+            <numerusform>%n bestanden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Last run: %1, %2</source>
+        <translation>Laatste opdracht: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>move-words</name>
+    <message>
+        <source>name is empty</source>
+        <translation>naam is leeg</translation>
+    </message>
+    <message>
+        <source>a name cannot have “/” in it or be “.” or “..”</source>
+        <translation>een naam mag geen “/” bevatten en niet “.” of “..” zijn</translation>
+    </message>
+    <message>
+        <source>name is too long</source>
+        <translation>naam is te lang</translation>
+    </message>
+    <message>
+        <source>the file is not there any more</source>
+        <translation>het bestand is er niet meer</translation>
+    </message>
+    <message>
+        <source>%1 would get this name too</source>
+        <translation>%1 krijgt ook deze naam</translation>
+    </message>
+    <message>
+        <source>name is taken by %1, which is not in this list or stays</source>
+        <translation>naam is bezet door %1, dat niet in deze lijst staat of blijft</translation>
+    </message>
+    <message>
+        <source>name is taken by a file not in this list</source>
+        <translation>naam is bezet door een bestand buiten deze lijst</translation>
+    </message>
+    <message>
+        <source>differs only by case or accents from %1</source>
+        <translation>verschilt alleen in hoofdletters of accenten van %1</translation>
+    </message>
+    <message>
+        <source>a folder cannot go into itself</source>
+        <translation>een map kan niet in zichzelf</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>de map is niet beschrijfbaar</translation>
+    </message>
+    <message>
+        <source>the file that it goes with stays</source>
+        <translation>het bestand waar het bij hoort, blijft</translation>
+    </message>
+    <message>
+        <source>a file that goes along cannot: %1 is in its place</source>
+        <translation>een bestand dat meegaat, kan niet mee: %1 staat op zijn plaats</translation>
+    </message>
+    <message>
+        <source>a file that goes along cannot</source>
+        <translation>een bestand dat meegaat, kan niet mee</translation>
+    </message>
+    <message>
+        <source>cannot be done</source>
+        <translation>niet mogelijk</translation>
+    </message>
+    <message>
+        <source>changes places with %1: done in two steps</source>
+        <translation>wisselt van plaats met %1: gaat in twee stappen</translation>
+    </message>
+    <message>
+        <source>ready, with its %1</source>
+        <translation>in orde, met %1</translation>
+    </message>
+    <message>
+        <source>ready, numbered because the name is taken</source>
+        <translation>in orde, genummerd omdat de naam al bestaat</translation>
+    </message>
+    <message>
+        <source>ready, onto another disk</source>
+        <translation>in orde, naar een andere schijf</translation>
+    </message>
+    <message>
+        <source>ready, only the case changes</source>
+        <translation>in orde, alleen hoofdletters wijzigen</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>in orde</translation>
+    </message>
+    <message>
+        <source>Goes with its %1.</source>
+        <translation>Neemt %1 mee.</translation>
+    </message>
+    <message>
+        <source>ready, but %1</source>
+        <translation>in orde, maar %1</translation>
+    </message>
+    <message>
+        <source>stays: %1 gets this name</source>
+        <translation>blijft: %1 krijgt deze naam</translation>
+    </message>
+    <message>
+        <source>stays: a file of this name is there</source>
+        <translation>blijft: er is al een bestand met deze naam</translation>
+    </message>
+    <message>
+        <source>In the way: %1</source>
+        <translation>In de weg: %1</translation>
+    </message>
+    <message>
+        <source>goes along with %1</source>
+        <translation>gaat mee met %1</translation>
+    </message>
+    <message>
+        <source>stays as it is</source>
+        <translation>blijft ongewijzigd</translation>
+    </message>
+</context>
+<context>
+    <name>moves</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simuleren: %1</translation>
+    </message>
+    <message>
+        <source>Working out names: %1 of %2…</source>
+        <translation>Namen bepalen: %1 van %2…</translation>
+    </message>
+    <message>
+        <source>%1 ready</source>
+        <translation>%1 in orde</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n need attention</source>
+        <translation>
+            <numerusform>%n vraagt aandacht</numerusform>
+            <numerusform>%n vragen aandacht</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stay as they are</source>
+        <translation>
+            <numerusform>%n blijft ongewijzigd</numerusform>
+            <numerusform>%n blijven ongewijzigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n go along</source>
+        <translation>
+            <numerusform>%n gaat mee</numerusform>
+            <numerusform>%n gaan mee</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>can be undone</source>
+        <translation>ongedaan te maken</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nu</translation>
+    </message>
+</context>
+<context>
+    <name>name-steps</name>
+    <message>
+        <source>Enter a text.</source>
+        <translation>Geef een tekst op.</translation>
+    </message>
+    <message>
+        <source>Write numbers of pieces with commas between them, such as 2,1; -1 is the last.</source>
+        <translation>Geef nummers van delen op met komma’s ertussen, zoals 2,1; -1 is het laatste.</translation>
+    </message>
+</context>
+<context>
+    <name>new-version</name>
+    <message>
+        <source>Quorlin</source>
+        <translation>Quorlin</translation>
+    </message>
+</context>
+<context>
+    <name>output-pane</name>
+    <message>
+        <source>EXIF, IPTC and XMP do not go along.</source>
+        <translation>EXIF, IPTC en XMP gaan niet mee.</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP go along into %1 files only.</source>
+        <translation>EXIF, IPTC en XMP gaan alleen mee in %1-bestanden.</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation>- en </translation>
+    </message>
+    <message>
+        <source>Metadata and colour profile go along.</source>
+        <translation>Metadata en kleurprofiel gaan mee.</translation>
+    </message>
+    <message>
+        <source>The colour profile goes along if it fits, else colours become sRGB; EXIF, IPTC and XMP do not.</source>
+        <translation>Het kleurprofiel gaat mee als het past, anders worden de kleuren sRGB; EXIF, IPTC en XMP niet.</translation>
+    </message>
+    <message>
+        <source>The colour profile goes along; EXIF, IPTC and XMP do not.</source>
+        <translation>Het kleurprofiel gaat mee; EXIF, IPTC en XMP niet.</translation>
+    </message>
+    <message>
+        <source>Neither metadata nor colour profile go along; colours become sRGB.</source>
+        <translation>Metadata en kleurprofiel gaan niet mee; kleuren worden sRGB.</translation>
+    </message>
+    <message>
+        <source>Transparent parts become black.</source>
+        <translation>Transparante delen worden zwart.</translation>
+    </message>
+    <message>
+        <source>Number the new file</source>
+        <translation>Nummer toevoegen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Vervangen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Overslaan</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Vragen</translation>
+    </message>
+    <message>
+        <source>Original file type</source>
+        <translation>Type van het origineel</translation>
+    </message>
+    <message>
+        <source>Folder “%1” beside it</source>
+        <translation>Submap “%1”</translation>
+    </message>
+    <message>
+        <source>Folder of the original</source>
+        <translation>Map van het origineel</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Save results to</source>
+        <translation>Resultaten bewaren in</translation>
+    </message>
+</context>
+<context>
+    <name>pane</name>
+    <message>
+        <source> at %1 dpi</source>
+        <translation> bij %1 dpi</translation>
+    </message>
+</context>
+<context>
+    <name>plan</name>
+    <message>
+        <source>cancelled</source>
+        <translation>geannuleerd</translation>
+    </message>
+    <message>
+        <source>another picture of this run gets this name</source>
+        <translation>een andere foto van deze opdracht krijgt deze naam</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>er is al een bestand met deze naam</translation>
+    </message>
+    <message>
+        <source>the folder to save to has no name of its own</source>
+        <translation>de doelmap heeft geen eigen naam</translation>
+    </message>
+</context>
+<context>
+    <name>platform</name>
+    <message>
+        <source>The tags of %1 could not be written</source>
+        <translation>De tags van %1 konden niet worden geschreven</translation>
+    </message>
+    <message>
+        <source>Cannot trash %1</source>
+        <translation>%1 kan niet naar de prullenbak</translation>
+    </message>
+    <message>
+        <source>Cannot trash %1: there is nothing</source>
+        <translation>%1 kan niet naar de prullenbak: er is niets</translation>
+    </message>
+    <message>
+        <source>Cannot trash %1: %2</source>
+        <translation>%1 kan niet naar de prullenbak: %2</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>Kan %1 niet lezen: %2</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>dit is geen gewoon bestand</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Kan %1 niet schrijven: %2</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>kB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
+    </message>
+    <message>
+        <source>PB</source>
+        <translation>PB</translation>
+    </message>
+    <message>
+        <source>EB</source>
+        <translation>EB</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%n byte</numerusform>
+            <numerusform>%n bytes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 needs about %2 of memory, %3 is free</source>
+        <translation>%1 heeft ongeveer %2 geheugen nodig, %3 is vrij</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, %2 is free</source>
+        <translation>heeft ongeveer %1 geheugen nodig, %2 is vrij</translation>
+    </message>
+    <message>
+        <source>There is no picture to draw</source>
+        <translation>Er is geen foto om te tekenen</translation>
+    </message>
+    <message>
+        <source>The picture is too large</source>
+        <translation>De foto is te groot</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw</source>
+        <translation>Er is niets om te tekenen</translation>
+    </message>
+    <message>
+        <source>No picture of %1 x %2 pixels can be made</source>
+        <translation>Een foto van %1 x %2 pixels kan niet worden gemaakt</translation>
+    </message>
+    <message>
+        <source>Reading the picture</source>
+        <translation>Het lezen van de foto</translation>
+    </message>
+    <message>
+        <source>The picture</source>
+        <translation>De foto</translation>
+    </message>
+    <message>
+        <source>There is no picture to scale</source>
+        <translation>Er is geen foto om te schalen</translation>
+    </message>
+    <message>
+        <source>There is no picture to turn</source>
+        <translation>Er is geen foto om te draaien</translation>
+    </message>
+    <message>
+        <source>A picture cannot be turned by that angle</source>
+        <translation>Een foto kan niet over die hoek worden gedraaid</translation>
+    </message>
+    <message>
+        <source>the file is damaged</source>
+        <translation>het bestand is beschadigd</translation>
+    </message>
+    <message>
+        <source>the comment is too long</source>
+        <translation>de opmerking is te lang</translation>
+    </message>
+    <message>
+        <source>There is no picture to write</source>
+        <translation>Er is geen foto om te schrijven</translation>
+    </message>
+    <message>
+        <source>The page could not be made: %1</source>
+        <translation>De pagina kon niet worden gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>The JPEG could not be made: %1</source>
+        <translation>De JPEG kon niet worden gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture</source>
+        <translation>Het schrijven van de foto</translation>
+    </message>
+    <message>
+        <source>The picture could not be encoded: %1</source>
+        <translation>De foto kon niet worden gecodeerd: %1</translation>
+    </message>
+    <message>
+        <source>The file is neither JPEG nor TIFF</source>
+        <translation>Het bestand is geen JPEG of TIFF</translation>
+    </message>
+    <message>
+        <source>This is no property list with a dictionary</source>
+        <translation>Dit is geen eigenschappenlijst met een woordenboek</translation>
+    </message>
+    <message>
+        <source>A property list cannot hold this under %1</source>
+        <translation>Een eigenschappenlijst kan dit niet bevatten onder %1</translation>
+    </message>
+</context>
+<context>
+    <name>preferences</name>
+    <message>
+        <source>As the system</source>
+        <translation>Zoals het systeem</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Donker</translation>
+    </message>
+    <message>
+        <source>Number the new file</source>
+        <translation>Nummer toevoegen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Vervangen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Overslaan</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Vragen</translation>
+    </message>
+    <message>
+        <source>the newest 1,000 entries</source>
+        <translation>de nieuwste 1.000 regels</translation>
+    </message>
+    <message>
+        <source>the newest 10,000 entries</source>
+        <translation>de nieuwste 10.000 regels</translation>
+    </message>
+    <message>
+        <source>the newest 100,000 entries</source>
+        <translation>de nieuwste 100.000 regels</translation>
+    </message>
+</context>
+<context>
+    <name>preset-pane</name>
+    <message>
+        <source>%1 (newer version)</source>
+        <translation>%1 (nieuwere versie)</translation>
+    </message>
+    <message>
+        <source>%1 (unknown)</source>
+        <translation>%1 (onbekend)</translation>
+    </message>
+    <message>
+        <source>%1 (damaged)</source>
+        <translation>%1 (beschadigd)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Geen</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1, gewijzigd</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>gewijzigd</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Bewaren</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Bewaren als…</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Hernoemen…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Verwijderen…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporteren…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importeren…</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>My preset</source>
+        <translation>Mijn voorinstelling</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Hernoemen</translation>
+    </message>
+    <message>
+        <source>Delete preset</source>
+        <translation>Voorinstelling verwijderen</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>De voorinstelling “%1” verwijderen?</translation>
+    </message>
+    <message>
+        <source>The settings stay as they are now.</source>
+        <translation>De instellingen blijven zoals ze nu zijn.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>Export the preset</source>
+        <translation>Voorinstelling exporteren</translation>
+    </message>
+    <message>
+        <source>Preset exported as %1</source>
+        <translation>Voorinstelling geëxporteerd als %1</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>Voorinstellingen importeren</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kan niet worden gelezen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n presets imported</source>
+        <translation>
+            <numerusform>%1 van %n voorinstelling geïmporteerd</numerusform>
+            <numerusform>%1 van %n voorinstellingen geïmporteerd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n presets imported</source>
+        <translation>
+            <numerusform>%n voorinstelling geïmporteerd</numerusform>
+            <numerusform>%n voorinstellingen geïmporteerd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed, their names were taken</source>
+        <translation>
+            <numerusform>%n hernoemd, de naam bestond al</numerusform>
+            <numerusform>%n hernoemd, hun namen bestonden al</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>none for this action</source>
+        <translation>geen voor deze bewerking</translation>
+    </message>
+</context>
+<context>
+    <name>preset-store</name>
+    <message>
+        <source>The presets database was empty and could not be used. It is called %1 now, and there is a new one.</source>
+        <translation>De database met voorinstellingen was leeg en onbruikbaar. Ze heet nu %1, en er is een nieuwe.</translation>
+    </message>
+    <message>
+        <source>Presets cannot be kept: their database cannot be made.</source>
+        <translation>Voorinstellingen kunnen niet worden bewaard: hun database kan niet worden gemaakt.</translation>
+    </message>
+    <message>
+        <source>The presets database cannot be read.</source>
+        <translation>De database met voorinstellingen kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>The presets database is damaged. It is left as it is.</source>
+        <translation>De database met voorinstellingen is beschadigd. Ze blijft ongewijzigd.</translation>
+    </message>
+    <message>
+        <source>The presets database has no place for presets. It is left as it is.</source>
+        <translation>De database met voorinstellingen heeft geen plaats voor voorinstellingen. Ze blijft ongewijzigd.</translation>
+    </message>
+    <message>
+        <source>The presets database is in use by another program, or damaged. It is left as it is.</source>
+        <translation>De database met voorinstellingen is in gebruik door een ander programma, of beschadigd. Ze blijft ongewijzigd.</translation>
+    </message>
+    <message>
+        <source>The presets database is read-only; nothing was changed.</source>
+        <translation>De database met voorinstellingen is alleen-lezen; er is niets gewijzigd.</translation>
+    </message>
+    <message>
+        <source>The presets database is in use by another program, or the disk is full; nothing was changed.</source>
+        <translation>De database met voorinstellingen is in gebruik door een ander programma, of de schijf is vol; er is niets gewijzigd.</translation>
+    </message>
+</context>
+<context>
+    <name>presets</name>
+    <message>
+        <source>This preset was not made by Quorlin. It is left as it is.</source>
+        <translation>Deze voorinstelling is niet met Quorlin gemaakt. Ze blijft ongewijzigd.</translation>
+    </message>
+    <message>
+        <source>This preset was made by a newer Quorlin. It is left as it is.</source>
+        <translation>Deze voorinstelling is gemaakt met een nieuwere Quorlin. Ze blijft ongewijzigd.</translation>
+    </message>
+    <message>
+        <source>This preset is damaged and cannot be used.</source>
+        <translation>Deze voorinstelling is beschadigd en niet bruikbaar.</translation>
+    </message>
+    <message>
+        <source>Enter a name.</source>
+        <translation>Geef een naam op.</translation>
+    </message>
+    <message>
+        <source>A name cannot have a straight apostrophe (&apos;) in it. A curved one (’) is fine.</source>
+        <translation>Een naam mag geen rechte apostrof (&apos;) bevatten. Een gebogen (’) mag wel.</translation>
+    </message>
+    <message>
+        <source>A name cannot have a bar (|) in it.</source>
+        <translation>Een naam mag geen verticale streep (|) bevatten.</translation>
+    </message>
+    <message>
+        <source>A name cannot have line breaks or control characters in it.</source>
+        <translation>Een naam mag geen regeleinden of stuurtekens bevatten.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A name can have up to %n characters.</source>
+        <translation>
+            <numerusform>Een naam mag hoogstens %n teken hebben.</numerusform>
+            <numerusform>Een naam mag hoogstens %n tekens hebben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is a preset named %1 already.</source>
+        <translation>Er is al een voorinstelling met de naam %1.</translation>
+    </message>
+    <message>
+        <source>This file holds no presets.</source>
+        <translation>Dit bestand bevat geen voorinstellingen.</translation>
+    </message>
+    <message>
+        <source>This file was made by a newer Quorlin.</source>
+        <translation>Dit bestand is gemaakt met een nieuwere Quorlin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n presets in this file cannot be used.</source>
+        <translation>
+            <numerusform>%1 van %n voorinstelling in dit bestand is niet bruikbaar.</numerusform>
+            <numerusform>%1 van %n voorinstellingen in dit bestand zijn niet bruikbaar.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>preview-side</name>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>quality %1</source>
+        <translation>kwaliteit %1</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>ongeveer %1</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Origineel</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>Large preview</source>
+        <translation>Groot voorbeeld</translation>
+    </message>
+</context>
+<context>
+    <name>properties</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 EV</source>
+        <translation>%1 EV</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>rechtop</translation>
+    </message>
+    <message>
+        <source>mirrored</source>
+        <translation>gespiegeld</translation>
+    </message>
+    <message>
+        <source>upside down</source>
+        <translation>ondersteboven</translation>
+    </message>
+    <message>
+        <source>upside down, mirrored</source>
+        <translation>ondersteboven, gespiegeld</translation>
+    </message>
+    <message>
+        <source>on its left side, mirrored</source>
+        <translation>op de linkerzijde, gespiegeld</translation>
+    </message>
+    <message>
+        <source>turn right to see it upright</source>
+        <translation>naar rechts draaien voor rechtop</translation>
+    </message>
+    <message>
+        <source>on its right side, mirrored</source>
+        <translation>op de rechterzijde, gespiegeld</translation>
+    </message>
+    <message>
+        <source>turn left to see it upright</source>
+        <translation>naar links draaien voor rechtop</translation>
+    </message>
+    <message>
+        <source>fired</source>
+        <translation>geflitst</translation>
+    </message>
+    <message>
+        <source>did not fire</source>
+        <translation>niet geflitst</translation>
+    </message>
+    <message>
+        <source>manual</source>
+        <translation>handmatig</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source>aperture priority</source>
+        <translation>diafragmavoorkeuze</translation>
+    </message>
+    <message>
+        <source>shutter priority</source>
+        <translation>sluitertijdvoorkeuze</translation>
+    </message>
+    <message>
+        <source>creative</source>
+        <translation>creatief</translation>
+    </message>
+    <message>
+        <source>action</source>
+        <translation>actie</translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation>portret</translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation>landschap</translation>
+    </message>
+    <message>
+        <source>average</source>
+        <translation>gemiddeld</translation>
+    </message>
+    <message>
+        <source>centre-weighted</source>
+        <translation>centrumgericht</translation>
+    </message>
+    <message>
+        <source>spot</source>
+        <translation>spot</translation>
+    </message>
+    <message>
+        <source>several spots</source>
+        <translation>multispot</translation>
+    </message>
+    <message>
+        <source>several fields</source>
+        <translation>meervelds</translation>
+    </message>
+    <message>
+        <source>part of the picture</source>
+        <translation>deel van het beeld</translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation>standaard</translation>
+    </message>
+    <message>
+        <source>night</source>
+        <translation>nacht</translation>
+    </message>
+    <message>
+        <source>bracketing</source>
+        <translation>bracketing</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>inch</translation>
+    </message>
+    <message>
+        <source>centimetre</source>
+        <translation>centimeter</translation>
+    </message>
+    <message>
+        <source>not sRGB</source>
+        <translation>geen sRGB</translation>
+    </message>
+    <message>
+        <source>above sea level</source>
+        <translation>boven zeeniveau</translation>
+    </message>
+    <message>
+        <source>below sea level</source>
+        <translation>onder zeeniveau</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixels</source>
+        <translation>
+            <numerusform>%n pixel</numerusform>
+            <numerusform>%n pixels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bits</source>
+        <translation>
+            <numerusform>%n bit</numerusform>
+            <numerusform>%n bits</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln bytes</source>
+        <translation>
+            <numerusform>%Ln byte</numerusform>
+            <numerusform>%Ln bytes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nee</translation>
+    </message>
+    <message>
+        <source>Acceleration</source>
+        <translation>Versnelling</translation>
+    </message>
+    <message>
+        <source>Action advised</source>
+        <translation>Aanbevolen actie</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Hoogte</translation>
+    </message>
+    <message>
+        <source>Altitude reference</source>
+        <translation>Hoogtereferentie</translation>
+    </message>
+    <message>
+        <source>Aperture value</source>
+        <translation>Diafragmawaarde</translation>
+    </message>
+    <message>
+        <source>Area information</source>
+        <translation>Gebiedsinformatie</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Fotograaf</translation>
+    </message>
+    <message>
+        <source>Audio duration</source>
+        <translation>Audioduur</translation>
+    </message>
+    <message>
+        <source>Audio outcue</source>
+        <translation>Slotwoorden audio</translation>
+    </message>
+    <message>
+        <source>Audio rate</source>
+        <translation>Audiobemonstering</translation>
+    </message>
+    <message>
+        <source>Audio resolution</source>
+        <translation>Audioresolutie</translation>
+    </message>
+    <message>
+        <source>Audio type</source>
+        <translation>Audiotype</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Battery level</source>
+        <translation>Batterijniveau</translation>
+    </message>
+    <message>
+        <source>Body serial number</source>
+        <translation>Serienummer body</translation>
+    </message>
+    <message>
+        <source>Brightness value</source>
+        <translation>Helderheidswaarde</translation>
+    </message>
+    <message>
+        <source>By-line</source>
+        <translation>Naamsvermelding</translation>
+    </message>
+    <message>
+        <source>By-line title</source>
+        <translation>Functie bij naamsvermelding</translation>
+    </message>
+    <message>
+        <source>CFA pattern</source>
+        <translation>CFA-patroon</translation>
+    </message>
+    <message>
+        <source>CFA repeat pattern size</source>
+        <translation>Grootte CFA-patroon</translation>
+    </message>
+    <message>
+        <source>Camera elevation angle</source>
+        <translation>Hellingshoek camera</translation>
+    </message>
+    <message>
+        <source>Camera owner name</source>
+        <translation>Eigenaar camera</translation>
+    </message>
+    <message>
+        <source>Caption or abstract</source>
+        <translation>Bijschrift of samenvatting</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categorie</translation>
+    </message>
+    <message>
+        <source>Chromaticities</source>
+        <translation>Chromaticiteiten</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>Color model</source>
+        <translation>Kleurmodel</translation>
+    </message>
+    <message>
+        <source>Color space</source>
+        <translation>Kleurruimte</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Opmerking</translation>
+    </message>
+    <message>
+        <source>Components configuration</source>
+        <translation>Componentenconfiguratie</translation>
+    </message>
+    <message>
+        <source>Composite image</source>
+        <translation>Samengestelde opname</translation>
+    </message>
+    <message>
+        <source>Compressed bits per pixel</source>
+        <translation>Gecomprimeerde bits per pixel</translation>
+    </message>
+    <message>
+        <source>Compression</source>
+        <translation>Compressie</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Contact</translation>
+    </message>
+    <message>
+        <source>Content location code</source>
+        <translation>Locatiecode inhoud</translation>
+    </message>
+    <message>
+        <source>Content location name</source>
+        <translation>Locatienaam inhoud</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>Copyrightvermelding</translation>
+    </message>
+    <message>
+        <source>Country code</source>
+        <translation>Landcode</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Creation time</source>
+        <translation>Aanmaaktijd</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>Bronvermelding</translation>
+    </message>
+    <message>
+        <source>Custom rendered</source>
+        <translation>Aangepaste verwerking</translation>
+    </message>
+    <message>
+        <source>Dilution of precision</source>
+        <translation>Meetnauwkeurigheid (DOP)</translation>
+    </message>
+    <message>
+        <source>DPI height</source>
+        <translation>Verticale dpi</translation>
+    </message>
+    <message>
+        <source>DPI width</source>
+        <translation>Horizontale dpi</translation>
+    </message>
+    <message>
+        <source>Date created</source>
+        <translation>Aanmaakdatum</translation>
+    </message>
+    <message>
+        <source>Date (UTC)</source>
+        <translation>Datum (UTC)</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Datum en tijd</translation>
+    </message>
+    <message>
+        <source>Date and time, digitized</source>
+        <translation>Datum en tijd, digitalisering</translation>
+    </message>
+    <message>
+        <source>Date and time, original</source>
+        <translation>Datum en tijd, opname</translation>
+    </message>
+    <message>
+        <source>Delay time</source>
+        <translation>Vertraging</translation>
+    </message>
+    <message>
+        <source>Density unit</source>
+        <translation>Dichtheidseenheid</translation>
+    </message>
+    <message>
+        <source>Depth</source>
+        <translation>Diepte</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschrijving</translation>
+    </message>
+    <message>
+        <source>Destination bearing</source>
+        <translation>Peiling bestemming</translation>
+    </message>
+    <message>
+        <source>Destination bearing reference</source>
+        <translation>Referentie peiling bestemming</translation>
+    </message>
+    <message>
+        <source>Destination distance</source>
+        <translation>Afstand tot bestemming</translation>
+    </message>
+    <message>
+        <source>Destination distance reference</source>
+        <translation>Referentie afstand tot bestemming</translation>
+    </message>
+    <message>
+        <source>Destination latitude</source>
+        <translation>Breedtegraad bestemming</translation>
+    </message>
+    <message>
+        <source>Destination latitude reference</source>
+        <translation>Referentie breedtegraad bestemming</translation>
+    </message>
+    <message>
+        <source>Destination longitude</source>
+        <translation>Lengtegraad bestemming</translation>
+    </message>
+    <message>
+        <source>Destination longitude reference</source>
+        <translation>Referentie lengtegraad bestemming</translation>
+    </message>
+    <message>
+        <source>Device setting description</source>
+        <translation>Beschrijving apparaatinstellingen</translation>
+    </message>
+    <message>
+        <source>Differential</source>
+        <translation>Differentieel</translation>
+    </message>
+    <message>
+        <source>Digital creation date</source>
+        <translation>Datum digitalisering</translation>
+    </message>
+    <message>
+        <source>Digital creation time</source>
+        <translation>Tijd digitalisering</translation>
+    </message>
+    <message>
+        <source>Digital zoom ratio</source>
+        <translation>Digitale zoomfactor</translation>
+    </message>
+    <message>
+        <source>Disclaimer</source>
+        <translation>Disclaimer</translation>
+    </message>
+    <message>
+        <source>Document name</source>
+        <translation>Documentnaam</translation>
+    </message>
+    <message>
+        <source>Edit status</source>
+        <translation>Bewerkingsstatus</translation>
+    </message>
+    <message>
+        <source>Editorial update</source>
+        <translation>Redactionele bijwerking</translation>
+    </message>
+    <message>
+        <source>Exif version</source>
+        <translation>Exif-versie</translation>
+    </message>
+    <message>
+        <source>Expiration date</source>
+        <translation>Vervaldatum</translation>
+    </message>
+    <message>
+        <source>Expiration time</source>
+        <translation>Vervaltijd</translation>
+    </message>
+    <message>
+        <source>Exposure bias value</source>
+        <translation>Belichtingscorrectie</translation>
+    </message>
+    <message>
+        <source>Exposure index</source>
+        <translation>Belichtingsindex</translation>
+    </message>
+    <message>
+        <source>Exposure mode</source>
+        <translation>Belichtingsmodus</translation>
+    </message>
+    <message>
+        <source>Exposure program</source>
+        <translation>Belichtingsprogramma</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation>Belichtingstijd</translation>
+    </message>
+    <message>
+        <source>F-number</source>
+        <translation>F-getal</translation>
+    </message>
+    <message>
+        <source>File source</source>
+        <translation>Bestandsbron</translation>
+    </message>
+    <message>
+        <source>Fixture identifier</source>
+        <translation>Vaste identificatie</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>Flitser</translation>
+    </message>
+    <message>
+        <source>Flash energy</source>
+        <translation>Flitsenergie</translation>
+    </message>
+    <message>
+        <source>FlashPix version</source>
+        <translation>FlashPix-versie</translation>
+    </message>
+    <message>
+        <source>Focal length in 35 mm film</source>
+        <translation>Brandpuntsafstand bij 35 mm</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Brandpuntsafstand</translation>
+    </message>
+    <message>
+        <source>Focal plane resolution unit</source>
+        <translation>Eenheid brandvlakresolutie</translation>
+    </message>
+    <message>
+        <source>Focal plane X resolution</source>
+        <translation>X-resolutie brandvlak</translation>
+    </message>
+    <message>
+        <source>Focal plane Y resolution</source>
+        <translation>Y-resolutie brandvlak</translation>
+    </message>
+    <message>
+        <source>GPS version</source>
+        <translation>GPS-versie</translation>
+    </message>
+    <message>
+        <source>Gain control</source>
+        <translation>Versterkingsregeling</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Horizontal positioning error</source>
+        <translation>Horizontale positiefout</translation>
+    </message>
+    <message>
+        <source>Has alpha</source>
+        <translation>Heeft alfakanaal</translation>
+    </message>
+    <message>
+        <source>Has global color map</source>
+        <translation>Heeft globale kleurentabel</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Kop</translation>
+    </message>
+    <message>
+        <source>Host computer</source>
+        <translation>Hostcomputer</translation>
+    </message>
+    <message>
+        <source>Humidity</source>
+        <translation>Luchtvochtigheid</translation>
+    </message>
+    <message>
+        <source>ISO speed</source>
+        <translation>ISO-waarde</translation>
+    </message>
+    <message>
+        <source>ISO speed latitude yyy</source>
+        <translation>ISO-speelruimte yyy</translation>
+    </message>
+    <message>
+        <source>ISO speed latitude zzz</source>
+        <translation>ISO-speelruimte zzz</translation>
+    </message>
+    <message>
+        <source>ISO speed ratings</source>
+        <translation>ISO-gevoeligheid</translation>
+    </message>
+    <message>
+        <source>Image description</source>
+        <translation>Afbeeldingsbeschrijving</translation>
+    </message>
+    <message>
+        <source>Image history</source>
+        <translation>Afbeeldingsgeschiedenis</translation>
+    </message>
+    <message>
+        <source>Image ID</source>
+        <translation>Afbeeldings-ID</translation>
+    </message>
+    <message>
+        <source>Image height</source>
+        <translation>Afbeeldingshoogte</translation>
+    </message>
+    <message>
+        <source>Image number</source>
+        <translation>Afbeeldingsnummer</translation>
+    </message>
+    <message>
+        <source>Image orientation</source>
+        <translation>Afbeeldingsstand</translation>
+    </message>
+    <message>
+        <source>Image type</source>
+        <translation>Afbeeldingstype</translation>
+    </message>
+    <message>
+        <source>Unique image ID</source>
+        <translation>Unieke afbeeldings-ID</translation>
+    </message>
+    <message>
+        <source>Image width</source>
+        <translation>Afbeeldingsbreedte</translation>
+    </message>
+    <message>
+        <source>Image direction</source>
+        <translation>Opnamerichting</translation>
+    </message>
+    <message>
+        <source>Image direction reference</source>
+        <translation>Referentie opnamerichting</translation>
+    </message>
+    <message>
+        <source>Interlace</source>
+        <translation>Interliniëring</translation>
+    </message>
+    <message>
+        <source>Interlace type</source>
+        <translation>Type interliniëring</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Locatie</translation>
+    </message>
+    <message>
+        <source>Is progressive</source>
+        <translation>Is progressief</translation>
+    </message>
+    <message>
+        <source>JFIF version</source>
+        <translation>JFIF-versie</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Trefwoorden</translation>
+    </message>
+    <message>
+        <source>Language identifier</source>
+        <translation>Taalcode</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breedtegraad</translation>
+    </message>
+    <message>
+        <source>Latitude reference</source>
+        <translation>Referentie breedtegraad</translation>
+    </message>
+    <message>
+        <source>Lens make</source>
+        <translation>Lensfabrikant</translation>
+    </message>
+    <message>
+        <source>Lens model</source>
+        <translation>Lensmodel</translation>
+    </message>
+    <message>
+        <source>Lens serial number</source>
+        <translation>Serienummer lens</translation>
+    </message>
+    <message>
+        <source>Lens range</source>
+        <translation>Lensbereik</translation>
+    </message>
+    <message>
+        <source>Light source</source>
+        <translation>Lichtbron</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Lengtegraad</translation>
+    </message>
+    <message>
+        <source>Longitude reference</source>
+        <translation>Referentie lengtegraad</translation>
+    </message>
+    <message>
+        <source>Loop count</source>
+        <translation>Aantal herhalingen</translation>
+    </message>
+    <message>
+        <source>Camera make</source>
+        <translation>Camerafabrikant</translation>
+    </message>
+    <message>
+        <source>Maker note</source>
+        <translation>Fabrikantnotitie</translation>
+    </message>
+    <message>
+        <source>Map datum</source>
+        <translation>Geodetisch datum</translation>
+    </message>
+    <message>
+        <source>Largest aperture value</source>
+        <translation>Grootste diafragmaopening</translation>
+    </message>
+    <message>
+        <source>Measure mode</source>
+        <translation>GPS-meetmodus</translation>
+    </message>
+    <message>
+        <source>Metering mode</source>
+        <translation>Lichtmeetmethode</translation>
+    </message>
+    <message>
+        <source>Camera model</source>
+        <translation>Cameramodel</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>Ruis</translation>
+    </message>
+    <message>
+        <source>Opto-electric conversion function</source>
+        <translation>Opto-elektrische omzettingsfunctie</translation>
+    </message>
+    <message>
+        <source>Object attribute reference</source>
+        <translation>Referentie objectkenmerk</translation>
+    </message>
+    <message>
+        <source>Object cycle</source>
+        <translation>Objectcyclus</translation>
+    </message>
+    <message>
+        <source>Object name</source>
+        <translation>Objectnaam</translation>
+    </message>
+    <message>
+        <source>Object type reference</source>
+        <translation>Referentie objecttype</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Tijdzone</translation>
+    </message>
+    <message>
+        <source>Time zone, digitized</source>
+        <translation>Tijdzone, digitalisering</translation>
+    </message>
+    <message>
+        <source>Time zone, original</source>
+        <translation>Tijdzone, opname</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Original transmission reference</source>
+        <translation>Oorspronkelijke transmissiereferentie</translation>
+    </message>
+    <message>
+        <source>Originating program</source>
+        <translation>Oorspronkelijk programma</translation>
+    </message>
+    <message>
+        <source>Page name</source>
+        <translation>Paginanaam</translation>
+    </message>
+    <message>
+        <source>Page number</source>
+        <translation>Paginanummer</translation>
+    </message>
+    <message>
+        <source>Photometric interpretation</source>
+        <translation>Fotometrische interpretatie</translation>
+    </message>
+    <message>
+        <source>Pixel height</source>
+        <translation>Hoogte in pixels</translation>
+    </message>
+    <message>
+        <source>Pixel width</source>
+        <translation>Breedte in pixels</translation>
+    </message>
+    <message>
+        <source>Pixel X dimension</source>
+        <translation>Pixelmaat X</translation>
+    </message>
+    <message>
+        <source>Pixel Y dimension</source>
+        <translation>Pixelmaat Y</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>Luchtdruk</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Voorbeeld</translation>
+    </message>
+    <message>
+        <source>Preview format</source>
+        <translation>Voorbeeldindeling</translation>
+    </message>
+    <message>
+        <source>Preview version</source>
+        <translation>Voorbeeldversie</translation>
+    </message>
+    <message>
+        <source>Primary chromaticities</source>
+        <translation>Primaire chromaticiteiten</translation>
+    </message>
+    <message>
+        <source>Processing method</source>
+        <translation>Verwerkingsmethode</translation>
+    </message>
+    <message>
+        <source>Processing software</source>
+        <translation>Verwerkingssoftware</translation>
+    </message>
+    <message>
+        <source>Profile name</source>
+        <translation>Profielnaam</translation>
+    </message>
+    <message>
+        <source>Program version</source>
+        <translation>Programmaversie</translation>
+    </message>
+    <message>
+        <source>Province or state</source>
+        <translation>Provincie of staat</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Waardering</translation>
+    </message>
+    <message>
+        <source>Rating percent</source>
+        <translation>Waardering in procent</translation>
+    </message>
+    <message>
+        <source>Recommended exposure index</source>
+        <translation>Aanbevolen belichtingsindex</translation>
+    </message>
+    <message>
+        <source>Reference black and white</source>
+        <translation>Referentie zwart en wit</translation>
+    </message>
+    <message>
+        <source>Reference date</source>
+        <translation>Referentiedatum</translation>
+    </message>
+    <message>
+        <source>Reference number</source>
+        <translation>Referentienummer</translation>
+    </message>
+    <message>
+        <source>Reference service</source>
+        <translation>Referentiedienst</translation>
+    </message>
+    <message>
+        <source>Related sound file</source>
+        <translation>Bijbehorend geluidsbestand</translation>
+    </message>
+    <message>
+        <source>Release date</source>
+        <translation>Vrijgavedatum</translation>
+    </message>
+    <message>
+        <source>Release time</source>
+        <translation>Vrijgavetijd</translation>
+    </message>
+    <message>
+        <source>Resolution unit</source>
+        <translation>Resolutie-eenheid</translation>
+    </message>
+    <message>
+        <source>Satellites</source>
+        <translation>Satellieten</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Verzadiging</translation>
+    </message>
+    <message>
+        <source>Scene capture type</source>
+        <translation>Soort opname</translation>
+    </message>
+    <message>
+        <source>Scene type</source>
+        <translation>Soort scène</translation>
+    </message>
+    <message>
+        <source>Security classification</source>
+        <translation>Beveiligingsklasse</translation>
+    </message>
+    <message>
+        <source>Self-timer mode</source>
+        <translation>Zelfontspannermodus</translation>
+    </message>
+    <message>
+        <source>Sensing method</source>
+        <translation>Sensormethode</translation>
+    </message>
+    <message>
+        <source>Sensitivity type</source>
+        <translation>Gevoeligheidstype</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Scherpte</translation>
+    </message>
+    <message>
+        <source>Shutter speed value</source>
+        <translation>Sluitertijd</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Bron</translation>
+    </message>
+    <message>
+        <source>Source exposure times of composite image</source>
+        <translation>Belichtingstijden van samengestelde opname</translation>
+    </message>
+    <message>
+        <source>Source image number of composite image</source>
+        <translation>Aantal beelden van samengestelde opname</translation>
+    </message>
+    <message>
+        <source>Spatial frequency response</source>
+        <translation>Ruimtelijke frequentierespons</translation>
+    </message>
+    <message>
+        <source>Special instructions</source>
+        <translation>Speciale instructies</translation>
+    </message>
+    <message>
+        <source>Spectral sensitivity</source>
+        <translation>Spectrale gevoeligheid</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Snelheid</translation>
+    </message>
+    <message>
+        <source>Speed reference</source>
+        <translation>Snelheidsreferentie</translation>
+    </message>
+    <message>
+        <source>Standard output sensitivity</source>
+        <translation>Standaarduitvoergevoeligheid</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Sub-location</source>
+        <translation>Sublocatie</translation>
+    </message>
+    <message>
+        <source>Subject area</source>
+        <translation>Onderwerpgebied</translation>
+    </message>
+    <message>
+        <source>Subject distance range</source>
+        <translation>Afstandsbereik onderwerp</translation>
+    </message>
+    <message>
+        <source>Subject distance</source>
+        <translation>Onderwerpsafstand</translation>
+    </message>
+    <message>
+        <source>Subject location</source>
+        <translation>Onderwerppositie</translation>
+    </message>
+    <message>
+        <source>Subject reference</source>
+        <translation>Onderwerpreferentie</translation>
+    </message>
+    <message>
+        <source>Fraction of the second</source>
+        <translation>Secondefractie</translation>
+    </message>
+    <message>
+        <source>Fraction of the second, digitized</source>
+        <translation>Secondefractie, digitalisering</translation>
+    </message>
+    <message>
+        <source>Fraction of the second, original</source>
+        <translation>Secondefractie, opname</translation>
+    </message>
+    <message>
+        <source>Supplemental category</source>
+        <translation>Aanvullende categorie</translation>
+    </message>
+    <message>
+        <source>TIFF/EP standard ID</source>
+        <translation>TIFF/EP-standaard-ID</translation>
+    </message>
+    <message>
+        <source>Target printer</source>
+        <translation>Doelprinter</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatuur</translation>
+    </message>
+    <message>
+        <source>Time created</source>
+        <translation>Aanmaaktijdstip</translation>
+    </message>
+    <message>
+        <source>Time (UTC)</source>
+        <translation>Tijd (UTC)</translation>
+    </message>
+    <message>
+        <source>Time zone offset</source>
+        <translation>Tijdzoneverschil</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Direction of movement</source>
+        <translation>Bewegingsrichting</translation>
+    </message>
+    <message>
+        <source>Direction of movement reference</source>
+        <translation>Referentie bewegingsrichting</translation>
+    </message>
+    <message>
+        <source>Transfer function</source>
+        <translation>Overdrachtsfunctie</translation>
+    </message>
+    <message>
+        <source>Urgency</source>
+        <translation>Urgentie</translation>
+    </message>
+    <message>
+        <source>User comment</source>
+        <translation>Gebruikersopmerking</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message>
+        <source>Water depth</source>
+        <translation>Waterdiepte</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>Witbalans</translation>
+    </message>
+    <message>
+        <source>White point</source>
+        <translation>Witpunt</translation>
+    </message>
+    <message>
+        <source>Writer or editor</source>
+        <translation>Schrijver of redacteur</translation>
+    </message>
+    <message>
+        <source>X density</source>
+        <translation>X-dichtheid</translation>
+    </message>
+    <message>
+        <source>Author (Windows)</source>
+        <translation>Auteur (Windows)</translation>
+    </message>
+    <message>
+        <source>Comment (Windows)</source>
+        <translation>Opmerking (Windows)</translation>
+    </message>
+    <message>
+        <source>Keywords (Windows)</source>
+        <translation>Trefwoorden (Windows)</translation>
+    </message>
+    <message>
+        <source>Subject (Windows)</source>
+        <translation>Onderwerp (Windows)</translation>
+    </message>
+    <message>
+        <source>Title (Windows)</source>
+        <translation>Titel (Windows)</translation>
+    </message>
+    <message>
+        <source>X pixels per meter</source>
+        <translation>X-pixels per meter</translation>
+    </message>
+    <message>
+        <source>X position</source>
+        <translation>X-positie</translation>
+    </message>
+    <message>
+        <source>X resolution</source>
+        <translation>X-resolutie</translation>
+    </message>
+    <message>
+        <source>YCbCr coefficients</source>
+        <translation>YCbCr-coëfficiënten</translation>
+    </message>
+    <message>
+        <source>YCbCr positioning</source>
+        <translation>YCbCr-positionering</translation>
+    </message>
+    <message>
+        <source>YCbCr subsampling</source>
+        <translation>YCbCr-subsampling</translation>
+    </message>
+    <message>
+        <source>Y density</source>
+        <translation>Y-dichtheid</translation>
+    </message>
+    <message>
+        <source>Y pixels per meter</source>
+        <translation>Y-pixels per meter</translation>
+    </message>
+    <message>
+        <source>Y position</source>
+        <translation>Y-positie</translation>
+    </message>
+    <message>
+        <source>Y resolution</source>
+        <translation>Y-resolutie</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Lens</translation>
+    </message>
+    <message>
+        <source>Lens info</source>
+        <translation>Lensinformatie</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>Contributor</source>
+        <translation>Medewerker</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>Dekking</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Maker</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Indeling</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Identificatie</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Uitgever</translation>
+    </message>
+    <message>
+        <source>Relation</source>
+        <translation>Relatie</translation>
+    </message>
+    <message>
+        <source>Rights</source>
+        <translation>Rechten</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Author&apos;s position</source>
+        <translation>Functie van auteur</translation>
+    </message>
+    <message>
+        <source>Caption writer</source>
+        <translation>Schrijver van bijschrift</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Kleurmodus</translation>
+    </message>
+    <message>
+        <source>ICC profile</source>
+        <translation>ICC-profiel</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instructies</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Staat</translation>
+    </message>
+    <message>
+        <source>Supplemental categories</source>
+        <translation>Aanvullende categorieën</translation>
+    </message>
+    <message>
+        <source>Transmission reference</source>
+        <translation>Transmissiereferentie</translation>
+    </message>
+    <message>
+        <source>sRGB intent</source>
+        <translation>sRGB-weergavemethode</translation>
+    </message>
+    <message>
+        <source>Create date</source>
+        <translation>Gemaakt op</translation>
+    </message>
+    <message>
+        <source>Creator tool</source>
+        <translation>Gemaakt met</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Metadata date</source>
+        <translation>Metadatadatum</translation>
+    </message>
+    <message>
+        <source>Modify date</source>
+        <translation>Gewijzigd op</translation>
+    </message>
+    <message>
+        <source>Nickname</source>
+        <translation>Bijnaam</translation>
+    </message>
+    <message>
+        <source>Document ID</source>
+        <translation>Document-ID</translation>
+    </message>
+    <message>
+        <source>Instance ID</source>
+        <translation>Exemplaar-ID</translation>
+    </message>
+    <message>
+        <source>Original document ID</source>
+        <translation>Oorspronkelijke document-ID</translation>
+    </message>
+    <message>
+        <source>Rights marked</source>
+        <translation>Auteursrecht gemarkeerd</translation>
+    </message>
+    <message>
+        <source>Rights owner</source>
+        <translation>Rechthebbende</translation>
+    </message>
+    <message>
+        <source>Rights usage terms</source>
+        <translation>Gebruiksvoorwaarden</translation>
+    </message>
+    <message>
+        <source>Rights web statement</source>
+        <translation>Webverklaring rechten</translation>
+    </message>
+    <message>
+        <source>Exif</source>
+        <translation>Exif</translation>
+    </message>
+    <message>
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message>
+        <source>GPS</source>
+        <translation>GPS</translation>
+    </message>
+    <message>
+        <source>IPTC</source>
+        <translation>IPTC</translation>
+    </message>
+    <message>
+        <source>JFIF</source>
+        <translation>JFIF</translation>
+    </message>
+    <message>
+        <source>PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>TIFF</source>
+        <translation>TIFF</translation>
+    </message>
+    <message>
+        <source>XMP</source>
+        <translation>XMP</translation>
+    </message>
+</context>
+<context>
+    <name>recover-runs</name>
+    <message>
+        <source>A run was interrupted</source>
+        <translation>Een opdracht is onderbroken</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+</context>
+<context>
+    <name>recovered</name>
+    <message numerus="yes">
+        <source>%n items have their new names</source>
+        <translation>
+            <numerusform>%n onderdeel heeft zijn nieuwe naam</numerusform>
+            <numerusform>%n onderdelen hebben hun nieuwe naam</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were taken back</source>
+        <translation>
+            <numerusform>%n onderdeel is teruggezet</numerusform>
+            <numerusform>%n onderdelen zijn teruggezet</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>the turn of %n items had not come</source>
+        <translation>
+            <numerusform>%n onderdeel was nog niet aan de beurt</numerusform>
+            <numerusform>%n onderdelen waren nog niet aan de beurt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was interrupted and is ended now</source>
+        <translation>%1 werd onderbroken en is nu afgesloten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>rename-action</name>
+    <message>
+        <source>Rename</source>
+        <translation>Hernoemen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Rename %n Folders</source>
+        <translation>
+            <numerusform>%n map hernoemen</numerusform>
+            <numerusform>%n mappen hernoemen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rename %n Files</source>
+        <translation>
+            <numerusform>%n bestand hernoemen</numerusform>
+            <numerusform>%n bestanden hernoemen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders renamed</source>
+        <translation>
+            <numerusform>%n map hernoemd</numerusform>
+            <numerusform>%n mappen hernoemd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files renamed</source>
+        <translation>
+            <numerusform>%n bestand hernoemd</numerusform>
+            <numerusform>%n bestanden hernoemd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders have their old names again</source>
+        <translation>
+            <numerusform>%n map heeft weer de oude naam</numerusform>
+            <numerusform>%n mappen hebben weer hun oude naam</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have their old names again</source>
+        <translation>
+            <numerusform>%n bestand heeft weer de oude naam</numerusform>
+            <numerusform>%n bestanden hebben weer hun oude naam</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>rename-card</name>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Count by</source>
+        <translation>Stapgrootte</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Opnieuw tellen</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nooit</translation>
+    </message>
+    <message>
+        <source>In each folder</source>
+        <translation>In elke map</translation>
+    </message>
+    <message>
+        <source>On each date taken</source>
+        <translation>Bij elke opnamedatum</translation>
+    </message>
+    <message>
+        <source>Case</source>
+        <translation>Schrijfwijze</translation>
+    </message>
+    <message>
+        <source>lower case</source>
+        <translation>kleine letters</translation>
+    </message>
+    <message>
+        <source>UPPER CASE</source>
+        <translation>HOOFDLETTERS</translation>
+    </message>
+    <message>
+        <source>Words With Capitals</source>
+        <translation>Woorden Met Hoofdletter</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Vervangen</translation>
+    </message>
+    <message>
+        <source>With</source>
+        <translation>Door</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Invoegen</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Na</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Tekens</translation>
+    </message>
+    <message>
+        <source>from the start</source>
+        <translation>vanaf het begin</translation>
+    </message>
+    <message>
+        <source>from the end</source>
+        <translation>vanaf het einde</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Ervoor</translation>
+    </message>
+    <message>
+        <source>Behind</source>
+        <translation>Erachter</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Van</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>From the</source>
+        <translation>Vanaf teken</translation>
+    </message>
+    <message>
+        <source>Split at</source>
+        <translation>Splitsen bij</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Delen</translation>
+    </message>
+    <message>
+        <source>Join by</source>
+        <translation>Verbinden met</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>letters and digits</source>
+        <translation>letters en cijfers</translation>
+    </message>
+    <message>
+        <source>letters only</source>
+        <translation>alleen letters</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Overige</translation>
+    </message>
+    <message>
+        <source>Accents</source>
+        <translation>Accenten</translation>
+    </message>
+    <message>
+        <source>as one letter (NFC)</source>
+        <translation>als één letter (NFC)</translation>
+    </message>
+    <message>
+        <source>apart (NFD)</source>
+        <translation>los (NFD)</translation>
+    </message>
+    <message>
+        <source>Names that</source>
+        <translation>Namen die</translation>
+    </message>
+    <message>
+        <source>contain</source>
+        <translation>bevatten</translation>
+    </message>
+    <message>
+        <source>begin with</source>
+        <translation>beginnen met</translation>
+    </message>
+    <message>
+        <source>end with</source>
+        <translation>eindigen op</translation>
+    </message>
+    <message>
+        <source>all, or 2,1 or -1</source>
+        <translation>alle, of 2,1 of -1</translation>
+    </message>
+    <message>
+        <source>{taken} lake {counter:001}</source>
+        <translation>{taken} meer {counter:001}</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extensie</translation>
+    </message>
+    <message>
+        <source>Name and extension</source>
+        <translation>Naam en extensie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n names are too short for this and stay as they are.</source>
+        <translation>
+            <numerusform>%n naam is hiervoor te kort en blijft ongewijzigd.</numerusform>
+            <numerusform>%n namen zijn hiervoor te kort en blijven ongewijzigd.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>rename-pane</name>
+    <message>
+        <source>Holiday 2026</source>
+        <translation>Vakantie 2026</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Mappen</translation>
+    </message>
+    <message>
+        <source>Search steps</source>
+        <translation>Stappen zoeken</translation>
+    </message>
+    <message>
+        <source>Search values</source>
+        <translation>Waarden zoeken</translation>
+    </message>
+    <message>
+        <source>A chain can have up to 30 steps.</source>
+        <translation>Een reeks kan hoogstens 30 stappen hebben.</translation>
+    </message>
+    <message>
+        <source>A step needs attention: names are not made before it is right.</source>
+        <translation>Een stap vraagt aandacht: zolang die niet klopt, worden er geen namen gemaakt.</translation>
+    </message>
+</context>
+<context>
+    <name>rename-presets</name>
+    <message>
+        <source>Date and place</source>
+        <translation>Datum en plaats</translation>
+    </message>
+    <message>
+        <source>place</source>
+        <translation>plaats</translation>
+    </message>
+    <message>
+        <source>Clean for the web</source>
+        <translation>Geschikt voor het web</translation>
+    </message>
+    <message>
+        <source>Lower-case extensions</source>
+        <translation>Extensies in kleine letters</translation>
+    </message>
+    <message>
+        <source>Date in front</source>
+        <translation>Datum vooraan</translation>
+    </message>
+    <message>
+        <source>Number behind</source>
+        <translation>Nummer achteraan</translation>
+    </message>
+</context>
+<context>
+    <name>rename-step</name>
+    <message>
+        <source>files: %1</source>
+        <translation>bestanden: %1</translation>
+    </message>
+    <message>
+        <source>folders: %1</source>
+        <translation>mappen: %1</translation>
+    </message>
+    <message>
+        <source>no date taken</source>
+        <translation>geen opnamedatum</translation>
+    </message>
+    <message>
+        <source>no date of creation</source>
+        <translation>geen aanmaakdatum</translation>
+    </message>
+    <message>
+        <source>no date of change</source>
+        <translation>geen wijzigingsdatum</translation>
+    </message>
+    <message>
+        <source>no value for “%1”</source>
+        <translation>geen waarde voor “%1”</translation>
+    </message>
+    <message>
+        <source>undated</source>
+        <translation>zonder datum</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>onbekend</translation>
+    </message>
+    <message>
+        <source>%1: “%2”</source>
+        <translation>%1: “%2”</translation>
+    </message>
+    <message>
+        <source>a letter and its accent are parted</source>
+        <translation>een letter en het accent raken gescheiden</translation>
+    </message>
+    <message>
+        <source>a character would be cut in two</source>
+        <translation>een teken zou worden doorgesneden</translation>
+    </message>
+</context>
+<context>
+    <name>resize-action</name>
+    <message>
+        <source>Resize</source>
+        <translation>Schalen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Resize %n Pictures</source>
+        <translation>
+            <numerusform>%n foto schalen</numerusform>
+            <numerusform>%n foto’s schalen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>resize-pane</name>
+    <message>
+        <source>Width</source>
+        <translation>Breedte</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hoogte</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Langste</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Vak</translation>
+    </message>
+    <message>
+        <source>Fill the box and cut</source>
+        <translation>Vak vullen en bijsnijden</translation>
+    </message>
+    <message>
+        <source>Stretch to the box</source>
+        <translation>Oprekken tot het vak</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Langste zijde</translation>
+    </message>
+    <message>
+        <source>Per cent</source>
+        <translation>Procent</translation>
+    </message>
+</context>
+<context>
+    <name>resize-presets</name>
+    <message>
+        <source>Web 1600</source>
+        <translation>Web 1600</translation>
+    </message>
+    <message>
+        <source>Web</source>
+        <translation>Web</translation>
+    </message>
+    <message>
+        <source>Mail 1024</source>
+        <translation>E-mail 1024</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Square 1080</source>
+        <translation>Vierkant 1080</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Vierkant</translation>
+    </message>
+    <message>
+        <source>Print 15 × 10 cm, 300 dpi</source>
+        <translation>Afdruk 15 × 10 cm, 300 dpi</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Afdrukken</translation>
+    </message>
+    <message>
+        <source>Print 10 × 15 cm, 300 dpi</source>
+        <translation>Afdruk 10 × 15 cm, 300 dpi</translation>
+    </message>
+    <message>
+        <source>Contact thumbnails</source>
+        <translation>Miniaturen</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Miniaturen</translation>
+    </message>
+</context>
+<context>
+    <name>resize-step</name>
+    <message>
+        <source>Resized</source>
+        <translation>Geschaald</translation>
+    </message>
+    <message>
+        <source>width %1</source>
+        <translation>breedte %1</translation>
+    </message>
+    <message>
+        <source>height %1</source>
+        <translation>hoogte %1</translation>
+    </message>
+    <message>
+        <source>longest %1</source>
+        <translation>langste zijde %1</translation>
+    </message>
+    <message>
+        <source>percent %1</source>
+        <translation>procent %1</translation>
+    </message>
+    <message>
+        <source>box %1</source>
+        <translation>vak %1</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from 1 to %1.</source>
+        <translation>Geef een geheel getal op van 1 tot %1.</translation>
+    </message>
+    <message>
+        <source>Enter a number above 0, up to %1.</source>
+        <translation>Geef een getal op groter dan 0, tot %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>it would be larger than %n pixels</source>
+        <translation>
+            <numerusform>het resultaat zou groter zijn dan %n pixel</numerusform>
+            <numerusform>het resultaat zou groter zijn dan %n pixels</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it would be less than one pixel in size</source>
+        <translation>het resultaat zou kleiner zijn dan één pixel</translation>
+    </message>
+</context>
+<context>
+    <name>risky-names</name>
+    <message>
+        <source>other systems keep the name %1 for themselves</source>
+        <translation>andere systemen houden de naam %1 voor zichzelf</translation>
+    </message>
+    <message>
+        <source>other systems do not take %1</source>
+        <translation>andere systemen staan %1 niet toe</translation>
+    </message>
+    <message>
+        <source>it has a control character in it</source>
+        <translation>de naam bevat een stuurteken</translation>
+    </message>
+    <message>
+        <source>it begins with a blank</source>
+        <translation>de naam begint met een spatie</translation>
+    </message>
+    <message>
+        <source>other systems take no blank or dot at the end</source>
+        <translation>andere systemen staan geen spatie of punt aan het einde toe</translation>
+    </message>
+</context>
+<context>
+    <name>room</name>
+    <message>
+        <source>The files need %1, but only %2 are free for %3.</source>
+        <translation>De bestanden vragen %1, maar voor %3 is maar %2 vrij.</translation>
+    </message>
+    <message>
+        <source>%1 are free</source>
+        <translation>%1 vrij</translation>
+    </message>
+    <message>
+        <source>%1 to be written</source>
+        <translation>%1 te schrijven</translation>
+    </message>
+    <message>
+        <source>too little room (needs %1, %2 are free)</source>
+        <translation>te weinig ruimte (nodig %1, vrij %2)</translation>
+    </message>
+</context>
+<context>
+    <name>round-action</name>
+    <message>
+        <source>Round Corners</source>
+        <translation>Hoeken afronden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Round %n Pictures</source>
+        <translation>
+            <numerusform>Hoeken van %n foto afronden</numerusform>
+            <numerusform>Hoeken van %n foto’s afronden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>round-pane</name>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechthoek</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cirkel</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellips</translation>
+    </message>
+</context>
+<context>
+    <name>round-presets</name>
+    <message>
+        <source>Soft corners</source>
+        <translation>Zachte hoeken</translation>
+    </message>
+    <message>
+        <source>Round corners on white</source>
+        <translation>Ronde hoeken op wit</translation>
+    </message>
+    <message>
+        <source>Circle portrait</source>
+        <translation>Rond portret</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellips</translation>
+    </message>
+</context>
+<context>
+    <name>round-step</name>
+    <message>
+        <source>Rounded</source>
+        <translation>Afgerond</translation>
+    </message>
+    <message>
+        <source>corners of %1 px</source>
+        <translation>hoeken van %1 px</translation>
+    </message>
+    <message>
+        <source>circle</source>
+        <translation>cirkel</translation>
+    </message>
+    <message>
+        <source>ellipse</source>
+        <translation>ellips</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>op %1</translation>
+    </message>
+    <message>
+        <source>band of %1 px</source>
+        <translation>binnenrand van %1 px</translation>
+    </message>
+    <message>
+        <source>Enter a radius from 0 to %1.</source>
+        <translation>Geef een straal op van 0 tot %1.</translation>
+    </message>
+    <message>
+        <source>Enter a width of the band from 0 to %1.</source>
+        <translation>Geef een breedte van de binnenrand op van 0 tot %1.</translation>
+    </message>
+    <message>
+        <source>The circle is cut from the square at the left.</source>
+        <translation>De cirkel wordt uit het vierkant links gesneden.</translation>
+    </message>
+    <message>
+        <source>The circle is cut from the square at the bottom.</source>
+        <translation>De cirkel wordt uit het vierkant onderaan gesneden.</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: what lies outside the shape becomes black.</source>
+        <translation>%1 kent geen transparantie: wat buiten de vorm ligt, wordt zwart.</translation>
+    </message>
+    <message>
+        <source>the band would cover all of it</source>
+        <translation>de binnenrand zou alles bedekken</translation>
+    </message>
+</context>
+<context>
+    <name>run-base</name>
+    <message>
+        <source>Planning…</source>
+        <translation>Bezig met plannen…</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>nog %1</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>gepauzeerd</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 van %2</translation>
+    </message>
+    <message>
+        <source>no problems</source>
+        <translation>geen problemen</translation>
+    </message>
+    <message>
+        <source>Save the report</source>
+        <translation>Rapport bewaren</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Report saved as %1</source>
+        <translation>Rapport bewaard als %1</translation>
+    </message>
+</context>
+<context>
+    <name>save-as</name>
+    <message>
+        <source>Original</source>
+        <translation>Origineel</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Bewaard</translation>
+    </message>
+    <message>
+        <source>Choose a picture to save</source>
+        <translation>Kies een foto om te bewaren</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>ongeveer %1</translation>
+    </message>
+    <message>
+        <source>Saved %1, %2</source>
+        <translation>%1 bewaard, %2</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Niet bewaard</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written.</source>
+        <translation>“%1” kon niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>The folder may be locked, the disk full, or “%1” damaged.</source>
+        <translation>Misschien is de map vergrendeld, de schijf vol of “%1” beschadigd.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>script::ScriptEngine</name>
+    <message>
+        <source>Cannot read %1: there is no such file</source>
+        <translation>Kan %1 niet lezen: dat bestand is er niet</translation>
+    </message>
+    <message>
+        <source>This is not a function of a script</source>
+        <translation>Dit is geen functie van een script</translation>
+    </message>
+</context>
+<context>
+    <name>settings-watch</name>
+    <message>
+        <source>Settings cannot be written. What you change holds until you quit.</source>
+        <translation>De instellingen kunnen niet worden bewaard. Wijzigingen gelden tot u stopt.</translation>
+    </message>
+</context>
+<context>
+    <name>sort-action</name>
+    <message numerus="yes">
+        <source>Sort %n Files into Folders</source>
+        <translation>
+            <numerusform>%n bestand in mappen sorteren</numerusform>
+            <numerusform>%n bestanden in mappen sorteren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Copy %n Files into Folders</source>
+        <translation>
+            <numerusform>%n bestand naar mappen kopiëren</numerusform>
+            <numerusform>%n bestanden naar mappen kopiëren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Link %n Files into Folders</source>
+        <translation>
+            <numerusform>%n bestand in mappen linken</numerusform>
+            <numerusform>%n bestanden in mappen linken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files sorted</source>
+        <translation>
+            <numerusform>%n bestand gesorteerd</numerusform>
+            <numerusform>%n bestanden gesorteerd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files copied</source>
+        <translation>
+            <numerusform>%n bestand gekopieerd</numerusform>
+            <numerusform>%n bestanden gekopieerd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links made</source>
+        <translation>
+            <numerusform>%n link gemaakt</numerusform>
+            <numerusform>%n links gemaakt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sort into Folders</source>
+        <translation>In mappen sorteren</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files put back</source>
+        <translation>
+            <numerusform>%n bestand teruggezet</numerusform>
+            <numerusform>%n bestanden teruggezet</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>sort-pane</name>
+    <message>
+        <source>Folder of their own</source>
+        <translation>Eigen map</translation>
+    </message>
+    <message>
+        <source>Use date created</source>
+        <translation>Aanmaakdatum gebruiken</translation>
+    </message>
+    <message>
+        <source>Use date changed</source>
+        <translation>Wijzigingsdatum gebruiken</translation>
+    </message>
+    <message>
+        <source>Leave where they are</source>
+        <translation>Laten staan</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verplaatsen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Linken</translation>
+    </message>
+    <message>
+        <source>Number the file</source>
+        <translation>Nummer toevoegen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Overslaan</translation>
+    </message>
+    <message>
+        <source>The originals stay where they are.</source>
+        <translation>De originelen blijven waar ze zijn.</translation>
+    </message>
+    <message>
+        <source>Links lead to the files where they are now.</source>
+        <translation>Een link verwijst naar de plaats waar het bestand nu staat.</translation>
+    </message>
+    <message>
+        <source>Own pattern</source>
+        <translation>Eigen patroon</translation>
+    </message>
+    <message>
+        <source>No more folders</source>
+        <translation>Geen verdere mappen</translation>
+    </message>
+    <message>
+        <source>Folder of each picture</source>
+        <translation>Map van elke foto</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Sort into</source>
+        <translation>Sorteren in</translation>
+    </message>
+    <message>
+        <source>%1 has no date and stays.</source>
+        <translation>%1 heeft geen datum en blijft.</translation>
+    </message>
+    <message>
+        <source>%1 goes into %2</source>
+        <translation>%1 gaat naar %2</translation>
+    </message>
+</context>
+<context>
+    <name>sort-presets</name>
+    <message>
+        <source>By year and day taken</source>
+        <translation>Op opnamejaar en -dag</translation>
+    </message>
+    <message>
+        <source>By year and month taken</source>
+        <translation>Op opnamejaar en -maand</translation>
+    </message>
+    <message>
+        <source>By day changed</source>
+        <translation>Op wijzigingsdag</translation>
+    </message>
+    <message>
+        <source>By camera and day taken</source>
+        <translation>Op camera en opnamedag</translation>
+    </message>
+    <message>
+        <source>By type</source>
+        <translation>Op type</translation>
+    </message>
+    <message>
+        <source>By orientation</source>
+        <translation>Op liggend of staand</translation>
+    </message>
+    <message>
+        <source>By file size</source>
+        <translation>Op bestandsgrootte</translation>
+    </message>
+    <message>
+        <source>By start of name</source>
+        <translation>Op begin van de naam</translation>
+    </message>
+</context>
+<context>
+    <name>sort-step</name>
+    <message>
+        <source>Undated</source>
+        <translation>Zonder datum</translation>
+    </message>
+    <message>
+        <source>move into %1</source>
+        <translation>verplaatsen naar %1</translation>
+    </message>
+    <message>
+        <source>copy into %1</source>
+        <translation>kopiëren naar %1</translation>
+    </message>
+    <message>
+        <source>link into %1</source>
+        <translation>linken in %1</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>Choose a folder to sort into.</source>
+        <translation>Kies een map om in te sorteren.</translation>
+    </message>
+    <message>
+        <source>no date taken</source>
+        <translation>geen opnamedatum</translation>
+    </message>
+    <message>
+        <source>by date created</source>
+        <translation>op aanmaakdatum</translation>
+    </message>
+    <message>
+        <source>by date changed</source>
+        <translation>op wijzigingsdatum</translation>
+    </message>
+    <message>
+        <source>no date taken: stays</source>
+        <translation>geen opnamedatum: blijft</translation>
+    </message>
+    <message>
+        <source>a file has the name of the folder: %1</source>
+        <translation>een bestand heeft de naam van de map: %1</translation>
+    </message>
+    <message>
+        <source>The file states no date on which it was taken.</source>
+        <translation>Het bestand vermeldt geen opnamedatum.</translation>
+    </message>
+    <message>
+        <source>It lies in such a folder already.</source>
+        <translation>Staat al in zo’n map.</translation>
+    </message>
+</context>
+<context>
+    <name>sort-tree</name>
+    <message>
+        <source>No file will go anywhere.</source>
+        <translation>Er gaat geen bestand naar een map.</translation>
+    </message>
+    <message>
+        <source>%1 into %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation>
+            <numerusform>%n bestand</numerusform>
+            <numerusform>%n bestanden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n map</numerusform>
+            <numerusform>%n mappen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no new folder</source>
+        <translation>geen nieuwe map</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new folders</source>
+        <translation>
+            <numerusform>%n nieuwe map</numerusform>
+            <numerusform>%n nieuwe mappen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>sorting</name>
+    <message>
+        <source>Year taken</source>
+        <translation>Opnamejaar</translation>
+    </message>
+    <message>
+        <source>Month taken</source>
+        <translation>Opnamemaand</translation>
+    </message>
+    <message>
+        <source>Day taken</source>
+        <translation>Opnamedag</translation>
+    </message>
+    <message>
+        <source>Year created</source>
+        <translation>Aanmaakjaar</translation>
+    </message>
+    <message>
+        <source>Month created</source>
+        <translation>Aanmaakmaand</translation>
+    </message>
+    <message>
+        <source>Day created</source>
+        <translation>Aanmaakdag</translation>
+    </message>
+    <message>
+        <source>Year changed</source>
+        <translation>Wijzigingsjaar</translation>
+    </message>
+    <message>
+        <source>Month changed</source>
+        <translation>Wijzigingsmaand</translation>
+    </message>
+    <message>
+        <source>Day changed</source>
+        <translation>Wijzigingsdag</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Bestandstype</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Bestandsgrootte</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Lens</translation>
+    </message>
+    <message>
+        <source>Name up to a number</source>
+        <translation>Naam tot een cijfer</translation>
+    </message>
+    <message>
+        <source>First letter</source>
+        <translation>Eerste letter</translation>
+    </message>
+    <message>
+        <source>First 3 letters</source>
+        <translation>Eerste 3 letters</translation>
+    </message>
+    <message>
+        <source>Choose a rule, or write a pattern of folders.</source>
+        <translation>Kies een regel of schrijf een patroon van mappen.</translation>
+    </message>
+    <message>
+        <source>A folder cannot be called “.” or “..”.</source>
+        <translation>Een map kan niet “.” of “..” heten.</translation>
+    </message>
+    <message>
+        <source>A folder cannot have a name of blanks only.</source>
+        <translation>De naam van een map kan niet alleen uit spaties bestaan.</translation>
+    </message>
+    <message>
+        <source>The name of a folder is too long.</source>
+        <translation>De naam van een map is te lang.</translation>
+    </message>
+    <message>
+        <source>A pattern cannot hold control characters.</source>
+        <translation>Een patroon mag geen stuurtekens bevatten.</translation>
+    </message>
+    <message>
+        <source>Enter a name for the folder of pictures without a date.</source>
+        <translation>Geef een naam op voor de map met foto’s zonder datum.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a folder.</source>
+        <translation>“%1” kan geen naam van een map zijn.</translation>
+    </message>
+    <message>
+        <source>Undated</source>
+        <translation>Zonder datum</translation>
+    </message>
+    <message>
+        <source>Unknown camera</source>
+        <translation>Onbekende camera</translation>
+    </message>
+    <message>
+        <source>Unknown lens</source>
+        <translation>Onbekende lens</translation>
+    </message>
+    <message>
+        <source>Unknown size</source>
+        <translation>Onbekende grootte</translation>
+    </message>
+    <message>
+        <source>Unknown type</source>
+        <translation>Onbekend type</translation>
+    </message>
+    <message>
+        <source>Unknown orientation</source>
+        <translation>Onbekende stand</translation>
+    </message>
+    <message>
+        <source>Without extension</source>
+        <translation>Zonder extensie</translation>
+    </message>
+    <message>
+        <source>Other names</source>
+        <translation>Overige namen</translation>
+    </message>
+    <message>
+        <source>Other folders</source>
+        <translation>Overige mappen</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Overige</translation>
+    </message>
+</context>
+<context>
+    <name>status-bar</name>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pauzeren</translation>
+    </message>
+</context>
+<context>
+    <name>step-words</name>
+    <message>
+        <source>New text</source>
+        <translation>Nieuwe tekst</translation>
+    </message>
+    <message>
+        <source>Text with dates, counters and other values</source>
+        <translation>Tekst met datums, tellers en andere waarden</translation>
+    </message>
+    <message>
+        <source>token pattern write template</source>
+        <translation>code patroon schrijven sjabloon</translation>
+    </message>
+    <message>
+        <source>Change case</source>
+        <translation>Schrijfwijze wijzigen</translation>
+    </message>
+    <message>
+        <source>lower case, UPPER CASE, Words</source>
+        <translation>kleine letters, HOOFDLETTERS, Woorden</translation>
+    </message>
+    <message>
+        <source>capital small letters</source>
+        <translation>hoofdletters kleine letters kapitalen</translation>
+    </message>
+    <message>
+        <source>Replace text</source>
+        <translation>Tekst vervangen</translation>
+    </message>
+    <message>
+        <source>One text by another, wherever it occurs</source>
+        <translation>De ene tekst door de andere, overal waar hij staat</translation>
+    </message>
+    <message>
+        <source>search find substitute delete</source>
+        <translation>zoeken vinden wissen verwijderen</translation>
+    </message>
+    <message>
+        <source>Insert text</source>
+        <translation>Tekst invoegen</translation>
+    </message>
+    <message>
+        <source>At a place counted from the start or the end</source>
+        <translation>Op een plaats geteld vanaf het begin of het einde</translation>
+    </message>
+    <message>
+        <source>add position</source>
+        <translation>toevoegen positie</translation>
+    </message>
+    <message>
+        <source>Add before and after</source>
+        <translation>Ervoor en erachter toevoegen</translation>
+    </message>
+    <message>
+        <source>Text in front of the name and behind it</source>
+        <translation>Tekst voor en achter de naam</translation>
+    </message>
+    <message>
+        <source>prefix suffix append join concatenate</source>
+        <translation>voorvoegsel achtervoegsel aanvullen plakken</translation>
+    </message>
+    <message>
+        <source>Strip characters</source>
+        <translation>Tekens weghalen</translation>
+    </message>
+    <message>
+        <source>A number of them from the left or the right</source>
+        <translation>Een aantal tekens van links of van rechts</translation>
+    </message>
+    <message>
+        <source>remove cut trim shorten</source>
+        <translation>verwijderen afknippen inkorten</translation>
+    </message>
+    <message>
+        <source>Keep a section</source>
+        <translation>Deel behouden</translation>
+    </message>
+    <message>
+        <source>Only the characters at certain places</source>
+        <translation>Alleen de tekens op bepaalde plaatsen</translation>
+    </message>
+    <message>
+        <source>part substring range middle</source>
+        <translation>gedeelte bereik midden</translation>
+    </message>
+    <message>
+        <source>Split and join</source>
+        <translation>Splitsen en verbinden</translation>
+    </message>
+    <message>
+        <source>Take pieces between separators, in any order</source>
+        <translation>Delen tussen scheidingstekens, in elke volgorde</translation>
+    </message>
+    <message>
+        <source>pieces rearrange swap</source>
+        <translation>delen omwisselen volgorde</translation>
+    </message>
+    <message>
+        <source>Remove signs</source>
+        <translation>Leestekens verwijderen</translation>
+    </message>
+    <message>
+        <source>Keep letters, or letters and digits</source>
+        <translation>Letters behouden, of letters en cijfers</translation>
+    </message>
+    <message>
+        <source>non-letters clean punctuation digits</source>
+        <translation>tekens opschonen interpunctie cijfers</translation>
+    </message>
+    <message>
+        <source>Remove spaces</source>
+        <translation>Spaties verwijderen</translation>
+    </message>
+    <message>
+        <source>All blanks, also between words</source>
+        <translation>Alle spaties, ook tussen woorden</translation>
+    </message>
+    <message>
+        <source>blanks whitespace</source>
+        <translation>witruimte blanco</translation>
+    </message>
+    <message>
+        <source>Fold accents</source>
+        <translation>Accenten weghalen</translation>
+    </message>
+    <message>
+        <source>é becomes e</source>
+        <translation>é wordt e</translation>
+    </message>
+    <message>
+        <source>ascii umlaut diacritics plain</source>
+        <translation>ascii umlaut trema diakritisch gewoon</translation>
+    </message>
+    <message>
+        <source>One writing of accents</source>
+        <translation>Accenten gelijk schrijven</translation>
+    </message>
+    <message>
+        <source>For names that came from another system</source>
+        <translation>Voor namen die van een ander systeem komen</translation>
+    </message>
+    <message>
+        <source>unicode utf-8 normalise nfc nfd repair</source>
+        <translation>unicode utf-8 normaliseren nfc nfd herstellen</translation>
+    </message>
+    <message>
+        <source>Only some names</source>
+        <translation>Alleen sommige namen</translation>
+    </message>
+    <message>
+        <source>The steps below work on names that fit</source>
+        <translation>De stappen hieronder gelden voor namen die voldoen</translation>
+    </message>
+    <message>
+        <source>filter condition contains begins ends if</source>
+        <translation>filter voorwaarde bevat begint eindigt als</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Teller</translation>
+    </message>
+    <message>
+        <source>001, 002, 003 behind the name</source>
+        <translation>001, 002, 003 achter de naam</translation>
+    </message>
+    <message>
+        <source>number sequence</source>
+        <translation>nummer volgnummer reeks</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Opnamedatum</translation>
+    </message>
+    <message>
+        <source>In front of the name</source>
+        <translation>Voor de naam</translation>
+    </message>
+    <message>
+        <source>exif time shot</source>
+        <translation>exif tijd gemaakt</translation>
+    </message>
+    <message>
+        <source>Date changed or created</source>
+        <translation>Wijzigings- of aanmaakdatum</translation>
+    </message>
+    <message>
+        <source>modified file time</source>
+        <translation>gewijzigd bestand tijd</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>Behind the name</source>
+        <translation>Achter de naam</translation>
+    </message>
+    <message>
+        <source>model lens</source>
+        <translation>model toestel lens</translation>
+    </message>
+    <message>
+        <source>Size in pixels</source>
+        <translation>Formaat in pixels</translation>
+    </message>
+    <message>
+        <source>width height resolution</source>
+        <translation>breedte hoogte resolutie</translation>
+    </message>
+    <message>
+        <source>Name of the folder</source>
+        <translation>Naam van de map</translation>
+    </message>
+    <message>
+        <source>directory parent</source>
+        <translation>directory bovenliggende</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>naam</translation>
+    </message>
+    <message>
+        <source>extension</source>
+        <translation>extensie</translation>
+    </message>
+    <message>
+        <source>name and extension</source>
+        <translation>naam en extensie</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>niets</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>%1 to lower case</source>
+        <translation>%1 in kleine letters</translation>
+    </message>
+    <message>
+        <source>%1 to UPPER CASE</source>
+        <translation>%1 in HOOFDLETTERS</translation>
+    </message>
+    <message>
+        <source>%1 to Words With Capitals</source>
+        <translation>%1 in Woorden Met Hoofdletter</translation>
+    </message>
+    <message>
+        <source>%1 becomes %2</source>
+        <translation>%1 wordt %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 from the end</source>
+        <translation>%1, %2 vanaf het einde</translation>
+    </message>
+    <message>
+        <source>%1, %2 from the start</source>
+        <translation>%1, %2 vanaf het begin</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 behind</source>
+        <translation>%1 ervoor, %2 erachter</translation>
+    </message>
+    <message>
+        <source>%1 from the left</source>
+        <translation>%1 van links</translation>
+    </message>
+    <message>
+        <source>%1 from the right</source>
+        <translation>%1 van rechts</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters from the %1.</source>
+        <translation>
+            <numerusform>%n teken vanaf teken %1</numerusform>
+            <numerusform>%n tekens vanaf teken %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>at %1, joined by %2</source>
+        <translation>bij %1, verbonden met %2</translation>
+    </message>
+    <message>
+        <source>at %1, pieces %3, joined by %2</source>
+        <translation>bij %1, delen %3, verbonden met %2</translation>
+    </message>
+    <message>
+        <source>only letters stay</source>
+        <translation>alleen letters blijven</translation>
+    </message>
+    <message>
+        <source>only letters and digits stay</source>
+        <translation>alleen letters en cijfers blijven</translation>
+    </message>
+    <message>
+        <source>no blanks are left</source>
+        <translation>er blijven geen spaties over</translation>
+    </message>
+    <message>
+        <source>é becomes e, others %1</source>
+        <translation>é wordt e, overige %1</translation>
+    </message>
+    <message>
+        <source>accents apart (NFD)</source>
+        <translation>accenten los (NFD)</translation>
+    </message>
+    <message>
+        <source>accents and letters as one (NFC)</source>
+        <translation>accenten en letters als één teken (NFC)</translation>
+    </message>
+    <message>
+        <source>that contain %1</source>
+        <translation>die %1 bevatten</translation>
+    </message>
+    <message>
+        <source>that begin with %1</source>
+        <translation>die beginnen met %1</translation>
+    </message>
+    <message>
+        <source>that end with %1</source>
+        <translation>die eindigen op %1</translation>
+    </message>
+</context>
+<context>
+    <name>targets</name>
+    <message>
+        <source>Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black and 16 bits become 8. The colour profile is kept.</source>
+        <translation>Kleine bestanden om te tonen. Fijne details gaan verloren, meer naarmate de kwaliteit lager is; EXIF, IPTC en XMP blijven niet behouden, transparante delen worden zwart, 16 bits worden er 8. Het kleurprofiel blijft behouden.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, colour profile, EXIF, IPTC and XMP are kept.</source>
+        <translation>Er gaat niets verloren: pixels, transparantie, 16 bits, kleurprofiel, EXIF, IPTC en XMP blijven behouden.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile, EXIF, IPTC and XMP are kept. Large files.</source>
+        <translation>Er gaat niets verloren: pixels, transparantie, 16 bits, CMYK, kleurprofiel, EXIF, IPTC en XMP blijven behouden. Grote bestanden.</translation>
+    </message>
+    <message>
+        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept.</source>
+        <translation>Eén pagina op het formaat van de foto. Een JPEG gaat er ongewijzigd in, andere zonder verlies. EXIF, IPTC en XMP blijven niet behouden.</translation>
+    </message>
+    <message>
+        <source>Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC, XMP and the resolution are not. Few programs show such files.</source>
+        <translation>Onzichtbaar verlies. Transparantie en 16 bits blijven behouden; EXIF, IPTC, XMP en de resolutie niet. Weinig programma’s tonen zulke bestanden.</translation>
+    </message>
+    <message>
+        <source>256 colours at most, and a pixel is either transparent or not. EXIF, IPTC, XMP and the resolution are not kept; colours become sRGB.</source>
+        <translation>Hoogstens 256 kleuren, en een pixel is transparant of niet. EXIF, IPTC, XMP en de resolutie blijven niet behouden; kleuren worden sRGB.</translation>
+    </message>
+    <message>
+        <source>Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black, and 16 bits become 8.</source>
+        <translation>Alleen pixels, in grote bestanden. EXIF, IPTC en XMP blijven niet behouden, kleuren worden sRGB, transparante delen zwart, 16 bits worden er 8.</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP are not kept</source>
+        <translation>Zonder EXIF, IPTC en XMP</translation>
+    </message>
+    <message>
+        <source>256 colours</source>
+        <translation>256 kleuren</translation>
+    </message>
+    <message>
+        <source>colours become sRGB</source>
+        <translation>kleuren worden sRGB</translation>
+    </message>
+    <message>
+        <source>the resolution is not kept</source>
+        <translation>de resolutie blijft niet behouden</translation>
+    </message>
+    <message>
+        <source>transparent parts become black</source>
+        <translation>transparant wordt zwart</translation>
+    </message>
+    <message>
+        <source>The preview that the camera put into the raw file is converted, not the raw data.</source>
+        <translation>Het voorbeeld dat de camera in het raw-bestand zette, wordt geconverteerd, niet de raw-gegevens.</translation>
+    </message>
+    <message>
+        <source>The first page is drawn at 72 pixels per inch.</source>
+        <translation>De eerste pagina wordt getekend met 72 pixels per inch.</translation>
+    </message>
+    <message>
+        <source>Of an animation the first picture is converted.</source>
+        <translation>Van een animatie wordt het eerste beeld geconverteerd.</translation>
+    </message>
+    <message>
+        <source>Of several pages the first is converted.</source>
+        <translation>Van meer pagina’s wordt de eerste geconverteerd.</translation>
+    </message>
+    <message>
+        <source>Layers become one picture.</source>
+        <translation>Lagen worden één foto.</translation>
+    </message>
+    <message>
+        <source>It is %1 already and is written anew.</source>
+        <translation>Het is al %1 en wordt opnieuw geschreven.</translation>
+    </message>
+</context>
+<context>
+    <name>tokens</name>
+    <message>
+        <source>Name without extension</source>
+        <translation>Naam zonder extensie</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extensie</translation>
+    </message>
+    <message>
+        <source>Date taken, or else changed</source>
+        <translation>Opnamedatum, anders gewijzigd</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Opnamedatum</translation>
+    </message>
+    <message>
+        <source>Date created</source>
+        <translation>Aanmaakdatum</translation>
+    </message>
+    <message>
+        <source>Date changed</source>
+        <translation>Wijzigingsdatum</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Teller</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Lens</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Breedte in pixels</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Hoogte in pixels</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Bestandsgrootte</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Bestandstype</translation>
+    </message>
+    <message>
+        <source>Landscape, portrait or square</source>
+        <translation>Liggend, staand of vierkant</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Liggend</translation>
+    </message>
+    <message>
+        <source>Name of its folder</source>
+        <translation>Naam van de map</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Vakantie</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>“%1” is geen datumnotatie: gebruik yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+    </message>
+    <message>
+        <source>“%1” is no first number of a counter</source>
+        <translation>“%1” is geen beginwaarde van een teller</translation>
+    </message>
+    <message>
+        <source>“%1” takes no part of a name: write a number of letters, “word”, or “~” and words with commas between them</source>
+        <translation>“%1” geeft geen deel van een naam aan: schrijf een aantal letters, “word”, of “~” en woorden met komma’s ertussen</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a size: write “class” or “MB”</source>
+        <translation>“%1” is geen notatie voor een grootte: schrijf “class” of “MB”</translation>
+    </message>
+    <message>
+        <source>{%1} has no forms: leave out what stands behind its colon</source>
+        <translation>{%1} kent geen notaties: laat weg wat achter de dubbele punt staat</translation>
+    </message>
+    <message>
+        <source>There is no token between the braces; a brace of its own is written {{</source>
+        <translation>Er staat geen code tussen de accolades; een gewone accolade schrijft u als {{</translation>
+    </message>
+    <message>
+        <source>There is no token {%1}</source>
+        <translation>Er is geen code {%1}</translation>
+    </message>
+    <message>
+        <source>A brace is not closed; a brace of its own is written {{</source>
+        <translation>Een accolade is niet gesloten; een gewone accolade schrijft u als {{</translation>
+    </message>
+    <message>
+        <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
+        <translation>jan feb mrt apr mei jun jul aug sep okt nov dec</translation>
+    </message>
+    <message>
+        <source>Sun Mon Tue Wed Thu Fri Sat</source>
+        <translation>zo ma di wo do vr za</translation>
+    </message>
+    <message>
+        <source>Under 1 MB</source>
+        <translation>Minder dan 1 MB</translation>
+    </message>
+    <message>
+        <source>1 to 5 MB</source>
+        <translation>1 tot 5 MB</translation>
+    </message>
+    <message>
+        <source>5 to 20 MB</source>
+        <translation>5 tot 20 MB</translation>
+    </message>
+    <message>
+        <source>20 MB and more</source>
+        <translation>20 MB en meer</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Vierkant</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Staand</translation>
+    </message>
+</context>
+<context>
+    <name>turn-action</name>
+    <message>
+        <source>Rotate &amp; Flip</source>
+        <translation>Draaien en spiegelen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Turn %n Pictures</source>
+        <translation>
+            <numerusform>%n foto draaien</numerusform>
+            <numerusform>%n foto’s draaien</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>turn-pane</name>
+    <message>
+        <source>not turned</source>
+        <translation>niet gedraaid</translation>
+    </message>
+    <message>
+        <source>↺ to the left</source>
+        <translation>↺ naar links</translation>
+    </message>
+    <message>
+        <source>↻ to the right</source>
+        <translation>↻ naar rechts</translation>
+    </message>
+</context>
+<context>
+    <name>turn-presets</name>
+    <message>
+        <source>A quarter left</source>
+        <translation>Kwartslag linksom</translation>
+    </message>
+    <message>
+        <source>A quarter right</source>
+        <translation>Kwartslag rechtsom</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>Ondersteboven</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>Gespiegeld</translation>
+    </message>
+</context>
+<context>
+    <name>turn-step</name>
+    <message>
+        <source>Turned</source>
+        <translation>Gedraaid</translation>
+    </message>
+    <message>
+        <source>turn %1°</source>
+        <translation>%1° draaien</translation>
+    </message>
+    <message>
+        <source>flip horizontally</source>
+        <translation>horizontaal spiegelen</translation>
+    </message>
+    <message>
+        <source>flip vertically</source>
+        <translation>verticaal spiegelen</translation>
+    </message>
+    <message>
+        <source>Enter an angle from -180 to 180 degrees.</source>
+        <translation>Geef een hoek op van -180 tot 180 graden.</translation>
+    </message>
+    <message>
+        <source>Choose an angle or a flip.</source>
+        <translation>Kies een hoek of een spiegeling.</translation>
+    </message>
+    <message>
+        <source>Turned without loss.</source>
+        <translation>Zonder verlies gedraaid.</translation>
+    </message>
+    <message>
+        <source>The canvas grows so that the corners fit.</source>
+        <translation>Het canvas groeit zodat de hoeken passen.</translation>
+    </message>
+    <message>
+        <source>The canvas grows so that the corners fit; what is beside the picture becomes black.</source>
+        <translation>Het canvas groeit zodat de hoeken passen; wat naast de foto ligt, wordt zwart.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written; convert it first</source>
+        <translation>%1 kan niet worden geschreven; converteer het eerst</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>geen leesbare foto</translation>
+    </message>
+</context>
+<context>
+    <name>undo-run</name>
+    <message>
+        <source>Undo This Run</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>This run wrote new files and moved none, so that there is nothing to take back: its results can be deleted.</source>
+        <translation>Deze opdracht schreef nieuwe bestanden en verplaatste er geen, dus er valt niets terug te zetten: de resultaten kunt u verwijderen.</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Opnieuw uitvoeren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files can be taken back.</source>
+        <translation>
+            <numerusform>%n bestand kan worden teruggezet.</numerusform>
+            <numerusform>%n bestanden kunnen worden teruggezet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Revert This Run</source>
+        <translation>Deze opdracht terugzetten</translation>
+    </message>
+    <message>
+        <source>No comment was changed.</source>
+        <translation>Er is geen opmerking gewijzigd.</translation>
+    </message>
+    <message>
+        <source>All its comments were reverted already.</source>
+        <translation>Alle opmerkingen zijn al teruggezet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n comments can be reverted.</source>
+        <translation>
+            <numerusform>%n opmerking kan worden teruggezet.</numerusform>
+            <numerusform>%n opmerkingen kunnen worden teruggezet.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were reverted before.</source>
+        <translation>
+            <numerusform>%n is eerder teruggezet.</numerusform>
+            <numerusform>%n zijn eerder teruggezet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+</context>
+<context>
+    <name>window</name>
+    <message>
+        <source>Nothing of the picture is left</source>
+        <translation>Er blijft niets van de foto over</translation>
+    </message>
+    <message>
+        <source>The pattern cannot be read</source>
+        <translation>Het patroon kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+</context>
+<context>
+    <name>window::ComparePreview</name>
+    <message>
+        <source>Not a readable picture</source>
+        <translation>Geen leesbare foto</translation>
+    </message>
+    <message>
+        <source>This picture cannot be shown</source>
+        <translation>Deze foto kan niet worden getoond</translation>
+    </message>
+</context>
+<context>
+    <name>window::CropFrameEditor</name>
+    <message>
+        <source>Crop frame</source>
+        <translation>Bijsnijdkader</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels, %3 from the left, %4 from the top</source>
+        <translation>%1 bij %2 pixels, %3 van links, %4 van boven</translation>
+    </message>
+</context>
+<context>
+    <name>window::FolderTree</name>
+    <message>
+        <source>new</source>
+        <translation>nieuw</translation>
+    </message>
+    <message>
+        <source>exists</source>
+        <translation>bestaat</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files</source>
+        <translation>
+            <numerusform>%Ln bestand</numerusform>
+            <numerusform>%Ln bestanden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, new folder, %2</source>
+        <translation>%1, nieuwe map, %2</translation>
+    </message>
+    <message>
+        <source>%1, folder that exists, %2</source>
+        <translation>%1, bestaande map, %2</translation>
+    </message>
+</context>
+<context>
+    <name>window::ManualView</name>
+    <message>
+        <source>This page of the manual is missing.</source>
+        <translation>Deze pagina van de handleiding ontbreekt.</translation>
+    </message>
+</context>
+<context>
+    <name>window::PictureModel</name>
+    <message>
+        <source>Thumbnail of %1</source>
+        <translation>Miniatuur van %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nieuwe naam</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Nieuwe px</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+</context>
+<context>
+    <name>window::PropertyTree</name>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschap</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy Place in Degrees</source>
+        <translation>Plaats kopiëren in graden</translation>
+    </message>
+    <message>
+        <source>Copy Place in Minutes</source>
+        <translation>Plaats kopiëren in minuten</translation>
+    </message>
+</context>
+<context>
+    <name>window::RunRows</name>
+    <message numerus="yes">
+        <source>%Ln entries</source>
+        <translation>
+            <numerusform>%Ln regel</numerusform>
+            <numerusform>%Ln regels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln problems</source>
+        <translation>
+            <numerusform>%Ln probleem</numerusform>
+            <numerusform>%Ln problemen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::SaveDialog</name>
+    <message>
+        <source>Save As</source>
+        <translation>Bewaren als</translation>
+    </message>
+    <message>
+        <source>Save in:</source>
+        <translation>Bewaren in:</translation>
+    </message>
+    <message>
+        <source>Ta&amp;gs:</source>
+        <translation>Ta&amp;gs:</translation>
+    </message>
+    <message>
+        <source>separated by commas</source>
+        <translation>gescheiden door komma’s</translation>
+    </message>
+    <message>
+        <source>Tags, separated by commas</source>
+        <translation>Tags, gescheiden door komma’s</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Replace it?</source>
+        <translation>“%1” bestaat al. Vervangen?</translation>
+    </message>
+</context>
+<context>
+    <name>window::SlotRows</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n foto</numerusform>
+            <numerusform>%n foto’s</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::StartUp</name>
+    <message>
+        <source>Quorlin cannot start: a script of its windows failed.</source>
+        <translation>Quorlin kan niet starten: een script van de vensters is mislukt.</translation>
+    </message>
+</context>
+<context>
+    <name>wording</name>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n foto</numerusform>
+            <numerusform>%n foto’s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Mislukt</translation>
+    </message>
+    <message>
+        <source>Not Supported</source>
+        <translation>Niet ondersteund</translation>
+    </message>
+    <message>
+        <source>Skipped</source>
+        <translation>Overgeslagen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n probleem</numerusform>
+            <numerusform>%n problemen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>write-plan</name>
+    <message>
+        <source>name is taken: will ask</source>
+        <translation>naam bestaat al: wordt gevraagd</translation>
+    </message>
+    <message>
+        <source>replaces original</source>
+        <translation>vervangt origineel</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <translation>vervangt %1</translation>
+    </message>
+    <message>
+        <source>would be written</source>
+        <translation>zou worden geschreven</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>in orde</translation>
+    </message>
+</context>
+<context>
+    <name>write-run</name>
+    <message>
+        <source>Name taken</source>
+        <translation>Naam bestaat al</translation>
+    </message>
+    <message>
+        <source>There is a file “%1” in the folder already.</source>
+        <translation>Er staat al een bestand “%1” in de map.</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummeren</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Vervangen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Overslaan</translation>
+    </message>
+    <message>
+        <source>Cancel Run</source>
+        <translation>Opdracht annuleren</translation>
+    </message>
+    <message>
+        <source>Do this for all</source>
+        <translation>Voor alle toepassen</translation>
+    </message>
+    <message>
+        <source>Replace originals</source>
+        <translation>Originelen vervangen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n originals will be replaced by their results.</source>
+        <translation>
+            <numerusform>%n origineel wordt vervangen door zijn resultaat.</numerusform>
+            <numerusform>%n originelen worden vervangen door hun resultaat.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What is in them now cannot be brought back.</source>
+        <translation>Wat er nu in staat, is niet terug te halen.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Cancelled before the first picture. Nothing was written.</source>
+        <translation>Geannuleerd vóór de eerste foto. Er is niets geschreven.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Geannuleerd. Er is niets geschreven.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Simulation: %n pictures would be written</source>
+        <translation>
+            <numerusform>Simulatie: %n foto zou worden geschreven</numerusform>
+            <numerusform>Simulatie: %n foto’s zouden worden geschreven</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 niet meegenomen</translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>er is niets geschreven</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wacht</translation>
+    </message>
+    <message>
+        <source>working…</source>
+        <translation>bezig…</translation>
+    </message>
+    <message>
+        <source>cancelled before its turn</source>
+        <translation>geannuleerd vóór de beurt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures done</source>
+        <translation>
+            <numerusform>%n foto verwerkt</numerusform>
+            <numerusform>%n foto’s verwerkt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 mislukt</translation>
+    </message>
+    <message>
+        <source>%1 not supported</source>
+        <translation>%1 niet ondersteund</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>%1 overgeslagen</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschreven</translation>
+    </message>
+    <message>
+        <source>Cancelled:</source>
+        <translation>Geannuleerd:</translation>
+    </message>
+</context>
+<context>
+    <name>writes</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simuleren: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n Originals</source>
+        <translation>
+            <numerusform>%n origineel vervangen</numerusform>
+            <numerusform>%n originelen vervangen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Originals are replaced by their results.</source>
+        <translation>Originelen worden vervangen door hun resultaat.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are replaced.</source>
+        <translation>
+            <numerusform>%n bestand wordt vervangen.</numerusform>
+            <numerusform>%n bestanden worden vervangen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>written</name>
+    <message>
+        <source>Choose a folder to save to.</source>
+        <translation>Kies een map om in te bewaren.</translation>
+    </message>
+    <message>
+        <source>“%1” is no name for a folder beside the originals.</source>
+        <translation>“%1” is geen naam voor een map naast de originelen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written, choose another file type</source>
+        <translation>%1 kan niet worden geschreven, kies een ander bestandstype</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kan niet worden geschreven</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>geen leesbare foto</translation>
+    </message>
+    <message>
+        <source>this type cannot be written</source>
+        <translation>dit type kan niet worden geschreven</translation>
+    </message>
+    <message>
+        <source>the file could not be written</source>
+        <translation>het bestand kon niet worden geschreven</translation>
+    </message>
+    <message>
+        <source>the result is %1 instead of %2</source>
+        <translation>het resultaat is %1 in plaats van %2</translation>
+    </message>
+    <message>
+        <source>Metadata and colour profile are not kept</source>
+        <translation>Zonder metadata en kleurprofiel</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP are not kept</source>
+        <translation>Zonder EXIF, IPTC en XMP</translation>
+    </message>
+    <message>
+        <source>transparent parts become black</source>
+        <translation>transparant wordt zwart</translation>
+    </message>
+</context>
+</TS>
