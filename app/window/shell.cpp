@@ -1,6 +1,6 @@
 #include "app/window/shell.h"
 
-#include "app/script/job_driver.h"
+#include "app/jobs/job_driver.h"
 #include "app/window/file_manager.h"
 #include "app/window/forms/sheet_host.h"
 #include "app/window/forms/ui_form.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/script/job_driver.h"
+#include "app/jobs/job_driver.h"
 #include "app/seam/function.h"
 #include "app/services/ZtFFullScreen.h"
 #include "app/window/forms/sheet_host.h"

@@ -80,6 +80,7 @@ SUB_ROOMS = {
         "printing": "",
         "services": "setup network printing",
         "seam": "",
+        "jobs": "seam",
         "script": "setup services seam",
         "modules": "seam script",
         "preview": "",
@@ -106,7 +107,7 @@ SERVICE_QT = {"QtCore", "QtGui", "QtQml"}
 QT_MODULES = {room: SERVICE_QT for room in ("image", "files", "meta", "presets")}
 QT_MODULES.update({"text": {"QtCore"}, "platform": {"QtCore", "QtGui"}, "views": SERVICE_QT})
 # The same for sub-rooms of the room that has windows, and for the library that is linked where there are none.
-WITHOUT_WIDGETS = ("setup", "network", "printing", "services", "seam", "script", "modules", "preview", "models")
+WITHOUT_WIDGETS = ("setup", "network", "printing", "services", "seam", "jobs", "script", "modules", "preview", "models")
 QT_MODULES.update({f"app/{name}": SERVICE_QT | {"QtNetwork"} for name in WITHOUT_WIDGETS})
 QT_OF_TARGET = {"quorlin_script": SERVICE_QT | {"QtNetwork"}}
 

@@ -1,12 +1,16 @@
 #include "image/services/picture_service.h"
 
 #include "image/services/format_words.h"
+#include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
 #include <QLocale>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 using image::PictureService;
 
@@ -33,7 +37,14 @@ private Q_SLOTS:
     void saysWhatFailed();
     void namesTypesInWords_data();
     void namesTypesInWords();
+    void namesAnUnknownTypeByWhatItsNameSays();
     void tellsTheSizeOfAFile();
+    void listsEveryFormatOnceWithItsExtensions();
+    void saysWhatFormatsKeep_data();
+    void saysWhatFormatsKeep();
+    void asksThePictureWhetherItsProfileFits_data();
+    void asksThePictureWhetherItsProfileFits();
+    void tellsRawFilesWithAndWithoutAPreview();
 };
 
 void TestPictureService::laysATransparentPictureOnCopiesOfAnother()
@@ -90,6 +101,89 @@ void TestPictureService::tellsTheSizeOfAFile()
     QCOMPARE(image::fileBytes(at("a")), 5);
     QCOMPARE(image::fileBytes(at("missing")), -1);
     QCOMPARE(image::pixelText({4032, 3024}), text("4032×3024"));
+}
+
+void TestPictureService::namesAnUnknownTypeByWhatItsNameSays()
+{
+    QCOMPARE(image::typeWord(text("com.example.sketch")), text("EXAMPLE.SKETCH"));
+}
+
+void TestPictureService::listsEveryFormatOnceWithItsExtensions()
+{
+    QSet<QString> ids;
+    QSet<QString> extensions;
+    const QVariantList formats = PictureService().formats();
+    for (const QVariant &each : formats) {
+        const QVariantMap format = each.toMap();
+        const QString id = format.value(text("id")).toString();
+        QVERIFY2(!id.isEmpty() && !ids.contains(id), qPrintable(id));
+        ids.insert(id);
+        const QStringList names = format.value(text("extensions")).toStringList();
+        QVERIFY2(!names.isEmpty(), qPrintable(id));
+        for (const QString &name : names) {
+            QVERIFY2(!extensions.contains(name), qPrintable(name));
+            extensions.insert(name);
+            QCOMPARE(image::typeOfName(text("a.") + name), id);
+        }
+    }
+    QVERIFY(ids.contains(text("public.jpeg")) && ids.contains(text("public.tiff")));
+}
+
+void TestPictureService::saysWhatFormatsKeep_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("profile");
+    QTest::addColumn<bool>("alpha");
+    QTest::addColumn<bool>("depth16");
+    QTest::addColumn<bool>("quality");
+    QTest::newRow("JPEG") << text("public.jpeg") << text("yes") << false << false << true;
+    QTest::newRow("PNG") << text("public.png") << text("yes") << true << true << false;
+    QTest::newRow("TIFF") << text("public.tiff") << text("yes") << true << true << false;
+    QTest::newRow("BMP") << text("public.bmp") << text("no") << false << false << false;
+    QTest::newRow("GIF") << text("com.compuserve.gif") << text("no") << true << false << false;
+}
+
+void TestPictureService::saysWhatFormatsKeep()
+{
+    QFETCH(QString, id);
+    const QVariantList formats = PictureService().formats();
+    const auto found = std::find_if(formats.begin(), formats.end(),
+                                    [&id](const QVariant &each) { return each.toMap().value(text("id")) == id; });
+    QVERIFY(found != formats.end());
+    const QVariantMap format = found->toMap();
+    QTEST(format.value(text("profile")).toString(), "profile");
+    QTEST(format.value(text("alpha")).toBool(), "alpha");
+    QTEST(format.value(text("depth16")).toBool(), "depth16");
+    QTEST(format.value(text("quality")).toBool(), "quality");
+}
+
+void TestPictureService::asksThePictureWhetherItsProfileFits_data()
+{
+    QTest::addColumn<QString>("picture");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<bool>("kept");
+    QTest::newRow("into a PNG") << text("own/formats/profile.jpg") << text("public.png") << true;
+    QTest::newRow("into a BMP") << text("own/formats/profile.jpg") << text("public.bmp") << false;
+    QTest::newRow("no picture") << text("own/README.md") << text("public.png") << false;
+    QTest::newRow("no written type") << text("own/formats/profile.jpg") << text("public.plain-text") << false;
+}
+
+void TestPictureService::asksThePictureWhetherItsProfileFits()
+{
+    QFETCH(QString, picture);
+    QFETCH(QString, id);
+    QTEST(PictureService().keepsProfile(picturePath(picture), id), "kept");
+}
+
+void TestPictureService::tellsRawFilesWithAndWithoutAPreview()
+{
+    const QVariantList types = PictureService().rawTypes();
+    QVERIFY(!types.isEmpty());
+    for (const QVariant &each : types) {
+        const QVariantMap type = each.toMap();
+        QCOMPARE(type.value(text("extension")).toString(), type.value(text("extension")).toString().toLower());
+        QCOMPARE(type.value(text("hasPreview")).typeId(), int(QMetaType::Bool));
+    }
 }
 
 QUORLIN_TEST(TestPictureService)

@@ -1,4 +1,4 @@
-#include "app/script/job_driver.h"
+#include "app/jobs/job_driver.h"
 
 #include <QElapsedTimer>
 #include <QJSEngine>
