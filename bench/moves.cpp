@@ -53,7 +53,7 @@ std::vector<MoveItem> itemsOf(const std::vector<MoveWish> &wishes)
 {
     std::vector<MoveItem> items;
     for (const MoveWish &wish : wishes)
-        items.push_back({Deed::Move, wish.from, wish.to});
+        items.push_back({Operation::Move, wish.from, wish.to});
     return items;
 }
 

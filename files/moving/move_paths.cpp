@@ -19,7 +19,8 @@ PathsSince::PathsSince(const RunRecord &run) : m_isInTurn(run.isByHand)
         // One that failed may have got a number, when another program took its old name.
         const bool isMoved = record.stand == Stand::Done || (record.stand == Stand::Failed && !record.path.isEmpty() &&
                                                              record.path != record.item.from);
-        if (!isMoved || !record.isKnown || record.path.isEmpty() || record.item.deed != Deed::Move || !isFolder)
+        if (!isMoved || !record.isKnown || record.path.isEmpty() || record.item.operation != Operation::Move ||
+            !isFolder)
             continue;
         m_at.insert(record.item.from, qsizetype(m_moved.size()));
         m_moved.push_back({record.item.from, record.path, i, record.copied.has_value()});

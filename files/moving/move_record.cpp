@@ -16,7 +16,7 @@ namespace {
 using platform::ItemKind;
 using platform::ItemState;
 
-constexpr std::array deedWords = {"move", "copy", "link", "trash", "remove copy", "remove link", "restore"};
+constexpr std::array operationWords = {"move", "copy", "link", "trash", "remove copy", "remove link", "restore"};
 constexpr std::array kindWords = {"file", "folder", "link", "other"};
 
 template<typename Words> int positionIn(const Words &words, const QJsonValue &word)
@@ -242,11 +242,11 @@ private:
     bool addItem(const QJsonObject &line)
     {
         const int index = line[key("item")].toInt(-1);
-        const int deed = positionIn(deedWords, line[key("deed")]);
-        if (index < int(run.items.size()) || index >= m_mostItems || deed < 0)
+        const int operation = positionIn(operationWords, line[key("deed")]);
+        if (index < int(run.items.size()) || index >= m_mostItems || operation < 0)
             return false;
         MoveItem item;
-        item.deed = Deed(deed);
+        item.operation = Operation(operation);
         item.from = line[key("from")].toString();
         item.to = line[key("to")].toString();
         item.of = line[key("of")].toInt(-1);
@@ -266,8 +266,9 @@ private:
     /** A link may say anything, and what is trashed goes nowhere. */
     static bool hasPlaces(const MoveItem &item)
     {
-        const bool hasFrom = item.from.startsWith(u'/') || item.deed == Deed::Link;
-        const bool hasTo = item.to.startsWith(u'/') || item.deed == Deed::Trash || item.deed == Deed::RemoveLink;
+        const bool hasFrom = item.from.startsWith(u'/') || item.operation == Operation::Link;
+        const bool hasTo =
+            item.to.startsWith(u'/') || item.operation == Operation::Trash || item.operation == Operation::RemoveLink;
         return hasFrom && hasTo;
     }
 
@@ -323,7 +324,7 @@ QByteArray headLines(const RunRecord &run)
 QByteArray itemLine(int index, const MoveItem &item)
 {
     QJsonObject line = {{key("item"), index},
-                        {key("deed"), key(deedWords[size_t(item.deed)])},
+                        {key("deed"), key(operationWords[size_t(item.operation)])},
                         {key("from"), item.from},
                         {key("to"), item.to}};
     if (item.of >= 0)

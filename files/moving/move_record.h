@@ -16,7 +16,7 @@
 namespace files {
 
 /** What is done with one item of a run. The last three take back what the others did. */
-enum class Deed {
+enum class Operation {
     Move,
     Copy,
     Link,       ///< `from` is what the link says
@@ -37,7 +37,7 @@ enum class Stand {
 
 struct MoveItem
 {
-    Deed deed = Deed::Move;
+    Operation operation = Operation::Move;
     QString from;
     QString to;
     int of = -1;          ///< when a run is taken back: the item of that run

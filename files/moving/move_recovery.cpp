@@ -35,27 +35,27 @@ public:
                 continue;
             removePlaceholders(i, record);
             removePart(i, record);
-            switch (record.item.deed) {
-            case Deed::Move:
+            switch (record.item.operation) {
+            case Operation::Move:
                 findMoved(i, record);
                 break;
-            case Deed::Copy:
+            case Operation::Copy:
                 decide(record, record.copied && isAt(record.item.to, record.copied));
                 break;
-            case Deed::Link:
+            case Operation::Link:
                 decide(record, m_disk.linkText(record.item.to) == record.item.from);
                 break;
-            case Deed::Trash:
+            case Operation::Trash:
                 findTrashed(record);
                 break;
-            case Deed::RemoveCopy:
+            case Operation::RemoveCopy:
                 findRemoved(i, record);
                 break;
-            case Deed::RemoveLink:
+            case Operation::RemoveLink:
                 bringBackRemoved(i, record);
                 decide(record, m_disk.linkText(record.item.from) != record.item.to);
                 break;
-            case Deed::Restore:
+            case Operation::Restore:
                 decide(record, isAt(record.item.to, record.item.was));
                 break;
             }
@@ -84,13 +84,13 @@ private:
     void decide(MoveRecord &record, bool looksDone)
     {
         if (record.stand == Stand::Waiting && looksDone)
-            done(record, record.item.deed == Deed::RemoveLink ? QString() : record.item.to);
+            done(record, record.item.operation == Operation::RemoveLink ? QString() : record.item.to);
     }
 
     /** A copy that never got its name goes, if what it was made from is still there; else it is the last that is left. */
     void removePart(int index, MoveRecord &record)
     {
-        const bool makesCopy = record.item.deed == Deed::Move || record.item.deed == Deed::Copy;
+        const bool makesCopy = record.item.operation == Operation::Move || record.item.operation == Operation::Copy;
         if (!makesCopy)
             return;
         const QStringList sources = {m_now(record.item.from, index), record.item.from,
@@ -136,8 +136,8 @@ private:
     void removePlaceholders(int index, const MoveRecord &record)
     {
         const MoveItem &item = record.item;
-        const bool isMove = item.deed == Deed::Move;
-        if (!item.was || (!isMove && item.deed != Deed::Copy))
+        const bool isMove = item.operation == Operation::Move;
+        if (!item.was || (!isMove && item.operation != Operation::Copy))
             return;
         const QString hidden = aside(record);
         const bool isAtHome = isAt(item.from, item.was);
@@ -330,8 +330,8 @@ private:
     platform::FileSystem &m_disk;
     RunRecord &m_run;
     PathsSince m_now;
-    SilentDeedLog m_log;
-    MoveDeeds m_names{m_disk, m_run.id, m_log}; ///< gives names back
+    SilentOperationLog m_log;
+    MoveOperations m_names{m_disk, m_run.id, m_log}; ///< gives names back
 };
 
 /** Tells the journal what was found, so that it stands by itself afterwards. */

@@ -25,11 +25,11 @@ public:
         return false;
     }
 
-    void giveNames(MoveDeeds &deeds)
+    void giveNames(MoveOperations &operations)
     {
         for (const QString &folder : folders())
             for (const QString &name : namesIn(folder))
-                giveName(deeds, folder, name);
+                giveName(operations, folder, name);
     }
 
 private:
@@ -82,10 +82,11 @@ private:
         return names;
     }
 
-    void giveName(MoveDeeds &deeds, const QString &folder, const QString &name)
+    void giveName(MoveOperations &operations, const QString &folder, const QString &name)
     {
         const QString path = platform::joinedPath(folder, name);
-        const QString place = deeds.putBack(path, platform::joinedPath(folder, nameFor(name.mid(prefix().size()))));
+        const QString place =
+            operations.putBack(path, platform::joinedPath(folder, nameFor(name.mid(prefix().size()))));
         problems.append(QCoreApplication::translate("files", "%1 had only its temporary name left and is now called %2")
                             .arg(path, platform::lastPathComponent(place)));
     }
@@ -118,10 +119,10 @@ bool hasHidden(const platform::FileSystem &disk, const RunRecord &run)
 
 QStringList rescueHidden(platform::FileSystem &disk, const RunRecord &run)
 {
-    SilentDeedLog log;
-    MoveDeeds deeds(disk, run.id, log);
+    SilentOperationLog log;
+    MoveOperations operations(disk, run.id, log);
     Rescue rescue(disk, run);
-    rescue.giveNames(deeds);
+    rescue.giveNames(operations);
     return QStringList(QCoreApplication::translate("files", "The journal of this run is damaged: %1").arg(run.id)) +
            rescue.problems;
 }

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "files/moving/move_deeds.h"
+#include "files/moving/move_operations.h"
 
 #include <QStringList>
 
 namespace files {
 
-/** For deeds that no journal has to tell of. */
-class SilentDeedLog : public DeedLog
+/** For operations that no journal has to tell of. */
+class SilentOperationLog : public OperationLog
 {
     platform::Result<void> noteCopy(int, const platform::ItemState &) override { return {}; }
     platform::Result<void> noteFolder(const QString &) override { return {}; }

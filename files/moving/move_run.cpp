@@ -53,17 +53,17 @@ Displacement displacementOf(const MoveItem &item, PlainPaths &plain)
 {
     Displacement displacement;
     displacement.isFolder = item.was && item.was->kind == platform::ItemKind::Folder;
-    displacement.mayStepAside = item.deed == Deed::Move;
-    const bool isLeaving = item.deed != Deed::Copy && item.deed != Deed::Link;
-    const bool isTaking =
-        item.deed == Deed::Move || item.deed == Deed::Copy || item.deed == Deed::Link || item.deed == Deed::Restore;
+    displacement.mayStepAside = item.operation == Operation::Move;
+    const bool isLeaving = item.operation != Operation::Copy && item.operation != Operation::Link;
+    const bool isTaking = item.operation == Operation::Move || item.operation == Operation::Copy ||
+                          item.operation == Operation::Link || item.operation == Operation::Restore;
     if (isLeaving)
         displacement.leaves = plain(item.from);
     if (isTaking)
         displacement.takes = plain(item.to);
-    if (item.deed == Deed::Copy)
+    if (item.operation == Operation::Copy)
         displacement.reads = plain(item.from);
-    if (item.deed == Deed::RemoveCopy)
+    if (item.operation == Operation::RemoveCopy)
         displacement.reads = plain(item.to);
     return displacement;
 }
@@ -97,7 +97,7 @@ void discardOld(JournalShelf &shelf)
 } // namespace
 
 MoveRun::MoveRun(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record)
-    : m_disk(disk), m_shelf(shelf), m_record(std::move(record)), m_deeds(disk, m_record.id, *this)
+    : m_disk(disk), m_shelf(shelf), m_record(std::move(record)), m_operations(disk, m_record.id, *this)
 {
 }
 
@@ -112,7 +112,7 @@ platform::Result<std::unique_ptr<MoveRun>> MoveRun::begin(platform::FileSystem &
     for (const MoveItem &item : form.items) {
         MoveRecord &added = record.items.emplace_back();
         added.item = item;
-        if (item.deed != Deed::Link)
+        if (item.operation != Operation::Link)
             added.item.was = disk.look(item.from);
         displacements.push_back(displacementOf(added.item, plain));
     }
@@ -223,7 +223,7 @@ void MoveRun::stepAside(int index)
 {
     if (at(index).stand != Stand::Waiting)
         return;
-    const DeedOutcome outcome = m_deeds.stepAside(index, at(index).item);
+    const OperationOutcome outcome = m_operations.stepAside(index, at(index).item);
     if (outcome.why == MoveProblem::None)
         at(index).stand = Stand::Aside;
     else
@@ -239,7 +239,7 @@ void MoveRun::giveName(int index)
     if (!isAside && isToBeSkipped(index))
         return;
     const QString source = isAside ? asidePath(m_record.id, index, record.item) : record.item.from;
-    const DeedOutcome outcome = m_deeds.carryOut(index, record.item, source);
+    const OperationOutcome outcome = m_operations.carryOut(index, record.item, source);
     if (outcome.why == MoveProblem::None)
         return markDone(index, outcome);
     if (isAside)
@@ -277,15 +277,15 @@ bool MoveRun::isWaitedFor(int index)
 }
 
 /** Takes the steps of the group back, the last one first. */
-void MoveRun::takeBackGroup(const DeedOutcome &why)
+void MoveRun::takeBackGroup(const OperationOutcome &why)
 {
     for (size_t i = m_step; i-- > m_groupBegin;) {
         const MoveStep step = m_record.steps[i];
         MoveRecord &record = at(step.item);
         if (step.isAside && record.stand == Stand::Aside) {
             bringBack(step.item, why);
-        } else if (!step.isAside && record.stand == Stand::Done && record.item.deed == Deed::Move &&
-                   m_deeds.move(step.item, record.path, record.item.from).why == MoveProblem::None) {
+        } else if (!step.isAside && record.stand == Stand::Done && record.item.operation == Operation::Move &&
+                   m_operations.move(step.item, record.path, record.item.from).why == MoveProblem::None) {
             m_settled.erase(std::remove(m_settled.begin(), m_settled.end(), step.item), m_settled.end());
             markFailed(step.item, why);
         }
@@ -293,16 +293,16 @@ void MoveRun::takeBackGroup(const DeedOutcome &why)
 }
 
 /** An item never keeps its temporary name: it gets its old one, or else its new one, or else one with a number. */
-void MoveRun::bringBack(int index, const DeedOutcome &why)
+void MoveRun::bringBack(int index, const OperationOutcome &why)
 {
     const MoveItem item = at(index).item;
     const QString aside = asidePath(m_record.id, index, item);
     if (!m_disk.rename(aside, item.from))
         return markFailed(index, why);
-    if (const DeedOutcome given = m_deeds.carryOut(index, item, aside); given.why == MoveProblem::None)
+    if (const OperationOutcome given = m_operations.carryOut(index, item, aside); given.why == MoveProblem::None)
         return markDone(index, given);
-    DeedOutcome outcome = why;
-    outcome.path = m_deeds.putBack(aside, item.from);
+    OperationOutcome outcome = why;
+    outcome.path = m_operations.putBack(aside, item.from);
     outcome.message =
         QCoreApplication::translate("files", "The name %1 was taken in the meantime; the item is now called %2")
             .arg(lastPathComponent(item.from), lastPathComponent(outcome.path));
@@ -311,7 +311,7 @@ void MoveRun::bringBack(int index, const DeedOutcome &why)
         at(index).stand = Stand::Aside;
 }
 
-void MoveRun::markDone(int index, const DeedOutcome &outcome)
+void MoveRun::markDone(int index, const OperationOutcome &outcome)
 {
     MoveRecord &record = at(index);
     record.stand = Stand::Done;
@@ -325,7 +325,7 @@ void MoveRun::markDone(int index, const DeedOutcome &outcome)
     m_settled.push_back(index);
 }
 
-void MoveRun::markFailed(int index, const DeedOutcome &outcome)
+void MoveRun::markFailed(int index, const OperationOutcome &outcome)
 {
     MoveRecord &record = at(index);
     record.stand = Stand::Failed;
@@ -361,7 +361,7 @@ void MoveRun::close(const QString &end)
     // What could not be brought back or taken away is tried again at the next start, and so is a journal that lacks a line.
     if (!m_unwritten.isEmpty())
         m_trouble = note({}, Lasting::AtOnce);
-    if (m_trouble && !m_deeds.hasLeftOver() && std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
+    if (m_trouble && !m_operations.hasLeftOver() && std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
         m_trouble = note(endLine(end, int(m_record.items.size()), int(done)), Lasting::AtOnce);
     m_record.end = end;
     m_record.doneAtEnd = int(done);
@@ -380,7 +380,7 @@ void MoveRun::removeEmptyFolders()
 MoveResult MoveRun::add(MoveItem item)
 {
     const int index = int(m_record.items.size());
-    if (item.deed != Deed::Link)
+    if (item.operation != Operation::Link)
         item.was = m_disk.look(item.from);
     MoveRecord &record = m_record.items.emplace_back();
     record.item = item;
@@ -403,14 +403,14 @@ int MoveRun::lastDone() const
     return -1;
 }
 
-MoveResult MoveRun::takeBack(int index, const MoveItem &deed)
+MoveResult MoveRun::takeBack(int index, const MoveItem &operation)
 {
-    const DeedOutcome outcome = m_deeds.carryOut(index, deed, deed.from);
+    const OperationOutcome outcome = m_operations.carryOut(index, operation, operation.from);
     if (outcome.why != MoveProblem::None)
-        return {index, Stand::Failed, outcome.why, outcome.message, deed.from};
+        return {index, Stand::Failed, outcome.why, outcome.message, operation.from};
     at(index).stand = Stand::TakenBack;
     (void)note(takenBackLine(index), Lasting::AtOnce);
-    m_touched.insert(parentFolder(deed.from));
+    m_touched.insert(parentFolder(operation.from));
     return {index, Stand::Done, MoveProblem::None, outcome.message, outcome.path};
 }
 

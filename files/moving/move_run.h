@@ -1,7 +1,7 @@
 #pragma once
 
 #include "files/moving/journal_shelf.h"
-#include "files/moving/move_deeds.h"
+#include "files/moving/move_operations.h"
 
 #include <deque>
 #include <memory>
@@ -38,7 +38,7 @@ struct MoveOrderForm
  *
  * Destroying a run ends nothing: what is left then is what an interruption leaves, and MoveRecovery ends it.
  */
-class MoveRun : private DeedLog
+class MoveRun : private OperationLog
 {
 public:
     /** Begins a run. Fails where the journal cannot be written; nothing has moved then. */
@@ -62,8 +62,8 @@ public:
     MoveResult add(MoveItem item);
     /** The last item that stands, or -1. */
     int lastDone() const;
-    /** Takes back one item, with the deed that does so. */
-    MoveResult takeBack(int index, const MoveItem &deed);
+    /** Takes back one item, with the operation that does so. */
+    MoveResult takeBack(int index, const MoveItem &operation);
 
     /** Finishes or takes back what was interrupted in the middle; the records say where everything is now. */
     void mend();
@@ -83,10 +83,10 @@ private:
     void giveName(int index);
     bool isToBeSkipped(int index);
     bool isWaitedFor(int index);
-    void takeBackGroup(const DeedOutcome &why);
-    void bringBack(int index, const DeedOutcome &why);
-    void markDone(int index, const DeedOutcome &outcome);
-    void markFailed(int index, const DeedOutcome &outcome);
+    void takeBackGroup(const OperationOutcome &why);
+    void bringBack(int index, const OperationOutcome &why);
+    void markDone(int index, const OperationOutcome &outcome);
+    void markFailed(int index, const OperationOutcome &outcome);
     void settleResult(int index);
     void refuseWithoutSteps();
     void removeEmptyFolders();
@@ -94,7 +94,7 @@ private:
     platform::FileSystem &m_disk;
     JournalShelf &m_shelf;
     RunRecord m_record;
-    MoveDeeds m_deeds;
+    MoveOperations m_operations;
     size_t m_step = 0;
     size_t m_groupBegin = 0; ///< steps that leave nothing under a temporary name when all are taken
     size_t m_groupEnd = 0;

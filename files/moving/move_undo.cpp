@@ -18,64 +18,66 @@ UndoProblem problemAt(const QString &path, MoveProblem why)
     return {path, why, sentence(why, path)};
 }
 
-/** The deed that takes an item back, where everything still is as it was left. */
+/** The operation that takes an item back, where everything still is as it was left. */
 MoveItem inverseOf(const MoveRecord &record, int index, PathsSince &now)
 {
     const MoveItem &item = record.item;
     const QString path = now(record.path, index);
-    switch (item.deed) {
-    case Deed::Move:
-        return {Deed::Move, path, now(item.from, index), index};
-    case Deed::Copy:
-        return {Deed::RemoveCopy, path, now(item.from, index), index};
-    case Deed::Link:
-        return {Deed::RemoveLink, path, item.from, index};
-    case Deed::Trash:
-        return {Deed::Restore, record.path, now(item.from, index), index};
-    case Deed::RemoveCopy:
+    switch (item.operation) {
+    case Operation::Move:
+        return {Operation::Move, path, now(item.from, index), index};
+    case Operation::Copy:
+        return {Operation::RemoveCopy, path, now(item.from, index), index};
+    case Operation::Link:
+        return {Operation::RemoveLink, path, item.from, index};
+    case Operation::Trash:
+        return {Operation::Restore, record.path, now(item.from, index), index};
+    case Operation::RemoveCopy:
         if (!record.path.isEmpty())
-            return {Deed::Restore, record.path, now(item.from, index), index};
-        return {Deed::Copy, now(item.to, index), now(item.from, index), index};
-    case Deed::RemoveLink:
-        return {Deed::Link, item.to, now(item.from, index), index};
-    case Deed::Restore:
-        return {Deed::Trash, path, QString(), index};
+            return {Operation::Restore, record.path, now(item.from, index), index};
+        return {Operation::Copy, now(item.to, index), now(item.from, index), index};
+    case Operation::RemoveLink:
+        return {Operation::Link, item.to, now(item.from, index), index};
+    case Operation::Restore:
+        return {Operation::Trash, path, QString(), index};
     }
     Q_UNREACHABLE();
 }
 
-/** Whether what the deed works on is still what the run left there. */
-UndoProblem faultOf(const platform::FileSystem &disk, const MoveItem &deed, const MoveRecord &record,
+/** Whether what the operation works on is still what the run left there. */
+UndoProblem faultOf(const platform::FileSystem &disk, const MoveItem &operation, const MoveRecord &record,
                     const PathsSince &now)
 {
-    const bool madeItem = deed.deed != Deed::Link && deed.deed != Deed::Copy;
-    const auto state = deed.deed == Deed::Link ? std::nullopt : disk.look(deed.from);
-    if (!state && deed.deed != Deed::Link)
-        return problemAt(deed.from, MoveProblem::Gone);
+    const bool madeItem = operation.operation != Operation::Link && operation.operation != Operation::Copy;
+    const auto state = operation.operation == Operation::Link ? std::nullopt : disk.look(operation.from);
+    if (!state && operation.operation != Operation::Link)
+        return problemAt(operation.from, MoveProblem::Gone);
     if (!madeItem)
         return {};
     // A copy that was changed goes to the trash, from where it can be taken.
-    const bool isSame = !record.is || (now.wasCopied(record.path, deed.of) ? isAlike(*state, *record.is)
-                                       : deed.deed == Deed::RemoveCopy     ? isSameItem(*state, *record.is)
-                                                                           : isUnchanged(*state, *record.is));
+    const bool isSame =
+        !record.is || (now.wasCopied(record.path, operation.of)       ? isAlike(*state, *record.is)
+                       : operation.operation == Operation::RemoveCopy ? isSameItem(*state, *record.is)
+                                                                      : isUnchanged(*state, *record.is));
     if (!isSame)
-        return problemAt(deed.from, MoveProblem::Changed);
-    const auto original = deed.deed == Deed::RemoveCopy ? disk.look(deed.to) : std::nullopt;
+        return problemAt(operation.from, MoveProblem::Changed);
+    const auto original = operation.operation == Operation::RemoveCopy ? disk.look(operation.to) : std::nullopt;
     if (original && isOneItem(*state, *original))
-        return problemAt(deed.from, MoveProblem::Original);
-    if (deed.deed == Deed::RemoveLink && disk.linkText(deed.from) != deed.to)
-        return problemAt(deed.from, MoveProblem::Changed);
+        return problemAt(operation.from, MoveProblem::Original);
+    if (operation.operation == Operation::RemoveLink && disk.linkText(operation.from) != operation.to)
+        return problemAt(operation.from, MoveProblem::Changed);
     return {};
 }
 
-bool takesPlace(const MoveItem &deed)
+bool takesPlace(const MoveItem &operation)
 {
-    return deed.deed == Deed::Move || deed.deed == Deed::Copy || deed.deed == Deed::Link || deed.deed == Deed::Restore;
+    return operation.operation == Operation::Move || operation.operation == Operation::Copy ||
+           operation.operation == Operation::Link || operation.operation == Operation::Restore;
 }
 
-bool leavesPlace(const MoveItem &deed)
+bool leavesPlace(const MoveItem &operation)
 {
-    return deed.deed != Deed::Copy && deed.deed != Deed::Link;
+    return operation.operation != Operation::Copy && operation.operation != Operation::Link;
 }
 
 QString keyOf(const QString &path)
@@ -84,44 +86,44 @@ QString keyOf(const QString &path)
 }
 
 /** Leaves out what wants a place that something else keeps, and then what wanted the place of that. */
-void leaveOutHindered(const platform::FileSystem &disk, std::vector<MoveItem> &deeds,
+void leaveOutHindered(const platform::FileSystem &disk, std::vector<MoveItem> &operations,
                       std::vector<UndoProblem> &problems)
 {
     QHash<QString, int> leaving;
     QHash<QString, int> similar; // on a disk that does not tell cases apart
     QHash<QString, int> taking;
     std::vector<int> questions;
-    for (int i = 0; i < int(deeds.size()); ++i) {
-        if (leavesPlace(deeds[size_t(i)])) {
-            leaving.insert(deeds[size_t(i)].from, i);
-            similar.insert(keyOf(deeds[size_t(i)].from), i);
+    for (int i = 0; i < int(operations.size()); ++i) {
+        if (leavesPlace(operations[size_t(i)])) {
+            leaving.insert(operations[size_t(i)].from, i);
+            similar.insert(keyOf(operations[size_t(i)].from), i);
         }
-        if (takesPlace(deeds[size_t(i)])) {
-            taking.insert(deeds[size_t(i)].to, i);
+        if (takesPlace(operations[size_t(i)])) {
+            taking.insert(operations[size_t(i)].to, i);
             questions.push_back(i);
         }
     }
-    std::vector<bool> isOut(deeds.size());
+    std::vector<bool> isOut(operations.size());
     while (!questions.empty()) {
         const int i = questions.back();
         questions.pop_back();
-        const MoveItem &deed = deeds[size_t(i)];
-        const int leaver = leaving.value(deed.to, similar.value(keyOf(deed.to), -1));
-        const auto there = isOut[size_t(i)] ? std::nullopt : disk.look(deed.to);
-        const auto own = there && deed.deed == Deed::Move ? disk.look(deed.from) : std::nullopt;
+        const MoveItem &operation = operations[size_t(i)];
+        const int leaver = leaving.value(operation.to, similar.value(keyOf(operation.to), -1));
+        const auto there = isOut[size_t(i)] ? std::nullopt : disk.look(operation.to);
+        const auto own = there && operation.operation == Operation::Move ? disk.look(operation.from) : std::nullopt;
         const bool isItself = own && isSameItem(*there, *own);
         if (!there || isItself || (leaver >= 0 && !isOut[size_t(leaver)]))
             continue;
         isOut[size_t(i)] = true;
-        problems.push_back(problemAt(deed.to, MoveProblem::Taken));
-        if (const int waiting = taking.value(deed.from, -1); leavesPlace(deed) && waiting >= 0)
+        problems.push_back(problemAt(operation.to, MoveProblem::Taken));
+        if (const int waiting = taking.value(operation.from, -1); leavesPlace(operation) && waiting >= 0)
             questions.push_back(waiting);
     }
     std::vector<MoveItem> kept;
-    for (size_t i = 0; i < deeds.size(); ++i)
+    for (size_t i = 0; i < operations.size(); ++i)
         if (!isOut[i])
-            kept.push_back(deeds[i]);
-    deeds = std::move(kept);
+            kept.push_back(operations[i]);
+    operations = std::move(kept);
 }
 
 RunRecord recordOf(const JournalShelf &shelf, const QString &run)
@@ -205,10 +207,10 @@ UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, c
                  QCoreApplication::translate("files", "The journal of this run is damaged: %1").arg(run)});
     for (auto index = standing.rbegin(); index != standing.rend(); ++index) {
         const MoveRecord &done = record.items[size_t(*index)];
-        const MoveItem deed = inverseOf(done, *index, now);
-        const UndoProblem fault = faultOf(disk, deed, done, now);
+        const MoveItem operation = inverseOf(done, *index, now);
+        const UndoProblem fault = faultOf(disk, operation, done, now);
         if (fault.why == MoveProblem::None)
-            plan.form.items.push_back(deed);
+            plan.form.items.push_back(operation);
         else
             plan.problems.push_back(fault);
     }
@@ -226,10 +228,10 @@ TakeBack takeBackOf(const platform::FileSystem &disk, const RunRecord &run, int 
 {
     PathsSince now(run);
     const MoveRecord &record = run.items[size_t(index)];
-    std::vector<MoveItem> deeds = {inverseOf(record, index, now)};
-    TakeBack answer = {deeds.front(), faultOf(disk, deeds.front(), record, now)};
+    std::vector<MoveItem> operations = {inverseOf(record, index, now)};
+    TakeBack answer = {operations.front(), faultOf(disk, operations.front(), record, now)};
     std::vector<UndoProblem> problems;
-    leaveOutHindered(disk, deeds, problems);
+    leaveOutHindered(disk, operations, problems);
     if (answer.problem.why == MoveProblem::None && !problems.empty())
         answer.problem = problems.front();
     return answer;

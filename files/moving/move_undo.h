@@ -31,10 +31,10 @@ struct UndoPlan
  */
 UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run);
 
-/** The deed that takes back one item of a run that is open, or why it cannot be done. */
+/** The operation that takes back one item of a run that is open, or why it cannot be done. */
 struct TakeBack
 {
-    MoveItem deed;
+    MoveItem operation;
     UndoProblem problem; ///< none where it can
 };
 TakeBack takeBackOf(const platform::FileSystem &disk, const RunRecord &run, int index);

@@ -42,11 +42,11 @@ MoveWish wishFrom(const Fields &fields)
 
 MoveItem itemFrom(const Fields &fields)
 {
-    const std::optional<Deed> deed = wantedDeed(kindOf(fields));
-    if (!deed)
+    const std::optional<Operation> operation = wantedOperation(kindOf(fields));
+    if (!operation)
         fields.reject("\"move\", \"copy\", \"link\" or \"trash\"", "kind");
     MoveItem item;
-    item.deed = *deed;
+    item.operation = *operation;
     item.from = fields.text("from");
     item.to = fields.text("to");
     item.leader = fields.whole("leader", -1);
@@ -246,7 +246,7 @@ QVariantMap MoveService::add(const QString &run, const QVariantMap &item)
     MoveItem added = itemFrom(fields);
     if (!active)
         return failed(MoveProblem::Other, tr("This run is not open"), added.from);
-    if (added.deed != Deed::Trash) {
+    if (added.operation != Operation::Trash) {
         const PlannedMove planned = planMoves({wishFrom(fields)}, *m_disk).front();
         if (planned.status == PlanStatus::Refused)
             return failed(planned.why, sentence(planned.why, planned.other.isEmpty() ? added.from : planned.other),
@@ -269,12 +269,12 @@ QVariant MoveService::takeBack(const QString &run)
     const TakeBack back = takeBackOf(*m_disk, active->record(), index);
     const UndoProblem &problem = back.problem;
     const MoveResult result = problem.why == MoveProblem::None
-                                  ? active->takeBack(index, back.deed)
+                                  ? active->takeBack(index, back.operation)
                                   : MoveResult{index, Stand::Failed, problem.why, problem.reason, problem.path};
     if (result.stand != Stand::Done)
         m_givenUp.insert({run, index});
     QVariantMap answer = mapOf(result);
-    answer.insert(QStringLiteral("kind"), wordOf(record.item.deed));
+    answer.insert(QStringLiteral("kind"), wordOf(record.item.operation));
     answer.insert(QStringLiteral("from"), record.item.from);
     answer.insert(QStringLiteral("to"), record.path);
     return answer;
@@ -293,7 +293,7 @@ QVariantMap MoveService::undo(const QString &run)
     const UndoPlan plan = planUndo(*m_disk, *m_shelf, run);
     QVariantList items;
     for (const MoveItem &item : plan.form.items)
-        items.append(QVariantMap{{QStringLiteral("kind"), wordOf(item.deed)},
+        items.append(QVariantMap{{QStringLiteral("kind"), wordOf(item.operation)},
                                  {QStringLiteral("from"), item.from},
                                  {QStringLiteral("to"), item.to}});
     QVariantMap answer = plan.problem.isEmpty() ? started(MoveRun::begin(*m_disk, *m_shelf, plan.form))

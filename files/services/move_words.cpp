@@ -13,38 +13,38 @@ std::optional<MoveKind> moveKind(QStringView word)
     return std::nullopt;
 }
 
-std::optional<Deed> wantedDeed(QStringView word)
+std::optional<Operation> wantedOperation(QStringView word)
 {
     if (word == QStringLiteral("trash"))
-        return Deed::Trash;
+        return Operation::Trash;
     const std::optional<MoveKind> kind = moveKind(word);
     if (!kind)
         return std::nullopt;
     switch (*kind) {
     case MoveKind::Move:
-        return Deed::Move;
+        return Operation::Move;
     case MoveKind::Copy:
-        return Deed::Copy;
+        return Operation::Copy;
     case MoveKind::Link:
-        return Deed::Link;
+        return Operation::Link;
     }
     Q_UNREACHABLE();
 }
 
-QString wordOf(Deed deed)
+QString wordOf(Operation operation)
 {
-    switch (deed) {
-    case Deed::Move:
-    case Deed::Restore:
+    switch (operation) {
+    case Operation::Move:
+    case Operation::Restore:
         return QStringLiteral("move");
-    case Deed::Copy:
+    case Operation::Copy:
         return QStringLiteral("copy");
-    case Deed::Link:
+    case Operation::Link:
         return QStringLiteral("link");
-    case Deed::Trash:
+    case Operation::Trash:
         return QStringLiteral("trash");
-    case Deed::RemoveCopy:
-    case Deed::RemoveLink:
+    case Operation::RemoveCopy:
+    case Operation::RemoveLink:
         return QStringLiteral("remove");
     }
     Q_UNREACHABLE();

@@ -13,10 +13,10 @@ namespace files {
 std::optional<MoveKind> moveKind(QStringView word);
 
 /** "move", "copy", "link" or "trash": what a script may ask to be done with an item. Nothing for any other word. */
-std::optional<Deed> wantedDeed(QStringView word);
+std::optional<Operation> wantedOperation(QStringView word);
 
 /** What was done with an item, in a word: "move", "copy", "link", "trash" or "remove". */
-QString wordOf(Deed deed);
+QString wordOf(Operation operation);
 
 /** "ready", "same" or "refused". */
 QString wordOf(PlanStatus status);

@@ -203,13 +203,13 @@ private:
         QVERIFY(m_driver->waitFor([this] { return m_driver->control<QAbstractButton>("startButton")->isEnabled(); }));
     }
 
-    void atTheFirstFile(const std::function<void(int)> &deed)
+    void atTheFirstFile(const std::function<void(int)> &operation)
     {
         auto *progress = m_driver->control<QProgressBar>("progress");
-        connect(progress, &QProgressBar::valueChanged, this, [this, progress, deed](int value) {
+        connect(progress, &QProgressBar::valueChanged, this, [this, progress, operation](int value) {
             if (value > 0 && value < many) {
                 progress->disconnect(this);
-                deed(value);
+                operation(value);
             }
         });
     }
@@ -222,9 +222,9 @@ private:
         files::DiskJournalShelf shelf(m_driver->folder() + QStringLiteral("/.local/share/quorlin/moves"));
         files::MoveOrderForm form;
         form.title = QStringLiteral("Rename");
-        form.items = {{files::Deed::Move, at("a.jpg"), at("1.jpg")},
-                      {files::Deed::Move, at("b.jpg"), at("2.jpg")},
-                      {files::Deed::Move, at("d.jpg"), at("3.jpg")}};
+        form.items = {{files::Operation::Move, at("a.jpg"), at("1.jpg")},
+                      {files::Operation::Move, at("b.jpg"), at("2.jpg")},
+                      {files::Operation::Move, at("d.jpg"), at("3.jpg")}};
         const auto run = files::MoveRun::begin(disk, shelf, form);
         QVERIFY(run);
         QVERIFY((*run)->next());

@@ -64,7 +64,7 @@ private Q_SLOTS:
         QCOMPARE(m_driver->pictures().count(), 3);
         m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
         QVERIFY(waitForNames({"IMG_1.jpg", "IMG_2.jpg", "notes.txt"}));
-        QVERIFY(waitForDeed("Rename 3 Files"));
+        QVERIFY(waitForOperation("Rename 3 Files"));
         QCOMPARE(m_driver->text("startNote"), QStringLiteral("3 ready · can be undone"));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("3 files renamed, 0 problems")));
@@ -79,7 +79,7 @@ private Q_SLOTS:
         files({"IMG_1.JPG", "IMG_1.xmp", "IMG_2.JPG"});
         m_driver->drop({path("IMG_1.JPG"), path("IMG_2.JPG")});
         m_driver->choose("preset", QStringLiteral("=Number behind"));
-        QVERIFY(waitForDeed("Rename 2 Files"));
+        QVERIFY(waitForOperation("Rename 2 Files"));
         m_driver->click("startButton");
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         const QStringList renamed = texts({"IMG_1 001.JPG", "IMG_1 001.xmp", "IMG_2 002.JPG"});
@@ -106,7 +106,7 @@ private Q_SLOTS:
         files({"A.JPG", "b.jpg"});
         m_driver->drop({m_folder});
         m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
-        QVERIFY(waitForDeed("Rename 1 File"));
+        QVERIFY(waitForOperation("Rename 1 File"));
         m_driver->click("startButton");
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         m_driver->startAgain();
@@ -120,7 +120,7 @@ private Q_SLOTS:
         files({"A.JPG", "B.JPG"});
         m_driver->drop({m_folder});
         m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
-        QVERIFY(waitForDeed("Rename 2 Files"));
+        QVERIFY(waitForOperation("Rename 2 Files"));
         m_driver->click("startButton");
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         files({"A.JPG"});
@@ -136,7 +136,7 @@ private Q_SLOTS:
         m_driver->drop({m_folder});
         m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
         m_driver->control<QCheckBox>("moveSimulation")->setChecked(true);
-        QVERIFY(waitForDeed("Simulate: Rename 1 File"));
+        QVERIFY(waitForOperation("Simulate: Rename 1 File"));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().contains(QLatin1String("nothing was moved")));
         QCOMPARE(namesIn(m_folder), texts({"A.JPG"}));
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QVERIFY(!m_driver->control<QAbstractButton>("startButton")->isEnabled());
         addStep("Add before");
         m_driver->control<QLineEdit>("secondText")->setText(QStringLiteral("-"));
-        QVERIFY(waitForDeed("Rename 2 Files"));
+        QVERIFY(waitForOperation("Rename 2 Files"));
     }
 
     void twoFilesDoNotGetOneName()
@@ -226,7 +226,7 @@ private Q_SLOTS:
         QCOMPARE(m_driver->pictures().count(), 2);
         addStep("Change case");
         QVERIFY(waitForNames({"out", "in"}));
-        QVERIFY(waitForDeed("Rename 2 Folders"));
+        QVERIFY(waitForOperation("Rename 2 Folders"));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("2 folders renamed, 0 problems")));
         QCOMPARE(contentOf("out/in/a.jpg"), QByteArray("OUT/IN/a.jpg"));
@@ -313,7 +313,7 @@ private Q_SLOTS:
         addStep("New text");
         auto *field = m_driver->control<QLineEdit>("firstText");
         field->setText(QStringLiteral("{name} {counter:00001}"));
-        QVERIFY(waitForDeed("Rename 10000 Files"));
+        QVERIFY(waitForOperation("Rename 10000 Files"));
         QElapsedTimer clock;
         qint64 longest = 0;
         {
@@ -331,7 +331,7 @@ private Q_SLOTS:
         }
         qInfo("10000 names: planned %lld ms after the last key, longest stop of the window %lld ms", clock.elapsed(),
               longest);
-        QVERIFY(waitForDeed("Rename 10000 Files"));
+        QVERIFY(waitForOperation("Rename 10000 Files"));
         clock.restart();
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("10000 files renamed, 0 problems")));
@@ -439,7 +439,7 @@ private:
         return came;
     }
 
-    bool waitForDeed(const char *text)
+    bool waitForOperation(const char *text)
     {
         auto *button = m_driver->control<QAbstractButton>("startButton");
         const bool came = m_driver->waitFor([&] { return button->text() == QString::fromUtf8(text); }, 15000);

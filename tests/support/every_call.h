@@ -86,9 +86,9 @@ int chmod(const char *path, mode_t mode) noexcept
 }
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wshadow" // there is a struct of that name too
-int flock(int file, int deed) noexcept
+int flock(int file, int operation) noexcept
 {
-    return int(afterMeeting("flock", nullptr, [=] { return ::syscall(SYS_flock, file, deed); }));
+    return int(afterMeeting("flock", nullptr, [=] { return ::syscall(SYS_flock, file, operation); }));
 }
 #pragma GCC diagnostic pop
 ssize_t write(int file, const void *bytes, size_t count)

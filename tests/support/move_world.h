@@ -61,9 +61,9 @@ public:
         for (size_t i = 0; i < plan.size(); ++i)
             if (plan[i].status == files::PlanStatus::Ready) {
                 files::MoveItem item;
-                item.deed = wishes[i].kind == files::MoveKind::Copy   ? files::Deed::Copy
-                            : wishes[i].kind == files::MoveKind::Link ? files::Deed::Link
-                                                                      : files::Deed::Move;
+                item.operation = wishes[i].kind == files::MoveKind::Copy   ? files::Operation::Copy
+                                 : wishes[i].kind == files::MoveKind::Link ? files::Operation::Link
+                                                                           : files::Operation::Move;
                 item.from = wishes[i].from;
                 item.to = plan[i].to;
                 form.items.push_back(item);

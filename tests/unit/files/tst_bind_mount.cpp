@@ -40,7 +40,7 @@ int takeBack(const ScratchFolder &here, bool isPlannedBefore)
     platform::DiskFileSystem disk;
     DiskJournalShelf shelf(here.path("journals"));
     MoveOrderForm copying;
-    copying.items = {{Deed::Copy, here.path("old/a.jpg"), here.path("new/a.jpg")}};
+    copying.items = {{Operation::Copy, here.path("old/a.jpg"), here.path("new/a.jpg")}};
     carryOut(disk, shelf, copying);
     if (here.read("new/a.jpg") != "a picture" || shelf.names().isEmpty())
         return 1;

@@ -128,13 +128,13 @@ const std::map<QByteArray, Work> &works()
 {
     static const auto nothing = [](const Place &) {};
     static const auto copies = [](const Place &place) {
-        carryOut(place, formOf({{Deed::Copy, place.here("in/a.jpg"), place.here("copies/a.jpg")},
-                                {Deed::Copy, place.here("in/folder"), place.other("copies/folder")}}));
+        carryOut(place, formOf({{Operation::Copy, place.here("in/a.jpg"), place.here("copies/a.jpg")},
+                                {Operation::Copy, place.here("in/folder"), place.other("copies/folder")}}));
     };
     static const auto moves = [](const Place &place) {
-        carryOut(place, formOf({{Deed::Move, place.here("in/a.jpg"), place.other("new/a.jpg")},
-                                {Deed::Move, place.here("in/folder"), place.other("new/er/folder")},
-                                {Deed::Move, place.other("d.jpg"), place.here("in/d.jpg")}}));
+        carryOut(place, formOf({{Operation::Move, place.here("in/a.jpg"), place.other("new/a.jpg")},
+                                {Operation::Move, place.here("in/folder"), place.other("new/er/folder")},
+                                {Operation::Move, place.other("d.jpg"), place.here("in/d.jpg")}}));
     };
     static const auto undo = [](const Place &place) { carryOut(place, undoOfLast(place)); };
     static const std::map<QByteArray, Work> all = {
@@ -144,9 +144,9 @@ const std::map<QByteArray, Work> &works()
         {"trashes",
          {nothing,
           [](const Place &place) {
-              carryOut(place, formOf({{Deed::Trash, place.here("in/a.jpg"), {}},
-                                      {Deed::Trash, place.here("in/folder"), {}},
-                                      {Deed::Trash, place.other("d.jpg"), {}}}));
+              carryOut(place, formOf({{Operation::Trash, place.here("in/a.jpg"), {}},
+                                      {Operation::Trash, place.here("in/folder"), {}},
+                                      {Operation::Trash, place.other("d.jpg"), {}}}));
           }}},
         {"places files on another disk",
          {nothing,
@@ -288,17 +288,17 @@ void TestEveryCall::losesNothingByAKillOfRecovery()
 void TestEveryCall::losesNothingByAnotherProgram_data()
 {
     QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("deed");
+    QTest::addColumn<QByteArray>("operation");
     for (const auto &work : works())
-        for (const char *deed : {"writes into", "saves over", "takes away", "makes a target"})
-            QTest::addRow("%s: %s", work.first.constData(), deed) << work.first << QByteArray(deed);
+        for (const char *operation : {"writes into", "saves over", "takes away", "makes a target"})
+            QTest::addRow("%s: %s", work.first.constData(), operation) << work.first << QByteArray(operation);
 }
 
 /** At every call another program does something to a picture, or makes one where the other is to go. */
 void TestEveryCall::losesNothingByAnotherProgram()
 {
     QFETCH(QByteArray, name);
-    QFETCH(QByteArray, deed);
+    QFETCH(QByteArray, operation);
     const Work &work = works().at(name);
     int calls = 0;
     for (bool hasMore = true; hasMore; calls += stride()) {
@@ -311,16 +311,16 @@ void TestEveryCall::losesNothingByAnotherProgram()
             for (const QString &path : {place.here("in/a.jpg"), place.other("new/a.jpg"), place.here("copies/a.jpg"),
                                         place.here("in/folder/b.jpg")}) {
                 QFile file(path);
-                if (deed == "makes a target" && !file.exists() && QDir(QFileInfo(path).path()).exists())
+                if (operation == "makes a target" && !file.exists() && QDir(QFileInfo(path).path()).exists())
                     isDone = file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write("new") == 3;
-                else if (deed == "writes into" && file.exists())
+                else if (operation == "writes into" && file.exists())
                     isDone = file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write("new") == 3;
-                else if (deed == "saves over" && file.exists()) {
+                else if (operation == "saves over" && file.exists()) {
                     QFile saved(path + QStringLiteral("~"));
                     isDone = saved.open(QIODevice::WriteOnly) && saved.write("new") == 3 && saved.flush() &&
                              ::rename(QFile::encodeName(saved.fileName()).constData(),
                                       QFile::encodeName(path).constData()) == 0;
-                } else if (deed == "takes away" && file.exists())
+                } else if (operation == "takes away" && file.exists())
                     isDone = QFile::rename(path, place.here("in/taken.jpg"));
                 if (isDone)
                     return;
@@ -336,14 +336,14 @@ void TestEveryCall::losesNothingByAnotherProgram()
         EveryCall::before = nullptr;
         hasMore = EveryCall::count > calls;
         recover(place);
-        QByteArray told = name + ": another program " + deed + " at call " + QByteArray::number(calls);
+        QByteArray told = name + ": another program " + operation + " at call " + QByteArray::number(calls);
         for (const auto &[path, what] : place.shown())
             told += "\n" + path.toUtf8() + ": " + what;
         const QList<QByteArray> contents = place.contents();
-        QVERIFY2(!isDone || deed == "takes away" || contents.contains("new"), told);
+        QVERIFY2(!isDone || operation == "takes away" || contents.contains("new"), told);
         for (const char *content : {"a", "b", "c", "d"}) {
             // What it has written over is gone by its own will.
-            const bool isOverwritten = (deed == "writes into" || deed == "saves over") && *content < 'c';
+            const bool isOverwritten = (operation == "writes into" || operation == "saves over") && *content < 'c';
             QVERIFY2(isOverwritten || contents.contains(content), told + "\nmissing: " + content);
         }
         for (const auto &[path, what] : place.hidden())
@@ -363,9 +363,9 @@ void TestEveryCall::replacesNothingWhereADiskPromisesNothing_data()
 void TestEveryCall::replacesNothingWhereADiskPromisesNothing()
 {
     QFETCH(bool, hasLinks);
-    for (const char *deed : {"makes", "writes", "puts"}) {
+    for (const char *operation : {"makes", "writes", "puts"}) {
         // A second name is the file itself: who overwrites that wants to.
-        bool hasMore = !hasLinks || deed == QByteArray("makes");
+        bool hasMore = !hasLinks || operation == QByteArray("makes");
         bool wasDone = !hasMore;
         for (int calls = 0; hasMore; ++calls) {
             const ScratchFolder folder;
@@ -380,13 +380,13 @@ void TestEveryCall::replacesNothingWhereADiskPromisesNothing()
                 const bool canBeNoticed = call != "rename";
                 if (call == "write") // a note of the program's own, also when all is done
                     return 0;
-                if (isHere && canBeNoticed && deed == QByteArray("puts"))
+                if (isHere && canBeNoticed && operation == QByteArray("puts"))
                     isDone = other.open(QIODevice::WriteOnly) && other.write("new") == 3 && other.flush() &&
                              ::rename(other.fileName().toLatin1().constData(),
                                       target.fileName().toLatin1().constData()) == 0;
-                else if (isHere && canBeNoticed && deed == QByteArray("writes"))
+                else if (isHere && canBeNoticed && operation == QByteArray("writes"))
                     isDone = target.exists() && target.open(QIODevice::WriteOnly) && target.write("new") == 3;
-                else if (isHere && deed == QByteArray("makes") && !target.exists())
+                else if (isHere && operation == QByteArray("makes") && !target.exists())
                     isDone = target.open(QIODevice::WriteOnly | QIODevice::NewOnly) && target.write("new") == 3;
                 return call == "link" && !hasLinks ? EPERM : 0;
             };
@@ -394,11 +394,11 @@ void TestEveryCall::replacesNothingWhereADiskPromisesNothing()
             EveryCall::before = nullptr;
             hasMore = EveryCall::count > calls;
             QCOMPARE(folder.read(error ? "a" : "b"), QByteArray("a"));
-            QVERIFY2(!isDone || (error && folder.read("b") == "new"), deed);
+            QVERIFY2(!isDone || (error && folder.read("b") == "new"), operation);
             QCOMPARE(bool(error), isDone);
             wasDone = wasDone || isDone;
         }
-        QVERIFY2(wasDone, deed);
+        QVERIFY2(wasDone, operation);
     }
 }
 

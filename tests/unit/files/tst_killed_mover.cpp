@@ -42,7 +42,7 @@ public:
     {
         MoveOrderForm form;
         const auto move = [&](const QString &from, const QString &to) {
-            form.items.push_back({Deed::Move, here(from), to.startsWith(u'/') ? to : here(to)});
+            form.items.push_back({Operation::Move, here(from), to.startsWith(u'/') ? to : here(to)});
         };
         for (int i = 0; i < 20; ++i)
             move(name(i), name(i ^ 1));

@@ -48,7 +48,7 @@ public:
     {
         MoveOrderForm form = model;
         for (MoveItem &item : form.items) {
-            item.from = item.deed == Deed::Link ? item.from : real(item.from);
+            item.from = item.operation == Operation::Link ? item.from : real(item.from);
             item.to = real(item.to);
         }
         return form;
@@ -174,7 +174,7 @@ void TestMoveDisk::endsTrashingThatWasCutShort()
     {
         DiskJournalShelf shelf(journals.path());
         MoveOrderForm form;
-        form.items = {{Deed::Trash, folder.path("in/a.jpg"), {}}};
+        form.items = {{Operation::Trash, folder.path("in/a.jpg"), {}}};
         QVERIFY(MoveRun::begin(disk, shelf, form));
     }
     QVERIFY(QFile::rename(folder.path("in/a.jpg"), folder.path("in/.quorlin-0123456789ab")));
@@ -210,7 +210,7 @@ void TestMoveDisk::takesAwayTheBeginningOfACopyInTheTrash()
     {
         DiskJournalShelf shelf(journals.path());
         MoveOrderForm form;
-        form.items = {{Deed::Trash, folder.path("in/a"), {}}};
+        form.items = {{Operation::Trash, folder.path("in/a"), {}}};
         QVERIFY(MoveRun::begin(disk, shelf, form));
     }
     const auto write = [&](const char *name, const QByteArray &bytes, int secondsAgo) {

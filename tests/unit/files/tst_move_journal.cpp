@@ -12,9 +12,9 @@ using namespace files;
 
 namespace {
 
-MoveItem move(const char *from, const char *to, Deed deed = Deed::Move)
+MoveItem move(const char *from, const char *to, Operation operation = Operation::Move)
 {
-    return {deed, QString::fromUtf8(from), QString::fromUtf8(to)};
+    return {operation, QString::fromUtf8(from), QString::fromUtf8(to)};
 }
 
 /** Counts what is read, so that a long search is seen. */
@@ -156,8 +156,8 @@ void TestMoveJournal::endsRunsWithNumbersThatCannotBe_data()
     QTest::newRow("a leader of none") << QByteArray(
         "{\"item\":0,\"deed\":\"move\",\"from\":\"/d/a\",\"to\":\"/d/b\",\"leader\":99}\n"
         "{\"steps\":[-1,0]}\n");
-    QTest::newRow("an unknown deed") << QByteArray(
-        "{\"item\":0,\"deed\":\"eat\",\"from\":\"/d/a\",\"to\":\"/d/b\"}\n{\"done\":0}\n");
+    QTest::newRow("an unknown operation")
+        << QByteArray("{\"item\":0,\"deed\":\"eat\",\"from\":\"/d/a\",\"to\":\"/d/b\"}\n{\"done\":0}\n");
     QTest::newRow("no places") << QByteArray("{\"item\":0,\"deed\":\"move\"}\n{\"steps\":[-1,0]}\n{\"failed\":0}\n");
     QTest::newRow("news of none") << item + "{\"steps\":[0]}\n{\"done\":4}\n{\"takenBack\":-1}\n{\"copied\":9}\n";
 }

@@ -51,7 +51,7 @@ void TestMoveRandom::checkPlaces(World &world, const RunRecord &record, const st
     PathsSince now(record);
     for (int i = 0; i < int(record.items.size()); ++i) {
         const MoveRecord &item = record.items[size_t(i)];
-        if (item.item.deed != Deed::Move)
+        if (item.item.operation != Operation::Move)
             continue;
         const bool isNumbered = item.stand == Stand::Failed && !item.path.isEmpty();
         const QString place = item.stand == Stand::Done || isNumbered ? item.path : item.item.from;

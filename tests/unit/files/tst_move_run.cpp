@@ -14,16 +14,16 @@ QString at(const char *name)
     return QStringLiteral("/d/") + QString::fromUtf8(name);
 }
 
-MoveItem item(Deed deed, const char *from, const char *to, int leader = -1)
+MoveItem item(Operation operation, const char *from, const char *to, int leader = -1)
 {
-    MoveItem made = {deed, at(from), QString::fromUtf8(to).startsWith(u'/') ? QString::fromUtf8(to) : at(to)};
+    MoveItem made = {operation, at(from), QString::fromUtf8(to).startsWith(u'/') ? QString::fromUtf8(to) : at(to)};
     made.leader = leader;
     return made;
 }
 
 MoveItem move(const char *from, const char *to, int leader = -1)
 {
-    return item(Deed::Move, from, to, leader);
+    return item(Operation::Move, from, to, leader);
 }
 
 } // namespace
@@ -246,9 +246,10 @@ void TestMoveRun::removesFoldersThatStayEmpty()
 
 void TestMoveRun::trashesACopyThatWasChanged()
 {
-    QCOMPARE(carriedOut({item(Deed::Copy, "a", "x"), item(Deed::Copy, "b", "y"), item(Deed::Copy, "c", "z")})
-                 .count(QStringLiteral("OK")),
-             3);
+    QCOMPARE(
+        carriedOut({item(Operation::Copy, "a", "x"), item(Operation::Copy, "b", "y"), item(Operation::Copy, "c", "z")})
+            .count(QStringLiteral("OK")),
+        3);
     m_disk->change(at("x"), "worked on");
     m_disk->drop(at("b"));
     const UndoPlan undo = planUndo(*m_disk, *m_shelf, m_run);
@@ -260,7 +261,7 @@ void TestMoveRun::trashesACopyThatWasChanged()
 void TestMoveRun::trashesNoCopyThatIsItsOriginalByNow()
 {
     m_disk->addFolder(QStringLiteral("/new"));
-    QCOMPARE(carriedOut({item(Deed::Copy, "folder/in", "/new/in")}), QStringList(QStringLiteral("OK")));
+    QCOMPARE(carriedOut({item(Operation::Copy, "folder/in", "/new/in")}), QStringList(QStringLiteral("OK")));
     const UndoPlan before = planUndo(*m_disk, *m_shelf, m_run);
     m_disk->followsLinks = true;
     // The old folder becomes a link to the new one: both paths lead to one picture.
@@ -314,10 +315,10 @@ void TestMoveRun::keepsWhatIsSavedAtTheLastMoment()
     QFETCH(QString, to);
     for (int saved = 1, changes = 1; saved <= changes; ++saved) {
         init();
-        std::vector<MoveItem> items = {item(Deed::Move, qPrintable(from), qPrintable(to))};
+        std::vector<MoveItem> items = {item(Operation::Move, qPrintable(from), qPrintable(to))};
         QString path = at(from == QStringLiteral("folder") ? "folder/in" : "a");
         if (from.isEmpty()) {
-            QCOMPARE(carriedOut({item(Deed::Copy, "a", "x")}), QStringList(QStringLiteral("OK")));
+            QCOMPARE(carriedOut({item(Operation::Copy, "a", "x")}), QStringList(QStringLiteral("OK")));
             items = planUndo(*m_disk, *m_shelf, m_run).form.items;
             path = at("x");
         }
@@ -348,7 +349,7 @@ void TestMoveRun::leavesNothingOfAFolderThatCannotLeave()
     QVERIFY(m_disk->everything() == before);
     // The copy of it can be taken away, though.
     m_disk->roomOnOther = 5;
-    QCOMPARE(carriedOut({item(Deed::Copy, "folder", "/other/folder")}), QStringList(QStringLiteral("full")));
+    QCOMPARE(carriedOut({item(Operation::Copy, "folder", "/other/folder")}), QStringList(QStringLiteral("full")));
     QVERIFY(m_disk->everything() == before);
 }
 
@@ -478,7 +479,7 @@ void TestMoveRun::knowsWhatIsInTheTrashAfterAKill()
         fuse.light(count);
         bool isKilled = false;
         try {
-            (void)carriedOut({item(Deed::Trash, "a", ""), item(Deed::Trash, "folder", "")});
+            (void)carriedOut({item(Operation::Trash, "a", ""), item(Operation::Trash, "folder", "")});
         } catch (const Killed &) {
             isKilled = true;
         }

@@ -303,10 +303,10 @@ void TestMoveService::knowsItsWords()
     QCOMPARE(moveKind(u"trash"), std::nullopt);
     QCOMPARE(moveKind(u"Move"), std::nullopt);
     for (const char *word : {"move", "copy", "link", "trash"})
-        QCOMPARE(wordOf(*wantedDeed(text(word))), text(word));
-    QCOMPARE(wantedDeed(u"remove"), std::nullopt);
-    QCOMPARE(wordOf(Deed::Restore), text("move"));
-    QCOMPARE(wordOf(Deed::RemoveCopy), text("remove"));
+        QCOMPARE(wordOf(*wantedOperation(text(word))), text(word));
+    QCOMPARE(wantedOperation(u"remove"), std::nullopt);
+    QCOMPARE(wordOf(Operation::Restore), text("move"));
+    QCOMPARE(wordOf(Operation::RemoveCopy), text("remove"));
     QCOMPARE(wordOf(PlanStatus::Same), text("same"));
     QCOMPARE(statusWord(Stand::Skipped), text("Skipped"));
     QCOMPARE(statusWord(Stand::Aside), text("Failed"));

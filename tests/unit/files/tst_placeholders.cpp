@@ -69,22 +69,22 @@ public:
 
 void moves(Place &place)
 {
-    place.carryOut({{Deed::Move, folder + u'a', folder + u'x'}, {Deed::Move, folder + u'b', folder + u'a'}});
+    place.carryOut({{Operation::Move, folder + u'a', folder + u'x'}, {Operation::Move, folder + u'b', folder + u'a'}});
 }
 
 void swaps(Place &place)
 {
-    place.carryOut({{Deed::Move, folder + u'a', folder + u'b'}, {Deed::Move, folder + u'b', folder + u'a'}});
+    place.carryOut({{Operation::Move, folder + u'a', folder + u'b'}, {Operation::Move, folder + u'b', folder + u'a'}});
 }
 
 void copies(Place &place)
 {
-    place.carryOut({{Deed::Copy, folder + u'a', folder + u'x'}, {Deed::Copy, folder + u'b', other + u'y'}});
+    place.carryOut({{Operation::Copy, folder + u'a', folder + u'x'}, {Operation::Copy, folder + u'b', other + u'y'}});
 }
 
 void movesAway(Place &place)
 {
-    place.carryOut({{Deed::Move, folder + u'a', other + u'x'}, {Deed::Move, folder + u'b', other + u'y'}});
+    place.carryOut({{Operation::Move, folder + u'a', other + u'x'}, {Operation::Move, folder + u'b', other + u'y'}});
 }
 
 void undo(Place &place)

@@ -1,4 +1,4 @@
-#include "files/moving/move_deeds.h"
+#include "files/moving/move_operations.h"
 
 #include "files/planning/move_names.h"
 
@@ -18,7 +18,7 @@ using platform::joinedPath;
 using platform::lastPathComponent;
 using platform::parentFolder;
 
-DeedOutcome failed(MoveProblem why, const QString &path)
+OperationOutcome failed(MoveProblem why, const QString &path)
 {
     return {why, sentence(why, path), {}, {}};
 }
@@ -31,7 +31,7 @@ bool isForLackOfRoom(const std::error_code &error)
 
 } // namespace
 
-DeedOutcome failureFor(const std::error_code &error, const QString &path, const QString &to)
+OperationOutcome failureFor(const std::error_code &error, const QString &path, const QString &to)
 {
     if (error == std::errc::file_exists || error == std::errc::directory_not_empty)
         return failed(MoveProblem::Taken, to);
@@ -46,7 +46,7 @@ DeedOutcome failureFor(const std::error_code &error, const QString &path, const 
         return failed(MoveProblem::Illegal, to);
     if (error == std::errc::filename_too_long)
         return failed(MoveProblem::TooLong, to);
-    DeedOutcome other;
+    OperationOutcome other;
     other.why = MoveProblem::Other;
     other.message = QCoreApplication::translate("files", "%1 stays as it is: %2")
                         .arg(lastPathComponent(path), QString::fromLocal8Bit(error.message().c_str()));
@@ -64,35 +64,35 @@ QString partPath(const QString &run, int index, const QString &to)
     return joinedPath(parentFolder(to), QStringLiteral(".quorlin-aside-%1-%2-copy").arg(run).arg(index));
 }
 
-DeedOutcome MoveDeeds::carryOut(int index, const MoveItem &item, const QString &source)
+OperationOutcome MoveOperations::carryOut(int index, const MoveItem &item, const QString &source)
 {
-    if (item.deed == Deed::Link)
+    if (item.operation == Operation::Link)
         return linked(item);
     const auto state = m_disk.look(source);
     if (!state)
         return failed(MoveProblem::Gone, item.from);
     if (item.was && !isSameItem(*state, *item.was))
         return failed(MoveProblem::Changed, item.from);
-    switch (item.deed) {
-    case Deed::Move:
+    switch (item.operation) {
+    case Operation::Move:
         return moved(index, item, source);
-    case Deed::Copy:
+    case Operation::Copy:
         return copied(index, source, item.to);
-    case Deed::Trash:
+    case Operation::Trash:
         return trashed(source);
-    case Deed::RemoveCopy:
+    case Operation::RemoveCopy:
         return copyRemoved(item);
-    case Deed::RemoveLink:
+    case Operation::RemoveLink:
         return linkRemoved(index, item);
-    case Deed::Restore:
+    case Operation::Restore:
         return restored(item);
-    case Deed::Link:
+    case Operation::Link:
         break;
     }
     Q_UNREACHABLE();
 }
 
-DeedOutcome MoveDeeds::stepAside(int index, const MoveItem &item)
+OperationOutcome MoveOperations::stepAside(int index, const MoveItem &item)
 {
     const auto state = m_disk.look(item.from);
     if (!state)
@@ -105,22 +105,22 @@ DeedOutcome MoveDeeds::stepAside(int index, const MoveItem &item)
     return {{}, {}, aside, state};
 }
 
-DeedOutcome MoveDeeds::done(const QString &path) const
+OperationOutcome MoveOperations::done(const QString &path) const
 {
     return {{}, {}, path, m_disk.look(path)};
 }
 
-DeedOutcome MoveDeeds::moved(int index, const MoveItem &item, const QString &source)
+OperationOutcome MoveOperations::moved(int index, const MoveItem &item, const QString &source)
 {
-    DeedOutcome outcome = move(index, source, item.to);
+    OperationOutcome outcome = move(index, source, item.to);
     if (outcome.why == MoveProblem::Taken && source == item.from && isSameUnderOtherCase(source, item.to))
         return renamedInCase(index, item.from, item.to);
     return outcome;
 }
 
-DeedOutcome MoveDeeds::move(int index, const QString &from, const QString &to)
+OperationOutcome MoveOperations::move(int index, const QString &from, const QString &to)
 {
-    if (DeedOutcome made = madeFolders(parentFolder(to)); made.why != MoveProblem::None)
+    if (OperationOutcome made = madeFolders(parentFolder(to)); made.why != MoveProblem::None)
         return made;
     const std::error_code error = m_disk.rename(from, to);
     if (!error)
@@ -132,7 +132,7 @@ DeedOutcome MoveDeeds::move(int index, const QString &from, const QString &to)
 }
 
 /** By identity, so that another road to a folder, such as a second mount of its disk, is seen through. */
-bool MoveDeeds::isInside(const QString &folder, const QString &item) const
+bool MoveOperations::isInside(const QString &folder, const QString &item) const
 {
     const auto outer = m_disk.look(item);
     for (QString inner = m_disk.canonicalFolder(folder); outer && !inner.isEmpty(); inner = parentFolder(inner)) {
@@ -146,7 +146,7 @@ bool MoveDeeds::isInside(const QString &folder, const QString &item) const
 }
 
 /** On a disk that does not tell cases apart, the new name seems to be taken by the item itself. */
-bool MoveDeeds::isSameUnderOtherCase(const QString &from, const QString &to) const
+bool MoveOperations::isSameUnderOtherCase(const QString &from, const QString &to) const
 {
     const QString folder = parentFolder(from);
     const QString name = lastPathComponent(to);
@@ -160,9 +160,9 @@ bool MoveDeeds::isSameUnderOtherCase(const QString &from, const QString &to) con
                         [&](const platform::FolderEntry &entry) { return entry.name == name; });
 }
 
-DeedOutcome MoveDeeds::renamedInCase(int index, const QString &from, const QString &to)
+OperationOutcome MoveOperations::renamedInCase(int index, const QString &from, const QString &to)
 {
-    const QString aside = asidePath(m_run, index, {Deed::Move, from, to});
+    const QString aside = asidePath(m_run, index, {Operation::Move, from, to});
     if (const std::error_code error = m_disk.rename(from, aside))
         return failureFor(error, from, aside);
     const std::error_code error = m_disk.rename(aside, to);
@@ -173,9 +173,9 @@ DeedOutcome MoveDeeds::renamedInCase(int index, const QString &from, const QStri
     return failureFor(error, from, to);
 }
 
-DeedOutcome MoveDeeds::copied(int index, const QString &from, const QString &to)
+OperationOutcome MoveOperations::copied(int index, const QString &from, const QString &to)
 {
-    if (DeedOutcome made = madeFolders(parentFolder(to)); made.why != MoveProblem::None)
+    if (OperationOutcome made = madeFolders(parentFolder(to)); made.why != MoveProblem::None)
         return made;
     if (m_disk.look(to))
         return failed(MoveProblem::Taken, to);
@@ -183,7 +183,7 @@ DeedOutcome MoveDeeds::copied(int index, const QString &from, const QString &to)
         return failed(MoveProblem::Inside, from);
     const QString part = partPath(m_run, index, to);
     discard(part);
-    DeedOutcome outcome;
+    OperationOutcome outcome;
     if (const std::error_code error = m_disk.copy(from, part))
         outcome = failureFor(error, from, to);
     else if (!m_disk.haveSameContent(from, part) && m_disk.look(from))
@@ -203,7 +203,7 @@ DeedOutcome MoveDeeds::copied(int index, const QString &from, const QString &to)
 }
 
 /** A name is on the disk only when the names of all the new folders above it are. */
-void MoveDeeds::settleWayTo(const QString &path)
+void MoveOperations::settleWayTo(const QString &path)
 {
     m_disk.settle(parentFolder(path));
     const auto isAbove = [&](const QString &folder) { return path.startsWith(folder + u'/'); };
@@ -213,18 +213,18 @@ void MoveDeeds::settleWayTo(const QString &path)
     m_newFolders.removeIf(isAbove);
 }
 
-void MoveDeeds::discard(const QString &path)
+void MoveOperations::discard(const QString &path)
 {
     if (m_disk.look(path) && m_disk.discard(path))
         m_hasLeftOver = true;
 }
 
-DeedOutcome MoveDeeds::movedToOtherDisk(int index, const QString &from, const QString &to)
+OperationOutcome MoveOperations::movedToOtherDisk(int index, const QString &from, const QString &to)
 {
     if (!m_disk.mayBeTakenAway(from))
         return failed(MoveProblem::Locked, from);
     const auto before = m_disk.look(from);
-    DeedOutcome outcome = copied(index, from, to);
+    OperationOutcome outcome = copied(index, from, to);
     if (outcome.why != MoveProblem::None)
         return outcome;
     const auto after = m_disk.look(from);
@@ -235,7 +235,7 @@ DeedOutcome MoveDeeds::movedToOtherDisk(int index, const QString &from, const QS
     const Removal removal = removeWhole(index, from, to);
     if (!removal.error || !m_disk.look(removal.path))
         return outcome;
-    DeedOutcome why = failureFor(removal.error, from, to);
+    OperationOutcome why = failureFor(removal.error, from, to);
     if (removal.error == std::errc::device_or_resource_busy)
         why = failed(MoveProblem::Changed, from);
     if (removal.path != from)
@@ -251,7 +251,8 @@ DeedOutcome MoveDeeds::movedToOtherDisk(int index, const QString &from, const QS
  * Takes a copy away again whose source has to stay, unless somebody has put something into it. It is put aside first and the source
  * looked for once more after that, so that two who give way to each other do not both take theirs away.
  */
-DeedOutcome MoveDeeds::withoutCopy(int index, DeedOutcome why, const QString &source, const DeedOutcome &copy)
+OperationOutcome MoveOperations::withoutCopy(int index, OperationOutcome why, const QString &source,
+                                             const OperationOutcome &copy)
 {
     const QString part = partPath(m_run, index, copy.path);
     if (m_disk.rename(copy.path, part)) {
@@ -275,9 +276,9 @@ DeedOutcome MoveDeeds::withoutCopy(int index, DeedOutcome why, const QString &so
 }
 
 /** What is removed leaves its place in one step and goes only if it is still what was copied. */
-MoveDeeds::Removal MoveDeeds::removeWhole(int index, const QString &path, const QString &copy)
+MoveOperations::Removal MoveOperations::removeWhole(int index, const QString &path, const QString &copy)
 {
-    const QString aside = asidePath(m_run, index, {Deed::Move, path, {}});
+    const QString aside = asidePath(m_run, index, {Operation::Move, path, {}});
     if (path != aside)
         if (const std::error_code error = m_disk.rename(path, aside))
             return {error, path, true};
@@ -290,7 +291,7 @@ MoveDeeds::Removal MoveDeeds::removeWhole(int index, const QString &path, const 
     return {error, path == aside ? aside : putBack(aside, path), isWhole};
 }
 
-QString MoveDeeds::putBack(const QString &aside, const QString &path)
+QString MoveOperations::putBack(const QString &aside, const QString &path)
 {
     constexpr int mostNumbers = 1000;
     constexpr int mostTries = 10;
@@ -310,16 +311,16 @@ QString MoveDeeds::putBack(const QString &aside, const QString &path)
     return aside;
 }
 
-DeedOutcome MoveDeeds::linked(const MoveItem &item)
+OperationOutcome MoveOperations::linked(const MoveItem &item)
 {
-    if (DeedOutcome made = madeFolders(parentFolder(item.to)); made.why != MoveProblem::None)
+    if (OperationOutcome made = madeFolders(parentFolder(item.to)); made.why != MoveProblem::None)
         return made;
     if (const std::error_code error = m_disk.makeLink(item.from, item.to))
         return failureFor(error, item.to, item.to);
     return done(item.to);
 }
 
-DeedOutcome MoveDeeds::trashed(const QString &path)
+OperationOutcome MoveOperations::trashed(const QString &path)
 {
     const auto trashed = m_disk.trash(path);
     if (trashed)
@@ -328,7 +329,7 @@ DeedOutcome MoveDeeds::trashed(const QString &path)
 }
 
 /** A copy goes into the trash: whatever somebody does to it, or to its original, at the last moment, nothing is lost. */
-DeedOutcome MoveDeeds::copyRemoved(const MoveItem &item)
+OperationOutcome MoveOperations::copyRemoved(const MoveItem &item)
 {
     const auto copy = m_disk.look(item.from);
     const auto original = m_disk.look(item.to);
@@ -337,9 +338,9 @@ DeedOutcome MoveDeeds::copyRemoved(const MoveItem &item)
     return trashed(item.from);
 }
 
-DeedOutcome MoveDeeds::linkRemoved(int index, const MoveItem &item)
+OperationOutcome MoveOperations::linkRemoved(int index, const MoveItem &item)
 {
-    const QString aside = asidePath(m_run, index, {Deed::Move, item.from, {}});
+    const QString aside = asidePath(m_run, index, {Operation::Move, item.from, {}});
     if (m_disk.linkText(item.from) != item.to)
         return failed(MoveProblem::Changed, item.from);
     if (const std::error_code error = m_disk.rename(item.from, aside))
@@ -349,35 +350,35 @@ DeedOutcome MoveDeeds::linkRemoved(int index, const MoveItem &item)
         error = m_disk.remove(aside);
     if (!error)
         return {};
-    DeedOutcome outcome = error == std::errc::device_or_resource_busy ? failed(MoveProblem::Changed, item.from)
-                                                                      : failureFor(error, item.from, item.from);
+    OperationOutcome outcome = error == std::errc::device_or_resource_busy ? failed(MoveProblem::Changed, item.from)
+                                                                           : failureFor(error, item.from, item.from);
     outcome.path = putBack(aside, item.from);
     return outcome;
 }
 
-DeedOutcome MoveDeeds::restored(const MoveItem &item)
+OperationOutcome MoveOperations::restored(const MoveItem &item)
 {
-    if (DeedOutcome made = madeFolders(parentFolder(item.to)); made.why != MoveProblem::None)
+    if (OperationOutcome made = madeFolders(parentFolder(item.to)); made.why != MoveProblem::None)
         return made;
     if (const std::error_code error = m_disk.restore({item.from}, item.to))
         return failureFor(error, item.to, item.to);
     return done(item.to);
 }
 
-DeedOutcome MoveDeeds::madeFolders(const QString &folder)
+OperationOutcome MoveOperations::madeFolders(const QString &folder)
 {
     if (!m_disk.canonicalFolder(folder).isNull())
         return {};
     if (folder.size() < 2 || m_disk.look(folder))
         return failed(MoveProblem::Taken, folder);
-    if (DeedOutcome above = madeFolders(parentFolder(folder)); above.why != MoveProblem::None)
+    if (OperationOutcome above = madeFolders(parentFolder(folder)); above.why != MoveProblem::None)
         return above;
     if (const auto noted = m_log.noteFolder(folder); !noted)
         return {MoveProblem::Other, noted.error().message, {}, {}};
     const std::error_code error = m_disk.makeFolder(folder);
     if (!error)
         m_newFolders.append(folder);
-    return error && error != std::errc::file_exists ? failureFor(error, folder, folder) : DeedOutcome();
+    return error && error != std::errc::file_exists ? failureFor(error, folder, folder) : OperationOutcome();
 }
 
 } // namespace files

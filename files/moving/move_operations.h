@@ -4,8 +4,8 @@
 
 namespace files {
 
-/** How the deed on one item went. */
-struct DeedOutcome
+/** How the operation on one item went. */
+struct OperationOutcome
 {
     MoveProblem why = MoveProblem::None; ///< none: done
     QString message;                     ///< why not, a sentence
@@ -13,14 +13,14 @@ struct DeedOutcome
     std::optional<platform::ItemState> is = std::nullopt;
 };
 
-/** What must be in the journal before a deed goes on. Fails where it could not be written. */
-class DeedLog
+/** What must be in the journal before a operation goes on. Fails where it could not be written. */
+class OperationLog
 {
 public:
-    DeedLog() = default;
-    DeedLog(const DeedLog &) = delete;
-    DeedLog &operator=(const DeedLog &) = delete;
-    virtual ~DeedLog() = default;
+    OperationLog() = default;
+    OperationLog(const OperationLog &) = delete;
+    OperationLog &operator=(const OperationLog &) = delete;
+    virtual ~OperationLog() = default;
     /** A copy is whole, under its temporary name. */
     virtual platform::Result<void> noteCopy(int index, const platform::ItemState &state) = 0;
     /** A folder is about to be made. */
@@ -33,24 +33,25 @@ QString asidePath(const QString &run, int index, const MoveItem &item);
 QString partPath(const QString &run, int index, const QString &to);
 
 /**
- * Carries out the deeds of one run, one at a time.
+ * Carries out the operations of one run, one at a time.
  *
- * Nothing is replaced. A deed that fails leaves the item where it was. Temporary names begin with ".quorlin-aside-" and are
+ * Nothing is replaced. A operation that fails leaves the item where it was. Temporary names begin with ".quorlin-aside-" and are
  * made of the run and the item's number, so that they can be found again after an interruption.
  */
-class MoveDeeds
+class MoveOperations
 {
 public:
-    MoveDeeds(platform::FileSystem &disk, QString run, DeedLog &log) : m_disk(disk), m_run(std::move(run)), m_log(log)
+    MoveOperations(platform::FileSystem &disk, QString run, OperationLog &log)
+        : m_disk(disk), m_run(std::move(run)), m_log(log)
     {
     }
 
     /** @param source  where the item is: its old place, or its temporary one */
-    DeedOutcome carryOut(int index, const MoveItem &item, const QString &source);
+    OperationOutcome carryOut(int index, const MoveItem &item, const QString &source);
     /** Gives an item its temporary name. */
-    DeedOutcome stepAside(int index, const MoveItem &item);
+    OperationOutcome stepAside(int index, const MoveItem &item);
     /** Moves without looking what is moved. */
-    DeedOutcome move(int index, const QString &from, const QString &to);
+    OperationOutcome move(int index, const QString &from, const QString &to);
 
     /** Gives an item its name again that stands aside, or that with a number where it is taken; its path is then answered. */
     QString putBack(const QString &aside, const QString &path);
@@ -66,32 +67,32 @@ private:
         bool isWhole = true; ///< false: a part of it is gone
     };
 
-    DeedOutcome moved(int index, const MoveItem &item, const QString &source);
-    DeedOutcome movedToOtherDisk(int index, const QString &from, const QString &to);
-    DeedOutcome copied(int index, const QString &from, const QString &to);
-    DeedOutcome linked(const MoveItem &item);
-    DeedOutcome trashed(const QString &path);
-    DeedOutcome copyRemoved(const MoveItem &item);
-    DeedOutcome linkRemoved(int index, const MoveItem &item);
-    DeedOutcome restored(const MoveItem &item);
-    DeedOutcome renamedInCase(int index, const QString &from, const QString &to);
+    OperationOutcome moved(int index, const MoveItem &item, const QString &source);
+    OperationOutcome movedToOtherDisk(int index, const QString &from, const QString &to);
+    OperationOutcome copied(int index, const QString &from, const QString &to);
+    OperationOutcome linked(const MoveItem &item);
+    OperationOutcome trashed(const QString &path);
+    OperationOutcome copyRemoved(const MoveItem &item);
+    OperationOutcome linkRemoved(int index, const MoveItem &item);
+    OperationOutcome restored(const MoveItem &item);
+    OperationOutcome renamedInCase(int index, const QString &from, const QString &to);
     void discard(const QString &path);
-    DeedOutcome withoutCopy(int index, DeedOutcome why, const QString &source, const DeedOutcome &copy);
+    OperationOutcome withoutCopy(int index, OperationOutcome why, const QString &source, const OperationOutcome &copy);
     Removal removeWhole(int index, const QString &path, const QString &copy);
     void settleWayTo(const QString &path);
     bool isInside(const QString &folder, const QString &item) const;
     bool isSameUnderOtherCase(const QString &from, const QString &to) const;
-    DeedOutcome madeFolders(const QString &folder);
-    DeedOutcome done(const QString &path) const;
+    OperationOutcome madeFolders(const QString &folder);
+    OperationOutcome done(const QString &path) const;
 
     platform::FileSystem &m_disk;
     QString m_run;
-    DeedLog &m_log;
+    OperationLog &m_log;
     bool m_hasLeftOver = false;
     QStringList m_newFolders; ///< whose names may not be on the disk yet
 };
 
 /** The failure for a system's error that hit the item at @p path on its way to @p to. */
-DeedOutcome failureFor(const std::error_code &error, const QString &path, const QString &to);
+OperationOutcome failureFor(const std::error_code &error, const QString &path, const QString &to);
 
 } // namespace files
