@@ -119,7 +119,7 @@ template<typename T> ServiceEntry serviceEntry(const char *module = "quorlin", b
 
 /**
  * The entry of a class that scripts do not make and whose signals they hear, with texts that are never nothing: one that belongs
- * to the windows and to the work of jobs, whose classes have no names of their own in the contract of the services.
+ * to the windows and to the work of jobs, whose classes the contract of the services does not name.
  */
 template<typename T> ServiceEntry givenEntry(const char *module)
 {

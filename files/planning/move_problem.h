@@ -19,7 +19,7 @@ enum class MoveProblem {
     OtherCase, ///< something there differs only by case or accents
     Inside,    ///< a folder is to go into itself
     Locked,    ///< the item or a folder may not be changed
-    Leader,    ///< what it goes along with stays
+    Leader,    ///< what it would follow stays
     Changed,   ///< it was changed or replaced since the beginning
     Full,      ///< there is no room on the disk
     Original,  ///< what is to go is no copy, but the original itself
@@ -45,7 +45,7 @@ QString wordOf(PlanRemark remark);
 /** The problem that a word stands for; nothing for a word that is none. */
 std::optional<MoveProblem> moveProblem(QStringView word);
 
-/** The problem with the item at @p path as a sentence; "could not be copied correctly" for those that have none of their own. */
+/** The problem with the item at @p path as a sentence; "could not be copied correctly" for those without one. */
 QString sentence(MoveProblem problem, const QString &path);
 
 } // namespace files

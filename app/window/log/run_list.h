@@ -25,7 +25,7 @@ public:
 
     void follow(LogModel *log);
     /**
-     * {all, undo, redo, of}. In undo and redo %1 stands for the deed that was taken back or done again; in of %1 is that, and
+     * {all, undo, redo, of}. In undo and redo %1 stands for the run that was taken back or done again; in of %1 is that, and
      * %2 the date of the run that it took back.
      */
     void setTexts(const QVariantMap &texts) { m_texts = texts; }
