@@ -4,6 +4,8 @@
 
 #include "platform/imageio/bytes/picture_bytes.h"
 
+#include <vips/vips8>
+
 namespace platform {
 
 /**
