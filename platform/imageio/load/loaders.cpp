@@ -7,6 +7,7 @@
 #include "platform/imageio/jpeg2000/jpeg2000_reader.h"
 #include "platform/imageio/load/svg_work.h"
 #include "platform/imageio/photoshop/photoshop_pixels.h"
+#include "platform/imageio/tiff/tiff_device.h"
 #include "platform/imageio/tiff/tiff_samples.h"
 
 #include <QFile>
@@ -85,14 +86,15 @@ VImage loadBitmapFile(const PictureBytes &source)
  */
 VImage loadTiffThroughQt(const PictureBytes &source, const vips::VError &reason)
 {
-    const std::unique_ptr<QIODevice> device = source.openedDevice();
+    TiffDevice device(source);
     QImageReader::setAllocationLimit(0); // sizes are checked against a budget of ours
-    QImageReader reader(device.get(), "tiff");
+    QImageReader reader(&device, "tiff");
     constexpr int rgba = 4;
     if (!fitsMemoryBudget(reader.size().width(), reader.size().height(), rgba, 1))
         throw reason;
     vips_error_clear();
     const QImage image = reader.read();
+    device.demandAllRead();
     if (image.isNull())
         throw vips::VError(reader.errorString().toStdString());
     constexpr double millimetresPerMetre = 1000;
@@ -125,15 +127,18 @@ SampleFacts factsOf(const TiffSamples &samples, const VImage &image)
 
 VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
 {
-    const std::unique_ptr<QIODevice> device = source.openedDevice();
+    const auto device = std::make_shared<TiffDevice>(source);
     const TiffSamples samples = readTiffSamples(*device, options.page);
-    demandRead(*device);
+    device->demandAllRead();
     if (samples.isLogarithmic() && options.page == 0)
         return loadTiffThroughQt(source, vips::VError("its size is too large"));
     try {
-        const VImage image = VImage::tiffload_source(sourceOf(source), commonOptions()->set("page", options.page));
+        const VSource pages = sourceOver(device);
+        const VImage image = VImage::tiffload_source(pages, commonOptions()->set("page", options.page));
+        device->demandAllRead();
         return samples.isKnown ? withSampleFacts(image, factsOf(samples, image)) : image;
     } catch (const vips::VError &error) {
+        device->demandAllRead();
         if (options.page > 0)
             throw;
         return loadTiffThroughQt(source, error);

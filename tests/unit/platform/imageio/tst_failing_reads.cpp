@@ -123,9 +123,6 @@ void TestFailingReads::tellsAFailureOrAll()
     QFETCH(QByteArray, work);
     QFETCH(QString, picture);
     QFETCH(EveryRead::Fail, fail);
-    // Where a read fails the TIFF library clears one byte before its buffer, and the sanitizer ends the program.
-    if (qEnvironmentVariableIsSet("QUORLIN_SANITIZED") && work == "pixels" && picture.endsWith(QLatin1String(".tif")))
-        QSKIP("the TIFF library writes beside its buffer");
     const ScratchFolder folder;
     const QString path = folder.path("picture");
     const auto attempt = [&](int number) {
