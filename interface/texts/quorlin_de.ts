@@ -6899,6 +6899,141 @@
     </message>
 </context>
 <context>
+    <name>text</name>
+    <message>
+        <source>Name without extension</source>
+        <translation>Name ohne Endung</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Endung</translation>
+    </message>
+    <message>
+        <source>Date taken, or else changed</source>
+        <translation>Aufnahmedatum, sonst geändert</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>Date created</source>
+        <translation>Erstelldatum</translation>
+    </message>
+    <message>
+        <source>Date changed</source>
+        <translation>Änderungsdatum</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Zähler</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Breite in Pixeln</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Höhe in Pixeln</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Dateigröße</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>Landscape, portrait or square</source>
+        <translation>Quer, hoch oder quadratisch</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Name of its folder</source>
+        <translation>Name des Ordners</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Urlaub</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>„%1“ ist keine Form eines Datums: Schreiben Sie es mit yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+    </message>
+    <message>
+        <source>“%1” is no first number of a counter</source>
+        <translation>„%1“ ist keine Anfangszahl für einen Zähler</translation>
+    </message>
+    <message>
+        <source>“%1” takes no part of a name: write a number of letters, “word”, or “~” and words with commas between them</source>
+        <translation>„%1“ nimmt keinen Teil eines Namens: Schreiben Sie eine Anzahl von Buchstaben, „word“ oder „~“ und Wörter mit Kommas dazwischen</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a size: write “class” or “MB”</source>
+        <translation>„%1“ ist keine Form einer Größe: Schreiben Sie „class“ oder „MB“</translation>
+    </message>
+    <message>
+        <source>{%1} has no forms: leave out what stands behind its colon</source>
+        <translation>{%1} hat keine Formen: Lassen Sie weg, was hinter dem Doppelpunkt steht</translation>
+    </message>
+    <message>
+        <source>There is no token between the braces; a brace of its own is written {{</source>
+        <translation>Zwischen den geschweiften Klammern fehlt der Platzhalter; für die Klammer selbst schreiben Sie {{</translation>
+    </message>
+    <message>
+        <source>There is no token {%1}</source>
+        <translation>Einen Platzhalter {%1} gibt es nicht</translation>
+    </message>
+    <message>
+        <source>A brace is not closed; a brace of its own is written {{</source>
+        <translation>Eine geschweifte Klammer ist nicht geschlossen; für die Klammer selbst schreiben Sie {{</translation>
+    </message>
+    <message>
+        <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
+        <translation>Jan Feb Mrz Apr Mai Jun Jul Aug Sep Okt Nov Dez</translation>
+    </message>
+    <message>
+        <source>Sun Mon Tue Wed Thu Fri Sat</source>
+        <translation>So Mo Di Mi Do Fr Sa</translation>
+    </message>
+    <message>
+        <source>Under 1 MB</source>
+        <translation>Unter 1 MB</translation>
+    </message>
+    <message>
+        <source>1 to 5 MB</source>
+        <translation>1 bis 5 MB</translation>
+    </message>
+    <message>
+        <source>5 to 20 MB</source>
+        <translation>5 bis 20 MB</translation>
+    </message>
+    <message>
+        <source>20 MB and more</source>
+        <translation>20 MB und mehr</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+</context>
+<context>
     <name>tokens</name>
     <message>
         <source>Name without extension</source>

@@ -6899,6 +6899,141 @@
     </message>
 </context>
 <context>
+    <name>text</name>
+    <message>
+        <source>Name without extension</source>
+        <translation>Nom sans extension</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extension</translation>
+    </message>
+    <message>
+        <source>Date taken, or else changed</source>
+        <translation>Date de prise de vue, sinon de modification</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Date de prise de vue</translation>
+    </message>
+    <message>
+        <source>Date created</source>
+        <translation>Date de création</translation>
+    </message>
+    <message>
+        <source>Date changed</source>
+        <translation>Date de modification</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Compteur</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Appareil photo</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Largeur en pixels</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Hauteur en pixels</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Poids du fichier</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Format de fichier</translation>
+    </message>
+    <message>
+        <source>Landscape, portrait or square</source>
+        <translation>Paysage, portrait ou carré</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Name of its folder</source>
+        <translation>Nom de son dossier</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Vacances</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une forme de date&#x202f;: écrivez-la avec yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+    </message>
+    <message>
+        <source>“%1” is no first number of a counter</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un premier numéro de compteur</translation>
+    </message>
+    <message>
+        <source>“%1” takes no part of a name: write a number of letters, “word”, or “~” and words with commas between them</source>
+        <translation>«&#x202f;%1&#x202f;» ne prend aucune partie d’un nom&#x202f;: écrivez un nombre de lettres, «&#x202f;word&#x202f;», ou «&#x202f;~&#x202f;» et des mots séparés par des virgules</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a size: write “class” or “MB”</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une forme de poids&#x202f;: écrivez «&#x202f;class&#x202f;» ou «&#x202f;MB&#x202f;»</translation>
+    </message>
+    <message>
+        <source>{%1} has no forms: leave out what stands behind its colon</source>
+        <translation>{%1} n’a pas de variantes&#x202f;: supprimez ce qui suit les deux-points</translation>
+    </message>
+    <message>
+        <source>There is no token between the braces; a brace of its own is written {{</source>
+        <translation>Il n’y a pas de variable entre les accolades&#x202f;; une accolade seule s’écrit {{</translation>
+    </message>
+    <message>
+        <source>There is no token {%1}</source>
+        <translation>La variable {%1} n’existe pas</translation>
+    </message>
+    <message>
+        <source>A brace is not closed; a brace of its own is written {{</source>
+        <translation>Une accolade n’est pas fermée&#x202f;; une accolade seule s’écrit {{</translation>
+    </message>
+    <message>
+        <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
+        <translation>janv févr mars avr mai juin juil août sept oct nov déc</translation>
+    </message>
+    <message>
+        <source>Sun Mon Tue Wed Thu Fri Sat</source>
+        <translation>dim lun mar mer jeu ven sam</translation>
+    </message>
+    <message>
+        <source>Under 1 MB</source>
+        <translation>Moins de 1 Mo</translation>
+    </message>
+    <message>
+        <source>1 to 5 MB</source>
+        <translation>1 à 5 Mo</translation>
+    </message>
+    <message>
+        <source>5 to 20 MB</source>
+        <translation>5 à 20 Mo</translation>
+    </message>
+    <message>
+        <source>20 MB and more</source>
+        <translation>20 Mo et plus</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Carré</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+</context>
+<context>
     <name>tokens</name>
     <message>
         <source>Name without extension</source>

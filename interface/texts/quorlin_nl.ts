@@ -6899,6 +6899,141 @@
     </message>
 </context>
 <context>
+    <name>text</name>
+    <message>
+        <source>Name without extension</source>
+        <translation>Naam zonder extensie</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extensie</translation>
+    </message>
+    <message>
+        <source>Date taken, or else changed</source>
+        <translation>Opnamedatum, anders gewijzigd</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Opnamedatum</translation>
+    </message>
+    <message>
+        <source>Date created</source>
+        <translation>Aanmaakdatum</translation>
+    </message>
+    <message>
+        <source>Date changed</source>
+        <translation>Wijzigingsdatum</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Teller</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Lens</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Breedte in pixels</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Hoogte in pixels</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Bestandsgrootte</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Bestandstype</translation>
+    </message>
+    <message>
+        <source>Landscape, portrait or square</source>
+        <translation>Liggend, staand of vierkant</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Liggend</translation>
+    </message>
+    <message>
+        <source>Name of its folder</source>
+        <translation>Naam van de map</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Vakantie</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>“%1” is geen datumnotatie: gebruik yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+    </message>
+    <message>
+        <source>“%1” is no first number of a counter</source>
+        <translation>“%1” is geen beginwaarde van een teller</translation>
+    </message>
+    <message>
+        <source>“%1” takes no part of a name: write a number of letters, “word”, or “~” and words with commas between them</source>
+        <translation>“%1” geeft geen deel van een naam aan: schrijf een aantal letters, “word”, of “~” en woorden met komma’s ertussen</translation>
+    </message>
+    <message>
+        <source>“%1” is no form of a size: write “class” or “MB”</source>
+        <translation>“%1” is geen notatie voor een grootte: schrijf “class” of “MB”</translation>
+    </message>
+    <message>
+        <source>{%1} has no forms: leave out what stands behind its colon</source>
+        <translation>{%1} kent geen notaties: laat weg wat achter de dubbele punt staat</translation>
+    </message>
+    <message>
+        <source>There is no token between the braces; a brace of its own is written {{</source>
+        <translation>Er staat geen code tussen de accolades; een gewone accolade schrijft u als {{</translation>
+    </message>
+    <message>
+        <source>There is no token {%1}</source>
+        <translation>Er is geen code {%1}</translation>
+    </message>
+    <message>
+        <source>A brace is not closed; a brace of its own is written {{</source>
+        <translation>Een accolade is niet gesloten; een gewone accolade schrijft u als {{</translation>
+    </message>
+    <message>
+        <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
+        <translation>jan feb mrt apr mei jun jul aug sep okt nov dec</translation>
+    </message>
+    <message>
+        <source>Sun Mon Tue Wed Thu Fri Sat</source>
+        <translation>zo ma di wo do vr za</translation>
+    </message>
+    <message>
+        <source>Under 1 MB</source>
+        <translation>Minder dan 1 MB</translation>
+    </message>
+    <message>
+        <source>1 to 5 MB</source>
+        <translation>1 tot 5 MB</translation>
+    </message>
+    <message>
+        <source>5 to 20 MB</source>
+        <translation>5 tot 20 MB</translation>
+    </message>
+    <message>
+        <source>20 MB and more</source>
+        <translation>20 MB en meer</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Vierkant</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Staand</translation>
+    </message>
+</context>
+<context>
     <name>tokens</name>
     <message>
         <source>Name without extension</source>
