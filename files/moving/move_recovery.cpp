@@ -1,5 +1,6 @@
 #include "files/moving/move_recovery.h"
 
+#include "files/moving/half_names.h"
 #include "files/moving/move_paths.h"
 #include "files/moving/move_rescue.h"
 #include "files/moving/move_run.h"
@@ -7,7 +8,6 @@
 #include "platform/foundation/paths.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 
 #include <algorithm>
 #include <cstdlib>
@@ -16,8 +16,6 @@ namespace files {
 namespace {
 
 using platform::ItemState;
-
-constexpr qint64 nsPerMs = 1'000'000;
 
 /** Finds out where the items of an interrupted run are, and takes away what is left of unfinished copies. */
 class Search
@@ -33,7 +31,7 @@ public:
             MoveRecord &record = m_run.items[size_t(i)];
             if (!record.isKnown)
                 continue;
-            removePlaceholders(i, record);
+            m_halfNames.remove(i, record);
             removePart(i, record);
             switch (record.item.operation) {
             case Operation::Move:
@@ -56,7 +54,7 @@ public:
                 decide(record, m_disk.linkText(record.item.from) != record.item.to);
                 break;
             case Operation::Restore:
-                decide(record, isAt(record.item.to, record.item.was));
+                findRestored(record);
                 break;
             }
         }
@@ -129,42 +127,6 @@ private:
                                 .arg(record.item.from, place));
     }
 
-    /**
-     * On a disk that can only keep a name with an empty file, such a file is left where the item never came: under its new name, its
-     * hidden one, that of a copy that was to go, or its old one.
-     */
-    void removePlaceholders(int index, const MoveRecord &record)
-    {
-        const MoveItem &item = record.item;
-        const bool isMove = item.operation == Operation::Move;
-        if (!item.was || (!isMove && item.operation != Operation::Copy))
-            return;
-        const QString hidden = aside(record);
-        const bool isAtHome = isAt(item.from, item.was);
-        if (record.stand == Stand::Waiting && (isAtHome || m_disk.look(hidden)))
-            removePlaceholder(item.to, *item.was);
-        if (isMove && isAtHome)
-            removePlaceholder(hidden, *item.was);
-        else if (isMove && isAt(hidden, item.was))
-            removePlaceholder(item.from, *item.was);
-        if (record.copied && isAt(item.to, record.copied))
-            removePlaceholder(partPath(m_run.id, index, item.to), *item.was);
-    }
-
-    void removePlaceholder(const QString &path, const ItemState &was)
-    {
-        const auto there = m_disk.look(path);
-        const bool isEmpty = there && there->kind == platform::ItemKind::File && there->bytes == 0 && there->names == 1;
-        const qint64 begunNs = QDateTime::fromString(m_run.date, Qt::ISODate).toMSecsSinceEpoch() * nsPerMs;
-        if (isEmpty && there->changedNs >= begunNs && was.bytes != 0 && !isSameItem(*there, was))
-            (void)m_disk.remove(path);
-    }
-
-    QString aside(const MoveRecord &record) const
-    {
-        return asidePath(m_run.id, int(&record - m_run.items.data()), record.item);
-    }
-
     void findMoved(int index, MoveRecord &record)
     {
         const MoveItem &item = record.item;
@@ -232,9 +194,8 @@ private:
     void findBoth(int index, MoveRecord &record, bool isCopied)
     {
         const MoveItem &item = record.item;
-        const auto found = m_disk.look(item.to);
-        const bool isSecondName = !isCopied && found && item.was && found->names > item.was->names;
-        if (record.stand == Stand::Done || (!isSecondName && !isCopied))
+        const bool isSecondName = !isCopied && m_halfNames.areOne(item.from, item.to, item.was);
+        if (!isSecondName && (record.stand == Stand::Done || !isCopied))
             return;
         if (isSecondName || m_disk.haveSameContent(item.from, item.to)) {
             const QString left = asidePath(m_run.id, index, item);
@@ -252,14 +213,40 @@ private:
     void findTrashed(MoveRecord &record)
     {
         const MoveItem &item = record.item;
-        if (record.stand == Stand::Done || !item.was)
+        if (!item.was)
             return;
-        if (isAt(item.from, item.was))
-            return m_disk.discardHalfTrashed(item.from);
+        if (isAt(item.from, item.was)) {
+            takeOutOfTrash(record);
+            if (record.stand == Stand::Done)
+                record.stand = Stand::TakenBack;
+            return;
+        }
+        if (record.stand == Stand::Done)
+            return;
         if (const auto trashed = m_disk.findTrashed(item.from, *item.was))
             done(record, trashed->path);
         else if (!findHalfTrashed(record) && !findCopyInTrash(record) && !m_disk.look(item.from))
             problems.append(sentence(MoveProblem::Gone, item.from));
+    }
+
+    /** What is in its place and in the trash was on its way from one to the other. */
+    void takeOutOfTrash(const MoveRecord &record)
+    {
+        const MoveItem &item = record.item;
+        for (const platform::TrashedItem &trashed : m_disk.allTrashed(item.from))
+            if (m_halfNames.areOne(trashed.path, item.from, item.was))
+                (void)m_disk.remove(trashed.path);
+        m_disk.discardHalfTrashed(item.from);
+    }
+
+    void findRestored(MoveRecord &record)
+    {
+        const MoveItem &item = record.item;
+        if (m_halfNames.areOne(item.from, item.to, item.was))
+            (void)m_disk.remove(item.from);
+        decide(record, isAt(item.to, item.was));
+        if (record.stand == Stand::Done)
+            m_disk.discardHalfTrashed(item.to);
     }
 
     /** Nothing is left of it but the copy in the trash, which is another item with the same size and date. */
@@ -319,8 +306,10 @@ private:
     {
         const MoveItem &item = record.item;
         bringBackRemoved(index, record);
-        if (record.stand != Stand::Waiting || !item.was || isAt(item.from, item.was))
+        if (record.stand != Stand::Waiting || !item.was)
             return;
+        if (isAt(item.from, item.was))
+            return takeOutOfTrash(record);
         if (const auto trashed = m_disk.findTrashed(item.from, *item.was))
             done(record, trashed->path);
         else if (!findHalfTrashed(record) && !findCopyInTrash(record) && !m_disk.look(item.from))
@@ -330,6 +319,7 @@ private:
     platform::FileSystem &m_disk;
     RunRecord &m_run;
     PathsSince m_now;
+    HalfNames m_halfNames{m_disk, m_run, m_now};
     SilentOperationLog m_log;
     MoveOperations m_names{m_disk, m_run.id, m_log}; ///< gives names back
 };

@@ -81,13 +81,19 @@ std::error_code renameOntoPlaceholder(const fs::path &from, const fs::path &to)
     return error;
 }
 
-/** A second name for the file refuses a name that is taken; then the first name goes. */
+bool isForLackOfLinks(const std::error_code &error)
+{
+    return error == std::errc::operation_not_permitted || error == std::errc::not_supported ||
+           error == std::errc::function_not_supported || error == std::errc::too_many_links;
+}
+
+/** A second name for the file refuses a name that is taken; then the first name goes. The note is for a kill in between. */
 std::error_code renameByLink(const fs::path &from, const fs::path &to)
 {
-    if (::link(from.c_str(), to.c_str()) != 0) {
-        const bool isForLackOfLinks = errno == EPERM || errno == ENOTSUP || errno == ENOSYS || errno == EMLINK;
-        return isForLackOfLinks ? renameOntoPlaceholder(from, to) : lastError();
-    }
+    const HiddenItem noted(HiddenItem::What::SecondName, QFile::decodeName(to.c_str()),
+                           QFile::decodeName(from.c_str()));
+    if (::link(from.c_str(), to.c_str()) != 0)
+        return lastError();
     if (::unlink(from.c_str()) == 0)
         return {};
     const std::error_code error = lastError();
@@ -100,8 +106,10 @@ std::error_code renameUnpromised(const fs::path &from, const fs::path &to)
     std::error_code error;
     if (fs::exists(fs::symlink_status(to, error)))
         return std::make_error_code(std::errc::file_exists);
-    if (!fs::is_directory(fs::symlink_status(from, error)))
-        return renameByLink(from, to);
+    if (!fs::is_directory(fs::symlink_status(from, error))) {
+        error = renameByLink(from, to);
+        return isForLackOfLinks(error) ? renameOntoPlaceholder(from, to) : error;
+    }
     // The system itself refuses to put a folder in the place of a file or of a folder that is not empty.
     return ::rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : lastError();
 }

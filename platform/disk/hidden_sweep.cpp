@@ -14,8 +14,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cstdlib>
-#include <map>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -32,6 +33,8 @@ std::filesystem::path native(const QString &path)
 struct Note
 {
     QString what;
+    QString hidden;
+    qint64 names = 0;   ///< of the item
     qint64 seconds = 0; ///< since 1970, when it was noted
     QString item;
     QString copy;
@@ -52,8 +55,9 @@ bool isHiddenName(const QString &path)
  * Removes an empty file if it was made when the note was, nobody holds it, and what was to have its name still has its own: otherwise it
  * may be that item, which was empty itself.
  */
-void endPlaceholder(const QString &path, const Note &note)
+void endPlaceholder(const Note &note)
 {
+    const QString &path = note.hidden;
     constexpr qint64 mostSeconds = 10; // the clocks of other disks, and those that count every other second
     const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     struct stat found = {};
@@ -65,16 +69,34 @@ void endPlaceholder(const QString &path, const Note &note)
         ::close(file);
 }
 
-void endOne(const QString &hidden, const Note &note, QStringList &named)
+/** The name that came second goes, if the item still has both of them and had one less before. */
+void endSecondName(const Note &note)
 {
+    struct stat second = {};
+    struct stat first = {};
+    const QByteArray path = QFile::encodeName(note.hidden);
+    const bool areBoth =
+        ::lstat(path.constData(), &second) == 0 && ::lstat(QFile::encodeName(note.item).constData(), &first) == 0;
+    const bool isOne = areBoth && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+    if (isOne && note.names > 0 && qint64(second.st_nlink) > note.names)
+        ::unlink(path.constData());
+}
+
+void endOne(const Note &note, QStringList &named)
+{
+    const QString &hidden = note.hidden;
     if (!isTaken(hidden))
         return;
     if (note.what == wordOf(HiddenItem::What::Part)) {
         sweepUnfinishedFile(hidden);
         return;
     }
+    if (note.what == wordOf(HiddenItem::What::SecondName)) {
+        endSecondName(note);
+        return;
+    }
     if (note.what == wordOf(HiddenItem::What::Placeholder)) {
-        endPlaceholder(hidden, note);
+        endPlaceholder(note);
         return;
     }
     const bool isCopy = note.what == wordOf(HiddenItem::What::Copy);
@@ -85,43 +107,91 @@ void endOne(const QString &hidden, const Note &note, QStringList &named)
         named.append(giveNameBack(hidden, isCopy ? note.copy : note.item));
 }
 
-std::map<QString, Note> openNotes(const QByteArray &lines, QString *by)
+/** Names that are not hidden ones. */
+bool isSeen(const QString &what)
 {
-    std::map<QString, Note> open;
+    return what == wordOf(HiddenItem::What::Placeholder) || what == wordOf(HiddenItem::What::SecondName);
+}
+
+/** The notes without an end, in their order. Ends that do not say of what end all that was noted of a path. */
+std::vector<Note> openNotes(const QByteArray &lines, QString *by)
+{
+    std::vector<Note> open;
     for (const QByteArray &line : lines.split('\n')) {
         const QJsonObject note = QJsonDocument::fromJson(line).object();
-        if (const QString gone = text(note, "gone"); !gone.isEmpty())
-            open.erase(gone);
         if (const QString mark = text(note, "by"); !mark.isEmpty())
             *by = mark;
         const QString what = text(note, "what");
+        const QString gone = text(note, "gone");
+        const auto isEnded = [&](const Note &one) {
+            return one.hidden == gone && (what.isEmpty() || one.what == what);
+        };
+        open.erase(std::remove_if(open.begin(), open.end(), isEnded), open.end());
         const QString hidden = text(note, "hidden");
-        const bool isPlaceholder = what == wordOf(HiddenItem::What::Placeholder) && hidden.startsWith(u'/');
-        if (isPlaceholder || isHiddenName(hidden))
-            open[hidden] = {what, qint64(note[QLatin1String("at")].toDouble()), text(note, "item"), text(note, "copy")};
+        if (isHiddenName(hidden) || (isSeen(what) && hidden.startsWith(u'/')))
+            open.push_back({what, hidden, note[QLatin1String("names")].toInteger(),
+                            qint64(note[QLatin1String("at")].toDouble()), text(note, "item"), text(note, "copy")});
     }
     return open;
 }
+
+/** The notes of processes that live no more; nobody else has them while they are held here. */
+class LeftNotes
+{
+public:
+    LeftNotes()
+    {
+        const QDir folder(hiddenItemsFolder());
+        for (const QFileInfo &file :
+             folder.entryInfoList({u'*' + QLatin1String(hiddenItemsEnding)}, QDir::Files | QDir::NoSymLinks))
+            if (file.filePath() != ownHiddenItems())
+                take(file.filePath());
+    }
+
+    const std::vector<Note> &all() const { return m_all; }
+
+    void discard()
+    {
+        for (const Taken &taken : m_taken)
+            QFile::remove(taken.path);
+    }
+
+private:
+    struct Taken
+    {
+        QString path;
+        HeldFile held;
+    };
+
+    void take(const QString &path)
+    {
+        auto held = HeldFile::open(path);
+        if (!held)
+            return;
+        QString by;
+        const std::vector<Note> open = openNotes(held->readAll().value_or(QByteArray()), &by);
+        if (!held->isLocked() && mayBeLiving(by))
+            return;
+        m_all.insert(m_all.end(), open.begin(), open.end());
+        m_taken.push_back({path, std::move(*held)});
+    }
+
+    std::vector<Taken> m_taken;
+    std::vector<Note> m_all;
+};
 
 } // namespace
 
 QStringList sweepHiddenItems()
 {
     QStringList named;
-    const QDir folder(hiddenItemsFolder());
-    for (const QFileInfo &file :
-         folder.entryInfoList({u'*' + QLatin1String(hiddenItemsEnding)}, QDir::Files | QDir::NoSymLinks)) {
-        const auto held = HeldFile::open(file.filePath());
-        if (!held || file.filePath() == ownHiddenItems())
-            continue;
-        QString by;
-        const auto open = openNotes(held->readAll().value_or(QByteArray()), &by);
-        if (!held->isLocked() && mayBeLiving(by))
-            continue;
-        for (const auto &[hidden, note] : open)
-            endOne(hidden, note, named);
-        QFile::remove(file.filePath());
-    }
+    LeftNotes notes;
+    // Names that were being given come first: without them the items are where the other notes say.
+    for (const bool isTurnOfSeen : {true, false})
+        for (const Note &note : notes.all())
+            if (isSeen(note.what) == isTurnOfSeen)
+                endOne(note, named);
+    notes.discard();
     return named;
 }
 

@@ -24,6 +24,13 @@ bool isThere(const QString &path)
     return ::lstat(QFile::encodeName(path).constData(), &found) == 0;
 }
 
+/** How many names an item has; 0 where there is none. */
+int namesOf(const QString &path)
+{
+    struct stat found = {};
+    return ::lstat(QFile::encodeName(path).constData(), &found) == 0 ? int(found.st_nlink) : 0;
+}
+
 QByteArray lineOf(const QJsonObject &object)
 {
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
@@ -41,10 +48,10 @@ public:
         ++m_open;
     }
 
-    void addEnd(const QString &hidden)
+    void addEnd(HiddenItem::What what, const QString &hidden)
     {
         constexpr int many = 2000;
-        add({{QStringLiteral("gone"), hidden}});
+        add({{QStringLiteral("gone"), hidden}, {QStringLiteral("what"), wordOf(what)}});
         if (--m_open == 0 && ++m_ended >= many)
             discard();
     }
@@ -117,6 +124,8 @@ QString wordOf(HiddenItem::What what)
         return QStringLiteral("part");
     case HiddenItem::What::Placeholder:
         return QStringLiteral("placeholder");
+    case HiddenItem::What::SecondName:
+        return QStringLiteral("second name");
     }
     Q_UNREACHABLE();
 }
@@ -126,6 +135,7 @@ HiddenItem::HiddenItem(What what, const QString &hidden, const QString &item, co
 {
     ownNotes().addItem({{QStringLiteral("what"), wordOf(what)},
                         {QStringLiteral("at"), double(QDateTime::currentSecsSinceEpoch())},
+                        {QStringLiteral("names"), namesOf(item)},
                         {QStringLiteral("hidden"), QDir(hidden).absolutePath()},
                         {QStringLiteral("item"), QDir(item).absolutePath()},
                         {QStringLiteral("copy"), QDir(copy).absolutePath()}});
@@ -133,8 +143,9 @@ HiddenItem::HiddenItem(What what, const QString &hidden, const QString &item, co
 
 HiddenItem::~HiddenItem()
 {
-    if (m_what == What::Placeholder || !isThere(m_hidden))
-        ownNotes().addEnd(QDir(m_hidden).absolutePath());
+    const bool isSeen = m_what == What::Placeholder || m_what == What::SecondName;
+    if (isSeen || !isThere(m_hidden))
+        ownNotes().addEnd(m_what, QDir(m_hidden).absolutePath());
 }
 
 } // namespace platform

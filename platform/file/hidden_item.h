@@ -16,11 +16,12 @@ public:
         Aside,       ///< an item that was copied and is to go, if it still is what was copied
         Part,        ///< an unfinished file as sign_of_life.h has it, which nobody misses
         Placeholder, ///< an empty file of this process that keeps a name, not hidden, until the item takes it
+        SecondName,  ///< a name that the item gets, not hidden, before it loses its own
     };
     /**
      * @param hidden  the hidden path
      * @param item    what was copied, the name of what stands aside, the file whose place an unfinished one is to take, or what is
-     *                to have the name that is kept
+     *                to have the name that is kept or second
      * @param copy    the place of the copy
      */
     HiddenItem(What what, const QString &hidden, const QString &item, const QString &copy = {});

@@ -1,7 +1,7 @@
 // Journals of moves made of any bytes at all: whatever they say, the next start ends and every picture is still there.
 #include "files/moving/move_recovery.h"
 #include "files/moving/move_undo.h"
-#include "tests/support/model_file_system.h"
+#include "tests/support/model_shelf.h"
 
 #include <cstdlib>
 

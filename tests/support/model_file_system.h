@@ -1,6 +1,5 @@
 #pragma once
 
-#include "files/moving/journal_shelf.h"
 #include "files/planning/move_names.h"
 
 #include "platform/disk/file_system.h"
@@ -62,6 +61,8 @@ public:
     bool followsLinks = false;
     /** The disk can only look whether a name is free, and then keep it with an empty file. */
     bool canReplace = false;
+    /** The disk can only give a file a second name and then take the first one away. */
+    bool givesSecondNames = false;
     /** The trash is on another disk: items are copied into it. */
     bool isTrashApart = false;
     /** What the disk below "/other" does not have. */
@@ -219,8 +220,12 @@ public:
             return std::make_error_code(std::errc::cross_device_link);
         if (canReplace && node->kind != Kind::Folder)
             return renameOntoPlaceholder(from, to);
-        drop(from);
         folder->items[platform::lastPathComponent(to)] = node;
+        if (const std::error_code error = betweenNames(*node)) {
+            drop(to);
+            return error;
+        }
+        drop(from);
         return {};
     }
     std::error_code makeFolder(const QString &path) override { return make(path, Kind::Folder, {}); }
@@ -292,6 +297,10 @@ public:
         m_trashedFrom[name] = canonical(path);
         if (!isTrashApart) {
             m_trash->items[name] = find(path);
+            if (betweenNames(*find(path))) {
+                m_trash->items.erase(name);
+                return failed;
+            }
             drop(path);
             return platform::TrashedItem{QStringLiteral("/trash/") + name};
         }
@@ -315,6 +324,10 @@ public:
         if (!find(item.path) || !folderOf(path))
             return std::make_error_code(std::errc::no_such_file_or_directory);
         folderOf(path)->items[platform::lastPathComponent(path)] = find(item.path);
+        if (const std::error_code error = betweenNames(*find(item.path))) {
+            drop(path);
+            return error;
+        }
         m_trash->items.erase(platform::lastPathComponent(item.path));
         return {};
     }
@@ -400,7 +413,14 @@ private:
             item = isOpen(*item->second) ? node.items.erase(item) : std::next(item);
         }
     }
-    quint64 deviceOf(const QString &path) const { return canonical(path).startsWith(QStringLiteral("/other")) ? 2 : 1; }
+    /** Each disk has a trash of its own, unless that is apart. */
+    quint64 deviceOf(const QString &path) const
+    {
+        const bool isTrashed = path.startsWith(QStringLiteral("/trash/")) && !isTrashApart;
+        const auto from = isTrashed ? m_trashedFrom.find(platform::lastPathComponent(path)) : m_trashedFrom.end();
+        return canonical(from == m_trashedFrom.end() ? path : from->second).startsWith(QStringLiteral("/other")) ? 2
+                                                                                                                 : 1;
+    }
     bool canBeNamed(const QString &path) const
     {
         return !otherIsFat || deviceOf(path) == 1 || !platform::lastPathComponent(path).contains(u':');
@@ -495,6 +515,11 @@ private:
             throw Killed();
         return trouble ? trouble() : std::error_code();
     }
+    /** A disk that has second names can be disturbed while a file has two. */
+    std::error_code betweenNames(const Node &node)
+    {
+        return givesSecondNames && node.kind != Kind::Folder ? disturbed() : std::error_code();
+    }
     /** The same, after another program had its turn. */
     std::error_code interrupted()
     {
@@ -536,61 +561,3 @@ inline void ModelFileSystem::restore(const Copy &state)
     m_trash = sameAgain(*state.trash);
     m_trashedFrom = state.trashedFrom;
 }
-
-/** Journals in memory, which can be stopped at every line, in the middle of it too. */
-class ModelShelf : public files::JournalShelf
-{
-public:
-    Fuse *fuse = nullptr;
-    std::map<QString, QByteArray> journals;
-    QSet<QString> held; ///< by this process
-    QSet<QString> heldByOthers;
-
-    QStringList names() const override
-    {
-        QStringList all;
-        for (const auto &journal : journals)
-            all.prepend(journal.first);
-        return all;
-    }
-    platform::Result<void> make(const QString &name, const QByteArray &lines) override
-    {
-        held.insert(name);
-        return add(name, lines);
-    }
-    bool hold(const QString &name) override
-    {
-        if (held.contains(name) || heldByOthers.contains(name))
-            return false;
-        held.insert(name);
-        return true;
-    }
-    void letGo(const QString &name) override { held.remove(name); }
-    platform::Result<void> append(const QString &name, const QByteArray &lines, files::Lasting) override
-    {
-        if (!held.contains(name))
-            return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("not held"));
-        return add(name, lines);
-    }
-    std::optional<QByteArray> read(const QString &name) const override
-    {
-        const auto found = journals.find(name);
-        return found == journals.end() ? std::nullopt : std::optional(found->second);
-    }
-    std::pair<QByteArray, QByteArray> ends(const QString &name) const override
-    {
-        const QList<QByteArray> lines = read(name).value_or(QByteArray()).split('\n');
-        return {lines.first(), lines.size() > 1 && lines.last().isEmpty() ? lines[lines.size() - 2] : QByteArray()};
-    }
-    void remove(const QString &name) override { journals.erase(name); }
-
-private:
-    platform::Result<void> add(const QString &name, const QByteArray &lines)
-    {
-        const bool isCutShort = fuse && fuse->burns();
-        journals[name] += isCutShort ? lines.left(lines.size() / 2) : lines;
-        if (isCutShort)
-            throw Killed();
-        return {};
-    }
-};

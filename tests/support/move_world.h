@@ -2,7 +2,7 @@
 
 #include "files/moving/move_run.h"
 #include "files/planning/move_plan.h"
-#include "tests/support/model_file_system.h"
+#include "tests/support/model_shelf.h"
 
 #include <QRandomGenerator>
 

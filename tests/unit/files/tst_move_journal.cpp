@@ -1,7 +1,7 @@
 #include "files/moving/move_paths.h"
 #include "files/moving/move_recovery.h"
 #include "files/moving/move_undo.h"
-#include "tests/support/model_file_system.h"
+#include "tests/support/model_shelf.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 

@@ -159,6 +159,7 @@ void TestMoveRandom::endsEveryInterruptedRun()
     const int plans = tests::repetitions(400, 8'000);
     for (quint32 seed = 0; seed < quint32(plans); ++seed) {
         World world(seed + 2'000'000);
+        world.disk.givesSecondNames = seed % 2 == 1;
         const MoveOrderForm form = world.readyItems();
         if (form.items.empty())
             continue;

@@ -1,6 +1,6 @@
 #include "files/moving/move_recovery.h"
 #include "files/moving/move_undo.h"
-#include "tests/support/model_file_system.h"
+#include "tests/support/model_shelf.h"
 #include "tests/support/test_program.h"
 
 #include <QTest>

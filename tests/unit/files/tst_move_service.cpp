@@ -2,7 +2,7 @@
 
 #include "files/services/fields.h"
 #include "files/services/move_words.h"
-#include "tests/support/model_file_system.h"
+#include "tests/support/model_shelf.h"
 #include "tests/support/raised_text.h"
 #include "tests/support/test_program.h"
 
