@@ -177,16 +177,15 @@ std::set<int> standingItems(const JournalShelf &shelf, const RunRecord &run)
     return run.id.isEmpty() ? std::set<int>() : Undoers(shelf).standingItems(run);
 }
 
-QString whyNot(const RunRecord &run, const std::set<int> &standing)
+MoveProblem whyNot(const RunRecord &run, const std::set<int> &standing)
 {
     if (run.id.isEmpty())
-        return QCoreApplication::translate("files", "Nothing is known of this run any more");
+        return MoveProblem::UnknownRun;
     if (run.end.isEmpty())
-        return QCoreApplication::translate("files", "This run has not ended yet");
+        return MoveProblem::OpenRun;
     if (!standing.empty())
-        return {};
-    return run.doneAtEnd == 0 ? QCoreApplication::translate("files", "Nothing was done in this run")
-                              : QCoreApplication::translate("files", "This run was taken back already");
+        return MoveProblem::None;
+    return run.doneAtEnd == 0 ? MoveProblem::EmptyRun : MoveProblem::TakenBack;
 }
 
 } // namespace
@@ -196,8 +195,8 @@ UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, c
     UndoPlan plan;
     const RunRecord record = recordOf(shelf, run);
     const std::set<int> standing = standingItems(shelf, record);
-    plan.problem = whyNot(record, standing);
-    if (!plan.problem.isEmpty())
+    plan.why = whyNot(record, standing);
+    if (plan.why != MoveProblem::None)
         return plan;
     PathsSince now(record);
     for (const MoveRecord &item : record.items)
@@ -216,7 +215,7 @@ UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, c
     }
     leaveOutHindered(disk, plan.form.items, plan.problems);
     if (plan.form.items.empty())
-        plan.problem = QCoreApplication::translate("files", "Nothing of this run can be taken back any more");
+        plan.why = MoveProblem::Stuck;
     plan.form.title = record.title;
     plan.form.undoes = run;
     for (const QString &folder : record.made)

@@ -20,7 +20,7 @@ struct UndoPlan
 {
     MoveOrderForm form;
     std::vector<UndoProblem> problems;
-    QString problem; ///< why the whole run cannot be taken back; empty where it can
+    MoveProblem why = MoveProblem::None; ///< nothing of the run can be taken back
 };
 
 /**
@@ -42,7 +42,7 @@ TakeBack takeBackOf(const platform::FileSystem &disk, const RunRecord &run, int 
 struct Undoable
 {
     int count = 0;
-    QString reason; ///< why nothing can be taken back; empty where something can, as far as the journal tells
+    MoveProblem why = MoveProblem::None; ///< nothing can be taken back, as far as the journal tells
 };
 Undoable undoableItems(const JournalShelf &shelf, const QString &run);
 

@@ -38,6 +38,11 @@ const Row table[] = {
      QT_TRANSLATE_NOOP("files", "%1 could not get its new name, and others wait for its old one")},
     {MoveProblem::Same, "same"},
     {MoveProblem::Other, "other"},
+    {MoveProblem::UnknownRun, "unknown run", QT_TRANSLATE_NOOP("files", "Nothing is known of this run any more")},
+    {MoveProblem::OpenRun, "open run", QT_TRANSLATE_NOOP("files", "This run has not ended yet")},
+    {MoveProblem::EmptyRun, "empty run", QT_TRANSLATE_NOOP("files", "Nothing was done in this run")},
+    {MoveProblem::TakenBack, "taken back", QT_TRANSLATE_NOOP("files", "This run was taken back already")},
+    {MoveProblem::Stuck, "stuck", QT_TRANSLATE_NOOP("files", "Nothing of this run can be taken back any more")},
 };
 
 const Row &rowOf(MoveProblem problem)
@@ -79,6 +84,11 @@ std::optional<MoveProblem> moveProblem(QStringView word)
 QString sentence(MoveProblem problem, const QString &path)
 {
     return QCoreApplication::translate("files", rowOf(problem).sentence).arg(platform::lastPathComponent(path));
+}
+
+QString sentence(MoveProblem problem)
+{
+    return problem == MoveProblem::None ? QString() : QCoreApplication::translate("files", rowOf(problem).sentence);
 }
 
 } // namespace files

@@ -7,9 +7,10 @@
 
 namespace files {
 
-/** Why an item cannot have its new name, or did not get it. */
+/** Why an item cannot have its new name, or did not get it, or why a run cannot be taken back. */
 enum class MoveProblem {
     None,
+    // of an item
     Empty,     ///< the name is empty
     Illegal,   ///< no name at all, or none that the disk can hold
     TooLong,   ///< the name or the path is too long
@@ -27,6 +28,12 @@ enum class MoveProblem {
     Circle,    ///< others wait for its place, and it cannot leave
     Same,      ///< it has that name already
     Other,     ///< what the system says, in the message beside it
+    // of a run
+    UnknownRun, ///< no journal tells of it
+    OpenRun,    ///< it has not ended
+    EmptyRun,   ///< it did nothing
+    TakenBack,  ///< all of it was taken back before
+    Stuck,      ///< everything it did is changed, gone or hindered
 };
 
 /** What is worth telling of an item that can have its new name. */
@@ -47,5 +54,7 @@ std::optional<MoveProblem> moveProblem(QStringView word);
 
 /** The problem with the item at @p path as a sentence; "could not be copied correctly" for those without one. */
 QString sentence(MoveProblem problem, const QString &path);
+/** The problem with a run as a sentence; empty for none. */
+QString sentence(MoveProblem problem);
 
 } // namespace files

@@ -283,9 +283,9 @@ QVariant MoveService::takeBack(const QString &run)
 QVariantMap MoveService::undoable(const QString &run) const
 {
     const Undoable answer = undoableItems(*m_shelf, run);
-    return {{QStringLiteral("can"), answer.reason.isEmpty()},
+    return {{QStringLiteral("can"), answer.why == MoveProblem::None},
             {QStringLiteral("count"), answer.count},
-            {QStringLiteral("reason"), answer.reason}};
+            {QStringLiteral("reason"), sentence(answer.why)}};
 }
 
 QVariantMap MoveService::undo(const QString &run)
@@ -296,8 +296,8 @@ QVariantMap MoveService::undo(const QString &run)
         items.append(QVariantMap{{QStringLiteral("kind"), wordOf(item.operation)},
                                  {QStringLiteral("from"), item.from},
                                  {QStringLiteral("to"), item.to}});
-    QVariantMap answer = plan.problem.isEmpty() ? started(MoveRun::begin(*m_disk, *m_shelf, plan.form))
-                                                : QVariantMap{{QStringLiteral("problem"), plan.problem}};
+    QVariantMap answer = plan.why == MoveProblem::None ? started(MoveRun::begin(*m_disk, *m_shelf, plan.form))
+                                                       : QVariantMap{{QStringLiteral("problem"), sentence(plan.why)}};
     answer.insert(QStringLiteral("problems"), listOf(plan.problems));
     if (answer.contains(QStringLiteral("run")))
         answer.insert(QStringLiteral("items"), items);

@@ -202,8 +202,8 @@ void TestMoveJournal::looksForNothingWhenTheRunIsUnknown()
         shelf.journals[QString::number(1000 + i)] =
             head(QByteArray::number(1000 + i), {}) + itemText(0, "/d/a", "/d/b") + "{\"end\":\"done\"}\n";
     for (const char *run : {"", "none", "../1000"}) {
-        QVERIFY(!planUndo(disk, shelf, QString::fromLatin1(run)).problem.isEmpty());
-        QVERIFY(!undoableItems(shelf, QString::fromLatin1(run)).reason.isEmpty());
+        QCOMPARE(planUndo(disk, shelf, QString::fromLatin1(run)).why, MoveProblem::UnknownRun);
+        QCOMPARE(undoableItems(shelf, QString::fromLatin1(run)).why, MoveProblem::UnknownRun);
     }
     QCOMPARE(shelf.reads, 0);
 }

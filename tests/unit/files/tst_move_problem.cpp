@@ -7,6 +7,12 @@
 
 using namespace files;
 
+namespace {
+
+constexpr int lastProblem = int(MoveProblem::Stuck);
+
+} // namespace
+
 /** One table of words and sentences for all that hinders an item. */
 class TestMoveProblem : public QObject
 {
@@ -17,18 +23,20 @@ private Q_SLOTS:
     void knowsNoOtherWord();
     void saysWhatIsWrongWithAName_data();
     void saysWhatIsWrongWithAName();
+    void saysWhyARunCannotBeTakenBack_data();
+    void saysWhyARunCannotBeTakenBack();
     void namesWhatIsWorthTellingOfAPlan();
 };
 
 void TestMoveProblem::hasAWordOfItsOwnForEach()
 {
     QSet<QString> words;
-    for (int i = 0; i <= int(MoveProblem::Other); ++i) {
+    for (int i = 0; i <= lastProblem; ++i) {
         const QString word = wordOf(MoveProblem(i));
         QCOMPARE(moveProblem(word), std::optional(MoveProblem(i)));
         words.insert(word);
     }
-    QCOMPARE(words.size(), int(MoveProblem::Other) + 1);
+    QCOMPARE(words.size(), lastProblem + 1);
     QVERIFY(wordOf(MoveProblem::None).isEmpty() && !wordOf(MoveProblem::None).isNull());
 }
 
@@ -58,6 +66,28 @@ void TestMoveProblem::saysWhatIsWrongWithAName()
 {
     QFETCH(MoveProblem, problem);
     QTEST(sentence(problem, QStringLiteral("/d/a.jpg")), "text");
+}
+
+void TestMoveProblem::saysWhyARunCannotBeTakenBack_data()
+{
+    QTest::addColumn<MoveProblem>("problem");
+    QTest::addColumn<QString>("text");
+    const std::pair<MoveProblem, const char *> rows[] = {
+        {MoveProblem::None, ""},
+        {MoveProblem::UnknownRun, "Nothing is known of this run any more"},
+        {MoveProblem::OpenRun, "This run has not ended yet"},
+        {MoveProblem::EmptyRun, "Nothing was done in this run"},
+        {MoveProblem::TakenBack, "This run was taken back already"},
+        {MoveProblem::Stuck, "Nothing of this run can be taken back any more"},
+    };
+    for (const auto &[problem, text] : rows)
+        QTest::addRow("%s.", qPrintable(wordOf(problem))) << problem << QString::fromLatin1(text);
+}
+
+void TestMoveProblem::saysWhyARunCannotBeTakenBack()
+{
+    QFETCH(MoveProblem, problem);
+    QTEST(sentence(problem), "text");
 }
 
 void TestMoveProblem::namesWhatIsWorthTellingOfAPlan()

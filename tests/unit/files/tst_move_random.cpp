@@ -93,7 +93,7 @@ void TestMoveRandom::doesWhatWasPlanned()
                                             undo.problems.empty() ? QString() : undo.problems[0].reason)));
         const auto undone = carriedOut(world, undo.form);
         QVERIFY2(world.disk.everything() == before, story(world.disk.everything() == before, seed, world, before));
-        QVERIFY(!planUndo(world.disk, world.shelf, run->id()).problem.isEmpty());
+        QCOMPARE(planUndo(world.disk, world.shelf, run->id()).why, MoveProblem::TakenBack);
         const UndoPlan redo = planUndo(world.disk, world.shelf, undone->id());
         QVERIFY2(redo.problems.empty(), story(redo.problems.empty(), seed, world, before));
         (void)carriedOut(world, redo.form);
