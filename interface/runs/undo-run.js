@@ -51,11 +51,6 @@ export function undoAction(isRedo) {
     return isRedo ? qsTr("Redo") : qsTr("Undo");
 }
 
-/** What an undo that was begun cannot bring back, in sentences. */
-export function problemsOfUndo(begun) {
-    return begun.problems.map((problem) => problem.path + ": " + problem.reason);
-}
-
 /** The row of the log for one file of a run that takes back `undone`: {id, process, action (of undoAction())}. */
 export function undoRow(result, undone, run) {
     return Object.assign(logRow(result, undone.process, undone.action, new Date().toISOString(), run),

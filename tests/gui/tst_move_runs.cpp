@@ -2,6 +2,8 @@
 #include "tests/support/test_program.h"
 
 #include "app/window/controls/segmented_control.h"
+#include "app/window/log/log_table.h"
+#include "app/window/log/run_list.h"
 #include "files/items/file_facts.h"
 
 #include "files/moving/journal_shelf.h"
@@ -110,6 +112,25 @@ private Q_SLOTS:
         m_driver->click("undoButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("1 file has its old name again")));
         QVERIFY(QFile::exists(last));
+    }
+
+    void theLogCountsOnceWhatCannotGoBack()
+    {
+        begin(3);
+        m_driver->click("startButton");
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("3 files renamed, 0 problems")));
+        m_driver->click("dismissButton");
+        QVERIFY(QFile::remove(at("new 002.jpg")));
+        m_driver->show("log");
+        auto *log = m_driver->control<window::LogTable>("logTable");
+        QVERIFY(m_driver->waitFor([log] { return log->totalCount() == 3; }));
+        auto *runs = m_driver->control<window::RunList>("logRuns");
+        runs->setCurrentIndex(runs->model()->index(1, 0));
+        m_driver->click("logUndo");
+        QVERIFY(m_driver->waitFor([log] { return log->totalCount() == 6; }));
+        const QString said = m_driver->text("statusText");
+        QVERIFY2(said.endsWith(QStringLiteral("2 files taken back · 1 problem")), qPrintable(said));
+        QCOMPARE(names(), QStringList({QStringLiteral("IMG_001.jpg"), QStringLiteral("IMG_003.jpg")}));
     }
 
     void saysAtStartWhatAnInterruptedRunCameTo()

@@ -12,7 +12,7 @@ import { csvHead, csvLines } from "../../runs/report.js";
 import { keep, recall } from "../../lib/store.js";
 import { fill, problemsText, statusText } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary } from "../../runs/comment-job.js";
-import { problemsOfUndo, revertWords, undoAction, undoing, undoWords, unableSteps } from "../../runs/undo-run.js";
+import { revertWords, undoAction, undoing, undoWords, unableSteps } from "../../runs/undo-run.js";
 
 const STATES = ["OK", "Failed", "Not Supported", "Skipped"];
 // So many rows are written at a time, and the window answers in between.
@@ -283,7 +283,7 @@ export class LogPage {
             this.window.sayBeside(begun.problem);
             return;
         }
-        this.undo = { rows: [], done: 0, problems: problemsOfUndo(begun), count: begun.items.length,
+        this.undo = { rows: [], done: 0, problems: 0, count: begun.items.length + begun.problems.length,
                       places: rowsByPath(this.window.pictures) };
         const undone = { id: this.runs.run, process: this.runs.chosen().process,
                          action: undoAction(this.words.isRedo) };
@@ -297,9 +297,7 @@ export class LogPage {
     tookBack(step) {
         this.undo.rows.push(step.row);
         this.undo.done += step.row.status === "OK" ? 1 : 0;
-        if (step.row.status !== "OK") {
-            this.undo.problems.push(step.row.reason);
-        }
+        this.undo.problems += step.row.status === "OK" ? 0 : 1;
         const id = this.undo.places[step.from];
         if (step.row.status === "OK" && id !== undefined && step.to !== "") {
             this.window.pictures.setPath(id, step.to);
@@ -314,7 +312,7 @@ export class LogPage {
         const problem = keepRows(files, undo.rows) || (how === "failed" ? String(value) : value || "");
         const done = qsTr("%n files taken back", "", undo.done);
         const parts = [done]
-            .concat(undo.problems.length > 0 ? [problemsText(undo.problems.length)] : [], problem ? [problem] : []);
+            .concat(undo.problems > 0 ? [problemsText(undo.problems)] : [], problem ? [problem] : []);
         this.window.sayBeside((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));
         this.show();
     }

@@ -1,5 +1,4 @@
-import { problemsOfUndo, revertWords, undoAction, undoing, undoWords,
-         unableSteps } from "../../../interface/runs/undo-run.js";
+import { revertWords, undoAction, undoing, undoWords, unableSteps } from "../../../interface/runs/undo-run.js";
 import { drain, equal, finish, isTrue, test } from "../check.js";
 
 // Runs as the move engine tells of them, and an undo of three files of which the second fails.
@@ -73,7 +72,6 @@ test("carriesAnUndoOutAndLogsEachFile", () => {
     isTrue(steps.every((step) => step.row.run === "r3" && step.row.process === "Rename" && step.row.action === "Undo"
                        && step.row.undoes === "r1"));
     equal([done.result, moves.ended], ["end", ["r3"]]);
-    equal(problemsOfUndo(BEGUN), ["/p/x 4.jpg: it is not there any more"]);
 });
 
 test("anUndoThatIsStoppedIsEnded", () => {
