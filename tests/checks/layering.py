@@ -56,7 +56,7 @@ SUB_ROOMS = {
         "imageio/facts": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png imageio/tiff "
                          "imageio/bmp imageio/photoshop imageio/exif imageio/xmp imageio/metadata imageio/load",
         "imageio/encode": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png "
-                          "imageio/metadata",
+                          "imageio/tiff imageio/metadata",
         "imageio/source": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/tiff imageio/whole "
                           "imageio/exif imageio/metadata imageio/load imageio/facts",
         "imageio/convert": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/exif "

@@ -2,7 +2,7 @@
 #include "platform/file/atomic_file.h"
 #include "platform/imageio/comments/user_comment_writer.h"
 #include "platform/imageio/exif/tiff_comment.h"
-#include "platform/imageio/tiff/tiff_tree.h"
+#include "platform/imageio/tiff/tiff_reader.h"
 
 #include <QFile>
 
@@ -48,8 +48,8 @@ void writeIntoFile(const QByteArray &bytes, const QString &comment)
 void writeIntoBlock(const QByteArray &bytes, const QString &comment)
 {
     const QByteArray once = platform::exifBlockWithUserComment(bytes, comment);
-    const platform::TiffTree tree(once);
-    require(once.isEmpty() || tree.first().find(0x8769)); // the directory that holds it
+    const platform::TiffReader reader(once);
+    require(once.isEmpty() || reader.first().find(0x8769)); // the directory that holds it
     const QByteArray twice = platform::exifBlockWithUserComment(once, comment);
     require(twice.isEmpty() || twice.size() >= once.size());
 }

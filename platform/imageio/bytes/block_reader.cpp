@@ -20,6 +20,16 @@ QByteArrayView BlockReader::at(qint64 position, qsizetype count)
     return QByteArrayView(m_block).last(there).first(std::min(wanted, there));
 }
 
+QByteArray BlockReader::all(qint64 position, qint64 count)
+{
+    if (position < 0 || count <= 0 || count > m_size || position > m_size - count)
+        return {};
+    if (position >= m_start && position + count <= m_start + m_block.size())
+        return m_block.mid(position - m_start, count);
+    const QByteArray bytes = m_file.seek(position) ? m_file.read(count) : QByteArray();
+    return bytes.size() == count ? bytes : QByteArray();
+}
+
 qint64 BlockReader::number(qint64 position, qsizetype bytes, bool isLittle)
 {
     const QByteArrayView piece = at(position, bytes);

@@ -20,6 +20,8 @@ public:
     qint64 size() const { return m_size; }
     /** Up to @p count bytes, at most largestPiece; fewer at the end of the file. A view that the next call may take away. */
     QByteArrayView at(qint64 position, qsizetype count);
+    /** All of @p count bytes, however many; empty where they are not all there. */
+    QByteArray all(qint64 position, qint64 count);
     /** The whole number of 1 to 8 bytes at @p position; -1 where it lies outside the file or does not fit. */
     qint64 number(qint64 position, qsizetype bytes, bool isLittle = false);
 

@@ -1,6 +1,6 @@
 #include "platform/imageio/encode/encoders.h"
-
-#include <QtEndian>
+#include "platform/imageio/tiff/tiff_form.h"
+#include "platform/imageio/tiff/tiff_tags.h"
 
 #include <cmath>
 #include <limits>
@@ -8,88 +8,56 @@
 namespace platform {
 namespace {
 
-enum class Type : quint16 { Short = 3, Long = 4, Fraction = 5, Undefined = 7 };
-
 constexpr int rowsPerStrip = 128;
 /** What offsets of 32 bits surely reach. */
 constexpr quint64 mostBytes = quint64(std::numeric_limits<qint32>::max());
 
-template<typename T> void append(QByteArray &bytes, T number)
-{
-    char text[sizeof number];
-    qToLittleEndian<T>(number, text);
-    bytes.append(text, sizeof number);
-}
-
 /** The one directory of a file with its longer values, which stand behind the pixels. Low bytes come first. */
-class Directory
+class DirectoryWriter
 {
 public:
     /** @param at  where in the file it all begins */
-    explicit Directory(qint64 at) : m_at(at) {}
+    explicit DirectoryWriter(qint64 at) : m_at(at) {}
 
-    void add(quint16 tag, Type type, quint32 count, QByteArray value)
+    void add(quint16 tag, quint16 type, quint32 count, const QByteArray &value)
     {
-        append(m_entries, tag);
-        append(m_entries, quint16(type));
-        append(m_entries, count);
-        constexpr int fieldSize = 4;
-        if (value.size() > fieldSize) {
-            const quint32 place = evenPlace();
-            m_bytes.append(value);
-            value.clear();
-            append(value, place);
-        }
-        m_entries.append(value.leftJustified(fieldSize, '\0'));
-        ++m_count;
+        const bool fits = value.size() <= m_form.offsetSize();
+        m_entries += m_form.entry(tag, type, count, fits ? value : m_form.offset(appendEven(m_bytes, value, m_at)));
     }
     void add(quint16 tag, quint16 value) { addShorts(tag, {value}); }
     void addShorts(quint16 tag, const QList<quint16> &values)
     {
         QByteArray bytes;
         for (const quint16 value : values)
-            append(bytes, value);
-        add(tag, Type::Short, quint32(values.size()), bytes);
+            bytes += m_form.bytes(value, 2);
+        add(tag, tiffType::shortType, quint32(values.size()), bytes);
     }
     void addLongs(quint16 tag, const QList<quint32> &values)
     {
         QByteArray bytes;
         for (const quint32 value : values)
-            append(bytes, value);
-        add(tag, Type::Long, quint32(values.size()), bytes);
+            bytes += m_form.bytes(value, 4);
+        add(tag, tiffType::longType, quint32(values.size()), bytes);
     }
     void addFraction(quint16 tag, double value)
     {
         constexpr quint32 parts = 10000;
-        QByteArray bytes;
-        append(bytes, quint32(std::lround(value * parts)));
-        append(bytes, parts);
-        add(tag, Type::Fraction, 1, bytes);
+        add(tag, tiffType::fractionType, 1,
+            m_form.bytes(quint32(std::lround(value * parts)), 4) + m_form.bytes(parts, 4));
     }
 
     /** All bytes, the directory at their end, and the header that tells its place. */
     FileEnds finished()
     {
-        QByteArray head("II*\0", 4);
-        append(head, evenPlace());
-        append(m_bytes, m_count);
-        m_bytes.append(m_entries);
-        append(m_bytes, quint32(0));
-        return {head, m_bytes};
+        const quint64 place = appendEven(m_bytes, m_form.directory(m_entries, 0), m_at);
+        return {QByteArray("II*\0", 4) + m_form.offset(place), m_bytes};
     }
 
 private:
-    quint32 evenPlace()
-    {
-        if ((m_at + m_bytes.size()) % 2 != 0)
-            m_bytes.append('\0');
-        return quint32(m_at + m_bytes.size());
-    }
-
+    static constexpr TiffForm m_form = {true, false};
     qint64 m_at;
     QByteArray m_bytes;
     QByteArray m_entries;
-    quint16 m_count = 0;
 };
 
 struct Strips
@@ -109,11 +77,11 @@ Strips stripsOf(const vips::VImage &image, quint32 start)
     return strips;
 }
 
-void addProfile(Directory &directory, const vips::VImage &image)
+void addProfile(DirectoryWriter &directory, const vips::VImage &image)
 {
     const QByteArray profile = iccProfileOf(image);
     if (!profile.isEmpty())
-        directory.add(0x8773, Type::Undefined, quint32(profile.size()), profile);
+        directory.add(tiffTag::profile, tiffType::undefinedType, quint32(profile.size()), profile);
 }
 
 struct ColourModel
@@ -182,28 +150,28 @@ FileEnds plainTiffEnds(const vips::VImage &image, Resolution resolution, qint64 
     const ColourModel model = modelOf(image);
     const Strips strips = stripsOf(image, plainTiffHeadBytes);
     const double across = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
-    Directory directory(tailAt); // the tags in the order of their numbers, as the format wants them
-    directory.addLongs(0x0100, {quint32(image.width())});
-    directory.addLongs(0x0101, {quint32(image.height())});
-    directory.addShorts(0x0102, QList<quint16>(image.bands(), quint16(bytesPerComponent(image) * 8)));
-    directory.add(0x0103, 1); // not compressed
-    directory.add(0x0106, model.photometric);
-    directory.addLongs(0x0111, strips.offsets);
-    directory.add(0x0112, 1);
-    directory.add(0x0115, quint16(image.bands()));
-    directory.addLongs(0x0116, {quint32(rowsPerStrip)});
-    directory.addLongs(0x0117, strips.sizes);
-    directory.addFraction(0x011a, across);
-    directory.addFraction(0x011b, resolution.vertical > 0 ? resolution.vertical : across);
-    directory.add(0x011c, 1); // components side by side
-    directory.add(0x0128, 2); // inches
+    DirectoryWriter directory(tailAt); // the tags in the order of their numbers, as the format wants them
+    directory.addLongs(tiffTag::width, {quint32(image.width())});
+    directory.addLongs(tiffTag::height, {quint32(image.height())});
+    directory.addShorts(tiffTag::bits, QList<quint16>(image.bands(), quint16(bytesPerComponent(image) * 8)));
+    directory.add(tiffTag::compression, 1); // not compressed
+    directory.add(tiffTag::photometric, model.photometric);
+    directory.addLongs(tiffTag::stripOffsets, strips.offsets);
+    directory.add(tiffTag::orientation, 1);
+    directory.add(tiffTag::samplesPerPixel, quint16(image.bands()));
+    directory.addLongs(tiffTag::rowsPerStrip, {quint32(rowsPerStrip)});
+    directory.addLongs(tiffTag::stripSizes, strips.sizes);
+    directory.addFraction(tiffTag::resolutionAcross, across);
+    directory.addFraction(tiffTag::resolutionDown, resolution.vertical > 0 ? resolution.vertical : across);
+    directory.add(tiffTag::planarConfiguration, 1); // components side by side
+    directory.add(tiffTag::resolutionUnit, 2);      // inches
     QList<quint16> others(image.bands() - model.colours, 0);
     if (!others.isEmpty()) {
         others.first() = others.size() > otherBands(image) ? 2 : 0; // 2: transparency, not multiplied
-        directory.addShorts(0x0152, others);
+        directory.addShorts(tiffTag::extraSamples, others);
     }
     if (image.format() == VIPS_FORMAT_FLOAT)
-        directory.addShorts(0x0153, QList<quint16>(image.bands(), 3));
+        directory.addShorts(tiffTag::sampleFormat, QList<quint16>(image.bands(), 3));
     addProfile(directory, image);
     return directory.finished();
 }

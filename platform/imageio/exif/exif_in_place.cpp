@@ -2,6 +2,7 @@
 
 #include "platform/imageio/tiff/structure_tags.h"
 #include "platform/imageio/tiff/tiff_reader.h"
+#include "platform/imageio/tiff/tiff_tags.h"
 
 #include <algorithm>
 
@@ -16,102 +17,83 @@
 namespace platform {
 namespace {
 
-constexpr quint16 orientationTag = 0x0112;
-constexpr quint16 exifDirectoryTag = 0x8769;
-constexpr quint16 pixelWidthTag = 0xa002;
-constexpr quint16 pixelHeightTag = 0xa003;
-constexpr quint16 thumbnailOffsetTag = 0x0201;
-constexpr quint16 thumbnailSizeTag = 0x0202;
-
 /** Where the thumbnail's picture begins if it is the end of the block and can be cut off; else the block's size. */
-qsizetype endWithoutThumbnail(const QByteArray &block, const TiffNumbers &numbers, quint32 directoryOffset)
+qsizetype endWithoutThumbnail(const TiffReader &reader, quint64 directoryOffset)
 {
-    const TiffDirectory directory = tiffDirectory(block, numbers, directoryOffset);
-    const TiffEntry *offset = findEntry(directory, thumbnailOffsetTag);
-    const TiffEntry *size = findEntry(directory, thumbnailSizeTag);
-    if (!offset || !size)
-        return block.size();
-    const qint64 start = tiffInteger(block, numbers, *offset);
-    const qint64 end = start + tiffInteger(block, numbers, *size);
+    const TiffDirectory directory = reader.directory(directoryOffset);
+    if (!directory.findSound(tiffTag::jpegOffset) || !directory.findSound(tiffTag::jpegSize))
+        return qsizetype(reader.size());
+    const auto start = qint64(reader.integer(directory, tiffTag::jpegOffset));
+    const auto end = start + qint64(reader.integer(directory, tiffTag::jpegSize));
     constexpr qint64 padding = 4;
-    const bool isTheEnd = start > directory.nextAt && end <= block.size() && end + padding >= block.size();
-    return isTheEnd ? qsizetype(start) : block.size();
+    const bool isTheEnd = start > directory.nextAt && end <= reader.size() && end + padding >= reader.size();
+    return isTheEnd ? qsizetype(start) : qsizetype(reader.size());
 }
 
 /** Writes the kept entries of the first directory over it, shorter by what was taken out. */
-bool shortenFirstDirectory(QByteArray &block, const TiffNumbers &numbers, const TiffDirectory &directory)
+bool shortenFirstDirectory(QByteArray &block, const TiffForm &form, const TiffDirectory &directory)
 {
     QByteArray kept;
     for (const TiffEntry &entry : directory.entries)
-        if (!describesStructure(entry.tag) && !describesOtherData(entry.tag))
-            kept += block.mid(entry.position, tiffEntrySize);
+        if (entry.isSound() && !describesStructure(entry.tag) && !describesOtherData(entry.tag))
+            kept += block.mid(entry.at, form.entrySize());
     if (kept.isEmpty())
         return false;
-    numbers.put16(quint16(kept.size() / tiffEntrySize), block.data() + directory.position);
-    block.replace(directory.position + 2, kept.size(), kept);
-    numbers.put32(0, block.data() + directory.position + 2 + kept.size());
+    const QByteArray shortened = form.directory(kept, 0);
+    block.replace(directory.range.start, shortened.size(), shortened);
     return true;
 }
 
 /** Sets a SHORT or LONG of one element where it stands. */
-void setInteger(QByteArray &block, const TiffNumbers &numbers, const TiffEntry *entry, quint32 value)
+void setInteger(QByteArray &block, const TiffForm &form, const TiffEntry *entry, quint32 value)
 {
-    constexpr quint16 shortType = 3;
-    constexpr quint16 longType = 4;
-    if (!entry || entry->count != 1 || (entry->type != shortType && entry->type != longType))
+    if (!entry || entry->count != 1 || (entry->type != tiffType::shortType && entry->type != tiffType::longType))
         return;
-    char *at = block.data() + entry->position;
-    numbers.put32(0, at + 8);
-    if (entry->type == shortType && value <= 0xffff) {
-        numbers.put16(quint16(value), at + 8);
-    } else {
-        numbers.put16(longType, at + 2);
-        numbers.put32(value, at + 8);
-    }
+    const bool isShort = entry->type == tiffType::shortType && value <= 0xffff;
+    const QByteArray written = isShort ? form.entry(entry->tag, tiffType::shortType, 1, form.bytes(value, 2))
+                                       : form.entry(entry->tag, tiffType::longType, 1, form.bytes(value, 4));
+    block.replace(entry->at, written.size(), written);
 }
 
 } // namespace
 
 QByteArray exifBlockInPlace(const QByteArray &block, QSize pixels)
 {
-    TiffNumbers numbers;
-    if (!isTiffHeader(block, numbers))
+    const TiffReader reader(block);
+    const TiffDirectory first = reader.first();
+    if (!reader.isClassic() || first.entries.isEmpty())
         return {};
-    const TiffDirectory first = firstTiffDirectory(block, numbers);
-    if (!first.valid || first.entries.isEmpty())
-        return {};
-    QByteArray result = first.next == 0 ? block : block.left(endWithoutThumbnail(block, numbers, first.next));
-    if (const TiffEntry *pointer = findEntry(first, exifDirectoryTag)) {
-        const TiffDirectory exif = tiffDirectory(result, numbers, tiffInteger(result, numbers, *pointer));
-        setInteger(result, numbers, findEntry(exif, pixelWidthTag), quint32(pixels.width()));
-        setInteger(result, numbers, findEntry(exif, pixelHeightTag), quint32(pixels.height()));
+    QByteArray result = first.next == 0 ? block : block.left(endWithoutThumbnail(reader, first.next));
+    if (const TiffEntry *pointer = first.findSound(tiffTag::exifDirectory)) {
+        const QByteArray kept = result;
+        const TiffDirectory exif = TiffReader(kept).directory(reader.integer(*pointer));
+        setInteger(result, reader.form(), exif.findSound(tiffTag::pixelWidth), quint32(pixels.width()));
+        setInteger(result, reader.form(), exif.findSound(tiffTag::pixelHeight), quint32(pixels.height()));
     }
-    const bool sound = first.nextAt + 4 <= result.size() && shortenFirstDirectory(result, numbers, first);
-    return sound ? result : QByteArray();
+    const bool isSound = first.range.end() <= result.size() && shortenFirstDirectory(result, reader.form(), first);
+    return isSound ? result : QByteArray();
 }
 
 QByteArray exifBlockWithOrientation(QByteArray block, int orientation)
 {
-    TiffNumbers numbers;
-    if (isTiffHeader(block, numbers))
-        setInteger(block, numbers, findEntry(firstTiffDirectory(block, numbers), orientationTag), quint32(orientation));
+    const TiffReader reader(block);
+    const TiffDirectory first = reader.isClassic() ? reader.first() : TiffDirectory();
+    setInteger(block, reader.form(), first.findSound(tiffTag::orientation), quint32(orientation));
     return block;
 }
 
 QByteArray exifBlockWithResolutionSwapped(QByteArray block)
 {
-    TiffNumbers numbers;
-    if (!isTiffHeader(block, numbers))
-        return block;
-    constexpr quint16 acrossTag = 0x011a;
-    constexpr quint16 downTag = 0x011b;
-    constexpr quint16 fractionType = 5; // too long for an entry, which therefore says where it is
-    const TiffDirectory first = firstTiffDirectory(block, numbers);
-    const TiffEntry *across = findEntry(first, acrossTag);
-    const TiffEntry *down = findEntry(first, downTag);
-    if (across && down && across->type == fractionType && down->type == fractionType && across->count == down->count)
-        std::swap_ranges(block.begin() + across->position + 8, block.begin() + across->position + tiffEntrySize,
-                         block.begin() + down->position + 8);
+    const TiffReader reader(block);
+    const TiffDirectory first = reader.isClassic() ? reader.first() : TiffDirectory();
+    const TiffEntry *across = first.findSound(tiffTag::resolutionAcross);
+    const TiffEntry *down = first.findSound(tiffTag::resolutionDown);
+    const auto isFraction = [](const TiffEntry *entry) { return entry && entry->type == tiffType::fractionType; };
+    // A fraction is too long for an entry, which therefore says where it is.
+    const qint64 field = reader.form().fieldAt();
+    if (isFraction(across) && isFraction(down) && across->count == down->count)
+        std::swap_ranges(block.begin() + across->at + field, block.begin() + across->at + reader.form().entrySize(),
+                         block.begin() + down->at + field);
     return block;
 }
 

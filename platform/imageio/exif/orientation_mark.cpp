@@ -4,6 +4,7 @@
 #include "platform/imageio/exif/exif_in_place.h"
 #include "platform/imageio/jpeg/jpeg_segments.h"
 #include "platform/imageio/tiff/tiff_reader.h"
+#include "platform/imageio/tiff/tiff_tags.h"
 
 #include <QCoreApplication>
 
@@ -12,7 +13,6 @@
 namespace platform {
 namespace {
 
-constexpr quint16 xmpTag = 700;
 constexpr qsizetype segmentHeaderSize = 4;
 
 /** The packet states it as an attribute or as an element; what stands between name and number is at most this long. */
@@ -47,12 +47,12 @@ QByteArray markedJpeg(QByteArray file, const QList<JpegSegments::Range> &segment
     return file;
 }
 
-QByteArray markedTiff(const QByteArray &file, const TiffNumbers &numbers)
+QByteArray markedTiff(const QByteArray &file)
 {
     QByteArray marked = exifBlockWithOrientation(file, 1);
-    const TiffDirectory directory = firstTiffDirectory(marked, numbers);
-    if (const TiffEntry *xmp = findEntry(directory, xmpTag))
-        markXmp(marked, xmp->valueAt, xmp->valueSize);
+    const TiffDirectory directory = TiffReader(file).first(); // nothing has moved
+    if (const TiffEntry *xmp = directory.findSound(tiffTag::xmp))
+        markXmp(marked, xmp->value.start, xmp->value.size);
     return marked;
 }
 
@@ -60,9 +60,8 @@ QByteArray markedTiff(const QByteArray &file, const TiffNumbers &numbers)
 
 Result<QByteArray> markedUpright(const QByteArray &file)
 {
-    TiffNumbers numbers;
-    if (isTiffHeader(file, numbers))
-        return markedTiff(file, numbers);
+    if (TiffReader(file).isClassic())
+        return markedTiff(file);
     const JpegSegments segments = findJpegSegments(file);
     if (segments.valid)
         return markedJpeg(file, segments.metadata);

@@ -2,7 +2,8 @@
 
 #include "platform/imageio/exif/user_comment.h"
 #include "platform/imageio/tiff/camera_raw.h"
-#include "platform/imageio/tiff/tiff_tree.h"
+#include "platform/imageio/tiff/tiff_extents.h"
+#include "platform/imageio/tiff/tiff_tags.h"
 
 #include <QSet>
 
@@ -11,18 +12,12 @@
 namespace platform {
 namespace {
 
-constexpr quint16 exifDirectoryTag = 0x8769;
-constexpr quint16 userCommentTag = 0x9286;
-constexpr quint16 longType = 4;
-constexpr quint16 undefinedType = 7;
-constexpr quint16 bigDirectoryType = 18;
-
 class CommentEditor
 {
 public:
     CommentEditor(const QByteArray &bytes, const QString &comment)
-        : m_bytes(bytes), m_tree(bytes), m_kept(bytes.size()),
-          m_value(encodeUserComment(comment, m_tree.form().little ? QSysInfo::LittleEndian : QSysInfo::BigEndian))
+        : m_bytes(bytes), m_reader(bytes), m_kept(bytes.size()),
+          m_value(encodeUserComment(comment, m_reader.form().little ? QSysInfo::LittleEndian : QSysInfo::BigEndian))
     {
     }
 
@@ -33,36 +28,31 @@ public:
     std::optional<QList<Splice>> splices() const;
 
 private:
-    const TiffForm &form() const { return m_tree.form(); }
+    const TiffForm &form() const { return m_reader.form(); }
     quint64 append(const QByteArray &bytes);
     void overwrite(qint64 at, const QByteArray &bytes);
-    void replaceComment(const TiffTag &tag);
-    void replaceMisplaced(const TiffTag &tag);
-    bool hasPlace(const TiffTag &tag) const;
+    void replaceComment(const TiffEntry &tag);
+    void replaceMisplaced(const TiffEntry &tag);
+    bool hasPlace(const TiffEntry &tag) const;
     QByteArray commentEntry();
-    quint64 newDirectory(const TiffTags &old, quint16 tag, const QByteArray &entry);
-    QByteArray entry(quint16 tag, quint16 type, quint64 count, const QByteArray &field) const;
+    quint64 newDirectory(const TiffDirectory &old, quint16 tag, const QByteArray &entry);
     QByteArray pointerTo(quint64 directory) const;
     bool isShared(const TiffRange &range) const;
     bool changesPixels() const;
     TiffRange roomOf(const TiffRange &range) const;
 
     const QByteArray &m_bytes;
-    TiffTree m_tree;
+    TiffReader m_reader;
     qint64 m_kept; ///< of the old bytes; new ones follow
     QByteArray m_value;
     QByteArray m_appended;
     QList<Splice> m_overwritten;
 };
 
-/** At an even offset, as the format wants it. */
+/** Behind what is kept. */
 quint64 CommentEditor::append(const QByteArray &bytes)
 {
-    if ((m_kept + m_appended.size()) % 2 != 0)
-        m_appended.append('\0');
-    const auto offset = quint64(m_kept + m_appended.size());
-    m_appended.append(bytes);
-    return offset;
+    return appendEven(m_appended, bytes, m_kept);
 }
 
 void CommentEditor::overwrite(qint64 at, const QByteArray &bytes)
@@ -72,74 +62,65 @@ void CommentEditor::overwrite(qint64 at, const QByteArray &bytes)
 
 bool CommentEditor::isSound() const
 {
-    if (!m_tree.isValid())
+    if (!m_reader.isValid())
         return false;
-    const quint64 first = form().number(m_bytes.constData() + m_tree.firstAt(), form().offsetSize());
-    return first == 0 || m_tree.directory(first).valid;
+    const quint64 first = m_reader.firstOffset();
+    return first == 0 || m_reader.directory(first).valid;
 }
 
 void CommentEditor::dropOtherPages()
 {
-    const TiffTags first = m_tree.first();
+    const TiffDirectory first = m_reader.first();
     if (!first.valid || first.next == 0)
         return;
     overwrite(first.nextAt, QByteArray(form().offsetSize(), '\0'));
-    const TiffExtents used = m_tree.extents(TiffTree::Pages::First);
+    const TiffExtents used = tiffExtents(m_reader, TiffPages::First);
     if (!used.isComplete)
         return;
-    m_kept = m_tree.headerSize();
+    m_kept = form().headerSize();
     for (const TiffRange &range : used.ranges)
         m_kept = std::max(m_kept, range.end());
 }
 
-QByteArray CommentEditor::entry(quint16 tag, quint16 type, quint64 count, const QByteArray &field) const
-{
-    return form().bytes(tag, 2) + form().bytes(type, 2) + form().bytes(count, form().offsetSize()) +
-           field.leftJustified(form().offsetSize(), '\0');
-}
-
 QByteArray CommentEditor::pointerTo(quint64 directory) const
 {
-    return entry(exifDirectoryTag, form().big ? bigDirectoryType : longType, 1,
-                 form().bytes(directory, form().offsetSize()));
+    return form().entry(tiffTag::exifDirectory, form().big ? tiffType::bigDirectoryType : tiffType::longType, 1,
+                        form().offset(directory));
 }
 
 QByteArray CommentEditor::commentEntry()
 {
     const bool fits = m_value.size() <= form().offsetSize();
-    const QByteArray field = fits ? m_value : form().bytes(append(m_value), form().offsetSize());
-    return entry(userCommentTag, undefinedType, quint64(m_value.size()), field);
+    const QByteArray field = fits ? m_value : form().offset(append(m_value));
+    return form().entry(tiffTag::userComment, tiffType::undefinedType, quint64(m_value.size()), field);
 }
 
 /** The old entries as they stand and a new one among them; the old directory is left where it is. */
-quint64 CommentEditor::newDirectory(const TiffTags &old, quint16 tag, const QByteArray &newEntry)
+quint64 CommentEditor::newDirectory(const TiffDirectory &old, quint16 tag, const QByteArray &newEntry)
 {
     QByteArray entries;
-    quint64 count = 1;
     bool isIn = false;
-    for (const TiffTag &each : old.tags) {
-        if (each.tag == tag || each.tag == userCommentTag) // one in the wrong directory is not taken along
+    for (const TiffEntry &each : old.entries) {
+        if (each.tag == tag || each.tag == tiffTag::userComment) // one in the wrong directory is not taken along
             continue;
         if (!isIn && each.tag > tag) {
             entries += newEntry;
             isIn = true;
         }
         entries += m_bytes.mid(each.at, form().entrySize());
-        ++count;
     }
     if (!isIn)
         entries += newEntry;
     const bool goesOn = old.valid && std::none_of(m_overwritten.begin(), m_overwritten.end(),
                                                   [&](const Splice &splice) { return splice.at == old.nextAt; });
-    return append(form().bytes(count, form().countSize()) + entries +
-                  form().bytes(goesOn ? old.next : 0, form().offsetSize()));
+    return append(form().directory(entries, goesOn ? old.next : 0));
 }
 
 /** True if anything else that is known uses some of these bytes: only a damaged file has that. */
 bool CommentEditor::isShared(const TiffRange &range) const
 {
-    qsizetype users = range.start < m_tree.headerSize() ? 2 : 0;
-    for (const TiffRange &used : m_tree.extents(TiffTree::Pages::All).ranges)
+    qsizetype users = range.start < form().headerSize() ? 2 : 0;
+    for (const TiffRange &used : tiffExtents(m_reader, TiffPages::All).ranges)
         users += range.overlaps(used);
     return users > 1; // the comment itself is one
 }
@@ -154,27 +135,27 @@ TiffRange CommentEditor::roomOf(const TiffRange &range) const
 }
 
 /** Its value lies by itself, and may be overwritten. */
-bool CommentEditor::hasPlace(const TiffTag &tag) const
+bool CommentEditor::hasPlace(const TiffEntry &tag) const
 {
-    return tag.isSound && !tag.isInline && tag.value.end() <= m_kept && !isShared(tag.value);
+    return tag.isSound() && !tag.isInline && tag.value.end() <= m_kept && !isShared(tag.value);
 }
 
 /** A comment in the first directory, where it does not belong and some readers look: they are told the same. */
-void CommentEditor::replaceMisplaced(const TiffTag &tag)
+void CommentEditor::replaceMisplaced(const TiffEntry &tag)
 {
     if (hasPlace(tag))
         overwrite(tag.value.start, QByteArray(tag.value.size, '\0'));
     overwrite(tag.at, commentEntry());
 }
 
-void CommentEditor::replaceComment(const TiffTag &tag)
+void CommentEditor::replaceComment(const TiffEntry &tag)
 {
     const bool isAlone = hasPlace(tag);
     const TiffRange room = isAlone ? roomOf(tag.value) : TiffRange();
     const bool hasRoom = room.size >= m_value.size() && m_value.size() > form().offsetSize();
     if (hasRoom) {
-        overwrite(tag.at, entry(userCommentTag, undefinedType, quint64(m_value.size()),
-                                form().bytes(quint64(tag.value.start), form().offsetSize())));
+        overwrite(tag.at, form().entry(tiffTag::userComment, tiffType::undefinedType, quint64(m_value.size()),
+                                       form().offset(quint64(tag.value.start))));
         overwrite(room.start, m_value.leftJustified(room.size, '\0'));
         return;
     }
@@ -187,17 +168,17 @@ void CommentEditor::replaceComment(const TiffTag &tag)
 
 void CommentEditor::setComment()
 {
-    const TiffTags first = m_tree.first();
-    const TiffTag *pointer = first.find(exifDirectoryTag);
-    const TiffTags exif = pointer ? m_tree.directory(m_tree.integer(*pointer)) : TiffTags();
-    const TiffTag *misplaced = first.find(userCommentTag);
-    if (const TiffTag *comment = exif.find(userCommentTag)) {
+    const TiffDirectory first = m_reader.first();
+    const TiffEntry *pointer = first.find(tiffTag::exifDirectory);
+    const TiffDirectory exif = pointer ? m_reader.directory(m_reader.integer(*pointer)) : TiffDirectory();
+    const TiffEntry *misplaced = first.find(tiffTag::userComment);
+    if (const TiffEntry *comment = exif.find(tiffTag::userComment)) {
         replaceComment(*comment);
         if (misplaced)
             replaceMisplaced(*misplaced);
         return;
     }
-    const quint64 directory = newDirectory(exif, userCommentTag, commentEntry());
+    const quint64 directory = newDirectory(exif, tiffTag::userComment, commentEntry());
     if (pointer)
         overwrite(pointer->at, pointerTo(directory));
     if (pointer && misplaced)
@@ -206,14 +187,14 @@ void CommentEditor::setComment()
         return;
     if (misplaced && hasPlace(*misplaced))
         overwrite(misplaced->value.start, QByteArray(misplaced->value.size, '\0'));
-    const quint64 newFirst = newDirectory(first, exifDirectoryTag, pointerTo(directory));
-    overwrite(m_tree.firstAt(), form().bytes(newFirst, form().offsetSize()));
+    const quint64 newFirst = newDirectory(first, tiffTag::exifDirectory, pointerTo(directory));
+    overwrite(form().firstAt(), form().offset(newFirst));
 }
 
 /** In a damaged file pixels may be said to lie where directories are. */
 bool CommentEditor::changesPixels() const
 {
-    const QList<TiffRange> pixels = m_tree.extents(TiffTree::Pages::All).pixels;
+    const QList<TiffRange> pixels = tiffExtents(m_reader, TiffPages::All).pixels;
     return std::any_of(m_overwritten.begin(), m_overwritten.end(), [&pixels](const Splice &splice) {
         const TiffRange changed{splice.at, splice.removed};
         return std::any_of(pixels.begin(), pixels.end(),
@@ -224,7 +205,7 @@ bool CommentEditor::changesPixels() const
 std::optional<QList<Splice>> CommentEditor::splices() const
 {
     constexpr qint64 largestClassic = 0xffffffff;
-    if (!m_tree.isValid() || (!form().big && m_kept + m_appended.size() > largestClassic) || changesPixels())
+    if (!m_reader.isValid() || (!form().big && m_kept + m_appended.size() > largestClassic) || changesPixels())
         return std::nullopt;
     QList<Splice> all = m_overwritten;
     std::stable_sort(all.begin(), all.end(), [](const Splice &a, const Splice &b) { return a.at < b.at; });
@@ -241,13 +222,13 @@ std::optional<QList<Splice>> CommentEditor::splices() const
 /** True if a reader that follows the directories comes to this comment. */
 bool holdsComment(const QByteArray &block, const QString &comment)
 {
-    const TiffTree tree(block);
-    const TiffTags first = tree.first();
-    const TiffTag *pointer = first.find(exifDirectoryTag);
-    const TiffTags exif = pointer ? tree.directory(tree.integer(*pointer)) : TiffTags();
-    const TiffTag *tag = exif.find(userCommentTag);
-    const auto order = tree.form().little ? QSysInfo::LittleEndian : QSysInfo::BigEndian;
-    return tag && tag->isSound && block.mid(tag->value.start, tag->value.size) == encodeUserComment(comment, order);
+    const TiffReader reader(block);
+    const TiffDirectory first = reader.first();
+    const TiffEntry *pointer = first.find(tiffTag::exifDirectory);
+    const TiffDirectory exif = pointer ? reader.directory(reader.integer(*pointer)) : TiffDirectory();
+    const TiffEntry *tag = exif.find(tiffTag::userComment);
+    const auto order = reader.form().little ? QSysInfo::LittleEndian : QSysInfo::BigEndian;
+    return tag && tag->isSound() && block.mid(tag->value.start, tag->value.size) == encodeUserComment(comment, order);
 }
 
 } // namespace
@@ -265,19 +246,20 @@ std::optional<QList<Splice>> userCommentSplices(const QByteArray &bytes, const Q
 
 bool tellsWhereItsPixelsAre(const QByteArray &bytes)
 {
-    const TiffTree tree(bytes);
-    const TiffTags first = tree.first();
+    const TiffReader reader(bytes);
+    const TiffDirectory first = reader.first();
     const auto all = quint64(bytes.size());
-    for (const auto &[offsetsTag, sizesTag] : {std::pair<quint16, quint16>(0x0111, 0x0117), {0x0144, 0x0145}}) {
-        const TiffTag *offsets = first.find(offsetsTag);
-        const TiffTag *sizes = first.find(sizesTag);
+    for (const auto &[offsetsTag, sizesTag] :
+         {std::pair(tiffTag::stripOffsets, tiffTag::stripSizes), {tiffTag::tileOffsets, tiffTag::tileSizes}}) {
+        const TiffEntry *offsets = first.find(offsetsTag);
+        const TiffEntry *sizes = first.find(sizesTag);
         if (!offsets && !sizes)
             continue;
-        if (!offsets || !sizes || !offsets->isSound || !sizes->isSound || offsets->count != sizes->count)
+        if (!offsets || !sizes || !offsets->isSound() || !sizes->isSound() || offsets->count != sizes->count)
             return false;
         for (quint64 i = 0; i < offsets->count; ++i) {
-            const quint64 start = tree.integer(*offsets, i);
-            if (start < quint64(tree.headerSize()) || start > all || tree.integer(*sizes, i) > all - start)
+            const quint64 start = reader.integer(*offsets, i);
+            if (start < quint64(reader.form().headerSize()) || start > all || reader.integer(*sizes, i) > all - start)
                 return false;
         }
         return offsets->count > 0;
@@ -288,25 +270,25 @@ bool tellsWhereItsPixelsAre(const QByteArray &bytes)
 int otherPageCount(const QByteArray &bytes)
 {
     constexpr qsizetype mostPages = 65536;
-    const TiffTree tree(bytes);
+    const TiffReader reader(bytes);
     QSet<quint64> met;
-    TiffTags page = tree.first();
+    TiffDirectory page = reader.first();
     while (page.valid && page.next != 0 && !met.contains(page.next) && met.size() < mostPages) {
         met.insert(page.next);
-        page = tree.directory(page.next);
+        page = reader.directory(page.next);
     }
     return int(met.size());
 }
 
 QByteArray exifBlockWithUserComment(const QByteArray &block, const QString &comment)
 {
-    const TiffTree tree(block);
-    if (tree.isValid() && !tree.form().big)
+    const TiffReader reader(block);
+    if (reader.isClassic())
         if (const auto splices = userCommentSplices(block, comment, OtherPages::Keep)) {
             const QByteArray edited = spliced(block, *splices);
             return holdsComment(edited, comment) ? edited : QByteArray();
         }
-    if (tree.first().valid && !tree.form().big)
+    if (reader.isClassic() && reader.first().valid)
         return {}; // what is in it can be read, and would be lost
     const QByteArray empty("II*\0\0\0\0\0", 8);
     const auto splices = userCommentSplices(empty, comment, OtherPages::Keep);

@@ -5,7 +5,8 @@
 #include "platform/imageio/jpeg/jpeg_segments.h"
 #include "platform/imageio/photoshop/photoshop_file.h"
 #include "platform/imageio/png/png_exif_text.h"
-#include "platform/imageio/tiff/tiff_tree.h"
+#include "platform/imageio/tiff/tiff_reader.h"
+#include "platform/imageio/tiff/tiff_tags.h"
 
 #include <QBuffer>
 #include <QtEndian>
@@ -127,10 +128,10 @@ QByteArray xmpOfWebp(const QByteArray &bytes)
 
 QByteArray xmpOfTiff(const QByteArray &bytes)
 {
-    constexpr quint16 packetTag = 0x02bc;
-    const TiffTags first = TiffTree(bytes).first();
-    const TiffTag *tag = first.find(packetTag);
-    return tag && tag->isSound ? bytes.mid(tag->value.start, tag->value.size) : QByteArray();
+    const TiffReader reader(bytes);
+    const TiffDirectory first = reader.first();
+    const TiffEntry *packet = first.find(tiffTag::xmp);
+    return packet ? reader.value(*packet, reader.size()) : QByteArray();
 }
 
 } // namespace

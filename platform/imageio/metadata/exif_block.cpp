@@ -2,6 +2,7 @@
 
 #include "platform/imageio/exif/exif_in_place.h"
 #include "platform/imageio/tiff/structure_tags.h"
+#include "platform/imageio/tiff/tiff_tags.h"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +24,7 @@ bool isOtherImageGroup(const std::string &group)
 
 bool isMakerNote(const Exiv2::Exifdatum &tag)
 {
-    return !isStandardGroup(tag.groupName()) || (tag.groupName() == "Photo" && tag.tag() == 0x927c);
+    return !isStandardGroup(tag.groupName()) || (tag.groupName() == "Photo" && tag.tag() == tiffTag::makerNote);
 }
 
 bool isCommon(const Exiv2::Exifdatum &tag)

@@ -2,6 +2,7 @@
 #include "platform/imageio/metadata/metadata_blocks.h"
 #include "platform/imageio/metadata/metadata_names.h"
 #include "platform/imageio/tiff/structure_tags.h"
+#include "platform/imageio/tiff/tiff_tags.h"
 
 #include <algorithm>
 #include <cmath>
@@ -189,7 +190,7 @@ struct ExifGroups
 void addImageTag(ExifGroups &groups, const Exiv2::Exifdatum &tag, const QString &name, Exiv2::ByteOrder order)
 {
     const uint16_t number = tag.tag();
-    const bool shown = number == 0x0103 || number == 0x0106 || !describesStructure(number);
+    const bool shown = number == tiffTag::compression || number == tiffTag::photometric || !describesStructure(number);
     const bool pointerOrData = number == 0x02bc || number == 0x83bb || number == 0x8649 || number == 0x8769 ||
                                number == 0x8773 || number == 0x8825 || number == 0x935c || number >= 0xc4a5;
     if (!shown || pointerOrData)

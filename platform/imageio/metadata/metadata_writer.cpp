@@ -192,8 +192,7 @@ Result<QByteArray> Metadata::writtenInto(const QByteArray &encoded) const
 {
     const JpegSegments segments = findJpegSegments(encoded);
     const PngParts parts = findPngParts(encoded);
-    TiffNumbers numbers;
-    if (!segments.valid && !parts.valid && !isTiffHeader(encoded, numbers))
+    if (!segments.valid && !parts.valid && !TiffReader(encoded).isClassic())
         return failure(ErrorCode::Unsupported,
                        QStringLiteral("Cannot write metadata: not a JPEG, a TIFF or a PNG file"));
     const bool hasOnlyChunks = isEmpty() && m_blocks && parts.valid && !m_blocks->pngChunks.isEmpty();

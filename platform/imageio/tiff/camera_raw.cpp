@@ -1,6 +1,7 @@
 #include "platform/imageio/tiff/camera_raw.h"
 
 #include "platform/imageio/tiff/tiff_reader.h"
+#include "platform/imageio/tiff/tiff_tags.h"
 
 #include <algorithm>
 #include <array>
@@ -17,25 +18,19 @@ const std::array<QByteArray, 6> rawMarks = {QByteArray("IIRO"),
                                             QByteArray("HEAPCCDR")};
 
 /** Compressions of sensor data, which no other file has: Sony, Nikon, Samsung, Pentax. */
-bool isSensorCompression(quint32 compression)
+bool isSensorCompression(quint64 compression)
 {
     return compression == 32767 || compression == 34713 || compression == 32770 || compression == 65535;
 }
 
 /** A first directory that is only a small picture, with the large ones below it, or that names the sensor's data. */
-bool describesRaw(const QByteArray &head, const TiffNumbers &numbers)
+bool describesRaw(const TiffReader &reader)
 {
-    const TiffDirectory directory = firstTiffDirectory(head, numbers);
-    const auto number = [&](quint16 tag) {
-        const TiffEntry *entry = findEntry(directory, tag);
-        return entry ? tiffInteger(head, numbers, *entry) : 0;
-    };
-    constexpr quint16 subfileTypeTag = 0x00fe;
-    constexpr quint16 compressionTag = 0x0103;
-    constexpr quint16 subDirectoriesTag = 0x014a;
-    constexpr quint16 dngVersionTag = 0xc612;
-    const bool isSmallOfMore = number(subfileTypeTag) == 1 && findEntry(directory, subDirectoriesTag);
-    return findEntry(directory, dngVersionTag) || isSmallOfMore || isSensorCompression(number(compressionTag));
+    const TiffDirectory directory = reader.first();
+    const bool isSmallOfMore =
+        reader.integer(directory, tiffTag::subfileType) == 1 && directory.findSound(tiffTag::subDirectories);
+    return directory.findSound(tiffTag::dngVersion) || isSmallOfMore ||
+           isSensorCompression(reader.integer(directory, tiffTag::compression));
 }
 
 } // namespace
@@ -46,8 +41,8 @@ bool isCameraRaw(const QByteArray &head)
     if (std::any_of(rawMarks.begin(), rawMarks.end(), begins))
         return true;
     constexpr qsizetype canonMarkAt = 8;
-    TiffNumbers numbers;
-    return isTiffHeader(head, numbers) && (head.mid(canonMarkAt, 2) == "CR" || describesRaw(head, numbers));
+    const TiffReader reader(head);
+    return reader.isClassic() && (head.mid(canonMarkAt, 2) == "CR" || describesRaw(reader));
 }
 
 } // namespace platform

@@ -1,5 +1,7 @@
 #include "platform/imageio/tiff/structure_tags.h"
 
+#include "platform/imageio/tiff/tiff_tags.h"
+
 #include <algorithm>
 #include <array>
 
@@ -24,11 +26,10 @@ bool describesStructure(quint16 tag)
 
 bool describesOtherData(quint16 tag)
 {
-    constexpr std::array<quint16, 5> carriedElsewhere = {0x02bc, 0x83bb, 0x8649, 0x8773, 0x935c};
-    constexpr quint16 firstRawTag = 0xc612;
-    constexpr quint16 lastRawTag = 0xcd3f;
+    constexpr std::array<quint16, 5> carriedElsewhere = {tiffTag::xmp, tiffTag::iptc, tiffTag::photoshop,
+                                                         tiffTag::profile, tiffTag::photoshopLayers};
     return std::find(carriedElsewhere.begin(), carriedElsewhere.end(), tag) != carriedElsewhere.end() ||
-           (tag >= firstRawTag && tag <= lastRawTag);
+           (tag >= tiffTag::dngVersion && tag <= tiffTag::lastRaw);
 }
 
 } // namespace platform

@@ -1,75 +1,107 @@
 #pragma once
 
-// Inside platform/ only: the directories of a TIFF file or an EXIF block, read and changed byte by byte.
+// Inside platform/ only: the directories of a TIFF file or an EXIF block, classic or with offsets of 64 bits.
+
+#include "platform/imageio/bytes/block_reader.h"
+#include "platform/imageio/tiff/tiff_form.h"
 
 #include <QByteArray>
 #include <QList>
-#include <QtEndian>
+
+#include <optional>
 
 namespace platform {
 
-/** The size of one element of a TIFF value type in bytes; 0 for an unknown type. */
-constexpr int tiffElementSize(quint32 type)
+struct TiffRange
 {
-    constexpr int sizes[] = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8, 4};
-    return type < std::size(sizes) ? sizes[type] : 0;
-}
-
-/** Numbers in the byte order of a TIFF header. */
-struct TiffNumbers
-{
-    bool little = true;
-
-    quint16 u16(const char *at) const { return little ? qFromLittleEndian<quint16>(at) : qFromBigEndian<quint16>(at); }
-    quint32 u32(const char *at) const { return little ? qFromLittleEndian<quint32>(at) : qFromBigEndian<quint32>(at); }
-    void put16(quint16 value, char *at) const
-    {
-        little ? qToLittleEndian<quint16>(value, at) : qToBigEndian<quint16>(value, at);
-    }
-    void put32(quint32 value, char *at) const
-    {
-        little ? qToLittleEndian<quint32>(value, at) : qToBigEndian<quint32>(value, at);
-    }
-    bool operator==(const TiffNumbers &) const = default;
+    qint64 start = 0;
+    qint64 size = 0;
+    qint64 end() const { return start + size; }
+    bool overlaps(const TiffRange &other) const { return start < other.end() && other.start < end(); }
 };
 
-/** One entry of a directory, and where its parts lie. All offsets have been checked against the bytes. */
+/** Whether a value can be read. */
+enum class TiffValue {
+    Sound,    ///< of a known type and inside the bytes
+    Outside,  ///< of a known type, but elsewhere
+    Nonsense, ///< of no known type, or longer than everything that there is
+};
+
+/** One entry; where it is not sound nothing but tag, type, count and place may be believed. */
 struct TiffEntry
 {
     quint16 tag = 0;
     quint16 type = 0;
-    quint32 count = 0;
-    qint64 position = 0;  ///< of the 12 bytes of the entry
-    qint64 valueAt = 0;   ///< of the value itself, in the entry or elsewhere
-    qint64 valueSize = 0; ///< in bytes
-    bool isInline() const { return valueSize <= 4; }
+    quint64 count = 0;
+    qint64 at = 0;   ///< of the entry
+    TiffRange value; ///< empty where it is not sound
+    TiffValue state = TiffValue::Nonsense;
+    bool isInline = false; ///< the value stands in the entry
+    bool isSound() const { return state == TiffValue::Sound; }
 };
 
 struct TiffDirectory
 {
-    bool valid = false;
-    QList<TiffEntry> entries; ///< entries of unknown type or with a value outside the bytes are left out
-    qint64 position = 0;
-    qint64 nextAt = 0; ///< of the offset of the next directory
-    quint32 next = 0;
+    bool valid = false; ///< it lies within the bytes; else it has no entries
+    TiffRange range;    ///< of the whole directory
+    QList<TiffEntry> entries;
+    qint64 nextAt = 0; ///< where the offset of the next directory stands
+    quint64 next = 0;
+
+    /** The first entry of a tag; null where there is none. */
+    const TiffEntry *find(quint16 tag) const;
+    /** The first one whose value can be read. */
+    const TiffEntry *findSound(quint16 tag) const;
 };
 
-constexpr qint64 tiffEntrySize = 12;
-constexpr qint64 tiffHeaderSize = 8;
+/**
+ * Reads directories by their offsets. Nothing outside the bytes is touched, whatever they say; that directories do not lead
+ * to each other in a circle is for the caller to watch.
+ */
+class TiffReader
+{
+public:
+    /** @p bytes must stay where they are while this lives. */
+    explicit TiffReader(const QByteArray &bytes);
+    /** Over a file, which is read in blocks, as little of it as is asked for. What cannot be read counts as not there. */
+    explicit TiffReader(QIODevice &file);
 
-/** True for the header of a classic TIFF; @p numbers gets its byte order. */
-bool isTiffHeader(const QByteArray &bytes, TiffNumbers &numbers);
+    /** The header is one of TIFF. Without one numbers are read as if it were classic, from files with a maker's own mark. */
+    bool isValid() const { return m_isValid; }
+    bool isClassic() const { return m_isValid && !m_form.big; }
+    const TiffForm &form() const { return m_form; }
+    /** Something inside the file could not be read: what was told since then may be too little. */
+    bool hasFailed() const { return m_hasFailed; }
+    qint64 size() const { return m_blocks ? m_blocks->size() : m_bytes.size(); }
 
-/** The directory at @p offset; not valid where it does not fit into @p bytes. */
-TiffDirectory tiffDirectory(const QByteArray &bytes, const TiffNumbers &numbers, qint64 offset);
+    /** The offset of the first directory. */
+    quint64 firstOffset() const { return number(m_form.firstAt(), m_form.offsetSize()); }
+    /** That directory; not valid without a header of TIFF. */
+    TiffDirectory first() const { return m_isValid ? directory(firstOffset()) : TiffDirectory(); }
+    enum class End {
+        Stated, ///< without the offset of the next one the directory is not valid
+        MayBeCut,
+    };
+    TiffDirectory directory(quint64 offset, End end = End::Stated) const;
 
-/** The first directory, to which the header leads. */
-TiffDirectory firstTiffDirectory(const QByteArray &bytes, const TiffNumbers &numbers);
+    /** Element @p index of a whole-numbered value; 0 for other types, beyond the end and where the entry is not sound. */
+    quint64 integer(const TiffEntry &entry, quint64 index = 0) const;
+    /** The first element of the value of a tag; @p otherwise where there is no such number. */
+    quint64 integer(const TiffDirectory &directory, quint16 tag, quint64 otherwise = 0) const;
+    /** The bytes of a value; empty where it is not sound or has more than @p longest. */
+    QByteArray value(const TiffEntry &entry, qint64 longest) const;
 
-/** The entry of a tag; null where there is none. */
-const TiffEntry *findEntry(const TiffDirectory &directory, quint16 tag);
+private:
+    void readHeader();
+    TiffEntry entryAt(qint64 at) const;
+    QByteArrayView at(qint64 position, qsizetype count) const;
+    quint64 number(qint64 position, int bytes) const;
 
-/** Element @p index of a SHORT or LONG value; 0 for other types and beyond the end. */
-quint32 tiffInteger(const QByteArray &bytes, const TiffNumbers &numbers, const TiffEntry &entry, quint32 index = 0);
+    QByteArrayView m_bytes;
+    mutable std::optional<BlockReader> m_blocks; ///< a cache over the file, which it reads from where there is one
+    mutable bool m_hasFailed = false;
+    TiffForm m_form;
+    bool m_isValid = false;
+};
 
 } // namespace platform

@@ -1,0 +1,24 @@
+#pragma once
+
+// Inside platform/ only: which bytes of a TIFF file are in use.
+
+#include "platform/imageio/tiff/tiff_reader.h"
+
+#include <QList>
+
+namespace platform {
+
+/** What is known to be in use, and whether that is all. */
+struct TiffExtents
+{
+    QList<TiffRange> ranges;
+    QList<TiffRange> pixels; ///< those of them that are pixels
+    bool isComplete = true;  ///< nothing was met that may lead to bytes elsewhere
+};
+
+enum class TiffPages { First, All };
+
+/** Everything that the first directory, or all of them, lead to. Each directory is entered once, and 256 at the most. */
+TiffExtents tiffExtents(const TiffReader &reader, TiffPages pages);
+
+} // namespace platform
