@@ -37,7 +37,8 @@ TiffDevice::TiffDevice(const PictureBytes &bytes) : m_bytes(bytes.openedDevice()
 
 bool TiffDevice::seek(qint64 position)
 {
-    return QIODevice::seek(position) && m_bytes->seek(position);
+    // A buffer has no place behind its end and a file has; the library is to meet the same in both.
+    return QIODevice::seek(position) && m_bytes->seek(qMin(position, m_bytes->size()));
 }
 
 qint64 TiffDevice::readData(char *data, qint64 count)
