@@ -53,7 +53,8 @@ platform::Forms formsFor(const QString &typeIdentifier)
 QString extensionForType(const QString &typeIdentifier)
 {
     const platform::Format *format = platform::formatNamed(typeIdentifier);
-    return format && format->written ? u'.' + QString(format->extensions).section(u' ', 0, 0) : QString();
+    return platform::fileFormatForType(typeIdentifier) ? u'.' + QString(format->extensions).section(u' ', 0, 0)
+                                                       : QString();
 }
 
 double qualityForCode(const QString &code)

@@ -22,7 +22,7 @@ double pixelsOf(QSize size)
 /** Encoders that need so long for a pixel that they get fewer. */
 bool isSlow(FileFormat format)
 {
-    return format == FileFormat::Gif || format == FileFormat::Jpeg2000;
+    return format == FileFormat::Gif || format == FileFormat::Jpeg2000 || format == FileFormat::Avif;
 }
 
 /** The bitmap, or as much of it as an encoder may have while somebody waits. */
@@ -72,6 +72,10 @@ double exponentFor(FileFormat format, double jpegExponent)
         return 0.9 * jpegExponent;
     case FileFormat::Gif:
         return std::min(1.0, jpegExponent + 0.07);
+    case FileFormat::Webp:
+    case FileFormat::Avif:
+    case FileFormat::JpegXl:
+        return 0.95 * jpegExponent;
     case FileFormat::Tiff:
     case FileFormat::Bmp:
         break;

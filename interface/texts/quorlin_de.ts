@@ -3694,6 +3694,10 @@
         <translation>Das JPEG konnte nicht erzeugt werden: %1</translation>
     </message>
     <message>
+        <source>A WebP file holds at most %1 pixels on a side, not %2</source>
+        <translation>Eine WebP-Datei fasst höchstens %1 Pixel je Seite, nicht %2</translation>
+    </message>
+    <message>
         <source>Writing the picture</source>
         <translation>Das Schreiben des Bildes</translation>
     </message>

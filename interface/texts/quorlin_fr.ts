@@ -3694,6 +3694,10 @@
         <translation>Le JPEG n’a pas pu être créé&#x202f;: %1</translation>
     </message>
     <message>
+        <source>A WebP file holds at most %1 pixels on a side, not %2</source>
+        <translation>Un fichier WebP contient au plus %1 pixels par côté, et non %2</translation>
+    </message>
+    <message>
         <source>Writing the picture</source>
         <translation>L’écriture de l’image</translation>
     </message>

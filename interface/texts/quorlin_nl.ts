@@ -3694,6 +3694,10 @@
         <translation>De JPEG kon niet worden gemaakt: %1</translation>
     </message>
     <message>
+        <source>A WebP file holds at most %1 pixels on a side, not %2</source>
+        <translation>Een WebP-bestand bevat hoogstens %1 pixels per zijde, niet %2</translation>
+    </message>
+    <message>
         <source>Writing the picture</source>
         <translation>Het schrijven van de foto</translation>
     </message>

@@ -46,6 +46,7 @@ SUB_ROOMS = {
         "imageio/tiff": "imageio/bytes",
         "imageio/bmp": "graphics imageio/bytes",
         "imageio/photoshop": "graphics imageio/bytes",
+        "imageio/parts": "foundation",
         "imageio/whole": "file imageio/bytes imageio/formats imageio/jpeg2000 imageio/tiff imageio/bmp",
         "imageio/exif": "foundation file imageio/bytes imageio/jpeg imageio/tiff",
         "imageio/xmp": "imageio/png",
@@ -56,7 +57,7 @@ SUB_ROOMS = {
         "imageio/facts": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png imageio/tiff "
                          "imageio/bmp imageio/photoshop imageio/exif imageio/xmp imageio/metadata imageio/load",
         "imageio/encode": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png "
-                          "imageio/tiff imageio/metadata",
+                          "imageio/tiff imageio/parts imageio/metadata",
         "imageio/source": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/tiff imageio/whole "
                           "imageio/exif imageio/metadata imageio/load imageio/facts",
         "imageio/convert": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/exif "
@@ -120,6 +121,7 @@ THIRD_PARTY = [
 ]
 LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "PkgConfig::CAIRO": "platform",
                 "PkgConfig::JPEG": "platform", "PkgConfig::TURBOJPEG": "platform", "PkgConfig::PLIST": "platform", "PkgConfig::OPENJPEG": "platform",
+                "PkgConfig::HEIF": "platform",
                 "PkgConfig::DEFLATE": "platform", "PkgConfig::SQLITE": "presets", "SQLite::SQLite3": "presets"}
 SYSTEM = re.compile(r"(sys|linux|netinet)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|sched|signal|pwd|errno|time|malloc|syslog)\.h")
 STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits)\.h")

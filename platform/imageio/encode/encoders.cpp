@@ -1,4 +1,5 @@
 #include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/encode/quality_scale.h"
 
 #include <algorithm>
 
@@ -78,18 +79,20 @@ QByteArray encodeGif(const VImage &image)
     return bytesOf(image.gifsave_buffer(VImage::option()->set("effort", effort)));
 }
 
-QByteArray encodeJpeg2000(const VImage &image)
+QByteArray encodeJpeg2000(const VImage &image, const std::optional<Compression> &compression)
 {
     // Above this the difference to the source cannot be seen.
     constexpr int visuallyLossless = 60;
+    const int decibels = compression ? jpeg2000Decibels(compression->quality) : visuallyLossless;
     // The encoder reckons with what a tile holds: one that is small and flat comes out as another colour.
     constexpr int leastSide = 128;
     constexpr int leastArea = 256 * 256;
     const bool isSmall =
         std::min(image.width(), image.height()) < leastSide || image.width() <= leastArea / image.height();
+    const bool isLossless = isSmall || (compression && compression->isLossless);
     return bytesOf(image.jp2ksave_buffer(VImage::option()
-                                             ->set("Q", visuallyLossless)
-                                             ->set("lossless", isSmall)
+                                             ->set("Q", decibels)
+                                             ->set("lossless", isLossless)
                                              ->set("tile_width", jpeg2000TileSide(image.width()))
                                              ->set("tile_height", jpeg2000TileSide(image.height()))
                                              ->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));

@@ -5,6 +5,7 @@
 #include "platform/graphics/pixels.h"
 #include "platform/imageio/bytes/file_ends.h"
 #include "platform/imageio/formats/formats.h"
+#include "platform/imageio/metadata/container_blocks.h"
 
 namespace platform {
 
@@ -40,7 +41,27 @@ FileEnds plainTiffEnds(const vips::VImage &image, Resolution resolution, qint64 
 constexpr qint64 plainTiffHeadBytes = 8;
 
 QByteArray encodeGif(const vips::VImage &image);
-QByteArray encodeJpeg2000(const vips::VImage &image);
+
+/** How much of the picture may be lost. */
+struct Compression
+{
+    int quality = 85; ///< 1 to 100, as near as a JPEG of that quality; without a meaning for what is lossless
+    bool isLossless = false;
+};
+
+/** Without @p compression nothing is lost that can be seen. */
+QByteArray encodeJpeg2000(const vips::VImage &image, const std::optional<Compression> &compression = {});
+/** Without any metadata but the profile. At most longestWebpSide pixels on either side. */
+QByteArray encodeWebp(const vips::VImage &image, const Compression &compression);
+constexpr int longestWebpSide = 16383;
+/** Of 8 bits, with EXIF and XMP in it. */
+QByteArray encodeAvif(const vips::VImage &image, int quality, const ContainerBlocks &blocks);
+/** The pixels with their profile; a container around them only where they need one. */
+QByteArray encodeJpegXl(const vips::VImage &image, const Compression &compression);
+
+/** Grey as three equal colours, for files that have no grey. A profile of grey, which then would be wrong, is converted from. */
+vips::VImage withThreeColours(const vips::VImage &image);
+
 QByteArray encodeBmp(const vips::VImage &image, Resolution resolution);
 
 /** All that stands before the rows of a bitmap file, of which the last comes first, blue before green before red. */

@@ -2,6 +2,7 @@
 
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/memory_left.h"
+#include "platform/graphics/compose.h"
 #include "platform/imageio/encode/encoders.h"
 #include "platform/imageio/formats/formats.h"
 #include "platform/imageio/formats/memory_need.h"
@@ -9,12 +10,46 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace platform {
 namespace {
 
 Resolution writtenResolution(const Bitmap &bitmap, const EncodeOptions &options)
 {
     return options.resolution == WriteResolution::Yes ? bitmap.pixels().resolution : Resolution();
+}
+
+std::optional<double> jpegQuality(const EncodeOptions &options)
+{
+    constexpr double best = 100;
+    return options.quality ? *options.quality / best : options.lossyQuality;
+}
+
+QByteArray jpeg2000Of(const vips::VImage &image, const EncodeOptions &options)
+{
+    const bool isAsked = options.quality || options.isLossless;
+    const Compression compression{options.quality.value_or(Compression().quality), options.isLossless};
+    return encodeJpeg2000(image, isAsked ? std::optional(compression) : std::nullopt);
+}
+
+/** The picture on the colour that is asked for, where the format has no transparency. */
+Result<Bitmap> onMatte(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
+{
+    const bool isNeeded = options.matte && bitmap.hasAlpha() && !formatOf(format).keeps.alpha;
+    return isNeeded ? laidOn(bitmap, *options.matte) : Result<Bitmap>(bitmap);
+}
+
+/** What keeps the picture from being written in this format, whatever memory there is. */
+Result<void> fits(const Bitmap &bitmap, FileFormat format)
+{
+    const int longest = std::max(bitmap.width(), bitmap.height());
+    if (format != FileFormat::Webp || longest <= longestWebpSide)
+        return {};
+    return failure(ErrorCode::TooLarge,
+                   QCoreApplication::translate("platform", "A WebP file holds at most %1 pixels on a side, not %2")
+                       .arg(longestWebpSide)
+                       .arg(longest));
 }
 
 Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
@@ -25,6 +60,7 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
         keeps.profile = !profile.isEmpty() && holdsProfile(format, profile) ? Kept::Yes : Kept::No;
     const vips::VImage image = preparedFor(keeps, bitmap.pixels().image);
     const Resolution resolution = writtenResolution(bitmap, options);
+    const Compression compression{options.quality.value_or(Compression().quality), options.isLossless};
     switch (format) {
     case FileFormat::Png:
         return encodePng(image, resolution);
@@ -35,9 +71,16 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
     case FileFormat::Gif:
         return encodeGif(image);
     case FileFormat::Jpeg:
-        return encodeJpeg(image.copy_memory(), {options.lossyQuality, bitmap.pixels().quantisation, resolution});
+        return encodeJpeg(image.copy_memory(), {jpegQuality(options), bitmap.pixels().quantisation, resolution});
     case FileFormat::Jpeg2000:
-        return keeps.profile == Kept::Yes ? withJpeg2000Profile(encodeJpeg2000(image), profile) : encodeJpeg2000(image);
+        return keeps.profile == Kept::Yes ? withJpeg2000Profile(jpeg2000Of(image, options), profile)
+                                          : jpeg2000Of(image, options);
+    case FileFormat::Webp:
+        return encodeWebp(image, compression);
+    case FileFormat::Avif:
+        return encodeAvif(image, compression.quality, {});
+    case FileFormat::JpegXl:
+        return encodeJpegXl(image, compression);
     }
     return failure(ErrorCode::Unsupported, QString());
 }
@@ -62,11 +105,17 @@ Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const En
                        QCoreApplication::translate("platform", "There is no picture to write"));
     try {
         initVips();
-        const auto left = memoryIsLeftFor(memoryNeedOfWriting(format, bitmap.pixels().image),
-                                          QCoreApplication::translate("platform", "Writing the picture"));
+        if (const auto fitting = fits(bitmap, format); !fitting)
+            return tl::unexpected<Error>(fitting.error());
+        const auto left = memoryIsLeftFor(
+            memoryNeedOfWriting(format, bitmap.pixels().image, options.isLossless ? Loss::None : Loss::Some),
+            QCoreApplication::translate("platform", "Writing the picture"));
         if (!left)
             return tl::unexpected<Error>(left.error());
-        const Result<QByteArray> encoded = encodePixels(bitmap, format, options);
+        const Result<Bitmap> opaque = onMatte(bitmap, format, options);
+        if (!opaque)
+            return tl::unexpected<Error>(opaque.error());
+        const Result<QByteArray> encoded = encodePixels(*opaque, format, options);
         if (!encoded || options.metadata.isEmpty() || !holdsMetadata(format))
             return encoded;
         return options.metadata.writtenInto(*encoded);

@@ -4,6 +4,8 @@
 #include "platform/imageio/formats/file_format.h"
 #include "platform/imageio/metadata/metadata.h"
 
+#include <QColor>
+
 #include <optional>
 
 namespace platform {
@@ -17,21 +19,31 @@ enum class WriteResolution { No, Yes };
 struct EncodeOptions
 {
     /** JPEG only, 0.01 to 1. Without it a picture from a JPEG keeps its own quantisation and others get 0.92. */
-    std::optional<double> lossyQuality;
+    std::optional<double> lossyQuality = {};
+    /**
+     * 1 to 100, as JPEG has it, for JPEG (in place of lossyQuality), WebP, AVIF, JPEG XL and JPEG 2000; others pass it over. The
+     * same number comes about as near to the picture in all of them. Without it WebP, AVIF and JPEG XL get 85, and JPEG 2000 what
+     * cannot be seen.
+     */
+    std::optional<int> quality = {};
+    /** In WebP, JPEG XL and JPEG 2000, in place of quality; others pass it over. */
+    bool isLossless = false;
+    /** What lies under transparent parts where the format has none, in sRGB and taken as opaque; black without it. */
+    std::optional<QColor> matte = {};
     WriteResolution resolution = WriteResolution::No;
     /** Carried into JPEG and TIFF; other formats leave it. A resolution that it states is written with it. */
-    Metadata metadata;
+    Metadata metadata = {};
 };
 
 /**
  * One bitmap as the bytes of a file.
  *
  * Colour: the profile stays with the picture in every format that can hold one; otherwise, and for CMYK and Lab in
- * formats without them, the pixels are converted to sRGB. Depth: 16 bits stay in PNG, TIFF and JPEG 2000. Alpha is laid
- * on black in JPEG and BMP.
+ * formats without them, the pixels are converted to sRGB. Depth: 16 bits stay in PNG, TIFF, JPEG 2000 and JPEG XL. Alpha is
+ * laid on black, or on a colour that is asked for, in JPEG and BMP. Grey becomes three equal colours in WebP and AVIF.
  *
  * Fails with WriteFailed if the encoder fails, with InvalidValue for a null bitmap, and with TooLarge where it needs more memory
- * than is left, before anything is encoded.
+ * than is left, or has more pixels on a side than the format can say, before anything is encoded.
  */
 Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options = {});
 

@@ -8,7 +8,7 @@ class QIODevice;
 namespace platform {
 
 /** What a file is by its first bytes. */
-enum class Content { Unknown, Jpeg, Png, Tiff, Gif, Bmp, Webp, Heif, Avif, Jpeg2000, Photoshop, Pdf, Svg };
+enum class Content { Unknown, Jpeg, Png, Tiff, Gif, Bmp, Webp, Heif, Avif, Jpeg2000, JpegXl, Photoshop, Pdf, Svg };
 
 /** Enough of a file's beginning to tell what it is. */
 constexpr int contentHeadBytes = 4096;

@@ -7,9 +7,15 @@
 namespace platform {
 
 /** The formats that can be written. */
-enum class FileFormat { Png, Tiff, Bmp, Gif, Jpeg, Jpeg2000 };
+enum class FileFormat { Png, Tiff, Bmp, Gif, Jpeg, Jpeg2000, Webp, Avif, JpegXl };
 
-/** The format of a type identifier such as "public.png"; none where it cannot be written. */
+/**
+ * The format of a type identifier such as "public.png"; none where it cannot be written, or only by those who ask for it with
+ * writableFormatForType().
+ */
 std::optional<FileFormat> fileFormatForType(const QString &typeIdentifier);
+
+/** The same for all formats that can be written, WebP, AVIF and JPEG XL among them. */
+std::optional<FileFormat> writableFormatForType(const QString &typeIdentifier);
 
 } // namespace platform

@@ -109,6 +109,11 @@ bool isJpeg2000(const QByteArray &head)
     return head.startsWith(QByteArray("\0\0\0\x0CjP  ", 8)) || head.startsWith("\xFF\x4F\xFF\x51");
 }
 
+bool isJpegXl(const QByteArray &head)
+{
+    return head.startsWith("\xFF\x0A") || head.startsWith(QByteArray("\0\0\0\x0CJXL \x0D\x0A\x87\x0A", 12));
+}
+
 bool isPhotoshop(const QByteArray &head)
 {
     return head.startsWith("8BPS");
@@ -120,7 +125,7 @@ bool isPdf(const QByteArray &head)
     return head.left(furthest).contains("%PDF-");
 }
 
-constexpr std::array<Format, 13> table = {{
+constexpr std::array<Format, 14> table = {{
     {.content = Content::Jpeg,
      .identifier = latin1("public.jpeg"),
      .extensions = latin1("jpg jpeg jpe"),
@@ -174,8 +179,17 @@ constexpr std::array<Format, 13> table = {{
     {.content = Content::Webp,
      .identifier = latin1("org.webmproject.webp"),
      .extensions = latin1("webp"),
-     .begins = isWebp},
-    {.content = Content::Avif, .identifier = latin1("public.avif"), .extensions = latin1("avif"), .begins = isAvif},
+     .begins = isWebp,
+     .written = FileFormat::Webp,
+     .isWrittenOnRequest = true,
+     .keeps = {.profile = Kept::Yes, .alpha = true, .exif = true, .xmp = true, .quality = true}},
+    {.content = Content::Avif,
+     .identifier = latin1("public.avif"),
+     .extensions = latin1("avif"),
+     .begins = isAvif,
+     .written = FileFormat::Avif,
+     .isWrittenOnRequest = true,
+     .keeps = {.profile = Kept::Yes, .alpha = true, .exif = true, .xmp = true, .quality = true}},
     {.content = Content::Heif, .identifier = latin1("public.heic"), .extensions = latin1("heic"), .begins = isHeif},
     {.content = Content::Heif, .identifier = latin1("public.heif"), .extensions = latin1("heif")},
     {.content = Content::Jpeg2000,
@@ -184,6 +198,13 @@ constexpr std::array<Format, 13> table = {{
      .begins = isJpeg2000,
      .written = FileFormat::Jpeg2000,
      .keeps = {.profile = Kept::IfItFits, .alpha = true, .depth16 = true}},
+    {.content = Content::JpegXl,
+     .identifier = latin1("public.jpeg-xl"),
+     .extensions = latin1("jxl"),
+     .begins = isJpegXl,
+     .written = FileFormat::JpegXl,
+     .isWrittenOnRequest = true,
+     .keeps = {.profile = Kept::Yes, .alpha = true, .depth16 = true, .exif = true, .xmp = true, .quality = true}},
     {.content = Content::Photoshop,
      .identifier = latin1("com.adobe.photoshop-image"),
      .extensions = latin1("psd"),
@@ -233,6 +254,12 @@ const Format *formatNamed(const QString &typeIdentifier)
 }
 
 std::optional<FileFormat> fileFormatForType(const QString &typeIdentifier)
+{
+    const Format *format = formatNamed(typeIdentifier);
+    return format && !format->isWrittenOnRequest ? format->written : std::nullopt;
+}
+
+std::optional<FileFormat> writableFormatForType(const QString &typeIdentifier)
 {
     const Format *format = formatNamed(typeIdentifier);
     return format ? format->written : std::nullopt;

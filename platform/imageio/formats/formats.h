@@ -34,6 +34,7 @@ struct Format
     QLatin1String extensions; ///< in small letters, parted by blanks; new files get the first one
     bool (*begins)(const QByteArray &head) = nullptr; ///< null for another name of the row above
     std::optional<FileFormat> written = {};           ///< none for those that are only read, and for pages
+    bool isWrittenOnRequest = false;                  ///< passed over by fileFormatForType()
     Keeping keeps = {};                               ///< of those that are written, and of pages
 };
 

@@ -28,6 +28,8 @@ Cost costOfDecoding(Content content, int bands)
         return {.aPixel = 6, .aByte = 1};
     case Content::Jpeg2000: // every sample as a number of four bytes, and all pixels once more
         return {.aPixel = 4.0 * bands, .aByte = 1.25};
+    case Content::JpegXl: // in floating point, some of it twice
+        return {.aPixel = 16.0 * bands};
     case Content::Photoshop:
         return {.aByte = 0.5};
     case Content::Pdf:
@@ -42,8 +44,16 @@ Cost costOfDecoding(Content content, int bands)
     return {};
 }
 
+Cost costOfJpegXl(int bands, Loss loss)
+{
+    const bool hasAlpha = bands % 2 == 0;
+    if (loss == Loss::None)
+        return {.aPixel = std::max(45.0, 25.0 * bands)};
+    return {.aPixel = hasAlpha ? 72.0 : 48.0};
+}
+
 /** What an encoder and the file that it makes take beside the pixels that it is given. */
-Cost costOfWriting(FileFormat format)
+Cost costOfWriting(FileFormat format, int bands, Loss loss)
 {
     switch (format) {
     case FileFormat::Png: // the filtered rows, what becomes of them at the worst, and the file
@@ -56,6 +66,12 @@ Cost costOfWriting(FileFormat format)
         return {.aPixel = 3, .aByte = 0.25};
     case FileFormat::Jpeg2000:
         return {.aPixel = 2, .aByte = 1.2};
+    case FileFormat::Webp:
+        return {.aPixel = loss == Loss::None ? 33.0 : 14.0};
+    case FileFormat::Avif: // with colours at full resolution; two thirds of it otherwise
+        return {.aPixel = 35};
+    case FileFormat::JpegXl: // in floating point
+        return costOfJpegXl(bands, loss);
     case FileFormat::Gif: // a copy with transparency and an index for each pixel, twice
         return {.aPixel = 15};
     }
@@ -84,7 +100,7 @@ qint64 memoryNeed(const DecodingFacts &facts, const Outcome &outcome)
     else if (facts.comesInPasses)
         decoding.aByte += 1;
     const qint64 ofDecoding = bytesFor(decoding, facts.decoded, pixelBytes);
-    const Cost writing = outcome.written ? costOfWriting(*outcome.written) : Cost{};
+    const Cost writing = outcome.written ? costOfWriting(*outcome.written, facts.bands, Loss::Some) : Cost{};
     const qint64 ofWriting = bytesFor(writing, outcome.made, pixelBytes);
     const qint64 pixels = bytesFor({.aByte = outcome.isTurned ? 2.0 : 1.0}, outcome.made, pixelBytes);
     // What the decoder has given back is in pieces, and not all of it can be used again.
@@ -97,9 +113,9 @@ qint64 addressesOfThreads(Content content)
     return content == Content::Heif || content == Content::Avif ? forEight : 0;
 }
 
-qint64 memoryNeedOfWriting(FileFormat format, const vips::VImage &image)
+qint64 memoryNeedOfWriting(FileFormat format, const vips::VImage &image, Loss loss)
 {
-    return bytesFor(costOfWriting(format), image);
+    return bytesFor(costOfWriting(format, image.bands(), loss), image);
 }
 
 qint64 memoryNeedOfPage(const vips::VImage &image)

@@ -36,8 +36,11 @@ qint64 addressesOfThreads(Content content);
 /** The bytes that all of it takes at its peak, the writing included. */
 qint64 memoryNeed(const DecodingFacts &facts, const Outcome &outcome);
 
+/** Whether an encoder of a type that can do either loses some of the picture. */
+enum class Loss { Some, None };
+
 /** The bytes that writing takes beside the pixels, which are in memory. */
-qint64 memoryNeedOfWriting(FileFormat format, const vips::VImage &image);
+qint64 memoryNeedOfWriting(FileFormat format, const vips::VImage &image, Loss loss = Loss::Some);
 
 /** The same for a page, which holds the pixels as a PNG does and is put together in two steps. */
 qint64 memoryNeedOfPage(const vips::VImage &image);

@@ -197,6 +197,8 @@ VImage openImage(const PictureBytes &source, Content content, const LoadOptions 
         return loadHeif(source, options);
     case Content::Jpeg2000:
         return loadJpeg2000(source);
+    case Content::JpegXl:
+        return withOwnProfile(VImage::jxlload_source(sourceOf(source), commonOptions()));
     case Content::Photoshop:
         return photoshopPixels(*source.openedDevice());
     case Content::Pdf:

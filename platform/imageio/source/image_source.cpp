@@ -56,6 +56,7 @@ int statedOrientation(const VImage &image, const PictureBytes &bytes, Content co
     switch (content) {
     case Content::Heif:
     case Content::Avif:
+    case Content::JpegXl:
     case Content::Pdf:
     case Content::Svg:
     case Content::Gif:

@@ -157,6 +157,7 @@ bool isWhole(QIODevice &file, Content content)
     case Content::Heif:
     case Content::Avif:
         return isWholeIsoMedia(file);
+    case Content::JpegXl: // its decoder tells
     case Content::Pdf:
     case Content::Svg:
     case Content::Unknown:

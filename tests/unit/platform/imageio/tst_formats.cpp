@@ -68,8 +68,9 @@ private Q_SLOTS:
 
     void hasARowForEveryFormatThatIsWritten()
     {
-        const QList<FileFormat> all = {FileFormat::Png, FileFormat::Tiff, FileFormat::Bmp,
-                                       FileFormat::Gif, FileFormat::Jpeg, FileFormat::Jpeg2000};
+        const QList<FileFormat> all = {FileFormat::Png,  FileFormat::Tiff, FileFormat::Bmp,
+                                       FileFormat::Gif,  FileFormat::Jpeg, FileFormat::Jpeg2000,
+                                       FileFormat::Webp, FileFormat::Avif, FileFormat::JpegXl};
         for (const FileFormat format : all)
             QVERIFY(formatOf(format).written == format);
     }

@@ -1,0 +1,65 @@
+#include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/encode/quality_scale.h"
+#include "platform/imageio/parts/webp_chunks.h"
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+using vips::VOption;
+
+QByteArray bytesOf(VipsBlob *blob)
+{
+    size_t length = 0;
+    const void *data = vips_blob_get(blob, &length);
+    QByteArray bytes(static_cast<const char *>(data), qsizetype(length));
+    vips_area_unref(VIPS_AREA(blob));
+    return bytes;
+}
+
+} // namespace
+
+VImage withThreeColours(const VImage &image)
+{
+    constexpr int rgb = 3;
+    if (image.bands() >= rgb)
+        return image;
+    const VImage coloured = image.get_typeof(VIPS_META_ICC_NAME) != 0 ? convertedToSrgb(image) : image;
+    if (coloured.bands() >= rgb)
+        return coloured;
+    const VImage grey = coloured.extract_band(0);
+    std::vector<VImage> bands = {grey, grey, grey};
+    if (coloured.bands() == 2)
+        bands.push_back(coloured.extract_band(1));
+    return VImage::bandjoin(bands).copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
+}
+
+QByteArray encodeWebp(const VImage &image, const Compression &compression)
+{
+    constexpr int effort = 4;
+    // Of lossless files the next one takes three times as long for a seventh less.
+    constexpr int effortWithoutLoss = 1;
+    const QByteArray file = bytesOf(withThreeColours(image).webpsave_buffer(
+        VImage::option()
+            ->set("Q", compression.quality)
+            ->set("lossless", compression.isLossless)
+            ->set("effort", compression.isLossless ? effortWithoutLoss : effort)));
+    // The library has put an EXIF block of its own making into it.
+    const auto chunks = webpChunksOf(file);
+    return chunks ? webpWithMetadata(*chunks, {}, {}) : file;
+}
+
+QByteArray encodeJpegXl(const VImage &image, const Compression &compression)
+{
+    // Above 6 the encoder takes twice the memory; below 5 what it makes is larger and further from the picture.
+    constexpr int effort = 5;
+    constexpr int effortWithoutLoss = 3;
+    VOption *options = VImage::option()->set("effort", compression.isLossless ? effortWithoutLoss : effort);
+    if (compression.isLossless)
+        options->set("lossless", true);
+    else
+        options->set("distance", jpegXlDistance(compression.quality));
+    return bytesOf(image.jxlsave_buffer(options));
+}
+
+} // namespace platform
