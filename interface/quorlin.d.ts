@@ -1091,6 +1091,8 @@ declare module "quorlin/moves" {
 
 /** What a script of windows cannot do by itself: windows, timers, jobs, dialogs, the desktop. */
 declare module "quorlin/shell" {
+    import { Picture } from "quorlin";
+
     interface Question {
         title: string;
         text: string;
@@ -1119,11 +1121,11 @@ declare module "quorlin/shell" {
         /** Gives the fields of the forms one left edge. */
         alignFields(forms: Form[]): null;
         /** Covers the window while files are dragged over it. */
-        dropTarget(form: Form | null): Control | null;
+        dropTarget(form: Form | null): DropTarget | null;
         /** A picture view that covers the window; hidden at first. */
-        largePreview(form: Form | null): Control | null;
+        largePreview(form: Form | null): ComparePreview | null;
         /** Lays a widget over all of its window and gives it the focus. */
-        cover(widget: Control | null): null;
+        cover(widget: Widget | null): null;
         /** The window as the services know it that open sheets. */
         sheetHost(form: Form | null): SheetHost | null;
         timer(handler: Function | null): ScriptTimer | null;
@@ -1155,7 +1157,7 @@ declare module "quorlin/shell" {
         /** The user closes the window, and nothing has kept it open. */
         readonly closing: Signal<() => any>;
         /** The control, action or menu of that name. */
-        control(name: text): Control | null;
+        control(name: text): AnyControl | null;
         names(): string[];
         /** Puts another form into the layout of a container. */
         place(name: text, other: Form | null): null;
@@ -1222,6 +1224,483 @@ declare module "quorlin/shell" {
         /** The dialog that is open on it, or null. */
         sheet: Control | null;
     }
+
+    /** What every control has that is on the screen. */
+    export interface Widget {
+        visible: boolean;
+        enabled: boolean;
+        readonly focus: boolean;
+        toolTip: string;
+        accessibleName: string;
+        accessibleDescription: string;
+        setFocus(): null;
+    }
+
+    /** An entry of a menu, or a key. */
+    export interface Action {
+        text: string;
+        enabled: boolean;
+        visible: boolean;
+        checkable: boolean;
+        checked: boolean;
+        toolTip: string;
+        /** A person chose it. */
+        readonly triggered: Signal<() => any>;
+        readonly toggled: Signal<(value: boolean) => any>;
+        trigger(): null;
+    }
+
+    /** A push button or check box. */
+    export interface Button extends Widget {
+        text: string;
+        checkable: boolean;
+        checked: boolean;
+        /** A person pressed it. */
+        readonly clicked: Signal<() => any>;
+        readonly toggled: Signal<(checked: boolean) => any>;
+        click(): null;
+    }
+
+    /** A text; some end in an ellipsis where there is no room. */
+    export interface Label extends Widget {
+        text: string;
+    }
+
+    /** A field for one line. */
+    export interface LineEdit extends Widget {
+        text: string;
+        cursorPosition: whole;
+        placeholderText: string;
+        readOnly: boolean;
+        readonly textChanged: Signal<(value: text) => any>;
+        /** A person changed the text. */
+        readonly textEdited: Signal<(value: text) => any>;
+        /** From the first to the second. */
+        readonly cursorPositionChanged: Signal<(value1: whole, value2: whole) => any>;
+        readonly returnPressed: Signal<() => any>;
+        selectAll(): null;
+    }
+
+    /** A field for several lines. */
+    export interface TextEdit extends Widget {
+        plainText: string;
+        placeholderText: string;
+        readOnly: boolean;
+        readonly textChanged: Signal<() => any>;
+        insertPlainText(text: text): null;
+        selectAll(): null;
+    }
+
+    /** A list to choose one entry from; Form.setItems fills it, Form.value says what is chosen. */
+    export interface ComboBox extends Widget {
+        readonly count: whole;
+        currentIndex: whole;
+        /** A person chose an entry. */
+        readonly activated: Signal<(index: whole) => any>;
+    }
+
+    /** A field for whole numbers, kept within minimum and maximum. */
+    export interface SpinBox extends Widget {
+        value: whole;
+        minimum: whole;
+        maximum: whole;
+        suffix: string;
+        readonly valueChanged: Signal<(value: whole) => any>;
+    }
+
+    /** A field for numbers, kept within minimum and maximum, that leaves alone what is being typed. */
+    export interface NumberBox extends Widget {
+        value: double;
+        minimum: double;
+        maximum: double;
+        decimals: whole;
+        suffix: string;
+        readonly valueChanged: Signal<(value: double) => any>;
+    }
+
+    /** How far something is. */
+    export interface ProgressBar extends Widget {
+        value: whole;
+        minimum: whole;
+        maximum: whole;
+    }
+
+    /** Pages of which one is shown; an index outside of them is passed over. */
+    export interface Stack extends Widget {
+        readonly count: whole;
+        currentIndex: whole;
+    }
+
+    /** A dial for an angle in degrees, -180 to 180 in tenths; counter-clockwise is positive, 0 points up. Any angle is brought into it. */
+    export interface AngleDial extends Widget {
+        value: double;
+        readonly valueChanged: Signal<(degrees: double) => any>;
+        /** A person turned it. */
+        readonly turned: Signal<(degrees: double) => any>;
+    }
+
+    /** The place by which a card is dragged to another place. */
+    export interface CardHandle extends Widget {
+        /** So many pixels below the place where it was pressed. */
+        readonly dragged: Signal<(by: whole) => any>;
+        readonly released: Signal<() => any>;
+        /** One place up (-1) or down (1), by the arrow keys. */
+        readonly stepped: Signal<(by: whole) => any>;
+    }
+
+    /** A line of text in which some parts stand in a frame. */
+    export interface ChipLabel extends Widget {
+        /** For each text, whether it stands in a frame. */
+        setParts(texts: texts, chips: list): null;
+    }
+
+    /** A button that shows a colour, "#rrggbb", and opens a chooser; a text that is no colour is passed over. */
+    export interface ColorWell extends Button {
+        color: string;
+        readonly colorChanged: Signal<(color: text) => any>;
+        /** A person chose the colour. */
+        readonly chosen: Signal<(color: text) => any>;
+    }
+
+    interface PreviewResult {
+        /** What is done to the picture: {do: "cut" | "scale" | "flip" | "turn" | "round" | "lay" | "pattern" | "frame" | "flatten", ...}. */
+        deeds: any[];
+        /** Pixels of the result. */
+        width: whole;
+        height: whole;
+        /** The type identifier, and the quality code or "". */
+        type?: string;
+        quality?: string;
+        /** Shown instead where width is 0. */
+        message?: string;
+        /** Not looked at. */
+        bytes?: double;
+    }
+
+    /** The current picture and, beside it, what the settings make of it. */
+    export interface ComparePreview extends Widget {
+        fill: boolean;
+        showsResult: boolean;
+        /** Shown in the place of a picture that is not there; empty for the usual sentence. */
+        problem: string;
+        /** The size that the file of the result will have; -1 while it is not known. */
+        readonly estimatedBytes: double;
+        readonly stepRequested: Signal<(rows: whole) => any>;
+        readonly largePreviewRequested: Signal<() => any>;
+        readonly closeRequested: Signal<() => any>;
+        readonly pictureShown: Signal<() => any>;
+        readonly resultShown: Signal<() => any>;
+        /** How large the file of the result will be, a while after the last change. */
+        readonly resultEstimated: Signal<(bytes: double) => any>;
+        /** The user moved or sized the frame. */
+        readonly cropFrameEdited: Signal<(x: whole, y: whole, width: whole, height: whole) => any>;
+        /** Nothing where the path is empty. */
+        showPicture(path: text): null;
+        /** Pictures that will probably be shown next, the likeliest first. */
+        prepare(paths: texts): null;
+        /** Reads the file again. */
+        reload(): null;
+        showResult(result: PreviewResult): null;
+        setTitles(original: text, result: text): null;
+        setCaptions(original: text, result: text): null;
+        /** A second line under the result: what it will not hold. */
+        setNotes(notes: text): null;
+        /** A frame that can be moved and sized, in pixels of the upright original; ratio 0 is free. Null takes it away. */
+        setCropFrame(frame: { x: double; y: double; width: double; height: double; ratio?: double }): null;
+        /** Drawn over the original where there is a crop frame. */
+        setOverlay(picture: Picture | null): null;
+    }
+
+    /** Covers the window while files are dragged over it, and takes the drop. */
+    export interface DropTarget extends Widget {
+        /** Closed, drops are refused. */
+        open: boolean;
+        /** Local paths, in the order given. */
+        readonly dropped: Signal<(paths: texts) => any>;
+        setMessage(message: text): null;
+    }
+
+    interface FolderRow {
+        path: string;
+        name: string;
+        /** The path of the folder above, "" for one at the top. */
+        above?: string;
+        /** Of the files in it. */
+        count?: whole;
+        /** Of those and of the files below. */
+        total: whole;
+        isNew: boolean;
+    }
+
+    /** Folders with counts of files, as they will be after a run. */
+    export interface FolderTree extends Widget {
+        /** The path of the chosen folder; empty where none is. */
+        chosenFolder: string;
+        readonly folderChosen: Signal<(path: text) => any>;
+        /** Each behind the one above it. */
+        setFolders(folders: FolderRow[]): null;
+        /** The same in parts: what was shown stays until showFolders(). */
+        beginFolders(): null;
+        addFolders(folders: FolderRow[]): null;
+        showFolders(): null;
+        /** In the order shown, closed ones included. */
+        folders(): FolderRow[];
+    }
+
+    interface LogEntry {
+        /** ISO, UTC; or empty. */
+        date: string;
+        process: string;
+        action: string;
+        status: string;
+        reason: string;
+        input: string;
+        output: string;
+        inputPath: string;
+        outputPath: string;
+        bytes: double;
+        run: string;
+        before: string;
+        after: string;
+    }
+
+    /** An edit that can be reverted. */
+    interface LogEdit {
+        path: string;
+        before: string;
+        after: string;
+        run: string;
+    }
+
+    /** The chosen run. */
+    interface LogRun {
+        count: whole;
+        problems: whole;
+        process: string;
+        /** With what it took back. */
+        title: string;
+        /** Whether its entries are edits of comments, and how many of them can be reverted. */
+        areEdits: boolean;
+        edits: whole;
+        /** How many entries were taken back since. */
+        undone: whole;
+    }
+
+    /** The table of a log: searched, filtered, sorted by column, its rows copied. */
+    export interface LogTable extends Widget {
+        readonly shownCount: whole;
+        readonly totalCount: whole;
+        readonly chosenCount: whole;
+        /** Of the chosen entries, those that are edits which can be reverted. */
+        readonly chosenEditCount: whole;
+        /** Whether old and new comments are shown in place of results. */
+        comments: boolean;
+        /** How many entries are shown, in the reader's own form. */
+        readonly shownText: string;
+        readonly reading: boolean;
+        /** The arrangement of the columns, as a text to be kept. */
+        columns: string;
+        /** Something else is shown or chosen. */
+        readonly changed: Signal<() => any>;
+        readonly openRequested: Signal<() => any>;
+        /** How each status word is shown. */
+        setTexts(headings: texts, shown: dictionary): null;
+        /** Reads the log file, or what was added to it, from the event loop. */
+        follow(path: text): null;
+        /** Shows the entries in which every word occurs. */
+        look(text: text, status: text, editsOnly: boolean): null;
+        /** By its number; -1 shows all. */
+        showRun(number: whole): null;
+        chosen(): LogEntry | null;
+        entries(first: whole, count: whole): LogEntry[];
+        /** The newest first. */
+        chosenEdits(): LogEdit[];
+        /** How many rows. */
+        copyChosen(): whole;
+        selectRow(row: whole): null;
+    }
+
+    /** Shows the pages of a manual; a page is named as its file is, without ".md". */
+    export interface ManualView extends Widget {
+        readonly page: string;
+        readonly canGoBack: boolean;
+        readonly canGoForward: boolean;
+        readonly pageShown: Signal<(page: text) => any>;
+        setFolder(folder: text): null;
+        pages(): list;
+        /** And the heading with that anchor, if it is not empty. */
+        open(page: text, anchor: text): null;
+        goBack(): null;
+        goForward(): null;
+        /** False where no page has it. */
+        findNext(text: text): boolean;
+        /** As after a change of the appearance. */
+        drawAnew(): null;
+    }
+
+    /** A list of pages to choose one from. */
+    export interface PageList extends Widget {
+        /** None where there is none of that name. */
+        current: string;
+        /** A person chose a page. */
+        readonly chosen: Signal<(name: text) => any>;
+        setPages(names: texts, titles: texts): null;
+    }
+
+    /** The list of input pictures. A picture is named by its id; rows that the action does not take are in none of the counts and lists. */
+    export interface PictureTable extends Widget {
+        readonly count: whole;
+        readonly currentId: whole;
+        /** From 1; 0 where there is none. */
+        readonly currentPlace: whole;
+        problemsOnly: boolean;
+        /** While a job runs nothing is read in the background for rows that are not visible. */
+        busy: boolean;
+        readonly countChanged: Signal<(count: whole) => any>;
+        readonly orderChanged: Signal<() => any>;
+        readonly currentPictureChanged: Signal<(id: whole) => any>;
+        readonly largePreviewRequested: Signal<() => any>;
+        /** Files with one of the extensions, or any file for "*", or folders and no files. */
+        setInput(extensions: texts, folders: boolean): null;
+        /** How many rows the action does not take. */
+        hiddenCount(): whole;
+        hiddenPaths(): texts;
+        /** "thumbnail", "name", "pixels", "size", "type", "newName", "newSize" and "status"; headings by the same names. */
+        setColumns(columns: texts, headings: dictionary, stressed: boolean): null;
+        /** How many were not in the list yet. */
+        addPaths(paths: texts): whole;
+        removeSelected(): null;
+        removeIds(ids: list): null;
+        removeAll(): null;
+        /** Empty beyond the ends. */
+        pathBeside(rows: whole): string;
+        /** In the order shown. */
+        ids(): list;
+        /** In the order of ids(). */
+        paths(): texts;
+        /** The file is at another path now. */
+        setPath(id: whole, path: text): null;
+        /** Until showAll(). */
+        showOnly(ids: list): null;
+        showAll(): null;
+        selectedIds(): list;
+        selectAll(): null;
+        /** Stays at the ends. */
+        step(rows: whole): null;
+        selectId(id: whole): null;
+        /** Reads the file's header if need be; null for an unknown id. */
+        photo(id: whole): anything;
+        setPlan(id: whole, newName: text, newSize: text): null;
+        setStatus(id: whole, kind: text, text: text, detail: text): null;
+        /** As the list shows it; null for an unknown id. */
+        shown(id: whole): anything;
+        forget(id: whole): null;
+        /** Unless the user works in the list. */
+        reveal(id: whole): null;
+    }
+
+    /** Nine places, 0 to 8 row by row, of which one is chosen; another number is passed over. */
+    export interface PositionPad extends Widget {
+        selectedSegment: whole;
+        /** What the places are called, for those who do not see them. */
+        names: texts;
+        readonly selectionChanged: Signal<(place: whole) => any>;
+        /** A person made the choice. */
+        readonly chosen: Signal<(place: whole) => any>;
+    }
+
+    /** The properties of one picture, with names and values in words. */
+    export interface PropertyTree extends Widget {
+        readonly shownCount: whole;
+        /** Whether the picture tells where it was taken. */
+        readonly hasPlace: boolean;
+        /** False for what is no picture. */
+        showFile(path: text): boolean;
+        /** Shows the values in which every word occurs. */
+        look(text: text): null;
+        /** How many lines. */
+        copyChosen(): whole;
+        /** What was put on the clipboard; empty where the picture has no place. */
+        copyPlace(form: text): string;
+        /** By the names shown: ["Exif", "F-number"]. */
+        words(names: texts): string;
+    }
+
+    /** The runs of a log; choosing one shows its entries in the table. */
+    export interface RunList extends Widget {
+        /** Empty for all. */
+        readonly run: string;
+        readonly runChosen: Signal<() => any>;
+        follow(table: LogTable | null, texts: dictionary): null;
+        chosen(): LogRun | null;
+        /** Those of the chosen run. */
+        edits(): LogEdit[];
+        /** False where the log has none of that name. */
+        choose(run: text): boolean;
+        chooseAll(): null;
+    }
+
+    /** A menu that is searched by typing. */
+    export interface SearchMenu extends Widget {
+        readonly chosen: Signal<(value: anything) => any>;
+        /** Words are what an entry is also found by. */
+        setEntries(titles: texts, explanations: texts, words: texts, values: list): null;
+        setPlaceholder(text: text): null;
+        /** Under the control, or over it where there is no room. */
+        popUp(control: Widget | null): null;
+    }
+
+    /** A row of choices of which one is on; an index outside of them is passed over. */
+    export interface SegmentedControl extends Widget {
+        segments: texts;
+        /** What the tool tip says over each segment. */
+        tips: texts;
+        selectedSegment: whole;
+        readonly selectionChanged: Signal<(index: whole) => any>;
+        /** A person made the choice. */
+        readonly chosen: Signal<(index: whole) => any>;
+    }
+
+    /** The actions in groups. */
+    export interface SideBar extends Widget {
+        currentAction: string;
+        readonly actionChosen: Signal<(name: text) => any>;
+        addGroup(title: text): null;
+        /** The name is what actionChosen says. */
+        addEntry(name: text, title: text, iconName: text): null;
+        /** An entry that is off cannot be chosen. */
+        setEntryEnabled(name: text, enabled: boolean): null;
+    }
+
+    /** Folders as slots with keys. */
+    export interface SlotList extends Widget {
+        /** Whether its keys work. */
+        active: boolean;
+        readonly count: whole;
+        /** The row that the menu and the keyboard work on; -1 where there is none. */
+        readonly currentRow: whole;
+        readonly slotChosen: Signal<(row: whole) => any>;
+        readonly labelEdited: Signal<(row: whole, label: text) => any>;
+        /** A slot was dragged so that it should stand at `to`. */
+        readonly slotMoved: Signal<(from: whole, to: whole) => any>;
+        readonly foldersDropped: Signal<(paths: texts) => any>;
+        readonly menuChosen: Signal<(row: whole, word: text) => any>;
+        readonly currentSlotChanged: Signal<(row: whole) => any>;
+        setSlots(slots: { key: string; label: string; note: string; problem: string; count: whole }[]): null;
+        /** "-" is a separator. */
+        setMenu(texts: texts, words: texts): null;
+        editLabel(row: whole): null;
+        /** For a moment, because something went there. */
+        light(row: whole): null;
+        reveal(row: whole): null;
+        choose(row: whole): null;
+    }
+
+    /** A control by its name: which members it has says its kind. */
+    type AnyControl = Widget & Action & Button & Label & LineEdit & TextEdit & ComboBox & SpinBox & NumberBox &
+        ProgressBar & Stack & AngleDial & CardHandle & ChipLabel & ColorWell & ComparePreview & DropTarget &
+        FolderTree & LogTable & ManualView & PageList & PictureTable & PositionPad & PropertyTree & RunList &
+        SearchMenu & SegmentedControl & SideBar & SlotList;
 }
 
 /** What windows ask about the program itself, and printing. */

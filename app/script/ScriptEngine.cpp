@@ -66,6 +66,10 @@ ScriptEngine::ScriptEngine(std::vector<ServiceEntry> services, QObject *parent)
     connect(m_engine.get(), &QQmlEngine::warnings, this, &ScriptEngine::reportWarnings);
     boundListTexts(*m_engine);
     m_seam = std::make_unique<Seam>(*m_engine, std::move(services));
+    m_seam->callHandler = [this](const QJSValue &function, const QJSValueList &values) {
+        if (const auto called = call(function, values); !called)
+            reportUncaught(called.error().message);
+    };
     registerOwnModules();
 }
 

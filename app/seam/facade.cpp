@@ -64,7 +64,7 @@ const char *const source = R"js((function (seam) {
         };
     }
 
-    // What is connected is kept by the engine as long as the object lives; the function gets values as operations answer them.
+    // What is connected is kept by the seam as long as the object lives; the function gets values as operations answer them.
     function signal(id) {
         return {
             get() {
@@ -73,10 +73,6 @@ const char *const source = R"js((function (seam) {
             },
             enumerable: true
         };
-    }
-
-    function handler(received, call) {
-        return (...values) => { call(...values.map(received)); };
     }
 
     function wrap(prototype, fields, native) {
@@ -133,7 +129,7 @@ const char *const source = R"js((function (seam) {
         Object.defineProperty(error, "name", { value: name, writable: true, configurable: true });
     }
 
-    return { define, nativeOf, setName, attach, facadeIn, handler, ITSELF };
+    return { define, nativeOf, setName, attach, facadeIn, ITSELF };
 }))js";
 
 } // namespace

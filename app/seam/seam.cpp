@@ -1,6 +1,7 @@
 #include "app/seam/seam.h"
 
 #include "app/seam/facade.h"
+#include "app/seam/signal_handler.h"
 
 #include "platform/foundation/raised.h"
 #include "platform/imageio/source/picture.h"
@@ -9,6 +10,8 @@
 #include <QPointer>
 #include <QQmlEngine>
 #include <QVarLengthArray>
+
+#include <cmath>
 
 namespace script {
 namespace {
@@ -75,6 +78,19 @@ Values::NullText nullTextOf(const ServiceClass &service)
     return service.entry.answersNullTexts ? Values::NullText::Null : Values::NullText::Empty;
 }
 
+/** What is of no registered class: to be handed on only. */
+ServiceEntry anyObject()
+{
+    ServiceEntry entry;
+    entry.name = "Control";
+    entry.meta = &QObject::staticMetaObject;
+    entry.module = "none";
+    entry.isControl = true;
+    entry.isMadeByScripts = false;
+    entry.hasOneFacade = true;
+    return entry;
+}
+
 /** Said before the engine sees an object: what nobody has spoken for it takes, and deletes. */
 void keepFromEngine(QObject *object)
 {
@@ -87,10 +103,8 @@ Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engi
 {
     engine.setProperty(propertyOfEngine, QVariant::fromValue<QObject *>(this));
     m_values.objectOf = [this](const QJSValue &value) { return objectOf(value); };
-    m_values.isControl = [this](const QObject &object) {
-        const ServiceClass *service = classOf(&object);
-        return !service || service->entry.isControl;
-    };
+    m_values.isControl = [this](const QObject &object) { return classOf(*object.metaObject()).entry.isControl; };
+    m_values.wordOf = [this](const QMetaObject &meta) { return nameOf(classOf(meta)); };
     m_values.facadeOf = [this](QObject *object) { return facadeOf(object, Owner::Application); };
     m_values.facadeOfNew = [this](QObject *object) { return facadeOf(object, Owner::Scripts); };
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
@@ -104,8 +118,8 @@ Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engi
     m_attach = facades.property(QStringLiteral("attach"));
     m_facadeIn = facades.property(QStringLiteral("facadeIn"));
     m_itself = facades.property(QStringLiteral("ITSELF"));
-    m_handler = facades.property(QStringLiteral("handler"));
-    m_received = own.property(QStringLiteral("received"));
+    callHandler = [](const QJSValue &function, const QJSValueList &values) { function.call(values); };
+    add(anyObject());
     for (ServiceEntry &entry : entries)
         add(std::move(entry));
 }
@@ -188,7 +202,8 @@ QJSValue Seam::exportsOf(const QByteArray &module)
     QJSValue exports = m_engine.newObject();
     for (size_t id = 0; id < m_classes.size(); ++id) {
         const ServiceEntry &entry = m_classes[id]->entry;
-        if (entry.module == module)
+        // What a window has is made by nobody, and found by its name.
+        if (entry.module == module && !entry.hasOneFacade)
             exports.setProperty(nameOf(*m_classes[id]), entry.isOneObject
                                                             ? facadeOf(entry.object, Owner::Application)
                                                             : m_definitions[id].property(QStringLiteral("make")));
@@ -196,12 +211,12 @@ QJSValue Seam::exportsOf(const QByteArray &module)
     return exports;
 }
 
-const ServiceClass *Seam::classOf(const QObject *object) const
+const ServiceClass &Seam::classOf(const QMetaObject &ofObject) const
 {
-    for (const QMetaObject *meta = object->metaObject(); meta; meta = meta->superClass())
-        if (const auto found = m_classIds.constFind(meta); found != m_classIds.constEnd())
-            return m_classes[size_t(*found)].get();
-    return nullptr;
+    const QMetaObject *meta = &ofObject;
+    while (!m_classIds.contains(meta))
+        meta = meta->superClass();
+    return *m_classes[size_t(m_classIds.value(meta))];
 }
 
 /** The hold that scripts have on @p object; none where they have none, or had one on what lay there before. */
@@ -236,22 +251,28 @@ void Seam::letGo(Holding *holding, QObject *address, Owner owner)
 
 QJSValue Seam::facadeOf(QObject *object, Owner owner)
 {
-    const ServiceClass *service = classOf(object);
-    if (!service) {
-        keepFromEngine(object);
-        return shellOf(object);
-    }
+    const ServiceClass &service = classOf(*object->metaObject());
+    const QJSValue wrap = m_definitions[size_t(m_classIds.value(service.entry.meta))].property(QStringLiteral("wrap"));
+    if (service.entry.hasOneFacade)
+        return facadeOfControl(object, wrap);
     if (const auto holding = holdingOf(object); holding && holding->isAttached)
         if (const QJSValue facade = m_facadeIn.call({shellOf(object)}); facade.isObject())
             return facade;
-    const QJSValue wrap = m_definitions[size_t(m_classIds.value(service->entry.meta))].property(QStringLiteral("wrap"));
     return wrap.call({m_engine.toScriptValue(hold(object, owner))});
+}
+
+QJSValue Seam::facadeOfControl(QObject *object, const QJSValue &wrap)
+{
+    if (const auto found = m_facades.constFind(object); found != m_facades.constEnd())
+        return *found;
+    const QJSValue facade = wrap.call({m_engine.toScriptValue(hold(object, Owner::Application))});
+    m_facades.insert(object, facade);
+    connect(object, &QObject::destroyed, this, [this, object] { m_facades.remove(object); });
+    return facade;
 }
 
 QObject *Seam::objectOf(const QJSValue &value) const
 {
-    if (value.isQObject())
-        return value.toQObject();
     if (!value.isObject())
         return nullptr;
     const QJSValue native = m_nativeOf.call({value});
@@ -268,7 +289,7 @@ QJSValue Seam::shellOf(QObject *object) const
 /** Lets the object behind a facade lead back to it, as long as a script has the facade. */
 void Seam::attachToShell(const QJSValue &facade)
 {
-    QObject *object = facade.isQObject() ? nullptr : objectOf(facade);
+    QObject *object = objectOf(facade);
     const std::shared_ptr<Holding> holding = object ? holdingOf(object) : nullptr;
     if (!holding || holding->isAttached)
         return;
@@ -326,6 +347,17 @@ QJSValue Seam::call(const QVariant &native, int operationId, const QJSValue &arg
     });
 }
 
+/** What a script gave to a member of @p owner. */
+QVariant Seam::fromScript(const ServiceClass &owner, const QJSValue &value, Kind kind, QMetaType type,
+                          const QString &name) const
+{
+    const bool isReal = kind == Kind::Number || kind == Kind::Single;
+    if (owner.entry.takesFiniteNumbersOnly && isReal && value.isNumber() && !std::isfinite(value.toNumber()))
+        throw platform::Raised::typeError(
+            QStringLiteral("Expected a number for %1 but received %2").arg(name, m_values.described(value)));
+    return m_values.toNative(value, kind, type, name);
+}
+
 QJSValue Seam::invoke(QObject *object, const OperationOfClass &called, const QJSValue &arguments)
 {
     const Operation &operation = *called.operation;
@@ -337,8 +369,8 @@ QJSValue Seam::invoke(QObject *object, const OperationOfClass &called, const QJS
     QVarLengthArray<void *, 9> pointers(count + 1);
     for (int i = 0; i < count; ++i) {
         const Parameter &parameter = operation.parameters[size_t(i)];
-        natives[i] = m_values.toNative(arguments.property(quint32(i)), parameter.kind, parameter.type,
-                                       QString::fromLatin1(parameter.name));
+        natives[i] = fromScript(*called.owner, arguments.property(quint32(i)), parameter.kind, parameter.type,
+                                QString::fromLatin1(parameter.name));
         pointers[i + 1] = storage(natives[i], parameter.kind);
     }
     QVariant result = emptyOf(operation.resultKind, operation.resultType);
@@ -398,7 +430,7 @@ void Seam::write(const QVariant &native, int fieldId, const QJSValue &value)
         if (!field->isWritable)
             throw platform::Raised::typeError(QStringLiteral("%1 of %2 is read only").arg(name, nameOf(*owner)));
         const QVariant converted = field->kind == Kind::Any ? m_values.anything(value, name)
-                                                            : m_values.toNative(value, field->kind, field->type, name);
+                                                            : fromScript(*owner, value, field->kind, field->type, name);
         const QMetaProperty property = object->metaObject()->property(field->propertyIndex);
         if (field->kind == Kind::Text && isOtherNothing(property.read(object).toString(), converted.toString()))
             property.write(object, QStringLiteral("another text"));
@@ -422,19 +454,8 @@ void Seam::connectTo(const QVariant &native, int signalId, const QJSValue &argum
             throw platform::Raised::typeError(
                 QStringLiteral("Expected a function for %1 but received %2")
                     .arg(QString::fromLatin1(signal->name), m_values.described(function)));
-        const QJSValue raw = shellOf(object).property(QString::fromLatin1(signal->name));
-        raw.property(QStringLiteral("connect")).callWithInstance(raw, {m_handler.call({m_received, function})});
+        new SignalHandler(*object, *signal, function, *this);
         return QJSValue();
-    });
-}
-
-/** What a signal tells, as an operation would answer it. */
-QJSValue Seam::received(const QJSValue &value)
-{
-    return guarded([&] {
-        if (value.isQObject())
-            return facadeOf(value.toQObject(), Owner::Application);
-        return value.isObject() ? m_values.toScript(value.toVariant(), Values::NullText::Empty) : value;
     });
 }
 

@@ -10,6 +10,7 @@
 #include <QPointer>
 
 #include <exception>
+#include <functional>
 
 namespace script {
 
@@ -70,12 +71,15 @@ public:
     enum class Owner { Scripts, Application };
 
     /**
-     * The facade for an object of a registered class; other objects, such as real controls, are handed out as they are and
-     * always belong to the application. An object that has a facade already keeps its owner.
+     * The facade for an object. One of no registered class has no members that scripts know, and always belongs to the application.
+     * An object that has a facade already keeps its owner.
      */
     QJSValue facadeOf(QObject *object, Owner owner);
-    /** The object behind a facade or a wrapped control; null for other values. */
+    /** The object behind a facade; null for other values. */
     QObject *objectOf(const QJSValue &value) const;
+
+    /** Calls a function that a script connected to a signal; whoever reports what it throws sets another one. */
+    std::function<void(const QJSValue &function, const QJSValueList &values)> callHandler;
 
     const Values &values() const { return m_values; }
     const std::vector<std::unique_ptr<ServiceClass>> &classes() const { return m_classes; }
@@ -99,7 +103,6 @@ public:
     Q_INVOKABLE QJSValue read(const QVariant &native, int fieldId, const QJSValue &kept);
     Q_INVOKABLE void write(const QVariant &native, int fieldId, const QJSValue &value);
     Q_INVOKABLE void connectTo(const QVariant &native, int signalId, const QJSValue &arguments);
-    Q_INVOKABLE QJSValue received(const QJSValue &value);
     Q_INVOKABLE void rejectName(const QString &className, const QString &name);
     Q_INVOKABLE void rejectAssignment(const QString &className, const QString &name);
 
@@ -124,7 +127,8 @@ private:
     QJSValue operationTable(ServiceClass &service);
     QJSValue fieldTable(ServiceClass &service);
     QJSValue signalTable(ServiceClass &service);
-    const ServiceClass *classOf(const QObject *object) const;
+    /** At least that of any object. */
+    const ServiceClass &classOf(const QMetaObject &meta) const;
     std::shared_ptr<Holding> holdingOf(QObject *object) const;
     QVariant hold(QObject *object, Owner owner);
     void letGo(Holding *holding, QObject *address, Owner owner);
@@ -133,6 +137,9 @@ private:
     QJSValue resultToScript(QObject *object, const QVariant &result, const OperationOfClass &called);
     QJSValue shellOf(QObject *object) const;
     void attachToShell(const QJSValue &facade);
+    QJSValue facadeOfControl(QObject *object, const QJSValue &wrap);
+    QVariant fromScript(const ServiceClass &owner, const QJSValue &value, Kind kind, QMetaType type,
+                        const QString &name) const;
     void collectAfterPixels(const QVariant &value, Kind kind);
     void raise(const QString &name, const QString &message);
     void raiseCurrentException();
@@ -146,13 +153,13 @@ private:
     std::vector<QJSValue> m_definitions;
     QHash<const QMetaObject *, int> m_classIds;
     QHash<QObject *, std::weak_ptr<Holding>> m_held;
+    /** Of objects that have one facade, as long as they live. */
+    QHash<QObject *, QJSValue> m_facades;
     QJSValue m_define;
     QJSValue m_nativeOf;
     QJSValue m_setName;
     QJSValue m_attach;
     QJSValue m_facadeIn;
-    QJSValue m_handler;
-    QJSValue m_received;
     QJSValue m_itself;
     Location m_lastErrorLocation;
     qint64 m_pixelBytesHandedOut = 0;

@@ -94,6 +94,20 @@ Field fieldOf(const QMetaProperty &property)
     return {property.name(), property.propertyIndex(), property.isWritable(), type, kindOf(type)};
 }
 
+/** Toolkit classes give the parameters of their signals no names. */
+Signal signalOf(const QMetaObject &meta, int index)
+{
+    Signal signal = {meta.method(index).name(), index, parametersOf(meta.method(index))};
+    // What is emitted is the signal with all its arguments, behind which the meta-object has the forms without them.
+    while (meta.method(signal.methodIndex).attributes() & QMetaMethod::Cloned)
+        --signal.methodIndex;
+    const bool isOne = signal.parameters.size() == 1;
+    for (Parameter &parameter : signal.parameters)
+        if (parameter.name.startsWith("argument "))
+            parameter.name = isOne ? QByteArray("value") : "value" + parameter.name.mid(9);
+    return signal;
+}
+
 } // namespace
 
 Kind kindOf(QMetaType type)
@@ -105,19 +119,55 @@ Kind kindOf(QMetaType type)
 
 ServiceClass::ServiceClass(ServiceEntry description) : entry(std::move(description))
 {
+    if (entry.base)
+        addMembers(*entry.base);
+    inherited = {operations.size(), fields.size(), signalList.size()};
+    if (entry.listed)
+        addListed(*entry.listed);
+    else
+        addDeclared(*entry.meta, entry.base ? *entry.meta->superClass() : QObject::staticMetaObject);
+}
+
+void ServiceClass::addMembers(const ServiceEntry &described)
+{
+    if (described.base)
+        addMembers(*described.base);
+    if (described.listed)
+        addListed(*described.listed);
+    else
+        addDeclared(*described.meta, described.base ? *described.meta->superClass() : QObject::staticMetaObject);
+}
+
+/** Looked up in the class of the entry itself: it may have another property under the name of one of its base. */
+void ServiceClass::addListed(const Listed &listed)
+{
     const QMetaObject &meta = *entry.meta;
-    const int info = meta.indexOfClassInfo("ClassOperations");
+    const auto parts = [](const char *list) { return QByteArray(list).simplified().split(' '); };
+    for (const QByteArray &name : parts(listed.fields))
+        if (const int index = meta.indexOfProperty(name); index >= 0)
+            fields.push_back(fieldOf(meta.property(index)));
+    for (const QByteArray &signature : parts(listed.signalList))
+        if (const int index = meta.indexOfSignal(signature); index >= 0)
+            signalList.push_back(signalOf(meta, index));
+    for (const QByteArray &signature : parts(listed.operations))
+        if (const int index = meta.indexOfMethod(signature); index >= 0)
+            operations.push_back(operationOf(meta.method(index), {}));
+}
+
+void ServiceClass::addDeclared(const QMetaObject &from, const QMetaObject &upTo)
+{
+    const int info = from.indexOfClassInfo("ClassOperations");
     const QByteArrayList classOperations =
-        info < 0 ? QByteArrayList() : QByteArray(meta.classInfo(info).value()).simplified().split(' ');
-    for (int i = QObject::staticMetaObject.methodCount(); i < meta.methodCount(); ++i) {
-        const QMetaMethod method = meta.method(i);
+        info < 0 ? QByteArrayList() : QByteArray(from.classInfo(info).value()).simplified().split(' ');
+    for (int i = upTo.methodCount(); i < from.methodCount(); ++i) {
+        const QMetaMethod method = from.method(i);
         if (method.methodType() == QMetaMethod::Method && method.access() == QMetaMethod::Public)
             operations.push_back(operationOf(method, classOperations));
         if (entry.offersSignals && method.methodType() == QMetaMethod::Signal)
-            signalList.push_back({method.name(), parametersOf(method)});
+            signalList.push_back(signalOf(from, i));
     }
-    for (int i = QObject::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i)
-        fields.push_back(fieldOf(meta.property(i)));
+    for (int i = upTo.propertyCount(); i < from.propertyCount(); ++i)
+        fields.push_back(fieldOf(from.property(i)));
 }
 
 } // namespace script

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace script {
@@ -76,7 +77,19 @@ struct Field
 struct Signal
 {
     QByteArray name;
+    int methodIndex = -1; ///< of the signal as it is emitted, which may tell more than scripts hear
     std::vector<Parameter> parameters;
+};
+
+/**
+ * Which members of a class of the toolkit scripts have: names of properties, signatures of signals and slots as the meta-object has
+ * them, separated by blanks. A signal with a default argument can be listed without it.
+ */
+struct Listed
+{
+    const char *fields = "";
+    const char *signalList = "";
+    const char *operations = "";
 };
 
 /**
@@ -108,6 +121,14 @@ struct ServiceEntry
     bool offersSignals = false;
     /** Whether a text that it answers may be nothing; otherwise it is empty then. */
     bool answersNullTexts = true;
+    /** A number that is none, or has no end, is a TypeError. */
+    bool takesFiniteNumbersOnly = false;
+    /** Scripts get the same facade each time, as long as the object lives. */
+    bool hasOneFacade = false;
+    /** The entry whose members it has too; then its own are those that its class itself declares. */
+    std::shared_ptr<const ServiceEntry> base = {};
+    /** In place of what the class declares. */
+    std::optional<Listed> listed = {};
 };
 
 /** The entry of a class with a default constructor, under its own name without namespaces. */
@@ -131,6 +152,7 @@ template<typename T> ServiceEntry givenEntry(const char *module)
     entry.isMadeByScripts = false;
     entry.offersSignals = true;
     entry.answersNullTexts = false;
+    entry.takesFiniteNumbersOnly = true;
     return entry;
 }
 
@@ -152,8 +174,20 @@ struct ServiceClass
     std::vector<Operation> operations;
     std::vector<Field> fields;
     std::vector<Signal> signalList; ///< empty where none are offered
+    /** So many of them, the first ones, are those of the base. */
+    struct
+    {
+        size_t operations = 0;
+        size_t fields = 0;
+        size_t signalList = 0;
+    } inherited;
     /** The object that class-level operations run on; made at the first call. */
     std::unique_ptr<QObject> hidden;
+
+private:
+    void addMembers(const ServiceEntry &described);
+    void addListed(const Listed &listed);
+    void addDeclared(const QMetaObject &from, const QMetaObject &upTo);
 };
 
 } // namespace script

@@ -41,13 +41,6 @@ QString notEmptyNull(const QString &text)
     return text.isNull() ? QStringLiteral("") : text;
 }
 
-QString wordsForObject(QMetaType type)
-{
-    const QMetaObject *meta = type.metaObject();
-    return !meta || meta == &QObject::staticMetaObject ? QStringLiteral("a control or null")
-                                                       : withArticle(classWord(*meta)) + QStringLiteral(" or null");
-}
-
 /** Whole numbers stay whole, so that 3 is written "3" wherever a service formats it. */
 QVariant wholeOrNot(double number)
 {
@@ -339,7 +332,9 @@ QVariant Values::objectToNative(const QJSValue &value, QMetaType type, const QSt
     const bool isTaken =
         object && object->metaObject()->inherits(type.metaObject()) && (!isAnyControl || isControl(*object));
     if (!value.isNull() && !isTaken)
-        reject(wordsForObject(type), name, value);
+        reject((isAnyControl ? QStringLiteral("a control") : withArticle(wordOf(*type.metaObject()))) +
+                   QStringLiteral(" or null"),
+               name, value);
     return QVariant(type, &object);
 }
 

@@ -17,9 +17,6 @@ namespace script {
 /** "a TextField", "an ArrayController". */
 QString withArticle(const QString &noun);
 
-/** The name of a class without its namespaces. */
-QString classWord(const QMetaObject &meta);
-
 /**
  * Turns values of scripts into values of services and back, by the rules of the seam: nothing is converted in silence.
  *
@@ -31,11 +28,13 @@ class Values
 public:
     explicit Values(QJSEngine &engine);
 
-    /** Finds the service object behind a facade or a wrapped control; null for other values. */
+    /** Finds the object behind a facade; null for other values. */
     std::function<QObject *(const QJSValue &)> objectOf;
     /** Whether an outlet for any control takes the object: a stand-in, a window or view, or a real control. */
     std::function<bool(const QObject &)> isControl;
-    /** The facade of a service object, or the control itself. */
+    /** The name that scripts know a class by. */
+    std::function<QString(const QMetaObject &)> wordOf;
+    /** The facade of a service object or control. */
     std::function<QJSValue(QObject *)> facadeOf;
     /** The same for an object that was made for the script and belongs to it from now on. */
     std::function<QJSValue(QObject *)> facadeOfNew;

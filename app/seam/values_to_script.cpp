@@ -172,12 +172,6 @@ QString withArticle(const QString &noun)
     return (startsWithVowel ? QStringLiteral("an ") : QStringLiteral("a ")) + noun;
 }
 
-QString classWord(const QMetaObject &meta)
-{
-    const QString name = QString::fromLatin1(meta.className());
-    return name.mid(name.lastIndexOf(u':') + 1);
-}
-
 QString Values::described(const QJSValue &value) const
 {
     if (value.isString()) {
@@ -198,7 +192,7 @@ QString Values::described(const QJSValue &value) const
     if (isData(value))
         return QStringLiteral("data");
     if (const QObject *object = objectOf(value))
-        return withArticle(classWord(*object->metaObject()));
+        return withArticle(wordOf(*object->metaObject()));
     return QStringLiteral("an object");
 }
 

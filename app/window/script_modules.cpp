@@ -1,6 +1,7 @@
 #include "app/window/script_modules.h"
 
 #include "app/modules/offered_services.h"
+#include "app/window/forms/control_classes.h"
 #include "app/window/program_desk.h"
 #include "app/window/shell.h"
 
@@ -24,13 +25,16 @@ ServiceEntry sheetHosts()
 
 std::vector<ServiceEntry> windowServices()
 {
-    return {script::oneObject<Shell>(shellModule, "shell"),
-            script::givenEntry<Form>(shellModule),
-            script::givenEntry<JobDriver>(shellModule),
-            script::givenEntry<ScriptTimer>(shellModule),
-            script::givenEntry<Theme>(shellModule),
-            sheetHosts(),
-            script::oneObject<ProgramDesk>("quorlin/program", "program")};
+    std::vector<ServiceEntry> all = {script::oneObject<Shell>(shellModule, "shell"),
+                                     script::givenEntry<Form>(shellModule),
+                                     script::givenEntry<JobDriver>(shellModule),
+                                     script::givenEntry<ScriptTimer>(shellModule),
+                                     script::givenEntry<Theme>(shellModule),
+                                     sheetHosts(),
+                                     script::oneObject<ProgramDesk>("quorlin/program", "program")};
+    const std::vector<ServiceEntry> controls = controlClasses();
+    all.insert(all.end(), controls.begin(), controls.end());
+    return all;
 }
 
 void addShellModule(script::ScriptEngine &scripts, Shell &shell)

@@ -7,6 +7,7 @@
 #include "app/window/pictures/drop_target.h"
 #include "app/window/preview/compare_preview.h"
 
+#include "files/services/fields.h"
 #include "platform/controls/panels.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/foundation/raised.h"
@@ -35,6 +36,40 @@ QVariant firstPath(const platform::PanelRequest &request)
 {
     const platform::PanelAnswer answer = platform::runPanel(request);
     return answer.accepted && !answer.paths.isEmpty() ? QVariant(answer.paths.constFirst()) : nothing;
+}
+
+struct Question
+{
+    QString title;
+    QString text;
+    QString detail;
+    QStringList buttons;
+    int initial = 0;
+    int escape = 0;
+    QString check;
+};
+
+Question questionFrom(const QVariantMap &dictionary)
+{
+    static const QStringList keys = {QStringLiteral("title"),   QStringLiteral("text"),    QStringLiteral("detail"),
+                                     QStringLiteral("buttons"), QStringLiteral("initial"), QStringLiteral("escape"),
+                                     QStringLiteral("check")};
+    const files::Fields fields(dictionary, QStringLiteral("question"), keys);
+    Question question = {
+        fields.text("title"), fields.text("text"), fields.text("detail"), fields.texts("buttons"), 0, 0,
+        fields.text("check")};
+    const auto count = int(question.buttons.size());
+    if (count == 0)
+        fields.reject("a list with at least one text", "buttons");
+    const auto index = [&](const char *key, int otherwise) {
+        const int value = fields.whole(key, otherwise);
+        if (value < 0 || value >= count)
+            fields.reject("the index of a button", key);
+        return value;
+    };
+    question.initial = index("initial", 0);
+    question.escape = index("escape", count - 1);
+    return question;
 }
 
 } // namespace
@@ -71,15 +106,18 @@ void Shell::alignFields(const QObjectList &forms)
     for (QObject *form : forms)
         if (auto *found = qobject_cast<Form *>(form))
             all.append(found);
+        else
+            throw platform::Raised::typeError(
+                QStringLiteral("Expected a Form for forms[%1] but received something else").arg(all.size()));
     Form::alignFields(all);
 }
 
-QObject *Shell::dropTarget(Form *form)
+DropTarget *Shell::dropTarget(Form *form)
 {
     return form && form->root() ? new DropTarget(form->root()) : nullptr;
 }
 
-QObject *Shell::largePreview(Form *form)
+ComparePreview *Shell::largePreview(Form *form)
 {
     if (!form || !form->root())
         return nullptr;
@@ -91,9 +129,8 @@ QObject *Shell::largePreview(Form *form)
     return preview;
 }
 
-void Shell::cover(QObject *object)
+void Shell::cover(QWidget *widget)
 {
-    auto *widget = qobject_cast<QWidget *>(object);
     if (!widget || !widget->parentWidget())
         return;
     widget->setGeometry(widget->parentWidget()->rect());
@@ -119,22 +156,17 @@ JobDriver *Shell::job()
 
 QVariantMap Shell::ask(const QVariantMap &question)
 {
+    const Question asked = questionFrom(question);
     QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle(question.value(QStringLiteral("title")).toString());
-    box.setText(question.value(QStringLiteral("text")).toString());
-    box.setInformativeText(question.value(QStringLiteral("detail")).toString());
+    box.setWindowTitle(asked.title);
+    box.setText(asked.text);
+    box.setInformativeText(asked.detail);
     QList<QAbstractButton *> buttons;
-    const QStringList texts = question.value(QStringLiteral("buttons")).toStringList();
-    for (const QString &text : texts)
+    for (const QString &text : asked.buttons)
         buttons.append(box.addButton(text, QMessageBox::AcceptRole));
-    const int initial = question.value(QStringLiteral("initial")).toInt();
-    const int escape = question.value(QStringLiteral("escape"), texts.size() - 1).toInt();
-    if (QAbstractButton *button = buttons.value(initial))
-        box.setDefaultButton(qobject_cast<QPushButton *>(button));
-    if (QAbstractButton *button = buttons.value(escape))
-        box.setEscapeButton(button);
-    const QString check = question.value(QStringLiteral("check")).toString();
-    auto *checkBox = check.isEmpty() ? nullptr : new QCheckBox(check, &box);
+    box.setDefaultButton(qobject_cast<QPushButton *>(buttons.at(asked.initial)));
+    box.setEscapeButton(buttons.at(asked.escape));
+    auto *checkBox = asked.check.isEmpty() ? nullptr : new QCheckBox(asked.check, &box);
     if (checkBox)
         box.setCheckBox(checkBox);
     box.exec();
@@ -249,7 +281,7 @@ void Shell::closeAll()
     // A pane that was put into a window goes with it.
     QList<QWidget *> windows;
     std::copy_if(m_windows.cbegin(), m_windows.cend(), std::back_inserter(windows),
-                 [](const QWidget *widget) { return widget->parentWidget() == nullptr; });
+                 [](const QWidget *widget) { return widget && widget->parentWidget() == nullptr; });
     m_windows.clear();
     qDeleteAll(windows);
 }

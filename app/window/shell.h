@@ -7,8 +7,11 @@
 #include "app/window/forms/ui_form.h"
 #include "app/window/look/theme.h"
 #include "app/window/main_frame.h"
+#include "app/window/pictures/drop_target.h"
+#include "app/window/preview/compare_preview.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QVariant>
 #include <QWidget>
@@ -50,11 +53,11 @@ public:
     /** Gives the fields of the forms one left edge; see Form::alignFields(). */
     Q_INVOKABLE void alignFields(const QObjectList &forms);
     /** Covers the window of the form while files are dragged over it. */
-    Q_INVOKABLE QObject *dropTarget(window::Form *form);
+    Q_INVOKABLE window::DropTarget *dropTarget(window::Form *form);
     /** A picture view that covers the window of the form; hidden at first. */
-    Q_INVOKABLE QObject *largePreview(window::Form *form);
+    Q_INVOKABLE window::ComparePreview *largePreview(window::Form *form);
     /** Lays a widget over all of its window and gives it the focus. */
-    Q_INVOKABLE void cover(QObject *widget);
+    Q_INVOKABLE void cover(QWidget *widget);
     /** The window of the form, as the services know it that open sheets; see SheetHost. */
     Q_INVOKABLE window::SheetHost *sheetHost(window::Form *form);
 
@@ -64,7 +67,8 @@ public:
     /**
      * Asks the user and waits for the answer.
      *
-     * @param question  {title, text, detail, buttons: [text, ...], initial (index), escape (index), check (text)}
+     * @param question  {title, text, detail, buttons: [text, ...], initial (index), escape (index), check (text)}; another key, or
+     *                  another kind of value, is a TypeError
      * @return {button (index), checked}
      */
     Q_INVOKABLE QVariantMap ask(const QVariantMap &question);
@@ -103,7 +107,7 @@ private:
     QString m_folder;
     Theme &m_theme;
     QStringList m_arguments;
-    QList<QWidget *> m_windows;
+    QList<QPointer<QWidget>> m_windows;
     Form *m_mainForm = nullptr;
     ZtFFullScreen m_fullScreen;
     std::unique_ptr<MainFrame> m_mainFrame;

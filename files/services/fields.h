@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 namespace files {
@@ -14,12 +15,18 @@ class Fields
 public:
     /** @param name  what the sentence calls the dictionary: "wishes[2]". Raises where @p value is none. */
     Fields(const QVariant &value, QString name);
+    /** The same, and raises where the dictionary has another key than these. */
+    Fields(const QVariant &value, QString name, const QStringList &keys);
 
     QString text(const char *key) const;
     bool truth(const char *key, bool otherwise) const;
     int whole(const char *key, int otherwise) const;
+    /** With an end. */
+    double number(const char *key, double otherwise) const;
     /** Empty where it is missing. */
     QVariantList list(const char *key) const;
+    /** The same for a list of texts. */
+    QStringList texts(const char *key) const;
 
     /** Says that @p key holds something else than is expected: "\"move\", \"copy\" or \"link\"". */
     [[noreturn]] void reject(const char *expected, const char *key) const;
@@ -30,5 +37,11 @@ private:
     QVariantMap m_map;
     QString m_name;
 };
+
+/** A list of whole numbers from @p least on; raises, as Fields does, where one of them is something else. */
+QList<int> wholeNumbers(const QVariantList &list, const QString &name, int least);
+
+/** A list of true and false. */
+QList<bool> truths(const QVariantList &list, const QString &name);
 
 } // namespace files

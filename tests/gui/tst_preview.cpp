@@ -1,8 +1,6 @@
 #include "app/script/ScriptEngine.h"
-#include "app/script/registry.h"
-#include "app/seam/picture_object.h"
-#include "app/seam/seam.h"
 #include "app/window/preview/compare_preview.h"
+#include "app/window/script_modules.h"
 #include "image/crop.h"
 #include "platform/desktop/user_defaults.h"
 #include "tests/support/test_pictures.h"
@@ -100,7 +98,7 @@ void TestPreview::initTestCase()
     QVERIFY(halves.save(path("halves.png")));
     QVERIFY(pictures::plain(20, 10, Qt::green).save(path("small.png")));
     QVERIFY(pictures::plain(100, 100, QColor(0, 0, 0, 0)).save(path("clear.png")));
-    m_scripts = std::make_unique<script::ScriptEngine>(script::registeredServices());
+    m_scripts = std::make_unique<script::ScriptEngine>(window::windowServices());
 }
 
 void TestPreview::init()
@@ -109,9 +107,7 @@ void TestPreview::init()
     m_preview = std::make_unique<ComparePreview>();
     m_preview->resize(800, 400);
     m_preview->show();
-    QQmlEngine::setObjectOwnership(m_preview.get(), QQmlEngine::CppOwnership);
-    m_scripts->engine().globalObject().setProperty(QStringLiteral("preview"),
-                                                   m_scripts->engine().newQObject(m_preview.get()));
+    m_scripts->engine().globalObject().setProperty(QStringLiteral("preview"), m_scripts->controlValue(m_preview.get()));
 }
 
 bool TestPreview::show(const char *name)
@@ -130,12 +126,11 @@ bool TestPreview::showResult(const QVariantMap &result)
 
 void TestPreview::setCropFrame(const QRect &frame, double ratio)
 {
-    m_preview->setCropFrame(value(QStringLiteral("({ x: %1, y: %2, width: %3, height: %4, ratio: %5 })")
-                                      .arg(frame.x())
-                                      .arg(frame.y())
-                                      .arg(frame.width())
-                                      .arg(frame.height())
-                                      .arg(ratio)));
+    m_preview->setCropFrame({{QStringLiteral("x"), frame.x()},
+                             {QStringLiteral("y"), frame.y()},
+                             {QStringLiteral("width"), frame.width()},
+                             {QStringLiteral("height"), frame.height()},
+                             {QStringLiteral("ratio"), ratio}});
 }
 
 void TestPreview::drag(const QPointF &from, const QPoint &by, Qt::KeyboardModifiers modifiers)
@@ -253,7 +248,7 @@ void TestPreview::showsACropAtTheScaleOfTheOriginal()
     QVERIFY2(third.red() <= 1 && third.green() == 0 && third.blue() >= 254, qPrintable(third.name()));
     QVERIFY(at(middleOfResult() + QPoint(half + 3, 0)) != QColor(Qt::blue));
     QSignalSpy shown(m_preview.get(), &ComparePreview::resultShown);
-    m_preview->setCropFrame(QJSValue(QJSValue::NullValue));
+    m_preview->setCropFrame({});
     QVERIFY(shown.wait(5000));
     QCOMPARE(at(middleOfResult() + QPoint(half + 3, 0)), QColor(Qt::blue));
 }
@@ -369,8 +364,7 @@ void TestPreview::showsTheOverlayUntilTheFrameMoves()
     setCropFrame(QRect(100, 50, 400, 300));
     QImage green(600, 400, QImage::Format_RGBA8888);
     green.fill(Qt::green);
-    const auto native = std::make_unique<script::PictureObject>(platform::Picture(platform::Bitmap::fromImage(green)));
-    const QJSValue picture = m_scripts->seam().facadeOf(native.get(), script::Seam::Owner::Application);
+    const platform::Picture picture(platform::Bitmap::fromImage(green));
     m_preview->setOverlay(picture);
     QCOMPARE(at(middleOfOriginal()), QColor(Qt::green));
     cropFrame().setFocus();
@@ -378,7 +372,7 @@ void TestPreview::showsTheOverlayUntilTheFrameMoves()
     QVERIFY(at(middleOfOriginal()) != QColor(Qt::green));
     m_preview->setOverlay(picture);
     QCOMPARE(at(middleOfOriginal()), QColor(Qt::green));
-    m_preview->setOverlay(QJSValue(QJSValue::NullValue));
+    m_preview->setOverlay({});
     QVERIFY(at(middleOfOriginal()) != QColor(Qt::green));
 }
 
@@ -458,14 +452,12 @@ void TestPreview::followsChangesOfALargePhoto()
     }
     const auto box = image::drawCropBox(QSize(6000, 4000), image::cropBox({1500, 1000, 3000, 2000}, QSize(6000, 4000)));
     QVERIFY(box);
-    const auto native = std::make_unique<script::PictureObject>(*box);
-    const QJSValue overlay = m_scripts->seam().facadeOf(native.get(), script::Seam::Owner::Application);
     setCropFrame(QRect(1500, 1000, 3000, 2000));
     clock.restart();
-    m_preview->setOverlay(overlay);
+    m_preview->setOverlay(*box);
     m_preview->grab();
     qInfo("the crop frame of 24 megapixels: on the screen after %lld ms", clock.elapsed());
-    m_preview->setCropFrame(QJSValue(QJSValue::NullValue));
+    m_preview->setCropFrame({});
     clock.restart();
     int shown = 0;
     QObject::connect(m_preview.get(), &ComparePreview::resultShown, m_preview.get(), [&shown] { ++shown; });

@@ -15,6 +15,20 @@ namespace {
 
 using Declarations = QMap<QString, QStringList>; // "module class", or "module object", to its lines, in order
 
+std::vector<script::ServiceEntry> allServices()
+{
+    std::vector<script::ServiceEntry> all = script::registeredServices();
+    for (const auto &more : {script::fileServices(), window::windowServices()})
+        all.insert(all.end(), more.begin(), more.end());
+    return all;
+}
+
+/** The first line of what has all that another class has. */
+QString extends(const QString &name)
+{
+    return QStringLiteral("extends ") + name + u';';
+}
+
 QString opaqueWord(QMetaType type)
 {
     const QString name = QString::fromLatin1(type.name());
@@ -23,9 +37,12 @@ QString opaqueWord(QMetaType type)
 
 QString objectWord(QMetaType type)
 {
-    const QString name = QString::fromLatin1(type.metaObject()->className()).section(QStringLiteral("::"), -1);
-    return type.metaObject() == &QObject::staticMetaObject ? QStringLiteral("Control | null")
-                                                           : name + QStringLiteral(" | null");
+    if (type.metaObject() == &QObject::staticMetaObject)
+        return QStringLiteral("Control | null");
+    for (const script::ServiceEntry &entry : allServices())
+        if (entry.meta == type.metaObject())
+            return QString::fromLatin1(entry.name) + QStringLiteral(" | null");
+    return QStringLiteral("UNREGISTERED ") + QString::fromLatin1(type.name());
 }
 
 /** The word that the contract has for a type. */
@@ -101,14 +118,6 @@ QString lineOf(const script::Signal &signal)
         .arg(QString::fromLatin1(signal.name), listOf(signal.parameters));
 }
 
-std::vector<script::ServiceEntry> allServices()
-{
-    std::vector<script::ServiceEntry> all = script::registeredServices();
-    for (const auto &more : {script::fileServices(), window::windowServices()})
-        all.insert(all.end(), more.begin(), more.end());
-    return all;
-}
-
 QString keyOf(const script::ServiceEntry &entry)
 {
     return QString::fromLatin1(entry.module + ' ' + entry.name);
@@ -127,14 +136,16 @@ QStringList linesOf(const script::ServiceEntry &entry)
 {
     const script::ServiceClass service(entry);
     QStringList lines;
-    if (!entry.isOneObject)
+    if (entry.base)
+        lines.append(extends(QString::fromLatin1(entry.base->name)));
+    if (!entry.isOneObject && !entry.hasOneFacade)
         lines.append(constructorOf(entry));
-    for (const script::Field &field : service.fields)
-        lines.append(lineOf(entry, field));
-    for (const script::Signal &signal : service.signalList)
-        lines.append(lineOf(signal));
-    for (const script::Operation &operation : service.operations)
-        lines.append(lineOf(entry, operation));
+    for (size_t i = service.inherited.fields; i < service.fields.size(); ++i)
+        lines.append(lineOf(entry, service.fields[i]));
+    for (size_t i = service.inherited.signalList; i < service.signalList.size(); ++i)
+        lines.append(lineOf(service.signalList[i]));
+    for (size_t i = service.inherited.operations; i < service.operations.size(); ++i)
+        lines.append(lineOf(entry, service.operations[i]));
     return lines;
 }
 
@@ -171,14 +182,17 @@ Declarations declared(QString text)
     text.remove(QRegularExpression(QStringLiteral("/\\*.*?\\*/"), QRegularExpression::DotMatchesEverythingOption));
     static const QRegularExpression module(QStringLiteral("declare module \"([^\"]+)\" \\{(.*?)\\n\\}"),
                                            QRegularExpression::DotMatchesEverythingOption);
-    static const QRegularExpression body(QStringLiteral("export (?:class|const) (\\w+):? \\{(.*?)\\n    \\}"),
-                                         QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression body(
+        QStringLiteral("export (?:class|interface|const) (\\w+):?(?: extends (\\w+))? \\{(.*?)\\n    \\}"),
+        QRegularExpression::DotMatchesEverythingOption);
     for (auto modules = module.globalMatch(text); modules.hasNext();) {
         const auto oneModule = modules.next();
         for (auto bodies = body.globalMatch(oneModule.captured(2)); bodies.hasNext();) {
             const auto oneBody = bodies.next();
             QStringList lines;
-            for (const QString &line : partsOf(oneBody.captured(2), u';'))
+            if (!oneBody.captured(2).isEmpty())
+                lines.append(extends(oneBody.captured(2)));
+            for (const QString &line : partsOf(oneBody.captured(3), u';'))
                 if (!line.trimmed().isEmpty())
                     lines.append(line.simplified().replace(QStringLiteral("( "), QStringLiteral("(")) + u';');
             all.insert(oneModule.captured(1) + u' ' + oneBody.captured(1), lines);
@@ -213,6 +227,8 @@ QString wordOfSpelled(const QString &type)
     union_.removeAll(QString());
     const bool isNullable = union_.size() > 1 && union_.removeAll(QStringLiteral("null")) > 0;
     const QString first = union_.first();
+    if (first == QStringLiteral("AnyControl"))
+        return QStringLiteral("Control | null");
     const QString orNull = isNullable ? QStringLiteral(" | null") : QString();
     if (isClass(first) || first == QStringLiteral("Function") || first.startsWith(QStringLiteral("Iterator<")))
         return first + orNull;
@@ -231,7 +247,8 @@ QString wordOfSpelled(const QString &type)
 QString inWords(const QString &line)
 {
     static const QRegularExpression field(QStringLiteral("^((?:readonly )?\\w+): (.*);$"));
-    if (line.contains(QStringLiteral("constructor(")) || line.contains(QStringLiteral(": Signal<")))
+    if (line.startsWith(QStringLiteral("extends ")) || line.contains(QStringLiteral("constructor(")) ||
+        line.contains(QStringLiteral(": Signal<")))
         return line;
     if (const auto match = field.match(line); match.hasMatch())
         return match.captured(1) + QStringLiteral(": ") + wordOfSpelled(match.captured(2)) + u';';

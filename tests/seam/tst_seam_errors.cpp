@@ -6,6 +6,15 @@
 #include <QQmlEngine>
 #include <QTest>
 
+/** Says something to whoever listens. */
+class Sender : public QObject
+{
+    Q_OBJECT
+
+Q_SIGNALS:
+    void told();
+};
+
 /** How errors reach scripts and how uncaught ones reach the application: name, message, file and line. */
 class TestSeamErrors : public QObject
 {
@@ -194,15 +203,15 @@ void TestSeamErrors::failsACallLikeAModule()
 void TestSeamErrors::reportsErrorsInSignalHandlers()
 {
     ScriptRun run;
-    QObject sender;
-    QJSValue exports = run.engine().engine().newObject();
-    exports.setProperty(QStringLiteral("sender"), run.engine().controlValue(&sender));
-    QVERIFY(run.engine().registerModule(QStringLiteral("sender"), exports));
+    Sender sender;
+    script::ServiceEntry entry = script::oneObject<Sender>("sender", "sender");
+    entry.object = &sender;
+    run.engine().registerServices("sender", {entry});
     QVERIFY2(run.run(QStringLiteral("import { sender } from 'sender';\n"
-                                    "sender.objectNameChanged.connect(() => {\n  throw new Error('in handler');\n});\n"
-                                    "sender.objectNameChanged.connect(() => {\n  const x = echo.takeText(3);\n});")),
+                                    "sender.told.connect(() => {\n  throw new Error('in handler');\n});\n"
+                                    "sender.told.connect(() => {\n  const x = echo.takeText(3);\n});")),
              qPrintable(run.error));
-    sender.setObjectName(QStringLiteral("changed"));
+    Q_EMIT sender.told();
     const QStringList expected = {run.lastFile + QStringLiteral(":4: Error: in handler"),
                                   run.lastFile +
                                       QStringLiteral(":7: TypeError: Expected text or null for text but received 3")};

@@ -2,6 +2,8 @@
 
 #include "app/window/look/theme.h"
 
+#include "files/services/fields.h"
+
 #include <QPainter>
 
 namespace window {
@@ -23,9 +25,10 @@ ChipLabel::ChipLabel(QWidget *parent) : QWidget(parent)
 
 void ChipLabel::setParts(const QStringList &texts, const QVariantList &chips)
 {
+    const QList<bool> framed = files::truths(chips, QStringLiteral("chips"));
     m_parts.clear();
     for (int i = 0; i < texts.size(); ++i)
-        m_parts.append({texts.at(i), chips.value(i).toBool(), {}});
+        m_parts.append({texts.at(i), framed.value(i), {}});
     setAccessibleName(texts.join(QString()));
     updateGeometry();
     update();

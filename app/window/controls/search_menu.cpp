@@ -100,9 +100,8 @@ void SearchMenu::setPlaceholder(const QString &text)
     m_list->setAccessibleName(text);
 }
 
-void SearchMenu::popUp(QObject *object)
+void SearchMenu::popUp(QWidget *control)
 {
-    const auto *control = qobject_cast<QWidget *>(object);
     if (!control)
         return;
     m_field->clear();

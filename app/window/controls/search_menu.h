@@ -28,7 +28,7 @@ public:
                                 const QVariantList &values);
     Q_INVOKABLE void setPlaceholder(const QString &text);
     /** Opens under a control, or over it where there is no room; everything is shown again. */
-    Q_INVOKABLE void popUp(QObject *control);
+    Q_INVOKABLE void popUp(QWidget *control);
 
 Q_SIGNALS:
     void chosen(const QVariant &value);

@@ -3,6 +3,7 @@
 #include "app/window/look/icons.h"
 #include "app/window/look/theme.h"
 
+#include "files/services/fields.h"
 #include "platform/foundation/natural_order.h"
 
 #include <QKeyEvent>
@@ -99,6 +100,18 @@ QString spoken(const QVariantMap &folder)
     return sentence.arg(folder.value(QStringLiteral("name")).toString(), files);
 }
 
+void checkFolder(const QVariant &folder, qsizetype index)
+{
+    static const QStringList keys = {QStringLiteral("path"),  QStringLiteral("above"), QStringLiteral("name"),
+                                     QStringLiteral("count"), QStringLiteral("total"), QStringLiteral("isNew")};
+    const files::Fields fields(folder, QStringLiteral("folders[%1]").arg(index), keys);
+    for (const char *text : {"path", "above", "name"})
+        fields.text(text);
+    for (const char *number : {"count", "total"})
+        fields.whole(number, 0);
+    fields.truth("isNew", false);
+}
+
 std::unique_ptr<QTreeWidgetItem> itemFor(const QVariantMap &folder)
 {
     const QString path = folder.value(QStringLiteral("path")).toString();
@@ -163,8 +176,9 @@ void FolderTree::beginFolders()
 
 void FolderTree::addFolders(const QVariantList &folders)
 {
-    for (const QVariant &each : folders) {
-        const QVariantMap folder = each.toMap();
+    for (qsizetype i = 0; i < folders.size(); ++i) {
+        checkFolder(folders.at(i), i);
+        const QVariantMap folder = folders.at(i).toMap();
         m_waiting.push_back({m_order.sortKey(folder.value(QStringLiteral("name")).toString()),
                              folder.value(QStringLiteral("above")).toString(), itemFor(folder)});
         m_waitingItems.insert(folder.value(QStringLiteral("path")).toString(), m_waiting.back().item.get());

@@ -20,7 +20,7 @@ class FolderTree : public QTreeWidget
 {
     Q_OBJECT
     /** The path of the chosen folder; empty where none is. */
-    Q_PROPERTY(QString chosen READ chosen WRITE setChosen NOTIFY folderChosen)
+    Q_PROPERTY(QString chosenFolder READ chosen WRITE setChosen NOTIFY folderChosen)
 
 public:
     explicit FolderTree(QWidget *parent = nullptr);

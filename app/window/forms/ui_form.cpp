@@ -3,6 +3,7 @@
 #include "app/window/forms/own_controls.h"
 #include "app/window/look/icons.h"
 
+#include "files/services/fields.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/foundation/raised.h"
 
@@ -224,9 +225,16 @@ void Form::setIcon(const QString &name, const QString &iconName)
 void Form::setLook(const QString &name, const QString &property, const QString &value)
 {
     auto *widget = qobject_cast<QWidget *>(find(name, "control"));
-    if (!widget || widget->property(property.toUtf8().constData()).toString() == value)
+    if (!widget)
         return;
-    widget->setProperty(property.toUtf8().constData(), value);
+    const QByteArray key = property.toUtf8();
+    // A look is a word beside the properties of the control; those are set as its fields.
+    if (key.isEmpty() || key.startsWith('_') || widget->metaObject()->indexOfProperty(key) >= 0)
+        throw platform::Raised::typeError(
+            QStringLiteral("Expected the name of a look for property but received \"%1\"").arg(property));
+    if (widget->property(key).toString() == value)
+        return;
+    widget->setProperty(key, value);
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
 }
@@ -254,9 +262,7 @@ void Form::setMenu(const QString &name, const QStringList &texts, const QVariant
 
 void Form::setSplit(const QString &name, const QVariantList &sizes)
 {
-    QList<int> pixels;
-    for (const QVariant &size : sizes)
-        pixels.append(size.toInt());
+    const QList<int> pixels = files::wholeNumbers(sizes, QStringLiteral("sizes"), 0);
     if (auto *splitter = qobject_cast<QSplitter *>(find(name, "splitter")))
         splitter->setSizes(pixels);
 }

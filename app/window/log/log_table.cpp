@@ -194,7 +194,7 @@ QVariant LogTable::chosen() const
 QVariantList LogTable::entries(int first, int count) const
 {
     QVariantList found;
-    const int end = std::min(first + count, m_model.rowCount());
+    const qint64 end = std::min<qint64>(qint64(first) + count, m_model.rowCount());
     for (int row = std::max(0, first); row < end; ++row)
         found.append(entryMap(row));
     return found;

@@ -1,7 +1,9 @@
 #include "app/window/log/run_list.h"
 
-#include "app/window/log/log_table.h"
 #include "app/window/look/theme.h"
+
+#include "files/services/fields.h"
+#include "platform/foundation/raised.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -198,12 +200,22 @@ RunList::RunList(QWidget *parent) : QListView(parent)
     connect(&m_rows, &QAbstractItemModel::modelReset, this, &RunList::keepChoice);
 }
 
-void RunList::follow(QObject *table, const QVariantMap &texts)
+void RunList::follow(LogTable *table, const QVariantMap &texts)
 {
-    m_table = qobject_cast<LogTable *>(table);
-    m_rows.setTexts(texts);
+    const files::Fields given(
+        texts, QStringLiteral("texts"),
+        {QStringLiteral("all"), QStringLiteral("undo"), QStringLiteral("redo"), QStringLiteral("of")});
+    for (const char *key : {"all", "undo", "redo", "of"})
+        given.text(key);
+    if (!table)
+        throw platform::Raised::typeError(QStringLiteral("Expected a LogTable for table but received null"));
     if (m_table)
-        m_rows.follow(&m_table->logModel());
+        m_table->logModel().disconnect(this);
+    m_table = table;
+    // Before the rows hear of it, which ask for the table.
+    connect(&table->logModel(), &QObject::destroyed, this, [this] { m_table = nullptr; });
+    m_rows.setTexts(texts);
+    m_rows.follow(&table->logModel());
 }
 
 int RunList::number() const

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "app/models/log_model.h"
+#include "app/window/log/log_table.h"
 
 #include <QListView>
 #include <QPointer>
 
 namespace window {
-
-class LogTable;
 
 /** The runs of a log, the newest first, under one entry that stands for all of them. */
 class RunRows : public QAbstractListModel
@@ -59,7 +58,7 @@ public:
     explicit RunList(QWidget *parent = nullptr);
 
     /** Shows the runs of the log in @p table, and filters it. @param texts  see RunRows::setTexts() */
-    Q_INVOKABLE void follow(QObject *table, const QVariantMap &texts);
+    Q_INVOKABLE void follow(window::LogTable *table, const QVariantMap &texts);
     QString run() const;
     /**
      * The chosen run: {count (of its entries), problems, process, title (with what it took back), areEdits (of comments), edits (how
@@ -85,7 +84,7 @@ private:
     void keepChoice();
 
     RunRows m_rows;
-    LogTable *m_table = nullptr; ///< in the same window
+    LogTable *m_table = nullptr; ///< null again when it is gone
     int m_number = -1;
 };
 

@@ -228,7 +228,7 @@ bool ManualView::findNext(const QString &text)
         if (!textOf(name).contains(text, Qt::CaseInsensitive))
             continue;
         if (name != page())
-            open(name);
+            open(name, QString());
         moveCursor(QTextCursor::Start);
         // The file may have it where no reader sees it, such as in the address of a link.
         if (findFromHere(text))

@@ -23,7 +23,7 @@ public:
     /** {name, title} of every page: "index", then the others in the order in which it links to them, then those it does not name. */
     Q_INVOKABLE QVariantList pages() const;
     /** Shows a page, and the heading @p anchor of it if that is not empty. A page that is missing is said to be. */
-    Q_INVOKABLE void open(const QString &page, const QString &anchor = {});
+    Q_INVOKABLE void open(const QString &page, const QString &anchor);
     Q_INVOKABLE void goBack() { goTo(m_at - 1); }
     Q_INVOKABLE void goForward() { goTo(m_at + 1); }
     /**

@@ -2,6 +2,9 @@
 
 #include "app/window/pictures/picture_table.h"
 
+#include "files/services/fields.h"
+#include "platform/foundation/raised.h"
+
 #include <QHeaderView>
 
 #include <array>
@@ -37,6 +40,14 @@ int columnNamed(const QString &name)
     return -1;
 }
 
+QStringList columnNames()
+{
+    QStringList names;
+    for (const auto &kind : kinds)
+        names.append(QString::fromLatin1(kind.name));
+    return names;
+}
+
 } // namespace
 
 void PictureTable::prepareHeader()
@@ -68,9 +79,15 @@ void PictureTable::prepareHeader()
 
 void PictureTable::setColumns(const QStringList &columns, const QVariantMap &headings, bool stressed)
 {
+    const QStringList names = columnNames();
+    for (const QString &column : columns)
+        if (!names.contains(column))
+            throw platform::Raised::typeError(
+                QStringLiteral("Expected the name of a column for columns but received \"%1\"").arg(column));
+    const files::Fields given(headings, QStringLiteral("headings"), names);
     QHash<int, QString> words;
     for (auto heading = headings.cbegin(); heading != headings.cend(); ++heading)
-        words.insert(columnNamed(heading.key()), heading.value().toString());
+        words.insert(columnNamed(heading.key()), given.text(heading.key().toLatin1().constData()));
     m_model.setHeadings(words);
     m_model.setStressesNewNames(stressed);
     for (int column = 0; column < PictureModel::ColumnCount; ++column) {

@@ -2,6 +2,8 @@
 
 #include "app/window/pictures/picture_table.h"
 
+#include "files/services/fields.h"
+
 namespace window {
 
 void PictureTable::setInput(const QStringList &extensions, bool folders)
@@ -34,10 +36,8 @@ void PictureTable::chooseSomeRow()
 
 void PictureTable::showOnly(const QVariantList &ids)
 {
-    QSet<int> shown;
-    for (const QVariant &id : ids)
-        shown.insert(id.toInt());
-    m_order.setOnly(shown);
+    const QList<int> shown = files::wholeNumbers(ids, QStringLiteral("ids"), 0);
+    m_order.setOnly(QSet<int>(shown.cbegin(), shown.cend()));
     chooseSomeRow();
     wakeLoader();
 }
@@ -97,9 +97,7 @@ void PictureTable::setPath(int id, const QString &path)
 
 void PictureTable::removeIds(const QVariantList &ids)
 {
-    QList<int> gone;
-    for (const QVariant &id : ids)
-        gone.append(id.toInt());
+    const QList<int> gone = files::wholeNumbers(ids, QStringLiteral("ids"), 0);
     if (gone.isEmpty())
         return;
     m_model.removeIds(gone);
@@ -114,9 +112,9 @@ void PictureTable::removeIds(const QVariantList &ids)
 
 QString PictureTable::pathBeside(int rows) const
 {
-    const int row = currentIndex().row() + rows;
+    const qint64 row = qint64(currentIndex().row()) + rows;
     return currentIndex().isValid() && row >= 0 && row < m_order.rowCount()
-               ? m_model.row(m_order.mapToSource(m_order.index(row, 0)).row()).path
+               ? m_model.row(m_order.mapToSource(m_order.index(int(row), 0)).row()).path
                : QString();
 }
 

@@ -2,6 +2,8 @@
 
 #include "app/window/pictures/picture_delegate.h"
 
+#include "platform/foundation/raised.h"
+
 #include <QElapsedTimer>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -20,10 +22,14 @@ constexpr int pauseMs = 4;
 StatusKind kindOf(const QString &word)
 {
     static const QHash<QString, StatusKind> kinds = {
-        {QStringLiteral("waiting"), StatusKind::Waiting}, {QStringLiteral("planned"), StatusKind::Planned},
-        {QStringLiteral("busy"), StatusKind::Busy},       {QStringLiteral("good"), StatusKind::Good},
-        {QStringLiteral("bad"), StatusKind::Bad},         {QStringLiteral("caution"), StatusKind::Caution}};
-    return kinds.value(word, StatusKind::None);
+        {QStringLiteral("none"), StatusKind::None},       {QStringLiteral("waiting"), StatusKind::Waiting},
+        {QStringLiteral("planned"), StatusKind::Planned}, {QStringLiteral("busy"), StatusKind::Busy},
+        {QStringLiteral("good"), StatusKind::Good},       {QStringLiteral("bad"), StatusKind::Bad},
+        {QStringLiteral("caution"), StatusKind::Caution}};
+    if (!kinds.contains(word))
+        throw platform::Raised::typeError(
+            QStringLiteral("Expected a kind of status for kind but received \"%1\"").arg(word));
+    return kinds.value(word);
 }
 
 } // namespace
@@ -134,7 +140,7 @@ void PictureTable::step(int rows)
     if (last < 0)
         return;
     const int now = currentIndex().isValid() ? currentIndex().row() : 0;
-    setCurrentIndex(m_order.index(qBound(0, now + rows, last), PictureModel::Name));
+    setCurrentIndex(m_order.index(int(qBound(qint64(0), qint64(now) + rows, qint64(last))), PictureModel::Name));
 }
 
 void PictureTable::selectId(int id)
@@ -169,9 +175,10 @@ void PictureTable::setPlan(int id, const QString &newName, const QString &newSiz
 
 void PictureTable::setStatus(int id, const QString &kind, const QString &text, const QString &detail)
 {
+    const StatusKind status = kindOf(kind);
     const int index = m_model.indexOfId(id);
     if (index >= 0)
-        m_model.setStatus(index, kindOf(kind), text, detail);
+        m_model.setStatus(index, status, text, detail);
 }
 
 QVariant PictureTable::shown(int id) const

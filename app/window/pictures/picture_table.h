@@ -71,6 +71,8 @@ public:
     Q_INVOKABLE void showAll();
     /** The chosen rows, in the order shown. */
     Q_INVOKABLE QVariantList selectedIds() const;
+    /** Chooses all rows. */
+    Q_INVOKABLE void selectAll() override { QTableView::selectAll(); }
     /** Moves the current row by @p rows; stays at the ends. */
     Q_INVOKABLE void step(int rows);
     Q_INVOKABLE void selectId(int id);

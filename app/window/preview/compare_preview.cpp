@@ -3,10 +3,12 @@
 #include "app/window/look/theme.h"
 #include "app/window/preview/preview_host.h"
 #include "app/window/preview/preview_paint.h"
+
+#include "files/services/fields.h"
 #include "platform/foundation/memory_left.h"
+#include "platform/foundation/raised.h"
 
 #include <QFocusEvent>
-#include <QJSEngine>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -77,15 +79,15 @@ void ComparePreview::reload()
 
 void ComparePreview::showResult(const QVariantMap &result)
 {
-    const auto deeds = deedsFrom(result.value(QStringLiteral("deeds")).toList());
-    if (!deeds) {
-        if (QJSEngine *engine = qjsEngine(this))
-            engine->throwError(QJSValue::TypeError, deeds.error().message);
-        return;
-    }
-    const QSize size(result.value(QStringLiteral("width")).toInt(), result.value(QStringLiteral("height")).toInt());
-    const auto text = [&result](const char *name) { return result.value(QString::fromLatin1(name)).toString(); };
-    m_wanted = {*deeds, size, text("message"), text("type"), text("quality")};
+    const files::Fields fields(result, QStringLiteral("result"),
+                               {QStringLiteral("deeds"), QStringLiteral("width"), QStringLiteral("height"),
+                                QStringLiteral("type"), QStringLiteral("quality"), QStringLiteral("message"),
+                                QStringLiteral("bytes")});
+    const auto deeds = deedsFrom(fields.list("deeds"));
+    if (!deeds)
+        throw platform::Raised::typeError(deeds.error().message);
+    const QSize size(fields.whole("width", 0), fields.whole("height", 0));
+    m_wanted = {*deeds, size, fields.text("message"), fields.text("type"), fields.text("quality")};
     m_estimate.forget();
     m_asked.start(0);
 }

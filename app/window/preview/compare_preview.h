@@ -9,7 +9,6 @@
 #include "views/myMainPhotoView.h"
 
 #include <QImage>
-#include <QJSValue>
 #include <QPixmap>
 #include <QTimer>
 #include <QVariantMap>
@@ -73,9 +72,9 @@ public:
      * A frame on the original that can be moved and sized: {x, y, width, height: pixels of the upright original; ratio:
      * width by height to keep, 0 for free}; null takes it away. Meanwhile the result is shown at the original's scale.
      */
-    Q_INVOKABLE void setCropFrame(const QJSValue &frame);
+    Q_INVOKABLE void setCropFrame(const QVariantMap &frame);
     /** A Picture that is drawn over the whole original, or null; it is seen where there is a crop frame. */
-    Q_INVOKABLE void setOverlay(const QJSValue &picture);
+    Q_INVOKABLE void setOverlay(const platform::Picture &picture);
 
     /** Covers the parent from now on, also when that changes its size. */
     void coverParent();

@@ -1,9 +1,8 @@
-#include "app/seam/picture_object.h"
-#include "app/seam/seam.h"
 #include "app/window/preview/compare_preview.h"
 #include "app/window/preview/preview_host.h"
 #include "app/window/preview/preview_paint.h"
 
+#include "files/services/fields.h"
 #include "platform/graphics/resample.h"
 #include "views/bounds_text.h"
 
@@ -11,22 +10,23 @@
 
 namespace window {
 
-void ComparePreview::setCropFrame(const QJSValue &frame)
+void ComparePreview::setCropFrame(const QVariantMap &frame)
 {
-    const QVariantMap map = frame.toVariant().toMap();
-    const auto whole = [&map](const char *name) { return qRound(map.value(QString::fromLatin1(name)).toDouble()); };
+    const files::Fields fields(frame, QStringLiteral("frame"),
+                               {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"),
+                                QStringLiteral("height"), QStringLiteral("ratio")});
+    // No picture is larger, and sums of two of them are still whole numbers.
+    static constexpr double most = 1'000'000'000;
+    const auto whole = [&fields](const char *name) { return qRound(qBound(-most, fields.number(name, 0), most)); };
     const bool wasShown = m_cropFrame->isShown();
-    m_cropFrame->setFrame(QRect(whole("x"), whole("y"), whole("width"), whole("height")),
-                          map.value(QStringLiteral("ratio")).toDouble());
+    m_cropFrame->setFrame(QRect(whole("x"), whole("y"), whole("width"), whole("height")), fields.number("ratio", 0));
     if (wasShown != m_cropFrame->isShown())
         m_asked.start(0);
 }
 
-void ComparePreview::setOverlay(const QJSValue &picture)
+void ComparePreview::setOverlay(const platform::Picture &picture)
 {
-    const script::Seam *seam = script::Seam::of(qjsEngine(this));
-    const auto *object = seam ? qobject_cast<script::PictureObject *>(seam->objectOf(picture)) : nullptr;
-    m_overlay = object ? object->picture() : platform::Picture();
+    m_overlay = picture;
     prepareOverlay();
 }
 

@@ -1,5 +1,6 @@
 #include "app/window/properties/property_tree.h"
 
+#include "platform/foundation/raised.h"
 #include "platform/imageio/metadata/property_labels.h"
 #include "platform/imageio/source/image_source.h"
 
@@ -143,10 +144,13 @@ int PropertyTree::copyChosen() const
 
 QString PropertyTree::copyPlace(const QString &form) const
 {
+    const bool inMinutes = form == QLatin1String("minutes");
+    if (!inMinutes && form != QLatin1String("degrees"))
+        throw platform::Raised::typeError(
+            QStringLiteral("Expected \"degrees\" or \"minutes\" for form but received \"%1\"").arg(form));
     if (!m_place)
         return {};
-    const QString words =
-        placeWords(*m_place, form == QLatin1String("minutes") ? PlaceForm::Minutes : PlaceForm::Degrees);
+    const QString words = placeWords(*m_place, inMinutes ? PlaceForm::Minutes : PlaceForm::Degrees);
     QGuiApplication::clipboard()->setText(words);
     return words;
 }

@@ -3,6 +3,8 @@
 #include "app/window/look/theme.h"
 #include "app/window/slots/slot_delegate.h"
 
+#include "files/services/fields.h"
+
 #include <QContextMenuEvent>
 #include <QDrag>
 #include <QDragMoveEvent>
@@ -67,11 +69,12 @@ void SlotList::setActive(bool active)
 void SlotList::setSlots(const QVariantList &slots)
 {
     std::vector<Slot> shown;
-    for (const QVariant &entry : slots) {
-        const QVariantMap slot = entry.toMap();
-        const auto text = [&slot](const char *name) { return slot.value(QString::fromLatin1(name)).toString(); };
+    for (qsizetype i = 0; i < slots.size(); ++i) {
+        const files::Fields slot(slots.at(i), QStringLiteral("slots[%1]").arg(i),
+                                 {QStringLiteral("key"), QStringLiteral("label"), QStringLiteral("note"),
+                                  QStringLiteral("problem"), QStringLiteral("count")});
         shown.push_back(
-            {text("key"), text("label"), text("note"), text("problem"), slot.value(QStringLiteral("count")).toInt()});
+            {slot.text("key"), slot.text("label"), slot.text("note"), slot.text("problem"), slot.whole("count", 0)});
     }
     m_rows.setSlots(shown);
     makeShortcuts();

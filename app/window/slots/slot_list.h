@@ -22,7 +22,7 @@ class SlotList : public QListView
     Q_PROPERTY(bool active READ isActive WRITE setActive)
     Q_PROPERTY(int count READ count)
     /** The row that the menu and the keyboard work on; -1 where there is none. */
-    Q_PROPERTY(int current READ current)
+    Q_PROPERTY(int currentRow READ current)
 
 public:
     explicit SlotList(QWidget *parent = nullptr);

@@ -53,7 +53,7 @@ export class HandPane extends Pane {
         this.list.foldersDropped.connect(guard("hand.drop", (paths) => this.addFolders(paths)));
         this.list.menuChosen.connect(guard("hand.menu", (row, action) => this.act(row, action)));
         this.list.currentSlotChanged.connect(guard("hand.current", () => this.showMore()));
-        this.list.setMenu(this.menuTexts(), this.menuActions());
+        this.list.setMenu(this.menuTexts(), this.menuActions().map((action) => action || ""));
         this.askName(false);
     }
 
@@ -210,7 +210,7 @@ export class HandPane extends Pane {
     }
 
     showMore() {
-        const row = this.list.current;
+        const row = this.list.currentRow;
         const actions = this.menuActions().map((action) => (row >= 0 || action === "clear" ? action : null));
         this.form.setMenu("handMore", this.menuTexts(), actions, guard("hand.more", (action) => this.act(row, action)));
         this.form.control("handMore").enabled = this.settings.slots.length > 0;

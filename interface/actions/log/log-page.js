@@ -49,7 +49,9 @@ export class LogPage {
         this.comments = commentsOf(files);
         this.reverting = new CommentJob();
         this.form = shell.loadForm("actions/log/log-page.ui");
+        /** @type {import("quorlin/shell").LogTable} */
         this.table = this.form.control("logTable");
+        /** @type {import("quorlin/shell").RunList} */
         this.runs = this.form.control("logRuns");
         this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder"),
                              qsTr("Old comment"), qsTr("New comment")],
@@ -124,7 +126,7 @@ export class LogPage {
 
     look() {
         this.showColumns();
-        this.table.look(this.form.control("logSearch").text, this.form.value("logStatus"),
+        this.table.look(this.form.control("logSearch").text, String(this.form.value("logStatus")),
                         this.form.value("logKind") === COMMENTS);
     }
 

@@ -95,7 +95,7 @@ export class SortTree {
     }
 
     showAll() {
-        this.tree.chosen = "";
+        this.tree.chosenFolder = "";
     }
 
     /** There is no plan, since something is wrong with the settings. */
@@ -108,7 +108,7 @@ export class SortTree {
 
     /** The list shows the files that go into the chosen folder; all of them where none is chosen. */
     showChosen() {
-        const chosen = this.book === null ? "" : this.tree.chosen;
+        const chosen = this.book === null ? "" : this.tree.chosenFolder;
         this.form.control("sortShowAll").visible = chosen !== "";
         if (chosen === "") {
             this.list.showAll();

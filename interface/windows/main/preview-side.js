@@ -144,7 +144,7 @@ export class PreviewSide {
     }
 
     closeLarge() {
-        this.large.hide();
+        this.large.visible = false;
         (this.from || this.window.pictures).setFocus();
         this.from = null;
     }

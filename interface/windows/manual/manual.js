@@ -32,14 +32,14 @@ export class Manual {
         this.form.control("manualForwardButton").clicked.connect(guard("manual", handlers.manualForward));
         this.search.returnPressed.connect(guard("manualSearch", () => this.findNext()));
         this.search.textEdited.connect(guard("manualSearch", () => this.note("")));
-        this.list.chosen.connect(guard("manualPages", (name) => this.view.open(name)));
+        this.list.chosen.connect(guard("manualPages", (name) => this.view.open(name, "")));
         this.view.pageShown.connect(guard("manual", () => this.showState()));
         shell.theme.changed.connect(guard("manual", () => this.view.drawAnew()));
     }
 
     /** Shows the page of that name; the first where there is none. */
     open(name) {
-        this.view.open(this.pages.some((page) => page.name === name) ? name : this.pages[0].name);
+        this.view.open(this.pages.some((page) => page.name === name) ? name : this.pages[0].name, "");
         this.form.show();
         this.form.raise();
         this.view.setFocus();

@@ -83,7 +83,7 @@ export class SaveAs {
         this.view.showResult({ deeds: target.alpha ? [] : [{ do: "flatten" }], width: this.photo.width,
                                height: this.photo.height,
                                type: target.id, quality: target.quality
-                                   ? this.form.value("pubJPEGcompression") : "", message: "" });
+                                   ? String(this.form.value("pubJPEGcompression")) : "", message: "" });
         this.showSize(this.view.estimatedBytes);
     }
 

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/seam/service_class.h"
+
+#include <QJSValue>
+#include <QObject>
+
+namespace script {
+
+class Seam;
+
+/**
+ * Calls a function of a script each time an object emits a signal, with the values of the signal as an operation would answer them.
+ * It goes when the object goes; its parent is the seam.
+ */
+class SignalHandler : public QObject
+{
+public:
+    SignalHandler(QObject &sender, const Signal &signal, QJSValue function, Seam &seam);
+    int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;
+
+private:
+    void run(void **arguments);
+
+    Seam &m_seam;
+    std::vector<Parameter> m_parameters;
+    QJSValue m_function;
+};
+
+} // namespace script
