@@ -135,6 +135,15 @@ double Bitmap::verticalDpi() const
     return m_pixels ? statedOrDefault(m_pixels->resolution.vertical) : defaultDpi;
 }
 
+Bitmap Bitmap::withDpi(double horizontal, double vertical) const
+{
+    if (!m_pixels || (horizontal == horizontalDpi() && vertical == verticalDpi()))
+        return *this;
+    Pixels pixels = *m_pixels;
+    pixels.resolution = {horizontal, vertical};
+    return Bitmap(std::make_shared<const Pixels>(std::move(pixels)));
+}
+
 std::optional<JpegQuantisation> Bitmap::jpegQuantisation() const
 {
     return m_pixels ? m_pixels->quantisation : std::nullopt;

@@ -71,6 +71,9 @@ public:
     /** Set where the pixels come from a JPEG. */
     std::optional<JpegQuantisation> jpegQuantisation() const;
 
+    /** The same pixels with another resolution, in dots per inch; 0 for one that is not stated. */
+    Bitmap withDpi(double horizontal, double vertical) const;
+
     /** The size in points: pixels x 72 / dots per inch. */
     QSizeF pointSize() const;
 

@@ -43,6 +43,16 @@ public:
         image.get_image()->Type = space;
         return image;
     }
+    /** The image, which has the memory from now on, in the colours and with the profile of @p model. */
+    vips::VImage takenLike(const vips::VImage &model)
+    {
+        const vips::VImage image = taken(model.interpretation());
+        const QByteArray profile = iccProfileOf(model);
+        if (!profile.isEmpty())
+            vips_image_set_blob_copy(image.get_image(), VIPS_META_ICC_NAME, profile.constData(),
+                                     size_t(profile.size()));
+        return image;
+    }
 
 private:
     QSize m_size;

@@ -16,11 +16,12 @@ import source_tree as tree
 MAY_ENTER = {
     "platform": set(),
     "text": {"platform"},
-    "image": {"platform"},
+    "image": {"platform", "text"},
     "presets": {"platform"},
     "views": {"platform"},
     "files": {"platform", "text", "image"},
     "meta": {"platform", "files"},
+    "jobs": {"platform", "text", "image", "files", "meta", "presets"},
     "app": set(tree.ROOMS),
     "tools": set(tree.ROOMS),
     "tests": set(tree.ROOMS) | {"tools"},
@@ -37,6 +38,7 @@ SUB_ROOMS = {
         "disk": "foundation file",
         "controls": "foundation",
         "graphics": "foundation",
+        "effects": "foundation graphics",
         # Pictures as files: bytes first, then one folder for each kind of file, then what is said and done about all of them.
         "imageio/bytes": "foundation file",
         "imageio/formats": "foundation graphics imageio/bytes",
@@ -65,7 +67,7 @@ SUB_ROOMS = {
         "imageio/comments": "foundation file imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/exif imageio/source",
         "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },
-    "image": {"": "", "services": "*"},
+    "image": {"": "", "recipe": "*", "services": "*"},
     "files": {
         "items": "",
         "planning": "",
@@ -105,7 +107,7 @@ SUB_ROOMS = {
 }
 # Qt modules by room. Nothing below views and app needs a widget, so that services run in a process without windows.
 SERVICE_QT = {"QtCore", "QtGui", "QtQml"}
-QT_MODULES = {room: SERVICE_QT for room in ("image", "files", "meta", "presets")}
+QT_MODULES = {room: SERVICE_QT for room in ("image", "files", "meta", "presets", "jobs")}
 QT_MODULES.update({"text": {"QtCore"}, "platform": {"QtCore", "QtGui"}, "views": SERVICE_QT})
 # The same for sub-rooms of the room that has windows, and for the library that is linked where there are none.
 WITHOUT_WIDGETS = ("setup", "network", "printing", "services", "seam", "jobs", "script", "modules", "preview", "models")
@@ -114,14 +116,14 @@ QT_OF_TARGET = {"quorlin_script": SERVICE_QT | {"QtNetwork"}}
 
 # Third-party headers and targets, by the one room that may include or link them.
 THIRD_PARTY = [
-    (r"(vips/|VImage|vips8?\b)", "platform"), (r"exiv2/", "platform"), (r"cairo", "platform"),
+    (r"(vips/|VImage|vips8?\b)", "platform"), (r"exiv2/", "platform"), (r"(cairo|pango/)", "platform"),
     (r"(jpeglib|jerror|jmorecfg|turbojpeg)\.h|jpeglib\.h", "platform"), (r"plist/", "platform"), (r"openjpeg\.h", "platform"), (r"libdeflate\.h", "platform"),
     (r"(glib|gobject|gio)(/|\.h|-object\.h)", "platform"), (r"(tiff|png|zlib|lcms2|webp/.*|libheif/.*)\.?h?$", "platform"),
     (r"sqlite3\.h", "presets"), (r"tl/expected\.hpp", "platform"),
 ]
 LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "PkgConfig::CAIRO": "platform",
                 "PkgConfig::JPEG": "platform", "PkgConfig::TURBOJPEG": "platform", "PkgConfig::PLIST": "platform", "PkgConfig::OPENJPEG": "platform",
-                "PkgConfig::HEIF": "platform",
+                "PkgConfig::HEIF": "platform", "PkgConfig::LCMS": "platform", "PkgConfig::PANGO": "platform",
                 "PkgConfig::DEFLATE": "platform", "PkgConfig::SQLITE": "presets", "SQLite::SQLite3": "presets"}
 SYSTEM = re.compile(r"(sys|linux|netinet)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|sched|signal|pwd|errno|time|malloc|syslog)\.h")
 STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits)\.h")

@@ -2,7 +2,7 @@
 import re
 from pathlib import Path
 
-ROOMS = ("app", "views", "image", "files", "meta", "presets", "text", "platform")
+ROOMS = ("app", "jobs", "views", "image", "files", "meta", "presets", "text", "platform")
 USERS = ("tools", "tests", "bench")
 CPP = {".h", ".cpp"}
 BUILT = ("build", ".git", ".cache")

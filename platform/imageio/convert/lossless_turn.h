@@ -14,4 +14,7 @@ namespace platform {
  */
 std::optional<QByteArray> turnedWithoutLoss(const ImageSource &source, ExactTurn turn);
 
+/** Whether that is so, as far as the header tells; a damaged file is found when it is turned. */
+bool canTurnWithoutLoss(const ImageSource &source, ExactTurn turn);
+
 } // namespace platform

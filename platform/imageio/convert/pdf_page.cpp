@@ -133,6 +133,23 @@ QByteArray pageOfJpeg(const QByteArray &file, const QByteArray &profile, QSizeF 
 
 } // namespace
 
+Result<QByteArray> pdfPageOf(const Bitmap &bitmap)
+{
+    if (bitmap.isNull())
+        return failure(ErrorCode::InvalidValue,
+                       QCoreApplication::translate("platform", "There is no picture to write"));
+    try {
+        initVips();
+        return memoryIsLeftFor(memoryNeedOfPage(bitmap.pixels().image),
+                               QCoreApplication::translate("platform", "Writing the picture"))
+            .map([&] { return pageOfPixels(bitmap, bitmap.pointSize()); });
+    } catch (const vips::VError &error) {
+        return failure(
+            ErrorCode::WriteFailed,
+            QCoreApplication::translate("platform", "The page could not be made: %1").arg(takeVipsError(error)));
+    }
+}
+
 Result<QByteArray> pdfPageOf(const ImageSource &source)
 {
     const ImageSource::File *file = source.file();

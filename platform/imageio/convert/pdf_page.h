@@ -15,4 +15,7 @@ namespace platform {
  */
 Result<QByteArray> pdfPageOf(const ImageSource &source);
 
+/** The same of pixels, without loss; the page has the size of the bitmap in points. */
+Result<QByteArray> pdfPageOf(const Bitmap &bitmap);
+
 } // namespace platform

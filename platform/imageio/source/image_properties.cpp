@@ -76,6 +76,27 @@ QString ImageSource::colorSpaceName() const
     }
 }
 
+Result<PixelFacts> ImageSource::pixelFacts() const
+{
+    if (!m_file)
+        return PixelFacts();
+    try {
+        const vips::VImage image = inForm(openImage(m_file->bytes, m_file->content));
+        constexpr int bitsPerByte = 8;
+        PixelFacts facts;
+        if (image.interpretation() == VIPS_INTERPRETATION_CMYK)
+            facts.model = ColorModel::Cmyk;
+        else if (image.bands() < 3)
+            facts.model = ColorModel::Gray;
+        facts.hasAlpha = hasTransparency(image);
+        facts.bits = bytesPerComponent(image) * bitsPerByte;
+        facts.iccProfile = iccProfileOf(image);
+        return facts;
+    } catch (const vips::VError &error) {
+        return unreadable(m_file->name(), takeVipsError(error));
+    }
+}
+
 QByteArray ImageSource::iccProfile() const
 {
     if (!m_file)

@@ -24,6 +24,15 @@ struct DecodeOptions
     std::optional<FileFormat> written = {};
 };
 
+/** What a header tells of the pixels to come. */
+struct PixelFacts
+{
+    ColorModel model = ColorModel::Rgb;
+    bool hasAlpha = false;
+    int bits = 8;          ///< a component, as it is decoded: 8, 16, or 32 for floating point
+    QByteArray iccProfile; ///< empty where there is none
+};
+
 /**
  * A picture file that was opened and whose header was read; pixels are decoded when they are asked for.
  *
@@ -56,6 +65,8 @@ public:
     QString colorSpaceName() const;
     /** The colour profile of image 0; empty where it has none. Reads the header again. */
     QByteArray iccProfile() const;
+    /** What the pixels of image 0 will be. Reads the header again; fails with Unreadable. */
+    Result<PixelFacts> pixelFacts() const;
     /** Pixels of image 0 as stored, and turned upright by the orientation it states. */
     QSize storedSize() const;
     QSize uprightSize() const;

@@ -1,0 +1,139 @@
+#include "platform/effects/colour_space.h"
+
+#include "platform/graphics/icc_profile.h"
+#include "platform/graphics/pixels.h"
+
+#include <lcms2.h>
+
+#include <QCoreApplication>
+#include <QTemporaryFile>
+
+#include <array>
+#include <memory>
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+
+struct CloseProfile
+{
+    void operator()(void *profile) const { cmsCloseProfile(profile); }
+};
+using Profile = std::unique_ptr<void, CloseProfile>;
+
+/** A profile that comes with the library of pictures. */
+QByteArray suppliedProfile(const char *name)
+{
+    initVips();
+    VipsBlob *blob = nullptr;
+    if (vips_profile_load(name, &blob, nullptr) != 0 || !blob)
+        return {};
+    size_t length = 0;
+    const void *bytes = vips_blob_get(blob, &length);
+    QByteArray profile(static_cast<const char *>(bytes), qsizetype(length));
+    vips_area_unref(VIPS_AREA(blob));
+    return profile;
+}
+
+/** Primaries and curve of Adobe RGB (1998) Color Image Encoding, 2005, section 4.3. */
+QByteArray adobeRgb()
+{
+    const cmsCIExyY white = {0.3127, 0.3290, 1};
+    const cmsCIExyYTRIPLE primaries = {{0.64, 0.33, 1}, {0.21, 0.71, 1}, {0.15, 0.06, 1}};
+    constexpr double gamma = 563.0 / 256;
+    cmsToneCurve *curve = cmsBuildGamma(nullptr, gamma);
+    const std::array<cmsToneCurve *, 3> curves = {curve, curve, curve};
+    const Profile profile(cmsCreateRGBProfile(&white, &primaries, curves.data()));
+    cmsFreeToneCurve(curve);
+    if (!profile)
+        return {};
+    constexpr double widelyRead = 2.1;
+    cmsSetProfileVersion(profile.get(), widelyRead);
+    cmsMLU *name = cmsMLUalloc(nullptr, 1);
+    cmsMLUsetASCII(name, "en", "US", "Adobe RGB (1998)");
+    cmsWriteTag(profile.get(), cmsSigProfileDescriptionTag, name);
+    cmsMLUfree(name);
+    cmsUInt32Number length = 0;
+    cmsSaveProfileToMem(profile.get(), nullptr, &length);
+    QByteArray bytes(qsizetype(length), '\0');
+    return cmsSaveProfileToMem(profile.get(), bytes.data(), &length) ? bytes : QByteArray();
+}
+
+VImage inGrey(const VImage &image)
+{
+    const VImage plain = convertedToSrgb(image);
+    const bool isDeep = plain.format() == VIPS_FORMAT_USHORT;
+    return plain.colourspace(isDeep ? VIPS_INTERPRETATION_GREY16 : VIPS_INTERPRETATION_B_W);
+}
+
+VImage inProfile(const VImage &image, const QByteArray &profile)
+{
+    // Only a conversion in one go is exact, and it takes the profile from a file.
+    QTemporaryFile file;
+    if (!file.open() || file.write(profile) != profile.size() || !file.flush())
+        throw vips::VError("no temporary file can be made");
+    const bool isGrey = image.bands() < 3;
+    const bool isDeep = image.format() == VIPS_FORMAT_USHORT;
+    const bool hasProfile = image.get_typeof(VIPS_META_ICC_NAME) != 0;
+    const VImage colours = isGrey && !hasProfile
+                               ? image.colourspace(isDeep ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB)
+                               : image;
+    return inMemory(colours.icc_transform(
+        QFile::encodeName(file.fileName()).constData(),
+        VImage::option()
+            ->set("embedded", hasProfile)
+            ->set("input_profile", image.interpretation() == VIPS_INTERPRETATION_CMYK ? "cmyk" : "srgb")
+            ->set("intent", VIPS_INTENT_RELATIVE)
+            ->set("black_point_compensation", true)
+            ->set("depth", isDeep ? 16 : 8)));
+}
+
+} // namespace
+
+QByteArray iccProfileFor(ColourSpace space)
+{
+    switch (space) {
+    case ColourSpace::Srgb:
+        return suppliedProfile("srgb");
+    case ColourSpace::DisplayP3:
+        return suppliedProfile("p3");
+    case ColourSpace::AdobeRgb:
+        return adobeRgb();
+    case ColourSpace::Gray:
+        break;
+    }
+    return {};
+}
+
+bool meansSameColours(const QByteArray &iccProfile, const QByteArray &other)
+{
+    const auto isPlain = [](const QByteArray &profile) { return profile.isEmpty() || isSrgb(profile); };
+    return iccProfile == other || (isPlain(iccProfile) && isPlain(other));
+}
+
+bool canConvertTo(const QByteArray &iccProfile)
+{
+    const Profile profile(cmsOpenProfileFromMem(iccProfile.constData(), cmsUInt32Number(iccProfile.size())));
+    if (!profile || !cmsIsIntentSupported(profile.get(), INTENT_RELATIVE_COLORIMETRIC, LCMS_USED_AS_OUTPUT))
+        return false;
+    const cmsColorSpaceSignature space = cmsGetColorSpace(profile.get());
+    return space == cmsSigRgbData || space == cmsSigGrayData || space == cmsSigCmykData;
+}
+
+Result<Bitmap> convertedTo(const Bitmap &bitmap, const QByteArray &iccProfile)
+{
+    if (bitmap.isNull())
+        return failure(ErrorCode::InvalidValue, QCoreApplication::translate("platform", "There is no picture to draw"));
+    try {
+        initVips();
+        const Bitmap::Pixels &pixels = bitmap.pixels();
+        const VImage image = inForm(pixels.image);
+        const VImage made = iccProfile.isEmpty() ? inGrey(image) : inProfile(image, iccProfile);
+        return bitmapFromImage(made, pixels.resolution, pixels.quantisation);
+    } catch (const vips::VError &error) {
+        return failure(ErrorCode::InvalidValue, takeVipsError(error));
+    }
+}
+
+} // namespace platform

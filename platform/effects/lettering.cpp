@@ -1,0 +1,94 @@
+#include "platform/effects/lettering.h"
+
+#include "platform/graphics/pixels.h"
+#include "platform/graphics/resample.h"
+
+#include <pango/pangocairo.h>
+
+#include <memory>
+
+namespace platform {
+namespace {
+
+using vips::VImage;
+
+struct FreeDescription
+{
+    void operator()(PangoFontDescription *description) const { pango_font_description_free(description); }
+};
+using Description = std::unique_ptr<PangoFontDescription, FreeDescription>;
+
+constexpr const char *usualFont = "Sans";
+
+bool isGeneric(const QString &family)
+{
+    return family.compare(QLatin1String("sans"), Qt::CaseInsensitive) == 0 ||
+           family.compare(QLatin1String("serif"), Qt::CaseInsensitive) == 0 ||
+           family.compare(QLatin1String("monospace"), Qt::CaseInsensitive) == 0;
+}
+
+bool isInstalled(const QString &family)
+{
+    PangoFontFamily **families = nullptr;
+    int count = 0;
+    pango_font_map_list_families(pango_cairo_font_map_get_default(), &families, &count);
+    bool isThere = false;
+    for (int i = 0; i < count && !isThere; ++i)
+        isThere = family.compare(QString::fromUtf8(pango_font_family_get_name(families[i])), Qt::CaseInsensitive) == 0;
+    g_free(families);
+    return isThere;
+}
+
+VipsAlign alignmentOf(Qt::Alignment lines)
+{
+    if (lines.testFlag(Qt::AlignRight))
+        return VIPS_ALIGN_HIGH;
+    return lines.testFlag(Qt::AlignHCenter) ? VIPS_ALIGN_CENTRE : VIPS_ALIGN_LOW;
+}
+
+/** One band: how much of each pixel is covered. */
+VImage coverageOf(const Lettering &lettering)
+{
+    const QString font = lettering.font.isEmpty() ? QString::fromLatin1(usualFont) : lettering.font;
+    const Description description(pango_font_description_from_string(font.toUtf8().constData()));
+    pango_font_description_set_absolute_size(description.get(), lettering.size * PANGO_SCALE);
+    const std::unique_ptr<char, decltype(&g_free)> name(pango_font_description_to_string(description.get()), g_free);
+    return VImage::text(lettering.text.toHtmlEscaped().toUtf8().constData(), // the library looks for markup in it
+                        VImage::option()->set("font", name.get())->set("align", alignmentOf(lettering.lines)));
+}
+
+} // namespace
+
+bool hasFont(const QString &font)
+{
+    const Description description(pango_font_description_from_string(font.toUtf8().constData()));
+    const char *family = pango_font_description_get_family(description.get());
+    return family && (isGeneric(QString::fromUtf8(family)) || isInstalled(QString::fromUtf8(family)));
+}
+
+Result<Bitmap> drawn(const Lettering &lettering)
+{
+    constexpr double largestSize = 20'000;
+    constexpr qsizetype longest = 10'000;
+    if (lettering.text.trimmed().isEmpty() || !(lettering.size > 0))
+        return failure(ErrorCode::InvalidValue, QStringLiteral("There is no text to draw"));
+    if (lettering.size > largestSize || lettering.text.size() > longest)
+        return failure(ErrorCode::TooLarge, QStringLiteral("The text is too large"));
+    try {
+        initVips();
+        const VImage coverage = coverageOf(lettering);
+        if (!fitsMemoryBudget(coverage.width(), coverage.height(), 4, 1))
+            return failure(ErrorCode::TooLarge, QStringLiteral("The text is too large"));
+        const QColor color = lettering.color.toRgb();
+        const VImage plain =
+            coverage.new_from_image({double(color.red()), double(color.green()), double(color.blue())});
+        const VImage letters = plain.copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB))
+                                   .cast(VIPS_FORMAT_UCHAR)
+                                   .bandjoin(coverage.linear(color.alphaF(), 0).rint().cast(VIPS_FORMAT_UCHAR));
+        return bitmapFromImage(letters);
+    } catch (const vips::VError &error) {
+        return failure(ErrorCode::TooLarge, takeVipsError(error));
+    }
+}
+
+} // namespace platform

@@ -1,0 +1,29 @@
+#include "platform/file/file_note.h"
+
+#include <QFile>
+
+#include <sys/xattr.h>
+
+namespace platform {
+namespace {
+
+constexpr const char *attribute = "user.quorlin.result";
+
+} // namespace
+
+bool attachNote(const QString &path, const QByteArray &note)
+{
+    return ::lsetxattr(QFile::encodeName(path).constData(), attribute, note.constData(), size_t(note.size()), 0) == 0;
+}
+
+QByteArray attachedNote(const QString &path)
+{
+    constexpr qsizetype longest = 4096;
+    QByteArray note(longest, '\0');
+    const ssize_t length =
+        ::lgetxattr(QFile::encodeName(path).constData(), attribute, note.data(), size_t(note.size()));
+    note.resize(qMax<qsizetype>(length, 0));
+    return note;
+}
+
+} // namespace platform
