@@ -1,0 +1,153 @@
+#include "image/recipe/encoding.h"
+
+#include "image/recipe/output_kind.h"
+#include "image/recipe/sentence.h"
+#include "platform/file/atomic_file.h"
+#include "platform/graphics/compose.h"
+#include "platform/imageio/convert/lossless_turn.h"
+#include "platform/imageio/convert/pdf_page.h"
+#include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/exif/orientation_mark.h"
+
+namespace image {
+namespace {
+
+using platform::Bitmap;
+using platform::ImageSource;
+using platform::Result;
+
+constexpr int usualQuality = 85;
+constexpr int leastQuality = 5;
+constexpr int mostQuality = 100;
+
+tl::unexpected<platform::Error> impossible()
+{
+    return platform::failure(platform::ErrorCode::Unsupported, sentence("The pixels cannot stay as they are"));
+}
+
+Result<QByteArray> turnedFile(const ImageSource &source, const RightTurn &turn)
+{
+    ImageSource now = source;
+    QByteArray file;
+    for (const platform::ExactTurn step : turn.steps()) {
+        const std::optional<QByteArray> turned = platform::turnedWithoutLoss(now, step);
+        if (!turned)
+            return impossible();
+        file = *turned;
+        const Result<ImageSource> next = ImageSource::fromData(file);
+        if (!next)
+            return tl::unexpected<platform::Error>(next.error());
+        now = *next;
+    }
+    return platform::markedUpright(file);
+}
+
+/** Whether the type has a quality that can be chosen. */
+bool hasQuality(const RecipeOutput &output, OutputType type)
+{
+    const bool isLossy = type == OutputType::Jpeg || type == OutputType::Webp || type == OutputType::Avif ||
+                         type == OutputType::JpegXl || type == OutputType::Jpeg2000;
+    return isLossy && !output.isLossless;
+}
+
+/** The quality that is written; none where a JPEG keeps the tables that it came with. */
+std::optional<int> chosenQuality(const RecipeOutput &output, OutputType type, const Bitmap &bitmap)
+{
+    if (!hasQuality(output, type))
+        return std::nullopt;
+    const bool keepsTables =
+        output.type == OutputType::Original && type == OutputType::Jpeg && bitmap.jpegQuantisation().has_value();
+    return output.quality || keepsTables ? output.quality : usualQuality;
+}
+
+Result<QByteArray> encodedAt(const Bitmap &bitmap, OutputType type, std::optional<int> quality,
+                             platform::EncodeOptions options)
+{
+    if (type == OutputType::Pdf)
+        return platform::pdfPageOf(bitmap);
+    options.quality = quality;
+    return platform::encodeImage(bitmap, *formatFor(type), options);
+}
+
+/** The best quality whose file is no larger. */
+Result<QByteArray> encodedWithin(const Bitmap &bitmap, const RecipeOutput &output, OutputType type,
+                                 const platform::EncodeOptions &options)
+{
+    const auto tooLarge = [&] {
+        return platform::failure(platform::ErrorCode::TooLarge,
+                                 sentence("It cannot be made as small as %1 bytes").arg(*output.maxBytes));
+    };
+    const auto fits = [&](const Result<QByteArray> &file) { return file && file->size() <= *output.maxBytes; };
+    const std::optional<int> stated = chosenQuality(output, type, bitmap);
+    int above = output.quality.value_or(mostQuality);
+    Result<QByteArray> best = encodedAt(bitmap, type, hasQuality(output, type) && !stated ? stated : above, options);
+    if (!best || fits(best) || !hasQuality(output, type))
+        return !best || fits(best) ? best : Result<QByteArray>(tooLarge());
+    int below = leastQuality;
+    best = encodedAt(bitmap, type, below, options);
+    if (!fits(best))
+        return best ? Result<QByteArray>(tooLarge()) : best;
+    while (above - below > 1) { // below fits, above does not
+        const int middle = (above + below) / 2;
+        Result<QByteArray> file = encodedAt(bitmap, type, middle, options);
+        if (!file)
+            return file;
+        const bool isSmall = fits(file);
+        (isSmall ? below : above) = middle;
+        if (isSmall)
+            best = std::move(file);
+    }
+    return best;
+}
+
+Result<platform::EncodeOptions> optionsFor(const ImageSource &source, const RecipeOutput &output)
+{
+    platform::EncodeOptions options;
+    options.resolution = platform::WriteResolution::Yes;
+    options.isLossless = output.isLossless;
+    options.matte = output.matte;
+    if (output.metadata == KeptMetadata::None)
+        return options;
+    return source.metadata().map([&](const platform::Metadata &metadata) {
+        options.metadata = metadata.withOrientation(1);
+        return options;
+    });
+}
+
+} // namespace
+
+Result<QByteArray> fileOfSamePixels(const ImageSource &source, const RecipeOutput &output, const OutputPlan &plan)
+{
+    if (plan.type == OutputType::Pdf) {
+        if (plan.turn == RightTurn::uprightFrom(source.orientation()))
+            return platform::pdfPageOf(source);
+        return turnedFile(source, plan.turn).and_then([](const QByteArray &file) {
+            return ImageSource::fromData(file).and_then(
+                [](const ImageSource &turned) { return platform::pdfPageOf(turned); });
+        });
+    }
+    if (changesMetadata(output))
+        return impossible();
+    if (!plan.turn.isNothing())
+        return turnedFile(source, plan.turn);
+    if (source.orientation() != 1 && !plan.keepsOrientation)
+        return platform::readFile(source.path()).and_then([](const QByteArray &file) {
+            return platform::markedUpright(file);
+        });
+    return platform::readFile(source.path());
+}
+
+Result<QByteArray> encodedFile(const Bitmap &bitmap, const ImageSource &source, const RecipeOutput &output,
+                               const OutputPlan &plan)
+{
+    const Result<Bitmap> laid = holdsAlpha(plan.type) ? Result<Bitmap>(bitmap) : platform::laidOn(bitmap, output.matte);
+    return laid.and_then([&](const Bitmap &opaque) {
+        const Bitmap pixels = output.dpi ? opaque.withDpi(*output.dpi, *output.dpi) : opaque;
+        return optionsFor(source, output).and_then([&](const platform::EncodeOptions &options) {
+            return output.maxBytes ? encodedWithin(pixels, output, plan.type, options)
+                                   : encodedAt(pixels, plan.type, chosenQuality(output, plan.type, pixels), options);
+        });
+    });
+}
+
+} // namespace image

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "image/recipe/plan.h"
+#include "platform/imageio/formats/file_format.h"
+
+#include <optional>
+
+/** What the types of outputs are and hold. */
+namespace image {
+
+/** The type that a file's own content would be written as; none where it cannot. */
+std::optional<OutputType> ownTypeOf(const platform::ImageSource &source);
+
+/** The format that holds a type; none for a page. */
+std::optional<platform::FileFormat> formatFor(OutputType type);
+
+/** The bytes of the file; -1 where there is none. */
+qint64 fileBytesOf(const platform::ImageSource &source);
+
+bool holdsAlpha(OutputType type);
+
+/** True where the result says less, or another resolution, than the source. */
+bool changesMetadata(const RecipeOutput &output);
+
+/** True where that can be done to a file of the type without encoding its pixels. */
+bool canRewriteMetadata(OutputType type);
+
+/** What of the picture the output will not have, in sentences. @p end is the picture behind all operations. */
+QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,
+                     const platform::ImageSource &source);
+
+} // namespace image

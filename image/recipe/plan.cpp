@@ -1,0 +1,133 @@
+#include "image/recipe/plan.h"
+
+#include "image/recipe/output_kind.h"
+#include "image/recipe/sentence.h"
+#include "platform/imageio/convert/lossless_turn.h"
+
+#include <algorithm>
+
+namespace image {
+namespace {
+
+using platform::ImageSource;
+using platform::Result;
+
+/** What a list of operations comes to. */
+struct Way
+{
+    Stage end;
+    RightTurn turn;
+    bool computesPixels = false;
+};
+
+Result<Way> wayThrough(const QList<RecipeStep> &steps, const Way &start)
+{
+    Way way = start;
+    for (const RecipeStep &step : steps) {
+        if (step.isOff)
+            continue;
+        const Result<Change> change = changeOf(step.operation, way.end);
+        if (!change)
+            return tl::unexpected<platform::Error>(change.error());
+        way.end = change->after;
+        way.turn = way.turn.then(change->turn);
+        way.computesPixels = way.computesPixels || change->effect == Effect::Pixels;
+    }
+    return way;
+}
+
+bool canTurnStored(const ImageSource &source, const RightTurn &turn)
+{
+    const QList<platform::ExactTurn> steps = turn.steps();
+    return std::all_of(steps.begin(), steps.end(),
+                       [&source](platform::ExactTurn step) { return platform::canTurnWithoutLoss(source, step); });
+}
+
+/** Whether the output asks for another encoding, whatever becomes of the pixels. */
+bool asksForEncoding(const RecipeOutput &output, const ImageSource &source)
+{
+    if (output.quality || output.isLossless)
+        return true;
+    return output.maxBytes && *output.maxBytes < fileBytesOf(source);
+}
+
+/** Decides whether pixels are encoded again. */
+void chooseRoad(OutputPlan &plan, const Way &way, const RecipeOutput &output, const ImageSource &source)
+{
+    const std::optional<OutputType> own = ownTypeOf(source);
+    const bool isJpegPage = plan.type == OutputType::Pdf && own == OutputType::Jpeg;
+    if (way.computesPixels || asksForEncoding(output, source) || (own != plan.type && !isJpegPage))
+        return;
+    const RightTurn stored = RightTurn::uprightFrom(source.orientation()).then(way.turn);
+    const bool canTurn = stored.isNothing() || (own == OutputType::Jpeg && canTurnStored(source, stored));
+    if (!canTurn && !way.turn.isNothing())
+        return;
+    if (!canTurn && isJpegPage)
+        return;
+    if (changesMetadata(output) && !canRewriteMetadata(*own) && !isJpegPage)
+        return;
+    plan.isLossless = true;
+    plan.turn = canTurn ? stored : RightTurn();
+    plan.keepsOrientation = !canTurn;
+}
+
+OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const ImageSource &source, const Stage &stage)
+{
+    OutputPlan plan;
+    const std::optional<OutputType> own = ownTypeOf(source);
+    if (output.type == OutputType::Original && !own) {
+        plan.problem = sentence("Pictures of this type are read and not written; choose another type");
+        plan.isNotSupported = true;
+        return plan;
+    }
+    plan.type = output.type == OutputType::Original ? *own : output.type;
+    const Result<Way> way = wayThrough(recipe.operations, {stage, {}, false}).and_then([&](const Way &common) {
+        return wayThrough(stepsOf(output), common);
+    });
+    if (!way) {
+        plan.problem = way.error().message;
+        return plan;
+    }
+    plan.size = way->end.size;
+    chooseRoad(plan, *way, output, source);
+    plan.losses = lossesOf(plan, output, way->end, source);
+    return plan;
+}
+
+} // namespace
+
+Stage stageOf(const ImageSource &source)
+{
+    constexpr double pointsPerInch = 72;
+    Stage stage;
+    stage.size = source.uprightSize();
+    const QSizeF points = source.pointSize();
+    if (!points.isEmpty()) {
+        stage.horizontalDpi = stage.size.width() * pointsPerInch / points.width();
+        stage.verticalDpi = stage.size.height() * pointsPerInch / points.height();
+    }
+    const platform::PixelFacts facts = source.pixelFacts().value_or(platform::PixelFacts());
+    stage.hasAlpha = facts.hasAlpha;
+    stage.profile = facts.iccProfile;
+    stage.isGray = facts.model == platform::ColorModel::Gray;
+    return stage;
+}
+
+QList<RecipeStep> stepsOf(const RecipeOutput &output)
+{
+    QList<RecipeStep> steps = output.operations;
+    if (output.profile)
+        steps.append({*output.profile, false});
+    return steps;
+}
+
+QList<OutputPlan> planOf(const Recipe &recipe, const ImageSource &source)
+{
+    const Stage stage = stageOf(source);
+    QList<OutputPlan> plans;
+    for (const RecipeOutput &output : recipe.outputs)
+        plans.append(planned(recipe, output, source, stage));
+    return plans;
+}
+
+} // namespace image

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "image/recipe/stage.h"
+#include "platform/imageio/source/image_source.h"
+
+#include <QStringList>
+
+namespace image {
+
+/** What one output of a recipe will be for one picture. */
+struct OutputPlan
+{
+    /** A sentence where there will be none. */
+    QString problem;
+    bool isNotSupported = false; ///< because its type cannot be written
+
+    OutputType type = OutputType::Jpeg; ///< never Original
+    QSize size;                         ///< upright
+    bool isLossless = false;            ///< no pixel is encoded again
+    RightTurn turn;                     ///< where it is lossless, what is done to the stored pixels
+    bool keepsOrientation = false;      ///< the entry stays, since nothing could turn the pixels without encoding them
+    QStringList losses;                 ///< sentences
+};
+
+/** What a recipe makes of one picture, without decoding it. One plan an output; a failure before them is in each. */
+QList<OutputPlan> planOf(const Recipe &recipe, const platform::ImageSource &source);
+
+/** What is known of a picture from its header. */
+Stage stageOf(const platform::ImageSource &source);
+
+/** The output's own operations, with its profile behind them. */
+QList<RecipeStep> stepsOf(const RecipeOutput &output);
+
+/** ".jpg" for JPEG and so on. */
+QString extensionOf(OutputType type);
+/** The word that recipes and reports have for a type: "jpeg". */
+QString wordOf(OutputType type);
+
+} // namespace image

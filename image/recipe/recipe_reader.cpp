@@ -1,0 +1,164 @@
+#include "image/recipe/recipe_reader.h"
+
+#include "image/recipe/operation_reader.h"
+#include "image/recipe/recipe_keys.h"
+#include "image/recipe/sentence.h"
+#include "platform/file/regular_file.h"
+#include "text/tokens.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include <cmath>
+
+namespace image {
+namespace {
+
+using platform::Result;
+
+constexpr Word<OutputType> types[] = {
+    {"original", OutputType::Original}, {"jpeg", OutputType::Jpeg},  {"png", OutputType::Png},
+    {"tiff", OutputType::Tiff},         {"bmp", OutputType::Bmp},    {"gif", OutputType::Gif},
+    {"jp2", OutputType::Jpeg2000},      {"pdf", OutputType::Pdf},    {"webp", OutputType::Webp},
+    {"avif", OutputType::Avif},         {"jxl", OutputType::JpegXl},
+};
+constexpr Word<KeptMetadata> kinds[] = {
+    {"keep", KeptMetadata::Keep}, {"copyright", KeptMetadata::Copyright}, {"none", KeptMetadata::None}};
+constexpr Word<FileDates> dates[] = {{"now", FileDates::Now}, {"keep", FileDates::Keep}};
+constexpr Word<IfTaken> takens[] = {
+    {"number", IfTaken::Number}, {"replace", IfTaken::Replace}, {"skip", IfTaken::Skip}, {"current", IfTaken::Current}};
+
+bool hasQuality(OutputType type)
+{
+    return type == OutputType::Original || type == OutputType::Jpeg || type == OutputType::Webp ||
+           type == OutputType::Avif || type == OutputType::JpegXl || type == OutputType::Jpeg2000;
+}
+
+bool canBeLossless(OutputType type)
+{
+    return type == OutputType::Original || type == OutputType::Webp || type == OutputType::JpegXl ||
+           type == OutputType::Jpeg2000;
+}
+
+void readEncoding(RecipeKeys &keys, RecipeOutput &output)
+{
+    output.type = keys.choice("type", types).value_or(OutputType::Original);
+    if (!hasQuality(output.type))
+        keys.refuseKey("quality", sentence("this type has no quality"));
+    else if (const auto quality = keys.number("quality", {1, 100, true}))
+        output.quality = int(*quality);
+    if (!canBeLossless(output.type))
+        keys.refuseKey("lossless", sentence("this type has no choice between lossless and not"));
+    else
+        output.isLossless = keys.flag("lossless").value_or(false);
+    if (output.isLossless && output.quality)
+        keys.complain("lossless", sentence("it cannot stand beside %1").arg(QStringLiteral("quality")));
+    constexpr double largestFile = 1e15;
+    if (const auto bytes = keys.number("maxBytes", {1, largestFile, true}))
+        output.maxBytes = qint64(*bytes);
+}
+
+void checkTokens(RecipeKeys &keys, const char *key, const QString &pattern)
+{
+    if (const QStringList problems = text::tokenProblems(pattern); !problems.isEmpty())
+        keys.complain(key, problems.first());
+}
+
+void readPlace(RecipeKeys &keys, RecipeOutput &output)
+{
+    output.name = keys.text("name").value_or(output.name);
+    checkTokens(keys, "name", output.name);
+    if (output.name.trimmed().isEmpty())
+        keys.complain("name", sentence("a name, not nothing"));
+    if (output.name.contains(u'/'))
+        keys.complain("name", sentence("a name without /; folders stand under folder"));
+    output.folder = keys.text("folder").value_or(QString());
+    checkTokens(keys, "folder", output.folder);
+    output.dates = keys.choice("dates", dates).value_or(output.dates);
+    output.ifTaken = keys.choice("ifTaken", takens).value_or(output.ifTaken);
+}
+
+RecipeOutput outputFrom(RecipeKeys &keys, const QString &folder)
+{
+    RecipeOutput output;
+    readEncoding(keys, output);
+    readPlace(keys, output);
+    for (RecipeKeys &each : keys.objects("operations"))
+        output.operations.append(stepFrom(each, folder));
+    if (const auto profile = keys.text("profile"))
+        output.profile = profileNamed(keys, "profile", *profile, folder);
+    output.metadata = keys.choice("metadata", kinds).value_or(output.metadata);
+    output.keepsLocation = keys.flag("location").value_or(true);
+    output.dpi = keys.number("dpi", {1, 10'000});
+    output.matte = keys.color("matte").value_or(output.matte);
+    keys.finish();
+    return output;
+}
+
+/** The version first: a later one may mean everything else in another way. */
+bool readVersion(RecipeKeys &keys)
+{
+    constexpr double latest = 1e9;
+    const auto version = keys.number("quorlin", {1, latest, true});
+    if (!version)
+        keys.complain("quorlin", sentence("the version of the recipe is missing"));
+    else if (*version > recipeVersion)
+        keys.complain("quorlin", sentence("this recipe has version %1, and this program knows versions up to %2")
+                                     .arg(*version)
+                                     .arg(recipeVersion));
+    return version && *version <= recipeVersion;
+}
+
+Recipe recipeFrom(RecipeKeys &keys, const QString &folder)
+{
+    Recipe recipe;
+    if (!readVersion(keys))
+        return recipe;
+    recipe.name = keys.text("name").value_or(QString());
+    for (RecipeKeys &each : keys.objects("operations"))
+        recipe.operations.append(stepFrom(each, folder));
+    const bool hasOutputs = keys.has("outputs");
+    for (RecipeKeys &each : keys.objects("outputs"))
+        recipe.outputs.append(outputFrom(each, folder));
+    if (recipe.outputs.isEmpty())
+        keys.complain("outputs",
+                      hasOutputs ? sentence("at least one output") : sentence("the list of outputs is missing"));
+    keys.finish();
+    return recipe;
+}
+
+} // namespace
+
+Result<Recipe> readRecipe(const QByteArray &json, const QString &folder)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    if (error.error != QJsonParseError::NoError) {
+        const auto line = json.left(error.offset).count('\n') + 1;
+        return platform::failure(platform::ErrorCode::InvalidValue,
+                                 sentence("line %1: %2").arg(line).arg(error.errorString()));
+    }
+    if (!document.isObject())
+        return platform::failure(platform::ErrorCode::InvalidValue, sentence("a recipe is a JSON object"));
+    RecipeProblem problem;
+    RecipeKeys keys(document.object(), {}, problem);
+    const Recipe recipe = recipeFrom(keys, folder);
+    if (problem.isThere())
+        return platform::failure(platform::ErrorCode::InvalidValue, problem.sentence());
+    return recipe;
+}
+
+Result<Recipe> readRecipeFile(const QString &path)
+{
+    constexpr qint64 largest = 4 << 20;
+    platform::NamedFile file(path);
+    if (const auto opened = platform::openToRead(file); !opened)
+        return tl::unexpected<platform::Error>(opened.error());
+    const QByteArray json = file.read(largest);
+    if (!file.readProblem().isEmpty() || !file.atEnd())
+        return platform::failure(platform::ErrorCode::InvalidValue,
+                                 file.atEnd() ? file.readProblem() : sentence("a recipe is no larger than 4 MB"));
+    return readRecipe(json, QFileInfo(path).absolutePath());
+}
+
+} // namespace image
