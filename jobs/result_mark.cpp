@@ -1,0 +1,34 @@
+#include "jobs/result_mark.h"
+
+#include "platform/disk/disk_file_system.h"
+#include "platform/file/file_note.h"
+
+namespace jobs {
+namespace {
+
+/** What changes when somebody writes to a file. */
+QByteArray contentMark(const QString &path)
+{
+    const auto state = platform::DiskFileSystem().look(path);
+    return state ? QByteArray::number(state->bytes) + ' ' + QByteArray::number(state->changedNs) : QByteArray();
+}
+
+QByteArray noteFor(const QString &result, const QString &source, const QString &settings)
+{
+    return settings.toUtf8() + '\n' + contentMark(source) + '\n' + contentMark(result);
+}
+
+} // namespace
+
+void markResult(const QString &result, const QString &source, const QString &settings)
+{
+    platform::attachNote(result, noteFor(result, source, settings));
+}
+
+bool isCurrentResult(const QString &path, const QString &source, const QString &settings)
+{
+    const QByteArray note = platform::attachedNote(path);
+    return !note.isEmpty() && note == noteFor(path, source, settings);
+}
+
+} // namespace jobs

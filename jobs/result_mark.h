@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace jobs {
+
+/**
+ * Notes on a result, before it takes its place, what it was made of and how; where the disk has no place for notes, nothing.
+ *
+ * @param settings  the same text for the same settings
+ */
+void markResult(const QString &result, const QString &source, const QString &settings);
+
+/** Whether the file at @p path carries the note of these settings and of the source as it is now, and is as it was made. */
+bool isCurrentResult(const QString &path, const QString &source, const QString &settings);
+
+} // namespace jobs
