@@ -61,6 +61,8 @@ const std::map<QString, TakeValue> &values()
     constexpr int aDay = 86'400;
     constexpr int mostMegabytes = 1 << 20;
     static const std::map<QString, TakeValue> all = {
+        {QStringLiteral("--preset"),
+         [](CommandLine &line, const QString &value) { return takeText(line.preset, value); }},
         {QStringLiteral("--to"), [](CommandLine &line, const QString &value) { return takeText(line.to, value); }},
         {QStringLiteral("--from"), [](CommandLine &line, const QString &value) { return takeText(line.from, value); }},
         {QStringLiteral("--report"),
@@ -87,6 +89,7 @@ const std::map<QString, TakeFlag> &flags()
         {QStringLiteral("--keep-tree"), [](CommandLine &line) { line.keepsTree = true; }},
         {QStringLiteral("--dry-run"), [](CommandLine &line) { line.isDryRun = true; }},
         {QStringLiteral("--quiet"), [](CommandLine &line) { line.isQuiet = true; }},
+        {QStringLiteral("--list-presets"), [](CommandLine &line) { line.asksForPresets = true; }},
         {QStringLiteral("--help"), [](CommandLine &line) { line.asksForHelp = true; }},
         {QStringLiteral("--version"), [](CommandLine &line) { line.asksForVersion = true; }},
     };
@@ -120,7 +123,7 @@ QString contradictionIn(const CommandLine &line)
         return QStringLiteral("--keep-tree needs --to");
     if (line.isFromSeparatedByNul && line.from.isEmpty())
         return QStringLiteral("-0 needs --from");
-    if (line.recipe.isEmpty())
+    if (line.recipe.isEmpty() && line.preset.isEmpty())
         return QStringLiteral("the recipe is missing");
     if (line.inputs.isEmpty() && line.from.isEmpty())
         return QStringLiteral("there is no input");
@@ -147,10 +150,11 @@ CommandLine readCommandLine(const QStringList &arguments)
             names.append(argument);
         }
     }
-    if (!names.isEmpty())
+    if (!names.isEmpty() && line.preset.isEmpty())
         line.recipe = names.takeFirst();
     line.inputs = names;
-    if (line.problem.isEmpty() && !line.asksForHelp && !line.asksForVersion)
+    const bool asks = line.asksForHelp || line.asksForVersion || line.asksForPresets;
+    if (line.problem.isEmpty() && !asks)
         line.problem = contradictionIn(line);
     return line;
 }
@@ -159,6 +163,7 @@ QString helpText()
 {
     return QStringLiteral(
         "quorlin-batch [OPTION...] RECIPE INPUT...\n"
+        "quorlin-batch --preset \"Resize/Web 1600\" [OPTION...] INPUT...\n"
         "\n"
         "Carries out a recipe over pictures. INPUT is a picture, or a folder with everything below it.\n"
         "\n"
@@ -176,6 +181,7 @@ QString helpText()
         "  --memory MB       memory of one worker (this version refuses only what does not fit the machine)\n"
         "  --progress WHEN   auto, always or never\n"
         "  --quiet           say nothing but failures\n"
+        "  --list-presets    the names that --preset takes\n"
         "  --help, --version\n"
         "\n"
         "Exit status: 0 all done, skipped or planned; 1 some failed or not supported; 2 a bad command line or recipe,\n"

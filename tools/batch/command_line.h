@@ -11,6 +11,7 @@ struct CommandLine
     enum class Progress { Auto, Always, Never };
 
     QString recipe;     ///< path of its file
+    QString preset;     ///< in its place, the name of a preset
     QStringList inputs; ///< as they were named
     QString from;       ///< a file with further ones; "-" is standard input
     bool isFromSeparatedByNul = false;
@@ -27,6 +28,7 @@ struct CommandLine
     int memory = 2048; ///< megabytes
     Progress progress = Progress::Auto;
     bool isQuiet = false;
+    bool asksForPresets = false;
     bool asksForHelp = false;
     bool asksForVersion = false;
 

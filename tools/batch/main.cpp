@@ -1,5 +1,6 @@
 #include "image/recipe/recipe_reader.h"
 #include "jobs/batch.h"
+#include "jobs/presets/preset_recipe.h"
 #include "platform/file/atomic_file.h"
 #include "tools/batch/command_line.h"
 
@@ -136,17 +137,30 @@ Request readReports(Request request, const CommandLine &line)
     return request;
 }
 
+/** The bytes of the recipe's file, or of the one that a preset would be. */
+platform::Result<QByteArray> recipeFile(const CommandLine &line)
+{
+    if (line.preset.isEmpty())
+        return platform::readFile(QDir::current().absoluteFilePath(line.recipe));
+    const std::optional<jobs::Preset> preset = jobs::presetNamed(line.preset);
+    if (preset)
+        return jobs::recipeOf(*preset);
+    return platform::failure(platform::ErrorCode::NotFound,
+                             QStringLiteral("there is no preset \"%1\"; see --list-presets").arg(line.preset));
+}
+
 Request requestFrom(const CommandLine &line)
 {
     Request request;
-    const auto file = platform::readFile(QDir::current().absoluteFilePath(line.recipe));
+    const auto file = recipeFile(line);
     if (!file) {
         request.problem = file.error().message;
         return request;
     }
     const auto recipe = image::readRecipe(*file, QFileInfo(line.recipe).absolutePath());
     if (!recipe) {
-        request.problem = QStringLiteral("%1: %2").arg(line.recipe, recipe.error().message);
+        request.problem =
+            QStringLiteral("%1: %2").arg(line.preset.isEmpty() ? line.recipe : line.preset, recipe.error().message);
         return request;
     }
     request.recipe = *recipe;
@@ -213,6 +227,12 @@ int main(int argc, char **argv)
     if (line.asksForHelp || line.asksForVersion) {
         const QString text = line.asksForHelp ? helpText() : QStringLiteral("quorlin-batch " QUORLIN_VERSION "\n");
         std::fputs(qUtf8Printable(text), stdout);
+        return Done;
+    }
+    if (line.asksForPresets) {
+        for (const jobs::Preset &preset : jobs::allPresets())
+            if (jobs::recipeOf(preset))
+                std::printf("%s/%s\n", qUtf8Printable(preset.action), qUtf8Printable(preset.name));
         return Done;
     }
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})

@@ -1,0 +1,192 @@
+#include "jobs/presets/preset_recipe.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <functional>
+#include <map>
+
+namespace jobs {
+namespace {
+
+using platform::Result;
+
+const auto text = [](const char *name) { return QString::fromLatin1(name); };
+
+tl::unexpected<platform::Error> unsupported(const QString &sentence)
+{
+    return platform::failure(platform::ErrorCode::Unsupported, sentence);
+}
+
+/** The unit of lengths, where it is none of pixels. */
+void addUnit(QJsonObject &operation, const QJsonObject &settings)
+{
+    static const std::map<QString, QString> units = {{text("mm"), text("mm")},
+                                                     {text("cm"), text("cm")},
+                                                     {text("inch"), text("in")},
+                                                     {text("pica"), text("pica")},
+                                                     {text("punt"), text("pt")}};
+    const auto unit = units.find(settings.value(text("unit")).toString());
+    if (unit != units.end())
+        operation.insert(text("unit"), unit->second);
+}
+
+QJsonArray resizeOperations(const QJsonObject &settings)
+{
+    QJsonObject resize = {{text("do"), text("resize")}};
+    const QString mode = settings.value(text("mode")).toString();
+    if (mode == text("box")) {
+        resize.insert(text("box"), QJsonArray{settings.value(text("boxWidth")), settings.value(text("boxHeight"))});
+        resize.insert(text("fit"), settings.value(text("boxFit")));
+    } else {
+        resize.insert(mode, settings.value(mode));
+    }
+    if (mode != text("percent"))
+        addUnit(resize, settings);
+    if (!settings.value(text("neverEnlarge")).toBool())
+        resize.insert(text("enlarge"), true);
+    return {resize};
+}
+
+QJsonArray cropOperations(const QJsonObject &settings)
+{
+    static const char *const places[] = {"top left", "top",         "top right", "left",        "center",
+                                         "right",    "bottom left", "bottom",    "bottom right"};
+    QJsonObject crop = {{text("do"), text("crop")},
+                        {text("position"), text(places[qBound(0, settings.value(text("position")).toInt(), 8)])}};
+    if (settings.value(text("mode")).toString() == text("size")) {
+        crop.insert(text("width"), settings.value(text("width")));
+        crop.insert(text("height"), settings.value(text("height")));
+    } else {
+        crop.insert(text("percent"), settings.value(text("percent")));
+    }
+    const QJsonArray offset = {settings.value(text("offsetX")), settings.value(text("offsetY"))};
+    if (offset != QJsonArray{0, 0})
+        crop.insert(text("offset"), offset);
+    addUnit(crop, settings);
+    return {crop};
+}
+
+/** Flips first, then the turn, which the window counts counter-clockwise. */
+QJsonArray turnOperations(const QJsonObject &settings)
+{
+    QJsonArray operations;
+    for (const char *direction : {"horizontal", "vertical"}) {
+        const QString key = direction[0] == 'h' ? text("flipHorizontal") : text("flipVertical");
+        if (settings.value(key).toBool())
+            operations.append(QJsonObject{{text("do"), text("flip")}, {text("direction"), text(direction)}});
+    }
+    if (const double angle = settings.value(text("angle")).toDouble(); angle != 0)
+        operations.append(QJsonObject{{text("do"), text("turn")}, {text("degrees"), -angle}});
+    return operations;
+}
+
+QJsonObject bandOf(const QJsonValue &width, const QJsonValue &color)
+{
+    return {{text("width"), width}, {text("color"), color}};
+}
+
+QJsonArray roundOperations(const QJsonObject &settings)
+{
+    QJsonObject round = {{text("do"), text("round")}, {text("shape"), settings.value(text("shape"))}};
+    if (settings.value(text("shape")).toString() == text("rectangle"))
+        round.insert(text("radius"), settings.value(text("radius")));
+    if (settings.value(text("background")).toBool()) {
+        round.insert(text("color"), settings.value(text("color")));
+        if (settings.value(text("band")).toDouble() > 0)
+            round.insert(text("band"), bandOf(settings.value(text("band")), settings.value(text("color"))));
+    }
+    return {round};
+}
+
+QJsonArray backgroundOperations(const QJsonObject &settings)
+{
+    const QString under = settings.value(text("under")).toString();
+    QJsonArray operations = {QJsonObject{{text("do"), text("background")}, {under, settings.value(under)}}};
+    const QString frame = settings.value(text("frame")).toString();
+    constexpr int whiteFrame = 10;
+    if (frame == text("white"))
+        operations.append(QJsonObject{{text("do"), text("frame")}, {text("width"), whiteFrame}});
+    else if (frame == text("band"))
+        operations.append(
+            QJsonObject{{text("do"), text("round")},
+                        {text("radius"), 0},
+                        {text("band"), bandOf(settings.value(text("bandWidth")), settings.value(text("bandColor")))}});
+    return operations;
+}
+
+using Operations = std::function<QJsonArray(const QJsonObject &settings)>;
+
+const std::map<QString, Operations> &operations()
+{
+    static const std::map<QString, Operations> all = {
+        {text("Resize"), resizeOperations},
+        {text("Crop"), cropOperations},
+        {text("Rotate and Flip"), turnOperations},
+        {text("Round Corners"), roundOperations},
+        {text("Background and Border"), backgroundOperations},
+        {text("Convert"), [](const QJsonObject &) { return QJsonArray(); }},
+    };
+    return all;
+}
+
+/** The word that recipes have for a type of the window. */
+QString typeWord(const QString &identifier)
+{
+    static const std::map<QString, QString> words = {
+        {text("public.jpeg"), text("jpeg")}, {text("public.png"), text("png")},
+        {text("public.tiff"), text("tiff")}, {text("com.compuserve.gif"), text("gif")},
+        {text("public.bmp"), text("bmp")},   {text("public.jpeg-2000"), text("jp2")}};
+    const auto word = words.find(identifier);
+    return word == words.end() ? text("original") : word->second;
+}
+
+/** A folder name of a person's own, in which a brace is no token. */
+QString plainPattern(const QString &name)
+{
+    return QString(name).replace(u'{', text("{{"));
+}
+
+QJsonObject outputFor(const Preset &preset)
+{
+    constexpr int perCode = 10;
+    const QJsonObject own = preset.settings.value(text("output")).toObject();
+    const bool isConversion = preset.action == text("Convert");
+    const QString type = isConversion ? preset.settings.value(text("target")).toString()
+                                      : typeWord(own.value(text("fileType")).toString());
+    QJsonObject output = {{text("type"), type}};
+    const QString code = (isConversion ? preset.settings : own).value(text("quality")).toString();
+    const bool isOwn = preset.action == text("Resize") || preset.action == text("Crop");
+    const bool hasQuality =
+        isConversion ? type == text("jpeg") : isOwn && (type == text("jpeg") || type == text("original"));
+    if (const int quality = code.toInt(); quality > 0 && hasQuality)
+        output.insert(text("quality"), quality * perCode);
+    const QJsonObject destination = own.value(text("destination")).toObject();
+    const QString kind = destination.value(text("kind")).toString();
+    if (kind == text("beside"))
+        output.insert(text("folder"), plainPattern(destination.value(text("name")).toString()));
+    else if (kind == text("folder"))
+        output.insert(text("folder"), plainPattern(destination.value(text("path")).toString()));
+    const QString ifTaken = own.value(text("ifTaken")).toString();
+    if (ifTaken == text("replace") || ifTaken == text("skip"))
+        output.insert(text("ifTaken"), ifTaken);
+    return output;
+}
+
+} // namespace
+
+Result<QByteArray> recipeOf(const Preset &preset)
+{
+    const auto found = operations().find(preset.action);
+    if (found == operations().end())
+        return unsupported(text("%1 makes no pictures, so its presets are no recipes").arg(preset.action));
+    if (preset.action == text("Crop") && preset.settings.value(text("mode")).toString() == text("pixels"))
+        return unsupported(text("a crop by pixels that are cut away is no part of recipes"));
+    const QJsonObject recipe = {{text("quorlin"), 1},
+                                {text("name"), preset.name},
+                                {text("operations"), found->second(preset.settings)},
+                                {text("outputs"), QJsonArray{outputFor(preset)}}};
+    return QJsonDocument(recipe).toJson();
+}
+
+} // namespace jobs

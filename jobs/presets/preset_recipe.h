@@ -1,0 +1,23 @@
+#pragma once
+
+#include "jobs/presets/preset_settings.h"
+#include "platform/foundation/result.h"
+
+namespace jobs {
+
+/**
+ * The recipe that does what a preset does, as the bytes of its file. Fails with Unsupported, in a sentence, for an action that makes
+ * no pictures and for settings that no recipe has.
+ */
+platform::Result<QByteArray> recipeOf(const Preset &preset);
+
+/** All presets: those that come with the program, and those in the user's database, which count where both have a name. */
+QList<Preset> allPresets();
+
+/** The preset "Resize/Web 1600"; none where there is none of that name. */
+std::optional<Preset> presetNamed(const QString &name);
+
+/** The presets that come with the program. */
+QList<Preset> suppliedPresets();
+
+} // namespace jobs
