@@ -36,70 +36,96 @@ const std::vector<Column> &outputColumns()
 }
 
 /** Forms of the actions that make pictures, with the settings of a new pane. */
-const std::map<QString, Form> &forms()
+Form resizeForm()
 {
-    static const std::map<QString, Form> all = {
-        {QStringLiteral("Resize"),
-         {R"({"mode": "longest", "width": 1600, "height": 1200, "longest": 1600, "percent": 50, "boxWidth": 1600,
+    return {R"({"mode": "longest", "width": 1600, "height": 1200, "longest": 1600, "percent": 50, "boxWidth": 1600,
               "boxHeight": 1200, "boxFit": "fill", "neverEnlarge": true, "unit": "pixel",
               "output": {"fileType": "original file type", "quality": "8", "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Resized", "path": ""}}})",
-          "mode",
-          {{11, "width", Kind::Number},
-           {12, "height", Kind::Number},
-           {13, "longest", Kind::Number},
-           {14, "percent", Kind::Number},
-           {15, "boxWidth", Kind::Number},
-           {16, "boxHeight", Kind::Number},
-           {17, "boxFit", Kind::Text},
-           {18, "unit", Kind::Text},
-           {22, "neverEnlarge", Kind::Flag}}}},
-        {QStringLiteral("Crop"),
-         {R"({"mode": "percent", "width": 1200, "height": 800, "unit": "pixel", "percent": 20, "pixels": 200, "position": 4,
+            "mode",
+            {{11, "width", Kind::Number},
+             {12, "height", Kind::Number},
+             {13, "longest", Kind::Number},
+             {14, "percent", Kind::Number},
+             {15, "boxWidth", Kind::Number},
+             {16, "boxHeight", Kind::Number},
+             {17, "boxFit", Kind::Text},
+             {18, "unit", Kind::Text},
+             {22, "neverEnlarge", Kind::Flag}}};
+}
+
+Form cropForm()
+{
+    return {
+        R"({"mode": "percent", "width": 1200, "height": 800, "unit": "pixel", "percent": 20, "pixels": 200, "position": 4,
               "offsetX": 0, "offsetY": 0, "ratio": "free",
               "output": {"fileType": "original file type", "quality": "9", "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Cropped", "path": ""}}})",
-          "mode",
-          {{11, "width", Kind::Number},
-           {12, "height", Kind::Number},
-           {13, "unit", Kind::Text},
-           {14, "percent", Kind::Number},
-           {15, "pixels", Kind::Number},
-           {16, "offsetX", Kind::Number},
-           {17, "offsetY", Kind::Number},
-           {18, "ratio", Kind::Text},
-           {22, "position", Kind::Whole}}}},
-        {QStringLiteral("Rotate and Flip"),
-         {R"({"angle": 0, "flipHorizontal": false, "flipVertical": false,
+        "mode",
+        {{11, "width", Kind::Number},
+         {12, "height", Kind::Number},
+         {13, "unit", Kind::Text},
+         {14, "percent", Kind::Number},
+         {15, "pixels", Kind::Number},
+         {16, "offsetX", Kind::Number},
+         {17, "offsetY", Kind::Number},
+         {18, "ratio", Kind::Text},
+         {22, "position", Kind::Whole}}};
+}
+
+Form turnForm()
+{
+    return {R"({"angle": 0, "flipHorizontal": false, "flipVertical": false,
               "output": {"fileType": "original file type", "quality": "10", "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Turned", "path": ""}}})",
-          "",
-          {{11, "angle", Kind::Number}, {22, "flipHorizontal", Kind::Flag}, {23, "flipVertical", Kind::Flag}}}},
-        {QStringLiteral("Round Corners"),
-         {R"({"shape": "rectangle", "radius": 100, "background": false, "color": "#ffffff", "band": 0,
+            "",
+            {{11, "angle", Kind::Number}, {22, "flipHorizontal", Kind::Flag}, {23, "flipVertical", Kind::Flag}}};
+}
+
+Form roundForm()
+{
+    return {R"({"shape": "rectangle", "radius": 100, "background": false, "color": "#ffffff", "band": 0,
               "output": {"fileType": "public.png", "quality": "10", "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Rounded", "path": ""}}})",
-          "shape",
-          {{11, "radius", Kind::Number},
-           {12, "color", Kind::Color},
-           {13, "band", Kind::Number},
-           {22, "background", Kind::Flag}}}},
-        {QStringLiteral("Background and Border"),
-         {R"({"under": "color", "color": "#ffffff", "pattern": "", "frame": "none", "bandColor": "#202124", "bandWidth": 40,
+            "shape",
+            {{11, "radius", Kind::Number},
+             {12, "color", Kind::Color},
+             {13, "band", Kind::Number},
+             {22, "background", Kind::Flag}}};
+}
+
+Form backgroundForm()
+{
+    return {
+        R"({"under": "color", "color": "#ffffff", "pattern": "", "frame": "none", "bandColor": "#202124", "bandWidth": 40,
               "output": {"fileType": "original file type", "quality": "10", "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Framed", "path": ""}}})",
-          "under",
-          {{11, "color", Kind::Color},
-           {12, "pattern", Kind::Text},
-           {13, "frame", Kind::Text},
-           {14, "bandColor", Kind::Color},
-           {15, "bandWidth", Kind::Number}}}},
-        {QStringLiteral("Convert"),
-         {R"({"target": "jpeg", "quality": "8",
+        "under",
+        {{11, "color", Kind::Color},
+         {12, "pattern", Kind::Text},
+         {13, "frame", Kind::Text},
+         {14, "bandColor", Kind::Color},
+         {15, "bandWidth", Kind::Number}}};
+}
+
+Form convertForm()
+{
+    return {R"({"target": "jpeg", "quality": "8",
               "output": {"fileType": "original file type", "quality": "10", "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Converted", "path": ""}}})",
-          "target",
-          {{11, "quality", Kind::Text}}}},
+            "target",
+            {{11, "quality", Kind::Text}}};
+}
+
+const std::map<QString, Form> &forms()
+{
+    static const std::map<QString, Form> all = {
+        {QStringLiteral("Resize"), resizeForm()},
+        {QStringLiteral("Crop"), cropForm()},
+        {QStringLiteral("Rotate and Flip"), turnForm()},
+        {QStringLiteral("Round Corners"), roundForm()},
+        {QStringLiteral("Background and Border"), backgroundForm()},
+        {QStringLiteral("Convert"), convertForm()},
     };
     return all;
 }
