@@ -36,6 +36,26 @@ QByteArray suppliedProfile(const char *name)
     return profile;
 }
 
+QByteArray bytesOf(const Profile &profile)
+{
+    cmsUInt32Number length = 0;
+    if (!profile || !cmsSaveProfileToMem(profile.get(), nullptr, &length))
+        return {};
+    QByteArray bytes(qsizetype(length), '\0');
+    return cmsSaveProfileToMem(profile.get(), bytes.data(), &length) ? bytes : QByteArray();
+}
+
+/** Grey of the curve of sRGB, IEC 61966-2-1. */
+QByteArray srgbGrey()
+{
+    constexpr std::array<double, 5> curveOfSrgb = {2.4, 1 / 1.055, 0.055 / 1.055, 1 / 12.92, 0.04045};
+    constexpr int withLinearStart = 4;
+    cmsToneCurve *curve = cmsBuildParametricToneCurve(nullptr, withLinearStart, curveOfSrgb.data());
+    const Profile profile(cmsCreateGrayProfile(cmsD50_xyY(), curve));
+    cmsFreeToneCurve(curve);
+    return bytesOf(profile);
+}
+
 /** Primaries and curve of Adobe RGB (1998) Color Image Encoding, 2005, section 4.3. */
 QByteArray adobeRgb()
 {
@@ -54,17 +74,7 @@ QByteArray adobeRgb()
     cmsMLUsetASCII(name, "en", "US", "Adobe RGB (1998)");
     cmsWriteTag(profile.get(), cmsSigProfileDescriptionTag, name);
     cmsMLUfree(name);
-    cmsUInt32Number length = 0;
-    cmsSaveProfileToMem(profile.get(), nullptr, &length);
-    QByteArray bytes(qsizetype(length), '\0');
-    return cmsSaveProfileToMem(profile.get(), bytes.data(), &length) ? bytes : QByteArray();
-}
-
-VImage inGrey(const VImage &image)
-{
-    const VImage plain = convertedToSrgb(image);
-    const bool isDeep = plain.format() == VIPS_FORMAT_USHORT;
-    return plain.colourspace(isDeep ? VIPS_INTERPRETATION_GREY16 : VIPS_INTERPRETATION_B_W);
+    return bytesOf(profile);
 }
 
 VImage inProfile(const VImage &image, const QByteArray &profile)
@@ -87,6 +97,14 @@ VImage inProfile(const VImage &image, const QByteArray &profile)
             ->set("intent", VIPS_INTENT_RELATIVE)
             ->set("black_point_compensation", true)
             ->set("depth", isDeep ? 16 : 8)));
+}
+
+/** The library's own way to grey weighs the colours roughly. */
+VImage inGrey(const VImage &image)
+{
+    const VImage grey = inProfile(image, srgbGrey()).copy();
+    grey.remove(VIPS_META_ICC_NAME);
+    return grey;
 }
 
 } // namespace
