@@ -99,7 +99,8 @@ qint64 memoryNeed(const DecodingFacts &facts, const Outcome &outcome)
         decoding.aByte += 2; // the coefficients of all colours
     else if (facts.comesInPasses)
         decoding.aByte += 1;
-    const qint64 ofDecoding = bytesFor(decoding, facts.decoded, pixelBytes);
+    // A drawing has a surface for each of its layers besides.
+    const qint64 ofDecoding = std::max(bytesFor(decoding, facts.decoded, pixelBytes), qint64(facts.drawingBytes));
     const Cost writing = outcome.written ? costOfWriting(*outcome.written, facts.bands, Loss::Some) : Cost{};
     const qint64 ofWriting = bytesFor(writing, outcome.made, pixelBytes);
     const qint64 pixels = bytesFor({.aByte = outcome.isTurned ? 2.0 : 1.0}, outcome.made, pixelBytes);

@@ -24,8 +24,12 @@ struct DecodingFacts
     QSize decoded; ///< what the decoder goes through; of a JPEG that it shrinks, the shrunk size
     int bands = 3;
     int componentBytes = 1;
+    double drawingBytes = 0;    ///< of a drawing: what it takes to draw it, as far as that is known
     bool comesInPasses = false; ///< each of which goes over the whole picture: progressive JPEG, interlaced PNG
 };
+
+/** The name of what an opened drawing tells of DecodingFacts::drawingBytes, a number. */
+inline constexpr char bytesOfDrawing[] = "quorlin-drawing-bytes";
 
 /**
  * The threads that a decoder starts reserve a stack and a heap each, of which they use next to nothing. Where that fails the

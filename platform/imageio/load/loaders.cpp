@@ -4,6 +4,7 @@
 #include "platform/graphics/resample.h"
 #include "platform/imageio/bmp/bmp_header.h"
 #include "platform/imageio/bmp/bmp_pixels.h"
+#include "platform/imageio/formats/memory_need.h"
 #include "platform/imageio/jpeg2000/jpeg2000_reader.h"
 #include "platform/imageio/load/svg_work.h"
 #include "platform/imageio/photoshop/photoshop_pixels.h"
@@ -164,11 +165,13 @@ VImage loadSvg(const PictureBytes &source, const LoadOptions &options)
 {
     const QByteArray text = source.all();
     // Over some numbers the library ends the process as soon as it reads them, before it tells any size.
-    if (!canDrawSvg(text, QSize(1, 1)))
+    if (!canDrawSvg(svgWork(text, QSize(1, 1))))
         throw vips::VError("drawing it would take too long");
-    const VImage image = VImage::svgload_source(sourceOf(source), commonOptions()->set("scale", options.drawingScale));
-    if (!canDrawSvg(text, QSize(image.width(), image.height())))
+    VImage image = VImage::svgload_source(sourceOf(source), commonOptions()->set("scale", options.drawingScale)).copy();
+    const SvgWork work = svgWork(text, QSize(image.width(), image.height()));
+    if (!canDrawSvg(work))
         throw vips::VError("drawing it would take too long");
+    image.set(bytesOfDrawing, work.bytes);
     return image;
 }
 

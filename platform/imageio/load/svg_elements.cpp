@@ -12,11 +12,6 @@ namespace platform {
 namespace {
 
 // Nanoseconds, measured with the library that draws.
-constexpr double shape = 20'000;
-constexpr double point = 200;
-constexpr double filledPixel = 0.2;
-constexpr double strokedPixel = 5;
-constexpr double edgePixel = 100;
 constexpr double gradientStop = 0.5; // for each pixel, since they are searched from the first on
 constexpr double layer = 10;
 constexpr double drawingByte = 1000;
@@ -25,7 +20,6 @@ constexpr double plainPrimitive = 40;
 constexpr double blur = 90;
 constexpr double displacement = 250;
 constexpr double onePerOctave = 60;
-constexpr double onePerRadius = 50;
 constexpr double onePerKernelNumber = 6;
 
 bool isOneOf(QStringView name, std::initializer_list<const char *> names)
@@ -33,110 +27,14 @@ bool isOneOf(QStringView name, std::initializer_list<const char *> names)
     return std::any_of(names.begin(), names.end(), [name](const char *each) { return name == QLatin1String(each); });
 }
 
-/** The numbers of a text and what stands between them. */
-template<typename OnNumber, typename OnLetter>
-void scan(QStringView text, const OnNumber &onNumber, const OnLetter &onLetter)
-{
-    const QByteArray bytes = text.toLatin1();
-    const char *at = bytes.constData();
-    const char *const end = at + bytes.size();
-    while (at < end) {
-        double number = 0;
-        const auto [next, error] = std::from_chars(at, end, number);
-        if (error == std::errc() && next > at) {
-            onNumber(number);
-            at = next;
-        } else {
-            onLetter(*at++);
-        }
-    }
-}
-
-QList<double> numbersOf(QStringView text)
-{
-    QList<double> numbers;
-    scan(
-        text, [&numbers](double number) { numbers.append(number); }, [](char) {});
-    return numbers;
-}
-
-double largestNumber(QStringView text)
-{
-    double largest = 0;
-    for (const double number : numbersOf(text))
-        largest = std::max(largest, std::abs(number));
-    return largest;
-}
-
-/** How much of the canvas a shape covers, how long its edge is in units of the drawing, and of how many points it is made. */
-class Outline
-{
-public:
-    explicit Outline(const SvgCanvas &canvas) : m_canvas(canvas) {}
-
-    void addRect(double width, double height)
-    {
-        m_area = share(width, m_canvas.width()) * share(height, m_canvas.height());
-        m_length = 2 * (width + height);
-        m_points = 4;
-    }
-
-    /** Coordinates by turns across and down, begun afresh by each command; small letters mean distances. */
-    void addPath(QStringView text)
-    {
-        bool isRelative = false;
-        int axis = 0;
-        const auto take = [&](double number) {
-            const double jump = isRelative ? number : number - m_at[axis];
-            m_at[axis] = isRelative ? m_at[axis] + number : number;
-            m_least[axis] = m_points < 2 ? m_at[axis] : std::min(m_least[axis], m_at[axis]);
-            m_most[axis] = m_points < 2 ? m_at[axis] : std::max(m_most[axis], m_at[axis]);
-            m_length += m_points < 2 ? 0 : std::min(std::abs(jump), m_canvas.width() + m_canvas.height());
-            ++m_points;
-            axis = 1 - axis;
-        };
-        const auto command = [&](char letter) {
-            if (!std::isalpha(uchar(letter)))
-                return;
-            isRelative = std::islower(uchar(letter)) && m_points > 0;
-            axis = letter == 'v' || letter == 'V' ? 1 : 0;
-        };
-        scan(text, take, command);
-        m_points /= 2;
-        m_area = share(m_most[0] - m_least[0], m_canvas.width()) * share(m_most[1] - m_least[1], m_canvas.height());
-    }
-
-    double area() const { return m_area; }
-    double points() const { return m_points; }
-
-    SvgCost cost(double strokeWidth) const
-    {
-        const double side = std::max({m_canvas.width(), m_canvas.height(), 1.0});
-        const double length = m_length / side;
-        return {filledPixel * m_area + strokedPixel * length * std::min(1.0, strokeWidth / side), edgePixel * length,
-                shape + point * m_points};
-    }
-
-private:
-    static double share(double part, double whole) { return whole > 0 ? std::clamp(part / whole, 0.0, 1.0) : 1; }
-
-    SvgCanvas m_canvas;
-    double m_area = 0;
-    double m_length = 0;
-    double m_points = 0;
-    double m_at[2] = {0, 0};
-    double m_least[2] = {0, 0};
-    double m_most[2] = {0, 0};
-};
-
 /** What one part of a filter takes. */
 double primitiveCost(QStringView name, const QXmlStreamAttributes &attributes)
 {
-    const auto number = [&attributes](const char *key) { return largestNumber(attributes.value(QLatin1String(key))); };
+    const auto number = [&attributes](const char *key) {
+        return largestSvgNumber(attributes.value(QLatin1String(key)));
+    };
     if (name == QLatin1String("feTurbulence"))
         return plainPrimitive + onePerOctave * std::max(1.0, number("numOctaves"));
-    if (name == QLatin1String("feMorphology"))
-        return plainPrimitive + onePerRadius * number("radius");
     if (name == QLatin1String("feConvolveMatrix"))
         return plainPrimitive + onePerKernelNumber * std::pow(std::max(3.0, number("order")), 2);
     if (isOneOf(name, {"feGaussianBlur", "feDropShadow"}))
@@ -153,7 +51,7 @@ bool endsTheProcess(QStringView name, const QXmlStreamAttributes &attributes)
         const bool isSize = isOneOf(attribute.name(), {"width", "height"});
         if (!isSize && !isOneOf(attribute.name(), {"x", "y", "order", "kernelUnitLength", "dx", "dy", "radius"}))
             continue;
-        const QList<double> numbers = numbersOf(attribute.value());
+        const QList<double> numbers = svgNumbers(attribute.value());
         const auto isOdd = [](double number) { return !(std::abs(number) <= farthest); };
         if (std::any_of(numbers.begin(), numbers.end(), isOdd))
             return true;
@@ -172,24 +70,68 @@ bool isDefinition(QStringView name)
                           "radialGradient"});
 }
 
-Outline outlineOf(QStringView name, const QXmlStreamAttributes &attributes, const SvgCanvas &canvas)
+SvgOutline outlineOf(QStringView name, const QXmlStreamAttributes &attributes)
 {
-    Outline outline(canvas);
-    const auto length = [&attributes](const char *key, double whole) {
-        const QStringView value = attributes.value(QLatin1String(key));
-        return value.endsWith(u'%') ? largestNumber(value) * whole / 100 : largestNumber(value);
+    const auto length = [&attributes](const char *key) { return svgLength(attributes.value(QLatin1String(key))); };
+    const auto twice = [&length](const char *key) {
+        const SvgLength radius = length(key);
+        return SvgLength{2 * radius.units, 2 * radius.share};
     };
     if (isOneOf(name, {"rect", "image"}))
-        outline.addRect(length("width", canvas.width()), length("height", canvas.height()));
-    else if (name == QLatin1String("circle"))
-        outline.addRect(2 * length("r", canvas.width()), 2 * length("r", canvas.width()));
-    else if (name == QLatin1String("ellipse"))
-        outline.addRect(2 * length("rx", canvas.width()), 2 * length("ry", canvas.height()));
-    else if (name == QLatin1String("path"))
-        outline.addPath(attributes.value(QLatin1String("d")));
-    else if (isOneOf(name, {"polyline", "polygon"}))
-        outline.addPath(attributes.value(QLatin1String("points")));
-    return outline;
+        return {length("width"), length("height")};
+    if (name == QLatin1String("circle"))
+        return {twice("r"), twice("r")};
+    if (name == QLatin1String("ellipse"))
+        return {twice("rx"), twice("ry")};
+    if (isOneOf(name, {"polyline", "polygon"}))
+        return SvgOutline::ofPath(attributes.value(QLatin1String("points")));
+    if (name == QLatin1String("path"))
+        return SvgOutline::ofPath(attributes.value(QLatin1String("d")));
+    if (name != QLatin1String("line"))
+        return {};
+    const auto between = [&length](const char *one, const char *other) {
+        return SvgLength{length(one).units + length(other).units, length(one).share + length(other).share};
+    };
+    return {between("x1", "x2"), between("y1", "y2")};
+}
+
+/** What a transform makes of a length, at most: the product of what each of its parts makes of one. */
+double scaleOf(const QString &transform)
+{
+    static const QRegularExpression part(QStringLiteral("(matrix|scale|skewX|skewY)\\s*\\(([^)]*)"));
+    constexpr double degree = 0.017453292519943295;
+    double scale = 1;
+    for (auto match = part.globalMatch(transform); match.hasNext();) {
+        const QRegularExpressionMatch found = match.next();
+        const QList<double> numbers = svgNumbers(found.captured(2));
+        const auto at = [&numbers](int i) { return numbers.value(i, 0); };
+        if (found.captured(1) == QStringLiteral("matrix")) {
+            const double sum = at(0) * at(0) + at(1) * at(1) + at(2) * at(2) + at(3) * at(3);
+            const double area = at(0) * at(3) - at(1) * at(2);
+            scale *= std::sqrt((sum + std::sqrt(std::max(0.0, sum * sum - 4 * area * area))) / 2);
+        } else if (found.captured(1) == QStringLiteral("scale")) {
+            scale *= largestSvgNumber(found.captured(2));
+        } else {
+            scale *= 1 + std::abs(std::tan(at(0) * degree));
+        }
+    }
+    return scale;
+}
+
+/** What a window of that size makes of a unit of its view box, at most. */
+double scaleOfWindow(const QSizeF &window, const QSizeF &box)
+{
+    return box.isEmpty() ? 1 : std::max(window.width() / box.width(), window.height() / box.height());
+}
+
+/** The mean of dashes and gaps; 0 for none. */
+double dashOf(QStringView value)
+{
+    const QList<double> numbers = svgNumbers(value);
+    double sum = 0;
+    for (const double number : numbers)
+        sum += std::abs(number);
+    return numbers.isEmpty() ? 0 : sum / double(numbers.size());
 }
 
 bool isLayer(QStringView property, QStringView value)
@@ -198,29 +140,81 @@ bool isLayer(QStringView property, QStringView value)
     return !isPlain && isOneOf(property, {"filter", "mask", "opacity", "mix-blend-mode", "isolation"});
 }
 
+SvgReference::For purposeOf(QStringView property)
+{
+    if (isOneOf(property, {"fill", "stroke"}))
+        return SvgReference::For::Paint;
+    return property.startsWith(QLatin1String("marker")) ? SvgReference::For::Marker : SvgReference::For::Other;
+}
+
+/** An attribute or the element's own style counts; a rule may concern the element or not. */
+enum class Counts { Surely, Perhaps };
+
+/** Takes in a transform or a line; of what counts perhaps, only what makes drawing costlier. */
+void takeMeasure(SvgElement &element, QStringView property, const QString &value, Counts counts)
+{
+    const bool isSure = counts == Counts::Surely;
+    if (isOneOf(property, {"transform", "gradientTransform", "patternTransform"})) {
+        element.scale = isSure ? scaleOf(value) : std::max(element.scale, scaleOf(value));
+    } else if (property == QLatin1String("stroke")) {
+        const bool isStroked = value != QLatin1String("none");
+        if (isSure || isStroked)
+            element.isStroked = isStroked;
+    } else if (property == QLatin1String("stroke-width")) {
+        (isSure ? element.strokeWidth : element.perhapsStrokeWidth) = svgLength(value);
+    } else if (property == QLatin1String("stroke-dasharray")) {
+        const double dash = dashOf(value);
+        if (isSure || (dash > 0 && dash < element.dash.value_or(dash + 1)))
+            element.dash = dash;
+    } else if (isOneOf(property, {"font-size", "font"})) {
+        (isSure ? element.fontSize : element.perhapsFontSize) = svgLength(value);
+    }
+}
+
 /** Takes in one property, from an attribute or a declaration. */
-void take(SvgElement &element, QStringView property, const QString &value, const Outline &outline)
+void take(SvgElement &element, QStringView property, const QString &value, Counts counts)
 {
     static const QRegularExpression reference(QStringLiteral("url\\(\\s*['\"]?#([^)'\"]+)['\"]?\\s*\\)"));
-    const bool isPaint = isOneOf(property, {"fill", "stroke"});
-    const double times = isPaint                                        ? std::max(outline.area(), 0.001)
-                         : property.startsWith(QLatin1String("marker")) ? std::max(1.0, outline.points())
-                                                                        : 1;
     for (auto match = reference.globalMatch(value); match.hasNext();)
-        element.references.append({match.next().captured(1), times});
+        element.references.append({match.next().captured(1), purposeOf(property)});
     if (isLayer(property, value)) {
         element.isLayer = true;
         element.cost.aPixel += layer;
     }
+    takeMeasure(element, property, value.trimmed(), counts);
+}
+
+void takeDeclarations(SvgElement &element, const QString &declarations, Counts counts)
+{
+    for (const QString &declaration : declarations.split(u';', Qt::SkipEmptyParts))
+        take(element, declaration.section(u':', 0, 0).trimmed(), declaration.section(u':', 1).trimmed(), counts);
+}
+
+/** Takes in how the element shows what is in it. */
+void takeWindow(SvgElement &element, QStringView name, const QXmlStreamAttributes &attributes)
+{
+    const auto value = [&attributes](const char *key) { return attributes.value(QLatin1String(key)); };
+    const auto length = [&value](const char *key) {
+        return value(key).isEmpty() ? std::nullopt : std::optional(svgLength(value(key)));
+    };
+    const bool isMarker = name == QLatin1String("marker");
+    element.isViewport = isOneOf(name, {"svg", "symbol", "pattern", "marker"});
+    element.width = length(isMarker ? "markerWidth" : "width");
+    element.height = length(isMarker ? "markerHeight" : "height");
+    if (const QList<double> box = svgNumbers(value("viewBox")); box.size() == 4)
+        element.viewBox = QSizeF(box[2], box[3]);
+    for (const char *key : {"patternContentUnits", "maskContentUnits", "clipPathUnits", "primitiveUnits"})
+        element.isInUnitsOfBox = element.isInUnitsOfBox || value(key) == QLatin1String("objectBoundingBox");
+    element.isInUnitsOfLine = isMarker && value("markerUnits") != QLatin1String("userSpaceOnUse");
 }
 
 } // namespace
 
 SvgCanvas svgCanvas(const QXmlStreamAttributes &root, QSize drawn)
 {
-    const QList<double> box = numbersOf(root.value(QLatin1String("viewBox")));
-    const SvgCanvas said(largestNumber(root.value(QLatin1String("width"))),
-                         largestNumber(root.value(QLatin1String("height"))));
+    const QList<double> box = svgNumbers(root.value(QLatin1String("viewBox")));
+    const SvgCanvas said(largestSvgNumber(root.value(QLatin1String("width"))),
+                         largestSvgNumber(root.value(QLatin1String("height"))));
     const SvgCanvas canvas = box.size() == 4 ? SvgCanvas(box[2], box[3]) : said;
     return canvas.isEmpty() ? SvgCanvas(drawn) : canvas;
 }
@@ -245,7 +239,7 @@ SvgStyles::SvgStyles(const QString &sheet)
 
 QString SvgStyles::declarations(QStringView name, const QXmlStreamAttributes &attributes) const
 {
-    QString all = attributes.value(QLatin1String("style")).toString();
+    QString all;
     if (m_rules.isEmpty())
         return all;
     const auto add = [&](const QString &mark) { all += u';' + m_rules.value(mark); };
@@ -272,8 +266,7 @@ QString styleSheetOf(const QByteArray &drawing)
     return sheet;
 }
 
-SvgElement svgElement(QStringView name, const QXmlStreamAttributes &attributes, const SvgStyles &styles,
-                      const SvgCanvas &canvas)
+SvgElement svgElement(QStringView name, const QXmlStreamAttributes &attributes, const SvgStyles &styles)
 {
     SvgElement element;
     element.isDefinition = isDefinition(name);
@@ -281,8 +274,10 @@ SvgElement svgElement(QStringView name, const QXmlStreamAttributes &attributes, 
     const bool isFilter = name == QLatin1String("filter");
     const bool isPrimitive = name.startsWith(QLatin1String("fe"));
     element.isRefused = (isFilter || isPrimitive) && endsTheProcess(name, attributes);
-    const Outline outline = outlineOf(name, attributes, canvas);
-    element.cost = outline.cost(largestNumber(attributes.value(QLatin1String("stroke-width"))));
+    element.outline = outlineOf(name, attributes);
+    if (name == QLatin1String("feMorphology"))
+        element.radius = largestSvgNumber(attributes.value(QLatin1String("radius")));
+    takeWindow(element, name, attributes);
     if (isPrimitive)
         element.cost.aPixel += primitiveCost(name, attributes);
     if (name == QLatin1String("stop"))
@@ -292,15 +287,73 @@ SvgElement svgElement(QStringView name, const QXmlStreamAttributes &attributes, 
         if (attribute.name() == QLatin1String("id"))
             element.id = value;
         if (attribute.name() == QLatin1String("href") && value.startsWith(u'#'))
-            element.references.append({value.mid(1), 1});
+            element.references.append({value.mid(1), SvgReference::For::Use});
         else if (attribute.name() == QLatin1String("href"))
             element.cost.once +=
                 double(value.size()) * (value.startsWith(QLatin1String("data:image/svg")) ? drawingByte : pictureByte);
-        take(element, attribute.name(), value, outline);
+        take(element, attribute.name(), value, Counts::Surely);
     }
-    for (const QString &declaration : styles.declarations(name, attributes).split(u';', Qt::SkipEmptyParts))
-        take(element, declaration.section(u':', 0, 0).trimmed(), declaration.section(u':', 1).trimmed(), outline);
+    takeDeclarations(element, attributes.value(QLatin1String("style")).toString(), Counts::Surely);
+    takeDeclarations(element, styles.declarations(name, attributes), Counts::Perhaps);
     return element;
+}
+
+SvgPlace placeWithin(const SvgElement &element, const SvgPlace &place)
+{
+    SvgPlace within = place;
+    within.scale *= element.scale;
+    const double diagonal = std::max(place.shown.width(), place.shown.height());
+    within.isStroked = element.isStroked.value_or(place.isStroked);
+    const auto most = [diagonal](const std::optional<SvgLength> &sure, const std::optional<SvgLength> &perhaps,
+                                 double outer) {
+        return std::max(sure ? sure->in(diagonal) : outer, perhaps.value_or(SvgLength()).in(diagonal));
+    };
+    within.strokeWidth = most(element.strokeWidth, element.perhapsStrokeWidth, place.strokeWidth);
+    within.fontSize = most(element.fontSize, element.perhapsFontSize, place.fontSize);
+    within.dash = element.dash.value_or(place.dash);
+    return within;
+}
+
+SvgPlace placeThroughWindow(const SvgElement &element, const SvgPlace &place)
+{
+    if (!element.isViewport)
+        return place;
+    const SvgLength all{0, 1};
+    SvgPlace within = place;
+    within.shown = QSizeF(element.width.value_or(all).in(place.shown.width()),
+                          element.height.value_or(all).in(place.shown.height()));
+    if (!element.viewBox || element.viewBox->isEmpty())
+        return within;
+    within.scale *= scaleOfWindow(within.shown, *element.viewBox);
+    within.shown = *element.viewBox;
+    return within;
+}
+
+SvgPlace placeReferredTo(const SvgElement &from, const SvgReference &reference, const SvgElement &to,
+                         const SvgPlace &place, const SvgCanvas &canvas)
+{
+    const double side = std::max(canvas.width(), canvas.height());
+    const double box = std::max(side, from.outline.extent(place));
+    SvgElement window = to;
+    SvgPlace there = place;
+    if (reference.what == SvgReference::For::Use) {
+        window.width = from.width ? from.width : to.width;
+        window.height = from.height ? from.height : to.height;
+    } else if (to.isInUnitsOfBox) {
+        there.scale = box;
+        there.shown = QSizeF(1, 1);
+    } else if (reference.what == SvgReference::For::Paint && to.viewBox) {
+        // A tile is at most as large as what is painted with it.
+        there.scale = box / side;
+        there.shown = canvas;
+        window.width = window.height = std::nullopt;
+    } else if (reference.what == SvgReference::For::Marker) {
+        constexpr double usual = 3;
+        there.scale *= to.isInUnitsOfLine ? place.strokeWidth : 1;
+        window.width = to.width ? to.width : SvgLength{usual, 0};
+        window.height = to.height ? to.height : SvgLength{usual, 0};
+    }
+    return placeThroughWindow(window, there);
 }
 
 } // namespace platform

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -58,7 +59,9 @@ public:
         constexpr double nanosecond = 1e-9;
         constexpr double tileSide = 2000; // the library draws in tiles, and all of a filter for each of them
         constexpr double bytesPerPixel = 4;
-        const Total &total = totalOf(0, 0);
+        const Total total = totalOf(0, rootPlace(), 0);
+        if (m_isRefused)
+            return {endless, 0};
         const double pixels = double(m_size.width()) * m_size.height();
         const double tiles = std::ceil(m_size.width() / tileSide) * std::ceil(m_size.height() / tileSide);
         const double side = std::max(m_size.width(), m_size.height());
@@ -72,7 +75,6 @@ public:
 private:
     static constexpr qsizetype deepest = 500;
     static constexpr qsizetype mostElements = 1'000'000;
-    static constexpr double letterCost = 25'000;
     static constexpr double bytesPerLetter = 5000;
     static constexpr double selectorCost = 150;
     static constexpr int surfacesOfFilter = 6;
@@ -87,8 +89,8 @@ private:
     {
         const qsizetype index = m_elements.size();
         if (index == 0)
-            m_canvas = svgCanvas(reader.attributes(), m_size);
-        const SvgElement element = svgElement(reader.name(), reader.attributes(), m_styles, m_canvas);
+            beginCanvas(reader.attributes());
+        const SvgElement element = svgElement(reader.name(), reader.attributes(), m_styles);
         m_isRefused = m_isRefused || element.isRefused;
         m_hasLayers = m_hasLayers || element.isLayer;
         if (!element.id.isEmpty())
@@ -96,36 +98,105 @@ private:
         m_elements.append(element);
     }
 
+    void beginCanvas(const QXmlStreamAttributes &root)
+    {
+        const QStringView ratio = root.value(QLatin1String("preserveAspectRatio"));
+        m_fillsCanvas = ratio.contains(QLatin1String("none")) || ratio.contains(QLatin1String("slice"));
+        m_canvas = svgCanvas(root, m_size);
+    }
+
     void addText(qsizetype element, qsizetype letters)
     {
         if (!m_elements.at(element).isText)
             return;
-        m_elements[element].cost.once += letterCost * double(letters);
+        m_elements[element].letters += double(letters);
         m_letters += double(letters);
     }
 
-    Total totalOf(qsizetype index, int depth)
+    /** The drawing is as large as its canvas, unless it is to fill it in both directions. */
+    SvgPlace rootPlace() const
     {
-        if (depth > deepest)
-            return {{endless, endless, endless}, 0};
-        if (const auto known = m_known.constFind(index); known != m_known.cend())
+        const double across = m_size.width() / m_canvas.width();
+        const double down = m_size.height() / m_canvas.height();
+        SvgPlace place;
+        place.shown = m_canvas;
+        place.scale = m_fillsCanvas ? std::max(across, down) / pixelsOfUnit() : 1;
+        return place;
+    }
+
+    double pixelsOfUnit() const
+    {
+        return std::max(m_size.width(), m_size.height()) / std::max(m_canvas.width(), m_canvas.height());
+    }
+
+    /** Places that differ little in their scale count as one. */
+    static QByteArray keyOf(qsizetype index, const SvgPlace &place)
+    {
+        constexpr double steps = 4;
+        const auto number = [](double value) { return QByteArray::number(value, 'g', 6) + ' '; };
+        return number(double(index)) + number(std::round(steps * std::log2(std::max(place.scale, 1e-30)))) +
+               number(place.shown.width()) + number(place.shown.height()) +
+               number(place.isStroked ? place.strokeWidth : -1) + number(place.dash) + number(place.fontSize);
+    }
+
+    /** What an element takes that stands at @p place. */
+    Total totalOf(qsizetype index, const SvgPlace &place, int depth)
+    {
+        const QByteArray key = keyOf(index, place);
+        if (const auto known = m_known.constFind(key); known != m_known.cend())
             return *known;
-        m_known.insert(index, {}); // whoever refers to itself is drawn once, or not at all
+        m_isRefused = m_isRefused || m_known.size() > mostElements;
+        if (depth > deepest || m_isRefused)
+            return {{endless, endless, endless}, 0};
+        if (m_open.contains(index)) // whoever refers to itself is drawn once, or not at all
+            return {};
+        m_open.insert(index);
         const SvgElement &element = m_elements.at(index);
-        Total total{element.cost, 0};
+        const SvgPlace within = placeWithin(element, place);
+        Total total{costOf(element, within), 0};
         const auto add = [&total](const Total &part, double times) {
             total.cost = sum(total.cost, part.cost, times);
             total.layers = std::max(total.layers, part.layers);
         };
         for (const qsizetype child : m_children.value(index))
             if (!m_elements.at(child).isDefinition)
-                add(totalOf(child, depth + 1), 1);
+                add(totalOf(child, placeThroughWindow(m_elements.at(child), within), depth + 1), 1);
         for (const SvgReference &reference : element.references)
             if (const auto target = m_byId.constFind(reference.id); target != m_byId.cend())
-                add(totalOf(*target, depth + 1), reference.times);
+                add(totalOf(*target, placeReferredTo(element, reference, m_elements.at(*target), within, m_canvas),
+                            depth + 1),
+                    timesOf(reference, element, within));
         total.layers += element.isLayer;
-        m_known.insert(index, total);
+        m_open.remove(index);
+        m_known.insert(key, total);
         return total;
+    }
+
+    SvgCost costOf(const SvgElement &element, const SvgPlace &place) const
+    {
+        constexpr double onePerRadius = 50;
+        SvgCost cost = sum(element.cost, element.outline.cost(place, m_canvas));
+        if (element.letters > 0)
+            cost = sum(cost, svgLetterCost(place, m_canvas), element.letters);
+        const double radius = element.radius * place.scale * pixelsOfUnit();
+        cost.aPixel += onePerRadius * std::min(radius, double(std::max(m_size.width(), m_size.height())));
+        return cost;
+    }
+
+    /** How often, or for how much of the canvas, what is referred to is drawn. */
+    double timesOf(const SvgReference &reference, const SvgElement &element, const SvgPlace &place) const
+    {
+        constexpr double least = 0.001;
+        switch (reference.what) {
+        case SvgReference::For::Paint:
+            return std::max(element.outline.area(place, m_canvas), least);
+        case SvgReference::For::Marker:
+            return std::max(1.0, element.outline.points());
+        case SvgReference::For::Use:
+        case SvgReference::For::Other:
+            break;
+        }
+        return 1;
     }
 
     QSize m_size;
@@ -134,7 +205,9 @@ private:
     QList<SvgElement> m_elements;
     QHash<qsizetype, QList<qsizetype>> m_children;
     QHash<QString, qsizetype> m_byId;
-    QHash<qsizetype, Total> m_known;
+    QHash<QByteArray, Total> m_known;
+    QSet<qsizetype> m_open;
+    bool m_fillsCanvas = false;
     double m_letters = 0;
     bool m_hasLayers = false;
     bool m_isRefused = false;
@@ -147,11 +220,10 @@ SvgWork svgWork(const QByteArray &text, QSize size)
     return Drawing(text, size).work();
 }
 
-bool canDrawSvg(const QByteArray &text, QSize size)
+bool canDrawSvg(const SvgWork &work)
 {
     constexpr double mostSeconds = 5;
     constexpr double mostBytes = 1e9;
-    const SvgWork work = svgWork(text, size);
     return work.seconds <= mostSeconds && work.bytes <= mostBytes;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/memory_left.h"
 #include "platform/imageio/facts/metadata_of_file.h"
+#include "platform/imageio/formats/memory_need.h"
 
 #include <QFileInfo>
 
@@ -21,6 +22,8 @@ Result<void> memoryIsLeftToDecode(const ImageSource::File &file, const vips::VIm
     facts.bands = image.bands();
     facts.componentBytes = bytesPerComponent(image);
     facts.comesInPasses = image.get_typeof("interlaced") != 0 && image.get_int("interlaced") != 0;
+    if (image.get_typeof(bytesOfDrawing) != 0)
+        facts.drawingBytes = image.get_double(bytesOfDrawing);
     return memoryIsLeftFor(memoryNeed(facts, outcome), file.name(), addressesOfThreads(file.content));
 }
 

@@ -200,6 +200,22 @@ private Q_SLOTS:
         QCOMPARE(isRefused([](const ImageSource &source) { return kindOf(source.decodePart({0, 0, 5900, 4000})); }), 0);
     }
 
+    void aDrawingNeedsMoreForItsLayers()
+    {
+        const auto resultOf = [this](int layers) {
+            const QByteArray open = QByteArray("<g opacity='.9'>").repeated(layers);
+            const QByteArray close = QByteArray("</g>").repeated(layers);
+            write(path("drawing.svg"), "<svg xmlns='http://www.w3.org/2000/svg' width='3000' height='3000'>" + open +
+                                           "<rect width='3000' height='3000'/>" + close + "</svg>");
+            return resultWithin(300 * mega, [&] {
+                const auto source = ImageSource::open(path("drawing.svg"));
+                return source ? kindOf(source->decode()) : 90;
+            });
+        };
+        QCOMPARE(resultOf(0), 0);
+        QCOMPARE(resultOf(10), tooLarge);
+    }
+
     void whatFitsIsDone()
     {
         const auto done = [this](const char *name, const auto &attempt) {
