@@ -49,12 +49,18 @@ bool limitTo(qint64 bytes)
     return ::setrlimit(RLIMIT_AS, &limit) == 0;
 }
 
-/** What @p task returns, 0 to 100, in a process that can get @p bytes more of address space; -1 where a signal ended it. */
+/**
+ * What @p task returns, 0 to 100, in a process that can get @p bytes more of address space; -1 where a signal ended it. Without memory
+ * a library may wait for its own threads for ever.
+ */
 template<typename Task> int resultWithin(qint64 bytes, Task task)
 {
     const pid_t child = ::fork();
-    if (child == 0)
+    constexpr unsigned mostSeconds = 20;
+    if (child == 0) {
+        ::alarm(mostSeconds);
         ::_exit(limitTo(bytes) ? task() : 100);
+    }
     int status = 0;
     ::waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
