@@ -943,8 +943,8 @@ declare module "quorlin/files" {
         profileName(path: text): string;
         /** Writes the user comment; answers the problem. */
         writeComment(path: text, comment: text): string;
-        /** "EXIF", "GPS", "IPTC" and "XMP": what one picture holds and another, made of it, does not. */
-        lostMetadata(from: text, to: text): string[];
+        /** "EXIF", "GPS", "IPTC" and "XMP": what one picture holds and another, made of it, does not; or why one cannot be read. */
+        lostMetadata(from: text, to: text): { lost: string[]; problem: string };
         readComment(path: text): { comment: string; problem: string };
         /** How many pages a file would lose to a comment. */
         pagesLostToComment(path: text): whole;

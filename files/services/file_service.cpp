@@ -218,22 +218,24 @@ QString FileService::writeComment(const QString &path, const QString &comment) c
     return written ? QString() : written.error().message;
 }
 
-QStringList FileService::lostMetadata(const QString &from, const QString &to) const
+QVariantMap FileService::lostMetadata(const QString &from, const QString &to) const
 {
-    const auto groupsOf = [](const QString &path) {
-        return platform::ImageSource::open(path)
-            .and_then([](const auto &source) { return source.metadata(); })
-            .value_or(platform::Metadata())
-            .toProperties();
+    const auto metadataOf = [](const QString &path) {
+        return platform::ImageSource::open(path).and_then([](const auto &source) { return source.metadata(); });
     };
-    const QVariantMap had = groupsOf(from);
-    const QVariantMap has = groupsOf(to);
+    const auto old = metadataOf(from);
+    const auto made = metadataOf(to);
+    if (!old || !made)
+        return {{QStringLiteral("lost"), QStringList()},
+                {QStringLiteral("problem"), (old ? made : old).error().message}};
+    const QVariantMap had = old->toProperties();
+    const QVariantMap has = made->toProperties();
     QStringList lost;
     for (const auto &[group, word] :
          {std::pair("{Exif}", "EXIF"), {"{GPS}", "GPS"}, {"{IPTC}", "IPTC"}, {"{XMP}", "XMP"}})
         if (had.contains(QString::fromLatin1(group)) && !has.contains(QString::fromLatin1(group)))
             lost.append(QString::fromLatin1(word));
-    return lost;
+    return {{QStringLiteral("lost"), lost}, {QStringLiteral("problem"), QStringLiteral("")}};
 }
 
 QVariantMap FileService::readComment(const QString &path) const

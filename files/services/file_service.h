@@ -96,8 +96,11 @@ public:
 
     /** Writes the user comment of a picture; see platform::writeUserComment(). */
     Q_INVOKABLE QString writeComment(const QString &path, const QString &comment) const;
-    /** The kinds of metadata, "EXIF", "GPS", "IPTC" and "XMP", that one picture holds and another, made of it, does not. */
-    Q_INVOKABLE QStringList lostMetadata(const QString &from, const QString &to) const;
+    /**
+     * {lost, problem}: the kinds of metadata, "EXIF", "GPS", "IPTC" and "XMP", that one picture holds and another, made of it, does
+     * not; or why one of the two cannot be read.
+     */
+    Q_INVOKABLE QVariantMap lostMetadata(const QString &from, const QString &to) const;
     /** {comment, problem}: the user comment of a picture, or why it cannot be read. */
     Q_INVOKABLE QVariantMap readComment(const QString &path) const;
     /** How many pages a file would lose to a comment; see platform::pagesLostToUserComment(). */

@@ -1995,6 +1995,10 @@
         <source>the metadata could not be written (%1); the disk may be full</source>
         <translation>die Metadaten konnten nicht geschrieben werden (%1); vielleicht ist der Datenträger voll</translation>
     </message>
+    <message>
+        <source>whether the metadata was written cannot be known: %1</source>
+        <translation>ob die Metadaten geschrieben wurden, ist nicht bekannt: %1</translation>
+    </message>
 </context>
 <context>
     <name>crop-action</name>

@@ -1995,6 +1995,10 @@
         <source>the metadata could not be written (%1); the disk may be full</source>
         <translation>les métadonnées n’ont pas pu être écrites (%1) ; le disque est peut-être plein</translation>
     </message>
+    <message>
+        <source>whether the metadata was written cannot be known: %1</source>
+        <translation>impossible de savoir si les métadonnées ont été écrites : %1</translation>
+    </message>
 </context>
 <context>
     <name>crop-action</name>

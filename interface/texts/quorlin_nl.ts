@@ -1995,6 +1995,10 @@
         <source>the metadata could not be written (%1); the disk may be full</source>
         <translation>de metagegevens konden niet geschreven worden (%1); misschien is de schijf vol</translation>
     </message>
+    <message>
+        <source>whether the metadata was written cannot be known: %1</source>
+        <translation>het is niet bekend of de metagegevens geschreven zijn: %1</translation>
+    </message>
 </context>
 <context>
     <name>crop-action</name>

@@ -49,6 +49,12 @@ export function plan(photo, settings) {
     return planned;
 }
 
+function metadataWords(compared) {
+    return compared.problem
+        ? fill(qsTr("whether the metadata was written cannot be known: %1"), compared.problem)
+        : fill(qsTr("the metadata could not be written (%1); the disk may be full"), compared.lost.join(", "));
+}
+
 // The service answers the same whatever becomes of the file: only the file itself tells.
 function verified(path, planned, photo, services) {
     if (!services.files.info(path).exists) {
@@ -62,10 +68,9 @@ function verified(path, planned, photo, services) {
         return { status: "Failed", reason: qsTr("the file was written but cannot be read again"), outputs: [] };
     }
     // The picture is written first and its metadata after it; on a full disk only the first may have gone well.
-    const missing = planned.metadata ? services.files.lostMetadata(photo.path, path) : [];
-    if (missing.length > 0) {
-        const reason = fill(qsTr("the metadata could not be written (%1); the disk may be full"), missing.join(", "));
-        return { status: "Failed", reason: reason, outputs: [] };
+    const compared = planned.metadata ? services.files.lostMetadata(photo.path, path) : { lost: [], problem: "" };
+    if (compared.problem || compared.lost.length > 0) {
+        return { status: "Failed", reason: metadataWords(compared), outputs: [] };
     }
     return { status: "OK", reason: "", outputs: [path], width: planned.width, height: planned.height };
 }

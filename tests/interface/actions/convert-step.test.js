@@ -8,7 +8,8 @@ function servicesThatLeave(written) {
     const files = new FakeFiles({});
     const calls = [];
     files.picture = () => written;
-    files.lostMetadata = () => (written === null ? [] : written.lost || []);
+    files.lostMetadata = () => ({ lost: written === null ? [] : written.lost || [],
+                                  problem: written === null ? "" : written.problem || "" });
     return {
         calls: calls, files: files,
         fileHandling: {

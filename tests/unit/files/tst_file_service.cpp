@@ -256,7 +256,13 @@ void TestFileService::writesAndReadsComments()
     QCOMPARE(service.writeComment(at("a.jpg"), text("at the sea")), QString());
     QCOMPARE(service.readComment(at("a.jpg")),
              (QVariantMap{{text("comment"), text("at the sea")}, {text("problem"), text("")}}));
-    QCOMPARE(service.lostMetadata(at("a.jpg"), at("b.jpg")), QStringList{text("EXIF")});
+    QCOMPARE(service.lostMetadata(at("a.jpg"), at("b.jpg")),
+             (QVariantMap{{text("lost"), QStringList{text("EXIF")}}, {text("problem"), text("")}}));
+    for (const auto &[from, to] : {std::pair("c.txt", "b.jpg"), {"missing.jpg", "b.jpg"}, {"a.jpg", "missing.jpg"}}) {
+        const QVariantMap compared = service.lostMetadata(at(from), at(to));
+        QCOMPARE(compared.value(text("lost")), QVariant(QStringList()));
+        QVERIFY2(!compared.value(text("problem")).toString().isEmpty(), from);
+    }
     QVERIFY(!service.writeComment(at("c.txt"), text("no")).isEmpty());
     QVERIFY(!service.readComment(at("missing.jpg")).value(text("problem")).toString().isEmpty());
 }
