@@ -56,9 +56,10 @@ public:
             if (m_isStopped())
                 break;
             const QList<int> wanted = wantedOf(m_inputs[number]);
+            if (wanted.isEmpty())
+                continue;
             ++m_summary.inputs;
-            if (!wanted.isEmpty())
-                work(number, places, wanted);
+            work(number, places, wanted);
         }
         constexpr double milliseconds = 1000;
         m_summary.seconds = double(timer.elapsed()) / milliseconds;

@@ -6,6 +6,7 @@
 #include "platform/effects/canvas.h"
 #include "platform/effects/colour_space.h"
 #include "platform/effects/sharpen.h"
+#include "platform/effects/stamp.h"
 #include "platform/graphics/compose.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/source/image_source.h"
@@ -96,12 +97,11 @@ public:
 
     Result<Bitmap> operator()(const TurnOperation &turn) const
     {
-        const bool wasOpaque = !m_before.bitmap.hasAlpha();
         const QSize canvas = turnedCanvas(turn, m_before.bitmap.size());
         const platform::FreeTurn free = {-turn.degrees, canvas, QPointF(canvas.width() / 2.0, canvas.height() / 2.0),
                                          platform::Surroundings::Transparent};
         return platform::turned(m_before.bitmap, free).and_then([&](const Bitmap &bitmap) {
-            return turn.color && wasOpaque ? laidOnAnyColor(bitmap, *turn.color) : Result<Bitmap>(bitmap);
+            return turn.color ? withCorners(bitmap, free, *turn.color) : Result<Bitmap>(bitmap);
         });
     }
 
@@ -167,6 +167,24 @@ private:
         QImage dot(1, 1, QImage::Format_RGBA8888);
         dot.fill(color);
         return platform::laidOn(bitmap, Bitmap::fromImage(dot));
+    }
+
+    /** Colours what a turn has added, and nothing that was transparent before. */
+    Result<Bitmap> withCorners(const Bitmap &turned, const platform::FreeTurn &turn, const QColor &color) const
+    {
+        if (!m_before.bitmap.hasAlpha())
+            return laidOnAnyColor(turned, color);
+        QImage full(m_before.bitmap.width(), m_before.bitmap.height(), QImage::Format_RGB32);
+        full.fill(Qt::white);
+        return platform::turned(Bitmap::fromImage(full), turn).and_then([&](const Bitmap &covered) {
+            QImage corners = covered.toRawImage().convertToFormat(QImage::Format_ARGB32);
+            for (int y = 0; y < corners.height(); ++y)
+                for (int x = 0; x < corners.width(); ++x) {
+                    const int alpha = color.alpha() * (255 - qAlpha(corners.pixel(x, y))) / 255;
+                    corners.setPixel(x, y, qRgba(color.red(), color.green(), color.blue(), alpha));
+                }
+            return platform::stamped(turned, {Bitmap::fromImage(corners), {QPoint(0, 0)}, 1});
+        });
     }
 
     static Result<Bitmap> padded(const Rendition &scaled, const ResizeOperation &resize, const Fitting &fitting)

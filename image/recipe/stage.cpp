@@ -252,7 +252,7 @@ public:
     {
         Stage after = m_stage;
         after.profile = profile.profile;
-        after.isGray = profile.profile.isEmpty() ? true : m_stage.isGray;
+        after.isGray = profile.profile.isEmpty();
         const bool isSame = profile.profile.isEmpty() ? m_stage.isGray && m_stage.profile.isEmpty()
                                                       : platform::meansSameColours(profile.profile, m_stage.profile);
         return made(isSame ? Effect::None : Effect::Pixels, isSame ? m_stage : after);

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void sharpensEdgesAndNothingElse();
     void laysAWatermarkWhereItBelongs();
     void paddingAndFramesHaveTheirColour();
+    void turnsFillTheNewCornersAlone();
 };
 
 namespace {
@@ -362,6 +363,24 @@ void TestRecipeMaking::paddingAndFramesHaveTheirColour()
     const QImage box = padded->bitmap.toRawImage().convertToFormat(QImage::Format_ARGB32);
     QCOMPARE(box.size(), QSize(30, 20));
     QCOMPARE(box.pixelColor(0, 0).alpha(), 128);
+}
+
+void TestRecipeMaking::turnsFillTheNewCornersAlone()
+{
+    QImage hole(60, 60, QImage::Format_ARGB32);
+    hole.fill(QColor(0, 200, 0));
+    for (int y = 20; y < 40; ++y)
+        for (int x = 20; x < 40; ++x)
+            hole.setPixelColor(x, y, Qt::transparent);
+    for (const QColor &color : {QColor(255, 0, 0), QColor(255, 0, 0, 128)}) {
+        const Bitmap bitmap = Bitmap::fromImage(hole);
+        const auto made = rendered({{TurnOperation{45, color}, false}}, {bitmap, stageOf(bitmap)}, {});
+        const QImage turned = made->bitmap.toRawImage().convertToFormat(QImage::Format_ARGB32);
+        const int middle = turned.width() / 2;
+        QCOMPARE(turned.pixelColor(1, 1), color);
+        QCOMPARE(turned.pixelColor(middle, middle).alpha(), 0);
+        QCOMPARE(turned.pixelColor(middle, 12), QColor(0, 200, 0));
+    }
 }
 
 QUORLIN_TEST(TestRecipeMaking)
