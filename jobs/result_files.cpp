@@ -48,6 +48,7 @@ Result<void> ResultFiles::keep(int index, const QByteArray &bytes, const OutputP
     if (staging.isEmpty()) {
         if (files::makeFolder(folder) == files::FolderMade::No)
             return unwritten(folder);
+        files::sweepStagings(folder);
         staging = files::makeStaging(folder);
     }
     if (staging.isEmpty())

@@ -46,6 +46,7 @@ def check_answers(base):
     assert run("--version", cwd=base).stdout.startswith(b"quorlin-batch ")
     for wrong in ([], ["r.quorlin"], ["none.quorlin", "in"], ["r.quorlin", "in", "--melt"], ["r.quorlin", "in", "--jobs", "0"],
                   ["r.quorlin", "in", "--keep-tree"], ["r.quorlin", "in", "--shard", "3/2"], ["r.quorlin", "in", "--to"],
+                  ["r.quorlin", "in", "--report", "r.quorlin"], ["r.quorlin", "in", "--report", "in/a.png"],
                   ["r.quorlin", "in", "--plan", "none"], ["r.quorlin", "in", "-0"]):
         before = sorted(base.rglob("*"))
         done = run(*wrong, cwd=base)

@@ -1,6 +1,7 @@
 #include "image/recipe/recipe_reader.h"
 #include "jobs/batch.h"
 #include "jobs/presets/preset_recipe.h"
+#include "platform/disk/item_identity.h"
 #include "platform/file/atomic_file.h"
 #include "tools/batch/command_line.h"
 
@@ -10,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <unistd.h>
@@ -188,8 +190,25 @@ bool isSameFile(const QString &one, const QString &other)
     return !one.isEmpty() && QFileInfo(one).absoluteFilePath() == QFileInfo(other).absoluteFilePath();
 }
 
+/** Whether the report would be written over something that is read. */
+bool wouldLoseAFile(const Request &request, const CommandLine &line)
+{
+    const QString report = platform::targetIdentity(QDir::current().absoluteFilePath(line.report));
+    if (line.report.isEmpty() || line.report == QLatin1String("-") || report.isEmpty())
+        return false;
+    QStringList read = {line.recipe, line.plan, line.from};
+    for (const jobs::Input &input : request.inputs)
+        read.append(input.path);
+    read.removeAll(QString());
+    return std::any_of(read.begin(), read.end(), [&report](const QString &path) {
+        return platform::targetIdentity(QDir::current().absoluteFilePath(path)) == report;
+    });
+}
+
 int carryOut(const Request &request, const CommandLine &line)
 {
+    if (wouldLoseAFile(request, line))
+        return refuse(QStringLiteral("%1 is read, so it cannot be the report").arg(line.report));
     jobs::ReportFile report;
     const auto start =
         isSameFile(line.resume, line.report) ? jobs::ReportFile::Start::Added : jobs::ReportFile::Start::Empty;
