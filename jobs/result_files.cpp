@@ -54,7 +54,11 @@ Result<void> ResultFiles::keep(int index, const QByteArray &bytes, const OutputP
     if (staging.isEmpty())
         return unwritten(folder);
     const QString file = staging + QString::number(index);
-    return platform::replaceFile(file, bytes).map([&] {
+    const auto named = [&](platform::Error error) {
+        error.message.replace(file, place.path); // nobody knows the hidden folder
+        return error;
+    };
+    return platform::replaceFile(file, bytes).map_error(named).map([&] {
         if (output.dates == image::FileDates::Keep)
             takeDateOf(m_input.path, file);
         markResult(file, m_input.path, settingsName(m_recipeName, index));
