@@ -10,23 +10,13 @@
 #include <QDir>
 
 #include <array>
+#include <span>
 
 namespace image {
 namespace {
 
 constexpr double longestSide = 100'000;
 
-constexpr Word<Place> places[] = {
-    {"top left", Place::TopLeft},
-    {"top", Place::Top},
-    {"top right", Place::TopRight},
-    {"left", Place::Left},
-    {"center", Place::Center},
-    {"right", Place::Right},
-    {"bottom left", Place::BottomLeft},
-    {"bottom", Place::Bottom},
-    {"bottom right", Place::BottomRight},
-};
 constexpr Word<Place> placesOfParts[] = {
     {"top left", Place::TopLeft},
     {"top", Place::Top},
@@ -39,6 +29,8 @@ constexpr Word<Place> placesOfParts[] = {
     {"bottom right", Place::BottomRight},
     {"attention", Place::Attention},
 };
+/** Where things are put: the same but for the last one. */
+const std::span<const Word<Place>> places = std::span(placesOfParts).first(std::size(placesOfParts) - 1);
 constexpr Word<RecipeUnit> units[] = {{"mm", RecipeUnit::Millimetre},
                                       {"cm", RecipeUnit::Centimetre},
                                       {"in", RecipeUnit::Inch},

@@ -73,6 +73,11 @@ public:
 
     template<typename T, size_t n> std::optional<T> choice(const char *key, const Word<T> (&words)[n])
     {
+        return choice(key, std::span<const Word<T>>(words));
+    }
+
+    template<typename T> std::optional<T> choice(const char *key, std::span<const Word<T>> words)
+    {
         const QJsonValue value = take(key);
         if (value.isUndefined())
             return std::nullopt;
