@@ -59,6 +59,7 @@ public:
             if (wanted.isEmpty())
                 continue;
             ++m_summary.inputs;
+            m_rooms.letGoOfMany();
             work(number, places, wanted);
         }
         constexpr double milliseconds = 1000;
@@ -174,7 +175,7 @@ private:
               QHash<int, ReportLine> &lines, QElapsedTimer &timer)
     {
         const Input &input = m_inputs[number];
-        ResultFiles files(input, m_options.recipe);
+        ResultFiles files(input, m_options.recipe, m_rooms);
         const image::FillText fill = [&](const QString &pattern, QSize size) {
             return watermarkFrom(pattern, input.path, number, size);
         };
@@ -222,6 +223,7 @@ private:
     const TakeLine &m_take;
     const std::function<bool()> &m_isStopped;
     OutputPlaces m_places;
+    WaitingRooms m_rooms;
     ImageSource m_source;
     QList<OutputPlan> m_plans;
     Summary m_summary;

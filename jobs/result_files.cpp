@@ -34,26 +34,49 @@ void takeDateOf(const QString &source, const QString &path)
 
 } // namespace
 
+WaitingRooms::~WaitingRooms()
+{
+    removeAll();
+}
+
+void WaitingRooms::removeAll()
+{
+    for (const auto &[folder, room] : m_rooms)
+        files::removeStaging(room);
+    m_rooms.clear();
+}
+
+void WaitingRooms::letGoOfMany()
+{
+    constexpr size_t many = 50;
+    if (m_rooms.size() > many)
+        removeAll();
+}
+
+QString WaitingRooms::in(const QString &folder)
+{
+    QString &room = m_rooms[folder];
+    if (room.isEmpty() && files::makeFolder(folder) != files::FolderMade::No) {
+        files::sweepStagings(folder);
+        room = files::makeStaging(folder);
+    }
+    return room;
+}
+
 ResultFiles::~ResultFiles()
 {
-    for (const auto &[folder, staging] : m_stagings)
-        files::removeStaging(staging);
+    for (const Kept &kept : m_kept)
+        QFile::remove(kept.file);
 }
 
 Result<void> ResultFiles::keep(int index, const QByteArray &bytes, const OutputPlace &place,
                                const image::RecipeOutput &output)
 {
     const QString folder = platform::parentFolder(place.path);
-    QString &staging = m_stagings[folder];
-    if (staging.isEmpty()) {
-        if (files::makeFolder(folder) == files::FolderMade::No)
-            return unwritten(folder);
-        files::sweepStagings(folder);
-        staging = files::makeStaging(folder);
-    }
-    if (staging.isEmpty())
+    const QString room = m_rooms.in(folder);
+    if (room.isEmpty())
         return unwritten(folder);
-    const QString file = staging + QString::number(index);
+    const QString file = room + QString::number(index);
     const auto named = [&](platform::Error error) {
         error.message.replace(file, place.path); // nobody knows the hidden folder
         return error;

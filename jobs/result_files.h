@@ -7,6 +7,26 @@
 
 namespace jobs {
 
+/** The hidden folders of a batch in which results wait for their places, one in each folder that gets any; gone with the batch. */
+class WaitingRooms
+{
+public:
+    WaitingRooms() = default;
+    WaitingRooms(const WaitingRooms &) = delete;
+    WaitingRooms &operator=(const WaitingRooms &) = delete;
+    ~WaitingRooms();
+
+    /** The one in @p folder, which is made; ends in "/". Empty where it cannot be made. What killed batches left there is removed. */
+    QString in(const QString &folder);
+    /** To be called between two pictures: each room holds a file open, and results may go into thousands of folders. */
+    void letGoOfMany();
+
+private:
+    void removeAll();
+
+    std::map<QString, QString> m_rooms;
+};
+
 /**
  * The results of one picture: written beside their places first, and put there when all are made, so that a picture that is
  * replaced by its own result is not missing to the others.
@@ -14,7 +34,10 @@ namespace jobs {
 class ResultFiles
 {
 public:
-    ResultFiles(const Input &input, const QString &recipeName) : m_input(input), m_recipeName(recipeName) {}
+    ResultFiles(const Input &input, const QString &recipeName, WaitingRooms &rooms)
+        : m_input(input), m_recipeName(recipeName), m_rooms(rooms)
+    {
+    }
     ResultFiles(const ResultFiles &) = delete;
     ResultFiles &operator=(const ResultFiles &) = delete;
     /** What was not placed is gone afterwards. */
@@ -49,7 +72,7 @@ private:
     const Input &m_input;
     QString m_recipeName;
     QList<Kept> m_kept;
-    std::map<QString, QString> m_stagings; ///< by the folder that they stand in
+    WaitingRooms &m_rooms;
 };
 
 } // namespace jobs
