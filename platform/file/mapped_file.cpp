@@ -35,7 +35,7 @@ struct MappedFaults
 };
 
 MappedFile::MappedFile(QFile &file)
-    : m_file(file), m_data(file.map(0, file.size())), m_size(file.size()), m_next(MappedFaults::first)
+    : m_file(file), m_size(file.size()), m_data(file.map(0, m_size)), m_next(MappedFaults::first)
 {
     if (!m_next)
         MappedFaults::listen();

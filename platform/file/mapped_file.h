@@ -30,8 +30,8 @@ private:
     bool mend(const void *address);
 
     QFile &m_file;
+    qint64 m_size = 0; ///< when it was mapped, and no other
     unsigned char *m_data = nullptr;
-    qint64 m_size = 0;
     volatile bool m_isSpoilt = false;
     MappedFile *m_next = nullptr; ///< of those that live
 };

@@ -3,15 +3,17 @@
 #include <QString>
 
 #include <cerrno>
+#include <cstdio>
 
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 /**
  * Stands between this program, with all its libraries, and the reads of one file: each of them can fail, as those of a damaged card or
- * of a network that is gone do. What is mapped or read through stdio does not come this way. To be included once in a program.
+ * of a network that is gone do, and so can those of what is mapped. What is read through stdio does not come this way. To be included once in a program.
  */
 struct EveryRead
 {
@@ -30,7 +32,25 @@ struct EveryRead
         s_fail = fail;
         count = 0;
     }
-    static void stop() { s_isOn = false; }
+    static void stop() { s_isOn = s_cutsMapped = false; }
+
+    /** The file is cut short as soon as it is mapped: nothing of what is mapped can be read then. */
+    static void spoilMapped(const QString &path)
+    {
+        spoil(path, 0x7fffffff, Fail::Once);
+        s_cutsMapped = true;
+    }
+    static bool cutsMapped(int file)
+    {
+        struct stat found = {};
+        return s_cutsMapped && ::fstat(file, &found) == 0 && found.st_dev == s_device && found.st_ino == s_inode;
+    }
+    static void cut(int file)
+    {
+        char name[32];
+        std::snprintf(name, sizeof name, "/proc/self/fd/%d", file);
+        (void)!::truncate(name, 0);
+    }
 
     static bool fails(int file)
     {
@@ -43,6 +63,7 @@ struct EveryRead
 
 private:
     static inline bool s_isOn = false;
+    static inline bool s_cutsMapped = false;
     static inline dev_t s_device = 0;
     static inline ino_t s_inode = 0;
     static inline int s_number = 0;
@@ -66,6 +87,20 @@ ssize_t pread(int file, void *bytes, size_t count, off_t at)
     }
     return ::syscall(SYS_pread64, file, bytes, count, at);
 }
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wold-style-cast" // the library's own MAP_FAILED
+void *mmap(void *at, size_t size, int protection, int flags, int file, off_t from) noexcept
+{
+    void *const place = reinterpret_cast<void *>(::syscall(SYS_mmap, at, size, protection, flags, file, from));
+    if (file >= 0 && place != MAP_FAILED && EveryRead::cutsMapped(file))
+        EveryRead::cut(file);
+    return place;
+}
+void *mmap64(void *at, size_t size, int protection, int flags, int file, off64_t from) noexcept
+{
+    return ::mmap(at, size, protection, flags, file, from);
+}
+#pragma GCC diagnostic pop
 ssize_t pread64(int file, void *bytes, size_t count, off64_t at)
 {
     return ::pread(file, bytes, count, at);

@@ -1,26 +1,15 @@
 #include "platform/imageio/facts/raw_preview.h"
 
 #include "platform/file/mapped_file.h"
+#include "platform/file/regular_file.h"
 #include "platform/imageio/formats/content.h"
 #include "platform/imageio/metadata/metadata_blocks.h"
 #include "platform/imageio/xmp/xmp_bounds.h"
-
-#include <QFile>
 
 #include <exception>
 
 namespace platform {
 namespace {
-
-/** The library reads all metadata on its way to the preview. */
-bool hasReadableMetadata(const PictureBytes &file)
-{
-    QFile opened(file.path);
-    if (file.path.isEmpty() || !opened.open(QIODevice::ReadOnly))
-        return holdsDigestibleXmp(file.bytes);
-    const MappedFile mapped(opened);
-    return !mapped.isThere() || (holdsDigestibleXmp(mapped.bytes()) && !mapped.isSpoilt());
-}
 
 QByteArray largestJpeg(const Exiv2::Image &image)
 {
@@ -37,24 +26,43 @@ QByteArray largestJpeg(const Exiv2::Image &image)
     return {};
 }
 
-} // namespace
-
-QByteArray rawPreview(const PictureBytes &file)
+QByteArray previewIn(const QByteArray &file)
 {
-    startMetadataLibrary();
-    if (!hasReadableMetadata(file))
+    // The library reads all metadata on its way to the preview.
+    if (!holdsDigestibleXmp(file))
         return {};
     try {
         const auto image =
-            file.path.isEmpty()
-                ? Exiv2::ImageFactory::open(reinterpret_cast<const Exiv2::byte *>(file.bytes.constData()),
-                                            long(file.bytes.size()))
-                : Exiv2::ImageFactory::open(QFile::encodeName(file.path).toStdString());
+            Exiv2::ImageFactory::open(reinterpret_cast<const Exiv2::byte *>(file.constData()), size_t(file.size()));
         image->readMetadata();
         return largestJpeg(*image);
     } catch (const std::exception &) {
         return {};
     }
+}
+
+tl::unexpected<Error> cannotBeRead()
+{
+    return failure(ErrorCode::Unreadable, QStringLiteral("some of it cannot be read"));
+}
+
+} // namespace
+
+Result<QByteArray> rawPreview(const PictureBytes &file)
+{
+    startMetadataLibrary();
+    if (file.path.isEmpty())
+        return previewIn(file.bytes);
+    NamedFile opened(file.path);
+    if (const auto isOpen = openToRead(opened); !isOpen)
+        return tl::unexpected(isOpen.error());
+    const MappedFile mapped(opened);
+    // Where a file system cannot map, all of it is read.
+    const QByteArray bytes = mapped.isThere() ? mapped.bytes() : opened.readAll();
+    QByteArray preview = previewIn(bytes);
+    if (mapped.isSpoilt() || !opened.readProblem().isEmpty())
+        return cannotBeRead();
+    return preview;
 }
 
 } // namespace platform

@@ -124,13 +124,16 @@ bool isSoundJpeg(QIODevice &device)
 }
 
 /** Puts the preview of a raw file in its place; nothing changes where there is none. */
-void usePreview(File &file)
+Result<void> usePreview(File &file)
 {
-    const QByteArray preview = rawPreview(file.bytes);
-    if (preview.isEmpty())
-        return;
-    file.raw = std::exchange(file.bytes, {{}, preview});
+    const Result<QByteArray> preview = rawPreview(file.bytes);
+    if (!preview)
+        return unreadable(file.name(), preview.error().message);
+    if (preview->isEmpty())
+        return {};
+    file.raw = std::exchange(file.bytes, {{}, *preview});
     file.content = Content::Jpeg;
+    return {};
 }
 
 Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
@@ -151,7 +154,8 @@ Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
     const bool isRaw = isCameraRaw(head);
     const bool isRawWhole = !isRaw || isWholeRaw(*device);
     if (isRaw && isRawWhole)
-        usePreview(*file);
+        if (const auto used = usePreview(*file); !used)
+            return tl::unexpected(used.error());
     if (file->content == Content::Unknown && isRawWhole)
         return failure(ErrorCode::NotAPicture,
                        text("Cannot read %1: %2").arg(file->name(), text("this is not a picture")));

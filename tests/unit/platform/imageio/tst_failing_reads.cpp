@@ -1,6 +1,7 @@
 #include "tests/support/every_read.h"
 
 #include "platform/imageio/comments/user_comment_writer.h"
+#include "platform/imageio/facts/raw_preview.h"
 #include "platform/imageio/source/image_source.h"
 #include "platform/imageio/source/picture_facts.h"
 #include "tests/support/expected_pictures.h"
@@ -94,6 +95,7 @@ private Q_SLOTS:
     void cleanup() { EveryRead::stop(); }
     void tellsAFailureOrAll_data();
     void tellsAFailureOrAll();
+    void tellsThatTheEndOfARawFileCannotBeRead();
 };
 
 void TestFailingReads::tellsAFailureOrAll_data()
@@ -106,7 +108,7 @@ void TestFailingReads::tellsAFailureOrAll_data()
                              "metadata/every-group.webp", "metadata/every-group.jp2", "metadata/every-group.heic",
                              "metadata/every-group.avif", "metadata/xmp.gif", "metadata/xmp.psd", "formats/profile.png",
                              "dpi/phys-144dpi.png", "dpi/header-96dpi.bmp", "orientation/turned_6.png",
-                             "orientation/turned_6.webp", "orientation/turned_6.tif"})
+                             "orientation/turned_6.webp", "orientation/turned_6.tif", "formats/plain.dng"})
         for (const auto &work : works()) {
             const QString path = pictures + QString::fromUtf8(name);
             QTest::addRow("%s of %s, then", work.first.constData(), name)
@@ -149,6 +151,21 @@ void TestFailingReads::tellsAFailureOrAll()
         QCOMPARE(folder.names(), QStringList(QStringLiteral("picture")));
     }
     QVERIFY(whole.isEmpty() || failures > 0);
+}
+
+/** What is mapped fails too, and without a preview the sensor's own picture would be taken for the photograph. */
+void TestFailingReads::tellsThatTheEndOfARawFileCannotBeRead()
+{
+    const ScratchFolder folder;
+    const QString path = folder.path("picture");
+    const QString raw = QString::fromUtf8(QUORLIN_TEST_DATA) + QStringLiteral("/../pictures/formats/plain.dng");
+    QVERIFY(QFile::copy(raw, path) && folder.allow("picture", 0644));
+    QVERIFY(platform::rawPreview({path, {}}).has_value());
+    EveryRead::spoilMapped(path);
+    const auto preview = platform::rawPreview({path, {}});
+    EveryRead::stop();
+    QVERIFY(!preview && preview.error().code == platform::ErrorCode::Unreadable);
+    QVERIFY(!preview.error().message.isEmpty());
 }
 
 QUORLIN_TEST(TestFailingReads)
