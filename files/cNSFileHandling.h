@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/foundation/sender.h"
 #include "platform/imageio/source/picture.h"
 #include "platform/plist/property_value.h"
+#include "platform/values/sender.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/controls/save_panel.h"
-#include "platform/foundation/sender.h"
+#include "platform/values/sender.h"
 
 #include <QObject>
 #include <QPointer>

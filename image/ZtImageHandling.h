@@ -2,10 +2,10 @@
 
 #include "image/crop.h"
 #include "image/round_corners.h"
-#include "platform/foundation/sender.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/source/image_source.h"
 #include "platform/imageio/source/picture.h"
+#include "platform/values/sender.h"
 
 #include <QObject>
 #include <QPointer>

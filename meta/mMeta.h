@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/sender.h"
+#include "platform/values/sender.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/shared_texts.h"
+#include "platform/values/shared_texts.h"
 #include "presets/database.h"
 
 #include <QObject>

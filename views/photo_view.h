@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/sender.h"
+#include "platform/values/sender.h"
 #include "views/stage.h"
 
 #include <QObject>

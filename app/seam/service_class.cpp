@@ -2,12 +2,12 @@
 
 #include "app/seam/function.h"
 
-#include "platform/foundation/flag.h"
-#include "platform/foundation/sender.h"
-#include "platform/foundation/shared_texts.h"
 #include "platform/imageio/source/image_source.h"
 #include "platform/imageio/source/picture.h"
 #include "platform/plist/property_value.h"
+#include "platform/values/flag.h"
+#include "platform/values/sender.h"
+#include "platform/values/shared_texts.h"
 #include "presets/database.h"
 
 #include <QDateTime>

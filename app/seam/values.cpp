@@ -3,11 +3,11 @@
 #include "app/seam/function.h"
 #include "app/seam/picture_object.h"
 
-#include "platform/foundation/flag.h"
 #include "platform/foundation/locations.h"
 #include "platform/foundation/raised.h"
-#include "platform/foundation/sender.h"
 #include "platform/plist/property_value.h"
+#include "platform/values/flag.h"
+#include "platform/values/sender.h"
 
 #include <QDateTime>
 #include <QJSValueIterator>

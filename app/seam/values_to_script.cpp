@@ -1,9 +1,9 @@
 #include "app/seam/picture_object.h"
 #include "app/seam/values.h"
 
-#include "platform/foundation/flag.h"
-#include "platform/foundation/shared_texts.h"
 #include "platform/imageio/source/image_source.h"
+#include "platform/values/flag.h"
+#include "platform/values/shared_texts.h"
 #include "presets/database.h"
 
 #include <QDateTime>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/services/WindowBackend.h"
-#include "platform/foundation/flag.h"
-#include "platform/foundation/sender.h"
+#include "platform/values/flag.h"
+#include "platform/values/sender.h"
 
 #include <QObject>
 #include <QRectF>

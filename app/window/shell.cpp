@@ -7,10 +7,10 @@
 #include "app/window/pictures/drop_target.h"
 #include "app/window/preview/compare_preview.h"
 
-#include "files/services/fields.h"
 #include "platform/controls/panels.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/foundation/raised.h"
+#include "platform/values/fields.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -54,7 +54,7 @@ Question questionFrom(const QVariantMap &dictionary)
     static const QStringList keys = {QStringLiteral("title"),   QStringLiteral("text"),    QStringLiteral("detail"),
                                      QStringLiteral("buttons"), QStringLiteral("initial"), QStringLiteral("escape"),
                                      QStringLiteral("check")};
-    const files::Fields fields(dictionary, QStringLiteral("question"), keys);
+    const platform::Fields fields(dictionary, QStringLiteral("question"), keys);
     Question question = {
         fields.text("title"), fields.text("text"), fields.text("detail"), fields.texts("buttons"), 0, 0,
         fields.text("check")};

@@ -1,7 +1,6 @@
 #include "files/moving/move_operations.h"
 
-#include "files/planning/move_names.h"
-
+#include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
 
 #include <QCoreApplication>
@@ -16,6 +15,8 @@ using platform::ItemKind;
 using platform::ItemState;
 using platform::joinedPath;
 using platform::lastPathComponent;
+using platform::nameKey;
+using platform::NameOf;
 using platform::parentFolder;
 
 OperationOutcome failed(MoveProblem why, const QString &path)
@@ -303,7 +304,8 @@ QString MoveOperations::putBack(const QString &aside, const QString &path)
         if (!error)
             return place;
         if (error == std::errc::file_exists)
-            place = joinedPath(parentFolder(path), numberedName(lastPathComponent(path), number++, what));
+            place =
+                joinedPath(parentFolder(path), platform::fittingNumberedName(lastPathComponent(path), number++, what));
         else
             ++tries;
     }

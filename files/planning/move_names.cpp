@@ -1,5 +1,6 @@
 #include "files/planning/move_names.h"
 
+#include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
 
 #include <QFile>
@@ -11,34 +12,21 @@ namespace {
 
 MoveProblem faultOfName(QStringView name)
 {
-    constexpr qsizetype longestName = 255;
     if (name.trimmed().isEmpty())
         return MoveProblem::Empty;
     if (name == QStringLiteral(".") || name == QStringLiteral("..") || name.contains(QChar(u'\0')) ||
         !name.isValidUtf16())
         return MoveProblem::Illegal;
-    return name.size() * 3 > longestName && name.toUtf8().size() > longestName ? MoveProblem::TooLong
-                                                                               : MoveProblem::None;
+    return name.size() * 3 > platform::longestNameBytes && name.toUtf8().size() > platform::longestNameBytes
+               ? MoveProblem::TooLong
+               : MoveProblem::None;
 }
 
 } // namespace
 
-QString nameKey(const QString &name)
-{
-    return name.normalized(QString::NormalizationForm_C).toLower();
-}
-
-QString numberedName(const QString &name, int number, NameOf what)
-{
-    const QString tag = QStringLiteral(" (%1)").arg(number);
-    const qsizetype dot = name.lastIndexOf(u'.');
-    const bool hasExtension = what == NameOf::File && dot > 0 && dot < name.size() - 1;
-    return hasExtension ? name.left(dot) + tag + name.mid(dot) : name + tag;
-}
-
 QString placeKey(const QString &folder, const QString &name)
 {
-    return platform::joinedPath(folder, nameKey(name));
+    return platform::joinedPath(folder, platform::nameKey(name));
 }
 
 MoveProblem faultOfPath(const QString &path)

@@ -1,19 +1,18 @@
 #include "files/planning/move_places.h"
 
-#include "files/planning/move_names.h"
-
+#include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
 
 namespace files {
 
 Spot &FolderView::spot(const QString &name)
 {
-    return spots[nameKey(name)];
+    return spots[platform::nameKey(name)];
 }
 
 Spot::Tenant *FolderView::tenant(const QString &name)
 {
-    const auto found = spots.find(nameKey(name));
+    const auto found = spots.find(platform::nameKey(name));
     if (found == spots.end())
         return nullptr;
     for (Spot::Tenant &tenant : found->tenants)

@@ -36,7 +36,7 @@ struct FolderView
     quint64 device = 0;
     MoveProblem fault = MoveProblem::None; ///< why it cannot be made
     QString faultOther;
-    QHash<QString, Spot> spots; ///< by nameKey()
+    QHash<QString, Spot> spots; ///< by platform::nameKey()
 
     Spot &spot(const QString &name);
     /** What has exactly this name; null where nothing has. Valid until the next spot() of this folder. */

@@ -4,6 +4,7 @@
 #include "files/planning/move_order.h"
 #include "files/planning/move_places.h"
 
+#include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
 
 namespace files {
@@ -11,6 +12,9 @@ namespace {
 
 using platform::joinedPath;
 using platform::lastPathComponent;
+using platform::nameKey;
+using platform::NameOf;
+using platform::numberedName;
 using platform::parentFolder;
 
 /** Where a wish stands while the plan is made. */

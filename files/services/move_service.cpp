@@ -2,17 +2,19 @@
 
 #include "files/moving/move_recovery.h"
 #include "files/moving/move_undo.h"
-#include "files/services/fields.h"
 #include "files/services/move_words.h"
 
 #include "platform/disk/disk_file_system.h"
 #include "platform/disk/folders.h"
 #include "platform/disk/hidden_sweep.h"
 #include "platform/foundation/paths.h"
+#include "platform/values/fields.h"
 
 #include <algorithm>
 
 namespace files {
+
+using platform::Fields;
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "platform/disk/trash.h"
 
 #include "platform/disk/folders.h"
+#include "platform/foundation/file_names.h"
 #include "platform/foundation/last_error.h"
 #include "platform/foundation/paths.h"
 
@@ -70,16 +71,13 @@ QString infoIn(const QString &trash, const QString &name)
 /** The @p number-th name to try: "a.jpg", "a.2.jpg", "a.3.jpg" ..., cut so that the info file's name is not too long. */
 QString numbered(const QString &name, int number)
 {
-    constexpr qsizetype longestInBytes = 255 - 10; // ".trashinfo"
-    constexpr qsizetype longestExtension = 32;     // what is longer is no extension and may be cut
+    constexpr qsizetype longestInBytes = longestNameBytes - 10; // ".trashinfo"
+    constexpr qsizetype longestExtension = 32;                  // what is longer is no extension and may be cut
     const QString base = baseName(name);
     const bool isSplit = name.size() - base.size() <= longestExtension;
     const QString tail =
         (number > 1 ? u'.' + QString::number(number) : QString()) + (isSplit ? name.mid(base.size()) : QString());
-    QString front = isSplit ? base : name;
-    while (native(front + tail).size() > longestInBytes)
-        front.chop(front.back().isLowSurrogate() ? 2 : 1);
-    return front + tail;
+    return shortened(isSplit ? base : name, longestInBytes - native(tail).size()) + tail;
 }
 
 QByteArray infoText(const Item &item)

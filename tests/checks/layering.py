@@ -33,10 +33,11 @@ MAY_ENTER = {
 SUB_ROOMS = {
     "platform": {
         "foundation": "",
+        "values": "foundation",
         "plist": "foundation",
         "file": "foundation",
         "disk": "foundation file",
-        "controls": "foundation",
+        "controls": "foundation values",
         "graphics": "foundation",
         "effects": "foundation graphics",
         # Pictures as files: bytes first, then one folder for each kind of file, then what is said and done about all of them.

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "files/planning/move_names.h"
-
 #include "platform/disk/file_system.h"
+#include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
 
 #include <QDateTime>
@@ -487,7 +486,7 @@ private:
         const QString name = platform::lastPathComponent(path);
         if (!tellsCasesApart)
             for (const auto &item : folder.items)
-                if (files::nameKey(item.first) == files::nameKey(name))
+                if (platform::nameKey(item.first) == platform::nameKey(name))
                     return item.first;
         return name;
     }

@@ -2,7 +2,7 @@
 
 #include "app/window/look/theme.h"
 
-#include "files/services/fields.h"
+#include "platform/values/fields.h"
 
 #include <QPainter>
 
@@ -25,7 +25,7 @@ ChipLabel::ChipLabel(QWidget *parent) : QWidget(parent)
 
 void ChipLabel::setParts(const QStringList &texts, const QVariantList &chips)
 {
-    const QList<bool> framed = files::truths(chips, QStringLiteral("chips"));
+    const QList<bool> framed = platform::truths(chips, QStringLiteral("chips"));
     m_parts.clear();
     for (int i = 0; i < texts.size(); ++i)
         m_parts.append({texts.at(i), framed.value(i), {}});

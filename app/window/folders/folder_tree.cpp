@@ -3,8 +3,8 @@
 #include "app/window/look/icons.h"
 #include "app/window/look/theme.h"
 
-#include "files/services/fields.h"
 #include "platform/foundation/natural_order.h"
+#include "platform/values/fields.h"
 
 #include <QKeyEvent>
 #include <QLocale>
@@ -104,7 +104,7 @@ void checkFolder(const QVariant &folder, qsizetype index)
 {
     static const QStringList keys = {QStringLiteral("path"),  QStringLiteral("above"), QStringLiteral("name"),
                                      QStringLiteral("count"), QStringLiteral("total"), QStringLiteral("isNew")};
-    const files::Fields fields(folder, QStringLiteral("folders[%1]").arg(index), keys);
+    const platform::Fields fields(folder, QStringLiteral("folders[%1]").arg(index), keys);
     for (const char *text : {"path", "above", "name"})
         fields.text(text);
     for (const char *number : {"count", "total"})

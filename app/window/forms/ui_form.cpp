@@ -3,9 +3,9 @@
 #include "app/window/forms/own_controls.h"
 #include "app/window/look/icons.h"
 
-#include "files/services/fields.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/foundation/raised.h"
+#include "platform/values/fields.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -262,7 +262,7 @@ void Form::setMenu(const QString &name, const QStringList &texts, const QVariant
 
 void Form::setSplit(const QString &name, const QVariantList &sizes)
 {
-    const QList<int> pixels = files::wholeNumbers(sizes, QStringLiteral("sizes"), 0);
+    const QList<int> pixels = platform::wholeNumbers(sizes, QStringLiteral("sizes"), 0);
     if (auto *splitter = qobject_cast<QSplitter *>(find(name, "splitter")))
         splitter->setSizes(pixels);
 }

@@ -2,8 +2,8 @@
 
 #include "app/window/look/theme.h"
 
-#include "files/services/fields.h"
 #include "platform/foundation/raised.h"
+#include "platform/values/fields.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -202,7 +202,7 @@ RunList::RunList(QWidget *parent) : QListView(parent)
 
 void RunList::follow(LogTable *table, const QVariantMap &texts)
 {
-    const files::Fields given(
+    const platform::Fields given(
         texts, QStringLiteral("texts"),
         {QStringLiteral("all"), QStringLiteral("undo"), QStringLiteral("redo"), QStringLiteral("of")});
     for (const char *key : {"all", "undo", "redo", "of"})

@@ -2,8 +2,8 @@
 
 #include "app/window/pictures/picture_table.h"
 
-#include "files/services/fields.h"
 #include "platform/foundation/raised.h"
+#include "platform/values/fields.h"
 
 #include <QHeaderView>
 
@@ -84,7 +84,7 @@ void PictureTable::setColumns(const QStringList &columns, const QVariantMap &hea
         if (!names.contains(column))
             throw platform::Raised::typeError(
                 QStringLiteral("Expected the name of a column for columns but received \"%1\"").arg(column));
-    const files::Fields given(headings, QStringLiteral("headings"), names);
+    const platform::Fields given(headings, QStringLiteral("headings"), names);
     QHash<int, QString> words;
     for (auto heading = headings.cbegin(); heading != headings.cend(); ++heading)
         words.insert(columnNamed(heading.key()), given.text(heading.key().toLatin1().constData()));

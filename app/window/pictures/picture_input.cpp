@@ -2,7 +2,7 @@
 
 #include "app/window/pictures/picture_table.h"
 
-#include "files/services/fields.h"
+#include "platform/values/fields.h"
 
 namespace window {
 
@@ -36,7 +36,7 @@ void PictureTable::chooseSomeRow()
 
 void PictureTable::showOnly(const QVariantList &ids)
 {
-    const QList<int> shown = files::wholeNumbers(ids, QStringLiteral("ids"), 0);
+    const QList<int> shown = platform::wholeNumbers(ids, QStringLiteral("ids"), 0);
     m_order.setOnly(QSet<int>(shown.cbegin(), shown.cend()));
     chooseSomeRow();
     wakeLoader();
@@ -97,7 +97,7 @@ void PictureTable::setPath(int id, const QString &path)
 
 void PictureTable::removeIds(const QVariantList &ids)
 {
-    const QList<int> gone = files::wholeNumbers(ids, QStringLiteral("ids"), 0);
+    const QList<int> gone = platform::wholeNumbers(ids, QStringLiteral("ids"), 0);
     if (gone.isEmpty())
         return;
     m_model.removeIds(gone);

@@ -4,9 +4,9 @@
 #include "app/window/preview/preview_host.h"
 #include "app/window/preview/preview_paint.h"
 
-#include "files/services/fields.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/foundation/raised.h"
+#include "platform/values/fields.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -79,10 +79,10 @@ void ComparePreview::reload()
 
 void ComparePreview::showResult(const QVariantMap &result)
 {
-    const files::Fields fields(result, QStringLiteral("result"),
-                               {QStringLiteral("deeds"), QStringLiteral("width"), QStringLiteral("height"),
-                                QStringLiteral("type"), QStringLiteral("quality"), QStringLiteral("message"),
-                                QStringLiteral("bytes")});
+    const platform::Fields fields(result, QStringLiteral("result"),
+                                  {QStringLiteral("deeds"), QStringLiteral("width"), QStringLiteral("height"),
+                                   QStringLiteral("type"), QStringLiteral("quality"), QStringLiteral("message"),
+                                   QStringLiteral("bytes")});
     const auto deeds = deedsFrom(fields.list("deeds"));
     if (!deeds)
         throw platform::Raised::typeError(deeds.error().message);

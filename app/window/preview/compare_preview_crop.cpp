@@ -2,8 +2,8 @@
 #include "app/window/preview/preview_host.h"
 #include "app/window/preview/preview_paint.h"
 
-#include "files/services/fields.h"
 #include "platform/graphics/resample.h"
+#include "platform/values/fields.h"
 #include "views/bounds_text.h"
 
 #include <QPainter>
@@ -12,9 +12,9 @@ namespace window {
 
 void ComparePreview::setCropFrame(const QVariantMap &frame)
 {
-    const files::Fields fields(frame, QStringLiteral("frame"),
-                               {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"),
-                                QStringLiteral("height"), QStringLiteral("ratio")});
+    const platform::Fields fields(frame, QStringLiteral("frame"),
+                                  {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"),
+                                   QStringLiteral("height"), QStringLiteral("ratio")});
     // No picture is larger, and sums of two of them are still whole numbers.
     static constexpr double most = 1'000'000'000;
     const auto whole = [&fields](const char *name) { return qRound(qBound(-most, fields.number(name, 0), most)); };

@@ -3,7 +3,7 @@
 #include "app/window/look/theme.h"
 #include "app/window/slots/slot_delegate.h"
 
-#include "files/services/fields.h"
+#include "platform/values/fields.h"
 
 #include <QContextMenuEvent>
 #include <QDrag>
@@ -70,9 +70,9 @@ void SlotList::setSlots(const QVariantList &slots)
 {
     std::vector<Slot> shown;
     for (qsizetype i = 0; i < slots.size(); ++i) {
-        const files::Fields slot(slots.at(i), QStringLiteral("slots[%1]").arg(i),
-                                 {QStringLiteral("key"), QStringLiteral("label"), QStringLiteral("note"),
-                                  QStringLiteral("problem"), QStringLiteral("count")});
+        const platform::Fields slot(slots.at(i), QStringLiteral("slots[%1]").arg(i),
+                                    {QStringLiteral("key"), QStringLiteral("label"), QStringLiteral("note"),
+                                     QStringLiteral("problem"), QStringLiteral("count")});
         shown.push_back(
             {slot.text("key"), slot.text("label"), slot.text("note"), slot.text("problem"), slot.whole("count", 0)});
     }

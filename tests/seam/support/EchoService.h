@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/foundation/flag.h"
-#include "platform/foundation/sender.h"
 #include "platform/imageio/source/picture.h"
 #include "platform/plist/property_value.h"
+#include "platform/values/flag.h"
+#include "platform/values/sender.h"
 
 #include <QDateTime>
 #include <QJSValue>

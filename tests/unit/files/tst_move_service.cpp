@@ -1,6 +1,5 @@
 #include "files/services/move_service.h"
 
-#include "files/services/fields.h"
 #include "files/services/move_words.h"
 #include "tests/support/model_shelf.h"
 #include "tests/support/raised_text.h"
@@ -78,7 +77,6 @@ private Q_SLOTS:
     void refusesWhatIsNotMeant();
     void takesNothingOfAListWithOneMistake();
     void knowsItsWords();
-    void readsFieldsByTheirTypes();
 };
 
 void TestMoveService::init()
@@ -310,18 +308,6 @@ void TestMoveService::knowsItsWords()
     QCOMPARE(wordOf(PlanStatus::Same), text("same"));
     QCOMPARE(statusWord(Stand::Skipped), text("Skipped"));
     QCOMPARE(statusWord(Stand::Aside), text("Failed"));
-}
-
-void TestMoveService::readsFieldsByTheirTypes()
-{
-    const Fields fields(QVariantMap{{text("a"), text("x")}, {text("b"), true}, {text("c"), 7}, {text("n"), QVariant()}},
-                        text("o"));
-    QCOMPARE(fields.text("a") + QString::number(fields.whole("c", 0)), text("x7"));
-    QVERIFY(fields.truth("b", false) && fields.truth("missing", true) && !fields.truth("n", false));
-    QCOMPARE(fields.whole("n", -1), -1);
-    QVERIFY(fields.text("missing").isNull() && fields.list("n").isEmpty());
-    QCOMPARE(raisedBy([&] { (void)fields.text("c"); }), text("TypeError: Expected text for o.c but received 7"));
-    QCOMPARE(raisedBy([&] { (void)fields.list("b"); }), text("TypeError: Expected a list for o.b but received true"));
 }
 
 QUORLIN_TEST(TestMoveService)

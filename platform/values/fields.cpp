@@ -1,11 +1,11 @@
-#include "files/services/fields.h"
+#include "platform/values/fields.h"
 
 #include "platform/foundation/raised.h"
 
 #include <cmath>
 #include <utility>
 
-namespace files {
+namespace platform {
 
 namespace {
 
@@ -42,8 +42,7 @@ QString itemName(const QString &list, qsizetype index)
 
 [[noreturn]] void refuse(const QString &expected, const QString &name, const QVariant &value)
 {
-    throw platform::Raised::typeError(
-        QStringLiteral("Expected %1 for %2 but received %3").arg(expected, name, described(value)));
+    throw Raised::typeError(QStringLiteral("Expected %1 for %2 but received %3").arg(expected, name, described(value)));
 }
 
 } // namespace
@@ -58,7 +57,7 @@ Fields::Fields(const QVariant &value, QString name, const QStringList &keys) : F
 {
     for (auto entry = m_map.cbegin(); entry != m_map.cend(); ++entry)
         if (!keys.contains(entry.key()))
-            throw platform::Raised::typeError(QStringLiteral("%1 has no field %2").arg(m_name, entry.key()));
+            throw Raised::typeError(QStringLiteral("%1 has no field %2").arg(m_name, entry.key()));
 }
 
 void Fields::reject(const char *expected, const char *key) const
@@ -68,10 +67,23 @@ void Fields::reject(const char *expected, const char *key) const
 
 QString Fields::text(const char *key) const
 {
-    const QVariant given = value(key);
+    return textAt(QString::fromLatin1(key));
+}
+
+QString Fields::textAt(const QString &key) const
+{
+    const QVariant given = m_map.value(key);
     if (!given.isNull() && given.typeId() != QMetaType::QString)
-        reject("text", key);
+        refuse(QStringLiteral("text"), m_name + u'.' + key, given);
     return given.toString();
+}
+
+QMap<QString, QString> Fields::everyText() const
+{
+    QMap<QString, QString> all;
+    for (auto entry = m_map.begin(); entry != m_map.end(); ++entry)
+        all.insert(entry.key(), textAt(entry.key()));
+    return all;
 }
 
 bool Fields::truth(const char *key, bool otherwise) const
@@ -147,4 +159,4 @@ QList<bool> truths(const QVariantList &list, const QString &name)
     return truths;
 }
 
-} // namespace files
+} // namespace platform

@@ -1,4 +1,4 @@
-#include "platform/foundation/shared_texts.h"
+#include "platform/values/shared_texts.h"
 
 namespace platform {
 

@@ -4,10 +4,10 @@
 #include <QStringList>
 #include <QVariant>
 
-namespace files {
+namespace platform {
 
 /**
- * What a script wrote in a dictionary, read by names. What is of another type than is meant raises platform::Raised, a TypeError
+ * What a script wrote in a dictionary, read by names. What is of another type than is meant raises Raised, a TypeError
  * of the form "Expected X for N but received V"; what is missing or null is the value that is asked for instead.
  */
 class Fields
@@ -23,6 +23,8 @@ public:
     int whole(const char *key, int otherwise) const;
     /** With an end. */
     double number(const char *key, double otherwise) const;
+    /** Of every key, whatever they are called. */
+    QMap<QString, QString> everyText() const;
     /** Empty where it is missing. */
     QVariantList list(const char *key) const;
     /** The same for a list of texts. */
@@ -32,6 +34,7 @@ public:
     [[noreturn]] void reject(const char *expected, const char *key) const;
 
 private:
+    QString textAt(const QString &key) const;
     QVariant value(const char *key) const { return m_map.value(QString::fromLatin1(key)); }
 
     QVariantMap m_map;
@@ -44,4 +47,4 @@ QList<int> wholeNumbers(const QVariantList &list, const QString &name, int least
 /** A list of true and false. */
 QList<bool> truths(const QVariantList &list, const QString &name);
 
-} // namespace files
+} // namespace platform
