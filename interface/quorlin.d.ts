@@ -1,5 +1,5 @@
 /**
- * What scripts of Quorlin can import: nine modules. A test holds each of them against the program: names, order, parameters and
+ * What scripts of Quorlin can import: ten modules. A test holds each of them against the program: names, order, parameters and
  * types. There is no other way from a script to a service.
  *
  * Nothing is converted in silence: an argument of another type, or another number of arguments, is a TypeError; a whole
@@ -984,6 +984,48 @@ declare module "quorlin/pictures" {
         /** Why memory was too short for a picture since this was asked last; empty where it was not. */
         takeMemoryRefusal(): string;
     };
+}
+
+/** Texts with tokens in them, such as "{taken:yyyy-MM-dd} {name}", in the reader's words. */
+declare module "quorlin/tokens" {
+    export const tokens: {
+        /** All tokens in their order, each as {name, words: what it stands for, example, forms: those to offer, "" for none}. */
+        offered(): list;
+        /**
+         * A text taken apart: {text} or {token, form} each. "{{" is a brace; a brace that is not closed is text. What stands in braces
+         * is a token whether there is one of that name or not.
+         */
+        parts(pattern: text): list;
+        /** What a token stands for, in words; its name where there is none of that name. */
+        words(token: text): string;
+        /** The pattern of each level of a pattern of folders; a "/" between tokens parts levels, empty ones are passed over. */
+        levels(pattern: text): texts;
+        /** What is wrong with a text, as sentences; empty where nothing is. */
+        problems(pattern: text): texts;
+        /** A value as the name of one folder, or as a part of one; empty where nothing of it is left. */
+        folderName(value: text): string;
+    };
+
+    /** Such a text, made ready for many files. */
+    export class TokenText {
+        constructor(fields?: fieldsOf<TokenText>);
+        pattern: string;
+        /** What stands for a missing value, by the names of tokens; and for all that have none of their own. */
+        standIns: dictionary;
+        standIn: string;
+        /**
+         * What becomes of a value before it is put in. "plain", the default: nothing; "name": it can be a part of a file's name;
+         * "folder": of a folder's, and the whole text is made one, or "-" where nothing of it is left.
+         */
+        values: string;
+        /** Whether expand() looks at more than paths and indices. */
+        readonly needsFacts: boolean;
+        /**
+         * The text for one file, and behind it the tokens that it has no value for. Facts as files.facts() tells them, or null; the
+         * index, a whole number, is how many files came before this one.
+         */
+        expand(path: text, facts: dictionary, index: double): texts;
+    }
 }
 
 /** Renaming, moving, copying and linking so that no file is ever lost or replaced. Paths are absolute. */

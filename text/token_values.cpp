@@ -3,6 +3,7 @@
 #include "text/code_points.h"
 #include "text/token_table.h"
 
+#include "platform/foundation/file_names.h"
 #include "platform/foundation/human_texts.h"
 
 #include <QCoreApplication>
@@ -75,17 +76,11 @@ QString firstWord(const QString &name)
     return name.left(std::find_if(name.begin(), name.end(), endsWord) - name.begin());
 }
 
-/** As two writings of one name are compared. */
-QString folded(const QString &name)
-{
-    return name.normalized(QString::NormalizationForm_C).toLower();
-}
-
 QString wordIn(const QString &name, const QStringList &words)
 {
-    const QString all = folded(name);
-    const auto found =
-        std::find_if(words.begin(), words.end(), [&](const QString &word) { return all.contains(folded(word)); });
+    const QString all = platform::nameKey(name);
+    const auto found = std::find_if(words.begin(), words.end(),
+                                    [&](const QString &word) { return all.contains(platform::nameKey(word)); });
     return found == words.end() ? QString() : *found;
 }
 

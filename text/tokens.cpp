@@ -167,6 +167,12 @@ bool needsFacts(const QList<TokenPart> &parts)
     });
 }
 
+QString tokenWords(const QString &name)
+{
+    const TokenRow *row = tokenRow(name);
+    return row == nullptr ? name : words(row->words);
+}
+
 QList<OfferedToken> offeredTokens()
 {
     QList<OfferedToken> offered;

@@ -52,6 +52,9 @@ struct OfferedToken
     QStringList forms;
 };
 
+/** What a token stands for, in the reader's words; its name where there is none of that name. */
+QString tokenWords(const QString &name);
+
 /** All tokens, in the order in which they are offered. */
 QList<OfferedToken> offeredTokens();
 

@@ -1,9 +1,9 @@
 // Writing the user comment into pictures and reverting it, with what the file really says afterwards. Pure but for translation; what
 // reads and writes comments is handed in.
 
+import { tokens, TokenText } from "quorlin/tokens";
 import { splitPath } from "../lib/names.js";
 import { logRow } from "./report.js";
-import { expand, needsFacts, parse, problems, tokens } from "../lib/tokens.js";
 import { fill } from "../lib/wording.js";
 
 // Stands for any picture where there is none yet.
@@ -33,14 +33,14 @@ const MOST_NAMED = 5;
 
 /** What is wrong with the text of a comment that may have tokens in it, as one sentence; "" if nothing is. */
 export function commentProblem(text) {
-    return problems(text)[0] || "";
+    return tokens.problems(text)[0] || "";
 }
 
 /** A function (path, index) => comment for the text of a comment, which may have tokens in it. */
 export function commentMaker(text, files) {
-    const parts = parse(text);
-    const asks = needsFacts(parts);
-    return (path, index) => expand(parts, { path: path, index: index, facts: asks ? files.facts(path) : null }).text;
+    const made = new TokenText({ pattern: text });
+    const asks = made.needsFacts;
+    return (path, index) => made.expand(path, asks ? files.facts(path) : null, index)[0];
 }
 
 /** What a text with tokens comes to: {name, comment} for the picture at a path, or for one that is made up where path is "". */
@@ -49,10 +49,10 @@ export function commentExample(text, path, files) {
         return { name: splitPath(path).name, comment: commentMaker(text, files)(path, 0) };
     }
     const facts = Object.assign({}, MADE_UP.facts);
-    tokens().forEach((each) => { facts[each.name] = facts[each.name] === undefined
+    tokens.offered().forEach((each) => { facts[each.name] = facts[each.name] === undefined
                                  ? each.example : facts[each.name]; });
     return { name: splitPath(MADE_UP.path).name,
-             comment: expand(parse(text), { path: MADE_UP.path, index: 0, facts: facts }).text };
+             comment: new TokenText({ pattern: text }).expand(MADE_UP.path, facts, 0)[0] };
 }
 
 // What is written was checked before it took the old file's place; what can be read back counts beside that, but a file that cannot be

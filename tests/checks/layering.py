@@ -69,6 +69,7 @@ SUB_ROOMS = {
         "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },
     "image": {"": "", "recipe": "*", "services": "*"},
+    "text": {"": "", "services": "*"},
     "files": {
         "items": "",
         "planning": "",

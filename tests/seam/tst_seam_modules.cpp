@@ -36,10 +36,11 @@ void TestSeamModules::initTestCase()
 
 QString TestSeamModules::answer(const QString &expression)
 {
-    const QString module =
-        QStringLiteral("import { files } from 'quorlin/files'; import { moves } from 'quorlin/moves';"
-                       "import { pictures } from 'quorlin/pictures'; import { reportError } from 'test';"
-                       "reportError(() => { const value = %1; return value; });");
+    const QString module = QStringLiteral(
+        "import { files } from 'quorlin/files'; import { moves } from 'quorlin/moves';"
+        "import { pictures } from 'quorlin/pictures'; import { tokens, TokenText } from 'quorlin/tokens';"
+        "import { reportError } from 'test';"
+        "reportError(() => { const value = %1; return value; });");
     if (!m_run.runFile(QStringLiteral("m%1.js").arg(++m_count), module.arg(expression)))
         return m_run.error;
     return m_run.reports.join(u'\n');
@@ -70,6 +71,14 @@ void TestSeamModules::refusesWhatIsNotMeant_data()
         {"moves.begin('title')", "Expected a dictionary for run but received \"title\""},
         {"moves.next(1)", "Expected text or null for run but received 1"},
         {"pictures.layOnPattern('/a', '/b')", "layOnPattern takes 3 arguments but received 2"},
+        {"tokens.problems(3)", "Expected text or null for pattern but received 3"},
+        {"new TokenText({ values: 'files' })",
+         "Expected \"plain\", \"name\" or \"folder\" for values but received \"files\""},
+        {"new TokenText({ standIns: { camera: 3 } })", "Expected text for standIns.camera but received 3"},
+        {"new TokenText({ needsFacts: true })", "needsFacts of TokenText is read only"},
+        {"new TokenText({}).expand('/a', { width: '3' }, 0)",
+         "Expected a whole number for facts.width but received \"3\""},
+        {"new TokenText({}).expand('/a', null, '0')", "Expected a number for index but received \"0\""},
     };
     for (const auto &[expression, error] : rows)
         QTest::newRow(expression) << QString::fromLatin1(expression) << QString::fromLatin1(error);

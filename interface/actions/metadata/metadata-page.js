@@ -4,12 +4,12 @@
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
+import { tokens } from "quorlin/tokens";
 import { commentExample, commentMaker, commentProblem, commentsOf, pagesAtStake, reverting,
          writing } from "../../runs/comment-run.js";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
-import { tokens } from "../../lib/tokens.js";
 import { COMMENT_INPUT, PICTURE_INPUT } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary, commentsWritten } from "../../runs/comment-job.js";
@@ -75,7 +75,7 @@ export class MetadataPage {
     connectTokens() {
         const control = (name) => this.form.control(name);
         const offered = [];
-        tokens().forEach((token) => token.forms.forEach((form) => {
+        tokens.offered().forEach((token) => token.forms.forEach((form) => {
             offered.push({ title: token.words + (form === "" ? "" : "  " + form),
                            text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
         }));

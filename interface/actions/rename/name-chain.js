@@ -3,22 +3,17 @@
 import { splitPath } from "../../lib/names.js";
 import { prepared } from "./name-steps.js";
 
-// A slash or a zero in a value is no part of a name; one that the user typed is told.
-function clean(value) {
-    return value.replace(/[/\u0000]/g, "-");
-}
-
 export class NameChain {
     /**
      * @param steps    those of name-steps.js; the ones that are off are passed over
      * @param names    the operations (cNSStringHandling)
-     * @param standIn  (token) => text for a value that a file does not have
+     * @param missing  what stands for values that a file does not have: {standIns, standIn} of TokenText
      */
-    constructor(steps, names, standIn) {
+    constructor(steps, names, missing) {
         this.steps = steps
-            .map((step, i) => ({ index: i, ready: prepared(step, names), part: step.part || "name", isOn: step.on }))
+            .map((step, i) => ({ index: i, ready: prepared(step, names, missing), part: step.part || "name",
+                                 isOn: step.on }))
             .filter((each) => each.isOn);
-        this.standIn = standIn;
         this.needsFacts = this.steps.some((each) => each.ready.needsFacts);
     }
 
@@ -34,8 +29,7 @@ export class NameChain {
         const now = isFolder ? { base: file.name, extension: "" } : { base: file.base, extension: file.extension };
         const told = { name: file.name, base: now.base, extension: now.extension, missing: [], short: [], cut: "",
                        trace: wantsTrace ? {} : null };
-        const context = { folder: file.folder, extension: now.extension, facts: facts, standIn: this.standIn,
-                          clean: clean };
+        const context = { folder: file.folder, extension: now.extension, facts: facts };
         for (let i = 0; i < this.steps.length; i += 1) {
             context.extension = now.extension;
             const made = this.applyOne(this.steps[i], now, context, isFolder);

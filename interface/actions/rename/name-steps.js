@@ -1,8 +1,8 @@
 // The steps that a chain of names is made of: what each is called, which settings it has and what it does to a text. The
-// operations on texts are handed in. Pure but for translation; no service is used.
+// operations on texts are handed in. Pure but for translation; only texts with tokens are left to their module.
 
+import { tokens, TokenText } from "quorlin/tokens";
 import { cutAt } from "./text-cuts.js";
-import { expand, needsFacts, parse, problems } from "../../lib/tokens.js";
 
 /** What a step can work on. */
 export const PARTS = ["name", "extension", "both"];
@@ -163,7 +163,7 @@ export function stepFrom(kept) {
 /** What is wrong with the settings of a step, in sentences. */
 export function stepProblems(step) {
     if (step.kind === "text") {
-        return step.pattern === "" ? [qsTr("Enter a text.")] : problems(step.pattern);
+        return step.pattern === "" ? [qsTr("Enter a text.")] : tokens.problems(step.pattern);
     }
     if (step.kind === "split" && !/^\s*(-?[1-9][0-9]*\s*(,\s*-?[1-9][0-9]*\s*)*)?$/.test(step.pieces)) {
         return [qsTr("Write numbers of pieces with commas between them, such as 2,1; -1 is the last.")];
@@ -186,24 +186,23 @@ function nextIndex(step, counters, context) {
     return index * step.counterStep;
 }
 
-/** A step, made ready to be applied to many names: apply(text, context) as in STEPS; see NameChain. */
-export function prepared(step, names) {
+/**
+ * A step, made ready to be applied to many names: apply(text, context) as in STEPS; see NameChain. A slash or a zero in a value
+ * is no part of a name; one that the user typed is told.
+ */
+export function prepared(step, names, missing) {
     if (step.kind !== "text") {
         return { step: step, needsFacts: false, counts: false,
                  apply: (text) => STEPS[step.kind].apply(step, text, names) };
     }
-    const parts = parse(step.pattern);
+    const made = new TokenText(Object.assign({ pattern: step.pattern, values: "name" }, missing));
     const counters = Object.create(null);
-    const counts = parts.some((part) => part.token === "counter");
+    const counts = tokens.parts(step.pattern).some((part) => part.token === "counter");
     const apply = (text, context) => {
-        const made = expand(parts,
-                            { path: context.folder + "/" + text + (context.extension ? "." + context.extension : ""),
-                              facts: context.facts,
-                                     index: counts
-                                         ? nextIndex(step, counters, context) : 0, standIn: context.standIn,
-                                         clean: context.clean });
-        return { text: made.text, missing: made.missing };
+        const path = context.folder + "/" + text + (context.extension ? "." + context.extension : "");
+        const expanded = made.expand(path, context.facts, counts ? nextIndex(step, counters, context) : 0);
+        return { text: expanded[0], missing: expanded.slice(1) };
     };
-    return { step: step, needsFacts: needsFacts(parts) || (counts && step.counterScope === "date"), counts: counts,
+    return { step: step, needsFacts: made.needsFacts || (counts && step.counterScope === "date"), counts: counts,
              apply: apply };
 }

@@ -1,16 +1,15 @@
 // One step of a chain of names as a card: switched on and off, moved, removed, edited in place, explained by an example.
 
 import { shell } from "quorlin/shell";
+import { tokens } from "quorlin/tokens";
 import { guard } from "../../lib/guard.js";
 import { hasParts, PARTS, stepProblems } from "./name-steps.js";
 import { kindWords, summaryOf } from "./step-words.js";
-import { parse } from "../../lib/tokens.js";
-
 
 // Which field of the form is which setting, by kind: [field, setting, label, texts of the choices].
 function fieldsOf(step) {
     const text = (setting, label) => ["firstText", setting, label];
-    const counter = step.kind === "text" && parse(step.pattern).some((part) => part.token === "counter");
+    const counter = step.kind === "text" && tokens.parts(step.pattern).some((part) => part.token === "counter");
     const tables = {
         text: () => [text("pattern", qsTr("Text"))].concat(counter ? [
             ["firstNumber", "counterStep", qsTr("Count by")],

@@ -1,11 +1,11 @@
 // The settings of the Rename action: files or folders, and the chain of steps as cards. Services used: names, facts (through the
 // step), for the example.
 
+import { tokens } from "quorlin/tokens";
 import { copyOf } from "../../lib/copies.js";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { menuEntries } from "./step-words.js";
-import { tokens } from "../../lib/tokens.js";
 import * as rename from "./rename-step.js";
 import { Pane } from "../shared/pane.js";
 import { RenameCard } from "./rename-card.js";
@@ -55,7 +55,7 @@ export class RenamePane extends Pane {
 
     joinTokens(menu) {
         const offered = [];
-        tokens().forEach((token) => token.forms.forEach((form) => {
+        tokens.offered().forEach((token) => token.forms.forEach((form) => {
             offered.push({ title: token.words + (form === "" ? "" : "  " + form),
                            text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
         }));

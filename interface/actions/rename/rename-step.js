@@ -1,6 +1,7 @@
 // Renames files or folders by a chain of steps. Services used: names (cNSStringHandling), files (names), facts (lib/known-facts.js).
 // Plain data in, plain data out; the run that moves files carries out what rows() wishes for.
 
+import { tokens } from "quorlin/tokens";
 import { row } from "../../runs/move-plan.js";
 import { NameChain } from "./name-chain.js";
 import { stepFrom, stepProblems } from "./name-steps.js";
@@ -9,7 +10,6 @@ import { riskOf } from "./risky-names.js";
 import { Sidecars } from "../../lib/sidecars.js";
 import { kindWords } from "./step-words.js";
 import { hasHalf } from "./text-cuts.js";
-import { tokens } from "../../lib/tokens.js";
 import { fill } from "../../lib/wording.js";
 
 // Names are made for about this long before the window gets its turn.
@@ -44,23 +44,27 @@ export function validate(settings) {
 function missingWords(token) {
     const dates = { taken: qsTr("no date taken"), created: qsTr("no date of creation"),
                     changed: qsTr("no date of change") };
-    const known = tokens().find((each) => each.name === token);
-    return dates[token] || fill(qsTr("no value for “%1”"), known === undefined ? token : known.words);
+    return dates[token] || fill(qsTr("no value for “%1”"), tokens.words(token));
 }
 
-/** What stands in for a value that a file does not have. */
-export function standIn(token) {
-    return ["taken", "created", "changed"].indexOf(token) >= 0 ? qsTr("undated") : qsTr("unknown");
+/** What stands in for values that a file does not have: {standIns: by the names of tokens, standIn: for all others}. */
+export function missingValues() {
+    const undated = qsTr("undated");
+    return { standIns: { taken: undated, created: undated, changed: undated }, standIn: qsTr("unknown") };
 }
 
 /** The chain of the settings, made ready; see name-chain.js. */
 export function chainOf(settings, services) {
-    return new NameChain(stepsOf(settings), services.names, standIn);
+    return new NameChain(stepsOf(settings), services.names, missingValues());
 }
 
 function cautionOf(made) {
-    return made.missing.length === 0
-        ? "" : fill(qsTr("%1: “%2”"), missingWords(made.missing[0]), standIn(made.missing[0]));
+    if (made.missing.length === 0) {
+        return "";
+    }
+    const token = made.missing[0];
+    const { standIns, standIn } = missingValues();
+    return fill(qsTr("%1: “%2”"), missingWords(token), standIns[token] || standIn);
 }
 
 function notesOf(made, oldName) {

@@ -1,8 +1,8 @@
 // The steps of a chain of names in words: titles, what each does, what it is found by in the menu, and its settings in a line.
-// Pure but for translation; no service is used.
+// Pure but for translation; only tokens are asked for their words.
 
+import { tokens } from "quorlin/tokens";
 import { newStep } from "./name-steps.js";
-import { parse, tokens } from "../../lib/tokens.js";
 import { fill } from "../../lib/wording.js";
 
 /** {title, explanation, words} by the name of the kind. */
@@ -68,8 +68,7 @@ function quoted(text) {
 }
 
 function tokenText(part) {
-    const known = tokens().find((each) => each.name === part.token);
-    const words = known === undefined ? part.token : known.words;
+    const words = tokens.words(part.token);
     return part.form === "" ? words : words + " " + part.form;
 }
 
@@ -103,7 +102,7 @@ export function summaryOf(step) {
     if (step.kind !== "text") {
         return [{ text: SUMMARIES[step.kind](step), chip: false }];
     }
-    return parse(step.pattern)
+    return tokens.parts(step.pattern)
         .map((part) =>
             (part.token === undefined ? { text: part.text, chip: false } : { text: tokenText(part), chip: true }));
 }

@@ -3,10 +3,10 @@
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
+import { tokens } from "quorlin/tokens";
 import { guard } from "../../lib/guard.js";
 import { foldersFor, levelChoices, levelsOf, patternOf, prepared, UNDATED } from "./sorting.js";
 import { keep, recall, withNewest } from "../../lib/store.js";
-import { tokens } from "../../lib/tokens.js";
 import { fill, shortPath } from "../../lib/wording.js";
 import * as sort from "./sort-step.js";
 import { Pane } from "../shared/pane.js";
@@ -23,7 +23,7 @@ const MOST_FORMS = 3;
 
 function tokenEntries() {
     const entries = [];
-    tokens().filter((each) => each.name !== "counter").forEach((each) => {
+    tokens.offered().filter((each) => each.name !== "counter").forEach((each) => {
         each.forms.slice(0, MOST_FORMS).forEach((form) => {
             const written = "{" + each.name + (form === "" ? "" : ":" + form) + "}";
             entries.push({ text: each.words + "   " + written, value: written });

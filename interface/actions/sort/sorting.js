@@ -1,15 +1,13 @@
-// Where a file is sorted to: the folders that a pattern of tokens gives it. Pure but for translation; no service is used.
+// Where a file is sorted to: the folders that a pattern of tokens gives it. Pure but for translation.
 //
-// A pattern is a text with tokens (lib/tokens.js) and "/" between its levels: "{taken:yyyy}/{taken:yyyy-MM-dd}".
+// A pattern is a text with tokens and "/" between its levels: "{taken:yyyy}/{taken:yyyy-MM-dd}".
 
-import { expand, needsFacts, parse, problems } from "../../lib/tokens.js";
+import { tokens, TokenText } from "quorlin/tokens";
 
 /** What becomes of a file without a date taken. */
 export const UNDATED = ["folder", "created", "changed", "leave"];
 
 export const MOST_LEVELS = 3;
-
-const LONGEST_BYTES = 180;
 
 function level(value, text) {
     return { value: value, text: text };
@@ -49,26 +47,6 @@ export function patternOf(levels) {
     return levels.filter((value) => value !== "").join("/");
 }
 
-// The parts of each level; a "/" in a text parts levels, empty ones are passed over.
-function levelsOfParts(parts) {
-    const levels = [[]];
-    for (const part of parts) {
-        if (part.token !== undefined) {
-            levels[levels.length - 1].push(part);
-            continue;
-        }
-        part.text.split("/").forEach((text, index) => {
-            if (index > 0) {
-                levels.push([]);
-            }
-            if (text !== "") {
-                levels[levels.length - 1].push({ text: text });
-            }
-        });
-    }
-    return levels.filter((each) => each.length > 0);
-}
-
 function plainText(parts) {
     return parts.every((part) => part.token === undefined) ? parts.map((part) => part.text).join("").trim() : null;
 }
@@ -79,12 +57,12 @@ function utf8Length(text) {
 
 /** What is wrong with a pattern of folders, as sentences; empty if nothing is. */
 export function patternProblems(pattern) {
-    const levels = levelsOfParts(parse(pattern));
+    const levels = tokens.levels(pattern);
     if (levels.length === 0) {
         return [qsTr("Choose a rule, or write a pattern of folders.")];
     }
-    const found = problems(pattern);
-    const texts = levels.map(plainText);
+    const found = tokens.problems(pattern);
+    const texts = levels.map((each) => plainText(tokens.parts(each)));
     if (texts.indexOf(".") >= 0 || texts.indexOf("..") >= 0) {
         found.push(qsTr("A folder cannot be called “.” or “..”."));
     }
@@ -105,37 +83,12 @@ export function folderNameProblems(name) {
     if (name.trim() === "") {
         return [qsTr("Enter a name for the folder of pictures without a date.")];
     }
-    return safeName(name) === name.trim() ? [] : [qsTr("“%1” cannot be the name of a folder.").replace("%1", name)];
+    return tokens.folderName(name) === name.trim()
+        ? [] : [qsTr("“%1” cannot be the name of a folder.").replace("%1", name)];
 }
 
-// The engine's own cutting may part a letter that takes two places. No letter has more than three bytes a place.
-function cutToBytes(text, most) {
-    let cut = text;
-    while (cut.length * 3 > most && utf8Length(cut) > most) {
-        const last = cut.charCodeAt(cut.length - 1);
-        cut = cut.slice(0, last >= 0xdc00 && last <= 0xdfff ? -2 : -1);
-    }
-    return cut;
-}
-
-// Half a pair of places cannot be written as a name.
-function withoutHalves(text) {
-    return text.replace(/[\ud800-\udbff][\udc00-\udfff]|[\ud800-\udfff]/g,
-                        (found) => (found.length === 2 ? found : "-"));
-}
-
-/**
- * A value as the name of one folder, or a part of one: signs that part folders, or that other disks refuse, become "-"; dots and
- * blanks around it go; "" where nothing is left.
- */
-export function safeName(value) {
-    const text = withoutHalves(value).replace(/[\u0000-\u001f\u007f]+/g, " ").replace(/[/\\:*?"<>|]+/g, "-");
-    const trimmed = text.replace(/^[\s.]+|[\s.]+$/g, "");
-    return cutToBytes(trimmed, LONGEST_BYTES).trim();
-}
-
-/** What stands for a missing value, in words that name a folder. */
-export function standInFor(token) {
+/** What stands for missing values, in words that name folders: {standIns: by the names of tokens, standIn: for all others}. */
+export function missingValues() {
     const words = {
         taken: qsTr("Undated"), created: qsTr("Undated"), changed: qsTr("Undated"), camera: qsTr("Unknown camera"),
         lens: qsTr("Unknown lens"), width: qsTr("Unknown size"), height: qsTr("Unknown size"),
@@ -143,22 +96,23 @@ export function standInFor(token) {
         type: qsTr("Unknown type"), orientation: qsTr("Unknown orientation"), extension: qsTr("Without extension"),
         name: qsTr("Other names"), folder: qsTr("Other folders"),
     };
-    return words[token] || qsTr("Other");
+    return { standIns: words, standIn: qsTr("Other") };
+}
+
+// The names of the folders that one level of a pattern gives.
+function levelOf(pattern) {
+    return { text: new TokenText(Object.assign({ pattern: pattern, values: "folder" }, missingValues())),
+             isDated: tokens.parts(pattern).some((part) => part.token === "taken") };
 }
 
 /** A pattern made ready for many files. */
 export function prepared(pattern) {
-    const levels = levelsOfParts(parse(pattern));
+    const levels = tokens.levels(pattern).map(levelOf);
     return {
-        levels: levels.map((parts) => ({ parts: parts, isDated: parts.some((part) => part.token === "taken") })),
-        needsFacts: levels.some(needsFacts),
-        isDated: levels.some((parts) => parts.some((part) => part.token === "taken")),
+        levels: levels,
+        needsFacts: levels.some((each) => each.text.needsFacts),
+        isDated: levels.some((each) => each.isDated),
     };
-}
-
-function nameOfLevel(parts, path, facts, index) {
-    const expanded = expand(parts, { path: path, facts: facts, index: index, clean: safeName, standIn: standInFor });
-    return safeName(expanded.text) || "-";
 }
 
 function withDate(facts, rule) {
@@ -190,7 +144,7 @@ export function foldersFor(ready, path, facts, rule, index) {
     const hasNoDate = isUndated && (dated === null || dated.taken === "");
     // The levels that name a date are one folder where there is none.
     const levels = hasNoDate ? withoutLaterDates(ready.levels) : ready.levels;
-    const folders = levels.map((each) => (each.isDated && hasNoDate ? safeName(rule.undatedName) || standInFor("taken")
-                                                                    : nameOfLevel(each.parts, path, dated, index)));
-    return { folders: folders, isUndated: isUndated, stays: false };
+    const folderOf = (each) => (each.isDated && hasNoDate ? tokens.folderName(rule.undatedName) || qsTr("Undated")
+                                                          : each.text.expand(path, dated, index)[0]);
+    return { folders: levels.map(folderOf), isUndated: isUndated, stays: false };
 }

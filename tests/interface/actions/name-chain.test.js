@@ -12,7 +12,7 @@ const FACTS = { taken: "2026-08-14T10:20:30", created: "", changed: "", camera: 
                 bytes: 2400000, size: "2.4 MB", width: 40, height: 30 };
 
 function made(steps, path, isFolder, facts) {
-    return new NameChain(steps, names, () => "undated").apply(path, isFolder === true,
+    return new NameChain(steps, names, { standIns: {}, standIn: "undated" }).apply(path, isFolder === true,
                                                               facts === undefined ? FACTS : facts, true);
 }
 

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "text/token_values.h"
+
+#include <QObject>
+#include <QVariantMap>
+
+/** A text with tokens in it, made ready for many files. In the reader's words. */
+class TokenText : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString pattern READ pattern WRITE setPattern)
+    /** What stands for a missing value, by the names of tokens; and for all that have none of their own. */
+    Q_PROPERTY(QVariantMap standIns READ standIns WRITE setStandIns)
+    Q_PROPERTY(QString standIn MEMBER m_standIn)
+    /**
+     * What becomes of a value before it is put in. "plain": nothing; "name": it can be a part of a file's name; "folder": of
+     * a folder's, and the whole text is made one, or "-" where nothing of it is left.
+     */
+    Q_PROPERTY(QString values READ values WRITE setValues)
+    /** Whether expand() looks at more than paths and indices. */
+    Q_PROPERTY(bool needsFacts READ needsFacts)
+
+public:
+    Q_INVOKABLE explicit TokenText(QObject *parent = nullptr);
+
+    QString pattern() const { return m_pattern; }
+    void setPattern(const QString &pattern);
+    QVariantMap standIns() const;
+    /** Raises a TypeError for one that is no text. */
+    void setStandIns(const QVariantMap &standIns);
+    QString values() const;
+    /** Raises a TypeError for another word. */
+    void setValues(const QString &word);
+    bool needsFacts() const { return m_needsFacts; }
+
+    /**
+     * The text for one file, and behind it the names of the tokens that it has no value for.
+     *
+     * @param facts  what FileService::facts() says; null where needsFacts is false, or nothing is known. Raises a TypeError for one
+     *               of another type
+     * @param index  how many files came before this one, for counters; whole, or a RangeError is raised
+     */
+    Q_INVOKABLE QStringList expand(const QString &path, const QVariantMap &facts, double index) const;
+
+private:
+    enum class Values { Plain, Name, Folder };
+
+    text::StandIn standInForMissing() const;
+
+    QString m_pattern;
+    QMap<QString, QString> m_standIns;
+    QString m_standIn;
+    Values m_values = Values::Plain;
+    QList<text::TokenPart> m_parts;
+    bool m_needsFacts = false;
+};
