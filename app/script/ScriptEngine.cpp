@@ -2,8 +2,7 @@
 
 #include "app/script/defaults_module.h"
 #include "app/script/import_place.h"
-#include "app/script/list_texts.h"
-#include "app/script/no_network.h"
+#include "app/script/language.h"
 #include "app/script/panels_module.h"
 #include "app/seam/facade.h"
 #include "app/seam/host_call.h"
@@ -13,15 +12,14 @@
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QQmlEngine>
-#include <QQmlError>
+#include <QJSEngine>
 #include <QRegularExpression>
 #include <QUrl>
 
 namespace script {
 namespace {
 
-/** The global name under which the engine finds the running HostCall, for as long as it takes to look it up. */
+/** The global name under which the engine finds the running HostCall, for as long as it takes to look it up; then it is undefined. */
 const QString hostName = QStringLiteral("quorlinHost");
 
 QString readableName(const QString &source)
@@ -57,18 +55,22 @@ bool isUsable(const Location &location)
 } // namespace
 
 ScriptEngine::ScriptEngine(std::vector<ServiceEntry> services, QObject *parent)
-    : QObject(parent), m_engine(std::make_unique<QQmlEngine>())
+    : QObject(parent), m_engine(std::make_unique<QJSEngine>())
 {
     app::useTexts();
-    static NoNetwork noNetwork;
-    m_engine->setNetworkAccessManagerFactory(&noNetwork);
-    m_engine->setOutputWarningsToStandardError(false);
-    connect(m_engine.get(), &QQmlEngine::warnings, this, &ScriptEngine::reportWarnings);
-    boundListTexts(*m_engine);
+    m_engine->installExtensions(QJSEngine::AllExtensions);
+    m_language = std::make_unique<Language>(*m_engine);
+    m_language->tellRejection = [this](const QJSValue &reason, const Location &place) {
+        reportUncaught(describe(reason, place));
+    };
+    // There all the time: an engine whose global object loses properties mixes up those that were added later.
+    m_engine->evaluate(QStringLiteral("Object.defineProperty(this, '%1', { writable: true })").arg(hostName));
     m_seam = std::make_unique<Seam>(*m_engine, std::move(services));
     m_seam->callHandler = [this](const QJSValue &function, const QJSValueList &values) {
-        if (const auto called = call(function, values); !called)
+        const auto called = call(function, values);
+        if (!called)
             reportUncaught(called.error().message);
+        return called.value_or(QJSValue());
     };
     registerOwnModules();
 }
@@ -144,7 +146,7 @@ platform::Result<QJSValue> ScriptEngine::call(const QJSValue &function, const QJ
 platform::Result<QJSValue> ScriptEngine::run(const QString &program, const Body &body, const QString &file)
 {
     HostCall host([&] {
-        m_engine->globalObject().deleteProperty(hostName);
+        m_engine->globalObject().setProperty(hostName, QJSValue());
         return body();
     });
     QJSEngine::setObjectOwnership(&host, QJSEngine::CppOwnership);
@@ -153,27 +155,26 @@ platform::Result<QJSValue> ScriptEngine::run(const QString &program, const Body 
     const QJSValue value = m_engine->evaluate(program, {}, 1, &trace);
     if (trace.isEmpty())
         return value;
-    return platform::failure(platform::ErrorCode::InvalidValue, describe(value, trace, file));
-}
-
-QString ScriptEngine::describe(const QJSValue &error, const QStringList &trace, const QString &file) const
-{
-    Location location;
-    QString text;
-    if (error.isError()) {
-        location = {readableName(error.property(QStringLiteral("fileName")).toString()),
-                    error.property(QStringLiteral("lineNumber")).toInt()};
-        text = error.toString();
-    } else {
-        text = nameAndMessage(error);
-    }
-    if (!isUsable(location))
-        location = placeOfMissingImport(file, text);
+    Location location = placeOfMissingImport(file, textOf(value));
     if (!isUsable(location))
         location = locationInTrace(trace);
-    if (!isUsable(location))
-        location = {file, 1};
-    return sentence(location, text);
+    return platform::failure(platform::ErrorCode::InvalidValue,
+                             describe(value, isUsable(location) ? location : Location{file, 1}));
+}
+
+/** What was thrown in words, with its own place where it is an error that knows one. */
+QString ScriptEngine::describe(const QJSValue &thrown, const Location &otherwise) const
+{
+    Location location;
+    if (thrown.isError())
+        location = {readableName(thrown.property(QStringLiteral("fileName")).toString()),
+                    thrown.property(QStringLiteral("lineNumber")).toInt()};
+    return sentence(isUsable(location) ? location : otherwise, textOf(thrown));
+}
+
+QString ScriptEngine::textOf(const QJSValue &thrown) const
+{
+    return thrown.isError() ? thrown.toString() : nameAndMessage(thrown);
 }
 
 /** What was thrown and is no error, in the form of one. */
@@ -187,16 +188,6 @@ QString ScriptEngine::nameAndMessage(const QJSValue &thrown) const
     if (saysMore)
         return QStringLiteral("%1: %2").arg(hasName ? name : QStringLiteral("Error"), message.toString());
     return QStringLiteral("Error: %1").arg(thrown.isString() ? thrown.toString() : m_seam->values().described(thrown));
-}
-
-void ScriptEngine::reportWarnings(const QList<QQmlError> &warnings)
-{
-    for (const QQmlError &warning : warnings) {
-        Location location = {readableName(warning.url().toString()), warning.line()};
-        if (!isUsable(location))
-            location = m_seam->lastErrorLocation();
-        reportUncaught(sentence(location, warning.description()));
-    }
 }
 
 void ScriptEngine::reportUncaught(const QString &message)
@@ -213,8 +204,10 @@ void ScriptEngine::drain()
 {
     // Settled promises post an event for each reaction.
     QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance();
-    while (dispatcher && dispatcher->processEvents(QEventLoop::AllEvents)) {
-    }
+    do {
+        while (dispatcher && dispatcher->processEvents(QEventLoop::AllEvents)) {
+        }
+    } while (m_language->tellRejections());
 }
 
 } // namespace script

@@ -11,12 +11,13 @@
 #include <functional>
 #include <memory>
 
-class QQmlEngine;
-class QQmlError;
+class QJSEngine;
 
 namespace script {
 
+class Language;
 class Seam;
+struct Location;
 
 /**
  * Runs user-interface scripts: ES modules that import the service classes and controls of the application.
@@ -41,7 +42,8 @@ class Seam;
  * with call(generator.property("next"), {}, generator).
  *
  * `import * as name` does not work for the registered modules, only `import { a, b }`; a name that a registered module does
- * not have is undefined. A promise that is rejected and has no catch is silent: every chain ends with one. Modules are loaded once; a module that failed fails again with the same words.
+ * not have is undefined. A promise that is rejected and that nobody handles before everything that was due has run is an uncaught
+ * error. Modules are loaded once; a module that failed fails again with the same words.
  *
  * Main thread only. Nothing here throws.
  */
@@ -53,7 +55,7 @@ public:
     explicit ScriptEngine(std::vector<ServiceEntry> services = registeredServices(), QObject *parent = nullptr);
     ~ScriptEngine() override;
 
-    QQmlEngine &engine() { return *m_engine; }
+    QJSEngine &engine() { return *m_engine; }
     Seam &seam() { return *m_seam; }
 
     /** Makes the properties of @p value importable from @p name. False if the name is taken. */
@@ -90,13 +92,14 @@ private:
     using Body = std::function<QJSValue()>;
 
     platform::Result<QJSValue> run(const QString &program, const Body &body, const QString &file);
-    QString describe(const QJSValue &error, const QStringList &trace, const QString &file) const;
+    QString describe(const QJSValue &thrown, const Location &otherwise) const;
+    QString textOf(const QJSValue &thrown) const;
     QString nameAndMessage(const QJSValue &thrown) const;
-    void reportWarnings(const QList<QQmlError> &warnings);
     void registerOwnModules();
 
     std::unique_ptr<Seam> m_seam;
-    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<Language> m_language;
+    std::unique_ptr<QJSEngine> m_engine;
     QSet<QString> m_modules;
     QHash<QString, QString> m_failedModules;
 };

@@ -3,7 +3,7 @@
 #include "app/script/ScriptEngine.h"
 #include "app/script/defaults_store.h"
 
-#include <QQmlEngine>
+#include <QJSEngine>
 
 namespace script {
 namespace {
@@ -24,7 +24,7 @@ QString defaultsSource()
 
 QJSValue defaultsModule(ScriptEngine &scripts)
 {
-    QQmlEngine &engine = scripts.engine();
+    QJSEngine &engine = scripts.engine();
     auto *store = new DefaultsStore(scripts);
     const QJSValue makeDefaults = engine.evaluate(defaultsSource(), QStringLiteral("quorlin:facade"));
     QJSValue exports = engine.newObject();

@@ -6,7 +6,7 @@
 #include "platform/controls/save_panel.h"
 #include "platform/foundation/raised.h"
 
-#include <QQmlEngine>
+#include <QJSEngine>
 
 #include <utility>
 

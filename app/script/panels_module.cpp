@@ -4,7 +4,7 @@
 #include "app/script/panel_queue.h"
 #include "app/seam/seam.h"
 
-#include <QQmlEngine>
+#include <QJSEngine>
 
 namespace script {
 namespace {
@@ -27,7 +27,7 @@ QString panelsSource()
 
 QJSValue panelsModule(ScriptEngine &scripts)
 {
-    QQmlEngine &engine = scripts.engine();
+    QJSEngine &engine = scripts.engine();
     auto *queue = new PanelQueue(scripts);
     const QJSValue makePanels = engine.evaluate(panelsSource(), QStringLiteral("quorlin:facade"));
     QJSValue exports = engine.newObject();

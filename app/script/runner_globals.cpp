@@ -6,7 +6,7 @@
 
 #include "platform/foundation/raised.h"
 
-#include <QQmlEngine>
+#include <QJSEngine>
 
 #include <cstdio>
 #include <unistd.h>
@@ -38,7 +38,7 @@ void ProcessExit::quit(const QJSValue &arguments)
 
 void addRunnerGlobals(ScriptEngine &scripts, const QStringList &arguments)
 {
-    QQmlEngine &engine = scripts.engine();
+    QJSEngine &engine = scripts.engine();
     const QJSValue freeze = engine.evaluate(QStringLiteral("Object.freeze"));
     const QJSValue wrap =
         engine.evaluate(QStringLiteral("(function (host) { return function quit(...values) { host.quit(values); }; })"),

@@ -11,12 +11,12 @@ QJSValue Function::call(const QVariantList &arguments) const
     QJSValueList values;
     for (const QVariant &argument : arguments)
         values.append(m_values->toScript(argument));
-    return m_function.call(values);
+    return callWith(values);
 }
 
 QJSValue Function::callWith(const QJSValueList &arguments) const
 {
-    return isCallable() ? m_function.call(arguments) : QJSValue();
+    return isCallable() ? m_values->callFunction(m_function, arguments) : QJSValue();
 }
 
 } // namespace script

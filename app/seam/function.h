@@ -19,7 +19,10 @@ public:
 
     /** False for none, and as soon as the engine is gone. */
     bool isCallable() const { return m_function.isCallable(); }
-    /** What it answers, or the error that it throws; undefined where it cannot be called. */
+    /**
+     * What it answers; undefined where it cannot be called. What it throws is reported as an uncaught error, or answered as an error
+     * where nobody reports.
+     */
     QJSValue call(const QVariantList &arguments = {}) const;
     /** The same with values of the script's own. */
     QJSValue callWith(const QJSValueList &arguments) const;

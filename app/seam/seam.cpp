@@ -6,9 +6,9 @@
 #include "platform/foundation/raised.h"
 #include "platform/imageio/source/picture.h"
 
+#include <QJSEngine>
 #include <QMetaProperty>
 #include <QPointer>
-#include <QQmlEngine>
 #include <QVarLengthArray>
 
 #include <cmath>
@@ -105,6 +105,9 @@ Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engi
     m_values.objectOf = [this](const QJSValue &value) { return objectOf(value); };
     m_values.isControl = [this](const QObject &object) { return classOf(*object.metaObject()).entry.isControl; };
     m_values.wordOf = [this](const QMetaObject &meta) { return nameOf(classOf(meta)); };
+    m_values.callFunction = [this](const QJSValue &function, const QJSValueList &values) {
+        return callHandler(function, values);
+    };
     m_values.facadeOf = [this](QObject *object) { return facadeOf(object, Owner::Application); };
     m_values.facadeOfNew = [this](QObject *object) { return facadeOf(object, Owner::Scripts); };
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
@@ -118,7 +121,7 @@ Seam::Seam(QJSEngine &engine, std::vector<ServiceEntry> entries) : m_engine(engi
     m_attach = facades.property(QStringLiteral("attach"));
     m_facadeIn = facades.property(QStringLiteral("facadeIn"));
     m_itself = facades.property(QStringLiteral("ITSELF"));
-    callHandler = [](const QJSValue &function, const QJSValueList &values) { function.call(values); };
+    callHandler = [](const QJSValue &function, const QJSValueList &values) { return function.call(values); };
     add(anyObject());
     for (ServiceEntry &entry : entries)
         add(std::move(entry));

@@ -78,13 +78,14 @@ public:
     /** The object behind a facade; null for other values. */
     QObject *objectOf(const QJSValue &value) const;
 
-    /** Calls a function that a script connected to a signal; whoever reports what it throws sets another one. */
-    std::function<void(const QJSValue &function, const QJSValueList &values)> callHandler;
+    /**
+     * Calls a function that a script connected to a signal or left with an operation, and answers what it does; whoever reports what
+     * such functions throw sets another one.
+     */
+    std::function<QJSValue(const QJSValue &function, const QJSValueList &values)> callHandler;
 
     const Values &values() const { return m_values; }
     const std::vector<std::unique_ptr<ServiceClass>> &classes() const { return m_classes; }
-    /** Where the last error that the seam raised happened, and its text. */
-    const Location &lastErrorLocation() const { return m_lastErrorLocation; }
 
     /** Runs @p body; what it throws becomes an error of the running script. */
     template<typename Body> QJSValue guarded(Body body)
@@ -161,7 +162,6 @@ private:
     QJSValue m_attach;
     QJSValue m_facadeIn;
     QJSValue m_itself;
-    Location m_lastErrorLocation;
     qint64 m_pixelBytesHandedOut = 0;
     int m_pixelValuesHandedOut = 0;
 };

@@ -45,10 +45,10 @@ void Seam::raise(const QString &name, const QString &message)
     QJSValue error = m_engine.newErrorObject(type, message);
     if (type == QJSValue::GenericError && name != QStringLiteral("Error"))
         m_setName.call({error, name});
-    m_lastErrorLocation = locationInStack(error.property(QStringLiteral("stack")).toString());
-    if (!m_lastErrorLocation.file.isEmpty()) {
-        error.setProperty(QStringLiteral("fileName"), m_lastErrorLocation.file);
-        error.setProperty(QStringLiteral("lineNumber"), m_lastErrorLocation.line);
+    const Location location = locationInStack(error.property(QStringLiteral("stack")).toString());
+    if (!location.file.isEmpty()) {
+        error.setProperty(QStringLiteral("fileName"), location.file);
+        error.setProperty(QStringLiteral("lineNumber"), location.line);
     }
     m_engine.throwError(error);
 }

@@ -59,6 +59,7 @@ Values::Values(QJSEngine &engine)
           engine.evaluate(QStringLiteral("((o, k, v) => Object.defineProperty(o, k, "
                                          "{ value: v, writable: true, enumerable: true, configurable: true }))")))
 {
+    callFunction = [](const QJSValue &function, const QJSValueList &values) { return function.call(values); };
 }
 
 void Values::reject(const QString &expected, const QString &name, const QJSValue &value) const
@@ -199,7 +200,7 @@ QVariant Values::nestedToNative(const QJSValue &value, const QString &name, int 
         return scalarToNative(value, name);
     if (value.isBool())
         return value.toBool();
-    if (isList(value))
+    if (value.isArray())
         return listToNative(value, name, depth);
     if (isPlainObject(value))
         return dictionaryToNative(value, name, depth);
@@ -222,7 +223,7 @@ QVariantMap Values::dictionaryToNative(const QJSValue &value, const QString &nam
 
 QVariantList Values::listToNative(const QJSValue &value, const QString &name, int depth) const
 {
-    if (!isList(value))
+    if (!value.isArray())
         reject(QStringLiteral("a list"), name, value);
     const quint32 length = value.property(QStringLiteral("length")).toUInt();
     QVariantList list;
@@ -234,7 +235,7 @@ QVariantList Values::listToNative(const QJSValue &value, const QString &name, in
 
 QStringList Values::textListToNative(const QJSValue &value, const QString &name) const
 {
-    if (!isList(value))
+    if (!value.isArray())
         reject(QStringLiteral("a list of texts"), name, value);
     const quint32 length = value.property(QStringLiteral("length")).toUInt();
     QStringList list;
@@ -397,15 +398,6 @@ bool Values::isPlainObject(const QJSValue &value) const
         return false;
     const QJSValue prototype = value.prototype();
     return prototype.isNull() || prototype.strictlyEquals(m_objectPrototype);
-}
-
-/** Controls answer and tell lists of texts in a form of the engine's own, which is no array to it. */
-bool Values::isList(const QJSValue &value) const
-{
-    if (value.isArray())
-        return true;
-    const bool isCounted = value.isObject() && value.property(QStringLiteral("length")).isNumber();
-    return isCounted && value.toVariant().typeId() == QMetaType::QStringList;
 }
 
 bool Values::isData(const QJSValue &value) const

@@ -32,6 +32,8 @@ public:
     std::function<QObject *(const QJSValue &)> objectOf;
     /** Whether an outlet for any control takes the object: a stand-in, a window or view, or a real control. */
     std::function<bool(const QObject &)> isControl;
+    /** Calls a function that a script left with an operation. */
+    std::function<QJSValue(const QJSValue &, const QJSValueList &)> callFunction;
     /** The name that scripts know a class by. */
     std::function<QString(const QMetaObject &)> wordOf;
     /** The facade of a service object or control. */
@@ -83,7 +85,6 @@ private:
     QVariant generatorToNative(const QJSValue &value, const QString &name) const;
     QList<double> numbersOf(const QJSValue &value, const QStringList &keys, const QString &shape,
                             const QString &name) const;
-    bool isList(const QJSValue &value) const;
     bool isData(const QJSValue &value) const;
     [[noreturn]] void reject(const QString &expected, const QString &name, const QJSValue &value) const;
 

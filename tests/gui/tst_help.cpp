@@ -14,9 +14,9 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QJSEngine>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QQmlEngine>
 #include <QTest>
 
 namespace {

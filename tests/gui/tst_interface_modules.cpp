@@ -6,9 +6,9 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QJSEngine>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QQmlEngine>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>

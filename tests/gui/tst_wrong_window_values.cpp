@@ -8,7 +8,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QDirIterator>
-#include <QQmlEngine>
+#include <QJSEngine>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -44,6 +44,7 @@ private Q_SLOTS:
     void areAnsweredByTheContract();
     void sayThatAControlIsGone();
     void callHandlersWithWhatIsTold();
+    void reportWhatKeptFunctionsThrow();
 
 private:
     QJSValue import(const QString &name, const QString &text);
@@ -94,7 +95,7 @@ void TestWrongWindowValues::areAnsweredByTheContract()
     for (QWidget *each : windows)
         if (each->objectName() == QStringLiteral("aboutWindow") || each->objectName() == QStringLiteral("infoSheet"))
             delete each;
-    QQmlEngine &engine = m_startUp->scripts().engine();
+    QJSEngine &engine = m_startUp->scripts().engine();
     setGlobal("deadForms", lost.property(QStringLiteral("forms")));
     setGlobal("deadControls", lost.property(QStringLiteral("controls")));
     setGlobal("formFiles", engine.toScriptValue(formFiles()));
@@ -170,6 +171,27 @@ void TestWrongWindowValues::callHandlersWithWhatIsTold()
     QCOMPARE(uncaught.size(), 1);
     QVERIFY2(uncaught.first().startsWith(m_folder.filePath(QStringLiteral("handlers.js:7: TypeError: "))),
              qPrintable(uncaught.first()));
+    disconnect(connection);
+}
+
+/** Functions that were left with a menu, a window or a timer. */
+void TestWrongWindowValues::reportWhatKeptFunctionsThrow()
+{
+    QStringList uncaught;
+    const auto connection = connect(&m_startUp->scripts(), &script::ScriptEngine::uncaughtError, this,
+                                    [&uncaught](const QString &message) { uncaught.append(message); });
+    import(QStringLiteral("kept.js"), QStringLiteral("import { shell } from 'quorlin/shell';\n"
+                                                     "const form = shell.loadForm('windows/info/info.ui');\n"
+                                                     "form.onClose(() => { throw new Error('closing'); });\n"
+                                                     "form.show(); form.close();\n"
+                                                     "shell.timer(() => { throw new Error('timer'); }).start(0);\n"
+                                                     "Promise.reject(new Error('promise'));\n"));
+    QVERIFY2(m_problem.isEmpty(), qPrintable(m_problem));
+    QTRY_COMPARE(uncaught.size(), 3);
+    uncaught.replaceInStrings(m_folder.filePath(QStringLiteral("kept.js")), QStringLiteral("FILE"));
+    uncaught.sort();
+    QCOMPARE(uncaught, (QStringList{QStringLiteral("FILE:3: Error: closing"), QStringLiteral("FILE:5: Error: timer"),
+                                    QStringLiteral("FILE:6: Error: promise")}));
     disconnect(connection);
 }
 

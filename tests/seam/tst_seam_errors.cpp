@@ -3,7 +3,7 @@
 #include "tests/seam/support/ScriptRun.h"
 #include "tests/support/test_program.h"
 
-#include <QQmlEngine>
+#include <QJSEngine>
 #include <QTest>
 
 /** Says something to whoever listens. */
@@ -37,6 +37,12 @@ private Q_SLOTS:
     void carriesOnAGenerator();
     void knowsNoNameThatNoModuleHas();
     void fetchesNothing();
+    void tellsOfRejectionsThatNobodyHandles_data();
+    void tellsOfRejectionsThatNobodyHandles();
+    void leavesRejectionsAloneThatAreHandled_data();
+    void leavesRejectionsAloneThatAreHandled();
+    void keepsTheLanguageAsItIs_data();
+    void keepsTheLanguageAsItIs();
 };
 
 void TestSeamErrors::turnsWhatServicesRaiseIntoErrors_data()
@@ -265,19 +271,110 @@ void TestSeamErrors::knowsNoNameThatNoModuleHas()
     QVERIFY(!run.engine().registerModule(QStringLiteral("quorlin"), QJSValue(3)));
 }
 
-/** The engine's own way to the network and to files is shut, also where the environment would open it. */
+/** The language has no way to the network, nor to files. */
 void TestSeamErrors::fetchesNothing()
 {
-    qputenv("QML_XHR_ALLOW_FILE_READ", "1");
     ScriptRun run;
-    run.write(QStringLiteral("secret.txt"), QStringLiteral("secret"));
-    QVERIFY2(run.run(QStringLiteral("const request = new XMLHttpRequest(); request.open('GET', 'file://%1', false);"
-                                    "try { request.send(); } catch (error) { report('refused'); }"
-                                    "report(request.status); report(request.responseText);")
-                         .arg(run.pathOf(QStringLiteral("secret.txt")))),
-             qPrintable(run.error));
-    QVERIFY(!run.reports.join(u' ').contains(QStringLiteral("secret")));
-    QVERIFY(run.reports.contains(QStringLiteral("0")));
+    QCOMPARE(run.valueOf(QStringLiteral("[typeof XMLHttpRequest, typeof fetch]")),
+             QStringLiteral("[\"undefined\",\"undefined\"]"));
+}
+
+void TestSeamErrors::tellsOfRejectionsThatNobodyHandles_data()
+{
+    QTest::addColumn<QString>("body");
+    QTest::addColumn<QString>("uncaught");
+    const std::pair<const char *, const char *> rows[] = {
+        {"Promise.reject(new Error('a'));", "2: Error: a"},
+        {"\nnew Promise((done, fail) => {\n fail(new RangeError('b')); });", "4: RangeError: b"},
+        {"new Promise(() => { null.x; });", "2: TypeError: Cannot read property 'x' of null"},
+        {"Promise.resolve(1).then(() => {\n throw new Error('c'); });", "3: Error: c"},
+        {"Promise.resolve(1).then(() => echo.takeText(3));",
+         "2: TypeError: Expected text or null for text but received 3"},
+        {"\nPromise.reject('a text');", "3: Error: a text"},
+        {"Promise.reject({ name: 'Mine', message: 'd' });", "2: Mine: d"},
+        {"Promise.reject(undefined);", "2: Error: undefined"},
+        {"Promise.reject(new Error('e')).then(() => 1);", "2: Error: e"},
+        {"Promise.reject(1).catch(() => { throw new Error('f'); });", "2: Error: f"},
+        {"Promise.all([1, Promise.reject(new Error('g'))]);", "2: Error: g"},
+        {"Promise.race([Promise.reject(new Error('h'))]);", "2: Error: h"},
+        {"Promise.resolve(Promise.reject(new Error('i')));", "2: Error: i"},
+        {"Promise.resolve({ then(done, fail) { fail(new Error('j')); } });", "2: Error: j"},
+    };
+    for (const auto &[body, uncaught] : rows)
+        QTest::newRow(body) << QString::fromLatin1(body) << QString::fromLatin1(uncaught);
+}
+
+void TestSeamErrors::tellsOfRejectionsThatNobodyHandles()
+{
+    QFETCH(QString, body);
+    QFETCH(QString, uncaught);
+    ScriptRun run;
+    QVERIFY2(run.run(body + QStringLiteral("\nreport('went on');")), qPrintable(run.error));
+    QCOMPARE(run.reports, QStringList{QStringLiteral("\"went on\"")});
+    QCOMPARE(run.uncaught, QStringList{run.lastFile + u':' + uncaught});
+}
+
+void TestSeamErrors::leavesRejectionsAloneThatAreHandled_data()
+{
+    QTest::addColumn<QString>("body");
+    const char *const rows[] = {
+        "Promise.reject(1).catch(() => {});",
+        "Promise.reject(1).then(() => 1, () => 2);",
+        "Promise.reject(1).then(() => 1).then(() => 2).catch(() => 3);",
+        "const p = Promise.reject(1); p.then(() => 1).catch(() => {}); p.catch(() => {});",
+        "const p = Promise.reject(1); Promise.resolve().then(() => p.catch(() => {}));",
+        "const p = Promise.reject(1);"
+        " Promise.resolve().then(() => 1).then(() => 2).then(() => 3).then(() => p.catch(() => {}));",
+        "Promise.all([Promise.reject(1), Promise.reject(2)]).catch(() => {});",
+        "Promise.race([Promise.reject(1), Promise.resolve(2)]).catch(() => {});",
+        "new Promise(done => done(Promise.reject(1))).catch(() => {});",
+        "Promise.resolve(1).then(() => Promise.reject(2)).catch(() => {});",
+        "new Promise(() => {});",
+        "Promise.all([1, Promise.resolve(2), { then(done) { done(3); } }]).then(list => report(list));",
+    };
+    for (const char *body : rows)
+        QTest::newRow(body) << QString::fromLatin1(body);
+}
+
+void TestSeamErrors::leavesRejectionsAloneThatAreHandled()
+{
+    QFETCH(QString, body);
+    ScriptRun run;
+    QVERIFY2(run.run(body), qPrintable(run.error));
+    QCOMPARE(run.uncaught, QStringList());
+}
+
+/** Promises are what the language says, and no script changes them or anything else that all of them share. */
+void TestSeamErrors::keepsTheLanguageAsItIs_data()
+{
+    QTest::addColumn<QString>("expression");
+    QTest::addColumn<QString>("value");
+    const std::pair<const char *, const char *> rows[] = {
+        {"Promise.resolve(1) instanceof Promise && Promise.resolve(1).constructor === Promise", "true"},
+        {"(p => Promise.resolve(p) === p)(Promise.resolve(1))", "true"},
+        {"Promise.name + Promise.length + Promise.prototype.then.length", "\"Promise12\""},
+        {"Promise(() => {})", "TypeError: Promise is made with new"},
+        {"new Promise(3)", "TypeError: Type error"},
+        {"Promise.prototype.then.call(3)", "TypeError: Type error"},
+        {"Promise.prototype.then = 3", "TypeError: Type error"},
+        {"Array.prototype.join = 3", "TypeError: Type error"},
+        {"Object.prototype.toString = 3", "TypeError: Type error"},
+        {"Math.max = 3", "TypeError: Type error"},
+        {"JSON = 3", "TypeError: Type error"},
+        {"(12.25).toLocaleString() + (0.1 + 0.2).toLocaleString() + (3).toLocaleString()",
+         "\"12.250.300000000000000043\""},
+        {"Number.prototype.toLocaleString.call('3')", "TypeError: Type error"},
+    };
+    for (const auto &[expression, value] : rows)
+        QTest::newRow(expression) << QString::fromLatin1(expression) << QString::fromLatin1(value);
+}
+
+void TestSeamErrors::keepsTheLanguageAsItIs()
+{
+    QFETCH(QString, expression);
+    QLocale::setDefault(QLocale::c());
+    ScriptRun run;
+    QTEST(run.valueOf(expression), "value");
 }
 
 QUORLIN_TEST(TestSeamErrors)

@@ -2,7 +2,7 @@
 #include "tests/seam/support/ScriptRun.h"
 #include "tests/support/test_program.h"
 
-#include <QQmlEngine>
+#include <QJSEngine>
 #include <QTest>
 
 /** The objects that stand for services in scripts: what they let through, and how long what they hold lives. */

@@ -154,9 +154,26 @@ void TestSeamModules::endsTheTextOfAListThatHoldsItself_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("text") << QStringLiteral("(a => { a.push(a); return String(a); })([1])") << QStringLiteral("\"1,\"");
     QTest::newRow("joined") << QStringLiteral("(a => { a.push([2, a], 3); return a.join('-'); })([1])")
-                            << QStringLiteral("\"1-2,1,,3-3\"");
+                            << QStringLiteral("\"1-2,-3\"");
     QTest::newRow("in a text") << QStringLiteral("(a => { a.push(a); return `${a}` + a; })([1])")
                                << QStringLiteral("\"1,1,\"");
+    QTest::newRow("for a reader") << QStringLiteral("(a => { a.push(a, [a, 2]); return a.toLocaleString(); })([1])")
+                                  << QStringLiteral("\"1,,,2\"");
+    QTest::newRow("in a list") << QStringLiteral(
+                                      "(a => { a.push(a); return [a, [a]].toLocaleString() + [[a]].join(); })([1])")
+                               << QStringLiteral("\"1,,1,1,\"");
+    QTest::newRow("each in the other")
+        << QStringLiteral(
+               "((a, b) => { a.push(b); b.push(a); return [a + '', b.join(), a.toLocaleString()]; })([1], [2])")
+        << QStringLiteral("[\"1,2,\",\"2,1,\",\"1,2,\"]");
+    QTest::newRow("of something like a list")
+        << QStringLiteral("(a => { a[0] = a; Object.defineProperty(a, 'toString', { value: Array.prototype.join }); "
+                          "return Array.prototype.join.call(a); "
+                          "})({ length: 2 })")
+        << QStringLiteral("\",\"");
+    QTest::newRow("of a list that empties itself")
+        << QStringLiteral("(a => { a[0] = { toString() { a.length = 0; return 'x'; } }; return a.join(); })([1, 2, 3])")
+        << QStringLiteral("\"x,,\"");
     QTest::newRow("of another one") << QStringLiteral("[[1, 2], [3]].join(';')") << QStringLiteral("\"1,2;3\"");
     QTest::newRow("twice in one") << QStringLiteral("(a => String([a, a]))([1])") << QStringLiteral("\"1,1\"");
     QTest::newRow("after an error") << QStringLiteral(

@@ -97,6 +97,12 @@ void TestSeamRunner::endsWithTheStatusOfTheScript_data()
     row("\n\nnowhere;", 1, "", "FILE:3: ReferenceError: nowhere is not defined\n");
     row("let 3;", 1, "", "FILE:1: SyntaxError: Expected token `identifier'\n");
     row("Promise.resolve().then(() => { print('still'); });\nthrow 'x';", 1, "still\n", "FILE:2: Error: x\n");
+    row("print('a');\nPromise.reject(new RangeError('far'));\nprint('b');", 1, "a\nb\n", "FILE:2: RangeError: far\n");
+    row("Promise.resolve().then(() => {\n  nowhere; });", 1, "", "FILE:2: ReferenceError: nowhere is not defined\n");
+    row("\nPromise.reject('x');", 1, "", "FILE:2: Error: x\n");
+    row("Promise.reject(1).catch(() => { print('caught'); });", 0, "caught\n", "");
+    row("const p = Promise.reject(1); Promise.resolve().then(() => {}).then(() => p.catch(() => { print('late'); }));",
+        0, "late\n", "");
     row("quit('1');", 1, "", "FILE:1: TypeError: Expected a whole number for code but received \"1\"\n");
     row("quit(256);", 1, "", "FILE:1: RangeError: Expected a whole number from 0 to 255 for code but received 256\n");
 }

@@ -3,7 +3,7 @@
 #include "tests/seam/support/EchoService.h"
 
 #include <QFile>
-#include <QQmlEngine>
+#include <QJSEngine>
 
 namespace {
 
@@ -45,7 +45,7 @@ ScriptRun::ScriptRun() : m_engine(entries())
 {
     QObject::connect(&m_engine, &script::ScriptEngine::uncaughtError, &m_engine,
                      [this](const QString &message) { uncaught.append(message); });
-    QQmlEngine &engine = m_engine.engine();
+    QJSEngine &engine = m_engine.engine();
     const QJSValue list = engine.newArray();
     engine.globalObject().setProperty(listName, list);
     const QJSValue functions = engine.evaluate(QString::fromLatin1(reporter)).call({list});
