@@ -1,8 +1,8 @@
 #include "jobs/names.h"
 
 #include "files/items/file_facts.h"
-#include "files/planning/move_names.h"
 #include "platform/disk/item_identity.h"
+#include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
 #include "text/token_values.h"
 #include "text/tokens.h"
@@ -152,7 +152,7 @@ ResultNames::Folder &ResultNames::folderOf(const QString &path)
     QDirIterator items(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     while (items.hasNext()) {
         items.next();
-        known.onDisk.insert(files::nameKey(items.fileName()));
+        known.onDisk.insert(platform::nameKey(items.fileName()));
     }
     return known;
 }
@@ -160,7 +160,7 @@ ResultNames::Folder &ResultNames::folderOf(const QString &path)
 Standing ResultNames::standingAt(const QString &path, const Input &input)
 {
     const Folder &folder = folderOf(path);
-    const QString key = files::nameKey(QFileInfo(path).fileName());
+    const QString key = platform::nameKey(QFileInfo(path).fileName());
     if (folder.given.contains(key))
         return Standing::OtherResult;
     if (!folder.onDisk.contains(key))
@@ -173,13 +173,13 @@ Standing ResultNames::standingAt(const QString &path, const Input &input)
 
 void ResultNames::give(const QString &path)
 {
-    folderOf(path).given.insert(files::nameKey(QFileInfo(path).fileName()));
+    folderOf(path).given.insert(platform::nameKey(QFileInfo(path).fileName()));
 }
 
 bool ResultNames::isFree(const QString &path)
 {
     const Folder &folder = folderOf(path);
-    const QString key = files::nameKey(QFileInfo(path).fileName());
+    const QString key = platform::nameKey(QFileInfo(path).fileName());
     return !folder.given.contains(key) && !folder.onDisk.contains(key);
 }
 
@@ -187,9 +187,10 @@ QString ResultNames::giveNumbered(const QString &path)
 {
     const QString folder = platform::parentFolder(path);
     const QString name = QFileInfo(path).fileName();
-    int &next = folderOf(path).nextNumber[files::nameKey(name)];
+    int &next = folderOf(path).nextNumber[platform::nameKey(name)];
     for (next = qMax(next, 2);; ++next) {
-        const QString numbered = platform::joinedPath(folder, files::numberedName(name, next, files::NameOf::File));
+        const QString numbered =
+            platform::joinedPath(folder, platform::fittingNumberedName(name, next, platform::NameOf::File));
         if (!isFree(numbered))
             continue;
         give(numbered);
