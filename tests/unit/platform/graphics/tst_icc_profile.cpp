@@ -69,17 +69,55 @@ QByteArray formula(int kind, const QList<double> &parameters)
 
 const QByteArray srgbFormula = formula(3, {2.4, 1 / 1.055, 0.055 / 1.055, 1 / 12.92, 0.04045});
 
+/** Of a display's profile of version 4, connected by XYZ under the light D50. */
+QByteArray header(qsizetype size, const char *space)
+{
+    const QByteArray dateAndMark = QByteArray(12, '\0') + "acsp";
+    const QByteArray white = fixedPoint(0.9642) + fixedPoint(1) + fixedPoint(0.8249);
+    const QByteArray head = number(quint32(size)) + QByteArray(4, '\0') + number(0x04300000) + "mntr" + space + "XYZ " +
+                            dateAndMark + QByteArray(28, '\0') + white;
+    return head.leftJustified(128, '\0');
+}
+
+/** Two bytes a number, as tables have them. */
+QByteArray words(const QList<int> &values)
+{
+    QByteArray bytes(2 * values.size(), '\0');
+    for (qsizetype i = 0; i < values.size(); ++i)
+        qToBigEndian(quint16(values[i]), bytes.data() + 2 * i);
+    return bytes;
+}
+
+/** A conversion by tables: a curve of 256 samples for each component, then the colorants in the corners of a cube. */
+QByteArray tables(const Colorants &colours, const std::function<double(double)> &light)
+{
+    QByteArray tag = QByteArray("mft2\0\0\0\0\3\3\2\0", 12);
+    for (int i = 0; i < 9; ++i)
+        tag += fixedPoint(i % 4 == 0 ? 1 : 0);
+    QList<int> numbers = {256, 2};
+    for (int i = 0; i < 3 * 256; ++i)
+        numbers += int(std::lround(light(i % 256 / 255.0) * 65535));
+    for (int corner = 0; corner < 8; ++corner) // blue changes first
+        for (size_t xyz = 0; xyz < 3; ++xyz) {
+            constexpr double one = 32768;
+            const double value = (corner & 4 ? colours[0][xyz] : 0) + (corner & 2 ? colours[1][xyz] : 0) +
+                                 (corner & 1 ? colours[2][xyz] : 0);
+            numbers += int(std::lround(value * one));
+        }
+    numbers += {0, 65535, 0, 65535, 0, 65535};
+    return tag + words(numbers);
+}
+
 QByteArray profileOf(const QList<QPair<QByteArray, QByteArray>> &tags, const char *space = "RGB ")
 {
-    QByteArray header(128, '\0');
-    header.replace(16, 4, space).replace(20, 4, "XYZ ");
     QByteArray table = number(quint32(tags.size()));
     QByteArray values;
     for (const auto &[name, value] : tags) {
         table += name + number(quint32(132 + 12 * tags.size() + values.size())) + number(quint32(value.size()));
         values += value;
+        values += QByteArray((4 - values.size() % 4) % 4, '\0'); // tags begin at multiples of four
     }
-    return header + table + values;
+    return header(128 + table.size() + values.size(), space) + table + values;
 }
 
 QByteArray matrixProfile(const Colorants &colours, const QByteArray &curve, const char *space = "RGB ")
@@ -102,7 +140,7 @@ class IccProfiles : public QObject
 private Q_SLOTS:
     void knowsSrgbByWhatItDoes_data();
     void knowsSrgbByWhatItDoes();
-    void isNotDeceivedByTables();
+    void goesByTablesBeforeColorants();
     void readsNothingOutside();
     void knowsThoseOfRealPictures_data();
     void knowsThoseOfRealPictures();
@@ -145,16 +183,23 @@ void IccProfiles::knowsSrgbByWhatItDoes()
     QCOMPARE(isSrgb(profile), isIt); // also when asked again
 }
 
-void IccProfiles::isNotDeceivedByTables()
+void IccProfiles::goesByTablesBeforeColorants()
 {
-    const QByteArray profile = profileOf({{"A2B0", QByteArray("mft2", 4)},
-                                          {"rXYZ", colorant(srgb[0])},
-                                          {"gXYZ", colorant(srgb[1])},
-                                          {"bXYZ", colorant(srgb[2])},
-                                          {"rTRC", srgbFormula},
-                                          {"gTRC", srgbFormula},
-                                          {"bTRC", srgbFormula}});
-    QVERIFY(!isSrgb(profile));
+    const QByteArray mark = colorant({0.9642, 1, 0.8249});
+    const auto withTable = [&mark](const QByteArray &table) {
+        return profileOf({{"A2B0", table},
+                          {"wtpt", mark},
+                          {"rXYZ", colorant(srgb[0])},
+                          {"gXYZ", colorant(srgb[1])},
+                          {"bXYZ", colorant(srgb[2])},
+                          {"rTRC", srgbFormula},
+                          {"gTRC", srgbFormula},
+                          {"bTRC", srgbFormula}});
+    };
+    QVERIFY(isSrgb(withTable(tables(srgb, lightOfSrgb))));
+    QVERIFY(!isSrgb(withTable(tables(displayP3, lightOfSrgb))));
+    QVERIFY(!isSrgb(withTable(tables(srgb, [](double value) { return value * value; }))));
+    QVERIFY(!isSrgb(withTable("mft2"))); // cut
 }
 
 void IccProfiles::readsNothingOutside()
@@ -162,7 +207,7 @@ void IccProfiles::readsNothingOutside()
     const QByteArray whole = matrixProfile(srgb, sampled(16, lightOfSrgb));
     for (qsizetype size = 0; size < whole.size(); ++size)
         QVERIFY(!isSrgb(QByteArray(whole.constData(), size)));
-    for (qsizetype at = 128; at < 208; ++at) { // counts, places and lengths
+    for (qsizetype at = 0; at < 208; ++at) { // the header, counts, places and lengths
         QByteArray broken = whole;
         broken[at] = '\xff';
         isSrgb(broken);
