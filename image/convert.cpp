@@ -6,8 +6,6 @@
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/source/image_source.h"
 
-#include <array>
-
 namespace image {
 namespace {
 
@@ -16,22 +14,6 @@ using platform::FileFormat;
 using platform::ImageSource;
 using platform::Metadata;
 using platform::Result;
-
-struct Keyword
-{
-    QLatin1String text;
-    TargetType type;
-};
-
-constexpr std::array<Keyword, 7> keywords = {{
-    {QLatin1String("pdf"), TargetType::Pdf},
-    {QLatin1String("png"), TargetType::Png},
-    {QLatin1String("tiff"), TargetType::Tiff},
-    {QLatin1String("bmp"), TargetType::Bmp},
-    {QLatin1String("gif"), TargetType::Gif},
-    {QLatin1String("jpeg"), TargetType::Jpeg},
-    {QLatin1String("jp2"), TargetType::Jpeg2000},
-}};
 
 platform::EncodeOptions withResolution()
 {
@@ -115,22 +97,6 @@ Result<void> write(const ImageSource &source, const Conversion &conversion)
 }
 
 } // namespace
-
-std::optional<TargetType> targetTypeFor(const QString &keyword)
-{
-    for (const Keyword &entry : keywords)
-        if (keyword == entry.text)
-            return entry.type;
-    return std::nullopt;
-}
-
-double conversionQuality(const QString &code)
-{
-    const bool isOneToEight = code.size() == 1 && code[0] >= u'1' && code[0] <= u'8';
-    constexpr double steps = 10;
-    constexpr double highest = 0.9;
-    return isOneToEight ? (code[0].unicode() - u'0') / steps : highest;
-}
 
 Result<void> convertFile(const Conversion &conversion)
 {

@@ -1,21 +1,11 @@
 #pragma once
 
+#include "image/types/output_types.h"
 #include "platform/foundation/result.h"
 
 #include <QString>
 
-#include <optional>
-
 namespace image {
-
-/** What a picture can be converted to. */
-enum class TargetType { Pdf, Png, Tiff, Bmp, Gif, Jpeg, Jpeg2000 };
-
-/** The target of a keyword: "pdf", "png", "tiff", "bmp", "gif", "jpeg" or "jp2", letter for letter; none for other text. */
-std::optional<TargetType> targetTypeFor(const QString &keyword);
-
-/** The JPEG quality of a code: "1" to "8" are 0.1 to 0.8, anything else is 0.9. */
-double conversionQuality(const QString &code);
 
 struct Conversion
 {

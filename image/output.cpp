@@ -57,13 +57,6 @@ QString extensionForType(const QString &typeIdentifier)
                                                        : QString();
 }
 
-double qualityForCode(const QString &code)
-{
-    const bool isOneToNine = code.size() == 1 && code[0] >= u'1' && code[0] <= u'9';
-    constexpr double steps = 10;
-    return isOneToNine ? (code[0].unicode() - u'0') / steps : 1;
-}
-
 QString outputBase(const QString &prefix, const QString &sourcePath)
 {
     return prefix + platform::baseName(sourcePath);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/types/output_types.h"
 #include "platform/graphics/bitmap.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/source/image_source.h"
@@ -7,7 +8,7 @@
 #include <QString>
 #include <QVariant>
 
-/** What the operations on pictures answer, how they name what they write, and in which types and qualities. */
+/** What the operations on pictures answer, how they name what they write; output_types.h has the types and qualities. */
 namespace image {
 
 /** The words with which an operation answers. */
@@ -26,9 +27,6 @@ platform::Forms formsFor(const QString &typeIdentifier);
 
 /** ".png" for "public.png" and so on; empty for a type that is not written. */
 QString extensionForType(const QString &typeIdentifier);
-
-/** The JPEG quality factor of a quality code: "1" to "9" are 0.1 to 0.9, anything else is 1. */
-double qualityForCode(const QString &code);
 
 /** The output prefix with the source's name, less its extension, directly behind it. */
 QString outputBase(const QString &prefix, const QString &sourcePath);

@@ -977,6 +977,13 @@ declare module "quorlin/pictures" {
          * the extensions; profile is "yes", "no" or "ifItFits".
          */
         formats(): list;
+        /**
+         * The types that are written, in the order of lists, each as {id, keyword, word, isPage, carriesMetadata}: what
+         * conversions call it, what lists call it, whether only a conversion makes it and hands metadata on into it.
+         */
+        outputTypes(): list;
+        /** The codes of JPEG quality, the lowest first; conversions know no last one. */
+        qualityCodes(): texts;
         /** The kinds of raw files of cameras, each as {extension, hasPreview}; only those with a preview can be converted. */
         rawTypes(): list;
         /** Whether a file of the type holds the colour profile of the picture, or there is none. */

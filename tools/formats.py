@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """formats.py [--check] FILE: what a conversion keeps, as docs/formats.md shows it. Writes FILE, or compares it.
 
-Beside FILE, which lies in docs/, it does the same with the table in manual/convert.md. What a format keeps is read from the
-program's own table; PROMISES adds what a conversion makes of it. A test converts real pictures and holds programs that are
-not ours against it.
+Beside FILE, which lies in docs/, it does the same with the tables in manual/convert.md and manual/output.md. What a format
+keeps, and what the product calls it, is read from the program's own tables, and what metadata an action hands on from its
+step; PROMISES adds what a conversion makes of it. A test converts real pictures and holds programs that are not ours
+against it.
 """
 import re
 import sys
@@ -18,11 +19,25 @@ NOT = "-"
 # What becomes of each property. "stored": the pixels as they are stored, with the tag that turns them. "upright": turned
 # upright, since no tag would do it. "srgb": colours are converted to sRGB. "matrix": kept where it is a profile of grey, or
 # of three colours by a matrix, else converted. "black": laid on black. "page": the page's size in points.
-TARGETS = {"png": "public.png", "tiff": "public.tiff", "pdf": "com.adobe.pdf", "jpeg": "public.jpeg", "jp2": "public.jp2",
-           "gif": "com.compuserve.gif", "bmp": "public.bmp"}
+ROOT = Path(__file__).resolve().parents[1]
+TABLE = ROOT / "platform/imageio/formats/formats.cpp"
+OUTPUTS = ROOT / "image/types/output_types.cpp"
+ACTIONS = ROOT / "interface/actions"
+
+
+def output_types():
+    """What the product's table says: keyword to (type identifier, word of lists, whether metadata is handed on)."""
+    rows = re.findall(r'\{\.identifier = latin1\("([^"]+)"\),\s*\.keyword = latin1\("([^"]+)"\),\s*\.word = latin1\("([^"]+)"\)(.*?)\}',
+                      OUTPUTS.read_text(encoding="utf-8"), re.S)
+    return {keyword: (name, word, ".carriesMetadata = true" in rest) for name, keyword, word, rest in rows}
+
+
+_OUTPUTS = output_types()
+# In the order of the columns: those that keep most come first.
+TARGETS = {keyword: _OUTPUTS[keyword][0] for keyword in ("png", "tiff", "pdf", "jpeg", "jp2", "gif", "bmp")}
+NAMES = {keyword: _OUTPUTS[keyword][1] for keyword in TARGETS}
 # A conversion hands metadata on into these types, and leaves pixels as they are stored; those in other types are turned upright.
-CARRYING = ("png", "tiff")
-TABLE = Path(__file__).resolve().parents[1] / "platform/imageio/formats/formats.cpp"
+CARRYING = tuple(keyword for keyword in TARGETS if _OUTPUTS[keyword][2])
 
 
 def kept_by_format():
@@ -47,7 +62,6 @@ PROMISES = {target: promises(target, _KEPT[name]) for target, name in TARGETS.it
 # How far the pixels of a target may be off on average, of 255. GIF has 256 colours, and mixes others by dots of these, each of
 # which is off though what is seen of them is not: its bound is measured on photographs and only tells a wrong picture.
 BOUNDS = {"png": 0.5, "tiff": 0.5, "bmp": 0.5, "pdf": 0.5, "jpeg": 3, "jp2": 3, "gif": 12}
-NAMES = {"png": "PNG", "tiff": "TIFF", "pdf": "PDF", "jpeg": "JPEG", "jp2": "JPEG 2000", "gif": "GIF", "bmp": "BMP"}
 # What a source can hold, by the name that exiftool has for its type.
 SOURCES = {
     "JPEG": "profile resolution orientation exif gps iptc xmp", "PNG": "depth profile alpha resolution orientation exif gps iptc xmp",
@@ -110,16 +124,52 @@ def manual_table():
     return "\n".join(lines + [row([said] + [words[PROMISES[target][name]] for target in PROMISES]) for said, name in rows.items()])
 
 
-def with_manual_table(page):
-    """The page of the manual with that table in place of the one that it has."""
-    head, mark, rest = page.partition("## What is kept, exactly\n\n")
-    return head + mark + re.sub(r"\A(\|[^\n]*\n)+", manual_table() + "\n", rest)
+# The rows of the manual's other table: the names of actions, and the step that says for all of them what metadata goes along.
+ACTION_ROWS = {"Resize, Crop": ("resize", "crop"), "Rotate & Flip": ("turn",), "Round Corners": ("round",),
+               "Background & Border": ("background",), "Convert": ("convert",)}
+
+
+def metadata_of(action):
+    """The types that an action hands metadata on into, as its step says."""
+    step = (ACTIONS / action / f"{action}-step.js").read_text(encoding="utf-8")
+    return re.findall(r'"([^"]+)"', re.search(r"^export const offer = .*?metadata: \[(.*?)\]", step, re.M | re.S).group(1))
+
+
+def kept_in_words(target, metadata):
+    profile = {KEPT: ["profile"], "matrix": ["profile if it fits"]}.get(PROMISES[target]["profile"], [])
+    return ", ".join(profile + ["metadata"] * (TARGETS[target] in metadata)) or "pixels"
+
+
+def actions_table():
+    """What each action keeps, in the few words of the manual."""
+    columns = ("jpeg", "png", "tiff", "jp2")
+    lines = [row([""] + [NAMES[name] for name in columns] + ["GIF, BMP"]).replace("|  |", "| |"), row(["---"] * (len(columns) + 2))]
+    for names, actions in ACTION_ROWS.items():
+        metadata = metadata_of(actions[0])
+        if any(metadata_of(other) != metadata for other in actions):
+            raise SystemExit(f"formats.py: {names} are one row in the manual and keep different metadata")
+        last = {kept_in_words(name, metadata) for name in ("gif", "bmp")}
+        if len(last) > 1:
+            raise SystemExit("formats.py: GIF and BMP are one column in the manual and keep different things")
+        rest = "see [Convert](convert.md#what-is-kept-exactly)" if names == "Convert" else last.pop()
+        lines.append(row([names] + [kept_in_words(name, metadata) for name in columns] + [rest]))
+    return "\n".join(lines)
+
+
+def with_table(page, before, table):
+    """The page of the manual with that table in place of the first one behind the text `before`."""
+    head, mark, rest = page.partition(before)
+    if not re.match(r"\|", rest):
+        raise SystemExit(f"formats.py: no table stands behind {before!r}")
+    return head + mark + re.sub(r"\A(\|[^\n]*\n)+", table + "\n", rest)
 
 
 def main(arguments):
     path = Path(arguments[-1])
-    page = path.parent / "manual/convert.md"
-    wanted = {path: text(), page: with_manual_table(page.read_text(encoding="utf-8"))}
+    convert, output = path.parent / "manual/convert.md", path.parent / "manual/output.md"
+    wanted = {path: text(),
+              convert: with_table(convert.read_text(encoding="utf-8"), "## What is kept, exactly\n\n", manual_table()),
+              output: with_table(output.read_text(encoding="utf-8"), "what goes along. In short:\n\n", actions_table())}
     if arguments[0] != "--check":
         for name, content in wanted.items():
             name.write_text(content, encoding="utf-8")

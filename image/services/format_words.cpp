@@ -1,5 +1,6 @@
 #include "image/services/format_words.h"
 
+#include "image/types/output_types.h"
 #include "platform/imageio/formats/type_identifiers.h"
 
 #include <QCoreApplication>
@@ -22,15 +23,12 @@ QString typeOfName(const QString &name)
 
 QString typeWord(const QString &typeIdentifier)
 {
+    for (const WrittenType &type : writtenTypes())
+        if (typeIdentifier == type.identifier)
+            return type.word;
+    // Those that are only read.
     static const QHash<QString, QString> words = {
-        {QStringLiteral("public.jpeg"), QStringLiteral("JPEG")},
-        {QStringLiteral("public.png"), QStringLiteral("PNG")},
-        {QStringLiteral("public.tiff"), QStringLiteral("TIFF")},
-        {QStringLiteral("public.bmp"), QStringLiteral("BMP")},
-        {QStringLiteral("com.compuserve.gif"), QStringLiteral("GIF")},
-        {QStringLiteral("public.jp2"), QStringLiteral("JPEG 2000")},
         {QStringLiteral("com.adobe.photoshop-image"), QStringLiteral("Photoshop")},
-        {QStringLiteral("com.adobe.pdf"), QStringLiteral("PDF")},
         {QStringLiteral("public.heic"), QStringLiteral("HEIC")},
         {QStringLiteral("public.heif"), QStringLiteral("HEIF")},
         {QStringLiteral("org.webmproject.webp"), QStringLiteral("WebP")},

@@ -1,6 +1,7 @@
 #include "image/services/picture_service.h"
 
 #include "image/overlay.h"
+#include "image/types/output_types.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/formats/formats.h"
@@ -71,6 +72,23 @@ QVariantList PictureService::formats() const
                                 {QStringLiteral("resolution"), format.keeps.resolution},
                                 {QStringLiteral("quality"), format.keeps.quality}});
     return rows;
+}
+
+QVariantList PictureService::outputTypes() const
+{
+    QVariantList rows;
+    for (const WrittenType &type : writtenTypes())
+        rows.append(QVariantMap{{QStringLiteral("id"), QString(type.identifier)},
+                                {QStringLiteral("keyword"), QString(type.keyword)},
+                                {QStringLiteral("word"), QString(type.word)},
+                                {QStringLiteral("isPage"), type.isPage},
+                                {QStringLiteral("carriesMetadata"), type.carriesMetadata}});
+    return rows;
+}
+
+QStringList PictureService::qualityCodes() const
+{
+    return image::qualityCodes();
 }
 
 QVariantList PictureService::rawTypes() const

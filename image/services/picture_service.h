@@ -29,6 +29,16 @@ public:
      */
     Q_INVOKABLE QVariantList formats() const;
 
+    /**
+     * The types that are written, in the order of lists, each as {id, keyword, word, isPage, carriesMetadata}: the type
+     * identifier, the keyword of conversions, the word of lists, whether only a conversion makes it, and whether one hands
+     * metadata on into it.
+     */
+    Q_INVOKABLE QVariantList outputTypes() const;
+
+    /** The codes of JPEG quality, the lowest first; conversions know no last one. */
+    Q_INVOKABLE QStringList qualityCodes() const;
+
     /** The kinds of raw files of cameras, each as {extension, hasPreview}; only those with a preview can be converted. */
     Q_INVOKABLE QVariantList rawTypes() const;
 

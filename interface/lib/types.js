@@ -1,4 +1,4 @@
-// The file types that can be written, in the order and words of lists; what each can hold is told by the table of formats.
+// The file types that can be written: what they are called and what each can hold is told by the tables of the program.
 
 import { pictures } from "quorlin/pictures";
 
@@ -6,21 +6,24 @@ export const ORIGINAL = "original file type";
 
 const FORMATS = pictures.formats();
 
-// {id, extension, word, profile, alpha, depth16, resolution, quality}. profile: the colour profile is kept: "yes", "no", or
-// "ifItFits". alpha: transparency is kept. quality: it can be chosen.
-function typeInWords(id, word) {
-    const format = FORMATS.find((each) => each.id === id);
-    return { id: id, extension: "." + format.extensions[0], word: word, profile: format.profile, alpha: format.alpha,
-             depth16: format.depth16, resolution: format.resolution, quality: format.quality };
+// {id, keyword, extension, word, profile, alpha, depth16, resolution, quality, metadata}. profile: the colour profile is kept:
+// "yes", "no", or "ifItFits". alpha: transparency is kept. quality: it can be chosen. metadata: a conversion hands it on.
+function writtenAs(output) {
+    const format = FORMATS.find((each) => each.id === output.id);
+    return { id: output.id, keyword: output.keyword, extension: "." + format.extensions[0], word: output.word,
+             profile: format.profile, alpha: format.alpha, depth16: format.depth16, resolution: format.resolution,
+             quality: format.quality, metadata: output.carriesMetadata };
 }
 
-export const WRITTEN = [
-    typeInWords("public.jpeg", "JPEG"), typeInWords("public.png", "PNG"), typeInWords("public.tiff", "TIFF"),
-    typeInWords("public.bmp", "BMP"), typeInWords("com.compuserve.gif", "GIF"), typeInWords("public.jp2", "JPEG 2000"),
-];
+/** What actions write. */
+export const WRITTEN = pictures.outputTypes().filter((output) => !output.isPage).map(writtenAs);
 
 /** What pictures can be converted to besides; no other action writes it. */
-export const PDF_PAGE = typeInWords("com.adobe.pdf", "PDF");
+export const PDF_PAGE = writtenAs(pictures.outputTypes().find((output) => output.isPage));
+
+/** The codes of JPEG quality, and those of conversions, which know no last one. */
+export const QUALITIES = pictures.qualityCodes();
+export const CONVERSION_QUALITIES = QUALITIES.slice(0, -1);
 
 /** The raw files of cameras, by extension: those that have a preview which can be converted, and the others. */
 export const RAW_WITH_PREVIEW = pictures.rawTypes().filter((type) => type.hasPreview).map((type) => type.extension);

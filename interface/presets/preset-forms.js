@@ -4,13 +4,12 @@
 // or false, both in the columns that the database keeps as numbers; "color" is "#rrggbb". A setting is named by its path,
 // "output.quality"; where it can only have certain values they stand behind its kind.
 
-import { ORIGINAL, WRITTEN } from "../lib/types.js";
+import { ORIGINAL, QUALITIES, WRITTEN } from "../lib/types.js";
 
 /** The newest version of the forms. A form whose columns change their meaning gets a higher version. */
 export const VERSION = 1;
 
 const TYPES = [ORIGINAL].concat(WRITTEN.map((type) => type.id));
-const QUALITIES = ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10"];
 
 const OUTPUT = {
     StrField4: ["output.fileType", "text", TYPES], StrField5: ["output.quality", "text", QUALITIES],

@@ -68,7 +68,7 @@ SUB_ROOMS = {
         "imageio/comments": "foundation file imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/exif imageio/source",
         "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },
-    "image": {"": "", "recipe": "*", "services": "*"},
+    "image": {"types": "", "": "types", "recipe": "*", "services": "*"},
     "text": {"": "", "services": "*"},
     "files": {
         "items": "",

@@ -1,6 +1,7 @@
 // The settings of the Convert action.
 
-import { KEYWORDS, QUALITIES, targetNamed, targetText } from "./targets.js";
+import { KEYWORDS, targetNamed, targetText } from "./targets.js";
+import { CONVERSION_QUALITIES } from "../../lib/types.js";
 import { pixels } from "../../lib/wording.js";
 import * as convert from "./convert-step.js";
 import { Pane } from "../shared/pane.js";
@@ -19,7 +20,8 @@ export class ConvertPane extends Pane {
 
     join() {
         this.form.setItems("target", KEYWORDS.map((keyword) => targetNamed(keyword).word), KEYWORDS);
-        this.form.setItems("convertQuality", QUALITIES.map((code) => qualityText(code)), QUALITIES);
+        this.form.setItems("convertQuality", CONVERSION_QUALITIES.map((code) => qualityText(code)),
+                           CONVERSION_QUALITIES);
         this.choice("target", "target");
         this.choice("convertQuality", "quality");
     }

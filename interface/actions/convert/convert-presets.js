@@ -1,11 +1,12 @@
 // The columns of its presets, and those that it starts with; docs/presets.md has the layout. Pure but for translation.
 
 import { writingForm } from "../../presets/preset-forms.js";
-import { KEYWORDS, QUALITIES } from "./targets.js";
+import { CONVERSION_QUALITIES } from "../../lib/types.js";
+import { KEYWORDS } from "./targets.js";
 
 export const presets = {
     form: writingForm("Convert", "target", KEYWORDS, {
-        StrField11: ["quality", "text", QUALITIES],
+        StrField11: ["quality", "text", CONVERSION_QUALITIES],
     }),
     starting: () => [
         [qsTr("JPEG for everyone"), { target: "jpeg", quality: "8", output: { destination: { name: "JPEG" } } }],

@@ -2,8 +2,8 @@
 // Services used: fileHandling (hConvertFileType), files. Plain data in, plain data out.
 
 import { splitPath } from "../../lib/names.js";
-import { isTarget, lostText, QUALITIES, sourceNotes, targetNamed } from "./targets.js";
-import { ORIGINAL } from "../../lib/types.js";
+import { isTarget, lostText, sourceNotes, targetNamed } from "./targets.js";
+import { CONVERSION_QUALITIES, ORIGINAL } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { outputMessages, ready, refused } from "../shared/written.js";
 
@@ -31,7 +31,7 @@ export function validate(settings) {
     const messages = [];
     if (!isTarget(settings.target)) {
         messages.push(qsTr("Choose what to convert to."));
-    } else if (QUALITIES.indexOf(settings.quality) < 0) {
+    } else if (CONVERSION_QUALITIES.indexOf(settings.quality) < 0) {
         messages.push(qsTr("Choose a quality from 1 to 9."));
     }
     return messages.concat(outputMessages(settings.output));

@@ -2,33 +2,18 @@
 
 import { splitPath } from "../../lib/names.js";
 import { FURTHER_INPUT, keepsProfile, PDF_PAGE, PICTURE_INPUT, RAW_WITH_PREVIEW, typeOfExtension,
-         writtenType } from "../../lib/types.js";
+         WRITTEN } from "../../lib/types.js";
 import { mayBeTransparent } from "../shared/written.js";
 
-// keyword: what the service calls it. metadata: keeps EXIF, IPTC and XMP.
-const TARGETS = [
-    { keyword: "jpeg", id: "public.jpeg", metadata: false },
-    { keyword: "png", id: "public.png", metadata: true },
-    { keyword: "tiff", id: "public.tiff", metadata: true },
-    { keyword: "pdf", id: PDF_PAGE.id, metadata: false },
-    { keyword: "jp2", id: "public.jp2", metadata: false },
-    { keyword: "gif", id: "com.compuserve.gif", metadata: false },
-    { keyword: "bmp", id: "public.bmp", metadata: false },
-];
-
 /** The keywords of the targets, in the order in which they are offered. */
-export const KEYWORDS = TARGETS.map((target) => target.keyword);
-
-/** The codes of JPEG quality; "9" is the highest. */
-export const QUALITIES = ["1", "2", "3", "4", "5", "6", "7", "8", "9"];
+export const KEYWORDS = ["jpeg", "png", "tiff", "pdf", "jp2", "gif", "bmp"];
 
 /** The files that can be converted, by extension. */
 export const CONVERTED_INPUT = PICTURE_INPUT.concat(FURTHER_INPUT, RAW_WITH_PREVIEW);
 
-/** {keyword, metadata} of a keyword with all that lib/types.js knows of its type. */
+/** What lib/types.js knows of the type of a keyword. */
 export function targetNamed(keyword) {
-    const target = TARGETS.find((each) => each.keyword === keyword);
-    return Object.assign({}, target.id === PDF_PAGE.id ? PDF_PAGE : writtenType(target.id), target);
+    return WRITTEN.concat([PDF_PAGE]).find((type) => type.keyword === keyword);
 }
 
 export function isTarget(keyword) {

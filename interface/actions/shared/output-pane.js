@@ -5,7 +5,7 @@ import { shell } from "quorlin/shell";
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { withNewest } from "../../lib/store.js";
-import { ORIGINAL, writtenType } from "../../lib/types.js";
+import { ORIGINAL, QUALITIES, writtenType } from "../../lib/types.js";
 import { fill, shortPath } from "../../lib/wording.js";
 
 const KEPT_FOLDERS = 5;
@@ -46,8 +46,7 @@ export class OutputPane {
         this.output = null;
         this.offer = null;
         this.form = shell.loadForm("actions/shared/output-pane.ui");
-        const codes = ["1", "2", "3", "4", "5", "6", "7", "8", "9", "10"];
-        this.form.setItems("quality", codes, codes);
+        this.form.setItems("quality", QUALITIES, QUALITIES);
         this.form.setItems("ifTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")],
                            ["number", "replace", "skip", "ask"]);
         this.connect();

@@ -7,7 +7,8 @@ import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
-import { isTarget, KEYWORDS, QUALITIES, targetNamed, targetText } from "../../actions/convert/targets.js";
+import { CONVERSION_QUALITIES } from "../../lib/types.js";
+import { isTarget, KEYWORDS, targetNamed, targetText } from "../../actions/convert/targets.js";
 import { fill } from "../../lib/wording.js";
 
 const KEY = "SaveAs";
@@ -27,10 +28,11 @@ export class SaveAs {
 
     fillMenus() {
         this.form.setItems("pubFileType", KEYWORDS, KEYWORDS);
-        this.form.setItems("pubJPEGcompression", QUALITIES, QUALITIES);
+        this.form.setItems("pubJPEGcompression", CONVERSION_QUALITIES, CONVERSION_QUALITIES);
         const kept = recall(defaults, KEY, { type: "jpeg", quality: "8" });
         this.form.chooseValue("pubFileType", isTarget(kept.type) ? kept.type : "jpeg");
-        this.form.chooseValue("pubJPEGcompression", QUALITIES.indexOf(kept.quality) >= 0 ? kept.quality : BEST);
+        this.form.chooseValue("pubJPEGcompression",
+                              CONVERSION_QUALITIES.indexOf(kept.quality) >= 0 ? kept.quality : BEST);
         this.box.pubFileType = this.form.control("pubFileType");
         this.box.pubJPEGcompression = this.form.control("pubJPEGcompression");
         this.box.wwFormats = this.form.control("wwFormats");

@@ -1,6 +1,8 @@
 #include "image/services/picture_service.h"
 
 #include "image/services/format_words.h"
+#include "image/types/output_types.h"
+#include "platform/imageio/formats/formats.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
@@ -44,6 +46,8 @@ private Q_SLOTS:
     void saysWhatFormatsKeep();
     void asksThePictureWhetherItsProfileFits_data();
     void asksThePictureWhetherItsProfileFits();
+    void namesEachWrittenTypeOnce();
+    void tellsCodesOfQualityFromLowToHigh();
     void tellsRawFilesWithAndWithoutAPreview();
 };
 
@@ -173,6 +177,36 @@ void TestPictureService::asksThePictureWhetherItsProfileFits()
     QFETCH(QString, picture);
     QFETCH(QString, id);
     QTEST(PictureService().keepsProfile(picturePath(picture), id), "kept");
+}
+
+void TestPictureService::namesEachWrittenTypeOnce()
+{
+    QSet<QString> keywords;
+    for (const image::WrittenType &type : image::writtenTypes()) {
+        const platform::Format *format = platform::formatNamed(type.identifier);
+        QVERIFY2(format, type.identifier.data());
+        QCOMPARE(format->written.has_value(), !type.isPage);
+        QVERIFY2(!keywords.contains(type.keyword), type.keyword.data());
+        keywords.insert(type.keyword);
+        QVERIFY(image::targetTypeFor(type.keyword) == type.target);
+        QVERIFY2(!type.carriesMetadata || format->keeps.exif, type.identifier.data());
+        QCOMPARE(image::typeWord(type.identifier), QString(type.word));
+    }
+    for (const platform::Format &format : platform::formats())
+        QCOMPARE(std::any_of(image::writtenTypes().begin(), image::writtenTypes().end(),
+                             [&](const image::WrittenType &type) { return type.identifier == format.identifier; }),
+                 platform::fileFormatForType(format.identifier) || format.content == platform::Content::Pdf);
+    QCOMPARE(PictureService().outputTypes().size(), qsizetype(image::writtenTypes().size()));
+}
+
+void TestPictureService::tellsCodesOfQualityFromLowToHigh()
+{
+    const QStringList codes = PictureService().qualityCodes();
+    QCOMPARE(codes.size(), 10);
+    for (qsizetype i = 0; i < codes.size(); ++i) {
+        QCOMPARE(image::qualityForCode(codes[i]), double(i + 1) / 10);
+        QCOMPARE(image::conversionQuality(codes[i]), double(qMin<qsizetype>(i + 1, 9)) / 10);
+    }
 }
 
 void TestPictureService::tellsRawFilesWithAndWithoutAPreview()
