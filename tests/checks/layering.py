@@ -54,7 +54,7 @@ SUB_ROOMS = {
         "imageio/exif": "foundation file imageio/bytes imageio/jpeg imageio/tiff",
         "imageio/xmp": "imageio/png",
         "imageio/metadata": "foundation graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/tiff "
-                            "imageio/photoshop imageio/exif imageio/xmp",
+                            "imageio/photoshop imageio/parts imageio/exif imageio/xmp",
         "imageio/load": "file graphics imageio/bytes imageio/formats imageio/jpeg2000 imageio/tiff imageio/bmp "
                         "imageio/photoshop",
         "imageio/facts": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png imageio/tiff "

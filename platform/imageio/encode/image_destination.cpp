@@ -11,12 +11,15 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 
 namespace platform {
 namespace {
 
 Resolution writtenResolution(const Bitmap &bitmap, const EncodeOptions &options)
 {
+    if (options.dpi)
+        return {*options.dpi, *options.dpi};
     return options.resolution == WriteResolution::Yes ? bitmap.pixels().resolution : Resolution();
 }
 
@@ -78,16 +81,46 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
     case FileFormat::Webp:
         return encodeWebp(image, compression);
     case FileFormat::Avif:
-        return encodeAvif(image, compression.quality, {});
+        return encodeAvif(image, compression.quality,
+                          options.metadata.blocksFor({image.width(), image.height()}, Metadata::Holds::ExifXmp));
     case FileFormat::JpegXl:
         return encodeJpegXl(image, compression);
     }
     return failure(ErrorCode::Unsupported, QString());
 }
 
-bool holdsMetadata(FileFormat format)
+/** Files that state no resolution but in EXIF. */
+bool statesResolutionInExif(FileFormat format)
 {
-    return format == FileFormat::Jpeg || format == FileFormat::Tiff;
+    return format == FileFormat::Webp || format == FileFormat::Avif || format == FileFormat::JpegXl ||
+           format == FileFormat::Jpeg2000;
+}
+
+/** What goes into the file, in step with its pixels. */
+Metadata metadataFor(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
+{
+    if (options.carried == Carried::Blocks)
+        return format == FileFormat::Jpeg || format == FileFormat::Tiff ? options.metadata : Metadata();
+    const Metadata upright = options.metadata.withOrientation(1);
+    const Resolution resolution = writtenResolution(bitmap, options);
+    const QSizeF stated = upright.resolution();
+    const QSizeF known(resolution.horizontal, resolution.vertical > 0 ? resolution.vertical : resolution.horizontal);
+    const bool isSaid = !stated.isEmpty() || statesResolutionInExif(format);
+    constexpr double tolerance = 0.01;
+    const bool isSame =
+        std::abs(stated.width() - known.width()) < tolerance && std::abs(stated.height() - known.height()) < tolerance;
+    return known.isEmpty() || !isSaid || isSame ? upright : upright.withResolution(known.width(), known.height());
+}
+
+/** @p options has what metadataFor() gives. */
+Result<QByteArray> withMetadata(const QByteArray &encoded, QSize pixels, FileFormat format,
+                                const EncodeOptions &options)
+{
+    const bool isIn = format == FileFormat::Avif; // since it was encoded
+    const bool isCarried = !options.metadata.isEmpty() || options.carried == Carried::Everything;
+    if (isIn || !isCarried || format == FileFormat::Bmp)
+        return encoded;
+    return options.metadata.writtenInto(encoded, options.carried, pixels);
 }
 
 } // namespace
@@ -115,10 +148,11 @@ Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const En
         const Result<Bitmap> opaque = onMatte(bitmap, format, options);
         if (!opaque)
             return tl::unexpected<Error>(opaque.error());
-        const Result<QByteArray> encoded = encodePixels(*opaque, format, options);
-        if (!encoded || options.metadata.isEmpty() || !holdsMetadata(format))
-            return encoded;
-        return options.metadata.writtenInto(*encoded);
+        EncodeOptions known = options;
+        known.metadata = metadataFor(bitmap, format, options);
+        return encodePixels(*opaque, format, known).and_then([&](const QByteArray &encoded) {
+            return withMetadata(encoded, bitmap.size(), format, known);
+        });
     } catch (const vips::VError &error) {
         return failure(
             ErrorCode::WriteFailed,

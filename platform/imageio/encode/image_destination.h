@@ -31,8 +31,15 @@ struct EncodeOptions
     /** What lies under transparent parts where the format has none, in sRGB and taken as opaque; black without it. */
     std::optional<QColor> matte = {};
     WriteResolution resolution = WriteResolution::No;
+    /** Dots per inch, above 0, that are written in place of the bitmap's, whatever resolution says. */
+    std::optional<double> dpi = {};
     /** Carried into JPEG and TIFF; other formats leave it. A resolution that it states is written with it. */
     Metadata metadata = {};
+    /**
+     * Everything: the metadata goes into all formats that can hold any, BMP alone left out, and so does the resolution, in EXIF
+     * where the format has no other place for it. The pixels count as upright, and EXIF is told so, and of the resolution too.
+     */
+    Carried carried = Carried::Blocks;
 };
 
 /**

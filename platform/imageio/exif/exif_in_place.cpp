@@ -4,7 +4,10 @@
 #include "platform/imageio/tiff/tiff_reader.h"
 #include "platform/imageio/tiff/tiff_tags.h"
 
+#include <QMap>
+
 #include <algorithm>
+#include <cmath>
 
 // An EXIF block is a TIFF file without a picture, in which offsets count from its first byte:
 //
@@ -95,6 +98,155 @@ QByteArray exifBlockWithResolutionSwapped(QByteArray block)
         std::swap_ranges(block.begin() + across->at + field, block.begin() + across->at + reader.form().entrySize(),
                          block.begin() + down->at + field);
     return block;
+}
+
+namespace {
+
+QByteArray fractionOf(const TiffForm &form, double value)
+{
+    constexpr quint32 parts = 10000;
+    const bool isWhole = std::abs(value - std::round(value)) < 0.5 / parts;
+    const quint32 divisor = isWhole ? 1 : parts;
+    return form.bytes(quint64(std::llround(value * divisor)), 4) + form.bytes(divisor, 4);
+}
+
+void fillWithZeros(QByteArray &block, const TiffRange &range)
+{
+    block.replace(range.start, range.size, QByteArray(range.size, '\0'));
+}
+
+/** Zeros over the values of a directory that lie outside of it, and over the directory. */
+void eraseDirectory(QByteArray &block, const TiffDirectory &directory)
+{
+    for (const TiffEntry &entry : directory.entries)
+        if (entry.isSound() && entry.value.start >= TiffForm().headerSize())
+            fillWithZeros(block, entry.value);
+    fillWithZeros(block, directory.range);
+}
+
+/** A directory written over itself without one of its entries; the room behind it becomes zeros. */
+void writeWithout(QByteArray &block, const TiffForm &form, const TiffDirectory &directory, quint16 tag)
+{
+    QByteArray kept;
+    for (const TiffEntry &entry : directory.entries)
+        if (entry.tag != tag)
+            kept += block.mid(entry.at, form.entrySize());
+    const QByteArray shortened = form.directory(kept, directory.next);
+    block.replace(directory.range.start, directory.range.size, shortened.leftJustified(directory.range.size, '\0'));
+}
+
+bool overlapsAnyOther(const TiffDirectory &directory, const TiffDirectory &other)
+{
+    return std::any_of(other.entries.begin(), other.entries.end(), [&](const TiffEntry &entry) {
+        return entry.isSound() && !entry.isInline && entry.value.overlaps(directory.range);
+    });
+}
+
+/** The block without the directory behind the first one, and without its picture where that is the end. */
+QByteArray withoutThumbnail(const QByteArray &block)
+{
+    const TiffReader reader(block);
+    const TiffDirectory first = reader.first();
+    if (first.next == 0)
+        return block;
+    QByteArray result = block.left(endWithoutThumbnail(reader, first.next));
+    return result.replace(first.nextAt, reader.form().offsetSize(), reader.form().offset(0));
+}
+
+/** Sets one fraction where it stands; false where it does not stand anywhere. */
+bool setFraction(QByteArray &block, const TiffForm &form, const TiffEntry *entry, double value)
+{
+    const bool hasPlace = entry && entry->isSound() && entry->type == tiffType::fractionType && entry->count == 1;
+    if (hasPlace)
+        block.replace(entry->value.start, entry->value.size, fractionOf(form, value));
+    return hasPlace;
+}
+
+/** The first directory at the end of the block, with these entries in place of those that it had. */
+QByteArray withNewFirst(const QByteArray &block, QMap<quint16, QByteArray> entries)
+{
+    const TiffReader reader(block);
+    const TiffForm &form = reader.form();
+    const TiffDirectory first = reader.first();
+    for (const TiffEntry &entry : first.entries)
+        if (!entries.contains(entry.tag))
+            entries.insert(entry.tag, block.mid(entry.at, form.entrySize()));
+    QByteArray result = block;
+    if (first.valid)
+        fillWithZeros(result, first.range);
+    const quint64 place = appendEven(result, form.directory(QByteArrayList(entries.values()).join(), 0));
+    return result.replace(form.firstAt(), form.offsetSize(), form.offset(place));
+}
+
+} // namespace
+
+QByteArray exifBlockWithResolution(const QByteArray &block, double horizontal, double vertical)
+{
+    QByteArray result = block.isEmpty() ? QByteArray("II*\0\0\0\0\0", 8) : block;
+    const TiffReader reader(result);
+    const TiffDirectory first = reader.first();
+    const TiffForm form = reader.form();
+    if (!reader.isClassic() || (!first.valid && reader.firstOffset() != 0))
+        return {};
+    constexpr quint32 inches = 2;
+    const TiffEntry *unit = first.findSound(tiffTag::resolutionUnit);
+    QByteArray inPlace = result;
+    if (unit && setFraction(inPlace, form, first.findSound(tiffTag::resolutionAcross), horizontal) &&
+        setFraction(inPlace, form, first.findSound(tiffTag::resolutionDown), vertical)) {
+        setInteger(inPlace, form, unit, inches);
+        return inPlace;
+    }
+    result = withoutThumbnail(result);
+    const auto fraction = [&](quint16 tag, double value) {
+        const quint64 place = appendEven(result, fractionOf(form, value));
+        return form.entry(tag, tiffType::fractionType, 1, form.offset(place));
+    };
+    QMap<quint16, QByteArray> entries;
+    entries.insert(tiffTag::resolutionAcross, fraction(tiffTag::resolutionAcross, horizontal));
+    entries.insert(tiffTag::resolutionDown, fraction(tiffTag::resolutionDown, vertical));
+    entries.insert(tiffTag::resolutionUnit,
+                   form.entry(tiffTag::resolutionUnit, tiffType::shortType, 1, form.bytes(inches, 2)));
+    return withNewFirst(result, entries);
+}
+
+QByteArray exifBlockWithoutPlace(const QByteArray &block)
+{
+    const TiffReader reader(block);
+    const TiffDirectory first = reader.first();
+    if (!reader.isClassic() || !first.valid)
+        return {};
+    const TiffEntry *pointer = first.find(tiffTag::gpsDirectory);
+    if (!pointer)
+        return block;
+    QByteArray result = block;
+    const TiffDirectory place = reader.directory(reader.integer(*pointer));
+    const bool isTangled = std::any_of(place.entries.begin(), place.entries.end(), [&](const TiffEntry &entry) {
+        return entry.isSound() && entry.value.overlaps(first.range);
+    });
+    if (isTangled || place.range.overlaps(first.range) || overlapsAnyOther(place, first))
+        return {};
+    eraseDirectory(result, place);
+    writeWithout(result, reader.form(), first, tiffTag::gpsDirectory);
+    return result;
+}
+
+QByteArray exifBlockWithoutMakerNote(const QByteArray &block)
+{
+    const TiffReader reader(block);
+    const TiffDirectory first = reader.first();
+    if (!reader.isClassic() || !first.valid)
+        return {};
+    const TiffEntry *pointer = first.find(tiffTag::exifDirectory);
+    const TiffDirectory exif = pointer ? reader.directory(reader.integer(*pointer)) : TiffDirectory();
+    const TiffEntry *note = exif.find(tiffTag::makerNote);
+    if (!note)
+        return block;
+    if (!note->isSound() || note->value.overlaps(first.range) || note->value.overlaps(exif.range))
+        return {};
+    QByteArray result = block;
+    fillWithZeros(result, note->value);
+    writeWithout(result, reader.form(), exif, tiffTag::makerNote);
+    return result;
 }
 
 } // namespace platform

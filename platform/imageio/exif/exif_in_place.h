@@ -23,4 +23,16 @@ QByteArray exifBlockWithOrientation(QByteArray block, int orientation);
 /** The block with its horizontal and its vertical resolution in each other's places; unchanged where one is missing. */
 QByteArray exifBlockWithResolutionSwapped(QByteArray block);
 
+/**
+ * The block with this resolution in dots per inch in it; without its thumbnail where there was no place for it, since what is new
+ * goes to the end. Empty where the block is not sound enough for that.
+ */
+QByteArray exifBlockWithResolution(const QByteArray &block, double horizontal, double vertical);
+
+/** The block without its place: the GPS directory with all its values becomes zeros. Empty where the block is not sound. */
+QByteArray exifBlockWithoutPlace(const QByteArray &block);
+
+/** The block without maker notes, which become zeros. Empty where the block is not sound. */
+QByteArray exifBlockWithoutMakerNote(const QByteArray &block);
+
 } // namespace platform

@@ -90,6 +90,8 @@ Metadata metadataOf(const PictureBytes &bytes, Content content)
     const std::unique_ptr<QIODevice> device = bytes.openedDevice();
     if (content == Content::Jpeg)
         return inBytes(*device, jpegHead(*device));
+    if (content == Content::JpegXl) // its pixels say how they lie, whatever EXIF says
+        return inBytes(*device, device->readAll()).withOrientation(1);
     if (device->size() <= mostReadAtOnce || bytes.path.isEmpty())
         return inBytes(*device, device->readAll());
     return fromLargeFile(bytes.path);

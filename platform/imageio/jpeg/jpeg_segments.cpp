@@ -91,6 +91,8 @@ void take(JpegSegments &segments, uchar marker, JpegSegments::Range range, const
         segments.insertAt = range.start + range.size;
     if (marker == 0xe0 && segments.jfif.isEmpty() && payload.startsWith("JFIF"))
         segments.jfif = QByteArray(payload.constData(), payload.size()); // the payload is a view
+    if (marker == 0xfe)
+        segments.comments.append(range);
     if (marker == 0xc2)
         segments.isProgressive = true;
     if (isFrameHeader(marker) && payload.size() >= 5) {

@@ -30,6 +30,7 @@ struct JpegSegments
     int exifSegments = 0;
     QList<Range> exifRanges; ///< the segments that the block was joined from, with their markers
     QByteArray jfif;         ///< what the JFIF segment holds, its name first
+    QList<Range> comments;   ///< with their markers
     bool isProgressive = false;
     QSize size; ///< pixels as stored
     JpegFrame frame;

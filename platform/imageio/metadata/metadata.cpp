@@ -7,8 +7,11 @@
 #include "platform/imageio/jpeg/jpeg_segments.h"
 #include "platform/imageio/metadata/big_tiff.h"
 #include "platform/imageio/metadata/container_blocks.h"
+#include "platform/imageio/metadata/container_writer.h"
 #include "platform/imageio/metadata/metadata_blocks.h"
+#include "platform/imageio/parts/gif_blocks.h"
 #include "platform/imageio/png/png_chunks.h"
+#include "platform/imageio/png/png_exif_text.h"
 #include "platform/imageio/xmp/xmp_bounds.h"
 
 #include <exception>
@@ -72,6 +75,8 @@ std::optional<ContainerBlocks> blocksOf(const QByteArray &bytes)
         return jpeg2000Blocks(bytes);
     case Content::Gif:
         return gifBlocks(bytes);
+    case Content::JpegXl:
+        return jpegXlBlocks(bytes);
     case Content::Photoshop:
         return isLargePhotoshop(bytes) ? std::optional(photoshopBlocks(bytes)) : std::nullopt;
     default:
@@ -123,6 +128,22 @@ template<typename Step> void attempt(Step step)
     }
 }
 
+/** UTF-8, or else Latin 1: nothing says which. */
+QStringList commentsOf(const QByteArray &jpeg, const JpegSegments &segments)
+{
+    constexpr qsizetype marker = 4; // and the length
+    QStringList comments;
+    for (const JpegSegments::Range &range : segments.comments) {
+        QByteArray bytes = jpeg.mid(range.start + marker, range.size - marker);
+        while (bytes.endsWith('\0'))
+            bytes.chop(1);
+        const QString text = QString::fromUtf8(bytes);
+        comments.append(text.contains(QChar::ReplacementCharacter) ? QString::fromLatin1(bytes) : text);
+    }
+    comments.removeAll(QString());
+    return comments;
+}
+
 /** Where it belongs; else among the tags of the picture itself, where some programs put all tags. */
 const Exiv2::Exifdatum *commentTag(const Exiv2::ExifData &exif)
 {
@@ -164,7 +185,7 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
     startMetadataLibrary();
     auto blocks = std::make_shared<Blocks>();
     if (const std::optional<ContainerBlocks> found = blocksOf(bytes))
-        return fromBlocks(found->exif, found->xmp, found->iptc);
+        return fromBlocks(found->exif, found->xmp, found->iptc).withComments(gifCommentsOf(bytes, gifPartsOf(bytes)));
     const JpegSegments segments = findJpegSegments(bytes);
     if (const QByteArray packet = xmpPacketOf(bytes); !isDigestibleXmp(packet) || !holdsDigestibleXmp(bytes)) {
         blocks->xmpPacket = packet.toStdString();
@@ -179,6 +200,7 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
     }
     if (const PngParts parts = findPngParts(bytes); parts.valid) {
         blocks->pngChunks = parts.carried;
+        blocks->comments = pngComments(parts.carried);
         if (!parts.exif.isEmpty()) { // exiv2 knows only the older way
             blocks->exif.clear();
             attempt([&] { readExifBlock(*blocks, parts.exif); });
@@ -191,7 +213,19 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
     // The block itself lets maker notes stay where they are when it is written again.
     if (!segments.exif.isEmpty())
         blocks->exifBlock = segments.exif;
+    blocks->comments += commentsOf(bytes, segments);
     dropThumbnails(*blocks);
+    Metadata metadata;
+    metadata.m_blocks = std::move(blocks);
+    return metadata;
+}
+
+Metadata Metadata::withComments(const QStringList &comments) const
+{
+    if (comments.isEmpty() || !m_blocks)
+        return *this;
+    auto blocks = std::make_shared<Blocks>(*m_blocks);
+    blocks->comments = comments;
     Metadata metadata;
     metadata.m_blocks = std::move(blocks);
     return metadata;

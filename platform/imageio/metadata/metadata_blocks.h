@@ -21,6 +21,7 @@ struct Metadata::Blocks
     Exiv2::ByteOrder byteOrder = Exiv2::littleEndian;
     /** Chunks of a PNG file that another PNG file can have too: texts, gamma, primaries. */
     QByteArray pngChunks;
+    QStringList comments; ///< of the file itself, not of EXIF
 };
 
 /** Starts exiv2 once: its XMP parser, its reader of HEIC and AVIF, and no word on standard error. */

@@ -1,12 +1,17 @@
 #include "platform/imageio/bytes/deflate.h"
 #include "platform/imageio/exif/tiff_graft.h"
+#include "platform/imageio/formats/content.h"
 #include "platform/imageio/jpeg/jpeg_segments.h"
+#include "platform/imageio/metadata/carried_xmp.h"
+#include "platform/imageio/metadata/container_writer.h"
 #include "platform/imageio/metadata/exif_block.h"
 #include "platform/imageio/metadata/metadata_blocks.h"
+#include "platform/imageio/parts/gif_blocks.h"
+#include "platform/imageio/parts/webp_chunks.h"
 #include "platform/imageio/png/png_chunks.h"
+#include "platform/imageio/png/png_exif_text.h"
 #include "platform/imageio/tiff/tiff_reader.h"
 #include "platform/imageio/xmp/xmp_bounds.h"
-#include "platform/imageio/xmp/xmp_packet.h"
 
 #include <QtEndian>
 
@@ -37,16 +42,6 @@ template<typename Maker> QByteArray madeOrNothing(Maker make)
     }
 }
 
-/** The packet as it was read; one that was never a packet is made of its entries. */
-QByteArray xmpPacket(const Metadata::Blocks &blocks, QSize pixels)
-{
-    std::string packet = blocks.xmpPacket;
-    if (packet.empty() && !blocks.xmp.empty() &&
-        Exiv2::XmpParser::encode(packet, blocks.xmp, Exiv2::XmpParser::useCompactFormat) != 0)
-        return {};
-    return xmpForNewPixels(QByteArray(packet.data(), qsizetype(packet.size())), pixels);
-}
-
 QByteArray xmpPayload(const Metadata::Blocks &blocks, QSize pixels)
 {
     const QByteArray packet = xmpPacket(blocks, pixels);
@@ -68,7 +63,18 @@ QByteArray iptcPayload(const Metadata::Blocks &blocks)
     return resources.isEmpty() ? resources : QByteArray("Photoshop 3.0\0", 14) + resources;
 }
 
-QByteArray writtenIntoJpeg(const Metadata::Blocks &blocks, const QByteArray &encoded, const JpegSegments &segments)
+/** In the order in which they stand. */
+QList<JpegSegments::Range> replacedSegments(const JpegSegments &segments, Carried carried)
+{
+    QList<JpegSegments::Range> replaced = segments.metadata;
+    if (carried == Carried::Everything)
+        replaced += segments.comments;
+    std::sort(replaced.begin(), replaced.end(), [](const auto &a, const auto &b) { return a.start < b.start; });
+    return replaced;
+}
+
+QByteArray writtenIntoJpeg(const Metadata::Blocks &blocks, const QByteArray &encoded, const JpegSegments &segments,
+                           Carried carried)
 {
     const QByteArray exif = encodeExifBlock(blocks, segments.size, blocks.byteOrder, largestSegment - 6);
     QByteArray out;
@@ -78,24 +84,18 @@ QByteArray writtenIntoJpeg(const Metadata::Blocks &blocks, const QByteArray &enc
         appendSegment(out, 0xe1, QByteArray("Exif\0\0", 6) + exif);
     appendSegment(out, 0xe1, madeOrNothing([&] { return xmpPayload(blocks, segments.size); }));
     appendSegment(out, 0xed, madeOrNothing([&] { return iptcPayload(blocks); }));
+    for (const QString &comment : blocks.comments)
+        appendSegment(out, 0xfe, comment.toUtf8());
     qsizetype position = segments.insertAt;
-    for (const JpegSegments::Range &range : segments.metadata) {
+    for (const JpegSegments::Range &range : replacedSegments(segments, carried)) {
         out.append(encoded.constData() + position, range.start - position);
         position = range.start + range.size;
     }
     return out.append(encoded.constData() + position, encoded.size() - position);
 }
 
-QByteArray iptcRecords(const Metadata::Blocks &blocks)
-{
-    if (blocks.iptc.empty())
-        return {};
-    const Exiv2::DataBuf records = Exiv2::IptcParser::encode(blocks.iptc);
-    return QByteArray(reinterpret_cast<const char *>(records.pData_), records.size_);
-}
-
 /** What goes into a TIFF file of some shape. */
-GraftedBlocks blocksFor(const Metadata::Blocks &blocks, const TiffShape &shape)
+GraftedBlocks graftedBlocks(const Metadata::Blocks &blocks, const TiffShape &shape)
 {
     constexpr qsizetype largestBlock = 32 << 20;
     const Exiv2::ByteOrder own = shape.littleEndian ? Exiv2::littleEndian : Exiv2::bigEndian;
@@ -109,7 +109,7 @@ GraftedBlocks blocksFor(const Metadata::Blocks &blocks, const TiffShape &shape)
 QByteArray graftedIntoTiff(const Metadata::Blocks &blocks, const QByteArray &encoded)
 {
     const TiffShape shape = tiffShape(encoded);
-    return shape.valid ? graftIntoTiff(encoded, blocksFor(blocks, shape)) : QByteArray();
+    return shape.valid ? graftIntoTiff(encoded, graftedBlocks(blocks, shape)) : QByteArray();
 }
 
 QByteArray contentOf(Exiv2::Image &image)
@@ -181,30 +181,102 @@ QByteArray writtenIntoPng(const Metadata::Blocks &blocks, const QByteArray &enco
         appendPngChunk(out, "eXIf", exif);
     if (!xmp.isEmpty()) // not compressed, in no language
         appendPngChunk(out, "iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) + xmp);
+    for (const QString &comment : pngComments(blocks.pngChunks).isEmpty() ? blocks.comments : QStringList())
+        appendPngChunk(out, "iTXt", QByteArray("Comment\0\0\0\0\0", 12) + comment.toUtf8());
     if (!iptc.isEmpty())
         appendPngChunk(out, "zTXt", QByteArray("Raw profile type iptc\0\0", 23) + deflated(rawProfile("iptc", iptc)));
     return out.append(encoded.constData() + parts.pixelsAt, encoded.size() - parts.pixelsAt);
 }
 
+Result<QByteArray> notHeld()
+{
+    return failure(ErrorCode::Unsupported, QStringLiteral("Cannot write metadata: this type of file does not hold it"));
+}
+
+/** The blocks as they go into a JPEG, a TIFF or a PNG. */
+Metadata::Blocks blocksToCarry(const Metadata::Blocks &known, Carried carried)
+{
+    Metadata::Blocks blocks = known;
+    if (carried == Carried::Blocks) {
+        blocks.comments.clear();
+        return blocks;
+    }
+    blocks.xmpPacket = madeOrNothing([&] { return carriedXmp(known, {}, {}); }).toStdString();
+    if (blocks.xmpPacket.empty())
+        blocks.xmp.clear();
+    return blocks;
+}
+
+/** Of a type that is a chain of parts; the size of its picture is told by the file, or else by @p pixels. */
+Result<QByteArray> writtenIntoContainer(const Metadata &metadata, const QByteArray &encoded, QSize pixels)
+{
+    using Holds = Metadata::Holds;
+    QByteArray written;
+    switch (platform::contentOf(encoded.left(contentHeadBytes))) {
+    case Content::Jpeg2000:
+        written = jpeg2000WithBlocks(encoded, metadata.blocksFor(jpeg2000SizeOf(encoded), Holds::ExifXmpIptc));
+        break;
+    case Content::JpegXl:
+        written = jpegXlWithBlocks(encoded, metadata.blocksFor(pixels, Holds::ExifXmp));
+        break;
+    case Content::Webp:
+        if (const auto chunks = webpChunksOf(encoded)) {
+            const ContainerBlocks blocks = metadata.blocksFor(webpSizeOf(*chunks), Holds::ExifXmp);
+            written = webpWithMetadata(*chunks, blocks.exif, blocks.xmp);
+        }
+        break;
+    case Content::Gif:
+        if (const GifParts parts = gifPartsOf(encoded); parts.valid)
+            written =
+                gifWithMetadata(encoded, parts, metadata.blocksFor(parts.screen, Holds::Xmp).xmp, metadata.comments());
+        break;
+    case Content::Pdf:
+        if (const QByteArray xmp = metadata.blocksFor(pixels, Holds::Xmp).xmp; !xmp.isEmpty())
+            written = pdfWithXmp(encoded, xmp);
+        break;
+    default:
+        return notHeld();
+    }
+    return written.isEmpty() ? encoded : written;
+}
+
 } // namespace
 
-Result<QByteArray> Metadata::writtenInto(const QByteArray &encoded) const
+ContainerBlocks Metadata::blocksFor(QSize pixels, Holds holds) const
+{
+    if (!m_blocks)
+        return {};
+    constexpr qsizetype largestBlock = 32 << 20;
+    startMetadataLibrary();
+    ContainerBlocks made;
+    const bool holdsExif = holds != Holds::Xmp;
+    const bool holdsIptc = holds == Holds::ExifXmpIptc;
+    if (holdsExif)
+        made.exif = encodeExifBlock(*m_blocks, pixels, m_blocks->byteOrder, largestBlock);
+    if (holdsIptc)
+        made.iptc = madeOrNothing([&] { return iptcRecords(*m_blocks); });
+    made.xmp = madeOrNothing([&] { return carriedXmp(*m_blocks, pixels, {!holdsExif, !holdsIptc}); });
+    return made;
+}
+
+Result<QByteArray> Metadata::writtenInto(const QByteArray &encoded, Carried carried, QSize pixels) const
 {
     const JpegSegments segments = findJpegSegments(encoded);
     const PngParts parts = findPngParts(encoded);
-    if (!segments.valid && !parts.valid && !TiffReader(encoded).isClassic())
-        return failure(ErrorCode::Unsupported,
-                       QStringLiteral("Cannot write metadata: not a JPEG, a TIFF or a PNG file"));
+    if (!segments.valid && !parts.valid && !TiffReader(encoded).isValid())
+        return carried == Carried::Everything ? writtenIntoContainer(*this, encoded, pixels) : notHeld();
     const bool hasOnlyChunks = isEmpty() && m_blocks && parts.valid && !m_blocks->pngChunks.isEmpty();
-    if (isEmpty() && !hasOnlyChunks)
+    const bool hasOnlyComments = carried == Carried::Everything && !comments().isEmpty();
+    if (isEmpty() && !hasOnlyChunks && !hasOnlyComments)
         return encoded;
     startMetadataLibrary();
+    const Blocks blocks = blocksToCarry(*m_blocks, carried);
     if (parts.valid)
-        return writtenIntoPng(*m_blocks, encoded, parts);
+        return writtenIntoPng(blocks, encoded, parts);
     for (const MakerNotes makerNotes : {MakerNotes::Keep, MakerNotes::Drop}) {
         try {
-            const QByteArray written = segments.valid ? writtenIntoJpeg(*m_blocks, encoded, segments)
-                                                      : writtenIntoTiff(*m_blocks, encoded, makerNotes);
+            const QByteArray written = segments.valid ? writtenIntoJpeg(blocks, encoded, segments, carried)
+                                                      : writtenIntoTiff(blocks, encoded, makerNotes);
             if (!written.isEmpty())
                 return written;
         } catch (const std::exception &) {
@@ -222,7 +294,7 @@ std::optional<FileEnds> Metadata::writtenAround(const FileEnds &bare, qint64 pix
         return std::nullopt;
     startMetadataLibrary();
     try {
-        const FileEnds ends = graftAroundPixels(file, pixelBytes, blocksFor(*m_blocks, shape));
+        const FileEnds ends = graftAroundPixels(file, pixelBytes, graftedBlocks(*m_blocks, shape));
         return ends.tail.isEmpty() ? std::nullopt : std::optional(ends);
     } catch (const std::exception &) {
         return std::nullopt; // writtenInto() knows what to leave out

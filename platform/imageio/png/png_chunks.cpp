@@ -78,4 +78,18 @@ PngParts findPngParts(const QByteArray &bytes)
     return parts;
 }
 
+QByteArray pngChunksWithTexts(const QByteArray &chunks, const QList<QByteArray> &keywords)
+{
+    QByteArray kept;
+    for (qsizetype at = 0; at + headSize + sumSize <= chunks.size();) {
+        const auto size = qsizetype(qFromBigEndian<quint32>(chunks.constData() + at));
+        const QByteArray chunk = chunks.mid(at, headSize + size + sumSize);
+        const QByteArray data = chunk.mid(headSize);
+        if (!isText(chunk.mid(4, 4)) || keywords.contains(data.left(std::max<qsizetype>(0, data.indexOf('\0')))))
+            kept += chunk;
+        at += chunk.size();
+    }
+    return kept;
+}
+
 } // namespace platform

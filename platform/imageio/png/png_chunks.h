@@ -3,6 +3,7 @@
 // Inside platform/ only.
 
 #include <QByteArray>
+#include <QList>
 #include <QSize>
 
 namespace platform {
@@ -19,6 +20,11 @@ struct PngParts
     QByteArray carried;     ///< whole chunks that another file with these pixels can have too: texts, gamma, primaries
     qsizetype pixelsAt = 0; ///< where the first chunk of pixels begins
 };
+
+/**
+ * Of chunks as PngParts::carried has them: those that are no texts, and texts with one of these keywords.
+ */
+QByteArray pngChunksWithTexts(const QByteArray &chunks, const QList<QByteArray> &keywords);
 
 /** Never reads outside @p bytes; damaged chunks are passed over. */
 PngParts findPngParts(const QByteArray &bytes);

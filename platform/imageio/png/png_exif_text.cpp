@@ -1,6 +1,7 @@
 #include "platform/imageio/png/png_exif_text.h"
 
 #include <QList>
+#include <QtEndian>
 
 #include <gio/gio.h>
 
@@ -79,6 +80,30 @@ std::optional<QByteArray> xmpOfPngText(const QByteArray &type, const QByteArray 
     if (keyword.toLower() == "raw profile type xmp")
         return writtenOut(type, chunk, 2 * longest).value_or(WrittenOut()).bytes;
     return std::nullopt;
+}
+
+QStringList pngComments(const QByteArray &chunks)
+{
+    constexpr qsizetype frame = 12;
+    constexpr qsizetype longest = 1 << 20;
+    static const QByteArray keyword("Comment\0", 8);
+    QStringList comments;
+    for (qsizetype at = 0; at + frame <= chunks.size();) {
+        const auto size = qsizetype(qFromBigEndian<quint32>(chunks.constData() + at));
+        const QByteArray name = chunks.mid(at + 4, 4);
+        const QByteArray data = chunks.mid(at + 8, size);
+        at += frame + size;
+        if (!data.startsWith(keyword))
+            continue;
+        if (name == "tEXt")
+            comments.append(QString::fromLatin1(data.mid(keyword.size())));
+        else if (name == "zTXt")
+            comments.append(QString::fromLatin1(inflatedText(data.mid(keyword.size() + 1), longest)));
+        else if (name == "iTXt")
+            comments.append(QString::fromUtf8(internationalText(data, keyword.size() - 1, longest)));
+    }
+    comments.removeAll(QString());
+    return comments;
 }
 
 } // namespace platform

@@ -3,6 +3,7 @@
 // Inside platform/ only.
 
 #include <QByteArray>
+#include <QStringList>
 
 #include <optional>
 
@@ -27,5 +28,8 @@ QByteArray exifOfPngText(const QByteArray &type, const QByteArray &chunk);
  * @param type   "iTXt" too
  */
 std::optional<QByteArray> xmpOfPngText(const QByteArray &type, const QByteArray &chunk);
+
+/** What those of the chunks say that are texts of the keyword "Comment", as PngParts::carried has them. */
+QStringList pngComments(const QByteArray &chunks);
 
 } // namespace platform
