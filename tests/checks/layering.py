@@ -63,8 +63,8 @@ SUB_ROOMS = {
                           "imageio/tiff imageio/parts imageio/metadata",
         "imageio/source": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/tiff imageio/whole "
                           "imageio/exif imageio/metadata imageio/load imageio/facts",
-        "imageio/convert": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/exif "
-                           "imageio/load imageio/facts imageio/encode imageio/source",
+        "imageio/convert": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/parts imageio/exif "
+                           "imageio/load imageio/facts imageio/metadata imageio/encode imageio/source",
         "imageio/comments": "foundation file imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/exif imageio/source",
         "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },

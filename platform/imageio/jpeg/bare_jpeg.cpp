@@ -41,9 +41,13 @@ qsizetype endOfCodedPixels(const QByteArray &jpeg, qsizetype position)
     return -1;
 }
 
-} // namespace
+struct Walked
+{
+    QByteArray bare;
+    qsizetype end = 0; ///< behind the mark of the end of the picture
+};
 
-QByteArray withoutMetadata(const QByteArray &jpeg)
+Walked walked(const QByteArray &jpeg)
 {
     constexpr qsizetype markerBytes = 2;
     QByteArray bare("\xFF\xD8", markerBytes);
@@ -56,7 +60,7 @@ QByteArray withoutMetadata(const QByteArray &jpeg)
             continue;
         }
         if (marker == endOfImage)
-            return bare + QByteArrayView(jpeg).sliced(position, markerBytes).toByteArray();
+            return {bare + QByteArrayView(jpeg).sliced(position, markerBytes).toByteArray(), position + markerBytes};
         if (marker == startOfImage || marker == 0x01 || isRestart(marker)) {
             position += markerBytes;
             continue;
@@ -74,6 +78,18 @@ QByteArray withoutMetadata(const QByteArray &jpeg)
         position = end;
     }
     return {};
+}
+
+} // namespace
+
+QByteArray withoutMetadata(const QByteArray &jpeg)
+{
+    return walked(jpeg).bare;
+}
+
+qsizetype endOfJpeg(const QByteArray &jpeg)
+{
+    return walked(jpeg).end;
 }
 
 } // namespace platform

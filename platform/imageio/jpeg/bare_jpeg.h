@@ -13,4 +13,7 @@ namespace platform {
  */
 QByteArray withoutMetadata(const QByteArray &jpeg);
 
+/** The position behind the end of the picture; 0 where it has no end. What follows is no part of it. */
+qsizetype endOfJpeg(const QByteArray &jpeg);
+
 } // namespace platform

@@ -105,6 +105,13 @@ public:
      */
     Metadata reduced(MetadataScope scope, PlaceTaken place = PlaceTaken::Keep) const;
 
+    /** The same without the gamma and primaries of a PNG, for a file that has them already. */
+    Metadata withoutColours() const;
+
+    /** Whether XMP says that there is such a thing beside the picture. */
+    enum class Announced { GainMap, Motion };
+    bool announces(Announced part) const;
+
     /** What a JPEG, PNG or GIF says in a comment of its own, as text. */
     QStringList comments() const;
 

@@ -3,7 +3,7 @@
 #include "platform/imageio/exif/exif_in_place.h"
 #include "platform/imageio/metadata/metadata_blocks.h"
 #include "platform/imageio/png/png_chunks.h"
-#include "platform/imageio/xmp/xmp_bounds.h"
+#include "platform/imageio/xmp/xmp_announcements.h"
 #include "platform/imageio/xmp/xmp_edit.h"
 
 #include <algorithm>
@@ -221,6 +221,29 @@ Metadata Metadata::withResolution(double horizontal, double vertical) const
     Metadata metadata;
     metadata.m_blocks = std::move(blocks);
     return metadata;
+}
+
+Metadata Metadata::withoutColours() const
+{
+    if (!m_blocks || m_blocks->pngChunks.isEmpty())
+        return *this;
+    auto blocks = std::make_shared<Blocks>(*m_blocks);
+    blocks->pngChunks = pngTextsOf(m_blocks->pngChunks);
+    Metadata metadata;
+    metadata.m_blocks = std::move(blocks);
+    return metadata;
+}
+
+bool Metadata::announces(Announced part) const
+{
+    if (!m_blocks || m_blocks->xmpPacket.empty())
+        return false;
+    bool isThere = false;
+    editedXmp(QByteArray(m_blocks->xmpPacket.data(), qsizetype(m_blocks->xmpPacket.size())), [&](const XmpName &name) {
+        isThere = isThere || (part == Announced::Motion ? announcesMotion(name) : announcesGainMap(name));
+        return true;
+    });
+    return isThere;
 }
 
 QStringList Metadata::comments() const

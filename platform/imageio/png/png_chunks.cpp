@@ -78,18 +78,34 @@ PngParts findPngParts(const QByteArray &bytes)
     return parts;
 }
 
-QByteArray pngChunksWithTexts(const QByteArray &chunks, const QList<QByteArray> &keywords)
+namespace {
+
+/** Those of the chunks that @p isKept says by their names and data. */
+template<typename Predicate> QByteArray chunksWhere(const QByteArray &chunks, Predicate isKept)
 {
     QByteArray kept;
     for (qsizetype at = 0; at + headSize + sumSize <= chunks.size();) {
         const auto size = qsizetype(qFromBigEndian<quint32>(chunks.constData() + at));
         const QByteArray chunk = chunks.mid(at, headSize + size + sumSize);
-        const QByteArray data = chunk.mid(headSize);
-        if (!isText(chunk.mid(4, 4)) || keywords.contains(data.left(std::max<qsizetype>(0, data.indexOf('\0')))))
+        if (isKept(chunk.mid(4, 4), chunk.mid(headSize)))
             kept += chunk;
         at += chunk.size();
     }
     return kept;
+}
+
+} // namespace
+
+QByteArray pngChunksWithTexts(const QByteArray &chunks, const QList<QByteArray> &keywords)
+{
+    return chunksWhere(chunks, [&](const QByteArray &name, const QByteArray &data) {
+        return !isText(name) || keywords.contains(data.left(std::max<qsizetype>(0, data.indexOf('\0'))));
+    });
+}
+
+QByteArray pngTextsOf(const QByteArray &chunks)
+{
+    return chunksWhere(chunks, [](const QByteArray &name, const QByteArray &) { return isText(name); });
 }
 
 } // namespace platform

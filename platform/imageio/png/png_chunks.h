@@ -26,6 +26,9 @@ struct PngParts
  */
 QByteArray pngChunksWithTexts(const QByteArray &chunks, const QList<QByteArray> &keywords);
 
+/** Of such chunks those that are texts. */
+QByteArray pngTextsOf(const QByteArray &chunks);
+
 /** Never reads outside @p bytes; damaged chunks are passed over. */
 PngParts findPngParts(const QByteArray &bytes);
 
