@@ -965,6 +965,30 @@ declare module "quorlin/files" {
         /** The new path of a presets database that could hold no preset; empty where it is left. */
         setAsideUnusableDatabase(path: text): string;
     };
+
+    /**
+     * The names of one folder during a run: those on the disk, and those that results of the run were given. Two names that differ only
+     * in case or in the way an accent is written are one name on many disks, so they count as the same. No disk is asked.
+     */
+    export class FolderNames {
+        constructor(fields?: fieldsOf<FolderNames>);
+        /** Those on the disk. */
+        names: texts;
+        /** What the writings of one name have in common. */
+        static keyOf(name: text): string;
+        /** "photo.jpg", 3 gives "photo (3).jpg". A name that would be too long with the number loses the end of its base. */
+        static numbered(name: text, number: whole): string;
+        /** The name on the disk that stands in the way of this one, as it is written there; empty where none does. */
+        onDiskAs(name: text): string;
+        /** Whether a result of this run was given that name. */
+        isGiven(name: text): boolean;
+        /** Neither on the disk nor given. */
+        isFree(name: text): boolean;
+        /** Gives a name to a result, and answers it. */
+        give(name: text): string;
+        /** Gives the first free numbered form of the name, counting from 2, and answers it. */
+        giveNumbered(name: text): string;
+    }
 }
 
 /** What pictures need besides the operations of the services. */

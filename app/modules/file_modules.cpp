@@ -3,6 +3,7 @@
 #include "app/modules/offered_services.h"
 #include "app/modules/program_files.h"
 
+#include "files/services/folder_names.h"
 #include "files/services/move_service.h"
 #include "image/services/picture_service.h"
 #include "text/services/token_service.h"
@@ -12,10 +13,10 @@ namespace script {
 
 namespace {
 
-/** Scripts make them; their texts are never nothing. */
-ServiceEntry tokenTexts()
+/** Scripts make them, with fields; their texts are never nothing. */
+template<typename T> ServiceEntry madeWithFields(const char *module)
 {
-    ServiceEntry entry = serviceEntry<TokenText>("quorlin/tokens", true);
+    ServiceEntry entry = serviceEntry<T>(module, true);
     entry.answersNullTexts = false;
     return entry;
 }
@@ -24,9 +25,12 @@ ServiceEntry tokenTexts()
 
 std::vector<ServiceEntry> fileServices()
 {
-    return {oneObject<ProgramFiles>("quorlin/files", "files"), oneObject<files::MoveService>("quorlin/moves", "moves"),
+    return {oneObject<ProgramFiles>("quorlin/files", "files"),
+            madeWithFields<FolderNames>("quorlin/files"),
+            oneObject<files::MoveService>("quorlin/moves", "moves"),
             oneObject<image::PictureService>("quorlin/pictures", "pictures"),
-            oneObject<text::TokenService>("quorlin/tokens", "tokens"), tokenTexts()};
+            oneObject<text::TokenService>("quorlin/tokens", "tokens"),
+            madeWithFields<TokenText>("quorlin/tokens")};
 }
 
 void addFileModules(ScriptEngine &scripts)

@@ -2,7 +2,8 @@
 // unfinished is then removed. The same runner serves the windows and the command line.
 // Services used: files (info, makeFolder, makeStaging, place, ...), pictures (takeMemoryRefusal), and what the step uses.
 
-import { joinPath, numberedName } from "../lib/names.js";
+import { FolderNames } from "quorlin/files";
+import { joinPath } from "../lib/names.js";
 
 const MOST_NUMBERS = 10000;
 const MOST_OPEN = 64;
@@ -75,7 +76,7 @@ function placeResult(from, item, rule, files) {
         if (rule === "skip") {
             return { status: "Skipped", reason: qsTr("a file of this name is there") };
         }
-        name = numberedName(item.name, number);
+        name = FolderNames.numbered(item.name, number);
     }
     return failed(qsTr("no free name was found"));
 }

@@ -1,7 +1,8 @@
 // The plan of a run: for every picture what will be written and under which name, before anything is written.
 // Services used: files (names, info, identity ...), ask (optional). The step says what it would write; names are settled here.
 
-import { emptyTable, FolderNames, joinPath, splitPath } from "../lib/names.js";
+import { FolderNames } from "quorlin/files";
+import { emptyTable, joinPath, splitPath } from "../lib/names.js";
 
 /** The folder that results of a picture go to; see the output settings of panes. */
 export function targetFolder(photo, destination) {
@@ -35,7 +36,7 @@ function foldersOf(services) {
         }
         const key = keys[folder];
         if (known[key] === undefined) {
-            known[key] = new FolderNames(services.files.names(folder));
+            known[key] = new FolderNames({ names: services.files.names(folder) });
         }
         return known[key];
     };

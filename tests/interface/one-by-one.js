@@ -1,6 +1,7 @@
 // Stands for the part of the move engine that works one by one: files are names of a table, with their contents as values.
 
-import { numberedName, splitPath } from "../../interface/lib/names.js";
+import { FolderNames } from "quorlin/files";
+import { splitPath } from "../../interface/lib/names.js";
 
 export class OneByOne {
     /** @param disk  {path: content}; folders that can be written are in `folders` */
@@ -27,7 +28,7 @@ export class OneByOne {
         const parts = splitPath(to);
         let path = to;
         for (let number = 2; this.disk[path] !== undefined; number += 1) {
-            path = parts.folder + "/" + numberedName(parts.name, number);
+            path = parts.folder + "/" + FolderNames.numbered(parts.name, number);
         }
         return path;
     }

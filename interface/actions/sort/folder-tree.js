@@ -1,7 +1,8 @@
 // The folders that a run will sort into: as they are on the disk, as they will be, and how many files each gets.
 // Services used: files (folders, info), handed in.
 
-import { emptyTable, FolderNames, joinPath, nameKey, splitPath } from "../../lib/names.js";
+import { FolderNames } from "quorlin/files";
+import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
 
 const NONE = Object.freeze([]);
 
@@ -48,7 +49,7 @@ export class FolderBook {
     // The folder at a path that was asked for below a base, or null.
     below(path) {
         const parts = splitPath(path);
-        const known = this.byKey[joinPath(parts.folder, nameKey(parts.name))];
+        const known = this.byKey[joinPath(parts.folder, FolderNames.keyOf(parts.name))];
         return known !== undefined && known.path === path ? known : null;
     }
 
@@ -57,34 +58,34 @@ export class FolderBook {
         return this.bases[path] || this.below(path);
     }
 
-    // The folder of that name as it is written on the disk; null where there is none.
+    // The folder of that name as it is written on the disk; "" where there is none.
     folderIn(node, wanted) {
         if (!node.exists) {
-            return null;
+            return "";
         }
         if (this.foldersOf[node.path] === undefined) {
-            this.foldersOf[node.path] = new FolderNames(this.files.folders(node.path));
+            this.foldersOf[node.path] = new FolderNames({ names: this.files.folders(node.path) });
         }
         return this.foldersOf[node.path].onDiskAs(wanted);
     }
 
     make(node, wanted) {
         const there = this.folderIn(node, wanted);
-        const path = joinPath(node.path, there === null ? wanted : there);
+        const path = joinPath(node.path, there === "" ? wanted : there);
         const known = this.bases[path];
         if (known !== undefined) { // a base that lies below another one
             known.parent = node;
             known.name = splitPath(path).name;
             return known;
         }
-        const made = nodeAt(path, splitPath(path).name, node, there !== null);
-        const isFile = node.exists && there === null && this.files.info(path).exists;
+        const made = nodeAt(path, splitPath(path).name, node, there !== "");
+        const isFile = node.exists && there === "" && this.files.info(path).exists;
         made.inTheWay = node.inTheWay || (isFile ? path : "");
         return made;
     }
 
     child(node, wanted) {
-        const key = joinPath(node.path, nameKey(wanted));
+        const key = joinPath(node.path, FolderNames.keyOf(wanted));
         if (this.byKey[key] === undefined) {
             const made = this.make(node, wanted);
             this.byKey[key] = made;
@@ -167,5 +168,5 @@ export function endsWithFolders(folder, names) {
     const parts = folder.split("/");
     const end = parts.slice(Math.max(0, parts.length - names.length));
     return names.length > 0 && parts.length > names.length
-        && end.every((name, i) => nameKey(name) === nameKey(names[i]));
+        && end.every((name, i) => FolderNames.keyOf(name) === FolderNames.keyOf(names[i]));
 }
