@@ -64,7 +64,9 @@ Result<QByteArray> encodedAt(const Bitmap &bitmap, OutputType type, std::optiona
                              platform::EncodeOptions options)
 {
     if (type == OutputType::Pdf)
-        return platform::pdfPageOf(bitmap);
+        return platform::pdfPageOf(bitmap).and_then([&](const QByteArray &page) {
+            return options.metadata.writtenInto(page, platform::Carried::Everything, bitmap.size());
+        });
     options.quality = quality;
     return platform::encodeImage(bitmap, *formatFor(type), options);
 }
@@ -100,32 +102,56 @@ Result<QByteArray> encodedWithin(const Bitmap &bitmap, const RecipeOutput &outpu
     return best;
 }
 
+platform::MetadataScope scopeOf(KeptMetadata kept)
+{
+    switch (kept) {
+    case KeptMetadata::Keep:
+        return platform::MetadataScope::All;
+    case KeptMetadata::Copyright:
+        return platform::MetadataScope::Copyright;
+    case KeptMetadata::None:
+        break;
+    }
+    return platform::MetadataScope::None;
+}
+
 Result<platform::EncodeOptions> optionsFor(const ImageSource &source, const RecipeOutput &output)
 {
     platform::EncodeOptions options;
     options.resolution = platform::WriteResolution::Yes;
+    options.dpi = output.dpi;
     options.isLossless = output.isLossless;
     options.matte = output.matte;
-    if (output.metadata == KeptMetadata::None)
-        return options;
+    options.carried = platform::Carried::Everything;
     return source.metadata().map([&](const platform::Metadata &metadata) {
-        options.metadata = metadata.withOrientation(1);
+        const auto place = output.keepsLocation ? platform::PlaceTaken::Keep : platform::PlaceTaken::Drop;
+        options.metadata = metadata.reduced(scopeOf(output.metadata), place).withOrientation(1);
         return options;
     });
+}
+
+/** The page of a JPEG whose scan goes in as it is, or turned without encoding. */
+Result<QByteArray> pageOfSamePixels(const ImageSource &source, const RecipeOutput &output, const OutputPlan &plan)
+{
+    const bool isUpright = plan.turn == RightTurn::uprightFrom(source.orientation()); // which the page sees to itself
+    const Result<ImageSource> turned =
+        isUpright ? Result<ImageSource>(source) : turnedFile(source, plan.turn).and_then([](const QByteArray &file) {
+            return ImageSource::fromData(file);
+        });
+    return turned.and_then([&](const ImageSource &lying) { return platform::pdfPageOf(lying, output.dpi); })
+        .and_then([&](const QByteArray &page) {
+            return optionsFor(source, output).and_then([&](const platform::EncodeOptions &options) {
+                return options.metadata.writtenInto(page, platform::Carried::Everything, plan.size);
+            });
+        });
 }
 
 } // namespace
 
 Result<QByteArray> fileOfSamePixels(const ImageSource &source, const RecipeOutput &output, const OutputPlan &plan)
 {
-    if (plan.type == OutputType::Pdf) {
-        if (plan.turn == RightTurn::uprightFrom(source.orientation()))
-            return platform::pdfPageOf(source);
-        return turnedFile(source, plan.turn).and_then([](const QByteArray &file) {
-            return ImageSource::fromData(file).and_then(
-                [](const ImageSource &turned) { return platform::pdfPageOf(turned); });
-        });
-    }
+    if (plan.type == OutputType::Pdf)
+        return pageOfSamePixels(source, output, plan);
     if (changesMetadata(output))
         return impossible();
     if (!plan.turn.isNothing())

@@ -150,12 +150,14 @@ Result<QByteArray> pdfPageOf(const Bitmap &bitmap)
     }
 }
 
-Result<QByteArray> pdfPageOf(const ImageSource &source)
+Result<QByteArray> pdfPageOf(const ImageSource &source, std::optional<double> dpi)
 {
     const ImageSource::File *file = source.file();
     if (!file)
         return failure(ErrorCode::InvalidValue,
                        QCoreApplication::translate("platform", "There is no picture to write"));
+    constexpr double pointsPerInch = 72;
+    const QSizeF points = dpi ? QSizeF(source.uprightSize()) * pointsPerInch / *dpi : source.pointSize();
     try {
         initVips();
         if (file->content == Content::Jpeg) {
@@ -164,14 +166,13 @@ Result<QByteArray> pdfPageOf(const ImageSource &source)
             const Result<Bitmap> sound = source.decodeAtLeast((source.uprightSize() / smallest).expandedTo({1, 1}));
             if (!sound)
                 return tl::unexpected<Error>(sound.error());
-            const QByteArray page =
-                pageOfJpeg(uprightJpeg(source, file->bytes), sound->iccProfile(), source.pointSize());
+            const QByteArray page = pageOfJpeg(uprightJpeg(source, file->bytes), sound->iccProfile(), points);
             if (!page.isEmpty())
                 return page;
         }
         return source.decode().and_then([&](const Bitmap &bitmap) {
             return memoryIsLeftFor(memoryNeedOfPage(bitmap.pixels().image), file->name()).map([&] {
-                return pageOfPixels(bitmap, source.pointSize());
+                return pageOfPixels(bitmap, points);
             });
         });
     } catch (const vips::VError &error) {

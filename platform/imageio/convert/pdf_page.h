@@ -11,9 +11,11 @@ namespace platform {
  * that can be done without loss. All other pictures are stored without loss, 8 or 16 bits a component, grey, RGB or CMYK,
  * with their transparency. The colour profile goes along, metadata does not.
  *
+ * @param dpi  dots per inch, above 0, that give the page its size in place of the picture's own
+ *
  * Fails as ImageSource::decode() does, and with WriteFailed where the page cannot be made.
  */
-Result<QByteArray> pdfPageOf(const ImageSource &source);
+Result<QByteArray> pdfPageOf(const ImageSource &source, std::optional<double> dpi = {});
 
 /** The same of pixels, without loss; the page has the size of the bitmap in points. */
 Result<QByteArray> pdfPageOf(const Bitmap &bitmap);

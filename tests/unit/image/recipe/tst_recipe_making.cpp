@@ -28,6 +28,7 @@ private Q_SLOTS:
     void laysAWatermarkWhereItBelongs();
     void paddingAndFramesHaveTheirColour();
     void turnsFillTheNewCornersAlone();
+    void carriesAsMuchMetadataAsIsAskedFor();
 };
 
 namespace {
@@ -380,6 +381,33 @@ void TestRecipeMaking::turnsFillTheNewCornersAlone()
         QCOMPARE(turned.pixelColor(1, 1), color);
         QCOMPARE(turned.pixelColor(middle, middle).alpha(), 0);
         QCOMPARE(turned.pixelColor(middle, 12), QColor(0, 200, 0));
+    }
+}
+
+void TestRecipeMaking::carriesAsMuchMetadataAsIsAskedFor()
+{
+    const QString path = QString::fromUtf8(QUORLIN_TEST_DATA) + QStringLiteral("/../pictures/metadata/every-group.jpg");
+    ResizeOperation resize;
+    resize.number = 20;
+    for (const OutputType type : {OutputType::Jpeg, OutputType::Png, OutputType::Tiff, OutputType::Jpeg2000,
+                                  OutputType::Webp, OutputType::Avif, OutputType::JpegXl}) {
+        Recipe recipe = recipeOf({resize}, type);
+        const auto groups = [&](KeptMetadata kept, bool keepsLocation) {
+            recipe.outputs.first().metadata = kept;
+            recipe.outputs.first().keepsLocation = keepsLocation;
+            const QByteArray file = madeFrom(recipe, path).first()->bytes;
+            return ImageSource::fromData(file)->properties().value();
+        };
+        const QByteArray name = wordOf(type).toLatin1();
+        const QVariantMap all = groups(KeptMetadata::Keep, true);
+        QVERIFY2(all.contains(QStringLiteral("{GPS}")) && all.contains(QStringLiteral("{Exif}")), name);
+        QVERIFY2(!groups(KeptMetadata::Keep, false).contains(QStringLiteral("{GPS}")), name);
+        const QVariantMap few = groups(KeptMetadata::Copyright, true);
+        QVERIFY2(!few.contains(QStringLiteral("{GPS}")) && few.size() < all.size(), name);
+        QVERIFY2(few.value(QStringLiteral("{TIFF}")).toMap().contains(QStringLiteral("Copyright")), name);
+        const QVariantMap none = groups(KeptMetadata::None, true);
+        QVERIFY2(!none.contains(QStringLiteral("{GPS}")) && !none.contains(QStringLiteral("{IPTC}")), name);
+        QVERIFY2(!none.value(QStringLiteral("{TIFF}")).toMap().contains(QStringLiteral("Copyright")), name);
     }
 }
 
