@@ -5,6 +5,7 @@
 #include "platform/file/atomic_file.h"
 #include "platform/graphics/compose.h"
 #include "platform/imageio/convert/lossless_turn.h"
+#include "platform/imageio/convert/other_metadata.h"
 #include "platform/imageio/convert/pdf_page.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/exif/orientation_mark.h"
@@ -146,21 +147,33 @@ Result<QByteArray> pageOfSamePixels(const ImageSource &source, const RecipeOutpu
         });
 }
 
+/** The file as it is, or turned without encoding. */
+Result<QByteArray> lyingFile(const ImageSource &source, const OutputPlan &plan)
+{
+    if (!plan.turn.isNothing())
+        return turnedFile(source, plan.turn);
+    const Result<QByteArray> file = platform::readFile(source.path());
+    if (source.orientation() == 1 || plan.keepsOrientation)
+        return file;
+    return file.and_then([](const QByteArray &bytes) { return platform::markedUpright(bytes); });
+}
+
 } // namespace
 
 Result<QByteArray> fileOfSamePixels(const ImageSource &source, const RecipeOutput &output, const OutputPlan &plan)
 {
     if (plan.type == OutputType::Pdf)
         return pageOfSamePixels(source, output, plan);
-    if (changesMetadata(output))
-        return impossible();
-    if (!plan.turn.isNothing())
-        return turnedFile(source, plan.turn);
-    if (source.orientation() != 1 && !plan.keepsOrientation)
-        return platform::readFile(source.path()).and_then([](const QByteArray &file) {
-            return platform::markedUpright(file);
+    const Result<QByteArray> file = lyingFile(source, plan);
+    if (!file || !changesMetadata(output))
+        return file;
+    return ImageSource::fromData(*file).and_then([&](const ImageSource &lying) {
+        return optionsFor(source, output).and_then([&](const platform::EncodeOptions &options) -> Result<QByteArray> {
+            const platform::Metadata metadata = options.metadata.withOrientation(lying.orientation());
+            const auto changed = platform::withOtherMetadata(lying, metadata, output.dpi);
+            return changed ? Result<QByteArray>(*changed) : Result<QByteArray>(impossible());
         });
-    return platform::readFile(source.path());
+    });
 }
 
 Result<QByteArray> encodedFile(const Bitmap &bitmap, const ImageSource &source, const RecipeOutput &output,

@@ -1,6 +1,7 @@
 #include "image/recipe/output_kind.h"
 #include "image/recipe/sentence.h"
 
+#include "platform/imageio/convert/other_metadata.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/formats/formats.h"
 
@@ -120,17 +121,69 @@ bool changesMetadata(const RecipeOutput &output)
     return output.metadata != KeptMetadata::Keep || !output.keepsLocation || output.dpi;
 }
 
-bool canRewriteMetadata(OutputType)
+bool canRewriteMetadata(OutputType type, std::optional<double> dpi)
 {
+    switch (type) {
+    case OutputType::Jpeg:
+    case OutputType::Png:
+    case OutputType::Webp:
+    case OutputType::Gif:
+    case OutputType::JpegXl:
+        return true;
+    case OutputType::Jpeg2000: // a box of its own may state its resolution
+        return !dpi;
+    case OutputType::Original:
+    case OutputType::Tiff:
+    case OutputType::Bmp:
+    case OutputType::Pdf:
+    case OutputType::Avif:
+        break;
+    }
     return false;
+}
+
+/** Parts of the file that are true of it alone. */
+QStringList lossesOfParts(const platform::ImageSource &source)
+{
+    using platform::PartBeside;
+    const platform::PartsBeside parts = platform::partsBesideOf(source);
+    QStringList losses;
+    const auto add = [&](PartBeside part, const char *english) {
+        if (parts.testFlag(part))
+            losses.append(sentence(english));
+    };
+    add(PartBeside::FurtherPictures, "Further pictures behind the first one are left out");
+    add(PartBeside::GainMap, "The gain map is left out");
+    add(PartBeside::Motion, "The motion picture is left out");
+    add(PartBeside::Credentials, "Signed content credentials are left out, since no changed file agrees with them");
+    if (losses.isEmpty())
+        add(PartBeside::BehindTheEnd, "Data behind the end of the picture is left out");
+    return losses;
+}
+
+/** What the type has no place for, of what is to be kept. */
+QStringList lossesOfMetadata(const OutputPlan &plan, const RecipeOutput &output, const platform::ImageSource &source)
+{
+    const bool isHeldInPart = plan.type == OutputType::Gif || plan.type == OutputType::Pdf;
+    if (output.metadata == KeptMetadata::None || ownTypeOf(source) == plan.type ||
+        (plan.type != OutputType::Bmp && !isHeldInPart))
+        return {};
+    const auto metadata = source.metadata();
+    if (!metadata || metadata->isEmpty())
+        return {};
+    const QString name = kindOf(plan.type).name;
+    return {isHeldInPart ? sentence("%1 holds metadata as XMP alone, without maker notes").arg(name)
+                         : sentence("%1 holds no metadata").arg(name)};
 }
 
 QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,
                      const platform::ImageSource &source)
 {
-    QStringList losses;
+    QStringList losses = lossesOfMetadata(plan, output, source);
+    if (!plan.isLossless || changesMetadata(output))
+        losses += lossesOfParts(source);
     if (!plan.isLossless) {
-        losses = lossesOfPixels(plan, output, end, source.pixelFacts().value_or(platform::PixelFacts()));
+        losses += lossesOfPixels(plan, output, end, source.pixelFacts().value_or(platform::PixelFacts()));
         if (source.imageCount() > 1)
             losses.append(sentence("%1 further pictures of the file are left out").arg(source.imageCount() - 1));
     }

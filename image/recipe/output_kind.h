@@ -22,8 +22,8 @@ bool holdsAlpha(OutputType type);
 /** True where the result says less, or another resolution, than the source. */
 bool changesMetadata(const RecipeOutput &output);
 
-/** True where that can be done to a file of the type without encoding its pixels. */
-bool canRewriteMetadata(OutputType type);
+/** True where that can be done to a file of the type without encoding its pixels; @p dpi where its resolution is to change. */
+bool canRewriteMetadata(OutputType type, std::optional<double> dpi);
 
 /** What of the picture the output will not have, in sentences. @p end is the picture behind all operations. */
 QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,

@@ -64,7 +64,7 @@ void chooseRoad(OutputPlan &plan, const Way &way, const RecipeOutput &output, co
         return;
     if (!canTurn && isJpegPage)
         return;
-    if (changesMetadata(output) && !canRewriteMetadata(*own) && !isJpegPage)
+    if (changesMetadata(output) && !canRewriteMetadata(*own, output.dpi) && !isJpegPage)
         return;
     plan.isLossless = true;
     plan.turn = canTurn ? stored : RightTurn();
