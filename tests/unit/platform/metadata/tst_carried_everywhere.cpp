@@ -15,6 +15,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -152,9 +153,25 @@ QStringList camerasThere()
     return paths;
 }
 
+/** The bytes of the maker note as they stand in the file. What exiftool extracts it has put together, with places of that file. */
 QByteArray makerNote(const QString &path)
 {
-    return exiftool({QStringLiteral("-q"), QStringLiteral("-b"), QStringLiteral("-MakerNotes"), path});
+    static const QRegularExpression place(QStringLiteral("Tag 0x927c \\((\\d+) bytes[^\\n]*\\n[ |]*([0-9a-f]+): "));
+    const auto found = place.match(QString::fromLatin1(exiftool({QStringLiteral("-v3"), path})));
+    return contentOf(path).mid(found.captured(2).toLongLong(nullptr, 16), found.captured(1).toLongLong());
+}
+
+/** What a reader finds in the maker note, without what it works out from the note's place in the file. */
+QJsonObject makerTags(const QString &path)
+{
+    const QByteArray told = exiftool({QStringLiteral("-q"), QStringLiteral("-j"), QStringLiteral("-n"),
+                                      QStringLiteral("-G1"), QStringLiteral("-MakerNotes:all"), path});
+    QJsonObject tags = QJsonDocument::fromJson(told).array().first().toObject();
+    tags.remove(QStringLiteral("SourceFile"));
+    for (const QString &tag : tags.keys())
+        if (tag.endsWith(QLatin1String("Start")) || tag.endsWith(QLatin1String("Offset")))
+            tags.remove(tag);
+    return tags;
 }
 
 QString group(const QString &tag)
@@ -432,13 +449,14 @@ void CarriedEverywhere::keepsMakerNotesWhole()
         if (checked >= tests::repetitions(3, 60))
             break;
         const QByteArray file = contentOf(path);
-        const QByteArray before = makerNote(path);
-        if (before.isEmpty())
+        const QByteArray note = makerNote(path);
+        if (note.isEmpty())
             continue;
         const QByteArray made = written(*kind, Metadata::fromFileBytes(file));
+        QVERIFY2(made.contains(note), qPrintable(path));
         const QString result = m_folder.filePath(QStringLiteral("maker.") + QString::fromLatin1(kind->extension));
         QVERIFY(replaceFile(result, made));
-        QVERIFY2(makerNote(result) == before, qPrintable(path));
+        QCOMPARE(makerTags(result), makerTags(path));
         ++checked;
     }
     if (checked == 0)
