@@ -33,6 +33,13 @@ struct EveryCall
         return error;
     }
 
+    /** For a process that was begun in the middle of a call, as by fork(). */
+    static void beginInAFork(const std::function<int(std::string_view call, const char *path)> &next)
+    {
+        before = next;
+        s_isInside = false;
+    }
+
 private:
     static inline bool s_isInside = false;
 };

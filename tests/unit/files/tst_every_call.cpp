@@ -195,6 +195,12 @@ int refusalOf(std::string_view call, const char *path)
     return (call == "mkdir" || call == "open") && QByteArray(path).contains("/.Trash-") ? EACCES : 0;
 }
 
+/** A disk on which files cannot be locked, such as some of a network. */
+int refuseLocks(std::string_view call, const char *)
+{
+    return call == "flock" ? ENOLCK : 0;
+}
+
 int stride()
 {
     return tests::isSlowRun() ? 1 : 5;
@@ -239,6 +245,9 @@ private Q_SLOTS:
     void losesNothingByAnotherProgram();
     void replacesNothingWhereADiskPromisesNothing_data();
     void replacesNothingWhereADiskPromisesNothing();
+    void leavesALivingRunAloneWhereThereAreNoLocks();
+    void losesNothingByTwoRecoveriesWithoutLocks_data();
+    void losesNothingByTwoRecoveriesWithoutLocks();
 
 private:
     void checkAllIsThere(const Place &place, const QByteArray &told) const;
@@ -443,6 +452,100 @@ void TestEveryCall::replacesNothingWhereADiskPromisesNothing()
         }
         QVERIFY2(wasDone, operation);
     }
+}
+
+/** One program is in the middle of a run while another one starts. */
+void TestEveryCall::leavesALivingRunAloneWhereThereAreNoLocks()
+{
+    const Place place;
+    if (!place.isOnTwoDisks())
+        QSKIP("no second disk");
+    int ready[2];
+    int go[2];
+    QVERIFY(::pipe(ready) == 0 && ::pipe(go) == 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        EveryCall::before = refuseLocks;
+        platform::DiskFileSystem disk;
+        DiskJournalShelf shelf(place.here("data/quorlin/moves"));
+        const auto run = MoveRun::begin(disk, shelf,
+                                        formOf({{Operation::Move, place.here("in/a.jpg"), place.here("in/1.jpg")},
+                                                {Operation::Move, place.other("d.jpg"), place.here("in/2.jpg")}}));
+        char byte = run && (*run)->next() ? 'y' : 'n';
+        bool isWell = byte == 'y' && ::syscall(SYS_write, ready[1], &byte, 1) == 1 && ::read(go[0], &byte, 1) == 1;
+        isWell = isWell && (*run)->next() && !(*run)->next() && (*run)->end();
+        ::_exit(isWell ? 0 : 1);
+    }
+    char byte = 0;
+    QCOMPARE(::read(ready[0], &byte, 1), ssize_t(1));
+    EveryCall::before = refuseLocks;
+    QCOMPARE(recover(place), QStringList());
+    QVERIFY(place.shown().count(place.here("in/1.jpg")) == 1 && place.shown().count(place.other("d.jpg")) == 1);
+    QCOMPARE(::write(go[1], &byte, 1), ssize_t(1));
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    QVERIFY(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    EveryCall::before = refuseLocks;
+    QCOMPARE(recover(place), QStringList());
+    QVERIFY(place.shown().count(place.here("in/2.jpg")) == 1);
+    checkAllIsThere(place, "after both");
+    for (const int end : {ready[0], ready[1], go[0], go[1]})
+        ::close(end);
+}
+
+void TestEveryCall::losesNothingByTwoRecoveriesWithoutLocks_data()
+{
+    losesNothingByAKill_data();
+}
+
+/** Two programs start after a kill; at each call of the first, all that the second does comes in between. */
+void TestEveryCall::losesNothingByTwoRecoveriesWithoutLocks()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(Disk, disk);
+    const Work &work = works().at(name);
+    int tries = 0;
+    for (int killed = 3; killed < 200; killed += tests::repetitions(23, 4)) {
+        bool wasBegun = true;
+        bool hasMore = true;
+        for (int calls = 0; hasMore && wasBegun; calls += stride(), ++tries) {
+            const Place place;
+            if (!place.isOnTwoDisks())
+                QSKIP("no second disk");
+            work.before(place);
+            wasBegun = killAt(
+                killed, [&] { work.act(place); }, disk);
+            const auto refusal = [disk](std::string_view call, const char *path) {
+                const int refused = refuseLocks(call, path);
+                return refused ? refused : refusalOf(disk, call);
+            };
+            EveryCall::count = 0;
+            EveryCall::before = [&](std::string_view call, const char *path) {
+                if (EveryCall::count != calls + 1)
+                    return refusal(call, path);
+                const pid_t child = ::fork();
+                if (child == 0) {
+                    EveryCall::beginInAFork(refusal);
+                    recover(place);
+                    ::_exit(0);
+                }
+                ::waitpid(child, nullptr, 0);
+                return refusal(call, path);
+            };
+            recover(place);
+            hasMore = EveryCall::count > calls;
+            EveryCall::before = refusal;
+            recover(place);
+            checkAllIsThere(place, name + " killed at " + QByteArray::number(killed) + ", the other one at " +
+                                       QByteArray::number(calls));
+            if (QTest::currentTestFailed())
+                return;
+        }
+        if (!wasBegun)
+            break;
+    }
+    qInfo("%d tries", tries);
+    QVERIFY(tries > 0);
 }
 
 QUORLIN_TEST(TestEveryCall)
