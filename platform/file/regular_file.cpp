@@ -1,5 +1,6 @@
 #include "platform/file/regular_file.h"
 
+#include "platform/file/lent_file.h"
 #include "platform/foundation/paths.h"
 
 #include <QCoreApplication>
@@ -42,8 +43,10 @@ qint64 NamedFile::readData(char *data, qint64 count)
 
 QString readProblemOf(const QIODevice &device)
 {
-    const auto *file = dynamic_cast<const NamedFile *>(&device);
-    return file ? file->readProblem() : QString();
+    if (const auto *file = dynamic_cast<const NamedFile *>(&device))
+        return file->readProblem();
+    const auto *lent = dynamic_cast<const LentReader *>(&device);
+    return lent ? lent->readProblem() : QString();
 }
 
 Result<void> openToRead(QFile &file, QIODevice::OpenMode more)

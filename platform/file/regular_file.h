@@ -26,7 +26,7 @@ private:
     QString m_readProblem;
 };
 
-/** The same of any device; empty for those that are no NamedFile. */
+/** The same of any device; empty for those that are neither a NamedFile nor a LentReader. */
 QString readProblemOf(const QIODevice &device);
 
 /**

@@ -1,9 +1,10 @@
 #include "platform/imageio/bytes/picture_bytes.h"
 
+#include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
 
 #include <QBuffer>
-#include <QFile>
+#include <QFileInfo>
 
 #include <vips/vips8>
 
@@ -11,20 +12,28 @@ namespace platform {
 
 std::unique_ptr<QIODevice> PictureBytes::device() const
 {
-    std::unique_ptr<QIODevice> result;
-    if (path.isEmpty()) {
-        auto buffer = std::make_unique<QBuffer>();
-        buffer->setData(bytes);
-        result = std::move(buffer);
-    } else {
-        auto file = std::make_unique<NamedFile>(path);
-        if (!openToRead(*file))
-            return nullptr;
-        return file;
-    }
-    if (!result->open(QIODevice::ReadOnly))
-        result.reset();
-    return result;
+    if (lent)
+        return std::make_unique<LentReader>(lent);
+    if (!path.isEmpty())
+        return openedFile();
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(bytes);
+    return buffer->open(QIODevice::ReadOnly) ? std::move(buffer) : nullptr;
+}
+
+std::unique_ptr<QFile> PictureBytes::openedFile() const
+{
+    auto file = std::make_unique<NamedFile>(path);
+    const bool isOpen =
+        lent ? file->open(lent->descriptor(), QIODevice::ReadOnly) : !path.isEmpty() && openToRead(*file).has_value();
+    return isOpen ? std::move(file) : nullptr;
+}
+
+qint64 PictureBytes::fileBytes() const
+{
+    if (lent)
+        return lent->size();
+    return path.isEmpty() ? 0 : QFileInfo(path).size();
 }
 
 QByteArray PictureBytes::all() const

@@ -3,6 +3,7 @@
 // Private to the platform.
 
 #include <QByteArray>
+#include <QFile>
 #include <QIODevice>
 #include <QString>
 
@@ -10,15 +11,24 @@
 
 namespace platform {
 
-/** Where a picture's bytes come from: a file, or memory when the path is empty. */
+class LentFile;
+
+/** Where a picture's bytes come from: a file that is there under its path, one that was lent, or memory. */
 struct PictureBytes
 {
-    QString path;
+    QString path; ///< of a file that was lent, what messages call it
     QByteArray bytes;
+    std::shared_ptr<const LentFile> lent = {};
+
+    bool isInMemory() const { return path.isEmpty() && !lent; }
+    /** Of the file; 0 for bytes in memory. */
+    qint64 fileBytes() const;
 
     /** A device over the bytes, open for reading; null if the file cannot be opened. */
     std::unique_ptr<QIODevice> device() const;
-    /** The same; throws vips::VError where device() is null. */
+    /** The file, open to be mapped; null where there is none. */
+    std::unique_ptr<QFile> openedFile() const;
+    /** The same as device(); throws vips::VError where that is null. */
     std::unique_ptr<QIODevice> openedDevice() const;
     /** All of them. Throws vips::VError where the file cannot be read. */
     QByteArray all() const;

@@ -1,10 +1,7 @@
 #include "platform/imageio/facts/metadata_of_file.h"
 
 #include "platform/file/mapped_file.h"
-#include "platform/file/regular_file.h"
 #include "platform/imageio/load/loaders.h"
-
-#include <QFile>
 
 namespace platform {
 namespace {
@@ -41,15 +38,14 @@ Metadata fromDecoder(const PictureBytes &bytes, Content content)
     return Metadata::fromBlocks(blockOf(image, VIPS_META_EXIF_NAME), xmpOf(image), blockOf(image, VIPS_META_IPTC_NAME));
 }
 
-Metadata fromLargeFile(const QString &path)
+Metadata fromLargeFile(const PictureBytes &bytes)
 {
-    QFile file(path);
-    const auto opened = openToRead(file);
-    if (!opened)
-        throw vips::VError(opened.error().message.toStdString());
-    const MappedFile mapped(file);
+    const std::unique_ptr<QFile> file = bytes.openedFile();
+    if (!file)
+        throw vips::VError("it cannot be opened");
+    const MappedFile mapped(*file);
     if (!mapped.isThere())
-        throw vips::VError(file.errorString().toStdString());
+        throw vips::VError(file->errorString().toStdString());
     Metadata metadata = Metadata::fromFileBytes(mapped.bytes());
     if (mapped.isSpoilt())
         throw vips::VError("some of it cannot be read");
@@ -92,9 +88,9 @@ Metadata metadataOf(const PictureBytes &bytes, Content content)
         return inBytes(*device, jpegHead(*device));
     if (content == Content::JpegXl) // its pixels say how they lie, whatever EXIF says
         return inBytes(*device, device->readAll()).withOrientation(1);
-    if (device->size() <= mostReadAtOnce || bytes.path.isEmpty())
+    if (device->size() <= mostReadAtOnce || bytes.isInMemory())
         return inBytes(*device, device->readAll());
-    return fromLargeFile(bytes.path);
+    return fromLargeFile(bytes);
 }
 
 } // namespace platform

@@ -51,16 +51,16 @@ tl::unexpected<Error> cannotBeRead()
 Result<QByteArray> rawPreview(const PictureBytes &file)
 {
     startMetadataLibrary();
-    if (file.path.isEmpty())
+    if (file.isInMemory())
         return previewIn(file.bytes);
-    NamedFile opened(file.path);
-    if (const auto isOpen = openToRead(opened); !isOpen)
-        return tl::unexpected(isOpen.error());
-    const MappedFile mapped(opened);
+    const std::unique_ptr<QFile> opened = file.openedFile();
+    if (!opened)
+        return cannotBeRead();
+    const MappedFile mapped(*opened);
     // Where a file system cannot map, all of it is read.
-    const QByteArray bytes = mapped.isThere() ? mapped.bytes() : opened.readAll();
+    const QByteArray bytes = mapped.isThere() ? mapped.bytes() : opened->readAll();
     QByteArray preview = previewIn(bytes);
-    if (mapped.isSpoilt() || !opened.readProblem().isEmpty())
+    if (mapped.isSpoilt() || !readProblemOf(*opened).isEmpty())
         return cannotBeRead();
     return preview;
 }

@@ -24,6 +24,8 @@ using vips::VSource;
 
 VSource sourceOf(const PictureBytes &source)
 {
+    if (source.lent)
+        return sourceOver(source.openedDevice());
     if (!source.path.isEmpty()) {
         QFile file(source.path); // by its descriptor, so that what is read is what was asked
         if (const auto opened = openToRead(file); !opened)
@@ -36,7 +38,7 @@ VSource sourceOf(const PictureBytes &source)
 /** Of a container whose library ends the program where a read fails in the middle of a number: it gets bytes that are there. */
 VSource wholeSourceOf(const PictureBytes &source)
 {
-    if (source.path.isEmpty())
+    if (source.isInMemory())
         return sourceOf(source);
     const QByteArray bytes = source.all();
     VipsBlob *blob = vips_blob_copy(bytes.constData(), size_t(bytes.size()));

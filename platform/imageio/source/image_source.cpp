@@ -1,5 +1,7 @@
 #include "platform/imageio/source/image_source.h"
 
+#include "platform/file/atomic_file.h"
+#include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/facts/metadata_of_file.h"
@@ -243,6 +245,14 @@ Result<ImageSource> ImageSource::fromData(const QByteArray &bytes)
     return opened({{}, bytes}).map([](std::shared_ptr<const File> file) { return ImageSource(std::move(file)); });
 }
 
+Result<ImageSource> ImageSource::fromLent(std::shared_ptr<const LentFile> file)
+{
+    const QString name = file->name();
+    return opened({name, {}, std::move(file)}).map([](std::shared_ptr<const File> known) {
+        return ImageSource(std::move(known));
+    });
+}
+
 bool ImageSource::canOpen(const QString &path)
 {
     if (const std::unique_ptr<QIODevice> device = PictureBytes{path, {}}.device())
@@ -254,6 +264,27 @@ bool ImageSource::canOpen(const QString &path)
 QString ImageSource::path() const
 {
     return m_file ? m_file->path() : QString();
+}
+
+Result<QByteArray> ImageSource::fileContent() const
+{
+    if (!m_file)
+        return QByteArray();
+    const PictureBytes &file = m_file->isRaw() ? m_file->raw : m_file->bytes;
+    if (!file.lent && !file.path.isEmpty())
+        return readFile(file.path);
+    try {
+        return file.all();
+    } catch (const vips::VError &error) {
+        return unreadable(m_file->name(), takeVipsError(error));
+    }
+}
+
+qint64 ImageSource::fileBytes() const
+{
+    const PictureBytes file = !m_file ? PictureBytes() : m_file->isRaw() ? m_file->raw : m_file->bytes;
+    const bool isThere = file.lent || (!file.path.isEmpty() && QFile::exists(file.path));
+    return isThere ? file.fileBytes() : -1;
 }
 
 QString ImageSource::typeIdentifier() const

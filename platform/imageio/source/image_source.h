@@ -12,6 +12,8 @@
 
 namespace platform {
 
+class LentFile;
+
 enum class Orientation { AsStored, Upright };
 
 /** What a decoder is asked for. */
@@ -49,6 +51,8 @@ public:
     /** Fails with NotFound, Unreadable, Unsupported or TooLarge. */
     static Result<ImageSource> open(const QString &path);
     static Result<ImageSource> fromData(const QByteArray &bytes);
+    /** The same of a file that is open already, which is held open; its name counts as the path. */
+    static Result<ImageSource> fromLent(std::shared_ptr<const LentFile> file);
 
     /** True where open() gives a picture; cheaper for a JPEG, of which it reads little more than its header. */
     static bool canOpen(const QString &path);
@@ -57,6 +61,10 @@ public:
     /** True for two values that share the same opened file. */
     bool operator==(const ImageSource &other) const = default;
     QString path() const;
+    /** All bytes of the file. Fails with Unreadable or NotFound. */
+    Result<QByteArray> fileContent() const;
+    /** How many they are; -1 for a file that is not there any more, and for data. */
+    qint64 fileBytes() const;
     /** What the bytes are: "public.jpeg", "public.heic" ... */
     QString typeIdentifier() const;
     /** Images, pages or frames in the file; at least 1. */

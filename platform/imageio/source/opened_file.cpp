@@ -4,8 +4,6 @@
 #include "platform/imageio/facts/metadata_of_file.h"
 #include "platform/imageio/formats/memory_need.h"
 
-#include <QFileInfo>
-
 namespace platform {
 
 Metadata ImageSource::File::metadata() const
@@ -17,7 +15,7 @@ Result<void> memoryIsLeftToDecode(const ImageSource::File &file, const vips::VIm
 {
     DecodingFacts facts;
     facts.content = file.content;
-    facts.fileBytes = file.bytes.path.isEmpty() ? 0 : QFileInfo(file.bytes.path).size();
+    facts.fileBytes = file.bytes.fileBytes();
     facts.decoded = QSize(image.width(), image.height());
     facts.bands = image.bands();
     facts.componentBytes = bytesPerComponent(image);

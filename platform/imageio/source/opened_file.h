@@ -21,7 +21,7 @@ struct ImageSource::File
 
     /** How messages name the file. */
     QString name() const { return path().isEmpty() ? QStringLiteral("the data") : path(); }
-    bool isRaw() const { return !raw.path.isEmpty() || !raw.bytes.isEmpty(); }
+    bool isRaw() const { return !raw.isInMemory() || !raw.bytes.isEmpty(); }
     QString path() const { return isRaw() ? raw.path : bytes.path; }
     /**
      * What the file says of the picture; of a raw file, what the camera wrote there and not into the preview. Throws vips::VError

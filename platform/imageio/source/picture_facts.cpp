@@ -1,5 +1,6 @@
 #include "platform/imageio/source/picture_facts.h"
 
+#include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/imageio/exif/exif_tags.h"
 #include "platform/imageio/formats/content.h"
@@ -14,6 +15,7 @@
 #include <QRegularExpression>
 #include <QtEndian>
 
+#include <functional>
 #include <optional>
 
 namespace platform {
@@ -212,16 +214,17 @@ PictureFacts factsOfRawFile(QIODevice &file)
     return facts.camera.isEmpty() ? PictureFacts() : facts;
 }
 
-PictureFacts factsOf(QFile &file)
+using Open = std::function<Result<ImageSource>()>;
+
+PictureFacts factsOf(QIODevice &file, const QString &path, const Open &open)
 {
-    const QString path = file.fileName();
     const QByteArray head = file.peek(contentHeadBytes);
     const Content content = contentOf(head);
     if (content == Content::Unknown && !isCameraRaw(head)) // raw files of some makers have a mark of their own
         return {};
     if (const auto known = content == Content::Jpeg ? factsOfJpeg(file) : std::nullopt)
         return *known;
-    const auto source = ImageSource::open(path);
+    const auto source = open();
     if (!source)
         return content == Content::Tiff && !isNamedTiff(path) ? factsOfRawFile(file) : PictureFacts();
     PictureFacts facts;
@@ -238,6 +241,13 @@ PictureFacts factsOf(QFile &file)
     return facts;
 }
 
+/** A picture of which some could not be read has not "no date": sorted by it, it would go astray. */
+PictureFacts soundFacts(QIODevice &file, const QString &path, const Open &open)
+{
+    const PictureFacts facts = factsOf(file, path, open);
+    return readProblemOf(file).isEmpty() ? facts : PictureFacts();
+}
+
 } // namespace
 
 PictureFacts pictureFacts(const QString &path)
@@ -245,9 +255,13 @@ PictureFacts pictureFacts(const QString &path)
     NamedFile file(path);
     if (!openToRead(file))
         return {};
-    const PictureFacts facts = factsOf(file);
-    // A picture of which some could not be read has not "no date": sorted by it, it would go astray.
-    return file.readProblem().isEmpty() ? facts : PictureFacts();
+    return soundFacts(file, path, [&path] { return ImageSource::open(path); });
+}
+
+PictureFacts pictureFacts(const std::shared_ptr<const LentFile> &file)
+{
+    LentReader reader(file);
+    return soundFacts(reader, file->name(), [&file] { return ImageSource::fromLent(file); });
 }
 
 QDateTime statedDate(const QString &text)

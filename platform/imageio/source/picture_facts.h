@@ -4,7 +4,11 @@
 #include <QSize>
 #include <QString>
 
+#include <memory>
+
 namespace platform {
+
+class LentFile;
 
 /** What a picture file tells of itself in its header: when and with what it was taken, and how large it is. */
 struct PictureFacts
@@ -25,6 +29,8 @@ struct PictureFacts
  * calendar knows ("0000:00:00 00:00:00") counts as none, a time that no clock knows as midnight.
  */
 PictureFacts pictureFacts(const QString &path);
+/** The same of a file that is open already. */
+PictureFacts pictureFacts(const std::shared_ptr<const LentFile> &file);
 
 /**
  * The date in a text such as "2026:08:14 10:20:30" (EXIF) or "2026-08-14T10:20:30.5+02:00" (XMP); a zone is passed over, and

@@ -5,7 +5,7 @@
 namespace platform {
 namespace {
 
-using Owner = std::shared_ptr<TiffDevice>;
+using Owner = std::shared_ptr<QIODevice>;
 
 gint64 readFor(VipsSourceCustom *, void *bytes, gint64 count, Owner *device)
 {
@@ -14,7 +14,7 @@ gint64 readFor(VipsSourceCustom *, void *bytes, gint64 count, Owner *device)
 
 gint64 seekFor(VipsSourceCustom *, gint64 offset, int whence, Owner *device)
 {
-    TiffDevice &file = **device;
+    QIODevice &file = **device;
     qint64 start = 0;
     if (whence == SEEK_CUR)
         start = file.pos();
@@ -46,7 +46,7 @@ qint64 TiffDevice::readData(char *data, qint64 count)
     return qMax<qint64>(m_bytes->read(data, count), 0);
 }
 
-vips::VSource sourceOver(const std::shared_ptr<TiffDevice> &device)
+vips::VSource sourceOver(const std::shared_ptr<QIODevice> &device)
 {
     VipsSourceCustom *custom = vips_source_custom_new();
     g_signal_connect_data(custom, "read", G_CALLBACK(readFor), new Owner(device), release, GConnectFlags(0));

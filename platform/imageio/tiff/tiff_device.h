@@ -32,6 +32,6 @@ private:
 };
 
 /** What libvips reads @p device by, which lives as long as the source. */
-vips::VSource sourceOver(const std::shared_ptr<TiffDevice> &device);
+vips::VSource sourceOver(const std::shared_ptr<QIODevice> &device);
 
 } // namespace platform

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/file/descriptor.h"
+#include "platform/foundation/result.h"
+
+#include <QIODevice>
+#include <QString>
+
+#include <memory>
+
+namespace platform {
+
+/**
+ * An ordinary file that was opened for reading, perhaps by another process for this one, which has no other way to it. It is read by
+ * places, so that any number of readers share the descriptor and none moves another.
+ */
+class LentFile
+{
+public:
+    /** @param name  what messages call it */
+    LentFile(Descriptor descriptor, const QString &name) : m_descriptor(std::move(descriptor)), m_name(name) {}
+
+    /** Opens one as openToRead() does, with its messages. */
+    static Result<LentFile> open(const QString &path);
+
+    int descriptor() const { return m_descriptor.number(); }
+    const QString &name() const { return m_name; }
+    /** Bytes; 0 where that cannot be told. */
+    qint64 size() const;
+
+private:
+    Descriptor m_descriptor;
+    QString m_name;
+};
+
+/** Reads a file that was lent, from its beginning; open for reading. Remembers what could not be read, see readProblemOf(). */
+class LentReader : public QIODevice
+{
+public:
+    explicit LentReader(std::shared_ptr<const LentFile> file);
+
+    bool seek(qint64 position) override;
+    qint64 size() const override { return m_file->size(); }
+    const QString &readProblem() const { return m_readProblem; }
+
+protected:
+    qint64 readData(char *data, qint64 count) override;
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    std::shared_ptr<const LentFile> m_file;
+    qint64 m_place = 0;
+    QString m_readProblem;
+};
+
+} // namespace platform
