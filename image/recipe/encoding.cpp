@@ -2,7 +2,6 @@
 
 #include "image/recipe/output_kind.h"
 #include "image/recipe/sentence.h"
-#include "platform/file/atomic_file.h"
 #include "platform/graphics/compose.h"
 #include "platform/imageio/convert/lossless_turn.h"
 #include "platform/imageio/convert/other_metadata.h"
@@ -152,7 +151,7 @@ Result<QByteArray> lyingFile(const ImageSource &source, const OutputPlan &plan)
 {
     if (!plan.turn.isNothing())
         return turnedFile(source, plan.turn);
-    const Result<QByteArray> file = platform::readFile(source.path());
+    const Result<QByteArray> file = source.fileContent();
     if (source.orientation() == 1 || plan.keepsOrientation)
         return file;
     return file.and_then([](const QByteArray &bytes) { return platform::markedUpright(bytes); });

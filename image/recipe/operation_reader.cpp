@@ -3,7 +3,7 @@
 
 #include "platform/effects/colour_space.h"
 #include "platform/effects/lettering.h"
-#include "platform/file/regular_file.h"
+#include "platform/file/lent_file.h"
 #include "platform/imageio/source/image_source.h"
 #include "text/tokens.h"
 
@@ -205,22 +205,25 @@ Operation roundFrom(RecipeKeys &keys)
     return round;
 }
 
-/** An absolute path of a picture that can be opened. */
-QString pictureNamed(RecipeKeys &keys, const char *key, const QString &folder)
+RecipePicture pictureNamed(RecipeKeys &keys, const char *key, const RecipeFiles &files)
 {
     const QString name = keys.text(key).value_or(QString());
-    const QString path = QDir::cleanPath(QDir(folder).absoluteFilePath(name));
-    if (name.isEmpty() || !platform::ImageSource::canOpen(path))
+    RecipePicture picture = {QDir::cleanPath(QDir(files.folder).absoluteFilePath(name)), {}};
+    if (files.areOpened && !name.isEmpty())
+        picture.source = files.open(picture.path)
+                             .and_then([](const auto &file) { return platform::ImageSource::fromLent(file); })
+                             .value_or(platform::ImageSource());
+    if (name.isEmpty() || (files.areOpened && picture.source.isNull()))
         keys.complain(key, sentence("there is no picture \"%1\"").arg(name));
-    return path;
+    return picture;
 }
 
-Operation backgroundFrom(RecipeKeys &keys, const QString &folder)
+Operation backgroundFrom(RecipeKeys &keys, const RecipeFiles &files)
 {
     BackgroundOperation background;
     const auto way = keys.oneOf({QStringLiteral("color"), QStringLiteral("pattern")});
     if (way == QLatin1String("pattern"))
-        background.pattern = pictureNamed(keys, "pattern", folder);
+        background.pattern = pictureNamed(keys, "pattern", files);
     else if (way)
         background.color = keys.color("color").value_or(QColor(Qt::white));
     return background;
@@ -250,13 +253,13 @@ void readLetters(RecipeKeys &keys, WatermarkOperation &mark)
     mark.color = keys.color("color").value_or(mark.color);
 }
 
-Operation watermarkFrom(RecipeKeys &keys, const QString &folder)
+Operation watermarkFrom(RecipeKeys &keys, const RecipeFiles &files)
 {
     WatermarkOperation mark;
     const auto way = keys.oneOf({QStringLiteral("text"), QStringLiteral("picture")});
     const bool isPicture = way == QLatin1String("picture");
     if (isPicture) {
-        mark.picture = pictureNamed(keys, "picture", folder);
+        mark.picture = pictureNamed(keys, "picture", files);
         for (const char *each : {"font", "color"})
             keys.refuseKey(each, sentence("it has a meaning with a text only"));
     } else if (way) {
@@ -273,12 +276,12 @@ Operation watermarkFrom(RecipeKeys &keys, const QString &folder)
     return mark;
 }
 
-Operation profileFrom(RecipeKeys &keys, const QString &folder)
+Operation profileFrom(RecipeKeys &keys, const RecipeFiles &files)
 {
     const std::optional<QString> name = keys.text("to");
     if (!name)
         keys.complain("to", sentence("it is missing"));
-    return profileNamed(keys, "to", name.value_or(QStringLiteral("sRGB")), folder);
+    return profileNamed(keys, "to", name.value_or(QStringLiteral("sRGB")), files);
 }
 
 enum class Do { Resize, Crop, Turn, Flip, Round, Background, Frame, Watermark, Sharpen, Profile };
@@ -290,7 +293,7 @@ constexpr Word<Do> names[] = {
     {"profile", Do::Profile},
 };
 
-Operation operationFrom(RecipeKeys &keys, Do what, const QString &folder)
+Operation operationFrom(RecipeKeys &keys, Do what, const RecipeFiles &files)
 {
     switch (what) {
     case Do::Resize:
@@ -304,22 +307,29 @@ Operation operationFrom(RecipeKeys &keys, Do what, const QString &folder)
     case Do::Round:
         return roundFrom(keys);
     case Do::Background:
-        return backgroundFrom(keys, folder);
+        return backgroundFrom(keys, files);
     case Do::Frame:
         return frameFrom(keys);
     case Do::Watermark:
-        return watermarkFrom(keys, folder);
+        return watermarkFrom(keys, files);
     case Do::Sharpen:
         return SharpenOperation{keys.choice("amount", amounts).value_or(SharpenAmount::Standard)};
     case Do::Profile:
-        return profileFrom(keys, folder);
+        return profileFrom(keys, files);
     }
     Q_UNREACHABLE();
 }
 
+QByteArray profileAt(const QString &path, const RecipeFiles &files)
+{
+    constexpr qint64 largestProfile = 64 << 20;
+    const auto file = files.open(path);
+    return file ? platform::LentReader(*file).read(largestProfile) : QByteArray();
+}
+
 } // namespace
 
-ProfileOperation profileNamed(RecipeKeys &keys, const char *key, const QString &name, const QString &folder)
+ProfileOperation profileNamed(RecipeKeys &keys, const char *key, const QString &name, const RecipeFiles &files)
 {
     using platform::ColourSpace;
     static constexpr Word<ColourSpace> known[] = {{"sRGB", ColourSpace::Srgb},
@@ -329,18 +339,15 @@ ProfileOperation profileNamed(RecipeKeys &keys, const char *key, const QString &
     for (const auto &each : known)
         if (name == QLatin1String(each.word))
             return {name, platform::iccProfileFor(each.value)};
-    constexpr qint64 largestProfile = 64 << 20;
-    const QString path = QDir::cleanPath(QDir(folder).absoluteFilePath(name));
-    platform::NamedFile file(path);
-    const bool isOpen = !name.isEmpty() && platform::openToRead(file).has_value();
-    const QByteArray profile = isOpen ? file.read(largestProfile) : QByteArray();
-    if (profile.isEmpty() || !platform::canConvertTo(profile))
+    const QString path = QDir::cleanPath(QDir(files.folder).absoluteFilePath(name));
+    const QByteArray profile = files.areOpened && !name.isEmpty() ? profileAt(path, files) : QByteArray();
+    if (name.isEmpty() || (files.areOpened && (profile.isEmpty() || !platform::canConvertTo(profile))))
         keys.complain(key,
                       sentence("sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not \"%1\"").arg(name));
     return {path, profile};
 }
 
-RecipeStep stepFrom(RecipeKeys &keys, const QString &folder)
+RecipeStep stepFrom(RecipeKeys &keys, const RecipeFiles &files)
 {
     RecipeStep step;
     if (!keys.has("do"))
@@ -349,7 +356,7 @@ RecipeStep stepFrom(RecipeKeys &keys, const QString &folder)
     if (!what)
         return step;
     step.isOff = keys.flag("off").value_or(false);
-    step.operation = operationFrom(keys, *what, folder);
+    step.operation = operationFrom(keys, *what, files);
     keys.finish();
     return step;
 }

@@ -5,8 +5,6 @@
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/formats/formats.h"
 
-#include <QFileInfo>
-
 #include <array>
 
 namespace image {
@@ -102,12 +100,6 @@ std::optional<OutputType> ownTypeOf(const platform::ImageSource &source)
 std::optional<FileFormat> formatFor(OutputType type)
 {
     return kindOf(type).format;
-}
-
-qint64 fileBytesOf(const platform::ImageSource &source)
-{
-    const QFileInfo file(source.path());
-    return file.exists() ? file.size() : -1;
 }
 
 bool holdsAlpha(OutputType type)

@@ -14,9 +14,6 @@ std::optional<OutputType> ownTypeOf(const platform::ImageSource &source);
 /** The format that holds a type; none for a page. */
 std::optional<platform::FileFormat> formatFor(OutputType type);
 
-/** The bytes of the file; -1 where there is none. */
-qint64 fileBytesOf(const platform::ImageSource &source);
-
 bool holdsAlpha(OutputType type);
 
 /** True where the result says less, or another resolution, than the source. */

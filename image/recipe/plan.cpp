@@ -48,7 +48,7 @@ bool asksForEncoding(const RecipeOutput &output, const ImageSource &source)
 {
     if (output.quality || output.isLossless)
         return true;
-    return output.maxBytes && *output.maxBytes < fileBytesOf(source);
+    return output.maxBytes && *output.maxBytes < source.fileBytes();
 }
 
 /** Decides whether pixels are encoded again. */

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/imageio/source/image_source.h"
+
 #include <QColor>
 #include <QList>
 #include <QPoint>
@@ -87,10 +89,19 @@ struct RoundOperation
     Scale scale;
 };
 
+/** A picture that a recipe names. */
+struct RecipePicture
+{
+    QString path;                 ///< absolute; empty where there is none
+    platform::ImageSource source; ///< opened with the recipe
+
+    bool isNamed() const { return !path.isEmpty(); }
+};
+
 struct BackgroundOperation
 {
     QColor color;
-    QString pattern; ///< absolute path of a picture, in place of the colour
+    RecipePicture pattern; ///< in place of the colour
 };
 
 struct FrameOperation
@@ -105,8 +116,8 @@ struct WatermarkOperation
     QString text; ///< with tokens
     QString font;
     QColor color = Qt::white;
-    QString picture; ///< absolute path, in place of the text
-    double size = 0; ///< per cent: of the picture's height for text, of its width for a picture
+    RecipePicture picture; ///< in place of the text
+    double size = 0;       ///< per cent: of the picture's height for text, of its width for a picture
     Place position = Place::BottomRight;
     double margin = 2; ///< per cent of the shorter side
     double angle = 0;  ///< degrees clockwise

@@ -1,8 +1,10 @@
 #include "image/recipe/recipe_reader.h"
 
 #include "image/recipe/operation_reader.h"
+#include "image/recipe/plan.h"
 #include "image/recipe/recipe_keys.h"
 #include "image/recipe/sentence.h"
+#include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
 #include "text/tokens.h"
 
@@ -78,15 +80,15 @@ void readPlace(RecipeKeys &keys, RecipeOutput &output)
     output.ifTaken = keys.choice("ifTaken", takens).value_or(output.ifTaken);
 }
 
-RecipeOutput outputFrom(RecipeKeys &keys, const QString &folder)
+RecipeOutput outputFrom(RecipeKeys &keys, const RecipeFiles &files)
 {
     RecipeOutput output;
     readEncoding(keys, output);
     readPlace(keys, output);
     for (RecipeKeys &each : keys.objects("operations"))
-        output.operations.append(stepFrom(each, folder));
+        output.operations.append(stepFrom(each, files));
     if (const auto profile = keys.text("profile"))
-        output.profile = profileNamed(keys, "profile", *profile, folder);
+        output.profile = profileNamed(keys, "profile", *profile, files);
     output.metadata = keys.choice("metadata", kinds).value_or(output.metadata);
     output.keepsLocation = keys.flag("location").value_or(true);
     output.dpi = keys.number("dpi", {1, 10'000});
@@ -109,17 +111,17 @@ bool readVersion(RecipeKeys &keys)
     return version && *version <= recipeVersion;
 }
 
-Recipe recipeFrom(RecipeKeys &keys, const QString &folder)
+Recipe recipeFrom(RecipeKeys &keys, const RecipeFiles &files)
 {
     Recipe recipe;
     if (!readVersion(keys))
         return recipe;
     recipe.name = keys.text("name").value_or(QString());
     for (RecipeKeys &each : keys.objects("operations"))
-        recipe.operations.append(stepFrom(each, folder));
+        recipe.operations.append(stepFrom(each, files));
     const bool hasOutputs = keys.has("outputs");
     for (RecipeKeys &each : keys.objects("outputs"))
-        recipe.outputs.append(outputFrom(each, folder));
+        recipe.outputs.append(outputFrom(each, files));
     if (recipe.outputs.isEmpty())
         keys.complain("outputs",
                       hasOutputs ? sentence("at least one output") : sentence("the list of outputs is missing"));
@@ -130,6 +132,13 @@ Recipe recipeFrom(RecipeKeys &keys, const QString &folder)
 } // namespace
 
 Result<Recipe> readRecipe(const QByteArray &json, const QString &folder)
+{
+    RecipeFiles files;
+    files.folder = folder;
+    return readRecipe(json, files);
+}
+
+Result<Recipe> readRecipe(const QByteArray &json, const RecipeFiles &files)
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
@@ -142,10 +151,37 @@ Result<Recipe> readRecipe(const QByteArray &json, const QString &folder)
         return platform::failure(platform::ErrorCode::InvalidValue, sentence("a recipe is a JSON object"));
     RecipeProblem problem;
     RecipeKeys keys(document.object(), {}, problem);
-    const Recipe recipe = recipeFrom(keys, folder);
+    const Recipe recipe = recipeFrom(keys, files);
     if (problem.isThere())
         return platform::failure(platform::ErrorCode::InvalidValue, problem.sentence());
     return recipe;
+}
+
+Result<std::shared_ptr<const platform::LentFile>> RecipeFiles::openedFile(const QString &path)
+{
+    return platform::LentFile::open(path).map(
+        [](platform::LentFile &&file) { return std::make_shared<const platform::LentFile>(std::move(file)); });
+}
+
+QStringList filesOf(const Recipe &recipe)
+{
+    QStringList paths;
+    const auto addSteps = [&paths](const QList<RecipeStep> &steps) {
+        for (const RecipeStep &step : steps) {
+            if (const auto *background = std::get_if<BackgroundOperation>(&step.operation))
+                paths.append(background->pattern.path);
+            else if (const auto *mark = std::get_if<WatermarkOperation>(&step.operation))
+                paths.append(mark->picture.path);
+            else if (const auto *profile = std::get_if<ProfileOperation>(&step.operation))
+                paths.append(profile->name.startsWith(u'/') ? profile->name : QString());
+        }
+    };
+    addSteps(recipe.operations);
+    for (const RecipeOutput &output : recipe.outputs)
+        addSteps(stepsOf(output));
+    paths.removeAll(QString());
+    paths.removeDuplicates();
+    return paths;
 }
 
 Result<Recipe> readRecipeFile(const QString &path)

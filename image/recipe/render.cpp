@@ -111,10 +111,9 @@ public:
 
     Result<Bitmap> operator()(const BackgroundOperation &background) const
     {
-        if (background.pattern.isEmpty())
+        if (!background.pattern.isNamed())
             return laidOnAnyColor(m_before.bitmap, background.color);
-        return platform::ImageSource::open(background.pattern)
-            .and_then([](const platform::ImageSource &source) { return source.decode(); })
+        return background.pattern.source.decode()
             .and_then([this](const Bitmap &tile) {
                 const QSize size = scaledSize(tile.size(), m_before);
                 return size == tile.size() ? Result<Bitmap>(tile) : platform::resample(tile, size);

@@ -220,7 +220,7 @@ public:
     Result<Change> operator()(const BackgroundOperation &background) const
     {
         Stage after = m_stage;
-        const bool hasColor = background.pattern.isEmpty();
+        const bool hasColor = !background.pattern.isNamed();
         after.hasAlpha = m_stage.hasAlpha && hasColor && !isOpaque(background.color);
         after.isGray = m_stage.isGray && hasColor && staysGray(m_stage, background.color);
         return made(m_stage.hasAlpha ? Effect::Pixels : Effect::None, m_stage.hasAlpha ? after : m_stage);
@@ -242,7 +242,7 @@ public:
     Result<Change> operator()(const WatermarkOperation &mark) const
     {
         Stage after = m_stage;
-        after.isGray = mark.picture.isEmpty() ? staysGray(m_stage, mark.color) : false;
+        after.isGray = !mark.picture.isNamed() && staysGray(m_stage, mark.color);
         return made(mark.opacity > 0 ? Effect::Pixels : Effect::None, mark.opacity > 0 ? after : m_stage);
     }
 

@@ -41,12 +41,10 @@ Result<Bitmap> letters(const Rendition &rendition, const WatermarkOperation &mar
 
 Result<Bitmap> pictureOf(const Rendition &rendition, const WatermarkOperation &mark)
 {
-    return platform::ImageSource::open(mark.picture).and_then([&](const platform::ImageSource &source) {
-        const QSize own = source.uprightSize();
-        const double width = std::max(1.0, std::round(rendition.bitmap.width() * mark.size / hundred));
-        const double height = std::max(1.0, std::round(own.height() * width / own.width()));
-        return source.decodeScaled(QSize(int(width), int(height)));
-    });
+    const QSize own = mark.picture.source.uprightSize();
+    const double width = std::max(1.0, std::round(rendition.bitmap.width() * mark.size / hundred));
+    const double height = std::max(1.0, std::round(own.height() * width / own.width()));
+    return mark.picture.source.decodeScaled(QSize(int(width), int(height)));
 }
 
 Result<Bitmap> turnedBy(const Bitmap &stamp, double degrees)
@@ -87,7 +85,7 @@ platform::Stamp stampOf(const Bitmap &stamp, QSize picture, const WatermarkOpera
 
 Result<Bitmap> watermarked(const Rendition &rendition, const WatermarkOperation &mark, const FillText &fill)
 {
-    const Result<Bitmap> stamp = mark.picture.isEmpty() ? letters(rendition, mark, fill) : pictureOf(rendition, mark);
+    const Result<Bitmap> stamp = mark.picture.isNamed() ? pictureOf(rendition, mark) : letters(rendition, mark, fill);
     if (!stamp)
         return stamp;
     if (stamp->isNull())

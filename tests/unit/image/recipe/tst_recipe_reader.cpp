@@ -238,7 +238,7 @@ void TestRecipeReader::findsPathsBesideTheRecipe()
     QVERIFY(folder.write("a.quorlin", json));
     const auto recipe = image::readRecipeFile(folder.path("a.quorlin"));
     QVERIFY2(recipe.has_value(), recipe ? "" : qPrintable(recipe.error().message));
-    QCOMPARE(operationOf<image::WatermarkOperation>(*recipe, 1).picture, folder.path("mark.png"));
+    QCOMPARE(operationOf<image::WatermarkOperation>(*recipe, 1).picture.path, folder.path("mark.png"));
     QVERIFY(!image::readRecipe(json, QStringLiteral("/")).has_value());
     QVERIFY(image::readRecipeFile(folder.path("none.quorlin")).error().code == platform::ErrorCode::NotFound);
 }
