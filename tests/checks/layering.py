@@ -57,14 +57,17 @@ SUB_ROOMS = {
                             "imageio/photoshop imageio/parts imageio/exif imageio/xmp",
         "imageio/load": "file graphics imageio/bytes imageio/formats imageio/jpeg2000 imageio/tiff imageio/bmp "
                         "imageio/photoshop",
+        "imageio/encoders": "foundation graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/parts "
+                            "imageio/metadata",
+        "imageio/codecs": "file graphics imageio/bytes imageio/formats imageio/jpeg2000 imageio/tiff imageio/bmp imageio/whole "
+                          "imageio/load imageio/encoders",
         "imageio/facts": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png imageio/tiff "
-                         "imageio/bmp imageio/photoshop imageio/exif imageio/xmp imageio/metadata imageio/load",
-        "imageio/encode": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/jpeg2000 imageio/png "
-                          "imageio/tiff imageio/parts imageio/metadata",
-        "imageio/source": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/tiff imageio/whole "
-                          "imageio/exif imageio/metadata imageio/load imageio/facts",
+                         "imageio/bmp imageio/photoshop imageio/exif imageio/xmp imageio/metadata imageio/codecs",
+        "imageio/encode": "foundation file graphics imageio/formats imageio/jpeg2000 imageio/metadata imageio/encoders imageio/codecs",
+        "imageio/source": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/tiff imageio/exif "
+                          "imageio/metadata imageio/codecs imageio/facts",
         "imageio/convert": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/parts imageio/exif "
-                           "imageio/load imageio/facts imageio/metadata imageio/encode imageio/source",
+                           "imageio/encoders imageio/codecs imageio/facts imageio/metadata imageio/encode imageio/source",
         "imageio/comments": "foundation file imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/exif imageio/source",
         "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },

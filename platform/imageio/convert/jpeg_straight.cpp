@@ -4,11 +4,11 @@
 
 #include "platform/file/replacement_file.h"
 #include "platform/graphics/icc_profile.h"
-#include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/codecs/codecs.h"
+#include "platform/imageio/encoders/encoders.h"
 #include "platform/imageio/facts/resolution.h"
 #include "platform/imageio/formats/memory_need.h"
 #include "platform/imageio/jpeg/jpeg_rows.h"
-#include "platform/imageio/load/loaders.h"
 #include "platform/imageio/source/opened_file.h"
 
 #include <algorithm>

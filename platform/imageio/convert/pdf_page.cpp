@@ -4,7 +4,7 @@
 #include "platform/imageio/bytes/deflate.h"
 #include "platform/imageio/convert/lossless_turn.h"
 #include "platform/imageio/convert/pdf_file.h"
-#include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/encoders/encoders.h"
 #include "platform/imageio/exif/orientation_mark.h"
 #include "platform/imageio/formats/memory_need.h"
 #include "platform/imageio/jpeg/bare_jpeg.h"

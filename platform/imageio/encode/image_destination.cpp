@@ -3,7 +3,8 @@
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/graphics/compose.h"
-#include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/codecs/codecs.h"
+#include "platform/imageio/encoders/encoders.h"
 #include "platform/imageio/formats/formats.h"
 #include "platform/imageio/formats/memory_need.h"
 #include "platform/imageio/jpeg2000/jp2_profile.h"
@@ -29,11 +30,10 @@ std::optional<double> jpegQuality(const EncodeOptions &options)
     return options.quality ? *options.quality / best : options.lossyQuality;
 }
 
-QByteArray jpeg2000Of(const vips::VImage &image, const EncodeOptions &options)
+/** Files that cannot be given metadata once they are encoded. */
+bool isEncodedWithMetadata(FileFormat format)
 {
-    const bool isAsked = options.quality || options.isLossless;
-    const Compression compression{options.quality.value_or(Compression().quality), options.isLossless};
-    return encodeJpeg2000(image, isAsked ? std::optional(compression) : std::nullopt);
+    return format == FileFormat::Avif;
 }
 
 /** The picture on the colour that is asked for, where the format has no transparency. */
@@ -62,31 +62,16 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
     if (keeps.profile == Kept::IfItFits)
         keeps.profile = !profile.isEmpty() && holdsProfile(format, profile) ? Kept::Yes : Kept::No;
     const vips::VImage image = preparedFor(keeps, bitmap.pixels().image);
-    const Resolution resolution = writtenResolution(bitmap, options);
-    const Compression compression{options.quality.value_or(Compression().quality), options.isLossless};
-    switch (format) {
-    case FileFormat::Png:
-        return encodePng(image, resolution);
-    case FileFormat::Tiff:
-        return encodeTiff(image, resolution);
-    case FileFormat::Bmp:
-        return encodeBmp(image, resolution);
-    case FileFormat::Gif:
-        return encodeGif(image);
-    case FileFormat::Jpeg:
-        return encodeJpeg(image.copy_memory(), {jpegQuality(options), bitmap.pixels().quantisation, resolution});
-    case FileFormat::Jpeg2000:
-        return keeps.profile == Kept::Yes ? withJpeg2000Profile(jpeg2000Of(image, options), profile)
-                                          : jpeg2000Of(image, options);
-    case FileFormat::Webp:
-        return encodeWebp(image, compression);
-    case FileFormat::Avif:
-        return encodeAvif(image, compression.quality,
-                          options.metadata.blocksFor({image.width(), image.height()}, Metadata::Holds::ExifXmp));
-    case FileFormat::JpegXl:
-        return encodeJpegXl(image, compression);
-    }
-    return failure(ErrorCode::Unsupported, QString());
+    CodecOptions how;
+    how.resolution = writtenResolution(bitmap, options);
+    how.jpegQuality = jpegQuality(options);
+    how.sourceTables = bitmap.pixels().quantisation;
+    if (options.quality || options.isLossless)
+        how.compression = Compression{options.quality.value_or(Compression().quality), options.isLossless};
+    how.profile = keeps.profile == Kept::Yes ? profile : QByteArray();
+    if (isEncodedWithMetadata(format))
+        how.blocks = options.metadata.blocksFor({image.width(), image.height()}, Metadata::Holds::ExifXmp);
+    return encodedPixels(image, format, how);
 }
 
 /** Files that state no resolution but in EXIF. */
@@ -116,9 +101,8 @@ Metadata metadataFor(const Bitmap &bitmap, FileFormat format, const EncodeOption
 Result<QByteArray> withMetadata(const QByteArray &encoded, QSize pixels, FileFormat format,
                                 const EncodeOptions &options)
 {
-    const bool isIn = format == FileFormat::Avif; // since it was encoded
     const bool isCarried = !options.metadata.isEmpty() || options.carried == Carried::Everything;
-    if (isIn || !isCarried || format == FileFormat::Bmp)
+    if (isEncodedWithMetadata(format) || !isCarried || format == FileFormat::Bmp)
         return encoded;
     return options.metadata.writtenInto(encoded, options.carried, pixels);
 }

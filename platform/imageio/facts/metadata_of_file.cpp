@@ -1,7 +1,7 @@
 #include "platform/imageio/facts/metadata_of_file.h"
 
 #include "platform/file/mapped_file.h"
-#include "platform/imageio/load/loaders.h"
+#include "platform/imageio/codecs/codecs.h"
 
 namespace platform {
 namespace {

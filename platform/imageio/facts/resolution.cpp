@@ -1,8 +1,8 @@
 #include "platform/imageio/facts/resolution.h"
 
 #include "platform/imageio/bmp/bmp_header.h"
+#include "platform/imageio/codecs/codecs.h"
 #include "platform/imageio/facts/metadata_of_file.h"
-#include "platform/imageio/load/loaders.h"
 
 #include <QtEndian>
 

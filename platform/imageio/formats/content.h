@@ -9,6 +9,7 @@ namespace platform {
 
 /** What a file is by its first bytes. */
 enum class Content { Unknown, Jpeg, Png, Tiff, Gif, Bmp, Webp, Heif, Avif, Jpeg2000, JpegXl, Photoshop, Pdf, Svg };
+constexpr Content lastContent = Content::Svg;
 
 /** Enough of a file's beginning to tell what it is. */
 constexpr int contentHeadBytes = 4096;

@@ -5,7 +5,6 @@
 #include "platform/imageio/bmp/bmp_header.h"
 #include "platform/imageio/bmp/bmp_pixels.h"
 #include "platform/imageio/formats/memory_need.h"
-#include "platform/imageio/jpeg2000/jpeg2000_reader.h"
 #include "platform/imageio/load/svg_work.h"
 #include "platform/imageio/photoshop/photoshop_pixels.h"
 #include "platform/imageio/tiff/tiff_device.h"
@@ -74,15 +73,6 @@ VImage withProfile(const VImage &image, const QByteArray &profile)
     return owner;
 }
 
-VImage loadBitmapFile(const PictureBytes &source)
-{
-    const std::unique_ptr<QIODevice> device = source.openedDevice();
-    const VImage pixels = bmpPixels(*device);
-    const QByteArray profile = readBmpProfile(*device);
-    demandRead(*device);
-    return withProfile(pixels, profile);
-}
-
 /**
  * Some old compressions are read by Qt's decoder only, and in one piece, and so are samples that stand for the logarithm of a
  * brightness, which it brings to what is seen of them.
@@ -128,6 +118,53 @@ SampleFacts factsOf(const TiffSamples &samples, const VImage &image)
     return facts;
 }
 
+} // namespace
+
+VImage loadJpeg(const PictureBytes &source, const LoadOptions &options)
+{
+    return VImage::jpegload_source(sourceOf(source), commonOptions()->set("shrink", options.jpegShrink));
+}
+
+VImage loadPng(const PictureBytes &source, const LoadOptions &)
+{
+    return VImage::pngload_source(sourceOf(source), commonOptions());
+}
+
+VImage loadGif(const PictureBytes &source, const LoadOptions &options)
+{
+    return VImage::gifload_source(sourceOf(source), commonOptions()->set("page", options.page));
+}
+
+VImage loadBmp(const PictureBytes &source, const LoadOptions &)
+{
+    const std::unique_ptr<QIODevice> device = source.openedDevice();
+    const VImage pixels = bmpPixels(*device);
+    const QByteArray profile = readBmpProfile(*device);
+    demandRead(*device);
+    return withProfile(pixels, profile);
+}
+
+VImage loadWebp(const PictureBytes &source, const LoadOptions &options)
+{
+    return VImage::webpload_source(sourceOf(source), commonOptions()->set("page", options.page));
+}
+
+VImage loadJpegXl(const PictureBytes &source, const LoadOptions &)
+{
+    return withOwnProfile(VImage::jxlload_source(sourceOf(source), commonOptions()));
+}
+
+VImage loadPhotoshop(const PictureBytes &source, const LoadOptions &)
+{
+    return photoshopPixels(*source.openedDevice());
+}
+
+VImage loadPdf(const PictureBytes &source, const LoadOptions &options)
+{
+    return VImage::pdfload_source(sourceOf(source),
+                                  commonOptions()->set("page", options.page)->set("scale", options.drawingScale));
+}
+
 VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
 {
     const auto device = std::make_shared<TiffDevice>(source);
@@ -148,7 +185,6 @@ VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
     }
 }
 
-/** The file says which of its items is the picture; the others count behind it, in their order. */
 VImage loadHeif(const PictureBytes &source, const LoadOptions &options)
 {
     // First of all: the options of a call that is never made would be freed by nobody.
@@ -162,7 +198,6 @@ VImage loadHeif(const PictureBytes &source, const LoadOptions &options)
     return withOwnProfile(VImage::heifload_source(again, commonOptions()->set("page", page)));
 }
 
-/** A short text can ask for any amount of work, and nothing can stop the library once it draws. */
 VImage loadSvg(const PictureBytes &source, const LoadOptions &options)
 {
     const QByteArray text = source.all();
@@ -177,56 +212,11 @@ VImage loadSvg(const PictureBytes &source, const LoadOptions &options)
     return image;
 }
 
-} // namespace
-
-VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options)
+QSize claimedPhotoshopSize(QIODevice &file)
 {
-    initVips();
-    // What an earlier picture left in the library's one buffer would be told as the reason of this one.
-    vips_error_clear();
-    switch (content) {
-    case Content::Jpeg:
-        return VImage::jpegload_source(sourceOf(source), commonOptions()->set("shrink", options.jpegShrink));
-    case Content::Png:
-        return VImage::pngload_source(sourceOf(source), commonOptions());
-    case Content::Tiff:
-        return loadTiff(source, options);
-    case Content::Gif:
-        return VImage::gifload_source(sourceOf(source), commonOptions()->set("page", options.page));
-    case Content::Bmp:
-        return loadBitmapFile(source);
-    case Content::Webp:
-        return VImage::webpload_source(sourceOf(source), commonOptions()->set("page", options.page));
-    case Content::Heif:
-    case Content::Avif:
-        return loadHeif(source, options);
-    case Content::Jpeg2000:
-        return loadJpeg2000(source);
-    case Content::JpegXl:
-        return withOwnProfile(VImage::jxlload_source(sourceOf(source), commonOptions()));
-    case Content::Photoshop:
-        return photoshopPixels(*source.openedDevice());
-    case Content::Pdf:
-        return VImage::pdfload_source(sourceOf(source),
-                                      commonOptions()->set("page", options.page)->set("scale", options.drawingScale));
-    case Content::Svg:
-        return loadSvg(source, options);
-    case Content::Unknown:
-        break;
-    }
-    throw vips::VError("not a picture");
-}
-
-QSize claimedSize(const PictureBytes &source, Content content)
-{
-    const std::unique_ptr<QIODevice> device = source.device();
-    if (!device)
-        return {};
-    if (content == Content::Bmp)
-        return readBmpHeader(*device).size;
     constexpr int photoshopHeaderBytes = 26;
-    const QByteArray head = device->read(photoshopHeaderBytes);
-    if (content != Content::Photoshop || head.size() < photoshopHeaderBytes)
+    const QByteArray head = file.read(photoshopHeaderBytes);
+    if (head.size() < photoshopHeaderBytes)
         return {};
     const auto height = qFromBigEndian<quint32>(head.constData() + 14);
     const auto width = qFromBigEndian<quint32>(head.constData() + 18);

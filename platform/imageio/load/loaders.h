@@ -1,10 +1,9 @@
 #pragma once
 
-// Private to the platform: one decoder a kind of content.
+// Private to the platform: one decoder a kind of content. openImage() in codecs.h calls the right one.
 
 #include "platform/graphics/pixels.h"
 #include "platform/imageio/bytes/picture_bytes.h"
-#include "platform/imageio/formats/content.h"
 
 #include <QSize>
 
@@ -20,14 +19,23 @@ struct LoadOptions
     double drawingScale = 1;
 };
 
-/**
- * Opens image @p options.page of the file for one pass from top to bottom; pixels are decoded as they are pulled, and a
- * damaged or cut picture fails then. The samples are those of the file, with what is known of them: inForm() makes pixels of
- * them that can be worked with. Throws vips::VError.
- */
-vips::VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options = {});
+// These throw vips::VError. Pixels are decoded as they are pulled, in one pass from top to bottom.
 
-/** The size a bitmap file or a Photoshop file claims, read without its decoder; empty for other content. */
-QSize claimedSize(const PictureBytes &source, Content content);
+vips::VImage loadJpeg(const PictureBytes &source, const LoadOptions &options);
+vips::VImage loadPng(const PictureBytes &source, const LoadOptions &);
+vips::VImage loadTiff(const PictureBytes &source, const LoadOptions &options);
+vips::VImage loadGif(const PictureBytes &source, const LoadOptions &options);
+vips::VImage loadBmp(const PictureBytes &source, const LoadOptions &);
+vips::VImage loadWebp(const PictureBytes &source, const LoadOptions &options);
+/** HEIF and AVIF. The file says which of its items is the picture; the others count behind it, in their order. */
+vips::VImage loadHeif(const PictureBytes &source, const LoadOptions &options);
+vips::VImage loadJpegXl(const PictureBytes &source, const LoadOptions &);
+vips::VImage loadPhotoshop(const PictureBytes &source, const LoadOptions &);
+vips::VImage loadPdf(const PictureBytes &source, const LoadOptions &options);
+/** A short text can ask for any amount of work, and nothing can stop the library once it draws: too much is refused. */
+vips::VImage loadSvg(const PictureBytes &source, const LoadOptions &options);
+
+/** The size that the header of a Photoshop file claims; empty where it is cut or no size that the format knows. */
+QSize claimedPhotoshopSize(QIODevice &file);
 
 } // namespace platform

@@ -1,8 +1,8 @@
+#include "platform/imageio/codecs/codecs.h"
 #include "platform/imageio/facts/container_properties.h"
 #include "platform/imageio/facts/profile_name.h"
 #include "platform/imageio/facts/resolution.h"
 #include "platform/imageio/facts/sample_depth.h"
-#include "platform/imageio/load/loaders.h"
 #include "platform/imageio/source/opened_file.h"
 
 namespace platform {

@@ -4,15 +4,15 @@
 #include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/graphics/resample.h"
+#include "platform/imageio/codecs/codecs.h"
+#include "platform/imageio/codecs/whole_picture.h"
 #include "platform/imageio/facts/metadata_of_file.h"
 #include "platform/imageio/facts/raw_preview.h"
 #include "platform/imageio/facts/resolution.h"
 #include "platform/imageio/formats/memory_need.h"
 #include "platform/imageio/jpeg/shrunk_jpeg.h"
-#include "platform/imageio/load/loaders.h"
 #include "platform/imageio/source/opened_file.h"
 #include "platform/imageio/tiff/camera_raw.h"
-#include "platform/imageio/whole/whole_picture.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -2,12 +2,12 @@
 
 #include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
+#include "platform/imageio/codecs/whole_picture.h"
 #include "platform/imageio/exif/exif_tags.h"
 #include "platform/imageio/formats/content.h"
 #include "platform/imageio/jpeg/jpeg_segments.h"
 #include "platform/imageio/source/image_source.h"
 #include "platform/imageio/tiff/camera_raw.h"
-#include "platform/imageio/whole/whole_picture.h"
 
 #include <QBuffer>
 #include <QFile>

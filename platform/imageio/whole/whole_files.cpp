@@ -1,18 +1,52 @@
-#include "platform/imageio/whole/whole_picture.h"
+#include "platform/imageio/whole/whole_files.h"
 
-#include "platform/file/regular_file.h"
 #include "platform/imageio/bmp/bmp_header.h"
 #include "platform/imageio/bytes/block_reader.h"
-#include "platform/imageio/tiff/camera_raw.h"
-#include "platform/imageio/whole/whole_containers.h"
-#include "platform/imageio/whole/whole_tiff.h"
+#include "platform/imageio/formats/content.h"
 
-#include <QFile>
+#include <QIODevice>
 
 #include <algorithm>
 
 namespace platform {
 namespace {
+
+/** Steps over the sub-blocks from @p position on; the position behind them, or -1 where they are cut short. */
+qint64 behindGifBlocks(BlockReader &reader, qint64 position)
+{
+    for (;;) {
+        const qint64 size = reader.number(position, 1);
+        if (size < 0)
+            return -1;
+        position += 1 + size;
+        if (size == 0)
+            return position;
+    }
+}
+
+/** Runs of colours that are as long as they say, up to the mark of their end or, without one, the last of the rows. */
+bool hasAllBmpRuns(BlockReader &reader, qint64 position, bool isHalfBytes, qint64 rows)
+{
+    for (qint64 ended = 0;;) {
+        const qint64 first = reader.number(position, 1);
+        const qint64 second = reader.number(position + 1, 1);
+        if (first < 0 || second < 0)
+            return first < 0 && ended >= rows;
+        position += 2;
+        if (first > 0)
+            continue;
+        if (second == 1)
+            return true;
+        if (second == 0)
+            ++ended;
+        else if (second == 2)
+            position += 2;
+        else
+            position += ((isHalfBytes ? (second + 1) / 2 : second) + 1) / 2 * 2;
+    }
+}
+
+} // namespace
 
 /** Looks for the end mark from the end of the file on, since other bytes may follow it. */
 bool isWholeJpeg(QIODevice &file)
@@ -55,19 +89,6 @@ bool isWholePng(QIODevice &file)
     return false;
 }
 
-/** Steps over the sub-blocks from @p position on; the position behind them, or -1 where they are cut short. */
-qint64 behindGifBlocks(BlockReader &reader, qint64 position)
-{
-    for (;;) {
-        const qint64 size = reader.number(position, 1);
-        if (size < 0)
-            return -1;
-        position += 1 + size;
-        if (size == 0)
-            return position;
-    }
-}
-
 /** All frames, and the byte that says that there are no more. */
 bool isWholeGif(QIODevice &file)
 {
@@ -98,28 +119,6 @@ bool isWholeWebp(QIODevice &file)
     return length >= 0 && length + 8 <= reader.size();
 }
 
-/** Runs of colours that are as long as they say, up to the mark of their end or, without one, the last of the rows. */
-bool hasAllBmpRuns(BlockReader &reader, qint64 position, bool isHalfBytes, qint64 rows)
-{
-    for (qint64 ended = 0;;) {
-        const qint64 first = reader.number(position, 1);
-        const qint64 second = reader.number(position + 1, 1);
-        if (first < 0 || second < 0)
-            return first < 0 && ended >= rows;
-        position += 2;
-        if (first > 0)
-            continue;
-        if (second == 1)
-            return true;
-        if (second == 0)
-            ++ended;
-        else if (second == 2)
-            position += 2;
-        else
-            position += ((isHalfBytes ? (second + 1) / 2 : second) + 1) / 2 * 2;
-    }
-}
-
 bool isWholeBmp(QIODevice &file)
 {
     const BmpHeader header = readBmpHeader(file);
@@ -131,58 +130,6 @@ bool isWholeBmp(QIODevice &file)
     const bool isInRuns = !isOld && (compression == 1 || compression == 2);
     return !isInRuns ||
            hasAllBmpRuns(reader, reader.number(10, 4, true), compression == 2, qint64(header.size.height()));
-}
-
-} // namespace
-
-bool isWhole(QIODevice &file, Content content)
-{
-    switch (content) {
-    case Content::Jpeg:
-        return isWholeJpeg(file);
-    case Content::Png:
-        return isWholePng(file);
-    case Content::Gif:
-        return isWholeGif(file);
-    case Content::Webp:
-        return isWholeWebp(file);
-    case Content::Bmp:
-        return isWholeBmp(file);
-    case Content::Tiff:
-        return isWholeTiff(file);
-    case Content::Jpeg2000:
-        return isWholeJpeg2000(file);
-    case Content::Photoshop:
-        return isWholePhotoshop(file);
-    case Content::Heif:
-    case Content::Avif:
-        return isWholeIsoMedia(file);
-    case Content::JpegXl: // its decoder tells
-    case Content::Pdf:
-    case Content::Svg:
-    case Content::Unknown:
-        break;
-    }
-    return true;
-}
-
-bool isWholeRaw(QIODevice &file)
-{
-    const QByteArray mark = file.seek(0) ? file.peek(2) : QByteArray();
-    const bool isLikeTiff = mark == "II" || mark == "MM";
-    return !isLikeTiff || isWholeTiff(file);
-}
-
-bool isWholePicture(const QString &path)
-{
-    QFile file(path);
-    if (!openToRead(file))
-        return false;
-    const QByteArray head = file.peek(contentHeadBytes);
-    if (isCameraRaw(head))
-        return isWholeRaw(file);
-    const Content content = contentOf(head);
-    return content != Content::Unknown && isWhole(file, content);
 }
 
 } // namespace platform

@@ -1,6 +1,6 @@
 #include "platform/foundation/byte_order.h"
 #include "platform/imageio/bytes/deflate.h"
-#include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/encoders/encoders.h"
 #include "platform/imageio/png/png_chunks.h"
 #include "platform/imageio/png/png_rows.h"
 

@@ -1,5 +1,5 @@
-#include "platform/imageio/encode/encoders.h"
-#include "platform/imageio/encode/quality_scale.h"
+#include "platform/imageio/encoders/encoders.h"
+#include "platform/imageio/encoders/quality_scale.h"
 
 #include <QCoreApplication>
 

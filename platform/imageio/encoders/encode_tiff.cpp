@@ -1,4 +1,4 @@
-#include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/encoders/encoders.h"
 #include "platform/imageio/tiff/tiff_form.h"
 #include "platform/imageio/tiff/tiff_tags.h"
 

@@ -1,4 +1,4 @@
-#include "platform/imageio/encode/encoders.h"
+#include "platform/imageio/encoders/encoders.h"
 #include "platform/imageio/jpeg/jpeg_error.h"
 
 #include <QCoreApplication>

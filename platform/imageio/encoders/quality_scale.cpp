@@ -1,4 +1,4 @@
-#include "platform/imageio/encode/quality_scale.h"
+#include "platform/imageio/encoders/quality_scale.h"
 
 #include <algorithm>
 #include <array>
