@@ -1,5 +1,6 @@
 #include "files/finishing/unfinished_folder.h"
 
+#include "platform/disk/disk_file_system.h"
 #include "platform/disk/folders.h"
 #include "platform/disk/item_identity.h"
 #include "platform/file/sign_of_life.h"
@@ -7,7 +8,6 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -105,7 +105,7 @@ QString makeStaging(const QString &folder)
                                  .arg(platform::withoutTrailingSlashes(folder), prefix, machineMark())
                                  .arg(QCoreApplication::applicationPid())
                                  .arg(++count);
-        const QByteArray name = QFile::encodeName(path);
+        const QByteArray name = platform::encodedPath(path);
         if (::mkdir(name.constData(), 0700) != 0 && errno != EEXIST)
             return {};
         // A folder that was there, or got there since, is left alone, and so is one that a sweeper got hold of first.
@@ -135,16 +135,17 @@ void removeStaging(const QString &staging)
 
 void sweepStagings(const QString &folder)
 {
-    const QDir dir(folder);
-    const QStringList found =
-        dir.entryList({prefix + QLatin1Char('*')}, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks);
-    for (const QString &name : found) {
-        const QByteArray path = QFile::encodeName(dir.filePath(name));
+    const platform::DiskFileSystem disk;
+    const QString own = disk.canonicalFolder(folder); // the folder may have been named by a link
+    for (const platform::FolderEntry &entry : disk.list(own).value_or(std::vector<platform::FolderEntry>())) {
+        if (!entry.mayBeFolder || !entry.name.startsWith(prefix))
+            continue;
+        const QByteArray path = platform::encodedPath(platform::joinedPath(own, entry.name));
         const int descriptor = openOwn(path);
         if (descriptor < 0)
             continue;
         const platform::Life life = platform::showLife(descriptor);
-        if (life == platform::Life::Shown || (life == platform::Life::Unknown && makerHasEnded(name)))
+        if (life == platform::Life::Shown || (life == platform::Life::Unknown && makerHasEnded(entry.name)))
             removeOpen(descriptor, path);
         ::close(descriptor);
     }

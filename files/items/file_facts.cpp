@@ -3,9 +3,9 @@
 #include "image/services/format_words.h"
 #include "platform/disk/item_facts.h"
 #include "platform/foundation/human_texts.h"
+#include "platform/foundation/paths.h"
 #include "platform/imageio/source/picture_facts.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -70,7 +70,7 @@ DiskSpace diskSpace(const QString &path)
     QString there = path;
     while (!QFileInfo::exists(there) && there.contains(QLatin1Char('/')))
         there.truncate(there.lastIndexOf(QLatin1Char('/')));
-    const QByteArray name = QFile::encodeName(there.isEmpty() ? QStringLiteral("/") : there);
+    const QByteArray name = platform::encodedPath(there.isEmpty() ? QStringLiteral("/") : there);
     struct statvfs system = {};
     if (::statvfs(name.constData(), &system) == 0)
         space.freeBytes = qint64(system.f_bavail) * qint64(system.f_frsize);

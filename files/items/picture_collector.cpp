@@ -1,9 +1,11 @@
 #include "files/items/picture_collector.h"
 
 #include "platform/disk/folder_walk.h"
+#include "platform/disk/folders.h"
+#include "platform/file/regular_file.h"
 #include "platform/foundation/natural_order.h"
+#include "platform/foundation/paths.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -14,9 +16,10 @@ namespace files {
 
 namespace {
 
-QString decoded(std::string_view bytes)
+QString decoded(std::string_view bytes, OddNames oddNames)
 {
-    return QFile::decodeName(QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size())));
+    const QByteArrayView view(bytes.data(), qsizetype(bytes.size()));
+    return oddNames == OddNames::AsPaths ? platform::decodedPath(view) : QString::fromUtf8(view);
 }
 
 QSet<QString> lowered(const QStringList &extensions)
@@ -40,7 +43,8 @@ class Collector
 public:
     explicit Collector(const CollectRule &rule)
         : m_takesAny(rule.extensions.contains(QLatin1String("*"))), m_extensions(lowered(rule.extensions)),
-          m_companions(lowered(rule.companions)), m_listed(lowered(rule.listed)), m_order(platform::naturalOrder())
+          m_companions(lowered(rule.companions)), m_listed(lowered(rule.listed)), m_oddNames(rule.oddNames),
+          m_order(platform::naturalOrder())
     {
     }
 
@@ -69,6 +73,7 @@ private:
     QSet<QString> m_extensions;
     QSet<QString> m_companions;
     QSet<QString> m_listed;
+    OddNames m_oddNames;
     QCollator m_order;
     Collected m_result;
 };
@@ -76,10 +81,10 @@ private:
 void Collector::take(const QString &path)
 {
     const QFileInfo info(path);
-    if (info.isDir()) {
+    if (platform::folderExists(path)) {
         m_result.folders.append(info.absoluteFilePath());
         takeFolder(walked(info.absoluteFilePath()));
-    } else if (info.isFile()) {
+    } else if (platform::regularFile(path)) {
         file(info.absoluteFilePath(), info.fileName());
     } else {
         leaveOut(path, info.fileName(), false);
@@ -115,12 +120,12 @@ std::vector<Walked> Collector::walked(const QString &folder) const
     const QString root = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
     std::vector<Walked> all = {{root, {}, {}}};
     // From the root down to the folder that is walked: where it stands in the list, and how long its path is.
-    std::vector<std::pair<size_t, size_t>> above = {{0, size_t(QFile::encodeName(root).size())}};
+    std::vector<std::pair<size_t, size_t>> above = {{0, size_t(platform::encodedPath(root).size())}};
     platform::walkFolder(folder, options, [&](const platform::FolderItem &item) {
         while (above.size() > 1 && above.back().second != item.path.size() - item.name.size())
             above.pop_back();
         const size_t parent = above.back().first;
-        const QString name = decoded(item.name);
+        const QString name = decoded(item.name, m_oddNames);
         if (!item.isFolder) {
             all[parent].files.append(name);
             return platform::Descend::No;

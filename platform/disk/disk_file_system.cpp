@@ -5,8 +5,7 @@
 #include "platform/disk/same_content.h"
 #include "platform/disk/trash.h"
 #include "platform/foundation/last_error.h"
-
-#include <QFile>
+#include "platform/foundation/paths.h"
 
 #include <cerrno>
 #include <climits>
@@ -43,7 +42,7 @@ qint64 nanoseconds(const struct statx_timestamp &time)
 
 std::filesystem::path native(const QString &path)
 {
-    return std::filesystem::path(QFile::encodeName(path).toStdString());
+    return std::filesystem::path(encodedPath(path).toStdString());
 }
 
 } // namespace
@@ -52,7 +51,7 @@ std::optional<ItemState> DiskFileSystem::look(const QString &path) const
 {
     struct statx found = {};
     constexpr unsigned wanted = STATX_BASIC_STATS | STATX_BTIME;
-    if (::statx(AT_FDCWD, QFile::encodeName(path).constData(), AT_SYMLINK_NOFOLLOW, wanted, &found) != 0)
+    if (::statx(AT_FDCWD, encodedPath(path).constData(), AT_SYMLINK_NOFOLLOW, wanted, &found) != 0)
         return std::nullopt;
     ItemState state;
     state.kind = kindOf(found.stx_mode);
@@ -68,7 +67,7 @@ std::optional<ItemState> DiskFileSystem::look(const QString &path) const
 std::optional<std::vector<FolderEntry>> DiskFileSystem::list(const QString &folder) const
 {
     constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-    const int descriptor = ::open(QFile::encodeName(folder).constData(), flags);
+    const int descriptor = ::open(encodedPath(folder).constData(), flags);
     const std::unique_ptr<DIR, int (*)(DIR *)> open(descriptor < 0 ? nullptr : ::fdopendir(descriptor), &::closedir);
     if (!open)
         return std::nullopt;
@@ -77,8 +76,7 @@ std::optional<std::vector<FolderEntry>> DiskFileSystem::list(const QString &fold
     while (const dirent *entry = ::readdir(open.get())) {
         const std::string_view name = entry->d_name;
         if (name != "." && name != "..")
-            entries.push_back(
-                {QFile::decodeName(entry->d_name), entry->d_type == DT_DIR || entry->d_type == DT_UNKNOWN});
+            entries.push_back({decodedPath(entry->d_name), entry->d_type == DT_DIR || entry->d_type == DT_UNKNOWN});
     }
     return errno == 0 ? std::optional(std::move(entries)) : std::nullopt;
 }
@@ -87,15 +85,15 @@ QString DiskFileSystem::canonicalFolder(const QString &folder) const
 {
     char resolved[PATH_MAX];
     struct stat found = {};
-    if (!::realpath(QFile::encodeName(folder).constData(), resolved) || ::stat(resolved, &found) != 0 ||
+    if (!::realpath(encodedPath(folder).constData(), resolved) || ::stat(resolved, &found) != 0 ||
         !S_ISDIR(found.st_mode))
         return {};
-    return QFile::decodeName(resolved);
+    return decodedPath(resolved);
 }
 
 bool DiskFileSystem::mayChange(const QString &folder) const
 {
-    return ::faccessat(AT_FDCWD, QFile::encodeName(folder).constData(), W_OK | X_OK, AT_EACCESS) == 0;
+    return ::faccessat(AT_FDCWD, encodedPath(folder).constData(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
 bool DiskFileSystem::mayBeTakenAway(const QString &path) const
@@ -106,8 +104,8 @@ bool DiskFileSystem::mayBeTakenAway(const QString &path) const
 QString DiskFileSystem::linkText(const QString &path) const
 {
     char text[PATH_MAX];
-    const ssize_t size = ::readlink(QFile::encodeName(path).constData(), text, sizeof text);
-    return size < 0 ? QString() : QFile::decodeName(QByteArray(text, size));
+    const ssize_t size = ::readlink(encodedPath(path).constData(), text, sizeof text);
+    return size < 0 ? QString() : decodedPath(QByteArray(text, size));
 }
 
 bool DiskFileSystem::haveSameContent(const QString &one, const QString &other) const
@@ -122,8 +120,8 @@ std::error_code DiskFileSystem::rename(const QString &from, const QString &to)
 
 std::error_code DiskFileSystem::exchange(const QString &one, const QString &other)
 {
-    const std::error_code error = outcome(::renameat2(AT_FDCWD, QFile::encodeName(one).constData(), AT_FDCWD,
-                                                      QFile::encodeName(other).constData(), RENAME_EXCHANGE));
+    const std::error_code error = outcome(
+        ::renameat2(AT_FDCWD, encodedPath(one).constData(), AT_FDCWD, encodedPath(other).constData(), RENAME_EXCHANGE));
     // Old systems and some file systems do not know the request.
     const bool isUnknown = error == std::errc::invalid_argument || error == std::errc::function_not_supported ||
                            error == std::errc::operation_not_supported;
@@ -132,29 +130,29 @@ std::error_code DiskFileSystem::exchange(const QString &one, const QString &othe
 
 std::error_code DiskFileSystem::replace(const QString &from, const QString &to)
 {
-    return outcome(::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()));
+    return outcome(::rename(encodedPath(from).constData(), encodedPath(to).constData()));
 }
 
 void DiskFileSystem::copyPermissions(const QString &from, const QString &to)
 {
     struct stat source = {};
-    if (::lstat(QFile::encodeName(from).constData(), &source) == 0)
-        ::chmod(QFile::encodeName(to).constData(), source.st_mode & 07777);
+    if (::lstat(encodedPath(from).constData(), &source) == 0)
+        ::chmod(encodedPath(to).constData(), source.st_mode & 07777);
 }
 
 std::error_code DiskFileSystem::makeFolder(const QString &path)
 {
-    return outcome(::mkdir(QFile::encodeName(path).constData(), 0777));
+    return outcome(::mkdir(encodedPath(path).constData(), 0777));
 }
 
 std::error_code DiskFileSystem::removeEmptyFolder(const QString &path)
 {
-    return outcome(::rmdir(QFile::encodeName(path).constData()));
+    return outcome(::rmdir(encodedPath(path).constData()));
 }
 
 std::error_code DiskFileSystem::makeLink(const QString &target, const QString &path)
 {
-    return outcome(::symlink(QFile::encodeName(target).constData(), QFile::encodeName(path).constData()));
+    return outcome(::symlink(encodedPath(target).constData(), encodedPath(path).constData()));
 }
 
 std::error_code DiskFileSystem::copy(const QString &from, const QString &to)

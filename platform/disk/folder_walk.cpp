@@ -1,6 +1,5 @@
 #include "platform/disk/folder_walk.h"
-
-#include <QFile>
+#include "platform/foundation/paths.h"
 
 #include <algorithm>
 #include <array>
@@ -211,7 +210,7 @@ bool isPackageName(std::string_view name)
 
 void walkFolder(const QString &root, const FolderWalkOptions &options, const FolderVisitor &visit)
 {
-    QByteArray path = QFile::encodeName(root);
+    QByteArray path = encodedPath(root);
     while (path.size() > 1 && path.endsWith('/'))
         path.chop(1);
     Walk(options, visit).run(path);

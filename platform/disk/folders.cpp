@@ -8,8 +8,6 @@
 #include "platform/foundation/paths.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QUuid>
 
 #include <algorithm>
@@ -29,7 +27,7 @@ namespace fs = std::filesystem;
 /** The path of the item itself: through a slash at the end a link would be followed. */
 fs::path native(const QString &path)
 {
-    return fs::path(QFile::encodeName(withoutTrailingSlashes(path)).toStdString());
+    return fs::path(encodedPath(withoutTrailingSlashes(path)).toStdString());
 }
 
 tl::unexpected<Error> noPath(const QString &path)
@@ -64,8 +62,7 @@ bool isStillEmpty(int file, const fs::path &path)
  */
 std::error_code renameOntoPlaceholder(const fs::path &from, const fs::path &to)
 {
-    const HiddenItem noted(HiddenItem::What::Placeholder, QFile::decodeName(to.c_str()),
-                           QFile::decodeName(from.c_str()));
+    const HiddenItem noted(HiddenItem::What::Placeholder, decodedPath(to.c_str()), decodedPath(from.c_str()));
     const int placeholder = ::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (placeholder < 0)
         return lastError();
@@ -90,8 +87,7 @@ bool isForLackOfLinks(const std::error_code &error)
 /** A second name for the file refuses a name that is taken; then the first name goes. The note is for a kill in between. */
 std::error_code renameByLink(const fs::path &from, const fs::path &to)
 {
-    const HiddenItem noted(HiddenItem::What::SecondName, QFile::decodeName(to.c_str()),
-                           QFile::decodeName(from.c_str()));
+    const HiddenItem noted(HiddenItem::What::SecondName, decodedPath(to.c_str()), decodedPath(from.c_str()));
     if (::link(from.c_str(), to.c_str()) != 0)
         return lastError();
     if (::unlink(from.c_str()) == 0)
@@ -215,7 +211,8 @@ bool mayBeTakenAway(const QString &path)
 
 bool itemExists(const QString &path)
 {
-    return QFileInfo::exists(path);
+    struct stat found = {};
+    return canBeAPath(path) && ::stat(encodedPath(path).constData(), &found) == 0;
 }
 
 bool isTaken(const QString &path)
@@ -226,7 +223,8 @@ bool isTaken(const QString &path)
 
 bool folderExists(const QString &path)
 {
-    return QFileInfo(path).isDir();
+    struct stat found = {};
+    return canBeAPath(path) && ::stat(encodedPath(path).constData(), &found) == 0 && S_ISDIR(found.st_mode);
 }
 
 Result<void> makeFolder(const QString &path)
@@ -321,7 +319,7 @@ Result<void> makeLink(const QString &target, const QString &path)
 {
     std::error_code error = std::make_error_code(std::errc::invalid_argument);
     if (canBeAPath(target) && canBeAPath(path))
-        fs::create_symlink(fs::path(QFile::encodeName(target).toStdString()), native(path), error);
+        fs::create_symlink(fs::path(encodedPath(target).toStdString()), native(path), error);
     if (error)
         return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot link %1: %2").arg(path, because(error)));
     return {};

@@ -27,7 +27,7 @@ namespace {
 
 std::filesystem::path native(const QString &path)
 {
-    return std::filesystem::path(QFile::encodeName(path).toStdString());
+    return std::filesystem::path(encodedPath(path).toStdString());
 }
 
 struct Note
@@ -59,12 +59,12 @@ void endPlaceholder(const Note &note)
 {
     const QString &path = note.hidden;
     constexpr qint64 mostSeconds = 10; // the clocks of other disks, and those that count every other second
-    const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    const int file = ::open(encodedPath(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     struct stat found = {};
     const bool isEmpty = file >= 0 && ::fstat(file, &found) == 0 && S_ISREG(found.st_mode) && found.st_size == 0;
     const bool isOwn = found.st_uid == ::geteuid() && std::abs(found.st_mtime - note.seconds) <= mostSeconds;
     if (isEmpty && isOwn && isTaken(note.item) && showLife(file) != Life::Others)
-        ::unlink(QFile::encodeName(path).constData());
+        ::unlink(encodedPath(path).constData());
     if (file >= 0)
         ::close(file);
 }
@@ -74,9 +74,9 @@ void endSecondName(const Note &note)
 {
     struct stat second = {};
     struct stat first = {};
-    const QByteArray path = QFile::encodeName(note.hidden);
+    const QByteArray path = encodedPath(note.hidden);
     const bool areBoth =
-        ::lstat(path.constData(), &second) == 0 && ::lstat(QFile::encodeName(note.item).constData(), &first) == 0;
+        ::lstat(path.constData(), &second) == 0 && ::lstat(encodedPath(note.item).constData(), &first) == 0;
     const bool isOne = areBoth && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
     if (isOne && note.names > 0 && qint64(second.st_nlink) > note.names)
         ::unlink(path.constData());

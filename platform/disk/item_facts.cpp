@@ -3,8 +3,6 @@
 #include "platform/disk/folders.h"
 #include "platform/foundation/paths.h"
 
-#include <QFile>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -23,7 +21,7 @@ QDateTime dateOf(const struct statx_timestamp &stamp)
 Result<ItemFacts> itemFacts(const QString &path)
 {
     struct statx found = {};
-    const QByteArray name = QFile::encodeName(withoutTrailingSlashes(path));
+    const QByteArray name = encodedPath(withoutTrailingSlashes(path));
     if (!isTaken(path) ||
         ::statx(AT_FDCWD, name.constData(), AT_SYMLINK_NOFOLLOW, STATX_BASIC_STATS | STATX_BTIME, &found) != 0)
         return failure(ErrorCode::NotFound, QStringLiteral("Cannot find %1").arg(path));

@@ -4,7 +4,7 @@
 #include "platform/foundation/paths.h"
 
 #include <QDir>
-#include <QFile>
+#include <QHashFunctions>
 
 #include <algorithm>
 
@@ -35,15 +35,27 @@ bool isIdentity(QStringView text)
 QString itemIdentity(const QString &path)
 {
     struct stat item = {};
-    const bool isThere =
-        canBeAPath(path) && ::lstat(QFile::encodeName(withoutTrailingSlashes(path)).constData(), &item) == 0;
+    const bool isThere = canBeAPath(path) && ::lstat(encodedPath(withoutTrailingSlashes(path)).constData(), &item) == 0;
     return isThere ? identityOf(item) : QString();
 }
 
 QString targetIdentity(const QString &path)
 {
     struct stat item = {};
-    return canBeAPath(path) && ::stat(QFile::encodeName(path).constData(), &item) == 0 ? identityOf(item) : QString();
+    return canBeAPath(path) && ::stat(encodedPath(path).constData(), &item) == 0 ? identityOf(item) : QString();
+}
+
+size_t qHash(const ItemNumber &item, size_t seed)
+{
+    return qHashMulti(seed, item.device, item.inode);
+}
+
+std::optional<TargetFacts> targetFacts(const QString &path)
+{
+    struct stat item = {};
+    if (!canBeAPath(path) || ::stat(encodedPath(path).constData(), &item) != 0)
+        return std::nullopt;
+    return TargetFacts{{item.st_dev, item.st_ino}, S_ISREG(item.st_mode), S_ISDIR(item.st_mode), item.st_nlink > 1};
 }
 
 QString folderIdentity(const QString &path)

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 struct stat;
 
 namespace platform {
@@ -23,6 +25,29 @@ QString itemIdentity(const QString &path);
 
 /** Of what the path leads to. */
 QString targetIdentity(const QString &path);
+
+/** The same in numbers, for those who keep many: 16 bytes each. */
+struct ItemNumber
+{
+    quint64 device = 0;
+    quint64 inode = 0;
+
+    bool operator==(const ItemNumber &) const = default;
+};
+
+size_t qHash(const ItemNumber &item, size_t seed);
+
+/** What a path leads to. */
+struct TargetFacts
+{
+    ItemNumber number;
+    bool isFile = false; ///< an ordinary one
+    bool isFolder = false;
+    bool hasSecondName = false; ///< the file has hard links
+};
+
+/** None where nothing is. */
+std::optional<TargetFacts> targetFacts(const QString &path);
 
 /** Of the folder at @p path, which need not be there yet: then of the one above that is, with the rest of the path. */
 QString folderIdentity(const QString &path);

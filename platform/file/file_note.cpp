@@ -1,6 +1,5 @@
 #include "platform/file/file_note.h"
-
-#include <QFile>
+#include "platform/foundation/paths.h"
 
 #include <sys/xattr.h>
 
@@ -13,15 +12,14 @@ constexpr const char *attribute = "user.quorlin.result";
 
 bool attachNote(const QString &path, const QByteArray &note)
 {
-    return ::lsetxattr(QFile::encodeName(path).constData(), attribute, note.constData(), size_t(note.size()), 0) == 0;
+    return ::lsetxattr(encodedPath(path).constData(), attribute, note.constData(), size_t(note.size()), 0) == 0;
 }
 
 QByteArray attachedNote(const QString &path)
 {
     constexpr qsizetype longest = 4096;
     QByteArray note(longest, '\0');
-    const ssize_t length =
-        ::lgetxattr(QFile::encodeName(path).constData(), attribute, note.data(), size_t(note.size()));
+    const ssize_t length = ::lgetxattr(encodedPath(path).constData(), attribute, note.data(), size_t(note.size()));
     note.resize(qMax<qsizetype>(length, 0));
     return note;
 }

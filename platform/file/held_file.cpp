@@ -1,6 +1,5 @@
 #include "platform/file/held_file.h"
-
-#include <QFile>
+#include "platform/foundation/paths.h"
 
 #include <cerrno>
 #include <cstring>
@@ -43,7 +42,7 @@ HeldFile::~HeldFile()
 Result<HeldFile> HeldFile::make(const QString &path)
 {
     const int descriptor =
-        ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0600);
+        ::open(encodedPath(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0600);
     if (descriptor < 0)
         return because(ErrorCode::WriteFailed, path, errno);
     HeldFile file(path, descriptor);
@@ -55,7 +54,7 @@ Result<HeldFile> HeldFile::make(const QString &path)
 Result<HeldFile> HeldFile::open(const QString &path)
 {
     constexpr int flags = O_RDWR | O_APPEND | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
-    const int descriptor = ::open(QFile::encodeName(path).constData(), flags);
+    const int descriptor = ::open(encodedPath(path).constData(), flags);
     if (descriptor < 0)
         return because(ErrorCode::NotFound, path, errno);
     HeldFile file(path, descriptor);

@@ -21,14 +21,14 @@ namespace {
 bool isThere(const QString &path)
 {
     struct stat found = {};
-    return ::lstat(QFile::encodeName(path).constData(), &found) == 0;
+    return ::lstat(encodedPath(path).constData(), &found) == 0;
 }
 
 /** How many names an item has; 0 where there is none. */
 int namesOf(const QString &path)
 {
     struct stat found = {};
-    return ::lstat(QFile::encodeName(path).constData(), &found) == 0 ? int(found.st_nlink) : 0;
+    return ::lstat(encodedPath(path).constData(), &found) == 0 ? int(found.st_nlink) : 0;
 }
 
 QByteArray lineOf(const QJsonObject &object)

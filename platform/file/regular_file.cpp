@@ -33,6 +33,17 @@ tl::unexpected<Error> noOrdinaryFile(const QString &path)
 
 } // namespace
 
+std::optional<RegularFile> regularFile(const QString &path)
+{
+    struct stat status = {};
+    if (!canBeAPath(path) || ::stat(encodedPath(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    constexpr qint64 msPerSecond = 1000;
+    constexpr qint64 nsPerMs = 1'000'000;
+    const qint64 ms = status.st_mtim.tv_sec * msPerSecond + status.st_mtim.tv_nsec / nsPerMs;
+    return RegularFile{qint64(status.st_size), QDateTime::fromMSecsSinceEpoch(ms)};
+}
+
 qint64 NamedFile::readData(char *data, qint64 count)
 {
     const qint64 read = QFile::readData(data, count);
@@ -54,7 +65,7 @@ Result<void> openToRead(QFile &file, QIODevice::OpenMode more)
     const QString path = file.fileName();
     if (!canBeAPath(path))
         return unreadBecause(path, ENOENT);
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = encodedPath(path);
     struct stat status = {};
     if (::stat(name.constData(), &status) != 0)
         return unreadBecause(path, errno);

@@ -2,9 +2,22 @@
 
 #include "platform/foundation/result.h"
 
+#include <QDateTime>
 #include <QFile>
 
+#include <optional>
+
 namespace platform {
+
+/** What a disk knows of an ordinary file. */
+struct RegularFile
+{
+    qint64 bytes = 0;
+    QDateTime modified;
+};
+
+/** Of the ordinary file at @p path, or the one that a link leads to; none for anything else. */
+std::optional<RegularFile> regularFile(const QString &path);
 
 /**
  * A file that knows its name also when it was opened by a descriptor, and remembers that some of it could not be read, which

@@ -2,7 +2,6 @@
 
 #include "platform/foundation/paths.h"
 
-#include <QFile>
 #include <QSet>
 
 #include <cerrno>
@@ -52,12 +51,12 @@ bool isStillNamed(int descriptor, const QByteArray &path)
 void sweepUnfinishedFile(const QString &path)
 {
     if (lastPathComponent(path).startsWith(QLatin1String(unfinishedName)))
-        sweepOne(AT_FDCWD, QFile::encodeName(path).constData());
+        sweepOne(AT_FDCWD, encodedPath(path).constData());
 }
 
 void sweepUnfinished(const QString &folder)
 {
-    const std::unique_ptr<DIR, int (*)(DIR *)> list(::opendir(QFile::encodeName(folder).constData()), &::closedir);
+    const std::unique_ptr<DIR, int (*)(DIR *)> list(::opendir(encodedPath(folder).constData()), &::closedir);
     if (!list)
         return;
     while (const dirent *entry = ::readdir(list.get()))

@@ -5,7 +5,6 @@
 #include "platform/foundation/paths.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
 
@@ -39,7 +38,7 @@ tl::unexpected<Error> writeFailure(const QString &path, int code)
 }
 
 TemporaryFile::TemporaryFile(const QString &target)
-    : m_target(QFile::encodeName(target)), m_folder(QFile::encodeName(QFileInfo(target).path()))
+    : m_target(encodedPath(target)), m_folder(encodedPath(QFileInfo(target).path()))
 {
     errno = ENOENT;
     if (!canBeAPath(target) || !mayBeReplaced(m_target))
@@ -69,7 +68,7 @@ QByteArray TemporaryFile::anyHiddenName() const
 /** Before there is such a file, so that no kill can come between the two. */
 void TemporaryFile::noteName(const QByteArray &name)
 {
-    m_noted.emplace(HiddenItem::What::Part, QFile::decodeName(name), QFile::decodeName(m_target));
+    m_noted.emplace(HiddenItem::What::Part, decodedPath(name), decodedPath(m_target));
 }
 
 bool TemporaryFile::openNamed()

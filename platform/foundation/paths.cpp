@@ -1,9 +1,59 @@
 #include "platform/foundation/paths.h"
 
+#include "platform/foundation/utf8.h"
+
 #include <QDir>
+
+#include <filesystem>
 
 namespace platform {
 namespace {
+
+constexpr char16_t firstByteSign = 0xdc80; ///< of the bytes from 0x80, which alone can be out of place in UTF-8
+constexpr char16_t lastByteSign = 0xdcff;
+
+/** How many bytes the character takes that begins at @p at; 0 where none does. */
+qsizetype characterAt(QByteArrayView bytes, qsizetype at)
+{
+    const auto byte = [&](qsizetype i) { return uchar(bytes[i]); };
+    const uchar first = byte(at);
+    const qsizetype size = first < 0x80   ? 1
+                           : first < 0xc2 ? 0
+                           : first < 0xe0 ? 2
+                           : first < 0xf0 ? 3
+                           : first < 0xf5 ? 4
+                                          : 0;
+    if (size < 2 || at + size > bytes.size())
+        return size < 2 ? size : 0;
+    // Overlong forms, surrogates and codes that are too high show in the second byte.
+    const uchar least = first == 0xe0 ? 0xa0 : first == 0xf0 ? 0x90 : 0x80;
+    const uchar most = first == 0xed ? 0x9f : first == 0xf4 ? 0x8f : 0xbf;
+    if (byte(at + 1) < least || byte(at + 1) > most)
+        return 0;
+    for (qsizetype i = at + 2; i < at + size; ++i)
+        if (byte(i) < 0x80 || byte(i) > 0xbf)
+            return 0;
+    return size;
+}
+
+/** Where the first half of a surrogate pair stands alone; -1 where none does. */
+qsizetype loneSurrogate(const QString &text, qsizetype from)
+{
+    for (qsizetype at = from; at < text.size(); ++at) {
+        if (!text[at].isSurrogate())
+            continue;
+        const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        if (!isPair)
+            return at;
+        ++at;
+    }
+    return -1;
+}
+
+bool isByteSign(QChar sign)
+{
+    return sign >= QChar(firstByteSign) && sign <= QChar(lastByteSign);
+}
 
 /** Where the dot of the extension stands in @p name, or -1. A name that begins with its only dot has no extension. */
 qsizetype extensionDot(const QString &name)
@@ -13,6 +63,38 @@ qsizetype extensionDot(const QString &name)
 }
 
 } // namespace
+
+QString decodedPath(QByteArrayView bytes)
+{
+    if (const auto text = textFromUtf8(bytes.toByteArray()))
+        return *text;
+    QString path;
+    qsizetype valid = 0; // where the valid bytes before begin
+    for (qsizetype at = 0; at < bytes.size();) {
+        const qsizetype size = characterAt(bytes, at);
+        if (size == 0) {
+            path += QString::fromUtf8(bytes.sliced(valid, at - valid)) + QChar(char16_t(0xdc00 + uchar(bytes[at])));
+            valid = at + 1;
+        }
+        at += qMax<qsizetype>(size, 1);
+    }
+    return path + QString::fromUtf8(bytes.sliced(valid));
+}
+
+QByteArray encodedPath(const QString &path)
+{
+    QByteArray bytes;
+    qsizetype done = 0;
+    for (qsizetype at = loneSurrogate(path, 0); at >= 0; at = loneSurrogate(path, done)) {
+        bytes += QStringView(path).sliced(done, at - done).toUtf8();
+        if (isByteSign(path[at]))
+            bytes += char(path[at].unicode() - 0xdc00);
+        else
+            bytes += "\xef\xbf\xbd"; // the sign for what is no character
+        done = at + 1;
+    }
+    return done == 0 ? path.toUtf8() : bytes + QStringView(path).sliced(done).toUtf8();
+}
 
 QString lastPathComponent(const QString &path)
 {
@@ -49,7 +131,21 @@ QString withoutTrailingSlashes(const QString &path)
 
 bool canBeAPath(const QString &path)
 {
-    return !path.isEmpty() && !path.contains(QChar(u'\0')) && path.isValidUtf16();
+    if (path.isEmpty() || path.contains(QChar(u'\0')))
+        return false;
+    for (qsizetype at = loneSurrogate(path, 0); at >= 0; at = loneSurrogate(path, at + 1))
+        if (!isByteSign(path[at]))
+            return false;
+    return true;
+}
+
+QString absolutePath(const QString &path)
+{
+    if (path.startsWith(u'/'))
+        return QDir::cleanPath(path);
+    std::error_code error;
+    const QByteArray here = QByteArray::fromStdString(std::filesystem::current_path(error).native());
+    return QDir::cleanPath(decodedPath(here) + u'/' + path);
 }
 
 QString parentFolder(const QString &path)

@@ -1,6 +1,7 @@
 #include "platform/imageio/comments/user_comment_writer.h"
 
 #include "platform/file/regular_file.h"
+#include "platform/foundation/paths.h"
 #include "platform/imageio/comments/comment_splices.h"
 #include "platform/imageio/source/image_source.h"
 
@@ -110,8 +111,7 @@ Result<void> writeUserComment(const QString &path, const QString &comment)
         return tl::unexpected<Error>(picture.error());
     if (changeNothing(file, *splices))
         return {};
-    if (::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), W_OK, AT_EACCESS) !=
-        0) // whoever protected it meant it
+    if (::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) != 0) // whoever protected it meant it
         return failed(ErrorCode::WriteFailed, text("the file is write-protected"));
     return spliceFile(file, *splices, [&](const QString &editedPath) -> Result<void> {
         const Result<void> checked = checkEdited(*picture, editedPath, comment);

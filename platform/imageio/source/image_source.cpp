@@ -3,6 +3,7 @@
 #include "platform/file/atomic_file.h"
 #include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
+#include "platform/foundation/paths.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/codecs/codecs.h"
 #include "platform/imageio/codecs/whole_picture.h"
@@ -15,9 +16,9 @@
 #include "platform/imageio/tiff/camera_raw.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <cmath>
+#include <unistd.h>
 #include <utility>
 
 namespace platform {
@@ -144,7 +145,7 @@ Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
     file->bytes = std::move(bytes);
     const std::unique_ptr<QIODevice> device = file->bytes.device();
     if (!device) {
-        const bool exists = QFile::exists(file->bytes.path);
+        const bool exists = ::access(encodedPath(file->bytes.path).constData(), F_OK) == 0;
         return failure(ErrorCode::NotFound,
                        text("Cannot read %1: %2")
                            .arg(file->name(), exists ? text("no permission") : text("there is no such file")));
