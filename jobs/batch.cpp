@@ -4,12 +4,12 @@
 #include "image/recipe/plan.h"
 #include "image/recipe/sentence.h"
 #include "jobs/output_places.h"
+#include "jobs/path_hash.h"
 #include "jobs/result_files.h"
+#include "platform/file/regular_file.h"
+#include "platform/foundation/paths.h"
 
-#include <QCryptographicHash>
 #include <QElapsedTimer>
-#include <QFileInfo>
-#include <QtEndian>
 
 namespace jobs {
 namespace {
@@ -36,10 +36,14 @@ LineStatus statusOf(const OutputPlan &plan)
 class Batch
 {
 public:
-    Batch(const Recipe &recipe, const QList<Input> &inputs, const BatchOptions &options, const TakeLine &take,
+    Batch(const Recipe &recipe, Inputs &inputs, const BatchOptions &options, const TakeLine &take,
           const std::function<bool()> &isStopped)
         : m_recipe(recipe), m_inputs(inputs), m_options(options), m_take(take), m_isStopped(isStopped),
-          m_places(recipe, options.recipe, inputs, options.destination)
+          m_places(
+              recipe,
+              {options.recipe, options.plan ? &*options.plan : nullptr, options.resumed ? &*options.resumed : nullptr},
+              inputs, options.destination),
+          m_needsPictures(namesNeedPictures(recipe))
     {
     }
 
@@ -47,20 +51,20 @@ public:
     {
         QElapsedTimer timer;
         timer.start();
-        for (int number = 0; number < m_inputs.size() && m_goesOn; ++number) {
+        if (replacesAnything(m_recipe))
+            m_inputs.readToTheEnd(m_isStopped);
+        while (m_goesOn && hasNext()) {
+            const int number = m_inputs.taken();
+            const Input input = m_inputs.take();
             // Names and counters are those of all inputs, whatever part of them is done here.
-            const bool isOthers = !isInShard(m_inputs[number], m_options.shard, m_options.shards);
-            const QList<OutputPlace> places = placesOf(number, isOthers);
-            if (isOthers)
-                continue;
-            if (m_isStopped())
-                break;
-            const QList<int> wanted = wantedOf(m_inputs[number]);
+            const bool isOthers = !isInShard(input, m_options.shard, m_options.shards);
+            const QList<OutputPlace> places = placesOf(input, number, isOthers);
+            const QList<int> wanted = isOthers ? QList<int>() : wantedOf(input);
             if (wanted.isEmpty())
                 continue;
             ++m_summary.inputs;
             m_rooms.letGoOfMany();
-            work(number, places, wanted);
+            work(input, number, places, wanted);
         }
         constexpr double milliseconds = 1000;
         m_summary.seconds = double(timer.elapsed()) / milliseconds;
@@ -68,10 +72,21 @@ public:
     }
 
 private:
-    QList<OutputPlace> placesOf(int number, bool isOthers)
+    /** Waits for the next input. False where there is none, or where the batch is stopped. */
+    bool hasNext()
     {
-        const Input &input = m_inputs[number];
-        m_plans = plansOf(input);
+        constexpr int waitMs = 100;
+        Inputs::State state = Inputs::State::Waiting;
+        while (!m_isStopped() && state == Inputs::State::Waiting)
+            state = m_inputs.look(waitMs);
+        return !m_isStopped() && state == Inputs::State::Ready;
+    }
+
+    QList<OutputPlace> placesOf(const Input &input, int number, bool isOthers)
+    {
+        if (isOthers && m_options.plan)
+            return {};
+        m_plans = isOthers && !m_needsPictures ? QList<OutputPlan>() : plansOf(input);
         if (!m_options.plan)
             return m_places.of(input, number, m_plans, doneOf(input), isOthers);
         QList<OutputPlace> places;
@@ -79,7 +94,10 @@ private:
             const auto known = m_options.plan->of(m_options.recipe, input.path, index);
             const QString path = known ? known->output : QString();
             places.append(path.isEmpty() ? OutputPlace{} : m_places.at(path, input, index));
-            if (path.isEmpty() && m_plans[index].problem.isEmpty())
+            if (!path.isEmpty())
+                continue;
+            m_plans[index].isNotSupported = false;
+            if (m_plans[index].problem.isEmpty())
                 m_plans[index].problem = image::sentence("the plan has no output for it");
         }
         return places;
@@ -127,16 +145,20 @@ private:
     {
         const auto known =
             m_options.resumed ? m_options.resumed->of(m_options.recipe, input.path, index) : std::nullopt;
-        const bool isDone = known && known->status == LineStatus::Ok && QFileInfo(known->output).isFile() &&
-                            QFileInfo(known->output).size() == known->bytes;
+        const bool isDone = known && known->status == LineStatus::Ok && isStillThere(*known);
         return isDone ? known : std::nullopt;
     }
 
-    void work(int number, const QList<OutputPlace> &places, const QList<int> &wanted)
+    static bool isStillThere(const KnownOutput &known)
+    {
+        const auto file = platform::regularFile(known.output);
+        return file && file->bytes == known.bytes;
+    }
+
+    void work(const Input &input, int number, const QList<OutputPlace> &places, const QList<int> &wanted)
     {
         QElapsedTimer timer;
         timer.start();
-        const Input &input = m_inputs[number];
         QHash<int, ReportLine> lines;
         QList<OutputPlan> open = m_plans;
         for (int index = 0; index < open.size(); ++index) {
@@ -145,7 +167,7 @@ private:
                 open[index].problem = QStringLiteral("-"); // nothing is to be made of it
         }
         if (!m_options.isDryRun)
-            make(number, open, places, lines, timer);
+            make(input, number, open, places, lines, timer);
         for (const int index : wanted)
             say(lines[index]);
     }
@@ -171,10 +193,9 @@ private:
         return line;
     }
 
-    void make(int number, const QList<OutputPlan> &open, const QList<OutputPlace> &places,
+    void make(const Input &input, int number, const QList<OutputPlan> &open, const QList<OutputPlace> &places,
               QHash<int, ReportLine> &lines, QElapsedTimer &timer)
     {
-        const Input &input = m_inputs[number];
         ResultFiles files(input, m_options.recipe, m_rooms);
         const image::FillText fill = [&](const QString &pattern, QSize size) {
             return watermarkFrom(pattern, input.path, number, size);
@@ -197,6 +218,8 @@ private:
             line.output = placed.path;
             if (!placed.problem.isEmpty())
                 fail(line, placed.problem);
+            else
+                m_inputs.leaveOut(placed.path);
         }
         for (ReportLine &line : lines)
             if (line.status == LineStatus::Planned)
@@ -218,11 +241,12 @@ private:
     }
 
     const Recipe &m_recipe;
-    const QList<Input> &m_inputs;
+    Inputs &m_inputs;
     const BatchOptions &m_options;
     const TakeLine &m_take;
     const std::function<bool()> &m_isStopped;
     OutputPlaces m_places;
+    bool m_needsPictures;
     WaitingRooms m_rooms;
     ImageSource m_source;
     QList<OutputPlan> m_plans;
@@ -236,11 +260,10 @@ bool isInShard(const Input &input, int shard, int shards)
 {
     if (shards <= 1)
         return true;
-    const QByteArray hash = QCryptographicHash::hash(placeBelowRoot(input).toUtf8(), QCryptographicHash::Sha256);
-    return int(qFromBigEndian<quint64>(hash.constData()) % quint64(shards)) == shard - 1;
+    return pathHash(platform::encodedPath(placeBelowRoot(input))) % quint64(shards) == quint64(shard - 1);
 }
 
-Summary runBatch(const Recipe &recipe, const QList<Input> &inputs, const BatchOptions &options, const TakeLine &take,
+Summary runBatch(const Recipe &recipe, Inputs &inputs, const BatchOptions &options, const TakeLine &take,
                  const std::function<bool()> &isStopped)
 {
     return Batch(recipe, inputs, options, take, isStopped).run();

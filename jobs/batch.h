@@ -34,10 +34,10 @@ using TakeLine = std::function<bool(const ReportLine &line)>;
  *
  * @param isStopped  is asked before each picture
  */
-Summary runBatch(const image::Recipe &recipe, const QList<Input> &inputs, const BatchOptions &options,
-                 const TakeLine &take, const std::function<bool()> &isStopped);
+Summary runBatch(const image::Recipe &recipe, Inputs &inputs, const BatchOptions &options, const TakeLine &take,
+                 const std::function<bool()> &isStopped);
 
-/** Whether an input belongs to a part, by the place below its root alone. */
+/** Whether an input belongs to a part: pathHash() of the place below its root, or of its own name, modulo their number. */
 bool isInShard(const Input &input, int shard, int shards);
 
 } // namespace jobs

@@ -2,25 +2,32 @@
 
 #include "files/items/picture_collector.h"
 #include "image/recipe/sentence.h"
-#include "platform/disk/item_identity.h"
+#include "platform/disk/disk_file_system.h"
+#include "platform/disk/folders.h"
+#include "platform/foundation/paths.h"
 #include "platform/imageio/formats/formats.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QSet>
+#include <utility>
 
 namespace jobs {
 namespace {
 
 Input pictureNamed(const QString &path)
 {
-    const QFileInfo file(path);
+    const auto item = platform::targetFacts(path);
     Input input = {path, {}, {}};
-    if (!file.exists())
+    if (!item)
         input.problem = image::sentence("there is no such file");
-    else if (!file.isFile())
+    else if (!item->isFile)
         input.problem = image::sentence("it is no ordinary file");
     return input;
+}
+
+/** The path of a file without links in its folders. */
+QString withoutLinks(const QString &path)
+{
+    const QString folder = platform::DiskFileSystem().canonicalFolder(platform::parentFolder(path));
+    return platform::joinedPath(folder, platform::lastPathComponent(path));
 }
 
 } // namespace
@@ -40,32 +47,93 @@ QStringList pictureExtensions()
 
 QString placeBelowRoot(const Input &input)
 {
-    return input.root.isEmpty() ? QFileInfo(input.path).fileName() : QDir(input.root).relativeFilePath(input.path);
+    if (input.root.isEmpty())
+        return platform::lastPathComponent(input.path);
+    return input.path.mid(input.root.size() + (input.root.endsWith(u'/') ? 0 : 1));
+}
+
+Inputs::Inputs(const QStringList &named, std::optional<NameStream> more) : m_more(std::move(more))
+{
+    for (const QString &name : named)
+        addNamed(name);
+}
+
+Inputs::State Inputs::look(int waitMs)
+{
+    while (m_waiting.empty() && m_more) {
+        const State state = m_more->look(waitMs);
+        if (state == State::Waiting)
+            return state;
+        if (state == State::Ready)
+            addNamed(m_more->take());
+        else
+            letGoAtEnd();
+    }
+    return m_waiting.empty() ? State::Ended : State::Ready;
+}
+
+void Inputs::letGoAtEnd()
+{
+    if (m_more->look(0) != State::Ended)
+        return;
+    m_problem = m_more->problem();
+    m_more.reset();
+}
+
+Input Inputs::take()
+{
+    Input input = std::move(m_waiting.front());
+    m_waiting.pop_front();
+    ++m_taken;
+    return input;
+}
+
+void Inputs::addNamed(const QString &name)
+{
+    const QString path = platform::absolutePath(name);
+    if (!platform::folderExists(path)) {
+        add(pictureNamed(path));
+        return;
+    }
+    static const files::CollectRule rule = {pictureExtensions(), {}, {}, files::OddNames::AsPaths};
+    for (const QString &found : files::collectFiles({path}, rule).paths)
+        add({found, path, {}});
+}
+
+void Inputs::add(const Input &input)
+{
+    if (isNew(input.path))
+        m_waiting.push_back(input);
+}
+
+/** Second names of one file are pictures for themselves; another path to the same name is not. */
+bool Inputs::isNew(const QString &path)
+{
+    const auto item = platform::targetFacts(path);
+    const bool isKnown = item && m_items.contains(item->number);
+    if (item)
+        m_items.insert(item->number);
+    if (item && !item->hasSecondName)
+        return !isKnown;
+    const QString name = item ? withoutLinks(path) : path;
+    const bool isNamed = m_names.contains(name);
+    m_names.insert(name);
+    return !isNamed;
+}
+
+void Inputs::leaveOut(const QString &path)
+{
+    if (const auto item = platform::targetFacts(path); m_more && item)
+        m_items.insert(item->number);
 }
 
 QList<Input> inputsFrom(const QStringList &named)
 {
-    QList<Input> inputs;
-    QSet<QString> known;
-    const files::CollectRule rule = {pictureExtensions(), {}, {}};
-    const auto add = [&](const Input &input) {
-        const QString identity = platform::targetIdentity(input.path);
-        const QString key = identity.isEmpty() ? input.path : identity;
-        if (known.contains(key))
-            return;
-        known.insert(key);
-        inputs.append(input);
-    };
-    for (const QString &name : named) {
-        const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(name));
-        if (!QFileInfo(path).isDir()) {
-            add(pictureNamed(path));
-            continue;
-        }
-        for (const QString &found : files::collectFiles({path}, rule).paths)
-            add({found, path, {}});
-    }
-    return inputs;
+    Inputs inputs(named);
+    QList<Input> all;
+    while (inputs.look() == Inputs::State::Ready)
+        all.append(inputs.take());
+    return all;
 }
 
 } // namespace jobs

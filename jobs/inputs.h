@@ -1,7 +1,13 @@
 #pragma once
 
+#include "jobs/name_stream.h"
+#include "platform/disk/item_identity.h"
+
+#include <QSet>
 #include <QString>
 #include <QStringList>
+
+#include <deque>
 
 /** Recipes over many pictures: which they are, how results are named, what comes of them. Needs no window. */
 namespace jobs {
@@ -18,9 +24,64 @@ struct Input
 QString placeBelowRoot(const Input &input);
 
 /**
- * The pictures of files and folders in the order in which they are named; a folder gives all below it as
- * files::collectFiles() has it. A picture that is named twice, under whatever path, counts where it comes first.
+ * The pictures of a batch, one after the other: of files and folders in the order in which they are named, then of names that are
+ * still to come. A folder gives all below it, as files::collectFiles() has it, when its turn comes; those that are named from the
+ * start are walked before anything is written. A picture that is named twice, under whatever path, counts where it comes first.
+ *
+ * What was taken is not kept: a million pictures cost some 50 bytes each.
  */
+class Inputs
+{
+public:
+    explicit Inputs(const QStringList &named, std::optional<NameStream> more = std::nullopt);
+
+    using State = NameStream::State;
+    /** Whether there is a picture now; waits so many milliseconds for a name, or until a signal comes. */
+    State look(int waitMs = 0);
+    /** The next picture. To be called where look() says that it is ready. */
+    Input take();
+    /** How many were taken. */
+    int taken() const { return m_taken; }
+    /** How many are known, those that were taken among them. */
+    int known() const { return m_taken + int(m_waiting.size()); }
+
+    /** Reads all names that are still to come, so that contains() is true of every input. False where @p isStopped said so. */
+    template<typename IsStopped> bool readToTheEnd(const IsStopped &isStopped)
+    {
+        constexpr int waitMs = 100;
+        while (m_more && !isStopped())
+            if (m_more->look(waitMs) == State::Ready)
+                addNamed(m_more->take());
+            else
+                letGoAtEnd();
+        return !m_more;
+    }
+    /** Whether the item is one of the inputs that are known so far. */
+    bool contains(const platform::ItemNumber &item) const { return m_items.contains(item); }
+
+    /** Leaves out what is at @p path, a result, where it is named later: a list that is still being made may come upon it. */
+    void leaveOut(const QString &path);
+
+    /** What look() waits for; -1 where all names are known. */
+    int descriptor() const { return m_more ? m_more->descriptor() : -1; }
+    /** Why the names ended before their end; empty where they did not. */
+    const QString &problem() const { return m_problem; }
+
+private:
+    void addNamed(const QString &name);
+    void add(const Input &input);
+    bool isNew(const QString &path);
+    void letGoAtEnd();
+
+    std::optional<NameStream> m_more;
+    std::deque<Input> m_waiting;
+    int m_taken = 0;
+    QSet<platform::ItemNumber> m_items;
+    QSet<QString> m_names; ///< of what is not there, or has second names that count for themselves
+    QString m_problem;
+};
+
+/** All pictures of files and folders. */
 QList<Input> inputsFrom(const QStringList &named);
 
 /** The extensions of files that are taken from folders: every picture that can be opened but drawings and pages. */

@@ -1,6 +1,9 @@
 #include "jobs/names.h"
 
 #include "files/items/file_facts.h"
+#include "jobs/path_hash.h"
+#include "platform/disk/disk_file_system.h"
+#include "platform/disk/folders.h"
 #include "platform/disk/item_identity.h"
 #include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
@@ -8,8 +11,6 @@
 #include "text/tokens.h"
 
 #include <QDir>
-#include <QDirIterator>
-#include <QFileInfo>
 #include <QVariantMap>
 
 #include <algorithm>
@@ -75,6 +76,11 @@ QString expanded(const QList<TokenPart> &parts, const QString &path, int index, 
     return text::expandTokens(known, facts, text::TokenLanguage::English, standInFor, cleaned).text;
 }
 
+quint64 keyOf(const QString &name)
+{
+    return pathHash(platform::encodedPath(platform::nameKey(name)));
+}
+
 bool isStep(const QString &name)
 {
     return name == QLatin1String(".") || name == QLatin1String("..");
@@ -89,7 +95,7 @@ QString baseFolderOf(const Input &input, const Destination &destination)
         return own;
     if (!destination.keepsTree || input.root.isEmpty())
         return destination.folder;
-    return QDir::cleanPath(destination.folder + u'/' + QDir(input.root).relativeFilePath(own));
+    return platform::joinedPath(destination.folder, platform::parentFolder(placeBelowRoot(input)));
 }
 
 QString nameFrom(const QString &pattern, const QString &path, int index, QSize size)
@@ -120,20 +126,22 @@ QString watermarkFrom(const QString &pattern, const QString &path, int index, QS
     return text::expandTokens(parts, facts, text::TokenLanguage::English).text;
 }
 
-ResultNames::ResultNames(const QList<Input> &inputs)
+bool namesNeedPictures(const image::RecipeOutput &output)
 {
-    for (const Input &input : inputs)
-        m_inputs.insert(platform::targetIdentity(input.path));
-    m_inputs.remove({});
+    return output.type == image::OutputType::Original || text::needsFacts(text::tokenParts(output.name)) ||
+           text::needsFacts(text::tokenParts(output.folder));
 }
 
-QString ResultNames::knownIdentityOf(const QString &folder) const
+/** A folder that was made for a result has another identity now than it had when there was none. */
+QString ResultNames::knownIdentityOf(const QString &folder)
 {
     const QString identity = platform::folderIdentity(folder);
-    // A folder that was made for a result has another identity now than it had when there was none.
-    for (auto known = m_folders.begin(); known != m_folders.end(); ++known)
-        if (!known->isThere && platform::folderIdentity(known->path) == identity)
-            return known.key();
+    constexpr qsizetype most = 256; // those before were not made when their results were
+    while (m_missing.size() > most)
+        m_missing.removeFirst();
+    for (const QString &known : std::as_const(m_missing))
+        if (platform::folderIdentity(m_folders[known].path) == identity)
+            return known;
     return identity;
 }
 
@@ -148,53 +156,78 @@ ResultNames::Folder &ResultNames::folderOf(const QString &path)
         return *found;
     Folder &known = m_folders[identity];
     known.path = folder;
-    known.isThere = QFileInfo::exists(folder);
-    QDirIterator items(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    while (items.hasNext()) {
-        items.next();
-        known.onDisk.insert(platform::nameKey(items.fileName()));
-    }
+    known.isThere = platform::folderExists(folder);
+    if (!known.isThere)
+        m_missing.append(identity);
     return known;
 }
 
-Standing ResultNames::standingAt(const QString &path, const Input &input)
+ResultNames::Folder &ResultNames::listedFolderOf(const QString &path)
 {
-    const Folder &folder = folderOf(path);
-    const QString key = platform::nameKey(QFileInfo(path).fileName());
+    Folder &folder = folderOf(path);
+    if (folder.isListed)
+        return folder;
+    folder.isListed = true;
+    const platform::DiskFileSystem disk;
+    const auto entries = disk.list(disk.canonicalFolder(folder.path));
+    for (const platform::FolderEntry &entry : entries.value_or(std::vector<platform::FolderEntry>()))
+        folder.onDisk.insert(keyOf(entry.name));
+    return folder;
+}
+
+QString ResultNames::plan(const QString &path)
+{
+    Folder &folder = folderOf(path);
+    const QString name = platform::lastPathComponent(path);
+    const Key key = keyOf(name);
+    if (!folder.planned.contains(key)) {
+        folder.planned.insert(key);
+        return path;
+    }
+    int &next = folder.nextPlanned[key];
+    for (next = qMax(next, 2);; ++next) {
+        const QString numbered = platform::fittingNumberedName(name, next, platform::NameOf::File);
+        if (folder.planned.contains(keyOf(numbered)))
+            continue;
+        folder.planned.insert(keyOf(numbered));
+        return platform::joinedPath(platform::parentFolder(path), numbered);
+    }
+}
+
+void ResultNames::keep(const QString &path)
+{
+    folderOf(path).given.insert(keyOf(platform::lastPathComponent(path)));
+}
+
+Standing ResultNames::standingAt(const QString &planned, const Input &input)
+{
+    const Folder &folder = listedFolderOf(planned);
+    const Key key = keyOf(platform::lastPathComponent(planned));
     if (folder.given.contains(key))
         return Standing::OtherResult;
     if (!folder.onDisk.contains(key))
         return Standing::Nothing;
-    const QString identity = platform::targetIdentity(path);
-    if (!identity.isEmpty() && identity == platform::targetIdentity(input.path))
+    const auto there = platform::targetFacts(planned);
+    const auto own = platform::targetFacts(input.path);
+    if (there && own && there->number == own->number)
         return Standing::OwnInput;
-    return m_inputs.contains(identity) ? Standing::OtherInput : Standing::OnDisk;
-}
-
-void ResultNames::give(const QString &path)
-{
-    folderOf(path).given.insert(platform::nameKey(QFileInfo(path).fileName()));
-}
-
-bool ResultNames::isFree(const QString &path)
-{
-    const Folder &folder = folderOf(path);
-    const QString key = platform::nameKey(QFileInfo(path).fileName());
-    return !folder.given.contains(key) && !folder.onDisk.contains(key);
+    return there && m_inputs.contains(there->number) ? Standing::OtherInput : Standing::OnDisk;
 }
 
 QString ResultNames::giveNumbered(const QString &path)
 {
-    const QString folder = platform::parentFolder(path);
-    const QString name = QFileInfo(path).fileName();
-    int &next = folderOf(path).nextNumber[platform::nameKey(name)];
+    Folder &folder = listedFolderOf(path);
+    const QString name = platform::lastPathComponent(path);
+    int &next = folder.nextGiven[keyOf(name)];
     for (next = qMax(next, 2);; ++next) {
-        const QString numbered =
-            platform::joinedPath(folder, platform::fittingNumberedName(name, next, platform::NameOf::File));
-        if (!isFree(numbered))
+        const QString numbered = platform::fittingNumberedName(name, next, platform::NameOf::File);
+        const Key key = keyOf(numbered);
+        const bool isTaken = folder.planned.contains(key) || folder.given.contains(key) || folder.onDisk.contains(key);
+        const QString free = isTaken ? QString() : platform::joinedPath(platform::parentFolder(path), numbered);
+        if (isTaken || m_isReserved(free))
             continue;
-        give(numbered);
-        return numbered;
+        folder.given.insert(key);
+        return free;
     }
 }
 

@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QSet>
 
+#include <functional>
+
 namespace jobs {
 
 /** Where results go. */
@@ -32,41 +34,64 @@ QString folderFrom(const QString &pattern, const QString &base, const QString &p
 /** The same for the text of a watermark, in which a missing value is nothing and a "/" stays. */
 QString watermarkFrom(const QString &pattern, const QString &path, int index, QSize size);
 
+/** Whether the names of an output need more of a picture than its path: what is inside it, or what its disk knows. */
+bool namesNeedPictures(const image::RecipeOutput &output);
+
 /** What stands where a result wants to be. */
 enum class Standing { Nothing, OnDisk, OwnInput, OtherInput, OtherResult };
 
 /**
  * The names of all results of a batch. Two names that differ only in case or in the way an accent is written are one name on many
  * disks, so they count as the same everywhere.
+ *
+ * Each result is planned among the results alone, in the order of the inputs, so that all who know the inputs plan the same names
+ * whatever is on their disks. What is there is looked at afterwards, for those results that are made here.
+ * Memory: some 20 bytes a name.
  */
 class ResultNames
 {
 public:
-    explicit ResultNames(const QList<Input> &inputs);
+    using IsReserved = std::function<bool(const QString &path)>;
+    /**
+     * @param inputs      are asked when something is compared with them; the batch goes through them meanwhile
+     * @param isReserved  tells of paths that giveNumbered() does not give
+     */
+    ResultNames(const Inputs &inputs, const IsReserved &isReserved) : m_inputs(inputs), m_isReserved(isReserved) {}
 
-    Standing standingAt(const QString &path, const Input &input);
-    /** Notes that a result of the batch goes there. */
-    void give(const QString &path);
-    /** Gives the first free numbered form of @p path, counting from 2, and answers it. */
+    /** Plans a result at @p path, or at the first numbered form of it that no result is planned at, counting from 2. */
+    QString plan(const QString &path);
+    /** Notes that @p path is kept for a result that is not planned. */
+    void keep(const QString &path);
+
+    /** What stands at the path of a planned result. */
+    Standing standingAt(const QString &planned, const Input &input);
+    /** Gives the first numbered form of @p path that nothing has, neither a result nor the disk, counting from 2. */
     QString giveNumbered(const QString &path);
 
 private:
+    using Key = quint64; ///< of a name; two names of one key only cost a number
+
     struct Folder
     {
         QString path;
         bool isThere = false;
-        QSet<QString> onDisk;
-        QSet<QString> given;
-        QHash<QString, int> nextNumber; ///< of the next numbered form of a name
+        bool isListed = false;
+        QSet<Key> onDisk;
+        QSet<Key> planned;
+        QSet<Key> given;             ///< besides those that were planned
+        QHash<Key, int> nextPlanned; ///< number of the next numbered form of a name
+        QHash<Key, int> nextGiven;
     };
 
     Folder &folderOf(const QString &path);
-    QString knownIdentityOf(const QString &folder) const;
-    bool isFree(const QString &path);
+    Folder &listedFolderOf(const QString &path);
+    QString knownIdentityOf(const QString &folder);
 
-    QSet<QString> m_inputs;               ///< identities
+    const Inputs &m_inputs;
+    IsReserved m_isReserved;
     QHash<QString, QString> m_identities; ///< of the paths of folders that were asked for
     QHash<QString, Folder> m_folders;     ///< by their identities when they were first met
+    QStringList m_missing;                ///< identities of folders that were not there
 };
 
 } // namespace jobs

@@ -4,7 +4,7 @@
 #include "jobs/result_mark.h"
 #include "platform/foundation/paths.h"
 
-#include <QFileInfo>
+#include <algorithm>
 
 namespace jobs {
 namespace {
@@ -14,7 +14,7 @@ QString extensionFor(const image::OutputPlan &plan, const QString &path)
 {
     if (plan.type != image::OutputType::Original)
         return image::extensionOf(plan.type);
-    const QString suffix = QFileInfo(path).suffix();
+    const QString suffix = platform::pathExtension(path);
     return suffix.isEmpty() ? QString() : u'.' + suffix;
 }
 
@@ -25,9 +25,11 @@ QString settingsName(const QString &recipeName, int index)
     return recipeName + u' ' + QString::number(index);
 }
 
-OutputPlaces::OutputPlaces(const image::Recipe &recipe, const QString &recipeName, const QList<Input> &inputs,
+OutputPlaces::OutputPlaces(const image::Recipe &recipe, const EarlierReports &reports, const Inputs &inputs,
                            const Destination &destination)
-    : m_recipe(recipe), m_recipeName(recipeName), m_destination(destination), m_names(inputs)
+    : m_recipe(recipe), m_reports(reports), m_destination(destination), m_names(inputs, [reports](const QString &path) {
+          return reports.plan && reports.plan->hasOutputAt(reports.recipe, path);
+      })
 {
 }
 
@@ -38,44 +40,60 @@ QList<OutputPlace> OutputPlaces::of(const Input &input, int number, const QList<
     const QString base = baseFolderOf(input, m_destination);
     for (int index = 0; index < m_recipe.outputs.size(); ++index) {
         const image::RecipeOutput &output = m_recipe.outputs[index];
-        const QSize size = plans[index].size;
-        if (!done[index].isEmpty()) {
-            m_names.give(done[index]);
-            places.append(OutputPlace{done[index], false, false, {}});
-            continue;
-        }
-        const QString folder = folderFrom(output.folder, base, input.path, number, size);
-        const QString name = nameFrom(output.name, input.path, number, size);
-        const QString path = platform::joinedPath(folder, name + extensionFor(plans[index], input.path));
-        const bool isMade = isOthers && isCurrentResult(path, input.path, settingsName(m_recipeName, index));
-        if (isMade)
-            m_names.give(path);
-        places.append(isMade ? OutputPlace{path, false, false, {}} : at(path, input, index));
+        image::OutputPlan plan = plans.value(index);
+        if (plans.isEmpty())
+            plan.type = output.type;
+        const QString folder = folderFrom(output.folder, base, input.path, number, plan.size);
+        const QString name = nameFrom(output.name, input.path, number, plan.size);
+        const QString wanted = platform::joinedPath(folder, name + extensionFor(plan, input.path));
+        const QString planned = m_names.plan(wanted);
+        if (!done.value(index).isEmpty())
+            m_names.keep(done[index]);
+        if (isOthers || !done.value(index).isEmpty())
+            places.append(OutputPlace{isOthers ? planned : done[index], false, false, {}});
+        else
+            places.append(placeFor(wanted, planned, input, index));
     }
     return places;
 }
 
 OutputPlace OutputPlaces::at(const QString &path, const Input &input, int index)
 {
+    return placeFor(path, m_names.plan(path), input, index);
+}
+
+OutputPlace OutputPlaces::placeFor(const QString &wanted, const QString &planned, const Input &input, int index)
+{
     const image::RecipeOutput &output = m_recipe.outputs[index];
-    const Standing standing = m_names.standingAt(path, input);
-    if (standing == Standing::Nothing) {
-        m_names.give(path);
-        return {path, false, false, {}};
-    }
+    const Standing standing = m_names.standingAt(planned, input);
+    if (standing == Standing::Nothing)
+        return {planned, false, false, {}};
     const bool isOnDisk = standing == Standing::OnDisk || standing == Standing::OwnInput;
-    if (output.ifTaken == image::IfTaken::Replace && isOnDisk) {
-        m_names.give(path);
-        return {path, true, false, {}};
-    }
+    if (output.ifTaken == image::IfTaken::Replace && isOnDisk && !isResumed(planned))
+        return {planned, true, false, {}};
     if (output.ifTaken == image::IfTaken::Skip && standing != Standing::OtherResult)
-        return {path, false, true, image::sentence("the name is taken")};
-    if (output.ifTaken == image::IfTaken::Current && standing == Standing::OnDisk &&
-        isCurrentResult(path, input.path, settingsName(m_recipeName, index))) {
-        m_names.give(path);
-        return {path, false, true, image::sentence("it is there already")};
-    }
-    return {m_names.giveNumbered(path), false, false, {}};
+        return {planned, false, true, image::sentence("the name is taken")};
+    if (output.ifTaken == image::IfTaken::Current && standing != Standing::OtherResult &&
+        isCurrentResult(planned, input.path, settingsName(m_reports.recipe, index)))
+        return {planned, false, true, image::sentence("it is there already")};
+    return {m_names.giveNumbered(wanted), false, false, {}};
+}
+
+bool OutputPlaces::isResumed(const QString &path) const
+{
+    return m_reports.resumed && m_reports.resumed->hasOutputAt(m_reports.recipe, path);
+}
+
+bool namesNeedPictures(const image::Recipe &recipe)
+{
+    return std::any_of(recipe.outputs.begin(), recipe.outputs.end(),
+                       [](const image::RecipeOutput &output) { return namesNeedPictures(output); });
+}
+
+bool replacesAnything(const image::Recipe &recipe)
+{
+    return std::any_of(recipe.outputs.begin(), recipe.outputs.end(),
+                       [](const image::RecipeOutput &output) { return output.ifTaken == image::IfTaken::Replace; });
 }
 
 } // namespace jobs

@@ -3,6 +3,7 @@
 #include "image/recipe/plan.h"
 #include "image/recipe/recipe.h"
 #include "jobs/names.h"
+#include "jobs/report.h"
 
 namespace jobs {
 
@@ -18,18 +19,26 @@ struct OutputPlace
 /** The settings of an output, as a note on its results names them. */
 QString settingsName(const QString &recipeName, int index);
 
+/** What earlier reports say about where results are or are to be. */
+struct EarlierReports
+{
+    QString recipe;                         ///< its name, see recipeName()
+    const EarlierReport *plan = nullptr;    ///< paths in it are kept for their outputs
+    const EarlierReport *resumed = nullptr; ///< what it has is a result of the same run
+};
+
 /** Plans where the results of a batch go; to be asked for the inputs in their order, each once. */
 class OutputPlaces
 {
 public:
-    /** @param recipeName  what results are known by later, see recipeName() */
-    OutputPlaces(const image::Recipe &recipe, const QString &recipeName, const QList<Input> &inputs,
+    OutputPlaces(const image::Recipe &recipe, const EarlierReports &reports, const Inputs &inputs,
                  const Destination &destination);
 
     /**
      * @param number    how many inputs came before this one
+     * @param plans     of all outputs; for a picture that others make they may be empty where no name needs them
      * @param done      the paths of outputs that were made before and keep their names; empty for the others
-     * @param isOthers  another process makes them, and may have: what is there already has its name
+     * @param isOthers  another process makes them: they only keep their names, and no disk is looked at
      */
     QList<OutputPlace> of(const Input &input, int number, const QList<image::OutputPlan> &plans,
                           const QStringList &done, bool isOthers);
@@ -39,10 +48,19 @@ public:
     QString numbered(const QString &path) { return m_names.giveNumbered(path); }
 
 private:
+    OutputPlace placeFor(const QString &wanted, const QString &planned, const Input &input, int index);
+    bool isResumed(const QString &path) const;
+
     const image::Recipe &m_recipe;
-    QString m_recipeName;
+    EarlierReports m_reports;
     Destination m_destination;
     ResultNames m_names;
 };
+
+/** Whether the names of results, but for their numbers, need more of the pictures than their paths. */
+bool namesNeedPictures(const image::Recipe &recipe);
+
+/** Whether a result may take the place of what is there, so that all inputs must be known before. */
+bool replacesAnything(const image::Recipe &recipe);
 
 } // namespace jobs

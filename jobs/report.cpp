@@ -1,14 +1,22 @@
 #include "jobs/report.h"
 
+#include "jobs/path_hash.h"
 #include "platform/file/regular_file.h"
+#include "platform/foundation/paths.h"
+#include "platform/imageio/formats/content.h"
+#include "platform/imageio/tiff/camera_raw.h"
 
 #include <QCryptographicHash>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <array>
-#include <cstdio>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace jobs {
 namespace {
@@ -41,14 +49,72 @@ LineStatus statusNamed(const QString &word)
     return LineStatus::Failed;
 }
 
-QJsonValue textOrNull(const QString &text)
+/** A text in the notation of JSON. */
+QByteArray quoted(const QString &text)
 {
-    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+    QByteArray json = "\"";
+    const auto escape = [&json](QChar sign) {
+        json += "\\u" + QByteArray::number(sign.unicode(), 16).rightJustified(4, '0');
+    };
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const QChar sign = text[at];
+        const bool isPair = sign.isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        if (sign == u'"' || sign == u'\\')
+            (json += '\\') += char(sign.unicode());
+        else if (sign < u' ' || (sign.isSurrogate() && !isPair))
+            escape(sign);
+        else
+            json += QStringView(text).sliced(at, isPair ? 2 : 1).toUtf8();
+        at += isPair;
+    }
+    return json + '"';
 }
 
-QByteArray written(const QJsonObject &object)
+QByteArray textOrNull(const QString &text)
 {
-    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    return text.isEmpty() ? QByteArray("null") : quoted(text);
+}
+
+QByteArray numberOrNull(int number)
+{
+    return number > 0 ? QByteArray::number(number) : QByteArray("null");
+}
+
+QByteArray listOf(const QStringList &texts)
+{
+    QByteArrayList quotedTexts;
+    for (const QString &text : texts)
+        quotedTexts.append(quoted(text));
+    return '[' + quotedTexts.join(',') + ']';
+}
+
+using Members = QList<std::pair<const char *, QByteArray>>;
+
+QByteArray objectOf(const Members &members)
+{
+    QByteArrayList written;
+    for (const auto &[name, value] : members)
+        written.append('"' + QByteArray(name) + "\":" + value);
+    return '{' + written.join(',') + '}';
+}
+
+quint64 pathKeyOf(const QString &recipe, const QString &path)
+{
+    return pathHash(platform::encodedPath(recipe + u'\n' + path));
+}
+
+bool isPicture(const QString &path)
+{
+    platform::NamedFile file(path);
+    const QByteArray head = platform::openToRead(file) ? file.read(platform::contentHeadBytes) : QByteArray();
+    return platform::contentOf(head) != platform::Content::Unknown || platform::isCameraRaw(head);
+}
+
+bool isCutOff(int descriptor)
+{
+    const off_t size = ::lseek(descriptor, 0, SEEK_END);
+    char last = '\n';
+    return size > 0 && ::pread(descriptor, &last, 1, size - 1) == 1 && last != '\n';
 }
 
 QString keyOf(const QString &recipe, const QString &input, int index)
@@ -80,29 +146,34 @@ void Summary::count(const ReportLine &line)
 
 QByteArray jsonLine(const ReportLine &line, const QString &recipe)
 {
-    return written({{QStringLiteral("input"), line.input},
-                    {QStringLiteral("output"), textOrNull(line.output)},
-                    {QStringLiteral("index"), line.index},
-                    {QStringLiteral("status"), wordOf(line.status)},
-                    {QStringLiteral("reason"), textOrNull(line.reason)},
-                    {QStringLiteral("type"), textOrNull(line.type)},
-                    {QStringLiteral("width"), line.size.isEmpty() ? QJsonValue() : line.size.width()},
-                    {QStringLiteral("height"), line.size.isEmpty() ? QJsonValue() : line.size.height()},
-                    {QStringLiteral("bytes"), line.bytes},
-                    {QStringLiteral("ms"), line.milliseconds},
-                    {QStringLiteral("lossless"), line.isLossless},
-                    {QStringLiteral("losses"), QJsonArray::fromStringList(line.losses)},
-                    {QStringLiteral("recipe"), recipe}});
+    return objectOf({{"input", quoted(line.input)},
+                     {"output", textOrNull(line.output)},
+                     {"index", QByteArray::number(line.index)},
+                     {"status", quoted(wordOf(line.status))},
+                     {"reason", textOrNull(line.reason)},
+                     {"type", textOrNull(line.type)},
+                     {"width", numberOrNull(line.size.width())},
+                     {"height", numberOrNull(line.size.height())},
+                     {"bytes", QByteArray::number(line.bytes)},
+                     {"ms", QByteArray::number(line.milliseconds)},
+                     {"lossless", line.isLossless ? "true" : "false"},
+                     {"losses", listOf(line.losses)},
+                     {"recipe", quoted(recipe)}}) +
+           '\n';
 }
 
 QByteArray jsonLine(const Summary &summary)
 {
-    const QJsonObject numbers = {
-        {QStringLiteral("inputs"), summary.inputs},   {QStringLiteral("ok"), summary.ok},
-        {QStringLiteral("failed"), summary.failed},   {QStringLiteral("notSupported"), summary.notSupported},
-        {QStringLiteral("skipped"), summary.skipped}, {QStringLiteral("bytes"), summary.bytes},
-        {QStringLiteral("seconds"), summary.seconds}, {QStringLiteral("jobs"), summary.jobs}};
-    return written({{QStringLiteral("summary"), numbers}});
+    constexpr int decimals = 3;
+    const QByteArray numbers = objectOf({{"inputs", QByteArray::number(summary.inputs)},
+                                         {"ok", QByteArray::number(summary.ok)},
+                                         {"failed", QByteArray::number(summary.failed)},
+                                         {"notSupported", QByteArray::number(summary.notSupported)},
+                                         {"skipped", QByteArray::number(summary.skipped)},
+                                         {"bytes", QByteArray::number(summary.bytes)},
+                                         {"seconds", QByteArray::number(summary.seconds, 'f', decimals)},
+                                         {"jobs", QByteArray::number(summary.jobs)}});
+    return objectOf({{"summary", numbers}}) + '\n';
 }
 
 QString recipeName(const QByteArray &file)
@@ -123,11 +194,12 @@ std::optional<EarlierReport> EarlierReport::read(const QString &path)
         const QString input = line.value(QLatin1String("input")).toString();
         if (recipe.isEmpty() || input.isEmpty())
             continue;
-        if (report.m_firstRecipe.isEmpty())
-            report.m_firstRecipe = recipe;
+        report.m_recipes.insert(recipe);
         const KnownOutput known = {
             line.value(QLatin1String("output")).toString(), statusNamed(line.value(QLatin1String("status")).toString()),
             line.value(QLatin1String("type")).toString(), line.value(QLatin1String("bytes")).toInteger()};
+        if (!known.output.isEmpty())
+            report.m_paths.insert(pathKeyOf(recipe, known.output));
         report.m_outputs.insert(keyOf(recipe, input, line.value(QLatin1String("index")).toInt()), known);
     }
     if (!file.readProblem().isEmpty())
@@ -141,25 +213,44 @@ std::optional<KnownOutput> EarlierReport::of(const QString &recipe, const QStrin
     return found == m_outputs.end() ? std::nullopt : std::optional(*found);
 }
 
+bool EarlierReport::hasOutputAt(const QString &recipe, const QString &path) const
+{
+    return m_paths.contains(pathKeyOf(recipe, path));
+}
+
+ReportFile::~ReportFile()
+{
+    if (m_isOwn && m_descriptor >= 0)
+        ::close(m_descriptor);
+}
+
 QString ReportFile::open(const QString &path, Start start)
 {
     if (path.isEmpty())
         return {};
-    m_file = std::make_unique<QFile>();
-    bool isOpen = false;
-    if (path == QLatin1String("-")) {
-        isOpen = m_file->open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered);
-    } else {
-        m_file->setFileName(path);
-        const QIODevice::OpenMode mode = start == Start::Added ? QIODevice::Append : QIODevice::Truncate;
-        isOpen = m_file->open(QIODevice::WriteOnly | QIODevice::Unbuffered | mode);
-    }
-    return isOpen ? QString() : m_file->errorString();
+    m_isOwn = path != QLatin1String("-");
+    if (m_isOwn && isPicture(path))
+        return QStringLiteral("this is a picture, so it cannot be the report");
+    const int mode = start == Start::Added ? O_RDWR | O_APPEND : O_WRONLY | O_TRUNC;
+    m_descriptor = m_isOwn
+                       ? ::open(platform::encodedPath(path).constData(), O_CREAT | O_CLOEXEC | O_NOCTTY | mode, 0666)
+                       : STDOUT_FILENO;
+    if (m_descriptor < 0 || ::fcntl(m_descriptor, F_GETFD) < 0)
+        return QString::fromLocal8Bit(std::strerror(errno));
+    if (start == Start::Added && isCutOff(m_descriptor) && !add("\n"))
+        return QString::fromLocal8Bit(std::strerror(errno));
+    return {};
 }
 
 bool ReportFile::add(const QByteArray &line)
 {
-    return !m_file || m_file->write(line) == line.size();
+    for (qsizetype done = 0; m_descriptor >= 0 && done < line.size();) {
+        const ssize_t count = ::write(m_descriptor, line.constData() + done, size_t(line.size() - done));
+        if (count < 0 && errno != EINTR)
+            return false;
+        done += qMax<ssize_t>(count, 0);
+    }
+    return true;
 }
 
 } // namespace jobs

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QFile>
 #include <QHash>
+#include <QSet>
 #include <QSize>
 #include <QString>
 #include <QStringList>
 
-#include <memory>
 #include <optional>
 
 namespace jobs {
@@ -43,7 +42,9 @@ struct Summary
     void count(const ReportLine &line);
 };
 
-/** One line of JSON with its line feed. @p recipe is the name of the recipe, see recipeName(). */
+/**
+ * One line of JSON with its line feed. Signs of platform::decodedPath() that stand for a byte are written as escapes, `\udce9`.
+ * @p recipe is the name of the recipe, see recipeName(). */
 QByteArray jsonLine(const ReportLine &line, const QString &recipe);
 QByteArray jsonLine(const Summary &summary);
 
@@ -68,27 +69,40 @@ public:
 
     /** The last that it says of an output of a picture with this recipe; nothing where it says nothing. */
     std::optional<KnownOutput> of(const QString &recipe, const QString &input, int index) const;
-    /** The first recipe that its lines name; empty where there is none. */
-    const QString &firstRecipe() const { return m_firstRecipe; }
+    /** Whether an output of any picture with this recipe is at @p path, made or planned. */
+    bool hasOutputAt(const QString &recipe, const QString &path) const;
+    /** Whether any of its lines is of this recipe; a report without lines is of every recipe. */
+    bool isOf(const QString &recipe) const { return m_recipes.isEmpty() || m_recipes.contains(recipe); }
 
 private:
     QHash<QString, KnownOutput> m_outputs;
-    QString m_firstRecipe;
+    QSet<quint64> m_paths; ///< of outputs, each with its recipe, hashed
+    QSet<QString> m_recipes;
 };
 
-/** A report that is being written: a file, standard output, or nothing. */
+/** A report that is being written: a file, standard output, or nothing. Every line is with the system when add() returns. */
 class ReportFile
 {
 public:
     enum class Start { Empty, Added };
 
-    /** @return why it cannot be written; empty where it can. "-" is standard output, "" writes nothing. */
+    ReportFile() = default;
+    ReportFile(const ReportFile &) = delete;
+    ReportFile &operator=(const ReportFile &) = delete;
+    ~ReportFile();
+
+    /**
+     * @param path   "-" is standard output, "" writes nothing
+     * @param start  with Added a report that was cut off in a line has that line ended first
+     * @return why it cannot be written; empty where it can. A picture is never replaced by a report
+     */
     QString open(const QString &path, Start start);
     /** @return false where it can no longer be written */
     bool add(const QByteArray &line);
 
 private:
-    std::unique_ptr<QFile> m_file;
+    int m_descriptor = -1;
+    bool m_isOwn = false;
 };
 
 } // namespace jobs

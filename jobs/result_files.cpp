@@ -8,10 +8,8 @@
 #include "platform/disk/disk_file_system.h"
 #include "platform/disk/item_identity.h"
 #include "platform/file/atomic_file.h"
+#include "platform/file/regular_file.h"
 #include "platform/foundation/paths.h"
-
-#include <QDateTime>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -28,8 +26,9 @@ tl::unexpected<platform::Error> unwritten(const QString &folder)
 void takeDateOf(const QString &source, const QString &path)
 {
     QFile file(path);
-    if (file.open(QIODevice::ReadWrite))
-        file.setFileTime(QFileInfo(source).lastModified(), QFileDevice::FileModificationTime);
+    const auto from = platform::regularFile(source);
+    if (from && file.open(QIODevice::ReadWrite))
+        file.setFileTime(from->modified, QFileDevice::FileModificationTime);
 }
 
 } // namespace

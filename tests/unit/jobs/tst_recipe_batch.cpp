@@ -48,8 +48,9 @@ struct World
             qFatal("%s", qPrintable(recipe.error().message));
         options.recipe = recipeName(json);
         QList<ReportLine> lines;
+        Inputs all(inputs);
         summary = runBatch(
-            *recipe, inputsFrom(inputs), options,
+            *recipe, all, options,
             [&lines](const ReportLine &line) {
                 lines.append(line);
                 return true;

@@ -1,0 +1,102 @@
+#include "tools/batch/request.h"
+
+#include "image/recipe/recipe_reader.h"
+#include "jobs/presets/preset_recipe.h"
+#include "platform/disk/item_identity.h"
+#include "platform/file/atomic_file.h"
+#include "platform/foundation/paths.h"
+
+#include <algorithm>
+
+namespace {
+
+bool isSameFile(const QString &one, const QString &other)
+{
+    const QString identity = platform::targetIdentity(platform::absolutePath(one));
+    return !identity.isEmpty() && identity == platform::targetIdentity(platform::absolutePath(other));
+}
+
+Request readReports(Request request, const CommandLine &line)
+{
+    if (!line.plan.isEmpty()) {
+        request.options.plan = jobs::EarlierReport::read(platform::absolutePath(line.plan));
+        if (!request.options.plan)
+            request.problem = QStringLiteral("%1 cannot be read").arg(line.plan);
+        else if (!request.options.plan->isOf(request.options.recipe))
+            request.problem = QStringLiteral("%1 is the plan of another recipe").arg(line.plan);
+    }
+    if (!line.resume.isEmpty()) {
+        request.options.resumed = jobs::EarlierReport::read(platform::absolutePath(line.resume));
+        if (!request.options.resumed)
+            request.problem = QStringLiteral("%1 cannot be read").arg(line.resume);
+    }
+    return request;
+}
+
+/** The bytes of the recipe's file, or of the one that a preset would be. */
+platform::Result<QByteArray> recipeFile(const CommandLine &line)
+{
+    if (line.preset.isEmpty())
+        return platform::readFile(platform::absolutePath(line.recipe));
+    const std::optional<jobs::Preset> preset = jobs::presetNamed(line.preset);
+    if (preset)
+        return jobs::recipeOf(*preset);
+    return platform::failure(platform::ErrorCode::NotFound,
+                             QStringLiteral("there is no preset \"%1\"; see --list-presets").arg(line.preset));
+}
+
+/** Whether the report would be written over something that is read. */
+bool wouldLoseAFile(const CommandLine &line)
+{
+    const QStringList read = QStringList{line.recipe, line.plan, line.from} + line.inputs;
+    return !line.report.isEmpty() && line.report != QLatin1String("-") &&
+           std::any_of(read.begin(), read.end(),
+                       [&line](const QString &path) { return !path.isEmpty() && isSameFile(path, line.report); });
+}
+
+} // namespace
+
+Request requestFrom(const CommandLine &line)
+{
+    Request request;
+    const auto file = recipeFile(line);
+    if (!file) {
+        request.problem = file.error().message;
+        return request;
+    }
+    const auto recipe = image::readRecipe(*file, platform::parentFolder(platform::absolutePath(line.recipe)));
+    if (!recipe) {
+        request.problem =
+            QStringLiteral("%1: %2").arg(line.preset.isEmpty() ? line.recipe : line.preset, recipe.error().message);
+        return request;
+    }
+    request.recipe = *recipe;
+    request.options.recipe = jobs::recipeName(*file);
+    if (wouldLoseAFile(line)) {
+        request.problem = QStringLiteral("%1 is read, so it cannot be the report").arg(line.report);
+        return request;
+    }
+    std::optional<jobs::NameStream> more;
+    if (!line.from.isEmpty()) {
+        using Separator = jobs::NameStream::Separator;
+        auto names =
+            jobs::NameStream::open(line.from, line.isFromSeparatedByNul ? Separator::Nul : Separator::LineFeed);
+        if (!names) {
+            request.problem = names.error().message;
+            return request;
+        }
+        more.emplace(std::move(*names));
+    }
+    request.inputs.emplace(line.inputs, std::move(more));
+    if (!line.to.isEmpty())
+        request.options.destination = {platform::absolutePath(line.to), line.keepsTree};
+    request.options.isDryRun = line.isDryRun;
+    request.options.shard = line.shard;
+    request.options.shards = line.shards;
+    return readReports(std::move(request), line);
+}
+
+bool addsToReport(const CommandLine &line)
+{
+    return !line.resume.isEmpty() && !line.report.isEmpty() && isSameFile(line.resume, line.report);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "jobs/batch.h"
+#include "tools/batch/command_line.h"
+
+/** What was asked for, read and checked: nothing has been written yet. */
+struct Request
+{
+    image::Recipe recipe;
+    std::optional<jobs::Inputs> inputs;
+    jobs::BatchOptions options;
+    QString problem; ///< a sentence where it cannot be carried out
+};
+
+Request requestFrom(const CommandLine &line);
+
+/** Whether the report is the file that is resumed, and gets further lines. */
+bool addsToReport(const CommandLine &line);
