@@ -4,7 +4,6 @@
 #include "platform/file/regular_file.h"
 
 #include <QBuffer>
-#include <QFileInfo>
 
 #include <vips/vips8>
 
@@ -33,7 +32,7 @@ qint64 PictureBytes::fileBytes() const
 {
     if (lent)
         return lent->size();
-    return path.isEmpty() ? 0 : QFileInfo(path).size();
+    return path.isEmpty() ? 0 : regularFile(path).value_or(RegularFile()).bytes;
 }
 
 QByteArray PictureBytes::all() const
