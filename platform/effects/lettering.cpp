@@ -27,16 +27,27 @@ bool isGeneric(const QString &family)
            family.compare(QLatin1String("monospace"), Qt::CaseInsensitive) == 0;
 }
 
-bool isInstalled(const QString &family)
+QStringList installedFamilies()
 {
     PangoFontFamily **families = nullptr;
     int count = 0;
     pango_font_map_list_families(pango_cairo_font_map_get_default(), &families, &count);
-    bool isThere = false;
-    for (int i = 0; i < count && !isThere; ++i)
-        isThere = family.compare(QString::fromUtf8(pango_font_family_get_name(families[i])), Qt::CaseInsensitive) == 0;
+    QStringList names;
+    for (int i = 0; i < count; ++i)
+        names.append(QString::fromUtf8(pango_font_family_get_name(families[i])));
     g_free(families);
-    return isThere;
+    names.removeAll(QString());
+    return names;
+}
+
+/** The whole text may be the name of a family, also one that ends in what is a style elsewhere, such as "Nimbus Mono Bold". */
+Description descriptionOf(const QString &font)
+{
+    if (!installedFamilies().contains(font, Qt::CaseInsensitive))
+        return Description(pango_font_description_from_string(font.toUtf8().constData()));
+    Description description(pango_font_description_new());
+    pango_font_description_set_family(description.get(), font.toUtf8().constData());
+    return description;
 }
 
 VipsAlign alignmentOf(Qt::Alignment lines)
@@ -50,7 +61,7 @@ VipsAlign alignmentOf(Qt::Alignment lines)
 VImage coverageOf(const Lettering &lettering)
 {
     const QString font = lettering.font.isEmpty() ? QString::fromLatin1(usualFont) : lettering.font;
-    const Description description(pango_font_description_from_string(font.toUtf8().constData()));
+    const Description description = descriptionOf(font);
     pango_font_description_set_absolute_size(description.get(), lettering.size * PANGO_SCALE);
     const std::unique_ptr<char, decltype(&g_free)> name(pango_font_description_to_string(description.get()), g_free);
     return VImage::text(lettering.text.toHtmlEscaped().toUtf8().constData(), // the library looks for markup in it
@@ -61,9 +72,18 @@ VImage coverageOf(const Lettering &lettering)
 
 bool hasFont(const QString &font)
 {
-    const Description description(pango_font_description_from_string(font.toUtf8().constData()));
+    const Description description = descriptionOf(font);
     const char *family = pango_font_description_get_family(description.get());
-    return family && (isGeneric(QString::fromUtf8(family)) || isInstalled(QString::fromUtf8(family)));
+    const QString name = QString::fromUtf8(family);
+    return family && (isGeneric(name) || installedFamilies().contains(name, Qt::CaseInsensitive));
+}
+
+QStringList fontFamilies()
+{
+    QStringList names = installedFamilies();
+    names.removeDuplicates();
+    names.sort(Qt::CaseInsensitive);
+    return names;
 }
 
 Result<Bitmap> drawn(const Lettering &lettering)

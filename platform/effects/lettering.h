@@ -4,11 +4,15 @@
 
 #include <QColor>
 #include <QString>
+#include <QStringList>
 
 namespace platform {
 
 /** True where a font of that family, such as "DejaVu Sans" or "Sans Bold", is installed; no other would stand in for it. */
 bool hasFont(const QString &font);
+
+/** The names of the families of fonts that are installed, by the alphabet; none is empty. */
+QStringList fontFamilies();
 
 struct Lettering
 {
