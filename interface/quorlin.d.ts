@@ -1059,6 +1059,46 @@ declare module "quorlin/tokens" {
     }
 }
 
+/** Recipes (docs/recipes.md) for one picture. A recipe is the object that its file would hold, with one output; paths are absolute. */
+declare module "quorlin/recipes" {
+    interface OutputPlan {
+        /** Why there will be none, in a sentence; empty where there will be one. */
+        problem: string;
+        /** Its type cannot be written. */
+        isNotSupported: boolean;
+        /** The word of recipes: "jpeg". */
+        type: string;
+        /** Of the upright result, in pixels. */
+        width: whole;
+        height: whole;
+        /** ".jpg" */
+        extension: string;
+        /** No pixel is encoded again. */
+        lossless: boolean;
+        /** Sentences. */
+        losses: string[];
+    }
+
+    interface Made {
+        outcome: "OK" | "Failed" | "Not Supported";
+        reason: string;
+        /** Of the file that was written, or empty. */
+        path: string;
+        width: whole;
+        height: whole;
+        losses: string[];
+    }
+
+    export const recipes: {
+        /** What the recipe makes of a picture, from its header. */
+        planOutput(path: text, recipe: dictionary): OutputPlan;
+        /** Makes it as the file `target`, whole or not at all; what stands there is replaced. */
+        make(path: text, recipe: dictionary, target: text): Made;
+        /** The families of fonts that watermarks can be set in. */
+        fonts(): string[];
+    };
+}
+
 /** Renaming, moving, copying and linking so that no file is ever lost or replaced. Paths are absolute. */
 declare module "quorlin/moves" {
     type kind = "move" | "copy" | "link";

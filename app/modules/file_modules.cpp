@@ -6,6 +6,7 @@
 #include "files/services/folder_names.h"
 #include "files/services/move_service.h"
 #include "image/services/picture_service.h"
+#include "jobs/services/recipe_service.h"
 #include "text/services/token_service.h"
 #include "text/services/token_text.h"
 
@@ -30,7 +31,8 @@ std::vector<ServiceEntry> fileServices()
             oneObject<files::MoveService>("quorlin/moves", "moves"),
             oneObject<image::PictureService>("quorlin/pictures", "pictures"),
             oneObject<text::TokenService>("quorlin/tokens", "tokens"),
-            madeWithFields<TokenText>("quorlin/tokens")};
+            madeWithFields<TokenText>("quorlin/tokens"),
+            oneObject<jobs::RecipeService>("quorlin/recipes", "recipes")};
 }
 
 void addFileModules(ScriptEngine &scripts)
@@ -39,6 +41,7 @@ void addFileModules(ScriptEngine &scripts)
     offerServices(scripts, fileServices(), "quorlin/moves", new files::MoveService(&scripts));
     offerServices(scripts, fileServices(), "quorlin/pictures", new image::PictureService(&scripts));
     offerServices(scripts, fileServices(), "quorlin/tokens", new text::TokenService(&scripts));
+    offerServices(scripts, fileServices(), "quorlin/recipes", new jobs::RecipeService(&scripts));
 }
 
 } // namespace script

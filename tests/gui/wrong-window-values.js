@@ -9,6 +9,7 @@ import { TextField } from "quorlin/controls";
 import { files } from "quorlin/files";
 import { moves } from "quorlin/moves";
 import { pictures } from "quorlin/pictures";
+import { recipes } from "quorlin/recipes";
 import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";
 
@@ -248,7 +249,7 @@ function refusesTheDead(object) {
 
 // It ends the program, as it says.
 attack(shell, ["quit"]);
-[program, files, moves, pictures].forEach((each) => attack(each, []));
+[program, files, moves, pictures, recipes].forEach((each) => attack(each, []));
 [form, shell.theme, shell.sheetHost(form), shell.timer(thrower), shell.job()].forEach((each) => attack(each, []));
 const controls = controlsOfAllKinds();
 Object.keys(controls).forEach((name) => attack(controls[name], []));

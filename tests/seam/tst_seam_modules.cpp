@@ -39,7 +39,7 @@ QString TestSeamModules::answer(const QString &expression)
     const QString module = QStringLiteral(
         "import { files } from 'quorlin/files'; import { moves } from 'quorlin/moves';"
         "import { pictures } from 'quorlin/pictures'; import { tokens, TokenText } from 'quorlin/tokens';"
-        "import { reportError } from 'test';"
+        "import { recipes } from 'quorlin/recipes'; import { reportError } from 'test';"
         "reportError(() => { const value = %1; return value; });");
     if (!m_run.runFile(QStringLiteral("m%1.js").arg(++m_count), module.arg(expression)))
         return m_run.error;
@@ -79,6 +79,10 @@ void TestSeamModules::refusesWhatIsNotMeant_data()
         {"new TokenText({}).expand('/a', { width: '3' }, 0)",
          "Expected a whole number for facts.width but received \"3\""},
         {"new TokenText({}).expand('/a', null, '0')", "Expected a number for index but received \"0\""},
+        {"recipes.make('/a', {})", "make takes 3 arguments but received 2"},
+        {"recipes.make('/a', 'sharpen', '/b')", "Expected a dictionary for recipe but received \"sharpen\""},
+        {"recipes.planOutput('/a', [])", "Expected a dictionary for recipe but received a list"},
+        {"recipes.planOutput(3, {})", "Expected text or null for path but received 3"},
     };
     for (const auto &[expression, error] : rows)
         QTest::newRow(expression) << QString::fromLatin1(expression) << QString::fromLatin1(error);
@@ -136,8 +140,8 @@ void TestSeamModules::cannotBeChanged()
     QFETCH(QString, expression);
     QFETCH(QString, error);
     QCOMPARE(answer(expression), QStringLiteral("TypeError: ") + error);
-    QCOMPARE(answer(QStringLiteral("[files, moves, pictures].map(Object.isFrozen)")),
-             QStringLiteral("[true,true,true]"));
+    QCOMPARE(answer(QStringLiteral("[files, moves, pictures, recipes].map(Object.isFrozen)")),
+             QStringLiteral("[true,true,true,true]"));
 }
 
 void TestSeamModules::takesNoneOfItsOperationsElsewhere()

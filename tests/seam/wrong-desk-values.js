@@ -8,6 +8,7 @@ import { TextField } from "quorlin/controls";
 import { files } from "quorlin/files";
 import { moves } from "quorlin/moves";
 import { pictures } from "quorlin/pictures";
+import { recipes } from "quorlin/recipes";
 
 const probeFolder = scriptArguments[0] + "/probe";
 const most = scriptArguments[1] === "pairs" ? 4 : 2;
@@ -62,7 +63,7 @@ function callAll(object) {
     });
 }
 
-[files, moves, pictures].forEach(callAll);
+[files, moves, pictures, recipes].forEach(callAll);
 if (done.slowestMs > 10000) {
     tell(done.slowest + " takes " + done.slowestMs + " ms");
 }

@@ -1,0 +1,131 @@
+#include "jobs/services/recipe_service.h"
+
+#include "image/recipe/make.h"
+#include "image/recipe/plan.h"
+#include "image/recipe/recipe_reader.h"
+#include "image/recipe/sentence.h"
+#include "jobs/names.h"
+#include "platform/effects/lettering.h"
+#include "platform/file/atomic_file.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace jobs {
+namespace {
+
+using image::OutputPlan;
+using image::Recipe;
+using platform::ImageSource;
+using platform::Result;
+
+QString key(const char *name)
+{
+    return QString::fromLatin1(name);
+}
+
+/** A recipe with one output. */
+Result<Recipe> recipeFrom(const QVariantMap &object)
+{
+    const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(object)).toJson();
+    return image::readRecipe(json, QStringLiteral("/")).and_then([](const Recipe &recipe) -> Result<Recipe> {
+        if (recipe.outputs.size() != 1)
+            return platform::failure(platform::ErrorCode::InvalidValue, image::sentence("outputs: one, and no more"));
+        return recipe;
+    });
+}
+
+/** A recipe and a picture that can be made by it. */
+struct Task
+{
+    Recipe recipe;
+    ImageSource source;
+    OutputPlan plan;
+};
+
+Result<Task> taskFor(const QString &path, const QVariantMap &object)
+{
+    return recipeFrom(object).and_then([&](const Recipe &recipe) {
+        return ImageSource::open(path).map([&](const ImageSource &source) {
+            return Task{recipe, source, image::planOf(recipe, source).first()};
+        });
+    });
+}
+
+QVariantMap outcome(const char *word, const QString &reason)
+{
+    return {{key("outcome"), key(word)}, {key("reason"), reason}, {key("path"), QString()},
+            {key("width"), 0},           {key("height"), 0},      {key("losses"), QStringList()}};
+}
+
+void takeDateOf(const QString &source, const QString &path)
+{
+    QFile file(path);
+    if (file.open(QIODevice::ReadWrite))
+        file.setFileTime(QFileInfo(source).lastModified(), QFileDevice::FileModificationTime);
+}
+
+Result<image::MadeOutput> madeOf(const Task &task, const QString &path)
+{
+    Result<image::MadeOutput> result =
+        platform::failure(platform::ErrorCode::Unreadable, image::sentence("nothing came of it"));
+    const image::FillText fill = [&path](const QString &pattern, QSize size) {
+        return watermarkFrom(pattern, path, 0, size);
+    };
+    image::makeOutputs(task.recipe, task.source, {task.plan}, fill,
+                       [&result](int, const Result<image::MadeOutput> &made) { result = made; });
+    return result;
+}
+
+} // namespace
+
+QVariantMap RecipeService::planOutput(const QString &path, const QVariantMap &recipe) const
+{
+    OutputPlan plan;
+    const Result<Task> task = taskFor(path, recipe);
+    if (task)
+        plan = task->plan;
+    else
+        plan.problem = task.error().message;
+    const bool isThere = plan.problem.isEmpty();
+    return {{key("problem"), plan.problem},
+            {key("isNotSupported"), plan.isNotSupported},
+            {key("type"), isThere ? image::wordOf(plan.type) : QString()},
+            {key("width"), plan.size.width()},
+            {key("height"), plan.size.height()},
+            {key("extension"), isThere ? image::extensionOf(plan.type) : QString()},
+            {key("lossless"), plan.isLossless},
+            {key("losses"), plan.losses}};
+}
+
+QVariantMap RecipeService::make(const QString &path, const QVariantMap &recipe, const QString &target) const
+{
+    const Result<Task> task = taskFor(path, recipe);
+    if (!task)
+        return outcome("Failed", task.error().message);
+    if (!task->plan.problem.isEmpty())
+        return outcome(task->plan.isNotSupported ? "Not Supported" : "Failed", task->plan.problem);
+    const Result<image::MadeOutput> made = madeOf(*task, path);
+    const Result<void> written =
+        made.and_then([&](const image::MadeOutput &output) { return platform::replaceFile(target, output.bytes); });
+    if (!written)
+        return outcome("Failed", written.error().message);
+    if (task->recipe.outputs.first().dates == image::FileDates::Keep)
+        takeDateOf(path, target);
+    QVariantMap result = outcome("OK", QString());
+    result.insert(key("path"), target);
+    result.insert(key("width"), made->size.width());
+    result.insert(key("height"), made->size.height());
+    result.insert(key("losses"), task->plan.losses);
+    return result;
+}
+
+QStringList RecipeService::fonts() const
+{
+    return platform::fontFamilies();
+}
+
+} // namespace jobs

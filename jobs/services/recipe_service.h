@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace jobs {
+
+/**
+ * Recipes for scripts: the plan and the result of one picture. A recipe is the plain object that its file would hold, see
+ * docs/recipes.md, with exactly one output; paths in it are absolute. Nothing here needs a window.
+ */
+class RecipeService : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /**
+     * What the recipe makes of the picture at @p path, from its header alone: {problem, isNotSupported, type, width, height,
+     * extension, lossless, losses}. Where there will be none, problem is a sentence and the others say nothing; isNotSupported then
+     * tells that its type cannot be written. type is the word of recipes ("jpeg"), extension ".jpg", width and height are pixels of
+     * the upright result, losses are sentences.
+     */
+    Q_INVOKABLE QVariantMap planOutput(const QString &path, const QVariantMap &recipe) const;
+
+    /**
+     * Makes it and writes it as the file @p target, whatever the recipe says of names, folders and taken names; what stands there is
+     * replaced. Atomic: the file is there whole, or as it was. {counter} in a watermark is its first number.
+     *
+     * @return {outcome: "OK", "Failed" or "Not Supported", reason: a sentence, path, width, height, losses}; path is empty where
+     *         nothing was written
+     */
+    Q_INVOKABLE QVariantMap make(const QString &path, const QVariantMap &recipe, const QString &target) const;
+
+    /** The families of fonts that watermarks can be set in, by the alphabet. */
+    Q_INVOKABLE QStringList fonts() const;
+};
+
+} // namespace jobs
