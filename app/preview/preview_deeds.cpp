@@ -2,14 +2,20 @@
 
 #include "image/crop.h"
 #include "image/overlay.h"
+#include "image/recipe/recipe_reader.h"
+#include "image/recipe/render.h"
 #include "image/round_corners.h"
 #include "image/turn.h"
+#include "jobs/names.h"
 #include "platform/graphics/compose.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/source/picture.h"
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <cmath>
@@ -68,12 +74,25 @@ public:
         return color;
     }
 
+    QVariantList list(const char *name)
+    {
+        const QVariant value = m_map.value(QString::fromLatin1(name));
+        if (value.metaType() != QMetaType::fromType<QVariantList>())
+            complain(name, "a list");
+        return value.toList();
+    }
+
     void complain(const char *name, const char *expected)
     {
         if (m_problem.isEmpty())
             m_problem =
                 QStringLiteral("Expected %1 for %2 of the deed %3")
                     .arg(QLatin1String(expected), QLatin1String(name), m_map.value(QStringLiteral("do")).toString());
+    }
+    void refuse(const QString &sentence)
+    {
+        if (m_problem.isEmpty())
+            m_problem = sentence;
     }
     const QString &problem() const { return m_problem; }
 
@@ -108,6 +127,17 @@ Deed roundDeed(Values &values)
     return RoundDeed{values.text("shape"), values.number("radius"), values.color("color"), values.number("band")};
 }
 
+Deed recipeDeed(Values &values)
+{
+    const QJsonObject recipe = {{QStringLiteral("quorlin"), image::recipeVersion},
+                                {QStringLiteral("operations"), QJsonArray::fromVariantList(values.list("operations"))},
+                                {QStringLiteral("outputs"), QJsonArray{QJsonObject()}}};
+    const Result<image::Recipe> read = image::readRecipe(QJsonDocument(recipe).toJson(), QStringLiteral("/"));
+    if (!read)
+        values.refuse(read.error().message);
+    return RecipeDeed{read ? read->operations : QList<image::RecipeStep>(), values.text("path")};
+}
+
 using Reader = std::function<Deed(Values &)>;
 
 const QHash<QString, Reader> &readers()
@@ -122,6 +152,7 @@ const QHash<QString, Reader> &readers()
         {QStringLiteral("pattern"), [](Values &values) -> Deed { return PatternDeed{values.text("path")}; }},
         {QStringLiteral("frame"), [](Values &) -> Deed { return FrameDeed{}; }},
         {QStringLiteral("flatten"), [](Values &) -> Deed { return FlattenDeed{}; }},
+        {QStringLiteral("recipe"), recipeDeed},
     };
     return all;
 }
@@ -239,6 +270,18 @@ Result<Rendition> doneOne(const FlattenDeed &, const Rendition &start)
 {
     return with(start.bitmap.hasAlpha() ? image::laidOnColor(start.bitmap, Qt::black) : Result<Bitmap>(start.bitmap),
                 start.full);
+}
+
+Result<Rendition> doneOne(const RecipeDeed &deed, const Rendition &start)
+{
+    image::Rendition known = {start.bitmap, image::stageOf(start.bitmap)};
+    known.stage.size = start.full;
+    const image::FillText fill = [&deed](const QString &pattern, QSize size) {
+        return jobs::watermarkFrom(pattern, deed.path, 0, size);
+    };
+    return image::rendered(deed.steps, known, fill).map([](const image::Rendition &made) {
+        return Rendition{made.bitmap, made.stage.size};
+    });
 }
 
 } // namespace

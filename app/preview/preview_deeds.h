@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/recipe/recipe.h"
 #include "platform/graphics/bitmap.h"
 
 #include <QColor>
@@ -65,14 +66,22 @@ struct FlattenDeed
 {
 };
 
-using Deed =
-    std::variant<CutDeed, ScaleDeed, FlipDeed, TurnDeed, RoundDeed, LayDeed, PatternDeed, FrameDeed, FlattenDeed>;
+/** Operations of a recipe, by the code that makes files of it. */
+struct RecipeDeed
+{
+    QList<image::RecipeStep> steps;
+    QString path; ///< of the picture, for the tokens in texts
+};
+
+using Deed = std::variant<CutDeed, ScaleDeed, FlipDeed, TurnDeed, RoundDeed, LayDeed, PatternDeed, FrameDeed,
+                          FlattenDeed, RecipeDeed>;
 using Deeds = std::vector<Deed>;
 
 /**
  * The deeds of a list of dictionaries {do, ...}: "cut" x, y, width, height · "scale" width, height · "flip" axis
  * ("horizontal", "vertical") · "turn" degrees · "round" shape, radius, color ("" or "#rrggbb"), band · "lay" color ·
- * "pattern" path · "frame" · "flatten". Fails with InvalidValue for anything else.
+ * "pattern" path · "frame" · "flatten" · "recipe" operations (as in the file of a recipe), path. Fails with InvalidValue for anything
+ * else, also for operations that a recipe would be refused for.
  */
 platform::Result<Deeds> deedsFrom(const QVariantList &list);
 

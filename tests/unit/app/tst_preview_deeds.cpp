@@ -1,5 +1,6 @@
 #include "app/preview/preview_deeds.h"
 #include "image/overlay.h"
+#include "image/recipe/render.h"
 #include "image/round_corners.h"
 #include "image/turn.h"
 #include "platform/graphics/resample.h"
@@ -45,6 +46,20 @@ QVariantMap corners(const char *shape, double radius, const char *color, double 
             {QStringLiteral("radius"), radius},
             {QStringLiteral("color"), QString::fromLatin1(color)},
             {QStringLiteral("band"), band}};
+}
+
+QVariantMap recipe(const QVariantList &operations)
+{
+    return deed("recipe", {{QStringLiteral("operations"), operations},
+                           {QStringLiteral("path"), QStringLiteral("/pictures/Lake.png")}});
+}
+
+QVariantMap mark(const char *text)
+{
+    return deed("watermark", {{QStringLiteral("text"), QString::fromLatin1(text)},
+                              {QStringLiteral("size"), 20},
+                              {QStringLiteral("color"), QStringLiteral("#000000")},
+                              {QStringLiteral("opacity"), 100}});
 }
 
 /** The picture that is meant, and the same with @p factor times fewer pixels on each side. */
@@ -110,6 +125,8 @@ private Q_SLOTS:
     void givesNoMorePixelsThanTheResultHas();
     void laysAPatternAtItsScale();
     void failsWhereNothingIsLeft();
+    void doesARecipeAsTheFileIsMade();
+    void doesARecipeWithFewerPixels();
 };
 
 void TestPreviewDeeds::refusesWhatIsNoDeed_data()
@@ -128,6 +145,15 @@ void TestPreviewDeeds::refusesWhatIsNoDeed_data()
     QTest::newRow("no number") << QVariant(deed("turn", one("degrees", qQNaN())));
     QTest::newRow("no colour") << QVariant(deed("lay", one("color", QStringLiteral("#12"))));
     QTest::newRow("no path") << QVariant(deed("pattern"));
+    QTest::newRow("no operations") << QVariant(deed("recipe", one("path", QStringLiteral("/a.png"))));
+    QTest::newRow("operations as text") << QVariant(
+        deed("recipe", {{QStringLiteral("path"), QStringLiteral("/a.png")},
+                        {QStringLiteral("operations"), QStringLiteral("x")}}));
+    QTest::newRow("a recipe for no picture") << QVariant(deed("recipe", one("operations", QVariantList())));
+    QTest::newRow("an operation that recipes refuse") << QVariant(recipe({deed("watermark")}));
+    QTest::newRow("a font that is not there")
+        << QVariant(recipe({deed("watermark", {{QStringLiteral("text"), QStringLiteral("x")},
+                                               {QStringLiteral("font"), QStringLiteral("No Such Font")}})}));
 }
 
 void TestPreviewDeeds::refusesWhatIsNoDeed()
@@ -318,6 +344,36 @@ void TestPreviewDeeds::failsWhereNothingIsLeft()
 {
     for (const QVariantMap &part : {rect(600, 0, 10, 10), rect(0, 0, 0, 10), rect(0, 0, -5, 10), rect(-9, 0, 5, 5)})
         QVERIFY(!window::done(*window::deedsFrom({deed("cut", part)}), small(quarters(600, 400), 4)));
+}
+
+void TestPreviewDeeds::doesARecipeAsTheFileIsMade()
+{
+    const Rendition start = whole(quarters(120, 80));
+    image::WatermarkOperation operation;
+    operation.text = QStringLiteral("Lake");
+    operation.size = 20;
+    operation.color = Qt::black;
+    operation.opacity = 100;
+    const auto expected =
+        image::rendered({{operation, false}}, {start.bitmap, image::stageOf(start.bitmap)}, image::FillText());
+    QVERIFY(expected);
+    QCOMPARE(made({recipe({mark("Lake")})}, start).bitmap.toRawImage(), expected->bitmap.toRawImage());
+    // A token stands for what the picture at the path has.
+    QCOMPARE(made({recipe({mark("{name}")})}, start).bitmap.toRawImage(), expected->bitmap.toRawImage());
+    QVERIFY(made({recipe({mark("{extension}")})}, start).bitmap.toRawImage() != expected->bitmap.toRawImage());
+    const Rendition sized = made({recipe({deed("resize", one("longest", 60))}), deed("flatten")}, start);
+    QCOMPARE(sized.full, QSize(60, 40));
+}
+
+void TestPreviewDeeds::doesARecipeWithFewerPixels()
+{
+    const Rendition start = small(quarters(1200, 800), 4);
+    const Rendition result = made({recipe({mark("{width}")})}, start);
+    QCOMPARE(result.full, QSize(1200, 800));
+    QCOMPARE(result.bitmap.size(), QSize(300, 200));
+    const Rendition expected = made({recipe({mark("1200")})}, start);
+    QCOMPARE(result.bitmap.toRawImage(), expected.bitmap.toRawImage());
+    QVERIFY(result.bitmap.toRawImage() != start.bitmap.toRawImage());
 }
 
 QUORLIN_TEST(TestPreviewDeeds)
