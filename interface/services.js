@@ -5,6 +5,7 @@ import { CheckBox, ColorWell, SegmentedControl, TabView, TextField } from "quorl
 import { files } from "quorlin/files";
 import { moves } from "quorlin/moves";
 import { pictures } from "quorlin/pictures";
+import { recipes } from "quorlin/recipes";
 import { KnownFacts } from "./lib/known-facts.js";
 import { emptyTable } from "./lib/names.js";
 
@@ -31,7 +32,7 @@ function join(image, outlets) {
     image.tfBorderWidth = outlets.bandWidth;
 }
 
-/** {image, units, fileHandling, files, facts, names, moves, pictures, openPicture(path), outlets, unitCache}. */
+/** {image, units, fileHandling, files, facts, names, moves, pictures, recipes, openPicture(path), outlets, unitCache}. */
 export function makeServices() {
     const outlets = makeOutlets();
     const image = new ZtImageHandling();
@@ -39,7 +40,7 @@ export function makeServices() {
     return {
         image: image, units: new cMConversion(), fileHandling: new cNSFileHandling(), files: files,
         facts: new KnownFacts(files), names: new cNSStringHandling(),
-        pictures: pictures, moves: moves,
+        pictures: pictures, recipes: recipes, moves: moves,
         openPicture: (path) => Picture.open(path), outlets: outlets, unitCache: emptyTable(),
     };
 }

@@ -126,7 +126,7 @@ def manual_table():
 
 # The rows of the manual's other table: the names of actions, and the step that says for all of them what metadata goes along.
 ACTION_ROWS = {"Resize, Crop": ("resize", "crop"), "Rotate & Flip": ("turn",), "Round Corners": ("round",),
-               "Background & Border": ("background",), "Convert": ("convert",)}
+               "Background & Border": ("background",), "Watermark": ("watermark",), "Convert": ("convert",)}
 
 
 def metadata_of(action):

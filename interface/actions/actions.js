@@ -29,6 +29,7 @@ import { resize } from "./resize/resize-action.js";
 import { round } from "./round/round-action.js";
 import { sort } from "./sort/sort-action.js";
 import { turn } from "./turn/turn-action.js";
+import { watermark } from "./watermark/watermark-action.js";
 
 export const GROUPS = [
     {
@@ -39,6 +40,7 @@ export const GROUPS = [
             turn,
             round,
             background,
+            watermark,
         ],
     },
     {

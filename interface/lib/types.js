@@ -25,6 +25,13 @@ export const PDF_PAGE = writtenAs(pictures.outputTypes().find((output) => output
 export const QUALITIES = pictures.qualityCodes();
 export const CONVERSION_QUALITIES = QUALITIES.slice(0, -1);
 
+/** What a picture can be of in spite of the extension of its name; such a type is kept and cannot be chosen. */
+const FURTHER_MADE = [
+    ["org.webmproject.webp", "webp", "WebP"], ["public.avif", "avif", "AVIF"], ["public.jpeg-xl", "jxl", "JPEG XL"],
+].map(([id, keyword, word]) => writtenAs({ id: id, keyword: keyword, word: word, carriesMetadata: false }));
+
+const MADE = WRITTEN.concat([PDF_PAGE], FURTHER_MADE);
+
 /** The raw files of cameras, by extension: those that have a preview which can be converted, and the others. */
 export const RAW_WITH_PREVIEW = pictures.rawTypes().filter((type) => type.hasPreview).map((type) => type.extension);
 const RAW = pictures.rawTypes().map((type) => type.extension);
@@ -46,9 +53,14 @@ export function writtenType(id) {
     return WRITTEN.find((type) => type.id === id) || null;
 }
 
-/** The written type of that identifier, or that of a page, or null. */
+/** The type of that identifier that some action writes, or null. */
 export function madeType(id) {
-    return id === PDF_PAGE.id ? PDF_PAGE : writtenType(id);
+    return MADE.find((type) => type.id === id) || null;
+}
+
+/** The same by its keyword, which is the word of recipes too. */
+export function madeTypeNamed(keyword) {
+    return MADE.find((type) => type.keyword === keyword) || null;
 }
 
 /** The extension of a path's file name names this type; empty where it is unknown. */

@@ -1669,6 +1669,129 @@
     </message>
 </context>
 <context>
+    <name>WatermarkPane</name>
+    <message>
+        <source>Watermark</source>
+        <translation>Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>What lies over the picture</source>
+        <translation>Was über dem Bild liegt</translation>
+    </message>
+    <message>
+        <source>Text of the watermark</source>
+        <translation>Text des Wasserzeichens</translation>
+    </message>
+    <message>
+        <source>Insert a value of the picture</source>
+        <translation>Einen Wert des Bildes einfügen</translation>
+    </message>
+    <message>
+        <source>Picture that lies over the picture</source>
+        <translation>Bild, das über dem Foto liegt</translation>
+    </message>
+    <message>
+        <source>About watermarks of your own</source>
+        <translation>Über eigene Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Colour of the text</source>
+        <translation>Farbe des Textes</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Size of the text, in per cent of the height of the picture</source>
+        <translation>Größe des Textes, in Prozent der Bildhöhe</translation>
+    </message>
+    <message>
+        <source>of the height</source>
+        <translation>der Bildhöhe</translation>
+    </message>
+    <message>
+        <source>Width of the watermark, in per cent of the width of the picture</source>
+        <translation>Breite des Wasserzeichens, in Prozent der Bildbreite</translation>
+    </message>
+    <message>
+        <source>of the width</source>
+        <translation>der Bildbreite</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Position of the watermark</source>
+        <translation>Position des Wasserzeichens</translation>
+    </message>
+    <message>
+        <source>Tiled</source>
+        <translation>Kacheln</translation>
+    </message>
+    <message>
+        <source>Repeats the watermark over the whole picture</source>
+        <translation>Wiederholt das Wasserzeichen über das ganze Bild</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Margin, in per cent of the shorter side</source>
+        <translation>Abstand vom Rand, in Prozent der kürzeren Seite</translation>
+    </message>
+    <message>
+        <source>In per cent of the shorter side of the picture</source>
+        <translation>Abstand vom Rand in Prozent der kürzeren Bildseite</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Angle, counter-clockwise</source>
+        <translation>Winkel, gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>Counter-clockwise</source>
+        <translation>Gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
     <name>about</name>
     <message>
         <source>Quorlin %1</source>
@@ -3544,6 +3667,10 @@
     <message>
         <source>Save results to</source>
         <translation>Ergebnisse speichern in</translation>
+    </message>
+    <message>
+        <source>Transparent parts become white.</source>
+        <translation>Transparente Bereiche werden weiß.</translation>
     </message>
 </context>
 <context>
@@ -7189,6 +7316,173 @@
     </message>
 </context>
 <context>
+    <name>watermark-action</name>
+    <message>
+        <source>Watermark</source>
+        <translation>Wasserzeichen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Watermark %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild mit Wasserzeichen versehen</numerusform>
+            <numerusform>%n Bilder mit Wasserzeichen versehen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>watermark-pane</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Search values</source>
+        <translation>Werte suchen</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation>Bild wählen</translation>
+    </message>
+</context>
+<context>
+    <name>watermark-presets</name>
+    <message>
+        <source>Copyright, bottom right</source>
+        <translation>Copyright, unten rechts</translation>
+    </message>
+    <message>
+        <source>Copyright, dark</source>
+        <translation>Copyright, dunkel</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Name der Datei</translation>
+    </message>
+    <message>
+        <source>Tiled draft</source>
+        <translation>Entwurf, gekachelt</translation>
+    </message>
+    <message>
+        <source>DRAFT</source>
+        <translation>ENTWURF</translation>
+    </message>
+</context>
+<context>
+    <name>watermark-step</name>
+    <message>
+        <source>Watermarked</source>
+        <translation>Mit Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>text “%1”</source>
+        <translation>Text „%1“</translation>
+    </message>
+    <message>
+        <source>picture %1</source>
+        <translation>Bild %1</translation>
+    </message>
+    <message>
+        <source>tiled</source>
+        <translation>gekachelt</translation>
+    </message>
+    <message>
+        <source>Enter a text.</source>
+        <translation>Geben Sie einen Text ein.</translation>
+    </message>
+    <message>
+        <source>A watermark cannot count: leave out {counter}.</source>
+        <translation>Ein Wasserzeichen kann nicht zählen: Lassen Sie {counter} weg.</translation>
+    </message>
+    <message>
+        <source>There is no font “%1” on this computer. Choose another.</source>
+        <translation>Die Schrift „%1“ gibt es auf diesem Rechner nicht. Wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>Choose a picture.</source>
+        <translation>Wählen Sie ein Bild.</translation>
+    </message>
+    <message>
+        <source>The picture “%1” is no longer there.</source>
+        <translation>Das Bild „%1“ ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read as a picture.</source>
+        <translation>„%1“ kann nicht als Bild gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Enter a size from 0.1 to 100 per cent.</source>
+        <translation>Geben Sie eine Größe von 0,1 bis 100 Prozent ein.</translation>
+    </message>
+    <message>
+        <source>Enter a margin from 0 to 100 per cent.</source>
+        <translation>Geben Sie einen Abstand von 0 bis 100 Prozent ein.</translation>
+    </message>
+    <message>
+        <source>Enter an opacity from 1 to 100 per cent.</source>
+        <translation>Geben Sie eine Deckkraft von 1 bis 100 Prozent ein.</translation>
+    </message>
+    <message>
+        <source>Enter an angle from -180 to 180 degrees.</source>
+        <translation>Geben Sie einen Winkel von -180 bis 180 Grad ein.</translation>
+    </message>
+    <message>
+        <source>this type cannot be written, choose another file type</source>
+        <translation>dieser Typ kann nicht geschrieben werden, wählen Sie einen anderen Dateityp</translation>
+    </message>
+</context>
+<context>
     <name>window</name>
     <message>
         <source>Nothing of the picture is left</source>
@@ -7631,6 +7925,10 @@
     <message>
         <source>transparent parts become black</source>
         <translation>transparente Bereiche werden schwarz</translation>
+    </message>
+    <message>
+        <source>transparent parts become white</source>
+        <translation>transparente Bereiche werden weiß</translation>
     </message>
 </context>
 </TS>

@@ -670,6 +670,16 @@
     </message>
 </context>
 <context>
+    <name>watermark-action</name>
+    <message numerus="yes">
+        <source>Watermark %n Pictures</source>
+        <translation>
+            <numerusform>Watermark %n Picture</numerusform>
+            <numerusform>Watermark %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>window::FolderTree</name>
     <message numerus="yes">
         <source>%Ln files</source>

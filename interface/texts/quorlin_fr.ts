@@ -1669,6 +1669,129 @@
     </message>
 </context>
 <context>
+    <name>WatermarkPane</name>
+    <message>
+        <source>Watermark</source>
+        <translation>Filigrane</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>What lies over the picture</source>
+        <translation>Ce qui recouvre l’image</translation>
+    </message>
+    <message>
+        <source>Text of the watermark</source>
+        <translation>Texte du filigrane</translation>
+    </message>
+    <message>
+        <source>Insert a value of the picture</source>
+        <translation>Insérer une valeur de l’image</translation>
+    </message>
+    <message>
+        <source>Picture that lies over the picture</source>
+        <translation>Image du filigrane</translation>
+    </message>
+    <message>
+        <source>About watermarks of your own</source>
+        <translation>À propos de vos propres filigranes</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>Colour of the text</source>
+        <translation>Couleur du texte</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Poids</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Size of the text, in per cent of the height of the picture</source>
+        <translation>Taille du texte, en pour cent de la hauteur de l’image</translation>
+    </message>
+    <message>
+        <source>of the height</source>
+        <translation>de la hauteur</translation>
+    </message>
+    <message>
+        <source>Width of the watermark, in per cent of the width of the picture</source>
+        <translation>Largeur du filigrane, en pour cent de la largeur de l’image</translation>
+    </message>
+    <message>
+        <source>of the width</source>
+        <translation>de la largeur</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Position of the watermark</source>
+        <translation>Position du filigrane</translation>
+    </message>
+    <message>
+        <source>Tiled</source>
+        <translation>En mosaïque</translation>
+    </message>
+    <message>
+        <source>Repeats the watermark over the whole picture</source>
+        <translation>Répète le filigrane sur toute l’image</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Margin, in per cent of the shorter side</source>
+        <translation>Marge, en pour cent du petit côté</translation>
+    </message>
+    <message>
+        <source>In per cent of the shorter side of the picture</source>
+        <translation>En pour cent du petit côté de l’image</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Angle, counter-clockwise</source>
+        <translation>Angle, sens antihoraire</translation>
+    </message>
+    <message>
+        <source>Counter-clockwise</source>
+        <translation>Sens antihoraire</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
     <name>about</name>
     <message>
         <source>Quorlin %1</source>
@@ -3544,6 +3667,10 @@
     <message>
         <source>Save results to</source>
         <translation>Enregistrer les résultats dans</translation>
+    </message>
+    <message>
+        <source>Transparent parts become white.</source>
+        <translation>Les parties transparentes deviennent blanches.</translation>
     </message>
 </context>
 <context>
@@ -7189,6 +7316,173 @@
     </message>
 </context>
 <context>
+    <name>watermark-action</name>
+    <message>
+        <source>Watermark</source>
+        <translation>Filigrane</translation>
+    </message>
+    <message numerus="yes">
+        <source>Watermark %n Pictures</source>
+        <translation>
+            <numerusform>Filigraner %n image</numerusform>
+            <numerusform>Filigraner %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>watermark-pane</name>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>En haut</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Au centre</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>En bas</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Search values</source>
+        <translation>Chercher une valeur</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation>Choisir une image</translation>
+    </message>
+</context>
+<context>
+    <name>watermark-presets</name>
+    <message>
+        <source>Copyright, bottom right</source>
+        <translation>Copyright, en bas à droite</translation>
+    </message>
+    <message>
+        <source>Copyright, dark</source>
+        <translation>Copyright, foncé</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Nom du fichier</translation>
+    </message>
+    <message>
+        <source>Tiled draft</source>
+        <translation>Épreuve, en mosaïque</translation>
+    </message>
+    <message>
+        <source>DRAFT</source>
+        <translation>ÉPREUVE</translation>
+    </message>
+</context>
+<context>
+    <name>watermark-step</name>
+    <message>
+        <source>Watermarked</source>
+        <translation>Filigranées</translation>
+    </message>
+    <message>
+        <source>text “%1”</source>
+        <translation>texte «&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>picture %1</source>
+        <translation>image %1</translation>
+    </message>
+    <message>
+        <source>tiled</source>
+        <translation>en mosaïque</translation>
+    </message>
+    <message>
+        <source>Enter a text.</source>
+        <translation>Saisissez un texte.</translation>
+    </message>
+    <message>
+        <source>A watermark cannot count: leave out {counter}.</source>
+        <translation>Un filigrane ne peut pas compter&#x202f;: retirez {counter}.</translation>
+    </message>
+    <message>
+        <source>There is no font “%1” on this computer. Choose another.</source>
+        <translation>La police «&#x202f;%1&#x202f;» n’existe pas sur cet ordinateur. Choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>Choose a picture.</source>
+        <translation>Choisissez une image.</translation>
+    </message>
+    <message>
+        <source>The picture “%1” is no longer there.</source>
+        <translation>L’image «&#x202f;%1&#x202f;» n’est plus là.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read as a picture.</source>
+        <translation>«&#x202f;%1&#x202f;» ne peut pas être lu comme une image.</translation>
+    </message>
+    <message>
+        <source>Enter a size from 0.1 to 100 per cent.</source>
+        <translation>Saisissez une taille de 0,1 à 100 pour cent.</translation>
+    </message>
+    <message>
+        <source>Enter a margin from 0 to 100 per cent.</source>
+        <translation>Saisissez une marge de 0 à 100 pour cent.</translation>
+    </message>
+    <message>
+        <source>Enter an opacity from 1 to 100 per cent.</source>
+        <translation>Saisissez une opacité de 1 à 100 pour cent.</translation>
+    </message>
+    <message>
+        <source>Enter an angle from -180 to 180 degrees.</source>
+        <translation>Saisissez un angle de -180 à 180 degrés.</translation>
+    </message>
+    <message>
+        <source>this type cannot be written, choose another file type</source>
+        <translation>ce format ne peut pas être écrit, choisissez-en un autre</translation>
+    </message>
+</context>
+<context>
     <name>window</name>
     <message>
         <source>Nothing of the picture is left</source>
@@ -7631,6 +7925,10 @@
     <message>
         <source>transparent parts become black</source>
         <translation>transparence en noir</translation>
+    </message>
+    <message>
+        <source>transparent parts become white</source>
+        <translation>transparence en blanc</translation>
     </message>
 </context>
 </TS>

@@ -1669,6 +1669,129 @@
     </message>
 </context>
 <context>
+    <name>WatermarkPane</name>
+    <message>
+        <source>Watermark</source>
+        <translation>Watermerk</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>What lies over the picture</source>
+        <translation>Wat over de foto komt</translation>
+    </message>
+    <message>
+        <source>Text of the watermark</source>
+        <translation>Tekst van het watermerk</translation>
+    </message>
+    <message>
+        <source>Insert a value of the picture</source>
+        <translation>Een waarde van de foto invoegen</translation>
+    </message>
+    <message>
+        <source>Picture that lies over the picture</source>
+        <translation>Afbeelding die over de foto komt</translation>
+    </message>
+    <message>
+        <source>About watermarks of your own</source>
+        <translation>Over eigen watermerken</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Lettertype</translation>
+    </message>
+    <message>
+        <source>Colour of the text</source>
+        <translation>Kleur van de tekst</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Size of the text, in per cent of the height of the picture</source>
+        <translation>Grootte van de tekst, in procent van de hoogte van de foto</translation>
+    </message>
+    <message>
+        <source>of the height</source>
+        <translation>van de hoogte</translation>
+    </message>
+    <message>
+        <source>Width of the watermark, in per cent of the width of the picture</source>
+        <translation>Breedte van het watermerk, in procent van de breedte van de foto</translation>
+    </message>
+    <message>
+        <source>of the width</source>
+        <translation>van de breedte</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Positie</translation>
+    </message>
+    <message>
+        <source>Position of the watermark</source>
+        <translation>Positie van het watermerk</translation>
+    </message>
+    <message>
+        <source>Tiled</source>
+        <translation>Herhalen</translation>
+    </message>
+    <message>
+        <source>Repeats the watermark over the whole picture</source>
+        <translation>Herhaalt het watermerk over de hele foto</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Margin, in per cent of the shorter side</source>
+        <translation>Marge, in procent van de kortste zijde</translation>
+    </message>
+    <message>
+        <source>In per cent of the shorter side of the picture</source>
+        <translation>In procent van de kortste zijde van de foto</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Hoek</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Angle, counter-clockwise</source>
+        <translation>Hoek, tegen de klok in</translation>
+    </message>
+    <message>
+        <source>Counter-clockwise</source>
+        <translation>Tegen de klok in</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Dekking</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
     <name>about</name>
     <message>
         <source>Quorlin %1</source>
@@ -3544,6 +3667,10 @@
     <message>
         <source>Save results to</source>
         <translation>Resultaten bewaren in</translation>
+    </message>
+    <message>
+        <source>Transparent parts become white.</source>
+        <translation>Transparante delen worden wit.</translation>
     </message>
 </context>
 <context>
@@ -7189,6 +7316,173 @@
     </message>
 </context>
 <context>
+    <name>watermark-action</name>
+    <message>
+        <source>Watermark</source>
+        <translation>Watermerk</translation>
+    </message>
+    <message numerus="yes">
+        <source>Watermark %n Pictures</source>
+        <translation>
+            <numerusform>Watermerk op %n foto zetten</numerusform>
+            <numerusform>Watermerk op %n foto’s zetten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>watermark-pane</name>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Linksboven</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Boven</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Rechtsboven</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Midden</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Linksonder</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Onder</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Rechtsonder</translation>
+    </message>
+    <message>
+        <source>Search values</source>
+        <translation>Waarden zoeken</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standaard</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Geen</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Kiezen…</translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation>Afbeelding kiezen</translation>
+    </message>
+</context>
+<context>
+    <name>watermark-presets</name>
+    <message>
+        <source>Copyright, bottom right</source>
+        <translation>Copyright, rechtsonder</translation>
+    </message>
+    <message>
+        <source>Copyright, dark</source>
+        <translation>Copyright, donker</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Naam van het bestand</translation>
+    </message>
+    <message>
+        <source>Tiled draft</source>
+        <translation>Concept, herhaald</translation>
+    </message>
+    <message>
+        <source>DRAFT</source>
+        <translation>CONCEPT</translation>
+    </message>
+</context>
+<context>
+    <name>watermark-step</name>
+    <message>
+        <source>Watermarked</source>
+        <translation>Met watermerk</translation>
+    </message>
+    <message>
+        <source>text “%1”</source>
+        <translation>tekst “%1”</translation>
+    </message>
+    <message>
+        <source>picture %1</source>
+        <translation>afbeelding %1</translation>
+    </message>
+    <message>
+        <source>tiled</source>
+        <translation>herhaald</translation>
+    </message>
+    <message>
+        <source>Enter a text.</source>
+        <translation>Geef een tekst op.</translation>
+    </message>
+    <message>
+        <source>A watermark cannot count: leave out {counter}.</source>
+        <translation>Een watermerk kan niet tellen: laat {counter} weg.</translation>
+    </message>
+    <message>
+        <source>There is no font “%1” on this computer. Choose another.</source>
+        <translation>Het lettertype “%1” staat niet op deze computer. Kies een ander.</translation>
+    </message>
+    <message>
+        <source>Choose a picture.</source>
+        <translation>Kies een afbeelding.</translation>
+    </message>
+    <message>
+        <source>The picture “%1” is no longer there.</source>
+        <translation>De afbeelding “%1” is er niet meer.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read as a picture.</source>
+        <translation>“%1” kan niet als afbeelding worden gelezen.</translation>
+    </message>
+    <message>
+        <source>Enter a size from 0.1 to 100 per cent.</source>
+        <translation>Geef een grootte op van 0,1 tot 100 procent.</translation>
+    </message>
+    <message>
+        <source>Enter a margin from 0 to 100 per cent.</source>
+        <translation>Geef een marge op van 0 tot 100 procent.</translation>
+    </message>
+    <message>
+        <source>Enter an opacity from 1 to 100 per cent.</source>
+        <translation>Geef een dekking op van 1 tot 100 procent.</translation>
+    </message>
+    <message>
+        <source>Enter an angle from -180 to 180 degrees.</source>
+        <translation>Geef een hoek op van -180 tot 180 graden.</translation>
+    </message>
+    <message>
+        <source>this type cannot be written, choose another file type</source>
+        <translation>dit type kan niet worden geschreven, kies een ander bestandstype</translation>
+    </message>
+</context>
+<context>
     <name>window</name>
     <message>
         <source>Nothing of the picture is left</source>
@@ -7631,6 +7925,10 @@
     <message>
         <source>transparent parts become black</source>
         <translation>transparant wordt zwart</translation>
+    </message>
+    <message>
+        <source>transparent parts become white</source>
+        <translation>transparant wordt wit</translation>
     </message>
 </context>
 </TS>

@@ -48,12 +48,17 @@ QJsonArray resizeOperations(const QJsonObject &settings)
     return {resize};
 }
 
-QJsonArray cropOperations(const QJsonObject &settings)
+/** The position that the window counts row by row. */
+QString positionOf(const QJsonObject &settings)
 {
     static const char *const places[] = {"top left", "top",         "top right", "left",        "center",
                                          "right",    "bottom left", "bottom",    "bottom right"};
-    QJsonObject crop = {{text("do"), text("crop")},
-                        {text("position"), text(places[qBound(0, settings.value(text("position")).toInt(), 8)])}};
+    return text(places[qBound(0, settings.value(text("position")).toInt(), 8)]);
+}
+
+QJsonArray cropOperations(const QJsonObject &settings)
+{
+    QJsonObject crop = {{text("do"), text("crop")}, {text("position"), positionOf(settings)}};
     if (settings.value(text("mode")).toString() == text("size")) {
         crop.insert(text("width"), settings.value(text("width")));
         crop.insert(text("height"), settings.value(text("height")));
@@ -115,6 +120,26 @@ QJsonArray backgroundOperations(const QJsonObject &settings)
     return operations;
 }
 
+/** The window counts its angle counter-clockwise. */
+QJsonArray watermarkOperations(const QJsonObject &settings)
+{
+    QJsonObject mark = {{text("do"), text("watermark")}, {text("position"), positionOf(settings)}};
+    for (const char *key : {"margin", "opacity", "tile"})
+        mark.insert(text(key), settings.value(text(key)));
+    if (const double angle = settings.value(text("angle")).toDouble(); angle != 0)
+        mark.insert(text("angle"), -angle);
+    if (settings.value(text("mark")).toString() == text("picture")) {
+        mark.insert(text("picture"), settings.value(text("picture")));
+        mark.insert(text("size"), settings.value(text("pictureSize")));
+        return {mark};
+    }
+    for (const char *key : {"text", "size", "color"})
+        mark.insert(text(key), settings.value(text(key)));
+    if (const QString font = settings.value(text("font")).toString(); !font.isEmpty())
+        mark.insert(text("font"), font);
+    return {mark};
+}
+
 using Operations = std::function<QJsonArray(const QJsonObject &settings)>;
 
 const std::map<QString, Operations> &operations()
@@ -125,6 +150,7 @@ const std::map<QString, Operations> &operations()
         {text("Rotate and Flip"), turnOperations},
         {text("Round Corners"), roundOperations},
         {text("Background and Border"), backgroundOperations},
+        {text("Watermark"), watermarkOperations},
         {text("Convert"), [](const QJsonObject &) { return QJsonArray(); }},
     };
     return all;
@@ -136,7 +162,7 @@ QString typeWord(const QString &identifier)
     static const std::map<QString, QString> words = {
         {text("public.jpeg"), text("jpeg")}, {text("public.png"), text("png")},
         {text("public.tiff"), text("tiff")}, {text("com.compuserve.gif"), text("gif")},
-        {text("public.bmp"), text("bmp")},   {text("public.jpeg-2000"), text("jp2")}};
+        {text("public.bmp"), text("bmp")},   {text("public.jp2"), text("jp2")}};
     const auto word = words.find(identifier);
     return word == words.end() ? text("original") : word->second;
 }
@@ -156,7 +182,8 @@ QJsonObject outputFor(const Preset &preset)
                                       : typeWord(own.value(text("fileType")).toString());
     QJsonObject output = {{text("type"), type}};
     const QString code = (isConversion ? preset.settings : own).value(text("quality")).toString();
-    const bool isOwn = preset.action == text("Resize") || preset.action == text("Crop");
+    const bool isOwn =
+        preset.action == text("Resize") || preset.action == text("Crop") || preset.action == text("Watermark");
     const bool hasQuality =
         isConversion ? type == text("jpeg") : isOwn && (type == text("jpeg") || type == text("original"));
     if (const int quality = code.toInt(); quality > 0 && hasQuality)

@@ -108,6 +108,27 @@ Form backgroundForm()
          {15, "bandWidth", Kind::Number}}};
 }
 
+Form watermarkForm()
+{
+    return {
+        R"({"mark": "text", "text": "© {date:yyyy}", "picture": "", "font": "", "color": "#ffffff", "size": 4, "pictureSize": 20,
+              "position": 8, "margin": 2, "angle": 0, "opacity": 70, "tile": false,
+              "output": {"fileType": "original file type", "quality": "9", "ifTaken": "number",
+                         "destination": {"kind": "beside", "name": "Watermarked", "path": ""}}})",
+        "mark",
+        {{11, "text", Kind::Text},
+         {12, "picture", Kind::Text},
+         {13, "font", Kind::Text},
+         {14, "color", Kind::Color},
+         {15, "size", Kind::Number},
+         {16, "pictureSize", Kind::Number},
+         {17, "margin", Kind::Number},
+         {18, "angle", Kind::Number},
+         {19, "opacity", Kind::Number},
+         {22, "position", Kind::Whole},
+         {23, "tile", Kind::Flag}}};
+}
+
 Form convertForm()
 {
     return {R"({"target": "jpeg", "quality": "8",
@@ -125,6 +146,7 @@ const std::map<QString, Form> &forms()
         {QStringLiteral("Rotate and Flip"), turnForm()},
         {QStringLiteral("Round Corners"), roundForm()},
         {QStringLiteral("Background and Border"), backgroundForm()},
+        {QStringLiteral("Watermark"), watermarkForm()},
         {QStringLiteral("Convert"), convertForm()},
     };
     return all;

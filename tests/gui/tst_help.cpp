@@ -75,6 +75,8 @@ private Q_SLOTS:
                                      << "Saving presets";
         QTest::newRow("infoPatterns") << "background"
                                       << "Files of the support folder";
+        QTest::newRow("infoWatermarks") << "watermark"
+                                        << "Files of the support folder";
     }
 
     void infoButtonsShowTheirTexts()

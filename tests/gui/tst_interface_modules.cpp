@@ -98,9 +98,10 @@ private Q_SLOTS:
                                                  QStringLiteral("windows/main/main.ui")};
         QTest::newRow("preferences") << QStringList{QStringLiteral("windows/preferences/preferences.js")}
                                      << QStringList{QStringLiteral("windows/preferences/preferences.ui")};
-        for (const char *pane : {"actions/resize/resize-pane", "actions/crop/crop-pane", "actions/turn/turn-pane",
-                                 "actions/round/round-pane", "actions/background/background-pane",
-                                 "actions/hand/hand-pane", "actions/shared/output-pane", "presets/preset-pane"}) {
+        for (const char *pane :
+             {"actions/resize/resize-pane", "actions/crop/crop-pane", "actions/turn/turn-pane",
+              "actions/round/round-pane", "actions/background/background-pane", "actions/watermark/watermark-pane",
+              "actions/hand/hand-pane", "actions/shared/output-pane", "presets/preset-pane"}) {
             const QString base = QLatin1String(pane);
             QTest::newRow(pane) << QStringList{base + QStringLiteral(".js")}
                                 << QStringList{base + QStringLiteral(".ui")};

@@ -4,12 +4,14 @@
 #include "tests/support/test_program.h"
 
 #include "platform/desktop/user_defaults.h"
+#include "platform/effects/lettering.h"
 #include "tests/support/pseudo_texts.h"
 
 #include <QApplication>
 #include <QFontMetrics>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace {
@@ -31,6 +33,8 @@ QStringList sameEverywhere()
     // The made language writes dates as the system does.
     for (int i = 1; i <= 12; ++i)
         words += {QLocale().monthName(i), QLocale().monthName(i, QLocale::ShortFormat), QLocale().dayName(qMin(i, 7))};
+    for (const QString &font : platform::fontFamilies())
+        words += font.split(QRegularExpression(QStringLiteral("\\P{L}+")), Qt::SkipEmptyParts);
     return words;
 }
 

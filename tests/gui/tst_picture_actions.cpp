@@ -21,6 +21,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -29,7 +30,7 @@ using window::PictureModel;
 
 namespace {
 
-const QList<const char *> allActions = {"resize", "crop", "turn", "round", "background"};
+const QList<const char *> allActions = {"resize", "crop", "turn", "round", "background", "watermark"};
 
 /** Four colours: red and green above, blue and white below. */
 QImage quarters(QSize size, QImage::Format format = QImage::Format_RGB32)
@@ -456,6 +457,7 @@ private Q_SLOTS:
         save("a.png", quarters({40, 30}));
         m_driver->drop({m_pictures});
         auto *settings = m_driver->control<QWidget>("settings");
+        auto *scroll = m_driver->control<QScrollArea>("settingsScroll");
         QSet<QWidget *> wanted;
         for (QWidget *widget : settings->findChildren<QWidget *>()) {
             const bool isStop = widget->focusPolicy() & Qt::TabFocus && widget->isVisible() && widget->isEnabled();
@@ -474,12 +476,15 @@ private Q_SLOTS:
         QStringList visited;
         int lastRow = -1;
         for (int i = 0; i < 60 && !wanted.isEmpty(); ++i) {
-            QTest::keyClick(&m_driver->window(), Qt::Key_Tab);
+            // To the control itself: what lies around it scrolls to the next one.
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QWidget *now = QApplication::focusWidget();
             visited.append(now ? now->objectName() : QString());
             if (!now || !wanted.remove(now))
                 continue;
-            const int row = now->mapTo(settings, QPoint(0, now->height() / 2)).y();
+            QVERIFY2(now->visibleRegion().boundingRect() == now->rect(), qPrintable(now->objectName()));
+            const int row =
+                now->mapTo(settings, QPoint(0, now->height() / 2)).y() + scroll->verticalScrollBar()->value();
             QVERIFY2(row >= lastRow - 40, qPrintable(now->objectName()));
             lastRow = row;
         }

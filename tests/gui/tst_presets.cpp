@@ -13,6 +13,7 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -326,6 +327,7 @@ private:
         QTest::newRow("turn") << QStringLiteral("turn") << QStringLiteral("Upside down");
         QTest::newRow("round") << QStringLiteral("round") << QStringLiteral("Circle portrait");
         QTest::newRow("background") << QStringLiteral("background") << QStringLiteral("On paper");
+        QTest::newRow("watermark") << QStringLiteral("watermark") << QStringLiteral("Tiled draft");
     }
 
     QString chosen() { return m_driver->control<QComboBox>("preset")->currentText(); }
@@ -379,6 +381,12 @@ private:
             m_driver->control<QDoubleSpinBox>("radius")->setValue(33);
             m_driver->control<QCheckBox>("roundBackground")->setChecked(true);
             m_driver->control<QDoubleSpinBox>("roundBand")->setValue(7);
+        } else if (action == QLatin1String("watermark")) {
+            m_driver->control<QPlainTextEdit>("markText")->setPlainText(QStringLiteral("Jane\n{name}"));
+            m_driver->control<QDoubleSpinBox>("markAngle")->setValue(12.5);
+            m_driver->control<QCheckBox>("markTile")->setChecked(true);
+            QTest::keyClick(m_driver->control<window::PositionPad>("markPosition"), Qt::Key_Home);
+            m_driver->choose("fileType", QStringLiteral("public.png"));
         } else {
             m_driver->choose("frame", QStringLiteral("band"));
             m_driver->control<QDoubleSpinBox>("bandWidth")->setValue(77);
@@ -405,6 +413,9 @@ private:
         for (const auto *pad : settings->findChildren<window::PositionPad *>())
             if (pad->isVisible())
                 all.append(pad->objectName() + QLatin1Char('=') + QString::number(pad->selectedSegment()));
+        for (const auto *text : settings->findChildren<QPlainTextEdit *>())
+            if (text->isVisible())
+                all.append(text->objectName() + QLatin1Char('=') + text->toPlainText());
         all.sort();
         return all;
     }

@@ -15,7 +15,7 @@
 
 namespace {
 
-const QList<const char *> allActions = {"resize", "crop", "turn", "round", "background"};
+const QList<const char *> allActions = {"resize", "crop", "turn", "round", "background", "watermark"};
 
 } // namespace
 

@@ -16,11 +16,13 @@ function metadataNote(types) {
     if (types.length === 0) {
         return qsTr("EXIF, IPTC and XMP do not go along.");
     }
+    const words = types.map((id) => writtenType(id).word);
+    const last = words.pop();
     return fill(qsTr("EXIF, IPTC and XMP go along into %1 files only."),
-                types.map((id) => writtenType(id).word).join(qsTr(" and ")));
+                words.length === 0 ? last : words.join(", ") + qsTr(" and ") + last);
 }
 
-function noteFor(choice, carried) {
+function noteFor(choice, carried, matte) {
     const type = writtenType(choice);
     if (type === null) {
         return metadataNote(carried);
@@ -35,7 +37,8 @@ function noteFor(choice, carried) {
     } else {
         sentences.push(qsTr("Neither metadata nor colour profile go along; colours become sRGB."));
     }
-    return sentences.concat(type.alpha ? [] : [qsTr("Transparent parts become black.")]).join(" ");
+    const laid = matte === "white" ? qsTr("Transparent parts become white.") : qsTr("Transparent parts become black.");
+    return sentences.concat(type.alpha ? [] : [laid]).join(" ");
 }
 
 /** The block. `recent` is the list of folders that were saved to; changed() is called after each change. */
@@ -144,6 +147,6 @@ export class OutputPane {
     showNote(carried) {
         const note = this.form.control("typeNote");
         note.visible = this.offer.saysNothing !== true;
-        note.text = noteFor(this.output.fileType, carried);
+        note.text = noteFor(this.output.fileType, carried, this.offer.matte);
     }
 }

@@ -4,7 +4,7 @@
 import { splitPath } from "../../lib/names.js";
 import { isSound } from "../../runs/plan.js";
 import { fill } from "../../lib/wording.js";
-import { keepsProfile, ORIGINAL, resultType, typeOfExtension, writtenType } from "../../lib/types.js";
+import { keepsProfile, madeType, ORIGINAL, resultType, typeOfExtension, writtenType } from "../../lib/types.js";
 
 /** Messages on output settings that no run can start with. */
 export function outputMessages(output) {
@@ -103,9 +103,9 @@ export function carriedBy(step, settings) {
     return step.carried === undefined ? step.offer.metadata : step.carried(settings);
 }
 
-/** What the result of a picture will not hold, in words; empty where nothing is lost. */
-export function lossText(photo, typeId, carried) {
-    const type = writtenType(typeId);
+/** What the result of a picture will not hold, in words; empty where nothing is lost. matte: the matte of the step's offer. */
+export function lossText(photo, typeId, carried, matte) {
+    const type = madeType(typeId);
     const lost = [];
     if (!keepsProfile(photo.path, type)) {
         lost.push(qsTr("Metadata and colour profile are not kept"));
@@ -113,7 +113,8 @@ export function lossText(photo, typeId, carried) {
         lost.push(qsTr("EXIF, IPTC and XMP are not kept"));
     }
     if (!type.alpha && mayBeTransparent(photo)) {
-        lost.push(qsTr("transparent parts become black"));
+        lost.push(matte === "white" ? qsTr("transparent parts become white")
+                                    : qsTr("transparent parts become black"));
     }
     return lost.join(" · ");
 }

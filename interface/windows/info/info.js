@@ -10,6 +10,7 @@ export const INFO_BUTTONS = {
     infoPresets: (sheets) => sheets.hTextWMPresetsInfo(null),
     infoFolder: (sheets) => sheets.hWMDestinationFolderInfo(null),
     infoPatterns: (sheets) => sheets.hLibCheckboxInfo(null),
+    infoWatermarks: (sheets) => sheets.hLibCheckboxInfo(null),
 };
 
 export class Info {

@@ -78,7 +78,7 @@ export class PreviewSide {
         const step = this.window.action.step;
         const settings = this.window.settings;
         return step.lost === undefined
-            ? lossText(photo, planned.type, carriedBy(step, settings)) : step.lost(photo, settings);
+            ? lossText(photo, planned.type, carriedBy(step, settings), step.offer.matte) : step.lost(photo, settings);
     }
 
     showCaptions(bytes) {

@@ -106,19 +106,20 @@ QString comboLack(const QComboBox &box)
     return lack(box, text, advance(box, box.currentText()), roomOf(box));
 }
 
-// What the box is for should be seen without the pointer, so only names that people give may be cut off; the last of them holds
+// What the box is for should be seen without the pointer, so only names that others give may be cut off; the last of them holds
 // paths, which may be longer than any window. What is chosen there is held by comboLack(): all of it or a tooltip.
-bool isNamedByPeople(const QComboBox &box)
+bool isNamedByOthers(const QComboBox &box)
 {
-    static const QStringList names = {QStringLiteral("preset"), QStringLiteral("destination"),
-                                      QStringLiteral("pattern"), QStringLiteral("sortDestination"),
+    static const QStringList names = {QStringLiteral("preset"),     QStringLiteral("destination"),
+                                      QStringLiteral("pattern"),    QStringLiteral("sortDestination"),
+                                      QStringLiteral("markFont"),   QStringLiteral("markPicture"),
                                       QStringLiteral("lookInCombo")};
     return names.contains(box.objectName());
 }
 
 QString fixedComboLack(const QComboBox &box)
 {
-    for (int i = 0; i < box.count() && !isNamedByPeople(box); ++i)
+    for (int i = 0; i < box.count() && !isNamedByOthers(box); ++i)
         if (advance(box, box.itemText(i)) > roomOf(box))
             return QStringLiteral("needs %1, has %2: %3")
                 .arg(advance(box, box.itemText(i)))

@@ -18,6 +18,8 @@ import { presets as sortPresets } from "../../../interface/actions/sort/sort-pre
 import * as sort from "../../../interface/actions/sort/sort-step.js";
 import { presets as turnPresets } from "../../../interface/actions/turn/turn-presets.js";
 import * as turn from "../../../interface/actions/turn/turn-step.js";
+import { presets as watermarkPresets } from "../../../interface/actions/watermark/watermark-presets.js";
+import * as watermark from "../../../interface/actions/watermark/watermark-step.js";
 
 function kind(step, presets) {
     return Object.assign({ step: step, standard: step.defaults }, presets);
@@ -33,4 +35,5 @@ export const KINDS = {
     round: kind(round, roundPresets),
     sort: kind(sort, sortPresets),
     turn: kind(turn, turnPresets),
+    watermark: kind(watermark, watermarkPresets),
 };

@@ -1,0 +1,158 @@
+// Puts a text or a picture over pictures, as an operation of a recipe.
+// Services used: recipes (planOutput, make), files. Plain data in, plain data out.
+
+import { files } from "quorlin/files";
+import { recipes } from "quorlin/recipes";
+import { tokens } from "quorlin/tokens";
+import { splitPath } from "../../lib/names.js";
+import { madeType, madeTypeNamed, ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
+import { fill } from "../../lib/wording.js";
+import { outcome, outputMessages, ready, refused, targetOf } from "../shared/written.js";
+
+/** What lies over the picture. */
+export const MARKS = ["text", "picture"];
+/** The words of recipes for the nine positions, row by row. */
+export const PLACES = ["top left", "top", "top right", "left", "center", "right", "bottom left", "bottom",
+                       "bottom right"];
+export const MOST_PERCENT = 100;
+export const MOST_DEGREES = 180;
+
+/**
+ * What a new pane shows. Sizes are per cent of a picture: of its height for text, of its width for a picture; the margin is per
+ * cent of its shorter side. The angle is in degrees, counter-clockwise. An empty font is the usual one.
+ */
+export const defaults = {
+    mark: "text", text: "© {date:yyyy}", picture: "", font: "", color: "#ffffff", size: 4, pictureSize: 20, position: 8,
+    margin: 2, angle: 0, opacity: 70, tile: false,
+    output: {
+        fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: qsTr("Watermarked"), path: "" },
+        ifTaken: "number", simulation: false,
+    },
+};
+
+/** What the output block offers; see the Resize step. */
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true,
+                       metadata: ["public.jpeg", "public.png", "public.tiff", "public.jp2"], matte: "white" };
+
+/** The settings in a few words, for the log. */
+export function describe(settings) {
+    const mark = settings.mark === "text"
+        ? fill(qsTr("text “%1”"), settings.text.split("\n").join(" ")) : fill(qsTr("picture %1"), settings.picture);
+    return settings.tile ? mark + ", " + qsTr("tiled") : mark;
+}
+
+function textMessages(settings) {
+    if (settings.text.trim() === "") {
+        return [qsTr("Enter a text.")];
+    }
+    const messages = tokens.problems(settings.text);
+    // A run may be taken up again with some of its pictures, whose numbers would be others.
+    if (tokens.parts(settings.text).some((part) => part.token === "counter")) {
+        messages.push(qsTr("A watermark cannot count: leave out {counter}."));
+    }
+    if (settings.font !== "" && recipes.fonts().indexOf(settings.font) < 0) {
+        messages.push(fill(qsTr("There is no font “%1” on this computer. Choose another."), settings.font));
+    }
+    return messages;
+}
+
+function pictureMessages(settings) {
+    if (settings.picture === "") {
+        return [qsTr("Choose a picture.")];
+    }
+    const name = splitPath(settings.picture).name;
+    if (!files.info(settings.picture).exists) {
+        return [fill(qsTr("The picture “%1” is no longer there."), name)];
+    }
+    return files.storedSize(settings.picture) === null
+        ? [fill(qsTr("“%1” cannot be read as a picture."), name)] : [];
+}
+
+function rangeMessage(value, least, text) {
+    return value >= least && value <= MOST_PERCENT ? [] : [text];
+}
+
+/** Messages on what is wrong with the settings; empty if a run can start. */
+export function validate(settings) {
+    const isText = settings.mark === "text";
+    const messages = isText ? textMessages(settings) : pictureMessages(settings);
+    return messages
+        .concat(rangeMessage(isText ? settings.size : settings.pictureSize, 0.1,
+                             qsTr("Enter a size from 0.1 to 100 per cent.")),
+                rangeMessage(settings.margin, 0, qsTr("Enter a margin from 0 to 100 per cent.")),
+                rangeMessage(settings.opacity, 1, qsTr("Enter an opacity from 1 to 100 per cent.")),
+                Math.abs(settings.angle) <= MOST_DEGREES ? [] : [qsTr("Enter an angle from -180 to 180 degrees.")],
+                outputMessages(settings.output));
+}
+
+/** The operation of a recipe. */
+export function operation(settings) {
+    const common = { do: "watermark", position: PLACES[settings.position], margin: settings.margin,
+                     angle: settings.angle === 0 ? 0 : -settings.angle, opacity: settings.opacity,
+                     tile: settings.tile };
+    if (settings.mark === "picture") {
+        return Object.assign(common, { picture: settings.picture, size: settings.pictureSize });
+    }
+    return Object.assign(common, { text: settings.text, size: settings.size, color: settings.color },
+                         settings.font === "" ? {} : { font: settings.font });
+}
+
+const PER_CODE = 10;
+
+function outputOf(output) {
+    const type = output.fileType === ORIGINAL ? "original" : writtenType(output.fileType).keyword;
+    return Object.assign({ type: type }, type === "original" || type === "jpeg"
+        ? { quality: Number(output.quality) * PER_CODE } : {});
+}
+
+function recipeOf(settings) {
+    return { quorlin: 1, operations: [operation(settings)], outputs: [outputOf(settings.output)] };
+}
+
+// What a picture becomes does not depend on the text, and each key that is typed asks again about all pictures.
+function answerFor(photo, settings, services) {
+    const cache = services.unitCache;
+    const key = JSON.stringify(["watermark", photo.path, outputOf(settings.output)]);
+    if (cache[key] !== undefined) {
+        return cache[key];
+    }
+    const answer = services.recipes.planOutput(photo.path, recipeOf(settings));
+    if (answer.problem === "") {
+        cache[key] = answer;
+    }
+    return answer;
+}
+
+/** What a run would write for one picture, or a final status with its reason. */
+export function plan(photo, settings, services) {
+    const target = targetOf(photo, settings.output.fileType);
+    if (target.refusal !== null) {
+        return target.refusal;
+    }
+    const answer = answerFor(photo, settings, services);
+    if (answer.problem !== "") {
+        return { status: answer.isNotSupported ? "Not Supported" : "Failed",
+                 reason: answer.isNotSupported ? qsTr("this type cannot be written, choose another file type")
+                                               : answer.problem };
+    }
+    return ready(splitPath(photo.path).base + answer.extension, madeTypeNamed(answer.type), answer, []);
+}
+
+/** Writes the picture as settings.prefix + name, where plan() tells the name; see the Resize step. */
+export function run(photo, settings, services) {
+    const planned = plan(photo, settings, services);
+    if (planned.status !== "ready") {
+        return refused(planned);
+    }
+    const made = services.recipes.make(photo.path, recipeOf(settings), settings.prefix + planned.name);
+    return made.outcome === "OK" ? outcome("OK", made.path, planned, services)
+                                 : { status: made.outcome, reason: made.reason, outputs: [] };
+}
+
+/** What the preview does to the upright picture to show the result. */
+export function preview(photo, settings, planned) {
+    /** @type {any[]} */
+    const deeds = [{ do: "recipe", operations: [operation(settings)], path: photo.path }];
+    return { deeds: madeType(planned.type).alpha ? deeds : deeds.concat([{ do: "lay", color: "#ffffff" }]),
+             width: planned.width, height: planned.height, type: planned.type, quality: settings.output.quality };
+}

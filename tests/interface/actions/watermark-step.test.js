@@ -1,0 +1,152 @@
+import * as watermark from "../../../interface/actions/watermark/watermark-step.js";
+import { equal, finish, isTrue, test } from "../check.js";
+import { fakeServices, photo, settingsOf } from "../fakes.js";
+
+const lake = photo("/p/lake.JPG", 400, 300);
+
+/** Remembers what it was asked; `plan` and `made` are laid over what goes well. */
+function servicesWith(plan, made) {
+    const services = fakeServices({});
+    services.asked = [];
+    services.made = [];
+    services.recipes = {
+        planOutput: (path, recipe) => {
+            services.asked.push([path, recipe]);
+            return Object.assign({ problem: "", isNotSupported: false, type: "jpeg", width: 400, height: 300,
+                                   extension: ".jpg", lossless: false, losses: [] }, plan || {});
+        },
+        make: (path, recipe, target) => {
+            services.made.push([path, recipe, target]);
+            services.files.sizes = {};
+            services.files.sizes[target] = { width: 400, height: 300 };
+            return Object.assign({ outcome: "OK", reason: "", path: target, width: 400, height: 300, losses: [] },
+                                 made || {});
+        },
+    };
+    return services;
+}
+
+function settings(changes, output) {
+    return settingsOf(watermark, changes, output);
+}
+
+test("standsForAnOperationOfARecipe", () => {
+    equal(watermark.operation(settings({})),
+          { do: "watermark", position: "bottom right", margin: 2, angle: 0, opacity: 70, tile: false,
+            text: "© {date:yyyy}", size: 4, color: "#ffffff" });
+    equal(watermark.operation(settings({ font: "DejaVu Sans", position: 0, angle: 30, tile: true })),
+          { do: "watermark", position: "top left", margin: 2, angle: -30, opacity: 70, tile: true,
+            text: "© {date:yyyy}", size: 4, color: "#ffffff", font: "DejaVu Sans" });
+    equal(watermark.operation(settings({ mark: "picture", picture: "/w/logo.png" })),
+          { do: "watermark", position: "bottom right", margin: 2, angle: 0, opacity: 70, tile: false,
+            picture: "/w/logo.png", size: 20 });
+});
+
+test("asksForTheOutputOfTheOutputBlock", () => {
+    const outputs = (fileType) => {
+        const services = servicesWith();
+        watermark.plan(lake, settings({}, { fileType: fileType, quality: "7" }), services);
+        return services.asked[0][1].outputs;
+    };
+    equal(outputs("original file type"), [{ type: "original", quality: 70 }]);
+    equal(outputs("public.jpeg"), [{ type: "jpeg", quality: 70 }]);
+    equal(outputs("public.tiff"), [{ type: "tiff" }]);
+    equal(outputs("public.jp2"), [{ type: "jp2" }]);
+});
+
+test("plansNameTypeAndSize", () => {
+    const planned = watermark.plan(lake, settings({}), servicesWith());
+    equal([planned.status, planned.name, planned.type, planned.width, planned.height],
+          ["ready", "lake.jpg", "public.jpeg", 400, 300]);
+    // What is in the file counts, not what it is called.
+    equal(watermark.plan(lake, settings({}), servicesWith({ type: "webp", extension: ".webp" })).name, "lake.webp");
+});
+
+test("asksOnceAboutAPictureWhileTextIsTyped", () => {
+    const services = servicesWith();
+    ["©", "© J", "© Jo"].forEach((text) => watermark.plan(lake, settings({ text: text }), services));
+    equal(services.asked.length, 1);
+    watermark.plan(lake, settings({}, { fileType: "public.png" }), services);
+    equal(services.asked.length, 2);
+});
+
+test("asksAgainWhereThereWasAProblem", () => {
+    const services = servicesWith({ problem: "operations[0].text: a text, not nothing" });
+    equal(watermark.plan(lake, settings({}), services),
+          { status: "Failed", reason: "operations[0].text: a text, not nothing" });
+    watermark.plan(lake, settings({}), services);
+    equal(services.asked.length, 2);
+});
+
+test("saysWhatCannotBeWritten", () => {
+    const refused = watermark.plan(lake, settings({}), servicesWith({ problem: "no", isNotSupported: true }));
+    equal([refused.status, refused.reason], ["Not Supported", "this type cannot be written, choose another file type"]);
+    equal(watermark.plan(photo("/p/a.psd", 4, 3), settings({}), servicesWith()).status, "Not Supported");
+    equal(watermark.plan(photo("/p/a.jpg", 0, 0), settings({}), servicesWith()).status, "Failed");
+});
+
+test("makesTheFileThatItPlanned", () => {
+    const services = servicesWith();
+    const result = watermark.run(lake, settings({ text: "Jane" }), services);
+    equal([result.status, result.outputs, result.width, result.height], ["OK", ["/s/lake.jpg"], 400, 300]);
+    equal(services.made.map((call) => [call[0], call[1].operations[0].text, call[2]]),
+          [["/p/lake.JPG", "Jane", "/s/lake.jpg"]]);
+});
+
+test("handsOnWhyNothingWasMade", () => {
+    const services = servicesWith({}, { outcome: "Failed", reason: "no room", path: "" });
+    equal(watermark.run(lake, settings({}), services), { status: "Failed", reason: "no room", outputs: [] });
+});
+
+test("failsWhereTheFileIsNotAsPlanned", () => {
+    const result = watermark.run(lake, settings({}), servicesWith({ width: 200 }));
+    equal(result.status, "Failed");
+    isTrue(result.reason.includes("400×300 instead of 200×300"));
+});
+
+test("showsWhatIsMade", () => {
+    const shown = (type) => watermark.preview(lake, settings({}), { width: 400, height: 300, type: type });
+    const deed = { do: "recipe", operations: [watermark.operation(settings({}))], path: "/p/lake.JPG" };
+    equal(shown("public.png").deeds, [deed]);
+    equal(shown("public.jpeg").deeds, [deed, { do: "lay", color: "#ffffff" }]);
+    equal([shown("public.jpeg").width, shown("public.jpeg").height, shown("public.jpeg").quality], [400, 300, "9"]);
+});
+
+const MISTAKES = [
+    [{ text: " \n " }, "Enter a text."],
+    [{ text: "{nope}" }, "There is no token {nope}"],
+    [{ text: "{taken:qqqq}" }, "is no form of a date"],
+    [{ text: "{counter:001}" }, "cannot count"],
+    [{ font: "No Such Font" }, "There is no font “No Such Font”"],
+    [{ size: 0 }, "size from 0.1 to 100"],
+    [{ size: 101 }, "size from 0.1 to 100"],
+    [{ margin: -1 }, "margin from 0 to 100"],
+    [{ opacity: 0 }, "opacity from 1 to 100"],
+    [{ angle: 181 }, "angle from -180 to 180"],
+    [{ mark: "picture" }, "Choose a picture."],
+    [{ mark: "picture", picture: "/no/such.png" }, "“such.png” is no longer there"],
+    [{ mark: "picture", picture: "/etc/hostname" }, "“hostname” cannot be read as a picture"],
+];
+
+for (const [changes, words] of MISTAKES) {
+    test("refuses " + JSON.stringify(changes), () => {
+        const messages = watermark.validate(settings(changes));
+        equal(messages.length, 1);
+        isTrue(messages[0].includes(words));
+    });
+}
+
+test("takesWhatCanBeMade", () => {
+    equal(watermark.validate(settings({})), []);
+    equal(watermark.validate(settings({ text: "a\nb {name} {{", size: 0.1, margin: 0, opacity: 1, angle: -180 })), []);
+    // What is not used is not looked at.
+    equal(watermark.validate(settings({ picture: "/no/such.png", pictureSize: 0 })), []);
+});
+
+test("describesItself", () => {
+    equal(watermark.describe(settings({ text: "a\nb" })), "text “a b”");
+    equal(watermark.describe(settings({ mark: "picture", picture: "/w/l.png", tile: true })),
+          "picture /w/l.png, tiled");
+});
+
+finish();

@@ -1,0 +1,114 @@
+#include "image/recipe/recipe_reader.h"
+#include "jobs/presets/preset_recipe.h"
+#include "jobs/presets/preset_settings.h"
+#include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+/** A preset with these settings over those that a new pane has. */
+jobs::Preset presetOf(const char *action, const QJsonObject &changes, const QJsonObject &output = {})
+{
+    jobs::Preset preset = {QString::fromLatin1(action), QStringLiteral("mine"),
+                           jobs::standardSettings(QString::fromLatin1(action))};
+    for (auto each = changes.begin(); each != changes.end(); ++each)
+        preset.settings.insert(each.key(), *each);
+    QJsonObject block = preset.settings.value(QStringLiteral("output")).toObject();
+    for (auto each = output.begin(); each != output.end(); ++each)
+        block.insert(each.key(), *each);
+    preset.settings.insert(QStringLiteral("output"), block);
+    return preset;
+}
+
+QJsonObject recipeFor(const jobs::Preset &preset)
+{
+    const auto recipe = jobs::recipeOf(preset);
+    return recipe ? QJsonDocument::fromJson(*recipe).object() : QJsonObject();
+}
+
+} // namespace
+
+/** Presets of the window as recipes. */
+class TestPresetRecipe : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void marksWithText();
+    void marksWithAPicture();
+    void countsAnglesClockwise();
+    void writesTheTypeOfThePreset_data();
+    void writesTheTypeOfThePreset();
+};
+
+void TestPresetRecipe::marksWithText()
+{
+    const QJsonObject recipe = recipeFor(presetOf("Watermark", {{QStringLiteral("position"), 0}}));
+    const QJsonObject mark = recipe[QStringLiteral("operations")][0].toObject();
+    QCOMPARE(mark, (QJsonObject{{QStringLiteral("do"), QStringLiteral("watermark")},
+                                {QStringLiteral("text"), QStringLiteral("© {date:yyyy}")},
+                                {QStringLiteral("size"), 4},
+                                {QStringLiteral("color"), QStringLiteral("#ffffff")},
+                                {QStringLiteral("position"), QStringLiteral("top left")},
+                                {QStringLiteral("margin"), 2},
+                                {QStringLiteral("opacity"), 70},
+                                {QStringLiteral("tile"), false}}));
+    QCOMPARE(recipe[QStringLiteral("outputs")][0][QStringLiteral("quality")].toInt(), 90);
+    QVERIFY(image::readRecipe(QJsonDocument(recipe).toJson(), QStringLiteral("/")));
+}
+
+void TestPresetRecipe::marksWithAPicture()
+{
+    const QTemporaryDir folder;
+    const QString logo = folder.filePath(QStringLiteral("logo.png"));
+    QVERIFY(pictures::gradient(8, 8).save(logo));
+    const QJsonObject recipe = recipeFor(presetOf("Watermark", {{QStringLiteral("mark"), QStringLiteral("picture")},
+                                                                {QStringLiteral("picture"), logo},
+                                                                {QStringLiteral("pictureSize"), 15}}));
+    const QJsonObject mark = recipe[QStringLiteral("operations")][0].toObject();
+    QCOMPARE(mark[QStringLiteral("picture")].toString(), logo);
+    QCOMPARE(mark[QStringLiteral("size")].toInt(), 15);
+    QVERIFY(!mark.contains(QStringLiteral("text")) && !mark.contains(QStringLiteral("color")));
+    QVERIFY(image::readRecipe(QJsonDocument(recipe).toJson(), QStringLiteral("/")));
+}
+
+void TestPresetRecipe::countsAnglesClockwise()
+{
+    const QJsonObject recipe = recipeFor(presetOf("Watermark", {{QStringLiteral("angle"), 30}}));
+    QCOMPARE(recipe[QStringLiteral("operations")][0][QStringLiteral("angle")].toInt(), -30);
+}
+
+void TestPresetRecipe::writesTheTypeOfThePreset_data()
+{
+    QTest::addColumn<QString>("identifier");
+    QTest::addColumn<QString>("word");
+    const std::pair<const char *, const char *> rows[] = {
+        {"original file type", "original"},
+        {"public.jpeg", "jpeg"},
+        {"public.png", "png"},
+        {"public.tiff", "tiff"},
+        {"public.bmp", "bmp"},
+        {"com.compuserve.gif", "gif"},
+        {"public.jp2", "jp2"},
+    };
+    for (const auto &[identifier, word] : rows)
+        QTest::newRow(identifier) << QString::fromLatin1(identifier) << QString::fromLatin1(word);
+}
+
+void TestPresetRecipe::writesTheTypeOfThePreset()
+{
+    QFETCH(QString, identifier);
+    for (const char *action : {"Resize", "Watermark"}) {
+        const QJsonObject recipe = recipeFor(presetOf(action, {}, {{QStringLiteral("fileType"), identifier}}));
+        QTEST(recipe[QStringLiteral("outputs")][0][QStringLiteral("type")].toString(), "word");
+        QVERIFY(image::readRecipe(QJsonDocument(recipe).toJson(), QStringLiteral("/")));
+    }
+}
+
+QUORLIN_TEST(TestPresetRecipe)
+#include "tst_preset_recipe.moc"
