@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/types/output_types.h"
 #include "platform/imageio/source/image_source.h"
 
 #include <QColor>
@@ -149,7 +150,6 @@ struct RecipeStep
     bool isOff = false;
 };
 
-enum class OutputType { Original, Jpeg, Png, Tiff, Bmp, Gif, Jpeg2000, Pdf, Webp, Avif, JpegXl };
 enum class KeptMetadata { Keep, Copyright, None };
 enum class FileDates { Now, Keep };
 enum class IfTaken { Number, Replace, Skip, Current };

@@ -16,7 +16,7 @@ function writtenAs(output) {
 }
 
 /** What actions write. */
-export const WRITTEN = pictures.outputTypes().filter((output) => !output.isPage).map(writtenAs);
+export const WRITTEN = pictures.outputTypes().filter((output) => !output.isPage && !output.isOfRecipes).map(writtenAs);
 
 /** What pictures can be converted to besides; no other action writes it. */
 export const PDF_PAGE = writtenAs(pictures.outputTypes().find((output) => output.isPage));
