@@ -71,34 +71,29 @@ Result<void> writePage(const ImageSource &source, const QString &destination)
 Result<void> write(const ImageSource &source, const Conversion &conversion)
 {
     switch (conversion.type) {
-    case OutputType::Pdf:
+    case TargetType::Pdf:
         return writePage(source, conversion.destination);
-    case OutputType::Png:
+    case TargetType::Png:
         return metadataForStoredPixels(source).and_then([&](const Metadata &metadata) {
             return writeKeepingMetadata(source, FileFormat::Png, metadata, conversion.destination);
         });
-    case OutputType::Tiff:
+    case TargetType::Tiff:
         return metadataForStoredPixels(source).and_then([&](const Metadata &metadata) {
             return orElse(platform::writeRowsAsTiff(source, conversion.destination, metadata), [&] {
                 return writeKeepingMetadata(source, FileFormat::Tiff, metadata, conversion.destination);
             });
         });
-    case OutputType::Bmp:
+    case TargetType::Bmp:
         return orElse(platform::writeRowsAsBmp(source, conversion.destination),
                       [&] { return writePixels(source, FileFormat::Bmp, conversion); });
-    case OutputType::Gif:
+    case TargetType::Gif:
         return writePixels(source, FileFormat::Gif, conversion);
-    case OutputType::Jpeg:
+    case TargetType::Jpeg:
         return writePixels(source, FileFormat::Jpeg, conversion);
-    case OutputType::Jpeg2000:
+    case TargetType::Jpeg2000:
         return writePixels(source, FileFormat::Jpeg2000, conversion);
-    case OutputType::Original:
-    case OutputType::Webp:
-    case OutputType::Avif:
-    case OutputType::JpegXl:
-        break;
     }
-    Q_UNREACHABLE(); // no target of a conversion
+    Q_UNREACHABLE();
 }
 
 } // namespace

@@ -135,7 +135,7 @@ Operation cropFrom(RecipeKeys &keys)
     crop.scale = scaleFrom(keys);
     const bool isBySize = keys.has("width") || keys.has("height");
     const QString way = keys.oneOf({isBySize && !keys.has("width") ? QStringLiteral("height") : QStringLiteral("width"),
-                                    QStringLiteral("ratio"), QStringLiteral("percent")})
+                                    QStringLiteral("ratio"), QStringLiteral("percent"), QStringLiteral("trim")})
                             .value_or(QString());
     if (way == QLatin1String("ratio")) {
         crop.by = CropBy::Ratio;
@@ -143,6 +143,9 @@ Operation cropFrom(RecipeKeys &keys)
     } else if (way == QLatin1String("percent")) {
         crop.by = CropBy::Percent;
         crop.percent = keys.number("percent", {0, 99}).value_or(0);
+    } else if (way == QLatin1String("trim")) {
+        crop.by = CropBy::Trim;
+        crop.width = crop.height = keys.number("trim", widthRange(crop.scale)).value_or(0);
     } else if (!way.isEmpty()) {
         for (const char *side : {"width", "height"})
             if (!keys.has(side))

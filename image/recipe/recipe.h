@@ -1,6 +1,5 @@
 #pragma once
 
-#include "image/types/output_types.h"
 #include "platform/imageio/source/image_source.h"
 
 #include <QColor>
@@ -47,13 +46,13 @@ struct ResizeOperation
     Scale scale;
 };
 
-enum class CropBy { Size, Ratio, Percent };
+enum class CropBy { Size, Ratio, Percent, Trim };
 
 struct CropOperation
 {
     CropBy by = CropBy::Size;
     double width = 0; ///< lengths, or the two numbers of a ratio
-    double height = 0;
+    double height = 0; ///< with Trim both are what is cut away in all
     bool turns = true;  ///< the longer number of a ratio goes with the longer side of the picture
     double percent = 0; ///< 0 to 99, cut away in all
     Place position = Place::Center;
@@ -150,6 +149,7 @@ struct RecipeStep
     bool isOff = false;
 };
 
+enum class OutputType { Original, Jpeg, Png, Tiff, Bmp, Gif, Jpeg2000, Pdf, Webp, Avif, JpegXl };
 enum class KeptMetadata { Keep, Copyright, None };
 enum class FileDates { Now, Keep };
 enum class IfTaken { Number, Replace, Skip, Current };

@@ -323,6 +323,10 @@ QRect cropPartOf(const CropOperation &crop, const Stage &stage)
         part = {sideOf(crop.width, crop.scale, stage.horizontalDpi),
                 sideOf(crop.height, crop.scale, stage.verticalDpi)};
         break;
+    case CropBy::Trim:
+        part = whole - QSize(int(std::lround(inPixelsOf(crop.width, crop.scale, stage.horizontalDpi))),
+                             int(std::lround(inPixelsOf(crop.height, crop.scale, stage.verticalDpi))));
+        break;
     case CropBy::Percent: {
         const double kept = hundred - crop.percent;
         part = {int(kept * whole.width() / hundred), int(kept * whole.height() / hundred)};

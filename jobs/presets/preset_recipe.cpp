@@ -59,16 +59,21 @@ QString positionOf(const QJsonObject &settings)
 QJsonArray cropOperations(const QJsonObject &settings)
 {
     QJsonObject crop = {{text("do"), text("crop")}, {text("position"), positionOf(settings)}};
-    if (settings.value(text("mode")).toString() == text("size")) {
+    const QString mode = settings.value(text("mode")).toString();
+    const bool isBySize = mode == text("size");
+    if (isBySize) {
         crop.insert(text("width"), settings.value(text("width")));
         crop.insert(text("height"), settings.value(text("height")));
+    } else if (mode == text("pixels")) {
+        crop.insert(text("trim"), settings.value(text("pixels")));
     } else {
         crop.insert(text("percent"), settings.value(text("percent")));
     }
     const QJsonArray offset = {settings.value(text("offsetX")), settings.value(text("offsetY"))};
     if (offset != QJsonArray{0, 0})
         crop.insert(text("offset"), offset);
-    addUnit(crop, settings);
+    if (isBySize)
+        addUnit(crop, settings);
     return {crop};
 }
 
@@ -207,8 +212,6 @@ Result<QByteArray> recipeOf(const Preset &preset)
     const auto found = operations().find(preset.action);
     if (found == operations().end())
         return unsupported(text("%1 makes no pictures, so its presets are no recipes").arg(preset.action));
-    if (preset.action == text("Crop") && preset.settings.value(text("mode")).toString() == text("pixels"))
-        return unsupported(text("a crop by pixels that are cut away is no part of recipes"));
     const QJsonObject recipe = {{text("quorlin"), 1},
                                 {text("name"), preset.name},
                                 {text("operations"), found->second(preset.settings)},

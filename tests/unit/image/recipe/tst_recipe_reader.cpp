@@ -73,6 +73,8 @@ void refusedSizes()
     refusedOperation("a crop of nothing", R"({"do": "crop"})", "operations[1]: ");
     refusedOperation("a crop in two ways", R"({"do": "crop", "ratio": "1:1", "percent": 3})",
                      "operations[1].percent: ");
+    refusedOperation("a fraction of a pixel cut away", R"({"do": "crop", "trim": 1.5})", "operations[1].trim: ");
+    refusedOperation("trimmed to a ratio", R"({"do": "crop", "ratio": "1:1", "trim": 3})", "operations[1].trim: ");
     refusedOperation("no ratio", R"({"do": "crop", "ratio": "3x2"})", "operations[1].ratio: ");
     refusedOperation("a ratio of zero", R"({"do": "crop", "ratio": "0:2"})", "operations[1].ratio: ");
 }

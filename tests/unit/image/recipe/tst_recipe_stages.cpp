@@ -120,6 +120,9 @@ void TestRecipeStages::crops_data()
     QTest::newRow("2:3 of a wide one") << crop(CropBy::Ratio, 2, 3) << photo << QRect(0, 16, 400, 267);
     QTest::newRow("1:1") << crop(CropBy::Ratio, 1, 1) << photo << QRect(50, 0, 300, 300);
     QTest::newRow("percent") << crop(CropBy::Percent, 10, 0) << photo << QRect(20, 15, 360, 270);
+    QTest::newRow("trimmed") << crop(CropBy::Trim, 100, 100) << photo << QRect(50, 50, 300, 200);
+    QTest::newRow("trimmed at an edge") << crop(CropBy::Trim, 10, 10, Place::TopLeft) << photo << QRect(0, 0, 390, 290);
+    QTest::newRow("trimmed to nothing") << crop(CropBy::Trim, 300, 300) << photo << QRect();
     CropOperation kept = crop(CropBy::Ratio, 2, 3);
     kept.turns = false;
     QTest::newRow("2:3 as it is") << kept << photo << QRect(100, 0, 200, 300);
