@@ -178,8 +178,7 @@ private:
         ReportLine line;
         line.input = input.path;
         line.index = index;
-        line.type =
-            plan.type == image::OutputType::Original ? QString() : QString(image::writtenType(plan.type).keyword);
+        line.type = plan.type == image::OutputType::Original ? QString() : image::wordOf(plan.type);
         if (!plan.problem.isEmpty()) {
             line.status = statusOf(plan);
             line.reason = plan.problem;

@@ -184,7 +184,14 @@ QString ResultNames::plan(const QString &path)
         folder.planned.insert(key);
         return path;
     }
-    int &next = folder.nextPlanned[key];
+    return planNumbered(path);
+}
+
+QString ResultNames::planNumbered(const QString &path)
+{
+    Folder &folder = folderOf(path);
+    const QString name = platform::lastPathComponent(path);
+    int &next = folder.nextPlanned[keyOf(name)];
     for (next = qMax(next, 2);; ++next) {
         const QString numbered = platform::fittingNumberedName(name, next, platform::NameOf::File);
         if (folder.planned.contains(keyOf(numbered)))
@@ -207,11 +214,19 @@ Standing ResultNames::standingAt(const QString &planned, const Input &input)
         return Standing::OtherResult;
     if (!folder.onDisk.contains(key))
         return Standing::Nothing;
+    if (isOtherInput(planned, input))
+        return Standing::OtherInput;
     const auto there = platform::targetFacts(planned);
+    return there && m_inputs.contains(there->number) ? Standing::OwnInput : Standing::OnDisk;
+}
+
+bool ResultNames::isOtherInput(const QString &path, const Input &input) const
+{
+    const auto there = platform::targetFacts(path);
+    if (!there || !m_inputs.contains(there->number))
+        return false;
     const auto own = platform::targetFacts(input.path);
-    if (there && own && there->number == own->number)
-        return Standing::OwnInput;
-    return there && m_inputs.contains(there->number) ? Standing::OtherInput : Standing::OnDisk;
+    return !own || own->number != there->number;
 }
 
 QString ResultNames::giveNumbered(const QString &path)

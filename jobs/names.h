@@ -60,6 +60,10 @@ public:
 
     /** Plans a result at @p path, or at the first numbered form of it that no result is planned at, counting from 2. */
     QString plan(const QString &path);
+    /** Plans a result at such a numbered form in any case. */
+    QString planNumbered(const QString &path);
+    /** Whether one of the inputs that are known so far is at @p path, and another one than @p input. */
+    bool isOtherInput(const QString &path, const Input &input) const;
     /** Notes that @p path is kept for a result that is not planned. */
     void keep(const QString &path);
 

@@ -46,7 +46,9 @@ QList<OutputPlace> OutputPlaces::of(const Input &input, int number, const QList<
         const QString folder = folderFrom(output.folder, base, input.path, number, plan.size);
         const QString name = nameFrom(output.name, input.path, number, plan.size);
         const QString wanted = platform::joinedPath(folder, name + extensionFor(plan, input.path));
-        const QString planned = m_names.plan(wanted);
+        // What replaces leaves the name of another input to that one's own result.
+        const bool isLeft = output.ifTaken == image::IfTaken::Replace && m_names.isOtherInput(wanted, input);
+        const QString planned = isLeft ? m_names.planNumbered(wanted) : m_names.plan(wanted);
         if (!done.value(index).isEmpty())
             m_names.keep(done[index]);
         if (isOthers || !done.value(index).isEmpty())

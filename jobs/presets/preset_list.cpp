@@ -1,4 +1,5 @@
 #include "jobs/presets/preset_recipe.h"
+#include "jobs/presets/supplied_files.h"
 #include "platform/foundation/paths.h"
 #include "presets/database.h"
 
@@ -34,6 +35,7 @@ constexpr const char *supplied = R"([
 ["Background and Border", "White frame", {"frame": "white"}],
 ["Background and Border", "Black band", {"frame": "band", "bandColor": "#000000", "bandWidth": 40}],
 ["Background and Border", "Ivory mount", {"frame": "band", "bandColor": "#f4f0e6", "bandWidth": 160}],
+["Background and Border", "On paper", {"under": "pattern", "pattern": "paper.png"}],
 ["Watermark", "Copyright, bottom right", {}],
 ["Watermark", "Copyright, dark", {"color": "#000000", "opacity": 60}],
 ["Watermark", "Name of the file", {"text": "{name}", "position": 6, "size": 2.5}],
@@ -86,7 +88,11 @@ QList<Preset> suppliedPresets()
     const QJsonArray entries = QJsonDocument::fromJson(supplied).array();
     for (const QJsonValue &entry : entries) {
         const QString action = entry[0].toString();
-        presets.append({action, entry[1].toString(), laidOver(standardSettings(action), entry[2].toObject())});
+        QJsonObject settings = laidOver(standardSettings(action), entry[2].toObject());
+        const QString pattern = settings.value(QLatin1String("pattern")).toString();
+        if (!pattern.isEmpty())
+            settings.insert(QStringLiteral("pattern"), platform::joinedPath(suppliedPatternsFolder(), pattern));
+        presets.append({action, entry[1].toString(), settings});
     }
     return presets;
 }

@@ -87,6 +87,7 @@ const std::map<QString, TakeFlag> &flags()
     static const std::map<QString, TakeFlag> all = {
         {QStringLiteral("-0"), [](CommandLine &line) { line.isFromSeparatedByNul = true; }},
         {QStringLiteral("--keep-tree"), [](CommandLine &line) { line.keepsTree = true; }},
+        {QStringLiteral("--watch"), [](CommandLine &line) { line.watches = true; }},
         {QStringLiteral("--dry-run"), [](CommandLine &line) { line.isDryRun = true; }},
         {QStringLiteral("--quiet"), [](CommandLine &line) { line.isQuiet = true; }},
         {QStringLiteral("--list-presets"), [](CommandLine &line) { line.asksForPresets = true; }},
@@ -161,29 +162,26 @@ CommandLine readCommandLine(const QStringList &arguments)
 
 QString helpText()
 {
-    return QStringLiteral(
-        "quorlin-batch [OPTION...] RECIPE INPUT...\n"
-        "quorlin-batch --preset \"Resize/Web 1600\" [OPTION...] INPUT...\n"
-        "\n"
-        "Carries out a recipe over pictures. INPUT is a picture, or a folder with everything below it.\n"
-        "\n"
-        "  --to DIR          base folder of the results; without it the folder of each picture\n"
-        "  --keep-tree       build the tree of each input folder again below DIR\n"
-        "  --from FILE       further inputs, one a line; - is standard input\n"
-        "  -0                these are separated by NUL\n"
-        "  --jobs N          worker processes, 1 to 256 (this version works in one process)\n"
-        "  --dry-run         plan only: nothing is written but the report\n"
-        "  --report FILE     a line of JSON for each output, then a summary; - is standard output\n"
-        "  --plan REPORT     take the outputs' paths from the report of a dry run of the same recipe\n"
-        "  --resume REPORT   leave out what that report has as done\n"
-        "  --shard I/N       do the I-th of N parts of the inputs\n"
-        "  --timeout S       seconds for one picture (this version sets no limit)\n"
-        "  --memory MB       memory of one worker (this version refuses only what does not fit the machine)\n"
-        "  --progress WHEN   auto, always or never\n"
-        "  --quiet           say nothing but failures\n"
-        "  --list-presets    the names that --preset takes\n"
-        "  --help, --version\n"
-        "\n"
-        "Exit status: 0 all done, skipped or planned; 1 some failed or not supported; 2 a bad command line or recipe,\n"
-        "nothing was written; 3 stopped by a signal.\n");
+    return QStringLiteral("quorlin-batch [OPTION...] RECIPE INPUT...\n"
+                          "quorlin-batch --preset \"Resize/Web 1600\" [OPTION...] INPUT...\n"
+                          "Carries out a recipe over pictures, and over folders with everything below.\n"
+                          "  --to DIR         base folder of results; without it that of each picture\n"
+                          "  --keep-tree      build the tree of each input folder again below DIR\n"
+                          "  --from FILE      further inputs, one a line; - is standard input\n"
+                          "  -0               these are separated by NUL\n"
+                          "  --jobs N         worker processes, 1 to 256; default: as many as fit\n"
+                          "  --dry-run        plan only: nothing is written but the report\n"
+                          "  --report FILE    a line of JSON an output, then a summary; -: standard output\n"
+                          "  --plan REPORT    take the outputs' paths from the report of a dry run\n"
+                          "  --resume REPORT  leave out what that report has as done\n"
+                          "  --shard I/N      do the I-th of N parts of the inputs\n"
+                          "  --timeout S      seconds for one picture; default 300\n"
+                          "  --memory MB      resident memory of one worker; default 2048\n"
+                          "  --watch          go on with the pictures that arrive in the input folders\n"
+                          "  --progress WHEN  auto, always or never\n"
+                          "  --quiet          say nothing but failures\n"
+                          "  --list-presets   the names that --preset takes\n"
+                          "  --help, --version\n"
+                          "Exit status: 0 all done, skipped or planned; 1 some failed or not supported;\n"
+                          "2 a bad command line or recipe, nothing was written; 3 stopped by a signal.\n");
 }

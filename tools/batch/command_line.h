@@ -19,6 +19,7 @@ struct CommandLine
     bool keepsTree = false;
     int jobs = 0; ///< 0: as many as fit
     bool isDryRun = false;
+    bool watches = false;
     QString report;
     QString plan;
     QString resume;

@@ -1,6 +1,7 @@
 #include "jobs/batch.h"
 #include "jobs/output_places.h"
 #include "jobs/presets/preset_recipe.h"
+#include "jobs/presets/supplied_files.h"
 #include "platform/foundation/paths.h"
 #include "tools/batch/command_line.h"
 #include "tools/batch/progress.h"
@@ -101,6 +102,8 @@ QByteArray presetNames()
     for (const jobs::Preset &preset : jobs::allPresets())
         if (jobs::recipeOf(preset))
             names += platform::encodedPath(preset.action + u'/' + preset.name) + '\n';
+    for (const jobs::SuppliedRecipe &recipe : jobs::suppliedRecipes())
+        names += "Recipe/" + recipe.name.toUtf8() + '\n';
     return names;
 }
 
@@ -131,7 +134,8 @@ int main(int argc, char **argv)
         return answer(presetNames());
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         std::signal(signal, stop);
-    std::signal(SIGPIPE, SIG_IGN);
+    for (const int signal : {SIGPIPE, SIGXFSZ}) // what cannot be written is told by the call that writes
+        std::signal(signal, SIG_IGN);
     Request request = requestFrom(line);
     return request.problem.isEmpty() ? carryOut(request, line) : refuse(request.problem);
 }

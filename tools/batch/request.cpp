@@ -2,6 +2,7 @@
 
 #include "image/recipe/recipe_reader.h"
 #include "jobs/presets/preset_recipe.h"
+#include "jobs/presets/supplied_files.h"
 #include "platform/disk/item_identity.h"
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/paths.h"
@@ -33,11 +34,17 @@ Request readReports(Request request, const CommandLine &line)
     return request;
 }
 
+/** The path of the recipe's file; empty for a preset that is kept in another form. */
+QString pathOfRecipe(const CommandLine &line)
+{
+    return line.preset.isEmpty() ? platform::absolutePath(line.recipe) : jobs::suppliedRecipe(line.preset);
+}
+
 /** The bytes of the recipe's file, or of the one that a preset would be. */
 platform::Result<QByteArray> recipeFile(const CommandLine &line)
 {
-    if (line.preset.isEmpty())
-        return platform::readFile(platform::absolutePath(line.recipe));
+    if (const QString path = pathOfRecipe(line); !path.isEmpty())
+        return platform::readFile(path);
     const std::optional<jobs::Preset> preset = jobs::presetNamed(line.preset);
     if (preset)
         return jobs::recipeOf(*preset);
@@ -64,7 +71,7 @@ Request requestFrom(const CommandLine &line)
         request.problem = file.error().message;
         return request;
     }
-    const auto recipe = image::readRecipe(*file, platform::parentFolder(platform::absolutePath(line.recipe)));
+    const auto recipe = image::readRecipe(*file, platform::parentFolder(pathOfRecipe(line)));
     if (!recipe) {
         request.problem =
             QStringLiteral("%1: %2").arg(line.preset.isEmpty() ? line.recipe : line.preset, recipe.error().message);

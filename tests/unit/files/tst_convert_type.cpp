@@ -13,7 +13,7 @@
 
 #include <sys/inotify.h>
 
-using image::OutputType;
+using image::TargetType;
 using platform::Bitmap;
 using platform::ImageSource;
 
