@@ -71,29 +71,34 @@ Result<void> writePage(const ImageSource &source, const QString &destination)
 Result<void> write(const ImageSource &source, const Conversion &conversion)
 {
     switch (conversion.type) {
-    case TargetType::Pdf:
+    case OutputType::Pdf:
         return writePage(source, conversion.destination);
-    case TargetType::Png:
+    case OutputType::Png:
         return metadataForStoredPixels(source).and_then([&](const Metadata &metadata) {
             return writeKeepingMetadata(source, FileFormat::Png, metadata, conversion.destination);
         });
-    case TargetType::Tiff:
+    case OutputType::Tiff:
         return metadataForStoredPixels(source).and_then([&](const Metadata &metadata) {
             return orElse(platform::writeRowsAsTiff(source, conversion.destination, metadata), [&] {
                 return writeKeepingMetadata(source, FileFormat::Tiff, metadata, conversion.destination);
             });
         });
-    case TargetType::Bmp:
+    case OutputType::Bmp:
         return orElse(platform::writeRowsAsBmp(source, conversion.destination),
                       [&] { return writePixels(source, FileFormat::Bmp, conversion); });
-    case TargetType::Gif:
+    case OutputType::Gif:
         return writePixels(source, FileFormat::Gif, conversion);
-    case TargetType::Jpeg:
+    case OutputType::Jpeg:
         return writePixels(source, FileFormat::Jpeg, conversion);
-    case TargetType::Jpeg2000:
+    case OutputType::Jpeg2000:
         return writePixels(source, FileFormat::Jpeg2000, conversion);
+    case OutputType::Original:
+    case OutputType::Webp:
+    case OutputType::Avif:
+    case OutputType::JpegXl:
+        break;
     }
-    Q_UNREACHABLE();
+    Q_UNREACHABLE(); // no target of a conversion
 }
 
 } // namespace

@@ -10,7 +10,7 @@ namespace image {
 struct Conversion
 {
     QString source; ///< absolute path of anything that can be decoded; its content counts, not its name
-    TargetType type = TargetType::Png;
+    OutputType type = OutputType::Png;
     double quality = 0.9; ///< JPEG only, 0.01 to 1
     QString destination;  ///< absolute path, extension included; its folder must exist
 };

@@ -1002,8 +1002,9 @@ declare module "quorlin/pictures" {
          */
         formats(): list;
         /**
-         * The types that are written, in the order of lists, each as {id, keyword, word, isPage, carriesMetadata}: what
-         * conversions call it, what lists call it, whether only a conversion makes it and hands metadata on into it.
+         * The types that are written, in the order of lists, each as {id, keyword, word, isPage, isOfRecipes,
+         * carriesMetadata}: what conversions and recipes call it, what lists call it, whether it is no format of pictures,
+         * whether only recipes make it, and whether a conversion hands metadata on into it.
          */
         outputTypes(): list;
         /** The codes of JPEG quality, the lowest first; conversions know no last one. */

@@ -178,7 +178,8 @@ private:
         ReportLine line;
         line.input = input.path;
         line.index = index;
-        line.type = plan.type == image::OutputType::Original ? QString() : image::wordOf(plan.type);
+        line.type =
+            plan.type == image::OutputType::Original ? QString() : QString(image::writtenType(plan.type).keyword);
         if (!plan.problem.isEmpty()) {
             line.status = statusOf(plan);
             line.reason = plan.problem;

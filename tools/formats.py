@@ -27,7 +27,7 @@ ACTIONS = ROOT / "interface/actions"
 
 def output_types():
     """What the product's table says: keyword to (type identifier, word of lists, whether metadata is handed on)."""
-    rows = re.findall(r'\{\.identifier = latin1\("([^"]+)"\),\s*\.keyword = latin1\("([^"]+)"\),\s*\.word = latin1\("([^"]+)"\)(.*?)\}',
+    rows = re.findall(r'\.identifier = latin1\("([^"]+)"\),\s*\.keyword = latin1\("([^"]+)"\),\s*\.word = latin1\("([^"]+)"\)(.*?)\}',
                       OUTPUTS.read_text(encoding="utf-8"), re.S)
     return {keyword: (name, word, ".carriesMetadata = true" in rest) for name, keyword, word, rest in rows}
 

@@ -45,9 +45,7 @@ Result<QByteArray> turnedFile(const ImageSource &source, const RightTurn &turn)
 /** Whether the type has a quality that can be chosen. */
 bool hasQuality(const RecipeOutput &output, OutputType type)
 {
-    const bool isLossy = type == OutputType::Jpeg || type == OutputType::Webp || type == OutputType::Avif ||
-                         type == OutputType::JpegXl || type == OutputType::Jpeg2000;
-    return isLossy && !output.isLossless;
+    return writtenType(type).hasQuality && !output.isLossless;
 }
 
 /** The quality that is written; none where a JPEG keeps the tables that it came with. */

@@ -5,47 +5,10 @@
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/formats/formats.h"
 
-#include <array>
-
 namespace image {
 namespace {
 
 using platform::FileFormat;
-
-struct Kind
-{
-    OutputType type;
-    QLatin1String word;
-    QLatin1String extension;
-    QLatin1String name;
-    std::optional<FileFormat> format; ///< none for a page
-};
-
-const std::array<Kind, 10> &kinds()
-{
-    const auto latin1 = [](const char *text) { return QLatin1String(text); };
-    static const std::array<Kind, 10> all = {{
-        {OutputType::Jpeg, latin1("jpeg"), latin1(".jpg"), latin1("JPEG"), FileFormat::Jpeg},
-        {OutputType::Png, latin1("png"), latin1(".png"), latin1("PNG"), FileFormat::Png},
-        {OutputType::Tiff, latin1("tiff"), latin1(".tiff"), latin1("TIFF"), FileFormat::Tiff},
-        {OutputType::Bmp, latin1("bmp"), latin1(".bmp"), latin1("BMP"), FileFormat::Bmp},
-        {OutputType::Gif, latin1("gif"), latin1(".gif"), latin1("GIF"), FileFormat::Gif},
-        {OutputType::Jpeg2000, latin1("jp2"), latin1(".jp2"), latin1("JPEG 2000"), FileFormat::Jpeg2000},
-        {OutputType::Pdf, latin1("pdf"), latin1(".pdf"), latin1("PDF"), std::nullopt},
-        {OutputType::Webp, latin1("webp"), latin1(".webp"), latin1("WebP"), FileFormat::Webp},
-        {OutputType::Avif, latin1("avif"), latin1(".avif"), latin1("AVIF"), FileFormat::Avif},
-        {OutputType::JpegXl, latin1("jxl"), latin1(".jxl"), latin1("JPEG XL"), FileFormat::JpegXl},
-    }};
-    return all;
-}
-
-const Kind &kindOf(OutputType type)
-{
-    for (const Kind &kind : kinds())
-        if (kind.type == type)
-            return kind;
-    return kinds().front();
-}
 
 bool holdsDepth16(OutputType type)
 {
@@ -62,7 +25,7 @@ bool holdsProfileOf(OutputType type, const QByteArray &profile)
 QStringList lossesOfPixels(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,
                            const platform::PixelFacts &facts)
 {
-    const QString name = kindOf(plan.type).name;
+    const QString name = writtenType(plan.type).word;
     QStringList losses;
     if (end.hasAlpha && !holdsAlpha(plan.type))
         losses.append(
@@ -78,28 +41,13 @@ QStringList lossesOfPixels(const OutputPlan &plan, const RecipeOutput &output, c
 
 } // namespace
 
-QString extensionOf(OutputType type)
-{
-    return kindOf(type).extension;
-}
-
-QString wordOf(OutputType type)
-{
-    return kindOf(type).word;
-}
-
 std::optional<OutputType> ownTypeOf(const platform::ImageSource &source)
 {
-    const std::optional<FileFormat> format = platform::writableFormatForType(source.typeIdentifier());
-    for (const Kind &kind : kinds())
-        if (format && kind.format == format)
-            return kind.type;
+    const QString identifier = source.typeIdentifier();
+    for (const WrittenType &each : writtenTypes())
+        if (!each.isPage && identifier == each.identifier)
+            return each.type;
     return std::nullopt;
-}
-
-std::optional<FileFormat> formatFor(OutputType type)
-{
-    return kindOf(type).format;
 }
 
 bool holdsAlpha(OutputType type)
@@ -163,7 +111,7 @@ QStringList lossesOfMetadata(const OutputPlan &plan, const RecipeOutput &output,
     const auto metadata = source.metadata();
     if (!metadata || metadata->isEmpty())
         return {};
-    const QString name = kindOf(plan.type).name;
+    const QString name = writtenType(plan.type).word;
     return {isHeldInPart ? sentence("%1 holds metadata as XMP alone, without maker notes").arg(name)
                          : sentence("%1 holds no metadata").arg(name)};
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "image/recipe/plan.h"
-#include "platform/imageio/formats/file_format.h"
 
 #include <optional>
 
@@ -10,9 +9,6 @@ namespace image {
 
 /** The type that a file's own content would be written as; none where it cannot. */
 std::optional<OutputType> ownTypeOf(const platform::ImageSource &source);
-
-/** The format that holds a type; none for a page. */
-std::optional<platform::FileFormat> formatFor(OutputType type);
 
 bool holdsAlpha(OutputType type);
 

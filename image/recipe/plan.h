@@ -31,9 +31,4 @@ Stage stageOf(const platform::ImageSource &source);
 /** The output's own operations, with its profile behind them. */
 QList<RecipeStep> stepsOf(const RecipeOutput &output);
 
-/** ".jpg" for JPEG and so on. */
-QString extensionOf(OutputType type);
-/** The word that recipes and reports have for a type: "jpeg". */
-QString wordOf(OutputType type);
-
 } // namespace image

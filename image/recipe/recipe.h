@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/types/output_types.h"
 #include "platform/imageio/source/image_source.h"
 
 #include <QColor>
@@ -51,8 +52,8 @@ enum class CropBy { Size, Ratio, Percent, Trim };
 struct CropOperation
 {
     CropBy by = CropBy::Size;
-    double width = 0; ///< lengths, or the two numbers of a ratio
-    double height = 0; ///< with Trim both are what is cut away in all
+    double width = 0;   ///< lengths, or the two numbers of a ratio
+    double height = 0;  ///< with Trim both are what is cut away in all
     bool turns = true;  ///< the longer number of a ratio goes with the longer side of the picture
     double percent = 0; ///< 0 to 99, cut away in all
     Place position = Place::Center;
@@ -149,7 +150,6 @@ struct RecipeStep
     bool isOff = false;
 };
 
-enum class OutputType { Original, Jpeg, Png, Tiff, Bmp, Gif, Jpeg2000, Pdf, Webp, Avif, JpegXl };
 enum class KeptMetadata { Keep, Copyright, None };
 enum class FileDates { Now, Keep };
 enum class IfTaken { Number, Replace, Skip, Current };

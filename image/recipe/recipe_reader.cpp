@@ -12,40 +12,42 @@
 #include <QJsonDocument>
 
 #include <cmath>
+#include <vector>
 
 namespace image {
 namespace {
 
 using platform::Result;
 
-constexpr Word<OutputType> types[] = {
-    {"original", OutputType::Original}, {"jpeg", OutputType::Jpeg},  {"png", OutputType::Png},
-    {"tiff", OutputType::Tiff},         {"bmp", OutputType::Bmp},    {"gif", OutputType::Gif},
-    {"jp2", OutputType::Jpeg2000},      {"pdf", OutputType::Pdf},    {"webp", OutputType::Webp},
-    {"avif", OutputType::Avif},         {"jxl", OutputType::JpegXl},
-};
 constexpr Word<KeptMetadata> kinds[] = {
     {"keep", KeptMetadata::Keep}, {"copyright", KeptMetadata::Copyright}, {"none", KeptMetadata::None}};
 constexpr Word<FileDates> dates[] = {{"now", FileDates::Now}, {"keep", FileDates::Keep}};
 constexpr Word<IfTaken> takens[] = {
     {"number", IfTaken::Number}, {"replace", IfTaken::Replace}, {"skip", IfTaken::Skip}, {"current", IfTaken::Current}};
 
-bool hasQuality(OutputType type)
+/** A file that stays what it is may be of any type. */
+bool canHaveQuality(OutputType type)
 {
-    return type == OutputType::Original || type == OutputType::Jpeg || type == OutputType::Webp ||
-           type == OutputType::Avif || type == OutputType::JpegXl || type == OutputType::Jpeg2000;
+    return type == OutputType::Original || writtenType(type).hasQuality;
 }
 
 bool canBeLossless(OutputType type)
 {
-    return type == OutputType::Original || type == OutputType::Webp || type == OutputType::JpegXl ||
-           type == OutputType::Jpeg2000;
+    return type == OutputType::Original || writtenType(type).canBeLossless;
+}
+
+std::vector<Word<OutputType>> wordsOfTypes()
+{
+    std::vector<Word<OutputType>> words = {{"original", OutputType::Original}};
+    for (const WrittenType &each : writtenTypes())
+        words.push_back({each.keyword.data(), each.type});
+    return words;
 }
 
 void readEncoding(RecipeKeys &keys, RecipeOutput &output)
 {
-    output.type = keys.choice("type", types).value_or(OutputType::Original);
-    if (!hasQuality(output.type))
+    output.type = keys.choice<OutputType>("type", wordsOfTypes()).value_or(OutputType::Original);
+    if (!canHaveQuality(output.type))
         keys.refuseKey("quality", sentence("this type has no quality"));
     else if (const auto quality = keys.number("quality", {1, 100, true}))
         output.quality = int(*quality);

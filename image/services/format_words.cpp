@@ -31,8 +31,6 @@ QString typeWord(const QString &typeIdentifier)
         {QStringLiteral("com.adobe.photoshop-image"), QStringLiteral("Photoshop")},
         {QStringLiteral("public.heic"), QStringLiteral("HEIC")},
         {QStringLiteral("public.heif"), QStringLiteral("HEIF")},
-        {QStringLiteral("org.webmproject.webp"), QStringLiteral("WebP")},
-        {QStringLiteral("public.avif"), QStringLiteral("AVIF")},
         {QStringLiteral("public.svg-image"), QStringLiteral("SVG")},
         {QStringLiteral("public.camera-raw-image"), QStringLiteral("RAW")},
         {QStringLiteral("public.plain-text"), QString::fromLatin1(QT_TRANSLATE_NOOP("window", "Text"))},

@@ -82,6 +82,7 @@ QVariantList PictureService::outputTypes() const
                                 {QStringLiteral("keyword"), QString(type.keyword)},
                                 {QStringLiteral("word"), QString(type.word)},
                                 {QStringLiteral("isPage"), type.isPage},
+                                {QStringLiteral("isOfRecipes"), type.isOfRecipes},
                                 {QStringLiteral("carriesMetadata"), type.carriesMetadata}});
     return rows;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/imageio/formats/file_format.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -9,16 +11,19 @@
 /** What the product calls the types that it writes. What their files are and keep is told by platform::formats(), by the identifier. */
 namespace image {
 
-/** What a picture can be converted to. */
-enum class TargetType { Pdf, Png, Tiff, Bmp, Gif, Jpeg, Jpeg2000 };
+/** What a picture can be written as. Original is whatever the picture is itself. */
+enum class OutputType { Original, Jpeg, Png, Tiff, Bmp, Gif, Jpeg2000, Pdf, Webp, Avif, JpegXl };
 
 struct WrittenType
 {
+    OutputType type = OutputType::Original;
     QLatin1String identifier;
-    QLatin1String keyword; ///< of conversions
-    QLatin1String word;    ///< of lists, the same in every language
-    TargetType target = TargetType::Png;
-    bool isPage = false; ///< only a conversion makes it
+    QLatin1String keyword;      ///< of conversions, recipes and reports
+    QLatin1String word;         ///< of lists, the same in every language
+    bool isPage = false;        ///< no format of pictures
+    bool isOfRecipes = false;   ///< no conversion makes it
+    bool hasQuality = false;    ///< from 1 to 100, in recipes
+    bool canBeLossless = false; ///< where a recipe asks for that; others always are, or never
     bool carriesMetadata =
         false; ///< a conversion hands EXIF, IPTC and XMP on, and leaves the pixels as they are stored
 };
@@ -26,8 +31,17 @@ struct WrittenType
 /** All of them, in the order of lists. */
 std::span<const WrittenType> writtenTypes();
 
+/** The row of a type but Original. */
+const WrittenType &writtenType(OutputType type);
+
+/** The format of its files; none for a page. */
+std::optional<platform::FileFormat> formatFor(OutputType type);
+
+/** What names of its files end in: ".jpg" and so on. */
+QString extensionOf(OutputType type);
+
 /** The target of a keyword: "pdf", "png", "tiff", "bmp", "gif", "jpeg" or "jp2", letter for letter; none for other text. */
-std::optional<TargetType> targetTypeFor(const QString &keyword);
+std::optional<OutputType> targetTypeFor(const QString &keyword);
 
 /** The codes of JPEG quality, "1" to "10", the lowest first. Conversions know no last one. */
 QStringList qualityCodes();

@@ -16,7 +16,7 @@ function writtenAs(output) {
 }
 
 /** What actions write. */
-export const WRITTEN = pictures.outputTypes().filter((output) => !output.isPage).map(writtenAs);
+export const WRITTEN = pictures.outputTypes().filter((output) => !output.isPage && !output.isOfRecipes).map(writtenAs);
 
 /** What pictures can be converted to besides; no other action writes it. */
 export const PDF_PAGE = writtenAs(pictures.outputTypes().find((output) => output.isPage));
@@ -25,12 +25,8 @@ export const PDF_PAGE = writtenAs(pictures.outputTypes().find((output) => output
 export const QUALITIES = pictures.qualityCodes();
 export const CONVERSION_QUALITIES = QUALITIES.slice(0, -1);
 
-/** What a picture can be of in spite of the extension of its name; such a type is kept and cannot be chosen. */
-const FURTHER_MADE = [
-    ["org.webmproject.webp", "webp", "WebP"], ["public.avif", "avif", "AVIF"], ["public.jpeg-xl", "jxl", "JPEG XL"],
-].map(([id, keyword, word]) => writtenAs({ id: id, keyword: keyword, word: word, carriesMetadata: false }));
-
-const MADE = WRITTEN.concat([PDF_PAGE], FURTHER_MADE);
+/** What else a picture may be, in spite of the extension of its name; such a type is kept and cannot be chosen. */
+const MADE = pictures.outputTypes().map(writtenAs);
 
 /** The raw files of cameras, by extension: those that have a preview which can be converted, and the others. */
 export const RAW_WITH_PREVIEW = pictures.rawTypes().filter((type) => type.hasPreview).map((type) => type.extension);

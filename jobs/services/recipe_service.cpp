@@ -93,7 +93,7 @@ QVariantMap RecipeService::planOutput(const QString &path, const QVariantMap &re
     const bool isThere = plan.problem.isEmpty();
     return {{key("problem"), plan.problem},
             {key("isNotSupported"), plan.isNotSupported},
-            {key("type"), isThere ? image::wordOf(plan.type) : QString()},
+            {key("type"), isThere ? QString(image::writtenType(plan.type).keyword) : QString()},
             {key("width"), plan.size.width()},
             {key("height"), plan.size.height()},
             {key("extension"), isThere ? image::extensionOf(plan.type) : QString()},

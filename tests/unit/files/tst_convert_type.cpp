@@ -13,7 +13,7 @@
 
 #include <sys/inotify.h>
 
-using image::TargetType;
+using image::OutputType;
 using platform::Bitmap;
 using platform::ImageSource;
 

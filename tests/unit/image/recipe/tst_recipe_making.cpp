@@ -404,7 +404,7 @@ void TestRecipeMaking::carriesAsMuchMetadataAsIsAskedFor()
             const QByteArray file = madeFrom(recipe, path).first()->bytes;
             return ImageSource::fromData(file)->properties().value();
         };
-        const QByteArray name = wordOf(type).toLatin1();
+        const char *name = writtenType(type).keyword.data();
         const QVariantMap all = groups(KeptMetadata::Keep, true);
         QVERIFY2(all.contains(QStringLiteral("{GPS}")) && all.contains(QStringLiteral("{Exif}")), name);
         QVERIFY2(!groups(KeptMetadata::Keep, false).contains(QStringLiteral("{GPS}")), name);
