@@ -1,4 +1,10 @@
-// PNG, JPEG 2000 and WebP: chains of parts, each with its length and its name.
+// PNG, JPEG 2000 and WebP: chains of parts, each with its length and its name, some of which holds an EXIF block:
+//
+//     PNG        0x89 "PNG" ... (8) | length (4) | name (4) | data | sum (4) ...    "eXIf", or a text "Raw profile type exif"
+//     JPEG 2000  length (4), all of it | name (4) | data ...    "uuid", whose data begin with the 16 bytes of EXIF's identifier
+//     WebP       "RIFF" | length (4) | "WEBP" | name (4) | length (4) | data, padded to even ...    "EXIF"
+//
+// Numbers have their highest byte first, but in WebP their lowest.
 
 #include "platform/foundation/byte_order.h"
 #include "platform/imageio/comments/comment_splices.h"

@@ -6,6 +6,17 @@
 #include <algorithm>
 #include <cmath>
 
+// A JPEG 2000 file; numbers have their highest byte first. Boxes, or nothing but the codestream:
+//
+//     box: length (4; 1 where 8 bytes behind the name tell it, 0 where it reaches to the end) | name (4) | data
+//     "jP  " | "ftyp" | "jp2h": boxes | ... | "jp2c": the codestream
+//     in "jp2h": "ihdr" height (4), width (4), channels (2), bits less 1 (1) ...
+//                "colr" method (1), 0 (1), 0 (1) | number of a standard space (4), or a profile
+//                "pclr" entries (2), columns (1), bits of each | entries        "cmap" component (2), kind (1), column (1) ...
+//                "cdef" number (2) | channel (2), what it is (2), of which colour (2) ...
+//     codestream: 0xFF4F | 0xFF51 length (2), 2 bytes | right (4), bottom (4), left (4), top (4) | the tiles' sizes (16) |
+//                 components (2) | bits less 1 with the sign in the highest (1), steps across (1), steps down (1) ...
+
 namespace platform {
 namespace {
 

@@ -14,7 +14,7 @@ enum class MakerNotes { Keep, Drop };
  * The tags of @p blocks as one EXIF block in @p order, TIFF header first, for a picture of @p pixels.
  *
  * In the order in which it was read the original block is used, changed in place (exifBlockInPlace()). Otherwise, and
- * where there is none, it is made anew; what then cannot be encoded, or does not fit into @p sizeLimit bytes, is left
+ * where there is none, a new one is made; what then cannot be encoded, or does not fit into @p sizeLimit bytes, is left
  * behind step by step: first very long values, then the maker notes, then all but the common tags. Empty where
  * nothing is left to write.
  */
