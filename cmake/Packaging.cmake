@@ -21,6 +21,7 @@ install(FILES ${packaging}/com.brelmark.Quorlin.metainfo.xml DESTINATION ${CMAKE
 install(FILES ${packaging}/icons/quorlin.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${packaging}/icons/quorlin-symbolic.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/symbolic/apps)
 install(FILES ${CMAKE_SOURCE_DIR}/README.md ${CMAKE_SOURCE_DIR}/CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${packaging}/examples/quorlin-inbox.service DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
 install(FILES ${packaging}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 set(CPACK_GENERATOR DEB)

@@ -143,8 +143,9 @@ private:
     /** What the report of an earlier run has as done, if it still is. */
     std::optional<KnownOutput> doneOf(const Input &input, int index) const
     {
-        const auto known =
-            m_options.resumed ? m_options.resumed->of(m_options.recipe, input.path, index) : std::nullopt;
+        const auto known = m_options.resumed && !input.isNews
+                               ? m_options.resumed->of(m_options.recipe, input.path, index)
+                               : std::nullopt;
         const bool isDone = known && known->status == LineStatus::Ok && isStillThere(*known);
         return isDone ? known : std::nullopt;
     }

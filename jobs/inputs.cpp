@@ -15,7 +15,7 @@ namespace {
 Input pictureNamed(const QString &path)
 {
     const auto item = platform::targetFacts(path);
-    Input input = {path, {}, {}};
+    Input input = {path, {}, {}, false};
     if (!item)
         input.problem = image::sentence("there is no such file");
     else if (!item->isFile)
@@ -69,6 +69,17 @@ Inputs::State Inputs::look(int waitMs)
         else
             letGoAtEnd();
     }
+    if (m_waiting.empty() && m_watch) {
+        const State state = m_watch->look(waitMs);
+        if (state == State::Ended)
+            m_problem = image::sentence("no folder is left to watch: %1").arg(m_watch->news());
+        if (state != State::Ready)
+            return state;
+        const Arrival arrival = m_watch->take();
+        if (const auto item = platform::targetFacts(arrival.path))
+            m_items.insert(item->number);
+        m_waiting.push_back({arrival.path, arrival.root, {}, arrival.isLive});
+    }
     return m_waiting.empty() ? State::Ended : State::Ready;
 }
 
@@ -97,7 +108,7 @@ void Inputs::addNamed(const QString &name)
     }
     static const files::CollectRule rule = {pictureExtensions(), {}, {}, files::OddNames::AsPaths};
     for (const QString &found : files::collectFiles({path}, rule).paths)
-        add({found, path, {}});
+        add({found, path, {}, false});
 }
 
 void Inputs::add(const Input &input)
@@ -123,6 +134,8 @@ bool Inputs::isNew(const QString &path)
 
 void Inputs::leaveOut(const QString &path)
 {
+    if (m_watch)
+        m_watch->leaveOut(path);
     if (const auto item = platform::targetFacts(path); m_more && item)
         m_items.insert(item->number);
 }

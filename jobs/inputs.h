@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jobs/name_stream.h"
+#include "jobs/picture_watch.h"
 #include "platform/disk/item_identity.h"
 
 #include <QSet>
@@ -18,6 +19,7 @@ struct Input
     QString path;    ///< absolute
     QString root;    ///< the folder that was named and that it was found in; empty for a picture that was named itself
     QString problem; ///< a sentence where nothing is there that could be read
+    bool isNews = false; ///< it came into a watched folder: what a report says of it is said of an earlier one
 };
 
 /** Where the path of an input lies below its root, or its own name. */
@@ -34,6 +36,8 @@ class Inputs
 {
 public:
     explicit Inputs(const QStringList &named, std::optional<NameStream> more = std::nullopt);
+    /** Pictures that come into folders; they end when no folder is left. */
+    explicit Inputs(PictureWatch watch) : m_watch(std::move(watch)) {}
 
     using State = NameStream::State;
     /** Whether there is a picture now; waits so many milliseconds for a name, or until a signal comes. */
@@ -62,8 +66,12 @@ public:
     /** Leaves out what is at @p path, a result, where it is named later: a list that is still being made may come upon it. */
     void leaveOut(const QString &path);
 
-    /** What look() waits for; -1 where all names are known. */
-    int descriptor() const { return m_more ? m_more->descriptor() : -1; }
+    /** What look() waits for; -1 where all names are known. Where folders are watched look() must be asked several times a second besides. */
+    int descriptor() const { return m_more ? m_more->descriptor() : m_watch ? m_watch->descriptor() : -1; }
+    /** Whether more may come. */
+    bool areOpen() const { return m_more || m_watch; }
+    /** A sentence for the user that was not told yet; empty where there is none. */
+    QString news() { return m_watch ? m_watch->news() : QString(); }
     /** Why the names ended before their end; empty where they did not. */
     const QString &problem() const { return m_problem; }
 
@@ -74,6 +82,7 @@ private:
     void letGoAtEnd();
 
     std::optional<NameStream> m_more;
+    std::optional<PictureWatch> m_watch;
     std::deque<Input> m_waiting;
     int m_taken = 0;
     QSet<platform::ItemNumber> m_items;

@@ -212,7 +212,7 @@ Standing ResultNames::standingAt(const QString &planned, const Input &input)
     const Key key = keyOf(platform::lastPathComponent(planned));
     if (folder.given.contains(key))
         return Standing::OtherResult;
-    if (!folder.onDisk.contains(key))
+    if (!folder.onDisk.contains(key) && !platform::isTaken(planned)) // it may have come since the folder was listed
         return Standing::Nothing;
     if (isOtherInput(planned, input))
         return Standing::OtherInput;

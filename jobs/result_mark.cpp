@@ -31,4 +31,10 @@ bool isCurrentResult(const QString &path, const QString &source, const QString &
     return !note.isEmpty() && note == noteFor(path, source, settings);
 }
 
+bool isResultOf(const QString &path, const QString &recipeName)
+{
+    const QByteArrayList lines = platform::attachedNote(path).split('\n');
+    return lines.size() == 3 && lines[0].startsWith(recipeName.toUtf8() + ' ') && lines[2] == contentMark(path);
+}
+
 } // namespace jobs

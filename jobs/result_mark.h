@@ -14,4 +14,7 @@ void markResult(const QString &result, const QString &source, const QString &set
 /** Whether the file at @p path carries the note of these settings and of the source as it is now, and is as it was made. */
 bool isCurrentResult(const QString &path, const QString &source, const QString &settings);
 
+/** Whether the file at @p path carries a note of this recipe, whatever it was made of, and is as it was made. */
+bool isResultOf(const QString &path, const QString &recipeName);
+
 } // namespace jobs

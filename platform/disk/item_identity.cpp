@@ -55,7 +55,10 @@ std::optional<TargetFacts> targetFacts(const QString &path)
     struct stat item = {};
     if (!canBeAPath(path) || ::stat(encodedPath(path).constData(), &item) != 0)
         return std::nullopt;
-    return TargetFacts{{item.st_dev, item.st_ino}, S_ISREG(item.st_mode), S_ISDIR(item.st_mode), item.st_nlink > 1};
+    constexpr qint64 nsPerSecond = 1'000'000'000;
+    const auto ns = [](const timespec &time) { return qint64(time.tv_sec) * nsPerSecond + time.tv_nsec; };
+    return TargetFacts{{item.st_dev, item.st_ino}, S_ISREG(item.st_mode), S_ISDIR(item.st_mode), item.st_nlink > 1,
+                       qint64(item.st_size),       ns(item.st_mtim),      ns(item.st_ctim)};
 }
 
 QString folderIdentity(const QString &path)

@@ -44,6 +44,11 @@ struct TargetFacts
     bool isFile = false; ///< an ordinary one
     bool isFolder = false;
     bool hasSecondName = false; ///< the file has hard links
+    qint64 bytes = 0;
+    qint64 modifiedNs = 0; ///< of the content, nanoseconds since 1970
+    qint64 changedNs = 0;  ///< of anything about it, its name too: nobody can set that back
+
+    bool operator==(const TargetFacts &) const = default;
 };
 
 /** None where nothing is. */

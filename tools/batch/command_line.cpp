@@ -124,6 +124,9 @@ QString contradictionIn(const CommandLine &line)
         return QStringLiteral("--keep-tree needs --to");
     if (line.isFromSeparatedByNul && line.from.isEmpty())
         return QStringLiteral("-0 needs --from");
+    if (line.watches && (!line.from.isEmpty() || !line.plan.isEmpty()))
+        return QStringLiteral("--watch cannot stand beside %1")
+            .arg(line.from.isEmpty() ? QStringLiteral("--plan") : QStringLiteral("--from"));
     if (line.recipe.isEmpty() && line.preset.isEmpty())
         return QStringLiteral("the recipe is missing");
     if (line.inputs.isEmpty() && line.from.isEmpty())

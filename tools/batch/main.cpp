@@ -58,12 +58,16 @@ int carryOut(Request &request, const CommandLine &line)
         request.recipe, *request.inputs, request.options,
         [&](const jobs::ReportLine &each) {
             const int lines = int(request.inputs->known() * request.recipe.outputs.size()) / line.shards;
-            progress.expect(lines, request.inputs->descriptor() >= 0);
+            progress.expect(lines, request.inputs->areOpen());
             progress.take(each);
             isWritten = report.add(jobs::jsonLine(each, request.options.recipe)) && isWritten;
             return isWritten;
         },
-        [] { return stopped != 0; });
+        [&] {
+            if (const QString news = request.inputs->news(); !news.isEmpty())
+                say(QStringLiteral("quorlin-batch: %1\n").arg(news));
+            return stopped != 0;
+        });
     isWritten = report.add(jobs::jsonLine(summary)) && isWritten;
     progress.finish(summary, line.isDryRun);
     if (const QString problem = request.inputs->problem(); !problem.isEmpty()) {

@@ -3,6 +3,8 @@
 #include "image/recipe/recipe_reader.h"
 #include "jobs/presets/preset_recipe.h"
 #include "jobs/presets/supplied_files.h"
+#include "platform/disk/disk_file_system.h"
+#include "platform/disk/folders.h"
 #include "platform/disk/item_identity.h"
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/paths.h"
@@ -17,7 +19,7 @@ bool isSameFile(const QString &one, const QString &other)
     return !identity.isEmpty() && identity == platform::targetIdentity(platform::absolutePath(other));
 }
 
-Request readReports(Request request, const CommandLine &line)
+void readReports(Request &request, const CommandLine &line)
 {
     if (!line.plan.isEmpty()) {
         request.options.plan = jobs::EarlierReport::read(platform::absolutePath(line.plan));
@@ -31,7 +33,6 @@ Request readReports(Request request, const CommandLine &line)
         if (!request.options.resumed)
             request.problem = QStringLiteral("%1 cannot be read").arg(line.resume);
     }
-    return request;
 }
 
 /** The path of the recipe's file; empty for a preset that is kept in another form. */
@@ -61,6 +62,57 @@ bool wouldLoseAFile(const CommandLine &line)
                        [&line](const QString &path) { return !path.isEmpty() && isSameFile(path, line.report); });
 }
 
+/** The pictures and folders that were named, and those that are still to be named. */
+void nameInputs(Request &request, const CommandLine &line)
+{
+    std::optional<jobs::NameStream> more;
+    if (!line.from.isEmpty()) {
+        using Separator = jobs::NameStream::Separator;
+        auto names =
+            jobs::NameStream::open(line.from, line.isFromSeparatedByNul ? Separator::Nul : Separator::LineFeed);
+        if (!names) {
+            request.problem = names.error().message;
+            return;
+        }
+        more.emplace(std::move(*names));
+    }
+    request.inputs.emplace(line.inputs, std::move(more));
+}
+
+/** The folders that are watched, and the pictures that come into them. */
+void watchFolders(Request &request, const CommandLine &line)
+{
+    QStringList folders;
+    for (const QString &input : line.inputs)
+        folders.append(platform::absolutePath(input));
+    folders.removeDuplicates();
+    const QString work = QStringLiteral("%1 %2/%3").arg(request.options.recipe).arg(line.shard).arg(line.shards);
+    for (const QString &folder : folders) {
+        if (!platform::folderExists(folder))
+            request.problem = QStringLiteral("%1 is no folder, and only folders can be watched").arg(folder);
+        else if (!request.lock.take(folder, work))
+            request.problem = QStringLiteral("%1 is watched for this recipe already").arg(folder);
+        if (!request.problem.isEmpty())
+            return;
+    }
+    jobs::WatchOptions options;
+    options.recipe = request.options.recipe;
+    options.resumed = request.options.resumed;
+    if (request.options.resumed) {
+        const auto report = platform::DiskFileSystem().look(platform::absolutePath(line.resume));
+        if (!report || report->bornNs == 0) {
+            request.problem = QStringLiteral("the disk of %1 does not tell when it was begun").arg(line.resume);
+            return;
+        }
+        options.sinceNs = report->bornNs;
+    }
+    auto watch = jobs::PictureWatch::start(folders, options);
+    if (watch)
+        request.inputs.emplace(std::move(*watch));
+    else
+        request.problem = watch.error().message;
+}
+
 } // namespace
 
 Request requestFrom(const CommandLine &line)
@@ -83,24 +135,17 @@ Request requestFrom(const CommandLine &line)
         request.problem = QStringLiteral("%1 is read, so it cannot be the report").arg(line.report);
         return request;
     }
-    std::optional<jobs::NameStream> more;
-    if (!line.from.isEmpty()) {
-        using Separator = jobs::NameStream::Separator;
-        auto names =
-            jobs::NameStream::open(line.from, line.isFromSeparatedByNul ? Separator::Nul : Separator::LineFeed);
-        if (!names) {
-            request.problem = names.error().message;
-            return request;
-        }
-        more.emplace(std::move(*names));
-    }
-    request.inputs.emplace(line.inputs, std::move(more));
     if (!line.to.isEmpty())
         request.options.destination = {platform::absolutePath(line.to), line.keepsTree};
     request.options.isDryRun = line.isDryRun;
     request.options.shard = line.shard;
     request.options.shards = line.shards;
-    return readReports(std::move(request), line);
+    readReports(request, line);
+    if (request.problem.isEmpty() && line.watches)
+        watchFolders(request, line);
+    else if (request.problem.isEmpty())
+        nameInputs(request, line);
+    return request;
 }
 
 bool addsToReport(const CommandLine &line)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jobs/batch.h"
+#include "jobs/watch_lock.h"
 #include "tools/batch/command_line.h"
 
 /** What was asked for, read and checked: nothing has been written yet. */
@@ -9,6 +10,7 @@ struct Request
     image::Recipe recipe;
     std::optional<jobs::Inputs> inputs;
     jobs::BatchOptions options;
+    jobs::WatchLock lock;
     QString problem; ///< a sentence where it cannot be carried out
 };
 
