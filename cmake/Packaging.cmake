@@ -22,6 +22,17 @@ install(FILES ${packaging}/icons/quorlin.svg DESTINATION ${CMAKE_INSTALL_DATADIR
 install(FILES ${packaging}/icons/quorlin-symbolic.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/symbolic/apps)
 install(FILES ${CMAKE_SOURCE_DIR}/README.md ${CMAKE_SOURCE_DIR}/CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${packaging}/examples/quorlin-inbox.service DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
+foreach(page quorlin.1 quorlin-batch.1 quorlin-script.1)
+  install(FILES ${CMAKE_SOURCE_DIR}/docs/man/${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endforeach()
+install(FILES ${CMAKE_SOURCE_DIR}/docs/man/quorlin-recipe.5 DESTINATION ${CMAKE_INSTALL_MANDIR}/man5)
+# bash looks completions up by the name of the command.
+foreach(command quorlin-batch quorlin quorlin-script)
+  install(FILES ${packaging}/completion/quorlin-batch.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+    RENAME ${command})
+endforeach()
+install(FILES ${packaging}/completion/_quorlin-batch DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+install(FILES ${packaging}/completion/quorlin-batch.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 install(FILES ${packaging}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 set(CPACK_GENERATOR DEB)
