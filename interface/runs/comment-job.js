@@ -7,6 +7,11 @@ import { guard } from "../lib/guard.js";
 import { appendRows, newRunName, trimRows } from "./log-file.js";
 
 
+function newWork(action) {
+    return { run: newRunName(), pagesRun: newRunName(), action: action, tried: 0, done: 0, first: "", problem: "",
+             cancelled: false, edits: [] };
+}
+
 export class CommentJob {
     constructor() {
         this.job = shell.job();
@@ -29,8 +34,7 @@ export class CommentJob {
      *                reverted}
      */
     start(generator, action, onStep, onEnd) {
-        const work = { run: newRunName(), pagesRun: newRunName(), action: action, tried: 0, done: 0, first: "",
-                       problem: "", cancelled: false, edits: [] };
+        const work = newWork(action);
         this.job.start(generator, guard("comments.step", (result) => { this.take(work, result); onStep(work); }),
                        guard("comments.end", (how, value) => {
             work.cancelled = how === "cancelled";
@@ -38,6 +42,16 @@ export class CommentJob {
             work.problem = (how === "failed" ? String(value) : "") || work.problem || trimRows(files);
             onEnd(work);
         }));
+    }
+
+    /** Carries out a generator of one picture at once; returns what onEnd() of start() gets. */
+    carryOut(generator, action) {
+        const work = newWork(action);
+        for (const result of generator) {
+            this.take(work, result);
+        }
+        work.problem = work.problem || trimRows(files);
+        return work;
     }
 
     // An edit that is in the file is in the log, whatever happens to this program after it.

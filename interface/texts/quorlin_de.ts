@@ -942,8 +942,12 @@
         <translation>Anwenden</translation>
     </message>
     <message>
-        <source>Write the comment into this picture</source>
-        <translation>Kommentar in dieses Bild schreiben</translation>
+        <source>Write the comment into this picture. Ctrl+Return writes it and goes to the next one.</source>
+        <translation>Den Kommentar in dieses Bild schreiben. Strg+Eingabe schreibt ihn und geht zum nächsten.</translation>
+    </message>
+    <message>
+        <source>Write comment and go to the next picture</source>
+        <translation>Kommentar schreiben und zum nächsten Bild</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1974,92 @@
             <numerusform>%n Kommentar zurückgesetzt</numerusform>
             <numerusform>%n Kommentare zurückgesetzt</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>comment-questions</name>
+    <message numerus="yes">
+        <source>%n further pages</source>
+        <translation>
+            <numerusform>%n weitere Seite</numerusform>
+            <numerusform>%n weitere Seiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
+        <translation>Diese Datei hat %1. Sie würden entfernt und lassen sich nicht zurückholen: Nur die erste Seite bleibt erhalten.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <translation>
+            <numerusform>%n Datei hat mehrere Seiten und wird ausgelassen; der Kommentar würde sie %1 kosten: %2.</numerusform>
+            <numerusform>%n Dateien haben mehrere Seiten und werden ausgelassen; der Kommentar würde sie %1 kosten: %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
+        <translation>Geändert werden die Originale selbst: ihr Kommentar und sonst nichts.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <translation>
+            <numerusform>%n Datei ist von einem Typ ohne Platz für einen Kommentar und bleibt, wie sie ist.</numerusform>
+            <numerusform>%n Dateien sind von einem Typ ohne Platz für einen Kommentar und bleiben, wie sie sind.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write comment</source>
+        <translation>Kommentar schreiben</translation>
+    </message>
+    <message numerus="yes">
+        <source>Empty the comments of %n pictures?</source>
+        <translation>
+            <numerusform>Den Kommentar dieses Bildes leeren?</numerusform>
+            <numerusform>Die Kommentare von %n Bildern leeren?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write the comment into %n pictures?</source>
+        <translation>
+            <numerusform>Den Kommentar in dieses Bild schreiben?</numerusform>
+            <numerusform>Den Kommentar in %n Bilder schreiben?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write and Remove Pages</source>
+        <translation>Schreiben und Seiten entfernen</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Write into these too, and keep only their first page</source>
+        <translation>Auch in diese schreiben und nur die erste Seite behalten</translation>
+    </message>
+    <message>
+        <source>Comment not written</source>
+        <translation>Kommentar nicht geschrieben</translation>
+    </message>
+    <message>
+        <source>Write what was typed into %1?</source>
+        <translation>Das Getippte in %1 schreiben?</translation>
+    </message>
+    <message>
+        <source>It is not in the file yet.</source>
+        <translation>Es steht noch nicht in der Datei.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Keep Typing</source>
+        <translation>Weiter tippen</translation>
     </message>
 </context>
 <context>
@@ -3271,68 +3361,9 @@
             <numerusform>In alle %n schreiben…</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n further pages</source>
-        <translation>
-            <numerusform>%n weitere Seite</numerusform>
-            <numerusform>%n weitere Seiten</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
-        <translation>Diese Datei hat %1. Sie würden entfernt und lassen sich nicht zurückholen: Nur die erste Seite bleibt erhalten.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
-        <translation>
-            <numerusform>%n Datei hat mehrere Seiten und wird ausgelassen; der Kommentar würde sie %1 kosten: %2.</numerusform>
-            <numerusform>%n Dateien haben mehrere Seiten und werden ausgelassen; der Kommentar würde sie %1 kosten: %2.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
-        <translation>Geändert werden die Originale selbst: ihr Kommentar und sonst nichts.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
-        <translation>
-            <numerusform>%n Datei ist von einem Typ ohne Platz für einen Kommentar und bleibt, wie sie ist.</numerusform>
-            <numerusform>%n Dateien sind von einem Typ ohne Platz für einen Kommentar und bleiben, wie sie sind.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Write comment</source>
         <translation>Kommentar schreiben</translation>
-    </message>
-    <message numerus="yes">
-        <source>Empty the comments of %n pictures?</source>
-        <translation>
-            <numerusform>Den Kommentar dieses Bildes leeren?</numerusform>
-            <numerusform>Die Kommentare von %n Bildern leeren?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Write the comment into %n pictures?</source>
-        <translation>
-            <numerusform>Den Kommentar in dieses Bild schreiben?</numerusform>
-            <numerusform>Den Kommentar in %n Bilder schreiben?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Write and Remove Pages</source>
-        <translation>Schreiben und Seiten entfernen</translation>
-    </message>
-    <message>
-        <source>Write</source>
-        <translation>Schreiben</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Write into these too, and keep only their first page</source>
-        <translation>Auch in diese schreiben und nur die erste Seite behalten</translation>
     </message>
     <message>
         <source>Write the comment into pictures</source>

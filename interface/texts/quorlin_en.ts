@@ -36,6 +36,44 @@
     </message>
 </context>
 <context>
+    <name>comment-questions</name>
+    <message numerus="yes">
+        <source>%n further pages</source>
+        <translation>
+            <numerusform>%n further page</numerusform>
+            <numerusform>%n further pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <translation>
+            <numerusform>%n file has several pages and is left out; its comment would cost it %1: %2.</numerusform>
+            <numerusform>%n files have several pages and are left out; their comments would cost them %1: %2.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <translation>
+            <numerusform>%n file is of a type that has no place for a comment, and stays as it is.</numerusform>
+            <numerusform>%n files are of types that have no place for a comment, and stay as they are.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Empty the comments of %n pictures?</source>
+        <translation>
+            <numerusform>Empty the comment of this picture?</numerusform>
+            <numerusform>Empty the comments of %n pictures?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write the comment into %n pictures?</source>
+        <translation>
+            <numerusform>Write the comment into this picture?</numerusform>
+            <numerusform>Write the comment into %n pictures?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>comment-run</name>
     <message numerus="yes">
         <source>%n further pages were taken out and do not come back.</source>
@@ -293,41 +331,6 @@
         <translation>
             <numerusform>Write into %n…</numerusform>
             <numerusform>Write into All %n…</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n further pages</source>
-        <translation>
-            <numerusform>%n further page</numerusform>
-            <numerusform>%n further pages</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
-        <translation>
-            <numerusform>%n file has several pages and is left out; its comment would cost it %1: %2.</numerusform>
-            <numerusform>%n files have several pages and are left out; their comments would cost them %1: %2.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
-        <translation>
-            <numerusform>%n file is of a type that has no place for a comment, and stays as it is.</numerusform>
-            <numerusform>%n files are of types that have no place for a comment, and stay as they are.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Empty the comments of %n pictures?</source>
-        <translation>
-            <numerusform>Empty the comment of this picture?</numerusform>
-            <numerusform>Empty the comments of %n pictures?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Write the comment into %n pictures?</source>
-        <translation>
-            <numerusform>Write the comment into this picture?</numerusform>
-            <numerusform>Write the comment into %n pictures?</numerusform>
         </translation>
     </message>
 </context>

@@ -942,8 +942,12 @@
         <translation>Appliquer</translation>
     </message>
     <message>
-        <source>Write the comment into this picture</source>
-        <translation>Écrire le commentaire dans cette image</translation>
+        <source>Write the comment into this picture. Ctrl+Return writes it and goes to the next one.</source>
+        <translation>Écrire le commentaire dans cette image. Ctrl+Entrée l’écrit et passe à la suivante.</translation>
+    </message>
+    <message>
+        <source>Write comment and go to the next picture</source>
+        <translation>Écrire le commentaire et passer à l’image suivante</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1974,92 @@
             <numerusform>%n commentaire restauré</numerusform>
             <numerusform>%n commentaires restaurés</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>comment-questions</name>
+    <message numerus="yes">
+        <source>%n further pages</source>
+        <translation>
+            <numerusform>%n autre page</numerusform>
+            <numerusform>%n autres pages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
+        <translation>Ce fichier a %1, qui seraient retirées sans retour possible : seule la première page est gardée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <translation>
+            <numerusform>%n fichier a plusieurs pages et est laissé de côté ; le commentaire lui coûterait %1 : %2.</numerusform>
+            <numerusform>%n fichiers ont plusieurs pages et sont laissés de côté ; le commentaire leur coûterait %1 : %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
+        <translation>Les originaux eux-mêmes sont modifiés&#x202f;: leur commentaire, et rien d’autre.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <translation>
+            <numerusform>%n fichier a un format sans place pour un commentaire et reste tel quel.</numerusform>
+            <numerusform>%n fichiers ont un format sans place pour un commentaire et restent tels quels.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write comment</source>
+        <translation>Écrire le commentaire</translation>
+    </message>
+    <message numerus="yes">
+        <source>Empty the comments of %n pictures?</source>
+        <translation>
+            <numerusform>Vider le commentaire de cette image&#x202f;?</numerusform>
+            <numerusform>Vider le commentaire de %n images&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write the comment into %n pictures?</source>
+        <translation>
+            <numerusform>Écrire le commentaire dans cette image&#x202f;?</numerusform>
+            <numerusform>Écrire le commentaire dans %n images&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write and Remove Pages</source>
+        <translation>Écrire et retirer les pages</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Write into these too, and keep only their first page</source>
+        <translation>Écrire aussi dans ceux-ci et ne garder que leur première page</translation>
+    </message>
+    <message>
+        <source>Comment not written</source>
+        <translation>Commentaire non écrit</translation>
+    </message>
+    <message>
+        <source>Write what was typed into %1?</source>
+        <translation>Écrire le texte saisi dans %1 ?</translation>
+    </message>
+    <message>
+        <source>It is not in the file yet.</source>
+        <translation>Il n’est pas encore dans le fichier.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Keep Typing</source>
+        <translation>Continuer la saisie</translation>
     </message>
 </context>
 <context>
@@ -3271,68 +3361,9 @@
             <numerusform>Écrire dans les %n…</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n further pages</source>
-        <translation>
-            <numerusform>%n autre page</numerusform>
-            <numerusform>%n autres pages</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
-        <translation>Ce fichier a %1, qui seraient retirées sans retour possible : seule la première page est gardée.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
-        <translation>
-            <numerusform>%n fichier a plusieurs pages et est laissé de côté ; le commentaire lui coûterait %1 : %2.</numerusform>
-            <numerusform>%n fichiers ont plusieurs pages et sont laissés de côté ; le commentaire leur coûterait %1 : %2.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
-        <translation>Les originaux eux-mêmes sont modifiés&#x202f;: leur commentaire, et rien d’autre.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
-        <translation>
-            <numerusform>%n fichier a un format sans place pour un commentaire et reste tel quel.</numerusform>
-            <numerusform>%n fichiers ont un format sans place pour un commentaire et restent tels quels.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Write comment</source>
         <translation>Écrire le commentaire</translation>
-    </message>
-    <message numerus="yes">
-        <source>Empty the comments of %n pictures?</source>
-        <translation>
-            <numerusform>Vider le commentaire de cette image&#x202f;?</numerusform>
-            <numerusform>Vider le commentaire de %n images&#x202f;?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Write the comment into %n pictures?</source>
-        <translation>
-            <numerusform>Écrire le commentaire dans cette image&#x202f;?</numerusform>
-            <numerusform>Écrire le commentaire dans %n images&#x202f;?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Write and Remove Pages</source>
-        <translation>Écrire et retirer les pages</translation>
-    </message>
-    <message>
-        <source>Write</source>
-        <translation>Écrire</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Write into these too, and keep only their first page</source>
-        <translation>Écrire aussi dans ceux-ci et ne garder que leur première page</translation>
     </message>
     <message>
         <source>Write the comment into pictures</source>

@@ -942,8 +942,12 @@
         <translation>Toepassen</translation>
     </message>
     <message>
-        <source>Write the comment into this picture</source>
-        <translation>De opmerking in deze foto schrijven</translation>
+        <source>Write the comment into this picture. Ctrl+Return writes it and goes to the next one.</source>
+        <translation>De opmerking in deze foto schrijven. Ctrl+Enter schrijft haar en gaat naar de volgende.</translation>
+    </message>
+    <message>
+        <source>Write comment and go to the next picture</source>
+        <translation>Opmerking schrijven en naar de volgende foto</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +1974,92 @@
             <numerusform>%n opmerking teruggezet</numerusform>
             <numerusform>%n opmerkingen teruggezet</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>comment-questions</name>
+    <message numerus="yes">
+        <source>%n further pages</source>
+        <translation>
+            <numerusform>nog %n pagina</numerusform>
+            <numerusform>nog %n pagina’s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
+        <translation>Dit bestand heeft %1. Die zouden verwijderd worden en zijn niet terug te halen: alleen de eerste pagina blijft over.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <translation>
+            <numerusform>%n bestand heeft meer pagina’s en wordt overgeslagen; de opmerking zou het %1 kosten: %2.</numerusform>
+            <numerusform>%n bestanden hebben meer pagina’s en worden overgeslagen; de opmerking zou ze %1 kosten: %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
+        <translation>De originelen zelf worden gewijzigd: hun opmerking, en verder niets.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <translation>
+            <numerusform>%n bestand is van een type zonder plaats voor een opmerking en blijft zoals het is.</numerusform>
+            <numerusform>%n bestanden zijn van een type zonder plaats voor een opmerking en blijven zoals ze zijn.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write comment</source>
+        <translation>Opmerking schrijven</translation>
+    </message>
+    <message numerus="yes">
+        <source>Empty the comments of %n pictures?</source>
+        <translation>
+            <numerusform>De opmerking van deze foto leegmaken?</numerusform>
+            <numerusform>De opmerking van %n foto’s leegmaken?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write the comment into %n pictures?</source>
+        <translation>
+            <numerusform>De opmerking in deze foto schrijven?</numerusform>
+            <numerusform>De opmerking in %n foto’s schrijven?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write and Remove Pages</source>
+        <translation>Schrijven en pagina’s verwijderen</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schrijven</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Write into these too, and keep only their first page</source>
+        <translation>Ook in deze schrijven en alleen de eerste pagina houden</translation>
+    </message>
+    <message>
+        <source>Comment not written</source>
+        <translation>Opmerking niet geschreven</translation>
+    </message>
+    <message>
+        <source>Write what was typed into %1?</source>
+        <translation>Het getypte in %1 schrijven?</translation>
+    </message>
+    <message>
+        <source>It is not in the file yet.</source>
+        <translation>Het staat nog niet in het bestand.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Weggooien</translation>
+    </message>
+    <message>
+        <source>Keep Typing</source>
+        <translation>Verder typen</translation>
     </message>
 </context>
 <context>
@@ -3271,68 +3361,9 @@
             <numerusform>In alle %n schrijven…</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n further pages</source>
-        <translation>
-            <numerusform>nog %n pagina</numerusform>
-            <numerusform>nog %n pagina’s</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
-        <translation>Dit bestand heeft %1. Die zouden verwijderd worden en zijn niet terug te halen: alleen de eerste pagina blijft over.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
-        <translation>
-            <numerusform>%n bestand heeft meer pagina’s en wordt overgeslagen; de opmerking zou het %1 kosten: %2.</numerusform>
-            <numerusform>%n bestanden hebben meer pagina’s en worden overgeslagen; de opmerking zou ze %1 kosten: %2.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
-        <translation>De originelen zelf worden gewijzigd: hun opmerking, en verder niets.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
-        <translation>
-            <numerusform>%n bestand is van een type zonder plaats voor een opmerking en blijft zoals het is.</numerusform>
-            <numerusform>%n bestanden zijn van een type zonder plaats voor een opmerking en blijven zoals ze zijn.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Write comment</source>
         <translation>Opmerking schrijven</translation>
-    </message>
-    <message numerus="yes">
-        <source>Empty the comments of %n pictures?</source>
-        <translation>
-            <numerusform>De opmerking van deze foto leegmaken?</numerusform>
-            <numerusform>De opmerking van %n foto’s leegmaken?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Write the comment into %n pictures?</source>
-        <translation>
-            <numerusform>De opmerking in deze foto schrijven?</numerusform>
-            <numerusform>De opmerking in %n foto’s schrijven?</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Write and Remove Pages</source>
-        <translation>Schrijven en pagina’s verwijderen</translation>
-    </message>
-    <message>
-        <source>Write</source>
-        <translation>Schrijven</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuleren</translation>
-    </message>
-    <message>
-        <source>Write into these too, and keep only their first page</source>
-        <translation>Ook in deze schrijven en alleen de eerste pagina houden</translation>
     </message>
     <message>
         <source>Write the comment into pictures</source>

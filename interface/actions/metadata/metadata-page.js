@@ -8,22 +8,15 @@ import { tokens } from "quorlin/tokens";
 import { commentExample, commentMaker, commentProblem, commentsOf, pagesAtStake, reverting,
          writing } from "../../runs/comment-run.js";
 import { guard } from "../../lib/guard.js";
-import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
-import { COMMENT_INPUT, PICTURE_INPUT } from "../../lib/types.js";
+import { COMMENT_INPUT } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary, commentsWritten } from "../../runs/comment-job.js";
+import { askAboutTyped, mayWrite } from "./comment-questions.js";
 
 const KEPT = "Comments";
 const ONE = 0;
 const MANY = 1;
-// Of these the name says already that they can hold a comment.
-const HOLDING = PICTURE_INPUT.filter((extension) => extension !== "gif" && extension !== "bmp")
-    .concat(["jpe", "webp", "dng"]);
-
-function mayHold(path) {
-    return HOLDING.indexOf(splitPath(path).extension.toLowerCase()) >= 0 || files.holdsComment(path);
-}
 
 export class MetadataPage {
     /** @param window  the main window's parts: form, pictures, input, pages, note(text) */
@@ -35,8 +28,10 @@ export class MetadataPage {
         this.shown = false;
         // What was read from the picture that is shown, to tell whether the field was changed.
         this.read = "";
+        this.id = 0;
         this.path = "";
         this.holds = false;
+        this.moved = shell.timer(guard("metadata.moved", () => this.goOn()));
         // The edits of the last run, which can be reverted.
         this.edits = [];
         // The field shows the comment of one picture, or what is written into many.
@@ -69,7 +64,8 @@ export class MetadataPage {
         join(this.view.largePreviewRequested, "large", () => this.window.form.control("largeAction").trigger());
         join(control("metaFind").triggered, "find", () => this.find());
         join(control("metaCancel").triggered, "stop", () => this.job.cancel());
-        join(this.list.currentPictureChanged, "current", () => this.showCurrent());
+        join(control("metaApplyNext").triggered, "applyNext", () => this.applyAndStep());
+        join(this.list.currentPictureChanged, "current", () => this.currentMoved());
     }
 
     connectTokens() {
@@ -106,11 +102,29 @@ export class MetadataPage {
             this.window.sayBeside(qsTr("Comments are being written. Cancel it first, or wait."));
         }
         this.keepText();
-        return !this.job.running;
+        return !this.job.running && this.settle();
     }
 
     listChanged() {
-        this.showCurrent();
+        this.currentMoved();
+    }
+
+    // A question cannot stand in the middle of what moved the list: a press of the mouse, for one.
+    currentMoved() {
+        if (this.shown && this.isUnwritten() && this.list.currentId !== this.id) {
+            this.moved.start(0);
+        } else {
+            this.showCurrent();
+        }
+    }
+
+    goOn() {
+        if (this.shown && (this.list.currentId === this.id || this.settle())) {
+            this.showCurrent();
+        } else if (this.shown) {
+            this.list.selectId(this.id);
+            this.form.control("metaComment").setFocus();
+        }
     }
 
     find() {
@@ -134,17 +148,25 @@ export class MetadataPage {
     showPhoto(photo) {
         this.form.control("metaPage").currentIndex = photo === null ? 0 : 1;
         if (photo === null) {
-            this.path = "";
-            this.read = "";
-            this.texts[ONE] = "";
+            this.showNone();
         } else if (photo.path !== this.path) {
             this.showPicture(photo);
         }
         this.useScope(photo === null ? MANY : this.wanted);
     }
 
+    showNone() {
+        this.id = 0;
+        this.path = "";
+        this.read = "";
+        this.texts[ONE] = "";
+    }
+
+    // What is typed for the picture stays when its file is read again.
     showPicture(photo) {
         const control = (name) => this.form.control(name);
+        const typed = photo.id === this.id && this.isUnwritten() ? this.typedText() : null;
+        this.id = photo.id;
         this.path = photo.path;
         const isPicture = this.tree.showFile(photo.path);
         const found = this.comments.read(photo.path);
@@ -153,15 +175,19 @@ export class MetadataPage {
         this.view.showPicture(photo.path);
         this.view.setTitles("", "");
         this.view.setCaptions("", "");
-        this.texts[ONE] = this.read;
-        if (this.scope === ONE) {
-            control("metaComment").plainText = this.read;
-        }
+        this.showText(typed === null ? this.read : typed);
         control("metaName").text = photo.name;
         control("metaName").toolTip = photo.path;
         control("metaProblem").text = isPicture ? found.problem : qsTr("This file is not a picture that can be read.");
         control("metaProblem").visible = !isPicture || found.problem !== "";
         this.showCopyMenu();
+    }
+
+    showText(text) {
+        this.texts[ONE] = text;
+        if (this.scope === ONE && this.text() !== text) {
+            this.form.control("metaComment").plainText = text;
+        }
     }
 
     showCopyMenu() {
@@ -212,6 +238,31 @@ export class MetadataPage {
 
     text() {
         return this.form.control("metaComment").plainText;
+    }
+
+    // What the field says, or would say, of the one picture.
+    typedText() {
+        return this.scope === ONE ? this.text() : this.texts[ONE];
+    }
+
+    isUnwritten() {
+        return this.id > 0 && this.holds && this.typedText() !== this.read;
+    }
+
+    // Asks what becomes of a comment that was typed and is not in its file; false where the picture is to stay.
+    settle() {
+        if (!this.isUnwritten()) {
+            return true;
+        }
+        const canStay = this.list.photo(this.id) !== null;
+        const answer = askAboutTyped(this.path, canStay);
+        if (answer === "write") {
+            return this.applyOne() || !canStay;
+        }
+        if (answer === "discard") {
+            this.showText(this.read);
+        }
+        return answer === "discard";
     }
 
     // What stands under the field while nothing runs.
@@ -280,56 +331,50 @@ export class MetadataPage {
         this.form.control("metaApplyAll").text = qsTr("Write into All %n…", "", pictures);
     }
 
-    pagesText(lost, isOne) {
-        const pages = qsTr("%n further pages", "", lost.pages);
-        if (isOne) {
-            return fill(qsTr("This file has %1, which would be taken out and cannot be brought back: only its first page is kept."), pages);
-        }
-        const words = qsTr("%n files have several pages and are left out; their comments would cost them %1: %2.", "",
-                           lost.files);
-        return fill(words, pages, lost.words);
-    }
-
-    // What whoever writes into pictures must know before.
-    warnings(paths, lost) {
-        const without = paths.filter((path) => !mayHold(path)).length;
-        return [
-            qsTr("The originals themselves are changed: their comment, and nothing else in them."),
-            lost.files === 0 ? "" : this.pagesText(lost, paths.length === 1),
-            without === 0 ? ""
-                : qsTr("%n files are of types that have no place for a comment, and stay as they are.", "", without),
-        ].filter((each) => each !== "");
-    }
-
-    // Whether to write, and whether files with several pages may lose all but their first: only where that was asked for.
-    mayWrite(paths, comment, lost) {
-        const isOne = paths.length === 1 && lost.files === 1;
-        const answer = shell.ask({
-            title: qsTr("Write comment"),
-            text: comment === ""
-                ? qsTr("Empty the comments of %n pictures?", "", paths.length)
-                : qsTr("Write the comment into %n pictures?", "", paths.length),
-            detail: this.warnings(paths, lost).join(" "), initial: 1, escape: 1,
-            buttons: [isOne ? qsTr("Write and Remove Pages") : qsTr("Write"), qsTr("Cancel")],
-            check: lost.files > 0 && !isOne ? qsTr("Write into these too, and keep only their first page") : "",
-        });
-        return { goesOn: answer.button === 0, pagesMayGo: isOne || answer.checked };
-    }
-
-    // One picture that loses nothing is written without a question.
     write(paths, comment, maker) {
-        const lost = pagesAtStake(this.comments, paths);
-        const answer = this.scope === ONE && lost.files === 0
-            ? { goesOn: true, pagesMayGo: false } : this.mayWrite(paths, comment, lost);
+        const answer = mayWrite(paths, comment, pagesAtStake(this.comments, paths));
         if (answer.goesOn) {
             this.run(paths, writing(this.comments, paths, maker, answer.pagesMayGo), qsTr("Write comment"),
                      commentsWritten);
         }
     }
 
+    // One picture that loses nothing is written without a question. False where it was not written.
+    applyOne() {
+        const paths = [this.path];
+        const comment = this.typedText();
+        const lost = pagesAtStake(this.comments, paths);
+        const answer = lost.files === 0 ? { goesOn: true, pagesMayGo: false } : mayWrite(paths, comment, lost);
+        if (!answer.goesOn) {
+            return false;
+        }
+        const work = this.job.carryOut(writing(this.comments, paths, () => comment, answer.pagesMayGo),
+                                       qsTr("Write comment"));
+        this.edits = work.edits;
+        this.read = work.done > 0 ? comment : this.read;
+        this.window.sayBeside(commentSummary(work, commentsWritten(work.done)));
+        return work.done > 0;
+    }
+
     apply() {
-        const comment = this.text();
-        this.write([this.path], comment, () => comment);
+        this.applyOne();
+        this.path = "";
+        this.showCurrent();
+        this.form.control("metaComment").setFocus();
+    }
+
+    // From picture to picture without leaving the field.
+    applyAndStep() {
+        if (this.job.running || this.scope !== ONE || this.id <= 0) {
+            return;
+        }
+        if (this.isUnwritten()) {
+            this.apply();
+        }
+        if (!this.isUnwritten()) {
+            this.list.step(1);
+        }
+        this.form.control("metaComment").setFocus();
     }
 
     writeInto(paths) {
