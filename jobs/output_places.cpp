@@ -70,13 +70,17 @@ OutputPlace OutputPlaces::placeFor(const QString &wanted, const QString &planned
     const Standing standing = m_names.standingAt(planned, input);
     if (standing == Standing::Nothing)
         return {planned, false, false, {}};
+    const bool isCurrent = standing != Standing::OtherResult &&
+                           isCurrentResult(planned, input.path, settingsName(m_reports.recipe, index));
+    // A killed run may have put a result in its place and not have written its line.
+    if (m_reports.resumed && isCurrent && output.ifTaken == image::IfTaken::Number && !isResumed(planned))
+        return {planned, true, false, {}};
     const bool isOnDisk = standing == Standing::OnDisk || standing == Standing::OwnInput;
     if (output.ifTaken == image::IfTaken::Replace && isOnDisk && !isResumed(planned))
         return {planned, true, false, {}};
     if (output.ifTaken == image::IfTaken::Skip && standing != Standing::OtherResult)
         return {planned, false, true, image::sentence("the name is taken")};
-    if (output.ifTaken == image::IfTaken::Current && standing != Standing::OtherResult &&
-        isCurrentResult(planned, input.path, settingsName(m_reports.recipe, index)))
+    if (output.ifTaken == image::IfTaken::Current && isCurrent)
         return {planned, false, true, image::sentence("it is there already")};
     return {m_names.giveNumbered(wanted), false, false, {}};
 }

@@ -2,6 +2,7 @@
 #include "jobs/batch.h"
 #include "jobs/output_places.h"
 #include "jobs/path_hash.h"
+#include "jobs/result_mark.h"
 #include "platform/file/regular_file.h"
 #include "platform/foundation/paths.h"
 #include "tests/support/scratch_folder.h"
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void repeatsItselfWithoutNewNames_data();
     void repeatsItselfWithoutNewNames();
     void keepsNamesOfAPlan();
+    void knowsResultsWhoseLineIsLost();
     void endsALineThatWasCutOff();
     void writesNoReportOverAPicture();
     void tellsThatAReportCannotBeWritten();
@@ -318,6 +320,27 @@ void TestBatchInputs::keepsNamesOfAPlan()
     const auto lines = World::run(json, names, options);
     QCOMPARE(lines[0].output, world.folder.path("out/a (3).png"));
     QCOMPARE(lines[1].output, world.folder.path("out/a (2).png")); // its own, as it was planned
+}
+
+/** A killed run may have put a result in its place and not have written its line. */
+void TestBatchInputs::knowsResultsWhoseLineIsLost()
+{
+    const World world;
+    const QStringList names = {world.picture("a.png"), world.picture("b.png")};
+    const QByteArray json = R"({"quorlin": 1, "outputs": [{"type": "png", "folder": "out"}]})";
+    const auto before = World::run(json, names);
+    QVERIFY(world.folder.write("report", jsonLine(before[0], recipeName(json))));
+    BatchOptions options;
+    options.resumed = EarlierReport::read(world.folder.path("report"));
+    const auto lines = World::run(json, names, options);
+    QCOMPARE(lines.size(), 1);
+    if (!isResultOf(before[1].output, recipeName(json)))
+        QSKIP("this disk has no place for notes on files");
+    QCOMPARE(lines[0].output, before[1].output);
+    QCOMPARE(world.folder.names("out").size(), 2);
+    // Somebody else's file stays.
+    QVERIFY(world.folder.write("out/b.png", "another"));
+    QCOMPARE(World::run(json, names, options)[0].output, world.folder.path("out/b (2).png"));
 }
 
 void TestBatchInputs::endsALineThatWasCutOff()
