@@ -118,14 +118,26 @@ void readIptcBlock(Metadata::Blocks &blocks, const QByteArray &block)
         Exiv2::IptcParser::decode(blocks.iptc, data, uint32_t(block.size()));
 }
 
-/** Runs one reading step; what a broken file throws means that the step found nothing more. */
-template<typename Step> void attempt(Step step)
+/** Runs one reading step; what a broken file throws means that the step found nothing more. True where nothing was thrown. */
+template<typename Step> bool attempt(Step step)
 {
     try {
         step();
+        return true;
     } catch (const std::exception &) {
-        // Honest already: what was read before stays, the rest cannot be understood.
+        return false; // what was read before stays, the rest cannot be understood
     }
+}
+
+/** A JPEG or a PNG without its EXIF; other files as they are. */
+QByteArray withoutExif(const QByteArray &file, const JpegSegments &segments, const PngParts &parts)
+{
+    QByteArray rest = file;
+    if (parts.valid)
+        return rest.remove(parts.exifAt, parts.exifSize);
+    for (auto range = segments.exifRanges.rbegin(); range != segments.exifRanges.rend(); ++range)
+        rest.remove(range->start, range->size);
+    return rest;
 }
 
 /** UTF-8, or else Latin 1: nothing says which. */
@@ -187,18 +199,20 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
     if (const std::optional<ContainerBlocks> found = blocksOf(bytes))
         return fromBlocks(found->exif, found->xmp, found->iptc).withComments(gifCommentsOf(bytes, gifPartsOf(bytes)));
     const JpegSegments segments = findJpegSegments(bytes);
+    const PngParts parts = findPngParts(bytes);
     if (const QByteArray packet = xmpPacketOf(bytes); !isDigestibleXmp(packet) || !holdsDigestibleXmp(bytes)) {
         blocks->xmpPacket = packet.toStdString();
         attempt([&] { readTagsAlone(*blocks, bytes); });
         attempt([&] { readExifBlock(*blocks, segments.exif); });
-    } else {
-        attempt([&] { isBigTiff(bytes) ? readBigTiff(*blocks, bytes) : readImage(*blocks, bytes); });
+    } else if (!attempt([&] { isBigTiff(bytes) ? readBigTiff(*blocks, bytes) : readImage(*blocks, bytes); })) {
+        // At EXIF that it cannot read the library gives up, with all that stands behind it.
+        attempt([&] { readImage(*blocks, withoutExif(bytes, segments, parts)); });
     }
     if (segments.exifSegments > 1) { // exiv2 reads the first part alone
         blocks->exif.clear();
         attempt([&] { readExifBlock(*blocks, segments.exif); });
     }
-    if (const PngParts parts = findPngParts(bytes); parts.valid) {
+    if (parts.valid) {
         blocks->pngChunks = parts.carried;
         blocks->comments = pngComments(parts.carried);
         if (!parts.exif.isEmpty()) { // exiv2 knows only the older way

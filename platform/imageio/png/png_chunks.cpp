@@ -64,8 +64,11 @@ PngParts findPngParts(const QByteArray &bytes)
         const QByteArray data = QByteArray::fromRawData(bytes.constData() + at + headSize, size);
         if (name == "IDAT" && parts.pixelsAt == 0)
             parts.pixelsAt = at;
-        if (name == "eXIf" && parts.exif.isEmpty())
+        if (name == "eXIf" && parts.exif.isEmpty()) {
             parts.exif = data.startsWith(QByteArrayView("Exif\0\0", 6)) ? data.mid(6) : bytes.mid(at + headSize, size);
+            parts.exifAt = at;
+            parts.exifSize = next - at;
+        }
         if (isCarried(name, data) && parts.carried.size() + size < mostCarried)
             parts.carried += bytes.mid(at, next - at);
         at = next;

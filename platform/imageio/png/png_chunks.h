@@ -17,6 +17,8 @@ struct PngParts
     bool valid = false; ///< a PNG file with pixels
     QSize pixels;
     QByteArray exif;        ///< the block of its EXIF chunk, TIFF header first
+    qsizetype exifAt = 0;   ///< where that chunk begins; 0 without one
+    qsizetype exifSize = 0; ///< all of the chunk
     QByteArray carried;     ///< whole chunks that another file with these pixels can have too: texts, gamma, primaries
     qsizetype pixelsAt = 0; ///< where the first chunk of pixels begins
 };

@@ -172,6 +172,8 @@ private Q_SLOTS:
     void carriesWhatASegmentCannotHoldInPart();
     void survivesBrokenFiles_data();
     void survivesBrokenFiles();
+    void keepsTheOthersWhereOneBlockIsBroken_data();
+    void keepsTheOthersWhereOneBlockIsBroken();
 
 private:
     QStringList soundPictures() const;
@@ -500,6 +502,38 @@ void TheMetadata::survivesBrokenFiles()
                 QCOMPARE(storedPixels(*written), storedPixels(plain));
             }
     }
+}
+
+void TheMetadata::keepsTheOthersWhereOneBlockIsBroken_data()
+{
+    QTest::addColumn<QString>("extension");
+    QTest::addColumn<bool>("hasIptc");
+    for (const char *extension : {"jpg", "png", "webp", "jp2", "heic", "avif"})
+        QTest::newRow(extension) << QString::fromLatin1(extension) << (QByteArray(extension) == "jpg");
+}
+
+/** Of a file whose EXIF block no longer begins as one, its XMP and IPTC are read and carried on. */
+void TheMetadata::keepsTheOthersWhereOneBlockIsBroken()
+{
+    QFETCH(QString, extension);
+    QFETCH(bool, hasIptc);
+    QByteArray file = contentOf(pictureNamed(QStringLiteral("own/metadata/every-group.") + extension));
+    const qsizetype header = std::max(file.indexOf(QByteArray("MM\0*", 4)), file.indexOf(QByteArray("II*\0", 4)));
+    QVERIFY(header > 0);
+    file.replace(header, 4, QByteArray(4, '\xff'));
+    const auto source = platform::ImageSource::fromData(file);
+    QVERIFY(source);
+    const auto metadata = source->metadata();
+    QVERIFY(metadata);
+    const QVariantMap read = metadata->toProperties();
+    QVERIFY(read.contains(QStringLiteral("{XMP}")));
+    QVERIFY(!read.contains(QStringLiteral("{GPS}")));
+    QCOMPARE(read.contains(QStringLiteral("{IPTC}")), hasIptc);
+    const auto written = metadata->writtenInto(smallFile(platform::FileFormat::Tiff), platform::Carried::Everything);
+    QVERIFY(written);
+    const QVariantMap carried = Metadata::fromFileBytes(*written).toProperties();
+    QVERIFY(carried.contains(QStringLiteral("{XMP}")));
+    QCOMPARE(carried.contains(QStringLiteral("{IPTC}")), hasIptc);
 }
 
 QUORLIN_TEST(TheMetadata)
