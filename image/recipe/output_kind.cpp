@@ -96,6 +96,7 @@ QStringList lossesOfParts(const platform::ImageSource &source)
     add(PartBeside::GainMap, "The gain map is left out");
     add(PartBeside::Motion, "The motion picture is left out");
     add(PartBeside::Credentials, "Signed content credentials are left out, since no changed file agrees with them");
+    add(PartBeside::OfMakers, "Data that the maker of the camera or a program keeps beside EXIF is left out");
     if (losses.isEmpty())
         add(PartBeside::BehindTheEnd, "Data behind the end of the picture is left out");
     return losses;

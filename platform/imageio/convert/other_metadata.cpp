@@ -175,6 +175,21 @@ Metadata withKnownResolution(const ImageSource &source, const Metadata &metadata
     return isLost ? metadata.withResolution(stated.width(), stated.height()) : metadata;
 }
 
+/** Whether a segment is one that nobody but its maker understands. */
+bool isOfMaker(uchar marker, const QByteArray &payload)
+{
+    constexpr uchar firstOfMakers = 0xe1;
+    constexpr uchar lastOfMakers = 0xef;
+    // EXIF and XMP, profile and index of pictures, signed statements, IPTC, kind of colours, quality
+    static const QList<std::pair<uchar, QByteArray>> known = {
+        {0xe1, "Exif"}, {0xe1, "http://ns.adobe.com/"}, {0xe2, "ICC_PROFILE"}, {0xe2, "MPF"},  {0xe2, "urn:iso:"},
+        {0xeb, "JP"},   {0xed, "Photoshop 3.0"},        {0xee, "Adobe"},       {0xec, "Ducky"}};
+    return marker >= firstOfMakers && marker <= lastOfMakers &&
+           std::none_of(known.begin(), known.end(), [&](const std::pair<uchar, QByteArray> &each) {
+               return each.first == marker && payload.startsWith(each.second);
+           });
+}
+
 PartsBeside partsOfJpeg(const QByteArray &jpeg)
 {
     PartsBeside parts;
@@ -183,8 +198,13 @@ PartsBeside partsOfJpeg(const QByteArray &jpeg)
         if (jpeg.mid(range.start + 4, 3) == "MPF")
             parts |= PartBeside::FurtherPictures;
     for (qsizetype at = 2; at + 4 <= jpeg.size() && uchar(jpeg.at(at)) == 0xff && uchar(jpeg.at(at + 1)) != 0xda;) {
-        if (uchar(jpeg.at(at + 1)) == 0xeb && jpeg.mid(at + 4, 2) == "JP")
+        constexpr qsizetype longestName = 32;
+        const auto marker = uchar(jpeg.at(at + 1));
+        const QByteArray payload = jpeg.mid(at + 4, longestName);
+        if (marker == 0xeb && payload.startsWith("JP"))
             parts |= PartBeside::Credentials;
+        if (isOfMaker(marker, payload))
+            parts |= PartBeside::OfMakers;
         at += 2 + qFromBigEndian<quint16>(jpeg.constData() + at + 2);
     }
     if (const qsizetype end = endOfJpeg(jpeg); end > 0 && end < jpeg.size())

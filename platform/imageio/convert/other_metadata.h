@@ -16,6 +16,7 @@ enum class PartBeside {
     Motion = 4,
     Credentials = 8,   ///< signed statements about the file (C2PA), which no changed file agrees with
     BehindTheEnd = 16, ///< bytes behind the end of the picture, whatever they are
+    OfMakers = 32,     ///< what makers of cameras and programs put into segments of their own: thermal pictures, sound
 };
 Q_DECLARE_FLAGS(PartsBeside, PartBeside)
 Q_DECLARE_OPERATORS_FOR_FLAGS(PartsBeside)

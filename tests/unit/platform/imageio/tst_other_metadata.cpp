@@ -153,6 +153,8 @@ private Q_SLOTS:
                  PartBeside::FurtherPictures | PartBeside::BehindTheEnd);
         QCOMPARE(partsOf(behindTheStart(jpeg, 0xeb, QByteArray("JP\0\1\0\0\0\1", 8))),
                  PartsBeside(PartBeside::Credentials));
+        QCOMPARE(partsOf(behindTheStart(jpeg, 0xe1, "FLIR\0\1\0\0")), PartsBeside(PartBeside::OfMakers));
+        QCOMPARE(partsOf(behindTheStart(jpeg, 0xec, "Ducky\0\1\0\4")), PartsBeside());
         const auto announcing = [](const QByteArray &property) {
             return fileOf(FileFormat::Png, Metadata()).insert(33, [&] {
                 QByteArray chunk;
