@@ -29,11 +29,7 @@ QByteArray suppliedProfile(const char *name)
     VipsBlob *blob = nullptr;
     if (vips_profile_load(name, &blob, nullptr) != 0 || !blob)
         return {};
-    size_t length = 0;
-    const void *bytes = vips_blob_get(blob, &length);
-    QByteArray profile(static_cast<const char *>(bytes), qsizetype(length));
-    vips_area_unref(VIPS_AREA(blob));
-    return profile;
+    return takenFrom(blob);
 }
 
 QByteArray bytesOf(const Profile &profile)

@@ -366,4 +366,13 @@ QImage qImageFrom(const VImage &image)
     return result;
 }
 
+QByteArray takenFrom(VipsBlob *blob)
+{
+    size_t length = 0;
+    const void *data = vips_blob_get(blob, &length);
+    QByteArray bytes(static_cast<const char *>(data), qsizetype(length));
+    vips_area_unref(VIPS_AREA(blob));
+    return bytes;
+}
+
 } // namespace platform

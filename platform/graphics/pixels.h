@@ -78,4 +78,7 @@ vips::VImage imageFromQImage(const QImage &image);
 /** A Qt image with 8 or 16 bits from an image of grey or RGB in a plain form; null if memory fails. */
 QImage qImageFrom(const vips::VImage &image);
 
+/** A copy of the bytes of a blob, which is given back to the library. */
+QByteArray takenFrom(VipsBlob *blob);
+
 } // namespace platform

@@ -3,21 +3,9 @@
 #include "platform/imageio/parts/webp_chunks.h"
 
 namespace platform {
-namespace {
 
 using vips::VImage;
 using vips::VOption;
-
-QByteArray bytesOf(VipsBlob *blob)
-{
-    size_t length = 0;
-    const void *data = vips_blob_get(blob, &length);
-    QByteArray bytes(static_cast<const char *>(data), qsizetype(length));
-    vips_area_unref(VIPS_AREA(blob));
-    return bytes;
-}
-
-} // namespace
 
 VImage withThreeColours(const VImage &image)
 {
@@ -39,7 +27,7 @@ QByteArray encodeWebp(const VImage &image, const Compression &compression)
     constexpr int effort = 4;
     // Of lossless files the next one takes three times as long for a seventh less.
     constexpr int effortWithoutLoss = 1;
-    const QByteArray file = bytesOf(withThreeColours(image).webpsave_buffer(
+    const QByteArray file = takenFrom(withThreeColours(image).webpsave_buffer(
         VImage::option()
             ->set("Q", compression.quality)
             ->set("lossless", compression.isLossless)
@@ -59,7 +47,7 @@ QByteArray encodeJpegXl(const VImage &image, const Compression &compression)
         options->set("lossless", true);
     else
         options->set("distance", jpegXlDistance(compression.quality));
-    return bytesOf(image.jxlsave_buffer(options));
+    return takenFrom(image.jxlsave_buffer(options));
 }
 
 } // namespace platform

@@ -11,15 +11,6 @@ namespace {
 
 using vips::VImage;
 
-QByteArray bytesOf(VipsBlob *blob)
-{
-    size_t length = 0;
-    const void *data = vips_blob_get(blob, &length);
-    QByteArray bytes(static_cast<const char *>(data), qsizetype(length));
-    vips_area_unref(VIPS_AREA(blob));
-    return bytes;
-}
-
 constexpr double millimetresPerInch = 25.4;
 constexpr double defaultDpi = 72;
 
@@ -65,18 +56,18 @@ QByteArray encodeTiff(const VImage &image, Resolution resolution)
     if (const QByteArray plain = encodePlainTiff(image, resolution); !plain.isEmpty())
         return plain;
     const VImage kept = image.interpretation() == VIPS_INTERPRETATION_LAB ? inForm(image) : image;
-    return bytesOf(withResolution(kept, resolution)
-                       .tiffsave_buffer(VImage::option()
-                                            ->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_NONE)
-                                            ->set("bigtiff", true)
-                                            ->set("resunit", VIPS_FOREIGN_TIFF_RESUNIT_INCH)));
+    return takenFrom(withResolution(kept, resolution)
+                         .tiffsave_buffer(VImage::option()
+                                              ->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_NONE)
+                                              ->set("bigtiff", true)
+                                              ->set("resunit", VIPS_FOREIGN_TIFF_RESUNIT_INCH)));
 }
 
 QByteArray encodeGif(const VImage &image)
 {
     // The default of 7 takes half as long again; its palette is nearer to single dots, but not to what is seen of them.
     constexpr int effort = 3;
-    return bytesOf(image.gifsave_buffer(VImage::option()->set("effort", effort)));
+    return takenFrom(image.gifsave_buffer(VImage::option()->set("effort", effort)));
 }
 
 QByteArray encodeJpeg2000(const VImage &image, const std::optional<Compression> &compression)
@@ -90,12 +81,12 @@ QByteArray encodeJpeg2000(const VImage &image, const std::optional<Compression> 
     const bool isSmall =
         std::min(image.width(), image.height()) < leastSide || image.width() <= leastArea / image.height();
     const bool isLossless = isSmall || (compression && compression->isLossless);
-    return bytesOf(image.jp2ksave_buffer(VImage::option()
-                                             ->set("Q", decibels)
-                                             ->set("lossless", isLossless)
-                                             ->set("tile_width", jpeg2000TileSide(image.width()))
-                                             ->set("tile_height", jpeg2000TileSide(image.height()))
-                                             ->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));
+    return takenFrom(image.jp2ksave_buffer(VImage::option()
+                                               ->set("Q", decibels)
+                                               ->set("lossless", isLossless)
+                                               ->set("tile_width", jpeg2000TileSide(image.width()))
+                                               ->set("tile_height", jpeg2000TileSide(image.height()))
+                                               ->set("subsample_mode", VIPS_FOREIGN_SUBSAMPLE_OFF)));
 }
 
 } // namespace platform
