@@ -107,8 +107,10 @@ void Inputs::addNamed(const QString &name)
         return;
     }
     static const files::CollectRule rule = {pictureExtensions(), {}, {}, files::OddNames::AsPaths};
+    const platform::DiskFileSystem disk;
     for (const QString &found : files::collectFiles({path}, rule).paths)
-        add({found, path, {}, false});
+        if (const auto item = disk.look(found); !item || item->kind != platform::ItemKind::Link)
+            add({found, path, {}, false});
 }
 
 void Inputs::add(const Input &input)

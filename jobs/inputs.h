@@ -27,8 +27,8 @@ QString placeBelowRoot(const Input &input);
 
 /**
  * The pictures of a batch, one after the other: of files and folders in the order in which they are named, then of names that are
- * still to come. A folder gives all below it, as files::collectFiles() has it, when its turn comes; those that are named from the
- * start are walked before anything is written. A picture that is named twice, under whatever path, counts where it comes first.
+ * still to come. A folder gives all below it but links, as files::collectFiles() has it, when its turn comes; those that are named
+ * from the start are walked before anything is written. A picture that is named twice, under whatever path, counts where it comes first.
  *
  * What was taken is not kept: a million pictures cost some 50 bytes each.
  */

@@ -4,6 +4,7 @@
 #include "image/recipe/sentence.h"
 #include "jobs/inputs.h"
 #include "jobs/result_mark.h"
+#include "platform/disk/disk_file_system.h"
 #include "platform/foundation/paths.h"
 
 #include <algorithm>
@@ -139,7 +140,8 @@ void PictureWatch::wait(const QString &path, bool isLive)
     const QString name = platform::lastPathComponent(path);
     const bool isPicture = !name.startsWith(u'.') && m_extensions.contains(platform::pathExtension(name).toLower());
     const auto facts = platform::targetFacts(path);
-    if (!isPicture || !facts || !facts->isFile)
+    const auto item = platform::DiskFileSystem().look(path);
+    if (!isPicture || !facts || !item || item->kind != platform::ItemKind::File)
         return;
     const qint64 due = m_clock.elapsed() + m_options.stillMs;
     m_due.insert(path, due);

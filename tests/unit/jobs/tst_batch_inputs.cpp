@@ -170,6 +170,7 @@ void TestBatchInputs::countsSecondNamesForThemselves()
     const QString a = world.picture("in/a.png");
     QVERIFY(::link(qPrintable(a), qPrintable(world.folder.path("in/b.png"))) == 0);
     QVERIFY(world.folder.link("in", "same"));
+    QVERIFY(world.folder.link(world.picture("elsewhere.png").toUtf8(), "in/link.png")); // not followed
     const auto inputs = inputsFrom({world.folder.path("in"), world.folder.path("same/b.png"), a});
     QCOMPARE(inputs.size(), 2);
     QCOMPARE(inputs[1].path, world.folder.path("in/b.png"));
