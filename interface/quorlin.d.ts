@@ -1091,6 +1091,8 @@ declare module "quorlin/recipes" {
     }
 
     export const recipes: {
+        /** The recipe of the settings that a preset of that action would keep; without any keys where there is none. */
+        recipeFor(action: text, settings: dictionary): { [key: string]: any };
         /** What the recipe makes of a picture, from its header. */
         planOutput(path: text, recipe: dictionary): OutputPlan;
         /** Makes it as the file `target`, whole or not at all; what stands there is replaced. */

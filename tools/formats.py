@@ -125,14 +125,21 @@ def manual_table():
 
 
 # The rows of the manual's other table: the names of actions, and the step that says for all of them what metadata goes along.
-ACTION_ROWS = {"Resize, Crop": ("resize", "crop"), "Rotate & Flip": ("turn",), "Round Corners": ("round",),
-               "Background & Border": ("background",), "Watermark": ("watermark",), "Convert": ("convert",)}
+ACTION_ROWS = {"Resize, Watermark": ("resize", "watermark"), "Crop": ("crop",), "Rotate & Flip": ("turn",), "Round Corners": ("round",),
+               "Background & Border": ("background",), "Convert": ("convert",)}
+
+
+# A recipe puts all metadata into these; into a GIF what XMP has words for, into a BMP none.
+RECIPES_CARRY_INTO = ("jpeg", "png", "tiff", "jp2")
 
 
 def metadata_of(action):
     """The types that an action hands metadata on into, as its step says."""
     step = (ACTIONS / action / f"{action}-step.js").read_text(encoding="utf-8")
-    return re.findall(r'"([^"]+)"', re.search(r"^export const offer = .*?metadata: \[(.*?)\]", step, re.M | re.S).group(1))
+    offer = re.search(r"^export const offer = (.*?);$", step, re.M | re.S).group(1)
+    if "byRecipe: true" in offer:
+        return [_OUTPUTS[keyword][0] for keyword in RECIPES_CARRY_INTO]
+    return re.findall(r'"([^"]+)"', re.search(r"metadata: \[(.*?)\]", offer, re.S).group(1))
 
 
 def kept_in_words(target, metadata):

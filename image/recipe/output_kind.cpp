@@ -29,13 +29,16 @@ QStringList lossesOfPixels(const OutputPlan &plan, const RecipeOutput &output, c
     QStringList losses;
     if (end.hasAlpha && !holdsAlpha(plan.type))
         losses.append(
-            sentence("%1 has no transparency: transparent parts get the colour %2").arg(name, output.matte.name()));
+            sentence(QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts get the colour %2"))
+                .arg(name, output.matte.name()));
     if (facts.bits > 8 && !holdsDepth16(plan.type))
-        losses.append(sentence("%1 has 8 bits for each channel, the picture more").arg(name));
+        losses.append(
+            sentence(QT_TRANSLATE_NOOP("recipe", "%1 has 8 bits for each channel, the picture more")).arg(name));
     if (!end.profile.isEmpty() && !holdsProfileOf(plan.type, end.profile))
-        losses.append(sentence("%1 cannot hold the colour profile: colours become sRGB").arg(name));
+        losses.append(
+            sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot hold the colour profile: colours become sRGB")).arg(name));
     if (plan.type == OutputType::Gif)
-        losses.append(sentence("%1 has at most 256 colours").arg(name));
+        losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "%1 has at most 256 colours")).arg(name));
     return losses;
 }
 
@@ -92,13 +95,15 @@ QStringList lossesOfParts(const platform::ImageSource &source)
         if (parts.testFlag(part))
             losses.append(sentence(english));
     };
-    add(PartBeside::FurtherPictures, "Further pictures behind the first one are left out");
-    add(PartBeside::GainMap, "The gain map is left out");
-    add(PartBeside::Motion, "The motion picture is left out");
-    add(PartBeside::Credentials, "Signed content credentials are left out, since no changed file agrees with them");
-    add(PartBeside::OfMakers, "Data that the maker of the camera or a program keeps beside EXIF is left out");
+    add(PartBeside::FurtherPictures, QT_TRANSLATE_NOOP("recipe", "Further pictures behind the first one are left out"));
+    add(PartBeside::GainMap, QT_TRANSLATE_NOOP("recipe", "The gain map is left out"));
+    add(PartBeside::Motion, QT_TRANSLATE_NOOP("recipe", "The motion picture is left out"));
+    add(PartBeside::Credentials,
+        QT_TRANSLATE_NOOP("recipe", "Signed content credentials are left out, since no changed file agrees with them"));
+    add(PartBeside::OfMakers,
+        QT_TRANSLATE_NOOP("recipe", "Data that the maker of the camera or a program keeps beside EXIF is left out"));
     if (losses.isEmpty())
-        add(PartBeside::BehindTheEnd, "Data behind the end of the picture is left out");
+        add(PartBeside::BehindTheEnd, QT_TRANSLATE_NOOP("recipe", "Data behind the end of the picture is left out"));
     return losses;
 }
 
@@ -113,8 +118,9 @@ QStringList lossesOfMetadata(const OutputPlan &plan, const RecipeOutput &output,
     if (!metadata || metadata->isEmpty())
         return {};
     const QString name = writtenType(plan.type).word;
-    return {isHeldInPart ? sentence("%1 holds metadata as XMP alone, without maker notes").arg(name)
-                         : sentence("%1 holds no metadata").arg(name)};
+    return {isHeldInPart
+                ? sentence(QT_TRANSLATE_NOOP("recipe", "%1 holds metadata as XMP alone, without maker notes")).arg(name)
+                : sentence(QT_TRANSLATE_NOOP("recipe", "%1 holds no metadata")).arg(name)};
 }
 
 QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,
@@ -126,7 +132,8 @@ QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const S
     if (!plan.isLossless) {
         losses += lossesOfPixels(plan, output, end, source.pixelFacts().value_or(platform::PixelFacts()));
         if (source.imageCount() > 1)
-            losses.append(sentence("%1 further pictures of the file are left out").arg(source.imageCount() - 1));
+            losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "%1 further pictures of the file are left out"))
+                              .arg(source.imageCount() - 1));
     }
     return losses;
 }

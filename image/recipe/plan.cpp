@@ -76,7 +76,8 @@ OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const Image
     OutputPlan plan;
     const std::optional<OutputType> own = ownTypeOf(source);
     if (output.type == OutputType::Original && !own) {
-        plan.problem = sentence("Pictures of this type are read and not written; choose another type");
+        plan.problem = sentence(
+            QT_TRANSLATE_NOOP("recipe", "Pictures of this type are read and not written; choose another type"));
         plan.isNotSupported = true;
         return plan;
     }

@@ -1,13 +1,17 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace image {
 
-/** What is said about recipes: to people at a command line and in reports, so in English wherever the program runs. */
+/**
+ * What is said about recipes: in English at a command line and in reports, which know no other language, and in that of the window
+ * there, if the text is marked by QT_TRANSLATE_NOOP("recipe", ...).
+ */
 inline QString sentence(const char *english)
 {
-    return QString::fromUtf8(english);
+    return QCoreApplication::translate("recipe", english);
 }
 
 } // namespace image

@@ -150,9 +150,10 @@ Result<Change> made(Effect effect, const Stage &after)
 {
     constexpr int rgba = 4;
     if (!platform::fitsMemoryBudget(after.size.width(), after.size.height(), rgba, 1))
-        return platform::failure(
-            platform::ErrorCode::TooLarge,
-            sentence("No picture of %1 x %2 pixels can be made").arg(after.size.width()).arg(after.size.height()));
+        return platform::failure(platform::ErrorCode::TooLarge,
+                                 sentence(QT_TRANSLATE_NOOP("recipe", "No picture of %1 x %2 pixels can be made"))
+                                     .arg(after.size.width())
+                                     .arg(after.size.height()));
     return Change{effect, {}, after};
 }
 
@@ -180,7 +181,8 @@ public:
         Stage after = withDpiOf(crop.scale, m_stage);
         const QRect part = cropPartOf(crop, m_stage);
         if (part.isEmpty())
-            return refused(platform::ErrorCode::InvalidValue, "Nothing of the picture is left");
+            return refused(platform::ErrorCode::InvalidValue,
+                           QT_TRANSLATE_NOOP("recipe", "Nothing of the picture is left"));
         after.size = part.size();
         const bool isSame = after.size == m_stage.size && hasSameDpi(after, m_stage);
         return made(isSame ? Effect::None : Effect::Pixels, after);

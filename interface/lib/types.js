@@ -28,6 +28,9 @@ export const CONVERSION_QUALITIES = QUALITIES.slice(0, -1);
 /** What else a picture may be, in spite of the extension of its name; such a type is kept and cannot be chosen. */
 const MADE = pictures.outputTypes().map(writtenAs);
 
+/** What results keep of what a picture says about itself; the words of recipes. */
+export const METADATA = ["keep", "copyright", "none"];
+
 /** The raw files of cameras, by extension: those that have a preview which can be converted, and the others. */
 export const RAW_WITH_PREVIEW = pictures.rawTypes().filter((type) => type.hasPreview).map((type) => type.extension);
 const RAW = pictures.rawTypes().map((type) => type.extension);

@@ -1,10 +1,10 @@
 // How an action says which column of a preset holds which of its settings; docs/presets.md says why they lie where they do. Pure data.
 //
-// Kinds: "text" any text; "number" any finite number, as text, so that it keeps its form; "whole" a whole number and "flag" true
-// or false, both in the columns that the database keeps as numbers; "color" is "#rrggbb". A setting is named by its path,
-// "output.quality"; where it can only have certain values they stand behind its kind.
+// Kinds: "text" any text; "word" one that is never empty; "number" any finite number, as text, so that it keeps its form; "whole" a
+// whole number and "flag" true or false, both in the columns that the database keeps as numbers; "color" is "#rrggbb". A setting is named
+// by its path, "output.quality"; where it can only have certain values they stand behind its kind.
 
-import { ORIGINAL, QUALITIES, WRITTEN } from "../lib/types.js";
+import { METADATA, ORIGINAL, QUALITIES, WRITTEN } from "../lib/types.js";
 
 /** The newest version of the forms. A form whose columns change their meaning gets a higher version. */
 export const VERSION = 1;
@@ -16,7 +16,8 @@ const OUTPUT = {
     StrField6: ["output.destination.kind", "text", ["beside", "source", "folder"]],
     StrField7: ["output.destination.name", "text"], StrField8: ["output.destination.path", "text"],
     StrField9: ["output.ifTaken", "text", ["number", "replace", "skip", "ask"]],
-    StrField21: ["output.simulation", "flag"],
+    StrField10: ["output.metadata", "word", METADATA], StrField21: ["output.simulation", "flag"],
+    StrField41: ["output.removeLocation", "flag"],
 };
 
 function numbers(from, to) {

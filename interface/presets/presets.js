@@ -63,6 +63,7 @@ export function decoded(text) {
 
 const WRITERS = {
     text: (value) => (typeof value === "string" ? encoded(value) : null),
+    word: (value) => (typeof value === "string" && value !== "" ? encoded(value) : null),
     color: (value) => (typeof value === "string" ? encoded(value) : null),
     number: (value) => (typeof value === "number" && isFinite(value) ? String(value) : null),
     whole: (value) => (Number.isSafeInteger(value) ? String(value) : null),
@@ -71,6 +72,7 @@ const WRITERS = {
 
 const READERS = {
     text: decoded,
+    word: decoded,
     color: (text) => (/^#[0-9a-f]{6}$/i.test(text) ? text : null),
     number: (text) => (/^-?\d+(\.\d+)?(e[-+]?\d+)?$/.test(text) && isFinite(Number(text)) ? Number(text) : null),
     whole: (text) => (/^-?\d+$/.test(text) && Number.isSafeInteger(Number(text)) ? Number(text) : null),
@@ -185,7 +187,7 @@ function readColumns(row, form, settings) {
     for (const column of Object.keys(form.columns)) {
         const [path, kind, values] = form.columns[column];
         const text = row[placeOf(column)];
-        // A setting that came later than the preset has an empty column; no number and no flag is written like that.
+        // A setting that came later than the preset has an empty column; no word, number or flag is written like that.
         const value = text === "" && kind !== "text" ? valueAt(settings, path) : READERS[kind](text);
         if (value === null || (values !== undefined && values.indexOf(value) < 0)) {
             return false;

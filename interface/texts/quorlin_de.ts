@@ -1019,6 +1019,22 @@
         <source>What simulation means</source>
         <translation>Was Simulation bedeutet</translation>
     </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message>
+        <source>What results keep of the metadata</source>
+        <translation>Was die Ergebnisse von den Metadaten behalten</translation>
+    </message>
+    <message>
+        <source>Remove location</source>
+        <translation>Ort entfernen</translation>
+    </message>
+    <message>
+        <source>Leaves out where the picture was taken: coordinates and names of places</source>
+        <translation>Lässt weg, wo das Bild aufgenommen wurde: Koordinaten und Ortsnamen</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -1942,6 +1958,13 @@
     <message>
         <source>A %1 picture has no transparent parts: it stays as it looks.</source>
         <translation>Ein %1-Bild hat keine transparenten Bereiche: Es bleibt, wie es aussieht.</translation>
+    </message>
+</context>
+<context>
+    <name>by-recipe</name>
+    <message>
+        <source>this type cannot be written, choose another file type</source>
+        <translation>dieser Typ kann nicht geschrieben werden, wählen Sie einen anderen Dateityp</translation>
     </message>
 </context>
 <context>
@@ -3700,8 +3723,16 @@
         <translation>Ergebnisse speichern in</translation>
     </message>
     <message>
-        <source>Transparent parts become white.</source>
-        <translation>Transparente Bereiche werden weiß.</translation>
+        <source>Keep all</source>
+        <translation>Alle behalten</translation>
+    </message>
+    <message>
+        <source>Keep copyright only</source>
+        <translation>Nur Copyright behalten</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Alle entfernen</translation>
     </message>
 </context>
 <context>
@@ -5499,6 +5530,73 @@
     </message>
 </context>
 <context>
+    <name>recipe</name>
+    <message>
+        <source>%1 has no transparency: transparent parts get the colour %2</source>
+        <translation>%1 kennt keine Transparenz: Transparente Bereiche bekommen die Farbe %2</translation>
+    </message>
+    <message>
+        <source>%1 has 8 bits for each channel, the picture more</source>
+        <translation>%1 hat 8 Bit pro Kanal, das Bild mehr</translation>
+    </message>
+    <message>
+        <source>%1 cannot hold the colour profile: colours become sRGB</source>
+        <translation>%1 kann das Farbprofil nicht aufnehmen: Farben werden sRGB</translation>
+    </message>
+    <message>
+        <source>%1 has at most 256 colours</source>
+        <translation>%1 hat höchstens 256 Farben</translation>
+    </message>
+    <message>
+        <source>Further pictures behind the first one are left out</source>
+        <translation>Weitere Bilder hinter dem ersten fallen weg</translation>
+    </message>
+    <message>
+        <source>The gain map is left out</source>
+        <translation>Die Gain Map fällt weg</translation>
+    </message>
+    <message>
+        <source>The motion picture is left out</source>
+        <translation>Der Bewegtbildteil fällt weg</translation>
+    </message>
+    <message>
+        <source>Signed content credentials are left out, since no changed file agrees with them</source>
+        <translation>Signierte Herkunftsnachweise fallen weg, denn zu keiner geänderten Datei passen sie noch</translation>
+    </message>
+    <message>
+        <source>Data behind the end of the picture is left out</source>
+        <translation>Daten hinter dem Ende des Bildes fallen weg</translation>
+    </message>
+    <message>
+        <source>%1 holds metadata as XMP alone, without maker notes</source>
+        <translation>%1 nimmt Metadaten nur als XMP auf, ohne Herstellernotizen</translation>
+    </message>
+    <message>
+        <source>%1 holds no metadata</source>
+        <translation>%1 nimmt keine Metadaten auf</translation>
+    </message>
+    <message>
+        <source>%1 further pictures of the file are left out</source>
+        <translation>Weitere Bilder der Datei fallen weg: %1</translation>
+    </message>
+    <message>
+        <source>Pictures of this type are read and not written; choose another type</source>
+        <translation>Bilder dieses Typs werden gelesen, aber nicht geschrieben; wählen Sie einen anderen Typ</translation>
+    </message>
+    <message>
+        <source>No picture of %1 x %2 pixels can be made</source>
+        <translation>Ein Bild von %1 x %2 Pixeln ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>Nothing of the picture is left</source>
+        <translation>Vom Bild bleibt nichts übrig</translation>
+    </message>
+    <message>
+        <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
+        <translation>Daten, die der Kamerahersteller oder ein Programm neben EXIF ablegt, fallen weg</translation>
+    </message>
+</context>
+<context>
     <name>recover-runs</name>
     <message>
         <source>A run was interrupted</source>
@@ -6002,17 +6100,6 @@
     <message>
         <source>Enter a number above 0, up to %1.</source>
         <translation>Geben Sie eine Zahl über 0 bis %1 ein.</translation>
-    </message>
-    <message numerus="yes">
-        <source>it would be larger than %n pixels</source>
-        <translation>
-            <numerusform>es würde größer als %n Pixel</numerusform>
-            <numerusform>es würde größer als %n Pixel</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it would be less than one pixel in size</source>
-        <translation>es würde kleiner als ein Pixel</translation>
     </message>
 </context>
 <context>
@@ -7508,10 +7595,6 @@
         <source>Enter an angle from -180 to 180 degrees.</source>
         <translation>Geben Sie einen Winkel von -180 bis 180 Grad ein.</translation>
     </message>
-    <message>
-        <source>this type cannot be written, choose another file type</source>
-        <translation>dieser Typ kann nicht geschrieben werden, wählen Sie einen anderen Dateityp</translation>
-    </message>
 </context>
 <context>
     <name>window</name>
@@ -7956,10 +8039,6 @@
     <message>
         <source>transparent parts become black</source>
         <translation>transparente Bereiche werden schwarz</translation>
-    </message>
-    <message>
-        <source>transparent parts become white</source>
-        <translation>transparente Bereiche werden weiß</translation>
     </message>
 </context>
 </TS>

@@ -533,16 +533,6 @@
     </message>
 </context>
 <context>
-    <name>resize-step</name>
-    <message numerus="yes">
-        <source>it would be larger than %n pixels</source>
-        <translation>
-            <numerusform>it would be larger than %n pixel</numerusform>
-            <numerusform>it would be larger than %n pixels</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>round-action</name>
     <message numerus="yes">
         <source>Round %n Pictures</source>

@@ -1019,6 +1019,22 @@
         <source>What simulation means</source>
         <translation>À quoi sert la simulation</translation>
     </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Métadonnées</translation>
+    </message>
+    <message>
+        <source>What results keep of the metadata</source>
+        <translation>Ce que les résultats gardent des métadonnées</translation>
+    </message>
+    <message>
+        <source>Remove location</source>
+        <translation>Retirer le lieu</translation>
+    </message>
+    <message>
+        <source>Leaves out where the picture was taken: coordinates and names of places</source>
+        <translation>Laisse de côté le lieu de prise de vue&#x202f;: coordonnées et noms de lieux</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -1942,6 +1958,13 @@
     <message>
         <source>A %1 picture has no transparent parts: it stays as it looks.</source>
         <translation>Une image %1 n’a pas de parties transparentes&#x202f;: elle garde son aspect.</translation>
+    </message>
+</context>
+<context>
+    <name>by-recipe</name>
+    <message>
+        <source>this type cannot be written, choose another file type</source>
+        <translation>ce type ne peut pas être écrit, choisissez un autre type de fichier</translation>
     </message>
 </context>
 <context>
@@ -3700,8 +3723,16 @@
         <translation>Enregistrer les résultats dans</translation>
     </message>
     <message>
-        <source>Transparent parts become white.</source>
-        <translation>Les parties transparentes deviennent blanches.</translation>
+        <source>Keep all</source>
+        <translation>Tout garder</translation>
+    </message>
+    <message>
+        <source>Keep copyright only</source>
+        <translation>Garder le copyright seul</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Tout retirer</translation>
     </message>
 </context>
 <context>
@@ -5499,6 +5530,73 @@
     </message>
 </context>
 <context>
+    <name>recipe</name>
+    <message>
+        <source>%1 has no transparency: transparent parts get the colour %2</source>
+        <translation>%1 n’a pas de transparence&#x202f;: les parties transparentes prennent la couleur %2</translation>
+    </message>
+    <message>
+        <source>%1 has 8 bits for each channel, the picture more</source>
+        <translation>%1 a 8 bits par canal, l’image en a plus</translation>
+    </message>
+    <message>
+        <source>%1 cannot hold the colour profile: colours become sRGB</source>
+        <translation>%1 ne peut pas contenir le profil de couleurs&#x202f;: les couleurs passent en sRGB</translation>
+    </message>
+    <message>
+        <source>%1 has at most 256 colours</source>
+        <translation>%1 a 256 couleurs au plus</translation>
+    </message>
+    <message>
+        <source>Further pictures behind the first one are left out</source>
+        <translation>Les autres images derrière la première sont laissées de côté</translation>
+    </message>
+    <message>
+        <source>The gain map is left out</source>
+        <translation>La carte de gain est laissée de côté</translation>
+    </message>
+    <message>
+        <source>The motion picture is left out</source>
+        <translation>L’image animée est laissée de côté</translation>
+    </message>
+    <message>
+        <source>Signed content credentials are left out, since no changed file agrees with them</source>
+        <translation>Les certificats d’origine signés sont laissés de côté, car aucun fichier modifié ne leur correspond</translation>
+    </message>
+    <message>
+        <source>Data behind the end of the picture is left out</source>
+        <translation>Les données derrière la fin de l’image sont laissées de côté</translation>
+    </message>
+    <message>
+        <source>%1 holds metadata as XMP alone, without maker notes</source>
+        <translation>%1 contient les métadonnées en XMP seulement, sans notes du fabricant</translation>
+    </message>
+    <message>
+        <source>%1 holds no metadata</source>
+        <translation>%1 ne contient pas de métadonnées</translation>
+    </message>
+    <message>
+        <source>%1 further pictures of the file are left out</source>
+        <translation>Autres images du fichier laissées de côté&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>Pictures of this type are read and not written; choose another type</source>
+        <translation>Les images de ce type sont lues et ne sont pas écrites&#x202f;; choisissez un autre type</translation>
+    </message>
+    <message>
+        <source>No picture of %1 x %2 pixels can be made</source>
+        <translation>Une image de %1 x %2 pixels ne peut pas être faite</translation>
+    </message>
+    <message>
+        <source>Nothing of the picture is left</source>
+        <translation>Il ne reste rien de l’image</translation>
+    </message>
+    <message>
+        <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
+        <translation>Les données que le fabricant de l’appareil ou un programme garde à côté d’EXIF sont laissées de côté</translation>
+    </message>
+</context>
+<context>
     <name>recover-runs</name>
     <message>
         <source>A run was interrupted</source>
@@ -6002,17 +6100,6 @@
     <message>
         <source>Enter a number above 0, up to %1.</source>
         <translation>Saisissez un nombre supérieur à 0, jusqu’à %1.</translation>
-    </message>
-    <message numerus="yes">
-        <source>it would be larger than %n pixels</source>
-        <translation>
-            <numerusform>l’image dépasserait %n pixel</numerusform>
-            <numerusform>l’image dépasserait %n pixels</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it would be less than one pixel in size</source>
-        <translation>l’image ferait moins d’un pixel</translation>
     </message>
 </context>
 <context>
@@ -7508,10 +7595,6 @@
         <source>Enter an angle from -180 to 180 degrees.</source>
         <translation>Saisissez un angle de -180 à 180 degrés.</translation>
     </message>
-    <message>
-        <source>this type cannot be written, choose another file type</source>
-        <translation>ce format ne peut pas être écrit, choisissez-en un autre</translation>
-    </message>
 </context>
 <context>
     <name>window</name>
@@ -7956,10 +8039,6 @@
     <message>
         <source>transparent parts become black</source>
         <translation>transparence en noir</translation>
-    </message>
-    <message>
-        <source>transparent parts become white</source>
-        <translation>transparence en blanc</translation>
     </message>
 </context>
 </TS>

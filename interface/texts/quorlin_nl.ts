@@ -1019,6 +1019,22 @@
         <source>What simulation means</source>
         <translation>Wat simulatie betekent</translation>
     </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
+    </message>
+    <message>
+        <source>What results keep of the metadata</source>
+        <translation>Wat resultaten van de metagegevens behouden</translation>
+    </message>
+    <message>
+        <source>Remove location</source>
+        <translation>Locatie verwijderen</translation>
+    </message>
+    <message>
+        <source>Leaves out where the picture was taken: coordinates and names of places</source>
+        <translation>Laat weg waar de foto is gemaakt: coördinaten en plaatsnamen</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -1942,6 +1958,13 @@
     <message>
         <source>A %1 picture has no transparent parts: it stays as it looks.</source>
         <translation>Een %1-foto heeft geen transparante delen: het uiterlijk verandert niet.</translation>
+    </message>
+</context>
+<context>
+    <name>by-recipe</name>
+    <message>
+        <source>this type cannot be written, choose another file type</source>
+        <translation>dit type kan niet worden geschreven, kies een ander bestandstype</translation>
     </message>
 </context>
 <context>
@@ -3700,8 +3723,16 @@
         <translation>Resultaten bewaren in</translation>
     </message>
     <message>
-        <source>Transparent parts become white.</source>
-        <translation>Transparante delen worden wit.</translation>
+        <source>Keep all</source>
+        <translation>Alles behouden</translation>
+    </message>
+    <message>
+        <source>Keep copyright only</source>
+        <translation>Alleen copyright behouden</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Alles verwijderen</translation>
     </message>
 </context>
 <context>
@@ -5499,6 +5530,73 @@
     </message>
 </context>
 <context>
+    <name>recipe</name>
+    <message>
+        <source>%1 has no transparency: transparent parts get the colour %2</source>
+        <translation>%1 kent geen transparantie: transparante delen krijgen de kleur %2</translation>
+    </message>
+    <message>
+        <source>%1 has 8 bits for each channel, the picture more</source>
+        <translation>%1 heeft 8 bits per kanaal, de foto meer</translation>
+    </message>
+    <message>
+        <source>%1 cannot hold the colour profile: colours become sRGB</source>
+        <translation>%1 kan het kleurprofiel niet bevatten: kleuren worden sRGB</translation>
+    </message>
+    <message>
+        <source>%1 has at most 256 colours</source>
+        <translation>%1 heeft hoogstens 256 kleuren</translation>
+    </message>
+    <message>
+        <source>Further pictures behind the first one are left out</source>
+        <translation>Verdere foto’s achter de eerste worden weggelaten</translation>
+    </message>
+    <message>
+        <source>The gain map is left out</source>
+        <translation>De gain map wordt weggelaten</translation>
+    </message>
+    <message>
+        <source>The motion picture is left out</source>
+        <translation>Het bewegende beeld wordt weggelaten</translation>
+    </message>
+    <message>
+        <source>Signed content credentials are left out, since no changed file agrees with them</source>
+        <translation>Ondertekende herkomstgegevens worden weggelaten, want bij geen gewijzigd bestand kloppen ze nog</translation>
+    </message>
+    <message>
+        <source>Data behind the end of the picture is left out</source>
+        <translation>Gegevens achter het einde van de foto worden weggelaten</translation>
+    </message>
+    <message>
+        <source>%1 holds metadata as XMP alone, without maker notes</source>
+        <translation>%1 bevat metagegevens alleen als XMP, zonder notities van de fabrikant</translation>
+    </message>
+    <message>
+        <source>%1 holds no metadata</source>
+        <translation>%1 bevat geen metagegevens</translation>
+    </message>
+    <message>
+        <source>%1 further pictures of the file are left out</source>
+        <translation>Verdere foto’s van het bestand die worden weggelaten: %1</translation>
+    </message>
+    <message>
+        <source>Pictures of this type are read and not written; choose another type</source>
+        <translation>Foto’s van dit type worden gelezen en niet geschreven; kies een ander type</translation>
+    </message>
+    <message>
+        <source>No picture of %1 x %2 pixels can be made</source>
+        <translation>Een foto van %1 x %2 pixels kan niet worden gemaakt</translation>
+    </message>
+    <message>
+        <source>Nothing of the picture is left</source>
+        <translation>Er blijft niets van de foto over</translation>
+    </message>
+    <message>
+        <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
+        <translation>Gegevens die de camerafabrikant of een programma naast EXIF bewaart, worden weggelaten</translation>
+    </message>
+</context>
+<context>
     <name>recover-runs</name>
     <message>
         <source>A run was interrupted</source>
@@ -6002,17 +6100,6 @@
     <message>
         <source>Enter a number above 0, up to %1.</source>
         <translation>Geef een getal op groter dan 0, tot %1.</translation>
-    </message>
-    <message numerus="yes">
-        <source>it would be larger than %n pixels</source>
-        <translation>
-            <numerusform>het resultaat zou groter zijn dan %n pixel</numerusform>
-            <numerusform>het resultaat zou groter zijn dan %n pixels</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>it would be less than one pixel in size</source>
-        <translation>het resultaat zou kleiner zijn dan één pixel</translation>
     </message>
 </context>
 <context>
@@ -7508,10 +7595,6 @@
         <source>Enter an angle from -180 to 180 degrees.</source>
         <translation>Geef een hoek op van -180 tot 180 graden.</translation>
     </message>
-    <message>
-        <source>this type cannot be written, choose another file type</source>
-        <translation>dit type kan niet worden geschreven, kies een ander bestandstype</translation>
-    </message>
 </context>
 <context>
     <name>window</name>
@@ -7956,10 +8039,6 @@
     <message>
         <source>transparent parts become black</source>
         <translation>transparant wordt zwart</translation>
-    </message>
-    <message>
-        <source>transparent parts become white</source>
-        <translation>transparant wordt wit</translation>
     </message>
 </context>
 </TS>

@@ -178,6 +178,16 @@ QString plainPattern(const QString &name)
     return QString(name).replace(u'{', text("{{"));
 }
 
+/** Where all is kept nothing is said. */
+void addMetadata(QJsonObject &output, const QJsonObject &settings)
+{
+    const QString metadata = settings.value(text("metadata")).toString();
+    if (metadata == text("copyright") || metadata == text("none"))
+        output.insert(text("metadata"), metadata);
+    if (settings.value(text("removeLocation")).toBool() && metadata != text("none"))
+        output.insert(text("location"), false);
+}
+
 QJsonObject outputFor(const Preset &preset)
 {
     constexpr int perCode = 10;
@@ -193,6 +203,7 @@ QJsonObject outputFor(const Preset &preset)
         isConversion ? type == text("jpeg") : isOwn && (type == text("jpeg") || type == text("original"));
     if (const int quality = code.toInt(); quality > 0 && hasQuality)
         output.insert(text("quality"), quality * perCode);
+    addMetadata(output, own);
     const QJsonObject destination = own.value(text("destination")).toObject();
     const QString kind = destination.value(text("kind")).toString();
     if (kind == text("beside"))
@@ -207,16 +218,20 @@ QJsonObject outputFor(const Preset &preset)
 
 } // namespace
 
-Result<QByteArray> recipeOf(const Preset &preset)
+Result<QJsonObject> recipeObjectOf(const Preset &preset)
 {
     const auto found = operations().find(preset.action);
     if (found == operations().end())
         return unsupported(text("%1 makes no pictures, so its presets are no recipes").arg(preset.action));
-    const QJsonObject recipe = {{text("quorlin"), 1},
-                                {text("name"), preset.name},
-                                {text("operations"), found->second(preset.settings)},
-                                {text("outputs"), QJsonArray{outputFor(preset)}}};
-    return QJsonDocument(recipe).toJson();
+    return QJsonObject{{text("quorlin"), 1},
+                       {text("name"), preset.name},
+                       {text("operations"), found->second(preset.settings)},
+                       {text("outputs"), QJsonArray{outputFor(preset)}}};
+}
+
+Result<QByteArray> recipeOf(const Preset &preset)
+{
+    return recipeObjectOf(preset).map([](const QJsonObject &recipe) { return QJsonDocument(recipe).toJson(); });
 }
 
 } // namespace jobs

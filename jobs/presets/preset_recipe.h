@@ -11,6 +11,9 @@ namespace jobs {
  */
 platform::Result<QByteArray> recipeOf(const Preset &preset);
 
+/** The same as the object that the file holds. */
+platform::Result<QJsonObject> recipeObjectOf(const Preset &preset);
+
 /** All presets: those that come with the program, and those in the user's database, which count where both have a name. */
 QList<Preset> allPresets();
 

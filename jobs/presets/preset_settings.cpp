@@ -9,7 +9,7 @@
 namespace jobs {
 namespace {
 
-enum class Kind { Text, Number, Whole, Flag, Color };
+enum class Kind { Text, Word, Number, Whole, Flag, Color };
 
 /** Which setting lies in which column. A dot parts a group from its setting. */
 struct Column
@@ -31,7 +31,8 @@ const std::vector<Column> &outputColumns()
     static const std::vector<Column> columns = {
         {4, "output.fileType", Kind::Text},         {5, "output.quality", Kind::Text},
         {6, "output.destination.kind", Kind::Text}, {7, "output.destination.name", Kind::Text},
-        {8, "output.destination.path", Kind::Text}, {9, "output.ifTaken", Kind::Text}};
+        {8, "output.destination.path", Kind::Text}, {9, "output.ifTaken", Kind::Text},
+        {10, "output.metadata", Kind::Word},        {41, "output.removeLocation", Kind::Flag}};
     return columns;
 }
 
@@ -180,6 +181,7 @@ std::optional<QJsonValue> valueIn(const QString &text, Kind kind)
 {
     switch (kind) {
     case Kind::Text:
+    case Kind::Word:
         return decoded(text);
     case Kind::Number:
         return numberIn(text, R"(-?\d+(\.\d+)?(e[-+]?\d+)?)");

@@ -5,6 +5,7 @@
 #include "image/recipe/recipe_reader.h"
 #include "image/recipe/sentence.h"
 #include "jobs/names.h"
+#include "jobs/presets/preset_recipe.h"
 #include "platform/effects/lettering.h"
 #include "platform/file/atomic_file.h"
 
@@ -81,6 +82,12 @@ Result<image::MadeOutput> madeOf(const Task &task, const QString &path)
 }
 
 } // namespace
+
+QVariantMap RecipeService::recipeFor(const QString &action, const QVariantMap &settings) const
+{
+    const Preset preset = {action, QString(), QJsonObject::fromVariantMap(settings)};
+    return recipeObjectOf(preset).value_or(QJsonObject()).toVariantMap();
+}
 
 QVariantMap RecipeService::planOutput(const QString &path, const QVariantMap &recipe) const
 {

@@ -19,6 +19,12 @@ public:
     using QObject::QObject;
 
     /**
+     * The recipe of an action's settings, as its presets have them ("Resize", {mode, width ...}): the operations and one output, with
+     * the folder and the rule for taken names that the settings ask for. Empty for an action and for settings that no recipe has.
+     */
+    Q_INVOKABLE QVariantMap recipeFor(const QString &action, const QVariantMap &settings) const;
+
+    /**
      * What the recipe makes of the picture at @p path, from its header alone: {problem, isNotSupported, type, width, height,
      * extension, lossless, losses}. Where there will be none, problem is a sentence and the others say nothing; isNotSupported then
      * tells that its type cannot be written. type is the word of recipes ("jpeg"), extension ".jpg", width and height are pixels of

@@ -456,6 +456,12 @@ private Q_SLOTS:
         m_driver->show(qPrintable(action));
         save("a.png", quarters({40, 30}));
         m_driver->drop({m_pictures});
+        // Notes of the plan may move what lies below them.
+        QVERIFY2(m_driver->waitFor([this] {
+            return !m_driver->cell(0, PictureModel::NewName).isEmpty() ||
+                   !m_driver->control<QWidget>("startButton")->isEnabled();
+        }),
+                 "no plan");
         auto *settings = m_driver->control<QWidget>("settings");
         auto *scroll = m_driver->control<QScrollArea>("settingsScroll");
         QSet<QWidget *> wanted;

@@ -370,6 +370,8 @@ private:
             m_driver->control<QDoubleSpinBox>("value")->setValue(333);
             m_driver->control<QCheckBox>("neverEnlarge")->setChecked(false);
             m_driver->choose("fileType", QStringLiteral("public.png"));
+            m_driver->choose("metadata", QStringLiteral("copyright"));
+            m_driver->control<QCheckBox>("removeLocation")->setChecked(true);
         } else if (action == QLatin1String("crop")) {
             m_driver->control<QDoubleSpinBox>("cropPercent")->setValue(33);
             m_driver->control<QDoubleSpinBox>("offsetX")->setValue(-12);

@@ -220,6 +220,31 @@ export function fakeServices(written, status) {
     return services;
 }
 
+/**
+ * Services that plan and make recipes: `asked` and `made` remember their calls. `plan` and `made` are laid over what goes well, a JPEG
+ * of 400 x 300 pixels.
+ */
+export function recipeServices(plan, made) {
+    const services = fakeServices({});
+    services.asked = [];
+    services.made = [];
+    services.recipes = {
+        planOutput: (path, recipe) => {
+            services.asked.push([path, recipe]);
+            return Object.assign({ problem: "", isNotSupported: false, type: "jpeg", width: 400, height: 300,
+                                   extension: ".jpg", lossless: false, losses: [] }, plan || {});
+        },
+        make: (path, recipe, target) => {
+            services.made.push([path, recipe, target]);
+            services.files.sizes = {};
+            services.files.sizes[target] = { width: 400, height: 300 };
+            return Object.assign({ outcome: "OK", reason: "", path: target, width: 400, height: 300, losses: [] },
+                                 made || {});
+        },
+    };
+    return services;
+}
+
 /** A copy of a step's own settings with changes; fields of `output` go into its output settings. */
 export function settingsOf(step, changes, output) {
     const made = Object.assign(copyOf(step.defaults), { prefix: "/s/" }, changes || {});

@@ -5,6 +5,7 @@
 import { FORMAT_CODES, MASK_TYPES, maskName } from "../shared/masks.js";
 import { ORIGINAL, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
+import { usualOutput } from "../shared/by-recipe.js";
 import { handsOnTurn, mayBeTransparent, outcome, outputMessages, ready, refused, targetOf,
          uprightOutcome } from "../shared/written.js";
 
@@ -18,10 +19,7 @@ export const FRAME = 10;
 /** What a new pane shows. */
 export const defaults = {
     under: "color", color: "#ffffff", pattern: "", frame: "none", bandColor: "#202124", bandWidth: 40,
-    output: {
-        fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: qsTr("Framed"), path: "" },
-        ifTaken: "number", simulation: false,
-    },
+    output: usualOutput(ORIGINAL, "10", qsTr("Framed")),
 };
 
 /** What the output block offers; see the Resize step. */

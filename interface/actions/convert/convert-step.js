@@ -5,15 +5,13 @@ import { splitPath } from "../../lib/names.js";
 import { isTarget, lostText, sourceNotes, targetNamed } from "./targets.js";
 import { CONVERSION_QUALITIES, ORIGINAL } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
+import { usualOutput } from "../shared/by-recipe.js";
 import { outputMessages, ready, refused } from "../shared/written.js";
 
 /** What a new pane shows. target: see targets.js. */
 export const defaults = {
     target: "jpeg", quality: "8",
-    output: {
-        fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: qsTr("Converted"), path: "" },
-        ifTaken: "number", simulation: false,
-    },
+    output: usualOutput(ORIGINAL, "10", qsTr("Converted")),
 };
 
 /** The output block offers no type, for that is what the pane is about, which also says what goes along. */

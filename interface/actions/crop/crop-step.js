@@ -6,6 +6,7 @@ import { inPixels, PIXEL, UNITS } from "../../lib/measure.js";
 import { splitPath } from "../../lib/names.js";
 import { ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
+import { usualOutput } from "../shared/by-recipe.js";
 import { handsOnTurn, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
 
 export const MOST = 100000;
@@ -19,10 +20,7 @@ export const defaults = {
     mode: "percent", width: 1200, height: 800, unit: PIXEL, percent: 20, pixels: 200, position: 4, offsetX: 0,
     offsetY: 0,
     ratio: "free",
-    output: {
-        fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: qsTr("Cropped"), path: "" },
-        ifTaken: "number", simulation: false,
-    },
+    output: usualOutput(ORIGINAL, "9", qsTr("Cropped")),
 };
 
 /** What the output block offers; see the Resize step. */

@@ -1,7 +1,6 @@
 // The settings of the Resize action.
 
 import { PIXEL } from "../../lib/measure.js";
-import { MODES, scalePercent } from "./sizes.js";
 import { percent, pixels } from "../../lib/wording.js";
 import * as resize from "./resize-step.js";
 import { Pane } from "../shared/pane.js";
@@ -17,7 +16,7 @@ export class ResizePane extends Pane {
         this.form.control("mode").segments = [qsTr("Width"), qsTr("Height"), qsTr("Longest"), "%", qsTr("Box")];
         this.form.setItems("boxFit", [qsTr("Fill the box and cut"), qsTr("Stretch to the box")], resize.BOX_FITS);
         this.form.control("value").maximum = resize.MOST_PIXELS;
-        this.segments("mode", "mode", MODES);
+        this.segments("mode", "mode", resize.MODES);
         this.number("value", () => this.settings.mode);
         this.number("boxWidth", "boxWidth");
         this.number("boxHeight", "boxHeight");
@@ -27,7 +26,7 @@ export class ResizePane extends Pane {
     }
 
     showValues() {
-        this.form.control("mode").selectedSegment = MODES.indexOf(this.settings.mode);
+        this.form.control("mode").selectedSegment = resize.MODES.indexOf(this.settings.mode);
         this.form.control("neverEnlarge").checked = this.settings.neverEnlarge;
         this.form.chooseValue("boxFit", this.settings.boxFit);
         this.form.chooseValue("unit", this.settings.unit);
@@ -51,10 +50,18 @@ export class ResizePane extends Pane {
         }
     }
 
+    // The new width as a share of the old one; a box that is filled cuts some of it away.
+    scalePercent(photo, planned) {
+        const across = planned.width / photo.width;
+        const down = planned.height / photo.height;
+        const isCut = this.settings.mode === "box" && this.settings.boxFit === "fill";
+        return (isCut ? Math.max(across, down) : across) * 100;
+    }
+
     resultText(photo, planned) {
         return pixels(photo) + " → " + pixels(planned)
             + (this.settings.unit === PIXEL || this.settings.mode === "percent"
-            ? " (" + percent(scalePercent(photo, planned)) + ")"
+            ? " (" + percent(this.scalePercent(photo, planned)) + ")"
             : this.dpiText());
     }
 }

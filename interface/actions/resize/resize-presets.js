@@ -2,8 +2,7 @@
 
 import { UNITS } from "../../lib/measure.js";
 import { writingForm } from "../../presets/preset-forms.js";
-import { BOX_FITS } from "./resize-step.js";
-import { MODES } from "./sizes.js";
+import { BOX_FITS, MODES } from "./resize-step.js";
 
 const JPEG = "public.jpeg";
 // 10 and 15 centimetres at 300 dots per inch.

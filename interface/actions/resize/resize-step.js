@@ -1,12 +1,14 @@
-// Makes a resized copy of a picture.
-// Services used: image (resizeImage, resizeImage2), units, files. Plain data in, plain data out.
+// Makes a resized copy of a picture, as an operation of a recipe.
+// Services used: recipes (planOutput, make), files. Plain data in, plain data out.
 
-import { inPixels, PIXEL } from "../../lib/measure.js";
-import { splitPath } from "../../lib/names.js";
-import { newSize } from "./sizes.js";
-import { ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
+import { PIXEL } from "../../lib/measure.js";
+import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { handsOnTurn, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
+import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { outputMessages } from "../shared/written.js";
+
+/** What is given; the others follow from it. */
+export const MODES = ["width", "height", "longest", "percent", "box"];
 
 export const MOST_PIXELS = 100000;
 export const MOST_PERCENT = 1000;
@@ -20,14 +22,14 @@ export const BOX_FITS = ["fill", "stretch"];
 export const defaults = {
     mode: "longest", width: 1600, height: 1200, longest: 1600, percent: 50, boxWidth: 1600, boxHeight: 1200,
     boxFit: "fill", neverEnlarge: true, unit: PIXEL,
-    output: {
-        fileType: ORIGINAL, quality: "8", destination: { kind: "beside", name: qsTr("Resized"), path: "" },
-        ifTaken: "number", simulation: false,
-    },
+    output: usualOutput(ORIGINAL, "8", qsTr("Resized")),
 };
 
-/** What the output block offers: types to write, a quality for JPEG, and the types that metadata goes along into. */
-export const offer = { types: WRITTEN.map((type) => type.id), quality: true, metadata: ["public.tiff"] };
+/**
+ * What the output block offers: types to write, and a quality for JPEG. byRecipe: what of the metadata is kept can be chosen, and the
+ * plan of each picture says what that one loses.
+ */
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
@@ -61,44 +63,17 @@ export function validate(settings) {
     return messages.concat(outputMessages(settings.output));
 }
 
-// The size in pixels of one picture, or why there is none: {size, reason}.
-function sizeFor(photo, settings, services) {
-    const lengths = usedFields(settings).filter((field) => field !== "percent");
-    const inUnits = inPixels(photo, settings, lengths, services);
-    if (lengths.some((field) => inUnits[field] > MOST_PIXELS)) {
-        return { size: null, reason: qsTr("it would be larger than %n pixels", "", MOST_PIXELS) };
-    }
-    const size = lengths.every((field) => inUnits[field] >= 1) ? newSize(photo, inUnits) : { width: 0, height: 0 };
-    return size.width < 1 || size.height < 1
-        ? { size: null, reason: qsTr("it would be less than one pixel in size") }
-        : { size: size, reason: "" };
+/** What is done to each picture. */
+export function recipe(settings) {
+    return recipeOf("Resize", settings);
 }
 
 /**
- * What a run would write for one picture: {status: "ready", name, type, width, height, part, notes}, or a final status with
- * its reason.
+ * What a run would write for one picture: {status: "ready", name, type, width, height, notes, lossless, losses}, or a final status
+ * with its reason.
  */
 export function plan(photo, settings, services) {
-    const target = targetOf(photo, settings.output.fileType);
-    if (target.refusal !== null) {
-        return target.refusal;
-    }
-    const found = sizeFor(photo, settings, services);
-    if (found.size === null) {
-        return { status: "Failed", reason: found.reason };
-    }
-    const planned = ready(splitPath(photo.path).base + target.type.extension, target.type, found.size, []);
-    planned.part = found.size.part;
-    return planned;
-}
-
-function callService(photo, size, settings, image) {
-    const output = settings.output;
-    if (size.box) {
-        return image.resizeImage2(photo.path, size.width, size.height, size.mode, settings.prefix, output.fileType,
-                                  output.quality);
-    }
-    return image.resizeImage(photo.path, size.n, size.mode, settings.prefix, output.fileType, output.quality);
+    return planBy(photo, settings, () => services.recipes.planOutput(photo.path, recipe(settings)));
 }
 
 /**
@@ -106,13 +81,7 @@ function callService(photo, size, settings, image) {
  * Returns {status, reason, outputs: [path], width, height}.
  */
 export function run(photo, settings, services) {
-    const planned = plan(photo, settings, services);
-    if (planned.status !== "ready") {
-        return refused(planned);
-    }
-    const status = callService(photo, sizeFor(photo, settings, services).size, settings, services.image);
-    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata),
-                          services);
+    return makeBy(photo, settings, recipe(settings), plan(photo, settings, services), services);
 }
 
 /**
@@ -120,13 +89,5 @@ export function run(photo, settings, services) {
  * their order, lengths are pixels of the full picture, origin top left.
  */
 export function preview(photo, settings, planned) {
-    const part = planned.part;
-    /** @type {any[]} */
-    const deeds = part.width < 1 || part.height < 1
-        ? [{ do: "cut", x: Math.round(part.left * photo.width), y: Math.round(part.top * photo.height),
-             width: Math.round(part.width * photo.width), height: Math.round(part.height * photo.height) }]
-        : [];
-    deeds.push({ do: "scale", width: planned.width, height: planned.height });
-    return { deeds: writtenType(planned.type).alpha ? deeds : deeds.concat([{ do: "flatten" }]), width: planned.width,
-             height: planned.height, type: planned.type, quality: settings.output.quality };
+    return showBy(photo, recipe(settings), planned, settings.output.quality);
 }

@@ -4,6 +4,7 @@
 import { FORMAT_CODES, MASK_TYPES, maskName } from "../shared/masks.js";
 import { writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
+import { usualOutput } from "../shared/by-recipe.js";
 import { handsOnTurn, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
 
 export const MOST_RADIUS = 100000;
@@ -12,10 +13,7 @@ export const MOST_BAND = 10000;
 /** What a new pane shows. */
 export const defaults = {
     shape: "rectangle", radius: 100, background: false, color: "#ffffff", band: 0,
-    output: {
-        fileType: "public.png", quality: "10", destination: { kind: "beside", name: qsTr("Rounded"), path: "" },
-        ifTaken: "number", simulation: false,
-    },
+    output: usualOutput("public.png", "10", qsTr("Rounded")),
 };
 
 /** What the output block offers; see the Resize step. */

@@ -5,11 +5,14 @@ import { shell } from "quorlin/shell";
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { withNewest } from "../../lib/store.js";
-import { ORIGINAL, QUALITIES, writtenType } from "../../lib/types.js";
+import { METADATA, ORIGINAL, QUALITIES, writtenType } from "../../lib/types.js";
 import { fill, shortPath } from "../../lib/wording.js";
 
 const KEPT_FOLDERS = 5;
 const FOLDER = "folder:";
+// Controls that are named as their setting is.
+const CHOICES = ["fileType", "quality", "metadata", "ifTaken"];
+const CHECKS = ["removeLocation", "simulation"];
 
 // What goes along into each type, in plain words.
 function metadataNote(types) {
@@ -22,7 +25,7 @@ function metadataNote(types) {
                 words.length === 0 ? last : words.join(", ") + qsTr(" and ") + last);
 }
 
-function noteFor(choice, carried, matte) {
+function noteFor(choice, carried) {
     const type = writtenType(choice);
     if (type === null) {
         return metadataNote(carried);
@@ -37,8 +40,7 @@ function noteFor(choice, carried, matte) {
     } else {
         sentences.push(qsTr("Neither metadata nor colour profile go along; colours become sRGB."));
     }
-    const laid = matte === "white" ? qsTr("Transparent parts become white.") : qsTr("Transparent parts become black.");
-    return sentences.concat(type.alpha ? [] : [laid]).join(" ");
+    return sentences.concat(type.alpha ? [] : [qsTr("Transparent parts become black.")]).join(" ");
 }
 
 /** The block. `recent` is the list of folders that were saved to; changed() is called after each change. */
@@ -50,6 +52,7 @@ export class OutputPane {
         this.offer = null;
         this.form = shell.loadForm("actions/shared/output-pane.ui");
         this.form.setItems("quality", QUALITIES, QUALITIES);
+        this.form.setItems("metadata", [qsTr("Keep all"), qsTr("Keep copyright only"), qsTr("Remove all")], METADATA);
         this.form.setItems("ifTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")],
                            ["number", "replace", "skip", "ask"]);
         this.connect();
@@ -62,17 +65,15 @@ export class OutputPane {
         const types = offer.types.map((id) => writtenType(id));
         this.form.setItems("fileType", [qsTr("Original file type")].concat(types.map((type) => type.word)),
                            [ORIGINAL].concat(offer.types));
-        for (const name of ["fileType", "quality", "ifTaken"]) {
-            this.form.chooseValue(name, output[name]);
-        }
-        this.form.control("simulation").checked = output.simulation;
+        CHOICES.forEach((name) => this.form.chooseValue(name, output[name]));
+        CHECKS.forEach((name) => { this.form.control(name).checked = output[name]; });
         this.output = output;
         this.showDestinations();
         this.showType();
     }
 
     connect() {
-        for (const name of ["fileType", "quality", "ifTaken"]) {
+        for (const name of CHOICES) {
             this.form.control(name).activated.connect(guard("output." + name, () => {
                 this.output[name] = this.form.value(name);
                 this.showType();
@@ -80,13 +81,15 @@ export class OutputPane {
             }));
         }
         this.form.control("destination").activated.connect(guard("output.destination", () => this.destinationChosen()));
-        const simulation = this.form.control("simulation");
-        simulation.toggled.connect(guard("output.simulation", () => {
-            if (this.output !== null) {
-                this.output.simulation = simulation.checked;
-                this.changed();
-            }
-        }));
+        for (const name of CHECKS) {
+            const box = this.form.control(name);
+            box.toggled.connect(guard("output." + name, () => {
+                if (this.output !== null) {
+                    this.output[name] = box.checked;
+                    this.changed();
+                }
+            }));
+        }
     }
 
     showDestinations() {
@@ -139,6 +142,10 @@ export class OutputPane {
         for (const name of ["qualityLabel", "qualityHost"]) {
             this.form.control(name).visible = this.offer.quality;
         }
+        for (const name of ["metadataLabel", "metadata"]) {
+            this.form.control(name).visible = this.offer.byRecipe === true;
+        }
+        this.form.control("removeLocation").visible = this.offer.byRecipe === true && this.output.metadata !== "none";
         this.form.control("quality").enabled = hasQuality;
         this.form.control("qualityLabel").enabled = hasQuality;
     }
@@ -146,7 +153,7 @@ export class OutputPane {
     /** Says what of metadata, profile and transparency the results keep; carried: the types that metadata goes into. */
     showNote(carried) {
         const note = this.form.control("typeNote");
-        note.visible = this.offer.saysNothing !== true;
-        note.text = noteFor(this.output.fileType, carried, this.offer.matte);
+        note.visible = this.offer.saysNothing !== true && this.offer.byRecipe !== true;
+        note.text = note.visible ? noteFor(this.output.fileType, carried) : "";
     }
 }

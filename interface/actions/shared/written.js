@@ -103,8 +103,8 @@ export function carriedBy(step, settings) {
     return step.carried === undefined ? step.offer.metadata : step.carried(settings);
 }
 
-/** What the result of a picture will not hold, in words; empty where nothing is lost. matte: the matte of the step's offer. */
-export function lossText(photo, typeId, carried, matte) {
+/** What the result of a picture will not hold, in words; empty where nothing is lost. */
+export function lossText(photo, typeId, carried) {
     const type = madeType(typeId);
     const lost = [];
     if (!keepsProfile(photo.path, type)) {
@@ -113,8 +113,7 @@ export function lossText(photo, typeId, carried, matte) {
         lost.push(qsTr("EXIF, IPTC and XMP are not kept"));
     }
     if (!type.alpha && mayBeTransparent(photo)) {
-        lost.push(matte === "white" ? qsTr("transparent parts become white")
-                                    : qsTr("transparent parts become black"));
+        lost.push(qsTr("transparent parts become black"));
     }
     return lost.join(" · ");
 }

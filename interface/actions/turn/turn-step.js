@@ -5,15 +5,13 @@ import { splitPath } from "../../lib/names.js";
 import { forStored, isExact, isNothing, operations, shortestTurn, turnedSize, upright, wanted } from "./turns.js";
 import { ORIGINAL, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
+import { usualOutput } from "../shared/by-recipe.js";
 import { outcome, outputMessages, ready, refused, targetOf } from "../shared/written.js";
 
 /** What a new pane shows. The angle is in degrees, counter-clockwise, in tenths. */
 export const defaults = {
     angle: 0, flipHorizontal: false, flipVertical: false,
-    output: {
-        fileType: ORIGINAL, quality: "10", destination: { kind: "beside", name: qsTr("Turned"), path: "" },
-        ifTaken: "number", simulation: false,
-    },
+    output: usualOutput(ORIGINAL, "10", qsTr("Turned")),
 };
 
 /** What the output block offers: the type is always the picture's own. */

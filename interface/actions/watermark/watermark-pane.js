@@ -45,7 +45,7 @@ export class WatermarkPane extends Pane {
         control("markPosition").names = [qsTr("Top left"), qsTr("Top"), qsTr("Top right"), qsTr("Left"), qsTr("Centre"),
                                          qsTr("Right"), qsTr("Bottom left"), qsTr("Bottom"), qsTr("Bottom right")];
         this.segments("mark", "mark", watermark.MARKS);
-        this.segments("markPosition", "position", watermark.PLACES.map((place, i) => i));
+        this.segments("markPosition", "position", watermark.PLACES);
         Object.keys(NUMBERS).forEach((name) => this.number(name, NUMBERS[name]));
         this.color("markColor", "color");
         this.choice("markFont", "font");

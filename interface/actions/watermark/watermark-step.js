@@ -5,15 +5,15 @@ import { files } from "quorlin/files";
 import { recipes } from "quorlin/recipes";
 import { tokens } from "quorlin/tokens";
 import { splitPath } from "../../lib/names.js";
-import { madeType, madeTypeNamed, ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
+import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { outcome, outputMessages, ready, refused, targetOf } from "../shared/written.js";
+import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { outputMessages } from "../shared/written.js";
 
 /** What lies over the picture. */
 export const MARKS = ["text", "picture"];
-/** The words of recipes for the nine positions, row by row. */
-export const PLACES = ["top left", "top", "top right", "left", "center", "right", "bottom left", "bottom",
-                       "bottom right"];
+/** The nine positions, row by row. */
+export const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8];
 export const MOST_PERCENT = 100;
 export const MOST_DEGREES = 180;
 
@@ -24,15 +24,11 @@ export const MOST_DEGREES = 180;
 export const defaults = {
     mark: "text", text: "© {date:yyyy}", picture: "", font: "", color: "#ffffff", size: 4, pictureSize: 20, position: 8,
     margin: 2, angle: 0, opacity: 70, tile: false,
-    output: {
-        fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: qsTr("Watermarked"), path: "" },
-        ifTaken: "number", simulation: false,
-    },
+    output: usualOutput(ORIGINAL, "9", qsTr("Watermarked")),
 };
 
 /** What the output block offers; see the Resize step. */
-export const offer = { types: WRITTEN.map((type) => type.id), quality: true,
-                       metadata: ["public.jpeg", "public.png", "public.tiff", "public.jp2"], matte: "white" };
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
@@ -85,38 +81,20 @@ export function validate(settings) {
                 outputMessages(settings.output));
 }
 
-/** The operation of a recipe. */
-export function operation(settings) {
-    const common = { do: "watermark", position: PLACES[settings.position], margin: settings.margin,
-                     angle: settings.angle === 0 ? 0 : -settings.angle, opacity: settings.opacity,
-                     tile: settings.tile };
-    if (settings.mark === "picture") {
-        return Object.assign(common, { picture: settings.picture, size: settings.pictureSize });
-    }
-    return Object.assign(common, { text: settings.text, size: settings.size, color: settings.color },
-                         settings.font === "" ? {} : { font: settings.font });
-}
-
-const PER_CODE = 10;
-
-function outputOf(output) {
-    const type = output.fileType === ORIGINAL ? "original" : writtenType(output.fileType).keyword;
-    return Object.assign({ type: type }, type === "original" || type === "jpeg"
-        ? { quality: Number(output.quality) * PER_CODE } : {});
-}
-
-function recipeOf(settings) {
-    return { quorlin: 1, operations: [operation(settings)], outputs: [outputOf(settings.output)] };
+/** What is done to each picture. */
+export function recipe(settings) {
+    return recipeOf("Watermark", settings);
 }
 
 // What a picture becomes does not depend on the text, and each key that is typed asks again about all pictures.
 function answerFor(photo, settings, services) {
     const cache = services.unitCache;
-    const key = JSON.stringify(["watermark", photo.path, outputOf(settings.output)]);
+    const work = recipe(settings);
+    const key = JSON.stringify(["watermark", photo.path, work.outputs]);
     if (cache[key] !== undefined) {
         return cache[key];
     }
-    const answer = services.recipes.planOutput(photo.path, recipeOf(settings));
+    const answer = services.recipes.planOutput(photo.path, work);
     if (answer.problem === "") {
         cache[key] = answer;
     }
@@ -125,34 +103,15 @@ function answerFor(photo, settings, services) {
 
 /** What a run would write for one picture, or a final status with its reason. */
 export function plan(photo, settings, services) {
-    const target = targetOf(photo, settings.output.fileType);
-    if (target.refusal !== null) {
-        return target.refusal;
-    }
-    const answer = answerFor(photo, settings, services);
-    if (answer.problem !== "") {
-        return { status: answer.isNotSupported ? "Not Supported" : "Failed",
-                 reason: answer.isNotSupported ? qsTr("this type cannot be written, choose another file type")
-                                               : answer.problem };
-    }
-    return ready(splitPath(photo.path).base + answer.extension, madeTypeNamed(answer.type), answer, []);
+    return planBy(photo, settings, () => answerFor(photo, settings, services));
 }
 
 /** Writes the picture as settings.prefix + name, where plan() tells the name; see the Resize step. */
 export function run(photo, settings, services) {
-    const planned = plan(photo, settings, services);
-    if (planned.status !== "ready") {
-        return refused(planned);
-    }
-    const made = services.recipes.make(photo.path, recipeOf(settings), settings.prefix + planned.name);
-    return made.outcome === "OK" ? outcome("OK", made.path, planned, services)
-                                 : { status: made.outcome, reason: made.reason, outputs: [] };
+    return makeBy(photo, settings, recipe(settings), plan(photo, settings, services), services);
 }
 
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned) {
-    /** @type {any[]} */
-    const deeds = [{ do: "recipe", operations: [operation(settings)], path: photo.path }];
-    return { deeds: madeType(planned.type).alpha ? deeds : deeds.concat([{ do: "lay", color: "#ffffff" }]),
-             width: planned.width, height: planned.height, type: planned.type, quality: settings.output.quality };
+    return showBy(photo, recipe(settings), planned, settings.output.quality);
 }

@@ -77,8 +77,11 @@ export class PreviewSide {
     lostText(photo, planned) {
         const step = this.window.action.step;
         const settings = this.window.settings;
+        if (step.offer.byRecipe) {
+            return planned.losses.join(" · ");
+        }
         return step.lost === undefined
-            ? lossText(photo, planned.type, carriedBy(step, settings), step.offer.matte) : step.lost(photo, settings);
+            ? lossText(photo, planned.type, carriedBy(step, settings)) : step.lost(photo, settings);
     }
 
     showCaptions(bytes) {

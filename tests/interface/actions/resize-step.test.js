@@ -1,40 +1,70 @@
 import * as resize from "../../../interface/actions/resize/resize-step.js";
 import { equal, finish, test } from "../check.js";
-import { fakeServices, photo, settingsOf } from "../fakes.js";
+import { photo, recipeServices, settingsOf } from "../fakes.js";
 
-const settings = (changes) => settingsOf(resize, changes);
+const settings = (changes, output) => settingsOf(resize, changes, output);
+const lake = photo("/p/lake.JPG", 400, 300);
+const recipe = (changes, output) => resize.recipe(settings(changes, output));
+const operation = (changes) => recipe(changes).operations[0];
 
-function run(chosen, written, status) {
-    const services = fakeServices(written === null ? {} : { "/s/a.jpg": written }, status);
-    return { result: resize.run(photo("/p/a.jpg", 4000, 3000), chosen, services), calls: services.image.calls };
-}
-
-test("asksForTheLongestSideInTheOriginalType", () => {
-    const done = run(settings(), { width: 1600, height: 1200 });
-    equal(done.calls, [["resizeImage", "/p/a.jpg", 1600, 2, "/s/", "original file type", "8"]]);
-    equal([done.result.status, done.result.outputs, done.result.width, done.result.height],
-          ["OK", ["/s/a.jpg"], 1600, 1200]);
+test("isAnOperationOfARecipe", () => {
+    equal(operation({}), { do: "resize", longest: 1600 });
+    equal(operation({ mode: "width", width: 12.5, unit: "cm", neverEnlarge: false }),
+          { do: "resize", enlarge: true, unit: "cm", width: 12.5 });
+    equal(operation({ mode: "percent", percent: 30, unit: "inch" }), { do: "resize", percent: 30 });
+    equal(operation({ mode: "box", boxWidth: 1000, boxHeight: 900, boxFit: "fill" }),
+          { box: [1000, 900], do: "resize", fit: "fill" });
 });
 
-test("asksForABoxThatIsFilled", () => {
-    const done = run(settings({ mode: "box", boxWidth: 1000, boxHeight: 900, boxFit: "fill" }),
-                     { width: 1000, height: 900 });
-    equal([done.calls, done.result.status],
-          [[["resizeImage2", "/p/a.jpg", 1000, 900, 1, "/s/", "original file type", "8"]], "OK"]);
+test("asksForTheOutputOfTheOutputBlock", () => {
+    const output = (changes) => recipe({}, changes).outputs;
+    equal(output({}), [{ quality: 80, type: "original" }]);
+    equal(output({ fileType: "public.tiff" }), [{ type: "tiff" }]);
+    equal(output({ fileType: "public.tiff", metadata: "copyright", removeLocation: true }),
+          [{ location: false, metadata: "copyright", type: "tiff" }]);
+    equal(output({ fileType: "public.tiff", removeLocation: true }), [{ location: false, type: "tiff" }]);
+    // Where nothing is kept no place is either.
+    equal(output({ fileType: "public.tiff", metadata: "none", removeLocation: true }),
+          [{ metadata: "none", type: "tiff" }]);
 });
 
-test("failsWhereTheServiceSaysOkWithoutAFile", () => {
-    const done = run(settings(), null);
-    equal([done.result.status, done.result.reason], ["Failed", "not a readable picture"]);
+test("plansNameTypeSizeAndLosses", () => {
+    const services = recipeServices({ width: 160, height: 120, losses: ["No maker notes"] });
+    const planned = resize.plan(lake, settings({}), services);
+    equal([planned.status, planned.name, planned.type, planned.width, planned.height, planned.losses, planned.notes],
+          ["ready", "lake.jpg", "public.jpeg", 160, 120, ["No maker notes"], ["No maker notes"]]);
+    equal(services.asked, [["/p/lake.JPG", recipe({})]]);
 });
 
-test("failsWhereTheFileHasAnotherSize", () => {
-    equal(run(settings(), { width: 1600, height: 1199 }).result.status, "Failed");
+test("saysWhatCannotBeWritten", () => {
+    const refused = resize.plan(lake, settings({}), recipeServices({ problem: "no", isNotSupported: true }));
+    equal([refused.status, refused.reason], ["Not Supported", "this type cannot be written, choose another file type"]);
+    equal(resize.plan(lake, settings({}), recipeServices({ problem: "too large" })),
+          { status: "Failed", reason: "too large" });
+    equal(resize.plan(photo("/p/a.psd", 4, 3), settings({}), recipeServices()).status, "Not Supported");
+    equal(resize.plan(photo("/p/a.jpg", 0, 0), settings({}), recipeServices()).status, "Failed");
 });
 
-test("handsOnWhatTheServiceRefuses", () => {
-    equal([run(settings(), null, "Failed").result.status, run(settings(), null, "Not Supported").result.status],
-          ["Failed", "Not Supported"]);
+test("makesTheFileThatItPlanned", () => {
+    const services = recipeServices();
+    const result = resize.run(lake, settings({}), services);
+    equal([result.status, result.outputs, result.width, result.height], ["OK", ["/s/lake.jpg"], 400, 300]);
+    equal(services.made, [["/p/lake.JPG", recipe({}), "/s/lake.jpg"]]);
+});
+
+test("failsWhereTheFileIsNotAsPlanned", () => {
+    equal(resize.run(lake, settings({}), recipeServices({ width: 401 })).status, "Failed");
+    // A picture that is not encoded again may lie on its side, and no other may.
+    const turned = (isLossless) => resize.run(lake, settings({}), recipeServices({ width: 300, height: 400,
+                                                                                   lossless: isLossless }));
+    equal([turned(true).status, turned(true).width, turned(true).height], ["OK", 300, 400]);
+    equal(turned(false).status, "Failed");
+});
+
+test("handsOnWhyNothingWasMade", () => {
+    const result = resize.run(lake, settings({}), recipeServices({}, { outcome: "Failed", reason: "no room",
+                                                                       path: "" }));
+    equal(result, { status: "Failed", reason: "no room", outputs: [] });
 });
 
 const RANGES = [
@@ -60,15 +90,12 @@ test("wantsAFolderWhereOneIsToBeChosen", () => {
     equal(resize.validate(chosen).length, 1);
 });
 
-test("cutsBeforeItScalesInThePreview", () => {
-    const shown = (changes) => {
-        const chosen = settings(changes);
-        return resize.preview(photo("/p/a.png", 4000, 3000), chosen,
-                              resize.plan(photo("/p/a.png", 4000, 3000), chosen, fakeServices({}))).deeds;
-    };
-    equal(shown({}), [{ do: "scale", width: 1600, height: 1200 }]);
-    equal(shown({ mode: "box", boxWidth: 1000, boxHeight: 1000 }),
-          [{ do: "cut", x: 498, y: 0, width: 3001, height: 3000 }, { do: "scale", width: 1000, height: 1000 }]);
+test("showsWhatIsMade", () => {
+    const shown = (type) => resize.preview(lake, settings({}), { width: 400, height: 300, type: type });
+    const deed = { do: "recipe", operations: recipe({}).operations, path: "/p/lake.JPG" };
+    equal(shown("public.png").deeds, [deed]);
+    equal(shown("public.jpeg").deeds, [deed, { do: "lay", color: "#ffffff" }]);
+    equal([shown("public.jpeg").width, shown("public.jpeg").height, shown("public.jpeg").quality], [400, 300, "8"]);
 });
 
 finish();

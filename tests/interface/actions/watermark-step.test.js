@@ -1,69 +1,49 @@
 import * as watermark from "../../../interface/actions/watermark/watermark-step.js";
 import { equal, finish, isTrue, test } from "../check.js";
-import { fakeServices, photo, settingsOf } from "../fakes.js";
+import { photo, recipeServices, settingsOf } from "../fakes.js";
 
 const lake = photo("/p/lake.JPG", 400, 300);
-
-/** Remembers what it was asked; `plan` and `made` are laid over what goes well. */
-function servicesWith(plan, made) {
-    const services = fakeServices({});
-    services.asked = [];
-    services.made = [];
-    services.recipes = {
-        planOutput: (path, recipe) => {
-            services.asked.push([path, recipe]);
-            return Object.assign({ problem: "", isNotSupported: false, type: "jpeg", width: 400, height: 300,
-                                   extension: ".jpg", lossless: false, losses: [] }, plan || {});
-        },
-        make: (path, recipe, target) => {
-            services.made.push([path, recipe, target]);
-            services.files.sizes = {};
-            services.files.sizes[target] = { width: 400, height: 300 };
-            return Object.assign({ outcome: "OK", reason: "", path: target, width: 400, height: 300, losses: [] },
-                                 made || {});
-        },
-    };
-    return services;
-}
 
 function settings(changes, output) {
     return settingsOf(watermark, changes, output);
 }
 
+const operation = (changes) => watermark.recipe(settings(changes)).operations[0];
+
 test("standsForAnOperationOfARecipe", () => {
-    equal(watermark.operation(settings({})),
-          { do: "watermark", position: "bottom right", margin: 2, angle: 0, opacity: 70, tile: false,
-            text: "© {date:yyyy}", size: 4, color: "#ffffff" });
-    equal(watermark.operation(settings({ font: "DejaVu Sans", position: 0, angle: 30, tile: true })),
-          { do: "watermark", position: "top left", margin: 2, angle: -30, opacity: 70, tile: true,
-            text: "© {date:yyyy}", size: 4, color: "#ffffff", font: "DejaVu Sans" });
-    equal(watermark.operation(settings({ mark: "picture", picture: "/w/logo.png" })),
-          { do: "watermark", position: "bottom right", margin: 2, angle: 0, opacity: 70, tile: false,
-            picture: "/w/logo.png", size: 20 });
+    equal(operation({}),
+          { color: "#ffffff", do: "watermark", margin: 2, opacity: 70, position: "bottom right", size: 4,
+            text: "© {date:yyyy}", tile: false });
+    equal(operation({ font: "DejaVu Sans", position: 0, angle: 30, tile: true }),
+          { angle: -30, color: "#ffffff", do: "watermark", font: "DejaVu Sans", margin: 2, opacity: 70,
+            position: "top left", size: 4, text: "© {date:yyyy}", tile: true });
+    equal(operation({ mark: "picture", picture: "/w/logo.png" }),
+          { do: "watermark", margin: 2, opacity: 70, picture: "/w/logo.png", position: "bottom right", size: 20,
+            tile: false });
 });
 
 test("asksForTheOutputOfTheOutputBlock", () => {
     const outputs = (fileType) => {
-        const services = servicesWith();
+        const services = recipeServices();
         watermark.plan(lake, settings({}, { fileType: fileType, quality: "7" }), services);
         return services.asked[0][1].outputs;
     };
-    equal(outputs("original file type"), [{ type: "original", quality: 70 }]);
-    equal(outputs("public.jpeg"), [{ type: "jpeg", quality: 70 }]);
+    equal(outputs("original file type"), [{ quality: 70, type: "original" }]);
+    equal(outputs("public.jpeg"), [{ quality: 70, type: "jpeg" }]);
     equal(outputs("public.tiff"), [{ type: "tiff" }]);
     equal(outputs("public.jp2"), [{ type: "jp2" }]);
 });
 
 test("plansNameTypeAndSize", () => {
-    const planned = watermark.plan(lake, settings({}), servicesWith());
+    const planned = watermark.plan(lake, settings({}), recipeServices());
     equal([planned.status, planned.name, planned.type, planned.width, planned.height],
           ["ready", "lake.jpg", "public.jpeg", 400, 300]);
     // What is in the file counts, not what it is called.
-    equal(watermark.plan(lake, settings({}), servicesWith({ type: "webp", extension: ".webp" })).name, "lake.webp");
+    equal(watermark.plan(lake, settings({}), recipeServices({ type: "webp", extension: ".webp" })).name, "lake.webp");
 });
 
 test("asksOnceAboutAPictureWhileTextIsTyped", () => {
-    const services = servicesWith();
+    const services = recipeServices();
     ["©", "© J", "© Jo"].forEach((text) => watermark.plan(lake, settings({ text: text }), services));
     equal(services.asked.length, 1);
     watermark.plan(lake, settings({}, { fileType: "public.png" }), services);
@@ -71,7 +51,7 @@ test("asksOnceAboutAPictureWhileTextIsTyped", () => {
 });
 
 test("asksAgainWhereThereWasAProblem", () => {
-    const services = servicesWith({ problem: "operations[0].text: a text, not nothing" });
+    const services = recipeServices({ problem: "operations[0].text: a text, not nothing" });
     equal(watermark.plan(lake, settings({}), services),
           { status: "Failed", reason: "operations[0].text: a text, not nothing" });
     watermark.plan(lake, settings({}), services);
@@ -79,14 +59,14 @@ test("asksAgainWhereThereWasAProblem", () => {
 });
 
 test("saysWhatCannotBeWritten", () => {
-    const refused = watermark.plan(lake, settings({}), servicesWith({ problem: "no", isNotSupported: true }));
+    const refused = watermark.plan(lake, settings({}), recipeServices({ problem: "no", isNotSupported: true }));
     equal([refused.status, refused.reason], ["Not Supported", "this type cannot be written, choose another file type"]);
-    equal(watermark.plan(photo("/p/a.psd", 4, 3), settings({}), servicesWith()).status, "Not Supported");
-    equal(watermark.plan(photo("/p/a.jpg", 0, 0), settings({}), servicesWith()).status, "Failed");
+    equal(watermark.plan(photo("/p/a.psd", 4, 3), settings({}), recipeServices()).status, "Not Supported");
+    equal(watermark.plan(photo("/p/a.jpg", 0, 0), settings({}), recipeServices()).status, "Failed");
 });
 
 test("makesTheFileThatItPlanned", () => {
-    const services = servicesWith();
+    const services = recipeServices();
     const result = watermark.run(lake, settings({ text: "Jane" }), services);
     equal([result.status, result.outputs, result.width, result.height], ["OK", ["/s/lake.jpg"], 400, 300]);
     equal(services.made.map((call) => [call[0], call[1].operations[0].text, call[2]]),
@@ -94,19 +74,19 @@ test("makesTheFileThatItPlanned", () => {
 });
 
 test("handsOnWhyNothingWasMade", () => {
-    const services = servicesWith({}, { outcome: "Failed", reason: "no room", path: "" });
+    const services = recipeServices({}, { outcome: "Failed", reason: "no room", path: "" });
     equal(watermark.run(lake, settings({}), services), { status: "Failed", reason: "no room", outputs: [] });
 });
 
 test("failsWhereTheFileIsNotAsPlanned", () => {
-    const result = watermark.run(lake, settings({}), servicesWith({ width: 200 }));
+    const result = watermark.run(lake, settings({}), recipeServices({ width: 200 }));
     equal(result.status, "Failed");
     isTrue(result.reason.includes("400×300 instead of 200×300"));
 });
 
 test("showsWhatIsMade", () => {
     const shown = (type) => watermark.preview(lake, settings({}), { width: 400, height: 300, type: type });
-    const deed = { do: "recipe", operations: [watermark.operation(settings({}))], path: "/p/lake.JPG" };
+    const deed = { do: "recipe", operations: [operation({})], path: "/p/lake.JPG" };
     equal(shown("public.png").deeds, [deed]);
     equal(shown("public.jpeg").deeds, [deed, { do: "lay", color: "#ffffff" }]);
     equal([shown("public.jpeg").width, shown("public.jpeg").height, shown("public.jpeg").quality], [400, 300, "9"]);

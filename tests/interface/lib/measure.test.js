@@ -1,7 +1,6 @@
 import { converted, decimalsOf, inPixels, toPixels, UnitMemory, UNITS } from "../../../interface/lib/measure.js";
-import * as resize from "../../../interface/actions/resize/resize-step.js";
 import { equal, finish, test } from "../check.js";
-import { fakeServices, photo, settingsOf } from "../fakes.js";
+import { fakeServices, photo } from "../fakes.js";
 
 const picture = photo("/p/a.jpg", 4000, 3000);
 
@@ -42,27 +41,6 @@ test("aLengthThatWasChangedIsTheNewOne", () => {
 
 test("everyUnitHasItsDecimals", () => {
     equal(UNITS.map((unit) => decimalsOf(unit)), [0, 1, 2, 2, 1, 0]);
-});
-
-test("resizesToALengthAtThePicturesOwnResolution", () => {
-    const services = fakeServices({ "/s/a.jpg": { width: 1200, height: 900 } });
-    const result = resize.run(picture, settingsOf(resize, { mode: "width", unit: "mm", width: 120 }), services);
-    equal([services.image.calls, result.status],
-          [[["resizeImage", "/p/a.jpg", 1200, 0, "/s/", "original file type", "8"]], "OK"]);
-});
-
-const REFUSED = [["no pixel would be left", 0.05], ["it would be too large", 50000]];
-
-for (const row of REFUSED) {
-    test("plans a failure where " + row[0], () => {
-        const settings = settingsOf(resize, { mode: "width", unit: "mm", width: row[1], neverEnlarge: false });
-        equal([resize.validate(settings), resize.plan(picture, settings, fakeServices({})).status], [[], "Failed"]);
-    });
-}
-
-test("aPerCentIsNoLength", () => {
-    const settings = settingsOf(resize, { mode: "percent", unit: "mm", percent: 50 });
-    equal(resize.plan(picture, settings, fakeServices({})).width, 2000);
 });
 
 finish();

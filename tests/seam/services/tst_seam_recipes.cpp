@@ -19,6 +19,7 @@ private Q_SLOTS:
     void plansFromTheHeader_data();
     void plansFromTheHeader();
     void makesWhatItPlans();
+    void turnsSettingsIntoRecipes();
     void fillsInTheTokensOfATextInEnglish();
     void saysWhyNothingCameOfIt_data();
     void saysWhyNothingCameOfIt();
@@ -93,6 +94,21 @@ void TestSeamRecipes::makesWhatItPlans()
         for (int x = 0; x < written.width(); ++x)
             red += written.pixelColor(x, y).red() > written.pixelColor(x, y).blue() + 40 ? 1 : 0;
     QVERIFY2(red > 20, qPrintable(QString::number(red)));
+}
+
+void TestSeamRecipes::turnsSettingsIntoRecipes()
+{
+    const QString resize =
+        QStringLiteral("recipes.recipeFor('Resize', { mode: 'longest', longest: 30, neverEnlarge: true, "
+                       "unit: 'mm', output: { fileType: 'public.jpeg', quality: '7' } })");
+    QCOMPARE(answer(resize + QStringLiteral(".operations")),
+             QStringLiteral("[{\"do\":\"resize\",\"longest\":30,\"unit\":\"mm\"}]"));
+    QCOMPARE(answer(resize + QStringLiteral(".outputs")), QStringLiteral("[{\"quality\":70,\"type\":\"jpeg\"}]"));
+    QCOMPARE(answer(QStringLiteral("((m) => [m.outcome, m.width])(recipes.make('FOLDER/a.png', %1, 'FOLDER/30.jpg'))")
+                        .arg(QString(resize).replace(QStringLiteral("'mm'"), QStringLiteral("'pixel'")))),
+             QStringLiteral("[\"OK\",30]"));
+    QCOMPARE(answer(QStringLiteral("[recipes.recipeFor('Rename', {}), recipes.recipeFor(null, {})]")),
+             QStringLiteral("[{},{}]"));
 }
 
 void TestSeamRecipes::fillsInTheTokensOfATextInEnglish()

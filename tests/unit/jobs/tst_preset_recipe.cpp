@@ -42,6 +42,7 @@ private Q_SLOTS:
     void marksWithText();
     void marksWithAPicture();
     void countsAnglesClockwise();
+    void keepsTheMetadataOfThePreset();
     void writesTheTypeOfThePreset_data();
     void writesTheTypeOfThePreset();
 };
@@ -81,6 +82,23 @@ void TestPresetRecipe::countsAnglesClockwise()
 {
     const QJsonObject recipe = recipeFor(presetOf("Watermark", {{QStringLiteral("angle"), 30}}));
     QCOMPARE(recipe[QStringLiteral("operations")][0][QStringLiteral("angle")].toInt(), -30);
+}
+
+void TestPresetRecipe::keepsTheMetadataOfThePreset()
+{
+    const auto output = [](const QString &kept, bool removesLocation) {
+        const jobs::Preset preset = presetOf(
+            "Resize", {}, {{QStringLiteral("metadata"), kept}, {QStringLiteral("removeLocation"), removesLocation}});
+        return recipeFor(preset)[QStringLiteral("outputs")][0].toObject();
+    };
+    const QString metadata = QStringLiteral("metadata");
+    const QString location = QStringLiteral("location");
+    QVERIFY(!output(QStringLiteral("keep"), false).contains(metadata));
+    QVERIFY(!output(QStringLiteral("keep"), false).contains(location));
+    QCOMPARE(output(QStringLiteral("copyright"), true)[metadata], QJsonValue(QStringLiteral("copyright")));
+    QCOMPARE(output(QStringLiteral("copyright"), true)[location], QJsonValue(false));
+    QCOMPARE(output(QStringLiteral("none"), true)[metadata], QJsonValue(QStringLiteral("none")));
+    QVERIFY(!output(QStringLiteral("none"), true).contains(location));
 }
 
 void TestPresetRecipe::writesTheTypeOfThePreset_data()

@@ -3,14 +3,14 @@
 import { splitPath } from "../../lib/names.js";
 import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
+import { usualOutput } from "../shared/by-recipe.js";
 import { outcome, outputMessages, ready, refused, targetOf } from "../shared/written.js";
 
 const PER_CENT = 3;
 
 export const defaults = {
     percent: 50,
-    output: { fileType: ORIGINAL, quality: "9", destination: { kind: "beside", name: "Shrunk", path: "" },
-              ifTaken: "number", simulation: false },
+    output: usualOutput(ORIGINAL, "9", "Shrunk"),
 };
 
 export const offer = { types: WRITTEN.map((type) => type.id), quality: true, metadata: ["public.tiff"] };

@@ -1,0 +1,70 @@
+// What the steps have in common that are carried out as a recipe: plan, preview and result come of the same one.
+// Services used: recipes (recipeFor, planOutput, make), files (storedSize). Plain data in, plain data out.
+
+import { recipes } from "quorlin/recipes";
+import { splitPath } from "../../lib/names.js";
+import { madeType, madeTypeNamed } from "../../lib/types.js";
+import { outcome, ready, refused, targetOf } from "./written.js";
+
+const WHITE = "#ffffff";
+
+/** The output settings of a new pane; name is that of the folder beside the originals. */
+export function usualOutput(fileType, quality, name) {
+    return { fileType: fileType, quality: quality, metadata: "keep", removeLocation: false,
+             destination: { kind: "beside", name: name, path: "" }, ifTaken: "number", simulation: false };
+}
+
+/** What of the settings says what a picture becomes; where it lies is another matter. */
+export function recipeOf(process, settings) {
+    const recipe = recipes.recipeFor(process, settings);
+    return { quorlin: recipe.quorlin, operations: recipe.operations,
+             outputs: recipe.outputs.map((output) => {
+                 const kept = Object.assign({}, output);
+                 delete kept.folder;
+                 delete kept.ifTaken;
+                 return kept;
+             }) };
+}
+
+/**
+ * What a run would write for one picture, or a final status with its reason. With a ready plan: lossless, no pixel is encoded again;
+ * losses, sentences on what this picture has and its result will not have. nameFor(extension) gives the name of the result.
+ */
+export function planBy(photo, settings, answer, nameFor) {
+    const target = targetOf(photo, settings.output.fileType);
+    if (target.refusal !== null) {
+        return target.refusal;
+    }
+    const told = answer();
+    if (told.problem !== "") {
+        return { status: told.isNotSupported ? "Not Supported" : "Failed",
+                 reason: told.isNotSupported ? qsTr("this type cannot be written, choose another file type")
+                                             : told.problem };
+    }
+    const name = nameFor === undefined ? splitPath(photo.path).base + told.extension : nameFor(told.extension);
+    return Object.assign(ready(name, madeTypeNamed(told.type), told, told.losses),
+                         { lossless: told.lossless, losses: told.losses });
+}
+
+/** Writes the result of a plan as settings.prefix + its name; what is there is replaced. Returns what every step's run() does. */
+export function makeBy(photo, settings, recipe, planned, services) {
+    if (planned.status !== "ready") {
+        return refused(planned);
+    }
+    const result = services.recipes.make(photo.path, recipe, settings.prefix + planned.name);
+    if (result.outcome !== "OK") {
+        return { status: result.outcome, reason: result.reason, outputs: [] };
+    }
+    // A picture that is not encoded again may go on lying on its side.
+    const stored = planned.lossless ? services.files.storedSize(result.path) : null;
+    const lies = stored !== null && stored.width === planned.height && stored.height === planned.width;
+    return outcome("OK", result.path, planned, services, lies ? stored : planned);
+}
+
+/** What the preview does to the upright picture to show the result; quality is said of types that have one. */
+export function showBy(photo, recipe, planned, quality) {
+    /** @type {any[]} */
+    const deeds = [{ do: "recipe", operations: recipe.operations, path: photo.path }];
+    return { deeds: madeType(planned.type).alpha ? deeds : deeds.concat([{ do: "lay", color: WHITE }]),
+             width: planned.width, height: planned.height, type: planned.type, quality: quality };
+}
