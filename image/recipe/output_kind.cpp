@@ -102,6 +102,7 @@ QStringList lossesOfParts(const platform::ImageSource &source)
         QT_TRANSLATE_NOOP("recipe", "Signed content credentials are left out, since no changed file agrees with them"));
     add(PartBeside::OfMakers,
         QT_TRANSLATE_NOOP("recipe", "Data that the maker of the camera or a program keeps beside EXIF is left out"));
+    add(PartBeside::ExtendedXmp, QT_TRANSLATE_NOOP("recipe", "XMP beyond the first 64 KB is left out"));
     if (losses.isEmpty())
         add(PartBeside::BehindTheEnd, QT_TRANSLATE_NOOP("recipe", "Data behind the end of the picture is left out"));
     return losses;

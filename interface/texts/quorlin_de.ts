@@ -5560,6 +5560,10 @@
         <translation>Der Bewegtbildteil fällt weg</translation>
     </message>
     <message>
+        <source>XMP beyond the first 64 KB is left out</source>
+        <translation>XMP jenseits der ersten 64 KB fällt weg</translation>
+    </message>
+    <message>
         <source>Signed content credentials are left out, since no changed file agrees with them</source>
         <translation>Signierte Herkunftsnachweise fallen weg, denn zu keiner geänderten Datei passen sie noch</translation>
     </message>

@@ -5560,6 +5560,10 @@
         <translation>L’image animée est laissée de côté</translation>
     </message>
     <message>
+        <source>XMP beyond the first 64 KB is left out</source>
+        <translation>Le XMP au-delà des 64 premiers Ko est omis</translation>
+    </message>
+    <message>
         <source>Signed content credentials are left out, since no changed file agrees with them</source>
         <translation>Les certificats d’origine signés sont laissés de côté, car aucun fichier modifié ne leur correspond</translation>
     </message>

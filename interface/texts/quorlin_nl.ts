@@ -5560,6 +5560,10 @@
         <translation>Het bewegende beeld wordt weggelaten</translation>
     </message>
     <message>
+        <source>XMP beyond the first 64 KB is left out</source>
+        <translation>XMP voorbij de eerste 64 kB vervalt</translation>
+    </message>
+    <message>
         <source>Signed content credentials are left out, since no changed file agrees with them</source>
         <translation>Ondertekende herkomstgegevens worden weggelaten, want bij geen gewijzigd bestand kloppen ze nog</translation>
     </message>

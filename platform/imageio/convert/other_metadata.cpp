@@ -203,6 +203,8 @@ PartsBeside partsOfJpeg(const QByteArray &jpeg)
         const QByteArray payload = jpeg.mid(at + 4, longestName);
         if (marker == 0xeb && payload.startsWith("JP"))
             parts |= PartBeside::Credentials;
+        if (marker == 0xe1 && payload.startsWith("http://ns.adobe.com/xmp/ext"))
+            parts |= PartBeside::ExtendedXmp;
         if (isOfMaker(marker, payload))
             parts |= PartBeside::OfMakers;
         at += 2 + qFromBigEndian<quint16>(jpeg.constData() + at + 2);

@@ -17,6 +17,7 @@ enum class PartBeside {
     Credentials = 8,   ///< signed statements about the file (C2PA), which no changed file agrees with
     BehindTheEnd = 16, ///< bytes behind the end of the picture, whatever they are
     OfMakers = 32,     ///< what makers of cameras and programs put into segments of their own: thermal pictures, sound
+    ExtendedXmp = 64,  ///< XMP that one segment of a JPEG has no room for
 };
 Q_DECLARE_FLAGS(PartsBeside, PartBeside)
 Q_DECLARE_OPERATORS_FOR_FLAGS(PartsBeside)

@@ -154,6 +154,8 @@ private Q_SLOTS:
         QCOMPARE(partsOf(behindTheStart(jpeg, 0xeb, QByteArray("JP\0\1\0\0\0\1", 8))),
                  PartsBeside(PartBeside::Credentials));
         QCOMPARE(partsOf(behindTheStart(jpeg, 0xe1, "FLIR\0\1\0\0")), PartsBeside(PartBeside::OfMakers));
+        QCOMPARE(partsOf(behindTheStart(jpeg, 0xe1, QByteArray("http://ns.adobe.com/xmp/extension/\0 and so on", 45))),
+                 PartsBeside(PartBeside::ExtendedXmp));
         QCOMPARE(partsOf(behindTheStart(jpeg, 0xec, "Ducky\0\1\0\4")), PartsBeside());
         const auto announcing = [](const QByteArray &property) {
             return fileOf(FileFormat::Png, Metadata()).insert(33, [&] {
