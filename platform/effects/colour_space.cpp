@@ -1,12 +1,12 @@
 #include "platform/effects/colour_space.h"
 
 #include "platform/graphics/icc_profile.h"
+#include "platform/graphics/named_bytes.h"
 #include "platform/graphics/pixels.h"
 
 #include <lcms2.h>
 
 #include <QCoreApplication>
-#include <QTemporaryFile>
 
 #include <array>
 #include <memory>
@@ -76,9 +76,7 @@ QByteArray adobeRgb()
 VImage inProfile(const VImage &image, const QByteArray &profile)
 {
     // Only a conversion in one go is exact, and it takes the profile from a file.
-    QTemporaryFile file;
-    if (!file.open() || file.write(profile) != profile.size() || !file.flush())
-        throw vips::VError("no temporary file can be made");
+    const NamedBytes file(profile);
     const bool isGrey = image.bands() < 3;
     const bool isDeep = image.format() == VIPS_FORMAT_USHORT;
     const bool hasProfile = image.get_typeof(VIPS_META_ICC_NAME) != 0;
@@ -86,13 +84,12 @@ VImage inProfile(const VImage &image, const QByteArray &profile)
                                ? image.colourspace(isDeep ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB)
                                : image;
     return inMemory(colours.icc_transform(
-        QFile::encodeName(file.fileName()).constData(),
-        VImage::option()
-            ->set("embedded", hasProfile)
-            ->set("input_profile", image.interpretation() == VIPS_INTERPRETATION_CMYK ? "cmyk" : "srgb")
-            ->set("intent", VIPS_INTENT_RELATIVE)
-            ->set("black_point_compensation", true)
-            ->set("depth", isDeep ? 16 : 8)));
+        file.path(), VImage::option()
+                         ->set("embedded", hasProfile)
+                         ->set("input_profile", image.interpretation() == VIPS_INTERPRETATION_CMYK ? "cmyk" : "srgb")
+                         ->set("intent", VIPS_INTENT_RELATIVE)
+                         ->set("black_point_compensation", true)
+                         ->set("depth", isDeep ? 16 : 8)));
 }
 
 /** The library's own way to grey weighs the colours roughly. */

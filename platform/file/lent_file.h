@@ -23,6 +23,8 @@ public:
     /** Opens one as openToRead() does, with its messages. */
     static Result<LentFile> open(const QString &path);
 
+    /** To be handed over; this is no file any more then. */
+    Descriptor takeDescriptor() { return std::move(m_descriptor); }
     int descriptor() const { return m_descriptor.number(); }
     const QString &name() const { return m_name; }
     /** Bytes; 0 where that cannot be told. */

@@ -1,8 +1,7 @@
 #include "platform/graphics/layers.h"
 
 #include "platform/graphics/icc_profile.h"
-
-#include <QTemporaryFile>
+#include "platform/graphics/named_bytes.h"
 
 #include <algorithm>
 #include <cstring>
@@ -57,16 +56,14 @@ VImage converted(const VImage &image, const VImage &srgb)
         return srgb;
     const QByteArray profile = iccProfileOf(image);
     // Only a conversion in one go is exact, and it takes the profile from a file.
-    QTemporaryFile file;
-    if (!file.open() || file.write(profile) != profile.size() || !file.flush())
-        throw vips::VError("no temporary file can be made");
+    const NamedBytes file(profile);
     const VipsInterpretation space = isDeep(srgb) ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB;
     const VImage colors = isColorless(srgb) ? srgb.colourspace(space) : srgb;
     return colors
-        .icc_transform(QFile::encodeName(file.fileName()).constData(), VImage::option()
-                                                                           ->set("input_profile", "srgb")
-                                                                           ->set("intent", VIPS_INTENT_RELATIVE)
-                                                                           ->set("depth", isDeep(image) ? 16 : 8))
+        .icc_transform(file.path(), VImage::option()
+                                        ->set("input_profile", "srgb")
+                                        ->set("intent", VIPS_INTENT_RELATIVE)
+                                        ->set("depth", isDeep(image) ? 16 : 8))
         .copy_memory();
 }
 

@@ -1,0 +1,16 @@
+#include "platform/graphics/named_bytes.h"
+
+#include <sys/mman.h>
+#include <unistd.h>
+#include <vips/vips8>
+
+namespace platform {
+
+NamedBytes::NamedBytes(const QByteArray &bytes) : m_file(::memfd_create("quorlin", MFD_CLOEXEC))
+{
+    if (::write(m_file.number(), bytes.constData(), size_t(bytes.size())) != bytes.size())
+        throw vips::VError("no temporary file can be made");
+    m_path = "/proc/self/fd/" + QByteArray::number(m_file.number());
+}
+
+} // namespace platform
