@@ -1,7 +1,7 @@
 # What is installed and where, and the Debian package made of it (cmake --workflow --preset package).
 include(GNUInstallDirs)
 
-foreach(program quorlin quorlin-batch quorlin-script)
+foreach(program quorlin quorlin-batch quorlin-script quorlin-worker)
   if(TARGET ${program})
     install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
   endif()

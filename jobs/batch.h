@@ -1,6 +1,7 @@
 #pragma once
 
 #include "image/recipe/recipe.h"
+#include "jobs/crew/crew.h"
 #include "jobs/inputs.h"
 #include "jobs/names.h"
 #include "jobs/report.h"
@@ -22,20 +23,29 @@ struct BatchOptions
     QString recipe; ///< its name, see recipeName()
 };
 
-/** Takes a line as soon as it is known; false ends the batch behind the picture that is in work. */
+/** Takes a line as soon as it is known; false ends the batch behind the pictures that are in work. */
 using TakeLine = std::function<bool(const ReportLine &line)>;
 
+enum class Stop {
+    No,
+    Soon, ///< pictures in work are finished, or left out whole where that takes more than a few seconds
+    Now,  ///< they are left out
+};
+
 /**
- * Carries out a recipe over many pictures, one after the other, in one process.
+ * Carries out a recipe over many pictures. Workers open, plan and make them; names are given here, in the order of the inputs, so that
+ * what comes of them does not depend on how many workers there are.
  *
  * Every input keeps its name and its number, also one that cannot be read, so that names do not depend on what fails. Results are
  * written into a hidden folder beside their place and take it when they are whole; nothing is replaced unasked, also not what appears
- * at the last moment.
+ * at the last moment. A picture whose worker ends is tried once more in one that has just been started; a second time, or one that
+ * takes too long or too much memory, fails it.
  *
- * @param isStopped  is asked before each picture
+ * @param crew       one that has begun with the same recipe
+ * @param isStopped  is asked several times a second
  */
-Summary runBatch(const image::Recipe &recipe, Inputs &inputs, const BatchOptions &options, const TakeLine &take,
-                 const std::function<bool()> &isStopped);
+Summary runBatch(const image::Recipe &recipe, Inputs &inputs, const BatchOptions &options, Crew &crew,
+                 const TakeLine &take, const std::function<Stop()> &isStopped);
 
 /** Whether an input belongs to a part: pathHash() of the place below its root, or of its own name, modulo their number. */
 bool isInShard(const Input &input, int shard, int shards);

@@ -71,7 +71,7 @@ Inputs::State Inputs::look(int waitMs)
     }
     if (m_waiting.empty() && m_watch) {
         const State state = m_watch->look(waitMs);
-        if (state == State::Ended)
+        if (state == State::Ended && m_problem.isEmpty())
             m_problem = image::sentence("no folder is left to watch: %1").arg(m_watch->news());
         if (state != State::Ready)
             return state;

@@ -1,17 +1,17 @@
 #include "jobs/names.h"
 
-#include "files/items/file_facts.h"
+#include "image/services/format_words.h"
 #include "jobs/path_hash.h"
 #include "platform/disk/disk_file_system.h"
 #include "platform/disk/folders.h"
+#include "platform/disk/item_facts.h"
 #include "platform/disk/item_identity.h"
 #include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
-#include "text/token_values.h"
 #include "text/tokens.h"
 
 #include <QDir>
-#include <QVariantMap>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -20,24 +20,22 @@ namespace {
 
 using text::TokenPart;
 
-text::TokenFacts factsOf(const QString &path, int index, bool isNeeded)
+QString dateText(const QDateTime &date)
 {
-    text::TokenFacts facts;
-    facts.path = path;
-    facts.index = index;
-    if (!isNeeded)
-        return facts;
-    const QVariantMap known = files::fileFacts(path).toMap();
-    const auto value = [&known](const char *name) { return known.value(QLatin1String(name)).toString(); };
-    facts.taken = value("taken");
-    facts.created = value("created");
-    facts.changed = value("changed");
-    facts.camera = value("camera");
-    facts.lens = value("lens");
-    facts.type = value("type");
-    facts.bytes = known.contains(QStringLiteral("bytes")) ? known.value(QStringLiteral("bytes")).toLongLong() : -1;
-    facts.pixels = QSize(known.value(QStringLiteral("width")).toInt(), known.value(QStringLiteral("height")).toInt());
-    return facts;
+    return date.isValid() ? date.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")) : QString();
+}
+
+bool needsFacts(const QString &pattern)
+{
+    return text::needsFacts(text::tokenParts(pattern));
+}
+
+bool needsFacts(const QList<image::RecipeStep> &steps)
+{
+    return std::any_of(steps.begin(), steps.end(), [](const image::RecipeStep &step) {
+        const auto *mark = std::get_if<image::WatermarkOperation>(&step.operation);
+        return mark && needsFacts(mark->text);
+    });
 }
 
 /** The sides of the result in place of those of the picture. */
@@ -69,11 +67,9 @@ QString cleaned(const QString &value)
     return clean;
 }
 
-QString expanded(const QList<TokenPart> &parts, const QString &path, int index, QSize size)
+QString expanded(const QList<TokenPart> &parts, const text::TokenFacts &facts, QSize size)
 {
-    const QList<TokenPart> known = withSides(parts, size);
-    const text::TokenFacts facts = factsOf(path, index, text::needsFacts(known));
-    return text::expandTokens(known, facts, text::TokenLanguage::English, standInFor, cleaned).text;
+    return text::expandTokens(withSides(parts, size), facts, text::TokenLanguage::English, standInFor, cleaned).text;
 }
 
 quint64 keyOf(const QString &name)
@@ -98,19 +94,61 @@ QString baseFolderOf(const Input &input, const Destination &destination)
     return platform::joinedPath(destination.folder, platform::parentFolder(placeBelowRoot(input)));
 }
 
-QString nameFrom(const QString &pattern, const QString &path, int index, QSize size)
+bool needsFacts(const image::Recipe &recipe)
 {
-    const QString name = expanded(text::tokenParts(pattern), path, index, size);
+    return needsFacts(recipe.operations) ||
+           std::any_of(recipe.outputs.begin(), recipe.outputs.end(), [](const image::RecipeOutput &output) {
+               return needsFacts(output.name) || needsFacts(output.folder) || needsFacts(output.operations);
+           });
+}
+
+text::TokenFacts factsOfFile(const QString &path, int index, bool isNeeded)
+{
+    text::TokenFacts facts;
+    facts.path = path;
+    facts.index = index;
+    if (!isNeeded)
+        return facts;
+    const QFileInfo info(path);
+    const auto item = platform::itemFacts(info.isSymLink() && info.exists() ? info.canonicalFilePath() : path);
+    if (!item)
+        return facts;
+    facts.created = dateText(item->created);
+    facts.changed = dateText(item->modified);
+    facts.bytes = item->sizeInBytes;
+    return facts;
+}
+
+text::TokenFacts withPictureFacts(const text::TokenFacts &facts, const platform::PictureFacts &picture)
+{
+    text::TokenFacts all = facts;
+    all.taken = dateText(picture.taken);
+    all.camera = picture.camera;
+    all.lens = picture.lens;
+    all.type =
+        image::typeWord(picture.typeIdentifier.isEmpty() ? image::typeOfName(facts.path) : picture.typeIdentifier);
+    all.pixels = picture.pixels.isEmpty() ? QSize(0, 0) : picture.pixels;
+    return all;
+}
+
+text::TokenFacts factsOfPicture(const QString &path, int index)
+{
+    return withPictureFacts(factsOfFile(path, index, true), platform::pictureFacts(path));
+}
+
+QString nameFrom(const QString &pattern, const text::TokenFacts &facts, QSize size)
+{
+    const QString name = expanded(text::tokenParts(pattern), facts, size);
     return name.trimmed().isEmpty() ? QStringLiteral("unknown") : name;
 }
 
-QString folderFrom(const QString &pattern, const QString &base, const QString &path, int index, QSize size)
+QString folderFrom(const QString &pattern, const QString &base, const text::TokenFacts &facts, QSize size)
 {
     QString folder = pattern.startsWith(u'/') ? QStringLiteral("/") : base;
     for (const QList<TokenPart> &level : text::tokenLevels(text::tokenParts(pattern))) {
         const bool hasToken =
             std::any_of(level.begin(), level.end(), [](const TokenPart &part) { return part.isToken; });
-        QString name = expanded(level, path, index, size);
+        QString name = expanded(level, facts, size);
         if (hasToken && isStep(name.trimmed()))
             name.replace(u'.', u'-');
         if (!name.isEmpty())
@@ -119,10 +157,9 @@ QString folderFrom(const QString &pattern, const QString &base, const QString &p
     return QDir::cleanPath(folder);
 }
 
-QString watermarkFrom(const QString &pattern, const QString &path, int index, QSize size)
+QString watermarkFrom(const QString &pattern, const text::TokenFacts &facts, QSize size)
 {
     const QList<TokenPart> parts = withSides(text::tokenParts(pattern), size);
-    const text::TokenFacts facts = factsOf(path, index, text::needsFacts(parts));
     return text::expandTokens(parts, facts, text::TokenLanguage::English).text;
 }
 

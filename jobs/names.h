@@ -1,7 +1,9 @@
 #pragma once
 
-#include "image/recipe/plan.h"
+#include "image/recipe/recipe.h"
 #include "jobs/inputs.h"
+#include "platform/imageio/source/picture_facts.h"
+#include "text/token_values.h"
 
 #include <QHash>
 #include <QSet>
@@ -20,19 +22,34 @@ struct Destination
 /** The base folder of a picture's results. */
 QString baseFolderOf(const Input &input, const Destination &destination);
 
+/** Whether names, folders and watermarks of a recipe say more of a picture than its path does. */
+bool needsFacts(const image::Recipe &recipe);
+
+/**
+ * What is known of a picture without looking into it.
+ *
+ * @param index     how many inputs came before this one
+ * @param isNeeded  see needsFacts(): without them its path and number are all
+ */
+text::TokenFacts factsOfFile(const QString &path, int index, bool isNeeded);
+
+/** All that is known of a picture, which is opened for it in this process. */
+text::TokenFacts factsOfPicture(const QString &path, int index);
+
+/** What is known of the file with what the picture says of itself. */
+text::TokenFacts withPictureFacts(const text::TokenFacts &facts, const platform::PictureFacts &picture);
+
 /**
  * A recipe's pattern for one picture. Values are English; what the picture lacks is "undated" or "unknown", a "/" in a value
  * becomes "-", and no value is a step up. {width} and {height} are those of @p size.
- *
- * @param index  how many inputs came before this one
  */
-QString nameFrom(const QString &pattern, const QString &path, int index, QSize size);
+QString nameFrom(const QString &pattern, const text::TokenFacts &facts, QSize size);
 
 /** The same for a folder, absolute where the pattern is; parts that come out empty are left out. */
-QString folderFrom(const QString &pattern, const QString &base, const QString &path, int index, QSize size);
+QString folderFrom(const QString &pattern, const QString &base, const text::TokenFacts &facts, QSize size);
 
 /** The same for the text of a watermark, in which a missing value is nothing and a "/" stays. */
-QString watermarkFrom(const QString &pattern, const QString &path, int index, QSize size);
+QString watermarkFrom(const QString &pattern, const text::TokenFacts &facts, QSize size);
 
 /** Whether the names of an output need more of a picture than its path: what is inside it, or what its disk knows. */
 bool namesNeedPictures(const image::RecipeOutput &output);

@@ -33,8 +33,8 @@ OutputPlaces::OutputPlaces(const image::Recipe &recipe, const EarlierReports &re
 {
 }
 
-QList<OutputPlace> OutputPlaces::of(const Input &input, int number, const QList<image::OutputPlan> &plans,
-                                    const QStringList &done, bool isOthers)
+QList<OutputPlace> OutputPlaces::of(const Input &input, const text::TokenFacts &facts,
+                                    const QList<image::OutputPlan> &plans, const QStringList &done, bool isOthers)
 {
     QList<OutputPlace> places;
     const QString base = baseFolderOf(input, m_destination);
@@ -43,8 +43,8 @@ QList<OutputPlace> OutputPlaces::of(const Input &input, int number, const QList<
         image::OutputPlan plan = plans.value(index);
         if (plans.isEmpty())
             plan.type = output.type;
-        const QString folder = folderFrom(output.folder, base, input.path, number, plan.size);
-        const QString name = nameFrom(output.name, input.path, number, plan.size);
+        const QString folder = folderFrom(output.folder, base, facts, plan.size);
+        const QString name = nameFrom(output.name, facts, plan.size);
         const QString wanted = platform::joinedPath(folder, name + extensionFor(plan, input.path));
         // What replaces leaves the name of another input to that one's own result.
         const bool isLeft = output.ifTaken == image::IfTaken::Replace && m_names.isOtherInput(wanted, input);

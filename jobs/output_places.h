@@ -35,12 +35,12 @@ public:
                  const Destination &destination);
 
     /**
-     * @param number    how many inputs came before this one
+     * @param facts     what is known of the picture, for its names
      * @param plans     of all outputs; for a picture that others make they may be empty where no name needs them
      * @param done      the paths of outputs that were made before and keep their names; empty for the others
      * @param isOthers  another process makes them: they only keep their names, and no disk is looked at
      */
-    QList<OutputPlace> of(const Input &input, int number, const QList<image::OutputPlan> &plans,
+    QList<OutputPlace> of(const Input &input, const text::TokenFacts &facts, const QList<image::OutputPlan> &plans,
                           const QStringList &done, bool isOthers);
     /** What becomes of an output that is to go to @p path. */
     OutputPlace at(const QString &path, const Input &input, int index);

@@ -7,11 +7,15 @@
 #include "jobs/result_mark.h"
 #include "platform/disk/disk_file_system.h"
 #include "platform/disk/item_identity.h"
-#include "platform/file/atomic_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/foundation/paths.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+#include <fcntl.h>
 
 namespace jobs {
 namespace {
@@ -35,57 +39,86 @@ void takeDateOf(const QString &source, const QString &path)
 
 WaitingRooms::~WaitingRooms()
 {
-    removeAll();
-}
-
-void WaitingRooms::removeAll()
-{
     for (const auto &[folder, room] : m_rooms)
-        files::removeStaging(room);
-    m_rooms.clear();
+        files::removeStaging(room.path);
 }
 
 void WaitingRooms::letGoOfMany()
 {
     constexpr size_t many = 50;
-    if (m_rooms.size() > many)
-        removeAll();
+    if (m_rooms.size() <= many)
+        return;
+    std::erase_if(m_rooms, [](const auto &each) {
+        if (each.second.users == 0)
+            files::removeStaging(each.second.path);
+        return each.second.users == 0;
+    });
 }
 
 QString WaitingRooms::in(const QString &folder)
 {
-    QString &room = m_rooms[folder];
-    if (room.isEmpty() && files::makeFolder(folder) != files::FolderMade::No) {
+    Room &room = m_rooms[folder];
+    if (room.path.isEmpty() && files::makeFolder(folder) != files::FolderMade::No) {
         files::sweepStagings(folder);
-        room = files::makeStaging(folder);
+        room.path = files::makeStaging(folder);
     }
-    return room;
+    return room.path;
+}
+
+void WaitingRooms::enter(const QString &folder)
+{
+    ++m_rooms[folder].users;
+}
+
+void WaitingRooms::leave(const QString &folder)
+{
+    --m_rooms[folder].users;
+    letGoOfMany();
 }
 
 ResultFiles::~ResultFiles()
 {
-    for (const Kept &kept : m_kept)
-        QFile::remove(kept.file);
+    for (const QString &file : std::as_const(m_begun))
+        QFile::remove(file);
+    for (const QString &folder : std::as_const(m_folders))
+        m_rooms.leave(folder);
 }
 
-Result<void> ResultFiles::keep(int index, const QByteArray &bytes, const OutputPlace &place,
-                               const image::RecipeOutput &output)
+Result<platform::Descriptor> ResultFiles::begin(int index, const OutputPlace &place)
 {
     const QString folder = platform::parentFolder(place.path);
     const QString room = m_rooms.in(folder);
     if (room.isEmpty())
         return unwritten(folder);
-    const QString file = room + QString::number(index);
-    const auto named = [&](platform::Error error) {
-        error.message.replace(file, place.path); // nobody knows the hidden folder
-        return error;
-    };
-    return platform::replaceFile(file, bytes).map_error(named).map([&] {
-        if (output.dates == image::FileDates::Keep)
-            takeDateOf(m_input.path, file);
-        markResult(file, m_input.path, settingsName(m_recipeName, index));
-        m_kept.append({index, file, place, output.ifTaken});
-    });
+    m_rooms.enter(folder);
+    m_folders.append(folder);
+    const QString path = QStringLiteral("%1%2-%3").arg(room).arg(m_number).arg(index);
+    constexpr mode_t asTheFolderHasIt = 0666;
+    platform::Descriptor file(
+        ::open(platform::encodedPath(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, asTheFolderHasIt));
+    if (!file.isOpen())
+        return tl::unexpected<platform::Error>(failureOf(errno, place));
+    m_begun.insert(index, path);
+    return file;
+}
+
+platform::Error ResultFiles::failureOf(int code, const OutputPlace &place) const
+{
+    return {platform::ErrorCode::WriteFailed,
+            image::sentence("%1 cannot be written: %2").arg(place.path, QString::fromLocal8Bit(std::strerror(code)))};
+}
+
+Result<void> ResultFiles::keep(int index, qint64 bytes, const OutputPlace &place, const image::RecipeOutput &output)
+{
+    const QString file = m_begun.value(index);
+    const auto made = platform::regularFile(file);
+    if (!made || made->bytes != bytes)
+        return tl::unexpected<platform::Error>(failureOf(EIO, place));
+    if (output.dates == image::FileDates::Keep)
+        takeDateOf(m_input.path, file);
+    markResult(file, m_input.path, settingsName(m_recipeName, index));
+    m_kept.append({index, file, place, output.ifTaken});
+    return {};
 }
 
 QList<ResultFiles::Placed> ResultFiles::placeAll(OutputPlaces &places)
@@ -95,8 +128,12 @@ QList<ResultFiles::Placed> ResultFiles::placeAll(OutputPlaces &places)
         return !kept.place.replaces || platform::targetIdentity(kept.place.path) != own;
     });
     QList<Placed> all;
-    for (const Kept &kept : m_kept)
+    for (const Kept &kept : m_kept) {
         all.append(placed(kept, places));
+        m_begun.remove(kept.index);
+        if (all.last().isSkipped || !all.last().problem.isEmpty())
+            QFile::remove(kept.file);
+    }
     m_kept.clear();
     return all;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jobs/output_places.h"
+#include "platform/descriptors/descriptor.h"
 #include "platform/foundation/result.h"
 
 #include <map>
@@ -18,13 +19,20 @@ public:
 
     /** The one in @p folder, which is made; ends in "/". Empty where it cannot be made. What killed batches left there is removed. */
     QString in(const QString &folder);
-    /** To be called between two pictures: each room holds a file open, and results may go into thousands of folders. */
-    void letGoOfMany();
+    /** Somebody keeps files in the room of @p folder until leave() was called as often. */
+    void enter(const QString &folder);
+    /** Each room holds a file open, and results may go into thousands of folders: those that nobody is in any more are given up. */
+    void leave(const QString &folder);
 
 private:
-    void removeAll();
+    struct Room
+    {
+        QString path;
+        int users = 0;
+    };
+    void letGoOfMany();
 
-    std::map<QString, QString> m_rooms;
+    std::map<QString, Room> m_rooms;
 };
 
 /**
@@ -34,8 +42,9 @@ private:
 class ResultFiles
 {
 public:
-    ResultFiles(const Input &input, const QString &recipeName, WaitingRooms &rooms)
-        : m_input(input), m_recipeName(recipeName), m_rooms(rooms)
+    /** @param number  tells the picture from all others */
+    ResultFiles(const Input &input, int number, const QString &recipeName, WaitingRooms &rooms)
+        : m_input(input), m_number(number), m_recipeName(recipeName), m_rooms(rooms)
     {
     }
     ResultFiles(const ResultFiles &) = delete;
@@ -43,9 +52,15 @@ public:
     /** What was not placed is gone afterwards. */
     ~ResultFiles();
 
-    /** Writes a result into a hidden folder beside its place; makes the folder of the place. Fails with WriteFailed. */
-    platform::Result<void> keep(int index, const QByteArray &bytes, const OutputPlace &place,
-                                const image::RecipeOutput &output);
+    /**
+     * Makes the file that a result is written to, in a hidden folder beside its place; makes the folder of the place. Fails with
+     * WriteFailed.
+     */
+    platform::Result<platform::Descriptor> begin(int index, const OutputPlace &place);
+    /** The file is whole: it is placed with the others. Fails with WriteFailed where it has not as many bytes. */
+    platform::Result<void> keep(int index, qint64 bytes, const OutputPlace &place, const image::RecipeOutput &output);
+    /** It is not, for a reason that is an errno. */
+    platform::Error failureOf(int code, const OutputPlace &place) const;
 
     struct Placed
     {
@@ -69,8 +84,11 @@ private:
 
     Placed placed(const Kept &kept, OutputPlaces &places) const;
 
-    const Input &m_input;
+    Input m_input;
+    int m_number;
     QString m_recipeName;
+    QHash<int, QString> m_begun; ///< the files by the indices of their outputs
+    QStringList m_folders;       ///< whose rooms they are in
     QList<Kept> m_kept;
     WaitingRooms &m_rooms;
 };

@@ -277,7 +277,7 @@ Result<Rendition> doneOne(const RecipeDeed &deed, const Rendition &start)
     image::Rendition known = {start.bitmap, image::stageOf(start.bitmap)};
     known.stage.size = start.full;
     const image::FillText fill = [&deed](const QString &pattern, QSize size) {
-        return jobs::watermarkFrom(pattern, deed.path, 0, size);
+        return jobs::watermarkFrom(pattern, jobs::factsOfPicture(deed.path, 0), size);
     };
     return image::rendered(deed.steps, known, fill).map([](const image::Rendition &made) {
         return Rendition{made.bitmap, made.stage.size};

@@ -73,8 +73,9 @@ Result<image::MadeOutput> madeOf(const Task &task, const QString &path)
 {
     Result<image::MadeOutput> result =
         platform::failure(platform::ErrorCode::Unreadable, image::sentence("nothing came of it"));
-    const image::FillText fill = [&path](const QString &pattern, QSize size) {
-        return watermarkFrom(pattern, path, 0, size);
+    const text::TokenFacts facts = needsFacts(task.recipe) ? factsOfPicture(path, 0) : factsOfFile(path, 0, false);
+    const image::FillText fill = [&facts](const QString &pattern, QSize size) {
+        return watermarkFrom(pattern, facts, size);
     };
     image::makeOutputs(task.recipe, task.source, {task.plan}, fill,
                        [&result](int, const Result<image::MadeOutput> &made) { result = made; });

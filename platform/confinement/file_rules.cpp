@@ -1,6 +1,6 @@
 #include "platform/confinement/file_rules.h"
 
-#include "platform/file/descriptor.h"
+#include "platform/descriptors/descriptor.h"
 
 #include <QFile>
 

@@ -1,7 +1,7 @@
 #include "platform/effects/colour_space.h"
 
+#include "platform/descriptors/named_bytes.h"
 #include "platform/graphics/icc_profile.h"
-#include "platform/graphics/named_bytes.h"
 #include "platform/graphics/pixels.h"
 
 #include <lcms2.h>
@@ -77,6 +77,8 @@ VImage inProfile(const VImage &image, const QByteArray &profile)
 {
     // Only a conversion in one go is exact, and it takes the profile from a file.
     const NamedBytes file(profile);
+    if (!file.isThere())
+        throw vips::VError("there is no memory for a profile");
     const bool isGrey = image.bands() < 3;
     const bool isDeep = image.format() == VIPS_FORMAT_USHORT;
     const bool hasProfile = image.get_typeof(VIPS_META_ICC_NAME) != 0;

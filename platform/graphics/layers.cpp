@@ -1,7 +1,7 @@
 #include "platform/graphics/layers.h"
 
+#include "platform/descriptors/named_bytes.h"
 #include "platform/graphics/icc_profile.h"
-#include "platform/graphics/named_bytes.h"
 
 #include <algorithm>
 #include <cstring>
@@ -57,6 +57,8 @@ VImage converted(const VImage &image, const VImage &srgb)
     const QByteArray profile = iccProfileOf(image);
     // Only a conversion in one go is exact, and it takes the profile from a file.
     const NamedBytes file(profile);
+    if (!file.isThere())
+        throw vips::VError("there is no memory for a profile");
     const VipsInterpretation space = isDeep(srgb) ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB;
     const VImage colors = isColorless(srgb) ? srgb.colourspace(space) : srgb;
     return colors

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/file/descriptor.h"
+#include "platform/descriptors/descriptor.h"
 
 #include <QByteArray>
 #include <QString>

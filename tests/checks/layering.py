@@ -35,13 +35,14 @@ SUB_ROOMS = {
         "foundation": "",
         "values": "foundation",
         "plist": "foundation",
-        "file": "foundation",
-        "disk": "foundation file",
-        "workers": "file",
-        "confinement": "file",
+        "descriptors": "",
+        "file": "foundation descriptors",
+        "disk": "foundation descriptors file",
+        "workers": "descriptors",
+        "confinement": "descriptors",
         "controls": "foundation values",
-        "graphics": "foundation file",
-        "effects": "foundation graphics",
+        "graphics": "foundation descriptors",
+        "effects": "foundation descriptors graphics",
         # Pictures as files: bytes first, then one folder for each kind of file, then what is said and done about all of them.
         "imageio/bytes": "foundation file",
         "imageio/formats": "foundation graphics imageio/bytes",
@@ -132,7 +133,7 @@ LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "
                 "PkgConfig::JPEG": "platform", "PkgConfig::TURBOJPEG": "platform", "PkgConfig::PLIST": "platform", "PkgConfig::OPENJPEG": "platform",
                 "PkgConfig::HEIF": "platform", "PkgConfig::LCMS": "platform", "PkgConfig::PANGO": "platform",
                 "PkgConfig::DEFLATE": "platform", "PkgConfig::SECCOMP": "platform", "PkgConfig::FONTCONFIG": "platform", "PkgConfig::SQLITE": "presets", "SQLite::SQLite3": "presets"}
-SYSTEM = re.compile(r"(sys|linux|netinet)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|sched|signal|pwd|errno|time|malloc|syslog)\.h")
+SYSTEM = re.compile(r"(sys|linux|netinet|arpa)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|sched|signal|pwd|errno|time|malloc|syslog|spawn)\.h")
 STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits)\.h")
 
 # Words of the product that the platform must not know: classes of the seam, status words, action keywords.

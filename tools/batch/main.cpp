@@ -20,12 +20,13 @@ enum Exit { Done = 0, SomeFailed = 1, BadRequest = 2, Stopped = 3 };
 
 volatile std::sig_atomic_t stopped = 0;
 
-/** The first signal ends the batch in order, the second one, whichever it is, at once. */
+/** The first signal ends the batch in order, the second one, whichever it is, at once; where nobody listens, the third one. */
 void stop(int)
 {
-    if (stopped)
+    constexpr int impatient = 3;
+    stopped = stopped + 1;
+    if (stopped == impatient)
         ::_exit(Stopped);
-    stopped = 1;
 }
 
 int refuse(const QString &sentence)
@@ -54,8 +55,12 @@ int carryOut(Request &request, const CommandLine &line)
     Progress progress(line);
     sayWhatIsReadFirst(request, line);
     bool isWritten = true;
+    const auto tellNews = [&request] {
+        if (const QString news = request.inputs->news(); !news.isEmpty())
+            say(QStringLiteral("quorlin-batch: %1\n").arg(news));
+    };
     const jobs::Summary summary = jobs::runBatch(
-        request.recipe, *request.inputs, request.options,
+        request.recipe, *request.inputs, request.options, *request.crew,
         [&](const jobs::ReportLine &each) {
             const int lines = int(request.inputs->known() * request.recipe.outputs.size()) / line.shards;
             progress.expect(lines, request.inputs->areOpen());
@@ -64,10 +69,10 @@ int carryOut(Request &request, const CommandLine &line)
             return isWritten;
         },
         [&] {
-            if (const QString news = request.inputs->news(); !news.isEmpty())
-                say(QStringLiteral("quorlin-batch: %1\n").arg(news));
-            return stopped != 0;
+            tellNews();
+            return stopped == 0 ? jobs::Stop::No : stopped == 1 ? jobs::Stop::Soon : jobs::Stop::Now;
         });
+    tellNews();
     isWritten = report.add(jobs::jsonLine(summary)) && isWritten;
     progress.finish(summary, line.isDryRun);
     if (const QString problem = request.inputs->problem(); !problem.isEmpty()) {
@@ -98,6 +103,22 @@ int answer(const QByteArray &text)
     if (!isWritten)
         say(QStringLiteral("quorlin-batch: standard output cannot be written\n"));
     return isWritten ? Done : SomeFailed;
+}
+
+/** With what keeps a worker from doing harm, as it has found it on the kernel that runs. */
+QByteArray versionText()
+{
+    QByteArray text = "quorlin-batch " QUORLIN_VERSION "\n";
+    const auto active = jobs::confinementOf(jobs::workerProgram());
+    if (!active)
+        return text + "workers: none can be started\n";
+    const auto line = [&text](const char *what, bool isActive) {
+        text += QByteArrayLiteral("workers: ") + what + (isActive ? ": active\n" : ": not on this system\n");
+    };
+    line("no new privileges", active->hasNoNewPrivileges);
+    line("file access rules (Landlock)", active->hasFileRules);
+    line("system call filter (seccomp)", active->hasCallRules);
+    return text;
 }
 
 QByteArray presetNames()
@@ -133,7 +154,7 @@ int main(int argc, char **argv)
         (line.report == QLatin1String("-") || line.asksForHelp || line.asksForVersion || line.asksForPresets))
         return refuse(QStringLiteral("standard output is closed"));
     if (line.asksForHelp || line.asksForVersion)
-        return answer(line.asksForHelp ? helpText().toUtf8() : QByteArray("quorlin-batch " QUORLIN_VERSION "\n"));
+        return answer(line.asksForHelp ? helpText().toUtf8() : versionText());
     if (line.asksForPresets)
         return answer(presetNames());
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})

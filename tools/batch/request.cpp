@@ -53,6 +53,22 @@ platform::Result<QByteArray> recipeFile(const CommandLine &line)
                              QStringLiteral("there is no preset \"%1\"; see --list-presets").arg(line.preset));
 }
 
+/** Has a worker open what the recipe names, since this process opens no picture. @return what is wrong; empty where nothing is */
+QString readRecipe(Request &request, const QByteArray &file, const CommandLine &line)
+{
+    image::RecipeFiles named;
+    named.folder = platform::parentFolder(pathOfRecipe(line));
+    named.areOpened = false;
+    const auto recipe = image::readRecipe(file, named);
+    if (!recipe)
+        return recipe.error().message;
+    request.recipe = *recipe;
+    constexpr qint64 megabyte = 1 << 20;
+    const jobs::CrewOptions options = {jobs::workerProgram(), line.jobs, {line.timeout, line.memory * megabyte}};
+    request.crew = std::make_unique<jobs::Crew>(options, file, named.folder);
+    return request.crew->begin();
+}
+
 /** Whether the report would be written over something that is read. */
 bool wouldLoseAFile(const CommandLine &line)
 {
@@ -123,13 +139,10 @@ Request requestFrom(const CommandLine &line)
         request.problem = file.error().message;
         return request;
     }
-    const auto recipe = image::readRecipe(*file, platform::parentFolder(pathOfRecipe(line)));
-    if (!recipe) {
-        request.problem =
-            QStringLiteral("%1: %2").arg(line.preset.isEmpty() ? line.recipe : line.preset, recipe.error().message);
+    if (const QString problem = readRecipe(request, *file, line); !problem.isEmpty()) {
+        request.problem = QStringLiteral("%1: %2").arg(line.preset.isEmpty() ? line.recipe : line.preset, problem);
         return request;
     }
-    request.recipe = *recipe;
     request.options.recipe = jobs::recipeName(*file);
     if (wouldLoseAFile(line)) {
         request.problem = QStringLiteral("%1 is read, so it cannot be the report").arg(line.report);

@@ -4,6 +4,8 @@
 #include "jobs/watch_lock.h"
 #include "tools/batch/command_line.h"
 
+#include <memory>
+
 /** What was asked for, read and checked: nothing has been written yet. */
 struct Request
 {
@@ -11,7 +13,8 @@ struct Request
     std::optional<jobs::Inputs> inputs;
     jobs::BatchOptions options;
     jobs::WatchLock lock;
-    QString problem; ///< a sentence where it cannot be carried out
+    std::unique_ptr<jobs::Crew> crew; ///< that knows the recipe
+    QString problem;                  ///< a sentence where it cannot be carried out
 };
 
 Request requestFrom(const CommandLine &line);

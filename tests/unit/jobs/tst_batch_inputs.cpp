@@ -7,6 +7,7 @@
 #include "platform/foundation/paths.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
+#include "tests/unit/jobs/batches.h"
 
 #include <QImage>
 #include <QTest>
@@ -65,18 +66,11 @@ struct World
         return *recipe;
     }
 
-    static QList<ReportLine> run(const QByteArray &json, Inputs &inputs, BatchOptions options = {})
+    static QList<ReportLine> run(const QByteArray &json, Inputs &inputs, const BatchOptions &options = {})
     {
-        options.recipe = recipeName(json);
-        QList<ReportLine> lines;
-        runBatch(
-            recipe(json), inputs, options,
-            [&lines](const ReportLine &line) {
-                lines.append(line);
-                return true;
-            },
-            [] { return false; });
-        return lines;
+        batches::Run batch;
+        batch.options = options;
+        return batches::linesOf(json, inputs, batch);
     }
 
     static QList<ReportLine> run(const QByteArray &json, const QStringList &names, const BatchOptions &options = {})
@@ -181,9 +175,23 @@ void TestBatchInputs::leavesOutItsOwnResults()
 {
     const World world;
     const QString a = world.picture("a.png");
-    Inputs inputs({}, streamOf(world.folder, (a + u'\n' + world.folder.path("a (2).png")).toUtf8(),
-                               NameStream::Separator::LineFeed));
-    const auto lines = World::run(R"({"quorlin": 1, "outputs": [{}]})", inputs);
+    const QByteArray pipe = QFile::encodeName(world.folder.path("list"));
+    QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+    platform::Descriptor list(::open(pipe.constData(), O_RDWR | O_CLOEXEC));
+    const auto name = [&list](const QString &path) {
+        const QByteArray bytes = path.toUtf8() + '\n';
+        QCOMPARE(::write(list.number(), bytes.constData(), size_t(bytes.size())), bytes.size());
+    };
+    name(a);
+    auto names = NameStream::open(world.folder.path("list"), NameStream::Separator::LineFeed);
+    QVERIFY(names);
+    Inputs inputs({}, std::move(*names));
+    batches::Run batch;
+    batch.onLine = [&](const ReportLine &) {
+        name(world.folder.path("a (2).png"));
+        list.close();
+    };
+    const auto lines = batches::linesOf(R"({"quorlin": 1, "outputs": [{}]})", inputs, batch);
     QCOMPARE(lines.size(), 1);
     QCOMPARE(lines[0].output, world.folder.path("a (2).png"));
     QCOMPARE(world.folder.names().size(), 3);
@@ -264,8 +272,12 @@ void TestBatchInputs::looksAtNothingOfOthers()
     QVERIFY(!namesNeedPictures(recipe));
     Inputs inputs({QStringLiteral("/none/a.jpg"), world.picture("a.png")});
     OutputPlaces places(recipe, {recipeName(json), nullptr, nullptr}, inputs, {});
-    QCOMPARE(places.of(inputs.take(), 0, {}, {}, true).first().path, QStringLiteral("/nowhere/a.png"));
-    QCOMPARE(places.of(inputs.take(), 1, {}, {}, true).first().path, QStringLiteral("/nowhere/a (2).png"));
+    const auto nextPath = [&](int number) {
+        const Input input = inputs.take();
+        return places.of(input, factsOfFile(input.path, number, false), {}, {}, true).first().path;
+    };
+    QCOMPARE(nextPath(0), QStringLiteral("/nowhere/a.png"));
+    QCOMPARE(nextPath(1), QStringLiteral("/nowhere/a (2).png"));
     for (const char *output : {"{}", R"({"type": "png", "name": "{taken}"})",
                                R"({"type": "png", "folder": "{size:class}"})", R"({"type": "png", "name": "{width}"})"})
         QVERIFY2(namesNeedPictures(World::recipe(QByteArray(R"({"quorlin": 1, "outputs": [)") + output + "]}")),

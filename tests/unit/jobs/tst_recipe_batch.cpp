@@ -2,6 +2,7 @@
 #include "jobs/batch.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
+#include "tests/unit/jobs/batches.h"
 
 #include <QImage>
 #include <QTest>
@@ -41,21 +42,13 @@ struct World
         return image.save(folder.path(name)) ? folder.path(name) : QString();
     }
 
-    QList<ReportLine> run(const QByteArray &json, const QStringList &inputs, BatchOptions options = {}) const
+    QList<ReportLine> run(const QByteArray &json, const QStringList &inputs, const BatchOptions &options = {}) const
     {
-        const auto recipe = image::readRecipe(json, folder.path());
-        if (!recipe)
-            qFatal("%s", qPrintable(recipe.error().message));
-        options.recipe = recipeName(json);
-        QList<ReportLine> lines;
-        Inputs all(inputs);
-        summary = runBatch(
-            *recipe, all, options,
-            [&lines](const ReportLine &line) {
-                lines.append(line);
-                return true;
-            },
-            [] { return false; });
+        batches::Run batch;
+        batch.options = options;
+        batch.folder = folder.path();
+        const QList<ReportLine> lines = batches::sortedLinesOf(json, inputs, batch);
+        summary = batch.summary;
         return lines;
     }
 
@@ -84,7 +77,7 @@ void TestRecipeBatch::namesResults()
     QFETCH(QString, expected);
     const World world;
     const QString path = world.picture("Trip 1/photo.one.png");
-    QCOMPARE(nameFrom(pattern, path, 4, QSize(3, 2)), expected);
+    QCOMPARE(nameFrom(pattern, factsOfPicture(path, 4), QSize(3, 2)), expected);
 }
 
 void TestRecipeBatch::writesWhereItShould()

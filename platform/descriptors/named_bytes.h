@@ -1,8 +1,6 @@
 #pragma once
 
-// Private to the platform.
-
-#include "platform/file/descriptor.h"
+#include "platform/descriptors/descriptor.h"
 
 #include <QByteArray>
 
@@ -12,8 +10,9 @@ namespace platform {
 class NamedBytes
 {
 public:
-    /** Throws vips::VError where the system has no memory for them. */
     explicit NamedBytes(const QByteArray &bytes);
+    /** False where the system has no memory for them. */
+    bool isThere() const { return !m_path.isEmpty(); }
     const char *path() const { return m_path.constData(); }
 
 private:

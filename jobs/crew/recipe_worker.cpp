@@ -1,0 +1,203 @@
+#include "jobs/crew/recipe_worker.h"
+
+#include "image/recipe/make.h"
+#include "image/recipe/recipe_reader.h"
+#include "image/recipe/sentence.h"
+#include "jobs/crew/messages.h"
+#include "jobs/names.h"
+#include "platform/file/lent_file.h"
+
+#include <QElapsedTimer>
+#include <QHash>
+
+#include <cerrno>
+
+#include <unistd.h>
+
+namespace jobs {
+namespace {
+
+using platform::Descriptor;
+using platform::ImageSource;
+using platform::LentFile;
+using platform::Message;
+using platform::Result;
+
+using SharedFile = std::shared_ptr<const LentFile>;
+
+/** 0, or an errno. What was written is on the disk then. */
+int writeAll(const Descriptor &file, const QByteArray &bytes)
+{
+    for (qsizetype written = 0; written < bytes.size();) {
+        const ssize_t count = ::write(file.number(), bytes.constData() + written, size_t(bytes.size() - written));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return errno;
+        written += count;
+    }
+    return ::fsync(file.number()) == 0 ? 0 : errno;
+}
+
+class RecipeWorker
+{
+public:
+    RecipeWorker(platform::MessageSocket &socket, const WorkerTrial &trial) : m_socket(socket), m_trial(trial) {}
+
+    /** False for a message that makes no sense here. */
+    bool take(Message &message)
+    {
+        switch (MessageKind(message.kind)) {
+        case MessageKind::RecipeFiles:
+            return takeFiles(message);
+        case MessageKind::Recipe:
+            return takeRecipe(message);
+        case MessageKind::Picture:
+            return takePicture(message);
+        case MessageKind::Outputs:
+            return takeOutputs(message);
+        case MessageKind::Make:
+            make();
+            return true;
+        default:
+            return false;
+        }
+    }
+
+private:
+    bool takeFiles(Message &message)
+    {
+        const auto files = fromMessage<RecipeFilesMessage>(message);
+        if (!files)
+            return false;
+        for (qsizetype i = 0; i < files->paths.size(); ++i)
+            m_files.insert(files->paths[i],
+                           std::make_shared<const LentFile>(std::move(message.files[size_t(i)]), files->paths[i]));
+        return true;
+    }
+
+    bool takeRecipe(const Message &message)
+    {
+        const auto told = fromMessage<RecipeMessage>(message);
+        if (!told)
+            return false;
+        image::RecipeFiles files;
+        files.folder = told->folder;
+        files.open = [this](const QString &path) -> Result<SharedFile> {
+            const SharedFile file = m_files.value(path);
+            if (file)
+                return file;
+            return platform::failure(platform::ErrorCode::NotFound, path);
+        };
+        const Result<image::Recipe> recipe = image::readRecipe(told->json, files);
+        m_recipe = recipe.value_or(image::Recipe());
+        m_socket.send(toMessage(ReadyMessage{recipe ? QString() : recipe.error().message}));
+        return true;
+    }
+
+    bool takePicture(Message &message)
+    {
+        const auto told = fromMessage<PictureMessage>(message);
+        if (!told)
+            return false;
+        forgetPicture();
+        m_facts = told->facts;
+        const auto file = std::make_shared<const LentFile>(std::move(message.files.front()), told->facts.path);
+        const Result<ImageSource> source = ImageSource::fromLent(file);
+        PlannedMessage planned;
+        if (told->wantsFacts)
+            planned.facts = platform::pictureFacts(file);
+        m_facts = withPictureFacts(m_facts, planned.facts);
+        if (source) {
+            m_source = *source;
+            m_plans = image::planOf(m_recipe, m_source);
+            planned.plans = m_plans;
+            planned.pixels = m_source.uprightSize();
+        } else {
+            planned.problem = source.error().message;
+        }
+        m_socket.send(toMessage(planned));
+        return true;
+    }
+
+    bool takeOutputs(Message &message)
+    {
+        const auto told = fromMessage<OutputsMessage>(message);
+        if (!told)
+            return false;
+        for (qsizetype i = 0; i < told->indices.size(); ++i)
+            m_outputs.insert_or_assign(told->indices[i], std::move(message.files[size_t(i)]));
+        return true;
+    }
+
+    void make()
+    {
+        for (qsizetype index = 0; index < m_plans.size(); ++index)
+            if (!m_outputs.contains(int(index)))
+                m_plans[index].problem = QStringLiteral("-"); // nothing is to be made of it
+        const QString trouble = m_trial.beforeMaking ? m_trial.beforeMaking(m_facts.path) : QString();
+        QElapsedTimer timer;
+        timer.start();
+        const image::FillText fill = [this](const QString &pattern, QSize size) {
+            return watermarkFrom(pattern, m_facts, size);
+        };
+        const auto take = [&](int index, const Result<image::MadeOutput> &made) {
+            MadeMessage message;
+            message.index = index;
+            if (made && trouble.isEmpty())
+                keep(message, *made);
+            else
+                message.problem = made ? trouble : made.error().message;
+            message.milliseconds = timer.restart();
+            m_socket.send(toMessage(message));
+        };
+        image::makeOutputs(m_recipe, m_source, m_plans, fill, take);
+        forgetPicture();
+        m_socket.send(toMessage(MessageKind::Done));
+    }
+
+    void keep(MadeMessage &message, const image::MadeOutput &made)
+    {
+        const auto output = m_outputs.find(message.index);
+        if (output == m_outputs.end())
+            return;
+        message.size = made.size;
+        message.isLossless = made.isLossless;
+        message.bytes = made.bytes.size();
+        message.writeError = writeAll(output->second, made.bytes);
+        m_outputs.erase(output);
+    }
+
+    void forgetPicture()
+    {
+        m_source = ImageSource();
+        m_plans.clear();
+        m_outputs.clear();
+    }
+
+    platform::MessageSocket &m_socket;
+    const WorkerTrial &m_trial;
+    QHash<QString, SharedFile> m_files;
+    image::Recipe m_recipe;
+    ImageSource m_source;
+    text::TokenFacts m_facts;
+    QList<image::OutputPlan> m_plans;
+    std::map<int, Descriptor> m_outputs;
+};
+
+} // namespace
+
+void workOnRecipes(platform::MessageSocket &socket, const platform::Confinement &confinement, const WorkerTrial &trial)
+{
+    HelloMessage hello;
+    hello.hasNoNewPrivileges = confinement.hasNoNewPrivileges;
+    hello.hasFileRules = confinement.hasFileRules;
+    hello.hasCallRules = confinement.hasCallRules;
+    socket.send(toMessage(hello));
+    RecipeWorker worker(socket, trial);
+    while (std::optional<Message> message = socket.wait())
+        if (!worker.take(*message))
+            return;
+}
+
+} // namespace jobs

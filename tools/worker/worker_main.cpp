@@ -1,0 +1,49 @@
+#include "tools/worker/worker_main.h"
+
+#include "platform/imageio/source/start_libraries.h"
+#include "platform/workers/worker_pool.h"
+
+#include <QCoreApplication>
+
+#include <cstdlib>
+
+#include <sys/resource.h>
+
+namespace {
+
+void limit(int what, rlim_t amount)
+{
+    const rlimit both = {amount, amount};
+    ::setrlimit(__rlimit_resource(what), &both);
+}
+
+/** What stands behind the one that looks how much memory there is: a step that takes all at once is quicker than any look. */
+void limitAddresses(qint64 residentBytes)
+{
+#if !defined(__SANITIZE_ADDRESS__)
+    constexpr qint64 times = 3; // addresses that are never used count too
+    if (residentBytes > 0)
+        limit(RLIMIT_AS, rlim_t(residentBytes * times));
+#else
+    Q_UNUSED(residentBytes);
+#endif
+}
+
+} // namespace
+
+int runWorker(int count, char **arguments, const jobs::WorkerTrial &trial)
+{
+    constexpr int own = 3;
+    if (count != own)
+        return EXIT_FAILURE;
+    platform::endWithParent(std::atoi(arguments[1]));
+    limit(RLIMIT_CORE, 0); // nobody's pictures lie about
+    limitAddresses(std::atoll(arguments[2]));
+    const QCoreApplication application(count, arguments);
+    if (!platform::startPictureLibraries(1))
+        return EXIT_FAILURE;
+    const platform::Confinement active = platform::confine(platform::systemFolders());
+    platform::MessageSocket socket(platform::Descriptor(platform::workerSocket), platform::MessageSocket::Files::Taken);
+    jobs::workOnRecipes(socket, active, trial);
+    return EXIT_SUCCESS;
+}
