@@ -1685,9 +1685,15 @@ declare module "quorlin/shell" {
         setColumns(columns: texts, headings: dictionary, stressed: boolean): null;
         /** How many were not in the list yet. */
         addPaths(paths: texts): whole;
-        removeSelected(): null;
+        /** How many those were. */
+        removeSelected(): whole;
+        /** Because their files are gone: no edit that could be undone. */
         removeIds(ids: list): null;
-        removeAll(): null;
+        /** How many those were, hidden ones among them. */
+        removeAll(): whole;
+        /** Of adding and removing, the last that still stands. */
+        undoEdit(): null;
+        redoEdit(): null;
         /** Empty beyond the ends. */
         pathBeside(rows: whole): string;
         /** In the order shown. */

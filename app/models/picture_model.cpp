@@ -140,28 +140,61 @@ void PictureModel::setHeadings(const QHash<int, QString> &headings)
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
 }
 
-void PictureModel::removeIds(const QList<int> &ids)
+std::vector<PlacedRow> PictureModel::takeIds(const QList<int> &ids)
 {
     const QSet<int> gone(ids.begin(), ids.end());
-    beginResetModel();
-    std::erase_if(m_rows, [this, &gone](const PictureRow &row) {
-        if (!gone.contains(row.id))
-            return false;
-        m_idOfPath.remove(row.path);
-        m_thumbnails.remove(row.id);
-        return true;
-    });
-    rebuildIndex();
-    endResetModel();
+    return takeWhere([&gone](const PictureRow &row) { return gone.contains(row.id); });
 }
 
-void PictureModel::clear()
+std::vector<PlacedRow> PictureModel::takeAll()
 {
+    return takeWhere([](const PictureRow &) { return true; });
+}
+
+std::vector<PlacedRow> PictureModel::takeWhere(const std::function<bool(const PictureRow &)> &isTaken)
+{
+    std::vector<PlacedRow> taken;
+    std::vector<PictureRow> kept;
     beginResetModel();
-    m_rows.clear();
-    m_idOfPath.clear();
-    m_indexOfId.clear();
-    m_thumbnails.clear();
+    for (size_t i = 0; i < m_rows.size(); ++i) {
+        if (!isTaken(m_rows[i])) {
+            kept.push_back(std::move(m_rows[i]));
+            continue;
+        }
+        m_idOfPath.remove(m_rows[i].path);
+        m_thumbnails.remove(m_rows[i].id);
+        taken.push_back({int(i), std::move(m_rows[i])});
+    }
+    m_rows = std::move(kept);
+    rebuildIndex();
+    endResetModel();
+    return taken;
+}
+
+void PictureModel::putBack(const std::vector<PlacedRow> &rows)
+{
+    std::vector<PictureRow> all;
+    size_t next = 0;
+    beginResetModel();
+    for (const PlacedRow &each : rows) {
+        while (next < m_rows.size() && int(all.size()) < each.place)
+            all.push_back(std::move(m_rows[next++]));
+        if (m_idOfPath.contains(each.row.path))
+            continue;
+        PictureRow row;
+        row.id = each.row.id;
+        row.path = each.row.path;
+        row.name = each.row.name;
+        row.isFolder = each.row.isFolder;
+        row.type = each.row.type;
+        row.bytes = each.row.bytes;
+        m_idOfPath.insert(row.path, row.id);
+        all.push_back(std::move(row));
+    }
+    while (next < m_rows.size())
+        all.push_back(std::move(m_rows[next++]));
+    m_rows = std::move(all);
+    rebuildIndex();
     endResetModel();
 }
 

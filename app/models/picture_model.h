@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QSize>
 
+#include <functional>
 #include <vector>
 
 namespace window {
@@ -32,6 +33,13 @@ struct PictureRow
     StatusKind kind = StatusKind::None;
     QString status;
     QString detail; ///< all of what is known of the status, for the tool tip
+};
+
+/** A row and where it stands among the others. */
+struct PlacedRow
+{
+    int place = 0;
+    PictureRow row;
 };
 
 /** Which rows an action works on. */
@@ -66,8 +74,11 @@ public:
     /** New names are what the list is about, and are drawn so. */
     bool stressesNewNames() const { return m_stressesNewNames; }
     void setStressesNewNames(bool on) { m_stressesNewNames = on; }
-    void removeIds(const QList<int> &ids);
-    void clear();
+    /** Takes rows out and returns them, the upper ones first; an id that no row has is passed over. */
+    std::vector<PlacedRow> takeIds(const QList<int> &ids);
+    std::vector<PlacedRow> takeAll();
+    /** Puts rows back where they stood, as just added; one whose path came into the list again is left out. */
+    void putBack(const std::vector<PlacedRow> &rows);
 
     const PictureRow &row(int index) const { return m_rows[size_t(index)]; }
     /** -1 where no row has that id. */
@@ -91,6 +102,7 @@ public:
 private:
     void changed(int index, Column first, Column last);
     void rebuildIndex();
+    std::vector<PlacedRow> takeWhere(const std::function<bool(const PictureRow &)> &isTaken);
 
     std::vector<PictureRow> m_rows;
     QHash<QString, int> m_idOfPath;

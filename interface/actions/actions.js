@@ -16,7 +16,8 @@
 //   startText(number, settings)  what the button says
 //   headings()  other words for the heads of columns than those of the manner (may be missing)
 // MOVES also: done(number, settings) and undone(number, settings) for the summary, with settings null where they are not known.
-// PAGE also: page, a class made with (window, action) that has form and show(), and may have leave(), mayLeave(), listChanged().
+// PAGE also: page, a class made with (window, action) that has form and show(), and may have leave(), mayLeave(), listChanged(),
+// runChanged(). hasUndo is true where Ctrl+Z belongs to the page.
 
 import { background } from "./background/background-action.js";
 import { convert } from "./convert/convert-action.js";

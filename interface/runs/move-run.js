@@ -361,21 +361,16 @@ export class MoveRun extends BaseRun {
         return fill(qsTr("Last run: %1, %2"), words, problemsText(Math.max(0, run.count - run.done)));
     }
 
-    /** Takes back the newest run, or does again what was taken back. */
-    undo() {
-        const offer = this.undoOffer();
-        if (offer === null) {
-            return;
-        }
+    /** Takes back a run of the move engine, or does again what it took back. */
+    undo(run) {
         const moves = this.window.services.moves;
-        const newest = this.lastRun().run;
         this.startPlanning(this.window.pictures.ids());
-        this.title = newest.title;
-        this.undoes = newest.undoes ? "" : offer.id;
-        this.undone = { id: newest.id, process: newest.title, action: undoAction(newest.undoes !== "") };
+        this.title = run.title;
+        this.undoes = run.undoes ? "" : run.id;
+        this.undone = { id: run.id, process: run.title, action: undoAction(run.undoes !== "") };
         this.toldMs = 0;
         this.leftOut = 0;
-        const begun = moves.undo(offer.id);
+        const begun = moves.undo(run.id);
         if (begun.problem) {
             this.finish(begun.problem);
             return;

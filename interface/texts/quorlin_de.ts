@@ -752,10 +752,6 @@
         <translation>&amp;Umbenennen…</translation>
     </message>
     <message>
-        <source>&amp;Undo Last Run</source>
-        <translation>Letzten Durchlauf &amp;zurücknehmen</translation>
-    </message>
-    <message>
         <source>Show &amp;Failed Only</source>
         <translation>Nur &amp;Fehlgeschlagene zeigen</translation>
     </message>
@@ -782,6 +778,10 @@
     <message>
         <source>&amp;About Quorlin</source>
         <translation>&amp;Über Quorlin</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
     </message>
 </context>
 <context>
@@ -2821,6 +2821,86 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message numerus="yes">
+        <source>Undo Adding %n Files</source>
+        <translation>
+            <numerusform>Hinzufügen von %n Datei rückgängig machen</numerusform>
+            <numerusform>Hinzufügen von %n Dateien rückgängig machen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Adding %n Files</source>
+        <translation>
+            <numerusform>Hinzufügen von %n Datei wiederholen</numerusform>
+            <numerusform>Hinzufügen von %n Dateien wiederholen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo Removing %n Files</source>
+        <translation>
+            <numerusform>Entfernen von %n Datei rückgängig machen</numerusform>
+            <numerusform>Entfernen von %n Dateien rückgängig machen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Removing %n Files</source>
+        <translation>
+            <numerusform>Entfernen von %n Datei wiederholen</numerusform>
+            <numerusform>Entfernen von %n Dateien wiederholen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo Clear List</source>
+        <translation>Leeren der Liste rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redo Clear List</source>
+        <translation>Leeren der Liste wiederholen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo %1 of %n Files</source>
+        <translation>
+            <numerusform>%1 von %n Datei rückgängig machen</numerusform>
+            <numerusform>%1 von %n Dateien rückgängig machen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo %1 of %n Files</source>
+        <translation>
+            <numerusform>%1 von %n Datei wiederholen</numerusform>
+            <numerusform>%1 von %n Dateien wiederholen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo an earlier run</source>
+        <translation>Einen früheren Durchlauf rückgängig machen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n files was done before Quorlin was started this time. Undo it?</source>
+        <translation>
+            <numerusform>„%1“ von %n Datei war vor diesem Start von Quorlin. Rückgängig machen?</numerusform>
+            <numerusform>„%1“ von %n Dateien war vor diesem Start von Quorlin. Rückgängig machen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undo It</source>
+        <translation>Rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>So lassen</translation>
+    </message>
+</context>
+<context>
     <name>image::PictureService</name>
     <message>
         <source>not a readable picture</source>
@@ -3209,6 +3289,10 @@
     <message>
         <source>Stopped:</source>
         <translation>Gestoppt:</translation>
+    </message>
+    <message>
+        <source>A run is under way. What became of each picture stands here when it has ended.</source>
+        <translation>Ein Durchlauf ist im Gang. Was aus jedem Bild geworden ist, steht hier, wenn er beendet ist.</translation>
     </message>
 </context>
 <context>

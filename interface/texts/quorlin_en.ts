@@ -162,6 +162,58 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message numerus="yes">
+        <source>Undo Adding %n Files</source>
+        <translation>
+            <numerusform>Undo Adding %n File</numerusform>
+            <numerusform>Undo Adding %n Files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Adding %n Files</source>
+        <translation>
+            <numerusform>Redo Adding %n File</numerusform>
+            <numerusform>Redo Adding %n Files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo Removing %n Files</source>
+        <translation>
+            <numerusform>Undo Removing %n File</numerusform>
+            <numerusform>Undo Removing %n Files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Removing %n Files</source>
+        <translation>
+            <numerusform>Redo Removing %n File</numerusform>
+            <numerusform>Redo Removing %n Files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo %1 of %n Files</source>
+        <translation>
+            <numerusform>Undo %1 of %n File</numerusform>
+            <numerusform>Undo %1 of %n Files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo %1 of %n Files</source>
+        <translation>
+            <numerusform>Redo %1 of %n File</numerusform>
+            <numerusform>Redo %1 of %n Files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n files was done before Quorlin was started this time. Undo it?</source>
+        <translation>
+            <numerusform>%1 of %n file was done before Quorlin was started this time. Undo it?</numerusform>
+            <numerusform>%1 of %n files was done before Quorlin was started this time. Undo it?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>input</name>
     <message numerus="yes">
         <source>%n were in the list already</source>

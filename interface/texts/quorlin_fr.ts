@@ -752,10 +752,6 @@
         <translation>Re&amp;nommer…</translation>
     </message>
     <message>
-        <source>&amp;Undo Last Run</source>
-        <translation>A&amp;nnuler le dernier traitement</translation>
-    </message>
-    <message>
         <source>Show &amp;Failed Only</source>
         <translation>Échecs &amp;seulement</translation>
     </message>
@@ -782,6 +778,10 @@
     <message>
         <source>&amp;About Quorlin</source>
         <translation>À &amp;propos de Quorlin</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
     </message>
 </context>
 <context>
@@ -2821,6 +2821,86 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message numerus="yes">
+        <source>Undo Adding %n Files</source>
+        <translation>
+            <numerusform>Annuler l’ajout de %n fichier</numerusform>
+            <numerusform>Annuler l’ajout de %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Adding %n Files</source>
+        <translation>
+            <numerusform>Rétablir l’ajout de %n fichier</numerusform>
+            <numerusform>Rétablir l’ajout de %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo Removing %n Files</source>
+        <translation>
+            <numerusform>Annuler le retrait de %n fichier</numerusform>
+            <numerusform>Annuler le retrait de %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Removing %n Files</source>
+        <translation>
+            <numerusform>Rétablir le retrait de %n fichier</numerusform>
+            <numerusform>Rétablir le retrait de %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo Clear List</source>
+        <translation>Annuler le vidage de la liste</translation>
+    </message>
+    <message>
+        <source>Redo Clear List</source>
+        <translation>Rétablir le vidage de la liste</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo %1 of %n Files</source>
+        <translation>
+            <numerusform>Annuler « %1 » de %n fichier</numerusform>
+            <numerusform>Annuler « %1 » de %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo %1 of %n Files</source>
+        <translation>
+            <numerusform>Rétablir « %1 » de %n fichier</numerusform>
+            <numerusform>Rétablir « %1 » de %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo an earlier run</source>
+        <translation>Annuler un traitement précédent</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n files was done before Quorlin was started this time. Undo it?</source>
+        <translation>
+            <numerusform>« %1 » de %n fichier date d’avant ce démarrage de Quorlin. L’annuler ?</numerusform>
+            <numerusform>« %1 » de %n fichiers date d’avant ce démarrage de Quorlin. L’annuler ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Undo It</source>
+        <translation>Revenir en arrière</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>Laisser tel quel</translation>
+    </message>
+</context>
+<context>
     <name>image::PictureService</name>
     <message>
         <source>not a readable picture</source>
@@ -3209,6 +3289,10 @@
     <message>
         <source>Stopped:</source>
         <translation>Arrêté&#x202f;:</translation>
+    </message>
+    <message>
+        <source>A run is under way. What became of each picture stands here when it has ended.</source>
+        <translation>Un traitement est en cours. Ce que chaque image est devenue sera indiqué ici quand il sera terminé.</translation>
     </message>
 </context>
 <context>

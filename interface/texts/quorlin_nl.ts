@@ -752,10 +752,6 @@
         <translation>&amp;Hernoemen…</translation>
     </message>
     <message>
-        <source>&amp;Undo Last Run</source>
-        <translation>&amp;Laatste ongedaan maken</translation>
-    </message>
-    <message>
         <source>Show &amp;Failed Only</source>
         <translation>Alleen m&amp;islukte tonen</translation>
     </message>
@@ -782,6 +778,10 @@
     <message>
         <source>&amp;About Quorlin</source>
         <translation>&amp;Over Quorlin</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Opnieuw</translation>
     </message>
 </context>
 <context>
@@ -2821,6 +2821,86 @@
     </message>
 </context>
 <context>
+    <name>history</name>
+    <message numerus="yes">
+        <source>Undo Adding %n Files</source>
+        <translation>
+            <numerusform>Toevoegen van %n bestand ongedaan maken</numerusform>
+            <numerusform>Toevoegen van %n bestanden ongedaan maken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Adding %n Files</source>
+        <translation>
+            <numerusform>Toevoegen van %n bestand opnieuw uitvoeren</numerusform>
+            <numerusform>Toevoegen van %n bestanden opnieuw uitvoeren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo Removing %n Files</source>
+        <translation>
+            <numerusform>Verwijderen van %n bestand ongedaan maken</numerusform>
+            <numerusform>Verwijderen van %n bestanden ongedaan maken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Removing %n Files</source>
+        <translation>
+            <numerusform>Verwijderen van %n bestand opnieuw uitvoeren</numerusform>
+            <numerusform>Verwijderen van %n bestanden opnieuw uitvoeren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo Clear List</source>
+        <translation>Leegmaken van de lijst ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Redo Clear List</source>
+        <translation>Leegmaken van de lijst opnieuw uitvoeren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo %1 of %n Files</source>
+        <translation>
+            <numerusform>%1 van %n bestand ongedaan maken</numerusform>
+            <numerusform>%1 van %n bestanden ongedaan maken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo %1 of %n Files</source>
+        <translation>
+            <numerusform>%1 van %n bestand opnieuw uitvoeren</numerusform>
+            <numerusform>%1 van %n bestanden opnieuw uitvoeren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo an earlier run</source>
+        <translation>Een eerdere opdracht ongedaan maken</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n files was done before Quorlin was started this time. Undo it?</source>
+        <translation>
+            <numerusform>‘%1’ van %n bestand is van voor deze start van Quorlin. Ongedaan maken?</numerusform>
+            <numerusform>‘%1’ van %n bestanden is van voor deze start van Quorlin. Ongedaan maken?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Undo It</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Leave It</source>
+        <translation>Zo laten</translation>
+    </message>
+</context>
+<context>
     <name>image::PictureService</name>
     <message>
         <source>not a readable picture</source>
@@ -3209,6 +3289,10 @@
     <message>
         <source>Stopped:</source>
         <translation>Gestopt:</translation>
+    </message>
+    <message>
+        <source>A run is under way. What became of each picture stands here when it has ended.</source>
+        <translation>Er loopt een opdracht. Wat er van elke foto is geworden, staat hier als die klaar is.</translation>
     </message>
 </context>
 <context>

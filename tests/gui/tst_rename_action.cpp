@@ -111,6 +111,7 @@ private Q_SLOTS:
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         m_driver->startAgain();
         QCOMPARE(m_driver->text("statusText"), QStringLiteral("Last run: 1 file renamed, 0 problems"));
+        m_driver->answerNextQuestion(QStringLiteral("Undo It"));
         m_driver->click("undoButton");
         QVERIFY(waitForNamesOnDisk({"A.JPG", "b.jpg"}));
     }

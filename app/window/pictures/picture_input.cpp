@@ -100,7 +100,13 @@ void PictureTable::removeIds(const QVariantList &ids)
     const QList<int> gone = platform::wholeNumbers(ids, QStringLiteral("ids"), 0);
     if (gone.isEmpty())
         return;
-    m_model.removeIds(gone);
+    m_model.takeIds(gone);
+    rowsChanged();
+}
+
+// Rows came back or went away.
+void PictureTable::rowsChanged()
+{
     countTaken();
     m_headersUpTo = 0;
     chooseSomeRow();

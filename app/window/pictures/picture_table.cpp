@@ -81,6 +81,10 @@ int PictureTable::addPaths(const QStringList &paths)
     const int added = m_model.add(paths);
     if (added == 0)
         return 0;
+    QList<int> ids;
+    for (int row = m_model.rowCount() - added; row < m_model.rowCount(); ++row)
+        ids.append(m_model.row(row).id);
+    m_edits.added(std::move(ids));
     countTaken();
     chooseSomeRow();
     Q_EMIT countChanged(count());
@@ -88,7 +92,7 @@ int PictureTable::addPaths(const QStringList &paths)
     return added;
 }
 
-void PictureTable::removeSelected()
+int PictureTable::removeSelected()
 {
     QList<int> gone;
     int top = m_order.rowCount();
@@ -98,27 +102,34 @@ void PictureTable::removeSelected()
         top = qMin(top, index.row());
     }
     if (gone.isEmpty())
-        return;
-    m_model.removeIds(gone);
-    countTaken();
-    m_headersUpTo = 0;
-    const int rest = m_order.rowCount();
-    if (rest > 0)
-        setCurrentIndex(m_order.index(qMin(top, rest - 1), PictureModel::Name));
-    else
-        Q_EMIT currentPictureChanged(0);
-    Q_EMIT countChanged(count());
-    wakeLoader();
+        return 0;
+    m_edits.removed(m_model.takeIds(gone));
+    if (m_order.rowCount() > 0)
+        setCurrentIndex(m_order.index(qMin(top, m_order.rowCount() - 1), PictureModel::Name));
+    rowsChanged();
+    return int(gone.size());
 }
 
-void PictureTable::removeAll()
+int PictureTable::removeAll()
 {
-    m_model.clear();
-    countTaken();
-    m_headersUpTo = 0;
+    const int gone = m_model.rowCount();
+    if (gone > 0)
+        m_edits.removed(m_model.takeAll());
     m_order.setProblemsOnly(false);
-    Q_EMIT currentPictureChanged(0);
-    Q_EMIT countChanged(0);
+    rowsChanged();
+    return gone;
+}
+
+void PictureTable::undoEdit()
+{
+    if (m_edits.undo(m_model))
+        rowsChanged();
+}
+
+void PictureTable::redoEdit()
+{
+    if (m_edits.redo(m_model))
+        rowsChanged();
 }
 
 QVariantList PictureTable::selectedIds() const

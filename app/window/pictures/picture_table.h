@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/models/picture_order.h"
+#include "app/window/pictures/list_edits.h"
 
 #include <QTableView>
 #include <QTimer>
@@ -54,9 +55,16 @@ public:
 
     /** Adds the paths that are not in the list yet; returns how many those were. */
     Q_INVOKABLE int addPaths(const QStringList &paths);
-    Q_INVOKABLE void removeSelected();
+    /** Takes the chosen rows out; returns how many those were. */
+    Q_INVOKABLE int removeSelected();
+    /** Takes rows out because their files are gone: no edit that could be undone. */
     Q_INVOKABLE void removeIds(const QVariantList &ids);
-    Q_INVOKABLE void removeAll();
+    /** Takes all rows out, hidden ones too; returns how many those were. */
+    Q_INVOKABLE int removeAll();
+    /** Undoes the last of addPaths(), removeSelected() and removeAll() that still stands; 100 of them are kept. */
+    Q_INVOKABLE void undoEdit();
+    /** Does again what was undone last. */
+    Q_INVOKABLE void redoEdit();
     /** The path of the picture that is @p rows behind the current one, as the list is shown; empty beyond its ends. */
     Q_INVOKABLE QString pathBeside(int rows) const;
     /** The ids of all pictures, in the order shown; in the order of adding while a filter hides some. */
@@ -114,11 +122,13 @@ private:
     QModelIndex shownIndex(int id) const;
     std::vector<int> rowsInOrder() const;
     void countTaken();
+    void rowsChanged();
     /** Keeps a row current as long as there is one. */
     void chooseSomeRow();
 
     PictureModel m_model;
     PictureOrder m_order;
+    ListEdits m_edits;
     QTimer m_loader;
     int m_headersUpTo = 0;
     bool m_busy = false;

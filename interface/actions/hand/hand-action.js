@@ -12,6 +12,7 @@ export const hand = {
     title: () => qsTr("Sort by Hand"),
     manner: PAGE,
     usesList: true,
+    hasUndo: true,
     page: HandPage,
     step: step,
     pane: HandPane,

@@ -45,6 +45,7 @@ export class LogPage {
         this.window = window;
         this.job = shell.job();
         this.undo = null;
+        this.runIsBusy = false;
         this.words = null;
         this.comments = commentsOf(files);
         this.reverting = new CommentJob();
@@ -86,8 +87,16 @@ export class LogPage {
 
     /** Reads what is new in the log. */
     show() {
+        this.runIsBusy = this.window.run.isBusy();
         this.table.follow(logPath(files));
         this.showRun();
+    }
+
+    // A run writes its entries when it ends.
+    runChanged() {
+        if (this.runIsBusy !== this.window.run.isBusy() && !this.isBusy()) {
+            this.show();
+        }
     }
 
     /** Shows what was written into comments, and nothing else. */
@@ -178,6 +187,9 @@ export class LogPage {
 
     // Why the table is empty.
     emptyText(total) {
+        if (total === 0 && this.runIsBusy) {
+            return qsTr("A run is under way. What became of each picture stands here when it has ended.");
+        }
         return total > 0 ? qsTr("No entry matches.")
             : qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.", "",
                    rowLimit());
@@ -316,6 +328,8 @@ export class LogPage {
         const parts = [done]
             .concat(undo.problems > 0 ? [problemsText(undo.problems)] : [], problem ? [problem] : []);
         this.window.sayBeside((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));
+        this.window.run.look();
+        this.window.history.lookForRun();
         this.show();
     }
 }

@@ -109,7 +109,7 @@ export class Input {
     addFound(found, paths) {
         const list = this.window.pictures;
         const before = list.count;
-        list.addPaths(paths);
+        this.window.history.edited("add", list.addPaths(paths));
         const added = list.count - before;
         if (added > 0) {
             list.setFocus();

@@ -7,7 +7,7 @@ function doingsOf(window) {
     return {
         addPictures: () => window.input.addPictures(),
         addFolder: () => window.input.addFolder(),
-        clear: () => window.pictures.removeAll(),
+        clear: () => window.clearList(),
         start: () => window.run.start(),
         pause: () => window.run.togglePause(),
         cancel: () => window.cancel(),
@@ -18,11 +18,13 @@ function doingsOf(window) {
         showFailed: () => window.showProblemsOnly(!window.pictures.problemsOnly),
         openFolders: () => window.openFolders(),
         dismiss: () => window.dismiss(),
-        undo: () => window.run.undo(),
+        undo: () => window.history.undo(),
+        redo: () => window.history.redo(),
+        undoRun: () => window.undoRun(),
         rename: () => { window.form.control("sideBar").currentAction = "rename"; },
         quit: () => window.form.close(),
         paste: () => window.input.paste(),
-        remove: () => window.pictures.removeSelected(),
+        remove: () => window.removeChosen(),
         selectAll: () => window.pictures.selectAll(),
         next: () => window.pictures.step(1),
         previous: () => window.pictures.step(-1),
@@ -37,12 +39,12 @@ const BUTTONS = {
     emptyAddFolder: "addFolder", clearButton: "clear", startButton: "start", pauseButton: "pause",
     cancelButton: "cancel", retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report",
     openFolderButton: "openFolders",
-    showFailedButton: "showFailed", dismissButton: "dismiss", undoButton: "undo",
+    showFailedButton: "showFailed", dismissButton: "dismiss", undoButton: "undoRun",
 };
 
 const ENTRIES = [
     "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "saveAs", "quit",
-    "paste", "remove", "selectAll", "next", "previous", "large", "fit", "fill", "showFailed", "undo", "rename",
+    "paste", "remove", "selectAll", "next", "previous", "large", "fit", "fill", "showFailed", "undo", "redo", "rename",
 ];
 
 function connectControls(window) {

@@ -10,6 +10,7 @@ import { SaveAs } from "../save-as/save-as.js";
 import { ActionPage, fillSideBar, lockSideBar } from "./action-page.js";
 import { Controllers } from "./controllers.js";
 import { Help } from "./help.js";
+import { History } from "./history.js";
 import { Input } from "./input.js";
 import { PageHost } from "./page-host.js";
 import { PreviewSide } from "./preview-side.js";
@@ -40,6 +41,7 @@ export class MainWindow {
         this.run = null;
         this.livePlan = null;
         this.madeParts = [];
+        this.wasBusy = null;
         /** The summary of the newest plan. */
         this.planned = {};
         /** The action whose page is shown instead of list and settings, or null. */
@@ -61,6 +63,7 @@ export class MainWindow {
         this.printing = new Printing(this);
         this.actionPage = new ActionPage(this, () => this.settingsChanged());
         this.input = new Input(this);
+        this.history = new History(this);
         this.support = new SupportBar(this);
         this.shownPage = this.action.page === undefined ? null : this.action;
         this.pageHost.show(this.shownPage);
@@ -92,7 +95,7 @@ export class MainWindow {
         let parts = this.madeParts.find((each) => each.manner === manner);
         if (parts === undefined) {
             parts = { manner: manner, run: null, livePlan: null };
-            parts.run = manner.makeRun(this, () => this.showAll());
+            parts.run = manner.makeRun(this, () => this.runChanged());
             parts.livePlan = manner.makePlan(this, (summary) => { this.planned = summary; this.showStart(); });
             this.madeParts.push(parts);
         }
@@ -158,6 +161,10 @@ export class MainWindow {
         this.drop.open = !busy;
         this.input.showWords();
         lockSideBar(this, busy);
+        if (busy !== this.wasBusy) {
+            this.wasBusy = busy;
+            this.history.show();
+        }
     }
 
     showAll() {
@@ -183,6 +190,14 @@ export class MainWindow {
         this.actionPage.keepSettings();
         this.actionPage.showInput();
         this.planAgain();
+    }
+
+    runChanged() {
+        if (this.run.phase === "ended") {
+            this.history.lookForRun();
+        }
+        this.pageHost.runChanged();
+        this.showAll();
     }
 
     // What a run made of the pictures is the past now: the list shows what the settings would make of them.
@@ -258,6 +273,23 @@ export class MainWindow {
         this.pageHost.show(this.shownPage);
         this.showTitle();
         this.showAll();
+        this.history.lookForRun();
+    }
+
+    /** The undo of the status bar. */
+    undoRun() {
+        const offer = this.run.undoOffer();
+        if (offer !== null) {
+            this.history.takeBack(offer.id);
+        }
+    }
+
+    removeChosen() {
+        this.history.edited("remove", this.pictures.removeSelected());
+    }
+
+    clearList() {
+        this.history.edited("clear", this.pictures.removeAll());
     }
 
     setFill(on) {

@@ -36,6 +36,13 @@ export class PageHost {
         return this.shown === null || this.shown.mayLeave === undefined || this.shown.mayLeave();
     }
 
+    /** A run began, went on or ended. */
+    runChanged() {
+        if (this.shown !== null && this.shown.runChanged !== undefined) {
+            this.shown.runChanged();
+        }
+    }
+
     listChanged() {
         if (this.shown !== null && this.shown.listChanged !== undefined) {
             this.shown.listChanged();

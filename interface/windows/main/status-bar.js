@@ -41,7 +41,6 @@ export function showStatusBar(window) {
     });
     Object.keys(visible).forEach((name) => { control(name).visible = visible[name]; });
     control("undoButton").text = offer === null ? qsTr("Undo") : offer.text;
-    control("undoAction").enabled = offer !== null;
     control("pauseButton").text = run.paused ? qsTr("Continue") : qsTr("Pause");
     control("pauseAction").text = control("pauseButton").text;
     control("pauseAction").enabled = visible.pauseButton;

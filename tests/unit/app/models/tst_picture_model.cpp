@@ -36,14 +36,14 @@ private Q_SLOTS:
         PictureModel model;
         model.add({QStringLiteral("/p/a.jpg"), QStringLiteral("/p/b.jpg"), QStringLiteral("/p/c.jpg")});
         const int third = model.row(2).id;
-        model.removeIds({model.row(0).id, model.row(1).id, 4711});
+        model.takeIds({model.row(0).id, model.row(1).id, 4711});
         QCOMPARE(model.rowCount(), 1);
         QCOMPARE(model.indexOfId(third), 0);
         QCOMPARE(model.indexOfId(4711), -1);
         // What was taken off the list can be added another time, as a new row.
         QCOMPARE(model.add({QStringLiteral("/p/a.jpg"), QStringLiteral("/p/c.jpg")}), 1);
         QVERIFY(model.row(1).id > third);
-        model.clear();
+        model.takeAll();
         QCOMPARE(model.rowCount(), 0);
         QCOMPARE(model.indexOfId(third), -1);
     }

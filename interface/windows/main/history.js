@@ -1,0 +1,186 @@
+// What was done since the start and can be undone, the latest first: edits of the list, and runs that moved files. A run of an
+// earlier start is undone too, but only after a question.
+// Services used: moves (runs, undoable), files (dateText), shell (ask).
+
+import { files } from "quorlin/files";
+import { moves } from "quorlin/moves";
+import { shell } from "quorlin/shell";
+import { allActions } from "../../actions/actions.js";
+import { MOVES } from "../../runs/moves.js";
+import { fill } from "../../lib/wording.js";
+
+const MOST = 100;
+
+const WORDS = {
+    add: { undo: (number) => qsTr("Undo Adding %n Files", "", number),
+           redo: (number) => qsTr("Redo Adding %n Files", "", number) },
+    remove: { undo: (number) => qsTr("Undo Removing %n Files", "", number),
+              redo: (number) => qsTr("Redo Removing %n Files", "", number) },
+    clear: { undo: () => qsTr("Undo Clear List"), redo: () => qsTr("Redo Clear List") },
+    run: { undo: (number, title) => fill(qsTr("Undo %1 of %n Files", "", number), title),
+           redo: (number, title) => fill(qsTr("Redo %1 of %n Files", "", number), title) },
+};
+
+function stepOf(run) {
+    return { kind: "run", count: run.done, title: run.title, id: run.id };
+}
+
+function newestRun() {
+    const run = moves.runs()[0];
+    return run === undefined || run.state === "open" || run.done === 0 ? null : run;
+}
+
+// Nothing is undone without a question that was done when nobody may remember it.
+function mayUndoEarlier(run) {
+    const answer = shell.ask({
+        title: qsTr("Undo an earlier run"),
+        text: fill(qsTr("%1 of %n files was done before Quorlin was started this time. Undo it?", "", run.done),
+                   run.title),
+        detail: files.dateText(run.date), check: "", initial: 1, escape: 1,
+        buttons: [qsTr("Undo It"), qsTr("Leave It")],
+    });
+    return answer.button === 0;
+}
+
+export class History {
+    /** @param window  the main window's parts: form, pictures, run, manner, shownPage */
+    constructor(window) {
+        this.window = window;
+        this.done = [];
+        this.undone = [];
+        this.own = [];
+        this.newest = newestRun();
+        // The newest run of an earlier start, while it can be undone.
+        this.earlier = this.newest;
+        this.forgetEarlier();
+    }
+
+    forgetEarlier() {
+        if (this.earlier !== null && (this.earlier.undoes !== "" || !moves.undoable(this.earlier.id).can)) {
+            this.earlier = null;
+        }
+    }
+
+    /** Something was done to the list: "add", "remove" or "clear", with so many rows. */
+    edited(kind, count) {
+        if (count > 0) {
+            this.keep({ kind: kind, count: count, title: "", id: "" });
+        }
+    }
+
+    keep(step) {
+        this.done.push(step);
+        this.done.splice(0, this.done.length - MOST);
+        this.undone = [];
+        this.show();
+    }
+
+    /** Called after whatever may have moved files: a run, or the undo of one. */
+    lookForRun() {
+        const run = newestRun();
+        if (run !== null && (this.newest === null || run.id !== this.newest.id)) {
+            this.newest = run;
+            this.own.push(run.id);
+            if (run.undoes === "") {
+                this.keep(stepOf(run));
+            } else {
+                this.turned(run);
+            }
+        }
+        this.forgetEarlier();
+        this.show();
+    }
+
+    // A run took another one back: that goes to the other side, under the name of what takes it back in turn.
+    turned(run) {
+        const take = (steps) => {
+            const at = steps.findIndex((step) => step.id === run.undoes);
+            return at < 0 ? null : steps.splice(at, 1)[0];
+        };
+        const redone = take(this.undone);
+        if (redone !== null) {
+            this.done.push(Object.assign(redone, { id: run.id }));
+        } else {
+            this.undone.push(Object.assign(take(this.done) || stepOf(run), { id: run.id }));
+        }
+    }
+
+    /** Was that run made since the start? */
+    isOwn(id) {
+        return this.own.indexOf(id) >= 0;
+    }
+
+    // A page with an undo of its own has the keys to itself.
+    isOpen() {
+        const page = this.window.shownPage;
+        return !this.window.run.isBusy() && (page === null || page.hasUndo !== true);
+    }
+
+    // The last of the steps. One whose files went elsewhere since stands in nobody's way.
+    lastOf(steps) {
+        while (steps.length > 0) {
+            const step = steps[steps.length - 1];
+            if (step.kind !== "run" || moves.undoable(step.id).can) {
+                return step;
+            }
+            steps.pop();
+        }
+        return null;
+    }
+
+    /** Shows in the menu what can be undone and done again. */
+    show() {
+        const open = this.isOpen();
+        const undo = open ? this.lastOf(this.done) || (this.earlier === null ? null : stepOf(this.earlier)) : null;
+        const redo = open ? this.lastOf(this.undone) : null;
+        const words = (step, verb) => WORDS[step.kind][verb](step.count, step.title);
+        this.showEntry("undoAction", undo, undo === null ? qsTr("Undo") : words(undo, "undo"));
+        this.showEntry("redoAction", redo, redo === null ? qsTr("Redo") : words(redo, "redo"));
+    }
+
+    showEntry(name, step, text) {
+        this.window.form.control(name).enabled = step !== null;
+        this.window.form.control(name).text = text;
+    }
+
+    undo() {
+        const step = this.isOpen() ? this.lastOf(this.done) : null;
+        if (step !== null && step.kind === "run") {
+            this.takeBack(step.id);
+        } else if (step !== null) {
+            this.undone.push(this.done.pop());
+            this.window.pictures.undoEdit();
+        } else if (this.isOpen() && this.earlier !== null) {
+            this.takeBack(this.earlier.id);
+        }
+        this.show();
+    }
+
+    redo() {
+        const step = this.isOpen() ? this.lastOf(this.undone) : null;
+        if (step !== null && step.kind === "run") {
+            this.takeBack(step.id);
+        } else if (step !== null) {
+            this.done.push(this.undone.pop());
+            this.window.pictures.redoEdit();
+        }
+        this.show();
+    }
+
+    /** Takes a run back, or does again what it took back: under the action that made it, where that is there. */
+    takeBack(id) {
+        const run = moves.runs().find((each) => each.id === id);
+        if (run === undefined || (!this.isOwn(id) && !mayUndoEarlier(run))) {
+            return;
+        }
+        const window = this.window;
+        if (window.manner !== MOVES) {
+            const movers = allActions().filter((action) => action.manner === MOVES);
+            const maker = movers.find((action) => action.title() === run.title) || movers[0];
+            window.form.control("sideBar").currentAction = maker.name;
+        }
+        if (window.manner === MOVES) {
+            window.run.undo(run);
+        }
+    }
+}
