@@ -170,7 +170,8 @@ QVariantMap Shell::ask(const QVariantMap &question)
     if (checkBox)
         box.setCheckBox(checkBox);
     box.exec();
-    return {{QStringLiteral("button"), qMax(0, int(buttons.indexOf(box.clickedButton())))},
+    const int clicked = int(buttons.indexOf(box.clickedButton()));
+    return {{QStringLiteral("button"), clicked < 0 ? asked.escape : clicked},
             {QStringLiteral("checked"), checkBox && checkBox->isChecked()}};
 }
 
