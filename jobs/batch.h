@@ -21,6 +21,8 @@ struct BatchOptions
     int shard = 1; ///< which of so many parts of the inputs is done, from 1
     int shards = 1;
     QString recipe; ///< its name, see recipeName()
+    QString
+        settings; ///< what results are known by later, see settingsOf(); the same as the recipe where it names no files
 };
 
 /** Takes a line as soon as it is known; false ends the batch behind the pictures that are in work. */

@@ -152,7 +152,7 @@ QString folderFrom(const QString &pattern, const QString &base, const text::Toke
         if (hasToken && isStep(name.trimmed()))
             name.replace(u'.', u'-');
         if (!name.isEmpty())
-            folder = platform::joinedPath(folder, name);
+            folder = platform::joinedPath(folder, platform::shortened(name, platform::longestNameBytes));
     }
     return QDir::cleanPath(folder);
 }

@@ -1,7 +1,10 @@
 #include "jobs/output_places.h"
 
+#include "image/recipe/recipe_reader.h"
 #include "image/recipe/sentence.h"
 #include "jobs/result_mark.h"
+#include "platform/file/atomic_file.h"
+#include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
 
 #include <algorithm>
@@ -20,9 +23,20 @@ QString extensionFor(const image::OutputPlan &plan, const QString &path)
 
 } // namespace
 
-QString settingsName(const QString &recipeName, int index)
+QString settingsOf(const image::Recipe &recipe, const QString &recipeName)
 {
-    return recipeName + u' ' + QString::number(index);
+    const QStringList files = image::filesOf(recipe);
+    if (files.isEmpty())
+        return recipeName;
+    QByteArray contents;
+    for (const QString &path : files)
+        contents += jobs::recipeName(platform::readFile(path).value_or(QByteArray())).toLatin1();
+    return recipeName + u'-' + jobs::recipeName(contents);
+}
+
+QString settingsName(const QString &settings, int index)
+{
+    return settings + u' ' + QString::number(index);
 }
 
 OutputPlaces::OutputPlaces(const image::Recipe &recipe, const EarlierReports &reports, const Inputs &inputs,
@@ -45,7 +59,9 @@ QList<OutputPlace> OutputPlaces::of(const Input &input, const text::TokenFacts &
             plan.type = output.type;
         const QString folder = folderFrom(output.folder, base, facts, plan.size);
         const QString name = nameFrom(output.name, facts, plan.size);
-        const QString wanted = platform::joinedPath(folder, name + extensionFor(plan, input.path));
+        const QString extension = extensionFor(plan, input.path);
+        const qsizetype most = platform::longestNameBytes - extension.toUtf8().size();
+        const QString wanted = platform::joinedPath(folder, platform::shortened(name, most) + extension);
         // What replaces leaves the name of another input to that one's own result.
         const bool isLeft = output.ifTaken == image::IfTaken::Replace && m_names.isOtherInput(wanted, input);
         const QString planned = isLeft ? m_names.planNumbered(wanted) : m_names.plan(wanted);
@@ -71,7 +87,7 @@ OutputPlace OutputPlaces::placeFor(const QString &wanted, const QString &planned
     if (standing == Standing::Nothing)
         return {planned, false, false, {}};
     const bool isCurrent = standing != Standing::OtherResult &&
-                           isCurrentResult(planned, input.path, settingsName(m_reports.recipe, index));
+                           isCurrentResult(planned, input.path, settingsName(m_reports.settings, index));
     // A killed run may have put a result in its place and not have written its line.
     if (m_reports.resumed && isCurrent && output.ifTaken == image::IfTaken::Number && !isResumed(planned))
         return {planned, true, false, {}};

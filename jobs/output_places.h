@@ -16,13 +16,17 @@ struct OutputPlace
     QString reason;         ///< a sentence where it is skipped
 };
 
+/** What results of a recipe are known by: its name, and what is in the pictures, patterns and profiles that it names. */
+QString settingsOf(const image::Recipe &recipe, const QString &recipeName);
+
 /** The settings of an output, as a note on its results names them. */
-QString settingsName(const QString &recipeName, int index);
+QString settingsName(const QString &settings, int index);
 
 /** What earlier reports say about where results are or are to be. */
 struct EarlierReports
 {
     QString recipe;                         ///< its name, see recipeName()
+    QString settings;                       ///< see settingsOf()
     const EarlierReport *plan = nullptr;    ///< paths in it are kept for their outputs
     const EarlierReport *resumed = nullptr; ///< what it has is a result of the same run
 };

@@ -116,7 +116,7 @@ Result<void> ResultFiles::keep(int index, qint64 bytes, const OutputPlace &place
         return tl::unexpected<platform::Error>(failureOf(EIO, place));
     if (output.dates == image::FileDates::Keep)
         takeDateOf(m_input.path, file);
-    markResult(file, m_input.path, settingsName(m_recipeName, index));
+    markResult(file, m_input.path, settingsName(m_settings, index));
     m_kept.append({index, file, place, output.ifTaken});
     return {};
 }

@@ -43,8 +43,8 @@ class ResultFiles
 {
 public:
     /** @param number  tells the picture from all others */
-    ResultFiles(const Input &input, int number, const QString &recipeName, WaitingRooms &rooms)
-        : m_input(input), m_number(number), m_recipeName(recipeName), m_rooms(rooms)
+    ResultFiles(const Input &input, int number, const QString &settings, WaitingRooms &rooms)
+        : m_input(input), m_number(number), m_settings(settings), m_rooms(rooms)
     {
     }
     ResultFiles(const ResultFiles &) = delete;
@@ -86,7 +86,7 @@ private:
 
     Input m_input;
     int m_number;
-    QString m_recipeName;
+    QString m_settings;          ///< see settingsOf()
     QHash<int, QString> m_begun; ///< the files by the indices of their outputs
     QStringList m_folders;       ///< whose rooms they are in
     QList<Kept> m_kept;

@@ -34,7 +34,7 @@ bool isCurrentResult(const QString &path, const QString &source, const QString &
 bool isResultOf(const QString &path, const QString &recipeName)
 {
     const QByteArrayList lines = platform::attachedNote(path).split('\n');
-    return lines.size() == 3 && lines[0].startsWith(recipeName.toUtf8() + ' ') && lines[2] == contentMark(path);
+    return lines.size() == 3 && lines[0].startsWith(recipeName.toUtf8()) && lines[2] == contentMark(path);
 }
 
 } // namespace jobs

@@ -13,7 +13,8 @@ using image::OutputPlan;
 BatchNaming::BatchNaming(const image::Recipe &recipe, const Inputs &inputs, const BatchOptions &options)
     : m_recipe(recipe), m_options(options),
       m_places(recipe,
-               {options.recipe, options.plan ? &*options.plan : nullptr, options.resumed ? &*options.resumed : nullptr},
+               {options.recipe, options.settings, options.plan ? &*options.plan : nullptr,
+                options.resumed ? &*options.resumed : nullptr},
                inputs, options.destination),
       m_namesNeedPictures(namesNeedPictures(recipe))
 {

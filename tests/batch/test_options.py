@@ -287,6 +287,25 @@ class Doing(BatchTest):
         self.run_batch("--preset", "Resize/Web 1600", "a.png", env={"HOME": "/nonexistent"})
         self.assertEqual(self.files("Web"), ["a.jpg"])
 
+    def test_current_knows_the_pictures_of_a_recipe(self):
+        png(self.path("a.png"), 60, 40)
+        png(self.path("logo.png"), 10, 10)
+        self.recipe({"quorlin": 1, "operations": [{"do": "watermark", "picture": "logo.png"}],
+                     "outputs": [{"folder": "out", "ifTaken": "current"}]})
+        self.assertEqual(self.lines("r.quorlin", "a.png")[0]["status"], "OK")
+        if self.lines("r.quorlin", "a.png")[0]["status"] != "Skipped":
+            self.skipTest("this disk has no place for notes on files")
+        png(self.path("logo.png"), 10, 10, shade=3)
+        self.assertEqual(self.lines("r.quorlin", "a.png")[0]["output"], str(self.path("out/a (2).png")))
+
+    def test_long_names(self):
+        png(self.path("in") / ("é" * 125 + ".png"))
+        self.plain(name="{name}-{name}", folder="{name}{name}")
+        planned = self.lines("--dry-run", "r.quorlin", "in")[0]
+        made = self.lines("r.quorlin", "in")[0]
+        self.assertEqual((made["status"], made["output"]), ("OK", planned["output"]))
+        self.assertEqual(os.path.basename(made["output"]), "é" * 125 + "-.png")  # 255 bytes
+
     def test_never_a_picture_that_is_named_later(self):
         a = png(self.path("a.png"), 30, 20)
         b = png(self.path("b.png"), 30, 20)

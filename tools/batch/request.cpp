@@ -1,6 +1,7 @@
 #include "tools/batch/request.h"
 
 #include "image/recipe/recipe_reader.h"
+#include "jobs/output_places.h"
 #include "jobs/presets/preset_recipe.h"
 #include "jobs/presets/supplied_files.h"
 #include "platform/disk/disk_file_system.h"
@@ -144,6 +145,7 @@ Request requestFrom(const CommandLine &line)
         return request;
     }
     request.options.recipe = jobs::recipeName(*file);
+    request.options.settings = jobs::settingsOf(request.recipe, request.options.recipe);
     if (wouldLoseAFile(line)) {
         request.problem = QStringLiteral("%1 is read, so it cannot be the report").arg(line.report);
         return request;

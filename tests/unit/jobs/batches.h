@@ -28,6 +28,7 @@ inline QList<jobs::ReportLine> linesOf(const QByteArray &json, jobs::Inputs &inp
     if (!recipe)
         qFatal("%s", qPrintable(recipe.error().message));
     run.options.recipe = jobs::recipeName(json);
+    run.options.settings = run.options.recipe;
     jobs::Crew crew(run.crew, json, run.folder);
     if (const QString problem = crew.begin(); !problem.isEmpty())
         qFatal("%s", qPrintable(problem));

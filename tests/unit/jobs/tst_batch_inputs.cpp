@@ -271,7 +271,7 @@ void TestBatchInputs::looksAtNothingOfOthers()
     const image::Recipe recipe = World::recipe(json);
     QVERIFY(!namesNeedPictures(recipe));
     Inputs inputs({QStringLiteral("/none/a.jpg"), world.picture("a.png")});
-    OutputPlaces places(recipe, {recipeName(json), nullptr, nullptr}, inputs, {});
+    OutputPlaces places(recipe, {recipeName(json), recipeName(json), nullptr, nullptr}, inputs, {});
     const auto nextPath = [&](int number) {
         const Input input = inputs.take();
         return places.of(input, factsOfFile(input.path, number, false), {}, {}, true).first().path;
