@@ -125,8 +125,7 @@ def manual_table():
 
 
 # The rows of the manual's other table: the names of actions, and the step that says for all of them what metadata goes along.
-ACTION_ROWS = {"Resize, Watermark": ("resize", "watermark"), "Crop": ("crop",), "Rotate & Flip": ("turn",), "Round Corners": ("round",),
-               "Background & Border": ("background",), "Convert": ("convert",)}
+ACTION_ROWS = {"All but Convert": ("resize", "crop", "turn", "round", "background", "watermark"), "Convert": ("convert",)}
 
 
 # A recipe puts all metadata into these; into a GIF what XMP has words for, into a BMP none.
@@ -176,7 +175,7 @@ def main(arguments):
     convert, output = path.parent / "manual/convert.md", path.parent / "manual/output.md"
     wanted = {path: text(),
               convert: with_table(convert.read_text(encoding="utf-8"), "## What is kept, exactly\n\n", manual_table()),
-              output: with_table(output.read_text(encoding="utf-8"), "what goes along. In short:\n\n", actions_table())}
+              output: with_table(output.read_text(encoding="utf-8"), "What goes along. In short:\n\n", actions_table())}
     if arguments[0] != "--check":
         for name, content in wanted.items():
             name.write_text(content, encoding="utf-8")

@@ -1959,6 +1959,10 @@
         <source>A %1 picture has no transparent parts: it stays as it looks.</source>
         <translation>Ein %1-Bild hat keine transparenten Bereiche: Es bleibt, wie es aussieht.</translation>
     </message>
+    <message>
+        <source>“%1” cannot be read as a picture.</source>
+        <translation>„%1“ kann nicht als Bild gelesen werden.</translation>
+    </message>
 </context>
 <context>
     <name>by-recipe</name>
@@ -3738,38 +3742,6 @@
 </context>
 <context>
     <name>output-pane</name>
-    <message>
-        <source>EXIF, IPTC and XMP do not go along.</source>
-        <translation>EXIF, IPTC und XMP werden nicht übernommen.</translation>
-    </message>
-    <message>
-        <source>EXIF, IPTC and XMP go along into %1 files only.</source>
-        <translation>EXIF, IPTC und XMP werden nur bei %1 übernommen.</translation>
-    </message>
-    <message>
-        <source> and </source>
-        <translation> und </translation>
-    </message>
-    <message>
-        <source>Metadata and colour profile go along.</source>
-        <translation>Metadaten und Farbprofil werden übernommen.</translation>
-    </message>
-    <message>
-        <source>The colour profile goes along if it fits, else colours become sRGB; EXIF, IPTC and XMP do not.</source>
-        <translation>Das Farbprofil wird übernommen, wenn es passt, sonst werden die Farben zu sRGB; EXIF, IPTC und XMP nicht.</translation>
-    </message>
-    <message>
-        <source>The colour profile goes along; EXIF, IPTC and XMP do not.</source>
-        <translation>Das Farbprofil wird übernommen; EXIF, IPTC und XMP nicht.</translation>
-    </message>
-    <message>
-        <source>Neither metadata nor colour profile go along; colours become sRGB.</source>
-        <translation>Weder Metadaten noch Farbprofil werden übernommen; Farben werden zu sRGB.</translation>
-    </message>
-    <message>
-        <source>Transparent parts become black.</source>
-        <translation>Transparente Bereiche werden schwarz.</translation>
-    </message>
     <message>
         <source>Number the new file</source>
         <translation>Neue Datei nummerieren</translation>
@@ -6315,20 +6287,12 @@
         <translation>Geben Sie eine Rahmenbreite von 0 bis %1 ein.</translation>
     </message>
     <message>
-        <source>The circle is cut from the square at the left.</source>
-        <translation>Der Kreis wird aus dem Quadrat am linken Rand geschnitten.</translation>
-    </message>
-    <message>
-        <source>The circle is cut from the square at the bottom.</source>
-        <translation>Der Kreis wird aus dem Quadrat am unteren Rand geschnitten.</translation>
-    </message>
-    <message>
-        <source>%1 has no transparency: what lies outside the shape becomes black.</source>
-        <translation>%1 kennt keine Transparenz: Was außerhalb der Form liegt, wird schwarz.</translation>
-    </message>
-    <message>
         <source>the band would cover all of it</source>
         <translation>der Rahmen würde alles bedecken</translation>
+    </message>
+    <message>
+        <source>The circle is cut from the square in the middle.</source>
+        <translation>Der Kreis wird aus dem Quadrat in der Mitte geschnitten.</translation>
     </message>
 </context>
 <context>
@@ -7457,16 +7421,12 @@
         <translation>Die Bildfläche wächst, damit die Ecken Platz haben.</translation>
     </message>
     <message>
-        <source>The canvas grows so that the corners fit; what is beside the picture becomes black.</source>
-        <translation>Die Bildfläche wächst, damit die Ecken Platz haben; was neben dem Bild liegt, wird schwarz.</translation>
-    </message>
-    <message>
         <source>%1 cannot be written; convert it first</source>
         <translation>%1 kann nicht geschrieben werden; wandeln Sie es zuerst um</translation>
     </message>
     <message>
-        <source>not a readable picture</source>
-        <translation>kein lesbares Bild</translation>
+        <source>The canvas grows so that the corners fit; what is beside the picture becomes white.</source>
+        <translation>Die Bildfläche wächst, damit die Ecken Platz haben; was neben dem Bild liegt, wird weiß.</translation>
     </message>
 </context>
 <context>
@@ -8115,18 +8075,6 @@
     <message>
         <source>the result is %1 instead of %2</source>
         <translation>das Ergebnis ist %1 statt %2</translation>
-    </message>
-    <message>
-        <source>Metadata and colour profile are not kept</source>
-        <translation>Metadaten und Farbprofil entfallen</translation>
-    </message>
-    <message>
-        <source>EXIF, IPTC and XMP are not kept</source>
-        <translation>EXIF, IPTC und XMP entfallen</translation>
-    </message>
-    <message>
-        <source>transparent parts become black</source>
-        <translation>transparente Bereiche werden schwarz</translation>
     </message>
 </context>
 </TS>

@@ -1959,6 +1959,10 @@
         <source>A %1 picture has no transparent parts: it stays as it looks.</source>
         <translation>Une image %1 n’a pas de parties transparentes&#x202f;: elle garde son aspect.</translation>
     </message>
+    <message>
+        <source>“%1” cannot be read as a picture.</source>
+        <translation>« %1 » ne peut pas être lu comme une image.</translation>
+    </message>
 </context>
 <context>
     <name>by-recipe</name>
@@ -3738,38 +3742,6 @@
 </context>
 <context>
     <name>output-pane</name>
-    <message>
-        <source>EXIF, IPTC and XMP do not go along.</source>
-        <translation>EXIF, IPTC et XMP ne sont pas repris.</translation>
-    </message>
-    <message>
-        <source>EXIF, IPTC and XMP go along into %1 files only.</source>
-        <translation>EXIF, IPTC et XMP ne sont repris que dans les fichiers %1.</translation>
-    </message>
-    <message>
-        <source> and </source>
-        <translation> et </translation>
-    </message>
-    <message>
-        <source>Metadata and colour profile go along.</source>
-        <translation>Métadonnées et profil colorimétrique sont repris.</translation>
-    </message>
-    <message>
-        <source>The colour profile goes along if it fits, else colours become sRGB; EXIF, IPTC and XMP do not.</source>
-        <translation>Le profil colorimétrique est repris s’il convient, sinon les couleurs passent en sRGB ; EXIF, IPTC et XMP ne le sont pas.</translation>
-    </message>
-    <message>
-        <source>The colour profile goes along; EXIF, IPTC and XMP do not.</source>
-        <translation>Le profil colorimétrique est repris&#x202f;; EXIF, IPTC et XMP ne le sont pas.</translation>
-    </message>
-    <message>
-        <source>Neither metadata nor colour profile go along; colours become sRGB.</source>
-        <translation>Ni les métadonnées ni le profil colorimétrique ne sont repris&#x202f;; les couleurs passent en sRGB.</translation>
-    </message>
-    <message>
-        <source>Transparent parts become black.</source>
-        <translation>Les parties transparentes deviennent noires.</translation>
-    </message>
     <message>
         <source>Number the new file</source>
         <translation>Numéroter le nouveau</translation>
@@ -6315,20 +6287,12 @@
         <translation>Saisissez une largeur de bande de 0 à %1.</translation>
     </message>
     <message>
-        <source>The circle is cut from the square at the left.</source>
-        <translation>Le cercle est découpé dans le carré de gauche.</translation>
-    </message>
-    <message>
-        <source>The circle is cut from the square at the bottom.</source>
-        <translation>Le cercle est découpé dans le carré du bas.</translation>
-    </message>
-    <message>
-        <source>%1 has no transparency: what lies outside the shape becomes black.</source>
-        <translation>%1 n’a pas de transparence&#x202f;: ce qui est hors de la forme devient noir.</translation>
-    </message>
-    <message>
         <source>the band would cover all of it</source>
         <translation>la bande couvrirait toute l’image</translation>
+    </message>
+    <message>
+        <source>The circle is cut from the square in the middle.</source>
+        <translation>Le cercle est découpé dans le carré du milieu.</translation>
     </message>
 </context>
 <context>
@@ -7457,16 +7421,12 @@
         <translation>La surface s’agrandit pour que les coins tiennent.</translation>
     </message>
     <message>
-        <source>The canvas grows so that the corners fit; what is beside the picture becomes black.</source>
-        <translation>La surface s’agrandit pour que les coins tiennent&#x202f;; ce qui entoure l’image devient noir.</translation>
-    </message>
-    <message>
         <source>%1 cannot be written; convert it first</source>
         <translation>%1 ne peut pas être écrit&#x202f;; convertissez d’abord l’image</translation>
     </message>
     <message>
-        <source>not a readable picture</source>
-        <translation>image illisible</translation>
+        <source>The canvas grows so that the corners fit; what is beside the picture becomes white.</source>
+        <translation>La surface s’agrandit pour que les coins tiennent&#x202f;; ce qui est à côté de l’image devient blanc.</translation>
     </message>
 </context>
 <context>
@@ -8115,18 +8075,6 @@
     <message>
         <source>the result is %1 instead of %2</source>
         <translation>le résultat fait %1 au lieu de %2</translation>
-    </message>
-    <message>
-        <source>Metadata and colour profile are not kept</source>
-        <translation>Sans métadonnées ni profil colorimétrique</translation>
-    </message>
-    <message>
-        <source>EXIF, IPTC and XMP are not kept</source>
-        <translation>Sans EXIF, IPTC ni XMP</translation>
-    </message>
-    <message>
-        <source>transparent parts become black</source>
-        <translation>transparence en noir</translation>
     </message>
 </context>
 </TS>

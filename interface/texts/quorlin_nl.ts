@@ -1959,6 +1959,10 @@
         <source>A %1 picture has no transparent parts: it stays as it looks.</source>
         <translation>Een %1-foto heeft geen transparante delen: het uiterlijk verandert niet.</translation>
     </message>
+    <message>
+        <source>“%1” cannot be read as a picture.</source>
+        <translation>“%1” kan niet als afbeelding worden gelezen.</translation>
+    </message>
 </context>
 <context>
     <name>by-recipe</name>
@@ -3738,38 +3742,6 @@
 </context>
 <context>
     <name>output-pane</name>
-    <message>
-        <source>EXIF, IPTC and XMP do not go along.</source>
-        <translation>EXIF, IPTC en XMP gaan niet mee.</translation>
-    </message>
-    <message>
-        <source>EXIF, IPTC and XMP go along into %1 files only.</source>
-        <translation>EXIF, IPTC en XMP gaan alleen mee in %1-bestanden.</translation>
-    </message>
-    <message>
-        <source> and </source>
-        <translation>- en </translation>
-    </message>
-    <message>
-        <source>Metadata and colour profile go along.</source>
-        <translation>Metadata en kleurprofiel gaan mee.</translation>
-    </message>
-    <message>
-        <source>The colour profile goes along if it fits, else colours become sRGB; EXIF, IPTC and XMP do not.</source>
-        <translation>Het kleurprofiel gaat mee als het past, anders worden de kleuren sRGB; EXIF, IPTC en XMP niet.</translation>
-    </message>
-    <message>
-        <source>The colour profile goes along; EXIF, IPTC and XMP do not.</source>
-        <translation>Het kleurprofiel gaat mee; EXIF, IPTC en XMP niet.</translation>
-    </message>
-    <message>
-        <source>Neither metadata nor colour profile go along; colours become sRGB.</source>
-        <translation>Metadata en kleurprofiel gaan niet mee; kleuren worden sRGB.</translation>
-    </message>
-    <message>
-        <source>Transparent parts become black.</source>
-        <translation>Transparante delen worden zwart.</translation>
-    </message>
     <message>
         <source>Number the new file</source>
         <translation>Nummer toevoegen</translation>
@@ -6315,20 +6287,12 @@
         <translation>Geef een breedte van de binnenrand op van 0 tot %1.</translation>
     </message>
     <message>
-        <source>The circle is cut from the square at the left.</source>
-        <translation>De cirkel wordt uit het vierkant links gesneden.</translation>
-    </message>
-    <message>
-        <source>The circle is cut from the square at the bottom.</source>
-        <translation>De cirkel wordt uit het vierkant onderaan gesneden.</translation>
-    </message>
-    <message>
-        <source>%1 has no transparency: what lies outside the shape becomes black.</source>
-        <translation>%1 kent geen transparantie: wat buiten de vorm ligt, wordt zwart.</translation>
-    </message>
-    <message>
         <source>the band would cover all of it</source>
         <translation>de binnenrand zou alles bedekken</translation>
+    </message>
+    <message>
+        <source>The circle is cut from the square in the middle.</source>
+        <translation>De cirkel wordt uit het vierkant in het midden gesneden.</translation>
     </message>
 </context>
 <context>
@@ -7457,16 +7421,12 @@
         <translation>Het canvas groeit zodat de hoeken passen.</translation>
     </message>
     <message>
-        <source>The canvas grows so that the corners fit; what is beside the picture becomes black.</source>
-        <translation>Het canvas groeit zodat de hoeken passen; wat naast de foto ligt, wordt zwart.</translation>
-    </message>
-    <message>
         <source>%1 cannot be written; convert it first</source>
         <translation>%1 kan niet worden geschreven; converteer het eerst</translation>
     </message>
     <message>
-        <source>not a readable picture</source>
-        <translation>geen leesbare foto</translation>
+        <source>The canvas grows so that the corners fit; what is beside the picture becomes white.</source>
+        <translation>Het canvas groeit zodat de hoeken passen; wat naast de foto ligt wordt wit.</translation>
     </message>
 </context>
 <context>
@@ -8115,18 +8075,6 @@
     <message>
         <source>the result is %1 instead of %2</source>
         <translation>het resultaat is %1 in plaats van %2</translation>
-    </message>
-    <message>
-        <source>Metadata and colour profile are not kept</source>
-        <translation>Zonder metadata en kleurprofiel</translation>
-    </message>
-    <message>
-        <source>EXIF, IPTC and XMP are not kept</source>
-        <translation>Zonder EXIF, IPTC en XMP</translation>
-    </message>
-    <message>
-        <source>transparent parts become black</source>
-        <translation>transparant wordt zwart</translation>
     </message>
 </context>
 </TS>

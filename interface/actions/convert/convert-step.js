@@ -14,8 +14,8 @@ export const defaults = {
     output: usualOutput(ORIGINAL, "10", qsTr("Converted")),
 };
 
-/** The output block offers no type, for that is what the pane is about, which also says what goes along. */
-export const offer = { types: [], quality: false, metadata: ["public.png", "public.tiff"], saysNothing: true };
+/** The output block offers no type, for that is what the pane is about, which also says what metadata goes into. */
+export const offer = { types: [], quality: false, metadata: ["public.png", "public.tiff"] };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {

@@ -1,13 +1,12 @@
-// Cuts a rectangle out of a picture.
-// Services used: image (cropImage, with its outlets), units, files. Plain data in, plain data out.
+// Cuts a rectangle out of a picture, as an operation of a recipe.
+// Services used: recipes (planOutput, make), units, files. Plain data in, plain data out.
 
 import { cropFrame, insidePicture } from "./crops.js";
 import { inPixels, PIXEL, UNITS } from "../../lib/measure.js";
-import { splitPath } from "../../lib/names.js";
-import { ORIGINAL, WRITTEN, writtenType } from "../../lib/types.js";
+import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { usualOutput } from "../shared/by-recipe.js";
-import { handsOnTurn, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
+import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { outputMessages, targetOf } from "../shared/written.js";
 
 export const MOST = 100000;
 /** The ratios of the frame that can be kept: "free" for none, "original" for that of the picture. */
@@ -24,7 +23,7 @@ export const defaults = {
 };
 
 /** What the output block offers; see the Resize step. */
-export const offer = { types: WRITTEN.map((type) => type.id), quality: true, metadata: ["public.tiff"] };
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
 const LABELS = { size: "W x H", percent: "%", pixels: "Pixels" };
 
@@ -73,6 +72,11 @@ export function forPhoto(photo, settings, services) {
     return inPixels(photo, settings, lengths, services);
 }
 
+/** What is done to one picture: in its own pixels, so that the frame that is shown is what is cut. */
+export function recipe(photo, settings, services) {
+    return recipeOf("Crop", Object.assign(forPhoto(photo, settings, services), { unit: PIXEL }));
+}
+
 /** What a run would write for one picture: a plan with the frame, or a final status with its reason. */
 export function plan(photo, settings, services) {
     const target = targetOf(photo, settings.output.fileType);
@@ -87,15 +91,15 @@ export function plan(photo, settings, services) {
     if (inside === null) {
         return { status: "Failed", reason: qsTr("the frame lies outside the picture") };
     }
-    const cut = inside.width < frame.width || inside.height < frame.height;
-    const notes = cut ? [qsTr("Cut off at the picture’s edge.")] : [];
-    const planned = ready(splitPath(photo.path).base + target.type.extension, target.type, inside, notes);
-    planned.frame = frame;
-    planned.inside = inside;
-    return planned;
+    const planned = planBy(photo, settings,
+                           () => services.recipes.planOutput(photo.path, recipe(photo, settings, services)));
+    if (planned.status === "ready" && (inside.width < frame.width || inside.height < frame.height)) {
+        planned.notes = [qsTr("Cut off at the picture’s edge.")].concat(planned.notes);
+    }
+    return Object.assign(planned, { frame: frame, inside: inside });
 }
 
-/** Fills the outlets of the operation. */
+/** Fills the outlets of the operation that draws the frame. */
 export function fillOutlets(photo, settings, services) {
     const pixels = forPhoto(photo, settings, services);
     const outlets = services.outlets;
@@ -112,24 +116,10 @@ export function fillOutlets(photo, settings, services) {
 
 /** Writes the cut picture as settings.prefix + name, where plan() tells the name; see the Resize step. */
 export function run(photo, settings, services) {
-    const planned = plan(photo, settings, services);
-    if (planned.status !== "ready") {
-        return refused(planned);
-    }
-    const output = settings.output;
-    fillOutlets(photo, settings, services);
-    const status = services.image.cropImage(photo.path, planned.frame.width, planned.frame.height, settings.prefix,
-                                            output.fileType,
-                                            output.quality);
-    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata),
-                          services);
+    return makeBy(photo, settings, recipe(photo, settings, services), plan(photo, settings, services), services);
 }
 
 /** What the preview does to the upright picture to show the result. */
-export function preview(photo, settings, planned) {
-    const part = planned.inside;
-    /** @type {any[]} */
-    const deeds = [{ do: "cut", x: part.x, y: part.y, width: part.width, height: part.height }];
-    return { deeds: writtenType(planned.type).alpha ? deeds : deeds.concat([{ do: "flatten" }]), width: planned.width,
-             height: planned.height, type: planned.type, quality: settings.output.quality };
+export function preview(photo, settings, planned, services) {
+    return showBy(photo, recipe(photo, settings, services), planned, settings.output.quality);
 }

@@ -1,11 +1,10 @@
-// Cuts pictures to a rectangle with round corners, a circle or an ellipse.
-// Services used: image (roundCornersOfImage, with its outlets), files. Plain data in, plain data out.
+// Cuts pictures to a rectangle with round corners, a circle or an ellipse, as an operation of a recipe.
+// Services used: recipes (planOutput, make), files. Plain data in, plain data out.
 
-import { FORMAT_CODES, MASK_TYPES, maskName } from "../shared/masks.js";
-import { writtenType } from "../../lib/types.js";
+import { MASK_TYPES, maskName } from "../shared/masks.js";
 import { fill } from "../../lib/wording.js";
-import { usualOutput } from "../shared/by-recipe.js";
-import { handsOnTurn, outputMessages, ready, refused, targetOf, uprightOutcome } from "../shared/written.js";
+import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { outputMessages, targetOf } from "../shared/written.js";
 
 export const MOST_RADIUS = 100000;
 export const MOST_BAND = 10000;
@@ -17,10 +16,9 @@ export const defaults = {
 };
 
 /** What the output block offers; see the Resize step. */
-export const offer = { types: MASK_TYPES, quality: false, metadata: ["public.jpeg", "public.tiff"] };
+export const offer = { types: MASK_TYPES, quality: false, byRecipe: true };
 
 export const SHAPES = ["rectangle", "circle", "ellipse"];
-const SHAPE_CODES = { rectangle: "0", circle: "1", ellipse: "2" };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
@@ -47,55 +45,34 @@ export function validate(settings) {
     return messages.concat(outputMessages(settings.output));
 }
 
-function notesFor(photo, settings, type) {
-    const notes = [];
-    if (settings.shape === "circle" && photo.width !== photo.height) {
-        notes.push(photo.width > photo.height ? qsTr("The circle is cut from the square at the left.")
-                                              : qsTr("The circle is cut from the square at the bottom."));
-    }
-    if (!settings.background && !type.alpha) {
-        notes.push(qsTr("%1 has no transparency: what lies outside the shape becomes black.").replace("%1", type.word));
-    }
-    return notes;
+/** What is done to each picture. */
+export function recipe(settings) {
+    return recipeOf("Round Corners", settings);
 }
 
 /** What a run would write for one picture, or a final status with its reason. */
-export function plan(photo, settings) {
+export function plan(photo, settings, services) {
     const target = targetOf(photo, settings.output.fileType);
     if (target.refusal !== null) {
         return target.refusal;
     }
-    const shorter = Math.min(photo.width, photo.height);
-    if (settings.background && 2 * settings.band >= shorter) {
+    if (settings.background && 2 * settings.band >= Math.min(photo.width, photo.height)) {
         return { status: "Failed", reason: qsTr("the band would cover all of it") };
     }
-    const size = settings.shape === "circle" ? { width: shorter, height: shorter } : photo;
-    return ready(maskName(photo.path, settings.output.fileType), target.type, size,
-                 notesFor(photo, settings, target.type));
+    const planned = planBy(photo, settings, () => services.recipes.planOutput(photo.path, recipe(settings)),
+                           () => maskName(photo.path, settings.output.fileType));
+    if (planned.status === "ready" && settings.shape === "circle" && photo.width !== photo.height) {
+        planned.notes = [qsTr("The circle is cut from the square in the middle.")].concat(planned.notes);
+    }
+    return planned;
 }
 
 /** Writes the cut picture as settings.prefix + name, where plan() tells the name; see the Resize step. */
 export function run(photo, settings, services) {
-    const planned = plan(photo, settings);
-    if (planned.status !== "ready") {
-        return refused(planned);
-    }
-    const outlets = services.outlets;
-    outlets.backgroundCheck.state = settings.background ? 1 : 0;
-    outlets.backgroundColor.color = settings.color;
-    outlets.bandWidth.stringValue = String(settings.band);
-    const status = services.image.roundCornersOfImage(photo.path, settings.prefix, settings.radius,
-                                                      SHAPE_CODES[settings.shape],
-                                                      FORMAT_CODES[settings.output.fileType]);
-    return uprightOutcome(status, settings.prefix + planned.name, planned, handsOnTurn(photo, planned, offer.metadata),
-                          services);
+    return makeBy(photo, settings, recipe(settings), plan(photo, settings, services), services);
 }
 
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned) {
-    /** @type {any[]} */
-    const deeds = [{ do: "round", shape: SHAPE_CODES[settings.shape], radius: settings.radius,
-                     color: settings.background ? settings.color : "", band: settings.background ? settings.band : 0 }];
-    return { deeds: writtenType(planned.type).alpha ? deeds : deeds.concat([{ do: "flatten" }]), width: planned.width,
-             height: planned.height, type: planned.type, quality: "" };
+    return showBy(photo, recipe(settings), planned, "");
 }

@@ -14,35 +14,6 @@ const FOLDER = "folder:";
 const CHOICES = ["fileType", "quality", "metadata", "ifTaken"];
 const CHECKS = ["removeLocation", "simulation"];
 
-// What goes along into each type, in plain words.
-function metadataNote(types) {
-    if (types.length === 0) {
-        return qsTr("EXIF, IPTC and XMP do not go along.");
-    }
-    const words = types.map((id) => writtenType(id).word);
-    const last = words.pop();
-    return fill(qsTr("EXIF, IPTC and XMP go along into %1 files only."),
-                words.length === 0 ? last : words.join(", ") + qsTr(" and ") + last);
-}
-
-function noteFor(choice, carried) {
-    const type = writtenType(choice);
-    if (type === null) {
-        return metadataNote(carried);
-    }
-    const sentences = [];
-    if (carried.indexOf(type.id) >= 0) {
-        sentences.push(qsTr("Metadata and colour profile go along."));
-    } else if (type.profile === "ifItFits") {
-        sentences.push(qsTr("The colour profile goes along if it fits, else colours become sRGB; EXIF, IPTC and XMP do not."));
-    } else if (type.profile === "yes") {
-        sentences.push(qsTr("The colour profile goes along; EXIF, IPTC and XMP do not."));
-    } else {
-        sentences.push(qsTr("Neither metadata nor colour profile go along; colours become sRGB."));
-    }
-    return sentences.concat(type.alpha ? [] : [qsTr("Transparent parts become black.")]).join(" ");
-}
-
 /** The block. `recent` is the list of folders that were saved to; changed() is called after each change. */
 export class OutputPane {
     constructor(recent, changed) {
@@ -148,12 +119,5 @@ export class OutputPane {
         this.form.control("removeLocation").visible = this.offer.byRecipe === true && this.output.metadata !== "none";
         this.form.control("quality").enabled = hasQuality;
         this.form.control("qualityLabel").enabled = hasQuality;
-    }
-
-    /** Says what of metadata, profile and transparency the results keep; carried: the types that metadata goes into. */
-    showNote(carried) {
-        const note = this.form.control("typeNote");
-        note.visible = this.offer.saysNothing !== true && this.offer.byRecipe !== true;
-        note.text = note.visible ? noteFor(this.output.fileType, carried) : "";
     }
 }

@@ -157,7 +157,9 @@ export class Pane {
     showPlanned(photo, planned) {
         const ready = planned !== null && planned.status === "ready";
         const reason = planned === null ? "–" : planned.reason;
-        this.say("planNote", ready ? planned.notes.join(" ") : "");
+        const losses = ready && planned.losses !== undefined ? planned.losses : [];
+        // What gets lost stands at the foot of the result.
+        this.say("planNote", ready ? planned.notes.filter((note) => losses.indexOf(note) < 0).join(" ") : "");
         this.form.control("resultText").text = ready ? this.resultText(photo, planned) : reason;
     }
 

@@ -1,10 +1,10 @@
 // What the steps that write pictures have in common: what cannot be written, and a look at the file that came out.
-// Services used: files (storedSize, markUpright).
+// Services used: files (storedSize).
 
 import { splitPath } from "../../lib/names.js";
 import { isSound } from "../../runs/plan.js";
 import { fill } from "../../lib/wording.js";
-import { keepsProfile, madeType, ORIGINAL, resultType, typeOfExtension, writtenType } from "../../lib/types.js";
+import { ORIGINAL, resultType, typeOfExtension, writtenType } from "../../lib/types.js";
 
 /** Messages on output settings that no run can start with. */
 export function outputMessages(output) {
@@ -78,42 +78,4 @@ export function outcome(status, path, planned, services, stored) {
                                                                                                    words(expected)));
     }
     return { status: "OK", reason: "", outputs: [path], width: planned.width, height: planned.height };
-}
-
-/** True if the orientation tag of the source is handed on by an operation that carries metadata into the given types. */
-export function handsOnTurn(photo, planned, carrying) {
-    return (photo.orientation || 1) !== 1 && carrying.indexOf(planned.type) >= 0;
-}
-
-/**
- * As outcome(), for an operation that writes upright pixels: where the orientation tag was handed on (see handsOnTurn()) it is set
- * right, or the picture would be shown turned.
- */
-export function uprightOutcome(status, path, planned, isTagged, services) {
-    const result = outcome(status, path, planned, services);
-    if (result.status !== "OK" || !isTagged) {
-        return result;
-    }
-    const problem = services.files.markUpright(path);
-    return problem ? failed(problem) : result;
-}
-
-/** The types that metadata goes along into with these settings of a step. */
-export function carriedBy(step, settings) {
-    return step.carried === undefined ? step.offer.metadata : step.carried(settings);
-}
-
-/** What the result of a picture will not hold, in words; empty where nothing is lost. */
-export function lossText(photo, typeId, carried) {
-    const type = madeType(typeId);
-    const lost = [];
-    if (!keepsProfile(photo.path, type)) {
-        lost.push(qsTr("Metadata and colour profile are not kept"));
-    } else if (carried.indexOf(typeId) < 0) {
-        lost.push(qsTr("EXIF, IPTC and XMP are not kept"));
-    }
-    if (!type.alpha && mayBeTransparent(photo)) {
-        lost.push(qsTr("transparent parts become black"));
-    }
-    return lost.join(" · ");
 }

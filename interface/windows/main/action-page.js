@@ -6,7 +6,6 @@ import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
 import { firstSettings } from "../../lib/wishes.js";
-import { carriedBy } from "../../actions/shared/written.js";
 import { OutputPane } from "../../actions/shared/output-pane.js";
 import { PresetPane } from "../../presets/preset-pane.js";
 import { actionNamed, allActions, GROUPS, presetKinds } from "../../actions/actions.js";
@@ -18,7 +17,6 @@ export class ActionPage {
     constructor(window, changed) {
         this.window = window;
         this.changed = guard("settings", () => {
-            this.showCarried();
             this.presets.settingsChanged();
             changed();
         });
@@ -66,7 +64,6 @@ export class ActionPage {
         control("besideHost").visible = page.pane !== null && page.pane.beside !== undefined;
         if (manner.output) {
             this.output.use(page.settings.output, action.step.offer);
-            this.showCarried();
         }
         if (action.presets !== undefined) {
             this.presets.use(action.name, action.title(), page.pane);
@@ -126,13 +123,6 @@ export class ActionPage {
             .forEach((name) => this.made[name].pane.fill());
         if (JSON.stringify(this.window.settings) !== before && !this.window.run.isBusy()) {
             this.changed();
-        }
-    }
-
-    // What metadata goes along may hang on the settings.
-    showCarried() {
-        if (this.window.action.manner.output) {
-            this.output.showNote(carriedBy(this.window.action.step, this.window.settings));
         }
     }
 

@@ -5,7 +5,6 @@ import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { madeType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { carriedBy, lossText } from "../../actions/shared/written.js";
 
 function pixelsText(size) {
     return fill(qsTr("%1 × %2 px"), size.width, size.height);
@@ -73,15 +72,13 @@ export class PreviewSide {
         this.showCaptions(this.view.estimatedBytes);
     }
 
-    // A step may know better than the types of the output block what gets lost.
+    // What this picture has and its result will not have, where the step or its plan knows.
     lostText(photo, planned) {
         const step = this.window.action.step;
-        const settings = this.window.settings;
-        if (step.offer.byRecipe) {
+        if (planned.losses !== undefined) {
             return planned.losses.join(" · ");
         }
-        return step.lost === undefined
-            ? lossText(photo, planned.type, carriedBy(step, settings)) : step.lost(photo, settings);
+        return step.lost === undefined ? "" : step.lost(photo, this.window.settings);
     }
 
     showCaptions(bytes) {

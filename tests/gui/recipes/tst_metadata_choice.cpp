@@ -16,7 +16,9 @@ using window::PictureModel;
 namespace {
 
 /** The actions that let a person choose what results keep of the metadata, and the folder that their results go to at first. */
-const QList<std::pair<const char *, const char *>> actions = {{"resize", "Resized"}, {"watermark", "Watermarked"}};
+const QList<std::pair<const char *, const char *>> actions = {{"resize", "Resized"},    {"crop", "Cropped"},
+                                                              {"turn", "Turned"},       {"round", "Rounded"},
+                                                              {"background", "Framed"}, {"watermark", "Watermarked"}};
 
 /** What of camera, author and place a file states, in letters. */
 QString statedIn(const QString &path)
@@ -74,6 +76,10 @@ private Q_SLOTS:
         QCOMPARE(statedIn(original), QStringLiteral("camera author place"));
         driver->drop({pictures});
         auto *location = driver->control<QCheckBox>("removeLocation");
+        if (action == QLatin1String("turn"))
+            driver->click("turnLeft");
+        if (action == QLatin1String("round"))
+            driver->choose("fileType", QStringLiteral("original file type"));
         driver->choose("metadata", kept);
         QCOMPARE(location->isVisible(), kept != QLatin1String("none"));
         if (withoutLocation)

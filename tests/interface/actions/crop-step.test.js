@@ -1,7 +1,7 @@
 import { cropFrame, insidePicture, largestOf, offsetsFor, ratioOf } from "../../../interface/actions/crop/crops.js";
 import * as crop from "../../../interface/actions/crop/crop-step.js";
 import { equal, finish, isTrue, test } from "../check.js";
-import { fakeServices, photo, settingsOf } from "../fakes.js";
+import { photo, recipeServices, settingsOf } from "../fakes.js";
 
 const picture = photo("/p/a.JPG", 4000, 3000);
 
@@ -48,38 +48,25 @@ test("theLargestFrameOfARatio", () => {
           [0, 4 / 3, 0, 1.5]);
 });
 
-function run(changes, written, output, source, status) {
-    const services = fakeServices(written, status);
-    const settings = settingsOf(crop, changes, output);
-    return { result: crop.run(source || picture, settings, services), services: services, calls: services.image.calls };
-}
+const operation = (changes) => crop.recipe(picture, settingsOf(crop, changes), recipeServices()).operations[0];
 
-test("fillsTheOutletsAndCuts", () => {
-    const done = run({ mode: "size", width: 1000, height: 500, position: 5, offsetX: -3, offsetY: 4 },
-                     { "/s/a.jpg": { width: 1000, height: 500 } });
-    equal(done.calls, [["cropImage", "/p/a.JPG", 1000, 500, "/s/", "original file type", "9"]]);
-    const said = done.services.image.said[0];
-    equal([said.cropType, said.position, said.xOffset, said.yOffset],
-          [{ selectedLabel: "W x H" }, { selectedSegment: 5 },
-                                                                       { stringValue: "-3" }, { stringValue: "4" }]);
-    equal([done.result.status, done.result.outputs, done.result.width], ["OK", ["/s/a.jpg"], 1000]);
-});
-
-test("tellsThePerCentToCutAway", () => {
-    const said = run({ mode: "percent", percent: 25 },
-                     { "/s/a.jpg": { width: 3000, height: 2250 } }).services.image.said[0];
-    equal([said.cropType.selectedLabel, said.percentage.stringValue], ["%", "25"]);
+test("isAnOperationOfARecipe", () => {
+    equal(operation({ mode: "size", width: 1000, height: 500, position: 5, offsetX: -3, offsetY: 4 }),
+          { do: "crop", height: 500, offset: [-3, 4], position: "right", width: 1000 });
+    equal(operation({ mode: "percent", percent: 25 }), { do: "crop", percent: 25, position: "center" });
+    equal(operation({ mode: "pixels", pixels: 100, position: 8 }), { do: "crop", position: "bottom right", trim: 100 });
 });
 
 test("convertsLengthsToPixelsOfThePicture", () => {
-    const done = run({ mode: "size", unit: "mm", width: 100.5, height: 50, offsetX: 1, position: 0 },
-                     { "/s/a.jpg": { width: 1005, height: 500 } });
-    equal(done.calls[0].slice(2, 4), [1005, 500]);
-    equal([done.services.image.said[0].xOffset.stringValue, done.result.status], ["10", "OK"]);
+    equal(operation({ mode: "size", unit: "mm", width: 100.5, height: 50, offsetX: 1, position: 0 }),
+          { do: "crop", height: 500, offset: [10, 0], position: "top left", width: 1005 });
+    // What is cut away stays in pixels, and what it is moved by does not.
+    equal(operation({ mode: "pixels", pixels: 100, unit: "mm", offsetX: 1 }),
+          { do: "crop", offset: [10, 0], position: "center", trim: 100 });
 });
 
 test("asksForTheSameLengthOnlyOnce", () => {
-    const services = fakeServices({});
+    const services = recipeServices();
     const settings = settingsOf(crop, { mode: "size", unit: "mm", width: 10, height: 10 });
     crop.plan(picture, settings, services);
     const asked = services.units.asked;
@@ -89,8 +76,9 @@ test("asksForTheSameLengthOnlyOnce", () => {
 
 test("aFrameThatReachesOutsideIsCutAndSaidSo", () => {
     const planned = crop.plan(picture, settingsOf(crop, { mode: "size", width: 5000, height: 100, position: 4 }),
-                              fakeServices({}));
-    equal([planned.status, planned.width, planned.height, planned.notes.length], ["ready", 4000, 100, 1]);
+                              recipeServices({ losses: ["no maker notes"] }));
+    equal([planned.status, planned.inside.width, planned.inside.height], ["ready", 4000, 100]);
+    equal(planned.notes, ["Cut off at the picture’s edge.", "no maker notes"]);
 });
 
 const REFUSED = [
@@ -100,22 +88,16 @@ const REFUSED = [
 
 for (const row of REFUSED) {
     test("plans a failure where " + row[0],
-         () => { equal(crop.plan(picture, settingsOf(crop, row[1]), fakeServices({})).status, row[2]); });
+         () => { equal(crop.plan(picture, settingsOf(crop, row[1]), recipeServices()).status, row[2]); });
 }
 
-test("marksATurnedTiffUpright", () => {
-    const turned = Object.assign(photo("/p/a.tif", 100, 100), { orientation: 6 });
-    const written = { "/s/a.tiff": { width: 80, height: 80 } };
-    equal(run({}, written, {}, turned).services.files.marked, ["/s/a.tiff"]);
-    equal(run({}, written, {}, photo("/p/a.tif", 100, 100)).services.files.marked, undefined);
-    equal(run({}, { "/s/a.jpg": { width: 80, height: 80 } }, { fileType: "public.jpeg" }, turned).services.files.marked,
-          undefined);
-});
-
-test("failsWhereTheFileHasAnotherSize", () => {
-    equal(run({ percent: 25 }, { "/s/a.jpg": { width: 3000, height: 2251 } }).result.status, "Failed");
-    equal(run({ percent: 25 }, {}).result.status, "Failed");
-    equal(run({ percent: 25 }, {}, {}, picture, "Not Supported").result.status, "Not Supported");
+test("makesTheFileThatItPlanned", () => {
+    const services = recipeServices();
+    const settings = settingsOf(crop, {});
+    const result = crop.run(picture, settings, services);
+    equal([result.status, result.outputs, result.width, result.height], ["OK", ["/s/a.jpg"], 400, 300]);
+    equal(services.made, [["/p/a.JPG", crop.recipe(picture, settings, services), "/s/a.jpg"]]);
+    equal(crop.run(picture, settings, recipeServices({ width: 401 })).status, "Failed");
 });
 
 const VALID = [
@@ -132,13 +114,13 @@ for (const row of VALID) {
          () => { equal(crop.validate(settingsOf(crop, row[0])).length, row[1]); });
 }
 
-test("showsTheCutAndWhatBecomesOfTransparency", () => {
+test("showsWhatIsMade", () => {
     const settings = settingsOf(crop, { mode: "percent", percent: 25 });
-    const shown = crop.preview(picture, settings, crop.plan(picture, settings, fakeServices({})));
-    equal(shown,
-          { deeds: [{ do: "cut", x: 500, y: 375, width: 3000, height: 2250 }, { do: "flatten" }], width: 3000,
-            height: 2250,
-                   type: "public.jpeg", quality: "9" });
+    const services = recipeServices();
+    const shown = crop.preview(picture, settings, crop.plan(picture, settings, services), services);
+    equal(shown.deeds, [{ do: "recipe", operations: [operation({ mode: "percent", percent: 25 })], path: "/p/a.JPG" },
+                        { do: "lay", color: "#ffffff" }]);
+    equal([shown.type, shown.quality], ["public.jpeg", "9"]);
 });
 
 test("saysInTheLogWhatWasCut", () => {

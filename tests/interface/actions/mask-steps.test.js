@@ -1,138 +1,84 @@
 import * as background from "../../../interface/actions/background/background-step.js";
 import * as round from "../../../interface/actions/round/round-step.js";
-import { equal, finish, isTrue, test } from "../check.js";
-import { FakePicture, fakeServices, photo, settingsOf } from "../fakes.js";
+import { equal, finish, test } from "../check.js";
+import { photo, recipeServices, settingsOf } from "../fakes.js";
 
 const wide = photo("/p/a.jpg", 400, 300);
-const turned = Object.assign(photo("/p/a.jpg", 300, 400), { orientation: 6 });
+const high = photo("/p/a.jpg", 300, 400);
 const clear = photo("/p/a.png", 400, 300);
 
-// What a step makes of a picture; `made` is the size of the file that the service writes, where it is another one, and what it answers.
-function run(step, picture, settings, name, made) {
-    const written = {};
-    const { size, status } = made || {};
-    written["/s/" + name] = size || { width: picture.width, height: picture.height };
-    const services = fakeServices(written, status);
-    const result = step.run(picture, settings, services);
-    return { result: result, services: services, calls: services.image.calls, said: services.image.said };
-}
+const rounded = (changes, output) => round.recipe(settingsOf(round, changes, output));
+const framed = (changes, output) => background.recipe(settingsOf(background, changes, output));
 
-const SHAPES = [
-    [{ shape: "rectangle", radius: 40 }, "public.png", ["/p/a.jpg", "/s/", 40, "0", "0"], "a.png", null],
-    [{ shape: "circle", radius: 40 }, "public.tiff", ["/p/a.jpg", "/s/", 40, "1", "1"], "a.tiff",
-     { width: 300, height: 300 }],
-    [{ shape: "ellipse", radius: 40 }, "com.compuserve.gif", ["/p/a.jpg", "/s/", 40, "2", "2"], "a.gif", null],
-    [{ shape: "rectangle", radius: 0 }, "original file type", ["/p/a.jpg", "/s/", 0, "0", "9"], "a.jpg", null],
-];
-
-for (const row of SHAPES) {
-    test("rounds as " + JSON.stringify(row[0]) + " into " + row[1], () => {
-        const done = run(round, wide, settingsOf(round, row[0], { fileType: row[1] }), row[3], { size: row[4] });
-        equal(done.calls, [["roundCornersOfImage"].concat(row[2])]);
-        equal([done.result.status, done.result.outputs], ["OK", ["/s/" + row[3]]]);
-        equal(done.said[0].backgroundCheck.state, 0);
-    });
-}
-
-test("tellsColourAndBand", () => {
-    const said = run(round, wide, settingsOf(round, { background: true, color: "#102030", band: 20 }, {}),
-                     "a.png").said[0];
-    equal([said.backgroundCheck.state, said.backgroundColor.color, said.bandWidth.stringValue], [1, "#102030", "20"]);
+test("roundsByAnOperation", () => {
+    equal(rounded({ shape: "rectangle", radius: 40, band: 5 }).operations,
+          [{ do: "round", radius: 40, shape: "rectangle" }]);
+    equal(rounded({ shape: "circle", radius: 40 }).operations, [{ do: "round", shape: "circle" }]);
+    equal(rounded({ shape: "ellipse", background: true, color: "#102030", band: 20 }).operations,
+          [{ band: { color: "#102030", width: 20 }, color: "#102030", do: "round", shape: "ellipse" }]);
 });
 
-test("marksRoundedJpegAndTiffUprightAndNoOther", () => {
-    equal(run(round, turned, settingsOf(round, {}, { fileType: "original file type" }), "a.jpg").services.files.marked,
-          ["/s/a.jpg"]);
-    equal(run(round, turned, settingsOf(round, {}, { fileType: "public.tiff" }), "a.tiff").services.files.marked,
-          ["/s/a.tiff"]);
-    equal(run(round, turned, settingsOf(round, {}, {}), "a.png").services.files.marked, undefined);
+test("laysAndFramesByOperations", () => {
+    equal(framed({ color: "#ff0000" }).operations, [{ color: "#ff0000", do: "background" }]);
+    equal(framed({ under: "pattern", pattern: "/t/dots.png", frame: "white" }).operations,
+          [{ do: "background", pattern: "/t/dots.png" }, { do: "frame", width: 10 }]);
+    equal(framed({ frame: "band", bandColor: "#0000ff", bandWidth: 12 }).operations[1],
+          { band: { color: "#0000ff", width: 12 }, do: "round", radius: 0 });
 });
 
-test("failsWhereTheMarkCannotBeSet", () => {
-    const services = fakeServices({ "/s/a.jpg": { width: 300, height: 400 } });
-    services.files.markProblem = "no room";
-    equal(round.run(turned, settingsOf(round, {}, { fileType: "original file type" }), services).reason, "no room");
+test("asksForTheTypeAndLeavesTheQualityToIt", () => {
+    equal([rounded({}, { fileType: "original file type" }).outputs, framed({}, { fileType: "public.tiff" }).outputs],
+          [[{ type: "original" }], [{ type: "tiff" }]]);
+});
+
+test("keepsTheWholeNameWithTheType", () => {
+    const jpeg = photo("/p/a.JPEG", 400, 300);
+    const name = (step, fileType) =>
+        step.plan(jpeg, settingsOf(step, {}, { fileType: fileType }), recipeServices({ extension: ".tiff" })).name;
+    for (const step of [round, background]) {
+        equal([name(step, "original file type"), name(step, "public.tiff")], ["a.JPEG", "a.tiff"]);
+    }
+});
+
+test("makesTheFileThatItPlanned", () => {
+    for (const step of [round, background]) {
+        const services = recipeServices();
+        const settings = settingsOf(step, {}, { fileType: "original file type" });
+        const result = step.run(wide, settings, services);
+        equal([result.status, result.outputs, result.width], ["OK", ["/s/a.jpg"], 400]);
+        equal(services.made, [["/p/a.jpg", step.recipe(settings), "/s/a.jpg"]]);
+    }
+});
+
+test("saysWhyNothingWasMade", () => {
+    const services = recipeServices({ problem: "operations[0].pattern: there is no picture" });
+    const settings = settingsOf(background, { under: "pattern", pattern: "/t/dots.png" });
+    equal(background.run(clear, settings, services),
+          { status: "Failed", reason: "operations[0].pattern: there is no picture", outputs: [] });
 });
 
 test("saysWhichSquareACircleIsCutFrom", () => {
-    const note = (picture) => round.plan(picture, settingsOf(round, { shape: "circle" })).notes.join();
-    isTrue(note(wide).includes("left") && note(turned).includes("bottom") && note(photo("/p/a.jpg", 5, 5)) === "");
+    const notes = (picture) => round.plan(picture, settingsOf(round, { shape: "circle" }), recipeServices()).notes;
+    const said = ["The circle is cut from the square in the middle."];
+    equal([notes(wide), notes(high), notes(photo("/p/a.jpg", 5, 5))], [said, said, []]);
 });
 
-test("saysWhatBecomesBlack", () => {
-    const notes = (changes) =>
-        round.plan(wide, settingsOf(round, changes, { fileType: "original file type" })).notes.length;
-    equal([notes({}), notes({ background: true })], [1, 0]);
+test("saysWhatIsLost", () => {
+    const services = recipeServices({ losses: ["JPEG has no transparency"] });
+    const planned = round.plan(wide, settingsOf(round, {}, { fileType: "original file type" }), services);
+    equal([planned.notes, planned.losses], [["JPEG has no transparency"], ["JPEG has no transparency"]]);
 });
 
 test("refusesABandThatCoversAll", () => {
-    equal(round.plan(wide, settingsOf(round, { background: true, band: 150 })).status, "Failed");
-    equal(background.plan(wide, settingsOf(background, { frame: "band", bandWidth: 150 })).status, "Failed");
-});
-
-test("laysOnAColour", () => {
-    const done = run(background, clear, settingsOf(background, { color: "#ff0000" }, {}), "a.png");
-    equal(done.calls, [["addOverlayColor", "/p/a.png", "/s/", "", "", "9"]]);
-    equal([done.said[0].backgroundColor.color, done.result.status], ["#ff0000", "OK"]);
-});
-
-test("laysOnAPattern", () => {
-    const done = run(background, clear,
-                     settingsOf(background, { under: "pattern", pattern: "/t/dots.png" }, { fileType: "public.tiff" }),
-                     "a.tiff");
-    equal([done.services.laid, done.calls, done.result.status], [[["/p/a.png", "/t/dots.png", "/s/a.tiff"]], [], "OK"]);
-});
-
-test("saysWhyAPatternFailed", () => {
-    const services = fakeServices({});
-    services.patternProblem = "the pattern cannot be read";
-    const settings = settingsOf(background, { under: "pattern", pattern: "/t/dots.png" });
-    const result = background.run(clear, settings, services);
-    equal([result.status, result.reason], ["Failed", "the pattern cannot be read"]);
-});
-
-test("putsAWhiteFrameRoundAndLetsGoOfThePictures", () => {
-    const done = run(background, wide, settingsOf(background, { frame: "white" }, {}), "a.jpg",
-                     { size: { width: 420, height: 320 } });
-    equal(done.calls,
-          [["imageFromCGImageRef", "bitmap of /p/a.jpg"], ["addBorderToImage", "pointwise bitmap of /p/a.jpg"],
-                       ["hSaveToNewImageFile", "/s/a.jpg", "public.jpeg",
-                        "bitmap of framed pointwise bitmap of /p/a.jpg", {}]]);
-    equal([done.result.status, done.result.width], ["OK", 420]);
-    isTrue(FakePicture.all.every((picture) => picture.released));
-});
-
-test("laysAPictureThatMayBeTransparentBeforeItIsFramed", () => {
-    const done = run(background, clear, settingsOf(background, { frame: "white", color: "#00ff00" }, {}), "a.png",
-                     { size: { width: 420, height: 320 } });
-    equal([done.calls[0][0], done.calls[1]], ["addOverlayColor", ["imageFromCGImageRef", "bitmap of /s/a.png"]]);
-});
-
-test("paintsABandOverTheEdge", () => {
-    const done = run(background, turned,
-                     settingsOf(background, { frame: "band", bandColor: "#0000ff", bandWidth: 12 }, {}), "a.jpg");
-    equal(done.calls, [["roundCornersOfImage", "/p/a.jpg", "/s/", 0, "0", "9"]]);
-    const said = done.said[0];
-    equal([said.backgroundCheck.state, said.backgroundColor.color, said.bandWidth.stringValue], [1, "#0000ff", "12"]);
-    equal(done.services.files.marked, ["/s/a.jpg"]);
-});
-
-test("laysAndBandsInTheUnfinishedFile", () => {
-    const done = run(background, clear,
-                     settingsOf(background, { frame: "band", bandWidth: 12 }, { fileType: "public.tiff" }), "a.tiff");
-    equal(done.calls,
-          [["addOverlayColor", "/p/a.png", "/s/", "", "", "1"],
-           ["roundCornersOfImage", "/s/a.tiff", "/s/", 0, "0", "9"]]);
-});
-
-test("stopsAtTheFirstFailure", () => {
-    const done = run(background, clear, settingsOf(background, { frame: "band" }, {}), "a.png", { status: "Failed" });
-    equal([done.calls.length, done.result.status], [1, "Failed"]);
+    equal(round.plan(wide, settingsOf(round, { background: true, band: 150 }), recipeServices()).status, "Failed");
+    equal(background.plan(wide, settingsOf(background, { frame: "band", bandWidth: 150 }), recipeServices()).status,
+          "Failed");
 });
 
 const VALID = [
     [round, { radius: -1 }, 1], [round, { shape: "circle", radius: -1 }, 0], [round, { background: true, band: -1 }, 1],
     [round, { band: -1 }, 0], [background, {}, 0], [background, { under: "pattern", pattern: "" }, 1],
+    [background, { under: "pattern", pattern: "/no/such.png" }, 1],
     [background, { frame: "band", bandWidth: 0 }, 1],
     [background, { frame: "white", bandWidth: 0 }, 0],
 ];
@@ -142,14 +88,13 @@ for (const row of VALID) {
          () => { equal(row[0].validate(settingsOf(row[0], row[1])).length, row[2]); });
 }
 
-test("showsWhatIsLaidAndFramed", () => {
-    const shown = (picture, changes) => {
-        const settings = settingsOf(background, changes);
-        return background.preview(picture, settings, background.plan(picture, settings)).deeds.map((deed) => deed.do);
-    };
-    equal([shown(clear, {}), shown(clear, { under: "pattern", pattern: "/t" }), shown(clear, { frame: "white" }),
-           shown(wide, { frame: "band" })],
-          [["lay"], ["pattern"], ["lay", "frame"], ["round", "flatten"]]);
+test("showsWhatIsMade", () => {
+    const shown = (step, type) => step.preview(clear, settingsOf(step, {}), { type: type, width: 4, height: 3 }).deeds;
+    for (const step of [round, background]) {
+        const deed = { do: "recipe", operations: step.recipe(settingsOf(step, {})).operations, path: "/p/a.png" };
+        equal([shown(step, "public.png"), shown(step, "public.jpeg")],
+              [[deed], [deed, { do: "lay", color: "#ffffff" }]]);
+    }
 });
 
 finish();

@@ -1,71 +1,38 @@
 import * as turn from "../../../interface/actions/turn/turn-step.js";
-import { equal, finish, test } from "../check.js";
-import { fakeServices, photo, settingsOf } from "../fakes.js";
+import { equal, finish, isTrue, test } from "../check.js";
+import { photo, recipeServices, settingsOf } from "../fakes.js";
 
 function source(name, width, height, orientation) {
     return Object.assign(photo("/p/" + name, width, height), { orientation: orientation || 1 });
 }
 
-function run(picture, changes, stored, status) {
-    const written = {};
-    written["/s/" + picture.name] = stored;
-    const services = fakeServices(stored === null ? {} : written, status);
-    return { result: turn.run(picture, settingsOf(turn, changes), services), calls: services.image.calls };
-}
+const operations = (changes) => turn.recipe(settingsOf(turn, changes)).operations;
 
-const ROADS = [
-    ["a turn", source("a.jpg", 400, 300), { angle: 90 }, [["hRotatePicture", "/p/a.jpg", "/s/", 90]], [300, 400],
-     [300, 400]],
-    ["a flip", source("a.jpg", 400, 300), { angle: 0, flipHorizontal: true },
-     [["hFlipHorizontalPicture", "/p/a.jpg", "/s/"]], [400, 300], [400, 300]],
-    ["a flip down", source("a.png", 400, 300), { angle: 0, flipVertical: true },
-     [["hFlipVerticalPicture", "/p/a.png", "/s/"]], [400, 300], [400, 300]],
-    ["a flip and a turn, through the unfinished file", source("a.jpg", 400, 300), { angle: 90, flipHorizontal: true },
-     [["hFlipHorizontalPicture", "/p/a.jpg", "/s/"], ["hRotatePicture", "/s/a.jpg", "/s/", 90]], [300, 400],
-     [300, 400]],
-    // Upright 300 x 400, stored 400 x 300 with the tag: across in the upright picture is down in the stored one.
-    ["a flip of a turned JPEG", source("a.jpg", 300, 400, 6), { angle: 0, flipHorizontal: true },
-     [["hFlipVerticalPicture", "/p/a.jpg", "/s/"]], [400, 300], [300, 400]],
-    ["a turn of a turned PNG, whose tag is lost", source("a.png", 300, 400, 6), { angle: 90 },
-     [["hRotatePicture", "/p/a.png", "/s/", 0]], [400, 300], [400, 300]],
-    ["any angle", source("a.png", 100, 100), { angle: 45 }, [["hRotatePicture", "/p/a.png", "/s/", 45]], [141, 141],
-     [141, 141]],
-];
-
-for (const row of ROADS) {
-    test("asks for " + row[0], () => {
-        const done = run(row[1], row[2], { width: row[4][0], height: row[4][1] });
-        equal(done.calls, row[3]);
-        equal([done.result.status, done.result.reason, done.result.width, done.result.height],
-              ["OK", "", row[5][0], row[5][1]]);
-    });
-}
-
-test("failsWhereThereIsNoPictureInTheFile", () => {
-    const done = run(source("a.jpg", 400, 300), { angle: 90, flipHorizontal: true }, null, null);
-    equal([done.result.status, done.calls.length], ["Failed", 1]);
+test("flipsFirstAndThenTurnsClockwise", () => {
+    equal(operations({ angle: 90 }), [{ degrees: -90, do: "turn" }]);
+    equal(operations({ angle: -7.5, flipHorizontal: true, flipVertical: true }),
+          [{ direction: "horizontal", do: "flip" }, { direction: "vertical", do: "flip" },
+           { degrees: 7.5, do: "turn" }]);
 });
 
-test("failsWhereTheFileHasAnotherSize", () => {
-    equal(run(source("a.jpg", 400, 300), { angle: 90 }, { width: 400, height: 300 }).result.status, "Failed");
+test("makesTheFileUnderItsOwnName", () => {
+    const services = recipeServices();
+    const result = turn.run(source("a.JPEG", 300, 400), settingsOf(turn, { angle: 90 }), services);
+    equal([result.status, result.outputs, services.made.length], ["OK", ["/s/a.JPEG"], 1]);
+    equal(services.made[0][1].outputs, [{ type: "original" }]);
 });
 
-test("saysWithoutLossOnlyWhereThatIsCertain", () => {
-    const services = fakeServices({});
-    const said = (picture) => turn.plan(picture, settingsOf(turn), services).notes.length;
-    services.files.block = { width: 16, height: 8 };
-    equal([said(source("a.jpg", 4000, 3000)), said(source("a.jpg", 4000, 3001)), said(source("a.png", 4000, 3000))],
-          [1, 0, 0]);
-    // Stored as 4008 x 3000 and shown standing: 4008 is no multiple of 16, but 3000 is one of 8.
-    equal([said(source("a.jpg", 3000, 4008, 6)), said(source("a.jpg", 3000, 4000, 6))], [0, 1]);
-    services.files.block = null;
-    equal(said(source("a.jpg", 4000, 3000)), 0);
+test("saysWithoutLossWhereThatIsSo", () => {
+    const said = (changes, isLossless) => turn.plan(source("a.jpg", 400, 300), settingsOf(turn, changes),
+                                                    recipeServices({ lossless: isLossless })).notes;
+    equal([said({ angle: 90 }, true), said({ angle: 90 }, false)], [["Turned without loss."], []]);
+    isTrue(said({ angle: 12 }, false)[0].endsWith("what is beside the picture becomes white."));
 });
 
 test("keepsTheNameAndTheTypeAndRefusesTypesThatCannotBeWritten", () => {
-    equal(turn.plan(source("a.TIFF", 4, 3), settingsOf(turn), fakeServices({})).name, "a.TIFF");
-    equal(turn.plan(source("a.heic", 4, 3), settingsOf(turn), fakeServices({})).status, "Not Supported");
-    equal(turn.plan(source("a.jpg", 0, 0), settingsOf(turn), fakeServices({})).status, "Failed");
+    equal(turn.plan(source("a.TIFF", 4, 3), settingsOf(turn), recipeServices()).name, "a.TIFF");
+    equal(turn.plan(source("a.heic", 4, 3), settingsOf(turn), recipeServices()).status, "Not Supported");
+    equal(turn.plan(source("a.jpg", 0, 0), settingsOf(turn), recipeServices()).status, "Failed");
 });
 
 const VALID = [[{ angle: 90 }, 0], [{ angle: 0 }, 1], [{ angle: 0, flipVertical: true }, 0], [{ angle: 181 }, 1],
@@ -76,11 +43,11 @@ for (const row of VALID) {
          () => { equal(turn.validate(settingsOf(turn, row[0])).length, row[1]); });
 }
 
-test("showsFlipsFirstAndThenTheTurn", () => {
+test("showsWhatIsMade", () => {
     const settings = settingsOf(turn, { angle: -7.5, flipHorizontal: true });
-    const picture = source("a.png", 100, 100, 6);
-    equal(turn.preview(picture, settings, turn.plan(picture, settings, fakeServices({}))).deeds,
-          [{ do: "flip", axis: "horizontal" }, { do: "turn", degrees: -7.5 }]);
+    equal(turn.preview(source("a.png", 100, 100, 6), settings, { type: "public.png", width: 4, height: 3 }),
+          { deeds: [{ do: "recipe", operations: operations({ angle: -7.5, flipHorizontal: true }), path: "/p/a.png" }],
+            width: 4, height: 3, type: "public.png", quality: "" });
 });
 
 finish();
