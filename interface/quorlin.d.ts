@@ -1255,7 +1255,8 @@ declare module "quorlin/shell" {
         chooseFile(title: text, folder: text, extensions: texts): string | null;
         /** The path of a file to write, or null. */
         chooseNewFile(title: text, folder: text, name: text, extension: text): string | null;
-        openFolder(folder: text): null;
+        /** False where there is no file manager. */
+        openFolder(folder: text): boolean;
         /** Shows a file in its folder. */
         showInFolder(path: text): null;
         /** Files that were copied, or lines of text that are paths. */
@@ -1270,6 +1271,8 @@ declare module "quorlin/shell" {
     export class Form {
         private constructor();
         shown: boolean;
+        /** What the desktop writes over a window. */
+        title: string;
         /** The user closes the window, and nothing has kept it open. */
         readonly closing: Signal<() => any>;
         /** The control, action or menu of that name. */

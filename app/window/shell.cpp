@@ -220,9 +220,9 @@ QVariant Shell::chooseNewFile(const QString &title, const QString &folder, const
     return firstPath(request);
 }
 
-void Shell::openFolder(const QString &folder)
+bool Shell::openFolder(const QString &folder)
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
 }
 
 void Shell::showInFolder(const QString &path)

@@ -81,7 +81,8 @@ public:
     /** The path of a file to write, or null. */
     Q_INVOKABLE QVariant chooseNewFile(const QString &title, const QString &folder, const QString &name,
                                        const QString &extension);
-    Q_INVOKABLE void openFolder(const QString &folder);
+    /** Shows a folder in the file manager; false where there is none. */
+    Q_INVOKABLE bool openFolder(const QString &folder);
     /** Shows a file in its folder; see window::showInFolder(). */
     Q_INVOKABLE void showInFolder(const QString &path);
     /** Local paths on the clipboard: files that were copied, or lines of text that are paths. */

@@ -15,7 +15,8 @@
 //   takesAlong(settings)  true where files that belong to a picture go along with it (lib/sidecars.js); may be missing
 //   startText(number, settings)  what the button says
 //   headings()  other words for the heads of columns than those of the manner (may be missing)
-// MOVES also: done(number, settings) and undone(number, settings) for the summary, with settings null where they are not known.
+// MOVES also: done(number, settings, folders) and undone(number, settings) for the summary, with settings null where they are not known;
+// folders is {used: paths that got files, made: how many there were not before} where fillsFolders is true.
 // PAGE also: page, a class made with (window, action) that has form and show(), and may have leave(), mayLeave(), listChanged(),
 // runChanged(). hasUndo is true where Ctrl+Z belongs to the page.
 

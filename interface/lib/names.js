@@ -18,6 +18,15 @@ export function joinPath(folder, name) {
     return folder.endsWith("/") ? folder + name : folder + "/" + name;
 }
 
+/** The deepest folder that holds all of these, or is one of them. */
+export function commonFolder(folders) {
+    let common = folders[0];
+    while (common !== "/" && folders.some((folder) => folder !== common && !folder.startsWith(common + "/"))) {
+        common = splitPath(common).folder;
+    }
+    return common;
+}
+
 /** A table without entries of its own, for ten thousand names: the engine's Map and Set take twenty times as long. */
 export function emptyTable() {
     return Object.create(null);

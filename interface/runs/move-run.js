@@ -2,6 +2,7 @@
 
 import { guard } from "../lib/guard.js";
 import { isReadyRow, itemOf, readyItems, settled } from "./move-plan.js";
+import { MovedFolders } from "./moved-folders.js";
 import { refusalText } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
 import { clockText, Progress } from "./progress.js";
@@ -44,6 +45,12 @@ export class MoveRun extends BaseRun {
         super.reset(ids);
         this.again = [];
         this.wished = null;
+        this.filled = null;
+    }
+
+    /** The folders that got files, where the action is there to fill folders. */
+    folders() {
+        return this.filled === null ? [] : this.filled.used;
     }
 
     // The pane may want to know when a run begins and ends.
@@ -181,6 +188,9 @@ export class MoveRun extends BaseRun {
 
     begin() {
         const moves = this.window.services.moves;
+        if (this.window.action.fillsFolders) {
+            this.filled = new MovedFolders(this.window.services.files, this.items.map((item) => item.to));
+        }
         const begun = moves.begin({ title: this.title,
                                     items: this.items
                                     .map((item) =>
@@ -245,6 +255,9 @@ export class MoveRun extends BaseRun {
                         name: isDone ? splitPath(result.path).name : "", path: isDone ? result.path : "" };
         const isMoved = isDone && item.kind === "move";
         this.noteRow(parts);
+        if (isDone && this.filled !== null) {
+            this.filled.got(result.path);
+        }
         if (!item.along) {
             this.moved += isDone ? 1 : 0;
             this.showResult(this.idOf(item), result, isMoved);
@@ -313,8 +326,9 @@ export class MoveRun extends BaseRun {
 
     summaryText(how) {
         const action = this.window.action;
+        const folders = this.filled === null ? undefined : this.filled.sum();
         const done = this.undoes === ""
-            ? action.done(this.moved, this.settings) : action.undone(this.moved, this.settings);
+            ? action.done(this.moved, this.settings, folders) : action.undone(this.moved, this.settings);
         const parts = [done + ", " + problemsText(this.problems)];
         if (this.undoes === "" && this.leftOut > 0) {
             parts.push(fill(qsTr("%1 left out"), this.leftOut));

@@ -28,7 +28,7 @@ export function showItem(list, id, item, simulated) {
 
 export class WritePlan extends LivePlan {
     nothing() {
-        return { ready: 0, originals: 0, replaced: 0 };
+        return { ready: 0, originals: 0, replaced: 0, all: -1 };
     }
 
     work(ids, settings) {
@@ -41,12 +41,17 @@ export class WritePlan extends LivePlan {
     take(item, summary) {
         const id = this.ids[this.next];
         this.next += 1;
+        // Another run would write it again.
+        summary.ready += item.status === "ready" ? 1 : 0;
         if (this.isFinal(id)) {
             return;
         }
-        summary.ready += item.status === "ready" ? 1 : 0;
         summary.originals += item.replacesOriginal ? 1 : 0;
         summary.replaced += item.replaces ? 1 : 0;
         showItem(this.window.pictures, id, item, false);
+    }
+
+    ended(_value, summary) {
+        summary.all = this.ids.length;
     }
 }

@@ -74,7 +74,19 @@ export class WriteRun extends BaseRun {
         showItem(this.window.pictures, this.ids[this.items.length - 1], item, this.simulated);
     }
 
+    // The list was planned with the settings as they are: what the button says holds until they change.
+    notePlan() {
+        const count = (is) => this.items.filter(is).length;
+        this.window.planned = {
+            ready: count((item) => item.status === "ready"), originals: count((item) => item.replacesOriginal),
+            replaced: count((item) => item.replaces), all: this.items.length,
+        };
+    }
+
     planEnded(how, value) {
+        if (how === "done" && !value.cancelled) {
+            this.notePlan();
+        }
         if (how !== "done" || value.cancelled) {
             this.finish(qsTr("Cancelled before the first picture. Nothing was written."));
         } else if (this.simulated) {

@@ -4,8 +4,14 @@ import { fill } from "../lib/wording.js";
 import { WritePlan } from "./write-plan.js";
 import { WriteRun } from "./write-run.js";
 
-function startText(window) {
+// What will be written; all pictures of the list until that is known of the list as it is.
+function countOf(window) {
     const total = window.pictures.count;
+    return window.planned.all === total ? window.planned.ready : total;
+}
+
+function startText(window) {
+    const total = countOf(window);
     const originals = window.planned.originals;
     if (total === 0) {
         return window.action.title();

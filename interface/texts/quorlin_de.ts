@@ -783,6 +783,30 @@
         <source>Redo</source>
         <translation>Wiederholen</translation>
     </message>
+    <message>
+        <source>Show All</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>Show all rows of the list again</source>
+        <translation>Wieder alle Zeilen der Liste zeigen</translation>
+    </message>
+    <message>
+        <source>Show Them…</source>
+        <translation>Zeigen…</translation>
+    </message>
+    <message>
+        <source>Say which files of the list this action leaves out</source>
+        <translation>Sagen, welche Dateien der Liste diese Aktion auslässt</translation>
+    </message>
+    <message>
+        <source>Convert Them</source>
+        <translation>Konvertieren</translation>
+    </message>
+    <message>
+        <source>Go to Convert, which takes them</source>
+        <translation>Zu „Konvertieren“ gehen, wo sie angenommen werden</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -2959,6 +2983,21 @@
         <source>There are no files on the clipboard</source>
         <translation>In der Zwischenablage sind keine Dateien</translation>
     </message>
+    <message>
+        <source>Left out here</source>
+        <translation>Hier ausgelassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>input-words</name>
@@ -3343,6 +3382,21 @@
     <message>
         <source>Keep Running</source>
         <translation>Weiterlaufen lassen</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>No file manager opens the folder. It is %1</source>
+        <translation>Kein Dateimanager öffnet den Ordner. Es ist %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Opened: %1, which holds the %n folders</source>
+        <translation>
+            <numerusform>Geöffnet: %1 mit dem %n Ordner</numerusform>
+            <numerusform>Geöffnet: %1 mit den %n Ordnern</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6446,6 +6500,38 @@
             <numerusform>%n Dateien zurückgelegt</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n files moved</source>
+        <translation>
+            <numerusform>%n Datei verschoben</numerusform>
+            <numerusform>%n Dateien verschoben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files linked</source>
+        <translation>
+            <numerusform>%n Datei verknüpft</numerusform>
+            <numerusform>%n Dateien verknüpft</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 into %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n Ordner</numerusform>
+            <numerusform>%n Ordner</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders made</source>
+        <translation>
+            <numerusform>%n Ordner angelegt</numerusform>
+            <numerusform>%n Ordner angelegt</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>sort-pane</name>
@@ -6637,14 +6723,14 @@
         </translation>
     </message>
     <message>
-        <source>no new folder</source>
-        <translation>kein neuer Ordner</translation>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
     <message numerus="yes">
-        <source>%n new folders</source>
+        <source>%n folders will be made, counting parents</source>
         <translation>
-            <numerusform>%n neuer Ordner</numerusform>
-            <numerusform>%n neue Ordner</numerusform>
+            <numerusform>%n Ordner wird angelegt, übergeordnete mitgezählt</numerusform>
+            <numerusform>%n Ordner werden angelegt, übergeordnete mitgezählt</numerusform>
         </translation>
     </message>
 </context>
@@ -6800,6 +6886,13 @@
     <message>
         <source>Pause</source>
         <translation>Pause</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only what failed is shown: %n of the list</source>
+        <translation>
+            <numerusform>Nur Fehlgeschlagenes wird gezeigt: %n aus der Liste</numerusform>
+            <numerusform>Nur Fehlgeschlagenes wird gezeigt: %n aus der Liste</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -229,6 +229,13 @@
             <numerusform>%n files go along</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>input-words</name>
@@ -352,6 +359,16 @@
         <translation>
             <numerusform>%n file taken back</numerusform>
             <numerusform>%n files taken back</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>main-window</name>
+    <message numerus="yes">
+        <source>Opened: %1, which holds the %n folders</source>
+        <translation>
+            <numerusform>Opened: %1, which holds the %n folder</numerusform>
+            <numerusform>Opened: %1, which holds the %n folders</numerusform>
         </translation>
     </message>
 </context>
@@ -645,6 +662,34 @@
             <numerusform>%n files put back</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n files moved</source>
+        <translation>
+            <numerusform>%n file moved</numerusform>
+            <numerusform>%n files moved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files linked</source>
+        <translation>
+            <numerusform>%n file linked</numerusform>
+            <numerusform>%n files linked</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n folder</numerusform>
+            <numerusform>%n folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders made</source>
+        <translation>
+            <numerusform>%n folder made</numerusform>
+            <numerusform>%n folders made</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>sort-tree</name>
@@ -663,10 +708,20 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n new folders</source>
+        <source>%n folders will be made, counting parents</source>
         <translation>
-            <numerusform>%n new folder</numerusform>
-            <numerusform>%n new folders</numerusform>
+            <numerusform>%n folder will be made, counting parents</numerusform>
+            <numerusform>%n folders will be made, counting parents</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>status-bar</name>
+    <message numerus="yes">
+        <source>Only what failed is shown: %n of the list</source>
+        <translation>
+            <numerusform>Only what failed is shown: %n of the list</numerusform>
+            <numerusform>Only what failed is shown: %n of the list</numerusform>
         </translation>
     </message>
 </context>

@@ -783,6 +783,30 @@
         <source>Redo</source>
         <translation>Rétablir</translation>
     </message>
+    <message>
+        <source>Show All</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Show all rows of the list again</source>
+        <translation>Afficher à nouveau toutes les lignes de la liste</translation>
+    </message>
+    <message>
+        <source>Show Them…</source>
+        <translation>Les afficher…</translation>
+    </message>
+    <message>
+        <source>Say which files of the list this action leaves out</source>
+        <translation>Dire quels fichiers de la liste cette action laisse de côté</translation>
+    </message>
+    <message>
+        <source>Convert Them</source>
+        <translation>Les convertir</translation>
+    </message>
+    <message>
+        <source>Go to Convert, which takes them</source>
+        <translation>Passer à « Convertir », qui les accepte</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -2959,6 +2983,21 @@
         <source>There are no files on the clipboard</source>
         <translation>Il n’y a pas de fichiers dans le presse-papiers</translation>
     </message>
+    <message>
+        <source>Left out here</source>
+        <translation>Laissés de côté ici</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
 </context>
 <context>
     <name>input-words</name>
@@ -3343,6 +3382,21 @@
     <message>
         <source>Keep Running</source>
         <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>No file manager opens the folder. It is %1</source>
+        <translation>Aucun gestionnaire de fichiers n’ouvre le dossier. C’est %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Opened: %1, which holds the %n folders</source>
+        <translation>
+            <numerusform>Ouvert : %1, qui contient le %n dossier</numerusform>
+            <numerusform>Ouvert : %1, qui contient les %n dossiers</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6446,6 +6500,38 @@
             <numerusform>%n fichiers remis en place</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n files moved</source>
+        <translation>
+            <numerusform>%n fichier déplacé</numerusform>
+            <numerusform>%n fichiers déplacés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files linked</source>
+        <translation>
+            <numerusform>%n fichier lié</numerusform>
+            <numerusform>%n fichiers liés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 into %2</source>
+        <translation>%1 dans %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n dossier</numerusform>
+            <numerusform>%n dossiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders made</source>
+        <translation>
+            <numerusform>%n dossier créé</numerusform>
+            <numerusform>%n dossiers créés</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>sort-pane</name>
@@ -6637,14 +6723,14 @@
         </translation>
     </message>
     <message>
-        <source>no new folder</source>
-        <translation>aucun nouveau dossier</translation>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
     <message numerus="yes">
-        <source>%n new folders</source>
+        <source>%n folders will be made, counting parents</source>
         <translation>
-            <numerusform>%n nouveau dossier</numerusform>
-            <numerusform>%n nouveaux dossiers</numerusform>
+            <numerusform>%n dossier sera créé, dossiers parents compris</numerusform>
+            <numerusform>%n dossiers seront créés, dossiers parents compris</numerusform>
         </translation>
     </message>
 </context>
@@ -6800,6 +6886,13 @@
     <message>
         <source>Pause</source>
         <translation>Pause</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only what failed is shown: %n of the list</source>
+        <translation>
+            <numerusform>Seuls les échecs sont affichés : %n de la liste</numerusform>
+            <numerusform>Seuls les échecs sont affichés : %n de la liste</numerusform>
+        </translation>
     </message>
 </context>
 <context>

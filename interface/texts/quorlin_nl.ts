@@ -783,6 +783,30 @@
         <source>Redo</source>
         <translation>Opnieuw</translation>
     </message>
+    <message>
+        <source>Show All</source>
+        <translation>Alles tonen</translation>
+    </message>
+    <message>
+        <source>Show all rows of the list again</source>
+        <translation>Weer alle rijen van de lijst tonen</translation>
+    </message>
+    <message>
+        <source>Show Them…</source>
+        <translation>Tonen…</translation>
+    </message>
+    <message>
+        <source>Say which files of the list this action leaves out</source>
+        <translation>Zeggen welke bestanden van de lijst deze actie overslaat</translation>
+    </message>
+    <message>
+        <source>Convert Them</source>
+        <translation>Converteren</translation>
+    </message>
+    <message>
+        <source>Go to Convert, which takes them</source>
+        <translation>Naar Converteren gaan, dat ze wel neemt</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -2959,6 +2983,21 @@
         <source>There are no files on the clipboard</source>
         <translation>Er staan geen bestanden op het klembord</translation>
     </message>
+    <message>
+        <source>Left out here</source>
+        <translation>Hier overgeslagen</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>en nog %n</numerusform>
+            <numerusform>en nog %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
 </context>
 <context>
     <name>input-words</name>
@@ -3343,6 +3382,21 @@
     <message>
         <source>Keep Running</source>
         <translation>Laten doorgaan</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>No file manager opens the folder. It is %1</source>
+        <translation>Geen bestandsbeheerder opent de map. Het is %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Opened: %1, which holds the %n folders</source>
+        <translation>
+            <numerusform>Geopend: %1, waarin de %n map staat</numerusform>
+            <numerusform>Geopend: %1, waarin de %n mappen staan</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6446,6 +6500,38 @@
             <numerusform>%n bestanden teruggezet</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n files moved</source>
+        <translation>
+            <numerusform>%n bestand verplaatst</numerusform>
+            <numerusform>%n bestanden verplaatst</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files linked</source>
+        <translation>
+            <numerusform>%n bestand gekoppeld</numerusform>
+            <numerusform>%n bestanden gekoppeld</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 into %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n map</numerusform>
+            <numerusform>%n mappen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders made</source>
+        <translation>
+            <numerusform>%n map gemaakt</numerusform>
+            <numerusform>%n mappen gemaakt</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>sort-pane</name>
@@ -6637,14 +6723,14 @@
         </translation>
     </message>
     <message>
-        <source>no new folder</source>
-        <translation>geen nieuwe map</translation>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
     <message numerus="yes">
-        <source>%n new folders</source>
+        <source>%n folders will be made, counting parents</source>
         <translation>
-            <numerusform>%n nieuwe map</numerusform>
-            <numerusform>%n nieuwe mappen</numerusform>
+            <numerusform>%n map wordt gemaakt, bovenliggende meegeteld</numerusform>
+            <numerusform>%n mappen worden gemaakt, bovenliggende meegeteld</numerusform>
         </translation>
     </message>
 </context>
@@ -6800,6 +6886,13 @@
     <message>
         <source>Pause</source>
         <translation>Pauzeren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only what failed is shown: %n of the list</source>
+        <translation>
+            <numerusform>Alleen wat mislukte wordt getoond: %n van de lijst</numerusform>
+            <numerusform>Alleen wat mislukte wordt getoond: %n van de lijst</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -261,6 +261,9 @@ private Q_SLOTS:
     {
         platform::removeUserDefault(QStringLiteral("SupportFolderPutOff"));
         m_driver->startAgain();
+        m_driver->show("resize");
+        QVERIFY(!m_driver->control<QWidget>("supportBar")->isVisible()); // patterns are for Background & Border
+        m_driver->show("background");
         QVERIFY(m_driver->control<QWidget>("supportBar")->isVisible());
         m_driver->click("supportLater");
         QVERIFY(!m_driver->control<QWidget>("supportBar")->isVisible());

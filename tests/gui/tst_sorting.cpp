@@ -49,7 +49,8 @@ private Q_SLOTS:
         QCOMPARE(folders(), QStringList({QStringLiteral("~/in 4"), QStringLiteral("2025 1 new"),
                                          QStringLiteral("2025-12-31 1 new"), QStringLiteral("2026 2"),
                                          QStringLiteral("2026-08-14 2 new"), QStringLiteral("Undated 1 new")}));
-        QCOMPARE(m_driver->text("sortTreeSummary"), QStringLiteral("4 files into 3 folders · 4 new folders"));
+        QCOMPARE(m_driver->text("sortTreeSummary"),
+                 QStringLiteral("4 files into 3 folders (4 folders will be made, counting parents)"));
         QCOMPARE(m_driver->cell(0, PictureModel::NewName), QStringLiteral("2026/2026-08-14"));
         QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("no date taken"));
         QCOMPARE(button("startButton")->text(), QStringLiteral("Sort 4 Files into Folders"));
@@ -63,7 +64,9 @@ private Q_SLOTS:
         const QStringList before = filesBelow(m_pictures);
         const QByteArray bytes = pictures::bytesOf(at("a.jpg"));
         m_driver->drop({m_pictures});
-        run(QStringLiteral("4 files sorted, 0 problems"));
+        run(QStringLiteral("4 files moved into 3 folders · 5 folders made, 0 problems"));
+        QVERIFY(button("openFolderButton")->isVisible());
+        QCOMPARE(m_driver->text("sortTreeSummary"), QString());
         QCOMPARE(filesBelow(m_pictures),
                  QStringList({QStringLiteral("2025/2025-12-31/c.jpg"), QStringLiteral("2026/2026-08-14/a.jpg"),
                               QStringLiteral("2026/2026-08-14/a.xmp"), QStringLiteral("2026/2026-08-14/b.jpg"),
@@ -115,7 +118,7 @@ private Q_SLOTS:
     {
         threeDays();
         m_driver->drop({m_pictures});
-        run(QStringLiteral("4 files sorted"));
+        run(QStringLiteral("4 files moved"));
         m_driver->click("dismissButton");
         QVERIFY(m_driver->waitFor(
             [this] { return m_driver->text("sortTreeSummary") == QLatin1String("No file will go anywhere."); }));
@@ -128,7 +131,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("summary");
         QTest::addColumn<bool>("isLink");
         QTest::newRow("copy") << 1 << QStringLiteral("4 files copied") << false;
-        QTest::newRow("link") << 2 << QStringLiteral("4 links made") << true;
+        QTest::newRow("link") << 2 << QStringLiteral("4 files linked") << true;
     }
 
     void copiesAndLinksIntoAChosenFolder()
@@ -277,7 +280,7 @@ private Q_SLOTS:
         QVERIFY(m_driver->waitFor(
             [this] { return m_driver->cell(0, PictureModel::Status).startsWith(QLatin1String("stays")); }));
         m_driver->choose("sortTaken", QStringLiteral("number"));
-        run(QStringLiteral("2 files sorted"));
+        run(QStringLiteral("2 files moved"));
         QCOMPARE(pictures::bytesOf(at("2026/2026-08-14/a.jpg")), QByteArray("there before"));
         QVERIFY(QFile::exists(at("2026/2026-08-14/a (2).jpg")));
         QVERIFY(QFile::exists(at("2026/2026-08-14/a (2).xmp")));

@@ -165,6 +165,17 @@ bool Form::isShown() const
     return root != nullptr && !root->isHidden();
 }
 
+QString Form::title() const
+{
+    return m_root ? m_root->windowTitle() : QString();
+}
+
+void Form::setTitle(const QString &title)
+{
+    if (m_root)
+        m_root->setWindowTitle(title);
+}
+
 void Form::setShown(bool shown)
 {
     if (QWidget *root = m_root.data())

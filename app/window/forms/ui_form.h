@@ -16,6 +16,8 @@ class Form : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool shown READ isShown WRITE setShown)
+    /** What the desktop writes over a window and into its list of windows. */
+    Q_PROPERTY(QString title READ title WRITE setTitle)
 
 public:
     Form(QWidget *root, const QString &file, QObject *parent);
@@ -26,6 +28,8 @@ public:
     QWidget *root() const { return m_root; }
     bool isShown() const;
     void setShown(bool shown);
+    QString title() const;
+    void setTitle(const QString &title);
 
     /** The control, action or menu of that name; throws a ReferenceError where there is none. */
     Q_INVOKABLE QObject *control(const QString &name);

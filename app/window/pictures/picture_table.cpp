@@ -67,6 +67,7 @@ int PictureTable::currentId() const
 void PictureTable::setProblemsOnly(bool on)
 {
     m_order.setProblemsOnly(on);
+    chooseSomeRow();
     wakeLoader();
 }
 

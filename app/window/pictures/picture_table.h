@@ -22,6 +22,7 @@ class PictureTable : public QTableView
     Q_PROPERTY(int currentId READ currentId NOTIFY currentPictureChanged)
     /** The place of the current picture in the list as it is shown, from 1; 0 where there is none. */
     Q_PROPERTY(int currentPlace READ currentPlace NOTIFY currentPictureChanged)
+    /** Rows that failed are shown only; the current one is one of them where there is any. */
     Q_PROPERTY(bool problemsOnly READ problemsOnly WRITE setProblemsOnly)
     Q_PROPERTY(bool busy READ isBusy WRITE setBusy)
 

@@ -2,6 +2,7 @@
 
 import { PHOTO_INPUT } from "../../lib/types.js";
 
+import { fill } from "../../lib/wording.js";
 import { MOVES } from "../../runs/moves.js";
 import { SortPane } from "./sort-pane.js";
 import { presets } from "./sort-presets.js";
@@ -15,7 +16,17 @@ function startText(number, settings) {
     }[settings.kind]();
 }
 
-function done(number, settings) {
+// "24 files moved into 12 folders · 22 folders made"; of an earlier run folders are not known.
+function done(number, settings, folders) {
+    if (settings !== null && folders !== undefined && folders.used.length > 0) {
+        const files = {
+            move: () => qsTr("%n files moved", "", number),
+            copy: () => qsTr("%n files copied", "", number),
+            link: () => qsTr("%n files linked", "", number),
+        }[settings.kind]();
+        const words = fill(qsTr("%1 into %2"), files, qsTr("%n folders", "", folders.used.length));
+        return folders.made === 0 ? words : words + " · " + qsTr("%n folders made", "", folders.made);
+    }
     return {
         move: () => qsTr("%n files sorted", "", number),
         copy: () => qsTr("%n files copied", "", number),
@@ -36,6 +47,7 @@ export const sort = {
     takesAlong: () => true,
     headings: () => ({ newName: qsTr("Folder") }),
     startText: startText,
+    fillsFolders: true,
     done: done,
     undone: (number) => qsTr("%n files put back", "", number),
 };

@@ -12,15 +12,15 @@ import { fill, shortPath } from "../../lib/wording.js";
 // Rows are looked at in parts, so that the window answers.
 const AT_ONCE = 200;
 
-/** "240 files into 12 folders · 9 new folders". */
+/** "240 files into 12 folders (22 folders will be made, counting parents)". */
 export function summaryText(ready, folders, fresh) {
     if (ready === 0) {
         return qsTr("No file will go anywhere.");
     }
     const words = fill(qsTr("%1 into %2"), qsTr("%n files", "", ready),
                        qsTr("%n folders", "", folders));
-    return words + " · "
-        + (fresh === 0 ? qsTr("no new folder") : qsTr("%n new folders", "", fresh));
+    return fresh === 0
+        ? words : fill(qsTr("%1 (%2)"), words, qsTr("%n folders will be made, counting parents", "", fresh));
 }
 
 export class SortTree {
@@ -84,8 +84,9 @@ export class SortTree {
         this.form.control(name).visible = text !== "";
     }
 
-    /** Folders were made or taken away. */
+    /** Folders were made or taken away; what would happen is over. */
     lookAgain() {
+        this.say("", []);
         const rows = this.book === null ? [] : treeRows(this.book);
         rows.forEach((row) => {
             row.isNew = !files.info(row.path).exists;

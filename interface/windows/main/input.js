@@ -3,15 +3,18 @@
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
+import { convert } from "../../actions/convert/convert-action.js";
 import { guard } from "../../lib/guard.js";
 import { wordsFor } from "../../lib/input-words.js";
 import { splitPath } from "../../lib/names.js";
 import { goingAlong, SIDECARS } from "../../lib/sidecars.js";
 import { recall, keep, withNewest } from "../../lib/store.js";
 import { PHOTO_INPUT } from "../../lib/types.js";
+import { WRITES } from "../../runs/writes.js";
 import { fill, shortPath } from "../../lib/wording.js";
 
 const KEPT_FOLDERS = 8;
+const MOST_NAMED = 15;
 const KEY = "RecentFolders";
 
 function addedText(found, added, words) {
@@ -31,6 +34,10 @@ function addedText(found, added, words) {
     return parts.length > 0 ? parts.join(" · ") : words.nothing();
 }
 
+function convertTakes(path) {
+    return convert.takes.indexOf(splitPath(path).extension.toLowerCase()) >= 0;
+}
+
 // Folders are the items themselves: files among what was dropped are left out.
 function foldersAmong(paths) {
     const isFolder = (path) => files.info(path).isFolder;
@@ -46,6 +53,7 @@ export class Input {
         this.window = window;
         this.recent = recall(defaults, KEY, { folders: [] }).folders;
         this.hidden = null;
+        this.convertible = false;
         this.joinList();
         this.showRecent();
     }
@@ -68,8 +76,21 @@ export class Input {
             const all = list.hiddenCount();
             const going = along && all > 0 ? goingAlong(list.hiddenPaths(), list.paths()).length : 0;
             this.hidden = { along: along, count: all - going };
+            this.convertible = all > 0 && this.window.action.manner === WRITES && list.hiddenPaths().some(convertTakes);
         }
         return this.hidden.count;
+    }
+
+    /** Names the files that the action leaves out. */
+    showHidden() {
+        const paths = this.window.pictures.hiddenPaths();
+        const going = this.takesAlong() ? goingAlong(paths, this.window.pictures.paths()) : [];
+        const names = paths.filter((path) => going.indexOf(path) < 0).map((path) => splitPath(path).name);
+        const more = names.length - MOST_NAMED;
+        const rest = more > 0 ? [qsTr("and %n more", "", more)] : [];
+        shell.ask({ title: qsTr("Left out here"), text: this.words().hidden(names.length),
+                    detail: names.slice(0, MOST_NAMED).concat(rest).join("\n"),
+                    buttons: [qsTr("Close")], initial: 0, escape: 0, check: "" });
     }
 
     words() {
@@ -91,7 +112,8 @@ export class Input {
         control("emptyText").text = words.text();
         const hidden = this.hiddenCount();
         control("hiddenNote").text = hidden > 0 ? words.hidden(hidden) : "";
-        control("hiddenNote").visible = hidden > 0;
+        control("hiddenBar").visible = hidden > 0;
+        control("hiddenConvert").visible = this.convertible;
     }
 
     showRecent() {

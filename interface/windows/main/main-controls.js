@@ -31,6 +31,9 @@ function doingsOf(window) {
         large: () => window.toggleLarge(),
         fit: () => window.setFill(false),
         fill: () => window.setFill(true),
+        showAllRows: () => window.showProblemsOnly(false),
+        showHidden: () => window.input.showHidden(),
+        convertHidden: () => { window.form.control("sideBar").currentAction = "convert"; },
     };
 }
 
@@ -39,6 +42,7 @@ const BUTTONS = {
     emptyAddFolder: "addFolder", clearButton: "clear", startButton: "start", pauseButton: "pause",
     cancelButton: "cancel", retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report",
     openFolderButton: "openFolders",
+    filterShowAll: "showAllRows", hiddenShow: "showHidden", hiddenConvert: "convertHidden",
     showFailedButton: "showFailed", dismissButton: "dismiss", undoButton: "undoRun",
 };
 

@@ -4,7 +4,9 @@ import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { actionNamed } from "../../actions/actions.js";
 import { guard } from "../../lib/guard.js";
+import { commonFolder } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
+import { fill } from "../../lib/wording.js";
 import { makeServices } from "../../services.js";
 import { SaveAs } from "../save-as/save-as.js";
 import { ActionPage, fillSideBar, lockSideBar } from "./action-page.js";
@@ -19,6 +21,8 @@ import { showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
 
 const SAID_MS = 8000;
+// More folders than these are opened in the one that holds them all.
+const MOST_OPENED = 3;
 // What adds to the list or changes settings.
 const INPUT = [
     "addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction", "renameAction",
@@ -67,6 +71,7 @@ export class MainWindow {
         this.support = new SupportBar(this);
         this.shownPage = this.action.page === undefined ? null : this.action;
         this.pageHost.show(this.shownPage);
+        this.support.show();
         fillSideBar(this, (name) => this.chooseAction(name));
         this.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill")];
     }
@@ -168,6 +173,7 @@ export class MainWindow {
     }
 
     showAll() {
+        this.showTitle();
         this.showInputState();
         this.showStart();
         showStatusBar(this);
@@ -249,7 +255,13 @@ export class MainWindow {
     }
 
     showTitle() {
-        this.form.control("windowTitle").text = "Quorlin – " + (this.shownPage || this.action).title();
+        const name = (this.shownPage || this.action).title();
+        const run = this.run;
+        const share = run.phase === "running" && run.progress.count > 0
+            ? Math.floor((100 * run.progress.done) / run.progress.count) : -1;
+        this.form.control("windowTitle").text = "Quorlin – " + name;
+        this.form.title = share < 0
+            ? "Quorlin" : fill(qsTr("%1%"), share) + " – " + this.action.title() + " – Quorlin";
     }
 
     // A page takes the place of list and settings. The list stays when another action is chosen; adding to it leads back from
@@ -271,7 +283,7 @@ export class MainWindow {
             this.run.look();
         }
         this.pageHost.show(this.shownPage);
-        this.showTitle();
+        this.support.show();
         this.showAll();
         this.history.lookForRun();
     }
@@ -339,7 +351,14 @@ export class MainWindow {
     }
 
     openFolders() {
-        this.run.folders().slice(0, 3).forEach((folder) => shell.openFolder(folder));
+        const folders = this.run.folders();
+        const shown = folders.length > MOST_OPENED ? [commonFolder(folders)] : folders;
+        const refused = shown.filter((folder) => !shell.openFolder(folder));
+        if (refused.length > 0) {
+            this.sayBeside(fill(qsTr("No file manager opens the folder. It is %1"), refused.join(", ")));
+        } else if (shown.length < folders.length) {
+            this.sayBeside(fill(qsTr("Opened: %1, which holds the %n folders", "", folders.length), shown[0]));
+        }
     }
 
     // Made when it is first used.

@@ -26,6 +26,14 @@ function endButtons(run, ended) {
     };
 }
 
+// Says over the list that it shows a part of itself.
+function showFilter(window) {
+    const on = window.pictures.problemsOnly;
+    window.form.control("filterBar").visible = on;
+    window.form.control("filterNote").text = on
+        ? qsTr("Only what failed is shown: %n of the list", "", window.run.problems) : "";
+}
+
 export function showStatusBar(window) {
     const control = (name) => window.form.control(name);
     const run = window.run;
@@ -48,6 +56,7 @@ export function showStatusBar(window) {
     control("retryAction").enabled = visible.retryButton;
     control("reportAction").enabled = visible.reportButton;
     control("showFailedAction").enabled = visible.showFailedButton;
+    showFilter(window);
     control("showFailedAction").checked = window.pictures.problemsOnly;
     control("showFailedButton").checked = window.pictures.problemsOnly;
 }

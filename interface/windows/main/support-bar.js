@@ -1,4 +1,4 @@
-// The bar that offers to choose the support folder, until it was chosen or put off.
+// The bar of Background & Border that offers to choose the support folder, until it was chosen or put off.
 
 import { defaults } from "quorlin/defaults";
 import { guard } from "../../lib/guard.js";
@@ -30,9 +30,12 @@ export class SupportBar {
         this.show();
     }
 
+    /** Only where a pattern can be chosen. */
     show() {
         const isAsked = defaults.get("SupportFilesDestination") === null
             && !recall(defaults, PUT_OFF, { on: false }).on;
-        this.window.form.control("supportBar").visible = isAsked;
+        const window = this.window;
+        window.form.control("supportBar").visible = isAsked && window.shownPage === null
+            && window.action.name === "background";
     }
 }

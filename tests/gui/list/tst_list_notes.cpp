@@ -1,0 +1,180 @@
+#include "tests/gui/support/window_driver.h"
+#include "tests/support/test_program.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+using window::PictureModel;
+
+namespace {
+
+/** Stands in for a file manager. */
+class FolderOpener : public QObject
+{
+    Q_OBJECT
+
+public:
+    FolderOpener() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open"); }
+    ~FolderOpener() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+    QStringList opened;
+
+public Q_SLOTS:
+    void open(const QUrl &url) { opened.append(url.toLocalFile()); }
+};
+
+} // namespace
+
+/** What the window says over and under its list: counts, what is left out, what is filtered, and where results are. */
+class TestListNotes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_driver = WindowDriver::showing("resize"); }
+    void cleanup() { m_driver.reset(); }
+    void theButtonCountsWhatWillBeWritten();
+    void saysThatOnlyWhatFailedIsShown();
+    void whatIsLeftOutIsSaidInOneLine();
+    void theTitleTellsHowFarARunIs();
+    void manyFoldersOpenInTheOneThatHoldsThem();
+    void saysWhereAFolderIsThatNobodyOpens();
+
+private:
+    QString path(const QString &name) const { return m_driver->inputFolder() + u'/' + name; }
+    QAbstractButton *button(const char *name) { return m_driver->control<QAbstractButton>(name); }
+    QWidget *part(const char *name) { return m_driver->control<QWidget>(name); }
+    void picture(const QString &name, QSize size = {40, 30});
+    void broken(const QString &name);
+    void run();
+
+    std::unique_ptr<WindowDriver> m_driver;
+};
+
+void TestListNotes::picture(const QString &name, QSize size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
+    QVERIFY(image.save(path(name)));
+}
+
+void TestListNotes::broken(const QString &name)
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no picture") > 0);
+}
+
+void TestListNotes::run()
+{
+    QVERIFY(m_driver->waitFor([this] { return button("startButton")->isEnabled(); }));
+    m_driver->click("startButton");
+    QVERIFY(!m_driver->waitForSummary().isEmpty());
+}
+
+void TestListNotes::theButtonCountsWhatWillBeWritten()
+{
+    for (const char *name : {"a.png", "b.png", "c.png"})
+        picture(QString::fromLatin1(name));
+    broken(QStringLiteral("d.png"));
+    m_driver->drop({m_driver->inputFolder()});
+    QCOMPARE(m_driver->pictures().count(), 4);
+    QVERIFY(m_driver->waitFor([this] { return button("startButton")->text() == QLatin1String("Resize 3 Pictures"); }));
+    run();
+    QVERIFY(m_driver->text("statusText").startsWith(QLatin1String("3 pictures done")));
+}
+
+void TestListNotes::saysThatOnlyWhatFailedIsShown()
+{
+    picture(QStringLiteral("a.png"));
+    picture(QStringLiteral("b.png"));
+    broken(QStringLiteral("c.png"));
+    m_driver->drop({m_driver->inputFolder()});
+    QVERIFY(!part("filterBar")->isVisible());
+    run();
+    QCOMPARE(button("startButton")->text(), QStringLiteral("Resize 2 Pictures"));
+    QCOMPARE(m_driver->pictures().currentPlace(), 1);
+    m_driver->click("showFailedButton");
+    QCOMPARE(m_driver->text("filterNote"), QStringLiteral("Only what failed is shown: 1 of the list"));
+    QVERIFY(part("filterBar")->isVisible());
+    QCOMPARE(m_driver->pictures().model()->rowCount(), 1);
+    QCOMPARE(m_driver->pictures().currentPlace(), 1);
+    QCOMPARE(m_driver->cell(m_driver->pictures().currentIndex().row(), PictureModel::Name), QStringLiteral("c.png"));
+    m_driver->click("filterShowAll");
+    QVERIFY(!part("filterBar")->isVisible() && !button("showFailedButton")->isChecked());
+    QCOMPARE(m_driver->pictures().model()->rowCount(), 3);
+}
+
+void TestListNotes::whatIsLeftOutIsSaidInOneLine()
+{
+    picture(QStringLiteral("a.png"));
+    m_driver->show("convert");
+    broken(QStringLiteral("b.heic"));
+    m_driver->drop({m_driver->inputFolder()});
+    QVERIFY(!part("hiddenBar")->isVisible());
+    for (const char *action : {"resize", "crop", "background"}) {
+        m_driver->show(action);
+        QVERIFY(part("hiddenBar")->isVisible());
+        QCoreApplication::processEvents();
+        QVERIFY2(part("hiddenBar")->height() <= 40, qPrintable(QString::number(part("hiddenBar")->height())));
+    }
+    QString named;
+    QTimer::singleShot(100, this, [&named] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            named = box->informativeText();
+            box->reject();
+        }
+    });
+    m_driver->click("hiddenShow");
+    QCOMPARE(named, QStringLiteral("b.heic"));
+    m_driver->click("hiddenConvert");
+    QCOMPARE(m_driver->text("windowTitle"), QStringLiteral("Quorlin – Convert"));
+    QCOMPARE(m_driver->pictures().count(), 2);
+    QVERIFY(!part("hiddenBar")->isVisible());
+}
+
+void TestListNotes::theTitleTellsHowFarARunIs()
+{
+    for (int i = 0; i < 20; ++i)
+        picture(QStringLiteral("p%1.png").arg(i), {800, 600});
+    m_driver->drop({m_driver->inputFolder()});
+    QCOMPARE(m_driver->window().windowTitle(), QStringLiteral("Quorlin"));
+    QStringList titles;
+    connect(&m_driver->window(), &QWidget::windowTitleChanged, this,
+            [&titles](const QString &title) { titles << title; });
+    run();
+    QVERIFY2(titles.contains(QStringLiteral("50% – Resize – Quorlin")), qPrintable(titles.join(u'|')));
+    QCOMPARE(m_driver->window().windowTitle(), QStringLiteral("Quorlin"));
+}
+
+void TestListNotes::manyFoldersOpenInTheOneThatHoldsThem()
+{
+    FolderOpener opener;
+    for (int i = 0; i < 6; ++i)
+        picture(QStringLiteral("day/%1/a.png").arg(i));
+    m_driver->drop({m_driver->inputFolder()});
+    run();
+    m_driver->click("openFolderButton");
+    QCOMPARE(opener.opened, QStringList(path(QStringLiteral("day"))));
+    QVERIFY(m_driver->text("statusDetail").contains(QLatin1String("which holds the 6 folders")));
+}
+
+void TestListNotes::saysWhereAFolderIsThatNobodyOpens()
+{
+    picture(QStringLiteral("a.png"));
+    m_driver->drop({m_driver->inputFolder()});
+    run();
+    m_driver->click("openFolderButton");
+    QCOMPARE(m_driver->text("statusDetail"),
+             QStringLiteral("No file manager opens the folder. It is %1").arg(path(QStringLiteral("Resized"))));
+}
+
+QUORLIN_GUI_TEST(TestListNotes)
+
+#include "tst_list_notes.moc"
