@@ -5,7 +5,9 @@
 #include "platform/imageio/xmp/xmp_edit.h"
 #include "platform/imageio/xmp/xmp_packet.h"
 
+#include <array>
 #include <exception>
+#include <utility>
 
 namespace platform {
 namespace {
@@ -48,6 +50,53 @@ bool says(const Exiv2::XmpData &xmp, const std::string &property)
     return false;
 }
 
+/**
+ * The library calls a name space as the packet did that it read last, of whatever picture. What it writes is to depend on nothing
+ * but the picture, so the usual names are told to it again.
+ */
+void restoreUsualNames()
+{
+    static const std::string packet = [] {
+        const std::array<std::pair<const char *, const char *>, 20> names = {
+            {{"dc", "http://purl.org/dc/elements/1.1/"},
+             {"xmp", "http://ns.adobe.com/xap/1.0/"},
+             {"xmpRights", "http://ns.adobe.com/xap/1.0/rights/"},
+             {"xmpMM", "http://ns.adobe.com/xap/1.0/mm/"},
+             {"xmpBJ", "http://ns.adobe.com/xap/1.0/bj/"},
+             {"xmpTPg", "http://ns.adobe.com/xap/1.0/t/pg/"},
+             {"xmpDM", "http://ns.adobe.com/xmp/1.0/DynamicMedia/"},
+             {"stEvt", "http://ns.adobe.com/xap/1.0/sType/ResourceEvent#"},
+             {"stRef", "http://ns.adobe.com/xap/1.0/sType/ResourceRef#"},
+             {"stDim", "http://ns.adobe.com/xap/1.0/sType/Dimensions#"},
+             {"pdf", "http://ns.adobe.com/pdf/1.3/"},
+             {"photoshop", "http://ns.adobe.com/photoshop/1.0/"},
+             {"crs", "http://ns.adobe.com/camera-raw-settings/1.0/"},
+             {"tiff", "http://ns.adobe.com/tiff/1.0/"},
+             {"exif", "http://ns.adobe.com/exif/1.0/"},
+             {"exifEX", "http://cipa.jp/exif/1.0/"},
+             {"aux", "http://ns.adobe.com/exif/1.0/aux/"},
+             {"Iptc4xmpCore", "http://iptc.org/std/Iptc4xmpCore/1.0/xmlns/"},
+             {"Iptc4xmpExt", "http://iptc.org/std/Iptc4xmpExt/2008-02-29/"},
+             {"lr", "http://ns.adobe.com/lightroom/1.0/"}}};
+        std::string text =
+            "<x:xmpmeta xmlns:x='adobe:ns:meta/'><r:RDF xmlns:r='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
+            "<r:Description r:about=''";
+        for (const auto &[prefix, space] : names)
+            text += std::string(" xmlns:") + prefix + "='" + space + "'";
+        return text + " dc:format=''/></r:RDF></x:xmpmeta>";
+    }();
+    Exiv2::XmpData told;
+    Exiv2::XmpParser::decode(told, packet);
+}
+
+/** Empty where it cannot be written as a packet. */
+std::string packetOf(const Exiv2::XmpData &xmp)
+{
+    restoreUsualNames();
+    std::string packet;
+    return Exiv2::XmpParser::encode(packet, xmp, Exiv2::XmpParser::useCompactFormat) == 0 ? packet : std::string();
+}
+
 /** What EXIF and IPTC say, as a packet, without what the own one says already; empty where that is nothing. */
 QByteArray saidInstead(const Metadata::Blocks &blocks, QSize pixels, SaidInXmp said)
 {
@@ -64,21 +113,15 @@ QByteArray saidInstead(const Metadata::Blocks &blocks, QSize pixels, SaidInXmp s
         Exiv2::copyIptcToXmp(blocks.iptc, made);
     for (auto each = made.begin(); each != made.end();)
         each = says(blocks.xmp, propertyOf(each->key())) ? made.erase(each) : ++each;
-    std::string packet;
-    if (made.empty() || Exiv2::XmpParser::encode(packet, made, Exiv2::XmpParser::useCompactFormat) != 0)
-        return {};
-    return QByteArray(packet.data(), qsizetype(packet.size()));
+    return made.empty() ? QByteArray() : QByteArray::fromStdString(packetOf(made));
 }
 
 } // namespace
 
 QByteArray xmpPacket(const Metadata::Blocks &blocks, QSize pixels)
 {
-    std::string packet = blocks.xmpPacket;
-    if (packet.empty() && !blocks.xmp.empty() &&
-        Exiv2::XmpParser::encode(packet, blocks.xmp, Exiv2::XmpParser::useCompactFormat) != 0)
-        return {};
-    const QByteArray bytes(packet.data(), qsizetype(packet.size()));
+    const bool isThere = !blocks.xmpPacket.empty() || blocks.xmp.empty();
+    const QByteArray bytes = QByteArray::fromStdString(isThere ? blocks.xmpPacket : packetOf(blocks.xmp));
     return pixels.isEmpty() ? bytes : xmpForNewPixels(bytes, pixels);
 }
 

@@ -195,6 +195,7 @@ private Q_SLOTS:
     void holdsAllThatItsTypeCan_data() { addKinds(); }
     void holdsAllThatItsTypeCan();
     void saysInXmpWhatHasNoOtherPlace();
+    void dependsOnNoPictureBefore();
     void keepsAuthorshipAlone_data() { addKinds(); }
     void keepsAuthorshipAlone();
     void losesThePlace_data() { addKinds(); }
@@ -437,6 +438,26 @@ void CarriedEverywhere::isReadAgainByThisProgram()
         QCOMPARE(known->userComment(), QStringLiteral("seen from the pier"));
     if (kind->comment)
         QCOMPARE(known->comments(), m_known.comments());
+}
+
+/** A name space has another name in some pictures, which must not be found in the files that are written after them. */
+void CarriedEverywhere::dependsOnNoPictureBefore()
+{
+    const auto readOne = [](const QByteArray &prefix) {
+        const QByteArray packet =
+            "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
+            "<rdf:Description rdf:about='' xmlns:" +
+            prefix + "='http://ns.adobe.com/tiff/1.0/' " + prefix + ":Make='A'/></rdf:RDF></x:xmpmeta>";
+        QVERIFY(!Metadata::fromBlocks({}, packet, {}).isEmpty());
+    };
+    const Metadata known =
+        Metadata::fromFileBytes(contentOf(picturePath("own/metadata/big-endian.jpg"))); // without XMP
+    for (const Kind &kind : kinds) {
+        readOne("tiff");
+        const QByteArray before = written(kind, known);
+        readOne("other");
+        QVERIFY2(written(kind, known) == before, kind.name);
+    }
 }
 
 void CarriedEverywhere::keepsMakerNotesWhole()
