@@ -32,13 +32,19 @@ QByteArray suppliedProfile(const char *name)
     return takenFrom(blob);
 }
 
+/** The same bytes at any time: the library states the moment at which it made the profile. */
 QByteArray bytesOf(const Profile &profile)
 {
     cmsUInt32Number length = 0;
     if (!profile || !cmsSaveProfileToMem(profile.get(), nullptr, &length))
         return {};
     QByteArray bytes(qsizetype(length), '\0');
-    return cmsSaveProfileToMem(profile.get(), bytes.data(), &length) ? bytes : QByteArray();
+    if (!cmsSaveProfileToMem(profile.get(), bytes.data(), &length))
+        return {};
+    constexpr qsizetype momentAt = 24;
+    constexpr std::array<char, 12> firstOf2000 = {0x07, char(0xd0), 0,
+                                                  1,    0,          1}; // year, month, day and a time of two bytes each
+    return bytes.replace(momentAt, qsizetype(firstOf2000.size()), firstOf2000.data(), qsizetype(firstOf2000.size()));
 }
 
 /** Grey of the curve of sRGB, IEC 61966-2-1. */
