@@ -102,6 +102,10 @@ private:
             return false;
         forgetPicture();
         m_facts = told->facts;
+        if (m_trial.sleep) {
+            planAsleep();
+            return true;
+        }
         const auto file = std::make_shared<const LentFile>(std::move(message.files.front()), told->facts.path);
         const Result<ImageSource> source = ImageSource::fromLent(file);
         PlannedMessage planned;
@@ -130,12 +134,60 @@ private:
         return true;
     }
 
+    void planAsleep()
+    {
+        ::usleep(useconds_t(m_trial.sleep->lookingUs));
+        PlannedMessage planned;
+        planned.pixels = QSize(4, 3);
+        for (const image::RecipeOutput &output : m_recipe.outputs) {
+            image::OutputPlan plan;
+            plan.type = output.type == image::OutputType::Original ? image::OutputType::Jpeg : output.type;
+            plan.size = planned.pixels;
+            planned.plans.append(plan);
+        }
+        m_plans = planned.plans;
+        m_socket.send(toMessage(planned));
+    }
+
+    /** Answers for all outputs that were to be made. */
+    void answerAll(const std::function<void(MadeMessage &message)> &fill)
+    {
+        std::vector<int> indices;
+        for (const auto &[index, file] : m_outputs)
+            indices.push_back(index);
+        for (const int index : indices) {
+            MadeMessage message;
+            message.index = index;
+            fill(message);
+            m_socket.send(toMessage(message));
+        }
+        forgetPicture();
+        m_socket.send(toMessage(MessageKind::Done));
+    }
+
+    /** True where there was a trial in place of the work. */
+    bool tries()
+    {
+        const QString trouble = m_trial.beforeMaking ? m_trial.beforeMaking(m_facts.path) : QString();
+        if (!trouble.isEmpty())
+            answerAll([&trouble](MadeMessage &message) { message.problem = trouble; });
+        else if (m_trial.sleep)
+            answerAll([this](MadeMessage &message) {
+                constexpr int microseconds = 1000;
+                ::usleep(useconds_t(m_trial.sleep->makingUs));
+                keep(message, {message.index, QByteArrayLiteral("nothing"), QSize(4, 3), false});
+                message.milliseconds = (m_trial.sleep->lookingUs + m_trial.sleep->makingUs) / microseconds;
+            });
+        return !trouble.isEmpty() || m_trial.sleep;
+    }
+
     void make()
     {
+        if (tries())
+            return;
         for (qsizetype index = 0; index < m_plans.size(); ++index)
             if (!m_outputs.contains(int(index)))
                 m_plans[index].problem = QStringLiteral("-"); // nothing is to be made of it
-        const QString trouble = m_trial.beforeMaking ? m_trial.beforeMaking(m_facts.path) : QString();
         QElapsedTimer timer;
         timer.start();
         const image::FillText fill = [this](const QString &pattern, QSize size) {
@@ -144,10 +196,10 @@ private:
         const auto take = [&](int index, const Result<image::MadeOutput> &made) {
             MadeMessage message;
             message.index = index;
-            if (made && trouble.isEmpty())
+            if (made)
                 keep(message, *made);
             else
-                message.problem = made ? trouble : made.error().message;
+                message.problem = made.error().message;
             message.milliseconds = timer.restart();
             m_socket.send(toMessage(message));
         };

@@ -6,14 +6,23 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace jobs {
 
-/** What tests put into the way of a worker. */
+/** What tests and measurements put in the place of a worker's work. */
 struct WorkerTrial
 {
-    /** Called before the outputs of a picture are made, with its path; what it says is the reason why none is. */
+    /** Called before the outputs of a picture are made, with its path; where it says something, that is the reason why none is. */
     std::function<QString(const QString &path)> beforeMaking;
+
+    /** Sleeping in place of computing, so that a machine with few processors can show what many workers do. */
+    struct Sleep
+    {
+        int lookingUs = 0; ///< microseconds
+        int makingUs = 0;
+    };
+    std::optional<Sleep> sleep;
 };
 
 /**
