@@ -69,9 +69,8 @@ void BatchRun::listen()
         advance();
     };
     m_crew.onMissing = [this](const QString &problem) {
-        constexpr int mostInARow = 3;
         m_startsLater = true;
-        if (++m_missing >= mostInARow && m_crew.count() == 0)
+        if (++m_missing >= mostFailedStarts && m_crew.count() == 0)
             m_noWorkers = problem;
     };
 }

@@ -35,8 +35,7 @@ QString Crew::begin()
     for (const QString &path : image::filesOf(*recipe))
         if (auto file = platform::LentFile::open(path)) // what is not there the worker misses
             m_files.emplace(path, std::move(*file));
-    constexpr int mostTries = 2; // the first one may have come to grief by itself
-    for (int tries = 0; tries < mostTries && m_ready.empty(); ++tries) {
+    for (int tries = 0; tries < mostFailedStarts && m_ready.empty(); ++tries) {
         QEventLoop loop;
         m_wake = [&loop] { loop.quit(); };
         m_problem.clear();
