@@ -161,14 +161,18 @@ void BatchRun::startWorkers()
     const auto waiting = [this] {
         return int(m_toMake.size() + m_toTryAgain.size()) + (mayLookAhead() ? m_inputs.known() - m_inputs.taken() : 0);
     };
-    const bool wantsFresh = !m_toTryAgain.empty() && m_fresh.empty() && starting() == 0;
-    if (wantsFresh && m_crew.count() >= m_crew.size() && !m_idle.empty()) {
-        const Id worker = *m_idle.begin();
-        m_idle.erase(worker);
-        m_crew.end(worker);
+    const auto mayStart = [this] { return !m_startsLater && m_noWorkers.isEmpty() && m_crew.count() < m_crew.size(); };
+    // A picture that ended one worker waits for a new one, however many others have nothing to do.
+    if (!m_toTryAgain.empty() && m_fresh.empty() && starting() == 0) {
+        if (m_crew.count() >= m_crew.size() && !m_idle.empty()) {
+            const Id worker = *m_idle.begin();
+            m_idle.erase(worker);
+            m_crew.end(worker);
+        }
+        if (mayStart())
+            m_crew.start();
     }
-    while (!m_startsLater && m_noWorkers.isEmpty() && m_crew.count() < m_crew.size() &&
-           waiting() > int(m_idle.size()) + starting())
+    while (mayStart() && waiting() > int(m_idle.size()) + starting())
         m_crew.start();
 }
 

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void attacksNothing();
     void givesUpOnePicture_data();
     void givesUpOnePicture();
+    void triesTheLastPictureAgain();
     void refusesWhatTheRecipeLacks();
     void tellsThatThereIsNoWorker();
     void survivesSignals_data();
@@ -225,6 +226,22 @@ void TestWorkers::givesUpOnePicture()
     QVERIFY(childProcesses().isEmpty());
 }
 
+/** The other worker has nothing to do then, and has had other pictures: it is not the one that tries again. */
+void TestWorkers::triesTheLastPictureAgain()
+{
+    World world;
+    world.addMany(20);
+    world.add(QStringLiteral("try-crash.png"));
+    for (const int workers : {1, 2, 3}) {
+        QDir(world.folder.path("out")).removeRecursively();
+        batches::Run run;
+        run.crew = {trialProgram(), workers, {}};
+        QCOMPARE(batches::sortedLinesOf(recipe, world.pictures, run).last().reason,
+                 QStringLiteral("its reader crashed"));
+        QCOMPARE(run.summary.ok, 40);
+    }
+}
+
 void TestWorkers::refusesWhatTheRecipeLacks()
 {
     const World world;
@@ -280,6 +297,8 @@ void TestWorkers::survivesSignals()
             if (left <= 0 || workers.isEmpty() || !isUnderWay)
                 return;
             ::kill(workers[QRandomGenerator::global()->bounded(int(workers.size()))], signal);
+            isUnderWay =
+                false; // until something was made again: a slow machine starts workers more slowly than they are shot
             --left;
             ++sent;
         });
