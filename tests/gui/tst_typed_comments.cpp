@@ -97,12 +97,16 @@ void TestTypedComments::aTypedCommentSurvivesARunOverManyPictures()
 {
     addPictures();
     comment()->setPlainText(QStringLiteral("typed"));
-    m_driver->control<window::SegmentedControl>("metaScope")->setFocus();
+    const auto scope = m_driver->control<window::SegmentedControl>("metaScope");
+    scope->setFocus();
     key(Qt::Key_Right);
     comment()->setPlainText(QStringLiteral("for all"));
     m_driver->answerNextQuestion(QStringLiteral("Write"));
     m_driver->click("metaApplyAll");
-    QVERIFY(m_driver->waitFor([this] { return commentOf(path("b.jpg")) == QLatin1String("for all"); }));
+    QVERIFY(
+        m_driver->waitFor([&] { return commentOf(path("c.png")) == QLatin1String("for all") && scope->isEnabled(); }));
+    QCOMPARE(commentOf(path("b.jpg")), QStringLiteral("for all"));
+    scope->setFocus();
     key(Qt::Key_Left);
     QCOMPARE(comment()->toPlainText(), QStringLiteral("typed"));
     QVERIFY(button("metaApply")->isEnabled());
