@@ -138,7 +138,7 @@ void Language::rejected(const QJSValue &reason, const QString &stack, const QJSV
     m_due.start();
 }
 
-/** One reaction after another runs in turns of the event loop of their own; the last of them may still handle a rejection. */
+/** One reaction after another runs in separate turns of the event loop; the last of them may still handle a rejection. */
 void Language::tellWhenQuiet()
 {
     constexpr int mostTurns = 100;
