@@ -118,7 +118,7 @@ struct WatermarkOperation
     QString font;
     QColor color = Qt::white;
     RecipePicture picture; ///< in place of the text
-    double size = 0;       ///< per cent: of the picture's height for text, of its width for a picture
+    double size = 0;       ///< percent: of the picture's height for text, of its width for a picture
     Place position = Place::BottomRight;
     double margin = 2; ///< per cent of the shorter side
     double angle = 0;  ///< degrees clockwise
