@@ -128,7 +128,7 @@ bool Inputs::isNew(const QString &path)
         m_items.insert(item->number);
     if (item && !item->hasSecondName)
         return !isKnown;
-    const QString name = item ? withoutLinks(path) : path;
+    const PathKey name = pathKey(platform::encodedPath(item ? withoutLinks(path) : path));
     const bool isNamed = m_names.contains(name);
     m_names.insert(name);
     return !isNamed;

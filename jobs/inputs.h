@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jobs/name_stream.h"
+#include "jobs/path_hash.h"
 #include "jobs/picture_watch.h"
 #include "platform/disk/item_identity.h"
 
@@ -30,7 +31,7 @@ QString placeBelowRoot(const Input &input);
  * still to come. A folder gives all below it but links, as files::collectFiles() has it, when its turn comes; those that are named
  * from the start are walked before anything is written. A picture that is named twice, under whatever path, counts where it comes first.
  *
- * What was taken is not kept: a million pictures cost some 50 bytes each.
+ * What was taken is not kept; some 50 bytes a picture are, in few blocks, so that the millionth costs what the first did.
  */
 class Inputs
 {
@@ -86,7 +87,7 @@ private:
     std::deque<Input> m_waiting;
     int m_taken = 0;
     QSet<platform::ItemNumber> m_items;
-    QSet<QString> m_names; ///< of what is not there, or has second names that count for themselves
+    QSet<PathKey> m_names; ///< of what is not there, or has second names that count for themselves
     QString m_problem;
 };
 

@@ -234,6 +234,9 @@ void TestBatchInputs::hashesAsOthersDo()
     QCOMPARE(pathHash(""), 0xcbf29ce484222325ULL);
     QCOMPARE(pathHash("a"), 0xaf63dc4c8601ec8cULL);
     QCOMPARE(pathHash("foobar"), 0x85944171f73967e8ULL);
+    const PathKey wide = {0x343e1662793c64bfULL, 0x6f0d3597ba446f18ULL};
+    QVERIFY(pathKey("foobar") == wide);
+    QVERIFY(!(pathKey("foobas") == wide));
     QVERIFY(isInShard({QStringLiteral("/x/foobar"), {}, {}}, int(0x85944171f73967e8ULL % 7) + 1, 7));
     QVERIFY(isInShard({QStringLiteral("/x/foobar"), QStringLiteral("/"), {}}, int(pathHash("x/foobar") % 7) + 1, 7));
 }
