@@ -113,18 +113,9 @@ bool BatchRun::takeDone(Id worker, const Message &message)
 /** Why a picture fails whose worker has ended so; empty where it is tried once more. */
 QString BatchRun::finalReason(WorkerEnd end, int tries) const
 {
-    constexpr qint64 megabyte = 1 << 20;
     constexpr int mostTries = 2;
-    switch (end) {
-    case WorkerEnd::TookTooLong:
-        return image::sentence("it takes longer than %1 seconds").arg(m_crew.limits().seconds);
-    case WorkerEnd::TookTooMuch:
-        return image::sentence("it needs more than %1 MB of memory").arg(m_crew.limits().residentBytes / megabyte);
-    case WorkerEnd::Crashed:
-    case WorkerEnd::SpokeNonsense:
-        break;
-    }
-    return tries < mostTries ? QString() : image::sentence("its reader crashed");
+    const bool isFinal = end == WorkerEnd::TookTooLong || end == WorkerEnd::TookTooMuch || tries >= mostTries;
+    return isFinal ? reasonFor(end, m_crew.limits()) : QString();
 }
 
 void BatchRun::takeEnd(Id worker, WorkerEnd end)

@@ -73,6 +73,9 @@ private:
     platform::WorkerPool m_pool;
 };
 
+/** Why nothing came of what a worker was at that has ended so, as a sentence. */
+QString reasonFor(platform::WorkerEnd end, const platform::WorkerLimits &limits);
+
 /** What keeps the workers of @p program from doing harm, as one of them says; nothing where none can be started. */
 std::optional<HelloMessage> confinementOf(const QString &program);
 

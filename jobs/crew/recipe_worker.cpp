@@ -120,6 +120,7 @@ private:
         } else {
             planned.problem = source.error().message;
         }
+        m_problem = planned.problem;
         m_socket.send(toMessage(planned));
         return true;
     }
@@ -181,9 +182,17 @@ private:
         return !trouble.isEmpty() || m_trial.sleep;
     }
 
+    /** True where there is nothing to make anything of, and whoever told it to did not wait for the plan. */
+    bool lacksPicture()
+    {
+        if (!m_problem.isEmpty())
+            answerAll([this](MadeMessage &message) { message.problem = m_problem; });
+        return !m_problem.isEmpty();
+    }
+
     void make()
     {
-        if (tries())
+        if (lacksPicture() || tries())
             return;
         for (qsizetype index = 0; index < m_plans.size(); ++index)
             if (!m_outputs.contains(int(index)))
@@ -232,6 +241,7 @@ private:
     QHash<QString, SharedFile> m_files;
     image::Recipe m_recipe;
     ImageSource m_source;
+    QString m_problem; ///< why the picture could not be opened
     text::TokenFacts m_facts;
     QList<image::OutputPlan> m_plans;
     std::map<int, Descriptor> m_outputs;

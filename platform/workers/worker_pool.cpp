@@ -15,6 +15,7 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -121,6 +122,8 @@ std::optional<WorkerPool::Id> WorkerPool::start(QString *problem)
             *problem = QString::fromLocal8Bit(std::strerror(-child));
         return std::nullopt;
     }
+    if (m_limits.niceness > 0)
+        ::setpriority(PRIO_PROCESS, id_t(child), ::getpriority(PRIO_PROCESS, 0) + m_limits.niceness);
     ::fcntl(ends.one.number(), F_SETFL, O_NONBLOCK);
     const Id id = m_next++;
     auto worker = std::make_unique<Worker>(child, std::move(ends.one));

@@ -18,6 +18,7 @@ struct WorkerLimits
 {
     int seconds = 300;
     qint64 residentBytes = qint64(2048) << 20;
+    int niceness = 0; ///< how much less than this process it presses for the processors, to 19
 };
 
 enum class WorkerEnd {

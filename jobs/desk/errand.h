@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/workers/message.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace jobs {
+
+/** A worker as those see it who have something for it to do. */
+struct Hand
+{
+    int id = -1;        ///< never that of another worker
+    quint64 recipe = 0; ///< see SharedRecipe: the one that it was told last; 0 for none
+};
+
+/**
+ * One thing that one worker does: what it is told, what it answers, and what becomes of that. A desk carries it out, see WorkerDesk.
+ *
+ * Each kind of work has messages of its own (see messages.h) and a case in the worker that takes them (recipe_worker.cpp). Pictures are
+ * handed over as open descriptors: LentFile::open() for what is read, a file that was made for what is written, a memfd for pixels that
+ * come back.
+ */
+class Errand
+{
+public:
+    enum class Turn {
+        GoesOn,   ///< more answers are to come
+        Over,     ///< the worker is free
+        Nonsense, ///< that was no answer; the worker is ended, and the errand tried again as after a crash
+    };
+
+    Errand() = default;
+    Errand(const Errand &) = delete;
+    Errand &operator=(const Errand &) = delete;
+    /** Whoever still waits for an answer gets none; what was begun is cleared away. */
+    virtual ~Errand() = default;
+
+    /**
+     * What the worker is told first; nothing where there is nothing left for it to do, which ends the errand. Called once more, with a
+     * worker that has just been started, where the first one crashed.
+     */
+    virtual std::vector<platform::Message> begin(Hand &hand) = 0;
+    virtual Turn take(const platform::Message &message) = 0;
+    /** Nothing came of it, for a reason that is a sentence. The last that the desk does with it. */
+    virtual void fail(const QString &reason) = 0;
+    /** Memory that a worker takes for it at most, in bytes; 0 where that is little. */
+    virtual qint64 expectedBytes() const { return 0; }
+};
+
+} // namespace jobs

@@ -1,0 +1,336 @@
+#include "jobs/desk/worker_desk.h"
+
+#include "image/recipe/sentence.h"
+#include "jobs/crew/crew.h"
+#include "jobs/crew/messages.h"
+#include "platform/foundation/memory_left.h"
+#include "platform/foundation/processors.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace jobs {
+
+using platform::Message;
+using platform::WorkerEnd;
+
+namespace {
+
+constexpr int soonMs = 200;    // before a worker that could not be started is started again
+constexpr int restMs = 60'000; // before workers that have nothing to do go
+constexpr int mostWorkers = 256;
+constexpr std::array<Urgency, 3> byUrgency = {Urgency::Now, Urgency::Soon, Urgency::Later};
+
+/** The program of ofProcess(), where tests said it. */
+QString &saidProgram()
+{
+    static QString program;
+    return program;
+}
+
+} // namespace
+
+WorkerDesk::WorkerDesk(const Options &options, QObject *parent)
+    : QObject(parent), m_size(options.workers > 0 ? options.workers : most()), m_options(options),
+      m_pool(options.program, options.limits)
+{
+    m_pool.onMessage = [this](Id worker, const Message &message) { take(worker, message); };
+    m_pool.onEnded = [this](Id worker, WorkerEnd end) { takeEnd(worker, end); };
+    m_look.setSingleShot(true);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(restMs);
+    connect(&m_look, &QTimer::timeout, this, [this] { giveWork(); });
+    connect(&m_rest, &QTimer::timeout, this, [this] { letSomeGo(); });
+}
+
+WorkerDesk::~WorkerDesk()
+{
+    m_pool.onMessage = {};
+    m_pool.onEnded = {};
+}
+
+WorkerDesk &WorkerDesk::ofProcess()
+{
+    static QPointer<WorkerDesk> desk;
+    if (!desk) {
+        Options usual;
+        usual.program = saidProgram().isEmpty() ? workerProgram() : saidProgram();
+        desk = new WorkerDesk(usual, QCoreApplication::instance());
+    }
+    return *desk;
+}
+
+void WorkerDesk::useProgram(const QString &program)
+{
+    saidProgram() = program;
+}
+
+int WorkerDesk::most()
+{
+    return platform::usableProcessors();
+}
+
+void WorkerDesk::setSize(int workers)
+{
+    m_size = std::clamp(workers, 1, mostWorkers);
+    look();
+}
+
+void WorkerDesk::look()
+{
+    m_look.start(0);
+}
+
+WorkerDesk::Number WorkerDesk::add(std::shared_ptr<Errand> errand, Urgency urgency)
+{
+    const Number number = m_next++;
+    m_waiting[urgency].push_back({number, urgency, std::move(errand)});
+    look();
+    return number;
+}
+
+void WorkerDesk::drop(Number number)
+{
+    const auto isIt = [number](const Asked &asked) { return asked.number == number; };
+    // What an errand does when it goes must not find it here.
+    const auto takeFrom = [&isIt](std::deque<Asked> &asked) {
+        const auto found = std::find_if(asked.begin(), asked.end(), isIt);
+        const std::shared_ptr<Errand> gone = found == asked.end() ? nullptr : std::move(found->errand);
+        if (found != asked.end())
+            asked.erase(found);
+        return gone != nullptr;
+    };
+    for (auto &[urgency, asked] : m_waiting)
+        if (takeFrom(asked))
+            return;
+    if (takeFrom(m_toTryAgain))
+        return;
+    const auto worker = std::find_if(m_workers.begin(), m_workers.end(), [&isIt](const auto &each) {
+        return each.second.asked && isIt(*each.second.asked);
+    });
+    if (worker == m_workers.end())
+        return;
+    end(worker->first);
+    look();
+}
+
+void WorkerDesk::warmUp()
+{
+    if (count() == 0)
+        start();
+}
+
+int WorkerDesk::atWork() const
+{
+    return int(std::count_if(m_workers.begin(), m_workers.end(), [](const auto &each) { return each.second.asked; }));
+}
+
+int WorkerDesk::mostFor(Urgency urgency) const
+{
+    return urgency == Urgency::Now ? m_size + 1 : m_size;
+}
+
+bool WorkerDesk::hasMemoryFor(const Errand &errand) const
+{
+    qint64 needed = errand.expectedBytes();
+    if (needed == 0)
+        return true;
+    bool isFirst = true;
+    for (const auto &[id, worker] : m_workers) {
+        const qint64 bytes = worker.asked ? worker.asked->errand->expectedBytes() : 0;
+        isFirst = isFirst && bytes == 0;
+        needed += bytes;
+    }
+    return isFirst || needed <= m_memory;
+}
+
+/** One that is ready and has nothing to do; those that have had something already come first where either will do. */
+WorkerDesk::Worker *WorkerDesk::idleFor(const Asked &asked, bool isFresh)
+{
+    Worker *best = nullptr;
+    if (!isFresh && (atWork() >= mostFor(asked.urgency) || !hasMemoryFor(*asked.errand)))
+        return nullptr;
+    for (auto &[id, worker] : m_workers)
+        if (worker.isReady && !worker.asked && (worker.isFresh || !isFresh) && (!best || best->isFresh))
+            best = &worker;
+    return best;
+}
+
+/** Each time from the beginning: whoever is begun may add and drop others. */
+void WorkerDesk::giveWork()
+{
+    const auto giveFirst = [this](std::deque<Asked> &asked, bool isFresh) {
+        Worker *worker = asked.empty() ? nullptr : idleFor(asked.front(), isFresh);
+        if (!worker)
+            return false;
+        Asked first = std::move(asked.front());
+        asked.pop_front();
+        give(*worker, std::move(first));
+        return true;
+    };
+    while (giveFirst(m_toTryAgain, true) || std::any_of(byUrgency.begin(), byUrgency.end(), [&](Urgency urgency) {
+               return giveFirst(m_waiting[urgency], false);
+           })) {
+    }
+    startFor();
+}
+
+void WorkerDesk::give(Worker &worker, Asked asked)
+{
+    if (atWork() == 0 && asked.errand->expectedBytes() > 0)
+        m_memory = platform::memoryLeft();
+    const Id id = worker.hand.id;
+    const std::shared_ptr<Errand> errand = asked.errand;
+    const Number number = asked.number;
+    worker.isFresh = false;
+    worker.asked = std::move(asked);
+    Hand hand = worker.hand;
+    std::vector<Message> messages = errand->begin(hand);
+    const auto found = m_workers.find(id);
+    if (found == m_workers.end() || !found->second.asked || found->second.asked->number != number)
+        return;
+    found->second.hand = hand;
+    if (messages.empty()) {
+        found->second.asked.reset();
+        return;
+    }
+    m_pool.beginWork(id);
+    for (Message &message : messages)
+        m_pool.send(id, std::move(message));
+    m_rest.start();
+}
+
+/** As many workers as could have something to do now. */
+void WorkerDesk::startFor()
+{
+    const auto count = [this](bool isReady) {
+        return int(std::count_if(m_workers.begin(), m_workers.end(), [isReady](const auto &each) {
+            return each.second.isReady == isReady && !each.second.asked;
+        }));
+    };
+    const auto idle = std::find_if(m_workers.begin(), m_workers.end(),
+                                   [](const auto &each) { return each.second.isReady && !each.second.asked; });
+    // What ended one worker waits for a new one, however many others have nothing to do.
+    if (!m_toTryAgain.empty() && count(false) == 0) {
+        if (idle != m_workers.end() && int(m_workers.size()) >= m_size)
+            end(idle->first);
+        if (int(m_workers.size()) < m_size && !start())
+            return;
+    }
+    for (const Urgency urgency : byUrgency) {
+        auto missing = int(m_waiting[urgency].size()) - count(true) - count(false);
+        while (missing-- > 0 && int(m_workers.size()) < mostFor(urgency))
+            if (!start())
+                return;
+    }
+}
+
+bool WorkerDesk::start()
+{
+    QString problem;
+    const std::optional<Id> id = m_pool.start(&problem);
+    if (id) {
+        m_workers[*id].hand.id = *id;
+        m_pool.beginWork(*id);
+    } else {
+        missed(image::sentence("%1 cannot be started: %2").arg(m_options.program, problem));
+    }
+    return id.has_value();
+}
+
+/** A worker could not be started, or ended before it was ready. After some of them in a row nothing can be done. */
+void WorkerDesk::missed(const QString &problem)
+{
+    if (++m_missing < mostFailedStarts || !m_workers.empty()) {
+        m_look.start(soonMs);
+        return;
+    }
+    m_missing = 0;
+    std::deque<Asked> all = std::exchange(m_toTryAgain, {});
+    for (auto &[urgency, asked] : std::exchange(m_waiting, {}))
+        std::move(asked.begin(), asked.end(), std::back_inserter(all));
+    for (const Asked &asked : all)
+        asked.errand->fail(problem);
+}
+
+void WorkerDesk::take(Id id, const Message &message)
+{
+    const auto found = m_workers.find(id);
+    if (found == m_workers.end())
+        return;
+    Worker &worker = found->second;
+    if (!worker.isReady && fromMessage<HelloMessage>(message)) {
+        worker.isReady = true;
+        m_missing = 0;
+        m_pool.endWork(id);
+        m_rest.start();
+        giveWork();
+        return;
+    }
+    Errand::Turn turn = Errand::Turn::Nonsense;
+    if (worker.asked) {
+        const std::shared_ptr<Errand> errand = worker.asked->errand;
+        const Number number = worker.asked->number;
+        turn = errand->take(message);
+        const auto still = m_workers.find(id);
+        if (still == m_workers.end() || !still->second.asked || still->second.asked->number != number)
+            return; // it was taken back meanwhile
+    }
+    if (turn == Errand::Turn::Over) {
+        m_workers[id].asked.reset();
+        m_pool.endWork(id);
+        m_rest.start();
+        giveWork();
+    } else if (turn == Errand::Turn::Nonsense) {
+        m_pool.end(id);
+        takeEnd(id, WorkerEnd::SpokeNonsense);
+    }
+}
+
+void WorkerDesk::takeEnd(Id id, WorkerEnd end)
+{
+    const auto found = m_workers.find(id);
+    if (found == m_workers.end())
+        return;
+    Worker worker = std::move(found->second);
+    m_workers.erase(found);
+    if (!worker.isReady)
+        missed(image::sentence("a worker ended while it started"));
+    if (worker.asked)
+        giveUpOrTryAgain(std::move(*worker.asked), end);
+    if (m_missing == 0)
+        giveWork();
+}
+
+void WorkerDesk::giveUpOrTryAgain(Asked asked, WorkerEnd end)
+{
+    constexpr int mostTries = 2;
+    const bool isLimit = end == WorkerEnd::TookTooLong || end == WorkerEnd::TookTooMuch;
+    if (isLimit || ++asked.tries >= mostTries)
+        asked.errand->fail(reasonFor(end, m_options.limits));
+    else
+        m_toTryAgain.push_back(std::move(asked));
+}
+
+void WorkerDesk::end(Id id)
+{
+    m_pool.end(id);
+    // What goes with it must find it gone.
+    const auto found = m_workers.find(id);
+    const std::optional<Asked> gone = std::move(found->second.asked);
+    m_workers.erase(found);
+}
+
+void WorkerDesk::letSomeGo()
+{
+    if (atWork() > 0)
+        return;
+    while (m_workers.size() > 1)
+        end(m_workers.rbegin()->first);
+}
+
+} // namespace jobs

@@ -1,0 +1,122 @@
+#pragma once
+
+#include "jobs/desk/errand.h"
+#include "platform/workers/worker_pool.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <deque>
+#include <map>
+#include <memory>
+#include <optional>
+
+namespace jobs {
+
+/** Who is waited for. Among errands of the same urgency the first comes first. */
+enum class Urgency {
+    Now,   ///< somebody looks at the place where it will be shown; one worker more than usual may be started for it
+    Soon,  ///< work of a run
+    Later, ///< what may be wanted some time
+};
+
+/**
+ * The workers of a process with windows, and what they are asked to do.
+ *
+ *     auto &desk = jobs::WorkerDesk::ofProcess();
+ *     const auto number = desk.add(std::make_shared<FactsErrand>(path, answer), jobs::Urgency::Now);
+ *     desk.drop(number); // nobody waits for it any more
+ *
+ * add() answers at once and calls nothing; the errand is begun, and its answers come, out of the event loop. Workers are started when
+ * there is something for them and kept for what comes next; those that had nothing to do for a while go, all but one. They run at a
+ * lower priority than this process.
+ *
+ * A worker that crashes costs its errand one of two tries; the second is made alone by a worker that has just been started. One that takes
+ * longer or more memory than it may is ended, and its errand fails at once. For the main thread.
+ */
+class WorkerDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Number = quint64; ///< of an errand; never 0
+
+    struct Options
+    {
+        QString program; ///< absolute path of quorlin-worker
+        int workers = 0; ///< 0: as many as there are processors for this process
+        platform::WorkerLimits limits = {300, qint64(2048) << 20, 10};
+    };
+
+    explicit WorkerDesk(const Options &options, QObject *parent = nullptr);
+    ~WorkerDesk() override;
+
+    /** The one of this process, made on first use with the usual options; it goes with the application. */
+    static WorkerDesk &ofProcess();
+    /** Which program the workers of ofProcess() are, from now on; the one beside this program where it was never said. For tests. */
+    static void useProgram(const QString &program);
+
+    Number add(std::shared_ptr<Errand> errand, Urgency urgency);
+    /** Takes an errand back; a worker that is at it is ended, so that nothing more comes of it. Nothing for one that is over. */
+    void drop(Number number);
+
+    /** How many pictures may be worked on at a time: 1 to most(). */
+    void setSize(int workers);
+    int size() const { return m_size; }
+    /** The processors of this process. */
+    static int most();
+
+    /** Starts a first worker, so that it is there when something is to be done. */
+    void warmUp();
+
+    /** Workers that are there, those included that are not ready. */
+    int count() const { return m_pool.count(); }
+
+private:
+    using Id = platform::WorkerPool::Id;
+
+    struct Asked
+    {
+        Number number = 0;
+        Urgency urgency = Urgency::Soon;
+        std::shared_ptr<Errand> errand;
+        int tries = 0;
+    };
+    struct Worker
+    {
+        Hand hand;
+        bool isReady = false;
+        bool isFresh = true; ///< it has had no errand yet
+        std::optional<Asked> asked;
+    };
+
+    void look();
+    void giveWork();
+    Worker *idleFor(const Asked &asked, bool isFresh);
+    void give(Worker &worker, Asked asked);
+    bool hasMemoryFor(const Errand &errand) const;
+    int atWork() const;
+    int mostFor(Urgency urgency) const;
+    void startFor();
+    bool start();
+    void missed(const QString &problem);
+    void take(Id worker, const platform::Message &message);
+    void takeEnd(Id worker, platform::WorkerEnd end);
+    void giveUpOrTryAgain(Asked asked, platform::WorkerEnd end);
+    void end(Id worker);
+    void letSomeGo();
+
+    int m_size;
+    Options m_options;
+    std::map<Id, Worker> m_workers;
+    std::map<Urgency, std::deque<Asked>> m_waiting;
+    std::deque<Asked> m_toTryAgain;
+    Number m_next = 1;
+    qint64 m_memory = 0; ///< what was to be had when nothing was at work
+    int m_missing = 0;   ///< workers that could not be started, one after the other
+    QTimer m_look;       ///< out of the event loop
+    QTimer m_rest;       ///< how long nothing was asked for
+    platform::WorkerPool m_pool;
+};
+
+} // namespace jobs
