@@ -41,6 +41,20 @@ export function dpiOf(photo, services) {
     return remembered(services, photo.path, () => services.units.getPictureDPI(photo.path));
 }
 
+export const MOST_DPI = 10000;
+
+/** The resolution that lengths are taken at in a few words, for the log; nothing where it is each picture's own. */
+export function dpiWords(dpi) {
+    return dpi === 0 ? "" : qsTr(" at %1 dpi").replace("%1", String(dpi));
+}
+
+/** A message where settings have lengths that no resolution makes pixels of. */
+export function dpiMessages(settings) {
+    const isSound = Number.isInteger(settings.dpi) && settings.dpi >= 0 && settings.dpi <= MOST_DPI;
+    return settings.unit === PIXEL || isSound
+        ? [] : [qsTr("Enter a resolution from 1 to %1 dpi.").replace("%1", String(MOST_DPI))];
+}
+
 /** A length in one unit as the nearest one in another that a field can show, at a resolution. */
 export function converted(value, from, to, dpi) {
     const inches = from === PIXEL ? value / dpi : value * INCHES[from];

@@ -2,12 +2,10 @@
 //
 // Kinds: "text" any text; "word" one that is never empty; "number" any finite number, as text, so that it keeps its form; "whole" a
 // whole number and "flag" true or false, both in the columns that the database keeps as numbers; "color" is "#rrggbb". A setting is named
-// by its path, "output.quality"; where it can only have certain values they stand behind its kind.
+// by its path, "output.quality"; where it can only have certain values they stand behind its kind, and behind these the version of the
+// form that brought some of them, where that is not the first.
 
 import { METADATA, ORIGINAL, QUALITIES, WRITTEN } from "../lib/types.js";
-
-/** The newest version of the forms. A form whose columns change their meaning gets a higher version. */
-export const VERSION = 1;
 
 const TYPES = [ORIGINAL].concat(WRITTEN.map((type) => type.id));
 

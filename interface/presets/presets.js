@@ -3,13 +3,15 @@
 
 import { copyOf } from "../lib/copies.js";
 import { emptyTable } from "../lib/names.js";
-import { FIRST_SLOT, SLOTS, VERSION } from "./preset-forms.js";
+import { FIRST_SLOT, SLOTS } from "./preset-forms.js";
 import { fill } from "../lib/wording.js";
 
 export const FIELDS = 62;
 export const LONGEST_NAME = 100;
 
 const MARK = "Quorlin ";
+// Of the forms. A form whose columns change their meaning, or get more words, gets a higher version.
+const FIRST_VERSION = 1;
 const FILE_MARK = "Quorlin presets";
 
 // The place of a column in a row: NameOfPreset, Process and Action are 0 to 2, StrField3 is 3.
@@ -108,6 +110,25 @@ function writeSlots(row, slots) {
     slots.forEach((slot, i) => { row[FIRST_SLOT + i] = slotText(slot); });
 }
 
+// By its columns, the words of a form that came with a later version: {word: version}.
+function newWordsOf(form) {
+    const columns = Object.keys(form.columns).map((column) => form.columns[column]);
+    return columns.filter((column) => column[3] !== undefined);
+}
+
+/** The newest version of a form. */
+export function newestVersion(form) {
+    return newWordsOf(form).reduce((newest, [, , , words]) => Object.keys(words).reduce(
+        (highest, word) => Math.max(highest, words[word]), newest), FIRST_VERSION);
+}
+
+// The lowest version that has words for all these settings: what older programs can read stays readable for them.
+function versionFor(form, settings) {
+    return newWordsOf(form).reduce(
+        (version, [path, , , words]) => Math.max(version, words[valueAt(settings, path)] || FIRST_VERSION),
+        FIRST_VERSION);
+}
+
 /**
  * The 62 texts for a preset. Settings that the form does not know, or that are of another kind than it says, are an error of the
  * program.
@@ -119,9 +140,9 @@ export function rowOf(form, name, settings) {
     const mode = form.mode === "" ? "" : encoded(String(settings[form.mode]));
     if (form.slots === undefined) {
         row[2] = mode;
-        row[3] = MARK + VERSION;
+        row[3] = MARK + versionFor(form, settings);
     } else {
-        row[2] = form.subMode + " " + MARK + VERSION + " " + mode;
+        row[2] = form.subMode + " " + MARK + FIRST_VERSION + " " + mode;
         writeSlots(row, settings[form.slots]);
     }
     for (const column of Object.keys(form.columns)) {
@@ -252,7 +273,7 @@ function stateOf(state, settings) {
 
 // What a row of ours holds.
 function readState(fields, version, kind) {
-    if (version > VERSION) {
+    if (version > newestVersion(kind.form)) {
         return stateOf("newer", null);
     }
     const read = kind.form.slots === undefined ? settingsIn : slotSettings;

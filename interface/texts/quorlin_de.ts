@@ -1428,6 +1428,30 @@
         <source>Never enlarge</source>
         <translation>Nie vergrößern</translation>
     </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Resolution of the lengths</source>
+        <translation>Auflösung der Längen</translation>
+    </message>
+    <message>
+        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
+        <translation>Die Punkte pro Zoll, die aus diesen Längen Pixel machen; eine gewählte Auflösung wird in die Datei geschrieben</translation>
+    </message>
+    <message>
+        <source>Dots per inch</source>
+        <translation>Punkte pro Zoll</translation>
+    </message>
+    <message>
+        <source>Around it</source>
+        <translation>Darum herum</translation>
+    </message>
+    <message>
+        <source>Colour around the picture</source>
+        <translation>Farbe um das Bild</translation>
+    </message>
 </context>
 <context>
     <name>RoundPane</name>
@@ -3431,6 +3455,14 @@
     <message>
         <source>pt</source>
         <translation>pt</translation>
+    </message>
+    <message>
+        <source> at %1 dpi</source>
+        <translation> bei %1 dpi</translation>
+    </message>
+    <message>
+        <source>Enter a resolution from 1 to %1 dpi.</source>
+        <translation>Geben Sie eine Auflösung von 1 bis %1 dpi ein.</translation>
     </message>
 </context>
 <context>
@@ -6133,6 +6165,14 @@
         <source>Per cent</source>
         <translation>Prozent</translation>
     </message>
+    <message>
+        <source>Fit into the box</source>
+        <translation>In das Format einpassen</translation>
+    </message>
+    <message>
+        <source>Pad to the box</source>
+        <translation>Zum Format auffüllen</translation>
+    </message>
 </context>
 <context>
     <name>resize-presets</name>
@@ -6214,6 +6254,21 @@
     <message>
         <source>Enter a number above 0, up to %1.</source>
         <translation>Geben Sie eine Zahl über 0 bis %1 ein.</translation>
+    </message>
+</context>
+<context>
+    <name>resolution-row</name>
+    <message>
+        <source>Picture’s own</source>
+        <translation>die des Bilds</translation>
+    </message>
+    <message>
+        <source>300 dpi</source>
+        <translation>300 dpi</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Andere</translation>
     </message>
 </context>
 <context>

@@ -1428,6 +1428,30 @@
         <source>Never enlarge</source>
         <translation>Ne jamais agrandir</translation>
     </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Resolution of the lengths</source>
+        <translation>Résolution des longueurs</translation>
+    </message>
+    <message>
+        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
+        <translation>Les points par pouce qui transforment ces longueurs en pixels ; une résolution choisie est écrite dans le fichier</translation>
+    </message>
+    <message>
+        <source>Dots per inch</source>
+        <translation>Points par pouce</translation>
+    </message>
+    <message>
+        <source>Around it</source>
+        <translation>Autour</translation>
+    </message>
+    <message>
+        <source>Colour around the picture</source>
+        <translation>Couleur autour de l’image</translation>
+    </message>
 </context>
 <context>
     <name>RoundPane</name>
@@ -1985,7 +2009,7 @@
     </message>
     <message>
         <source>“%1” cannot be read as a picture.</source>
-        <translation>« %1 » ne peut pas être lu comme une image.</translation>
+        <translation>«&#x202f;%1&#x202f;» ne peut pas être lu comme une image.</translation>
     </message>
 </context>
 <context>
@@ -3431,6 +3455,14 @@
     <message>
         <source>pt</source>
         <translation>pt</translation>
+    </message>
+    <message>
+        <source> at %1 dpi</source>
+        <translation> à %1 ppp</translation>
+    </message>
+    <message>
+        <source>Enter a resolution from 1 to %1 dpi.</source>
+        <translation>Saisissez une résolution de 1 à %1 ppp.</translation>
     </message>
 </context>
 <context>
@@ -6133,6 +6165,14 @@
         <source>Per cent</source>
         <translation>Pour cent</translation>
     </message>
+    <message>
+        <source>Fit into the box</source>
+        <translation>Ajuster au cadre</translation>
+    </message>
+    <message>
+        <source>Pad to the box</source>
+        <translation>Compléter jusqu’au cadre</translation>
+    </message>
 </context>
 <context>
     <name>resize-presets</name>
@@ -6214,6 +6254,21 @@
     <message>
         <source>Enter a number above 0, up to %1.</source>
         <translation>Saisissez un nombre supérieur à 0, jusqu’à %1.</translation>
+    </message>
+</context>
+<context>
+    <name>resolution-row</name>
+    <message>
+        <source>Picture’s own</source>
+        <translation>celle de l’image</translation>
+    </message>
+    <message>
+        <source>300 dpi</source>
+        <translation>300 ppp</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autre</translation>
     </message>
 </context>
 <context>

@@ -1428,6 +1428,30 @@
         <source>Never enlarge</source>
         <translation>Nooit vergroten</translation>
     </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolutie</translation>
+    </message>
+    <message>
+        <source>Resolution of the lengths</source>
+        <translation>Resolutie van de lengtes</translation>
+    </message>
+    <message>
+        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
+        <translation>De punten per inch die van deze lengtes pixels maken; een gekozen resolutie wordt in het bestand geschreven</translation>
+    </message>
+    <message>
+        <source>Dots per inch</source>
+        <translation>Punten per inch</translation>
+    </message>
+    <message>
+        <source>Around it</source>
+        <translation>Eromheen</translation>
+    </message>
+    <message>
+        <source>Colour around the picture</source>
+        <translation>Kleur rond de foto</translation>
+    </message>
 </context>
 <context>
     <name>RoundPane</name>
@@ -3431,6 +3455,14 @@
     <message>
         <source>pt</source>
         <translation>pt</translation>
+    </message>
+    <message>
+        <source> at %1 dpi</source>
+        <translation> bij %1 dpi</translation>
+    </message>
+    <message>
+        <source>Enter a resolution from 1 to %1 dpi.</source>
+        <translation>Voer een resolutie in van 1 tot %1 dpi.</translation>
     </message>
 </context>
 <context>
@@ -6133,6 +6165,14 @@
         <source>Per cent</source>
         <translation>Procent</translation>
     </message>
+    <message>
+        <source>Fit into the box</source>
+        <translation>In het vak passen</translation>
+    </message>
+    <message>
+        <source>Pad to the box</source>
+        <translation>Aanvullen tot het vak</translation>
+    </message>
 </context>
 <context>
     <name>resize-presets</name>
@@ -6214,6 +6254,21 @@
     <message>
         <source>Enter a number above 0, up to %1.</source>
         <translation>Geef een getal op groter dan 0, tot %1.</translation>
+    </message>
+</context>
+<context>
+    <name>resolution-row</name>
+    <message>
+        <source>Picture’s own</source>
+        <translation>die van de foto</translation>
+    </message>
+    <message>
+        <source>300 dpi</source>
+        <translation>300 dpi</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Andere</translation>
     </message>
 </context>
 <context>

@@ -18,7 +18,7 @@ tl::unexpected<platform::Error> unsupported(const QString &sentence)
     return platform::failure(platform::ErrorCode::Unsupported, sentence);
 }
 
-/** The unit of lengths, where it is none of pixels. */
+/** The unit of lengths, where it is none of pixels, and the resolution that they are taken at. */
 void addUnit(QJsonObject &operation, const QJsonObject &settings)
 {
     static const std::map<QString, QString> units = {{text("mm"), text("mm")},
@@ -27,8 +27,11 @@ void addUnit(QJsonObject &operation, const QJsonObject &settings)
                                                      {text("pica"), text("pica")},
                                                      {text("punt"), text("pt")}};
     const auto unit = units.find(settings.value(text("unit")).toString());
-    if (unit != units.end())
-        operation.insert(text("unit"), unit->second);
+    if (unit == units.end())
+        return;
+    operation.insert(text("unit"), unit->second);
+    if (const double dpi = settings.value(text("dpi")).toDouble(); dpi > 0)
+        operation.insert(text("dpi"), dpi);
 }
 
 QJsonArray resizeOperations(const QJsonObject &settings)
@@ -38,6 +41,8 @@ QJsonArray resizeOperations(const QJsonObject &settings)
     if (mode == text("box")) {
         resize.insert(text("box"), QJsonArray{settings.value(text("boxWidth")), settings.value(text("boxHeight"))});
         resize.insert(text("fit"), settings.value(text("boxFit")));
+        if (settings.value(text("boxFit")).toString() == text("pad"))
+            resize.insert(text("color"), settings.value(text("padColor")));
     } else {
         resize.insert(mode, settings.value(mode));
     }

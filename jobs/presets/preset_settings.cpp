@@ -24,6 +24,7 @@ struct Form
     const char *standard; ///< JSON
     const char *mode;     ///< the setting that stands in the third column; empty for none
     std::vector<Column> columns;
+    int newest = 1; ///< version of the form; a preset has the lowest one that can say what it holds
 };
 
 const std::vector<Column> &outputColumns()
@@ -40,7 +41,7 @@ const std::vector<Column> &outputColumns()
 Form resizeForm()
 {
     return {R"({"mode": "longest", "width": 1600, "height": 1200, "longest": 1600, "percent": 50, "boxWidth": 1600,
-              "boxHeight": 1200, "boxFit": "fill", "neverEnlarge": true, "unit": "pixel",
+              "boxHeight": 1200, "boxFit": "fill", "padColor": "#ffffff", "neverEnlarge": true, "unit": "pixel", "dpi": 0,
               "output": {"fileType": "original file type", "quality": "8", "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Resized", "path": ""}}})",
             "mode",
@@ -52,7 +53,10 @@ Form resizeForm()
              {16, "boxHeight", Kind::Number},
              {17, "boxFit", Kind::Text},
              {18, "unit", Kind::Text},
-             {22, "neverEnlarge", Kind::Flag}}};
+             {19, "padColor", Kind::Color},
+             {20, "dpi", Kind::Number},
+             {22, "neverEnlarge", Kind::Flag}},
+            2};
 }
 
 Form cropForm()
@@ -224,6 +228,15 @@ bool readColumns(QJsonObject &settings, const QStringList &row, const std::vecto
     return true;
 }
 
+/** Whether a mark is that of a version up to @p newest. */
+bool isOfVersion(const QString &mark, int newest)
+{
+    for (int version = 1; version <= newest; ++version)
+        if (mark == QStringLiteral("Quorlin %1").arg(version))
+            return true;
+    return false;
+}
+
 } // namespace
 
 bool makesPictures(const QString &action)
@@ -246,7 +259,7 @@ std::optional<Preset> presetOfRow(const QStringList &row)
     const auto form = forms().find(row[1]);
     if (form == forms().end())
         return preset;
-    if (row[3] != QLatin1String("Quorlin 1"))
+    if (!isOfVersion(row[3], form->second.newest))
         return std::nullopt;
     if (form->second.mode[0] != '\0')
         preset.settings.insert(QLatin1String(form->second.mode), decoded(row[2]));

@@ -4,6 +4,7 @@ import { PIXEL } from "../../lib/measure.js";
 import { percent, pixels } from "../../lib/wording.js";
 import * as resize from "./resize-step.js";
 import { Pane } from "../shared/pane.js";
+import { ResolutionRow } from "../shared/resolution-row.js";
 
 export class ResizePane extends Pane {
     constructor(settings, changed) {
@@ -14,14 +15,18 @@ export class ResizePane extends Pane {
 
     join() {
         this.form.control("mode").segments = [qsTr("Width"), qsTr("Height"), qsTr("Longest"), "%", qsTr("Box")];
-        this.form.setItems("boxFit", [qsTr("Fill the box and cut"), qsTr("Stretch to the box")], resize.BOX_FITS);
+        const fits = [qsTr("Fit into the box"), qsTr("Fill the box and cut"), qsTr("Stretch to the box"),
+                      qsTr("Pad to the box")];
+        this.form.setItems("boxFit", fits, resize.BOX_FITS);
         this.form.control("value").maximum = resize.MOST_PIXELS;
         this.segments("mode", "mode", resize.MODES);
         this.number("value", () => this.settings.mode);
         this.number("boxWidth", "boxWidth");
         this.number("boxHeight", "boxHeight");
         this.choice("boxFit", "boxFit");
+        this.color("padColor", "padColor");
         this.check("neverEnlarge", "neverEnlarge");
+        this.resolution = new ResolutionRow(this);
         this.units("unit", resize.LENGTHS);
     }
 
@@ -29,6 +34,8 @@ export class ResizePane extends Pane {
         this.form.control("mode").selectedSegment = resize.MODES.indexOf(this.settings.mode);
         this.form.control("neverEnlarge").checked = this.settings.neverEnlarge;
         this.form.chooseValue("boxFit", this.settings.boxFit);
+        this.form.control("padColor").color = this.settings.padColor;
+        this.resolution.fill();
         this.form.chooseValue("unit", this.settings.unit);
     }
 
@@ -38,7 +45,9 @@ export class ResizePane extends Pane {
                          percent: qsTr("Per cent"), box: qsTr("Box") };
         this.visible(["value"], mode !== "box");
         this.visible(["boxWidth", "boxTimes", "boxHeight", "fitLabel", "boxFit"], mode === "box");
+        this.visible(["padLabel", "padHost"], mode === "box" && this.settings.boxFit === "pad");
         this.visible(["unit"], mode !== "percent");
+        this.resolution.show(mode !== "percent");
         this.form.control("valueLabel").text = labels[mode];
         this.form.control("value").accessibleName = labels[mode];
         this.showLength("boxWidth", this.settings.boxWidth, this.settings.unit, "");
@@ -50,12 +59,16 @@ export class ResizePane extends Pane {
         }
     }
 
-    // The new width as a share of the old one; a box that is filled cuts some of it away.
+    // The new width as a share of the old one; a box that is filled cuts some of it away, one that is padded has more around it.
     scalePercent(photo, planned) {
         const across = planned.width / photo.width;
         const down = planned.height / photo.height;
-        const isCut = this.settings.mode === "box" && this.settings.boxFit === "fill";
-        return (isCut ? Math.max(across, down) : across) * 100;
+        const fit = this.settings.mode === "box" ? this.settings.boxFit : "";
+        if (fit === "pad") {
+            const share = Math.min(across, down);
+            return (this.settings.neverEnlarge ? Math.min(1, share) : share) * 100;
+        }
+        return (fit === "fill" ? Math.max(across, down) : across) * 100;
     }
 
     resultText(photo, planned) {

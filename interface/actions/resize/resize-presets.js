@@ -23,8 +23,8 @@ export const presets = {
     form: writingForm("Resize", "mode", MODES, {
         StrField11: ["width", "number"], StrField12: ["height", "number"], StrField13: ["longest", "number"],
         StrField14: ["percent", "number"], StrField15: ["boxWidth", "number"], StrField16: ["boxHeight", "number"],
-        StrField17: ["boxFit", "text", BOX_FITS], StrField18: ["unit", "text", UNITS],
-        StrField22: ["neverEnlarge", "flag"],
+        StrField17: ["boxFit", "text", BOX_FITS, { inside: 2, pad: 2 }], StrField18: ["unit", "text", UNITS],
+        StrField19: ["padColor", "color"], StrField20: ["dpi", "number"], StrField22: ["neverEnlarge", "flag"],
     }),
     starting: () => [
         [qsTr("Web 1600"), longest(1600, "8", qsTr("Web"))],

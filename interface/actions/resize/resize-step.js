@@ -1,7 +1,7 @@
 // Makes a resized copy of a picture, as an operation of a recipe.
 // Services used: recipes (planOutput, make), files. Plain data in, plain data out.
 
-import { PIXEL } from "../../lib/measure.js";
+import { dpiMessages, dpiWords, PIXEL } from "../../lib/measure.js";
 import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
@@ -15,13 +15,13 @@ export const MOST_PERCENT = 1000;
 /** The settings that are lengths in the unit. */
 export const LENGTHS = ["width", "height", "longest", "boxWidth", "boxHeight"];
 
-/** How a picture gets the shape of the box. */
-export const BOX_FITS = ["fill", "stretch"];
+/** What is done where a picture has not the shape of the box; the words of recipes. */
+export const BOX_FITS = ["inside", "fill", "stretch", "pad"];
 
-/** What a new pane shows. */
+/** What a new pane shows. padColor is laid around pictures that are padded; dpi is what lengths are taken at, 0 for each picture's own. */
 export const defaults = {
     mode: "longest", width: 1600, height: 1200, longest: 1600, percent: 50, boxWidth: 1600, boxHeight: 1200,
-    boxFit: "fill", neverEnlarge: true, unit: PIXEL,
+    boxFit: "fill", padColor: "#ffffff", neverEnlarge: true, unit: PIXEL, dpi: 0,
     output: usualOutput(ORIGINAL, "8", qsTr("Resized")),
 };
 
@@ -33,7 +33,8 @@ export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byR
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const unit = settings.unit === PIXEL || settings.mode === "percent" ? "" : " " + settings.unit;
+    const isInPixels = settings.unit === PIXEL || settings.mode === "percent";
+    const unit = isInPixels ? "" : " " + settings.unit + dpiWords(settings.dpi);
     const size = settings.mode === "box"
         ? settings.boxWidth + "×" + settings.boxHeight : String(settings[settings.mode]);
     const words = { width: qsTr("width %1"), height: qsTr("height %1"), longest: qsTr("longest %1"),
@@ -60,7 +61,7 @@ export function validate(settings) {
             messages.push(text.replace("%1", String(most)));
         }
     }
-    return messages.concat(outputMessages(settings.output));
+    return messages.concat(settings.mode === "percent" ? [] : dpiMessages(settings), outputMessages(settings.output));
 }
 
 /** What is done to each picture. */

@@ -142,7 +142,7 @@ export class Pane {
     /** Shows what a picture becomes; photo may be null. Returns what the step plans for it, or null. */
     show(photo, services) {
         this.photo = photo;
-        this.dpi = photo !== null && this.usesUnits(photo, services) ? dpiOf(photo, services) : USUAL_DPI;
+        this.dpi = this.settings.dpi > 0 ? this.settings.dpi : this.ownDpi(photo, services);
         const messages = this.step.validate(this.settings);
         const planned = photo === null || messages.length > 0 ? null : this.step.plan(photo, this.settings, services);
         this.say("problemText", messages.join("\n"));
@@ -150,8 +150,10 @@ export class Pane {
         return planned;
     }
 
-    usesUnits(photo, services) {
-        return photo.width > 0 && this.settings.unit !== undefined && Boolean(services.units);
+    // The resolution that the picture states.
+    ownDpi(photo, services) {
+        const isNeeded = this.settings.unit !== undefined && Boolean(services.units);
+        return isNeeded && photo !== null && photo.width > 0 ? dpiOf(photo, services) : USUAL_DPI;
     }
 
     showPlanned(photo, planned) {

@@ -14,7 +14,27 @@ test("isAnOperationOfARecipe", () => {
     equal(operation({ mode: "percent", percent: 30, unit: "inch" }), { do: "resize", percent: 30 });
     equal(operation({ mode: "box", boxWidth: 1000, boxHeight: 900, boxFit: "fill" }),
           { box: [1000, 900], do: "resize", fit: "fill" });
+    equal(operation({ mode: "box", boxWidth: 10, boxHeight: 9, boxFit: "inside" }),
+          { box: [10, 9], do: "resize", fit: "inside" });
+    equal(operation({ mode: "box", boxWidth: 10, boxHeight: 9, boxFit: "pad", padColor: "#102030" }),
+          { box: [10, 9], color: "#102030", do: "resize", fit: "pad" });
 });
+
+test("takesLengthsAtTheChosenResolution", () => {
+    const printed = { mode: "width", width: 10, unit: "cm", dpi: 300 };
+    equal(operation(printed), { do: "resize", dpi: 300, unit: "cm", width: 10 });
+    equal(operation(Object.assign({}, printed, { dpi: 0 })), { do: "resize", unit: "cm", width: 10 });
+    // Pixels and per cent are no lengths, so no resolution is chosen with them.
+    equal(operation({ mode: "width", width: 10, unit: "pixel", dpi: 300 }), { do: "resize", width: 10 });
+    equal(operation({ mode: "percent", percent: 30, unit: "cm", dpi: 300 }), { do: "resize", percent: 30 });
+});
+
+for (const [dpi, unit, messages] of [[0, "cm", 0], [1, "cm", 0], [10000, "mm", 0], [10001, "mm", 1], [-1, "inch", 1],
+                                     [72.5, "cm", 1], [10001, "pixel", 0]]) {
+    test("validates " + dpi + " dpi in " + unit, () => {
+        equal(resize.validate(settings({ mode: "width", width: 10, unit: unit, dpi: dpi })).length, messages);
+    });
+}
 
 test("asksForTheOutputOfTheOutputBlock", () => {
     const output = (changes) => recipe({}, changes).outputs;

@@ -1,6 +1,5 @@
 import { copyOf } from "../../../interface/lib/copies.js";
-import { VERSION } from "../../../interface/presets/preset-forms.js";
-import { decoded, encoded, fileText, freeName, nameProblem, presetOf, rowOf, rowsOfFile,
+import { decoded, encoded, fileText, freeName, nameProblem, newestVersion, presetOf, rowOf, rowsOfFile,
          storedName } from "../../../interface/presets/presets.js";
 import { KINDS as STEP_KINDS, newStep } from "../../../interface/actions/rename/name-steps.js";
 import { defaults as rename } from "../../../interface/actions/rename/rename-step.js";
@@ -152,10 +151,19 @@ test("leavesOthersPresetsAlone", () => {
 
 test("knowsANewerForm", () => {
     const row = rowOf(FORMS.resize, "n", resize);
-    row[3] = "Quorlin " + (VERSION + 1);
+    row[3] = "Quorlin " + (newestVersion(FORMS.resize) + 1);
     const preset = presetOf(row, KINDS);
     equal([preset.state, preset.settings, preset.action], ["newer", null, "resize"]);
     isTrue(/newer/.test(preset.note));
+});
+
+test("hasTheLowestVersionThatCanSayIt", () => {
+    const mark = (changes) => rowOf(FORMS.resize, "n", Object.assign(copyOf(resize), changes))[3];
+    equal(["fill", "stretch", "inside", "pad"].map((fit) => mark({ boxFit: fit })),
+          ["Quorlin 1", "Quorlin 1", "Quorlin 2", "Quorlin 2"]);
+    // Settings without new words need none.
+    equal(mark({ padColor: "#102030", dpi: 300 }), "Quorlin 1");
+    equal(ACTIONS.filter((name) => newestVersion(FORMS[name]) === 1).indexOf("resize"), -1);
 });
 
 test("takesARowOfAnotherLengthForUnknown", () => {

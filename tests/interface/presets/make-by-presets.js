@@ -1,0 +1,57 @@
+// Makes pictures by settings that no supplied preset has, as the window does, and prints their presets:
+//     quorlin-script make-by-presets.js PICTURE...
+// Results lie in a folder beside each picture, which is named after the preset.
+
+import { files } from "quorlin/files";
+import { copyOf } from "../../../interface/lib/copies.js";
+import { rowOf } from "../../../interface/presets/presets.js";
+import { runItems } from "../../../interface/runs/job.js";
+import { planRun } from "../../../interface/runs/plan.js";
+import { makeServices } from "../../../interface/services.js";
+import { KINDS } from "./kinds.js";
+
+function box(fit, changes) {
+    return Object.assign({ mode: "box", boxWidth: 60, boxHeight: 40, boxFit: fit }, changes || {});
+}
+
+const CASES = [
+    ["resize", "Fit", box("inside")],
+    ["resize", "Fit, enlarged", box("inside", { boxWidth: 400, boxHeight: 100, neverEnlarge: false })],
+    ["resize", "Fill", box("fill")],
+    ["resize", "Stretch", box("stretch")],
+    ["resize", "Pad", box("pad", { padColor: "#306090" })],
+    ["resize", "Print", box("pad", { boxWidth: 2, boxHeight: 1.5, unit: "cm", dpi: 300 })],
+    ["resize", "Own resolution", { mode: "width", width: 5, unit: "mm", dpi: 0 }],
+];
+
+function end(generator) {
+    let step = generator.next();
+    while (!step.done) {
+        step = generator.next();
+    }
+    return step.value;
+}
+
+function settingsOf(kind, name, changes, output) {
+    const settings = Object.assign(copyOf(kind.standard), changes);
+    Object.assign(settings.output, output || {});
+    settings.output.destination.name = name;
+    return settings;
+}
+
+const services = makeServices();
+const photos = scriptArguments.map((path) => files.picture(path));
+const input = { count: photos.length, at: (i) => photos[i], paths: scriptArguments };
+const rows = [];
+for (const [action, name, changes, output] of CASES) {
+    const kind = KINDS[action];
+    const settings = settingsOf(kind, name, changes, output);
+    const planned = end(planRun(input, kind.step, settings, services));
+    const results = end(runItems(planned.items, kind.step, settings, services));
+    const bad = results.filter((result) => result.status !== "OK");
+    if (bad.length > 0) {
+        throw new Error(name + ": " + JSON.stringify(bad));
+    }
+    rows.push(rowOf(kind.form, name, settings));
+}
+print(JSON.stringify(rows));

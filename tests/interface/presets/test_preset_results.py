@@ -1,0 +1,58 @@
+#!/usr/bin/env python3
+"""test_preset_results.py QUORLIN_BATCH QUORLIN_SCRIPT SCRIPT PICTURES: a preset makes the same files on the command line as in the
+window, byte for byte."""
+import json
+import shutil
+import sqlite3
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+BATCH, SCRIPT_RUNNER, SCRIPT, PICTURES = sys.argv[1:]
+NAMES = ("formats/photo.jpg", "formats/rgba8.png", "dpi/exif300-jfif72.jpg", "orientation/landscape_6.jpg")
+
+
+def run(*command, home):
+    environment = {"PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "HOME": str(home), "XDG_DATA_HOME": str(home / "data"),
+                   "XDG_CONFIG_HOME": str(home / "config")}
+    done = subprocess.run(list(map(str, command)), capture_output=True, env=environment, cwd="/", timeout=100, check=False)
+    assert done.returncode == 0, done
+    return done.stdout
+
+
+def keep(rows, home):
+    folder = home / "data" / "BrelmarkCom"
+    folder.mkdir(parents=True)
+    names = ["NameOfPreset", "Process", "Action"] + [f"StrField{i}" for i in range(3, 62)]
+    with sqlite3.connect(folder / "QuorlinPS.sql") as base:
+        base.execute("CREATE TABLE Presets (ID INTEGER PRIMARY KEY AUTOINCREMENT, %s)" % ", ".join(f"{name} TEXT" for name in names))
+        for row in rows:
+            base.execute("INSERT INTO Presets (%s) VALUES (%s)" % (", ".join(names), ", ".join("?" * 62)), row)
+
+
+def copies(folder):
+    folder.mkdir()
+    return [shutil.copy2(Path(PICTURES) / name, folder) for name in NAMES]
+
+
+def contents(folder):
+    return {str(path.relative_to(folder)): path.read_bytes() for path in folder.rglob("*") if path.is_file()}
+
+
+def main():
+    with tempfile.TemporaryDirectory() as folder:
+        base = Path(folder)
+        rows = json.loads(run(SCRIPT_RUNNER, SCRIPT, *copies(base / "window"), home=base / "a"))
+        keep(rows, base / "b")
+        pictures = copies(base / "command")
+        for row in rows:
+            run(BATCH, "--quiet", "--preset", f"{row[1]}/{row[0]}", *pictures, home=base / "b")
+        one, other = contents(base / "window"), contents(base / "command")
+        assert sorted(one) == sorted(other), (sorted(one), sorted(other))
+        differing = [name for name in one if one[name] != other[name]]
+        assert not differing, differing
+        assert len(one) == len(NAMES) * (len(rows) + 1), sorted(one)
+
+
+main()
