@@ -1675,19 +1675,24 @@ declare module "quorlin/shell" {
         problemsOnly: boolean;
         /** While a job runs nothing is read in the background for rows that are not visible. */
         busy: boolean;
+        /** What the user did to the columns, as a text to be kept. */
+        layout: string;
+        /** A column by its name, with a minus sign before it where the last comes first; empty for the order of adding. */
+        sorting: string;
         readonly countChanged: Signal<(count: whole) => any>;
         readonly orderChanged: Signal<() => any>;
         readonly currentPictureChanged: Signal<(id: whole) => any>;
         readonly largePreviewRequested: Signal<() => any>;
+        readonly layoutChanged: Signal<() => any>;
         /** Files with one of the extensions, or any file for "*", or folders and no files. */
         setInput(extensions: texts, folders: boolean): null;
         /** How many rows the action does not take. */
         hiddenCount(): whole;
         hiddenPaths(): texts;
-        /** "thumbnail", "name", "pixels", "size", "type", "newName", "newSize" and "status"; headings by the same names. */
+        /** "thumbnail", "name", "folder", "pixels", "size", "type", "newName", "newSize" and "status"; headings by the same names. */
         setColumns(columns: texts, headings: dictionary, stressed: boolean): null;
-        /** How many were not in the list yet. */
-        addPaths(paths: texts): whole;
+        /** How many were not in the list yet. The roots are the folders that were added. */
+        addPaths(paths: texts, roots: texts): whole;
         /** How many those were. */
         removeSelected(): whole;
         /** Because their files are gone: no edit that could be undone. */

@@ -14,12 +14,32 @@ namespace window {
 namespace {
 constexpr int keptThumbnails = 800;
 
+/** The folder that holds all of @p path that was added: the innermost, where one lies within another. */
+QString rootOf(const QString &path, const QStringList &roots)
+{
+    QString found;
+    for (const QString &root : roots)
+        if (root.size() > found.size() && (root == QLatin1String("/") || path.startsWith(root + u'/')))
+            found = root;
+    return found;
+}
+
+/** Where a picture lies, from the folder that was added. */
+QString folderText(const PictureRow &row)
+{
+    const QString folder = row.path.left(row.path.lastIndexOf(u'/'));
+    const QString top = row.root.isEmpty() ? folder : row.root;
+    return folder.mid(top.lastIndexOf(u'/') + 1);
+}
+
 QString cellText(const PictureRow &row, int column)
 {
     const QString none = QStringLiteral("–");
     switch (column) {
     case PictureModel::Name:
         return row.name;
+    case PictureModel::Folder:
+        return folderText(row);
     case PictureModel::Pixels:
         return row.pixels.isEmpty() ? (row.headerRead ? none : QString()) : image::pixelText(row.pixels);
     case PictureModel::Bytes:
@@ -89,6 +109,8 @@ QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int 
     switch (section) {
     case Name:
         return tr("Name");
+    case Folder:
+        return tr("Folder");
     case Pixels:
         return tr("Pixels");
     case Bytes:
@@ -106,7 +128,7 @@ QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int 
     }
 }
 
-int PictureModel::add(const QStringList &paths)
+int PictureModel::add(const QStringList &paths, const QStringList &roots)
 {
     std::vector<PictureRow> fresh;
     for (const QString &path : paths) {
@@ -116,6 +138,7 @@ int PictureModel::add(const QStringList &paths)
         row.id = m_nextId++;
         row.path = path;
         row.name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+        row.root = rootOf(path, roots);
         row.isFolder = QFileInfo(path).isDir();
         row.type = row.isFolder ? tr("Folder") : image::typeWord(image::typeOfName(row.name));
         row.bytes = image::fileBytes(path);
@@ -185,6 +208,7 @@ void PictureModel::putBack(const std::vector<PlacedRow> &rows)
         row.id = each.row.id;
         row.path = each.row.path;
         row.name = each.row.name;
+        row.root = each.row.root;
         row.isFolder = each.row.isFolder;
         row.type = each.row.type;
         row.bytes = each.row.bytes;
@@ -223,7 +247,7 @@ void PictureModel::setPath(int index, const QString &path)
     row.path = path;
     row.name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
     m_idOfPath.insert(path, row.id);
-    changed(index, Name, Name);
+    changed(index, Name, Folder);
 }
 
 void PictureModel::setPlan(int index, const QString &newName, const QString &newSize)
@@ -244,7 +268,7 @@ void PictureModel::setStatus(int index, StatusKind kind, const QString &text, co
     row.kind = kind;
     row.status = text;
     row.detail = detail;
-    changed(index, Status, Status);
+    changed(index, NewName, Status); // a long reason lies over the columns before it
 }
 
 QPixmap PictureModel::thumbnail(int index) const

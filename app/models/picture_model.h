@@ -21,6 +21,7 @@ struct PictureRow
     int id = 0; ///< stays the same while rows come and go
     QString path;
     QString name;
+    QString root; ///< the folder that was added and that it was found in; empty for a file that was added itself
     bool isFolder = false;
     QString type; ///< in words, from the extension until the header was read
     qint64 bytes = -1;
@@ -58,7 +59,7 @@ class PictureModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Thumbnail, Name, Pixels, Bytes, Type, NewName, NewSize, Status, ColumnCount };
+    enum Column { Thumbnail, Name, Folder, Pixels, Bytes, Type, NewName, NewSize, Status, ColumnCount };
 
     explicit PictureModel(QObject *parent = nullptr);
 
@@ -67,8 +68,8 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /** Appends the paths that are not in the list yet, in order; returns how many those were. */
-    int add(const QStringList &paths);
+    /** Appends the paths that are not in the list yet, in order; returns how many those were. @p roots: the folders that were added. */
+    int add(const QStringList &paths, const QStringList &roots = {});
     /** Other words for the heads of columns; those without one keep their own. */
     void setHeadings(const QHash<int, QString> &headings);
     /** New names are what the list is about, and are drawn so. */

@@ -14,6 +14,8 @@ qint64 area(const PictureRow &row)
 QString textOf(const PictureRow &row, int column)
 {
     switch (column) {
+    case PictureModel::Folder:
+        return row.path.left(row.path.lastIndexOf(u'/'));
     case PictureModel::Type:
         return row.type;
     case PictureModel::NewName:

@@ -40,7 +40,7 @@ export const MOVES = {
     makePlan: (window, planned) => new LiveMoves(window, planned),
     output: false,
     preview: false,
-    columns: ["thumbnail", "name", "newName", "status"],
+    columns: ["thumbnail", "name", "folder", "newName", "status"],
     headings: () => ({ name: qsTr("Now") }),
     stressed: true,
     startText: startText,

@@ -42,7 +42,7 @@ export const WRITES = {
     makePlan: (window, planned) => new WritePlan(window, planned),
     output: true,
     preview: true,
-    columns: ["thumbnail", "name", "pixels", "size", "type", "newName", "newSize", "status"],
+    columns: ["thumbnail", "name", "folder", "pixels", "size", "type", "newName", "newSize", "status"],
     headings: () => ({}),
     stressed: false,
     startText: startText,

@@ -2016,7 +2016,7 @@
     <name>by-recipe</name>
     <message>
         <source>this type cannot be written, choose another file type</source>
-        <translation>dieser Typ kann nicht geschrieben werden, wählen Sie einen anderen Dateityp</translation>
+        <translation>nicht schreibbar, anderen Dateityp wählen</translation>
     </message>
 </context>
 <context>
@@ -7903,6 +7903,13 @@
     <message>
         <source>Folder</source>
         <translation>Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>window::PictureTable</name>
+    <message>
+        <source>Reset Columns</source>
+        <translation>Spalten zurücksetzen</translation>
     </message>
 </context>
 <context>

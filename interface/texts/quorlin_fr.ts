@@ -2016,7 +2016,7 @@
     <name>by-recipe</name>
     <message>
         <source>this type cannot be written, choose another file type</source>
-        <translation>ce type ne peut pas être écrit, choisissez un autre type de fichier</translation>
+        <translation>type non inscriptible, choisissez-en un autre</translation>
     </message>
 </context>
 <context>
@@ -7903,6 +7903,13 @@
     <message>
         <source>Folder</source>
         <translation>Dossier</translation>
+    </message>
+</context>
+<context>
+    <name>window::PictureTable</name>
+    <message>
+        <source>Reset Columns</source>
+        <translation>Réinitialiser les colonnes</translation>
     </message>
 </context>
 <context>

@@ -2016,7 +2016,7 @@
     <name>by-recipe</name>
     <message>
         <source>this type cannot be written, choose another file type</source>
-        <translation>dit type kan niet worden geschreven, kies een ander bestandstype</translation>
+        <translation>niet schrijfbaar, kies een ander type</translation>
     </message>
 </context>
 <context>
@@ -7903,6 +7903,13 @@
     <message>
         <source>Folder</source>
         <translation>Map</translation>
+    </message>
+</context>
+<context>
+    <name>window::PictureTable</name>
+    <message>
+        <source>Reset Columns</source>
+        <translation>Kolommen herstellen</translation>
     </message>
 </context>
 <context>

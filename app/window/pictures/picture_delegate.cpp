@@ -1,6 +1,7 @@
 #include "app/window/pictures/picture_delegate.h"
 
 #include "app/window/look/theme.h"
+#include "app/window/pictures/status_place.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -10,6 +11,7 @@ namespace window {
 namespace {
 
 constexpr int paddingPx = 10;
+constexpr int paddingsPx = paddingPx + paddingPx / 2; ///< at both sides
 
 QString colorName(StatusKind kind)
 {
@@ -35,10 +37,17 @@ bool isFinal(StatusKind kind)
     return kind == StatusKind::Good || kind == StatusKind::Bad || kind == StatusKind::Caution;
 }
 
+QFont statusFont(QFont font, StatusKind kind)
+{
+    font.setWeight(isFinal(kind) ? QFont::DemiBold : QFont::Normal);
+    return font;
+}
+
 } // namespace
 
-PictureDelegate::PictureDelegate(const PictureModel &model, const QAbstractProxyModel &order, QObject *parent)
-    : QStyledItemDelegate(parent), m_model(model), m_order(order)
+PictureDelegate::PictureDelegate(const PictureModel &model, const QAbstractProxyModel &order, const QHeaderView &header,
+                                 QObject *parent)
+    : QStyledItemDelegate(parent), m_model(model), m_order(order), m_header(header)
 {
 }
 
@@ -52,9 +61,45 @@ void PictureDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
                       Theme::color(QStringLiteral("hairline")));
     if (index.column() == PictureModel::Thumbnail)
         paintThumbnail(*painter, option.rect, row);
+    else if (index.column() == PictureModel::Status)
+        paintStatus(*painter, option, m_model.row(row));
     else
         paintText(*painter, option, m_model.row(row), index.column());
     painter->restore();
+}
+
+bool PictureDelegate::isStatusCut(const PictureRow &row, const QFont &font) const
+{
+    const QFontMetrics metrics(statusFont(font, row.kind));
+    const auto first = statusColumn(row, m_header, metrics, paddingsPx);
+    return !fitsInTwoLines(row.status, metrics, statusWidth(first));
+}
+
+/** Whether the status lies over a cell. */
+bool PictureDelegate::isCovered(const PictureRow &row, const QFont &font, int column) const
+{
+    const auto first = statusColumn(row, m_header, QFontMetrics(statusFont(font, row.kind)), paddingsPx);
+    return m_header.visualIndex(column) >= m_header.visualIndex(first) &&
+           m_header.visualIndex(column) < m_header.visualIndex(PictureModel::Status);
+}
+
+/** From the column in which it begins to its end. */
+int PictureDelegate::statusWidth(PictureModel::Column first) const
+{
+    const int end = m_header.sectionPosition(PictureModel::Status) + m_header.sectionSize(PictureModel::Status);
+    return end - m_header.sectionPosition(first) - paddingsPx;
+}
+
+void PictureDelegate::paintStatus(QPainter &painter, const QStyleOptionViewItem &option, const PictureRow &row) const
+{
+    const QFont font = statusFont(option.font, row.kind);
+    const QFontMetrics metrics(font);
+    const auto first = statusColumn(row, m_header, metrics, paddingsPx);
+    QRect place = option.rect.adjusted(paddingPx, 0, -paddingPx / 2, -1);
+    place.setLeft(place.right() + 1 - statusWidth(first));
+    painter.setFont(font);
+    painter.setPen(Theme::color(colorName(row.kind)));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, inTwoLines(row.status, metrics, place.width()));
 }
 
 void PictureDelegate::paintThumbnail(QPainter &painter, const QRect &cell, int row) const
@@ -78,11 +123,11 @@ void PictureDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &o
                                 int column) const
 {
     QFont font = option.font;
+    const bool mayBeCovered = column == PictureModel::NewName || column == PictureModel::NewSize;
+    if (mayBeCovered && isCovered(row, option.font, column))
+        return;
     QColor color = Theme::color(column == PictureModel::Name ? QStringLiteral("text") : QStringLiteral("muted"));
-    if (column == PictureModel::Status) {
-        color = Theme::color(colorName(row.kind));
-        font.setWeight(isFinal(row.kind) ? QFont::DemiBold : QFont::Normal);
-    } else if (column == PictureModel::NewName || column == PictureModel::NewSize) {
+    if (mayBeCovered) {
         color = Theme::color(QStringLiteral("text"));
         if (column == PictureModel::NewName && m_model.stressesNewNames())
             font.setWeight(QFont::DemiBold);

@@ -3,6 +3,7 @@
 #include "app/models/picture_model.h"
 
 #include <QAbstractProxyModel>
+#include <QHeaderView>
 #include <QStyledItemDelegate>
 
 namespace window {
@@ -13,7 +14,11 @@ class PictureDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    PictureDelegate(const PictureModel &model, const QAbstractProxyModel &order, QObject *parent);
+    PictureDelegate(const PictureModel &model, const QAbstractProxyModel &order, const QHeaderView &header,
+                    QObject *parent);
+
+    /** Whether not all words of the status of a row can be read. */
+    bool isStatusCut(const PictureRow &row, const QFont &font) const;
 
     /** In logical pixels. */
     static QSize thumbnailSize() { return {36, 26}; }
@@ -22,10 +27,14 @@ public:
 
 private:
     void paintThumbnail(QPainter &painter, const QRect &cell, int row) const;
+    void paintStatus(QPainter &painter, const QStyleOptionViewItem &option, const PictureRow &row) const;
+    bool isCovered(const PictureRow &row, const QFont &font, int column) const;
+    int statusWidth(PictureModel::Column first) const;
     void paintText(QPainter &painter, const QStyleOptionViewItem &option, const PictureRow &row, int column) const;
 
     const PictureModel &m_model;
     const QAbstractProxyModel &m_order;
+    const QHeaderView &m_header;
 };
 
 } // namespace window

@@ -4,6 +4,8 @@
 
 #include "platform/values/fields.h"
 
+#include <utility>
+
 namespace window {
 
 void PictureTable::setInput(const QStringList &extensions, bool folders)
@@ -24,8 +26,18 @@ void PictureTable::setInput(const QStringList &extensions, bool folders)
 void PictureTable::countTaken()
 {
     m_taken = 0;
-    for (int row = 0; row < m_model.rowCount(); ++row)
-        m_taken += m_order.input().takes(m_model.row(row)) ? 1 : 0;
+    QStringView first;
+    bool hasFolders = false;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const PictureRow &picture = m_model.row(row);
+        if (!m_order.input().takes(picture))
+            continue;
+        const QStringView folder = QStringView(picture.path).left(picture.path.lastIndexOf(u'/'));
+        first = m_taken++ == 0 ? folder : first;
+        hasFolders = hasFolders || folder != first;
+    }
+    if (std::exchange(m_hasFolders, hasFolders) != hasFolders)
+        showColumns();
 }
 
 void PictureTable::chooseSomeRow()

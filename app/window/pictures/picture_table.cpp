@@ -37,7 +37,7 @@ StatusKind kindOf(const QString &word)
 PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_model, this)
 {
     setModel(&m_order);
-    setItemDelegate(new PictureDelegate(m_model, m_order, this));
+    setItemDelegate(new PictureDelegate(m_model, m_order, *horizontalHeader(), this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -77,9 +77,9 @@ void PictureTable::setBusy(bool busy)
     wakeLoader();
 }
 
-int PictureTable::addPaths(const QStringList &paths)
+int PictureTable::addPaths(const QStringList &paths, const QStringList &roots)
 {
-    const int added = m_model.add(paths);
+    const int added = m_model.add(paths, roots);
     if (added == 0)
         return 0;
     QList<int> ids;
@@ -248,7 +248,7 @@ void PictureTable::keyPressEvent(QKeyEvent *event)
 void PictureTable::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);
-    arrangeColumns();
+    showColumns();
     wakeLoader();
 }
 

@@ -25,6 +25,10 @@ class PictureTable : public QTableView
     /** Rows that failed are shown only; the current one is one of them where there is any. */
     Q_PROPERTY(bool problemsOnly READ problemsOnly WRITE setProblemsOnly)
     Q_PROPERTY(bool busy READ isBusy WRITE setBusy)
+    /** What the user did to the columns, as a text to be kept: their order and widths. Empty where nothing was done. */
+    Q_PROPERTY(QString layout READ columnLayout WRITE setColumnLayout NOTIFY layoutChanged)
+    /** The column by which the list is sorted, with a minus sign before it where the last comes first; empty for the order of adding. */
+    Q_PROPERTY(QString sorting READ sorting WRITE setSorting NOTIFY layoutChanged)
 
 public:
     explicit PictureTable(QWidget *parent = nullptr);
@@ -37,6 +41,12 @@ public:
     bool isBusy() const { return m_busy; }
     /** While busy (a job runs) nothing is read in the background for rows that are not visible. */
     void setBusy(bool busy);
+    QString columnLayout() const;
+    void setColumnLayout(const QString &layout);
+    QString sorting() const;
+    void setSorting(const QString &sorting);
+    /** Whether not all words of a status can be read in the list. */
+    bool isStatusCut(int id) const;
 
     /**
      * Says what the action takes: files with one of the extensions, or any file for "*", or folders and no files.
@@ -47,15 +57,16 @@ public:
     /** The paths of these rows, in the order of adding. */
     Q_INVOKABLE QStringList hiddenPaths() const;
     /**
-     * Shows these columns only: "thumbnail", "name", "pixels", "size", "type", "newName", "newSize", "status".
+     * Shows these columns only: "thumbnail", "name", "folder", "pixels", "size", "type", "newName", "newSize", "status". The folder
+     * is shown where the pictures lie in several.
      *
      * @param headings  other words for the heads of columns, by the same names
      * @param stressed  new names are what the list is about
      */
     Q_INVOKABLE void setColumns(const QStringList &columns, const QVariantMap &headings, bool stressed);
 
-    /** Adds the paths that are not in the list yet; returns how many those were. */
-    Q_INVOKABLE int addPaths(const QStringList &paths);
+    /** Adds the paths that are not in the list yet; returns how many those were. @p roots: the folders that were added. */
+    Q_INVOKABLE int addPaths(const QStringList &paths, const QStringList &roots);
     /** Takes the chosen rows out; returns how many those were. */
     Q_INVOKABLE int removeSelected();
     /** Takes rows out because their files are gone: no edit that could be undone. */
@@ -105,17 +116,26 @@ Q_SIGNALS:
     void orderChanged();
     void currentPictureChanged(int id);
     void largePreviewRequested();
+    void layoutChanged();
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
 
 private:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void prepareHeader();
     void arrangeColumns();
+    void showColumns();
+    bool isShown(size_t column) const;
+    void chooseDispensable();
+    int fixedWidth(size_t column) const;
+    void layOutAsFirst();
+    void columnsChanged();
+    void showHeaderMenu(const QPoint &place);
     void loadSlice();
     bool loadNextVisible();
     bool loadNextHeader();
@@ -135,9 +155,11 @@ private:
     bool m_busy = false;
     bool m_resortPending = false;
     bool m_arranging = false;
-    int m_taken = 0; ///< rows that the action takes
-    std::vector<bool> m_columnShown;
-    bool m_columnsChosen = false; ///< by hand; then their widths are left alone
+    int m_taken = 0;                 ///< rows that the action takes
+    bool m_hasFolders = false;       ///< they lie in several folders
+    QList<int> m_leftOut;            ///< columns that there is no room for
+    std::vector<bool> m_columnShown; ///< of those that setColumns() named
+    bool m_columnsChosen = false;    ///< by hand; then their widths are left alone
 };
 
 } // namespace window

@@ -11,6 +11,12 @@ import { PresetPane } from "../../presets/preset-pane.js";
 import { actionNamed, allActions, GROUPS, presetKinds } from "../../actions/actions.js";
 
 const SHOWN = "ShownAction";
+const SORTING = "ListOrder";
+
+// Actions of one manner share their columns.
+function columnsKey(manner) {
+    return "Columns-" + manner.columns.join("-");
+}
 
 /** Sets action, settings and pane of the main window's parts; changed() is called after each change of a setting. */
 export class ActionPage {
@@ -29,6 +35,8 @@ export class ActionPage {
         window.form.place("headHost", this.presets.form);
         [this.output.form, this.presets.form].forEach((form) => window.help.join(form));
         const simulation = window.form.control("moveSimulation");
+        window.pictures.sorting = recall(defaults, SORTING, { sorting: "" }).sorting;
+        window.pictures.layoutChanged.connect(guard("columns", () => this.keepColumns()));
         simulation.toggled.connect(guard("simulation", () => this.simulationToggled(simulation.checked)));
         this.choose(recall(defaults, SHOWN, { name: "" }).name);
     }
@@ -71,6 +79,7 @@ export class ActionPage {
         if (manner.columns.length > 0) {
             const own = action.headings === undefined ? {} : action.headings();
             window.pictures.setColumns(manner.columns, Object.assign(manner.headings(), own), manner.stressed);
+            window.pictures.layout = recall(defaults, columnsKey(manner), { layout: "" }).layout;
         }
         this.showInput();
     }
@@ -142,6 +151,12 @@ export class ActionPage {
             this.made[action.name] = { action: action, settings: settings, pane: pane };
         }
         return this.made[action.name];
+    }
+
+    keepColumns() {
+        const list = this.window.pictures;
+        keep(defaults, columnsKey(this.window.manner), { layout: list.layout });
+        keep(defaults, SORTING, { sorting: list.sorting });
     }
 
     keepSettings() {

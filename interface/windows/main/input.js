@@ -131,7 +131,7 @@ export class Input {
     addFound(found, paths) {
         const list = this.window.pictures;
         const before = list.count;
-        this.window.history.edited("add", list.addPaths(paths));
+        this.window.history.edited("add", list.addPaths(paths, found.folders));
         const added = list.count - before;
         if (added > 0) {
             list.setFocus();

@@ -1,0 +1,216 @@
+#include "tests/gui/support/window_driver.h"
+#include "tests/support/test_program.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHeaderView>
+#include <QImage>
+#include <QTest>
+#include <QXmlStreamReader>
+
+using window::PictureModel;
+
+namespace {
+
+/** The parts of the interface whose texts become reasons in the list, and those of the engine. */
+QSet<QString> contextsOf(const QString &action)
+{
+    if (action == QLatin1String("rename"))
+        return {QStringLiteral("move-words"), QStringLiteral("move-run"), QStringLiteral("rename-step"),
+                QStringLiteral("platform")};
+    return {QStringLiteral("job"),
+            QStringLiteral("plan"),
+            QStringLiteral("write-plan"),
+            QStringLiteral("write-run"),
+            QStringLiteral("by-recipe"),
+            QStringLiteral("written"),
+            QStringLiteral("crop-step"),
+            QStringLiteral("round-step"),
+            QStringLiteral("background-step"),
+            QStringLiteral("image::PictureService"),
+            QStringLiteral("platform")};
+}
+
+struct Text
+{
+    QString context;
+    QString source;
+    QString translation;
+};
+
+/** All texts of the interface in a language; in English they are their own translation. */
+QList<Text> textsIn(const QString &language)
+{
+    const bool isEnglish = language == QLatin1String("en");
+    QFile file(QStringLiteral(QUORLIN_INTERFACE_FOLDER) +
+               QStringLiteral("/texts/quorlin_%1.ts").arg(isEnglish ? QStringLiteral("de") : language));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no texts in %s", qPrintable(language));
+    QList<Text> texts;
+    Text text;
+    for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == QLatin1String("name"))
+            text.context = xml.readElementText();
+        else if (xml.name() == QLatin1String("source"))
+            text.source = xml.readElementText();
+        else if (xml.name() == QLatin1String("translation")) {
+            const QString own = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+            text.translation = isEnglish ? text.source : own;
+            texts.append(text);
+        }
+    }
+    return texts;
+}
+
+/** What the list can say of a picture, the word for the status before it, and names or sizes where they belong. */
+QStringList reasonsIn(const QString &language, const QString &action)
+{
+    const QList<Text> texts = textsIn(language);
+    const auto word = [&texts](const char *status) {
+        for (const Text &text : texts)
+            if (text.context == QLatin1String("wording") && text.source == QLatin1String(status))
+                return text.translation + QStringLiteral(": ");
+        qFatal("no word for %s", status);
+    };
+    QStringList reasons;
+    for (const Text &text : texts) {
+        if (!contextsOf(action).contains(text.context) || !text.source.at(0).isLower() ||
+            text.source.contains(QLatin1String("%3")))
+            continue;
+        const bool tellsSizes = text.source.contains(QLatin1String("%2"));
+        QString reason = text.translation;
+        reason.replace(QLatin1String("%1"), tellsSizes ? QStringLiteral("4000×3000") : QStringLiteral("IMG_0042.jpg"));
+        reason.replace(QLatin1String("%2"), QStringLiteral("4000×3000"));
+        const bool isOfType = text.source.startsWith(QLatin1String("this type"));
+        reasons.append(word(isOfType ? "Not Supported" : "Failed") + reason);
+    }
+    return reasons;
+}
+
+} // namespace
+
+/** The columns of the list: what they show, whether their texts can be read, and what is kept of them. */
+class TestColumns : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_driver = WindowDriver::showing("resize"); }
+    void cleanup() { m_driver.reset(); }
+    void everyReasonCanBeRead_data();
+    void everyReasonCanBeRead();
+    void theFolderIsShownWherePicturesLieInSeveral();
+    void whatTheUserDidIsKept();
+    void aWrongLayoutIsNoLayout();
+
+private:
+    QString path(const QString &name) const { return m_driver->inputFolder() + u'/' + name; }
+    void picture(const QString &name);
+    QHeaderView &header() { return *m_driver->pictures().horizontalHeader(); }
+
+    std::unique_ptr<WindowDriver> m_driver;
+};
+
+void TestColumns::picture(const QString &name)
+{
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
+    QVERIFY(image.save(path(name)));
+}
+
+void TestColumns::everyReasonCanBeRead_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("action");
+    for (const char *language : {"en", "de", "fr", "nl"})
+        for (const char *action : {"resize", "rename"})
+            QTest::addRow("%s %s", language, action) << QString::fromLatin1(language) << QString::fromLatin1(action);
+}
+
+void TestColumns::everyReasonCanBeRead()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, action);
+    const QStringList reasons = reasonsIn(language, action);
+    QVERIFY2(reasons.size() > 20, qPrintable(QString::number(reasons.size())));
+    picture(QStringLiteral("a.png"));
+    picture(QStringLiteral("b/b.png"));
+    m_driver->window().resize(1280, 720);
+    m_driver->show(qPrintable(action));
+    m_driver->drop({m_driver->inputFolder()});
+    QCoreApplication::processEvents();
+    window::PictureTable &list = m_driver->pictures();
+    QVERIFY(!header().isSectionHidden(PictureModel::Folder)); // the narrowest case
+    const int id = list.currentId();
+    const QString word =
+        language == QLatin1String("de") ? QStringLiteral("Nicht unterstützt: ") : QStringLiteral("Not Supported: ");
+    QStringList cut;
+    for (const QString &reason : reasons) {
+        list.setStatus(id, QStringLiteral("bad"), reason, {});
+        if (list.isStatusCut(id))
+            cut.append(reason);
+    }
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u'\n')));
+    list.setStatus(id, QStringLiteral("bad"), QStringLiteral("word ").repeated(200), {});
+    QVERIFY(list.isStatusCut(id));
+}
+
+void TestColumns::theFolderIsShownWherePicturesLieInSeveral()
+{
+    picture(QStringLiteral("wedding/a.png"));
+    picture(QStringLiteral("wedding/day 1/church/b.png"));
+    picture(QStringLiteral("alone/c.png"));
+    m_driver->drop({path(QStringLiteral("alone/c.png"))});
+    QVERIFY(header().isSectionHidden(PictureModel::Folder));
+    m_driver->drop({path(QStringLiteral("wedding"))});
+    QCOMPARE(m_driver->pictures().count(), 3);
+    QVERIFY(!header().isSectionHidden(PictureModel::Folder));
+    QCOMPARE(m_driver->cell(0, PictureModel::Folder), QStringLiteral("alone"));
+    QCOMPARE(m_driver->cell(1, PictureModel::Folder), QStringLiteral("wedding"));
+    QCOMPARE(m_driver->cell(2, PictureModel::Folder), QStringLiteral("wedding/day 1/church"));
+    m_driver->pictures().selectRow(1);
+    m_driver->trigger("removeAction");
+    m_driver->pictures().selectRow(1);
+    m_driver->trigger("removeAction");
+    QVERIFY(header().isSectionHidden(PictureModel::Folder));
+}
+
+void TestColumns::whatTheUserDidIsKept()
+{
+    header().resizeSection(PictureModel::Pixels, 123);
+    header().moveSection(header().visualIndex(PictureModel::Bytes), 1);
+    header().setSortIndicator(PictureModel::Bytes, Qt::DescendingOrder);
+    m_driver->startAgain();
+    QCOMPARE(header().visualIndex(PictureModel::Bytes), 1);
+    QCOMPARE(header().sectionSize(PictureModel::Pixels), 123);
+    QCOMPARE(header().sortIndicatorSection(), int(PictureModel::Bytes));
+    QCOMPARE(header().sortIndicatorOrder(), Qt::DescendingOrder);
+    m_driver->show("rename"); // it has other columns, in the same order of pictures
+    QCOMPARE(header().visualIndex(PictureModel::Bytes), int(PictureModel::Bytes));
+    QCOMPARE(header().sortIndicatorSection(), int(PictureModel::Bytes));
+    m_driver->show("crop");
+    QCOMPARE(header().visualIndex(PictureModel::Bytes), 1);
+}
+
+void TestColumns::aWrongLayoutIsNoLayout()
+{
+    window::PictureTable &list = m_driver->pictures();
+    for (const char *text :
+         {"", "{", "[]",
+          "{\"order\":[1,\"name\",\"name\",\"none\"],\"widths\":{\"name\":-5,\"none\":3,\"size\":1e9}}"}) {
+        list.setColumnLayout(QString::fromLatin1(text));
+        list.setSorting(QString::fromLatin1(text));
+        QCOMPARE(header().visualIndex(PictureModel::Thumbnail), 0);
+        QCOMPARE(header().visualIndex(PictureModel::Name), 1);
+        QCOMPARE(header().sortIndicatorSection(), -1);
+        QVERIFY(header().sectionSize(PictureModel::Name) >= header().minimumSectionSize());
+        QVERIFY(header().sectionSize(PictureModel::Bytes) <= 4000);
+    }
+}
+
+QUORLIN_GUI_TEST(TestColumns)
+
+#include "tst_columns.moc"
