@@ -13,7 +13,7 @@ namespace {
 constexpr int settledMs = 250;
 
 /** How the picture grows as JPEG: measured where its file is one. */
-double exponentOf(const QString &path, const Rendition &original)
+double exponentOf(const QString &path, const jobs::Rendition &original)
 {
     QFile file(path);
     const bool isJpeg = original.bitmap.jpegQuantisation() && platform::openToRead(file).has_value();
@@ -31,7 +31,7 @@ ResultEstimate::ResultEstimate(QObject *parent) : QObject(parent)
     connect(&m_idle, &QTimer::timeout, this, &ResultEstimate::work);
 }
 
-void ResultEstimate::setOriginal(const QString &path, const Rendition &original)
+void ResultEstimate::setOriginal(const QString &path, const jobs::Rendition &original)
 {
     forget();
     m_path = path;
@@ -39,7 +39,7 @@ void ResultEstimate::setOriginal(const QString &path, const Rendition &original)
     m_exponent.reset();
 }
 
-void ResultEstimate::ask(const Rendition &result, const QString &type, const QString &qualityCode)
+void ResultEstimate::ask(const jobs::Rendition &result, const QString &type, const QString &qualityCode)
 {
     forget();
     if (!platform::fileFormatForType(type))

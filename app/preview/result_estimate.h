@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/preview/preview_deeds.h"
+#include "jobs/reading/preview_deeds.h"
 
 #include <QObject>
 #include <QTimer>
@@ -21,14 +21,14 @@ public:
     explicit ResultEstimate(QObject *parent = nullptr);
 
     /** The file that was opened and a rendition of it. */
-    void setOriginal(const QString &path, const Rendition &original);
+    void setOriginal(const QString &path, const jobs::Rendition &original);
     /**
      * Forgets what was known and works on @p result from now on.
      *
      * @param type  type identifier of the file; what is not written gets no estimate
      * @param qualityCode  "" where the action has none
      */
-    void ask(const Rendition &result, const QString &type, const QString &qualityCode);
+    void ask(const jobs::Rendition &result, const QString &type, const QString &qualityCode);
     void forget();
     /** -1 while it is not known. */
     double bytes() const { return m_bytes; }
@@ -41,9 +41,9 @@ private:
 
     QTimer m_idle;
     QString m_path;
-    Rendition m_original;
+    jobs::Rendition m_original;
     std::optional<double> m_exponent;
-    Rendition m_result;
+    jobs::Rendition m_result;
     QString m_type;
     QString m_qualityCode;
     double m_bytes = -1;

@@ -115,7 +115,7 @@ double jpegHeaderBytes(const QByteArray &encoded)
     return double(std::max<qint64>(0, platform::startOfJpegScan(file)));
 }
 
-std::optional<double> estimatedFileBytes(const Rendition &result, FileFormat format,
+std::optional<double> estimatedFileBytes(const jobs::Rendition &result, FileFormat format,
                                          const platform::EncodeOptions &options, double exponentAsJpeg)
 {
     const Bitmap &bitmap = result.bitmap;
@@ -137,7 +137,7 @@ std::optional<double> estimatedFileBytes(const Rendition &result, FileFormat for
     return header + grown(coded, pixelsOf(result.full), exponentFor(format, exponentAsJpeg));
 }
 
-std::optional<double> jpegExponent(const Rendition &rendition, double scanBytes)
+std::optional<double> jpegExponent(const jobs::Rendition &rendition, double scanBytes)
 {
     const Bitmap sample = sampleOf(rendition.bitmap, FileFormat::Jpeg);
     const auto encoded = platform::encodeImage(sample, FileFormat::Jpeg);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/preview/preview_deeds.h"
+#include "jobs/reading/preview_deeds.h"
 #include "platform/imageio/encode/image_destination.h"
 
 /** How large a file will be, told from a rendition of the picture with fewer pixels. Nothing here touches a file. */
@@ -42,11 +42,11 @@ double jpegHeaderBytes(const QByteArray &encoded);
  *
  * @param exponentAsJpeg  how this picture grows as JPEG, see jpegExponent()
  */
-std::optional<double> estimatedFileBytes(const Rendition &result, platform::FileFormat format,
+std::optional<double> estimatedFileBytes(const jobs::Rendition &result, platform::FileFormat format,
                                          const platform::EncodeOptions &options,
                                          double exponentAsJpeg = typicalJpegExponent);
 
 /** The exponent of a JPEG file of @p scanBytes behind its header, by encoding @p rendition of it in the same way. */
-std::optional<double> jpegExponent(const Rendition &rendition, double scanBytes);
+std::optional<double> jpegExponent(const jobs::Rendition &rendition, double scanBytes);
 
 } // namespace window

@@ -3409,7 +3409,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>No file manager opens the folder. It is %1</source>
@@ -7794,14 +7794,6 @@
 </context>
 <context>
     <name>window</name>
-    <message>
-        <source>Nothing of the picture is left</source>
-        <translation>Vom Bild bleibt nichts übrig</translation>
-    </message>
-    <message>
-        <source>The pattern cannot be read</source>
-        <translation>Das Muster kann nicht gelesen werden</translation>
-    </message>
     <message>
         <source>Text</source>
         <translation>Text</translation>

@@ -3409,7 +3409,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>No file manager opens the folder. It is %1</source>
@@ -7794,14 +7794,6 @@
 </context>
 <context>
     <name>window</name>
-    <message>
-        <source>Nothing of the picture is left</source>
-        <translation>Il ne reste rien de l’image</translation>
-    </message>
-    <message>
-        <source>The pattern cannot be read</source>
-        <translation>Le motif ne peut pas être lu</translation>
-    </message>
     <message>
         <source>Text</source>
         <translation>Texte</translation>

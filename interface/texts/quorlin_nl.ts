@@ -7795,14 +7795,6 @@
 <context>
     <name>window</name>
     <message>
-        <source>Nothing of the picture is left</source>
-        <translation>Er blijft niets van de foto over</translation>
-    </message>
-    <message>
-        <source>The pattern cannot be read</source>
-        <translation>Het patroon kan niet worden gelezen</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Tekst</translation>
     </message>

@@ -10,11 +10,25 @@
 /**
  * What quorlin-batch and its workers say to each other. A worker says Hello, gets the files of a recipe and the recipe, and says whether it
  * can be carried out. Then, for one picture after the other, it gets the Picture and says what is Planned; then it gets the next one, or
- * files for its Outputs and is told to Make them, says what was Made of each, and that it is Done.
+ * files for its Outputs and is told to Make them, says what was Made of each, and that it is Done. Whoever has said Hello also takes a
+ * Read and says one Answer, see reading_messages.h.
  */
 namespace jobs {
 
-enum class MessageKind : quint16 { Hello = 1, RecipeFiles, Recipe, Ready, Picture, Planned, Outputs, Make, Made, Done };
+enum class MessageKind : quint16 {
+    Hello = 1,
+    RecipeFiles,
+    Recipe,
+    Ready,
+    Picture,
+    Planned,
+    Outputs,
+    Make,
+    Made,
+    Done,
+    Read = 32,
+    Answer
+};
 
 /** Of what is said here; a worker of another one is none of ours. */
 inline constexpr int messagesVersion = 1;

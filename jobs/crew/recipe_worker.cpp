@@ -5,6 +5,7 @@
 #include "image/recipe/sentence.h"
 #include "jobs/crew/messages.h"
 #include "jobs/names.h"
+#include "jobs/reading/picture_reader.h"
 #include "platform/file/lent_file.h"
 
 #include <QElapsedTimer>
@@ -59,6 +60,8 @@ public:
         case MessageKind::Make:
             make();
             return true;
+        case MessageKind::Read:
+            return takeRead(message);
         default:
             return false;
         }
@@ -132,6 +135,17 @@ private:
             return false;
         for (qsizetype i = 0; i < told->indices.size(); ++i)
             m_outputs.insert_or_assign(told->indices[i], std::move(message.files[size_t(i)]));
+        return true;
+    }
+
+    bool takeRead(Message &message)
+    {
+        const auto told = fromMessage<ReadMessage>(message);
+        if (!told)
+            return false;
+        if (m_trial.beforeMaking)
+            (void)m_trial.beforeMaking(told->paths.first());
+        m_socket.send(toMessage(m_reader.answer(*told, std::move(message.files))));
         return true;
     }
 
@@ -245,6 +259,7 @@ private:
     text::TokenFacts m_facts;
     QList<image::OutputPlan> m_plans;
     std::map<int, Descriptor> m_outputs;
+    PictureReader m_reader;
 };
 
 } // namespace

@@ -28,17 +28,6 @@ QString key(const char *name)
     return QString::fromLatin1(name);
 }
 
-/** A recipe with one output. */
-Result<Recipe> recipeFrom(const QVariantMap &object)
-{
-    const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(object)).toJson();
-    return image::readRecipe(json, QStringLiteral("/")).and_then([](const Recipe &recipe) -> Result<Recipe> {
-        if (recipe.outputs.size() != 1)
-            return platform::failure(platform::ErrorCode::InvalidValue, image::sentence("outputs: one, and no more"));
-        return recipe;
-    });
-}
-
 /** A recipe and a picture that can be made by it. */
 struct Task
 {
@@ -49,7 +38,7 @@ struct Task
 
 Result<Task> taskFor(const QString &path, const QVariantMap &object)
 {
-    return recipeFrom(object).and_then([&](const Recipe &recipe) {
+    return recipeFrom(object, {QStringLiteral("/")}).and_then([&](const Recipe &recipe) {
         return ImageSource::open(path).map([&](const ImageSource &source) {
             return Task{recipe, source, image::planOf(recipe, source).first()};
         });
@@ -84,6 +73,29 @@ Result<image::MadeOutput> madeOf(const Task &task, const QString &path)
 
 } // namespace
 
+Result<Recipe> recipeFrom(const QVariantMap &object, const image::RecipeFiles &files)
+{
+    const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(object)).toJson();
+    return image::readRecipe(json, files).and_then([](const Recipe &recipe) -> Result<Recipe> {
+        if (recipe.outputs.size() != 1)
+            return platform::failure(platform::ErrorCode::InvalidValue, image::sentence("outputs: one, and no more"));
+        return recipe;
+    });
+}
+
+QVariantMap answerOf(const OutputPlan &plan)
+{
+    const bool isThere = plan.problem.isEmpty();
+    return {{key("problem"), plan.problem},
+            {key("isNotSupported"), plan.isNotSupported},
+            {key("type"), isThere ? QString(image::writtenType(plan.type).keyword) : QString()},
+            {key("width"), plan.size.width()},
+            {key("height"), plan.size.height()},
+            {key("extension"), isThere ? image::extensionOf(plan.type) : QString()},
+            {key("lossless"), plan.isLossless},
+            {key("losses"), plan.losses}};
+}
+
 QVariantMap RecipeService::recipeFor(const QString &action, const QVariantMap &settings) const
 {
     const Preset preset = {action, QString(), QJsonObject::fromVariantMap(settings)};
@@ -98,15 +110,7 @@ QVariantMap RecipeService::planOutput(const QString &path, const QVariantMap &re
         plan = task->plan;
     else
         plan.problem = task.error().message;
-    const bool isThere = plan.problem.isEmpty();
-    return {{key("problem"), plan.problem},
-            {key("isNotSupported"), plan.isNotSupported},
-            {key("type"), isThere ? QString(image::writtenType(plan.type).keyword) : QString()},
-            {key("width"), plan.size.width()},
-            {key("height"), plan.size.height()},
-            {key("extension"), isThere ? image::extensionOf(plan.type) : QString()},
-            {key("lossless"), plan.isLossless},
-            {key("losses"), plan.losses}};
+    return answerOf(plan);
 }
 
 QVariantMap RecipeService::make(const QString &path, const QVariantMap &recipe, const QString &target) const

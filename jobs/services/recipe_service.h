@@ -1,11 +1,23 @@
 #pragma once
 
+#include "image/recipe/recipe_reader.h"
+
 #include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
 
+namespace image {
+struct OutputPlan;
+}
+
 namespace jobs {
+
+/** The recipe of a script, see RecipeService: fails where it has not exactly one output. */
+platform::Result<image::Recipe> recipeFrom(const QVariantMap &object, const image::RecipeFiles &files);
+
+/** What RecipeService::planOutput() answers. */
+QVariantMap answerOf(const image::OutputPlan &plan);
 
 /**
  * Recipes for scripts: the plan and the result of one picture. A recipe is the plain object that its file would hold, see

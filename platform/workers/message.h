@@ -58,6 +58,12 @@ public:
     QString text();
     QStringList texts();
     QByteArray bytes();
+    /** Whether all values so far made sense. */
+    bool isGood() const { return m_isGood; }
+    /** What stands behind them; 0 where one made no sense. */
+    qint64 bytesLeft() const { return m_isGood ? m_body.size() - m_place : 0; }
+    /** The value that was read last makes no sense to whoever asked for it. */
+    void refuse() { m_isGood = false; }
     /** Whether all values made sense and nothing stands behind them. */
     bool isAll() const { return m_isGood && m_place == m_body.size(); }
 

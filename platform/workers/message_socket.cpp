@@ -102,6 +102,9 @@ void MessageSocket::takeFiles(msghdr &header)
             m_receivedFiles.emplace_back(number);
         }
     }
+    // None wait but those of the message that is under way, and of what was sent with it.
+    if (m_receivedFiles.size() > 2 * mostFiles)
+        m_state = State::Nonsense;
     if ((header.msg_flags & MSG_CTRUNC) != 0) // more than a message may have, or some where none are taken
         m_state = State::Nonsense;
 }

@@ -1,7 +1,5 @@
 #include "platform/workers/worker_pool.h"
 
-#include "platform/workers/message_socket.h"
-
 #include <QFile>
 #include <QSocketNotifier>
 
@@ -13,6 +11,7 @@
 #include <optional>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -68,7 +67,7 @@ bool hasLeft(int process)
 
 struct WorkerPool::Worker
 {
-    Worker(pid_t number, Descriptor end) : process(number), socket(std::move(end), MessageSocket::Files::Refused)
+    Worker(pid_t number, Descriptor end, MessageSocket::Files files) : process(number), socket(std::move(end), files)
     {
         const QByteArray path = QByteArrayLiteral("/proc/") + QByteArray::number(number) + "/statm";
         memory = Descriptor(::open(path.constData(), O_RDONLY | O_CLOEXEC));
@@ -92,7 +91,8 @@ struct WorkerPool::Worker
     qint64 workedFor = 0; ///< milliseconds
 };
 
-WorkerPool::WorkerPool(const QString &program, const WorkerLimits &limits) : m_program(program), m_limits(limits)
+WorkerPool::WorkerPool(const QString &program, const WorkerLimits &limits, MessageSocket::Files files)
+    : m_program(program), m_limits(limits), m_files(files)
 {
     QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { watch(); });
     m_watch.setTimerType(Qt::PreciseTimer);
@@ -126,7 +126,7 @@ std::optional<WorkerPool::Id> WorkerPool::start(QString *problem)
         ::setpriority(PRIO_PROCESS, id_t(child), ::getpriority(PRIO_PROCESS, 0) + m_limits.niceness);
     ::fcntl(ends.one.number(), F_SETFL, O_NONBLOCK);
     const Id id = m_next++;
-    auto worker = std::make_unique<Worker>(child, std::move(ends.one));
+    auto worker = std::make_unique<Worker>(child, std::move(ends.one), m_files);
     const int socket = worker->socket.descriptor();
     worker->readable = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Read);
     worker->writable = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Write);
@@ -177,6 +177,23 @@ void WorkerPool::serve(Id id)
         if (onMessage)
             onMessage(id, std::move(*message));
     }
+}
+
+bool WorkerPool::waitFor(Id id, int milliseconds)
+{
+    const auto found = m_workers.find(id);
+    if (found == m_workers.end())
+        return false;
+    MessageSocket &socket = found->second->socket;
+    const short events = short(POLLIN | (socket.hasWaiting() ? POLLOUT : 0));
+    pollfd wait = {socket.descriptor(), events, 0};
+    if (::poll(&wait, 1, milliseconds) <= 0)
+        return false;
+    if ((wait.revents & POLLOUT) != 0)
+        sendWaiting(id);
+    if ((wait.revents & ~POLLOUT) != 0)
+        serve(id);
+    return true;
 }
 
 void WorkerPool::beginWork(Id id)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/workers/message.h"
+#include "platform/workers/message_socket.h"
 
 #include <QElapsedTimer>
 #include <QString>
@@ -37,8 +37,12 @@ class WorkerPool
 public:
     using Id = int;
 
-    /** @param program  absolute; gets the socket as descriptor 3, the number of this process and the limit of memory as arguments */
-    WorkerPool(const QString &program, const WorkerLimits &limits);
+    /**
+     * @param program  absolute; gets the socket as descriptor 3, the number of this process and the limit of memory as arguments
+     * @param files    whether they may hand over open files, such as pixels in shared memory
+     */
+    WorkerPool(const QString &program, const WorkerLimits &limits,
+               MessageSocket::Files files = MessageSocket::Files::Refused);
     WorkerPool(const WorkerPool &) = delete;
     WorkerPool &operator=(const WorkerPool &) = delete;
     /** Ends all workers. */
@@ -56,6 +60,12 @@ public:
     void endWork(Id worker);
     /** Goes on with the same thing. */
     void resumeWork(Id worker);
+    /**
+     * Waits for what @p worker says next, or for its end, and calls back for it; nothing else is called back meanwhile.
+     *
+     * @return false where it said nothing for @p milliseconds, or is not there
+     */
+    bool waitFor(Id worker, int milliseconds);
     /** Ends it at once. */
     void end(Id worker);
     int count() const { return int(m_workers.size()); }
@@ -71,6 +81,7 @@ private:
 
     QString m_program;
     WorkerLimits m_limits;
+    MessageSocket::Files m_files;
     std::map<Id, std::unique_ptr<Worker>> m_workers;
     std::vector<std::unique_ptr<Worker>> m_gone; ///< until nobody is in the middle of them
     std::vector<int> m_ending;                   ///< processes that were ended and have not left yet

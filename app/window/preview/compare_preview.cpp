@@ -4,6 +4,7 @@
 #include "app/window/preview/preview_host.h"
 #include "app/window/preview/preview_paint.h"
 
+#include "jobs/names.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/foundation/raised.h"
 #include "platform/values/fields.h"
@@ -83,7 +84,7 @@ void ComparePreview::showResult(const QVariantMap &result)
                                   {QStringLiteral("deeds"), QStringLiteral("width"), QStringLiteral("height"),
                                    QStringLiteral("type"), QStringLiteral("quality"), QStringLiteral("message"),
                                    QStringLiteral("bytes")});
-    const auto deeds = deedsFrom(fields.list("deeds"));
+    const auto deeds = jobs::deedsFrom(fields.list("deeds"));
     if (!deeds)
         throw platform::Raised::typeError(deeds.error().message);
     const QSize size(fields.whole("width", 0), fields.whole("height", 0));
@@ -233,7 +234,7 @@ void ComparePreview::render()
     update();
     if (m_base.isNull() || !m_showsResult || m_wanted.size.isEmpty())
         return;
-    const auto made = done(m_wanted.deeds, Rendition{m_base, m_picture.pixelSize()});
+    const auto made = jobs::done(m_wanted.deeds, {m_base, m_picture.pixelSize()}, jobs::factsOfPicture(m_path, 0));
     if (!made) {
         m_resultProblem = made.error().message;
         return;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/preview/picture_ahead.h"
-#include "app/preview/preview_deeds.h"
 #include "app/preview/result_estimate.h"
 #include "app/window/preview/crop_frame_editor.h"
+#include "jobs/reading/preview_deeds.h"
 #include "platform/imageio/source/picture.h"
 #include "views/my2ndPhotoView.h"
 #include "views/myMainPhotoView.h"
@@ -109,7 +109,7 @@ private:
     /** What was asked for last. */
     struct Wanted
     {
-        Deeds deeds;
+        jobs::Deeds deeds;
         QSize size;
         QString message;
         QString type;
@@ -154,7 +154,7 @@ private:
     bool m_fill = false;
     bool m_showsResult = true;
     Wanted m_wanted;
-    Rendition m_result;
+    jobs::Rendition m_result;
     QImage m_resultImage;
     ResultEstimate m_estimate;
     QString m_resultProblem;

@@ -1,5 +1,6 @@
 #include "platform/imageio/comments/user_comment_writer.h"
 
+#include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/foundation/paths.h"
 #include "platform/imageio/comments/comment_splices.h"
@@ -64,16 +65,36 @@ Result<void> checkEdited(const ImageSource &before, const QString &editedPath, c
     return {};
 }
 
+bool canHold(QFile &file)
+{
+    const Content content = contentOf(file.read(contentHeadBytes));
+    return content == Content::Jpeg || content == Content::Tiff || content == Content::Png ||
+           content == Content::Jpeg2000 || content == Content::Webp;
+}
+
+int pagesLostIn(QFile &file)
+{
+    return contentOf(file.read(contentHeadBytes)) == Content::Tiff ? pagesLostToComment(file) : 0;
+}
+
+/** From its beginning; whoever reads it by places does not notice. */
+bool openLent(QFile &file, const LentFile &lent)
+{
+    return file.open(lent.descriptor(), QIODevice::ReadOnly | QIODevice::Unbuffered) && file.seek(0);
+}
+
 } // namespace
 
 bool canHoldUserComment(const QString &path)
 {
     QFile file(path);
-    if (!openToRead(file, QIODevice::Unbuffered))
-        return false;
-    const Content content = contentOf(file.read(contentHeadBytes));
-    return content == Content::Jpeg || content == Content::Tiff || content == Content::Png ||
-           content == Content::Jpeg2000 || content == Content::Webp;
+    return openToRead(file, QIODevice::Unbuffered) && canHold(file);
+}
+
+bool canHoldUserComment(const LentFile &lent)
+{
+    QFile file;
+    return openLent(file, lent) && canHold(file);
 }
 
 Result<QString> readUserComment(const QString &path)
@@ -86,9 +107,13 @@ Result<QString> readUserComment(const QString &path)
 int pagesLostToUserComment(const QString &path)
 {
     QFile file(path);
-    const bool isTiff =
-        openToRead(file, QIODevice::Unbuffered) && contentOf(file.read(contentHeadBytes)) == Content::Tiff;
-    return isTiff ? pagesLostToComment(file) : 0;
+    return openToRead(file, QIODevice::Unbuffered) ? pagesLostIn(file) : 0;
+}
+
+int pagesLostToUserComment(const LentFile &lent)
+{
+    QFile file;
+    return openLent(file, lent) ? pagesLostIn(file) : 0;
 }
 
 Result<void> writeUserComment(const QString &path, const QString &comment)

@@ -6,6 +6,8 @@
 
 namespace platform {
 
+class LentFile;
+
 /**
  * Writes @p comment as the EXIF user comment of the first picture into the file at @p path, and changes nothing else.
  *
@@ -36,5 +38,9 @@ int pagesLostToUserComment(const QString &path);
 
 /** Whether the file at @p path is of a kind that can hold a comment, by its first bytes; false where it cannot be read. */
 bool canHoldUserComment(const QString &path);
+
+/** The last two of a file that is open already. */
+int pagesLostToUserComment(const LentFile &file);
+bool canHoldUserComment(const LentFile &file);
 
 } // namespace platform

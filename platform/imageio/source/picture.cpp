@@ -57,13 +57,17 @@ Picture Picture::fromFile(const QString &path)
 
 Picture Picture::opened(const QString &path)
 {
-    const Result<ImageSource> source = ImageSource::open(path);
-    if (!source)
+    return of(ImageSource::open(path).value_or(ImageSource()));
+}
+
+Picture Picture::of(const ImageSource &source)
+{
+    if (source.isNull())
         return {};
     auto contents = std::make_shared<Contents>();
-    contents->source = *source;
-    contents->size = source->pointSize();
-    contents->pixels = source->uprightSize();
+    contents->source = source;
+    contents->size = source.pointSize();
+    contents->pixels = source.uprightSize();
     return Picture(std::move(contents));
 }
 

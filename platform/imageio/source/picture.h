@@ -8,6 +8,8 @@
 
 namespace platform {
 
+class ImageSource;
+
 /**
  * A picture in memory: upright pixels and a size in points of its own.
  *
@@ -29,6 +31,8 @@ public:
      * opened; where its pixels turn out to be damaged the picture is null from then on.
      */
     static Picture opened(const QString &path);
+    /** The same of a file that was opened; a null picture for a null one. */
+    static Picture of(const ImageSource &source);
     /** A picture without pixels, of size 0 x 0, that is not null. */
     static Picture ofNoSize();
 

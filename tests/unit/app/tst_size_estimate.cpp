@@ -10,11 +10,11 @@
 
 #include <cmath>
 
+using jobs::Rendition;
 using platform::Bitmap;
 using platform::FileFormat;
 using platform::Picture;
 using window::CodedSample;
-using window::Rendition;
 
 Q_DECLARE_METATYPE(platform::FileFormat)
 

@@ -1,0 +1,321 @@
+#include "jobs/reading/picture_reader.h"
+
+#include "image/recipe/make.h"
+#include "image/recipe/recipe_reader.h"
+#include "image/recipe/sentence.h"
+#include "jobs/names.h"
+#include "jobs/reading/preview_deeds.h"
+#include "jobs/services/recipe_service.h"
+#include "platform/file/lent_file.h"
+#include "platform/foundation/memory_left.h"
+#include "platform/imageio/comments/user_comment_writer.h"
+#include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/formats/formats.h"
+#include "platform/imageio/source/picture_facts.h"
+
+#include <algorithm>
+
+#include <sys/stat.h>
+
+namespace jobs {
+namespace {
+
+using platform::Bitmap;
+using platform::ImageSource;
+using platform::LentFile;
+using platform::Picture;
+using platform::Result;
+
+QString key(const char *name)
+{
+    return QString::fromLatin1(name);
+}
+
+ReadAnswer failed(const QString &problem)
+{
+    ReadAnswer answer;
+    answer.message.problem = problem.isEmpty() ? image::sentence("it cannot be read") : problem;
+    return answer;
+}
+
+/** The sentence of an operation that says no more than that it failed, where memory was refused to it. */
+ReadAnswer failedWith(const platform::Error &error)
+{
+    const QString refusal = platform::takeMemoryRefusal();
+    return failed(refusal.isEmpty() ? error.message : refusal);
+}
+
+ReadAnswer answerWith(const QVariantMap &values)
+{
+    ReadAnswer answer;
+    answer.message.values = values;
+    return answer;
+}
+
+ReadAnswer shown(const QImage &image, QSize full)
+{
+    ReadAnswer answer = answerWith({{key("width"), full.width()}, {key("height"), full.height()}});
+    answer.image = platform::sharedImage(image);
+    if (!answer.image)
+        return failed(image::sentence("there is not enough memory to show it"));
+    answer.message.pixels = answer.image->size;
+    answer.message.hasAlpha = answer.image->hasAlpha;
+    return answer;
+}
+
+} // namespace
+
+/** One Read, with its files. */
+class PictureReader::Request
+{
+public:
+    Request(const ReadMessage &read, std::vector<platform::Descriptor> files) : m_read(read)
+    {
+        for (size_t i = 0; i < files.size(); ++i)
+            m_files.append(std::make_shared<const LentFile>(std::move(files[i]), read.paths[qsizetype(i)]));
+    }
+
+    const std::shared_ptr<const LentFile> &file() const { return m_files.first(); }
+    Result<ImageSource> source() const { return ImageSource::fromLent(file()); }
+
+    int whole(const char *name) const { return m_read.values.value(key(name)).toInt(); }
+    QVariant value(const char *name) const { return m_read.values.value(key(name)); }
+
+    /** The files that came along, for a recipe. */
+    image::RecipeFiles recipeFiles() const
+    {
+        image::RecipeFiles files;
+        files.folder = QStringLiteral("/");
+        files.open = [this](const QString &path) -> Result<std::shared_ptr<const LentFile>> {
+            for (qsizetype i = 1; i < m_files.size(); ++i)
+                if (m_files[i]->name() == path)
+                    return m_files[i];
+            return platform::failure(platform::ErrorCode::NotFound, path);
+        };
+        return files;
+    }
+
+    Result<image::Recipe> recipe() const { return recipeFrom(value("recipe").toMap(), recipeFiles()); }
+
+    /** What is known of the picture, for tokens. */
+    text::TokenFacts facts() const
+    {
+        text::TokenFacts facts;
+        facts.path = file()->name();
+        facts.created = value("created").toString();
+        facts.changed = value("changed").toString();
+        facts.bytes = value("bytes").toLongLong();
+        return withPictureFacts(facts, platform::pictureFacts(file()));
+    }
+
+    QSize renditionOf(QSize pixels) const
+    {
+        return renditionSize(pixels, QSizeF(value("roomWidth").toDouble(), value("roomHeight").toDouble()),
+                             value("covers").toBool());
+    }
+
+private:
+    const ReadMessage &m_read;
+    QList<std::shared_ptr<const LentFile>> m_files;
+};
+
+namespace {
+
+QVariantMap statedIn(const platform::PictureFacts &facts)
+{
+    return {{key("taken"), facts.taken.toString(Qt::ISODate)},
+            {key("camera"), facts.camera},
+            {key("lens"), facts.lens},
+            {key("statedWidth"), facts.pixels.width()},
+            {key("statedHeight"), facts.pixels.height()},
+            {key("statedType"), facts.typeIdentifier}};
+}
+
+ReadAnswer factsOf(const std::shared_ptr<const LentFile> &file)
+{
+    ReadAnswer answer = answerWith(statedIn(platform::pictureFacts(file)));
+    const Result<ImageSource> source = ImageSource::fromLent(file);
+    if (!source) {
+        answer.message.problem = source.error().message;
+        return answer;
+    }
+    QVariantMap &values = answer.message.values;
+    values.insert(key("width"), source->uprightSize().width());
+    values.insert(key("height"), source->uprightSize().height());
+    values.insert(key("storedWidth"), source->storedSize().width());
+    values.insert(key("storedHeight"), source->storedSize().height());
+    values.insert(key("orientation"), source->orientation());
+    values.insert(key("type"), source->typeIdentifier());
+    values.insert(key("pointWidth"), source->pointSize().width());
+    values.insert(key("pointHeight"), source->pointSize().height());
+    return answer;
+}
+
+ReadAnswer propertiesOf(const ImageSource &source)
+{
+    const Result<QVariantMap> properties = source.properties();
+    return properties ? answerWith({{key("properties"), *properties}}) : failed(properties.error().message);
+}
+
+ReadAnswer commentOf(const std::shared_ptr<const LentFile> &file)
+{
+    ReadAnswer answer = answerWith({{key("holds"), platform::canHoldUserComment(*file)},
+                                    {key("pagesLost"), platform::pagesLostToUserComment(*file)}});
+    const Result<platform::Metadata> metadata =
+        ImageSource::fromLent(file).and_then([](const ImageSource &source) { return source.metadata(); });
+    answer.message.values.insert(key("comment"), metadata ? metadata->userComment() : QString());
+    answer.message.problem = metadata ? QString() : metadata.error().message;
+    return answer;
+}
+
+ReadAnswer profileOf(const ImageSource &source)
+{
+    const QByteArray profile = source.iccProfile();
+    QStringList heldBy;
+    for (const platform::Format &format : platform::formats()) {
+        const auto written = platform::fileFormatForType(format.identifier);
+        if (written && format.keeps.profile == platform::Kept::IfItFits && platform::holdsProfile(*written, profile))
+            heldBy.append(format.identifier);
+    }
+    const QVariantMap properties = source.properties().value_or(QVariantMap());
+    return answerWith({{key("name"), properties.value(key("ProfileName")).toString()}, {key("heldBy"), heldBy}});
+}
+
+ReadAnswer planned(const image::Recipe &recipe, const ImageSource &source)
+{
+    return answerWith(answerOf(image::planOf(recipe, source).first()));
+}
+
+ReadAnswer bytesOf(const image::Recipe &recipe, const ImageSource &source, const text::TokenFacts &facts)
+{
+    ReadAnswer answer = failed({});
+    const image::FillText fill = [&facts](const QString &pattern, QSize size) {
+        return watermarkFrom(pattern, facts, size);
+    };
+    const image::OutputPlan plan = image::planOf(recipe, source).first();
+    if (!plan.problem.isEmpty())
+        return failed(plan.problem);
+    image::makeOutputs(recipe, source, {plan}, fill, [&answer](int, const Result<image::MadeOutput> &made) {
+        answer = made ? answerWith({{key("bytes"), double(made->bytes.size())}}) : failedWith(made.error());
+    });
+    return answer;
+}
+
+} // namespace
+
+PictureReader::Kept PictureReader::keptOf(int descriptor)
+{
+    constexpr qint64 nanoseconds = 1'000'000'000;
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0)
+        return {};
+    return {status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec};
+}
+
+/** The picture, with what was decoded of it before. */
+Result<Picture> PictureReader::pictureOf(const Request &request)
+{
+    const Kept now = keptOf(request.file()->descriptor());
+    if (!m_picture.isNull() && now == m_kept)
+        return m_picture;
+    m_picture = {};
+    return request.source().map([&](const ImageSource &source) {
+        m_kept = now;
+        m_picture = Picture::of(source);
+        return m_picture;
+    });
+}
+
+Result<Bitmap> PictureReader::baseOf(const Request &request, QSize *full)
+{
+    return pictureOf(request).and_then([&](const Picture &picture) {
+        *full = picture.pixelSize();
+        platform::takeMemoryRefusal();
+        return picture.scaledTo(request.renditionOf(picture.pixelSize()));
+    });
+}
+
+ReadAnswer PictureReader::thumbnail(const Request &request)
+{
+    const QSize wanted = QSize(request.whole("width"), request.whole("height")).expandedTo({1, 1});
+    const Result<ImageSource> source = request.source();
+    if (!source)
+        return failedWith(source.error());
+    const QSize pixels = source->uprightSize();
+    const QSize size = pixels.scaled(wanted, Qt::KeepAspectRatioByExpanding).expandedTo({1, 1});
+    // A strip of film is not worth a thumbnail of thousands of pixels.
+    constexpr int longest = 4;
+    const Result<Bitmap> bitmap = source->decodeScaled(size.boundedTo(wanted * longest));
+    if (!bitmap)
+        return failedWith(bitmap.error());
+    const QImage image = bitmap->toScreenImage();
+    const QPoint corner((image.width() - wanted.width()) / 2, (image.height() - wanted.height()) / 2);
+    return shown(image.copy(QRect(corner, wanted)), pixels);
+}
+
+ReadAnswer PictureReader::rendition(const Request &request)
+{
+    QSize full;
+    const Result<Bitmap> base = baseOf(request, &full);
+    return base ? shown(base->toScreenImage(), full) : failedWith(base.error());
+}
+
+ReadAnswer PictureReader::result(const Request &request)
+{
+    QSize full;
+    const Result<Bitmap> base = baseOf(request, &full);
+    if (!base)
+        return failedWith(base.error());
+    const Result<jobs::Rendition> made =
+        deedsFrom(request.value("deeds").toList(), request.recipeFiles()).and_then([&](const Deeds &deeds) {
+            return done(deeds, {*base, full}, request.facts());
+        });
+    return made ? shown(made->bitmap.toScreenImage(), made->full) : failedWith(made.error());
+}
+
+ReadAnswer PictureReader::answer(const ReadMessage &read, std::vector<platform::Descriptor> files)
+{
+    const Request request(read, std::move(files));
+    const auto withSource = [&request](const auto &look) {
+        const Result<ImageSource> source = request.source();
+        return source ? look(*source) : failed(source.error().message);
+    };
+    const auto withRecipe = [&](const auto &look) {
+        const Result<image::Recipe> recipe = request.recipe();
+        return recipe ? withSource([&](const ImageSource &source) { return look(*recipe, source); })
+                      : failed(recipe.error().message);
+    };
+    switch (read.what) {
+    case Reading::Facts:
+        return factsOf(request.file());
+    case Reading::Thumbnail:
+        return thumbnail(request);
+    case Reading::Rendition:
+        return rendition(request);
+    case Reading::Result:
+        return result(request);
+    case Reading::Properties:
+        return withSource(propertiesOf);
+    case Reading::Comment:
+        return commentOf(request.file());
+    case Reading::Profile:
+        return withSource(profileOf);
+    case Reading::Plan:
+        return withRecipe(planned);
+    case Reading::Bytes:
+        return withRecipe([&request](const image::Recipe &recipe, const ImageSource &source) {
+            return bytesOf(recipe, source, needsFacts(recipe) ? request.facts() : text::TokenFacts());
+        });
+    }
+    return failed({});
+}
+
+platform::Message toMessage(ReadAnswer answer)
+{
+    platform::Message message = toMessage(answer.message);
+    if (answer.image)
+        message.files.push_back(std::move(answer.image->pixels));
+    return message;
+}
+
+} // namespace jobs

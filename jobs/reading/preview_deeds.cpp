@@ -1,0 +1,171 @@
+#include "jobs/reading/preview_deeds.h"
+
+#include "image/overlay.h"
+#include "image/recipe/render.h"
+#include "jobs/names.h"
+
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <functional>
+
+namespace jobs {
+namespace {
+
+using platform::Bitmap;
+using platform::ErrorCode;
+using platform::Result;
+
+tl::unexpected<platform::Error> refused(const QString &message)
+{
+    return platform::failure(ErrorCode::InvalidValue, message);
+}
+
+/** The values of one deed, and the first that is not what it should be. */
+class Values
+{
+public:
+    explicit Values(const QVariantMap &map) : m_map(map) {}
+
+    QString text(const char *name)
+    {
+        const QVariant value = m_map.value(QString::fromLatin1(name));
+        if (value.metaType() != QMetaType::fromType<QString>())
+            complain(name, "text");
+        return value.toString();
+    }
+
+    /** Invalid for an empty text. */
+    QColor color(const char *name)
+    {
+        const QString value = text(name);
+        const QColor color(value);
+        if (!value.isEmpty() && !color.isValid())
+            complain(name, "a colour");
+        return color;
+    }
+
+    QVariantList list(const char *name)
+    {
+        const QVariant value = m_map.value(QString::fromLatin1(name));
+        if (value.metaType() != QMetaType::fromType<QVariantList>())
+            complain(name, "a list");
+        return value.toList();
+    }
+
+    void complain(const char *name, const char *expected)
+    {
+        if (m_problem.isEmpty())
+            m_problem =
+                QStringLiteral("Expected %1 for %2 of the deed %3")
+                    .arg(QLatin1String(expected), QLatin1String(name), m_map.value(QStringLiteral("do")).toString());
+    }
+    void refuse(const QString &sentence)
+    {
+        if (m_problem.isEmpty())
+            m_problem = sentence;
+    }
+    const QString &problem() const { return m_problem; }
+
+private:
+    const QVariantMap &m_map;
+    QString m_problem;
+};
+
+Deed recipeDeed(Values &values, const image::RecipeFiles &files)
+{
+    const QJsonObject recipe = {{QStringLiteral("quorlin"), image::recipeVersion},
+                                {QStringLiteral("operations"), QJsonArray::fromVariantList(values.list("operations"))},
+                                {QStringLiteral("outputs"), QJsonArray{QJsonObject()}}};
+    const Result<image::Recipe> read = image::readRecipe(QJsonDocument(recipe).toJson(), files);
+    if (!read) {
+        values.refuse(read.error().message);
+        return RecipeDeed();
+    }
+    return RecipeDeed{read->operations, values.text("path"), image::filesOf(*read)};
+}
+
+using Reader = std::function<Deed(Values &, const image::RecipeFiles &)>;
+
+const QHash<QString, Reader> &readers()
+{
+    static const QHash<QString, Reader> all = {
+        {QStringLiteral("lay"),
+         [](Values &values, const image::RecipeFiles &) -> Deed { return LayDeed{values.color("color")}; }},
+        {QStringLiteral("flatten"), [](Values &, const image::RecipeFiles &) -> Deed { return FlattenDeed{}; }},
+        {QStringLiteral("recipe"), recipeDeed},
+    };
+    return all;
+}
+
+Result<Rendition> with(const Result<Bitmap> &bitmap, QSize full)
+{
+    return bitmap.map([full](const Bitmap &made) { return Rendition{made, full}; });
+}
+
+Result<Rendition> doneOne(const LayDeed &deed, const Rendition &start, const text::TokenFacts &)
+{
+    return with(image::laidOnColor(start.bitmap, deed.color), start.full);
+}
+
+Result<Rendition> doneOne(const FlattenDeed &, const Rendition &start, const text::TokenFacts &)
+{
+    return with(start.bitmap.hasAlpha() ? image::laidOnColor(start.bitmap, Qt::black) : Result<Bitmap>(start.bitmap),
+                start.full);
+}
+
+Result<Rendition> doneOne(const RecipeDeed &deed, const Rendition &start, const text::TokenFacts &facts)
+{
+    image::Rendition known = {start.bitmap, image::stageOf(start.bitmap)};
+    known.stage.size = start.full;
+    const image::FillText fill = [&facts](const QString &pattern, QSize size) {
+        return watermarkFrom(pattern, facts, size);
+    };
+    return image::rendered(deed.steps, known, fill).map([](const image::Rendition &made) {
+        return Rendition{made.bitmap, made.stage.size};
+    });
+}
+
+} // namespace
+
+Result<Deeds> deedsFrom(const QVariantList &list, const image::RecipeFiles &files)
+{
+    Deeds deeds;
+    for (const QVariant &entry : list) {
+        const QVariantMap map = entry.toMap();
+        const QString name = map.value(QStringLiteral("do")).toString();
+        const Reader reader = readers().value(name);
+        if (!reader)
+            return refused(QStringLiteral("Expected a deed of the preview but received \"%1\"").arg(name));
+        Values values(map);
+        deeds.push_back(reader(values, files));
+        if (!values.problem().isEmpty())
+            return refused(values.problem());
+    }
+    return deeds;
+}
+
+QStringList filesOf(const Deeds &deeds)
+{
+    QStringList files;
+    for (const Deed &deed : deeds)
+        if (const auto *recipe = std::get_if<RecipeDeed>(&deed))
+            files += recipe->files;
+    files.removeDuplicates();
+    return files;
+}
+
+Result<Rendition> done(const Deeds &deeds, const Rendition &start, const text::TokenFacts &facts)
+{
+    Result<Rendition> present = start;
+    for (const Deed &deed : deeds) {
+        present = std::visit([&](const auto &one) { return doneOne(one, *present, facts); }, deed);
+        if (!present)
+            break;
+    }
+    return present;
+}
+
+} // namespace jobs

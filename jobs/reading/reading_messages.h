@@ -1,0 +1,67 @@
+#pragma once
+
+#include "jobs/crew/messages.h"
+
+#include <QSize>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <optional>
+
+/**
+ * What a process with windows asks its workers about pictures that it does not open itself. A worker gets Read, with the picture and
+ * whatever else is looked into as open files, and says one Answer.
+ */
+namespace jobs {
+
+enum class Reading {
+    /**
+     * What a header tells: {width, height, storedWidth, storedHeight, orientation, type, pointWidth, pointHeight} where it can be opened,
+     * and {taken, camera, lens, statedWidth, statedHeight, statedType}, see platform::PictureFacts, also where only that is known.
+     */
+    Facts,
+    /** The middle of the picture in {width, height} pixels; that size in pixels of the screen. */
+    Thumbnail,
+    /**
+     * The picture in no more pixels than can be seen: {roomWidth, roomHeight} and "covers", see renditionSize().
+     * Answer: pixels, and the {width, height} of the upright picture.
+     */
+    Rendition,
+    /** The same with {deeds} done to it, see preview_deeds.h. Answer: pixels, and the {width, height} of the whole result. */
+    Result,
+    /** {properties}: see platform::ImageSource::properties(). */
+    Properties,
+    /** {comment, holds, pagesLost}: the user comment, whether this kind of file has one, and what writing it would cost. */
+    Comment,
+    /** {name, heldBy}: of the colour profile, and the type identifiers of those kinds of files that hold some profiles and this one. */
+    Profile,
+    /** What {recipe} makes of the picture, see RecipeService::planOutput(). The files that the recipe names come along. */
+    Plan,
+    /** {bytes}: how large the file is that {recipe} makes of the picture, by making it. */
+    Bytes,
+};
+
+/** Files come along, in the order of the paths; the picture is the first. */
+struct ReadMessage
+{
+    Reading what = Reading::Facts;
+    QVariantMap values;
+    QStringList paths;
+};
+
+/** Pixels come along as an open file where their size is not empty, see platform::SharedImage. */
+struct AnswerMessage
+{
+    QString problem; ///< a sentence where nothing came of it
+    QVariantMap values;
+    QSize pixels;
+    bool hasAlpha = false;
+};
+
+platform::Message toMessage(const ReadMessage &read);
+platform::Message toMessage(const AnswerMessage &answer);
+
+/** As many pixels as can be seen of a picture of @p pixels: what fits into the room, or covers it; never more than it has. */
+QSize renditionSize(QSize pixels, QSizeF room, bool covers);
+
+} // namespace jobs
