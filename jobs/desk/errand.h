@@ -42,11 +42,14 @@ public:
      * worker that has just been started, where the first one crashed.
      */
     virtual std::vector<platform::Message> begin(Hand &hand) = 0;
-    virtual Turn take(const platform::Message &message) = 0;
+    /** Files that came along may be taken out of it. */
+    virtual Turn take(platform::Message &message) = 0;
     /** Nothing came of it, for a reason that is a sentence. The last that the desk does with it. */
     virtual void fail(const QString &reason) = 0;
     /** Memory that a worker takes for it at most, in bytes; 0 where that is little. */
     virtual qint64 expectedBytes() const { return 0; }
+    /** How long it may take; 0 for as long as the desk has it. */
+    virtual int seconds() const { return 0; }
 };
 
 } // namespace jobs

@@ -136,7 +136,7 @@ std::vector<Message> RecipeErrand::begin(Hand &hand)
     return messages;
 }
 
-Errand::Turn RecipeErrand::take(const Message &message)
+Errand::Turn RecipeErrand::take(Message &message)
 {
     if (const auto ready = fromMessage<ReadyMessage>(message)) {
         m_result.reason = ready->problem;

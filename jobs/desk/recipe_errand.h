@@ -72,7 +72,7 @@ public:
     ~RecipeErrand() override;
 
     std::vector<platform::Message> begin(Hand &hand) override;
-    Turn take(const platform::Message &message) override;
+    Turn take(platform::Message &message) override;
     void fail(const QString &reason) override;
     qint64 expectedBytes() const override;
 

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QThread>
 
 #include <algorithm>
 #include <array>
@@ -25,20 +26,27 @@ constexpr int restMs = 60'000; // before workers that have nothing to do go
 constexpr int mostWorkers = 256;
 constexpr std::array<Urgency, 3> byUrgency = {Urgency::Now, Urgency::Soon, Urgency::Later};
 
-/** The program of ofProcess(), where tests said it. */
+/** The program of the workers of this process, where tests said it. */
 QString &saidProgram()
 {
     static QString program;
     return program;
 }
 
+WorkerDesk::Options usualOptions()
+{
+    WorkerDesk::Options usual;
+    usual.program = saidProgram().isEmpty() ? workerProgram() : saidProgram();
+    return usual;
+}
+
 } // namespace
 
 WorkerDesk::WorkerDesk(const Options &options, QObject *parent)
     : QObject(parent), m_size(options.workers > 0 ? options.workers : most()), m_options(options),
-      m_pool(options.program, options.limits)
+      m_pool(options.program, options.limits, platform::MessageSocket::Files::Taken)
 {
-    m_pool.onMessage = [this](Id worker, const Message &message) { take(worker, message); };
+    m_pool.onMessage = [this](Id worker, Message message) { take(worker, message); };
     m_pool.onEnded = [this](Id worker, WorkerEnd end) { takeEnd(worker, end); };
     m_look.setSingleShot(true);
     m_rest.setSingleShot(true);
@@ -56,10 +64,19 @@ WorkerDesk::~WorkerDesk()
 WorkerDesk &WorkerDesk::ofProcess()
 {
     static QPointer<WorkerDesk> desk;
+    if (!desk)
+        desk = new WorkerDesk(usualOptions(), QCoreApplication::instance());
+    return *desk;
+}
+
+WorkerDesk &WorkerDesk::forWaiting()
+{
+    static QPointer<WorkerDesk> desk;
     if (!desk) {
-        Options usual;
-        usual.program = saidProgram().isEmpty() ? workerProgram() : saidProgram();
-        desk = new WorkerDesk(usual, QCoreApplication::instance());
+        Options options = usualOptions();
+        options.workers = 1;
+        options.limits.niceness = 0; // this process does nothing else meanwhile
+        desk = new WorkerDesk(options, QCoreApplication::instance());
     }
     return *desk;
 }
@@ -116,6 +133,29 @@ void WorkerDesk::drop(Number number)
         return;
     end(worker->first);
     look();
+}
+
+bool WorkerDesk::isOpen(Number number) const
+{
+    const auto isIt = [number](const Asked &asked) { return asked.number == number; };
+    const auto holds = [&isIt](const std::deque<Asked> &all) { return std::any_of(all.begin(), all.end(), isIt); };
+    return holds(m_toTryAgain) ||
+           std::any_of(m_waiting.begin(), m_waiting.end(), [&](const auto &each) { return holds(each.second); }) ||
+           std::any_of(m_workers.begin(), m_workers.end(),
+                       [&](const auto &each) { return each.second.asked && isIt(*each.second.asked); });
+}
+
+void WorkerDesk::finish(Number number)
+{
+    constexpr int lookMs = 100;
+    giveWork();
+    while (isOpen(number)) {
+        if (m_workers.empty())
+            QThread::msleep(lookMs); // before one is started again
+        else
+            m_pool.waitFor(m_workers.begin()->first, lookMs);
+        giveWork();
+    }
 }
 
 void WorkerDesk::warmUp()
@@ -198,7 +238,7 @@ void WorkerDesk::give(Worker &worker, Asked asked)
         found->second.asked.reset();
         return;
     }
-    m_pool.beginWork(id);
+    m_pool.beginWork(id, errand->seconds());
     for (Message &message : messages)
         m_pool.send(id, std::move(message));
     m_rest.start();
@@ -257,7 +297,7 @@ void WorkerDesk::missed(const QString &problem)
         asked.errand->fail(problem);
 }
 
-void WorkerDesk::take(Id id, const Message &message)
+void WorkerDesk::take(Id id, Message &message)
 {
     const auto found = m_workers.find(id);
     if (found == m_workers.end())
@@ -310,8 +350,11 @@ void WorkerDesk::giveUpOrTryAgain(Asked asked, WorkerEnd end)
 {
     constexpr int mostTries = 2;
     const bool isLimit = end == WorkerEnd::TookTooLong || end == WorkerEnd::TookTooMuch;
+    platform::WorkerLimits limits = m_options.limits;
+    if (asked.errand->seconds() > 0)
+        limits.seconds = asked.errand->seconds();
     if (isLimit || ++asked.tries >= mostTries)
-        asked.errand->fail(reasonFor(end, m_options.limits));
+        asked.errand->fail(reasonFor(end, limits));
     else
         m_toTryAgain.push_back(std::move(asked));
 }

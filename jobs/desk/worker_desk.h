@@ -53,12 +53,20 @@ public:
 
     /** The one of this process, made on first use with the usual options; it goes with the application. */
     static WorkerDesk &ofProcess();
-    /** Which program the workers of ofProcess() are, from now on; the one beside this program where it was never said. For tests. */
+    /** Another one, with one worker, for what has to be waited for: see finish(). */
+    static WorkerDesk &forWaiting();
+    /** Which program the workers of both are, from now on; the one beside this program where it was never said. For tests. */
     static void useProgram(const QString &program);
 
     Number add(std::shared_ptr<Errand> errand, Urgency urgency);
     /** Takes an errand back; a worker that is at it is ended, so that nothing more comes of it. Nothing for one that is over. */
     void drop(Number number);
+
+    /**
+     * Waits until an errand is over. Nothing but what workers of this desk say is heard meanwhile, so it has to be a desk where nothing else
+     * is asked for.
+     */
+    void finish(Number number);
 
     /** How many pictures may be worked on at a time: 1 to most(). */
     void setSize(int workers);
@@ -100,7 +108,8 @@ private:
     void startFor();
     bool start();
     void missed(const QString &problem);
-    void take(Id worker, const platform::Message &message);
+    void take(Id worker, platform::Message &message);
+    bool isOpen(Number number) const;
     void takeEnd(Id worker, platform::WorkerEnd end);
     void giveUpOrTryAgain(Asked asked, platform::WorkerEnd end);
     void end(Id worker);

@@ -89,6 +89,7 @@ struct WorkerPool::Worker
     std::unique_ptr<QSocketNotifier> writable;
     bool isAtWork = false;
     qint64 workedFor = 0; ///< milliseconds
+    int mostSeconds = 0;
 };
 
 WorkerPool::WorkerPool(const QString &program, const WorkerLimits &limits, MessageSocket::Files files)
@@ -187,8 +188,10 @@ bool WorkerPool::waitFor(Id id, int milliseconds)
     MessageSocket &socket = found->second->socket;
     const short events = short(POLLIN | (socket.hasWaiting() ? POLLOUT : 0));
     pollfd wait = {socket.descriptor(), events, 0};
-    if (::poll(&wait, 1, milliseconds) <= 0)
+    if (::poll(&wait, 1, milliseconds) <= 0) {
+        watch();
         return false;
+    }
     if ((wait.revents & POLLOUT) != 0)
         sendWaiting(id);
     if ((wait.revents & ~POLLOUT) != 0)
@@ -196,10 +199,11 @@ bool WorkerPool::waitFor(Id id, int milliseconds)
     return true;
 }
 
-void WorkerPool::beginWork(Id id)
+void WorkerPool::beginWork(Id id, int seconds)
 {
     if (const auto found = m_workers.find(id); found != m_workers.end()) {
         found->second->isAtWork = true;
+        found->second->mostSeconds = seconds > 0 ? seconds : m_limits.seconds;
         found->second->workedFor = 0;
     }
 }
@@ -254,7 +258,7 @@ void WorkerPool::watch()
     std::vector<std::pair<Id, WorkerEnd>> beyond;
     for (const auto &[id, worker] : m_workers) {
         worker->workedFor += worker->isAtWork ? since : 0;
-        if (worker->isAtWork && worker->workedFor > m_limits.seconds * milliseconds)
+        if (worker->isAtWork && worker->workedFor > worker->mostSeconds * milliseconds)
             beyond.emplace_back(id, WorkerEnd::TookTooLong);
         else if (worker->residentBytes() > m_limits.residentBytes)
             beyond.emplace_back(id, WorkerEnd::TookTooMuch);

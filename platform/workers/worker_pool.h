@@ -55,13 +55,17 @@ public:
     /** Starts one; nothing where that fails, with a reason in @p problem. */
     std::optional<Id> start(QString *problem = nullptr);
     void send(Id worker, Message message);
-    /** From here to endWork() it works on one thing, for which it has so much time and memory. */
-    void beginWork(Id worker);
+    /**
+     * From here to endWork() it works on one thing, for which it has so much time and memory.
+     *
+     * @param seconds  0 for those of the limits
+     */
+    void beginWork(Id worker, int seconds = 0);
     void endWork(Id worker);
     /** Goes on with the same thing. */
     void resumeWork(Id worker);
     /**
-     * Waits for what @p worker says next, or for its end, and calls back for it; nothing else is called back meanwhile.
+     * Waits for what @p worker says next, or for its end, and calls back for it, and for those that are beyond their limits.
      *
      * @return false where it said nothing for @p milliseconds, or is not there
      */

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "jobs/desk/worker_desk.h"
+#include "jobs/reading/reading_messages.h"
+
+#include <QImage>
+#include <QPointer>
+
+#include <functional>
+
+namespace jobs {
+
+/** What is wanted of a picture. */
+struct ReadRequest
+{
+    Reading what = Reading::Facts;
+    QString path;
+    QVariantMap values;
+    QStringList files = {}; ///< that workers need beside the picture
+    int seconds = 0;        ///< that it may take; 0 for what is usual
+};
+
+/** What a worker says of it. */
+struct ReadResult
+{
+    QString problem; ///< a sentence where nothing came of it
+    /** Whoever looked into it crashed, or took longer or more memory than it may. */
+    bool isReaderGone = false;
+    QVariantMap values;
+    QImage image;
+
+    bool isGood() const { return problem.isEmpty(); }
+    QVariant value(const char *key) const { return values.value(QString::fromLatin1(key)); }
+    /** A size of what is upright; null where there is none, or one that no picture has. */
+    QSize size(const char *width = "width", const char *height = "height") const;
+};
+
+using TakeReading = std::function<void(const ReadResult &result)>;
+
+/** One look into a picture. The file is opened when it is begun. */
+class ReadErrand : public Errand
+{
+public:
+    ReadErrand(ReadRequest request, TakeReading take) : m_request(std::move(request)), m_take(std::move(take)) {}
+
+    std::vector<platform::Message> begin(Hand &hand) override;
+    Turn take(platform::Message &message) override;
+    void fail(const QString &reason) override;
+    int seconds() const override;
+
+    bool isBegun() const { return m_isBegun; }
+    /** Nobody waits for it any more. */
+    void abandon() { m_take = {}; }
+
+private:
+    void answer(const ReadResult &result);
+
+    ReadRequest m_request;
+    TakeReading m_take;
+    bool m_isBegun = false;
+};
+
+/**
+ * Looks into pictures by the workers of this process, and forgets what nobody waits for any more: all that was asked here goes with it.
+ * What is begun is not ended for that, since a worker is started more slowly than most pictures are read.
+ */
+class Reader
+{
+public:
+    explicit Reader(WorkerDesk &desk = WorkerDesk::ofProcess()) : m_desk(&desk) {}
+    Reader(const Reader &) = delete;
+    Reader &operator=(const Reader &) = delete;
+    ~Reader() { drop(); }
+
+    using Number = WorkerDesk::Number;
+    /** @param take  is called once, out of the event loop, unless this is dropped before */
+    Number ask(const ReadRequest &request, Urgency urgency, const TakeReading &take);
+    void drop(Number number);
+    /** All of it. */
+    void drop();
+    int inWork() const { return int(m_asked.size()); }
+
+private:
+    QPointer<WorkerDesk> m_desk;
+    std::map<Number, std::shared_ptr<ReadErrand>> m_asked;
+};
+
+/** The same, waited for: nothing else happens in this process meanwhile. At most some seconds. */
+ReadResult readNow(const ReadRequest &request, WorkerDesk &desk = WorkerDesk::forWaiting());
+
+} // namespace jobs
