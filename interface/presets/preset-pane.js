@@ -7,11 +7,12 @@ import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
 import { emptyTable, splitPath } from "../lib/names.js";
 import { PresetStore } from "./preset-store.js";
-import { FIELDS, fileText, freeName, rowOf, rowsOfFile, storedName } from "./presets.js";
+import { FIELDS, fileText, freeName, placeOf, rowOf, rowsOfFile, storedName } from "./presets.js";
 import { writeStartingPresets } from "./starting-presets.js";
 import { keep, recall } from "../lib/store.js";
 import { fill } from "../lib/wording.js";
 
+const SIMULATION = placeOf("StrField21");
 const FILE_TYPE = "c-action";
 // Each waits for the disk: a few are brought in at once, and many while the window goes on.
 const MOST_AT_ONCE = 20;
@@ -109,7 +110,9 @@ export class PresetPane {
     }
 
     isChanged() {
-        const text = (settings) => rowOf(this.kinds[this.action].form, "", settings).join("|");
+        // A simulation is how a preset is tried, and no change of it.
+        const text = (settings) => rowOf(this.kinds[this.action].form, "", settings)
+            .filter((field, i) => i !== SIMULATION).join("|");
         return this.isReady() && text(this.settings) !== text(this.pane.resolved(this.chosen.settings));
     }
 
@@ -120,6 +123,11 @@ export class PresetPane {
         } else if (value.startsWith(OTHER)) {
             // It says what it is and can be exported; the settings stay.
             this.chosen = this.presets[Number(value.slice(OTHER.length))];
+            this.showAll();
+        } else {
+            // The settings stay; they belong to no preset any more.
+            this.chosen = null;
+            this.remember();
             this.showAll();
         }
     }
@@ -150,7 +158,7 @@ export class PresetPane {
         const texts = this.presets
             .map((preset) => (changed && preset === this.chosen ? "• " + preset.name : stateWord(preset)));
         const values = this.presets.map((preset) => this.valueOf(preset));
-        this.form.setItems("preset", (none ? [qsTr("None")] : []).concat(texts), (none ? [""] : []).concat(values));
+        this.form.setItems("preset", [qsTr("None")].concat(texts), [""].concat(values));
         this.form.chooseValue("preset", none ? "" : this.valueOf(this.chosen));
         this.form.control("preset").enabled = this.store.problem === "" && this.presets.length > 0;
         const name = none ? "" : this.chosen.name;

@@ -14,8 +14,8 @@ const MARK = "Quorlin ";
 const FIRST_VERSION = 1;
 const FILE_MARK = "Quorlin presets";
 
-// The place of a column in a row: NameOfPreset, Process and Action are 0 to 2, StrField3 is 3.
-function placeOf(column) {
+/** The place of a column in a row: NameOfPreset, Process and Action are 0 to 2, StrField3 is 3. */
+export function placeOf(column) {
     return Number(column.slice("StrField".length));
 }
 

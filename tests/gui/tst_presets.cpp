@@ -143,6 +143,27 @@ private Q_SLOTS:
         QCOMPARE(chosen(), QStringLiteral("• Web 1600"));
     }
 
+    void noneStaysAChoiceAndKeepsTheSettings()
+    {
+        m_driver->choose("preset", QStringLiteral("=Web 1600"));
+        QCOMPARE(names().constFirst(), QStringLiteral("None"));
+        m_driver->choose("preset", QString());
+        QCOMPARE(chosen(), QStringLiteral("None"));
+        QCOMPARE(number("value"), 1600.0);
+        QVERIFY(!entry("Delete…")->isEnabled());
+        m_driver->startAgain();
+        QCOMPARE(chosen(), QStringLiteral("None"));
+    }
+
+    void aSimulationIsNoChangeOfAPreset()
+    {
+        m_driver->choose("preset", QStringLiteral("=Web 1600"));
+        m_driver->control<QCheckBox>("simulation")->setChecked(true);
+        QCOMPARE(chosen(), QStringLiteral("Web 1600"));
+        m_driver->control<QCheckBox>("simulation")->setChecked(false);
+        QCOMPARE(chosen(), QStringLiteral("Web 1600"));
+    }
+
     void choosingAgainBringsTheSettingsBack()
     {
         m_driver->choose("preset", QStringLiteral("=Web 1600"));
