@@ -15,6 +15,7 @@ install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/manual ${CMAKE_SOURCE_DIR}/docs/scree
   DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin/docs FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
 set(packaging ${CMAKE_SOURCE_DIR}/packaging)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/recipes DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin FILES_MATCHING PATTERN "*.quorlin")
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/samples DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin)
 install(FILES ${CMAKE_SOURCE_DIR}/jobs/schema/recipe.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin)
 install(FILES ${packaging}/com.brelmark.Quorlin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${packaging}/com.brelmark.Quorlin.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

@@ -1847,8 +1847,12 @@ declare module "quorlin/program" {
         readonly language: string;
         /** The folder of the manual, or empty. */
         readonly manual: string;
+        /** Whether there are pictures to try things with. */
+        readonly hasSamples: boolean;
         /** Asks in the background for a newer build and calls taken(fields, problem): one of them is null. */
         lookForUpdate(taken: Function | null): null;
+        /** A folder among the user's pictures with a copy of the samples; empty where it could not be made. */
+        copySamples(): string;
         /** Shows the print panel and prints each picture on a page of its own. */
         print(paths: texts): null;
         /** Lets the user choose paper and orientation for this print and those to come. */

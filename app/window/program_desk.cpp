@@ -6,6 +6,7 @@
 #include "app/printing/print_settings.h"
 #include "app/setup/configuration.h"
 #include "app/setup/interface_folder.h"
+#include "app/setup/samples.h"
 #include "app/window/panels/print_dialog.h"
 #include "platform/desktop/strings_tables.h"
 #include "platform/desktop/user_defaults.h"
@@ -93,6 +94,16 @@ QString ProgramDesk::manual() const
     const QDir folder(interfaceFolder());
     const QString path = QDir::cleanPath(folder.filePath(QStringLiteral("../docs/manual")));
     return QFileInfo::exists(path + QStringLiteral("/index.md")) ? path : QString();
+}
+
+bool ProgramDesk::hasSamples() const
+{
+    return QFileInfo(app::samplesFolder()).isDir();
+}
+
+QString ProgramDesk::copySamples() const
+{
+    return app::copySamples().value_or(QString());
 }
 
 void ProgramDesk::lookForUpdate(const script::Function &taken)

@@ -24,6 +24,8 @@ class ProgramDesk : public QObject
     Q_PROPERTY(QString language READ language CONSTANT)
     /** The folder of the manual, or empty where there is none. */
     Q_PROPERTY(QString manual READ manual CONSTANT)
+    /** Whether there are pictures to try things with. */
+    Q_PROPERTY(bool hasSamples READ hasSamples CONSTANT)
 
 public:
     using QObject::QObject;
@@ -35,12 +37,16 @@ public:
     QVariantList libraries() const;
     QString language() const;
     QString manual() const;
+    bool hasSamples() const;
 
     /**
      * Asks in the background whether there is a newer build, and calls @p taken(fields, problem) from the event loop: the
      * fields of cAppUpdater.getAppVersion() or null, and a sentence where nobody knows, or null.
      */
     Q_INVOKABLE void lookForUpdate(const script::Function &taken);
+
+    /** A folder among the user's pictures with a copy of those pictures; empty where it could not be made. */
+    Q_INVOKABLE QString copySamples() const;
 
     /** Shows the print panel and prints each picture on a page of its own, fitted and in the middle, without margins. */
     Q_INVOKABLE void print(const QStringList &paths);

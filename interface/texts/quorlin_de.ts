@@ -807,6 +807,14 @@
         <source>Go to Convert, which takes them</source>
         <translation>Zu „Konvertieren“ gehen, wo sie angenommen werden</translation>
     </message>
+    <message>
+        <source>Try Sample Pictures</source>
+        <translation>Beispielbilder ausprobieren</translation>
+    </message>
+    <message>
+        <source>Puts five pictures into the folder “Quorlin Samples” among your pictures</source>
+        <translation>Legt fünf Bilder in den Ordner „Quorlin Samples“ bei Ihren Bildern</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -3021,6 +3029,10 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The sample pictures could not be copied into your folder of pictures</source>
+        <translation>Die Beispielbilder konnten nicht in Ihren Bilderordner kopiert werden</translation>
     </message>
 </context>
 <context>

@@ -807,6 +807,14 @@
         <source>Go to Convert, which takes them</source>
         <translation>Passer à « Convertir », qui les accepte</translation>
     </message>
+    <message>
+        <source>Try Sample Pictures</source>
+        <translation>Essayer avec des photos d’exemple</translation>
+    </message>
+    <message>
+        <source>Puts five pictures into the folder “Quorlin Samples” among your pictures</source>
+        <translation>Place cinq images dans le dossier « Quorlin Samples » de vos images</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -3021,6 +3029,10 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>The sample pictures could not be copied into your folder of pictures</source>
+        <translation>Les images d’exemple n’ont pas pu être copiées dans votre dossier d’images</translation>
     </message>
 </context>
 <context>

@@ -807,6 +807,14 @@
         <source>Go to Convert, which takes them</source>
         <translation>Naar Converteren gaan, dat ze wel neemt</translation>
     </message>
+    <message>
+        <source>Try Sample Pictures</source>
+        <translation>Voorbeeldfoto’s proberen</translation>
+    </message>
+    <message>
+        <source>Puts five pictures into the folder “Quorlin Samples” among your pictures</source>
+        <translation>Zet vijf afbeeldingen in de map ‘Quorlin Samples’ bij uw afbeeldingen</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -3021,6 +3029,10 @@
     <message>
         <source>Close</source>
         <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>The sample pictures could not be copied into your folder of pictures</source>
+        <translation>De voorbeelden konden niet naar uw map met afbeeldingen worden gekopieerd</translation>
     </message>
 </context>
 <context>

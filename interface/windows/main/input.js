@@ -2,6 +2,7 @@
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
+import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";
 import { convert } from "../../actions/convert/convert-action.js";
 import { guard } from "../../lib/guard.js";
@@ -16,6 +17,7 @@ import { fill, shortPath } from "../../lib/wording.js";
 const KEPT_FOLDERS = 8;
 const MOST_NAMED = 15;
 const KEY = "RecentFolders";
+const HAS_ADDED = "HasAddedPictures";
 
 function addedText(found, added, words) {
     const parts = [];
@@ -52,6 +54,8 @@ export class Input {
     constructor(window) {
         this.window = window;
         this.recent = recall(defaults, KEY, { folders: [] }).folders;
+        // Whoever has added something needs no samples any more.
+        this.hasAdded = this.recent.length > 0 || recall(defaults, HAS_ADDED, { on: false }).on;
         this.hidden = null;
         this.convertible = false;
         this.joinList();
@@ -108,6 +112,8 @@ export class Input {
         for (const name of ["addPicturesButton", "emptyAddPictures", "addPicturesAction"]) {
             control(name).visible = !areFolders;
         }
+        control("emptyAddSamples").visible = program.hasSamples && !this.hasAdded
+            && this.window.action.lists(this.window.settings) === "pictures";
         control("emptyTitle").text = words.title();
         control("emptyText").text = words.text();
         const hidden = this.hiddenCount();
@@ -135,8 +141,16 @@ export class Input {
         const added = list.count - before;
         if (added > 0) {
             list.setFocus();
+            this.noteAdding();
         }
         this.window.say(addedText(this.withoutCompanions(found), added, this.words()));
+    }
+
+    noteAdding() {
+        if (!this.hasAdded) {
+            this.hasAdded = true;
+            keep(defaults, HAS_ADDED, { on: true });
+        }
     }
 
     // What goes along with a picture of the list was not left out.
@@ -178,6 +192,16 @@ export class Input {
                          folders: qsTr("Add a folder") };
         const folder = shell.chooseFolder(titles[kind], this.recent[0] || "");
         if (folder !== null) {
+            this.addPaths([folder]);
+        }
+    }
+
+    /** Pictures to try things with, as files of the user's. */
+    addSamples() {
+        const folder = program.copySamples();
+        if (folder === "") {
+            this.window.say(qsTr("The sample pictures could not be copied into your folder of pictures"));
+        } else {
             this.addPaths([folder]);
         }
     }

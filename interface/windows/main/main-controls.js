@@ -6,7 +6,7 @@ import { guard } from "../../lib/guard.js";
 function doingsOf(window) {
     return {
         addPictures: () => window.input.addPictures(),
-        addFolder: () => window.input.addFolder(),
+        addFolder: () => window.input.addFolder(), addSamples: () => window.input.addSamples(),
         clear: () => window.clearList(),
         start: () => window.run.start(),
         pause: () => window.run.togglePause(),
@@ -39,7 +39,8 @@ function doingsOf(window) {
 
 const BUTTONS = {
     addPicturesButton: "addPictures", emptyAddPictures: "addPictures", addFolderButton: "addFolder",
-    emptyAddFolder: "addFolder", clearButton: "clear", startButton: "start", pauseButton: "pause",
+    emptyAddFolder: "addFolder", emptyAddSamples: "addSamples", clearButton: "clear", startButton: "start",
+    pauseButton: "pause",
     cancelButton: "cancel", retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report",
     openFolderButton: "openFolders",
     filterShowAll: "showAllRows", hiddenShow: "showHidden", hiddenConvert: "convertHidden",

@@ -27,6 +27,7 @@ const MOST_OPENED = 3;
 const INPUT = [
     "addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction", "renameAction",
     "headHost", "actionHost", "outputHost", "moveSimulation", "emptyAddPictures", "emptyAddFolder",
+    "emptyAddSamples",
 ];
 
 export class MainWindow {

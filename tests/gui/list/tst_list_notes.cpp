@@ -45,6 +45,7 @@ private Q_SLOTS:
     void theTitleTellsHowFarARunIs();
     void manyFoldersOpenInTheOneThatHoldsThem();
     void saysWhereAFolderIsThatNobodyOpens();
+    void whoBeginsIsOfferedSamples();
 
 private:
     QString path(const QString &name) const { return m_driver->inputFolder() + u'/' + name; }
@@ -173,6 +174,24 @@ void TestListNotes::saysWhereAFolderIsThatNobodyOpens()
     m_driver->click("openFolderButton");
     QCOMPARE(m_driver->text("statusDetail"),
              QStringLiteral("No file manager opens the folder. It is %1").arg(path(QStringLiteral("Resized"))));
+}
+
+void TestListNotes::whoBeginsIsOfferedSamples()
+{
+    QVERIFY(button("emptyAddSamples")->isVisible());
+    QVERIFY(!part("supportBar")->isVisible() && !part("hiddenBar")->isVisible());
+    m_driver->show("rename"); // works on files of any kind
+    QVERIFY(!button("emptyAddSamples")->isVisible());
+    m_driver->show("resize");
+    m_driver->click("emptyAddSamples");
+    QCOMPARE(m_driver->pictures().count(), 5);
+    const QString first = m_driver->pictures().paths().constFirst();
+    QVERIFY2(first.startsWith(m_driver->folder()) && first.contains(QLatin1String("/Quorlin Samples/")),
+             qPrintable(first));
+    m_driver->trigger("clearAction");
+    QVERIFY(!button("emptyAddSamples")->isVisible());
+    m_driver->startAgain();
+    QVERIFY(!button("emptyAddSamples")->isVisible());
 }
 
 QUORLIN_GUI_TEST(TestListNotes)
