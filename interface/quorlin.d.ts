@@ -1095,6 +1095,8 @@ declare module "quorlin/recipes" {
         recipeFor(action: text, settings: dictionary): { [key: string]: any };
         /** What the recipe makes of a picture, from its header. */
         planOutput(path: text, recipe: dictionary): OutputPlan;
+        /** The name of a result with its extension, of a pattern of tokens; the index is how many pictures came before this one. */
+        nameFor(path: text, pattern: text, index: whole, width: whole, height: whole, extension: text): string;
         /** Makes it as the file `target`, whole or not at all; what stands there is replaced. */
         make(path: text, recipe: dictionary, target: text): Made;
         /** The families of fonts that watermarks can be set in. */

@@ -31,6 +31,9 @@ const MADE = pictures.outputTypes().map(writtenAs);
 /** What results keep of what a picture says about itself; the words of recipes. */
 export const METADATA = ["keep", "copyright", "none"];
 
+/** The time of change that results get: that of the run, or that of their pictures; the words of recipes. */
+export const DATES = ["now", "keep"];
+
 /** The raw files of cameras, by extension: those that have a preview which can be converted, and the others. */
 export const RAW_WITH_PREVIEW = pictures.rawTypes().filter((type) => type.hasPreview).map((type) => type.extension);
 const RAW = pictures.rawTypes().map((type) => type.extension);

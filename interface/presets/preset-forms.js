@@ -5,7 +5,7 @@
 // by its path, "output.quality"; where it can only have certain values they stand behind its kind, and behind these the version of the
 // form that brought some of them, where that is not the first.
 
-import { METADATA, ORIGINAL, QUALITIES, WRITTEN } from "../lib/types.js";
+import { DATES, METADATA, ORIGINAL, QUALITIES, WRITTEN } from "../lib/types.js";
 
 const TYPES = [ORIGINAL].concat(WRITTEN.map((type) => type.id));
 
@@ -15,7 +15,9 @@ const OUTPUT = {
     StrField7: ["output.destination.name", "text"], StrField8: ["output.destination.path", "text"],
     StrField9: ["output.ifTaken", "text", ["number", "replace", "skip", "ask"]],
     StrField10: ["output.metadata", "word", METADATA], StrField21: ["output.simulation", "flag"],
-    StrField41: ["output.removeLocation", "flag"],
+    StrField40: ["output.keepSubfolders", "flag"], StrField41: ["output.removeLocation", "flag"],
+    StrField59: ["output.dates", "word", DATES], StrField60: ["output.matte", "color"],
+    StrField61: ["output.namePattern", "word"],
 };
 
 function numbers(from, to) {

@@ -110,7 +110,7 @@ function writeSlots(row, slots) {
     slots.forEach((slot, i) => { row[FIRST_SLOT + i] = slotText(slot); });
 }
 
-// By its columns, the words of a form that came with a later version: {word: version}.
+// The columns of a form that have words of a later version, which stand last in each: {word: version}.
 function newWordsOf(form) {
     const columns = Object.keys(form.columns).map((column) => form.columns[column]);
     return columns.filter((column) => column[3] !== undefined);

@@ -3,7 +3,7 @@
 // Services used: files (info, makeFolder, makeStaging, place, ...), pictures (takeMemoryRefusal), and what the step uses.
 
 import { FolderNames } from "quorlin/files";
-import { joinPath } from "../lib/names.js";
+import { joinPath, splitPath } from "../lib/names.js";
 
 const MOST_NUMBERS = 10000;
 const MOST_OPEN = 64;
@@ -21,12 +21,13 @@ class Workshop {
         if (this.stagings.has(folder)) {
             return { staging: this.stagings.get(folder) };
         }
-        if (!this.files.info(folder).exists) {
+        const missing = this.missing(folder);
+        if (missing.length > 0) {
             const problem = this.files.makeFolder(folder);
             if (problem) {
                 return { problem: problem };
             }
-            this.made.push(folder);
+            this.made = missing.concat(this.made);
         }
         this.closeOldest();
         this.files.sweep(folder);
@@ -36,6 +37,15 @@ class Workshop {
         }
         this.stagings.set(folder, staging);
         return { staging: staging };
+    }
+
+    // The folders that are to be made for this one to be there, itself first.
+    missing(folder) {
+        const missing = [];
+        for (let each = folder; each.length > 1 && !this.files.info(each).exists; each = splitPath(each).folder) {
+            missing.push(each);
+        }
+        return missing;
     }
 
     // Each hidden folder is held open, and a process may not hold many.
@@ -51,7 +61,7 @@ class Workshop {
         for (const staging of this.stagings.values()) {
             this.files.removeStaging(staging);
         }
-        // A folder in which nothing came to be is taken away again.
+        // A folder in which nothing came to be is taken away again, the innermost first.
         for (const folder of this.made) {
             this.files.removeEmptyFolder(folder);
         }

@@ -1,8 +1,19 @@
 // The rows of the list as runs look at them.
 
-/** The rows with these ids as planRun() takes them: {count, at, paths}. */
-export function photosOf(list, ids) {
-    return { count: ids.length, at: (i) => list.photo(ids[i]), paths: list.paths() };
+import { emptyTable } from "../lib/names.js";
+
+/**
+ * The rows with these ids as planRun() takes them: {count, at, paths}. Each picture says besides how many come before it in the list
+ * (index), and in which added folder it was found (root; "" for one that was added itself).
+ */
+export function photosOf(window, ids) {
+    const list = window.pictures;
+    const places = emptyTable();
+    list.ids().forEach((id, i) => { places[id] = i; });
+    return { count: ids.length, paths: list.paths(), at: (i) => {
+        const photo = list.photo(ids[i]);
+        return Object.assign(photo, { index: places[ids[i]], root: window.input.rootOf(photo.path) });
+    } };
 }
 
 /** The ids of the rows by the paths of their files. */

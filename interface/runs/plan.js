@@ -4,11 +4,22 @@
 import { FolderNames } from "quorlin/files";
 import { emptyTable, joinPath, splitPath } from "../lib/names.js";
 
-/** The folder that results of a picture go to; see the output settings of panes. */
-export function targetFolder(photo, destination) {
+// The place of a folder in the added folder that it lies in, from its "/" on; "" for that one itself and for any other.
+function placeIn(root, folder) {
+    const above = root === "/" ? "" : root;
+    return root !== undefined && root !== "" && folder.startsWith(above + "/") ? folder.slice(above.length) : "";
+}
+
+/**
+ * The folder that results of a picture go to; see the output settings of panes. Where subfolders are kept, the tree of the added folder
+ * that the picture was found in, photo.root, is built again.
+ */
+export function targetFolder(photo, output) {
+    const destination = output.destination;
     const source = splitPath(photo.path).folder;
     if (destination.kind === "folder") {
-        return destination.path;
+        const place = output.keepSubfolders ? placeIn(photo.root, source) : "";
+        return place === "" || place === "/" ? destination.path : joinPath(destination.path, place.slice(1));
     }
     return destination.kind === "beside" ? joinPath(source, destination.name) : source;
 }
@@ -124,7 +135,7 @@ function settleName(item, names, rule, context) {
 function itemFor(photo, planned, settings) {
     const item = {
         photo: photo, status: planned.status, reason: planned.reason || "", notes: planned.notes || [],
-        folder: targetFolder(photo, settings.output.destination), name: planned.name || "", path: "",
+        folder: targetFolder(photo, settings.output), name: planned.name || "", path: "",
         width: planned.width || 0, height: planned.height || 0,
         replaces: false, replaced: "", replacesOriginal: false, numbered: false, asks: false,
     };

@@ -34,7 +34,7 @@ export class WritePlan extends LivePlan {
     work(ids, settings) {
         const window = this.window;
         // The engine loses a generator that is returned by the call that makes it.
-        const planning = planRun(photosOf(window.pictures, ids), window.action.step, settings, window.services);
+        const planning = planRun(photosOf(window, ids), window.action.step, settings, window.services);
         return planning;
     }
 

@@ -63,7 +63,7 @@ export class WriteRun extends BaseRun {
         window.services.unitCache = emptyTable();
         this.simulated = this.settings.output.simulation;
         const services = Object.assign({}, window.services, { ask: askAboutName });
-        const work = planRun(photosOf(window.pictures, ids), window.action.step, this.settings, services);
+        const work = planRun(photosOf(window, ids), window.action.step, this.settings, services);
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
                        guard("run.planEnd", (how, value) => this.planEnded(how, value)));
         this.changed();

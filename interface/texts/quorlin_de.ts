@@ -1067,6 +1067,66 @@
         <source>Leaves out where the picture was taken: coordinates and names of places</source>
         <translation>Lässt weg, wo das Bild aufgenommen wurde: Koordinaten und Ortsnamen</translation>
     </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparenz</translation>
+    </message>
+    <message>
+        <source>Colour under transparent parts</source>
+        <translation>Farbe unter transparenten Teilen</translation>
+    </message>
+    <message>
+        <source>Colour under transparent parts, in file types that have none</source>
+        <translation>Farbe unter transparenten Teilen, in Dateitypen ohne Transparenz</translation>
+    </message>
+    <message>
+        <source>Folder name</source>
+        <translation>Ordnername</translation>
+    </message>
+    <message>
+        <source>Name of the folder beside the originals</source>
+        <translation>Name des Ordners neben den Originalen</translation>
+    </message>
+    <message>
+        <source>Keep subfolders</source>
+        <translation>Unterordner beibehalten</translation>
+    </message>
+    <message>
+        <source>Builds the folders again that lie below each added folder</source>
+        <translation>Legt die Ordner, die unter jedem hinzugefügten Ordner liegen, wieder an</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name of the results, without extension</source>
+        <translation>Name der Ergebnisse, ohne Endung</translation>
+    </message>
+    <message>
+        <source>Values such as {name}, {taken} and {counter:001} stand for what each picture has; {{ is a brace.</source>
+        <translation>Werte wie {name}, {taken} und {counter:001} stehen für das, was jedes Bild hat; {{ ist eine Klammer.</translation>
+    </message>
+    <message>
+        <source>Insert a value of the picture into the name</source>
+        <translation>Wert des Bilds in den Namen einfügen</translation>
+    </message>
+    <message>
+        <source>Keep the file’s date</source>
+        <translation>Datum der Datei beibehalten</translation>
+    </message>
+    <message>
+        <source>Results get the time of change of their pictures</source>
+        <translation>Ergebnisse erhalten die Änderungszeit ihrer Bilder</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Mehr …</translation>
+    </message>
+    <message>
+        <source>More or fewer settings of the results</source>
+        <translation>Mehr oder weniger Einstellungen der Ergebnisse</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -3887,6 +3947,14 @@
     <message>
         <source>Remove all</source>
         <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Weniger</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Mehr …</translation>
     </message>
 </context>
 <context>
@@ -7499,6 +7567,13 @@
     </message>
 </context>
 <context>
+    <name>token-menu</name>
+    <message>
+        <source>Search values</source>
+        <translation>Werte suchen</translation>
+    </message>
+</context>
+<context>
     <name>turn-action</name>
     <message>
         <source>Rotate &amp; Flip</source>
@@ -7700,10 +7775,6 @@
     <message>
         <source>Bottom right</source>
         <translation>Unten rechts</translation>
-    </message>
-    <message>
-        <source>Search values</source>
-        <translation>Werte suchen</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -8234,6 +8305,14 @@
     <message>
         <source>the result is %1 instead of %2</source>
         <translation>das Ergebnis ist %1 statt %2</translation>
+    </message>
+    <message>
+        <source>Enter a name for the results.</source>
+        <translation>Geben Sie einen Namen für die Ergebnisse ein.</translation>
+    </message>
+    <message>
+        <source>A name cannot have “/” in it.</source>
+        <translation>Ein Name darf kein „/“ enthalten.</translation>
     </message>
 </context>
 </TS>

@@ -1067,6 +1067,66 @@
         <source>Leaves out where the picture was taken: coordinates and names of places</source>
         <translation>Laisse de côté le lieu de prise de vue&#x202f;: coordonnées et noms de lieux</translation>
     </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparence</translation>
+    </message>
+    <message>
+        <source>Colour under transparent parts</source>
+        <translation>Couleur sous les parties transparentes</translation>
+    </message>
+    <message>
+        <source>Colour under transparent parts, in file types that have none</source>
+        <translation>Couleur sous les parties transparentes, dans les types de fichier sans transparence</translation>
+    </message>
+    <message>
+        <source>Folder name</source>
+        <translation>Nom du dossier</translation>
+    </message>
+    <message>
+        <source>Name of the folder beside the originals</source>
+        <translation>Nom du dossier à côté des originaux</translation>
+    </message>
+    <message>
+        <source>Keep subfolders</source>
+        <translation>Conserver les sous-dossiers</translation>
+    </message>
+    <message>
+        <source>Builds the folders again that lie below each added folder</source>
+        <translation>Recrée les dossiers qui se trouvent sous chaque dossier ajouté</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Name of the results, without extension</source>
+        <translation>Nom des résultats, sans extension</translation>
+    </message>
+    <message>
+        <source>Values such as {name}, {taken} and {counter:001} stand for what each picture has; {{ is a brace.</source>
+        <translation>Des variables comme {name}, {taken} et {counter:001} valent ce que contient chaque image ; {{ donne une accolade.</translation>
+    </message>
+    <message>
+        <source>Insert a value of the picture into the name</source>
+        <translation>Insérer une variable de l’image dans le nom</translation>
+    </message>
+    <message>
+        <source>Keep the file’s date</source>
+        <translation>Conserver la date du fichier</translation>
+    </message>
+    <message>
+        <source>Results get the time of change of their pictures</source>
+        <translation>Les résultats reçoivent la date de modification de leurs images</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Plus…</translation>
+    </message>
+    <message>
+        <source>More or fewer settings of the results</source>
+        <translation>Plus ou moins de réglages des résultats</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -3887,6 +3947,14 @@
     <message>
         <source>Remove all</source>
         <translation>Tout retirer</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Moins</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Plus…</translation>
     </message>
 </context>
 <context>
@@ -7499,6 +7567,13 @@
     </message>
 </context>
 <context>
+    <name>token-menu</name>
+    <message>
+        <source>Search values</source>
+        <translation>Chercher une valeur</translation>
+    </message>
+</context>
+<context>
     <name>turn-action</name>
     <message>
         <source>Rotate &amp; Flip</source>
@@ -7700,10 +7775,6 @@
     <message>
         <source>Bottom right</source>
         <translation>En bas à droite</translation>
-    </message>
-    <message>
-        <source>Search values</source>
-        <translation>Chercher une valeur</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -8234,6 +8305,14 @@
     <message>
         <source>the result is %1 instead of %2</source>
         <translation>le résultat fait %1 au lieu de %2</translation>
+    </message>
+    <message>
+        <source>Enter a name for the results.</source>
+        <translation>Saisissez un nom pour les résultats.</translation>
+    </message>
+    <message>
+        <source>A name cannot have “/” in it.</source>
+        <translation>Un nom ne peut pas contenir « / ».</translation>
     </message>
 </context>
 </TS>

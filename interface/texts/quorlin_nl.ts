@@ -1067,6 +1067,66 @@
         <source>Leaves out where the picture was taken: coordinates and names of places</source>
         <translation>Laat weg waar de foto is gemaakt: coördinaten en plaatsnamen</translation>
     </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparantie</translation>
+    </message>
+    <message>
+        <source>Colour under transparent parts</source>
+        <translation>Kleur onder doorzichtige delen</translation>
+    </message>
+    <message>
+        <source>Colour under transparent parts, in file types that have none</source>
+        <translation>Kleur onder doorzichtige delen, in bestandstypen zonder transparantie</translation>
+    </message>
+    <message>
+        <source>Folder name</source>
+        <translation>Mapnaam</translation>
+    </message>
+    <message>
+        <source>Name of the folder beside the originals</source>
+        <translation>Naam van de map naast de originelen</translation>
+    </message>
+    <message>
+        <source>Keep subfolders</source>
+        <translation>Submappen behouden</translation>
+    </message>
+    <message>
+        <source>Builds the folders again that lie below each added folder</source>
+        <translation>Maakt de mappen onder elke toegevoegde map opnieuw aan</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Name of the results, without extension</source>
+        <translation>Naam van de resultaten, zonder extensie</translation>
+    </message>
+    <message>
+        <source>Values such as {name}, {taken} and {counter:001} stand for what each picture has; {{ is a brace.</source>
+        <translation>Waarden als {name}, {taken} en {counter:001} staan voor wat elke foto heeft; {{ is een accolade.</translation>
+    </message>
+    <message>
+        <source>Insert a value of the picture into the name</source>
+        <translation>Waarde van de foto in de naam invoegen</translation>
+    </message>
+    <message>
+        <source>Keep the file’s date</source>
+        <translation>Datum van het bestand behouden</translation>
+    </message>
+    <message>
+        <source>Results get the time of change of their pictures</source>
+        <translation>Resultaten krijgen de wijzigingstijd van hun foto’s</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Meer…</translation>
+    </message>
+    <message>
+        <source>More or fewer settings of the results</source>
+        <translation>Meer of minder instellingen van de resultaten</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -3887,6 +3947,14 @@
     <message>
         <source>Remove all</source>
         <translation>Alles verwijderen</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Minder</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Meer…</translation>
     </message>
 </context>
 <context>
@@ -7499,6 +7567,13 @@
     </message>
 </context>
 <context>
+    <name>token-menu</name>
+    <message>
+        <source>Search values</source>
+        <translation>Waarden zoeken</translation>
+    </message>
+</context>
+<context>
     <name>turn-action</name>
     <message>
         <source>Rotate &amp; Flip</source>
@@ -7700,10 +7775,6 @@
     <message>
         <source>Bottom right</source>
         <translation>Rechtsonder</translation>
-    </message>
-    <message>
-        <source>Search values</source>
-        <translation>Waarden zoeken</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -8234,6 +8305,14 @@
     <message>
         <source>the result is %1 instead of %2</source>
         <translation>het resultaat is %1 in plaats van %2</translation>
+    </message>
+    <message>
+        <source>Enter a name for the results.</source>
+        <translation>Voer een naam voor de resultaten in.</translation>
+    </message>
+    <message>
+        <source>A name cannot have “/” in it.</source>
+        <translation>Een naam mag geen “/” bevatten.</translation>
     </message>
 </context>
 </TS>

@@ -193,6 +193,23 @@ void addMetadata(QJsonObject &output, const QJsonObject &settings)
         output.insert(text("location"), false);
 }
 
+/** What results are called, where they lie and what stands there already. */
+void addPlace(QJsonObject &output, const QJsonObject &settings)
+{
+    const QString pattern = settings.value(text("namePattern")).toString();
+    if (!pattern.isEmpty() && pattern != text("{name}"))
+        output.insert(text("name"), pattern);
+    const QJsonObject destination = settings.value(text("destination")).toObject();
+    const QString kind = destination.value(text("kind")).toString();
+    if (kind == text("beside"))
+        output.insert(text("folder"), plainPattern(destination.value(text("name")).toString()));
+    else if (kind == text("folder") && !settings.value(text("keepSubfolders")).toBool())
+        output.insert(text("folder"), plainPattern(destination.value(text("path")).toString()));
+    const QString ifTaken = settings.value(text("ifTaken")).toString();
+    if (ifTaken == text("replace") || ifTaken == text("skip"))
+        output.insert(text("ifTaken"), ifTaken);
+}
+
 QJsonObject outputFor(const Preset &preset)
 {
     constexpr int perCode = 10;
@@ -209,19 +226,24 @@ QJsonObject outputFor(const Preset &preset)
     if (const int quality = code.toInt(); quality > 0 && hasQuality)
         output.insert(text("quality"), quality * perCode);
     addMetadata(output, own);
-    const QJsonObject destination = own.value(text("destination")).toObject();
-    const QString kind = destination.value(text("kind")).toString();
-    if (kind == text("beside"))
-        output.insert(text("folder"), plainPattern(destination.value(text("name")).toString()));
-    else if (kind == text("folder"))
-        output.insert(text("folder"), plainPattern(destination.value(text("path")).toString()));
-    const QString ifTaken = own.value(text("ifTaken")).toString();
-    if (ifTaken == text("replace") || ifTaken == text("skip"))
-        output.insert(text("ifTaken"), ifTaken);
+    addPlace(output, own);
+    if (const QString matte = own.value(text("matte")).toString(); !matte.isEmpty() && matte != text("#ffffff"))
+        output.insert(text("matte"), matte);
+    if (own.value(text("dates")).toString() == text("keep"))
+        output.insert(text("dates"), text("keep"));
     return output;
 }
 
 } // namespace
+
+Destination destinationOf(const Preset &preset)
+{
+    const QJsonObject output = preset.settings.value(text("output")).toObject();
+    const QJsonObject destination = output.value(text("destination")).toObject();
+    if (destination.value(text("kind")).toString() != text("folder") || !output.value(text("keepSubfolders")).toBool())
+        return {};
+    return {destination.value(text("path")).toString(), true};
+}
 
 Result<QJsonObject> recipeObjectOf(const Preset &preset)
 {

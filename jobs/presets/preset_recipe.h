@@ -1,5 +1,6 @@
 #pragma once
 
+#include "jobs/names.h"
 #include "jobs/presets/preset_settings.h"
 #include "platform/foundation/result.h"
 
@@ -13,6 +14,12 @@ platform::Result<QByteArray> recipeOf(const Preset &preset);
 
 /** The same as the object that the file holds. */
 platform::Result<QJsonObject> recipeObjectOf(const Preset &preset);
+
+/**
+ * Where the results of a preset go that keeps subfolders: below its folder, in the tree of the folder that each picture was found in. A
+ * recipe cannot say so. Nowhere in particular for any other preset, whose recipe has the folder.
+ */
+Destination destinationOf(const Preset &preset);
 
 /** All presets: those that come with the program, and those in the user's database, which count where both have a name. */
 QList<Preset> allPresets();

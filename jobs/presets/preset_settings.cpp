@@ -33,7 +33,9 @@ const std::vector<Column> &outputColumns()
         {4, "output.fileType", Kind::Text},         {5, "output.quality", Kind::Text},
         {6, "output.destination.kind", Kind::Text}, {7, "output.destination.name", Kind::Text},
         {8, "output.destination.path", Kind::Text}, {9, "output.ifTaken", Kind::Text},
-        {10, "output.metadata", Kind::Word},        {41, "output.removeLocation", Kind::Flag}};
+        {10, "output.metadata", Kind::Word},        {40, "output.keepSubfolders", Kind::Flag},
+        {41, "output.removeLocation", Kind::Flag},  {59, "output.dates", Kind::Word},
+        {60, "output.matte", Kind::Color},          {61, "output.namePattern", Kind::Word}};
     return columns;
 }
 

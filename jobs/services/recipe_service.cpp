@@ -8,6 +8,8 @@
 #include "jobs/presets/preset_recipe.h"
 #include "platform/effects/lettering.h"
 #include "platform/file/atomic_file.h"
+#include "platform/foundation/file_names.h"
+#include "text/tokens.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -111,6 +113,15 @@ QVariantMap RecipeService::planOutput(const QString &path, const QVariantMap &re
     else
         plan.problem = task.error().message;
     return answerOf(plan);
+}
+
+QString RecipeService::nameFor(const QString &path, const QString &pattern, int index, int width, int height,
+                               const QString &extension) const
+{
+    const bool isNeeded = text::needsFacts(text::tokenParts(pattern));
+    const text::TokenFacts facts = isNeeded ? factsOfPicture(path, index) : factsOfFile(path, index, false);
+    const qsizetype most = platform::longestNameBytes - extension.toUtf8().size();
+    return platform::shortened(nameFrom(pattern, facts, {width, height}), most) + extension;
 }
 
 QVariantMap RecipeService::make(const QString &path, const QVariantMap &recipe, const QString &target) const

@@ -45,6 +45,16 @@ public:
     Q_INVOKABLE QVariantMap planOutput(const QString &path, const QVariantMap &recipe) const;
 
     /**
+     * The name of a result with its @p extension (".jpg"), as jobs::nameFrom() makes it of a pattern; one that is too long loses the
+     * end of what stands before the extension.
+     *
+     * @param index  how many pictures came before this one, for {counter}
+     * @param width, height  pixels of the upright result
+     */
+    Q_INVOKABLE QString nameFor(const QString &path, const QString &pattern, int index, int width, int height,
+                                const QString &extension) const;
+
+    /**
      * Makes it and writes it as the file @p target, whatever the recipe says of names, folders and taken names; what stands there is
      * replaced. Atomic: the file is there whole, or as it was. {counter} in a watermark is its first number.
      *

@@ -234,6 +234,7 @@ export function recipeServices(plan, made) {
             return Object.assign({ problem: "", isNotSupported: false, type: "jpeg", width: 400, height: 300,
                                    extension: ".jpg", lossless: false, losses: [] }, plan || {});
         },
+        nameFor: (path, pattern, ...others) => pattern + " of " + [path].concat(others).join(" "),
         make: (path, recipe, target) => {
             services.made.push([path, recipe, target]);
             services.files.sizes = {};

@@ -130,6 +130,16 @@ void watchFolders(Request &request, const CommandLine &line)
         request.problem = watch.error().message;
 }
 
+/** A preset may keep the tree by itself, below a folder of its own unless another one is named. */
+jobs::Destination destinationFor(const CommandLine &line)
+{
+    const auto preset = line.preset.isEmpty() ? std::nullopt : jobs::presetNamed(line.preset);
+    jobs::Destination destination = preset ? jobs::destinationOf(*preset) : jobs::Destination();
+    if (!line.to.isEmpty())
+        destination = {platform::absolutePath(line.to), line.keepsTree || destination.keepsTree};
+    return destination;
+}
+
 } // namespace
 
 Request requestFrom(const CommandLine &line)
@@ -150,8 +160,7 @@ Request requestFrom(const CommandLine &line)
         request.problem = QStringLiteral("%1 is read, so it cannot be the report").arg(line.report);
         return request;
     }
-    if (!line.to.isEmpty())
-        request.options.destination = {platform::absolutePath(line.to), line.keepsTree};
+    request.options.destination = destinationFor(line);
     request.options.isDryRun = line.isDryRun;
     request.options.shard = line.shard;
     request.options.shards = line.shards;

@@ -64,8 +64,9 @@ export function plan(photo, settings, services) {
     if (settings.frame === "band" && 2 * settings.bandWidth >= Math.min(photo.width, photo.height)) {
         return { status: "Failed", reason: qsTr("the band would cover all of it") };
     }
-    const planned = planBy(photo, settings, () => services.recipes.planOutput(photo.path, recipe(settings)),
-                           () => maskName(photo.path, settings.output.fileType));
+    const planned = planBy(photo, settings, services,
+                           () => services.recipes.planOutput(photo.path, recipe(settings)),
+                           maskName(photo.path, settings.output.fileType));
     if (planned.status === "ready" && settings.frame === "none" && !mayBeTransparent(photo)) {
         const note = fill(qsTr("A %1 picture has no transparent parts: it stays as it looks."), photo.type);
         planned.notes = [note].concat(planned.notes);

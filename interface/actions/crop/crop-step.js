@@ -91,7 +91,7 @@ export function plan(photo, settings, services) {
     if (inside === null) {
         return { status: "Failed", reason: qsTr("the frame lies outside the picture") };
     }
-    const planned = planBy(photo, settings,
+    const planned = planBy(photo, settings, services,
                            () => services.recipes.planOutput(photo.path, recipe(photo, settings, services)));
     if (planned.status === "ready" && (inside.width < frame.width || inside.height < frame.height)) {
         planned.notes = [qsTr("Cut off at the picture’s edge.")].concat(planned.notes);

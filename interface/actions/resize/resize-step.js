@@ -74,7 +74,7 @@ export function recipe(settings) {
  * with its reason.
  */
 export function plan(photo, settings, services) {
-    return planBy(photo, settings, () => services.recipes.planOutput(photo.path, recipe(settings)));
+    return planBy(photo, settings, services, () => services.recipes.planOutput(photo.path, recipe(settings)));
 }
 
 /**

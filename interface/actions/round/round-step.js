@@ -59,8 +59,9 @@ export function plan(photo, settings, services) {
     if (settings.background && 2 * settings.band >= Math.min(photo.width, photo.height)) {
         return { status: "Failed", reason: qsTr("the band would cover all of it") };
     }
-    const planned = planBy(photo, settings, () => services.recipes.planOutput(photo.path, recipe(settings)),
-                           () => maskName(photo.path, settings.output.fileType));
+    const planned = planBy(photo, settings, services,
+                           () => services.recipes.planOutput(photo.path, recipe(settings)),
+                           maskName(photo.path, settings.output.fileType));
     if (planned.status === "ready" && settings.shape === "circle" && photo.width !== photo.height) {
         planned.notes = [qsTr("The circle is cut from the square in the middle.")].concat(planned.notes);
     }

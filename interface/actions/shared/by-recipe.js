@@ -1,5 +1,5 @@
 // What the steps have in common that are carried out as a recipe: plan, preview and result come of the same one.
-// Services used: recipes (recipeFor, planOutput, make), files (storedSize). Plain data in, plain data out.
+// Services used: recipes (recipeFor, planOutput, nameFor, make), files (storedSize). Plain data in, plain data out.
 
 import { recipes } from "quorlin/recipes";
 import { splitPath } from "../../lib/names.js";
@@ -7,11 +7,14 @@ import { madeType, madeTypeNamed } from "../../lib/types.js";
 import { outcome, ready, refused, targetOf } from "./written.js";
 
 const WHITE = "#ffffff";
+// The pattern of names that leaves them as they are.
+const OWN_NAME = "{name}";
 
 /** The output settings of a new pane; name is that of the folder beside the originals. */
 export function usualOutput(fileType, quality, name) {
-    return { fileType: fileType, quality: quality, metadata: "keep", removeLocation: false,
-             destination: { kind: "beside", name: name, path: "" }, ifTaken: "number", simulation: false };
+    return { fileType: fileType, quality: quality, matte: WHITE, metadata: "keep", removeLocation: false,
+             destination: { kind: "beside", name: name, path: "" }, keepSubfolders: false, namePattern: OWN_NAME,
+             dates: "now", ifTaken: "number", simulation: false };
 }
 
 /** What of the settings says what a picture becomes; where it lies is another matter. */
@@ -26,11 +29,24 @@ export function recipeOf(process, settings) {
              }) };
 }
 
+// ownName: what the result is called where the pattern asks for nothing else.
+function nameOf(photo, pattern, told, ownName, services) {
+    if (pattern === OWN_NAME) {
+        return ownName;
+    }
+    const extension = splitPath(ownName).extension;
+    return services.recipes.nameFor(photo.path, pattern, photo.index || 0, told.width, told.height,
+                                    extension === "" ? "" : "." + extension);
+}
+
 /**
  * What a run would write for one picture, or a final status with its reason. With a ready plan: lossless, no pixel is encoded again;
- * losses, sentences on what this picture has and its result will not have. nameFor(extension) gives the name of the result.
+ * losses, sentences on what this picture has and its result will not have.
+ *
+ * @param answer   what the recipe service plans; a function, so that it is asked only where something can be made
+ * @param ownName  the name of the result, where that is not the picture's own with the usual extension of its type
  */
-export function planBy(photo, settings, answer, nameFor) {
+export function planBy(photo, settings, services, answer, ownName) {
     const target = targetOf(photo, settings.output.fileType);
     if (target.refusal !== null) {
         return target.refusal;
@@ -41,7 +57,8 @@ export function planBy(photo, settings, answer, nameFor) {
                  reason: told.isNotSupported ? qsTr("this type cannot be written, choose another file type")
                                              : told.problem };
     }
-    const name = nameFor === undefined ? splitPath(photo.path).base + told.extension : nameFor(told.extension);
+    const usual = ownName === undefined ? splitPath(photo.path).base + told.extension : ownName;
+    const name = nameOf(photo, settings.output.namePattern, told, usual, services);
     return Object.assign(ready(name, madeTypeNamed(told.type), told, told.losses),
                          { lossless: told.lossless, losses: told.losses });
 }
@@ -65,6 +82,7 @@ export function makeBy(photo, settings, recipe, planned, services) {
 export function showBy(photo, recipe, planned, quality) {
     /** @type {any[]} */
     const deeds = [{ do: "recipe", operations: recipe.operations, path: photo.path }];
-    return { deeds: madeType(planned.type).alpha ? deeds : deeds.concat([{ do: "lay", color: WHITE }]),
+    const matte = recipe.outputs[0].matte || WHITE;
+    return { deeds: madeType(planned.type).alpha ? deeds : deeds.concat([{ do: "lay", color: matte }]),
              width: planned.width, height: planned.height, type: planned.type, quality: quality };
 }

@@ -1,5 +1,5 @@
-// Where results go and what they are: file type, quality, folder, taken names, simulation. Every action that writes pictures
-// has this block.
+// Where results go and what they are: file type, quality, metadata, folder, name, date, taken names, simulation. Every action that
+// writes pictures has this block. What is seldom changed is shown on demand, and by itself where it is not as usual.
 
 import { shell } from "quorlin/shell";
 import { files } from "quorlin/files";
@@ -7,12 +7,18 @@ import { guard } from "../../lib/guard.js";
 import { withNewest } from "../../lib/store.js";
 import { METADATA, ORIGINAL, QUALITIES, writtenType } from "../../lib/types.js";
 import { fill, shortPath } from "../../lib/wording.js";
+import { insertAtCursor, joinTokens } from "./token-menu.js";
 
 const KEPT_FOLDERS = 5;
 const FOLDER = "folder:";
 // Controls that are named as their setting is.
 const CHOICES = ["fileType", "quality", "metadata", "ifTaken"];
-const CHECKS = ["removeLocation", "simulation"];
+const CHECKS = ["removeLocation", "keepSubfolders", "simulation"];
+// What is shown on demand, by setting: {setting: [value as usual, controls]}.
+const RARE = {
+    matte: ["#ffffff", ["matteLabel", "matteHost"]], namePattern: ["{name}", ["namePatternLabel", "namePatternHost"]],
+    dates: ["now", ["keepDates"]],
+};
 
 /** The block. `recent` is the list of folders that were saved to; changed() is called after each change. */
 export class OutputPane {
@@ -21,6 +27,7 @@ export class OutputPane {
         this.changed = changed;
         this.output = null;
         this.offer = null;
+        this.showsMore = false;
         this.form = shell.loadForm("actions/shared/output-pane.ui");
         this.form.setItems("quality", QUALITIES, QUALITIES);
         this.form.setItems("metadata", [qsTr("Keep all"), qsTr("Keep copyright only"), qsTr("Remove all")], METADATA);
@@ -38,6 +45,10 @@ export class OutputPane {
                            [ORIGINAL].concat(offer.types));
         CHOICES.forEach((name) => this.form.chooseValue(name, output[name]));
         CHECKS.forEach((name) => { this.form.control(name).checked = output[name]; });
+        this.form.control("keepDates").checked = output.dates === "keep";
+        this.form.control("matte").color = output.matte;
+        this.form.control("namePattern").text = output.namePattern;
+        this.form.control("folderName").text = output.destination.name;
         this.output = output;
         this.showDestinations();
         this.showType();
@@ -54,12 +65,41 @@ export class OutputPane {
         this.form.control("destination").activated.connect(guard("output.destination", () => this.destinationChosen()));
         for (const name of CHECKS) {
             const box = this.form.control(name);
-            box.toggled.connect(guard("output." + name, () => {
-                if (this.output !== null) {
-                    this.output[name] = box.checked;
-                    this.changed();
-                }
-            }));
+            box.toggled.connect(guard("output." + name, () => this.set(name, box.checked)));
+        }
+        this.connectRare();
+        const folder = this.form.control("folderName");
+        folder.textChanged.connect(guard("output.folderName", () => this.nameFolder(folder.text)));
+    }
+
+    connectRare() {
+        const control = (name) => this.form.control(name);
+        const dates = control("keepDates");
+        dates.toggled.connect(guard("output.dates", () => this.set("dates", dates.checked ? "keep" : "now")));
+        control("matte").chosen.connect(guard("output.matte", (color) => this.set("matte", color)));
+        const name = control("namePattern");
+        name.textChanged.connect(guard("output.namePattern", () => this.set("namePattern", name.text)));
+        joinTokens(this.form, { menu: "nameTokenMenu", button: "nameTokens" }, () => true,
+                   (value) => insertAtCursor(name, value));
+        control("outputMore").clicked.connect(guard("output.more", () => {
+            this.showsMore = !this.showsMore;
+            this.showType();
+        }));
+    }
+
+    // While the controls are filled there is no output that they could change.
+    set(name, value) {
+        if (this.output !== null && this.output[name] !== value) {
+            this.output[name] = value;
+            this.changed();
+        }
+    }
+
+    nameFolder(name) {
+        if (this.output !== null && this.output.destination.name !== name) {
+            this.output.destination.name = name;
+            this.showDestinations();
+            this.changed();
         }
     }
 
@@ -74,6 +114,10 @@ export class OutputPane {
         this.form.setItems("destination", texts.concat(["-", qsTr("Choose Folder…")]), values.concat(["-", "choose"]));
         this.form.chooseValue("destination", chosen.kind === "folder" ? FOLDER + chosen.path : chosen.kind);
         this.form.control("destination").toolTip = chosen.kind === "folder" ? chosen.path : "";
+        ["folderNameLabel", "folderName"].forEach((name) => {
+            this.form.control(name).visible = chosen.kind === "beside";
+        });
+        this.form.control("keepSubfolders").visible = chosen.kind === "folder";
     }
 
     destinationChosen() {
@@ -116,8 +160,23 @@ export class OutputPane {
         for (const name of ["metadataLabel", "metadata"]) {
             this.form.control(name).visible = this.offer.byRecipe === true;
         }
+        this.showRare(type);
         this.form.control("removeLocation").visible = this.offer.byRecipe === true && this.output.metadata !== "none";
         this.form.control("quality").enabled = hasQuality;
         this.form.control("qualityLabel").enabled = hasQuality;
+    }
+
+    // A type that holds transparency needs no colour for it.
+    showRare(type) {
+        const isUsed = (setting) => setting !== "matte" || type === null || !type.alpha;
+        for (const setting of Object.keys(RARE)) {
+            const [usual, names] = RARE[setting];
+            const isShown = this.showsMore || this.output[setting] !== usual;
+            names.forEach((name) => {
+                this.form.control(name).visible = this.offer.byRecipe === true && isShown && isUsed(setting);
+            });
+        }
+        this.form.control("outputMoreHost").visible = this.offer.byRecipe === true;
+        this.form.control("outputMore").text = this.showsMore ? qsTr("Less") : qsTr("More…");
     }
 }

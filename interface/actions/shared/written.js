@@ -1,20 +1,32 @@
 // What the steps that write pictures have in common: what cannot be written, and a look at the file that came out.
-// Services used: files (storedSize).
+// Services used: files (storedSize), tokens.
 
+import { tokens } from "quorlin/tokens";
 import { splitPath } from "../../lib/names.js";
 import { isSound } from "../../runs/plan.js";
 import { fill } from "../../lib/wording.js";
 import { ORIGINAL, resultType, typeOfExtension, writtenType } from "../../lib/types.js";
 
-/** Messages on output settings that no run can start with. */
-export function outputMessages(output) {
-    const destination = output.destination;
+function nameMessages(pattern) {
+    if (pattern.trim() === "") {
+        return [qsTr("Enter a name for the results.")];
+    }
+    const isInOneFolder = tokens.parts(pattern).every((part) => part.text === undefined || part.text.indexOf("/") < 0);
+    return tokens.problems(pattern).concat(isInOneFolder ? [] : [qsTr("A name cannot have “/” in it.")]);
+}
+
+function folderMessages(destination) {
     if (isSound(destination)) {
         return [];
     }
     return destination.kind === "folder"
         ? [qsTr("Choose a folder to save to.")]
         : [fill(qsTr("“%1” is no name for a folder beside the originals."), destination.name)];
+}
+
+/** Messages on output settings that no run can start with. */
+export function outputMessages(output) {
+    return folderMessages(output.destination).concat(nameMessages(output.namePattern));
 }
 
 /**

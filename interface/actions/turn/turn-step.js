@@ -59,8 +59,9 @@ export function plan(photo, settings, services) {
         const word = photo.type || splitPath(photo.path).extension.toUpperCase();
         return { status: "Not Supported", reason: fill(qsTr("%1 cannot be written; convert it first"), word) };
     }
-    const planned = planBy(photo, settings, () => services.recipes.planOutput(photo.path, recipe(settings)),
-                           () => splitPath(photo.path).name);
+    const planned = planBy(photo, settings, services,
+                           () => services.recipes.planOutput(photo.path, recipe(settings)),
+                           splitPath(photo.path).name);
     if (planned.status === "ready") {
         planned.notes = notesFor(settings, planned).concat(planned.notes);
     }

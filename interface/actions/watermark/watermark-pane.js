@@ -4,12 +4,12 @@ import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { recipes } from "quorlin/recipes";
 import { shell } from "quorlin/shell";
-import { tokens } from "quorlin/tokens";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { PICTURE_INPUT } from "../../lib/types.js";
 import * as watermark from "./watermark-step.js";
 import { Pane } from "../shared/pane.js";
+import { joinTokens } from "../shared/token-menu.js";
 
 const CHOOSE = "choose";
 const NUMBERS = { markSize: "size", markPictureSize: "pictureSize", markMargin: "margin", markAngle: "angle",
@@ -19,16 +19,6 @@ const NUMBERS = { markSize: "size", markPictureSize: "pictureSize", markMargin: 
 function foundPictures() {
     const folder = defaults.get("WatermarksDestination");
     return typeof folder === "string" && folder !== "" ? files.collect([folder], PICTURE_INPUT, [], []).paths : [];
-}
-
-// What can stand in a watermark: everything but a number that counts.
-function offeredTokens() {
-    const offered = [];
-    tokens.offered().filter((token) => token.name !== "counter").forEach((token) => token.forms.forEach((form) => {
-        offered.push({ title: token.words + (form === "" ? "" : "  " + form),
-                       text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
-    }));
-    return offered;
 }
 
 export class WatermarkPane extends Pane {
@@ -53,21 +43,9 @@ export class WatermarkPane extends Pane {
         const text = control("markText");
         text.textChanged.connect(guard("markText", () => this.set("text", text.plainText)));
         control("markPicture").activated.connect(guard("markPicture", () => this.pictureChosen()));
-        this.joinTokens();
-    }
-
-    joinTokens() {
-        const menu = this.form.control("markTokenMenu");
-        const button = this.form.control("markTokens");
-        const offered = offeredTokens();
-        menu.setPlaceholder(qsTr("Search values"));
-        menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text),
-                        offered.map((each) => each.example), offered.map((each) => each.text));
-        menu.chosen.connect(guard("markTokenMenu", (text) => {
-            this.form.control("markText").insertPlainText(text);
-            this.form.control("markText").setFocus();
-        }));
-        button.clicked.connect(guard("markTokens", () => menu.popUp(button)));
+        // Everything but a number that counts.
+        joinTokens(this.form, { menu: "markTokenMenu", button: "markTokens" }, (token) => token.name !== "counter",
+                   (value) => { text.insertPlainText(value); text.setFocus(); });
     }
 
     // A font that is not there stays chosen, so that the message about it can be understood.

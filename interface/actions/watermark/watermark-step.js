@@ -103,7 +103,7 @@ function answerFor(photo, settings, services) {
 
 /** What a run would write for one picture, or a final status with its reason. */
 export function plan(photo, settings, services) {
-    return planBy(photo, settings, () => answerFor(photo, settings, services));
+    return planBy(photo, settings, services, () => answerFor(photo, settings, services));
 }
 
 /** Writes the picture as settings.prefix + name, where plan() tells the name; see the Resize step. */

@@ -58,6 +58,7 @@ export class Input {
         this.hasAdded = this.recent.length > 0 || recall(defaults, HAS_ADDED, { on: false }).on;
         this.hidden = null;
         this.convertible = false;
+        this.roots = [];
         this.joinList();
         this.showRecent();
     }
@@ -161,12 +162,27 @@ export class Input {
                                           example: found.example || (left === undefined ? "" : splitPath(left).name) });
     }
 
+    /** The outermost of the added folders that a file lies in; "" for none. */
+    rootOf(path) {
+        const around = this.roots.filter((root) => path.startsWith(root.endsWith("/") ? root : root + "/"));
+        return around.reduce((outer, root) => (outer === "" || root.length < outer.length ? root : outer), "");
+    }
+
+    noteRoots(folders) {
+        const list = this.window.pictures;
+        if (list.count + list.hiddenCount() === 0) {
+            this.roots = [];
+        }
+        this.roots = this.roots.concat(folders.filter((folder) => this.roots.indexOf(folder) < 0));
+    }
+
     /** Files and folders, as they were dropped, pasted or named at start-up. */
     addPaths(paths) {
         const kind = this.window.action.lists(this.window.settings);
         const found = kind === "folders"
             ? foldersAmong(paths)
             : files.collect(paths, this.takes(), SIDECARS, kind === "pictures" ? PHOTO_INPUT : []);
+        this.noteRoots(found.folders);
         for (const folder of found.folders) {
             this.rememberFolder(folder);
         }

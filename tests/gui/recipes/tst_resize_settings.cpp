@@ -6,15 +6,10 @@
 #include "app/window/controls/segmented_control.h"
 #include "platform/imageio/source/image_source.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QImage>
-#include <QMenu>
-#include <QPushButton>
 #include <QTest>
-
-#include <algorithm>
 
 using window::PictureModel;
 
@@ -140,11 +135,7 @@ private Q_SLOTS:
         m_driver->choose("unit", QStringLiteral("cm"));
         m_driver->choose("resolution", QStringLiteral("typed"));
         setNumber(*m_driver, "dpi", 240);
-        const QList<QAction *> entries = m_driver->control<QPushButton>("presetMenu")->menu()->actions();
-        const auto save = std::find_if(entries.begin(), entries.end(),
-                                       [](const QAction *entry) { return entry->text() == QLatin1String("Save"); });
-        QVERIFY(save != entries.end());
-        (*save)->trigger();
+        m_driver->choosePresetEntry("Save");
         m_driver->choose("preset", QStringLiteral("=Mail 1024"));
         QVERIFY(!m_driver->control<QComboBox>("boxFit")->isVisible());
         m_driver->choose("preset", QStringLiteral("=Web 1600"));

@@ -8,13 +8,16 @@
 #include "tests/support/own_settings.h"
 #include "tests/support/pinned_world.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QFontInfo>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -117,6 +120,15 @@ void WindowDriver::choose(const char *box, const QString &value)
         qFatal("the box %s has no entry %s", box, qPrintable(value));
     found->setCurrentIndex(index);
     Q_EMIT found->activated(index);
+}
+
+void WindowDriver::choosePresetEntry(const char *text)
+{
+    const QList<QAction *> entries = control<QPushButton>("presetMenu")->menu()->actions();
+    for (QAction *entry : entries)
+        if (entry->text() == QString::fromUtf8(text) && entry->isEnabled())
+            return entry->trigger();
+    qFatal("no entry %s can be chosen", text);
 }
 
 QString WindowDriver::cell(int row, int column)

@@ -56,6 +56,8 @@ public:
     void trigger(const char *action);
     /** Chooses an entry of a combo box by the value behind it, as a person would. */
     void choose(const char *box, const QString &value);
+    /** Triggers an entry of the menu beside the presets. */
+    void choosePresetEntry(const char *text);
     QString text(const char *label) { return control<QLabel>(label)->text(); }
     /** The cell of the list in row @p row, in the order of adding. */
     QString cell(int row, int column);

@@ -48,6 +48,21 @@ test("asksForTheOutputOfTheOutputBlock", () => {
           [{ metadata: "none", type: "tiff" }]);
 });
 
+test("asksForNameDateAndColourWhereTheyAreNotAsUsual", () => {
+    const output = (changes) => recipe({}, Object.assign({ fileType: "public.tiff" }, changes)).outputs[0];
+    equal(output({ namePattern: "{name}-{counter:01}" }), { name: "{name}-{counter:01}", type: "tiff" });
+    equal(output({ dates: "keep" }), { dates: "keep", type: "tiff" });
+    equal(output({ matte: "#102030" }), { matte: "#102030", type: "tiff" });
+    // Where results lie is another matter.
+    equal(output({ keepSubfolders: true, destination: { kind: "folder", name: "", path: "/out" } }), { type: "tiff" });
+});
+
+test("namesResultsByThePattern", () => {
+    const planned = resize.plan(Object.assign({ index: 4 }, lake), settings({}, { namePattern: "{name}-web" }),
+                                recipeServices());
+    equal(planned.name, "{name}-web of /p/lake.JPG 4 400 300 .jpg");
+});
+
 test("plansNameTypeSizeAndLosses", () => {
     const services = recipeServices({ width: 160, height: 120, losses: ["No maker notes"] });
     const planned = resize.plan(lake, settings({}), services);
@@ -115,6 +130,9 @@ test("showsWhatIsMade", () => {
     const deed = { do: "recipe", operations: recipe({}).operations, path: "/p/lake.JPG" };
     equal(shown("public.png").deeds, [deed]);
     equal(shown("public.jpeg").deeds, [deed, { do: "lay", color: "#ffffff" }]);
+    const onBlue = resize.preview(lake, settings({}, { matte: "#0000ff" }),
+                                  { width: 4, height: 3, type: "public.jpeg" });
+    equal(onBlue.deeds[1], { do: "lay", color: "#0000ff" });
     equal([shown("public.jpeg").width, shown("public.jpeg").height, shown("public.jpeg").quality], [400, 300, "8"]);
 });
 

@@ -1,6 +1,6 @@
 // Makes pictures by settings that no supplied preset has, as the window does, and prints their presets:
-//     quorlin-script make-by-presets.js PICTURE...
-// Results lie in a folder beside each picture, which is named after the preset.
+//     quorlin-script make-by-presets.js FOLDER PICTURE...
+// Results lie in a folder beside each picture, which is named after the preset; those of the preset "Tree" in the folder FOLDER-tree.
 
 import { files } from "quorlin/files";
 import { copyOf } from "../../../interface/lib/copies.js";
@@ -14,7 +14,12 @@ function box(fit, changes) {
     return Object.assign({ mode: "box", boxWidth: 60, boxHeight: 40, boxFit: fit }, changes || {});
 }
 
+const [FOLDER] = scriptArguments;
+const PATHS = scriptArguments.slice(1);
+
 const CASES = [
+    ["resize", "Tree", { longest: 30 },
+     { destination: { kind: "folder", name: "", path: FOLDER + "-tree" }, keepSubfolders: true }],
     ["resize", "Fit", box("inside")],
     ["resize", "Fit, enlarged", box("inside", { boxWidth: 400, boxHeight: 100, neverEnlarge: false })],
     ["resize", "Fill", box("fill")],
@@ -22,6 +27,9 @@ const CASES = [
     ["resize", "Pad", box("pad", { padColor: "#306090" })],
     ["resize", "Print", box("pad", { boxWidth: 2, boxHeight: 1.5, unit: "cm", dpi: 300 })],
     ["resize", "Own resolution", { mode: "width", width: 5, unit: "mm", dpi: 0 }],
+    ["resize", "Named", { longest: 30 }, { namePattern: "{name}-{counter:01} {taken:MMM} {width}" }],
+    ["turn", "Turned", { angle: 90 }, { namePattern: "{name} {height}" }],
+    ["resize", "Matte", { longest: 30 }, { fileType: "public.jpeg", matte: "#a02040", dates: "keep" }],
 ];
 
 function end(generator) {
@@ -34,14 +42,14 @@ function end(generator) {
 
 function settingsOf(kind, name, changes, output) {
     const settings = Object.assign(copyOf(kind.standard), changes);
-    Object.assign(settings.output, output || {});
     settings.output.destination.name = name;
+    Object.assign(settings.output, output || {});
     return settings;
 }
 
 const services = makeServices();
-const photos = scriptArguments.map((path) => files.picture(path));
-const input = { count: photos.length, at: (i) => photos[i], paths: scriptArguments };
+const photos = PATHS.map((path, i) => Object.assign(files.picture(path), { index: i, root: FOLDER }));
+const input = { count: photos.length, at: (i) => photos[i], paths: PATHS };
 const rows = [];
 for (const [action, name, changes, output] of CASES) {
     const kind = KINDS[action];

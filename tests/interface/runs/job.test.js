@@ -42,6 +42,20 @@ test("bringsEveryResultIntoItsPlace", () => {
     equal([files.entries["/out/a.jpg"], files.stagings], [5, []]);
 });
 
+test("takesEveryFolderAwayThatItMadeForNothing", () => {
+    const files = new FakeFiles({ "/out": "folder" });
+    files.makeFolder = (folder) => {
+        for (let each = folder; files.entries[each] === undefined; each = each.slice(0, each.lastIndexOf("/"))) {
+            files.entries[each] = "folder";
+        }
+        return "";
+    };
+    run([item("bad.jpg", { folder: "/out/x/y" }), item("bad2.jpg", { folder: "/out/x/z" })], files);
+    equal(Object.keys(files.entries), ["/out"]);
+    run([item("bad.jpg", { folder: "/out/x/y" }), item("a.jpg", { folder: "/out/x/z" })], files);
+    equal(Object.keys(files.entries).sort(), ["/out", "/out/x", "/out/x/z", "/out/x/z/a.jpg"]);
+});
+
 test("goesOnAfterAFailure", () => {
     const results = run([item("bad.jpg"), item("throws.jpg"), item("c.jpg")], new FakeFiles({})).result;
     equal(results.map((result) => result.status), ["Failed", "Failed", "OK"]);

@@ -36,11 +36,27 @@ function names(planned) {
 }
 
 const big = (path) => photo(path, 4000, 3000);
+const messagesOn = (changes) => outputMessages(Object.assign(copyOf(resize.defaults.output), changes));
 const SOURCE = { kind: "source", name: "", path: "" };
 
 test("writesBesideTheOriginalIntoAFolderOfThatName", () => {
-    equal(targetFolder(big("/p/a.jpg"), { kind: "beside", name: "Resized", path: "" }), "/p/Resized");
+    const output = { destination: { kind: "beside", name: "Resized", path: "" }, keepSubfolders: true };
+    equal(targetFolder(big("/p/a.jpg"), output), "/p/Resized");
 });
+
+const TREES = [
+    ["/p", "/p/a.jpg", "/out"], ["/p", "/p/x/a.jpg", "/out/x"], ["/p", "/p/x/y/a.jpg", "/out/x/y"],
+    ["/", "/p/x/a.jpg", "/out/p/x"], ["/", "/a.jpg", "/out"], ["", "/p/x/a.jpg", "/out"],
+    [undefined, "/p/x/a.jpg", "/out"], ["/p", "/pool/a.jpg", "/out"],
+];
+
+for (const [root, path, folder] of TREES) {
+    test("keepsTheFoldersBelow " + root + " of " + path, () => {
+        const output = (keeps) => ({ destination: { kind: "folder", name: "", path: "/out" }, keepSubfolders: keeps });
+        const found = Object.assign(big(path), { root: root });
+        equal([targetFolder(found, output(true)), targetFolder(found, output(false))], [folder, "/out"]);
+    });
+}
 
 test("tellsSizeNameAndPathOfEveryResult", () => {
     const item = plan([big("/p/a.JPG")], settings("number"), new FakeFiles({})).items[0];
@@ -115,7 +131,7 @@ for (const name of ["", ".", "..", "../in", "a/b", "/", "a\0b"]) {
         const item = plan([big("/p/a.jpg")], settings("replace", destination),
                           new FakeFiles({ "/p/a.jpg": 1 })).items[0];
         equal([item.status, item.replaces], ["Failed", false]);
-        equal(outputMessages({ destination: destination }).length, 1);
+        equal(messagesOn({ destination: destination }).length, 1);
     });
 }
 
@@ -123,13 +139,20 @@ for (const path of ["", "in", "../in"]) {
     test("refusesToSaveIntoAFolderThatIsNoAbsolutePath: " + path, () => {
         const destination = { kind: "folder", name: "", path: path };
         equal(names(plan([big("/p/a.jpg")], settings("number", destination), new FakeFiles({}))), ["Failed"]);
-        equal(outputMessages({ destination: destination }).length, 1);
+        equal(messagesOn({ destination: destination }).length, 1);
     });
 }
 
 test("letsAFolderBesideHaveAnyPlainName", () => {
-    equal(outputMessages({ destination: { kind: "beside", name: "..a b", path: "" } }), []);
+    equal(messagesOn({ destination: { kind: "beside", name: "..a b", path: "" } }), []);
 });
+
+for (const [pattern, count] of [["{name}-web", 0], ["{taken:yyyy} {counter:001}", 0], ["", 1], ["  ", 1],
+                                ["{nowhere}", 1], ["a/{name}", 1], ["{name", 1]]) {
+    test("takesNamesWithValues " + JSON.stringify(pattern), () => {
+        equal(messagesOn({ namePattern: pattern }).length, count);
+    });
+}
 
 test("neverReplacesAFolder", () => {
     equal(names(plan([big("/p/a.jpg")], settings("replace"), new FakeFiles({ "/out/a.jpg": "folder" }))),

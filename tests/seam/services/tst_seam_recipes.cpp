@@ -19,6 +19,8 @@ private Q_SLOTS:
     void plansFromTheHeader_data();
     void plansFromTheHeader();
     void makesWhatItPlans();
+    void namesResults_data();
+    void namesResults();
     void turnsSettingsIntoRecipes();
     void fillsInTheTokensOfATextInEnglish();
     void saysWhyNothingCameOfIt_data();
@@ -77,6 +79,29 @@ void TestSeamRecipes::plansFromTheHeader()
     const QString fields = QStringLiteral("((p) => [p.problem, p.type, p.width, p.height, p.extension, p.lossless, "
                                           "p.losses.length])(recipes.planOutput('FOLDER/a.png', %1))");
     QTEST(answer(fields.arg(expression)), "expected");
+}
+
+void TestSeamRecipes::namesResults_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("name");
+    const std::pair<const char *, const char *> rows[] = {
+        {"'{name}-web', 0, 30, 20, '.jpg'", "a-web.jpg"},
+        {"'{counter:001} {width}x{height}', 4, 30, 20, '.png'", "005 30x20.png"},
+        {"'{type} {taken}', 0, 30, 20, ''", "PNG undated"},
+        {"'x'.repeat(300), 0, 30, 20, '.jpg'", "x"},
+    };
+    for (const auto &[arguments, name] : rows)
+        QTest::newRow(arguments) << QString::fromUtf8(arguments) << QString::fromUtf8(name);
+}
+
+void TestSeamRecipes::namesResults()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, name);
+    constexpr int longest = 255;
+    const QString expected = name == QLatin1String("x") ? QString(longest - 4, u'x') + QStringLiteral(".jpg") : name;
+    QCOMPARE(answer(QStringLiteral("recipes.nameFor('FOLDER/a.png', %1)").arg(arguments)), u'"' + expected + u'"');
 }
 
 void TestSeamRecipes::makesWhatItPlans()

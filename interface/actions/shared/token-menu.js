@@ -1,0 +1,34 @@
+// The searchable menu of values that a text in braces stands for, and the button that opens it.
+
+import { tokens } from "quorlin/tokens";
+import { guard } from "../../lib/guard.js";
+
+/**
+ * Fills the menu of a form.
+ *
+ * @param names      of its controls: {menu, button}
+ * @param isOffered  says of each token whether it can stand there
+ * @param insert     is called with "{taken:yyyy}", once one is chosen
+ */
+export function joinTokens(form, names, isOffered, insert) {
+    const menu = form.control(names.menu);
+    const button = form.control(names.button);
+    const offered = [];
+    tokens.offered().filter(isOffered).forEach((token) => token.forms.forEach((each) => {
+        offered.push({ title: token.words + (each === "" ? "" : "  " + each),
+                       text: "{" + token.name + (each === "" ? "" : ":" + each) + "}", example: token.example });
+    }));
+    menu.setPlaceholder(qsTr("Search values"));
+    menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text),
+                    offered.map((each) => each.example), offered.map((each) => each.text));
+    menu.chosen.connect(guard(names.menu, insert));
+    button.clicked.connect(guard(names.button, () => menu.popUp(button)));
+}
+
+/** Puts a text where the cursor of a field of one line is. */
+export function insertAtCursor(field, text) {
+    const at = field.cursorPosition;
+    field.text = field.text.slice(0, at) + text + field.text.slice(at);
+    field.cursorPosition = at + text.length;
+    field.setFocus();
+}
