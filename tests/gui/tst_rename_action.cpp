@@ -157,6 +157,22 @@ private Q_SLOTS:
         QCOMPARE(field->text(), QStringLiteral("lake"));
     }
 
+    void insertsAValueWhereTheCursorIs()
+    {
+        files({"a.jpg"});
+        m_driver->drop({m_folder});
+        addStep("New text");
+        auto *field = m_driver->control<QLineEdit>("firstText");
+        field->setText(QStringLiteral("x-y"));
+        field->setCursorPosition(2);
+        m_driver->click("cardTokens");
+        QWidget *menu = QApplication::activePopupWidget();
+        QVERIFY(menu);
+        QTest::keyClicks(menu->focusWidget(), QStringLiteral("camera"));
+        QTest::keyClick(menu->focusWidget(), Qt::Key_Return);
+        QCOMPARE(field->text(), QStringLiteral("x-{camera}y"));
+    }
+
     void swapsTwoNames()
     {
         files({"c.jpg", "d.jpg"});

@@ -9,6 +9,7 @@ import { menuEntries } from "./step-words.js";
 import * as rename from "./rename-step.js";
 import { Pane } from "../shared/pane.js";
 import { RenameCard } from "./rename-card.js";
+import { insertAtCursor } from "../shared/token-menu.js";
 
 const WHAT = ["files", "folders"];
 // What stands for a file where the list is empty.
@@ -191,9 +192,7 @@ export class RenamePane extends Pane {
     }
 
     insertToken(text) {
-        const field = this.cards[this.tokensFor].control("firstText");
-        field.insert(text);
-        field.setFocus();
+        insertAtCursor(this.cards[this.tokensFor].control("firstText"), text);
     }
 
     /** Shows what becomes of a file, step by step; photo may be null. */
