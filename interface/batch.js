@@ -1,11 +1,11 @@
-// Resizes pictures without windows, through the same step and the same runner as the window:
+// Resizes pictures without windows, one after the other, through the same step as the window:
 //     quorlin-script interface/batch.js OUTDIR FILE...
 // Every file gets a longest side of 1600 pixels in its own type; a name that is taken is numbered. Prints what was written
 // and where. The exit status is 0 if every picture became a file, 1 if not, 2 for a bad command line.
 
 import { files } from "quorlin/files";
 import { copyOf } from "./lib/copies.js";
-import { runItems } from "./runs/job.js";
+import { runItems } from "./runs/making/job.js";
 import { planRun } from "./runs/plan.js";
 import { logRow, summaryOf } from "./runs/report.js";
 import { keepRows, newRunName } from "./runs/log-file.js";

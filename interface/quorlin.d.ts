@@ -1099,9 +1099,62 @@ declare module "quorlin/recipes" {
         nameFor(path: text, pattern: text, index: whole, width: whole, height: whole, extension: text): string;
         /** Makes it as the file `target`, whole or not at all; what stands there is replaced. */
         make(path: text, recipe: dictionary, target: text): Made;
+        /** Pictures that are handed over to workers, until it is closed. */
+        work(): RecipeWork | null;
+        /** How many pictures workers may be at, at a time; as many as there are processors where this was never called. */
+        useProcessors(processors: whole): null;
+        /** The processors that this process may use. */
+        processors(): whole;
+        /** Starts a first worker, for what may come. */
+        prepare(): null;
         /** The families of fonts that watermarks can be set in. */
         fonts(): string[];
     };
+
+    /** A picture that a worker is to make into a new file; width and height are those of the picture, 0 where they are not known. */
+    interface Task {
+        path: string;
+        /** In a folder where nobody else makes files. */
+        target: string;
+        recipe: object;
+        width: number;
+        height: number;
+    }
+
+    interface Result {
+        number: whole;
+        outcome: "OK" | "Failed" | "Not Supported";
+        /** "vanished": the picture is no longer there; "full": the disk is. */
+        cause: "" | "vanished" | "full";
+        /** A sentence where there is no result. */
+        reason: string;
+        /** Of the upright result, in pixels. */
+        width: number;
+        height: number;
+        bytes: number;
+        lossless: boolean;
+        losses: string[];
+        ms: number;
+    }
+
+    /** Pictures that workers make: handed over now, taken later, in whatever order they are ready. */
+    export class RecipeWork {
+        private constructor();
+        /** How many more should be handed over now, so that no worker waits. */
+        readonly room: whole;
+        /** How many have no result yet. */
+        readonly inWork: whole;
+        /** There is something to take. */
+        readonly arrived: Signal<() => any>;
+        /** {counter} in a watermark is the number, by which the result is known. */
+        give(number: whole, task: dictionary): null;
+        /** A result that has come; without any keys where there is none. See Result. */
+        take(): { [key: string]: any };
+        /** Takes back what no worker has begun; the numbers of those. */
+        takeBack(): any[];
+        /** Gives up what is in work, of which nothing is left. */
+        close(): null;
+    }
 }
 
 /** Renaming, moving, copying and linking so that no file is ever lost or replaced. Paths are absolute. */
@@ -1317,6 +1370,8 @@ declare module "quorlin/shell" {
         start(generator: Iterator<any>, onStep: Function | null, onEnd: Function | null): null;
         pause(): null;
         resume(): null;
+        /** A job that yields null waits until this is called; it is not told to onStep. */
+        wake(): null;
         /** Stops after the current step; finally blocks run. */
         cancel(): null;
     }

@@ -27,6 +27,8 @@ tl::unexpected<platform::Error> unwritten(const QString &folder)
     return platform::failure(platform::ErrorCode::WriteFailed, image::sentence("%1 cannot be written to").arg(folder));
 }
 
+} // namespace
+
 void takeDateOf(const QString &source, const QString &path)
 {
     QFile file(path);
@@ -34,8 +36,6 @@ void takeDateOf(const QString &source, const QString &path)
     if (from && file.open(QIODevice::ReadWrite))
         file.setFileTime(from->modified, QFileDevice::FileModificationTime);
 }
-
-} // namespace
 
 WaitingRooms::~WaitingRooms()
 {

@@ -35,6 +35,9 @@ private:
     std::map<QString, Room> m_rooms;
 };
 
+/** Gives a file the time at which @p source was changed last. */
+void takeDateOf(const QString &source, const QString &path);
+
 /**
  * The results of one picture: written beside their places first, and put there when all are made, so that a picture that is
  * replaced by its own result is not missing to the others.

@@ -42,6 +42,7 @@ void JobDriver::start(const script::Generator &generator, const script::Function
     m_onEnd = onEnd;
     m_paused = false;
     m_cancelWanted = false;
+    m_waits = false;
     m_timer.start(0);
 }
 
@@ -54,7 +55,15 @@ void JobDriver::pause()
 void JobDriver::resume()
 {
     m_paused = false;
-    if (isRunning())
+    if (isRunning() && !m_waits)
+        m_timer.start(0);
+}
+
+void JobDriver::wake()
+{
+    m_isAwake = m_inStep;
+    m_waits = false;
+    if (isRunning() && !m_paused && !m_inStep)
         m_timer.start(0);
 }
 
@@ -101,10 +110,13 @@ bool JobDriver::step()
     if (m_inStep)
         return false;
     m_inStep = true;
+    m_isAwake = false;
     const QJSValue result = nextStep();
     const bool ended = result.isError() || result.property(QStringLiteral("done")).toBool();
-    if (!ended)
-        call(m_onStep, {result.property(QStringLiteral("value"))});
+    const QJSValue value = result.property(QStringLiteral("value"));
+    m_waits = !ended && value.isNull() && !m_isAwake;
+    if (!ended && !value.isNull())
+        call(m_onStep, {value});
     m_inStep = false;
     if (result.isError())
         finish(QStringLiteral("failed"), result);
@@ -112,7 +124,7 @@ bool JobDriver::step()
         finish(QStringLiteral("done"), result.property(QStringLiteral("value")));
     else if (std::exchange(m_cancelWanted, false))
         cancel();
-    return !ended && isRunning();
+    return !ended && !m_waits && isRunning();
 }
 
 void JobDriver::finish(const QString &how, const QJSValue &value)

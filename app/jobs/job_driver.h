@@ -12,6 +12,7 @@ namespace window {
  * Carries out a job that a script describes as a generator, from the event loop: it calls next() until the generator
  * is done, and in between the windows answer.
  *
+ * A job that yields null has nothing to do until somebody calls wake(), or has called it since the step began; onStep is not called then.
  * Short steps are bundled into slices of a few milliseconds. Everything happens on the main thread; a step is never
  * entered while another one is under way, not even from a dialog that a step shows.
  */
@@ -38,6 +39,8 @@ public:
                            const script::Function &onEnd);
     Q_INVOKABLE void pause();
     Q_INVOKABLE void resume();
+    /** There is something to do for a job that waits, or is about to. */
+    Q_INVOKABLE void wake();
     /** Stops after the current step: calls the generator's return(), so that its finally blocks run. */
     Q_INVOKABLE void cancel();
 
@@ -54,6 +57,8 @@ private:
     bool m_paused = false;
     bool m_inStep = false;
     bool m_cancelWanted = false;
+    bool m_waits = false;
+    bool m_isAwake = false; ///< wake() was called in the current step
 };
 
 /** Calls a function of a script once, some time later; starting again puts it off. */

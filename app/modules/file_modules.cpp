@@ -7,6 +7,7 @@
 #include "files/services/move_service.h"
 #include "image/services/picture_service.h"
 #include "jobs/services/recipe_service.h"
+#include "jobs/services/recipe_work.h"
 #include "text/services/token_service.h"
 #include "text/services/token_text.h"
 
@@ -32,7 +33,8 @@ std::vector<ServiceEntry> fileServices()
             oneObject<image::PictureService>("quorlin/pictures", "pictures"),
             oneObject<text::TokenService>("quorlin/tokens", "tokens"),
             madeWithFields<TokenText>("quorlin/tokens"),
-            oneObject<jobs::RecipeService>("quorlin/recipes", "recipes")};
+            oneObject<jobs::RecipeService>("quorlin/recipes", "recipes"),
+            givenEntry<jobs::RecipeWork>("quorlin/recipes")};
 }
 
 void addFileModules(ScriptEngine &scripts)

@@ -132,10 +132,16 @@ function settleName(item, names, rule, context) {
     }
 }
 
-function itemFor(photo, planned, settings) {
+// A picture that cannot be read may have been taken away since it was added.
+function reasonOf(photo, planned, services) {
+    return planned.status === "Failed" && !services.files.info(photo.path).exists
+        ? qsTr("the picture is no longer there") : planned.reason || "";
+}
+
+function itemFor(photo, planned, settings, services) {
     const item = {
-        photo: photo, status: planned.status, reason: planned.reason || "", notes: planned.notes || [],
-        folder: targetFolder(photo, settings.output), name: planned.name || "", path: "",
+        photo: photo, status: planned.status, reason: reasonOf(photo, planned, services),
+        notes: planned.notes || [], folder: targetFolder(photo, settings.output), name: planned.name || "", path: "",
         width: planned.width || 0, height: planned.height || 0,
         replaces: false, replaced: "", replacesOriginal: false, numbered: false, asks: false,
     };
@@ -160,7 +166,7 @@ export function* planRun(photos, step, settings, services) {
     const items = [];
     for (let i = 0; i < photos.count && !context.cancelled; i += 1) {
         const photo = photos.at(i);
-        const item = itemFor(photo, step.plan(photo, settings, services), settings);
+        const item = itemFor(photo, step.plan(photo, settings, services), settings, services);
         if (item.status === "ready") {
             settleName(item, namesIn(item.folder), settings.output.ifTaken, context);
             item.path = joinPath(item.folder, item.name);

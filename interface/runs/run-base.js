@@ -57,15 +57,16 @@ export class BaseRun {
         return this.problems > 0;
     }
 
-    /** Notes the final result of one file and its row of the log. */
-    noteInLog(result, row) {
-        this.results.push(result);
+    /** Notes the final result of one file and its row of the log; index: its place where results come in another order. */
+    noteInLog(result, row, index) {
+        const place = index === undefined ? this.results.length : index;
+        this.results[place] = result;
         this.problems += result.status === "Failed" || result.status === "Not Supported" ? 1 : 0;
-        this.rows.push(row);
+        this.rows[place] = row;
     }
 
     failedIds() {
-        return this.ids.filter((id, i) => i < this.results.length && this.results[i].status === "Failed");
+        return this.ids.filter((id, i) => this.results[i] !== undefined && this.results[i].status === "Failed");
     }
 
     /** Folders with results, to be opened from the summary. */
@@ -88,10 +89,14 @@ export class BaseRun {
         return "";
     }
 
-    showProgress() {
+    timeText() {
         const left = this.progress.leftMs();
         const leftText = left === null ? "" : fill(qsTr("%1 left"), clockText(left));
-        const time = this.paused ? qsTr("paused") : leftText;
+        return this.paused ? qsTr("paused") : leftText;
+    }
+
+    showProgress() {
+        const time = this.timeText();
         this.text = fill(qsTr("%1 of %2"), this.progress.done, this.progress.count);
         this.detail = (time ? [time] : [])
             .concat([this.problems === 0 ? qsTr("no problems") : problemsText(this.problems)]).join(" · ");
@@ -123,6 +128,11 @@ export class BaseRun {
     }
 
     cancel() {
+        this.job.cancel();
+    }
+
+    /** Ends the run at once; what is in progress is given up. */
+    abandon() {
         this.job.cancel();
     }
 

@@ -3,7 +3,9 @@
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
-import { runItems } from "./job.js";
+import { runItems } from "./making/job.js";
+import { Flow } from "./making/flow.js";
+import { runByWorkers } from "./making/worker-job.js";
 import { emptyTable } from "../lib/names.js";
 import { planRun } from "./plan.js";
 import { clockText, costOf, Progress } from "./progress.js";
@@ -41,7 +43,18 @@ function mayReplace(items) {
     return answer.button === 0;
 }
 
+// Results come quickly where many workers make small ones.
+const TELL_MS = 100;
+
 export class WriteRun extends BaseRun {
+    reset(ids) {
+        super.reset(ids);
+        this.flow = null; // of a run by workers
+        this.inWork = 0;
+        this.toldMs = 0;
+        this.steppedMs = 0;
+    }
+
     folders() {
         return summaryOf(this.results).folders;
     }
@@ -115,29 +128,99 @@ export class WriteRun extends BaseRun {
                 this.window.pictures.setStatus(this.ids[i], "waiting", qsTr("waiting"), "");
             }
         });
-        this.job.start(runItems(this.items, this.window.action.step, this.settings, this.window.services),
-                       guard("run.step", (event) => this.stepDone(event)),
+        const work = this.work();
+        this.steppedMs = Date.now();
+        this.job.start(work, guard("run.step", (event) => this.stepDone(event)),
                        guard("run.end", (how, value) => this.runEnded(how, value)));
         this.showProgress();
     }
 
+    // Workers do what is said as a recipe; the rest is done here, one picture after the other.
+    work() {
+        const step = this.window.action.step;
+        let work = null;
+        if (step.recipeFor === undefined) {
+            work = runItems(this.items, step, this.settings, this.window.services);
+        } else {
+            this.flow = new Flow(() => this.job.wake());
+            work = runByWorkers(this.items, step, this.settings, this.window.services, this.flow);
+        }
+        return work;
+    }
+
     stepDone(event) {
         const id = this.ids[event.index];
+        if (event.item.status === "ready") {
+            this.inWork += event.kind === "start" ? 1 : -1;
+        }
         if (event.kind === "end") {
-            this.takeResult(id, event.item, event.result);
-            this.showProgress();
+            this.takeResult(event.index, event.result);
+        } else if (event.kind === "back") {
+            this.window.pictures.setStatus(id, "waiting", qsTr("waiting"), "");
         } else if (event.item.status === "ready") {
             this.window.pictures.setStatus(id, "busy", qsTr("working…"), "");
             this.window.pictures.reveal(id);
         }
+        this.tell();
     }
 
-    takeResult(id, item, result) {
+    tell() {
+        const now = Date.now();
+        if (this.flow === null || now - this.toldMs >= TELL_MS || this.inWork === 0) {
+            this.toldMs = now;
+            this.showProgress();
+        }
+    }
+
+    // Of several workers none takes as long as all of them together.
+    countOne(item, result) {
+        const now = Date.now();
+        this.progress.add(costOf(item.photo), this.flow === null ? result.ms : now - this.steppedMs);
+        this.steppedMs = now;
+    }
+
+    timeText() {
+        if (this.flow !== null && this.flow.isStopping) {
+            return qsTr("stopping after the pictures in progress");
+        }
+        return this.paused && this.flow !== null && this.inWork > 0
+            ? qsTr("pausing after the pictures in progress") : super.timeText();
+    }
+
+    togglePause() {
+        if (this.flow === null || this.phase !== "running") {
+            super.togglePause();
+            return;
+        }
+        this.paused = !this.paused;
+        this.steppedMs = Date.now();
+        if (this.paused) {
+            this.flow.pause();
+        } else {
+            this.flow.resume();
+        }
+        this.showProgress();
+    }
+
+    // Said once, the pictures in progress are finished; said again, they are given up.
+    cancel() {
+        if (this.flow === null || this.phase !== "running" || this.flow.isStopping) {
+            super.cancel();
+            return;
+        }
+        this.flow.stop();
+        this.showProgress();
+    }
+
+    takeResult(index, result) {
+        const id = this.ids[index];
+        const item = this.items[index];
         const list = this.window.pictures;
         const action = this.window.action;
         this.noteInLog(result,
-                  logRow(result, action.title(), action.step.describe(this.settings), new Date().toISOString()));
-        this.progress.add(costOf(item.photo), result.ms);
+                       logRow(result, action.title(), action.step.describe(this.settings), new Date().toISOString()),
+                       index);
+        this.countOne(item, result);
         this.window.livePlan.keepFinal(id);
         if (result.status === "OK") {
             list.setPlan(id, result.name, pixels(result));
@@ -151,12 +234,15 @@ export class WriteRun extends BaseRun {
     // Each picture has one final state, also those whose turn never came.
     runEnded(how, value) {
         const reason = how === "failed" ? String(value) : qsTr("cancelled before its turn");
-        for (let i = this.results.length; i < this.items.length; i += 1) {
-            const photo = this.items[i].photo;
-            this.takeResult(this.ids[i], this.items[i], { status: "Skipped", reason: reason, photo: photo, ms: 0 });
-        }
+        this.items.forEach((item, i) => {
+            if (this.results[i] === undefined) {
+                this.takeResult(i, { status: "Skipped", reason: reason, photo: item.photo, ms: 0 });
+            }
+        });
         const problem = this.keepLog();
-        this.finish(this.summaryText(how) + (problem ? " · " + problem : ""));
+        const isStopped = this.flow !== null && this.flow.isStopping;
+        this.flow = null;
+        this.finish(this.summaryText(isStopped ? "cancelled" : how) + (problem ? " · " + problem : ""));
         if (this.items.some((item) => item.replacesOriginal)) {
             this.window.reloadPreview();
         }

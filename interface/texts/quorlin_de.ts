@@ -3982,6 +3982,10 @@
         <source>the folder to save to has no name of its own</source>
         <translation>der Zielordner hat keinen eigenen Namen</translation>
     </message>
+    <message>
+        <source>the picture is no longer there</source>
+        <translation>das Bild ist nicht mehr da</translation>
+    </message>
 </context>
 <context>
     <name>platform</name>
@@ -8113,6 +8117,17 @@
     </message>
 </context>
 <context>
+    <name>worker-job</name>
+    <message>
+        <source>the picture is no longer there</source>
+        <translation>das Bild ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>the result is %1 instead of %2</source>
+        <translation>das Ergebnis ist %1 statt %2</translation>
+    </message>
+</context>
+<context>
     <name>write-plan</name>
     <message>
         <source>name is taken: will ask</source>
@@ -8245,6 +8260,14 @@
     <message>
         <source>Cancelled:</source>
         <translation>Abgebrochen:</translation>
+    </message>
+    <message>
+        <source>stopping after the pictures in progress</source>
+        <translation>hält nach den Bildern in Arbeit an</translation>
+    </message>
+    <message>
+        <source>pausing after the pictures in progress</source>
+        <translation>pausiert nach den Bildern in Arbeit</translation>
     </message>
 </context>
 <context>

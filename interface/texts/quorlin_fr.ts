@@ -3982,6 +3982,10 @@
         <source>the folder to save to has no name of its own</source>
         <translation>le dossier de destination n’a pas de nom propre</translation>
     </message>
+    <message>
+        <source>the picture is no longer there</source>
+        <translation>l’image n’est plus là</translation>
+    </message>
 </context>
 <context>
     <name>platform</name>
@@ -8113,6 +8117,17 @@
     </message>
 </context>
 <context>
+    <name>worker-job</name>
+    <message>
+        <source>the picture is no longer there</source>
+        <translation>l’image n’est plus là</translation>
+    </message>
+    <message>
+        <source>the result is %1 instead of %2</source>
+        <translation>le résultat fait %1 au lieu de %2</translation>
+    </message>
+</context>
+<context>
     <name>write-plan</name>
     <message>
         <source>name is taken: will ask</source>
@@ -8245,6 +8260,14 @@
     <message>
         <source>Cancelled:</source>
         <translation>Arrêté&#x202f;:</translation>
+    </message>
+    <message>
+        <source>stopping after the pictures in progress</source>
+        <translation>arrêt après les images en cours</translation>
+    </message>
+    <message>
+        <source>pausing after the pictures in progress</source>
+        <translation>pause après les images en cours</translation>
     </message>
 </context>
 <context>

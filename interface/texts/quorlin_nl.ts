@@ -3982,6 +3982,10 @@
         <source>the folder to save to has no name of its own</source>
         <translation>de doelmap heeft geen eigen naam</translation>
     </message>
+    <message>
+        <source>the picture is no longer there</source>
+        <translation>de foto is er niet meer</translation>
+    </message>
 </context>
 <context>
     <name>platform</name>
@@ -8113,6 +8117,17 @@
     </message>
 </context>
 <context>
+    <name>worker-job</name>
+    <message>
+        <source>the picture is no longer there</source>
+        <translation>de foto is er niet meer</translation>
+    </message>
+    <message>
+        <source>the result is %1 instead of %2</source>
+        <translation>het resultaat is %1 in plaats van %2</translation>
+    </message>
+</context>
+<context>
     <name>write-plan</name>
     <message>
         <source>name is taken: will ask</source>
@@ -8245,6 +8260,14 @@
     <message>
         <source>Cancelled:</source>
         <translation>Geannuleerd:</translation>
+    </message>
+    <message>
+        <source>stopping after the pictures in progress</source>
+        <translation>stopt na de foto’s die bezig zijn</translation>
+    </message>
+    <message>
+        <source>pausing after the pictures in progress</source>
+        <translation>pauzeert na de foto’s die bezig zijn</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,10 @@
 #include "image/recipe/sentence.h"
 #include "jobs/crew/messages.h"
 #include "jobs/names.h"
+#include "jobs/output_places.h"
+#include "jobs/report.h"
+#include "jobs/result_files.h"
+#include "jobs/result_mark.h"
 #include "platform/file/regular_file.h"
 #include "platform/foundation/paths.h"
 
@@ -48,6 +52,7 @@ Result<std::shared_ptr<const SharedRecipe>> SharedRecipe::from(const QByteArray 
     shared->m_number = ++s_last;
     shared->m_json = json;
     shared->m_recipe = *recipe;
+    shared->m_settings = settingsOf(*recipe, recipeName(json));
     for (const QString &path : image::filesOf(*recipe))
         if (auto file = platform::LentFile::open(path)) // what is not there the worker misses
             shared->m_files.emplace(path, std::move(*file));
@@ -181,6 +186,9 @@ Errand::Turn RecipeErrand::finish()
     if (result.reason.isEmpty()) {
         result.outcome = RecipeResult::Outcome::Ok;
         m_isBegun = false; // whoever asked for it has it now
+        if (m_recipe->recipe().outputs.first().dates == image::FileDates::Keep)
+            takeDateOf(m_task.path, m_task.target);
+        markResult(m_task.target, m_task.path, settingsName(m_recipe->settings(), 0));
     }
     answer(std::move(result));
     return Turn::Over;

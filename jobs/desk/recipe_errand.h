@@ -23,6 +23,8 @@ public:
 
     quint64 number() const { return m_number; } ///< never that of another one
     const image::Recipe &recipe() const { return m_recipe; }
+    /** What its results are known by later, see settingsOf(). */
+    const QString &settings() const { return m_settings; }
     /** What a worker is told that has another one. */
     std::vector<platform::Message> messages() const;
 
@@ -30,6 +32,7 @@ private:
     quint64 m_number = 0;
     QByteArray m_json;
     image::Recipe m_recipe;
+    QString m_settings;
     std::map<QString, platform::LentFile> m_files;
 };
 

@@ -40,6 +40,18 @@ WorkerDesk::Options usualOptions()
     return usual;
 }
 
+QPointer<WorkerDesk> &deskOfProcess()
+{
+    static QPointer<WorkerDesk> desk;
+    return desk;
+}
+
+QPointer<WorkerDesk> &deskForWaiting()
+{
+    static QPointer<WorkerDesk> desk;
+    return desk;
+}
+
 } // namespace
 
 WorkerDesk::WorkerDesk(const Options &options, QObject *parent)
@@ -63,7 +75,7 @@ WorkerDesk::~WorkerDesk()
 
 WorkerDesk &WorkerDesk::ofProcess()
 {
-    static QPointer<WorkerDesk> desk;
+    QPointer<WorkerDesk> &desk = deskOfProcess();
     if (!desk)
         desk = new WorkerDesk(usualOptions(), QCoreApplication::instance());
     return *desk;
@@ -71,7 +83,7 @@ WorkerDesk &WorkerDesk::ofProcess()
 
 WorkerDesk &WorkerDesk::forWaiting()
 {
-    static QPointer<WorkerDesk> desk;
+    QPointer<WorkerDesk> &desk = deskForWaiting();
     if (!desk) {
         Options options = usualOptions();
         options.workers = 1;
@@ -84,6 +96,8 @@ WorkerDesk &WorkerDesk::forWaiting()
 void WorkerDesk::useProgram(const QString &program)
 {
     saidProgram() = program;
+    delete deskOfProcess();
+    delete deskForWaiting();
 }
 
 int WorkerDesk::most()
@@ -110,24 +124,27 @@ WorkerDesk::Number WorkerDesk::add(std::shared_ptr<Errand> errand, Urgency urgen
     return number;
 }
 
-void WorkerDesk::drop(Number number)
+bool WorkerDesk::takeBack(Number number)
 {
-    const auto isIt = [number](const Asked &asked) { return asked.number == number; };
     // What an errand does when it goes must not find it here.
-    const auto takeFrom = [&isIt](std::deque<Asked> &asked) {
-        const auto found = std::find_if(asked.begin(), asked.end(), isIt);
+    const auto takeFrom = [number](std::deque<Asked> &asked) {
+        const auto found =
+            std::find_if(asked.begin(), asked.end(), [number](const Asked &each) { return each.number == number; });
         const std::shared_ptr<Errand> gone = found == asked.end() ? nullptr : std::move(found->errand);
         if (found != asked.end())
             asked.erase(found);
         return gone != nullptr;
     };
-    for (auto &[urgency, asked] : m_waiting)
-        if (takeFrom(asked))
-            return;
-    if (takeFrom(m_toTryAgain))
+    return takeFrom(m_toTryAgain) || std::any_of(byUrgency.begin(), byUrgency.end(),
+                                                 [&](Urgency urgency) { return takeFrom(m_waiting[urgency]); });
+}
+
+void WorkerDesk::drop(Number number)
+{
+    if (takeBack(number))
         return;
-    const auto worker = std::find_if(m_workers.begin(), m_workers.end(), [&isIt](const auto &each) {
-        return each.second.asked && isIt(*each.second.asked);
+    const auto worker = std::find_if(m_workers.begin(), m_workers.end(), [number](const auto &each) {
+        return each.second.asked && each.second.asked->number == number;
     });
     if (worker == m_workers.end())
         return;

@@ -55,12 +55,17 @@ public:
     static WorkerDesk &ofProcess();
     /** Another one, with one worker, for what has to be waited for: see finish(). */
     static WorkerDesk &forWaiting();
-    /** Which program the workers of both are, from now on; the one beside this program where it was never said. For tests. */
+    /**
+     * Which program the workers of both are, from now on; the one beside this program where it was never said. For tests, which have nothing
+     * at work then.
+     */
     static void useProgram(const QString &program);
 
     Number add(std::shared_ptr<Errand> errand, Urgency urgency);
     /** Takes an errand back; a worker that is at it is ended, so that nothing more comes of it. Nothing for one that is over. */
     void drop(Number number);
+    /** The same for one that no worker has begun; false, and nothing, for any other. */
+    bool takeBack(Number number);
 
     /**
      * Waits until an errand is over. Nothing but what workers of this desk say is heard meanwhile, so it has to be a desk where nothing else

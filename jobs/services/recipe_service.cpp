@@ -6,14 +6,13 @@
 #include "image/recipe/sentence.h"
 #include "jobs/names.h"
 #include "jobs/presets/preset_recipe.h"
+#include "jobs/result_files.h"
+#include "jobs/services/recipe_work.h"
 #include "platform/effects/lettering.h"
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/file_names.h"
 #include "text/tokens.h"
 
-#include <QDateTime>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -51,13 +50,6 @@ QVariantMap outcome(const char *word, const QString &reason)
 {
     return {{key("outcome"), key(word)}, {key("reason"), reason}, {key("path"), QString()},
             {key("width"), 0},           {key("height"), 0},      {key("losses"), QStringList()}};
-}
-
-void takeDateOf(const QString &source, const QString &path)
-{
-    QFile file(path);
-    if (file.open(QIODevice::ReadWrite))
-        file.setFileTime(QFileInfo(source).lastModified(), QFileDevice::FileModificationTime);
 }
 
 Result<image::MadeOutput> madeOf(const Task &task, const QString &path)
@@ -144,6 +136,26 @@ QVariantMap RecipeService::make(const QString &path, const QVariantMap &recipe, 
     result.insert(key("height"), made->size.height());
     result.insert(key("losses"), task->plan.losses);
     return result;
+}
+
+RecipeWork *RecipeService::work()
+{
+    return new RecipeWork(WorkerDesk::ofProcess(), this);
+}
+
+void RecipeService::useProcessors(int processors)
+{
+    WorkerDesk::ofProcess().setSize(processors);
+}
+
+int RecipeService::processors() const
+{
+    return WorkerDesk::most();
+}
+
+void RecipeService::prepare()
+{
+    WorkerDesk::ofProcess().warmUp();
 }
 
 QStringList RecipeService::fonts() const

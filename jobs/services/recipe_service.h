@@ -1,6 +1,7 @@
 #pragma once
 
 #include "image/recipe/recipe_reader.h"
+#include "jobs/services/recipe_work.h"
 
 #include <QObject>
 #include <QString>
@@ -20,7 +21,7 @@ platform::Result<image::Recipe> recipeFrom(const QVariantMap &object, const imag
 QVariantMap answerOf(const image::OutputPlan &plan);
 
 /**
- * Recipes for scripts: the plan and the result of one picture. A recipe is the plain object that its file would hold, see
+ * Recipes for scripts: the plan and the result of one picture, here or by workers. A recipe is the plain object that its file would hold, see
  * docs/recipes.md, with exactly one output; paths in it are absolute. Nothing here needs a window.
  */
 class RecipeService : public QObject
@@ -62,6 +63,15 @@ public:
      *         nothing was written
      */
     Q_INVOKABLE QVariantMap make(const QString &path, const QVariantMap &recipe, const QString &target) const;
+
+    /** Pictures that are handed over to workers. It belongs to this service until it is closed. */
+    Q_INVOKABLE jobs::RecipeWork *work();
+    /** How many pictures workers may be at, at a time: 1 to processors(), which it is where this was never called. */
+    Q_INVOKABLE void useProcessors(int processors);
+    /** The processors that this process may use, 1 or more. */
+    Q_INVOKABLE int processors() const;
+    /** Starts a first worker, for what may come. */
+    Q_INVOKABLE void prepare();
 
     /** The families of fonts that watermarks can be set in, by the alphabet. */
     Q_INVOKABLE QStringList fonts() const;

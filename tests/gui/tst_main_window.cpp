@@ -273,6 +273,7 @@ private Q_SLOTS:
         m_driver->click("startButton");
         QVERIFY(m_driver->waitFor([this] { return namesIn(m_results).size() >= 2; }));
         m_driver->trigger("cancelAction");
+        QVERIFY(m_driver->text("statusDetail").startsWith(QStringLiteral("stopping after the pictures in progress")));
         const QString summary = m_driver->waitForSummary();
         QVERIFY2(summary.startsWith(QStringLiteral("Cancelled:")), qPrintable(summary));
         const QStringList names = namesIn(m_results);
@@ -290,6 +291,10 @@ private Q_SLOTS:
         m_driver->click("startButton");
         QVERIFY(m_driver->waitFor([this] { return !namesIn(m_results).isEmpty(); }));
         m_driver->click("pauseButton");
+        // What is in progress is finished first, and that is said at once.
+        const auto isHeld = [this] { return m_driver->text("statusDetail").startsWith(QStringLiteral("paused")); };
+        QVERIFY(isHeld() || m_driver->text("statusDetail").startsWith(QStringLiteral("pausing after the pictures in")));
+        QVERIFY(m_driver->waitFor(isHeld));
         const qsizetype held = namesIn(m_results).size();
         QTest::qWait(300);
         QCOMPARE(namesIn(m_results).size(), held);

@@ -55,6 +55,11 @@ export function recipe(settings) {
     return recipeOf("Background and Border", settings);
 }
 
+/** The same for one of them: workers are given it with the picture. */
+export function recipeFor(_photo, settings) {
+    return recipe(settings);
+}
+
 /** What a run would write for one picture, or a final status with its reason. */
 export function plan(photo, settings, services) {
     const target = targetOf(photo, settings.output.fileType);

@@ -77,6 +77,11 @@ export function recipe(photo, settings, services) {
     return recipeOf("Crop", Object.assign(forPhoto(photo, settings, services), { unit: PIXEL }));
 }
 
+/** The same: workers are given it with the picture. */
+export function recipeFor(photo, settings, services) {
+    return recipe(photo, settings, services);
+}
+
 /** What a run would write for one picture: a plan with the frame, or a final status with its reason. */
 export function plan(photo, settings, services) {
     const target = targetOf(photo, settings.output.fileType);

@@ -69,6 +69,11 @@ export function recipe(settings) {
     return recipeOf("Resize", settings);
 }
 
+/** The same for one of them: workers are given it with the picture. */
+export function recipeFor(_photo, settings) {
+    return recipe(settings);
+}
+
 /**
  * What a run would write for one picture: {status: "ready", name, type, width, height, notes, lossless, losses}, or a final status
  * with its reason.

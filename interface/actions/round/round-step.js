@@ -50,6 +50,11 @@ export function recipe(settings) {
     return recipeOf("Round Corners", settings);
 }
 
+/** The same for one of them: workers are given it with the picture. */
+export function recipeFor(_photo, settings) {
+    return recipe(settings);
+}
+
 /** What a run would write for one picture, or a final status with its reason. */
 export function plan(photo, settings, services) {
     const target = targetOf(photo, settings.output.fileType);

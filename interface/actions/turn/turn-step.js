@@ -43,6 +43,11 @@ export function recipe(settings) {
     return recipeOf("Rotate and Flip", settings);
 }
 
+/** The same for one of them: workers are given it with the picture. */
+export function recipeFor(_photo, settings) {
+    return recipe(settings);
+}
+
 function notesFor(settings, planned) {
     const type = madeType(planned.type);
     if (settings.angle % RIGHT_ANGLE === 0) {

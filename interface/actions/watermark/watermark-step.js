@@ -86,6 +86,11 @@ export function recipe(settings) {
     return recipeOf("Watermark", settings);
 }
 
+/** The same for one of them: workers are given it with the picture. */
+export function recipeFor(_photo, settings) {
+    return recipe(settings);
+}
+
 // What a picture becomes does not depend on the text, and each key that is typed asks again about all pictures.
 function answerFor(photo, settings, services) {
     const cache = services.unitCache;

@@ -326,7 +326,7 @@ export class MainWindow {
             detail: qsTr("What is finished stays; nothing half written is left."),
             buttons: [qsTr("Stop and Close"), qsTr("Keep Running")], initial: 1, escape: 1, check: "" });
         if (answer.button === 0) {
-            this.run.cancel();
+            this.run.abandon();
         }
         return answer.button === 0;
     }

@@ -2,6 +2,7 @@
 
 import { cToolBox } from "quorlin";
 import { defaults } from "quorlin/defaults";
+import { recipes } from "quorlin/recipes";
 import { shell } from "quorlin/shell";
 import { onProblem } from "../../lib/guard.js";
 import { recoverRuns } from "../../runs/recover-runs.js";
@@ -25,6 +26,7 @@ export function openMainWindow() {
     window.controllers.view.viewWillAppear();
     window.form.show();
     window.form.control("central").setFocus();
+    recipes.prepare();
     const say = (text) => window.sayBeside(text);
     watchSettings(say);
     recoverRuns(say);

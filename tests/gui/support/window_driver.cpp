@@ -2,6 +2,8 @@
 
 #include "app/window/folders/side_bar.h"
 
+#include "jobs/desk/worker_desk.h"
+
 #include "platform/controls/panels.h"
 #include "platform/desktop/user_defaults.h"
 
@@ -21,6 +23,8 @@
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
+
+#include <utility>
 
 namespace {
 
@@ -43,6 +47,9 @@ WindowDriver::WindowDriver(QApplication &application)
 {
     if (const QString family = QFontInfo(QFont()).family(); family != QLatin1String("DejaVu Sans"))
         qFatal("the tests measure with DejaVu Sans, of the package fonts-dejavu-core, and got %s", qPrintable(family));
+    static bool isFirst = true;
+    if (std::exchange(isFirst, false))
+        jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKER)); // the tests are not where the program is
     qputenv("HOME", m_home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", (m_home.path() + QStringLiteral("/.local/share")).toLocal8Bit());
     keepSettingsIn(m_home.path() + QStringLiteral("/.config"));

@@ -5,7 +5,7 @@
 import { files } from "quorlin/files";
 import { copyOf } from "../../../interface/lib/copies.js";
 import { rowOf } from "../../../interface/presets/presets.js";
-import { runItems } from "../../../interface/runs/job.js";
+import { runItems } from "../../../interface/runs/making/job.js";
 import { planRun } from "../../../interface/runs/plan.js";
 import { makeServices } from "../../../interface/services.js";
 import { KINDS } from "./kinds.js";

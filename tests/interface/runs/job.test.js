@@ -1,4 +1,4 @@
-import { runItems } from "../../../interface/runs/job.js";
+import { runItems } from "../../../interface/runs/making/job.js";
 import { drain, equal, finish, isTrue, test } from "../check.js";
 import { FakeFiles, photo } from "../fakes.js";
 

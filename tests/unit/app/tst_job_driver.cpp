@@ -67,6 +67,35 @@ private Q_SLOTS:
         QVERIFY(!m_driver->isRunning());
     }
 
+    void waitsUntilItIsWoken()
+    {
+        start("function* () { yield 1; yield null; yield 2; yield null; }");
+        QTRY_COMPARE(said(), QStringLiteral("1"));
+        QTest::qWait(30);
+        QCOMPARE(said(), QStringLiteral("1"));
+        m_driver->pause();
+        m_driver->wake();
+        QTest::qWait(30);
+        QCOMPARE(said(), QStringLiteral("1"));
+        m_driver->resume();
+        QTRY_COMPARE(said(), QStringLiteral("1,2"));
+        m_driver->pause();
+        m_driver->resume();
+        QTest::qWait(30);
+        QVERIFY(m_driver->isRunning());
+        m_driver->wake();
+        QTRY_COMPARE(said(), QStringLiteral("1,2,done undefined"));
+    }
+
+    /** What it waits for may come while it is about to wait. */
+    void isNotLostWhenItIsWokenTooEarly()
+    {
+        m_engine->globalObject().setProperty(QStringLiteral("driver"), m_engine->newQObject(m_driver.get()));
+        QJSEngine::setObjectOwnership(m_driver.get(), QJSEngine::CppOwnership);
+        start("function* () { driver.wake(); yield null; yield 1; }");
+        QTRY_COMPARE(said(), QStringLiteral("1,done undefined"));
+    }
+
     void runsFinallyBlocksWhenItIsCancelled()
     {
         start("function* () { try { for (;;) yield 'x'; } finally { said = ['tidied']; } }");

@@ -3,17 +3,27 @@
 // Services used: files (info, makeFolder, makeStaging, place, ...), pictures (takeMemoryRefusal), and what the step uses.
 
 import { FolderNames } from "quorlin/files";
-import { joinPath, splitPath } from "../lib/names.js";
+import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
 
 const MOST_NUMBERS = 10000;
 const MOST_OPEN = 64;
 
-// The folders that a run writes to: made when they are first needed, each with a hidden folder for unfinished files.
-class Workshop {
+/** The folders that a run writes to: made when they are first needed, each with a hidden folder for unfinished files. */
+export class Workshop {
     constructor(files) {
         this.files = files;
         this.stagings = new Map();
+        this.users = emptyTable();
         this.made = [];
+    }
+
+    /** What is unfinished in a folder stays there until leave() was called as often. */
+    enter(folder) {
+        this.users[folder] = (this.users[folder] || 0) + 1;
+    }
+
+    leave(folder) {
+        this.users[folder] -= 1;
     }
 
     /** {staging} or {problem}. */
@@ -50,8 +60,8 @@ class Workshop {
 
     // Each hidden folder is held open, and a process may not hold many.
     closeOldest() {
-        if (this.stagings.size >= MOST_OPEN) {
-            const oldest = this.stagings.keys().next().value;
+        const oldest = Array.from(this.stagings.keys()).find((folder) => !this.users[folder]);
+        if (this.stagings.size >= MOST_OPEN && oldest !== undefined) {
             this.files.removeStaging(this.stagings.get(oldest));
             this.stagings.delete(oldest);
         }
@@ -68,12 +78,12 @@ class Workshop {
     }
 }
 
-function failed(reason) {
+export function failed(reason) {
     return { status: "Failed", reason: reason };
 }
 
-// The name was free when the run was planned. If it was taken since, the rule for taken names holds again.
-function placeResult(from, item, rule, files) {
+/** The name was free when the run was planned. If it was taken since, the rule for taken names holds again. */
+export function placeResult(from, item, rule, files) {
     let name = item.name;
     for (let number = 2; number < MOST_NUMBERS; number += 1) {
         const answer = files.place(from, joinPath(item.folder, name), item.replaced);

@@ -1,0 +1,164 @@
+// Carries out a plan by workers, many pictures at a time: they make the files, here each is put into its place. For steps that say
+// with recipeFor(photo, settings, services) what is done to a picture; a generator, as that of job.js is.
+// Services used: recipes (work), files (info, makeFolder, makeStaging, place, ...).
+
+import { guard } from "../../lib/guard.js";
+import { joinPath } from "../../lib/names.js";
+import { fill } from "../../lib/wording.js";
+import { failed, placeResult, Workshop } from "./job.js";
+
+function sizeWords(size) {
+    return size.width + "×" + size.height;
+}
+
+function reasonOf(made) {
+    return made.cause === "vanished" ? qsTr("the picture is no longer there") : made.reason;
+}
+
+class WorkerJob {
+    constructor(items, step, settings, services) {
+        this.items = items;
+        this.step = step;
+        this.settings = settings;
+        this.services = services;
+        this.workshop = new Workshop(services.files);
+        this.work = services.recipes.work();
+        this.next = 0;
+        this.again = []; // indices that were taken back
+        this.targets = [];
+        this.open = 0; // handed over, and not taken yet
+    }
+
+    close() {
+        this.work.close();
+        this.workshop.close();
+    }
+
+    hasNext() {
+        return this.again.length > 0 || this.next < this.items.length;
+    }
+
+    takeNext() {
+        if (this.again.length > 0) {
+            return this.again.shift();
+        }
+        this.next += 1;
+        return this.next - 1;
+    }
+
+    /** What is not begun is not begun now; the indices of that. */
+    hold() {
+        const numbers = this.work.takeBack();
+        numbers.forEach((index) => this.workshop.leave(this.items[index].folder));
+        this.open -= numbers.length;
+        this.again = numbers.concat(this.again);
+        return numbers;
+    }
+
+    /** A final result where there is nothing for workers to do, or null. */
+    give(index) {
+        const item = this.items[index];
+        if (item.status !== "ready") {
+            return { status: item.status, reason: item.reason };
+        }
+        const place = this.workshop.open(item.folder);
+        if (place.problem) {
+            return failed(place.problem);
+        }
+        this.targets[index] = place.staging + String(index);
+        const photo = item.photo;
+        const recipe = this.step.recipeFor(photo, this.settings, this.services);
+        this.workshop.enter(item.folder);
+        this.open += 1;
+        this.work.give(index, { path: photo.path, target: this.targets[index], recipe: recipe,
+                                width: photo.width || 0, height: photo.height || 0 });
+        return null;
+    }
+
+    // A step that throws has met a mistake of ours; the other pictures are none the worse for it.
+    tryGive(index) {
+        try {
+            return this.give(index);
+        } catch (error) {
+            return failed(String(error.message || error));
+        }
+    }
+
+    /** The final result of what a worker made. */
+    finish(made) {
+        const item = this.items[made.number];
+        this.workshop.leave(item.folder);
+        this.open -= 1;
+        if (made.outcome !== "OK") {
+            return { status: made.outcome, reason: reasonOf(made) };
+        }
+        if (made.width !== item.width || made.height !== item.height) {
+            return failed(fill(qsTr("the result is %1 instead of %2"), sizeWords(made), sizeWords(item)));
+        }
+        const placed = placeResult(this.targets[made.number], item, this.settings.output.ifTaken, this.services.files);
+        if (placed.status !== "OK") {
+            return placed;
+        }
+        return { status: "OK", reason: "", name: placed.name, path: joinPath(item.folder, placed.name),
+                 folder: item.folder, bytes: made.bytes, width: made.width, height: made.height };
+    }
+
+    end(index, result, ms) {
+        result.photo = this.items[index].photo;
+        result.ms = ms;
+        return { kind: "end", index: index, item: this.items[index], result: result };
+    }
+
+    /** Whether each picture that was begun has its end, and no other one is to be begun. */
+    isOver(flow) {
+        return this.open === 0 && (flow.isStopping || !this.hasNext());
+    }
+
+    mayGive(flow) {
+        return this.hasNext() && !flow.holds() && this.work.room > 0;
+    }
+
+    * handOver() {
+        const index = this.takeNext();
+        yield { kind: "start", index: index, item: this.items[index] };
+        const result = this.tryGive(index);
+        if (result !== null) {
+            yield this.end(index, result, 0);
+        }
+    }
+
+    * holdBack() {
+        const held = this.hold();
+        for (let i = 0; i < held.length; i += 1) {
+            yield { kind: "back", index: held[i], item: this.items[held[i]] };
+        }
+    }
+}
+
+/**
+ * A generator that carries out the items of a plan and yields what runItems() of job.js does, the ends in the order in which the
+ * pictures are ready; null where it waits for flow.wake(), and {kind: "back", index, item} for a picture that is not begun after all, since
+ * the flow is paused or stopped. Returns when each picture that was begun has its end: all of them, or, once
+ * the flow is stopped, those that were in progress. Stopping it (return) gives these up and removes what is unfinished.
+ */
+export function* runByWorkers(items, step, settings, services, flow) {
+    const job = new WorkerJob(items, step, settings, services);
+    job.work.arrived.connect(guard("run.arrived", () => flow.wake()));
+    try {
+        while (!job.isOver(flow)) {
+            if (flow.holds()) {
+                yield* job.holdBack();
+            }
+            const made = job.work.take();
+            if (made.number !== undefined) {
+                yield job.end(made.number, job.finish(made), made.ms);
+            } else if (job.mayGive(flow)) {
+                yield* job.handOver();
+            } else if (!job.isOver(flow)) {
+                yield null; // held, or everything is with the workers
+            }
+        }
+    } finally {
+        job.close();
+    }
+}

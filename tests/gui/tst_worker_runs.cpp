@@ -1,0 +1,214 @@
+#include "tests/gui/support/window_driver.h"
+#include "tests/support/test_program.h"
+
+#include "jobs/desk/worker_desk.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+#include <csignal>
+
+#include <unistd.h>
+
+using jobs::WorkerDesk;
+using window::PictureModel;
+
+/** Runs of the window are carried out by workers, and nobody can tell how many. */
+class WorkerRuns : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_driver = WindowDriver::started();
+        m_pictures = m_driver->folder() + QStringLiteral("/in");
+        QVERIFY(QDir().mkpath(m_pictures));
+    }
+
+    void cleanup()
+    {
+        m_driver.reset();
+        WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKER));
+    }
+
+    void makesTheSameWithAnyNumber();
+    void losesNothingWhenWorkersAreKilled();
+    void failsOnePictureInWords_data();
+    void failsOnePictureInWords();
+    void startsAWorkerEarly();
+    void saysThatAPictureIsGone();
+    void leavesNothingWhereItIsGivenUp();
+
+private:
+    QString add(const QString &name, QSize size = {300, 200})
+    {
+        QImage image(size, QImage::Format_RGB32);
+        for (int y = 0; y < size.height(); ++y)
+            for (int x = 0; x < size.width(); ++x)
+                image.setPixel(x, y, qRgb(x % 256, y % 256, int(qHash(name) % 256)));
+        const QString path = m_pictures + u'/' + name;
+        if (!image.save(path))
+            qFatal("no picture");
+        return path;
+    }
+
+    /** Names that are not in the order in which their pictures are ready: the first are the largest. */
+    void addMany(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            add(QStringLiteral("p%1.jpg").arg(i, 2, 10, QChar(u'0')), {2400 / (i + 1), 1600 / (i + 1)});
+    }
+
+    QString runToTheEnd()
+    {
+        m_driver->click("startButton");
+        return m_driver->waitForSummary();
+    }
+
+    QString resultFolder() const { return m_pictures + QStringLiteral("/Resized"); }
+
+    QMap<QString, QByteArray> results() const
+    {
+        QMap<QString, QByteArray> all;
+        QDirIterator files(resultFolder(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            all.insert(files.fileName(), file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable"));
+        }
+        return all;
+    }
+
+    /** What the log has of each row but times and the name of its run, in its order. */
+    QList<QJsonObject> logRows() const
+    {
+        QList<QJsonObject> rows;
+        QDirIterator found(m_driver->folder() + QStringLiteral("/.local/share"), {QStringLiteral("log.jsonl")},
+                           QDir::Files, QDirIterator::Subdirectories);
+        QFile log(found.hasNext() ? found.next() : QString());
+        if (!log.open(QIODevice::ReadOnly))
+            return rows;
+        for (const QByteArray &line : log.readAll().split('\n')) {
+            QJsonObject row = QJsonDocument::fromJson(line).object();
+            row.remove(QStringLiteral("date"));
+            row.remove(QStringLiteral("run"));
+            if (!row.isEmpty())
+                rows.append(row);
+        }
+        return rows;
+    }
+
+    static QList<pid_t> children()
+    {
+        QList<pid_t> found;
+        QFile children(QStringLiteral("/proc/self/task/%1/children").arg(::getpid()));
+        if (children.open(QIODevice::ReadOnly))
+            for (const QByteArray &number : children.readAll().simplified().split(' '))
+                if (number.toInt() > 0)
+                    found.append(number.toInt());
+        return found;
+    }
+
+    std::unique_ptr<WindowDriver> m_driver;
+    QString m_pictures;
+};
+
+void WorkerRuns::makesTheSameWithAnyNumber()
+{
+    addMany(12);
+    QMap<int, QMap<QString, QByteArray>> made;
+    QMap<int, QList<QJsonObject>> rows;
+    for (const int workers : {1, 5}) {
+        WorkerDesk::ofProcess().setSize(workers);
+        if (m_driver->pictures().model()->rowCount() == 0)
+            m_driver->drop({m_pictures});
+        QVERIFY2(runToTheEnd().startsWith(QStringLiteral("12 pictures done")),
+                 qPrintable(m_driver->text("statusText")));
+        for (int row = 0; row < 12; ++row)
+            QCOMPARE(m_driver->cell(row, PictureModel::Status), QStringLiteral("OK"));
+        made[workers] = results();
+        rows[workers] = logRows().mid(rows.isEmpty() ? 0 : 12);
+        QVERIFY(QDir(resultFolder()).removeRecursively());
+    }
+    QCOMPARE(made[1].size(), 12);
+    QCOMPARE(made[1], made[5]);
+    QCOMPARE(rows[1].size(), 12);
+    QCOMPARE(rows[1], rows[5]);
+    for (int row = 0; row < 12; ++row)
+        QCOMPARE(rows[5][row][QLatin1String("input")].toString(),
+                 QStringLiteral("p%1.jpg").arg(row, 2, 10, QChar(u'0')));
+}
+
+void WorkerRuns::losesNothingWhenWorkersAreKilled()
+{
+    addMany(10);
+    m_driver->drop({m_pictures});
+    m_driver->click("startButton");
+    QVERIFY(m_driver->waitFor([this] { return !results().isEmpty(); }));
+    const QList<pid_t> workers = children();
+    QVERIFY(!workers.isEmpty());
+    ::kill(workers.constFirst(), SIGKILL);
+    QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("10 pictures done")));
+    QCOMPARE(results().size(), 10);
+}
+
+void WorkerRuns::failsOnePictureInWords_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("crash") << "try-crash.jpg";
+    QTest::newRow("nonsense") << "try-nonsense.jpg";
+}
+
+void WorkerRuns::failsOnePictureInWords()
+{
+    QFETCH(QString, name);
+    WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+    addMany(4);
+    add(name);
+    m_driver->drop({m_pictures});
+    QVERIFY(runToTheEnd().startsWith(QStringLiteral("4 pictures done · 1 failed")));
+    QCOMPARE(m_driver->cell(4, PictureModel::Status), QStringLiteral("Failed: its reader crashed"));
+    QCOMPARE(results().size(), 4);
+}
+
+void WorkerRuns::startsAWorkerEarly()
+{
+    QVERIFY(WorkerDesk::ofProcess().count() >= 1);
+}
+
+void WorkerRuns::saysThatAPictureIsGone()
+{
+    addMany(3);
+    m_driver->drop({m_pictures});
+    WorkerDesk::ofProcess().setSize(1);
+    m_driver->click("startButton");
+    // The plan is made; the last picture goes before it has its turn.
+    QVERIFY(m_driver->waitFor([this] { return m_driver->cell(0, PictureModel::Status) != QStringLiteral("ready"); }));
+    QVERIFY(QFile::remove(m_pictures + QStringLiteral("/p02.jpg")));
+    const QString summary = m_driver->waitForSummary();
+    QVERIFY2(summary.startsWith(QStringLiteral("2 pictures done · 1 failed")), qPrintable(summary));
+    QCOMPARE(m_driver->cell(2, PictureModel::Status), QStringLiteral("Failed: the picture is no longer there"));
+}
+
+/** Said once more, Cancel does not wait for what is in progress. */
+void WorkerRuns::leavesNothingWhereItIsGivenUp()
+{
+    WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+    add(QStringLiteral("try-hang.jpg"));
+    m_driver->drop({m_pictures});
+    m_driver->click("startButton");
+    QVERIFY(m_driver->waitFor([this] { return !results().isEmpty(); })); // the folder for unfinished files
+    m_driver->trigger("cancelAction");
+    QVERIFY(m_driver->text("statusDetail").startsWith(QStringLiteral("stopping after the pictures in progress")));
+    m_driver->trigger("cancelAction");
+    QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("Cancelled:")));
+    QVERIFY(!QFileInfo::exists(resultFolder()));
+}
+
+QUORLIN_GUI_TEST(WorkerRuns)
+
+#include "tst_worker_runs.moc"
