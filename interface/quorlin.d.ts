@@ -1107,6 +1107,17 @@ declare module "quorlin/recipes" {
         processors(): whole;
         /** Starts a first worker, for what may come. */
         prepare(): null;
+        /**
+         * Why a recipe cannot be carried out, in a sentence that begins with the place; empty where it can. `text` is that of its file,
+         * `folder` where relative paths in it begin. Its pictures are looked at only where filesAreOpened is true.
+         */
+        problemOf(text: text, folder: text, filesAreOpened: boolean): string;
+        /** Files outside of that folder that it would read, and folders of outputs that are absolute or lead upwards. */
+        reachOf(text: text, folder: text): { reads: string[]; writes: string[] };
+        /** Those that come with the program. */
+        supplied(): { name: string; path: string }[];
+        /** The extensions of the pictures that recipes are carried out over. */
+        takes(): string[];
         /** The families of fonts that watermarks can be set in. */
         fonts(): string[];
     };
@@ -1154,6 +1165,53 @@ declare module "quorlin/recipes" {
         takeBack(): any[];
         /** Gives up what is in work, of which nothing is left. */
         close(): null;
+    }
+
+    /** What one output of a recipe is to become for one picture. */
+    interface PlannedOutput {
+        status: "ready" | "Failed" | "Not Supported" | "Skipped";
+        reason: string;
+        /** Empty where there is none. */
+        path: string;
+        /** The word of recipes: "jpeg". */
+        type: string;
+        width: whole;
+        height: whole;
+        bytes: double;
+        /** What stands there gives way; that it is the picture itself. */
+        replaces: boolean;
+        replacesOriginal: boolean;
+        lossless: boolean;
+        losses: string[];
+    }
+
+    /** What came of it. */
+    interface MadeOutput {
+        status: "OK" | "Failed" | "Not Supported" | "Skipped";
+        reason: string;
+        path: string;
+        bytes: double;
+        width: whole;
+        height: whole;
+    }
+
+    /** One recipe over the pictures of a list: names and numbers are those of quorlin-batch. Its fields are set before anything is asked. */
+    export class RecipeBatch {
+        constructor(fields?: fieldsOf<RecipeBatch>);
+        /** The text of the recipe's file. */
+        recipe: text;
+        /** Where relative paths in it begin. */
+        folder: text;
+        /** Where relative folders of its outputs begin; empty: the folder of each picture. */
+        base: text;
+        /** All pictures, in their order. */
+        paths: texts;
+        /** Why the recipe cannot be carried out, in a sentence; empty where it can. */
+        problem(): string;
+        /** By the number of the picture, from 0; for all in their order, each once. */
+        plan(index: whole): PlannedOutput[];
+        /** Makes the outputs of a picture that was planned, from one decoding. */
+        make(index: whole): MadeOutput[];
     }
 }
 
@@ -1454,6 +1512,8 @@ declare module "quorlin/shell" {
         /** From the first to the second. */
         readonly cursorPositionChanged: Signal<(value1: whole, value2: whole) => any>;
         readonly returnPressed: Signal<() => any>;
+        /** In place of what is selected, or where the cursor is. */
+        insert(text: text): null;
         selectAll(): null;
     }
 

@@ -6,6 +6,7 @@
 #include "files/services/folder_names.h"
 #include "files/services/move_service.h"
 #include "image/services/picture_service.h"
+#include "jobs/services/recipe_batch.h"
 #include "jobs/services/recipe_service.h"
 #include "jobs/services/recipe_work.h"
 #include "text/services/token_service.h"
@@ -34,7 +35,8 @@ std::vector<ServiceEntry> fileServices()
             oneObject<text::TokenService>("quorlin/tokens", "tokens"),
             madeWithFields<TokenText>("quorlin/tokens"),
             oneObject<jobs::RecipeService>("quorlin/recipes", "recipes"),
-            givenEntry<jobs::RecipeWork>("quorlin/recipes")};
+            givenEntry<jobs::RecipeWork>("quorlin/recipes"),
+            madeWithFields<jobs::RecipeBatch>("quorlin/recipes")};
 }
 
 void addFileModules(ScriptEngine &scripts)

@@ -6,12 +6,11 @@
 #include "jobs/crew/messages.h"
 #include "jobs/names.h"
 #include "jobs/reading/picture_reader.h"
+#include "platform/descriptors/write_all.h"
 #include "platform/file/lent_file.h"
 
 #include <QElapsedTimer>
 #include <QHash>
-
-#include <cerrno>
 
 #include <unistd.h>
 
@@ -25,20 +24,6 @@ using platform::Message;
 using platform::Result;
 
 using SharedFile = std::shared_ptr<const LentFile>;
-
-/** 0, or an errno. What was written is on the disk then. */
-int writeAll(const Descriptor &file, const QByteArray &bytes)
-{
-    for (qsizetype written = 0; written < bytes.size();) {
-        const ssize_t count = ::write(file.number(), bytes.constData() + written, size_t(bytes.size() - written));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return errno;
-        written += count;
-    }
-    return ::fsync(file.number()) == 0 ? 0 : errno;
-}
 
 class RecipeWorker
 {
@@ -239,7 +224,7 @@ private:
         message.size = made.size;
         message.isLossless = made.isLossless;
         message.bytes = made.bytes.size();
-        message.writeError = writeAll(output->second, made.bytes);
+        message.writeError = platform::writeAll(output->second, made.bytes);
         m_outputs.erase(output);
     }
 

@@ -4,8 +4,10 @@
 #include "image/recipe/plan.h"
 #include "image/recipe/recipe_reader.h"
 #include "image/recipe/sentence.h"
+#include "jobs/inputs.h"
 #include "jobs/names.h"
 #include "jobs/presets/preset_recipe.h"
+#include "jobs/presets/supplied_files.h"
 #include "jobs/result_files.h"
 #include "jobs/services/recipe_work.h"
 #include "platform/effects/lettering.h"
@@ -13,6 +15,8 @@
 #include "platform/foundation/file_names.h"
 #include "text/tokens.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -27,6 +31,32 @@ using platform::Result;
 QString key(const char *name)
 {
     return QString::fromLatin1(name);
+}
+
+Result<Recipe> readText(const QString &text, const QString &folder, bool filesAreOpened)
+{
+    image::RecipeFiles files;
+    files.folder = folder;
+    files.areOpened = filesAreOpened;
+    return image::readRecipe(text.toUtf8(), files);
+}
+
+/** Where links lead; the path itself, cleaned, where nothing is. */
+QString placeOf(const QString &path)
+{
+    const QString there = QFileInfo(path).canonicalFilePath();
+    return there.isEmpty() ? QDir::cleanPath(path) : there;
+}
+
+bool isBelow(const QString &path, const QString &folder)
+{
+    return placeOf(path).startsWith(placeOf(folder) + u'/');
+}
+
+/** The pattern of a folder that is no place below the picture's own. */
+bool leadsAway(const QString &folder)
+{
+    return folder.startsWith(u'/') || folder.split(u'/').contains(QStringLiteral(".."));
 }
 
 /** A recipe and a picture that can be made by it. */
@@ -156,6 +186,41 @@ int RecipeService::processors() const
 void RecipeService::prepare()
 {
     WorkerDesk::ofProcess().warmUp();
+}
+
+QString RecipeService::problemOf(const QString &text, const QString &folder, bool filesAreOpened) const
+{
+    const Result<Recipe> recipe = readText(text, folder, filesAreOpened);
+    return recipe ? QString() : recipe.error().message;
+}
+
+QVariantMap RecipeService::reachOf(const QString &text, const QString &folder) const
+{
+    const Result<Recipe> recipe = readText(text, folder, false);
+    QStringList reads;
+    QStringList writes;
+    if (recipe) {
+        for (const QString &path : image::filesOf(*recipe))
+            if (!isBelow(path, folder))
+                reads.append(path);
+        for (const image::RecipeOutput &output : recipe->outputs)
+            if (leadsAway(output.folder) && !writes.contains(output.folder))
+                writes.append(output.folder);
+    }
+    return {{key("reads"), reads}, {key("writes"), writes}};
+}
+
+QVariantList RecipeService::supplied() const
+{
+    QVariantList all;
+    for (const SuppliedRecipe &recipe : suppliedRecipes())
+        all.append(QVariantMap{{key("name"), recipe.name}, {key("path"), recipe.path}});
+    return all;
+}
+
+QStringList RecipeService::takes() const
+{
+    return pictureExtensions();
 }
 
 QStringList RecipeService::fonts() const

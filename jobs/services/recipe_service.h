@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QVariantList>
 #include <QVariantMap>
 
 namespace image {
@@ -72,6 +73,28 @@ public:
     Q_INVOKABLE int processors() const;
     /** Starts a first worker, for what may come. */
     Q_INVOKABLE void prepare();
+
+    /**
+     * Why a recipe cannot be carried out, in a sentence that begins with the place; empty where it can. Pictures, patterns, fonts and
+     * profiles that it names are looked at; with @p filesAreOpened false only fonts are.
+     *
+     * @param text    of its file
+     * @param folder  absolute: where relative paths in it begin
+     */
+    Q_INVOKABLE QString problemOf(const QString &text, const QString &folder, bool filesAreOpened) const;
+
+    /**
+     * What a recipe would touch beyond its own folder and those of the pictures: {reads, writes}. reads are the absolute paths of files
+     * outside @p folder, wherever links lead; writes are the folders of outputs that are absolute or lead upwards. Empty for a recipe
+     * that cannot be read. No file is opened for this.
+     */
+    Q_INVOKABLE QVariantMap reachOf(const QString &text, const QString &folder) const;
+
+    /** The recipes that come with the program, by name: {name, path} each. */
+    Q_INVOKABLE QVariantList supplied() const;
+
+    /** The extensions of the pictures that recipes are carried out over, in lower case. */
+    Q_INVOKABLE QStringList takes() const;
 
     /** The families of fonts that watermarks can be set in, by the alphabet. */
     Q_INVOKABLE QStringList fonts() const;
