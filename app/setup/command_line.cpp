@@ -79,12 +79,13 @@ QStringList pathsAmong(QStringList arguments)
 
 QString usage()
 {
-    return QStringLiteral("Usage: quorlin [FILE|FOLDER...]\n"
-                          "Opens the window of Quorlin with these pictures in its list.\n"
-                          "\n"
-                          "  --help     shows this text\n"
-                          "  --version  shows the version\n"
-                          "  --         what follows are paths, even where they begin with a dash\n");
+    return QStringLiteral(
+        "Usage: quorlin [FILE|FOLDER|RECIPE...]\n"
+        "Opens the window of Quorlin with these pictures in its list. A recipe is shown and not run.\n"
+        "\n"
+        "  --help     shows this text\n"
+        "  --version  shows the version\n"
+        "  --         what follows are paths, even where they begin with a dash\n");
 }
 
 QString noDisplaySentence(const QString &platform, const QString &wayland, const QString &display)

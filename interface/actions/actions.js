@@ -26,6 +26,7 @@ import { crop } from "./crop/crop-action.js";
 import { hand } from "./hand/hand-action.js";
 import { log } from "./log/log-action.js";
 import { metadata } from "./metadata/metadata-action.js";
+import { recipe } from "./recipe/recipe-action.js";
 import { rename } from "./rename/rename-action.js";
 import { resize } from "./resize/resize-action.js";
 import { round } from "./round/round-action.js";
@@ -43,6 +44,7 @@ export const GROUPS = [
             round,
             background,
             watermark,
+            recipe,
         ],
     },
     {

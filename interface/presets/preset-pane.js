@@ -34,8 +34,10 @@ export class PresetPane {
      * @param kinds     what presets are kept of: see presetKinds() of actions.js
      * @param take      called with the settings of a preset that was chosen
      * @param say       called with what there is to tell
+     * @param more      another entry of the menu: {text(), act(), isFor(action)}
      */
-    constructor(kinds, take, say) {
+    constructor(kinds, take, say, more) {
+        this.more = more;
         this.store = new PresetStore(() => new dbViewController(), files, kinds);
         this.kinds = kinds;
         this.take = take;
@@ -179,11 +181,15 @@ export class PresetPane {
         const ready = works && this.isReady();
         const ifTrue = (condition, what) => (condition ? what : null);
         return [
-            [qsTr("Save"), ifTrue(ready && this.isChanged(), "save")], [qsTr("Save As…"), ifTrue(works, "saveAs")],
-            [qsTr("Rename…"), ifTrue(ready, "rename")], [qsTr("Delete…"), ifTrue(ready, "remove")], ["-", null],
+            [qsTr("Save"), ifTrue(ready && this.isChanged(), "save")],
+            [qsTr("Save As…"), ifTrue(works, "saveAs")],
+            [qsTr("Rename…"), ifTrue(ready, "rename")],
+            [qsTr("Delete…"), ifTrue(ready, "remove")],
+            ["-", null],
             [qsTr("Export…"), ifTrue(this.chosen !== null && this.chosen.fields.length === FIELDS, "save as file")],
             [qsTr("Import…"), ifTrue(works, "bring in")],
-        ].concat(works ? [] : [["-", null], [qsTr("Look Again"), "look"]]);
+        ].concat(this.more.isFor(this.action) ? [["-", null], [this.more.text(), "more"]] : [])
+            .concat(works ? [] : [["-", null], [qsTr("Look Again"), "look"]]);
     }
 
     showMenu() {
@@ -202,6 +208,7 @@ export class PresetPane {
             save: () => this.save(), saveAs: () => this.edit("saveAs"), rename: () => this.edit("rename"),
             remove: () => this.remove(),
             "save as file": () => this.saveFile(), "bring in": () => this.bringIn(), look: () => this.lookAgain(),
+            more: () => this.more.act(),
         };
         doings[what]();
         this.showAll();

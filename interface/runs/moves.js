@@ -46,5 +46,6 @@ export const MOVES = {
     startText: startText,
     startNote: startNote,
     isReady: (window) => window.pictures.count > 0 && window.planned.ready > 0,
+    simulationText: () => qsTr("Simulation: show, move nothing"),
     replaces: () => false,
 };

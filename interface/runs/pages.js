@@ -21,5 +21,6 @@ export const PAGE = {
     startText: (window) => window.action.title(),
     startNote: () => "",
     isReady: () => false,
+    simulationText: () => "",
     replaces: () => false,
 };

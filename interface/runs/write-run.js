@@ -28,8 +28,8 @@ function askAboutName(question) {
     return { rule: ["number", "replace", "skip", "cancel"][answer.button], forAll: answer.checked };
 }
 
-// The button said so already; it is said again, with the number, before originals are gone.
-function mayReplace(items) {
+/** The button said so already; it is said again, with the number, before originals are gone. */
+export function mayReplace(items) {
     const originals = items.filter((item) => item.replacesOriginal).length;
     if (originals === 0) {
         return true;

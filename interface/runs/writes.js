@@ -48,5 +48,6 @@ export const WRITES = {
     startText: startText,
     startNote: startNote,
     isReady: (window) => window.pictures.count > 0,
+    simulationText: () => qsTr("Simulation: show, write nothing"),
     replaces: (window) => window.planned.originals > 0 && !window.settings.output.simulation,
 };

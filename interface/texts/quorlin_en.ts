@@ -513,6 +513,50 @@
     </message>
 </context>
 <context>
+    <name>recipe-action</name>
+    <message numerus="yes">
+        <source>Run Recipe on %n Pictures</source>
+        <translation>
+            <numerusform>Run Recipe on %n Picture</numerusform>
+            <numerusform>Run Recipe on %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>recipe-run</name>
+    <message numerus="yes">
+        <source>Simulation: %n files would be written</source>
+        <translation>
+            <numerusform>Simulation: %n file would be written</numerusform>
+            <numerusform>Simulation: %n files would be written</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files made</source>
+        <translation>
+            <numerusform>%n file made</numerusform>
+            <numerusform>%n files made</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>recipes</name>
+    <message numerus="yes">
+        <source>Replace %n Originals</source>
+        <translation>
+            <numerusform>Replace %n Original</numerusform>
+            <numerusform>Replace %n Originals</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are replaced.</source>
+        <translation>
+            <numerusform>%n file is replaced.</numerusform>
+            <numerusform>%n files are replaced.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>recovered</name>
     <message numerus="yes">
         <source>%n items have their new names</source>

@@ -6,8 +6,10 @@ import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
 import { firstSettings } from "../../lib/wishes.js";
+import { AddToRecipe } from "../../actions/recipe/add-to-recipe.js";
 import { OutputPane } from "../../actions/shared/output-pane.js";
 import { PresetPane } from "../../presets/preset-pane.js";
+import { WRITES } from "../../runs/writes.js";
 import { actionNamed, allActions, GROUPS, presetKinds } from "../../actions/actions.js";
 
 const SHOWN = "ShownAction";
@@ -31,8 +33,13 @@ export class ActionPage {
         this.saveFolders = recall(defaults, "SaveFolders", { folders: [] }).folders;
         this.output = new OutputPane(this.saveFolders, this.changed);
         window.form.place("outputHost", this.output.form);
-        this.presets = new PresetPane(presetKinds(), (settings) => this.take(settings), (text) => window.say(text));
+        this.addTo = new AddToRecipe((made, path) => this.addToRecipe(made, path));
+        this.presets = new PresetPane(presetKinds(), (settings) => this.take(settings), (text) => window.say(text), {
+            text: () => qsTr("Add to a Recipe…"), act: () => this.addTo.open(),
+            isFor: (name) => name !== "" && actionNamed(name).manner === WRITES,
+        });
         window.form.place("headHost", this.presets.form);
+        window.form.place("headHost", this.addTo.form);
         [this.output.form, this.presets.form].forEach((form) => window.help.join(form));
         const simulation = window.form.control("moveSimulation");
         window.pictures.sorting = recall(defaults, SORTING, { sorting: "" }).sorting;
@@ -67,12 +74,14 @@ export class ActionPage {
         control("outputHost").visible = manner.output;
         control("headHost").visible = action.presets !== undefined;
         control("moveSimulationHost").visible = page.settings.simulation !== undefined;
+        control("moveSimulation").text = manner.simulationText();
         control("moveSimulation").checked = page.settings.simulation === true;
         control("preview").visible = manner.preview;
         control("besideHost").visible = page.pane !== null && page.pane.beside !== undefined;
         if (manner.output) {
             this.output.use(page.settings.output, action.step.offer);
         }
+        this.addTo.use(action, page.settings);
         if (action.presets !== undefined) {
             this.presets.use(action.name, action.title(), page.pane);
         }
@@ -123,6 +132,20 @@ export class ActionPage {
         window.pane.take(settings);
         this.showParts(this.pageOf(window.action));
         this.changed();
+    }
+
+    /** Opens the file of a recipe in its action; nothing is run. */
+    openRecipe(path) {
+        this.window.chooseAction("recipe");
+        this.window.form.control("sideBar").currentAction = "recipe";
+        return this.window.pane.openFile(path);
+    }
+
+    addToRecipe(made, path) {
+        this.window.chooseAction("recipe");
+        this.window.form.control("sideBar").currentAction = "recipe";
+        this.window.pane.addFrom(made, path);
+        this.window.say(qsTr("Added. The recipe is not saved yet."));
     }
 
     /** Called when files that a pane offers may have changed. */

@@ -5,6 +5,7 @@ import { files } from "quorlin/files";
 import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";
 import { convert } from "../../actions/convert/convert-action.js";
+import { recipesAmong } from "../../actions/recipe/recipe-files.js";
 import { guard } from "../../lib/guard.js";
 import { wordsFor } from "../../lib/input-words.js";
 import { splitPath } from "../../lib/names.js";
@@ -176,8 +177,19 @@ export class Input {
         this.roots = this.roots.concat(folders.filter((folder) => this.roots.indexOf(folder) < 0));
     }
 
-    /** Files and folders, as they were dropped, pasted or named at start-up. */
+    /** Files and folders, as they were dropped, pasted or named at start-up. Of recipes the first is opened, and nothing is run. */
     addPaths(paths) {
+        const named = recipesAmong(paths);
+        const problem = named.length === 0 ? "" : this.window.actionPage.openRecipe(files.absolute(named[0]));
+        const others = paths.filter((path) => named.indexOf(path) < 0);
+        if (others.length > 0 || named.length === 0) {
+            this.addPictureFiles(others);
+        } else if (problem === "") {
+            this.window.say(qsTr("Recipe opened. Nothing was run."));
+        }
+    }
+
+    addPictureFiles(paths) {
         const kind = this.window.action.lists(this.window.settings);
         const found = kind === "folders"
             ? foldersAmong(paths)

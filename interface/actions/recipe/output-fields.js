@@ -1,0 +1,106 @@
+// The settings of an output of a recipe as fields; see field-kinds.js. Pure but for translation.
+
+import { check, choice, color, folder, keyed, number, optional, text } from "./field-kinds.js";
+import { profileFields } from "./operation-fields.js";
+
+const WITH_QUALITY = ["original", "jpeg", "webp", "avif", "jxl", "jp2"];
+const WITH_LOSSLESS = ["original", "webp", "jxl", "jp2"];
+const WITHOUT_TRANSPARENCY = ["original", "jpeg", "bmp", "pdf"];
+const USUAL_QUALITY = 85;
+const KILOBYTE = 1000;
+const MOST_KILOBYTES = 1000000;
+
+/** The file types of outputs: [word of recipes, words]. */
+export function typeWords() {
+    return [
+        ["original", qsTr("Original file type")], ["jpeg", "JPEG"], ["png", "PNG"], ["tiff", "TIFF"], ["webp", "WebP"],
+        ["avif", "AVIF"], ["jxl", "JPEG XL"], ["jp2", "JPEG 2000"], ["gif", "GIF"], ["bmp", "BMP"], ["pdf", "PDF"]
+    ];
+}
+
+function typeField(output) {
+    const type = keyed(output, "type", "original");
+    const choose = (value) => {
+        type.set(value);
+        if (WITH_QUALITY.indexOf(value) < 0) {
+            delete output.quality;
+        }
+        if (WITH_LOSSLESS.indexOf(value) < 0) {
+            delete output.lossless;
+        }
+    };
+    return choice(qsTr("File type"), { get: type.get, set: choose }, typeWords());
+}
+
+function qualityFields(output) {
+    const type = output.type || "original";
+    const lossless = keyed(output, "lossless", false);
+    const choose = (on) => {
+        lossless.set(on);
+        if (on) {
+            delete output.quality;
+        }
+    };
+    const fields = WITH_LOSSLESS.indexOf(type) >= 0
+                       ? [check(type === "original" ? qsTr("Lossless, where the type can be") : qsTr("Lossless"),
+                                { get: lossless.get, set: choose })]
+                       : [];
+    if (WITH_QUALITY.indexOf(type) < 0 || lossless.get()) {
+        return fields;
+    }
+    return fields.concat(
+        optional(qsTr("Choose the quality"), output, "quality", USUAL_QUALITY,
+                 () => [number(qsTr("Quality"), keyed(output, "quality", undefined), [1, 100], 0, "")]));
+}
+
+function sizeFields(output) {
+    const limit = { get: () => output.maxBytes / KILOBYTE,
+                    set: (value) => { output.maxBytes = Math.max(1, Math.round(value * KILOBYTE)); } };
+    return optional(qsTr("Limit the size of the file"), output, "maxBytes", KILOBYTE * KILOBYTE,
+                    () => [number(qsTr("At most"), limit, [1, MOST_KILOBYTES], 0, "kB")]);
+}
+
+function metadataFields(output) {
+    const metadata = keyed(output, "metadata", "keep");
+    const choose = (value) => {
+        metadata.set(value);
+        if (value === "none") {
+            delete output.location;
+        }
+    };
+    const location = keyed(output, "location", true);
+    const kept =
+        choice(qsTr("Metadata"), { get: metadata.get, set: choose },
+               [["keep", qsTr("Keep all")], ["copyright", qsTr("Keep copyright only")], ["none", qsTr("Remove all")]]);
+    return metadata.get() === "none"
+               ? [kept]
+               : [kept, check(qsTr("Remove location"), { get: () => !location.get(), set: (on) => location.set(!on) })];
+}
+
+function takenField(output) {
+    return choice(qsTr("If it exists"), keyed(output, "ifTaken", "number"),
+                  [["number", qsTr("Number the new file")], ["replace", qsTr("Replace")], ["skip", qsTr("Skip")],
+                   ["current", qsTr("Keep it if it is current")]]);
+}
+
+/** The fields of an output, as it is now; it is changed in place. Its operations have cards of their own. */
+export function outputFields(output) {
+    const type = output.type || "original";
+    const dates = keyed(output, "dates", "now");
+    return [typeField(output)].concat(
+        qualityFields(output), sizeFields(output),
+        [
+            text(qsTr("Name"), keyed(output, "name", "{name}"), true),
+            folder(qsTr("Folder"), keyed(output, "folder", ""))
+        ],
+        profileFields(output, "profile", qsTr("Keep")), metadataFields(output),
+        optional(qsTr("Set the resolution"), output, "dpi", 300,
+                 () => [number(qsTr("Resolution"), keyed(output, "dpi", undefined), [1, 10000], 0, "dpi")]),
+        WITHOUT_TRANSPARENCY.indexOf(type) < 0 ? [] : [color(qsTr("Under transparent parts"),
+                                                             keyed(output, "matte", "#ffffff"))],
+        [
+            check(qsTr("Keep the date of the file"),
+                  { get: () => dates.get() === "keep", set: (on) => dates.set(on ? "keep" : "now") }),
+            takenField(output)
+        ]);
+}

@@ -1,0 +1,78 @@
+// Recipes as texts of their files and as plain objects. Pure; no service is used.
+
+import { copyOf } from "../../lib/copies.js";
+import { joinPath } from "../../lib/names.js";
+
+/** What the file of a recipe ends in, without the dot. */
+export const RECIPE_TYPE = "quorlin";
+
+const VERSION = 1;
+const PROFILES = ["sRGB", "Display P3", "Adobe RGB", "gray"];
+
+/** A recipe without operations, whose results lie in that folder beside the originals. */
+export function newRecipe(folder) {
+    return { quorlin: VERSION, name: "", operations: [], outputs: [{ type: "original", folder: folder }] };
+}
+
+/** The recipe of a text; null where it is none. Whether it can be carried out is another matter. */
+export function parsed(text) {
+    let recipe = null;
+    try {
+        recipe = JSON.parse(text);
+    } catch (error) {
+        recipe = null;
+    }
+    const isObject = (value) => value !== null && typeof value === "object" && !Array.isArray(value);
+    const areObjects = (list) => Array.isArray(list) && list.every(isObject);
+    if (!isObject(recipe) || !areObjects(recipe.outputs) || recipe.outputs.length === 0) {
+        return null;
+    }
+    recipe.operations = recipe.operations === undefined ? [] : recipe.operations;
+    const lists = [recipe.operations].concat(recipe.outputs.map((output) => output.operations)
+        .filter((list) => list !== undefined));
+    return lists.every(areObjects) ? recipe : null;
+}
+
+/** The text of its file. */
+export function textOf(recipe) {
+    return JSON.stringify(recipe, null, 2) + "\n";
+}
+
+/** All operations of a recipe, those of its outputs too. */
+export function allOperations(recipe) {
+    return recipe.outputs.reduce((all, output) => all.concat(output.operations || []), recipe.operations.slice());
+}
+
+/** A copy in which no path depends on where the recipe lies. */
+export function withAbsolutePaths(recipe, folder) {
+    const copy = copyOf(recipe);
+    const absolute = (object, field) => {
+        if (typeof object[field] === "string" && object[field] !== "" && !object[field].startsWith("/")) {
+            object[field] = joinPath(folder, object[field]);
+        }
+    };
+    const isFile = (value) => typeof value === "string" && PROFILES.indexOf(value) < 0;
+    allOperations(copy).forEach((operation) => {
+        absolute(operation, "picture");
+        absolute(operation, "pattern");
+        if (operation.do === "profile" && isFile(operation.to)) {
+            absolute(operation, "to");
+        }
+    });
+    copy.outputs.filter((output) => isFile(output.profile)).forEach((output) => absolute(output, "profile"));
+    return copy;
+}
+
+/** The operations that make one output, in their order. */
+export function operationsFor(recipe, index) {
+    const output = recipe.outputs[index];
+    const profile = output.profile === undefined ? [] : [{ do: "profile", to: output.profile }];
+    return recipe.operations.concat(output.operations || [], profile);
+}
+
+/** The recipe of one output alone, which says nothing of names and folders. */
+export function oneOutput(recipe, index) {
+    const output = Object.assign({}, recipe.outputs[index]);
+    ["name", "folder", "ifTaken", "dates"].forEach((field) => { delete output[field]; });
+    return { quorlin: recipe.quorlin, operations: recipe.operations, outputs: [output] };
+}

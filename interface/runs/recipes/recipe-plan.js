@@ -1,0 +1,125 @@
+// What a run of a recipe would write: for every picture one or more outputs, each with its name, its size and what it replaces. Names are
+// planned by the program as for its command line, so that both make the same files.
+
+import { RecipeBatch } from "quorlin/recipes";
+import { splitPath } from "../../lib/names.js";
+import { fill, pixels, statusKind, statusText } from "../../lib/wording.js";
+import { LivePlan } from "../live-plan.js";
+
+// Of several outputs the first of these is what is said of all.
+const ORDER = ["ready", "Failed", "Not Supported", "Skipped"];
+
+/** A batch of the recipe in the settings over all pictures of the list. */
+export function batchOf(settings, paths) {
+    return new RecipeBatch({ recipe: settings.text, folder: settings.folder, base: settings.base, paths: paths });
+}
+
+function isReady(output) {
+    return output.status === "ready";
+}
+
+// The reasons that are given, each once.
+function reasonsOf(outputs) {
+    return outputs.map((output) => output.reason).filter((reason, i, all) => reason !== "" && all.indexOf(reason) === i)
+        .join(" · ");
+}
+
+function notesOf(outputs) {
+    return outputs.filter(isReady).reduce((notes, output) => notes.concat(output.losses), [])
+        .filter((note, i, all) => all.indexOf(note) === i);
+}
+
+/** The plan of one picture from those of its outputs. */
+export function itemOf(photo, outputs) {
+    const status = ORDER.find((word) => outputs.some((output) => output.status === word)) || "Failed";
+    return { photo: photo, outputs: outputs, status: status,
+             reason: status === "ready" ? "" : reasonsOf(outputs.filter((output) => output.status === status)),
+             missing: reasonsOf(outputs.filter((output) => !isReady(output))), notes: notesOf(outputs),
+             replaces: outputs.some((output) => output.replaces),
+             replacesOriginal: outputs.some((output) => output.replacesOriginal) };
+}
+
+/** A generator that plans all pictures of the list, one after the other: see itemOf(). It returns the batch. */
+export function* recipePlan(list, ids, settings) {
+    const batch = batchOf(settings, list.paths());
+    const problem = batch.problem();
+    for (let i = 0; i < ids.length; i += 1) {
+        const photo = list.photo(ids[i]);
+        yield itemOf(photo, problem === ""
+            ? batch.plan(i) : [{ status: "Failed", reason: problem, path: "", losses: [], width: 0, height: 0 }]);
+    }
+    return batch;
+}
+
+/** "a.jpg, a-small.jpg"; a dash where there is none. */
+export function namesOf(outputs) {
+    return outputs.filter((output) => output.path !== "").map((output) => splitPath(output.path).name).join(", ") ||
+           "–";
+}
+
+export function sizesOf(outputs) {
+    return outputs.filter((output) => output.width > 0).map(pixels).join(", ") || "–";
+}
+
+/** Shows an item of a plan in its row; `simulated` says so in words. */
+export function showRecipeItem(list, id, item, simulated) {
+    const ready = item.outputs.filter(isReady);
+    list.setPlan(id, namesOf(ready), sizesOf(ready));
+    const detail = item.notes.join("\n");
+    if (item.status !== "ready") {
+        list.setStatus(id, statusKind(item.status), statusText(item.status, item.reason), "");
+    } else if (ready.length < item.outputs.length) {
+        list.setStatus(id, "caution",
+                       fill(qsTr("%1 of %2 files: %3"), ready.length, item.outputs.length, item.missing), detail);
+    } else if (item.replaces) {
+        const replaced = ready.filter((output) => output.replaces);
+        list.setStatus(id, "caution", item.replacesOriginal ? qsTr("replaces original")
+                                                            : fill(qsTr("replaces %1"), namesOf(replaced)), detail);
+    } else {
+        list.setStatus(id, simulated ? "planned" : "waiting", simulated ? qsTr("would be written") : qsTr("ready"),
+                       detail);
+    }
+}
+
+/** Adds a planned picture to the summary of a plan. */
+export function countItem(summary, item) {
+    summary.ready += item.status === "ready" ? 1 : 0;
+    summary.files += item.outputs.filter(isReady).length;
+    summary.originals += item.replacesOriginal ? 1 : 0;
+    summary.replaced += item.outputs.filter((output) => output.replaces).length;
+}
+
+export class RecipePlan extends LivePlan {
+    nothing() {
+        return { ready: 0, files: 0, originals: 0, replaced: 0, all: -1 };
+    }
+
+    work(ids, settings) {
+        // The engine loses a generator that is returned by the call that makes it.
+        const planning = recipePlan(this.window.pictures, ids, settings);
+        return planning;
+    }
+
+    // What was planned with another recipe does not hold.
+    refused() {
+        this.ids.filter((id) => !this.isFinal(id)).forEach((id) => {
+            this.window.pictures.setPlan(id, "–", "–");
+            this.window.pictures.setStatus(id, "waiting", qsTr("the recipe needs attention"), "");
+        });
+    }
+
+    take(item, summary) {
+        const id = this.ids[this.next];
+        this.next += 1;
+        if (this.isFinal(id)) {
+            summary.ready += item.status === "ready" ? 1 : 0;
+            return;
+        }
+        countItem(summary, item);
+        showRecipeItem(this.window.pictures, id, item, false);
+    }
+
+    ended(_value, summary) {
+        summary.all = this.ids.length;
+    }
+}
