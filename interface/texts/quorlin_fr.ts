@@ -3481,7 +3481,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1&#xa0;%</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>No file manager opens the folder. It is %1</source>

@@ -34,11 +34,14 @@ export class AddToRecipe {
         this.form.setItems("addToChoice", [qsTr("A new recipe")].concat(own.map((recipe) => recipe.name)),
                            [NEW].concat(own.map((recipe) => recipe.path)));
         this.form.shown = true;
+        this.form.control("addToEscape").enabled = true;
         this.form.control("addToChoice").setFocus();
     }
 
     close() {
         this.form.shown = false;
+        // Escape belongs to the window again.
+        this.form.control("addToEscape").enabled = false;
     }
 
     end() {

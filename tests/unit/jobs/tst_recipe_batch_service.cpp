@@ -1,0 +1,246 @@
+#include "jobs/services/recipe_batch.h"
+#include "tests/support/test_program.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QString key(const char *name)
+{
+    return QString::fromLatin1(name);
+}
+
+/** One value of each output. */
+QStringList valuesOf(const QVariantList &outputs, const char *name)
+{
+    QStringList values;
+    for (const QVariant &output : outputs)
+        values.append(output.toMap().value(key(name)).toString());
+    return values;
+}
+
+} // namespace
+
+/** A recipe over the pictures of a list, as scripts carry it out. */
+class TestRecipeBatchService : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void saysWhatIsWrong();
+    void plansEveryOutputAndWritesNothing();
+    void makesAllOutputsOfAPicture();
+    void numbersEqualNames();
+    void keepsWhatIsThereOrReplacesIt();
+    void replacesTheOriginalOnlyWhereItSaysSo();
+    void neverReplacesAnotherPictureOfTheList();
+    void leavesOutWhatIsSkipped();
+    void failsForWhatCannotBeRead();
+    void doesNotReplaceWhatAppearsMeanwhile();
+    void takesAnotherBaseFolder();
+    void makesEachPictureOnce();
+
+private:
+    QString at(const char *name) const { return m_folder->filePath(key(name)); }
+    void save(const char *name, QSize size) const
+    {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QVERIFY(QDir().mkpath(QFileInfo(at(name)).path()) && image.save(at(name)));
+    }
+    void write(const char *name) const
+    {
+        QFile file(at(name));
+        QVERIFY(QDir().mkpath(QFileInfo(at(name)).path()));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
+    }
+    bool isOld(const char *name) const
+    {
+        QFile file(at(name));
+        return file.open(QIODevice::ReadOnly) && file.readAll() == "old";
+    }
+    std::unique_ptr<jobs::RecipeBatch> batch(const QString &recipe, const QStringList &names) const
+    {
+        auto made = std::make_unique<jobs::RecipeBatch>();
+        made->setRecipe(recipe);
+        made->setFolder(m_folder->path());
+        QStringList paths;
+        for (const QString &name : names)
+            paths.append(m_folder->filePath(name));
+        made->setPaths(paths);
+        return made;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_two = key(R"({"quorlin": 1, "operations": [{"do": "resize", "longest": 20}],
+        "outputs": [{"type": "jpeg", "folder": "Out"},
+                    {"type": "png", "folder": "Out", "name": "{name}-{width}", "operations": [{"do": "resize", "longest": 10}]}]})");
+    QString m_one = key(R"({"quorlin": 1, "operations": [{"do": "resize", "longest": 20}],
+        "outputs": [{"type": "png", "ifTaken": "%1"}]})");
+};
+
+void TestRecipeBatchService::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    save("a.png", {40, 20});
+}
+
+/** Nothing unfinished stays. */
+void TestRecipeBatchService::cleanup()
+{
+    const QStringList hidden = QDir(m_folder->path())
+                                   .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
+                                   .filter(QRegularExpression(key("^\\.")));
+    QCOMPARE(hidden, QStringList());
+}
+
+void TestRecipeBatchService::saysWhatIsWrong()
+{
+    const auto wrong = batch(key(R"({"quorlin": 1, "outputs": []})"), {key("a.png")});
+    QVERIFY(wrong->problem().startsWith(key("outputs: ")));
+    QVERIFY(wrong->plan(0).isEmpty() && wrong->make(0).isEmpty());
+    const auto right = batch(m_two, {key("a.png")});
+    QCOMPARE(right->problem(), QString());
+    QVERIFY(right->plan(1).isEmpty() && right->plan(-1).isEmpty());
+}
+
+void TestRecipeBatchService::plansEveryOutputAndWritesNothing()
+{
+    const auto made = batch(m_two, {key("a.png")});
+    const QVariantList plan = made->plan(0);
+    QCOMPARE(valuesOf(plan, "status"), (QStringList{key("ready"), key("ready")}));
+    QCOMPARE(valuesOf(plan, "path"), (QStringList{at("Out/a.jpg"), at("Out/a-10.png")}));
+    QCOMPARE(valuesOf(plan, "type"), (QStringList{key("jpeg"), key("png")}));
+    QCOMPARE(valuesOf(plan, "width"), (QStringList{key("20"), key("10")}));
+    QVERIFY(!QFile::exists(at("Out")));
+}
+
+void TestRecipeBatchService::makesAllOutputsOfAPicture()
+{
+    const auto made = batch(m_two, {key("a.png")});
+    made->plan(0);
+    const QVariantList results = made->make(0);
+    QCOMPARE(valuesOf(results, "status"), (QStringList{key("OK"), key("OK")}));
+    QCOMPARE(QImage(at("Out/a.jpg")).size(), QSize(20, 10));
+    QCOMPARE(QImage(at("Out/a-10.png")).size(), QSize(10, 5));
+    QCOMPARE(valuesOf(results, "bytes"), (QStringList{QString::number(QFileInfo(at("Out/a.jpg")).size()),
+                                                      QString::number(QFileInfo(at("Out/a-10.png")).size())}));
+    QCOMPARE(QImage(at("a.png")).size(), QSize(40, 20));
+}
+
+void TestRecipeBatchService::numbersEqualNames()
+{
+    save("b/a.png", {10, 40});
+    const QString recipe = key(R"({"quorlin": 1, "outputs": [{"type": "jpeg", "folder": "%1"}]})").arg(at("All"));
+    const auto made = batch(recipe, {key("a.png"), key("b/a.png")});
+    QCOMPARE(valuesOf(made->plan(0), "path"), QStringList{at("All/a.jpg")});
+    QCOMPARE(valuesOf(made->plan(1), "path"), QStringList{at("All/a (2).jpg")});
+    // In whatever order they are made.
+    QCOMPARE(valuesOf(made->make(1), "status"), QStringList{key("OK")});
+    QCOMPARE(valuesOf(made->make(0), "status"), QStringList{key("OK")});
+    QCOMPARE(QImage(at("All/a (2).jpg")).size(), QSize(10, 40));
+}
+
+void TestRecipeBatchService::keepsWhatIsThereOrReplacesIt()
+{
+    write("Out/a.jpg");
+    const auto numbers = batch(m_two, {key("a.png")});
+    QCOMPARE(valuesOf(numbers->plan(0), "path").first(), at("Out/a (2).jpg"));
+    const QString replacing =
+        key(R"({"quorlin": 1, "outputs": [{"type": "jpeg", "folder": "Out", "ifTaken": "replace"}]})");
+    const auto replaces = batch(replacing, {key("a.png")});
+    const QVariantList plan = replaces->plan(0);
+    QCOMPARE(valuesOf(plan, "path"), QStringList{at("Out/a.jpg")});
+    QCOMPARE(valuesOf(plan, "replaces"), QStringList{key("true")});
+    QCOMPARE(valuesOf(plan, "replacesOriginal"), QStringList{key("false")});
+    QVERIFY(isOld("Out/a.jpg"));
+    replaces->make(0);
+    QCOMPARE(QImage(at("Out/a.jpg")).size(), QSize(40, 20));
+}
+
+void TestRecipeBatchService::replacesTheOriginalOnlyWhereItSaysSo()
+{
+    const auto numbers = batch(m_one.arg(key("number")), {key("a.png")});
+    QCOMPARE(valuesOf(numbers->plan(0), "path"), QStringList{at("a (2).png")});
+    const auto replaces = batch(m_one.arg(key("replace")), {key("a.png")});
+    QCOMPARE(valuesOf(replaces->plan(0), "replacesOriginal"), QStringList{key("true")});
+    replaces->make(0);
+    QCOMPARE(QImage(at("a.png")).size(), QSize(20, 10));
+}
+
+void TestRecipeBatchService::neverReplacesAnotherPictureOfTheList()
+{
+    save("b.jpg", {30, 30});
+    save("b.png", {8, 8});
+    const QString recipe = key(R"({"quorlin": 1, "outputs": [{"type": "jpeg", "ifTaken": "replace"}]})");
+    const auto made = batch(recipe, {key("b.png"), key("b.jpg")});
+    const QString wanted = valuesOf(made->plan(0), "path").first();
+    QVERIFY2(wanted != at("b.jpg"), qPrintable(wanted));
+}
+
+void TestRecipeBatchService::leavesOutWhatIsSkipped()
+{
+    const auto made = batch(m_one.arg(key("skip")), {key("a.png")});
+    const QVariantList plan = made->plan(0);
+    QCOMPARE(valuesOf(plan, "status"), QStringList{key("Skipped")});
+    QVERIFY(!valuesOf(plan, "reason").first().isEmpty());
+    QCOMPARE(valuesOf(made->make(0), "status"), QStringList{key("Skipped")});
+    QCOMPARE(QImage(at("a.png")).size(), QSize(40, 20));
+}
+
+void TestRecipeBatchService::failsForWhatCannotBeRead()
+{
+    write("broken.png");
+    const auto made = batch(m_two, {key("broken.png"), key("none.png"), key("a.png")});
+    for (int i = 0; i < 2; ++i) {
+        const QVariantList plan = made->plan(i);
+        QCOMPARE(valuesOf(plan, "status"), (QStringList{key("Failed"), key("Failed")}));
+        QVERIFY(!valuesOf(plan, "reason").contains(QString()));
+    }
+    // One that goes between plan and run.
+    made->plan(2);
+    QVERIFY(QFile::remove(at("a.png")));
+    const QVariantList results = made->make(2);
+    QCOMPARE(valuesOf(results, "status"), (QStringList{key("Failed"), key("Failed")}));
+    QVERIFY(!valuesOf(results, "reason").contains(QString()));
+    QVERIFY(!QFile::exists(at("Out/a.jpg")));
+}
+
+void TestRecipeBatchService::doesNotReplaceWhatAppearsMeanwhile()
+{
+    const auto made = batch(m_two, {key("a.png")});
+    made->plan(0);
+    write("Out/a.jpg");
+    const QVariantList results = made->make(0);
+    QCOMPARE(valuesOf(results, "path"), (QStringList{at("Out/a (2).jpg"), at("Out/a-10.png")}));
+    QVERIFY(isOld("Out/a.jpg"));
+}
+
+void TestRecipeBatchService::takesAnotherBaseFolder()
+{
+    const auto made = batch(m_two, {key("a.png")});
+    made->setBase(at("Base"));
+    QCOMPARE(valuesOf(made->plan(0), "path"), (QStringList{at("Base/Out/a.jpg"), at("Base/Out/a-10.png")}));
+}
+
+void TestRecipeBatchService::makesEachPictureOnce()
+{
+    const auto made = batch(m_two, {key("a.png")});
+    QVERIFY(made->make(0).isEmpty());
+    made->plan(0);
+    QCOMPARE(made->make(0).size(), 2);
+    QVERIFY(made->make(0).isEmpty());
+    QCOMPARE(QDir(at("Out")).entryList(QDir::Files).size(), 2);
+}
+
+QUORLIN_TEST(TestRecipeBatchService)
+
+#include "tst_recipe_batch_service.moc"
