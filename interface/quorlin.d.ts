@@ -1199,11 +1199,11 @@ declare module "quorlin/recipes" {
     export class RecipeBatch {
         constructor(fields?: fieldsOf<RecipeBatch>);
         /** The text of the recipe's file. */
-        recipe: text;
+        recipe: string;
         /** Where relative paths in it begin. */
-        folder: text;
+        folder: string;
         /** Where relative folders of its outputs begin; empty: the folder of each picture. */
-        base: text;
+        base: string;
         /** All pictures, in their order. */
         paths: texts;
         /** Why the recipe cannot be carried out, in a sentence; empty where it can. */
@@ -1512,8 +1512,6 @@ declare module "quorlin/shell" {
         /** From the first to the second. */
         readonly cursorPositionChanged: Signal<(value1: whole, value2: whole) => any>;
         readonly returnPressed: Signal<() => any>;
-        /** In place of what is selected, or where the cursor is. */
-        insert(text: text): null;
         selectAll(): null;
     }
 

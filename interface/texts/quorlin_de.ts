@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>AddToRecipe</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Add these settings to</source>
+        <translation>Diese Einstellungen hinzufügen zu</translation>
+    </message>
+    <message>
+        <source>Recipe to add to</source>
+        <translation>Rezept, zu dem hinzugefügt wird</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+</context>
+<context>
     <name>BackgroundPane</name>
     <message>
         <source>Background</source>
@@ -1305,6 +1324,135 @@
     </message>
 </context>
 <context>
+    <name>RecipeCard</name>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Verdoppeln</translation>
+    </message>
+    <message>
+        <source>Move this card (arrow keys)</source>
+        <translation>Diese Karte verschieben (Pfeiltasten)</translation>
+    </message>
+    <message>
+        <source>Drag to another place, or Alt+Up and Alt+Down</source>
+        <translation>An einen anderen Platz ziehen oder Alt+Hoch und Alt+Runter</translation>
+    </message>
+    <message>
+        <source>Use this operation</source>
+        <translation>Diese Bearbeitung anwenden</translation>
+    </message>
+    <message>
+        <source>Show or hide its settings</source>
+        <translation>Einstellungen ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Show this output in the preview</source>
+        <translation>Diese Ausgabe in der Vorschau zeigen</translation>
+    </message>
+    <message>
+        <source>Remove this card</source>
+        <translation>Diese Karte entfernen</translation>
+    </message>
+    <message>
+        <source>Remove this card (Ctrl+Del)</source>
+        <translation>Diese Karte entfernen (Strg+Entf)</translation>
+    </message>
+    <message>
+        <source>+ Add Operation for This Output…</source>
+        <translation>+ Bearbeitung nur für diese Ausgabe…</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeField</name>
+    <message>
+        <source>Insert a value of the picture</source>
+        <translation>Einen Wert des Bildes einfügen</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+</context>
+<context>
+    <name>RecipePane</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Rezept</translation>
+    </message>
+    <message>
+        <source>Make, save, rename, delete, export or import recipes</source>
+        <translation>Rezepte anlegen, sichern, umbenennen, löschen, exportieren oder importieren</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name of the recipe</source>
+        <translation>Name des Rezepts</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>This recipe reaches beyond the pictures’ own folders</source>
+        <translation>Dieses Rezept reicht über die Ordner der Bilder hinaus</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Erlauben</translation>
+    </message>
+    <message>
+        <source>Nothing was read or written there so far</source>
+        <translation>Bisher wurde dort nichts gelesen oder geschrieben</translation>
+    </message>
+    <message>
+        <source>No operations: the pictures stay as they are.</source>
+        <translation>Keine Bearbeitungen: die Bilder bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>+ Add Operation…</source>
+        <translation>+ Bearbeitung hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add an operation (Ctrl+Shift+A)</source>
+        <translation>Eine Bearbeitung hinzufügen (Strg+Umschalt+A)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>+ Add Output</source>
+        <translation>+ Ausgabe hinzufügen</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+</context>
+<context>
     <name>RenameCard</name>
     <message>
         <source>Move up</source>
@@ -1935,6 +2083,17 @@
     </message>
 </context>
 <context>
+    <name>action-page</name>
+    <message>
+        <source>Add to a Recipe…</source>
+        <translation>Zu einem Rezept hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Added. The recipe is not saved yet.</source>
+        <translation>Hinzugefügt. Das Rezept ist noch nicht gesichert.</translation>
+    </message>
+</context>
+<context>
     <name>actions</name>
     <message>
         <source>Pictures</source>
@@ -1947,6 +2106,13 @@
     <message>
         <source>Information</source>
         <translation>Information</translation>
+    </message>
+</context>
+<context>
+    <name>add-to-recipe</name>
+    <message>
+        <source>A new recipe</source>
+        <translation>Ein neues Rezept</translation>
     </message>
 </context>
 <context>
@@ -2508,6 +2674,17 @@
     <message>
         <source>Cut off at the picture’s edge.</source>
         <translation>Am Bildrand abgeschnitten.</translation>
+    </message>
+</context>
+<context>
+    <name>field-kinds</name>
+    <message>
+        <source>The part that draws the eye</source>
+        <translation>Der Teil, der ins Auge fällt</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
     </message>
 </context>
 <context>
@@ -3093,6 +3270,10 @@
     <message>
         <source>The sample pictures could not be copied into your folder of pictures</source>
         <translation>Die Beispielbilder konnten nicht in Ihren Bilderordner kopiert werden</translation>
+    </message>
+    <message>
+        <source>Recipe opened. Nothing was run.</source>
+        <translation>Rezept geöffnet. Nichts wurde ausgeführt.</translation>
     </message>
 </context>
 <context>
@@ -3879,6 +4060,10 @@
         <source>Now</source>
         <translation>Jetzt</translation>
     </message>
+    <message>
+        <source>Simulation: show, move nothing</source>
+        <translation>Simulation: zeigen, nichts bewegen</translation>
+    </message>
 </context>
 <context>
     <name>name-steps</name>
@@ -3896,6 +4081,376 @@
     <message>
         <source>Quorlin</source>
         <translation>Quorlin</translation>
+    </message>
+</context>
+<context>
+    <name>operation-fields</name>
+    <message>
+        <source>pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>picas</source>
+        <translation>Pica</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>At a resolution of its own</source>
+        <translation>Mit eigener Auflösung</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>How</source>
+        <translation>Wie</translation>
+    </message>
+    <message>
+        <source>Fit inside</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fill and cut</source>
+        <translation>Füllen und beschneiden</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Strecken</translation>
+    </message>
+    <message>
+        <source>Fit and fill the rest</source>
+        <translation>Einpassen und auffüllen</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Längste Seite</translation>
+    </message>
+    <message>
+        <source>Shortest side</source>
+        <translation>Kürzeste Seite</translation>
+    </message>
+    <message>
+        <source>Per cent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <source>Megapixels</source>
+        <translation>Megapixel</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Nach</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Enlarge small pictures too</source>
+        <translation>Auch kleine Bilder vergrößern</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Verhältnis</translation>
+    </message>
+    <message>
+        <source>Longer number along the longer side</source>
+        <translation>Größere Zahl an der längeren Seite</translation>
+    </message>
+    <message>
+        <source>Cut away</source>
+        <translation>Abschneiden</translation>
+    </message>
+    <message>
+        <source>Width and height</source>
+        <translation>Breite und Höhe</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>To the right</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>Moved from there</source>
+        <translation>Von dort verschoben</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Fill new corners</source>
+        <translation>Neue Ecken füllen</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>Width of the band</source>
+        <translation>Breite des Rahmens</translation>
+    </message>
+    <message>
+        <source>Colour of the band</source>
+        <translation>Farbe des Rahmens</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Colour outside</source>
+        <translation>Farbe außerhalb</translation>
+    </message>
+    <message>
+        <source>Band along the edge</source>
+        <translation>Band entlang des Rands</translation>
+    </message>
+    <message>
+        <source>Under it</source>
+        <translation>Darunter</translation>
+    </message>
+    <message>
+        <source>A colour</source>
+        <translation>Eine Farbe</translation>
+    </message>
+    <message>
+        <source>A pattern</source>
+        <translation>Ein Muster</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Watermark</source>
+        <translation>Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Over the whole picture</source>
+        <translation>Über das ganze Bild</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Stärke</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Gering</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>A profile file</source>
+        <translation>Eine Profildatei</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Left and right</source>
+        <translation>Links und rechts</translation>
+    </message>
+    <message>
+        <source>Top and bottom</source>
+        <translation>Oben und unten</translation>
+    </message>
+</context>
+<context>
+    <name>output-fields</name>
+    <message>
+        <source>Original file type</source>
+        <translation>Typ des Originals</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>Lossless, where the type can be</source>
+        <translation>Verlustfrei, wo der Typ es kann</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Verlustfrei</translation>
+    </message>
+    <message>
+        <source>Choose the quality</source>
+        <translation>Qualität wählen</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Limit the size of the file</source>
+        <translation>Dateigröße begrenzen</translation>
+    </message>
+    <message>
+        <source>At most</source>
+        <translation>Höchstens</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message>
+        <source>Keep all</source>
+        <translation>Alle behalten</translation>
+    </message>
+    <message>
+        <source>Keep copyright only</source>
+        <translation>Nur Copyright behalten</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Remove location</source>
+        <translation>Ort entfernen</translation>
+    </message>
+    <message>
+        <source>If it exists</source>
+        <translation>Wenn sie existiert</translation>
+    </message>
+    <message>
+        <source>Number the new file</source>
+        <translation>Neue Datei nummerieren</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Keep it if it is current</source>
+        <translation>Behalten, wenn sie aktuell ist</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Set the resolution</source>
+        <translation>Auflösung setzen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Under transparent parts</source>
+        <translation>Unter Durchsichtigem</translation>
+    </message>
+    <message>
+        <source>Keep the date of the file</source>
+        <translation>Datum der Datei behalten</translation>
     </message>
 </context>
 <context>
@@ -5824,6 +6379,571 @@
     <message>
         <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
         <translation>Daten, die der Kamerahersteller oder ein Programm neben EXIF ablegt, fallen weg</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-action</name>
+    <message>
+        <source>Recipe</source>
+        <translation>Rezept</translation>
+    </message>
+    <message numerus="yes">
+        <source>Run Recipe on %n Pictures</source>
+        <translation>
+            <numerusform>Rezept auf %n Bild anwenden</numerusform>
+            <numerusform>Rezept auf %n Bilder anwenden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>recipe-field</name>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Save results to</source>
+        <translation>Ergebnisse speichern in</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-files</name>
+    <message>
+        <source>Archive as lossless JPEG 2000</source>
+        <translation>Archiv als verlustfreies JPEG 2000</translation>
+    </message>
+    <message>
+        <source>Copyright watermark</source>
+        <translation>Copyright-Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>Mail under 1 MB</source>
+        <translation>E-Mail unter 1 MB</translation>
+    </message>
+    <message>
+        <source>Print 10 × 15 at 300 dpi</source>
+        <translation>Druck 10 × 15 mit 300 dpi</translation>
+    </message>
+    <message>
+        <source>Square on white</source>
+        <translation>Quadrat auf Weiß</translation>
+    </message>
+    <message>
+        <source>Web gallery</source>
+        <translation>Web-Galerie</translation>
+    </message>
+    <message>
+        <source>Enter a name.</source>
+        <translation>Geben Sie einen Namen ein.</translation>
+    </message>
+    <message>
+        <source>A name has no slash and does not begin with a dot.</source>
+        <translation>Ein Name hat keinen Schrägstrich und beginnt nicht mit einem Punkt.</translation>
+    </message>
+    <message>
+        <source>There is a recipe “%1” already.</source>
+        <translation>Es gibt schon ein Rezept „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 is no recipe: %2</source>
+        <translation>%1 ist kein Rezept: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be put into the trash.</source>
+        <translation>%1 konnte nicht in den Papierkorb gelegt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-head</name>
+    <message>
+        <source>New recipe</source>
+        <translation>Neues Rezept</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1, geändert</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>Opened from %1</source>
+        <translation>Geöffnet aus %1</translation>
+    </message>
+    <message>
+        <source>New Recipe</source>
+        <translation>Neues Rezept</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Speichern unter…</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Umbenennen…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Löschen…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren…</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>My recipe</source>
+        <translation>Mein Rezept</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete recipe</source>
+        <translation>Rezept löschen</translation>
+    </message>
+    <message>
+        <source>Put the recipe “%1” into the trash?</source>
+        <translation>Das Rezept „%1“ in den Papierkorb legen?</translation>
+    </message>
+    <message>
+        <source>What it does stays as it is shown now.</source>
+        <translation>Was es tut, bleibt, wie es jetzt gezeigt wird.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Export the recipe</source>
+        <translation>Das Rezept exportieren</translation>
+    </message>
+    <message>
+        <source>Recipe exported as %1</source>
+        <translation>Rezept exportiert als %1</translation>
+    </message>
+    <message>
+        <source>Import a recipe</source>
+        <translation>Ein Rezept importieren</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-pane</name>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Rezept</translation>
+    </message>
+    <message>
+        <source>Search operations</source>
+        <translation>Bearbeitungen suchen</translation>
+    </message>
+    <message>
+        <source>It reads:</source>
+        <translation>Es liest:</translation>
+    </message>
+    <message>
+        <source>It writes to:</source>
+        <translation>Es schreibt nach:</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-plan</name>
+    <message>
+        <source>%1 of %2 files: %3</source>
+        <translation>%1 von %2 Dateien: %3</translation>
+    </message>
+    <message>
+        <source>replaces original</source>
+        <translation>ersetzt Original</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <translation>ersetzt %1</translation>
+    </message>
+    <message>
+        <source>would be written</source>
+        <translation>würde geschrieben</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>the recipe needs attention</source>
+        <translation>das Rezept braucht Aufmerksamkeit</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-run</name>
+    <message>
+        <source>Cancelled before the first picture. Nothing was written.</source>
+        <translation>Vor dem ersten Bild abgebrochen. Nichts wurde geschrieben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Simulation: %n files would be written</source>
+        <translation>
+            <numerusform>Simulation: %n Datei würde geschrieben</numerusform>
+            <numerusform>Simulation: %n Dateien würden geschrieben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>nichts wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Abgebrochen. Nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>working…</source>
+        <translation>in Arbeit…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files: %3</source>
+        <translation>%1 von %2 Dateien: %3</translation>
+    </message>
+    <message>
+        <source>cancelled before its turn</source>
+        <translation>vorher abgebrochen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files made</source>
+        <translation>
+            <numerusform>%n Datei erstellt</numerusform>
+            <numerusform>%n Dateien erstellt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%1 not supported</source>
+        <translation>%1 nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>%1 übersprungen</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+    <message>
+        <source>Cancelled:</source>
+        <translation>Abgebrochen:</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-step</name>
+    <message>
+        <source>Look at what this recipe reads and writes, and allow it first.</source>
+        <translation>Sehen Sie erst an, was dieses Rezept liest und schreibt, und erlauben Sie es.</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-words</name>
+    <message>
+        <source>Resize</source>
+        <translation>Skalieren</translation>
+    </message>
+    <message>
+        <source>By a side, per cent, megapixels, or into a box</source>
+        <translation>Nach Seite, Prozent, Megapixel oder in einen Rahmen</translation>
+    </message>
+    <message>
+        <source>scale small large pixels size</source>
+        <translation>skalieren klein groß pixel größe</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>To a ratio, a size, or less at the edges</source>
+        <translation>Auf ein Verhältnis, eine Größe oder weniger am Rand</translation>
+    </message>
+    <message>
+        <source>cut trim ratio</source>
+        <translation>schneiden zuschneiden verhältnis</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>By any angle, clockwise</source>
+        <translation>Um einen Winkel, im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>turn angle straighten</source>
+        <translation>drehen winkel begradigen</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <source>Left and right, or top and bottom</source>
+        <translation>Links und rechts oder oben und unten</translation>
+    </message>
+    <message>
+        <source>mirror</source>
+        <translation>spiegeln</translation>
+    </message>
+    <message>
+        <source>Round corners</source>
+        <translation>Ecken abrunden</translation>
+    </message>
+    <message>
+        <source>Rectangle, circle, ellipse, with a band</source>
+        <translation>Rechteck, Kreis, Ellipse, mit Band</translation>
+    </message>
+    <message>
+        <source>radius circle</source>
+        <translation>radius kreis</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Under transparent parts</source>
+        <translation>Unter Durchsichtigem</translation>
+    </message>
+    <message>
+        <source>colour pattern transparent</source>
+        <translation>farbe muster durchsichtig</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Around the picture, on all sides</source>
+        <translation>Um das Bild, auf allen Seiten</translation>
+    </message>
+    <message>
+        <source>border edge</source>
+        <translation>rand kante</translation>
+    </message>
+    <message>
+        <source>Watermark</source>
+        <translation>Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>A text or a picture over the picture</source>
+        <translation>Ein Text oder ein Bild über dem Bild</translation>
+    </message>
+    <message>
+        <source>copyright logo text stamp</source>
+        <translation>copyright logo text stempel</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Schärfen</translation>
+    </message>
+    <message>
+        <source>For viewing at the size at that point</source>
+        <translation>Zum Betrachten in der Größe an dieser Stelle</translation>
+    </message>
+    <message>
+        <source>crisp unsharp</source>
+        <translation>scharf unscharf</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Farbprofil</translation>
+    </message>
+    <message>
+        <source>Convert colours to sRGB, Display P3 or another</source>
+        <translation>Farben nach sRGB, Display P3 oder anderem umwandeln</translation>
+    </message>
+    <message>
+        <source>icc grey convert</source>
+        <translation>icc grau umwandeln</translation>
+    </message>
+    <message>
+        <source>Width %1</source>
+        <translation>Breite %1</translation>
+    </message>
+    <message>
+        <source>Height %1</source>
+        <translation>Höhe %1</translation>
+    </message>
+    <message>
+        <source>Longest side %1</source>
+        <translation>Längste Seite %1</translation>
+    </message>
+    <message>
+        <source>Shortest side %1</source>
+        <translation>Kürzeste Seite %1</translation>
+    </message>
+    <message>
+        <source>Box %1</source>
+        <translation>Rahmen %1</translation>
+    </message>
+    <message>
+        <source>%1 % less</source>
+        <translation>%1 % weniger</translation>
+    </message>
+    <message>
+        <source>%1 px less</source>
+        <translation>%1 px weniger</translation>
+    </message>
+    <message>
+        <source>where the eye is drawn</source>
+        <translation>wo es ins Auge fällt</translation>
+    </message>
+    <message>
+        <source>no file chosen</source>
+        <translation>keine Datei gewählt</translation>
+    </message>
+    <message>
+        <source>Top and bottom</source>
+        <translation>Oben und unten</translation>
+    </message>
+    <message>
+        <source>Left and right</source>
+        <translation>Links und rechts</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Radius %1</source>
+        <translation>Radius %1</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Gering</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>lossless</source>
+        <translation>verlustfrei</translation>
+    </message>
+    <message>
+        <source>quality %1</source>
+        <translation>Qualität %1</translation>
+    </message>
+    <message>
+        <source>at most %1 kB</source>
+        <translation>höchstens %1 kB</translation>
+    </message>
+    <message>
+        <source>Output %1: %2</source>
+        <translation>Ausgabe %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>recipes</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simulation: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n Originals</source>
+        <translation>
+            <numerusform>%n Original ersetzen</numerusform>
+            <numerusform>%n Originale ersetzen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Originals are replaced by their results.</source>
+        <translation>Originale werden durch ihre Ergebnisse ersetzt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are replaced.</source>
+        <translation>
+            <numerusform>%n Datei wird ersetzt.</numerusform>
+            <numerusform>%n Dateien werden ersetzt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New names</source>
+        <translation>Neue Namen</translation>
+    </message>
+    <message>
+        <source>New sizes</source>
+        <translation>Neue Größen</translation>
     </message>
 </context>
 <context>
@@ -8293,6 +9413,10 @@
             <numerusform>%n Datei wird ersetzt.</numerusform>
             <numerusform>%n Dateien werden ersetzt.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Simulation: show, write nothing</source>
+        <translation>Simulation: zeigen, nichts schreiben</translation>
     </message>
 </context>
 <context>

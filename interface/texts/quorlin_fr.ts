@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>AddToRecipe</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Add these settings to</source>
+        <translation>Ajouter ces réglages à</translation>
+    </message>
+    <message>
+        <source>Recipe to add to</source>
+        <translation>Recette à compléter</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+</context>
+<context>
     <name>BackgroundPane</name>
     <message>
         <source>Background</source>
@@ -1105,7 +1124,7 @@
     </message>
     <message>
         <source>Values such as {name}, {taken} and {counter:001} stand for what each picture has; {{ is a brace.</source>
-        <translation>Des variables comme {name}, {taken} et {counter:001} valent ce que contient chaque image ; {{ donne une accolade.</translation>
+        <translation>Des variables comme {name}, {taken} et {counter:001} valent ce que contient chaque image&#x202f;; {{ donne une accolade.</translation>
     </message>
     <message>
         <source>Insert a value of the picture into the name</source>
@@ -1302,6 +1321,135 @@
     <message>
         <source>Short side binding</source>
         <translation>Reliure petit côté</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeCard</name>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>Move this card (arrow keys)</source>
+        <translation>Déplacer cette carte (flèches)</translation>
+    </message>
+    <message>
+        <source>Drag to another place, or Alt+Up and Alt+Down</source>
+        <translation>Glisser à une autre place, ou Alt+Haut et Alt+Bas</translation>
+    </message>
+    <message>
+        <source>Use this operation</source>
+        <translation>Utiliser cette opération</translation>
+    </message>
+    <message>
+        <source>Show or hide its settings</source>
+        <translation>Afficher ou masquer ses réglages</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>Show this output in the preview</source>
+        <translation>Afficher cette sortie dans l’aperçu</translation>
+    </message>
+    <message>
+        <source>Remove this card</source>
+        <translation>Retirer cette carte</translation>
+    </message>
+    <message>
+        <source>Remove this card (Ctrl+Del)</source>
+        <translation>Retirer cette carte (Ctrl+Suppr)</translation>
+    </message>
+    <message>
+        <source>+ Add Operation for This Output…</source>
+        <translation>+ Opération pour cette sortie…</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeField</name>
+    <message>
+        <source>Insert a value of the picture</source>
+        <translation>Insérer une valeur de l’image</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+</context>
+<context>
+    <name>RecipePane</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Recette</translation>
+    </message>
+    <message>
+        <source>Make, save, rename, delete, export or import recipes</source>
+        <translation>Créer, enregistrer, renommer, supprimer, exporter ou importer des recettes</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Name of the recipe</source>
+        <translation>Nom de la recette</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>This recipe reaches beyond the pictures’ own folders</source>
+        <translation>Cette recette sort des dossiers des images</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Autoriser</translation>
+    </message>
+    <message>
+        <source>Nothing was read or written there so far</source>
+        <translation>Rien n’y a été lu ni écrit jusqu’ici</translation>
+    </message>
+    <message>
+        <source>No operations: the pictures stay as they are.</source>
+        <translation>Aucune opération : les images restent telles quelles.</translation>
+    </message>
+    <message>
+        <source>+ Add Operation…</source>
+        <translation>+ Ajouter une opération…</translation>
+    </message>
+    <message>
+        <source>Add an operation (Ctrl+Shift+A)</source>
+        <translation>Ajouter une opération (Ctrl+Maj+A)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>+ Add Output</source>
+        <translation>+ Ajouter une sortie</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
     </message>
 </context>
 <context>
@@ -1935,6 +2083,17 @@
     </message>
 </context>
 <context>
+    <name>action-page</name>
+    <message>
+        <source>Add to a Recipe…</source>
+        <translation>Ajouter à une recette…</translation>
+    </message>
+    <message>
+        <source>Added. The recipe is not saved yet.</source>
+        <translation>Ajouté. La recette n’est pas encore enregistrée.</translation>
+    </message>
+</context>
+<context>
     <name>actions</name>
     <message>
         <source>Pictures</source>
@@ -1947,6 +2106,13 @@
     <message>
         <source>Information</source>
         <translation>Informations</translation>
+    </message>
+</context>
+<context>
+    <name>add-to-recipe</name>
+    <message>
+        <source>A new recipe</source>
+        <translation>Une nouvelle recette</translation>
     </message>
 </context>
 <context>
@@ -2508,6 +2674,17 @@
     <message>
         <source>Cut off at the picture’s edge.</source>
         <translation>Coupé au bord de l’image.</translation>
+    </message>
+</context>
+<context>
+    <name>field-kinds</name>
+    <message>
+        <source>The part that draws the eye</source>
+        <translation>La partie qui attire le regard</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
     </message>
 </context>
 <context>
@@ -3093,6 +3270,10 @@
     <message>
         <source>The sample pictures could not be copied into your folder of pictures</source>
         <translation>Les images d’exemple n’ont pas pu être copiées dans votre dossier d’images</translation>
+    </message>
+    <message>
+        <source>Recipe opened. Nothing was run.</source>
+        <translation>Recette ouverte. Rien n’a été exécuté.</translation>
     </message>
 </context>
 <context>
@@ -3879,6 +4060,10 @@
         <source>Now</source>
         <translation>Nom actuel</translation>
     </message>
+    <message>
+        <source>Simulation: show, move nothing</source>
+        <translation>Simulation&#x202f;: montrer sans déplacer</translation>
+    </message>
 </context>
 <context>
     <name>name-steps</name>
@@ -3896,6 +4081,376 @@
     <message>
         <source>Quorlin</source>
         <translation>Quorlin</translation>
+    </message>
+</context>
+<context>
+    <name>operation-fields</name>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>pouces</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>points</translation>
+    </message>
+    <message>
+        <source>picas</source>
+        <translation>picas</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>At a resolution of its own</source>
+        <translation>Avec sa propre résolution</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>How</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Fit inside</source>
+        <translation>Faire tenir</translation>
+    </message>
+    <message>
+        <source>Fill and cut</source>
+        <translation>Remplir et couper</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Étirer</translation>
+    </message>
+    <message>
+        <source>Fit and fill the rest</source>
+        <translation>Faire tenir et combler</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Grand côté</translation>
+    </message>
+    <message>
+        <source>Shortest side</source>
+        <translation>Plus petit côté</translation>
+    </message>
+    <message>
+        <source>Per cent</source>
+        <translation>Pour cent</translation>
+    </message>
+    <message>
+        <source>Megapixels</source>
+        <translation>Mégapixels</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Cadre</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Poids</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Selon</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>Enlarge small pictures too</source>
+        <translation>Agrandir aussi les petites images</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Longer number along the longer side</source>
+        <translation>Plus grand nombre sur le plus long côté</translation>
+    </message>
+    <message>
+        <source>Cut away</source>
+        <translation>Rogner</translation>
+    </message>
+    <message>
+        <source>Width and height</source>
+        <translation>Largeur et hauteur</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>To the right</source>
+        <translation>Vers la droite</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Moved from there</source>
+        <translation>Décalée de là</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Fill new corners</source>
+        <translation>Remplir les nouveaux coins</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Rayon</translation>
+    </message>
+    <message>
+        <source>Width of the band</source>
+        <translation>Largeur de la bande</translation>
+    </message>
+    <message>
+        <source>Colour of the band</source>
+        <translation>Couleur de la bande</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Forme</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cercle</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Colour outside</source>
+        <translation>Couleur à l’extérieur</translation>
+    </message>
+    <message>
+        <source>Band along the edge</source>
+        <translation>Bande le long du bord</translation>
+    </message>
+    <message>
+        <source>Under it</source>
+        <translation>Dessous</translation>
+    </message>
+    <message>
+        <source>A colour</source>
+        <translation>Une couleur</translation>
+    </message>
+    <message>
+        <source>A pattern</source>
+        <translation>Un motif</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Watermark</source>
+        <translation>Filigrane</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Over the whole picture</source>
+        <translation>Sur toute l’image</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Intensité</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Faible</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Forte</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>A profile file</source>
+        <translation>Un fichier de profil</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>Left and right</source>
+        <translation>Gauche et droite</translation>
+    </message>
+    <message>
+        <source>Top and bottom</source>
+        <translation>Haut et bas</translation>
+    </message>
+</context>
+<context>
+    <name>output-fields</name>
+    <message>
+        <source>Original file type</source>
+        <translation>Format d’origine</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Lossless, where the type can be</source>
+        <translation>Sans perte, si le type le permet</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Sans perte</translation>
+    </message>
+    <message>
+        <source>Choose the quality</source>
+        <translation>Choisir la qualité</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Limit the size of the file</source>
+        <translation>Limiter la taille du fichier</translation>
+    </message>
+    <message>
+        <source>At most</source>
+        <translation>Au plus</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Métadonnées</translation>
+    </message>
+    <message>
+        <source>Keep all</source>
+        <translation>Tout garder</translation>
+    </message>
+    <message>
+        <source>Keep copyright only</source>
+        <translation>Garder le copyright seul</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Tout retirer</translation>
+    </message>
+    <message>
+        <source>Remove location</source>
+        <translation>Retirer le lieu</translation>
+    </message>
+    <message>
+        <source>If it exists</source>
+        <translation>S’il existe</translation>
+    </message>
+    <message>
+        <source>Number the new file</source>
+        <translation>Numéroter le nouveau</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Passer</translation>
+    </message>
+    <message>
+        <source>Keep it if it is current</source>
+        <translation>Le garder s’il est à jour</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>Set the resolution</source>
+        <translation>Fixer la résolution</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Under transparent parts</source>
+        <translation>Sous le transparent</translation>
+    </message>
+    <message>
+        <source>Keep the date of the file</source>
+        <translation>Garder la date du fichier</translation>
     </message>
 </context>
 <context>
@@ -5824,6 +6379,571 @@
     <message>
         <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
         <translation>Les données que le fabricant de l’appareil ou un programme garde à côté d’EXIF sont laissées de côté</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-action</name>
+    <message>
+        <source>Recipe</source>
+        <translation>Recette</translation>
+    </message>
+    <message numerus="yes">
+        <source>Run Recipe on %n Pictures</source>
+        <translation>
+            <numerusform>Appliquer la recette à %n image</numerusform>
+            <numerusform>Appliquer la recette à %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>recipe-field</name>
+    <message>
+        <source>Top left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>En haut</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Au centre</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>En bas</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Save results to</source>
+        <translation>Enregistrer les résultats dans</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-files</name>
+    <message>
+        <source>Archive as lossless JPEG 2000</source>
+        <translation>Archive en JPEG 2000 sans perte</translation>
+    </message>
+    <message>
+        <source>Copyright watermark</source>
+        <translation>Filigrane de copyright</translation>
+    </message>
+    <message>
+        <source>Mail under 1 MB</source>
+        <translation>E-mail de moins de 1 Mo</translation>
+    </message>
+    <message>
+        <source>Print 10 × 15 at 300 dpi</source>
+        <translation>Tirage 10 × 15 à 300 ppp</translation>
+    </message>
+    <message>
+        <source>Square on white</source>
+        <translation>Carré sur blanc</translation>
+    </message>
+    <message>
+        <source>Web gallery</source>
+        <translation>Galerie web</translation>
+    </message>
+    <message>
+        <source>Enter a name.</source>
+        <translation>Saisissez un nom.</translation>
+    </message>
+    <message>
+        <source>A name has no slash and does not begin with a dot.</source>
+        <translation>Un nom n’a pas de barre oblique et ne commence pas par un point.</translation>
+    </message>
+    <message>
+        <source>There is a recipe “%1” already.</source>
+        <translation>Il y a déjà une recette « %1 ».</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>Lecture de %1 impossible.</translation>
+    </message>
+    <message>
+        <source>%1 is no recipe: %2</source>
+        <translation>%1 n’est pas une recette : %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be put into the trash.</source>
+        <translation>%1 n’a pas pu être mis à la corbeille.</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-head</name>
+    <message>
+        <source>New recipe</source>
+        <translation>Nouvelle recette</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1, modifié</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modifié</translation>
+    </message>
+    <message>
+        <source>Opened from %1</source>
+        <translation>Ouverte depuis %1</translation>
+    </message>
+    <message>
+        <source>New Recipe</source>
+        <translation>Nouvelle recette</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Renommer…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Supprimer…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>My recipe</source>
+        <translation>Ma recette</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Delete recipe</source>
+        <translation>Supprimer la recette</translation>
+    </message>
+    <message>
+        <source>Put the recipe “%1” into the trash?</source>
+        <translation>Mettre la recette « %1 » à la corbeille ?</translation>
+    </message>
+    <message>
+        <source>What it does stays as it is shown now.</source>
+        <translation>Ce qu’elle fait reste tel qu’affiché.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>Export the recipe</source>
+        <translation>Exporter la recette</translation>
+    </message>
+    <message>
+        <source>Recipe exported as %1</source>
+        <translation>Recette exportée sous %1</translation>
+    </message>
+    <message>
+        <source>Import a recipe</source>
+        <translation>Importer une recette</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-pane</name>
+    <message>
+        <source>Results</source>
+        <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Recette</translation>
+    </message>
+    <message>
+        <source>Search operations</source>
+        <translation>Rechercher une opération</translation>
+    </message>
+    <message>
+        <source>It reads:</source>
+        <translation>Elle lit :</translation>
+    </message>
+    <message>
+        <source>It writes to:</source>
+        <translation>Elle écrit dans :</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-plan</name>
+    <message>
+        <source>%1 of %2 files: %3</source>
+        <translation>%1 fichiers sur %2 : %3</translation>
+    </message>
+    <message>
+        <source>replaces original</source>
+        <translation>remplace l’original</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <translation>remplace %1</translation>
+    </message>
+    <message>
+        <source>would be written</source>
+        <translation>serait écrit</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prêt</translation>
+    </message>
+    <message>
+        <source>the recipe needs attention</source>
+        <translation>la recette demande attention</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-run</name>
+    <message>
+        <source>Cancelled before the first picture. Nothing was written.</source>
+        <translation>Arrêté avant la première image. Rien n’a été écrit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Simulation: %n files would be written</source>
+        <translation>
+            <numerusform>Simulation : %n fichier serait écrit</numerusform>
+            <numerusform>Simulation : %n fichiers seraient écrits</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>rien n’a été écrit</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Arrêté. Rien n’a été écrit.</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>en attente</translation>
+    </message>
+    <message>
+        <source>working…</source>
+        <translation>en cours…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files: %3</source>
+        <translation>%1 fichiers sur %2 : %3</translation>
+    </message>
+    <message>
+        <source>cancelled before its turn</source>
+        <translation>arrêté avant son tour</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files made</source>
+        <translation>
+            <numerusform>%n fichier créé</numerusform>
+            <numerusform>%n fichiers créés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>échecs&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 not supported</source>
+        <translation>non prises en charge&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>ignorées&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 écrits</translation>
+    </message>
+    <message>
+        <source>Cancelled:</source>
+        <translation>Arrêté&#x202f;:</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-step</name>
+    <message>
+        <source>Look at what this recipe reads and writes, and allow it first.</source>
+        <translation>Regardez d’abord ce que cette recette lit et écrit, puis autorisez-la.</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-words</name>
+    <message>
+        <source>Resize</source>
+        <translation>Redimensionner</translation>
+    </message>
+    <message>
+        <source>By a side, per cent, megapixels, or into a box</source>
+        <translation>Selon un côté, un pourcentage, des mégapixels ou un cadre</translation>
+    </message>
+    <message>
+        <source>scale small large pixels size</source>
+        <translation>échelle petit grand pixels taille</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recadrer</translation>
+    </message>
+    <message>
+        <source>To a ratio, a size, or less at the edges</source>
+        <translation>Selon un rapport, une taille, ou moins sur les bords</translation>
+    </message>
+    <message>
+        <source>cut trim ratio</source>
+        <translation>couper rogner rapport</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Pivoter</translation>
+    </message>
+    <message>
+        <source>By any angle, clockwise</source>
+        <translation>D’un angle quelconque, sens horaire</translation>
+    </message>
+    <message>
+        <source>turn angle straighten</source>
+        <translation>tourner angle redresser</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Miroir</translation>
+    </message>
+    <message>
+        <source>Left and right, or top and bottom</source>
+        <translation>Gauche et droite, ou haut et bas</translation>
+    </message>
+    <message>
+        <source>mirror</source>
+        <translation>miroir</translation>
+    </message>
+    <message>
+        <source>Round corners</source>
+        <translation>Arrondir les coins</translation>
+    </message>
+    <message>
+        <source>Rectangle, circle, ellipse, with a band</source>
+        <translation>Rectangle, cercle, ellipse, avec une bande</translation>
+    </message>
+    <message>
+        <source>radius circle</source>
+        <translation>rayon cercle</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fond</translation>
+    </message>
+    <message>
+        <source>Under transparent parts</source>
+        <translation>Sous le transparent</translation>
+    </message>
+    <message>
+        <source>colour pattern transparent</source>
+        <translation>couleur motif transparent</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Cadre</translation>
+    </message>
+    <message>
+        <source>Around the picture, on all sides</source>
+        <translation>Autour de l’image, de tous les côtés</translation>
+    </message>
+    <message>
+        <source>border edge</source>
+        <translation>bordure bord</translation>
+    </message>
+    <message>
+        <source>Watermark</source>
+        <translation>Filigrane</translation>
+    </message>
+    <message>
+        <source>A text or a picture over the picture</source>
+        <translation>Un texte ou une image sur l’image</translation>
+    </message>
+    <message>
+        <source>copyright logo text stamp</source>
+        <translation>copyright logo texte tampon</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Accentuer</translation>
+    </message>
+    <message>
+        <source>For viewing at the size at that point</source>
+        <translation>Pour l’affichage à la taille à ce stade</translation>
+    </message>
+    <message>
+        <source>crisp unsharp</source>
+        <translation>netteté flou</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Profil de couleurs</translation>
+    </message>
+    <message>
+        <source>Convert colours to sRGB, Display P3 or another</source>
+        <translation>Convertir les couleurs en sRGB, Display P3 ou autre</translation>
+    </message>
+    <message>
+        <source>icc grey convert</source>
+        <translation>icc gris convertir</translation>
+    </message>
+    <message>
+        <source>Width %1</source>
+        <translation>Largeur %1</translation>
+    </message>
+    <message>
+        <source>Height %1</source>
+        <translation>Hauteur %1</translation>
+    </message>
+    <message>
+        <source>Longest side %1</source>
+        <translation>Plus grand côté %1</translation>
+    </message>
+    <message>
+        <source>Shortest side %1</source>
+        <translation>Plus petit côté %1</translation>
+    </message>
+    <message>
+        <source>Box %1</source>
+        <translation>Cadre %1</translation>
+    </message>
+    <message>
+        <source>%1 % less</source>
+        <translation>%1 % de moins</translation>
+    </message>
+    <message>
+        <source>%1 px less</source>
+        <translation>%1 px de moins</translation>
+    </message>
+    <message>
+        <source>where the eye is drawn</source>
+        <translation>là où va le regard</translation>
+    </message>
+    <message>
+        <source>no file chosen</source>
+        <translation>aucun fichier choisi</translation>
+    </message>
+    <message>
+        <source>Top and bottom</source>
+        <translation>Haut et bas</translation>
+    </message>
+    <message>
+        <source>Left and right</source>
+        <translation>Gauche et droite</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cercle</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Radius %1</source>
+        <translation>Rayon %1</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>«&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Faible</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Forte</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>lossless</source>
+        <translation>sans perte</translation>
+    </message>
+    <message>
+        <source>quality %1</source>
+        <translation>qualité %1</translation>
+    </message>
+    <message>
+        <source>at most %1 kB</source>
+        <translation>au plus %1 ko</translation>
+    </message>
+    <message>
+        <source>Output %1: %2</source>
+        <translation>Sortie %1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>recipes</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simuler&#x202f;: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n Originals</source>
+        <translation>
+            <numerusform>remplacer %n original</numerusform>
+            <numerusform>remplacer %n originaux</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Originals are replaced by their results.</source>
+        <translation>Les originaux sont remplacés par leurs résultats.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are replaced.</source>
+        <translation>
+            <numerusform>%n fichier est remplacé.</numerusform>
+            <numerusform>%n fichiers sont remplacés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New names</source>
+        <translation>Nouveaux noms</translation>
+    </message>
+    <message>
+        <source>New sizes</source>
+        <translation>Nouvelles tailles</translation>
     </message>
 </context>
 <context>
@@ -8294,6 +9414,10 @@
             <numerusform>%n fichiers sont remplacés.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Simulation: show, write nothing</source>
+        <translation>Simulation&#x202f;: montrer sans écrire</translation>
+    </message>
 </context>
 <context>
     <name>written</name>
@@ -8335,7 +9459,7 @@
     </message>
     <message>
         <source>A name cannot have “/” in it.</source>
-        <translation>Un nom ne peut pas contenir « / ».</translation>
+        <translation>Un nom ne peut pas contenir «&#x202f;/&#x202f;».</translation>
     </message>
 </context>
 </TS>

@@ -29,6 +29,25 @@
     </message>
 </context>
 <context>
+    <name>AddToRecipe</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Add these settings to</source>
+        <translation>Deze instellingen toevoegen aan</translation>
+    </message>
+    <message>
+        <source>Recipe to add to</source>
+        <translation>Recept waaraan wordt toegevoegd</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Toevoegen</translation>
+    </message>
+</context>
+<context>
     <name>BackgroundPane</name>
     <message>
         <source>Background</source>
@@ -1305,6 +1324,135 @@
     </message>
 </context>
 <context>
+    <name>RecipeCard</name>
+    <message>
+        <source>Move up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Omlaag</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliceren</translation>
+    </message>
+    <message>
+        <source>Move this card (arrow keys)</source>
+        <translation>Deze kaart verplaatsen (pijltoetsen)</translation>
+    </message>
+    <message>
+        <source>Drag to another place, or Alt+Up and Alt+Down</source>
+        <translation>Sleep naar een andere plaats, of Alt+Omhoog en Alt+Omlaag</translation>
+    </message>
+    <message>
+        <source>Use this operation</source>
+        <translation>Deze bewerking gebruiken</translation>
+    </message>
+    <message>
+        <source>Show or hide its settings</source>
+        <translation>Instellingen tonen of verbergen</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Tonen</translation>
+    </message>
+    <message>
+        <source>Show this output in the preview</source>
+        <translation>Deze uitvoer in het voorbeeld tonen</translation>
+    </message>
+    <message>
+        <source>Remove this card</source>
+        <translation>Deze kaart verwijderen</translation>
+    </message>
+    <message>
+        <source>Remove this card (Ctrl+Del)</source>
+        <translation>Deze kaart verwijderen (Ctrl+Del)</translation>
+    </message>
+    <message>
+        <source>+ Add Operation for This Output…</source>
+        <translation>+ Bewerking voor deze uitvoer…</translation>
+    </message>
+</context>
+<context>
+    <name>RecipeField</name>
+    <message>
+        <source>Insert a value of the picture</source>
+        <translation>Een waarde van de foto invoegen</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Kiezen…</translation>
+    </message>
+</context>
+<context>
+    <name>RecipePane</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Recept</translation>
+    </message>
+    <message>
+        <source>Make, save, rename, delete, export or import recipes</source>
+        <translation>Recepten maken, bewaren, hernoemen, verwijderen, exporteren of importeren</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Name of the recipe</source>
+        <translation>Naam van het recept</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Bewaren</translation>
+    </message>
+    <message>
+        <source>This recipe reaches beyond the pictures’ own folders</source>
+        <translation>Dit recept reikt buiten de mappen van de foto’s</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Toestaan</translation>
+    </message>
+    <message>
+        <source>Nothing was read or written there so far</source>
+        <translation>Tot nu toe is daar niets gelezen of geschreven</translation>
+    </message>
+    <message>
+        <source>No operations: the pictures stay as they are.</source>
+        <translation>Geen bewerkingen: de foto’s blijven zoals ze zijn.</translation>
+    </message>
+    <message>
+        <source>+ Add Operation…</source>
+        <translation>+ Bewerking toevoegen…</translation>
+    </message>
+    <message>
+        <source>Add an operation (Ctrl+Shift+A)</source>
+        <translation>Een bewerking toevoegen (Ctrl+Shift+A)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>+ Add Output</source>
+        <translation>+ Uitvoer toevoegen</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+</context>
+<context>
     <name>RenameCard</name>
     <message>
         <source>Move up</source>
@@ -1935,6 +2083,17 @@
     </message>
 </context>
 <context>
+    <name>action-page</name>
+    <message>
+        <source>Add to a Recipe…</source>
+        <translation>Aan een recept toevoegen…</translation>
+    </message>
+    <message>
+        <source>Added. The recipe is not saved yet.</source>
+        <translation>Toegevoegd. Het recept is nog niet bewaard.</translation>
+    </message>
+</context>
+<context>
     <name>actions</name>
     <message>
         <source>Pictures</source>
@@ -1947,6 +2106,13 @@
     <message>
         <source>Information</source>
         <translation>Informatie</translation>
+    </message>
+</context>
+<context>
+    <name>add-to-recipe</name>
+    <message>
+        <source>A new recipe</source>
+        <translation>Een nieuw recept</translation>
     </message>
 </context>
 <context>
@@ -2508,6 +2674,17 @@
     <message>
         <source>Cut off at the picture’s edge.</source>
         <translation>Afgesneden aan de rand van de foto.</translation>
+    </message>
+</context>
+<context>
+    <name>field-kinds</name>
+    <message>
+        <source>The part that draws the eye</source>
+        <translation>Het deel dat de aandacht trekt</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Positie</translation>
     </message>
 </context>
 <context>
@@ -3093,6 +3270,10 @@
     <message>
         <source>The sample pictures could not be copied into your folder of pictures</source>
         <translation>De voorbeelden konden niet naar uw map met afbeeldingen worden gekopieerd</translation>
+    </message>
+    <message>
+        <source>Recipe opened. Nothing was run.</source>
+        <translation>Recept geopend. Er is niets uitgevoerd.</translation>
     </message>
 </context>
 <context>
@@ -3879,6 +4060,10 @@
         <source>Now</source>
         <translation>Nu</translation>
     </message>
+    <message>
+        <source>Simulation: show, move nothing</source>
+        <translation>Simulatie: tonen, niets verplaatsen</translation>
+    </message>
 </context>
 <context>
     <name>name-steps</name>
@@ -3896,6 +4081,376 @@
     <message>
         <source>Quorlin</source>
         <translation>Quorlin</translation>
+    </message>
+</context>
+<context>
+    <name>operation-fields</name>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>inch</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>punten</translation>
+    </message>
+    <message>
+        <source>picas</source>
+        <translation>pica’s</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Eenheid</translation>
+    </message>
+    <message>
+        <source>At a resolution of its own</source>
+        <translation>Met eigen resolutie</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolutie</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Positie</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Kleur</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breedte</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hoogte</translation>
+    </message>
+    <message>
+        <source>How</source>
+        <translation>Hoe</translation>
+    </message>
+    <message>
+        <source>Fit inside</source>
+        <translation>Passend maken</translation>
+    </message>
+    <message>
+        <source>Fill and cut</source>
+        <translation>Vullen en bijsnijden</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Uitrekken</translation>
+    </message>
+    <message>
+        <source>Fit and fill the rest</source>
+        <translation>Passend maken en opvullen</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Langste zijde</translation>
+    </message>
+    <message>
+        <source>Shortest side</source>
+        <translation>Kortste zijde</translation>
+    </message>
+    <message>
+        <source>Per cent</source>
+        <translation>Procent</translation>
+    </message>
+    <message>
+        <source>Megapixels</source>
+        <translation>Megapixels</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Vak</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Op</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Lengte</translation>
+    </message>
+    <message>
+        <source>Enlarge small pictures too</source>
+        <translation>Ook kleine foto’s vergroten</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Verhouding</translation>
+    </message>
+    <message>
+        <source>Longer number along the longer side</source>
+        <translation>Grootste getal langs de langste zijde</translation>
+    </message>
+    <message>
+        <source>Cut away</source>
+        <translation>Wegsnijden</translation>
+    </message>
+    <message>
+        <source>Width and height</source>
+        <translation>Breedte en hoogte</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>To the right</source>
+        <translation>Naar rechts</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Vert.</translation>
+    </message>
+    <message>
+        <source>Moved from there</source>
+        <translation>Van daar verschoven</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Hoek</translation>
+    </message>
+    <message>
+        <source>Fill new corners</source>
+        <translation>Nieuwe hoeken vullen</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Straal</translation>
+    </message>
+    <message>
+        <source>Width of the band</source>
+        <translation>Breedte binnenrand</translation>
+    </message>
+    <message>
+        <source>Colour of the band</source>
+        <translation>Kleur van de binnenrand</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Vorm</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechthoek</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cirkel</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellips</translation>
+    </message>
+    <message>
+        <source>Colour outside</source>
+        <translation>Kleur erbuiten</translation>
+    </message>
+    <message>
+        <source>Band along the edge</source>
+        <translation>Band langs de rand</translation>
+    </message>
+    <message>
+        <source>Under it</source>
+        <translation>Eronder</translation>
+    </message>
+    <message>
+        <source>A colour</source>
+        <translation>Een kleur</translation>
+    </message>
+    <message>
+        <source>A pattern</source>
+        <translation>Een patroon</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Patroon</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standaard</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Lettertype</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Watermark</source>
+        <translation>Watermerk</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Dekking</translation>
+    </message>
+    <message>
+        <source>Over the whole picture</source>
+        <translation>Over de hele foto</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Sterkte</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Laag</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoog</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grijs</translation>
+    </message>
+    <message>
+        <source>A profile file</source>
+        <translation>Een profielbestand</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profiel</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richting</translation>
+    </message>
+    <message>
+        <source>Left and right</source>
+        <translation>Links en rechts</translation>
+    </message>
+    <message>
+        <source>Top and bottom</source>
+        <translation>Boven en onder</translation>
+    </message>
+</context>
+<context>
+    <name>output-fields</name>
+    <message>
+        <source>Original file type</source>
+        <translation>Type van het origineel</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Bestandstype</translation>
+    </message>
+    <message>
+        <source>Lossless, where the type can be</source>
+        <translation>Verliesvrij, waar het type dat kan</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Verliesvrij</translation>
+    </message>
+    <message>
+        <source>Choose the quality</source>
+        <translation>Kwaliteit kiezen</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Kwaliteit</translation>
+    </message>
+    <message>
+        <source>Limit the size of the file</source>
+        <translation>Bestandsgrootte begrenzen</translation>
+    </message>
+    <message>
+        <source>At most</source>
+        <translation>Hoogstens</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
+    </message>
+    <message>
+        <source>Keep all</source>
+        <translation>Alles behouden</translation>
+    </message>
+    <message>
+        <source>Keep copyright only</source>
+        <translation>Alleen copyright behouden</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Alles verwijderen</translation>
+    </message>
+    <message>
+        <source>Remove location</source>
+        <translation>Locatie verwijderen</translation>
+    </message>
+    <message>
+        <source>If it exists</source>
+        <translation>Als het bestaat</translation>
+    </message>
+    <message>
+        <source>Number the new file</source>
+        <translation>Nummer toevoegen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Vervangen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Verder</translation>
+    </message>
+    <message>
+        <source>Keep it if it is current</source>
+        <translation>Bewaren als het actueel is</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>Set the resolution</source>
+        <translation>Resolutie instellen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolutie</translation>
+    </message>
+    <message>
+        <source>Under transparent parts</source>
+        <translation>Onder doorzichtige delen</translation>
+    </message>
+    <message>
+        <source>Keep the date of the file</source>
+        <translation>Datum van het bestand bewaren</translation>
     </message>
 </context>
 <context>
@@ -5824,6 +6379,571 @@
     <message>
         <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
         <translation>Gegevens die de camerafabrikant of een programma naast EXIF bewaart, worden weggelaten</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-action</name>
+    <message>
+        <source>Recipe</source>
+        <translation>Recept</translation>
+    </message>
+    <message numerus="yes">
+        <source>Run Recipe on %n Pictures</source>
+        <translation>
+            <numerusform>Recept op %n foto toepassen</numerusform>
+            <numerusform>Recept op %n foto’s toepassen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>recipe-field</name>
+    <message>
+        <source>Top left</source>
+        <translation>Linksboven</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Boven</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Rechtsboven</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Midden</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Linksonder</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Onder</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Rechtsonder</translation>
+    </message>
+    <message>
+        <source>Save results to</source>
+        <translation>Resultaten bewaren in</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-files</name>
+    <message>
+        <source>Archive as lossless JPEG 2000</source>
+        <translation>Archief als verliesvrije JPEG 2000</translation>
+    </message>
+    <message>
+        <source>Copyright watermark</source>
+        <translation>Copyright-watermerk</translation>
+    </message>
+    <message>
+        <source>Mail under 1 MB</source>
+        <translation>E-mail onder 1 MB</translation>
+    </message>
+    <message>
+        <source>Print 10 × 15 at 300 dpi</source>
+        <translation>Afdruk 10 × 15 op 300 dpi</translation>
+    </message>
+    <message>
+        <source>Square on white</source>
+        <translation>Vierkant op wit</translation>
+    </message>
+    <message>
+        <source>Web gallery</source>
+        <translation>Webgalerie</translation>
+    </message>
+    <message>
+        <source>Enter a name.</source>
+        <translation>Geef een naam op.</translation>
+    </message>
+    <message>
+        <source>A name has no slash and does not begin with a dot.</source>
+        <translation>Een naam heeft geen schuine streep en begint niet met een punt.</translation>
+    </message>
+    <message>
+        <source>There is a recipe “%1” already.</source>
+        <translation>Er is al een recept “%1”.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>%1 is no recipe: %2</source>
+        <translation>%1 is geen recept: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be put into the trash.</source>
+        <translation>%1 kon niet naar de prullenmand.</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-head</name>
+    <message>
+        <source>New recipe</source>
+        <translation>Nieuw recept</translation>
+    </message>
+    <message>
+        <source>%1, changed</source>
+        <translation>%1, gewijzigd</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>gewijzigd</translation>
+    </message>
+    <message>
+        <source>Opened from %1</source>
+        <translation>Geopend uit %1</translation>
+    </message>
+    <message>
+        <source>New Recipe</source>
+        <translation>Nieuw recept</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Bewaren</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Bewaren als…</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Hernoemen…</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Verwijderen…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporteren…</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importeren…</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultaten</translation>
+    </message>
+    <message>
+        <source>My recipe</source>
+        <translation>Mijn recept</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Hernoemen</translation>
+    </message>
+    <message>
+        <source>Delete recipe</source>
+        <translation>Recept verwijderen</translation>
+    </message>
+    <message>
+        <source>Put the recipe “%1” into the trash?</source>
+        <translation>Het recept “%1” naar de prullenmand?</translation>
+    </message>
+    <message>
+        <source>What it does stays as it is shown now.</source>
+        <translation>Wat het doet blijft zoals het nu getoond wordt.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>Export the recipe</source>
+        <translation>Het recept exporteren</translation>
+    </message>
+    <message>
+        <source>Recipe exported as %1</source>
+        <translation>Recept geëxporteerd als %1</translation>
+    </message>
+    <message>
+        <source>Import a recipe</source>
+        <translation>Een recept importeren</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-pane</name>
+    <message>
+        <source>Results</source>
+        <translation>Resultaten</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Recept</translation>
+    </message>
+    <message>
+        <source>Search operations</source>
+        <translation>Bewerkingen zoeken</translation>
+    </message>
+    <message>
+        <source>It reads:</source>
+        <translation>Het leest:</translation>
+    </message>
+    <message>
+        <source>It writes to:</source>
+        <translation>Het schrijft naar:</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-plan</name>
+    <message>
+        <source>%1 of %2 files: %3</source>
+        <translation>%1 van %2 bestanden: %3</translation>
+    </message>
+    <message>
+        <source>replaces original</source>
+        <translation>vervangt origineel</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <translation>vervangt %1</translation>
+    </message>
+    <message>
+        <source>would be written</source>
+        <translation>zou worden geschreven</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>in orde</translation>
+    </message>
+    <message>
+        <source>the recipe needs attention</source>
+        <translation>het recept vraagt aandacht</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-run</name>
+    <message>
+        <source>Cancelled before the first picture. Nothing was written.</source>
+        <translation>Geannuleerd vóór de eerste foto. Er is niets geschreven.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Simulation: %n files would be written</source>
+        <translation>
+            <numerusform>Simulatie: %n bestand zou worden geschreven</numerusform>
+            <numerusform>Simulatie: %n bestanden zouden worden geschreven</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>er is niets geschreven</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Geannuleerd. Er is niets geschreven.</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wacht</translation>
+    </message>
+    <message>
+        <source>working…</source>
+        <translation>bezig…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files: %3</source>
+        <translation>%1 van %2 bestanden: %3</translation>
+    </message>
+    <message>
+        <source>cancelled before its turn</source>
+        <translation>geannuleerd vóór de beurt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files made</source>
+        <translation>
+            <numerusform>%n bestand gemaakt</numerusform>
+            <numerusform>%n bestanden gemaakt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 mislukt</translation>
+    </message>
+    <message>
+        <source>%1 not supported</source>
+        <translation>%1 niet ondersteund</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>%1 overgeslagen</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschreven</translation>
+    </message>
+    <message>
+        <source>Cancelled:</source>
+        <translation>Geannuleerd:</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-step</name>
+    <message>
+        <source>Look at what this recipe reads and writes, and allow it first.</source>
+        <translation>Bekijk eerst wat dit recept leest en schrijft, en sta het toe.</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-words</name>
+    <message>
+        <source>Resize</source>
+        <translation>Schalen</translation>
+    </message>
+    <message>
+        <source>By a side, per cent, megapixels, or into a box</source>
+        <translation>Op zijde, procent, megapixels of in een kader</translation>
+    </message>
+    <message>
+        <source>scale small large pixels size</source>
+        <translation>schalen klein groot pixels formaat</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Bijsnijden</translation>
+    </message>
+    <message>
+        <source>To a ratio, a size, or less at the edges</source>
+        <translation>Naar een verhouding, een formaat of minder aan de randen</translation>
+    </message>
+    <message>
+        <source>cut trim ratio</source>
+        <translation>snijden bijsnijden verhouding</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Draaien</translation>
+    </message>
+    <message>
+        <source>By any angle, clockwise</source>
+        <translation>Met elke hoek, met de klok mee</translation>
+    </message>
+    <message>
+        <source>turn angle straighten</source>
+        <translation>draaien hoek rechtzetten</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Spiegelen</translation>
+    </message>
+    <message>
+        <source>Left and right, or top and bottom</source>
+        <translation>Links en rechts, of boven en onder</translation>
+    </message>
+    <message>
+        <source>mirror</source>
+        <translation>spiegelen</translation>
+    </message>
+    <message>
+        <source>Round corners</source>
+        <translation>Hoeken afronden</translation>
+    </message>
+    <message>
+        <source>Rectangle, circle, ellipse, with a band</source>
+        <translation>Rechthoek, cirkel, ellips, met band</translation>
+    </message>
+    <message>
+        <source>radius circle</source>
+        <translation>straal cirkel</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Achtergrond</translation>
+    </message>
+    <message>
+        <source>Under transparent parts</source>
+        <translation>Onder doorzichtige delen</translation>
+    </message>
+    <message>
+        <source>colour pattern transparent</source>
+        <translation>kleur patroon doorzichtig</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Kader</translation>
+    </message>
+    <message>
+        <source>Around the picture, on all sides</source>
+        <translation>Rond de foto, aan alle kanten</translation>
+    </message>
+    <message>
+        <source>border edge</source>
+        <translation>rand kant</translation>
+    </message>
+    <message>
+        <source>Watermark</source>
+        <translation>Watermerk</translation>
+    </message>
+    <message>
+        <source>A text or a picture over the picture</source>
+        <translation>Een tekst of een afbeelding over de foto</translation>
+    </message>
+    <message>
+        <source>copyright logo text stamp</source>
+        <translation>copyright logo tekst stempel</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Verscherpen</translation>
+    </message>
+    <message>
+        <source>For viewing at the size at that point</source>
+        <translation>Voor bekijken op het formaat op dat punt</translation>
+    </message>
+    <message>
+        <source>crisp unsharp</source>
+        <translation>scherp onscherp</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Kleurprofiel</translation>
+    </message>
+    <message>
+        <source>Convert colours to sRGB, Display P3 or another</source>
+        <translation>Kleuren omzetten naar sRGB, Display P3 of een ander</translation>
+    </message>
+    <message>
+        <source>icc grey convert</source>
+        <translation>icc grijs omzetten</translation>
+    </message>
+    <message>
+        <source>Width %1</source>
+        <translation>Breedte %1</translation>
+    </message>
+    <message>
+        <source>Height %1</source>
+        <translation>Hoogte %1</translation>
+    </message>
+    <message>
+        <source>Longest side %1</source>
+        <translation>Langste zijde %1</translation>
+    </message>
+    <message>
+        <source>Shortest side %1</source>
+        <translation>Kortste zijde %1</translation>
+    </message>
+    <message>
+        <source>Box %1</source>
+        <translation>Kader %1</translation>
+    </message>
+    <message>
+        <source>%1 % less</source>
+        <translation>%1 % minder</translation>
+    </message>
+    <message>
+        <source>%1 px less</source>
+        <translation>%1 px minder</translation>
+    </message>
+    <message>
+        <source>where the eye is drawn</source>
+        <translation>waar de aandacht gaat</translation>
+    </message>
+    <message>
+        <source>no file chosen</source>
+        <translation>geen bestand gekozen</translation>
+    </message>
+    <message>
+        <source>Top and bottom</source>
+        <translation>Boven en onder</translation>
+    </message>
+    <message>
+        <source>Left and right</source>
+        <translation>Links en rechts</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Cirkel</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellips</translation>
+    </message>
+    <message>
+        <source>Radius %1</source>
+        <translation>Straal %1</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Laag</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoog</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standaard</translation>
+    </message>
+    <message>
+        <source>lossless</source>
+        <translation>verliesvrij</translation>
+    </message>
+    <message>
+        <source>quality %1</source>
+        <translation>kwaliteit %1</translation>
+    </message>
+    <message>
+        <source>at most %1 kB</source>
+        <translation>hoogstens %1 kB</translation>
+    </message>
+    <message>
+        <source>Output %1: %2</source>
+        <translation>Uitvoer %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>recipes</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simuleren: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n Originals</source>
+        <translation>
+            <numerusform>%n origineel vervangen</numerusform>
+            <numerusform>%n originelen vervangen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Originals are replaced by their results.</source>
+        <translation>Originelen worden vervangen door hun resultaat.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files are replaced.</source>
+        <translation>
+            <numerusform>%n bestand wordt vervangen.</numerusform>
+            <numerusform>%n bestanden worden vervangen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New names</source>
+        <translation>Nieuwe namen</translation>
+    </message>
+    <message>
+        <source>New sizes</source>
+        <translation>Nieuwe formaten</translation>
     </message>
 </context>
 <context>
@@ -8293,6 +9413,10 @@
             <numerusform>%n bestand wordt vervangen.</numerusform>
             <numerusform>%n bestanden worden vervangen.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Simulation: show, write nothing</source>
+        <translation>Simulatie: tonen, niets schrijven</translation>
     </message>
 </context>
 <context>

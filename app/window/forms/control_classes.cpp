@@ -76,7 +76,7 @@ std::vector<ServiceEntry> toolkitClasses(const ServiceEntry &widget, const Servi
         listed<QLabel>("Label", &widget, {"text"}),
         listed<QLineEdit>("LineEdit", &widget,
             {"text cursorPosition placeholderText readOnly",
-             "textChanged(QString) textEdited(QString) cursorPositionChanged(int,int) returnPressed()", "insert(QString) selectAll()"}),
+             "textChanged(QString) textEdited(QString) cursorPositionChanged(int,int) returnPressed()", "selectAll()"}),
         listed<QPlainTextEdit>("TextEdit", &widget,
             {"plainText placeholderText readOnly", "textChanged()", "insertPlainText(QString) selectAll()"}),
         listed<ComboBox>("ComboBox", &widget, {"count currentIndex", "activated(int)"}),

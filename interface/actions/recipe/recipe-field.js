@@ -3,6 +3,7 @@
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
+import { insertAtCursor } from "../shared/token-menu.js";
 
 // The control of each kind; other controls of the form are hidden.
 const CONTROLS = { number: "fieldNumber", text: "fieldText", lines: "fieldLines", choice: "fieldChoice",
@@ -74,10 +75,10 @@ export class RecipeField {
         const name = CONTROLS[this.field.kind];
         if (this.field.kind === "lines") {
             this.control(name).insertPlainText(text);
+            this.control(name).setFocus();
         } else {
-            this.control(name).insert(text);
+            insertAtCursor(this.control(name), text);
         }
-        this.control(name).setFocus();
     }
 
     /** Shows a field; null hides the form. */

@@ -1,9 +1,9 @@
 // The settings of the Recipe action: which recipe, its operations as cards, and its outputs below them.
 
-import { tokens } from "quorlin/tokens";
 import { copyOf } from "../../lib/copies.js";
 import { guard } from "../../lib/guard.js";
 import { Pane } from "../shared/pane.js";
+import { fillTokens } from "../shared/token-menu.js";
 import { CardColumn } from "./card-column.js";
 import { allRecipes, ownFolder } from "./recipe-files.js";
 import { RecipeHead } from "./recipe-head.js";
@@ -14,16 +14,6 @@ import * as step from "./recipe-step.js";
 
 // About the height of a closed card and the gap behind it.
 const CARD_PX = 70;
-
-// What can stand in names, folders and watermarks.
-function offeredTokens() {
-    const offered = [];
-    tokens.offered().forEach((token) => token.forms.forEach((form) => {
-        offered.push({ title: token.words + (form === "" ? "" : "  " + form),
-                       text: "{" + token.name + (form === "" ? "" : ":" + form) + "}", example: token.example });
-    }));
-    return offered;
-}
 
 export class RecipePane extends Pane {
     /** @param parts  what panes get of the window: services and sayBeside are used */
@@ -79,15 +69,7 @@ export class RecipePane extends Pane {
         }));
         control("addOutput").clicked.connect(guard("addOutput", () => this.addOutput()));
         control("reachAllow").clicked.connect(guard("reachAllow", () => this.allowAll()));
-        this.joinTokens(control("tokenMenu"));
-    }
-
-    joinTokens(menu) {
-        const offered = offeredTokens();
-        menu.setPlaceholder(qsTr("Search values"));
-        menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text),
-                        offered.map((each) => each.example), offered.map((each) => each.text));
-        menu.chosen.connect(guard("tokenMenu", (text) => this.taker.insert(text)));
+        fillTokens(control("tokenMenu"), () => true, (text) => this.taker.insert(text));
     }
 
     cardHandlers() {

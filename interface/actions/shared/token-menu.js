@@ -3,16 +3,8 @@
 import { tokens } from "quorlin/tokens";
 import { guard } from "../../lib/guard.js";
 
-/**
- * Fills the menu of a form.
- *
- * @param names      of its controls: {menu, button}
- * @param isOffered  says of each token whether it can stand there
- * @param insert     is called with "{taken:yyyy}", once one is chosen
- */
-export function joinTokens(form, names, isOffered, insert) {
-    const menu = form.control(names.menu);
-    const button = form.control(names.button);
+/** Fills a menu with the tokens that isOffered takes; insert is called with "{taken:yyyy}", once one is chosen. */
+export function fillTokens(menu, isOffered, insert) {
     const offered = [];
     tokens.offered().filter(isOffered).forEach((token) => token.forms.forEach((each) => {
         offered.push({ title: token.words + (each === "" ? "" : "  " + each),
@@ -21,8 +13,20 @@ export function joinTokens(form, names, isOffered, insert) {
     menu.setPlaceholder(qsTr("Search values"));
     menu.setEntries(offered.map((each) => each.title), offered.map((each) => each.text),
                     offered.map((each) => each.example), offered.map((each) => each.text));
-    menu.chosen.connect(guard(names.menu, insert));
-    button.clicked.connect(guard(names.button, () => menu.popUp(button)));
+    menu.chosen.connect(guard("tokens", insert));
+}
+
+/**
+ * Fills the menu of a form.
+ *
+ * @param names      of its controls: {menu, button}
+ * @param isOffered  says of each token whether it can stand there
+ * @param insert     is called with "{taken:yyyy}", once one is chosen
+ */
+export function joinTokens(form, names, isOffered, insert) {
+    const button = form.control(names.button);
+    fillTokens(form.control(names.menu), isOffered, insert);
+    button.clicked.connect(guard(names.button, () => form.control(names.menu).popUp(button)));
 }
 
 /** Puts a text where the cursor of a field of one line is. */
