@@ -1,5 +1,5 @@
 /**
- * What scripts of Quorlin can import: ten modules. A test holds each of them against the program: names, order, parameters and
+ * What scripts of Quorlin can import: eleven modules. A test holds each of them against the program: names, order, parameters and
  * types. There is no other way from a script to a service.
  *
  * Nothing is converted in silence: an argument of another type, or another number of arguments, is a TypeError; a whole
@@ -1058,6 +1058,25 @@ declare module "quorlin/tokens" {
          */
         expand(path: text, facts: dictionary, index: double): texts;
     }
+}
+
+/** Pictures that arrive in a folder. */
+declare module "quorlin/watch" {
+    export const watch: {
+        /** The folder that is watched; empty where none is. */
+        readonly folder: string;
+        /** A picture is there, complete. */
+        readonly arrived: Signal<(path: text) => any>;
+        /** A sentence for the user. */
+        readonly told: Signal<(sentence: text) => any>;
+        /** The folder is gone; it is not watched any more. */
+        readonly ended: Signal<() => any>;
+        /** Watches it and all below it from now on, and nothing else; code is empty, "missing", "taken" or "system". */
+        start(folder: text, work: text): { code: string; detail: string };
+        stop(): null;
+        /** What is there now is a result, and no arrival. */
+        leaveOut(path: text): null;
+    };
 }
 
 /** Recipes (docs/recipes.md) for one picture. A recipe is the object that its file would hold, with one output; paths are absolute. */

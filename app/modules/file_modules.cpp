@@ -9,6 +9,7 @@
 #include "jobs/services/recipe_batch.h"
 #include "jobs/services/recipe_service.h"
 #include "jobs/services/recipe_work.h"
+#include "jobs/services/watch_service.h"
 #include "text/services/token_service.h"
 #include "text/services/token_text.h"
 
@@ -36,7 +37,8 @@ std::vector<ServiceEntry> fileServices()
             madeWithFields<TokenText>("quorlin/tokens"),
             oneObject<jobs::RecipeService>("quorlin/recipes", "recipes"),
             givenEntry<jobs::RecipeWork>("quorlin/recipes"),
-            madeWithFields<jobs::RecipeBatch>("quorlin/recipes")};
+            madeWithFields<jobs::RecipeBatch>("quorlin/recipes"),
+            oneObject<jobs::WatchService>("quorlin/watch", "watch")};
 }
 
 void addFileModules(ScriptEngine &scripts)
@@ -46,6 +48,7 @@ void addFileModules(ScriptEngine &scripts)
     offerServices(scripts, fileServices(), "quorlin/pictures", new image::PictureService(&scripts));
     offerServices(scripts, fileServices(), "quorlin/tokens", new text::TokenService(&scripts));
     offerServices(scripts, fileServices(), "quorlin/recipes", new jobs::RecipeService(&scripts));
+    offerServices(scripts, fileServices(), "quorlin/watch", new jobs::WatchService(&scripts));
 }
 
 } // namespace script

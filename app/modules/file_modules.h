@@ -8,7 +8,7 @@ namespace script {
 
 class ScriptEngine;
 
-/** The services of the modules "quorlin/files", "quorlin/moves", "quorlin/pictures", "quorlin/tokens" and "quorlin/recipes". */
+/** The services of the modules "quorlin/files", "quorlin/moves", "quorlin/pictures", "quorlin/tokens", "quorlin/recipes" and "quorlin/watch". */
 std::vector<ServiceEntry> fileServices();
 
 /** Adds the modules of fileServices(). They need no window. */
