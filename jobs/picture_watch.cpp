@@ -26,6 +26,8 @@ qint64 nowNs()
         .count();
 }
 
+constexpr qint64 pauseMs = 2000; ///< between two looks
+
 /** Whether somebody wrote to a file in between, or put another one in its place. */
 bool isAnother(const TargetFacts &one, const TargetFacts &other)
 {
@@ -39,6 +41,9 @@ PictureWatch::PictureWatch(const QStringList &folders, const WatchOptions &optio
 {
     for (const QString &extension : pictureExtensions())
         m_extensions.insert(extension.toLower());
+    for (const QString &folder : folders)
+        if (const auto facts = platform::targetFacts(folder))
+            m_numbers.insert(folder, facts->number);
     m_clock.start();
 }
 
@@ -79,8 +84,12 @@ PictureWatch::State PictureWatch::look(int waitMs)
 {
     if (m_watch)
         readNews();
-    else if (m_clock.elapsed() >= m_nextLook)
-        lookThrough();
+    if (m_clock.elapsed() >= m_nextLook) {
+        m_nextLook = m_clock.elapsed() + qMin(pauseMs, m_options.stillMs);
+        lookForFolders();
+        if (!m_watch)
+            lookThrough();
+    }
     takeDue();
     if (m_complete.empty() && m_folders.isEmpty())
         return State::Ended;
@@ -92,16 +101,31 @@ PictureWatch::State PictureWatch::look(int waitMs)
     return m_complete.empty() ? State::Waiting : State::Ready;
 }
 
+/** The system does not tell of a folder that is deleted while somebody, its lock for one, holds a file of it open. */
+void PictureWatch::lookForFolders()
+{
+    const QStringList folders = m_folders;
+    for (const QString &folder : folders) {
+        const auto facts = platform::targetFacts(folder);
+        if (!facts || facts->number != m_numbers.value(folder))
+            lose(folder);
+    }
+}
+
+void PictureWatch::lose(const QString &folder)
+{
+    if (m_folders.removeAll(folder) > 0)
+        m_news = image::sentence("%1 is gone").arg(folder);
+}
+
 void PictureWatch::readNews()
 {
     const qint64 before = nowNs();
     const platform::FolderWatch::News news = m_watch->read();
     for (const QString &path : news.files)
         wait(path);
-    for (const QString &folder : news.lost) {
-        m_folders.removeAll(folder);
-        m_news = image::sentence("%1 is gone").arg(folder);
-    }
+    for (const QString &folder : news.lost)
+        lose(folder);
     if (news.isMissing)
         lookForChangesSince(m_lastNewsNs - nsPerSecond, true);
     m_lastNewsNs = before;
@@ -118,7 +142,6 @@ void PictureWatch::readNews()
 
 void PictureWatch::lookThrough()
 {
-    constexpr qint64 pauseMs = 2000;
     QHash<QString, TargetFacts> seen;
     for (const QString &folder : std::as_const(m_folders)) {
         for (const QString &path : picturesIn(folder)) {

@@ -67,6 +67,8 @@ private:
 
     PictureWatch(const QStringList &folders, const WatchOptions &options);
     void readNews();
+    void lookForFolders();
+    void lose(const QString &folder);
     void lookThrough();
     void lookForChangesSince(qint64 ns, bool isLive);
     void wait(const QString &path, bool isLive = true);
@@ -77,6 +79,7 @@ private:
     QStringList picturesIn(const QString &folder) const;
 
     QStringList m_folders;
+    QHash<QString, platform::ItemNumber> m_numbers; ///< of these folders at the start
     WatchOptions m_options;
     QSet<QString> m_extensions;
     std::optional<platform::FolderWatch> m_watch;                ///< none where the folders are looked through

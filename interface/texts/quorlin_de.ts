@@ -834,6 +834,18 @@
         <source>Puts five pictures into the folder “Quorlin Samples” among your pictures</source>
         <translation>Legt fünf Bilder in den Ordner „Quorlin Samples“ bei Ihren Bildern</translation>
     </message>
+    <message>
+        <source>&amp;Watch a Folder…</source>
+        <translation>Ordner über&amp;wachen…</translation>
+    </message>
+    <message>
+        <source>Pictures that arrive in a folder are worked on at once, with these settings</source>
+        <translation>Bilder, die in einem Ordner ankommen, werden gleich mit diesen Einstellungen bearbeitet</translation>
+    </message>
+    <message>
+        <source>Stop Watching</source>
+        <translation>Überwachung beenden</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -8838,6 +8850,49 @@
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+</context>
+<context>
+    <name>watching</name>
+    <message>
+        <source>Pictures of a watched folder are written at once: turn Simulation off first.</source>
+        <translation>Bilder eines überwachten Ordners werden gleich geschrieben: schalten Sie zuerst die Simulation aus.</translation>
+    </message>
+    <message>
+        <source>Nobody can be asked while a folder is watched: choose to number or to skip what is there already.</source>
+        <translation>Während ein Ordner überwacht wird, kann niemand gefragt werden: lassen Sie vorhandene Namen nummerieren oder überspringen.</translation>
+    </message>
+    <message>
+        <source>Watch a folder</source>
+        <translation>Einen Ordner überwachen</translation>
+    </message>
+    <message>
+        <source>This folder is not there.</source>
+        <translation>Diesen Ordner gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>This folder is watched for the same by another window or program.</source>
+        <translation>Dieser Ordner wird schon von einem anderen Fenster oder Programm für dasselbe überwacht.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be watched: %1</source>
+        <translation>Der Ordner kann nicht überwacht werden: %1</translation>
+    </message>
+    <message>
+        <source>The folder “%1” is gone and is not watched any more.</source>
+        <translation>Den Ordner „%1“ gibt es nicht mehr; er wird nicht weiter überwacht.</translation>
+    </message>
+    <message>
+        <source>Watching “%1”</source>
+        <translation>„%1“ wird überwacht</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>%1 fertig</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 fehlgeschlagen</translation>
     </message>
 </context>
 <context>

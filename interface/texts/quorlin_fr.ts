@@ -834,6 +834,18 @@
         <source>Puts five pictures into the folder “Quorlin Samples” among your pictures</source>
         <translation>Place cinq images dans le dossier « Quorlin Samples » de vos images</translation>
     </message>
+    <message>
+        <source>&amp;Watch a Folder…</source>
+        <translation>&amp;Surveiller un dossier…</translation>
+    </message>
+    <message>
+        <source>Pictures that arrive in a folder are worked on at once, with these settings</source>
+        <translation>Les images qui arrivent dans un dossier sont traitées aussitôt avec ces réglages</translation>
+    </message>
+    <message>
+        <source>Stop Watching</source>
+        <translation>Arrêter la surveillance</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -8838,6 +8850,49 @@
     <message>
         <source>Undo</source>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>watching</name>
+    <message>
+        <source>Pictures of a watched folder are written at once: turn Simulation off first.</source>
+        <translation>Les images d’un dossier surveillé sont écrites aussitôt : désactivez d’abord la simulation.</translation>
+    </message>
+    <message>
+        <source>Nobody can be asked while a folder is watched: choose to number or to skip what is there already.</source>
+        <translation>Pendant la surveillance, personne ne peut répondre : choisissez de numéroter ou d’ignorer ce qui existe déjà.</translation>
+    </message>
+    <message>
+        <source>Watch a folder</source>
+        <translation>Surveiller un dossier</translation>
+    </message>
+    <message>
+        <source>This folder is not there.</source>
+        <translation>Ce dossier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>This folder is watched for the same by another window or program.</source>
+        <translation>Ce dossier est déjà surveillé pour la même tâche par une autre fenêtre ou un autre programme.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be watched: %1</source>
+        <translation>Le dossier ne peut pas être surveillé : %1</translation>
+    </message>
+    <message>
+        <source>The folder “%1” is gone and is not watched any more.</source>
+        <translation>Le dossier « %1 » a disparu et n’est plus surveillé.</translation>
+    </message>
+    <message>
+        <source>Watching “%1”</source>
+        <translation>Surveillance de « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>%1 terminées</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 en échec</translation>
     </message>
 </context>
 <context>

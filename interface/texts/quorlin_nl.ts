@@ -834,6 +834,18 @@
         <source>Puts five pictures into the folder “Quorlin Samples” among your pictures</source>
         <translation>Zet vijf afbeeldingen in de map ‘Quorlin Samples’ bij uw afbeeldingen</translation>
     </message>
+    <message>
+        <source>&amp;Watch a Folder…</source>
+        <translation>Map in de gaten &amp;houden…</translation>
+    </message>
+    <message>
+        <source>Pictures that arrive in a folder are worked on at once, with these settings</source>
+        <translation>Afbeeldingen die in een map aankomen worden meteen met deze instellingen bewerkt</translation>
+    </message>
+    <message>
+        <source>Stop Watching</source>
+        <translation>Stoppen</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -8838,6 +8850,49 @@
     <message>
         <source>Undo</source>
         <translation>Ongedaan maken</translation>
+    </message>
+</context>
+<context>
+    <name>watching</name>
+    <message>
+        <source>Pictures of a watched folder are written at once: turn Simulation off first.</source>
+        <translation>Afbeeldingen uit een bewaakte map worden meteen geschreven: zet eerst de simulatie uit.</translation>
+    </message>
+    <message>
+        <source>Nobody can be asked while a folder is watched: choose to number or to skip what is there already.</source>
+        <translation>Tijdens het bewaken kan niemand worden gevraagd: kies nummeren of overslaan voor wat er al is.</translation>
+    </message>
+    <message>
+        <source>Watch a folder</source>
+        <translation>Een map in de gaten houden</translation>
+    </message>
+    <message>
+        <source>This folder is not there.</source>
+        <translation>Deze map bestaat niet.</translation>
+    </message>
+    <message>
+        <source>This folder is watched for the same by another window or program.</source>
+        <translation>Deze map wordt al door een ander venster of programma voor hetzelfde bewaakt.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be watched: %1</source>
+        <translation>De map kan niet worden bewaakt: %1</translation>
+    </message>
+    <message>
+        <source>The folder “%1” is gone and is not watched any more.</source>
+        <translation>De map ‘%1’ is verdwenen en wordt niet meer bewaakt.</translation>
+    </message>
+    <message>
+        <source>Watching “%1”</source>
+        <translation>‘%1’ wordt bewaakt</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>%1 klaar</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 mislukt</translation>
     </message>
 </context>
 <context>

@@ -64,6 +64,8 @@ void WatchService::look()
 {
     // Who listens may stop watching.
     while (m_watch) {
+        if (m_watch->descriptor() < 0) // the folders are looked through from now on
+            m_news.reset();
         if (const QString news = m_watch->news(); !news.isEmpty())
             Q_EMIT told(news);
         else if (const auto state = m_watch->look(0); state == PictureWatch::State::Ready)

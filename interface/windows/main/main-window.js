@@ -19,6 +19,7 @@ import { PreviewSide } from "./preview-side.js";
 import { Printing } from "./printing.js";
 import { showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
+import { Watching } from "./watching.js";
 
 const SAID_MS = 8000;
 // More folders than these are opened in the one that holds them all.
@@ -70,6 +71,7 @@ export class MainWindow {
         this.input = new Input(this);
         this.history = new History(this);
         this.support = new SupportBar(this);
+        this.watching = new Watching(this);
         this.shownPage = this.action.page === undefined ? null : this.action;
         this.pageHost.show(this.shownPage);
         this.support.show();
@@ -127,7 +129,7 @@ export class MainWindow {
     }
 
     showStart() {
-        const busy = this.run.isBusy();
+        const busy = this.isBusy();
         const manner = this.manner;
         const ready = manner.isReady(this) && this.shownPage === null
             && this.action.step.validate(this.settings).length === 0;
@@ -155,7 +157,7 @@ export class MainWindow {
 
     // What can be done with the list.
     showInputState() {
-        const busy = this.run.isBusy();
+        const busy = this.isBusy();
         const any = this.pictures.count > 0;
         const onList = this.shownPage === null || this.shownPage.usesList;
         const enable = (names, on) => names.forEach((name) => { this.form.control(name).enabled = on; });
@@ -173,11 +175,17 @@ export class MainWindow {
         }
     }
 
+    /** Whether list and settings are left as they are: a run is under way, or a folder is watched. */
+    isBusy() {
+        return this.run.isBusy() || this.watching.isOn();
+    }
+
     showAll() {
         this.showTitle();
         this.showInputState();
         this.showStart();
         showStatusBar(this);
+        this.watching.show();
         this.help.tell();
     }
 
@@ -204,6 +212,7 @@ export class MainWindow {
             this.history.lookForRun();
         }
         this.pageHost.runChanged();
+        this.watching.runChanged();
         this.showAll();
     }
 

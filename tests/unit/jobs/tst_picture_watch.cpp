@@ -33,6 +33,8 @@ private Q_SLOTS:
     void takesWhatCameSince_data() { manners(); }
     void takesWhatCameSince();
     void endsWithoutFolders();
+    void noticesThatAFolderIsDeleted_data() { manners(); }
+    void noticesThatAFolderIsDeleted();
     void tellsOfTooManyFolders();
     void locksFolders();
 
@@ -207,6 +209,22 @@ void TestPictureWatch::endsWithoutFolders()
     QTRY_COMPARE(watch->look(10), PictureWatch::State::Ended);
     QVERIFY(watch->news().contains(m_folder->path("in")));
     QVERIFY(!PictureWatch::start({m_folder->path("none")}, options));
+}
+
+void TestPictureWatch::noticesThatAFolderIsDeleted()
+{
+    WatchLock lock;
+    QVERIFY(lock.take(m_folder->path("in"), QStringLiteral("work"))); // it holds a file of it open
+    QFETCH(int, manner);
+    WatchOptions options;
+    options.manner = WatchOptions::Manner(manner);
+    options.stillMs = stillMs;
+    auto watch = PictureWatch::start({m_folder->path("in")}, options);
+    QVERIFY(watch && watch->look(0) == PictureWatch::State::Waiting);
+    QVERIFY(QDir(m_folder->path("in")).removeRecursively());
+    QVERIFY(QDir().mkpath(m_folder->path("in"))); // another one
+    QTRY_VERIFY(watch->look(10) == PictureWatch::State::Ended);
+    QVERIFY(watch->news().endsWith(QLatin1String("is gone")));
 }
 
 void TestPictureWatch::tellsOfTooManyFolders()
