@@ -1225,12 +1225,24 @@ declare module "quorlin/recipes" {
         base: string;
         /** All pictures, in their order. */
         paths: texts;
+        /** How many more should be handed over now, so that no worker waits. */
+        readonly room: whole;
+        /** How many were handed over and were not taken yet. */
+        readonly inWork: whole;
+        /** There is something to take. */
+        readonly arrived: Signal<() => any>;
         /** Why the recipe cannot be carried out, in a sentence; empty where it can. */
         problem(): string;
         /** By the number of the picture, from 0; for all in their order, each once. */
         plan(index: whole): PlannedOutput[];
-        /** Makes the outputs of a picture that was planned, from one decoding. */
-        make(index: whole): MadeOutput[];
+        /** Hands a picture that was planned to a worker, which makes all its outputs from one decoding. */
+        give(index: whole): null;
+        /** A picture that has come, {number, outputs, ms}; without any keys where there is none. See MadeOutput. */
+        take(): { [key: string]: any };
+        /** Takes back what no worker has begun; the numbers of those. */
+        takeBack(): any[];
+        /** Gives up what is in work, of which nothing is left, and forgets what was planned. */
+        close(): null;
     }
 }
 

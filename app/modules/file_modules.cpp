@@ -25,6 +25,14 @@ template<typename T> ServiceEntry madeWithFields(const char *module)
     return entry;
 }
 
+/** The same, with signals. What is connected keeps it, so whoever connects something says when it is of no use any more. */
+template<typename T> ServiceEntry madeWithSignals(const char *module)
+{
+    ServiceEntry entry = madeWithFields<T>(module);
+    entry.offersSignals = true;
+    return entry;
+}
+
 } // namespace
 
 std::vector<ServiceEntry> fileServices()
@@ -37,7 +45,7 @@ std::vector<ServiceEntry> fileServices()
             madeWithFields<TokenText>("quorlin/tokens"),
             oneObject<jobs::RecipeService>("quorlin/recipes", "recipes"),
             givenEntry<jobs::RecipeWork>("quorlin/recipes"),
-            madeWithFields<jobs::RecipeBatch>("quorlin/recipes"),
+            madeWithSignals<jobs::RecipeBatch>("quorlin/recipes"),
             oneObject<jobs::WatchService>("quorlin/watch", "watch")};
 }
 

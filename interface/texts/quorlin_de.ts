@@ -6644,10 +6644,6 @@
 </context>
 <context>
     <name>recipe-run</name>
-    <message>
-        <source>Cancelled before the first picture. Nothing was written.</source>
-        <translation>Vor dem ersten Bild abgebrochen. Nichts wurde geschrieben.</translation>
-    </message>
     <message numerus="yes">
         <source>Simulation: %n files would be written</source>
         <translation>
@@ -6660,24 +6656,8 @@
         <translation>nichts wurde geschrieben</translation>
     </message>
     <message>
-        <source>Cancelled. Nothing was written.</source>
-        <translation>Abgebrochen. Nichts wurde geschrieben.</translation>
-    </message>
-    <message>
-        <source>waiting</source>
-        <translation>wartet</translation>
-    </message>
-    <message>
-        <source>working…</source>
-        <translation>in Arbeit…</translation>
-    </message>
-    <message>
         <source>%1 of %2 files: %3</source>
         <translation>%1 von %2 Dateien: %3</translation>
-    </message>
-    <message>
-        <source>cancelled before its turn</source>
-        <translation>vorher abgebrochen</translation>
     </message>
     <message numerus="yes">
         <source>%n files made</source>

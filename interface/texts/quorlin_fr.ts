@@ -6644,10 +6644,6 @@
 </context>
 <context>
     <name>recipe-run</name>
-    <message>
-        <source>Cancelled before the first picture. Nothing was written.</source>
-        <translation>Arrêté avant la première image. Rien n’a été écrit.</translation>
-    </message>
     <message numerus="yes">
         <source>Simulation: %n files would be written</source>
         <translation>
@@ -6660,24 +6656,8 @@
         <translation>rien n’a été écrit</translation>
     </message>
     <message>
-        <source>Cancelled. Nothing was written.</source>
-        <translation>Arrêté. Rien n’a été écrit.</translation>
-    </message>
-    <message>
-        <source>waiting</source>
-        <translation>en attente</translation>
-    </message>
-    <message>
-        <source>working…</source>
-        <translation>en cours…</translation>
-    </message>
-    <message>
         <source>%1 of %2 files: %3</source>
         <translation>%1 fichiers sur %2 : %3</translation>
-    </message>
-    <message>
-        <source>cancelled before its turn</source>
-        <translation>arrêté avant son tour</translation>
     </message>
     <message numerus="yes">
         <source>%n files made</source>

@@ -6644,10 +6644,6 @@
 </context>
 <context>
     <name>recipe-run</name>
-    <message>
-        <source>Cancelled before the first picture. Nothing was written.</source>
-        <translation>Geannuleerd vóór de eerste foto. Er is niets geschreven.</translation>
-    </message>
     <message numerus="yes">
         <source>Simulation: %n files would be written</source>
         <translation>
@@ -6660,24 +6656,8 @@
         <translation>er is niets geschreven</translation>
     </message>
     <message>
-        <source>Cancelled. Nothing was written.</source>
-        <translation>Geannuleerd. Er is niets geschreven.</translation>
-    </message>
-    <message>
-        <source>waiting</source>
-        <translation>wacht</translation>
-    </message>
-    <message>
-        <source>working…</source>
-        <translation>bezig…</translation>
-    </message>
-    <message>
         <source>%1 of %2 files: %3</source>
         <translation>%1 van %2 bestanden: %3</translation>
-    </message>
-    <message>
-        <source>cancelled before its turn</source>
-        <translation>geannuleerd vóór de beurt</translation>
     </message>
     <message numerus="yes">
         <source>%n files made</source>

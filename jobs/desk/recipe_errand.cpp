@@ -39,18 +39,25 @@ tl::unexpected<platform::Error> unwritten(const QString &path, int code)
 
 Result<std::shared_ptr<const SharedRecipe>> SharedRecipe::from(const QByteArray &json)
 {
+    auto shared = whole(json, QStringLiteral("/"));
+    if (shared && (*shared)->recipe().outputs.size() != 1)
+        return platform::failure(platform::ErrorCode::InvalidValue, image::sentence("outputs: one, and no more"));
+    return shared;
+}
+
+Result<std::shared_ptr<const SharedRecipe>> SharedRecipe::whole(const QByteArray &json, const QString &folder)
+{
     static quint64 s_last = 0;
     image::RecipeFiles files;
-    files.folder = QStringLiteral("/");
+    files.folder = folder;
     files.areOpened = false;
     const Result<image::Recipe> recipe = image::readRecipe(json, files);
     if (!recipe)
         return tl::unexpected<platform::Error>(recipe.error());
-    if (recipe->outputs.size() != 1)
-        return platform::failure(platform::ErrorCode::InvalidValue, image::sentence("outputs: one, and no more"));
     auto shared = std::make_shared<SharedRecipe>();
     shared->m_number = ++s_last;
     shared->m_json = json;
+    shared->m_folder = folder;
     shared->m_recipe = *recipe;
     shared->m_settings = settingsOf(*recipe, recipeName(json));
     for (const QString &path : image::filesOf(*recipe))
@@ -76,7 +83,7 @@ std::vector<Message> SharedRecipe::messages() const
     }
     if (!files.empty())
         tell();
-    messages.push_back(toMessage(RecipeMessage{m_json, QStringLiteral("/")}));
+    messages.push_back(toMessage(RecipeMessage{m_json, m_folder}));
     return messages;
 }
 

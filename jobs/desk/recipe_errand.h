@@ -14,12 +14,14 @@
 
 namespace jobs {
 
-/** A recipe with one output that workers are told, with the pictures and profiles that it names, opened once. */
+/** A recipe that workers are told, with the pictures and profiles that it names, opened once. */
 class SharedRecipe
 {
 public:
     /** Fails with a sentence where it is no recipe, or has more outputs. @param json  paths in it are absolute */
     static platform::Result<std::shared_ptr<const SharedRecipe>> from(const QByteArray &json);
+    /** The same with any number of outputs. @param folder  absolute: where relative paths in it begin */
+    static platform::Result<std::shared_ptr<const SharedRecipe>> whole(const QByteArray &json, const QString &folder);
 
     quint64 number() const { return m_number; } ///< never that of another one
     const image::Recipe &recipe() const { return m_recipe; }
@@ -31,6 +33,7 @@ public:
 private:
     quint64 m_number = 0;
     QByteArray m_json;
+    QString m_folder;
     image::Recipe m_recipe;
     QString m_settings;
     std::map<QString, platform::LentFile> m_files;

@@ -1,9 +1,7 @@
 #include "jobs/services/recipe_batch.h"
 
-#include "image/recipe/make.h"
 #include "image/recipe/recipe_reader.h"
 #include "image/recipe/sentence.h"
-#include "platform/descriptors/write_all.h"
 #include "platform/disk/item_identity.h"
 
 namespace jobs {
@@ -46,7 +44,12 @@ QVariantMap outcomeOf(const ReportLine &line)
 
 RecipeBatch::RecipeBatch(QObject *parent) : QObject(parent) {}
 
-RecipeBatch::~RecipeBatch() = default;
+RecipeBatch::~RecipeBatch()
+{
+    // The desk goes with the application, before what scripts leave behind.
+    if (!m_given.empty())
+        close();
+}
 
 /** Reads the recipe and notes the pictures, when something is asked for first. */
 bool RecipeBatch::begin()
@@ -60,6 +63,12 @@ bool RecipeBatch::begin()
         m_problem = read.error().message;
         return false;
     }
+    const auto shared = SharedRecipe::whole(json, m_folder);
+    if (!shared) {
+        m_problem = shared.error().message;
+        return false;
+    }
+    m_shared = *shared;
     m_recipe = *read;
     m_needsFacts = needsFacts(m_recipe);
     m_options.recipe = recipeName(json);
@@ -99,70 +108,144 @@ QVariantList RecipeBatch::plan(int index)
                      {key("losses"), line.losses}});
         outputs.append(told);
     }
+    m_pixels[index] = source ? source->uprightSize() : QSize();
     m_works.insert_or_assign(index, std::move(work));
     return outputs;
 }
 
-/** Takes what came of an output: its file waits beside its place, or the line says why there is none. */
-void RecipeBatch::keep(PictureWork &work, int output, const Result<image::MadeOutput> &made, ResultFiles &files)
+int RecipeBatch::room() const
 {
-    ReportLine &line = work.lines[output];
-    const OutputPlace &place = work.places[output];
-    const Result<void> kept = made.and_then([&](const image::MadeOutput &result) {
-        return files.begin(output, place).and_then([&](const Descriptor &file) -> Result<void> {
-            if (const int code = platform::writeAll(file, result.bytes); code != 0)
-                return tl::unexpected<platform::Error>(files.failureOf(code, place));
-            return files.keep(output, result.bytes.size(), place, m_recipe.outputs[output]);
-        });
-    });
-    if (!kept) {
-        fail(line, kept.error().message);
-        return;
-    }
-    line.size = made->size;
-    line.bytes = made->bytes.size();
+    constexpr int ahead = 2; // so that a worker goes on while this process still looks at its last result
+    return std::max(0, WorkerDesk::ofProcess().size() + ahead - inWork());
 }
 
-void RecipeBatch::makeAll(PictureWork &work, const ImageSource &source)
+/** An idle worker, and what its picture takes at most: all of it in memory, with a result of the same size beside it. */
+qint64 memoryFor(const QSize &pixels)
 {
-    ResultFiles files(work.input, work.number, m_options.settings, *m_rooms);
-    QList<image::OutputPlan> plans = work.plans;
-    for (const int output : std::as_const(work.wanted))
-        if (work.lines[output].status != LineStatus::Planned)
-            plans[output].problem = QStringLiteral("-"); // nothing is to be made of it
-    const image::FillText fill = [&work](const QString &pattern, QSize size) {
-        return watermarkFrom(pattern, work.facts, size);
-    };
-    image::makeOutputs(m_recipe, source, plans, fill,
-                       [&](int output, const Result<image::MadeOutput> &made) { keep(work, output, made, files); });
-    for (const ResultFiles::Placed &placed : files.placeAll(m_naming->places())) {
-        ReportLine &line = work.lines[placed.index];
-        line.output = placed.path;
-        line.status = placed.isSkipped ? LineStatus::Skipped : LineStatus::Ok;
-        if (!placed.problem.isEmpty())
-            fail(line, placed.problem);
-    }
+    constexpr qint64 idle = 64LL << 20;
+    constexpr qint64 eachPixel = 12;
+    return pixels.isEmpty() ? 0 : idle + eachPixel * pixels.width() * pixels.height();
 }
 
-QVariantList RecipeBatch::make(int index)
+void RecipeBatch::give(int index)
 {
     const auto found = m_works.find(index);
-    if (found == m_works.end())
-        return {};
-    PictureWork &work = found->second;
-    const Result<ImageSource> source = ImageSource::open(work.input.path);
-    if (source)
-        makeAll(work, *source);
+    if (found == m_works.end() || m_given.count(index) != 0)
+        return;
+    BatchErrand::Task task;
+    task.facts = factsOfFile(found->second.input.path, index, m_needsFacts);
+    task.wantsFacts = m_needsFacts;
+    task.expectedBytes = memoryFor(m_pixels[index]);
+    task.files = [this, index] { return filesFor(index); };
+    BatchErrand::Listener listener = {[this, index](const MadeMessage &made) { return keep(index, made); },
+                                      [this, index](const QString &problem) { end(index, problem); }};
+    m_given[index] = WorkerDesk::ofProcess().add(
+        std::make_shared<BatchErrand>(m_shared, std::move(task), std::move(listener)), Urgency::Soon);
+}
+
+/** New ones, where a worker that crashed has begun some. */
+std::vector<std::pair<int, Descriptor>> RecipeBatch::filesFor(int index)
+{
+    PictureWork &work = m_works.at(index);
+    auto &files = m_files[index];
+    files.reset();
+    files = std::make_unique<ResultFiles>(work.input, work.number, m_options.settings, *m_rooms);
+    m_milliseconds[index] = 0;
+    std::vector<std::pair<int, Descriptor>> open;
+    for (const int output : std::as_const(work.wanted)) {
+        ReportLine &line = work.lines[output];
+        if (line.status != LineStatus::Planned)
+            continue;
+        if (auto file = files->begin(output, work.places[output]))
+            open.emplace_back(output, std::move(*file));
+        else
+            fail(line, file.error().message);
+    }
+    return open;
+}
+
+/** Takes what came of an output: its file waits beside its place, or the line says why there is none. */
+bool RecipeBatch::keep(int index, const MadeMessage &made)
+{
+    PictureWork &work = m_works.at(index);
+    if (!work.lines.contains(made.index) || work.lines[made.index].status != LineStatus::Planned)
+        return false;
+    ReportLine &line = work.lines[made.index];
+    const OutputPlace &place = work.places[made.index];
+    ResultFiles &files = *m_files.at(index);
+    m_milliseconds[index] += made.milliseconds;
+    if (!made.problem.isEmpty()) {
+        fail(line, made.problem);
+    } else if (made.writeError != 0) {
+        fail(line, files.failureOf(made.writeError, place).message);
+    } else if (const auto kept = files.keep(made.index, made.bytes, place, m_recipe.outputs[made.index]); !kept) {
+        fail(line, kept.error().message);
+    } else {
+        line.size = made.size;
+        line.bytes = made.bytes;
+    }
+    return true;
+}
+
+/** All of a picture is made, or nothing more comes of it. */
+void RecipeBatch::end(int index, const QString &problem)
+{
+    if (m_given.erase(index) == 0)
+        return;
+    PictureWork &work = m_works.at(index);
+    if (problem.isEmpty() && m_files.count(index) != 0)
+        for (const ResultFiles::Placed &placed : m_files.at(index)->placeAll(m_naming->places())) {
+            ReportLine &line = work.lines[placed.index];
+            line.output = placed.path;
+            line.status = placed.isSkipped ? LineStatus::Skipped : LineStatus::Ok;
+            if (!placed.problem.isEmpty())
+                fail(line, placed.problem);
+        }
     QVariantList outputs;
     for (const int output : std::as_const(work.wanted)) {
         ReportLine &line = work.lines[output];
         // Whatever was not heard of has not become anything.
         if (line.status == LineStatus::Planned)
-            fail(line, source ? image::sentence("nothing came of it") : source.error().message);
+            fail(line, problem.isEmpty() ? image::sentence("nothing came of it") : problem);
         outputs.append(outcomeOf(line));
     }
-    m_works.erase(found);
-    return outputs;
+    m_made.push_back({{key("number"), index}, {key("outputs"), outputs}, {key("ms"), double(m_milliseconds[index])}});
+    m_files.erase(index);
+    m_works.erase(index);
+    Q_EMIT arrived();
+}
+
+QVariantMap RecipeBatch::take()
+{
+    if (m_made.empty())
+        return {};
+    QVariantMap made = std::move(m_made.front());
+    m_made.pop_front();
+    return made;
+}
+
+QVariantList RecipeBatch::takeBack()
+{
+    QVariantList numbers;
+    for (auto given = m_given.begin(); given != m_given.end();) {
+        if (WorkerDesk::ofProcess().takeBack(given->second)) {
+            numbers.append(given->first);
+            given = m_given.erase(given);
+        } else {
+            ++given;
+        }
+    }
+    return numbers;
+}
+
+void RecipeBatch::close()
+{
+    for (const auto &[index, errand] : std::exchange(m_given, {}))
+        WorkerDesk::ofProcess().drop(errand);
+    m_files.clear();
+    m_made.clear();
+    m_works.clear();
+    m_rooms = std::make_unique<WaitingRooms>();
 }
 
 } // namespace jobs

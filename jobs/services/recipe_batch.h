@@ -1,13 +1,15 @@
 #pragma once
 
-#include "image/recipe/make.h"
 #include "jobs/crew/naming.h"
+#include "jobs/desk/batch_errand.h"
+#include "jobs/desk/worker_desk.h"
 #include "jobs/result_files.h"
 
 #include <QObject>
 #include <QStringList>
 #include <QVariantList>
 
+#include <deque>
 #include <map>
 #include <memory>
 #include <optional>
@@ -31,6 +33,10 @@ class RecipeBatch : public QObject
     Q_PROPERTY(QString base READ base WRITE setBase)
     /** All pictures, in their order. */
     Q_PROPERTY(QStringList paths READ paths WRITE setPaths)
+    /** How many pictures more should be handed over now, so that no worker waits; 0 or more. */
+    Q_PROPERTY(int room READ room)
+    /** How many were handed over and were not taken yet. */
+    Q_PROPERTY(int inWork READ inWork)
 
 public:
     Q_INVOKABLE explicit RecipeBatch(QObject *parent = nullptr);
@@ -55,18 +61,33 @@ public:
      */
     Q_INVOKABLE QVariantList plan(int index);
 
+    int room() const;
+    int inWork() const { return int(m_given.size() + m_made.size()); }
+
     /**
-     * Makes the outputs that are ready: each is written beside its place, and takes it when all of the picture are whole. What has taken a
-     * name meanwhile is treated as the recipe says.
-     *
-     * @return one dictionary an output: {status, reason, path, bytes, width, height}; status is "OK" or one of those of plan()
+     * Has the outputs that are ready made by a worker: each is written beside its place, and takes it when all of the picture are whole.
+     * What has taken a name meanwhile is treated as the recipe says. For a picture that was planned, once.
      */
-    Q_INVOKABLE QVariantList make(int index);
+    Q_INVOKABLE void give(int index);
+    /**
+     * A picture that has come: {number, outputs, ms}; without any keys where there is none. outputs are one dictionary each: {status, reason,
+     * path, bytes, width, height}; status is "OK" or one of those of plan() but "ready".
+     */
+    Q_INVOKABLE QVariantMap take();
+    /** Takes back what no worker has begun; the numbers of those pictures, in order. They may be handed over again. */
+    Q_INVOKABLE QVariantList takeBack();
+    /** Gives up what is in work, of which nothing is left then, and forgets what was planned. */
+    Q_INVOKABLE void close();
+
+Q_SIGNALS:
+    /** There is something to take(). Not from within give(). */
+    void arrived();
 
 private:
     bool begin();
-    void makeAll(PictureWork &work, const platform::ImageSource &source);
-    void keep(PictureWork &work, int output, const platform::Result<image::MadeOutput> &made, ResultFiles &files);
+    bool keep(int index, const MadeMessage &made);
+    void end(int index, const QString &problem);
+    std::vector<std::pair<int, platform::Descriptor>> filesFor(int index);
 
     QString m_text;
     QString m_folder = QStringLiteral("/");
@@ -79,7 +100,13 @@ private:
     std::optional<Inputs> m_inputs;
     std::unique_ptr<BatchNaming> m_naming;
     std::unique_ptr<WaitingRooms> m_rooms;
+    std::shared_ptr<const SharedRecipe> m_shared;
     std::map<int, PictureWork> m_works; ///< of the pictures that were planned
+    std::map<int, QSize> m_pixels;      ///< of theirs
+    std::map<int, std::unique_ptr<ResultFiles>> m_files;
+    std::map<int, WorkerDesk::Number> m_given;
+    std::map<int, qint64> m_milliseconds;
+    std::deque<QVariantMap> m_made;
 };
 
 } // namespace jobs

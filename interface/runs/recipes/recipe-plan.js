@@ -39,7 +39,7 @@ export function itemOf(photo, outputs) {
              replacesOriginal: outputs.some((output) => output.replacesOriginal) };
 }
 
-/** A generator that plans all pictures of the list, one after the other: see itemOf(). It returns the batch. */
+/** A generator that plans all pictures of the list, one after the other: see itemOf(). It returns {batch, cancelled}. */
 export function* recipePlan(list, ids, settings) {
     const batch = batchOf(settings, list.paths());
     const problem = batch.problem();
@@ -48,7 +48,7 @@ export function* recipePlan(list, ids, settings) {
         yield itemOf(photo, problem === ""
             ? batch.plan(i) : [{ status: "Failed", reason: problem, path: "", losses: [], width: 0, height: 0 }]);
     }
-    return batch;
+    return { batch: batch, cancelled: false };
 }
 
 /** "a.jpg, a-small.jpg"; a dash where there is none. */

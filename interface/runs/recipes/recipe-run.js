@@ -5,11 +5,12 @@ import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { emptyTable, splitPath } from "../../lib/names.js";
 import { fill, statusKind, statusText } from "../../lib/wording.js";
-import { clockText, costOf, Progress } from "../progress.js";
+import { Flow } from "../making/flow.js";
+import { clockText } from "../progress.js";
 import { logRow, summaryOf } from "../report.js";
-import { BaseRun } from "../run-base.js";
+import { WriteRun } from "../write-run.js";
+import { makeByWorkers } from "./recipe-making.js";
 import { countItem, namesOf, recipePlan, showRecipeItem, sizesOf } from "./recipe-plan.js";
-import { mayReplace } from "../write-run.js";
 
 // Of several outputs the first of these is what is said of all.
 const ORDER = ["Failed", "Not Supported", "OK", "Skipped"];
@@ -22,132 +23,92 @@ function finalOf(photo, output) {
              width: output.width, height: output.height };
 }
 
-// A generator that makes what is ready of the pictures with these numbers.
-function* making(batch, items, numbers) {
-    for (const number of numbers) {
-        yield { kind: "start", number: number };
-        const started = Date.now();
-        let outputs;
-        try {
-            outputs = items[number].status === "ready" ? batch.make(number) : items[number].outputs;
-        } catch (error) {
-            outputs =
-                [{ status: "Failed", reason: String(error.message || error), path: "", bytes: 0, width: 0, height: 0 }];
-        }
-        yield { kind: "end", number: number, outputs: outputs, ms: Date.now() - started };
-    }
+function joined(lists) {
+    return lists.reduce((all, list) => all.concat(list), []);
 }
 
-export class RecipeRun extends BaseRun {
+export class RecipeRun extends WriteRun {
+    reset(ids) {
+        super.reset(ids);
+        this.finals = []; // of each picture the results of its outputs
+        this.batch = null;
+        this.number = 0;
+    }
+
     folders() {
-        return summaryOf(this.results).folders;
-    }
-
-    start() {
-        this.begin(this.window.pictures.ids());
-    }
-
-    /** The rows of which nothing came, or not all. */
-    failedIds() {
-        return this.ids.filter((id, i) => this.failed[i] === true);
-    }
-
-    retry() {
-        const failed = this.failedIds().filter((id) => this.window.pictures.photo(id) !== null);
-        failed.forEach((id) => this.window.pictures.forget(id));
-        this.begin(failed);
+        return summaryOf(joined(this.finals)).folders;
     }
 
     // All are planned, so that names and numbers are those of the whole list; those that are wanted are made.
     begin(wanted) {
-        const ids = this.window.pictures.ids();
-        this.startPlanning(ids);
+        const all = this.window.pictures.ids();
         const isWanted = emptyTable();
         wanted.forEach((id) => { isWanted[id] = true; });
-        this.isWanted = ids.map((id) => isWanted[id] === true);
-        this.wanted = ids.map((id, i) => i).filter((i) => this.isWanted[i]);
-        this.failed = [];
-        this.done = 0;
+        this.startPlanning(all.filter((id) => isWanted[id]));
+        this.isWanted = all.map((id) => isWanted[id] === true);
         this.simulated = this.settings.simulation;
-        const work = recipePlan(this.window.pictures, ids, this.settings);
+        const work = recipePlan(this.window.pictures, all, this.settings);
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
                        guard("run.planEnd", (how, value) => this.planEnded(how, value)));
         this.changed();
     }
 
     takeItem(item) {
-        const number = this.items.length;
-        this.items.push(item);
-        if (this.isWanted[number]) {
-            showRecipeItem(this.window.pictures, this.ids[number], item, this.simulated);
+        item.number = this.number;
+        this.number += 1;
+        if (this.isWanted[item.number]) {
+            this.items.push(item);
+            showRecipeItem(this.window.pictures, this.ids[this.items.length - 1], item, this.simulated);
         }
     }
 
-    planEnded(how, batch) {
-        if (how !== "done") {
-            this.finish(qsTr("Cancelled before the first picture. Nothing was written."));
-            return;
-        }
-        const wanted = this.wanted.map((number) => this.items[number]);
+    planEnded(how, value) {
+        this.batch = how === "done" ? value.batch : null;
+        super.planEnded(how, value);
+    }
+
+    notePlan() {
         const summary = this.window.livePlan.nothing();
-        wanted.forEach((item) => countItem(summary, item));
+        this.items.forEach((item) => countItem(summary, item));
         summary.all = this.items.length;
         this.window.planned = summary;
-        if (this.simulated) {
-            this.finish([qsTr("Simulation: %n files would be written", "", summary.files), qsTr("nothing was written")]
-                .join(" · "));
-        } else if (mayReplace(wanted)) {
-            this.carryOut(batch);
-        } else {
-            this.finish(qsTr("Cancelled. Nothing was written."));
-        }
     }
 
-    carryOut(batch) {
-        this.phase = "running";
-        this.progress = new Progress(this.wanted.map((number) => costOf(this.items[number].photo)));
+    endSimulation() {
+        const number = this.window.planned.files;
+        this.finish(
+            [qsTr("Simulation: %n files would be written", "", number), qsTr("nothing was written")].join(" · "));
+    }
+
+    work() {
+        this.flow = new Flow(() => this.job.wake());
+        // The engine loses a generator that is returned by the call that makes it.
+        const work = makeByWorkers(this.batch, this.items, this.flow);
+        return work;
+    }
+
+    // A picture whose turn never came has no outputs.
+    takeResult(index, result) {
+        const item = this.items[index];
+        const outputs = result.outputs ||
+                        item.outputs.map((output) => Object.assign(
+                                             {}, output, { status: result.status, reason: result.reason, path: "" }));
+        this.finals[index] = outputs.map((output) => finalOf(item.photo, output));
+        this.problems += this.finals[index]
+            .filter((final) => final.status === "Failed" || final.status === "Not Supported").length;
+        this.results[index] = {
+            status: ORDER.find((word) => outputs.some((output) => output.status === word)) || "Failed"
+        };
+        this.countOne(item, result);
+        this.window.livePlan.keepFinal(this.ids[index]);
+        this.showFinal(index, outputs);
+    }
+
+    showFinal(index, outputs) {
         const list = this.window.pictures;
-        this.wanted.filter((number) => this.items[number].status === "ready")
-            .forEach((number) => list.setStatus(this.ids[number], "waiting", qsTr("waiting"), ""));
-        const work = making(batch, this.items, this.wanted);
-        this.job.start(work, guard("run.step", (event) => this.stepDone(event)),
-                       guard("run.end", (how, value) => this.runEnded(how, value)));
-        this.showProgress();
-    }
-
-    stepDone(event) {
-        if (event.kind === "end") {
-            this.takeOutputs(event.number, event.outputs, event.ms);
-            this.showProgress();
-        } else if (this.items[event.number].status === "ready") {
-            this.window.pictures.setStatus(this.ids[event.number], "busy", qsTr("working…"), "");
-            this.window.pictures.reveal(this.ids[event.number]);
-        }
-    }
-
-    takeOutputs(number, outputs, ms) {
-        const window = this.window;
-        const item = this.items[number];
-        const id = this.ids[number];
-        const about = window.action.step.describe(this.settings);
-        outputs.forEach((output) => {
-            const result = finalOf(item.photo, output);
-            this.noteInLog(result, logRow(result, window.action.title(), about, new Date().toISOString()));
-        });
-        this.done += 1;
-        this.progress.add(costOf(item.photo), ms);
-        window.livePlan.keepFinal(id);
-        this.showFinal(id, item, outputs);
-        this.failed[number] = outputs.some((output) => output.status === "Failed");
-        if (item.replacesOriginal && outputs.some((output) => output.status === "OK")) {
-            window.pictures.forget(id);
-        }
-    }
-
-    showFinal(id, item, outputs) {
-        const list = this.window.pictures;
+        const id = this.ids[index];
         const made = outputs.filter((output) => output.status === "OK");
-        const status = ORDER.find((word) => outputs.some((output) => output.status === word)) || "Failed";
+        const status = this.results[index].status;
         const reason = outputs.filter((output) => output.status === status && output.reason !== "")
             .map((output) => output.reason).filter((text, i, all) => all.indexOf(text) === i).join(" · ");
         if (made.length > 0) {
@@ -155,26 +116,23 @@ export class RecipeRun extends BaseRun {
         }
         const text = status === "OK" || made.length === 0
             ? statusText(status, reason) : fill(qsTr("%1 of %2 files: %3"), made.length, outputs.length, reason);
-        list.setStatus(id, statusKind(status), text, item.notes.join("\n"));
-    }
-
-    // Each picture has one final state, also those whose turn never came.
-    runEnded(how, value) {
-        const reason = how === "failed" ? String(value) : qsTr("cancelled before its turn");
-        this.wanted.slice(this.done).forEach((number) => {
-            const outputs = this.items[number].outputs
-                .map((output) => Object.assign({}, output, { status: "Skipped", reason: reason, path: "" }));
-            this.takeOutputs(number, outputs, 0);
-        });
-        const problem = this.keepLog();
-        this.finish(this.summaryText(how) + (problem ? " · " + problem : ""));
-        if (this.items.some((item) => item.replacesOriginal)) {
-            this.window.reloadPreview();
+        list.setStatus(id, statusKind(status), text, this.items[index].notes.join("\n"));
+        if (made.length > 0 && this.items[index].replacesOriginal) {
+            list.forget(id);
         }
     }
 
+    // In the order of the list, and of the outputs.
+    keepLog() {
+        const action = this.window.action;
+        const about = action.step.describe(this.settings);
+        const now = new Date().toISOString();
+        this.rows = joined(this.finals).map((final) => logRow(final, action.title(), about, now));
+        return super.keepLog();
+    }
+
     summaryText(how) {
-        const sum = summaryOf(this.results);
+        const sum = summaryOf(joined(this.finals));
         const parts = [qsTr("%n files made", "", sum.done)];
         const add = (number, text) => number > 0 && parts.push(fill(text, number));
         add(sum.failed, qsTr("%1 failed"));

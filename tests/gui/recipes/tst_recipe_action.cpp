@@ -11,6 +11,8 @@
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -54,6 +56,48 @@ private Q_SLOTS:
         QCOMPARE(QImage(at("Web/b-small.jpg")).size(), QSize(159, 480));
         QCOMPARE(QDir(at("Web")).entryList(QDir::Files | QDir::Hidden).size(), 4);
         QCOMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("OK"));
+    }
+
+    void writesALineOfTheLogForEachFile()
+    {
+        for (int i = 0; i < 6; ++i)
+            save(QStringLiteral("p%1.png").arg(i).toLatin1().constData(), QSize(i % 2 ? 1500 : 30, 30));
+        write("broken.png", "no picture");
+        m_driver->drop({m_folder});
+        run(QStringLiteral("12 files made · 2 failed"));
+        QCOMPARE(m_driver->cell(0, PictureModel::Status).left(7), QStringLiteral("Failed:"));
+        QFile log(m_driver->folder() + QStringLiteral("/.local/share/quorlin/log.jsonl"));
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        QStringList lines;
+        for (const QByteArray &line : log.readAll().trimmed().split('\n')) {
+            const QJsonObject row = QJsonDocument::fromJson(line).object();
+            QCOMPARE(row[QStringLiteral("process")].toString(), QStringLiteral("Recipe"));
+            QCOMPARE(row[QStringLiteral("action")].toString(), QStringLiteral("Web gallery"));
+            lines.append(row[QStringLiteral("status")].toString() + u' ' + row[QStringLiteral("output")].toString());
+        }
+        // In the order of the list, whatever the order in which they were ready.
+        QStringList expected = {QStringLiteral("Failed "), QStringLiteral("Failed ")};
+        for (int i = 0; i < 6; ++i)
+            expected += {QStringLiteral("OK p%1.jpg").arg(i), QStringLiteral("OK p%1-small.jpg").arg(i)};
+        QCOMPARE(lines, expected);
+        QVERIFY(m_driver->control<QAbstractButton>("retryButton")->isVisible());
+    }
+
+    void stopsAndLeavesNoHalfFile()
+    {
+        for (int i = 0; i < 40; ++i)
+            save(QStringLiteral("p%1.png").arg(i, 2, 10, QLatin1Char('0')).toLatin1().constData(), QSize(1200, 900));
+        m_driver->drop({m_folder});
+        m_driver->click("startButton");
+        QVERIFY(m_driver->waitFor([this] { return QFile::exists(at("Web/p00.jpg")); }));
+        m_driver->click("cancelButton");
+        const QString text = m_driver->waitForSummary();
+        QVERIFY2(text.startsWith(QStringLiteral("Cancelled: ")), qPrintable(text));
+        QVERIFY(m_driver->cell(39, PictureModel::Status).startsWith(QStringLiteral("Skipped")));
+        const QStringList files = QDir(at("Web")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        QVERIFY(files.size() > 1 && files.size() < 80);
+        for (const QString &name : files)
+            QVERIFY2(!QImage(at("Web/") + name).isNull(), qPrintable(name));
     }
 
     void editsTheSettingsOfACard()
