@@ -3,7 +3,6 @@
 #include "image/services/format_words.h"
 
 #include "platform/foundation/human_texts.h"
-#include "platform/imageio/source/image_source.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -87,6 +86,8 @@ QVariant PictureModel::data(const QModelIndex &index, int role) const
     case Qt::AccessibleTextRole:
         return index.column() == Thumbnail ? tr("Thumbnail of %1").arg(row.name) : cellText(row, index.column());
     case Qt::ToolTipRole:
+        if (index.column() == Pixels && !row.problem.isEmpty())
+            return row.problem;
         if (index.column() == Status)
             return row.detail.isEmpty() ? row.status : row.detail;
         return index.column() == NewName ? row.newName : QDir::toNativeSeparators(row.path);
@@ -186,6 +187,7 @@ std::vector<PlacedRow> PictureModel::takeWhere(const std::function<bool(const Pi
         }
         m_idOfPath.remove(m_rows[i].path);
         m_thumbnails.remove(m_rows[i].id);
+        dropReading(m_rows[i].id);
         taken.push_back({int(i), std::move(m_rows[i])});
     }
     m_rows = std::move(kept);
@@ -224,18 +226,44 @@ void PictureModel::putBack(const std::vector<PlacedRow> &rows)
 
 const PictureRow &PictureModel::withHeader(int index)
 {
+    const PictureRow &row = m_rows[size_t(index)];
+    if (!row.headerRead && !row.isFolder)
+        takeHeader(row.id, KnownPictures::ofProcess().now(row.path));
+    return row;
+}
+
+void PictureModel::wantHeader(int index, jobs::Urgency urgency)
+{
+    const PictureRow &row = m_rows[size_t(index)];
+    const int id = row.id;
+    if (row.headerRead || row.isFolder || m_headers.contains(id))
+        return;
+    if (const auto known = KnownPictures::ofProcess().find(row.path)) {
+        takeHeader(id, *known);
+        return;
+    }
+    m_headers.insert(
+        id, KnownPictures::ofProcess().ask(m_reader, row.path, urgency, [this, id](const KnownPicture &picture) {
+            m_headers.remove(id);
+            takeHeader(id, picture);
+            Q_EMIT headerArrived(id);
+        }));
+}
+
+void PictureModel::takeHeader(int id, const KnownPicture &picture)
+{
+    const int index = indexOfId(id);
+    if (index < 0)
+        return;
     PictureRow &row = m_rows[size_t(index)];
-    if (row.headerRead)
-        return row;
     row.headerRead = true;
     row.bytes = image::fileBytes(row.path);
-    if (const auto source = platform::ImageSource::open(row.path)) {
-        row.pixels = source->uprightSize();
-        row.orientation = source->orientation();
-        row.type = image::typeWord(source->typeIdentifier());
-    }
+    row.problem = picture.problem;
+    row.pixels = picture.pixels;
+    row.orientation = picture.orientation;
+    if (!picture.type.isEmpty())
+        row.type = image::typeWord(picture.type);
     changed(index, Pixels, Type);
-    return row;
 }
 
 void PictureModel::setPath(int index, const QString &path)
@@ -277,29 +305,54 @@ QPixmap PictureModel::thumbnail(int index) const
     return found ? *found : QPixmap();
 }
 
-void PictureModel::loadThumbnail(int index, QSize devicePixels)
+void PictureModel::wantThumbnail(int index, QSize devicePixels)
 {
+    const PictureRow &row = m_rows[size_t(index)];
+    const int id = row.id;
+    if (row.thumbnailTried || row.isFolder || m_thumbnailAsks.contains(id))
+        return;
+    const jobs::ReadRequest request = {
+        jobs::Reading::Thumbnail,
+        row.path,
+        {{QStringLiteral("width"), devicePixels.width()}, {QStringLiteral("height"), devicePixels.height()}}};
+    m_thumbnailAsks.insert(id, m_reader.ask(request, jobs::Urgency::Now, [this, id](const jobs::ReadResult &result) {
+        m_thumbnailAsks.remove(id);
+        takeThumbnail(id, result);
+        Q_EMIT thumbnailArrived(id);
+    }));
+}
+
+void PictureModel::takeThumbnail(int id, const jobs::ReadResult &result)
+{
+    const int index = indexOfId(id);
+    if (index < 0)
+        return;
     PictureRow &row = m_rows[size_t(index)];
-    row.thumbnailTried = true;
-    const auto source = platform::ImageSource::open(row.path);
-    if (!source)
+    row.thumbnailTried = result.image.isNull();
+    if (row.thumbnailTried)
         return;
-    const QSize size = source->uprightSize().scaled(devicePixels, Qt::KeepAspectRatioByExpanding).expandedTo({1, 1});
-    // A strip of film is not worth a thumbnail of thousands of pixels.
-    const QSize bounded = size.boundedTo(devicePixels * 4);
-    const auto bitmap = source->decodeScaled(bounded);
-    if (!bitmap)
-        return;
-    const QImage image = bitmap->toScreenImage();
-    const QRect middle(QPoint((image.width() - devicePixels.width()) / 2, (image.height() - devicePixels.height()) / 2),
-                       devicePixels);
-    m_thumbnails.insert(row.id, new QPixmap(QPixmap::fromImage(image.copy(middle))));
+    m_thumbnails.insert(id, new QPixmap(QPixmap::fromImage(result.image)));
     changed(index, Thumbnail, Thumbnail);
+}
+
+void PictureModel::dropThumbnailsBut(const QSet<int> &ids)
+{
+    const QList<int> asked = m_thumbnailAsks.keys();
+    for (const int id : asked)
+        if (!ids.contains(id))
+            m_reader.drop(m_thumbnailAsks.take(id));
+}
+
+void PictureModel::dropReading(int id)
+{
+    m_reader.drop(m_headers.take(id));
+    m_reader.drop(m_thumbnailAsks.take(id));
 }
 
 void PictureModel::forget(int index)
 {
     PictureRow &row = m_rows[size_t(index)];
+    dropReading(row.id);
     row.headerRead = false;
     row.thumbnailTried = false;
     m_thumbnails.remove(row.id);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/reading/known_pictures.h"
+
 #include <QAbstractTableModel>
 #include <QCache>
 #include <QHash>
@@ -28,7 +30,8 @@ struct PictureRow
     QSize pixels; ///< upright; null while unknown and where the file is no readable picture
     int orientation = 1;
     bool headerRead = false;
-    bool thumbnailTried = false;
+    bool thumbnailTried = false; ///< and it cannot be made
+    QString problem;             ///< why it is no picture that can be read
     QString newName;
     QString newSize;
     StatusKind kind = StatusKind::None;
@@ -85,8 +88,10 @@ public:
     /** -1 where no row has that id. */
     int indexOfId(int id) const { return m_indexOfId.value(id, -1); }
 
-    /** Reads size and type from the file if that was not done yet: about a millisecond. */
+    /** With size and type, which are waited for if nobody has read the file yet. */
     const PictureRow &withHeader(int index);
+    /** Has them read; headerArrived() tells of it, out of the event loop where they are not known already. */
+    void wantHeader(int index, jobs::Urgency urgency);
     /** The file of the row is at another path now; all that is known of it stays. */
     void setPath(int index, const QString &path);
     void setPlan(int index, const QString &newName, const QString &newSize);
@@ -94,13 +99,24 @@ public:
 
     bool hasThumbnail(int index) const { return m_thumbnails.contains(row(index).id); }
     QPixmap thumbnail(int index) const;
-    /** Decodes the thumbnail in the given number of device pixels; a picture that cannot be decoded is not tried again.
-     */
-    void loadThumbnail(int index, QSize devicePixels);
+    /** Has it made in that many pixels of the screen; thumbnailArrived() tells of it. What cannot be made is not tried again. */
+    void wantThumbnail(int index, QSize devicePixels);
+    /** Takes back what is wanted of rows but these. */
+    void dropThumbnailsBut(const QSet<int> &ids);
+    /** How much is being read. */
+    int headersInWork() const { return int(m_headers.size()); }
+    int thumbnailsInWork() const { return int(m_thumbnailAsks.size()); }
     /** Forgets sizes, thumbnails and types, because the file was written. */
     void forget(int index);
 
+Q_SIGNALS:
+    void headerArrived(int id);
+    void thumbnailArrived(int id);
+
 private:
+    void takeHeader(int id, const KnownPicture &picture);
+    void takeThumbnail(int id, const jobs::ReadResult &result);
+    void dropReading(int id);
     void changed(int index, Column first, Column last);
     void rebuildIndex();
     std::vector<PlacedRow> takeWhere(const std::function<bool(const PictureRow &)> &isTaken);
@@ -109,9 +125,12 @@ private:
     QHash<QString, int> m_idOfPath;
     QHash<int, int> m_indexOfId;
     QCache<int, QPixmap> m_thumbnails;
+    QHash<int, jobs::Reader::Number> m_headers; ///< being read, by id
+    QHash<int, jobs::Reader::Number> m_thumbnailAsks;
     QHash<int, QString> m_headings;
     bool m_stressesNewNames = false;
     int m_nextId = 1;
+    jobs::Reader m_reader; ///< goes before what its answers change
 };
 
 } // namespace window

@@ -51,11 +51,17 @@ std::vector<ServiceEntry> fileServices()
 
 void addFileModules(ScriptEngine &scripts)
 {
-    offerServices(scripts, fileServices(), "quorlin/files", new ProgramFiles(&scripts));
+    addFileModules(
+        scripts, {new ProgramFiles(&scripts), new image::PictureService(&scripts), new jobs::RecipeService(&scripts)});
+}
+
+void addFileModules(ScriptEngine &scripts, const FileObjects &objects)
+{
+    offerServices(scripts, fileServices(), "quorlin/files", objects.files);
     offerServices(scripts, fileServices(), "quorlin/moves", new files::MoveService(&scripts));
-    offerServices(scripts, fileServices(), "quorlin/pictures", new image::PictureService(&scripts));
+    offerServices(scripts, fileServices(), "quorlin/pictures", objects.pictures);
     offerServices(scripts, fileServices(), "quorlin/tokens", new text::TokenService(&scripts));
-    offerServices(scripts, fileServices(), "quorlin/recipes", new jobs::RecipeService(&scripts));
+    offerServices(scripts, fileServices(), "quorlin/recipes", objects.recipes);
     offerServices(scripts, fileServices(), "quorlin/watch", new jobs::WatchService(&scripts));
 }
 

@@ -4,14 +4,33 @@
 
 #include <vector>
 
+namespace image {
+class PictureService;
+}
+namespace jobs {
+class RecipeService;
+}
+
 namespace script {
+
+class ProgramFiles;
 
 class ScriptEngine;
 
 /** The services of the modules "quorlin/files", "quorlin/moves", "quorlin/pictures", "quorlin/tokens", "quorlin/recipes" and "quorlin/watch". */
 std::vector<ServiceEntry> fileServices();
 
+/** Those of them that look into pictures; each belongs to whoever is given it. */
+struct FileObjects
+{
+    ProgramFiles *files;
+    image::PictureService *pictures;
+    jobs::RecipeService *recipes;
+};
+
 /** Adds the modules of fileServices(). They need no window. */
 void addFileModules(ScriptEngine &scripts);
+/** The same with other objects. */
+void addFileModules(ScriptEngine &scripts, const FileObjects &objects);
 
 } // namespace script

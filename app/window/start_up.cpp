@@ -1,6 +1,7 @@
 #include "app/window/start_up.h"
 
 #include "app/modules/file_modules.h"
+#include "app/reading/reading_services.h"
 #include "app/script/ScriptEngine.h"
 #include "app/setup/configuration.h"
 #include "app/setup/interface_folder.h"
@@ -36,7 +37,8 @@ StartUp::StartUp(QApplication &application)
     platform::setPanelProvider(std::make_unique<DialogPanels>());
     platform::setWindowControls(std::make_unique<WidgetControls>());
     m_scripts = std::make_unique<script::ScriptEngine>();
-    script::addFileModules(*m_scripts);
+    script::addFileModules(*m_scripts, {new ReadingFiles(m_scripts.get()), new ReadingPictures(m_scripts.get()),
+                                        new ReadingRecipes(m_scripts.get())});
     addShellModule(*m_scripts, *m_shell);
     QObject::connect(m_scripts.get(), &script::ScriptEngine::uncaughtError, m_shell.get(),
                      [](const QString &message) { platform::logLine(message); });

@@ -39,13 +39,18 @@ void setDiskSpaceSource(std::function<DiskSpace(const QString &path)> source)
 
 QVariant fileFacts(const QString &path)
 {
+    return fileFacts(path, [](const QString &file) { return platform::pictureFacts(file); });
+}
+
+QVariant fileFacts(const QString &path, const std::function<platform::PictureFacts(const QString &path)> &pictureFacts)
+{
     const QFileInfo info(path);
     const bool isGoodLink = info.isSymLink() && info.exists();
     const auto item = platform::itemFacts(isGoodLink ? info.canonicalFilePath() : path);
     if (!item)
         return QVariant::fromValue(nullptr);
     const bool isFolder = info.isDir();
-    const platform::PictureFacts picture = isFolder ? platform::PictureFacts() : platform::pictureFacts(path);
+    const platform::PictureFacts picture = isFolder ? platform::PictureFacts() : pictureFacts(path);
     const QString type = isFolder                           ? QStringLiteral("public.folder")
                          : picture.typeIdentifier.isEmpty() ? image::typeOfName(path)
                                                             : picture.typeIdentifier;

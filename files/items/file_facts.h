@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/imageio/source/picture_facts.h"
+
 #include <QString>
 #include <QVariant>
 
@@ -21,6 +23,8 @@ namespace files {
  * Null where nothing is at the path. Reads headers only; see platform::pictureFacts().
  */
 QVariant fileFacts(const QString &path);
+/** The same with what somebody else read in the file, where it is none of folders. */
+QVariant fileFacts(const QString &path, const std::function<platform::PictureFacts(const QString &path)> &pictureFacts);
 
 /** A file system: what may still be written to it, and a number that tells it from others; both -1 where they are not known. */
 struct DiskSpace

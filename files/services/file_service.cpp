@@ -190,13 +190,18 @@ QString FileService::markUpright(const QString &path) const
 QVariantMap FileService::picture(const QString &path) const
 {
     const auto source = platform::ImageSource::open(path);
-    const QSize size = source ? source->uprightSize() : QSize(0, 0);
+    return source ? pictureValues(path, source->uprightSize(), source->orientation(), source->typeIdentifier())
+                  : pictureValues(path, {}, 1, {});
+}
+
+QVariantMap pictureValues(const QString &path, QSize pixels, int orientation, const QString &type)
+{
     return {{QStringLiteral("path"), path},
             {QStringLiteral("name"), QFileInfo(path).fileName()},
-            {QStringLiteral("width"), size.width()},
-            {QStringLiteral("height"), size.height()},
-            {QStringLiteral("orientation"), source ? source->orientation() : 1},
-            {QStringLiteral("type"), image::typeWord(source ? source->typeIdentifier() : image::typeOfName(path))},
+            {QStringLiteral("width"), std::max(0, pixels.width())},
+            {QStringLiteral("height"), std::max(0, pixels.height())},
+            {QStringLiteral("orientation"), orientation},
+            {QStringLiteral("type"), image::typeWord(type.isEmpty() ? image::typeOfName(path) : type)},
             {QStringLiteral("bytes"), double(image::fileBytes(path))}};
 }
 
@@ -226,16 +231,18 @@ QVariantMap FileService::lostMetadata(const QString &from, const QString &to) co
     const auto old = metadataOf(from);
     const auto made = metadataOf(to);
     if (!old || !made)
-        return {{QStringLiteral("lost"), QStringList()},
-                {QStringLiteral("problem"), (old ? made : old).error().message}};
-    const QVariantMap had = old->toProperties();
-    const QVariantMap has = made->toProperties();
+        return lostBetween({}, {}, (old ? made : old).error().message);
+    return lostBetween(old->toProperties(), made->toProperties(), QStringLiteral(""));
+}
+
+QVariantMap lostBetween(const QVariantMap &had, const QVariantMap &has, const QString &problem)
+{
     QStringList lost;
     for (const auto &[group, word] :
          {std::pair("{Exif}", "EXIF"), {"{GPS}", "GPS"}, {"{IPTC}", "IPTC"}, {"{XMP}", "XMP"}})
-        if (had.contains(QString::fromLatin1(group)) && !has.contains(QString::fromLatin1(group)))
+        if (problem.isEmpty() && had.contains(QString::fromLatin1(group)) && !has.contains(QString::fromLatin1(group)))
             lost.append(QString::fromLatin1(word));
-    return {{QStringLiteral("lost"), lost}, {QStringLiteral("problem"), QStringLiteral("")}};
+    return {{QStringLiteral("lost"), lost}, {QStringLiteral("problem"), problem}};
 }
 
 QVariantMap FileService::readComment(const QString &path) const

@@ -11,7 +11,8 @@ namespace files {
  * What the scripts of a job do with files beside the pictures' own operations: look at folders, collect input, and
  * bring finished files into their place without ever overwriting one unasked.
  *
- * Paths are absolute. Nothing here needs a window. Failures are sentences; an empty text means success.
+ * Paths are absolute. Nothing here needs a window. Failures are sentences; an empty text means success. What is virtual looks into
+ * pictures, which a process with windows leaves to others.
  */
 class FileService : public QObject
 {
@@ -82,17 +83,17 @@ public:
     Q_INVOKABLE QVariantMap place(const QString &from, const QString &to, const QString &replaced) const;
 
     /** Pixels of the file as stored: {width, height}, or null for an unreadable file. */
-    Q_INVOKABLE QVariant storedSize(const QString &path) const;
+    Q_INVOKABLE virtual QVariant storedSize(const QString &path) const;
     /** The pixels of one block of a JPEG file, as stored: {width, height}; null for any other file. Reads the header only. */
     Q_INVOKABLE QVariant jpegBlock(const QString &path) const;
     /** Marks a JPEG or TIFF file of ours as upright; see platform::markUpright(). */
     Q_INVOKABLE QString markUpright(const QString &path) const;
     /** {width, height, orientation, type, bytes} of a picture, upright; width 0 for an unreadable file. */
-    Q_INVOKABLE QVariantMap picture(const QString &path) const;
+    Q_INVOKABLE virtual QVariantMap picture(const QString &path) const;
     /** What is known of a file or folder without decoding it; see fileFacts(). Null where nothing is there. */
-    Q_INVOKABLE QVariant facts(const QString &path) const;
+    Q_INVOKABLE virtual QVariant facts(const QString &path) const;
     /** The name of the picture's colour profile; empty where it has none. */
-    Q_INVOKABLE QString profileName(const QString &path) const;
+    Q_INVOKABLE virtual QString profileName(const QString &path) const;
 
     /** Writes the user comment of a picture; see platform::writeUserComment(). */
     Q_INVOKABLE QString writeComment(const QString &path, const QString &comment) const;
@@ -100,13 +101,13 @@ public:
      * {lost, problem}: the kinds of metadata, "EXIF", "GPS", "IPTC" and "XMP", that one picture holds and another, made of it, does
      * not; or why one of the two cannot be read.
      */
-    Q_INVOKABLE QVariantMap lostMetadata(const QString &from, const QString &to) const;
+    Q_INVOKABLE virtual QVariantMap lostMetadata(const QString &from, const QString &to) const;
     /** {comment, problem}: the user comment of a picture, or why it cannot be read. */
-    Q_INVOKABLE QVariantMap readComment(const QString &path) const;
+    Q_INVOKABLE virtual QVariantMap readComment(const QString &path) const;
     /** How many pages a file would lose to a comment; see platform::pagesLostToUserComment(). */
-    Q_INVOKABLE int pagesLostToComment(const QString &path) const;
+    Q_INVOKABLE virtual int pagesLostToComment(const QString &path) const;
     /** Whether a file is of a kind that can hold a comment; see platform::canHoldUserComment(). */
-    Q_INVOKABLE bool holdsComment(const QString &path) const;
+    Q_INVOKABLE virtual bool holdsComment(const QString &path) const;
 
     Q_INVOKABLE QString writeText(const QString &path, const QString &text) const;
     /** Adds lines, each ending in a line feed; see files::appendLines(). */
@@ -120,5 +121,11 @@ public:
     /** A local date and time such as "2026-08-14T10:20:30" in the reader's own form; empty for what is none. */
     Q_INVOKABLE QString dateText(const QString &date) const;
 };
+
+/** What FileService::picture() answers. @param type  identifier; that of the name where it is empty */
+QVariantMap pictureValues(const QString &path, QSize pixels, int orientation, const QString &type);
+
+/** What FileService::lostMetadata() answers of the properties of two pictures. */
+QVariantMap lostBetween(const QVariantMap &had, const QVariantMap &has, const QString &problem);
 
 } // namespace files

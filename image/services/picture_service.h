@@ -46,7 +46,7 @@ public:
      * True where a file of @p typeIdentifier holds the colour profile of the picture at @p path, or that has none; otherwise
      * its colours become sRGB. False for what cannot be opened or written. Reads the header.
      */
-    Q_INVOKABLE bool keepsProfile(const QString &path, const QString &typeIdentifier) const;
+    Q_INVOKABLE virtual bool keepsProfile(const QString &path, const QString &typeIdentifier) const;
 
     /** See platform::takeMemoryRefusal(): the operations of the services answer "Failed" and no more. */
     Q_INVOKABLE QString takeMemoryRefusal() const;

@@ -107,6 +107,14 @@ Result<Recipe> recipeFrom(const QVariantMap &object, const image::RecipeFiles &f
     });
 }
 
+Result<QStringList> filesOf(const QVariantMap &object)
+{
+    image::RecipeFiles files;
+    files.folder = QStringLiteral("/");
+    files.areOpened = false;
+    return recipeFrom(object, files).map([](const Recipe &recipe) { return image::filesOf(recipe); });
+}
+
 QVariantMap answerOf(const OutputPlan &plan)
 {
     const bool isThere = plan.problem.isEmpty();

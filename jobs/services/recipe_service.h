@@ -18,6 +18,9 @@ namespace jobs {
 /** The recipe of a script, see RecipeService: fails where it has not exactly one output. */
 platform::Result<image::Recipe> recipeFrom(const QVariantMap &object, const image::RecipeFiles &files);
 
+/** The files that such a recipe names, without looking at them. */
+platform::Result<QStringList> filesOf(const QVariantMap &object);
+
 /** What RecipeService::planOutput() answers. */
 QVariantMap answerOf(const image::OutputPlan &plan);
 
@@ -44,7 +47,7 @@ public:
      * tells that its type cannot be written. type is the word of recipes ("jpeg"), extension ".jpg", width and height are pixels of
      * the upright result, losses are sentences.
      */
-    Q_INVOKABLE QVariantMap planOutput(const QString &path, const QVariantMap &recipe) const;
+    Q_INVOKABLE virtual QVariantMap planOutput(const QString &path, const QVariantMap &recipe) const;
 
     /**
      * The name of a result with its @p extension (".jpg"), as jobs::nameFrom() makes it of a pattern; one that is too long loses the

@@ -99,7 +99,8 @@ void PictureTable::prepareHeader()
     connect(header, &QHeaderView::sortIndicatorChanged, this, [this, header](int column) {
         if (column == PictureModel::Thumbnail)
             header->setSortIndicator(-1, Qt::AscendingOrder);
-        m_resortPending = column == PictureModel::Pixels && m_headersUpTo < m_model.rowCount();
+        m_resortPending =
+            column == PictureModel::Pixels && (m_headersUpTo < m_model.rowCount() || m_model.headersInWork() > 0);
         Q_EMIT orderChanged();
         Q_EMIT layoutChanged();
     });

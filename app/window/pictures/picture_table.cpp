@@ -18,6 +18,9 @@ namespace {
 constexpr int sliceMs = 8;
 /** Between slices the event loop is left alone this long, so that reading ahead takes a part of one processor only. */
 constexpr int pauseMs = 4;
+/** So many are asked for at a time: enough for all workers, and few enough that what is scrolled to comes soon. */
+constexpr int mostHeaders = 32;
+constexpr int mostThumbnails = 4;
 
 StatusKind kindOf(const QString &word)
 {
@@ -51,6 +54,8 @@ PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_mode
     prepareHeader();
     m_loader.setSingleShot(true);
     connect(&m_loader, &QTimer::timeout, this, &PictureTable::loadSlice);
+    connect(&m_model, &PictureModel::headerArrived, this, &PictureTable::wakeLoader);
+    connect(&m_model, &PictureModel::thumbnailArrived, this, &PictureTable::wakeLoader);
 }
 
 int PictureTable::count() const
@@ -273,54 +278,47 @@ void PictureTable::wakeLoader()
 
 void PictureTable::loadSlice()
 {
-    QElapsedTimer clock;
-    clock.start();
-    while (loadNextVisible() || (!m_busy && loadNextHeader())) {
-        if (clock.elapsed() >= sliceMs) {
-            m_loader.start(pauseMs);
-            return;
-        }
-    }
-    if (std::exchange(m_resortPending, false))
+    loadVisible();
+    if (!m_busy)
+        loadHeaders();
+    const bool isAllKnown = m_headersUpTo >= m_model.rowCount() && m_model.headersInWork() == 0;
+    if (isAllKnown && std::exchange(m_resortPending, false))
         m_order.sort(horizontalHeader()->sortIndicatorSection(), horizontalHeader()->sortIndicatorOrder());
 }
 
-bool PictureTable::loadNextVisible()
+/** What can be seen comes first; what cannot be seen any more is not waited for. */
+void PictureTable::loadVisible()
 {
     if (!isVisible() || m_order.rowCount() == 0)
-        return false;
+        return;
     const int first = qMax(0, rowAt(0));
     const int bottom = rowAt(viewport()->height() - 1);
     const int last = bottom < 0 ? m_order.rowCount() - 1 : bottom;
     const QSize thumbnail = PictureDelegate::thumbnailSize() * devicePixelRatioF();
+    QSet<int> ids;
+    for (int i = first; i <= last; ++i)
+        ids.insert(m_model.row(m_order.mapToSource(m_order.index(i, 0)).row()).id);
+    m_model.dropThumbnailsBut(ids);
     for (int i = first; i <= last; ++i) {
         const int row = m_order.mapToSource(m_order.index(i, 0)).row();
-        if (!m_model.row(row).headerRead) {
-            m_model.withHeader(row);
-            return true;
-        }
+        m_model.wantHeader(row, jobs::Urgency::Now);
+        const bool isKnown = m_model.row(row).headerRead && !m_model.row(row).pixels.isEmpty();
+        if (isKnown && !m_model.hasThumbnail(row) && m_model.thumbnailsInWork() < mostThumbnails)
+            m_model.wantThumbnail(row, thumbnail);
     }
-    for (int i = first; i <= last; ++i) {
-        const int row = m_order.mapToSource(m_order.index(i, 0)).row();
-        if (m_model.hasThumbnail(row) || (m_model.row(row).thumbnailTried && m_model.row(row).pixels.isEmpty()))
-            continue;
-        m_model.loadThumbnail(row, thumbnail);
-        if (m_model.hasThumbnail(row))
-            return true;
-    }
-    return false;
 }
 
-bool PictureTable::loadNextHeader()
+void PictureTable::loadHeaders()
 {
-    while (m_headersUpTo < m_model.rowCount()) {
-        const int row = m_headersUpTo++;
-        if (m_model.row(row).headerRead)
-            continue;
-        m_model.withHeader(row);
-        return true;
+    QElapsedTimer clock;
+    clock.start();
+    for (; m_headersUpTo < m_model.rowCount() && m_model.headersInWork() < mostHeaders; ++m_headersUpTo) {
+        if (clock.elapsed() >= sliceMs) {
+            m_loader.start(pauseMs);
+            return;
+        }
+        m_model.wantHeader(m_headersUpTo, jobs::Urgency::Later);
     }
-    return false;
 }
 
 } // namespace window

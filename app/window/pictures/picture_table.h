@@ -137,8 +137,8 @@ private:
     void columnsChanged();
     void showHeaderMenu(const QPoint &place);
     void loadSlice();
-    bool loadNextVisible();
-    bool loadNextHeader();
+    void loadVisible();
+    void loadHeaders();
     void wakeLoader();
     QModelIndex shownIndex(int id) const;
     std::vector<int> rowsInOrder() const;

@@ -16,6 +16,7 @@ class TestPictureModel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKERS "/quorlin-worker")); }
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
     void addsEveryPathOnce()
@@ -82,13 +83,62 @@ private Q_SLOTS:
     {
         PictureModel model;
         model.add({copied("own/formats/rgb.jpg", "a.jpg"), m_folder->filePath(QStringLiteral("gone.jpg"))});
-        model.loadThumbnail(0, {32, 24});
+        QSignalSpy arrived(&model, &PictureModel::thumbnailArrived);
+        model.wantThumbnail(0, {32, 24});
+        model.wantThumbnail(0, {32, 24});
+        model.wantThumbnail(1, {32, 24});
+        QCOMPARE(model.thumbnailsInWork(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(arrived.count(), 2, 30000);
         QVERIFY(model.hasThumbnail(0));
         QCOMPARE(model.thumbnail(0).size(), QSize(32, 24));
-        model.loadThumbnail(1, {32, 24});
         QVERIFY(!model.hasThumbnail(1));
         QVERIFY(model.thumbnail(1).isNull());
         QVERIFY2(model.row(1).thumbnailTried, "what cannot be decoded is not tried over and over");
+        model.wantThumbnail(1, {32, 24});
+        QCOMPARE(model.thumbnailsInWork(), 0);
+    }
+
+    void hasHeadersReadWithoutWaiting()
+    {
+        PictureModel model;
+        const QString path = copied("own/orientation/portrait_6.jpg", "six.jpg");
+        write(m_folder->filePath(QStringLiteral("text.jpg")), "no picture");
+        model.add({path, m_folder->filePath(QStringLiteral("text.jpg"))});
+        QSignalSpy arrived(&model, &PictureModel::headerArrived);
+        model.wantHeader(0, jobs::Urgency::Now);
+        model.wantHeader(1, jobs::Urgency::Later);
+        QVERIFY(!model.row(0).headerRead);
+        QTRY_COMPARE_WITH_TIMEOUT(arrived.count(), 2, 30000);
+        QCOMPARE(model.row(0).orientation, 6);
+        QVERIFY(model.row(1).headerRead);
+        QVERIFY(!model.row(1).problem.isEmpty());
+        // Another list, or the same picture added again, has nothing to wait for.
+        PictureModel other;
+        other.add({path});
+        other.wantHeader(0, jobs::Urgency::Later);
+        QCOMPARE(other.row(0).orientation, 6);
+        QCOMPARE(other.headersInWork(), 0);
+    }
+
+    void waitsForNothingOfRowsThatHaveGone()
+    {
+        PictureModel model;
+        QSignalSpy headers(&model, &PictureModel::headerArrived);
+        QSignalSpy thumbnails(&model, &PictureModel::thumbnailArrived);
+        model.add({copied("own/formats/rgb.jpg", "a.jpg"), copied("own/formats/rgb.jpg", "b.jpg"),
+                   copied("own/formats/rgb.jpg", "c.jpg")});
+        const int kept = model.row(2).id;
+        for (int row = 0; row < 3; ++row) {
+            model.wantHeader(row, jobs::Urgency::Now);
+            model.wantThumbnail(row, {8, 8});
+        }
+        model.takeIds({model.row(0).id});
+        model.dropThumbnailsBut({kept});
+        QCOMPARE(model.headersInWork(), 2);
+        QCOMPARE(model.thumbnailsInWork(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(headers.count() + thumbnails.count(), 3, 30000);
+        QVERIFY(model.hasThumbnail(model.indexOfId(kept)));
+        QVERIFY(!model.hasThumbnail(0));
     }
 
     void forgetsWhatItKnewOfAFileThatWasWritten()
@@ -97,7 +147,8 @@ private Q_SLOTS:
         const QString path = copied("own/formats/rgb.jpg", "a.jpg");
         model.add({path});
         const QSize before = model.withHeader(0).pixels;
-        model.loadThumbnail(0, {8, 8});
+        model.wantThumbnail(0, {8, 8});
+        QTRY_VERIFY_WITH_TIMEOUT(model.hasThumbnail(0), 30000);
         QVERIFY(QFile::remove(path));
         QVERIFY(QFile::copy(picturePath("own/orientation/portrait_6.jpg"), path));
         QCOMPARE(model.withHeader(0).pixels, before);
