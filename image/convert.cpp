@@ -29,14 +29,19 @@ Result<Metadata> metadataForStoredPixels(const ImageSource &source)
         [&source](const Metadata &metadata) { return metadata.withOrientation(source.orientation()); });
 }
 
+/** The stored pixels and nothing else. */
+Result<QByteArray> plainFile(const ImageSource &source, FileFormat format)
+{
+    const platform::Forms forms = format == FileFormat::Tiff ? platform::Forms::AsTiffHolds : platform::Forms::Plain;
+    return source.decode({0, platform::Orientation::AsStored, forms, format}).and_then([format](const Bitmap &bitmap) {
+        return platform::encodeImage(bitmap, format, withResolution());
+    });
+}
+
 Result<void> writeKeepingMetadata(const ImageSource &source, FileFormat format, const Metadata &metadata,
                                   const QString &destination)
 {
-    const platform::Forms forms = format == FileFormat::Tiff ? platform::Forms::AsTiffHolds : platform::Forms::Plain;
-    const Result<QByteArray> plain =
-        source.decode({0, platform::Orientation::AsStored, forms, format}).and_then([format](const Bitmap &bitmap) {
-            return platform::encodeImage(bitmap, format, withResolution());
-        });
+    const Result<QByteArray> plain = plainFile(source, format);
     if (!plain)
         return tl::unexpected<platform::Error>(plain.error());
     return platform::replaceFile(destination, *plain).and_then([&] {
@@ -101,7 +106,54 @@ Result<void> write(const ImageSource &source, const Conversion &conversion)
     Q_UNREACHABLE(); // no target of a conversion
 }
 
+Result<QByteArray> uprightFile(const ImageSource &source, FileFormat format, double quality)
+{
+    return source.decode({.written = format}).and_then([&](const Bitmap &bitmap) {
+        platform::EncodeOptions options = withResolution();
+        options.lossyQuality = quality;
+        return platform::encodeImage(bitmap, format, options);
+    });
+}
+
+Result<QByteArray> fileWithMetadata(const ImageSource &source, FileFormat format)
+{
+    return metadataForStoredPixels(source).and_then([&](const Metadata &metadata) {
+        return plainFile(source, format).and_then([&](const QByteArray &plain) { return metadata.writtenInto(plain); });
+    });
+}
+
+Result<QByteArray> convertedFile(const ImageSource &source, OutputType type, double quality)
+{
+    switch (type) {
+    case OutputType::Pdf:
+        return platform::pdfPageOf(source);
+    case OutputType::Png:
+        return fileWithMetadata(source, FileFormat::Png);
+    case OutputType::Tiff:
+        return fileWithMetadata(source, FileFormat::Tiff);
+    case OutputType::Bmp:
+        return uprightFile(source, FileFormat::Bmp, quality);
+    case OutputType::Gif:
+        return uprightFile(source, FileFormat::Gif, quality);
+    case OutputType::Jpeg:
+        return uprightFile(source, FileFormat::Jpeg, quality);
+    case OutputType::Jpeg2000:
+        return uprightFile(source, FileFormat::Jpeg2000, quality);
+    case OutputType::Original:
+    case OutputType::Webp:
+    case OutputType::Avif:
+    case OutputType::JpegXl:
+        break;
+    }
+    return platform::failure(platform::ErrorCode::Unsupported, QString());
+}
+
 } // namespace
+
+Result<qint64> convertedBytes(const ImageSource &source, OutputType type, double quality)
+{
+    return convertedFile(source, type, quality).map([](const QByteArray &file) { return qint64(file.size()); });
+}
 
 Result<void> convertFile(const Conversion &conversion)
 {

@@ -2,6 +2,7 @@
 
 #include "image/types/output_types.h"
 #include "platform/foundation/result.h"
+#include "platform/imageio/source/image_source.h"
 
 #include <QString>
 
@@ -28,5 +29,11 @@ struct Conversion
  * The source may be the destination.
  */
 platform::Result<void> convertFile(const Conversion &conversion);
+
+/**
+ * How many bytes such a file takes, by making it in memory; of a TIFF or BMP file of many rows to the byte but for how its rows are bundled.
+ * Fails as convertFile() does.
+ */
+platform::Result<qint64> convertedBytes(const platform::ImageSource &source, OutputType type, double quality);
 
 } // namespace image

@@ -1628,7 +1628,7 @@ declare module "quorlin/shell" {
     }
 
     interface PreviewResult {
-        /** What is done to the picture: {do: "cut" | "scale" | "flip" | "turn" | "round" | "lay" | "pattern" | "frame" | "flatten", ...}. */
+        /** What is done to the picture: {do: "recipe" | "lay" | "flatten", ...}. */
         deeds: any[];
         /** Pixels of the result. */
         width: whole;
@@ -1638,6 +1638,8 @@ declare module "quorlin/shell" {
         quality?: string;
         /** Shown instead where width is 0. */
         message?: string;
+        /** That makes the file; without one it is a conversion. */
+        recipe?: object;
         /** Not looked at. */
         bytes?: double;
     }
@@ -1648,7 +1650,7 @@ declare module "quorlin/shell" {
         showsResult: boolean;
         /** Shown in the place of a picture that is not there; empty for the usual sentence. */
         problem: string;
-        /** The size that the file of the result will have; -1 while it is not known. */
+        /** The size of the file of the result, which was made once for that; -1 while it is not known. */
         readonly estimatedBytes: double;
         readonly stepRequested: Signal<(rows: whole) => any>;
         readonly largePreviewRequested: Signal<() => any>;

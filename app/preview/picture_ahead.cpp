@@ -9,44 +9,41 @@ namespace window {
 namespace {
 
 constexpr size_t keptAhead = 6;
-/** What is asked for now is shown first, and keys that follow one another quickly are heard first. */
-constexpr int idleMs = 25;
+
+ShownPicture pictureFrom(const jobs::ReadResult &result)
+{
+    ShownPicture picture;
+    picture.problem = result.problem;
+    picture.full = result.size();
+    picture.image = result.image;
+    picture.isReaderGone = result.isReaderGone;
+    picture.lacksMemory = result.value("lacksMemory").toBool();
+    if (picture.problem.isEmpty() && (picture.image.isNull() || picture.full.isEmpty()))
+        picture.isReaderGone = true; // it said neither the one nor the other
+    return picture;
+}
 
 } // namespace
 
-PictureAhead::PictureAhead(std::function<QSize(QSize)> shownSize, QObject *parent)
-    : QObject(parent), m_shownSize(std::move(shownSize))
+void PictureAhead::want(const QStringList &paths, const ShownRoom &room)
 {
-    m_idle.setSingleShot(true);
-    m_idle.setInterval(idleMs);
-    connect(&m_idle, &QTimer::timeout, this, &PictureAhead::decodeNext);
-}
-
-void PictureAhead::want(const QStringList &paths)
-{
+    m_soon.drop();
     m_wanted = paths;
+    m_wantedRoom = room;
     m_mostKept = paths.isEmpty() ? 1 : keptAhead;
     while (m_kept.size() > m_mostKept)
         m_kept.pop_front();
-    if (m_wanted.isEmpty())
-        m_idle.stop();
-    else
-        m_idle.start();
+    prepareNext();
 }
 
-const PictureAhead::Kept *PictureAhead::find(const QString &path) const
+const PictureAhead::Kept *PictureAhead::find(const QString &path, const ShownRoom &room) const
 {
-    const auto found =
-        std::find_if(m_kept.cbegin(), m_kept.cend(), [&path](const Kept &kept) { return kept.path == path; });
+    const auto found = std::find_if(m_kept.cbegin(), m_kept.cend(),
+                                    [&](const Kept &kept) { return kept.path == path && kept.room == room; });
     if (found == m_kept.cend())
         return nullptr;
     const QFileInfo info(path);
     return info.lastModified() == found->changed && info.size() == found->bytes ? &*found : nullptr;
-}
-
-bool PictureAhead::has(const QString &path) const
-{
-    return find(path) != nullptr;
 }
 
 void PictureAhead::forget(const QString &path)
@@ -55,37 +52,50 @@ void PictureAhead::forget(const QString &path)
                  m_kept.end());
 }
 
-platform::Picture PictureAhead::picture(const QString &path)
+void PictureAhead::ask(jobs::Reader &reader, const QString &path, const ShownRoom &room, jobs::Urgency urgency,
+                       const std::function<void(const ShownPicture &picture)> &take)
 {
-    return keep(path);
+    const jobs::ReadRequest request = {jobs::Reading::Rendition,
+                                       path,
+                                       {{QStringLiteral("roomWidth"), room.size.width()},
+                                        {QStringLiteral("roomHeight"), room.size.height()},
+                                        {QStringLiteral("covers"), room.isCovered}}};
+    const QFileInfo info(path);
+    const QDateTime changed = info.lastModified();
+    const qint64 bytes = info.size();
+    reader.ask(request, urgency, [=, this](const jobs::ReadResult &result) {
+        const ShownPicture picture = pictureFrom(result);
+        forget(path);
+        m_kept.push_back({path, changed, bytes, room, picture});
+        if (m_kept.size() > m_mostKept)
+            m_kept.pop_front();
+        take(picture);
+    });
 }
 
-const platform::Picture &PictureAhead::keep(const QString &path)
+void PictureAhead::get(const QString &path, const ShownRoom &room,
+                       const std::function<void(const ShownPicture &picture)> &take)
 {
-    const Kept *known = find(path);
-    Kept kept = known ? *known : Kept();
-    if (!known) {
-        const QFileInfo info(path);
-        kept = {path, info.lastModified(), info.size(), platform::Picture::opened(path)};
-    }
-    forget(path);
-    m_kept.push_back(kept);
-    if (m_kept.size() > m_mostKept)
-        m_kept.pop_front();
-    return m_kept.back().picture;
-}
-
-void PictureAhead::decodeNext()
-{
-    if (m_wanted.isEmpty())
+    m_now.drop();
+    if (const Kept *kept = find(path, room)) {
+        const Kept used = *kept;
+        forget(path);
+        m_kept.push_back(used);
+        take(used.picture);
         return;
-    const QString path = m_wanted.takeFirst();
-    const platform::Picture &picture = keep(path);
-    // A picture that cannot be decoded says so when it is shown.
-    if (!picture.isNull())
-        (void)picture.scaledTo(m_shownSize(picture.pixelSize()));
-    if (!m_wanted.isEmpty())
-        m_idle.start();
+    }
+    ask(m_now, path, room, jobs::Urgency::Now, take);
+}
+
+void PictureAhead::prepareNext()
+{
+    while (!m_wanted.isEmpty()) {
+        const QString path = m_wanted.takeFirst();
+        if (!find(path, m_wantedRoom)) {
+            ask(m_soon, path, m_wantedRoom, jobs::Urgency::Later, [this](const ShownPicture &) { prepareNext(); });
+            return;
+        }
+    }
 }
 
 } // namespace window

@@ -1,37 +1,53 @@
 #pragma once
 
-#include "platform/imageio/source/picture.h"
+#include "jobs/reading/read_errand.h"
 
 #include <QDateTime>
+#include <QImage>
 #include <QObject>
 #include <QStringList>
-#include <QTimer>
 
 #include <deque>
 #include <functional>
 
 namespace window {
 
+/** As much of a picture as can be seen, made by a worker. */
+struct ShownPicture
+{
+    QString problem;           ///< in words, where there is none
+    QSize full;                ///< pixels of the upright picture
+    QImage image;              ///< for the screen
+    bool isReaderGone = false; ///< whoever read it crashed, or was ended
+    bool lacksMemory = false;
+};
+
+/** How large pictures are shown, in pixels of the screen. */
+struct ShownRoom
+{
+    QSizeF size;
+    bool isCovered = false;
+    bool operator==(const ShownRoom &other) const = default;
+};
+
 /**
- * Pictures that will be shown soon, or were a moment ago, decoded for their size on the screen: from the event loop, one at a
- * time, while nothing else is to be done. A few are kept as long as pictures are asked for, else the last one only. A file that
- * changed meanwhile is read anew.
+ * Pictures on their way to the screen: the one that is to be shown now, and those that will be shown soon or were a moment ago. Workers
+ * make them. A few are kept as long as pictures are asked for, else the last one only. A file that changed meanwhile is read anew.
  */
 class PictureAhead : public QObject
 {
     Q_OBJECT
 
 public:
-    /** @param shownSize  says which size in pixels a picture of so many pixels will have on the screen */
-    PictureAhead(std::function<QSize(QSize)> shownSize, QObject *parent);
+    explicit PictureAhead(QObject *parent) : QObject(parent) {}
 
-    /** The pictures to decode, the most wanted first. */
-    void want(const QStringList &paths);
-    bool has(const QString &path) const;
+    /** The pictures that will probably be asked for, the most wanted first. */
+    void want(const QStringList &paths, const ShownRoom &room);
+    bool has(const QString &path, const ShownRoom &room) const { return find(path, room) != nullptr; }
     /** Lets go of a picture whose file was written. */
     void forget(const QString &path);
-    /** The picture at @p path, its decoded pixels with it where they are there; a null picture if it cannot be opened. */
-    platform::Picture picture(const QString &path);
+    /** Calls @p take with it: at once where it is there, else out of the event loop. Nobody waits for what was asked here before. */
+    void get(const QString &path, const ShownRoom &room, const std::function<void(const ShownPicture &picture)> &take);
 
 private:
     struct Kept
@@ -39,18 +55,21 @@ private:
         QString path;
         QDateTime changed;
         qint64 bytes = 0;
-        platform::Picture picture;
+        ShownRoom room;
+        ShownPicture picture;
     };
 
-    void decodeNext();
-    const Kept *find(const QString &path) const;
-    const platform::Picture &keep(const QString &path);
+    void prepareNext();
+    const Kept *find(const QString &path, const ShownRoom &room) const;
+    void ask(jobs::Reader &reader, const QString &path, const ShownRoom &room, jobs::Urgency urgency,
+             const std::function<void(const ShownPicture &picture)> &take);
 
-    std::function<QSize(QSize)> m_shownSize;
     size_t m_mostKept = 1;
     QStringList m_wanted;
+    ShownRoom m_wantedRoom;
     std::deque<Kept> m_kept; ///< the one that was used last at the end
-    QTimer m_idle;
+    jobs::Reader m_now;
+    jobs::Reader m_soon;
 };
 
 } // namespace window

@@ -1,8 +1,10 @@
 #include "jobs/reading/picture_reader.h"
 
+#include "image/convert.h"
 #include "image/recipe/make.h"
 #include "image/recipe/recipe_reader.h"
 #include "image/recipe/sentence.h"
+#include "image/types/output_types.h"
 #include "jobs/names.h"
 #include "jobs/reading/preview_deeds.h"
 #include "jobs/services/recipe_service.h"
@@ -39,10 +41,13 @@ ReadAnswer failed(const QString &problem)
 }
 
 /** The sentence of an operation that says no more than that it failed, where memory was refused to it. */
-ReadAnswer failedWith(const platform::Error &error)
+ReadAnswer failedWith(const platform::Error &error, QSize full = {})
 {
     const QString refusal = platform::takeMemoryRefusal();
-    return failed(refusal.isEmpty() ? error.message : refusal);
+    ReadAnswer answer = failed(refusal.isEmpty() ? error.message : refusal);
+    answer.message.values = {
+        {key("lacksMemory"), !refusal.isEmpty()}, {key("width"), full.width()}, {key("height"), full.height()}};
+    return answer;
 }
 
 ReadAnswer answerWith(const QVariantMap &values)
@@ -201,6 +206,17 @@ ReadAnswer bytesOf(const image::Recipe &recipe, const ImageSource &source, const
     return answer;
 }
 
+ReadAnswer bytesOfConversion(const ImageSource &source, const QString &identifier, const QString &qualityCode)
+{
+    for (const image::WrittenType &type : image::writtenTypes())
+        if (identifier == type.identifier) {
+            const double quality = qualityCode.isEmpty() ? 1 : image::qualityForCode(qualityCode);
+            const Result<qint64> bytes = image::convertedBytes(source, type.type, quality);
+            return bytes ? answerWith({{key("bytes"), double(*bytes)}}) : failedWith(bytes.error());
+        }
+    return failed({});
+}
+
 } // namespace
 
 PictureReader::Kept PictureReader::keptOf(int descriptor)
@@ -257,7 +273,7 @@ ReadAnswer PictureReader::rendition(const Request &request)
 {
     QSize full;
     const Result<Bitmap> base = baseOf(request, &full);
-    return base ? shown(base->toScreenImage(), full) : failedWith(base.error());
+    return base ? shown(base->toScreenImage(), full) : failedWith(base.error(), full);
 }
 
 ReadAnswer PictureReader::result(const Request &request)
@@ -265,7 +281,7 @@ ReadAnswer PictureReader::result(const Request &request)
     QSize full;
     const Result<Bitmap> base = baseOf(request, &full);
     if (!base)
-        return failedWith(base.error());
+        return failedWith(base.error(), full);
     const Result<jobs::Rendition> made =
         deedsFrom(request.value("deeds").toList(), request.recipeFiles()).and_then([&](const Deeds &deeds) {
             return done(deeds, {*base, full}, request.facts());
@@ -303,6 +319,10 @@ ReadAnswer PictureReader::answer(const ReadMessage &read, std::vector<platform::
     case Reading::Plan:
         return withRecipe(planned);
     case Reading::Bytes:
+        if (!request.value("recipe").isValid())
+            return withSource([&request](const ImageSource &source) {
+                return bytesOfConversion(source, request.value("type").toString(), request.value("quality").toString());
+            });
         return withRecipe([&request](const image::Recipe &recipe, const ImageSource &source) {
             return bytesOf(recipe, source, needsFacts(recipe) ? request.facts() : text::TokenFacts());
         });

@@ -24,7 +24,8 @@ enum class Reading {
     Thumbnail,
     /**
      * The picture in no more pixels than can be seen: {roomWidth, roomHeight} and "covers", see renditionSize().
-     * Answer: pixels, and the {width, height} of the upright picture.
+     * Answer: pixels, and the {width, height} of the upright picture; with a problem these tell that it could be opened, and
+     * {lacksMemory} whether there was not enough.
      */
     Rendition,
     /** The same with {deeds} done to it, see preview_deeds.h. Answer: pixels, and the {width, height} of the whole result. */
@@ -37,7 +38,7 @@ enum class Reading {
     Profile,
     /** What {recipe} makes of the picture, see RecipeService::planOutput(). The files that the recipe names come along. */
     Plan,
-    /** {bytes}: how large the file is that {recipe} makes of the picture, by making it. */
+    /** {bytes}: how large the file is that {recipe} makes of the picture, or else its conversion to {type} with {quality}, by making it. */
     Bytes,
 };
 

@@ -1,13 +1,17 @@
 #include "app/script/ScriptEngine.h"
 #include "app/window/preview/compare_preview.h"
 #include "app/window/script_modules.h"
+#include "image/convert.h"
 #include "image/crop.h"
+#include "image/types/output_types.h"
+#include "jobs/services/recipe_service.h"
 #include "platform/desktop/user_defaults.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QJSEngine>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -18,18 +22,39 @@ using window::CropFrameEditor;
 
 namespace {
 
+/** An operation of a recipe, as a deed. */
+QVariantMap recipeOf(const QVariantMap &operation)
+{
+    return {{QStringLiteral("do"), QStringLiteral("recipe")},
+            {QStringLiteral("path"), QStringLiteral("/a.png")},
+            {QStringLiteral("operations"), QVariantList{operation}}};
+}
+
 QVariantMap cut(const QRect &part)
 {
-    return {{QStringLiteral("do"), QStringLiteral("cut")},
-            {QStringLiteral("x"), part.x()},
-            {QStringLiteral("y"), part.y()},
-            {QStringLiteral("width"), part.width()},
-            {QStringLiteral("height"), part.height()}};
+    return recipeOf({{QStringLiteral("do"), QStringLiteral("crop")},
+                     {QStringLiteral("width"), part.width()},
+                     {QStringLiteral("height"), part.height()},
+                     {QStringLiteral("position"), QStringLiteral("top left")},
+                     {QStringLiteral("offset"), QVariantList{part.x(), part.y()}}});
 }
 
 QVariantMap turn(double degrees)
 {
-    return {{QStringLiteral("do"), QStringLiteral("turn")}, {QStringLiteral("degrees"), degrees}};
+    return recipeOf({{QStringLiteral("do"), QStringLiteral("turn")}, {QStringLiteral("degrees"), degrees}});
+}
+
+/** The recipe of one such deed, into a PNG file. */
+QVariantMap recipeFor(const QVariantMap &deed)
+{
+    return {{QStringLiteral("quorlin"), 1},
+            {QStringLiteral("operations"), deed.value(QStringLiteral("operations"))},
+            {QStringLiteral("outputs"), QVariantList{QVariantMap{{QStringLiteral("type"), QStringLiteral("png")}}}}};
+}
+
+void useWorkers()
+{
+    jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKER));
 }
 
 QVariantMap wanted(const QVariantList &deeds, QSize size, const char *message = "")
@@ -61,6 +86,7 @@ private Q_SLOTS:
     void laysTransparentResultsOnALightPattern();
     void showsACropAtTheScaleOfTheOriginal();
     void estimatesTheFileAfterAWhile();
+    void goesOnAfterAReaderThatCrashes();
     void movesTheFrameWithTheMouse();
     void sizesTheFrameWithTheMouse();
     void keepsTheRatioOfTheFrameWithShift();
@@ -91,6 +117,7 @@ private:
 
 void TestPreview::initTestCase()
 {
+    useWorkers();
     QImage halves = pictures::plain(600, 400, Qt::red, QImage::Format_RGB888);
     for (int y = 0; y < 400; ++y)
         for (int x = 300; x < 600; ++x)
@@ -203,9 +230,9 @@ void TestPreview::refusesAnUnknownDeed()
         "catch (e) { return e.name + ': ' + e.message; } })()"));
     QCOMPARE(error.toString(), QStringLiteral("TypeError: Expected a deed of the preview but received \"melt\""));
     const QJSValue fine = value(QStringLiteral(
-        "preview.showResult({ deeds: [{ do: 'turn', degrees: 90 }, { do: 'flip', axis: 'vertical' }, { do: 'round', "
-        "shape: '0', radius: 5, color: '', band: 0 }, { do: 'cut', x: 0, y: 0, width: 9, height: 9 }], width: 9, "
-        "height: 9, type: 'public.png', quality: '', message: '' })"));
+        "preview.showResult({ deeds: [{ do: 'recipe', path: '/a.png', operations: [{ do: 'turn', degrees: 90 }] }, "
+        "{ do: 'lay', color: '#ffffff' }, { do: 'flatten' }], width: 9, height: 9, type: 'public.png', quality: '', "
+        "recipe: { quorlin: 1 }, message: '' })"));
     QVERIFY2(!fine.isError(), qPrintable(fine.toString()));
 }
 
@@ -272,11 +299,56 @@ void TestPreview::estimatesTheFileAfterAWhile()
     result.insert(QStringLiteral("quality"), QStringLiteral("8"));
     QVERIFY(showResult(result));
     QVERIFY(estimated.wait(5000));
-    QVERIFY(estimated.last().first().toDouble() > 500);
+    // As large as the file that a conversion writes.
+    image::Conversion conversion = {path("halves.png"), image::OutputType::Jpeg,
+                                    image::qualityForCode(QStringLiteral("8")), path("halves.jpg")};
+    QVERIFY(image::convertFile(conversion));
+    QCOMPARE(estimated.last().first().toDouble(), double(QFileInfo(conversion.destination).size()));
+    QCOMPARE(m_preview->estimatedBytes(), estimated.last().first().toDouble());
+    m_preview->resize(500, 300); // which is no business of the file
+    QVERIFY(estimated.wait(5000));
+    QCOMPARE(estimated.last().first().toDouble(), double(QFileInfo(conversion.destination).size()));
+    m_preview->resize(800, 400);
+    QVERIFY(estimated.wait(5000));
     result.insert(QStringLiteral("type"), QStringLiteral("com.adobe.pdf"));
     QVERIFY(showResult(result));
-    QVERIFY(!estimated.wait(500));
     QCOMPARE(m_preview->estimatedBytes(), -1.0);
+    QVERIFY(estimated.wait(5000));
+    conversion.type = image::OutputType::Pdf;
+    conversion.destination = path("halves.pdf");
+    QVERIFY(image::convertFile(conversion));
+    QCOMPARE(m_preview->estimatedBytes(), double(QFileInfo(conversion.destination).size()));
+    result.insert(QStringLiteral("recipe"), recipeFor(cut(QRect(0, 0, 9, 9))));
+    QVERIFY(showResult(result));
+    QVERIFY(estimated.wait(5000));
+    QVERIFY(jobs::RecipeService()
+                .make(path("halves.png"), recipeFor(cut(QRect(0, 0, 9, 9))), path("nine.png"))
+                .value(QStringLiteral("path"))
+                .toString() == path("nine.png"));
+    QCOMPARE(m_preview->estimatedBytes(), double(QFileInfo(path("nine.png")).size()));
+}
+
+void TestPreview::goesOnAfterAReaderThatCrashes()
+{
+    QVERIFY(QFile::copy(path("halves.png"), path("try-crash.png")));
+    jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+    delete &jobs::WorkerDesk::ofProcess(); // the next one has other workers
+    m_preview = std::make_unique<ComparePreview>();
+    m_preview->resize(800, 400);
+    m_preview->show();
+    QVERIFY(show("halves.png"));
+    QVERIFY(showResult(wanted({}, QSize(600, 400))));
+    QCOMPARE(m_preview->shownProblem(), QString());
+    m_preview->showPicture(path("try-crash.png"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_preview->shownProblem(),
+                              QStringLiteral("This picture cannot be shown: its reader crashed"), 10000);
+    QVERIFY(at(middleOfOriginal() - QPoint(20, 40)) != QColor(Qt::red));
+    QVERIFY(show("halves.png"));
+    QCOMPARE(m_preview->shownProblem(), QString());
+    QCOMPARE(at(middleOfOriginal() - QPoint(20, 0)), QColor(Qt::red));
+    m_preview.reset();
+    useWorkers();
+    delete &jobs::WorkerDesk::ofProcess();
 }
 
 void TestPreview::movesTheFrameWithTheMouse()
@@ -437,11 +509,7 @@ void TestPreview::followsChangesOfALargePhoto()
     const QList<QPair<const char *, QVariantMap>> changes = {
         {"turn", wanted({turn(7)}, QSize(6442, 4701))},
         {"cut", wanted({cut(QRect(100, 100, 3000, 2000))}, QSize(3000, 2000))},
-        {"round", wanted({QVariantMap{{QStringLiteral("do"), QStringLiteral("round")},
-                                      {QStringLiteral("shape"), QStringLiteral("0")},
-                                      {QStringLiteral("radius"), 400},
-                                      {QStringLiteral("color"), QString()},
-                                      {QStringLiteral("band"), 0}}},
+        {"round", wanted({recipeOf({{QStringLiteral("do"), QStringLiteral("round")}, {QStringLiteral("radius"), 400}})},
                          QSize(6000, 4000))},
     };
     for (const auto &[name, result] : changes) {

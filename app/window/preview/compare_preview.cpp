@@ -5,7 +5,8 @@
 #include "app/window/preview/preview_paint.h"
 
 #include "jobs/names.h"
-#include "platform/foundation/memory_left.h"
+#include "jobs/reading/preview_deeds.h"
+#include "jobs/services/recipe_service.h"
 #include "platform/foundation/raised.h"
 #include "platform/values/fields.h"
 
@@ -19,18 +20,39 @@ namespace {
 constexpr int marginPx = 32;
 constexpr int settleMs = 90;
 constexpr int nextPictureMs = 15;
+constexpr int lateMs = 250;
+/** What a setting costs is worked out when nobody changes it. */
+constexpr int stillMs = 500;
 
 QString reasonText(const QString &reason)
 {
     return reason.isEmpty() ? reason : QStringLiteral(": ") + reason;
 }
 
+QString cannotBeShown(const QString &reason)
+{
+    return ComparePreview::tr("This picture cannot be shown") + reasonText(reason);
+}
+
+QString problemWith(const ShownPicture &picture)
+{
+    if (picture.isReaderGone || picture.lacksMemory)
+        return cannotBeShown(picture.problem);
+    return picture.full.isEmpty() ? ComparePreview::tr("Not a readable picture") : cannotBeShown({});
+}
+
+/** What is left for a picture beside the lines of text. */
+QSizeF roomFor(const QRect &area)
+{
+    const QSizeF room = QSizeF(area.size()) - QSizeF(2 * marginPx, 2 * (badgeMarginPx + 2 * badgeStepPx));
+    return room.expandedTo({1, 1});
+}
+
 } // namespace
 
 ComparePreview::ComparePreview(QWidget *parent)
-    : QWidget(parent), m_ahead([this](QSize pixels) { return decodedSize(pixels); }, this),
-      m_mainHost(std::make_unique<PreviewHost>(*this)), m_cropHost(std::make_unique<PreviewHost>(*this)),
-      m_cropFrame(new CropFrameEditor(this))
+    : QWidget(parent), m_ahead(this), m_mainHost(std::make_unique<PreviewHost>(*this)),
+      m_cropHost(std::make_unique<PreviewHost>(*this)), m_cropFrame(new CropFrameEditor(this))
 {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -41,11 +63,12 @@ ComparePreview::ComparePreview(QWidget *parent)
     connect(m_cropFrame, &CropFrameEditor::edited, this, [this](const QRect &frame) {
         Q_EMIT cropFrameEdited(frame.x(), frame.y(), frame.width(), frame.height());
     });
-    connect(&m_estimate, &ResultEstimate::estimated, this, &ComparePreview::resultEstimated);
-    m_settled.setSingleShot(true);
-    m_asked.setSingleShot(true);
+    for (QTimer *timer : {&m_settled, &m_asked, &m_late, &m_still})
+        timer->setSingleShot(true);
     connect(&m_settled, &QTimer::timeout, this, &ComparePreview::load);
     connect(&m_asked, &QTimer::timeout, this, &ComparePreview::render);
+    connect(&m_late, &QTimer::timeout, this, &ComparePreview::clearLate);
+    connect(&m_still, &QTimer::timeout, this, &ComparePreview::askForBytes);
 }
 
 ComparePreview::~ComparePreview() = default;
@@ -67,14 +90,15 @@ void ComparePreview::showPicture(const QString &path)
     if (path == m_path)
         return;
     m_path = path;
-    m_isStale = true;
-    m_settled.start(m_ahead.has(m_path) ? 0 : nextPictureMs);
+    m_resultReader.drop();
+    m_bytesReader.drop();
+    m_late.start(lateMs);
+    m_settled.start(m_ahead.has(m_path, room()) ? 0 : nextPictureMs);
 }
 
 void ComparePreview::reload()
 {
     m_ahead.forget(m_path);
-    m_isStale = true;
     m_settled.start(nextPictureMs);
 }
 
@@ -83,13 +107,22 @@ void ComparePreview::showResult(const QVariantMap &result)
     const platform::Fields fields(result, QStringLiteral("result"),
                                   {QStringLiteral("deeds"), QStringLiteral("width"), QStringLiteral("height"),
                                    QStringLiteral("type"), QStringLiteral("quality"), QStringLiteral("message"),
-                                   QStringLiteral("bytes")});
-    const auto deeds = jobs::deedsFrom(fields.list("deeds"));
+                                   QStringLiteral("recipe"), QStringLiteral("bytes")});
+    image::RecipeFiles named;
+    named.folder = QStringLiteral("/");
+    named.areOpened = false;
+    const auto deeds = jobs::deedsFrom(fields.list("deeds"), named);
     if (!deeds)
         throw platform::Raised::typeError(deeds.error().message);
     const QSize size(fields.whole("width", 0), fields.whole("height", 0));
-    m_wanted = {*deeds, size, fields.text("message"), fields.text("type"), fields.text("quality")};
-    m_estimate.forget();
+    m_wanted = {fields.list("deeds"),
+                jobs::filesOf(*deeds),
+                result.value(QStringLiteral("recipe")).toMap(),
+                size,
+                fields.text("message"),
+                fields.text("type"),
+                fields.text("quality")};
+    m_estimatedBytes = -1;
     m_asked.start(0);
 }
 
@@ -158,8 +191,7 @@ QSizeF ComparePreview::shownSize(QSize pixels, const QRect &area) const
         return {};
     if (m_fill)
         return own.scaled(area.size(), Qt::KeepAspectRatioByExpanding);
-    const QSizeF room = QSizeF(area.size()) - QSizeF(2 * marginPx, 2 * (badgeMarginPx + 2 * badgeStepPx));
-    const QSizeF least = room.expandedTo({1, 1});
+    const QSizeF least = roomFor(area);
     return own.width() <= least.width() && own.height() <= least.height() ? own
                                                                           : own.scaled(least, Qt::KeepAspectRatio);
 }
@@ -174,34 +206,36 @@ QRectF ComparePreview::pictureRect(QSize pixels, const QRect &area) const
             shown};
 }
 
-void ComparePreview::openPicture()
+ShownRoom ComparePreview::room() const
 {
-    m_isStale = false;
-    m_problem.clear();
-    const platform::Picture opened = m_path.isEmpty() ? platform::Picture() : m_ahead.picture(m_path);
-    m_picture = opened.withSize(QSizeF(opened.pixelSize()));
-    if (m_picture.isNull() && !m_path.isEmpty())
-        m_problem = tr("Not a readable picture");
-}
-
-// What is decoded for the original: no more than can be seen.
-QSize ComparePreview::decodedSize(QSize pixels) const
-{
-    return wholePixels(pictureRect(pixels, originalArea()).size() * devicePixelRatioF()).boundedTo(pixels);
+    const QRect area = originalArea();
+    return {(m_fill ? QSizeF(area.size()) : roomFor(area)) * devicePixelRatioF(), m_fill};
 }
 
 void ComparePreview::load()
 {
-    if (m_isStale)
-        openPicture();
-    m_base = {};
-    if (!m_picture.isNull()) {
-        platform::takeMemoryRefusal();
-        m_base = m_picture.scaledTo(decodedSize(m_picture.pixelSize())).value_or(platform::Bitmap());
-        if (m_base.isNull())
-            m_problem = tr("This picture cannot be shown") + reasonText(platform::takeMemoryRefusal());
+    if (m_path.isEmpty()) {
+        takePicture({});
+        return;
     }
-    m_estimate.setOriginal(m_path, {m_base, m_picture.pixelSize()});
+    if (m_shownPath == m_path && !m_base.isNull()) { // of another size, until it is there as it should be
+        fitViews();
+        placeCropFrame();
+        update();
+    }
+    m_ahead.get(m_path, room(), [this](const ShownPicture &picture) { takePicture(picture); });
+}
+
+void ComparePreview::takePicture(const ShownPicture &picture)
+{
+    m_late.stop();
+    m_shownPath = m_path;
+    m_problem.clear();
+    m_full = picture.image.isNull() ? QSize() : picture.full;
+    m_base = platform::Bitmap::fromImage(picture.image);
+    m_picture = m_base.isNull() ? platform::Picture() : platform::Picture(m_base, QSizeF(m_full));
+    if (m_base.isNull() && !m_path.isEmpty())
+        m_problem = problemWith(picture);
     fitViews();
     placeCropFrame();
     render();
@@ -209,12 +243,27 @@ void ComparePreview::load()
         Q_EMIT pictureShown();
 }
 
+/** A picture that takes its time leaves an empty place and not another picture's. */
+void ComparePreview::clearLate()
+{
+    if (m_shownPath == m_path)
+        return;
+    m_full = {};
+    m_base = {};
+    m_picture = {};
+    m_problem.clear();
+    m_resultImage = {};
+    m_resultProblem.clear();
+    fitViews();
+    placeCropFrame();
+    update();
+}
+
 /** Gives the view of the original its place, and the picture after that, so that it is fitted once. */
 void ComparePreview::fitViews()
 {
     const qreal ratio = devicePixelRatioF();
-    const QSize pixels = m_picture.pixelSize();
-    const QSizeF place = m_fill ? QSizeF(originalArea().size()) : pictureRect(pixels, originalArea()).size();
+    const QSizeF place = m_fill ? QSizeF(originalArea().size()) : pictureRect(m_full, originalArea()).size();
     m_mainHost->content = m_base.isNull() ? QSizeF(0, 0) : QSizeF(wholePixels(place * ratio));
     m_mainView.setProperty("pImageOrig", QVariant::fromValue(platform::Picture()));
     m_mainView.setProperty("pImageToFit", !m_fill);
@@ -226,25 +275,82 @@ void ComparePreview::fitViews()
 void ComparePreview::render()
 {
     m_asked.stop();
-    m_estimate.forget();
-    m_result = {};
-    m_resultImage = {};
-    m_scaledResult = {};
-    m_resultProblem = m_wanted.message;
-    update();
-    if (m_base.isNull() || !m_showsResult || m_wanted.size.isEmpty())
-        return;
-    const auto made = jobs::done(m_wanted.deeds, {m_base, m_picture.pixelSize()}, jobs::factsOfPicture(m_path, 0));
-    if (!made) {
-        m_resultProblem = made.error().message;
+    m_estimatedBytes = -1;
+    m_bytesReader.drop();
+    m_still.stop();
+    const bool isShown = m_shownPath == m_path && !m_base.isNull() && m_showsResult && !m_wanted.size.isEmpty();
+    if (!isShown) {
+        m_resultReader.drop();
+        m_resultImage = {};
+        m_scaledResult = {};
+        m_resultProblem = m_wanted.message;
+        update();
         return;
     }
-    m_result = *made;
-    m_resultImage = m_result.bitmap.toScreenImage();
-    if (m_cropFrame->isShown())
-        showCropped();
-    m_estimate.ask({m_result.bitmap, m_wanted.size}, m_wanted.type, m_wanted.qualityCode);
-    Q_EMIT resultShown();
+    askForResult();
+    m_still.start(stillMs);
+}
+
+/** What is known of the file without looking into it, for tokens. */
+QVariantMap ComparePreview::factValues() const
+{
+    const text::TokenFacts facts = jobs::factsOfFile(m_path, 0, true);
+    return {{QStringLiteral("created"), facts.created},
+            {QStringLiteral("changed"), facts.changed},
+            {QStringLiteral("bytes"), facts.bytes}};
+}
+
+void ComparePreview::askForResult()
+{
+    m_isResultStale = m_resultReader.inWork() > 0;
+    if (m_isResultStale)
+        return;
+    const ShownRoom shown = room();
+    QVariantMap values = factValues();
+    values.insert(QStringLiteral("roomWidth"), shown.size.width());
+    values.insert(QStringLiteral("roomHeight"), shown.size.height());
+    values.insert(QStringLiteral("covers"), shown.isCovered);
+    values.insert(QStringLiteral("deeds"), m_wanted.deeds);
+    m_resultReader.ask({jobs::Reading::Result, m_path, values, m_wanted.files}, jobs::Urgency::Now,
+                       [this](const jobs::ReadResult &result) { takeResult(result); });
+}
+
+void ComparePreview::takeResult(const jobs::ReadResult &result)
+{
+    m_resultImage = result.image;
+    m_resultFull = result.size();
+    m_scaledResult = {};
+    m_resultProblem = result.isReaderGone ? cannotBeShown(result.problem) : result.problem;
+    if (m_isResultStale) {
+        askForResult();
+    } else {
+        if (!m_resultImage.isNull() && m_cropFrame->isShown())
+            showCropped();
+        if (!m_resultImage.isNull())
+            Q_EMIT resultShown();
+    }
+    update();
+}
+
+void ComparePreview::askForBytes()
+{
+    QVariantMap values = factValues();
+    QStringList files;
+    if (!m_wanted.recipe.isEmpty()) {
+        values.insert(QStringLiteral("recipe"), m_wanted.recipe);
+        files = jobs::filesOf(m_wanted.recipe).value_or(QStringList());
+    } else {
+        values.insert(QStringLiteral("type"), m_wanted.type);
+        values.insert(QStringLiteral("quality"), m_wanted.qualityCode);
+    }
+    m_bytesReader.ask({jobs::Reading::Bytes, m_path, values, files}, jobs::Urgency::Later,
+                      [this](const jobs::ReadResult &result) {
+                          const double bytes = result.value("bytes").toDouble();
+                          if (!result.isGood() || !(bytes > 0))
+                              return;
+                          m_estimatedBytes = bytes;
+                          Q_EMIT resultEstimated(bytes);
+                      });
 }
 
 const QPixmap &ComparePreview::scaledResult(QSize devicePixels) const
@@ -277,7 +383,7 @@ void ComparePreview::paintOriginal(QPainter &painter) const
     if (m_base.isNull()) {
         paintMessage(painter, area, m_givenProblem.isEmpty() ? m_problem : m_givenProblem);
     } else {
-        const QRectF place = m_fill ? QRectF(area) : pictureRect(m_picture.pixelSize(), area);
+        const QRectF place = m_fill ? QRectF(area) : pictureRect(m_full, area);
         paintShadow(painter, place);
         if (m_base.hasAlpha())
             paintCheckerboard(painter, place);

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "app/preview/picture_ahead.h"
-#include "app/preview/result_estimate.h"
 #include "app/window/preview/crop_frame_editor.h"
-#include "jobs/reading/preview_deeds.h"
+#include "jobs/reading/read_errand.h"
 #include "platform/imageio/source/picture.h"
 #include "views/my2ndPhotoView.h"
 #include "views/myMainPhotoView.h"
@@ -21,9 +20,9 @@ struct PreviewHost;
 /**
  * The current picture and, beside it, what the settings make of it, on a dark surround.
  *
- * The picture is decoded once for its size on the screen, from the event loop when picture and size have settled; what is
- * decoded is kept. A result is made of it from the event loop too, and only the last one that was asked for. With "fit" a
- * picture is never shown larger than its own pixels; with "fill" it covers its half.
+ * Workers make both, as large as they are on the screen, when picture and size have settled; meanwhile what was there before stays for a
+ * moment. One result is made at a time, and after it the last one that was asked for. A reader that crashes costs a sentence in the
+ * place of the picture. With "fit" a picture is never shown larger than its own pixels; with "fill" it covers its half.
  */
 class ComparePreview : public QWidget
 {
@@ -46,21 +45,23 @@ public:
 
     QString problem() const { return m_givenProblem; }
     void setProblem(const QString &problem);
+    /** Why the picture cannot be shown, in words; empty where it can. */
+    QString shownProblem() const { return m_problem; }
 
-    double estimatedBytes() const { return m_estimate.bytes(); }
+    double estimatedBytes() const { return m_estimatedBytes; }
 
     /** Shows the picture at @p path, or nothing where it is empty. */
     Q_INVOKABLE void showPicture(const QString &path);
     /** Pictures that will probably be shown next, the likeliest first: they are decoded beforehand. */
-    Q_INVOKABLE void prepare(const QStringList &paths) { m_ahead.want(paths); }
+    Q_INVOKABLE void prepare(const QStringList &paths) { m_ahead.want(paths, room()); }
     /** Reads the file again, because it was written. */
     Q_INVOKABLE void reload();
     /**
      * What the result half shows.
      *
      * @param result  {deeds: list, see preview_deeds.h; width, height: pixels of the result; type: its type identifier;
-     *                quality: quality code, "" where the action has none; message: shown instead where width is 0}.
-     *                A deed that is not known is a TypeError.
+     *                quality: quality code, "" where the action has none; recipe: that makes the file, without one it is a conversion;
+     *                bytes: not looked at; message: shown instead where width is 0}. A deed that is not known is a TypeError.
      */
     Q_INVOKABLE void showResult(const QVariantMap &result);
     Q_INVOKABLE void setTitles(const QString &original, const QString &result);
@@ -86,11 +87,11 @@ Q_SIGNALS:
     void stepRequested(int rows);
     void largePreviewRequested();
     void closeRequested();
-    /** A picture was decoded and is on the screen. */
+    /** A picture is on the screen. */
     void pictureShown();
     /** A result was made and is on the screen. */
     void resultShown();
-    /** How large the file of the result will be, a while after the last change; exact for BMP and for small results. */
+    /** How large the file of the result will be: as large as the one that a worker has made of it, a while after the last change. */
     void resultEstimated(double bytes);
     /** The user moved or sized the crop frame; pixels of the upright original. */
     void cropFrameEdited(int x, int y, int width, int height);
@@ -109,15 +110,23 @@ private:
     /** What was asked for last. */
     struct Wanted
     {
-        jobs::Deeds deeds;
+        QVariantList deeds;
+        QStringList files; ///< that the deeds name
+        QVariantMap recipe;
         QSize size;
         QString message;
         QString type;
         QString qualityCode;
     };
 
+    ShownRoom room() const;
     void load();
-    void openPicture();
+    void takePicture(const ShownPicture &picture);
+    void clearLate();
+    void askForResult();
+    void takeResult(const jobs::ReadResult &result);
+    QVariantMap factValues() const;
+    void askForBytes();
     void fitViews();
     void render();
     void placeCropFrame();
@@ -130,7 +139,6 @@ private:
     QRect resultArea() const;
     QSizeF shownSize(QSize pixels, const QRect &area) const;
     QRectF pictureRect(QSize pixels, const QRect &area) const;
-    QSize decodedSize(QSize pixels) const;
     void paintOriginal(QPainter &painter) const;
     void paintResult(QPainter &painter) const;
     void paintMessage(QPainter &painter, const QRect &area, const QString &message) const;
@@ -138,9 +146,10 @@ private:
 
     QString m_path;
     PictureAhead m_ahead;
-    platform::Picture m_picture; ///< one pixel a point
-    platform::Bitmap m_base;     ///< the picture at its size on the screen
-    bool m_isStale = false;      ///< the file is to be opened again
+    QString m_shownPath;         ///< of the picture that is shown, which is another one for a moment
+    QSize m_full;                ///< its upright pixels
+    platform::Bitmap m_base;     ///< the picture at about its size on the screen
+    platform::Picture m_picture; ///< the same, one of its own pixels a point
     QString m_problem;           ///< in words, where the picture cannot be shown
     QString m_givenProblem;      ///< what stands there instead
     std::unique_ptr<PreviewHost> m_mainHost;
@@ -154,9 +163,14 @@ private:
     bool m_fill = false;
     bool m_showsResult = true;
     Wanted m_wanted;
-    jobs::Rendition m_result;
+    jobs::Reader m_resultReader;
+    jobs::Reader m_bytesReader;
+    bool m_isResultStale = false; ///< another one was asked for while one is made
+    QSize m_resultFull;
     QImage m_resultImage;
-    ResultEstimate m_estimate;
+    QTimer m_late;  ///< what was shown before is no longer kept
+    QTimer m_still; ///< the settings have not changed for a while
+    double m_estimatedBytes = -1;
     QString m_resultProblem;
     mutable QPixmap m_scaledResult;
     QString m_originalTitle;

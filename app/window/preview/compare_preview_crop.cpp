@@ -32,8 +32,7 @@ void ComparePreview::setOverlay(const platform::Picture &picture)
 
 void ComparePreview::placeCropFrame()
 {
-    m_cropFrame->setPlace(pictureRect(m_picture.pixelSize(), originalArea()), originalArea(),
-                          m_base.isNull() ? QSize() : m_picture.pixelSize());
+    m_cropFrame->setPlace(pictureRect(m_full, originalArea()), originalArea(), m_base.isNull() ? QSize() : m_full);
     prepareOverlay();
 }
 
@@ -56,19 +55,20 @@ void ComparePreview::showCropped()
     if (views::publishedBounds() != bounds)
         m_mainView.boundsDidChangeNotification({});
     m_cropHost->content = QSizeF(resultArea().size()) * devicePixelRatioF();
-    const QSize canvas = m_base.size().expandedTo(m_result.bitmap.size());
-    const QSize margin = (canvas - m_result.bitmap.size()) / 2;
-    const auto placed = platform::placed(m_result.bitmap, QPoint(margin.width(), margin.height()), canvas);
-    m_cropView.setImage(platform::Picture(placed.value_or(platform::Bitmap()), QSizeF(m_picture.pixelSize())));
+    const auto result = platform::Bitmap::fromImage(m_resultImage);
+    const QSize canvas = m_base.size().expandedTo(result.size());
+    const QSize margin = (canvas - result.size()) / 2;
+    const auto placed = platform::placed(result, QPoint(margin.width(), margin.height()), canvas);
+    m_cropView.setImage(platform::Picture(placed.value_or(platform::Bitmap()), QSizeF(m_full)));
 }
 
 /** Where the result is on the screen: at the scale of the original. */
 QRectF ComparePreview::croppedRect() const
 {
     const qreal ratio = devicePixelRatioF();
-    const QRectF bounds = pictureRect(m_picture.pixelSize(), resultArea());
-    const double scale = bounds.width() / m_picture.pixelSize().width();
-    const QSizeF shown = QSizeF(wholePixels(QSizeF(m_result.full) * scale * ratio)) / ratio;
+    const QRectF bounds = pictureRect(m_full, resultArea());
+    const double scale = bounds.width() / m_full.width();
+    const QSizeF shown = QSizeF(wholePixels(QSizeF(m_resultFull) * scale * ratio)) / ratio;
     QRectF place(QPointF(0, 0), shown);
     place.moveCenter(QRectF(resultArea()).center());
     return place;

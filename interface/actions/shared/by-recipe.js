@@ -84,5 +84,5 @@ export function showBy(photo, recipe, planned, quality) {
     const deeds = [{ do: "recipe", operations: recipe.operations, path: photo.path }];
     const matte = recipe.outputs[0].matte || WHITE;
     return { deeds: madeType(planned.type).alpha ? deeds : deeds.concat([{ do: "lay", color: matte }]),
-             width: planned.width, height: planned.height, type: planned.type, quality: quality };
+             width: planned.width, height: planned.height, type: planned.type, quality: quality, recipe: recipe };
 }

@@ -20,7 +20,7 @@ function originalCaption(photo) {
     return parts.concat(profile ? [profile] : []).join(" · ");
 }
 
-// bytes: what the file will about have, -1 while that is not known.
+// bytes: what the file will have, -1 while that is not known.
 function resultCaption(planned, shown, bytes) {
     const type = madeType(planned.type);
     const parts = [pixelsText(planned), type.word];
@@ -28,7 +28,7 @@ function resultCaption(planned, shown, bytes) {
         parts.push(fill(qsTr("quality %1"), shown.quality));
     }
     if (bytes >= 0) {
-        parts.push(fill(qsTr("about %1"), files.byteText(bytes)));
+        parts.push(files.byteText(bytes));
     }
     return parts.join(" · ");
 }

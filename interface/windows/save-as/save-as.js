@@ -92,7 +92,7 @@ export class SaveAs {
     showSize(estimated) {
         const target = this.target();
         const bytes = this.knownBytes >= 0 ? this.knownBytes : estimated;
-        const size = bytes >= 0 ? fill(qsTr("about %1"), files.byteText(bytes)) : "";
+        const size = bytes >= 0 ? files.byteText(bytes) : "";
         this.form.control("saveAsSize").text = size;
         this.view.setCaptions([this.photo.type, files.byteText(this.photo.bytes)].join(" · "),
                               [target.word].concat(size ? [size] : []).join(" · "));
