@@ -21,9 +21,5 @@ float cMConversion::convertXtoPixel(const QString &path, const QString &targetUn
 float cMConversion::getPictureDPI(const QString &path)
 {
     const auto source = platform::ImageSource::open(path);
-    if (!source)
-        return 0;
-    constexpr double pointsPerInch = 72;
-    const double dpi = source->uprightSize().width() * pointsPerInch / source->pointSize().width();
-    return std::ceil(float(dpi));
+    return source ? image::resolutionOf(source->uprightSize(), source->pointSize()) : 0;
 }

@@ -76,4 +76,10 @@ qint32 inPixels(float value, LengthUnit unit, float dpi)
     return unit == LengthUnit::Pica ? whole(double(std::round(float(pixels)))) : whole(pixels);
 }
 
+float resolutionOf(QSize pixels, QSizeF points)
+{
+    constexpr double pointsPerInch = 72;
+    return std::ceil(float(pixels.width() * pointsPerInch / points.width()));
+}
+
 } // namespace image

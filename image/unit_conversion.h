@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 
 #include <optional>
@@ -17,5 +18,8 @@ LengthUnit lengthUnit(const QString &name);
  * finite result, the nearest number of 32 bits where it does not fit. @p dpi is not looked at for Pixel.
  */
 qint32 inPixels(float value, LengthUnit unit, float dpi);
+
+/** The horizontal resolution of a picture of so many pixels and points, in dots per inch, rounded up. */
+float resolutionOf(QSize pixels, QSizeF points);
 
 } // namespace image

@@ -862,6 +862,8 @@ declare module "quorlin/files" {
         name: string;
         /** 1 to 8. */
         orientation: whole;
+        /** Why whoever read it gave up; empty or missing where nobody did. */
+        problem?: string;
         /** In words: "JPEG". */
         type: string;
         bytes: double;
@@ -1013,6 +1015,10 @@ declare module "quorlin/pictures" {
         rawTypes(): list;
         /** Whether a file of the type holds the colour profile of the picture, or there is none. */
         keepsProfile(path: text, typeIdentifier: text): boolean;
+        /** Of the upright picture, in dots per inch, rounded up; 72 where it states none, 0 where it cannot be read. */
+        resolution(path: text): double;
+        /** A length in "mm", "cm", "inch", "pica" or "punt" in whole pixels. */
+        inPixels(length: double, unit: text, dpi: double): whole;
         /** Why memory was too short for a picture since this was asked last; empty where it was not. */
         takeMemoryRefusal(): string;
     };

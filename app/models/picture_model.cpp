@@ -259,6 +259,7 @@ void PictureModel::takeHeader(int id, const KnownPicture &picture)
     row.headerRead = true;
     row.bytes = image::fileBytes(row.path);
     row.problem = picture.problem;
+    row.isReaderGone = picture.isReaderGone;
     row.pixels = picture.pixels;
     row.orientation = picture.orientation;
     if (!picture.type.isEmpty())

@@ -32,6 +32,7 @@ struct PictureRow
     bool headerRead = false;
     bool thumbnailTried = false; ///< and it cannot be made
     QString problem;             ///< why it is no picture that can be read
+    bool isReaderGone = false;   ///< that is because whoever read it crashed, or was ended
     QString newName;
     QString newSize;
     StatusKind kind = StatusKind::None;

@@ -22,20 +22,6 @@ constexpr double finestDpi = 400;
 /** Up to so many pixels a PDF holds them without loss; above, what is a photograph, as JPEG. */
 constexpr qint64 mostLossless = 4'000'000;
 
-/** The pixels of a picture for a place of that size, on white; null where it cannot be read. */
-QImage pixelsFor(const platform::Picture &picture, QSizeF points)
-{
-    const QSize stored = picture.pixelSize();
-    const double most = std::max(points.width(), points.height()) / pointsPerInch * finestDpi;
-    const double scale = most / std::max({stored.width(), stored.height(), 1});
-    if (scale >= 1)
-        return picture.bitmap().toScreenImage();
-    const QSize wanted(std::max(1, int(std::lround(stored.width() * scale))),
-                       std::max(1, int(std::lround(stored.height() * scale))));
-    const auto bitmap = picture.scaledTo(wanted);
-    return bitmap ? bitmap->toScreenImage() : QImage();
-}
-
 QImage onWhite(const QImage &pixels)
 {
     if (!pixels.hasAlphaChannel())
@@ -46,11 +32,12 @@ QImage onWhite(const QImage &pixels)
     return page;
 }
 
-void drawPage(QPainter &painter, const QString &path, const PrintSettings &settings)
+void drawPage(QPainter &painter, const QString &path, const PrintSettings &settings, const PrintSource &source)
 {
-    const platform::Picture picture = platform::Picture::opened(path);
-    const QRectF place = placeOnPage(picture.size(), settings);
-    const QImage pixels = picture.isNull() ? QImage() : onWhite(pixelsFor(picture, place.size()));
+    const QSizeF size = source.size(path);
+    const QRectF place = placeOnPage(size, settings);
+    const double most = std::max(place.width(), place.height()) / pointsPerInch * finestDpi;
+    const QImage pixels = size.isEmpty() ? QImage() : onWhite(source.pixels(path, most));
     if (pixels.isNull())
         return;
     painter.setRenderHint(QPainter::LosslessImageRendering, qint64(pixels.width()) * pixels.height() <= mostLossless);
@@ -60,7 +47,7 @@ void drawPage(QPainter &painter, const QString &path, const PrintSettings &setti
 
 /** One page for each picture, in the device's own paper and orientation. */
 void drawPages(QPagedPaintDevice &device, const QStringList &paths, PrintSettings settings,
-               const platform::PrintPages &pages)
+               const platform::PrintPages &pages, const PrintSource &source)
 {
     settings.page = device.pageLayout();
     QPainter painter;
@@ -73,11 +60,12 @@ void drawPages(QPagedPaintDevice &device, const QStringList &paths, PrintSetting
         if (!isFirst && !device.newPage())
             return;
         isFirst = false;
-        drawPage(painter, paths.at(page), settings);
+        drawPage(painter, paths.at(page), settings, source);
     }
 }
 
-QByteArray pdfOf(const QStringList &paths, const PrintSettings &settings, const platform::PrintPages &pages)
+QByteArray pdfOf(const QStringList &paths, const PrintSettings &settings, const platform::PrintPages &pages,
+                 const PrintSource &source)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -85,11 +73,45 @@ QByteArray pdfOf(const QStringList &paths, const PrintSettings &settings, const 
     writer.setCreator(QStringLiteral("Quorlin"));
     writer.setResolution(1200);
     writer.setPageLayout(settings.page);
-    drawPages(writer, paths, settings, pages);
+    drawPages(writer, paths, settings, pages, source);
     return buffer.data();
 }
 
+/** The picture that was opened last: it is asked for its size and for its pixels. */
+struct OpenedPicture
+{
+    QString path;
+    platform::Picture picture;
+
+    const platform::Picture &at(const QString &wanted)
+    {
+        if (wanted != path)
+            picture = platform::Picture::opened(wanted);
+        path = wanted;
+        return picture;
+    }
+};
+
 } // namespace
+
+PrintSource decodedHere()
+{
+    const auto opened = std::make_shared<OpenedPicture>();
+    PrintSource source;
+    source.size = [opened](const QString &path) { return opened->at(path).size(); };
+    source.pixels = [opened](const QString &path, double most) {
+        const platform::Picture &picture = opened->at(path);
+        const QSize stored = picture.pixelSize();
+        const double scale = most / std::max({stored.width(), stored.height(), 1});
+        if (scale >= 1)
+            return picture.bitmap().toScreenImage();
+        const QSize wanted(std::max(1, int(std::lround(stored.width() * scale))),
+                           std::max(1, int(std::lround(stored.height() * scale))));
+        const auto bitmap = picture.scaledTo(wanted);
+        return bitmap ? bitmap->toScreenImage() : QImage();
+    };
+    return source;
+}
 
 std::vector<int> pagesToPrint(int count, const platform::PrintPages &pages)
 {
@@ -109,7 +131,7 @@ std::vector<int> pagesToPrint(int count, const platform::PrintPages &pages)
     return all;
 }
 
-void printPictures(const QStringList &paths, const PrintSettings &settings)
+void printPictures(const QStringList &paths, const PrintSettings &settings, const PrintSource &source)
 {
     platform::PanelRequest request;
     request.kind = platform::PanelKind::Print;
@@ -119,9 +141,10 @@ void printPictures(const QStringList &paths, const PrintSettings &settings)
     if (!answer.accepted)
         return;
     if (answer.printer)
-        drawPages(*answer.printer, paths, settings, answer.pages);
+        drawPages(*answer.printer, paths, settings, answer.pages, source);
     else if (!answer.paths.isEmpty())
-        static_cast<void>(platform::replaceFile(answer.paths.constFirst(), pdfOf(paths, settings, answer.pages)));
+        static_cast<void>(
+            platform::replaceFile(answer.paths.constFirst(), pdfOf(paths, settings, answer.pages, source)));
 }
 
 } // namespace app

@@ -2,8 +2,11 @@
 
 #include "platform/controls/panels.h"
 
+#include <QImage>
+#include <QSizeF>
 #include <QStringList>
 
+#include <functional>
 #include <vector>
 
 namespace app {
@@ -12,6 +15,18 @@ struct PrintSettings;
 
 /** The numbers of the pages, from 0, in the order in which they are printed, each as often as it is. */
 std::vector<int> pagesToPrint(int count, const platform::PrintPages &pages);
+
+/** Where the pictures of the pages come from. */
+struct PrintSource
+{
+    /** In points; empty for what cannot be read. */
+    std::function<QSizeF(const QString &path)> size;
+    /** The pixels for the screen, in no more than about @p most on a side; null for what cannot be read. */
+    std::function<QImage(const QString &path, double most)> pixels;
+};
+
+/** They are decoded in this process. */
+PrintSource decodedHere();
 
 /**
  * Shows the print panel and, unless it is cancelled, prints each picture on a page of its own: on the printer that was chosen in
@@ -22,6 +37,6 @@ std::vector<int> pagesToPrint(int count, const platform::PrintPages &pages);
  *
  * Pictures are upright and in sRGB, on white where they are transparent. Nothing reports what fails. Main thread; modal.
  */
-void printPictures(const QStringList &paths, const PrintSettings &settings);
+void printPictures(const QStringList &paths, const PrintSettings &settings, const PrintSource &source = decodedHere());
 
 } // namespace app

@@ -15,6 +15,7 @@ KnownPicture pictureFrom(const jobs::ReadResult &result)
 {
     KnownPicture picture;
     picture.problem = result.problem;
+    picture.isReaderGone = result.isReaderGone;
     picture.facts.taken = QDateTime::fromString(result.value("taken").toString(), Qt::ISODate);
     picture.facts.camera = result.value("camera").toString();
     picture.facts.lens = result.value("lens").toString();
@@ -27,7 +28,8 @@ KnownPicture pictureFrom(const jobs::ReadResult &result)
     picture.stored = result.size("storedWidth", "storedHeight");
     picture.orientation = qBound(1, result.value("orientation").toInt(), mostOrientations);
     picture.type = result.value("type").toString();
-    picture.points = QSizeF(result.value("pointWidth").toDouble(), result.value("pointHeight").toDouble());
+    const QSizeF points(result.value("pointWidth").toDouble(), result.value("pointHeight").toDouble());
+    picture.points = points.isEmpty() || !qIsFinite(points.width() * points.height()) ? QSizeF(picture.pixels) : points;
     return picture;
 }
 

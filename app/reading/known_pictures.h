@@ -13,8 +13,9 @@ namespace window {
 /** What the header of a file tells, as a worker read it. */
 struct KnownPicture
 {
-    QString problem; ///< a sentence where the file is no picture that can be read
-    QSize pixels;    ///< upright; null where there is a problem
+    QString problem;           ///< a sentence where the file is no picture that can be read
+    bool isReaderGone = false; ///< that is because whoever read it crashed, or was ended
+    QSize pixels;              ///< upright; null where there is a problem
     QSize stored;
     int orientation = 1;
     QString type;  ///< identifier, by the content; empty where there is a problem

@@ -3,6 +3,8 @@
 #include "app/reading/known_pictures.h"
 #include "files/items/file_facts.h"
 #include "image/recipe/plan.h"
+#include "image/unit_conversion.h"
+#include "jobs/names.h"
 
 namespace window {
 
@@ -73,6 +75,12 @@ bool ReadingFiles::holdsComment(const QString &path) const
     return read(Reading::Comment, path).value("holds").toBool();
 }
 
+double ReadingPictures::resolution(const QString &path) const
+{
+    const KnownPicture picture = KnownPictures::ofProcess().now(path);
+    return picture.pixels.isEmpty() ? 0 : image::resolutionOf(picture.pixels, picture.points);
+}
+
 bool ReadingPictures::keepsProfile(const QString &path, const QString &typeIdentifier) const
 {
     return read(Reading::Profile, path).value("heldBy").toStringList().contains(typeIdentifier);
@@ -90,6 +98,11 @@ QVariantMap ReadingRecipes::planOutput(const QString &path, const QVariantMap &r
         return result.values;
     refused.problem = result.problem;
     return jobs::answerOf(refused);
+}
+
+text::TokenFacts ReadingRecipes::tokenFacts(const QString &path, int index) const
+{
+    return jobs::withPictureFacts(jobs::factsOfFile(path, index, true), KnownPictures::ofProcess().now(path).facts);
 }
 
 } // namespace window

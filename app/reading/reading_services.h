@@ -34,6 +34,7 @@ class ReadingPictures : public image::PictureService
 public:
     using PictureService::PictureService;
 
+    double resolution(const QString &path) const override;
     bool keepsProfile(const QString &path, const QString &typeIdentifier) const override;
 };
 
@@ -45,6 +46,9 @@ public:
     using RecipeService::RecipeService;
 
     QVariantMap planOutput(const QString &path, const QVariantMap &recipe) const override;
+
+protected:
+    text::TokenFacts tokenFacts(const QString &path, int index) const override;
 };
 
 } // namespace window

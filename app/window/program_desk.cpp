@@ -4,6 +4,7 @@
 #include "app/network/version_file.h"
 #include "app/printing/print_job.h"
 #include "app/printing/print_settings.h"
+#include "app/reading/known_pictures.h"
 #include "app/setup/configuration.h"
 #include "app/setup/interface_folder.h"
 #include "app/setup/samples.h"
@@ -38,6 +39,22 @@ void recallPage(QPageLayout &page)
     if (id >= 0 && id < QPageSize::LastPageSize && id != QPageSize::Custom)
         page.setPageSize(QPageSize(QPageSize::PageSizeId(id)));
     page.setOrientation(platform::userDefault(landscapeKey).toBool() ? QPageLayout::Landscape : QPageLayout::Portrait);
+}
+
+/** A picture as large as a page is a while in the making. */
+app::PrintSource readByWorkers()
+{
+    constexpr int seconds = 60;
+    app::PrintSource source;
+    source.size = [](const QString &path) { return KnownPictures::ofProcess().now(path).points; };
+    source.pixels = [](const QString &path, double most) {
+        jobs::ReadRequest request = {jobs::Reading::Rendition,
+                                     path,
+                                     {{QStringLiteral("roomWidth"), most}, {QStringLiteral("roomHeight"), most}}};
+        request.seconds = seconds;
+        return jobs::readNow(request).image;
+    };
+    return source;
 }
 
 /** For a file that ends too early too, which is an error for whoever waits for it. */
@@ -124,7 +141,7 @@ void ProgramDesk::print(const QStringList &paths)
     app::PrintSettings &settings = app::sharedPrintSettings();
     recallPage(settings.page);
     app::fitOnPage(settings);
-    app::printPictures(paths, settings);
+    app::printPictures(paths, settings, readByWorkers());
 }
 
 void ProgramDesk::setUpPage()

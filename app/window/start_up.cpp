@@ -12,6 +12,7 @@
 #include "app/window/panels/dialog_panels.h"
 #include "app/window/script_modules.h"
 #include "app/window/shell.h"
+#include "jobs/desk/worker_desk.h"
 
 #include "platform/desktop/strings_tables.h"
 #include "platform/foundation/log.h"
@@ -40,6 +41,7 @@ StartUp::StartUp(QApplication &application)
     script::addFileModules(*m_scripts, {new ReadingFiles(m_scripts.get()), new ReadingPictures(m_scripts.get()),
                                         new ReadingRecipes(m_scripts.get())});
     addShellModule(*m_scripts, *m_shell);
+    jobs::WorkerDesk::forWaiting().warmUp();
     QObject::connect(m_scripts.get(), &script::ScriptEngine::uncaughtError, m_shell.get(),
                      [](const QString &message) { platform::logLine(message); });
 }

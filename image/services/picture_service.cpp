@@ -2,6 +2,7 @@
 
 #include "image/overlay.h"
 #include "image/types/output_types.h"
+#include "image/unit_conversion.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/formats/formats.h"
@@ -99,6 +100,17 @@ QVariantList PictureService::rawTypes() const
         rows.append(QVariantMap{{QStringLiteral("extension"), QString(type.extension)},
                                 {QStringLiteral("hasPreview"), type.hasPreview}});
     return rows;
+}
+
+double PictureService::resolution(const QString &path) const
+{
+    const auto source = platform::ImageSource::open(path);
+    return source ? resolutionOf(source->uprightSize(), source->pointSize()) : 0;
+}
+
+int PictureService::inPixels(double length, const QString &unit, double dpi) const
+{
+    return image::inPixels(float(length), lengthUnit(unit), float(dpi));
 }
 
 bool PictureService::keepsProfile(const QString &path, const QString &typeIdentifier) const

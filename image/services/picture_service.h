@@ -48,6 +48,14 @@ public:
      */
     Q_INVOKABLE virtual bool keepsProfile(const QString &path, const QString &typeIdentifier) const;
 
+    /**
+     * The horizontal resolution of the upright picture at @p path in dots per inch, rounded up; 72 where it states none, 0 where it
+     * cannot be read. Reads the header.
+     */
+    Q_INVOKABLE virtual double resolution(const QString &path) const;
+    /** A length in "mm", "cm", "inch", "pica" or "punt" as whole pixels at @p dpi; see image::inPixels(). */
+    Q_INVOKABLE int inPixels(double length, const QString &unit, double dpi) const;
+
     /** See platform::takeMemoryRefusal(): the operations of the services answer "Failed" and no more. */
     Q_INVOKABLE QString takeMemoryRefusal() const;
 };

@@ -4974,10 +4974,6 @@
         <translation>Qualität %1</translation>
     </message>
     <message>
-        <source>about %1</source>
-        <translation>etwa %1</translation>
-    </message>
-    <message>
         <source>Original</source>
         <translation>Original</translation>
     </message>
@@ -7648,10 +7644,6 @@
     <message>
         <source>Choose a picture to save</source>
         <translation>Wählen Sie ein Bild zum Speichern</translation>
-    </message>
-    <message>
-        <source>about %1</source>
-        <translation>etwa %1</translation>
     </message>
     <message>
         <source>Saved %1, %2</source>

@@ -4974,10 +4974,6 @@
         <translation>qualité %1</translation>
     </message>
     <message>
-        <source>about %1</source>
-        <translation>env. %1</translation>
-    </message>
-    <message>
         <source>Original</source>
         <translation>Original</translation>
     </message>
@@ -7648,10 +7644,6 @@
     <message>
         <source>Choose a picture to save</source>
         <translation>Choisissez une image à enregistrer</translation>
-    </message>
-    <message>
-        <source>about %1</source>
-        <translation>env. %1</translation>
     </message>
     <message>
         <source>Saved %1, %2</source>

@@ -4974,10 +4974,6 @@
         <translation>kwaliteit %1</translation>
     </message>
     <message>
-        <source>about %1</source>
-        <translation>ongeveer %1</translation>
-    </message>
-    <message>
         <source>Original</source>
         <translation>Origineel</translation>
     </message>
@@ -7648,10 +7644,6 @@
     <message>
         <source>Choose a picture to save</source>
         <translation>Kies een foto om te bewaren</translation>
-    </message>
-    <message>
-        <source>about %1</source>
-        <translation>ongeveer %1</translation>
     </message>
     <message>
         <source>Saved %1, %2</source>

@@ -128,8 +128,8 @@ private:
         const auto told = fromMessage<ReadMessage>(message);
         if (!told)
             return false;
-        if (m_trial.beforeMaking)
-            (void)m_trial.beforeMaking(told->paths.first());
+        if (m_trial.beforeReading)
+            m_trial.beforeReading(told->paths.first());
         m_socket.send(toMessage(m_reader.answer(*told, std::move(message.files))));
         return true;
     }

@@ -15,6 +15,8 @@ struct WorkerTrial
 {
     /** Called before the outputs of a picture are made, with its path; where it says something, that is the reason why none is. */
     std::function<QString(const QString &path)> beforeMaking;
+    /** Called before a picture is looked into for somebody who shows it. */
+    std::function<void(const QString &path)> beforeReading;
 
     /** Sleeping in place of computing, so that a machine with few processors can show what many workers do. */
     struct Sleep

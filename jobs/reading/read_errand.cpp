@@ -81,16 +81,14 @@ int ReadErrand::seconds() const
 
 Reader::Number Reader::ask(const ReadRequest &request, Urgency urgency, const TakeReading &take)
 {
-    if (!m_desk)
-        return 0;
-    const auto number = std::make_shared<Number>(0);
-    const auto errand = std::make_shared<ReadErrand>(request, [this, number, take](const ReadResult &result) {
-        m_asked.erase(*number);
+    WorkerDesk &desk = m_desk ? *m_desk : WorkerDesk::ofProcess();
+    const Number own = m_next++;
+    const auto errand = std::make_shared<ReadErrand>(request, [this, own, take](const ReadResult &result) {
+        m_asked.erase(own);
         take(result);
     });
-    *number = m_desk->add(errand, urgency);
-    m_asked.emplace(*number, errand);
-    return *number;
+    m_asked.emplace(own, Asked{&desk, desk.add(errand, urgency), errand});
+    return own;
 }
 
 void Reader::drop(Number number)
@@ -98,10 +96,11 @@ void Reader::drop(Number number)
     const auto found = m_asked.find(number);
     if (found == m_asked.end())
         return;
-    found->second->abandon();
-    if (m_desk && !found->second->isBegun())
-        m_desk->drop(number);
+    const Asked gone = found->second;
     m_asked.erase(found);
+    gone.errand->abandon();
+    if (gone.desk && !gone.errand->isBegun())
+        gone.desk->drop(gone.number);
 }
 
 ReadResult readNow(const ReadRequest &request, WorkerDesk &desk)

@@ -67,12 +67,13 @@ private:
 class Reader
 {
 public:
-    explicit Reader(WorkerDesk &desk = WorkerDesk::ofProcess()) : m_desk(&desk) {}
+    /** @param desk  that of this process where none is given */
+    explicit Reader(WorkerDesk *desk = nullptr) : m_desk(desk) {}
     Reader(const Reader &) = delete;
     Reader &operator=(const Reader &) = delete;
     ~Reader() { drop(); }
 
-    using Number = WorkerDesk::Number;
+    using Number = quint64; ///< never 0
     /** @param take  is called once, out of the event loop, unless this is dropped before */
     Number ask(const ReadRequest &request, Urgency urgency, const TakeReading &take);
     void drop(Number number);
@@ -81,8 +82,16 @@ public:
     int inWork() const { return int(m_asked.size()); }
 
 private:
-    QPointer<WorkerDesk> m_desk;
-    std::map<Number, std::shared_ptr<ReadErrand>> m_asked;
+    struct Asked
+    {
+        QPointer<WorkerDesk> desk;
+        WorkerDesk::Number number = 0;
+        std::shared_ptr<ReadErrand> errand;
+    };
+
+    WorkerDesk *m_desk;
+    std::map<Number, Asked> m_asked;
+    Number m_next = 1;
 };
 
 /** The same, waited for: nothing else happens in this process meanwhile. At most some seconds. */

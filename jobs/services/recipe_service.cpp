@@ -149,9 +149,14 @@ QString RecipeService::nameFor(const QString &path, const QString &pattern, int 
                                const QString &extension) const
 {
     const bool isNeeded = text::needsFacts(text::tokenParts(pattern));
-    const text::TokenFacts facts = isNeeded ? factsOfPicture(path, index) : factsOfFile(path, index, false);
+    const text::TokenFacts facts = isNeeded ? tokenFacts(path, index) : factsOfFile(path, index, false);
     const qsizetype most = platform::longestNameBytes - extension.toUtf8().size();
     return platform::shortened(nameFrom(pattern, facts, {width, height}), most) + extension;
+}
+
+text::TokenFacts RecipeService::tokenFacts(const QString &path, int index) const
+{
+    return factsOfPicture(path, index);
 }
 
 QVariantMap RecipeService::make(const QString &path, const QVariantMap &recipe, const QString &target) const

@@ -2,6 +2,7 @@
 
 #include "image/recipe/recipe_reader.h"
 #include "jobs/services/recipe_work.h"
+#include "text/token_values.h"
 
 #include <QObject>
 #include <QString>
@@ -101,6 +102,10 @@ public:
 
     /** The families of fonts that watermarks can be set in, by the alphabet. */
     Q_INVOKABLE QStringList fonts() const;
+
+protected:
+    /** All that is known of a picture, for tokens. */
+    virtual text::TokenFacts tokenFacts(const QString &path, int index) const;
 };
 
 } // namespace jobs

@@ -1,4 +1,5 @@
-// Does harm, or tries to, where the name of a picture begins with "try-": to a file and a process that its environment names.
+// Does harm, or tries to, where the name of a picture begins with "try-" when something is made of it, or with "read-" when it is looked
+// into: to a file and a process that its environment names.
 
 #include "platform/workers/worker_pool.h"
 #include "tools/worker/worker_main.h"
@@ -126,12 +127,12 @@ int attack(const QString &what)
 }
 
 /** @return why nothing is made of the picture; empty where it is a picture like any other */
-QString trial(const QString &path)
+QString trial(const QString &path, QLatin1String prefix)
 {
     const QString name = QFileInfo(path).completeBaseName();
-    if (!name.startsWith(QLatin1String("try-")))
+    if (!name.startsWith(prefix))
         return {};
-    const QString what = name.mid(4).section(u'-', 0, 0);
+    const QString what = name.mid(prefix.size()).section(u'-', 0, 0);
     if (what == QLatin1String("crash"))
         std::raise(SIGSEGV);
     if (what == QLatin1String("hang"))
@@ -158,6 +159,7 @@ QString trial(const QString &path)
 int main(int argc, char **argv)
 {
     jobs::WorkerTrial trials;
-    trials.beforeMaking = trial;
+    trials.beforeMaking = [](const QString &path) { return trial(path, QLatin1String("try-")); };
+    trials.beforeReading = [](const QString &path) { (void)trial(path, QLatin1String("read-")); };
     std::_Exit(runWorker(argc, argv, trials));
 }

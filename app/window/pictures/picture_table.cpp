@@ -180,7 +180,8 @@ QVariant PictureTable::photo(int id)
                        {QStringLiteral("bytes"), double(row.bytes)},
                        {QStringLiteral("width"), qMax(0, row.pixels.width())},
                        {QStringLiteral("height"), qMax(0, row.pixels.height())},
-                       {QStringLiteral("orientation"), row.orientation}};
+                       {QStringLiteral("orientation"), row.orientation},
+                       {QStringLiteral("problem"), row.isReaderGone ? row.problem : QStringLiteral("")}};
 }
 
 void PictureTable::setPlan(int id, const QString &newName, const QString &newSize)

@@ -98,7 +98,7 @@ public:
     Q_INVOKABLE void selectId(int id);
     /**
      * {id, path, name, type (in words), bytes (-1 unknown), width, height (upright; 0 for an unreadable picture),
-     * orientation}. Reads the file's header if need be. Null for an unknown id.
+     * orientation, problem (why whoever read it gave up; else empty)}. Waits for the file's header if need be. Null for an unknown id.
      */
     Q_INVOKABLE QVariant photo(int id);
     Q_INVOKABLE void setPlan(int id, const QString &newName, const QString &newSize);

@@ -1,8 +1,8 @@
 #include "app/window/properties/property_tree.h"
 
+#include "jobs/reading/read_errand.h"
 #include "platform/foundation/raised.h"
 #include "platform/imageio/metadata/property_labels.h"
-#include "platform/imageio/source/image_source.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -76,9 +76,8 @@ void PropertyTree::add(const QVariantMap &properties, QTreeWidgetItem *above)
 
 bool PropertyTree::showFile(const QString &path)
 {
-    const auto known =
-        platform::ImageSource::open(path).and_then([](const auto &source) { return source.properties(); });
-    const QVariantMap properties = known.value_or(QVariantMap());
+    const jobs::ReadResult known = jobs::readNow({jobs::Reading::Properties, path, {}});
+    const QVariantMap properties = known.value("properties").toMap();
     setUpdatesEnabled(false);
     clear();
     add(properties, nullptr);
@@ -92,7 +91,7 @@ bool PropertyTree::showFile(const QString &path)
         filter(item, m_words.isEmpty());
     }
     setUpdatesEnabled(true);
-    return known.has_value();
+    return known.isGood();
 }
 
 /** Shown is what matches, what lies below a name that matches, and the way to it. */

@@ -38,7 +38,7 @@ export function validate(settings) {
 /** What a run would write for one picture, or a final status with its reason. */
 export function plan(photo, settings) {
     if (!photo.width || !photo.height) {
-        return { status: "Failed", reason: qsTr("not a readable picture") };
+        return { status: "Failed", reason: photo.problem || qsTr("not a readable picture") };
     }
     const target = targetNamed(settings.target);
     const planned = ready(splitPath(photo.path).base + target.extension, target, photo, sourceNotes(photo, target));

@@ -120,12 +120,6 @@ export class CropPane extends Pane {
                  ratio: this.ratio() };
     }
 
-    /** The frame as the service draws it, on a transparent picture of that size; null for a picture that cannot be read. */
-    framePicture(photo, services) {
-        crop.fillOutlets(photo, this.settings, services);
-        return services.image.hShowCropBox(photo.path);
-    }
-
     resultText(photo, planned) {
         return fill(qsTr("%1 at %2, %3"), pixels(planned), planned.inside.x, planned.inside.y) + this.dpiText();
     }

@@ -25,8 +25,6 @@ export const defaults = {
 /** What the output block offers; see the Resize step. */
 export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
-const LABELS = { size: "W x H", percent: "%", pixels: "Pixels" };
-
 /** The settings in a few words, for the log. */
 export function describe(settings) {
     const size = { size: settings.width + "×" + settings.height + " " + settings.unit,
@@ -102,21 +100,6 @@ export function plan(photo, settings, services) {
         planned.notes = [qsTr("Cut off at the picture’s edge.")].concat(planned.notes);
     }
     return Object.assign(planned, { frame: frame, inside: inside });
-}
-
-/** Fills the outlets of the operation that draws the frame. */
-export function fillOutlets(photo, settings, services) {
-    const pixels = forPhoto(photo, settings, services);
-    const outlets = services.outlets;
-    outlets.cropType.selectedLabel = LABELS[settings.mode];
-    outlets.position.selectedSegment = settings.position;
-    outlets.xOffset.stringValue = String(pixels.offsetX);
-    outlets.yOffset.stringValue = String(pixels.offsetY);
-    outlets.width.stringValue = String(pixels.width);
-    outlets.height.stringValue = String(pixels.height);
-    outlets.percentage.stringValue = String(settings.percent);
-    outlets.pixels.stringValue = String(settings.pixels);
-    return pixels;
 }
 
 /** Writes the cut picture as settings.prefix + name, where plan() tells the name; see the Resize step. */

@@ -44,7 +44,7 @@ export function targetOf(photo, fileType) {
     }
     return photo.width && photo.height
         ? { type: type, refusal: null }
-        : { type: null, refusal: { status: "Failed", reason: qsTr("not a readable picture") } };
+        : { type: null, refusal: { status: "Failed", reason: photo.problem || qsTr("not a readable picture") } };
 }
 
 /** True for a source of a type that may hold transparent pixels. */

@@ -87,16 +87,11 @@ export class PreviewSide {
         this.view.setCaptions(this.caption, shown === null ? "" : resultCaption(shown.planned, shown.result, known));
     }
 
-    // The frame of an action that has one, drawn by the service itself.
+    // The frame of an action that has one.
     showFrame(photo, planned) {
         const pane = this.window.pane;
         const ready = planned !== null && planned.status === "ready" && pane.frame !== undefined;
-        const picture = ready ? pane.framePicture(photo, this.window.services) : null;
-        this.view.setOverlay(picture);
         this.view.setCropFrame(ready ? pane.frame(photo, this.window.services) : null);
-        if (picture !== null) {
-            picture.release();
-        }
     }
 
     showOriginal(photo) {

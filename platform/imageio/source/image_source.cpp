@@ -13,6 +13,7 @@
 #include "platform/imageio/formats/memory_need.h"
 #include "platform/imageio/jpeg/shrunk_jpeg.h"
 #include "platform/imageio/source/opened_file.h"
+#include "platform/imageio/source/opening_watch.h"
 #include "platform/imageio/tiff/camera_raw.h"
 
 #include <QCoreApplication>
@@ -141,6 +142,7 @@ Result<void> usePreview(File &file)
 
 Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
 {
+    tellOpening(bytes.path);
     auto file = std::make_shared<File>();
     file->bytes = std::move(bytes);
     const std::unique_ptr<QIODevice> device = file->bytes.device();
@@ -256,6 +258,7 @@ Result<ImageSource> ImageSource::fromLent(std::shared_ptr<const LentFile> file)
 
 bool ImageSource::canOpen(const QString &path)
 {
+    tellOpening(path);
     if (const std::unique_ptr<QIODevice> device = PictureBytes{path, {}}.device())
         if (contentOf(device->read(contentHeadBytes)) == Content::Jpeg)
             return isSoundJpeg(*device);

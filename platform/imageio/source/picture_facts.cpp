@@ -7,6 +7,7 @@
 #include "platform/imageio/formats/content.h"
 #include "platform/imageio/jpeg/jpeg_segments.h"
 #include "platform/imageio/source/image_source.h"
+#include "platform/imageio/source/opening_watch.h"
 #include "platform/imageio/tiff/camera_raw.h"
 
 #include <QBuffer>
@@ -252,6 +253,7 @@ PictureFacts soundFacts(QIODevice &file, const QString &path, const Open &open)
 
 PictureFacts pictureFacts(const QString &path)
 {
+    tellOpening(path);
     NamedFile file(path);
     if (!openToRead(file))
         return {};

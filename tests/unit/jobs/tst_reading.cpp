@@ -74,7 +74,7 @@ void TestReading::answersOutOfTheEventLoop()
 {
     World world;
     WorkerDesk desk(with(2));
-    Reader reader(desk);
+    Reader reader(&desk);
     QList<QSize> sizes;
     constexpr int many = 20;
     for (int i = 1; i <= many; ++i)
@@ -92,7 +92,7 @@ void TestReading::forgetsWhatNobodyWaitsFor()
 {
     World world;
     WorkerDesk desk(with(1));
-    Reader reader(desk);
+    Reader reader(&desk);
     int answers = 0;
     QList<Reader::Number> numbers;
     for (int i = 0; i < 6; ++i)
@@ -117,11 +117,11 @@ void TestReading::goesWithWhoeverAsked()
     WorkerDesk desk(with(1));
     bool isCalled = false;
     {
-        Reader reader(desk);
+        Reader reader(&desk);
         reader.ask(facts(world.add(QStringLiteral("a.png"))), Urgency::Now,
                    [&isCalled](const ReadResult &) { isCalled = true; });
     }
-    Reader reader(desk);
+    Reader reader(&desk);
     bool isThere = false;
     reader.ask(facts(world.add(QStringLiteral("b.png"))), Urgency::Later,
                [&isThere](const ReadResult &) { isThere = true; });
@@ -133,10 +133,10 @@ void TestReading::saysWhatHappened_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("problem");
-    QTest::newRow("crash") << QStringLiteral("try-crash.png") << QStringLiteral("its reader crashed");
-    QTest::newRow("nonsense") << QStringLiteral("try-nonsense.png") << QStringLiteral("its reader crashed");
-    QTest::newRow("hang") << QStringLiteral("try-hang.png") << QStringLiteral("it takes longer than 1 seconds");
-    QTest::newRow("memory") << QStringLiteral("try-memory.png")
+    QTest::newRow("crash") << QStringLiteral("read-crash.png") << QStringLiteral("its reader crashed");
+    QTest::newRow("nonsense") << QStringLiteral("read-nonsense.png") << QStringLiteral("its reader crashed");
+    QTest::newRow("hang") << QStringLiteral("read-hang.png") << QStringLiteral("it takes longer than 1 seconds");
+    QTest::newRow("memory") << QStringLiteral("read-memory.png")
                             << QStringLiteral("it needs more than 512 MB of memory");
 }
 
@@ -146,7 +146,7 @@ void TestReading::saysWhatHappened()
     QFETCH(QString, problem);
     World world;
     WorkerDesk desk(with(2, trialProgram()));
-    Reader reader(desk);
+    Reader reader(&desk);
     ReadResult bad;
     int good = 0;
     const auto ask = [&](const QString &each) {
@@ -187,9 +187,9 @@ void TestReading::waitsNoLongerThanItMay()
 {
     World world;
     WorkerDesk desk(with(1, trialProgram()));
-    QCOMPARE(readNow(facts(world.add(QStringLiteral("try-hang.png")), 1), desk).problem,
+    QCOMPARE(readNow(facts(world.add(QStringLiteral("read-hang.png")), 1), desk).problem,
              QStringLiteral("it takes longer than 1 seconds"));
-    QCOMPARE(readNow(facts(world.add(QStringLiteral("try-crash.png"))), desk).problem,
+    QCOMPARE(readNow(facts(world.add(QStringLiteral("read-crash.png"))), desk).problem,
              QStringLiteral("its reader crashed"));
     QCOMPARE(readNow(facts(world.add(QStringLiteral("a.png"))), desk).size(), QSize(64, 48));
 }
@@ -210,7 +210,7 @@ void TestReading::asksFromWithinAnAnswer()
 {
     World world;
     WorkerDesk desk(with(2));
-    Reader reader(desk);
+    Reader reader(&desk);
     const QString path = world.add(QStringLiteral("a.png"));
     int left = 10;
     std::function<void()> ask = [&] {
@@ -228,7 +228,7 @@ void TestReading::readsTheCorpus()
     if (!corpusIsThere())
         QSKIP("There is no collection of pictures");
     WorkerDesk desk(with(2));
-    Reader reader(desk);
+    Reader reader(&desk);
     int asked = 0;
     int answered = 0;
     int gone = 0;
