@@ -931,6 +931,10 @@ declare module "quorlin/files" {
         sweep(folder: text): null;
         /** In one step, inside one file system. Only the item with the identity `replaced` is replaced; "" for none. */
         place(from: text, to: text, replaced: text): { status: "OK" | "Taken" | "Failed"; message: string };
+        /** The path of a folder without links and dots; empty where it is not there. */
+        realFolder(folder: text): string;
+        /** Gives a file the permissions of another one, as far as that can be done. */
+        copyPermissions(from: text, to: text): null;
         /** As stored; null for an unreadable file. */
         storedSize(path: text): Pixels | null;
         /** One block of a JPEG file, as stored; null for any other file. */
@@ -1132,6 +1136,8 @@ declare module "quorlin/recipes" {
         processors(): whole;
         /** Starts a first worker, for what may come. */
         prepare(): null;
+        /** What keeps workers from doing harm, as the kernel tells one; no keys before the first one is there. See Confinement. */
+        confinement(): { [key: string]: any };
         /**
          * Why a recipe cannot be carried out, in a sentence that begins with the place; empty where it can. `text` is that of its file,
          * `folder` where relative paths in it begin. Its pictures are looked at only where filesAreOpened is true.
@@ -1146,6 +1152,16 @@ declare module "quorlin/recipes" {
         /** The families of fonts that watermarks can be set in. */
         fonts(): string[];
     };
+
+    /** What is in force of it. */
+    interface Confinement {
+        /** No program that a worker starts may do more than it. */
+        noNewPrivileges: boolean;
+        /** Landlock. */
+        fileRules: boolean;
+        /** seccomp */
+        callRules: boolean;
+    }
 
     /** A picture that a worker is to make into a new file; width and height are those of the picture, 0 where they are not known. */
     interface Task {

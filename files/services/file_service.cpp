@@ -160,6 +160,20 @@ QVariantMap FileService::place(const QString &from, const QString &to, const QSt
     return {{QStringLiteral("status"), status}, {QStringLiteral("message"), result.message}};
 }
 
+QString FileService::realFolder(const QString &folder) const
+{
+    const QFileInfo info(folder);
+    return info.isDir() ? info.canonicalFilePath() : QString();
+}
+
+void FileService::copyPermissions(const QString &from, const QString &to) const
+{
+    platform::DiskFileSystem disk;
+    const auto item = disk.look(from);
+    if (item && item->kind == platform::ItemKind::File)
+        disk.copyPermissions(from, to);
+}
+
 QVariant FileService::storedSize(const QString &path) const
 {
     const auto source = platform::ImageSource::open(path);

@@ -82,6 +82,11 @@ public:
      */
     Q_INVOKABLE QVariantMap place(const QString &from, const QString &to, const QString &replaced) const;
 
+    /** The path of a folder without links and dots; empty where it is not there. */
+    Q_INVOKABLE QString realFolder(const QString &folder) const;
+    /** Gives the file at @p to the permissions of the file or link at @p from, as far as that can be done. */
+    Q_INVOKABLE void copyPermissions(const QString &from, const QString &to) const;
+
     /** Pixels of the file as stored: {width, height}, or null for an unreadable file. */
     Q_INVOKABLE virtual QVariant storedSize(const QString &path) const;
     /** The pixels of one block of a JPEG file, as stored: {width, height}; null for any other file. Reads the header only. */

@@ -4,19 +4,21 @@ import { copyOf } from "./copies.js";
 import { keep, recall } from "./store.js";
 
 const KEY = "Preferences";
-const STANDARD = { ifTaken: "number", logRows: 100000 };
+// processors: 0 is all there are.
+const STANDARD = { ifTaken: "number", logRows: 100000, processors: 0 };
 
 /** What an action does at first where a name is taken. */
 export const TAKEN = ["number", "replace", "skip", "ask"];
 /** How many rows of the log may be kept. */
 export const LOG_ROWS = [1000, 10000, 100000];
 
-/** {ifTaken, logRows}; what is not known is as it is for everybody. */
+/** {ifTaken, logRows, processors}; what is not known is as it is for everybody. */
 export function wishes(defaults) {
     const kept = recall(defaults, KEY, STANDARD);
     return {
         ifTaken: TAKEN.indexOf(kept.ifTaken) >= 0 ? kept.ifTaken : STANDARD.ifTaken,
         logRows: LOG_ROWS.indexOf(kept.logRows) >= 0 ? kept.logRows : STANDARD.logRows,
+        processors: Number.isInteger(kept.processors) && kept.processors > 0 ? kept.processors : STANDARD.processors,
     };
 }
 

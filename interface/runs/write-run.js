@@ -5,6 +5,7 @@ import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
 import { runItems } from "./making/job.js";
 import { Flow } from "./making/flow.js";
+import { Replacing } from "./making/replacing.js";
 import { runByWorkers } from "./making/worker-job.js";
 import { emptyTable } from "../lib/names.js";
 import { planRun } from "./plan.js";
@@ -37,7 +38,9 @@ export function mayReplace(items) {
     const answer = shell.ask({
         title: qsTr("Replace originals"),
         text: qsTr("%n originals will be replaced by their results.", "", originals),
-        detail: qsTr("What is in them now cannot be brought back."),
+        detail: fill(qsTr("What is in them now goes to the trash (%1) and comes back with Undo."),
+                     files.byteText(items.filter((item) => item.replacesOriginal)
+                         .reduce((sum, item) => sum + (item.photo.bytes || 0), 0))),
         buttons: [qsTr("Replace"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
     });
     return answer.button === 0;
@@ -50,6 +53,7 @@ export class WriteRun extends BaseRun {
     reset(ids) {
         super.reset(ids);
         this.flow = null; // of a run by workers
+        this.replacing = null;
         this.inWork = 0;
         this.toldMs = 0;
         this.steppedMs = 0;
@@ -139,16 +143,37 @@ export class WriteRun extends BaseRun {
     work() {
         const step = this.window.action.step;
         let work = null;
+        this.replacing = new Replacing(this.window.services, this.window.action.title());
+        const services = Object.assign({}, this.window.services, { replacing: this.replacing });
         if (step.recipeFor === undefined) {
-            work = runItems(this.items, step, this.settings, this.window.services);
+            work = runItems(this.items, step, this.settings, services);
         } else {
             this.flow = new Flow(() => this.job.wake());
-            work = runByWorkers(this.items, step, this.settings, this.window.services, this.flow);
+            work = runByWorkers(this.items, step, this.settings, services, this.flow);
         }
         return work;
     }
 
+    // The run waits until there is room.
+    askAboutRoom(item) {
+        const answer = shell.ask({
+            title: qsTr("The disk is full"), text: fill(qsTr("There is no room left in %1."), item.folder),
+            detail: qsTr("What is done stays. The run can go on when there is room, or in another folder."),
+            buttons: [qsTr("Retry"), qsTr("Choose Folder…"), qsTr("Cancel")], initial: 0, escape: 2, check: "",
+        });
+        const folder = answer.button === 1 ? shell.chooseFolder(qsTr("Save the rest to"), item.folder) : null;
+        if (answer.button === 2 || (answer.button === 1 && folder === null)) {
+            this.flow.stop();
+        } else {
+            this.flow.answerRoom(folder);
+        }
+    }
+
     stepDone(event) {
+        if (event.kind === "full") {
+            this.askAboutRoom(event.item);
+            return;
+        }
         const id = this.ids[event.index];
         if (event.item.status === "ready") {
             this.inWork += event.kind === "start" ? 1 : -1;
@@ -239,13 +264,26 @@ export class WriteRun extends BaseRun {
                 this.takeResult(i, { status: "Skipped", reason: reason, photo: item.photo, ms: 0 });
             }
         });
-        const problem = this.keepLog();
+        const problem = [this.endReplacing(), this.keepLog()].filter((text) => text).join(" · ");
         const isStopped = this.flow !== null && this.flow.isStopping;
         this.flow = null;
         this.finish(this.summaryText(isStopped ? "cancelled" : how) + (problem ? " · " + problem : ""));
         if (this.items.some((item) => item.replacesOriginal)) {
             this.window.reloadPreview();
         }
+    }
+
+    // The rows of the log belong to the run that can be undone, where there is one.
+    endReplacing() {
+        const run = this.replacing.run;
+        const problem = this.replacing.end();
+        this.id = this.replacing.count > 0 ? run : this.id;
+        return problem;
+    }
+
+    undoOffer() {
+        const isThere = this.phase === "ended" && this.replacing !== null && this.replacing.count > 0;
+        return isThere && this.window.services.moves.undoable(this.id).can ? { id: this.id, text: qsTr("Undo") } : null;
     }
 
     summaryText(how) {

@@ -27,6 +27,10 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>What keeps those who read pictures from doing harm</source>
+        <translation>Was verhindert, dass das Lesen von Bildern Schaden anrichtet</translation>
+    </message>
 </context>
 <context>
     <name>AddToRecipe</name>
@@ -1221,6 +1225,14 @@
         <source>Done</source>
         <translation>Fertig</translation>
     </message>
+    <message>
+        <source>Work with</source>
+        <translation>Arbeiten mit</translation>
+    </message>
+    <message>
+        <source>How many processors runs use</source>
+        <translation>Wie viele Prozessoren ein Lauf benutzt</translation>
+    </message>
 </context>
 <context>
     <name>PresetPane</name>
@@ -2092,6 +2104,34 @@
     <message>
         <source>Quorlin %1</source>
         <translation>Quorlin %1</translation>
+    </message>
+    <message>
+        <source>No worker that reads pictures is running.</source>
+        <translation>Kein Hilfsprozess, der Bilder liest, läuft gerade.</translation>
+    </message>
+    <message>
+        <source>no new privileges</source>
+        <translation>keine neuen Rechte</translation>
+    </message>
+    <message>
+        <source>file access rules (Landlock)</source>
+        <translation>Regeln für Dateizugriffe (Landlock)</translation>
+    </message>
+    <message>
+        <source>system call filter (seccomp)</source>
+        <translation>Filter für Systemaufrufe (seccomp)</translation>
+    </message>
+    <message>
+        <source>Workers that make pictures are confined by: %1.</source>
+        <translation>Hilfsprozesse, die Bilder herstellen, sind eingeschränkt durch: %1.</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>This system lacks: %1.</source>
+        <translation>Diesem System fehlt: %1.</translation>
     </message>
 </context>
 <context>
@@ -4746,6 +4786,14 @@
         <source>the newest 100,000 entries</source>
         <translation>die neuesten 100.000 Einträge</translation>
     </message>
+    <message>
+        <source>all %1 processors</source>
+        <translation>alle %1 Prozessoren</translation>
+    </message>
+    <message>
+        <source>%1 of %2 processors</source>
+        <translation>%1 von %2 Prozessoren</translation>
+    </message>
 </context>
 <context>
     <name>preset-pane</name>
@@ -7310,6 +7358,13 @@
     </message>
 </context>
 <context>
+    <name>replacing</name>
+    <message>
+        <source>Replaced</source>
+        <translation>Ersetzt</translation>
+    </message>
+</context>
+<context>
     <name>resize-action</name>
     <message>
         <source>Resize</source>
@@ -9339,10 +9394,6 @@
         </translation>
     </message>
     <message>
-        <source>What is in them now cannot be brought back.</source>
-        <translation>Was jetzt in ihnen steht, lässt sich nicht wiederherstellen.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -9415,6 +9466,38 @@
     <message>
         <source>pausing after the pictures in progress</source>
         <translation>pausiert nach den Bildern in Arbeit</translation>
+    </message>
+    <message>
+        <source>What is in them now goes to the trash (%1) and comes back with Undo.</source>
+        <translation>Was jetzt in ihnen ist, kommt in den Papierkorb (%1) und mit Rückgängig zurück.</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>Der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>There is no room left in %1.</source>
+        <translation>In %1 ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>What is done stays. The run can go on when there is room, or in another folder.</source>
+        <translation>Was fertig ist, bleibt. Der Lauf kann weitergehen, wenn Platz ist, oder in einem anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>Save the rest to</source>
+        <translation>Den Rest speichern in</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,10 @@
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>What keeps those who read pictures from doing harm</source>
+        <translation>Ce qui empêche la lecture des images de nuire</translation>
+    </message>
 </context>
 <context>
     <name>AddToRecipe</name>
@@ -1221,6 +1225,14 @@
         <source>Done</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>Work with</source>
+        <translation>Travailler avec</translation>
+    </message>
+    <message>
+        <source>How many processors runs use</source>
+        <translation>Combien de processeurs un traitement utilise</translation>
+    </message>
 </context>
 <context>
     <name>PresetPane</name>
@@ -2092,6 +2104,34 @@
     <message>
         <source>Quorlin %1</source>
         <translation>Quorlin %1</translation>
+    </message>
+    <message>
+        <source>No worker that reads pictures is running.</source>
+        <translation>Aucun processus auxiliaire qui lit les images n’est actif.</translation>
+    </message>
+    <message>
+        <source>no new privileges</source>
+        <translation>pas de nouveaux privilèges</translation>
+    </message>
+    <message>
+        <source>file access rules (Landlock)</source>
+        <translation>règles d’accès aux fichiers (Landlock)</translation>
+    </message>
+    <message>
+        <source>system call filter (seccomp)</source>
+        <translation>filtre d’appels système (seccomp)</translation>
+    </message>
+    <message>
+        <source>Workers that make pictures are confined by: %1.</source>
+        <translation>Les processus auxiliaires qui traitent les images sont confinés par : %1.</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>This system lacks: %1.</source>
+        <translation>Il manque à ce système : %1.</translation>
     </message>
 </context>
 <context>
@@ -4746,6 +4786,14 @@
         <source>the newest 100,000 entries</source>
         <translation>les 100&#x202f;000 dernières entrées</translation>
     </message>
+    <message>
+        <source>all %1 processors</source>
+        <translation>les %1 processeurs</translation>
+    </message>
+    <message>
+        <source>%1 of %2 processors</source>
+        <translation>%1 processeurs sur %2</translation>
+    </message>
 </context>
 <context>
     <name>preset-pane</name>
@@ -7310,6 +7358,13 @@
     </message>
 </context>
 <context>
+    <name>replacing</name>
+    <message>
+        <source>Replaced</source>
+        <translation>Remplacés</translation>
+    </message>
+</context>
+<context>
     <name>resize-action</name>
     <message>
         <source>Resize</source>
@@ -9339,10 +9394,6 @@
         </translation>
     </message>
     <message>
-        <source>What is in them now cannot be brought back.</source>
-        <translation>Leur contenu actuel ne pourra pas être récupéré.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
@@ -9415,6 +9466,38 @@
     <message>
         <source>pausing after the pictures in progress</source>
         <translation>pause après les images en cours</translation>
+    </message>
+    <message>
+        <source>What is in them now goes to the trash (%1) and comes back with Undo.</source>
+        <translation>Leur contenu actuel va à la corbeille (%1) et revient avec Annuler.</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>Le disque est plein</translation>
+    </message>
+    <message>
+        <source>There is no room left in %1.</source>
+        <translation>Il n’y a plus de place dans %1.</translation>
+    </message>
+    <message>
+        <source>What is done stays. The run can go on when there is room, or in another folder.</source>
+        <translation>Ce qui est fait reste. Le traitement peut continuer quand il y a de la place, ou dans un autre dossier.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Choisir un dossier…</translation>
+    </message>
+    <message>
+        <source>Save the rest to</source>
+        <translation>Enregistrer le reste dans</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,10 @@
         <source>Close</source>
         <translation>Sluiten</translation>
     </message>
+    <message>
+        <source>What keeps those who read pictures from doing harm</source>
+        <translation>Wat voorkomt dat het lezen van foto’s schade doet</translation>
+    </message>
 </context>
 <context>
     <name>AddToRecipe</name>
@@ -1221,6 +1225,14 @@
         <source>Done</source>
         <translation>Gereed</translation>
     </message>
+    <message>
+        <source>Work with</source>
+        <translation>Werken met</translation>
+    </message>
+    <message>
+        <source>How many processors runs use</source>
+        <translation>Hoeveel processors een verwerking gebruikt</translation>
+    </message>
 </context>
 <context>
     <name>PresetPane</name>
@@ -2092,6 +2104,34 @@
     <message>
         <source>Quorlin %1</source>
         <translation>Quorlin %1</translation>
+    </message>
+    <message>
+        <source>No worker that reads pictures is running.</source>
+        <translation>Er loopt geen hulpproces dat foto’s leest.</translation>
+    </message>
+    <message>
+        <source>no new privileges</source>
+        <translation>geen nieuwe rechten</translation>
+    </message>
+    <message>
+        <source>file access rules (Landlock)</source>
+        <translation>regels voor bestandstoegang (Landlock)</translation>
+    </message>
+    <message>
+        <source>system call filter (seccomp)</source>
+        <translation>filter voor systeemaanroepen (seccomp)</translation>
+    </message>
+    <message>
+        <source>Workers that make pictures are confined by: %1.</source>
+        <translation>Hulpprocessen die foto’s maken zijn afgeschermd door: %1.</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>niets</translation>
+    </message>
+    <message>
+        <source>This system lacks: %1.</source>
+        <translation>Dit systeem mist: %1.</translation>
     </message>
 </context>
 <context>
@@ -4746,6 +4786,14 @@
         <source>the newest 100,000 entries</source>
         <translation>de nieuwste 100.000 regels</translation>
     </message>
+    <message>
+        <source>all %1 processors</source>
+        <translation>alle %1 processors</translation>
+    </message>
+    <message>
+        <source>%1 of %2 processors</source>
+        <translation>%1 van %2 processors</translation>
+    </message>
 </context>
 <context>
     <name>preset-pane</name>
@@ -7310,6 +7358,13 @@
     </message>
 </context>
 <context>
+    <name>replacing</name>
+    <message>
+        <source>Replaced</source>
+        <translation>Vervangen</translation>
+    </message>
+</context>
+<context>
     <name>resize-action</name>
     <message>
         <source>Resize</source>
@@ -9339,10 +9394,6 @@
         </translation>
     </message>
     <message>
-        <source>What is in them now cannot be brought back.</source>
-        <translation>Wat er nu in staat, is niet terug te halen.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annuleren</translation>
     </message>
@@ -9415,6 +9466,38 @@
     <message>
         <source>pausing after the pictures in progress</source>
         <translation>pauzeert na de foto’s die bezig zijn</translation>
+    </message>
+    <message>
+        <source>What is in them now goes to the trash (%1) and comes back with Undo.</source>
+        <translation>Wat er nu in staat gaat naar de prullenbak (%1) en komt terug met Ongedaan maken.</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>De schijf is vol</translation>
+    </message>
+    <message>
+        <source>There is no room left in %1.</source>
+        <translation>Er is geen ruimte meer in %1.</translation>
+    </message>
+    <message>
+        <source>What is done stays. The run can go on when there is room, or in another folder.</source>
+        <translation>Wat klaar is blijft. De verwerking kan verder als er ruimte is, of in een andere map.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Save the rest to</source>
+        <translation>De rest bewaren in</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
     </message>
 </context>
 <context>

@@ -320,7 +320,8 @@ void WorkerDesk::take(Id id, Message &message)
     if (found == m_workers.end())
         return;
     Worker &worker = found->second;
-    if (!worker.isReady && fromMessage<HelloMessage>(message)) {
+    if (const auto hello = fromMessage<HelloMessage>(message); hello && !worker.isReady) {
+        m_confinement = hello;
         worker.isReady = true;
         m_missing = 0;
         m_pool.endWork(id);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "jobs/crew/messages.h"
 #include "jobs/desk/errand.h"
 #include "platform/workers/worker_pool.h"
 
@@ -82,6 +83,9 @@ public:
     /** Starts a first worker, so that it is there when something is to be done. */
     void warmUp();
 
+    /** What keeps workers from doing harm, as the one says that was ready last; nothing before the first one is. */
+    const std::optional<HelloMessage> &confinement() const { return m_confinement; }
+
     /** Workers that are there, those included that are not ready. */
     int count() const { return m_pool.count(); }
 
@@ -127,9 +131,10 @@ private:
     std::deque<Asked> m_toTryAgain;
     Number m_next = 1;
     qint64 m_memory = 0; ///< what was to be had when nothing was at work
-    int m_missing = 0;   ///< workers that could not be started, one after the other
-    QTimer m_look;       ///< out of the event loop
-    QTimer m_rest;       ///< how long nothing was asked for
+    std::optional<HelloMessage> m_confinement;
+    int m_missing = 0; ///< workers that could not be started, one after the other
+    QTimer m_look;     ///< out of the event loop
+    QTimer m_rest;     ///< how long nothing was asked for
     platform::WorkerPool m_pool;
 };
 

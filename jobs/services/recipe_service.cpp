@@ -201,6 +201,16 @@ void RecipeService::prepare()
     WorkerDesk::ofProcess().warmUp();
 }
 
+QVariantMap RecipeService::confinement() const
+{
+    const std::optional<HelloMessage> &said = WorkerDesk::ofProcess().confinement();
+    if (!said)
+        return {};
+    return {{key("noNewPrivileges"), said->hasNoNewPrivileges},
+            {key("fileRules"), said->hasFileRules},
+            {key("callRules"), said->hasCallRules}};
+}
+
 QString RecipeService::problemOf(const QString &text, const QString &folder, bool filesAreOpened) const
 {
     const Result<Recipe> recipe = readText(text, folder, filesAreOpened);

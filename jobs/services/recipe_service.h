@@ -77,6 +77,11 @@ public:
     Q_INVOKABLE int processors() const;
     /** Starts a first worker, for what may come. */
     Q_INVOKABLE void prepare();
+    /**
+     * {noNewPrivileges, fileRules, callRules}: what keeps workers from doing harm, as the kernel tells the one that was started last. Without
+     * any keys before the first one is there.
+     */
+    Q_INVOKABLE QVariantMap confinement() const;
 
     /**
      * Why a recipe cannot be carried out, in a sentence that begins with the place; empty where it can. Pictures, patterns, fonts and

@@ -43,6 +43,8 @@ private Q_SLOTS:
     void startsAWorkerEarly();
     void saysThatAPictureIsGone();
     void leavesNothingWhereItIsGivenUp();
+    void bringsBackWhatItReplaced();
+    void saysWhatConfinesWorkers();
 
 private:
     QString add(const QString &name, QSize size = {300, 200})
@@ -207,6 +209,43 @@ void WorkerRuns::leavesNothingWhereItIsGivenUp()
     m_driver->trigger("cancelAction");
     QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("Cancelled:")));
     QVERIFY(!QFileInfo::exists(resultFolder()));
+}
+
+void WorkerRuns::bringsBackWhatItReplaced()
+{
+    addMany(2);
+    const auto content = [this](const char *name) {
+        QFile file(m_pictures + u'/' + QLatin1String(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QList<QByteArray> old = {content("p00.jpg"), content("p01.jpg")};
+    QFile(m_pictures + QStringLiteral("/p01.jpg"))
+        .setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+    m_driver->drop({m_pictures});
+    m_driver->choose("destination", QStringLiteral("source"));
+    m_driver->choose("ifTaken", QStringLiteral("replace"));
+    WindowDriver::answerNextQuestion(QStringLiteral("Replace"));
+    QVERIFY2(runToTheEnd().startsWith(QStringLiteral("2 pictures done")), qPrintable(m_driver->text("statusText")));
+    QCOMPARE(QImage(m_pictures + QStringLiteral("/p00.jpg")).width(), 1600);
+    QVERIFY(content("p00.jpg") != old[0]);
+    const auto permissions = QFile(m_pictures + QStringLiteral("/p01.jpg")).permissions();
+    QVERIFY(!permissions.testFlag(QFile::ReadOther) && permissions.testFlag(QFile::ReadGroup));
+    QVERIFY(m_driver->control<QAbstractButton>("undoButton")->isVisible());
+    m_driver->click("undoButton");
+    QVERIFY(m_driver->waitFor([&] { return content("p00.jpg") == old[0] && content("p01.jpg") == old[1]; }));
+    QCOMPARE(QDir(m_pictures).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             (QStringList{QStringLiteral("p00.jpg"), QStringLiteral("p01.jpg")}));
+}
+
+void WorkerRuns::saysWhatConfinesWorkers()
+{
+    QVERIFY(m_driver->waitFor([] { return WorkerDesk::ofProcess().confinement().has_value(); }));
+    m_driver->trigger("aboutAction");
+    const QString said = m_driver->text("aboutGuard");
+    const auto active = *WorkerDesk::ofProcess().confinement();
+    const bool isWhole = active.hasNoNewPrivileges && active.hasFileRules && active.hasCallRules;
+    QCOMPARE(said.contains(QLatin1String("This system lacks")), !isWhole);
+    QCOMPARE(said.contains(QLatin1String("system call filter (seccomp)")), true);
 }
 
 QUORLIN_GUI_TEST(WorkerRuns)

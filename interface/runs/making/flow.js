@@ -7,6 +7,8 @@ export class Flow {
         this.wake = wake;
         this.isPaused = false;
         this.isStopping = false;
+        this.isFull = false; // a disk is
+        this.folder = "";
     }
 
     /** No further picture is begun until resume(). */
@@ -26,7 +28,13 @@ export class Flow {
         this.wake();
     }
 
+    /** There may be room now, in another folder where one is named, else where it was wanted. */
+    answerRoom(folder) {
+        this.isFull = false;
+        this.folder = folder || "";
+    }
+
     holds() {
-        return this.isPaused || this.isStopping;
+        return this.isPaused || this.isStopping || this.isFull;
     }
 }

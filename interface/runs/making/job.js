@@ -1,6 +1,7 @@
 // Carries out a plan, one picture after the other. A generator: whoever runs it may stop after any picture, and what is
 // unfinished is then removed. The same runner serves the windows and the command line.
-// Services used: files (info, makeFolder, makeStaging, place, ...), pictures (takeMemoryRefusal), and what the step uses.
+// Services used: files (info, makeFolder, makeStaging, place, ...), pictures (takeMemoryRefusal), replacing, and what the
+// step uses.
 
 import { FolderNames } from "quorlin/files";
 import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
@@ -82,11 +83,20 @@ export function failed(reason) {
     return { status: "Failed", reason: reason };
 }
 
-/** The name was free when the run was planned. If it was taken since, the rule for taken names holds again. */
-export function placeResult(from, item, rule, files) {
+/**
+ * The name was free when the run was planned. If it was taken since, the rule for taken names holds again.
+ *
+ * @param services  files and, perhaps, replacing (see replacing.js), without which the files that are replaced are gone
+ */
+export function placeResult(from, item, rule, services) {
+    const files = services.files;
+    const replacing = services.replacing;
     let name = item.name;
     for (let number = 2; number < MOST_NUMBERS; number += 1) {
-        const answer = files.place(from, joinPath(item.folder, name), item.replaced);
+        const path = joinPath(item.folder, name);
+        const keeps = replacing !== undefined && item.replaces && name === item.name && files.info(path).exists;
+        const answer = keeps
+            ? replacing.put(from, item) : files.place(from, path, replacing === undefined ? item.replaced : "");
         if (answer.status === "OK") {
             return { status: "OK", name: name };
         }
@@ -114,7 +124,7 @@ function makeOne(item, step, settings, services, workshop) {
         return { status: made.status, reason: made.reason };
     }
     const bytes = services.files.info(made.outputs[0]).bytes;
-    const placed = placeResult(made.outputs[0], item, settings.output.ifTaken, services.files);
+    const placed = placeResult(made.outputs[0], item, settings.output.ifTaken, services);
     if (placed.status !== "OK") {
         return placed;
     }

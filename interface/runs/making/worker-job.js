@@ -1,9 +1,9 @@
 // Carries out a plan by workers, many pictures at a time: they make the files, here each is put into its place. For steps that say
 // with recipeFor(photo, settings, services) what is done to a picture; a generator, as that of job.js is.
-// Services used: recipes (work), files (info, makeFolder, makeStaging, place, ...).
+// Services used: recipes (work), files (info, makeFolder, makeStaging, place, ...), replacing.
 
 import { guard } from "../../lib/guard.js";
-import { joinPath } from "../../lib/names.js";
+import { emptyTable, joinPath } from "../../lib/names.js";
 import { fill } from "../../lib/wording.js";
 import { failed, placeResult, Workshop } from "./job.js";
 
@@ -26,6 +26,7 @@ class WorkerJob {
         this.next = 0;
         this.again = []; // indices that were taken back
         this.targets = [];
+        this.full = emptyTable(); // why there was no room, by index
         this.open = 0; // handed over, and not taken yet
     }
 
@@ -84,18 +85,55 @@ class WorkerJob {
         }
     }
 
+    /** What came back from a worker: its event. */
+    take(made, flow) {
+        this.workshop.leave(this.items[made.number].folder);
+        this.open -= 1;
+        if (made.cause === "full" && !flow.isStopping) {
+            flow.isFull = true;
+            this.full[made.number] = made.reason;
+            this.again = [made.number].concat(this.again);
+            return { kind: "back", index: made.number, item: this.items[made.number] };
+        }
+        return this.end(made.number, this.finish(made), made.ms);
+    }
+
+    /** The rest goes there; names that are taken there get numbers. */
+    moveRest(folder) {
+        const rest = this.again.concat(this.items.map((_item, i) => i).slice(this.next));
+        rest.forEach((index) => {
+            Object.assign(this.items[index], { folder: folder, path: joinPath(folder, this.items[index].name),
+                                               replaces: false, replaced: "", replacesOriginal: false });
+        });
+    }
+
+    /** The disk is full, and nothing is in work: what now? Said once, however many pictures found no room. */
+    * askAboutRoom(flow) {
+        const first = this.again.find((index) => this.full[index] !== undefined);
+        flow.answerRoom(null);
+        yield { kind: "full", index: first, item: this.items[first] };
+        if (flow.folder !== "") {
+            this.moveRest(flow.folder);
+            flow.folder = "";
+        }
+        const full = this.again.filter((index) => flow.isStopping && this.full[index] !== undefined);
+        this.again = this.again.filter((index) => full.indexOf(index) < 0);
+        for (let i = 0; i < full.length; i += 1) {
+            yield this.end(full[i], failed(this.full[full[i]]), 0);
+        }
+        this.full = emptyTable();
+    }
+
     /** The final result of what a worker made. */
     finish(made) {
         const item = this.items[made.number];
-        this.workshop.leave(item.folder);
-        this.open -= 1;
         if (made.outcome !== "OK") {
             return { status: made.outcome, reason: reasonOf(made) };
         }
         if (made.width !== item.width || made.height !== item.height) {
             return failed(fill(qsTr("the result is %1 instead of %2"), sizeWords(made), sizeWords(item)));
         }
-        const placed = placeResult(this.targets[made.number], item, this.settings.output.ifTaken, this.services.files);
+        const placed = placeResult(this.targets[made.number], item, this.settings.output.ifTaken, this.services);
         if (placed.status !== "OK") {
             return placed;
         }
@@ -111,7 +149,7 @@ class WorkerJob {
 
     /** Whether each picture that was begun has its end, and no other one is to be begun. */
     isOver(flow) {
-        return this.open === 0 && (flow.isStopping || !this.hasNext());
+        return this.open === 0 && !flow.isFull && (flow.isStopping || !this.hasNext());
     }
 
     mayGive(flow) {
@@ -138,7 +176,8 @@ class WorkerJob {
 /**
  * A generator that carries out the items of a plan and yields what runItems() of job.js does, the ends in the order in which the
  * pictures are ready; null where it waits for flow.wake(), and {kind: "back", index, item} for a picture that is not begun after all, since
- * the flow is paused or stopped. Returns when each picture that was begun has its end: all of them, or, once
+ * the flow is paused or stopped, or the disk is full; and then {kind: "full", index, item} once, after which the flow has an answer or is
+ * stopped. Returns when each picture that was begun has its end: all of them, or, once
  * the flow is stopped, those that were in progress. Stopping it (return) gives these up and removes what is unfinished.
  */
 export function* runByWorkers(items, step, settings, services, flow) {
@@ -151,7 +190,9 @@ export function* runByWorkers(items, step, settings, services, flow) {
             }
             const made = job.work.take();
             if (made.number !== undefined) {
-                yield job.end(made.number, job.finish(made), made.ms);
+                yield job.take(made, flow);
+            } else if (flow.isFull && job.open === 0) {
+                yield* job.askAboutRoom(flow);
             } else if (job.mayGive(flow)) {
                 yield* job.handOver();
             } else if (!job.isOver(flow)) {

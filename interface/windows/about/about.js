@@ -1,6 +1,7 @@
 // The About sheet: what the program is, and what it stands on.
 
 import { program } from "quorlin/program";
+import { recipes } from "quorlin/recipes";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { fill } from "../../lib/wording.js";
@@ -8,6 +9,19 @@ import { fill } from "../../lib/wording.js";
 function row(library) {
     const cells = [library.name, library.version, library.licence];
     return "<tr>" + cells.map((text) => "<td style=\"padding-right: 24px\">" + text + "</td>").join("") + "</tr>";
+}
+
+// Pictures come from anywhere, and what reads them may have faults.
+function guardText(active) {
+    if (active.callRules === undefined) {
+        return qsTr("No worker that reads pictures is running.");
+    }
+    const missing = [[active.noNewPrivileges, qsTr("no new privileges")],
+                     [active.fileRules, qsTr("file access rules (Landlock)")],
+                     [active.callRules, qsTr("system call filter (seccomp)")]];
+    const words = (isOn) => missing.filter((each) => each[0] === isOn).map((each) => each[1]).join(", ");
+    return [fill(qsTr("Workers that make pictures are confined by: %1."), words(true) || qsTr("nothing"))]
+        .concat(words(false) === "" ? [] : [fill(qsTr("This system lacks: %1."), words(false))]).join(" ");
 }
 
 export class About {
@@ -21,6 +35,7 @@ export class About {
     }
 
     open() {
+        this.form.control("aboutGuard").text = guardText(recipes.confinement());
         this.host.sheet = this.form.control("aboutWindow");
         this.form.control("aboutClose").setFocus();
     }

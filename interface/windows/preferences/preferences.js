@@ -2,16 +2,28 @@
 
 import { cSheetControl } from "quorlin";
 import { defaults } from "quorlin/defaults";
+import { recipes } from "quorlin/recipes";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { limitRows } from "../../runs/log-file.js";
 import { keep, recall } from "../../lib/store.js";
 import { KEY as UPDATE, STANDARD as UPDATE_STANDARD } from "../../lib/update.js";
+import { fill } from "../../lib/wording.js";
 import { keepWish, LOG_ROWS, TAKEN, wishes } from "../../lib/wishes.js";
 
 // The key that services look at as well. Languages are called as their speakers call them.
 const LANGUAGE = "Language";
 const LANGUAGES = [["en", "English"], ["nl", "Nederlands"], ["de", "Deutsch"], ["fr", "Français"]];
+
+// So many of the processors that this process may use; all of them where the user did not choose, or chose on a larger machine.
+function processorsOf(chosen) {
+    return chosen >= 1 && chosen <= recipes.processors() ? chosen : recipes.processors();
+}
+
+function processorWords(number) {
+    return number === recipes.processors() ? fill(qsTr("all %1 processors"), number)
+        : fill(qsTr("%1 of %2 processors"), number, recipes.processors());
+}
 
 export class Preferences {
     /**
@@ -26,6 +38,7 @@ export class Preferences {
         this.sheets.wwPreferencesWindow = this.form.control("preferencesWindow");
         this.sheets.tfLibraryFilePath = this.form.control("libraryFilePath");
         limitRows(wishes(defaults).logRows);
+        recipes.useProcessors(processorsOf(wishes(defaults).processors));
         this.fillMenus();
         this.connect();
         this.form.control("libraryChange").clicked.connect(guard("library", () => this.change()));
@@ -42,6 +55,8 @@ export class Preferences {
         this.form.setItems("wishLogRows",
                            [qsTr("the newest 1,000 entries"), qsTr("the newest 10,000 entries"),
                             qsTr("the newest 100,000 entries")], LOG_ROWS);
+        const numbers = Array(recipes.processors()).fill(0).map((_zero, i) => i + 1);
+        this.form.setItems("wishProcessors", numbers.map(processorWords), numbers);
     }
 
     connect() {
@@ -50,6 +65,10 @@ export class Preferences {
             wishAppearance: (value) => shell.theme.choose(value),
             wishTaken: (value) => keepWish(defaults, "ifTaken", value),
             wishLogRows: (value) => { keepWish(defaults, "logRows", value); limitRows(value); },
+            wishProcessors: (value) => {
+                keepWish(defaults, "processors", value);
+                recipes.useProcessors(value);
+            },
         };
         Object.keys(choices).forEach((name) => {
             this.form.control(name).activated.connect(guard("preferences", () => choices[name](this.form.value(name))));
@@ -72,6 +91,7 @@ export class Preferences {
         this.form.chooseValue("wishAppearance", shell.theme.choice());
         this.form.chooseValue("wishTaken", wishes(defaults).ifTaken);
         this.form.chooseValue("wishLogRows", wishes(defaults).logRows);
+        this.form.chooseValue("wishProcessors", processorsOf(wishes(defaults).processors));
         this.form.control("wishUpdate").checked = recall(defaults, UPDATE, UPDATE_STANDARD).onStart;
     }
 

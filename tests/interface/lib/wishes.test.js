@@ -8,7 +8,7 @@ function makeDefaults(text) {
     return { get: (key) => kept[key] === undefined ? null : kept[key], set: (key, value) => { kept[key] = value; } };
 }
 
-const USUAL = { ifTaken: "number", logRows: 100000 };
+const USUAL = { ifTaken: "number", logRows: 100000, processors: 0 };
 
 for (const text of [undefined, "", "no JSON", "[]", "{\"ifTaken\":\"burn\",\"logRows\":-5}",
                     "{\"ifTaken\":7,\"logRows\":\"x\"}"]) {
@@ -18,7 +18,11 @@ for (const text of [undefined, "", "no JSON", "[]", "{\"ifTaken\":\"burn\",\"log
 test("keepsOneWishAndLeavesTheOther", () => {
     const defaults = makeDefaults("{\"ifTaken\":\"skip\"}");
     keepWish(defaults, "logRows", 1000);
-    equal(wishes(defaults), { ifTaken: "skip", logRows: 1000 });
+    equal(wishes(defaults), { ifTaken: "skip", logRows: 1000, processors: 0 });
+    keepWish(defaults, "processors", 3);
+    equal(wishes(defaults).processors, 3);
+    keepWish(defaults, "processors", -1);
+    equal(wishes(defaults).processors, 0);
 });
 
 test("startsAnActionAsWished", () => {

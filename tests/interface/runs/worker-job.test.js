@@ -97,6 +97,9 @@ class World {
                 return this.told.slice(from);
             }
             this.told.push(next.value.kind + next.value.index);
+            if (next.value.kind === "full") {
+                this.answer();
+            }
             if (next.value.kind === "end") {
                 this.results[next.value.index] = next.value.result;
             }
@@ -158,6 +161,47 @@ test("stopsAfterThePicturesInProgress", () => {
     world.work.make(0);
     equal([world.go(), world.isOver], [["end0"], true]);
     equal(world.files.entries["/out/a.jpg"], 5);
+});
+
+test("asksOnceWhereADiskIsFull", () => {
+    const world = new World([item("a.jpg"), item("b.jpg"), item("c.jpg")]);
+    world.go();
+    world.work.begin();
+    world.work.begin();
+    const full = { outcome: "Failed", cause: "full", reason: "a.jpg cannot be written: no space" };
+    world.work.make(0, full);
+    equal(world.go(), ["back0"]);
+    world.answer = () => undefined;
+    world.work.make(1, full);
+    equal(world.go(), ["back1", "full1", "start1", "start0"]);
+    world.work.make(0);
+    world.work.make(1);
+    world.go();
+    world.work.make(2);
+    world.go();
+    equal([world.isOver, Object.keys(world.files.entries).length], [true, 4]);
+});
+
+test("goesOnInAnotherFolderWhereADiskIsFull", () => {
+    const world = new World([item("a.jpg"), item("b.jpg", { replaces: true, replaced: "id /out/b.jpg" })]);
+    world.answer = () => world.flow.answerRoom("/other");
+    world.files.entries["/other/a.jpg"] = 1;
+    world.go();
+    world.work.make(1);
+    world.work.make(0, { outcome: "Failed", cause: "full", reason: "x" });
+    equal(world.go(), ["end1", "back0", "full0", "start0"]);
+    world.work.make(0);
+    world.go();
+    equal([world.isOver, world.results[0].path, world.results[1].path], [true, "/other/a (2).jpg", "/out/b.jpg"]);
+});
+
+test("stopsWhereADiskIsFullAndSaysWhy", () => {
+    const world = new World([item("a.jpg"), item("b.jpg"), item("c.jpg")]);
+    world.answer = () => world.flow.stop();
+    world.go();
+    world.work.make(0, { outcome: "Failed", cause: "full", reason: "no space" });
+    equal(world.go(), ["back0", "back1", "full0", "end0"]);
+    equal([world.isOver, world.results[0].reason, world.results[1]], [true, "no space", undefined]);
 });
 
 test("givesUpWhatIsInProgress", () => {
