@@ -1149,6 +1149,8 @@ declare module "quorlin/recipes" {
         supplied(): { name: string; path: string }[];
         /** The extensions of the pictures that recipes are carried out over. */
         takes(): string[];
+        /** Those of the paths that a run wrote, but not in the place of their originals, and nobody changed since. */
+        resultsAmong(paths: texts): string[];
         /** The families of fonts that watermarks can be set in. */
         fonts(): string[];
     };
@@ -1171,6 +1173,8 @@ declare module "quorlin/recipes" {
         recipe: object;
         width: number;
         height: number;
+        /** Whether the file is noted to be a result; true where it is missing. */
+        noted?: boolean;
     }
 
     interface Result {

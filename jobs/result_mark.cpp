@@ -33,8 +33,14 @@ bool isCurrentResult(const QString &path, const QString &source, const QString &
 
 bool isResultOf(const QString &path, const QString &recipeName)
 {
+    constexpr int parts = 3;
     const QByteArrayList lines = platform::attachedNote(path).split('\n');
-    return lines.size() == 3 && lines[0].startsWith(recipeName.toUtf8()) && lines[2] == contentMark(path);
+    return lines.size() == parts && lines[0].startsWith(recipeName.toUtf8()) && lines[2] == contentMark(path);
+}
+
+bool isResult(const QString &path)
+{
+    return isResultOf(path, QString());
 }
 
 } // namespace jobs

@@ -17,4 +17,7 @@ bool isCurrentResult(const QString &path, const QString &source, const QString &
 /** Whether the file at @p path carries a note of this recipe, whatever it was made of, and is as it was made. */
 bool isResultOf(const QString &path, const QString &recipeName);
 
+/** Whether the file at @p path carries a note of any settings, and is as it was made. */
+bool isResult(const QString &path);
+
 } // namespace jobs

@@ -850,6 +850,14 @@
         <source>Stop Watching</source>
         <translation>Überwachung beenden</translation>
     </message>
+    <message>
+        <source>Add Them</source>
+        <translation>Trotzdem hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add what runs of this program wrote to the list all the same</source>
+        <translation>Was Läufe dieses Programms geschrieben haben, trotzdem auf die Liste setzen</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -3714,7 +3722,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>No file manager opens the folder. It is %1</source>
@@ -4562,6 +4570,16 @@
     <message>
         <source>More…</source>
         <translation>Mehr …</translation>
+    </message>
+</context>
+<context>
+    <name>own-results</name>
+    <message numerus="yes">
+        <source>%n results of earlier runs were left out</source>
+        <translation>
+            <numerusform>%n Ergebnis früherer Läufe wurde ausgelassen</numerusform>
+            <numerusform>%n Ergebnisse früherer Läufe wurden ausgelassen</numerusform>
+        </translation>
     </message>
 </context>
 <context>

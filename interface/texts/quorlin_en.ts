@@ -438,6 +438,16 @@
     </message>
 </context>
 <context>
+    <name>own-results</name>
+    <message numerus="yes">
+        <source>%n results of earlier runs were left out</source>
+        <translation>
+            <numerusform>%n result of earlier runs was left out</numerusform>
+            <numerusform>%n results of earlier runs were left out</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>platform</name>
     <message numerus="yes">
         <source>%n bytes</source>

@@ -850,6 +850,14 @@
         <source>Stop Watching</source>
         <translation>Arrêter la surveillance</translation>
     </message>
+    <message>
+        <source>Add Them</source>
+        <translation>Les ajouter quand même</translation>
+    </message>
+    <message>
+        <source>Add what runs of this program wrote to the list all the same</source>
+        <translation>Ajouter quand même à la liste ce que les traitements de ce programme ont écrit</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -3714,7 +3722,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>No file manager opens the folder. It is %1</source>
@@ -4562,6 +4570,16 @@
     <message>
         <source>More…</source>
         <translation>Plus…</translation>
+    </message>
+</context>
+<context>
+    <name>own-results</name>
+    <message numerus="yes">
+        <source>%n results of earlier runs were left out</source>
+        <translation>
+            <numerusform>%n résultat de traitements antérieurs a été laissé de côté</numerusform>
+            <numerusform>%n résultats de traitements antérieurs ont été laissés de côté</numerusform>
+        </translation>
     </message>
 </context>
 <context>

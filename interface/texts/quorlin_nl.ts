@@ -850,6 +850,14 @@
         <source>Stop Watching</source>
         <translation>Stoppen</translation>
     </message>
+    <message>
+        <source>Add Them</source>
+        <translation>Toch toevoegen</translation>
+    </message>
+    <message>
+        <source>Add what runs of this program wrote to the list all the same</source>
+        <translation>Zet wat verwerkingen van dit programma schreven toch op de lijst</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -4562,6 +4570,16 @@
     <message>
         <source>More…</source>
         <translation>Meer…</translation>
+    </message>
+</context>
+<context>
+    <name>own-results</name>
+    <message numerus="yes">
+        <source>%n results of earlier runs were left out</source>
+        <translation>
+            <numerusform>%n resultaat van eerdere verwerkingen is weggelaten</numerusform>
+            <numerusform>%n resultaten van eerdere verwerkingen zijn weggelaten</numerusform>
+        </translation>
     </message>
 </context>
 <context>

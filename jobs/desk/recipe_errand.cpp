@@ -195,7 +195,8 @@ Errand::Turn RecipeErrand::finish()
         m_isBegun = false; // whoever asked for it has it now
         if (m_recipe->recipe().outputs.first().dates == image::FileDates::Keep)
             takeDateOf(m_task.path, m_task.target);
-        markResult(m_task.target, m_task.path, settingsName(m_recipe->settings(), 0));
+        if (m_task.isNoted)
+            markResult(m_task.target, m_task.path, settingsName(m_recipe->settings(), 0));
     }
     answer(std::move(result));
     return Turn::Over;

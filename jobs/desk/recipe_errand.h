@@ -68,8 +68,9 @@ public:
         QString path; ///< of the picture, absolute
         QString
             target; ///< a new file, absolute, in a folder where nobody else makes any; it is removed unless all went well
-        int index = 0; ///< how many pictures of the run come before it
-        QSize pixels;  ///< of the picture, for what it takes of memory; may be empty
+        int index = 0;       ///< how many pictures of the run come before it
+        bool isNoted = true; ///< that it is a result, see markResult()
+        QSize pixels;        ///< of the picture, for what it takes of memory; may be empty
     };
     using Take = std::function<void(const RecipeResult &result)>;
 

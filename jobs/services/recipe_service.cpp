@@ -9,6 +9,7 @@
 #include "jobs/presets/preset_recipe.h"
 #include "jobs/presets/supplied_files.h"
 #include "jobs/result_files.h"
+#include "jobs/result_mark.h"
 #include "jobs/services/recipe_work.h"
 #include "platform/effects/lettering.h"
 #include "platform/file/atomic_file.h"
@@ -19,6 +20,9 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
+#include <iterator>
 
 namespace jobs {
 namespace {
@@ -244,6 +248,13 @@ QVariantList RecipeService::supplied() const
 QStringList RecipeService::takes() const
 {
     return pictureExtensions();
+}
+
+QStringList RecipeService::resultsAmong(const QStringList &paths) const
+{
+    QStringList results;
+    std::copy_if(paths.begin(), paths.end(), std::back_inserter(results), isResult);
+    return results;
 }
 
 QStringList RecipeService::fonts() const

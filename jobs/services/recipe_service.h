@@ -105,6 +105,12 @@ public:
     /** The extensions of the pictures that recipes are carried out over, in lower case. */
     Q_INVOKABLE QStringList takes() const;
 
+    /**
+     * Those of @p paths that a run of this program wrote and nobody changed since. Results that took the place of their own original do not
+     * count, and neither does what is on disks that cannot note it.
+     */
+    Q_INVOKABLE QStringList resultsAmong(const QStringList &paths) const;
+
     /** The families of fonts that watermarks can be set in, by the alphabet. */
     Q_INVOKABLE QStringList fonts() const;
 

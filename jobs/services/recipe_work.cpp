@@ -77,7 +77,8 @@ void RecipeWork::give(int number, const QVariantMap &task)
         QTimer::singleShot(0, this, [this, number, result] { keep(number, result); });
         return;
     }
-    const RecipeErrand::Task own = {text("path"), text("target"), number, pixels};
+    const RecipeErrand::Task own = {text("path"), text("target"), number, task.value(key("noted"), true).toBool(),
+                                    pixels};
     m_given[number] = m_desk.add(std::make_shared<RecipeErrand>(
                                      recipe, own, [this, number](const RecipeResult &result) { keep(number, result); }),
                                  Urgency::Soon);

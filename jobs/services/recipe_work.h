@@ -34,8 +34,8 @@ public:
      * Hands over a picture to be made into the new file @p task.target, as RecipeService::make() does. {counter} in a watermark is @p number.
      *
      * @param number  what its result is known by, from 0; not that of another one that has no result yet
-     * @param task    {path, target, recipe, width, height}; the sizes are those of the picture, 0 where they are not known. Nobody else may
-     *                make files in the target's folder
+     * @param task    {path, target, recipe, width, height, noted}; the sizes are those of the picture, 0 where they are not known; noted
+     *                (true where it is missing) notes on the file that it is a result. Nobody else may make files in the target's folder
      */
     Q_INVOKABLE void give(int number, const QVariantMap &task);
     /**

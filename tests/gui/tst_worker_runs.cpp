@@ -3,6 +3,8 @@
 
 #include "jobs/desk/worker_desk.h"
 
+#include "platform/file/file_note.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QImage>
@@ -45,6 +47,7 @@ private Q_SLOTS:
     void leavesNothingWhereItIsGivenUp();
     void bringsBackWhatItReplaced();
     void saysWhatConfinesWorkers();
+    void leavesItsOwnResultsOut();
 
 private:
     QString add(const QString &name, QSize size = {300, 200})
@@ -246,6 +249,34 @@ void WorkerRuns::saysWhatConfinesWorkers()
     const bool isWhole = active.hasNoNewPrivileges && active.hasFileRules && active.hasCallRules;
     QCOMPARE(said.contains(QLatin1String("This system lacks")), !isWhole);
     QCOMPARE(said.contains(QLatin1String("system call filter (seccomp)")), true);
+}
+
+void WorkerRuns::leavesItsOwnResultsOut()
+{
+    addMany(3);
+    m_driver->drop({m_pictures});
+    runToTheEnd();
+    if (platform::attachedNote(resultFolder() + QStringLiteral("/p00.jpg")).isEmpty())
+        QSKIP("the disk has no place for notes");
+    m_driver->click("dismissButton");
+    m_driver->trigger("clearAction");
+    const auto rows = [this] { return m_driver->pictures().model()->rowCount(); };
+    m_driver->drop({m_pictures});
+    QCOMPARE(rows(), 3);
+    QCOMPARE(m_driver->text("ownNote"), QStringLiteral("3 results of earlier runs were left out"));
+    m_driver->click("ownAdd");
+    QCOMPARE(rows(), 6);
+    QVERIFY(!m_driver->control<QWidget>("ownBar")->isVisible());
+    m_driver->trigger("clearAction");
+    // Whoever names one means it.
+    m_driver->drop({resultFolder() + QStringLiteral("/p00.jpg")});
+    QCOMPARE(rows(), 1);
+    m_driver->trigger("clearAction");
+    m_driver->drop({resultFolder()});
+    QCOMPARE(rows(), 0);
+    QVERIFY(m_driver->control<QWidget>("emptyOwnBar")->isVisible());
+    m_driver->click("emptyOwnAdd");
+    QCOMPARE(rows(), 3);
 }
 
 QUORLIN_GUI_TEST(WorkerRuns)

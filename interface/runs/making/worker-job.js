@@ -72,7 +72,7 @@ class WorkerJob {
         this.workshop.enter(item.folder);
         this.open += 1;
         this.work.give(index, { path: photo.path, target: this.targets[index], recipe: recipe,
-                                width: photo.width || 0, height: photo.height || 0 });
+                                width: photo.width || 0, height: photo.height || 0, noted: !item.replacesOriginal });
         return null;
     }
 

@@ -14,6 +14,7 @@ import { recall, keep, withNewest } from "../../lib/store.js";
 import { PHOTO_INPUT } from "../../lib/types.js";
 import { WRITES } from "../../runs/writes.js";
 import { fill, shortPath } from "../../lib/wording.js";
+import { OwnResults } from "./own-results.js";
 
 const KEPT_FOLDERS = 8;
 const MOST_NAMED = 15;
@@ -60,6 +61,7 @@ export class Input {
         this.hidden = null;
         this.convertible = false;
         this.roots = [];
+        this.own = new OwnResults(window.form);
         this.joinList();
         this.showRecent();
     }
@@ -198,7 +200,14 @@ export class Input {
         for (const folder of found.folders) {
             this.rememberFolder(folder);
         }
-        this.addFound(found, found.listed);
+        const rest = kind === "pictures" ? this.own.without(found, paths.map((path) => files.absolute(path))) : found;
+        this.addFound(rest, rest.listed);
+    }
+
+    /** Adds the results of earlier runs that were left out. */
+    addOwn() {
+        const own = this.own.take();
+        this.addFound({ paths: own.paths, folders: own.folders, leftOut: 0, companions: [], example: "" }, own.paths);
     }
 
     // The extensions of the files that the action takes.

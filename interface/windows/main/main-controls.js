@@ -33,6 +33,7 @@ function doingsOf(window) {
         fill: () => window.setFill(true),
         showAllRows: () => window.showProblemsOnly(false),
         showHidden: () => window.input.showHidden(),
+        addOwn: () => window.input.addOwn(),
         convertHidden: () => { window.form.control("sideBar").currentAction = "convert"; },
     };
 }
@@ -44,6 +45,7 @@ const BUTTONS = {
     cancelButton: "cancel", retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report",
     openFolderButton: "openFolders",
     filterShowAll: "showAllRows", hiddenShow: "showHidden", hiddenConvert: "convertHidden",
+    ownAdd: "addOwn", emptyOwnAdd: "addOwn",
     showFailedButton: "showFailed", dismissButton: "dismiss", undoButton: "undoRun",
 };
 

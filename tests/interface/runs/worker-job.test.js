@@ -111,7 +111,7 @@ test("handsOverAsManyAsThereIsRoomForAndTakesThemAsTheyCome", () => {
     const world = new World([item("a.jpg"), item("b.jpg"), item("c.jpg")]);
     equal(world.go(), ["start0", "start1"]);
     equal(world.work.tasks[1], { path: "/p/b.jpg", target: "/out/.unfinished/1", recipe: { of: "b.jpg" }, width: 40,
-                                 height: 30 });
+                                 height: 30, noted: true });
     world.work.make(1);
     isTrue(world.woken > 0);
     equal(world.go(), ["end1", "start2"]);

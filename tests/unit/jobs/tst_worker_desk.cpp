@@ -69,7 +69,7 @@ struct World
     std::shared_ptr<RecipeErrand> errand(const QString &name)
     {
         return std::make_shared<RecipeErrand>(
-            shared, RecipeErrand::Task{folder.path(qPrintable(name)), target(name), 0, QSize(64, 48)},
+            shared, RecipeErrand::Task{folder.path(qPrintable(name)), target(name), 0, true, QSize(64, 48)},
             [this, name](const RecipeResult &result) {
                 QVERIFY2(!results.contains(name), qPrintable(name));
                 results.insert(name, result);

@@ -1,0 +1,45 @@
+// Results of earlier runs in folders that are added: they are left out, which is said with a button that adds them all the same.
+// Services used: recipes (resultsAmong).
+
+import { recipes } from "quorlin/recipes";
+
+export class OwnResults {
+    /** @param form  that of the main window */
+    constructor(form) {
+        this.form = form;
+        this.found = { paths: [], folders: [] };
+        this.show();
+    }
+
+    /** What was found without those of its paths that runs wrote; `named` are those that somebody chose by themselves. */
+    without(found, named) {
+        const chosen = new Set(named);
+        const walked = found.listed.filter((path) => !chosen.has(path));
+        const own = walked.length === 0 ? [] : recipes.resultsAmong(walked);
+        this.found = { paths: own, folders: found.folders };
+        this.show();
+        if (own.length === 0) {
+            return found;
+        }
+        const left = new Set(own);
+        const rest = (paths) => paths.filter((path) => !left.has(path));
+        return Object.assign({}, found, { paths: rest(found.paths), listed: rest(found.listed) });
+    }
+
+    /** What was left out last: {paths, folders}; it is not left out any more. */
+    take() {
+        const found = this.found;
+        this.found = { paths: [], folders: [] };
+        this.show();
+        return found;
+    }
+
+    show() {
+        const count = this.found.paths.length;
+        const text = count === 0 ? "" : qsTr("%n results of earlier runs were left out", "", count);
+        for (const name of ["own", "emptyOwn"]) {
+            this.form.control(name + "Bar").visible = count > 0;
+            this.form.control(name + "Note").text = text;
+        }
+    }
+}
