@@ -4,6 +4,7 @@
 #include "files/items/file_facts.h"
 #include "image/recipe/plan.h"
 #include "image/unit_conversion.h"
+#include "jobs/desk/plan_errand.h"
 #include "jobs/names.h"
 
 namespace window {
@@ -98,6 +99,12 @@ QVariantMap ReadingRecipes::planOutput(const QString &path, const QVariantMap &r
         return result.values;
     refused.problem = result.problem;
     return jobs::answerOf(refused);
+}
+
+QString ReadingRecipes::problemOf(const QString &text, const QString &folder, bool filesAreOpened) const
+{
+    const QString problem = RecipeService::problemOf(text, folder, false);
+    return problem.isEmpty() && filesAreOpened ? jobs::recipeProblemNow(text.toUtf8(), folder) : problem;
 }
 
 text::TokenFacts ReadingRecipes::tokenFacts(const QString &path, int index) const

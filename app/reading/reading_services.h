@@ -46,6 +46,7 @@ public:
     using RecipeService::RecipeService;
 
     QVariantMap planOutput(const QString &path, const QVariantMap &recipe) const override;
+    QString problemOf(const QString &text, const QString &folder, bool filesAreOpened) const override;
 
 protected:
     text::TokenFacts tokenFacts(const QString &path, int index) const override;

@@ -2,13 +2,13 @@
 
 #include "image/recipe/recipe_reader.h"
 #include "image/recipe/sentence.h"
+#include "jobs/desk/plan_errand.h"
 #include "platform/disk/item_identity.h"
 
 namespace jobs {
 namespace {
 
 using platform::Descriptor;
-using platform::ImageSource;
 using platform::Result;
 
 QString key(const char *name)
@@ -58,18 +58,17 @@ bool RecipeBatch::begin()
         return m_naming != nullptr;
     m_hasBegun = true;
     const QByteArray json = m_text.toUtf8();
-    const Result<image::Recipe> read = image::readRecipe(json, m_folder);
-    if (!read) {
-        m_problem = read.error().message;
-        return false;
-    }
     const auto shared = SharedRecipe::whole(json, m_folder);
     if (!shared) {
         m_problem = shared.error().message;
         return false;
     }
+    // Whoever opens the pictures that it names is not this process.
+    m_problem = planNow(*shared, {}).problem;
+    if (!m_problem.isEmpty())
+        return false;
     m_shared = *shared;
-    m_recipe = *read;
+    m_recipe = m_shared->recipe();
     m_needsFacts = needsFacts(m_recipe);
     m_options.recipe = recipeName(json);
     m_options.settings = settingsOf(m_recipe, m_options.recipe);
@@ -91,9 +90,11 @@ QVariantList RecipeBatch::plan(int index)
         return {};
     const QString path = m_paths[index];
     PictureWork work = m_naming->workOn({path, {}, {}, false}, index);
-    work.facts = m_needsFacts ? factsOfPicture(path, index) : factsOfFile(path, index, false);
-    const Result<ImageSource> source = ImageSource::open(path);
-    work.plans = source ? image::planOf(m_recipe, *source) : m_naming->failedPlans(source.error().message);
+    work.facts = factsOfFile(path, index, m_needsFacts);
+    const PlannedMessage planned = planNow(m_shared, {work.facts, m_needsFacts});
+    if (m_needsFacts)
+        work.facts = withPictureFacts(work.facts, planned.facts);
+    work.plans = planned.problem.isEmpty() ? planned.plans : m_naming->failedPlans(planned.problem);
     m_naming->name(work);
     const QString own = platform::targetIdentity(path);
     QVariantList outputs;
@@ -108,7 +109,7 @@ QVariantList RecipeBatch::plan(int index)
                      {key("losses"), line.losses}});
         outputs.append(told);
     }
-    m_pixels[index] = source ? source->uprightSize() : QSize();
+    m_pixels[index] = planned.problem.isEmpty() ? planned.pixels : QSize();
     m_works.insert_or_assign(index, std::move(work));
     return outputs;
 }

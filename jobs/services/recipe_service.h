@@ -90,7 +90,7 @@ public:
      * @param text    of its file
      * @param folder  absolute: where relative paths in it begin
      */
-    Q_INVOKABLE QString problemOf(const QString &text, const QString &folder, bool filesAreOpened) const;
+    Q_INVOKABLE virtual QString problemOf(const QString &text, const QString &folder, bool filesAreOpened) const;
 
     /**
      * What a recipe would touch beyond its own folder and those of the pictures: {reads, writes}. reads are the absolute paths of files

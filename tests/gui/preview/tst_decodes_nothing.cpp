@@ -80,8 +80,8 @@ void DecodesNothing::noPictureInASession()
     m_driver->drop({m_pictures});
     for (int row = 0; row < 4; ++row)
         QVERIFY(isRead(row));
-    for (const char *action : {"resize", "crop", "turn", "round", "background", "watermark", "convert", "rename",
-                               "sort", "hand", "metadata", "log", "resize"}) {
+    for (const char *action : {"resize", "crop", "turn", "round", "background", "watermark", "recipe", "convert",
+                               "rename", "sort", "hand", "metadata", "log", "resize"}) {
         m_driver->show(action);
         rest();
         QVERIFY2(m_opened.isEmpty(), qPrintable(QLatin1String(action) + m_opened.join(u' ')));
