@@ -37,7 +37,7 @@ bool isAnother(const TargetFacts &one, const TargetFacts &other)
 } // namespace
 
 PictureWatch::PictureWatch(const QStringList &folders, const WatchOptions &options)
-    : m_folders(folders), m_options(options), m_lastNewsNs(nowNs())
+    : m_folders(folders), m_options(options), m_startNs(nowNs()), m_lastNewsNs(m_startNs)
 {
     for (const QString &extension : pictureExtensions())
         m_extensions.insert(extension.toLower());
@@ -127,7 +127,7 @@ void PictureWatch::readNews()
     for (const QString &folder : news.lost)
         lose(folder);
     if (news.isMissing)
-        lookForChangesSince(m_lastNewsNs - nsPerSecond, true);
+        lookForChangesSince(qMax(m_startNs, m_lastNewsNs - nsPerSecond), true);
     m_lastNewsNs = before;
     if (!news.isFull)
         return;
@@ -136,8 +136,9 @@ void PictureWatch::readNews()
                  "looked through every 2 seconds")
                  .arg(platform::mostWatches());
     m_watch.reset();
-    lookForChangesSince(before - nsPerSecond, true);
+    // In this order: what comes between the two is new to the next look.
     lookThrough();
+    lookForChangesSince(qMax(m_startNs, before - nsPerSecond), true);
 }
 
 void PictureWatch::lookThrough()

@@ -91,6 +91,7 @@ private:
     std::deque<Arrival> m_complete;
     QHash<QString, platform::TargetFacts> m_taken; ///< as they were then
     QHash<QString, platform::TargetFacts> m_resultsAt;
+    qint64 m_startNs = 0; ///< what was there before is left alone
     qint64 m_lastNewsNs = 0;
     QString m_news;
 };

@@ -43,10 +43,11 @@ class BatchTest(unittest.TestCase):
     def plain(self, **output):
         return self.recipe({"quorlin": 1, "outputs": [{"type": "png", **output}]})
 
-    def start(self, *arguments, **options):
+    def start(self, *arguments, before=(), **options):
+        """The program, started by the command `before` where one is given."""
         options = {"stdin": subprocess.DEVNULL, "stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **options}
         environment = {"PATH": os.environ["PATH"], "XDG_CACHE_HOME": str(self.folder / "cache"), **options.pop("env", {})}
-        return subprocess.Popen([PROGRAM, *arguments], cwd=self.folder, env=environment, **options)
+        return subprocess.Popen([*before, PROGRAM, *arguments], cwd=self.folder, env=environment, **options)
 
     def run_batch(self, *arguments, status=0, given=None, **options):
         if given is not None:

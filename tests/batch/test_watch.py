@@ -2,12 +2,26 @@
 """test_watch.py PROGRAM: --watch takes what comes, leaves what was there and what it makes, and stops in order."""
 import json
 import os
+import shutil
 import signal
+import subprocess
 import time
 import unittest
 
 import batch_world
 from batch_world import BatchTest, png
+
+
+# Inside a namespace of its own a user may lower how many folders the system watches for it.
+FEW_WATCHES = ["unshare", "--user", "--map-root-user", "sh", "-c",
+               'echo 6 > /proc/sys/user/max_inotify_watches && exec "$0" "$@"']
+
+
+def can_lower_watches():
+    try:
+        return subprocess.run([*FEW_WATCHES, "true"], capture_output=True, check=False).returncode == 0
+    except FileNotFoundError:
+        return False
 
 
 class Watching(BatchTest):
@@ -16,10 +30,11 @@ class Watching(BatchTest):
         png(self.path("in/old.png"))
         self.plain(folder="Web")
 
-    def begin(self, *arguments):
+    def begin(self, *arguments, before=()):
         """A watch that has begun: its report is there."""
         begun = self.path("report").stat().st_mtime_ns if self.path("report").exists() else 0
-        process = self.start("--watch", "--report", "report", *arguments, "r.quorlin", "in")
+        process = self.start("--watch", "--report", "report", *arguments, "r.quorlin", "in", before=before)
+        self.process = process
         self.until(lambda: self.path("report").exists() and (begun == 0 or "--resume" in arguments or
                                                              self.path("report").stat().st_mtime_ns != begun))
         if "--resume" in arguments:
@@ -31,7 +46,9 @@ class Watching(BatchTest):
     def until(self, happens, seconds=30):
         end = time.monotonic() + seconds
         while not happens():
-            self.assertLess(time.monotonic(), end, "it did not happen")
+            if time.monotonic() > end:
+                self.process.kill()  # or the end of this test would wait for it
+                self.fail("it did not happen")
             time.sleep(0.02)
 
     def lines_now(self):
@@ -92,6 +109,31 @@ class Watching(BatchTest):
             _, said = process.communicate(timeout=30)
             self.assertEqual(process.returncode, 1)
             self.assertIn(b"is gone", said)
+
+    def test_a_folder_that_is_deleted(self):
+        with self.begin() as process:
+            self.path("in/old.png").unlink()
+            shutil.rmtree(self.path("in"))
+            _, said = process.communicate(timeout=30)
+            self.assertEqual(process.returncode, 1)
+            self.assertIn(b"is gone", said)
+
+    @unittest.skipUnless(can_lower_watches(), "the limit of watched folders cannot be lowered here")
+    def test_more_folders_than_the_system_watches(self):
+        with self.begin(before=FEW_WATCHES) as process:
+            for i in range(12):
+                png(self.path(f"in/day {i}/a.png"))
+            self.until(lambda: len(self.lines_now()) == 12)
+            png(self.path("in/day 11/b.png"))  # where nothing tells of it
+            png(self.path("in/day 12/c.png"))
+            self.until(lambda: len(self.lines_now()) == 14)
+            time.sleep(5)  # results would have been taken by now
+            process.send_signal(signal.SIGTERM)
+            _, said = process.communicate(timeout=30)
+        self.assertEqual(process.returncode, 3)
+        self.assertIn(b"from now on they are looked through", said)
+        self.assertEqual(len(self.lines_now()), 14)
+        self.assertEqual(len({line["input"] for line in self.lines_now()}), 14)
 
 
 if __name__ == "__main__":
