@@ -2000,11 +2000,17 @@ declare module "quorlin/shell" {
         choose(row: whole): null;
     }
 
+    /** A small picture of what deeds make of a picture. */
+    export interface StepPicture extends Widget {
+        /** As in PreviewResult; nothing for an empty path. */
+        showDeeds(path: text, deeds: list): null;
+    }
+
     /** A control by its name: which members it has says its kind. */
     type AnyControl = Widget & Action & Button & Label & LineEdit & TextEdit & ComboBox & SpinBox & NumberBox &
         ProgressBar & Stack & AngleDial & CardHandle & ChipLabel & ColorWell & ComparePreview & DropTarget &
         FolderTree & LogTable & ManualView & PageList & PictureTable & PositionPad & PropertyTree & RunList &
-        SearchMenu & SegmentedControl & SideBar & SlotList;
+        SearchMenu & SegmentedControl & SideBar & SlotList & StepPicture;
 }
 
 /** What windows ask about the program itself, and printing. */

@@ -1409,6 +1409,10 @@
         <source>+ Add Operation for This Output…</source>
         <translation>+ Bearbeitung nur für diese Ausgabe…</translation>
     </message>
+    <message>
+        <source>The picture after this operation</source>
+        <translation>Das Bild nach dieser Bearbeitung</translation>
+    </message>
 </context>
 <context>
     <name>RecipeField</name>
@@ -6702,6 +6706,10 @@
     <message>
         <source>the recipe needs attention</source>
         <translation>das Rezept braucht Aufmerksamkeit</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>kein lesbares Bild</translation>
     </message>
 </context>
 <context>

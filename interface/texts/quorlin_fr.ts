@@ -1409,6 +1409,10 @@
         <source>+ Add Operation for This Output…</source>
         <translation>+ Opération pour cette sortie…</translation>
     </message>
+    <message>
+        <source>The picture after this operation</source>
+        <translation>L’image après cette opération</translation>
+    </message>
 </context>
 <context>
     <name>RecipeField</name>
@@ -6702,6 +6706,10 @@
     <message>
         <source>the recipe needs attention</source>
         <translation>la recette demande attention</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>image illisible</translation>
     </message>
 </context>
 <context>

@@ -1409,6 +1409,10 @@
         <source>+ Add Operation for This Output…</source>
         <translation>+ Bewerking voor deze uitvoer…</translation>
     </message>
+    <message>
+        <source>The picture after this operation</source>
+        <translation>De foto na deze bewerking</translation>
+    </message>
 </context>
 <context>
     <name>RecipeField</name>
@@ -6702,6 +6706,10 @@
     <message>
         <source>the recipe needs attention</source>
         <translation>het recept vraagt aandacht</translation>
+    </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>geen leesbare foto</translation>
     </message>
 </context>
 <context>

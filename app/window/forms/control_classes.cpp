@@ -18,6 +18,7 @@
 #include "app/window/pictures/drop_target.h"
 #include "app/window/pictures/picture_table.h"
 #include "app/window/preview/compare_preview.h"
+#include "app/window/preview/step_picture.h"
 #include "app/window/properties/property_tree.h"
 #include "app/window/slots/slot_list.h"
 
@@ -108,6 +109,7 @@ std::vector<ServiceEntry> ownClasses(const ServiceEntry &widget, const ServiceEn
         own<SegmentedControl>(widget),
         own<SideBar>(widget),
         own<SlotList>(widget),
+        own<StepPicture>(widget),
     };
 }
 // clang-format on

@@ -19,6 +19,7 @@
 #include "app/window/manual/manual_view.h"
 #include "app/window/pictures/picture_table.h"
 #include "app/window/preview/compare_preview.h"
+#include "app/window/preview/step_picture.h"
 #include "app/window/properties/property_tree.h"
 #include "app/window/slots/slot_list.h"
 
@@ -60,6 +61,7 @@ const QHash<QString, Maker> &makers()
         {QStringLiteral("SegmentedControl"), made<SegmentedControl>},
         {QStringLiteral("SideBar"), made<SideBar>},
         {QStringLiteral("SlotList"), made<SlotList>},
+        {QStringLiteral("StepPicture"), made<StepPicture>},
     };
     return all;
 }

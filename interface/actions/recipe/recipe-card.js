@@ -79,6 +79,7 @@ export class RecipeCard {
         this.control("cardShow").visible = isOutput && !isShown;
         this.control("cardDelete").enabled = mayRemove;
         this.control("cardAdd").visible = isOutput && isOpen;
+        this.control("cardPicture").visible = !isOutput;
         this.form.setLook("recipeCard", "open", String(isOpen));
         this.form.setLook("recipeCard", "nested", String(entry.isNested === true));
         this.showSummary();
@@ -88,6 +89,13 @@ export class RecipeCard {
             this.showFields();
         }
         this.filling = false;
+    }
+
+    /** Shows the picture at that path as it is behind the operations; nothing for "". */
+    showPicture(path, operations) {
+        this.control("cardPicture").showDeeds(path, path === "" ? [] : [
+            { do: "recipe", operations: operations, path: path }
+        ]);
     }
 
     showSummary() {

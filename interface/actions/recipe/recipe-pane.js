@@ -8,12 +8,12 @@ import { CardColumn } from "./card-column.js";
 import { allRecipes, ownFolder } from "./recipe-files.js";
 import { RecipeHead } from "./recipe-head.js";
 import { allow, allowChanges, isAllowed, reachOf } from "./recipe-reach.js";
-import { newRecipe, parsed, textOf } from "./recipe-text.js";
+import { newRecipe, parsed, textOf, withAbsolutePaths } from "./recipe-text.js";
 import { operationMenu } from "./recipe-words.js";
 import * as step from "./recipe-step.js";
 
 // About the height of a closed card and the gap behind it.
-const CARD_PX = 70;
+const CARD_PX = 78;
 
 export class RecipePane extends Pane {
     /** @param parts  what panes get of the window: services and sayBeside are used */
@@ -179,6 +179,29 @@ export class RecipePane extends Pane {
         this.outputs.show(this.outputEntries(), look);
         this.form.control("noOperations").visible = recipe.operations.length === 0;
         this.form.arrangeTabs();
+    }
+
+    show(photo, services) {
+        const planned = super.show(photo, services);
+        const isSound = photo !== null && this.form.control("problemText").text === "";
+        this.showPictures(isSound ? photo.path : "");
+        return planned;
+    }
+
+    // On each card of an operation the picture as it is behind it.
+    showPictures(path) {
+        const recipe = withAbsolutePaths(this.recipe, this.settings.folder);
+        const upTo = (list, entry) => list.slice(0, entry.index + 1);
+        let own = [];
+        this.operations.cards.filter((card) => card.entry !== null)
+            .forEach((card) => card.showPicture(path, upTo(recipe.operations, card.entry)));
+        this.outputs.cards.filter((card) => card.entry !== null).forEach((card) => {
+            if (card.entry.isOutput) {
+                own = recipe.outputs[card.entry.index].operations || [];
+            } else {
+                card.showPicture(path, recipe.operations.concat(upTo(own, card.entry)));
+            }
+        });
     }
 
     showReach() {

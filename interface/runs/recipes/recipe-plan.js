@@ -39,6 +39,14 @@ export function itemOf(photo, outputs) {
              replacesOriginal: outputs.some((output) => output.replacesOriginal) };
 }
 
+// What cannot be read at all is said as everywhere in the list.
+function inWords(photo, outputs) {
+    return photo.width > 0 && photo.height > 0
+        ? outputs
+        : outputs.map((output) => (output.status === "Failed"
+            ? Object.assign({}, output, { reason: qsTr("not a readable picture") }) : output));
+}
+
 /** A generator that plans all pictures of the list, one after the other: see itemOf(). It returns {batch, cancelled}. */
 export function* recipePlan(list, ids, settings) {
     const batch = batchOf(settings, list.paths());
@@ -46,7 +54,8 @@ export function* recipePlan(list, ids, settings) {
     for (let i = 0; i < ids.length; i += 1) {
         const photo = list.photo(ids[i]);
         yield itemOf(photo, problem === ""
-            ? batch.plan(i) : [{ status: "Failed", reason: problem, path: "", losses: [], width: 0, height: 0 }]);
+            ? inWords(photo, batch.plan(i))
+            : [{ status: "Failed", reason: problem, path: "", losses: [], width: 0, height: 0 }]);
     }
     return { batch: batch, cancelled: false };
 }

@@ -4,6 +4,7 @@
 #include "app/window/folders/side_bar.h"
 #include "app/window/look/icons.h"
 #include "app/window/preview/compare_preview.h"
+#include "app/window/preview/step_picture.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -166,6 +167,23 @@ private Q_SLOTS:
                  QStringLiteral("Sharpen, Flip, Flip") + output + QStringLiteral(", Output 2: Original file type"));
         card<QAbstractButton>("Output 2: Original file type", "cardDelete")->click();
         QCOMPARE(titles(), QStringLiteral("Sharpen, Flip, Flip") + output);
+    }
+
+    void showsThePictureAtEachPoint()
+    {
+        save("a.png", QSize(400, 200));
+        m_driver->drop({m_folder});
+        newRecipe();
+        add("resize");
+        add("turn");
+        const auto pictureOf = [this](const char *title) {
+            return card<window::StepPicture>(title, "cardPicture")->image().size();
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(pictureOf("Resize"), QSize(48, 24), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(pictureOf("Rotate").height() > pictureOf("Rotate").width(), 20000);
+        // One that is off changes nothing, and its card says so.
+        card<QCheckBox>("Rotate", "cardOn")->click();
+        QTRY_COMPARE_WITH_TIMEOUT(pictureOf("Rotate"), QSize(48, 24), 20000);
     }
 
     void showsTheOutputThatIsChosen()

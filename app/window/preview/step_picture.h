@@ -1,0 +1,49 @@
+#pragma once
+
+#include "jobs/reading/read_errand.h"
+
+#include <QImage>
+#include <QTimer>
+#include <QVariantList>
+#include <QWidget>
+
+namespace window {
+
+/**
+ * A small picture of what some deeds make of a picture. It is made by a worker, when things have settled; what was shown stays until then.
+ */
+class StepPicture : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit StepPicture(QWidget *parent = nullptr);
+
+    /**
+     * Shows the picture at @p path with the deeds done to it, see jobs/reading/preview_deeds.h; nothing for an empty path, and for what
+     * cannot be made.
+     */
+    Q_INVOKABLE void showDeeds(const QString &path, const QVariantList &deeds);
+
+    /** What is shown now, in pixels of the screen; null for nothing. */
+    QImage image() const { return m_image; }
+
+    QSize sizeHint() const override { return {48, 36}; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void ask();
+
+    QString m_path;
+    QVariantList m_deeds;
+    bool m_isOld = false; ///< what is shown is not what is wanted
+    QImage m_image;
+    QTimer m_settled;
+    jobs::Reader m_reader;
+};
+
+} // namespace window
