@@ -121,6 +121,12 @@ Result<void> ResultFiles::keep(int index, qint64 bytes, const OutputPlace &place
     return {};
 }
 
+void ResultFiles::drop(int index)
+{
+    m_kept.removeIf([index](const Kept &kept) { return kept.index == index; });
+    QFile::remove(m_begun.take(index));
+}
+
 QList<ResultFiles::Placed> ResultFiles::placeAll(OutputPlaces &places)
 {
     const QString own = platform::targetIdentity(m_input.path);

@@ -62,6 +62,8 @@ public:
     platform::Result<platform::Descriptor> begin(int index, const OutputPlace &place);
     /** The file is whole: it is placed with the others. Fails with WriteFailed where it has not as many bytes. */
     platform::Result<void> keep(int index, qint64 bytes, const OutputPlace &place, const image::RecipeOutput &output);
+    /** It is given up after all. */
+    void drop(int index);
     /** It is not, for a reason that is an errno. */
     platform::Error failureOf(int code, const OutputPlace &place) const;
 

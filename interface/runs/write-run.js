@@ -29,8 +29,8 @@ function askAboutName(question) {
     return { rule: ["number", "replace", "skip", "cancel"][answer.button], forAll: answer.checked };
 }
 
-/** The button said so already; it is said again, with the number, before originals are gone. */
-export function mayReplace(items) {
+// The button said so already; it is said again, with the number, before originals are gone; tell(bytes) says where they go.
+function mayReplace(items, tell) {
     const originals = items.filter((item) => item.replacesOriginal).length;
     if (originals === 0) {
         return true;
@@ -38,9 +38,8 @@ export function mayReplace(items) {
     const answer = shell.ask({
         title: qsTr("Replace originals"),
         text: qsTr("%n originals will be replaced by their results.", "", originals),
-        detail: fill(qsTr("What is in them now goes to the trash (%1) and comes back with Undo."),
-                     files.byteText(items.filter((item) => item.replacesOriginal)
-                         .reduce((sum, item) => sum + (item.photo.bytes || 0), 0))),
+        detail: tell(files.byteText(items.filter((item) => item.replacesOriginal)
+            .reduce((sum, item) => sum + (item.photo.bytes || 0), 0))),
         buttons: [qsTr("Replace"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
     });
     return answer.button === 0;
@@ -108,11 +107,16 @@ export class WriteRun extends BaseRun {
             this.finish(qsTr("Cancelled before the first picture. Nothing was written."));
         } else if (this.simulated) {
             this.endSimulation();
-        } else if (mayReplace(this.items)) {
+        } else if (mayReplace(this.items, (bytes) => this.replacedText(bytes))) {
             this.carryOut();
         } else {
             this.finish(qsTr("Cancelled. Nothing was written."));
         }
+    }
+
+    /** What becomes of originals that are replaced. */
+    replacedText(bytes) {
+        return fill(qsTr("What is in them now goes to the trash (%1) and comes back with Undo."), bytes);
     }
 
     endSimulation() {

@@ -3726,7 +3726,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1&#xa0;%</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>No file manager opens the folder. It is %1</source>
@@ -6755,6 +6755,10 @@
     <message>
         <source>Cancelled:</source>
         <translation>Arrêté&#x202f;:</translation>
+    </message>
+    <message>
+        <source>What is in them now goes to the trash (%1).</source>
+        <translation>Ce qu’ils contiennent va à la corbeille (%1).</translation>
     </message>
 </context>
 <context>

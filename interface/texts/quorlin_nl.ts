@@ -6756,6 +6756,10 @@
         <source>Cancelled:</source>
         <translation>Geannuleerd:</translation>
     </message>
+    <message>
+        <source>What is in them now goes to the trash (%1).</source>
+        <translation>Wat er nu in zit gaat naar de prullenmand (%1).</translation>
+    </message>
 </context>
 <context>
     <name>recipe-step</name>

@@ -4,6 +4,9 @@
 #include "image/recipe/sentence.h"
 #include "jobs/desk/plan_errand.h"
 #include "platform/disk/item_identity.h"
+#include "platform/disk/trash.h"
+
+#include <QFileInfo>
 
 namespace jobs {
 namespace {
@@ -38,6 +41,50 @@ QVariantMap outcomeOf(const ReportLine &line)
     return {{key("status"), wordOf(line.status)}, {key("reason"), line.reason},
             {key("path"), line.output},           {key("bytes"), double(line.bytes)},
             {key("width"), line.size.width()},    {key("height"), line.size.height()}};
+}
+
+/** What is to be replaced goes to the trash first; where that fails it stays, and the result is given up. */
+std::map<int, platform::TrashedItem> putAside(PictureWork &work, ResultFiles &files)
+{
+    std::map<int, platform::TrashedItem> aside;
+    for (const int output : std::as_const(work.wanted)) {
+        ReportLine &line = work.lines[output];
+        const QString path = work.places[output].path;
+        if (line.status != LineStatus::Planned || !work.places[output].replaces || !QFileInfo::exists(path))
+            continue;
+        const Result<platform::TrashedItem> trashed = platform::moveToTrash(path);
+        if (trashed) {
+            aside.emplace(output, *trashed);
+        } else {
+            files.drop(output);
+            fail(line, trashed.error().message);
+        }
+    }
+    return aside;
+}
+
+/** Puts what was made into its place. */
+void place(PictureWork &work, ResultFiles &files, OutputPlaces &places)
+{
+    const std::map<int, platform::TrashedItem> aside = putAside(work, files);
+    for (const ResultFiles::Placed &placed : files.placeAll(places)) {
+        ReportLine &line = work.lines[placed.index];
+        line.output = placed.path;
+        line.status = placed.isSkipped ? LineStatus::Skipped : LineStatus::Ok;
+        if (!placed.problem.isEmpty())
+            fail(line, placed.problem);
+    }
+    for (const auto &[output, trashed] : aside)
+        if (work.lines[output].status != LineStatus::Ok)
+            (void)platform::restoreFromTrash(trashed, work.places[output].path);
+}
+
+/** An idle worker, and what its picture takes at most: all of it in memory, with a result of the same size beside it. */
+qint64 memoryFor(const QSize &pixels)
+{
+    constexpr qint64 idle = 64LL << 20;
+    constexpr qint64 eachPixel = 12;
+    return pixels.isEmpty() ? 0 : idle + eachPixel * pixels.width() * pixels.height();
 }
 
 } // namespace
@@ -120,14 +167,6 @@ int RecipeBatch::room() const
     return std::max(0, WorkerDesk::ofProcess().size() + ahead - inWork());
 }
 
-/** An idle worker, and what its picture takes at most: all of it in memory, with a result of the same size beside it. */
-qint64 memoryFor(const QSize &pixels)
-{
-    constexpr qint64 idle = 64LL << 20;
-    constexpr qint64 eachPixel = 12;
-    return pixels.isEmpty() ? 0 : idle + eachPixel * pixels.width() * pixels.height();
-}
-
 void RecipeBatch::give(int index)
 {
     const auto found = m_works.find(index);
@@ -195,13 +234,7 @@ void RecipeBatch::end(int index, const QString &problem)
         return;
     PictureWork &work = m_works.at(index);
     if (problem.isEmpty() && m_files.count(index) != 0)
-        for (const ResultFiles::Placed &placed : m_files.at(index)->placeAll(m_naming->places())) {
-            ReportLine &line = work.lines[placed.index];
-            line.output = placed.path;
-            line.status = placed.isSkipped ? LineStatus::Skipped : LineStatus::Ok;
-            if (!placed.problem.isEmpty())
-                fail(line, placed.problem);
-        }
+        place(work, *m_files.at(index), m_naming->places());
     QVariantList outputs;
     for (const int output : std::as_const(work.wanted)) {
         ReportLine &line = work.lines[output];

@@ -66,7 +66,7 @@ public:
 
     /**
      * Has the outputs that are ready made by a worker: each is written beside its place, and takes it when all of the picture are whole.
-     * What has taken a name meanwhile is treated as the recipe says. For a picture that was planned, once.
+     * What is replaced goes to the user's trash. What has taken a name meanwhile is treated as the recipe says. For a picture that was planned, once.
      */
     Q_INVOKABLE void give(int index);
     /**

@@ -74,6 +74,15 @@ export class RecipeRun extends WriteRun {
         this.window.planned = summary;
     }
 
+    replacedText(bytes) {
+        return fill(qsTr("What is in them now goes to the trash (%1)."), bytes);
+    }
+
+    // The batch has put aside what was replaced.
+    endReplacing() {
+        return "";
+    }
+
     endSimulation() {
         const number = this.window.planned.files;
         this.finish(

@@ -1,4 +1,5 @@
 #include "jobs/services/recipe_batch.h"
+#include "platform/disk/trash.h"
 #include "tests/support/test_program.h"
 
 #include <QDir>
@@ -56,6 +57,7 @@ private Q_SLOTS:
     void numbersEqualNames();
     void keepsWhatIsThereOrReplacesIt();
     void replacesTheOriginalOnlyWhereItSaysSo();
+    void keepsWhatNothingTakesThePlaceOf();
     void neverReplacesAnotherPictureOfTheList();
     void leavesOutWhatIsSkipped();
     void failsForWhatCannotBeRead();
@@ -189,6 +191,21 @@ void TestRecipeBatchService::replacesTheOriginalOnlyWhereItSaysSo()
     QCOMPARE(valuesOf(replaces->plan(0), "replacesOriginal"), QStringList{key("true")});
     made(*replaces, 0);
     QCOMPARE(QImage(at("a.png")).size(), QSize(20, 10));
+    // The original is in the trash.
+    const auto trashed = platform::trashedFrom(at("a.png"));
+    QCOMPARE(trashed.size(), size_t(1));
+    QCOMPARE(QImage(trashed.front().path).size(), QSize(40, 20));
+}
+
+void TestRecipeBatchService::keepsWhatNothingTakesThePlaceOf()
+{
+    write("Out/a.jpg");
+    const QString replacing =
+        key(R"({"quorlin": 1, "outputs": [{"type": "jpeg", "folder": "Out", "maxBytes": 1, "ifTaken": "replace"}]})");
+    const auto one = batch(replacing, {key("a.png")});
+    QCOMPARE(valuesOf(one->plan(0), "replaces"), QStringList{key("true")});
+    QCOMPARE(valuesOf(made(*one, 0), "status"), QStringList{key("Failed")});
+    QVERIFY(isOld("Out/a.jpg"));
 }
 
 void TestRecipeBatchService::neverReplacesAnotherPictureOfTheList()
