@@ -1,5 +1,5 @@
 /**
- * What scripts of Quorlin can import: eleven modules. A test holds each of them against the program: names, order, parameters and
+ * What scripts of Quorlin can import: thirteen modules. A test holds each of them against the program: names, order, parameters and
  * types. There is no other way from a script to a service.
  *
  * Nothing is converted in silence: an argument of another type, or another number of arguments, is a TypeError; a whole
@@ -1270,6 +1270,20 @@ declare module "quorlin/recipes" {
         /** Gives up what is in work, of which nothing is left, and forgets what was planned. */
         close(): null;
     }
+}
+
+/** How far runs are, in files of lines that outlive a crash. */
+declare module "quorlin/records" {
+    export const runRecords: {
+        /** Begins one in a folder, which is made; the path of its file, or empty where that cannot be done. */
+        begin(folder: text): string;
+        /** Adds lines; isKept: they are on the disk when this returns. False where they could not be written. */
+        add(path: text, lines: text, isKept: boolean): boolean;
+        /** Ends one: nothing of it is left. */
+        end(path: text): null;
+        /** Those that were begun and not ended by processes that are gone; they are held by this one from now on. */
+        interrupted(folder: text): string[];
+    };
 }
 
 /** Renaming, moving, copying and linking so that no file is ever lost or replaced. Paths are absolute. */

@@ -9,6 +9,7 @@
 #include "jobs/services/recipe_batch.h"
 #include "jobs/services/recipe_service.h"
 #include "jobs/services/recipe_work.h"
+#include "jobs/services/run_records.h"
 #include "jobs/services/watch_service.h"
 #include "text/services/token_service.h"
 #include "text/services/token_text.h"
@@ -44,6 +45,7 @@ std::vector<ServiceEntry> fileServices()
             oneObject<text::TokenService>("quorlin/tokens", "tokens"),
             madeWithFields<TokenText>("quorlin/tokens"),
             oneObject<jobs::RecipeService>("quorlin/recipes", "recipes"),
+            oneObject<jobs::RunRecords>("quorlin/records", "runRecords"),
             givenEntry<jobs::RecipeWork>("quorlin/recipes"),
             madeWithSignals<jobs::RecipeBatch>("quorlin/recipes"),
             oneObject<jobs::WatchService>("quorlin/watch", "watch")};
@@ -62,6 +64,7 @@ void addFileModules(ScriptEngine &scripts, const FileObjects &objects)
     offerServices(scripts, fileServices(), "quorlin/pictures", objects.pictures);
     offerServices(scripts, fileServices(), "quorlin/tokens", new text::TokenService(&scripts));
     offerServices(scripts, fileServices(), "quorlin/recipes", objects.recipes);
+    offerServices(scripts, fileServices(), "quorlin/records", new jobs::RunRecords(&scripts));
     offerServices(scripts, fileServices(), "quorlin/watch", new jobs::WatchService(&scripts));
 }
 

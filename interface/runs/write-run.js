@@ -1,19 +1,21 @@
 // A run that writes pictures: plan, carry out or only show, and what came of it.
 
 import { files } from "quorlin/files";
+import { runRecords } from "quorlin/records";
 import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
 import { runItems } from "./making/job.js";
 import { Flow } from "./making/flow.js";
 import { Replacing } from "./making/replacing.js";
+import { RunRecord } from "./making/run-record.js";
 import { runByWorkers } from "./making/worker-job.js";
-import { emptyTable } from "../lib/names.js";
+import { emptyTable, splitPath } from "../lib/names.js";
 import { planRun } from "./plan.js";
 import { clockText, costOf, Progress } from "./progress.js";
 import { logRow, summaryOf } from "./report.js";
 import { fill, pixels, statusKind, statusText } from "../lib/wording.js";
 import { BaseRun } from "./run-base.js";
-import { photosOf } from "./list-rows.js";
+import { photosOf, rowsByPath } from "./list-rows.js";
 import { showItem } from "./write-plan.js";
 
 function askAboutName(question) {
@@ -153,7 +155,7 @@ export class WriteRun extends BaseRun {
             work = runItems(this.items, step, this.settings, services);
         } else {
             this.flow = new Flow(() => this.job.wake());
-            work = runByWorkers(this.items, step, this.settings, services, this.flow);
+            work = this.recorded(step, services);
         }
         return work;
     }
@@ -173,7 +175,42 @@ export class WriteRun extends BaseRun {
         }
     }
 
+    // Where this process ends before the run, the next one knows how far it was.
+    * recorded(step, services) {
+        const record = new RunRecord(runRecords, files);
+        const action = this.window.action;
+        const head = { action: action.name, title: action.title(), settings: this.settings, startedMs: this.startedMs };
+        try {
+            for (const part of record.begin(head, this.items)) {
+                yield { kind: "recorded", index: part, item: this.items[part] };
+            }
+            yield* runByWorkers(this.items, step, this.settings, Object.assign({}, services, { record: record }),
+                                this.flow);
+        } finally {
+            record.end();
+        }
+    }
+
+    /** Goes on with a run that was interrupted, as it was planned; done: the results that are there, by index. */
+    continueRun(record, done) {
+        const window = this.window;
+        const rows = rowsByPath(window.pictures);
+        this.startPlanning(record.items.map((item) => rows[item.of] || 0));
+        this.settings = record.head.settings;
+        this.simulated = false;
+        this.items = record.items.map((item, i) => {
+            const photo = this.ids[i] > 0 ? window.pictures.photo(this.ids[i]) : null;
+            return Object.assign({ asks: false, numbered: false }, item,
+                                 { photo: photo || { path: item.of, name: splitPath(item.of).name } },
+                                 done[i] === undefined ? {} : { done: done[i] });
+        });
+        this.carryOut();
+    }
+
     stepDone(event) {
+        if (event.kind === "recorded") {
+            return;
+        }
         if (event.kind === "full") {
             this.askAboutRoom(event.item);
             return;

@@ -3472,6 +3472,32 @@
     </message>
 </context>
 <context>
+    <name>interrupted</name>
+    <message>
+        <source>A run was interrupted</source>
+        <translation>Ein Lauf wurde unterbrochen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %n pictures are done.</source>
+        <translation>
+            <numerusform>%1 wurde unterbrochen: %2 von %n Bild ist fertig.</numerusform>
+            <numerusform>%1 wurde unterbrochen: %2 von %n Bildern sind fertig.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing half written is left. The rest can be made now, as it was planned.</source>
+        <translation>Nichts halb Geschriebenes bleibt zurück. Der Rest kann jetzt gemacht werden, wie er geplant war.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weitermachen</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Lassen</translation>
+    </message>
+</context>
+<context>
     <name>job</name>
     <message>
         <source>the folder cannot be written</source>

@@ -297,6 +297,16 @@
     </message>
 </context>
 <context>
+    <name>interrupted</name>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %n pictures are done.</source>
+        <translation>
+            <numerusform>%1 was interrupted: %2 of %n picture is done.</numerusform>
+            <numerusform>%1 was interrupted: %2 of %n pictures are done.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>log-page</name>
     <message numerus="yes">
         <source>%Ln entries</source>

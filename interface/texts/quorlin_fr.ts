@@ -3472,6 +3472,32 @@
     </message>
 </context>
 <context>
+    <name>interrupted</name>
+    <message>
+        <source>A run was interrupted</source>
+        <translation>Un traitement a été interrompu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %n pictures are done.</source>
+        <translation>
+            <numerusform>%1 a été interrompu : %2 image sur %n est faite.</numerusform>
+            <numerusform>%1 a été interrompu : %2 images sur %n sont faites.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing half written is left. The rest can be made now, as it was planned.</source>
+        <translation>Rien d’à moitié écrit ne reste. Le reste peut être fait maintenant, comme prévu.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Laisser</translation>
+    </message>
+</context>
+<context>
     <name>job</name>
     <message>
         <source>the folder cannot be written</source>

@@ -3472,6 +3472,32 @@
     </message>
 </context>
 <context>
+    <name>interrupted</name>
+    <message>
+        <source>A run was interrupted</source>
+        <translation>Een verwerking werd onderbroken</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %n pictures are done.</source>
+        <translation>
+            <numerusform>%1 werd onderbroken: %2 van %n foto is klaar.</numerusform>
+            <numerusform>%1 werd onderbroken: %2 van %n foto’s zijn klaar.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing half written is left. The rest can be made now, as it was planned.</source>
+        <translation>Er blijft niets half geschreven achter. De rest kan nu worden gemaakt, zoals gepland.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Laten</translation>
+    </message>
+</context>
+<context>
     <name>job</name>
     <message>
         <source>the folder cannot be written</source>

@@ -5,6 +5,7 @@
 
 #include "platform/file/file_note.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QImage>
@@ -48,6 +49,8 @@ private Q_SLOTS:
     void bringsBackWhatItReplaced();
     void saysWhatConfinesWorkers();
     void leavesItsOwnResultsOut();
+    void goesOnWhereItWasInterrupted_data();
+    void goesOnWhereItWasInterrupted();
 
 private:
     QString add(const QString &name, QSize size = {300, 200})
@@ -277,6 +280,45 @@ void WorkerRuns::leavesItsOwnResultsOut()
     QVERIFY(m_driver->control<QWidget>("emptyOwnBar")->isVisible());
     m_driver->click("emptyOwnAdd");
     QCOMPARE(rows(), 3);
+}
+
+void WorkerRuns::goesOnWhereItWasInterrupted_data()
+{
+    QTest::addColumn<bool>("isContinued");
+    QTest::newRow("Continue") << true;
+    QTest::newRow("Leave") << false;
+}
+
+/** The program ends in the middle of a run, and the next one finds how far it was. */
+void WorkerRuns::goesOnWhereItWasInterrupted()
+{
+    QFETCH(bool, isContinued);
+    addMany(8);
+    WorkerDesk::ofProcess().setSize(1);
+    m_driver->drop({m_pictures});
+    m_driver->click("startButton");
+    QVERIFY(m_driver->waitFor([this] { return results().size() >= 3; })); // the folder for unfinished files too
+    m_driver->click("pauseButton");
+    QVERIFY(m_driver->waitFor([this] { return m_driver->text("statusDetail").startsWith(QStringLiteral("paused")); }));
+    const QDir out(resultFolder());
+    QMap<QString, QDateTime> before;
+    for (const QFileInfo &file : out.entryInfoList(QDir::Files))
+        before.insert(file.fileName(), file.lastModified());
+    QVERIFY(before.size() >= 2 && before.size() < 8);
+    WindowDriver::answerNextQuestion(isContinued ? QStringLiteral("Continue") : QStringLiteral("Leave"));
+    m_driver->startAgain();
+    QCOMPARE(m_driver->pictures().model()->rowCount(), 8);
+    if (isContinued) {
+        const QString summary = m_driver->waitForSummary();
+        QVERIFY2(summary.startsWith(QStringLiteral("8 pictures done")), qPrintable(summary));
+        QCOMPARE(logRows().size(), 8);
+    }
+    QCOMPARE(out.entryList(QDir::Files).size(), isContinued ? 8 : int(before.size()));
+    for (const QString &name : before.keys())
+        QCOMPARE(QFileInfo(out.filePath(name)).lastModified(), before[name]);
+    // It is asked once.
+    m_driver->startAgain();
+    QCOMPARE(m_driver->pictures().model()->rowCount(), 0);
 }
 
 QUORLIN_GUI_TEST(WorkerRuns)

@@ -1,6 +1,6 @@
 // Carries out a plan by workers, many pictures at a time: they make the files, here each is put into its place. For steps that say
 // with recipeFor(photo, settings, services) what is done to a picture; a generator, as that of job.js is.
-// Services used: recipes (work), files (info, makeFolder, makeStaging, place, ...), replacing.
+// Services used: recipes (work), files (info, makeFolder, makeStaging, place, ...), replacing and record (both may be missing).
 
 import { guard } from "../../lib/guard.js";
 import { emptyTable, joinPath } from "../../lib/names.js";
@@ -59,6 +59,9 @@ class WorkerJob {
     /** A final result where there is nothing for workers to do, or null. */
     give(index) {
         const item = this.items[index];
+        if (item.done !== undefined) {
+            return item.done; // by a run that was interrupted
+        }
         if (item.status !== "ready") {
             return { status: item.status, reason: item.reason };
         }
@@ -133,9 +136,16 @@ class WorkerJob {
         if (made.width !== item.width || made.height !== item.height) {
             return failed(fill(qsTr("the result is %1 instead of %2"), sizeWords(made), sizeWords(item)));
         }
+        const record = this.services.record;
+        if (record !== undefined) {
+            record.about(made.number, this.targets[made.number], item.path);
+        }
         const placed = placeResult(this.targets[made.number], item, this.settings.output.ifTaken, this.services);
         if (placed.status !== "OK") {
             return placed;
+        }
+        if (record !== undefined) {
+            record.placed(made.number, joinPath(item.folder, placed.name), made.bytes);
         }
         return { status: "OK", reason: "", name: placed.name, path: joinPath(item.folder, placed.name),
                  folder: item.folder, bytes: made.bytes, width: made.width, height: made.height };

@@ -1,0 +1,107 @@
+import { doneResults, recordFrom, RunRecord } from "../../../interface/runs/making/run-record.js";
+import { drain, equal, finish, isTrue, test } from "../check.js";
+import { FakeFiles, photo } from "../fakes.js";
+
+const HEAD = { action: "resize", title: "Resize", settings: { longest: 20 }, startedMs: 5 };
+
+class FakeRecords {
+    constructor() {
+        this.text = "";
+        this.kept = 0;
+        this.isEnded = false;
+    }
+
+    begin(folder) {
+        this.folder = folder;
+        return folder + "/1.jsonl";
+    }
+
+    add(path, lines, isKept) {
+        this.text += lines;
+        this.kept = isKept ? this.text.length : this.kept;
+        return true;
+    }
+
+    end() {
+        this.isEnded = true;
+    }
+}
+
+function item(name, changes) {
+    return Object.assign({ photo: photo("/p/" + name, 40, 30), status: "ready", reason: "", notes: [], folder: "/out",
+                           name: name, path: "/out/" + name, width: 20, height: 15, replaces: false, replaced: "",
+                           replacesOriginal: false }, changes || {});
+}
+
+function recorded(files, items) {
+    const records = new FakeRecords();
+    const record = new RunRecord(records, files);
+    drain(record.begin(HEAD, items));
+    return { records: records, record: record };
+}
+
+test("saysWhatWasPlannedAndWhatIsDone", () => {
+    const files = new FakeFiles({ "/out": "folder", "/out/.unfinished/0": 5, "/out/a.jpg": 5, "/out/b.jpg": 7 });
+    const world = recorded(files, [item("a.jpg"), item("b.jpg"), item("c.jpg", { status: "Skipped", reason: "x" })]);
+    equal(world.records.folder, "/data/runs");
+    world.record.placed(0, "/out/a.jpg", 5);
+    const read = recordFrom(world.records.text);
+    equal([read.head, read.items.length, read.items[2].reason], [HEAD, 3, "x"]);
+    equal(read.items[0].of, "/p/a.jpg");
+    const done = doneResults(read, files);
+    equal(Object.keys(done), ["0"]);
+    equal(done[0], { status: "OK", reason: "", name: "a.jpg", path: "/out/a.jpg", folder: "/out", bytes: 5, width: 20,
+                     height: 15 });
+    delete files.entries["/out/a.jpg"];
+    equal(Object.keys(doneResults(read, files)), []);
+});
+
+test("whatWasAboutToBePlacedIsDoneWhereItIsThere", () => {
+    const files = new FakeFiles({ "/out": "folder", "/out/.unfinished/0": 5 });
+    const identity = files.identity.bind(files);
+    // The same file has the same identity wherever it is.
+    files.identity = (path) => (identity(path) === "" ? "" : "id");
+    const world = recorded(files, [item("a.jpg")]);
+    world.record.about(0, "/out/.unfinished/0", "/out/a.jpg");
+    equal(world.records.kept, world.records.text.length);
+    const read = recordFrom(world.records.text);
+    equal(Object.keys(doneResults(read, files)), []);
+    files.place("/out/.unfinished/0", "/out/a.jpg", "");
+    equal(doneResults(read, files)[0].bytes, 5);
+});
+
+test("isReadWhereverItWasCutOff", () => {
+    const files = new FakeFiles({ "/out": "folder", "/out/a.jpg": 5, "/out/b.jpg": 7 });
+    const world = recorded(files, [item("a.jpg"), item("b.jpg")]);
+    const planned = world.records.text.length;
+    world.record.placed(0, "/out/a.jpg", 5);
+    const first = world.records.text.length;
+    world.record.placed(1, "/out/b.jpg", 7);
+    for (let length = 0; length <= world.records.text.length; length += 1) {
+        const read = recordFrom(world.records.text.slice(0, length));
+        isTrue(length >= planned - 1 ? read !== null : read === null);
+        if (read !== null) {
+            const count = Object.keys(doneResults(read, files)).length;
+            equal(count, length >= world.records.text.length - 1 ? 2 : Number(length >= first - 1));
+        }
+    }
+});
+
+test("knowsWhatAnEarlierRunHadDone", () => {
+    const files = new FakeFiles({ "/out": "folder", "/out/a.jpg": 5 });
+    const done = { status: "OK", path: "/out/a.jpg", bytes: 5 };
+    const world = recorded(files, [item("a.jpg", { done: done }), item("b.jpg")]);
+    equal(Object.keys(doneResults(recordFrom(world.records.text), files)), ["0"]);
+});
+
+test("carriesOnWithoutARecordWhereNoneCanBeWritten", () => {
+    const records = new FakeRecords();
+    records.begin = () => "";
+    const record = new RunRecord(records, new FakeFiles({}));
+    drain(record.begin(HEAD, [item("a.jpg")]));
+    record.about(0, "/x", "/y");
+    record.end();
+    equal([records.text, records.isEnded], ["", false]);
+});
+
+finish();
