@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace window {
 
@@ -27,9 +28,16 @@ ShownPicture pictureFrom(const jobs::ReadResult &result)
 
 void PictureAhead::want(const QStringList &paths, const ShownRoom &room)
 {
-    m_soon.drop();
     m_wanted = paths;
     m_wantedRoom = room;
+    // What is in the making is not begun once more.
+    const bool isWantedStill = m_takePrepared || paths.contains(m_preparing);
+    if (!m_preparing.isEmpty() && !(isWantedStill && room == m_preparingRoom)) {
+        m_soon.drop();
+        m_preparing.clear();
+        m_takePrepared = {};
+    }
+    m_wanted.removeAll(m_preparing);
     m_mostKept = paths.isEmpty() ? 1 : keptAhead;
     while (m_kept.size() > m_mostKept)
         m_kept.pop_front();
@@ -52,8 +60,8 @@ void PictureAhead::forget(const QString &path)
                  m_kept.end());
 }
 
-void PictureAhead::ask(jobs::Reader &reader, const QString &path, const ShownRoom &room, jobs::Urgency urgency,
-                       const std::function<void(const ShownPicture &picture)> &take)
+jobs::Reader::Number PictureAhead::ask(jobs::Reader &reader, const QString &path, const ShownRoom &room,
+                                       jobs::Urgency urgency, const Take &take)
 {
     const jobs::ReadRequest request = {jobs::Reading::Rendition,
                                        path,
@@ -63,7 +71,7 @@ void PictureAhead::ask(jobs::Reader &reader, const QString &path, const ShownRoo
     const QFileInfo info(path);
     const QDateTime changed = info.lastModified();
     const qint64 bytes = info.size();
-    reader.ask(request, urgency, [=, this](const jobs::ReadResult &result) {
+    return reader.ask(request, urgency, [=, this](const jobs::ReadResult &result) {
         const ShownPicture picture = pictureFrom(result);
         forget(path);
         m_kept.push_back({path, changed, bytes, room, picture});
@@ -77,6 +85,7 @@ void PictureAhead::get(const QString &path, const ShownRoom &room,
                        const std::function<void(const ShownPicture &picture)> &take)
 {
     m_now.drop();
+    m_takePrepared = {};
     if (const Kept *kept = find(path, room)) {
         const Kept used = *kept;
         forget(path);
@@ -84,17 +93,35 @@ void PictureAhead::get(const QString &path, const ShownRoom &room,
         take(used.picture);
         return;
     }
-    ask(m_now, path, room, jobs::Urgency::Now, take);
+    if (isPreparing(path, room))
+        m_takePrepared = take;
+    else
+        ask(m_now, path, room, jobs::Urgency::Now, take);
+}
+
+bool PictureAhead::isPreparing(const QString &path, const ShownRoom &room) const
+{
+    return path == m_preparing && room == m_preparingRoom && m_soon.isBegun(m_preparingNumber);
+}
+
+void PictureAhead::takePrepared(const ShownPicture &picture)
+{
+    m_preparing.clear();
+    if (const Take take = std::exchange(m_takePrepared, {}))
+        take(picture);
+    prepareNext();
 }
 
 void PictureAhead::prepareNext()
 {
-    while (!m_wanted.isEmpty()) {
+    while (m_preparing.isEmpty() && !m_wanted.isEmpty()) {
         const QString path = m_wanted.takeFirst();
-        if (!find(path, m_wantedRoom)) {
-            ask(m_soon, path, m_wantedRoom, jobs::Urgency::Later, [this](const ShownPicture &) { prepareNext(); });
-            return;
-        }
+        if (find(path, m_wantedRoom))
+            continue;
+        m_preparing = path;
+        m_preparingRoom = m_wantedRoom;
+        m_preparingNumber = ask(m_soon, path, m_wantedRoom, jobs::Urgency::Later,
+                                [this](const ShownPicture &picture) { takePrepared(picture); });
     }
 }
 

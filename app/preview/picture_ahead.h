@@ -61,12 +61,19 @@ private:
 
     void prepareNext();
     const Kept *find(const QString &path, const ShownRoom &room) const;
-    void ask(jobs::Reader &reader, const QString &path, const ShownRoom &room, jobs::Urgency urgency,
-             const std::function<void(const ShownPicture &picture)> &take);
+    using Take = std::function<void(const ShownPicture &picture)>;
+    jobs::Reader::Number ask(jobs::Reader &reader, const QString &path, const ShownRoom &room, jobs::Urgency urgency,
+                             const Take &take);
+    bool isPreparing(const QString &path, const ShownRoom &room) const;
+    void takePrepared(const ShownPicture &picture);
 
     size_t m_mostKept = 1;
     QStringList m_wanted;
     ShownRoom m_wantedRoom;
+    QString m_preparing; ///< empty where none is
+    ShownRoom m_preparingRoom;
+    jobs::Reader::Number m_preparingNumber = 0;
+    Take m_takePrepared;     ///< it is asked for meanwhile
     std::deque<Kept> m_kept; ///< the one that was used last at the end
     jobs::Reader m_now;
     jobs::Reader m_soon;

@@ -91,6 +91,12 @@ Reader::Number Reader::ask(const ReadRequest &request, Urgency urgency, const Ta
     return own;
 }
 
+bool Reader::isBegun(Number number) const
+{
+    const auto found = m_asked.find(number);
+    return found != m_asked.end() && found->second.errand->isBegun();
+}
+
 void Reader::drop(Number number)
 {
     const auto found = m_asked.find(number);

@@ -80,6 +80,8 @@ public:
     /** All of it. */
     void drop();
     int inWork() const { return int(m_asked.size()); }
+    /** Whether a worker is at it. */
+    bool isBegun(Number number) const;
 
 private:
     struct Asked
