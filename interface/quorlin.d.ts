@@ -1105,6 +1105,8 @@ declare module "quorlin/recipes" {
         extension: string;
         /** No pixel is encoded again. */
         lossless: boolean;
+        /** Further pages or frames of the file that the result will not have. */
+        leftOut: whole;
         /** Sentences. */
         losses: string[];
     }

@@ -132,9 +132,9 @@ QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const S
         losses += lossesOfParts(source);
     if (!plan.isLossless) {
         losses += lossesOfPixels(plan, output, end, source.pixelFacts().value_or(platform::PixelFacts()));
-        if (source.imageCount() > 1)
+        if (plan.leftOut > 0)
             losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "%1 further pictures of the file are left out"))
-                              .arg(source.imageCount() - 1));
+                              .arg(plan.leftOut));
     }
     return losses;
 }

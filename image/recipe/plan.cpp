@@ -91,6 +91,7 @@ OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const Image
     }
     plan.size = way->end.size;
     chooseRoad(plan, *way, output, source);
+    plan.leftOut = plan.isLossless ? 0 : source.imageCount() - 1;
     plan.losses = lossesOf(plan, output, way->end, source);
     return plan;
 }

@@ -19,6 +19,7 @@ struct OutputPlan
     bool isLossless = false;            ///< no pixel is encoded again
     RightTurn turn;                     ///< where it is lossless, what is done to the stored pixels
     bool keepsOrientation = false;      ///< the entry stays, since nothing could turn the pixels without encoding them
+    int leftOut = 0;                    ///< further pages or frames of the file that it will not have
     QStringList losses;                 ///< sentences
 };
 

@@ -38,14 +38,24 @@ export const DATES = ["now", "keep"];
 export const RAW_WITH_PREVIEW = pictures.rawTypes().filter((type) => type.hasPreview).map((type) => type.extension);
 const RAW = pictures.rawTypes().map((type) => type.extension);
 
-/** The files that actions on pictures take, by extension. */
+/** The files of written types, by extension. */
 export const PICTURE_INPUT = ["jpg", "jpeg", "tif", "tiff", "png", "jp2", "gif", "bmp"];
 
-/** The files that can be converted besides. */
-export const FURTHER_INPUT = ["jpe", "heic", "heif", "webp", "avif", "psd", "pdf", "svg"];
+// What is drawn first: pages and drawings have no pixels of their own.
+const DRAWN = ["com.adobe.pdf", "public.svg-image"];
 
-/** The files that actions take which look at no pixels: these and those of cameras and phones. */
-export const PHOTO_INPUT = PICTURE_INPUT.concat(FURTHER_INPUT, RAW);
+function extensionsWhere(isWanted) {
+    return FORMATS.filter(isWanted).reduce((all, format) => all.concat(format.extensions), []);
+}
+
+/** The files that actions on pictures take, by extension: all that can be read, of raw files the camera's preview. */
+export const READ_INPUT = extensionsWhere((format) => DRAWN.indexOf(format.id) < 0).concat(RAW_WITH_PREVIEW);
+
+/** The files that can be converted. */
+export const CONVERTED_INPUT = READ_INPUT.concat(extensionsWhere((format) => DRAWN.indexOf(format.id) >= 0));
+
+/** The files that actions take which look at no pixels: these, and raw files of any kind. */
+export const PHOTO_INPUT = CONVERTED_INPUT.concat(RAW.filter((extension) => CONVERTED_INPUT.indexOf(extension) < 0));
 
 /** The files of a folder that comments are written into, and those that can be chosen for it, by extension. */
 export const COMMENT_INPUT = ["jpg", "jpeg", "jpe", "tif", "tiff"];
@@ -70,11 +80,6 @@ export function typeOfExtension(extension) {
     const lower = extension.toLowerCase();
     const format = FORMATS.find((each) => each.extensions.indexOf(lower) >= 0);
     return format === undefined ? "" : format.id;
-}
-
-/** The type that a result gets: the chosen one, or the one that the source's extension names. Null if not writable. */
-export function resultType(extension, choice) {
-    return writtenType(choice === ORIGINAL ? typeOfExtension(extension) : choice);
 }
 
 /** Whether the colour profile of the picture at a path stays in a file of this type; true where it has none. */

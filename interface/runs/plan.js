@@ -141,7 +141,8 @@ function reasonOf(photo, planned, services) {
 function itemFor(photo, planned, settings, services) {
     const item = {
         photo: photo, status: planned.status, reason: reasonOf(photo, planned, services),
-        notes: planned.notes || [], folder: targetFolder(photo, settings.output), name: planned.name || "", path: "",
+        notes: planned.notes || [], remarks: planned.remarks || [],
+        folder: targetFolder(photo, settings.output), name: planned.name || "", path: "",
         width: planned.width || 0, height: planned.height || 0,
         replaces: false, replaced: "", replacesOriginal: false, numbered: false, asks: false,
     };

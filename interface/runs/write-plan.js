@@ -15,20 +15,21 @@ export function showItem(list, id, item, simulated) {
     }
     list.setPlan(id, item.name, pixels(item));
     const detail = item.notes.join("\n");
+    const remarked = (text) => [text].concat(item.remarks).join(", ");
     if (item.asks) {
-        list.setStatus(id, "planned", qsTr("name is taken: will ask"), detail);
+        list.setStatus(id, "planned", remarked(qsTr("name is taken: will ask")), detail);
     } else if (item.replaces) {
         const text = item.replacesOriginal ? qsTr("replaces original") : fill(qsTr("replaces %1"), item.name);
-        list.setStatus(id, "caution", text, detail);
+        list.setStatus(id, "caution", remarked(text), detail);
     } else {
-        list.setStatus(id, simulated ? "planned" : "waiting", simulated ? qsTr("would be written") : qsTr("ready"),
-                       detail);
+        const text = simulated ? qsTr("would be written") : qsTr("ready");
+        list.setStatus(id, simulated ? "planned" : "waiting", remarked(text), detail);
     }
 }
 
 export class WritePlan extends LivePlan {
     nothing() {
-        return { ready: 0, originals: 0, replaced: 0, all: -1 };
+        return { ready: 0, originals: 0, replaced: 0, unwritable: 0, all: -1 };
     }
 
     work(ids, settings) {
@@ -43,6 +44,7 @@ export class WritePlan extends LivePlan {
         this.next += 1;
         // Another run would write it again.
         summary.ready += item.status === "ready" ? 1 : 0;
+        summary.unwritable += item.status === "Not Supported" ? 1 : 0;
         if (this.isFinal(id)) {
             return;
         }
@@ -53,5 +55,6 @@ export class WritePlan extends LivePlan {
 
     ended(_value, summary) {
         summary.all = this.ids.length;
+        this.window.actionPage.output.offerType(summary.unwritable);
     }
 }

@@ -291,7 +291,8 @@ export class WriteRun extends BaseRun {
         if (result.status === "OK") {
             list.setPlan(id, result.name, pixels(result));
         }
-        list.setStatus(id, statusKind(result.status), statusText(result.status, result.reason), item.notes.join("\n"));
+        const words = [statusText(result.status, result.reason)].concat(result.status === "OK" ? item.remarks : []);
+        list.setStatus(id, statusKind(result.status), words.join(", "), item.notes.join("\n"));
         if (result.status === "OK" && item.replacesOriginal) {
             list.forget(id);
         }

@@ -1170,6 +1170,10 @@
         <source>More or fewer settings of the results</source>
         <translation>Mehr oder weniger Einstellungen der Ergebnisse</translation>
     </message>
+    <message>
+        <source>Write all as JPEG</source>
+        <translation>Alle als JPEG schreiben</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -2313,8 +2317,15 @@
 <context>
     <name>by-recipe</name>
     <message>
-        <source>this type cannot be written, choose another file type</source>
-        <translation>nicht schreibbar, anderen Dateityp wählen</translation>
+        <source>preview of %1</source>
+        <translation>Vorschau von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pictures left out</source>
+        <translation>
+            <numerusform>%n weiteres Bild ausgelassen</numerusform>
+            <numerusform>%n weitere Bilder ausgelassen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4600,6 +4611,13 @@
     <message>
         <source>More…</source>
         <translation>Mehr …</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures are of a type that is not written.</source>
+        <translation>
+            <numerusform>%n Bild hat einen Typ, der nicht geschrieben wird.</numerusform>
+            <numerusform>%n Bilder haben einen Typ, der nicht geschrieben wird.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -8875,10 +8893,6 @@
         <translation>Die Bildfläche wächst, damit die Ecken Platz haben.</translation>
     </message>
     <message>
-        <source>%1 cannot be written; convert it first</source>
-        <translation>%1 kann nicht geschrieben werden; wandeln Sie es zuerst um</translation>
-    </message>
-    <message>
         <source>The canvas grows so that the corners fit; what is beside the picture becomes white.</source>
         <translation>Die Bildfläche wächst, damit die Ecken Platz haben; was neben dem Bild liegt, wird weiß.</translation>
     </message>
@@ -9598,10 +9612,6 @@
     <message>
         <source>%1 cannot be written, choose another file type</source>
         <translation>%1 kann nicht geschrieben werden, wählen Sie einen anderen Dateityp</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>not a readable picture</source>

@@ -12,6 +12,16 @@
     </message>
 </context>
 <context>
+    <name>by-recipe</name>
+    <message numerus="yes">
+        <source>%n further pictures left out</source>
+        <translation>
+            <numerusform>%n further picture left out</numerusform>
+            <numerusform>%n further pictures left out</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>comment-job</name>
     <message numerus="yes">
         <source>%n problems</source>
@@ -444,6 +454,16 @@
         <translation>
             <numerusform>%n goes along</numerusform>
             <numerusform>%n go along</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>output-pane</name>
+    <message numerus="yes">
+        <source>%n pictures are of a type that is not written.</source>
+        <translation>
+            <numerusform>%n picture is of a type that is not written.</numerusform>
+            <numerusform>%n pictures are of a type that is not written.</numerusform>
         </translation>
     </message>
 </context>

@@ -1170,6 +1170,10 @@
         <source>More or fewer settings of the results</source>
         <translation>Plus ou moins de réglages des résultats</translation>
     </message>
+    <message>
+        <source>Write all as JPEG</source>
+        <translation>Tout écrire en JPEG</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -2313,8 +2317,15 @@
 <context>
     <name>by-recipe</name>
     <message>
-        <source>this type cannot be written, choose another file type</source>
-        <translation>type non inscriptible, choisissez-en un autre</translation>
+        <source>preview of %1</source>
+        <translation>aperçu de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pictures left out</source>
+        <translation>
+            <numerusform>%n autre image laissée de côté</numerusform>
+            <numerusform>%n autres images laissées de côté</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4600,6 +4611,13 @@
     <message>
         <source>More…</source>
         <translation>Plus…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures are of a type that is not written.</source>
+        <translation>
+            <numerusform>%n image est d’un type qui n’est pas écrit.</numerusform>
+            <numerusform>%n images sont d’un type qui n’est pas écrit.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -8875,10 +8893,6 @@
         <translation>La surface s’agrandit pour que les coins tiennent.</translation>
     </message>
     <message>
-        <source>%1 cannot be written; convert it first</source>
-        <translation>%1 ne peut pas être écrit&#x202f;; convertissez d’abord l’image</translation>
-    </message>
-    <message>
         <source>The canvas grows so that the corners fit; what is beside the picture becomes white.</source>
         <translation>La surface s’agrandit pour que les coins tiennent&#x202f;; ce qui est à côté de l’image devient blanc.</translation>
     </message>
@@ -9598,10 +9612,6 @@
     <message>
         <source>%1 cannot be written, choose another file type</source>
         <translation>%1 ne peut pas être écrit, choisissez un autre format</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 ne peut pas être écrit</translation>
     </message>
     <message>
         <source>not a readable picture</source>

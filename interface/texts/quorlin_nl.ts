@@ -1170,6 +1170,10 @@
         <source>More or fewer settings of the results</source>
         <translation>Meer of minder instellingen van de resultaten</translation>
     </message>
+    <message>
+        <source>Write all as JPEG</source>
+        <translation>Alles als JPEG schrijven</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -2313,8 +2317,15 @@
 <context>
     <name>by-recipe</name>
     <message>
-        <source>this type cannot be written, choose another file type</source>
-        <translation>niet schrijfbaar, kies een ander type</translation>
+        <source>preview of %1</source>
+        <translation>voorvertoning van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pictures left out</source>
+        <translation>
+            <numerusform>%n verdere foto weggelaten</numerusform>
+            <numerusform>%n verdere foto’s weggelaten</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4600,6 +4611,13 @@
     <message>
         <source>More…</source>
         <translation>Meer…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures are of a type that is not written.</source>
+        <translation>
+            <numerusform>%n foto heeft een type dat niet wordt geschreven.</numerusform>
+            <numerusform>%n foto’s hebben een type dat niet wordt geschreven.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -8875,10 +8893,6 @@
         <translation>Het canvas groeit zodat de hoeken passen.</translation>
     </message>
     <message>
-        <source>%1 cannot be written; convert it first</source>
-        <translation>%1 kan niet worden geschreven; converteer het eerst</translation>
-    </message>
-    <message>
         <source>The canvas grows so that the corners fit; what is beside the picture becomes white.</source>
         <translation>Het canvas groeit zodat de hoeken passen; wat naast de foto ligt wordt wit.</translation>
     </message>
@@ -9598,10 +9612,6 @@
     <message>
         <source>%1 cannot be written, choose another file type</source>
         <translation>%1 kan niet worden geschreven, kies een ander bestandstype</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 kan niet worden geschreven</translation>
     </message>
     <message>
         <source>not a readable picture</source>

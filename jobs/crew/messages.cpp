@@ -68,6 +68,7 @@ void writePlan(MessageWriter &writer, const image::OutputPlan &plan)
     writer.number(int(plan.type));
     writeSize(writer, plan.size);
     writer.flag(plan.isLossless);
+    writer.number(plan.leftOut);
     writer.texts(plan.losses);
 }
 
@@ -79,6 +80,7 @@ image::OutputPlan readPlan(MessageReader &reader)
     plan.type = image::OutputType(reader.number(int(image::OutputType::Original), int(image::OutputType::JpegXl)));
     plan.size = readSize(reader);
     plan.isLossless = reader.flag();
+    plan.leftOut = reader.number();
     plan.losses = reader.texts();
     return plan;
 }

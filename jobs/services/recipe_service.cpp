@@ -129,6 +129,7 @@ QVariantMap answerOf(const OutputPlan &plan)
             {key("height"), plan.size.height()},
             {key("extension"), isThere ? image::extensionOf(plan.type) : QString()},
             {key("lossless"), plan.isLossless},
+            {key("leftOut"), plan.leftOut},
             {key("losses"), plan.losses}};
 }
 

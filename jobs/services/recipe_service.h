@@ -44,9 +44,9 @@ public:
 
     /**
      * What the recipe makes of the picture at @p path, from its header alone: {problem, isNotSupported, type, width, height,
-     * extension, lossless, losses}. Where there will be none, problem is a sentence and the others say nothing; isNotSupported then
-     * tells that its type cannot be written. type is the word of recipes ("jpeg"), extension ".jpg", width and height are pixels of
-     * the upright result, losses are sentences.
+     * extension, lossless, leftOut, losses}. Where there will be none, problem is a sentence and the others say nothing; isNotSupported
+     * then tells that its type cannot be written. type is the word of recipes ("jpeg"), extension ".jpg", width and height are pixels of
+     * the upright result, leftOut counts pages and frames that it will not have, losses are sentences.
      */
     Q_INVOKABLE virtual QVariantMap planOutput(const QString &path, const QVariantMap &recipe) const;
 

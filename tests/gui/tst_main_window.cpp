@@ -216,7 +216,7 @@ private Q_SLOTS:
     {
         std::optional<QStringList> offered;
         for (const auto &[action, extension, other] :
-             {std::tuple("resize", "bmp", "heic"), std::tuple("convert", "heic", "txt"),
+             {std::tuple("resize", "heic", "pdf"), std::tuple("convert", "pdf", "txt"),
               std::tuple("sort", "nef", "txt")}) {
             m_driver->show(action);
             platform::setPanelProvider(std::make_unique<AskedTypes>(offered));

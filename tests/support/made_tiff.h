@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QList>
 #include <QtEndian>
 
@@ -60,6 +61,41 @@ inline QByteArray madeTiff(const MadeTiff &wanted)
         number(quint32(0));
     }
     return file;
+}
+
+/** One entry of a directory, low byte first. */
+inline QByteArray tiffEntry(quint16 tag, quint16 type, quint32 count, quint32 value)
+{
+    QByteArray entry(12, '\0');
+    qToLittleEndian<quint16>(tag, entry.data());
+    qToLittleEndian<quint16>(type, entry.data() + 2);
+    qToLittleEndian<quint32>(count, entry.data() + 4);
+    qToLittleEndian<quint32>(value, entry.data() + 8);
+    return entry;
+}
+
+inline QByteArray tiffDirectory(const QByteArrayList &entries)
+{
+    QByteArray count(2, '\0');
+    qToLittleEndian<quint16>(quint16(entries.size()), count.data());
+    return count + entries.join() + QByteArray(4, '\0');
+}
+
+/** A raw file as cameras write it, with no sensor data, and with a preview if there is one. */
+inline QByteArray rawFileWith(const QByteArray &preview, quint16 orientation)
+{
+    constexpr quint16 shortType = 3;
+    constexpr quint16 longType = 4;
+    constexpr quint32 firstAt = 8;
+    constexpr quint32 secondAt = firstAt + 2 + 4 * 12 + 4;
+    constexpr quint32 previewAt = secondAt + 2 + 4 * 12 + 4;
+    QByteArray file("II*\0\x08\0\0\0", 8);
+    file += tiffDirectory({tiffEntry(0x00fe, longType, 1, 1), tiffEntry(0x0112, shortType, 1, orientation),
+                           tiffEntry(0x014a, longType, 1, secondAt), tiffEntry(0xc612, 1, 4, 0x00000401)});
+    const quint32 size = quint32(preview.size());
+    file += tiffDirectory({tiffEntry(0x00fe, longType, 1, 1), tiffEntry(0x0103, shortType, 1, 6),
+                           tiffEntry(0x0201, longType, 1, previewAt), tiffEntry(0x0202, longType, 1, size)});
+    return file + preview;
 }
 
 } // namespace pictures

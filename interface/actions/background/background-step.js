@@ -3,11 +3,11 @@
 
 import { files } from "quorlin/files";
 import { splitPath } from "../../lib/names.js";
-import { MASK_TYPES, maskName } from "../shared/masks.js";
-import { ORIGINAL } from "../../lib/types.js";
+import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
-import { mayBeTransparent, outputMessages, targetOf } from "../shared/written.js";
+import { ownName } from "../shared/own-name.js";
+import { mayBeTransparent, outputMessages, unreadable } from "../shared/written.js";
 
 export const MOST_BAND = 10000;
 /** What can lie under a picture. */
@@ -21,7 +21,7 @@ export const defaults = {
 };
 
 /** What the output block offers; see the Resize step. */
-export const offer = { types: MASK_TYPES, quality: false, byRecipe: true };
+export const offer = { types: WRITTEN.map((type) => type.id), quality: false, byRecipe: true };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
@@ -62,16 +62,16 @@ export function recipeFor(_photo, settings) {
 
 /** What a run would write for one picture, or a final status with its reason. */
 export function plan(photo, settings, services) {
-    const target = targetOf(photo, settings.output.fileType);
-    if (target.refusal !== null) {
-        return target.refusal;
+    const refusal = unreadable(photo);
+    if (refusal !== null) {
+        return refusal;
     }
     if (settings.frame === "band" && 2 * settings.bandWidth >= Math.min(photo.width, photo.height)) {
         return { status: "Failed", reason: qsTr("the band would cover all of it") };
     }
     const planned = planBy(photo, settings, services,
                            () => services.recipes.planOutput(photo.path, recipe(settings)),
-                           maskName(photo.path, settings.output.fileType));
+                           ownName(photo.path, settings.output.fileType));
     if (planned.status === "ready" && settings.frame === "none" && !mayBeTransparent(photo)) {
         const note = fill(qsTr("A %1 picture has no transparent parts: it stays as it looks."), photo.type);
         planned.notes = [note].concat(planned.notes);

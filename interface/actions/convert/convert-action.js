@@ -1,11 +1,11 @@
 // Convert: writes pictures as another file type.
 
 
+import { CONVERTED_INPUT } from "../../lib/types.js";
 import { onPictures } from "../shared/on-pictures.js";
 import { ConvertPane } from "./convert-pane.js";
 import { presets } from "./convert-presets.js";
 import * as step from "./convert-step.js";
-import { CONVERTED_INPUT } from "./targets.js";
 
 export const convert = onPictures({
     name: "convert",

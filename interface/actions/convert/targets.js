@@ -1,15 +1,11 @@
 // What pictures can be converted to, and what gets lost on the way.
 
 import { splitPath } from "../../lib/names.js";
-import { FURTHER_INPUT, keepsProfile, PDF_PAGE, PICTURE_INPUT, RAW_WITH_PREVIEW, typeOfExtension,
-         WRITTEN } from "../../lib/types.js";
+import { keepsProfile, PDF_PAGE, RAW_WITH_PREVIEW, typeOfExtension, WRITTEN } from "../../lib/types.js";
 import { mayBeTransparent } from "../shared/written.js";
 
 /** The keywords of the targets, in the order in which they are offered. */
 export const KEYWORDS = ["jpeg", "png", "tiff", "pdf", "jp2", "gif", "bmp"];
-
-/** The files that can be converted, by extension. */
-export const CONVERTED_INPUT = PICTURE_INPUT.concat(FURTHER_INPUT, RAW_WITH_PREVIEW);
 
 /** What lib/types.js knows of the type of a keyword. */
 export function targetNamed(keyword) {

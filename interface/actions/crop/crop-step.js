@@ -6,7 +6,7 @@ import { inPixels, PIXEL, UNITS } from "../../lib/measure.js";
 import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
-import { outputMessages, targetOf } from "../shared/written.js";
+import { outputMessages, unreadable } from "../shared/written.js";
 
 export const MOST = 100000;
 /** The ratios of the frame that can be kept: "free" for none, "original" for that of the picture. */
@@ -82,9 +82,9 @@ export function recipeFor(photo, settings, services) {
 
 /** What a run would write for one picture: a plan with the frame, or a final status with its reason. */
 export function plan(photo, settings, services) {
-    const target = targetOf(photo, settings.output.fileType);
-    if (target.refusal !== null) {
-        return target.refusal;
+    const refusal = unreadable(photo);
+    if (refusal !== null) {
+        return refusal;
     }
     const frame = cropFrame(photo, forPhoto(photo, settings, services));
     if (!(frame.width > 0 && frame.height > 0)) {

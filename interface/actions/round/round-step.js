@@ -1,10 +1,11 @@
 // Cuts pictures to a rectangle with round corners, a circle or an ellipse, as an operation of a recipe.
 // Services used: recipes (planOutput, make), files. Plain data in, plain data out.
 
-import { MASK_TYPES, maskName } from "../shared/masks.js";
+import { WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
-import { outputMessages, targetOf } from "../shared/written.js";
+import { ownName } from "../shared/own-name.js";
+import { outputMessages, unreadable } from "../shared/written.js";
 
 export const MOST_RADIUS = 100000;
 export const MOST_BAND = 10000;
@@ -16,7 +17,7 @@ export const defaults = {
 };
 
 /** What the output block offers; see the Resize step. */
-export const offer = { types: MASK_TYPES, quality: false, byRecipe: true };
+export const offer = { types: WRITTEN.map((type) => type.id), quality: false, byRecipe: true };
 
 export const SHAPES = ["rectangle", "circle", "ellipse"];
 
@@ -57,16 +58,16 @@ export function recipeFor(_photo, settings) {
 
 /** What a run would write for one picture, or a final status with its reason. */
 export function plan(photo, settings, services) {
-    const target = targetOf(photo, settings.output.fileType);
-    if (target.refusal !== null) {
-        return target.refusal;
+    const refusal = unreadable(photo);
+    if (refusal !== null) {
+        return refusal;
     }
     if (settings.background && 2 * settings.band >= Math.min(photo.width, photo.height)) {
         return { status: "Failed", reason: qsTr("the band would cover all of it") };
     }
     const planned = planBy(photo, settings, services,
                            () => services.recipes.planOutput(photo.path, recipe(settings)),
-                           maskName(photo.path, settings.output.fileType));
+                           ownName(photo.path, settings.output.fileType));
     if (planned.status === "ready" && settings.shape === "circle" && photo.width !== photo.height) {
         planned.notes = [qsTr("The circle is cut from the square in the middle.")].concat(planned.notes);
     }

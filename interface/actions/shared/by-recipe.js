@@ -4,9 +4,12 @@
 import { recipes } from "quorlin/recipes";
 import { splitPath } from "../../lib/names.js";
 import { madeType, madeTypeNamed } from "../../lib/types.js";
-import { outcome, ready, refused, targetOf } from "./written.js";
+import { fill, pixels } from "../../lib/wording.js";
+import { outcome, ready, refused, unreadable, unwritable } from "./written.js";
 
 const WHITE = "#ffffff";
+// The word for the raw files of cameras.
+const RAW = "RAW";
 // The pattern of names that leaves them as they are.
 const OWN_NAME = "{name}";
 
@@ -39,28 +42,32 @@ function nameOf(photo, pattern, told, ownName, services) {
                                     extension === "" ? "" : "." + extension);
 }
 
+// What of the file the result is made from, where that is not all of it.
+function remarksOn(photo, told) {
+    const preview = photo.type === RAW ? [fill(qsTr("preview of %1"), pixels(photo))] : [];
+    return preview.concat(told.leftOut > 0 ? [qsTr("%n further pictures left out", "", told.leftOut)] : []);
+}
+
 /**
  * What a run would write for one picture, or a final status with its reason. With a ready plan: lossless, no pixel is encoded again;
- * losses, sentences on what this picture has and its result will not have.
+ * losses, sentences on what this picture has and its result will not have; remarks, a few words each, on results that are not what one may
+ * expect.
  *
  * @param answer   what the recipe service plans; a function, so that it is asked only where something can be made
  * @param ownName  the name of the result, where that is not the picture's own with the usual extension of its type
  */
 export function planBy(photo, settings, services, answer, ownName) {
-    const target = targetOf(photo, settings.output.fileType);
-    if (target.refusal !== null) {
-        return target.refusal;
+    const told = unreadable(photo) === null ? answer() : null;
+    if (told === null) {
+        return unreadable(photo);
     }
-    const told = answer();
     if (told.problem !== "") {
-        return { status: told.isNotSupported ? "Not Supported" : "Failed",
-                 reason: told.isNotSupported ? qsTr("this type cannot be written, choose another file type")
-                                             : told.problem };
+        return told.isNotSupported ? unwritable(photo) : { status: "Failed", reason: told.problem };
     }
     const usual = ownName === undefined ? splitPath(photo.path).base + told.extension : ownName;
     const name = nameOf(photo, settings.output.namePattern, told, usual, services);
     return Object.assign(ready(name, madeTypeNamed(told.type), told, told.losses),
-                         { lossless: told.lossless, losses: told.losses });
+                         { lossless: told.lossless, losses: told.losses, remarks: remarksOn(photo, told) });
 }
 
 /** Writes the result of a plan as settings.prefix + its name; what is there is replaced. Returns what every step's run() does. */

@@ -10,6 +10,8 @@ import { fill, shortPath } from "../../lib/wording.js";
 import { insertAtCursor, joinTokens } from "./token-menu.js";
 
 const KEPT_FOLDERS = 5;
+// What is offered where a picture cannot be written as what it is.
+const OFFERED_TYPE = "public.jpeg";
 const FOLDER = "folder:";
 // Controls that are named as their setting is.
 const CHOICES = ["fileType", "quality", "metadata", "ifTaken"];
@@ -28,6 +30,7 @@ export class OutputPane {
         this.output = null;
         this.offer = null;
         this.showsMore = false;
+        this.unwritable = 0;
         this.form = shell.loadForm("actions/shared/output-pane.ui");
         this.form.setItems("quality", QUALITIES, QUALITIES);
         this.form.setItems("metadata", [qsTr("Keep all"), qsTr("Keep copyright only"), qsTr("Remove all")], METADATA);
@@ -40,6 +43,7 @@ export class OutputPane {
     use(output, offer) {
         this.output = null;
         this.offer = offer;
+        this.unwritable = 0;
         const types = offer.types.map((id) => writtenType(id));
         this.form.setItems("fileType", [qsTr("Original file type")].concat(types.map((type) => type.word)),
                            [ORIGINAL].concat(offer.types));
@@ -68,6 +72,11 @@ export class OutputPane {
             box.toggled.connect(guard("output." + name, () => this.set(name, box.checked)));
         }
         this.connectRare();
+        this.form.control("typeOffer").clicked.connect(guard("output.typeOffer", () => {
+            this.form.chooseValue("fileType", OFFERED_TYPE);
+            this.set("fileType", OFFERED_TYPE);
+            this.showType();
+        }));
         const folder = this.form.control("folderName");
         folder.textChanged.connect(guard("output.folderName", () => this.nameFolder(folder.text)));
     }
@@ -160,10 +169,24 @@ export class OutputPane {
         for (const name of ["metadataLabel", "metadata"]) {
             this.form.control(name).visible = this.offer.byRecipe === true;
         }
+        this.showOffer();
         this.showRare(type);
         this.form.control("removeLocation").visible = this.offer.byRecipe === true && this.output.metadata !== "none";
         this.form.control("quality").enabled = hasQuality;
         this.form.control("qualityLabel").enabled = hasQuality;
+    }
+
+    /** Offers another type where so many pictures of the list cannot be written as what they are. */
+    offerType(unwritable) {
+        this.unwritable = unwritable;
+        this.showOffer();
+    }
+
+    showOffer() {
+        const isOffered = this.unwritable > 0 && this.output !== null && this.output.fileType === ORIGINAL;
+        this.form.control("typeNote").text = isOffered
+            ? qsTr("%n pictures are of a type that is not written.", "", this.unwritable) : "";
+        this.form.control("typeOfferHost").visible = isOffered;
     }
 
     // A type that holds transparency needs no colour for it.

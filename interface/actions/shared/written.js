@@ -1,11 +1,11 @@
-// What the steps that write pictures have in common: what cannot be written, and a look at the file that came out.
+// What the steps that write pictures have in common: what cannot be read or written, and a look at the file that came out.
 // Services used: files (storedSize), tokens.
 
 import { tokens } from "quorlin/tokens";
 import { splitPath } from "../../lib/names.js";
 import { isSound } from "../../runs/plan.js";
 import { fill } from "../../lib/wording.js";
-import { ORIGINAL, resultType, typeOfExtension, writtenType } from "../../lib/types.js";
+import { typeOfExtension, writtenType } from "../../lib/types.js";
 
 function nameMessages(pattern) {
     if (pattern.trim() === "") {
@@ -29,22 +29,16 @@ export function outputMessages(output) {
     return folderMessages(output.destination).concat(nameMessages(output.namePattern));
 }
 
-/**
- * The written type of the result of a picture (see lib/types), or why there will be none: {type, refusal}, one of which
- * is null; refusal is a plan.
- */
-export function targetOf(photo, fileType) {
-    const extension = splitPath(photo.path).extension;
-    const type = resultType(extension, fileType);
-    if (type === null) {
-        const word = photo.type || extension.toUpperCase();
-        const reason = fileType === ORIGINAL
-            ? qsTr("%1 cannot be written, choose another file type") : qsTr("%1 cannot be written");
-        return { type: null, refusal: { status: "Not Supported", reason: reason.replace("%1", word) } };
-    }
+/** The plan of a picture that cannot be read; null for any other. */
+export function unreadable(photo) {
     return photo.width && photo.height
-        ? { type: type, refusal: null }
-        : { type: null, refusal: { status: "Failed", reason: photo.problem || qsTr("not a readable picture") } };
+        ? null : { status: "Failed", reason: photo.problem || qsTr("not a readable picture") };
+}
+
+/** The plan of a picture whose own type is not written. */
+export function unwritable(photo) {
+    const word = photo.type || splitPath(photo.path).extension.toUpperCase();
+    return { status: "Not Supported", reason: fill(qsTr("%1 cannot be written, choose another file type"), word) };
 }
 
 /** True for a source of a type that may hold transparent pixels. */

@@ -1,12 +1,12 @@
-// Turns and flips a picture, in its own type, as operations of a recipe.
+// Turns and flips a picture, as operations of a recipe.
 // Services used: recipes (planOutput, make), files. Plain data in, plain data out.
 
-import { splitPath } from "../../lib/names.js";
 import { isNothing, wanted } from "./turns.js";
-import { madeType, ORIGINAL } from "../../lib/types.js";
+import { madeType, ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
-import { outputMessages, targetOf } from "../shared/written.js";
+import { ownName } from "../shared/own-name.js";
+import { outputMessages } from "../shared/written.js";
 
 const RIGHT_ANGLE = 90;
 
@@ -16,8 +16,8 @@ export const defaults = {
     output: usualOutput(ORIGINAL, "10", qsTr("Turned")),
 };
 
-/** What the output block offers: the type is always the picture's own. */
-export const offer = { types: [], quality: false, byRecipe: true };
+/** What the output block offers; see the Resize step. */
+export const offer = { types: WRITTEN.map((type) => type.id), quality: false, byRecipe: true };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
@@ -59,14 +59,9 @@ function notesFor(settings, planned) {
 
 /** What a run would write for one picture, or a final status with its reason. */
 export function plan(photo, settings, services) {
-    const target = targetOf(photo, ORIGINAL);
-    if (target.refusal !== null && target.refusal.status === "Not Supported") {
-        const word = photo.type || splitPath(photo.path).extension.toUpperCase();
-        return { status: "Not Supported", reason: fill(qsTr("%1 cannot be written; convert it first"), word) };
-    }
     const planned = planBy(photo, settings, services,
                            () => services.recipes.planOutput(photo.path, recipe(settings)),
-                           splitPath(photo.path).name);
+                           ownName(photo.path, settings.output.fileType));
     if (planned.status === "ready") {
         planned.notes = notesFor(settings, planned).concat(planned.notes);
     }

@@ -116,7 +116,7 @@ void TestListNotes::whatIsLeftOutIsSaidInOneLine()
 {
     picture(QStringLiteral("a.png"));
     m_driver->show("convert");
-    broken(QStringLiteral("b.heic"));
+    broken(QStringLiteral("b.pdf"));
     m_driver->drop({m_driver->inputFolder()});
     QVERIFY(!part("hiddenBar")->isVisible());
     for (const char *action : {"resize", "crop", "background"}) {
@@ -133,7 +133,7 @@ void TestListNotes::whatIsLeftOutIsSaidInOneLine()
         }
     });
     m_driver->click("hiddenShow");
-    QCOMPARE(named, QStringLiteral("b.heic"));
+    QCOMPARE(named, QStringLiteral("b.pdf"));
     m_driver->click("hiddenConvert");
     QCOMPARE(m_driver->text("windowTitle"), QStringLiteral("Quorlin – Convert"));
     QCOMPARE(m_driver->pictures().count(), 2);

@@ -73,11 +73,18 @@ test("plansNameTypeSizeAndLosses", () => {
 
 test("saysWhatCannotBeWritten", () => {
     const refused = resize.plan(lake, settings({}), recipeServices({ problem: "no", isNotSupported: true }));
-    equal([refused.status, refused.reason], ["Not Supported", "this type cannot be written, choose another file type"]);
+    equal([refused.status, refused.reason], ["Not Supported", "JPEG cannot be written, choose another file type"]);
     equal(resize.plan(lake, settings({}), recipeServices({ problem: "too large" })),
           { status: "Failed", reason: "too large" });
-    equal(resize.plan(photo("/p/a.psd", 4, 3), settings({}), recipeServices()).status, "Not Supported");
     equal(resize.plan(photo("/p/a.jpg", 0, 0), settings({}), recipeServices()).status, "Failed");
+});
+
+test("saysWhatIsNotAllOfTheFile", () => {
+    const remarks = (changes, told) => resize.plan(Object.assign({}, lake, changes), settings({}),
+                                                   recipeServices(told)).remarks;
+    equal(remarks({}, {}), []);
+    equal(remarks({ type: "RAW" }, {}), ["preview of 400×300"]);
+    equal(remarks({ type: "GIF" }, { leftOut: 2 }), ["2 further pictures left out"]);
 });
 
 test("makesTheFileThatItPlanned", () => {

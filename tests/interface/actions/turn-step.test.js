@@ -29,9 +29,12 @@ test("saysWithoutLossWhereThatIsSo", () => {
     isTrue(said({ angle: 12 }, false)[0].endsWith("what is beside the picture becomes white."));
 });
 
-test("keepsTheNameAndTheTypeAndRefusesTypesThatCannotBeWritten", () => {
+test("keepsTheNameWhereTheTypeStays", () => {
     equal(turn.plan(source("a.TIFF", 4, 3), settingsOf(turn), recipeServices()).name, "a.TIFF");
-    equal(turn.plan(source("a.heic", 4, 3), settingsOf(turn), recipeServices()).status, "Not Supported");
+    equal(turn.plan(source("a.TIFF", 4, 3), settingsOf(turn, {}, { fileType: "public.jpeg" }), recipeServices()).name,
+          "a.jpg");
+    equal(turn.plan(source("a.heic", 4, 3), settingsOf(turn),
+                    recipeServices({ problem: "no", isNotSupported: true })).status, "Not Supported");
     equal(turn.plan(source("a.jpg", 0, 0), settingsOf(turn), recipeServices()).status, "Failed");
 });
 

@@ -60,8 +60,7 @@ test("asksAgainWhereThereWasAProblem", () => {
 
 test("saysWhatCannotBeWritten", () => {
     const refused = watermark.plan(lake, settings({}), recipeServices({ problem: "no", isNotSupported: true }));
-    equal([refused.status, refused.reason], ["Not Supported", "this type cannot be written, choose another file type"]);
-    equal(watermark.plan(photo("/p/a.psd", 4, 3), settings({}), recipeServices()).status, "Not Supported");
+    equal([refused.status, refused.reason], ["Not Supported", "JPEG cannot be written, choose another file type"]);
     equal(watermark.plan(photo("/p/a.jpg", 0, 0), settings({}), recipeServices()).status, "Failed");
 });
 

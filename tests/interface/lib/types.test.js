@@ -1,5 +1,6 @@
 import { lostText, targetNamed } from "../../../interface/actions/convert/targets.js";
-import { keepsProfile, resultType, typeOfExtension, WRITTEN, writtenType } from "../../../interface/lib/types.js";
+import { CONVERTED_INPUT, keepsProfile, PHOTO_INPUT, READ_INPUT, typeOfExtension, WRITTEN,
+         writtenType } from "../../../interface/lib/types.js";
 import { equal, finish, isTrue, test } from "../check.js";
 import { photo } from "../fakes.js";
 
@@ -18,8 +19,19 @@ test("knowsWhatIsWrittenAndUnderWhichNames", () => {
           [[false, true], [true, false], [true, false], [false, false], [true, false], [true, false]]);
     equal(["JPE", "tif", "heif", "xyz", ""].map(typeOfExtension),
           ["public.jpeg", "public.tiff", "public.heif", "", ""]);
-    equal([resultType("tif", "original file type").id, resultType("heic", "original file type")],
-          ["public.tiff", null]);
+});
+
+test("takesEveryPictureThatCanBeRead", () => {
+    const read = ["jpg", "jpeg", "jpe", "tif", "tiff", "png", "jp2", "gif", "bmp", "heic", "heif", "webp", "avif",
+                  "jxl", "psd", "dng", "nef", "cr2"];
+    equal(read.filter((extension) => READ_INPUT.indexOf(extension) < 0), []);
+    // Pages and drawings are converted first, and raw files without a preview can only be looked at.
+    equal(["pdf", "svg"].map((extension) => [READ_INPUT, CONVERTED_INPUT].map((all) => all.indexOf(extension) >= 0)),
+          [[false, true], [false, true]]);
+    for (const all of [READ_INPUT, CONVERTED_INPUT, PHOTO_INPUT]) {
+        equal(all.filter((extension, i) => all.indexOf(extension) !== i), []);
+    }
+    isTrue(PHOTO_INPUT.length > CONVERTED_INPUT.length);
 });
 
 test("saysOfAJpeg2000WhatItKeepsOfThisPicture", () => {

@@ -20,8 +20,9 @@ const TYPES = { jpeg: ".jpg", png: ".png", gif: ".gif", tiff: ".tiff" };
 function answerFor(path, recipe) {
     const own = splitPath(path).extension.toLowerCase().replace("jpg", "jpeg").replace(/tif$/, "tiff");
     const type = recipe.outputs[0].type === "original" ? own : recipe.outputs[0].type;
-    return { problem: "", isNotSupported: false, type: type, width: 1600, height: 1200, extension: TYPES[type],
-             lossless: false, losses: [] };
+    const isRefused = type === "psd";
+    return { problem: isRefused ? "no" : "", isNotSupported: isRefused, type: type, width: 1600, height: 1200,
+             extension: TYPES[type], lossless: false, leftOut: 0, losses: [] };
 }
 
 function plan(photos, chosen, files, ask) {

@@ -3,6 +3,7 @@
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/source/image_source.h"
 #include "tests/support/corpus.h"
+#include "tests/support/made_tiff.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
@@ -53,41 +54,6 @@ QByteArray entryOf(const QByteArray &pdf, const char *name)
 bool statesSize(const QString &tag)
 {
     return tag.contains(QLatin1String("Pixel")) || tag.startsWith(QLatin1String("tiff:Image"));
-}
-
-/** One entry of a directory, low byte first. */
-QByteArray tiffEntry(quint16 tag, quint16 type, quint32 count, quint32 value)
-{
-    QByteArray entry(12, '\0');
-    qToLittleEndian<quint16>(tag, entry.data());
-    qToLittleEndian<quint16>(type, entry.data() + 2);
-    qToLittleEndian<quint32>(count, entry.data() + 4);
-    qToLittleEndian<quint32>(value, entry.data() + 8);
-    return entry;
-}
-
-QByteArray tiffDirectory(const QByteArrayList &entries)
-{
-    QByteArray count(2, '\0');
-    qToLittleEndian<quint16>(quint16(entries.size()), count.data());
-    return count + entries.join() + QByteArray(4, '\0');
-}
-
-/** A raw file as cameras write it, with no sensor data, and with a preview if there is one. */
-QByteArray rawFileWith(const QByteArray &preview, quint16 orientation)
-{
-    constexpr quint16 shortType = 3;
-    constexpr quint16 longType = 4;
-    constexpr quint32 firstAt = 8;
-    constexpr quint32 secondAt = firstAt + 2 + 4 * 12 + 4;
-    constexpr quint32 previewAt = secondAt + 2 + 4 * 12 + 4;
-    QByteArray file("II*\0\x08\0\0\0", 8);
-    file += tiffDirectory({tiffEntry(0x00fe, longType, 1, 1), tiffEntry(0x0112, shortType, 1, orientation),
-                           tiffEntry(0x014a, longType, 1, secondAt), tiffEntry(0xc612, 1, 4, 0x00000401)});
-    const quint32 size = quint32(preview.size());
-    file += tiffDirectory({tiffEntry(0x00fe, longType, 1, 1), tiffEntry(0x0103, shortType, 1, 6),
-                           tiffEntry(0x0201, longType, 1, previewAt), tiffEntry(0x0202, longType, 1, size)});
-    return file + preview;
 }
 
 /** What is renamed into a folder, in order, from when it is made. */
@@ -488,7 +454,7 @@ void TestConvertType::takesTheFirstOfSeveral()
 void TestConvertType::convertsThePreviewOfARawFile()
 {
     const QByteArray preview = pictures::bytesOf(QStringLiteral(QUORLIN_TEST_DATA "/jpeg/odd-size.jpg"));
-    QVERIFY(m_home->write("camera.dng", rawFileWith(preview, 6)));
+    QVERIFY(m_home->write("camera.dng", pictures::rawFileWith(preview, 6)));
     const auto source = ImageSource::open(at("camera.dng"));
     QVERIFY2(source, source ? "" : qPrintable(source.error().message));
     QCOMPARE(source->typeIdentifier(), QStringLiteral("public.camera-raw-image"));
@@ -503,7 +469,7 @@ void TestConvertType::convertsThePreviewOfARawFile()
     QCOMPARE(made->storedSize(), stored);
     QCOMPARE(made->orientation(), 6);
     // Sensor data without a preview is not taken for a picture.
-    QVERIFY(m_home->write("bare.dng", rawFileWith({}, 1)));
+    QVERIFY(m_home->write("bare.dng", pictures::rawFileWith({}, 1)));
     convert(at("bare.dng"), "png", "bare.png");
     QVERIFY(!m_home->isThere("bare.png"));
 }

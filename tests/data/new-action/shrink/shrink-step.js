@@ -1,10 +1,10 @@
 // Makes pictures smaller. Plain data in, plain data out.
 
 import { splitPath } from "../../lib/names.js";
-import { ORIGINAL, WRITTEN } from "../../lib/types.js";
+import { ORIGINAL, typeOfExtension, WRITTEN, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { usualOutput } from "../shared/by-recipe.js";
-import { outcome, outputMessages, ready, refused, targetOf } from "../shared/written.js";
+import { outcome, outputMessages, ready, refused, unreadable } from "../shared/written.js";
 
 const PER_CENT = 3;
 
@@ -24,10 +24,12 @@ export function validate(settings) {
 }
 
 export function plan(photo, settings) {
-    const target = targetOf(photo, settings.output.fileType);
+    const parts = splitPath(photo.path);
+    const chosen = settings.output.fileType;
+    const type = writtenType(chosen === ORIGINAL ? typeOfExtension(parts.extension) : chosen);
     const part = (length) => Math.trunc((length * settings.percent) / 100);
     const size = { width: part(photo.width), height: part(photo.height) };
-    return target.refusal || ready(splitPath(photo.path).base + target.type.extension, target.type, size, []);
+    return unreadable(photo) || ready(parts.base + type.extension, type, size, []);
 }
 
 export function run(photo, settings, services) {
