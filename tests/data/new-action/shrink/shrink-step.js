@@ -3,10 +3,8 @@
 import { splitPath } from "../../lib/names.js";
 import { ORIGINAL, typeOfExtension, WRITTEN, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { usualOutput } from "../shared/by-recipe.js";
-import { outcome, outputMessages, ready, refused, unreadable } from "../shared/written.js";
-
-const PER_CENT = 3;
+import { makeBy, showBy, usualOutput } from "../shared/by-recipe.js";
+import { outputMessages, ready, unreadable } from "../shared/written.js";
 
 export const defaults = {
     percent: 50,
@@ -32,19 +30,14 @@ export function plan(photo, settings) {
     return unreadable(photo) || ready(parts.base + type.extension, type, size, []);
 }
 
+function recipe(settings) {
+    return { quorlin: 1, operations: [{ do: "resize", percent: settings.percent }], outputs: [{ type: "original" }] };
+}
+
 export function run(photo, settings, services) {
-    const planned = plan(photo, settings);
-    if (planned.status !== "ready") {
-        return refused(planned);
-    }
-    const output = settings.output;
-    const status = services.image.resizeImage(photo.path, settings.percent, PER_CENT, settings.prefix, output.fileType,
-                                              output.quality);
-    return outcome(status, settings.prefix + planned.name, planned, services);
+    return makeBy(photo, settings, recipe(settings), plan(photo, settings), services);
 }
 
 export function preview(photo, settings, planned) {
-    return { deeds: [{ do: "scale", width: planned.width, height: planned.height }], width: planned.width,
-             height: planned.height,
-             type: planned.type, quality: settings.output.quality };
+    return showBy(photo, recipe(settings), planned, settings.output.quality);
 }
