@@ -15,7 +15,8 @@ Translations::Translations(const QString &language)
     const QString english = QStringLiteral("en");
     for (const QString &each : language == english ? QStringList{english} : QStringList{english, language}) {
         install(toolkit.arg(each));
-        install(window::translationFile(each));
+        m_files.append(window::translationFile(each));
+        install(m_files.constLast());
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -23,10 +24,14 @@ public:
     explicit Translations(const QString &language);
     ~Translations();
 
+    /** The files that the texts of this program's own come from, the later before the earlier. */
+    const QStringList &files() const { return m_files; }
+
 private:
     void install(const QString &path);
 
     std::vector<std::unique_ptr<QTranslator>> m_tables;
+    QStringList m_files;
 };
 
 } // namespace app

@@ -51,6 +51,7 @@ void StartUp::useLanguage()
     app::useTexts();
     QLocale::setDefault(app::wantedLocale());
     m_translations = std::make_unique<app::Translations>(platform::languageOfTexts());
+    jobs::WorkerDesk::useTexts(m_translations->files());
 }
 
 // The windows go first: their controls still hold functions of the scripts.

@@ -33,10 +33,17 @@ QString &saidProgram()
     return program;
 }
 
+QStringList &saidTexts()
+{
+    static QStringList files;
+    return files;
+}
+
 WorkerDesk::Options usualOptions()
 {
     WorkerDesk::Options usual;
     usual.program = saidProgram().isEmpty() ? workerProgram() : saidProgram();
+    usual.texts = saidTexts();
     return usual;
 }
 
@@ -58,6 +65,7 @@ WorkerDesk::WorkerDesk(const Options &options, QObject *parent)
     : QObject(parent), m_size(options.workers > 0 ? options.workers : most()), m_options(options),
       m_pool(options.program, options.limits, platform::MessageSocket::Files::Taken)
 {
+    m_pool.setArguments(options.texts);
     m_pool.onMessage = [this](Id worker, Message message) { take(worker, message); };
     m_pool.onEnded = [this](Id worker, WorkerEnd end) { takeEnd(worker, end); };
     m_look.setSingleShot(true);
@@ -96,6 +104,15 @@ WorkerDesk &WorkerDesk::forWaiting()
 void WorkerDesk::useProgram(const QString &program)
 {
     saidProgram() = program;
+    delete deskOfProcess();
+    delete deskForWaiting();
+}
+
+void WorkerDesk::useTexts(const QStringList &files)
+{
+    if (files == saidTexts())
+        return;
+    saidTexts() = files;
     delete deskOfProcess();
     delete deskForWaiting();
 }

@@ -47,6 +47,7 @@ public:
         QString program; ///< absolute path of quorlin-worker
         int workers = 0; ///< 0: as many as there are processors for this process
         platform::WorkerLimits limits = {300, qint64(2048) << 20, 10};
+        QStringList texts = {}; ///< translations, as files, in which the workers give their reasons
     };
 
     explicit WorkerDesk(const Options &options, QObject *parent = nullptr);
@@ -61,6 +62,9 @@ public:
      * at work then.
      */
     static void useProgram(const QString &program);
+
+    /** The files of texts in which the workers of both give their reasons; English where it was never said. To be said as useProgram() is. */
+    static void useTexts(const QStringList &files);
 
     Number add(std::shared_ptr<Errand> errand, Urgency urgency);
     /** Takes an errand back; a worker that is at it is ended, so that nothing more comes of it. Nothing for one that is over. */

@@ -45,12 +45,16 @@ private:
 };
 
 /** The number of the new process, or what is negative and an errno. */
-pid_t spawned(const QString &program, int socket, qint64 bytes)
+pid_t spawned(const QString &program, int socket, qint64 bytes, const QStringList &further)
 {
-    QByteArray name = QFile::encodeName(program);
-    QByteArray parent = QByteArray::number(::getpid());
-    QByteArray limit = QByteArray::number(bytes);
-    const std::array<char *, 4> arguments = {name.data(), parent.data(), limit.data(), nullptr};
+    const QByteArray name = QFile::encodeName(program);
+    QByteArrayList texts = {name, QByteArray::number(::getpid()), QByteArray::number(bytes)};
+    for (const QString &argument : further)
+        texts.append(QFile::encodeName(argument));
+    std::vector<char *> arguments;
+    for (QByteArray &text : texts)
+        arguments.push_back(text.data());
+    arguments.push_back(nullptr);
     const SpawnActions actions(socket);
     pid_t child = -1;
     const int problem = posix_spawn(&child, name.constData(), actions.get(), nullptr, arguments.data(), environ);
@@ -117,7 +121,8 @@ WorkerPool::~WorkerPool()
 std::optional<WorkerPool::Id> WorkerPool::start(QString *problem)
 {
     MessageSocket::Pair ends = MessageSocket::makePair();
-    const pid_t child = ends.one.isOpen() ? spawned(m_program, ends.other.number(), m_limits.residentBytes) : -errno;
+    const pid_t child =
+        ends.one.isOpen() ? spawned(m_program, ends.other.number(), m_limits.residentBytes, m_arguments) : -errno;
     if (child < 0) {
         if (problem)
             *problem = QString::fromLocal8Bit(std::strerror(-child));

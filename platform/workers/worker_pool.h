@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QString>
+#include <QStringList>
 #include <QTimer>
 
 #include <functional>
@@ -48,6 +49,9 @@ public:
     /** Ends all workers. */
     ~WorkerPool();
 
+    /** Further arguments for workers that are started from now on. */
+    void setArguments(const QStringList &arguments) { m_arguments = arguments; }
+
     std::function<void(Id worker, Message message)> onMessage;
     /** The worker is no longer there. Not called for those that end() ends. */
     std::function<void(Id worker, WorkerEnd end)> onEnded;
@@ -84,6 +88,7 @@ private:
     void reap();
 
     QString m_program;
+    QStringList m_arguments;
     WorkerLimits m_limits;
     MessageSocket::Files m_files;
     std::map<Id, std::unique_ptr<Worker>> m_workers;

@@ -4,8 +4,12 @@
 #include "platform/workers/worker_pool.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QTranslator>
 
 #include <cstdlib>
+#include <memory>
+#include <vector>
 
 #include <sys/resource.h>
 
@@ -29,17 +33,35 @@ void limitAddresses(qint64 residentBytes)
 #endif
 }
 
+/** The texts in which reasons are given; a file that cannot be read leaves them as they are. */
+class Tables
+{
+public:
+    Tables(char **first, char **last)
+    {
+        for (char **file = first; file != last; ++file) {
+            auto table = std::make_unique<QTranslator>();
+            if (table->load(QFile::decodeName(*file)) && QCoreApplication::installTranslator(table.get()))
+                m_tables.push_back(std::move(table));
+        }
+    }
+
+private:
+    std::vector<std::unique_ptr<QTranslator>> m_tables;
+};
+
 } // namespace
 
 int runWorker(int count, char **arguments, const jobs::WorkerTrial &trial)
 {
     constexpr int own = 3;
-    if (count != own)
+    if (count < own)
         return EXIT_FAILURE;
     platform::endWithParent(std::atoi(arguments[1]));
     limit(RLIMIT_CORE, 0); // nobody's pictures lie about
     limitAddresses(std::atoll(arguments[2]));
     const QCoreApplication application(count, arguments);
+    const Tables tables(arguments + own, arguments + count);
     if (!platform::startPictureLibraries(1))
         return EXIT_FAILURE;
     const platform::Confinement active = platform::confine(platform::systemFolders());
