@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QImage>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -150,7 +151,9 @@ void TestListNotes::theTitleTellsHowFarARunIs()
     connect(&m_driver->window(), &QWidget::windowTitleChanged, this,
             [&titles](const QString &title) { titles << title; });
     run();
-    QVERIFY2(titles.contains(QStringLiteral("50% – Resize – Quorlin")), qPrintable(titles.join(u'|')));
+    // How many are done at once is the workers' affair.
+    QVERIFY2(titles.indexOf(QRegularExpression(QStringLiteral("^[1-9][0-9]?% – Resize – Quorlin$"))) >= 0,
+             qPrintable(titles.join(u'|')));
     QCOMPARE(m_driver->window().windowTitle(), QStringLiteral("Quorlin"));
 }
 
