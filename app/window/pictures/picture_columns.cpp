@@ -17,6 +17,7 @@
 #include <QSignalBlocker>
 
 #include <array>
+#include <numeric>
 
 namespace window {
 
@@ -268,24 +269,31 @@ void PictureTable::arrangeColumns()
     const auto shareOf = [this](size_t i) {
         return m_model.stressesNewNames() ? kinds[i].stressedShare : kinds[i].share;
     };
-    int texts = 0;
+    QList<size_t> texts;
     for (size_t i = 0; i < kinds.size(); ++i) {
         room -= isShown(i) && kinds[i].widthPx > 0 ? fixedWidth(i) : 0;
         shares += isShown(i) && kinds[i].widthPx == 0 ? shareOf(i) : 0;
-        texts += isShown(i) && kinds[i].widthPx == 0 ? 1 : 0;
+        if (isShown(i) && kinds[i].widthPx == 0)
+            texts.append(i);
     }
+    const int headings = std::accumulate(texts.begin(), texts.end(), 0, [this](int sum, size_t i) {
+        return sum + qMax(narrowestTextPx, horizontalHeader()->sectionSizeHint(int(i)));
+    });
+    const auto leastOf = [&](size_t i) {
+        return headings > room ? narrowestTextPx : qMax(narrowestTextPx, horizontalHeader()->sectionSizeHint(int(i)));
+    };
     // Where not even narrow texts have room, a long heading is cut off, since the list is not to be moved sideways.
-    int lacking = qMax(0, texts * narrowestTextPx - room);
+    int lacking = qMax(0, int(texts.size()) * narrowestTextPx - room);
     const auto cutWidth = [&](size_t i) {
         const int given = qMin(lacking, fixedWidth(i) - kinds[i].widthPx);
         lacking -= given;
         return fixedWidth(i) - given;
     };
-    const int spare = qMax(0, room - texts * narrowestTextPx);
+    const int spare = qMax(0, room - (headings > room ? int(texts.size()) * narrowestTextPx : headings));
     for (size_t i = 0; i < kinds.size(); ++i) {
         if (!isShown(i))
             continue;
-        const int text = narrowestTextPx + spare * shareOf(i) / qMax(1, shares);
+        const int text = leastOf(i) + spare * shareOf(i) / qMax(1, shares);
         horizontalHeader()->resizeSection(int(i), kinds[i].widthPx > 0 ? cutWidth(i) : text);
     }
 }
