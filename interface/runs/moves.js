@@ -40,6 +40,7 @@ export const MOVES = {
     makePlan: (window, planned) => new LiveMoves(window, planned),
     output: false,
     preview: false,
+    watches: false,
     columns: ["thumbnail", "name", "folder", "newName", "status"],
     headings: () => ({ name: qsTr("Now") }),
     stressed: true,

@@ -64,6 +64,11 @@ export class WriteRun extends BaseRun {
         return summaryOf(this.results).folders;
     }
 
+    /** The files that it wrote. */
+    resultPaths() {
+        return this.results.filter((result) => result.status === "OK").map((result) => result.path);
+    }
+
     /** Plans, then carries out or shows the plan of all pictures in the list. */
     start() {
         this.begin(this.window.pictures.ids());

@@ -42,6 +42,7 @@ export const WRITES = {
     makePlan: (window, planned) => new WritePlan(window, planned),
     output: true,
     preview: true,
+    watches: true,
     columns: ["thumbnail", "name", "folder", "pixels", "size", "type", "newName", "newSize", "status"],
     headings: () => ({}),
     stressed: false,

@@ -39,6 +39,10 @@ export class RecipeRun extends WriteRun {
         return summaryOf(joined(this.finals)).folders;
     }
 
+    resultPaths() {
+        return joined(this.finals).filter((final) => final.status === "OK").map((final) => final.path);
+    }
+
     // All are planned, so that names and numbers are those of the whole list; those that are wanted are made.
     begin(wanted) {
         const all = this.window.pictures.ids();

@@ -16,11 +16,12 @@ function obstacle(action, settings) {
     if (problems.length > 0) {
         return problems[0];
     }
-    if (settings.output.simulation) {
+    const output = settings.output; // recipes say themselves where results go
+    if (output === undefined ? settings.simulation : output.simulation) {
         return qsTr("Pictures of a watched folder are written at once: turn Simulation off first.");
     }
-    const output = settings.output;
-    const asks = output.ifTaken === "ask" || (output.ifTaken === "replace" && output.destination.kind === "source");
+    const asks = output !== undefined &&
+        (output.ifTaken === "ask" || (output.ifTaken === "replace" && output.destination.kind === "source"));
     return asks
         ? qsTr("Nobody can be asked while a folder is watched: choose to number or to skip what is there already.") : "";
 }
@@ -137,10 +138,10 @@ export class Watching {
         for (const result of run.results) {
             this.done += result.status === "OK" ? 1 : 0;
             this.failed += result.status === "OK" ? 0 : 1;
-            if (result.path) {
-                this.results[result.path] = true;
-                watch.leaveOut(result.path);
-            }
+        }
+        for (const path of run.resultPaths()) {
+            this.results[path] = true;
+            watch.leaveOut(path);
         }
         this.window.pictures.removeIds(this.rows.splice(0, Math.max(0, this.rows.length - MOST_ROWS)));
         this.work();
@@ -149,7 +150,7 @@ export class Watching {
     show() {
         const window = this.window;
         const control = (name) => window.form.control(name);
-        const takes = window.shownPage === null && window.action.manner.output;
+        const takes = window.shownPage === null && window.action.manner.watches;
         control("watchAction").enabled = takes && !this.isOn() && !window.run.isBusy();
         control("watchBar").visible = this.isOn();
         const parts = [fill(qsTr("Watching “%1”"), this.name), fill(qsTr("%1 done"), pictures(this.done))]

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void settingsStayAsTheyAreMeanwhile();
     void whatNobodyCanBeAskedIsRefused();
     void saysThatTheFolderIsGone();
+    void recipesAreCarriedOutToo();
 
 private:
     QString path(const QString &name) const { return m_driver->inputFolder() + u'/' + name; }
@@ -111,6 +112,21 @@ void TestWatching::saysThatTheFolderIsGone()
     QVERIFY(QDir(m_driver->inputFolder()).removeRecursively());
     QVERIFY(m_driver->waitFor([this] { return !part("watchBar")->isVisible(); }));
     QVERIFY(m_driver->text("statusText").contains(QLatin1String("is gone and is not watched any more")));
+}
+
+void TestWatching::recipesAreCarriedOutToo()
+{
+    m_driver->show("recipe");
+    m_driver->choose("recipeChoice", m_driver->control<QComboBox>("recipeChoice")->itemData(0).toString());
+    QVERIFY(m_driver->waitFor([this] { return m_driver->control<QAction>("watchAction")->isEnabled(); }));
+    watch();
+    picture(QStringLiteral("one.png"));
+    picture(QStringLiteral("two.png"));
+    const auto says = [this](const char *text) { return m_driver->text("watchText").contains(QLatin1String(text)); };
+    QVERIFY(m_driver->waitFor([&] { return says("2 pictures done"); }));
+    QTest::qWait(3000); // results would have been taken by now
+    QCOMPARE(m_driver->pictures().count(), 2);
+    QVERIFY(says("2 pictures done"));
 }
 
 QUORLIN_GUI_TEST(TestWatching)
