@@ -312,6 +312,8 @@ void WorkerRuns::goesOnWhereItWasInterrupted()
         const QString summary = m_driver->waitForSummary();
         QVERIFY2(summary.startsWith(QStringLiteral("8 pictures done")), qPrintable(summary));
         QCOMPARE(logRows().size(), 8);
+        for (int row = 0; row < 8; ++row)
+            QCOMPARE(m_driver->cell(row, PictureModel::Status), QStringLiteral("OK"));
     }
     QCOMPARE(out.entryList(QDir::Files).size(), isContinued ? 8 : int(before.size()));
     for (const QString &name : before.keys())

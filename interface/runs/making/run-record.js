@@ -6,8 +6,8 @@
 import { emptyTable, joinPath } from "../../lib/names.js";
 
 const ITEMS_A_SLICE = 100;
-const KEPT = ["status", "reason", "notes", "folder", "name", "path", "width", "height", "replaces", "replaced",
-              "replacesOriginal"];
+const KEPT = ["status", "reason", "notes", "remarks", "folder", "name", "path", "width", "height", "replaces",
+              "replaced", "replacesOriginal"];
 
 /** The folder of the records. */
 export function recordsFolder(files) {

@@ -28,9 +28,9 @@ class FakeRecords {
 }
 
 function item(name, changes) {
-    return Object.assign({ photo: photo("/p/" + name, 40, 30), status: "ready", reason: "", notes: [], folder: "/out",
-                           name: name, path: "/out/" + name, width: 20, height: 15, replaces: false, replaced: "",
-                           replacesOriginal: false }, changes || {});
+    return Object.assign({ photo: photo("/p/" + name, 40, 30), status: "ready", reason: "", notes: [],
+                           remarks: ["small"], folder: "/out", name: name, path: "/out/" + name, width: 20,
+                           height: 15, replaces: false, replaced: "", replacesOriginal: false }, changes || {});
 }
 
 function recorded(files, items) {
@@ -47,7 +47,7 @@ test("saysWhatWasPlannedAndWhatIsDone", () => {
     world.record.placed(0, "/out/a.jpg", 5);
     const read = recordFrom(world.records.text);
     equal([read.head, read.items.length, read.items[2].reason], [HEAD, 3, "x"]);
-    equal(read.items[0].of, "/p/a.jpg");
+    equal([read.items[0].of, read.items[0].remarks], ["/p/a.jpg", ["small"]]);
     const done = doneResults(read, files);
     equal(Object.keys(done), ["0"]);
     equal(done[0], { status: "OK", reason: "", name: "a.jpg", path: "/out/a.jpg", folder: "/out", bytes: 5, width: 20,
