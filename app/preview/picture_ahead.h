@@ -32,7 +32,7 @@ struct ShownRoom
 
 /**
  * Pictures on their way to the screen: the one that is to be shown now, and those that will be shown soon or were a moment ago. Workers
- * make them. A few are kept as long as pictures are asked for, else the last one only. A file that changed meanwhile is read anew.
+ * make them. A few are kept as long as pictures are asked for, else the last one only. A file that changed meanwhile is read again.
  */
 class PictureAhead : public QObject
 {

@@ -6819,7 +6819,7 @@
         <translation>Skalieren</translation>
     </message>
     <message>
-        <source>By a side, per cent, megapixels, or into a box</source>
+        <source>By a side, a percentage, megapixels, or into a box</source>
         <translation>Nach Seite, Prozent, Megapixel oder in einen Rahmen</translation>
     </message>
     <message>

@@ -6819,7 +6819,7 @@
         <translation>Redimensionner</translation>
     </message>
     <message>
-        <source>By a side, per cent, megapixels, or into a box</source>
+        <source>By a side, a percentage, megapixels, or into a box</source>
         <translation>Selon un côté, un pourcentage, des mégapixels ou un cadre</translation>
     </message>
     <message>

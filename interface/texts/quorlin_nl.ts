@@ -6819,7 +6819,7 @@
         <translation>Schalen</translation>
     </message>
     <message>
-        <source>By a side, per cent, megapixels, or into a box</source>
+        <source>By a side, a percentage, megapixels, or into a box</source>
         <translation>Op zijde, procent, megapixels of in een kader</translation>
     </message>
     <message>

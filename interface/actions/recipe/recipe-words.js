@@ -13,7 +13,7 @@ export function operationWords() {
     return {
         resize: {
             title: qsTr("Resize"),
-            explanation: qsTr("By a side, per cent, megapixels, or into a box"),
+            explanation: qsTr("By a side, a percentage, megapixels, or into a box"),
             words: qsTr("scale small large pixels size")
         },
         crop: {
