@@ -25,15 +25,15 @@ function cutOf(file) {
     return images.cropImage(file, 3000, 2250, folder + "/", "public.jpeg", "9");
 }
 
-const deeds = {
+const edits = {
     f: cutOf,
     h: file => images.roundCornersOfImage(file, folder + "/", 200, "0", "0"),
     frame: frameOf,
 };
-if (!deeds[task] || !folder)
+if (!edits[task] || !folder)
     throw new TypeError("Expected a task (f, h or frame), a folder and files but received: " + scriptArguments.join(" "));
 for (const file of files) {
-    const status = deeds[task](file);
+    const status = edits[task](file);
     if (status !== "OK")
         throw new Error(file + ": " + status);
 }

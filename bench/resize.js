@@ -9,15 +9,15 @@ const FILL = 1;
 const [task, folder, ...files] = scriptArguments;
 const images = new ZtImageHandling();
 
-const deeds = {
+const edits = {
     a: file => images.resizeImage(file, 1000, LONGEST_SIDE, folder + "/", "public.jpeg", "8"),
     b: file => images.resizeImage(file, 50, PER_CENT, folder + "/", "public.jpeg", "8"),
     c: file => images.resizeImage2(file, 1000, 1000, FILL, folder + "/", "public.jpeg", "8"),
 };
-if (!deeds[task] || !folder)
+if (!edits[task] || !folder)
     throw new TypeError("Expected a task (a, b or c), a folder and files but received: " + scriptArguments.join(" "));
 for (const file of files) {
-    const status = deeds[task](file);
+    const status = edits[task](file);
     if (status !== "OK")
         throw new Error(file + ": " + status);
 }

@@ -6,15 +6,15 @@ import { ZtImageHandling } from "quorlin";
 const [task, folder, ...files] = scriptArguments;
 const images = new ZtImageHandling();
 
-const deeds = {
+const edits = {
     d90: file => images.hRotatePicture(file, folder + "/", 90),
     d7: file => images.hRotatePicture(file, folder + "/", 7.5),
     e: file => images.hFlipHorizontalPicture(file, folder + "/"),
 };
-if (!deeds[task] || !folder)
+if (!edits[task] || !folder)
     throw new TypeError("Expected a task (d90, d7 or e), a folder and files but received: " + scriptArguments.join(" "));
 for (const file of files) {
-    const status = deeds[task](file);
+    const status = edits[task](file);
     if (status !== "OK")
         throw new Error(file + ": " + status);
 }

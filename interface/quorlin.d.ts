@@ -1671,7 +1671,7 @@ declare module "quorlin/shell" {
 
     interface PreviewResult {
         /** What is done to the picture: {do: "recipe" | "lay" | "flatten", ...}. */
-        deeds: any[];
+        edits: any[];
         /** Pixels of the result. */
         width: whole;
         height: whole;
@@ -2016,10 +2016,10 @@ declare module "quorlin/shell" {
         choose(row: whole): null;
     }
 
-    /** A small picture of what deeds make of a picture. */
+    /** A small picture of what edits make of a picture. */
     export interface StepPicture extends Widget {
         /** As in PreviewResult; nothing for an empty path. */
-        showDeeds(path: text, deeds: list): null;
+        showEdits(path: text, edits: list): null;
     }
 
     /** A control by its name: which members it has says its kind. */

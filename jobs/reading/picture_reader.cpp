@@ -6,7 +6,7 @@
 #include "image/recipe/sentence.h"
 #include "image/types/output_types.h"
 #include "jobs/names.h"
-#include "jobs/reading/preview_deeds.h"
+#include "jobs/reading/preview_edits.h"
 #include "jobs/services/recipe_service.h"
 #include "platform/file/lent_file.h"
 #include "platform/foundation/memory_left.h"
@@ -283,8 +283,8 @@ ReadAnswer PictureReader::result(const Request &request)
     if (!base)
         return failedWith(base.error(), full);
     const Result<jobs::Rendition> made =
-        deedsFrom(request.value("deeds").toList(), request.recipeFiles()).and_then([&](const Deeds &deeds) {
-            return done(deeds, {*base, full}, request.facts());
+        editsFrom(request.value("edits").toList(), request.recipeFiles()).and_then([&](const Edits &edits) {
+            return done(edits, {*base, full}, request.facts());
         });
     return made ? shown(made->bitmap.toScreenImage(), made->full) : failedWith(made.error());
 }

@@ -28,7 +28,7 @@ enum class Reading {
      * {lacksMemory} whether there was not enough.
      */
     Rendition,
-    /** The same with {deeds} done to it, see preview_deeds.h. Answer: pixels, and the {width, height} of the whole result. */
+    /** The same with {edits} done to it, see preview_edits.h. Answer: pixels, and the {width, height} of the whole result. */
     Result,
     /** {properties}: see platform::ImageSource::properties(). */
     Properties,

@@ -1,6 +1,6 @@
 // Resizes every picture in many ways, as a batch does: quorlin-script corpus-batch.js OUTDIR FILE...
-// Prints one line of JSON for each deed: the source's number in the list, the folder below OUTDIR, and the answer. A new
-// file is OUTDIR/FOLDER/NUMBER-NAME.EXTENSION. The deeds are the ones of DEEDS in corpus_batch.py.
+// Prints one line of JSON for each edit: the source's number in the list, the folder below OUTDIR, and the answer. A new
+// file is OUTDIR/FOLDER/NUMBER-NAME.EXTENSION. The edits are the ones of EDITS in corpus_batch.py.
 import { ZtImageHandling } from "quorlin";
 
 const types = ["public.png", "public.tiff", "public.bmp", "com.compuserve.gif", "public.jpeg", "public.jp2"];

@@ -1,12 +1,12 @@
-// Does something with pictures in one process: quorlin-script first-picture.js OUTPREFIX (DEED FILE)...
-// DEED is one of the names below. Prints one line for each; whatever the answers are, there must be one.
+// Does something with pictures in one process: quorlin-script first-picture.js OUTPREFIX (EDIT FILE)...
+// EDIT is one of the names below. Prints one line for each; whatever the answers are, there must be one.
 import { cNSFileHandling, mMeta, Picture, ZtImageHandling } from "quorlin";
 
 const [prefix, ...rest] = scriptArguments;
 const images = new ZtImageHandling();
 const handling = new cNSFileHandling();
 const meta = new mMeta();
-const deeds = {
+const edits = {
     size: file => images.hGetPixelSize(file),
     thumbnail: file => images.resizeImage(file, 120, 2, prefix, "public.png", "8"),
     handle: file => images.hStringToCGImageRef(file) !== null,
@@ -16,5 +16,5 @@ const deeds = {
 };
 
 for (let at = 0; at + 1 < rest.length; at += 2) {
-    print(rest[at] + " " + deeds[rest[at]](rest[at + 1]));
+    print(rest[at] + " " + edits[rest[at]](rest[at + 1]));
 }

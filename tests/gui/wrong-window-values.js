@@ -43,7 +43,7 @@ const TAKEN = [
     [/^a list of texts/, [[], ["abc", "", "-"]]],
     [/^a list of objects/, [[], [form, form], [new TextField()]]],
     [/^a list/, [[], [{}], [1, "a", null], [true]]],
-    [/^a dictionary/, [{}, { title: "t", text: "u", buttons: ["v"] }, { x: 1e300, width: -1 }, { deeds: [{ do: "cut" }] }]],
+    [/^a dictionary/, [{}, { title: "t", text: "u", buttons: ["v"] }, { x: 1e300, width: -1 }, { edits: [{ do: "cut" }] }]],
     [/^a Form/, [form, null]],
     [/^a LogTable/, [null]],
     [/^a function/, [null, () => {}, thrower]],

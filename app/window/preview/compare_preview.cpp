@@ -5,7 +5,7 @@
 #include "app/window/preview/preview_paint.h"
 
 #include "jobs/names.h"
-#include "jobs/reading/preview_deeds.h"
+#include "jobs/reading/preview_edits.h"
 #include "jobs/services/recipe_service.h"
 #include "platform/foundation/raised.h"
 #include "platform/values/fields.h"
@@ -105,18 +105,18 @@ void ComparePreview::reload()
 void ComparePreview::showResult(const QVariantMap &result)
 {
     const platform::Fields fields(result, QStringLiteral("result"),
-                                  {QStringLiteral("deeds"), QStringLiteral("width"), QStringLiteral("height"),
+                                  {QStringLiteral("edits"), QStringLiteral("width"), QStringLiteral("height"),
                                    QStringLiteral("type"), QStringLiteral("quality"), QStringLiteral("message"),
                                    QStringLiteral("recipe"), QStringLiteral("bytes")});
     image::RecipeFiles named;
     named.folder = QStringLiteral("/");
     named.areOpened = false;
-    const auto deeds = jobs::deedsFrom(fields.list("deeds"), named);
-    if (!deeds)
-        throw platform::Raised::typeError(deeds.error().message);
+    const auto edits = jobs::editsFrom(fields.list("edits"), named);
+    if (!edits)
+        throw platform::Raised::typeError(edits.error().message);
     const QSize size(fields.whole("width", 0), fields.whole("height", 0));
-    m_wanted = {fields.list("deeds"),
-                jobs::filesOf(*deeds),
+    m_wanted = {fields.list("edits"),
+                jobs::filesOf(*edits),
                 result.value(QStringLiteral("recipe")).toMap(),
                 size,
                 fields.text("message"),
@@ -310,7 +310,7 @@ void ComparePreview::askForResult()
     values.insert(QStringLiteral("roomWidth"), shown.size.width());
     values.insert(QStringLiteral("roomHeight"), shown.size.height());
     values.insert(QStringLiteral("covers"), shown.isCovered);
-    values.insert(QStringLiteral("deeds"), m_wanted.deeds);
+    values.insert(QStringLiteral("edits"), m_wanted.edits);
     m_resultReader.ask({jobs::Reading::Result, m_path, values, m_wanted.files}, jobs::Urgency::Now,
                        [this](const jobs::ReadResult &result) { takeResult(result); });
 }

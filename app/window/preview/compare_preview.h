@@ -59,9 +59,9 @@ public:
     /**
      * What the result half shows.
      *
-     * @param result  {deeds: list, see preview_deeds.h; width, height: pixels of the result; type: its type identifier;
+     * @param result  {edits: list, see preview_edits.h; width, height: pixels of the result; type: its type identifier;
      *                quality: quality code, "" where the action has none; recipe: that makes the file, without one it is a conversion;
-     *                bytes: not looked at; message: shown instead where width is 0}. A deed that is not known is a TypeError.
+     *                bytes: not looked at; message: shown instead where width is 0}. An edit that is not known is a TypeError.
      */
     Q_INVOKABLE void showResult(const QVariantMap &result);
     Q_INVOKABLE void setTitles(const QString &original, const QString &result);
@@ -110,8 +110,8 @@ private:
     /** What was asked for last. */
     struct Wanted
     {
-        QVariantList deeds;
-        QStringList files; ///< that the deeds name
+        QVariantList edits;
+        QStringList files; ///< that the edits name
         QVariantMap recipe;
         QSize size;
         QString message;

@@ -1,6 +1,6 @@
 #include "app/window/preview/step_picture.h"
 
-#include "jobs/reading/preview_deeds.h"
+#include "jobs/reading/preview_edits.h"
 
 #include <QPainter>
 
@@ -10,12 +10,12 @@ namespace {
 
 constexpr int settlesMs = 200;
 
-/** The files that deeds name; none where they make no sense. */
-QStringList filesNamedBy(const QVariantList &deeds)
+/** The files that edits name; none where they make no sense. */
+QStringList filesNamedBy(const QVariantList &edits)
 {
     image::RecipeFiles named = {QStringLiteral("/")};
     named.areOpened = false;
-    const auto read = jobs::deedsFrom(deeds, named);
+    const auto read = jobs::editsFrom(edits, named);
     return read ? jobs::filesOf(*read) : QStringList();
 }
 
@@ -29,12 +29,12 @@ StepPicture::StepPicture(QWidget *parent) : QWidget(parent)
     connect(&m_settled, &QTimer::timeout, this, &StepPicture::ask);
 }
 
-void StepPicture::showDeeds(const QString &path, const QVariantList &deeds)
+void StepPicture::showEdits(const QString &path, const QVariantList &edits)
 {
-    if (path == m_path && deeds == m_deeds)
+    if (path == m_path && edits == m_edits)
         return;
     m_path = path;
-    m_deeds = deeds;
+    m_edits = edits;
     m_isOld = true;
     m_reader.drop();
     if (path.isEmpty()) {
@@ -57,11 +57,11 @@ void StepPicture::showEvent(QShowEvent *event)
 void StepPicture::ask()
 {
     m_isOld = false;
-    jobs::ReadRequest request = {jobs::Reading::Result, m_path, {}, filesNamedBy(m_deeds)};
+    jobs::ReadRequest request = {jobs::Reading::Result, m_path, {}, filesNamedBy(m_edits)};
     request.values = {{QStringLiteral("roomWidth"), width() * devicePixelRatioF()},
                       {QStringLiteral("roomHeight"), height() * devicePixelRatioF()},
                       {QStringLiteral("covers"), false},
-                      {QStringLiteral("deeds"), m_deeds}};
+                      {QStringLiteral("edits"), m_edits}};
     m_reader.ask(request, jobs::Urgency::Later, [this](const jobs::ReadResult &result) {
         m_image = result.isGood() ? result.image : QImage();
         update();

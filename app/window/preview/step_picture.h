@@ -10,7 +10,7 @@
 namespace window {
 
 /**
- * A small picture of what some deeds make of a picture. It is made by a worker, when things have settled; what was shown stays until then.
+ * A small picture of what some edits make of a picture. It is made by a worker, when things have settled; what was shown stays until then.
  */
 class StepPicture : public QWidget
 {
@@ -20,10 +20,10 @@ public:
     explicit StepPicture(QWidget *parent = nullptr);
 
     /**
-     * Shows the picture at @p path with the deeds done to it, see jobs/reading/preview_deeds.h; nothing for an empty path, and for what
+     * Shows the picture at @p path with the edits done to it, see jobs/reading/preview_edits.h; nothing for an empty path, and for what
      * cannot be made.
      */
-    Q_INVOKABLE void showDeeds(const QString &path, const QVariantList &deeds);
+    Q_INVOKABLE void showEdits(const QString &path, const QVariantList &edits);
 
     /** What is shown now, in pixels of the screen; null for nothing. */
     QImage image() const { return m_image; }
@@ -39,7 +39,7 @@ private:
     void ask();
 
     QString m_path;
-    QVariantList m_deeds;
+    QVariantList m_edits;
     bool m_isOld = false; ///< what is shown is not what is wanted
     QImage m_image;
     QTimer m_settled;

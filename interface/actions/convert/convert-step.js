@@ -87,7 +87,7 @@ export function run(photo, settings, services) {
 /** What the preview does to the upright picture to show the result. bytes: where that is known without a try. */
 export function preview(photo, settings, planned) {
     const target = targetNamed(settings.target);
-    const shown = { deeds: target.alpha ? [] : [{ do: "flatten" }], width: planned.width, height: planned.height,
+    const shown = { edits: target.alpha ? [] : [{ do: "flatten" }], width: planned.width, height: planned.height,
                     type: planned.type,
                     quality: target.quality ? settings.quality : "" };
     if (settings.target === "pdf" && photo.type === "JPEG" && (photo.orientation || 1) === 1) {

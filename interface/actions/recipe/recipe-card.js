@@ -93,7 +93,7 @@ export class RecipeCard {
 
     /** Shows the picture at that path as it is behind the operations; nothing for "". */
     showPicture(path, operations) {
-        this.control("cardPicture").showDeeds(path, path === "" ? [] : [
+        this.control("cardPicture").showEdits(path, path === "" ? [] : [
             { do: "recipe", operations: operations, path: path }
         ]);
     }

@@ -56,8 +56,8 @@ export function preview(photo, settings, planned) {
     const index = shownIndex(recipe, settings);
     const output = recipe.outputs[index];
     /** @type {any[]} */
-    const deeds = [{ do: "recipe", operations: operationsFor(recipe, index), path: photo.path }];
+    const edits = [{ do: "recipe", operations: operationsFor(recipe, index), path: photo.path }];
     const quality = output.quality === undefined ? "" : String(output.quality);
-    return { deeds: madeType(planned.type).alpha ? deeds : deeds.concat([{ do: "lay", color: output.matte || WHITE }]),
+    return { edits: madeType(planned.type).alpha ? edits : edits.concat([{ do: "lay", color: output.matte || WHITE }]),
              width: planned.width, height: planned.height, type: planned.type, quality: quality };
 }

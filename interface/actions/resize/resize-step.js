@@ -91,7 +91,7 @@ export function run(photo, settings, services) {
 }
 
 /**
- * What the preview does to the upright picture to show the result: {deeds, width, height, type, quality}. Deeds are done in
+ * What the preview does to the upright picture to show the result: {edits, width, height, type, quality}. Edits are done in
  * their order, lengths are pixels of the full picture, origin top left.
  */
 export function preview(photo, settings, planned) {

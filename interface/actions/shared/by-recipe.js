@@ -88,8 +88,8 @@ export function makeBy(photo, settings, recipe, planned, services) {
 /** What the preview does to the upright picture to show the result; quality is said of types that have one. */
 export function showBy(photo, recipe, planned, quality) {
     /** @type {any[]} */
-    const deeds = [{ do: "recipe", operations: recipe.operations, path: photo.path }];
+    const edits = [{ do: "recipe", operations: recipe.operations, path: photo.path }];
     const matte = recipe.outputs[0].matte || WHITE;
-    return { deeds: madeType(planned.type).alpha ? deeds : deeds.concat([{ do: "lay", color: matte }]),
+    return { edits: madeType(planned.type).alpha ? edits : edits.concat([{ do: "lay", color: matte }]),
              width: planned.width, height: planned.height, type: planned.type, quality: quality, recipe: recipe };
 }

@@ -35,7 +35,7 @@ function resultCaption(planned, shown, bytes) {
 
 // No result, and why.
 function nothing(message) {
-    return { deeds: [], width: 0, height: 0, type: "", quality: "", message: message };
+    return { edits: [], width: 0, height: 0, type: "", quality: "", message: message };
 }
 
 export class PreviewSide {

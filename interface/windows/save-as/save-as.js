@@ -82,7 +82,7 @@ export class SaveAs {
             && (this.photo.orientation || 1) === 1;
         this.knownBytes = isPlainPage ? this.photo.bytes : -1;
         this.form.control("saveAsNote").text = targetText(target.keyword);
-        this.view.showResult({ deeds: target.alpha ? [] : [{ do: "flatten" }], width: this.photo.width,
+        this.view.showResult({ edits: target.alpha ? [] : [{ do: "flatten" }], width: this.photo.width,
                                height: this.photo.height,
                                type: target.id, quality: target.quality
                                    ? String(this.form.value("pubJPEGcompression")) : "", message: "" });

@@ -22,7 +22,7 @@ using window::CropFrameEditor;
 
 namespace {
 
-/** An operation of a recipe, as a deed. */
+/** An operation of a recipe, as an edit. */
 QVariantMap recipeOf(const QVariantMap &operation)
 {
     return {{QStringLiteral("do"), QStringLiteral("recipe")},
@@ -44,11 +44,11 @@ QVariantMap turn(double degrees)
     return recipeOf({{QStringLiteral("do"), QStringLiteral("turn")}, {QStringLiteral("degrees"), degrees}});
 }
 
-/** The recipe of one such deed, into a PNG file. */
-QVariantMap recipeFor(const QVariantMap &deed)
+/** The recipe of one such edit, into a PNG file. */
+QVariantMap recipeFor(const QVariantMap &edit)
 {
     return {{QStringLiteral("quorlin"), 1},
-            {QStringLiteral("operations"), deed.value(QStringLiteral("operations"))},
+            {QStringLiteral("operations"), edit.value(QStringLiteral("operations"))},
             {QStringLiteral("outputs"), QVariantList{QVariantMap{{QStringLiteral("type"), QStringLiteral("png")}}}}};
 }
 
@@ -57,9 +57,9 @@ void useWorkers()
     jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKER));
 }
 
-QVariantMap wanted(const QVariantList &deeds, QSize size, const char *message = "")
+QVariantMap wanted(const QVariantList &edits, QSize size, const char *message = "")
 {
-    return {{QStringLiteral("deeds"), deeds},
+    return {{QStringLiteral("edits"), edits},
             {QStringLiteral("width"), size.width()},
             {QStringLiteral("height"), size.height()},
             {QStringLiteral("message"), QString::fromLatin1(message)}};
@@ -81,7 +81,7 @@ private Q_SLOTS:
     void showsSmallPicturesPixelForPixel();
     void fillsItsHalf();
     void saysWhatIsWrong();
-    void refusesAnUnknownDeed();
+    void refusesAnUnknownEdit();
     void makesOnlyTheLastResultThatWasAskedFor();
     void laysTransparentResultsOnALightPattern();
     void showsACropAtTheScaleOfTheOriginal();
@@ -223,14 +223,14 @@ void TestPreview::saysWhatIsWrong()
     QVERIFY(m_preview->accessibleDescription().contains(QStringLiteral("the profile is not kept")));
 }
 
-void TestPreview::refusesAnUnknownDeed()
+void TestPreview::refusesAnUnknownEdit()
 {
     const QJSValue error = value(QStringLiteral(
-        "(() => { try { preview.showResult({ deeds: [{ do: 'melt' }], width: 1, height: 1 }); return 'none'; }"
+        "(() => { try { preview.showResult({ edits: [{ do: 'melt' }], width: 1, height: 1 }); return 'none'; }"
         "catch (e) { return e.name + ': ' + e.message; } })()"));
-    QCOMPARE(error.toString(), QStringLiteral("TypeError: Expected a deed of the preview but received \"melt\""));
+    QCOMPARE(error.toString(), QStringLiteral("TypeError: Expected an edit of the preview but received \"melt\""));
     const QJSValue fine = value(QStringLiteral(
-        "preview.showResult({ deeds: [{ do: 'recipe', path: '/a.png', operations: [{ do: 'turn', degrees: 90 }] }, "
+        "preview.showResult({ edits: [{ do: 'recipe', path: '/a.png', operations: [{ do: 'turn', degrees: 90 }] }, "
         "{ do: 'lay', color: '#ffffff' }, { do: 'flatten' }], width: 9, height: 9, type: 'public.png', quality: '', "
         "recipe: { quorlin: 1 }, message: '' })"));
     QVERIFY2(!fine.isError(), qPrintable(fine.toString()));

@@ -125,8 +125,8 @@ test("saysWhatASourceIs", () => {
 test("showsWhatTransparencyBecomesAndTheSizeOfAPageWithAJpeg", () => {
     const shown = (picture, target) =>
         convert.preview(picture, settings(target), convert.plan(picture, settings(target)));
-    equal(shown(source("a.png", "PNG"), "jpeg").deeds, [{ do: "flatten" }]);
-    equal(shown(source("a.png", "PNG"), "png").deeds, []);
+    equal(shown(source("a.png", "PNG"), "jpeg").edits, [{ do: "flatten" }]);
+    equal(shown(source("a.png", "PNG"), "png").edits, []);
     equal([shown(source("a.jpg"), "jpeg").quality, shown(source("a.jpg"), "png").quality], ["8", ""]);
     equal([shown(source("a.jpg"), "pdf").bytes, shown(source("a.png", "PNG"), "pdf").bytes], [1000, undefined]);
 });

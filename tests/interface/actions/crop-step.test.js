@@ -118,7 +118,7 @@ test("showsWhatIsMade", () => {
     const settings = settingsOf(crop, { mode: "percent", percent: 25 });
     const services = recipeServices();
     const shown = crop.preview(picture, settings, crop.plan(picture, settings, services), services);
-    equal(shown.deeds, [{ do: "recipe", operations: [operation({ mode: "percent", percent: 25 })], path: "/p/a.JPG" },
+    equal(shown.edits, [{ do: "recipe", operations: [operation({ mode: "percent", percent: 25 })], path: "/p/a.JPG" },
                         { do: "lay", color: "#ffffff" }]);
     equal([shown.type, shown.quality], ["public.jpeg", "9"]);
 });

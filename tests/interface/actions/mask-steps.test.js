@@ -89,11 +89,11 @@ for (const row of VALID) {
 }
 
 test("showsWhatIsMade", () => {
-    const shown = (step, type) => step.preview(clear, settingsOf(step, {}), { type: type, width: 4, height: 3 }).deeds;
+    const shown = (step, type) => step.preview(clear, settingsOf(step, {}), { type: type, width: 4, height: 3 }).edits;
     for (const step of [round, background]) {
-        const deed = { do: "recipe", operations: step.recipe(settingsOf(step, {})).operations, path: "/p/a.png" };
+        const edit = { do: "recipe", operations: step.recipe(settingsOf(step, {})).operations, path: "/p/a.png" };
         equal([shown(step, "public.png"), shown(step, "public.jpeg")],
-              [[deed], [deed, { do: "lay", color: "#ffffff" }]]);
+              [[edit], [edit, { do: "lay", color: "#ffffff" }]]);
     }
 });
 

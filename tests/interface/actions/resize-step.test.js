@@ -134,12 +134,12 @@ test("wantsAFolderWhereOneIsToBeChosen", () => {
 
 test("showsWhatIsMade", () => {
     const shown = (type) => resize.preview(lake, settings({}), { width: 400, height: 300, type: type });
-    const deed = { do: "recipe", operations: recipe({}).operations, path: "/p/lake.JPG" };
-    equal(shown("public.png").deeds, [deed]);
-    equal(shown("public.jpeg").deeds, [deed, { do: "lay", color: "#ffffff" }]);
+    const edit = { do: "recipe", operations: recipe({}).operations, path: "/p/lake.JPG" };
+    equal(shown("public.png").edits, [edit]);
+    equal(shown("public.jpeg").edits, [edit, { do: "lay", color: "#ffffff" }]);
     const onBlue = resize.preview(lake, settings({}, { matte: "#0000ff" }),
                                   { width: 4, height: 3, type: "public.jpeg" });
-    equal(onBlue.deeds[1], { do: "lay", color: "#0000ff" });
+    equal(onBlue.edits[1], { do: "lay", color: "#0000ff" });
     equal([shown("public.jpeg").width, shown("public.jpeg").height, shown("public.jpeg").quality], [400, 300, "8"]);
 });
 

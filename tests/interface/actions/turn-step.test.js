@@ -49,7 +49,7 @@ for (const row of VALID) {
 test("showsWhatIsMade", () => {
     const settings = settingsOf(turn, { angle: -7.5, flipHorizontal: true });
     equal(turn.preview(source("a.png", 100, 100, 6), settings, { type: "public.png", width: 4, height: 3 }),
-          { deeds: [{ do: "recipe", operations: operations({ angle: -7.5, flipHorizontal: true }), path: "/p/a.png" }],
+          { edits: [{ do: "recipe", operations: operations({ angle: -7.5, flipHorizontal: true }), path: "/p/a.png" }],
             width: 4, height: 3, type: "public.png", quality: "", recipe: turn.recipe(settings) });
 });
 

@@ -85,9 +85,9 @@ test("failsWhereTheFileIsNotAsPlanned", () => {
 
 test("showsWhatIsMade", () => {
     const shown = (type) => watermark.preview(lake, settings({}), { width: 400, height: 300, type: type });
-    const deed = { do: "recipe", operations: [operation({})], path: "/p/lake.JPG" };
-    equal(shown("public.png").deeds, [deed]);
-    equal(shown("public.jpeg").deeds, [deed, { do: "lay", color: "#ffffff" }]);
+    const edit = { do: "recipe", operations: [operation({})], path: "/p/lake.JPG" };
+    equal(shown("public.png").edits, [edit]);
+    equal(shown("public.jpeg").edits, [edit, { do: "lay", color: "#ffffff" }]);
     equal([shown("public.jpeg").width, shown("public.jpeg").height, shown("public.jpeg").quality], [400, 300, "9"]);
 });
 

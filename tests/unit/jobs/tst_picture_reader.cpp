@@ -1,4 +1,4 @@
-#include "jobs/reading/preview_deeds.h"
+#include "jobs/reading/preview_edits.h"
 #include "jobs/reading/reading_messages.h"
 #include "jobs/services/recipe_service.h"
 #include "platform/descriptors/shared_image.h"
@@ -224,7 +224,7 @@ void TestPictureReader::makesResults()
 {
     ScratchFolder folder;
     const QString path = saved(folder, "Lake.png", halves({120, 80}));
-    const QVariantList deeds = {QVariantMap{
+    const QVariantList edits = {QVariantMap{
         {QStringLiteral("do"), QStringLiteral("recipe")},
         {QStringLiteral("path"), path},
         {QStringLiteral("operations"),
@@ -233,7 +233,7 @@ void TestPictureReader::makesResults()
                                   {QStringLiteral("size"), 30}},
                       QVariantMap{{QStringLiteral("do"), QStringLiteral("turn")}, {QStringLiteral("degrees"), 90}}}}}};
     QVariantMap values = room(60, 60);
-    values.insert(QStringLiteral("deeds"), deeds);
+    values.insert(QStringLiteral("edits"), edits);
     values.insert(QStringLiteral("created"), QStringLiteral("2026-08-14T10:20:30"));
     Asked asked;
     const Answer answer = asked.ask(Reading::Result, path, values);
@@ -246,7 +246,7 @@ void TestPictureReader::makesResults()
     facts.path = path;
     facts.type = QStringLiteral("PNG");
     facts.created = QStringLiteral("2026-08-14T10:20:30");
-    const auto expected = done(deedsFrom(deeds).value(), {source->decodeScaled({60, 40}).value(), {120, 80}}, facts);
+    const auto expected = done(editsFrom(edits).value(), {source->decodeScaled({60, 40}).value(), {120, 80}}, facts);
     QCOMPARE(answer.image, expected->bitmap.toScreenImage().convertToFormat(answer.image.format()));
 }
 
@@ -260,7 +260,7 @@ void TestPictureReader::usesFilesThatComeAlong()
                                    {QStringLiteral("opacity"), 100}};
     const QVariantMap made = recipe(operation, jpegOutput());
     QVariantMap values = room(80, 60);
-    values.insert(QStringLiteral("deeds"),
+    values.insert(QStringLiteral("edits"),
                   QVariantList{QVariantMap{{QStringLiteral("do"), QStringLiteral("recipe")},
                                            {QStringLiteral("path"), path},
                                            {QStringLiteral("operations"), made.value(QStringLiteral("operations"))}}});

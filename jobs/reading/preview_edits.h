@@ -13,41 +13,41 @@
 
 /**
  * What an action does to a picture, done to a small rendition of it by the code that makes the files. Lengths are pixels of the picture
- * as it is at that deed, full size, upright, origin top left.
+ * as it is at that edit, full size, upright, origin top left.
  */
 namespace jobs {
 
-struct LayDeed
+struct LayEdit
 {
     QColor color;
 };
 
 /** Transparency laid on black, as files get it that cannot hold it. */
-struct FlattenDeed
+struct FlattenEdit
 {
 };
 
 /** Operations of a recipe. */
-struct RecipeDeed
+struct RecipeEdit
 {
     QList<image::RecipeStep> steps;
     QString path;      ///< of the picture, for the tokens in texts
     QStringList files; ///< that the operations name
 };
 
-using Deed = std::variant<LayDeed, FlattenDeed, RecipeDeed>;
-using Deeds = std::vector<Deed>;
+using Edit = std::variant<LayEdit, FlattenEdit, RecipeEdit>;
+using Edits = std::vector<Edit>;
 
 /**
- * The deeds of a list of dictionaries {do, ...}: "lay" color · "flatten" · "recipe" operations (as in the file of a recipe), path.
+ * The edits of a list of dictionaries {do, ...}: "lay" color · "flatten" · "recipe" operations (as in the file of a recipe), path.
  * Fails with InvalidValue for anything else, also for operations that a recipe would be refused for.
  *
  * @param files  where the pictures come from that operations name
  */
-platform::Result<Deeds> deedsFrom(const QVariantList &list, const image::RecipeFiles &files = {QStringLiteral("/")});
+platform::Result<Edits> editsFrom(const QVariantList &list, const image::RecipeFiles &files = {QStringLiteral("/")});
 
-/** The paths of the files that the deeds name, each once. */
-QStringList filesOf(const Deeds &deeds);
+/** The paths of the files that the edits name, each once. */
+QStringList filesOf(const Edits &edits);
 
 /** A picture, and a rendition of it with fewer pixels or the same. */
 struct Rendition
@@ -60,10 +60,10 @@ struct Rendition
 };
 
 /**
- * Does one deed after the other. Fails where nothing of the picture is left, or as the deeds themselves do.
+ * Does one edit after the other. Fails where nothing of the picture is left, or as the edits themselves do.
  *
  * @param facts  of the picture, for the tokens in texts
  */
-platform::Result<Rendition> done(const Deeds &deeds, const Rendition &start, const text::TokenFacts &facts);
+platform::Result<Rendition> done(const Edits &edits, const Rendition &start, const text::TokenFacts &facts);
 
 } // namespace jobs

@@ -1,6 +1,6 @@
 #include "image/overlay.h"
 #include "image/recipe/render.h"
-#include "jobs/reading/preview_deeds.h"
+#include "jobs/reading/preview_edits.h"
 #include "platform/graphics/resample.h"
 #include "tests/support/test_program.h"
 
@@ -11,7 +11,7 @@ using platform::Bitmap;
 
 namespace {
 
-QVariantMap deed(const char *name, const QVariantMap &values = {})
+QVariantMap edit(const char *name, const QVariantMap &values = {})
 {
     QVariantMap map = values;
     map.insert(QStringLiteral("do"), QString::fromLatin1(name));
@@ -25,13 +25,13 @@ QVariantMap one(const char *name, const QVariant &value)
 
 QVariantMap recipe(const QVariantList &operations)
 {
-    return deed("recipe", {{QStringLiteral("operations"), operations},
+    return edit("recipe", {{QStringLiteral("operations"), operations},
                            {QStringLiteral("path"), QStringLiteral("/pictures/Lake.png")}});
 }
 
 QVariantMap mark(const char *text)
 {
-    return deed("watermark", {{QStringLiteral("text"), QString::fromLatin1(text)},
+    return edit("watermark", {{QStringLiteral("text"), QString::fromLatin1(text)},
                               {QStringLiteral("size"), 20},
                               {QStringLiteral("color"), QStringLiteral("#000000")},
                               {QStringLiteral("opacity"), 100}});
@@ -60,10 +60,10 @@ text::TokenFacts lake()
 
 Rendition made(const QVariantList &list, const Rendition &start)
 {
-    const auto deeds = jobs::deedsFrom(list);
-    if (!deeds)
-        qFatal("%s", qPrintable(deeds.error().message));
-    const auto result = jobs::done(*deeds, start, lake());
+    const auto edits = jobs::editsFrom(list);
+    if (!edits)
+        qFatal("%s", qPrintable(edits.error().message));
+    const auto result = jobs::done(*edits, start, lake());
     if (!result)
         qFatal("%s", qPrintable(result.error().message));
     return *result;
@@ -86,69 +86,69 @@ QImage quarters(int width, int height, int alpha = 255)
 
 } // namespace
 
-/** The deeds of the preview against the functions that write the files. */
-class TestPreviewDeeds : public QObject
+/** The edits of the preview against the functions that write the files. */
+class TestPreviewEdits : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void refusesWhatIsNoDeed_data();
-    void refusesWhatIsNoDeed();
+    void refusesWhatIsNoEdit_data();
+    void refusesWhatIsNoEdit();
     void doesAtFullSizeWhatTheOperationsDo_data();
     void doesAtFullSizeWhatTheOperationsDo();
     void doesARecipeAsTheFileIsMade();
     void doesARecipeWithFewerPixels();
 };
 
-void TestPreviewDeeds::refusesWhatIsNoDeed_data()
+void TestPreviewEdits::refusesWhatIsNoEdit_data()
 {
     QTest::addColumn<QVariant>("entry");
     QTest::newRow("no dictionary") << QVariant(3);
     QTest::newRow("no name") << QVariant(QVariantMap());
-    QTest::newRow("another name") << QVariant(deed("sharpen"));
-    QTest::newRow("no colour") << QVariant(deed("lay", one("color", QStringLiteral("#12"))));
-    QTest::newRow("no operations") << QVariant(deed("recipe", one("path", QStringLiteral("/a.png"))));
+    QTest::newRow("another name") << QVariant(edit("sharpen"));
+    QTest::newRow("no colour") << QVariant(edit("lay", one("color", QStringLiteral("#12"))));
+    QTest::newRow("no operations") << QVariant(edit("recipe", one("path", QStringLiteral("/a.png"))));
     QTest::newRow("operations as text") << QVariant(
-        deed("recipe", {{QStringLiteral("path"), QStringLiteral("/a.png")},
+        edit("recipe", {{QStringLiteral("path"), QStringLiteral("/a.png")},
                         {QStringLiteral("operations"), QStringLiteral("x")}}));
-    QTest::newRow("a recipe for no picture") << QVariant(deed("recipe", one("operations", QVariantList())));
-    QTest::newRow("an operation that recipes refuse") << QVariant(recipe({deed("watermark")}));
+    QTest::newRow("a recipe for no picture") << QVariant(edit("recipe", one("operations", QVariantList())));
+    QTest::newRow("an operation that recipes refuse") << QVariant(recipe({edit("watermark")}));
     QTest::newRow("a font that is not there")
-        << QVariant(recipe({deed("watermark", {{QStringLiteral("text"), QStringLiteral("x")},
+        << QVariant(recipe({edit("watermark", {{QStringLiteral("text"), QStringLiteral("x")},
                                                {QStringLiteral("font"), QStringLiteral("No Such Font")}})}));
 }
 
-void TestPreviewDeeds::refusesWhatIsNoDeed()
+void TestPreviewEdits::refusesWhatIsNoEdit()
 {
     QFETCH(QVariant, entry);
-    const auto deeds = jobs::deedsFrom({deed("flatten"), entry});
-    QVERIFY(!deeds);
-    QVERIFY(!deeds.error().message.isEmpty());
+    const auto edits = jobs::editsFrom({edit("flatten"), entry});
+    QVERIFY(!edits);
+    QVERIFY(!edits.error().message.isEmpty());
 }
 
-void TestPreviewDeeds::doesAtFullSizeWhatTheOperationsDo_data()
+void TestPreviewEdits::doesAtFullSizeWhatTheOperationsDo_data()
 {
-    QTest::addColumn<QVariantList>("deeds");
+    QTest::addColumn<QVariantList>("edits");
     QTest::addColumn<QImage>("expected");
     const Bitmap start = Bitmap::fromImage(quarters(60, 40, 200));
     const auto row = [](const char *name, const QVariantMap &entry, const platform::Result<Bitmap> &bitmap) {
         QTest::newRow(name) << QVariantList{entry} << bitmap.value().toRawImage();
     };
-    row("lay", deed("lay", one("color", QStringLiteral("#102030"))),
+    row("lay", edit("lay", one("color", QStringLiteral("#102030"))),
         image::laidOnColor(start, QColor(0x10, 0x20, 0x30)));
-    row("flatten", deed("flatten"), image::laidOnColor(start, Qt::black));
+    row("flatten", edit("flatten"), image::laidOnColor(start, Qt::black));
 }
 
-void TestPreviewDeeds::doesAtFullSizeWhatTheOperationsDo()
+void TestPreviewEdits::doesAtFullSizeWhatTheOperationsDo()
 {
-    QFETCH(QVariantList, deeds);
+    QFETCH(QVariantList, edits);
     QFETCH(QImage, expected);
-    const Rendition result = made(deeds, whole(quarters(60, 40, 200)));
+    const Rendition result = made(edits, whole(quarters(60, 40, 200)));
     QCOMPARE(result.full, expected.size());
     QCOMPARE(result.bitmap.toRawImage(), expected);
 }
 
-void TestPreviewDeeds::doesARecipeAsTheFileIsMade()
+void TestPreviewEdits::doesARecipeAsTheFileIsMade()
 {
     const Rendition start = whole(quarters(120, 80));
     image::WatermarkOperation operation;
@@ -163,11 +163,11 @@ void TestPreviewDeeds::doesARecipeAsTheFileIsMade()
     // A token stands for what the picture at the path has.
     QCOMPARE(made({recipe({mark("{name}")})}, start).bitmap.toRawImage(), expected->bitmap.toRawImage());
     QVERIFY(made({recipe({mark("{extension}")})}, start).bitmap.toRawImage() != expected->bitmap.toRawImage());
-    const Rendition sized = made({recipe({deed("resize", one("longest", 60))}), deed("flatten")}, start);
+    const Rendition sized = made({recipe({edit("resize", one("longest", 60))}), edit("flatten")}, start);
     QCOMPARE(sized.full, QSize(60, 40));
 }
 
-void TestPreviewDeeds::doesARecipeWithFewerPixels()
+void TestPreviewEdits::doesARecipeWithFewerPixels()
 {
     const Rendition start = small(quarters(1200, 800), 4);
     const Rendition result = made({recipe({mark("{width}")})}, start);
@@ -178,5 +178,5 @@ void TestPreviewDeeds::doesARecipeWithFewerPixels()
     QVERIFY(result.bitmap.toRawImage() != start.bitmap.toRawImage());
 }
 
-QUORLIN_TEST(TestPreviewDeeds)
-#include "tst_preview_deeds.moc"
+QUORLIN_TEST(TestPreviewEdits)
+#include "tst_preview_edits.moc"

@@ -1,4 +1,4 @@
-#include "jobs/reading/preview_deeds.h"
+#include "jobs/reading/preview_edits.h"
 
 #include "image/overlay.h"
 #include "image/recipe/render.h"
@@ -23,7 +23,7 @@ tl::unexpected<platform::Error> refused(const QString &message)
     return platform::failure(ErrorCode::InvalidValue, message);
 }
 
-/** The values of one deed, and the first that is not what it should be. */
+/** The values of one edit, and the first that is not what it should be. */
 class Values
 {
 public:
@@ -59,7 +59,7 @@ public:
     {
         if (m_problem.isEmpty())
             m_problem =
-                QStringLiteral("Expected %1 for %2 of the deed %3")
+                QStringLiteral("Expected %1 for %2 of the edit %3")
                     .arg(QLatin1String(expected), QLatin1String(name), m_map.value(QStringLiteral("do")).toString());
     }
     void refuse(const QString &sentence)
@@ -74,7 +74,7 @@ private:
     QString m_problem;
 };
 
-Deed recipeDeed(Values &values, const image::RecipeFiles &files)
+Edit recipeEdit(Values &values, const image::RecipeFiles &files)
 {
     const QJsonObject recipe = {{QStringLiteral("quorlin"), image::recipeVersion},
                                 {QStringLiteral("operations"), QJsonArray::fromVariantList(values.list("operations"))},
@@ -82,20 +82,20 @@ Deed recipeDeed(Values &values, const image::RecipeFiles &files)
     const Result<image::Recipe> read = image::readRecipe(QJsonDocument(recipe).toJson(), files);
     if (!read) {
         values.refuse(read.error().message);
-        return RecipeDeed();
+        return RecipeEdit();
     }
-    return RecipeDeed{read->operations, values.text("path"), image::filesOf(*read)};
+    return RecipeEdit{read->operations, values.text("path"), image::filesOf(*read)};
 }
 
-using Reader = std::function<Deed(Values &, const image::RecipeFiles &)>;
+using Reader = std::function<Edit(Values &, const image::RecipeFiles &)>;
 
 const QHash<QString, Reader> &readers()
 {
     static const QHash<QString, Reader> all = {
         {QStringLiteral("lay"),
-         [](Values &values, const image::RecipeFiles &) -> Deed { return LayDeed{values.color("color")}; }},
-        {QStringLiteral("flatten"), [](Values &, const image::RecipeFiles &) -> Deed { return FlattenDeed{}; }},
-        {QStringLiteral("recipe"), recipeDeed},
+         [](Values &values, const image::RecipeFiles &) -> Edit { return LayEdit{values.color("color")}; }},
+        {QStringLiteral("flatten"), [](Values &, const image::RecipeFiles &) -> Edit { return FlattenEdit{}; }},
+        {QStringLiteral("recipe"), recipeEdit},
     };
     return all;
 }
@@ -105,63 +105,63 @@ Result<Rendition> with(const Result<Bitmap> &bitmap, QSize full)
     return bitmap.map([full](const Bitmap &made) { return Rendition{made, full}; });
 }
 
-Result<Rendition> doneOne(const LayDeed &deed, const Rendition &start, const text::TokenFacts &)
+Result<Rendition> doneOne(const LayEdit &edit, const Rendition &start, const text::TokenFacts &)
 {
-    return with(image::laidOnColor(start.bitmap, deed.color), start.full);
+    return with(image::laidOnColor(start.bitmap, edit.color), start.full);
 }
 
-Result<Rendition> doneOne(const FlattenDeed &, const Rendition &start, const text::TokenFacts &)
+Result<Rendition> doneOne(const FlattenEdit &, const Rendition &start, const text::TokenFacts &)
 {
     return with(start.bitmap.hasAlpha() ? image::laidOnColor(start.bitmap, Qt::black) : Result<Bitmap>(start.bitmap),
                 start.full);
 }
 
-Result<Rendition> doneOne(const RecipeDeed &deed, const Rendition &start, const text::TokenFacts &facts)
+Result<Rendition> doneOne(const RecipeEdit &edit, const Rendition &start, const text::TokenFacts &facts)
 {
     image::Rendition known = {start.bitmap, image::stageOf(start.bitmap)};
     known.stage.size = start.full;
     const image::FillText fill = [&facts](const QString &pattern, QSize size) {
         return watermarkFrom(pattern, facts, size);
     };
-    return image::rendered(deed.steps, known, fill).map([](const image::Rendition &made) {
+    return image::rendered(edit.steps, known, fill).map([](const image::Rendition &made) {
         return Rendition{made.bitmap, made.stage.size};
     });
 }
 
 } // namespace
 
-Result<Deeds> deedsFrom(const QVariantList &list, const image::RecipeFiles &files)
+Result<Edits> editsFrom(const QVariantList &list, const image::RecipeFiles &files)
 {
-    Deeds deeds;
+    Edits edits;
     for (const QVariant &entry : list) {
         const QVariantMap map = entry.toMap();
         const QString name = map.value(QStringLiteral("do")).toString();
         const Reader reader = readers().value(name);
         if (!reader)
-            return refused(QStringLiteral("Expected a deed of the preview but received \"%1\"").arg(name));
+            return refused(QStringLiteral("Expected an edit of the preview but received \"%1\"").arg(name));
         Values values(map);
-        deeds.push_back(reader(values, files));
+        edits.push_back(reader(values, files));
         if (!values.problem().isEmpty())
             return refused(values.problem());
     }
-    return deeds;
+    return edits;
 }
 
-QStringList filesOf(const Deeds &deeds)
+QStringList filesOf(const Edits &edits)
 {
     QStringList files;
-    for (const Deed &deed : deeds)
-        if (const auto *recipe = std::get_if<RecipeDeed>(&deed))
+    for (const Edit &edit : edits)
+        if (const auto *recipe = std::get_if<RecipeEdit>(&edit))
             files += recipe->files;
     files.removeDuplicates();
     return files;
 }
 
-Result<Rendition> done(const Deeds &deeds, const Rendition &start, const text::TokenFacts &facts)
+Result<Rendition> done(const Edits &edits, const Rendition &start, const text::TokenFacts &facts)
 {
     Result<Rendition> present = start;
-    for (const Deed &deed : deeds) {
-        present = std::visit([&](const auto &one) { return doneOne(one, *present, facts); }, deed);
+    for (const Edit &edit : edits) {
+        present = std::visit([&](const auto &one) { return doneOne(one, *present, facts); }, edit);
         if (!present)
             break;
     }
