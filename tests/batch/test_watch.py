@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """test_watch.py PROGRAM: --watch takes what comes, leaves what was there and what it makes, and stops in order."""
+import contextlib
 import json
 import os
+import pathlib
 import shutil
 import signal
 import subprocess
@@ -38,10 +40,16 @@ class Watching(BatchTest):
         self.until(lambda: self.path("report").exists() and (begun == 0 or "--resume" in arguments or
                                                              self.path("report").stat().st_mtime_ns != begun))
         if "--resume" in arguments:
-            self.until(lambda: os.path.exists(f"/proc/{process.pid}/fd") and any(
-                os.readlink(f"/proc/{process.pid}/fd/{name}").endswith("/report")
-                for name in os.listdir(f"/proc/{process.pid}/fd")))
+            self.until(lambda: self.has_open("report"))
         return process
+
+    def has_open(self, name):
+        """Whether the program holds this file now; it opens and closes others while one looks."""
+        for descriptor in pathlib.Path(f"/proc/{self.process.pid}/fd").glob("*"):
+            with contextlib.suppress(FileNotFoundError):
+                if os.readlink(descriptor) == os.path.realpath(self.path(name)):
+                    return True
+        return False
 
     def until(self, happens, seconds=30):
         end = time.monotonic() + seconds
