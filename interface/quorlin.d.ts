@@ -1409,6 +1409,7 @@ declare module "quorlin/shell" {
 
     export const shell: {
         readonly theme: Theme | null;
+        readonly desktop: DesktopSigns | null;
         readonly version: string;
         /** Files and folders that the program was started with. */
         readonly arguments: string[];
@@ -1523,6 +1524,15 @@ declare module "quorlin/shell" {
         /** "light", "dark" or "system"; kept for the next start. */
         choose(name: text): null;
         choice(): string;
+    }
+
+    /** What the desktop is told of a job. */
+    export class DesktopSigns {
+        private constructor();
+        /** It is under way: the machine stays awake, and the task bar shows how far it is (0 to 100; -1 where nobody knows). */
+        jobGoesOn(title: text, percent: whole): null;
+        /** It is over; the summary is told where no window is in front. Empty: nothing is told. */
+        jobEnded(title: text, summary: text): null;
     }
 
     /** A window on which sheets are opened. */

@@ -30,6 +30,7 @@ std::vector<ServiceEntry> windowServices()
                                      script::givenEntry<JobDriver>(shellModule),
                                      script::givenEntry<ScriptTimer>(shellModule),
                                      script::givenEntry<Theme>(shellModule),
+                                     script::givenEntry<DesktopSigns>(shellModule),
                                      sheetHosts(),
                                      script::oneObject<ProgramDesk>("quorlin/program", "program")};
     const std::vector<ServiceEntry> controls = controlClasses();

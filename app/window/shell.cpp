@@ -263,6 +263,7 @@ void Shell::setMainForm(Form *form)
     m_mainFrame.reset();
     if (!window)
         return;
+    m_desktop.setWindow(window);
     m_mainFrame = std::make_unique<MainFrame>(*window);
     m_fullScreen.attach(m_mainFrame.get());
     m_fullScreen.initWithContentRect(window->geometry(), 0, 0, platform::Flag());

@@ -3,6 +3,7 @@
 #include "app/jobs/job_driver.h"
 #include "app/seam/function.h"
 #include "app/services/ZtFFullScreen.h"
+#include "app/window/desktop_signs.h"
 #include "app/window/forms/sheet_host.h"
 #include "app/window/forms/ui_form.h"
 #include "app/window/look/theme.h"
@@ -25,6 +26,7 @@ class Shell : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(window::Theme *theme READ theme CONSTANT)
+    Q_PROPERTY(window::DesktopSigns *desktop READ desktop CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QStringList arguments READ arguments CONSTANT)
     Q_PROPERTY(QString interfaceFolder READ interfaceFolder CONSTANT)
@@ -38,6 +40,8 @@ public:
     Q_DISABLE_COPY_MOVE(Shell)
 
     Theme *theme() const { return &m_theme; }
+    /** What the desktop is told of jobs. */
+    DesktopSigns *desktop() { return &m_desktop; }
     bool keepsSettings() const;
     QString version() const { return QStringLiteral(QUORLIN_VERSION); }
 
@@ -107,6 +111,7 @@ Q_SIGNALS:
 private:
     QString m_folder;
     Theme &m_theme;
+    DesktopSigns m_desktop;
     QStringList m_arguments;
     QList<QPointer<QWidget>> m_windows;
     Form *m_mainForm = nullptr;

@@ -35,8 +35,10 @@ export class CommentJob {
      */
     start(generator, action, onStep, onEnd) {
         const work = newWork(action);
+        shell.desktop.jobGoesOn(action, -1);
         this.job.start(generator, guard("comments.step", (result) => { this.take(work, result); onStep(work); }),
                        guard("comments.end", (how, value) => {
+            shell.desktop.jobEnded(action, "");
             work.cancelled = how === "cancelled";
             work.edits.reverse();
             work.problem = (how === "failed" ? String(value) : "") || work.problem || trimRows(files);

@@ -319,6 +319,7 @@ export class MoveRun extends BaseRun {
         this.window.planned = {};
         // Facts are known by path, and other files are at these paths now.
         this.window.services.facts.forget();
+        this.isComplete = how === "done";
         this.finish([this.summaryText(how)].concat(told).join(" · "));
         this.tellPane("runEnded");
         this.window.reloadPreview();

@@ -26,6 +26,8 @@ export class BaseRun {
         this.problems = 0;
         this.rows = [];
         this.paused = false;
+        /** Whether it came to its end by itself, and did more than plan. */
+        this.isComplete = false;
         this.text = "";
         this.detail = "";
         this.progress = new Progress([]);

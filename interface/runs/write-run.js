@@ -314,6 +314,7 @@ export class WriteRun extends BaseRun {
         const problem = [this.endReplacing(), this.keepLog()].filter((text) => text).join(" · ");
         const isStopped = this.flow !== null && this.flow.isStopping;
         this.flow = null;
+        this.isComplete = how === "done" && !isStopped;
         this.finish(this.summaryText(isStopped ? "cancelled" : how) + (problem ? " · " + problem : ""));
         if (this.items.some((item) => item.replacesOriginal)) {
             this.window.reloadPreview();

@@ -858,6 +858,14 @@
         <source>Add what runs of this program wrote to the list all the same</source>
         <translation>Was Läufe dieses Programms geschrieben haben, trotzdem auf die Liste setzen</translation>
     </message>
+    <message>
+        <source>What happens when this run has ended</source>
+        <translation>Was geschieht, wenn dieser Durchlauf beendet ist</translation>
+    </message>
+    <message>
+        <source>When done</source>
+        <translation>Danach</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -7761,6 +7769,21 @@
     </message>
 </context>
 <context>
+    <name>run-signs</name>
+    <message>
+        <source>When done: nothing</source>
+        <translation>Danach: nichts</translation>
+    </message>
+    <message>
+        <source>When done: open folder</source>
+        <translation>Danach: Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>When done: close</source>
+        <translation>Danach: schließen</translation>
+    </message>
+</context>
+<context>
     <name>save-as</name>
     <message>
         <source>Original</source>
@@ -9182,6 +9205,13 @@
     <message>
         <source>%1 by %2 pixels, %3 from the left, %4 from the top</source>
         <translation>%1 mal %2 Pixel, %3 von links, %4 von oben</translation>
+    </message>
+</context>
+<context>
+    <name>window::DesktopSigns</name>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
     </message>
 </context>
 <context>

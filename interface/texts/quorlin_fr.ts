@@ -858,6 +858,14 @@
         <source>Add what runs of this program wrote to the list all the same</source>
         <translation>Ajouter quand même à la liste ce que les traitements de ce programme ont écrit</translation>
     </message>
+    <message>
+        <source>What happens when this run has ended</source>
+        <translation>Ce qui se passe à la fin de ce traitement</translation>
+    </message>
+    <message>
+        <source>When done</source>
+        <translation>À la fin</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -7761,6 +7769,21 @@
     </message>
 </context>
 <context>
+    <name>run-signs</name>
+    <message>
+        <source>When done: nothing</source>
+        <translation>À la fin : rien</translation>
+    </message>
+    <message>
+        <source>When done: open folder</source>
+        <translation>À la fin : ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>When done: close</source>
+        <translation>À la fin : fermer</translation>
+    </message>
+</context>
+<context>
     <name>save-as</name>
     <message>
         <source>Original</source>
@@ -9182,6 +9205,13 @@
     <message>
         <source>%1 by %2 pixels, %3 from the left, %4 from the top</source>
         <translation>%1 sur %2 pixels, %3 depuis la gauche, %4 depuis le haut</translation>
+    </message>
+</context>
+<context>
+    <name>window::DesktopSigns</name>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
     </message>
 </context>
 <context>

@@ -858,6 +858,14 @@
         <source>Add what runs of this program wrote to the list all the same</source>
         <translation>Zet wat verwerkingen van dit programma schreven toch op de lijst</translation>
     </message>
+    <message>
+        <source>What happens when this run has ended</source>
+        <translation>Wat er gebeurt als deze opdracht klaar is</translation>
+    </message>
+    <message>
+        <source>When done</source>
+        <translation>Na afloop</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -7761,6 +7769,21 @@
     </message>
 </context>
 <context>
+    <name>run-signs</name>
+    <message>
+        <source>When done: nothing</source>
+        <translation>Na afloop: niets</translation>
+    </message>
+    <message>
+        <source>When done: open folder</source>
+        <translation>Na afloop: map openen</translation>
+    </message>
+    <message>
+        <source>When done: close</source>
+        <translation>Na afloop: sluiten</translation>
+    </message>
+</context>
+<context>
     <name>save-as</name>
     <message>
         <source>Original</source>
@@ -9182,6 +9205,13 @@
     <message>
         <source>%1 by %2 pixels, %3 from the left, %4 from the top</source>
         <translation>%1 bij %2 pixels, %3 van links, %4 van boven</translation>
+    </message>
+</context>
+<context>
+    <name>window::DesktopSigns</name>
+    <message>
+        <source>Show</source>
+        <translation>Tonen</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,7 @@ import { Input } from "./input.js";
 import { PageHost } from "./page-host.js";
 import { PreviewSide } from "./preview-side.js";
 import { Printing } from "./printing.js";
+import { percentDone, RunSigns } from "./run-signs.js";
 import { showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
 import { Watching } from "./watching.js";
@@ -71,6 +72,7 @@ export class MainWindow {
         this.input = new Input(this);
         this.history = new History(this);
         this.support = new SupportBar(this);
+        this.signs = new RunSigns(this);
         this.watching = new Watching(this);
         this.shownPage = this.action.page === undefined ? null : this.action;
         this.pageHost.show(this.shownPage);
@@ -214,6 +216,7 @@ export class MainWindow {
         this.pageHost.runChanged();
         this.watching.runChanged();
         this.showAll();
+        this.signs.runChanged();
     }
 
     // What a run made of the pictures is the past now: the list shows what the settings would make of them.
@@ -266,9 +269,7 @@ export class MainWindow {
 
     showTitle() {
         const name = (this.shownPage || this.action).title();
-        const run = this.run;
-        const share = run.phase === "running" && run.progress.count > 0
-            ? Math.floor((100 * run.progress.done) / run.progress.count) : -1;
+        const share = percentDone(this.run);
         this.form.control("windowTitle").text = "Quorlin – " + name;
         this.form.title = share < 0
             ? "Quorlin" : fill(qsTr("%1%"), share) + " – " + this.action.title() + " – Quorlin";

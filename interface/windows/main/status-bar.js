@@ -45,6 +45,7 @@ export function showStatusBar(window) {
     control("progress").maximum = run.phase === "planning" ? 0 : Math.max(1, run.progress.count);
     control("progress").value = run.progress.done;
     const visible = Object.assign(endButtons(run, ended), {
+        whenDone: run.phase === "running" && !window.watching.isOn(),
         pauseButton: run.phase === "running", cancelButton: busy, undoButton: offer !== null && !window.said,
     });
     Object.keys(visible).forEach((name) => { control(name).visible = visible[name]; });

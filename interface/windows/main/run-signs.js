@@ -1,0 +1,60 @@
+// What is told of a run outside of its window, and what the user wants when it has ended: the machine stays awake while it goes on,
+// the task bar shows how far it is, and a notification says what came of it where the window is in the background.
+
+import { defaults } from "quorlin/defaults";
+import { shell } from "quorlin/shell";
+import { guard } from "../../lib/guard.js";
+import { keep, recall } from "../../lib/store.js";
+
+const KEY = "WhenDone";
+const NOTHING = "nothing";
+const OPEN = "open";
+const CLOSE = "close";
+
+/** How much of a run is done, 0 to 100; -1 where nothing can be said. */
+export function percentDone(run) {
+    return run.phase === "running" && run.progress.count > 0
+        ? Math.floor((100 * run.progress.done) / run.progress.count) : -1;
+}
+
+export class RunSigns {
+    /** @param window  the main window's parts: form, action, run, watching, openFolders() */
+    constructor(window) {
+        this.window = window;
+        this.isOn = false;
+        const form = window.form;
+        form.setItems("whenDone",
+                      [qsTr("When done: nothing"), qsTr("When done: open folder"), qsTr("When done: close")],
+                      [NOTHING, OPEN, CLOSE]);
+        // A window that closes by itself is a surprise the next time.
+        form.chooseValue("whenDone", recall(defaults, KEY, { what: NOTHING }).what === OPEN ? OPEN : NOTHING);
+        form.control("whenDone").activated.connect(guard("whenDone", () => {
+            keep(defaults, KEY, { what: form.value("whenDone") });
+        }));
+        this.closing = shell.timer(guard("whenDone.close", () => form.close()));
+    }
+
+    /** Called after each change of the run. */
+    runChanged() {
+        const run = this.window.run;
+        if (run.isBusy()) {
+            this.isOn = true;
+            shell.desktop.jobGoesOn(this.window.action.title(), percentDone(run));
+        } else if (this.isOn) {
+            this.isOn = false;
+            this.ended(run);
+        }
+    }
+
+    // In a watched folder one run follows the other.
+    ended(run) {
+        const watched = this.window.watching.isOn();
+        shell.desktop.jobEnded(this.window.action.title(), watched ? "" : run.text);
+        const wanted = run.isComplete && !watched ? this.window.form.value("whenDone") : NOTHING;
+        if (wanted === OPEN && run.folders().length > 0) {
+            this.window.openFolders();
+        } else if (wanted === CLOSE) {
+            this.closing.start(0); // what follows the end of a run has to be done first
+        }
+    }
+}
