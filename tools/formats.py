@@ -1,10 +1,9 @@
 #!/usr/bin/env python3
-"""formats.py [--check] FILE: what a conversion keeps, as docs/formats.md shows it. Writes FILE, or compares it.
+"""formats.py [--check] FILE: what a conversion by the services keeps, as docs/formats.md shows it. Writes FILE, or compares it.
 
-Beside FILE, which lies in docs/, it does the same with the tables in manual/convert.md and manual/output.md. What a format
-keeps, and what the product calls it, is read from the program's own tables, and what metadata an action hands on from its
-step; PROMISES adds what a conversion makes of it. A test converts real pictures and holds programs that are not ours
-against it.
+Beside FILE, which lies in docs/, it does the same with the tables in manual/convert.md and manual/output.md, which say what the
+actions of the window keep: these make recipes. What a format keeps, and what the product calls it, is read from the program's own
+tables; PROMISES adds what a conversion makes of it. A test converts real pictures and holds programs that are not ours against it.
 """
 import re
 import sys
@@ -116,50 +115,51 @@ def text():
     return "\n".join(lines) + "\n"
 
 
+# A recipe puts all metadata into these, and the resolution with it; into a PDF and a GIF what XMP has words for, into a BMP none.
+RECIPES_CARRY_INTO = ("jpeg", "png", "tiff", "jp2")
+AS_XMP = ("pdf", "gif")
+
+
+def in_manual(target, name):
+    """What becomes of a property in a recipe, in the few words of the manual."""
+    words = {KEPT: "yes", NOT: "no", "matrix": "if it fits", "srgb": "sRGB", "black": "a colour", "page": "page size"}
+    if name in ("exif", "resolution") and PROMISES[target][name] in (KEPT, NOT):
+        if target in RECIPES_CARRY_INTO:
+            return words[KEPT]
+        return "as XMP" if target in AS_XMP else words[KEPT if name == "resolution" and "resolution" in _KEPT[TARGETS[target]] else NOT]
+    return words[PROMISES[target][name]]
+
+
 def manual_table():
-    """The same in the few words of the manual."""
-    words = {**WORDS, KEPT: "yes", "matrix": "if it fits", "srgb": "sRGB", "black": "black", "page": "page size"}
+    """What Convert keeps, in the few words of the manual."""
     rows = {"16 bits": "depth", "Profile": "profile", "Transparency": "alpha", "Resolution": "resolution", "Metadata": "exif"}
     lines = [row([""] + [NAMES[name] for name in PROMISES]).replace("|  |", "| |"), row(["---"] * (len(PROMISES) + 1))]
-    return "\n".join(lines + [row([said] + [words[PROMISES[target][name]] for target in PROMISES]) for said, name in rows.items()])
+    return "\n".join(lines + [row([said] + [in_manual(target, name) for target in PROMISES]) for said, name in rows.items()])
 
 
-# The rows of the manual's other table: the names of actions, and the step that says for all of them what metadata goes along.
-ACTION_ROWS = {"All but Convert": ("resize", "crop", "turn", "round", "background", "watermark"), "Convert": ("convert",)}
-
-
-# A recipe puts all metadata into these; into a GIF what XMP has words for, into a BMP none.
-RECIPES_CARRY_INTO = ("jpeg", "png", "tiff", "jp2")
-
-
-def metadata_of(action):
-    """The types that an action hands metadata on into, as its step says."""
-    step = (ACTIONS / action / f"{action}-step.js").read_text(encoding="utf-8")
-    offer = re.search(r"^export const offer = (.*?);$", step, re.M | re.S).group(1)
-    if "byRecipe: true" in offer:
-        return [_OUTPUTS[keyword][0] for keyword in RECIPES_CARRY_INTO]
-    return re.findall(r'"([^"]+)"', re.search(r"metadata: \[(.*?)\]", offer, re.S).group(1))
-
-
-def kept_in_words(target, metadata):
+def kept_in_words(target):
     profile = {KEPT: ["profile"], "matrix": ["profile if it fits"]}.get(PROMISES[target]["profile"], [])
-    return ", ".join(profile + ["metadata"] * (TARGETS[target] in metadata)) or "pixels"
+    return ", ".join(profile + ["metadata"] * (target in RECIPES_CARRY_INTO)) or "pixels"
+
+
+def made_by_recipes():
+    """Whether all actions that write pictures say that they are."""
+    offers = [re.search(r"^export const offer = (.*?);$", step.read_text(encoding="utf-8"), re.M | re.S)
+              for step in sorted(ACTIONS.glob("*/*-step.js"))]
+    return all("byRecipe: true" in offer.group(1) for offer in offers if offer is not None and "types:" in offer.group(1))
 
 
 def actions_table():
-    """What each action keeps, in the few words of the manual."""
+    """What the actions keep, in the few words of the manual."""
+    if not made_by_recipes():
+        raise SystemExit("formats.py: not every action makes a recipe, as the manual says")
     columns = ("jpeg", "png", "tiff", "jp2")
-    lines = [row([""] + [NAMES[name] for name in columns] + ["GIF, BMP"]).replace("|  |", "| |"), row(["---"] * (len(columns) + 2))]
-    for names, actions in ACTION_ROWS.items():
-        metadata = metadata_of(actions[0])
-        if any(metadata_of(other) != metadata for other in actions):
-            raise SystemExit(f"formats.py: {names} are one row in the manual and keep different metadata")
-        last = {kept_in_words(name, metadata) for name in ("gif", "bmp")}
-        if len(last) > 1:
-            raise SystemExit("formats.py: GIF and BMP are one column in the manual and keep different things")
-        rest = "see [Convert](convert.md#what-is-kept-exactly)" if names == "Convert" else last.pop()
-        lines.append(row([names] + [kept_in_words(name, metadata) for name in columns] + [rest]))
-    return "\n".join(lines)
+    last = {kept_in_words(name) for name in ("gif", "bmp")}
+    if len(last) > 1:
+        raise SystemExit("formats.py: GIF and BMP are one column in the manual and keep different things")
+    return "\n".join([row([""] + [NAMES[name] for name in columns] + ["GIF, BMP"]).replace("|  |", "| |"),
+                      row(["---"] * (len(columns) + 2)),
+                      row(["kept"] + [kept_in_words(name) for name in columns] + [last.pop()])])
 
 
 def with_table(page, before, table):

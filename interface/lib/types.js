@@ -6,13 +6,13 @@ export const ORIGINAL = "original file type";
 
 const FORMATS = pictures.formats();
 
-// {id, keyword, extension, word, profile, alpha, depth16, resolution, quality, metadata}. profile: the colour profile is kept:
-// "yes", "no", or "ifItFits". alpha: transparency is kept. quality: it can be chosen. metadata: a conversion hands it on.
+// {id, keyword, extension, word, profile, alpha, depth16, resolution, quality}. profile: the colour profile is kept:
+// "yes", "no", or "ifItFits". alpha: transparency is kept. quality: it can be chosen.
 function writtenAs(output) {
     const format = FORMATS.find((each) => each.id === output.id);
     return { id: output.id, keyword: output.keyword, extension: "." + format.extensions[0], word: output.word,
              profile: format.profile, alpha: format.alpha, depth16: format.depth16, resolution: format.resolution,
-             quality: format.quality, metadata: output.carriesMetadata };
+             quality: format.quality };
 }
 
 /** What actions write. */
@@ -80,9 +80,4 @@ export function typeOfExtension(extension) {
     const lower = extension.toLowerCase();
     const format = FORMATS.find((each) => each.extensions.indexOf(lower) >= 0);
     return format === undefined ? "" : format.id;
-}
-
-/** Whether the colour profile of the picture at a path stays in a file of this type; true where it has none. */
-export function keepsProfile(path, type) {
-    return type.profile === "yes" || (type.profile === "ifItFits" && pictures.keepsProfile(path, type.id));
 }

@@ -4,7 +4,6 @@ import { files } from "quorlin/files";
 import { runRecords } from "quorlin/records";
 import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
-import { runItems } from "./making/job.js";
 import { Flow } from "./making/flow.js";
 import { Replacing } from "./making/replacing.js";
 import { RunRecord } from "./making/run-record.js";
@@ -150,18 +149,12 @@ export class WriteRun extends BaseRun {
         this.showProgress();
     }
 
-    // Workers do what is said as a recipe; the rest is done here, one picture after the other.
     work() {
-        const step = this.window.action.step;
-        let work = null;
         this.replacing = new Replacing(this.window.services, this.window.action.title());
+        this.flow = new Flow(() => this.job.wake());
         const services = Object.assign({}, this.window.services, { replacing: this.replacing });
-        if (step.recipeFor === undefined) {
-            work = runItems(this.items, step, this.settings, services);
-        } else {
-            this.flow = new Flow(() => this.job.wake());
-            work = this.recorded(step, services);
-        }
+        // The engine loses a generator that is returned by the call that makes it.
+        const work = this.recorded(this.window.action.step, services);
         return work;
     }
 
@@ -237,16 +230,16 @@ export class WriteRun extends BaseRun {
 
     tell() {
         const now = Date.now();
-        if (this.flow === null || now - this.toldMs >= TELL_MS || this.inWork === 0) {
+        if (now - this.toldMs >= TELL_MS || this.inWork === 0) {
             this.toldMs = now;
             this.showProgress();
         }
     }
 
     // Of several workers none takes as long as all of them together.
-    countOne(item, result) {
+    countOne(item) {
         const now = Date.now();
-        this.progress.add(costOf(item.photo), this.flow === null ? result.ms : now - this.steppedMs);
+        this.progress.add(costOf(item.photo), now - this.steppedMs);
         this.steppedMs = now;
     }
 
@@ -291,7 +284,7 @@ export class WriteRun extends BaseRun {
         this.noteInLog(result,
                        logRow(result, action.title(), action.step.describe(this.settings), new Date().toISOString()),
                        index);
-        this.countOne(item, result);
+        this.countOne(item);
         this.window.livePlan.keepFinal(id);
         if (result.status === "OK") {
             list.setPlan(id, result.name, pixels(result));

@@ -2584,26 +2584,6 @@
         <source>Choose a quality from 1 to 9.</source>
         <translation>Wählen Sie eine Qualität von 1 bis 9.</translation>
     </message>
-    <message>
-        <source>not a readable picture</source>
-        <translation>kein lesbares Bild</translation>
-    </message>
-    <message>
-        <source>the file could not be written</source>
-        <translation>die Datei konnte nicht geschrieben werden</translation>
-    </message>
-    <message>
-        <source>the file was written but cannot be read again</source>
-        <translation>die Datei wurde geschrieben, lässt sich aber nicht wieder lesen</translation>
-    </message>
-    <message>
-        <source>the metadata could not be written (%1); the disk may be full</source>
-        <translation>die Metadaten konnten nicht geschrieben werden (%1); vielleicht ist der Datenträger voll</translation>
-    </message>
-    <message>
-        <source>whether the metadata was written cannot be known: %1</source>
-        <translation>ob die Metadaten geschrieben wurden, ist nicht bekannt: %1</translation>
-    </message>
 </context>
 <context>
     <name>crop-action</name>
@@ -8619,76 +8599,48 @@
 <context>
     <name>targets</name>
     <message>
-        <source>Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black and 16 bits become 8. The colour profile is kept.</source>
-        <translation>Kleine Dateien zum Zeigen. Feine Details gehen verloren, je niedriger die Qualität, desto mehr; EXIF, IPTC und XMP entfallen, transparente Bereiche werden schwarz, aus 16 Bit werden 8. Das Farbprofil bleibt erhalten.</translation>
-    </message>
-    <message>
-        <source>Nothing is lost: pixels, transparency, 16 bits, colour profile, EXIF, IPTC and XMP are kept.</source>
-        <translation>Nichts geht verloren: Pixel, Transparenz, 16 Bit, Farbprofil, EXIF, IPTC und XMP bleiben erhalten.</translation>
-    </message>
-    <message>
-        <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile, EXIF, IPTC and XMP are kept. Large files.</source>
-        <translation>Nichts geht verloren: Pixel, Transparenz, 16 Bit, CMYK, Farbprofil, EXIF, IPTC und XMP bleiben erhalten. Große Dateien.</translation>
-    </message>
-    <message>
-        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept.</source>
-        <translation>Eine Seite in der Größe des Bildes. Ein JPEG kommt unverändert hinein, anderes verlustfrei. EXIF, IPTC und XMP entfallen.</translation>
-    </message>
-    <message>
-        <source>Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC, XMP and the resolution are not. Few programs show such files.</source>
-        <translation>Verlust, den man nicht sieht. Transparenz und 16 Bit bleiben erhalten; EXIF, IPTC, XMP und die Auflösung entfallen. Wenige Programme zeigen solche Dateien.</translation>
-    </message>
-    <message>
-        <source>256 colours at most, and a pixel is either transparent or not. EXIF, IPTC, XMP and the resolution are not kept; colours become sRGB.</source>
-        <translation>Höchstens 256 Farben, und ein Pixel ist entweder transparent oder nicht. EXIF, IPTC, XMP und die Auflösung entfallen; Farben werden zu sRGB.</translation>
-    </message>
-    <message>
-        <source>Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black, and 16 bits become 8.</source>
-        <translation>Nur Pixel, in großen Dateien. EXIF, IPTC und XMP entfallen, Farben werden zu sRGB, transparente Bereiche schwarz, aus 16 Bit werden 8.</translation>
-    </message>
-    <message>
-        <source>EXIF, IPTC and XMP are not kept</source>
-        <translation>EXIF, IPTC und XMP entfallen</translation>
-    </message>
-    <message>
-        <source>256 colours</source>
-        <translation>256 Farben</translation>
-    </message>
-    <message>
-        <source>colours become sRGB</source>
-        <translation>Farben werden zu sRGB</translation>
-    </message>
-    <message>
-        <source>the resolution is not kept</source>
-        <translation>die Auflösung entfällt</translation>
-    </message>
-    <message>
-        <source>transparent parts become black</source>
-        <translation>transparente Bereiche werden schwarz</translation>
-    </message>
-    <message>
-        <source>The preview that the camera put into the raw file is converted, not the raw data.</source>
-        <translation>Umgewandelt wird die Vorschau, die die Kamera in die RAW-Datei gelegt hat, nicht die Rohdaten.</translation>
-    </message>
-    <message>
         <source>The first page is drawn at 72 pixels per inch.</source>
         <translation>Die erste Seite wird mit 72 Pixeln pro Zoll gezeichnet.</translation>
-    </message>
-    <message>
-        <source>Of an animation the first picture is converted.</source>
-        <translation>Von einer Animation wird das erste Bild umgewandelt.</translation>
-    </message>
-    <message>
-        <source>Of several pages the first is converted.</source>
-        <translation>Von mehreren Seiten wird die erste umgewandelt.</translation>
     </message>
     <message>
         <source>Layers become one picture.</source>
         <translation>Ebenen werden zu einem Bild.</translation>
     </message>
     <message>
-        <source>It is %1 already and is written anew.</source>
-        <translation>Es ist schon %1 und wird neu geschrieben.</translation>
+        <source>Small files for showing. Fine detail is lost, the more the lower the quality; transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
+        <translation>Kleine Dateien zum Zeigen. Feine Details gehen verloren, je niedriger die Qualität, desto mehr; transparente Bereiche bekommen eine Farbe, aus 16 Bit werden 8. Farbprofil und Metadaten bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
+        <translation>Nichts geht verloren: Pixel, Transparenz, 16 Bit, Farbprofil und Metadaten bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile and metadata are kept. Large files.</source>
+        <translation>Nichts geht verloren: Pixel, Transparenz, 16 Bit, CMYK, Farbprofil und Metadaten bleiben erhalten. Große Dateien.</translation>
+    </message>
+    <message>
+        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. Of the metadata what XMP has words for is kept.</source>
+        <translation>Eine Seite in der Größe des Bildes. Ein JPEG kommt unverändert hinein, anderes verlustfrei. Von den Metadaten bleibt, wofür XMP Worte hat.</translation>
+    </message>
+    <message>
+        <source>Loss that cannot be seen. Transparency, 16 bits and metadata are kept, and the colour profile where it fits in. Few programs show such files.</source>
+        <translation>Verlust, den man nicht sieht. Transparenz, 16 Bit und Metadaten bleiben erhalten, das Farbprofil, wo es hineinpasst. Wenige Programme zeigen solche Dateien.</translation>
+    </message>
+    <message>
+        <source>256 colours at most, and a pixel is either transparent or not; colours become sRGB. Of the metadata what XMP has words for is kept.</source>
+        <translation>Höchstens 256 Farben, und ein Pixel ist entweder transparent oder nicht; Farben werden zu sRGB. Von den Metadaten bleibt, wofür XMP Worte hat.</translation>
+    </message>
+    <message>
+        <source>Pixels and resolution only, in large files. Colours become sRGB, transparent parts get a colour, and 16 bits become 8.</source>
+        <translation>Nur Pixel und Auflösung, in großen Dateien. Farben werden zu sRGB, transparente Bereiche bekommen eine Farbe, aus 16 Bit werden 8.</translation>
+    </message>
+    <message>
+        <source>It is %1 already; no pixel of it changes.</source>
+        <translation>Es ist schon %1; kein Pixel davon ändert sich.</translation>
+    </message>
+    <message>
+        <source>It is %1 already and is encoded again.</source>
+        <translation>Es ist schon %1 und wird neu kodiert.</translation>
     </message>
 </context>
 <context>

@@ -2584,26 +2584,6 @@
         <source>Choose a quality from 1 to 9.</source>
         <translation>Choisissez une qualité de 1 à 9.</translation>
     </message>
-    <message>
-        <source>not a readable picture</source>
-        <translation>image illisible</translation>
-    </message>
-    <message>
-        <source>the file could not be written</source>
-        <translation>le fichier n’a pas pu être écrit</translation>
-    </message>
-    <message>
-        <source>the file was written but cannot be read again</source>
-        <translation>le fichier a été écrit mais ne peut pas être relu</translation>
-    </message>
-    <message>
-        <source>the metadata could not be written (%1); the disk may be full</source>
-        <translation>les métadonnées n’ont pas pu être écrites (%1) ; le disque est peut-être plein</translation>
-    </message>
-    <message>
-        <source>whether the metadata was written cannot be known: %1</source>
-        <translation>impossible de savoir si les métadonnées ont été écrites : %1</translation>
-    </message>
 </context>
 <context>
     <name>crop-action</name>
@@ -8619,76 +8599,48 @@
 <context>
     <name>targets</name>
     <message>
-        <source>Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black and 16 bits become 8. The colour profile is kept.</source>
-        <translation>Fichiers légers, pour montrer. Les détails fins se perdent, d’autant plus que la qualité est basse ; EXIF, IPTC et XMP ne sont pas conservés, les parties transparentes deviennent noires, 16 bits deviennent 8. Le profil colorimétrique est conservé.</translation>
-    </message>
-    <message>
-        <source>Nothing is lost: pixels, transparency, 16 bits, colour profile, EXIF, IPTC and XMP are kept.</source>
-        <translation>Rien n’est perdu&#x202f;: pixels, transparence, 16 bits, profil colorimétrique, EXIF, IPTC et XMP sont conservés.</translation>
-    </message>
-    <message>
-        <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile, EXIF, IPTC and XMP are kept. Large files.</source>
-        <translation>Rien n’est perdu&#x202f;: pixels, transparence, 16 bits, CMJN, profil colorimétrique, EXIF, IPTC et XMP sont conservés. Fichiers lourds.</translation>
-    </message>
-    <message>
-        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept.</source>
-        <translation>Une page à la taille de l’image. Un JPEG y entre tel quel&#x202f;; les autres, sans perte. EXIF, IPTC et XMP ne sont pas conservés.</translation>
-    </message>
-    <message>
-        <source>Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC, XMP and the resolution are not. Few programs show such files.</source>
-        <translation>Perte invisible. Transparence et 16 bits sont conservés ; EXIF, IPTC, XMP et la résolution ne le sont pas. Peu de programmes affichent ces fichiers.</translation>
-    </message>
-    <message>
-        <source>256 colours at most, and a pixel is either transparent or not. EXIF, IPTC, XMP and the resolution are not kept; colours become sRGB.</source>
-        <translation>256 couleurs au plus, et un pixel est transparent ou ne l’est pas. EXIF, IPTC, XMP et la résolution ne sont pas conservés ; les couleurs passent en sRGB.</translation>
-    </message>
-    <message>
-        <source>Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black, and 16 bits become 8.</source>
-        <translation>Les pixels seulement, en fichiers lourds. EXIF, IPTC et XMP ne sont pas conservés, les couleurs passent en sRGB, les parties transparentes deviennent noires, 16 bits deviennent 8.</translation>
-    </message>
-    <message>
-        <source>EXIF, IPTC and XMP are not kept</source>
-        <translation>Sans EXIF, IPTC ni XMP</translation>
-    </message>
-    <message>
-        <source>256 colours</source>
-        <translation>256 couleurs</translation>
-    </message>
-    <message>
-        <source>colours become sRGB</source>
-        <translation>les couleurs passent en sRGB</translation>
-    </message>
-    <message>
-        <source>the resolution is not kept</source>
-        <translation>la résolution n’est pas conservée</translation>
-    </message>
-    <message>
-        <source>transparent parts become black</source>
-        <translation>transparence en noir</translation>
-    </message>
-    <message>
-        <source>The preview that the camera put into the raw file is converted, not the raw data.</source>
-        <translation>L’aperçu que l’appareil a mis dans le fichier RAW est converti, non les données brutes.</translation>
-    </message>
-    <message>
         <source>The first page is drawn at 72 pixels per inch.</source>
         <translation>La première page est rendue à 72 pixels par pouce.</translation>
-    </message>
-    <message>
-        <source>Of an animation the first picture is converted.</source>
-        <translation>D’une animation, la première image est convertie.</translation>
-    </message>
-    <message>
-        <source>Of several pages the first is converted.</source>
-        <translation>De plusieurs pages, la première est convertie.</translation>
     </message>
     <message>
         <source>Layers become one picture.</source>
         <translation>Les calques sont réunis en une image.</translation>
     </message>
     <message>
-        <source>It is %1 already and is written anew.</source>
-        <translation>C’est déjà du %1&#x202f;; le fichier est écrit à nouveau.</translation>
+        <source>Small files for showing. Fine detail is lost, the more the lower the quality; transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
+        <translation>Petits fichiers à montrer. De fins détails se perdent, d’autant plus que la qualité est basse ; les parties transparentes reçoivent une couleur et 16 bits deviennent 8. Profil de couleurs et métadonnées sont conservés.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
+        <translation>Rien ne se perd : pixels, transparence, 16 bits, profil de couleurs et métadonnées sont conservés.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile and metadata are kept. Large files.</source>
+        <translation>Rien ne se perd : pixels, transparence, 16 bits, CMJN, profil de couleurs et métadonnées sont conservés. Gros fichiers.</translation>
+    </message>
+    <message>
+        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. Of the metadata what XMP has words for is kept.</source>
+        <translation>Une page de la taille de l’image. Un JPEG y entre tel quel, le reste sans perte. Des métadonnées, ce que XMP peut exprimer est conservé.</translation>
+    </message>
+    <message>
+        <source>Loss that cannot be seen. Transparency, 16 bits and metadata are kept, and the colour profile where it fits in. Few programs show such files.</source>
+        <translation>Perte invisible. Transparence, 16 bits et métadonnées sont conservés, ainsi que le profil de couleurs quand il y entre. Peu de programmes montrent ces fichiers.</translation>
+    </message>
+    <message>
+        <source>256 colours at most, and a pixel is either transparent or not; colours become sRGB. Of the metadata what XMP has words for is kept.</source>
+        <translation>256 couleurs au plus, et un pixel est transparent ou ne l’est pas ; les couleurs passent en sRGB. Des métadonnées, ce que XMP peut exprimer est conservé.</translation>
+    </message>
+    <message>
+        <source>Pixels and resolution only, in large files. Colours become sRGB, transparent parts get a colour, and 16 bits become 8.</source>
+        <translation>Seulement les pixels et la résolution, dans de gros fichiers. Les couleurs passent en sRGB, les parties transparentes reçoivent une couleur et 16 bits deviennent 8.</translation>
+    </message>
+    <message>
+        <source>It is %1 already; no pixel of it changes.</source>
+        <translation>C’est déjà du %1 ; aucun pixel n’en change.</translation>
+    </message>
+    <message>
+        <source>It is %1 already and is encoded again.</source>
+        <translation>C’est déjà du %1 et sera encodé de nouveau.</translation>
     </message>
 </context>
 <context>

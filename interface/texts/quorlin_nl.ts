@@ -2584,26 +2584,6 @@
         <source>Choose a quality from 1 to 9.</source>
         <translation>Kies een kwaliteit van 1 tot 9.</translation>
     </message>
-    <message>
-        <source>not a readable picture</source>
-        <translation>geen leesbare foto</translation>
-    </message>
-    <message>
-        <source>the file could not be written</source>
-        <translation>het bestand kon niet worden geschreven</translation>
-    </message>
-    <message>
-        <source>the file was written but cannot be read again</source>
-        <translation>het bestand is geschreven, maar kan niet worden teruggelezen</translation>
-    </message>
-    <message>
-        <source>the metadata could not be written (%1); the disk may be full</source>
-        <translation>de metagegevens konden niet geschreven worden (%1); misschien is de schijf vol</translation>
-    </message>
-    <message>
-        <source>whether the metadata was written cannot be known: %1</source>
-        <translation>het is niet bekend of de metagegevens geschreven zijn: %1</translation>
-    </message>
 </context>
 <context>
     <name>crop-action</name>
@@ -8619,76 +8599,48 @@
 <context>
     <name>targets</name>
     <message>
-        <source>Small files for showing. Fine detail is lost, the more the lower the quality; EXIF, IPTC and XMP are not kept, transparent parts become black and 16 bits become 8. The colour profile is kept.</source>
-        <translation>Kleine bestanden om te tonen. Fijne details gaan verloren, meer naarmate de kwaliteit lager is; EXIF, IPTC en XMP blijven niet behouden, transparante delen worden zwart, 16 bits worden er 8. Het kleurprofiel blijft behouden.</translation>
-    </message>
-    <message>
-        <source>Nothing is lost: pixels, transparency, 16 bits, colour profile, EXIF, IPTC and XMP are kept.</source>
-        <translation>Er gaat niets verloren: pixels, transparantie, 16 bits, kleurprofiel, EXIF, IPTC en XMP blijven behouden.</translation>
-    </message>
-    <message>
-        <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile, EXIF, IPTC and XMP are kept. Large files.</source>
-        <translation>Er gaat niets verloren: pixels, transparantie, 16 bits, CMYK, kleurprofiel, EXIF, IPTC en XMP blijven behouden. Grote bestanden.</translation>
-    </message>
-    <message>
-        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. EXIF, IPTC and XMP are not kept.</source>
-        <translation>Eén pagina op het formaat van de foto. Een JPEG gaat er ongewijzigd in, andere zonder verlies. EXIF, IPTC en XMP blijven niet behouden.</translation>
-    </message>
-    <message>
-        <source>Loss that cannot be seen. Transparency and 16 bits are kept; EXIF, IPTC, XMP and the resolution are not. Few programs show such files.</source>
-        <translation>Onzichtbaar verlies. Transparantie en 16 bits blijven behouden; EXIF, IPTC, XMP en de resolutie niet. Weinig programma’s tonen zulke bestanden.</translation>
-    </message>
-    <message>
-        <source>256 colours at most, and a pixel is either transparent or not. EXIF, IPTC, XMP and the resolution are not kept; colours become sRGB.</source>
-        <translation>Hoogstens 256 kleuren, en een pixel is transparant of niet. EXIF, IPTC, XMP en de resolutie blijven niet behouden; kleuren worden sRGB.</translation>
-    </message>
-    <message>
-        <source>Pixels only, in large files. EXIF, IPTC and XMP are not kept, colours become sRGB, transparent parts black, and 16 bits become 8.</source>
-        <translation>Alleen pixels, in grote bestanden. EXIF, IPTC en XMP blijven niet behouden, kleuren worden sRGB, transparante delen zwart, 16 bits worden er 8.</translation>
-    </message>
-    <message>
-        <source>EXIF, IPTC and XMP are not kept</source>
-        <translation>Zonder EXIF, IPTC en XMP</translation>
-    </message>
-    <message>
-        <source>256 colours</source>
-        <translation>256 kleuren</translation>
-    </message>
-    <message>
-        <source>colours become sRGB</source>
-        <translation>kleuren worden sRGB</translation>
-    </message>
-    <message>
-        <source>the resolution is not kept</source>
-        <translation>de resolutie blijft niet behouden</translation>
-    </message>
-    <message>
-        <source>transparent parts become black</source>
-        <translation>transparant wordt zwart</translation>
-    </message>
-    <message>
-        <source>The preview that the camera put into the raw file is converted, not the raw data.</source>
-        <translation>Het voorbeeld dat de camera in het raw-bestand zette, wordt geconverteerd, niet de raw-gegevens.</translation>
-    </message>
-    <message>
         <source>The first page is drawn at 72 pixels per inch.</source>
         <translation>De eerste pagina wordt getekend met 72 pixels per inch.</translation>
-    </message>
-    <message>
-        <source>Of an animation the first picture is converted.</source>
-        <translation>Van een animatie wordt het eerste beeld geconverteerd.</translation>
-    </message>
-    <message>
-        <source>Of several pages the first is converted.</source>
-        <translation>Van meer pagina’s wordt de eerste geconverteerd.</translation>
     </message>
     <message>
         <source>Layers become one picture.</source>
         <translation>Lagen worden één foto.</translation>
     </message>
     <message>
-        <source>It is %1 already and is written anew.</source>
-        <translation>Het is al %1 en wordt opnieuw geschreven.</translation>
+        <source>Small files for showing. Fine detail is lost, the more the lower the quality; transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
+        <translation>Kleine bestanden om te tonen. Fijne details gaan verloren, hoe lager de kwaliteit, hoe meer; doorzichtige delen krijgen een kleur en 16 bits worden 8. Kleurprofiel en metadata blijven behouden.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
+        <translation>Er gaat niets verloren: pixels, doorzichtigheid, 16 bits, kleurprofiel en metadata blijven behouden.</translation>
+    </message>
+    <message>
+        <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile and metadata are kept. Large files.</source>
+        <translation>Er gaat niets verloren: pixels, doorzichtigheid, 16 bits, CMYK, kleurprofiel en metadata blijven behouden. Grote bestanden.</translation>
+    </message>
+    <message>
+        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. Of the metadata what XMP has words for is kept.</source>
+        <translation>Eén pagina zo groot als het beeld. Een JPEG gaat er ongewijzigd in, andere zonder verlies. Van de metadata blijft waar XMP woorden voor heeft.</translation>
+    </message>
+    <message>
+        <source>Loss that cannot be seen. Transparency, 16 bits and metadata are kept, and the colour profile where it fits in. Few programs show such files.</source>
+        <translation>Verlies dat niet te zien is. Doorzichtigheid, 16 bits en metadata blijven behouden, en het kleurprofiel waar het erin past. Weinig programma’s tonen zulke bestanden.</translation>
+    </message>
+    <message>
+        <source>256 colours at most, and a pixel is either transparent or not; colours become sRGB. Of the metadata what XMP has words for is kept.</source>
+        <translation>Hoogstens 256 kleuren, en een pixel is doorzichtig of niet; kleuren worden sRGB. Van de metadata blijft waar XMP woorden voor heeft.</translation>
+    </message>
+    <message>
+        <source>Pixels and resolution only, in large files. Colours become sRGB, transparent parts get a colour, and 16 bits become 8.</source>
+        <translation>Alleen pixels en resolutie, in grote bestanden. Kleuren worden sRGB, doorzichtige delen krijgen een kleur en 16 bits worden 8.</translation>
+    </message>
+    <message>
+        <source>It is %1 already; no pixel of it changes.</source>
+        <translation>Het is al %1; geen pixel ervan verandert.</translation>
+    </message>
+    <message>
+        <source>It is %1 already and is encoded again.</source>
+        <translation>Het is al %1 en wordt opnieuw gecodeerd.</translation>
     </message>
 </context>
 <context>

@@ -1,16 +1,25 @@
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
 
+#include "app/window/controls/color_well.h"
 #include "app/window/preview/compare_preview.h"
+#include "jobs/desk/worker_desk.h"
 #include "platform/imageio/source/image_source.h"
+#include "platform/imageio/source/opening_watch.h"
+#include "platform/imageio/source/picture_facts.h"
 
 #include "tests/support/corpus.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QLineEdit>
 #include <QTest>
+
+using jobs::WorkerDesk;
 
 /** The Convert pane, as a person works it. */
 class ConvertPane : public QObject
@@ -24,7 +33,12 @@ private Q_SLOTS:
         m_folder = m_driver->inputFolder();
     }
 
-    void cleanup() { m_driver.reset(); }
+    void cleanup()
+    {
+        m_driver.reset();
+        platform::watchOpening({});
+        WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKER));
+    }
 
     void writesEachTypeAndLooksAtIt_data()
     {
@@ -74,6 +88,119 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder + QStringLiteral("/Converted")).entryList(QDir::Files).size(), 6);
     }
 
+    void keepsWhatThePictureKnows_data()
+    {
+        QTest::addColumn<QString>("keyword");
+        for (const char *keyword : {"jpeg", "png", "tiff", "jp2", "gif", "pdf"})
+            QTest::newRow(keyword) << QString::fromUtf8(keyword);
+    }
+
+    void keepsWhatThePictureKnows()
+    {
+        QFETCH(QString, keyword);
+        QVERIFY(QFile::copy(picturePath("own/metadata/every-group.jpg"), m_folder + QStringLiteral("/a.jpg")));
+        m_driver->drop({m_folder});
+        m_driver->choose("target", keyword);
+        run(QStringLiteral("1 picture done"));
+        const QDir results(m_folder + QStringLiteral("/Converted"));
+        QFile made(results.filePath(results.entryList(QDir::Files).value(0)));
+        QVERIFY(made.open(QIODevice::ReadOnly));
+        if (keyword == QLatin1String("gif") || keyword == QLatin1String("pdf"))
+            QVERIFY(made.readAll().contains("A small picture")); // the title, in its XMP
+        else
+            QCOMPARE(platform::pictureFacts(made.fileName()).camera,
+                     platform::pictureFacts(m_folder + QStringLiteral("/a.jpg")).camera);
+    }
+
+    void laysTransparentPartsOnTheColourThatIsChosen()
+    {
+        save("a.png", qRgba(0, 0, 0, 0));
+        m_driver->drop({m_folder + QStringLiteral("/a.png")});
+        m_driver->choose("target", QStringLiteral("bmp"));
+        m_driver->click("outputMore");
+        auto *well = m_driver->control<window::ColorWell>("matte");
+        well->setColor(QStringLiteral("#204080"));
+        Q_EMIT well->chosen(well->color());
+        run(QStringLiteral("1 picture done"));
+        QCOMPARE(QImage(m_folder + QStringLiteral("/Converted/a.bmp")).pixel(5, 5), qRgb(0x20, 0x40, 0x80));
+    }
+
+    void namesResultsByThePattern()
+    {
+        save("a.png");
+        QVERIFY(QDir().mkpath(m_folder + QStringLiteral("/sub")));
+        save("sub/b.png");
+        const QDateTime old(QDate(2020, 5, 4), QTime(3, 2));
+        for (const char *name : {"/a.png", "/sub/b.png"}) {
+            QFile file(m_folder + QLatin1String(name));
+            QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(old, QFileDevice::FileModificationTime));
+        }
+        m_driver->drop({m_folder});
+        m_driver->choose("target", QStringLiteral("tiff"));
+        m_driver->click("outputMore");
+        m_driver->control<QLineEdit>("namePattern")->setText(QStringLiteral("{name}-{counter:01}"));
+        m_driver->control<QCheckBox>("keepDates")->click();
+        const QString target = m_driver->folder() + QStringLiteral("/out");
+        QVERIFY(QDir().mkpath(target));
+        WindowDriver::answerPanels({target});
+        m_driver->choose("destination", QStringLiteral("choose"));
+        m_driver->control<QCheckBox>("keepSubfolders")->click();
+        run(QStringLiteral("2 pictures done"));
+        for (const char *name : {"/a-01.tiff", "/sub/b-02.tiff"}) {
+            const QFileInfo made(target + QLatin1String(name));
+            QVERIFY2(made.exists(), name);
+            QCOMPARE(made.lastModified(), old);
+        }
+    }
+
+    void saysInTheListWhatOfAFileIsTaken()
+    {
+        QVERIFY(QFile::copy(picturePath("own/formats/drawing.pdf"), m_folder + QStringLiteral("/a.pdf")));
+        m_driver->drop({m_folder});
+        QVERIFY(m_driver->waitFor([this] {
+            return m_driver->cell(0, window::PictureModel::Status) ==
+                   QStringLiteral("ready, 1 further picture left out");
+        }));
+        run(QStringLiteral("1 picture done"));
+        QCOMPARE(m_driver->cell(0, window::PictureModel::Status), QStringLiteral("OK, 1 further picture left out"));
+    }
+
+    /** The window itself opens none of them. */
+    void hasItDoneByWorkers()
+    {
+        WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+        save("a.png");
+        save("try-crash.png");
+        QStringList opened;
+        platform::watchOpening([&opened](const QString &name) { opened.append(name); });
+        m_driver->drop({m_folder});
+        run(QStringLiteral("1 picture done · 1 failed"));
+        platform::watchOpening({});
+        QCOMPARE(m_driver->cell(1, window::PictureModel::Status), QStringLiteral("Failed: its reader crashed"));
+        QVERIFY2(opened.isEmpty(), qPrintable(opened.join(u' ')));
+    }
+
+    void bringsBackWhatItReplaced()
+    {
+        QFile original(m_folder + QStringLiteral("/a.jpg"));
+        QVERIFY(QFile::copy(picturePath("own/metadata/every-group.jpg"), original.fileName()));
+        QVERIFY(original.open(QIODevice::ReadOnly));
+        const QByteArray before = original.readAll();
+        original.close();
+        m_driver->drop({original.fileName()});
+        m_driver->choose("destination", QStringLiteral("source"));
+        m_driver->choose("ifTaken", QStringLiteral("replace"));
+        WindowDriver::answerNextQuestion(QStringLiteral("Replace"));
+        run(QStringLiteral("1 picture done"));
+        const auto content = [&original] {
+            QFile file(original.fileName());
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QVERIFY(content() != before);
+        m_driver->click("undoButton");
+        QVERIFY(m_driver->waitFor([&] { return content() == before; }));
+    }
+
     void offersWhatWasAddedUnderAnActionThatDoesNotTakeIt()
     {
         save("a.png");
@@ -105,7 +232,7 @@ private Q_SLOTS:
     {
         save("a.png");
         m_driver->drop({m_folder});
-        QVERIFY(m_driver->text("targetNote").contains(QStringLiteral("transparent parts become black")));
+        QVERIFY(m_driver->text("targetNote").contains(QStringLiteral("transparent parts get a colour")));
         QVERIFY(m_driver->control<QComboBox>("convertQuality")->isVisible());
         m_driver->choose("target", QStringLiteral("bmp"));
         QVERIFY(!m_driver->control<QComboBox>("convertQuality")->isVisible());
@@ -115,7 +242,7 @@ private Q_SLOTS:
         QCOMPARE(preview->estimatedBytes(), 64 * 48 * 3 + 54.0);
         QVERIFY(
             m_driver->waitFor([preview] { return preview->accessibleDescription().contains(QStringLiteral("9 KB")); }));
-        QVERIFY(preview->accessibleDescription().contains(QStringLiteral("EXIF")));
+        QVERIFY(preview->accessibleDescription().contains(QStringLiteral("BMP has no transparency")));
     }
 
     void asksForConfirmationBeforeAnOriginalIsReplaced()
@@ -143,10 +270,10 @@ private Q_SLOTS:
     }
 
 private:
-    void save(const char *name)
+    void save(const char *name, QRgb color = qRgba(200, 40, 20, 120))
     {
         QImage image(64, 48, QImage::Format_ARGB32);
-        image.fill(QColor(200, 40, 20, 120));
+        image.fill(QColor::fromRgba(color));
         image.setDotsPerMeterX(2835);
         image.setDotsPerMeterY(2835);
         QVERIFY(image.save(m_folder + u'/' + QString::fromUtf8(name)));

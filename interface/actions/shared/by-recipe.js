@@ -3,7 +3,7 @@
 
 import { recipes } from "quorlin/recipes";
 import { splitPath } from "../../lib/names.js";
-import { madeType, madeTypeNamed } from "../../lib/types.js";
+import { madeType, madeTypeNamed, PDF_PAGE } from "../../lib/types.js";
 import { fill, pixels } from "../../lib/wording.js";
 import { outcome, ready, refused, unreadable, unwritable } from "./written.js";
 
@@ -70,6 +70,15 @@ export function planBy(photo, settings, services, answer, ownName) {
                          { lossless: told.lossless, losses: told.losses, remarks: remarksOn(photo, told) });
 }
 
+// The size that the file has as it is stored, where that need not be the one of the plan: a picture that is not encoded again may go on
+// lying on its side, and a page is measured in points.
+function storedAs(path, planned, services) {
+    const isPage = planned.type === PDF_PAGE.id;
+    const stored = planned.lossless || isPage ? services.files.storedSize(path) : null;
+    const lies = stored !== null && stored.width === planned.height && stored.height === planned.width;
+    return stored !== null && (lies || isPage) ? stored : planned;
+}
+
 /** Writes the result of a plan as settings.prefix + its name; what is there is replaced. Returns what every step's run() does. */
 export function makeBy(photo, settings, recipe, planned, services) {
     if (planned.status !== "ready") {
@@ -79,10 +88,7 @@ export function makeBy(photo, settings, recipe, planned, services) {
     if (result.outcome !== "OK") {
         return { status: result.outcome, reason: result.reason, outputs: [] };
     }
-    // A picture that is not encoded again may go on lying on its side.
-    const stored = planned.lossless ? services.files.storedSize(result.path) : null;
-    const lies = stored !== null && stored.width === planned.height && stored.height === planned.width;
-    return outcome("OK", result.path, planned, services, lies ? stored : planned);
+    return outcome("OK", result.path, planned, services, storedAs(result.path, planned, services));
 }
 
 /** What the preview does to the upright picture to show the result; quality is said of types that have one. */

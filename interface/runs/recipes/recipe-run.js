@@ -112,7 +112,7 @@ export class RecipeRun extends WriteRun {
         this.results[index] = {
             status: ORDER.find((word) => outputs.some((output) => output.status === word)) || "Failed"
         };
-        this.countOne(item, result);
+        this.countOne(item);
         this.window.livePlan.keepFinal(this.ids[index]);
         this.showFinal(index, outputs);
     }

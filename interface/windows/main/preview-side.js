@@ -66,19 +66,10 @@ export class PreviewSide {
             ? this.window.action.step.preview(photo, this.window.settings, planned, this.window.services) : null;
         this.shown = ready ? { planned: planned, result: shown } : null;
         this.showFrame(photo, planned);
-        this.view.setNotes(ready ? this.lostText(photo, planned) : "");
+        this.view.setNotes(ready ? planned.losses.join(" · ") : "");
         this.view.showResult(ready
                              ? Object.assign({ message: "" }, shown) : nothing(planned === null ? "" : planned.reason));
         this.showCaptions(this.view.estimatedBytes);
-    }
-
-    // What this picture has and its result will not have, where the step or its plan knows.
-    lostText(photo, planned) {
-        const step = this.window.action.step;
-        if (planned.losses !== undefined) {
-            return planned.losses.join(" · ");
-        }
-        return step.lost === undefined ? "" : step.lost(photo, this.window.settings);
     }
 
     showCaptions(bytes) {

@@ -1,35 +1,19 @@
 import { KEYWORDS, targetNamed, targetText } from "../../../interface/actions/convert/targets.js";
 import * as convert from "../../../interface/actions/convert/convert-step.js";
 import { equal, finish, isTrue, test } from "../check.js";
-import { FakeFiles, photo, settingsOf } from "../fakes.js";
-
-// Services whose conversion leaves what `written` says: {type, width, height}, or nothing where it is null.
-function servicesThatLeave(written) {
-    const files = new FakeFiles({});
-    const calls = [];
-    files.picture = () => written;
-    files.lostMetadata = () => ({ lost: written === null ? [] : written.lost || [],
-                                  problem: written === null ? "" : written.problem || "" });
-    return {
-        calls: calls, files: files,
-        fileHandling: {
-            hConvertFileType: (...values) => {
-                calls.push(values);
-                if (written !== null) {
-                    files.entries[values[3]] = 1;
-                }
-                return ["file:///anything", values[1], "a"];
-            },
-        },
-    };
-}
+import { photo, recipeServices, settingsOf } from "../fakes.js";
 
 function source(name, type) {
     return Object.assign(photo("/p/" + name, 400, 300), { type: type || "JPEG" });
 }
 
-function settings(target, changes) {
-    return Object.assign(settingsOf(convert, Object.assign({ target: target }, changes || {})), { prefix: "/s/" });
+function settings(target, changes, output) {
+    return settingsOf(convert, Object.assign({ target: target }, changes || {}), output);
+}
+
+// Services that plan a file of that type.
+function planning(keyword, plan) {
+    return recipeServices(Object.assign({ type: keyword, extension: targetNamed(keyword).extension }, plan || {}));
 }
 
 const NAMES = { jpeg: "a.b.jpg", png: "a.b.png", tiff: "a.b.tiff", pdf: "a.b.pdf", jp2: "a.b.jp2", gif: "a.b.gif",
@@ -42,45 +26,48 @@ test("offersTheSevenTypesEachWithWordsOfItsOwn", () => {
 });
 
 test("namesResultsByTheirType", () => {
-    equal(KEYWORDS.map((keyword) => convert.plan(source("a.b.heic"), settings(keyword)).name),
+    equal(KEYWORDS.map((keyword) => convert.plan(source("a.b.heic"), settings(keyword), planning(keyword)).name),
           KEYWORDS.map((keyword) => NAMES[keyword]));
 });
 
-test("asksTheServiceAndLooksAtTheFile", () => {
+test("isARecipeWithNothingButAnOutput", () => {
+    equal(convert.recipe(settings("jpeg", { quality: "3" })),
+          { quorlin: 1, operations: [], outputs: [{ quality: 30, type: "jpeg" }] });
+    equal(KEYWORDS.filter((keyword) => keyword !== "jpeg").map((keyword) => convert.recipe(settings(keyword)).outputs),
+          KEYWORDS.filter((keyword) => keyword !== "jpeg").map((keyword) => [{ type: keyword }]));
+    equal(convert.recipe(settings("gif", {}, { metadata: "copyright", removeLocation: true, dates: "keep",
+                                               matte: "#102030", namePattern: "{name}-x" })).outputs,
+          [{ dates: "keep", location: false, matte: "#102030", metadata: "copyright", name: "{name}-x", type: "gif" }]);
+});
+
+test("makesWhatItPlanned", () => {
     for (const keyword of KEYWORDS) {
-        const services = servicesThatLeave({ type: targetNamed(keyword).word, width: 400, height: 300 });
-        const result = convert.run(source("a.b.png"), settings(keyword, { quality: "3" }), services);
-        equal(services.calls, [["/p/a.b.png", keyword, "3", "/s/" + NAMES[keyword]]]);
+        const services = planning(keyword);
+        const result = convert.run(source("a.b.png"), settings(keyword), services);
         equal([result.status, result.outputs, result.width], ["OK", ["/s/" + NAMES[keyword]], 400]);
+        equal(services.made, [["/p/a.b.png", convert.recipe(settings(keyword)), "/s/" + NAMES[keyword]]]);
+        equal(services.asked[0][1], services.made[0][1]);
     }
 });
 
-test("failsWhereMetadataThatWasPromisedIsNotThere", () => {
-    const run = (target, word) =>
-        convert.run(source("a.jpg"), settings(target),
-                    servicesThatLeave({ type: word, width: 400, height: 300, lost: ["EXIF", "XMP"] }));
-    for (const [target, word] of [["png", "PNG"], ["tiff", "TIFF"]]) {
-        const result = run(target, word);
-        equal([result.status, result.outputs], ["Failed", []]);
-        isTrue(result.reason.indexOf("EXIF, XMP") >= 0, result.reason);
-    }
-    equal(run("jpeg", "JPEG").status, "OK"); // which promises none
+test("takesAPageAsLargeAsItSays", () => {
+    const services = planning("pdf");
+    const make = services.recipes.make;
+    services.recipes.make = (...values) => {
+        const made = make(...values);
+        services.files.sizes[values[2]] = { width: 96, height: 72 };
+        return made;
+    };
+    const result = convert.run(source("a.b.png"), settings("pdf"), services);
+    equal([result.status, result.width, result.height], ["OK", 400, 300]);
 });
 
-test("believesTheFileAndNotTheAnswer", () => {
-    const run = (target, written) => convert.run(source("a.jpg"), settings(target), servicesThatLeave(written)).status;
-    equal(run("png", null), "Failed");
-    equal(run("png", { type: "JPEG", width: 400, height: 300 }), "Failed");
-    equal(run("png", { type: "PNG", width: 300, height: 400 }), "Failed");
-    equal(run("png", { type: "PNG", width: 0, height: 0 }), "Failed");
-    equal(run("pdf", { type: "PDF", width: 96, height: 72 }), "OK");
-    equal(run("pdf", { type: "PDF", width: 0, height: 0 }), "Failed");
-});
-
-test("leavesOutWhatIsNoPicture", () => {
-    const services = servicesThatLeave({ type: "PNG", width: 1, height: 1 });
+test("saysInThePlanWhatGoesWrong", () => {
+    const refused = convert.plan(source("a.pdf"), settings("png"), planning("png", { problem: "It is locked" }));
+    equal([refused.status, refused.reason], ["Failed", "It is locked"]);
+    const services = planning("png");
     const result = convert.run(photo("/p/a.jpg", 0, 0), settings("png"), services);
-    equal([result.status, services.calls.length], ["Failed", 0]);
+    equal([result.status, services.asked.length, services.made.length], ["Failed", 0, 0]);
 });
 
 test("refusesOtherTypesAndQualities", () => {
@@ -90,45 +77,42 @@ test("refusesOtherTypesAndQualities", () => {
           [1, 1, 1, 1]);
 });
 
-// The words of docs/formats.md, whose table is held against real files.
+// What the table of types and the plans of recipes say too.
 test("saysOfEachTargetWhatItCannotHold", () => {
     const says = (keyword, words) => words.forEach((word) => isTrue(targetText(keyword).indexOf(word) >= 0));
-    for (const keyword of ["jpeg", "pdf", "jp2", "gif", "bmp"]) {
-        says(keyword, ["EXIF, IPTC"]);
-    }
-    says("jpeg", ["transparent parts become black", "16 bits become 8", "profile is kept"]);
-    says("bmp", ["colours become sRGB", "transparent parts black", "16 bits become 8"]);
-    says("gif", ["256 colours", "resolution", "colours become sRGB", "transparent or not"]);
-    says("jp2", ["resolution"]);
+    says("jpeg", ["transparent parts get a colour", "16 bits become 8", "metadata are kept"]);
+    says("bmp", ["Colours become sRGB", "transparent parts get a colour", "16 bits become 8"]);
+    says("gif", ["256 colours", "colours become sRGB", "transparent or not", "XMP"]);
+    says("jp2", ["metadata are kept", "profile where it fits"]);
+    says("pdf", ["XMP"]);
     says("png", ["Nothing is lost"]);
     says("tiff", ["Nothing is lost"]);
-    isTrue(/resolution/.test(convert.lost(source("a.png"), settings("jp2")))
-           && !/resolution/.test(convert.lost(source("a.png"), settings("bmp"))));
 });
 
-test("saysWhatGetsLostOfThisPicture", () => {
-    const lost = (name, target) => convert.lost(source(name), settings(target));
-    equal([lost("a.png", "png"), lost("a.heic", "tiff")], ["", ""]);
-    isTrue(/transparent/.test(lost("a.png", "jpeg")) && !/transparent/.test(lost("a.jpg", "jpeg")));
-    isTrue(/sRGB/.test(lost("a.jpg", "bmp")) && /256/.test(lost("a.jpg", "gif")) && /EXIF/.test(lost("a.jpg", "pdf")));
-});
-
-test("saysWhatASourceIs", () => {
-    const notes = (name, target) => convert.plan(source(name), settings(target)).notes.join(" ");
-    isTrue(/preview/.test(notes("a.NEF", "jpeg")));
+test("saysWhatAPictureLosesAndWhatItIs", () => {
+    const notes = (name, target, plan) =>
+        convert.plan(source(name), settings(target), planning(target, plan)).notes.join(" ");
     isTrue(/first page/.test(notes("a.pdf", "png")));
-    isTrue(/animation/.test(notes("a.gif", "png")));
-    isTrue(/JPEG already/.test(notes("a.jpeg", "jpeg")));
+    isTrue(/Layers/.test(notes("a.psd", "png")));
+    isTrue(/JPEG already and is encoded again/.test(notes("a.jpeg", "jpeg")));
+    isTrue(/PNG already; no pixel/.test(notes("a.png", "png", { lossless: true })));
     equal(notes("a.heic", "jpeg"), "");
+    equal(notes("a.heic", "gif", { losses: ["256 colours"] }), "256 colours");
+    equal(convert.plan(source("a.nef", "RAW"), settings("jpeg"), planning("jpeg", { leftOut: 2 })).remarks,
+          ["preview of 400×300", "2 further pictures left out"]);
 });
 
-test("showsWhatTransparencyBecomesAndTheSizeOfAPageWithAJpeg", () => {
-    const shown = (picture, target) =>
-        convert.preview(picture, settings(target), convert.plan(picture, settings(target)));
-    equal(shown(source("a.png", "PNG"), "jpeg").edits, [{ do: "flatten" }]);
-    equal(shown(source("a.png", "PNG"), "png").edits, []);
-    equal([shown(source("a.jpg"), "jpeg").quality, shown(source("a.jpg"), "png").quality], ["8", ""]);
-    equal([shown(source("a.jpg"), "pdf").bytes, shown(source("a.png", "PNG"), "pdf").bytes], [1000, undefined]);
+test("showsWhatItMakes", () => {
+    const shown = (target, output) => {
+        const own = settings(target, {}, output);
+        const picture = source("a.png", "PNG");
+        return convert.preview(picture, own, convert.plan(picture, own, planning(target)));
+    };
+    equal(shown("jpeg").edits[1], { do: "lay", color: "#ffffff" });
+    equal(shown("jpeg", { matte: "#102030" }).edits[1], { do: "lay", color: "#102030" });
+    equal(shown("png").edits.length, 1);
+    equal([shown("jpeg").quality, shown("png").quality], ["8", ""]);
+    equal(shown("pdf").recipe, convert.recipe(settings("pdf")));
 });
 
 finish();

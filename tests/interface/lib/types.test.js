@@ -1,14 +1,5 @@
-import { lostText, targetNamed } from "../../../interface/actions/convert/targets.js";
-import { CONVERTED_INPUT, keepsProfile, PHOTO_INPUT, READ_INPUT, typeOfExtension, WRITTEN,
-         writtenType } from "../../../interface/lib/types.js";
+import { CONVERTED_INPUT, PHOTO_INPUT, READ_INPUT, typeOfExtension, WRITTEN } from "../../../interface/lib/types.js";
 import { equal, finish, isTrue, test } from "../check.js";
-import { photo } from "../fakes.js";
-
-// The engine does not tell a module where it lies, but a stack does.
-const PICTURES = new Error("").stack.match(/(?:file:\/\/)?(\/[^\n]*)\/interface\/lib\//)[1] + "/pictures/";
-
-const fitting = photo(PICTURES + "formats/profile.jpg", 60, 40);
-const unreadable = photo("/nowhere/a.jpg", 60, 40);
 
 test("knowsWhatIsWrittenAndUnderWhichNames", () => {
     equal(WRITTEN.map((type) => type.id + type.extension),
@@ -32,18 +23,6 @@ test("takesEveryPictureThatCanBeRead", () => {
         equal(all.filter((extension, i) => all.indexOf(extension) !== i), []);
     }
     isTrue(PHOTO_INPUT.length > CONVERTED_INPUT.length);
-});
-
-test("saysOfAJpeg2000WhatItKeepsOfThisPicture", () => {
-    const jp2 = writtenType("public.jp2");
-    equal([keepsProfile(fitting.path, jp2), keepsProfile(unreadable.path, jp2)], [true, false]);
-    isTrue(!/sRGB/.test(lostText(fitting, targetNamed("jp2"))));
-    isTrue(/sRGB/.test(lostText(unreadable, targetNamed("jp2"))));
-});
-
-test("asksNoPictureWhereTheTypeTellsItAll", () => {
-    equal([keepsProfile(unreadable.path, writtenType("public.jpeg")),
-           keepsProfile(fitting.path, writtenType("public.bmp"))], [true, false]);
 });
 
 finish();

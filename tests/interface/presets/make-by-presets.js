@@ -29,6 +29,9 @@ const CASES = [
     ["resize", "Own resolution", { mode: "width", width: 5, unit: "mm", dpi: 0 }],
     ["resize", "Named", { longest: 30 }, { namePattern: "{name}-{counter:01} {taken:MMM} {width}" }],
     ["turn", "Turned", { angle: 90 }, { namePattern: "{name} {height}" }],
+    ["convert", "To JPEG", { target: "jpeg", quality: "5" }, { matte: "#204080" }],
+    ["convert", "To PDF", { target: "pdf" }],
+    ["convert", "To TIFF", { target: "tiff" }, { metadata: "copyright", removeLocation: true }],
     ["resize", "Matte", { longest: 30 }, { fileType: "public.jpeg", matte: "#a02040", dates: "keep" }],
 ];
 
