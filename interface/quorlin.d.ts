@@ -1009,8 +1009,9 @@ declare module "quorlin/pictures" {
         formats(): list;
         /**
          * The types that are written, in the order of lists, each as {id, keyword, word, isPage, isOfRecipes,
-         * carriesMetadata}: what conversions and recipes call it, what lists call it, whether it is no format of pictures,
-         * whether only recipes make it, and whether a conversion hands metadata on into it.
+         * hasQuality, carriesMetadata}: what conversions and recipes call it, what lists call it, whether it is no format of
+         * pictures, whether only recipes make it, whether these state a quality for it, and whether a conversion hands metadata
+         * on into it.
          */
         outputTypes(): list;
         /** The codes of JPEG quality, the lowest first; conversions know no last one. */

@@ -84,6 +84,7 @@ QVariantList PictureService::outputTypes() const
                                 {QStringLiteral("word"), QString(type.word)},
                                 {QStringLiteral("isPage"), type.isPage},
                                 {QStringLiteral("isOfRecipes"), type.isOfRecipes},
+                                {QStringLiteral("hasQuality"), type.hasQuality},
                                 {QStringLiteral("carriesMetadata"), type.carriesMetadata}});
     return rows;
 }

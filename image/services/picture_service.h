@@ -30,9 +30,10 @@ public:
     Q_INVOKABLE QVariantList formats() const;
 
     /**
-     * The types that are written, in the order of lists, each as {id, keyword, word, isPage, carriesMetadata}: the type
-     * identifier, the keyword of conversions, the word of lists, whether only a conversion makes it, and whether one hands
-     * metadata on into it.
+     * The types that are written, in the order of lists, each as {id, keyword, word, isPage, isOfRecipes, hasQuality,
+     * carriesMetadata}: the type identifier, the keyword of conversions and recipes, the word of lists, whether it is no format of
+     * pictures, whether no conversion makes it, whether recipes state a quality for it, and whether a conversion hands metadata on
+     * into it.
      */
     Q_INVOKABLE QVariantList outputTypes() const;
 

@@ -6,26 +6,26 @@ export const ORIGINAL = "original file type";
 
 const FORMATS = pictures.formats();
 
-// {id, keyword, extension, word, profile, alpha, depth16, resolution, quality}. profile: the colour profile is kept:
-// "yes", "no", or "ifItFits". alpha: transparency is kept. quality: it can be chosen.
+// {id, keyword, extension, word, profile, alpha, depth16, resolution, quality, hasQuality}. profile: the colour profile is kept: "yes",
+// "no", or "ifItFits". alpha: transparency is kept. quality: Convert and Save As have one for it. hasQuality: all others have.
 function writtenAs(output) {
     const format = FORMATS.find((each) => each.id === output.id);
     return { id: output.id, keyword: output.keyword, extension: "." + format.extensions[0], word: output.word,
              profile: format.profile, alpha: format.alpha, depth16: format.depth16, resolution: format.resolution,
-             quality: format.quality };
+             quality: format.quality, hasQuality: output.hasQuality };
 }
 
 /** What actions write. */
-export const WRITTEN = pictures.outputTypes().filter((output) => !output.isPage && !output.isOfRecipes).map(writtenAs);
+export const WRITTEN = pictures.outputTypes().filter((output) => !output.isPage).map(writtenAs);
 
 /** What pictures can be converted to besides; no other action writes it. */
 export const PDF_PAGE = writtenAs(pictures.outputTypes().find((output) => output.isPage));
 
-/** The codes of JPEG quality, and those of conversions, which know no last one. */
+/** The codes of quality, and those of conversions, which know no last one. */
 export const QUALITIES = pictures.qualityCodes();
 export const CONVERSION_QUALITIES = QUALITIES.slice(0, -1);
 
-/** What else a picture may be, in spite of the extension of its name; such a type is kept and cannot be chosen. */
+// Whatever a result can be.
 const MADE = pictures.outputTypes().map(writtenAs);
 
 /** What results keep of what a picture says about itself; the words of recipes. */
@@ -60,7 +60,7 @@ export const PHOTO_INPUT = CONVERTED_INPUT.concat(RAW.filter((extension) => CONV
 /** The files of a folder that comments are written into, and those that can be chosen for it, by extension. */
 export const COMMENT_INPUT = ["jpg", "jpeg", "jpe", "tif", "tiff"];
 
-/** The written type of that identifier, or null. */
+/** The type of that identifier that all actions on pictures write, or null. */
 export function writtenType(id) {
     return WRITTEN.find((type) => type.id === id) || null;
 }

@@ -8,14 +8,17 @@
 import { DATES, METADATA, ORIGINAL, QUALITIES, WRITTEN } from "../lib/types.js";
 
 const TYPES = [ORIGINAL].concat(WRITTEN.map((type) => type.id));
+// Those that came later.
+const LATER_TYPES = ["org.webmproject.webp", "public.avif", "public.jpeg-xl"];
 
 const OUTPUT = {
-    StrField4: ["output.fileType", "text", TYPES], StrField5: ["output.quality", "text", QUALITIES],
+    StrField4: ["output.fileType", "text"], StrField5: ["output.quality", "text", QUALITIES],
     StrField6: ["output.destination.kind", "text", ["beside", "source", "folder"]],
     StrField7: ["output.destination.name", "text"], StrField8: ["output.destination.path", "text"],
     StrField9: ["output.ifTaken", "text", ["number", "replace", "skip", "ask"]],
     StrField10: ["output.metadata", "word", METADATA], StrField21: ["output.simulation", "flag"],
-    StrField40: ["output.keepSubfolders", "flag"], StrField41: ["output.removeLocation", "flag"],
+    StrField39: ["output.ownQuality", "flag"], StrField40: ["output.keepSubfolders", "flag"],
+    StrField41: ["output.removeLocation", "flag"],
     StrField59: ["output.dates", "word", DATES], StrField60: ["output.matte", "color"],
     StrField61: ["output.namePattern", "word"],
 };
@@ -31,12 +34,22 @@ export const PART_COLUMNS = numbers(11, 20).concat(numbers(42, 61)).map((number)
 export const FIRST_SLOT = 3;
 export const SLOTS = 59;
 
+// The columns of the output block in a form whose version brought the later types.
+function outputColumns(version) {
+    const [path, kind] = OUTPUT.StrField4;
+    const brought = {};
+    LATER_TYPES.forEach((type) => { brought[type] = version; });
+    return Object.assign({}, OUTPUT, { StrField4: [path, kind, TYPES, brought] });
+}
+
 /**
- * The form of an action that writes pictures: the words for Process, the setting that stands in Action, or "", its values, and the
- * columns. A setting that is a list has {path, columns, read}: read(kept) makes a part of what was kept, or null.
+ * The form of an action that writes pictures: the words for Process, the setting that stands in Action, or "", its values, the
+ * columns, and the version that brought WebP, AVIF and JPEG XL, the second where nothing is said. A setting that is a list has
+ * {path, columns, read}: read(kept) makes a part of what was kept, or null.
  */
-export function writingForm(process, mode, modes, own) {
-    return { process: process, mode: mode, modes: modes, columns: Object.assign({}, OUTPUT, own) };
+export function writingForm(process, mode, modes, own, typesVersion) {
+    return { process: process, mode: mode, modes: modes,
+             columns: Object.assign(outputColumns(typesVersion || 2), own) };
 }
 
 /** The form of an action that moves files: it has no output but a simulation. */

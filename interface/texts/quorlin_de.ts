@@ -1071,8 +1071,8 @@
         <translation>Qualität</translation>
     </message>
     <message>
-        <source>JPEG quality, 1 to 10</source>
-        <translation>JPEG-Qualität, 1 bis 10</translation>
+        <source>Quality, 1 to 10</source>
+        <translation>Qualität, 1 bis 10</translation>
     </message>
     <message>
         <source>Save to</source>
@@ -4606,6 +4606,14 @@
             <numerusform>%n Bild hat einen Typ, der nicht geschrieben wird.</numerusform>
             <numerusform>%n Bilder haben einen Typ, der nicht geschrieben wird.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Picture’s own</source>
+        <translation>die des Bilds</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>die übliche</translation>
     </message>
 </context>
 <context>

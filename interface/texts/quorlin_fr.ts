@@ -1071,8 +1071,8 @@
         <translation>Qualité</translation>
     </message>
     <message>
-        <source>JPEG quality, 1 to 10</source>
-        <translation>Qualité JPEG, de 1 à 10</translation>
+        <source>Quality, 1 to 10</source>
+        <translation>Qualité, de 1 à 10</translation>
     </message>
     <message>
         <source>Save to</source>
@@ -4606,6 +4606,14 @@
             <numerusform>%n image est d’un type qui n’est pas écrit.</numerusform>
             <numerusform>%n images sont d’un type qui n’est pas écrit.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Picture’s own</source>
+        <translation>celle de l’image</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>la qualité habituelle</translation>
     </message>
 </context>
 <context>

@@ -1071,8 +1071,8 @@
         <translation>Kwaliteit</translation>
     </message>
     <message>
-        <source>JPEG quality, 1 to 10</source>
-        <translation>JPEG-kwaliteit, 1 tot 10</translation>
+        <source>Quality, 1 to 10</source>
+        <translation>Kwaliteit, 1 tot 10</translation>
     </message>
     <message>
         <source>Save to</source>
@@ -4606,6 +4606,14 @@
             <numerusform>%n foto heeft een type dat niet wordt geschreven.</numerusform>
             <numerusform>%n foto’s hebben een type dat niet wordt geschreven.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Picture’s own</source>
+        <translation>die van de foto</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>de gebruikelijke</translation>
     </message>
 </context>
 <context>

@@ -1,8 +1,11 @@
 #include "jobs/presets/preset_recipe.h"
 
+#include "image/types/output_types.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <functional>
 #include <map>
 
@@ -12,6 +15,9 @@ namespace {
 using platform::Result;
 
 const auto text = [](const char *name) { return QString::fromLatin1(name); };
+
+/** Of the codes of quality to the numbers of recipes. */
+constexpr int perCode = 10;
 
 tl::unexpected<platform::Error> unsupported(const QString &sentence)
 {
@@ -166,15 +172,35 @@ const std::map<QString, Operations> &operations()
     return all;
 }
 
-/** The word that recipes have for a type of the window. */
-QString typeWord(const QString &identifier)
+/** The type that an action's settings name; none for the pictures' own. */
+const image::WrittenType *typeIn(const QJsonObject &output)
 {
-    static const std::map<QString, QString> words = {
-        {text("public.jpeg"), text("jpeg")}, {text("public.png"), text("png")},
-        {text("public.tiff"), text("tiff")}, {text("com.compuserve.gif"), text("gif")},
-        {text("public.bmp"), text("bmp")},   {text("public.jp2"), text("jp2")}};
-    const auto word = words.find(identifier);
-    return word == words.end() ? text("original") : word->second;
+    const QString identifier = output.value(text("fileType")).toString();
+    const auto types = image::writtenTypes();
+    const auto type = std::find_if(types.begin(), types.end(), [&](const image::WrittenType &each) {
+        return !each.isPage && each.identifier == identifier;
+    });
+    return type == types.end() ? nullptr : &*type;
+}
+
+/** Type and quality of a conversion, which is JPEG's alone. */
+void addTarget(QJsonObject &output, const QJsonObject &settings)
+{
+    output.insert(text("type"), settings.value(text("target")));
+    const int code = settings.value(text("quality")).toString().toInt();
+    if (code > 0 && settings.value(text("target")).toString() == text("jpeg"))
+        output.insert(text("quality"), code * perCode);
+}
+
+/** Type and quality of all other actions. Where the pictures keep their own quality none is stated. */
+void addType(QJsonObject &output, const QJsonObject &settings)
+{
+    const image::WrittenType *type = typeIn(settings);
+    output.insert(text("type"), type == nullptr ? text("original") : QString(type->keyword));
+    const int code = settings.value(text("quality")).toString().toInt();
+    const bool isStated = !settings.value(text("ownQuality")).toBool() && (type == nullptr || type->hasQuality);
+    if (code > 0 && isStated)
+        output.insert(text("quality"), code * perCode);
 }
 
 /** A folder name of a person's own, in which a brace is no token. */
@@ -212,19 +238,12 @@ void addPlace(QJsonObject &output, const QJsonObject &settings)
 
 QJsonObject outputFor(const Preset &preset)
 {
-    constexpr int perCode = 10;
     const QJsonObject own = preset.settings.value(text("output")).toObject();
-    const bool isConversion = preset.action == text("Convert");
-    const QString type = isConversion ? preset.settings.value(text("target")).toString()
-                                      : typeWord(own.value(text("fileType")).toString());
-    QJsonObject output = {{text("type"), type}};
-    const QString code = (isConversion ? preset.settings : own).value(text("quality")).toString();
-    const bool isOwn =
-        preset.action == text("Resize") || preset.action == text("Crop") || preset.action == text("Watermark");
-    const bool hasQuality =
-        isConversion ? type == text("jpeg") : isOwn && (type == text("jpeg") || type == text("original"));
-    if (const int quality = code.toInt(); quality > 0 && hasQuality)
-        output.insert(text("quality"), quality * perCode);
+    QJsonObject output;
+    if (preset.action == text("Convert"))
+        addTarget(output, preset.settings);
+    else
+        addType(output, own);
     addMetadata(output, own);
     addPlace(output, own);
     if (const QString matte = own.value(text("matte")).toString(); !matte.isEmpty() && matte != text("#ffffff"))

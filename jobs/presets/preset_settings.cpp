@@ -24,7 +24,8 @@ struct Form
     const char *standard; ///< JSON
     const char *mode;     ///< the setting that stands in the third column; empty for none
     std::vector<Column> columns;
-    int newest = 1; ///< version of the form; a preset has the lowest one that can say what it holds
+    int newest =
+        2; ///< version of the form, of which the second brought types; a preset has the lowest one that can say what it holds
 };
 
 const std::vector<Column> &outputColumns()
@@ -33,9 +34,10 @@ const std::vector<Column> &outputColumns()
         {4, "output.fileType", Kind::Text},         {5, "output.quality", Kind::Text},
         {6, "output.destination.kind", Kind::Text}, {7, "output.destination.name", Kind::Text},
         {8, "output.destination.path", Kind::Text}, {9, "output.ifTaken", Kind::Text},
-        {10, "output.metadata", Kind::Word},        {40, "output.keepSubfolders", Kind::Flag},
-        {41, "output.removeLocation", Kind::Flag},  {59, "output.dates", Kind::Word},
-        {60, "output.matte", Kind::Color},          {61, "output.namePattern", Kind::Word}};
+        {10, "output.metadata", Kind::Word},        {39, "output.ownQuality", Kind::Flag},
+        {40, "output.keepSubfolders", Kind::Flag},  {41, "output.removeLocation", Kind::Flag},
+        {59, "output.dates", Kind::Word},           {60, "output.matte", Kind::Color},
+        {61, "output.namePattern", Kind::Word}};
     return columns;
 }
 
@@ -58,7 +60,7 @@ Form resizeForm()
              {19, "padColor", Kind::Color},
              {20, "dpi", Kind::Number},
              {22, "neverEnlarge", Kind::Flag}},
-            2};
+            3};
 }
 
 Form cropForm()
@@ -83,7 +85,7 @@ Form cropForm()
 Form turnForm()
 {
     return {R"({"angle": 0, "flipHorizontal": false, "flipVertical": false,
-              "output": {"fileType": "original file type", "quality": "10", "ifTaken": "number",
+              "output": {"fileType": "original file type", "quality": "10", "ownQuality": true, "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Turned", "path": ""}}})",
             "",
             {{11, "angle", Kind::Number}, {22, "flipHorizontal", Kind::Flag}, {23, "flipVertical", Kind::Flag}}};
@@ -92,7 +94,7 @@ Form turnForm()
 Form roundForm()
 {
     return {R"({"shape": "rectangle", "radius": 100, "background": false, "color": "#ffffff", "band": 0,
-              "output": {"fileType": "public.png", "quality": "10", "ifTaken": "number",
+              "output": {"fileType": "public.png", "quality": "10", "ownQuality": true, "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Rounded", "path": ""}}})",
             "shape",
             {{11, "radius", Kind::Number},
@@ -105,7 +107,7 @@ Form backgroundForm()
 {
     return {
         R"({"under": "color", "color": "#ffffff", "pattern": "", "frame": "none", "bandColor": "#202124", "bandWidth": 40,
-              "output": {"fileType": "original file type", "quality": "10", "ifTaken": "number",
+              "output": {"fileType": "original file type", "quality": "10", "ownQuality": true, "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Framed", "path": ""}}})",
         "under",
         {{11, "color", Kind::Color},

@@ -5,7 +5,7 @@ import { files } from "quorlin/files";
 import { splitPath } from "../../lib/names.js";
 import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { ownName } from "../shared/own-name.js";
 import { mayBeTransparent, outputMessages, unreadable } from "../shared/written.js";
 
@@ -17,11 +17,11 @@ export const FRAMES = ["none", "white", "band"];
 /** What a new pane shows. */
 export const defaults = {
     under: "color", color: "#ffffff", pattern: "", frame: "none", bandColor: "#202124", bandWidth: 40,
-    output: usualOutput(ORIGINAL, "10", qsTr("Framed")),
+    output: usualOutput(ORIGINAL, "", qsTr("Framed")),
 };
 
 /** What the output block offers; see the Resize step. */
-export const offer = { types: WRITTEN.map((type) => type.id), quality: false, byRecipe: true };
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
@@ -86,5 +86,5 @@ export function run(photo, settings, services) {
 
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned) {
-    return showBy(photo, recipe(settings), planned, "");
+    return showBy(photo, recipe(settings), planned, statedQuality(settings.output));
 }

@@ -5,7 +5,7 @@ import { cropFrame, insidePicture } from "./crops.js";
 import { inPixels, PIXEL, UNITS } from "../../lib/measure.js";
 import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { outputMessages, unreadable } from "../shared/written.js";
 
 export const MOST = 100000;
@@ -109,5 +109,5 @@ export function run(photo, settings, services) {
 
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned, services) {
-    return showBy(photo, recipe(photo, settings, services), planned, settings.output.quality);
+    return showBy(photo, recipe(photo, settings, services), planned, statedQuality(settings.output));
 }

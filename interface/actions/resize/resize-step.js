@@ -4,7 +4,7 @@
 import { dpiMessages, dpiWords, PIXEL } from "../../lib/measure.js";
 import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { outputMessages } from "../shared/written.js";
 
 /** What is given; the others follow from it. */
@@ -26,8 +26,8 @@ export const defaults = {
 };
 
 /**
- * What the output block offers: types to write, and a quality for JPEG. byRecipe: what of the metadata is kept can be chosen, and the
- * plan of each picture says what that one loses.
+ * What the output block offers: types to write, and a quality for those that have one. byRecipe: what of the metadata is kept can be
+ * chosen, and the plan of each picture says what that one loses.
  */
 export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
@@ -95,5 +95,5 @@ export function run(photo, settings, services) {
  * their order, lengths are pixels of the full picture, origin top left.
  */
 export function preview(photo, settings, planned) {
-    return showBy(photo, recipe(settings), planned, settings.output.quality);
+    return showBy(photo, recipe(settings), planned, statedQuality(settings.output));
 }

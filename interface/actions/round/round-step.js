@@ -3,7 +3,7 @@
 
 import { WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { ownName } from "../shared/own-name.js";
 import { outputMessages, unreadable } from "../shared/written.js";
 
@@ -13,11 +13,11 @@ export const MOST_BAND = 10000;
 /** What a new pane shows. */
 export const defaults = {
     shape: "rectangle", radius: 100, background: false, color: "#ffffff", band: 0,
-    output: usualOutput("public.png", "10", qsTr("Rounded")),
+    output: usualOutput("public.png", "", qsTr("Rounded")),
 };
 
 /** What the output block offers; see the Resize step. */
-export const offer = { types: WRITTEN.map((type) => type.id), quality: false, byRecipe: true };
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
 export const SHAPES = ["rectangle", "circle", "ellipse"];
 
@@ -81,5 +81,5 @@ export function run(photo, settings, services) {
 
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned) {
-    return showBy(photo, recipe(settings), planned, "");
+    return showBy(photo, recipe(settings), planned, statedQuality(settings.output));
 }

@@ -8,16 +8,20 @@ import { fill, pixels } from "../../lib/wording.js";
 import { outcome, ready, refused, unreadable, unwritable } from "./written.js";
 
 const WHITE = "#ffffff";
+const FINEST = "10";
 // The word for the raw files of cameras.
 const RAW = "RAW";
 // The pattern of names that leaves them as they are.
 const OWN_NAME = "{name}";
 
-/** The output settings of a new pane; name is that of the folder beside the originals. */
+/**
+ * The output settings of a new pane; name is that of the folder beside the originals. Without a quality results get that of their
+ * pictures, until a person chooses one.
+ */
 export function usualOutput(fileType, quality, name) {
-    return { fileType: fileType, quality: quality, matte: WHITE, metadata: "keep", removeLocation: false,
-             destination: { kind: "beside", name: name, path: "" }, keepSubfolders: false, namePattern: OWN_NAME,
-             dates: "now", ifTaken: "number", simulation: false };
+    return { fileType: fileType, quality: quality || FINEST, ownQuality: quality === "", matte: WHITE,
+             metadata: "keep", removeLocation: false, destination: { kind: "beside", name: name, path: "" },
+             keepSubfolders: false, namePattern: OWN_NAME, dates: "now", ifTaken: "number", simulation: false };
 }
 
 /** What of the settings says what a picture becomes; where it lies is another matter. */
@@ -89,6 +93,11 @@ export function makeBy(photo, settings, recipe, planned, services) {
         return { status: result.outcome, reason: result.reason, outputs: [] };
     }
     return outcome("OK", result.path, planned, services, storedAs(result.path, planned, services));
+}
+
+/** What the settings of the output block say of quality; "" where results get that of their pictures. */
+export function statedQuality(output) {
+    return output.ownQuality ? "" : output.quality;
 }
 
 /** What the preview does to the upright picture to show the result; quality is said of types that have one. */

@@ -13,8 +13,10 @@ const KEPT_FOLDERS = 5;
 // What is offered where a picture cannot be written as what it is.
 const OFFERED_TYPE = "public.jpeg";
 const FOLDER = "folder:";
+// In place of a number: results get the quality that their pictures have.
+const OWN = "own";
 // Controls that are named as their setting is.
-const CHOICES = ["fileType", "quality", "metadata", "ifTaken"];
+const CHOICES = ["fileType", "metadata", "ifTaken"];
 const CHECKS = ["removeLocation", "keepSubfolders", "simulation"];
 // What is shown on demand, by setting: {setting: [value as usual, controls]}.
 const RARE = {
@@ -32,7 +34,6 @@ export class OutputPane {
         this.showsMore = false;
         this.unwritable = 0;
         this.form = shell.loadForm("actions/shared/output-pane.ui");
-        this.form.setItems("quality", QUALITIES, QUALITIES);
         this.form.setItems("metadata", [qsTr("Keep all"), qsTr("Keep copyright only"), qsTr("Remove all")], METADATA);
         this.form.setItems("ifTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")],
                            ["number", "replace", "skip", "ask"]);
@@ -66,6 +67,7 @@ export class OutputPane {
                 this.changed();
             }));
         }
+        this.form.control("quality").activated.connect(guard("output.quality", () => this.qualityChosen()));
         this.form.control("destination").activated.connect(guard("output.destination", () => this.destinationChosen()));
         for (const name of CHECKS) {
             const box = this.form.control(name);
@@ -101,6 +103,28 @@ export class OutputPane {
         if (this.output !== null && this.output[name] !== value) {
             this.output[name] = value;
             this.changed();
+        }
+    }
+
+    qualityChosen() {
+        const chosen = this.form.value("quality");
+        this.output.ownQuality = chosen === OWN;
+        if (chosen !== OWN) {
+            this.output.quality = chosen;
+        }
+        this.changed();
+    }
+
+    // A type that is chosen has a usual quality, since pictures of other types have none of their own that it could take.
+    showQuality(type) {
+        const own = type === null ? qsTr("Picture’s own") : qsTr("Usual");
+        this.form.setItems("quality", [own].concat(QUALITIES), [OWN].concat(QUALITIES));
+        this.form.chooseValue("quality", this.output.ownQuality ? OWN : this.output.quality);
+        const hasQuality = type === null || type.hasQuality;
+        this.form.control("quality").enabled = hasQuality;
+        this.form.control("qualityLabel").enabled = hasQuality;
+        for (const name of ["qualityLabel", "qualityHost"]) {
+            this.form.control(name).visible = this.offer.quality;
         }
     }
 
@@ -159,21 +183,16 @@ export class OutputPane {
 
     showType() {
         const type = writtenType(this.output.fileType);
-        const hasQuality = type === null || type.quality;
         for (const name of ["fileTypeLabel", "fileType"]) {
             this.form.control(name).visible = this.offer.types.length > 0;
         }
-        for (const name of ["qualityLabel", "qualityHost"]) {
-            this.form.control(name).visible = this.offer.quality;
-        }
+        this.showQuality(type);
         for (const name of ["metadataLabel", "metadata"]) {
             this.form.control(name).visible = this.offer.byRecipe === true;
         }
         this.showOffer();
         this.showRare(type);
         this.form.control("removeLocation").visible = this.offer.byRecipe === true && this.output.metadata !== "none";
-        this.form.control("quality").enabled = hasQuality;
-        this.form.control("qualityLabel").enabled = hasQuality;
     }
 
     /** Offers another type where so many pictures of the list cannot be written as what they are. */

@@ -4,7 +4,7 @@
 import { isNothing, wanted } from "./turns.js";
 import { madeType, ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { ownName } from "../shared/own-name.js";
 import { outputMessages } from "../shared/written.js";
 
@@ -13,11 +13,11 @@ const RIGHT_ANGLE = 90;
 /** What a new pane shows. The angle is in degrees, counter-clockwise, in tenths. */
 export const defaults = {
     angle: 0, flipHorizontal: false, flipVertical: false,
-    output: usualOutput(ORIGINAL, "10", qsTr("Turned")),
+    output: usualOutput(ORIGINAL, "", qsTr("Turned")),
 };
 
 /** What the output block offers; see the Resize step. */
-export const offer = { types: WRITTEN.map((type) => type.id), quality: false, byRecipe: true };
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
@@ -75,5 +75,5 @@ export function run(photo, settings, services) {
 
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned) {
-    return showBy(photo, recipe(settings), planned, "");
+    return showBy(photo, recipe(settings), planned, statedQuality(settings.output));
 }

@@ -7,7 +7,7 @@ import { tokens } from "quorlin/tokens";
 import { splitPath } from "../../lib/names.js";
 import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { makeBy, planBy, recipeOf, showBy, usualOutput } from "../shared/by-recipe.js";
+import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { outputMessages } from "../shared/written.js";
 
 /** What lies over the picture. */
@@ -118,5 +118,5 @@ export function run(photo, settings, services) {
 
 /** What the preview does to the upright picture to show the result. */
 export function preview(photo, settings, planned) {
-    return showBy(photo, recipe(settings), planned, settings.output.quality);
+    return showBy(photo, recipe(settings), planned, statedQuality(settings.output));
 }

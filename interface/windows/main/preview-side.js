@@ -24,7 +24,7 @@ function originalCaption(photo) {
 function resultCaption(planned, shown, bytes) {
     const type = madeType(planned.type);
     const parts = [pixelsText(planned), type.word];
-    if (type.quality && shown.quality) {
+    if (type.hasQuality && shown.quality) {
         parts.push(fill(qsTr("quality %1"), shown.quality));
     }
     if (bytes >= 0) {

@@ -160,6 +160,36 @@ private Q_SLOTS:
                  QColor(0x30, 0x60, 0x90));
     }
 
+    void writesEveryTypeAtTheQualityThatIsChosen()
+    {
+        m_driver->drop({m_pictures + QStringLiteral("/a.png")});
+        auto *quality = m_driver->control<QComboBox>("quality");
+        m_driver->choose("fileType", QStringLiteral("public.png"));
+        QVERIFY(!quality->isEnabled());
+        for (const char *type : {"org.webmproject.webp", "public.avif", "public.jpeg-xl"}) {
+            m_driver->choose("fileType", QString::fromLatin1(type));
+            QVERIFY(quality->isEnabled());
+            m_driver->choose("quality", QStringLiteral("3"));
+            run(QStringLiteral("1 picture done"));
+        }
+        const QString results = m_pictures + QStringLiteral("/Resized/a");
+        for (const char *extension : {".webp", ".avif", ".jxl"})
+            QVERIFY2(QFileInfo::exists(results + QLatin1String(extension)), extension);
+    }
+
+    void turnsWithoutLossUntilAQualityIsChosen()
+    {
+        QVERIFY(pictures::gradient(64, 48).save(m_pictures + QStringLiteral("/b.jpg"), "JPEG", 70));
+        m_driver->show("turn");
+        m_driver->drop({m_pictures + QStringLiteral("/b.jpg")});
+        m_driver->click("turnHalf");
+        auto *quality = m_driver->control<QComboBox>("quality");
+        QCOMPARE(quality->currentData().toString(), QStringLiteral("own"));
+        QVERIFY(m_driver->waitFor([&] { return m_driver->text("planNote").contains(QLatin1String("without loss")); }));
+        m_driver->choose("quality", QStringLiteral("10"));
+        QVERIFY(m_driver->waitFor([&] { return !m_driver->text("planNote").contains(QLatin1String("without loss")); }));
+    }
+
     void isRememberedByPresets()
     {
         m_driver->choose("preset", QStringLiteral("=Web 1600"));

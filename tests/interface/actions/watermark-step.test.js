@@ -31,7 +31,8 @@ test("asksForTheOutputOfTheOutputBlock", () => {
     equal(outputs("original file type"), [{ quality: 70, type: "original" }]);
     equal(outputs("public.jpeg"), [{ quality: 70, type: "jpeg" }]);
     equal(outputs("public.tiff"), [{ type: "tiff" }]);
-    equal(outputs("public.jp2"), [{ type: "jp2" }]);
+    equal(outputs("public.jp2"), [{ quality: 70, type: "jp2" }]);
+    equal(outputs("public.avif"), [{ quality: 70, type: "avif" }]);
 });
 
 test("plansNameTypeAndSize", () => {

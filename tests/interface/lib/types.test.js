@@ -4,10 +4,11 @@ import { equal, finish, isTrue, test } from "../check.js";
 test("knowsWhatIsWrittenAndUnderWhichNames", () => {
     equal(WRITTEN.map((type) => type.id + type.extension),
           ["public.jpeg.jpg", "public.png.png", "public.tiff.tiff", "public.bmp.bmp", "com.compuserve.gif.gif",
-           "public.jp2.jp2"]);
-    equal(WRITTEN.map((type) => type.profile), ["yes", "yes", "yes", "no", "no", "ifItFits"]);
-    equal(WRITTEN.map((type) => [type.alpha, type.quality]),
-          [[false, true], [true, false], [true, false], [false, false], [true, false], [true, false]]);
+           "public.jp2.jp2", "org.webmproject.webp.webp", "public.avif.avif", "public.jpeg-xl.jxl"]);
+    equal(WRITTEN.map((type) => type.profile), ["yes", "yes", "yes", "no", "no", "ifItFits", "yes", "yes", "yes"]);
+    equal(WRITTEN.filter((type) => !type.alpha).map((type) => type.word), ["JPEG", "BMP"]);
+    equal(WRITTEN.filter((type) => type.hasQuality).map((type) => type.word),
+          ["JPEG", "JPEG 2000", "WebP", "AVIF", "JPEG XL"]);
     equal(["JPE", "tif", "heif", "xyz", ""].map(typeOfExtension),
           ["public.jpeg", "public.tiff", "public.heif", "", ""]);
 });

@@ -32,6 +32,10 @@ const CASES = [
     ["convert", "To JPEG", { target: "jpeg", quality: "5" }, { matte: "#204080" }],
     ["convert", "To PDF", { target: "pdf" }],
     ["convert", "To TIFF", { target: "tiff" }, { metadata: "copyright", removeLocation: true }],
+    ["turn", "Web", { angle: 180 }, { fileType: "org.webmproject.webp", quality: "6", ownQuality: false }],
+    ["turn", "Finest", { angle: 180 }, { quality: "10", ownQuality: false }],
+    ["resize", "Small", { longest: 30 }, { fileType: "public.avif", quality: "5" }],
+    ["resize", "Newest", { longest: 30 }, { fileType: "public.jpeg-xl", ownQuality: true }],
     ["resize", "Matte", { longest: 30 }, { fileType: "public.jpeg", matte: "#a02040", dates: "keep" }],
 ];
 

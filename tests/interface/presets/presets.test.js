@@ -166,6 +166,32 @@ test("hasTheLowestVersionThatCanSayIt", () => {
     equal(ACTIONS.filter((name) => newestVersion(FORMS[name]) === 1).indexOf("resize"), -1);
 });
 
+test("needsALaterVersionForLaterTypes", () => {
+    const mark = (action, type) => {
+        const settings = copyOf(STANDARD[action]);
+        settings.output.fileType = type;
+        const row = rowOf(FORMS[action], "n", settings);
+        equal(presetOf(row, KINDS).settings, settings);
+        return row[3];
+    };
+    for (const action of ["crop", "turn", "round", "background", "watermark"]) {
+        equal(["public.jp2", "org.webmproject.webp", "public.avif", "public.jpeg-xl"].map((type) => mark(action, type)),
+              ["Quorlin 1", "Quorlin 2", "Quorlin 2", "Quorlin 2"]);
+    }
+    // Its second version knows other fits, but none of these.
+    equal([mark("resize", "public.jp2"), mark("resize", "public.avif")], ["Quorlin 1", "Quorlin 3"]);
+});
+
+test("takesTheQualityOfPicturesWhereNoneWasChosen", () => {
+    // These actions wrote a quality before it could be chosen, and none of their results had it.
+    for (const [action, isOwn] of [["turn", true], ["round", true], ["background", true], ["resize", false],
+                                   ["crop", false], ["watermark", false]]) {
+        const row = rowOf(FORMS[action], "n", STANDARD[action]);
+        row[39] = "";
+        equal(presetOf(row, KINDS).settings.output.ownQuality, isOwn, action);
+    }
+});
+
 test("takesARowOfAnotherLengthForUnknown", () => {
     const row = rowOf(FORMS.resize, "n", resize);
     equal([presetOf(row.concat(["x"]), KINDS).state, presetOf(row.slice(1), KINDS).state, presetOf("", KINDS).state],

@@ -45,6 +45,9 @@ private Q_SLOTS:
     void keepsTheMetadataOfThePreset();
     void writesTheTypeOfThePreset_data();
     void writesTheTypeOfThePreset();
+    void statesTheQualityThatIsChosen_data();
+    void statesTheQualityThatIsChosen();
+    void readsTheQualityOfARow();
 };
 
 void TestPresetRecipe::marksWithText()
@@ -113,6 +116,9 @@ void TestPresetRecipe::writesTheTypeOfThePreset_data()
         {"public.bmp", "bmp"},
         {"com.compuserve.gif", "gif"},
         {"public.jp2", "jp2"},
+        {"org.webmproject.webp", "webp"},
+        {"public.avif", "avif"},
+        {"public.jpeg-xl", "jxl"},
     };
     for (const auto &[identifier, word] : rows)
         QTest::newRow(identifier) << QString::fromLatin1(identifier) << QString::fromLatin1(word);
@@ -121,10 +127,64 @@ void TestPresetRecipe::writesTheTypeOfThePreset_data()
 void TestPresetRecipe::writesTheTypeOfThePreset()
 {
     QFETCH(QString, identifier);
-    for (const char *action : {"Resize", "Watermark"}) {
+    for (const char *action : {"Resize", "Watermark", "Rotate and Flip"}) {
         const QJsonObject recipe = recipeFor(presetOf(action, {}, {{QStringLiteral("fileType"), identifier}}));
         QTEST(recipe[QStringLiteral("outputs")][0][QStringLiteral("type")].toString(), "word");
         QVERIFY(image::readRecipe(QJsonDocument(recipe).toJson(), QStringLiteral("/")));
+    }
+}
+
+void TestPresetRecipe::statesTheQualityThatIsChosen_data()
+{
+    QTest::addColumn<QString>("identifier");
+    QTest::addColumn<bool>("hasQuality");
+    for (const char *identifier :
+         {"original file type", "public.jpeg", "public.jp2", "org.webmproject.webp", "public.avif", "public.jpeg-xl"})
+        QTest::newRow(identifier) << QString::fromLatin1(identifier) << true;
+    for (const char *identifier : {"public.png", "public.tiff", "public.bmp", "com.compuserve.gif"})
+        QTest::newRow(identifier) << QString::fromLatin1(identifier) << false;
+}
+
+void TestPresetRecipe::statesTheQualityThatIsChosen()
+{
+    QFETCH(QString, identifier);
+    QFETCH(bool, hasQuality);
+    const QString quality = QStringLiteral("quality");
+    for (const char *action :
+         {"Resize", "Crop", "Watermark", "Rotate and Flip", "Round Corners", "Background and Border"}) {
+        const auto stated = [&](bool isOwn) {
+            const QJsonObject output = {{QStringLiteral("fileType"), identifier},
+                                        {quality, QStringLiteral("7")},
+                                        {QStringLiteral("ownQuality"), isOwn}};
+            const QJsonObject recipe = recipeFor(presetOf(action, {}, output));
+            return recipe[QStringLiteral("outputs")][0][quality];
+        };
+        QCOMPARE(stated(false).toInt(), hasQuality ? 70 : 0);
+        QVERIFY(stated(true).isUndefined());
+    }
+}
+
+void TestPresetRecipe::readsTheQualityOfARow()
+{
+    constexpr int fields = 62;
+    constexpr int column = 39;
+    QStringList row;
+    row.resize(fields);
+    row.replace(1, QStringLiteral("Rotate and Flip"));
+    row.replace(3, QStringLiteral("Quorlin 1"));
+    row.replace(4, QStringLiteral("public.jpeg"));
+    row.replace(5, QStringLiteral("10")); // which rows had before it could be chosen
+    const auto quality = [&] {
+        return recipeFor(*jobs::presetOfRow(row))[QStringLiteral("outputs")][0][QStringLiteral("quality")].toInt();
+    };
+    QCOMPARE(quality(), 0);
+    row.replace(column, QStringLiteral("0"));
+    QCOMPARE(quality(), 100);
+    row.replace(column, QStringLiteral("1"));
+    QCOMPARE(quality(), 0);
+    for (const auto &[version, isRead] : {std::pair("Quorlin 2", true), std::pair("Quorlin 3", false)}) {
+        row.replace(3, QString::fromLatin1(version));
+        QCOMPARE(jobs::presetOfRow(row).has_value(), isRead);
     }
 }
 

@@ -3,7 +3,7 @@
 import { splitPath } from "../../lib/names.js";
 import { ORIGINAL, typeOfExtension, WRITTEN, writtenType } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { makeBy, showBy, usualOutput } from "../shared/by-recipe.js";
+import { makeBy, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { outputMessages, ready, unreadable } from "../shared/written.js";
 
 export const defaults = {
@@ -39,5 +39,5 @@ export function run(photo, settings, services) {
 }
 
 export function preview(photo, settings, planned) {
-    return showBy(photo, recipe(settings), planned, settings.output.quality);
+    return showBy(photo, recipe(settings), planned, statedQuality(settings.output));
 }
