@@ -1266,8 +1266,15 @@ declare module "quorlin/recipes" {
         plan(index: whole): PlannedOutput[];
         /** Hands a picture that was planned to a worker, which makes all its outputs from one decoding. */
         give(index: whole): null;
-        /** A picture that has come, {number, outputs, ms}; without any keys where there is none. See MadeOutput. */
+        /**
+         * A picture that has come, {number, outputs, ms}; without any keys where there is none. See MadeOutput. One whose disk is full has the
+         * keys full, a sentence, and folder besides; it may be given again.
+         */
         take(): { [key: string]: any };
+        /** What waited of a picture is where it belongs, or is given up. */
+        settle(index: whole): null;
+        /** The outputs of a picture that is not begun go below that folder, and replace nothing there. */
+        moveTo(index: whole, folder: text): null;
         /** Takes back what no worker has begun; the numbers of those. */
         takeBack(): any[];
         /** Gives up what is in work, of which nothing is left, and forgets what was planned. */

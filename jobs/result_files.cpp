@@ -127,6 +127,12 @@ void ResultFiles::drop(int index)
     QFile::remove(m_begun.take(index));
 }
 
+QString ResultFiles::leave(int index)
+{
+    const bool isKept = m_kept.removeIf([index](const Kept &kept) { return kept.index == index; }) > 0;
+    return isKept ? m_begun.value(index) : QString();
+}
+
 QList<ResultFiles::Placed> ResultFiles::placeAll(OutputPlaces &places)
 {
     const QString own = platform::targetIdentity(m_input.path);

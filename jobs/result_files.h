@@ -64,6 +64,8 @@ public:
     platform::Result<void> keep(int index, qint64 bytes, const OutputPlace &place, const image::RecipeOutput &output);
     /** It is given up after all. */
     void drop(int index);
+    /** Leaves a whole file where it waits, for somebody else to place: its path; empty where there is none. */
+    QString leave(int index);
     /** It is not, for a reason that is an errno. */
     platform::Error failureOf(int code, const OutputPlace &place) const;
 

@@ -1499,6 +1499,14 @@
         <source>Result</source>
         <translation>Ergebnis</translation>
     </message>
+    <message>
+        <source>Folders in</source>
+        <translation>Ordner in</translation>
+    </message>
+    <message>
+        <source>Where the folders of the outputs are</source>
+        <translation>Wo die Ordner der Ausgaben liegen</translation>
+    </message>
 </context>
 <context>
     <name>RenameCard</name>
@@ -6514,6 +6522,21 @@
     </message>
 </context>
 <context>
+    <name>recipe-base</name>
+    <message>
+        <source>Folder of each picture</source>
+        <translation>Ordner jedes Bilds</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>Save results to</source>
+        <translation>Ergebnisse speichern in</translation>
+    </message>
+</context>
+<context>
     <name>recipe-field</name>
     <message>
         <source>Top left</source>
@@ -6795,10 +6818,6 @@
     <message>
         <source>Cancelled:</source>
         <translation>Abgebrochen:</translation>
-    </message>
-    <message>
-        <source>What is in them now goes to the trash (%1).</source>
-        <translation>Was jetzt in ihnen ist, kommt in den Papierkorb (%1).</translation>
     </message>
 </context>
 <context>

@@ -1499,6 +1499,14 @@
         <source>Result</source>
         <translation>Résultat</translation>
     </message>
+    <message>
+        <source>Folders in</source>
+        <translation>Dossiers dans</translation>
+    </message>
+    <message>
+        <source>Where the folders of the outputs are</source>
+        <translation>Où se trouvent les dossiers des sorties</translation>
+    </message>
 </context>
 <context>
     <name>RenameCard</name>
@@ -6514,6 +6522,21 @@
     </message>
 </context>
 <context>
+    <name>recipe-base</name>
+    <message>
+        <source>Folder of each picture</source>
+        <translation>Dossier de chaque image</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Choisir un dossier…</translation>
+    </message>
+    <message>
+        <source>Save results to</source>
+        <translation>Enregistrer les résultats dans</translation>
+    </message>
+</context>
+<context>
     <name>recipe-field</name>
     <message>
         <source>Top left</source>
@@ -6795,10 +6818,6 @@
     <message>
         <source>Cancelled:</source>
         <translation>Arrêté&#x202f;:</translation>
-    </message>
-    <message>
-        <source>What is in them now goes to the trash (%1).</source>
-        <translation>Ce qu’ils contiennent va à la corbeille (%1).</translation>
     </message>
 </context>
 <context>

@@ -1499,6 +1499,14 @@
         <source>Result</source>
         <translation>Resultaat</translation>
     </message>
+    <message>
+        <source>Folders in</source>
+        <translation>Mappen in</translation>
+    </message>
+    <message>
+        <source>Where the folders of the outputs are</source>
+        <translation>Waar de mappen van de uitvoer staan</translation>
+    </message>
 </context>
 <context>
     <name>RenameCard</name>
@@ -6514,6 +6522,21 @@
     </message>
 </context>
 <context>
+    <name>recipe-base</name>
+    <message>
+        <source>Folder of each picture</source>
+        <translation>Map van elke foto</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Save results to</source>
+        <translation>Resultaten bewaren in</translation>
+    </message>
+</context>
+<context>
     <name>recipe-field</name>
     <message>
         <source>Top left</source>
@@ -6795,10 +6818,6 @@
     <message>
         <source>Cancelled:</source>
         <translation>Geannuleerd:</translation>
-    </message>
-    <message>
-        <source>What is in them now goes to the trash (%1).</source>
-        <translation>Wat er nu in zit gaat naar de prullenmand (%1).</translation>
     </message>
 </context>
 <context>

@@ -224,7 +224,8 @@ private:
         message.size = made.size;
         message.isLossless = made.isLossless;
         message.bytes = made.bytes.size();
-        message.writeError = platform::writeAll(output->second, made.bytes);
+        const int trouble = m_trial.beforeWriting ? m_trial.beforeWriting(m_facts.path) : 0;
+        message.writeError = trouble != 0 ? trouble : platform::writeAll(output->second, made.bytes);
         m_outputs.erase(output);
     }
 

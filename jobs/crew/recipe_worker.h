@@ -15,6 +15,8 @@ struct WorkerTrial
 {
     /** Called before the outputs of a picture are made, with its path; where it says something, that is the reason why none is. */
     std::function<QString(const QString &path)> beforeMaking;
+    /** Called before an output is written, with the path of its picture; an errno is said in place of writing. */
+    std::function<int(const QString &path)> beforeWriting;
     /** Called before a picture is looked into for somebody who shows it. */
     std::function<void(const QString &path)> beforeReading;
 

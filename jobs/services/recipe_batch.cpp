@@ -4,9 +4,10 @@
 #include "image/recipe/sentence.h"
 #include "jobs/desk/plan_errand.h"
 #include "platform/disk/item_identity.h"
-#include "platform/disk/trash.h"
+#include "platform/foundation/paths.h"
 
-#include <QFileInfo>
+#include <algorithm>
+#include <cerrno>
 
 namespace jobs {
 namespace {
@@ -43,30 +44,29 @@ QVariantMap outcomeOf(const ReportLine &line)
             {key("width"), line.size.width()},    {key("height"), line.size.height()}};
 }
 
-/** What is to be replaced goes to the trash first; where that fails it stays, and the result is given up. */
-std::map<int, platform::TrashedItem> putAside(PictureWork &work, ResultFiles &files)
+/** The outputs that replace something, which are left to wait beside their places; the picture's own is the last. */
+QVariantList replacements(PictureWork &work, ResultFiles &files)
 {
-    std::map<int, platform::TrashedItem> aside;
+    const QString own = platform::targetIdentity(work.input.path);
+    QVariantList waiting;
+    QVariantList ofOwn;
     for (const int output : std::as_const(work.wanted)) {
-        ReportLine &line = work.lines[output];
         const QString path = work.places[output].path;
-        if (line.status != LineStatus::Planned || !work.places[output].replaces || !QFileInfo::exists(path))
+        const QString replaced = work.places[output].replaces ? platform::itemIdentity(path) : QString();
+        const QString file = replaced.isEmpty() ? QString() : files.leave(output);
+        if (file.isEmpty())
             continue;
-        const Result<platform::TrashedItem> trashed = platform::moveToTrash(path);
-        if (trashed) {
-            aside.emplace(output, *trashed);
-        } else {
-            files.drop(output);
-            fail(line, trashed.error().message);
-        }
+        QVariantMap outcome = outcomeOf(work.lines[output]);
+        outcome.insert({{key("status"), key("waiting")}, {key("file"), file}, {key("replaced"), replaced}});
+        (platform::targetIdentity(path) == own ? ofOwn : waiting).append(outcome);
+        work.lines.remove(output);
     }
-    return aside;
+    return waiting + ofOwn;
 }
 
 /** Puts what was made into its place. */
 void place(PictureWork &work, ResultFiles &files, OutputPlaces &places)
 {
-    const std::map<int, platform::TrashedItem> aside = putAside(work, files);
     for (const ResultFiles::Placed &placed : files.placeAll(places)) {
         ReportLine &line = work.lines[placed.index];
         line.output = placed.path;
@@ -74,9 +74,6 @@ void place(PictureWork &work, ResultFiles &files, OutputPlaces &places)
         if (!placed.problem.isEmpty())
             fail(line, placed.problem);
     }
-    for (const auto &[output, trashed] : aside)
-        if (work.lines[output].status != LineStatus::Ok)
-            (void)platform::restoreFromTrash(trashed, work.places[output].path);
 }
 
 /** An idle worker, and what its picture takes at most: all of it in memory, with a result of the same size beside it. */
@@ -172,6 +169,7 @@ void RecipeBatch::give(int index)
     const auto found = m_works.find(index);
     if (found == m_works.end() || m_given.count(index) != 0)
         return;
+    m_planned[index] = found->second.lines;
     BatchErrand::Task task;
     task.facts = factsOfFile(found->second.input.path, index, m_needsFacts);
     task.wantsFacts = m_needsFacts;
@@ -218,6 +216,8 @@ bool RecipeBatch::keep(int index, const MadeMessage &made)
         fail(line, made.problem);
     } else if (made.writeError != 0) {
         fail(line, files.failureOf(made.writeError, place).message);
+        if (made.writeError == ENOSPC || made.writeError == EDQUOT)
+            m_full[index] = {platform::parentFolder(place.path), line.reason};
     } else if (const auto kept = files.keep(made.index, made.bytes, place, m_recipe.outputs[made.index]); !kept) {
         fail(line, kept.error().message);
     } else {
@@ -227,26 +227,88 @@ bool RecipeBatch::keep(int index, const MadeMessage &made)
     return true;
 }
 
+/** What came of each output, when everything that needs nobody's help is in its place. */
+QVariantList RecipeBatch::outcomes(int index, const QString &problem)
+{
+    PictureWork &work = m_works.at(index);
+    QVariantList waiting;
+    if (problem.isEmpty() && m_files.count(index) != 0) {
+        ResultFiles &files = *m_files.at(index);
+        waiting = replacements(work, files);
+        place(work, files, m_naming->places());
+    }
+    QVariantList outputs;
+    for (const int output : std::as_const(work.wanted)) {
+        if (!work.lines.contains(output))
+            continue;
+        ReportLine &line = work.lines[output];
+        // Whatever was not heard of has not become anything.
+        if (line.status == LineStatus::Planned)
+            fail(line,
+                 problem.isEmpty() ? image::sentence(QT_TRANSLATE_NOOP("recipe", "nothing came of it")) : problem);
+        outputs.append(outcomeOf(line));
+    }
+    if (waiting.isEmpty())
+        m_files.erase(index);
+    return outputs + waiting;
+}
+
 /** All of a picture is made, or nothing more comes of it. */
 void RecipeBatch::end(int index, const QString &problem)
 {
     if (m_given.erase(index) == 0)
         return;
-    PictureWork &work = m_works.at(index);
-    if (problem.isEmpty() && m_files.count(index) != 0)
-        place(work, *m_files.at(index), m_naming->places());
-    QVariantList outputs;
+    if (m_full.count(index) != 0) {
+        giveBack(index);
+    } else {
+        const QVariantList outputs = outcomes(index, problem);
+        m_made.push_back(
+            {{key("number"), index}, {key("outputs"), outputs}, {key("ms"), double(m_milliseconds[index])}});
+        m_works.erase(index);
+    }
+    Q_EMIT arrived();
+}
+
+/** Nothing of it is left, and it is as it was before it was begun. */
+void RecipeBatch::giveBack(int index)
+{
+    const Full full = std::exchange(m_full[index], {});
+    m_full.erase(index);
+    m_files.erase(index);
+    m_works.at(index).lines = m_planned.at(index);
+    m_made.push_back({{key("number"), index},
+                      {key("full"), full.reason},
+                      {key("folder"), full.folder},
+                      {key("outputs"), QVariantList()},
+                      {key("ms"), double(m_milliseconds[index])}});
+}
+
+void RecipeBatch::settle(int index)
+{
+    m_files.erase(index);
+}
+
+void RecipeBatch::moveTo(int index, const QString &folder)
+{
+    const auto found = m_works.find(index);
+    if (found == m_works.end() || m_given.count(index) != 0)
+        return;
+    PictureWork &work = found->second;
+    const QString base = baseFolderOf(work.input, m_options.destination) + u'/';
     for (const int output : std::as_const(work.wanted)) {
         ReportLine &line = work.lines[output];
-        // Whatever was not heard of has not become anything.
-        if (line.status == LineStatus::Planned)
-            fail(line, problem.isEmpty() ? image::sentence("nothing came of it") : problem);
-        outputs.append(outcomeOf(line));
+        if (line.status != LineStatus::Planned)
+            continue;
+        const QString path = work.places[output].path;
+        const QString below = path.startsWith(base) ? path.mid(base.size()) : path.section(u'/', -1);
+        OutputPlace place = m_naming->places().at(platform::joinedPath(folder, below), work.input, output);
+        if (place.replaces)
+            place = {m_naming->places().numbered(place.path), false, false, {}};
+        line.output = place.path;
+        line.status = place.isSkipped ? LineStatus::Skipped : LineStatus::Planned;
+        line.reason = place.reason;
+        work.places[output] = place;
     }
-    m_made.push_back({{key("number"), index}, {key("outputs"), outputs}, {key("ms"), double(m_milliseconds[index])}});
-    m_files.erase(index);
-    m_works.erase(index);
-    Q_EMIT arrived();
 }
 
 QVariantMap RecipeBatch::take()
@@ -279,6 +341,7 @@ void RecipeBatch::close()
     m_files.clear();
     m_made.clear();
     m_works.clear();
+    m_full.clear();
     m_rooms = std::make_unique<WaitingRooms>();
 }
 

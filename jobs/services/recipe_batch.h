@@ -65,15 +65,26 @@ public:
     int inWork() const { return int(m_given.size() + m_made.size()); }
 
     /**
-     * Has the outputs that are ready made by a worker: each is written beside its place, and takes it when all of the picture are whole.
-     * What is replaced goes to the user's trash. What has taken a name meanwhile is treated as the recipe says. For a picture that was planned, once.
+     * Has the outputs that are ready made by a worker: each is written beside its place, and takes it when all of the picture are whole,
+     * unless it replaces something. What has taken a name meanwhile is treated as the recipe says. For a picture that was planned, once.
      */
     Q_INVOKABLE void give(int index);
     /**
      * A picture that has come: {number, outputs, ms}; without any keys where there is none. outputs are one dictionary each: {status, reason,
-     * path, bytes, width, height}; status is "OK" or one of those of plan() but "ready".
+     * path, bytes, width, height}; status is "OK" or one of those of plan() but "ready", or "waiting": it is whole at the path `file`, and
+     * whoever asked for it puts it into the place of what is there, which is known as `replaced` (see platform::itemIdentity()), and then
+     * says settle(). Those that replace their own picture are the last.
+     *
+     * Where a disk is full: {number, full, folder, outputs, ms}, full being a sentence. Nothing is left of that picture, which may be handed
+     * over again.
      */
     Q_INVOKABLE QVariantMap take();
+    /** What waited of a picture is where it belongs, or is given up. */
+    Q_INVOKABLE void settle(int index);
+    /**
+     * The outputs of a picture that was planned and not begun go below @p folder, in folders of the same names. Nothing is replaced there.
+     */
+    Q_INVOKABLE void moveTo(int index, const QString &folder);
     /** Takes back what no worker has begun; the numbers of those pictures, in order. They may be handed over again. */
     Q_INVOKABLE QVariantList takeBack();
     /** Gives up what is in work, of which nothing is left then, and forgets what was planned. */
@@ -87,6 +98,8 @@ private:
     bool begin();
     bool keep(int index, const MadeMessage &made);
     void end(int index, const QString &problem);
+    void giveBack(int index);
+    QVariantList outcomes(int index, const QString &problem);
     std::vector<std::pair<int, platform::Descriptor>> filesFor(int index);
 
     QString m_text;
@@ -101,8 +114,16 @@ private:
     std::unique_ptr<BatchNaming> m_naming;
     std::unique_ptr<WaitingRooms> m_rooms;
     std::shared_ptr<const SharedRecipe> m_shared;
-    std::map<int, PictureWork> m_works; ///< of the pictures that were planned
-    std::map<int, QSize> m_pixels;      ///< of theirs
+    std::map<int, PictureWork> m_works;              ///< of the pictures that were planned
+    std::map<int, QSize> m_pixels;                   ///< of theirs
+    std::map<int, QHash<int, ReportLine>> m_planned; ///< their lines before they were begun
+    /** A disk was full. */
+    struct Full
+    {
+        QString folder;
+        QString reason;
+    };
+    std::map<int, Full> m_full;
     std::map<int, std::unique_ptr<ResultFiles>> m_files;
     std::map<int, WorkerDesk::Number> m_given;
     std::map<int, qint64> m_milliseconds;

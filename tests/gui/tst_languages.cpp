@@ -23,12 +23,13 @@ constexpr QSize large(1440, 900);
 QStringList sameEverywhere()
 {
     QStringList words =
-        QStringLiteral("Quorlin px mm cm dpi KB MB GB jpg jpeg png tiff tif bmp gif pdf jp xyz sRGB RGB UTC "
-                       // the languages by their own names, and the licences of libraries
-                       "English Nederlands Deutsch Français Qt libvips exiv Cairo libjpeg turbo libdeflate OpenJPEG "
-                       "OpenJPEG libplist SQLite GPL LGPL IJG BSD MIT public domain "
-                       // forms of dates, and property names as files have them
-                       "yyyy MM dd ColorModel Depth DPIHeight DPIWidth HasAlpha PixelHeight PixelWidth")
+        QStringLiteral(
+            "Quorlin px mm cm dpi KB MB GB jpg jpeg png tiff tif bmp gif pdf jp WebP AVIF XL xyz sRGB RGB UTC "
+            // the languages by their own names, and the licences of libraries
+            "English Nederlands Deutsch Français Qt libvips exiv Cairo libjpeg turbo libdeflate OpenJPEG "
+            "OpenJPEG libplist SQLite GPL LGPL IJG BSD MIT public domain "
+            // forms of dates, and property names as files have them
+            "yyyy MM dd ColorModel Depth DPIHeight DPIWidth HasAlpha PixelHeight PixelWidth")
             .split(u' ');
     // The made language writes dates as the system does.
     for (int i = 1; i <= 12; ++i)

@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -154,12 +155,22 @@ QString trial(const QString &path, QLatin1String prefix)
                         : QStringLiteral("refused: ") + QString::fromLatin1(strerrorname_np(problem));
 }
 
+/** The first output of a picture "full-…" of each worker finds no room. */
+int roomTrial(const QString &path)
+{
+    static bool isFull = true;
+    return QFileInfo(path).completeBaseName().startsWith(QLatin1String("full-")) && std::exchange(isFull, false)
+               ? ENOSPC
+               : 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     jobs::WorkerTrial trials;
     trials.beforeMaking = [](const QString &path) { return trial(path, QLatin1String("try-")); };
+    trials.beforeWriting = roomTrial;
     trials.beforeReading = [](const QString &path) { (void)trial(path, QLatin1String("read-")); };
     std::_Exit(runWorker(argc, argv, trials));
 }

@@ -5,6 +5,7 @@ import { guard } from "../../lib/guard.js";
 import { Pane } from "../shared/pane.js";
 import { fillTokens } from "../shared/token-menu.js";
 import { CardColumn } from "./card-column.js";
+import { RecipeBase } from "./recipe-base.js";
 import { allRecipes, ownFolder } from "./recipe-files.js";
 import { RecipeHead } from "./recipe-head.js";
 import { allow, allowChanges, isAllowed, reachOf } from "./recipe-reach.js";
@@ -31,6 +32,7 @@ export class RecipePane extends Pane {
         this.operations = new CardColumn(this.form, "operationCards", handlers);
         this.outputs = new CardColumn(this.form, "outputCards", handlers);
         this.head = new RecipeHead(this);
+        this.base = new RecipeBase(this);
         this.join();
         this.begin();
         this.fill();
@@ -146,6 +148,7 @@ export class RecipePane extends Pane {
 
     showValues() {
         this.head.look();
+        this.base.show();
     }
 
     showState() {

@@ -1,13 +1,18 @@
 // Carries out a plan of a recipe by workers, several pictures at a time: each makes all files of a picture, which the batch puts into
-// their places. A generator that says what runByWorkers() of ../making/worker-job.js does.
-// Services used: the batch.
+// their places; what replaces something is put there here, so that the run can be undone. A generator that says what runByWorkers() of
+// ../making/worker-job.js does.
+// Services used: the batch, files, replacing.
 
 import { guard } from "../../lib/guard.js";
+import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
+import { placeResult } from "../making/job.js";
 
 class Making {
-    constructor(batch, items) {
+    constructor(batch, items, services) {
         this.batch = batch;
         this.items = items;
+        this.services = services;
+        this.full = emptyTable(); // why there was no room, by index
         this.next = 0;
         this.again = []; // indices that were taken back
         this.indices = Object.create(null); // by the numbers of the batch
@@ -27,7 +32,68 @@ class Making {
     }
 
     isOver(flow) {
-        return this.batch.inWork === 0 && (flow.isStopping || !this.hasNext());
+        return this.batch.inWork === 0 && !flow.isFull && (flow.isStopping || !this.hasNext());
+    }
+
+    // In the place of what is there, which goes to the trash.
+    placed(output) {
+        const parts = splitPath(output.path);
+        const item = { folder: parts.folder, name: parts.name, path: output.path, replaces: true,
+                       replaced: output.replaced };
+        const put = placeResult(output.file, item, "number", this.services);
+        const path = put.status === "OK" ? joinPath(parts.folder, put.name) : "";
+        return Object.assign({}, output, { status: put.status, reason: put.reason || "", path: path });
+    }
+
+    /** What came back from a worker: its event. */
+    take(made, flow) {
+        const index = this.indices[made.number];
+        if (made.full !== undefined && !flow.isStopping) {
+            flow.isFull = true;
+            this.full[index] = made;
+            this.again = [index].concat(this.again);
+            return this.event("back", index, [], 0);
+        }
+        if (made.full !== undefined) {
+            return this.failed(index, made.full);
+        }
+        const isWaiting = made.outputs.some((output) => output.status === "waiting");
+        const outputs =
+            made.outputs.map((output) => (output.status === "waiting" ? this.placed(output) : output));
+        if (isWaiting) {
+            this.batch.settle(made.number);
+        }
+        return this.event("end", index, outputs, made.ms);
+    }
+
+    // Those that were to be made; what was refused before is so still.
+    failed(index, reason) {
+        const outputs = this.items[index].outputs.map((output) => (output.status === "ready"
+            ? Object.assign({}, output, { status: "Failed", reason: reason, path: "" }) : output));
+        return this.event("end", index, outputs, 0);
+    }
+
+    /** The rest goes below that folder. */
+    moveRest(folder) {
+        const rest = this.again.concat(this.items.map((_item, i) => i).slice(this.next));
+        rest.forEach((index) => this.batch.moveTo(this.items[index].number, folder));
+    }
+
+    /** The disk is full, and nothing is in work: what now? Said once, however many pictures found no room. */
+    * askAboutRoom(flow) {
+        const first = this.again.find((index) => this.full[index] !== undefined);
+        flow.answerRoom(null);
+        yield { kind: "full", index: first, item: { folder: this.full[first].folder } };
+        if (flow.folder !== "") {
+            this.moveRest(flow.folder);
+            flow.folder = "";
+        }
+        const full = this.again.filter((index) => flow.isStopping && this.full[index] !== undefined);
+        this.again = this.again.filter((index) => full.indexOf(index) < 0);
+        for (let i = 0; i < full.length; i += 1) {
+            yield this.failed(full[i], this.full[full[i]].full);
+        }
+        this.full = emptyTable();
     }
 
     event(kind, index, outputs, ms) {
@@ -55,9 +121,9 @@ class Making {
     }
 }
 
-/** items: those that are wanted, each with its number in the batch. */
-export function* makeByWorkers(batch, items, flow) {
-    const making = new Making(batch, items);
+/** items: those that are wanted, each with its number in the batch; services: files and replacing. */
+export function* makeByWorkers(batch, items, services, flow) {
+    const making = new Making(batch, items, services);
     batch.arrived.connect(guard("run.arrived", () => flow.wake()));
     try {
         while (!making.isOver(flow)) {
@@ -66,7 +132,9 @@ export function* makeByWorkers(batch, items, flow) {
             }
             const made = batch.take();
             if (made.number !== undefined) {
-                yield making.event("end", making.indices[made.number], made.outputs, made.ms);
+                yield making.take(made, flow);
+            } else if (flow.isFull && batch.inWork === 0) {
+                yield* making.askAboutRoom(flow);
             } else if (making.hasNext() && !flow.holds() && batch.room > 0) {
                 yield* making.handOver();
             } else if (!making.isOver(flow)) {

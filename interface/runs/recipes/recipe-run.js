@@ -6,6 +6,7 @@ import { guard } from "../../lib/guard.js";
 import { emptyTable, splitPath } from "../../lib/names.js";
 import { fill, statusKind, statusText } from "../../lib/wording.js";
 import { Flow } from "../making/flow.js";
+import { Replacing } from "../making/replacing.js";
 import { clockText } from "../progress.js";
 import { logRow, summaryOf } from "../report.js";
 import { WriteRun } from "../write-run.js";
@@ -78,15 +79,6 @@ export class RecipeRun extends WriteRun {
         this.window.planned = summary;
     }
 
-    replacedText(bytes) {
-        return fill(qsTr("What is in them now goes to the trash (%1)."), bytes);
-    }
-
-    // The batch has put aside what was replaced.
-    endReplacing() {
-        return "";
-    }
-
     endSimulation() {
         const number = this.window.planned.files;
         this.finish(
@@ -95,8 +87,10 @@ export class RecipeRun extends WriteRun {
 
     work() {
         this.flow = new Flow(() => this.job.wake());
+        this.replacing = new Replacing(this.window.services, this.window.action.title());
+        const services = Object.assign({}, this.window.services, { replacing: this.replacing });
         // The engine loses a generator that is returned by the call that makes it.
-        const work = makeByWorkers(this.batch, this.items, this.flow);
+        const work = makeByWorkers(this.batch, this.items, services, this.flow);
         return work;
     }
 

@@ -6,6 +6,8 @@
 #include "app/window/preview/compare_preview.h"
 #include "app/window/preview/step_picture.h"
 
+#include "jobs/desk/worker_desk.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
@@ -355,6 +357,56 @@ private Q_SLOTS:
         m_driver->answerNextQuestion(QStringLiteral("Replace"));
         run(QStringLiteral("1 file made"));
         QCOMPARE(QImage(at("a.png")).size(), QSize(100, 50));
+        QVERIFY(m_driver->control<QAbstractButton>("undoButton")->isVisible());
+        m_driver->click("undoButton");
+        QVERIFY(m_driver->waitFor([this] { return QImage(at("a.png")).size() == QSize(400, 200); }));
+        QCOMPARE(QDir(m_folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList{QStringLiteral("a.png")});
+    }
+
+    void putsFoldersIntoOneThatIsChosen()
+    {
+        save("a.png", QSize(60, 40));
+        const QString other = m_driver->folder() + QStringLiteral("/other");
+        QVERIFY(QDir().mkpath(other));
+        m_driver->drop({m_folder});
+        WindowDriver::answerPanels({other});
+        m_driver->choose("base", QStringLiteral("choose"));
+        QCOMPARE(m_driver->control<QComboBox>("base")->currentData().toString(), other);
+        run(QStringLiteral("2 files made"));
+        QVERIFY(QFile::exists(other + QStringLiteral("/Web/a.jpg")) && !QFile::exists(at("Web")));
+        m_driver->choose("base", QString());
+        run(QStringLiteral("2 files made"));
+        QVERIFY(QFile::exists(at("Web/a.jpg")));
+    }
+
+    void asksWhereADiskIsFull()
+    {
+        jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+        for (const char *name : {"a.png", "b.png", "full-c.png"})
+            save(name, QSize(60, 40));
+        const QString other = m_driver->folder() + QStringLiteral("/other");
+        QVERIFY(QDir().mkpath(other));
+        m_driver->drop({m_folder});
+        WindowDriver::answerPanels({other});
+        m_driver->answerNextQuestion(QStringLiteral("Choose Folder…"));
+        run(QStringLiteral("6 files made"));
+        for (const char *name : {"/Web/full-c.jpg", "/Web/full-c-small.jpg"})
+            QVERIFY2(QFile::exists(other + QLatin1String(name)), name);
+        // What was done before stays where it is.
+        QVERIFY(!QFile::exists(at("Web/full-c.jpg")));
+    }
+
+    void endsWhereADiskIsFullAndNobodyMakesRoom()
+    {
+        jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+        save("full-a.png", QSize(60, 40));
+        m_driver->drop({m_folder});
+        m_driver->answerNextQuestion(QStringLiteral("Cancel"));
+        run(QStringLiteral("Cancelled: 0 files made · 2 failed"));
+        QVERIFY2(m_driver->cell(0, PictureModel::Status).startsWith(QStringLiteral("Failed: ")),
+                 qPrintable(m_driver->cell(0, PictureModel::Status)));
+        QVERIFY(!QFile::exists(at("Web")) || QDir(at("Web")).isEmpty());
     }
 
 private:

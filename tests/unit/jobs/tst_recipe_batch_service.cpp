@@ -1,5 +1,5 @@
 #include "jobs/services/recipe_batch.h"
-#include "platform/disk/trash.h"
+#include "platform/disk/item_identity.h"
 #include "tests/support/test_program.h"
 
 #include <QDir>
@@ -39,6 +39,16 @@ QVariantList made(jobs::RecipeBatch &batch, int index)
     return result.value(key("number")).toInt() == index ? result.value(key("outputs")).toList() : QVariantList();
 }
 
+/** The trial worker in place of the real one, for one test. */
+class TrialWorkers
+{
+public:
+    TrialWorkers() { jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER)); }
+    ~TrialWorkers() { jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKERS "/quorlin-worker")); }
+    TrialWorkers(const TrialWorkers &) = delete;
+    TrialWorkers &operator=(const TrialWorkers &) = delete;
+};
+
 } // namespace
 
 /** A recipe over the pictures of a list, as scripts carry it out. */
@@ -57,6 +67,9 @@ private Q_SLOTS:
     void numbersEqualNames();
     void keepsWhatIsThereOrReplacesIt();
     void replacesTheOriginalOnlyWhereItSaysSo();
+    void leavesItsOwnOriginalToTheLast();
+    void givesAPictureBackThatHasNoRoom();
+    void saysWhichDiskIsFull();
     void keepsWhatNothingTakesThePlaceOf();
     void neverReplacesAnotherPictureOfTheList();
     void leavesOutWhatIsSkipped();
@@ -179,8 +192,60 @@ void TestRecipeBatchService::keepsWhatIsThereOrReplacesIt()
     QCOMPARE(valuesOf(plan, "replaces"), QStringList{key("true")});
     QCOMPARE(valuesOf(plan, "replacesOriginal"), QStringList{key("false")});
     QVERIFY(isOld("Out/a.jpg"));
-    made(*replaces, 0);
-    QCOMPARE(QImage(at("Out/a.jpg")).size(), QSize(40, 20));
+    // It waits for somebody who can put aside what is there.
+    const QVariantMap waiting = made(*replaces, 0).value(0).toMap();
+    QCOMPARE(waiting[key("status")].toString(), key("waiting"));
+    QCOMPARE(waiting[key("path")].toString(), at("Out/a.jpg"));
+    QCOMPARE(waiting[key("replaced")].toString(), platform::itemIdentity(at("Out/a.jpg")));
+    QCOMPARE(QImage(waiting[key("file")].toString()).size(), QSize(40, 20));
+    QVERIFY(isOld("Out/a.jpg"));
+    replaces->settle(0);
+    QVERIFY(!QFile::exists(waiting[key("file")].toString()));
+}
+
+void TestRecipeBatchService::leavesItsOwnOriginalToTheLast()
+{
+    write("a-10.png");
+    const QString recipe = key(R"({"quorlin": 1, "outputs": [{"type": "png", "ifTaken": "replace"},
+        {"type": "jpeg"}, {"type": "png", "name": "{name}-10", "ifTaken": "replace"}]})");
+    const auto one = batch(recipe, {key("a.png")});
+    one->plan(0);
+    const QVariantList results = made(*one, 0);
+    QCOMPARE(valuesOf(results, "status"), (QStringList{key("OK"), key("waiting"), key("waiting")}));
+    QCOMPARE(valuesOf(results, "path"), (QStringList{at("a.jpg"), at("a-10.png"), at("a.png")}));
+}
+
+void TestRecipeBatchService::givesAPictureBackThatHasNoRoom()
+{
+    const TrialWorkers workers;
+    save("full-a.png", {40, 20});
+    const auto one = batch(m_two, {key("full-a.png")});
+    one->plan(0);
+    QVERIFY(made(*one, 0).isEmpty());
+    QVERIFY(!QFile::exists(at("Out/full-a.jpg")) && !QFile::exists(at("Out/full-a-10.png")));
+    // Another folder, in which a name is taken.
+    write("Other/Out/full-a.jpg");
+    one->moveTo(0, at("Other"));
+    QVariantList results;
+    for (int tries = 0; tries < 64 && results.isEmpty(); ++tries) // each worker is without room once
+        results = made(*one, 0);
+    QCOMPARE(valuesOf(results, "status"), (QStringList{key("OK"), key("OK")}));
+    QCOMPARE(valuesOf(results, "path"), (QStringList{at("Other/Out/full-a (2).jpg"), at("Other/Out/full-a-10.png")}));
+    QVERIFY(isOld("Other/Out/full-a.jpg"));
+}
+
+void TestRecipeBatchService::saysWhichDiskIsFull()
+{
+    const TrialWorkers workers;
+    save("full-a.png", {40, 20});
+    const auto one = batch(m_two, {key("full-a.png")});
+    one->plan(0);
+    one->give(0);
+    QSignalSpy arrived(one.get(), &jobs::RecipeBatch::arrived);
+    QVERIFY(arrived.wait(20000));
+    const QVariantMap full = one->take();
+    QCOMPARE(full[key("folder")].toString(), at("Out"));
+    QVERIFY2(full[key("full")].toString().contains(at("Out/full-a.jpg")), qPrintable(full[key("full")].toString()));
 }
 
 void TestRecipeBatchService::replacesTheOriginalOnlyWhereItSaysSo()
@@ -189,12 +254,8 @@ void TestRecipeBatchService::replacesTheOriginalOnlyWhereItSaysSo()
     QCOMPARE(valuesOf(numbers->plan(0), "path"), QStringList{at("a (2).png")});
     const auto replaces = batch(m_one.arg(key("replace")), {key("a.png")});
     QCOMPARE(valuesOf(replaces->plan(0), "replacesOriginal"), QStringList{key("true")});
-    made(*replaces, 0);
-    QCOMPARE(QImage(at("a.png")).size(), QSize(20, 10));
-    // The original is in the trash.
-    const auto trashed = platform::trashedFrom(at("a.png"));
-    QCOMPARE(trashed.size(), size_t(1));
-    QCOMPARE(QImage(trashed.front().path).size(), QSize(40, 20));
+    QCOMPARE(valuesOf(made(*replaces, 0), "status"), QStringList{key("waiting")});
+    QCOMPARE(QImage(at("a.png")).size(), QSize(40, 20));
 }
 
 void TestRecipeBatchService::keepsWhatNothingTakesThePlaceOf()
