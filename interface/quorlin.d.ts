@@ -1396,6 +1396,11 @@ declare module "quorlin/moves" {
         runs(): Run[];
         /** Ends what a crash interrupted; runs of another living process are left alone. Once, at start. */
         recover(): Recovered[];
+        /**
+         * What is left of a run that recover() ended, to be begun as a run again, and where its items are now but those that went along
+         * with others. Nothing of one that took another back.
+         */
+        rest(run: text): { items: Wish[]; places: string[] };
     };
 }
 

@@ -11,11 +11,14 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <map>
 
 namespace files {
 namespace {
 
 using platform::ItemState;
+
+const QString recoveredEnd = QStringLiteral("recovered");
 
 /** Finds out where the items of an interrupted run are, and takes away what is left of unfinished copies. */
 class Search
@@ -373,7 +376,7 @@ RecoveredRun recoverOne(platform::FileSystem &disk, JournalShelf &shelf, RunReco
     run->mend();
     if (before.isDamaged)
         search.problems += rescueHidden(disk, before);
-    run->close(QStringLiteral("recovered"));
+    run->close(recoveredEnd);
     RecoveredRun report = reportOf(before, found, run->record());
     report.problems += search.problems;
     return report;
@@ -406,6 +409,31 @@ std::vector<RecoveredRun> recoverMoves(platform::FileSystem &disk, JournalShelf 
             recovered.push_back(recoverOne(disk, shelf, std::move(record)));
     }
     return recovered;
+}
+
+RestOfRun restOf(const JournalShelf &shelf, const QString &run)
+{
+    RestOfRun rest;
+    const RunRecord record =
+        shelf.names().contains(run) ? readRecord(shelf.read(run).value_or(QByteArray())) : RunRecord();
+    if (record.id != run || record.end != recoveredEnd || record.isByHand)
+        return rest;
+    std::map<int, int> numbers; // among the rest
+    for (int i = 0; i < int(record.items.size()); ++i) {
+        const MoveRecord &each = record.items[size_t(i)];
+        if (!each.isKnown)
+            continue;
+        if (each.item.leader < 0)
+            rest.places.append(each.stand == Stand::Done ? each.path : each.item.from);
+        const bool isLeft = each.stand == Stand::Waiting || each.stand == Stand::TakenBack;
+        if (!isLeft || !record.undoes.isEmpty())
+            continue;
+        numbers[i] = int(rest.items.size());
+        const auto leader = numbers.find(each.item.leader);
+        rest.items.push_back({each.item.operation, each.item.from, each.item.to});
+        rest.items.back().leader = leader == numbers.end() ? -1 : leader->second;
+    }
+    return rest;
 }
 
 } // namespace files

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/moving/journal_shelf.h"
+#include "files/moving/move_record.h"
 
 #include "platform/disk/file_system.h"
 
@@ -27,5 +28,16 @@ struct RecoveredRun
  * A run that another living process holds is left alone. May be interrupted itself and called again.
  */
 std::vector<RecoveredRun> recoverMoves(platform::FileSystem &disk, JournalShelf &shelf);
+
+/** What is left of a run that was interrupted. */
+struct RestOfRun
+{
+    std::vector<MoveItem>
+        items;          ///< those that kept their old names, to be begun as a run again; leaders are counted among them
+    QStringList places; ///< where all its items are now but those that went along with others, in order
+};
+
+/** Of a run that recoverMoves() has ended; empty for any other. One that takes another back has no items: that is done once more. */
+RestOfRun restOf(const JournalShelf &shelf, const QString &run);
 
 } // namespace files

@@ -324,4 +324,16 @@ QVariantList MoveService::recover()
     return runs << mapOf(swept);
 }
 
+QVariantMap MoveService::rest(const QString &run) const
+{
+    const RestOfRun rest = restOf(*m_shelf, run);
+    QVariantList items;
+    for (const MoveItem &item : rest.items)
+        items.append(QVariantMap{{QStringLiteral("kind"), wordOf(item.operation)},
+                                 {QStringLiteral("from"), item.from},
+                                 {QStringLiteral("to"), item.to},
+                                 {QStringLiteral("leader"), item.leader}});
+    return {{QStringLiteral("items"), items}, {QStringLiteral("places"), rest.places}};
+}
+
 } // namespace files

@@ -80,6 +80,8 @@ public:
     Q_INVOKABLE QVariantList runs() const;
     /** Ends what was interrupted: [{id, title, done, finished, takenBack, left, problems}]. Once, at start. */
     Q_INVOKABLE QVariantList recover();
+    /** What is left of a run that recover() ended: {items: [{kind, from, to, leader}], places}, see restOf(). */
+    Q_INVOKABLE QVariantMap rest(const QString &run) const;
 
 private:
     /** A plan in the making; it is begun when the last wish is known. */

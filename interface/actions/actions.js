@@ -14,9 +14,11 @@
 //   takes    the extensions of pictures that are taken, in any case of letters
 //   takesAlong(settings)  true where files that belong to a picture go along with it (lib/sidecars.js); may be missing
 //   startText(number, settings)  what the button says
+//   doing()  what a run of it is, at the beginning of a sentence: "Resizing"; the title where it is missing
 //   headings()  other words for the heads of columns than those of the manner (may be missing)
 // MOVES also: done(number, settings, folders) and undone(number, settings) for the summary, with settings null where they are not known;
 // folders is {used: paths that got files, made: how many there were not before} where fillsFolders is true.
+// givesNames is true where the files keep their folders.
 // PAGE also: page, a class made with (window, action) that has form and show(), and may have leave(), mayLeave(), listChanged(),
 // runChanged(). hasUndo is true where Ctrl+Z belongs to the page.
 

@@ -14,6 +14,11 @@ export function pixels(size) {
     return size.width + "×" + size.height;
 }
 
+/** 10000 gives "10,000" in the reader's own form of numbers. */
+export function numberText(number) {
+    return number.toLocaleString();
+}
+
 /** 39.68 gives "39.7 %" in the reader's own form of numbers, with a space that does not break. */
 export function percent(value) {
     return (Math.round(value * 10) / 10).toLocaleString() + "\u00a0%";

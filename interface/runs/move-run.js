@@ -202,6 +202,21 @@ export class MoveRun extends BaseRun {
         }
     }
 
+    /** Carries out what is left of a run that was interrupted, as it was planned; items: those of moves.rest(). */
+    finishRest(title, items) {
+        this.tellPane("starting");
+        this.startPlanning(this.window.pictures.ids());
+        this.title = title;
+        this.undoes = "";
+        this.undone = null;
+        this.toldMs = 0;
+        this.leftOut = 0;
+        this.rowAt = rowsByPath(this.window.pictures);
+        this.startMoving();
+        this.items = items.map((item) => Object.assign({ row: undefined, along: item.leader >= 0 }, item));
+        this.begin();
+    }
+
     startMoving() {
         this.done = [];
         this.moved = 0;

@@ -54,6 +54,7 @@ export class WriteRun extends BaseRun {
         super.reset(ids);
         this.flow = null; // of a run by workers
         this.replacing = null;
+        this.interrupted = ""; // the record of a run that this one goes on with
         this.inWork = 0;
         this.toldMs = 0;
         this.steppedMs = 0;
@@ -182,6 +183,7 @@ export class WriteRun extends BaseRun {
             for (const part of record.begin(head, this.items)) {
                 yield { kind: "recorded", index: part, item: this.items[part] };
             }
+            runRecords.end(this.interrupted); // what it said is in this one
             yield* runByWorkers(this.items, step, this.settings, Object.assign({}, services, { record: record }),
                                 this.flow);
         } finally {
@@ -189,11 +191,15 @@ export class WriteRun extends BaseRun {
         }
     }
 
-    /** Goes on with a run that was interrupted, as it was planned; done: the results that are there, by index. */
-    continueRun(record, done) {
+    /**
+     * Goes on with a run that was interrupted, as it was planned; done: the results that are there, by index; path: of the record, which
+     * ends when this run has its own.
+     */
+    continueRun(record, done, path) {
         const window = this.window;
         const rows = rowsByPath(window.pictures);
         this.startPlanning(record.items.map((item) => rows[item.of] || 0));
+        this.interrupted = path;
         this.settings = record.head.settings;
         this.simulated = false;
         this.items = record.items.map((item, i) => {

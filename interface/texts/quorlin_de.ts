@@ -434,6 +434,17 @@
     </message>
 </context>
 <context>
+    <name>interrupted-bar</name>
+    <message>
+        <source>A run was interrupted</source>
+        <translation>Ein Durchlauf wurde unterbrochen</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
     <name>LogPage</name>
     <message>
         <source>Search the log</source>
@@ -865,6 +876,22 @@
     <message>
         <source>When done</source>
         <translation>Danach</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Belassen</translation>
+    </message>
+    <message>
+        <source>Give the files that were done their old names and places again (Ctrl+Z)</source>
+        <translation>Den fertigen Dateien ihre alten Namen und Orte wiedergeben (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>What is done stays as it is, and this is not asked again</source>
+        <translation>Was fertig ist, bleibt so, und es wird nicht noch einmal gefragt</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsetzen</translation>
     </message>
 </context>
 <context>
@@ -2212,6 +2239,10 @@
             <numerusform>%n Bilder rahmen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Framing</source>
+        <translation>Das Rahmen</translation>
+    </message>
 </context>
 <context>
     <name>background-pane</name>
@@ -2535,6 +2566,10 @@
             <numerusform>%n Bilder umwandeln</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Converting</source>
+        <translation>Das Umwandeln</translation>
+    </message>
 </context>
 <context>
     <name>convert-pane</name>
@@ -2605,6 +2640,10 @@
             <numerusform>%n Bild zuschneiden</numerusform>
             <numerusform>%n Bilder zuschneiden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Cropping</source>
+        <translation>Das Zuschneiden</translation>
     </message>
 </context>
 <context>
@@ -3480,28 +3519,41 @@
 </context>
 <context>
     <name>interrupted</name>
-    <message>
-        <source>A run was interrupted</source>
-        <translation>Ein Lauf wurde unterbrochen</translation>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 pictures are done.</source>
+        <translation>
+            <numerusform>%1 wurde unterbrochen: %2 von %3 Bildern ist fertig.</numerusform>
+            <numerusform>%1 wurde unterbrochen: %2 von %3 Bildern sind fertig.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
-        <source>%1 was interrupted: %2 of %n pictures are done.</source>
+        <source>Undoing “%1” was interrupted: %2 of %3 files are done.</source>
         <translation>
-            <numerusform>%1 wurde unterbrochen: %2 von %n Bild ist fertig.</numerusform>
-            <numerusform>%1 wurde unterbrochen: %2 von %n Bildern sind fertig.</numerusform>
+            <numerusform>Das Rückgängigmachen von „%1“ wurde unterbrochen: %2 von %3 Dateien ist fertig.</numerusform>
+            <numerusform>Das Rückgängigmachen von „%1“ wurde unterbrochen: %2 von %3 Dateien sind fertig.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 files have their new names.</source>
+        <translation>
+            <numerusform>%1 wurde unterbrochen: %2 von %3 Dateien hat ihren neuen Namen.</numerusform>
+            <numerusform>%1 wurde unterbrochen: %2 von %3 Dateien haben ihre neuen Namen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 files are done.</source>
+        <translation>
+            <numerusform>%1 wurde unterbrochen: %2 von %3 Dateien ist fertig.</numerusform>
+            <numerusform>%1 wurde unterbrochen: %2 von %3 Dateien sind fertig.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Nothing half written is left. The rest can be made now, as it was planned.</source>
-        <translation>Nichts halb Geschriebenes bleibt zurück. Der Rest kann jetzt gemacht werden, wie er geplant war.</translation>
+        <source>Rename the Rest</source>
+        <translation>Den Rest umbenennen</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation>Weitermachen</translation>
-    </message>
-    <message>
-        <source>Leave</source>
-        <translation>Lassen</translation>
+        <translation>Fortsetzen</translation>
     </message>
 </context>
 <context>
@@ -6520,6 +6572,10 @@
             <numerusform>Rezept auf %n Bilder anwenden</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Work on the recipe</source>
+        <translation>Die Arbeit nach dem Rezept</translation>
+    </message>
 </context>
 <context>
     <name>recipe-base</name>
@@ -7072,17 +7128,6 @@
     </message>
 </context>
 <context>
-    <name>recover-runs</name>
-    <message>
-        <source>A run was interrupted</source>
-        <translation>Ein Durchlauf wurde unterbrochen</translation>
-    </message>
-    <message>
-        <source>Continue</source>
-        <translation>Weiter</translation>
-    </message>
-</context>
-<context>
     <name>recovered</name>
     <message numerus="yes">
         <source>%n items have their new names</source>
@@ -7161,6 +7206,10 @@
             <numerusform>%n Datei hat wieder ihren alten Namen</numerusform>
             <numerusform>%n Dateien haben wieder ihre alten Namen</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Das Umbenennen</translation>
     </message>
 </context>
 <context>
@@ -7466,6 +7515,10 @@
             <numerusform>%n Bilder skalieren</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Resizing</source>
+        <translation>Das Ändern der Größe</translation>
+    </message>
 </context>
 <context>
     <name>resize-pane</name>
@@ -7661,6 +7714,10 @@
             <numerusform>%n Bild abrunden</numerusform>
             <numerusform>%n Bilder abrunden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Rounding corners</source>
+        <translation>Das Abrunden der Ecken</translation>
     </message>
 </context>
 <context>
@@ -7933,6 +7990,10 @@
             <numerusform>%n Ordner angelegt</numerusform>
             <numerusform>%n Ordner angelegt</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Sorting</source>
+        <translation>Das Einsortieren</translation>
     </message>
 </context>
 <context>
@@ -8825,6 +8886,10 @@
             <numerusform>%n Bilder drehen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Rotating</source>
+        <translation>Das Drehen</translation>
+    </message>
 </context>
 <context>
     <name>turn-pane</name>
@@ -9006,6 +9071,10 @@
             <numerusform>%n Bild mit Wasserzeichen versehen</numerusform>
             <numerusform>%n Bilder mit Wasserzeichen versehen</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Watermarking</source>
+        <translation>Das Einfügen von Wasserzeichen</translation>
     </message>
 </context>
 <context>

@@ -309,10 +309,31 @@
 <context>
     <name>interrupted</name>
     <message numerus="yes">
-        <source>%1 was interrupted: %2 of %n pictures are done.</source>
+        <source>%1 was interrupted: %2 of %3 pictures are done.</source>
         <translation>
-            <numerusform>%1 was interrupted: %2 of %n picture is done.</numerusform>
-            <numerusform>%1 was interrupted: %2 of %n pictures are done.</numerusform>
+            <numerusform>%1 was interrupted: %2 of %3 pictures is done.</numerusform>
+            <numerusform>%1 was interrupted: %2 of %3 pictures are done.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undoing “%1” was interrupted: %2 of %3 files are done.</source>
+        <translation>
+            <numerusform>Undoing “%1” was interrupted: %2 of %3 files is done.</numerusform>
+            <numerusform>Undoing “%1” was interrupted: %2 of %3 files are done.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 files have their new names.</source>
+        <translation>
+            <numerusform>%1 was interrupted: %2 of %3 files has its new name.</numerusform>
+            <numerusform>%1 was interrupted: %2 of %3 files have their new names.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 files are done.</source>
+        <translation>
+            <numerusform>%1 was interrupted: %2 of %3 files is done.</numerusform>
+            <numerusform>%1 was interrupted: %2 of %3 files are done.</numerusform>
         </translation>
     </message>
 </context>

@@ -434,6 +434,17 @@
     </message>
 </context>
 <context>
+    <name>interrupted-bar</name>
+    <message>
+        <source>A run was interrupted</source>
+        <translation>Un traitement a été interrompu</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
     <name>LogPage</name>
     <message>
         <source>Search the log</source>
@@ -865,6 +876,22 @@
     <message>
         <source>When done</source>
         <translation>À la fin</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Laisser</translation>
+    </message>
+    <message>
+        <source>Give the files that were done their old names and places again (Ctrl+Z)</source>
+        <translation>Rendre aux fichiers faits leurs anciens noms et emplacements (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>What is done stays as it is, and this is not asked again</source>
+        <translation>Ce qui est fait reste ainsi, et la question ne revient pas</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
     </message>
 </context>
 <context>
@@ -2212,6 +2239,10 @@
             <numerusform>Encadrer %n images</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Framing</source>
+        <translation>L’encadrement</translation>
+    </message>
 </context>
 <context>
     <name>background-pane</name>
@@ -2535,6 +2566,10 @@
             <numerusform>Convertir %n images</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Converting</source>
+        <translation>Le travail de conversion</translation>
+    </message>
 </context>
 <context>
     <name>convert-pane</name>
@@ -2605,6 +2640,10 @@
             <numerusform>Recadrer %n image</numerusform>
             <numerusform>Recadrer %n images</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Cropping</source>
+        <translation>Le recadrage</translation>
     </message>
 </context>
 <context>
@@ -3481,27 +3520,40 @@
 <context>
     <name>interrupted</name>
     <message>
-        <source>A run was interrupted</source>
-        <translation>Un traitement a été interrompu</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 was interrupted: %2 of %n pictures are done.</source>
-        <translation>
-            <numerusform>%1 a été interrompu : %2 image sur %n est faite.</numerusform>
-            <numerusform>%1 a été interrompu : %2 images sur %n sont faites.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Nothing half written is left. The rest can be made now, as it was planned.</source>
-        <translation>Rien d’à moitié écrit ne reste. Le reste peut être fait maintenant, comme prévu.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Continuer</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 pictures are done.</source>
+        <translation>
+            <numerusform>%1 a été interrompu : %2 image sur %3 est faite.</numerusform>
+            <numerusform>%1 a été interrompu : %2 images sur %3 sont faites.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undoing “%1” was interrupted: %2 of %3 files are done.</source>
+        <translation>
+            <numerusform>L’annulation de « %1 » a été interrompue : %2 fichier sur %3 est fait.</numerusform>
+            <numerusform>L’annulation de « %1 » a été interrompue : %2 fichiers sur %3 sont faits.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 files have their new names.</source>
+        <translation>
+            <numerusform>%1 a été interrompu : %2 fichier sur %3 a son nouveau nom.</numerusform>
+            <numerusform>%1 a été interrompu : %2 fichiers sur %3 ont leur nouveau nom.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 files are done.</source>
+        <translation>
+            <numerusform>%1 a été interrompu : %2 fichier sur %3 est fait.</numerusform>
+            <numerusform>%1 a été interrompu : %2 fichiers sur %3 sont faits.</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Leave</source>
-        <translation>Laisser</translation>
+        <source>Rename the Rest</source>
+        <translation>Renommer le reste</translation>
     </message>
 </context>
 <context>
@@ -6520,6 +6572,10 @@
             <numerusform>Appliquer la recette à %n images</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Work on the recipe</source>
+        <translation>Le travail selon la recette</translation>
+    </message>
 </context>
 <context>
     <name>recipe-base</name>
@@ -7072,17 +7128,6 @@
     </message>
 </context>
 <context>
-    <name>recover-runs</name>
-    <message>
-        <source>A run was interrupted</source>
-        <translation>Un traitement a été interrompu</translation>
-    </message>
-    <message>
-        <source>Continue</source>
-        <translation>Continuer</translation>
-    </message>
-</context>
-<context>
     <name>recovered</name>
     <message numerus="yes">
         <source>%n items have their new names</source>
@@ -7161,6 +7206,10 @@
             <numerusform>%n fichier a retrouvé son ancien nom</numerusform>
             <numerusform>%n fichiers ont retrouvé leur ancien nom</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Le renommage</translation>
     </message>
 </context>
 <context>
@@ -7466,6 +7515,10 @@
             <numerusform>Redimensionner %n images</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Resizing</source>
+        <translation>Le redimensionnement</translation>
+    </message>
 </context>
 <context>
     <name>resize-pane</name>
@@ -7661,6 +7714,10 @@
             <numerusform>Arrondir %n image</numerusform>
             <numerusform>Arrondir %n images</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Rounding corners</source>
+        <translation>L’arrondissement des coins</translation>
     </message>
 </context>
 <context>
@@ -7933,6 +7990,10 @@
             <numerusform>%n dossier créé</numerusform>
             <numerusform>%n dossiers créés</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Sorting</source>
+        <translation>Le classement</translation>
     </message>
 </context>
 <context>
@@ -8825,6 +8886,10 @@
             <numerusform>Pivoter %n images</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Rotating</source>
+        <translation>Le pivotement</translation>
+    </message>
 </context>
 <context>
     <name>turn-pane</name>
@@ -9006,6 +9071,10 @@
             <numerusform>Filigraner %n image</numerusform>
             <numerusform>Filigraner %n images</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Watermarking</source>
+        <translation>L’ajout de filigranes</translation>
     </message>
 </context>
 <context>

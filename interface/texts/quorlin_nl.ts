@@ -434,6 +434,17 @@
     </message>
 </context>
 <context>
+    <name>interrupted-bar</name>
+    <message>
+        <source>A run was interrupted</source>
+        <translation>Een opdracht is onderbroken</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+</context>
+<context>
     <name>LogPage</name>
     <message>
         <source>Search the log</source>
@@ -865,6 +876,22 @@
     <message>
         <source>When done</source>
         <translation>Na afloop</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Laten</translation>
+    </message>
+    <message>
+        <source>Give the files that were done their old names and places again (Ctrl+Z)</source>
+        <translation>Geef de bestanden die klaar zijn hun oude namen en plaatsen terug (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>What is done stays as it is, and this is not asked again</source>
+        <translation>Wat klaar is blijft zo, en dit wordt niet nog eens gevraagd</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
     </message>
 </context>
 <context>
@@ -2212,6 +2239,10 @@
             <numerusform>%n foto’s inlijsten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Framing</source>
+        <translation>Het omlijsten</translation>
+    </message>
 </context>
 <context>
     <name>background-pane</name>
@@ -2535,6 +2566,10 @@
             <numerusform>%n foto’s converteren</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Converting</source>
+        <translation>Het converteren</translation>
+    </message>
 </context>
 <context>
     <name>convert-pane</name>
@@ -2605,6 +2640,10 @@
             <numerusform>%n foto bijsnijden</numerusform>
             <numerusform>%n foto’s bijsnijden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Cropping</source>
+        <translation>Het bijsnijden</translation>
     </message>
 </context>
 <context>
@@ -3481,27 +3520,40 @@
 <context>
     <name>interrupted</name>
     <message>
-        <source>A run was interrupted</source>
-        <translation>Een verwerking werd onderbroken</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 was interrupted: %2 of %n pictures are done.</source>
-        <translation>
-            <numerusform>%1 werd onderbroken: %2 van %n foto is klaar.</numerusform>
-            <numerusform>%1 werd onderbroken: %2 van %n foto’s zijn klaar.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Nothing half written is left. The rest can be made now, as it was planned.</source>
-        <translation>Er blijft niets half geschreven achter. De rest kan nu worden gemaakt, zoals gepland.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Doorgaan</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 pictures are done.</source>
+        <translation>
+            <numerusform>%1 is onderbroken: %2 van %3 afbeeldingen is klaar.</numerusform>
+            <numerusform>%1 is onderbroken: %2 van %3 afbeeldingen zijn klaar.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undoing “%1” was interrupted: %2 of %3 files are done.</source>
+        <translation>
+            <numerusform>Het ongedaan maken van ‘%1’ is onderbroken: %2 van %3 bestanden is klaar.</numerusform>
+            <numerusform>Het ongedaan maken van ‘%1’ is onderbroken: %2 van %3 bestanden zijn klaar.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 files have their new names.</source>
+        <translation>
+            <numerusform>%1 is onderbroken: %2 van %3 bestanden heeft zijn nieuwe naam.</numerusform>
+            <numerusform>%1 is onderbroken: %2 van %3 bestanden hebben hun nieuwe naam.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was interrupted: %2 of %3 files are done.</source>
+        <translation>
+            <numerusform>%1 is onderbroken: %2 van %3 bestanden is klaar.</numerusform>
+            <numerusform>%1 is onderbroken: %2 van %3 bestanden zijn klaar.</numerusform>
+        </translation>
+    </message>
     <message>
-        <source>Leave</source>
-        <translation>Laten</translation>
+        <source>Rename the Rest</source>
+        <translation>De rest hernoemen</translation>
     </message>
 </context>
 <context>
@@ -6520,6 +6572,10 @@
             <numerusform>Recept op %n foto’s toepassen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Work on the recipe</source>
+        <translation>Het werk volgens het recept</translation>
+    </message>
 </context>
 <context>
     <name>recipe-base</name>
@@ -7072,17 +7128,6 @@
     </message>
 </context>
 <context>
-    <name>recover-runs</name>
-    <message>
-        <source>A run was interrupted</source>
-        <translation>Een opdracht is onderbroken</translation>
-    </message>
-    <message>
-        <source>Continue</source>
-        <translation>Doorgaan</translation>
-    </message>
-</context>
-<context>
     <name>recovered</name>
     <message numerus="yes">
         <source>%n items have their new names</source>
@@ -7161,6 +7206,10 @@
             <numerusform>%n bestand heeft weer de oude naam</numerusform>
             <numerusform>%n bestanden hebben weer hun oude naam</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Renaming</source>
+        <translation>Het hernoemen</translation>
     </message>
 </context>
 <context>
@@ -7466,6 +7515,10 @@
             <numerusform>%n foto’s schalen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Resizing</source>
+        <translation>Het wijzigen van de grootte</translation>
+    </message>
 </context>
 <context>
     <name>resize-pane</name>
@@ -7661,6 +7714,10 @@
             <numerusform>Hoeken van %n foto afronden</numerusform>
             <numerusform>Hoeken van %n foto’s afronden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Rounding corners</source>
+        <translation>Het afronden van hoeken</translation>
     </message>
 </context>
 <context>
@@ -7933,6 +7990,10 @@
             <numerusform>%n map gemaakt</numerusform>
             <numerusform>%n mappen gemaakt</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Sorting</source>
+        <translation>Het sorteren</translation>
     </message>
 </context>
 <context>
@@ -8825,6 +8886,10 @@
             <numerusform>%n foto’s draaien</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Rotating</source>
+        <translation>Het draaien</translation>
+    </message>
 </context>
 <context>
     <name>turn-pane</name>
@@ -9006,6 +9071,10 @@
             <numerusform>Watermerk op %n foto zetten</numerusform>
             <numerusform>Watermerk op %n foto’s zetten</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Watermarking</source>
+        <translation>Het aanbrengen van watermerken</translation>
     </message>
 </context>
 <context>

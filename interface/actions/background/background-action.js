@@ -9,6 +9,7 @@ import * as step from "./background-step.js";
 export const background = onPictures({
     name: "background",
     title: () => qsTr("Background & Border"),
+    doing: () => qsTr("Framing"),
     step: step,
     pane: BackgroundPane,
     presets: presets,

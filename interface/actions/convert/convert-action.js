@@ -10,6 +10,7 @@ import * as step from "./convert-step.js";
 export const convert = onPictures({
     name: "convert",
     title: () => qsTr("Convert"),
+    doing: () => qsTr("Converting"),
     step: step,
     pane: ConvertPane,
     presets: presets,

@@ -9,6 +9,7 @@ import * as step from "./crop-step.js";
 export const crop = onPictures({
     name: "crop",
     title: () => qsTr("Crop"),
+    doing: () => qsTr("Cropping"),
     step: step,
     pane: CropPane,
     presets: presets,

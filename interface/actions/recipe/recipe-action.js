@@ -9,6 +9,7 @@ import * as step from "./recipe-step.js";
 export const recipe = Object.assign(onPictures({
     name: "recipe",
     title: () => qsTr("Recipe"),
+    doing: () => qsTr("Work on the recipe"),
     step: step,
     pane: RecipePane,
     startText: (number) => qsTr("Run Recipe on %n Pictures", "", number),

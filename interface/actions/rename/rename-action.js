@@ -12,6 +12,8 @@ function areFolders(settings) {
 export const rename = {
     name: "rename",
     title: () => qsTr("Rename"),
+    givesNames: true,
+    doing: () => qsTr("Renaming"),
     manner: MOVES,
     usesList: true,
     step: step,

@@ -9,6 +9,7 @@ import * as step from "./resize-step.js";
 export const resize = onPictures({
     name: "resize",
     title: () => qsTr("Resize"),
+    doing: () => qsTr("Resizing"),
     step: step,
     pane: ResizePane,
     presets: presets,

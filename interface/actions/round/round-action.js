@@ -9,6 +9,7 @@ import * as step from "./round-step.js";
 export const round = onPictures({
     name: "round",
     title: () => qsTr("Round Corners"),
+    doing: () => qsTr("Rounding corners"),
     step: step,
     pane: RoundPane,
     presets: presets,

@@ -37,6 +37,7 @@ function done(number, settings, folders) {
 export const sort = {
     name: "sort",
     title: () => qsTr("Sort into Folders"),
+    doing: () => qsTr("Sorting"),
     manner: MOVES,
     usesList: true,
     step: step,

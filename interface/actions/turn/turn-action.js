@@ -9,6 +9,7 @@ import * as step from "./turn-step.js";
 export const turn = onPictures({
     name: "turn",
     title: () => qsTr("Rotate & Flip"),
+    doing: () => qsTr("Rotating"),
     step: step,
     pane: TurnPane,
     presets: presets,

@@ -8,6 +8,7 @@ import * as step from "./watermark-step.js";
 export const watermark = onPictures({
     name: "watermark",
     title: () => qsTr("Watermark"),
+    doing: () => qsTr("Watermarking"),
     step: step,
     pane: WatermarkPane,
     presets: presets,

@@ -49,6 +49,11 @@ export class History {
         this.done = [];
         this.undone = [];
         this.own = [];
+        this.lookForEarlier();
+    }
+
+    /** What there is now was made before. */
+    lookForEarlier() {
         this.newest = newestRun();
         // The newest run of an earlier start, while it can be undone.
         this.earlier = this.newest;
@@ -103,6 +108,25 @@ export class History {
         } else {
             this.undone.push(Object.assign(take(this.done) || stepOf(run), { id: run.id }));
         }
+    }
+
+    /** A run of an earlier start is undone as if it were of this one: nobody is asked. */
+    adopt(id) {
+        const run = moves.runs().find((each) => each.id === id);
+        this.own.push(id);
+        if (run !== undefined && moves.undoable(id).can) {
+            (run.undoes === "" ? this.done : this.undone).push(stepOf(run));
+        }
+        this.show();
+    }
+
+    /** It is one of an earlier start again. */
+    disown(id) {
+        const others = (steps) => steps.filter((step) => step.kind !== "run" || step.id !== id);
+        this.own = this.own.filter((each) => each !== id);
+        this.done = others(this.done);
+        this.undone = others(this.undone);
+        this.show();
     }
 
     /** Was that run made since the start? */
@@ -174,6 +198,7 @@ export class History {
             return;
         }
         const window = this.window;
+        window.interrupted.undone(id);
         if (window.manner !== MOVES) {
             const movers = allActions().filter((action) => action.manner === MOVES);
             const maker = movers.find((action) => action.title() === run.title) || movers[0];

@@ -14,6 +14,7 @@ import { Controllers } from "./controllers.js";
 import { Help } from "./help.js";
 import { History } from "./history.js";
 import { Input } from "./input.js";
+import { InterruptedBar } from "./interrupted-bar.js";
 import { PageHost } from "./page-host.js";
 import { PreviewSide } from "./preview-side.js";
 import { Printing } from "./printing.js";
@@ -74,6 +75,7 @@ export class MainWindow {
         this.support = new SupportBar(this);
         this.signs = new RunSigns(this);
         this.watching = new Watching(this);
+        this.interrupted = new InterruptedBar(this);
         this.shownPage = this.action.page === undefined ? null : this.action;
         this.pageHost.show(this.shownPage);
         this.support.show();
@@ -188,6 +190,7 @@ export class MainWindow {
         this.showStart();
         showStatusBar(this);
         this.watching.show();
+        this.interrupted.show();
         this.help.tell();
     }
 

@@ -5,8 +5,6 @@ import { defaults } from "quorlin/defaults";
 import { recipes } from "quorlin/recipes";
 import { shell } from "quorlin/shell";
 import { onProblem } from "../../lib/guard.js";
-import { askAboutInterrupted } from "../../runs/making/interrupted.js";
-import { recoverRuns } from "../../runs/recover-runs.js";
 import { connect } from "./main-controls.js";
 import { MainWindow } from "./main-window.js";
 import { watchSettings } from "./settings-watch.js";
@@ -30,8 +28,7 @@ export function openMainWindow() {
     recipes.prepare();
     const say = (text) => window.sayBeside(text);
     watchSettings(say);
-    recoverRuns(say);
-    askAboutInterrupted(window);
+    window.interrupted.look();
     if (shell.arguments.length > 0) {
         window.input.addPaths(shell.arguments);
     }

@@ -216,6 +216,13 @@ void TestSeamMoves::endsWhatWasInterrupted()
                  "report(moves.recover().map(x => [x.title, x.done, x.finished, x.takenBack, x.left, x.problems]));"
                  "report([moves.recover(), moves.runs()[0].state, moves.undoable(moves.runs()[0].id).count]);")),
              QStringLiteral("\"open\"\n[[\"Rename\",1,0,0,1,[]]]\n[[],\"recovered\",1]"));
+    const QString rest = QStringLiteral("const p = '%1/'; const rest = moves.rest(moves.runs()[0].id);"
+                                        "report([rest.items.map(x => [x.kind, x.from.slice(p.length),"
+                                        " x.to.slice(p.length), x.leader]), rest.places.map(x => x.slice(p.length))]);")
+                             .arg(place.path());
+    QCOMPARE(answer(rest), QStringLiteral("[[[\"move\",\"b\",\"bb\",-1]],[\"aa\",\"b\"]]"));
+    QCOMPARE(answer(QStringLiteral("report(moves.rest('../' + moves.runs()[0].id));")),
+             QStringLiteral("{\"items\":[],\"places\":[]}"));
     QVERIFY(QFile::exists(place.filePath(QStringLiteral("aa"))) && QFile::exists(place.filePath(QStringLiteral("b"))));
 }
 

@@ -305,9 +305,18 @@ void WorkerRuns::goesOnWhereItWasInterrupted()
     for (const QFileInfo &file : out.entryInfoList(QDir::Files))
         before.insert(file.fileName(), file.lastModified());
     QVERIFY(before.size() >= 2 && before.size() < 8);
-    WindowDriver::answerNextQuestion(isContinued ? QStringLiteral("Continue") : QStringLiteral("Leave"));
     m_driver->startAgain();
+    QVERIFY(m_driver->control<QWidget>("interruptedBar")->isVisible());
+    QCOMPARE(m_driver->text("interruptedNote"),
+             QStringLiteral("Resizing was interrupted: %1 of 8 pictures are done.").arg(before.size()));
+    QVERIFY(!m_driver->control<QWidget>("interruptedUndo")->isVisible());
     QCOMPARE(m_driver->pictures().model()->rowCount(), 8);
+    if (!isContinued) {
+        m_driver->startAgain(); // who did not answer is asked again
+        QCOMPARE(m_driver->pictures().model()->rowCount(), 8);
+    }
+    m_driver->click(isContinued ? "interruptedGo" : "interruptedLeave");
+    QVERIFY(!m_driver->control<QWidget>("interruptedBar")->isVisible());
     if (isContinued) {
         const QString summary = m_driver->waitForSummary();
         QVERIFY2(summary.startsWith(QStringLiteral("8 pictures done")), qPrintable(summary));

@@ -1,0 +1,71 @@
+// What a crash or a power cut interrupted, and what is left of it: runs that write pictures and runs that move files. Pure but for
+// translation; the services are handed in.
+
+import { fill, numberText } from "../lib/wording.js";
+import { doneResults, recordFrom, recordsFolder } from "./making/run-record.js";
+
+// What was unfinished is of no use to anybody.
+function sweepFolders(record, files) {
+    const folders = new Set(record.items.map((item) => item.folder));
+    folders.forEach((folder) => {
+        if (folder !== "" && files.info(folder).exists) {
+            files.sweep(folder);
+        }
+    });
+}
+
+/**
+ * Runs that wrote pictures: {kind: "pictures", action (its name), title, record, path, done, count, places}; places are the paths of their
+ * list. What they left unfinished is gone.
+ */
+export function interruptedPictures(runRecords, files) {
+    const found = [];
+    for (const path of runRecords.interrupted(recordsFolder(files))) {
+        const record = recordFrom(files.readText(path) || "");
+        if (record === null) {
+            runRecords.end(path); // it had not begun
+        } else {
+            sweepFolders(record, files);
+            found.push({ kind: "pictures", action: record.head.action, title: record.head.title, record: record,
+                         path: path, id: "", done: Object.keys(doneResults(record, files)).length,
+                         count: record.items.length, places: record.items.map((item) => item.of) });
+        }
+    }
+    return found;
+}
+
+/** Of the runs with these ids those of which something is left: {kind: "moves" or "undo", id, title, items, places, done, count}. */
+export function interruptedMoves(moves, ids) {
+    const found = [];
+    for (const run of moves.runs().filter((each) => ids.indexOf(each.id) >= 0)) {
+        const rest = moves.rest(run.id);
+        if (run.state === "recovered" && run.done < run.count && (run.undoes !== "" || rest.items.length > 0)) {
+            found.push({ kind: run.undoes === "" ? "moves" : "undo", id: run.id, undoes: run.undoes, title: run.title,
+                         items: rest.items, places: rest.places, done: run.done, count: run.count });
+        }
+    }
+    return found;
+}
+
+/** One of them in words; action: the one that made it, or undefined. */
+export function interruptedText(work, action) {
+    const doing = action !== undefined && action.doing !== undefined ? action.doing() : work.title;
+    const done = numberText(work.done);
+    const count = numberText(work.count);
+    if (work.kind === "pictures") {
+        return fill(qsTr("%1 was interrupted: %2 of %3 pictures are done.", "", work.done), doing, done, count);
+    }
+    if (work.kind === "undo") {
+        return fill(qsTr("Undoing “%1” was interrupted: %2 of %3 files are done.", "", work.done),
+                    work.title, done, count);
+    }
+    return action !== undefined && action.givesNames
+        ? fill(qsTr("%1 was interrupted: %2 of %3 files have their new names.", "", work.done), doing, done, count)
+        : fill(qsTr("%1 was interrupted: %2 of %3 files are done.", "", work.done), doing, done, count);
+}
+
+/** What the button says that does the rest. */
+export function restText(work, action) {
+    return work.kind === "moves" && action !== undefined && action.givesNames
+        ? qsTr("Rename the Rest") : qsTr("Continue");
+}

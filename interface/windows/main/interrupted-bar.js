@@ -1,0 +1,138 @@
+// The bar that says at start what a crash or a power cut interrupted, one run after the other, and what can be done about it. Their lists
+// come back with it.
+
+import { defaults } from "quorlin/defaults";
+import { files } from "quorlin/files";
+import { moves } from "quorlin/moves";
+import { runRecords } from "quorlin/records";
+import { shell } from "quorlin/shell";
+import { allActions } from "../../actions/actions.js";
+import { guard } from "../../lib/guard.js";
+import { keep, recall } from "../../lib/store.js";
+import { interruptedMoves, interruptedPictures, interruptedText, restText } from "../../runs/interrupted.js";
+import { doneResults } from "../../runs/making/run-record.js";
+import { recoveredWords } from "../../runs/recovered.js";
+
+// Runs that moved files have been ended by then: whoever does not answer is asked again.
+const ASKED = "InterruptedRuns";
+
+export class InterruptedBar {
+    /** @param window  the main window's parts */
+    constructor(window) {
+        this.window = window;
+        this.waiting = [];
+        const join = (name, answer) =>
+            window.form.control(name).clicked.connect(guard(name, () => answer.call(this, this.waiting[0])));
+        join("interruptedGo", this.go);
+        join("interruptedUndo", this.undo);
+        join("interruptedLeave", this.leave);
+        this.show();
+    }
+
+    /** Once, at start: ends what was in the middle, brings the lists back and asks. */
+    look() {
+        const recovered = moves.recover();
+        const written = interruptedPictures(runRecords, files);
+        const ids = recall(defaults, ASKED, { ids: [] }).ids.concat(recovered.map((run) => run.id));
+        const moved = interruptedMoves(moves, ids);
+        this.waiting = [].concat(written, moved);
+        this.waiting.forEach((work) => this.window.pictures.addPaths(work.places, []));
+        this.tellEnded(recovered);
+        this.window.history.lookForEarlier();
+        this.own(recovered, written);
+        this.changed();
+        if (this.waiting.length > 0) {
+            this.showAction(this.waiting[0]);
+        }
+    }
+
+    // What asks nothing is said; what could not be put right has to be read.
+    tellEnded(recovered) {
+        const isAsked = (run) => this.waiting.some((work) => work.id === run.id || work.title === run.title);
+        const all = recoveredWords(recovered);
+        const quiet = recoveredWords(recovered.filter((run) => !isAsked(run)));
+        if (all !== null && all.detail !== "") {
+            shell.ask({ title: qsTr("A run was interrupted"), text: all.text, detail: all.detail,
+                        buttons: [qsTr("Continue")], initial: 0, escape: 0, check: "" });
+        } else if (quiet !== null) {
+            this.window.sayBeside(quiet.text);
+        }
+    }
+
+    // While the bar is shown these are undone as if they were of this start: nobody is asked.
+    own(recovered, written) {
+        recovered.filter((run) => written.some((work) => work.title === run.title))
+            .forEach((run) => this.window.history.adopt(run.id));
+        this.waiting.filter((work) => work.kind !== "pictures").reverse()
+            .forEach((work) => this.window.history.adopt(work.id));
+    }
+
+    makerOf(work) {
+        return allActions().find((action) => (work.kind === "pictures" ? action.name === work.action
+                                                                       : action.title() === work.title));
+    }
+
+    showAction(work) {
+        const action = this.makerOf(work);
+        if (action !== undefined) {
+            this.window.form.control("sideBar").currentAction = action.name;
+        }
+    }
+
+    go(work) {
+        const window = this.window;
+        this.showAction(work);
+        this.forget(work);
+        if (work.kind === "undo") {
+            window.history.adopt(work.undoes);
+            window.history.takeBack(work.undoes);
+        } else if (work.kind === "moves") {
+            window.run.finishRest(work.title, work.items);
+        } else {
+            window.run.continueRun(work.record, doneResults(work.record, files), work.path);
+        }
+    }
+
+    undo(work) {
+        this.window.history.takeBack(work.id);
+    }
+
+    leave(work) {
+        if (work.kind === "pictures") {
+            runRecords.end(work.path);
+        }
+        this.window.history.disown(work.id);
+        this.forget(work);
+    }
+
+    /** A run was undone some other way. */
+    undone(id) {
+        this.waiting.filter((work) => work.id === id && id !== "").forEach((work) => this.forget(work));
+    }
+
+    forget(work) {
+        this.waiting = this.waiting.filter((each) => each !== work);
+        this.changed();
+    }
+
+    changed() {
+        keep(defaults, ASKED, { ids: this.waiting.map((work) => work.id).filter((id) => id !== "") });
+        this.show();
+    }
+
+    show() {
+        const control = (name) => this.window.form.control(name);
+        const work = this.waiting[0];
+        control("interruptedBar").visible = work !== undefined;
+        if (work === undefined) {
+            return;
+        }
+        const action = this.makerOf(work);
+        control("interruptedNote").text = interruptedText(work, action);
+        control("interruptedGo").text = restText(work, action);
+        control("interruptedUndo").visible = work.kind !== "pictures";
+        for (const name of ["interruptedGo", "interruptedUndo", "interruptedLeave"]) {
+            control(name).enabled = !this.window.isBusy();
+        }
+    }
+}
