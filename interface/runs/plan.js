@@ -153,16 +153,21 @@ function itemFor(photo, planned, settings, services) {
     return item;
 }
 
+/** The names that a plan has given, and what was answered: handed to planRun() by a run that is planned in several parts. */
+export function planMemory(services) {
+    return { namesIn: foldersOf(services), answers: { forAll: null } };
+}
+
 /**
  * A generator that plans a run. It yields each item as it is planned and returns {items, cancelled}.
  *
  * photos: {count, at, paths}: at(i) gives the i-th of `count` pictures as plain data; paths are all input paths. An item has status
  * "ready" or a final one with its reason, and then folder, name, path, width, height, replaces, replaced (the identity of the file that
- * may be replaced), replacesOriginal, numbered, notes.
+ * may be replaced), replacesOriginal, numbered, notes. memory: planMemory() of a run of which this is a further part; may be missing.
  */
-export function* planRun(photos, step, settings, services) {
-    const namesIn = foldersOf(services);
-    const context = { owners: ownersOf(photos.paths, services), memory: { forAll: null }, services: services,
+export function* planRun(photos, step, settings, services, memory) {
+    const { namesIn, answers } = memory || planMemory(services);
+    const context = { owners: ownersOf(photos.paths, services), memory: answers, services: services,
                       cancelled: false };
     const items = [];
     for (let i = 0; i < photos.count && !context.cancelled; i += 1) {

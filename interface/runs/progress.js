@@ -17,6 +17,12 @@ export class Progress {
         this.spentMs = 0;
     }
 
+    /** There is more to do. */
+    grow(costs) {
+        this.total += costs.reduce((sum, cost) => sum + cost, 0);
+        this.count += costs.length;
+    }
+
     add(cost, ms) {
         this.done += 1;
         this.doneCost += cost;

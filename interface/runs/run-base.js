@@ -55,6 +55,16 @@ export class BaseRun {
         return this.phase === "planning" || this.phase === "running";
     }
 
+    /** Whether what is added to the list now joins the run. */
+    takesMore() {
+        return false;
+    }
+
+    /** Called when something was added to the list while the run is under way. */
+    listGrew() {
+        return undefined;
+    }
+
     hasProblems() {
         return this.problems > 0;
     }

@@ -9,13 +9,14 @@ import { Replacing } from "./making/replacing.js";
 import { RunRecord } from "./making/run-record.js";
 import { runByWorkers } from "./making/worker-job.js";
 import { emptyTable, splitPath } from "../lib/names.js";
-import { planRun } from "./plan.js";
+import { planMemory, planRun } from "./plan.js";
 import { clockText, costOf, Progress } from "./progress.js";
 import { logRow, summaryOf } from "./report.js";
 import { fill, pixels, statusKind, statusText } from "../lib/wording.js";
 import { BaseRun } from "./run-base.js";
 import { photosOf, rowsByPath } from "./list-rows.js";
 import { showItem } from "./write-plan.js";
+import { Joining } from "./joining.js";
 
 function askAboutName(question) {
     const answer = shell.ask({
@@ -54,6 +55,8 @@ export class WriteRun extends BaseRun {
         super.reset(ids);
         this.flow = null; // of a run by workers
         this.replacing = null;
+        this.record = null; // of what is done so far
+        this.joining = null; // of pictures that are added meanwhile
         this.interrupted = ""; // the record of a run that this one goes on with
         this.inWork = 0;
         this.toldMs = 0;
@@ -85,11 +88,19 @@ export class WriteRun extends BaseRun {
         this.startPlanning(ids);
         window.services.unitCache = emptyTable();
         this.simulated = this.settings.output.simulation;
-        const services = Object.assign({}, window.services, { ask: askAboutName });
-        const work = planRun(photosOf(window, ids), window.action.step, this.settings, services);
+        this.joining = new Joining(this, window.pictures);
+        this.memory = planMemory(window.services);
+        const work = this.planOf(ids);
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
                        guard("run.planEnd", (how, value) => this.planEnded(how, value)));
         this.changed();
+    }
+
+    planOf(ids) {
+        const services = Object.assign({}, this.window.services, { ask: askAboutName });
+        const step = this.window.action.step;
+        const work = planRun(photosOf(this.window, ids), step, this.settings, services, this.memory);
+        return work;
     }
 
     takeItem(item) {
@@ -138,15 +149,59 @@ export class WriteRun extends BaseRun {
     carryOut() {
         this.phase = "running";
         this.progress = new Progress(this.items.map((item) => costOf(item.photo)));
-        this.items.forEach((item, i) => {
-            if (item.status === "ready") {
-                this.window.pictures.setStatus(this.ids[i], "waiting", qsTr("waiting"), "");
-            }
-        });
+        this.items.forEach((item, i) => this.showWaiting(item, this.ids[i]));
         const work = this.work();
         this.steppedMs = Date.now();
         this.job.start(work, guard("run.step", (event) => this.stepDone(event)),
                        guard("run.end", (how, value) => this.runEnded(how, value)));
+        this.showProgress();
+    }
+
+    showWaiting(item, id) {
+        if (item.status === "ready") {
+            this.window.pictures.setStatus(id, "waiting", qsTr("waiting"), "");
+        }
+    }
+
+    takesMore() {
+        const isStopping = this.flow !== null && this.flow.isStopping;
+        return this.isBusy() && !this.simulated && this.joining !== null && !isStopping;
+    }
+
+    listGrew() {
+        if (this.joining !== null) {
+            this.joining.look();
+        }
+    }
+
+    /** A generator that plans pictures which were added; it returns their items, or null where they stay out. */
+    * planMore(ids) {
+        const items = [];
+        const planning = this.planOf(ids);
+        let part = planning.next();
+        for (; !part.done; part = planning.next()) {
+            showItem(this.window.pictures, ids[items.length], part.value, false);
+            items.push(part.value);
+            yield items.length;
+        }
+        if (part.value.cancelled || !mayReplace(items, (bytes) => this.replacedText(bytes))) {
+            return null;
+        }
+        if (this.record !== null) {
+            yield* this.record.grow(items, this.items.length);
+        }
+        return items;
+    }
+
+    /** They join the end. */
+    joined(ids, items) {
+        ids.forEach((id, i) => {
+            this.ids.push(id);
+            this.items.push(items[i]);
+            this.showWaiting(items[i], id);
+        });
+        this.progress.grow(items.map((item) => costOf(item.photo)));
+        this.notePlan();
         this.showProgress();
     }
 
@@ -179,11 +234,13 @@ export class WriteRun extends BaseRun {
         const record = new RunRecord(runRecords, files);
         const action = this.window.action;
         const head = { action: action.name, title: action.title(), settings: this.settings, startedMs: this.startedMs };
+        this.record = record;
         try {
             for (const part of record.begin(head, this.items)) {
                 yield { kind: "recorded", index: part, item: this.items[part] };
             }
             runRecords.end(this.interrupted); // what it said is in this one
+            this.joining.open(this.flow);
             yield* runByWorkers(this.items, step, this.settings, Object.assign({}, services, { record: record }),
                                 this.flow);
         } finally {
@@ -200,6 +257,8 @@ export class WriteRun extends BaseRun {
         const rows = rowsByPath(window.pictures);
         this.startPlanning(record.items.map((item) => rows[item.of] || 0));
         this.interrupted = path;
+        this.memory = planMemory(window.services);
+        this.joining = new Joining(this, window.pictures);
         this.settings = record.head.settings;
         this.simulated = false;
         this.items = record.items.map((item, i) => {
@@ -317,6 +376,16 @@ export class WriteRun extends BaseRun {
         this.finish(this.summaryText(isStopped ? "cancelled" : how) + (problem ? " · " + problem : ""));
         if (this.items.some((item) => item.replacesOriginal)) {
             this.window.reloadPreview();
+        }
+    }
+
+    // What came too late gets its plan as after any other change.
+    finish(text) {
+        const isLeft = this.joining !== null && this.joining.end();
+        this.joining = null;
+        super.finish(text);
+        if (isLeft) {
+            this.window.livePlan.refresh();
         }
     }
 

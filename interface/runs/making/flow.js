@@ -8,6 +8,7 @@ export class Flow {
         this.isPaused = false;
         this.isStopping = false;
         this.isFull = false; // a disk is
+        this.isGrowing = false; // more pictures are about to join
         this.folder = "";
     }
 

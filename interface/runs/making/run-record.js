@@ -1,6 +1,6 @@
 // What a run leaves behind where it is interrupted: its plan, and for each picture a line before its result takes its place and one after
-// it. Lines are JSON: {run: {action, title, settings, startedMs}}, {item: index, path, status, ...}, {begun: count},
-// {about: index, path, identity}, {placed: index, path, identity, bytes}. Pure but for the services that are handed in.
+// it. Lines are JSON: {run: {action, title, settings, startedMs}}, {item: index, path, status, ...}, {begun: count} (again where items
+// joined), {about: index, path, identity}, {placed: index, path, identity, bytes}. Pure but for the services that are handed in.
 // Services used: records (begin, add, end), files (identity).
 
 import { emptyTable, joinPath } from "../../lib/names.js";
@@ -35,11 +35,7 @@ export class RunRecord {
     * begin(head, items) {
         this.path = this.records.begin(recordsFolder(this.files));
         this.add({ run: head }, false);
-        for (let i = 0; i < items.length && this.path !== ""; i += ITEMS_A_SLICE) {
-            const lines = items.slice(i, i + ITEMS_A_SLICE).map((item, j) => itemLine(item, i + j));
-            this.records.add(this.path, lines.join(""), false);
-            yield i;
-        }
+        yield* this.addItems(items, 0);
         items.forEach((item, i) => {
             if (item.done !== undefined && item.done.status === "OK") {
                 this.add({ placed: i, path: item.done.path, identity: this.files.identity(item.done.path),
@@ -47,6 +43,20 @@ export class RunRecord {
             }
         });
         this.add({ begun: items.length }, true);
+    }
+
+    * addItems(items, first) {
+        for (let i = 0; i < items.length && this.path !== ""; i += ITEMS_A_SLICE) {
+            const lines = items.slice(i, i + ITEMS_A_SLICE).map((item, j) => itemLine(item, first + i + j));
+            this.records.add(this.path, lines.join(""), false);
+            yield i;
+        }
+    }
+
+    /** Further items join the run, of which there are `first` so far; some of them at a time. */
+    * grow(items, first) {
+        yield* this.addItems(items, first);
+        this.add({ begun: first + items.length }, true);
     }
 
     // A run that cannot be recorded is carried out all the same.
@@ -100,6 +110,7 @@ export function recordFrom(text) {
             record.rows[index] = line;
         }
     });
+    record.items = record.items.slice(0, Math.max(0, count)); // others were about to join
     const isWhole = record.head !== null && record.items.length === count
         && Object.keys(record.items).length === count;
     return isWhole ? record : null;

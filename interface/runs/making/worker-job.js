@@ -159,7 +159,7 @@ class WorkerJob {
 
     /** Whether each picture that was begun has its end, and no other one is to be begun. */
     isOver(flow) {
-        return this.open === 0 && !flow.isFull && (flow.isStopping || !this.hasNext());
+        return this.open === 0 && !flow.isFull && (flow.isStopping || !(this.hasNext() || flow.isGrowing));
     }
 
     mayGive(flow) {
@@ -184,10 +184,10 @@ class WorkerJob {
 }
 
 /**
- * A generator that carries out the items of a plan and yields what runItems() of job.js does, the ends in the order in which the
- * pictures are ready; null where it waits for flow.wake(), and {kind: "back", index, item} for a picture that is not begun after all, since
- * the flow is paused or stopped, or the disk is full; and then {kind: "full", index, item} once, after which the flow has an answer or is
- * stopped. Returns when each picture that was begun has its end: all of them, or, once
+ * A generator that carries out the items of a plan, of which there may become more meanwhile, and yields what runItems() of job.js does,
+ * the ends in the order in which the pictures are ready; null where it waits for flow.wake(), and {kind: "back", index, item} for a
+ * picture that is not begun after all, since the flow is paused or stopped, or the disk is full; and then {kind: "full", index, item}
+ * once, after which the flow has an answer or is stopped. Returns when each picture that was begun has its end: all of them, or, once
  * the flow is stopped, those that were in progress. Stopping it (return) gives these up and removes what is unfinished.
  */
 export function* runByWorkers(items, step, settings, services, flow) {

@@ -36,6 +36,11 @@ export class RecipeRun extends WriteRun {
         this.number = 0;
     }
 
+    // A batch knows its pictures from the beginning.
+    takesMore() {
+        return false;
+    }
+
     folders() {
         return summaryOf(joined(this.finals)).folders;
     }

@@ -181,7 +181,8 @@ export class Input {
 
     /** Files and folders, as they were dropped, pasted or named at start-up. Of recipes the first is opened, and nothing is run. */
     addPaths(paths) {
-        const named = recipesAmong(paths);
+        // The settings of a run that is under way stay as they are.
+        const named = this.window.isBusy() ? [] : recipesAmong(paths);
         const problem = named.length === 0 ? "" : this.window.actionPage.openRecipe(files.absolute(named[0]));
         const others = paths.filter((path) => named.indexOf(path) < 0);
         if (others.length > 0 || named.length === 0) {

@@ -26,12 +26,12 @@ import { Watching } from "./watching.js";
 const SAID_MS = 8000;
 // More folders than these are opened in the one that holds them all.
 const MOST_OPENED = 3;
-// What adds to the list or changes settings.
-const INPUT = [
-    "addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction", "renameAction",
-    "headHost", "actionHost", "outputHost", "moveSimulation", "emptyAddPictures", "emptyAddFolder",
-    "emptyAddSamples",
+// What adds to the list, and what changes settings.
+const ADDING = [
+    "addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction", "emptyAddPictures",
+    "emptyAddFolder", "emptyAddSamples",
 ];
+const SETTINGS = ["renameAction", "headHost", "actionHost", "outputHost", "moveSimulation"];
 
 export class MainWindow {
     constructor() {
@@ -166,11 +166,12 @@ export class MainWindow {
         const onList = this.shownPage === null || this.shownPage.usesList;
         const enable = (names, on) => names.forEach((name) => { this.form.control(name).enabled = on; });
         this.showCentre(any);
-        enable(INPUT, !busy);
+        enable(ADDING, this.mayAdd());
+        enable(SETTINGS, !busy);
         enable(["removeAction", "selectAllAction"], any && !busy && this.shownPage === null);
         enable(["clearButton", "clearAction", "saveAsAction"], any && !busy && onList);
         enable(["nextAction", "previousAction", "largeAction"], any && onList);
-        this.drop.open = !busy;
+        this.drop.open = this.mayAdd();
         this.input.showWords();
         lockSideBar(this, busy);
         if (busy !== this.wasBusy) {
@@ -182,6 +183,11 @@ export class MainWindow {
     /** Whether list and settings are left as they are: a run is under way, or a folder is watched. */
     isBusy() {
         return this.run.isBusy() || this.watching.isOn();
+    }
+
+    /** Whether something can be added to the list: what a run that is under way takes joins its end. */
+    mayAdd() {
+        return !this.isBusy() || (this.run.takesMore() && !this.watching.isOn());
     }
 
     showAll() {
@@ -237,7 +243,9 @@ export class MainWindow {
             this.form.control("sideBar").currentAction = this.action.name;
         }
         this.pageHost.listChanged();
-        if (!this.run.isBusy()) {
+        if (this.run.isBusy()) {
+            this.run.listGrew();
+        } else {
             this.livePlan.refresh();
         }
         if (this.pictures.count === 0) {

@@ -104,4 +104,16 @@ test("carriesOnWithoutARecordWhereNoneCanBeWritten", () => {
     equal([records.text, records.isEnded], ["", false]);
 });
 
+test("takesInWhatJoins", () => {
+    const world = recorded(new FakeFiles({ "/out": "folder" }), [item("a.jpg"), item("b.jpg")]);
+    const before = world.records.text;
+    drain(world.record.grow([item("c.jpg")], 2));
+    equal(recordFrom(world.records.text).items.map((each) => each.name), ["a.jpg", "b.jpg", "c.jpg"]);
+    equal(world.records.kept, world.records.text.length);
+    // Where it ended in the middle of that, the run is the one that was begun.
+    const joining = world.records.text.slice(before.length).split("\n");
+    equal(recordFrom(before + joining[0] + "\n").items.map((each) => each.name), ["a.jpg", "b.jpg"]);
+    equal(recordFrom(before + joining[0].slice(0, 20)).items.length, 2);
+});
+
 finish();

@@ -227,4 +227,27 @@ test("keepsFoldersOpenThatSomethingIsUnfinishedIn", () => {
     equal([world.isOver, world.files.entries["/out0/a.jpg"], world.files.entries["/out199/a.jpg"]], [true, 5, 5]);
 });
 
+test("takesInWhatJoinsBeforeItIsOver", () => {
+    const items = [item("a.jpg")];
+    const world = new World(items);
+    world.go();
+    world.flow.isGrowing = true;
+    world.work.make(0);
+    equal([world.go(), world.isOver], [["end0"], false]);
+    items.push(item("b.jpg"));
+    world.flow.isGrowing = false;
+    equal(world.go(), ["start1"]);
+    world.work.make(1);
+    equal([world.go(), world.isOver], [["end1"], true]);
+});
+
+test("doesNotWaitForWhatJoinsWhereItIsStopped", () => {
+    const world = new World([item("a.jpg")]);
+    world.go();
+    world.flow.isGrowing = true;
+    world.flow.stop();
+    world.work.make(0);
+    equal([world.go(), world.isOver], [["end0"], true]);
+});
+
 finish();
