@@ -1,4 +1,4 @@
-# What is installed and where, and the Debian package made of it (cmake --workflow --preset package).
+# What is installed and where. tools/package makes a Debian package of it.
 include(GNUInstallDirs)
 
 foreach(program quorlin quorlin-batch quorlin-script quorlin-worker)
@@ -37,22 +37,3 @@ foreach(command quorlin-batch quorlin quorlin-script)
 endforeach()
 install(FILES ${packaging}/completion/_quorlin-batch DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
 install(FILES ${packaging}/completion/quorlin-batch.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
-install(FILES ${packaging}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
-
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_VENDOR "The Quorlin developers")
-set(CPACK_PACKAGE_CONTACT "The Quorlin developers <quorlin@localhost>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "batch processor for photographs")
-set(CPACK_PACKAGE_DESCRIPTION "Does one deed to a whole folder of pictures: shows what it will do, does it,
-checks what it did, and says so in a log.")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# What no library of the programs names: icons and some old TIFFs are read through plugins, letters need a font, the toolkit's
-# dialogs their translations.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS
-  "libqt6svg6, qt6-image-formats-plugins, qt6-translations-l10n, fonts-dejavu-core | fonts-freefont-ttf, hicolor-icon-theme")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
-include(CPack)

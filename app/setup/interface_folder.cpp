@@ -31,7 +31,7 @@ QString interfaceFolderOf(const QString &programFolder)
     const QString installed = QDir::cleanPath(program.filePath(QStringLiteral("../share/quorlin/interface")));
     if (QFileInfo::exists(installed + QStringLiteral("/main.js")))
         return installed;
-    return isInItsBuild(programFolder) ? QStringLiteral(QUORLIN_SOURCE_INTERFACE) : installed;
+    return isInItsBuild(programFolder) ? QStringLiteral(QUORLIN_SOURCE_FOLDER "/interface") : installed;
 }
 
 QString translationFile(const QString &language)

@@ -19,11 +19,11 @@ ALWAYS = set("""apt-get awk basename bash cat cd chmod cmp comm cp cut date df d
     export find grep gzip head id kill ln ls mapfile mkdir mktemp mv nice printf read rm sed seq set sh sha256sum sleep
     sort stat su sudo sync tail tee test time timeout touch tr trap true uniq wait wc xargs""".split())
 # Commands whose use in files of ours is looked for; the list of packages must give each one that is used.
-KNOWN = """cmake ctest cpack ninja pkg-config python3 git exiftool vips vipsheader vipsthumbnail vipsedit identify
+KNOWN = """cmake ctest ninja pkg-config python3 git exiftool vips vipsheader vipsthumbnail vipsedit identify
     convert gm mogrify exiv2 Xvfb xvfb-run xdotool import desktop-file-validate appstreamcli clang-format clang-tidy
     run-clang-tidy hyperfine jpegtran djpeg cjpeg tiffinfo pdfinfo pdftoppm pdfimages opj_decompress opj_compress compare lupdate lrelease rsvg-convert file xauth
     cwebp gif2webp webpmux heif-enc tiffcp tiffset
-    sqlite3 plistutil dbus-run-session strace valgrind mmdebstrap""".split()
+    sqlite3 plistutil dbus-run-session strace valgrind mmdebstrap dpkg-buildpackage lintian""".split()
 HEADERS = {"tl/expected.hpp"}
 # Formats of Qt that are read and written by plugins of a package of their own.
 PLUGIN_FORMATS = re.compile(r'(?:QImageReader|QImageWriter|loadThroughQt)\b[^;{]*"(icns|mng|tga|tiff|wbmp|webp)"')
