@@ -1,11 +1,13 @@
 # What is installed and where. tools/package makes a Debian package of it.
 include(GNUInstallDirs)
 
-foreach(program quorlin quorlin-batch quorlin-script quorlin-worker)
+foreach(program quorlin quorlin-batch quorlin-script)
   if(TARGET ${program})
     install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
   endif()
 endforeach()
+# Only the other programs start it.
+install(TARGETS quorlin-worker RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/quorlin)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/interface DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin
   PATTERN "*.qrc" EXCLUDE PATTERN "CMakeLists.txt" EXCLUDE PATTERN "quorlin_*.ts" EXCLUDE)
 install(DIRECTORY ${CMAKE_BINARY_DIR}/texts DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin/interface

@@ -5,7 +5,9 @@
 #include "platform/foundation/processors.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QEventLoop>
+#include <QFileInfo>
 
 #include <utility>
 
@@ -159,7 +161,10 @@ std::optional<HelloMessage> confinementOf(const QString &program)
 
 QString workerProgram()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/quorlin-worker");
+    const QDir programs(QCoreApplication::applicationDirPath());
+    const QString beside = programs.filePath(QStringLiteral("quorlin-worker"));
+    const QString installed = QDir::cleanPath(programs.filePath(QStringLiteral("../libexec/quorlin/quorlin-worker")));
+    return QFileInfo::exists(beside) ? beside : installed;
 }
 
 } // namespace jobs

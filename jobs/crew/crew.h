@@ -79,7 +79,7 @@ QString reasonFor(platform::WorkerEnd end, const platform::WorkerLimits &limits)
 /** What keeps the workers of @p program from doing harm, as one of them says; nothing where none can be started. */
 std::optional<HelloMessage> confinementOf(const QString &program);
 
-/** Where quorlin-worker stands: beside the program that is running. */
+/** Where quorlin-worker is: in a build beside the program that is running, installed in its folder of libexec. */
 QString workerProgram();
 
 } // namespace jobs
