@@ -2,6 +2,7 @@
 #include "app/window/start_up.h"
 
 #include "platform/foundation/log.h"
+#include "platform/imageio/load/library_versions.h"
 
 #include <QApplication>
 
@@ -29,7 +30,7 @@ std::optional<int> answerTo(const app::CommandLine &line)
     case app::CommandLine::Wish::Help:
         return answer(stdout, app::usage(), allIsWell);
     case app::CommandLine::Wish::Version:
-        return answer(stdout, QStringLiteral("Quorlin " QUORLIN_VERSION "\n"), allIsWell);
+        return answer(stdout, QStringLiteral("Quorlin " QUORLIN_VERSION "\n") + platform::librariesText(), allIsWell);
     case app::CommandLine::Wish::Unknown:
         return answer(
             stderr,

@@ -5,6 +5,7 @@
 #include "app/setup/translations.h"
 
 #include "platform/foundation/log.h"
+#include "platform/imageio/load/library_versions.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -24,7 +25,10 @@ constexpr int uncaughtError = 1;
 constexpr int badCommandLine = 2;
 
 const char usage[] = "Usage: quorlin-script FILE.js [ARG...]\n"
-                     "Runs one script module with the service classes of Quorlin.\n";
+                     "Runs one script module with the service classes of Quorlin.\n"
+                     "\n"
+                     "  --help     shows this text\n"
+                     "  --version  shows the version\n";
 
 /** Whether somebody listens where the environment says: the variable outlives the session that set it. */
 bool isWaylandThere()
@@ -83,6 +87,11 @@ int main(int argc, char **argv)
 {
     if (argc == 2 && qstrcmp(argv[1], "--help") == 0) {
         std::fputs(usage, stdout);
+        return ranToItsEnd;
+    }
+    if (argc == 2 && qstrcmp(argv[1], "--version") == 0) {
+        const QString text = QStringLiteral("quorlin-script " QUORLIN_VERSION "\n") + platform::librariesText();
+        std::fputs(qUtf8Printable(text), stdout);
         return ranToItsEnd;
     }
     if (argc < 2 || argv[1][0] == '-') {

@@ -40,4 +40,4 @@ _quorlin() {
 
 complete -F _quorlin_batch quorlin-batch
 complete -F _quorlin quorlin
-complete -f -W --help quorlin-script
+complete -f -W '--help --version' quorlin-script

@@ -3,6 +3,7 @@
 #include "jobs/presets/preset_recipe.h"
 #include "jobs/presets/supplied_files.h"
 #include "platform/foundation/paths.h"
+#include "platform/imageio/load/library_versions.h"
 #include "tools/batch/command_line.h"
 #include "tools/batch/progress.h"
 #include "tools/batch/request.h"
@@ -108,7 +109,7 @@ int answer(const QByteArray &text)
 /** With what keeps a worker from doing harm, as it has found it on the kernel that runs. */
 QByteArray versionText()
 {
-    QByteArray text = "quorlin-batch " QUORLIN_VERSION "\n";
+    QByteArray text = "quorlin-batch " QUORLIN_VERSION "\n" + platform::librariesText().toUtf8();
     const auto active = jobs::confinementOf(jobs::workerProgram());
     if (!active)
         return text + "workers: none can be started\n";

@@ -34,4 +34,12 @@ QList<Library> librariesInUse()
     };
 }
 
+QString librariesText()
+{
+    QString text;
+    for (const Library &library : librariesInUse())
+        text += library.name + u' ' + library.version + u'\n';
+    return text;
+}
+
 } // namespace platform

@@ -16,4 +16,7 @@ struct Library
 /** The libraries of this room, Qt first. */
 QList<Library> librariesInUse();
 
+/** A line "name version" for each of them, as programs answer --version: what a report of a fault needs. */
+QString librariesText();
+
 } // namespace platform
