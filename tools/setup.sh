@@ -7,8 +7,10 @@ set -euo pipefail
 list=$(dirname "$0")/../packaging/packages.txt
 
 wanted=()
-while read -r group package _; do
-    case " $* " in *" $group "*) wanted+=("$package") ;; esac
+while read -r groups package _; do
+    for group in ${groups//,/ }; do
+        case " $* " in *" $group "*) wanted+=("$package") ;; esac
+    done
 done < "$list"
 [ ${#wanted[@]} -gt 0 ] || { echo "setup: no package is listed for: $*" >&2; exit 2; }
 

@@ -36,14 +36,14 @@ def listed(root):
         words = line.split()
         if not words or words[0].startswith("#"):
             continue
-        if len(words) < 3 or words[0] not in GROUPS:
+        if len(words) < 3 or not set(words[0].split(",")) <= GROUPS:
             problems.append(f"packages.txt:{number}: not a group, a package and what it is needed for")
             continue
         if words[1] in packages:
             problems.append(f"packages.txt:{number}: {words[1]} stands in line {packages[words[1]]} already")
         packages[words[1]] = number
         for token in words[2:]:
-            gives.setdefault(token, []).append((words[0], words[1]))
+            gives.setdefault(token, []).extend((group, words[1]) for group in words[0].split(","))
     return gives, problems
 
 
@@ -103,8 +103,10 @@ def used_by_scripts(root):
 def groups_for(where):
     if where.startswith("bench/"):
         return GROUPS
-    if where == "tools/bare":
+    if where in ("tools/bare", "tools/minimal-root.sh"):
         return {"build", "run", "test", "bare"}
+    if where in ("tools/package", "tools/try-package"):
+        return {"build", "package", "bare"}
     if where == "tests/checks/format.py" or where.endswith("Lint.cmake"):
         return {"build", "run", "test", "lint"}
     if where.startswith("tests/pictures/"):
