@@ -83,7 +83,7 @@ int main(int argc, char **argv)
     platform::logToSystem("quorlin");
     window::StartUp startUp(*application);
     // The user-interface scripts first, then the application loop.
-    if (!startUp.loadScripts(app::pathsAmong(QCoreApplication::arguments().mid(1)))) {
+    if (!startUp.loadScripts(app::pathsAmong(QCoreApplication::arguments().mid(1)), line.opening)) {
         std::fprintf(stderr, "%s\n", qUtf8Printable(startUp.problem()));
         return cannotStart;
     }

@@ -21,10 +21,12 @@ install(DIRECTORY ${CMAKE_SOURCE_DIR}/samples DESTINATION ${CMAKE_INSTALL_DATADI
 install(FILES ${CMAKE_SOURCE_DIR}/jobs/schema/recipe.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin)
 install(FILES ${packaging}/com.brelmark.Quorlin.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${packaging}/com.brelmark.Quorlin.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-# Recipes have a type of their own, so that a double click opens them.
+# Recipes and files of presets have types, so that a double click opens them.
 install(FILES ${packaging}/com.brelmark.Quorlin.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
   RENAME com.brelmark.Quorlin.xml)
 install(FILES ${packaging}/icons/quorlin.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES "${packaging}/icons/application-x-quorlin-recipe+json.svg" "${packaging}/icons/application-x-quorlin-presets+json.svg"
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/mimetypes)
 install(FILES ${packaging}/icons/quorlin-symbolic.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/symbolic/apps)
 install(FILES ${CMAKE_SOURCE_DIR}/README.md ${CMAKE_SOURCE_DIR}/CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${packaging}/examples/quorlin-inbox.service DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)

@@ -1426,6 +1426,8 @@ declare module "quorlin/shell" {
         readonly version: string;
         /** Files and folders that the program was started with. */
         readonly arguments: string[];
+        /** What the window is to open with: "recipe" for a new one, "watch" for a folder to be watched; or "". */
+        readonly opening: string;
         /** The folder of main.js, without "/" at its end. */
         readonly interfaceFolder: string;
         /** False while a change of the settings could not be written. */

@@ -46,6 +46,14 @@ const ToolkitOption *toolkitOption(const QString &argument)
     return found == std::end(toolkitOptions) ? nullptr : found;
 }
 
+/** What an option of ours lets the window open with; empty where it is none. */
+QString openingOf(const QString &argument)
+{
+    if (argument == QStringLiteral("--new-recipe"))
+        return QStringLiteral("recipe");
+    return argument == QStringLiteral("--watch-folder") ? QStringLiteral("watch") : QString();
+}
+
 } // namespace
 
 CommandLine commandLineFrom(const QStringList &arguments)
@@ -56,12 +64,16 @@ CommandLine commandLineFrom(const QStringList &arguments)
         if (!argument.startsWith(u'-'))
             continue;
         if (argument == QStringLiteral("--help") || argument == QStringLiteral("-h"))
-            return {CommandLine::Wish::Help, {}, {}};
+            return {CommandLine::Wish::Help, {}, {}, {}};
         if (argument == QStringLiteral("--version"))
-            return {CommandLine::Wish::Version, {}, {}};
+            return {CommandLine::Wish::Version, {}, {}, {}};
+        if (!openingOf(argument).isEmpty()) {
+            line.opening = openingOf(argument);
+            continue;
+        }
         const ToolkitOption *option = toolkitOption(argument);
         if (!option)
-            return {CommandLine::Wish::Unknown, argument, {}};
+            return {CommandLine::Wish::Unknown, argument, {}, {}};
         if (option->takes == Takes::Nothing || argument.contains(u'='))
             continue;
         ++i;
@@ -71,10 +83,16 @@ CommandLine commandLineFrom(const QStringList &arguments)
     return line;
 }
 
-QStringList pathsAmong(QStringList arguments)
+QStringList pathsAmong(const QStringList &arguments)
 {
-    arguments.removeOne(endOfOptions);
-    return arguments;
+    const qsizetype end = arguments.indexOf(endOfOptions);
+    QStringList paths;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const bool isOption = (end < 0 || i < end) && !openingOf(arguments[i]).isEmpty();
+        if (i != end && !isOption)
+            paths.append(arguments[i]);
+    }
+    return paths;
 }
 
 QString usage()
@@ -83,9 +101,11 @@ QString usage()
         "Usage: quorlin [FILE|FOLDER|RECIPE...]\n"
         "Opens the window of Quorlin with these pictures in its list. A recipe is shown and not run.\n"
         "\n"
-        "  --help     shows this text\n"
-        "  --version  shows the version\n"
-        "  --         what follows are paths, even where they begin with a dash\n");
+        "  --new-recipe    opens with the action Recipe\n"
+        "  --watch-folder  asks for a folder to watch\n"
+        "  --help          shows this text\n"
+        "  --version       shows the version, and those of the libraries in use\n"
+        "  --              what follows are paths, even where they begin with a dash\n");
 }
 
 QString noDisplaySentence(const QString &platform, const QString &wayland, const QString &display)

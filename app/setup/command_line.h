@@ -13,6 +13,8 @@ struct CommandLine
     Wish wish = Wish::Window;
     QString unknown;  ///< the option that nobody knows
     QString platform; ///< the window system that an option names
+    QString
+        opening; ///< what the window opens with: "recipe" for a new one, "watch" for a folder to be watched; or empty
 };
 
 /**
@@ -21,8 +23,8 @@ struct CommandLine
  */
 CommandLine commandLineFrom(const QStringList &arguments);
 
-/** The paths among the arguments that the toolkit has left: all but a "--" before them. */
-QStringList pathsAmong(QStringList arguments);
+/** The paths among the arguments that the toolkit has left: all but our own options and a "--" before them. */
+QStringList pathsAmong(const QStringList &arguments);
 
 /** What --help answers. */
 QString usage();

@@ -29,6 +29,7 @@ class Shell : public QObject
     Q_PROPERTY(window::DesktopSigns *desktop READ desktop CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QStringList arguments READ arguments CONSTANT)
+    Q_PROPERTY(QString opening READ opening CONSTANT)
     Q_PROPERTY(QString interfaceFolder READ interfaceFolder CONSTANT)
     /** False while a change of the settings could not be written. */
     Q_PROPERTY(bool keepsSettings READ keepsSettings)
@@ -49,7 +50,12 @@ public:
     QString interfaceFolder() const { return m_folder; }
     /** Files and folders that the program was started with. */
     QStringList arguments() const { return m_arguments; }
-    void setArguments(const QStringList &arguments) { m_arguments = arguments; }
+    QString opening() const { return m_opening; }
+    void setArguments(const QStringList &arguments, const QString &opening)
+    {
+        m_arguments = arguments;
+        m_opening = opening;
+    }
 
     /** A window from a file such as "windows/main/main.ui"; throws an Error that names the file if it cannot be loaded.
      */
@@ -113,6 +119,7 @@ private:
     Theme &m_theme;
     DesktopSigns m_desktop;
     QStringList m_arguments;
+    QString m_opening;
     QList<QPointer<QWidget>> m_windows;
     Form *m_mainForm = nullptr;
     ZtFFullScreen m_fullScreen;

@@ -60,9 +60,9 @@ StartUp::~StartUp()
     m_shell->closeAll();
 }
 
-bool StartUp::loadScripts(const QStringList &arguments)
+bool StartUp::loadScripts(const QStringList &arguments, const QString &opening)
 {
-    m_shell->setArguments(arguments);
+    m_shell->setArguments(arguments, opening);
     const auto loaded = m_scripts->importFile(interfaceFolder() + QStringLiteral("/main.js"));
     if (loaded)
         return true;

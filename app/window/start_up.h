@@ -31,9 +31,10 @@ public:
      * Loads main.js of the interface folder, which opens the main window.
      *
      * @param arguments  files and folders that the program was started with
+     * @param opening  "recipe", "watch", or nothing: what the window is to open with
      * @return false if a script failed to load; the user was told then, in words with file and line
      */
-    bool loadScripts(const QStringList &arguments);
+    bool loadScripts(const QStringList &arguments, const QString &opening = QString());
 
     /** What loadScripts() failed with; empty if it did not. */
     QString problem() const { return m_problem; }

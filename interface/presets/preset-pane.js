@@ -14,6 +14,11 @@ import { fill } from "../lib/wording.js";
 
 const SIMULATION = placeOf("StrField21");
 const FILE_TYPE = "c-action";
+
+/** Those of the paths that are files of presets. */
+export function presetFilesAmong(paths) {
+    return paths.filter((path) => splitPath(path).extension.toLowerCase() === FILE_TYPE && !files.info(path).isFolder);
+}
 // Each waits for the disk: a few are brought in at once, and many while the window goes on.
 const MOST_AT_ONCE = 20;
 // What stands before the name of a preset that can be used, and before the number of one that cannot.
@@ -318,7 +323,14 @@ export class PresetPane {
             return;
         }
         const path = shell.chooseFile(qsTr("Import presets"), "", [FILE_TYPE]);
-        if (path === null) {
+        if (path !== null) {
+            this.importFile(path);
+        }
+    }
+
+    /** Stores the presets of a file, and chooses the first of the action that is shown. */
+    importFile(path) {
+        if (this.importing.running) {
             return;
         }
         const text = files.readText(path);

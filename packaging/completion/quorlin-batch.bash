@@ -32,7 +32,7 @@ _quorlin() {
     local current=${COMP_WORDS[COMP_CWORD]} IFS=$'\n'
     compopt -o filenames
     if [[ $current == -* ]]; then
-        COMPREPLY=($(compgen -W $'--help\n--version' -- "$current"))
+        COMPREPLY=($(compgen -W $'--new-recipe\n--watch-folder\n--help\n--version' -- "$current"))
     else
         COMPREPLY=($(compgen -f -- "$current"))
     fi

@@ -119,6 +119,11 @@ private Q_SLOTS:
         QCOMPARE(chosen(), oddName);
         QCOMPARE(state(), changed);
         QVERIFY(m_driver->text("statusText").contains(QLatin1String("1 preset imported")));
+        WindowDriver::answerNextQuestion(QStringLiteral("Delete"));
+        act("Delete…");
+        m_driver->drop({path}); // as a double click in a file manager does
+        QVERIFY(m_driver->waitFor([this] { return chosen() == oddName; }));
+        QCOMPARE(m_driver->pictures().model()->rowCount(), 0);
     }
 
     void changedSettingsAreShownAndSaved()

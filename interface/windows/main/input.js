@@ -6,6 +6,7 @@ import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";
 import { convert } from "../../actions/convert/convert-action.js";
 import { recipesAmong } from "../../actions/recipe/recipe-files.js";
+import { presetFilesAmong } from "../../presets/preset-pane.js";
 import { guard } from "../../lib/guard.js";
 import { wordsFor } from "../../lib/input-words.js";
 import { splitPath } from "../../lib/names.js";
@@ -179,15 +180,18 @@ export class Input {
         this.roots = this.roots.concat(folders.filter((folder) => this.roots.indexOf(folder) < 0));
     }
 
-    /** Files and folders, as they were dropped, pasted or named at start-up. Of recipes the first is opened, and nothing is run. */
+    /** Files and folders, as they were dropped, pasted or named at start-up. Of recipes the first is opened, and nothing is run;
+     *  presets are imported. */
     addPaths(paths) {
         // The settings of a run that is under way stay as they are.
         const named = this.window.isBusy() ? [] : recipesAmong(paths);
         const problem = named.length === 0 ? "" : this.window.actionPage.openRecipe(files.absolute(named[0]));
-        const others = paths.filter((path) => named.indexOf(path) < 0);
-        if (others.length > 0 || named.length === 0) {
+        const presets = this.takes()[0] === "*" ? [] : presetFilesAmong(paths);
+        presets.forEach((path) => this.window.actionPage.presets.importFile(path));
+        const others = paths.filter((path) => named.indexOf(path) < 0 && presets.indexOf(path) < 0);
+        if (others.length > 0 || named.length + presets.length === 0) {
             this.addPictureFiles(others);
-        } else if (problem === "") {
+        } else if (problem === "" && named.length > 0) {
             this.window.say(qsTr("Recipe opened. Nothing was run."));
         }
     }

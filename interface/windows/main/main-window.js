@@ -278,6 +278,20 @@ export class MainWindow {
         showStatusBar(this);
     }
 
+    /** What the desktop offers beside the program itself. */
+    openWith(opening) {
+        if (opening === "recipe") {
+            this.form.control("sideBar").currentAction = "recipe";
+        } else if (opening === "watch") {
+            if (this.shownPage !== null || !this.action.manner.watches) {
+                this.form.control("sideBar").currentAction = "resize";
+            }
+            // Once the window is there to be asked in front of.
+            this.openingTimer = shell.timer(guard("opening", () => this.watching.choose()));
+            this.openingTimer.start(0);
+        }
+    }
+
     showTitle() {
         const name = (this.shownPage || this.action).title();
         const share = percentDone(this.run);

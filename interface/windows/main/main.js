@@ -32,4 +32,5 @@ export function openMainWindow() {
     if (shell.arguments.length > 0) {
         window.input.addPaths(shell.arguments);
     }
+    window.openWith(shell.opening);
 }

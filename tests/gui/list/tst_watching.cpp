@@ -1,3 +1,5 @@
+#include "app/window/folders/side_bar.h"
+
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
 
@@ -19,6 +21,7 @@ private Q_SLOTS:
     void whatNobodyCanBeAskedIsRefused();
     void saysThatTheFolderIsGone();
     void recipesAreCarriedOutToo();
+    void theDesktopOpensWithIt();
 
 private:
     QString path(const QString &name) const { return m_driver->inputFolder() + u'/' + name; }
@@ -127,6 +130,17 @@ void TestWatching::recipesAreCarriedOutToo()
     QTest::qWait(3000); // results would have been taken by now
     QCOMPARE(m_driver->pictures().count(), 2);
     QVERIFY(says("2 pictures done"));
+}
+
+void TestWatching::theDesktopOpensWithIt()
+{
+    m_driver->show("rename"); // remembered, and nothing that can watch
+    m_driver->startAgain(QStringLiteral("watch"));
+    WindowDriver::answerPanels({m_driver->inputFolder()});
+    QVERIFY(m_driver->waitFor([this] { return part("watchBar")->isVisible(); }));
+    m_driver->click("watchStop");
+    m_driver->startAgain(QStringLiteral("recipe"));
+    QCOMPARE(m_driver->control<window::SideBar>("sideBar")->currentAction(), QStringLiteral("recipe"));
 }
 
 QUORLIN_GUI_TEST(TestWatching)

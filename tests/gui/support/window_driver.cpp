@@ -58,11 +58,11 @@ WindowDriver::WindowDriver(QApplication &application)
     startAgain();
 }
 
-void WindowDriver::startAgain()
+void WindowDriver::startAgain(const QString &opening)
 {
     m_startUp.reset();
     m_startUp = std::make_unique<window::StartUp>(m_application);
-    if (!m_startUp->loadScripts({}))
+    if (!m_startUp->loadScripts({}, opening))
         qFatal("%s", qPrintable(m_startUp->problem()));
 }
 

@@ -31,7 +31,8 @@ public:
     QString inputFolder() const;
 
     /** Ends the program and starts it anew, with the same settings. */
-    void startAgain();
+    /** @param opening  what the desktop asked for: "recipe", "watch" or nothing */
+    void startAgain(const QString &opening = QString());
 
     QMainWindow &window();
     window::StartUp &startUp() { return *m_startUp; }

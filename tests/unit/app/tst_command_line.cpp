@@ -16,6 +16,7 @@ private Q_SLOTS:
     void knowsItsOptions_data();
     void knowsItsOptions();
     void takesPathsAfterTheEndOfOptions();
+    void tellsWhatTheWindowOpensWith();
     void tellsWhichWindowSystemIsWanted();
     void saysWhichDisplayIsMissing_data();
     void saysWhichDisplayIsMissing();
@@ -63,6 +64,19 @@ void TestCommandLine::takesPathsAfterTheEndOfOptions()
     QCOMPARE(app::pathsAmong(split("a -- -b --help")), split("a -b --help"));
     QCOMPARE(app::pathsAmong(split("-- -- a")), split("-- a"));
     QCOMPARE(app::pathsAmong({}), QStringList());
+}
+
+void TestCommandLine::tellsWhatTheWindowOpensWith()
+{
+    const auto opening = [](const char *text) {
+        return app::commandLineFrom(QString::fromLatin1(text).split(u' ')).opening;
+    };
+    QCOMPARE(opening("--new-recipe"), QStringLiteral("recipe"));
+    QCOMPARE(opening("a.jpg --watch-folder"), QStringLiteral("watch"));
+    QCOMPARE(opening("-- --watch-folder"), QString());
+    QCOMPARE(app::pathsAmong({QStringLiteral("--new-recipe"), QStringLiteral("a")}), QStringList{QStringLiteral("a")});
+    const QStringList ended{QStringLiteral("--"), QStringLiteral("--new-recipe")};
+    QCOMPARE(app::pathsAmong(ended), QStringList{QStringLiteral("--new-recipe")});
 }
 
 void TestCommandLine::tellsWhichWindowSystemIsWanted()
