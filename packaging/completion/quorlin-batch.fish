@@ -1,4 +1,4 @@
-# Completion of quorlin-batch for fish.
+# Completion of quorlin-batch and quorlin for fish.
 
 complete -c quorlin-batch -l preset -x -a '(quorlin-batch --list-presets 2>/dev/null)' -d 'A preset in place of a recipe'
 complete -c quorlin-batch -l to -x -a '(__fish_complete_directories)' -d 'Base folder of results'
@@ -19,3 +19,8 @@ complete -c quorlin-batch -l quiet -d 'Say nothing but failures'
 complete -c quorlin-batch -l list-presets -d 'The names that --preset takes'
 complete -c quorlin-batch -l help -d 'The options'
 complete -c quorlin-batch -l version -d 'The version'
+
+complete -c quorlin -l new-recipe -d 'Open with the action Recipe'
+complete -c quorlin -l watch-folder -d 'Ask for a folder to watch'
+complete -c quorlin -l help -d 'The options'
+complete -c quorlin -l version -d 'The version'
