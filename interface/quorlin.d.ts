@@ -1110,6 +1110,18 @@ declare module "quorlin/recipes" {
         leftOut: whole;
         /** Sentences. */
         losses: string[];
+        /** What the recipe takes of the picture where it begins with a cut; empty where it does not. */
+        cut: CutPlan | { [key: string]: never };
+    }
+
+    /** In pixels of the upright picture. */
+    interface CutPlan {
+        /** What is asked for; it may reach outside. */
+        frame: { x: whole; y: whole; width: whole; height: whole };
+        /** What of it lies in the picture. */
+        part: { x: whole; y: whole; width: whole; height: whole };
+        /** False where its place is found by looking at the picture. */
+        isPlaced: boolean;
     }
 
     interface Made {
@@ -1944,7 +1956,7 @@ declare module "quorlin/shell" {
         reveal(id: whole): null;
     }
 
-    /** Nine places, 0 to 8 row by row, of which one is chosen; another number is passed over. */
+    /** Nine places, 0 to 8 row by row, of which one is chosen, or none, which is -1; another number is passed over. */
     export interface PositionPad extends Widget {
         selectedSegment: whole;
         /** What the places are called, for those who do not see them. */

@@ -71,6 +71,15 @@ void chooseRoad(OutputPlan &plan, const Way &way, const RecipeOutput &output, co
     plan.keepsOrientation = !canTurn;
 }
 
+std::optional<CutPlan> cutOf(const QList<RecipeStep> &steps, const Stage &stage)
+{
+    const auto first = std::find_if(steps.begin(), steps.end(), [](const RecipeStep &step) { return !step.isOff; });
+    const auto *crop = first == steps.end() ? nullptr : std::get_if<CropOperation>(&first->operation);
+    if (!crop)
+        return std::nullopt;
+    return CutPlan{cropFrameOf(*crop, stage), cropPartOf(*crop, stage), crop->position != Place::Attention};
+}
+
 OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const ImageSource &source, const Stage &stage)
 {
     OutputPlan plan;
@@ -90,6 +99,7 @@ OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const Image
         return plan;
     }
     plan.size = way->end.size;
+    plan.cut = cutOf(recipe.operations, stage);
     chooseRoad(plan, *way, output, source);
     plan.leftOut = plan.isLossless ? 0 : source.imageCount() - 1;
     plan.losses = lossesOf(plan, output, way->end, source);

@@ -5,7 +5,17 @@
 
 #include <QStringList>
 
+#include <optional>
+
 namespace image {
+
+/** What a recipe takes of a picture that begins with a cut, in pixels of the upright picture. */
+struct CutPlan
+{
+    CropRect frame;       ///< what is asked for; it may reach outside
+    QRect part;           ///< what of that lies in the picture
+    bool isPlaced = true; ///< false where its place is found by looking at the picture
+};
 
 /** What one output of a recipe will be for one picture. */
 struct OutputPlan
@@ -21,6 +31,7 @@ struct OutputPlan
     bool keepsOrientation = false;      ///< the entry stays, since nothing could turn the pixels without encoding them
     int leftOut = 0;                    ///< further pages or frames of the file that it will not have
     QStringList losses;                 ///< sentences
+    std::optional<CutPlan> cut;         ///< where the first operation is one
 };
 
 /** What a recipe makes of one picture, without decoding it. One plan an output; a failure before them is in each. */

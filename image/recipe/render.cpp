@@ -43,10 +43,16 @@ Result<Bitmap> turnedBy(Bitmap bitmap, const RightTurn &turn)
     return result;
 }
 
+/** The size on a rendition of a part that is @p size at full size. */
+QSize keptSize(QSize size, const Rendition &from)
+{
+    return scaledSize(size, from).boundedTo(from.bitmap.size());
+}
+
 /** A part of @p size, of which @p from knows the place at full size. */
 Result<Bitmap> cutFrom(const Rendition &from, QPoint corner, QSize size, Place place)
 {
-    const QSize kept = scaledSize(size, from).boundedTo(from.bitmap.size());
+    const QSize kept = keptSize(size, from);
     if (place == Place::Attention)
         return platform::attentionPart(from.bitmap, kept).map([&](const QRect &part) {
             return platform::cut(from.bitmap, part);
@@ -315,6 +321,23 @@ Result<Rendition> rendered(const QList<RecipeStep> &steps, const Rendition &star
             return tl::unexpected<platform::Error>(done.error());
     }
     return rendering.finish();
+}
+
+std::optional<QRect> foundPart(const QList<RecipeStep> &steps, const Rendition &start)
+{
+    const auto first = std::find_if(steps.begin(), steps.end(), [](const RecipeStep &step) { return !step.isOff; });
+    const auto *crop = first == steps.end() ? nullptr : std::get_if<CropOperation>(&first->operation);
+    if (!crop || crop->position != Place::Attention)
+        return std::nullopt;
+    const QSize size = cropPartOf(*crop, start.stage).size();
+    const Result<QRect> part = platform::attentionPart(start.bitmap, keptSize(size, start));
+    if (!part)
+        return std::nullopt;
+    const auto full = [](int length, double scale) { return int(std::lround(length / scale)); };
+    const QSize room = start.stage.size - size;
+    return QRect(QPoint(std::min(full(part->x(), start.across()), room.width()),
+                        std::min(full(part->y(), start.down()), room.height())),
+                 size);
 }
 
 } // namespace image

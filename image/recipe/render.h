@@ -4,6 +4,7 @@
 #include "platform/graphics/bitmap.h"
 
 #include <functional>
+#include <optional>
 
 namespace image {
 
@@ -38,5 +39,11 @@ platform::Result<Rendition> fittedInto(const platform::Bitmap &scaled, const Res
  * changeOf() does, with Unreadable for a picture or pattern that cannot be read, and with TooLarge where memory fails.
  */
 platform::Result<Rendition> rendered(const QList<RecipeStep> &steps, const Rendition &start, const FillText &fill);
+
+/**
+ * Where the cut lies that the steps begin with, where that is found by looking at the picture, in pixels of the full one; nothing for
+ * steps that begin otherwise.
+ */
+std::optional<QRect> foundPart(const QList<RecipeStep> &steps, const Rendition &start);
 
 } // namespace image

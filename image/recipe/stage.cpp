@@ -1,7 +1,6 @@
 #include "image/recipe/stage.h"
 #include "image/recipe/sentence.h"
 
-#include "image/crop.h"
 #include "image/turn.h"
 #include "platform/effects/colour_space.h"
 #include "platform/graphics/resample.h"
@@ -316,7 +315,7 @@ QPoint placeOf(Place place, QSize inner, QSize outer)
     return {along(index % 3, outer.width() - inner.width()), along(index / 3, outer.height() - inner.height())};
 }
 
-QRect cropPartOf(const CropOperation &crop, const Stage &stage)
+CropRect cropFrameOf(const CropOperation &crop, const Stage &stage)
 {
     const QSize whole = stage.size;
     QSize part;
@@ -349,7 +348,12 @@ QRect cropPartOf(const CropOperation &crop, const Stage &stage)
     const QPoint corner = placeOf(crop.position, part, whole) +
                           QPoint(int(std::lround(inPixelsOf(crop.right, crop.scale, stage.horizontalDpi))),
                                  int(std::lround(inPixelsOf(crop.down, crop.scale, stage.verticalDpi))));
-    return visiblePart({corner.x(), corner.y(), part.width(), part.height()}, whole);
+    return {corner.x(), corner.y(), part.width(), part.height()};
+}
+
+QRect cropPartOf(const CropOperation &crop, const Stage &stage)
+{
+    return visiblePart(cropFrameOf(crop, stage), stage.size);
 }
 
 QSize turnedCanvas(const TurnOperation &turn, QSize size)

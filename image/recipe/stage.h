@@ -1,5 +1,6 @@
 #pragma once
 
+#include "image/crop.h"
 #include "image/recipe/recipe.h"
 #include "image/recipe/right_turn.h"
 #include "platform/foundation/result.h"
@@ -46,6 +47,9 @@ struct Change
 double inPixelsOf(double length, const Scale &scale, double dpi);
 
 Fitting fittingOf(const ResizeOperation &resize, const Stage &stage);
+
+/** The frame that is meant on a picture of that size; it may reach outside, and have no inside. */
+CropRect cropFrameOf(const CropOperation &crop, const Stage &stage);
 
 /** The part that is left, on a picture of that size; empty where nothing is. With Place::Attention its place is not known. */
 QRect cropPartOf(const CropOperation &crop, const Stage &stage);

@@ -282,11 +282,21 @@ ReadAnswer PictureReader::result(const Request &request)
     const Result<Bitmap> base = baseOf(request, &full);
     if (!base)
         return failedWith(base.error(), full);
-    const Result<jobs::Rendition> made =
-        editsFrom(request.value("edits").toList(), request.recipeFiles()).and_then([&](const Edits &edits) {
-            return done(edits, {*base, full}, request.facts());
-        });
-    return made ? shown(made->bitmap.toScreenImage(), made->full) : failedWith(made.error());
+    const Result<Edits> edits = editsFrom(request.value("edits").toList(), request.recipeFiles());
+    const Result<jobs::Rendition> made = edits.and_then([&](const Edits &read) {
+        return done(read, {*base, full}, request.facts());
+    });
+    if (!made)
+        return failedWith(made.error());
+    ReadAnswer answer = shown(made->bitmap.toScreenImage(), made->full);
+    if (const std::optional<QRect> part = foundPart(*edits, {*base, full})) {
+        QVariantMap &values = answer.message.values;
+        values.insert(key("partX"), part->x());
+        values.insert(key("partY"), part->y());
+        values.insert(key("partWidth"), part->width());
+        values.insert(key("partHeight"), part->height());
+    }
+    return answer;
 }
 
 ReadAnswer PictureReader::answer(const ReadMessage &read, std::vector<platform::Descriptor> files)

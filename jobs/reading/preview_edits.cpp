@@ -116,14 +116,20 @@ Result<Rendition> doneOne(const FlattenEdit &, const Rendition &start, const tex
                 start.full);
 }
 
-Result<Rendition> doneOne(const RecipeEdit &edit, const Rendition &start, const text::TokenFacts &facts)
+/** The same with what the pixels say of themselves. */
+image::Rendition stagedFrom(const Rendition &start)
 {
     image::Rendition known = {start.bitmap, image::stageOf(start.bitmap)};
     known.stage.size = start.full;
+    return known;
+}
+
+Result<Rendition> doneOne(const RecipeEdit &edit, const Rendition &start, const text::TokenFacts &facts)
+{
     const image::FillText fill = [&facts](const QString &pattern, QSize size) {
         return watermarkFrom(pattern, facts, size);
     };
-    return image::rendered(edit.steps, known, fill).map([](const image::Rendition &made) {
+    return image::rendered(edit.steps, stagedFrom(start), fill).map([](const image::Rendition &made) {
         return Rendition{made.bitmap, made.stage.size};
     });
 }
@@ -166,6 +172,12 @@ Result<Rendition> done(const Edits &edits, const Rendition &start, const text::T
             break;
     }
     return present;
+}
+
+std::optional<QRect> foundPart(const Edits &edits, const Rendition &start)
+{
+    const auto *recipe = edits.empty() ? nullptr : std::get_if<RecipeEdit>(&edits.front());
+    return recipe ? image::foundPart(recipe->steps, stagedFrom(start)) : std::nullopt;
 }
 
 } // namespace jobs

@@ -8,6 +8,7 @@
 #include <QSize>
 #include <QVariantList>
 
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -65,5 +66,8 @@ struct Rendition
  * @param facts  of the picture, for the tokens in texts
  */
 platform::Result<Rendition> done(const Edits &edits, const Rendition &start, const text::TokenFacts &facts);
+
+/** Where the first edit cuts a part out that is found by looking at the picture, in pixels of the full one; see image::foundPart(). */
+std::optional<QRect> foundPart(const Edits &edits, const Rendition &start);
 
 } // namespace jobs

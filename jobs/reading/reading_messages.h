@@ -28,7 +28,10 @@ enum class Reading {
      * {lacksMemory} whether there was not enough.
      */
     Rendition,
-    /** The same with {edits} done to it, see preview_edits.h. Answer: pixels, and the {width, height} of the whole result. */
+    /**
+     * The same with {edits} done to it, see preview_edits.h. Answer: pixels, and the {width, height} of the whole result; and {partX,
+     * partY, partWidth, partHeight} of the picture where they begin with a cut whose place was found by looking at it.
+     */
     Result,
     /** {properties}: see platform::ImageSource::properties(). */
     Properties,

@@ -119,6 +119,26 @@ Result<QStringList> filesOf(const QVariantMap &object)
     return recipeFrom(object, files).map([](const Recipe &recipe) { return image::filesOf(recipe); });
 }
 
+namespace {
+
+QVariantMap rectangle(int x, int y, int width, int height)
+{
+    return {{key("x"), x}, {key("y"), y}, {key("width"), width}, {key("height"), height}};
+}
+
+QVariantMap cutOf(const std::optional<image::CutPlan> &cut)
+{
+    if (!cut)
+        return {};
+    const image::CropRect &frame = cut->frame;
+    const QRect &part = cut->part;
+    return {{key("frame"), rectangle(frame.x, frame.y, frame.width, frame.height)},
+            {key("part"), rectangle(part.x(), part.y(), part.width(), part.height())},
+            {key("isPlaced"), cut->isPlaced}};
+}
+
+} // namespace
+
 QVariantMap answerOf(const OutputPlan &plan)
 {
     const bool isThere = plan.problem.isEmpty();
@@ -130,7 +150,8 @@ QVariantMap answerOf(const OutputPlan &plan)
             {key("extension"), isThere ? image::extensionOf(plan.type) : QString()},
             {key("lossless"), plan.isLossless},
             {key("leftOut"), plan.leftOut},
-            {key("losses"), plan.losses}};
+            {key("losses"), plan.losses},
+            {key("cut"), cutOf(plan.cut)}};
 }
 
 QVariantMap RecipeService::recipeFor(const QString &action, const QVariantMap &settings) const

@@ -44,9 +44,11 @@ public:
 
     /**
      * What the recipe makes of the picture at @p path, from its header alone: {problem, isNotSupported, type, width, height,
-     * extension, lossless, leftOut, losses}. Where there will be none, problem is a sentence and the others say nothing; isNotSupported
+     * extension, lossless, leftOut, losses, cut}. Where there will be none, problem is a sentence and the others say nothing; isNotSupported
      * then tells that its type cannot be written. type is the word of recipes ("jpeg"), extension ".jpg", width and height are pixels of
-     * the upright result, leftOut counts pages and frames that it will not have, losses are sentences.
+     * the upright result, leftOut counts pages and frames that it will not have, losses are sentences. cut is empty unless the recipe
+     * begins with one: {frame, part, isPlaced} are then what is asked for, what of it lies in the picture, both as {x, y, width, height} in
+     * pixels of the upright picture, and false where its place is found by looking at the picture.
      */
     Q_INVOKABLE virtual QVariantMap planOutput(const QString &path, const QVariantMap &recipe) const;
 

@@ -18,6 +18,9 @@ private Q_SLOTS:
     void initTestCase();
     void plansFromTheHeader_data();
     void plansFromTheHeader();
+    void plansWhereACutLies_data();
+    void plansWhereACutLies();
+    void knowsNoPlaceOfWhatDrawsTheEye();
     void makesWhatItPlans();
     void namesResults_data();
     void namesResults();
@@ -79,6 +82,42 @@ void TestSeamRecipes::plansFromTheHeader()
     const QString fields = QStringLiteral("((p) => [p.problem, p.type, p.width, p.height, p.extension, p.lossless, "
                                           "p.losses.length])(recipes.planOutput('FOLDER/a.png', %1))");
     QTEST(answer(fields.arg(expression)), "expected");
+}
+
+void TestSeamRecipes::plansWhereACutLies_data()
+{
+    QTest::addColumn<QString>("operations");
+    QTest::addColumn<QString>("expected");
+    const std::pair<const char *, const char *> rows[] = {
+        {"[{ do: 'crop', ratio: '1:1' }]", "[10,0,40,40,10,0,40,40,true]"},
+        {"[{ do: 'crop', ratio: '2:3' }]", "[0,0,60,40,0,0,60,40,true]"},
+        {"[{ do: 'crop', ratio: '2:3', turn: false }]", "[16,0,27,40,16,0,27,40,true]"},
+        {"[{ do: 'crop', width: 100, height: 10, offset: [5, 0] }]", "[-15,15,100,10,0,15,60,10,true]"},
+        {"[{ do: 'flip', direction: 'vertical', off: true }, { do: 'crop', percent: 50 }]",
+         "[15,10,30,20,15,10,30,20,true]"},
+    };
+    for (const auto &[operations, expected] : rows)
+        QTest::newRow(operations) << QString::fromUtf8(operations) << QString::fromUtf8(expected);
+}
+
+void TestSeamRecipes::plansWhereACutLies()
+{
+    QFETCH(QString, operations);
+    const QString fields =
+        QStringLiteral("((c) => [c.frame, c.part].reduce((all, r) => all.concat([r.x, r.y, r.width, r.height]), "
+                       "[]).concat([c.isPlaced]))(recipes.planOutput('FOLDER/a.png', R(%1, {})).cut)");
+    QTEST(answer(fields.arg(operations)), "expected");
+}
+
+void TestSeamRecipes::knowsNoPlaceOfWhatDrawsTheEye()
+{
+    const QString cut = QStringLiteral("recipes.planOutput('FOLDER/a.png', R(%1, {})).cut");
+    const QString found = QStringLiteral("[{ do: 'crop', ratio: '1:1', position: 'attention' }]");
+    QCOMPARE(answer(QStringLiteral("((c) => [c.part.width, c.isPlaced])(%1)").arg(cut.arg(found))),
+             QStringLiteral("[40,false]"));
+    // One that comes later says nothing of the picture itself.
+    QCOMPARE(answer(cut.arg(QStringLiteral("[{ do: 'resize', width: 30 }, { do: 'crop', ratio: '1:1' }]"))),
+             QStringLiteral("{}"));
 }
 
 void TestSeamRecipes::namesResults_data()
