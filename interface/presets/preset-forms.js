@@ -43,13 +43,14 @@ function outputColumns(version) {
 }
 
 /**
- * The form of an action that writes pictures: the words for Process, the setting that stands in Action, or "", its values, the
- * columns, and the version that brought WebP, AVIF and JPEG XL, the second where nothing is said. A setting that is a list has
- * {path, columns, read}: read(kept) makes a part of what was kept, or null.
+ * The form of an action that writes pictures: the words for Process, the setting that stands in Action, or "", its values, and the
+ * columns. `later` has the versions that brought some words: {types: that of WebP, AVIF and JPEG XL, 2 where nothing is said; modes: those
+ * of values of that setting}. A setting that is a list has {path, columns, read}: read(kept) makes a part of what was kept, or null.
  */
-export function writingForm(process, mode, modes, own, typesVersion) {
-    return { process: process, mode: mode, modes: modes,
-             columns: Object.assign(outputColumns(typesVersion || 2), own) };
+export function writingForm(process, mode, modes, own, later) {
+    const versions = Object.assign({ types: 2, modes: {} }, later);
+    return { process: process, mode: mode, modes: modes, laterModes: versions.modes,
+             columns: Object.assign(outputColumns(versions.types), own) };
 }
 
 /** The form of an action that moves files: it has no output but a simulation. */

@@ -110,9 +110,10 @@ function writeSlots(row, slots) {
     slots.forEach((slot, i) => { row[FIRST_SLOT + i] = slotText(slot); });
 }
 
-// The columns of a form that have words of a later version, which stand last in each: {word: version}.
+// The settings of a form that have words of a later version, which stand last in each: {word: version}.
 function newWordsOf(form) {
-    const columns = Object.keys(form.columns).map((column) => form.columns[column]);
+    const mode = [form.mode, "text", form.modes, form.laterModes];
+    const columns = Object.keys(form.columns).map((column) => form.columns[column]).concat([mode]);
     return columns.filter((column) => column[3] !== undefined);
 }
 

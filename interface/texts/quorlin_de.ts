@@ -255,6 +255,54 @@
         <source>–</source>
         <translation>–</translation>
     </message>
+    <message>
+        <source>Swap for portrait pictures</source>
+        <translation>Bei Hochformat tauschen</translation>
+    </message>
+    <message>
+        <source>The longer number goes with the longer side of each picture: 3:2 becomes 2:3 in pictures that stand</source>
+        <translation>Die größere Zahl gilt der längeren Seite jedes Bildes: aus 3:2 wird bei stehenden Bildern 2:3</translation>
+    </message>
+    <message>
+        <source>First number of the ratio</source>
+        <translation>Erste Zahl des Verhältnisses</translation>
+    </message>
+    <message>
+        <source>Second number of the ratio</source>
+        <translation>Zweite Zahl des Verhältnisses</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Blickfang</translation>
+    </message>
+    <message>
+        <source>The frame lies where the eye is drawn to, found in each picture</source>
+        <translation>Der Rahmen liegt dort, wohin der Blick fällt; das wird in jedem Bild gesucht</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Unit of the offsets</source>
+        <translation>Einheit der Verschiebungen</translation>
+    </message>
+    <message>
+        <source>Unit of the offsets: pixels, millimetres, centimetres, inches, picas, points</source>
+        <translation>Einheit der Verschiebungen: Pixel, Millimeter, Zentimeter, Zoll, Pica, Punkt</translation>
+    </message>
+    <message>
+        <source>Resolution of the lengths</source>
+        <translation>Auflösung der Längen</translation>
+    </message>
+    <message>
+        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
+        <translation>Die Punkte pro Zoll, die aus diesen Längen Pixel machen; eine gewählte Auflösung wird in die Datei geschrieben</translation>
+    </message>
+    <message>
+        <source>Dots per inch</source>
+        <translation>Punkte pro Zoll</translation>
+    </message>
 </context>
 <context>
     <name>HandPage</name>
@@ -2374,6 +2422,10 @@
             <numerusform>%n weitere Bilder ausgelassen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>cut off at the picture’s edge</source>
+        <translation>am Bildrand abgeschnitten</translation>
+    </message>
 </context>
 <context>
     <name>comment-job</name>
@@ -2704,6 +2756,14 @@
         <source>%1 at %2, %3</source>
         <translation>%1 bei %2, %3</translation>
     </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Verhältnis</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Anderes</translation>
+    </message>
 </context>
 <context>
     <name>crop-presets</name>
@@ -2774,16 +2834,20 @@
         <translation>Geben Sie für den Versatz Werte von %1 bis %2 ein.</translation>
     </message>
     <message>
-        <source>nothing would be left of it</source>
-        <translation>es bliebe nichts davon übrig</translation>
+        <source>ratio %1</source>
+        <translation>Verhältnis %1</translation>
     </message>
     <message>
-        <source>the frame lies outside the picture</source>
-        <translation>der Ausschnitt liegt außerhalb des Bildes</translation>
+        <source>not swapped</source>
+        <translation>nicht getauscht</translation>
     </message>
     <message>
-        <source>Cut off at the picture’s edge.</source>
-        <translation>Am Bildrand abgeschnitten.</translation>
+        <source>where the eye is drawn to</source>
+        <translation>am Blickfang</translation>
+    </message>
+    <message>
+        <source>Enter two numbers above 0 for the ratio.</source>
+        <translation>Geben Sie zwei Zahlen über 0 für das Verhältnis ein.</translation>
     </message>
 </context>
 <context>

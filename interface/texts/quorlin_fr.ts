@@ -255,6 +255,54 @@
         <source>–</source>
         <translation>–</translation>
     </message>
+    <message>
+        <source>Swap for portrait pictures</source>
+        <translation>Inverser pour les portraits</translation>
+    </message>
+    <message>
+        <source>The longer number goes with the longer side of each picture: 3:2 becomes 2:3 in pictures that stand</source>
+        <translation>Le plus grand nombre va au plus long côté de chaque image : 3:2 devient 2:3 pour les images verticales</translation>
+    </message>
+    <message>
+        <source>First number of the ratio</source>
+        <translation>Premier nombre du rapport</translation>
+    </message>
+    <message>
+        <source>Second number of the ratio</source>
+        <translation>Second nombre du rapport</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Centre d’intérêt</translation>
+    </message>
+    <message>
+        <source>The frame lies where the eye is drawn to, found in each picture</source>
+        <translation>Le cadre est placé là où le regard est attiré, cherché dans chaque image</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Unit of the offsets</source>
+        <translation>Unité des décalages</translation>
+    </message>
+    <message>
+        <source>Unit of the offsets: pixels, millimetres, centimetres, inches, picas, points</source>
+        <translation>Unité des décalages : pixels, millimètres, centimètres, pouces, picas, points</translation>
+    </message>
+    <message>
+        <source>Resolution of the lengths</source>
+        <translation>Résolution des longueurs</translation>
+    </message>
+    <message>
+        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
+        <translation>Les points par pouce qui transforment ces longueurs en pixels ; une résolution choisie est écrite dans le fichier</translation>
+    </message>
+    <message>
+        <source>Dots per inch</source>
+        <translation>Points par pouce</translation>
+    </message>
 </context>
 <context>
     <name>HandPage</name>
@@ -2374,6 +2422,10 @@
             <numerusform>%n autres images laissées de côté</numerusform>
         </translation>
     </message>
+    <message>
+        <source>cut off at the picture’s edge</source>
+        <translation>coupé au bord de l’image</translation>
+    </message>
 </context>
 <context>
     <name>comment-job</name>
@@ -2704,6 +2756,14 @@
         <source>%1 at %2, %3</source>
         <translation>%1 en %2, %3</translation>
     </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autre</translation>
+    </message>
 </context>
 <context>
     <name>crop-presets</name>
@@ -2774,16 +2834,20 @@
         <translation>Saisissez des décalages de %1 à %2.</translation>
     </message>
     <message>
-        <source>nothing would be left of it</source>
-        <translation>il n’en resterait rien</translation>
+        <source>ratio %1</source>
+        <translation>rapport %1</translation>
     </message>
     <message>
-        <source>the frame lies outside the picture</source>
-        <translation>le cadre est hors de l’image</translation>
+        <source>not swapped</source>
+        <translation>non inversé</translation>
     </message>
     <message>
-        <source>Cut off at the picture’s edge.</source>
-        <translation>Coupé au bord de l’image.</translation>
+        <source>where the eye is drawn to</source>
+        <translation>au centre d’intérêt</translation>
+    </message>
+    <message>
+        <source>Enter two numbers above 0 for the ratio.</source>
+        <translation>Saisissez deux nombres supérieurs à 0 pour le rapport.</translation>
     </message>
 </context>
 <context>

@@ -255,6 +255,54 @@
         <source>–</source>
         <translation>–</translation>
     </message>
+    <message>
+        <source>Swap for portrait pictures</source>
+        <translation>Omkeren bij staande foto’s</translation>
+    </message>
+    <message>
+        <source>The longer number goes with the longer side of each picture: 3:2 becomes 2:3 in pictures that stand</source>
+        <translation>Het grootste getal hoort bij de langste zijde van elke foto: 3:2 wordt 2:3 bij staande foto’s</translation>
+    </message>
+    <message>
+        <source>First number of the ratio</source>
+        <translation>Eerste getal van de verhouding</translation>
+    </message>
+    <message>
+        <source>Second number of the ratio</source>
+        <translation>Tweede getal van de verhouding</translation>
+    </message>
+    <message>
+        <source>Attention</source>
+        <translation>Blikvanger</translation>
+    </message>
+    <message>
+        <source>The frame lies where the eye is drawn to, found in each picture</source>
+        <translation>Het kader ligt waar de blik naartoe gaat; dat wordt in elke foto gezocht</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolutie</translation>
+    </message>
+    <message>
+        <source>Unit of the offsets</source>
+        <translation>Eenheid van de verschuivingen</translation>
+    </message>
+    <message>
+        <source>Unit of the offsets: pixels, millimetres, centimetres, inches, picas, points</source>
+        <translation>Eenheid van de verschuivingen: pixels, millimeters, centimeters, inches, pica’s, punten</translation>
+    </message>
+    <message>
+        <source>Resolution of the lengths</source>
+        <translation>Resolutie van de lengtes</translation>
+    </message>
+    <message>
+        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
+        <translation>De punten per inch die van deze lengtes pixels maken; een gekozen resolutie wordt in het bestand geschreven</translation>
+    </message>
+    <message>
+        <source>Dots per inch</source>
+        <translation>Punten per inch</translation>
+    </message>
 </context>
 <context>
     <name>HandPage</name>
@@ -2374,6 +2422,10 @@
             <numerusform>%n verdere foto’s weggelaten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>cut off at the picture’s edge</source>
+        <translation>afgesneden aan de rand</translation>
+    </message>
 </context>
 <context>
     <name>comment-job</name>
@@ -2704,6 +2756,14 @@
         <source>%1 at %2, %3</source>
         <translation>%1 op %2, %3</translation>
     </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Verhouding</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Andere</translation>
+    </message>
 </context>
 <context>
     <name>crop-presets</name>
@@ -2774,16 +2834,20 @@
         <translation>Geef verschuivingen op van %1 tot %2.</translation>
     </message>
     <message>
-        <source>nothing would be left of it</source>
-        <translation>er zou niets van overblijven</translation>
+        <source>ratio %1</source>
+        <translation>verhouding %1</translation>
     </message>
     <message>
-        <source>the frame lies outside the picture</source>
-        <translation>het kader ligt buiten de foto</translation>
+        <source>not swapped</source>
+        <translation>niet omgekeerd</translation>
     </message>
     <message>
-        <source>Cut off at the picture’s edge.</source>
-        <translation>Afgesneden aan de rand van de foto.</translation>
+        <source>where the eye is drawn to</source>
+        <translation>bij de blikvanger</translation>
+    </message>
+    <message>
+        <source>Enter two numbers above 0 for the ratio.</source>
+        <translation>Voer twee getallen boven 0 in voor de verhouding.</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocale>
 
 #include <algorithm>
 #include <functional>
@@ -67,23 +68,43 @@ QString positionOf(const QJsonObject &settings)
     return text(places[qBound(0, settings.value(text("position")).toInt(), 8)]);
 }
 
+/** "3:2", of two numbers where a person gave them. */
+QString ratioOf(const QJsonObject &settings)
+{
+    const QString ratio = settings.value(text("ratio")).toString();
+    if (ratio != text("custom"))
+        return ratio;
+    const auto number = [&settings](const char *key) {
+        return QString::number(settings.value(text(key)).toDouble(), 'g', QLocale::FloatingPointShortest);
+    };
+    return number("ratioWidth") + u':' + number("ratioHeight");
+}
+
 QJsonArray cropOperations(const QJsonObject &settings)
 {
-    QJsonObject crop = {{text("do"), text("crop")}, {text("position"), positionOf(settings)}};
+    constexpr int attention = 9;
+    const bool isFound = settings.value(text("position")).toInt() == attention;
+    QJsonObject crop = {{text("do"), text("crop")},
+                        {text("position"), isFound ? text("attention") : positionOf(settings)}};
     const QString mode = settings.value(text("mode")).toString();
-    const bool isBySize = mode == text("size");
-    if (isBySize) {
+    if (mode == text("size")) {
         crop.insert(text("width"), settings.value(text("width")));
         crop.insert(text("height"), settings.value(text("height")));
+    } else if (mode == text("ratio")) {
+        crop.insert(text("ratio"), ratioOf(settings));
+        if (!settings.value(text("turnsRatio")).toBool(true))
+            crop.insert(text("turn"), false);
     } else if (mode == text("pixels")) {
         crop.insert(text("trim"), settings.value(text("pixels")));
     } else {
         crop.insert(text("percent"), settings.value(text("percent")));
     }
     const QJsonArray offset = {settings.value(text("offsetX")), settings.value(text("offsetY"))};
-    if (offset != QJsonArray{0, 0})
+    const bool isMoved = !isFound && offset != QJsonArray{0, 0};
+    if (isMoved)
         crop.insert(text("offset"), offset);
-    if (isBySize)
+    // What is cut away is in pixels, and then so is what it is moved by.
+    if (mode == text("size") || (isMoved && mode != text("pixels")))
         addUnit(crop, settings);
     return {crop};
 }

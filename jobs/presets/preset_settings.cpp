@@ -67,7 +67,7 @@ Form cropForm()
 {
     return {
         R"({"mode": "percent", "width": 1200, "height": 800, "unit": "pixel", "percent": 20, "pixels": 200, "position": 4,
-              "offsetX": 0, "offsetY": 0, "ratio": "free",
+              "offsetX": 0, "offsetY": 0, "ratio": "free", "ratioWidth": 3, "ratioHeight": 2, "turnsRatio": true, "dpi": 0,
               "output": {"fileType": "original file type", "quality": "9", "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Cropped", "path": ""}}})",
         "mode",
@@ -79,7 +79,12 @@ Form cropForm()
          {16, "offsetX", Kind::Number},
          {17, "offsetY", Kind::Number},
          {18, "ratio", Kind::Text},
-         {22, "position", Kind::Whole}}};
+         {19, "ratioWidth", Kind::Number},
+         {20, "ratioHeight", Kind::Number},
+         {42, "dpi", Kind::Number},
+         {22, "position", Kind::Whole},
+         {23, "turnsRatio", Kind::Flag}},
+        2};
 }
 
 Form turnForm()

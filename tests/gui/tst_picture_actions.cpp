@@ -86,53 +86,6 @@ private Q_SLOTS:
 
     void cleanup() { m_driver.reset(); }
 
-    void cropsTheChosenQuarter()
-    {
-        save("a.png", quarters({400, 300}));
-        save("b.png", quarters({200, 100}));
-        m_driver->drop({m_pictures});
-        m_driver->show("crop");
-        m_driver->control<QDoubleSpinBox>("cropPercent")->setValue(50);
-        QTest::keyClick(m_driver->control<window::PositionPad>("position"), Qt::Key_Home);
-        QCOMPARE(m_driver->text("resultText"), QStringLiteral("200×150 at 0, 0"));
-        run(QStringLiteral("2 pictures done"));
-        const QImage result(at("Cropped/a.png"));
-        QCOMPARE(result.size(), QSize(200, 150));
-        QCOMPARE(result.pixel(199, 149), QColor(Qt::red).rgb());
-        QCOMPARE(uprightSize(at("Cropped/b.png")), QSize(100, 50));
-    }
-
-    void aRatioMakesTheLargestFrameAndIsKept()
-    {
-        save("a.png", quarters({400, 300}));
-        m_driver->drop({m_pictures});
-        m_driver->show("crop");
-        m_driver->choose("ratio", QStringLiteral("16:9"));
-        QCOMPARE(m_driver->control<window::SegmentedControl>("cropMode")->selectedSegment(), 0);
-        QCOMPARE(m_driver->text("resultText"), QStringLiteral("400×225 at 0, 37"));
-        m_driver->control<QDoubleSpinBox>("cropWidth")->setValue(320);
-        QCOMPARE(m_driver->control<QDoubleSpinBox>("cropHeight")->value(), 180.0);
-        QCOMPARE(m_driver->text("resultText"), QStringLiteral("320×180 at 40, 60"));
-    }
-
-    void aFrameThatIsDraggedFillsTheFieldsFromItsPosition()
-    {
-        save("a.png", quarters({400, 300}));
-        m_driver->drop({m_pictures});
-        m_driver->show("crop");
-        Q_EMIT m_driver->control<window::ComparePreview>("preview")->cropFrameEdited(110, 60, 200, 150);
-        QCOMPARE(m_driver->control<window::SegmentedControl>("cropMode")->selectedSegment(), 0);
-        QCOMPARE(m_driver->control<QDoubleSpinBox>("cropWidth")->value(), 200.0);
-        QCOMPARE(m_driver->control<QDoubleSpinBox>("cropHeight")->value(), 150.0);
-        // In the centre it would lie at 100, 75.
-        QCOMPARE(m_driver->control<window::PositionPad>("position")->selectedSegment(), 4);
-        QCOMPARE(m_driver->control<QDoubleSpinBox>("offsetX")->value(), 10.0);
-        QCOMPARE(m_driver->control<QDoubleSpinBox>("offsetY")->value(), -15.0);
-        run(QStringLiteral("1 picture done"));
-        QCOMPARE(QImage(at("Cropped/a.png")),
-                 QImage(at("a.png")).copy(110, 60, 200, 150).convertToFormat(QImage(at("Cropped/a.png")).format()));
-    }
-
     void noResultIsShownTurned_data()
     {
         QTest::addColumn<QString>("action");

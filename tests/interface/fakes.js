@@ -232,7 +232,7 @@ export function recipeServices(plan, made) {
         planOutput: (path, recipe) => {
             services.asked.push([path, recipe]);
             return Object.assign({ problem: "", isNotSupported: false, type: "jpeg", width: 400, height: 300,
-                                   extension: ".jpg", lossless: false, leftOut: 0, losses: [] }, plan || {});
+                                   extension: ".jpg", lossless: false, leftOut: 0, losses: [], cut: {} }, plan || {});
         },
         nameFor: (path, pattern, ...others) => pattern + " of " + [path].concat(others).join(" "),
         make: (path, recipe, target) => {

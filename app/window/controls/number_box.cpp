@@ -24,6 +24,24 @@ void NumberBox::showSuffix(const QString &suffix)
         setSuffix(suffix);
 }
 
+void NumberBox::setShort(bool isShort)
+{
+    m_isShort = isShort;
+    setValue(value());
+}
+
+QString NumberBox::textFromValue(double value) const
+{
+    QString text = QDoubleSpinBox::textFromValue(value);
+    if (!m_isShort || decimals() == 0)
+        return text;
+    while (text.endsWith(locale().zeroDigit()))
+        text.chop(locale().zeroDigit().size());
+    if (text.endsWith(locale().decimalPoint()))
+        text.chop(locale().decimalPoint().size());
+    return text;
+}
+
 void NumberBox::keyPressEvent(QKeyEvent *event)
 {
     const bool isPoint = event->text() == QLatin1String(".") || event->text() == QLatin1String(",");

@@ -18,6 +18,8 @@ class NumberBox : public QDoubleSpinBox
     Q_PROPERTY(double value READ value WRITE showValue USER true)
     Q_PROPERTY(int decimals READ decimals WRITE showDecimals)
     Q_PROPERTY(QString suffix READ suffix WRITE showSuffix)
+    /** Leaves out zeros behind the decimal point, and the point with them. */
+    Q_PROPERTY(bool isShort READ isShort WRITE setShort)
 
 public:
     using QDoubleSpinBox::QDoubleSpinBox;
@@ -25,9 +27,15 @@ public:
     void showValue(double value);
     void showDecimals(int decimals);
     void showSuffix(const QString &suffix);
+    bool isShort() const { return m_isShort; }
+    void setShort(bool isShort);
+    QString textFromValue(double value) const override;
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    bool m_isShort = false;
 };
 
 } // namespace window

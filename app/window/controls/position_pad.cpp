@@ -31,7 +31,7 @@ PositionPad::PositionPad(QWidget *parent) : QWidget(parent)
 
 void PositionPad::setSelectedSegment(int place)
 {
-    if (place == m_selected || place < 0 || place >= places)
+    if (place == m_selected || place < -1 || place >= places)
         return;
     m_selected = place;
     describe();
@@ -69,12 +69,13 @@ void PositionPad::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     for (int place = 0; place < places; ++place) {
         const bool on = place == m_selected;
+        const bool hasRing = on || (m_selected < 0 && place == places / 2);
         const QRectF box = QRectF(placeRect(place)).adjusted(0.5, 0.5, -0.5, -0.5);
         const char *fill = on && isEnabled() ? "accent" : place == m_hovered && isEnabled() ? "hover" : "field";
         painter.setBrush(Theme::color(QString::fromLatin1(on && !isEnabled() ? "line" : fill)));
         painter.setPen(Theme::color(QString::fromLatin1(!isEnabled() ? "hairline" : on ? "accent" : "line")));
         painter.drawRoundedRect(box, 4, 4);
-        if (on && hasFocus()) {
+        if (hasRing && hasFocus()) {
             painter.setBrush(Qt::NoBrush);
             painter.setPen(QPen(Theme::color(QStringLiteral("accentText")), 2));
             painter.drawRoundedRect(box.adjusted(-2, -2, 2, 2), 6, 6);
@@ -99,8 +100,10 @@ void PositionPad::leaveEvent(QEvent *)
 
 void PositionPad::keyPressEvent(QKeyEvent *event)
 {
-    const int row = m_selected / 3;
-    const int column = m_selected % 3;
+    constexpr int middle = places / 2;
+    const int from = m_selected < 0 ? middle : m_selected;
+    const int row = from / 3;
+    const int column = from % 3;
     switch (event->key()) {
     case Qt::Key_Left:
         return choose(row * 3 + std::max(0, column - 1));

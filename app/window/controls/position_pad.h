@@ -5,9 +5,9 @@
 namespace window {
 
 /**
- * Three rows of three places of which exactly one is chosen: where a smaller thing lies in a larger one.
+ * Three rows of three places of which one is chosen, or none: where a smaller thing lies in a larger one.
  *
- * Places are numbered row by row from the top left, 0 to 8. One tab stop; the arrow keys move the choice.
+ * Places are numbered row by row from the top left, 0 to 8; -1 is none of them. One tab stop; the arrow keys move the choice.
  */
 class PositionPad : public QWidget
 {
@@ -19,7 +19,7 @@ public:
     explicit PositionPad(QWidget *parent = nullptr);
 
     int selectedSegment() const { return m_selected; }
-    /** A number outside 0 to 8 is ignored. */
+    /** -1 for none; other numbers outside 0 to 8 are ignored. */
     void setSelectedSegment(int place);
     /** What the nine places are called, for those who do not see them. */
     QStringList names() const { return m_names; }

@@ -320,6 +320,7 @@ void ComparePreview::takeResult(const jobs::ReadResult &result)
     m_resultImage = result.image;
     m_resultFull = result.size();
     m_scaledResult = {};
+    takeFoundFrame(result);
     m_resultProblem = result.isReaderGone ? cannotBeShown(result.problem) : result.problem;
     if (m_isResultStale) {
         askForResult();

@@ -71,7 +71,8 @@ public:
 
     /**
      * A frame on the original that can be moved and sized: {x, y, width, height: pixels of the upright original; ratio:
-     * width by height to keep, 0 for free}; null takes it away. Meanwhile the result is shown at the original's scale.
+     * width by height to keep, 0 for free; isFound: it lies where the result comes from, which whoever makes that says}; null takes it
+     * away. Meanwhile the result is shown at the original's scale.
      */
     Q_INVOKABLE void setCropFrame(const QVariantMap &frame);
     /** A Picture that is drawn over the whole original, or null; it is seen where there is a crop frame. */
@@ -130,6 +131,7 @@ private:
     void fitViews();
     void render();
     void placeCropFrame();
+    void takeFoundFrame(const jobs::ReadResult &result);
     void prepareOverlay();
     void showCropped();
     QRectF croppedRect() const;
@@ -157,6 +159,8 @@ private:
     myMainPhotoView m_mainView;
     my2ndPhotoView m_cropView;
     CropFrameEditor *m_cropFrame;
+    double m_frameRatio = 0;
+    bool m_isFrameFound = false; ///< with the result, by whoever makes it
     platform::Picture m_overlay;
     QTimer m_settled;
     QTimer m_asked;

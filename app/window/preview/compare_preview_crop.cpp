@@ -14,14 +14,27 @@ void ComparePreview::setCropFrame(const QVariantMap &frame)
 {
     const platform::Fields fields(frame, QStringLiteral("frame"),
                                   {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"),
-                                   QStringLiteral("height"), QStringLiteral("ratio")});
+                                   QStringLiteral("height"), QStringLiteral("ratio"), QStringLiteral("isFound")});
     // No picture is larger, and sums of two of them are still whole numbers.
     static constexpr double most = 1'000'000'000;
     const auto whole = [&fields](const char *name) { return qRound(qBound(-most, fields.number(name, 0), most)); };
     const bool wasShown = m_cropFrame->isShown();
-    m_cropFrame->setFrame(QRect(whole("x"), whole("y"), whole("width"), whole("height")), fields.number("ratio", 0));
+    m_frameRatio = fields.number("ratio", 0);
+    m_isFrameFound = fields.truth("isFound", false);
+    // Until the result is there, the frame stays where it was.
+    if (!m_isFrameFound)
+        m_cropFrame->setFrame(QRect(whole("x"), whole("y"), whole("width"), whole("height")), m_frameRatio);
     if (wasShown != m_cropFrame->isShown())
         m_asked.start(0);
+}
+
+/** Where a frame lies that a worker has found. */
+void ComparePreview::takeFoundFrame(const jobs::ReadResult &result)
+{
+    const auto whole = [&result](const char *key) { return result.value(key).toInt(); };
+    const QRect part(whole("partX"), whole("partY"), whole("partWidth"), whole("partHeight"));
+    if (m_isFrameFound && !part.isEmpty())
+        m_cropFrame->setFrame(part, m_frameRatio);
 }
 
 void ComparePreview::setOverlay(const platform::Picture &picture)

@@ -1,94 +1,147 @@
 // The settings of the Crop action.
 
-import { cropFrame, largestOf, MODES, offsetsFor, ratioOf } from "./crops.js";
+import { guard } from "../../lib/guard.js";
 import { converted, PIXEL, unitSign } from "../../lib/measure.js";
 import { fill, pixels } from "../../lib/wording.js";
 import * as crop from "./crop-step.js";
 import { Pane } from "../shared/pane.js";
+import { ResolutionRow } from "../shared/resolution-row.js";
 
 const LENGTHS = ["width", "height", "offsetX", "offsetY"];
+const CENTRE = 4;
+// What a new frame by ratio has.
+const USUAL_RATIO = "3:2";
 
 export class CropPane extends Pane {
     constructor(settings, changed) {
         super("actions/crop/crop-pane.ui", crop, settings, changed);
+        this.services = null;
+        this.planned = null;
+        this.offered = null;
+        this.replaced = "";
         this.join();
         this.fill();
     }
 
     join() {
-        this.form.control("cropMode").segments = [qsTr("W × H"), "%", qsTr("Pixels")];
+        this.form.control("cropMode").segments = [qsTr("Ratio"), qsTr("W × H"), "%", qsTr("Pixels")];
         this.form.control("position").names = [qsTr("Top left"), qsTr("Top"), qsTr("Top right"), qsTr("Left"),
                                                qsTr("Centre"), qsTr("Right"), qsTr("Bottom left"), qsTr("Bottom"),
                                                qsTr("Bottom right")];
-        this.form.setItems("ratio", [qsTr("Free"), qsTr("Original")].concat(crop.RATIOS.slice(2)), crop.RATIOS);
-        this.segments("cropMode", "mode", MODES);
+        this.segments("cropMode", "mode", crop.MODES);
         this.segments("position", "position", crop.PLACES);
+        this.form.control("attention").toggled.connect(guard("attention", () => this.attentionToggled()));
         this.number("cropWidth", "width");
         this.number("cropHeight", "height");
         this.number("cropPercent", "percent");
         this.number("cropPixels", "pixels");
         this.number("offsetX", "offsetX");
         this.number("offsetY", "offsetY");
+        this.number("ratioWidth", "ratioWidth");
+        this.number("ratioHeight", "ratioHeight");
         this.choice("ratio", "ratio");
+        this.check("turnsRatio", "turnsRatio");
+        this.resolution = new ResolutionRow(this);
         this.units("unit", LENGTHS);
+        this.units("offsetUnit", LENGTHS);
     }
 
     showValues() {
-        this.form.control("cropMode").selectedSegment = MODES.indexOf(this.settings.mode);
-        this.form.control("position").selectedSegment = this.settings.position;
         this.form.control("cropPercent").value = this.settings.percent;
         this.form.control("cropPixels").value = this.settings.pixels;
-        this.form.chooseValue("ratio", this.settings.ratio);
-        this.form.chooseValue("unit", this.settings.unit);
+        this.form.control("turnsRatio").checked = this.settings.turnsRatio;
+        this.resolution.fill();
     }
 
     showState() {
         const mode = this.settings.mode;
-        this.visible(["sizeLabel", "sizeFields"], mode === "size");
+        const isBySize = mode === "size";
+        this.visible(["sizeLabel", "sizeFields"], isBySize);
         this.visible(["percentLabel", "percentHost"], mode === "percent");
         this.visible(["pixelsLabel", "pixelsHost"], mode === "pixels");
-        this.form.control("cropMode").selectedSegment = MODES.indexOf(mode);
-        const fields = { cropWidth: "width", cropHeight: "height", offsetX: "offsetX", offsetY: "offsetY" };
-        const unit = this.settings.unit;
-        Object.keys(fields).forEach((name) => this.showLength(name, this.settings[fields[name]], unit, unitSign(unit)));
+        this.visible(["turnsRatio"], mode === "ratio");
+        this.form.control("cropMode").selectedSegment = crop.MODES.indexOf(mode);
+        this.showRatio(mode);
+        this.showPlace();
+        this.form.chooseValue("unit", this.settings.unit);
+        this.showLength("cropWidth", this.settings.width, this.settings.unit, "");
+        this.showLength("cropHeight", this.settings.height, this.settings.unit, "");
+        this.resolution.show(isBySize);
+    }
+
+    showRatio(mode) {
+        const ratios = mode === "ratio" ? crop.RATIOS : crop.HELD_RATIOS;
+        this.visible(["ratioLabel", "ratioHost"], mode === "ratio" || mode === "size");
+        if (this.offered !== ratios) {
+            const words = { free: qsTr("Free"), original: qsTr("Original"), custom: qsTr("Other") };
+            this.form.setItems("ratio", ratios.map((ratio) => words[ratio] || ratio), ratios);
+            this.offered = ratios;
+        }
+        this.form.chooseValue("ratio", this.settings.ratio);
+        this.visible(["ratioWidth", "ratioColon", "ratioHeight"], this.settings.ratio === "custom");
+        const before = this.filling;
+        this.filling = true;
+        ["ratioWidth", "ratioHeight"].forEach((name) => { this.form.control(name).value = this.settings[name]; });
+        this.filling = before;
+    }
+
+    // A frame that is found in each picture is moved by nothing.
+    showPlace() {
+        const isFound = this.settings.position === crop.ATTENTION;
+        this.form.control("position").selectedSegment = isFound ? -1 : this.settings.position;
+        const before = this.filling;
+        this.filling = true;
+        this.form.control("attention").checked = isFound;
+        this.filling = before;
+        ["offsetX", "offsetY"].forEach((name) => {
+            this.form.control(name).enabled = !isFound;
+            this.showLength(name, this.settings[name], this.settings.unit, unitSign(this.settings.unit));
+        });
+        this.visible(["offsetUnit"], this.settings.mode !== "size" && this.settings.unit !== PIXEL);
+        this.form.chooseValue("offsetUnit", this.settings.unit);
+    }
+
+    attentionToggled() {
+        const isFound = this.form.control("attention").checked;
+        if (isFound !== (this.settings.position === crop.ATTENTION)) {
+            this.set("position", isFound ? crop.ATTENTION : CENTRE);
+        }
     }
 
     adjust(field) {
-        if (field === "ratio" && this.settings.ratio !== "free") {
-            this.useRatio();
-        } else if (field === "width" || field === "height") {
-            this.keepRatio(field);
-        } else if (field === "mode" && this.settings.mode !== "size") {
-            this.settings.ratio = "free";
-            this.form.chooseValue("ratio", "free");
+        if (field === "mode") {
+            this.adjustRatio();
+        }
+        if (this.settings.mode === "size" && field !== "position") {
+            this.holdRatio(field);
         }
         this.showState();
     }
 
-    ratio() {
-        return ratioOf(this.settings.ratio, this.photo !== null && this.photo.width > 0 ? this.photo : null);
-    }
-
-    // The largest frame of that ratio in the picture; without a picture only the height follows the width.
-    useRatio() {
-        this.settings.mode = "size";
-        const ratio = this.ratio();
-        if (ratio > 0 && this.photo !== null && this.photo.width > 0) {
-            const size = largestOf(ratio, this.photo);
-            this.settings.width = this.length(size.width);
-            this.settings.height = this.length(size.height);
-            this.settings.offsetX = 0;
-            this.settings.offsetY = 0;
-        } else {
-            this.keepRatio("width");
+    // "Free" and "Original" are none that pictures could be cut to; they are back when nobody chose another one meanwhile.
+    adjustRatio() {
+        if (this.settings.mode === "ratio") {
+            this.replaced = crop.RATIOS.indexOf(this.settings.ratio) < 0 ? this.settings.ratio : "";
+            this.settings.ratio = this.replaced === "" ? this.settings.ratio : USUAL_RATIO;
+        } else if (this.replaced !== "" && this.settings.ratio === USUAL_RATIO) {
+            this.settings.ratio = this.replaced;
+            this.replaced = "";
         }
     }
 
-    keepRatio(field) {
-        const ratio = this.ratio();
-        if (ratio > 0) {
-            const other = field === "width" ? "height" : "width";
-            const value = field === "width" ? this.settings.width / ratio : this.settings.height * ratio;
+    /** Width by height as it is held on the picture that is shown; 0 for none. */
+    heldRatio() {
+        const isOfPhoto = this.settings.ratio === "original" && this.photo !== null && this.photo.width > 0;
+        const numbers = isOfPhoto ? this.photo : crop.numbersOf(this.settings);
+        return numbers !== null && numbers.height > 0 ? numbers.width / numbers.height : 0;
+    }
+
+    // The height follows the width, unless it is the height that was typed.
+    holdRatio(field) {
+        const ratio = this.heldRatio();
+        if (ratio > 0 && field !== "unit" && field !== "offsetX" && field !== "offsetY") {
+            const other = field === "height" ? "width" : "height";
+            const value = field === "height" ? this.settings.height * ratio : this.settings.width / ratio;
             this.settings[other] = converted(value, this.settings.unit, this.settings.unit, this.dpi);
         }
     }
@@ -98,29 +151,67 @@ export class CropPane extends Pane {
         return converted(value, PIXEL, this.settings.unit, this.dpi);
     }
 
-    /** Takes a frame that was dragged in the preview: the position stays, so that it makes sense for other sizes too. */
+    /** Shows what a picture becomes; see Pane. */
+    show(photo, services) {
+        this.services = services;
+        this.planned = super.show(photo, services);
+        return this.planned;
+    }
+
+    // Where the frame would lie if nothing moved it; null where there would be none.
+    unmovedFrame() {
+        const unmoved = Object.assign({}, this.settings, { offsetX: 0, offsetY: 0 });
+        const planned = crop.plan(this.photo, unmoved, this.services);
+        return planned.status === "ready" ? planned.cut.frame : null;
+    }
+
+    /**
+     * Takes a frame that was dragged in the preview. The position stays, so that it makes sense for other sizes too; and so does what the
+     * frame is given by, where it was moved only.
+     */
     takeFrame(rectangle) {
-        if (this.photo === null) {
+        if (this.photo === null || this.services === null) {
             return;
         }
-        const offsets = offsetsFor(this.photo, rectangle, this.settings.position);
-        this.settings.mode = "size";
-        this.settings.width = this.length(rectangle.width);
-        this.settings.height = this.length(rectangle.height);
-        this.settings.offsetX = this.length(offsets.offsetX);
-        this.settings.offsetY = this.length(offsets.offsetY);
+        if (this.settings.position === crop.ATTENTION) {
+            this.settings.position = CENTRE;
+        }
+        let frame = this.unmovedFrame();
+        if (frame === null || frame.width !== rectangle.width || frame.height !== rectangle.height) {
+            this.settings.mode = "size";
+            this.settings.width = this.length(rectangle.width);
+            this.settings.height = this.length(rectangle.height);
+            frame = this.unmovedFrame() || rectangle;
+        }
+        this.settings.offsetX = this.length(rectangle.x - frame.x);
+        this.settings.offsetY = this.length(rectangle.y - frame.y);
         this.fill();
         this.changed();
     }
 
-    /** The frame on a picture, for the view: whole pixels and the ratio that is kept while it is sized (0: none). */
-    frame(photo, services) {
-        const rectangle = cropFrame(photo, crop.forPhoto(photo, this.settings, services));
-        return { x: rectangle.x, y: rectangle.y, width: rectangle.width, height: rectangle.height,
-                 ratio: this.ratio() };
+    // What the frame is held to while it is sized.
+    drawnRatio(cut) {
+        if (this.settings.mode === "ratio") {
+            const numbers = crop.numbersOf(this.settings);
+            const isSwapped = (numbers.width > numbers.height) !== (cut.frame.width > cut.frame.height);
+            return isSwapped ? numbers.height / numbers.width : numbers.width / numbers.height;
+        }
+        return this.settings.mode === "size" ? this.heldRatio() : 0;
+    }
+
+    /**
+     * The frame on a picture, for the view: whole pixels, the ratio that is kept while it is sized (0: none), and whether the view knows
+     * better where it lies.
+     */
+    frame(planned) {
+        const cut = planned.cut;
+        return Object.assign({ ratio: this.drawnRatio(cut), isFound: !cut.isPlaced }, cut.frame);
     }
 
     resultText(photo, planned) {
-        return fill(qsTr("%1 at %2, %3"), pixels(planned), planned.inside.x, planned.inside.y) + this.dpiText();
+        const part = planned.cut.part;
+        const size = pixels(planned);
+        const words = planned.cut.isPlaced ? fill(qsTr("%1 at %2, %3"), size, part.x, part.y) : size;
+        return words + this.dpiText();
     }
 }

@@ -1,45 +1,83 @@
-// Cuts a rectangle out of a picture, as an operation of a recipe.
+// Cuts a rectangle out of a picture, as an operation of a recipe: how large it is and where it lies the plan of that says.
 // Services used: recipes (planOutput, make), units, files. Plain data in, plain data out.
 
-import { cropFrame, insidePicture } from "./crops.js";
-import { inPixels, PIXEL, UNITS } from "../../lib/measure.js";
+import { dpiMessages, dpiWords, inPixels, PIXEL, UNITS } from "../../lib/measure.js";
 import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
-import { outputMessages, unreadable } from "../shared/written.js";
+import { outputMessages } from "../shared/written.js";
 
+/** What the frame is given by. */
+export const MODES = ["ratio", "size", "percent", "pixels"];
 export const MOST = 100000;
-/** The ratios of the frame that can be kept: "free" for none, "original" for that of the picture. */
-export const RATIOS = ["free", "original", "1:1", "3:2", "4:3", "16:9", "2:3", "3:4", "9:16"];
-/** The nine positions of the frame, row by row. */
-export const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8];
+/** Ratios of width to height; "custom" is one that is typed. */
+export const RATIOS = ["1:1", "5:4", "4:3", "7:5", "3:2", "16:9", "4:5", "3:4", "2:3", "9:16", "custom"];
+/** What width and height are held to while they are typed and drawn: "free" for nothing, "original" for the picture's ratio. */
+export const HELD_RATIOS = ["free", "original"].concat(RATIOS);
+const MOST_OF_RATIO = 1000;
+/** The position of a frame that lies where the eye is drawn to; the other nine go row by row. */
+export const ATTENTION = 9;
+export const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8, ATTENTION];
 
-/** What a new pane shows. */
+/** What a new pane shows. dpi is what lengths are taken at, 0 for each picture's own. */
 export const defaults = {
-    mode: "percent", width: 1200, height: 800, unit: PIXEL, percent: 20, pixels: 200, position: 4, offsetX: 0,
+    mode: "percent", width: 1200, height: 800, unit: PIXEL, dpi: 0, percent: 20, pixels: 200, position: 4, offsetX: 0,
     offsetY: 0,
-    ratio: "free",
+    ratio: "free", ratioWidth: 3, ratioHeight: 2, turnsRatio: true,
     output: usualOutput(ORIGINAL, "9", qsTr("Cropped")),
 };
 
 /** What the output block offers; see the Resize step. */
 export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
-/** The settings in a few words, for the log. */
-export function describe(settings) {
-    const size = { size: settings.width + "×" + settings.height + " " + settings.unit,
-                   percent: fill(qsTr("%1 % away"), settings.percent),
-                   pixels: qsTr("%n pixels away", "", settings.pixels) }[settings.mode];
+/** The two numbers of a ratio; null where there are none to be had without a picture. */
+export function numbersOf(settings) {
+    if (settings.ratio === "custom") {
+        return { width: settings.ratioWidth, height: settings.ratioHeight };
+    }
+    const parts = settings.ratio.split(":").map(Number);
+    return parts.length === 2 ? { width: parts[0], height: parts[1] } : null;
+}
+
+function ratioWords(settings) {
+    const numbers = numbersOf(settings);
+    const words = fill(qsTr("ratio %1"), numbers === null ? settings.ratio : numbers.width + ":" + numbers.height);
+    return settings.turnsRatio ? words : words + ", " + qsTr("not swapped");
+}
+
+function placeWords(settings) {
+    if (settings.position === ATTENTION) {
+        return [qsTr("where the eye is drawn to")];
+    }
     const moved = settings.offsetX || settings.offsetY
         ? [fill(qsTr("moved %1, %2 %3"), settings.offsetX, settings.offsetY, settings.unit)] : [];
-    return [size, fill(qsTr("position %1"), settings.position + 1)].concat(moved).join(", ");
+    return [fill(qsTr("position %1"), settings.position + 1)].concat(moved);
+}
+
+/** The settings in a few words, for the log. */
+export function describe(settings) {
+    const unit = settings.unit === PIXEL ? settings.unit : settings.unit + dpiWords(settings.dpi);
+    const size = { ratio: ratioWords(settings), size: settings.width + "×" + settings.height + " " + unit,
+                   percent: fill(qsTr("%1 % away"), settings.percent),
+                   pixels: qsTr("%n pixels away", "", settings.pixels) }[settings.mode];
+    return [size].concat(placeWords(settings)).join(", ");
 }
 
 function isWhole(value, least, most) {
     return Number.isInteger(value) && value >= least && value <= most;
 }
 
+function ratioMessages(settings) {
+    const numbers = numbersOf(settings);
+    const good = (value) => value > 0 && value <= MOST_OF_RATIO;
+    return RATIOS.indexOf(settings.ratio) >= 0 && good(numbers.width) && good(numbers.height)
+        ? [] : [qsTr("Enter two numbers above 0 for the ratio.")];
+}
+
 function sizeMessages(settings) {
+    if (settings.mode === "ratio") {
+        return ratioMessages(settings);
+    }
     if (settings.mode === "percent") {
         return isWhole(settings.percent, 0, 99) ? [] : [qsTr("Enter a whole number from 0 to 99 per cent.")];
     }
@@ -48,13 +86,14 @@ function sizeMessages(settings) {
             ? [] : [qsTr("Enter a whole number from 0 to %1.").replace("%1", String(MOST))];
     }
     const good = (value) => value > 0 && value <= MOST && (settings.unit !== PIXEL || Number.isInteger(value));
-    return good(settings.width) && good(settings.height) ? [] : [qsTr("Enter a width and a height.")];
+    return (good(settings.width) && good(settings.height) ? [] : [qsTr("Enter a width and a height.")])
+        .concat(dpiMessages(settings));
 }
 
 /** Messages on what is wrong with the settings; empty if a run can start. */
 export function validate(settings) {
     const messages = sizeMessages(settings);
-    if (!isWhole(settings.position, 0, 8)) {
+    if (PLACES.indexOf(settings.position) < 0) {
         messages.push(qsTr("Choose one of the nine positions."));
     }
     if (!(Math.abs(settings.offsetX) <= MOST && Math.abs(settings.offsetY) <= MOST)
@@ -64,15 +103,12 @@ export function validate(settings) {
     return messages.concat(outputMessages(settings.output));
 }
 
-/** The settings with all lengths in pixels of the picture. */
-export function forPhoto(photo, settings, services) {
-    const lengths = settings.mode === "size" ? ["width", "height", "offsetX", "offsetY"] : ["offsetX", "offsetY"];
-    return inPixels(photo, settings, lengths, services);
-}
-
-/** What is done to one picture: in its own pixels, so that the frame that is shown is what is cut. */
+/** What is done to one picture. */
 export function recipe(photo, settings, services) {
-    return recipeOf("Crop", Object.assign(forPhoto(photo, settings, services), { unit: PIXEL }));
+    // What is cut away is in pixels, so that an operation has no place for another unit.
+    const isMixed = settings.mode === "pixels" && settings.unit !== PIXEL;
+    const moved = isMixed ? inPixels(photo, settings, ["offsetX", "offsetY"], services) : settings;
+    return recipeOf("Crop", moved);
 }
 
 /** The same: workers are given it with the picture. */
@@ -80,26 +116,10 @@ export function recipeFor(photo, settings, services) {
     return recipe(photo, settings, services);
 }
 
-/** What a run would write for one picture: a plan with the frame, or a final status with its reason. */
+/** What a run would write for one picture: a plan with the cut, see recipes.planOutput, or a final status with its reason. */
 export function plan(photo, settings, services) {
-    const refusal = unreadable(photo);
-    if (refusal !== null) {
-        return refusal;
-    }
-    const frame = cropFrame(photo, forPhoto(photo, settings, services));
-    if (!(frame.width > 0 && frame.height > 0)) {
-        return { status: "Failed", reason: qsTr("nothing would be left of it") };
-    }
-    const inside = insidePicture(photo, frame);
-    if (inside === null) {
-        return { status: "Failed", reason: qsTr("the frame lies outside the picture") };
-    }
-    const planned = planBy(photo, settings, services,
-                           () => services.recipes.planOutput(photo.path, recipe(photo, settings, services)));
-    if (planned.status === "ready" && (inside.width < frame.width || inside.height < frame.height)) {
-        planned.notes = [qsTr("Cut off at the picture’s edge.")].concat(planned.notes);
-    }
-    return Object.assign(planned, { frame: frame, inside: inside });
+    return planBy(photo, settings, services,
+                  () => services.recipes.planOutput(photo.path, recipe(photo, settings, services)));
 }
 
 /** Writes the cut picture as settings.prefix + name, where plan() tells the name; see the Resize step. */

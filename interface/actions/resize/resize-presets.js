@@ -25,7 +25,7 @@ export const presets = {
         StrField14: ["percent", "number"], StrField15: ["boxWidth", "number"], StrField16: ["boxHeight", "number"],
         StrField17: ["boxFit", "text", BOX_FITS, { inside: 2, pad: 2 }], StrField18: ["unit", "text", UNITS],
         StrField19: ["padColor", "color"], StrField20: ["dpi", "number"], StrField22: ["neverEnlarge", "flag"],
-    }, 3),
+    }, { types: 3 }),
     starting: () => [
         [qsTr("Web 1600"), longest(1600, "8", qsTr("Web"))],
         [qsTr("Mail 1024"), longest(1024, "7", qsTr("Mail"))],

@@ -46,10 +46,17 @@ function nameOf(photo, pattern, told, ownName, services) {
                                     extension === "" ? "" : "." + extension);
 }
 
-// What of the file the result is made from, where that is not all of it.
+// Whether less is left than the frame asks for.
+function isCutOff(cut) {
+    return cut.frame !== undefined
+        && (cut.part.width < cut.frame.width || cut.part.height < cut.frame.height);
+}
+
+// What of the file the result is made from, where that is not all of it, and whether it is what was asked for.
 function remarksOn(photo, told) {
     const preview = photo.type === RAW ? [fill(qsTr("preview of %1"), pixels(photo))] : [];
-    return preview.concat(told.leftOut > 0 ? [qsTr("%n further pictures left out", "", told.leftOut)] : []);
+    return preview.concat(told.leftOut > 0 ? [qsTr("%n further pictures left out", "", told.leftOut)] : [],
+                          isCutOff(told.cut) ? [qsTr("cut off at the picture’s edge")] : []);
 }
 
 /**
@@ -71,7 +78,8 @@ export function planBy(photo, settings, services, answer, ownName) {
     const usual = ownName === undefined ? splitPath(photo.path).base + told.extension : ownName;
     const name = nameOf(photo, settings.output.namePattern, told, usual, services);
     return Object.assign(ready(name, madeTypeNamed(told.type), told, told.losses),
-                         { lossless: told.lossless, losses: told.losses, remarks: remarksOn(photo, told) });
+                         { lossless: told.lossless, losses: told.losses, cut: told.cut,
+                           remarks: remarksOn(photo, told) });
 }
 
 // The size that the file has as it is stored, where that need not be the one of the plan: a picture that is not encoded again may go on

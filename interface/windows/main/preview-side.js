@@ -65,7 +65,7 @@ export class PreviewSide {
         const shown = ready
             ? this.window.action.step.preview(photo, this.window.settings, planned, this.window.services) : null;
         this.shown = ready ? { planned: planned, result: shown } : null;
-        this.showFrame(photo, planned);
+        this.showFrame(planned);
         this.view.setNotes(ready ? planned.losses.join(" · ") : "");
         this.view.showResult(ready
                              ? Object.assign({ message: "" }, shown) : nothing(planned === null ? "" : planned.reason));
@@ -79,10 +79,10 @@ export class PreviewSide {
     }
 
     // The frame of an action that has one.
-    showFrame(photo, planned) {
+    showFrame(planned) {
         const pane = this.window.pane;
         const ready = planned !== null && planned.status === "ready" && pane.frame !== undefined;
-        this.view.setCropFrame(ready ? pane.frame(photo, this.window.services) : null);
+        this.view.setCropFrame(ready ? pane.frame(planned) : null);
     }
 
     showOriginal(photo) {

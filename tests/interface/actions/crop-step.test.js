@@ -1,52 +1,8 @@
-import { cropFrame, insidePicture, largestOf, offsetsFor, ratioOf } from "../../../interface/actions/crop/crops.js";
 import * as crop from "../../../interface/actions/crop/crop-step.js";
 import { equal, finish, isTrue, test } from "../check.js";
 import { photo, recipeServices, settingsOf } from "../fakes.js";
 
 const picture = photo("/p/a.JPG", 4000, 3000);
-
-function frameOf(changes) {
-    const frame = cropFrame(picture, settingsOf(crop, changes));
-    return [frame.x, frame.y, frame.width, frame.height];
-}
-
-const FRAMES = [
-    ["a quarter away, in the centre", { mode: "percent", percent: 25, position: 4 }, [500, 375, 3000, 2250]],
-    ["pixels away, at the bottom right", { mode: "pixels", pixels: 100, position: 8 }, [100, 100, 3900, 2900]],
-    ["a size, top left", { mode: "size", width: 1000, height: 500, position: 0 }, [0, 0, 1000, 500]],
-    ["a size, top centre", { mode: "size", width: 1000, height: 500, position: 1 }, [1500, 0, 1000, 500]],
-    ["a size, middle right", { mode: "size", width: 1000, height: 500, position: 5 }, [3000, 1250, 1000, 500]],
-    ["a size, bottom left, moved", { mode: "size", width: 1000, height: 500, position: 6, offsetX: 7, offsetY: -9 },
-     [7, 2491, 1000, 500]],
-    ["odd room is halved toward zero", { mode: "size", width: 1001, height: 4003, position: 4 },
-     [1499, -501, 1001, 4003]],
-];
-
-for (const row of FRAMES) {
-    test("the frame: " + row[0], () => { equal(frameOf(row[1]), row[2]); });
-}
-
-test("offsetsPutAnyRectangleBackWhereItWas", () => {
-    for (let position = 0; position < 9; position += 1) {
-        const rectangle = { x: 123, y: 77, width: 1001, height: 999 };
-        const settings = Object.assign({ mode: "size", width: 1001, height: 999, position: position },
-                                       offsetsFor(picture, rectangle, position));
-        equal(cropFrame(picture, settings), rectangle, "position " + position);
-    }
-});
-
-test("whatLiesInsideIsKept", () => {
-    equal(insidePicture(picture, { x: -100, y: 2900, width: 300, height: 300 }),
-          { x: 0, y: 2900, width: 200, height: 100 });
-    equal(insidePicture(picture, { x: 4000, y: 0, width: 10, height: 10 }), null);
-});
-
-test("theLargestFrameOfARatio", () => {
-    equal([largestOf(1, picture), largestOf(16 / 9, picture), largestOf(2 / 3, picture)],
-          [{ width: 3000, height: 3000 }, { width: 4000, height: 2250 }, { width: 2000, height: 3000 }]);
-    equal([ratioOf("free", picture), ratioOf("original", picture), ratioOf("original", null), ratioOf("3:2", null)],
-          [0, 4 / 3, 0, 1.5]);
-});
 
 const operation = (changes) => crop.recipe(picture, settingsOf(crop, changes), recipeServices()).operations[0];
 
@@ -57,39 +13,46 @@ test("isAnOperationOfARecipe", () => {
     equal(operation({ mode: "pixels", pixels: 100, position: 8 }), { do: "crop", position: "bottom right", trim: 100 });
 });
 
-test("convertsLengthsToPixelsOfThePicture", () => {
-    equal(operation({ mode: "size", unit: "mm", width: 100.5, height: 50, offsetX: 1, position: 0 }),
-          { do: "crop", height: 500, offset: [10, 0], position: "top left", width: 1005 });
+test("cutsByRatioForEveryPicture", () => {
+    equal(operation({ mode: "ratio", ratio: "7:5" }), { do: "crop", position: "center", ratio: "7:5" });
+    const typed = { mode: "ratio", ratio: "custom", ratioWidth: 8.5, ratioHeight: 11, turnsRatio: false, offsetX: 3 };
+    equal(operation(typed),
+          { do: "crop", offset: [3, 0], position: "center", ratio: "8.5:11", turn: false });
+});
+
+test("looksForWhatDrawsTheEyeAndMovesNothingThen", () => {
+    equal(operation({ mode: "ratio", ratio: "1:1", position: crop.ATTENTION, offsetX: 9 }),
+          { do: "crop", position: "attention", ratio: "1:1" });
+});
+
+test("leavesLengthsInTheirUnitToTheRecipe", () => {
+    equal(operation({ mode: "size", unit: "mm", width: 100.5, height: 50, offsetX: 1, position: 0, dpi: 300 }),
+          { do: "crop", dpi: 300, height: 50, offset: [1, 0], position: "top left", unit: "mm", width: 100.5 });
+    equal(operation({ mode: "percent", percent: 5, unit: "inch", offsetY: 1 }),
+          { do: "crop", offset: [0, 1], percent: 5, position: "center", unit: "in" });
     // What is cut away stays in pixels, and what it is moved by does not.
     equal(operation({ mode: "pixels", pixels: 100, unit: "mm", offsetX: 1 }),
           { do: "crop", offset: [10, 0], position: "center", trim: 100 });
 });
 
-test("asksForTheSameLengthOnlyOnce", () => {
-    const services = recipeServices();
-    const settings = settingsOf(crop, { mode: "size", unit: "mm", width: 10, height: 10 });
-    crop.plan(picture, settings, services);
-    const asked = services.units.asked;
-    crop.plan(picture, settings, services);
-    equal(services.units.asked, asked);
-});
-
-test("aFrameThatReachesOutsideIsCutAndSaidSo", () => {
-    const planned = crop.plan(picture, settingsOf(crop, { mode: "size", width: 5000, height: 100, position: 4 }),
-                              recipeServices({ losses: ["no maker notes"] }));
-    equal([planned.status, planned.inside.width, planned.inside.height], ["ready", 4000, 100]);
-    equal(planned.notes, ["Cut off at the picture’s edge.", "no maker notes"]);
-});
-
-const REFUSED = [
-    ["nothing would be left", { mode: "pixels", pixels: 3000 }, "Failed"],
-    ["the frame is outside", { mode: "size", width: 10, height: 10, position: 0, offsetX: 5000 }, "Failed"],
-];
-
-for (const row of REFUSED) {
-    test("plans a failure where " + row[0],
-         () => { equal(crop.plan(picture, settingsOf(crop, row[1]), recipeServices()).status, row[2]); });
+function cutTo(width) {
+    return { frame: { x: -500, y: 0, width: 5000, height: 100 }, part: { x: 0, y: 0, width: width, height: 100 },
+             isPlaced: true };
 }
+
+test("aFrameThatReachesOutsideIsCutAndItsRowSaysSo", () => {
+    const settings = settingsOf(crop, { mode: "size", width: 5000, height: 100, position: 4 });
+    const planned = crop.plan(picture, settings, recipeServices({ cut: cutTo(4000) }));
+    equal([planned.status, planned.cut.part.width, planned.remarks],
+          ["ready", 4000, ["cut off at the picture’s edge"]]);
+    equal(crop.plan(picture, settings, recipeServices({ cut: cutTo(5000) })).remarks, []);
+});
+
+test("plansAFailureWhereNothingIsLeft", () => {
+    const planned = crop.plan(picture, settingsOf(crop, { mode: "pixels", pixels: 3000 }),
+                              recipeServices({ problem: "Nothing of the picture is left" }));
+    equal([planned.status, planned.reason], ["Failed", "Nothing of the picture is left"]);
+});
 
 test("makesTheFileThatItPlanned", () => {
     const services = recipeServices();
@@ -105,8 +68,12 @@ const VALID = [
     [{ mode: "percent", percent: -1 }, 1],
     [{ mode: "pixels", pixels: 0 }, 0], [{ mode: "pixels", pixels: 1.5 }, 1],
     [{ mode: "size", width: 0, height: 5 }, 1], [{ mode: "size", width: 1.5, height: 5 }, 1],
-    [{ mode: "size", width: 1.5, height: 5, unit: "mm" }, 0], [{ position: 9 }, 1], [{ offsetX: 100001 }, 1],
-    [{ unit: "ell" }, 1],
+    [{ mode: "size", width: 1.5, height: 5, unit: "mm" }, 0], [{ position: 9 }, 0], [{ position: 10 }, 1],
+    [{ offsetX: 100001 }, 1], [{ unit: "ell" }, 1],
+    [{ mode: "ratio", ratio: "4:5" }, 0], [{ mode: "ratio", ratio: "free" }, 1],
+    [{ mode: "ratio", ratio: "original" }, 1],
+    [{ mode: "ratio", ratio: "custom", ratioWidth: 0 }, 1], [{ mode: "ratio", ratio: "custom" }, 0],
+    [{ mode: "size", unit: "mm", dpi: 10001 }, 1],
 ];
 
 for (const row of VALID) {
@@ -125,6 +92,9 @@ test("showsWhatIsMade", () => {
 
 test("saysInTheLogWhatWasCut", () => {
     isTrue(crop.describe(settingsOf(crop, { mode: "size", width: 10, height: 5, unit: "cm" })).startsWith("10×5 cm"));
+    const typed = { mode: "ratio", ratio: "custom", ratioWidth: 8.5, ratioHeight: 11, position: crop.ATTENTION };
+    equal(crop.describe(settingsOf(crop, typed)),
+          "ratio 8.5:11, where the eye is drawn to");
 });
 
 finish();

@@ -192,6 +192,15 @@ test("takesTheQualityOfPicturesWhereNoneWasChosen", () => {
     }
 });
 
+test("cropsThatOlderProgramsHaveNoWordsForAreOfAHigherVersion", () => {
+    const mark = (changes) => rowOf(FORMS.crop, "n", Object.assign(copyOf(KINDS.crop.standard), changes))[3];
+    equal([{ mode: "size", ratio: "3:2" }, { position: 8, dpi: 300, turnsRatio: false }].map(mark),
+          ["Quorlin 1", "Quorlin 1"]);
+    const later = [{ mode: "ratio", ratio: "3:2" }, { mode: "size", ratio: "7:5" }, { ratio: "custom" },
+                   { position: 9 }];
+    equal(later.map(mark), ["Quorlin 2", "Quorlin 2", "Quorlin 2", "Quorlin 2"]);
+});
+
 test("takesARowOfAnotherLengthForUnknown", () => {
     const row = rowOf(FORMS.resize, "n", resize);
     equal([presetOf(row.concat(["x"]), KINDS).state, presetOf(row.slice(1), KINDS).state, presetOf("", KINDS).state],
@@ -216,7 +225,7 @@ test("saysWhenAPresetIsDamaged", () => {
 
 test("takesOnlyWordsThatASettingCanHave", () => {
     for (const [action, place, value] of [["resize", 2, "depth"], ["crop", 2, "x"], ["crop", 18, "7:1"],
-                                          ["crop", 22, "9"], ["round", 2, "star"],
+                                          ["crop", 22, "10"], ["round", 2, "star"],
                                           ["round", 12, "red"], ["background", 2, "fur"], ["background", 13, "gold"],
                                           ["background", 14, "#12345"], ["convert", 2, "jpg"], ["convert", 11, "10"]]) {
         const row = rowOf(FORMS[action], "n", STANDARD[action]);

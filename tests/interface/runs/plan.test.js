@@ -22,7 +22,7 @@ function answerFor(path, recipe) {
     const type = recipe.outputs[0].type === "original" ? own : recipe.outputs[0].type;
     const isRefused = type === "psd";
     return { problem: isRefused ? "no" : "", isNotSupported: isRefused, type: type, width: 1600, height: 1200,
-             extension: TYPES[type], lossless: false, leftOut: 0, losses: [] };
+             extension: TYPES[type], lossless: false, leftOut: 0, losses: [], cut: {} };
 }
 
 function plan(photos, chosen, files, ask) {

@@ -42,6 +42,8 @@ private Q_SLOTS:
     void marksWithText();
     void marksWithAPicture();
     void countsAnglesClockwise();
+    void cropsAsThePresetSays_data();
+    void cropsAsThePresetSays();
     void keepsTheMetadataOfThePreset();
     void writesTheTypeOfThePreset_data();
     void writesTheTypeOfThePreset();
@@ -85,6 +87,36 @@ void TestPresetRecipe::countsAnglesClockwise()
 {
     const QJsonObject recipe = recipeFor(presetOf("Watermark", {{QStringLiteral("angle"), 30}}));
     QCOMPARE(recipe[QStringLiteral("operations")][0][QStringLiteral("angle")].toInt(), -30);
+}
+
+void TestPresetRecipe::cropsAsThePresetSays_data()
+{
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QByteArray>("operation");
+    const std::pair<const char *, const char *> rows[] = {
+        {R"({"mode": "ratio", "ratio": "4:5"})", R"({"do": "crop", "ratio": "4:5", "position": "center"})"},
+        {R"({"mode": "ratio", "ratio": "custom", "ratioWidth": 8.5, "ratioHeight": 11, "turnsRatio": false, "position": 9})",
+         R"({"do": "crop", "ratio": "8.5:11", "turn": false, "position": "attention"})"},
+        {R"({"mode": "size", "width": 5, "height": 4, "unit": "cm", "dpi": 300, "position": 0, "offsetX": 1})",
+         R"({"do": "crop", "width": 5, "height": 4, "unit": "cm", "dpi": 300, "position": "top left", "offset": [1, 0]})"},
+        {R"({"mode": "percent", "percent": 5, "unit": "inch", "offsetY": 1})",
+         R"({"do": "crop", "percent": 5, "unit": "in", "position": "center", "offset": [0, 1]})"},
+        {R"({"mode": "percent", "percent": 5, "unit": "inch"})",
+         R"({"do": "crop", "percent": 5, "position": "center"})"},
+        {R"({"mode": "pixels", "pixels": 7, "unit": "mm", "position": 9, "offsetX": 3})",
+         R"({"do": "crop", "trim": 7, "position": "attention"})"},
+    };
+    for (const auto &[settings, operation] : rows)
+        QTest::newRow(settings) << QByteArray(settings) << QByteArray(operation);
+}
+
+void TestPresetRecipe::cropsAsThePresetSays()
+{
+    QFETCH(QByteArray, settings);
+    QFETCH(QByteArray, operation);
+    const QJsonObject recipe = recipeFor(presetOf("Crop", QJsonDocument::fromJson(settings).object()));
+    QCOMPARE(recipe[QStringLiteral("operations")][0].toObject(), QJsonDocument::fromJson(operation).object());
+    QVERIFY(image::readRecipe(QJsonDocument(recipe).toJson(), QStringLiteral("/")));
 }
 
 void TestPresetRecipe::keepsTheMetadataOfThePreset()
