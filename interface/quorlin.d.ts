@@ -973,6 +973,23 @@ declare module "quorlin/files" {
     };
 
     /**
+     * User comments that workers read and write, one file at a time: the next thing is asked after the answer was taken.
+     */
+    export class CommentWork {
+        constructor(fields?: fieldsOf<CommentWork>);
+        /** There is something to take. */
+        readonly arrived: Signal<() => any>;
+        /** Asks what the comment of a file is. */
+        look(path: text): null;
+        /** Writes a comment; what is done to a file is done once it can be taken. */
+        write(path: text, comment: text): null;
+        /** {comment, pagesLost, problem} or {problem}; without any keys before it has come. */
+        take(): { comment?: string; pagesLost?: whole; problem?: string };
+        /** Gives up what was asked; the object is of no use any more. */
+        close(): null;
+    }
+
+    /**
      * The names of one folder during a run: those on the disk, and those that results of the run were given. Two names that differ only
      * in case or in the way an accent is written are one name on many disks, so they count as the same. No disk is asked.
      */

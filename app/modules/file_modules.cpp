@@ -6,6 +6,7 @@
 #include "files/services/folder_names.h"
 #include "files/services/move_service.h"
 #include "image/services/picture_service.h"
+#include "jobs/services/comment_work.h"
 #include "jobs/services/recipe_batch.h"
 #include "jobs/services/recipe_service.h"
 #include "jobs/services/recipe_work.h"
@@ -40,6 +41,7 @@ std::vector<ServiceEntry> fileServices()
 {
     return {oneObject<ProgramFiles>("quorlin/files", "files"),
             madeWithFields<FolderNames>("quorlin/files"),
+            madeWithSignals<jobs::CommentWork>("quorlin/files"),
             oneObject<files::MoveService>("quorlin/moves", "moves"),
             oneObject<image::PictureService>("quorlin/pictures", "pictures"),
             oneObject<text::TokenService>("quorlin/tokens", "tokens"),

@@ -6,6 +6,7 @@
 #include "image/unit_conversion.h"
 #include "jobs/desk/plan_errand.h"
 #include "jobs/names.h"
+#include "jobs/reading/comment_errand.h"
 
 namespace window {
 
@@ -56,6 +57,11 @@ QVariantMap ReadingFiles::lostMetadata(const QString &from, const QString &to) c
     const ReadResult has = read(Reading::Properties, to);
     return files::lostBetween(had.value("properties").toMap(), has.value("properties").toMap(),
                               had.isGood() ? has.problem : had.problem);
+}
+
+QString ReadingFiles::writeComment(const QString &path, const QString &comment) const
+{
+    return jobs::writeCommentNow(path, comment);
 }
 
 QVariantMap ReadingFiles::readComment(const QString &path) const

@@ -22,6 +22,7 @@ public:
     QVariant facts(const QString &path) const override;
     QString profileName(const QString &path) const override;
     QVariantMap lostMetadata(const QString &from, const QString &to) const override;
+    QString writeComment(const QString &path, const QString &comment) const override;
     QVariantMap readComment(const QString &path) const override;
     int pagesLostToComment(const QString &path) const override;
     bool holdsComment(const QString &path) const override;

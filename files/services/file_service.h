@@ -101,7 +101,7 @@ public:
     Q_INVOKABLE virtual QString profileName(const QString &path) const;
 
     /** Writes the user comment of a picture; see platform::writeUserComment(). */
-    Q_INVOKABLE QString writeComment(const QString &path, const QString &comment) const;
+    Q_INVOKABLE virtual QString writeComment(const QString &path, const QString &comment) const;
     /**
      * {lost, problem}: the kinds of metadata, "EXIF", "GPS", "IPTC" and "XMP", that one picture holds and another, made of it, does
      * not; or why one of the two cannot be read.

@@ -4929,6 +4929,10 @@
         <source>A property list cannot hold this under %1</source>
         <translation>Eine Eigenschaftsliste kann das unter %1 nicht aufnehmen</translation>
     </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation>die Datei ist schreibgeschützt</translation>
+    </message>
 </context>
 <context>
     <name>preferences</name>

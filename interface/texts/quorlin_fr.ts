@@ -4929,6 +4929,10 @@
         <source>A property list cannot hold this under %1</source>
         <translation>Une liste de propriétés ne peut pas contenir ceci sous %1</translation>
     </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation>le fichier est protégé en écriture</translation>
+    </message>
 </context>
 <context>
     <name>preferences</name>

@@ -4929,6 +4929,10 @@
         <source>A property list cannot hold this under %1</source>
         <translation>Een eigenschappenlijst kan dit niet bevatten onder %1</translation>
     </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation>het bestand is beveiligd tegen schrijven</translation>
+    </message>
 </context>
 <context>
     <name>preferences</name>

@@ -81,6 +81,8 @@ public:
     }
 
     const std::shared_ptr<const LentFile> &file() const { return m_files.first(); }
+    /** Those that came along, from 1. */
+    std::shared_ptr<const LentFile> other(int place) const { return m_files.value(place); }
     Result<ImageSource> source() const { return ImageSource::fromLent(file()); }
 
     int whole(const char *name) const { return m_read.values.value(key(name)).toInt(); }
@@ -171,6 +173,15 @@ ReadAnswer commentOf(const std::shared_ptr<const LentFile> &file)
     answer.message.values.insert(key("comment"), metadata ? metadata->userComment() : QString());
     answer.message.problem = metadata ? QString() : metadata.error().message;
     return answer;
+}
+
+ReadAnswer commentedCopy(const std::shared_ptr<const LentFile> &file, const std::shared_ptr<const LentFile> &copy,
+                         const std::shared_ptr<const LentFile> &copyToRead, const QString &comment)
+{
+    if (!copy || !copyToRead)
+        return failed({});
+    const Result<bool> changes = platform::writeUserComment(file, copy->descriptor(), copyToRead, comment);
+    return changes ? answerWith({{key("changes"), *changes}}) : failed(changes.error().message);
 }
 
 ReadAnswer profileOf(const ImageSource &source)
@@ -324,6 +335,8 @@ ReadAnswer PictureReader::answer(const ReadMessage &read, std::vector<platform::
         return withSource(propertiesOf);
     case Reading::Comment:
         return commentOf(request.file());
+    case Reading::CommentedCopy:
+        return commentedCopy(request.file(), request.other(1), request.other(2), request.value("comment").toString());
     case Reading::Profile:
         return withSource(profileOf);
     case Reading::Plan:

@@ -43,6 +43,11 @@ enum class Reading {
     Plan,
     /** {bytes}: how large the file is that {recipe} makes of the picture, or else its conversion to {type} with {quality}, by making it. */
     Bytes,
+    /**
+     * An edited copy of the picture with {comment}, see platform::writeUserComment(). Files that come along: the copy, to be written, and the
+     * same to be read. Answer: whether anything {changes}; where nothing does nothing is written.
+     */
+    CommentedCopy,
 };
 
 /** Files come along, in the order of the paths; the picture is the first. */

@@ -6,13 +6,21 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform {
 namespace {
 
-bool copySpliced(TemporaryFile &file, int source, qint64 size, const QList<Splice> &splices)
+/**
+ * Goes through a file of @p size bytes with these changes; both functions answer false and leave errno where they fail.
+ *
+ * @param keep  what stays: function(position, size)
+ * @param add   what comes in: function(bytes)
+ */
+template<class Keep, class Add> bool splice(qint64 size, const QList<Splice> &splices, const Keep &keep, const Add &add)
 {
     qint64 position = 0;
     for (const Splice &splice : splices) {
@@ -21,11 +29,49 @@ bool copySpliced(TemporaryFile &file, int source, qint64 size, const QList<Splic
             errno = EINVAL;
             return false;
         }
-        if (!file.copyFrom(source, position, splice.at - position) || !file.write(splice.inserted))
+        if (!keep(position, splice.at - position) || !add(splice.inserted))
             return false;
         position = splice.at + splice.removed;
     }
-    return file.copyFrom(source, position, size - position);
+    return keep(position, size - position);
+}
+
+bool copySpliced(TemporaryFile &file, int source, qint64 size, const QList<Splice> &splices)
+{
+    return splice(
+        size, splices, [&](qint64 position, qint64 count) { return file.copyFrom(source, position, count); },
+        [&](const QByteArray &bytes) { return file.write(bytes); });
+}
+
+bool writeBytes(int file, const char *bytes, qint64 count)
+{
+    for (qint64 done = 0; done < count;) {
+        const ssize_t written = ::write(file, bytes + done, size_t(count - done));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
+bool copyBytes(int source, qint64 position, qint64 size, int copy)
+{
+    constexpr qint64 step = 1 << 20;
+    QByteArray buffer(std::min(step, size), Qt::Uninitialized);
+    for (qint64 done = 0; done < size;) {
+        const ssize_t count =
+            ::pread(source, buffer.data(), size_t(std::min<qint64>(buffer.size(), size - done)), position + done);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count == 0)
+            errno = EIO; // it became shorter meanwhile
+        if (count <= 0 || !writeBytes(copy, buffer.constData(), count))
+            return false;
+        done += count;
+    }
+    return true;
 }
 
 /** True if somebody wrote to the file since. */
@@ -63,6 +109,18 @@ Result<void> spliceFile(const QFile &source, const QList<Splice> &splices,
     if (isChanged(source.handle(), before))
         return writeFailure(path, EBUSY);
     return file.takePlace() ? Result<void>() : writeFailure(path, errno);
+}
+
+int copySpliced(int source, const QList<Splice> &splices, int copy)
+{
+    struct stat before = {};
+    const bool isCopied =
+        ::fstat(source, &before) == 0 &&
+        splice(
+            before.st_size, splices,
+            [&](qint64 position, qint64 count) { return copyBytes(source, position, count, copy); },
+            [&](const QByteArray &bytes) { return writeBytes(copy, bytes.constData(), bytes.size()); });
+    return isCopied ? 0 : errno;
 }
 
 QByteArray spliced(const QByteArray &bytes, const QList<Splice> &splices)

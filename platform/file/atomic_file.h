@@ -50,6 +50,12 @@ struct Splice
 Result<void> spliceFile(const QFile &source, const QList<Splice> &splices,
                         const std::function<Result<void>(const QString &path)> &check = {});
 
+/**
+ * Writes a file with these changes into another one that is open for writing, without help of the kernel. Answers 0, or an errno; EINVAL
+ * for splices that are not as spliceFile() wants them.
+ */
+int copySpliced(int source, const QList<Splice> &splices, int copy);
+
 /** The same for bytes in memory. */
 QByteArray spliced(const QByteArray &bytes, const QList<Splice> &splices);
 

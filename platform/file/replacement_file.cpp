@@ -1,8 +1,16 @@
 #include "platform/file/replacement_file.h"
 
+#include "platform/file/lent_file.h"
 #include "platform/file/temporary_file.h"
+#include "platform/foundation/paths.h"
+
+#include <QCoreApplication>
 
 #include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace platform {
 
@@ -26,6 +34,76 @@ Result<void> ReplacementFile::takePlace()
     if (m_problem == 0 && (!m_file->takePermissions() || !m_file->takePlace()))
         m_problem = errno;
     return m_problem == 0 ? Result<void>() : writeFailure(m_path, m_problem);
+}
+
+namespace {
+
+/** Whoever protected it meant it. Leaves errno as it was. */
+bool isProtected(const QString &path)
+{
+    const int before = errno;
+    const bool mayWrite = ::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) == 0;
+    errno = before;
+    return !mayWrite;
+}
+
+tl::unexpected<Error> protectedFile(const QString &path)
+{
+    return failure(ErrorCode::WriteFailed,
+                   QCoreApplication::translate("platform", "Cannot write %1: %2")
+                       .arg(path, QCoreApplication::translate("platform", "the file is write-protected")));
+}
+
+} // namespace
+
+EditedFile::EditedFile(const QString &path, LentFile file)
+    : m_path(path), m_file(std::make_unique<LentFile>(std::move(file))), m_copy(std::make_unique<TemporaryFile>(path))
+{
+}
+
+EditedFile::~EditedFile() = default;
+
+Result<std::unique_ptr<EditedFile>> EditedFile::of(const QString &path)
+{
+    Result<LentFile> file = LentFile::open(path);
+    if (!file)
+        return tl::unexpected<Error>(file.error());
+    std::unique_ptr<EditedFile> edited(new EditedFile(path, std::move(*file)));
+    if (!edited->m_copy->isOpen() && isProtected(path))
+        return protectedFile(path);
+    if (!edited->m_copy->isOpen() || ::fstat(edited->m_file->descriptor(), &edited->m_before) != 0)
+        return writeFailure(path, errno);
+    return edited;
+}
+
+Descriptor EditedFile::lendFile() const
+{
+    return Descriptor(::fcntl(m_file->descriptor(), F_DUPFD_CLOEXEC, 0));
+}
+
+Descriptor EditedFile::lendCopy() const
+{
+    return Descriptor(::open(encodedPath(m_copy->openPath()).constData(), O_WRONLY | O_CLOEXEC));
+}
+
+Descriptor EditedFile::lendCopyToRead() const
+{
+    return Descriptor(::open(encodedPath(m_copy->openPath()).constData(), O_RDONLY | O_CLOEXEC));
+}
+
+Result<void> EditedFile::takePlace()
+{
+    if (isProtected(m_path))
+        return protectedFile(m_path);
+    if (!m_copy->takeAttributesOf(m_file->descriptor()))
+        return writeFailure(m_path, errno);
+    struct stat now = {};
+    const bool isSame = ::fstat(m_file->descriptor(), &now) == 0 && now.st_size == m_before.st_size &&
+                        now.st_mtim.tv_sec == m_before.st_mtim.tv_sec &&
+                        now.st_mtim.tv_nsec == m_before.st_mtim.tv_nsec;
+    if (!isSame)
+        return writeFailure(m_path, EBUSY);
+    return m_copy->takePlace() ? Result<void>() : writeFailure(m_path, errno);
 }
 
 } // namespace platform

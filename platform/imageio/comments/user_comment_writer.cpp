@@ -9,6 +9,9 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <cstring>
+#include <functional>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -50,18 +53,51 @@ bool changeNothing(QFile &file, const QList<Splice> &splices)
     return true;
 }
 
-/** Whether the edited file is the same picture as before, and says what it was meant to say. */
-Result<void> checkEdited(const ImageSource &before, const QString &editedPath, const QString &comment)
+/** What has to change in a picture, and the picture as it is. */
+struct Edit
 {
-    const Result<ImageSource> edited = ImageSource::open(editedPath);
-    const bool isSamePicture = edited && edited->storedSize() == before.storedSize() &&
-                               edited->orientation() == before.orientation() &&
-                               edited->typeIdentifier() == before.typeIdentifier();
+    QList<Splice> splices; ///< none where nothing changes
+    ImageSource before;
+};
+
+tl::unexpected<Error> unwritten(const QString &path, ErrorCode code, const QString &reason)
+{
+    return failure(code, text("Cannot write the comment into %1: %2").arg(path, reason));
+}
+
+/** @param file  open, with the path as its name */
+Result<Edit> editFor(NamedFile &file, const std::function<Result<ImageSource>()> &open, const QString &comment)
+{
+    const QString path = file.fileName();
+    const Result<QList<Splice>> splices = splicesFor(file, contentOf(file.read(contentHeadBytes)), comment);
+    if (!file.readProblem().isEmpty()) // what could not be read would be taken for not there, and be written over
+        return unwritten(path, ErrorCode::Unreadable, file.readProblem());
+    if (!splices)
+        return unwritten(path, splices.error().code, splices.error().message);
+    return open().map([&](const ImageSource &picture) { // whoever cannot read it must not write it
+        return changeNothing(file, *splices) ? Edit{{}, picture} : Edit{*splices, picture};
+    });
+}
+
+/** Whether the edited file is the same picture as before, and says what it was meant to say. */
+Result<void> checkEdited(const Edit &edit, const Result<ImageSource> &edited, const QString &path,
+                         const QString &comment)
+{
+    const bool isSamePicture = edited && edited->storedSize() == edit.before.storedSize() &&
+                               edited->orientation() == edit.before.orientation() &&
+                               edited->typeIdentifier() == edit.before.typeIdentifier();
     if (!isSamePicture)
-        return failure(ErrorCode::Unreadable, text("the picture could not be read afterwards"));
+        return unwritten(path, ErrorCode::Unreadable, text("the picture could not be read afterwards"));
     const Result<Metadata> written = edited->metadata();
     if (!written || written->userComment() != comment)
-        return failure(ErrorCode::Unreadable, text("the comment could not be read afterwards"));
+        return unwritten(path, ErrorCode::Unreadable, text("the comment could not be read afterwards"));
+    return {};
+}
+
+Result<void> refuseNull(const QString &path, const QString &comment)
+{
+    if (comment.contains(QChar::Null))
+        return unwritten(path, ErrorCode::InvalidValue, text("a comment ends where it has a null character"));
     return {};
 }
 
@@ -118,30 +154,42 @@ int pagesLostToUserComment(const LentFile &lent)
 
 Result<void> writeUserComment(const QString &path, const QString &comment)
 {
+    if (const auto sound = refuseNull(path, comment); !sound)
+        return sound;
     NamedFile file(path);
-    const auto failed = [&](ErrorCode code, const QString &reason) {
-        return failure(code, text("Cannot write the comment into %1: %2").arg(path, reason));
-    };
-    if (comment.contains(QChar::Null))
-        return failed(ErrorCode::InvalidValue, text("a comment ends where it has a null character"));
     if (const auto opened = openToRead(file, QIODevice::Unbuffered); !opened)
-        return failed(opened.error().code, opened.error().message);
-    const Result<QList<Splice>> splices = splicesFor(file, contentOf(file.read(contentHeadBytes)), comment);
-    if (!file.readProblem().isEmpty()) // what could not be read would be taken for not there, and be written over
-        return failed(ErrorCode::Unreadable, file.readProblem());
-    if (!splices)
-        return failed(splices.error().code, splices.error().message);
-    const Result<ImageSource> picture = ImageSource::open(path);
-    if (!picture) // whoever cannot read it must not write it
-        return tl::unexpected<Error>(picture.error());
-    if (changeNothing(file, *splices))
+        return unwritten(path, opened.error().code, opened.error().message);
+    const Result<Edit> edit = editFor(
+        file, [&path] { return ImageSource::open(path); }, comment);
+    if (!edit)
+        return tl::unexpected<Error>(edit.error());
+    if (edit->splices.isEmpty())
         return {};
     if (::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) != 0) // whoever protected it meant it
-        return failed(ErrorCode::WriteFailed, text("the file is write-protected"));
-    return spliceFile(file, *splices, [&](const QString &editedPath) -> Result<void> {
-        const Result<void> checked = checkEdited(*picture, editedPath, comment);
-        return checked ? checked : failed(checked.error().code, checked.error().message);
+        return unwritten(path, ErrorCode::WriteFailed, text("the file is write-protected"));
+    return spliceFile(file, edit->splices, [&](const QString &editedPath) {
+        return checkEdited(*edit, ImageSource::open(editedPath), path, comment);
     });
+}
+
+Result<bool> writeUserComment(const std::shared_ptr<const LentFile> &picture, int copy,
+                              const std::shared_ptr<const LentFile> &copyToRead, const QString &comment)
+{
+    const QString &path = picture->name();
+    if (const auto sound = refuseNull(path, comment); !sound)
+        return tl::unexpected<Error>(sound.error());
+    NamedFile file(path);
+    if (!openLent(file, *picture))
+        return unwritten(path, ErrorCode::Unreadable, file.errorString());
+    const Result<Edit> edit = editFor(
+        file, [&picture] { return ImageSource::fromLent(picture); }, comment);
+    if (!edit)
+        return tl::unexpected<Error>(edit.error());
+    if (edit->splices.isEmpty())
+        return false;
+    if (const int problem = copySpliced(picture->descriptor(), edit->splices, copy); problem != 0)
+        return unwritten(path, ErrorCode::WriteFailed, QString::fromLocal8Bit(std::strerror(problem)));
+    return checkEdited(*edit, ImageSource::fromLent(copyToRead), path, comment).map([] { return true; });
 }
 
 } // namespace platform

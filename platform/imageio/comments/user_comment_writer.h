@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <memory>
+
 namespace platform {
 
 class LentFile;
@@ -26,6 +28,18 @@ class LentFile;
  * fit; with InvalidValue for a comment with a null character; with WriteFailed. The file is then as it was.
  */
 Result<void> writeUserComment(const QString &path, const QString &comment);
+
+/**
+ * The same for a picture that another process has open: the edited file is written into its copy, which is checked as well. Whoever
+ * opened them puts the copy into the picture's place, see EditedFile.
+ *
+ * @param picture     open for reading; its name stands in messages
+ * @param copy        an empty file, open for writing
+ * @param copyToRead  the same, open for reading
+ * @return whether anything changes; where nothing does the copy stays empty
+ */
+Result<bool> writeUserComment(const std::shared_ptr<const LentFile> &picture, int copy,
+                              const std::shared_ptr<const LentFile> &copyToRead, const QString &comment);
 
 /**
  * The EXIF user comment of the first picture; empty where there is none. Fails as ImageSource::open() does: a comment that

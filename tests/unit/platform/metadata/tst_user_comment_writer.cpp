@@ -1,3 +1,5 @@
+#include "platform/file/lent_file.h"
+#include "platform/file/replacement_file.h"
 #include "platform/imageio/comments/user_comment_writer.h"
 #include "platform/imageio/source/image_source.h"
 #include "tests/support/corpus.h"
@@ -13,8 +15,10 @@
 #include <sys/resource.h>
 #include <sys/xattr.h>
 
+using platform::EditedFile;
 using platform::ErrorCode;
 using platform::ImageSource;
+using platform::LentFile;
 using platform::pagesLostToUserComment;
 using platform::writeUserComment;
 
@@ -46,9 +50,29 @@ QByteArray scanOf(const QByteArray &jpeg)
     return jpeg.mid(jpeg.indexOf(QByteArray("\xff\xda\0\x0c", 4)));
 }
 
-ErrorCode codeOf(const platform::Result<void> &result)
+template<class T> ErrorCode codeOf(const platform::Result<T> &result)
 {
     return result ? ErrorCode(-1) : result.error().code;
+}
+
+/** What the other side does with a file that is to be edited. */
+platform::Result<bool> copyOf(const EditedFile &edited, const QString &path, const QString &comment)
+{
+    const platform::Descriptor copy = edited.lendCopy();
+    return writeUserComment(std::make_shared<const LentFile>(edited.lendFile(), path), copy.number(),
+                            std::make_shared<const LentFile>(edited.lendCopyToRead(), path), comment);
+}
+
+/** As two processes do it: one edits, the other puts it into its place. */
+platform::Result<bool> writeLent(const QString &path, const QString &comment)
+{
+    const auto edited = EditedFile::of(path);
+    if (!edited)
+        return tl::unexpected<platform::Error>(edited.error());
+    const auto changes = copyOf(**edited, path, comment);
+    if (!changes || !*changes)
+        return changes;
+    return (*edited)->takePlace().map([] { return true; });
 }
 
 } // namespace
@@ -63,6 +87,7 @@ private Q_SLOTS:
     void keepsTheTextInEveryTypeThatHoldsOne();
     void leavesTypesWithoutAPlaceForItAsTheyAre_data();
     void leavesTypesWithoutAPlaceForItAsTheyAre();
+    void leavesAFileAloneThatSomebodyWroteTo();
     void copiesTheScanAndWhatFollowsIt();
     void doesNotGrowWithEachEdit();
     void leavesNothingOfTheOldComment();
@@ -115,11 +140,15 @@ void TestUserCommentWriter::keepsTheTextInEveryTypeThatHoldsOne()
                                   QString(3000, QChar(u'Ж')), QStringLiteral(""),
                                   QStringLiteral("☀☀☀"),      QStringLiteral("   "),
                                   QStringLiteral("again")};
+    QVERIFY(folder.write("b", bytes));
     for (const QString &comment : comments) {
         const auto written = writeUserComment(folder.path("a"), comment);
         QVERIFY2(written, written ? "" : qPrintable(written.error().message));
         QCOMPARE(commentOf(folder.path("a")), comment);
+        QVERIFY(writeLent(folder.path("b"), comment));
+        QCOMPARE(folder.read("b"), folder.read("a"));
     }
+    QVERIFY(QFile::remove(folder.path("b")));
     QVariantMap was = before->properties().value();
     QVariantMap is = ImageSource::open(folder.path("a"))->properties().value();
     for (QVariantMap *properties : {&was, &is}) {
@@ -156,6 +185,23 @@ void TestUserCommentWriter::leavesTypesWithoutAPlaceForItAsTheyAre()
     QVERIFY(written.error().message.contains(folder.path("a")));
     QCOMPARE(folder.read("a"), bytes);
     QCOMPARE(folder.names(), QStringList{QStringLiteral("a")});
+    QCOMPARE(int(codeOf(writeLent(folder.path("a"), QStringLiteral("x")))), code);
+    QCOMPARE(folder.read("a"), bytes);
+    QCOMPARE(folder.names(), QStringList{QStringLiteral("a")});
+}
+
+void TestUserCommentWriter::leavesAFileAloneThatSomebodyWroteTo()
+{
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a.jpg", encoded("jpg")));
+    auto edited = EditedFile::of(folder.path("a.jpg"));
+    QVERIFY(edited);
+    QVERIFY(copyOf(**edited, folder.path("a.jpg"), QStringLiteral("x")).value());
+    QVERIFY(folder.write("a.jpg", "somebody's own")); // while it was at work
+    QCOMPARE(int(codeOf((*edited)->takePlace())), int(ErrorCode::WriteFailed));
+    edited->reset();
+    QCOMPARE(folder.read("a.jpg"), QByteArray("somebody's own"));
+    QCOMPARE(folder.names(), QStringList{QStringLiteral("a.jpg")});
 }
 
 void TestUserCommentWriter::copiesTheScanAndWhatFollowsIt()
@@ -208,6 +254,8 @@ void TestUserCommentWriter::changesNothingWhereItSaysThatAlready()
     QVERIFY(writeUserComment(folder.path("a.jpg"), QStringLiteral("the same")));
     ::stat(QFile::encodeName(folder.path("a.jpg")).constData(), &after);
     QCOMPARE(after.st_ino, before.st_ino);
+    const auto changes = writeLent(folder.path("a.jpg"), QStringLiteral("the same"));
+    QVERIFY(changes && !*changes);
 }
 
 void TestUserCommentWriter::keepsTheFirstPageOfATiffFile()
