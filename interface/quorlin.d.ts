@@ -1477,6 +1477,8 @@ declare module "quorlin/shell" {
         sheetHost(form: Form | null): SheetHost | null;
         timer(handler: Function | null): ScriptTimer | null;
         job(): JobDriver | null;
+        /** A panel for the name of a new file, with a form in it. */
+        saveChoice(): SaveChoice | null;
         /** Asks the user and waits for the answer. */
         ask(question: Question): { button: whole; checked: boolean };
         /** The path that was chosen, or null. */
@@ -1550,6 +1552,21 @@ declare module "quorlin/shell" {
         wake(): null;
         /** Stops after the current step; finally blocks run. */
         cancel(): null;
+    }
+
+    /** A panel for the name of a new file, with a form under the list of files. */
+    export class SaveChoice {
+        private constructor();
+        /**
+         * Waits for the answer. The name gets the extension unless it ends in one of the same type; the panel begins on the desktop
+         * where the folder is not there. Null where it was cancelled.
+         */
+        choose(view: Form | null, name: text, folder: text, extension: text,
+               wantsTags: boolean): { path: string; tags: string[] } | null;
+        /** Another type, while the panel is up. */
+        setExtension(extension: text): null;
+        /** Gives a file tags, where its disk has them. */
+        tag(path: text, tags: texts): null;
     }
 
     /** Calls its function once, some time later; starting again puts it off. */

@@ -154,6 +154,11 @@ JobDriver *Shell::job()
     return new JobDriver(this);
 }
 
+SaveChoice *Shell::saveChoice()
+{
+    return new SaveChoice(this);
+}
+
 QVariantMap Shell::ask(const QVariantMap &question)
 {
     const Question asked = questionFrom(question);

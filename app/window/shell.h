@@ -10,6 +10,7 @@
 #include "app/window/main_frame.h"
 #include "app/window/pictures/drop_target.h"
 #include "app/window/preview/compare_preview.h"
+#include "app/window/save_choice.h"
 
 #include <QObject>
 #include <QPointer>
@@ -73,6 +74,7 @@ public:
 
     Q_INVOKABLE window::ScriptTimer *timer(const script::Function &handler);
     Q_INVOKABLE window::JobDriver *job();
+    Q_INVOKABLE window::SaveChoice *saveChoice();
 
     /**
      * Asks the user and waits for the answer.

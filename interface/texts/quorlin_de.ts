@@ -2624,17 +2624,6 @@
     </message>
 </context>
 <context>
-    <name>convert-pane</name>
-    <message>
-        <source>1 – smallest file</source>
-        <translation>1 – kleinste Datei</translation>
-    </message>
-    <message>
-        <source>9 – best</source>
-        <translation>9 – beste Qualität</translation>
-    </message>
-</context>
-<context>
     <name>convert-presets</name>
     <message>
         <source>JPEG for everyone</source>
@@ -7942,12 +7931,20 @@
         <translation>„%1“ konnte nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>The folder may be locked, the disk full, or “%1” damaged.</source>
-        <translation>Vielleicht ist der Ordner gesperrt, das Laufwerk voll oder „%1“ beschädigt.</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Wait until the picture is saved</source>
+        <translation>Warten Sie, bis das Bild gespeichert ist</translation>
+    </message>
+    <message>
+        <source>Saving %1…</source>
+        <translation>%1 wird gespeichert…</translation>
+    </message>
+    <message>
+        <source>Save Picture As</source>
+        <translation>Bild speichern unter</translation>
     </message>
 </context>
 <context>
@@ -8797,6 +8794,14 @@
     <message>
         <source>It is %1 already and is encoded again.</source>
         <translation>Es ist schon %1 und wird neu kodiert.</translation>
+    </message>
+    <message>
+        <source>1 – smallest file</source>
+        <translation>1 – kleinste Datei</translation>
+    </message>
+    <message>
+        <source>9 – best</source>
+        <translation>9 – beste Qualität</translation>
     </message>
 </context>
 <context>

@@ -2624,17 +2624,6 @@
     </message>
 </context>
 <context>
-    <name>convert-pane</name>
-    <message>
-        <source>1 – smallest file</source>
-        <translation>1 – fichier le plus léger</translation>
-    </message>
-    <message>
-        <source>9 – best</source>
-        <translation>9 – la meilleure</translation>
-    </message>
-</context>
-<context>
     <name>convert-presets</name>
     <message>
         <source>JPEG for everyone</source>
@@ -7942,12 +7931,20 @@
         <translation>«&#x202f;%1&#x202f;» n’a pas pu être écrit.</translation>
     </message>
     <message>
-        <source>The folder may be locked, the disk full, or “%1” damaged.</source>
-        <translation>Le dossier est peut-être verrouillé, le disque plein ou «&#x202f;%1&#x202f;» endommagé.</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Wait until the picture is saved</source>
+        <translation>Attendez que l’image soit enregistrée</translation>
+    </message>
+    <message>
+        <source>Saving %1…</source>
+        <translation>Enregistrement de %1…</translation>
+    </message>
+    <message>
+        <source>Save Picture As</source>
+        <translation>Enregistrer l’image sous</translation>
     </message>
 </context>
 <context>
@@ -8764,15 +8761,15 @@
     </message>
     <message>
         <source>Small files for showing. Fine detail is lost, the more the lower the quality; transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
-        <translation>Petits fichiers à montrer. De fins détails se perdent, d’autant plus que la qualité est basse ; les parties transparentes reçoivent une couleur et 16 bits deviennent 8. Profil de couleurs et métadonnées sont conservés.</translation>
+        <translation>Petits fichiers à montrer. De fins détails se perdent, d’autant plus que la qualité est basse&#x202f;; les parties transparentes reçoivent une couleur et 16 bits deviennent 8. Profil de couleurs et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
-        <translation>Rien ne se perd : pixels, transparence, 16 bits, profil de couleurs et métadonnées sont conservés.</translation>
+        <translation>Rien ne se perd&#x202f;: pixels, transparence, 16 bits, profil de couleurs et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile and metadata are kept. Large files.</source>
-        <translation>Rien ne se perd : pixels, transparence, 16 bits, CMJN, profil de couleurs et métadonnées sont conservés. Gros fichiers.</translation>
+        <translation>Rien ne se perd&#x202f;: pixels, transparence, 16 bits, CMJN, profil de couleurs et métadonnées sont conservés. Gros fichiers.</translation>
     </message>
     <message>
         <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. Of the metadata what XMP has words for is kept.</source>
@@ -8784,7 +8781,7 @@
     </message>
     <message>
         <source>256 colours at most, and a pixel is either transparent or not; colours become sRGB. Of the metadata what XMP has words for is kept.</source>
-        <translation>256 couleurs au plus, et un pixel est transparent ou ne l’est pas ; les couleurs passent en sRGB. Des métadonnées, ce que XMP peut exprimer est conservé.</translation>
+        <translation>256 couleurs au plus, et un pixel est transparent ou ne l’est pas&#x202f;; les couleurs passent en sRGB. Des métadonnées, ce que XMP peut exprimer est conservé.</translation>
     </message>
     <message>
         <source>Pixels and resolution only, in large files. Colours become sRGB, transparent parts get a colour, and 16 bits become 8.</source>
@@ -8792,11 +8789,19 @@
     </message>
     <message>
         <source>It is %1 already; no pixel of it changes.</source>
-        <translation>C’est déjà du %1 ; aucun pixel n’en change.</translation>
+        <translation>C’est déjà du %1&#x202f;; aucun pixel n’en change.</translation>
     </message>
     <message>
         <source>It is %1 already and is encoded again.</source>
         <translation>C’est déjà du %1 et sera encodé de nouveau.</translation>
+    </message>
+    <message>
+        <source>1 – smallest file</source>
+        <translation>1 – fichier le plus léger</translation>
+    </message>
+    <message>
+        <source>9 – best</source>
+        <translation>9 – la meilleure</translation>
     </message>
 </context>
 <context>

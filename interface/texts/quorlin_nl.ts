@@ -2624,17 +2624,6 @@
     </message>
 </context>
 <context>
-    <name>convert-pane</name>
-    <message>
-        <source>1 – smallest file</source>
-        <translation>1 – kleinste bestand</translation>
-    </message>
-    <message>
-        <source>9 – best</source>
-        <translation>9 – beste</translation>
-    </message>
-</context>
-<context>
     <name>convert-presets</name>
     <message>
         <source>JPEG for everyone</source>
@@ -7942,12 +7931,20 @@
         <translation>“%1” kon niet worden geschreven.</translation>
     </message>
     <message>
-        <source>The folder may be locked, the disk full, or “%1” damaged.</source>
-        <translation>Misschien is de map vergrendeld, de schijf vol of “%1” beschadigd.</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Wait until the picture is saved</source>
+        <translation>Wacht tot de foto bewaard is</translation>
+    </message>
+    <message>
+        <source>Saving %1…</source>
+        <translation>%1 wordt bewaard…</translation>
+    </message>
+    <message>
+        <source>Save Picture As</source>
+        <translation>Foto bewaren als</translation>
     </message>
 </context>
 <context>
@@ -8797,6 +8794,14 @@
     <message>
         <source>It is %1 already and is encoded again.</source>
         <translation>Het is al %1 en wordt opnieuw gecodeerd.</translation>
+    </message>
+    <message>
+        <source>1 – smallest file</source>
+        <translation>1 – kleinste bestand</translation>
+    </message>
+    <message>
+        <source>9 – best</source>
+        <translation>9 – beste</translation>
     </message>
 </context>
 <context>

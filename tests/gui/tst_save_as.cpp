@@ -5,7 +5,11 @@
 #include "app/window/preview/compare_preview.h"
 #include "platform/desktop/tags.h"
 #include "platform/desktop/user_defaults.h"
+#include "platform/file/file_note.h"
 #include "platform/imageio/source/image_source.h"
+#include "platform/imageio/source/opening_watch.h"
+#include "platform/imageio/source/picture_facts.h"
+#include "tests/support/corpus.h"
 
 #include <QApplication>
 #include <QDir>
@@ -46,11 +50,12 @@ bool isWhole(const QLabel &label)
     return label.isVisible() && label.width() >= width && label.height() >= height;
 }
 
-void chooseIn(const char *menu, const QString &text)
+void chooseIn(const char *menu, const QString &value)
 {
     auto *found = inPanel<QComboBox>(menu);
     QVERIFY(found);
-    found->setCurrentText(text);
+    QVERIFY(found->findData(value) >= 0);
+    found->setCurrentIndex(found->findData(value));
     Q_EMIT found->activated(found->currentIndex());
 }
 
@@ -75,7 +80,11 @@ private Q_SLOTS:
         QVERIFY(image.save(m_driver->folder() + QStringLiteral("/a.b.png")));
     }
 
-    void cleanup() { m_driver.reset(); }
+    void cleanup()
+    {
+        m_driver.reset();
+        platform::watchOpening({});
+    }
 
     void cannotBeUsedWithoutAPicture() { QVERIFY(!m_driver->control<QAction>("saveAsAction")->isEnabled()); }
 
@@ -108,6 +117,107 @@ private Q_SLOTS:
         QCOMPARE(names.join(u' '), QStringLiteral("a.b.png a.b.tiff a.b.jp2 a.b.jpeg a.b.pdf"));
         QCOMPARE(hasQuality, (QList<bool>{false, false, false, true, false}));
         QCOMPARE(typeOf("Desktop/a.b.pdf"), QStringLiteral("com.adobe.pdf"));
+    }
+
+    void offersWhatConvertOffers()
+    {
+        m_driver->show("convert");
+        const auto entries = [](const QComboBox &menu) {
+            QStringList texts;
+            for (int i = 0; i < menu.count(); ++i)
+                texts += menu.itemText(i);
+            return texts;
+        };
+        const QStringList types = entries(*m_driver->control<QComboBox>("target"));
+        const QStringList qualities = entries(*m_driver->control<QComboBox>("convertQuality"));
+        QVERIFY(types.contains(QStringLiteral("JPEG 2000")));
+        QList<QStringList> offered;
+        save([&](window::SaveDialog &panel) {
+            offered = {entries(*inPanel<QComboBox>("pubFileType")), entries(*inPanel<QComboBox>("pubJPEGcompression"))};
+            panel.reject();
+        });
+        QCOMPARE(offered, (QList<QStringList>{types, qualities}));
+    }
+
+    void takesTheUsualExtensionsAsTheyAreTyped_data()
+    {
+        QTest::addColumn<QString>("keyword");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("type");
+        QTest::newRow("jpg") << "jpeg"
+                             << "my.jpg"
+                             << "public.jpeg";
+        QTest::newRow("tif") << "tiff"
+                             << "my.tif"
+                             << "public.tiff";
+    }
+
+    void takesTheUsualExtensionsAsTheyAreTyped()
+    {
+        QFETCH(QString, keyword);
+        QFETCH(QString, typed);
+        save([&](window::SaveDialog &panel) {
+            chooseIn("pubFileType", keyword);
+            inPanel<QLineEdit>("fileNameEdit")->setText(typed);
+            confirm(panel);
+        });
+        QTEST(typeOf(qPrintable(QStringLiteral("Desktop/") + typed)), "type");
+    }
+
+    void beginsWhereItSavedLast()
+    {
+        const QString folder = m_driver->folder() + QStringLiteral("/Album");
+        QVERIFY(QDir().mkpath(folder));
+        save([&](window::SaveDialog &panel) {
+            panel.setDirectory(folder);
+            confirm(panel);
+        });
+        QCOMPARE(typeOf("Album/a.b.jpeg"), QStringLiteral("public.jpeg"));
+        m_driver->startAgain();
+        QString start;
+        save([&](window::SaveDialog &panel) {
+            start = panel.directory().absolutePath();
+            panel.reject();
+        });
+        QCOMPARE(start, folder);
+    }
+
+    /** The picture is made by a worker, and knows what it knew. */
+    void keepsWhatThePictureKnowsAndOpensNothing()
+    {
+        QVERIFY(QFile::remove(m_driver->folder() + QStringLiteral("/a.b.png")));
+        QVERIFY(
+            QFile::copy(picturePath("own/metadata/every-group.jpg"), m_driver->folder() + QStringLiteral("/a.b.png")));
+        QStringList opened;
+        platform::watchOpening([&opened](const QString &name) { opened.append(name); });
+        save([&](window::SaveDialog &panel) { confirm(panel); });
+        platform::watchOpening({});
+        QVERIFY2(opened.isEmpty(), qPrintable(opened.join(u' ')));
+        const QString saved = m_driver->folder() + QStringLiteral("/Desktop/a.b.jpeg");
+        QCOMPARE(platform::pictureFacts(saved).camera, QStringLiteral("Quorlin Test Camera"));
+        QVERIFY(platform::attachedNote(saved).isEmpty()); // who adds its folder wants it too
+        QCOMPARE(QDir(m_driver->folder() + QStringLiteral("/Desktop"))
+                     .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList{QStringLiteral("a.b.jpeg")});
+    }
+
+    void bringsBackWhatItReplaced()
+    {
+        const QString path = m_driver->folder() + QStringLiteral("/Desktop/a.b.jpeg");
+        const auto content = [&path] {
+            QFile file(path);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QFile there(path);
+        QVERIFY(there.open(QIODevice::WriteOnly) && there.write("kept") == 4);
+        there.close();
+        save([&](window::SaveDialog &panel) {
+            answer(QMessageBox::Yes);
+            confirm(panel);
+        });
+        QVERIFY(m_driver->waitFor([&] { return content() != "kept"; }));
+        m_driver->trigger("undoAction");
+        QVERIFY(m_driver->waitFor([&] { return content() == "kept"; }));
     }
 
     void aNameOfAnotherTypeGetsTheExtension()
@@ -225,7 +335,7 @@ private Q_SLOTS:
         m_driver->startAgain();
         QString quality;
         save([&](window::SaveDialog &panel) {
-            quality = inPanel<QComboBox>("pubJPEGcompression")->currentText();
+            quality = inPanel<QComboBox>("pubJPEGcompression")->currentData().toString();
             panel.reject();
         });
         QCOMPARE(quality, QStringLiteral("3"));
@@ -330,6 +440,8 @@ private:
         QVERIFY(m_driver->waitFor([action] { return action->isEnabled(); }));
         whenOpen(work);
         action->trigger();
+        QVERIFY(
+            m_driver->waitFor([this] { return !m_driver->text("statusText").startsWith(QLatin1String("Saving")); }));
     }
 
     void confirm(window::SaveDialog &panel) { QMetaObject::invokeMethod(&panel, "accept", Qt::DirectConnection); }

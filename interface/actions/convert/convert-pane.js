@@ -1,15 +1,10 @@
 // The settings of the Convert action.
 
-import { KEYWORDS, targetNamed, targetText } from "./targets.js";
+import { KEYWORDS, qualityText, targetNamed, targetText } from "./targets.js";
 import { CONVERSION_QUALITIES } from "../../lib/types.js";
 import { pixels } from "../../lib/wording.js";
 import * as convert from "./convert-step.js";
 import { Pane } from "../shared/pane.js";
-
-function qualityText(code) {
-    const texts = { 1: qsTr("1 – smallest file"), 9: qsTr("9 – best") };
-    return texts[code] || code;
-}
 
 export class ConvertPane extends Pane {
     constructor(settings, changed) {
@@ -20,7 +15,7 @@ export class ConvertPane extends Pane {
 
     join() {
         this.form.setItems("target", KEYWORDS.map((keyword) => targetNamed(keyword).word), KEYWORDS);
-        this.form.setItems("convertQuality", CONVERSION_QUALITIES.map((code) => qualityText(code)),
+        this.form.setItems("convertQuality", CONVERSION_QUALITIES.map(qualityText),
                            CONVERSION_QUALITIES);
         this.choice("target", "target");
         this.choice("convertQuality", "quality");

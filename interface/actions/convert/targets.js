@@ -16,6 +16,12 @@ export function isTarget(keyword) {
     return KEYWORDS.indexOf(keyword) >= 0;
 }
 
+/** A code of quality, as it is offered. */
+export function qualityText(code) {
+    const texts = { 1: qsTr("1 – smallest file"), 9: qsTr("9 – best") };
+    return texts[code] || code;
+}
+
 /** What a file of this target holds of a picture, in sentences. */
 export function targetText(keyword) {
     return {

@@ -75,7 +75,8 @@ class WorkerJob {
         this.workshop.enter(item.folder);
         this.open += 1;
         this.work.give(index, { path: photo.path, target: this.targets[index], recipe: recipe,
-                                width: photo.width || 0, height: photo.height || 0, noted: !item.replacesOriginal });
+                                width: photo.width || 0, height: photo.height || 0,
+                                noted: item.isNoted !== false && !item.replacesOriginal });
         return null;
     }
 

@@ -353,7 +353,8 @@ export class MainWindow {
     }
 
     mayClose() {
-        if (!this.run.isBusy()) {
+        const isSaving = this.saving !== null && this.saving.isBusy();
+        if (!this.run.isBusy() && !isSaving) {
             this.livePlan.stop();
             return this.pageHost.mayLeave();
         }
@@ -362,6 +363,9 @@ export class MainWindow {
             buttons: [qsTr("Stop and Close"), qsTr("Keep Running")], initial: 1, escape: 1, check: "" });
         if (answer.button === 0) {
             this.run.abandon();
+            if (isSaving) {
+                this.saving.abandon();
+            }
         }
         return answer.button === 0;
     }

@@ -1,115 +1,162 @@
-// Saves the current picture under another name, type and quality, through a panel with a view of what comes out.
+// Saves the current picture under another name, type and quality, through a panel with a view of what comes out. A worker makes the
+// file, as it does in a run of Convert.
 
-import { cToolBox } from "quorlin";
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
+import * as convert from "../../actions/convert/convert-step.js";
+import { KEYWORDS, isTarget, qualityText, targetNamed, targetText } from "../../actions/convert/targets.js";
+import { copyOf } from "../../lib/copies.js";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
 import { CONVERSION_QUALITIES } from "../../lib/types.js";
-import { isTarget, KEYWORDS, targetNamed, targetText } from "../../actions/convert/targets.js";
 import { fill } from "../../lib/wording.js";
+import { Flow } from "../../runs/making/flow.js";
+import { Replacing } from "../../runs/making/replacing.js";
+import { runByWorkers } from "../../runs/making/worker-job.js";
 
 const KEY = "SaveAs";
-// The panel writes the title itself as the type and as the extension, so it is no word that is translated.
-const BEST = "9";
+const USUAL = { type: convert.defaults.target, quality: convert.defaults.quality, folder: "" };
+// The version of the system, as the services have it, whose panels ask for tags.
+const WITH_TAGS = "109+";
 
 export class SaveAs {
-    /** @param window  the main window's parts: pictures, note(text), reloadPreview() */
+    /** @param window  the main window's parts: pictures, services, history, say(text), reloadPreview() */
     constructor(window) {
         this.window = window;
         this.form = shell.loadForm("windows/save-as/save-as.ui");
+        this.panel = shell.saveChoice();
+        this.job = shell.job();
         this.photo = null;
-        this.box = new cToolBox();
+        this.kept = recall(defaults, KEY, USUAL);
         this.fillMenus();
         this.connect();
     }
 
     fillMenus() {
-        this.form.setItems("pubFileType", KEYWORDS, KEYWORDS);
-        this.form.setItems("pubJPEGcompression", CONVERSION_QUALITIES, CONVERSION_QUALITIES);
-        const kept = recall(defaults, KEY, { type: "jpeg", quality: "8" });
-        this.form.chooseValue("pubFileType", isTarget(kept.type) ? kept.type : "jpeg");
+        this.form.setItems("pubFileType", KEYWORDS.map((keyword) => targetNamed(keyword).word), KEYWORDS);
+        this.form.setItems("pubJPEGcompression", CONVERSION_QUALITIES.map(qualityText), CONVERSION_QUALITIES);
+        this.form.chooseValue("pubFileType", isTarget(this.kept.type) ? this.kept.type : USUAL.type);
         this.form.chooseValue("pubJPEGcompression",
-                              CONVERSION_QUALITIES.indexOf(kept.quality) >= 0 ? kept.quality : BEST);
-        this.box.pubFileType = this.form.control("pubFileType");
-        this.box.pubJPEGcompression = this.form.control("pubJPEGcompression");
-        this.box.wwFormats = this.form.control("wwFormats");
+                              CONVERSION_QUALITIES.indexOf(this.kept.quality) >= 0 ? this.kept.quality : USUAL.quality);
     }
 
     connect() {
         this.view = this.form.control("saveAsPreview");
         this.view.setTitles(qsTr("Original"), qsTr("Saved"));
         this.form.control("pubFileType").activated.connect(guard("pubFileType", () => {
-            this.box.hChooseFileType(null);
+            this.panel.setExtension(this.settings().target);
             this.show();
         }));
-        this.form.control("pubJPEGcompression").activated.connect(guard("pubJPEGcompression", () => {
-            this.box.hChooseCompType(null);
-            this.show();
-        }));
+        this.form.control("pubJPEGcompression").activated.connect(guard("pubJPEGcompression", () => this.show()));
         this.view.resultEstimated.connect(guard("saveAs.estimate", (bytes) => this.showSize(bytes)));
     }
 
-    target() {
-        return targetNamed(this.form.value("pubFileType"));
+    /** What is chosen, as the settings of Convert. */
+    settings() {
+        return Object.assign(copyOf(convert.defaults), { target: this.form.value("pubFileType"),
+                                                         quality: this.form.value("pubJPEGcompression") });
+    }
+
+    /** Whether a picture is being saved. */
+    isBusy() {
+        return this.job.running;
+    }
+
+    /** Gives that up. */
+    abandon() {
+        this.job.cancel();
     }
 
     /** Asks where to save the current picture, and as what, and saves it. */
     open() {
         const id = this.window.pictures.currentId;
         this.photo = id > 0 ? this.window.pictures.photo(id) : null;
-        if (this.photo === null || !this.photo.width) {
-            this.window.say(qsTr("Choose a picture to save"));
+        if (this.photo === null || !this.photo.width || this.isBusy()) {
+            this.window.say(this.isBusy() ? qsTr("Wait until the picture is saved") : qsTr("Choose a picture to save"));
             return;
         }
         this.view.showPicture(this.photo.path);
-        this.box.hChooseFileType(null);
         this.show();
-        const saved = this.box.hSaveDialogFile(this.photo.path);
+        const chosen = this.panel.choose(this.form, splitPath(this.photo.path).base, this.kept.folder,
+                                         this.settings().target, defaults.get("MOS") === WITH_TAGS);
         this.view.showPicture("");
-        if (saved !== null) {
-            keep(defaults, KEY,
-                 { type: this.form.value("pubFileType"), quality: this.form.value("pubJPEGcompression") });
-            this.tell(decodeURIComponent(saved[0].replace(/^file:\/\//, "")));
+        if (chosen !== null) {
+            this.save(chosen);
         }
     }
 
     show() {
-        const target = this.target();
-        const isPlainPage = target.keyword === "pdf" && this.photo.type === "JPEG"
-            && (this.photo.orientation || 1) === 1;
-        this.knownBytes = isPlainPage ? this.photo.bytes : -1;
-        this.form.control("saveAsNote").text = targetText(target.keyword);
-        this.view.showResult({ edits: target.alpha ? [] : [{ do: "flatten" }], width: this.photo.width,
-                               height: this.photo.height,
-                               type: target.id, quality: target.quality
-                                   ? String(this.form.value("pubJPEGcompression")) : "", message: "" });
+        const settings = this.settings();
+        const target = targetNamed(settings.target);
+        this.form.control("pubJPEGcompression").enabled = target.quality;
+        this.form.control("saveAsNote").text = targetText(settings.target);
+        const planned = convert.plan(this.photo, settings, this.window.services);
+        const isReady = planned.status === "ready";
+        this.view.setNotes(isReady ? planned.losses.join(" · ") : "");
+        this.view.showResult(isReady
+            ? Object.assign({ message: "" }, convert.preview(this.photo, settings, planned))
+            : { edits: [], width: 0, height: 0, type: "", quality: "", message: planned.reason });
         this.showSize(this.view.estimatedBytes);
     }
 
-    showSize(estimated) {
-        const target = this.target();
-        const bytes = this.knownBytes >= 0 ? this.knownBytes : estimated;
+    showSize(bytes) {
         const size = bytes >= 0 ? files.byteText(bytes) : "";
         this.form.control("saveAsSize").text = size;
         this.view.setCaptions([this.photo.type, files.byteText(this.photo.bytes)].join(" · "),
-                              [target.word].concat(size ? [size] : []).join(" · "));
+                              [targetNamed(this.settings().target).word].concat(size ? [size] : []).join(" · "));
     }
 
-    // The service answers the same whatever becomes of the file: only the file itself tells.
-    tell(path) {
-        const written = files.info(path).exists ? files.picture(path) : { width: 0, type: "", bytes: 0 };
-        if (written.width > 0 && written.type === this.target().word) {
-            this.window.say(fill(qsTr("Saved %1, %2"), splitPath(path).name, files.byteText(written.bytes)));
-            if (path === this.photo.path) {
-                this.window.reloadPreview();
+    // One picture, as a run has it. What the panel asked about may be replaced, and nothing that came there since.
+    itemFor(path) {
+        const place = splitPath(path);
+        const replaced = files.identity(path);
+        return { photo: this.photo, status: "ready", reason: "", folder: place.folder, name: place.name, path: path,
+                 width: this.photo.width, height: this.photo.height, replaces: replaced !== "", replaced: replaced,
+                 replacesOriginal: replaced !== "" && replaced === files.identity(this.photo.path),
+                 isNoted: false }; // who saves it somewhere may well add it there
+    }
+
+    save(chosen) {
+        const settings = this.settings();
+        this.kept = { type: settings.target, quality: settings.quality, folder: splitPath(chosen.path).folder };
+        keep(defaults, KEY, this.kept);
+        const item = this.itemFor(chosen.path);
+        const replacing = new Replacing(this.window.services, qsTr("Save Picture As"));
+        const flow = new Flow(() => this.job.wake());
+        const work = runByWorkers([item], convert, settings,
+                                  Object.assign({}, this.window.services, { replacing: replacing }), flow);
+        let result = null;
+        this.window.say(fill(qsTr("Saving %1…"), item.name));
+        this.job.start(work, guard("saveAs.step", (event) => {
+            if (event.kind === "full") {
+                flow.stop(); // which is said as any other reason
             }
+            result = event.kind === "end" ? event.result : result;
+        }), guard("saveAs.end", (how, problem) => {
+            const unended = replacing.end();
+            this.window.history.lookForRun();
+            if (how === "cancelled") {
+                return;
+            }
+            this.tell(item, result || { status: "Failed", reason: String(problem) }, chosen.tags, unended);
+        }));
+    }
+
+    tell(item, result, tags, problem) {
+        if (result.status !== "OK") {
+            shell.ask({ title: qsTr("Not saved"), text: fill(qsTr("“%1” could not be written."), item.name),
+                        detail: result.reason, buttons: [qsTr("Close")], initial: 0, escape: 0, check: "" });
             return;
         }
-        shell.ask({ title: qsTr("Not saved"), text: fill(qsTr("“%1” could not be written."), splitPath(path).name),
-                    detail: fill(qsTr("The folder may be locked, the disk full, or “%1” damaged."), this.photo.name),
-                    buttons: [qsTr("Close")], initial: 0, escape: 0, check: "" });
+        if (tags.length > 0) {
+            this.panel.tag(result.path, tags);
+        }
+        const saved = fill(qsTr("Saved %1, %2"), result.name, files.byteText(result.bytes));
+        this.window.say([saved].concat(problem ? [problem] : []).join(" · "));
+        if (item.replacesOriginal) {
+            this.window.reloadPreview();
+        }
     }
 }

@@ -2,6 +2,7 @@
 #include "tests/support/corpus.h"
 #include "tests/support/test_program.h"
 
+#include "app/window/controls/segmented_control.h"
 #include "app/window/folders/side_bar.h"
 #include "app/window/preview/compare_preview.h"
 #include "app/window/properties/property_tree.h"
@@ -39,6 +40,7 @@ private Q_SLOTS:
     }
 
     void noPictureInASession();
+    void nothingWhereFilesAreMadeAndChanged();
     void countsWhatIsOpened();
     void staysWithBrokenPictures();
     void staysWhenReadersCrash();
@@ -98,6 +100,45 @@ void DecodesNothing::noPictureInASession()
         QVERIFY2(!name.startsWith(m_pictures + u'/') || name.startsWith(m_pictures + QStringLiteral("/Resized/")) ||
                      name.contains(QStringLiteral("/.")),
                  qPrintable(name));
+}
+
+/** Convert, Save As, comments written into one and into many, Revert, and a page that is printed. */
+void DecodesNothing::nothingWhereFilesAreMadeAndChanged()
+{
+    for (const char *name : {"a.jpg", "b.jpg", "c.png"})
+        add(QString::fromLatin1(name));
+    watch();
+    m_driver->show("convert");
+    m_driver->drop({m_pictures});
+    for (int row = 0; row < 3; ++row)
+        QVERIFY(isRead(row));
+    for (const char *type : {"tiff", "pdf", "jpeg"}) {
+        m_driver->choose("target", QString::fromLatin1(type));
+        m_driver->click("startButton");
+        QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("3 pictures done")));
+    }
+    const QString saved = m_driver->folder() + QStringLiteral("/saved.gif");
+    WindowDriver::answerPanels({saved});
+    m_driver->trigger("saveAsAction");
+    QVERIFY(m_driver->waitFor([&] { return m_driver->text("statusText").startsWith(QStringLiteral("Saved")); }));
+    QVERIFY(QFileInfo::exists(saved));
+    m_driver->show("metadata");
+    rest();
+    auto *field = m_driver->control<QPlainTextEdit>("metaComment");
+    field->setPlainText(QStringLiteral("one"));
+    m_driver->click("metaApply");
+    QVERIFY(m_driver->waitFor(
+        [&] { return m_driver->text("statusText").startsWith(QStringLiteral("1 comment written")); }));
+    Q_EMIT m_driver->control<window::SegmentedControl>("metaScope")->chosen(1);
+    field->setPlainText(QStringLiteral("all"));
+    WindowDriver::answerNextQuestion(QStringLiteral("Write"));
+    m_driver->click("metaApplyAll");
+    QVERIFY(m_driver->waitFor(
+        [&] { return m_driver->text("statusText").startsWith(QStringLiteral("3 comments written")); }));
+    m_driver->click("metaRevert");
+    QVERIFY(m_driver->waitFor(
+        [&] { return m_driver->text("statusText").startsWith(QStringLiteral("3 comments reverted")); }));
+    QVERIFY2(m_opened.isEmpty(), qPrintable(m_opened.join(u' ')));
 }
 
 /** So that the count of the session means something. */
