@@ -32,6 +32,7 @@ class RecipeAction : public QObject
 private Q_SLOTS:
     void init()
     {
+        jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKER));
         m_driver = WindowDriver::showing("recipe");
         m_folder = m_driver->inputFolder();
     }
@@ -382,7 +383,7 @@ private Q_SLOTS:
 
     void asksWhereADiskIsFull()
     {
-        jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+        useOneTrialWorker();
         for (const char *name : {"a.png", "b.png", "full-c.png"})
             save(name, QSize(60, 40));
         const QString other = m_driver->folder() + QStringLiteral("/other");
@@ -399,7 +400,7 @@ private Q_SLOTS:
 
     void endsWhereADiskIsFullAndNobodyMakesRoom()
     {
-        jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+        useOneTrialWorker();
         save("full-a.png", QSize(60, 40));
         m_driver->drop({m_folder});
         m_driver->answerNextQuestion(QStringLiteral("Cancel"));
@@ -410,6 +411,13 @@ private Q_SLOTS:
     }
 
 private:
+    /** Each of these finds no room once: several would ask more than once. */
+    static void useOneTrialWorker()
+    {
+        jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+        jobs::WorkerDesk::ofProcess().setSize(1);
+    }
+
     void write(const char *name, const QByteArray &text) const
     {
         QFile file(at(name));
