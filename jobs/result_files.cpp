@@ -24,7 +24,8 @@ using platform::Result;
 
 tl::unexpected<platform::Error> unwritten(const QString &folder)
 {
-    return platform::failure(platform::ErrorCode::WriteFailed, image::sentence("%1 cannot be written to").arg(folder));
+    return platform::failure(platform::ErrorCode::WriteFailed,
+                             image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot be written to")).arg(folder));
 }
 
 } // namespace
@@ -104,8 +105,8 @@ Result<platform::Descriptor> ResultFiles::begin(int index, const OutputPlace &pl
 
 platform::Error ResultFiles::failureOf(int code, const OutputPlace &place) const
 {
-    return {platform::ErrorCode::WriteFailed,
-            image::sentence("%1 cannot be written: %2").arg(place.path, QString::fromLocal8Bit(std::strerror(code)))};
+    return {platform::ErrorCode::WriteFailed, image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot be written: %2"))
+                                                  .arg(place.path, QString::fromLocal8Bit(std::strerror(code)))};
 }
 
 Result<void> ResultFiles::keep(int index, qint64 bytes, const OutputPlace &place, const image::RecipeOutput &output)
@@ -168,7 +169,7 @@ ResultFiles::Placed ResultFiles::placed(const Kept &kept, OutputPlaces &places) 
         if (!kept.place.replaces)
             path = places.numbered(kept.place.path);
     }
-    return {kept.index, path, false, image::sentence("its name is taken again and again")};
+    return {kept.index, path, false, image::sentence(QT_TRANSLATE_NOOP("recipe", "its name is taken again and again"))};
 }
 
 } // namespace jobs

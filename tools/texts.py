@@ -18,7 +18,7 @@ import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 LANGUAGES = ("en", "nl", "de", "fr")
-ROOMS = ("app", "views", "image", "files", "meta", "presets", "text", "platform")
+ROOMS = ("app", "views", "image", "jobs", "files", "meta", "presets", "text", "platform")
 MODULE_WORDS = re.compile(r"^(\s*)(import\b[^;]*;|export\s+default\b|export\b)", re.M)
 # What lupdate says of C++ that it need not understand.
 HARMLESS = ("Ignoring definition of undeclared qualified class", "Discarding unconsumed meta data")
@@ -144,6 +144,12 @@ def check_keys(root):
             if key not in used]
 
 
+def check_sentences(root):
+    """What is said about recipes is said in the window too, in the language of that, if it is marked."""
+    return [f"{path.relative_to(root)}: not marked for translation: {text}" for path in sorted((root / "image/recipe").glob("*.cpp"))
+            for text in re.findall(r'\bsentence\(\s*"([^"]*)', path.read_text(encoding="utf-8"))]
+
+
 def fault_of(text, forms, has_count):
     """What is wrong with a finished translation. Each of our languages has two forms; the one for 1 need not tell the number."""
     if len(forms) != (2 if has_count else 1):
@@ -174,7 +180,7 @@ def check_translation(path, base):
 def check(root):
     texts, complaints = extracted(root)
     problems, names = check_tables(root)
-    problems += check_keys(root) + [f"lupdate: {line}" for line in complaints]
+    problems += check_keys(root) + check_sentences(root) + [f"lupdate: {line}" for line in complaints]
     counts = {key: message for key, message in texts.items() if message[2]}
     for language in LANGUAGES:
         problems += check_translation(translation(root, language), counts if language == "en" else texts)

@@ -22,7 +22,8 @@ constexpr int mostQuality = 100;
 
 tl::unexpected<platform::Error> impossible()
 {
-    return platform::failure(platform::ErrorCode::Unsupported, sentence("The pixels cannot stay as they are"));
+    return platform::failure(platform::ErrorCode::Unsupported,
+                             sentence(QT_TRANSLATE_NOOP("recipe", "The pixels cannot stay as they are")));
 }
 
 Result<QByteArray> turnedFile(const ImageSource &source, const RightTurn &turn)
@@ -74,8 +75,9 @@ Result<QByteArray> encodedWithin(const Bitmap &bitmap, const RecipeOutput &outpu
                                  const platform::EncodeOptions &options)
 {
     const auto tooLarge = [&] {
-        return platform::failure(platform::ErrorCode::TooLarge,
-                                 sentence("It cannot be made as small as %1 bytes").arg(*output.maxBytes));
+        return platform::failure(
+            platform::ErrorCode::TooLarge,
+            sentence(QT_TRANSLATE_NOOP("recipe", "It cannot be made as small as %1 bytes")).arg(*output.maxBytes));
     };
     const auto fits = [&](const Result<QByteArray> &file) { return file && file->size() <= *output.maxBytes; };
     const std::optional<int> stated = chosenQuality(output, type, bitmap);

@@ -78,11 +78,11 @@ void readBox(RecipeKeys &keys, ResizeOperation &resize)
     else if (resize.fit == BoxFit::Pad)
         resize.position = keys.choice("position", places).value_or(Place::Center);
     else
-        keys.refuseKey("position", sentence("it has a meaning with fit fill or pad only"));
+        keys.refuseKey("position", sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with fit fill or pad only")));
     if (resize.fit == BoxFit::Pad)
         resize.color = keys.color("color").value_or(QColor(Qt::white));
     else
-        keys.refuseKey("color", sentence("it has a meaning with fit pad only"));
+        keys.refuseKey("color", sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with fit pad only")));
 }
 
 Operation resizeFrom(RecipeKeys &keys)
@@ -106,7 +106,7 @@ Operation resizeFrom(RecipeKeys &keys)
         readBox(keys, resize);
     } else {
         for (const char *each : {"fit", "position", "color"})
-            keys.refuseKey(each, sentence("it has a meaning with a box only"));
+            keys.refuseKey(each, sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with a box only")));
         const bool isShare = resize.by == ResizeBy::Percent || resize.by == ResizeBy::Megapixels;
         if (!named.isEmpty())
             resize.number = keys.number(key.constData(), isShare ? share : lengthRange(resize.scale)).value_or(1);
@@ -126,7 +126,9 @@ void readRatio(RecipeKeys &keys, CropOperation &crop)
     crop.height = parts.value(1).toDouble(&isSecond);
     const auto isUsable = [](double part) { return part >= 0.001 && part <= longestSide; };
     if (parts.size() != 2 || !isFirst || !isSecond || !isUsable(crop.width) || !isUsable(crop.height))
-        keys.complain("ratio", sentence("two numbers with a colon between them such as 3:2, not \"%1\"").arg(ratio));
+        keys.complain("ratio", sentence(QT_TRANSLATE_NOOP(
+                                            "recipe", "two numbers with a colon between them such as 3:2, not \"%1\""))
+                                   .arg(ratio));
 }
 
 Operation cropFrom(RecipeKeys &keys)
@@ -149,14 +151,14 @@ Operation cropFrom(RecipeKeys &keys)
     } else if (!way.isEmpty()) {
         for (const char *side : {"width", "height"})
             if (!keys.has(side))
-                keys.complain(side, sentence("it is missing beside %1").arg(way));
+                keys.complain(side, sentence(QT_TRANSLATE_NOOP("recipe", "it is missing beside %1")).arg(way));
         crop.width = keys.number("width", lengthRange(crop.scale)).value_or(1);
         crop.height = keys.number("height", lengthRange(crop.scale)).value_or(1);
     }
     if (crop.by == CropBy::Ratio)
         crop.turns = keys.flag("turn").value_or(true);
     else
-        keys.refuseKey("turn", sentence("it has a meaning with a ratio only"));
+        keys.refuseKey("turn", sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with a ratio only")));
     crop.position = keys.choice("position", placesOfParts).value_or(Place::Center);
     const NumberRange way2 = widthRange(crop.scale, -longestSide);
     const std::array<NumberRange, 2> offsets = {way2, way2};
@@ -171,7 +173,7 @@ Operation turnFrom(RecipeKeys &keys)
 {
     TurnOperation turn;
     if (!keys.has("degrees"))
-        keys.complain("degrees", sentence("it is missing"));
+        keys.complain("degrees", sentence(QT_TRANSLATE_NOOP("recipe", "it is missing")));
     turn.degrees = keys.number("degrees", {-360, 360}).value_or(0);
     turn.color = keys.color("color");
     return turn;
@@ -180,7 +182,7 @@ Operation turnFrom(RecipeKeys &keys)
 Operation flipFrom(RecipeKeys &keys)
 {
     if (!keys.has("direction"))
-        keys.complain("direction", sentence("it is missing"));
+        keys.complain("direction", sentence(QT_TRANSLATE_NOOP("recipe", "it is missing")));
     return FlipOperation{keys.choice("direction", directions).value_or(Qt::Horizontal)};
 }
 
@@ -191,16 +193,16 @@ Operation roundFrom(RecipeKeys &keys)
     round.shape = keys.choice("shape", shapes).value_or(RoundShape::Rectangle);
     if (round.shape == RoundShape::Rectangle) {
         if (!keys.has("radius"))
-            keys.complain("radius", sentence("it is missing"));
+            keys.complain("radius", sentence(QT_TRANSLATE_NOOP("recipe", "it is missing")));
         round.radius = keys.number("radius", widthRange(round.scale)).value_or(0);
     } else {
-        keys.refuseKey("radius", sentence("it has a meaning with a rectangle only"));
+        keys.refuseKey("radius", sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with a rectangle only")));
     }
     round.color = keys.color("color");
     if (std::optional<RecipeKeys> band = keys.object("band")) {
         for (const char *each : {"width", "color"})
             if (!band->has(each))
-                band->complain(each, sentence("it is missing"));
+                band->complain(each, sentence(QT_TRANSLATE_NOOP("recipe", "it is missing")));
         round.band = Band{band->number("width", widthRange(round.scale)).value_or(0),
                           band->color("color").value_or(QColor(Qt::white))};
         band->finish();
@@ -217,7 +219,7 @@ RecipePicture pictureNamed(RecipeKeys &keys, const char *key, const RecipeFiles 
                              .and_then([](const auto &file) { return platform::ImageSource::fromLent(file); })
                              .value_or(platform::ImageSource());
     if (name.isEmpty() || (files.areOpened && picture.source.isNull()))
-        keys.complain(key, sentence("there is no picture \"%1\"").arg(name));
+        keys.complain(key, sentence(QT_TRANSLATE_NOOP("recipe", "there is no picture \"%1\"")).arg(name));
     return picture;
 }
 
@@ -237,7 +239,7 @@ Operation frameFrom(RecipeKeys &keys)
     FrameOperation frame;
     frame.scale = scaleFrom(keys);
     if (!keys.has("width"))
-        keys.complain("width", sentence("it is missing"));
+        keys.complain("width", sentence(QT_TRANSLATE_NOOP("recipe", "it is missing")));
     frame.width = keys.number("width", widthRange(frame.scale)).value_or(0);
     frame.color = keys.color("color").value_or(frame.color);
     return frame;
@@ -247,12 +249,12 @@ void readLetters(RecipeKeys &keys, WatermarkOperation &mark)
 {
     mark.text = keys.text("text").value_or(QString());
     if (mark.text.trimmed().isEmpty())
-        keys.complain("text", sentence("a text, not nothing"));
+        keys.complain("text", sentence(QT_TRANSLATE_NOOP("recipe", "a text, not nothing")));
     if (const QStringList problems = text::tokenProblems(mark.text); !problems.isEmpty())
         keys.complain("text", problems.first());
     mark.font = keys.text("font").value_or(QString());
     if (!mark.font.isEmpty() && !platform::hasFont(mark.font))
-        keys.complain("font", sentence("there is no font \"%1\"").arg(mark.font));
+        keys.complain("font", sentence(QT_TRANSLATE_NOOP("recipe", "there is no font \"%1\"")).arg(mark.font));
     mark.color = keys.color("color").value_or(mark.color);
 }
 
@@ -264,7 +266,7 @@ Operation watermarkFrom(RecipeKeys &keys, const RecipeFiles &files)
     if (isPicture) {
         mark.picture = pictureNamed(keys, "picture", files);
         for (const char *each : {"font", "color"})
-            keys.refuseKey(each, sentence("it has a meaning with a text only"));
+            keys.refuseKey(each, sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with a text only")));
     } else if (way) {
         readLetters(keys, mark);
     }
@@ -283,7 +285,7 @@ Operation profileFrom(RecipeKeys &keys, const RecipeFiles &files)
 {
     const std::optional<QString> name = keys.text("to");
     if (!name)
-        keys.complain("to", sentence("it is missing"));
+        keys.complain("to", sentence(QT_TRANSLATE_NOOP("recipe", "it is missing")));
     return profileNamed(keys, "to", name.value_or(QStringLiteral("sRGB")), files);
 }
 
@@ -345,8 +347,10 @@ ProfileOperation profileNamed(RecipeKeys &keys, const char *key, const QString &
     const QString path = QDir::cleanPath(QDir(files.folder).absoluteFilePath(name));
     const QByteArray profile = files.areOpened && !name.isEmpty() ? profileAt(path, files) : QByteArray();
     if (name.isEmpty() || (files.areOpened && (profile.isEmpty() || !platform::canConvertTo(profile))))
-        keys.complain(key,
-                      sentence("sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not \"%1\"").arg(name));
+        keys.complain(
+            key, sentence(QT_TRANSLATE_NOOP("recipe",
+                                            "sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not \"%1\""))
+                     .arg(name));
     return {path, profile};
 }
 
@@ -354,7 +358,7 @@ RecipeStep stepFrom(RecipeKeys &keys, const RecipeFiles &files)
 {
     RecipeStep step;
     if (!keys.has("do"))
-        keys.complain("do", sentence("it is missing"));
+        keys.complain("do", sentence(QT_TRANSLATE_NOOP("recipe", "it is missing")));
     const std::optional<Do> what = keys.choice("do", names);
     if (!what)
         return step;

@@ -18,8 +18,10 @@ QString plain(double number)
 QString expectedNumber(const NumberRange &range)
 {
     if (range.isAboveLeast)
-        return sentence("a number above %1, to %2").arg(plain(range.least), plain(range.most));
-    const QString form = range.isWhole ? sentence("a whole number from %1 to %2") : sentence("a number from %1 to %2");
+        return sentence(QT_TRANSLATE_NOOP("recipe", "a number above %1, to %2"))
+            .arg(plain(range.least), plain(range.most));
+    const QString form = range.isWhole ? sentence(QT_TRANSLATE_NOOP("recipe", "a whole number from %1 to %2"))
+                                       : sentence(QT_TRANSLATE_NOOP("recipe", "a number from %1 to %2"));
     return form.arg(plain(range.least), plain(range.most));
 }
 
@@ -64,7 +66,7 @@ QJsonValue RecipeKeys::take(const char *key)
 
 void RecipeKeys::refuse(const char *key, const QString &expected, const QJsonValue &value)
 {
-    m_problem->state(placeOf(key), sentence("%1, not %2").arg(expected, written(value)));
+    m_problem->state(placeOf(key), sentence(QT_TRANSLATE_NOOP("recipe", "%1, not %2")).arg(expected, written(value)));
 }
 
 bool RecipeKeys::isIn(const QJsonValue &value, const NumberRange &range) const
@@ -94,14 +96,15 @@ std::optional<QList<double>> RecipeKeys::numbers(const char *key, std::span<cons
         return std::nullopt;
     const QJsonArray list = value.toArray();
     if (!value.isArray() || size_t(list.size()) != ranges.size()) {
-        refuse(key, sentence("a list of %1 numbers").arg(ranges.size()), value);
+        refuse(key, sentence(QT_TRANSLATE_NOOP("recipe", "a list of %1 numbers")).arg(ranges.size()), value);
         return std::nullopt;
     }
     QList<double> found;
     for (int i = 0; i < list.size(); ++i) {
         if (!isIn(list[i], ranges[size_t(i)])) {
             m_problem->state(placeOf(key) + QStringLiteral("[%1]").arg(i),
-                             sentence("%1, not %2").arg(expectedNumber(ranges[size_t(i)]), written(list[i])));
+                             sentence(QT_TRANSLATE_NOOP("recipe", "%1, not %2"))
+                                 .arg(expectedNumber(ranges[size_t(i)]), written(list[i])));
             return std::nullopt;
         }
         found.append(list[i].toDouble());
@@ -116,7 +119,7 @@ std::optional<QString> RecipeKeys::text(const char *key)
         return std::nullopt;
     if (value.isString() && !value.toString().contains(QChar(u'\0')))
         return value.toString();
-    refuse(key, sentence("text"), value);
+    refuse(key, sentence(QT_TRANSLATE_NOOP("recipe", "text")), value);
     return std::nullopt;
 }
 
@@ -127,7 +130,7 @@ std::optional<bool> RecipeKeys::flag(const char *key)
         return std::nullopt;
     if (value.isBool())
         return value.toBool();
-    refuse(key, sentence("true or false"), value);
+    refuse(key, sentence(QT_TRANSLATE_NOOP("recipe", "true or false")), value);
     return std::nullopt;
 }
 
@@ -138,7 +141,7 @@ std::optional<QColor> RecipeKeys::color(const char *key)
         return std::nullopt;
     std::optional<QColor> color = value.isString() ? recipeColor(value.toString()) : std::nullopt;
     if (!color)
-        refuse(key, sentence("a colour such as #ff8000 or #ff800080"), value);
+        refuse(key, sentence(QT_TRANSLATE_NOOP("recipe", "a colour such as #ff8000 or #ff800080")), value);
     return color;
 }
 
@@ -149,14 +152,15 @@ QList<RecipeKeys> RecipeKeys::objects(const char *key)
     if (value.isUndefined())
         return found;
     if (!value.isArray()) {
-        refuse(key, sentence("a list"), value);
+        refuse(key, sentence(QT_TRANSLATE_NOOP("recipe", "a list")), value);
         return found;
     }
     const QJsonArray list = value.toArray();
     for (int i = 0; i < list.size(); ++i) {
         const QString place = placeOf(key) + QStringLiteral("[%1]").arg(i);
         if (!list[i].isObject())
-            m_problem->state(place, sentence("%1, not %2").arg(sentence("an object"), written(list[i])));
+            m_problem->state(place, sentence(QT_TRANSLATE_NOOP("recipe", "%1, not %2"))
+                                        .arg(sentence(QT_TRANSLATE_NOOP("recipe", "an object")), written(list[i])));
         found.append(RecipeKeys(list[i].toObject(), place, *m_problem));
     }
     return found;
@@ -168,7 +172,7 @@ std::optional<RecipeKeys> RecipeKeys::object(const char *key)
     if (value.isUndefined())
         return std::nullopt;
     if (!value.isObject())
-        refuse(key, sentence("an object"), value);
+        refuse(key, sentence(QT_TRANSLATE_NOOP("recipe", "an object")), value);
     return RecipeKeys(value.toObject(), placeOf(key), *m_problem);
 }
 
@@ -179,13 +183,14 @@ std::optional<QString> RecipeKeys::oneOf(const QStringList &keys)
         if (!m_object.contains(key))
             continue;
         if (found) {
-            complain(key.toLatin1().constData(), sentence("it cannot stand beside %1").arg(*found));
+            complain(key.toLatin1().constData(),
+                     sentence(QT_TRANSLATE_NOOP("recipe", "it cannot stand beside %1")).arg(*found));
             return std::nullopt;
         }
         found = key;
     }
     if (!found)
-        complain(sentence("one of %1 is missing").arg(keys.join(QLatin1String(", "))));
+        complain(sentence(QT_TRANSLATE_NOOP("recipe", "one of %1 is missing")).arg(keys.join(QLatin1String(", "))));
     return found;
 }
 
@@ -206,7 +211,7 @@ void RecipeKeys::finish()
     for (auto key = m_object.begin(); key != m_object.end(); ++key)
         if (!m_taken.contains(key.key()))
             m_problem->state(m_place.isEmpty() ? key.key() : m_place + u'.' + key.key(),
-                             sentence("there is no such key here"));
+                             sentence(QT_TRANSLATE_NOOP("recipe", "there is no such key here")));
 }
 
 } // namespace image

@@ -48,15 +48,18 @@ void readEncoding(RecipeKeys &keys, RecipeOutput &output)
 {
     output.type = keys.choice<OutputType>("type", wordsOfTypes()).value_or(OutputType::Original);
     if (!canHaveQuality(output.type))
-        keys.refuseKey("quality", sentence("this type has no quality"));
+        keys.refuseKey("quality", sentence(QT_TRANSLATE_NOOP("recipe", "this type has no quality")));
     else if (const auto quality = keys.number("quality", {1, 100, true}))
         output.quality = int(*quality);
     if (!canBeLossless(output.type))
-        keys.refuseKey("lossless", sentence("this type has no choice between lossless and not"));
+        keys.refuseKey("lossless",
+                       sentence(QT_TRANSLATE_NOOP("recipe", "this type has no choice between lossless and not")));
     else
         output.isLossless = keys.flag("lossless").value_or(false);
     if (output.isLossless && output.quality)
-        keys.complain("lossless", sentence("it cannot stand beside %1").arg(QStringLiteral("quality")));
+        keys.complain(
+            "lossless",
+            sentence(QT_TRANSLATE_NOOP("recipe", "it cannot stand beside %1")).arg(QStringLiteral("quality")));
     constexpr double largestFile = 1e15;
     if (const auto bytes = keys.number("maxBytes", {1, largestFile, true}))
         output.maxBytes = qint64(*bytes);
@@ -73,9 +76,9 @@ void readPlace(RecipeKeys &keys, RecipeOutput &output)
     output.name = keys.text("name").value_or(output.name);
     checkTokens(keys, "name", output.name);
     if (output.name.trimmed().isEmpty())
-        keys.complain("name", sentence("a name, not nothing"));
+        keys.complain("name", sentence(QT_TRANSLATE_NOOP("recipe", "a name, not nothing")));
     if (output.name.contains(u'/'))
-        keys.complain("name", sentence("a name without /; folders stand under folder"));
+        keys.complain("name", sentence(QT_TRANSLATE_NOOP("recipe", "a name without /; folders stand under folder")));
     output.folder = keys.text("folder").value_or(QString());
     checkTokens(keys, "folder", output.folder);
     output.dates = keys.choice("dates", dates).value_or(output.dates);
@@ -105,11 +108,13 @@ bool readVersion(RecipeKeys &keys)
     constexpr double latest = 1e9;
     const auto version = keys.number("quorlin", {1, latest, true});
     if (!version)
-        keys.complain("quorlin", sentence("the version of the recipe is missing"));
+        keys.complain("quorlin", sentence(QT_TRANSLATE_NOOP("recipe", "the version of the recipe is missing")));
     else if (*version > recipeVersion)
-        keys.complain("quorlin", sentence("this recipe has version %1, and this program knows versions up to %2")
-                                     .arg(*version)
-                                     .arg(recipeVersion));
+        keys.complain("quorlin",
+                      sentence(QT_TRANSLATE_NOOP(
+                                   "recipe", "this recipe has version %1, and this program knows versions up to %2"))
+                          .arg(*version)
+                          .arg(recipeVersion));
     return version && *version <= recipeVersion;
 }
 
@@ -125,8 +130,8 @@ Recipe recipeFrom(RecipeKeys &keys, const RecipeFiles &files)
     for (RecipeKeys &each : keys.objects("outputs"))
         recipe.outputs.append(outputFrom(each, files));
     if (recipe.outputs.isEmpty())
-        keys.complain("outputs",
-                      hasOutputs ? sentence("at least one output") : sentence("the list of outputs is missing"));
+        keys.complain("outputs", hasOutputs ? sentence(QT_TRANSLATE_NOOP("recipe", "at least one output"))
+                                            : sentence(QT_TRANSLATE_NOOP("recipe", "the list of outputs is missing")));
     keys.finish();
     return recipe;
 }
@@ -146,11 +151,13 @@ Result<Recipe> readRecipe(const QByteArray &json, const RecipeFiles &files)
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
         const auto line = json.left(error.offset).count('\n') + 1;
-        return platform::failure(platform::ErrorCode::InvalidValue,
-                                 sentence("line %1: %2").arg(line).arg(error.errorString()));
+        return platform::failure(
+            platform::ErrorCode::InvalidValue,
+            sentence(QT_TRANSLATE_NOOP("recipe", "line %1: %2")).arg(line).arg(error.errorString()));
     }
     if (!document.isObject())
-        return platform::failure(platform::ErrorCode::InvalidValue, sentence("a recipe is a JSON object"));
+        return platform::failure(platform::ErrorCode::InvalidValue,
+                                 sentence(QT_TRANSLATE_NOOP("recipe", "a recipe is a JSON object")));
     RecipeProblem problem;
     RecipeKeys keys(document.object(), {}, problem);
     const Recipe recipe = recipeFrom(keys, files);
@@ -195,7 +202,9 @@ Result<Recipe> readRecipeFile(const QString &path)
     const QByteArray json = file.read(largest);
     if (!file.readProblem().isEmpty() || !file.atEnd())
         return platform::failure(platform::ErrorCode::InvalidValue,
-                                 file.atEnd() ? file.readProblem() : sentence("a recipe is no larger than 4 MB"));
+                                 file.atEnd()
+                                     ? file.readProblem()
+                                     : sentence(QT_TRANSLATE_NOOP("recipe", "a recipe is no larger than 4 MB")));
     return readRecipe(json, QFileInfo(path).absolutePath());
 }
 

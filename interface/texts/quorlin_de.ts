@@ -6615,6 +6615,230 @@
         <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
         <translation>Daten, die der Kamerahersteller oder ein Programm neben EXIF ablegt, fallen weg</translation>
     </message>
+    <message>
+        <source>a number above %1, to %2</source>
+        <translation>eine Zahl über %1, bis %2</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1, not %2</source>
+        <translation>%1, nicht %2</translation>
+    </message>
+    <message>
+        <source>a list of %1 numbers</source>
+        <translation>eine Liste von %1 Zahlen</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a colour such as #ff8000 or #ff800080</source>
+        <translation>eine Farbe wie #ff8000 oder #ff800080</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>it cannot stand beside %1</source>
+        <translation>es kann nicht neben %1 stehen</translation>
+    </message>
+    <message>
+        <source>one of %1 is missing</source>
+        <translation>eines von %1 fehlt</translation>
+    </message>
+    <message>
+        <source>there is no such key here</source>
+        <translation>einen solchen Schlüssel gibt es hier nicht</translation>
+    </message>
+    <message>
+        <source>it has a meaning with fit fill or pad only</source>
+        <translation>es hat nur mit fit fill oder pad eine Bedeutung</translation>
+    </message>
+    <message>
+        <source>it has a meaning with fit pad only</source>
+        <translation>es hat nur mit fit pad eine Bedeutung</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a box only</source>
+        <translation>es hat nur mit box eine Bedeutung</translation>
+    </message>
+    <message>
+        <source>two numbers with a colon between them such as 3:2, not "%1"</source>
+        <translation>zwei Zahlen mit einem Doppelpunkt dazwischen wie 3:2, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>it is missing beside %1</source>
+        <translation>es fehlt neben %1</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a ratio only</source>
+        <translation>es hat nur mit ratio eine Bedeutung</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>es fehlt</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a rectangle only</source>
+        <translation>es hat nur mit einem Rechteck eine Bedeutung</translation>
+    </message>
+    <message>
+        <source>there is no picture "%1"</source>
+        <translation>es gibt kein Bild „%1“</translation>
+    </message>
+    <message>
+        <source>a text, not nothing</source>
+        <translation>ein Text, nicht nichts</translation>
+    </message>
+    <message>
+        <source>there is no font "%1"</source>
+        <translation>es gibt keine Schrift „%1“</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a text only</source>
+        <translation>es hat nur mit einem Text eine Bedeutung</translation>
+    </message>
+    <message>
+        <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
+        <translation>sRGB, Display P3, Adobe RGB, gray oder der Pfad einer ICC-Datei, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>The pixels cannot stay as they are</source>
+        <translation>Die Pixel können nicht bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>It cannot be made as small as %1 bytes</source>
+        <translation>So klein wie %1 Byte lässt es sich nicht machen</translation>
+    </message>
+    <message>
+        <source>this type has no quality</source>
+        <translation>dieser Typ hat keine Qualität</translation>
+    </message>
+    <message>
+        <source>this type has no choice between lossless and not</source>
+        <translation>dieser Typ lässt nicht zwischen verlustfrei und nicht wählen</translation>
+    </message>
+    <message>
+        <source>a name, not nothing</source>
+        <translation>ein Name, nicht nichts</translation>
+    </message>
+    <message>
+        <source>a name without /; folders stand under folder</source>
+        <translation>ein Name ohne /; Ordner stehen unter folder</translation>
+    </message>
+    <message>
+        <source>the version of the recipe is missing</source>
+        <translation>die Version des Rezepts fehlt</translation>
+    </message>
+    <message>
+        <source>this recipe has version %1, and this program knows versions up to %2</source>
+        <translation>dieses Rezept hat Version %1, und dieses Programm kennt Versionen bis %2</translation>
+    </message>
+    <message>
+        <source>at least one output</source>
+        <translation>mindestens eine Ausgabe</translation>
+    </message>
+    <message>
+        <source>the list of outputs is missing</source>
+        <translation>die Liste der Ausgaben fehlt</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>a recipe is a JSON object</source>
+        <translation>ein Rezept ist ein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>a recipe is no larger than 4 MB</source>
+        <translation>ein Rezept ist nicht größer als 4 MB</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <translation>In %1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>its name is taken again and again</source>
+        <translation>sein Name ist immer wieder vergeben</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>eine solche Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>der Name ist vergeben</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>es ist schon da</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>es kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to show it</source>
+        <translation>der Speicher reicht nicht, um es zu zeigen</translation>
+    </message>
+    <message>
+        <source>nothing came of it</source>
+        <translation>es ist nichts daraus geworden</translation>
+    </message>
+    <message>
+        <source>outputs: one, and no more</source>
+        <translation>outputs: eine und nicht mehr</translation>
+    </message>
+    <message>
+        <source>%1 cannot be started: %2</source>
+        <translation>%1 kann nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <source>a worker ended while it started</source>
+        <translation>ein Helferprozess endete beim Start</translation>
+    </message>
+    <message>
+        <source>it takes longer than %1 seconds</source>
+        <translation>es dauert länger als %1 Sekunden</translation>
+    </message>
+    <message>
+        <source>it needs more than %1 MB of memory</source>
+        <translation>es braucht mehr als %1 MB Speicher</translation>
+    </message>
+    <message>
+        <source>its reader crashed</source>
+        <translation>sein Leseprogramm ist abgestürzt</translation>
+    </message>
+    <message>
+        <source>the recipe cannot be carried out</source>
+        <translation>das Rezept kann nicht ausgeführt werden</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

@@ -6615,6 +6615,230 @@
         <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
         <translation>Les données que le fabricant de l’appareil ou un programme garde à côté d’EXIF sont laissées de côté</translation>
     </message>
+    <message>
+        <source>a number above %1, to %2</source>
+        <translation>un nombre supérieur à %1, jusqu’à %2</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>un nombre entier de %1 à %2</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>un nombre de %1 à %2</translation>
+    </message>
+    <message>
+        <source>%1, not %2</source>
+        <translation>%1, pas %2</translation>
+    </message>
+    <message>
+        <source>a list of %1 numbers</source>
+        <translation>une liste de %1 nombres</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>un texte</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true ou false</translation>
+    </message>
+    <message>
+        <source>a colour such as #ff8000 or #ff800080</source>
+        <translation>une couleur comme #ff8000 ou #ff800080</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>une liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objet</translation>
+    </message>
+    <message>
+        <source>it cannot stand beside %1</source>
+        <translation>incompatible avec %1</translation>
+    </message>
+    <message>
+        <source>one of %1 is missing</source>
+        <translation>il manque l’un de %1</translation>
+    </message>
+    <message>
+        <source>there is no such key here</source>
+        <translation>cette clé n’existe pas ici</translation>
+    </message>
+    <message>
+        <source>it has a meaning with fit fill or pad only</source>
+        <translation>n’a de sens qu’avec fit fill ou pad</translation>
+    </message>
+    <message>
+        <source>it has a meaning with fit pad only</source>
+        <translation>n’a de sens qu’avec fit pad</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a box only</source>
+        <translation>n’a de sens qu’avec box</translation>
+    </message>
+    <message>
+        <source>two numbers with a colon between them such as 3:2, not "%1"</source>
+        <translation>deux nombres séparés par un deux-points comme 3:2, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>it is missing beside %1</source>
+        <translation>manque à côté de %1</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a ratio only</source>
+        <translation>n’a de sens qu’avec ratio</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>manque</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a rectangle only</source>
+        <translation>n’a de sens qu’avec un rectangle</translation>
+    </message>
+    <message>
+        <source>there is no picture "%1"</source>
+        <translation>il n’y a pas d’image « %1 »</translation>
+    </message>
+    <message>
+        <source>a text, not nothing</source>
+        <translation>un texte, pas rien</translation>
+    </message>
+    <message>
+        <source>there is no font "%1"</source>
+        <translation>il n’y a pas de police « %1 »</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a text only</source>
+        <translation>n’a de sens qu’avec un texte</translation>
+    </message>
+    <message>
+        <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
+        <translation>sRGB, Display P3, Adobe RGB, gray ou le chemin d’un fichier ICC, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>The pixels cannot stay as they are</source>
+        <translation>Les pixels ne peuvent pas rester tels quels</translation>
+    </message>
+    <message>
+        <source>It cannot be made as small as %1 bytes</source>
+        <translation>Impossible de la réduire à %1 octets</translation>
+    </message>
+    <message>
+        <source>this type has no quality</source>
+        <translation>ce type n’a pas de qualité</translation>
+    </message>
+    <message>
+        <source>this type has no choice between lossless and not</source>
+        <translation>ce type ne laisse pas le choix entre avec et sans perte</translation>
+    </message>
+    <message>
+        <source>a name, not nothing</source>
+        <translation>un nom, pas rien</translation>
+    </message>
+    <message>
+        <source>a name without /; folders stand under folder</source>
+        <translation>un nom sans / ; les dossiers vont sous folder</translation>
+    </message>
+    <message>
+        <source>the version of the recipe is missing</source>
+        <translation>la version de la recette manque</translation>
+    </message>
+    <message>
+        <source>this recipe has version %1, and this program knows versions up to %2</source>
+        <translation>cette recette est de version %1, et ce programme connaît les versions jusqu’à %2</translation>
+    </message>
+    <message>
+        <source>at least one output</source>
+        <translation>au moins une sortie</translation>
+    </message>
+    <message>
+        <source>the list of outputs is missing</source>
+        <translation>la liste des sorties manque</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>a recipe is a JSON object</source>
+        <translation>une recette est un objet JSON</translation>
+    </message>
+    <message>
+        <source>a recipe is no larger than 4 MB</source>
+        <translation>une recette ne dépasse pas 4 Mo</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <translation>Impossible d’écrire dans %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>Impossible d’écrire %1 : %2</translation>
+    </message>
+    <message>
+        <source>its name is taken again and again</source>
+        <translation>son nom est sans cesse pris</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>le nom est pris</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>déjà présent</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>illisible</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to show it</source>
+        <translation>la mémoire ne suffit pas pour l’afficher</translation>
+    </message>
+    <message>
+        <source>nothing came of it</source>
+        <translation>rien n’en est sorti</translation>
+    </message>
+    <message>
+        <source>outputs: one, and no more</source>
+        <translation>outputs : une, et pas plus</translation>
+    </message>
+    <message>
+        <source>%1 cannot be started: %2</source>
+        <translation>Impossible de lancer %1 : %2</translation>
+    </message>
+    <message>
+        <source>a worker ended while it started</source>
+        <translation>un processus s’est arrêté au démarrage</translation>
+    </message>
+    <message>
+        <source>it takes longer than %1 seconds</source>
+        <translation>cela prend plus de %1 secondes</translation>
+    </message>
+    <message>
+        <source>it needs more than %1 MB of memory</source>
+        <translation>il faut plus de %1 Mo de mémoire</translation>
+    </message>
+    <message>
+        <source>its reader crashed</source>
+        <translation>son lecteur a planté</translation>
+    </message>
+    <message>
+        <source>the recipe cannot be carried out</source>
+        <translation>la recette ne peut pas être exécutée</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

@@ -6615,6 +6615,230 @@
         <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
         <translation>Gegevens die de camerafabrikant of een programma naast EXIF bewaart, worden weggelaten</translation>
     </message>
+    <message>
+        <source>a number above %1, to %2</source>
+        <translation>een getal boven %1, tot %2</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>een geheel getal van %1 tot %2</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>een getal van %1 tot %2</translation>
+    </message>
+    <message>
+        <source>%1, not %2</source>
+        <translation>%1, niet %2</translation>
+    </message>
+    <message>
+        <source>a list of %1 numbers</source>
+        <translation>een lijst van %1 getallen</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>tekst</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true of false</translation>
+    </message>
+    <message>
+        <source>a colour such as #ff8000 or #ff800080</source>
+        <translation>een kleur zoals #ff8000 of #ff800080</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>een lijst</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>een object</translation>
+    </message>
+    <message>
+        <source>it cannot stand beside %1</source>
+        <translation>het kan niet naast %1 staan</translation>
+    </message>
+    <message>
+        <source>one of %1 is missing</source>
+        <translation>een van %1 ontbreekt</translation>
+    </message>
+    <message>
+        <source>there is no such key here</source>
+        <translation>zo’n sleutel is er hier niet</translation>
+    </message>
+    <message>
+        <source>it has a meaning with fit fill or pad only</source>
+        <translation>het heeft alleen betekenis met fit fill of pad</translation>
+    </message>
+    <message>
+        <source>it has a meaning with fit pad only</source>
+        <translation>het heeft alleen betekenis met fit pad</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a box only</source>
+        <translation>het heeft alleen betekenis met box</translation>
+    </message>
+    <message>
+        <source>two numbers with a colon between them such as 3:2, not "%1"</source>
+        <translation>twee getallen met een dubbele punt ertussen zoals 3:2, niet “%1”</translation>
+    </message>
+    <message>
+        <source>it is missing beside %1</source>
+        <translation>het ontbreekt naast %1</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a ratio only</source>
+        <translation>het heeft alleen betekenis met ratio</translation>
+    </message>
+    <message>
+        <source>it is missing</source>
+        <translation>het ontbreekt</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a rectangle only</source>
+        <translation>het heeft alleen betekenis met een rechthoek</translation>
+    </message>
+    <message>
+        <source>there is no picture "%1"</source>
+        <translation>er is geen foto “%1”</translation>
+    </message>
+    <message>
+        <source>a text, not nothing</source>
+        <translation>een tekst, niet niets</translation>
+    </message>
+    <message>
+        <source>there is no font "%1"</source>
+        <translation>er is geen lettertype “%1”</translation>
+    </message>
+    <message>
+        <source>it has a meaning with a text only</source>
+        <translation>het heeft alleen betekenis met een tekst</translation>
+    </message>
+    <message>
+        <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
+        <translation>sRGB, Display P3, Adobe RGB, gray of het pad van een ICC-bestand, niet “%1”</translation>
+    </message>
+    <message>
+        <source>The pixels cannot stay as they are</source>
+        <translation>De pixels kunnen niet blijven zoals ze zijn</translation>
+    </message>
+    <message>
+        <source>It cannot be made as small as %1 bytes</source>
+        <translation>Zo klein als %1 bytes kan het niet</translation>
+    </message>
+    <message>
+        <source>this type has no quality</source>
+        <translation>dit type heeft geen kwaliteit</translation>
+    </message>
+    <message>
+        <source>this type has no choice between lossless and not</source>
+        <translation>dit type laat geen keuze tussen verliesvrij en niet</translation>
+    </message>
+    <message>
+        <source>a name, not nothing</source>
+        <translation>een naam, niet niets</translation>
+    </message>
+    <message>
+        <source>a name without /; folders stand under folder</source>
+        <translation>een naam zonder /; mappen staan onder folder</translation>
+    </message>
+    <message>
+        <source>the version of the recipe is missing</source>
+        <translation>de versie van het recept ontbreekt</translation>
+    </message>
+    <message>
+        <source>this recipe has version %1, and this program knows versions up to %2</source>
+        <translation>dit recept heeft versie %1, en dit programma kent versies tot %2</translation>
+    </message>
+    <message>
+        <source>at least one output</source>
+        <translation>ten minste één uitvoer</translation>
+    </message>
+    <message>
+        <source>the list of outputs is missing</source>
+        <translation>de lijst van uitvoer ontbreekt</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>regel %1: %2</translation>
+    </message>
+    <message>
+        <source>a recipe is a JSON object</source>
+        <translation>een recept is een JSON-object</translation>
+    </message>
+    <message>
+        <source>a recipe is no larger than 4 MB</source>
+        <translation>een recept is niet groter dan 4 MB</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <translation>In %1 kan niet worden geschreven</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kan niet worden geschreven: %2</translation>
+    </message>
+    <message>
+        <source>its name is taken again and again</source>
+        <translation>de naam is steeds weer bezet</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>zo’n bestand is er niet</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>het is geen gewoon bestand</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>de naam is bezet</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>het is er al</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>het kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to show it</source>
+        <translation>er is niet genoeg geheugen om het te tonen</translation>
+    </message>
+    <message>
+        <source>nothing came of it</source>
+        <translation>er is niets van gekomen</translation>
+    </message>
+    <message>
+        <source>outputs: one, and no more</source>
+        <translation>outputs: één, en niet meer</translation>
+    </message>
+    <message>
+        <source>%1 cannot be started: %2</source>
+        <translation>%1 kan niet worden gestart: %2</translation>
+    </message>
+    <message>
+        <source>a worker ended while it started</source>
+        <translation>een hulpproces stopte bij het starten</translation>
+    </message>
+    <message>
+        <source>it takes longer than %1 seconds</source>
+        <translation>het duurt langer dan %1 seconden</translation>
+    </message>
+    <message>
+        <source>it needs more than %1 MB of memory</source>
+        <translation>het vraagt meer dan %1 MB geheugen</translation>
+    </message>
+    <message>
+        <source>its reader crashed</source>
+        <translation>het leesprogramma is vastgelopen</translation>
+    </message>
+    <message>
+        <source>the recipe cannot be carried out</source>
+        <translation>het recept kan niet worden uitgevoerd</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

@@ -57,7 +57,8 @@ void Crew::start()
         m_pool.beginWork(*worker);
         return;
     }
-    m_problem = image::sentence("%1 cannot be started: %2").arg(m_options.program, problem);
+    m_problem =
+        image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot be started: %2")).arg(m_options.program, problem);
     if (onMissing)
         onMissing(m_problem);
 }
@@ -134,14 +135,15 @@ QString reasonFor(WorkerEnd end, const platform::WorkerLimits &limits)
     constexpr qint64 megabyte = 1 << 20;
     switch (end) {
     case WorkerEnd::TookTooLong:
-        return image::sentence("it takes longer than %1 seconds").arg(limits.seconds);
+        return image::sentence(QT_TRANSLATE_NOOP("recipe", "it takes longer than %1 seconds")).arg(limits.seconds);
     case WorkerEnd::TookTooMuch:
-        return image::sentence("it needs more than %1 MB of memory").arg(limits.residentBytes / megabyte);
+        return image::sentence(QT_TRANSLATE_NOOP("recipe", "it needs more than %1 MB of memory"))
+            .arg(limits.residentBytes / megabyte);
     case WorkerEnd::Crashed:
     case WorkerEnd::SpokeNonsense:
         break;
     }
-    return image::sentence("its reader crashed");
+    return image::sentence(QT_TRANSLATE_NOOP("recipe", "its reader crashed"));
 }
 
 std::optional<HelloMessage> confinementOf(const QString &program)

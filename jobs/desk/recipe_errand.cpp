@@ -30,9 +30,9 @@ namespace {
 
 tl::unexpected<platform::Error> unwritten(const QString &path, int code)
 {
-    return platform::failure(
-        platform::ErrorCode::WriteFailed,
-        image::sentence("%1 cannot be written: %2").arg(path, QString::fromLocal8Bit(std::strerror(code))));
+    return platform::failure(platform::ErrorCode::WriteFailed,
+                             image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot be written: %2"))
+                                 .arg(path, QString::fromLocal8Bit(std::strerror(code))));
 }
 
 } // namespace
@@ -41,7 +41,8 @@ Result<std::shared_ptr<const SharedRecipe>> SharedRecipe::from(const QByteArray 
 {
     auto shared = whole(json, QStringLiteral("/"));
     if (shared && (*shared)->recipe().outputs.size() != 1)
-        return platform::failure(platform::ErrorCode::InvalidValue, image::sentence("outputs: one, and no more"));
+        return platform::failure(platform::ErrorCode::InvalidValue,
+                                 image::sentence(QT_TRANSLATE_NOOP("recipe", "outputs: one, and no more")));
     return shared;
 }
 
@@ -189,7 +190,7 @@ Errand::Turn RecipeErrand::finish()
     if (m_writeError != 0)
         result.reason = unwritten(m_task.target, m_writeError).value().message;
     else if (!m_isMade && result.reason.isEmpty())
-        result.reason = image::sentence("nothing came of it");
+        result.reason = image::sentence(QT_TRANSLATE_NOOP("recipe", "nothing came of it"));
     if (result.reason.isEmpty()) {
         result.outcome = RecipeResult::Outcome::Ok;
         m_isBegun = false; // whoever asked for it has it now

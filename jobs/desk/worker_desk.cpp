@@ -311,7 +311,8 @@ bool WorkerDesk::start()
         m_workers[*id].hand.id = *id;
         m_pool.beginWork(*id);
     } else {
-        missed(image::sentence("%1 cannot be started: %2").arg(m_options.program, problem));
+        missed(
+            image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot be started: %2")).arg(m_options.program, problem));
     }
     return id.has_value();
 }
@@ -374,7 +375,7 @@ void WorkerDesk::takeEnd(Id id, WorkerEnd end)
     Worker worker = std::move(found->second);
     m_workers.erase(found);
     if (!worker.isReady)
-        missed(image::sentence("a worker ended while it started"));
+        missed(image::sentence(QT_TRANSLATE_NOOP("recipe", "a worker ended while it started")));
     if (worker.asked)
         giveUpOrTryAgain(std::move(*worker.asked), end);
     if (m_missing == 0)

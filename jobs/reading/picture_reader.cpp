@@ -36,7 +36,8 @@ QString key(const char *name)
 ReadAnswer failed(const QString &problem)
 {
     ReadAnswer answer;
-    answer.message.problem = problem.isEmpty() ? image::sentence("it cannot be read") : problem;
+    answer.message.problem =
+        problem.isEmpty() ? image::sentence(QT_TRANSLATE_NOOP("recipe", "it cannot be read")) : problem;
     return answer;
 }
 
@@ -62,7 +63,7 @@ ReadAnswer shown(const QImage &image, QSize full)
     ReadAnswer answer = answerWith({{key("width"), full.width()}, {key("height"), full.height()}});
     answer.image = platform::sharedImage(image);
     if (!answer.image)
-        return failed(image::sentence("there is not enough memory to show it"));
+        return failed(image::sentence(QT_TRANSLATE_NOOP("recipe", "there is not enough memory to show it")));
     answer.message.pixels = answer.image->size;
     answer.message.hasAlpha = answer.image->hasAlpha;
     return answer;

@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QTest>
+#include <QTranslator>
 
 using image::Recipe;
 
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void takes();
     void findsPathsBesideTheRecipe();
     void namesTheLineOfWhatIsNoJson();
+    void complainsInTheReadersLanguage();
 };
 
 namespace {
@@ -250,6 +252,33 @@ void TestRecipeReader::namesTheLineOfWhatIsNoJson()
     const auto recipe = image::readRecipe("{\n\"quorlin\": 1,\n oops }", QStringLiteral("/"));
     QVERIFY(recipe.error().message.startsWith(QStringLiteral("line 3: ")));
     QVERIFY(!image::readRecipe("[]", QStringLiteral("/")).has_value());
+}
+
+namespace {
+
+/** A language that puts everything said about recipes between brackets. */
+class Brackets : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *text, const char * /*note*/, int /*count*/) const override
+    {
+        return qstrcmp(context, "recipe") == 0 ? u'[' + QString::fromUtf8(text) + u']' : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+void TestRecipeReader::complainsInTheReadersLanguage()
+{
+    Brackets brackets;
+    QCoreApplication::installTranslator(&brackets);
+    const auto recipe =
+        image::readRecipe(withOperation(R"({"do": "resize", "longest": "big"})"), QStringLiteral("/nowhere"));
+    QCoreApplication::removeTranslator(&brackets);
+    QVERIFY(!recipe);
+    QCOMPARE(recipe.error().message,
+             QStringLiteral("operations[1].longest: [[a whole number from 1 to 100000], not \"big\"]"));
 }
 
 QUORLIN_TEST(TestRecipeReader)
