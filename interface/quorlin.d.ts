@@ -1933,6 +1933,10 @@ declare module "quorlin/shell" {
         readonly currentId: whole;
         /** From 1; 0 where there is none. */
         readonly currentPlace: whole;
+        /** Runs work on these. */
+        readonly tickedCount: whole;
+        /** False while it is sorted by something that is still being read. */
+        readonly settled: boolean;
         problemsOnly: boolean;
         /** While a job runs nothing is read in the background for rows that are not visible. */
         busy: boolean;
@@ -1943,6 +1947,8 @@ declare module "quorlin/shell" {
         readonly countChanged: Signal<(count: whole) => any>;
         readonly orderChanged: Signal<() => any>;
         readonly currentPictureChanged: Signal<(id: whole) => any>;
+        readonly ticksChanged: Signal<() => any>;
+        readonly clocksChanged: Signal<() => any>;
         readonly largePreviewRequested: Signal<() => any>;
         readonly layoutChanged: Signal<() => any>;
         /** Files with one of the extensions, or any file for "*", or folders and no files. */
@@ -1950,7 +1956,7 @@ declare module "quorlin/shell" {
         /** How many rows the action does not take. */
         hiddenCount(): whole;
         hiddenPaths(): texts;
-        /** "thumbnail", "name", "folder", "pixels", "size", "type", "newName", "newSize" and "status"; headings by the same names. */
+        /** "thumbnail", "name", "folder", "taken", "camera", "pixels", "size", "type", "newName", "newSize", "status"; headings by the same names. */
         setColumns(columns: texts, headings: dictionary, stressed: boolean): null;
         /** How many were not in the list yet. The roots are the folders that were added. */
         addPaths(paths: texts, roots: texts): whole;
@@ -1969,6 +1975,18 @@ declare module "quorlin/shell" {
         ids(): list;
         /** In the order of ids(). */
         paths(): texts;
+        /** In the order of ids(). */
+        tickedIds(): list;
+        tickedPaths(): texts;
+        untickedIds(): list;
+        /** Of the chosen rows. */
+        toggleTicks(): null;
+        tickAll(): null;
+        showColumnMenu(): null;
+        /** [{camera, count, shift}], shift in seconds; those with most pictures first. */
+        cameras(): list;
+        /** In seconds. */
+        setClockShift(camera: text, seconds: whole): null;
         /** The file is at another path now. */
         setPath(id: whole, path: text): null;
         /** Until showAll(). */

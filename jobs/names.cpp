@@ -1,6 +1,7 @@
 #include "jobs/names.h"
 
 #include "image/services/format_words.h"
+#include "jobs/camera_clocks.h"
 #include "jobs/path_hash.h"
 #include "platform/disk/disk_file_system.h"
 #include "platform/disk/folders.h"
@@ -119,8 +120,9 @@ text::TokenFacts factsOfFile(const QString &path, int index, bool isNeeded)
     return facts;
 }
 
-text::TokenFacts withPictureFacts(const text::TokenFacts &facts, const platform::PictureFacts &picture)
+text::TokenFacts withPictureFacts(const text::TokenFacts &facts, const platform::PictureFacts &stated)
 {
+    const platform::PictureFacts picture = CameraClocks::ofProcess().corrected(stated);
     text::TokenFacts all = facts;
     all.taken = dateText(picture.taken);
     all.camera = picture.camera;

@@ -36,7 +36,7 @@ text::TokenFacts factsOfFile(const QString &path, int index, bool isNeeded);
 /** All that is known of a picture, which is opened for it in this process. */
 text::TokenFacts factsOfPicture(const QString &path, int index);
 
-/** What is known of the file with what the picture says of itself. */
+/** What is known of the file with what the picture says of itself, its date by the corrected clock of the camera. */
 text::TokenFacts withPictureFacts(const text::TokenFacts &facts, const platform::PictureFacts &picture);
 
 /**

@@ -1,11 +1,13 @@
 #include "app/models/picture_model.h"
 
 #include "image/services/format_words.h"
+#include "jobs/camera_clocks.h"
 
 #include "platform/foundation/human_texts.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSet>
 
 namespace window {
@@ -31,6 +33,15 @@ QString folderText(const PictureRow &row)
     return folder.mid(top.lastIndexOf(u'/') + 1);
 }
 
+/** In the reader's own form, with all four digits of the year. */
+QString dateText(const QDateTime &date)
+{
+    QString form = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!form.contains(QLatin1String("yyyy")))
+        form.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+    return QLocale().toString(date.date(), form) + u' ' + QLocale().toString(date.time(), QLocale::ShortFormat);
+}
+
 QString cellText(const PictureRow &row, int column)
 {
     const QString none = QStringLiteral("–");
@@ -39,6 +50,10 @@ QString cellText(const PictureRow &row, int column)
         return row.name;
     case PictureModel::Folder:
         return folderText(row);
+    case PictureModel::Taken:
+        return row.taken.isValid() ? dateText(row.taken) : QString();
+    case PictureModel::Camera:
+        return row.camera;
     case PictureModel::Pixels:
         return row.pixels.isEmpty() ? (row.headerRead ? none : QString()) : image::pixelText(row.pixels);
     case PictureModel::Bytes:
@@ -56,6 +71,12 @@ QString cellText(const PictureRow &row, int column)
     }
 }
 } // namespace
+
+QString PictureModel::thumbnailWords(const PictureRow &row)
+{
+    return row.isTicked ? tr("Thumbnail of %1").arg(row.name)
+                        : tr("Thumbnail of %1, left out of the run").arg(row.name);
+}
 
 bool InputRule::takes(const PictureRow &row) const
 {
@@ -84,10 +105,12 @@ QVariant PictureModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return cellText(row, index.column());
     case Qt::AccessibleTextRole:
-        return index.column() == Thumbnail ? tr("Thumbnail of %1").arg(row.name) : cellText(row, index.column());
+        return index.column() == Thumbnail ? thumbnailWords(row) : cellText(row, index.column());
     case Qt::ToolTipRole:
         if (index.column() == Pixels && !row.problem.isEmpty())
             return row.problem;
+        if (index.column() == Taken && row.taken != row.stated)
+            return tr("%1 by the camera's own clock").arg(dateText(row.stated));
         if (index.column() == Status)
             return row.detail.isEmpty() ? row.status : row.detail;
         return index.column() == NewName ? row.newName : QDir::toNativeSeparators(row.path);
@@ -112,6 +135,10 @@ QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int 
         return tr("Name");
     case Folder:
         return tr("Folder");
+    case Taken:
+        return tr("Date taken");
+    case Camera:
+        return tr("Camera");
     case Pixels:
         return tr("Pixels");
     case Bytes:
@@ -214,6 +241,7 @@ void PictureModel::putBack(const std::vector<PlacedRow> &rows)
         row.isFolder = each.row.isFolder;
         row.type = each.row.type;
         row.bytes = each.row.bytes;
+        row.isTicked = each.row.isTicked;
         m_idOfPath.insert(row.path, row.id);
         all.push_back(std::move(row));
     }
@@ -262,9 +290,30 @@ void PictureModel::takeHeader(int id, const KnownPicture &picture)
     row.isReaderGone = picture.isReaderGone;
     row.pixels = picture.pixels;
     row.orientation = picture.orientation;
+    row.stated = picture.facts.taken;
+    row.taken = jobs::CameraClocks::ofProcess().corrected(picture.facts).taken;
+    row.camera = picture.facts.camera;
     if (!picture.type.isEmpty())
         row.type = image::typeWord(picture.type);
-    changed(index, Pixels, Type);
+    changed(index, Taken, Type);
+}
+
+void PictureModel::setTicked(int index, bool on)
+{
+    m_rows[size_t(index)].isTicked = on;
+    changed(index, Thumbnail, Status);
+}
+
+void PictureModel::clocksChanged()
+{
+    platform::PictureFacts facts;
+    for (PictureRow &row : m_rows) {
+        facts.taken = row.stated;
+        facts.camera = row.camera;
+        row.taken = jobs::CameraClocks::ofProcess().corrected(facts).taken;
+    }
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(createIndex(0, Taken), createIndex(rowCount() - 1, Taken));
 }
 
 void PictureModel::setPath(int index, const QString &path)

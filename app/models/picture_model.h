@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QCache>
+#include <QDateTime>
 #include <QHash>
 #include <QPixmap>
 #include <QSet>
@@ -33,6 +34,10 @@ struct PictureRow
     bool thumbnailTried = false; ///< and it cannot be made
     QString problem;             ///< why it is no picture that can be read
     bool isReaderGone = false;   ///< that is because whoever read it crashed, or was ended
+    QDateTime stated;            ///< when it was taken, by the camera's clock; not valid where the file states none
+    QDateTime taken;             ///< the same by the corrected clock
+    QString camera;              ///< empty where the file states none
+    bool isTicked = true;        ///< runs work on it
     QString newName;
     QString newSize;
     StatusKind kind = StatusKind::None;
@@ -63,7 +68,7 @@ class PictureModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Thumbnail, Name, Folder, Pixels, Bytes, Type, NewName, NewSize, Status, ColumnCount };
+    enum Column { Thumbnail, Name, Folder, Taken, Camera, Pixels, Bytes, Type, NewName, NewSize, Status, ColumnCount };
 
     explicit PictureModel(QObject *parent = nullptr);
 
@@ -98,6 +103,11 @@ public:
     void setPlan(int index, const QString &newName, const QString &newSize);
     void setStatus(int index, StatusKind kind, const QString &text, const QString &detail);
 
+    /** Whether runs work on the row. */
+    void setTicked(int index, bool on);
+    /** Clocks of cameras were set: looks at all dates again. See jobs::CameraClocks. */
+    void clocksChanged();
+
     bool hasThumbnail(int index) const { return m_thumbnails.contains(row(index).id); }
     QPixmap thumbnail(int index) const;
     /** Has it made in that many pixels of the screen; thumbnailArrived() tells of it. What cannot be made is not tried again. */
@@ -115,6 +125,7 @@ Q_SIGNALS:
     void thumbnailArrived(int id);
 
 private:
+    static QString thumbnailWords(const PictureRow &row);
     void takeHeader(int id, const KnownPicture &picture);
     void takeThumbnail(int id, const jobs::ReadResult &result);
     void dropReading(int id);

@@ -16,6 +16,8 @@ QString textOf(const PictureRow &row, int column)
     switch (column) {
     case PictureModel::Folder:
         return row.path.left(row.path.lastIndexOf(u'/'));
+    case PictureModel::Camera:
+        return row.camera;
     case PictureModel::Type:
         return row.type;
     case PictureModel::NewName:
@@ -66,6 +68,8 @@ bool PictureOrder::lessThan(const QModelIndex &left, const QModelIndex &right) c
         return a.bytes < b.bytes;
     if (left.column() == PictureModel::Pixels)
         return area(a) < area(b);
+    if (left.column() == PictureModel::Taken && a.taken != b.taken)
+        return a.taken.isValid() && (!b.taken.isValid() || a.taken < b.taken);
     return m_order.compare(textOf(a, left.column()), textOf(b, left.column())) < 0;
 }
 

@@ -4,6 +4,7 @@
 #include "files/items/file_facts.h"
 #include "image/recipe/plan.h"
 #include "image/unit_conversion.h"
+#include "jobs/camera_clocks.h"
 #include "jobs/desk/plan_errand.h"
 #include "jobs/names.h"
 #include "jobs/reading/comment_errand.h"
@@ -43,7 +44,9 @@ QVariantMap ReadingFiles::picture(const QString &path) const
 
 QVariant ReadingFiles::facts(const QString &path) const
 {
-    return files::fileFacts(path, [](const QString &file) { return KnownPictures::ofProcess().now(file).facts; });
+    return files::fileFacts(path, [](const QString &file) {
+        return jobs::CameraClocks::ofProcess().corrected(KnownPictures::ofProcess().now(file).facts);
+    });
 }
 
 QString ReadingFiles::profileName(const QString &path) const

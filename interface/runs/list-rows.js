@@ -4,16 +4,24 @@ import { emptyTable } from "../lib/names.js";
 
 /**
  * The rows with these ids as planRun() takes them: {count, at, paths}. Each picture says besides how many come before it in the list
- * (index), and in which added folder it was found (root; "" for one that was added itself).
+ * (index; those that are not ticked are not counted), and in which added folder it was found (root; "" for one that was added itself).
  */
 export function photosOf(window, ids) {
     const list = window.pictures;
     const places = emptyTable();
-    list.ids().forEach((id, i) => { places[id] = i; });
+    list.tickedIds().forEach((id, i) => { places[id] = i; });
     return { count: ids.length, paths: list.paths(), at: (i) => {
         const photo = list.photo(ids[i]);
         return Object.assign(photo, { index: places[ids[i]], root: window.input.rootOf(photo.path) });
     } };
+}
+
+/** Says of the rows that are not ticked that runs leave them out; but of those for which isFinal(id). */
+export function showUnticked(list, isFinal) {
+    list.untickedIds().filter((id) => !isFinal(id)).forEach((id) => {
+        list.setPlan(id, "", "");
+        list.setStatus(id, "none", qsTr("left out"), "");
+    });
 }
 
 /** The ids of the rows by the paths of their files. */

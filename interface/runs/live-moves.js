@@ -23,7 +23,7 @@ export function showRow(list, id, plan, i, paths) {
 /**
  * A generator that plans and shows the plan. It yields between slices, and returns the plan with its states.
  *
- * @param rows     ids and paths of the list
+ * @param rows     ids and paths of the ticked rows of the list
  * @param settings of the action that the window shows
  * @param isFinal  whether the row with an id is left as it is
  */
@@ -87,7 +87,7 @@ export class LiveMoves extends LivePlan {
     // The pane may have something to show beside the list.
     * planAll(ids, settings) {
         const window = this.window;
-        const rows = { ids: ids, paths: window.pictures.paths() };
+        const rows = { ids: ids, paths: window.pictures.tickedPaths() };
         const plan = yield* showPlan(window, rows, settings, (id) => this.isFinal(id));
         if (window.pane.showPlan !== undefined) {
             yield* window.pane.showPlan(plan, ids);

@@ -5,6 +5,7 @@ import { copyOf } from "../lib/copies.js";
 import { guard } from "../lib/guard.js";
 import { emptyTable } from "../lib/names.js";
 import { shell } from "quorlin/shell";
+import { showUnticked } from "./list-rows.js";
 
 export class LivePlan {
     /** @param window  the main window's parts; planned(summary) is called when the whole list was planned */
@@ -74,8 +75,9 @@ export class LivePlan {
     start() {
         const window = this.window;
         const summary = this.nothing();
-        this.ids = window.pictures.ids();
+        this.ids = window.pictures.tickedIds();
         this.next = 0;
+        showUnticked(window.pictures, (id) => this.isFinal(id));
         if (window.action.step.validate(window.settings).length > 0) {
             this.refused();
             this.planned(summary);

@@ -64,12 +64,12 @@ export class MoveRun extends BaseRun {
     start() {
         const window = this.window;
         this.tellPane("starting");
-        this.startPlanning(window.pictures.ids());
+        this.startPlanning(window.pictures.tickedIds());
         this.title = window.action.title();
         this.undoes = "";
         this.undone = null;
         this.toldMs = 0;
-        this.paths = window.pictures.paths();
+        this.paths = window.pictures.tickedPaths();
         const work = this.plan();
         this.job.start(work, () => undefined, guard("moves.planEnd", (how, plan) => this.planEnded(how, plan)));
         this.changed();

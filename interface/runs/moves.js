@@ -19,7 +19,7 @@ function startNote(window) {
         return fill(qsTr("Working out names: %1 of %2…"), planned.named, planned.all);
     }
     // After a run there is no plan until something changes.
-    if (window.pictures.count === 0 || planned.ready === undefined) {
+    if (window.pictures.tickedCount === 0 || planned.ready === undefined) {
         return "";
     }
     const parts = [fill(qsTr("%1 ready"), planned.ready)];
@@ -41,12 +41,12 @@ export const MOVES = {
     output: false,
     preview: false,
     watches: false,
-    columns: ["thumbnail", "name", "folder", "newName", "status"],
+    columns: ["thumbnail", "name", "folder", "taken", "camera", "newName", "status"],
     headings: () => ({ name: qsTr("Now") }),
     stressed: true,
     startText: startText,
     startNote: startNote,
-    isReady: (window) => window.pictures.count > 0 && window.planned.ready > 0,
+    isReady: (window) => window.pictures.tickedCount > 0 && window.pictures.settled && window.planned.ready > 0,
     simulationText: () => qsTr("Simulation: show, move nothing"),
     replaces: () => false,
 };

@@ -5,6 +5,7 @@ import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { copyOf } from "../lib/copies.js";
 import { keepRows } from "./log-file.js";
+import { showUnticked } from "./list-rows.js";
 import { clockText, Progress } from "./progress.js";
 import { toCsv } from "./report.js";
 import { fill, problemsText } from "../lib/wording.js";
@@ -47,6 +48,7 @@ export class BaseRun {
         this.settings = copyOf(window.settings);
         this.phase = "planning";
         this.text = qsTr("Planning…");
+        showUnticked(window.pictures, () => false);
         window.pictures.busy = true;
         window.pictures.problemsOnly = false;
     }

@@ -74,7 +74,7 @@ export class WriteRun extends BaseRun {
 
     /** Plans, then carries out or shows the plan of all pictures in the list. */
     start() {
-        this.begin(this.window.pictures.ids());
+        this.begin(this.window.pictures.tickedIds());
     }
 
     retry() {

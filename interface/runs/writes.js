@@ -6,7 +6,7 @@ import { WriteRun } from "./write-run.js";
 
 // What will be written; all pictures of the list until that is known of the list as it is.
 function countOf(window) {
-    const total = window.pictures.count;
+    const total = window.pictures.tickedCount;
     return window.planned.all === total ? window.planned.ready : total;
 }
 
@@ -27,7 +27,7 @@ function startText(window) {
 
 function startNote(window) {
     const planned = window.planned;
-    if (window.pictures.count === 0 || window.settings.output.simulation) {
+    if (window.pictures.tickedCount === 0 || window.settings.output.simulation) {
         return "";
     }
     if (planned.originals > 0) {
@@ -43,12 +43,13 @@ export const WRITES = {
     output: true,
     preview: true,
     watches: true,
-    columns: ["thumbnail", "name", "folder", "pixels", "size", "type", "newName", "newSize", "status"],
+    columns: ["thumbnail", "name", "folder", "taken", "camera", "pixels", "size", "type", "newName", "newSize",
+              "status"],
     headings: () => ({}),
     stressed: false,
     startText: startText,
     startNote: startNote,
-    isReady: (window) => window.pictures.count > 0,
+    isReady: (window) => window.pictures.tickedCount > 0 && window.pictures.settled,
     simulationText: () => qsTr("Simulation: show, write nothing"),
     replaces: (window) => window.planned.originals > 0 && !window.settings.output.simulation,
 };

@@ -941,6 +941,22 @@
         <source>Continue</source>
         <translation>Fortsetzen</translation>
     </message>
+    <message>
+        <source>&amp;Tick or Untick</source>
+        <translation>&amp;Häkchen setzen oder entfernen</translation>
+    </message>
+    <message>
+        <source>Rows without a tick are left out of the run</source>
+        <translation>Zeilen ohne Häkchen bleiben beim Lauf außen vor</translation>
+    </message>
+    <message>
+        <source>Tick A&amp;ll</source>
+        <translation>A&amp;lle ankreuzen</translation>
+    </message>
+    <message>
+        <source>&amp;Columns of the List</source>
+        <translation>&amp;Spalten der Liste</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -3622,6 +3638,13 @@
     <message>
         <source>no free name was found</source>
         <translation>kein freier Name gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>list-rows</name>
+    <message>
+        <source>left out</source>
+        <translation>ausgelassen</translation>
     </message>
 </context>
 <context>
@@ -8646,6 +8669,10 @@
             <numerusform>Nur Fehlgeschlagenes wird gezeigt: %n aus der Liste</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 ausgelassen</translation>
+    </message>
 </context>
 <context>
     <name>step-words</name>
@@ -9629,6 +9656,22 @@
     <message>
         <source>Folder</source>
         <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Thumbnail of %1, left out of the run</source>
+        <translation>Miniatur von %1, vom Lauf ausgelassen</translation>
+    </message>
+    <message>
+        <source>%1 by the camera's own clock</source>
+        <translation>%1 nach der Uhr der Kamera</translation>
     </message>
 </context>
 <context>

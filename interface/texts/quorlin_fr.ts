@@ -941,6 +941,22 @@
         <source>Continue</source>
         <translation>Continuer</translation>
     </message>
+    <message>
+        <source>&amp;Tick or Untick</source>
+        <translation>&amp;Cocher ou décocher</translation>
+    </message>
+    <message>
+        <source>Rows without a tick are left out of the run</source>
+        <translation>Les lignes non cochées sont laissées de côté</translation>
+    </message>
+    <message>
+        <source>Tick A&amp;ll</source>
+        <translation>&amp;Tout cocher</translation>
+    </message>
+    <message>
+        <source>&amp;Columns of the List</source>
+        <translation>&amp;Colonnes de la liste</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -3622,6 +3638,13 @@
     <message>
         <source>no free name was found</source>
         <translation>aucun nom libre n’a été trouvé</translation>
+    </message>
+</context>
+<context>
+    <name>list-rows</name>
+    <message>
+        <source>left out</source>
+        <translation>laissée de côté</translation>
     </message>
 </context>
 <context>
@@ -8646,6 +8669,10 @@
             <numerusform>Seuls les échecs sont affichés : %n de la liste</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 laissées de côté</translation>
+    </message>
 </context>
 <context>
     <name>step-words</name>
@@ -9629,6 +9656,22 @@
     <message>
         <source>Folder</source>
         <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Prise de vue</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>Thumbnail of %1, left out of the run</source>
+        <translation>Miniature de %1, laissée de côté</translation>
+    </message>
+    <message>
+        <source>%1 by the camera's own clock</source>
+        <translation>%1 selon l’horloge de l’appareil</translation>
     </message>
 </context>
 <context>

@@ -941,6 +941,22 @@
         <source>Continue</source>
         <translation>Doorgaan</translation>
     </message>
+    <message>
+        <source>&amp;Tick or Untick</source>
+        <translation>&amp;Aanvinken of uitvinken</translation>
+    </message>
+    <message>
+        <source>Rows without a tick are left out of the run</source>
+        <translation>Regels zonder vinkje blijven buiten de bewerking</translation>
+    </message>
+    <message>
+        <source>Tick A&amp;ll</source>
+        <translation>A&amp;lles aanvinken</translation>
+    </message>
+    <message>
+        <source>&amp;Columns of the List</source>
+        <translation>&amp;Kolommen van de lijst</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -3622,6 +3638,13 @@
     <message>
         <source>no free name was found</source>
         <translation>geen vrije naam gevonden</translation>
+    </message>
+</context>
+<context>
+    <name>list-rows</name>
+    <message>
+        <source>left out</source>
+        <translation>weggelaten</translation>
     </message>
 </context>
 <context>
@@ -8646,6 +8669,10 @@
             <numerusform>Alleen wat mislukte wordt getoond: %n van de lijst</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 weggelaten</translation>
+    </message>
 </context>
 <context>
     <name>step-words</name>
@@ -9629,6 +9656,22 @@
     <message>
         <source>Folder</source>
         <translation>Map</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Opnamedatum</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>Thumbnail of %1, left out of the run</source>
+        <translation>Miniatuur van %1, buiten de bewerking gelaten</translation>
+    </message>
+    <message>
+        <source>%1 by the camera's own clock</source>
+        <translation>%1 volgens de klok van de camera</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,8 @@ namespace {
 constexpr int rowHeightPx = 36;
 constexpr int narrowestTextPx = 60;
 constexpr int mostWidthPx = 4000; ///< of a kept width, whatever it says
+/** What the texts have besides, where dates and cameras are shown unasked. */
+constexpr int comfortPx = 260;
 
 struct ColumnKind
 {
@@ -37,11 +39,14 @@ struct ColumnKind
 };
 
 // What is told beside the picture too, the least first.
-constexpr std::array<PictureModel::Column, 2> dispensable = {PictureModel::Type, PictureModel::Bytes};
+constexpr std::array<PictureModel::Column, 4> dispensable = {PictureModel::Camera, PictureModel::Taken,
+                                                             PictureModel::Type, PictureModel::Bytes};
 
-constexpr std::array<ColumnKind, PictureModel::ColumnCount> kinds = {{{"thumbnail", 58, 0, 0, 0},
+constexpr std::array<ColumnKind, PictureModel::ColumnCount> kinds = {{{"thumbnail", 82, 0, 0, 0},
                                                                       {"name", 0, 3, 3, 130},
                                                                       {"folder", 0, 2, 2, 90},
+                                                                      {"taken", 128, 0, 0, 0},
+                                                                      {"camera", 118, 0, 0, 0},
                                                                       {"pixels", 92, 0, 0, 0},
                                                                       {"size", 76, 0, 0, 0},
                                                                       {"type", 86, 0, 0, 0},
@@ -52,6 +57,7 @@ constexpr std::array<ColumnKind, PictureModel::ColumnCount> kinds = {{{"thumbnai
 // The texts of a kept layout.
 const QLatin1String orderKey("order");
 const QLatin1String widthsKey("widths");
+const QLatin1String shownKey("shown");
 
 int columnNamed(const QString &name)
 {
@@ -100,13 +106,31 @@ void PictureTable::prepareHeader()
     connect(header, &QHeaderView::sortIndicatorChanged, this, [this, header](int column) {
         if (column == PictureModel::Thumbnail)
             header->setSortIndicator(-1, Qt::AscendingOrder);
-        m_resortPending =
-            column == PictureModel::Pixels && (m_headersUpTo < m_model.rowCount() || m_model.headersInWork() > 0);
+        noteSorting(column);
         Q_EMIT orderChanged();
         Q_EMIT layoutChanged();
     });
     header->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(header, &QWidget::customContextMenuRequested, this, &PictureTable::showHeaderMenu);
+    connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint &place) {
+        QMenu menu(this);
+        addColumnEntries(menu);
+        menu.exec(header->mapToGlobal(place));
+    });
+}
+
+/** Whether all that the list is sorted by is known of each row. */
+bool PictureTable::isReadFor(int column) const
+{
+    const bool isRead =
+        column == PictureModel::Pixels || column == PictureModel::Taken || column == PictureModel::Camera;
+    return !isRead || (m_headersUpTo >= m_model.rowCount() && m_model.headersInWork() == 0);
+}
+
+void PictureTable::noteSorting(int column)
+{
+    m_resortPending = !isReadFor(column);
+    if (m_resortPending)
+        wakeLoader();
 }
 
 void PictureTable::columnsChanged()
@@ -115,16 +139,42 @@ void PictureTable::columnsChanged()
     Q_EMIT layoutChanged();
 }
 
-void PictureTable::showHeaderMenu(const QPoint &place)
+void PictureTable::showColumnMenu()
 {
     QMenu menu(this);
+    addColumnEntries(menu);
+    menu.setActiveAction(menu.actions().constFirst());
+    menu.exec(horizontalHeader()->mapToGlobal(QPoint(0, horizontalHeader()->height())));
+}
+
+/** All columns that there can be, but those that a row is known by. */
+void PictureTable::addColumnEntries(QMenu &menu)
+{
+    for (size_t column = 0; column < kinds.size(); ++column) {
+        if (!m_columnShown[column] || column == PictureModel::Thumbnail || column == PictureModel::Name ||
+            column == PictureModel::Status)
+            continue;
+        QAction *entry = menu.addAction(m_model.headerData(int(column), Qt::Horizontal, Qt::DisplayRole).toString());
+        entry->setCheckable(true);
+        entry->setChecked(isShown(column));
+        connect(entry, &QAction::triggered, this, [this, column](bool on) { chooseColumn(column, on); });
+    }
+    menu.addSeparator();
     menu.addAction(tr("Reset Columns"), this, [this] {
         layOutAsFirst();
+        m_wanted.clear();
         horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
         showColumns();
         Q_EMIT layoutChanged();
     });
-    menu.exec(horizontalHeader()->mapToGlobal(place));
+}
+
+void PictureTable::chooseColumn(size_t column, bool on)
+{
+    m_wanted.insert(int(column), on);
+    m_columnsChosen = false; // the widths are those of other columns
+    showColumns();
+    Q_EMIT layoutChanged();
 }
 
 /** The columns in the order in which they are declared. */
@@ -139,7 +189,7 @@ void PictureTable::layOutAsFirst()
 
 QString PictureTable::columnLayout() const
 {
-    if (!m_columnsChosen)
+    if (!m_columnsChosen && m_wanted.isEmpty())
         return {};
     const QHeaderView *header = horizontalHeader();
     QJsonArray order;
@@ -148,10 +198,14 @@ QString PictureTable::columnLayout() const
         const int column = header->logicalIndex(place);
         const QLatin1String name(kinds[size_t(column)].name);
         order.append(name);
-        if (!header->isSectionHidden(column))
+        if (m_columnsChosen && !header->isSectionHidden(column))
             widths.insert(name, header->sectionSize(column));
     }
-    return QString::fromUtf8(QJsonDocument({{orderKey, order}, {widthsKey, widths}}).toJson(QJsonDocument::Compact));
+    QJsonObject shown;
+    for (auto wish = m_wanted.cbegin(); wish != m_wanted.cend(); ++wish)
+        shown.insert(QLatin1String(kinds[size_t(wish.key())].name), wish.value());
+    const QJsonObject layout = {{orderKey, order}, {widthsKey, widths}, {shownKey, shown}};
+    return QString::fromUtf8(QJsonDocument(layout).toJson(QJsonDocument::Compact));
 }
 
 // A column that was kept and is none any more is passed over, and so is what is no width.
@@ -167,7 +221,16 @@ void PictureTable::setColumnLayout(const QString &text)
         if (const int column = columnNamed(name.toString()); column > 0 && header->visualIndex(column) >= place)
             header->moveSection(header->visualIndex(column), place++);
     const QJsonObject widths = layout.value(widthsKey).toObject();
+    const QJsonObject shown = layout.value(shownKey).toObject();
+    m_wanted.clear();
+    for (auto wish = shown.begin(); wish != shown.end(); ++wish)
+        if (const int column = columnNamed(wish.key()); column > PictureModel::Name && column != PictureModel::Status)
+            m_wanted.insert(column, wish->toBool());
     m_columnsChosen = !widths.isEmpty();
+    m_leftOut.clear();
+    for (const auto column : dispensable)
+        if (!widths.contains(QLatin1String(kinds[column].name)))
+            m_leftOut.append(column);
     for (auto width = widths.begin(); width != widths.end(); ++width)
         if (const int column = columnNamed(width.key()); column > 0)
             header->resizeSection(column, qBound(header->minimumSectionSize(), width->toInt(), mostWidthPx));
@@ -204,6 +267,7 @@ void PictureTable::setColumns(const QStringList &columns, const QVariantMap &hea
     for (size_t column = 0; column < kinds.size(); ++column)
         m_columnShown[column] = columns.contains(QLatin1String(kinds[column].name));
     m_columnsChosen = false;
+    m_wanted.clear();
     showColumns();
     viewport()->update();
 }
@@ -221,8 +285,9 @@ void PictureTable::showColumns()
 
 bool PictureTable::isShown(size_t column) const
 {
-    return m_columnShown[column] && (column != PictureModel::Folder || m_hasFolders) &&
-           !m_leftOut.contains(int(column));
+    if (!m_columnShown[column] || m_wanted.contains(int(column)))
+        return m_columnShown[column] && m_wanted.value(int(column));
+    return (column != PictureModel::Folder || m_hasFolders) && !m_leftOut.contains(int(column));
 }
 
 /** What a column of numbers takes, with its heading. */
@@ -234,15 +299,21 @@ int PictureTable::fixedWidth(size_t column) const
 /** Leaves columns out where texts would have too little room, unless the user has arranged them. */
 void PictureTable::chooseDispensable()
 {
+    if (m_columnsChosen)
+        return;
     m_leftOut.clear();
-    const auto lacking = [this] {
-        int needed = 0;
+    const auto lacking = [this](int comfort) {
+        int needed = comfort;
         for (size_t i = 0; i < kinds.size(); ++i)
             needed += isShown(i) ? qMax(kinds[i].leastPx, kinds[i].widthPx > 0 ? fixedWidth(i) : 0) : 0;
         return needed > viewport()->width();
     };
-    for (size_t i = 0; i < dispensable.size() && !m_columnsChosen && lacking(); ++i)
+    for (size_t i = 0; i < dispensable.size(); ++i) {
+        const bool isExtra = dispensable[i] == PictureModel::Camera || dispensable[i] == PictureModel::Taken;
+        if (!lacking(isExtra ? comfortPx : 0))
+            break;
         m_leftOut.append(dispensable[i]);
+    }
 }
 
 bool PictureTable::isStatusCut(int id) const

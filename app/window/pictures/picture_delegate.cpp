@@ -11,6 +11,8 @@ namespace window {
 namespace {
 
 constexpr int paddingPx = 10;
+constexpr int tickPx = 16;
+constexpr int tickRoomPx = 28;                        ///< before the thumbnail
 constexpr int paddingsPx = paddingPx + paddingPx / 2; ///< at both sides
 
 QString colorName(StatusKind kind)
@@ -102,10 +104,36 @@ void PictureDelegate::paintStatus(QPainter &painter, const QStyleOptionViewItem 
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, inTwoLines(row.status, metrics, place.width()));
 }
 
+QRect PictureDelegate::tickPlace(const QRect &cell)
+{
+    return {cell.left(), cell.top(), tickRoomPx + paddingPx / 2, cell.height()};
+}
+
+void PictureDelegate::paintTick(QPainter &painter, const QRect &cell, bool isTicked)
+{
+    QRect box(0, 0, tickPx, tickPx);
+    box.moveCenter(QPoint(cell.left() + paddingPx + tickPx / 2, cell.center().y()));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Theme::color(isTicked ? QStringLiteral("accent") : QStringLiteral("muted")), 1));
+    painter.setBrush(Theme::color(isTicked ? QStringLiteral("accent") : QStringLiteral("field")));
+    painter.drawRoundedRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    if (isTicked) {
+        const QPointF mark[] = {
+            {box.left() + 4.0, box.top() + 8.4}, // NOLINT: three points for a call that takes an array
+            {box.left() + 7.0, box.top() + 11.4},
+            {box.left() + 12.2, box.top() + 5.0}};
+        painter.setPen(QPen(Theme::color(QStringLiteral("onAccent")), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolyline(mark, 3);
+    }
+    painter.restore();
+}
+
 void PictureDelegate::paintThumbnail(QPainter &painter, const QRect &cell, int row) const
 {
+    paintTick(painter, cell, m_model.row(row).isTicked);
     QRect place(QPoint(0, 0), thumbnailSize());
-    place.moveCenter(cell.center());
+    place.moveCenter(cell.adjusted(tickRoomPx, 0, 0, 0).center());
     QPainterPath shape;
     shape.addRoundedRect(place, 3, 3);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -126,7 +154,8 @@ void PictureDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &o
     const bool mayBeCovered = column == PictureModel::NewName || column == PictureModel::NewSize;
     if (mayBeCovered && isCovered(row, option.font, column))
         return;
-    QColor color = Theme::color(column == PictureModel::Name ? QStringLiteral("text") : QStringLiteral("muted"));
+    const bool isName = column == PictureModel::Name && row.isTicked;
+    QColor color = Theme::color(isName ? QStringLiteral("text") : QStringLiteral("muted"));
     if (mayBeCovered) {
         color = Theme::color(QStringLiteral("text"));
         if (column == PictureModel::NewName && m_model.stressesNewNames())

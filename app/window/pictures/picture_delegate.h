@@ -23,9 +23,13 @@ public:
     /** In logical pixels. */
     static QSize thumbnailSize() { return {36, 26}; }
 
+    /** Where in the cell of a thumbnail the box of the tick stands; a click beside it counts too. */
+    static QRect tickPlace(const QRect &cell);
+
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
+    static void paintTick(QPainter &painter, const QRect &cell, bool isTicked);
     void paintThumbnail(QPainter &painter, const QRect &cell, int row) const;
     void paintStatus(QPainter &painter, const QStyleOptionViewItem &option, const PictureRow &row) const;
     bool isCovered(const PictureRow &row, const QFont &font, int column) const;

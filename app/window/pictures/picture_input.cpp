@@ -4,6 +4,8 @@
 
 #include "platform/values/fields.h"
 
+#include <QHeaderView>
+
 #include <utility>
 
 namespace window {
@@ -26,6 +28,7 @@ void PictureTable::setInput(const QStringList &extensions, bool folders)
 void PictureTable::countTaken()
 {
     m_taken = 0;
+    m_tickedCount = 0;
     QStringView first;
     bool hasFolders = false;
     for (int row = 0; row < m_model.rowCount(); ++row) {
@@ -34,6 +37,7 @@ void PictureTable::countTaken()
             continue;
         const QStringView folder = QStringView(picture.path).left(picture.path.lastIndexOf(u'/'));
         first = m_taken++ == 0 ? folder : first;
+        m_tickedCount += picture.isTicked ? 1 : 0;
         hasFolders = hasFolders || folder != first;
     }
     if (std::exchange(m_hasFolders, hasFolders) != hasFolders)
@@ -121,6 +125,7 @@ void PictureTable::rowsChanged()
 {
     countTaken();
     m_headersUpTo = 0;
+    noteSorting(horizontalHeader()->sortIndicatorSection());
     chooseSomeRow();
     if (m_order.rowCount() == 0)
         Q_EMIT currentPictureChanged(0);

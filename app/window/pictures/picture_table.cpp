@@ -92,6 +92,7 @@ int PictureTable::addPaths(const QStringList &paths, const QStringList &roots)
         ids.append(m_model.row(row).id);
     m_edits.added(std::move(ids));
     countTaken();
+    noteSorting(horizontalHeader()->sortIndicatorSection());
     chooseSomeRow();
     Q_EMIT countChanged(count());
     wakeLoader();
@@ -217,6 +218,7 @@ void PictureTable::forget(int id)
         return;
     m_model.forget(index);
     m_headersUpTo = qMin(m_headersUpTo, index);
+    noteSorting(horizontalHeader()->sortIndicatorSection());
     wakeLoader();
 }
 
@@ -283,8 +285,10 @@ void PictureTable::loadSlice()
     if (!m_busy)
         loadHeaders();
     const bool isAllKnown = m_headersUpTo >= m_model.rowCount() && m_model.headersInWork() == 0;
-    if (isAllKnown && std::exchange(m_resortPending, false))
+    if (isAllKnown && std::exchange(m_resortPending, false)) {
         m_order.sort(horizontalHeader()->sortIndicatorSection(), horizontalHeader()->sortIndicatorOrder());
+        Q_EMIT orderChanged();
+    }
 }
 
 /** What can be seen comes first; what cannot be seen any more is not waited for. */

@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QVariant>
 
+class QMenu;
+
 namespace window {
 
 /**
@@ -24,7 +26,11 @@ class PictureTable : public QTableView
     Q_PROPERTY(int currentPlace READ currentPlace NOTIFY currentPictureChanged)
     /** Rows that failed are shown only; the current one is one of them where there is any. */
     Q_PROPERTY(bool problemsOnly READ problemsOnly WRITE setProblemsOnly)
+    /** How many of them are ticked: runs work on these. */
+    Q_PROPERTY(int tickedCount READ tickedCount NOTIFY ticksChanged)
     Q_PROPERTY(bool busy READ isBusy WRITE setBusy)
+    /** False while the list is sorted by something that is still being read of some files. */
+    Q_PROPERTY(bool settled READ isSettled NOTIFY orderChanged)
     /** What the user did to the columns, as a text to be kept: their order and widths. Empty where nothing was done. */
     Q_PROPERTY(QString layout READ columnLayout WRITE setColumnLayout NOTIFY layoutChanged)
     /** The column by which the list is sorted, with a minus sign before it where the last comes first; empty for the order of adding. */
@@ -38,8 +44,10 @@ public:
     int currentPlace() const { return currentIndex().isValid() ? currentIndex().row() + 1 : 0; }
     bool problemsOnly() const { return m_order.problemsOnly(); }
     void setProblemsOnly(bool on);
+    int tickedCount() const { return m_tickedCount; }
+    bool isSettled() const { return !m_resortPending; }
     bool isBusy() const { return m_busy; }
-    /** While busy (a job runs) nothing is read in the background for rows that are not visible. */
+    /** While busy (a job runs) nothing is read in the background for rows that are not visible, and ticks stay as they are. */
     void setBusy(bool busy);
     QString columnLayout() const;
     void setColumnLayout(const QString &layout);
@@ -57,8 +65,9 @@ public:
     /** The paths of these rows, in the order of adding. */
     Q_INVOKABLE QStringList hiddenPaths() const;
     /**
-     * Shows these columns only: "thumbnail", "name", "folder", "pixels", "size", "type", "newName", "newSize", "status". The folder
-     * is shown where the pictures lie in several.
+     * Shows these columns only: "thumbnail", "name", "folder", "taken", "camera", "pixels", "size", "type", "newName", "newSize",
+     * "status". The folder is shown where the pictures lie in several, and what says least is left out where there is no room; the user
+     * chooses otherwise.
      *
      * @param headings  other words for the heads of columns, by the same names
      * @param stressed  new names are what the list is about
@@ -83,6 +92,24 @@ public:
     Q_INVOKABLE QVariantList ids() const;
     /** The paths of all pictures, in the order of ids(). */
     Q_INVOKABLE QStringList paths() const;
+    /** Of these, the pictures that are ticked. */
+    Q_INVOKABLE QVariantList tickedIds() const;
+    Q_INVOKABLE QStringList tickedPaths() const;
+    /** The pictures that are not. */
+    Q_INVOKABLE QVariantList untickedIds() const;
+    /** Unticks the chosen rows, or ticks them where none of them is ticked. */
+    Q_INVOKABLE void toggleTicks();
+    /** Ticks all rows. */
+    Q_INVOKABLE void tickAll();
+    /** Shows the menu of the columns at the head of the list. */
+    Q_INVOKABLE void showColumnMenu();
+    /**
+     * The cameras of the list, those with most pictures first: {camera, count, shift (seconds, see jobs::CameraClocks)}. The camera
+     * is empty for pictures that state none. Those that nobody has read yet are not counted.
+     */
+    Q_INVOKABLE QVariantList cameras() const;
+    /** Sets the clock of a camera right: its dates are told later by so many seconds. */
+    Q_INVOKABLE void setClockShift(const QString &camera, int seconds);
     /** The file of a picture is at another path now, because it was renamed. */
     Q_INVOKABLE void setPath(int id, const QString &path);
     /** Shows the pictures with these ids only, and the first of them as the current one if the current one is not among them. */
@@ -114,6 +141,9 @@ Q_SIGNALS:
     void countChanged(int count);
     /** The pictures are shown in another order. */
     void orderChanged();
+    void ticksChanged();
+    /** Clocks of cameras were set. */
+    void clocksChanged();
     void currentPictureChanged(int id);
     void largePreviewRequested();
     void layoutChanged();
@@ -121,6 +151,8 @@ Q_SIGNALS:
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
@@ -135,7 +167,12 @@ private:
     int fixedWidth(size_t column) const;
     void layOutAsFirst();
     void columnsChanged();
-    void showHeaderMenu(const QPoint &place);
+    void addColumnEntries(QMenu &menu);
+    void chooseColumn(size_t column, bool on);
+    void noteSorting(int column);
+    bool isReadFor(int column) const;
+    bool pressTick(const QMouseEvent &event);
+    void tick(const std::vector<int> &rows, bool on);
     void loadSlice();
     void loadVisible();
     void loadHeaders();
@@ -156,10 +193,12 @@ private:
     bool m_resortPending = false;
     bool m_arranging = false;
     int m_taken = 0;                 ///< rows that the action takes
+    int m_tickedCount = 0;           ///< of them
     bool m_hasFolders = false;       ///< they lie in several folders
     QList<int> m_leftOut;            ///< columns that there is no room for
     std::vector<bool> m_columnShown; ///< of those that setColumns() named
     bool m_columnsChosen = false;    ///< by hand; then their widths are left alone
+    QHash<int, bool> m_wanted;       ///< columns that the user shows or hides, whatever the room
 };
 
 } // namespace window

@@ -53,7 +53,7 @@ export class MetadataPage {
         const clicks = {
             metaAddPictures: () => this.window.input.addPictures(), metaAddFolder: () => this.window.input.addFolder(),
             metaApply: () => this.apply(),
-            metaApplyAll: () => this.writeInto(this.list.paths()), metaChooseFiles: () => this.writeIntoFiles(),
+            metaApplyAll: () => this.writeInto(this.list.tickedPaths()), metaChooseFiles: () => this.writeIntoFiles(),
             metaChooseFolder: () => this.writeIntoFolder(), metaRevert: () => this.revert(),
             metaStop: () => this.job.cancel(), metaLog: () => this.showLog(),
         };
@@ -322,7 +322,7 @@ export class MetadataPage {
 
     // What writes into several pictures.
     showWriting(on, enabled) {
-        const pictures = this.list.count;
+        const pictures = this.list.tickedCount;
         for (const name of ["metaApplyAll", "metaChooseFiles", "metaChooseFolder"]) {
             this.form.control(name).visible = on;
             this.form.control(name).enabled = enabled;

@@ -9,7 +9,7 @@ import { LivePlan } from "../live-plan.js";
 // Of several outputs the first of these is what is said of all.
 const ORDER = ["ready", "Failed", "Not Supported", "Skipped"];
 
-/** A batch of the recipe in the settings over all pictures of the list. */
+/** A batch of the recipe in the settings over pictures of the list. */
 export function batchOf(settings, paths) {
     return new RecipeBatch({ recipe: settings.text, folder: settings.folder, base: settings.base, paths: paths });
 }
@@ -47,9 +47,9 @@ function inWords(photo, outputs) {
             ? Object.assign({}, output, { reason: qsTr("not a readable picture") }) : output));
 }
 
-/** A generator that plans all pictures of the list, one after the other: see itemOf(). It returns {batch, cancelled}. */
+/** A generator that plans all ticked pictures of the list, one after the other: see itemOf(). It returns {batch, cancelled}. */
 export function* recipePlan(list, ids, settings) {
-    const batch = batchOf(settings, list.paths());
+    const batch = batchOf(settings, list.tickedPaths());
     const problem = batch.problem();
     for (let i = 0; i < ids.length; i += 1) {
         const photo = list.photo(ids[i]);

@@ -51,7 +51,7 @@ export class RecipeRun extends WriteRun {
 
     // All are planned, so that names and numbers are those of the whole list; those that are wanted are made.
     begin(wanted) {
-        const all = this.window.pictures.ids();
+        const all = this.window.pictures.tickedIds();
         const isWanted = emptyTable();
         wanted.forEach((id) => { isWanted[id] = true; });
         this.startPlanning(all.filter((id) => isWanted[id]));

@@ -6,7 +6,7 @@ import { RecipeRun } from "./recipe-run.js";
 import { WRITES } from "../writes.js";
 
 function startText(window) {
-    const total = window.pictures.count;
+    const total = window.pictures.tickedCount;
     const planned = window.planned;
     const number = planned.all === total ? planned.ready : total;
     if (total === 0) {
@@ -22,7 +22,7 @@ function startText(window) {
 
 function startNote(window) {
     const planned = window.planned;
-    if (window.pictures.count === 0 || window.settings.simulation) {
+    if (window.pictures.tickedCount === 0 || window.settings.simulation) {
         return "";
     }
     if (planned.originals > 0) {

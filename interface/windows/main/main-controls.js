@@ -26,6 +26,9 @@ function doingsOf(window) {
         paste: () => window.input.paste(),
         remove: () => window.removeChosen(),
         selectAll: () => window.pictures.selectAll(),
+        tick: () => window.pictures.toggleTicks(),
+        tickAll: () => window.pictures.tickAll(),
+        columns: () => window.pictures.showColumnMenu(),
         next: () => window.pictures.step(1),
         previous: () => window.pictures.step(-1),
         large: () => window.toggleLarge(),
@@ -51,7 +54,8 @@ const BUTTONS = {
 
 const ENTRIES = [
     "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "saveAs", "quit",
-    "paste", "remove", "selectAll", "next", "previous", "large", "fit", "fill", "showFailed", "undo", "redo", "rename",
+    "paste", "remove", "selectAll", "tick", "tickAll", "columns", "next",
+    "previous", "large", "fit", "fill", "showFailed", "undo", "redo", "rename",
 ];
 
 function connectControls(window) {
@@ -69,6 +73,7 @@ function connectViews(window) {
     const large = guard("large", () => window.toggleLarge());
     const step = guard("step", (rows) => list.step(rows));
     list.countChanged.connect(guard("list", () => window.listChanged()));
+    list.ticksChanged.connect(guard("ticks", () => window.ticksChanged()));
     list.orderChanged.connect(guard("order", () => window.orderChanged()));
     list.currentPictureChanged.connect(guard("current", () => window.showCurrent()));
     list.largePreviewRequested.connect(large);

@@ -166,10 +166,12 @@ export class MainWindow {
         const onList = this.shownPage === null || this.shownPage.usesList;
         const enable = (names, on) => names.forEach((name) => { this.form.control(name).enabled = on; });
         this.showCentre(any);
+        const inList = any && !busy && this.shownPage === null;
         enable(ADDING, this.mayAdd());
         enable(SETTINGS, !busy);
-        enable(["removeAction", "selectAllAction"], any && !busy && this.shownPage === null);
+        enable(["removeAction", "selectAllAction", "tickAction", "tickAllAction"], inList);
         enable(["clearButton", "clearAction", "saveAsAction"], any && !busy && onList);
+        this.form.control("columnsAction").enabled = any && this.shownPage === null;
         enable(["nextAction", "previousAction", "largeAction"], any && onList);
         this.drop.open = this.mayAdd();
         this.input.showWords();
@@ -254,11 +256,19 @@ export class MainWindow {
         this.showAll();
     }
 
-    // Counters count in the order shown.
+    // Counters count in the order shown. Nothing starts before that is known.
     orderChanged() {
         if (!this.run.isBusy()) {
             this.livePlan.refresh();
         }
+        this.showStart();
+    }
+
+    // What runs made of the other rows stays in sight.
+    ticksChanged() {
+        this.livePlan.refresh();
+        this.showStart();
+        showStatusBar(this);
     }
 
     /** Says something for a while; it takes the place of the summary of a run. */

@@ -2,10 +2,13 @@
 // what can be done about it.
 
 import { wordsFor } from "../../lib/input-words.js";
+import { fill } from "../../lib/wording.js";
 
 function listText(window) {
     const words = wordsFor(window.action.lists(window.settings));
-    return window.pictures.count > 0 ? words.count(window.pictures.count) : words.none();
+    const out = window.pictures.count - window.pictures.tickedCount;
+    const parts = [words.count(window.pictures.count)].concat(out > 0 ? [fill(qsTr("%1 left out"), out)] : []);
+    return window.pictures.count > 0 ? parts.join(" · ") : words.none();
 }
 
 function showTexts(window, busy, ended) {

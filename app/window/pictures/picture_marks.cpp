@@ -1,0 +1,132 @@
+// What the user marks in the picture list, and what it knows of the cameras: ticks and clocks.
+
+#include "app/window/pictures/picture_table.h"
+
+#include "app/window/pictures/picture_delegate.h"
+
+#include "jobs/camera_clocks.h"
+
+#include <QHeaderView>
+#include <QMap>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+namespace window {
+
+QVariantList PictureTable::tickedIds() const
+{
+    QVariantList found;
+    for (const int row : rowsInOrder())
+        if (m_model.row(row).isTicked)
+            found.append(m_model.row(row).id);
+    return found;
+}
+
+QStringList PictureTable::tickedPaths() const
+{
+    QStringList found;
+    for (const int row : rowsInOrder())
+        if (m_model.row(row).isTicked)
+            found.append(m_model.row(row).path);
+    return found;
+}
+
+QVariantList PictureTable::untickedIds() const
+{
+    QVariantList found;
+    for (const int row : rowsInOrder())
+        if (!m_model.row(row).isTicked)
+            found.append(m_model.row(row).id);
+    return found;
+}
+
+void PictureTable::tick(const std::vector<int> &rows, bool on)
+{
+    if (m_busy)
+        return;
+    for (const int row : rows)
+        m_model.setTicked(row, on);
+    countTaken();
+    Q_EMIT ticksChanged();
+}
+
+void PictureTable::toggleTicks()
+{
+    std::vector<int> rows;
+    const QModelIndexList chosen = selectionModel()->selectedRows();
+    for (const QModelIndex &index : chosen)
+        rows.push_back(m_order.mapToSource(index).row());
+    if (!rows.empty())
+        tick(rows, std::none_of(rows.begin(), rows.end(), [this](int row) { return m_model.row(row).isTicked; }));
+}
+
+void PictureTable::tickAll()
+{
+    tick(rowsInOrder(), true);
+}
+
+/** Whether it is a click on the box of a row, which is done then: of all chosen rows, where this is one of them. */
+bool PictureTable::pressTick(const QMouseEvent &event)
+{
+    const QModelIndex index = indexAt(event.pos());
+    if (event.button() != Qt::LeftButton || index.column() != PictureModel::Thumbnail ||
+        !PictureDelegate::tickPlace(visualRect(index)).contains(event.pos()))
+        return false;
+    const int clicked = m_order.mapToSource(index).row();
+    const bool on = !m_model.row(clicked).isTicked;
+    std::vector<int> rows = {clicked};
+    if (selectionModel()->isRowSelected(index.row())) {
+        rows.clear();
+        const QModelIndexList chosen = selectionModel()->selectedRows();
+        for (const QModelIndex &each : chosen)
+            rows.push_back(m_order.mapToSource(each).row());
+    }
+    tick(rows, on);
+    return true;
+}
+
+void PictureTable::mousePressEvent(QMouseEvent *event)
+{
+    if (!pressTick(*event))
+        QTableView::mousePressEvent(event);
+}
+
+// Of a quick second click on a box both count.
+void PictureTable::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (!pressTick(*event))
+        QTableView::mouseDoubleClickEvent(event);
+}
+
+QVariantList PictureTable::cameras() const
+{
+    QMap<QString, int> counts;
+    for (const int row : rowsInOrder())
+        if (m_model.row(row).headerRead && m_model.row(row).stated.isValid())
+            ++counts[m_model.row(row).camera];
+    QStringList names = counts.keys();
+    std::stable_sort(names.begin(), names.end(),
+                     [&counts](const QString &a, const QString &b) { return counts.value(a) > counts.value(b); });
+    QVariantList found;
+    for (const QString &name : names)
+        found.append(QVariantMap{{QStringLiteral("camera"), name},
+                                 {QStringLiteral("count"), counts.value(name)},
+                                 {QStringLiteral("shift"), double(jobs::CameraClocks::ofProcess().shift(name))}});
+    return found;
+}
+
+void PictureTable::setClockShift(const QString &camera, int seconds)
+{
+    if (m_busy || jobs::CameraClocks::ofProcess().shift(camera) == seconds)
+        return;
+    jobs::CameraClocks::ofProcess().setShift(camera, seconds);
+    m_model.clocksChanged();
+    if (horizontalHeader()->sortIndicatorSection() == PictureModel::Taken) {
+        m_order.sort(PictureModel::Taken, horizontalHeader()->sortIndicatorOrder());
+        Q_EMIT orderChanged();
+    }
+    Q_EMIT clocksChanged();
+}
+
+} // namespace window
