@@ -69,6 +69,18 @@ SOURCES = {
     "JP2": "depth profile alpha resolution orientation exif gps iptc xmp", "GIF": "alpha", "BMP": "profile resolution", "PDF": "alpha",
     "SVG": "alpha",
 }
+# What results of recipes, and of all actions of the window, hold of each kind of metadata; None where that is no question.
+IN_XMP = "as XMP"
+KINDS = {"exif": "EXIF", "maker": "Maker notes", "gps": "GPS", "iptc": "IPTC", "xmp": "XMP", "comment": "Comment", "resolution": "Resolution"}
+_BLOCKS = dict.fromkeys(KINDS, KEPT)
+_CONTAINER = {**_BLOCKS, "iptc": IN_XMP, "comment": NOT}
+HELD = {
+    "jpeg": _BLOCKS, "png": _BLOCKS, "tiff": {**_BLOCKS, "comment": NOT}, "jp2": {**_BLOCKS, "comment": NOT},
+    "webp": _CONTAINER, "avif": _CONTAINER, "jxl": _CONTAINER,
+    "gif": {**_BLOCKS, "exif": IN_XMP, "maker": NOT, "gps": IN_XMP, "iptc": IN_XMP, "resolution": IN_XMP},
+    "pdf": {**_BLOCKS, "exif": IN_XMP, "maker": NOT, "gps": IN_XMP, "iptc": IN_XMP, "comment": NOT, "resolution": None},
+    "bmp": {**dict.fromkeys(KINDS, NOT), "resolution": KEPT},
+}
 SHORT = {"depth": "16 bits", "profile": "profile", "alpha": "transparency", "resolution": "resolution", "exif": "EXIF", "gps": "GPS",
          "iptc": "IPTC", "xmp": "XMP"}
 WORDS = {KEPT: "kept", NOT: "no", "stored": "as stored", "upright": "upright", "tag": "tag kept", "turned": "turned upright",
@@ -79,6 +91,52 @@ def lost(source, target):
     """What a file of this type can hold and the target cannot, in words."""
     gone = [SHORT[name] for name in SOURCES[source].split() if name in SHORT and PROMISES[target][name] in (NOT, "srgb", "black")]
     return ", ".join(gone) or "nothing"
+
+
+def becomes(kind, source, target):
+    """
+    What becomes of one kind of metadata in a file of the target's type; source has how a file has each of them. XMP is not read as a
+    resolution, and what is said in XMP of a resolution comes from EXIF.
+    """
+    held = HELD[target][kind]
+    if held is None or held == KEPT and source[kind] != IN_XMP:
+        return held and source[kind]
+    if NOT in (held, source[kind]) or source[kind] == IN_XMP and HELD[target]["xmp"] == NOT:
+        return NOT
+    return NOT if kind == "resolution" and source["exif"] == NOT and source[kind] == KEPT else IN_XMP
+
+
+def given_up(source, target):
+    """What a file of this type may hold of the metadata and one of the target will not, or only in XMP, in words."""
+    gone, as_xmp = [], []
+    for kind, words in KINDS.items():
+        there, result = HELD[source][kind], becomes(kind, HELD[source], target)
+        if there in (KEPT, IN_XMP) and result == NOT:
+            gone.append(words)
+        elif there == KEPT and result == IN_XMP:
+            as_xmp.append(words)
+    parts = [", ".join(gone)] * bool(gone) + [", ".join(as_xmp) + " " + IN_XMP] * bool(as_xmp)
+    return "; ".join(parts) or "nothing"
+
+
+def recipe_tables():
+    """What results of recipes keep of the metadata."""
+    names = {keyword: _OUTPUTS[keyword][1] for keyword in HELD}
+    lines = ["", "## What recipes keep", "", "Recipes, `quorlin-batch` and all actions of the window carry metadata into every type that has a place for it. A test makes",
+             "a file of every type, and of each of these one of every type, and reads them with exiftool. A result has what its source",
+             "has and its own type holds:", "", row([""] + list(names.values())), "|---" * (len(names) + 1) + "|"]
+    for kind, words in KINDS.items():
+        lines.append(row([words] + [{NOT: "no", None: "size of the page"}.get(HELD[target][kind], HELD[target][kind]) for target in HELD]))
+    lines += ["", "So this is given up on the way from one type to another, where the source has it:", "",
+              row(["from"] + ["to " + name for name in names.values()]), "|---" * (len(names) + 1) + "|"]
+    for source in HELD:
+        if source != "pdf":  # whose pages are drawn
+            lines.append(row([names[source]] + [given_up(source, target) for target in HELD]))
+    lines += ["", "HEIC, AVIF and PSD files of others, and raw files by their previews, have what a JPEG has but for comments. Orientation, size in",
+              "pixels and thumbnail are made true, or go. A GIF has the resolution of pictures with EXIF alone. What lies beside the picture",
+              "goes with the tags that announce it, and the plan says so: further pictures (MPF), gain maps, motion, signed credentials, data",
+              "of makers in segments of their own, bytes behind the end.", ""]
+    return lines
 
 
 def row(cells):
@@ -111,22 +169,20 @@ def text():
               "therefore held against that of another program at this quality, which may lose two hundredths less.",
               "What Lab of 8 bits is in sRGB is calculated by its formula.", "",
               row([NAMES[target] for target in targets]), "|---" * len(targets) + "|", row([f"{BOUNDS[target]:g}" for target in targets])]
-    lines += ["", "A PDF page has the picture's size in points, so that its resolution is told by its pixels."]
+    lines += ["", "A PDF page has the picture's size in points, so that its resolution is told by its pixels."] + recipe_tables()[:-1]
     return "\n".join(lines) + "\n"
 
 
-# A recipe puts all metadata into these, and the resolution with it; into a PDF and a GIF what XMP has words for, into a BMP none.
-RECIPES_CARRY_INTO = ("jpeg", "png", "tiff", "jp2")
-AS_XMP = ("pdf", "gif")
+# Those that are one column of the manual.
+OF_THE_WEB = ("webp", "avif", "jxl")
 
 
 def in_manual(target, name):
     """What becomes of a property in a recipe, in the few words of the manual."""
     words = {KEPT: "yes", NOT: "no", "matrix": "if it fits", "srgb": "sRGB", "black": "a colour", "page": "page size"}
     if name in ("exif", "resolution") and PROMISES[target][name] in (KEPT, NOT):
-        if target in RECIPES_CARRY_INTO:
-            return words[KEPT]
-        return "as XMP" if target in AS_XMP else words[KEPT if name == "resolution" and "resolution" in _KEPT[TARGETS[target]] else NOT]
+        held = HELD[target][name]
+        return held if held == IN_XMP else words[held]
     return words[PROMISES[target][name]]
 
 
@@ -138,8 +194,17 @@ def manual_table():
 
 
 def kept_in_words(target):
-    profile = {KEPT: ["profile"], "matrix": ["profile if it fits"]}.get(PROMISES[target]["profile"], [])
-    return ", ".join(profile + ["metadata"] * (target in RECIPES_CARRY_INTO)) or "pixels"
+    promised = promises(target, _KEPT[_OUTPUTS[target][0]])["profile"]
+    profile = {KEPT: ["profile"], "matrix": ["profile if it fits"]}.get(promised, [])
+    return ", ".join(profile + ["metadata"] * (HELD[target]["exif"] == KEPT)) or "pixels"
+
+
+def kept_in_all(targets):
+    """The same of several, which are one column."""
+    words = {kept_in_words(target) for target in targets}
+    if len(words) > 1:
+        raise SystemExit(f"formats.py: {', '.join(targets)} are one column in the manual and keep different things")
+    return words.pop()
 
 
 def made_by_recipes():
@@ -154,12 +219,10 @@ def actions_table():
     if not made_by_recipes():
         raise SystemExit("formats.py: not every action makes a recipe, as the manual says")
     columns = ("jpeg", "png", "tiff", "jp2")
-    last = {kept_in_words(name) for name in ("gif", "bmp")}
-    if len(last) > 1:
-        raise SystemExit("formats.py: GIF and BMP are one column in the manual and keep different things")
-    return "\n".join([row([""] + [NAMES[name] for name in columns] + ["GIF, BMP"]).replace("|  |", "| |"),
-                      row(["---"] * (len(columns) + 2)),
-                      row(["kept"] + [kept_in_words(name) for name in columns] + [last.pop()])])
+    web = ", ".join(_OUTPUTS[name][1] for name in OF_THE_WEB)
+    return "\n".join([row([""] + [NAMES[name] for name in columns] + [web, "GIF, BMP"]).replace("|  |", "| |"),
+                      row(["---"] * (len(columns) + 3)),
+                      row(["kept"] + [kept_in_words(name) for name in columns] + [kept_in_all(OF_THE_WEB), kept_in_all(("gif", "bmp"))])])
 
 
 def with_table(page, before, table):
