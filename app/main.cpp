@@ -1,4 +1,5 @@
 #include "app/setup/command_line.h"
+#include "app/setup/crash_file.h"
 #include "app/window/start_up.h"
 
 #include "platform/foundation/log.h"
@@ -81,6 +82,7 @@ int main(int argc, char **argv)
     const auto application = makeApplication(argc, argv);
     // Whoever started the program from a terminal has no use for what the services say.
     platform::logToSystem("quorlin");
+    app::keepCrashReports();
     window::StartUp startUp(*application);
     // The user-interface scripts first, then the application loop.
     if (!startUp.loadScripts(app::pathsAmong(QCoreApplication::arguments().mid(1)), line.opening)) {

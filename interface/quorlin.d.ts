@@ -1494,6 +1494,8 @@ declare module "quorlin/shell" {
         showInFolder(path: text): null;
         /** Files that were copied, or lines of text that are paths. */
         clipboardPaths(): string[];
+        /** Puts a text on the clipboard. */
+        copyText(text: string): null;
         quit(): null;
         /** Tells which form is the main window. */
         setMainForm(form: Form | null): null;
@@ -2138,6 +2140,11 @@ declare module "quorlin/program" {
         lookForUpdate(taken: Function | null): null;
         /** A folder among the user's pictures with a copy of the samples; empty where it could not be made. */
         copySamples(): string;
+        /** What an earlier window left that ended by a fault; empty where there is nothing. */
+        crashReport(): string;
+        forgetCrash(): null;
+        /** Notes what the window is about, for the report of a crash. */
+        noteWork(action: string, picture: string): null;
         /** Shows the print panel and prints each picture on a page of its own. */
         print(paths: texts): null;
         /** Lets the user choose paper and orientation for this print and those to come. */

@@ -6,11 +6,13 @@
 #include "app/printing/print_settings.h"
 #include "app/reading/known_pictures.h"
 #include "app/setup/configuration.h"
+#include "app/setup/crash_file.h"
 #include "app/setup/interface_folder.h"
 #include "app/setup/samples.h"
 #include "app/window/panels/print_dialog.h"
 #include "platform/desktop/strings_tables.h"
 #include "platform/desktop/user_defaults.h"
+#include "platform/foundation/crash_report.h"
 #include "platform/foundation/log.h"
 #include "platform/foundation/raised.h"
 #include "platform/imageio/load/library_versions.h"
@@ -121,6 +123,21 @@ bool ProgramDesk::hasSamples() const
 QString ProgramDesk::copySamples() const
 {
     return app::copySamples().value_or(QString());
+}
+
+QString ProgramDesk::crashReport() const
+{
+    return platform::crashReport(app::crashFile());
+}
+
+void ProgramDesk::forgetCrash()
+{
+    QFile::remove(app::crashFile());
+}
+
+void ProgramDesk::noteWork(const QString &action, const QString &picture)
+{
+    platform::noteForCrashReport(QStringLiteral("Action: %1\nPicture: %2\n").arg(action, picture));
 }
 
 void ProgramDesk::lookForUpdate(const script::Function &taken)

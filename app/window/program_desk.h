@@ -48,6 +48,12 @@ public:
     /** A folder among the user's pictures with a copy of those pictures; empty where it could not be made. */
     Q_INVOKABLE QString copySamples() const;
 
+    /** What an earlier window left that ended by a fault; empty where there is nothing. It is forgotten by forgetCrash(). */
+    Q_INVOKABLE QString crashReport() const;
+    Q_INVOKABLE void forgetCrash();
+    /** Notes what the window is about, for the report of a crash: the name of the action, and the path of the picture. */
+    Q_INVOKABLE void noteWork(const QString &action, const QString &picture);
+
     /** Shows the print panel and prints each picture on a page of its own, fitted and in the middle, without margins. */
     Q_INVOKABLE void print(const QStringList &paths);
     /** Lets the user choose paper and orientation for this print and those to come, also in later runs. */

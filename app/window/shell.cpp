@@ -235,6 +235,11 @@ void Shell::showInFolder(const QString &path)
     window::showInFolder(path);
 }
 
+void Shell::copyText(const QString &text)
+{
+    QApplication::clipboard()->setText(text);
+}
+
 QStringList Shell::clipboardPaths() const
 {
     const QMimeData *data = QApplication::clipboard()->mimeData();

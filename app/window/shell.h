@@ -99,6 +99,8 @@ public:
     Q_INVOKABLE void showInFolder(const QString &path);
     /** Local paths on the clipboard: files that were copied, or lines of text that are paths. */
     Q_INVOKABLE QStringList clipboardPaths() const;
+    /** Puts a text on the clipboard. */
+    Q_INVOKABLE void copyText(const QString &text);
     Q_INVOKABLE void quit();
 
     /** The main window of the program, once a script made one. */

@@ -8,16 +8,16 @@
         <translation>Über Quorlin</translation>
     </message>
     <message>
-        <source>One deed for a whole folder of pictures: it shows what it will do, does it, checks what it did, and can say so in a log.</source>
-        <translation>Ein Arbeitsgang für einen ganzen Ordner voller Bilder: Quorlin zeigt, was es tun wird, tut es, prüft das Ergebnis und hält alles in einem Protokoll fest.</translation>
+        <source>Process a whole folder of pictures in one go. Quorlin shows the result first, does the work, checks it and keeps a log.</source>
+        <translation>Einen ganzen Ordner mit Bildern in einem Zug bearbeiten. Quorlin zeigt zuerst das Ergebnis, erledigt die Arbeit, prüft sie und führt ein Protokoll.</translation>
     </message>
     <message>
         <source>Free software under the GNU General Public License, version 3 or later. It comes without any warranty.</source>
         <translation>Freie Software unter der GNU General Public License, Version 3 oder neuer. Es gibt keinerlei Gewährleistung.</translation>
     </message>
     <message>
-        <source>It stands on these libraries</source>
-        <translation>Verwendete Bibliotheken</translation>
+        <source>Built with these libraries</source>
+        <translation>Erstellt mit diesen Bibliotheken</translation>
     </message>
     <message>
         <source>Libraries with their versions and licences</source>
@@ -30,6 +30,14 @@
     <message>
         <source>What keeps those who read pictures from doing harm</source>
         <translation>Was verhindert, dass das Lesen von Bildern Schaden anrichtet</translation>
+    </message>
+    <message>
+        <source>Copy Versions</source>
+        <translation>Versionen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the versions, for a report of a fault</source>
+        <translation>Die Versionen für einen Fehlerbericht kopieren</translation>
     </message>
 </context>
 <context>
@@ -475,6 +483,29 @@
     <message>
         <source>Explanation</source>
         <translation>Erklärung</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>crash-note</name>
+    <message>
+        <source>Quorlin ended unexpectedly</source>
+        <translation>Quorlin wurde unerwartet beendet</translation>
+    </message>
+    <message>
+        <source>A fault of its own ended Quorlin the last time. Your originals are not affected.</source>
+        <translation>Ein Fehler im Programm hat Quorlin beim letzten Mal beendet. Ihre Originale sind nicht betroffen.</translation>
+    </message>
+    <message>
+        <source>A report was kept on this computer and sent to nobody. It names the version, the action, the picture and the place of the fault.</source>
+        <translation>Ein Bericht liegt auf diesem Computer und wurde niemandem gesendet. Er nennt Version, Aktion, Bild und Stelle des Fehlers.</translation>
+    </message>
+    <message>
+        <source>Copy Report</source>
+        <translation>Bericht kopieren</translation>
     </message>
     <message>
         <source>Close</source>

@@ -8,16 +8,16 @@
         <translation>À propos de Quorlin</translation>
     </message>
     <message>
-        <source>One deed for a whole folder of pictures: it shows what it will do, does it, checks what it did, and can say so in a log.</source>
-        <translation>Une action pour tout un dossier d’images&#x202f;: Quorlin montre ce qu’il va faire, le fait, vérifie ce qu’il a fait et peut le noter dans un journal.</translation>
+        <source>Process a whole folder of pictures in one go. Quorlin shows the result first, does the work, checks it and keeps a log.</source>
+        <translation>Traiter tout un dossier d’images en une seule fois. Quorlin montre d’abord le résultat, fait le travail, le vérifie et tient un journal.</translation>
     </message>
     <message>
         <source>Free software under the GNU General Public License, version 3 or later. It comes without any warranty.</source>
         <translation>Logiciel libre sous licence publique générale GNU, version 3 ou ultérieure. Il est fourni sans aucune garantie.</translation>
     </message>
     <message>
-        <source>It stands on these libraries</source>
-        <translation>Quorlin s’appuie sur ces bibliothèques</translation>
+        <source>Built with these libraries</source>
+        <translation>Conçu avec ces bibliothèques</translation>
     </message>
     <message>
         <source>Libraries with their versions and licences</source>
@@ -30,6 +30,14 @@
     <message>
         <source>What keeps those who read pictures from doing harm</source>
         <translation>Ce qui empêche la lecture des images de nuire</translation>
+    </message>
+    <message>
+        <source>Copy Versions</source>
+        <translation>Copier les versions</translation>
+    </message>
+    <message>
+        <source>Copy the versions, for a report of a fault</source>
+        <translation>Copier les versions, pour signaler une erreur</translation>
     </message>
 </context>
 <context>
@@ -475,6 +483,29 @@
     <message>
         <source>Explanation</source>
         <translation>Explication</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>crash-note</name>
+    <message>
+        <source>Quorlin ended unexpectedly</source>
+        <translation>Quorlin s’est arrêté de façon inattendue</translation>
+    </message>
+    <message>
+        <source>A fault of its own ended Quorlin the last time. Your originals are not affected.</source>
+        <translation>Une erreur du programme a arrêté Quorlin la dernière fois. Vos originaux ne sont pas touchés.</translation>
+    </message>
+    <message>
+        <source>A report was kept on this computer and sent to nobody. It names the version, the action, the picture and the place of the fault.</source>
+        <translation>Un rapport est resté sur cet ordinateur et n’a été envoyé à personne. Il indique la version, l’action, l’image et l’endroit de l’erreur.</translation>
+    </message>
+    <message>
+        <source>Copy Report</source>
+        <translation>Copier le rapport</translation>
     </message>
     <message>
         <source>Close</source>

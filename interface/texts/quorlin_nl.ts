@@ -8,16 +8,16 @@
         <translation>Over Quorlin</translation>
     </message>
     <message>
-        <source>One deed for a whole folder of pictures: it shows what it will do, does it, checks what it did, and can say so in a log.</source>
-        <translation>Eén bewerking voor een hele map foto’s: Quorlin toont wat het gaat doen, doet het, controleert het resultaat en houdt er een logboek van bij.</translation>
+        <source>Process a whole folder of pictures in one go. Quorlin shows the result first, does the work, checks it and keeps a log.</source>
+        <translation>Een hele map met foto’s in één keer bewerken. Quorlin laat eerst het resultaat zien, doet het werk, controleert het en houdt een logboek bij.</translation>
     </message>
     <message>
         <source>Free software under the GNU General Public License, version 3 or later. It comes without any warranty.</source>
         <translation>Vrije software onder de GNU General Public License, versie 3 of later. Zonder enige garantie.</translation>
     </message>
     <message>
-        <source>It stands on these libraries</source>
-        <translation>Gebruikte bibliotheken</translation>
+        <source>Built with these libraries</source>
+        <translation>Gemaakt met deze bibliotheken</translation>
     </message>
     <message>
         <source>Libraries with their versions and licences</source>
@@ -30,6 +30,14 @@
     <message>
         <source>What keeps those who read pictures from doing harm</source>
         <translation>Wat voorkomt dat het lezen van foto’s schade doet</translation>
+    </message>
+    <message>
+        <source>Copy Versions</source>
+        <translation>Versies kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy the versions, for a report of a fault</source>
+        <translation>De versies kopiëren, voor een foutmelding</translation>
     </message>
 </context>
 <context>
@@ -475,6 +483,29 @@
     <message>
         <source>Explanation</source>
         <translation>Uitleg</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>crash-note</name>
+    <message>
+        <source>Quorlin ended unexpectedly</source>
+        <translation>Quorlin is onverwacht gestopt</translation>
+    </message>
+    <message>
+        <source>A fault of its own ended Quorlin the last time. Your originals are not affected.</source>
+        <translation>Door een fout in het programma is Quorlin de vorige keer gestopt. Uw originelen zijn niet geraakt.</translation>
+    </message>
+    <message>
+        <source>A report was kept on this computer and sent to nobody. It names the version, the action, the picture and the place of the fault.</source>
+        <translation>Er staat een rapport op deze computer; het is naar niemand gestuurd. Het noemt de versie, de actie, de foto en de plaats van de fout.</translation>
+    </message>
+    <message>
+        <source>Copy Report</source>
+        <translation>Rapport kopiëren</translation>
     </message>
     <message>
         <source>Close</source>

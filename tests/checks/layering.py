@@ -134,7 +134,7 @@ LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "
                 "PkgConfig::JPEG": "platform", "PkgConfig::TURBOJPEG": "platform", "PkgConfig::PLIST": "platform", "PkgConfig::OPENJPEG": "platform",
                 "PkgConfig::HEIF": "platform", "PkgConfig::LCMS": "platform", "PkgConfig::PANGO": "platform",
                 "PkgConfig::DEFLATE": "platform", "PkgConfig::SECCOMP": "platform", "PkgConfig::FONTCONFIG": "platform", "PkgConfig::SQLITE": "presets", "SQLite::SQLite3": "presets"}
-SYSTEM = re.compile(r"(sys|linux|netinet|arpa)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|sched|signal|pwd|errno|time|malloc|syslog|spawn)\.h")
+SYSTEM = re.compile(r"(sys|linux|netinet|arpa)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|sched|signal|pwd|errno|time|malloc|syslog|spawn|execinfo)\.h")
 STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits)\.h")
 
 # Words of the product that the platform must not know: classes of the seam, status words, action keywords.

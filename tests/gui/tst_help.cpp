@@ -3,12 +3,14 @@
 
 #include "app/network/download.h"
 #include "app/script/ScriptEngine.h"
+#include "app/setup/crash_file.h"
 #include "platform/desktop/user_defaults.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/web_server.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDialog>
@@ -54,11 +56,29 @@ private Q_SLOTS:
             const QString row = libraries.section(QString::fromLatin1(name) + QStringLiteral("</td>"), 1);
             QVERIFY2(row.contains(QRegularExpression(QStringLiteral("^<td[^>]*>\\d+\\.\\d+"))), name);
         }
+        m_driver->click("aboutCopy");
+        const QStringList copied = QApplication::clipboard()->text().split(u'\n');
+        QCOMPARE(copied.first(), QStringLiteral("Quorlin " QUORLIN_VERSION));
+        QVERIFY(copied.filter(QRegularExpression(QStringLiteral("^libvips \\d+\\."))).size() == 1);
         m_driver->click("aboutClose");
         QVERIFY(!about->isVisible());
         m_driver->trigger("aboutAction");
         QTest::keyClick(about, Qt::Key_Escape);
         QVERIFY(!about->isVisible());
+    }
+
+    void aCrashIsToldOnceAndItsReportCanBeCopied()
+    {
+        const QString report = QStringLiteral("Quorlin 9.9\nSignal: 11\n");
+        QFile file(app::crashFile());
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(report.toUtf8()) > 0);
+        file.close();
+        QApplication::clipboard()->clear();
+        WindowDriver::answerNextQuestion(QStringLiteral("Copy Report"));
+        m_driver->startAgain();
+        QCOMPARE(QApplication::clipboard()->text(), report);
+        QVERIFY(!QFile::exists(app::crashFile()));
+        m_driver->startAgain(); // a question would hold it up
     }
 
     void infoButtonsShowTheirTexts_data()

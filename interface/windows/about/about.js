@@ -31,7 +31,15 @@ export class About {
         this.form = shell.loadForm("windows/about/about.ui");
         this.form.control("aboutTitle").text = fill(qsTr("Quorlin %1"), program.version);
         this.form.control("libraries").text = "<table>" + program.libraries.map(row).join("") + "</table>";
+        this.form.control("aboutCopy").clicked.connect(guard("about.copy", () => this.copy()));
         this.form.control("aboutClose").clicked.connect(guard("about", () => this.form.close()));
+    }
+
+    // What a report of a fault needs.
+    copy() {
+        const versions = program.libraries.map((library) => library.name + " " + library.version);
+        const lines = ["Quorlin " + program.version].concat(versions, [this.form.control("aboutGuard").text]);
+        shell.copyText(lines.join("\n") + "\n");
     }
 
     open() {

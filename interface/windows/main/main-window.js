@@ -1,6 +1,7 @@
 // The main window: its parts, what of them can be used, and how an action or a page is chosen.
 
 import { defaults } from "quorlin/defaults";
+import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";
 import { actionNamed } from "../../actions/actions.js";
 import { guard } from "../../lib/guard.js";
@@ -205,6 +206,7 @@ export class MainWindow {
     showCurrent() {
         const id = this.pictures.currentId;
         const photo = id > 0 ? this.pictures.photo(id) : null;
+        program.noteWork((this.shownPage || this.action).name, String(Object(photo).path || ""));
         if (this.pane === null) {
             return;
         }

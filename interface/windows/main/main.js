@@ -5,6 +5,7 @@ import { defaults } from "quorlin/defaults";
 import { recipes } from "quorlin/recipes";
 import { shell } from "quorlin/shell";
 import { onProblem } from "../../lib/guard.js";
+import { tellCrash } from "./crash-note.js";
 import { connect } from "./main-controls.js";
 import { MainWindow } from "./main-window.js";
 import { watchSettings } from "./settings-watch.js";
@@ -29,6 +30,7 @@ export function openMainWindow() {
     const say = (text) => window.sayBeside(text);
     watchSettings(say);
     window.interrupted.look();
+    tellCrash();
     if (shell.arguments.length > 0) {
         window.input.addPaths(shell.arguments);
     }

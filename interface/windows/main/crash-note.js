@@ -1,0 +1,22 @@
+// Says once, at start, that the window before ended by a fault, and gives away what it left for whoever mends it.
+
+import { program } from "quorlin/program";
+import { shell } from "quorlin/shell";
+
+/** Asks nothing where the window before was closed. */
+export function tellCrash() {
+    const report = program.crashReport();
+    if (report === "") {
+        return;
+    }
+    program.forgetCrash();
+    const answer = shell.ask({
+        title: qsTr("Quorlin ended unexpectedly"),
+        text: qsTr("A fault of its own ended Quorlin the last time. Your originals are not affected."),
+        detail: qsTr("A report was kept on this computer and sent to nobody. It names the version, the action, the picture and the place of the fault."),
+        buttons: [qsTr("Copy Report"), qsTr("Close")], initial: 1, escape: 1, check: "",
+    });
+    if (answer.button === 0) {
+        shell.copyText(report);
+    }
+}
