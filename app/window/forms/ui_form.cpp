@@ -14,12 +14,14 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QFile>
+#include <QGuiApplication>
 #include <QJSEngine>
 #include <QLabel>
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QStyle>
 #include <QUiLoader>
@@ -306,6 +308,13 @@ void Form::close()
         m_root->close();
 }
 
+// A window at its first start may be larger than a small screen. That of the offscreen platform is seen by nobody.
+static void fitToScreen(QWidget &window)
+{
+    if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+        window.resize(window.size().boundedTo(window.screen()->availableSize()));
+}
+
 void Form::remember(const QString &key)
 {
     m_key = key;
@@ -314,6 +323,8 @@ void Form::remember(const QString &key)
     const QByteArray geometry = platform::userDefault(key + QStringLiteral("Geometry")).toByteArray();
     if (!geometry.isEmpty())
         m_root->restoreGeometry(geometry);
+    else
+        fitToScreen(*m_root);
     const QList<QSplitter *> splitters = m_root->findChildren<QSplitter *>();
     for (QSplitter *splitter : splitters) {
         const QByteArray state = platform::userDefault(key + splitter->objectName()).toByteArray();

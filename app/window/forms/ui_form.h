@@ -60,7 +60,7 @@ public:
     /** Brings the window before the others. */
     Q_INVOKABLE void raise();
     Q_INVOKABLE void close();
-    /** Keeps size, place and splitters of this window under @p key, and takes up what was kept. */
+    /** Keeps size, place and splitters of this window under @p key, and takes up what was kept; at first it fits the screen. */
     Q_INVOKABLE void remember(const QString &key);
     /** Called when the user closes the window; where it returns false the window stays. */
     Q_INVOKABLE void onClose(const script::Function &handler) { m_onClose = handler; }
