@@ -43,14 +43,14 @@ constexpr std::array<PictureModel::Column, 4> dispensable = {PictureModel::Camer
                                                              PictureModel::Type, PictureModel::Bytes};
 
 constexpr std::array<ColumnKind, PictureModel::ColumnCount> kinds = {{{"thumbnail", 82, 0, 0, 0},
-                                                                      {"name", 0, 3, 3, 130},
+                                                                      {"name", 0, 4, 3, 130},
                                                                       {"folder", 0, 2, 2, 90},
                                                                       {"taken", 128, 0, 0, 0},
                                                                       {"camera", 118, 0, 0, 0},
                                                                       {"pixels", 92, 0, 0, 0},
                                                                       {"size", 76, 0, 0, 0},
                                                                       {"type", 86, 0, 0, 0},
-                                                                      {"newName", 0, 3, 4, 110},
+                                                                      {"newName", 0, 2, 4, 110},
                                                                       {"newSize", 92, 0, 0, 0},
                                                                       {"status", 0, 5, 4, 120}}};
 
