@@ -1,6 +1,6 @@
-// A run over the comments of pictures: writes or reverts them one by one, keeps each edit in the log at once, and sums up.
+// A run over the comments of pictures: has workers write or revert them one by one, keeps each edit in the log at once, and sums up.
 
-import { files } from "quorlin/files";
+import { CommentWork, files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { editRow, editsOf } from "./comment-run.js";
 import { guard } from "../lib/guard.js";
@@ -12,41 +12,123 @@ function newWork(action) {
              cancelled: false, edits: [] };
 }
 
+// What comment-run.js reads and writes comments with: workers do it, and wake() is called when there is an answer.
+class WorkerComments {
+    constructor(wake) {
+        this.work = new CommentWork();
+        this.work.arrived.connect(guard("comments.arrived", wake));
+    }
+
+    end() {
+        this.work.close();
+    }
+
+    * answer() {
+        let said = this.work.take();
+        while (said.problem === undefined) {
+            yield null;
+            said = this.work.take();
+        }
+        return said;
+    }
+
+    * look(path) {
+        this.work.look(path);
+        const said = yield* this.answer();
+        return said;
+    }
+
+    * write(path, comment) {
+        this.work.write(path, comment);
+        const said = yield* this.answer();
+        return said.problem;
+    }
+
+    isThere(path) {
+        return files.info(path).exists;
+    }
+}
+
 export class CommentJob {
     constructor() {
         this.job = shell.job();
+        this.isLooking = false;
+        this.isStopping = false;
     }
 
     get running() {
         return this.job.running;
     }
 
+    /** Nothing more is written after the picture that is in progress, so that what is done to it is in the log. */
     cancel() {
-        this.job.cancel();
+        if (this.isLooking) {
+            this.job.cancel();
+        } else {
+            this.isStopping = true;
+        }
+    }
+
+    // Stops between two pictures only.
+    * stoppable(generator) {
+        while (!this.isStopping) {
+            let step = generator.next();
+            while (!step.done && step.value === null) {
+                yield null;
+                step = generator.next();
+            }
+            if (step.done) {
+                return;
+            }
+            yield step.value;
+        }
+    }
+
+    /**
+     * Carries out a generator that only looks; one at a time.
+     *
+     * @param make    function(comments) that makes it
+     * @param onStep  called with what it yields
+     * @param onEnd   called with what it returned, or null where it was cancelled
+     */
+    look(make, onStep, onEnd) {
+        const comments = new WorkerComments(() => this.job.wake());
+        const generator = make(comments);
+        this.isLooking = true;
+        this.job.start(generator, guard("comments.looked", onStep), guard("comments.lookEnd", (how, value) => {
+            this.isLooking = false;
+            comments.end();
+            onEnd(how === "done" ? value : null);
+        }));
     }
 
     /**
      * Carries out a generator of comment-run; one at a time.
      *
+     * @param make    function(comments) that makes it
      * @param action  how the log calls it
      * @param onStep  called with {tried, done} after each picture
      * @param onEnd   called with {tried, done, first: the first problem, problem: of the run as a whole, cancelled, edits: that can be
      *                reverted}
      */
-    start(generator, action, onStep, onEnd) {
+    start(make, action, onStep, onEnd) {
         const work = newWork(action);
+        const comments = new WorkerComments(() => this.job.wake());
+        this.isStopping = false;
+        const steps = this.stoppable(make(comments));
         shell.desktop.jobGoesOn(action, -1);
-        this.job.start(generator, guard("comments.step", (result) => { this.take(work, result); onStep(work); }),
+        this.job.start(steps, guard("comments.step", (result) => { this.take(work, result); onStep(work); }),
                        guard("comments.end", (how, value) => {
+            comments.end();
             shell.desktop.jobEnded(action, "");
-            work.cancelled = how === "cancelled";
+            work.cancelled = how === "cancelled" || this.isStopping;
             work.edits.reverse();
             work.problem = (how === "failed" ? String(value) : "") || work.problem || trimRows(files);
             onEnd(work);
         }));
     }
 
-    /** Carries out a generator of one picture at once; returns what onEnd() of start() gets. */
+    /** Carries out a generator of one picture, which does not wait, at once; returns what onEnd() of start() gets. */
     carryOut(generator, action) {
         const work = newWork(action);
         for (const result of generator) {

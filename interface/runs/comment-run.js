@@ -1,5 +1,7 @@
 // Writing the user comment into pictures and reverting it, with what the file really says afterwards. Pure but for translation; what
-// reads and writes comments is handed in.
+// reads and writes comments is handed in: {look*(path) => {comment, pagesLost, problem}; write*(path, text) => "" or what went wrong;
+// isThere(path)}. Both are generators, which yield null while they wait for an answer; pagesLost counts the pages that writing would
+// take out of a file.
 
 import { tokens, TokenText } from "quorlin/tokens";
 import { splitPath } from "../lib/names.js";
@@ -11,13 +13,21 @@ const MADE_UP = { path: "/IMG_4711.JPG",
                   facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
                                                        width: 4032, height: 3024, bytes: 2440000, size: "2.4 MB" } };
 
-/**
- * Reads and writes comments with the service files: read(path) => {comment, problem}; write(path, text) => "" or what went wrong;
- * pagesLost(path) => how many pages a file with several would lose.
- */
+const NO_WAIT = [];
+
+/** Reads and writes comments with the service files, which has its answers at once. */
 export function commentsOf(files) {
-    return { read: (path) => files.readComment(path), write: (path, comment) => files.writeComment(path, comment),
-             pagesLost: (path) => files.pagesLostToComment(path), isThere: (path) => files.info(path).exists };
+    return {
+        * look(path) {
+            yield* NO_WAIT;
+            return Object.assign({ pagesLost: files.pagesLostToComment(path) }, files.readComment(path));
+        },
+        * write(path, comment) {
+            yield* NO_WAIT;
+            return files.writeComment(path, comment);
+        },
+        isThere: (path) => files.info(path).exists,
+    };
 }
 
 function failed(path, reason, now) {
@@ -57,23 +67,17 @@ export function commentExample(text, path, files) {
 
 // What is written was checked before it took the old file's place; what can be read back counts beside that, but a file that cannot be
 // read just then is not one without its comment.
-function written(comments, path, before, comment) {
-    const problem = comments.write(path, comment);
-    const after = comments.read(path);
+function* written(comments, path, before, comment) {
+    const problem = yield* comments.write(path, comment);
+    const after = yield* comments.look(path);
     if (problem !== "") {
         return { path: path, status: "Failed", before: before, after: after.problem === "" ? after.comment : before,
                  reason: problem };
     }
     const isThere = after.problem !== "" || after.comment === comment;
     return { path: path, status: isThere ? "OK" : "Failed", before: before,
-             after: after.problem === "" ? after.comment : comment,
+             after: after.problem === "" ? after.comment : comment, pagesLeft: after.pagesLost,
              reason: isThere ? "" : qsTr("The file does not say what was written into it.") };
-}
-
-/** Writes one comment: {path, status, reason, before, after}. A file whose old comment cannot be read keeps it. */
-export function writeComment(comments, path, comment) {
-    const before = comments.read(path);
-    return before.problem === "" ? written(comments, path, before.comment, comment) : failed(path, before.problem, "");
 }
 
 /** What is said of pages that go, or would go. */
@@ -85,34 +89,41 @@ function pagesInTheWay(pages) {
     return qsTr("It has %n further pages, which would be lost.", "", pages);
 }
 
-// A file that lost its further pages says how many.
-function writeOne(comments, path, comment, pagesMayGo) {
-    const pages = comments.pagesLost(path);
+// A file whose old comment cannot be read keeps it.
+function* writeOne(comments, path, comment, pagesMayGo) {
+    const before = yield* comments.look(path);
+    const pages = before.pagesLost;
     if (pages > 0 && !pagesMayGo) {
         return skipped(path, pagesInTheWay(pages), "");
     }
-    const result = writeComment(comments, path, comment);
-    return pages > 0 && result.status === "OK" && comments.pagesLost(path) === 0
-        ? Object.assign(result, { pages: pages, reason: pagesGone(pages) }) : result;
+    if (before.problem !== "") {
+        return failed(path, before.problem, "");
+    }
+    const result = yield* written(comments, path, before.comment, comment);
+    const areGone = pages > 0 && result.status === "OK" && result.pagesLeft === 0;
+    delete result.pagesLeft;
+    return areGone ? Object.assign(result, { pages: pages, reason: pagesGone(pages) }) : result;
 }
 
 /**
- * A generator that writes a comment into each file; yields what writeComment() gives, with pages where a file lost its further ones.
+ * A generator that writes a comment into each file. It yields {path, status, reason, before, after} for each, with pages where a file lost
+ * its further ones, and null where it waits.
  *
  * @param pagesMayGo  without it files with several pages are left as they are
  */
 export function* writing(comments, paths, comment, pagesMayGo) {
     for (let i = 0; i < paths.length; ++i) {
-        yield writeOne(comments, paths[i], comment(paths[i], i), pagesMayGo);
+        const result = yield* writeOne(comments, paths[i], comment(paths[i], i), pagesMayGo);
+        yield result;
     }
 }
 
 // Why an edit is not reverted; null where it can be.
-function obstacle(comments, edit) {
+function* obstacle(comments, edit) {
     if (!comments.isThere(edit.path)) {
         return failed(edit.path, qsTr("The file is not there any more."), "");
     }
-    const now = comments.read(edit.path);
+    const now = yield* comments.look(edit.path);
     if (now.problem !== "") {
         return failed(edit.path, now.problem, "");
     }
@@ -124,27 +135,33 @@ function obstacle(comments, edit) {
 }
 
 /**
- * A generator that gives pictures their old comments again; yields what writeComment() gives, with undoes, the run of the edit. A
+ * A generator that gives pictures their old comments again; yields what writing() does, with undoes, the run of the edit. A
  * comment that somebody changed since stays.
  *
  * @param edits  each has path, before, after and run; in the order in which they are reverted: the newest first
  */
 export function* reverting(comments, edits) {
     for (const edit of edits) {
-        const found = obstacle(comments, edit);
-        yield Object.assign(found === null ? writeOne(comments, edit.path, edit.before, false) : found,
-                            { undoes: edit.run });
+        const found = yield* obstacle(comments, edit);
+        const result = found === null ? yield* writeOne(comments, edit.path, edit.before, false) : found;
+        yield Object.assign(result, { undoes: edit.run });
     }
 }
 
 /**
- * What files of many pages would lose: {files, pages, words}, words naming the first of them.
+ * A generator that looks what files of many pages would lose. It yields how many it has looked at, and null where it waits, and returns
+ * {files, pages, words}, words naming the first of them.
  *
  * @param paths  of any files
  */
-export function pagesAtStake(comments, paths) {
-    const found = paths.map((path) => ({ name: splitPath(path).name, pages: comments.pagesLost(path) }))
-        .filter((each) => each.pages > 0);
+export function* pagesAtStake(comments, paths) {
+    const looked = [];
+    for (const path of paths) {
+        const said = yield* comments.look(path);
+        looked.push({ name: splitPath(path).name, pages: said.pagesLost });
+        yield looked.length;
+    }
+    const found = looked.filter((each) => each.pages > 0);
     const named = found.slice(0, MOST_NAMED).map((each) => fill(qsTr("%1 (%2)"), each.name, each.pages));
     const rest = found.length - named.length;
     return { files: found.length, pages: found.reduce((sum, each) => sum + each.pages, 0),

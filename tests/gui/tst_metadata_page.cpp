@@ -4,6 +4,7 @@
 #include "app/window/properties/property_tree.h"
 #include "meta/mMeta.h"
 #include "platform/imageio/metadata/metadata.h"
+#include "tests/gui/support/when_asked.h"
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/corpus.h"
 #include "tests/support/made_tiff.h"
@@ -206,6 +207,7 @@ void TestMetadataPage::writesIntoAllPicturesAndRevertsIt()
     QCOMPARE(m_driver->text("metaNote"), QStringLiteral("For example a.jpg: “a 1 %1”").arg(year));
     m_driver->answerNextQuestion(QStringLiteral("Cancel"));
     m_driver->click("metaApplyAll");
+    QVERIFY(m_driver->waitFor([this] { return isIdle(); }));
     QCOMPARE(commentOf(path("b.jpg")), QString());
     m_driver->answerNextQuestion(QStringLiteral("Write"));
     m_driver->click("metaApplyAll");
@@ -260,12 +262,12 @@ void TestMetadataPage::saysBeforehandWhatHasNoPlaceForAComment()
     QVERIFY(!comment()->isReadOnly());
     comment()->setPlainText(QStringLiteral("x"));
     QString detail;
-    QTimer::singleShot(50, this, [&detail] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        detail = box->informativeText();
-        box->reject();
+    whenAsked([&detail](QMessageBox &box) {
+        detail = box.informativeText();
+        box.reject();
     });
     m_driver->click("metaApplyAll");
+    QVERIFY(m_driver->waitFor([&] { return !detail.isEmpty() && isIdle(); }));
     QVERIFY2(detail.contains(QStringLiteral("1 file is of a type that has no place for a comment")),
              qPrintable(detail));
 }
@@ -485,19 +487,18 @@ void TestMetadataPage::leavesFilesWithSeveralPagesOutUnlessAskedFor()
     file.close();
     QString detail;
     bool isChecked = true;
-    const auto answer = [&](bool check) {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        detail = box->informativeText();
-        isChecked = box->checkBox()->isChecked();
-        box->checkBox()->setChecked(check);
-        for (QAbstractButton *each : box->buttons())
+    const auto answer = [&](QMessageBox &box, bool check) {
+        detail = box.informativeText();
+        isChecked = box.checkBox()->isChecked();
+        box.checkBox()->setChecked(check);
+        for (QAbstractButton *each : box.buttons())
             if (each->text() == QStringLiteral("Write"))
                 return each->click();
     };
     const auto writeIntoBoth = [&](bool check) {
         comment()->setPlainText(QStringLiteral("new"));
         m_driver->answerPanels({path("a.jpg"), path("pages.tif")});
-        QTimer::singleShot(300, this, [&answer, check] { answer(check); });
+        whenAsked([&answer, check](QMessageBox &box) { answer(box, check); });
         m_driver->click("metaChooseFiles");
         return m_driver->waitFor([this] { return isIdle(); });
     };

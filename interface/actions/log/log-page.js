@@ -4,7 +4,7 @@
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
-import { commentsOf, editWords, reverting } from "../../runs/comment-run.js";
+import { editWords, reverting } from "../../runs/comment-run.js";
 import { guard } from "../../lib/guard.js";
 import { clearRows, keepRows, logPath, rowLimit } from "../../runs/log-file.js";
 import { rowsByPath } from "../../runs/list-rows.js";
@@ -47,7 +47,6 @@ export class LogPage {
         this.undo = null;
         this.runIsBusy = false;
         this.words = null;
-        this.comments = commentsOf(files);
         this.reverting = new CommentJob();
         this.form = shell.loadForm("actions/log/log-page.ui");
         /** @type {import("quorlin/shell").LogTable} */
@@ -281,7 +280,10 @@ export class LogPage {
 
     // Gives pictures their old comments again.
     revert(edits) {
-        this.reverting.start(reverting(this.comments, edits), qsTr("Revert comment"), (work) => {
+        this.reverting.start((comments) => {
+            const work = reverting(comments, edits);
+            return work;
+        }, qsTr("Revert comment"), (work) => {
             this.form.control("logRunTitle").text = fill(qsTr("Reverting: %1 of %2"), work.tried, edits.length);
             this.form.control("logRunNote").text = "";
         }, (work) => {

@@ -169,7 +169,7 @@ export class MetadataPage {
         this.id = photo.id;
         this.path = photo.path;
         const isPicture = this.tree.showFile(photo.path);
-        const found = this.comments.read(photo.path);
+        const found = files.readComment(photo.path);
         this.read = found.comment;
         this.holds = found.problem === "" && files.holdsComment(photo.path);
         this.view.showPicture(photo.path);
@@ -331,19 +331,53 @@ export class MetadataPage {
         this.form.control("metaApplyAll").text = qsTr("Write into All %n…", "", pictures);
     }
 
+    // What it would cost is found out first.
     write(paths, comment, maker) {
-        const answer = mayWrite(paths, comment, pagesAtStake(this.comments, paths));
-        if (answer.goesOn) {
-            this.run(paths, writing(this.comments, paths, maker, answer.pagesMayGo), qsTr("Write comment"),
-                     commentsWritten);
+        this.job.look((comments) => {
+            const looking = pagesAtStake(comments, paths);
+            return looking;
+        }, (looked) => this.showLooking(looked, paths.length), (lost) => {
+            this.showProgress(0, 0, paths.length);
+            this.showButtons();
+            const answer = lost === null ? { goesOn: false, pagesMayGo: false } : mayWrite(paths, comment, lost);
+            if (answer.goesOn) {
+                this.run(paths, (comments) => {
+                    const work = writing(comments, paths, maker, answer.pagesMayGo);
+                    return work;
+                }, qsTr("Write comment"), commentsWritten);
+            }
+        });
+        this.showButtons();
+        this.showLooking(0, paths.length);
+    }
+
+    // Nothing is written yet.
+    showLooking(looked, of) {
+        this.form.control("metaProgress").maximum = 0;
+        this.form.control("metaNote").text = fill(qsTr("%1 of %2"), looked, of);
+    }
+
+    showProgress(tried, done, of) {
+        this.form.control("metaProgress").maximum = of;
+        this.form.control("metaProgress").value = done;
+        this.form.control("metaNote").text = fill(qsTr("%1 of %2"), tried, of);
+    }
+
+    // What one file would lose, at once.
+    pagesOf(path) {
+        const looking = pagesAtStake(this.comments, [path]);
+        let step = looking.next();
+        while (!step.done) {
+            step = looking.next();
         }
+        return step.value;
     }
 
     // One picture that loses nothing is written without a question. False where it was not written.
     applyOne() {
         const paths = [this.path];
         const comment = this.typedText();
-        const lost = pagesAtStake(this.comments, paths);
+        const lost = this.pagesOf(this.path);
         const answer = lost.files === 0 ? { goesOn: true, pagesMayGo: false } : mayWrite(paths, comment, lost);
         if (!answer.goesOn) {
             return false;
@@ -396,18 +430,18 @@ export class MetadataPage {
 
     revert() {
         const edits = this.edits;
-        this.run(edits, reverting(this.comments, edits), qsTr("Revert comment"), commentsReverted);
+        this.run(edits, (comments) => {
+            const work = reverting(comments, edits);
+            return work;
+        }, qsTr("Revert comment"), commentsReverted);
     }
 
     // The bar advances with each picture that has its comment.
-    run(items, generator, action, words) {
-        const bar = this.form.control("metaProgress");
+    run(items, make, action, words) {
         const isRevert = words === commentsReverted;
-        bar.maximum = items.length;
-        bar.value = 0;
-        this.job.start(generator, action, (work) => {
-            bar.value = work.done;
-            this.form.control("metaNote").text = fill(qsTr("%1 of %2"), work.tried, items.length);
+        this.showProgress(0, 0, items.length);
+        this.job.start(make, action, (work) => {
+            this.showProgress(work.tried, work.done, items.length);
         }, (work) => this.ended(work, words(work.done), isRevert));
         this.showButtons();
     }

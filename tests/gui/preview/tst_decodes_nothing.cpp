@@ -1,5 +1,6 @@
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/corpus.h"
+#include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
 #include "app/window/controls/segmented_control.h"
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void countsWhatIsOpened();
     void staysWithBrokenPictures();
     void staysWhenReadersCrash();
+    void writesTheOtherCommentsWhenReadersCrash();
 
 private:
     QString add(const QString &name, QSize size = {300, 200})
@@ -206,6 +208,30 @@ void DecodesNothing::staysWhenReadersCrash()
         [&] { return preview.shownProblem() == QStringLiteral("This picture cannot be shown: its reader crashed"); }));
     m_driver->pictures().step(1);
     QVERIFY(m_driver->waitFor([&] { return preview.shownProblem().isEmpty(); }));
+}
+
+void DecodesNothing::writesTheOtherCommentsWhenReadersCrash()
+{
+    m_driver.reset();
+    jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+    m_driver = WindowDriver::started();
+    m_pictures = m_driver->folder() + QStringLiteral("/in");
+    QVERIFY(QDir().mkpath(m_pictures));
+    QByteArrayList before;
+    for (const char *name : {"a.png", "read-crash.png", "z.png"})
+        before += pictures::bytesOf(add(QString::fromLatin1(name)));
+    m_driver->drop({m_pictures});
+    m_driver->show("metadata");
+    Q_EMIT m_driver->control<window::SegmentedControl>("metaScope")->chosen(1);
+    m_driver->control<QPlainTextEdit>("metaComment")->setPlainText(QStringLiteral("all"));
+    WindowDriver::answerNextQuestion(QStringLiteral("Write"));
+    m_driver->click("metaApplyAll");
+    const auto said = [&] { return m_driver->text("statusText"); };
+    QVERIFY(m_driver->waitFor([&] { return said().contains(QStringLiteral("comments written")); }));
+    QCOMPARE(said(), QStringLiteral("2 comments written · 1 problem · its reader crashed"));
+    QVERIFY(pictures::bytesOf(m_pictures + QStringLiteral("/z.png")) != before[2]);
+    QCOMPARE(pictures::bytesOf(m_pictures + QStringLiteral("/read-crash.png")), before[1]);
+    QCOMPARE(QDir(m_pictures).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 3);
 }
 
 QUORLIN_GUI_TEST(DecodesNothing)

@@ -1,6 +1,6 @@
 import {
     commentExample, commentMaker, commentProblem, commentsOf, editRow, editsOf, editWords, pagesAtStake, reverting,
-        writeComment, writing,
+        writing,
 } from "../../../interface/runs/comment-run.js";
 import { fill } from "../../../interface/lib/wording.js";
 import { drain, equal, finish, isTrue, test } from "../check.js";
@@ -30,6 +30,14 @@ function service(texts) {
         },
     };
     return Object.assign(commentsOf(files), { texts: texts });
+}
+
+function writeComment(comments, path, comment) {
+    return drain(writing(comments, [path], () => comment, false)).values[0];
+}
+
+function atStake(comments, paths) {
+    return drain(pagesAtStake(comments, paths)).result;
 }
 
 test("writesAndSaysWhatWasThere", () => {
@@ -68,12 +76,13 @@ test("leavesFilesWithSeveralPagesOutUnlessAskedFor", () => {
 });
 
 test("countsThePagesAtStake", () => {
-    const comments = { pagesLost: (path) => (path.indexOf("t") >= 0 ? path.length : 0) };
-    equal(pagesAtStake(comments, ["/a/x.jpg", "/a/t.tif", "/a/tt.tif"]),
+    const comments = commentsOf({ readComment: () => ({ comment: "", problem: "" }),
+                                  pagesLostToComment: (path) => (path.indexOf("t") >= 0 ? path.length : 0) });
+    equal(atStake(comments, ["/a/x.jpg", "/a/t.tif", "/a/tt.tif"]),
           { files: 2, pages: 17, words: "t.tif (8), tt.tif (9)" });
-    equal(pagesAtStake(comments, Array.from({ length: 7 }, (each, index) => "/a/" + index + "t")).words,
+    equal(atStake(comments, Array.from({ length: 7 }, (each, index) => "/a/" + index + "t")).words,
           "0t (5), 1t (5), 2t (5), 3t (5), 4t (5), 2 more files");
-    equal(pagesAtStake(comments, ["/a/x.jpg"]), { files: 0, pages: 0, words: "" });
+    equal(atStake(comments, ["/a/x.jpg"]), { files: 0, pages: 0, words: "" });
 });
 
 const UNABLE = [["/p/locked.gif", "write-protected"], ["/p/text.jpg", "not a picture"],
