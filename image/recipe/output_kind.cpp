@@ -3,7 +3,10 @@
 
 #include "platform/imageio/convert/other_metadata.h"
 #include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/formats/encoding_memory.h"
 #include "platform/imageio/formats/formats.h"
+
+#include <cmath>
 
 namespace image {
 namespace {
@@ -122,6 +125,24 @@ QStringList lossesOfMetadata(const OutputPlan &plan, const RecipeOutput &output,
     return {isHeldInPart
                 ? sentence(QT_TRANSLATE_NOOP("recipe", "%1 holds metadata as XMP alone, without maker notes")).arg(name)
                 : sentence(QT_TRANSLATE_NOOP("recipe", "%1 holds no metadata")).arg(name)};
+}
+
+QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits)
+{
+    constexpr qint64 most = 2LL << 30; // what a worker may take
+    constexpr double million = 1e6;
+    if (plan.type != OutputType::JpegXl || plan.isLossless)
+        return {};
+    const int bands = (end.isGray ? 1 : 3) + (end.hasAlpha ? 1 : 0);
+    const qint64 need =
+        platform::memoryOfEncoding(FileFormat::JpegXl, plan.size, bands, bits > 8 ? 2 : 1, output.isLossless);
+    const double megapixels = double(plan.size.width()) * plan.size.height() / million;
+    if (need <= most)
+        return {};
+    return sentence(QT_TRANSLATE_NOOP("recipe", "%1 of %2 megapixels takes more than 2 GB of memory; at most %3 can be "
+                                                "made of this picture, or choose another type"))
+        .arg(writtenType(plan.type).word, QString::number(megapixels, 'f', 0),
+             QString::number(std::floor(megapixels * double(most) / double(need)), 'f', 0));
 }
 
 QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,

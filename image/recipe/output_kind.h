@@ -18,6 +18,9 @@ bool changesMetadata(const RecipeOutput &output);
 /** True where that can be done to a file of the type without encoding its pixels; @p dpi where its resolution is to change. */
 bool canRewriteMetadata(OutputType type, std::optional<double> dpi);
 
+/** Why a file of the planned size is not made, in a sentence: what it would take of memory. Empty where it is. */
+QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits);
+
 /** What of the picture the output will not have, in sentences. @p end is the picture behind all operations. */
 QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,
                      const platform::ImageSource &source);

@@ -101,6 +101,10 @@ OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const Image
     plan.size = way->end.size;
     plan.cut = cutOf(recipe.operations, stage);
     chooseRoad(plan, *way, output, source);
+    const platform::PixelFacts facts = source.pixelFacts().value_or(platform::PixelFacts());
+    plan.problem = refusalFor(plan, output, way->end, facts.bits);
+    if (!plan.problem.isEmpty())
+        return plan;
     plan.leftOut = plan.isLossless ? 0 : source.imageCount() - 1;
     plan.losses = lossesOf(plan, output, way->end, source);
     return plan;

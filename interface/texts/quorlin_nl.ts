@@ -6893,6 +6893,10 @@
         <source>the recipe cannot be carried out</source>
         <translation>het recept kan niet worden uitgevoerd</translation>
     </message>
+    <message>
+        <source>%1 of %2 megapixels takes more than 2 GB of memory; at most %3 can be made of this picture, or choose another type</source>
+        <translation>%1 met %2 megapixels vraagt meer dan 2 GB geheugen; van deze foto zijn er hoogstens %3 mogelijk, of kies een ander type</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

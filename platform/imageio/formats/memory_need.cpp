@@ -1,5 +1,7 @@
 #include "platform/imageio/formats/memory_need.h"
 
+#include "platform/imageio/formats/encoding_memory.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -117,6 +119,11 @@ qint64 addressesOfThreads(Content content)
 qint64 memoryNeedOfWriting(FileFormat format, const vips::VImage &image, Loss loss)
 {
     return bytesFor(costOfWriting(format, image.bands(), loss), image);
+}
+
+qint64 memoryOfEncoding(FileFormat format, QSize pixels, int bands, int bytesPerSample, bool isLossless)
+{
+    return bytesFor(costOfWriting(format, bands, isLossless ? Loss::None : Loss::Some), pixels, bands * bytesPerSample);
 }
 
 qint64 memoryNeedOfPage(const vips::VImage &image)

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void makesWhatWasPlanned();
     void staysBelowABound();
     void saysWhatCannotBeMade();
+    void refusesAJpegXlThatTakesTooMuchMemory();
     void sharpensEdgesAndNothingElse();
     void laysAWatermarkWhereItBelongs();
     void paddingAndFramesHaveTheirColour();
@@ -288,6 +289,28 @@ void TestRecipeMaking::saysWhatCannotBeMade()
     outside.width = outside.height = 1;
     outside.right = 100'000;
     QVERIFY(!planOf(recipeOf({outside}), psd).first().problem.isEmpty());
+}
+
+void TestRecipeMaking::refusesAJpegXlThatTakesTooMuchMemory()
+{
+    const ScratchFolder folder;
+    const ImageSource source = ImageSource::open(saved(folder, "a.png", photograph({60, 40}))).value();
+    const auto planned = [&](OutputType type, int width, bool isLossless) {
+        ResizeOperation larger;
+        larger.by = ResizeBy::Width;
+        larger.number = width;
+        larger.enlarges = true;
+        Recipe recipe = recipeOf({larger}, type);
+        recipe.outputs.first().isLossless = isLossless;
+        return planOf(recipe, source).first();
+    };
+    QVERIFY(planned(OutputType::JpegXl, 6364, false).problem.isEmpty());      // 27 megapixels
+    const QString refused = planned(OutputType::JpegXl, 9000, false).problem; // 54
+    QVERIFY2(refused.contains(QStringLiteral("54 megapixels")) && refused.contains(QStringLiteral("at most 44")),
+             qPrintable(refused));
+    QVERIFY(planned(OutputType::JpegXl, 6000, true).problem.isEmpty());
+    QVERIFY(!planned(OutputType::JpegXl, 7500, true).problem.isEmpty());
+    QVERIFY(planned(OutputType::Avif, 9000, false).problem.isEmpty());
 }
 
 void TestRecipeMaking::sharpensEdgesAndNothingElse()

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/imageio/formats/file_format.h"
+
+#include <QSize>
+
+namespace platform {
+
+/**
+ * The bytes that encoding takes beside the pixels, which are in memory, as far as size and form say.
+ *
+ * @param bands           channels with transparency, 1 to 4
+ * @param bytesPerSample  1 or 2
+ * @param isLossless      where the format leaves a choice
+ */
+qint64 memoryOfEncoding(FileFormat format, QSize pixels, int bands, int bytesPerSample, bool isLossless);
+
+} // namespace platform
