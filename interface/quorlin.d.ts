@@ -1763,6 +1763,13 @@ declare module "quorlin/shell" {
     export interface ComparePreview extends Widget {
         fill: boolean;
         showsResult: boolean;
+        /** Original and result have the same place; the result is seen where there is one. */
+        single: boolean;
+        /** Pixels of the screen for one of the picture, 1/32 to 8; 0: as large as the place allows. */
+        zoom: double;
+        readonly zoomChanged: Signal<() => any>;
+        /** The part that can be seen at that scale is on the screen. */
+        readonly partShown: Signal<() => any>;
         /** Shown in the place of a picture that is not there; empty for the usual sentence. */
         problem: string;
         /** The size of the file of the result, which was made once for that; -1 while it is not known. */

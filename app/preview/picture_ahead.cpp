@@ -7,9 +7,17 @@
 
 namespace window {
 
+std::optional<QRectF> partIn(const jobs::ReadResult &result)
+{
+    if (!result.value("right").isValid())
+        return std::nullopt;
+    return QRectF(QPointF(result.value("left").toDouble(), result.value("top").toDouble()),
+                  QPointF(result.value("right").toDouble(), result.value("bottom").toDouble()));
+}
+
 namespace {
 
-constexpr size_t keptAhead = 6;
+constexpr size_t keptAhead = 6; // of each picture the whole and a part
 
 ShownPicture pictureFrom(const jobs::ReadResult &result)
 {
@@ -19,6 +27,7 @@ ShownPicture pictureFrom(const jobs::ReadResult &result)
     picture.image = result.image;
     picture.isReaderGone = result.isReaderGone;
     picture.lacksMemory = result.value("lacksMemory").toBool();
+    picture.part = partIn(result).value_or(picture.part);
     if (picture.problem.isEmpty() && (picture.image.isNull() || picture.full.isEmpty()))
         picture.isReaderGone = true; // it said neither the one nor the other
     return picture;
@@ -26,19 +35,34 @@ ShownPicture pictureFrom(const jobs::ReadResult &result)
 
 } // namespace
 
-void PictureAhead::want(const QStringList &paths, const ShownRoom &room)
+QVariantMap valuesOf(const ShownRoom &room)
 {
-    m_wanted = paths;
-    m_wantedRoom = room;
+    QVariantMap values = {{QStringLiteral("roomWidth"), room.size.width()},
+                          {QStringLiteral("roomHeight"), room.size.height()},
+                          {QStringLiteral("covers"), room.isCovered}};
+    if (room.isPart()) {
+        values.insert(QStringLiteral("scale"), room.scale);
+        values.insert(QStringLiteral("centerX"), room.center.x());
+        values.insert(QStringLiteral("centerY"), room.center.y());
+    }
+    return values;
+}
+
+void PictureAhead::want(const QStringList &paths, const QList<ShownRoom> &rooms)
+{
+    m_wanted.clear();
+    for (const QString &path : paths)
+        for (const ShownRoom &room : rooms)
+            m_wanted.append({path, room});
     // What is in the making is not begun once more.
-    const bool isWantedStill = m_takePrepared || paths.contains(m_preparing);
-    if (!m_preparing.isEmpty() && !(isWantedStill && room == m_preparingRoom)) {
+    const bool isWantedStill = (m_takePrepared && rooms.contains(m_preparing.room)) || m_wanted.contains(m_preparing);
+    if (!m_preparing.path.isEmpty() && !isWantedStill) {
         m_soon.drop();
-        m_preparing.clear();
+        m_preparing = {};
         m_takePrepared = {};
     }
     m_wanted.removeAll(m_preparing);
-    m_mostKept = paths.isEmpty() ? 1 : keptAhead;
+    m_mostKept = paths.isEmpty() ? 2 : 2 * keptAhead;
     while (m_kept.size() > m_mostKept)
         m_kept.pop_front();
     prepareNext();
@@ -54,6 +78,12 @@ const PictureAhead::Kept *PictureAhead::find(const QString &path, const ShownRoo
     return info.lastModified() == found->changed && info.size() == found->bytes ? &*found : nullptr;
 }
 
+/** What was kept of the same picture for another place of the same kind is not asked for again. */
+void PictureAhead::forgetLike(const QString &path, const ShownRoom &room)
+{
+    std::erase_if(m_kept, [&](const Kept &kept) { return kept.path == path && kept.room.isPart() == room.isPart(); });
+}
+
 void PictureAhead::forget(const QString &path)
 {
     m_kept.erase(std::remove_if(m_kept.begin(), m_kept.end(), [&path](const Kept &kept) { return kept.path == path; }),
@@ -63,17 +93,13 @@ void PictureAhead::forget(const QString &path)
 jobs::Reader::Number PictureAhead::ask(jobs::Reader &reader, const QString &path, const ShownRoom &room,
                                        jobs::Urgency urgency, const Take &take)
 {
-    const jobs::ReadRequest request = {jobs::Reading::Rendition,
-                                       path,
-                                       {{QStringLiteral("roomWidth"), room.size.width()},
-                                        {QStringLiteral("roomHeight"), room.size.height()},
-                                        {QStringLiteral("covers"), room.isCovered}}};
+    const jobs::ReadRequest request = {jobs::Reading::Rendition, path, valuesOf(room)};
     const QFileInfo info(path);
     const QDateTime changed = info.lastModified();
     const qint64 bytes = info.size();
     return reader.ask(request, urgency, [=, this](const jobs::ReadResult &result) {
         const ShownPicture picture = pictureFrom(result);
-        forget(path);
+        forgetLike(path, room);
         m_kept.push_back({path, changed, bytes, room, picture});
         if (m_kept.size() > m_mostKept)
             m_kept.pop_front();
@@ -88,7 +114,7 @@ void PictureAhead::get(const QString &path, const ShownRoom &room,
     m_takePrepared = {};
     if (const Kept *kept = find(path, room)) {
         const Kept used = *kept;
-        forget(path);
+        forgetLike(path, room);
         m_kept.push_back(used);
         take(used.picture);
         return;
@@ -101,12 +127,12 @@ void PictureAhead::get(const QString &path, const ShownRoom &room,
 
 bool PictureAhead::isPreparing(const QString &path, const ShownRoom &room) const
 {
-    return path == m_preparing && room == m_preparingRoom && m_soon.isBegun(m_preparingNumber);
+    return m_preparing == Wanted{path, room} && m_soon.isBegun(m_preparingNumber);
 }
 
 void PictureAhead::takePrepared(const ShownPicture &picture)
 {
-    m_preparing.clear();
+    m_preparing = {};
     if (const Take take = std::exchange(m_takePrepared, {}))
         take(picture);
     prepareNext();
@@ -114,13 +140,12 @@ void PictureAhead::takePrepared(const ShownPicture &picture)
 
 void PictureAhead::prepareNext()
 {
-    while (m_preparing.isEmpty() && !m_wanted.isEmpty()) {
-        const QString path = m_wanted.takeFirst();
-        if (find(path, m_wantedRoom))
+    while (m_preparing.path.isEmpty() && !m_wanted.isEmpty()) {
+        const Wanted next = m_wanted.takeFirst();
+        if (find(next.path, next.room))
             continue;
-        m_preparing = path;
-        m_preparingRoom = m_wantedRoom;
-        m_preparingNumber = ask(m_soon, path, m_wantedRoom, jobs::Urgency::Later,
+        m_preparing = next;
+        m_preparingNumber = ask(m_soon, next.path, next.room, jobs::Urgency::Later,
                                 [this](const ShownPicture &picture) { takePrepared(picture); });
     }
 }

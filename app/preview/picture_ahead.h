@@ -9,6 +9,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 
 namespace window {
 
@@ -20,15 +21,25 @@ struct ShownPicture
     QImage image;              ///< for the screen
     bool isReaderGone = false; ///< whoever read it crashed, or was ended
     bool lacksMemory = false;
+    QRectF part = {0, 0, 1, 1}; ///< what of the picture the image is, from 0 to 1
 };
 
-/** How large pictures are shown, in pixels of the screen. */
+/** How large pictures are shown, in pixels of the screen, and what of them. */
 struct ShownRoom
 {
     QSizeF size;
     bool isCovered = false;
+    double scale = 0;    ///< pixels of the screen for one of the picture; 0: as many as the size allows
+    QPointF center = {}; ///< with a scale: what lies in the middle, from 0 to 1
+    bool isPart() const { return scale > 0; }
     bool operator==(const ShownRoom &other) const = default;
 };
+
+/** The same for whoever makes the picture. */
+QVariantMap valuesOf(const ShownRoom &room);
+
+/** The part of a picture that was made, from 0 to 1; nothing where it is all of it. */
+std::optional<QRectF> partIn(const jobs::ReadResult &result);
 
 /**
  * Pictures on their way to the screen: the one that is to be shown now, and those that will be shown soon or were a moment ago. Workers
@@ -41,8 +52,8 @@ class PictureAhead : public QObject
 public:
     explicit PictureAhead(QObject *parent) : QObject(parent) {}
 
-    /** The pictures that will probably be asked for, the most wanted first. */
-    void want(const QStringList &paths, const ShownRoom &room);
+    /** The pictures that will probably be asked for, the most wanted first, each in all these rooms. */
+    void want(const QStringList &paths, const QList<ShownRoom> &rooms);
     bool has(const QString &path, const ShownRoom &room) const { return find(path, room) != nullptr; }
     /** Lets go of a picture whose file was written. */
     void forget(const QString &path);
@@ -59,7 +70,15 @@ private:
         ShownPicture picture;
     };
 
+    struct Wanted
+    {
+        QString path;
+        ShownRoom room;
+        bool operator==(const Wanted &other) const = default;
+    };
+
     void prepareNext();
+    void forgetLike(const QString &path, const ShownRoom &room);
     const Kept *find(const QString &path, const ShownRoom &room) const;
     using Take = std::function<void(const ShownPicture &picture)>;
     jobs::Reader::Number ask(jobs::Reader &reader, const QString &path, const ShownRoom &room, jobs::Urgency urgency,
@@ -67,11 +86,9 @@ private:
     bool isPreparing(const QString &path, const ShownRoom &room) const;
     void takePrepared(const ShownPicture &picture);
 
-    size_t m_mostKept = 1;
-    QStringList m_wanted;
-    ShownRoom m_wantedRoom;
-    QString m_preparing; ///< empty where none is
-    ShownRoom m_preparingRoom;
+    size_t m_mostKept = 2;
+    QList<Wanted> m_wanted;
+    Wanted m_preparing; ///< with an empty path where none is
     jobs::Reader::Number m_preparingNumber = 0;
     Take m_takePrepared;     ///< it is asked for meanwhile
     std::deque<Kept> m_kept; ///< the one that was used last at the end

@@ -124,6 +124,7 @@ ComparePreview *Shell::largePreview(Form *form)
     auto *preview = new ComparePreview(form->root());
     preview->setObjectName(QStringLiteral("largePreview"));
     preview->setShowsResult(false);
+    preview->setSingle(true);
     preview->coverParent();
     preview->hide();
     return preview;

@@ -394,6 +394,14 @@
         <source>Keys Link</source>
         <translation>Tasten: verknüpfen</translation>
     </message>
+    <message>
+        <source>Actual pixels</source>
+        <translation>Originalpixel</translation>
+    </message>
+    <message>
+        <source>Show the picture’s own pixels, and all of it again (Ctrl+2)</source>
+        <translation>Die eigenen Pixel des Bildes zeigen und wieder das ganze Bild (Strg+2)</translation>
+    </message>
 </context>
 <context>
     <name>HandPane</name>
@@ -987,6 +995,14 @@
     <message>
         <source>&amp;Columns of the List</source>
         <translation>&amp;Spalten der Liste</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Pixels</source>
+        <translation>&amp;Originalpixel</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <translation>1:1</translation>
     </message>
 </context>
 <context>
@@ -5265,6 +5281,10 @@
     <message>
         <source>Large preview</source>
         <translation>Große Vorschau</translation>
+    </message>
+    <message>
+        <source>%1: the result. Hold F to see the original.</source>
+        <translation>%1: das Ergebnis. F gedrückt halten zeigt das Original.</translation>
     </message>
 </context>
 <context>
@@ -9601,6 +9621,10 @@
     <message>
         <source>This picture cannot be shown</source>
         <translation>Dieses Bild kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

@@ -394,6 +394,14 @@
         <source>Keys Link</source>
         <translation>Touches&#x202f;: lier</translation>
     </message>
+    <message>
+        <source>Actual pixels</source>
+        <translation>Pixels réels</translation>
+    </message>
+    <message>
+        <source>Show the picture’s own pixels, and all of it again (Ctrl+2)</source>
+        <translation>Afficher les pixels de l’image, puis de nouveau l’image entière (Ctrl+2)</translation>
+    </message>
 </context>
 <context>
     <name>HandPane</name>
@@ -987,6 +995,14 @@
     <message>
         <source>&amp;Columns of the List</source>
         <translation>&amp;Colonnes de la liste</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Pixels</source>
+        <translation>Pixels &amp;réels</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <translation>1:1</translation>
     </message>
 </context>
 <context>
@@ -5265,6 +5281,10 @@
     <message>
         <source>Large preview</source>
         <translation>Grand aperçu</translation>
+    </message>
+    <message>
+        <source>%1: the result. Hold F to see the original.</source>
+        <translation>%1 : le résultat. Maintenez F pour voir l’original.</translation>
     </message>
 </context>
 <context>
@@ -9601,6 +9621,10 @@
     <message>
         <source>This picture cannot be shown</source>
         <translation>Cette image ne peut pas être affichée</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

@@ -394,6 +394,14 @@
         <source>Keys Link</source>
         <translation>Toetsen: linken</translation>
     </message>
+    <message>
+        <source>Actual pixels</source>
+        <translation>Werkelijke pixels</translation>
+    </message>
+    <message>
+        <source>Show the picture’s own pixels, and all of it again (Ctrl+2)</source>
+        <translation>De eigen pixels van de foto tonen, en weer de hele foto (Ctrl+2)</translation>
+    </message>
 </context>
 <context>
     <name>HandPane</name>
@@ -987,6 +995,14 @@
     <message>
         <source>&amp;Columns of the List</source>
         <translation>&amp;Kolommen van de lijst</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Pixels</source>
+        <translation>&amp;Werkelijke pixels</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <translation>1:1</translation>
     </message>
 </context>
 <context>
@@ -5265,6 +5281,10 @@
     <message>
         <source>Large preview</source>
         <translation>Groot voorbeeld</translation>
+    </message>
+    <message>
+        <source>%1: the result. Hold F to see the original.</source>
+        <translation>%1: het resultaat. Houd F ingedrukt om het origineel te zien.</translation>
     </message>
 </context>
 <context>
@@ -9601,6 +9621,10 @@
     <message>
         <source>This picture cannot be shown</source>
         <translation>Deze foto kan niet worden getoond</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>

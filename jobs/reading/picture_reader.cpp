@@ -10,6 +10,7 @@
 #include "jobs/services/recipe_service.h"
 #include "platform/file/lent_file.h"
 #include "platform/foundation/memory_left.h"
+#include "platform/graphics/resample.h"
 #include "platform/imageio/comments/user_comment_writer.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/formats/formats.h"
@@ -116,10 +117,50 @@ public:
         return withPictureFacts(facts, platform::pictureFacts(file()));
     }
 
+    double scale() const { return value("scale").toDouble(); }
+
     QSize renditionOf(QSize pixels) const
     {
+        if (scale() > 0)
+            return scale() < 1 ? (QSizeF(pixels) * scale()).toSize().expandedTo({1, 1}) : pixels;
         return renditionSize(pixels, QSizeF(value("roomWidth").toDouble(), value("roomHeight").toDouble()),
                              value("covers").toBool());
+    }
+
+    /** All files as they are now, by which a result is known again. */
+    std::vector<Kept> kept() const
+    {
+        std::vector<Kept> all;
+        for (const auto &file : m_files)
+            all.push_back(keptOf(file->descriptor()));
+        return all;
+    }
+
+    /** What a result depends on, but for its files: from its own pixels on they are the same ones at every scale. */
+    QVariantMap asked() const
+    {
+        QVariantMap values = m_read.values;
+        for (const char *place : {"centerX", "centerY", "roomWidth", "roomHeight"})
+            values.remove(key(place));
+        values.insert(key("scale"), std::min(1.0, scale()));
+        return values;
+    }
+
+    /** What is seen of a picture: all of it, or a part with the place of that. */
+    ReadAnswer shownPart(const Bitmap &bitmap, QSize full) const
+    {
+        if (!(scale() > 0))
+            return shown(bitmap.toScreenImage(), full);
+        const QSizeF room(value("roomWidth").toDouble(), value("roomHeight").toDouble());
+        const QPointF center(value("centerX").toDouble(), value("centerY").toDouble());
+        const QRect part = partInView(bitmap.size(), room, center, scale());
+        ReadAnswer answer = shown(platform::cut(bitmap, part).toScreenImage(), full);
+        QVariantMap &values = answer.message.values;
+        values.insert(key("left"), double(part.left()) / bitmap.width());
+        values.insert(key("top"), double(part.top()) / bitmap.height());
+        values.insert(key("right"), double(part.right() + 1) / bitmap.width());
+        values.insert(key("bottom"), double(part.bottom() + 1) / bitmap.height());
+        return answer;
     }
 
 private:
@@ -285,28 +326,48 @@ ReadAnswer PictureReader::rendition(const Request &request)
 {
     QSize full;
     const Result<Bitmap> base = baseOf(request, &full);
-    return base ? shown(base->toScreenImage(), full) : failedWith(base.error(), full);
+    return base ? request.shownPart(*base, full) : failedWith(base.error(), full);
+}
+
+/** The result at the size that is asked for, which is kept where a part of it is shown. */
+Result<Rendition> PictureReader::resultOf(const Request &request)
+{
+    const bool isPart = request.scale() > 0;
+    if (isPart && !m_result.bitmap.isNull() && m_resultAsked == request.asked() && m_resultFiles == request.kept())
+        return m_result;
+    m_result = {};
+    m_found.reset();
+    QSize full;
+    const Result<Bitmap> base = baseOf(request, &full);
+    if (!base)
+        return tl::unexpected<platform::Error>(base.error());
+    const Result<Edits> edits = editsFrom(request.value("edits").toList(), request.recipeFiles());
+    const Result<Rendition> made = edits.and_then([&](const Edits &read) {
+        return done(read, {*base, full}, request.facts());
+    });
+    if (!made)
+        return made;
+    m_found = foundPart(*edits, {*base, full});
+    if (isPart) {
+        m_resultAsked = request.asked();
+        m_resultFiles = request.kept();
+        m_result = *made;
+    }
+    return made;
 }
 
 ReadAnswer PictureReader::result(const Request &request)
 {
-    QSize full;
-    const Result<Bitmap> base = baseOf(request, &full);
-    if (!base)
-        return failedWith(base.error(), full);
-    const Result<Edits> edits = editsFrom(request.value("edits").toList(), request.recipeFiles());
-    const Result<jobs::Rendition> made = edits.and_then([&](const Edits &read) {
-        return done(read, {*base, full}, request.facts());
-    });
+    const Result<Rendition> made = resultOf(request);
     if (!made)
         return failedWith(made.error());
-    ReadAnswer answer = shown(made->bitmap.toScreenImage(), made->full);
-    if (const std::optional<QRect> part = foundPart(*edits, {*base, full})) {
+    ReadAnswer answer = request.shownPart(made->bitmap, made->full);
+    if (m_found) {
         QVariantMap &values = answer.message.values;
-        values.insert(key("partX"), part->x());
-        values.insert(key("partY"), part->y());
-        values.insert(key("partWidth"), part->width());
-        values.insert(key("partHeight"), part->height());
+        values.insert(key("partX"), m_found->x());
+        values.insert(key("partY"), m_found->y());
+        values.insert(key("partWidth"), m_found->width());
+        values.insert(key("partHeight"), m_found->height());
     }
     return answer;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "jobs/reading/preview_edits.h"
 #include "jobs/reading/reading_messages.h"
 #include "platform/descriptors/shared_image.h"
 #include "platform/imageio/source/picture.h"
@@ -43,9 +44,15 @@ private:
     ReadAnswer result(const Request &request);
     platform::Result<platform::Picture> pictureOf(const Request &request);
     platform::Result<platform::Bitmap> baseOf(const Request &request, QSize *full);
+    platform::Result<Rendition> resultOf(const Request &request);
 
     Kept m_kept;
     platform::Picture m_picture;
+    /** The last result that only a part was asked for, since more of it will be. */
+    QVariantMap m_resultAsked;
+    std::vector<Kept> m_resultFiles;
+    Rendition m_result;
+    std::optional<QRect> m_found; ///< in the last result, see foundPart()
 };
 
 } // namespace jobs

@@ -91,4 +91,17 @@ QSize renditionSize(QSize pixels, QSizeF room, bool covers)
     return whole(isHuge ? own.scaled(least * mostOfRoom, Qt::KeepAspectRatio) : scaled).boundedTo(pixels);
 }
 
+QRect partInView(QSize pixels, QSizeF room, QPointF center, double zoom)
+{
+    constexpr double around = 1.25;
+    const QSizeF wide = room * around / std::max(1.0, zoom);
+    const auto along = [](double middle, double length, int all) {
+        const double begin = length >= all ? 0 : std::clamp(middle - length / 2, 0.0, all - length);
+        return std::pair(int(std::floor(begin)), std::min(all, int(std::ceil(begin + std::min(length, double(all))))));
+    };
+    const auto [left, right] = along(center.x() * pixels.width(), wide.width(), pixels.width());
+    const auto [top, bottom] = along(center.y() * pixels.height(), wide.height(), pixels.height());
+    return {left, top, right - left, bottom - top};
+}
+
 } // namespace jobs

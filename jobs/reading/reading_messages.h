@@ -2,6 +2,8 @@
 
 #include "jobs/crew/messages.h"
 
+#include <QPointF>
+#include <QRect>
 #include <QSize>
 #include <QStringList>
 #include <QVariantMap>
@@ -23,13 +25,14 @@ enum class Reading {
     /** The middle of the picture in {width, height} pixels; that size in pixels of the screen. */
     Thumbnail,
     /**
-     * The picture in no more pixels than can be seen: {roomWidth, roomHeight} and "covers", see renditionSize().
+     * The picture in no more pixels than can be seen: {roomWidth, roomHeight} and "covers", see renditionSize(). With a {scale} above 0 the
+     * part that is seen at it instead: {centerX, centerY} is what lies in the middle of the room, from 0 to 1; see partInView().
      * Answer: pixels, and the {width, height} of the upright picture; with a problem these tell that it could be opened, and
-     * {lacksMemory} whether there was not enough.
+     * {lacksMemory} whether there was not enough. Of a part also {left, top, right, bottom}, from 0 to 1 of the whole.
      */
     Rendition,
     /**
-     * The same with {edits} done to it, see preview_edits.h. Answer: pixels, and the {width, height} of the whole result; and {partX,
+     * The same with {edits} done to it, see preview_edits.h; a scale is that of the result. Answer: pixels, and the {width, height} of the whole result; and {partX,
      * partY, partWidth, partHeight} of the picture where they begin with a cut whose place was found by looking at it.
      */
     Result,
@@ -72,5 +75,13 @@ platform::Message toMessage(const AnswerMessage &answer);
 
 /** As many pixels as can be seen of a picture of @p pixels: what fits into the room, or covers it; never more than it has. */
 QSize renditionSize(QSize pixels, QSizeF room, bool covers);
+
+/**
+ * The part of a picture with @p pixels in all that is seen in a room, with an eighth of the room around it, so that it can be moved a
+ * little. It is moved itself so that the picture fills it. A picture that is shown larger than it is has @p zoom above 1.
+ *
+ * @param center  what should lie in the middle of the room, from 0 to 1
+ */
+QRect partInView(QSize pixels, QSizeF room, QPointF center, double zoom);
 
 } // namespace jobs

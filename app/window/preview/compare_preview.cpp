@@ -21,25 +21,6 @@ constexpr int marginPx = 32;
 constexpr int settleMs = 90;
 constexpr int nextPictureMs = 15;
 constexpr int lateMs = 250;
-/** What a setting costs is worked out when nobody changes it. */
-constexpr int stillMs = 500;
-
-QString reasonText(const QString &reason)
-{
-    return reason.isEmpty() ? reason : QStringLiteral(": ") + reason;
-}
-
-QString cannotBeShown(const QString &reason)
-{
-    return ComparePreview::tr("This picture cannot be shown") + reasonText(reason);
-}
-
-QString problemWith(const ShownPicture &picture)
-{
-    if (picture.isReaderGone || picture.lacksMemory)
-        return cannotBeShown(picture.problem);
-    return picture.full.isEmpty() ? ComparePreview::tr("Not a readable picture") : cannotBeShown({});
-}
 
 /** What is left for a picture beside the lines of text. */
 QSizeF roomFor(const QRect &area)
@@ -49,6 +30,19 @@ QSizeF roomFor(const QRect &area)
 }
 
 } // namespace
+
+QString ComparePreview::cannotBeShown(const QString &reason)
+{
+    const QString why = reason.isEmpty() ? reason : QStringLiteral(": ") + reason;
+    return tr("This picture cannot be shown") + why;
+}
+
+QString ComparePreview::problemWith(const ShownPicture &picture)
+{
+    if (picture.isReaderGone || picture.lacksMemory)
+        return cannotBeShown(picture.problem);
+    return picture.full.isEmpty() ? tr("Not a readable picture") : cannotBeShown({});
+}
 
 ComparePreview::ComparePreview(QWidget *parent)
     : QWidget(parent), m_ahead(this), m_mainHost(std::make_unique<PreviewHost>(*this)),
@@ -63,9 +57,10 @@ ComparePreview::ComparePreview(QWidget *parent)
     connect(m_cropFrame, &CropFrameEditor::edited, this, [this](const QRect &frame) {
         Q_EMIT cropFrameEdited(frame.x(), frame.y(), frame.width(), frame.height());
     });
-    for (QTimer *timer : {&m_settled, &m_asked, &m_late, &m_still})
+    for (QTimer *timer : {&m_settled, &m_moved, &m_asked, &m_late, &m_still})
         timer->setSingleShot(true);
     connect(&m_settled, &QTimer::timeout, this, &ComparePreview::load);
+    connect(&m_moved, &QTimer::timeout, this, &ComparePreview::askForParts);
     connect(&m_asked, &QTimer::timeout, this, &ComparePreview::render);
     connect(&m_late, &QTimer::timeout, this, &ComparePreview::clearLate);
     connect(&m_still, &QTimer::timeout, this, &ComparePreview::askForBytes);
@@ -83,6 +78,17 @@ void ComparePreview::setShowsResult(bool shows)
 {
     m_showsResult = shows;
     m_settled.start(0);
+}
+
+void ComparePreview::setSingle(bool isSingle)
+{
+    m_isSingle = isSingle;
+    m_settled.start(0);
+}
+
+void ComparePreview::prepare(const QStringList &paths)
+{
+    m_ahead.want(paths, m_zoom.isOn() ? QList<ShownRoom>{room(), partRoom()} : QList<ShownRoom>{room()});
 }
 
 void ComparePreview::showPicture(const QString &path)
@@ -156,8 +162,9 @@ void ComparePreview::setNotes(const QString &notes)
 
 void ComparePreview::describe()
 {
-    setAccessibleDescription(m_originalTitle + QStringLiteral(": ") + m_originalCaption + QStringLiteral(". ") +
-                             m_resultTitle + QStringLiteral(": ") + m_resultCaption + QStringLiteral(". ") + m_notes);
+    setAccessibleDescription(titled(m_originalTitle, m_zoom.scale()) + QStringLiteral(": ") + m_originalCaption +
+                             QStringLiteral(". ") + m_resultTitle + QStringLiteral(": ") + m_resultCaption +
+                             QStringLiteral(". ") + m_notes);
 }
 
 void ComparePreview::coverParent()
@@ -175,12 +182,12 @@ bool ComparePreview::eventFilter(QObject *watched, QEvent *event)
 
 QRect ComparePreview::originalArea() const
 {
-    return m_showsResult ? QRect(0, 0, width() / 2, height()) : rect();
+    return m_showsResult && !m_isSingle ? QRect(0, 0, width() / 2, height()) : rect();
 }
 
 QRect ComparePreview::resultArea() const
 {
-    return QRect(width() / 2, 0, width() - width() / 2, height());
+    return m_isSingle ? rect() : QRect(width() / 2, 0, width() - width() / 2, height());
 }
 
 // In logical pixels; one pixel of the picture is at most one pixel of the screen with "fit".
@@ -229,7 +236,11 @@ void ComparePreview::load()
 void ComparePreview::takePicture(const ShownPicture &picture)
 {
     m_late.stop();
+    if (m_shownPath != m_path)
+        m_part = {};
+    m_partProblem.clear();
     m_shownPath = m_path;
+    m_baseImage = picture.image;
     m_problem.clear();
     m_full = picture.image.isNull() ? QSize() : picture.full;
     m_base = platform::Bitmap::fromImage(picture.image);
@@ -239,8 +250,10 @@ void ComparePreview::takePicture(const ShownPicture &picture)
     fitViews();
     placeCropFrame();
     render();
-    if (!m_base.isNull())
+    if (!m_base.isNull()) {
         Q_EMIT pictureShown();
+        askForPart();
+    }
 }
 
 /** A picture that takes its time leaves an empty place and not another picture's. */
@@ -251,8 +264,10 @@ void ComparePreview::clearLate()
     m_full = {};
     m_base = {};
     m_picture = {};
+    m_part = {};
     m_problem.clear();
     m_resultImage = {};
+    m_resultPart = {};
     m_resultProblem.clear();
     fitViews();
     placeCropFrame();
@@ -272,201 +287,10 @@ void ComparePreview::fitViews()
     m_mainView.setImage(m_picture);
 }
 
-void ComparePreview::render()
-{
-    m_asked.stop();
-    m_estimatedBytes = -1;
-    m_bytesReader.drop();
-    m_still.stop();
-    const bool isShown = m_shownPath == m_path && !m_base.isNull() && m_showsResult && !m_wanted.size.isEmpty();
-    if (!isShown) {
-        m_resultReader.drop();
-        m_resultImage = {};
-        m_scaledResult = {};
-        m_resultProblem = m_wanted.message;
-        update();
-        return;
-    }
-    askForResult();
-    m_still.start(stillMs);
-}
-
-/** What is known of the file without looking into it, for tokens. */
-QVariantMap ComparePreview::factValues() const
-{
-    const text::TokenFacts facts = jobs::factsOfFile(m_path, 0, true);
-    return {{QStringLiteral("created"), facts.created},
-            {QStringLiteral("changed"), facts.changed},
-            {QStringLiteral("bytes"), facts.bytes}};
-}
-
-void ComparePreview::askForResult()
-{
-    m_isResultStale = m_resultReader.inWork() > 0;
-    if (m_isResultStale)
-        return;
-    const ShownRoom shown = room();
-    QVariantMap values = factValues();
-    values.insert(QStringLiteral("roomWidth"), shown.size.width());
-    values.insert(QStringLiteral("roomHeight"), shown.size.height());
-    values.insert(QStringLiteral("covers"), shown.isCovered);
-    values.insert(QStringLiteral("edits"), m_wanted.edits);
-    m_resultReader.ask({jobs::Reading::Result, m_path, values, m_wanted.files}, jobs::Urgency::Now,
-                       [this](const jobs::ReadResult &result) { takeResult(result); });
-}
-
-void ComparePreview::takeResult(const jobs::ReadResult &result)
-{
-    m_resultImage = result.image;
-    m_resultFull = result.size();
-    m_scaledResult = {};
-    takeFoundFrame(result);
-    m_resultProblem = result.isReaderGone ? cannotBeShown(result.problem) : result.problem;
-    if (m_isResultStale) {
-        askForResult();
-    } else {
-        if (!m_resultImage.isNull() && m_cropFrame->isShown())
-            showCropped();
-        if (!m_resultImage.isNull())
-            Q_EMIT resultShown();
-    }
-    update();
-}
-
-void ComparePreview::askForBytes()
-{
-    QVariantMap values = factValues();
-    QStringList files;
-    if (!m_wanted.recipe.isEmpty()) {
-        values.insert(QStringLiteral("recipe"), m_wanted.recipe);
-        files = jobs::filesOf(m_wanted.recipe).value_or(QStringList());
-    } else {
-        values.insert(QStringLiteral("type"), m_wanted.type);
-        values.insert(QStringLiteral("quality"), m_wanted.qualityCode);
-    }
-    m_bytesReader.ask({jobs::Reading::Bytes, m_path, values, files}, jobs::Urgency::Later,
-                      [this](const jobs::ReadResult &result) {
-                          const double bytes = result.value("bytes").toDouble();
-                          if (!result.isGood() || !(bytes > 0))
-                              return;
-                          m_estimatedBytes = bytes;
-                          Q_EMIT resultEstimated(bytes);
-                      });
-}
-
-const QPixmap &ComparePreview::scaledResult(QSize devicePixels) const
-{
-    if (m_scaledResult.size() != devicePixels) {
-        const QImage scaled = m_resultImage.size() == devicePixels
-                                  ? m_resultImage
-                                  : m_resultImage.scaled(devicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        m_scaledResult = QPixmap::fromImage(scaled);
-    }
-    m_scaledResult.setDevicePixelRatio(devicePixelRatioF());
-    return m_scaledResult;
-}
-
-void ComparePreview::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintOriginal(painter);
-    if (m_showsResult)
-        paintResult(painter);
-}
-
-void ComparePreview::paintOriginal(QPainter &painter) const
-{
-    const QRect area = originalArea();
-    painter.save();
-    painter.setClipRect(area);
-    painter.fillRect(area, Theme::color(QStringLiteral("surround")));
-    if (m_base.isNull()) {
-        paintMessage(painter, area, m_givenProblem.isEmpty() ? m_problem : m_givenProblem);
-    } else {
-        const QRectF place = m_fill ? QRectF(area) : pictureRect(m_full, area);
-        paintShadow(painter, place);
-        if (m_base.hasAlpha())
-            paintCheckerboard(painter, place);
-        painter.save();
-        painter.translate(place.topLeft());
-        painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
-        m_mainView.draw(painter, views::Medium::Screen);
-        painter.restore();
-    }
-    paintBadge(painter, area, Qt::TopLeftCorner, 0, m_originalTitle,
-               hasFocus() ? BadgeLook::Focused : BadgeLook::Plain);
-    paintBadge(painter, area, Qt::BottomRightCorner, 0, m_originalCaption);
-    painter.restore();
-}
-
-void ComparePreview::paintResult(QPainter &painter) const
-{
-    const QRect area = resultArea();
-    painter.save();
-    painter.setClipRect(area);
-    painter.fillRect(area, Theme::color(QStringLiteral("surroundResult")));
-    if (m_resultImage.isNull()) {
-        paintMessage(painter, area, m_problem.isEmpty() ? m_resultProblem : QString());
-    } else if (m_cropFrame->isShown()) {
-        paintCropped(painter);
-    } else {
-        const QRectF place = pictureRect(m_wanted.size, area);
-        paintShadow(painter, place);
-        if (m_resultImage.hasAlphaChannel())
-            paintCheckerboard(painter, place);
-        painter.drawPixmap(place.topLeft(), scaledResult(wholePixels(place.size() * devicePixelRatioF())));
-    }
-    paintBadge(painter, area, Qt::TopLeftCorner, 0, m_resultTitle);
-    paintBadge(painter, area, Qt::BottomRightCorner, m_notes.isEmpty() ? 0 : 1, m_resultCaption);
-    paintBadge(painter, area, Qt::BottomRightCorner, 0, m_notes);
-    painter.restore();
-}
-
-void ComparePreview::paintMessage(QPainter &painter, const QRect &area, const QString &message) const
-{
-    painter.setPen(Theme::color(QStringLiteral("badgeText")));
-    painter.drawText(area.adjusted(marginPx, 0, -marginPx, 0), Qt::AlignCenter | Qt::TextWordWrap, message);
-}
-
 void ComparePreview::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     m_settled.start(settleMs);
-}
-
-void ComparePreview::keyPressEvent(QKeyEvent *event)
-{
-    switch (event->key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Up:
-        Q_EMIT stepRequested(-1);
-        break;
-    case Qt::Key_Right:
-    case Qt::Key_Down:
-        Q_EMIT stepRequested(1);
-        break;
-    case Qt::Key_Space:
-        Q_EMIT largePreviewRequested();
-        break;
-    case Qt::Key_Escape:
-        Q_EMIT closeRequested();
-        event->ignore();
-        break;
-    default:
-        QWidget::keyPressEvent(event);
-    }
-}
-
-void ComparePreview::mousePressEvent(QMouseEvent *event)
-{
-    setFocus(Qt::MouseFocusReason);
-    QWidget::mousePressEvent(event);
-}
-
-void ComparePreview::mouseDoubleClickEvent(QMouseEvent *)
-{
-    Q_EMIT largePreviewRequested();
 }
 
 void ComparePreview::focusInEvent(QFocusEvent *event)
@@ -478,6 +302,7 @@ void ComparePreview::focusInEvent(QFocusEvent *event)
 void ComparePreview::focusOutEvent(QFocusEvent *event)
 {
     QWidget::focusOutEvent(event);
+    flip(false);
     update();
 }
 

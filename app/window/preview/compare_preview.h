@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/preview/picture_ahead.h"
+#include "app/preview/view_zoom.h"
 #include "app/window/preview/crop_frame_editor.h"
 #include "jobs/reading/read_errand.h"
 #include "platform/imageio/source/picture.h"
@@ -13,6 +14,8 @@
 #include <QVariantMap>
 #include <QWidget>
 
+#include <optional>
+
 namespace window {
 
 struct PreviewHost;
@@ -22,13 +25,18 @@ struct PreviewHost;
  *
  * Workers make both, as large as they are on the screen, when picture and size have settled; meanwhile what was there before stays for a
  * moment. One result is made at a time, and after it the last one that was asked for. A reader that crashes costs a sentence in the
- * place of the picture. With "fit" a picture is never shown larger than its own pixels; with "fill" it covers its half.
+ * place of the picture. With "fit" a picture is never shown larger than its own pixels; with "fill" it covers its half. With a zoom both
+ * are shown at that scale with the same point in the middle, and of what can be seen then workers make the pixels that it has.
  */
 class ComparePreview : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(bool fill READ fill WRITE setFill)
     Q_PROPERTY(bool showsResult READ showsResult WRITE setShowsResult)
+    /** Original and result have the same place, and the result is seen where there is one. */
+    Q_PROPERTY(bool single READ isSingle WRITE setSingle)
+    /** Pixels of the screen for one of the picture, 1/32 to 8; 0: as large as the place allows. */
+    Q_PROPERTY(double zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
     /** What is shown, for now, in the place of a picture that is not there; empty for the usual sentence. */
     Q_PROPERTY(QString problem READ problem WRITE setProblem)
     /** The size that the file of the result will have, see resultEstimated(); -1 while it is not known. */
@@ -43,6 +51,11 @@ public:
     bool showsResult() const { return m_showsResult; }
     void setShowsResult(bool shows);
 
+    bool isSingle() const { return m_isSingle; }
+    void setSingle(bool isSingle);
+    double zoom() const { return m_zoom.scale(); }
+    void setZoom(double zoom);
+
     QString problem() const { return m_givenProblem; }
     void setProblem(const QString &problem);
     /** Why the picture cannot be shown, in words; empty where it can. */
@@ -53,7 +66,7 @@ public:
     /** Shows the picture at @p path, or nothing where it is empty. */
     Q_INVOKABLE void showPicture(const QString &path);
     /** Pictures that will probably be shown next, the likeliest first: they are decoded beforehand. */
-    Q_INVOKABLE void prepare(const QStringList &paths) { m_ahead.want(paths, room()); }
+    Q_INVOKABLE void prepare(const QStringList &paths);
     /** Reads the file again, because it was written. */
     Q_INVOKABLE void reload();
     /**
@@ -90,6 +103,9 @@ Q_SIGNALS:
     void closeRequested();
     /** A picture is on the screen. */
     void pictureShown();
+    /** The part of it that can be seen at a scale is on the screen, with its own pixels. */
+    void partShown();
+    void zoomChanged();
     /** A result was made and is on the screen. */
     void resultShown();
     /** How large the file of the result will be: as large as the one that a worker has made of it, a while after the last change. */
@@ -102,7 +118,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -120,14 +140,66 @@ private:
         QString qualityCode;
     };
 
+    /** Pixels of a part of a picture, with its place in the whole, from 0 to 1. */
+    struct Part
+    {
+        QImage image;
+        QRectF place = {0, 0, 1, 1};
+    };
+    /** A picture on this widget, and what of the widget is its own. */
+    struct ZoomedPlace
+    {
+        QRectF picture;
+        QRect area;
+    };
+    /** What a result was made of. */
+    struct MadeOf
+    {
+        QString path;
+        QVariantList edits;
+        bool operator==(const MadeOf &other) const = default;
+    };
+    enum class Pane { Original, Result };
+
+    static QString cannotBeShown(const QString &reason);
+    static QString problemWith(const ShownPicture &picture);
+
     ShownRoom room() const;
+    ShownRoom partRoom() const;
+    ShownRoom resultRoom() const;
     void load();
     void takePicture(const ShownPicture &picture);
+    void askForPart();
+    void askForParts();
+    void takePart(const ShownPicture &picture);
     void clearLate();
+    bool wantsResult() const;
+    bool hasResult() const;
     void askForResult();
     void takeResult(const jobs::ReadResult &result);
     QVariantMap factValues() const;
     void askForBytes();
+
+    void setZoomAt(double scale, QPointF at, Pane pane);
+    void stepZoom(int steps, QPointF at, Pane pane);
+    void moveBy(QPointF distance, Pane pane);
+    void lookElsewhere();
+    bool takeZoomKey(const QKeyEvent &event);
+    void flip(bool on);
+    bool showsResultAlone() const;
+    double fittedScale() const;
+    double resultScale() const;
+    QRectF framedPart() const;
+    QPointF toResult(QPointF point) const;
+    QPointF toOriginal(QPointF point) const;
+    QRectF zoomedPlace(QSize pixels, double scale, QPointF center, const QRect &area) const;
+    QRectF originalPlace() const;
+    QRectF resultPlace() const;
+    QRectF placeOf(Pane pane) const;
+    QRect areaOf(Pane pane) const;
+    Pane paneAt(QPointF point) const;
+    QString titled(const QString &title, double scale) const;
+
     void fitViews();
     void render();
     void placeCropFrame();
@@ -141,8 +213,10 @@ private:
     QRect resultArea() const;
     QSizeF shownSize(QSize pixels, const QRect &area) const;
     QRectF pictureRect(QSize pixels, const QRect &area) const;
-    void paintOriginal(QPainter &painter) const;
+    void paintOriginal(QPainter &painter, const QRect &area) const;
+    void paintFitted(QPainter &painter, const QRect &area) const;
     void paintResult(QPainter &painter) const;
+    void paintZoomed(QPainter &painter, const ZoomedPlace &place, const QImage &whole, const Part &part) const;
     void paintMessage(QPainter &painter, const QRect &area, const QString &message) const;
     const QPixmap &scaledResult(QSize devicePixels) const;
 
@@ -150,6 +224,7 @@ private:
     PictureAhead m_ahead;
     QString m_shownPath;         ///< of the picture that is shown, which is another one for a moment
     QSize m_full;                ///< its upright pixels
+    QImage m_baseImage;          ///< the same as the next, for the screen
     platform::Bitmap m_base;     ///< the picture at about its size on the screen
     platform::Picture m_picture; ///< the same, one of its own pixels a point
     QString m_problem;           ///< in words, where the picture cannot be shown
@@ -163,17 +238,29 @@ private:
     bool m_isFrameFound = false; ///< with the result, by whoever makes it
     platform::Picture m_overlay;
     QTimer m_settled;
+    QTimer m_moved; ///< the part that is looked at
     QTimer m_asked;
     bool m_fill = false;
     bool m_showsResult = true;
+    bool m_isSingle = false;
+    bool m_isFlipped = false; ///< the original is seen in the place of the result
+    ViewZoom m_zoom;
+    Part m_part;           ///< of the original, at the scale
+    QString m_partProblem; ///< in words, where it cannot be had
+    std::optional<QPointF> m_heldAt;
+    Pane m_heldPane = Pane::Original;
+    int m_turned = 0; ///< of the wheel, less than a step
     Wanted m_wanted;
     jobs::Reader m_resultReader;
     jobs::Reader m_bytesReader;
     bool m_isResultStale = false; ///< another one was asked for while one is made
     QSize m_resultFull;
     QImage m_resultImage;
-    QTimer m_late;  ///< what was shown before is no longer kept
-    QTimer m_still; ///< the settings have not changed for a while
+    Part m_resultPart; ///< of the result, at the scale
+    MadeOf m_askedOf;
+    MadeOf m_wholeOf; ///< m_resultImage
+    QTimer m_late;    ///< what was shown before is no longer kept
+    QTimer m_still;   ///< the settings have not changed for a while
     double m_estimatedBytes = -1;
     QString m_resultProblem;
     mutable QPixmap m_scaledResult;

@@ -45,7 +45,7 @@ void ComparePreview::setOverlay(const platform::Picture &picture)
 
 void ComparePreview::placeCropFrame()
 {
-    m_cropFrame->setPlace(pictureRect(m_full, originalArea()), originalArea(), m_base.isNull() ? QSize() : m_full);
+    m_cropFrame->setPlace(originalPlace(), originalArea(), m_base.isNull() ? QSize() : m_full);
     prepareOverlay();
 }
 

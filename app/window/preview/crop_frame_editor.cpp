@@ -153,6 +153,7 @@ void CropFrameEditor::mouseMoveEvent(QMouseEvent *event)
 {
     if (m_held == Grip::None) {
         setCursor(cursorOf(gripAt(shownFrame(), event->position(), reachPx)));
+        event->ignore();
         return;
     }
     const QPointF by = event->position() - m_heldAt;
@@ -162,8 +163,10 @@ void CropFrameEditor::mouseMoveEvent(QMouseEvent *event)
     take(sizedFrame(m_heldFrame, m_held, pixels, m_pixels, ratio));
 }
 
-void CropFrameEditor::mouseReleaseEvent(QMouseEvent *)
+void CropFrameEditor::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (m_held == Grip::None)
+        event->ignore();
     m_held = Grip::None;
 }
 

@@ -43,6 +43,13 @@ export class HandPage {
         join(control("handAddPictureFolder").clicked, "add", () => this.window.input.addFolder());
         join(this.view.largePreviewRequested, "large", () => this.window.form.control("largeAction").trigger());
         join(this.view.pictureShown, "ahead", () => this.prepare());
+        // The same part of the next pictures.
+        join(this.view.partShown, "ahead", () => this.prepare());
+        join(this.view.zoomChanged, "zoom", () => this.showZoom());
+        join(control("handActualButton").clicked, "actual", () => {
+            this.window.preview.toggleActual();
+            this.view.setFocus();
+        });
         join(this.list.currentPictureChanged, "current", () => this.showCurrent());
     }
 
@@ -103,6 +110,11 @@ export class HandPage {
             this.window.preview.showLarge();
         }
         this.showButtons(photo);
+    }
+
+    showZoom() {
+        this.form.control("handActualButton").checked = this.view.zoom > 0;
+        this.window.showZoom();
     }
 
     showPicture(photo) {

@@ -34,6 +34,7 @@ function doingsOf(window) {
         large: () => window.toggleLarge(),
         fit: () => window.setFill(false),
         fill: () => window.setFill(true),
+        actual: () => window.preview.toggleActual(),
         showAllRows: () => window.showProblemsOnly(false),
         showHidden: () => window.input.showHidden(),
         addOwn: () => window.input.addOwn(),
@@ -55,7 +56,7 @@ const BUTTONS = {
 const ENTRIES = [
     "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "saveAs", "quit",
     "paste", "remove", "selectAll", "tick", "tickAll", "columns", "next",
-    "previous", "large", "fit", "fill", "showFailed", "undo", "redo", "rename",
+    "previous", "large", "fit", "fill", "actual", "showFailed", "undo", "redo", "rename",
 ];
 
 function connectControls(window) {
@@ -67,6 +68,9 @@ function connectControls(window) {
         window.form.control(name + "Action").triggered.connect(guard(name, doings[name]));
     }
 }
+
+// The segment behind Fit and Fill.
+const ACTUAL = 2;
 
 function connectViews(window) {
     const list = window.pictures;
@@ -80,10 +84,17 @@ function connectViews(window) {
     for (const view of [window.preview.view, window.preview.large]) {
         view.stepRequested.connect(step);
         view.largePreviewRequested.connect(large);
+        view.zoomChanged.connect(guard("zoom", () => window.showZoom()));
     }
     window.preview.large.closeRequested.connect(guard("large.close", () => window.cancel()));
     window.drop.dropped.connect(guard("drop", (paths) => window.input.addPaths(paths)));
-    window.form.control("fitFill").chosen.connect(guard("fit", (index) => window.setFill(index === 1)));
+    window.form.control("fitFill").chosen.connect(guard("fit", (index) => {
+        if (index === ACTUAL) {
+            window.preview.showActual();
+        } else {
+            window.setFill(index === 1);
+        }
+    }));
 }
 
 function connectAppearance(window) {

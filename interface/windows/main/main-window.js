@@ -81,7 +81,7 @@ export class MainWindow {
         this.pageHost.show(this.shownPage);
         this.support.show();
         fillSideBar(this, (name) => this.chooseAction(name));
-        this.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill")];
+        this.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill"), "1:1"];
     }
 
     /** What a pane gets of the window: the list, the services, and sayBeside(). */
@@ -353,10 +353,19 @@ export class MainWindow {
     }
 
     setFill(on) {
+        this.preview.looked().zoom = 0;
         this.preview.view.fill = on;
-        this.form.control("fitFill").selectedSegment = on ? 1 : 0;
+        this.showZoom();
         this.form.control(on ? "fillAction" : "fitAction").checked = true;
         keep(defaults, "Preview", { fill: on });
+    }
+
+    /** Shows how close pictures are looked at. */
+    showZoom() {
+        const view = this.preview.view;
+        const fitted = view.fill ? 1 : 0;
+        this.form.control("fitFill").selectedSegment = view.zoom > 0 ? 2 : fitted;
+        this.form.control("actualAction").checked = this.preview.looked().zoom > 0;
     }
 
     showProblemsOnly(on) {

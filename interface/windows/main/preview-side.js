@@ -48,6 +48,7 @@ export class PreviewSide {
         this.from = null;
         this.caption = "";
         this.shown = null;
+        this.told = nothing("");
         this.view.setTitles(qsTr("Original"), qsTr("Result"));
         this.large.accessibleName = qsTr("Large preview");
         this.view.resultEstimated.connect(guard("estimate", (bytes) => this.showCaptions(bytes)));
@@ -56,6 +57,25 @@ export class PreviewSide {
                 window.pane.takeFrame({ x: x, y: y, width: width, height: height });
             }
         }));
+    }
+
+    /** The view that is looked at: the large one, that of a page, or the one beside the settings. */
+    looked() {
+        const page = this.window.pageHost === undefined ? null : this.window.pageHost.shown;
+        const paged = page !== null && page.view !== undefined && page.view.zoom !== undefined ? page.view : this.view;
+        return this.large.visible ? this.large : paged;
+    }
+
+    /** Each pixel of the picture is one of the screen. */
+    showActual() {
+        this.looked().zoom = 1;
+        this.window.showZoom();
+    }
+
+    toggleActual() {
+        const view = this.looked();
+        view.zoom = view.zoom > 0 ? 0 : 1;
+        this.window.showZoom();
     }
 
     /** Shows a picture (or null) and what is planned for it (or null). */
@@ -67,15 +87,19 @@ export class PreviewSide {
         this.shown = ready ? { planned: planned, result: shown } : null;
         this.showFrame(planned);
         this.view.setNotes(ready ? planned.losses.join(" · ") : "");
-        this.view.showResult(ready
-                             ? Object.assign({ message: "" }, shown) : nothing(planned === null ? "" : planned.reason));
+        this.told = ready ? Object.assign({ message: "" }, shown) : nothing(planned === null ? "" : planned.reason);
+        this.view.showResult(this.told);
         this.showCaptions(this.view.estimatedBytes);
+        if (this.large.visible) {
+            this.showLargeResult();
+        }
     }
 
     showCaptions(bytes) {
         const shown = this.shown;
         const known = shown === null || shown.result.bytes === undefined ? bytes : shown.result.bytes;
-        this.view.setCaptions(this.caption, shown === null ? "" : resultCaption(shown.planned, shown.result, known));
+        const caption = shown === null ? "" : resultCaption(shown.planned, shown.result, known);
+        [this.view, this.large].forEach((view) => view.setCaptions(this.caption, caption));
     }
 
     // The frame of an action that has one.
@@ -110,18 +134,28 @@ export class PreviewSide {
         if (photo === null) {
             return;
         }
-        this.large.setTitles(photo.name, "");
-        this.large.setCaptions(this.caption, "");
+        this.large.setTitles(photo.name, fill(qsTr("%1: the result. Hold F to see the original."), photo.name));
         this.large.showPicture(photo.path);
+        this.showLargeResult();
+        this.showCaptions(this.view.estimatedBytes);
         if (!this.large.visible) {
             shell.cover(this.large);
         }
+    }
+
+    // The result, where the picture has one; pages show pictures as they are.
+    showLargeResult() {
+        const hasResult = this.window.manner.preview && this.window.pageHost.shown === null && this.shown !== null;
+        this.large.showsResult = hasResult;
+        this.large.showResult(hasResult ? this.told : nothing(""));
+        this.large.setNotes(hasResult ? this.shown.planned.losses.join(" · ") : "");
     }
 
     /** Shows a file that is not in the list; `from` is the control that has the focus again afterwards. */
     showFile(path, from) {
         const photo = files.picture(path);
         this.from = from;
+        this.large.showsResult = false;
         this.large.setTitles(photo.name, "");
         this.large.setCaptions(originalCaption(photo), "");
         this.large.showPicture(path);
@@ -131,6 +165,8 @@ export class PreviewSide {
 
     closeLarge() {
         this.large.visible = false;
+        this.large.zoom = 0;
+        this.window.showZoom();
         (this.from || this.window.pictures).setFocus();
         this.from = null;
     }
