@@ -1767,9 +1767,6 @@ declare module "quorlin/shell" {
         single: boolean;
         /** Pixels of the screen for one of the picture, 1/32 to 8; 0: as large as the place allows. */
         zoom: double;
-        readonly zoomChanged: Signal<() => any>;
-        /** The part that can be seen at that scale is on the screen. */
-        readonly partShown: Signal<() => any>;
         /** Shown in the place of a picture that is not there; empty for the usual sentence. */
         problem: string;
         /** The size of the file of the result, which was made once for that; -1 while it is not known. */
@@ -1778,6 +1775,9 @@ declare module "quorlin/shell" {
         readonly largePreviewRequested: Signal<() => any>;
         readonly closeRequested: Signal<() => any>;
         readonly pictureShown: Signal<() => any>;
+        /** The part that can be seen at a scale is on the screen. */
+        readonly partShown: Signal<() => any>;
+        readonly zoomChanged: Signal<() => any>;
         readonly resultShown: Signal<() => any>;
         /** How large the file of the result will be, a while after the last change. */
         readonly resultEstimated: Signal<(bytes: double) => any>;
@@ -1794,8 +1794,11 @@ declare module "quorlin/shell" {
         setCaptions(original: text, result: text): null;
         /** A second line under the result: what it will not hold. */
         setNotes(notes: text): null;
-        /** A frame that can be moved and sized, in pixels of the upright original; ratio 0 is free. Null takes it away. */
-        setCropFrame(frame: { x: double; y: double; width: double; height: double; ratio?: double }): null;
+        /**
+         * A frame that can be moved and sized, in pixels of the upright original; ratio 0 is free. With isFound it lies where whoever makes
+         * the result says. Null takes it away.
+         */
+        setCropFrame(frame: { x: double; y: double; width: double; height: double; ratio?: double; isFound?: boolean }): null;
         /** Drawn over the original where there is a crop frame. */
         setOverlay(picture: Picture | null): null;
     }
