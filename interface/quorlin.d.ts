@@ -1407,6 +1407,16 @@ declare module "quorlin/moves" {
         /** Ends a plan, made or not. */
         dropPlan(plan: text): null;
         begin(run: { title: string; items: Wish[] }): { run: string } | { problem: string };
+        /** The same in slices: this one names what is to be begun. */
+        beginOrder(title: text): string;
+        /** Leaders count from the first of all items. */
+        addItems(order: text, items: Wish[]): null;
+        /** Works for about so long; true when all is ready. Nothing moves. */
+        prepare(order: text, milliseconds: whole): boolean;
+        /** Begins the run. */
+        carryOut(order: text): { run: string } | { problem: string };
+        /** Gives it up. */
+        dropOrder(order: text): null;
         /** Carries out one more item; null after the last one. */
         next(run: text): (Outcome & { index: whole }) | null;
         /** Empty, or what went wrong. May come before the last item: every file then has its old or its new name. */

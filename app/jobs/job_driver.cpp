@@ -10,7 +10,7 @@ namespace window {
 
 namespace {
 
-constexpr int sliceMs = 10;
+constexpr int sliceMs = 4;
 
 void reportError(const QJSValue &error)
 {

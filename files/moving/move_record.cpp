@@ -301,7 +301,7 @@ bool isUnchanged(const ItemState &one, const ItemState &other)
     return isSameItem(one, other) && isAlike(one, other);
 }
 
-QByteArray headLines(const RunRecord &run)
+QByteArray runLine(const RunRecord &run)
 {
     QJsonObject head = {{key("run"), run.id},
                         {key("title"), run.title},
@@ -312,13 +312,15 @@ QByteArray headLines(const RunRecord &run)
         head.insert(key("undoes"), run.undoes);
     if (!run.by.isEmpty())
         head.insert(key("by"), run.by);
-    QByteArray lines = lineOf(head);
-    for (int i = 0; i < int(run.items.size()); ++i)
-        lines += itemLine(i, run.items[size_t(i)].item);
+    return lineOf(head);
+}
+
+QByteArray stepsLine(const RunRecord &run)
+{
     QJsonArray steps;
     for (const MoveStep &step : run.steps)
         steps.append(step.isAside ? -1 - step.item : step.item);
-    return run.isByHand ? lines : lines + lineOf({{key("steps"), steps}});
+    return lineOf({{key("steps"), steps}});
 }
 
 QByteArray itemLine(int index, const MoveItem &item)

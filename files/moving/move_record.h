@@ -97,8 +97,9 @@ bool isAlike(const platform::ItemState &one, const platform::ItemState &other);
 /** The same item with, as far as dates and sizes tell, the same content. A folder may have changed inside. */
 bool isUnchanged(const platform::ItemState &one, const platform::ItemState &other);
 
-/** The head of a journal: the run, its items and its steps. */
-QByteArray headLines(const RunRecord &run);
+/** The head of a journal: the run, its items, each with itemLine(), and its steps, where the items are not added one by one. */
+QByteArray runLine(const RunRecord &run);
+QByteArray stepsLine(const RunRecord &run);
 QByteArray itemLine(int index, const MoveItem &item);
 QByteArray doneLine(int index, const MoveRecord &record);
 QByteArray failedLine(int index, const MoveRecord &record);

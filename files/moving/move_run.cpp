@@ -1,14 +1,12 @@
 #include "files/moving/move_run.h"
 
+#include "files/moving/move_beginning.h"
 #include "files/moving/move_paths.h"
 #include "files/planning/move_names.h"
 
-#include "platform/file/living_process.h"
 #include "platform/foundation/paths.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
-#include <QRandomGenerator>
 
 #include <algorithm>
 
@@ -19,79 +17,9 @@ using platform::joinedPath;
 using platform::lastPathComponent;
 using platform::parentFolder;
 
-/** A name that sorts by time and that no other run has. */
-QString newId(const QDateTime &now)
-{
-    return now.toUTC().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz-")) +
-           QStringLiteral("%1").arg(QRandomGenerator::system()->generate(), 8, 16, QLatin1Char('0'));
-}
-
-/** Paths without links, each folder looked up once. */
-class PlainPaths
-{
-public:
-    explicit PlainPaths(const platform::FileSystem &disk) : m_disk(disk) {}
-
-    QString operator()(const QString &path)
-    {
-        const QString folder = parentFolder(path);
-        auto known = m_known.find(folder);
-        if (known == m_known.end()) {
-            const QString canonical = m_disk.canonicalFolder(folder);
-            const bool isTop = folder.size() < 2;
-            known = m_known.insert(folder, !canonical.isNull() || isTop ? canonical : (*this)(folder));
-        }
-        return joinedPath(*known, lastPathComponent(path));
-    }
-
-private:
-    const platform::FileSystem &m_disk;
-    QHash<QString, QString> m_known;
-};
-
-Displacement displacementOf(const MoveItem &item, PlainPaths &plain)
-{
-    Displacement displacement;
-    displacement.isFolder = item.was && item.was->kind == platform::ItemKind::Folder;
-    displacement.mayStepAside = item.operation == Operation::Move;
-    const bool isLeaving = item.operation != Operation::Copy && item.operation != Operation::Link;
-    const bool isTaking = item.operation == Operation::Move || item.operation == Operation::Copy ||
-                          item.operation == Operation::Link || item.operation == Operation::Restore;
-    if (isLeaving)
-        displacement.leaves = plain(item.from);
-    if (isTaking)
-        displacement.takes = plain(item.to);
-    if (item.operation == Operation::Copy)
-        displacement.reads = plain(item.from);
-    if (item.operation == Operation::RemoveCopy)
-        displacement.reads = plain(item.to);
-    return displacement;
-}
-
 QString placeOf(const QString &path)
 {
     return placeKey(parentFolder(path), lastPathComponent(path));
-}
-
-RunRecord newRecord(const QString &title)
-{
-    const QDateTime now = QDateTime::currentDateTime();
-    RunRecord record;
-    record.id = newId(now);
-    record.title = title;
-    record.by = platform::processMark();
-    record.date = now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODate);
-    return record;
-}
-
-/** Keeps the journals of the last runs, with the one that is about to begin; those that are not ended stay. */
-void discardOld(JournalShelf &shelf)
-{
-    constexpr qsizetype mostJournals = 200;
-    const QStringList names = shelf.names();
-    for (qsizetype i = mostJournals - 1; i < names.size(); ++i)
-        if (!summaryOf(shelf.ends(names[i])).end.isEmpty())
-            shelf.remove(names[i]);
 }
 
 } // namespace
@@ -104,28 +32,10 @@ MoveRun::MoveRun(platform::FileSystem &disk, JournalShelf &shelf, RunRecord reco
 platform::Result<std::unique_ptr<MoveRun>> MoveRun::begin(platform::FileSystem &disk, JournalShelf &shelf,
                                                           const MoveOrderForm &form)
 {
-    RunRecord record = newRecord(form.title);
-    record.undoes = form.undoes;
-    record.count = int(form.items.size());
-    PlainPaths plain(disk);
-    std::vector<Displacement> displacements;
-    for (const MoveItem &item : form.items) {
-        MoveRecord &added = record.items.emplace_back();
-        added.item = item;
-        if (item.operation != Operation::Link)
-            added.item.was = disk.look(item.from);
-        displacements.push_back(displacementOf(added.item, plain));
-    }
-    record.steps = orderMoves(displacements).steps;
-    for (const MoveStep &step : record.steps)
-        if (step.isAhead)
-            record.items[size_t(step.item)].item.isAhead = true;
-    discardOld(shelf);
-    if (const auto made = shelf.make(record.id, headLines(record)); !made)
-        return tl::unexpected(made.error());
-    std::unique_ptr<MoveRun> run(new MoveRun(disk, shelf, std::move(record)));
-    run->m_emptyFolders = form.emptyFolders;
-    return run;
+    MoveBeginning beginning(disk, shelf, form);
+    while (!beginning.workFor(std::chrono::seconds(1)))
+        ;
+    return beginning.take();
 }
 
 platform::Result<std::unique_ptr<MoveRun>> MoveRun::open(platform::FileSystem &disk, JournalShelf &shelf,
@@ -133,8 +43,8 @@ platform::Result<std::unique_ptr<MoveRun>> MoveRun::open(platform::FileSystem &d
 {
     RunRecord record = newRecord(title);
     record.isByHand = true;
-    discardOld(shelf);
-    if (const auto made = shelf.make(record.id, headLines(record)); !made)
+    discardOldJournals(shelf);
+    if (const auto made = shelf.make(record.id, runLine(record)); !made)
         return tl::unexpected(made.error());
     return std::unique_ptr<MoveRun>(new MoveRun(disk, shelf, std::move(record)));
 }

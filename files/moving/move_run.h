@@ -70,6 +70,8 @@ public:
     void close(const QString &end);
 
 private:
+    friend class MoveBeginning;
+
     MoveRun(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record);
 
     platform::Result<void> noteCopy(int index, const platform::ItemState &state) override;

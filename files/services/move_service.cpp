@@ -219,6 +219,51 @@ QVariantMap MoveService::begin(const QVariantMap &run)
     return started(MoveRun::begin(*m_disk, *m_shelf, form));
 }
 
+QString MoveService::beginOrder(const QString &title)
+{
+    const QString order = QStringLiteral("order %1").arg(++m_lastPlan);
+    m_orders[order].form.title = title;
+    return order;
+}
+
+void MoveService::addItems(const QString &order, const QVariantList &items)
+{
+    const auto found = m_orders.find(order);
+    if (found == m_orders.end() || found->second.beginning)
+        return;
+    for (const QVariant &item : items)
+        found->second.form.items.push_back(
+            itemFrom({item, QStringLiteral("items[%1]").arg(found->second.form.items.size())}));
+}
+
+bool MoveService::prepare(const QString &order, int milliseconds)
+{
+    const auto found = m_orders.find(order);
+    if (found == m_orders.end())
+        return true;
+    Order &wanted = found->second;
+    if (!wanted.beginning)
+        wanted.beginning = std::make_unique<MoveBeginning>(*m_disk, *m_shelf, std::move(wanted.form));
+    return wanted.beginning->workFor(std::chrono::milliseconds(milliseconds));
+}
+
+QVariantMap MoveService::carryOut(const QString &order)
+{
+    const auto found = m_orders.find(order);
+    if (found == m_orders.end())
+        return {{QStringLiteral("problem"), tr("This run is not open")}};
+    while (!prepare(order, 1000))
+        ;
+    auto run = found->second.beginning->take();
+    m_orders.erase(found);
+    return started(std::move(run));
+}
+
+void MoveService::dropOrder(const QString &order)
+{
+    m_orders.erase(order);
+}
+
 QVariant MoveService::next(const QString &run)
 {
     MoveRun *active = found(run);
@@ -232,6 +277,8 @@ QString MoveService::end(const QString &run)
     if (!active)
         return tr("This run is not open");
     const auto ended = active->end();
+    if (ended)
+        m_undoable.ended(active->record());
     m_runs.erase(run);
     return ended ? QString() : ended.error().message;
 }
@@ -284,7 +331,7 @@ QVariant MoveService::takeBack(const QString &run)
 
 QVariantMap MoveService::undoable(const QString &run) const
 {
-    const Undoable answer = undoableItems(*m_shelf, run);
+    const Undoable answer = m_undoable.of(run);
     return {{QStringLiteral("can"), answer.why == MoveProblem::None},
             {QStringLiteral("count"), answer.count},
             {QStringLiteral("reason"), sentence(answer.why)}};

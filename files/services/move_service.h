@@ -1,7 +1,8 @@
 #pragma once
 
 #include "files/moving/journal_shelf.h"
-#include "files/moving/move_run.h"
+#include "files/moving/move_beginning.h"
+#include "files/moving/undoable_runs.h"
 #include "files/planning/move_plan.h"
 
 #include "platform/disk/file_system.h"
@@ -56,6 +57,16 @@ public:
 
     /** @param run  {title, items: [{kind, from, to, leader: -1}]}; answers {run: id} or {problem} */
     Q_INVOKABLE QVariantMap begin(const QVariantMap &run);
+    /**
+     * The same in slices: beginOrder() names what is to be begun, addItems() adds to its items (leaders count from the first of all),
+     * prepare() works for about so long and says true when all is ready, carryOut() begins the run: {run: id} or {problem}.
+     * dropOrder() gives it up.
+     */
+    Q_INVOKABLE QString beginOrder(const QString &title);
+    Q_INVOKABLE void addItems(const QString &order, const QVariantList &items);
+    Q_INVOKABLE bool prepare(const QString &order, int milliseconds);
+    Q_INVOKABLE QVariantMap carryOut(const QString &order);
+    Q_INVOKABLE void dropOrder(const QString &order);
     /** {index, status: "OK", "Failed" or "Skipped", code, message, path}; null after the last item and for an unknown run. */
     Q_INVOKABLE QVariant next(const QString &run);
     /** Ends a run, after its last item or before. */
@@ -91,13 +102,22 @@ private:
         std::unique_ptr<MovePlanning> planning;
     };
 
+    /** A run that is to be begun; it is prepared when its last item is known. */
+    struct Order
+    {
+        MoveOrderForm form;
+        std::unique_ptr<MoveBeginning> beginning;
+    };
+
     QVariantMap started(platform::Result<std::unique_ptr<MoveRun>> run);
     MoveRun *found(const QString &run) const;
 
     std::unique_ptr<platform::FileSystem> m_disk;
     std::unique_ptr<JournalShelf> m_shelf;
+    mutable UndoableRuns m_undoable{*m_shelf};
     std::map<QString, Draft> m_plans;
     int m_lastPlan = 0;
+    std::map<QString, Order> m_orders;
     std::map<QString, std::unique_ptr<MoveRun>> m_runs;
     std::set<std::pair<QString, int>> m_givenUp; ///< items that could not be taken back
 };

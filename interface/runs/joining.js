@@ -27,7 +27,7 @@ export class Joining {
     }
 
     newIds() {
-        return this.list.ids().filter((id) => !this.known.has(id));
+        return this.list.tickedIds().filter((id) => !this.known.has(id));
     }
 
     /** Called when something may have been added. */

@@ -6,7 +6,7 @@ import { splitPath } from "../lib/names.js";
 import { LivePlan } from "./live-plan.js";
 
 // A plan is made in slices of rows, so that the window answers while ten thousand of them are shown.
-const ROWS_A_SLICE = 40;
+const ROWS_A_SLICE = 20;
 const SETTLE_MS = 15;
 const TELL_MS = 400;
 

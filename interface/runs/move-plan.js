@@ -4,8 +4,8 @@
 import { splitPath } from "../lib/names.js";
 
 // So many wishes are handed to the engine at once, and it works for so long, before the window gets its turn.
-const AT_ONCE = 100;
-const WORK_MS = 5;
+const AT_ONCE = 50;
+const WORK_MS = 2;
 
 const NONE = Object.freeze([]);
 

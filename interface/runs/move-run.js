@@ -18,7 +18,27 @@ import { shell } from "quorlin/shell";
 
 // The window is told at most this often.
 const TELL_MS = 100;
-const ROWS_A_SLICE = 200;
+const ROWS_A_SLICE = 50;
+const ITEMS_AT_ONCE = 50;
+const WORK_MS = 2;
+
+// Has the engine look at everything and write down what is to be done; returns {run} or {problem}.
+function* prepared(moves, title, items) {
+    const order = moves.beginOrder(title);
+    try {
+        for (let i = 0; i < items.length; i += ITEMS_AT_ONCE) {
+            moves.addItems(order, items.slice(i, i + ITEMS_AT_ONCE)
+                .map((item) => ({ kind: item.kind, from: item.from, to: item.to, leader: item.leader })));
+            yield i;
+        }
+        while (!moves.prepare(order, WORK_MS)) {
+            yield items.length;
+        }
+        return moves.carryOut(order);
+    } finally {
+        moves.dropOrder(order);
+    }
+}
 
 // Carries out what was begun; whatever happens the engine is told the end.
 function* carriedOut(moves, run) {
@@ -187,18 +207,21 @@ export class MoveRun extends BaseRun {
     }
 
     begin() {
-        const moves = this.window.services.moves;
         if (this.window.action.fillsFolders) {
             this.filled = new MovedFolders(this.window.services.files, this.items.map((item) => item.to));
         }
-        const begun = moves.begin({ title: this.title,
-                                    items: this.items
-                                    .map((item) =>
-                                        ({ kind: item.kind, from: item.from, to: item.to, leader: item.leader })) });
-        if (begun.problem) {
+        const work = prepared(this.window.services.moves, this.title, this.items);
+        this.job.start(work, () => undefined, guard("moves.begun", (how, begun) => this.begun(how, begun)));
+    }
+
+    begun(how, begun) {
+        if (how !== "done") {
+            this.finish(how === "failed" ? String(begun) : qsTr("Cancelled before the first file. Nothing was moved."));
+        } else if (begun.problem) {
             this.finish(begun.problem);
         } else {
-            this.carryOut(begun.run, carriedOut(moves, begun.run), (result) => this.takeResult(result));
+            this.carryOut(begun.run, carriedOut(this.window.services.moves, begun.run),
+                          (result) => this.takeResult(result));
         }
     }
 
@@ -320,13 +343,20 @@ export class MoveRun extends BaseRun {
     }
 
     runEnded(how, value) {
+        const work = this.ending(how, value);
+        this.endWith(work);
+    }
+
+    * ending(how, value) {
         const reason = how === "failed" ? String(value) : qsTr("cancelled before its turn");
-        this.items.forEach((item, i) => {
+        for (let i = 0; i < this.items.length; i += 1) {
             if (!this.done[i]) {
-                this.noteResult(item, { status: "Skipped", reason: reason, path: "" });
+                this.noteResult(this.items[i], { status: "Skipped", reason: reason, path: "" });
+                yield i;
             }
-        });
-        const told = [how === "done" && value ? value : "", this.keepLog()].filter((text) => text);
+        }
+        const problem = yield* this.keepLog();
+        const told = [how === "done" && value ? value : "", problem].filter((text) => text);
         this.last = null;
         this.rowAt = null;
         this.again = this.undoes === "" && this.wished !== null ? retryRows(this.unfinished, this.wished) : [];
@@ -334,8 +364,9 @@ export class MoveRun extends BaseRun {
         this.window.planned = {};
         // Facts are known by path, and other files are at these paths now.
         this.window.services.facts.forget();
-        this.isComplete = how === "done";
+        yield this.items.length;
         this.finish([this.summaryText(how)].concat(told).join(" · "));
+        yield this.items.length;
         this.tellPane("runEnded");
         this.window.reloadPreview();
     }

@@ -4,11 +4,14 @@
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { copyOf } from "../lib/copies.js";
-import { keepRows } from "./log-file.js";
+import { guard } from "../lib/guard.js";
 import { showUnticked } from "./list-rows.js";
+import { appendRows, trimRows } from "./log-file.js";
 import { clockText, Progress } from "./progress.js";
 import { toCsv } from "./report.js";
 import { fill, problemsText } from "../lib/wording.js";
+
+const ROWS_AT_ONCE = 50;
 
 export class BaseRun {
     /** @param window  the main window's parts; changed() is called when buttons and texts should be looked at again */
@@ -27,6 +30,9 @@ export class BaseRun {
         this.problems = 0;
         this.rows = [];
         this.paused = false;
+        this.isEnding = false;
+        this.isAbandoned = false;
+        this.endWork = null;
         /** Whether it came to its end by itself, and did more than plan. */
         this.isComplete = false;
         this.text = "";
@@ -117,10 +123,33 @@ export class BaseRun {
         this.changed();
     }
 
-    /** Writes the rows of the run into the log; returns what to say if that failed. */
-    keepLog() {
-        this.rows.forEach((row) => { row.run = this.id; });
-        return keepRows(files, this.rows);
+    /** A generator that writes the rows of the run into the log, some of them at a time; returns what to say if that failed. */
+    * keepLog() {
+        let problem = "";
+        for (let i = 0; i < this.rows.length && problem === ""; i += ROWS_AT_ONCE) {
+            const rows = this.rows.slice(i, i + ROWS_AT_ONCE);
+            rows.forEach((row) => { row.run = this.id; });
+            problem = appendRows(files, rows);
+            yield i;
+        }
+        return problem || (this.rows.length === 0 ? "" : trimRows(files));
+    }
+
+    /** Carries out the end of the run, a generator: it can be neither paused nor stopped. */
+    endWith(work) {
+        this.isEnding = true;
+        this.endWork = work;
+        if (this.isAbandoned) {
+            this.endNow();
+            return;
+        }
+        this.job.resume();
+        this.job.start(work, () => undefined, guard("run.ended", (how, value) => {
+            this.isEnding = false;
+            if (how === "failed") {
+                this.finish(String(value));
+            }
+        }));
     }
 
     finish(text) {
@@ -131,7 +160,17 @@ export class BaseRun {
         this.changed();
     }
 
+    endNow() {
+        while (!this.endWork.next().done) {
+            // the window is about to close
+        }
+        this.isEnding = false;
+    }
+
     togglePause() {
+        if (this.isEnding) {
+            return;
+        }
         this.paused = !this.paused;
         if (this.paused) {
             this.job.pause();
@@ -142,11 +181,17 @@ export class BaseRun {
     }
 
     cancel() {
-        this.job.cancel();
+        if (!this.isEnding) {
+            this.job.cancel();
+        }
     }
 
     /** Ends the run at once; what is in progress is given up. */
     abandon() {
+        this.isAbandoned = true;
+        if (this.isEnding) {
+            this.endNow();
+        }
         this.job.cancel();
     }
 

@@ -317,7 +317,7 @@ export class WriteRun extends BaseRun {
     }
 
     togglePause() {
-        if (this.flow === null || this.phase !== "running") {
+        if (this.flow === null || this.phase !== "running" || this.isEnding) {
             super.togglePause();
             return;
         }
@@ -361,17 +361,25 @@ export class WriteRun extends BaseRun {
         }
     }
 
-    // Each picture has one final state, also those whose turn never came.
     runEnded(how, value) {
+        const work = this.ending(how, value);
+        this.endWith(work);
+    }
+
+    // Each picture has one final state, also those whose turn never came.
+    * ending(how, value) {
         const reason = how === "failed" ? String(value) : qsTr("cancelled before its turn");
-        this.items.forEach((item, i) => {
-            if (this.results[i] === undefined) {
-                this.takeResult(i, { status: "Skipped", reason: reason, photo: item.photo, ms: 0 });
-            }
-        });
-        const problem = [this.endReplacing(), this.keepLog()].filter((text) => text).join(" · ");
         const isStopped = this.flow !== null && this.flow.isStopping;
         this.flow = null;
+        for (let i = 0; i < this.items.length; i += 1) {
+            if (this.results[i] === undefined) {
+                this.takeResult(i, { status: "Skipped", reason: reason, photo: this.items[i].photo, ms: 0 });
+                yield i;
+            }
+        }
+        const unended = this.endReplacing();
+        const unkept = yield* this.keepLog();
+        const problem = [unended, unkept].filter((text) => text).join(" · ");
         this.isComplete = how === "done" && !isStopped;
         this.finish(this.summaryText(isStopped ? "cancelled" : how) + (problem ? " · " + problem : ""));
         if (this.items.some((item) => item.replacesOriginal)) {

@@ -135,12 +135,13 @@ export class RecipeRun extends WriteRun {
     }
 
     // In the order of the list, and of the outputs.
-    keepLog() {
+    * keepLog() {
         const action = this.window.action;
         const about = action.step.describe(this.settings);
         const now = new Date().toISOString();
         this.rows = joined(this.finals).map((final) => logRow(final, action.title(), about, now));
-        return super.keepLog();
+        const problem = yield* super.keepLog();
+        return problem;
     }
 
     summaryText(how) {

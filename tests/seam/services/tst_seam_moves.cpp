@@ -16,6 +16,7 @@ private Q_SLOTS:
     void plansWithoutTouchingAnything();
     void plansTheSameInSlices();
     void carriesOutARunItemByItem();
+    void beginsTheSameInSlices();
     void endsBeforeTheLastItem();
     void addsItemsOneByOne();
     void saysWhyNothingCanBeDone();
@@ -97,6 +98,21 @@ void TestSeamMoves::carriesOutARunItemByItem()
              QStringLiteral("[1,\"OK\",\"OK\",null,\"\"]\n[\"D/a.jpg\",\"D/b.jpg\"]"));
     QCOMPARE(read("a.jpg"), QByteArray("b.jpg"));
     QCOMPARE(read("b.jpg"), QByteArray("a.jpg"));
+}
+
+void TestSeamMoves::beginsTheSameInSlices()
+{
+    QCOMPARE(answer(QStringLiteral(
+                 "const order = moves.beginOrder('Rename'); moves.addItems(order, [move('a.jpg', 'b.jpg')]);"
+                 "moves.addItems(order, [move('b.jpg', 'x.jpg')]); while (!moves.prepare(order, 0)) {}"
+                 "report(moves.runs()[0].state); const { run } = moves.carryOut(order);"
+                 "report([moves.next(run).index, moves.next(run).index, moves.next(run), moves.end(run)]);"
+                 "report(moves.carryOut(order).problem);"
+                 "const other = moves.beginOrder('Rename'); moves.addItems(other, [move('x.jpg', 'y.jpg')]);"
+                 "while (!moves.prepare(other, 0)) {} moves.dropOrder(other); report(moves.runs().length);")),
+             QStringLiteral("\"open\"\n[1,0,null,\"\"]\n\"This run is not open\"\n1"));
+    QCOMPARE(read("b.jpg"), QByteArray("a.jpg"));
+    QCOMPARE(read("x.jpg"), QByteArray("b.jpg"));
 }
 
 void TestSeamMoves::endsBeforeTheLastItem()

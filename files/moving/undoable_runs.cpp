@@ -1,0 +1,60 @@
+#include "files/moving/undoable_runs.h"
+
+#include <QSet>
+
+namespace files {
+
+Undoable UndoableRuns::of(const QString &run)
+{
+    lookForNewRuns();
+    if (const auto known = m_known.find(run); known != m_known.end())
+        return known->second;
+    const Undoable answer = undoableItems(m_shelf, run);
+    if (answer.why != MoveProblem::OpenRun)
+        m_known[run] = answer;
+    return answer;
+}
+
+void UndoableRuns::ended(const RunRecord &run)
+{
+    lookForNewRuns();
+    forget(run.undoes);
+    Undoable answer;
+    for (const MoveRecord &item : run.items)
+        answer.count += item.isKnown && item.stand == Stand::Done;
+    answer.why = answer.count > 0 ? MoveProblem::None : MoveProblem::EmptyRun;
+    m_known[run.id] = answer;
+}
+
+void UndoableRuns::lookForNewRuns()
+{
+    const QStringList names = m_shelf.names();
+    if (names == m_names)
+        return;
+    const QSet<QString> before(m_names.cbegin(), m_names.cend());
+    m_names = names;
+    for (const QString &name : names) {
+        if (before.contains(name))
+            continue;
+        const QString undoes = summaryOf(m_shelf.ends(name)).undoes;
+        m_undoes[name] = undoes;
+        forget(undoes);
+    }
+    const QSet<QString> now(names.cbegin(), names.cend());
+    for (const QString &name : before - now)
+        m_known.erase(name);
+}
+
+/** A run that took others back, and is taken back, changes what is to be said of those too. */
+void UndoableRuns::forget(const QString &run)
+{
+    QSet<QString> seen; // damaged journals may lead in a circle
+    for (QString each = run; !each.isEmpty() && !seen.contains(each);) {
+        seen.insert(each);
+        m_known.erase(each);
+        const auto undoes = m_undoes.find(each);
+        each = undoes == m_undoes.end() ? QString() : undoes->second;
+    }
+}
+
+} // namespace files
