@@ -1505,7 +1505,7 @@ declare module "quorlin/shell" {
         /** Files that were copied, or lines of text that are paths. */
         clipboardPaths(): string[];
         /** Puts a text on the clipboard. */
-        copyText(text: string): null;
+        copyText(text: text): null;
         quit(): null;
         /** Tells which form is the main window. */
         setMainForm(form: Form | null): null;
@@ -1955,13 +1955,13 @@ declare module "quorlin/shell" {
         readonly currentId: whole;
         /** From 1; 0 where there is none. */
         readonly currentPlace: whole;
+        problemsOnly: boolean;
         /** Runs work on these. */
         readonly tickedCount: whole;
-        /** False while it is sorted by something that is still being read. */
-        readonly settled: boolean;
-        problemsOnly: boolean;
         /** While a job runs nothing is read in the background for rows that are not visible. */
         busy: boolean;
+        /** False while it is sorted by something that is still being read. */
+        readonly settled: boolean;
         /** What the user did to the columns, as a text to be kept. */
         layout: string;
         /** A column by its name, with a minus sign before it where the last comes first; empty for the order of adding. */
@@ -2164,7 +2164,7 @@ declare module "quorlin/program" {
         crashReport(): string;
         forgetCrash(): null;
         /** Notes what the window is about, for the report of a crash. */
-        noteWork(action: string, picture: string): null;
+        noteWork(action: text, picture: text): null;
         /** Shows the print panel and prints each picture on a page of its own. */
         print(paths: texts): null;
         /** Lets the user choose paper and orientation for this print and those to come. */

@@ -186,7 +186,8 @@ export class Input {
         // The settings of a run that is under way stay as they are.
         const named = this.window.isBusy() ? [] : recipesAmong(paths);
         const problem = named.length === 0 ? "" : this.window.actionPage.openRecipe(files.absolute(named[0]));
-        const presets = this.takes()[0] === "*" ? [] : presetFilesAmong(paths);
+        const takes = this.takes() || ["*"]; // folders are of no kind
+        const presets = takes[0] === "*" ? [] : presetFilesAmong(paths);
         presets.forEach((path) => this.window.actionPage.presets.importFile(path));
         const others = paths.filter((path) => named.indexOf(path) < 0 && presets.indexOf(path) < 0);
         if (others.length > 0 || named.length + presets.length === 0) {
