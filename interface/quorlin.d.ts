@@ -1968,9 +1968,9 @@ declare module "quorlin/shell" {
         sorting: string;
         readonly countChanged: Signal<(count: whole) => any>;
         readonly orderChanged: Signal<() => any>;
-        readonly currentPictureChanged: Signal<(id: whole) => any>;
         readonly ticksChanged: Signal<() => any>;
         readonly clocksChanged: Signal<() => any>;
+        readonly currentPictureChanged: Signal<(id: whole) => any>;
         readonly largePreviewRequested: Signal<() => any>;
         readonly layoutChanged: Signal<() => any>;
         /** Files with one of the extensions, or any file for "*", or folders and no files. */
