@@ -1164,6 +1164,8 @@ declare module "quorlin/recipes" {
         work(): RecipeWork | null;
         /** How many pictures workers may be at, at a time; as many as there are processors where this was never called. */
         useProcessors(processors: whole): null;
+        /** How much memory pictures that are worked on together may need, in MB; 0 is what is free. */
+        useMemory(megabytes: whole): null;
         /** The processors that this process may use. */
         processors(): whole;
         /** Starts a first worker, for what may come. */
@@ -1471,6 +1473,8 @@ declare module "quorlin/shell" {
         readonly interfaceFolder: string;
         /** False while a change of the settings could not be written. */
         readonly keepsSettings: boolean;
+        /** Whether the main window fills the screen. */
+        readonly fullScreen: boolean;
         /** A change of the settings cannot be written; told once in the life of the program. */
         readonly settingsNotKept: Signal<() => any>;
         /** A window or pane from a file such as "windows/main/main.ui"; an Error that names the file if it cannot be loaded. */
@@ -2047,6 +2051,9 @@ declare module "quorlin/shell" {
         readonly hasPlace: boolean;
         /** False for what is no picture. */
         showFile(path: text): boolean;
+        /** Of several pictures beside one another; what they do not share has a mark. False where one is no picture. */
+        showFiles(paths: texts): boolean;
+        differenceCount(): whole;
         /** Shows the values in which every word occurs. */
         look(text: text): null;
         /** How many lines. */

@@ -34,6 +34,8 @@ class Shell : public QObject
     Q_PROPERTY(QString interfaceFolder READ interfaceFolder CONSTANT)
     /** False while a change of the settings could not be written. */
     Q_PROPERTY(bool keepsSettings READ keepsSettings)
+    /** Whether the main window fills the screen. */
+    Q_PROPERTY(bool fullScreen READ isFullScreen)
 
 public:
     /** @param interfaceFolder  the folder of main.js, from which .ui files are named */

@@ -6,6 +6,7 @@
 #include "app/setup/configuration.h"
 #include "app/setup/interface_folder.h"
 #include "app/setup/translations.h"
+#include "app/window/forms/accessible_controls.h"
 #include "app/window/forms/widget_controls.h"
 #include "app/window/look/icons.h"
 #include "app/window/look/theme.h"
@@ -32,6 +33,7 @@ StartUp::StartUp(QApplication &application)
     const QString folder = interfaceFolder();
     useLanguage();
     setIconsOf(folder);
+    describeOwnControls();
     m_theme = std::make_unique<Theme>(application, folder + QStringLiteral("/themes"));
     m_shell = std::make_unique<Shell>(folder, *m_theme);
     // The engine's queue of answers comes before the dialogs.

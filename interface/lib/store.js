@@ -12,6 +12,11 @@ export function recall(defaults, key, standard) {
     return merged(standard, kept);
 }
 
+/** A copy of the standard values with those of `kept` that have their types. */
+export function completed(standard, kept) {
+    return merged(standard, kept);
+}
+
 export function keep(defaults, key, value) {
     defaults.set(key, JSON.stringify(value));
 }

@@ -4,20 +4,30 @@ import { copyOf } from "./copies.js";
 import { keep, recall } from "./store.js";
 
 const KEY = "Preferences";
-// processors: 0 is all there are.
-const STANDARD = { ifTaken: "number", logRows: 100000, processors: 0 };
+// processors: 0 is all there are; memory, in MB: 0 is what is free.
+const STANDARD = { ifTaken: "number", logRows: 100000, processors: 0, memory: 0, destination: "beside" };
 
 /** What an action does at first where a name is taken. */
 export const TAKEN = ["number", "replace", "skip", "ask"];
 /** How many rows of the log may be kept. */
 export const LOG_ROWS = [1000, 10000, 100000];
+/** How much memory runs may take, in MB; 0 is what is free. */
+export const MEMORY = [0, 1024, 2048, 4096, 8192, 16384];
+/** Where results go at first. */
+export const DESTINATIONS = ["beside", "source"];
 
-/** {ifTaken, logRows, processors}; what is not known is as it is for everybody. */
+function oneOf(values, kept, standard) {
+    return values.indexOf(kept) >= 0 ? kept : standard;
+}
+
+/** {ifTaken, logRows, processors, memory, destination}; what is not known is as it is for everybody. */
 export function wishes(defaults) {
     const kept = recall(defaults, KEY, STANDARD);
     return {
-        ifTaken: TAKEN.indexOf(kept.ifTaken) >= 0 ? kept.ifTaken : STANDARD.ifTaken,
-        logRows: LOG_ROWS.indexOf(kept.logRows) >= 0 ? kept.logRows : STANDARD.logRows,
+        ifTaken: oneOf(TAKEN, kept.ifTaken, STANDARD.ifTaken),
+        logRows: oneOf(LOG_ROWS, kept.logRows, STANDARD.logRows),
+        memory: oneOf(MEMORY, kept.memory, STANDARD.memory),
+        destination: oneOf(DESTINATIONS, kept.destination, STANDARD.destination),
         processors: Number.isInteger(kept.processors) && kept.processors > 0 ? kept.processors : STANDARD.processors,
     };
 }
@@ -33,6 +43,9 @@ export function firstSettings(defaults, standard) {
     const first = copyOf(standard);
     if (first.output !== undefined && first.output.ifTaken !== undefined) {
         first.output.ifTaken = wishes(defaults).ifTaken;
+    }
+    if (first.output !== undefined && first.output.destination !== undefined) {
+        first.output.destination.kind = wishes(defaults).destination;
     }
     return first;
 }

@@ -41,6 +41,7 @@ export const MOVES = {
     output: false,
     preview: false,
     watches: false,
+    repeats: false,
     columns: ["thumbnail", "name", "folder", "taken", "camera", "newName", "status"],
     headings: () => ({ name: qsTr("Now") }),
     stressed: true,

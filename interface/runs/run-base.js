@@ -9,6 +9,7 @@ import { showUnticked } from "./list-rows.js";
 import { appendRows, trimRows } from "./log-file.js";
 import { clockText, Progress } from "./progress.js";
 import { toCsv } from "./report.js";
+import { keepSettings } from "./making/run-settings.js";
 import { fill, problemsText } from "../lib/wording.js";
 
 const ROWS_AT_ONCE = 50;
@@ -20,6 +21,8 @@ export class BaseRun {
         this.changed = changed;
         this.job = shell.job();
         this.phase = "idle";
+        /** The run that this one takes back, or "". */
+        this.undoes = "";
         this.reset([]);
     }
 
@@ -35,6 +38,8 @@ export class BaseRun {
         this.endWork = null;
         /** Whether it came to its end by itself, and did more than plan. */
         this.isComplete = false;
+        /** {run, action, settings}, once they are in the log. */
+        this.keptSettings = null;
         this.text = "";
         this.detail = "";
         this.progress = new Progress([]);
@@ -132,7 +137,16 @@ export class BaseRun {
             problem = appendRows(files, rows);
             yield i;
         }
-        return problem || (this.rows.length === 0 ? "" : trimRows(files));
+        return problem || (this.rows.length === 0 ? "" : trimRows(files)) || this.keepSettings();
+    }
+
+    // A run that takes another one back has no settings.
+    keepSettings() {
+        if (this.rows.length === 0 || this.undoes) {
+            return "";
+        }
+        this.keptSettings = { run: this.id, action: this.window.action.name, settings: this.settings };
+        return keepSettings(files, this.id, this.window.action.name, this.settings);
     }
 
     /** Carries out the end of the run, a generator: it can be neither paused nor stopped. */

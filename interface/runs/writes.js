@@ -43,6 +43,7 @@ export const WRITES = {
     output: true,
     preview: true,
     watches: true,
+    repeats: true,
     columns: ["thumbnail", "name", "folder", "taken", "camera", "pixels", "size", "type", "newName", "newSize",
               "status"],
     headings: () => ({}),

@@ -609,6 +609,14 @@
         <source>Search the Log</source>
         <translation>Im Protokoll suchen</translation>
     </message>
+    <message>
+        <source>Use These Settings</source>
+        <translation>Diese Einstellungen verwenden</translation>
+    </message>
+    <message>
+        <source>Show the action of this run, with the settings that it had</source>
+        <translation>Die Aktion dieses Durchlaufs zeigen, mit seinen Einstellungen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1004,6 +1012,14 @@
         <source>1:1</source>
         <translation>1:1</translation>
     </message>
+    <message>
+        <source>Repeat the &amp;Last Run</source>
+        <translation>&amp;Letzten Durchlauf wiederholen</translation>
+    </message>
+    <message>
+        <source>The pictures that were added since, with the settings of the last run</source>
+        <translation>Die seither hinzugefügten Bilder, mit den Einstellungen des letzten Durchlaufs</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -1390,6 +1406,46 @@
     <message>
         <source>How many processors runs use</source>
         <translation>Wie viele Prozessoren ein Lauf benutzt</translation>
+    </message>
+    <message>
+        <source>Light or dark, for all windows; it holds at once.</source>
+        <translation>Hell oder dunkel, für alle Fenster; es gilt sofort.</translation>
+    </message>
+    <message>
+        <source>Results go</source>
+        <translation>Ergebnisse in</translation>
+    </message>
+    <message>
+        <source>Where results go at first</source>
+        <translation>Wohin Ergebnisse zuerst kommen</translation>
+    </message>
+    <message>
+        <source>The same: a start for actions that you have not used yet.</source>
+        <translation>Ebenso: ein Anfang für Aktionen, die Sie noch nicht benutzt haben.</translation>
+    </message>
+    <message>
+        <source>When there are more, the oldest go for good.</source>
+        <translation>Werden es mehr, gehen die ältesten endgültig.</translation>
+    </message>
+    <message>
+        <source>Fewer leave more for other programs; what is made is the same.</source>
+        <translation>Weniger lassen anderen Programmen mehr; das Ergebnis ist dasselbe.</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>How much memory runs use</source>
+        <translation>Wie viel Speicher Durchläufe benutzen</translation>
+    </message>
+    <message>
+        <source>Where large pictures need more together, fewer of them are made at a time.</source>
+        <translation>Brauchen große Bilder zusammen mehr, entstehen weniger zugleich.</translation>
+    </message>
+    <message>
+        <source>Quorlin asks for its number only; nothing is downloaded or installed by itself.</source>
+        <translation>Quorlin fragt nur nach ihrer Nummer; nichts wird von selbst geladen oder installiert.</translation>
     </message>
 </context>
 <context>
@@ -3886,6 +3942,10 @@
         <source>A run is under way. What became of each picture stands here when it has ended.</source>
         <translation>Ein Durchlauf ist im Gang. Was aus jedem Bild geworden ist, steht hier, wenn er beendet ist.</translation>
     </message>
+    <message>
+        <source>These settings cannot be used now.</source>
+        <translation>Diese Einstellungen lassen sich jetzt nicht verwenden.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -4098,6 +4158,13 @@
     <message>
         <source>Revert comment</source>
         <translation>Kommentar zurücksetzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures, ≠ %1 properties</source>
+        <translation>
+            <numerusform>%n Bild, ≠ %1 Eigenschaften</numerusform>
+            <numerusform>%n Bilder, ≠ %1 Eigenschaften</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5042,6 +5109,22 @@
     <message>
         <source>%1 of %2 processors</source>
         <translation>%1 von %2 Prozessoren</translation>
+    </message>
+    <message>
+        <source>Into a folder beside the originals</source>
+        <translation>einen Ordner neben den Originalen</translation>
+    </message>
+    <message>
+        <source>Into the folder of the originals</source>
+        <translation>den Ordner der Originale</translation>
+    </message>
+    <message>
+        <source>all that is free</source>
+        <translation>alles, was frei ist</translation>
+    </message>
+    <message>
+        <source>%1 GB at most</source>
+        <translation>höchstens %1 GB</translation>
     </message>
 </context>
 <context>
@@ -8205,6 +8288,14 @@
         <source>When done: close</source>
         <translation>Danach: schließen</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: started</source>
+        <translation>%1: gestartet</translation>
+    </message>
 </context>
 <context>
     <name>save-as</name>
@@ -9672,10 +9763,29 @@
     </message>
 </context>
 <context>
+    <name>window::KeyHeader</name>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Left and Right choose a column, Space sorts by it</source>
+        <translation>Links und Rechts wählen eine Spalte, die Leertaste sortiert danach</translation>
+    </message>
+</context>
+<context>
     <name>window::ManualView</name>
     <message>
         <source>This page of the manual is missing.</source>
         <translation>Diese Seite des Handbuchs fehlt.</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>Groß zeigen</translation>
+    </message>
+    <message>
+        <source>Picture of the manual</source>
+        <translation>Bild des Handbuchs</translation>
     </message>
 </context>
 <context>

@@ -423,6 +423,13 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>%n pictures, ≠ %1 properties</source>
+        <translation>
+            <numerusform>%n picture, ≠ %1 properties</numerusform>
+            <numerusform>%n pictures, ≠ %1 properties</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%n properties</source>
         <translation>
             <numerusform>%n property</numerusform>

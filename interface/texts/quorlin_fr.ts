@@ -609,6 +609,14 @@
         <source>Search the Log</source>
         <translation>Rechercher</translation>
     </message>
+    <message>
+        <source>Use These Settings</source>
+        <translation>Utiliser ces réglages</translation>
+    </message>
+    <message>
+        <source>Show the action of this run, with the settings that it had</source>
+        <translation>Afficher l’action de ce traitement, avec ses réglages</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1004,6 +1012,14 @@
         <source>1:1</source>
         <translation>1:1</translation>
     </message>
+    <message>
+        <source>Repeat the &amp;Last Run</source>
+        <translation>Répéter le &amp;dernier traitement</translation>
+    </message>
+    <message>
+        <source>The pictures that were added since, with the settings of the last run</source>
+        <translation>Les images ajoutées depuis, avec les réglages du dernier traitement</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -1390,6 +1406,46 @@
     <message>
         <source>How many processors runs use</source>
         <translation>Combien de processeurs un traitement utilise</translation>
+    </message>
+    <message>
+        <source>Light or dark, for all windows; it holds at once.</source>
+        <translation>Clair ou sombre, pour toutes les fenêtres ; effet immédiat.</translation>
+    </message>
+    <message>
+        <source>Results go</source>
+        <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>Where results go at first</source>
+        <translation>Où vont d’abord les résultats</translation>
+    </message>
+    <message>
+        <source>The same: a start for actions that you have not used yet.</source>
+        <translation>De même : un point de départ pour les actions pas encore utilisées.</translation>
+    </message>
+    <message>
+        <source>When there are more, the oldest go for good.</source>
+        <translation>S’il y en a plus, les plus anciennes disparaissent pour de bon.</translation>
+    </message>
+    <message>
+        <source>Fewer leave more for other programs; what is made is the same.</source>
+        <translation>Moins en laisse plus aux autres programmes ; le résultat est le même.</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>How much memory runs use</source>
+        <translation>Mémoire utilisée par les traitements</translation>
+    </message>
+    <message>
+        <source>Where large pictures need more together, fewer of them are made at a time.</source>
+        <translation>Si de grandes images en demandent plus ensemble, moins sont traitées à la fois.</translation>
+    </message>
+    <message>
+        <source>Quorlin asks for its number only; nothing is downloaded or installed by itself.</source>
+        <translation>Quorlin ne demande que son numéro ; rien n’est téléchargé ni installé tout seul.</translation>
     </message>
 </context>
 <context>
@@ -3886,6 +3942,10 @@
         <source>A run is under way. What became of each picture stands here when it has ended.</source>
         <translation>Un traitement est en cours. Ce que chaque image est devenue sera indiqué ici quand il sera terminé.</translation>
     </message>
+    <message>
+        <source>These settings cannot be used now.</source>
+        <translation>Ces réglages ne peuvent pas être utilisés maintenant.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -4098,6 +4158,13 @@
     <message>
         <source>Revert comment</source>
         <translation>Restaurer le commentaire</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures, ≠ %1 properties</source>
+        <translation>
+            <numerusform>%n image, ≠ %1 propriétés</numerusform>
+            <numerusform>%n images, ≠ %1 propriétés</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5042,6 +5109,22 @@
     <message>
         <source>%1 of %2 processors</source>
         <translation>%1 processeurs sur %2</translation>
+    </message>
+    <message>
+        <source>Into a folder beside the originals</source>
+        <translation>Dans un dossier à côté des originaux</translation>
+    </message>
+    <message>
+        <source>Into the folder of the originals</source>
+        <translation>Dans le dossier des originaux</translation>
+    </message>
+    <message>
+        <source>all that is free</source>
+        <translation>tout ce qui est libre</translation>
+    </message>
+    <message>
+        <source>%1 GB at most</source>
+        <translation>%1 Go au plus</translation>
     </message>
 </context>
 <context>
@@ -8205,6 +8288,14 @@
         <source>When done: close</source>
         <translation>À la fin : fermer</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1: started</source>
+        <translation>%1 : commencé</translation>
+    </message>
 </context>
 <context>
     <name>save-as</name>
@@ -9672,10 +9763,29 @@
     </message>
 </context>
 <context>
+    <name>window::KeyHeader</name>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Left and Right choose a column, Space sorts by it</source>
+        <translation>Gauche et Droite choisissent une colonne, Espace trie selon elle</translation>
+    </message>
+</context>
+<context>
     <name>window::ManualView</name>
     <message>
         <source>This page of the manual is missing.</source>
         <translation>Cette page du manuel est absente.</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Picture of the manual</source>
+        <translation>Image du manuel</translation>
     </message>
 </context>
 <context>

@@ -609,6 +609,14 @@
         <source>Search the Log</source>
         <translation>Logboek doorzoeken</translation>
     </message>
+    <message>
+        <source>Use These Settings</source>
+        <translation>Deze instellingen gebruiken</translation>
+    </message>
+    <message>
+        <source>Show the action of this run, with the settings that it had</source>
+        <translation>De actie van deze opdracht tonen, met de instellingen ervan</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1004,6 +1012,14 @@
         <source>1:1</source>
         <translation>1:1</translation>
     </message>
+    <message>
+        <source>Repeat the &amp;Last Run</source>
+        <translation>&amp;Laatste opdracht herhalen</translation>
+    </message>
+    <message>
+        <source>The pictures that were added since, with the settings of the last run</source>
+        <translation>De foto’s die sindsdien zijn toegevoegd, met de instellingen van de laatste opdracht</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -1390,6 +1406,46 @@
     <message>
         <source>How many processors runs use</source>
         <translation>Hoeveel processors een verwerking gebruikt</translation>
+    </message>
+    <message>
+        <source>Light or dark, for all windows; it holds at once.</source>
+        <translation>Licht of donker, voor alle vensters; het geldt meteen.</translation>
+    </message>
+    <message>
+        <source>Results go</source>
+        <translation>Resultaten</translation>
+    </message>
+    <message>
+        <source>Where results go at first</source>
+        <translation>Waar resultaten eerst heen gaan</translation>
+    </message>
+    <message>
+        <source>The same: a start for actions that you have not used yet.</source>
+        <translation>Net zo: een begin voor acties die u nog niet hebt gebruikt.</translation>
+    </message>
+    <message>
+        <source>When there are more, the oldest go for good.</source>
+        <translation>Worden het er meer, dan verdwijnen de oudste voorgoed.</translation>
+    </message>
+    <message>
+        <source>Fewer leave more for other programs; what is made is the same.</source>
+        <translation>Minder laat meer over voor andere programma’s; het resultaat is hetzelfde.</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Geheugen</translation>
+    </message>
+    <message>
+        <source>How much memory runs use</source>
+        <translation>Hoeveel geheugen opdrachten gebruiken</translation>
+    </message>
+    <message>
+        <source>Where large pictures need more together, fewer of them are made at a time.</source>
+        <translation>Als grote foto’s samen meer nodig hebben, worden er minder tegelijk gemaakt.</translation>
+    </message>
+    <message>
+        <source>Quorlin asks for its number only; nothing is downloaded or installed by itself.</source>
+        <translation>Quorlin vraagt alleen het nummer; niets wordt vanzelf gedownload of geïnstalleerd.</translation>
     </message>
 </context>
 <context>
@@ -3886,6 +3942,10 @@
         <source>A run is under way. What became of each picture stands here when it has ended.</source>
         <translation>Er loopt een opdracht. Wat er van elke foto is geworden, staat hier als die klaar is.</translation>
     </message>
+    <message>
+        <source>These settings cannot be used now.</source>
+        <translation>Deze instellingen kunnen nu niet worden gebruikt.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -4098,6 +4158,13 @@
     <message>
         <source>Revert comment</source>
         <translation>Opmerking terugzetten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures, ≠ %1 properties</source>
+        <translation>
+            <numerusform>%n foto, ≠ %1 eigenschappen</numerusform>
+            <numerusform>%n foto’s, ≠ %1 eigenschappen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5042,6 +5109,22 @@
     <message>
         <source>%1 of %2 processors</source>
         <translation>%1 van %2 processors</translation>
+    </message>
+    <message>
+        <source>Into a folder beside the originals</source>
+        <translation>In een map naast de originelen</translation>
+    </message>
+    <message>
+        <source>Into the folder of the originals</source>
+        <translation>In de map van de originelen</translation>
+    </message>
+    <message>
+        <source>all that is free</source>
+        <translation>alles wat vrij is</translation>
+    </message>
+    <message>
+        <source>%1 GB at most</source>
+        <translation>hoogstens %1 GB</translation>
     </message>
 </context>
 <context>
@@ -8205,6 +8288,14 @@
         <source>When done: close</source>
         <translation>Na afloop: sluiten</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: started</source>
+        <translation>%1: begonnen</translation>
+    </message>
 </context>
 <context>
     <name>save-as</name>
@@ -9672,10 +9763,29 @@
     </message>
 </context>
 <context>
+    <name>window::KeyHeader</name>
+    <message>
+        <source>Columns</source>
+        <translation>Kolommen</translation>
+    </message>
+    <message>
+        <source>Left and Right choose a column, Space sorts by it</source>
+        <translation>Links en Rechts kiezen een kolom, de spatiebalk sorteert erop</translation>
+    </message>
+</context>
+<context>
     <name>window::ManualView</name>
     <message>
         <source>This page of the manual is missing.</source>
         <translation>Deze pagina van de handleiding ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Show large</source>
+        <translation>Groot tonen</translation>
+    </message>
+    <message>
+        <source>Picture of the manual</source>
+        <translation>Afbeelding uit de handleiding</translation>
     </message>
 </context>
 <context>

@@ -128,6 +128,11 @@ void WorkerDesk::setSize(int workers)
     look();
 }
 
+void WorkerDesk::setMostMemory(qint64 bytes)
+{
+    m_mostMemory = std::max(qint64(0), bytes);
+}
+
 void WorkerDesk::look()
 {
     m_look.start(0);
@@ -256,7 +261,7 @@ void WorkerDesk::giveWork()
 void WorkerDesk::give(Worker &worker, Asked asked)
 {
     if (atWork() == 0 && asked.errand->expectedBytes() > 0)
-        m_memory = platform::memoryLeft();
+        m_memory = m_mostMemory > 0 ? std::min(m_mostMemory, platform::memoryLeft()) : platform::memoryLeft();
     const Id id = worker.hand.id;
     const std::shared_ptr<Errand> errand = asked.errand;
     const Number number = asked.number;

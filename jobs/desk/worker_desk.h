@@ -80,6 +80,11 @@ public:
 
     /** How many pictures may be worked on at a time: 1 to most(). */
     void setSize(int workers);
+    /**
+     * How much memory pictures that are at work together may need, in bytes; never more than is free, which is the bound for 0. One picture
+     * that needs more is worked on alone. From the next picture on that finds nothing else at work.
+     */
+    void setMostMemory(qint64 bytes);
     int size() const { return m_size; }
     /** The processors of this process. */
     static int most();
@@ -134,7 +139,8 @@ private:
     std::map<Urgency, std::deque<Asked>> m_waiting;
     std::deque<Asked> m_toTryAgain;
     Number m_next = 1;
-    qint64 m_memory = 0; ///< what was to be had when nothing was at work
+    qint64 m_mostMemory = 0; ///< 0: what is free
+    qint64 m_memory = 0;     ///< what was to be had when nothing was at work
     std::optional<HelloMessage> m_confinement;
     int m_missing = 0; ///< workers that could not be started, one after the other
     QTimer m_look;     ///< out of the event loop

@@ -218,6 +218,12 @@ void RecipeService::useProcessors(int processors)
     WorkerDesk::ofProcess().setSize(processors);
 }
 
+void RecipeService::useMemory(int megabytes)
+{
+    constexpr int megabyteBits = 20;
+    WorkerDesk::ofProcess().setMostMemory(qint64(megabytes) << megabyteBits);
+}
+
 int RecipeService::processors() const
 {
     return WorkerDesk::most();

@@ -75,6 +75,8 @@ public:
     Q_INVOKABLE jobs::RecipeWork *work();
     /** How many pictures workers may be at, at a time: 1 to processors(), which it is where this was never called. */
     Q_INVOKABLE void useProcessors(int processors);
+    /** How much memory pictures that are worked on together may need, in MB; 0, which it is where this was never called: what is free. */
+    Q_INVOKABLE void useMemory(int megabytes);
     /** The processors that this process may use, 1 or more. */
     Q_INVOKABLE int processors() const;
     /** Starts a first worker, for what may come. */

@@ -9,9 +9,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDialog>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 
@@ -89,6 +93,45 @@ private Q_SLOTS:
         QCOMPARE(view()->page(), QStringLiteral("resize"));
         follow("nowhere.md");
         QVERIFY(view()->toPlainText().contains(QStringLiteral("missing")));
+    }
+
+    // A document by itself would leave out pixels of a picture that is wider than the text.
+    void picturesAreScaledSmoothlyAndOpenLarge()
+    {
+        QImage stripes(2000, 100, QImage::Format_RGB32);
+        for (int x = 0; x < stripes.width(); ++x)
+            for (int y = 0; y < stripes.height(); ++y)
+                stripes.setPixelColor(x, y, x % 2 == 0 ? Qt::white : Qt::black);
+        for (const char *appearance : {"light", "dark"})
+            QVERIFY(stripes.save(m_folder.path() +
+                                 QStringLiteral("/docs/screenshots/a-%1.png").arg(QString::fromLatin1(appearance))));
+        m_driver->show("log");
+        open();
+        const QImage drawn =
+            view()
+                ->document()
+                ->resource(QTextDocument::ImageResource, QUrl(QStringLiteral("../screenshots/a-light.png")))
+                .value<QImage>();
+        QVERIFY(drawn.width() > 200 && drawn.width() <= 760);
+        const int grey = qGray(drawn.pixel(drawn.width() / 2, drawn.height() / 2));
+        QVERIFY2(grey > 90 && grey < 165, qPrintable(QString::number(grey)));
+        // By keyboard: the picture is a link behind those of the text.
+        view()->setFocus();
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(view(), Qt::Key_Tab);
+        QTest::keyClick(view(), Qt::Key_Return);
+        auto *large = view()->findChild<QDialog *>(QStringLiteral("manualPicture"));
+        QVERIFY(large && large->isVisible() && QTest::qWaitForWindowActive(large));
+        const QPixmap shown = large->findChild<QLabel *>()->pixmap(Qt::ReturnByValue);
+        QVERIFY(shown.width() > 0 && shown.width() <= view()->screen()->availableSize().width());
+        QPointer<QDialog> closing = large;
+        QTest::keyClick(large, Qt::Key_Escape);
+        QVERIFY(m_driver->waitFor([&closing] { return !closing || !closing->isVisible(); }));
+        QVERIFY(view()->isVisible());
+        for (const auto &[appearance, color] : {std::pair{"light", Qt::white}, std::pair{"dark", Qt::black}})
+            QVERIFY(pictures::plain(2000, 100, color)
+                        .save(m_folder.path() +
+                              QStringLiteral("/docs/screenshots/a-%1.png").arg(QString::fromLatin1(appearance))));
     }
 
     void externalLinksGoToTheBrowser()

@@ -62,9 +62,9 @@ void AngleDial::paintEvent(QPaintEvent *)
     const double radius = std::min(width(), height()) / 2.0 - 3;
     painter.setBrush(Theme::color(QStringLiteral("field")));
     painter.setPen(
-        QPen(Theme::color(hasFocus() ? QStringLiteral("accent") : QStringLiteral("line")), hasFocus() ? 2 : 1));
+        QPen(Theme::color(hasFocus() ? QStringLiteral("focus") : QStringLiteral("edge")), hasFocus() ? 2 : 1));
     painter.drawEllipse(centre, radius, radius);
-    painter.setPen(QPen(Theme::color(QStringLiteral("faint")), 1.2, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(Theme::color(QStringLiteral("edge")), 1.2, Qt::SolidLine, Qt::RoundCap));
     for (int degrees = 0; degrees < 360; degrees += 45)
         painter.drawLine(onCircle(centre, radius - 3, degrees),
                          onCircle(centre, radius - (degrees % 90 == 0 ? 8 : 6), degrees));

@@ -20,11 +20,11 @@ void CardHandle::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (hasFocus()) {
-        painter.setPen(QPen(Theme::color(QStringLiteral("accent")), 2));
+        painter.setPen(QPen(Theme::color(QStringLiteral("focus")), 2));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
     }
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Theme::color(QStringLiteral("faint")));
+    painter.setBrush(Theme::color(QStringLiteral("edge")));
     const QPointF middle = QRectF(rect()).center();
     for (const double x : {-3.0, 3.0})
         for (const double y : {-5.0, 0.0, 5.0})

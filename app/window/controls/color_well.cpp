@@ -60,7 +60,7 @@ void ColorWell::paintEvent(QPaintEvent *event)
     QColor shown = m_color;
     shown.setAlpha(isEnabled() ? 255 : 70);
     painter.setBrush(shown);
-    painter.setPen(Theme::color(QStringLiteral("faint")));
+    painter.setPen(Theme::color(QStringLiteral("edge")));
     painter.drawRoundedRect(QRectF(rect()).adjusted(5.5, 5.5, -5.5, -5.5), 3, 3);
 }
 

@@ -2,8 +2,11 @@
 
 #include <QAbstractItemView>
 #include <QEnterEvent>
+#include <QLabel>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+
+#include <algorithm>
 
 namespace window {
 
@@ -54,6 +57,25 @@ void ComboBox::paintEvent(QPaintEvent *)
     option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, roomForText());
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+// To those who do not see it the toolkit says what is chosen in a box, and leaves it to a label to say what the box is for.
+void ComboBox::showEvent(QShowEvent *event)
+{
+    const QList<QLabel *> labels = parentWidget()
+                                       ? parentWidget()->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly)
+                                       : QList<QLabel *>();
+    const bool isNamed = std::any_of(labels.cbegin(), labels.cend(), [this](const QLabel *label) {
+        return label != m_label && label->buddy() == this;
+    });
+    if (!m_label && !isNamed && parentWidget() && !accessibleName().isEmpty()) {
+        m_label = new QLabel(parentWidget());
+        m_label->setBuddy(this);
+        m_label->hide();
+    }
+    if (m_label)
+        m_label->setText(accessibleName());
+    QComboBox::showEvent(event);
 }
 
 void ComboBox::enterEvent(QEnterEvent *event)

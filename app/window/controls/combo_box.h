@@ -2,6 +2,8 @@
 
 #include <QComboBox>
 
+class QLabel;
+
 namespace window {
 
 /**
@@ -22,6 +24,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     /** The toolkit measures the ink of the entries; what is drawn is a little wider. */
@@ -29,7 +32,8 @@ private:
     int roomForText() const;
     int widthOf(int entry) const;
 
-    QString m_tip; ///< the tooltip that the box gave itself
+    QLabel *m_label = nullptr; ///< says what the box is for where no label beside it does
+    QString m_tip;             ///< the tooltip that the box gave itself
 };
 
 } // namespace window

@@ -24,6 +24,9 @@ class NumberBox : public QDoubleSpinBox
 public:
     using QDoubleSpinBox::QDoubleSpinBox;
 
+    /** The toolkit measures the ink of the text; what is drawn is a little wider. */
+    QSize sizeHint() const override { return QDoubleSpinBox::sizeHint() + QSize(6, 0); }
+
     void showValue(double value);
     void showDecimals(int decimals);
     void showSuffix(const QString &suffix);

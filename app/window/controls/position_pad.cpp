@@ -73,7 +73,7 @@ void PositionPad::paintEvent(QPaintEvent *)
         const QRectF box = QRectF(placeRect(place)).adjusted(0.5, 0.5, -0.5, -0.5);
         const char *fill = on && isEnabled() ? "accent" : place == m_hovered && isEnabled() ? "hover" : "field";
         painter.setBrush(Theme::color(QString::fromLatin1(on && !isEnabled() ? "line" : fill)));
-        painter.setPen(Theme::color(QString::fromLatin1(!isEnabled() ? "hairline" : on ? "accent" : "line")));
+        painter.setPen(Theme::color(QString::fromLatin1(!isEnabled() ? "hairline" : on ? "accent" : "edge")));
         painter.drawRoundedRect(box, 4, 4);
         if (hasRing && hasFocus()) {
             painter.setBrush(Qt::NoBrush);

@@ -38,7 +38,7 @@ public:
         painter->setPen(Theme::color(isCurrent ? QStringLiteral("onAccent") : QStringLiteral("text")));
         painter->drawText(place, Qt::AlignLeft | Qt::AlignTop, index.data().toString());
         font.setWeight(QFont::Normal);
-        font.setPixelSize(12);
+        font.setPixelSize(Theme::scaled(12));
         painter->setFont(font);
         painter->setPen(Theme::color(isCurrent ? QStringLiteral("onAccent") : QStringLiteral("muted")));
         const QString explanation = index.data(explanationRole).toString();

@@ -15,6 +15,7 @@
 namespace window {
 
 namespace {
+constexpr int markPx = 2;
 constexpr int heightPx = 30;
 constexpr int paddingPx = 12;
 constexpr double radiusPx = 6;
@@ -99,6 +100,9 @@ void SegmentedControl::paintEvent(QPaintEvent *)
         const bool on = i == m_selected;
         if (on)
             painter.fillRect(part, Theme::color(QStringLiteral("accentSoft")));
+        if (on && isEnabled())
+            painter.fillRect(QRectF(part.left(), part.bottom() - markPx, part.width(), markPx),
+                             Theme::color(QStringLiteral("focus")));
         if (i > 0)
             painter.fillRect(QRectF(part.left(), 0, 1, height()), Theme::color(QStringLiteral("line")));
         QFont face = font();
@@ -110,7 +114,7 @@ void SegmentedControl::paintEvent(QPaintEvent *)
     }
     painter.restore();
     painter.setPen(
-        QPen(Theme::color(hasFocus() ? QStringLiteral("accent") : QStringLiteral("line")), hasFocus() ? 2 : 1));
+        QPen(Theme::color(hasFocus() ? QStringLiteral("focus") : QStringLiteral("edge")), hasFocus() ? 2 : 1));
     painter.drawPath(shape);
 }
 
@@ -139,8 +143,9 @@ bool SegmentedControl::event(QEvent *event)
         return true;
     }
     if (event->type() == QEvent::ShortcutOverride) {
-        const int key = dynamic_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Left || key == Qt::Key_Right)
+        const auto *pressed = dynamic_cast<QKeyEvent *>(event);
+        const bool isArrow = pressed->key() == Qt::Key_Left || pressed->key() == Qt::Key_Right;
+        if (isArrow && !(pressed->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
             event->accept();
     }
     return QWidget::event(event);

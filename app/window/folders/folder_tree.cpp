@@ -35,7 +35,7 @@ constexpr int mostOpened = 300;
 QFont smaller(QFont font)
 {
     constexpr int smallPx = 11;
-    font.setPixelSize(smallPx);
+    font.setPixelSize(Theme::scaled(smallPx));
     return font;
 }
 
@@ -266,7 +266,7 @@ void FolderTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option, 
     quiet.palette.setBrush(QPalette::Highlight, Qt::transparent);
     QTreeWidget::drawRow(painter, quiet, index);
     if (hasFocus() && index == currentIndex()) {
-        painter->setPen(Theme::color(QStringLiteral("accent")));
+        painter->setPen(Theme::color(QStringLiteral("focus")));
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
 }

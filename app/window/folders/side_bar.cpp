@@ -46,7 +46,7 @@ private:
     static void paintHeading(QPainter &painter, const QStyleOptionViewItem &option, const QString &text)
     {
         QFont small = option.font;
-        small.setPixelSize(11);
+        small.setPixelSize(Theme::scaled(11));
         small.setWeight(QFont::DemiBold);
         small.setLetterSpacing(QFont::AbsoluteSpacing, 0.6);
         painter.setFont(small);

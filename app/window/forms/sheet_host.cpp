@@ -1,6 +1,8 @@
 #include "app/window/forms/sheet_host.h"
 
 #include <QDialog>
+#include <QLayout>
+#include <QScreen>
 
 namespace window {
 
@@ -23,6 +25,12 @@ void SheetHost::setSheet(QObject *sheet)
     if (dialog->parentWidget() != &m_window)
         dialog->setParent(&m_window, dialog->windowFlags());
     m_sheet = dialog;
+    // A dialog asks for the height of its texts as if they were as wide as they like.
+    const QLayout *layout = dialog->layout();
+    const QSize least = dialog->sizeHint().expandedTo(dialog->size());
+    if (layout && layout->hasHeightForWidth())
+        dialog->resize(least.expandedTo({0, layout->totalHeightForWidth(least.width())})
+                           .boundedTo(dialog->screen()->availableSize()));
     dialog->open();
 }
 

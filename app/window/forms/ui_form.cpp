@@ -15,6 +15,7 @@
 #include <QDialog>
 #include <QFile>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QJSEngine>
 #include <QLabel>
 #include <QLayout>
@@ -24,6 +25,7 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QStyle>
+#include <QTableView>
 #include <QUiLoader>
 
 namespace window {
@@ -77,6 +79,10 @@ void collectTabStops(QWidget *widget, QWidgetList &stops)
     const bool isStop = widget->focusPolicy() & Qt::TabFocus;
     if (isStop)
         stops.append(widget);
+    // The headings of a table come behind its rows.
+    auto *table = qobject_cast<QTableView *>(widget);
+    if (isStop && table && table->horizontalHeader()->focusPolicy() & Qt::TabFocus)
+        stops.append(table->horizontalHeader());
     // What is inside a control such as a spin box is its own affair.
     if (isStop)
         return;
@@ -94,11 +100,21 @@ QMenu *menuOf(QObject *object)
     return button ? button->menu() : qobject_cast<QMenu *>(object);
 }
 
+// What a form says of keys beside the first one of an entry.
+void takeFurtherKeys(const QWidget &root)
+{
+    const QList<QAction *> actions = root.findChildren<QAction *>();
+    for (QAction *action : actions)
+        if (const QString more = action->property("furtherKeys").toString(); !more.isEmpty())
+            action->setShortcuts(action->shortcuts() + QKeySequence::listFromString(more));
+}
+
 } // namespace
 
 Form::Form(QWidget *root, const QString &file, QObject *parent) : QObject(parent), m_root(root), m_file(file)
 {
     root->installEventFilter(this);
+    takeFurtherKeys(*root);
     // In a dialog Return presses the button that has the focus, whatever else is the button for Return elsewhere in it.
     const QList<QPushButton *> buttons =
         qobject_cast<QDialog *>(root) ? root->findChildren<QPushButton *>() : QList<QPushButton *>();

@@ -1,6 +1,7 @@
 #include "app/window/log/log_table.h"
 
 #include "app/window/look/item_looks.h"
+#include "app/window/look/key_header.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -37,6 +38,7 @@ LogTable::LogTable(QWidget *parent) : QTableView(parent)
     setTabKeyNavigation(false);
     setVerticalScrollMode(ScrollPerPixel);
     setCornerButtonEnabled(false);
+    setHorizontalHeader(new KeyHeader(this));
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(rowHeightPx);

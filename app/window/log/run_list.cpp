@@ -41,7 +41,7 @@ public:
         else if (option.state & QStyle::State_MouseOver)
             painter->fillPath(shape, Theme::color(QStringLiteral("hover")));
         if (selected && option.state & QStyle::State_HasFocus) {
-            painter->setPen(Theme::color(QStringLiteral("accent")));
+            painter->setPen(Theme::color(QStringLiteral("focus")));
             painter->drawPath(shape);
         }
         paintTexts(*painter, option, index);
@@ -68,7 +68,7 @@ private:
         QFont bold = option.font;
         bold.setWeight(QFont::DemiBold);
         QFont small = option.font;
-        small.setPixelSize(smallFontPx);
+        small.setPixelSize(Theme::scaled(smallFontPx));
         painter.setPen(Theme::color(QStringLiteral("text")));
         paintLine(painter, place, Qt::AlignTop, index.data().toString(), bold,
                   index.data(RunRows::countRole).toString(), small, "muted");

@@ -17,6 +17,7 @@
 #include <QPalette>
 #include <QPixmapCache>
 #include <QProxyStyle>
+#include <QRegularExpression>
 
 namespace window {
 
@@ -66,11 +67,11 @@ QPalette paletteOf()
     set(QPalette::BrightText, "onAccent", "onAccent");
     set(QPalette::ToolTipBase, "tip", "tip");
     set(QPalette::ToolTipText, "tipText", "tipText");
-    set(QPalette::PlaceholderText, "faint", "faint");
+    set(QPalette::PlaceholderText, "muted", "faint");
     set(QPalette::Highlight, "accent", "line");
     set(QPalette::HighlightedText, "onAccent", "text");
-    set(QPalette::Link, "accent", "faint");
-    set(QPalette::LinkVisited, "accent", "faint");
+    set(QPalette::Link, "accentText", "faint");
+    set(QPalette::LinkVisited, "accentText", "faint");
     set(QPalette::Light, "field", "field");
     set(QPalette::Midlight, "line", "line");
     set(QPalette::Mid, "line", "line");
@@ -109,6 +110,15 @@ public:
         return QProxyStyle::styleHint(hint, option, widget, returned);
     }
 };
+
+QString withScaledFonts(QString sheet)
+{
+    static const QRegularExpression size(QStringLiteral("font-size: (\\d+)px"));
+    for (auto found = size.match(sheet); found.hasMatch(); found = size.match(sheet, found.capturedEnd()))
+        sheet.replace(found.capturedStart(1), found.capturedLength(1),
+                      QString::number(Theme::scaled(found.captured(1).toInt())));
+    return sheet;
+}
 
 /** The desktop's preference over the settings portal: 1 dark, 2 light, nothing where it cannot be asked. */
 int portalColorScheme()
@@ -151,6 +161,15 @@ QColor Theme::color(const QString &name)
     const QHash<QString, QColor> &colors = current().colors;
     return colors.isEmpty() ? QGuiApplication::palette().color(QPalette::WindowText)
                             : colors.value(name, QColor(Qt::magenta));
+}
+
+// Sizes are meant for letters of about 13 pixels; what a desktop has is near enough to that or meant to be larger.
+int Theme::scaled(int fontPx)
+{
+    constexpr double usualPx = 13;
+    constexpr double nearPx = 16;
+    const int own = QFontInfo(QApplication::font()).pixelSize();
+    return own > nearPx ? qRound(fontPx * own / usualPx) : fontPx;
 }
 
 Appearance Theme::appearance()
@@ -231,7 +250,7 @@ void Theme::apply(Appearance appearance)
         Q_EMIT changed();
         return;
     }
-    QString sheet = QString::fromUtf8(contentOf(m_folder + QStringLiteral("/base.qss")));
+    QString sheet = withScaledFonts(QString::fromUtf8(contentOf(m_folder + QStringLiteral("/base.qss"))));
     for (auto entry = current().colors.cbegin(); entry != current().colors.cend(); ++entry)
         sheet.replace(QLatin1Char('@') + entry.key() + QLatin1Char('@'), entry.value().name(QColor::HexArgb));
     sheet.replace(QStringLiteral("@name@"), name);

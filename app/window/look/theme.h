@@ -31,6 +31,8 @@ public:
     /** Colour by its name in the theme file; a loud magenta where there is none. */
     static QColor color(const QString &name);
     static Appearance appearance();
+    /** A size of letters in pixels, larger where the font of the application is. */
+    static int scaled(int fontPx);
 
     QString appearanceName() const;
     /** "light", "dark" or "system"; another word is a TypeError. Kept for the next start. */

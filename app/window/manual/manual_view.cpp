@@ -5,15 +5,19 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QDesktopServices>
+#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextList>
+#include <QVBoxLayout>
 
 namespace window {
 
@@ -21,12 +25,34 @@ namespace {
 
 constexpr int widestTextPx = 760;
 constexpr int marginPx = 24;
+/** Of the screen, for a picture that is shown large. */
+constexpr double largestShare = 0.9;
+const QString pictureScheme = QStringLiteral("picture");
 
 QString titleOf(const QString &text, const QString &otherwise)
 {
     static const QRegularExpression heading(QStringLiteral("^# +(.+?)\\s*$"), QRegularExpression::MultilineOption);
     const QRegularExpressionMatch found = heading.match(text);
     return found.hasMatch() ? found.captured(1) : otherwise;
+}
+
+// A picture leads to itself, large: by mouse and by keyboard.
+void makeLinkOfPicture(QTextDocument &document, const QTextBlock &block)
+{
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+        const QTextFragment fragment = part.fragment();
+        if (!fragment.charFormat().isImageFormat() || fragment.charFormat().isAnchor())
+            continue;
+        QTextCursor picture(&document);
+        picture.setPosition(fragment.position());
+        picture.setPosition(fragment.position() + 1, QTextCursor::KeepAnchor);
+        QTextCharFormat link;
+        link.setAnchor(true);
+        link.setAnchorHref(pictureScheme + u':' + fragment.charFormat().toImageFormat().name());
+        link.setToolTip(ManualView::tr("Show large"));
+        picture.mergeCharFormat(link);
+        return; // the fragments are others now
+    }
 }
 
 // What Markdown leaves to whoever draws it: room between the lines and paragraphs, and colours of the theme.
@@ -50,6 +76,7 @@ void dress(QTextDocument &document)
             letters.setFontPointSize(level == 1 ? 17 : level == 2 ? 13 : 11);
             letters.setFontWeight(QFont::DemiBold);
         }
+        makeLinkOfPicture(document, block);
         for (auto part = block.begin(); !part.atEnd(); ++part) {
             if (part.fragment().charFormat().isAnchor() || part.fragment().charFormat().isImageFormat())
                 continue;
@@ -193,23 +220,58 @@ void ManualView::follow(const QUrl &link)
         QDesktopServices::openUrl(link);
         return;
     }
+    if (link.scheme() == pictureScheme) {
+        showLarge(link.path());
+        return;
+    }
     const QString file = QFileInfo(link.path()).completeBaseName();
     open(file.isEmpty() ? page() : file, link.fragment());
+}
+
+/** A picture of the manual, the one for the appearance that is shown. */
+QImage ManualView::picture(const QString &name) const
+{
+    const QString path = QDir::cleanPath(m_folder + u'/' + name);
+    const QString dark = QString(path).replace(QStringLiteral("-light.png"), QStringLiteral("-dark.png"));
+    return QImage(Theme::appearance() == Appearance::Dark && QFileInfo::exists(dark) ? dark : path);
 }
 
 QVariant ManualView::loadResource(int type, const QUrl &name)
 {
     if (type != QTextDocument::ImageResource || !name.isRelative())
         return {};
-    QString path = QDir::cleanPath(m_folder + u'/' + name.path());
-    const QString dark = QString(path).replace(QStringLiteral("-light.png"), QStringLiteral("-dark.png"));
-    if (Theme::appearance() == Appearance::Dark && QFileInfo::exists(dark))
-        path = dark;
-    QImage picture(path);
-    // A picture that is wider than the text is drawn with more than one of its pixels a point, which is sharper too.
-    if (picture.width() > m_drawnWidth)
-        picture.setDevicePixelRatio(double(picture.width()) / m_drawnWidth);
-    return picture;
+    const QImage found = picture(name.path());
+    if (found.width() <= m_drawnWidth)
+        return found;
+    // The document would leave out pixels of what is wider than the text.
+    const double ratio = devicePixelRatioF();
+    QImage shown = found.scaledToWidth(qMin(found.width(), qRound(m_drawnWidth * ratio)), Qt::SmoothTransformation);
+    shown.setDevicePixelRatio(double(shown.width()) / m_drawnWidth);
+    return shown;
+}
+
+void ManualView::showLarge(const QString &name)
+{
+    const QImage found = picture(name);
+    if (found.isNull())
+        return;
+    const double ratio = devicePixelRatioF();
+    const QSize room = screen()->availableSize() * largestShare * ratio;
+    QImage shown = found.width() <= room.width() && found.height() <= room.height()
+                       ? found
+                       : found.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    shown.setDevicePixelRatio(ratio);
+    auto *window = new QDialog(this);
+    window->setObjectName(QStringLiteral("manualPicture"));
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(tr("Picture of the manual"));
+    auto *label = new QLabel(window);
+    label->setPixmap(QPixmap::fromImage(shown));
+    auto *layout = new QVBoxLayout(window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(label);
+    window->open(); // Esc closes it, and not the manual behind it
 }
 
 bool ManualView::findFromHere(const QString &text)

@@ -55,6 +55,8 @@ private:
     };
 
     void goTo(qsizetype at);
+    QImage picture(const QString &name) const;
+    void showLarge(const QString &name);
     void show(const Place &place);
     void scrollToHeading(const QString &anchor);
     void follow(const QUrl &link);

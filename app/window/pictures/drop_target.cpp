@@ -85,7 +85,7 @@ void DropTarget::paintEvent(QPaintEvent *)
     const QRect iconPlace(width() / 2 - 24, height() / 2 - 60, 48, 48);
     icon(QStringLiteral("add-pictures")).paint(&painter, iconPlace);
     QFont large = font();
-    large.setPixelSize(19);
+    large.setPixelSize(Theme::scaled(19));
     large.setWeight(QFont::DemiBold);
     painter.setFont(large);
     painter.setPen(Theme::color(QStringLiteral("accentText")));

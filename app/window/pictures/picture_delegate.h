@@ -30,7 +30,8 @@ public:
 
 private:
     static void paintTick(QPainter &painter, const QRect &cell, bool isTicked);
-    void paintThumbnail(QPainter &painter, const QRect &cell, int row) const;
+    void paintPlace(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    void paintThumbnail(QPainter &painter, const QRect &cell, int row, const QScreen *screen) const;
     void paintStatus(QPainter &painter, const QStyleOptionViewItem &option, const PictureRow &row) const;
     bool isCovered(const PictureRow &row, const QFont &font, int column) const;
     int statusWidth(PictureModel::Column first) const;

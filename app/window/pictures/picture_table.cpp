@@ -1,5 +1,6 @@
 #include "app/window/pictures/picture_table.h"
 
+#include "app/window/look/key_header.h"
 #include "app/window/pictures/picture_delegate.h"
 
 #include "platform/foundation/raised.h"
@@ -40,6 +41,7 @@ StatusKind kindOf(const QString &word)
 PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_model, this)
 {
     setModel(&m_order);
+    setHorizontalHeader(new KeyHeader(this));
     setItemDelegate(new PictureDelegate(m_model, m_order, *horizontalHeader(), this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);

@@ -1,5 +1,6 @@
 #include "app/window/preview/compare_preview.h"
 
+#include "app/window/look/screen_look.h"
 #include "app/window/look/theme.h"
 #include "app/window/preview/preview_host.h"
 #include "app/window/preview/preview_paint.h"
@@ -61,6 +62,8 @@ ComparePreview::ComparePreview(QWidget *parent)
         timer->setSingleShot(true);
     connect(&m_settled, &QTimer::timeout, this, &ComparePreview::load);
     connect(&m_moved, &QTimer::timeout, this, &ComparePreview::askForParts);
+    ScreenLook::ofProcess().lookAgain();
+    connect(&ScreenLook::ofProcess(), &ScreenLook::changed, &m_settled, [this] { m_settled.start(0); });
     connect(&m_asked, &QTimer::timeout, this, &ComparePreview::render);
     connect(&m_late, &QTimer::timeout, this, &ComparePreview::clearLate);
     connect(&m_still, &QTimer::timeout, this, &ComparePreview::askForBytes);
@@ -240,10 +243,11 @@ void ComparePreview::takePicture(const ShownPicture &picture)
         m_part = {};
     m_partProblem.clear();
     m_shownPath = m_path;
-    m_baseImage = picture.image;
+    m_baseImage = ScreenLook::ofProcess().shown(picture.image, screen());
     m_problem.clear();
     m_full = picture.image.isNull() ? QSize() : picture.full;
-    m_base = platform::Bitmap::fromImage(picture.image);
+    m_base = platform::Bitmap::fromImage(m_baseImage);
+    m_screen = screen();
     m_picture = m_base.isNull() ? platform::Picture() : platform::Picture(m_base, QSizeF(m_full));
     if (m_base.isNull() && !m_path.isEmpty())
         m_problem = problemWith(picture);

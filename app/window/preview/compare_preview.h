@@ -10,6 +10,8 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QPointer>
+#include <QScreen>
 #include <QTimer>
 #include <QVariantMap>
 #include <QWidget>
@@ -222,13 +224,14 @@ private:
 
     QString m_path;
     PictureAhead m_ahead;
-    QString m_shownPath;         ///< of the picture that is shown, which is another one for a moment
-    QSize m_full;                ///< its upright pixels
-    QImage m_baseImage;          ///< the same as the next, for the screen
-    platform::Bitmap m_base;     ///< the picture at about its size on the screen
-    platform::Picture m_picture; ///< the same, one of its own pixels a point
-    QString m_problem;           ///< in words, where the picture cannot be shown
-    QString m_givenProblem;      ///< what stands there instead
+    QString m_shownPath;              ///< of the picture that is shown, which is another one for a moment
+    QSize m_full;                     ///< its upright pixels
+    QPointer<const QScreen> m_screen; ///< whose colours the next have
+    QImage m_baseImage;               ///< the same as the next, for the screen
+    platform::Bitmap m_base;          ///< the picture at about its size on the screen
+    platform::Picture m_picture;      ///< the same, one of its own pixels a point
+    QString m_problem;                ///< in words, where the picture cannot be shown
+    QString m_givenProblem;           ///< what stands there instead
     std::unique_ptr<PreviewHost> m_mainHost;
     std::unique_ptr<PreviewHost> m_cropHost;
     myMainPhotoView m_mainView;

@@ -26,6 +26,8 @@ const QPixmap &ComparePreview::scaledResult(QSize devicePixels) const
 
 void ComparePreview::paintEvent(QPaintEvent *)
 {
+    if (m_screen && m_screen != screen())
+        m_settled.start(0); // another screen has other colours
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (m_isSingle) {

@@ -1,4 +1,6 @@
 #include "app/window/preview/compare_preview.h"
+
+#include "app/window/look/screen_look.h"
 #include "app/window/preview/preview_host.h"
 
 #include "jobs/names.h"
@@ -63,9 +65,10 @@ void ComparePreview::askForResult()
 void ComparePreview::takeResult(const jobs::ReadResult &result)
 {
     const std::optional<QRectF> part = partIn(result);
-    m_resultPart = part ? Part{result.image, *part} : Part();
+    const QImage shown = ScreenLook::ofProcess().shown(result.image, screen());
+    m_resultPart = part ? Part{shown, *part} : Part();
     if (!part) {
-        m_resultImage = result.image;
+        m_resultImage = shown;
         m_wholeOf = m_askedOf;
     } else if (m_wholeOf != m_askedOf) {
         m_resultImage = {};

@@ -1,4 +1,6 @@
 #include "app/window/preview/compare_preview.h"
+
+#include "app/window/look/screen_look.h"
 #include "app/window/preview/preview_host.h"
 
 #include <QKeyEvent>
@@ -143,7 +145,7 @@ void ComparePreview::askForParts()
 
 void ComparePreview::takePart(const ShownPicture &picture)
 {
-    m_part = {picture.image, picture.part};
+    m_part = {ScreenLook::ofProcess().shown(picture.image, screen()), picture.part};
     m_partProblem = picture.image.isNull() ? problemWith(picture) : QString();
     update();
     if (!picture.image.isNull())

@@ -55,14 +55,14 @@ void paintBadge(QPainter &painter, const QRect &area, Qt::Corner corner, int lin
         return;
     painter.save();
     QFont small = painter.font();
-    small.setPixelSize(11);
+    small.setPixelSize(Theme::scaled(11));
     const QFontMetrics metrics(small);
     const QString fitting = metrics.elidedText(text, Qt::ElideRight, area.width() - 2 * badgeMarginPx - badgePaddingPx);
     const QRect badge = placedBadge(area, corner, line, metrics.horizontalAdvance(fitting) + badgePaddingPx);
     QColor ground = Theme::color(QStringLiteral("badge"));
     ground.setAlpha(210);
     const bool isFocused = look == BadgeLook::Focused;
-    painter.setPen(isFocused ? QPen(Theme::color(QStringLiteral("accent")), 2) : QPen(Qt::NoPen));
+    painter.setPen(isFocused ? QPen(Theme::color(QStringLiteral("focus")), 2) : QPen(Qt::NoPen));
     painter.setBrush(ground);
     painter.drawRoundedRect(badge, badgeHeightPx / 2.0, badgeHeightPx / 2.0);
     painter.setPen(Theme::color(QStringLiteral("badgeText")));

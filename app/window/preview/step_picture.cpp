@@ -1,5 +1,7 @@
 #include "app/window/preview/step_picture.h"
 
+#include "app/window/look/screen_look.h"
+
 #include "jobs/reading/preview_edits.h"
 
 #include <QPainter>
@@ -76,7 +78,7 @@ void StepPicture::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QSizeF size = QSizeF(m_image.size()).scaled(QSizeF(this->size()), Qt::KeepAspectRatio);
     const QPointF corner((width() - size.width()) / 2, (height() - size.height()) / 2);
-    painter.drawImage(QRectF(corner, size), m_image);
+    painter.drawImage(QRectF(corner, size), ScreenLook::ofProcess().shown(m_image, screen()));
 }
 
 } // namespace window

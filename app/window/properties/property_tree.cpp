@@ -9,17 +9,25 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMap>
+#include <QSet>
 #include <QTreeWidgetItemIterator>
 
 namespace window {
 namespace {
 
 constexpr int rowHeightPx = 24;
+constexpr int leastValuePx = 90;
+/** Before the name of what pictures beside one another do not share. */
+const QString differs = QStringLiteral("≠ ");
 
 /** "Exposure time: 1/250 s", and below a branch each of its lines, further in. */
 void addLines(QStringList &lines, const QTreeWidgetItem &item, int depth)
 {
-    const QString value = item.text(1);
+    QStringList values;
+    for (int column = 1; column < item.columnCount(); ++column)
+        values << item.text(column);
+    const QString value = values.join(QStringLiteral(" | "));
     lines << QString(2 * depth, u' ') + item.text(0) + (value.isEmpty() ? QString() : QStringLiteral(": ") + value);
     for (int i = 0; i < item.childCount(); ++i)
         if (!item.child(i)->isHidden())
@@ -57,31 +65,90 @@ void PropertyTree::addMenu()
         addAction(text, this, [this, form = form] { copyPlace(form); })->setObjectName(form);
 }
 
-void PropertyTree::add(const QVariantMap &properties, QTreeWidgetItem *above)
+/** Of pictures beside one another, what any of them has. */
+void PropertyTree::add(const QList<QVariantMap> &pictures, QTreeWidgetItem *above)
 {
-    for (auto entry = properties.begin(); entry != properties.end(); ++entry) {
+    QMap<QString, bool> names; // and whether it is a branch
+    for (const QVariantMap &properties : pictures)
+        for (auto entry = properties.begin(); entry != properties.end(); ++entry)
+            names[entry.key()] |= entry.value().typeId() == QMetaType::QVariantMap;
+    for (auto name = names.cbegin(); name != names.cend(); ++name) {
         auto *item = above ? new QTreeWidgetItem(above) : new QTreeWidgetItem(this);
-        item->setText(0, platform::propertyLabel(entry.key()));
+        item->setText(0, platform::propertyLabel(name.key()));
         item->setSizeHint(0, QSize(0, rowHeightPx));
-        if (entry.value().typeId() == QMetaType::QVariantMap) {
-            add(entry.value().toMap(), item);
+        if (!name.value()) {
+            addValues(*item, name.key(), pictures);
             continue;
         }
-        const QString words = propertyWords(entry.key(), entry.value(), properties);
-        item->setText(1, QString(words).replace(u'\n', u' '));
-        item->setToolTip(1, words);
-        item->setToolTip(0, entry.key());
+        QList<QVariantMap> branches;
+        for (const QVariantMap &properties : pictures)
+            branches.append(properties.value(name.key()).toMap());
+        add(branches, item);
     }
+}
+
+void PropertyTree::addValues(QTreeWidgetItem &item, const QString &name, const QList<QVariantMap> &pictures)
+{
+    QSet<QString> values;
+    for (int i = 0; i < pictures.size(); ++i) {
+        const QVariantMap &properties = pictures.at(i);
+        const QString words =
+            properties.contains(name) ? propertyWords(name, properties.value(name), properties) : QString();
+        values.insert(words);
+        item.setText(i + 1, QString(words).replace(u'\n', u' '));
+        item.setToolTip(i + 1, words);
+    }
+    item.setToolTip(0, name);
+    if (values.size() < 2)
+        return;
+    item.setText(0, differs + item.text(0));
+    QFont stressed = font();
+    stressed.setWeight(QFont::DemiBold);
+    for (int column = 0; column < columnCount(); ++column)
+        item.setFont(column, stressed);
+}
+
+void PropertyTree::useColumns(const QStringList &paths)
+{
+    QStringList headings = {tr("Property")};
+    for (const QString &path : paths)
+        headings << (paths.size() > 1 ? path.section(u'/', -1) : tr("Value"));
+    setColumnCount(int(headings.size()));
+    setHeaderLabels(headings);
+    // Names take their share, and values the rest, evenly.
+    const int values = qMax(1, int(paths.size()));
+    const int room = qMax(0, viewport()->width() - header()->sectionSize(0));
+    for (int column = 1; column < values; ++column)
+        header()->resizeSection(column, qMax(leastValuePx, room / values));
+}
+
+int PropertyTree::differenceCount() const
+{
+    int count = 0;
+    for (QTreeWidgetItemIterator it(const_cast<PropertyTree *>(this)); *it; ++it)
+        count += (*it)->childCount() == 0 && (*it)->text(0).startsWith(differs);
+    return count;
 }
 
 bool PropertyTree::showFile(const QString &path)
 {
-    const jobs::ReadResult known = jobs::readNow({jobs::Reading::Properties, path, {}});
-    const QVariantMap properties = known.value("properties").toMap();
+    return showFiles({path});
+}
+
+bool PropertyTree::showFiles(const QStringList &paths)
+{
+    QList<QVariantMap> all;
+    bool areGood = true;
+    for (const QString &path : paths) {
+        const jobs::ReadResult known = jobs::readNow({jobs::Reading::Properties, path, {}});
+        all.append(known.value("properties").toMap());
+        areGood = areGood && known.isGood();
+    }
     setUpdatesEnabled(false);
     clear();
-    add(properties, nullptr);
-    m_place = placeOf(properties);
+    useColumns(paths);
+    add(all, nullptr);
+    m_place = all.size() == 1 ? placeOf(all.constFirst()) : std::nullopt;
     for (const char *form : {"degrees", "minutes"})
         findChild<QAction *>(QString::fromLatin1(form))->setEnabled(hasPlace());
     for (int i = 0; i < topLevelItemCount(); ++i) {
@@ -91,7 +158,15 @@ bool PropertyTree::showFile(const QString &path)
         filter(item, m_words.isEmpty());
     }
     setUpdatesEnabled(true);
-    return known.isGood();
+    return areGood;
+}
+
+bool PropertyTree::hasWord(const QTreeWidgetItem &item, const QString &word)
+{
+    for (int column = 0; column < item.columnCount(); ++column)
+        if (item.text(column).contains(word, Qt::CaseInsensitive))
+            return true;
+    return false;
 }
 
 /** Shown is what matches, what lies below a name that matches, and the way to it. */
@@ -99,8 +174,7 @@ bool PropertyTree::filter(QTreeWidgetItem *item, bool isShown)
 {
     bool matches = true;
     for (const QString &word : m_words)
-        matches = matches && (item->text(0).contains(word, Qt::CaseInsensitive) ||
-                              item->text(1).contains(word, Qt::CaseInsensitive));
+        matches = matches && hasWord(*item, word);
     isShown = isShown || matches;
     bool any = isShown;
     for (int i = 0; i < item->childCount(); ++i)
@@ -137,7 +211,7 @@ int PropertyTree::copyChosen() const
     QStringList lines;
     addLines(lines, *item, 0);
     const bool isValue = item->childCount() == 0;
-    QGuiApplication::clipboard()->setText(isValue ? item->toolTip(1) : lines.join(u'\n'));
+    QGuiApplication::clipboard()->setText(isValue ? item->toolTip(qMax(1, currentColumn())) : lines.join(u'\n'));
     return int(lines.size());
 }
 

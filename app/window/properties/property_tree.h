@@ -30,6 +30,13 @@ public:
 
     /** Shows the properties of the file at @p path; false, and nothing shown, for what is no picture. */
     Q_INVOKABLE bool showFile(const QString &path);
+    /**
+     * Shows the properties of several files beside one another, a column each; a property that they do not share has a mark before its
+     * name. False, and nothing shown, where one of them is no picture.
+     */
+    Q_INVOKABLE bool showFiles(const QStringList &paths);
+    /** How many properties have the mark. */
+    Q_INVOKABLE int differenceCount() const;
     /** Shows the values in whose name or words every word of @p text occurs, in any case of letters. */
     Q_INVOKABLE void look(const QString &text);
     /** Puts the chosen value, or all of the chosen branch, on the clipboard; returns how many lines. */
@@ -43,9 +50,12 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void add(const QVariantMap &properties, QTreeWidgetItem *above);
+    void add(const QList<QVariantMap> &pictures, QTreeWidgetItem *above);
+    void addValues(QTreeWidgetItem &item, const QString &name, const QList<QVariantMap> &pictures);
+    void useColumns(const QStringList &paths);
     bool filter(QTreeWidgetItem *item, bool isShown);
 
+    static bool hasWord(const QTreeWidgetItem &item, const QString &word);
     void addMenu();
 
     std::optional<Place> m_place;

@@ -63,7 +63,7 @@ void SlotDelegate::paintCard(QPainter &painter, const QStyleOptionViewItem &opti
     QPainterPath shape;
     shape.addRoundedRect(QRectF(cardOf(option)).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
     painter.fillPath(shape, color(isLit ? "accentSoft" : isOver ? "hover" : "field"));
-    painter.setPen(QPen(color(isLit || isCurrent ? "accent" : "line"), isCurrent ? 2 : 1));
+    painter.setPen(QPen(color(isLit || isCurrent ? "focus" : "line"), isCurrent ? 2 : 1));
     painter.drawPath(shape);
 }
 
@@ -86,7 +86,7 @@ void SlotDelegate::paintTexts(QPainter &painter, const QStyleOptionViewItem &opt
 {
     QRect place = cardOf(option).adjusted(textLeftPx, 4, -9, -4);
     QFont small = option.font;
-    small.setPixelSize(smallFontPx);
+    small.setPixelSize(Theme::scaled(smallFontPx));
     QFont bold = option.font;
     bold.setWeight(QFont::DemiBold);
     if (slot.count > 0) {

@@ -8,6 +8,7 @@ import { editWords, reverting } from "../../runs/comment-run.js";
 import { guard } from "../../lib/guard.js";
 import { clearRows, keepRows, logPath, rowLimit } from "../../runs/log-file.js";
 import { rowsByPath } from "../../runs/list-rows.js";
+import { clearSettings, settingsOf } from "../../runs/making/run-settings.js";
 import { csvHead, csvLines } from "../../runs/report.js";
 import { keep, recall } from "../../lib/store.js";
 import { fill, problemsText, statusText } from "../../lib/wording.js";
@@ -47,6 +48,7 @@ export class LogPage {
         this.undo = null;
         this.runIsBusy = false;
         this.words = null;
+        this.kept = null; // the settings of the chosen run
         this.reverting = new CommentJob();
         this.form = shell.loadForm("actions/log/log-page.ui");
         /** @type {import("quorlin/shell").LogTable} */
@@ -76,6 +78,7 @@ export class LogPage {
         control("logOpen").clicked.connect(guard("log.open", () => shell.showInFolder(this.chosenPath())));
         control("logPicture").clicked.connect(guard("log.picture", () => this.showPicture()));
         control("logUndo").clicked.connect(guard("log.undo", () => this.takeRunBack()));
+        control("logSettings").clicked.connect(guard("log.settings", () => this.useSettings()));
         control("logStop").clicked.connect(guard("log.stop", () => this.stop()));
         control("logCancel").triggered.connect(guard("log.stop", () => this.stop()));
         control("logFind").triggered.connect(guard("log.find", () => this.find()));
@@ -170,10 +173,10 @@ export class LogPage {
         const control = (name) => this.form.control(name);
         const edits = this.table.chosenEditCount;
         const busy = this.isBusy();
+        this.showRunButtons(busy);
         control("logRevert").visible = edits > 0 && !busy;
         control("logRevert").text = qsTr("Revert %n Comments", "", edits);
         control("logRunBar").visible = this.words !== null || edits > 0 || busy;
-        control("logUndo").visible = this.words !== null && !busy;
         control("logStop").visible = busy;
         control("logCancel").enabled = busy;
         control("logRuns").enabled = !busy;
@@ -182,6 +185,11 @@ export class LogPage {
             control("logRunTitle").text = qsTr("%n comments chosen", "", edits);
             control("logRunNote").text = edits === 1 && edit.after !== edit.before ? editWords(edit.before, edit.after) : "";
         }
+    }
+
+    showRunButtons(busy) {
+        this.form.control("logUndo").visible = this.words !== null && !busy;
+        this.form.control("logSettings").visible = this.kept !== null && !busy;
     }
 
     // Why the table is empty.
@@ -204,6 +212,7 @@ export class LogPage {
         const chosen = this.runs.chosen();
         const words = chosen === null ? null : this.wordsFor(chosen);
         this.words = words;
+        this.kept = chosen === null ? null : settingsOf(files, this.runs.run);
         this.showColumns();
         if (!this.isBusy() && words !== null) {
             const entries = qsTr("%Ln entries", "", chosen.count);
@@ -228,6 +237,12 @@ export class LogPage {
         const entry = this.table.chosen();
         const paths = entry === null ? [] : [entry.outputPath, entry.inputPath];
         return paths.find((path) => path !== "" && files.info(path).exists && !files.info(path).isFolder) || "";
+    }
+
+    useSettings() {
+        if (this.kept !== null && !this.window.repeating.take(this.kept)) {
+            this.window.sayBeside(qsTr("These settings cannot be used now."));
+        }
     }
 
     showPicture() {
@@ -261,7 +276,7 @@ export class LogPage {
             buttons: [qsTr("Clear"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
         if (answer.button === 0) {
-            const problem = clearRows(files);
+            const problem = clearRows(files) || clearSettings(files);
             this.runs.chooseAll();
             this.show();
             if (problem) {

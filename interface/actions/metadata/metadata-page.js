@@ -17,6 +17,8 @@ import { askAboutTyped, mayWrite } from "./comment-questions.js";
 const KEPT = "Comments";
 const ONE = 0;
 const MANY = 1;
+// So many pictures have room beside one another.
+const MOST_TOGETHER = 4;
 
 export class MetadataPage {
     /** @param window  the main window's parts: form, pictures, input, pages, note(text) */
@@ -30,6 +32,7 @@ export class MetadataPage {
         this.read = "";
         this.id = 0;
         this.path = "";
+        this.together = [];
         this.holds = false;
         this.moved = shell.timer(guard("metadata.moved", () => this.goOn()));
         // The edits of the last run, which can be reverted.
@@ -168,7 +171,8 @@ export class MetadataPage {
         const typed = photo.id === this.id && this.isUnwritten() ? this.typedText() : null;
         this.id = photo.id;
         this.path = photo.path;
-        const isPicture = this.tree.showFile(photo.path);
+        this.together = this.chosenTogether(photo);
+        const isPicture = this.tree.showFiles(this.together);
         const found = files.readComment(photo.path);
         this.read = found.comment;
         this.holds = found.problem === "" && files.holdsComment(photo.path);
@@ -181,6 +185,14 @@ export class MetadataPage {
         control("metaProblem").text = isPicture ? found.problem : qsTr("This file is not a picture that can be read.");
         control("metaProblem").visible = !isPicture || found.problem !== "";
         this.showCopyMenu();
+    }
+
+    // The pictures that are chosen in the list, where these are a few: they are shown beside one another, the current one first.
+    chosenTogether(photo) {
+        const ids = this.list.selectedIds();
+        const others = ids.length <= MOST_TOGETHER && ids.indexOf(photo.id) >= 0
+            ? ids.filter((id) => id !== photo.id) : [];
+        return [photo.path].concat(others.map((id) => this.list.photo(id).path));
     }
 
     showText(text) {
@@ -305,7 +317,9 @@ export class MetadataPage {
     showPlace() {
         this.form.control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
         const found = qsTr("%n properties", "", this.tree.shownCount);
-        this.form.control("metaFound").text = this.form.control("metaSearch").text.trim() === "" ? "" : found;
+        const differ = this.together.length > 1
+            ? fill(qsTr("%n pictures, ≠ %1 properties", "", this.together.length), this.tree.differenceCount()) : "";
+        this.form.control("metaFound").text = this.form.control("metaSearch").text.trim() === "" ? differ : found;
     }
 
     showApply(on) {

@@ -10,9 +10,10 @@ function doingsOf(window) {
         clear: () => window.clearList(),
         start: () => window.run.start(),
         pause: () => window.run.togglePause(),
-        cancel: () => window.cancel(),
+        cancel: () => window.closeLast(),
+        cancelRun: () => window.cancelRun(),
         retry: () => window.run.retry(),
-        fullScreen: () => shell.toggleFullScreen(),
+        fullScreen: () => window.toggleFullScreen(),
         report: () => window.sayBeside(window.run.saveReport()),
         saveAs: () => window.saveAs(),
         showFailed: () => window.showProblemsOnly(!window.pictures.problemsOnly),
@@ -46,7 +47,7 @@ const BUTTONS = {
     addPicturesButton: "addPictures", emptyAddPictures: "addPictures", addFolderButton: "addFolder",
     emptyAddFolder: "addFolder", emptyAddSamples: "addSamples", clearButton: "clear", startButton: "start",
     pauseButton: "pause",
-    cancelButton: "cancel", retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report",
+    cancelButton: "cancelRun", retryButton: "retry", fullScreenButton: "fullScreen", reportButton: "report",
     openFolderButton: "openFolders",
     filterShowAll: "showAllRows", hiddenShow: "showHidden", hiddenConvert: "convertHidden",
     ownAdd: "addOwn", emptyOwnAdd: "addOwn",
@@ -86,7 +87,7 @@ function connectViews(window) {
         view.largePreviewRequested.connect(large);
         view.zoomChanged.connect(guard("zoom", () => window.showZoom()));
     }
-    window.preview.large.closeRequested.connect(guard("large.close", () => window.cancel()));
+    window.preview.large.closeRequested.connect(guard("large.close", () => window.closeLarge()));
     window.drop.dropped.connect(guard("drop", (paths) => window.input.addPaths(paths)));
     window.form.control("fitFill").chosen.connect(guard("fit", (index) => {
         if (index === ACTUAL) {

@@ -12,6 +12,7 @@ import { makeServices } from "../../services.js";
 import { SaveAs } from "../save-as/save-as.js";
 import { ActionPage, fillSideBar, lockSideBar } from "./action-page.js";
 import { Controllers } from "./controllers.js";
+import { Escape } from "./escape.js";
 import { Help } from "./help.js";
 import { History } from "./history.js";
 import { Input } from "./input.js";
@@ -19,6 +20,7 @@ import { InterruptedBar } from "./interrupted-bar.js";
 import { PageHost } from "./page-host.js";
 import { PreviewSide } from "./preview-side.js";
 import { Printing } from "./printing.js";
+import { Repeating } from "./repeating.js";
 import { percentDone, RunSigns } from "./run-signs.js";
 import { showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
@@ -66,6 +68,7 @@ export class MainWindow {
 
     // In an order in which each finds those that it needs.
     makeParts() {
+        this.escape = new Escape(this);
         this.pageHost = new PageHost(this);
         this.preview = new PreviewSide(this);
         this.help = new Help(this);
@@ -75,6 +78,7 @@ export class MainWindow {
         this.history = new History(this);
         this.support = new SupportBar(this);
         this.signs = new RunSigns(this);
+        this.repeating = new Repeating(this);
         this.watching = new Watching(this);
         this.interrupted = new InterruptedBar(this);
         this.shownPage = this.action.page === undefined ? null : this.action;
@@ -175,6 +179,7 @@ export class MainWindow {
         this.form.control("columnsAction").enabled = any && this.shownPage === null;
         enable(["nextAction", "previousAction", "largeAction"], any && onList);
         this.drop.open = this.mayAdd();
+        this.repeating.show();
         this.input.showWords();
         lockSideBar(this, busy);
         if (busy !== this.wasBusy) {
@@ -230,6 +235,7 @@ export class MainWindow {
         this.watching.runChanged();
         this.showAll();
         this.signs.runChanged();
+        this.repeating.runChanged();
     }
 
     // What a run made of the pictures is the past now: the list shows what the settings would make of them.
@@ -391,12 +397,26 @@ export class MainWindow {
         return answer.button === 0;
     }
 
-    cancel() {
-        if (this.preview.large.visible) {
-            this.preview.closeLarge();
-        } else if (this.run.isBusy()) {
+    cancelRun() {
+        if (this.run.isBusy()) {
             this.run.cancel();
         }
+        showStatusBar(this);
+    }
+
+    /** Closes what was opened last: the large preview, a run, the list of what failed, the full screen. */
+    closeLast() {
+        this.escape.close();
+        showStatusBar(this);
+    }
+
+    closeLarge() {
+        this.preview.closeLarge();
+        showStatusBar(this);
+    }
+
+    toggleFullScreen() {
+        shell.toggleFullScreen();
         showStatusBar(this);
     }
 

@@ -5,6 +5,7 @@ import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
+import { fill, problemsText } from "../../lib/wording.js";
 
 const KEY = "WhenDone";
 const NOTHING = "nothing";
@@ -38,16 +39,28 @@ export class RunSigns {
     runChanged() {
         const run = this.window.run;
         if (run.isBusy()) {
+            const title = this.window.action.title();
+            this.announce(run.problems > 0 ? fill(qsTr("%1: %2"), title, problemsText(run.problems))
+                : fill(qsTr("%1: started"), title));
             this.isOn = true;
-            shell.desktop.jobGoesOn(this.window.action.title(), percentDone(run));
+            shell.desktop.jobGoesOn(title, percentDone(run));
         } else if (this.isOn) {
             this.isOn = false;
             this.ended(run);
         }
     }
 
+    // Counting along would be no news to those who hear it.
+    announce(text) {
+        const label = this.window.form.control("statusText");
+        if (label.accessibleName !== text) {
+            label.accessibleName = text;
+        }
+    }
+
     // In a watched folder one run follows the other.
     ended(run) {
+        this.announce(run.text);
         const watched = this.window.watching.isOn();
         shell.desktop.jobEnded(this.window.action.title(), watched ? "" : run.text);
         const wanted = run.isComplete && !watched ? this.window.form.value("whenDone") : NOTHING;

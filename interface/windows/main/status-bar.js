@@ -16,6 +16,9 @@ function showTexts(window, busy, ended) {
     const idleText = window.said || run.idleText() || listText(window);
     window.form.control("statusText").text = busy || ended ? run.text : idleText;
     window.form.control("statusDetail").text = ended && window.said ? window.said : run.detail;
+    if (!busy && !ended) {
+        window.form.control("statusText").accessibleName = ""; // what is read out is the text itself
+    }
 }
 
 // Which buttons the summary of a run has.
@@ -56,7 +59,7 @@ export function showStatusBar(window) {
     control("pauseButton").text = run.paused ? qsTr("Continue") : qsTr("Pause");
     control("pauseAction").text = control("pauseButton").text;
     control("pauseAction").enabled = visible.pauseButton;
-    control("cancelAction").enabled = busy || window.preview.large.visible;
+    control("cancelAction").enabled = window.escape.look();
     control("retryAction").enabled = visible.retryButton;
     control("reportAction").enabled = visible.reportButton;
     control("showFailedAction").enabled = visible.showFailedButton;

@@ -9,7 +9,7 @@ import { limitRows } from "../../runs/log-file.js";
 import { keep, recall } from "../../lib/store.js";
 import { KEY as UPDATE, STANDARD as UPDATE_STANDARD } from "../../lib/update.js";
 import { fill } from "../../lib/wording.js";
-import { keepWish, LOG_ROWS, TAKEN, wishes } from "../../lib/wishes.js";
+import { DESTINATIONS, keepWish, LOG_ROWS, MEMORY, TAKEN, wishes } from "../../lib/wishes.js";
 
 // The key that services look at as well. Languages are called as their speakers call them.
 const LANGUAGE = "Language";
@@ -23,6 +23,10 @@ function processorsOf(chosen) {
 function processorWords(number) {
     return number === recipes.processors() ? fill(qsTr("all %1 processors"), number)
         : fill(qsTr("%1 of %2 processors"), number, recipes.processors());
+}
+
+function memoryWords(megabytes) {
+    return megabytes === 0 ? qsTr("all that is free") : fill(qsTr("%1 GB at most"), megabytes / 1024);
 }
 
 export class Preferences {
@@ -39,6 +43,7 @@ export class Preferences {
         this.sheets.tfLibraryFilePath = this.form.control("libraryFilePath");
         limitRows(wishes(defaults).logRows);
         recipes.useProcessors(processorsOf(wishes(defaults).processors));
+        recipes.useMemory(wishes(defaults).memory);
         this.fillMenus();
         this.connect();
         this.form.control("libraryChange").clicked.connect(guard("library", () => this.change()));
@@ -55,6 +60,10 @@ export class Preferences {
         this.form.setItems("wishLogRows",
                            [qsTr("the newest 1,000 entries"), qsTr("the newest 10,000 entries"),
                             qsTr("the newest 100,000 entries")], LOG_ROWS);
+        this.form.setItems("wishDestination",
+                           [qsTr("Into a folder beside the originals"), qsTr("Into the folder of the originals")],
+                           DESTINATIONS);
+        this.form.setItems("wishMemory", MEMORY.map(memoryWords), MEMORY);
         const numbers = Array(recipes.processors()).fill(0).map((_zero, i) => i + 1);
         this.form.setItems("wishProcessors", numbers.map(processorWords), numbers);
     }
@@ -64,6 +73,8 @@ export class Preferences {
             wishLanguage: (value) => this.chooseLanguage(value),
             wishAppearance: (value) => shell.theme.choose(value),
             wishTaken: (value) => keepWish(defaults, "ifTaken", value),
+            wishDestination: (value) => keepWish(defaults, "destination", value),
+            wishMemory: (value) => { keepWish(defaults, "memory", value); recipes.useMemory(value); },
             wishLogRows: (value) => { keepWish(defaults, "logRows", value); limitRows(value); },
             wishProcessors: (value) => {
                 keepWish(defaults, "processors", value);
@@ -90,6 +101,8 @@ export class Preferences {
         this.form.chooseValue("wishLanguage", LANGUAGES.some((each) => each[0] === language) ? language : "system");
         this.form.chooseValue("wishAppearance", shell.theme.choice());
         this.form.chooseValue("wishTaken", wishes(defaults).ifTaken);
+        this.form.chooseValue("wishDestination", wishes(defaults).destination);
+        this.form.chooseValue("wishMemory", wishes(defaults).memory);
         this.form.chooseValue("wishLogRows", wishes(defaults).logRows);
         this.form.chooseValue("wishProcessors", processorsOf(wishes(defaults).processors));
         this.form.control("wishUpdate").checked = recall(defaults, UPDATE, UPDATE_STANDARD).onStart;

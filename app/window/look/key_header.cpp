@@ -1,0 +1,105 @@
+#include "app/window/look/key_header.h"
+
+#include "app/window/look/theme.h"
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace window {
+
+KeyHeader::KeyHeader(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
+{
+    setSectionsClickable(true);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(tr("Columns"));
+    setAccessibleDescription(tr("Left and Right choose a column, Space sorts by it"));
+}
+
+// The arrow keys belong to the headings while they have the focus, also where a window has other uses for them.
+bool KeyHeader::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *pressed = dynamic_cast<QKeyEvent *>(event);
+        const bool isOurs =
+            pressed->key() == Qt::Key_Left || pressed->key() == Qt::Key_Right || pressed->key() == Qt::Key_Space;
+        if (isOurs && pressed->modifiers() == Qt::NoModifier)
+            event->accept();
+    }
+    return QHeaderView::event(event);
+}
+
+void KeyHeader::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->modifiers() == Qt::NoModifier ? event->key() : 0) {
+    case Qt::Key_Left:
+        return step(-1);
+    case Qt::Key_Right:
+        return step(1);
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return sort();
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+// Past columns that are hidden; stays at the ends.
+void KeyHeader::step(int by)
+{
+    for (int place = m_place + by; place >= 0 && place < count(); place += by)
+        if (!isSectionHidden(logicalIndex(place))) {
+            m_place = place;
+            break;
+        }
+    showPlace();
+}
+
+// One after the other: the first first, the last first, and unsorted where the table can be that.
+void KeyHeader::sort()
+{
+    const int column = logicalIndex(m_place);
+    const bool isSorted = sortIndicatorSection() == column;
+    if (isSorted && sortIndicatorOrder() == Qt::DescendingOrder && isSortIndicatorClearable())
+        setSortIndicator(-1, Qt::AscendingOrder);
+    else
+        setSortIndicator(column, isSorted && sortIndicatorOrder() == Qt::AscendingOrder ? Qt::DescendingOrder
+                                                                                        : Qt::AscendingOrder);
+}
+
+void KeyHeader::showPlace()
+{
+    const QString title = model() ? model()->headerData(logicalIndex(m_place), orientation()).toString() : QString();
+    setAccessibleName(title.isEmpty() || !hasFocus() ? tr("Columns") : title);
+    viewport()->update();
+}
+
+void KeyHeader::focusInEvent(QFocusEvent *event)
+{
+    m_place = qBound(0, m_place, qMax(0, count() - 1));
+    if (isSectionHidden(logicalIndex(m_place)))
+        step(1);
+    QHeaderView::focusInEvent(event);
+    showPlace();
+}
+
+void KeyHeader::focusOutEvent(QFocusEvent *event)
+{
+    QHeaderView::focusOutEvent(event);
+    showPlace();
+}
+
+void KeyHeader::paintEvent(QPaintEvent *event)
+{
+    QHeaderView::paintEvent(event);
+    const int column = logicalIndex(m_place);
+    if (!hasFocus() || column < 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(QPen(Theme::color(QStringLiteral("focus")), 2));
+    painter.drawRect(
+        QRect(sectionViewportPosition(column), 0, sectionSize(column), viewport()->height()).adjusted(1, 1, -2, -2));
+}
+
+} // namespace window

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/effects/screen_colours.h"
+
+#include <QHash>
+#include <QImage>
+#include <QObject>
+
+#include <memory>
+
+class QScreen;
+
+namespace window {
+
+/**
+ * Pictures in the colours of the screen that shows them: by the profile that the window system holds for it, else the one of the
+ * desktop's colour manager, else as they are. Results are never made of these.
+ */
+class ScreenLook : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Lives as long as the application. */
+    static ScreenLook &ofProcess();
+
+    /** @p image, which is sRGB, for @p screen. */
+    QImage shown(const QImage &image, const QScreen *screen);
+
+    /** Asks the window system again: a screen may have been measured meanwhile. */
+    void lookAgain();
+
+Q_SIGNALS:
+    /** A screen has other colours than before. */
+    void changed();
+
+private:
+    struct Screen
+    {
+        QByteArray profile;
+        std::shared_ptr<platform::ScreenColours> colours;
+    };
+
+    explicit ScreenLook(QObject *parent);
+    const Screen &lookOf(const QScreen *screen);
+    void take(const QString &name, const QByteArray &profile);
+    void askColourManager(const QString &name);
+    void askForProfile(const QString &name, const QString &device);
+
+    QHash<QString, Screen> m_screens;
+};
+
+} // namespace window

@@ -1,0 +1,30 @@
+// What the key Esc does: it closes what was opened last, of all that is open just now.
+
+import { shell } from "quorlin/shell";
+
+export class Escape {
+    /** @param window  the main window's parts: form, preview, run, pictures, showProblemsOnly(on) */
+    constructor(window) {
+        this.parts = {
+            large: { isOpen: () => window.preview.large.visible, close: () => window.preview.closeLarge() },
+            run: { isOpen: () => window.run !== null && window.run.isBusy(), close: () => window.run.cancel() },
+            filter: { isOpen: () => window.pictures.problemsOnly, close: () => window.showProblemsOnly(false) },
+            fullScreen: { isOpen: () => shell.fullScreen, close: () => shell.toggleFullScreen() },
+        };
+        this.open = []; // the latest at the end
+    }
+
+    /** Called when something may have been opened or closed; returns whether there is something to close. */
+    look() {
+        const now = Object.keys(this.parts).filter((name) => this.parts[name].isOpen());
+        this.open = this.open.filter((name) => now.indexOf(name) >= 0);
+        this.open = this.open.concat(now.filter((name) => this.open.indexOf(name) < 0));
+        return this.open.length > 0;
+    }
+
+    close() {
+        if (this.look()) {
+            this.parts[this.open[this.open.length - 1]].close();
+        }
+    }
+}

@@ -1,0 +1,74 @@
+// The settings of earlier runs: taken over again from the log, or at once for the pictures that were added since the last run.
+// Services used: files.
+
+import { files } from "quorlin/files";
+import { guard } from "../../lib/guard.js";
+import { completed } from "../../lib/store.js";
+import { allActions } from "../../actions/actions.js";
+import { newestSettings } from "../../runs/making/run-settings.js";
+
+export class Repeating {
+    /** @param window  the main window's parts: form, pictures, run, action, actionPage, isBusy(), chooseAction() */
+    constructor(window) {
+        this.window = window;
+        this.last = newestSettings(files);
+        this.done = new Set(); // the rows of the last run, and of those that repeated it
+        this.goesOn = false;
+        window.form.control("repeatAction").triggered.connect(guard("repeat", () => this.repeat()));
+    }
+
+    /** Called after each change of the run. */
+    runChanged() {
+        const run = this.window.run;
+        if (run.phase === "ended" && run.keptSettings !== null && run.keptSettings !== this.last) {
+            const before = this.goesOn ? Array.from(this.done) : [];
+            this.goesOn = false;
+            this.last = run.keptSettings;
+            this.done = new Set(before.concat(run.ids));
+        }
+        this.show();
+    }
+
+    maker() {
+        const last = this.last;
+        const found = last === null ? undefined : allActions().find((action) => action.name === last.action);
+        return found !== undefined && found.manner !== undefined && found.manner.repeats ? found : null;
+    }
+
+    later() {
+        return this.window.pictures.tickedIds().filter((id) => !this.done.has(id));
+    }
+
+    show() {
+        const entry = this.window.form.control("repeatAction");
+        entry.enabled = this.maker() !== null && !this.window.isBusy() && this.later().length > 0;
+    }
+
+    /** Shows the action of a run, with the settings that it had; false where there is no such action any more. */
+    take(kept) {
+        const window = this.window;
+        const action = allActions().find((each) => each.name === kept.action);
+        if (action === undefined || action.step === undefined || window.isBusy()) {
+            return false;
+        }
+        window.form.control("sideBar").currentAction = action.name;
+        if (window.action !== action) {
+            return false;
+        }
+        window.actionPage.take(completed(action.step.defaults, kept.settings));
+        return true;
+    }
+
+    // The list may be another one when the action is, so that its rows are asked for behind that.
+    repeat() {
+        const window = this.window;
+        if (this.maker() === null || window.isBusy() || !this.take(this.last)) {
+            return;
+        }
+        const ids = this.later();
+        if (ids.length > 0 && window.action.step.validate(window.settings).length === 0) {
+            this.goesOn = true;
+            window.run.begin(ids);
+        }
+    }
+}

@@ -1,0 +1,162 @@
+#include "tests/gui/support/window_driver.h"
+#include "tests/support/test_program.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusReply>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTest>
+
+namespace {
+
+const char *const inside = "QUORLIN_TEST_UNDER_X";
+
+/** Takes what a bus of accessibility tells of changed names. */
+class Listener : public QObject
+{
+    Q_OBJECT
+
+public:
+    QStringList names;
+
+public Q_SLOTS:
+    void changed(const QDBusMessage &message)
+    {
+        const QVariantList values = message.arguments();
+        if (values.value(0).toString() != QLatin1String("accessible-name"))
+            return;
+        // The toolkit tells whose name it is; what that is has to be asked for.
+        QDBusMessage call =
+            QDBusMessage::createMethodCall(message.service(), message.path(),
+                                           QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+        call.setArguments({QStringLiteral("org.a11y.atspi.Accessible"), QStringLiteral("Name")});
+        auto *answer = new QDBusPendingCallWatcher(QDBusConnection(QStringLiteral("listener")).asyncCall(call), this);
+        connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+            const QDBusPendingReply<QDBusVariant> reply = *answer;
+            names << (reply.isError() ? QString() : reply.value().variant().toString());
+            answer->deleteLater();
+        });
+    }
+};
+
+} // namespace
+
+/**
+ * State changes are told to those who do not see the window. The windowless platform of the toolkit tells nobody anything, so the test
+ * runs itself once more, on a display and a bus of its own.
+ */
+class Announcements : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void runsUnderX();
+    void startAndEndOfARunAreTold();
+
+private:
+    static bool begin(QProcess &process, const QString &program, const QStringList &arguments);
+    void listen();
+
+    Listener m_listener;
+};
+
+bool Announcements::begin(QProcess &process, const QString &program, const QStringList &arguments)
+{
+    process.start(QStandardPaths::findExecutable(program), arguments);
+    return process.waitForStarted() && process.waitForReadyRead();
+}
+
+void Announcements::runsUnderX()
+{
+    if (qEnvironmentVariableIsSet(inside))
+        QSKIP("this is the inner run");
+    for (const char *program : {"Xvfb", "dbus-daemon"})
+        if (QStandardPaths::findExecutable(QString::fromLatin1(program)).isEmpty())
+            QSKIP(qPrintable(QStringLiteral("there is no %1").arg(QString::fromLatin1(program))));
+    if (!QFile::exists(QStringLiteral("/usr/share/dbus-1/services/org.a11y.Bus.service")))
+        QSKIP("there is no bus of accessibility");
+    QProcess display;
+    display.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    QVERIFY(begin(display, QStringLiteral("Xvfb"),
+                  {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
+                   QStringLiteral("1600x1000x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")}));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), u':' + QString::fromLatin1(display.readLine().trimmed()));
+    QProcess bus;
+    bus.setProcessEnvironment(environment);
+    QVERIFY(begin(bus, QStringLiteral("dbus-daemon"),
+                  {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")}));
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QString::fromLatin1(bus.readLine().trimmed()));
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    environment.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
+    environment.insert(QString::fromLatin1(inside), QStringLiteral("1"));
+    QProcess again;
+    again.setProcessEnvironment(environment);
+    again.setProcessChannelMode(QProcess::ForwardedChannels);
+    again.start(QCoreApplication::arguments().constFirst(), {QStringLiteral("startAndEndOfARunAreTold")});
+    constexpr int mostMs = 180000;
+    const bool isOver = again.waitForFinished(mostMs);
+    for (QProcess *each : {&bus, &display}) {
+        each->terminate();
+        each->waitForFinished();
+    }
+    QVERIFY(isOver);
+    QCOMPARE(again.exitCode(), 0);
+}
+
+void Announcements::listen()
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.a11y.Bus"), QStringLiteral("/org/a11y/bus"),
+                                                       QStringLiteral("org.a11y.Bus"), QStringLiteral("GetAddress"));
+    const QDBusReply<QString> address = QDBusConnection::sessionBus().call(call, QDBus::BlockWithGui);
+    QVERIFY2(address.isValid(), qPrintable(address.error().message()));
+    QDBusConnection bus = QDBusConnection::connectToBus(address.value(), QStringLiteral("listener"));
+    QVERIFY(bus.isConnected());
+    QVERIFY(bus.connect(QString(), QString(), QStringLiteral("org.a11y.atspi.Event.Object"),
+                        QStringLiteral("PropertyChange"), &m_listener, SLOT(changed(QDBusMessage))));
+    QDBusMessage wish = QDBusMessage::createMethodCall(
+        QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("/org/a11y/atspi/registry"),
+        QStringLiteral("org.a11y.atspi.Registry"), QStringLiteral("RegisterEvent"));
+    wish.setArguments({QStringLiteral("object:property-change:accessible-name")});
+    const QDBusMessage answer = bus.call(wish, QDBus::BlockWithGui);
+    QVERIFY2(answer.type() != QDBusMessage::ErrorMessage, qPrintable(answer.errorMessage()));
+}
+
+void Announcements::startAndEndOfARunAreTold()
+{
+    if (!qEnvironmentVariableIsSet(inside))
+        QSKIP("this is the outer run");
+    listen();
+    const auto driver = WindowDriver::showing("resize");
+    QImage image(3000, 2000, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    for (int i = 0; i < 6; ++i)
+        QVERIFY(image.save(driver->inputFolder() + QStringLiteral("/p%1.png").arg(i)));
+    QFile broken(driver->inputFolder() + QStringLiteral("/q.png"));
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no picture") > 0);
+    broken.close();
+    driver->drop({driver->inputFolder()});
+    auto *start = driver->control<QAbstractButton>("startButton");
+    QVERIFY(driver->waitFor([start] { return start->isEnabled(); }));
+    driver->click("startButton");
+    QVERIFY(!driver->waitForSummary().isEmpty());
+    const auto told = [this](const QString &begin) {
+        return m_listener.names.indexOf(QRegularExpression(begin + QStringLiteral(".*"))) >= 0;
+    };
+    QVERIFY2(driver->waitFor([&] { return told(QStringLiteral("6 pictures done · 1 failed")); }),
+             qPrintable(m_listener.names.join(u'|')));
+    QVERIFY2(told(QStringLiteral("Resize: started")), qPrintable(m_listener.names.join(u'|')));
+    // How far the run is, is no news to those who hear it.
+    QVERIFY2(!told(QStringLiteral("\\d+ of \\d+")), qPrintable(m_listener.names.join(u'|')));
+}
+
+QUORLIN_GUI_TEST(Announcements)
+
+#include "tst_announcements.moc"
