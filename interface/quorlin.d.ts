@@ -1491,12 +1491,15 @@ declare module "quorlin/shell" {
         sheetHost(form: Form | null): SheetHost | null;
         timer(handler: Function | null): ScriptTimer | null;
         job(): JobDriver | null;
+        sizeEstimate(): SizeEstimate | null;
         /** A panel for the name of a new file, with a form in it. */
         saveChoice(): SaveChoice | null;
         /** Asks the user and waits for the answer. */
         ask(question: Question): { button: whole; checked: boolean };
         /** The path that was chosen, or null. */
         chooseFolder(title: text, start: text): string | null;
+        /** With the parts of a form under the folders. */
+        chooseFolderWith(title: text, start: text, form: Form | null): string | null;
         /** An empty list of extensions means any file. */
         chooseFiles(title: text, folder: text, extensions: texts): string[];
         chooseFile(title: text, folder: text, extensions: texts): string | null;
@@ -1584,6 +1587,16 @@ declare module "quorlin/shell" {
         /** Gives a file tags, where its disk has them. */
         tag(path: text, tags: texts): null;
     }
+    /** How many bytes results will have: workers make them, and nothing is written. */
+    export class SizeEstimate {
+        private constructor();
+        /** Bytes are -1 where nothing came of it. */
+        readonly measured: Signal<(number: whole, bytes: number) => any>;
+        /** The result is {recipe}, or {type, quality} of a conversion. */
+        measure(number: whole, path: text, result: dictionary): null;
+        stop(): null;
+    }
+
 
     /** Calls its function once, some time later; starting again puts it off. */
     export class ScriptTimer {
@@ -1817,6 +1830,13 @@ declare module "quorlin/shell" {
         setOverlay(picture: Picture | null): null;
     }
 
+    /** A day, in the reader's own form. */
+    export interface DateBox extends Widget {
+        /** Such as "2026-08-14"; what is no day is passed over. */
+        day: string;
+        readonly dayChanged: Signal<(day: string) => any>;
+    }
+
     /** Covers the window while files are dragged over it, and takes the drop. */
     export interface DropTarget extends Widget {
         /** Closed, drops are refused. */
@@ -1976,6 +1996,7 @@ declare module "quorlin/shell" {
         readonly clocksChanged: Signal<() => any>;
         readonly currentPictureChanged: Signal<(id: whole) => any>;
         readonly largePreviewRequested: Signal<() => any>;
+        readonly copied: Signal<(count: whole) => any>;
         readonly layoutChanged: Signal<() => any>;
         /** Files with one of the extensions, or any file for "*", or folders and no files. */
         setInput(extensions: texts, folders: boolean): null;
@@ -1992,7 +2013,9 @@ declare module "quorlin/shell" {
         removeIds(ids: list): null;
         /** How many those were, hidden ones among them. */
         removeAll(): whole;
-        /** Of adding and removing, the last that still stands. */
+        /** By one place, up or down; how many were moved. */
+        moveSelected(by: whole): whole;
+        /** Of adding, removing and moving, the last that still stands. */
         undoEdit(): null;
         redoEdit(): null;
         /** Empty beyond the ends. */
@@ -2030,6 +2053,12 @@ declare module "quorlin/shell" {
         /** As the list shows it; null for an unknown id. */
         shown(id: whole): anything;
         forget(id: whole): null;
+        /** Files that a run made of a picture, after its status. */
+        setResults(id: whole, paths: texts): null;
+        /** What was made of the chosen rows, or else they themselves. */
+        chosenFiles(): texts;
+        /** These, onto the clipboard; how many they are. */
+        copyFiles(): whole;
         /** Unless the user works in the list. */
         reveal(id: whole): null;
     }
@@ -2141,7 +2170,7 @@ declare module "quorlin/shell" {
     }
 
     /** A control by its name: which members it has says its kind. */
-    type AnyControl = Widget & Action & Button & Label & LineEdit & TextEdit & ComboBox & SpinBox & NumberBox &
+    type AnyControl = Widget & Action & Button & Label & LineEdit & TextEdit & ComboBox & SpinBox & NumberBox & DateBox &
         ProgressBar & Stack & AngleDial & CardHandle & ChipLabel & ColorWell & ComparePreview & DropTarget &
         FolderTree & LogTable & ManualView & PageList & PictureTable & PositionPad & PropertyTree & RunList &
         SearchMenu & SegmentedControl & SideBar & SlotList & StepPicture;

@@ -10,6 +10,8 @@
 #include <QLocale>
 #include <QSet>
 
+#include <algorithm>
+
 namespace window {
 
 namespace {
@@ -117,6 +119,40 @@ QVariant PictureModel::data(const QModelIndex &index, int role) const
     default:
         return {};
     }
+}
+
+Qt::ItemFlags PictureModel::flags(const QModelIndex &index) const
+{
+    return QAbstractTableModel::flags(index) | (index.isValid() ? Qt::ItemIsDragEnabled : Qt::NoItemFlags);
+}
+
+QList<int> PictureModel::order() const
+{
+    QList<int> ids;
+    for (const PictureRow &row : m_rows)
+        ids.append(row.id);
+    return ids;
+}
+
+void PictureModel::setOrder(const QList<int> &ids)
+{
+    QHash<int, int> places;
+    for (const int id : ids)
+        places.insert(id, int(places.size()));
+    const auto place = [&](const PictureRow &row) { return places.value(row.id, int(ids.size())); };
+    Q_EMIT layoutAboutToBeChanged();
+    const QModelIndexList before = persistentIndexList();
+    QList<int> idsBefore;
+    for (const QModelIndex &index : before)
+        idsBefore.append(m_rows[size_t(index.row())].id);
+    std::stable_sort(m_rows.begin(), m_rows.end(),
+                     [&](const PictureRow &a, const PictureRow &b) { return place(a) < place(b); });
+    rebuildIndex();
+    QModelIndexList after;
+    for (int i = 0; i < before.size(); ++i)
+        after.append(createIndex(indexOfId(idsBefore[i]), before[i].column()));
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged();
 }
 
 QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -344,6 +380,8 @@ void PictureModel::setStatus(int index, StatusKind kind, const QString &text, co
     if (row.kind == kind && row.status == text && row.detail == detail)
         return;
     row.kind = kind;
+    if (kind != StatusKind::Good)
+        row.results.clear();
     row.status = text;
     row.detail = detail;
     changed(index, NewName, Status); // a long reason lies over the columns before it

@@ -38,6 +38,7 @@ struct PictureRow
     QDateTime taken;             ///< the same by the corrected clock
     QString camera;              ///< empty where the file states none
     bool isTicked = true;        ///< runs work on it
+    QStringList results;         ///< the files that a run made of it, while the row says so
     QString newName;
     QString newSize;
     StatusKind kind = StatusKind::None;
@@ -75,6 +76,7 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     /** Appends the paths that are not in the list yet, in order; returns how many those were. @p roots: the folders that were added. */
@@ -103,6 +105,12 @@ public:
     void setPlan(int index, const QString &newName, const QString &newSize);
     void setStatus(int index, StatusKind kind, const QString &text, const QString &detail);
 
+    /** The files that a run made of it; setStatus() to anything but a good one forgets them. */
+    void setResults(int index, const QStringList &paths) { m_rows[size_t(index)].results = paths; }
+    /** The ids of all rows, in the order of adding. */
+    QList<int> order() const;
+    /** Puts the rows in another order; those that are not named come last. */
+    void setOrder(const QList<int> &ids);
     /** Whether runs work on the row. */
     void setTicked(int index, bool on);
     /** Clocks of cameras were set: looks at all dates again. See jobs::CameraClocks. */

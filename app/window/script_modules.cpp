@@ -29,6 +29,7 @@ std::vector<ServiceEntry> windowServices()
                                      script::givenEntry<Form>(shellModule),
                                      script::givenEntry<JobDriver>(shellModule),
                                      script::givenEntry<ScriptTimer>(shellModule),
+                                     script::givenEntry<SizeEstimate>(shellModule),
                                      script::givenEntry<SaveChoice>(shellModule),
                                      script::givenEntry<Theme>(shellModule),
                                      script::givenEntry<DesktopSigns>(shellModule),

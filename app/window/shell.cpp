@@ -160,6 +160,11 @@ SaveChoice *Shell::saveChoice()
     return new SaveChoice(this);
 }
 
+SizeEstimate *Shell::sizeEstimate()
+{
+    return new SizeEstimate(this);
+}
+
 QVariantMap Shell::ask(const QVariantMap &question)
 {
     const Question asked = questionFrom(question);
@@ -183,12 +188,18 @@ QVariantMap Shell::ask(const QVariantMap &question)
 
 QVariant Shell::chooseFolder(const QString &title, const QString &start)
 {
+    return chooseFolderWith(title, start, nullptr);
+}
+
+QVariant Shell::chooseFolderWith(const QString &title, const QString &start, Form *form)
+{
     platform::PanelRequest request;
     request.choosesFiles = false;
     request.choosesFolders = true;
     request.createsFolders = true;
     request.message = title;
     request.folder = start;
+    request.accessory = form ? form->root() : nullptr;
     return firstPath(request);
 }
 

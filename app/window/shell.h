@@ -10,6 +10,7 @@
 #include "app/window/main_frame.h"
 #include "app/window/pictures/drop_target.h"
 #include "app/window/preview/compare_preview.h"
+#include "app/window/preview/size_estimate.h"
 #include "app/window/save_choice.h"
 
 #include <QObject>
@@ -76,6 +77,7 @@ public:
 
     Q_INVOKABLE window::ScriptTimer *timer(const script::Function &handler);
     Q_INVOKABLE window::JobDriver *job();
+    Q_INVOKABLE window::SizeEstimate *sizeEstimate();
     Q_INVOKABLE window::SaveChoice *saveChoice();
 
     /**
@@ -88,6 +90,8 @@ public:
     Q_INVOKABLE QVariantMap ask(const QVariantMap &question);
     /** The folder that was chosen, or null. */
     Q_INVOKABLE QVariant chooseFolder(const QString &title, const QString &start);
+    /** The same with the parts of a form under the folders. */
+    Q_INVOKABLE QVariant chooseFolderWith(const QString &title, const QString &start, window::Form *form);
     /** The paths of the files with one of the extensions, or of any files for none, that were chosen. */
     Q_INVOKABLE QStringList chooseFiles(const QString &title, const QString &folder, const QStringList &extensions);
     /** The path of a file with one of the extensions that was chosen, or null. */

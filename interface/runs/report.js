@@ -39,6 +39,11 @@ export function csvLines(rows, areEdits) {
                               .join("");
 }
 
+/** Cells of any kind as a CSV file with these heads. */
+export function tableCsv(heads, rows) {
+    return MARK + [heads].concat(rows).map((cells) => cells.map(cell).join(",") + LINE_END).join("");
+}
+
 /** All rows as a CSV file. */
 export function toCsv(rows) {
     return csvHead() + csvLines(rows);

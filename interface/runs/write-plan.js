@@ -32,8 +32,21 @@ export class WritePlan extends LivePlan {
         return { ready: 0, originals: 0, replaced: 0, unwritable: 0, all: -1 };
     }
 
+    noteSize(id, item) {
+        if (item.status === "ready") {
+            this.sizes.push({ id: id, pixels: item.width * item.height, bytes: Math.max(0, item.photo.bytes),
+                              sourcePixels: item.photo.width * item.photo.height });
+        }
+    }
+
+    refresh() {
+        super.refresh();
+        this.window.estimate.forget();
+    }
+
     work(ids, settings) {
         const window = this.window;
+        this.sizes = [];
         // The engine loses a generator that is returned by the call that makes it.
         const planning = planRun(photosOf(window, ids), window.action.step, settings, window.services);
         return planning;
@@ -44,6 +57,7 @@ export class WritePlan extends LivePlan {
         this.next += 1;
         // Another run would write it again.
         summary.ready += item.status === "ready" ? 1 : 0;
+        this.noteSize(id, item);
         summary.unwritable += item.status === "Not Supported" ? 1 : 0;
         if (this.isFinal(id)) {
             return;
@@ -56,5 +70,6 @@ export class WritePlan extends LivePlan {
     ended(_value, summary) {
         summary.all = this.ids.length;
         this.window.actionPage.output.offerType(summary.unwritable);
+        this.window.estimate.begin(this.sizes);
     }
 }

@@ -356,6 +356,9 @@ export class WriteRun extends BaseRun {
         }
         const words = [statusText(result.status, result.reason)].concat(result.status === "OK" ? item.remarks : []);
         list.setStatus(id, statusKind(result.status), words.join(", "), item.notes.join("\n"));
+        if (result.status === "OK") {
+            list.setResults(id, [result.path]);
+        }
         if (result.status === "OK" && item.replacesOriginal) {
             list.forget(id);
         }

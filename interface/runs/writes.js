@@ -25,16 +25,21 @@ function startText(window) {
         : window.action.startText(total);
 }
 
+// With how much of the disk is needed, once that is known.
+function withSize(window, note) {
+    const size = window.estimate === undefined ? "" : window.estimate.text;
+    return [note, size].filter((text) => text !== "").join(" · ");
+}
+
 function startNote(window) {
     const planned = window.planned;
     if (window.pictures.tickedCount === 0 || window.settings.output.simulation) {
         return "";
     }
     if (planned.originals > 0) {
-        return qsTr("Originals are replaced by their results.");
+        return withSize(window, qsTr("Originals are replaced by their results."));
     }
-    return planned.replaced > 0
-        ? qsTr("%n files are replaced.", "", planned.replaced) : "";
+    return withSize(window, planned.replaced > 0 ? qsTr("%n files are replaced.", "", planned.replaced) : "");
 }
 
 export const WRITES = {

@@ -41,6 +41,81 @@
     </message>
 </context>
 <context>
+    <name>AddFolder</name>
+    <message>
+        <source>Include &amp;subfolders</source>
+        <translation>&amp;Unterordner einschließen</translation>
+    </message>
+    <message>
+        <source>Fil&amp;ter…</source>
+        <translation>Fil&amp;ter …</translation>
+    </message>
+    <message>
+        <source>Add only some of the files, by type, size, date or name</source>
+        <translation>Nur manche Dateien hinzufügen, nach Art, Größe, Datum oder Namen</translation>
+    </message>
+    <message>
+        <source>T&amp;ypes</source>
+        <translation>&amp;Arten</translation>
+    </message>
+    <message>
+        <source>all, or for example: jpg, tif</source>
+        <translation>alle, oder etwa: jpg, tif</translation>
+    </message>
+    <message>
+        <source>Types of files, by extension</source>
+        <translation>Arten der Dateien, nach Endung</translation>
+    </message>
+    <message>
+        <source>Name &amp;contains</source>
+        <translation>Name &amp;enthält</translation>
+    </message>
+    <message>
+        <source>anything</source>
+        <translation>Beliebiges</translation>
+    </message>
+    <message>
+        <source>Part of the name</source>
+        <translation>Teil des Namens</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze from</source>
+        <translation>&amp;Größe von</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Size from</source>
+        <translation>Größe von</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>Size to</source>
+        <translation>Größe bis</translation>
+    </message>
+    <message>
+        <source>&amp;Date from</source>
+        <translation>&amp;Datum von</translation>
+    </message>
+    <message>
+        <source>The date taken, or where a file states none, the day on which it was changed</source>
+        <translation>Das Aufnahmedatum, oder wo eine Datei keines nennt, der Tag ihrer Änderung</translation>
+    </message>
+    <message>
+        <source>Date from</source>
+        <translation>Datum von</translation>
+    </message>
+    <message>
+        <source>Date to</source>
+        <translation>Datum bis</translation>
+    </message>
+</context>
+<context>
     <name>AddToRecipe</name>
     <message>
         <source>Cancel</source>
@@ -116,6 +191,61 @@
     <message>
         <source>–</source>
         <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>Clocks</name>
+    <message>
+        <source>Camera clocks</source>
+        <translation>Kamerauhren</translation>
+    </message>
+    <message>
+        <source>Where the clock of a camera was wrong, its dates are told later or earlier: in the order of the list, in new names and in folders. No file is changed.</source>
+        <translation>Ging die Uhr einer Kamera falsch, so werden ihre Daten später oder früher genannt: in der Reihenfolge der Liste, in neuen Namen und in Ordnern. Keine Datei wird geändert.</translation>
+    </message>
+    <message>
+        <source>Ca&amp;mera</source>
+        <translation>Ka&amp;mera</translation>
+    </message>
+    <message>
+        <source>Tell its &amp;dates</source>
+        <translation>Ihre &amp;Daten</translation>
+    </message>
+    <message>
+        <source>Later or earlier</source>
+        <translation>Später oder früher</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> Std.</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> Min.</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> Sek.</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Stunden</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation>Alle zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -1020,6 +1150,46 @@
         <source>The pictures that were added since, with the settings of the last run</source>
         <translation>Die seither hinzugefügten Bilder, mit den Einstellungen des letzten Durchlaufs</translation>
     </message>
+    <message>
+        <source>Camera &amp;Clocks…</source>
+        <translation>Kamera&amp;uhren …</translation>
+    </message>
+    <message>
+        <source>Set right the dates of a camera whose clock was wrong, in the list and in new names only</source>
+        <translation>Die Daten einer Kamera richtigstellen, deren Uhr falsch ging, nur in der Liste und in neuen Namen</translation>
+    </message>
+    <message>
+        <source>Recent &amp;Destinations</source>
+        <translation>Letzte &amp;Ziele</translation>
+    </message>
+    <message>
+        <source>Recent Re&amp;cipes</source>
+        <translation>Letzte Re&amp;zepte</translation>
+    </message>
+    <message>
+        <source>&amp;Export List…</source>
+        <translation>Liste &amp;exportieren …</translation>
+    </message>
+    <message>
+        <source>Write the list with all its columns into a CSV file for spreadsheets</source>
+        <translation>Die Liste mit allen Spalten in eine CSV-Datei für Tabellen schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Files</source>
+        <translation>Dateien &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the files of the chosen rows, or what was made of them (in the list: Ctrl+C)</source>
+        <translation>Die Dateien der gewählten Zeilen kopieren, oder was aus ihnen wurde (in der Liste: Strg+C)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach u&amp;nten</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -1815,6 +1985,10 @@
         <source>Files of other programs that bear the name of a picture get its new name too</source>
         <translation>Dateien anderer Programme, die den Namen eines Bildes tragen, bekommen ebenfalls den neuen Namen</translation>
     </message>
+    <message>
+        <source>Puts zeros before the numbers, so that names sort as they count</source>
+        <translation>Setzt Nullen vor die Zahlen, damit Namen sich so ordnen, wie sie zählen</translation>
+    </message>
 </context>
 <context>
     <name>ResizePane</name>
@@ -2544,6 +2718,25 @@
     <message>
         <source>cut off at the picture’s edge</source>
         <translation>am Bildrand abgeschnitten</translation>
+    </message>
+</context>
+<context>
+    <name>clocks</name>
+    <message>
+        <source>No camera stated</source>
+        <translation>Ohne Kamera</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>later by</source>
+        <translation>später um</translation>
+    </message>
+    <message>
+        <source>earlier by</source>
+        <translation>früher um</translation>
     </message>
 </context>
 <context>
@@ -3478,6 +3671,20 @@
         <source>Leave It</source>
         <translation>So lassen</translation>
     </message>
+    <message numerus="yes">
+        <source>Undo Moving %n Rows</source>
+        <translation>
+            <numerusform>Verschieben von %n Zeile rückgängig</numerusform>
+            <numerusform>Verschieben von %n Zeilen rückgängig</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Moving %n Rows</source>
+        <translation>
+            <numerusform>Verschieben von %n Zeile wiederholen</numerusform>
+            <numerusform>Verschieben von %n Zeilen wiederholen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>image::PictureService</name>
@@ -3556,6 +3763,20 @@
     <message>
         <source>Recipe opened. Nothing was run.</source>
         <translation>Rezept geöffnet. Nichts wurde ausgeführt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n do not fit the filter</source>
+        <translation>
+            <numerusform>%n passt nicht zum Filter</numerusform>
+            <numerusform>%n passen nicht zum Filter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking at %n files…</source>
+        <translation>
+            <numerusform>%n Datei wird angesehen …</numerusform>
+            <numerusform>%n Dateien werden angesehen …</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3744,10 +3965,43 @@
     </message>
 </context>
 <context>
+    <name>list-estimate</name>
+    <message>
+        <source>about %1 in all</source>
+        <translation>insgesamt etwa %1</translation>
+    </message>
+</context>
+<context>
     <name>list-rows</name>
     <message>
         <source>left out</source>
         <translation>ausgelassen</translation>
+    </message>
+</context>
+<context>
+    <name>list-tools</name>
+    <message>
+        <source>Export the list</source>
+        <translation>Liste exportieren</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Exporting the list…</source>
+        <translation>Liste wird exportiert …</translation>
+    </message>
+    <message>
+        <source>The list was exported to %1</source>
+        <translation>Die Liste wurde exportiert nach %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files copied</source>
+        <translation>
+            <numerusform>%n Datei kopiert</numerusform>
+            <numerusform>%n Dateien kopiert</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6703,6 +6957,17 @@
     </message>
 </context>
 <context>
+    <name>recent</name>
+    <message>
+        <source>Clear Menu</source>
+        <translation>Menü leeren</translation>
+    </message>
+    <message>
+        <source>%1 is no longer there</source>
+        <translation>%1 ist nicht mehr da</translation>
+    </message>
+</context>
+<context>
     <name>recipe</name>
     <message>
         <source>%1 has no transparency: transparent parts get the colour %2</source>
@@ -7861,6 +8126,20 @@
     <message>
         <source>A step needs attention: names are not made before it is right.</source>
         <translation>Ein Schritt ist zu prüfen: Erst wenn er stimmt, werden Namen gebildet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The counter runs past its width: the last number has %n digits.</source>
+        <translation>
+            <numerusform>Der Zähler überschreitet seine Breite: die letzte Zahl hat %n Stelle.</numerusform>
+            <numerusform>Der Zähler überschreitet seine Breite: die letzte Zahl hat %n Stellen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Use %n Digits</source>
+        <translation>
+            <numerusform>%n Stelle verwenden</numerusform>
+            <numerusform>%n Stellen verwenden</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -222,6 +222,20 @@
             <numerusform>%1 of %n files was done before Quorlin was started this time. Undo it?</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Undo Moving %n Rows</source>
+        <translation>
+            <numerusform>Undo Moving %n Row</numerusform>
+            <numerusform>Undo Moving %n Rows</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Moving %n Rows</source>
+        <translation>
+            <numerusform>Redo Moving %n Row</numerusform>
+            <numerusform>Redo Moving %n Rows</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>input</name>
@@ -244,6 +258,20 @@
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n do not fit the filter</source>
+        <translation>
+            <numerusform>%n does not fit the filter</numerusform>
+            <numerusform>%n do not fit the filter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking at %n files…</source>
+        <translation>
+            <numerusform>Looking at %n file…</numerusform>
+            <numerusform>Looking at %n files…</numerusform>
         </translation>
     </message>
 </context>
@@ -334,6 +362,16 @@
         <translation>
             <numerusform>%1 was interrupted: %2 of %3 files is done.</numerusform>
             <numerusform>%1 was interrupted: %2 of %3 files are done.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>list-tools</name>
+    <message numerus="yes">
+        <source>%n files copied</source>
+        <translation>
+            <numerusform>%n file copied</numerusform>
+            <numerusform>%n files copied</numerusform>
         </translation>
     </message>
 </context>
@@ -700,6 +738,23 @@
         <translation>
             <numerusform>%n name is too short for this and stays as it is.</numerusform>
             <numerusform>%n names are too short for this and stay as they are.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>rename-pane</name>
+    <message numerus="yes">
+        <source>The counter runs past its width: the last number has %n digits.</source>
+        <translation>
+            <numerusform>The counter runs past its width: the last number has %n digit.</numerusform>
+            <numerusform>The counter runs past its width: the last number has %n digits.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Use %n Digits</source>
+        <translation>
+            <numerusform>Use %n Digit</numerusform>
+            <numerusform>Use %n Digits</numerusform>
         </translation>
     </message>
 </context>

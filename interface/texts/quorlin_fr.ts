@@ -41,6 +41,81 @@
     </message>
 </context>
 <context>
+    <name>AddFolder</name>
+    <message>
+        <source>Include &amp;subfolders</source>
+        <translation>Inclure les &amp;sous-dossiers</translation>
+    </message>
+    <message>
+        <source>Fil&amp;ter…</source>
+        <translation>Fil&amp;trer…</translation>
+    </message>
+    <message>
+        <source>Add only some of the files, by type, size, date or name</source>
+        <translation>N’ajouter que certains fichiers, selon le type, la taille, la date ou le nom</translation>
+    </message>
+    <message>
+        <source>T&amp;ypes</source>
+        <translation>T&amp;ypes</translation>
+    </message>
+    <message>
+        <source>all, or for example: jpg, tif</source>
+        <translation>tous, ou par exemple : jpg, tif</translation>
+    </message>
+    <message>
+        <source>Types of files, by extension</source>
+        <translation>Types de fichiers, par extension</translation>
+    </message>
+    <message>
+        <source>Name &amp;contains</source>
+        <translation>Le nom &amp;contient</translation>
+    </message>
+    <message>
+        <source>anything</source>
+        <translation>n’importe quoi</translation>
+    </message>
+    <message>
+        <source>Part of the name</source>
+        <translation>Partie du nom</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze from</source>
+        <translation>Tai&amp;lle de</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> Mo</translation>
+    </message>
+    <message>
+        <source>Size from</source>
+        <translation>Taille de</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>à</translation>
+    </message>
+    <message>
+        <source>Size to</source>
+        <translation>Taille jusqu’à</translation>
+    </message>
+    <message>
+        <source>&amp;Date from</source>
+        <translation>&amp;Date du</translation>
+    </message>
+    <message>
+        <source>The date taken, or where a file states none, the day on which it was changed</source>
+        <translation>La date de prise de vue ou, si le fichier n’en indique pas, le jour de sa modification</translation>
+    </message>
+    <message>
+        <source>Date from</source>
+        <translation>Date du</translation>
+    </message>
+    <message>
+        <source>Date to</source>
+        <translation>Date au</translation>
+    </message>
+</context>
+<context>
     <name>AddToRecipe</name>
     <message>
         <source>Cancel</source>
@@ -116,6 +191,61 @@
     <message>
         <source>–</source>
         <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>Clocks</name>
+    <message>
+        <source>Camera clocks</source>
+        <translation>Horloges des appareils</translation>
+    </message>
+    <message>
+        <source>Where the clock of a camera was wrong, its dates are told later or earlier: in the order of the list, in new names and in folders. No file is changed.</source>
+        <translation>Si l’horloge d’un appareil était mal réglée, ses dates sont avancées ou reculées : dans l’ordre de la liste, dans les nouveaux noms et les dossiers. Aucun fichier n’est modifié.</translation>
+    </message>
+    <message>
+        <source>Ca&amp;mera</source>
+        <translation>Ap&amp;pareil</translation>
+    </message>
+    <message>
+        <source>Tell its &amp;dates</source>
+        <translation>Ses &amp;dates</translation>
+    </message>
+    <message>
+        <source>Later or earlier</source>
+        <translation>Plus tard ou plus tôt</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> h</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Heures</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minutes</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondes</translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation>Tout rétablir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -1020,6 +1150,46 @@
         <source>The pictures that were added since, with the settings of the last run</source>
         <translation>Les images ajoutées depuis, avec les réglages du dernier traitement</translation>
     </message>
+    <message>
+        <source>Camera &amp;Clocks…</source>
+        <translation>&amp;Horloges des appareils…</translation>
+    </message>
+    <message>
+        <source>Set right the dates of a camera whose clock was wrong, in the list and in new names only</source>
+        <translation>Corriger les dates d’un appareil mal réglé, dans la liste et les nouveaux noms seulement</translation>
+    </message>
+    <message>
+        <source>Recent &amp;Destinations</source>
+        <translation>&amp;Destinations récentes</translation>
+    </message>
+    <message>
+        <source>Recent Re&amp;cipes</source>
+        <translation>Re&amp;cettes récentes</translation>
+    </message>
+    <message>
+        <source>&amp;Export List…</source>
+        <translation>&amp;Exporter la liste…</translation>
+    </message>
+    <message>
+        <source>Write the list with all its columns into a CSV file for spreadsheets</source>
+        <translation>Écrire la liste avec toutes ses colonnes dans un fichier CSV pour tableurs</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Files</source>
+        <translation>&amp;Copier les fichiers</translation>
+    </message>
+    <message>
+        <source>Copy the files of the chosen rows, or what was made of them (in the list: Ctrl+C)</source>
+        <translation>Copier les fichiers des lignes choisies ou leurs résultats (dans la liste : Ctrl+C)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>&amp;Descendre</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -1815,6 +1985,10 @@
         <source>Files of other programs that bear the name of a picture get its new name too</source>
         <translation>Les fichiers d’autres programmes qui portent le nom d’une image reçoivent aussi son nouveau nom</translation>
     </message>
+    <message>
+        <source>Puts zeros before the numbers, so that names sort as they count</source>
+        <translation>Met des zéros devant les numéros, pour que les noms se classent dans leur ordre</translation>
+    </message>
 </context>
 <context>
     <name>ResizePane</name>
@@ -2544,6 +2718,25 @@
     <message>
         <source>cut off at the picture’s edge</source>
         <translation>coupé au bord de l’image</translation>
+    </message>
+</context>
+<context>
+    <name>clocks</name>
+    <message>
+        <source>No camera stated</source>
+        <translation>Appareil inconnu</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>later by</source>
+        <translation>plus tard de</translation>
+    </message>
+    <message>
+        <source>earlier by</source>
+        <translation>plus tôt de</translation>
     </message>
 </context>
 <context>
@@ -3478,6 +3671,20 @@
         <source>Leave It</source>
         <translation>Laisser tel quel</translation>
     </message>
+    <message numerus="yes">
+        <source>Undo Moving %n Rows</source>
+        <translation>
+            <numerusform>Annuler le déplacement de %n ligne</numerusform>
+            <numerusform>Annuler le déplacement de %n lignes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Moving %n Rows</source>
+        <translation>
+            <numerusform>Rétablir le déplacement de %n ligne</numerusform>
+            <numerusform>Rétablir le déplacement de %n lignes</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>image::PictureService</name>
@@ -3556,6 +3763,20 @@
     <message>
         <source>Recipe opened. Nothing was run.</source>
         <translation>Recette ouverte. Rien n’a été exécuté.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n do not fit the filter</source>
+        <translation>
+            <numerusform>%n ne correspond pas au filtre</numerusform>
+            <numerusform>%n ne correspondent pas au filtre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking at %n files…</source>
+        <translation>
+            <numerusform>Examen de %n fichier…</numerusform>
+            <numerusform>Examen de %n fichiers…</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3744,10 +3965,43 @@
     </message>
 </context>
 <context>
+    <name>list-estimate</name>
+    <message>
+        <source>about %1 in all</source>
+        <translation>environ %1 au total</translation>
+    </message>
+</context>
+<context>
     <name>list-rows</name>
     <message>
         <source>left out</source>
         <translation>laissée de côté</translation>
+    </message>
+</context>
+<context>
+    <name>list-tools</name>
+    <message>
+        <source>Export the list</source>
+        <translation>Exporter la liste</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Exporting the list…</source>
+        <translation>Exportation de la liste…</translation>
+    </message>
+    <message>
+        <source>The list was exported to %1</source>
+        <translation>La liste a été exportée vers %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files copied</source>
+        <translation>
+            <numerusform>%n fichier copié</numerusform>
+            <numerusform>%n fichiers copiés</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6703,6 +6957,17 @@
     </message>
 </context>
 <context>
+    <name>recent</name>
+    <message>
+        <source>Clear Menu</source>
+        <translation>Vider le menu</translation>
+    </message>
+    <message>
+        <source>%1 is no longer there</source>
+        <translation>%1 n’existe plus</translation>
+    </message>
+</context>
+<context>
     <name>recipe</name>
     <message>
         <source>%1 has no transparency: transparent parts get the colour %2</source>
@@ -7861,6 +8126,20 @@
     <message>
         <source>A step needs attention: names are not made before it is right.</source>
         <translation>Une étape est à corriger&#x202f;: d’ici là, pas de nouveaux noms.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The counter runs past its width: the last number has %n digits.</source>
+        <translation>
+            <numerusform>Le compteur dépasse sa largeur : le dernier numéro a %n chiffre.</numerusform>
+            <numerusform>Le compteur dépasse sa largeur : le dernier numéro a %n chiffres.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Use %n Digits</source>
+        <translation>
+            <numerusform>Utiliser %n chiffre</numerusform>
+            <numerusform>Utiliser %n chiffres</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -41,6 +41,81 @@
     </message>
 </context>
 <context>
+    <name>AddFolder</name>
+    <message>
+        <source>Include &amp;subfolders</source>
+        <translation>&amp;Submappen meenemen</translation>
+    </message>
+    <message>
+        <source>Fil&amp;ter…</source>
+        <translation>Fil&amp;teren…</translation>
+    </message>
+    <message>
+        <source>Add only some of the files, by type, size, date or name</source>
+        <translation>Alleen sommige bestanden toevoegen, op type, grootte, datum of naam</translation>
+    </message>
+    <message>
+        <source>T&amp;ypes</source>
+        <translation>T&amp;ypen</translation>
+    </message>
+    <message>
+        <source>all, or for example: jpg, tif</source>
+        <translation>alle, of bijvoorbeeld: jpg, tif</translation>
+    </message>
+    <message>
+        <source>Types of files, by extension</source>
+        <translation>Bestandstypen, op extensie</translation>
+    </message>
+    <message>
+        <source>Name &amp;contains</source>
+        <translation>Naam be&amp;vat</translation>
+    </message>
+    <message>
+        <source>anything</source>
+        <translation>om het even wat</translation>
+    </message>
+    <message>
+        <source>Part of the name</source>
+        <translation>Deel van de naam</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze from</source>
+        <translation>&amp;Grootte van</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Size from</source>
+        <translation>Grootte van</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>tot</translation>
+    </message>
+    <message>
+        <source>Size to</source>
+        <translation>Grootte tot</translation>
+    </message>
+    <message>
+        <source>&amp;Date from</source>
+        <translation>&amp;Datum van</translation>
+    </message>
+    <message>
+        <source>The date taken, or where a file states none, the day on which it was changed</source>
+        <translation>De opnamedatum, of waar een bestand die niet vermeldt, de dag van wijziging</translation>
+    </message>
+    <message>
+        <source>Date from</source>
+        <translation>Datum van</translation>
+    </message>
+    <message>
+        <source>Date to</source>
+        <translation>Datum tot</translation>
+    </message>
+</context>
+<context>
     <name>AddToRecipe</name>
     <message>
         <source>Cancel</source>
@@ -116,6 +191,61 @@
     <message>
         <source>–</source>
         <translation>–</translation>
+    </message>
+</context>
+<context>
+    <name>Clocks</name>
+    <message>
+        <source>Camera clocks</source>
+        <translation>Cameraklokken</translation>
+    </message>
+    <message>
+        <source>Where the clock of a camera was wrong, its dates are told later or earlier: in the order of the list, in new names and in folders. No file is changed.</source>
+        <translation>Liep de klok van een camera niet goed, dan worden de datums later of vroeger genoemd: in de volgorde van de lijst, in nieuwe namen en in mappen. Er wordt geen bestand gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Ca&amp;mera</source>
+        <translation>Ca&amp;mera</translation>
+    </message>
+    <message>
+        <source>Tell its &amp;dates</source>
+        <translation>De &amp;datums</translation>
+    </message>
+    <message>
+        <source>Later or earlier</source>
+        <translation>Later of vroeger</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> u</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Uren</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Seconden</translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation>Alles herstellen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
     </message>
 </context>
 <context>
@@ -1020,6 +1150,46 @@
         <source>The pictures that were added since, with the settings of the last run</source>
         <translation>De foto’s die sindsdien zijn toegevoegd, met de instellingen van de laatste opdracht</translation>
     </message>
+    <message>
+        <source>Camera &amp;Clocks…</source>
+        <translation>Camera&amp;klokken…</translation>
+    </message>
+    <message>
+        <source>Set right the dates of a camera whose clock was wrong, in the list and in new names only</source>
+        <translation>De datums rechtzetten van een camera waarvan de klok niet goed liep, alleen in de lijst en in nieuwe namen</translation>
+    </message>
+    <message>
+        <source>Recent &amp;Destinations</source>
+        <translation>Recente &amp;bestemmingen</translation>
+    </message>
+    <message>
+        <source>Recent Re&amp;cipes</source>
+        <translation>Recente re&amp;cepten</translation>
+    </message>
+    <message>
+        <source>&amp;Export List…</source>
+        <translation>Lijst &amp;exporteren…</translation>
+    </message>
+    <message>
+        <source>Write the list with all its columns into a CSV file for spreadsheets</source>
+        <translation>De lijst met alle kolommen in een CSV-bestand voor rekenbladen schrijven</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Files</source>
+        <translation>Bestanden &amp;kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy the files of the chosen rows, or what was made of them (in the list: Ctrl+C)</source>
+        <translation>De bestanden van de gekozen regels kopiëren, of wat ervan gemaakt is (in de lijst: Ctrl+C)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Om&amp;hoog</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Om&amp;laag</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -1815,6 +1985,10 @@
         <source>Files of other programs that bear the name of a picture get its new name too</source>
         <translation>Bestanden van andere programma’s met dezelfde naam als een foto krijgen ook de nieuwe naam</translation>
     </message>
+    <message>
+        <source>Puts zeros before the numbers, so that names sort as they count</source>
+        <translation>Zet nullen voor de nummers, zodat namen in telvolgorde staan</translation>
+    </message>
 </context>
 <context>
     <name>ResizePane</name>
@@ -2544,6 +2718,25 @@
     <message>
         <source>cut off at the picture’s edge</source>
         <translation>afgesneden aan de rand</translation>
+    </message>
+</context>
+<context>
+    <name>clocks</name>
+    <message>
+        <source>No camera stated</source>
+        <translation>Geen camera vermeld</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>later by</source>
+        <translation>later met</translation>
+    </message>
+    <message>
+        <source>earlier by</source>
+        <translation>vroeger met</translation>
     </message>
 </context>
 <context>
@@ -3478,6 +3671,20 @@
         <source>Leave It</source>
         <translation>Zo laten</translation>
     </message>
+    <message numerus="yes">
+        <source>Undo Moving %n Rows</source>
+        <translation>
+            <numerusform>Verplaatsen van %n regel ongedaan maken</numerusform>
+            <numerusform>Verplaatsen van %n regels ongedaan maken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Redo Moving %n Rows</source>
+        <translation>
+            <numerusform>Verplaatsen van %n regel opnieuw</numerusform>
+            <numerusform>Verplaatsen van %n regels opnieuw</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>image::PictureService</name>
@@ -3556,6 +3763,20 @@
     <message>
         <source>Recipe opened. Nothing was run.</source>
         <translation>Recept geopend. Er is niets uitgevoerd.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n do not fit the filter</source>
+        <translation>
+            <numerusform>%n past niet bij het filter</numerusform>
+            <numerusform>%n passen niet bij het filter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking at %n files…</source>
+        <translation>
+            <numerusform>%n bestand wordt bekeken…</numerusform>
+            <numerusform>%n bestanden worden bekeken…</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3744,10 +3965,43 @@
     </message>
 </context>
 <context>
+    <name>list-estimate</name>
+    <message>
+        <source>about %1 in all</source>
+        <translation>ongeveer %1 in totaal</translation>
+    </message>
+</context>
+<context>
     <name>list-rows</name>
     <message>
         <source>left out</source>
         <translation>weggelaten</translation>
+    </message>
+</context>
+<context>
+    <name>list-tools</name>
+    <message>
+        <source>Export the list</source>
+        <translation>Lijst exporteren</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lijst</translation>
+    </message>
+    <message>
+        <source>Exporting the list…</source>
+        <translation>Lijst wordt geëxporteerd…</translation>
+    </message>
+    <message>
+        <source>The list was exported to %1</source>
+        <translation>De lijst is geëxporteerd naar %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files copied</source>
+        <translation>
+            <numerusform>%n bestand gekopieerd</numerusform>
+            <numerusform>%n bestanden gekopieerd</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6703,6 +6957,17 @@
     </message>
 </context>
 <context>
+    <name>recent</name>
+    <message>
+        <source>Clear Menu</source>
+        <translation>Menu wissen</translation>
+    </message>
+    <message>
+        <source>%1 is no longer there</source>
+        <translation>%1 is er niet meer</translation>
+    </message>
+</context>
+<context>
     <name>recipe</name>
     <message>
         <source>%1 has no transparency: transparent parts get the colour %2</source>
@@ -7861,6 +8126,20 @@
     <message>
         <source>A step needs attention: names are not made before it is right.</source>
         <translation>Een stap vraagt aandacht: zolang die niet klopt, worden er geen namen gemaakt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The counter runs past its width: the last number has %n digits.</source>
+        <translation>
+            <numerusform>De teller loopt voorbij zijn breedte: het laatste nummer heeft %n cijfer.</numerusform>
+            <numerusform>De teller loopt voorbij zijn breedte: het laatste nummer heeft %n cijfers.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Use %n Digits</source>
+        <translation>
+            <numerusform>%n cijfer gebruiken</numerusform>
+            <numerusform>%n cijfers gebruiken</numerusform>
+        </translation>
     </message>
 </context>
 <context>

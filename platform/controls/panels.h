@@ -32,7 +32,7 @@ struct PanelRequest
     QString name;   ///< save panels: the name that is offered
     QString folder; ///< where the panel starts, a path; empty for the last one used
     bool showsTagField = false;
-    /** Save panels: what is shown under the list of files, a view; null for nothing. */
+    /** Open and save panels: what is shown under the list of files, a view; null for nothing. */
     QPointer<QObject> accessory;
     /** Tells when the types change while the panel is up; null where they cannot. */
     QPointer<SavePanel> panel;

@@ -15,6 +15,7 @@
 #include "app/window/log/log_table.h"
 #include "app/window/log/run_list.h"
 #include "app/window/manual/manual_view.h"
+#include "app/window/pictures/date_box.h"
 #include "app/window/pictures/drop_target.h"
 #include "app/window/pictures/picture_table.h"
 #include "app/window/preview/compare_preview.h"
@@ -96,6 +97,7 @@ std::vector<ServiceEntry> ownClasses(const ServiceEntry &widget, const ServiceEn
         own<ChipLabel>(widget),
         own<ColorWell>(button),
         own<ComparePreview>(widget),
+        own<DateBox>(widget),
         own<DropTarget>(widget),
         own<FolderTree>(widget),
         own<LogTable>(widget),

@@ -17,6 +17,7 @@
 #include "app/window/log/log_table.h"
 #include "app/window/log/run_list.h"
 #include "app/window/manual/manual_view.h"
+#include "app/window/pictures/date_box.h"
 #include "app/window/pictures/picture_table.h"
 #include "app/window/preview/compare_preview.h"
 #include "app/window/preview/step_picture.h"
@@ -55,6 +56,7 @@ const QHash<QString, Maker> &makers()
         {QStringLiteral("PositionPad"), made<PositionPad>},
         {QStringLiteral("PropertyTree"), made<PropertyTree>},
         {QStringLiteral("QComboBox"), made<ComboBox>},
+        {QStringLiteral("QDateEdit"), made<DateBox>},
         {QStringLiteral("QDoubleSpinBox"), made<NumberBox>},
         {QStringLiteral("RunList"), made<RunList>},
         {QStringLiteral("SearchMenu"), made<SearchMenu>},

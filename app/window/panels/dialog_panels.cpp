@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QPointer>
 #include <QStandardPaths>
 
 namespace window {
@@ -43,6 +45,30 @@ void prepareOpen(QFileDialog &dialog, const platform::PanelRequest &request)
     if (request.types && !request.types->isEmpty() && request.choosesFiles)
         dialog.setNameFilter(panelFilter(*request.types));
 }
+
+/** Shows a view under the files of a dialog, which is then the toolkit's own, and gives it back. */
+class ViewBelow
+{
+public:
+    ViewBelow(QFileDialog &dialog, QWidget *view) : m_view(view)
+    {
+        if (!view)
+            return;
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+        auto *grid = qobject_cast<QGridLayout *>(dialog.layout());
+        grid->addWidget(view, grid->rowCount(), 0, 1, -1);
+        view->show();
+    }
+    ~ViewBelow()
+    {
+        if (m_view)
+            m_view->setParent(nullptr);
+    }
+    Q_DISABLE_COPY_MOVE(ViewBelow)
+
+private:
+    QPointer<QWidget> m_view;
+};
 
 /** The first of these that is there: what was asked for, the folder of the last panel, pictures, home. */
 QString startFolder(const platform::PanelRequest &request)
@@ -87,6 +113,7 @@ platform::PanelAnswer DialogPanels::run(const platform::PanelRequest &request)
     if (!request.createsFolders && request.choosesFiles)
         dialog.setOption(QFileDialog::ReadOnly);
     prepareOpen(dialog, request);
+    const ViewBelow view(dialog, qobject_cast<QWidget *>(request.accessory.data()));
     if (!isAccepted(dialog, request))
         return {};
     return {true, dialog.selectedFiles(), {}};

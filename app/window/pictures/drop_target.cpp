@@ -43,7 +43,8 @@ bool DropTarget::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::DragEnter: {
         auto *drag = static_cast<QDragEnterEvent *>(event);
-        if (!m_open || localPaths(*drag->mimeData()).isEmpty())
+        // What is dragged out of the list is in it already.
+        if (drag->source() != nullptr || !m_open || localPaths(*drag->mimeData()).isEmpty())
             return false;
         setGeometry(parentWidget()->rect());
         raise();

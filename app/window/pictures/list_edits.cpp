@@ -25,6 +25,14 @@ void ListEdits::removed(std::vector<PlacedRow> rows)
     keep(std::move(edit));
 }
 
+void ListEdits::ordered(QList<int> before)
+{
+    Edit edit;
+    edit.ids = std::move(before);
+    edit.isOrder = true;
+    keep(std::move(edit));
+}
+
 void ListEdits::keep(Edit edit)
 {
     m_edits.resize(m_standing);
@@ -53,6 +61,12 @@ bool ListEdits::redo(PictureModel &model)
 // Undone or done again, an edit brings its rows to the other side.
 void ListEdits::turn(Edit &edit, PictureModel &model)
 {
+    if (edit.isOrder) {
+        QList<int> now = model.order();
+        model.setOrder(edit.ids);
+        edit.ids = std::move(now);
+        return;
+    }
     if (edit.areIn) {
         edit.rows = model.takeIds(edit.ids);
     } else {

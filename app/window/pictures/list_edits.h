@@ -6,7 +6,7 @@
 
 namespace window {
 
-/** What was put into the list and taken out of it, to be undone and done again in turn. The newest 100 edits are kept. */
+/** What was put into the list, taken out of it and put in another order, to be undone and done again in turn. The newest 100 edits are kept. */
 class ListEdits
 {
 public:
@@ -14,6 +14,9 @@ public:
     void added(QList<int> ids);
     /** These rows were taken out. */
     void removed(std::vector<PlacedRow> rows);
+
+    /** The rows stood in this order, and stand in another one now. */
+    void ordered(QList<int> before);
 
     /** False where nothing is left to undo, or to do again. */
     bool undo(PictureModel &model);
@@ -25,6 +28,7 @@ private:
         QList<int> ids;
         std::vector<PlacedRow> rows; ///< while they are not in the list
         bool areIn = false;
+        bool isOrder = false; ///< ids are all rows as they stood on the other side of it
     };
 
     void keep(Edit edit);

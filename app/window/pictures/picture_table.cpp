@@ -50,6 +50,8 @@ PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_mode
     setWordWrap(false);
     setTabKeyNavigation(false);
     setMouseTracking(false);
+    setDragEnabled(true);
+    setDragDropMode(DragOnly);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollMode(ScrollPerPixel);
     setCornerButtonEnabled(false);
@@ -131,14 +133,18 @@ int PictureTable::removeAll()
 
 void PictureTable::undoEdit()
 {
-    if (m_edits.undo(m_model))
+    if (m_edits.undo(m_model)) {
         rowsChanged();
+        Q_EMIT orderChanged();
+    }
 }
 
 void PictureTable::redoEdit()
 {
-    if (m_edits.redo(m_model))
+    if (m_edits.redo(m_model)) {
         rowsChanged();
+        Q_EMIT orderChanged();
+    }
 }
 
 QVariantList PictureTable::selectedIds() const
@@ -251,6 +257,8 @@ void PictureTable::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Space && !(event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)))
         Q_EMIT largePreviewRequested();
+    else if (event->matches(QKeySequence::Copy))
+        Q_EMIT copied(copyFiles());
     else
         QTableView::keyPressEvent(event);
 }

@@ -82,7 +82,12 @@ public:
     Q_INVOKABLE void removeIds(const QVariantList &ids);
     /** Takes all rows out, hidden ones too; returns how many those were. */
     Q_INVOKABLE int removeAll();
-    /** Undoes the last of addPaths(), removeSelected() and removeAll() that still stands; 100 of them are kept. */
+    /**
+     * Moves the chosen rows by one place up (-1) or down (1), together; the order shown becomes that of adding. How many were moved: 0
+     * where they stand at the end already, or where the list shows a part of itself.
+     */
+    Q_INVOKABLE int moveSelected(int by);
+    /** Undoes the last of addPaths(), removeSelected(), removeAll() and moveSelected() that still stands; 100 of them are kept. */
     Q_INVOKABLE void undoEdit();
     /** Does again what was undone last. */
     Q_INVOKABLE void redoEdit();
@@ -134,6 +139,12 @@ public:
     /** {newName, newSize, kind, status} as the list shows them; null for an unknown id. */
     Q_INVOKABLE QVariant shown(int id) const;
     Q_INVOKABLE void forget(int id);
+    /** The files that a run made of a picture, after its status: they are what is dragged and copied while it stays. */
+    Q_INVOKABLE void setResults(int id, const QStringList &paths);
+    /** Of the chosen rows: the files that were made of them, or where none were they themselves. */
+    Q_INVOKABLE QStringList chosenFiles() const;
+    /** Puts these on the clipboard, to be pasted into folders, mail and browsers. How many they are. */
+    Q_INVOKABLE int copyFiles();
     /** Scrolls so that the row can be seen, unless the user works in the list. */
     Q_INVOKABLE void reveal(int id);
 
@@ -146,11 +157,14 @@ Q_SIGNALS:
     void clocksChanged();
     void currentPictureChanged(int id);
     void largePreviewRequested();
+    /** Files of so many rows were put on the clipboard. */
+    void copied(int count);
     void layoutChanged();
 
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void startDrag(Qt::DropActions actions) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

@@ -47,6 +47,12 @@ export class NameChain {
         return told;
     }
 
+    /** By the index of a step: how many digits its counter needs for all names made so far, where it has fewer. */
+    digits() {
+        return this.steps.map((each) => ({ index: each.index, digits: each.ready.digits() }))
+            .filter((each) => each.digits > 0);
+    }
+
     // Changes the part of `now` that the step works on.
     applyOne(each, now, context, isFolder) {
         if (each.part === "both" && !isFolder) {

@@ -192,17 +192,36 @@ function nextIndex(step, counters, context) {
  */
 export function prepared(step, names, missing) {
     if (step.kind !== "text") {
-        return { step: step, needsFacts: false, counts: false,
+        return { step: step, needsFacts: false, counts: false, digits: () => 0,
                  apply: (text) => STEPS[step.kind].apply(step, text, names) };
     }
     const made = new TokenText(Object.assign({ pattern: step.pattern, values: "name" }, missing));
     const counters = Object.create(null);
     const counts = tokens.parts(step.pattern).some((part) => part.token === "counter");
+    let most = 0;
     const apply = (text, context) => {
         const path = context.folder + "/" + text + (context.extension ? "." + context.extension : "");
-        const expanded = made.expand(path, context.facts, counts ? nextIndex(step, counters, context) : 0);
+        const index = counts ? nextIndex(step, counters, context) : 0;
+        most = Math.max(most, index);
+        const expanded = made.expand(path, context.facts, index);
         return { text: expanded[0], missing: expanded.slice(1) };
     };
     return { step: step, needsFacts: made.needsFacts || (counts && step.counterScope === "date"), counts: counts,
-             apply: apply };
+             apply: apply, digits: () => digitsFor(step.pattern, most) };
+}
+
+/** The digits that the counters of a pattern need where they go on by that much; 0 where all of them are wide enough. */
+function digitsFor(pattern, most) {
+    const widths = tokens.parts(pattern).filter((part) => part.token === "counter" && part.form.length > 1)
+        .map((part) => ({ has: part.form.length, needs: String(Number(part.form) + most).length }));
+    return widths.reduce((digits, each) => (each.needs > each.has ? Math.max(digits, each.needs) : digits), 0);
+}
+
+/** The pattern with counters of so many digits; those without zeros before them stay as they are. */
+export function withDigits(pattern, digits) {
+    return tokens.parts(pattern).reduce((text, part) => {
+        const isShort = part.token === "counter" && part.form.length > 1 && part.form.length < digits;
+        return isShort ? text.replace("{counter:" + part.form + "}",
+                                      "{counter:" + part.form.padStart(digits, "0") + "}") : text;
+    }, pattern);
 }

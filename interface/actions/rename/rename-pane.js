@@ -6,6 +6,7 @@ import { copyOf } from "../../lib/copies.js";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { menuEntries } from "./step-words.js";
+import { withDigits } from "./name-steps.js";
 import * as rename from "./rename-step.js";
 import { Pane } from "../shared/pane.js";
 import { RenameCard } from "./rename-card.js";
@@ -18,6 +19,8 @@ const SAMPLE = { path: "/IMG_2041.JPG",
                                                  camera: "Canon EOS 40D", lens: "EF 50mm f/1.4", type: "JPEG",
                                                  bytes: 4100000, size: "4.1 MB",
                                                  width: 4032, height: 3024 } };
+// Enough for ten thousand pictures and more.
+const OFFERED_DIGITS = 5;
 // About the height of a closed card and the gap behind it.
 const CARD_PX = 84;
 const SAMPLE_FOLDER = "/" + qsTr("Holiday 2026");
@@ -31,6 +34,7 @@ export class RenamePane extends Pane {
         this.open = -1;
         this.dragged = null;
         this.short = [];
+        this.narrow = [];
         this.plan = null;
         this.plannedFor = "";
         settings.steps = rename.stepsOf(settings);
@@ -51,7 +55,25 @@ export class RenamePane extends Pane {
                          entries.map((entry, i) => i));
         steps.chosen.connect(guard("addMenu", (i) => this.add(copyOf(menuEntries()[i].step))));
         control("addStep").clicked.connect(guard("addStep", () => steps.popUp(control("addStep"))));
+        control("widenCounter").clicked.connect(guard("widenCounter", () => this.widen()));
         this.joinTokens(control("tokenMenu"));
+    }
+
+    // A counter that runs past its width sorts wrongly: 999, 1000 and 1001 come before 99.
+    showWidth() {
+        const most = this.narrow.reduce((digits, each) => Math.max(digits, each.digits), 0);
+        this.form.control("widthBar").visible = most > 0;
+        this.form.control("widthNote").text = most > 0
+            ? qsTr("The counter runs past its width: the last number has %n digits.", "", most) : "";
+        this.form.control("widenCounter").text = qsTr("Use %n Digits", "", Math.max(most, OFFERED_DIGITS));
+    }
+
+    widen() {
+        this.narrow.forEach((each) => {
+            const step = this.settings.steps[each.index];
+            step.pattern = withDigits(step.pattern, Math.max(each.digits, OFFERED_DIGITS));
+        });
+        this.stepsChanged();
     }
 
     joinTokens(menu) {
@@ -116,6 +138,8 @@ export class RenamePane extends Pane {
 
     stepsChanged() {
         this.short = [];
+        this.narrow = [];
+        this.showWidth();
         this.showCards();
         this.changed();
     }
@@ -237,6 +261,8 @@ export class RenamePane extends Pane {
     /** Called with the plan of all files. */
     planned(plan) {
         this.short = plan.rows.short || [];
+        this.narrow = plan.rows.digits || [];
+        this.showWidth();
         this.plan = plan;
         this.plannedFor = JSON.stringify(this.settings);
         this.explain();

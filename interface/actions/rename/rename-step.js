@@ -135,7 +135,7 @@ function nameFollowers(found, paths) {
 
 /**
  * A generator that makes the new names: see move-plan.js. The array also has `short`: by the index of a step of stepsOf(), how
- * many names it could not change because they are too short.
+ * many names it could not change because they are too short; and `digits`, see NameChain.digits().
  */
 export function* rows(paths, settings, services) {
     const areFolders = settings.what === "folders";
@@ -161,7 +161,7 @@ export function* rows(paths, settings, services) {
         }
     }
     nameFollowers(found, paths);
-    Object.assign(found, { short: context.short });
+    Object.assign(found, { short: context.short, digits: context.chain.digits() });
     if (from < found.length) {
         yield { rows: found, from: from, to: found.length };
     }

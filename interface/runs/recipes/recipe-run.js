@@ -129,6 +129,9 @@ export class RecipeRun extends WriteRun {
         const text = status === "OK" || made.length === 0
             ? statusText(status, reason) : fill(qsTr("%1 of %2 files: %3"), made.length, outputs.length, reason);
         list.setStatus(id, statusKind(status), text, this.items[index].notes.join("\n"));
+        if (status === "OK") {
+            list.setResults(id, made.map((final) => final.path));
+        }
         if (made.length > 0 && this.items[index].replacesOriginal) {
             list.forget(id);
         }

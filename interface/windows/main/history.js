@@ -16,6 +16,8 @@ const WORDS = {
            redo: (number) => qsTr("Redo Adding %n Files", "", number) },
     remove: { undo: (number) => qsTr("Undo Removing %n Files", "", number),
               redo: (number) => qsTr("Redo Removing %n Files", "", number) },
+    move: { undo: (number) => qsTr("Undo Moving %n Rows", "", number),
+            redo: (number) => qsTr("Redo Moving %n Rows", "", number) },
     clear: { undo: () => qsTr("Undo Clear List"), redo: () => qsTr("Redo Clear List") },
     run: { undo: (number, title) => fill(qsTr("Undo %1 of %n Files", "", number), title),
            redo: (number, title) => fill(qsTr("Redo %1 of %n Files", "", number), title) },
@@ -66,7 +68,7 @@ export class History {
         }
     }
 
-    /** Something was done to the list: "add", "remove" or "clear", with so many rows. */
+    /** Something was done to the list: "add", "remove", "move" or "clear", with so many rows. */
     edited(kind, count) {
         if (count > 0) {
             this.keep({ kind: kind, count: count, title: "", id: "" });

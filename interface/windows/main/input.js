@@ -8,16 +8,18 @@ import { convert } from "../../actions/convert/convert-action.js";
 import { recipesAmong } from "../../actions/recipe/recipe-files.js";
 import { presetFilesAmong } from "../../presets/preset-pane.js";
 import { guard } from "../../lib/guard.js";
+import { filtered } from "../../lib/input-filter.js";
 import { wordsFor } from "../../lib/input-words.js";
 import { splitPath } from "../../lib/names.js";
 import { goingAlong, SIDECARS } from "../../lib/sidecars.js";
-import { recall, keep, withNewest } from "../../lib/store.js";
+import { recall, keep } from "../../lib/store.js";
 import { PHOTO_INPUT } from "../../lib/types.js";
 import { WRITES } from "../../runs/writes.js";
-import { fill, shortPath } from "../../lib/wording.js";
+import { fill } from "../../lib/wording.js";
+import { AddFolder } from "../add-folder/add-folder.js";
 import { OwnResults } from "./own-results.js";
+import { Recent } from "./recent.js";
 
-const KEPT_FOLDERS = 8;
 const MOST_NAMED = 15;
 const KEY = "RecentFolders";
 const HAS_ADDED = "HasAddedPictures";
@@ -35,6 +37,9 @@ function addedText(found, added, words) {
     }
     if (found.leftOut > 0) {
         parts.push(words.leftOut(found));
+    }
+    if (found.filtered > 0) {
+        parts.push(qsTr("%n do not fit the filter", "", found.filtered));
     }
     return parts.length > 0 ? parts.join(" · ") : words.nothing();
 }
@@ -56,7 +61,8 @@ export class Input {
     /** @param window  the main window's parts: form, pictures, action, say(text) */
     constructor(window) {
         this.window = window;
-        this.recent = recall(defaults, KEY, { folders: [] }).folders;
+        this.recentFolders = new Recent(window, "recentMenu", KEY, (folder) => this.addPaths([folder]));
+        this.recent = this.recentFolders.paths;
         // Whoever has added something needs no samples any more.
         this.hasAdded = this.recent.length > 0 || recall(defaults, HAS_ADDED, { on: false }).on;
         this.hidden = null;
@@ -64,7 +70,6 @@ export class Input {
         this.roots = [];
         this.own = new OwnResults(window.form);
         this.joinList();
-        this.showRecent();
     }
 
     joinList() {
@@ -127,15 +132,8 @@ export class Input {
         control("hiddenConvert").visible = this.convertible;
     }
 
-    showRecent() {
-        const texts = this.recent.map((folder) => shortPath(folder, files.home));
-        this.window.form.setMenu("recentMenu", texts, this.recent, (folder) => this.addPaths([folder]));
-    }
-
     rememberFolder(folder) {
-        this.recent = withNewest(this.recent, folder, KEPT_FOLDERS);
-        keep(defaults, KEY, { folders: this.recent });
-        this.showRecent();
+        this.recentFolders.add(folder);
     }
 
     // Pictures that only another action takes come into the list too, hidden until that action is chosen.
@@ -197,11 +195,19 @@ export class Input {
         }
     }
 
-    addPictureFiles(paths) {
+    collected(paths) {
         const kind = this.window.action.lists(this.window.settings);
-        const found = kind === "folders"
+        return kind === "folders"
             ? foldersAmong(paths)
             : files.collect(paths, this.takes(), SIDECARS, kind === "pictures" ? PHOTO_INPUT : []);
+    }
+
+    addPictureFiles(paths) {
+        this.addCollected(this.collected(paths), paths);
+    }
+
+    addCollected(found, paths) {
+        const kind = this.window.action.lists(this.window.settings);
         this.noteRoots(found.folders);
         for (const folder of found.folders) {
             this.rememberFolder(folder);
@@ -218,7 +224,7 @@ export class Input {
 
     // The extensions of the files that the action takes.
     takes() {
-        return this.window.action.lists(this.window.settings) === "files" ? ["*"] : this.window.action.takes;
+        return this.window.action.lists(this.window.settings) === "pictures" ? this.window.action.takes : ["*"];
     }
 
     addPictures() {
@@ -233,10 +239,33 @@ export class Input {
         const kind = this.window.action.lists(this.window.settings);
         const titles = { pictures: qsTr("Add all pictures of a folder"), files: qsTr("Add all files of a folder"),
                          folders: qsTr("Add a folder") };
-        const folder = shell.chooseFolder(titles[kind], this.recent[0] || "");
-        if (folder !== null) {
-            this.addPaths([folder]);
+        const start = this.recent[0] || "";
+        if (kind === "folders") {
+            const folder = shell.chooseFolder(titles[kind], start);
+            this.addPaths(folder === null ? [] : [folder]);
+            return;
         }
+        // Made when it is first used.
+        this.folderPanel = this.folderPanel || new AddFolder();
+        const chosen = this.folderPanel.choose(titles[kind], start);
+        if (chosen !== null && chosen.rule === null) {
+            this.addPaths([chosen.folder]);
+        } else if (chosen !== null) {
+            this.addSome(files.absolute(chosen.folder), chosen.rule);
+        }
+    }
+
+    // Dates are read from the pictures, which takes a while where they are many.
+    addSome(folder, rule) {
+        const found = this.collected([folder]);
+        const work = filtered(found, folder, rule, { files: files, facts: this.window.services.facts });
+        this.window.say(qsTr("Looking at %n files…", "", found.listed.length));
+        this.filtering = shell.job();
+        this.filtering.start(work, () => undefined, guard("filter", (how, some) => {
+            if (how === "done" && this.window.mayAdd()) {
+                this.addCollected(some, [folder]);
+            }
+        }));
     }
 
     /** Pictures to try things with, as files of the user's. */

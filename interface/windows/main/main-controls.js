@@ -27,6 +27,9 @@ function doingsOf(window) {
         paste: () => window.input.paste(),
         remove: () => window.removeChosen(),
         selectAll: () => window.pictures.selectAll(),
+        copyFiles: () => window.tools.copyFiles(),
+        moveUp: () => window.moveChosen(-1),
+        moveDown: () => window.moveChosen(1),
         tick: () => window.pictures.toggleTicks(),
         tickAll: () => window.pictures.tickAll(),
         columns: () => window.pictures.showColumnMenu(),
@@ -56,7 +59,7 @@ const BUTTONS = {
 
 const ENTRIES = [
     "addPictures", "addFolder", "clear", "start", "pause", "cancel", "retry", "fullScreen", "report", "saveAs", "quit",
-    "paste", "remove", "selectAll", "tick", "tickAll", "columns", "next",
+    "paste", "remove", "selectAll", "copyFiles", "moveUp", "moveDown", "tick", "tickAll", "columns", "next",
     "previous", "large", "fit", "fill", "actual", "showFailed", "undo", "redo", "rename",
 ];
 

@@ -17,6 +17,8 @@ import { Help } from "./help.js";
 import { History } from "./history.js";
 import { Input } from "./input.js";
 import { InterruptedBar } from "./interrupted-bar.js";
+import { ListEstimate } from "./list-estimate.js";
+import { ListTools } from "./list-tools.js";
 import { PageHost } from "./page-host.js";
 import { PreviewSide } from "./preview-side.js";
 import { Printing } from "./printing.js";
@@ -35,6 +37,8 @@ const ADDING = [
     "emptyAddFolder", "emptyAddSamples",
 ];
 const SETTINGS = ["renameAction", "headHost", "actionHost", "outputHost", "moveSimulation"];
+// What is done with rows.
+const ROWS = ["removeAction", "selectAllAction", "tickAction", "tickAllAction", "moveUpAction", "moveDownAction"];
 
 export class MainWindow {
     constructor() {
@@ -81,6 +85,8 @@ export class MainWindow {
         this.repeating = new Repeating(this);
         this.watching = new Watching(this);
         this.interrupted = new InterruptedBar(this);
+        this.tools = new ListTools(this);
+        this.estimate = new ListEstimate(this, () => this.showStart());
         this.shownPage = this.action.page === undefined ? null : this.action;
         this.pageHost.show(this.shownPage);
         this.support.show();
@@ -174,7 +180,8 @@ export class MainWindow {
         const inList = any && !busy && this.shownPage === null;
         enable(ADDING, this.mayAdd());
         enable(SETTINGS, !busy);
-        enable(["removeAction", "selectAllAction", "tickAction", "tickAllAction"], inList);
+        enable(ROWS, inList);
+        enable(["copyFilesAction"], any && this.shownPage === null);
         enable(["clearButton", "clearAction", "saveAsAction"], any && !busy && onList);
         this.form.control("columnsAction").enabled = any && this.shownPage === null;
         enable(["nextAction", "previousAction", "largeAction"], any && onList);
@@ -205,6 +212,7 @@ export class MainWindow {
         showStatusBar(this);
         this.watching.show();
         this.interrupted.show();
+        this.tools.show();
         this.help.tell();
     }
 
@@ -223,6 +231,7 @@ export class MainWindow {
 
     settingsChanged() {
         this.actionPage.keepSettings();
+        this.tools.settingsChanged();
         this.actionPage.showInput();
         this.planAgain();
     }
@@ -352,6 +361,10 @@ export class MainWindow {
 
     removeChosen() {
         this.history.edited("remove", this.pictures.removeSelected());
+    }
+
+    moveChosen(by) {
+        this.history.edited("move", this.pictures.moveSelected(by));
     }
 
     clearList() {

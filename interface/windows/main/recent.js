@@ -1,0 +1,76 @@
+// A menu of what was used last: it can be cleared, and forgets what is gone.
+
+import { defaults } from "quorlin/defaults";
+import { files } from "quorlin/files";
+import { fill, shortPath } from "../../lib/wording.js";
+import { keep, recall, withNewest } from "../../lib/store.js";
+
+const MOST = 8;
+const SEPARATOR = "-";
+
+export class Recent {
+    /**
+     * @param window  the main window's parts: form, say(text)
+     * @param menu    the name of the menu
+     * @param key     under which paths are kept
+     * @param choose  called with the path of a chosen entry, which is there
+     * @param paths   the list itself, where somebody else has it already
+     */
+    constructor(window, menu, key, choose, paths) {
+        this.window = window;
+        this.menu = menu;
+        this.key = key;
+        this.choose = choose;
+        this.paths = paths || recall(defaults, key, { folders: [] }).folders;
+        /** Called after the menu was cleared. */
+        this.cleared = () => undefined;
+        this.isOpen = true;
+        this.show();
+    }
+
+    /** Those that are still there, the newest first. */
+    present() {
+        return this.paths.filter((path) => files.info(path).exists);
+    }
+
+    add(path) {
+        if (this.paths[0] !== path) {
+            this.set(withNewest(this.paths, path, MOST));
+        }
+    }
+
+    set(paths) {
+        // Others look at the same list.
+        this.paths.splice(0, this.paths.length, ...paths);
+        keep(defaults, this.key, { folders: this.paths });
+        this.show();
+    }
+
+    /** Without entries to choose while nothing can be done with them. */
+    open(on) {
+        if (on !== this.isOpen) {
+            this.isOpen = on;
+            this.show();
+        }
+    }
+
+    show() {
+        const paths = this.isOpen ? this.present() : [];
+        const texts = paths.map((path) => shortPath(path, files.home));
+        const end = paths.length === 0 ? [] : [SEPARATOR, qsTr("Clear Menu")];
+        this.window.form.setMenu(this.menu, texts.concat(end), paths.concat(end.map(() => "")),
+                                 (path) => this.chosen(path));
+    }
+
+    chosen(path) {
+        if (path === "") {
+            this.set([]);
+            this.cleared();
+        } else if (files.info(path).exists) {
+            this.choose(path);
+        } else {
+            this.window.say(fill(qsTr("%1 is no longer there"), shortPath(path, files.home)));
+            this.set(this.present());
+        }
+    }
+}
