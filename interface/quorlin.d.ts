@@ -1591,7 +1591,7 @@ declare module "quorlin/shell" {
     export class SizeEstimate {
         private constructor();
         /** Bytes are -1 where nothing came of it. */
-        readonly measured: Signal<(number: whole, bytes: number) => any>;
+        readonly measured: Signal<(number: whole, bytes: double) => any>;
         /** The result is {recipe}, or {type, quality} of a conversion. */
         measure(number: whole, path: text, result: dictionary): null;
         stop(): null;
@@ -1834,7 +1834,7 @@ declare module "quorlin/shell" {
     export interface DateBox extends Widget {
         /** Such as "2026-08-14"; what is no day is passed over. */
         day: string;
-        readonly dayChanged: Signal<(day: string) => any>;
+        readonly dayChanged: Signal<(day: text) => any>;
     }
 
     /** Covers the window while files are dragged over it, and takes the drop. */
