@@ -365,8 +365,10 @@ export class MoveRun extends BaseRun {
         // Facts are known by path, and other files are at these paths now.
         this.window.services.facts.forget();
         yield this.items.length;
-        this.finish([this.summaryText(how)].concat(told).join(" · "));
-        yield this.items.length;
+        return [this.summaryText(how)].concat(told).join(" · ");
+    }
+
+    hasEnded() {
         this.tellPane("runEnded");
         this.window.reloadPreview();
     }

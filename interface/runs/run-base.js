@@ -149,7 +149,7 @@ export class BaseRun {
         return keepSettings(files, this.id, this.window.action.name, this.settings);
     }
 
-    /** Carries out the end of the run, a generator: it can be neither paused nor stopped. */
+    /** Carries out the end of the run, a generator that returns what to say: it can be neither paused nor stopped. */
     endWith(work) {
         this.isEnding = true;
         this.endWork = work;
@@ -160,9 +160,7 @@ export class BaseRun {
         this.job.resume();
         this.job.start(work, () => undefined, guard("run.ended", (how, value) => {
             this.isEnding = false;
-            if (how === "failed") {
-                this.finish(String(value));
-            }
+            this.workEnded(value);
         }));
     }
 
@@ -175,10 +173,24 @@ export class BaseRun {
     }
 
     endNow() {
-        while (!this.endWork.next().done) {
-            // the window is about to close
+        let step = this.endWork.next();
+        while (!step.done) {
+            step = this.endWork.next(); // the window is about to close
         }
         this.isEnding = false;
+        this.workEnded(step.value);
+    }
+
+    // Whoever hears of the end may begin the next run, which the job could not while it is in a step of this one.
+    workEnded(value) {
+        if (this.isBusy()) {
+            this.finish(String(value));
+            this.hasEnded();
+        }
+    }
+
+    hasEnded() {
+        return undefined;
     }
 
     togglePause() {

@@ -384,7 +384,10 @@ export class WriteRun extends BaseRun {
         const unkept = yield* this.keepLog();
         const problem = [unended, unkept].filter((text) => text).join(" · ");
         this.isComplete = how === "done" && !isStopped;
-        this.finish(this.summaryText(isStopped ? "cancelled" : how) + (problem ? " · " + problem : ""));
+        return this.summaryText(isStopped ? "cancelled" : how) + (problem ? " · " + problem : "");
+    }
+
+    hasEnded() {
         if (this.items.some((item) => item.replacesOriginal)) {
             this.window.reloadPreview();
         }

@@ -47,7 +47,7 @@ void PictureTable::countTaken()
 void PictureTable::chooseSomeRow()
 {
     if (!currentIndex().isValid() && m_order.rowCount() > 0)
-        setCurrentIndex(m_order.index(0, PictureModel::Name));
+        choose(m_order.index(0, PictureModel::Name));
 }
 
 void PictureTable::showOnly(const QVariantList &ids)

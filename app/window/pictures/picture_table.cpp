@@ -116,7 +116,7 @@ int PictureTable::removeSelected()
         return 0;
     m_edits.removed(m_model.takeIds(gone));
     if (m_order.rowCount() > 0)
-        setCurrentIndex(m_order.index(qMin(top, m_order.rowCount() - 1), PictureModel::Name));
+        choose(m_order.index(qMin(top, m_order.rowCount() - 1), PictureModel::Name));
     rowsChanged();
     return int(gone.size());
 }
@@ -160,20 +160,26 @@ QVariantList PictureTable::selectedIds() const
     return found;
 }
 
+// Not setCurrentIndex(), which adds to what is chosen while Ctrl is held, as it is for Ctrl+Right.
+void PictureTable::choose(const QModelIndex &index)
+{
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
 void PictureTable::step(int rows)
 {
     const int last = m_order.rowCount() - 1;
     if (last < 0)
         return;
     const int now = currentIndex().isValid() ? currentIndex().row() : 0;
-    setCurrentIndex(m_order.index(int(qBound(qint64(0), qint64(now) + rows, qint64(last))), PictureModel::Name));
+    choose(m_order.index(int(qBound(qint64(0), qint64(now) + rows, qint64(last))), PictureModel::Name));
 }
 
 void PictureTable::selectId(int id)
 {
     const QModelIndex index = shownIndex(id);
     if (index.isValid())
-        setCurrentIndex(index);
+        choose(index);
 }
 
 QVariant PictureTable::photo(int id)

@@ -183,6 +183,7 @@ private:
     void columnsChanged();
     void addColumnEntries(QMenu &menu);
     void chooseColumn(size_t column, bool on);
+    void choose(const QModelIndex &index);
     void noteSorting(int column);
     bool isReadFor(int column) const;
     bool pressTick(const QMouseEvent &event);

@@ -86,7 +86,7 @@ export class PreviewSide {
             ? this.window.action.step.preview(photo, this.window.settings, planned, this.window.services) : null;
         this.shown = ready ? { planned: planned, result: shown } : null;
         this.showFrame(planned);
-        this.view.setNotes(ready ? planned.losses.join(" · ") : "");
+        this.view.setNotes(ready ? (planned.losses || []).join(" · ") : "");
         this.told = ready ? Object.assign({ message: "" }, shown) : nothing(planned === null ? "" : planned.reason);
         this.view.showResult(this.told);
         this.showCaptions(this.view.estimatedBytes);
@@ -148,7 +148,7 @@ export class PreviewSide {
         const hasResult = this.window.manner.preview && this.window.pageHost.shown === null && this.shown !== null;
         this.large.showsResult = hasResult;
         this.large.showResult(hasResult ? this.told : nothing(""));
-        this.large.setNotes(hasResult ? this.shown.planned.losses.join(" · ") : "");
+        this.large.setNotes(hasResult ? (this.shown.planned.losses || []).join(" · ") : "");
     }
 
     /** Shows a file that is not in the list; `from` is the control that has the focus again afterwards. */

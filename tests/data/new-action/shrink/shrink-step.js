@@ -1,17 +1,17 @@
 // Makes pictures smaller. Plain data in, plain data out.
 
-import { splitPath } from "../../lib/names.js";
-import { ORIGINAL, typeOfExtension, WRITTEN, writtenType } from "../../lib/types.js";
+import { ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
-import { makeBy, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
-import { outputMessages, ready, unreadable } from "../shared/written.js";
+import { makeBy, planBy, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
+import { ownName } from "../shared/own-name.js";
+import { outputMessages, unreadable } from "../shared/written.js";
 
 export const defaults = {
     percent: 50,
     output: usualOutput(ORIGINAL, "9", "Shrunk"),
 };
 
-export const offer = { types: WRITTEN.map((type) => type.id), quality: true, metadata: ["public.tiff"] };
+export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
 export function describe(settings) {
     return fill(qsTr("to %1 %"), settings.percent);
@@ -21,21 +21,23 @@ export function validate(settings) {
     return outputMessages(settings.output);
 }
 
-export function plan(photo, settings) {
-    const parts = splitPath(photo.path);
-    const chosen = settings.output.fileType;
-    const type = writtenType(chosen === ORIGINAL ? typeOfExtension(parts.extension) : chosen);
-    const part = (length) => Math.trunc((length * settings.percent) / 100);
-    const size = { width: part(photo.width), height: part(photo.height) };
-    return unreadable(photo) || ready(parts.base + type.extension, type, size, []);
-}
-
 function recipe(settings) {
     return { quorlin: 1, operations: [{ do: "resize", percent: settings.percent }], outputs: [{ type: "original" }] };
 }
 
+/** Workers are given it with the picture. */
+export function recipeFor(_photo, settings) {
+    return recipe(settings);
+}
+
+export function plan(photo, settings, services) {
+    return unreadable(photo) || planBy(photo, settings, services,
+                                       () => services.recipes.planOutput(photo.path, recipe(settings)),
+                                       ownName(photo.path, settings.output.fileType));
+}
+
 export function run(photo, settings, services) {
-    return makeBy(photo, settings, recipe(settings), plan(photo, settings), services);
+    return makeBy(photo, settings, recipe(settings), plan(photo, settings, services), services);
 }
 
 export function preview(photo, settings, planned) {
