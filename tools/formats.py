@@ -134,8 +134,8 @@ def recipe_tables():
             lines.append(row([names[source]] + [given_up(source, target) for target in HELD]))
     lines += ["", "HEIC, AVIF and PSD files of others, and raw files by their previews, have what a JPEG has but for comments. Orientation, size in",
               "pixels and thumbnail are made true, or go. A GIF has the resolution of pictures with EXIF alone. What lies beside the picture",
-              "goes with the tags that announce it, and the plan says so: further pictures (MPF), gain maps, motion, signed credentials, data",
-              "of makers in segments of their own, bytes behind the end.", ""]
+              "goes with the tags that announce it, and the plan says so: further pictures (MPF), gain maps, motion, signed credentials,",
+              "camera makers’ segments, and bytes after the end of the picture.", ""]
     return lines
 
 

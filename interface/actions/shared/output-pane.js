@@ -115,7 +115,7 @@ export class OutputPane {
         this.changed();
     }
 
-    // A type that is chosen has a usual quality, since pictures of other types have none of their own that it could take.
+    // A chosen type starts with its usual quality: pictures of other types have no quality that it could take over.
     showQuality(type) {
         const own = type === null ? qsTr("Picture’s own") : qsTr("Usual");
         this.form.setItems("quality", [own].concat(QUALITIES), [OWN].concat(QUALITIES));
