@@ -1185,6 +1185,11 @@ declare module "quorlin/recipes" {
         takes(): string[];
         /** Those of the paths that a run wrote, but not in the place of their originals, and nobody changed since. */
         resultsAmong(paths: texts): string[];
+        /**
+         * The path of a result that needs not be made again: the same recipe made it of the same picture, and neither was changed since. It
+         * is `wanted` or a numbered form of it; empty where there is none. The index is how many pictures came before this one.
+         */
+        upToDate(path: text, recipe: dictionary, index: whole, wanted: text): string;
         /** The families of fonts that watermarks can be set in. */
         fonts(): string[];
     };
@@ -1240,6 +1245,8 @@ declare module "quorlin/recipes" {
         give(number: whole, task: dictionary): null;
         /** A result that has come; without any keys where there is none. See Result. */
         take(): { [key: string]: any };
+        /** The result that was taken stands at that path now: it can be known to be up to date later. */
+        placed(number: whole, path: text): null;
         /** Takes back what no worker has begun; the numbers of those. */
         takeBack(): any[];
         /** Gives up what is in work, of which nothing is left. */

@@ -4,6 +4,7 @@
 #include "jobs/crew/crew.h"
 #include "jobs/inputs.h"
 #include "jobs/names.h"
+#include "jobs/records/result_records.h"
 #include "jobs/report.h"
 
 #include <functional>
@@ -23,6 +24,7 @@ struct BatchOptions
     QString recipe; ///< its name, see recipeName()
     QString
         settings; ///< what results are known by later, see settingsOf(); the same as the recipe where it names no files
+    QList<MadeWith> made; ///< of each output; empty: nothing is known to be up to date, and nothing is noted
 };
 
 /** Takes a line as soon as it is known; false ends the batch behind the pictures that are in work. */

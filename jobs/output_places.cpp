@@ -70,34 +70,43 @@ QList<OutputPlace> OutputPlaces::of(const Input &input, const text::TokenFacts &
         if (isOthers || !done.value(index).isEmpty())
             places.append(OutputPlace{isOthers ? planned : done[index], false, false, {}});
         else
-            places.append(placeFor(wanted, planned, input, index));
+            places.append(placeFor(wanted, planned, input, {index, facts.index}));
     }
     return places;
 }
 
-OutputPlace OutputPlaces::at(const QString &path, const Input &input, int index)
+OutputPlace OutputPlaces::at(const QString &path, const Input &input, const Which &which)
 {
-    return placeFor(path, m_names.plan(path), input, index);
+    return placeFor(path, m_names.plan(path), input, which);
 }
 
-OutputPlace OutputPlaces::placeFor(const QString &wanted, const QString &planned, const Input &input, int index)
+/** A result of the same, under its name or a numbered form of it, which nothing needs to be done about; empty where there is none. */
+QString OutputPlaces::currentResult(const QString &wanted, const Input &input, const Which &which) const
 {
-    const image::RecipeOutput &output = m_recipe.outputs[index];
+    if (m_recipe.outputs[which.index].ifTaken != image::IfTaken::Current || m_reports.made.size() <= which.index)
+        return {};
+    const QString made = m_reports.made[which.index].of(input.path, int(which.number));
+    return ResultRecords::ofProcess().upToDate(wanted, input.path, made);
+}
+
+OutputPlace OutputPlaces::placeFor(const QString &wanted, const QString &planned, const Input &input,
+                                   const Which &which)
+{
+    const image::RecipeOutput &output = m_recipe.outputs[which.index];
+    if (const QString current = currentResult(wanted, input, which); !current.isEmpty())
+        return {current, false, true, image::sentence(QT_TRANSLATE_NOOP("recipe", "it is up to date"))};
     const Standing standing = m_names.standingAt(planned, input);
     if (standing == Standing::Nothing)
         return {planned, false, false, {}};
-    const bool isCurrent = standing != Standing::OtherResult &&
-                           isCurrentResult(planned, input.path, settingsName(m_reports.settings, index));
     // A killed run may have put a result in its place and not have written its line.
-    if (m_reports.resumed && isCurrent && output.ifTaken == image::IfTaken::Number && !isResumed(planned))
+    if (m_reports.resumed && output.ifTaken == image::IfTaken::Number && standing != Standing::OtherResult &&
+        isCurrentResult(planned, input.path, settingsName(m_reports.settings, which.index)) && !isResumed(planned))
         return {planned, true, false, {}};
     const bool isOnDisk = standing == Standing::OnDisk || standing == Standing::OwnInput;
     if (output.ifTaken == image::IfTaken::Replace && isOnDisk && !isResumed(planned))
         return {planned, true, false, {}};
     if (output.ifTaken == image::IfTaken::Skip && standing != Standing::OtherResult)
         return {planned, false, true, image::sentence(QT_TRANSLATE_NOOP("recipe", "the name is taken"))};
-    if (output.ifTaken == image::IfTaken::Current && isCurrent)
-        return {planned, false, true, image::sentence(QT_TRANSLATE_NOOP("recipe", "it is there already"))};
     return {m_names.giveNumbered(wanted), false, false, {}};
 }
 

@@ -3,6 +3,7 @@
 #include "image/recipe/plan.h"
 #include "image/recipe/recipe.h"
 #include "jobs/names.h"
+#include "jobs/records/result_records.h"
 #include "jobs/report.h"
 
 namespace jobs {
@@ -29,6 +30,7 @@ struct EarlierReports
     QString settings;                       ///< see settingsOf()
     const EarlierReport *plan = nullptr;    ///< paths in it are kept for their outputs
     const EarlierReport *resumed = nullptr; ///< what it has is a result of the same run
+    QList<MadeWith> made = {};              ///< of each output, by which it is known to be up to date
 };
 
 /** Plans where the results of a batch go; to be asked for the inputs in their order, each once. */
@@ -46,13 +48,20 @@ public:
      */
     QList<OutputPlace> of(const Input &input, const text::TokenFacts &facts, const QList<image::OutputPlan> &plans,
                           const QStringList &done, bool isOthers);
+    /** One output of one picture. */
+    struct Which
+    {
+        int index = 0;     ///< of the output
+        qint64 number = 0; ///< how many inputs come before the picture
+    };
     /** What becomes of an output that is to go to @p path. */
-    OutputPlace at(const QString &path, const Input &input, int index);
+    OutputPlace at(const QString &path, const Input &input, const Which &which);
     /** Another name for what could not have the one that it was given. */
     QString numbered(const QString &path) { return m_names.giveNumbered(path); }
 
 private:
-    OutputPlace placeFor(const QString &wanted, const QString &planned, const Input &input, int index);
+    OutputPlace placeFor(const QString &wanted, const QString &planned, const Input &input, const Which &which);
+    QString currentResult(const QString &wanted, const Input &input, const Which &which) const;
     bool isResumed(const QString &path) const;
 
     const image::Recipe &m_recipe;

@@ -117,7 +117,7 @@ Result<void> ResultFiles::keep(int index, qint64 bytes, const OutputPlace &place
         return tl::unexpected<platform::Error>(failureOf(EIO, place));
     if (output.dates == image::FileDates::Keep)
         takeDateOf(m_input.path, file);
-    markResult(file, m_input.path, settingsName(m_settings, index));
+    markResult(file, m_input.path, settingsName(m_settings.name, index));
     m_kept.append({index, file, place, output.ifTaken});
     return {};
 }
@@ -146,9 +146,18 @@ QList<ResultFiles::Placed> ResultFiles::placeAll(OutputPlaces &places)
         m_begun.remove(kept.index);
         if (all.last().isSkipped || !all.last().problem.isEmpty())
             QFile::remove(kept.file);
+        else
+            note(kept.index, all.last().path);
     }
     m_kept.clear();
     return all;
+}
+
+void ResultFiles::note(int index, const QString &path) const
+{
+    const bool isInPlaceOfItsPicture = path == m_input.path;
+    if (index < m_settings.made.size() && !isInPlaceOfItsPicture)
+        ResultRecords::ofProcess().note(path, m_source, m_settings.made[index].of(m_input.path, m_number));
 }
 
 ResultFiles::Placed ResultFiles::placed(const Kept &kept, OutputPlaces &places) const

@@ -45,9 +45,16 @@ void takeDateOf(const QString &source, const QString &path);
 class ResultFiles
 {
 public:
-    /** @param number  tells the picture from all others */
-    ResultFiles(const Input &input, int number, const QString &settings, WaitingRooms &rooms)
-        : m_input(input), m_number(number), m_settings(settings), m_rooms(rooms)
+    /** What results are made with, by which they are known later. */
+    struct Settings
+    {
+        QString name;         ///< see settingsOf()
+        QList<MadeWith> made; ///< of each output; may be empty
+    };
+
+    /** @param number  tells the picture from all others: how many come before it */
+    ResultFiles(const Input &input, int number, const Settings &settings, WaitingRooms &rooms)
+        : m_input(input), m_number(number), m_settings(settings), m_source(sourceState(input.path)), m_rooms(rooms)
     {
     }
     ResultFiles(const ResultFiles &) = delete;
@@ -79,6 +86,8 @@ public:
 
     /** Puts everything in its place, what replaces the picture itself last. A name that was taken meanwhile gets a number. */
     QList<Placed> placeAll(OutputPlaces &places);
+    /** An output has taken its place at @p path: it can be known to be up to date later. placeAll() says it of its own. */
+    void note(int index, const QString &path) const;
 
 private:
     struct Kept
@@ -93,7 +102,8 @@ private:
 
     Input m_input;
     int m_number;
-    QString m_settings;          ///< see settingsOf()
+    Settings m_settings;
+    QString m_source;            ///< what the picture was like before anything was made of it
     QHash<int, QString> m_begun; ///< the files by the indices of their outputs
     QStringList m_folders;       ///< whose rooms they are in
     QList<Kept> m_kept;

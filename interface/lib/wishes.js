@@ -8,7 +8,7 @@ const KEY = "Preferences";
 const STANDARD = { ifTaken: "number", logRows: 100000, processors: 0, memory: 0, destination: "beside" };
 
 /** What an action does at first where a name is taken. */
-export const TAKEN = ["number", "replace", "skip", "ask"];
+export const TAKEN = ["number", "replace", "skip", "current", "ask"];
 /** How many rows of the log may be kept. */
 export const LOG_ROWS = [1000, 10000, 100000];
 /** How much memory runs may take, in MB; 0 is what is free. */

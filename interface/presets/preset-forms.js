@@ -15,7 +15,7 @@ const OUTPUT = {
     StrField4: ["output.fileType", "text"], StrField5: ["output.quality", "text", QUALITIES],
     StrField6: ["output.destination.kind", "text", ["beside", "source", "folder"]],
     StrField7: ["output.destination.name", "text"], StrField8: ["output.destination.path", "text"],
-    StrField9: ["output.ifTaken", "text", ["number", "replace", "skip", "ask"]],
+    StrField9: ["output.ifTaken", "text", ["number", "replace", "skip", "current", "ask"]],
     StrField10: ["output.metadata", "word", METADATA], StrField21: ["output.simulation", "flag"],
     StrField39: ["output.ownQuality", "flag"], StrField40: ["output.keepSubfolders", "flag"],
     StrField41: ["output.removeLocation", "flag"],
@@ -34,12 +34,14 @@ export const PART_COLUMNS = numbers(11, 20).concat(numbers(42, 61)).map((number)
 export const FIRST_SLOT = 3;
 export const SLOTS = 59;
 
-// The columns of the output block in a form whose version brought the later types.
+// The columns of the output block in a form whose version brought the later types; the one after it brought "current".
 function outputColumns(version) {
     const [path, kind] = OUTPUT.StrField4;
+    const [taken, takenKind, words] = OUTPUT.StrField9;
     const brought = {};
     LATER_TYPES.forEach((type) => { brought[type] = version; });
-    return Object.assign({}, OUTPUT, { StrField4: [path, kind, TYPES, brought] });
+    return Object.assign({}, OUTPUT, { StrField4: [path, kind, TYPES, brought],
+                                       StrField9: [taken, takenKind, words, { current: version + 1 }] });
 }
 
 /**

@@ -110,6 +110,16 @@ function replaceOrNumber(item, names, existing, context) {
     item.replacesOriginal = old.isOriginal;
 }
 
+// Where this program made the same of the same picture before, and nobody changed it since, there is nothing to do.
+function isUpToDate(item, step, settings, services) {
+    if (settings.output.ifTaken !== "current") {
+        return false;
+    }
+    const recipe = step.recipeFor(item.photo, settings, services);
+    const wanted = joinPath(item.folder, item.name);
+    return services.recipes.upToDate(item.photo.path, recipe, item.photo.index || 0, wanted) !== "";
+}
+
 function settleName(item, names, rule, context) {
     const wanted = item.name;
     if (names.isFree(wanted)) {
@@ -173,7 +183,9 @@ export function* planRun(photos, step, settings, services, memory) {
     for (let i = 0; i < photos.count && !context.cancelled; i += 1) {
         const photo = photos.at(i);
         const item = itemFor(photo, step.plan(photo, settings, services), settings, services);
-        if (item.status === "ready") {
+        if (item.status === "ready" && isUpToDate(item, step, settings, services)) {
+            skip(item, qsTr("up to date"));
+        } else if (item.status === "ready") {
             settleName(item, namesIn(item.folder), settings.output.ifTaken, context);
             item.path = joinPath(item.folder, item.name);
         }

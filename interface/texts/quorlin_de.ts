@@ -5014,8 +5014,8 @@
         <translation>Überspringen</translation>
     </message>
     <message>
-        <source>Keep it if it is current</source>
-        <translation>Behalten, wenn sie aktuell ist</translation>
+        <source>Skip if up to date</source>
+        <translation>Überspringen, wenn aktuell</translation>
     </message>
     <message>
         <source>Name</source>
@@ -5119,6 +5119,10 @@
         <source>Usual</source>
         <translation>die übliche</translation>
     </message>
+    <message>
+        <source>Skip if up to date</source>
+        <translation>Überspringen, wenn aktuell</translation>
+    </message>
 </context>
 <context>
     <name>own-results</name>
@@ -5158,6 +5162,10 @@
     <message>
         <source>the picture is no longer there</source>
         <translation>das Bild ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>up to date</source>
+        <translation>ist aktuell</translation>
     </message>
 </context>
 <context>
@@ -5379,6 +5387,10 @@
     <message>
         <source>%1 GB at most</source>
         <translation>höchstens %1 GB</translation>
+    </message>
+    <message>
+        <source>Skip if up to date</source>
+        <translation>Überspringen, wenn aktuell</translation>
     </message>
 </context>
 <context>
@@ -7218,8 +7230,8 @@
         <translation>der Name ist vergeben</translation>
     </message>
     <message>
-        <source>it is there already</source>
-        <translation>es ist schon da</translation>
+        <source>it is up to date</source>
+        <translation>sie ist aktuell</translation>
     </message>
     <message>
         <source>it cannot be read</source>

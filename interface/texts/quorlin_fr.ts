@@ -5014,8 +5014,8 @@
         <translation>Passer</translation>
     </message>
     <message>
-        <source>Keep it if it is current</source>
-        <translation>Le garder s’il est à jour</translation>
+        <source>Skip if up to date</source>
+        <translation>Ignorer si à jour</translation>
     </message>
     <message>
         <source>Name</source>
@@ -5119,6 +5119,10 @@
         <source>Usual</source>
         <translation>la qualité habituelle</translation>
     </message>
+    <message>
+        <source>Skip if up to date</source>
+        <translation>Ignorer si à jour</translation>
+    </message>
 </context>
 <context>
     <name>own-results</name>
@@ -5158,6 +5162,10 @@
     <message>
         <source>the picture is no longer there</source>
         <translation>l’image n’est plus là</translation>
+    </message>
+    <message>
+        <source>up to date</source>
+        <translation>à jour</translation>
     </message>
 </context>
 <context>
@@ -5379,6 +5387,10 @@
     <message>
         <source>%1 GB at most</source>
         <translation>%1 Go au plus</translation>
+    </message>
+    <message>
+        <source>Skip if up to date</source>
+        <translation>Ignorer si à jour</translation>
     </message>
 </context>
 <context>
@@ -7218,8 +7230,8 @@
         <translation>le nom est pris</translation>
     </message>
     <message>
-        <source>it is there already</source>
-        <translation>déjà présent</translation>
+        <source>it is up to date</source>
+        <translation>elle est à jour</translation>
     </message>
     <message>
         <source>it cannot be read</source>

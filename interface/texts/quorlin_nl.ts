@@ -5014,8 +5014,8 @@
         <translation>Verder</translation>
     </message>
     <message>
-        <source>Keep it if it is current</source>
-        <translation>Bewaren als het actueel is</translation>
+        <source>Skip if up to date</source>
+        <translation>Overslaan indien actueel</translation>
     </message>
     <message>
         <source>Name</source>
@@ -5119,6 +5119,10 @@
         <source>Usual</source>
         <translation>de gebruikelijke</translation>
     </message>
+    <message>
+        <source>Skip if up to date</source>
+        <translation>Overslaan indien actueel</translation>
+    </message>
 </context>
 <context>
     <name>own-results</name>
@@ -5158,6 +5162,10 @@
     <message>
         <source>the picture is no longer there</source>
         <translation>de foto is er niet meer</translation>
+    </message>
+    <message>
+        <source>up to date</source>
+        <translation>is actueel</translation>
     </message>
 </context>
 <context>
@@ -5379,6 +5387,10 @@
     <message>
         <source>%1 GB at most</source>
         <translation>hoogstens %1 GB</translation>
+    </message>
+    <message>
+        <source>Skip if up to date</source>
+        <translation>Overslaan indien actueel</translation>
     </message>
 </context>
 <context>
@@ -7218,8 +7230,8 @@
         <translation>de naam is bezet</translation>
     </message>
     <message>
-        <source>it is there already</source>
-        <translation>het is er al</translation>
+        <source>it is up to date</source>
+        <translation>het is actueel</translation>
     </message>
     <message>
         <source>it cannot be read</source>

@@ -279,7 +279,8 @@ void BatchRun::goOn(PictureWork &work, Id worker)
 std::vector<std::pair<int, platform::Descriptor>> BatchRun::filesFor(PictureWork &work)
 {
     auto &files = m_files[work.number];
-    files = std::make_unique<ResultFiles>(work.input, work.number, m_options.settings, m_rooms);
+    files = std::make_unique<ResultFiles>(work.input, work.number,
+                                          ResultFiles::Settings{m_options.settings, m_options.made}, m_rooms);
     std::vector<std::pair<int, platform::Descriptor>> open;
     for (ReportLine &line : work.lines) {
         if (line.status != LineStatus::Planned)

@@ -14,7 +14,7 @@ BatchNaming::BatchNaming(const image::Recipe &recipe, const Inputs &inputs, cons
     : m_recipe(recipe), m_options(options),
       m_places(recipe,
                {options.recipe, options.settings, options.plan ? &*options.plan : nullptr,
-                options.resumed ? &*options.resumed : nullptr},
+                options.resumed ? &*options.resumed : nullptr, options.made},
                inputs, options.destination),
       m_namesNeedPictures(namesNeedPictures(recipe))
 {
@@ -74,7 +74,7 @@ QList<OutputPlace> BatchNaming::placesOf(PictureWork &work)
     for (int index = 0; index < m_recipe.outputs.size(); ++index) {
         const auto known = m_options.plan->of(m_options.recipe, input.path, index);
         const QString path = known ? known->output : QString();
-        places.append(path.isEmpty() ? OutputPlace{} : m_places.at(path, input, index));
+        places.append(path.isEmpty() ? OutputPlace{} : m_places.at(path, input, {index, work.number}));
         if (!path.isEmpty())
             continue;
         work.plans[index].isNotSupported = false;

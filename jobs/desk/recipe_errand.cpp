@@ -67,6 +67,13 @@ Result<std::shared_ptr<const SharedRecipe>> SharedRecipe::whole(const QByteArray
     return std::shared_ptr<const SharedRecipe>(shared);
 }
 
+const QList<MadeWith> &SharedRecipe::made() const
+{
+    if (m_made.isEmpty())
+        m_made = madeWith(m_json, m_recipe);
+    return m_made;
+}
+
 std::vector<Message> SharedRecipe::messages() const
 {
     std::vector<Message> messages;

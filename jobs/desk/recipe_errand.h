@@ -2,6 +2,7 @@
 
 #include "image/recipe/recipe.h"
 #include "jobs/desk/errand.h"
+#include "jobs/records/result_records.h"
 #include "platform/descriptors/descriptor.h"
 #include "platform/file/lent_file.h"
 
@@ -27,6 +28,8 @@ public:
     const image::Recipe &recipe() const { return m_recipe; }
     /** What its results are known by later, see settingsOf(). */
     const QString &settings() const { return m_settings; }
+    /** What each output is made with; reads the files that the recipe names when it is asked for first. */
+    const QList<MadeWith> &made() const;
     /** What a worker is told that has another one. */
     std::vector<platform::Message> messages() const;
 
@@ -36,6 +39,7 @@ private:
     QString m_folder;
     image::Recipe m_recipe;
     QString m_settings;
+    mutable QList<MadeWith> m_made;
     std::map<QString, platform::LentFile> m_files;
 };
 

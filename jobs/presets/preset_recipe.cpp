@@ -253,7 +253,7 @@ void addPlace(QJsonObject &output, const QJsonObject &settings)
     else if (kind == text("folder") && !settings.value(text("keepSubfolders")).toBool())
         output.insert(text("folder"), plainPattern(destination.value(text("path")).toString()));
     const QString ifTaken = settings.value(text("ifTaken")).toString();
-    if (ifTaken == text("replace") || ifTaken == text("skip"))
+    if (ifTaken == text("replace") || ifTaken == text("skip") || ifTaken == text("current"))
         output.insert(text("ifTaken"), ifTaken);
 }
 

@@ -25,7 +25,7 @@ struct Form
     const char *mode;     ///< the setting that stands in the third column; empty for none
     std::vector<Column> columns;
     int newest =
-        2; ///< version of the form, of which the second brought types; a preset has the lowest one that can say what it holds
+        3; ///< version of the form, of which the second brought types; a preset has the lowest one that can say what it holds
 };
 
 const std::vector<Column> &outputColumns()
@@ -60,7 +60,7 @@ Form resizeForm()
              {19, "padColor", Kind::Color},
              {20, "dpi", Kind::Number},
              {22, "neverEnlarge", Kind::Flag}},
-            3};
+            4};
 }
 
 Form cropForm()

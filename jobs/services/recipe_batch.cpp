@@ -116,6 +116,7 @@ bool RecipeBatch::begin()
     m_needsFacts = needsFacts(m_recipe);
     m_options.recipe = recipeName(json);
     m_options.settings = settingsOf(m_recipe, m_options.recipe);
+    m_options.made = m_shared->made();
     m_inputs.emplace(m_paths);
     m_rooms = std::make_unique<WaitingRooms>();
     m_naming = std::make_unique<BatchNaming>(m_recipe, *m_inputs, m_options);
@@ -187,7 +188,8 @@ std::vector<std::pair<int, Descriptor>> RecipeBatch::filesFor(int index)
     PictureWork &work = m_works.at(index);
     auto &files = m_files[index];
     files.reset();
-    files = std::make_unique<ResultFiles>(work.input, work.number, m_options.settings, *m_rooms);
+    files = std::make_unique<ResultFiles>(work.input, work.number,
+                                          ResultFiles::Settings{m_options.settings, m_options.made}, *m_rooms);
     m_milliseconds[index] = 0;
     std::vector<std::pair<int, Descriptor>> open;
     for (const int output : std::as_const(work.wanted)) {
@@ -301,7 +303,8 @@ void RecipeBatch::moveTo(int index, const QString &folder)
             continue;
         const QString path = work.places[output].path;
         const QString below = path.startsWith(base) ? path.mid(base.size()) : path.section(u'/', -1);
-        OutputPlace place = m_naming->places().at(platform::joinedPath(folder, below), work.input, output);
+        OutputPlace place =
+            m_naming->places().at(platform::joinedPath(folder, below), work.input, {output, work.number});
         if (place.replaces)
             place = {m_naming->places().numbered(place.path), false, false, {}};
         line.output = place.path;

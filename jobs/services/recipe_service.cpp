@@ -286,6 +286,33 @@ QStringList RecipeService::resultsAmong(const QStringList &paths) const
     return results;
 }
 
+const QList<MadeWith> &RecipeService::madeWithFor(const QVariantMap &recipe)
+{
+    const auto states = [](const QStringList &files) {
+        QStringList all;
+        std::transform(files.begin(), files.end(), std::back_inserter(all), sourceState);
+        return all;
+    };
+    if (m_asked.recipe == recipe && states(m_asked.files) == m_asked.states)
+        return m_asked.made;
+    m_asked = {recipe, {}, {}, {}};
+    const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(recipe)).toJson();
+    image::RecipeFiles named{QStringLiteral("/")};
+    named.areOpened = false;
+    if (const Result<Recipe> read = image::readRecipe(json, named)) {
+        m_asked.files = image::filesOf(*read);
+        m_asked.states = states(m_asked.files);
+        m_asked.made = madeWith(json, *read);
+    }
+    return m_asked.made;
+}
+
+QString RecipeService::upToDate(const QString &path, const QVariantMap &recipe, int index, const QString &wanted)
+{
+    const QList<MadeWith> &made = madeWithFor(recipe);
+    return made.isEmpty() ? QString() : ResultRecords::ofProcess().upToDate(wanted, path, made.first().of(path, index));
+}
+
 QStringList RecipeService::fonts() const
 {
     return platform::fontFamilies();

@@ -115,12 +115,34 @@ public:
      */
     Q_INVOKABLE QStringList resultsAmong(const QStringList &paths) const;
 
+    /**
+     * The path of a result that needs not be made again: that this user's data folder knows to be made by the same recipe of the picture at
+     * @p path, both being as they were then. It is @p wanted or a numbered form of it; empty where there is none.
+     *
+     * @param index  how many pictures come before this one, for {counter} in a watermark
+     */
+    Q_INVOKABLE QString upToDate(const QString &path, const QVariantMap &recipe, int index, const QString &wanted);
+
     /** The families of fonts that watermarks can be set in, by the alphabet. */
     Q_INVOKABLE QStringList fonts() const;
 
 protected:
     /** All that is known of a picture, for tokens. */
     virtual text::TokenFacts tokenFacts(const QString &path, int index) const;
+
+private:
+    /** A recipe that was asked about last, as most pictures of a list have the same. */
+    struct Asked
+    {
+        QVariantMap recipe;
+        QStringList files;  ///< that it names
+        QStringList states; ///< what they were like
+        QList<MadeWith> made;
+    };
+
+    const QList<MadeWith> &madeWithFor(const QVariantMap &recipe);
+
+    Asked m_asked;
 };
 
 } // namespace jobs

@@ -79,6 +79,7 @@ void RecipeWork::give(int number, const QVariantMap &task)
     }
     const RecipeErrand::Task own = {text("path"), text("target"), number, task.value(key("noted"), true).toBool(),
                                     pixels};
+    m_origins[number] = {sourceState(own.path), recipe->made().first().of(own.path, number)};
     m_given[number] = m_desk.add(std::make_shared<RecipeErrand>(
                                      recipe, own, [this, number](const RecipeResult &result) { keep(number, result); }),
                                  Urgency::Soon);
@@ -110,6 +111,12 @@ QVariantMap RecipeWork::take()
     return result;
 }
 
+void RecipeWork::placed(int number, const QString &path)
+{
+    if (const auto origin = m_origins.extract(number))
+        ResultRecords::ofProcess().note(path, origin.mapped().state, origin.mapped().made);
+}
+
 QVariantList RecipeWork::takeBack()
 {
     QVariantList numbers;
@@ -129,6 +136,7 @@ void RecipeWork::close()
     for (const auto &[number, errand] : std::exchange(m_given, {}))
         m_desk.drop(errand);
     m_results.clear();
+    m_origins.clear();
     deleteLater();
 }
 

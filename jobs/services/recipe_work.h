@@ -44,6 +44,8 @@ public:
      * the picture is no longer there, "full" where the disk of the target is, else "".
      */
     Q_INVOKABLE QVariantMap take();
+    /** The result of @p number, which was taken, stands at @p path now: it can be known to be up to date later. Said at most once. */
+    Q_INVOKABLE void placed(int number, const QString &path);
     /** Takes back what no worker has begun; the numbers of those pictures, in order. They may be handed over again. */
     Q_INVOKABLE QVariantList takeBack();
     /** Gives up what is in work, of which nothing is left then; the object is of no use any more. */
@@ -54,11 +56,19 @@ Q_SIGNALS:
     void arrived();
 
 private:
+    /** What is noted of a result when it has its place. */
+    struct Origin
+    {
+        QString state; ///< of its picture before it was made
+        QString made;
+    };
+
     void keep(int number, const RecipeResult &result);
     std::shared_ptr<const SharedRecipe> shared(const QVariantMap &recipe, QString *problem);
 
     WorkerDesk &m_desk;
     std::map<int, WorkerDesk::Number> m_given;
+    std::map<int, Origin> m_origins;
     std::deque<QVariantMap> m_results;
     QVariantMap m_told; ///< the recipe of the last picture
     std::shared_ptr<const SharedRecipe> m_shared;

@@ -3,6 +3,7 @@
 #include "platform/graphics/pixels.h"
 #include "platform/graphics/resample.h"
 
+#include <fontconfig/fontconfig.h>
 #include <pango/pangocairo.h>
 
 #include <memory>
@@ -84,6 +85,31 @@ QStringList fontFamilies()
     names.removeDuplicates();
     names.sort(Qt::CaseInsensitive);
     return names;
+}
+
+QString fontFile(const QString &font)
+{
+    struct FreePattern
+    {
+        void operator()(FcPattern *pattern) const { FcPatternDestroy(pattern); }
+    };
+    using Pattern = std::unique_ptr<FcPattern, FreePattern>;
+    const Description description = descriptionOf(font.isEmpty() ? QString::fromLatin1(usualFont) : font);
+    const char *family = pango_font_description_get_family(description.get());
+    const Pattern wanted(FcPatternCreate());
+    FcPatternAddString(wanted.get(), FC_FAMILY, reinterpret_cast<const FcChar8 *>(family ? family : usualFont));
+    FcPatternAddInteger(wanted.get(), FC_WEIGHT,
+                        FcWeightFromOpenType(pango_font_description_get_weight(description.get())));
+    if (pango_font_description_get_style(description.get()) != PANGO_STYLE_NORMAL)
+        FcPatternAddInteger(wanted.get(), FC_SLANT, FC_SLANT_ITALIC);
+    FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern);
+    FcDefaultSubstitute(wanted.get());
+    FcResult result = FcResultNoMatch;
+    const Pattern found(FcFontMatch(nullptr, wanted.get(), &result));
+    FcChar8 *file = nullptr;
+    if (!found || FcPatternGetString(found.get(), FC_FILE, 0, &file) != FcResultMatch)
+        return {};
+    return QString::fromUtf8(reinterpret_cast<const char *>(file));
 }
 
 Result<Bitmap> drawn(const Lettering &lettering)

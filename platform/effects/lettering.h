@@ -14,6 +14,9 @@ bool hasFont(const QString &font);
 /** The names of the families of fonts that are installed, by the alphabet; none is empty. */
 QStringList fontFamilies();
 
+/** The path of the file that letters of that font come from; empty where there is none. Empty for @p font is the usual one. */
+QString fontFile(const QString &font);
+
 struct Lettering
 {
     QString text;                        ///< several lines are parted by line feeds

@@ -156,6 +156,7 @@ Request requestFrom(const CommandLine &line)
     }
     request.options.recipe = jobs::recipeName(*file);
     request.options.settings = jobs::settingsOf(request.recipe, request.options.recipe);
+    request.options.made = jobs::madeWith(*file, request.recipe);
     if (wouldLoseAFile(line)) {
         request.problem = QStringLiteral("%1 is read, so it cannot be the report").arg(line.report);
         return request;

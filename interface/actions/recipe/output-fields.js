@@ -80,7 +80,7 @@ function metadataFields(output) {
 function takenField(output) {
     return choice(qsTr("If it exists"), keyed(output, "ifTaken", "number"),
                   [["number", qsTr("Number the new file")], ["replace", qsTr("Replace")], ["skip", qsTr("Skip")],
-                   ["current", qsTr("Keep it if it is current")]]);
+                   ["current", qsTr("Skip if up to date")]]);
 }
 
 /** The fields of an output, as it is now; it is changed in place. Its operations have cards of their own. */

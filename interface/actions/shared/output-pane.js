@@ -5,6 +5,7 @@ import { shell } from "quorlin/shell";
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { withNewest } from "../../lib/store.js";
+import { TAKEN } from "../../lib/wishes.js";
 import { METADATA, ORIGINAL, QUALITIES, writtenType } from "../../lib/types.js";
 import { fill, shortPath } from "../../lib/wording.js";
 import { insertAtCursor, joinTokens } from "./token-menu.js";
@@ -35,8 +36,9 @@ export class OutputPane {
         this.unwritable = 0;
         this.form = shell.loadForm("actions/shared/output-pane.ui");
         this.form.setItems("metadata", [qsTr("Keep all"), qsTr("Keep copyright only"), qsTr("Remove all")], METADATA);
-        this.form.setItems("ifTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")],
-                           ["number", "replace", "skip", "ask"]);
+        this.form.setItems("ifTaken",
+                           [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Skip if up to date"),
+                            qsTr("Ask")], TAKEN);
         this.connect();
     }
 

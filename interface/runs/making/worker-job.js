@@ -148,6 +148,7 @@ class WorkerJob {
         if (record !== undefined) {
             record.placed(made.number, joinPath(item.folder, placed.name), made.bytes);
         }
+        this.work.placed(made.number, joinPath(item.folder, placed.name));
         return { status: "OK", reason: "", name: placed.name, path: joinPath(item.folder, placed.name),
                  folder: item.folder, bytes: made.bytes, width: made.width, height: made.height };
     }

@@ -55,8 +55,9 @@ export class Preferences {
                            ["system"].concat(LANGUAGES.map((each) => each[0])));
         this.form.setItems("wishAppearance", [qsTr("As the system"), qsTr("Light"), qsTr("Dark")],
                            ["system", "light", "dark"]);
-        this.form.setItems("wishTaken", [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Ask")],
-                           TAKEN);
+        this.form.setItems("wishTaken",
+                           [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Skip if up to date"),
+                            qsTr("Ask")], TAKEN);
         this.form.setItems("wishLogRows",
                            [qsTr("the newest 1,000 entries"), qsTr("the newest 10,000 entries"),
                             qsTr("the newest 100,000 entries")], LOG_ROWS);

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void bringsBackWhatItReplaced();
     void saysWhatConfinesWorkers();
     void leavesItsOwnResultsOut();
+    void leavesOutWhatIsUpToDate();
     void goesOnWhereItWasInterrupted_data();
     void goesOnWhereItWasInterrupted();
 
@@ -280,6 +281,47 @@ void WorkerRuns::leavesItsOwnResultsOut()
     QVERIFY(m_driver->control<QWidget>("emptyOwnBar")->isVisible());
     m_driver->click("emptyOwnAdd");
     QCOMPARE(rows(), 3);
+}
+
+/** Nothing is done twice, also after the program was started again. */
+void WorkerRuns::leavesOutWhatIsUpToDate()
+{
+    addMany(3);
+    m_driver->drop({m_pictures});
+    QVERIFY(runToTheEnd().startsWith(QStringLiteral("3 pictures done")));
+    m_driver->startAgain();
+    m_driver->drop({m_pictures});
+    m_driver->choose("ifTaken", QStringLiteral("current"));
+    const auto shows = [this](int row, const char *text) {
+        return m_driver->waitFor([&] { return m_driver->cell(row, PictureModel::Status) == QLatin1String(text); });
+    };
+    for (int row = 0; row < 3; ++row)
+        QVERIFY2(shows(row, "Skipped: up to date"), qPrintable(m_driver->cell(row, PictureModel::Status)));
+    QCOMPARE(m_driver->control<QAbstractButton>("startButton")->text(), QStringLiteral("Resize"));
+    const auto before = results();
+    // One picture is another one now, and one result is.
+    add(QStringLiteral("p01.jpg"), {500, 400});
+    QFile changed(resultFolder() + QStringLiteral("/p02.jpg"));
+    QVERIFY(changed.open(QIODevice::Append) && changed.write("x") == 1);
+    changed.close();
+    m_driver->choose("fileType", QStringLiteral("public.jpeg"));
+    m_driver->choose("fileType", QStringLiteral("original file type"));
+    QVERIFY(shows(1, "ready") && shows(0, "Skipped: up to date") && shows(2, "ready"));
+    const QString summary = runToTheEnd();
+    QVERIFY2(summary.startsWith(QStringLiteral("2 pictures done · 1 skipped")), qPrintable(summary));
+    const auto after = results();
+    QCOMPARE(after[QStringLiteral("p00.jpg")], before[QStringLiteral("p00.jpg")]);
+    QCOMPARE(QStringList(after.keys()), QStringLiteral("p00.jpg|p01 (2).jpg|p01.jpg|p02 (2).jpg|p02.jpg").split(u'|'));
+    // Their numbered forms are what is up to date now.
+    m_driver->click("dismissButton");
+    m_driver->choose("fileType", QStringLiteral("public.jpeg"));
+    m_driver->choose("fileType", QStringLiteral("original file type"));
+    for (int row = 0; row < 3; ++row)
+        QVERIFY2(shows(row, "Skipped: up to date"), qPrintable(m_driver->cell(row, PictureModel::Status)));
+    // Other settings make other results.
+    m_driver->choose("quality", QStringLiteral("5"));
+    for (int row = 0; row < 3; ++row)
+        QVERIFY2(shows(row, "ready"), qPrintable(m_driver->cell(row, PictureModel::Status)));
 }
 
 void WorkerRuns::goesOnWhereItWasInterrupted_data()

@@ -178,6 +178,15 @@ test("needsALaterVersionForLaterTypes", () => {
         equal(["public.jp2", "org.webmproject.webp", "public.avif", "public.jpeg-xl"].map((type) => mark(action, type)),
               ["Quorlin 1", "Quorlin 2", "Quorlin 2", "Quorlin 2"]);
     }
+    // Each has a version of its own for what is left as it is where nothing changed.
+    const current = (action) => {
+        const settings = copyOf(STANDARD[action]);
+        settings.output.ifTaken = "current";
+        const row = rowOf(FORMS[action], "n", settings);
+        equal(presetOf(row, KINDS).settings, settings);
+        return row[3];
+    };
+    equal(["resize", "crop", "convert"].map(current), ["Quorlin 4", "Quorlin 3", "Quorlin 3"]);
     // Its second version knows other fits, but none of these.
     equal([mark("resize", "public.jp2"), mark("resize", "public.avif")], ["Quorlin 1", "Quorlin 3"]);
 });

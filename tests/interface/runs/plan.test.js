@@ -36,6 +36,9 @@ function names(planned) {
     return planned.items.map((item) => item.status === "ready" ? item.name : item.status);
 }
 
+// As the service makes recipes, which is not here.
+const CURRENT_STEP = Object.assign({}, resize,
+                                   { recipeFor: () => ({ operations: [{ do: "resize" }], outputs: [{}] }) });
 const big = (path) => photo(path, 4000, 3000);
 const messagesOn = (changes) => outputMessages(Object.assign(copyOf(resize.defaults.output), changes));
 const SOURCE = { kind: "source", name: "", path: "" };
@@ -192,6 +195,35 @@ for (const row of REFUSED) {
 
 test("givesAnUnwritableTypeAnotherOne", () => {
     equal(names(plan([big("/p/a.psd")], settings("number", undefined, "public.png"), new FakeFiles({}))), ["a.png"]);
+});
+
+// {path of the picture: path of the result that is up to date}
+function planCurrent(photos, results, files, ifTaken) {
+    const asked = [];
+    const upToDate = (path, recipe, index, wanted) => {
+        asked.push([path, recipe.operations.length > 0, index, wanted]);
+        return results[path] || "";
+    };
+    const services = { files: files, ask: null, recipes: { planOutput: answerFor, upToDate: upToDate } };
+    const work = planRun({ count: photos.length, at: (i) => photos[i], paths: photos.map((each) => each.path) },
+                         CURRENT_STEP, settings(ifTaken || "current"), services);
+    return { items: drain(work).result.items, asked: asked };
+}
+
+test("leavesOutWhatIsUpToDate", () => {
+    const photos = [big("/p/a.jpg"), Object.assign(big("/p/b.jpg"), { index: 7 }), big("/p/c.jpg")];
+    const made = planCurrent(photos, { "/p/a.jpg": "/out/a.jpg", "/p/b.jpg": "/out/b (2).jpg" },
+                             new FakeFiles({ "/out/a.jpg": 1, "/out/b.jpg": 1, "/out/c.jpg": 1 }));
+    equal(made.items.map((item) => [item.status, item.reason]),
+          [["Skipped", "up to date"], ["Skipped", "up to date"], ["ready", ""]]);
+    equal(made.items[2].name, "c (2).jpg"); // as where both are kept
+    equal(made.asked[1], ["/p/b.jpg", true, 7, "/out/b.jpg"]);
+});
+
+test("asksForNoResultsUnderOtherRules", () => {
+    for (const rule of ["number", "skip", "replace"]) {
+        equal(planCurrent([big("/p/a.jpg")], { "/p/a.jpg": "/out/a.jpg" }, new FakeFiles({}), rule).asked, []);
+    }
 });
 
 finish();

@@ -28,6 +28,7 @@ class FakeWork {
         this.begun = [];
         this.results = [];
         this.tasks = {};
+        this.places = {};
         this.isClosed = false;
         this.arrived = { connect: (handler) => { this.tell = handler; } };
     }
@@ -63,6 +64,10 @@ class FakeWork {
 
     take() {
         return this.results.length > 0 ? this.results.shift() : {};
+    }
+
+    placed(number, path) {
+        this.places[number] = path;
     }
 
     takeBack() {

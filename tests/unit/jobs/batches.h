@@ -29,6 +29,7 @@ inline QList<jobs::ReportLine> linesOf(const QByteArray &json, jobs::Inputs &inp
         qFatal("%s", qPrintable(recipe.error().message));
     run.options.recipe = jobs::recipeName(json);
     run.options.settings = run.options.recipe;
+    run.options.made = jobs::madeWith(json, *recipe);
     jobs::Crew crew(run.crew, json, run.folder);
     if (const QString problem = crew.begin(); !problem.isEmpty())
         qFatal("%s", qPrintable(problem));

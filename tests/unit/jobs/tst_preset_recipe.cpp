@@ -214,7 +214,7 @@ void TestPresetRecipe::readsTheQualityOfARow()
     QCOMPARE(quality(), 100);
     row.replace(column, QStringLiteral("1"));
     QCOMPARE(quality(), 0);
-    for (const auto &[version, isRead] : {std::pair("Quorlin 2", true), std::pair("Quorlin 3", false)}) {
+    for (const auto &[version, isRead] : {std::pair("Quorlin 3", true), std::pair("Quorlin 4", false)}) {
         row.replace(3, QString::fromLatin1(version));
         QCOMPARE(jobs::presetOfRow(row).has_value(), isRead);
     }
