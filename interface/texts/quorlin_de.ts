@@ -5135,6 +5135,57 @@
     </message>
 </context>
 <context>
+    <name>pages</name>
+    <message>
+        <source>“%1” is nothing that pages know.</source>
+        <translation>„%1“ kennen die Seiten nicht.</translation>
+    </message>
+    <message>
+        <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
+        <translation>Geben Sie Breite und Höhe des Papiers von 20 bis 2000 mm ein.</translation>
+    </message>
+    <message>
+        <source>Enter margins from 0 mm.</source>
+        <translation>Geben Sie Ränder ab 0 mm ein.</translation>
+    </message>
+    <message>
+        <source>Enter a gap from 0 mm.</source>
+        <translation>Geben Sie einen Abstand ab 0 mm ein.</translation>
+    </message>
+    <message>
+        <source>Enter from 1 to 20 rows and columns.</source>
+        <translation>Geben Sie 1 bis 20 Zeilen und Spalten ein.</translation>
+    </message>
+    <message>
+        <source>Enter sizes of texts from 3 to 72 points.</source>
+        <translation>Geben Sie Textgrößen von 3 bis 72 Punkt ein.</translation>
+    </message>
+    <message>
+        <source>Enter from 36 to 1200 pixels for an inch.</source>
+        <translation>Geben Sie 36 bis 1200 Pixel je Zoll ein.</translation>
+    </message>
+    <message>
+        <source>Enter a quality from 1 to 100.</source>
+        <translation>Geben Sie eine Qualität von 1 bis 100 ein.</translation>
+    </message>
+    <message>
+        <source>No room is left for pictures: take fewer rows or columns, smaller margins or gaps.</source>
+        <translation>Für Bilder bleibt kein Platz: Nehmen Sie weniger Zeilen oder Spalten, kleinere Ränder oder Abstände.</translation>
+    </message>
+    <message>
+        <source>The pages could not be put together.</source>
+        <translation>Die Seiten konnten nicht zusammengestellt werden.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be written: %1</source>
+        <translation>Das PDF kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>It could not be made ready for the page.</source>
+        <translation>Es konnte nicht für die Seite vorbereitet werden.</translation>
+    </message>
+</context>
+<context>
     <name>pane</name>
     <message>
         <source> at %1 dpi</source>

@@ -5135,6 +5135,57 @@
     </message>
 </context>
 <context>
+    <name>pages</name>
+    <message>
+        <source>“%1” is nothing that pages know.</source>
+        <translation>« %1 » est inconnu pour les pages.</translation>
+    </message>
+    <message>
+        <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
+        <translation>Saisissez une largeur et une hauteur de papier de 20 à 2000 mm.</translation>
+    </message>
+    <message>
+        <source>Enter margins from 0 mm.</source>
+        <translation>Saisissez des marges à partir de 0 mm.</translation>
+    </message>
+    <message>
+        <source>Enter a gap from 0 mm.</source>
+        <translation>Saisissez un espace à partir de 0 mm.</translation>
+    </message>
+    <message>
+        <source>Enter from 1 to 20 rows and columns.</source>
+        <translation>Saisissez de 1 à 20 lignes et colonnes.</translation>
+    </message>
+    <message>
+        <source>Enter sizes of texts from 3 to 72 points.</source>
+        <translation>Saisissez des tailles de texte de 3 à 72 points.</translation>
+    </message>
+    <message>
+        <source>Enter from 36 to 1200 pixels for an inch.</source>
+        <translation>Saisissez de 36 à 1200 pixels par pouce.</translation>
+    </message>
+    <message>
+        <source>Enter a quality from 1 to 100.</source>
+        <translation>Saisissez une qualité de 1 à 100.</translation>
+    </message>
+    <message>
+        <source>No room is left for pictures: take fewer rows or columns, smaller margins or gaps.</source>
+        <translation>Il ne reste pas de place pour les images : prenez moins de lignes ou de colonnes, des marges ou des espaces plus petits.</translation>
+    </message>
+    <message>
+        <source>The pages could not be put together.</source>
+        <translation>Les pages n’ont pas pu être assemblées.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be written: %1</source>
+        <translation>Le PDF ne peut pas être écrit : %1</translation>
+    </message>
+    <message>
+        <source>It could not be made ready for the page.</source>
+        <translation>Elle n’a pas pu être préparée pour la page.</translation>
+    </message>
+</context>
+<context>
     <name>pane</name>
     <message>
         <source> at %1 dpi</source>

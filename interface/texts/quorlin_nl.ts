@@ -5135,6 +5135,57 @@
     </message>
 </context>
 <context>
+    <name>pages</name>
+    <message>
+        <source>“%1” is nothing that pages know.</source>
+        <translation>“%1” is onbekend voor pagina’s.</translation>
+    </message>
+    <message>
+        <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
+        <translation>Voer een breedte en hoogte van het papier in van 20 tot 2000 mm.</translation>
+    </message>
+    <message>
+        <source>Enter margins from 0 mm.</source>
+        <translation>Voer marges vanaf 0 mm in.</translation>
+    </message>
+    <message>
+        <source>Enter a gap from 0 mm.</source>
+        <translation>Voer een tussenruimte vanaf 0 mm in.</translation>
+    </message>
+    <message>
+        <source>Enter from 1 to 20 rows and columns.</source>
+        <translation>Voer 1 tot 20 rijen en kolommen in.</translation>
+    </message>
+    <message>
+        <source>Enter sizes of texts from 3 to 72 points.</source>
+        <translation>Voer tekstgroottes van 3 tot 72 punten in.</translation>
+    </message>
+    <message>
+        <source>Enter from 36 to 1200 pixels for an inch.</source>
+        <translation>Voer 36 tot 1200 pixels per inch in.</translation>
+    </message>
+    <message>
+        <source>Enter a quality from 1 to 100.</source>
+        <translation>Voer een kwaliteit van 1 tot 100 in.</translation>
+    </message>
+    <message>
+        <source>No room is left for pictures: take fewer rows or columns, smaller margins or gaps.</source>
+        <translation>Er blijft geen ruimte over voor foto’s: neem minder rijen of kolommen, of kleinere marges of tussenruimten.</translation>
+    </message>
+    <message>
+        <source>The pages could not be put together.</source>
+        <translation>De pagina’s konden niet worden samengesteld.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be written: %1</source>
+        <translation>De pdf kan niet worden geschreven: %1</translation>
+    </message>
+    <message>
+        <source>It could not be made ready for the page.</source>
+        <translation>Deze kon niet voor de pagina worden gereedgemaakt.</translation>
+    </message>
+</context>
+<context>
     <name>pane</name>
     <message>
         <source> at %1 dpi</source>
