@@ -1107,6 +1107,83 @@ declare module "quorlin/watch" {
     };
 }
 
+/** Pictures on pages of paper. */
+declare module "quorlin/pages" {
+    /**
+     * How pictures are laid on pages. Lengths of the page are millimetres, sizes of texts points; what is missing is as usual. A text may
+     * have tokens; header and footer also {page}, {pages} and {pictures}.
+     */
+    export interface PageSettings {
+        /** A word of PageWork.papers, or "custom" with paperWidth and paperHeight; A4 where it is missing. */
+        paper?: string;
+        paperWidth?: number;
+        paperHeight?: number;
+        landscape?: boolean;
+        marginTop?: number;
+        marginRight?: number;
+        marginBottom?: number;
+        marginLeft?: number;
+        /** Between two places, across and down. */
+        gap?: number;
+        rows?: whole;
+        columns?: whole;
+        /** "size": as large as its resolution says, smaller where its place is. */
+        fit?: "fit" | "fill" | "size";
+        /** A picture is turned to the left where it becomes larger by that. */
+        turn?: boolean;
+        /** Each picture has a page of its own and stands in all its places. */
+        repeat?: boolean;
+        cropMarks?: boolean;
+        /** A thin line around each picture. */
+        frames?: boolean;
+        caption?: string;
+        captionSize?: number;
+        header?: string;
+        headerSide?: "left" | "center" | "right";
+        footer?: string;
+        footerSide?: "left" | "center" | "right";
+        /** Of the texts of header and footer. */
+        lineSize?: number;
+        /** A family; the usual one where it is empty. */
+        font?: string;
+        paperColor?: string;
+        /** No picture has more pixels for an inch of paper. */
+        dpi?: whole;
+        /** Of pictures, 1 to 100. */
+        quality?: whole;
+        /** As in recipes; sRGB where it is empty. */
+        profile?: string;
+    }
+
+    /** Makes a PDF of pictures on pages, by workers; what came of it is taken as it comes. */
+    export class PageWork {
+        constructor(fields?: fieldsOf<PageWork>);
+        /** There is something to take. */
+        readonly arrived: Signal<() => any>;
+        settings: dictionary;
+        /** Of the pictures, absolute, in their order. */
+        paths: texts;
+        /** What is wrong with the settings; empty where nothing is. */
+        readonly problem: string;
+        /** Of all pictures; 0 where the settings are wrong. */
+        readonly pages: whole;
+        /** What paper can be called: upright, in millimetres. */
+        readonly papers: { word: string; width: number; height: number }[];
+        /**
+         * Begins to make the new file at target; once. order: {from, to, copies, collated, backwards}; pages count from 1, all of them
+         * are made where from is missing.
+         */
+        begin(target: text, order: dictionary): null;
+        /**
+         * {picture, status, reason} for each picture, from 0, with status "OK" or "Failed"; last {problem, pages, bytes}, with a sentence
+         * where there is no file; without any keys where nothing has come.
+         */
+        take(): { picture?: whole; status?: string; reason?: string; problem?: string; pages?: whole; bytes?: number };
+        /** Gives up what is not finished; the object is of no use any more. */
+        close(): null;
+    }
+}
+
 /** Recipes (docs/recipes.md) for one picture. A recipe is the object that its file would hold, with one output; paths are absolute. */
 declare module "quorlin/recipes" {
     interface OutputPlan {
@@ -1980,6 +2057,19 @@ declare module "quorlin/shell" {
         setPages(names: texts, titles: texts): null;
     }
 
+    /** Pages with pictures, as they will be printed: as many side by side as there is room for. */
+    export interface PagesView extends Widget {
+        readonly pages: whole;
+        /** The first that is seen, from 0; one outside of them is the nearest. */
+        first: whole;
+        /** How many are seen side by side. */
+        readonly side: whole;
+        /** Other pages are seen, or there are more or fewer of them. */
+        readonly turned: Signal<() => any>;
+        /** Settings as PageWork has them; those that make no sense leave what is shown as it is. */
+        showPages(settings: dictionary, paths: texts): null;
+    }
+
     /** The list of input pictures. A picture is named by its id; rows that the action does not take are in none of the counts and lists. */
     export interface PictureTable extends Widget {
         readonly count: whole;
@@ -2179,7 +2269,7 @@ declare module "quorlin/shell" {
     /** A control by its name: which members it has says its kind. */
     type AnyControl = Widget & Action & Button & Label & LineEdit & TextEdit & ComboBox & SpinBox & NumberBox & DateBox &
         ProgressBar & Stack & AngleDial & CardHandle & ChipLabel & ColorWell & ComparePreview & DropTarget &
-        FolderTree & LogTable & ManualView & PageList & PictureTable & PositionPad & PropertyTree & RunList &
+        FolderTree & LogTable & ManualView & PageList & PagesView & PictureTable & PositionPad & PropertyTree & RunList &
         SearchMenu & SegmentedControl & SideBar & SlotList & StepPicture;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/modules/offered_services.h"
 #include "app/modules/program_files.h"
+#include "app/printing/page_work.h"
 
 #include "files/services/folder_names.h"
 #include "files/services/move_service.h"
@@ -50,7 +51,8 @@ std::vector<ServiceEntry> fileServices()
             oneObject<jobs::RunRecords>("quorlin/records", "runRecords"),
             givenEntry<jobs::RecipeWork>("quorlin/recipes"),
             madeWithSignals<jobs::RecipeBatch>("quorlin/recipes"),
-            oneObject<jobs::WatchService>("quorlin/watch", "watch")};
+            oneObject<jobs::WatchService>("quorlin/watch", "watch"),
+            madeWithSignals<app::PageWork>("quorlin/pages")};
 }
 
 void addFileModules(ScriptEngine &scripts)
@@ -68,6 +70,7 @@ void addFileModules(ScriptEngine &scripts, const FileObjects &objects)
     offerServices(scripts, fileServices(), "quorlin/recipes", objects.recipes);
     offerServices(scripts, fileServices(), "quorlin/records", new jobs::RunRecords(&scripts));
     offerServices(scripts, fileServices(), "quorlin/watch", new jobs::WatchService(&scripts));
+    offerServices(scripts, fileServices(), "quorlin/pages", nullptr);
 }
 
 } // namespace script

@@ -17,7 +17,7 @@ class ProgramFiles;
 
 class ScriptEngine;
 
-/** The services of the modules "quorlin/files", "quorlin/moves", "quorlin/pictures", "quorlin/tokens", "quorlin/recipes" and "quorlin/watch". */
+/** The services of the modules "quorlin/files", "quorlin/moves", "quorlin/pictures", "quorlin/tokens", "quorlin/recipes", "quorlin/watch" and "quorlin/pages". */
 std::vector<ServiceEntry> fileServices();
 
 /** Those of them that look into pictures; each belongs to whoever is given it. */

@@ -93,7 +93,7 @@ SUB_ROOMS = {
         "seam": "",
         "jobs": "seam",
         "script": "setup services seam",
-        "modules": "seam script",
+        "modules": "printing seam script",
         "reading": "modules",
         "preview": "reading",
         # Windows.
@@ -105,7 +105,7 @@ SUB_ROOMS = {
         "window/manual": "window/look",
         "window/panels": "",
         "window/pictures": "models window/look reading",
-        "window/preview": "seam reading preview window/look",
+        "window/preview": "printing seam reading preview window/look",
         "window/properties": "models reading",
         "window/slots": "models window/look",
         "window/forms": "seam window/look window/controls window/folders window/log window/manual window/pictures window/preview "

@@ -19,6 +19,7 @@
 #include "app/window/pictures/drop_target.h"
 #include "app/window/pictures/picture_table.h"
 #include "app/window/preview/compare_preview.h"
+#include "app/window/preview/pages_view.h"
 #include "app/window/preview/step_picture.h"
 #include "app/window/properties/property_tree.h"
 #include "app/window/slots/slot_list.h"
@@ -103,6 +104,7 @@ std::vector<ServiceEntry> ownClasses(const ServiceEntry &widget, const ServiceEn
         own<LogTable>(widget),
         own<ManualView>(widget),
         own<PageList>(widget),
+        own<PagesView>(widget),
         own<PictureTable>(widget),
         own<PositionPad>(widget),
         own<PropertyTree>(widget),

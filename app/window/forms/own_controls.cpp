@@ -20,6 +20,7 @@
 #include "app/window/pictures/date_box.h"
 #include "app/window/pictures/picture_table.h"
 #include "app/window/preview/compare_preview.h"
+#include "app/window/preview/pages_view.h"
 #include "app/window/preview/step_picture.h"
 #include "app/window/properties/property_tree.h"
 #include "app/window/slots/slot_list.h"
@@ -52,6 +53,7 @@ const QHash<QString, Maker> &makers()
         {QStringLiteral("LogTable"), made<LogTable>},
         {QStringLiteral("ManualView"), made<ManualView>},
         {QStringLiteral("PageList"), made<PageList>},
+        {QStringLiteral("PagesView"), made<PagesView>},
         {QStringLiteral("PictureTable"), made<PictureTable>},
         {QStringLiteral("PositionPad"), made<PositionPad>},
         {QStringLiteral("PropertyTree"), made<PropertyTree>},
