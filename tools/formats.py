@@ -58,6 +58,8 @@ def promises(target, kept):
 
 _KEPT = kept_by_format()
 PROMISES = {target: promises(target, _KEPT[name]) for target, name in TARGETS.items()}
+# The same of all that the window writes, in the order of its lists.
+IN_WINDOW = {keyword: promises(keyword, _KEPT[name]) for keyword, (name, *_) in _OUTPUTS.items()}
 # How far the pixels of a target may be off on average, of 255. GIF has 256 colours, and mixes others by dots of these, each of
 # which is off though what is seen of them is not: its bound is measured on photographs and only tells a wrong picture.
 BOUNDS = {"png": 0.5, "tiff": 0.5, "bmp": 0.5, "pdf": 0.5, "jpeg": 3, "jp2": 3, "gif": 12}
@@ -96,14 +98,14 @@ def lost(source, target):
 def becomes(kind, source, target):
     """
     What becomes of one kind of metadata in a file of the target's type; source has how a file has each of them. XMP is not read as a
-    resolution, and what is said in XMP of a resolution comes from EXIF.
+    resolution.
     """
     held = HELD[target][kind]
     if held is None or held == KEPT and source[kind] != IN_XMP:
         return held and source[kind]
     if NOT in (held, source[kind]) or source[kind] == IN_XMP and HELD[target]["xmp"] == NOT:
         return NOT
-    return NOT if kind == "resolution" and source["exif"] == NOT and source[kind] == KEPT else IN_XMP
+    return IN_XMP
 
 
 def given_up(source, target):
@@ -133,9 +135,9 @@ def recipe_tables():
         if source != "pdf":  # whose pages are drawn
             lines.append(row([names[source]] + [given_up(source, target) for target in HELD]))
     lines += ["", "HEIC, AVIF and PSD files of others, and raw files by their previews, have what a JPEG has but for comments. Orientation, size in",
-              "pixels and thumbnail are made true, or go. A GIF has the resolution of pictures with EXIF alone. What lies beside the picture",
-              "goes with the tags that announce it, and the plan says so: further pictures (MPF), gain maps, motion, signed credentials,",
-              "camera makers’ segments, and bytes after the end of the picture.", ""]
+              "pixels and thumbnail are made true, or go. What lies beside the picture goes with the tags that announce it, and the plan says",
+              "so: further pictures (MPF), gain maps, motion, signed credentials, camera makers’ segments, and bytes after the end of the picture.",
+              ""]
     return lines
 
 
@@ -180,17 +182,17 @@ OF_THE_WEB = ("webp", "avif", "jxl")
 def in_manual(target, name):
     """What becomes of a property in a recipe, in the few words of the manual."""
     words = {KEPT: "yes", NOT: "no", "matrix": "if it fits", "srgb": "sRGB", "black": "a colour", "page": "page size"}
-    if name in ("exif", "resolution") and PROMISES[target][name] in (KEPT, NOT):
+    if name in ("exif", "resolution") and IN_WINDOW[target][name] in (KEPT, NOT):
         held = HELD[target][name]
         return held if held == IN_XMP else words[held]
-    return words[PROMISES[target][name]]
+    return words[IN_WINDOW[target][name]]
 
 
 def manual_table():
     """What Convert keeps, in the few words of the manual."""
     rows = {"16 bits": "depth", "Profile": "profile", "Transparency": "alpha", "Resolution": "resolution", "Metadata": "exif"}
-    lines = [row([""] + [NAMES[name] for name in PROMISES]).replace("|  |", "| |"), row(["---"] * (len(PROMISES) + 1))]
-    return "\n".join(lines + [row([said] + [in_manual(target, name) for target in PROMISES]) for said, name in rows.items()])
+    lines = [row([""] + [_OUTPUTS[name][1] for name in IN_WINDOW]).replace("|  |", "| |"), row(["---"] * (len(IN_WINDOW) + 1))]
+    return "\n".join(lines + [row([said] + [in_manual(target, name) for target in IN_WINDOW]) for said, name in rows.items()])
 
 
 def kept_in_words(target):

@@ -25,8 +25,8 @@ export const PDF_PAGE = writtenAs(pictures.outputTypes().find((output) => output
 export const QUALITIES = pictures.qualityCodes();
 export const CONVERSION_QUALITIES = QUALITIES.slice(0, -1);
 
-// Whatever a result can be.
-const MADE = pictures.outputTypes().map(writtenAs);
+/** Whatever a result can be, in the order in which file types are offered. */
+export const MADE = pictures.outputTypes().map(writtenAs);
 
 /** What results keep of what a picture says about itself; the words of recipes. */
 export const METADATA = ["keep", "copyright", "none"];

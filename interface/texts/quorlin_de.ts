@@ -1871,6 +1871,14 @@
         <source>Where the folders of the outputs are</source>
         <translation>Wo die Ordner der Ausgaben liegen</translation>
     </message>
+    <message>
+        <source>Keep subfolders</source>
+        <translation>Unterordner beibehalten</translation>
+    </message>
+    <message>
+        <source>Builds the folders again that lie below each added folder</source>
+        <translation>Legt die Ordner, die unter jedem hinzugefügten Ordner liegen, wieder an</translation>
+    </message>
 </context>
 <context>
     <name>RenameCard</name>
@@ -9541,6 +9549,18 @@
     <message>
         <source>9 – best</source>
         <translation>9 – beste Qualität</translation>
+    </message>
+    <message>
+        <source>Small files for web pages. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Kleine Dateien für Webseiten. Feine Details gehen verloren, je niedriger die Qualität, desto mehr, und aus 16 Bit werden 8. Transparenz, Farbprofil und Metadaten bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Very small files for web pages, which take the longest to write. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Sehr kleine Dateien für Webseiten, deren Schreiben am längsten dauert. Feine Details gehen verloren, je niedriger die Qualität, desto mehr, und aus 16 Bit werden 8. Transparenz, Farbprofil und Metadaten bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Small files for archives. Fine detail is lost, the more the lower the quality. Transparency, 16 bits, colour profile and metadata are kept. Few programs show such files.</source>
+        <translation>Kleine Dateien für Archive. Feine Details gehen verloren, je niedriger die Qualität, desto mehr. Transparenz, 16 Bit, Farbprofil und Metadaten bleiben erhalten. Wenige Programme zeigen solche Dateien.</translation>
     </message>
 </context>
 <context>

@@ -1871,6 +1871,14 @@
         <source>Where the folders of the outputs are</source>
         <translation>Où se trouvent les dossiers des sorties</translation>
     </message>
+    <message>
+        <source>Keep subfolders</source>
+        <translation>Conserver les sous-dossiers</translation>
+    </message>
+    <message>
+        <source>Builds the folders again that lie below each added folder</source>
+        <translation>Recrée les dossiers qui se trouvent sous chaque dossier ajouté</translation>
+    </message>
 </context>
 <context>
     <name>RenameCard</name>
@@ -9541,6 +9549,18 @@
     <message>
         <source>9 – best</source>
         <translation>9 – la meilleure</translation>
+    </message>
+    <message>
+        <source>Small files for web pages. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Petits fichiers pour les pages web. De fins détails se perdent, d’autant plus que la qualité est basse, et 16 bits deviennent 8. Transparence, profil de couleurs et métadonnées sont conservés.</translation>
+    </message>
+    <message>
+        <source>Very small files for web pages, which take the longest to write. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Très petits fichiers pour les pages web, les plus longs à écrire. De fins détails se perdent, d’autant plus que la qualité est basse, et 16 bits deviennent 8. Transparence, profil de couleurs et métadonnées sont conservés.</translation>
+    </message>
+    <message>
+        <source>Small files for archives. Fine detail is lost, the more the lower the quality. Transparency, 16 bits, colour profile and metadata are kept. Few programs show such files.</source>
+        <translation>Petits fichiers pour les archives. De fins détails se perdent, d’autant plus que la qualité est basse. Transparence, 16 bits, profil de couleurs et métadonnées sont conservés. Peu de programmes montrent ces fichiers.</translation>
     </message>
 </context>
 <context>

@@ -1871,6 +1871,14 @@
         <source>Where the folders of the outputs are</source>
         <translation>Waar de mappen van de uitvoer staan</translation>
     </message>
+    <message>
+        <source>Keep subfolders</source>
+        <translation>Submappen behouden</translation>
+    </message>
+    <message>
+        <source>Builds the folders again that lie below each added folder</source>
+        <translation>Maakt de mappen onder elke toegevoegde map opnieuw aan</translation>
+    </message>
 </context>
 <context>
     <name>RenameCard</name>
@@ -9541,6 +9549,18 @@
     <message>
         <source>9 – best</source>
         <translation>9 – beste</translation>
+    </message>
+    <message>
+        <source>Small files for web pages. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Kleine bestanden voor webpagina’s. Fijne details gaan verloren, hoe lager de kwaliteit, hoe meer, en 16 bits worden 8. Doorzichtigheid, kleurprofiel en metadata blijven behouden.</translation>
+    </message>
+    <message>
+        <source>Very small files for web pages, which take the longest to write. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Heel kleine bestanden voor webpagina’s, die het langst duren om te schrijven. Fijne details gaan verloren, hoe lager de kwaliteit, hoe meer, en 16 bits worden 8. Doorzichtigheid, kleurprofiel en metadata blijven behouden.</translation>
+    </message>
+    <message>
+        <source>Small files for archives. Fine detail is lost, the more the lower the quality. Transparency, 16 bits, colour profile and metadata are kept. Few programs show such files.</source>
+        <translation>Kleine bestanden voor archieven. Fijne details gaan verloren, hoe lager de kwaliteit, hoe meer. Doorzichtigheid, 16 bits, kleurprofiel en metadata blijven behouden. Weinig programma’s tonen zulke bestanden.</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "jobs/presets/preset_recipe.h"
 
 #include "image/types/output_types.h"
+#include "platform/imageio/formats/formats.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <optional>
 
 namespace jobs {
 namespace {
@@ -204,12 +206,22 @@ const image::WrittenType *typeIn(const QJsonObject &output)
     return type == types.end() ? nullptr : &*type;
 }
 
-/** Type and quality of a conversion, which is JPEG's alone. */
+/** Whether conversions to the type of that keyword have a quality that can be chosen. */
+bool hasConversionQuality(const QString &keyword)
+{
+    const auto types = image::writtenTypes();
+    return std::any_of(types.begin(), types.end(), [&](const image::WrittenType &each) {
+        const std::optional<platform::FileFormat> format = image::formatFor(each.type);
+        return each.keyword == keyword && format && platform::formatOf(*format).keeps.quality;
+    });
+}
+
+/** Type and quality of a conversion. */
 void addTarget(QJsonObject &output, const QJsonObject &settings)
 {
     output.insert(text("type"), settings.value(text("target")));
     const int code = settings.value(text("quality")).toString().toInt();
-    if (code > 0 && settings.value(text("target")).toString() == text("jpeg"))
+    if (code > 0 && hasConversionQuality(settings.value(text("target")).toString()))
         output.insert(text("quality"), code * perCode);
 }
 

@@ -149,7 +149,8 @@ Form convertForm()
               "output": {"fileType": "original file type", "quality": "10", "ifTaken": "number",
                          "destination": {"kind": "beside", "name": "Converted", "path": ""}}})",
             "target",
-            {{11, "quality", Kind::Text}}};
+            {{11, "quality", Kind::Text}},
+            3};
 }
 
 const std::map<QString, Form> &forms()

@@ -55,6 +55,9 @@ private Q_SLOTS:
         row("jp2", "a.jp2", "public.jp2");
         row("gif", "a.gif", "com.compuserve.gif");
         row("bmp", "a.bmp", "public.bmp");
+        row("webp", "a.webp", "org.webmproject.webp");
+        row("avif", "a.avif", "public.avif");
+        row("jxl", "a.jxl", "public.jpeg-xl");
     }
 
     void writesEachTypeAndLooksAtIt()
@@ -91,7 +94,7 @@ private Q_SLOTS:
     void keepsWhatThePictureKnows_data()
     {
         QTest::addColumn<QString>("keyword");
-        for (const char *keyword : {"jpeg", "png", "tiff", "jp2", "gif", "pdf"})
+        for (const char *keyword : {"jpeg", "png", "tiff", "webp", "avif", "jxl", "jp2", "gif", "pdf"})
             QTest::newRow(keyword) << QString::fromUtf8(keyword);
     }
 

@@ -220,6 +220,28 @@ private Q_SLOTS:
         QVERIFY(m_driver->waitFor([&] { return content() == "kept"; }));
     }
 
+    void offersTheTypesOfConvertInTheirOrder()
+    {
+        QStringList offered;
+        save([&](window::SaveDialog &panel) {
+            const auto *menu = inPanel<QComboBox>("pubFileType");
+            for (int i = 0; i < menu->count(); ++i)
+                offered.append(menu->itemText(i));
+            panel.reject();
+        });
+        QCOMPARE(offered.join(u' '), QStringLiteral("JPEG PNG TIFF WebP AVIF JPEG XL JPEG 2000 GIF BMP PDF"));
+    }
+
+    void savesLaterTypesToo()
+    {
+        save([&](window::SaveDialog &panel) {
+            chooseIn("pubFileType", QStringLiteral("webp"));
+            QVERIFY(inPanel<QComboBox>("pubJPEGcompression")->isEnabled());
+            confirm(panel);
+        });
+        QCOMPARE(typeOf("Desktop/a.b.webp"), QStringLiteral("org.webmproject.webp"));
+    }
+
     void aNameOfAnotherTypeGetsTheExtension()
     {
         save([&](window::SaveDialog &panel) {

@@ -7,7 +7,7 @@ import { KEYWORDS } from "./targets.js";
 export const presets = {
     form: writingForm("Convert", "target", KEYWORDS, {
         StrField11: ["quality", "text", CONVERSION_QUALITIES],
-    }),
+    }, { modes: { webp: 3, avif: 3, jxl: 3 } }),
     starting: () => [
         [qsTr("JPEG for everyone"), { target: "jpeg", quality: "8", output: { destination: { name: "JPEG" } } }],
         [qsTr("Small JPEG"), { target: "jpeg", quality: "5", output: { destination: { name: "JPEG" } } }],

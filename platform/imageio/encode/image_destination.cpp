@@ -74,11 +74,23 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
     return encodedPixels(image, format, how);
 }
 
-/** Files that state no resolution but in EXIF. */
-bool statesResolutionInExif(FileFormat format)
+/** Files that state no resolution but in their metadata: in EXIF, or what of it becomes XMP. */
+bool statesResolutionInMetadata(FileFormat format)
 {
-    return format == FileFormat::Webp || format == FileFormat::Avif || format == FileFormat::JpegXl ||
-           format == FileFormat::Jpeg2000;
+    switch (format) {
+    case FileFormat::Gif:
+    case FileFormat::Webp:
+    case FileFormat::Avif:
+    case FileFormat::JpegXl:
+    case FileFormat::Jpeg2000:
+        return true;
+    case FileFormat::Jpeg:
+    case FileFormat::Png:
+    case FileFormat::Tiff:
+    case FileFormat::Bmp:
+        break;
+    }
+    return false;
 }
 
 /** What goes into the file, in step with its pixels. */
@@ -90,7 +102,7 @@ Metadata metadataFor(const Bitmap &bitmap, FileFormat format, const EncodeOption
     const Resolution resolution = writtenResolution(bitmap, options);
     const QSizeF stated = upright.resolution();
     const QSizeF known(resolution.horizontal, resolution.vertical > 0 ? resolution.vertical : resolution.horizontal);
-    const bool isSaid = !stated.isEmpty() || statesResolutionInExif(format);
+    const bool isSaid = !stated.isEmpty() || statesResolutionInMetadata(format);
     constexpr double tolerance = 0.01;
     const bool isSame =
         std::abs(stated.width() - known.width()) < tolerance && std::abs(stated.height() - known.height()) < tolerance;

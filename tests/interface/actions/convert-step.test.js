@@ -1,5 +1,7 @@
 import { KEYWORDS, targetNamed, targetText } from "../../../interface/actions/convert/targets.js";
 import * as convert from "../../../interface/actions/convert/convert-step.js";
+import { typeWords } from "../../../interface/actions/recipe/output-fields.js";
+import { WRITTEN } from "../../../interface/lib/types.js";
 import { equal, finish, isTrue, test } from "../check.js";
 import { photo, recipeServices, settingsOf } from "../fakes.js";
 
@@ -17,10 +19,18 @@ function planning(keyword, plan) {
 }
 
 const NAMES = { jpeg: "a.b.jpg", png: "a.b.png", tiff: "a.b.tiff", pdf: "a.b.pdf", jp2: "a.b.jp2", gif: "a.b.gif",
-                bmp: "a.b.bmp" };
+                bmp: "a.b.bmp", webp: "a.b.webp", avif: "a.b.avif", jxl: "a.b.jxl" };
+const WITH_QUALITY = ["jpeg", "webp", "avif", "jxl"];
 
-test("offersTheSevenTypesEachWithWordsOfItsOwn", () => {
+test("offersEveryTypeThatIsWrittenInTheOrderOfRecipes", () => {
     equal(KEYWORDS.slice().sort(), Object.keys(NAMES).sort());
+    equal(["original"].concat(KEYWORDS), typeWords().map(([word]) => word));
+    equal(KEYWORDS.map((keyword) => targetNamed(keyword).word), typeWords().slice(1).map(([, word]) => word));
+    // Other actions offer them in the same order, but for the page.
+    equal(KEYWORDS.filter((keyword) => keyword !== "pdf"), WRITTEN.map((type) => type.keyword));
+});
+
+test("saysOfEachTypeWhatItIs", () => {
     const texts = KEYWORDS.map(targetText);
     isTrue(texts.every((text, i) => text.length > 20 && texts.indexOf(text) === i));
 });
@@ -33,8 +43,10 @@ test("namesResultsByTheirType", () => {
 test("isARecipeWithNothingButAnOutput", () => {
     equal(convert.recipe(settings("jpeg", { quality: "3" })),
           { quorlin: 1, operations: [], outputs: [{ quality: 30, type: "jpeg" }] });
-    equal(KEYWORDS.filter((keyword) => keyword !== "jpeg").map((keyword) => convert.recipe(settings(keyword)).outputs),
-          KEYWORDS.filter((keyword) => keyword !== "jpeg").map((keyword) => [{ type: keyword }]));
+    equal(KEYWORDS.map((keyword) => convert.recipe(settings(keyword, { quality: "3" })).outputs),
+          KEYWORDS.map((keyword) => (WITH_QUALITY.indexOf(keyword) < 0 ? [{ type: keyword }]
+              : [{ quality: 30, type: keyword }])));
+    equal(KEYWORDS.filter((keyword) => targetNamed(keyword).quality), WITH_QUALITY);
     equal(convert.recipe(settings("gif", {}, { metadata: "copyright", removeLocation: true, dates: "keep",
                                                matte: "#102030", namePattern: "{name}-x" })).outputs,
           [{ dates: "keep", location: false, matte: "#102030", metadata: "copyright", name: "{name}-x", type: "gif" }]);
@@ -85,6 +97,9 @@ test("saysOfEachTargetWhatItCannotHold", () => {
     says("gif", ["256 colours", "colours become sRGB", "transparent or not", "XMP"]);
     says("jp2", ["metadata are kept", "profile where it fits"]);
     says("pdf", ["XMP"]);
+    says("webp", ["16 bits become 8", "Transparency, colour profile and metadata are kept"]);
+    says("avif", ["16 bits become 8", "Transparency, colour profile and metadata are kept"]);
+    says("jxl", ["Transparency, 16 bits, colour profile and metadata are kept"]);
     says("png", ["Nothing is lost"]);
     says("tiff", ["Nothing is lost"]);
 });

@@ -3,12 +3,12 @@ import { equal, finish, isTrue, test } from "../check.js";
 
 test("knowsWhatIsWrittenAndUnderWhichNames", () => {
     equal(WRITTEN.map((type) => type.id + type.extension),
-          ["public.jpeg.jpg", "public.png.png", "public.tiff.tiff", "public.bmp.bmp", "com.compuserve.gif.gif",
-           "public.jp2.jp2", "org.webmproject.webp.webp", "public.avif.avif", "public.jpeg-xl.jxl"]);
-    equal(WRITTEN.map((type) => type.profile), ["yes", "yes", "yes", "no", "no", "ifItFits", "yes", "yes", "yes"]);
+          ["public.jpeg.jpg", "public.png.png", "public.tiff.tiff", "org.webmproject.webp.webp", "public.avif.avif",
+           "public.jpeg-xl.jxl", "public.jp2.jp2", "com.compuserve.gif.gif", "public.bmp.bmp"]);
+    equal(WRITTEN.map((type) => type.profile), ["yes", "yes", "yes", "yes", "yes", "yes", "ifItFits", "no", "no"]);
     equal(WRITTEN.filter((type) => !type.alpha).map((type) => type.word), ["JPEG", "BMP"]);
     equal(WRITTEN.filter((type) => type.hasQuality).map((type) => type.word),
-          ["JPEG", "JPEG 2000", "WebP", "AVIF", "JPEG XL"]);
+          ["JPEG", "WebP", "AVIF", "JPEG XL", "JPEG 2000"]);
     equal(["JPE", "tif", "heif", "xyz", ""].map(typeOfExtension),
           ["public.jpeg", "public.tiff", "public.heif", "", ""]);
 });

@@ -191,6 +191,17 @@ test("needsALaterVersionForLaterTypes", () => {
     equal([mark("resize", "public.jp2"), mark("resize", "public.avif")], ["Quorlin 1", "Quorlin 3"]);
 });
 
+test("needsALaterVersionForLaterTargetsOfConversions", () => {
+    const mark = (target) => {
+        const settings = Object.assign(copyOf(STANDARD.convert), { target: target });
+        const row = rowOf(FORMS.convert, "n", settings);
+        equal(presetOf(row, KINDS).settings, settings);
+        return row[3];
+    };
+    equal(["jpeg", "pdf", "webp", "avif", "jxl"].map(mark),
+          ["Quorlin 1", "Quorlin 1", "Quorlin 3", "Quorlin 3", "Quorlin 3"]);
+});
+
 test("takesTheQualityOfPicturesWhereNoneWasChosen", () => {
     // These actions wrote a quality before it could be chosen, and none of their results had it.
     for (const [action, isOwn] of [["turn", true], ["round", true], ["background", true], ["resize", false],
