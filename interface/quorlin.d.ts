@@ -1367,6 +1367,8 @@ declare module "quorlin/recipes" {
         folder: string;
         /** Where relative folders of its outputs begin; empty: the folder of each picture. */
         base: string;
+        /** The tree of each folder that was added is built again below the base. */
+        keepsTree: boolean;
         /** All pictures, in their order. */
         paths: texts;
         /** How many more should be handed over now, so that no worker waits. */
@@ -1377,8 +1379,8 @@ declare module "quorlin/recipes" {
         readonly arrived: Signal<() => any>;
         /** Why the recipe cannot be carried out, in a sentence; empty where it can. */
         problem(): string;
-        /** By the number of the picture, from 0; for all in their order, each once. */
-        plan(index: whole): PlannedOutput[];
+        /** By the number of the picture, from 0; for all in their order, each once. root: the folder that it was found in, or "". */
+        plan(index: whole, root: text): PlannedOutput[];
         /** Hands a picture that was planned to a worker, which makes all its outputs from one decoding. */
         give(index: whole): null;
         /**

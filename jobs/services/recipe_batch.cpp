@@ -129,12 +129,12 @@ QString RecipeBatch::problem()
     return m_problem;
 }
 
-QVariantList RecipeBatch::plan(int index)
+QVariantList RecipeBatch::plan(int index, const QString &root)
 {
     if (!begin() || index < 0 || index >= m_paths.size())
         return {};
     const QString path = m_paths[index];
-    PictureWork work = m_naming->workOn({path, {}, {}, false}, index);
+    PictureWork work = m_naming->workOn({path, root, {}, false}, index);
     work.facts = factsOfFile(path, index, m_needsFacts);
     const PlannedMessage planned = planNow(m_shared, {work.facts, m_needsFacts});
     if (m_needsFacts)

@@ -31,6 +31,8 @@ class RecipeBatch : public QObject
     Q_PROPERTY(QString folder READ folder WRITE setFolder)
     /** Where relative folders of its outputs begin; empty: the folder of each picture. */
     Q_PROPERTY(QString base READ base WRITE setBase)
+    /** The tree of each folder that was added is built again below the base. */
+    Q_PROPERTY(bool keepsTree READ keepsTree WRITE setKeepsTree)
     /** All pictures, in their order. */
     Q_PROPERTY(QStringList paths READ paths WRITE setPaths)
     /** How many pictures more should be handed over now, so that no worker waits; 0 or more. */
@@ -48,6 +50,8 @@ public:
     void setFolder(const QString &folder) { m_folder = folder; }
     QString base() const { return m_options.destination.folder; }
     void setBase(const QString &folder) { m_options.destination.folder = folder; }
+    bool keepsTree() const { return m_options.destination.keepsTree; }
+    void setKeepsTree(bool keeps) { m_options.destination.keepsTree = keeps; }
     QStringList paths() const { return m_paths; }
     void setPaths(const QStringList &paths) { m_paths = paths; }
 
@@ -58,8 +62,10 @@ public:
      * What the picture @p index becomes, one dictionary an output: {status, reason, path, type, width, height, replaces,
      * replacesOriginal, lossless, losses}. status is "ready", "Failed", "Not Supported" or "Skipped"; path is empty where there is none.
      * To be asked for all pictures in their order, each once, before any is made.
+     *
+     * @param root  the folder that the picture was found in; empty where it was added itself
      */
-    Q_INVOKABLE QVariantList plan(int index);
+    Q_INVOKABLE QVariantList plan(int index, const QString &root);
 
     int room() const;
     int inWork() const { return int(m_given.size() + m_made.size()); }

@@ -1,4 +1,5 @@
-// The folder in which the folders of a recipe's outputs begin: that of each picture, or one for all. The recipe does not have it.
+// The folder in which the folders of a recipe's outputs begin: that of each picture, or one for all, with or without the tree of the added
+// folders. The recipe does not have it.
 // Services used: shell, files.
 
 import { files } from "quorlin/files";
@@ -14,6 +15,8 @@ export class RecipeBase {
         this.pane = pane;
         this.form = pane.form;
         this.form.control("base").activated.connect(guard("recipe.base", () => this.choose(this.form.value("base"))));
+        const box = this.form.control("keepSubfolders");
+        box.toggled.connect(guard("recipe.keepSubfolders", () => this.keepSubfolders(box.checked)));
     }
 
     show() {
@@ -23,6 +26,15 @@ export class RecipeBase {
         this.form.setItems("base", texts.concat(["-", qsTr("Choose Folder…")]), values.concat(["-", CHOOSE]));
         this.form.chooseValue("base", path);
         this.form.control("base").toolTip = path;
+        this.form.control("keepSubfolders").checked = this.pane.settings.keepSubfolders;
+        this.form.control("keepSubfolders").visible = path !== "";
+    }
+
+    keepSubfolders(isKept) {
+        if (isKept !== this.pane.settings.keepSubfolders) {
+            this.pane.settings.keepSubfolders = isKept;
+            this.pane.changed();
+        }
     }
 
     choose(value) {

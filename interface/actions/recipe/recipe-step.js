@@ -12,9 +12,11 @@ const WHITE = "#ffffff";
 
 /**
  * text is that of the recipe's file, folder where relative paths in it begin, path the file that it was opened from or "". base is where
- * relative folders of outputs begin, "" for the folder of each picture. shown is the output whose result the preview shows.
+ * relative folders of outputs begin, "" for the folder of each picture; keepSubfolders builds the tree of each added folder again there.
+ * shown is the output whose result the preview shows.
  */
-export const defaults = { text: "", folder: "/", path: "", base: "", shown: 0, simulation: false };
+export const defaults = { text: "", folder: "/", path: "", base: "", keepSubfolders: false, shown: 0,
+                          simulation: false };
 
 /** The recipe in a few words, for the log. */
 export function describe(settings) {

@@ -11,7 +11,8 @@ const ORDER = ["ready", "Failed", "Not Supported", "Skipped"];
 
 /** A batch of the recipe in the settings over pictures of the list. */
 export function batchOf(settings, paths) {
-    return new RecipeBatch({ recipe: settings.text, folder: settings.folder, base: settings.base, paths: paths });
+    return new RecipeBatch({ recipe: settings.text, folder: settings.folder, base: settings.base,
+                             keepsTree: settings.keepSubfolders, paths: paths });
 }
 
 function isReady(output) {
@@ -48,13 +49,14 @@ function inWords(photo, outputs) {
 }
 
 /** A generator that plans all ticked pictures of the list, one after the other: see itemOf(). It returns {batch, cancelled}. */
-export function* recipePlan(list, ids, settings) {
+export function* recipePlan(window, ids, settings) {
+    const list = window.pictures;
     const batch = batchOf(settings, list.tickedPaths());
     const problem = batch.problem();
     for (let i = 0; i < ids.length; i += 1) {
         const photo = list.photo(ids[i]);
         yield itemOf(photo, problem === ""
-            ? inWords(photo, batch.plan(i))
+            ? inWords(photo, batch.plan(i, window.input.rootOf(photo.path)))
             : [{ status: "Failed", reason: problem, path: "", losses: [], width: 0, height: 0 }]);
     }
     return { batch: batch, cancelled: false };
@@ -105,7 +107,7 @@ export class RecipePlan extends LivePlan {
 
     work(ids, settings) {
         // The engine loses a generator that is returned by the call that makes it.
-        const planning = recipePlan(this.window.pictures, ids, settings);
+        const planning = recipePlan(this.window, ids, settings);
         return planning;
     }
 

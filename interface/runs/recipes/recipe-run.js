@@ -57,7 +57,7 @@ export class RecipeRun extends WriteRun {
         this.startPlanning(all.filter((id) => isWanted[id]));
         this.isWanted = all.map((id) => isWanted[id] === true);
         this.simulated = this.settings.simulation;
-        const work = recipePlan(this.window.pictures, all, this.settings);
+        const work = recipePlan(this.window, all, this.settings);
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
                        guard("run.planEnd", (how, value) => this.planEnded(how, value)));
         this.changed();

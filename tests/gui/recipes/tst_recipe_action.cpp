@@ -381,6 +381,28 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(at("Web/a.jpg")));
     }
 
+    void keepsSubfoldersOfFoldersThatWereAdded()
+    {
+        QVERIFY(QDir().mkpath(at("lake")));
+        save("a.png", QSize(60, 40));
+        save("lake/b.png", QSize(60, 40));
+        const QString other = m_driver->folder() + QStringLiteral("/other");
+        QVERIFY(QDir().mkpath(other));
+        m_driver->drop({m_folder});
+        auto *keeps = m_driver->control<QCheckBox>("keepSubfolders");
+        QVERIFY(!keeps->isVisible()); // results lie beside their pictures
+        WindowDriver::answerPanels({other});
+        m_driver->choose("base", QStringLiteral("choose"));
+        QVERIFY(keeps->isVisible());
+        keeps->click();
+        run(QStringLiteral("4 files made"));
+        QVERIFY(QFile::exists(other + QStringLiteral("/Web/a.jpg")));
+        QVERIFY(QFile::exists(other + QStringLiteral("/lake/Web/b.jpg")) && !QFile::exists(at("lake/Web")));
+        keeps->click();
+        run(QStringLiteral("4 files made"));
+        QVERIFY(QFile::exists(other + QStringLiteral("/Web/b.jpg")));
+    }
+
     void asksWhereADiskIsFull()
     {
         useOneTrialWorker();

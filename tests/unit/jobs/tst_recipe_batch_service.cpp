@@ -76,6 +76,7 @@ private Q_SLOTS:
     void failsForWhatCannotBeRead();
     void doesNotReplaceWhatAppearsMeanwhile();
     void takesAnotherBaseFolder();
+    void buildsTheTreesOfFoldersAgainBelowTheBase();
     void makesEachPictureOnce();
 
 private:
@@ -136,16 +137,16 @@ void TestRecipeBatchService::saysWhatIsWrong()
 {
     const auto wrong = batch(key(R"({"quorlin": 1, "outputs": []})"), {key("a.png")});
     QVERIFY(wrong->problem().startsWith(key("outputs: ")));
-    QVERIFY(wrong->plan(0).isEmpty() && made(*wrong, 0).isEmpty());
+    QVERIFY(wrong->plan(0, {}).isEmpty() && made(*wrong, 0).isEmpty());
     const auto right = batch(m_two, {key("a.png")});
     QCOMPARE(right->problem(), QString());
-    QVERIFY(right->plan(1).isEmpty() && right->plan(-1).isEmpty());
+    QVERIFY(right->plan(1, {}).isEmpty() && right->plan(-1, {}).isEmpty());
 }
 
 void TestRecipeBatchService::plansEveryOutputAndWritesNothing()
 {
     const auto one = batch(m_two, {key("a.png")});
-    const QVariantList plan = one->plan(0);
+    const QVariantList plan = one->plan(0, {});
     QCOMPARE(valuesOf(plan, "status"), (QStringList{key("ready"), key("ready")}));
     QCOMPARE(valuesOf(plan, "path"), (QStringList{at("Out/a.jpg"), at("Out/a-10.png")}));
     QCOMPARE(valuesOf(plan, "type"), (QStringList{key("jpeg"), key("png")}));
@@ -156,7 +157,7 @@ void TestRecipeBatchService::plansEveryOutputAndWritesNothing()
 void TestRecipeBatchService::makesAllOutputsOfAPicture()
 {
     const auto one = batch(m_two, {key("a.png")});
-    one->plan(0);
+    one->plan(0, {});
     const QVariantList results = made(*one, 0);
     QCOMPARE(valuesOf(results, "status"), (QStringList{key("OK"), key("OK")}));
     QCOMPARE(QImage(at("Out/a.jpg")).size(), QSize(20, 10));
@@ -171,8 +172,8 @@ void TestRecipeBatchService::numbersEqualNames()
     save("b/a.png", {10, 40});
     const QString recipe = key(R"({"quorlin": 1, "outputs": [{"type": "jpeg", "folder": "%1"}]})").arg(at("All"));
     const auto one = batch(recipe, {key("a.png"), key("b/a.png")});
-    QCOMPARE(valuesOf(one->plan(0), "path"), QStringList{at("All/a.jpg")});
-    QCOMPARE(valuesOf(one->plan(1), "path"), QStringList{at("All/a (2).jpg")});
+    QCOMPARE(valuesOf(one->plan(0, {}), "path"), QStringList{at("All/a.jpg")});
+    QCOMPARE(valuesOf(one->plan(1, {}), "path"), QStringList{at("All/a (2).jpg")});
     // In whatever order they are made.
     QCOMPARE(valuesOf(made(*one, 1), "status"), QStringList{key("OK")});
     QCOMPARE(valuesOf(made(*one, 0), "status"), QStringList{key("OK")});
@@ -183,11 +184,11 @@ void TestRecipeBatchService::keepsWhatIsThereOrReplacesIt()
 {
     write("Out/a.jpg");
     const auto numbers = batch(m_two, {key("a.png")});
-    QCOMPARE(valuesOf(numbers->plan(0), "path").first(), at("Out/a (2).jpg"));
+    QCOMPARE(valuesOf(numbers->plan(0, {}), "path").first(), at("Out/a (2).jpg"));
     const QString replacing =
         key(R"({"quorlin": 1, "outputs": [{"type": "jpeg", "folder": "Out", "ifTaken": "replace"}]})");
     const auto replaces = batch(replacing, {key("a.png")});
-    const QVariantList plan = replaces->plan(0);
+    const QVariantList plan = replaces->plan(0, {});
     QCOMPARE(valuesOf(plan, "path"), QStringList{at("Out/a.jpg")});
     QCOMPARE(valuesOf(plan, "replaces"), QStringList{key("true")});
     QCOMPARE(valuesOf(plan, "replacesOriginal"), QStringList{key("false")});
@@ -209,7 +210,7 @@ void TestRecipeBatchService::leavesItsOwnOriginalToTheLast()
     const QString recipe = key(R"({"quorlin": 1, "outputs": [{"type": "png", "ifTaken": "replace"},
         {"type": "jpeg"}, {"type": "png", "name": "{name}-10", "ifTaken": "replace"}]})");
     const auto one = batch(recipe, {key("a.png")});
-    one->plan(0);
+    one->plan(0, {});
     const QVariantList results = made(*one, 0);
     QCOMPARE(valuesOf(results, "status"), (QStringList{key("OK"), key("waiting"), key("waiting")}));
     QCOMPARE(valuesOf(results, "path"), (QStringList{at("a.jpg"), at("a-10.png"), at("a.png")}));
@@ -220,7 +221,7 @@ void TestRecipeBatchService::givesAPictureBackThatHasNoRoom()
     const TrialWorkers workers;
     save("full-a.png", {40, 20});
     const auto one = batch(m_two, {key("full-a.png")});
-    one->plan(0);
+    one->plan(0, {});
     QVERIFY(made(*one, 0).isEmpty());
     QVERIFY(!QFile::exists(at("Out/full-a.jpg")) && !QFile::exists(at("Out/full-a-10.png")));
     // Another folder, in which a name is taken.
@@ -239,7 +240,7 @@ void TestRecipeBatchService::saysWhichDiskIsFull()
     const TrialWorkers workers;
     save("full-a.png", {40, 20});
     const auto one = batch(m_two, {key("full-a.png")});
-    one->plan(0);
+    one->plan(0, {});
     one->give(0);
     QSignalSpy arrived(one.get(), &jobs::RecipeBatch::arrived);
     QVERIFY(arrived.wait(20000));
@@ -251,9 +252,9 @@ void TestRecipeBatchService::saysWhichDiskIsFull()
 void TestRecipeBatchService::replacesTheOriginalOnlyWhereItSaysSo()
 {
     const auto numbers = batch(m_one.arg(key("number")), {key("a.png")});
-    QCOMPARE(valuesOf(numbers->plan(0), "path"), QStringList{at("a (2).png")});
+    QCOMPARE(valuesOf(numbers->plan(0, {}), "path"), QStringList{at("a (2).png")});
     const auto replaces = batch(m_one.arg(key("replace")), {key("a.png")});
-    QCOMPARE(valuesOf(replaces->plan(0), "replacesOriginal"), QStringList{key("true")});
+    QCOMPARE(valuesOf(replaces->plan(0, {}), "replacesOriginal"), QStringList{key("true")});
     QCOMPARE(valuesOf(made(*replaces, 0), "status"), QStringList{key("waiting")});
     QCOMPARE(QImage(at("a.png")).size(), QSize(40, 20));
 }
@@ -264,7 +265,7 @@ void TestRecipeBatchService::keepsWhatNothingTakesThePlaceOf()
     const QString replacing =
         key(R"({"quorlin": 1, "outputs": [{"type": "jpeg", "folder": "Out", "maxBytes": 1, "ifTaken": "replace"}]})");
     const auto one = batch(replacing, {key("a.png")});
-    QCOMPARE(valuesOf(one->plan(0), "replaces"), QStringList{key("true")});
+    QCOMPARE(valuesOf(one->plan(0, {}), "replaces"), QStringList{key("true")});
     QCOMPARE(valuesOf(made(*one, 0), "status"), QStringList{key("Failed")});
     QVERIFY(isOld("Out/a.jpg"));
 }
@@ -275,14 +276,14 @@ void TestRecipeBatchService::neverReplacesAnotherPictureOfTheList()
     save("b.png", {8, 8});
     const QString recipe = key(R"({"quorlin": 1, "outputs": [{"type": "jpeg", "ifTaken": "replace"}]})");
     const auto one = batch(recipe, {key("b.png"), key("b.jpg")});
-    const QString wanted = valuesOf(one->plan(0), "path").first();
+    const QString wanted = valuesOf(one->plan(0, {}), "path").first();
     QVERIFY2(wanted != at("b.jpg"), qPrintable(wanted));
 }
 
 void TestRecipeBatchService::leavesOutWhatIsSkipped()
 {
     const auto one = batch(m_one.arg(key("skip")), {key("a.png")});
-    const QVariantList plan = one->plan(0);
+    const QVariantList plan = one->plan(0, {});
     QCOMPARE(valuesOf(plan, "status"), QStringList{key("Skipped")});
     QVERIFY(!valuesOf(plan, "reason").first().isEmpty());
     QCOMPARE(valuesOf(made(*one, 0), "status"), QStringList{key("Skipped")});
@@ -294,12 +295,12 @@ void TestRecipeBatchService::failsForWhatCannotBeRead()
     write("broken.png");
     const auto one = batch(m_two, {key("broken.png"), key("none.png"), key("a.png")});
     for (int i = 0; i < 2; ++i) {
-        const QVariantList plan = one->plan(i);
+        const QVariantList plan = one->plan(i, {});
         QCOMPARE(valuesOf(plan, "status"), (QStringList{key("Failed"), key("Failed")}));
         QVERIFY(!valuesOf(plan, "reason").contains(QString()));
     }
     // One that goes between plan and run.
-    one->plan(2);
+    one->plan(2, {});
     QVERIFY(QFile::remove(at("a.png")));
     const QVariantList results = made(*one, 2);
     QCOMPARE(valuesOf(results, "status"), (QStringList{key("Failed"), key("Failed")}));
@@ -310,7 +311,7 @@ void TestRecipeBatchService::failsForWhatCannotBeRead()
 void TestRecipeBatchService::doesNotReplaceWhatAppearsMeanwhile()
 {
     const auto one = batch(m_two, {key("a.png")});
-    one->plan(0);
+    one->plan(0, {});
     write("Out/a.jpg");
     const QVariantList results = made(*one, 0);
     QCOMPARE(valuesOf(results, "path"), (QStringList{at("Out/a (2).jpg"), at("Out/a-10.png")}));
@@ -321,14 +322,30 @@ void TestRecipeBatchService::takesAnotherBaseFolder()
 {
     const auto one = batch(m_two, {key("a.png")});
     one->setBase(at("Base"));
-    QCOMPARE(valuesOf(one->plan(0), "path"), (QStringList{at("Base/Out/a.jpg"), at("Base/Out/a-10.png")}));
+    QCOMPARE(valuesOf(one->plan(0, {}), "path"), (QStringList{at("Base/Out/a.jpg"), at("Base/Out/a-10.png")}));
+}
+
+void TestRecipeBatchService::buildsTheTreesOfFoldersAgainBelowTheBase()
+{
+    save("in/lake/b.png", {40, 20});
+    const auto firstOf = [this](bool keeps, const QString &base, const QString &root) {
+        const auto one = batch(m_two, {key("in/lake/b.png")});
+        one->setBase(base);
+        one->setKeepsTree(keeps);
+        return valuesOf(one->plan(0, root), "path").first();
+    };
+    QCOMPARE(firstOf(true, at("Base"), at("in")), at("Base/lake/Out/b.jpg"));
+    QCOMPARE(firstOf(true, at("Base"), at("in/lake")), at("Base/Out/b.jpg"));
+    QCOMPARE(firstOf(true, at("Base"), {}), at("Base/Out/b.jpg")); // added itself
+    QCOMPARE(firstOf(false, at("Base"), at("in")), at("Base/Out/b.jpg"));
+    QCOMPARE(firstOf(true, {}, at("in")), at("in/lake/Out/b.jpg"));
 }
 
 void TestRecipeBatchService::makesEachPictureOnce()
 {
     const auto one = batch(m_two, {key("a.png")});
     QVERIFY(made(*one, 0).isEmpty());
-    one->plan(0);
+    one->plan(0, {});
     QCOMPARE(made(*one, 0).size(), 2);
     QVERIFY(made(*one, 0).isEmpty());
     QCOMPARE(QDir(at("Out")).entryList(QDir::Files).size(), 2);
