@@ -4313,6 +4313,37 @@
     </message>
 </context>
 <context>
+    <name>meta</name>
+    <message>
+        <source>"%1" cannot be the value of the field %2</source>
+        <translation>„%1“ kann nicht der Wert des Feldes %2 sein</translation>
+    </message>
+    <message>
+        <source>there is no field %1</source>
+        <translation>es gibt kein Feld %1</translation>
+    </message>
+    <message>
+        <source>private data is not removed from files of this type</source>
+        <translation>aus Dateien dieser Art werden private Daten nicht entfernt</translation>
+    </message>
+    <message>
+        <source>nothing is known to do with the field %1</source>
+        <translation>für das Feld %1 ist nichts zu tun angegeben</translation>
+    </message>
+    <message>
+        <source>"%1" is no time zone</source>
+        <translation>„%1“ ist keine Zeitzone</translation>
+    </message>
+    <message>
+        <source>there is no group %1</source>
+        <translation>es gibt keine Gruppe %1</translation>
+    </message>
+    <message>
+        <source>%1 is too large</source>
+        <translation>%1 ist zu groß</translation>
+    </message>
+</context>
+<context>
     <name>metadata-action</name>
     <message>
         <source>Metadata</source>
@@ -5379,6 +5410,18 @@
     <message>
         <source>the file is write-protected</source>
         <translation>die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>this type of file cannot hold metadata of its own</source>
+        <translation>in Dateien dieser Art werden keine Metadaten geschrieben</translation>
+    </message>
+    <message>
+        <source>its metadata is damaged</source>
+        <translation>ihre Metadaten sind beschädigt</translation>
+    </message>
+    <message>
+        <source>there is no room for so much metadata</source>
+        <translation>für so viele Metadaten ist kein Platz</translation>
     </message>
 </context>
 <context>

@@ -4313,6 +4313,37 @@
     </message>
 </context>
 <context>
+    <name>meta</name>
+    <message>
+        <source>"%1" cannot be the value of the field %2</source>
+        <translation>« %1 » ne peut pas être la valeur du champ %2</translation>
+    </message>
+    <message>
+        <source>there is no field %1</source>
+        <translation>il n’y a pas de champ %1</translation>
+    </message>
+    <message>
+        <source>private data is not removed from files of this type</source>
+        <translation>les données privées ne sont pas retirées des fichiers de ce type</translation>
+    </message>
+    <message>
+        <source>nothing is known to do with the field %1</source>
+        <translation>rien n’est indiqué à faire avec le champ %1</translation>
+    </message>
+    <message>
+        <source>"%1" is no time zone</source>
+        <translation>« %1 » n’est pas un fuseau horaire</translation>
+    </message>
+    <message>
+        <source>there is no group %1</source>
+        <translation>il n’y a pas de groupe %1</translation>
+    </message>
+    <message>
+        <source>%1 is too large</source>
+        <translation>%1 est trop grand</translation>
+    </message>
+</context>
+<context>
     <name>metadata-action</name>
     <message>
         <source>Metadata</source>
@@ -5379,6 +5410,18 @@
     <message>
         <source>the file is write-protected</source>
         <translation>le fichier est protégé en écriture</translation>
+    </message>
+    <message>
+        <source>this type of file cannot hold metadata of its own</source>
+        <translation>les métadonnées ne sont pas écrites dans les fichiers de ce type</translation>
+    </message>
+    <message>
+        <source>its metadata is damaged</source>
+        <translation>ses métadonnées sont endommagées</translation>
+    </message>
+    <message>
+        <source>there is no room for so much metadata</source>
+        <translation>il n’y a pas de place pour autant de métadonnées</translation>
     </message>
 </context>
 <context>

@@ -4313,6 +4313,37 @@
     </message>
 </context>
 <context>
+    <name>meta</name>
+    <message>
+        <source>"%1" cannot be the value of the field %2</source>
+        <translation>‘%1’ kan niet de waarde van het veld %2 zijn</translation>
+    </message>
+    <message>
+        <source>there is no field %1</source>
+        <translation>er is geen veld %1</translation>
+    </message>
+    <message>
+        <source>private data is not removed from files of this type</source>
+        <translation>uit bestanden van dit type worden geen privégegevens verwijderd</translation>
+    </message>
+    <message>
+        <source>nothing is known to do with the field %1</source>
+        <translation>voor het veld %1 is niet aangegeven wat er moet gebeuren</translation>
+    </message>
+    <message>
+        <source>"%1" is no time zone</source>
+        <translation>‘%1’ is geen tijdzone</translation>
+    </message>
+    <message>
+        <source>there is no group %1</source>
+        <translation>er is geen groep %1</translation>
+    </message>
+    <message>
+        <source>%1 is too large</source>
+        <translation>%1 is te groot</translation>
+    </message>
+</context>
+<context>
     <name>metadata-action</name>
     <message>
         <source>Metadata</source>
@@ -5379,6 +5410,18 @@
     <message>
         <source>the file is write-protected</source>
         <translation>het bestand is beveiligd tegen schrijven</translation>
+    </message>
+    <message>
+        <source>this type of file cannot hold metadata of its own</source>
+        <translation>in bestanden van dit type worden geen metagegevens geschreven</translation>
+    </message>
+    <message>
+        <source>its metadata is damaged</source>
+        <translation>de metagegevens zijn beschadigd</translation>
+    </message>
+    <message>
+        <source>there is no room for so much metadata</source>
+        <translation>er is geen ruimte voor zo veel metagegevens</translation>
     </message>
 </context>
 <context>

@@ -72,6 +72,8 @@ SUB_ROOMS = {
         "imageio/convert": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/parts imageio/exif "
                            "imageio/encoders imageio/codecs imageio/facts imageio/metadata imageio/encode imageio/source",
         "imageio/comments": "foundation file imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/exif imageio/source",
+        "imageio/edits": "foundation file imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/parts imageio/xmp "
+                         "imageio/metadata imageio/source",
         "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },
     "image": {"types": "", "": "types", "recipe": "*", "services": "*"},

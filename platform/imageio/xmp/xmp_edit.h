@@ -1,7 +1,5 @@
 #pragma once
 
-// Inside platform/ only.
-
 #include <QByteArray>
 #include <QList>
 #include <QString>

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/imageio/edits/metadata_change.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace meta {
+
+/** Groups of what a picture may say that is nobody's business. */
+enum class PrivateData { Places, SerialNumbers, Names, Faces, MakerNotes, Thumbnails };
+
+inline size_t qHash(PrivateData data, size_t seed = 0)
+{
+    return ::qHash(int(data), seed);
+}
+
+/** "places", "serialNumbers", "names", "faces", "makerNotes", "thumbnails". */
+QStringList privateDataNames();
+std::optional<PrivateData> privateDataNamed(const QString &name);
+
+/** Whether a field is one of the places. */
+bool isPlace(const QString &fieldName);
+
+/** Adds to @p change what takes these groups out. */
+void addRemoval(platform::MetadataChange &change, const QSet<PrivateData> &groups);
+
+} // namespace meta

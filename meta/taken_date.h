@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+#include <optional>
+
+namespace meta {
+
+/** When a picture was taken, as far as somebody has said. */
+struct TakenDate
+{
+    QDate day;
+    std::optional<QTime> time;
+    QString subSeconds;             ///< digits behind the second; empty where they are not known
+    std::optional<int> zoneSeconds; ///< east of Greenwich
+
+    /** "2026-11-22", "2026-11-22T14:05:09", "2026-11-22T14:05:09.25+01:00". */
+    QString toText() const;
+    /** None for other texts. Seconds may be missing, a blank may stand in place of the T, and Z for +00:00. */
+    static std::optional<TakenDate> fromText(const QString &text);
+    /** "2026:11:22 14:05:09", with what EXIF says of parts of a second and the zone in tags of their own. */
+    static std::optional<TakenDate> fromExif(const QString &text, const QString &subSeconds, const QString &zone);
+    /** "20261122" and "140509+0100", which may be empty. */
+    static std::optional<TakenDate> fromIptc(const QString &day, const QString &time);
+
+    QString exifText() const;
+    QString exifZone() const; ///< "+01:00"; empty where it is not known
+    QString iptcDay() const;
+    QString iptcTime() const; ///< empty where it is not known
+
+    /** So many seconds later, or earlier. */
+    TakenDate shifted(qint64 seconds) const;
+    /** The same moment as far as both say: what one does not know is not compared. */
+    bool agreesWith(const TakenDate &other) const;
+};
+
+/** "+01:00", "-0330" or "Z" in seconds; none for other texts. */
+std::optional<int> zoneFromText(const QString &text);
+
+} // namespace meta
