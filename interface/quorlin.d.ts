@@ -1,5 +1,5 @@
 /**
- * What scripts of Quorlin can import: thirteen modules. A test holds each of them against the program: names, order, parameters and
+ * What scripts of Quorlin can import: fifteen modules. A test holds each of them against the program: names, order, parameters and
  * types. There is no other way from a script to a service.
  *
  * Nothing is converted in silence: an argument of another type, or another number of arguments, is a TypeError; a whole
@@ -1086,6 +1086,41 @@ declare module "quorlin/tokens" {
          */
         expand(path: text, facts: dictionary, index: double): texts;
     }
+}
+
+/** Web pages: their HTML, captions, and which files of a folder are those of a page. */
+declare module "quorlin/web" {
+    export const webPages: {
+        /** The template that comes with the program. */
+        standardTemplate(): string;
+        /** Why a text is no template, in a sentence that names line and field; empty where it is one. */
+        templateProblem(text: text): string;
+        /** Those of the page, then those of its pictures. */
+        fields(): texts;
+        /**
+         * A page is {title, text, style: "grid", "rows" or "story", language, fromRight, lightPaper, darkPaper, accent, download,
+         * pictures}; a picture {caption, files}, a file {path, width, height}, its path below the folder of the page. Another key is a
+         * TypeError. html is empty where problem, a sentence, is not.
+         */
+        write(pageTemplate: text, page: dictionary): { html: string; problem: string };
+        /** What captions can say beside the tokens of names: {name, words, isPlace}. */
+        captionTokens(): list;
+        /** Sentences; tokens that tell a place are refused unless that is allowed. */
+        captionProblems(pattern: text, placesMayBeTold: boolean): texts;
+        /** Whether a pattern says something that stands in the metadata of pictures. */
+        needsTexts(pattern: text): boolean;
+        /** What the metadata of a picture says of it, by the names of tokens. */
+        textsOf(path: text): dictionary;
+        /** Facts as files.facts() tells them, or null; texts as textsOf() does; index is how many pictures came before. */
+        caption(pattern: text, path: text, facts: dictionary, texts: dictionary, index: whole): string;
+        /** Whether a text can be the code of a language: "pt-BR". */
+        isLanguage(code: text): boolean;
+        isFromRight(code: text): boolean;
+        /** What tells the content of a file from all others; empty where it cannot be read. A link is not followed. */
+        fingerprint(path: text): string;
+        /** Removes a file whose content has one of these fingerprints, and says whether it is gone. */
+        removeKnown(path: text, fingerprints: texts): boolean;
+    };
 }
 
 /** Pictures that arrive in a folder. */

@@ -5,6 +5,7 @@ import { files } from "quorlin/files";
 import { moves } from "quorlin/moves";
 import { pictures } from "quorlin/pictures";
 import { recipes } from "quorlin/recipes";
+import { webPages } from "quorlin/web";
 import { KnownFacts } from "./lib/known-facts.js";
 import { emptyTable } from "./lib/names.js";
 
@@ -14,12 +15,12 @@ const lengths = {
     convertXtoPixel: (path, _target, unit, value) => pictures.inPixels(value, unit, pictures.resolution(path)),
 };
 
-/** {units, fileHandling, files, facts, names, moves, pictures, recipes, unitCache}. */
+/** {units, fileHandling, files, facts, names, moves, webPages, pictures, recipes, unitCache}. */
 export function makeServices() {
     return {
         units: lengths, fileHandling: new cNSFileHandling(), files: files,
         facts: new KnownFacts(files), names: new cNSStringHandling(),
-        pictures: pictures, recipes: recipes, moves: moves,
+        pictures: pictures, recipes: recipes, moves: moves, webPages: webPages,
         unitCache: emptyTable(),
     };
 }

@@ -8,6 +8,7 @@
 #include "files/services/move_service.h"
 #include "image/services/picture_service.h"
 #include "jobs/services/comment_work.h"
+#include "jobs/services/page_service.h"
 #include "jobs/services/recipe_batch.h"
 #include "jobs/services/recipe_service.h"
 #include "jobs/services/recipe_work.h"
@@ -52,13 +53,14 @@ std::vector<ServiceEntry> fileServices()
             givenEntry<jobs::RecipeWork>("quorlin/recipes"),
             madeWithSignals<jobs::RecipeBatch>("quorlin/recipes"),
             oneObject<jobs::WatchService>("quorlin/watch", "watch"),
+            oneObject<jobs::PageService>("quorlin/web", "webPages"),
             madeWithSignals<app::PageWork>("quorlin/pages")};
 }
 
 void addFileModules(ScriptEngine &scripts)
 {
-    addFileModules(
-        scripts, {new ProgramFiles(&scripts), new image::PictureService(&scripts), new jobs::RecipeService(&scripts)});
+    addFileModules(scripts, {new ProgramFiles(&scripts), new image::PictureService(&scripts),
+                             new jobs::RecipeService(&scripts), new jobs::PageService(&scripts)});
 }
 
 void addFileModules(ScriptEngine &scripts, const FileObjects &objects)
@@ -69,6 +71,7 @@ void addFileModules(ScriptEngine &scripts, const FileObjects &objects)
     offerServices(scripts, fileServices(), "quorlin/tokens", new text::TokenService(&scripts));
     offerServices(scripts, fileServices(), "quorlin/recipes", objects.recipes);
     offerServices(scripts, fileServices(), "quorlin/records", new jobs::RunRecords(&scripts));
+    offerServices(scripts, fileServices(), "quorlin/web", objects.pages);
     offerServices(scripts, fileServices(), "quorlin/watch", new jobs::WatchService(&scripts));
     offerServices(scripts, fileServices(), "quorlin/pages", nullptr);
 }

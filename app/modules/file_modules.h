@@ -8,8 +8,9 @@ namespace image {
 class PictureService;
 }
 namespace jobs {
+class PageService;
 class RecipeService;
-}
+} // namespace jobs
 
 namespace script {
 
@@ -17,7 +18,7 @@ class ProgramFiles;
 
 class ScriptEngine;
 
-/** The services of the modules "quorlin/files", "quorlin/moves", "quorlin/pictures", "quorlin/tokens", "quorlin/recipes", "quorlin/watch" and "quorlin/pages". */
+/** The services of the modules "quorlin/files", "moves", "pictures", "tokens", "recipes", "records", "watch", "pages" and "web". */
 std::vector<ServiceEntry> fileServices();
 
 /** Those of them that look into pictures; each belongs to whoever is given it. */
@@ -26,6 +27,7 @@ struct FileObjects
     ProgramFiles *files;
     image::PictureService *pictures;
     jobs::RecipeService *recipes;
+    jobs::PageService *pages;
 };
 
 /** Adds the modules of fileServices(). They need no window. */

@@ -121,4 +121,9 @@ text::TokenFacts ReadingRecipes::tokenFacts(const QString &path, int index) cons
     return jobs::withPictureFacts(jobs::factsOfFile(path, index, true), KnownPictures::ofProcess().now(path).facts);
 }
 
+QVariantMap ReadingPages::textsOf(const QString &path) const
+{
+    return jobs::pageTextValues(read(Reading::Properties, path).value("properties").toMap());
+}
+
 } // namespace window

@@ -2,6 +2,7 @@
 
 #include "app/modules/program_files.h"
 #include "image/services/picture_service.h"
+#include "jobs/services/page_service.h"
 #include "jobs/services/recipe_service.h"
 
 /**
@@ -51,6 +52,16 @@ public:
 
 protected:
     text::TokenFacts tokenFacts(const QString &path, int index) const override;
+};
+
+class ReadingPages : public jobs::PageService
+{
+    Q_OBJECT
+
+public:
+    using PageService::PageService;
+
+    QVariantMap textsOf(const QString &path) const override;
 };
 
 } // namespace window

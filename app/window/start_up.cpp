@@ -41,7 +41,7 @@ StartUp::StartUp(QApplication &application)
     platform::setWindowControls(std::make_unique<WidgetControls>());
     m_scripts = std::make_unique<script::ScriptEngine>();
     script::addFileModules(*m_scripts, {new ReadingFiles(m_scripts.get()), new ReadingPictures(m_scripts.get()),
-                                        new ReadingRecipes(m_scripts.get())});
+                                        new ReadingRecipes(m_scripts.get()), new ReadingPages(m_scripts.get())});
     addShellModule(*m_scripts, *m_shell);
     jobs::WorkerDesk::forWaiting().warmUp();
     QObject::connect(m_scripts.get(), &script::ScriptEngine::uncaughtError, m_shell.get(),

@@ -8752,6 +8752,60 @@
     </message>
 </context>
 <context>
+    <name>site-run</name>
+    <message>
+        <source>The disk is full</source>
+        <translation>Der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>There is no room left in %1.</source>
+        <translation>In %1 ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>The page can go on when there is room.</source>
+        <translation>Die Seite kann weitergehen, sobald Platz ist.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>made, waits for the page</source>
+        <translation>fertig, wartet auf die Seite</translation>
+    </message>
+    <message>
+        <source>not on the page</source>
+        <translation>nicht auf der Seite</translation>
+    </message>
+    <message>
+        <source>no picture could be made</source>
+        <translation>es konnte kein Bild erzeugt werden</translation>
+    </message>
+    <message>
+        <source>cancelled, the page was not made</source>
+        <translation>abgebrochen, die Seite wurde nicht erzeugt</translation>
+    </message>
+    <message>
+        <source>the page was not made: %1</source>
+        <translation>die Seite wurde nicht erzeugt: %1</translation>
+    </message>
+    <message>
+        <source>The page was not made: %1</source>
+        <translation>Die Seite wurde nicht erzeugt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>sites</name>
+    <message>
+        <source>A page that Quorlin made in this folder is brought up to date.</source>
+        <translation>Eine Seite von Quorlin in diesem Ordner wird auf den neuen Stand gebracht.</translation>
+    </message>
+</context>
+<context>
     <name>sort-action</name>
     <message numerus="yes">
         <source>Sort %n Files into Folders</source>
@@ -9740,6 +9794,97 @@
         <source>Portrait</source>
         <translation>Hochformat</translation>
     </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Überschrift</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Bildbeschreibung</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Urheber</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>Copyright-Vermerk</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <translation>Ortsteil</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stadt</translation>
+    </message>
+    <message>
+        <source>State or province</source>
+        <translation>Bundesland oder Provinz</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Koordinaten</translation>
+    </message>
+    <message>
+        <source>{%1} tells where a picture was taken. Allow places first, or leave it out.</source>
+        <translation>{%1} sagt, wo ein Bild aufgenommen wurde. Erlauben Sie zuerst Orte oder lassen Sie es weg.</translation>
+    </message>
+</context>
+<context>
+    <name>text::PageTemplate</name>
+    <message>
+        <source>a picture has no files</source>
+        <translation>ein Bild hat keine Dateien</translation>
+    </message>
+    <message>
+        <source>{{#%1}} is not closed</source>
+        <translation>{{#%1}} wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>a field is not closed</source>
+        <translation>ein Feld wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>there is no field {{%1}}</source>
+        <translation>es gibt kein Feld {{%1}}</translation>
+    </message>
+    <message>
+        <source>{{%1}} stands outside {{#pictures}}</source>
+        <translation>{{%1}} steht außerhalb von {{#pictures}}</translation>
+    </message>
+    <message>
+        <source>{{pictures}} must be {{#pictures}}</source>
+        <translation>{{pictures}} muss {{#pictures}} heißen</translation>
+    </message>
+    <message>
+        <source>{{%1}} cannot stand in a &lt;%2&gt;</source>
+        <translation>{{%1}} kann nicht in einem &lt;%2&gt; stehen</translation>
+    </message>
+    <message>
+        <source>{{#pictures}} cannot stand here</source>
+        <translation>{{#pictures}} kann hier nicht stehen</translation>
+    </message>
+    <message>
+        <source>{{/%1}} closes nothing</source>
+        <translation>{{/%1}} schließt nichts</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>token-menu</name>
@@ -10095,6 +10240,91 @@
     <message>
         <source>Enter an angle from -180 to 180 degrees.</source>
         <translation>Geben Sie einen Winkel von -180 bis 180 Grad ein.</translation>
+    </message>
+</context>
+<context>
+    <name>web-folder</name>
+    <message>
+        <source>The folder %1 cannot be written.</source>
+        <translation>In den Ordner %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 is no page that Quorlin made; it is left as it is.</source>
+        <translation>%1 ist keine Seite von Quorlin und bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by somebody else since; it is left as it is.</source>
+        <translation>%1 wurde seitdem von anderen geändert und bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>The page could not be written.</source>
+        <translation>Die Seite konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>What was read back of the page is not what was written.</source>
+        <translation>Was von der Seite zurückgelesen wurde, ist nicht das Geschriebene.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>no free name was found</source>
+        <translation>es wurde kein freier Name gefunden</translation>
+    </message>
+    <message>
+        <source>Something else is at %1 now.</source>
+        <translation>An der Stelle von %1 ist jetzt etwas anderes.</translation>
+    </message>
+</context>
+<context>
+    <name>web-making</name>
+    <message>
+        <source>Template, %1</source>
+        <translation>Vorlage, %1</translation>
+    </message>
+</context>
+<context>
+    <name>web-step</name>
+    <message>
+        <source>Web Page</source>
+        <translation>Webseite</translation>
+    </message>
+    <message>
+        <source>The template %1 cannot be read.</source>
+        <translation>Die Vorlage %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The name of the folder cannot have a / in it.</source>
+        <translation>Der Name des Ordners darf kein / enthalten.</translation>
+    </message>
+    <message>
+        <source>Sizes are whole numbers from %1 to %2, each larger than the one before.</source>
+        <translation>Größen sind ganze Zahlen von %1 bis %2, jede größer als die vorige.</translation>
+    </message>
+    <message>
+        <source>The quality is a whole number from 1 to 100.</source>
+        <translation>Die Qualität ist eine ganze Zahl von 1 bis 100.</translation>
+    </message>
+    <message>
+        <source>%1 is no code of a language.</source>
+        <translation>%1 ist kein Code einer Sprache.</translation>
+    </message>
+    <message>
+        <source>Template, %1</source>
+        <translation>Vorlage, %1</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Reihen</translation>
+    </message>
+    <message>
+        <source>Story</source>
+        <translation>Erzählung</translation>
     </message>
 </context>
 <context>

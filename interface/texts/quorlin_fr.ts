@@ -8752,6 +8752,60 @@
     </message>
 </context>
 <context>
+    <name>site-run</name>
+    <message>
+        <source>The disk is full</source>
+        <translation>Le disque est plein</translation>
+    </message>
+    <message>
+        <source>There is no room left in %1.</source>
+        <translation>Il n’y a plus de place dans %1.</translation>
+    </message>
+    <message>
+        <source>The page can go on when there is room.</source>
+        <translation>La page peut continuer dès qu’il y a de la place.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>made, waits for the page</source>
+        <translation>faite, attend la page</translation>
+    </message>
+    <message>
+        <source>not on the page</source>
+        <translation>pas sur la page</translation>
+    </message>
+    <message>
+        <source>no picture could be made</source>
+        <translation>aucune image n’a pu être créée</translation>
+    </message>
+    <message>
+        <source>cancelled, the page was not made</source>
+        <translation>annulé, la page n’a pas été créée</translation>
+    </message>
+    <message>
+        <source>the page was not made: %1</source>
+        <translation>la page n’a pas été créée : %1</translation>
+    </message>
+    <message>
+        <source>The page was not made: %1</source>
+        <translation>La page n’a pas été créée : %1</translation>
+    </message>
+</context>
+<context>
+    <name>sites</name>
+    <message>
+        <source>A page that Quorlin made in this folder is brought up to date.</source>
+        <translation>Une page créée par Quorlin dans ce dossier est mise à jour.</translation>
+    </message>
+</context>
+<context>
     <name>sort-action</name>
     <message numerus="yes">
         <source>Sort %n Files into Folders</source>
@@ -9740,6 +9794,97 @@
         <source>Portrait</source>
         <translation>Portrait</translation>
     </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Titre court</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>Mention de copyright</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <translation>Lieu précis</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <source>State or province</source>
+        <translation>État ou province</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Pays</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordonnées</translation>
+    </message>
+    <message>
+        <source>{%1} tells where a picture was taken. Allow places first, or leave it out.</source>
+        <translation>{%1} indique où une image a été prise. Autorisez d’abord les lieux ou retirez cette valeur.</translation>
+    </message>
+</context>
+<context>
+    <name>text::PageTemplate</name>
+    <message>
+        <source>a picture has no files</source>
+        <translation>une image n’a pas de fichiers</translation>
+    </message>
+    <message>
+        <source>{{#%1}} is not closed</source>
+        <translation>{{#%1}} n’est pas fermé</translation>
+    </message>
+    <message>
+        <source>a field is not closed</source>
+        <translation>un champ n’est pas fermé</translation>
+    </message>
+    <message>
+        <source>there is no field {{%1}}</source>
+        <translation>il n’y a pas de champ {{%1}}</translation>
+    </message>
+    <message>
+        <source>{{%1}} stands outside {{#pictures}}</source>
+        <translation>{{%1}} se trouve hors de {{#pictures}}</translation>
+    </message>
+    <message>
+        <source>{{pictures}} must be {{#pictures}}</source>
+        <translation>{{pictures}} doit s’écrire {{#pictures}}</translation>
+    </message>
+    <message>
+        <source>{{%1}} cannot stand in a &lt;%2&gt;</source>
+        <translation>{{%1}} ne peut pas se trouver dans un &lt;%2&gt;</translation>
+    </message>
+    <message>
+        <source>{{#pictures}} cannot stand here</source>
+        <translation>{{#pictures}} ne peut pas se trouver ici</translation>
+    </message>
+    <message>
+        <source>{{/%1}} closes nothing</source>
+        <translation>{{/%1}} ne ferme rien</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>token-menu</name>
@@ -10095,6 +10240,91 @@
     <message>
         <source>Enter an angle from -180 to 180 degrees.</source>
         <translation>Saisissez un angle de -180 à 180 degrés.</translation>
+    </message>
+</context>
+<context>
+    <name>web-folder</name>
+    <message>
+        <source>The folder %1 cannot be written.</source>
+        <translation>Impossible d’écrire dans le dossier %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no page that Quorlin made; it is left as it is.</source>
+        <translation>%1 n’est pas une page créée par Quorlin ; elle reste telle quelle.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by somebody else since; it is left as it is.</source>
+        <translation>%1 a été modifié depuis par quelqu’un d’autre ; il reste tel quel.</translation>
+    </message>
+    <message>
+        <source>The page could not be written.</source>
+        <translation>La page n’a pas pu être écrite.</translation>
+    </message>
+    <message>
+        <source>What was read back of the page is not what was written.</source>
+        <translation>Ce qui a été relu de la page n’est pas ce qui a été écrit.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>no free name was found</source>
+        <translation>aucun nom libre n’a été trouvé</translation>
+    </message>
+    <message>
+        <source>Something else is at %1 now.</source>
+        <translation>Autre chose se trouve maintenant à %1.</translation>
+    </message>
+</context>
+<context>
+    <name>web-making</name>
+    <message>
+        <source>Template, %1</source>
+        <translation>Modèle, %1</translation>
+    </message>
+</context>
+<context>
+    <name>web-step</name>
+    <message>
+        <source>Web Page</source>
+        <translation>Page web</translation>
+    </message>
+    <message>
+        <source>The template %1 cannot be read.</source>
+        <translation>Le modèle %1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The name of the folder cannot have a / in it.</source>
+        <translation>Le nom du dossier ne peut pas contenir de /.</translation>
+    </message>
+    <message>
+        <source>Sizes are whole numbers from %1 to %2, each larger than the one before.</source>
+        <translation>Les tailles sont des nombres entiers de %1 à %2, chacune plus grande que la précédente.</translation>
+    </message>
+    <message>
+        <source>The quality is a whole number from 1 to 100.</source>
+        <translation>La qualité est un nombre entier de 1 à 100.</translation>
+    </message>
+    <message>
+        <source>%1 is no code of a language.</source>
+        <translation>%1 n’est pas un code de langue.</translation>
+    </message>
+    <message>
+        <source>Template, %1</source>
+        <translation>Modèle, %1</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grille</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rangées</translation>
+    </message>
+    <message>
+        <source>Story</source>
+        <translation>Récit</translation>
     </message>
 </context>
 <context>

@@ -8752,6 +8752,60 @@
     </message>
 </context>
 <context>
+    <name>site-run</name>
+    <message>
+        <source>The disk is full</source>
+        <translation>De schijf is vol</translation>
+    </message>
+    <message>
+        <source>There is no room left in %1.</source>
+        <translation>Er is geen ruimte meer in %1.</translation>
+    </message>
+    <message>
+        <source>The page can go on when there is room.</source>
+        <translation>De pagina kan verdergaan zodra er ruimte is.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>made, waits for the page</source>
+        <translation>klaar, wacht op de pagina</translation>
+    </message>
+    <message>
+        <source>not on the page</source>
+        <translation>niet op de pagina</translation>
+    </message>
+    <message>
+        <source>no picture could be made</source>
+        <translation>er kon geen foto worden gemaakt</translation>
+    </message>
+    <message>
+        <source>cancelled, the page was not made</source>
+        <translation>geannuleerd, de pagina is niet gemaakt</translation>
+    </message>
+    <message>
+        <source>the page was not made: %1</source>
+        <translation>de pagina is niet gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>The page was not made: %1</source>
+        <translation>De pagina is niet gemaakt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>sites</name>
+    <message>
+        <source>A page that Quorlin made in this folder is brought up to date.</source>
+        <translation>Een pagina van Quorlin in deze map wordt bijgewerkt.</translation>
+    </message>
+</context>
+<context>
     <name>sort-action</name>
     <message numerus="yes">
         <source>Sort %n Files into Folders</source>
@@ -9740,6 +9794,97 @@
         <source>Portrait</source>
         <translation>Staand</translation>
     </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Kop</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Bijschrift</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Maker</translation>
+    </message>
+    <message>
+        <source>Copyright notice</source>
+        <translation>Copyrightvermelding</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Trefwoorden</translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <translation>Locatie binnen de plaats</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>State or province</source>
+        <translation>Staat of provincie</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coördinaten</translation>
+    </message>
+    <message>
+        <source>{%1} tells where a picture was taken. Allow places first, or leave it out.</source>
+        <translation>{%1} vertelt waar een foto is gemaakt. Sta eerst plaatsen toe of laat het weg.</translation>
+    </message>
+</context>
+<context>
+    <name>text::PageTemplate</name>
+    <message>
+        <source>a picture has no files</source>
+        <translation>een foto heeft geen bestanden</translation>
+    </message>
+    <message>
+        <source>{{#%1}} is not closed</source>
+        <translation>{{#%1}} wordt niet gesloten</translation>
+    </message>
+    <message>
+        <source>a field is not closed</source>
+        <translation>een veld wordt niet gesloten</translation>
+    </message>
+    <message>
+        <source>there is no field {{%1}}</source>
+        <translation>er is geen veld {{%1}}</translation>
+    </message>
+    <message>
+        <source>{{%1}} stands outside {{#pictures}}</source>
+        <translation>{{%1}} staat buiten {{#pictures}}</translation>
+    </message>
+    <message>
+        <source>{{pictures}} must be {{#pictures}}</source>
+        <translation>{{pictures}} moet {{#pictures}} zijn</translation>
+    </message>
+    <message>
+        <source>{{%1}} cannot stand in a &lt;%2&gt;</source>
+        <translation>{{%1}} kan niet in een &lt;%2&gt; staan</translation>
+    </message>
+    <message>
+        <source>{{#pictures}} cannot stand here</source>
+        <translation>{{#pictures}} kan hier niet staan</translation>
+    </message>
+    <message>
+        <source>{{/%1}} closes nothing</source>
+        <translation>{{/%1}} sluit niets</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>regel %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>token-menu</name>
@@ -10095,6 +10240,91 @@
     <message>
         <source>Enter an angle from -180 to 180 degrees.</source>
         <translation>Geef een hoek op van -180 tot 180 graden.</translation>
+    </message>
+</context>
+<context>
+    <name>web-folder</name>
+    <message>
+        <source>The folder %1 cannot be written.</source>
+        <translation>In de map %1 kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>%1 is no page that Quorlin made; it is left as it is.</source>
+        <translation>%1 is geen pagina van Quorlin en blijft zoals ze is.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by somebody else since; it is left as it is.</source>
+        <translation>%1 is sindsdien door iemand anders gewijzigd en blijft zoals het is.</translation>
+    </message>
+    <message>
+        <source>The page could not be written.</source>
+        <translation>De pagina kon niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>What was read back of the page is not what was written.</source>
+        <translation>Wat van de pagina is teruggelezen, is niet wat is geschreven.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>no free name was found</source>
+        <translation>er is geen vrije naam gevonden</translation>
+    </message>
+    <message>
+        <source>Something else is at %1 now.</source>
+        <translation>Op %1 staat nu iets anders.</translation>
+    </message>
+</context>
+<context>
+    <name>web-making</name>
+    <message>
+        <source>Template, %1</source>
+        <translation>Sjabloon, %1</translation>
+    </message>
+</context>
+<context>
+    <name>web-step</name>
+    <message>
+        <source>Web Page</source>
+        <translation>Webpagina</translation>
+    </message>
+    <message>
+        <source>The template %1 cannot be read.</source>
+        <translation>Het sjabloon %1 kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>The name of the folder cannot have a / in it.</source>
+        <translation>De naam van de map mag geen / bevatten.</translation>
+    </message>
+    <message>
+        <source>Sizes are whole numbers from %1 to %2, each larger than the one before.</source>
+        <translation>Formaten zijn gehele getallen van %1 tot %2, elk groter dan het vorige.</translation>
+    </message>
+    <message>
+        <source>The quality is a whole number from 1 to 100.</source>
+        <translation>De kwaliteit is een geheel getal van 1 tot 100.</translation>
+    </message>
+    <message>
+        <source>%1 is no code of a language.</source>
+        <translation>%1 is geen taalcode.</translation>
+    </message>
+    <message>
+        <source>Template, %1</source>
+        <translation>Sjabloon, %1</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rijen</translation>
+    </message>
+    <message>
+        <source>Story</source>
+        <translation>Verhaal</translation>
     </message>
 </context>
 <context>

@@ -77,7 +77,7 @@ SUB_ROOMS = {
         "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },
     "image": {"types": "", "": "types", "recipe": "*", "services": "*"},
-    "text": {"": "", "services": "*"},
+    "text": {"": "", "page": "*", "services": "*"},
     "files": {
         "items": "",
         "planning": "",

@@ -1,6 +1,7 @@
 #include "text/services/token_text.h"
 
 #include "text/safe_names.h"
+#include "text/services/token_facts.h"
 
 #include "platform/foundation/raised.h"
 #include "platform/values/fields.h"
@@ -19,26 +20,6 @@ qint64 wholeIndex(double index)
         throw platform::Raised::rangeError(
             QStringLiteral("Expected a whole number for index but received %1").arg(index));
     return qint64(index);
-}
-
-text::TokenFacts factsFrom(const QVariantMap &map, const QString &path)
-{
-    text::TokenFacts facts;
-    facts.path = path;
-    if (map.isEmpty())
-        return facts;
-    const platform::Fields fields(map, QStringLiteral("facts"));
-    facts.taken = fields.text("taken");
-    facts.created = fields.text("created");
-    facts.changed = fields.text("changed");
-    facts.camera = fields.text("camera");
-    facts.lens = fields.text("lens");
-    facts.type = fields.text("type");
-    facts.size = fields.text("size");
-    const double bytes = fields.number("bytes", -1);
-    facts.bytes = bytes >= 0 ? qint64(std::min(bytes, mostCounted)) : -1;
-    facts.pixels = QSize(fields.whole("width", 0), fields.whole("height", 0));
-    return facts;
 }
 
 } // namespace
@@ -98,7 +79,7 @@ text::StandIn TokenText::standInForMissing() const
 
 QStringList TokenText::expand(const QString &path, const QVariantMap &facts, double index) const
 {
-    text::TokenFacts known = factsFrom(facts, path);
+    text::TokenFacts known = text::tokenFactsFrom(facts, path);
     known.index = wholeIndex(index);
     const text::Clean clean = m_values == Values::Plain  ? text::Clean()
                               : m_values == Values::Name ? text::Clean(text::asPartOfName)

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QVariantMap>
+
+namespace jobs {
+
+/**
+ * What the metadata of a picture says of it, by the names of text::captionTokens(); what it does not say is missing.
+ *
+ * @param properties  see platform::ImageSource::properties(). XMP counts before IPTC, and that before EXIF
+ */
+QHash<QString, QString> pageTexts(const QVariantMap &properties);
+
+} // namespace jobs

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "text/token_values.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+namespace text {
+
+/** What captions of a page can say of a picture beside the tokens of names: {title}, {caption}, {creator} and others. */
+QStringList captionTokens();
+
+/** Those of them that tell where a picture was taken: {city} and others. */
+QStringList placeTokens();
+
+/** What a token of captions stands for, in the reader's words. */
+QString captionTokenWords(const QString &name);
+
+enum class Places { MayBeTold, AreKeptBack };
+
+/** What is wrong with the pattern of captions, as sentences; places that are kept back are refused. */
+QStringList captionProblems(const QString &pattern, Places places);
+
+/** Whether the pattern says anything that stands in the metadata of a picture. */
+bool needsPictureTexts(const QString &pattern);
+
+/**
+ * The caption of one picture; what it lacks is nothing, and lines in which nothing is left are left out.
+ *
+ * @param texts  by the names of captionTokens()
+ */
+QString captionFor(const QString &pattern, const TokenFacts &facts, const QHash<QString, QString> &texts);
+
+} // namespace text

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/foundation/result.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace text {
+
+/** What stands for the fields of a template in one place: of the page, or of one of its pictures. */
+struct PageValues
+{
+    /** Plain texts, which are escaped where they are put in; one that is missing is empty. */
+    QHash<QString, QString> texts;
+    /** Those that are put in as they are: what is in them is escaped already. */
+    QHash<QString, QString> markup;
+    QList<PageValues> pictures;
+};
+
+/**
+ * The file that a web page is made from: HTML with fields. {{name}} is replaced by its value; {{#name}} ... {{/name}} stays where that
+ * has a value, {{^name}} ... {{/name}} where it has none, and {{#pictures}} ... {{/pictures}} is repeated for each picture.
+ * A field that begins with "picture" stands within one of these.
+ */
+class PageTemplate
+{
+public:
+    /** Fails with InvalidValue; the sentence names line and field: "line 3: there is no field {{titel}}". */
+    static platform::Result<PageTemplate> read(const QString &text);
+
+    QString fill(const PageValues &page) const;
+
+    /** All fields: those of the page, then those of its pictures. */
+    static QStringList fields();
+
+private:
+    enum class Kind { Text, Field, Where, Unless, Pictures };
+    struct Part
+    {
+        Kind kind = Kind::Text;
+        QString text; ///< what stands there, or the name of the field
+        int line = 0;
+        std::vector<Part> inner;
+    };
+    class Reader;
+    static void fillInto(QString &html, const std::vector<Part> &parts, const PageValues &page,
+                         const PageValues *picture);
+
+    std::vector<Part> m_parts;
+};
+
+/** A text as it stands between tags and in quoted attributes; signs that no page may hold are left out. */
+QString escapedForPage(const QString &text);
+
+} // namespace text

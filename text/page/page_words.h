@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+namespace text {
+
+/** The words that a page has beside those of its maker. */
+struct PageWords
+{
+    QString language; ///< that they are in: "en", "de", "fr" or "nl"
+    QString pictures;
+    QString picture; ///< "Picture %1 of %2"
+    QString close;
+    QString next;
+    QString previous;
+    QString download;
+};
+
+/** The words for pages in a language, such as "de" or "de-AT"; English where there are none in it. */
+PageWords pageWords(const QString &language);
+
+/** Whether a text can be the code of a language: "de", "pt-BR", "zh-Hant". */
+bool isLanguageCode(const QString &language);
+
+/** Whether a language is written from right to left, as Arabic is; by its code. */
+bool isWrittenFromTheRight(const QString &language);
+
+} // namespace text
