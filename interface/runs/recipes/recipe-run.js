@@ -57,10 +57,15 @@ export class RecipeRun extends WriteRun {
         this.startPlanning(all.filter((id) => isWanted[id]));
         this.isWanted = all.map((id) => isWanted[id] === true);
         this.simulated = this.settings.simulation;
-        const work = recipePlan(this.window, all, this.settings);
+        const work = recipePlan(this.window, all, this.planned(this.settings));
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
                        guard("run.planEnd", (how, value) => this.planEnded(how, value)));
         this.changed();
+    }
+
+    /** The recipe of the settings: {text, folder, base}. */
+    planned(settings) {
+        return settings;
     }
 
     takeItem(item) {
@@ -138,11 +143,15 @@ export class RecipeRun extends WriteRun {
     }
 
     // In the order of the list, and of the outputs.
-    * keepLog() {
+    logRows() {
         const action = this.window.action;
         const about = action.step.describe(this.settings);
         const now = new Date().toISOString();
-        this.rows = joined(this.finals).map((final) => logRow(final, action.title(), about, now));
+        return joined(this.finals).map((final) => logRow(final, action.title(), about, now));
+    }
+
+    * keepLog() {
+        this.rows = this.logRows();
         const problem = yield* super.keepLog();
         return problem;
     }

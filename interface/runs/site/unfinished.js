@@ -1,0 +1,27 @@
+// The folders in which pages are being made, kept so that a start after a crash removes what is unfinished there. The defaults and the
+// files are handed in.
+
+import { keep, recall } from "../../lib/store.js";
+
+const KEY = "UnfinishedPages";
+
+function noted(defaults) {
+    return recall(defaults, KEY, { folders: [] }).folders.filter((folder) => typeof folder === "string");
+}
+
+export function noteUnfinished(defaults, folder) {
+    keep(defaults, KEY, { folders: noted(defaults).filter((each) => each !== folder).concat([folder]) });
+}
+
+export function forgetUnfinished(defaults, folder) {
+    keep(defaults, KEY, { folders: noted(defaults).filter((each) => each !== folder) });
+}
+
+/** Removes what processes that have ended left; what another one is still at stays, as in every sweep. */
+export function removeUnfinished(defaults, files) {
+    const folders = noted(defaults);
+    folders.forEach((folder) => files.sweep(folder));
+    if (folders.length > 0) {
+        keep(defaults, KEY, { folders: [] });
+    }
+}
