@@ -1536,8 +1536,9 @@ declare module "quorlin/moves" {
         addItems(order: text, items: Wish[]): null;
         /** Works for about so long; true when all is ready. Nothing moves. */
         prepare(order: text, milliseconds: whole): boolean;
-        /** Begins the run. */
-        carryOut(order: text): { run: string } | { problem: string };
+        /** Begins the run; one that takes another back has a count of items, and problems. */
+        carryOut(order: text):
+            { run: string; count?: whole; problems?: Problem[] } | { problem: string; problems?: Problem[] };
         /** Gives it up. */
         dropOrder(order: text): null;
         /** Carries out one more item; null after the last one. */
@@ -1554,6 +1555,11 @@ declare module "quorlin/moves" {
         undo(run: text):
             | { run: string; items: { kind: kind | "trash" | "remove"; from: string; to: string }[]; problems: Problem[] }
             | { problem: string; problems: Problem[] };
+        /** The same in slices: prepare(), carryOut() and dropOrder() go on as for any order. */
+        beginUndo(run: text): string;
+        /** The items of a run that is open, from `from` to before `to`. */
+        itemsOf(run: text, from: whole, to: whole):
+            { kind: kind | "trash" | "remove"; from: string; to: string }[];
         /** The last 200, the newest first. */
         runs(): Run[];
         /** Ends what a crash interrupted; runs of another living process are left alone. Once, at start. */

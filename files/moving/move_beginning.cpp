@@ -98,6 +98,7 @@ public:
 
     PlainPaths plain;
     std::vector<Displacement> displacements;
+    std::optional<MoveOrdering> ordering; ///< once all are known
 };
 
 MoveBeginning::MoveBeginning(platform::FileSystem &disk, JournalShelf &shelf, MoveOrderForm form)
@@ -141,7 +142,11 @@ void MoveBeginning::look()
 
 void MoveBeginning::order()
 {
-    m_record.steps = orderMoves(m_looking->displacements).steps;
+    if (!m_looking->ordering)
+        m_looking->ordering.emplace(std::move(m_looking->displacements));
+    if (!m_looking->ordering->step())
+        return;
+    m_record.steps = m_looking->ordering->take().steps;
     for (const MoveStep &step : m_record.steps)
         if (step.isAhead)
             m_record.items[size_t(step.item)].item.isAhead = true;

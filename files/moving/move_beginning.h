@@ -18,7 +18,7 @@ public:
     MoveBeginning(const MoveBeginning &) = delete;
     MoveBeginning &operator=(const MoveBeginning &) = delete;
 
-    /** Works for about this long, and always gets somewhere; true when all is done. The order is found in one go. */
+    /** Works for about this long, and always gets somewhere; true when all is done. */
     bool workFor(std::chrono::milliseconds time);
     /** The run; fails where its journal could not be written. Once, when workFor() said true. */
     platform::Result<std::unique_ptr<MoveRun>> take();

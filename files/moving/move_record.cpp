@@ -107,10 +107,10 @@ void insertState(QJsonObject &object, const char *name, const std::optional<Item
 }
 
 /** Takes the lines of a journal, one after the other. */
-class Reader
+class JournalReader
 {
 public:
-    explicit Reader(qsizetype journalSize) : m_mostItems(journalSize) {}
+    explicit JournalReader(qsizetype mostItems) : m_mostItems(mostItems) {}
 
     RunRecord run;
 
@@ -383,21 +383,48 @@ QByteArray endLine(const QString &end, int count, int done)
     return lineOf({{key("end"), end}, {key("count"), count}, {key("done"), done}});
 }
 
-RunRecord readRecord(const QByteArray &journal)
+class RecordReading::Reader : public JournalReader
+{
+public:
+    using JournalReader::JournalReader;
+};
+
+RecordReading::RecordReading(const QByteArray &journal) : m_journal(journal)
 {
     constexpr qsizetype shortestItem = 32;
-    Reader reader(journal.size() / shortestItem);
-    qsizetype at = 0;
-    for (qsizetype end = 0; (end = journal.indexOf('\n', at)) >= 0; at = end + 1)
-        if (end > at)
-            reader.take(QByteArrayView(journal).sliced(at, end - at));
-    reader.takeCut(QByteArrayView(journal).sliced(at));
-    return reader.whole();
+    m_reader = std::make_unique<Reader>(journal.size() / shortestItem);
+}
+
+RecordReading::~RecordReading() = default;
+
+bool RecordReading::step()
+{
+    const qsizetype end = m_journal.indexOf('\n', m_at);
+    if (end < 0)
+        return true;
+    if (end > m_at)
+        m_reader->take(QByteArrayView(m_journal).sliced(m_at, end - m_at));
+    m_at = end + 1;
+    return false;
+}
+
+RunRecord RecordReading::take()
+{
+    m_reader->takeCut(QByteArrayView(m_journal).sliced(m_at));
+    return m_reader->whole();
+}
+
+RunRecord readRecord(const QByteArray &journal)
+{
+    RecordReading reading(journal);
+    while (!reading.step())
+        ;
+    return reading.take();
 }
 
 RunRecord summaryOf(const std::pair<QByteArray, QByteArray> &ends)
 {
-    Reader reader(0);
+    JournalReader reader(0);
     reader.take(QByteArrayView(ends.first).trimmed());
     if (objectIn(ends.second).contains(key("end")))
         reader.take(ends.second);

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -115,6 +116,26 @@ QByteArray endLine(const QString &end, int count, int done);
  * Items whose lines are damaged are there, unknown and skipped, so that the numbers of the others are right.
  */
 RunRecord readRecord(const QByteArray &journal);
+
+/** The same a line at a time, for a window that is to answer meanwhile. */
+class RecordReading
+{
+public:
+    explicit RecordReading(const QByteArray &journal);
+    ~RecordReading();
+
+    /** Reads a line; true when there is none left. */
+    bool step();
+    /** Once, when step() said true. */
+    RunRecord take();
+
+private:
+    class Reader;
+    QByteArray m_journal;
+    qsizetype m_at = 0;
+    std::unique_ptr<Reader> m_reader;
+};
+
 /** A run without its items, from the first and the last line of its journal. */
 RunRecord summaryOf(const std::pair<QByteArray, QByteArray> &ends);
 

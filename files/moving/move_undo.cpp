@@ -1,6 +1,7 @@
 #include "files/moving/move_undo.h"
 
 #include "files/moving/move_paths.h"
+#include "files/moving/standing_items.h"
 #include "files/planning/move_names.h"
 
 #include "platform/foundation/paths.h"
@@ -8,7 +9,7 @@
 #include <QCoreApplication>
 #include <QHash>
 
-#include <set>
+#include <utility>
 
 namespace files {
 namespace {
@@ -86,98 +87,79 @@ QString keyOf(const QString &path)
 }
 
 /** Leaves out what wants a place that something else keeps, and then what wanted the place of that. */
-void leaveOutHindered(const platform::FileSystem &disk, std::vector<MoveItem> &operations,
-                      std::vector<UndoProblem> &problems)
-{
-    QHash<QString, int> leaving;
-    QHash<QString, int> similar; // on a disk that does not tell cases apart
-    QHash<QString, int> taking;
-    std::vector<int> questions;
-    for (int i = 0; i < int(operations.size()); ++i) {
-        if (leavesPlace(operations[size_t(i)])) {
-            leaving.insert(operations[size_t(i)].from, i);
-            similar.insert(keyOf(operations[size_t(i)].from), i);
-        }
-        if (takesPlace(operations[size_t(i)])) {
-            taking.insert(operations[size_t(i)].to, i);
-            questions.push_back(i);
-        }
-    }
-    std::vector<bool> isOut(operations.size());
-    while (!questions.empty()) {
-        const int i = questions.back();
-        questions.pop_back();
-        const MoveItem &operation = operations[size_t(i)];
-        const int leaver = leaving.value(operation.to, similar.value(keyOf(operation.to), -1));
-        const auto there = isOut[size_t(i)] ? std::nullopt : disk.look(operation.to);
-        const auto own = there && operation.operation == Operation::Move ? disk.look(operation.from) : std::nullopt;
-        const bool isItself = own && isSameItem(*there, *own);
-        if (!there || isItself || (leaver >= 0 && !isOut[size_t(leaver)]))
-            continue;
-        isOut[size_t(i)] = true;
-        problems.push_back(problemAt(operation.to, MoveProblem::Taken));
-        if (const int waiting = taking.value(operation.from, -1); leavesPlace(operation) && waiting >= 0)
-            questions.push_back(waiting);
-    }
-    std::vector<MoveItem> kept;
-    for (size_t i = 0; i < operations.size(); ++i)
-        if (!isOut[i])
-            kept.push_back(operations[i]);
-    operations = std::move(kept);
-}
-
-RunRecord recordOf(const JournalShelf &shelf, const QString &run)
-{
-    if (!shelf.names().contains(run))
-        return {};
-    RunRecord record = readRecord(shelf.read(run).value_or(QByteArray()));
-    if (record.isDamaged)
-        record.id = run;
-    return record;
-}
-
-/** Which runs take back which, as the journals tell. */
-class Undoers
+class HinderedOnes
 {
 public:
-    explicit Undoers(const JournalShelf &shelf) : m_shelf(shelf)
+    HinderedOnes(const platform::FileSystem &disk, std::vector<MoveItem> operations)
+        : m_disk(disk), m_operations(std::move(operations)), m_isOut(m_operations.size())
     {
-        for (const QString &name : shelf.names())
-            if (const QString undoes = summaryOf(shelf.ends(name)).undoes; !undoes.isEmpty())
-                m_undoers.insert(undoes, name);
     }
 
-    /** The items of a run that were done and not taken back, by it or by a run that still stands. */
-    std::set<int> standingItems(const RunRecord &run)
+    /** Does what one operation needs; true when all are dealt with. */
+    bool step()
     {
-        std::set<int> standing;
-        for (int i = 0; i < int(run.items.size()); ++i)
-            if (run.items[size_t(i)].stand == Stand::Done && run.items[size_t(i)].isKnown)
-                standing.insert(i);
-        m_seen.insert(run.id);
-        for (const QString &name : m_undoers.values(run.id)) {
-            if (m_seen.contains(name)) // a damaged journal can take itself back
-                continue;
-            const RunRecord undo = readRecord(m_shelf.read(name).value_or(QByteArray()));
-            if (undo.id == name)
-                for (const int item : standingItems(undo))
-                    standing.erase(undo.items[size_t(item)].item.of);
-        }
-        return standing;
+        if (m_next < int(m_operations.size()))
+            note(m_next++);
+        else if (!m_questions.empty())
+            ask();
+        else
+            return true;
+        return false;
+    }
+
+    std::vector<UndoProblem> problems;
+
+    std::vector<MoveItem> kept() const
+    {
+        std::vector<MoveItem> kept;
+        for (size_t i = 0; i < m_operations.size(); ++i)
+            if (!m_isOut[i])
+                kept.push_back(m_operations[i]);
+        return kept;
     }
 
 private:
-    const JournalShelf &m_shelf;
-    QMultiHash<QString, QString> m_undoers;
-    std::set<QString> m_seen;
+    void note(int i)
+    {
+        const MoveItem &operation = m_operations[size_t(i)];
+        if (leavesPlace(operation)) {
+            m_leaving.insert(operation.from, i);
+            m_similar.insert(keyOf(operation.from), i);
+        }
+        if (takesPlace(operation)) {
+            m_taking.insert(operation.to, i);
+            m_questions.push_back(i);
+        }
+    }
+
+    void ask()
+    {
+        const int i = m_questions.back();
+        m_questions.pop_back();
+        const MoveItem &operation = m_operations[size_t(i)];
+        const int leaver = m_leaving.value(operation.to, m_similar.value(keyOf(operation.to), -1));
+        const auto there = m_isOut[size_t(i)] ? std::nullopt : m_disk.look(operation.to);
+        const auto own = there && operation.operation == Operation::Move ? m_disk.look(operation.from) : std::nullopt;
+        const bool isItself = own && isSameItem(*there, *own);
+        if (!there || isItself || (leaver >= 0 && !m_isOut[size_t(leaver)]))
+            return;
+        m_isOut[size_t(i)] = true;
+        problems.push_back(problemAt(operation.to, MoveProblem::Taken));
+        if (const int waiting = m_taking.value(operation.from, -1); leavesPlace(operation) && waiting >= 0)
+            m_questions.push_back(waiting);
+    }
+
+    const platform::FileSystem &m_disk;
+    std::vector<MoveItem> m_operations;
+    std::vector<bool> m_isOut;
+    QHash<QString, int> m_leaving;
+    QHash<QString, int> m_similar; ///< on a disk that does not tell cases apart
+    QHash<QString, int> m_taking;
+    std::vector<int> m_questions;
+    int m_next = 0;
 };
 
-std::set<int> standingItems(const JournalShelf &shelf, const RunRecord &run)
-{
-    return run.id.isEmpty() ? std::set<int>() : Undoers(shelf).standingItems(run);
-}
-
-MoveProblem whyNot(const RunRecord &run, const std::set<int> &standing)
+MoveProblem whyNot(const RunRecord &run, const std::vector<int> &standing)
 {
     if (run.id.isEmpty())
         return MoveProblem::UnknownRun;
@@ -190,57 +172,127 @@ MoveProblem whyNot(const RunRecord &run, const std::set<int> &standing)
 
 } // namespace
 
-UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run)
+class UndoPlanning::Work
 {
+public:
+    Work(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run)
+        : m_disk(disk), m_run(run), m_journals(shelf, run)
+    {
+    }
+
     UndoPlan plan;
-    const RunRecord record = recordOf(shelf, run);
-    const std::set<int> standing = standingItems(shelf, record);
-    plan.why = whyNot(record, standing);
-    if (plan.why != MoveProblem::None)
-        return plan;
-    PathsSince now(record);
-    for (const MoveRecord &item : record.items)
-        if (!item.isKnown && item.stand == Stand::Done)
-            plan.problems.push_back(
-                {item.path, MoveProblem::Other,
-                 QCoreApplication::translate("files", "The journal of this run is damaged: %1").arg(run)});
-    for (auto index = standing.rbegin(); index != standing.rend(); ++index) {
-        const MoveRecord &done = record.items[size_t(*index)];
-        const MoveItem operation = inverseOf(done, *index, now);
-        const UndoProblem fault = faultOf(disk, operation, done, now);
+
+    bool step()
+    {
+        if (!m_now)
+            return m_journals.step() && !begin();
+        if (!m_left.empty()) {
+            look(m_left.back());
+            m_left.pop_back();
+        } else if (!m_hindered) {
+            m_hindered.emplace(m_disk, std::move(plan.form.items));
+        } else if (m_hindered->step()) {
+            end();
+            return true;
+        }
+        return false;
+    }
+
+private:
+    /** Everything that is written down is known; false where nothing can be taken back. */
+    bool begin()
+    {
+        m_left = m_journals.items();
+        const RunRecord &record = m_journals.record();
+        plan.why = whyNot(record, m_left);
+        if (plan.why != MoveProblem::None)
+            return false;
+        m_now.emplace(record);
+        for (const MoveRecord &item : record.items)
+            if (!item.isKnown && item.stand == Stand::Done)
+                plan.problems.push_back(
+                    {item.path, MoveProblem::Other,
+                     QCoreApplication::translate("files", "The journal of this run is damaged: %1").arg(m_run)});
+        return true;
+    }
+
+    void look(int index)
+    {
+        const MoveRecord &done = m_journals.record().items[size_t(index)];
+        const MoveItem operation = inverseOf(done, index, *m_now);
+        const UndoProblem fault = faultOf(m_disk, operation, done, *m_now);
         if (fault.why == MoveProblem::None)
             plan.form.items.push_back(operation);
         else
             plan.problems.push_back(fault);
     }
-    leaveOutHindered(disk, plan.form.items, plan.problems);
-    if (plan.form.items.empty())
-        plan.why = MoveProblem::Stuck;
-    plan.form.title = record.title;
-    plan.form.undoes = run;
-    for (const QString &folder : record.made)
-        plan.form.emptyFolders.append(now(folder, -1));
-    return plan;
+
+    void end()
+    {
+        plan.form.items = m_hindered->kept();
+        plan.problems.insert(plan.problems.end(), m_hindered->problems.begin(), m_hindered->problems.end());
+        if (plan.form.items.empty())
+            plan.why = MoveProblem::Stuck;
+        plan.form.title = m_journals.record().title;
+        plan.form.undoes = m_run;
+        for (const QString &folder : m_journals.record().made)
+            plan.form.emptyFolders.append((*m_now)(folder, -1));
+    }
+
+    const platform::FileSystem &m_disk;
+    QString m_run;
+    StandingItems m_journals;
+    std::vector<int> m_left; ///< items, the last one first
+    std::optional<PathsSince> m_now;
+    std::optional<HinderedOnes> m_hindered;
+};
+
+UndoPlanning::UndoPlanning(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run)
+    : m_work(std::make_unique<Work>(disk, shelf, run))
+{
+}
+
+UndoPlanning::~UndoPlanning() = default;
+
+bool UndoPlanning::step()
+{
+    return m_work->step();
+}
+
+UndoPlan UndoPlanning::take()
+{
+    return std::move(m_work->plan);
+}
+
+UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run)
+{
+    UndoPlanning planning(disk, shelf, run);
+    while (!planning.step())
+        ;
+    return planning.take();
 }
 
 TakeBack takeBackOf(const platform::FileSystem &disk, const RunRecord &run, int index)
 {
     PathsSince now(run);
     const MoveRecord &record = run.items[size_t(index)];
-    std::vector<MoveItem> operations = {inverseOf(record, index, now)};
-    TakeBack answer = {operations.front(), faultOf(disk, operations.front(), record, now)};
-    std::vector<UndoProblem> problems;
-    leaveOutHindered(disk, operations, problems);
-    if (answer.problem.why == MoveProblem::None && !problems.empty())
-        answer.problem = problems.front();
+    const MoveItem operation = inverseOf(record, index, now);
+    TakeBack answer = {operation, faultOf(disk, operation, record, now)};
+    HinderedOnes hindered(disk, {operation});
+    while (!hindered.step())
+        ;
+    if (answer.problem.why == MoveProblem::None && !hindered.problems.empty())
+        answer.problem = hindered.problems.front();
     return answer;
 }
 
 Undoable undoableItems(const JournalShelf &shelf, const QString &run)
 {
-    const RunRecord record = recordOf(shelf, run);
-    const std::set<int> standing = standingItems(shelf, record);
-    return {int(standing.size()), whyNot(record, standing)};
+    StandingItems journals(shelf, run);
+    while (!journals.step())
+        ;
+    const std::vector<int> standing = journals.items();
+    return {int(standing.size()), whyNot(journals.record(), standing)};
 }
 
 std::vector<RunSummary> listRuns(const JournalShelf &shelf)

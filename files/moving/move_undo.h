@@ -3,6 +3,7 @@
 #include "files/moving/journal_shelf.h"
 #include "files/moving/move_run.h"
 
+#include <memory>
 #include <vector>
 
 namespace files {
@@ -30,6 +31,23 @@ struct UndoPlan
  * taken back before is left out. The run that takes another back can be taken back too.
  */
 UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run);
+
+/** The same a little at a time, for a window that is to answer meanwhile. Disk and shelf must outlive it. */
+class UndoPlanning
+{
+public:
+    UndoPlanning(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run);
+    ~UndoPlanning();
+
+    /** Does what one item needs; true when the plan is made. */
+    bool step();
+    /** Once, when step() said true. */
+    UndoPlan take();
+
+private:
+    class Work;
+    std::unique_ptr<Work> m_work;
+};
 
 /** The operation that takes back one item of a run that is open, or why it cannot be done. */
 struct TakeBack

@@ -6,6 +6,8 @@
 
 #include <QHash>
 
+#include <utility>
+
 namespace files {
 namespace {
 
@@ -21,76 +23,80 @@ struct Node
     bool isAhead = false;
 };
 
+QString keyOf(const QString &path)
+{
+    return placeKey(platform::parentFolder(path), platform::lastPathComponent(path));
+}
+
+} // namespace
+
 /** Walks from every item to those that it waits for, and writes the steps down on the way back. */
-class Walk
+class MoveOrdering::Walk
 {
 public:
-    explicit Walk(const std::vector<Displacement> &items) : m_items(items), m_nodes(items.size())
+    explicit Walk(std::vector<Displacement> items) : m_items(std::move(items)), m_nodes(m_items.size()) {}
+
+    bool step()
     {
-        findBlockers(items);
-        findInner(items);
+        if (m_isLooking)
+            lookAtOne();
+        else if (!m_stack.empty())
+            goOn();
+        else if (!m_returning.empty())
+            visitReturning();
+        else if (m_next < int(m_nodes.size()))
+            visit(m_next++);
+        else
+            return true;
+        return false;
     }
 
-    MoveOrder order()
-    {
-        for (int item = 0; item < int(m_nodes.size()); ++item) {
-            visit(item);
-            while (!m_returning.empty()) {
-                const int aside = m_returning.back();
-                m_returning.pop_back();
-                visit(aside);
-            }
-        }
-        return std::move(m_order);
-    }
+    MoveOrder take() { return std::move(m_order); }
 
 private:
-    static QString keyOf(const QString &path)
+    /** All items are looked at three times: what leaves a place, what waits for one, and what is in folders that leave. */
+    void lookAtOne()
     {
-        return placeKey(platform::parentFolder(path), platform::lastPathComponent(path));
+        const auto look = m_round == 0 ? &Walk::noteLeaver : m_round == 1 ? &Walk::findBlocker : &Walk::findInner;
+        if (m_next < int(m_items.size()))
+            return (this->*look)(m_next++);
+        m_next = 0;
+        m_isLooking = ++m_round < 3;
     }
 
-    void findBlockers(const std::vector<Displacement> &items)
+    void noteLeaver(int i)
     {
-        QHash<QString, int> exact;
-        QHash<QString, int> similar;
-        for (int i = 0; i < int(items.size()); ++i)
-            if (const QString &place = items[size_t(i)].leaves; !place.isEmpty()) {
-                exact.insert(place, i);
-                similar.insert(keyOf(place), i);
-            }
-        for (int i = 0; i < int(items.size()); ++i) {
-            const QString &place = items[size_t(i)].takes;
-            if (place.isEmpty())
-                continue;
-            const auto found = exact.constFind(place);
-            const int blocker = found != exact.constEnd() ? *found : similar.value(keyOf(place), -1);
-            m_nodes[size_t(i)].blocker = blocker == i ? -1 : blocker;
-        }
+        const Displacement &item = m_items[size_t(i)];
+        m_isAnyReading = m_isAnyReading || !item.reads.isEmpty();
+        if (item.leaves.isEmpty())
+            return;
+        m_leavers.insert(item.leaves, i);
+        m_similar.insert(keyOf(item.leaves), i);
+        if (item.isFolder)
+            m_folders.insert(item.leaves, i);
     }
 
-    void findInner(const std::vector<Displacement> &items)
+    void findBlocker(int i)
     {
-        QHash<QString, int> folders;
-        QHash<QString, int> leavers;
-        bool isAnyReading = false;
-        for (int i = 0; i < int(items.size()); ++i) {
-            const Displacement &item = items[size_t(i)];
-            isAnyReading = isAnyReading || !item.reads.isEmpty();
-            if (item.isFolder && !item.leaves.isEmpty())
-                folders.insert(item.leaves, i);
-        }
-        for (int i = 0; isAnyReading && i < int(items.size()); ++i)
-            if (!items[size_t(i)].leaves.isEmpty())
-                leavers.insert(items[size_t(i)].leaves, i);
-        for (int i = 0; i < int(items.size()) && !(folders.isEmpty() && leavers.isEmpty()); ++i) {
-            const Displacement &item = items[size_t(i)];
-            for (const QString &path : {item.leaves, item.takes, item.reads})
-                if (!path.isEmpty())
-                    putInto(folders, platform::parentFolder(path), i);
-            if (const int leaver = leavers.value(item.reads, -1); leaver >= 0 && leaver != i)
-                m_nodes[size_t(leaver)].inner.push_back(i);
-        }
+        const QString &place = m_items[size_t(i)].takes;
+        if (place.isEmpty())
+            return;
+        const auto found = m_leavers.constFind(place);
+        const int blocker = found != m_leavers.constEnd() ? *found : m_similar.value(keyOf(place), -1);
+        m_nodes[size_t(i)].blocker = blocker == i ? -1 : blocker;
+    }
+
+    void findInner(int i)
+    {
+        if (m_folders.isEmpty() && !m_isAnyReading)
+            return;
+        const Displacement &item = m_items[size_t(i)];
+        for (const QString &path : {item.leaves, item.takes, item.reads})
+            if (!path.isEmpty())
+                putInto(m_folders, platform::parentFolder(path), i);
+        const int leaver = m_isAnyReading ? m_leavers.value(item.reads, -1) : -1;
+        if (leaver >= 0 && leaver != i)
+            m_nodes[size_t(leaver)].inner.push_back(i);
     }
 
     /** Notes the item with the nearest folder at or above @p path that leaves its place. */
@@ -109,21 +115,30 @@ private:
 
     void visit(int root)
     {
-        if (node(root).mark != Mark::New)
-            return;
-        open(root);
-        while (!m_stack.empty()) {
-            const int item = m_stack.back();
-            Node &at = node(item);
-            if (at.nextInner < at.inner.size()) {
-                waitFor(at.inner[at.nextInner], true);
-            } else if (at.blocker >= 0 && node(at.blocker).mark != Mark::Done && !node(at.blocker).isAside) {
-                waitFor(at.blocker, false);
-            } else {
-                m_order.steps.push_back({item, false, false});
-                at.mark = Mark::Done;
-                m_stack.pop_back();
-            }
+        if (node(root).mark == Mark::New)
+            open(root);
+    }
+
+    void visitReturning()
+    {
+        const int aside = m_returning.back();
+        m_returning.pop_back();
+        visit(aside);
+    }
+
+    /** With what is on top of the stack. */
+    void goOn()
+    {
+        const int item = m_stack.back();
+        Node &at = node(item);
+        if (at.nextInner < at.inner.size()) {
+            waitFor(at.inner[at.nextInner], true);
+        } else if (at.blocker >= 0 && node(at.blocker).mark != Mark::Done && !node(at.blocker).isAside) {
+            waitFor(at.blocker, false);
+        } else {
+            m_order.steps.push_back({item, false, false});
+            at.mark = Mark::Done;
+            m_stack.pop_back();
         }
     }
 
@@ -187,18 +202,40 @@ private:
         }
     }
 
-    const std::vector<Displacement> &m_items;
+    std::vector<Displacement> m_items;
     std::vector<Node> m_nodes;
+    QHash<QString, int> m_leavers;
+    QHash<QString, int> m_similar; ///< by keyOf()
+    QHash<QString, int> m_folders;
+    bool m_isAnyReading = false;
+    bool m_isLooking = true;
+    int m_round = 0;
+    int m_next = 0;
     std::vector<int> m_stack;
     std::vector<int> m_returning;
     MoveOrder m_order;
 };
 
-} // namespace
+MoveOrdering::MoveOrdering(std::vector<Displacement> items) : m_walk(std::make_unique<Walk>(std::move(items))) {}
+
+MoveOrdering::~MoveOrdering() = default;
+
+bool MoveOrdering::step()
+{
+    return m_walk->step();
+}
+
+MoveOrder MoveOrdering::take()
+{
+    return m_walk->take();
+}
 
 MoveOrder orderMoves(const std::vector<Displacement> &items)
 {
-    return Walk(items).order();
+    MoveOrdering ordering(items);
+    while (!ordering.step())
+        ;
+    return ordering.take();
 }
 
 } // namespace files

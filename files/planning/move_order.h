@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <vector>
 
 namespace files {
@@ -40,5 +41,22 @@ struct MoveOrder
  * back belong together.
  */
 MoveOrder orderMoves(const std::vector<Displacement> &items);
+
+/** The same a little at a time, for a window that is to answer meanwhile. */
+class MoveOrdering
+{
+public:
+    explicit MoveOrdering(std::vector<Displacement> items);
+    ~MoveOrdering();
+
+    /** Does what one item needs; true when the order is found. */
+    bool step();
+    /** Once, when step() said true. */
+    MoveOrder take();
+
+private:
+    class Walk;
+    std::unique_ptr<Walk> m_walk;
+};
 
 } // namespace files

@@ -242,9 +242,27 @@ bool MoveService::prepare(const QString &order, int milliseconds)
     if (found == m_orders.end())
         return true;
     Order &wanted = found->second;
+    if (wanted.planning)
+        return plan(wanted, std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds));
+    if (wanted.undo && wanted.undo->why != MoveProblem::None)
+        return true;
     if (!wanted.beginning)
         wanted.beginning = std::make_unique<MoveBeginning>(*m_disk, *m_shelf, std::move(wanted.form));
     return wanted.beginning->workFor(std::chrono::milliseconds(milliseconds));
+}
+
+/** Finds out what takes a run back; true where that is nothing. */
+bool MoveService::plan(Order &order, std::chrono::steady_clock::time_point end)
+{
+    do {
+        if (!order.planning->step())
+            continue;
+        order.undo = order.planning->take();
+        order.form = std::move(order.undo->form);
+        order.planning.reset();
+        return order.undo->why != MoveProblem::None;
+    } while (std::chrono::steady_clock::now() < end);
+    return false;
 }
 
 QVariantMap MoveService::carryOut(const QString &order)
@@ -254,9 +272,16 @@ QVariantMap MoveService::carryOut(const QString &order)
         return {{QStringLiteral("problem"), tr("This run is not open")}};
     while (!prepare(order, 1000))
         ;
-    auto run = found->second.beginning->take();
+    const std::optional<UndoPlan> undo = std::move(found->second.undo);
+    QVariantMap answer = undo && undo->why != MoveProblem::None
+                             ? QVariantMap{{QStringLiteral("problem"), sentence(undo->why)}}
+                             : started(found->second.beginning->take());
     m_orders.erase(found);
-    return started(std::move(run));
+    if (undo)
+        answer.insert(QStringLiteral("problems"), listOf(undo->problems));
+    if (const MoveRun *run = undo ? this->found(answer.value(QStringLiteral("run")).toString()) : nullptr)
+        answer.insert(QStringLiteral("count"), int(run->record().items.size()));
+    return answer;
 }
 
 void MoveService::dropOrder(const QString &order)
@@ -339,18 +364,33 @@ QVariantMap MoveService::undoable(const QString &run) const
 
 QVariantMap MoveService::undo(const QString &run)
 {
-    const UndoPlan plan = planUndo(*m_disk, *m_shelf, run);
+    QVariantMap answer = carryOut(beginUndo(run));
+    if (answer.contains(QStringLiteral("run"))) {
+        const int count = answer.take(QStringLiteral("count")).toInt();
+        answer.insert(QStringLiteral("items"), itemsOf(answer.value(QStringLiteral("run")).toString(), 0, count));
+    }
+    return answer;
+}
+
+QString MoveService::beginUndo(const QString &run)
+{
+    const QString order = QStringLiteral("order %1").arg(++m_lastPlan);
+    m_orders[order].planning = std::make_unique<UndoPlanning>(*m_disk, *m_shelf, run);
+    return order;
+}
+
+QVariantList MoveService::itemsOf(const QString &run, int from, int to) const
+{
     QVariantList items;
-    for (const MoveItem &item : plan.form.items)
+    const MoveRun *active = found(run);
+    const int count = active ? int(active->record().items.size()) : 0;
+    for (int i = std::max(0, from); i < std::min(to, count); ++i) {
+        const MoveItem &item = active->record().items[size_t(i)].item;
         items.append(QVariantMap{{QStringLiteral("kind"), wordOf(item.operation)},
                                  {QStringLiteral("from"), item.from},
                                  {QStringLiteral("to"), item.to}});
-    QVariantMap answer = plan.why == MoveProblem::None ? started(MoveRun::begin(*m_disk, *m_shelf, plan.form))
-                                                       : QVariantMap{{QStringLiteral("problem"), sentence(plan.why)}};
-    answer.insert(QStringLiteral("problems"), listOf(plan.problems));
-    if (answer.contains(QStringLiteral("run")))
-        answer.insert(QStringLiteral("items"), items);
-    return answer;
+    }
+    return items;
 }
 
 QVariantList MoveService::runs() const

@@ -12,6 +12,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 
 namespace files {
@@ -87,6 +88,12 @@ public:
      * {run, items: [{kind, from, to}], problems: [{path, code, reason}]}, or {problem, problems}
      */
     Q_INVOKABLE QVariantMap undo(const QString &run);
+    /**
+     * The same in slices: beginUndo() names what is to be begun, prepare(), carryOut() and dropOrder() go on as for an order, and
+     * carryOut() answers {run, count, problems}, or {problem, problems}; itemsOf() then tells of the items from @p from to before @p to.
+     */
+    Q_INVOKABLE QString beginUndo(const QString &run);
+    Q_INVOKABLE QVariantList itemsOf(const QString &run, int from, int to) const;
     /** [{id, title, date, count, done, state, undoes}], the newest first; see listRuns(). */
     Q_INVOKABLE QVariantList runs() const;
     /** Ends what was interrupted: [{id, title, done, finished, takenBack, left, problems}]. Once, at start. */
@@ -107,7 +114,11 @@ private:
     {
         MoveOrderForm form;
         std::unique_ptr<MoveBeginning> beginning;
+        std::unique_ptr<UndoPlanning> planning; ///< of one that takes a run back, until its items are known
+        std::optional<UndoPlan> undo;           ///< of such a one, from then on; without items
     };
+
+    bool plan(Order &order, std::chrono::steady_clock::time_point end);
 
     QVariantMap started(platform::Result<std::unique_ptr<MoveRun>> run);
     MoveRun *found(const QString &run) const;

@@ -1,7 +1,7 @@
 // Which of the files that were found in a folder are added to the list. Pure; services are handed in.
 // Services used: files (info), facts (of).
 
-import { splitPath } from "./names.js";
+import { emptyTable, splitPath } from "./names.js";
 import { typeOfExtension } from "./types.js";
 
 function isOfType(extension, types) {
@@ -46,18 +46,20 @@ function fits(path, rule, services) {
  *              such as "2026-08-14", "" for no limit
  */
 export function* filtered(found, folder, rule, services) {
-    const kept = new Set();
+    const kept = emptyTable();
+    let keptCount = 0;
     let filteredOut = 0;
     for (const path of found.listed) {
         const lies = rule.subfolders || splitPath(path).folder === folder;
         if (lies && fits(path, rule, services)) {
-            kept.add(path);
+            kept[path] = true;
+            keptCount += 1;
         } else {
             filteredOut += lies ? 1 : 0;
         }
-        yield kept.size + filteredOut;
+        yield keptCount + filteredOut;
     }
-    const keep = (paths) => paths.filter((path) => kept.has(path));
+    const keep = (paths) => paths.filter((path) => kept[path]);
     // How many other files the folder itself holds is not known where those inside are not wanted.
     const others = rule.subfolders ? {} : { leftOut: 0, companions: [], example: "" };
     return Object.assign({}, found, others,

@@ -1,6 +1,6 @@
 // The list as a table for other programs. Pure but for translation; the list and the facts are handed in.
 
-import { splitPath } from "./names.js";
+import { keysOf, splitPath } from "./names.js";
 
 /** The heads of the columns, as every reader's spreadsheet gets them. */
 export const COLUMNS = ["Ticked", "Name", "Folder", "DateTaken", "Camera", "Width", "Height", "Bytes", "Type",
@@ -15,13 +15,13 @@ export const COLUMNS = ["Ticked", "Name", "Folder", "DateTaken", "Camera", "Widt
  */
 export function* tableOf(list, facts) {
     const rows = [];
-    const unticked = new Set(list.untickedIds());
+    const unticked = keysOf(list.untickedIds());
     for (const id of list.ids()) {
         const photo = list.photo(id);
         const known = facts.of(photo.path) || { taken: "", camera: "" };
         const shown = list.shown(id);
         const sides = photo.width > 0 ? [photo.width, photo.height] : ["", ""];
-        rows.push([unticked.has(id) ? "no" : "yes", photo.name, splitPath(photo.path).folder, known.taken, known.camera]
+        rows.push([unticked[id] ? "no" : "yes", photo.name, splitPath(photo.path).folder, known.taken, known.camera]
             .concat(sides, [photo.bytes < 0 ? "" : photo.bytes, photo.type],
                     [shown.newName, shown.newSize, shown.status]));
         yield rows.length;

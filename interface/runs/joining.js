@@ -3,6 +3,7 @@
 
 import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
+import { keysOf } from "../lib/names.js";
 
 export class Joining {
     /** @param run  planMore(ids), a generator that returns items or null, and joined(ids, items); what the list holds now is its own */
@@ -10,7 +11,7 @@ export class Joining {
         this.run = run;
         this.list = list;
         this.job = shell.job();
-        this.known = new Set(list.ids());
+        this.known = keysOf(list.ids());
         this.flow = null;
         this.isPlanning = false;
         this.hasEnded = false;
@@ -27,7 +28,7 @@ export class Joining {
     }
 
     newIds() {
-        return this.list.tickedIds().filter((id) => !this.known.has(id));
+        return this.list.tickedIds().filter((id) => !this.known[id]);
     }
 
     /** Called when something may have been added. */
@@ -36,7 +37,7 @@ export class Joining {
             return;
         }
         const ids = this.newIds();
-        ids.forEach((id) => this.known.add(id));
+        ids.forEach((id) => { this.known[id] = true; });
         this.isPlanning = ids.length > 0;
         this.flow.isGrowing = this.isPlanning;
         if (this.isPlanning) {

@@ -2,6 +2,8 @@
 
 import { emptyTable } from "../lib/names.js";
 
+const ROWS_AT_ONCE = 200;
+
 /**
  * The rows with these ids as planRun() takes them: {count, at, paths}. Each picture says besides how many come before it in the list
  * (index; those that are not ticked are not counted), and in which added folder it was found (root; "" for one that was added itself).
@@ -22,6 +24,19 @@ export function showUnticked(list, isFinal) {
         list.setPlan(id, "", "");
         list.setStatus(id, "none", qsTr("left out"), "");
     });
+}
+
+/** A generator that makes what rowsByPath() does, some rows at a time. */
+export function* rowsByPathInParts(list) {
+    const table = emptyTable();
+    const ids = list.ids();
+    yield 0;
+    const paths = list.paths();
+    for (let i = 0; i < paths.length; i += ROWS_AT_ONCE) {
+        paths.slice(i, i + ROWS_AT_ONCE).forEach((path, j) => { table[path] = ids[i + j]; });
+        yield i;
+    }
+    return table;
 }
 
 /** The ids of the rows by the paths of their files. */

@@ -13,6 +13,7 @@ export const KEPT_ROWS = 100000;
 const SLACK = 0.1;
 // No row is shorter than this: a smaller file need not be counted.
 const SHORTEST_ROW = 100;
+const ROWS_AT_ONCE = 50;
 
 let mostRows = KEPT_ROWS;
 
@@ -32,6 +33,21 @@ export function logPath(files) {
 /** Adds rows to the log; returns a message if that failed. The oldest go when the log has grown too large. */
 export function keepRows(files, rows) {
     return appendRows(files, rows) || (rows.length === 0 ? "" : trimRows(files));
+}
+
+/** A generator that does the same, some rows at a time; stopped, it keeps those that are left all the same. */
+export function* keepRowsInParts(files, rows) {
+    let next = 0;
+    let problem = "";
+    try {
+        for (; next < rows.length && problem === ""; next += ROWS_AT_ONCE) {
+            problem = appendRows(files, rows.slice(next, next + ROWS_AT_ONCE));
+            yield next;
+        }
+    } finally {
+        problem = problem || appendRows(files, rows.slice(next + ROWS_AT_ONCE));
+    }
+    return problem || (rows.length === 0 ? "" : trimRows(files));
 }
 
 /** Adds rows to the log and lets it grow: for rows that come one by one, until trimRows() is called. */

@@ -6,11 +6,11 @@ import { MovedFolders } from "./moved-folders.js";
 import { refusalText } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
 import { clockText, Progress } from "./progress.js";
-import { rowsByPath } from "./list-rows.js";
+import { rowsByPathInParts } from "./list-rows.js";
 import { logRow } from "./report.js";
 import { retryRows } from "./retry.js";
 import { DiskNeeds, roomText } from "./room.js";
-import { undoAction, undoing, undoRow, unableSteps } from "./undo-run.js";
+import { beginUndo, undoAction, undoing, undoRow, unableSteps } from "./undo-run.js";
 import { fill, problemsText, statusKind, statusText } from "../lib/wording.js";
 import { showPlan } from "./live-moves.js";
 import { BaseRun } from "./run-base.js";
@@ -210,8 +210,14 @@ export class MoveRun extends BaseRun {
         if (this.window.action.fillsFolders) {
             this.filled = new MovedFolders(this.window.services.files, this.items.map((item) => item.to));
         }
-        const work = prepared(this.window.services.moves, this.title, this.items);
+        const work = this.preparing();
         this.job.start(work, () => undefined, guard("moves.begun", (how, begun) => this.begun(how, begun)));
+    }
+
+    * preparing() {
+        this.rowAt = yield* rowsByPathInParts(this.window.pictures);
+        const begun = yield* prepared(this.window.services.moves, this.title, this.items);
+        return begun;
     }
 
     begun(how, begun) {
@@ -234,9 +240,9 @@ export class MoveRun extends BaseRun {
         this.undone = null;
         this.toldMs = 0;
         this.leftOut = 0;
-        this.rowAt = rowsByPath(this.window.pictures);
         this.startMoving();
-        this.items = items.map((item) => Object.assign({ row: undefined, along: item.leader >= 0 }, item));
+        this.items = items.map((item) => ({ kind: item.kind, from: item.from, to: item.to, leader: item.leader,
+                                            row: undefined, along: item.leader >= 0 }));
         this.begin();
     }
 
@@ -331,9 +337,6 @@ export class MoveRun extends BaseRun {
 
     // A file that went along may have a row of its own.
     followed(from, to) {
-        if (this.rowAt === undefined || this.rowAt === null) {
-            this.rowAt = rowsByPath(this.window.pictures);
-        }
         const id = this.rowAt[from];
         if (id !== undefined) {
             this.window.livePlan.keepFinal(id);
@@ -426,19 +429,31 @@ export class MoveRun extends BaseRun {
 
     /** Takes back a run of the move engine, or does again what it took back. */
     undo(run) {
-        const moves = this.window.services.moves;
         this.startPlanning(this.window.pictures.ids());
         this.title = run.title;
         this.undoes = run.undoes ? "" : run.id;
         this.undone = { id: run.id, process: run.title, action: undoAction(run.undoes !== "") };
         this.toldMs = 0;
         this.leftOut = 0;
-        const begun = moves.undo(run.id);
-        if (begun.problem) {
-            this.finish(begun.problem);
+        const work = this.beginningUndo(run.id);
+        this.job.start(work, () => undefined,
+                       guard("moves.undoBegun", (how, begun) => this.undoBegun(how, begun)));
+        this.changed();
+    }
+
+    * beginningUndo(id) {
+        this.rowAt = yield* rowsByPathInParts(this.window.pictures);
+        const begun = yield* beginUndo(this.window.services.moves, id);
+        return begun;
+    }
+
+    undoBegun(how, begun) {
+        if (how !== "done" || begun.problem) {
+            const problem = how === "failed" ? String(begun) : begun && begun.problem;
+            this.finish(problem || qsTr("Cancelled before the first file. Nothing was moved."));
             return;
         }
-        this.rowAt = rowsByPath(this.window.pictures);
+        const moves = this.window.services.moves;
         this.startMoving();
         this.items = begun.items
             .map((item) => ({ kind: "move", from: item.from, to: item.to, row: undefined, along: false }));

@@ -4,6 +4,10 @@ import { splitPath } from "../lib/names.js";
 import { logRow } from "./report.js";
 
 
+// What is done in one step.
+const WORK_MS = 2;
+const ITEMS_AT_ONCE = 50;
+
 // Runs that write new files give themselves such a name; those that move files have theirs from the move engine.
 const WRITES = /^\d{4}-\d\d-\d\dT/;
 
@@ -64,6 +68,40 @@ export function unableSteps(begun, undone) {
         const result = { status: "Failed", reason: problem.reason, photo: photo };
         return { index: -1, from: problem.path, to: "", result: result, row: undoRow(result, undone, begun.run) };
     });
+}
+
+// The items of a run that was begun, some of them at a time.
+function* itemsOf(moves, begun) {
+    const items = [];
+    for (let i = 0; i < begun.count; i += ITEMS_AT_ONCE) {
+        moves.itemsOf(begun.run, i, i + ITEMS_AT_ONCE).forEach((item) => items.push(item));
+        yield i;
+    }
+    return items;
+}
+
+/**
+ * A generator that begins what takes a run back and returns {run, items, problems}, or {problem, problems}. Nothing moves meanwhile;
+ * stopped before its end it begins nothing.
+ */
+export function* beginUndo(moves, run) {
+    const order = moves.beginUndo(run);
+    let begun = { problem: "" };
+    let isWhole = false;
+    try {
+        while (!moves.prepare(order, WORK_MS)) {
+            yield 0;
+        }
+        begun = moves.carryOut(order);
+        begun.items = begun.run === undefined ? [] : yield* itemsOf(moves, begun);
+        isWhole = true;
+    } finally {
+        moves.dropOrder(order);
+        if (!isWhole && begun.run !== undefined) {
+            moves.end(begun.run);
+        }
+    }
+    return begun;
 }
 
 /**

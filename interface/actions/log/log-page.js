@@ -6,14 +6,14 @@ import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { editWords, reverting } from "../../runs/comment-run.js";
 import { guard } from "../../lib/guard.js";
-import { clearRows, keepRows, logPath, rowLimit } from "../../runs/log-file.js";
-import { rowsByPath } from "../../runs/list-rows.js";
+import { clearRows, keepRowsInParts, logPath, rowLimit } from "../../runs/log-file.js";
+import { rowsByPathInParts } from "../../runs/list-rows.js";
 import { clearSettings, settingsOf } from "../../runs/making/run-settings.js";
 import { csvHead, csvLines } from "../../runs/report.js";
 import { keep, recall } from "../../lib/store.js";
 import { fill, problemsText, statusText } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary } from "../../runs/comment-job.js";
-import { revertWords, undoAction, undoing, undoWords, unableSteps } from "../../runs/undo-run.js";
+import { beginUndo, revertWords, undoAction, undoing, undoWords, unableSteps } from "../../runs/undo-run.js";
 
 const STATES = ["OK", "Failed", "Not Supported", "Skipped"];
 // So many rows are written at a time, and the window answers in between.
@@ -309,19 +309,32 @@ export class LogPage {
     }
 
     undoRun() {
-        const begun = this.window.services.moves.undo(this.runs.run);
-        if (begun.problem) {
-            this.window.sayBeside(begun.problem);
+        this.undo = { rows: [], done: 0, problems: 0, count: 0, places: {} };
+        const work = this.beginningUndo();
+        this.job.start(work, () => undefined, guard("log.undoBegun", (end, begun) => this.undoBegun(end, begun)));
+        this.showRun();
+    }
+
+    * beginningUndo() {
+        this.undo.places = yield* rowsByPathInParts(this.window.pictures);
+        const begun = yield* beginUndo(this.window.services.moves, this.runs.run);
+        return begun;
+    }
+
+    undoBegun(how, begun) {
+        if (how !== "done" || begun.problem) {
+            this.undo = null;
+            this.window.sayBeside(how === "failed" ? String(begun) : begun && begun.problem || "");
+            this.show();
             return;
         }
-        this.undo = { rows: [], done: 0, problems: 0, count: begun.items.length + begun.problems.length,
-                      places: rowsByPath(this.window.pictures) };
+        this.undo.count = begun.items.length + begun.problems.length;
         const undone = { id: this.runs.run, process: this.runs.chosen().process,
                          action: undoAction(this.words.isRedo) };
         unableSteps(begun, undone).forEach((step) => this.tookBack(step));
         this.job.start(undoing(this.window.services.moves, begun, undone),
                        guard("log.undone", (step) => this.tookBack(step)),
-                       guard("log.undoEnd", (how, value) => this.undoEnded(how, value)));
+                       guard("log.undoEnd", (end, value) => this.undoEnded(end, value)));
         this.showRun();
     }
 
@@ -338,9 +351,15 @@ export class LogPage {
     }
 
     undoEnded(how, value) {
+        const work = keepRowsInParts(files, this.undo.rows);
+        const said = how === "failed" ? String(value) : value || "";
+        this.job.start(work, () => undefined, guard("log.undoKept", (kept, problem) =>
+            this.undoKept(how, (kept === "failed" ? String(problem) : problem) || said)));
+    }
+
+    undoKept(how, problem) {
         const undo = this.undo;
         this.undo = null;
-        const problem = keepRows(files, undo.rows) || (how === "failed" ? String(value) : value || "");
         const done = qsTr("%n files taken back", "", undo.done);
         const parts = [done]
             .concat(undo.problems > 0 ? [problemsText(undo.problems)] : [], problem ? [problem] : []);

@@ -2,6 +2,7 @@
 // Services used: recipes (resultsAmong).
 
 import { recipes } from "quorlin/recipes";
+import { keysOf } from "../../lib/names.js";
 
 export class OwnResults {
     /** @param form  that of the main window */
@@ -13,16 +14,16 @@ export class OwnResults {
 
     /** What was found without those of its paths that runs wrote; `named` are those that somebody chose by themselves. */
     without(found, named) {
-        const chosen = new Set(named);
-        const walked = found.listed.filter((path) => !chosen.has(path));
+        const chosen = keysOf(named);
+        const walked = found.listed.filter((path) => !chosen[path]);
         const own = walked.length === 0 ? [] : recipes.resultsAmong(walked);
         this.found = { paths: own, folders: found.folders };
         this.show();
         if (own.length === 0) {
             return found;
         }
-        const left = new Set(own);
-        const rest = (paths) => paths.filter((path) => !left.has(path));
+        const left = keysOf(own);
+        const rest = (paths) => paths.filter((path) => !left[path]);
         return Object.assign({}, found, { paths: rest(found.paths), listed: rest(found.listed) });
     }
 

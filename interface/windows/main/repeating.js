@@ -3,6 +3,7 @@
 
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
+import { keysOf } from "../../lib/names.js";
 import { completed } from "../../lib/store.js";
 import { allActions } from "../../actions/actions.js";
 import { newestSettings } from "../../runs/making/run-settings.js";
@@ -12,7 +13,7 @@ export class Repeating {
     constructor(window) {
         this.window = window;
         this.last = newestSettings(files);
-        this.done = new Set(); // the rows of the last run, and of those that repeated it
+        this.done = []; // the rows of the last run, and of those that repeated it
         this.goesOn = false;
         window.form.control("repeatAction").triggered.connect(guard("repeat", () => this.repeat()));
     }
@@ -21,10 +22,10 @@ export class Repeating {
     runChanged() {
         const run = this.window.run;
         if (run.phase === "ended" && run.keptSettings !== null && run.keptSettings !== this.last) {
-            const before = this.goesOn ? Array.from(this.done) : [];
+            const before = this.goesOn ? this.done : [];
             this.goesOn = false;
             this.last = run.keptSettings;
-            this.done = new Set(before.concat(run.ids));
+            this.done = before.concat(run.ids);
         }
         this.show();
     }
@@ -36,7 +37,8 @@ export class Repeating {
     }
 
     later() {
-        return this.window.pictures.tickedIds().filter((id) => !this.done.has(id));
+        const done = keysOf(this.done);
+        return this.window.pictures.tickedIds().filter((id) => !done[id]);
     }
 
     show() {

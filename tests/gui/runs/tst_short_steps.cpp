@@ -150,6 +150,11 @@ private Q_SLOTS:
         isShort([this] { renameFiles(); });
     }
 
+    void undoesRenaming()
+    {
+        isShort([this] { undoRenaming(); });
+    }
+
 private:
     QString at(int number, const char *extension) const
     {
@@ -173,10 +178,21 @@ private:
 
     void renameFiles()
     {
-        constexpr int count = 500; // one step still grows with their number
+        constexpr int count = 4000; // one step that grew with their number would be seen
         beginRenaming(count);
         const QString said = run();
         QVERIFY2(said.startsWith(QStringLiteral("%1 files renamed, 0 problems").arg(count)), qPrintable(said));
+    }
+
+    void undoRenaming()
+    {
+        constexpr int count = 4000;
+        beginRenaming(count);
+        run();
+        MeasuredApplication::longest().clear();
+        m_driver->control<QAction>("undoAction")->trigger();
+        const QString said = m_driver->waitForSummary();
+        QVERIFY2(said.startsWith(QStringLiteral("%1 files have their old names again").arg(count)), qPrintable(said));
     }
 
     void beginRenaming(int count)

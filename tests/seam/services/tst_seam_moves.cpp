@@ -17,6 +17,7 @@ private Q_SLOTS:
     void plansTheSameInSlices();
     void carriesOutARunItemByItem();
     void beginsTheSameInSlices();
+    void undoesTheSameInSlices();
     void endsBeforeTheLastItem();
     void addsItemsOneByOne();
     void saysWhyNothingCanBeDone();
@@ -113,6 +114,25 @@ void TestSeamMoves::beginsTheSameInSlices()
              QStringLiteral("\"open\"\n[1,0,null,\"\"]\n\"This run is not open\"\n1"));
     QCOMPARE(read("b.jpg"), QByteArray("a.jpg"));
     QCOMPARE(read("x.jpg"), QByteArray("b.jpg"));
+}
+
+void TestSeamMoves::undoesTheSameInSlices()
+{
+    QCOMPARE(answer(QStringLiteral(
+                 "const { run } = moves.begin({ title: 'Rename', items: [move('a.jpg', 'x.jpg'), move('b.jpg', "
+                 "'y.jpg')] });"
+                 "moves.next(run); moves.next(run); moves.end(run);"
+                 "const order = moves.beginUndo(run); while (!moves.prepare(order, 0)) {}"
+                 "const undo = moves.carryOut(order); report([undo.count, undo.problems.length]);"
+                 "report(moves.itemsOf(undo.run, 1, 9).map((item) => [item.kind, item.from.slice(-5)]));"
+                 "moves.next(undo.run); moves.next(undo.run); report(moves.end(undo.run));"
+                 "const again = moves.beginUndo(run); report(moves.prepare(again, 1000));"
+                 "report(moves.carryOut(again).problem); report(moves.itemsOf('x', 0, 9));"
+                 "const other = moves.beginUndo(undo.run); while (!moves.prepare(other, 0)) {}"
+                 "moves.dropOrder(other); report(moves.runs().length);")),
+             QStringLiteral("[2,0]\n[[\"move\",\"x.jpg\"]]\n\"\"\ntrue\n"
+                            "\"This run was taken back already\"\n[]\n2"));
+    QCOMPARE(read("a.jpg"), QByteArray("a.jpg"));
 }
 
 void TestSeamMoves::endsBeforeTheLastItem()
