@@ -7,6 +7,7 @@
 #include "image/turn_file.h"
 #include "platform/foundation/numbers.h"
 #include "platform/foundation/paths.h"
+#include "platform/imageio/convert/resized_jpeg.h"
 #include "platform/imageio/formats/type_identifiers.h"
 
 using platform::Bitmap;
@@ -126,8 +127,7 @@ QString ZtImageHandling::resizeImage(const QString &path, quint32 number, quint3
         newImgH = size->height;
         myScaleFactor = size->scaleFactor.value_or(myScaleFactor);
     }
-    return writeDrawn({image::outputBase(prefix, path), myFileType, qualityCode},
-                      image::resized(imageCIImage, QSize(newImgW, newImgH), image::formsFor(myFileType)));
+    return writeResized({image::outputBase(prefix, path), myFileType, qualityCode}, QSize(newImgW, newImgH));
 }
 
 QString ZtImageHandling::resizeImage2(const QString &path, quint32 width, quint32 height, int mode,
@@ -140,19 +140,30 @@ QString ZtImageHandling::resizeImage2(const QString &path, quint32 width, quint3
     const QSize box = QSize(qint32(width), qint32(height));
     constexpr int fillAndCut = 1;
     if (mode != fillAndCut)
-        return writeDrawn(target, image::resized(imageCIImage, box, image::formsFor(myFileType)));
+        return writeResized(target, box);
     const QSizeF extent = imageCIImage.uprightSize();
     const image::FilledBox filled = image::filledBox(width, height, extent.width(), extent.height());
     newImgW = filled.drawn.width;
     newImgH = filled.drawn.height;
     myXWOffset = filled.offset.x();
     myYHOffset = filled.offset.y();
-    return writeDrawn(target, image::resizedAndCut(imageCIImage, QSize(newImgW, newImgH), QRect(filled.offset, box),
-                                                   image::formsFor(myFileType)));
+    return writeResized(target, QSize(newImgW, newImgH), QRect(filled.offset, box));
 }
 
-QString ZtImageHandling::writeDrawn(const Target &target, const Result<Bitmap> &drawn)
+QString ZtImageHandling::writeResized(const Target &target, QSize size, std::optional<QRect> kept)
 {
+    if (isJpeg(target.type)) {
+        EncodeOptions options;
+        options.lossyQuality = image::qualityForCode(target.qualityCode);
+        const QRect part = kept.value_or(QRect(QPoint(0, 0), size));
+        if (const auto file = platform::resizedJpeg(imageCIImage, {size, part}, options)) {
+            properties = QVariantMap{{qualityKey(), *options.lossyQuality}};
+            return image::writeAnswering(target.basePath + image::extensionForType(target.type), *file);
+        }
+    }
+    const platform::Forms forms = image::formsFor(target.type);
+    const Result<Bitmap> drawn =
+        kept ? image::resizedAndCut(imageCIImage, size, *kept, forms) : image::resized(imageCIImage, size, forms);
     // No bitmap of that size, or no picture to draw: the answer is a success that leaves no file.
     if (!drawn)
         return image::statusOk();

@@ -192,7 +192,8 @@ private:
     void openUpright(const QString &path);
     QString write(const Target &target, const platform::Bitmap &bitmap,
                   const platform::Result<platform::EncodeOptions> &ofSource);
-    QString writeDrawn(const Target &target, const platform::Result<platform::Bitmap> &drawn);
+    /** The open picture at another size, or the part of that which is kept. */
+    QString writeResized(const Target &target, QSize size, std::optional<QRect> kept = {});
     /** Reads the crop sheet; tells the rectangle and keeps its origin. @p size belongs to the tab "W x H". */
     image::CropRect readCrop(QSize size, image::CropSpace space);
     image::CornerOptions readCorners(quint32 radius, const QString &shapeCode) const;

@@ -50,12 +50,11 @@ bool hasQuality(const RecipeOutput &output, OutputType type)
 }
 
 /** The quality that is written; none where a JPEG keeps the tables that it came with. */
-std::optional<int> chosenQuality(const RecipeOutput &output, OutputType type, const Bitmap &bitmap)
+std::optional<int> chosenQuality(const RecipeOutput &output, OutputType type, bool isFromJpeg)
 {
     if (!hasQuality(output, type))
         return std::nullopt;
-    const bool keepsTables =
-        output.type == OutputType::Original && type == OutputType::Jpeg && bitmap.jpegQuantisation().has_value();
+    const bool keepsTables = output.type == OutputType::Original && type == OutputType::Jpeg && isFromJpeg;
     return output.quality || keepsTables ? output.quality : usualQuality;
 }
 
@@ -80,7 +79,7 @@ Result<QByteArray> encodedWithin(const Bitmap &bitmap, const RecipeOutput &outpu
             sentence(QT_TRANSLATE_NOOP("recipe", "It cannot be made as small as %1 bytes")).arg(*output.maxBytes));
     };
     const auto fits = [&](const Result<QByteArray> &file) { return file && file->size() <= *output.maxBytes; };
-    const std::optional<int> stated = chosenQuality(output, type, bitmap);
+    const std::optional<int> stated = chosenQuality(output, type, bitmap.jpegQuantisation().has_value());
     int above = output.quality.value_or(mostQuality);
     Result<QByteArray> best = encodedAt(bitmap, type, hasQuality(output, type) && !stated ? stated : above, options);
     if (!best || fits(best) || !hasQuality(output, type))
@@ -182,10 +181,22 @@ Result<QByteArray> encodedFile(const Bitmap &bitmap, const ImageSource &source, 
     return laid.and_then([&](const Bitmap &opaque) {
         const Bitmap pixels = output.dpi ? opaque.withDpi(*output.dpi, *output.dpi) : opaque;
         return optionsFor(source, output).and_then([&](const platform::EncodeOptions &options) {
-            return output.maxBytes ? encodedWithin(pixels, output, plan.type, options)
-                                   : encodedAt(pixels, plan.type, chosenQuality(output, plan.type, pixels), options);
+            return output.maxBytes
+                       ? encodedWithin(pixels, output, plan.type, options)
+                       : encodedAt(pixels, plan.type,
+                                   chosenQuality(output, plan.type, pixels.jpegQuantisation().has_value()), options);
         });
     });
+}
+
+std::optional<QByteArray> resizedFile(const ImageSource &source, const platform::JpegResize &resize,
+                                      const RecipeOutput &output)
+{
+    platform::Result<platform::EncodeOptions> options = optionsFor(source, output);
+    if (!options)
+        return std::nullopt;
+    options->quality = chosenQuality(output, OutputType::Jpeg, true);
+    return platform::resizedJpeg(source, resize, *options);
 }
 
 } // namespace image

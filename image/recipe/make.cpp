@@ -45,10 +45,28 @@ const ResizeOperation *shrinkingResize(const Operation &operation, const Stage &
 }
 
 /** As many pixels as a decoder that shrinks has to give for a result that shows nothing of it. */
+constexpr int finerTimes = 3;
+
 QSize finerThan(QSize size)
 {
-    constexpr int times = 3;
-    return size * times;
+    return size * finerTimes;
+}
+
+/** The resize, where that is all that happens to the pixels, and nothing but a cut at a known place belongs to it. */
+std::optional<platform::JpegResize> onlyResize(const QList<RecipeStep> &steps, const Stage &stage)
+{
+    const First first = firstOf(steps, stage);
+    const auto isOff = [](const RecipeStep &step) { return step.isOff; };
+    if (first.index < 0 || first.isTurned || !std::all_of(steps.begin() + first.index + 1, steps.end(), isOff))
+        return std::nullopt;
+    const auto *resize = shrinkingResize(steps[first.index].operation, stage);
+    if (!resize || resize->scale.dpi || resize->position == Place::Attention)
+        return std::nullopt;
+    const Fitting fitting = fittingOf(*resize, stage);
+    if (fitting.canvas != fitting.cut)
+        return std::nullopt;
+    const QRect kept(placeOf(resize->position, fitting.cut, fitting.scaled), fitting.cut);
+    return platform::JpegResize{fitting.scaled, kept, finerTimes};
 }
 
 /** Decodes a picture for a list of operations, as few pixels as they need. */
@@ -174,10 +192,23 @@ private:
         if (indices.size() == 1) {
             const int index = indices.first();
             const QList<RecipeStep> steps = m_recipe.operations + stepsOf(m_recipe.outputs[index]);
+            if (const auto made = resizedOnly(index, steps))
+                return m_take(index, *made);
             give(index, m_decoding.behind(steps, m_fill));
             return;
         }
         giveAll(indices, m_decoding.behind(m_recipe.operations, m_fill), {});
+    }
+
+    /** The output of a JPEG that becomes a smaller one and nothing else. */
+    std::optional<MadeOutput> resizedOnly(int index, const QList<RecipeStep> &steps) const
+    {
+        const RecipeOutput &output = m_recipe.outputs[index];
+        const auto resize = m_plans[index].type == OutputType::Jpeg && !output.maxBytes
+                                ? onlyResize(steps, m_stage)
+                                : std::optional<platform::JpegResize>();
+        const auto file = resize ? resizedFile(m_source, *resize, output) : std::nullopt;
+        return file ? std::optional(MadeOutput{index, *file, resize->kept.size(), false}) : std::nullopt;
     }
 
     /** Each output begins by itself: all from one decode, which is as small as the largest of them allows. */

@@ -41,14 +41,15 @@ SUB_ROOMS = {
         "workers": "descriptors",
         "confinement": "descriptors",
         "controls": "foundation values",
-        "graphics": "foundation descriptors",
+        "planes": "",
+        "graphics": "foundation descriptors planes",
         "effects": "foundation descriptors graphics",
         # Pictures as files: bytes first, then one folder for each kind of file, then what is said and done about all of them.
         "imageio/bytes": "foundation file",
         "imageio/formats": "foundation graphics imageio/bytes",
-        "imageio/jpeg": "foundation graphics imageio/bytes",
+        "imageio/jpeg": "foundation planes graphics imageio/bytes",
         "imageio/jpeg2000": "foundation graphics imageio/bytes",
-        "imageio/png": "graphics imageio/bytes",
+        "imageio/png": "planes graphics imageio/bytes",
         "imageio/tiff": "imageio/bytes",
         "imageio/bmp": "graphics imageio/bytes",
         "imageio/photoshop": "graphics imageio/bytes",
@@ -60,7 +61,7 @@ SUB_ROOMS = {
                             "imageio/photoshop imageio/parts imageio/exif imageio/xmp",
         "imageio/load": "file graphics imageio/bytes imageio/formats imageio/jpeg2000 imageio/tiff imageio/bmp "
                         "imageio/photoshop",
-        "imageio/encoders": "foundation graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/parts "
+        "imageio/encoders": "foundation planes graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/parts "
                             "imageio/metadata",
         "imageio/codecs": "file graphics imageio/bytes imageio/formats imageio/jpeg2000 imageio/tiff imageio/bmp imageio/whole "
                           "imageio/load imageio/encoders",
@@ -69,7 +70,7 @@ SUB_ROOMS = {
         "imageio/encode": "foundation file graphics imageio/formats imageio/jpeg2000 imageio/metadata imageio/encoders imageio/codecs",
         "imageio/source": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/tiff imageio/exif "
                           "imageio/metadata imageio/codecs imageio/facts",
-        "imageio/convert": "foundation file graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/parts imageio/exif "
+        "imageio/convert": "foundation file planes graphics imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/parts imageio/exif "
                            "imageio/encoders imageio/codecs imageio/facts imageio/metadata imageio/encode imageio/source",
         "imageio/comments": "foundation file imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/exif imageio/source",
         "imageio/edits": "foundation file imageio/bytes imageio/formats imageio/jpeg imageio/png imageio/tiff imageio/parts imageio/xmp "
@@ -137,7 +138,7 @@ LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "
                 "PkgConfig::HEIF": "platform", "PkgConfig::LCMS": "platform", "PkgConfig::PANGO": "platform",
                 "PkgConfig::DEFLATE": "platform", "PkgConfig::SECCOMP": "platform", "PkgConfig::XCB": "platform", "PkgConfig::FONTCONFIG": "platform", "PkgConfig::SQLITE": "presets", "SQLite::SQLite3": "presets"}
 SYSTEM = re.compile(r"(sys|linux|netinet|arpa)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|sched|signal|pwd|errno|time|malloc|syslog|spawn|execinfo)\.h")
-STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits)\.h")
+STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits|immintrin)\.h")
 
 # Words of the product that the platform must not know: classes of the seam, status words, action keywords.
 PRODUCT_NAMES = re.compile(r"\b(ZtImageHandling|cMConversion|cToolBox|cNSFileHandling|cNSStringHandling|mMeta|"

@@ -4,6 +4,7 @@
 #include "platform/foundation/memory_left.h"
 #include "platform/graphics/compose.h"
 #include "platform/imageio/codecs/codecs.h"
+#include "platform/imageio/encode/carrying.h"
 #include "platform/imageio/encoders/encoders.h"
 #include "platform/imageio/formats/formats.h"
 #include "platform/imageio/formats/memory_need.h"
@@ -12,29 +13,9 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cmath>
 
 namespace platform {
 namespace {
-
-Resolution writtenResolution(const Bitmap &bitmap, const EncodeOptions &options)
-{
-    if (options.dpi)
-        return {*options.dpi, *options.dpi};
-    return options.resolution == WriteResolution::Yes ? bitmap.pixels().resolution : Resolution();
-}
-
-std::optional<double> jpegQuality(const EncodeOptions &options)
-{
-    constexpr double best = 100;
-    return options.quality ? *options.quality / best : options.lossyQuality;
-}
-
-/** Files that cannot be given metadata once they are encoded. */
-bool isEncodedWithMetadata(FileFormat format)
-{
-    return format == FileFormat::Avif;
-}
 
 /** The picture on the colour that is asked for, where the format has no transparency. */
 Result<Bitmap> onMatte(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
@@ -63,8 +44,8 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
         keeps.profile = !profile.isEmpty() && holdsProfile(format, profile) ? Kept::Yes : Kept::No;
     const vips::VImage image = preparedFor(keeps, bitmap.pixels().image);
     CodecOptions how;
-    how.resolution = writtenResolution(bitmap, options);
-    how.jpegQuality = jpegQuality(options);
+    how.resolution = writtenResolution(bitmap.pixels().resolution, options);
+    how.jpegQuality = jpegQualityOf(options);
     how.sourceTables = bitmap.pixels().quantisation;
     if (options.quality || options.isLossless)
         how.compression = Compression{options.quality.value_or(Compression().quality), options.isLossless};
@@ -72,51 +53,6 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
     if (isEncodedWithMetadata(format))
         how.blocks = options.metadata.blocksFor({image.width(), image.height()}, Metadata::Holds::ExifXmp);
     return encodedPixels(image, format, how);
-}
-
-/** Files that state no resolution but in their metadata: in EXIF, or what of it becomes XMP. */
-bool statesResolutionInMetadata(FileFormat format)
-{
-    switch (format) {
-    case FileFormat::Gif:
-    case FileFormat::Webp:
-    case FileFormat::Avif:
-    case FileFormat::JpegXl:
-    case FileFormat::Jpeg2000:
-        return true;
-    case FileFormat::Jpeg:
-    case FileFormat::Png:
-    case FileFormat::Tiff:
-    case FileFormat::Bmp:
-        break;
-    }
-    return false;
-}
-
-/** What goes into the file, in step with its pixels. */
-Metadata metadataFor(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
-{
-    if (options.carried == Carried::Blocks)
-        return format == FileFormat::Jpeg || format == FileFormat::Tiff ? options.metadata : Metadata();
-    const Metadata upright = options.metadata.withOrientation(1);
-    const Resolution resolution = writtenResolution(bitmap, options);
-    const QSizeF stated = upright.resolution();
-    const QSizeF known(resolution.horizontal, resolution.vertical > 0 ? resolution.vertical : resolution.horizontal);
-    const bool isSaid = !stated.isEmpty() || statesResolutionInMetadata(format);
-    constexpr double tolerance = 0.01;
-    const bool isSame =
-        std::abs(stated.width() - known.width()) < tolerance && std::abs(stated.height() - known.height()) < tolerance;
-    return known.isEmpty() || !isSaid || isSame ? upright : upright.withResolution(known.width(), known.height());
-}
-
-/** @p options has what metadataFor() gives. */
-Result<QByteArray> withMetadata(const QByteArray &encoded, QSize pixels, FileFormat format,
-                                const EncodeOptions &options)
-{
-    const bool isCarried = !options.metadata.isEmpty() || options.carried == Carried::Everything;
-    if (isEncodedWithMetadata(format) || !isCarried || format == FileFormat::Bmp)
-        return encoded;
-    return options.metadata.writtenInto(encoded, options.carried, pixels);
 }
 
 } // namespace
@@ -145,7 +81,7 @@ Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const En
         if (!opaque)
             return tl::unexpected<Error>(opaque.error());
         EncodeOptions known = options;
-        known.metadata = metadataFor(bitmap, format, options);
+        known.metadata = carriedMetadata(bitmap.pixels().resolution, format, options);
         return encodePixels(*opaque, format, known).and_then([&](const QByteArray &encoded) {
             return withMetadata(encoded, bitmap.size(), format, known);
         });

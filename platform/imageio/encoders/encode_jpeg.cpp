@@ -104,12 +104,12 @@ void useResolution(jpeg_compress_struct &info, Resolution resolution)
     info.Y_density = UINT16(std::max(1L, std::lround(resolution.vertical / scale)));
 }
 
-void configure(jpeg_compress_struct &info, const vips::VImage &image, const JpegSettings &settings)
+void configure(jpeg_compress_struct &info, QSize size, int bands, const JpegSettings &settings)
 {
-    info.image_width = JDIMENSION(image.width());
-    info.image_height = JDIMENSION(image.height());
-    info.input_components = image.bands();
-    info.in_color_space = colorSpaceOf(image.bands());
+    info.image_width = JDIMENSION(size.width());
+    info.image_height = JDIMENSION(size.height());
+    info.input_components = bands;
+    info.in_color_space = colorSpaceOf(bands);
     jpeg_set_defaults(&info);
     const bool keepsTables = !settings.quality && settings.sourceTables && canUseTables(info, *settings.sourceTables);
     if (keepsTables)
@@ -121,13 +121,10 @@ void configure(jpeg_compress_struct &info, const vips::VImage &image, const Jpeg
         info.write_Adobe_marker = TRUE;
 }
 
-void writeProfile(jpeg_compress_struct &info, const vips::VImage &image)
+void writeProfile(jpeg_compress_struct &info, const QByteArray &profile)
 {
-    if (image.get_typeof(VIPS_META_ICC_NAME) == 0)
-        return;
-    size_t length = 0;
-    const void *profile = image.get_blob(VIPS_META_ICC_NAME, &length);
-    jpeg_write_icc_profile(&info, static_cast<const JOCTET *>(profile), unsigned(length));
+    if (!profile.isEmpty())
+        jpeg_write_icc_profile(&info, reinterpret_cast<const JOCTET *>(profile.constData()), unsigned(profile.size()));
 }
 
 /** Rows go to the encoder as they are, but CMYK inverted, which is how readers expect it. */
@@ -147,6 +144,44 @@ void writeRows(jpeg_compress_struct &info, const vips::VImage &image, std::vecto
     }
 }
 
+/** The encoder reads whole blocks: behind the last sample of a row it finds that one again. */
+void fillBlocks(Plane &plane)
+{
+    for (int y = 0; y < plane.height(); ++y) {
+        uchar *row = plane.row(y);
+        std::fill(row + plane.width(), row + plane.rowBytes(), row[plane.width() - 1]);
+    }
+}
+
+/** The rows of one row of blocks, and below the last row that one again. */
+void pointToRows(const jpeg_component_info &component, Plane &plane, JDIMENSION blockRow, std::vector<JSAMPROW> &rows)
+{
+    const int count = component.v_samp_factor * DCTSIZE;
+    const int first = int(blockRow) * count;
+    rows.resize(size_t(count));
+    for (int i = 0; i < count; ++i)
+        rows[size_t(i)] = plane.row(std::min(first + i, plane.height() - 1));
+}
+
+void writePlanes(jpeg_compress_struct &info, JpegPlanes &planes, std::vector<std::vector<JSAMPROW>> &rows)
+{
+    const auto atOnce = JDIMENSION(info.max_v_samp_factor * DCTSIZE);
+    std::array<JSAMPARRAY, MAX_COMPONENTS> components = {};
+    while (info.next_scanline < info.image_height) {
+        for (size_t i = 0; i < planes.size(); ++i) {
+            pointToRows(info.comp_info[i], planes[i], info.next_scanline / atOnce, rows[i]);
+            components[i] = rows[i].data();
+        }
+        jpeg_write_raw_data(&info, components.data(), atOnce);
+    }
+}
+
+tl::unexpected<Error> notMade(const JpegErrorManager &errors)
+{
+    return failure(ErrorCode::WriteFailed, QCoreApplication::translate("platform", "The JPEG could not be made: %1")
+                                               .arg(QString::fromLatin1(errors.message)));
+}
+
 } // namespace
 
 Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &settings)
@@ -154,15 +189,47 @@ Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &set
     Encoder encoder;
     std::vector<JSAMPLE> scratch(VIPS_IMAGE_SIZEOF_LINE(image.get_image()));
     encoder.info.err = prepare(encoder.errors);
+    const QByteArray profile = iccProfileOf(image);
     if (setjmp(encoder.errors.jump))
-        return failure(ErrorCode::WriteFailed, QCoreApplication::translate("platform", "The JPEG could not be made: %1")
-                                                   .arg(QString::fromLatin1(encoder.errors.message)));
+        return notMade(encoder.errors);
     jpeg_create_compress(&encoder.info);
     jpeg_mem_dest(&encoder.info, &encoder.bytes, &encoder.size);
-    configure(encoder.info, image, settings);
+    configure(encoder.info, {image.width(), image.height()}, image.bands(), settings);
     jpeg_start_compress(&encoder.info, TRUE);
-    writeProfile(encoder.info, image);
+    writeProfile(encoder.info, profile);
     writeRows(encoder.info, image, scratch);
+    jpeg_finish_compress(&encoder.info);
+    return QByteArray(reinterpret_cast<const char *>(encoder.bytes), qsizetype(encoder.size));
+}
+
+QSize jpegSampling(const JpegSettings &settings, int components)
+{
+    if (components == 1)
+        return {1, 1};
+    Encoder encoder;
+    encoder.info.err = prepare(encoder.errors);
+    if (setjmp(encoder.errors.jump))
+        return {1, 1};
+    jpeg_create_compress(&encoder.info);
+    configure(encoder.info, {1, 1}, components, settings);
+    return {encoder.info.comp_info[0].h_samp_factor, encoder.info.comp_info[0].v_samp_factor};
+}
+
+Result<QByteArray> encodeJpegPlanes(JpegPlanes planes, const QByteArray &profile, const JpegSettings &settings)
+{
+    Encoder encoder;
+    std::vector<std::vector<JSAMPROW>> rows(planes.size());
+    std::for_each(planes.begin(), planes.end(), fillBlocks);
+    encoder.info.err = prepare(encoder.errors);
+    if (setjmp(encoder.errors.jump))
+        return notMade(encoder.errors);
+    jpeg_create_compress(&encoder.info);
+    jpeg_mem_dest(&encoder.info, &encoder.bytes, &encoder.size);
+    configure(encoder.info, planes.front().size(), int(planes.size()), settings);
+    encoder.info.raw_data_in = TRUE;
+    jpeg_start_compress(&encoder.info, TRUE);
+    writeProfile(encoder.info, profile);
+    writePlanes(encoder.info, planes, rows);
     jpeg_finish_compress(&encoder.info);
     return QByteArray(reinterpret_cast<const char *>(encoder.bytes), qsizetype(encoder.size));
 }

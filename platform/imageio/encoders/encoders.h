@@ -6,6 +6,9 @@
 #include "platform/imageio/bytes/file_ends.h"
 #include "platform/imageio/formats/formats.h"
 #include "platform/imageio/metadata/container_blocks.h"
+#include "platform/planes/plane.h"
+
+#include <vector>
 
 namespace platform {
 
@@ -22,6 +25,15 @@ struct JpegSettings
 
 /** 8 bit grey, RGB or CMYK pixels in memory as a baseline JPEG with the profile of the image. */
 Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &settings);
+
+/** Brightness, alone or with the two differences of colour that JPEGs have. */
+using JpegPlanes = std::vector<Plane>;
+
+/** How many pixels across and down share one colour in a JPEG of so many components: 1 or 2 each. */
+QSize jpegSampling(const JpegSettings &settings, int components);
+
+/** The same file of planes that are as large as jpegSampling() has them; brightness has the size of the picture. */
+Result<QByteArray> encodeJpegPlanes(JpegPlanes planes, const QByteArray &profile, const JpegSettings &settings);
 
 /** These throw vips::VError. */
 QByteArray encodePng(const vips::VImage &image, Resolution resolution);

@@ -1,0 +1,120 @@
+#include "platform/imageio/convert/resized_jpeg.h"
+
+#include "platform/foundation/memory_left.h"
+#include "platform/imageio/encode/carrying.h"
+#include "platform/imageio/encoders/encoders.h"
+#include "platform/imageio/facts/resolution.h"
+#include "platform/imageio/jpeg/decoded_planes.h"
+#include "platform/imageio/jpeg/shrunk_jpeg.h"
+#include "platform/imageio/source/opened_file.h"
+
+#include <new>
+
+namespace platform {
+namespace {
+
+/** Below that a decoder that is asked for a size might think of another scale. */
+constexpr int shortestSide = 64;
+
+bool isPossible(const ImageSource::File &file, const JpegResize &resize)
+{
+    const QSize stored = file.storedSize;
+    const bool isSmaller = resize.size.width() <= stored.width() && resize.size.height() <= stored.height();
+    return file.content == Content::Jpeg && !file.isRaw() && file.orientation == 1 && isSmaller &&
+           std::min(stored.width(), stored.height()) >= shortestSide && !resize.kept.isEmpty() &&
+           QRect(QPoint(0, 0), resize.size).contains(resize.kept);
+}
+
+/** Planes before and after at full resolution of colour, the file before and after. */
+bool isMemoryLeft(const PlaneFacts &facts, qsizetype fileBytes, const JpegResize &resize, int shrink)
+{
+    constexpr qint64 components = 3;
+    constexpr qint64 coefficientBytes = 2;
+    const auto area = [](QSize size) { return components * size.width() * size.height(); };
+    const qint64 coefficients = facts.comesInPasses ? coefficientBytes * area(facts.stored) : 0;
+    const qint64 need = 2 * fileBytes + coefficients + area(facts.stored / shrink) + 2 * area(resize.kept.size());
+    return need < memoryLeft();
+}
+
+/** How the new samples of one direction lie among the decoded ones. */
+struct Direction
+{
+    double pixels; ///< decoded pixels for a new one
+    int first;     ///< new pixel that is kept
+    int count;
+
+    /** Of a plane with one sample for @p had pixels that becomes one with a sample for @p made. */
+    PlaneSpan of(int had, int made) const
+    {
+        return {first * pixels / had, pixels * made / had, (count + made - 1) / made};
+    }
+};
+
+std::optional<JpegPlanes> scaledPlanes(const DecodedPlanes &decoded, const Direction &across, const Direction &down,
+                                       QSize sampling)
+{
+    JpegPlanes scaled;
+    for (const Plane &plane : decoded.planes) {
+        const bool isColour = !scaled.empty();
+        const QSize had = isColour ? decoded.sampling : QSize(1, 1);
+        const QSize made = isColour ? sampling : QSize(1, 1);
+        const PlaneSpan columns = across.of(had.width(), made.width());
+        const PlaneSpan rows = down.of(had.height(), made.height());
+        if (columns.step > mostPlaneStep || rows.step > mostPlaneStep)
+            return std::nullopt;
+        scaled.push_back(scaledPlane(plane, columns, rows));
+    }
+    return scaled;
+}
+
+std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegResize &resize,
+                                      const EncodeOptions &options)
+{
+    const QByteArray jpeg = file.bytes.all();
+    const std::optional<PlaneFacts> facts = planeFacts(jpeg);
+    const int shrink = jpegShrinkFor(file.storedSize, resize.size * resize.finer);
+    if (!facts || facts->stored != file.storedSize || !isMemoryLeft(*facts, jpeg.size(), resize, shrink))
+        return std::nullopt;
+    const std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, shrink);
+    if (!decoded)
+        return std::nullopt;
+    const bool statesResolution = options.resolution == WriteResolution::Yes;
+    const Resolution resolution = statesResolution ? resolutionOf(file.bytes, file.content) : Resolution();
+    JpegSettings settings;
+    settings.quality = jpegQualityOf(options);
+    settings.resolution = writtenResolution(resolution, options);
+    if (const auto header = settings.quality ? std::nullopt : jpegHeaderOf(file.bytes, file.content))
+        settings.sourceTables = header->quantisation;
+    const auto pixels = [shrink](int had, int made) { return double(had) / shrink / made; };
+    auto planes = scaledPlanes(
+        *decoded, {pixels(facts->stored.width(), resize.size.width()), resize.kept.x(), resize.kept.width()},
+        {pixels(facts->stored.height(), resize.size.height()), resize.kept.y(), resize.kept.height()},
+        jpegSampling(settings, int(decoded->planes.size())));
+    if (!planes)
+        return std::nullopt;
+    EncodeOptions known = options;
+    known.metadata = carriedMetadata(resolution, FileFormat::Jpeg, options);
+    const Result<QByteArray> encoded =
+        encodeJpegPlanes(std::move(*planes), facts->profile, settings).and_then([&](const QByteArray &bytes) {
+            return withMetadata(bytes, resize.kept.size(), FileFormat::Jpeg, known);
+        });
+    return encoded ? std::optional(*encoded) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<QByteArray> resizedJpeg(const ImageSource &source, const JpegResize &resize, const EncodeOptions &options)
+{
+    const ImageSource::File *file = source.file();
+    if (!file || !isPossible(*file, resize))
+        return std::nullopt;
+    try {
+        return resizedFile(*file, resize, options);
+    } catch (const vips::VError &error) {
+        takeVipsError(error);
+    } catch (const std::bad_alloc &) {
+    }
+    return std::nullopt; // the other way knows what to say about it
+}
+
+} // namespace platform

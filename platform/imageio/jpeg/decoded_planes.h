@@ -1,0 +1,35 @@
+#pragma once
+
+// Private to the platform.
+
+#include "platform/planes/plane.h"
+
+#include <QByteArray>
+
+#include <optional>
+#include <vector>
+
+namespace platform {
+
+/** A JPEG of grey or of brightness and two differences of colour, as its planes. */
+struct DecodedPlanes
+{
+    std::vector<Plane> planes; ///< one or three
+    QSize sampling = {1, 1};   ///< how many samples of brightness share one of colour
+};
+
+/** What can be told before anything is decoded. */
+struct PlaneFacts
+{
+    QSize stored;
+    bool comesInPasses = false; ///< so that all of its coefficients are in memory at once
+    QByteArray profile;         ///< one that fits the colours; empty where there is none
+};
+
+/** None for other colours, and for files that the decoder has anything to say about, a mere warning too. */
+std::optional<PlaneFacts> planeFacts(const QByteArray &jpeg);
+
+/** The same for the pixels, decoded at the size divided by @p shrink: 1, 2, 4 or 8. Throws std::bad_alloc. */
+std::optional<DecodedPlanes> decodedPlanes(const QByteArray &jpeg, int shrink);
+
+} // namespace platform

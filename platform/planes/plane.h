@@ -1,0 +1,52 @@
+#pragma once
+
+// Private to the platform.
+
+#include <QSize>
+#include <QtGlobal>
+
+#include <memory>
+
+namespace platform {
+
+/** One component of a picture, 8 bits a sample. What its memory holds at first is not known. */
+class Plane
+{
+public:
+    Plane() = default;
+    /** At least 1 x 1. Throws std::bad_alloc. */
+    explicit Plane(QSize size);
+
+    bool isNull() const { return !m_bytes; }
+    QSize size() const { return m_size; }
+    int width() const { return m_size.width(); }
+    int height() const { return m_size.height(); }
+    /** From one row to the next: the width and some room, which vectors read and nobody uses. */
+    int rowBytes() const { return m_rowBytes; }
+    uchar *row(int y) { return m_bytes.get() + size_t(m_rowBytes) * size_t(y); }
+    const uchar *row(int y) const { return m_bytes.get() + size_t(m_rowBytes) * size_t(y); }
+
+private:
+    QSize m_size;
+    int m_rowBytes = 0;
+    std::unique_ptr<uchar[]> m_bytes;
+};
+
+/** Along one side: which part of the old samples becomes how many new ones. Positions count from the edge of the first sample. */
+struct PlaneSpan
+{
+    double start = 0; ///< where the first new sample begins among the old ones
+    double step = 1;  ///< how many old samples a new one stands for; at most mostPlaneStep
+    int count = 0;    ///< of new samples
+};
+
+/** Beyond this a weight is too small a number for the arithmetic. */
+constexpr double mostPlaneStep = 64;
+
+/**
+ * The plane at another size by Lanczos of three lobes, in whole numbers: the same on every machine. Samples beyond an edge are as the
+ * last one before it. Throws std::bad_alloc.
+ */
+Plane scaledPlane(const Plane &plane, const PlaneSpan &across, const PlaneSpan &down);
+
+} // namespace platform

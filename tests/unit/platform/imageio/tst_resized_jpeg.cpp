@@ -1,0 +1,276 @@
+#include "platform/imageio/convert/resized_jpeg.h"
+
+#include "platform/graphics/resample.h"
+#include "platform/planes/plane.h"
+#include "platform/planes/plane_kernels.h"
+#include "tests/support/expected_pictures.h"
+#include "tests/support/test_program.h"
+
+#include <QImage>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <cmath>
+#include <vector>
+
+using platform::Bitmap;
+using platform::ImageSource;
+
+namespace {
+
+/** Slow colour, texture and hard edges, like a photograph. */
+QImage photograph(QSize size, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x) {
+            const double light = 120 + 50 * std::sin(x / 37.0) * std::cos(y / 23.0) + 12 * std::sin(x * 0.9 + y * 0.4);
+            const int edge = (x / 70 + y / 90) % 3 == 0 ? 45 : 0;
+            const auto level = [&](double shade) {
+                return std::clamp(int(light * shade) + edge + int(random.bounded(9)) - 4, 0, 255);
+            };
+            image.setPixel(x, y, qRgb(level(1), level(0.8 + 0.2 * std::sin(x / 150.0)), level(0.7)));
+        }
+    return image;
+}
+
+QByteArray jpegOf(const Bitmap &bitmap, int quality)
+{
+    platform::EncodeOptions options;
+    options.quality = quality;
+    return platform::encodeImage(bitmap, platform::FileFormat::Jpeg, options).value_or(QByteArray());
+}
+
+QImage pixelsOf(const QByteArray &file)
+{
+    const auto source = ImageSource::fromData(file);
+    const auto bitmap = source ? source->decode() : platform::Result<Bitmap>(Bitmap());
+    return bitmap && !bitmap->isNull() ? bitmap->toRawImage().convertToFormat(QImage::Format_RGB888) : QImage();
+}
+
+struct Difference
+{
+    double decibels = 0; ///< how far the mean square lies below 255
+    std::array<double, 3> shift = {};
+    int largest = 0;
+};
+
+Difference differenceOf(const QImage &one, const QImage &other)
+{
+    Difference difference;
+    double squares = 0;
+    const double count = double(one.width()) * one.height();
+    for (int y = 0; y < one.height(); ++y)
+        for (int i = 0; i < 3 * one.width(); ++i) {
+            const int apart = int(one.constScanLine(y)[i]) - int(other.constScanLine(y)[i]);
+            difference.shift[size_t(i % 3)] += apart / count;
+            squares += apart * apart;
+            difference.largest = std::max(difference.largest, std::abs(apart));
+        }
+    difference.decibels = 10 * std::log10(255.0 * 255.0 / std::max(squares / (3 * count), 1e-9));
+    return difference;
+}
+
+/** The best that a JPEG of that quality can be: all pixels decoded, then scaled, cut and encoded. */
+QImage referenceOf(const ImageSource &source, const platform::JpegResize &resize)
+{
+    const auto scaled =
+        source.decode().and_then([&](const Bitmap &whole) { return platform::resample(whole, resize.size); });
+    return scaled ? platform::cut(*scaled, resize.kept).toRawImage().convertToFormat(QImage::Format_RGB888) : QImage();
+}
+
+/** The long way: colours are made of the planes, scaled, cut and encoded. */
+QImage madeTheLongWay(const ImageSource &source, const platform::JpegResize &resize, int quality)
+{
+    const auto scaled = resize.finer == 1
+                            ? source.decodeScaled(resize.size)
+                            : source.decodeAtLeast(resize.size * resize.finer).and_then([&](const Bitmap &b) {
+                                  return platform::resample(b, resize.size);
+                              });
+    return scaled ? pixelsOf(jpegOf(platform::cut(*scaled, resize.kept), quality)) : QImage();
+}
+
+std::optional<QByteArray> made(const ImageSource &source, const platform::JpegResize &resize, int quality)
+{
+    platform::EncodeOptions options;
+    options.quality = quality;
+    return platform::resizedJpeg(source, resize, options);
+}
+
+platform::JpegResize wholeAt(QSize size, int finer = 1)
+{
+    return {size, QRect(QPoint(0, 0), size), finer};
+}
+
+} // namespace
+
+/** JPEGs that become smaller JPEGs as planes of brightness and colour. */
+class ResizedJpeg : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isAsGoodAsTheLongWay_data();
+    void isAsGoodAsTheLongWay();
+    void isAsGoodAtAnySize();
+    void leavesOtherPicturesToTheLongWay_data();
+    void leavesOtherPicturesToTheLongWay();
+    void takesWhatIsKnownAlong();
+    void vectorsGiveTheSameNumbers();
+};
+
+/** Both ways against the reference, and against each other; sizes have to be the same. */
+static void compare(const ImageSource &source, const platform::JpegResize &resize, int quality, int &largest)
+{
+    const auto file = made(source, resize, quality);
+    QVERIFY(file);
+    const QImage reference = referenceOf(source, resize);
+    const QImage ours = pixelsOf(*file);
+    const QImage other = madeTheLongWay(source, resize, quality);
+    QCOMPARE(ours.size(), resize.kept.size());
+    QCOMPARE(other.size(), resize.kept.size());
+    const Difference found = differenceOf(ours, reference);
+    const Difference long_ = differenceOf(other, reference);
+    largest = std::max(largest, differenceOf(ours, other).largest);
+    const QByteArray about = QStringLiteral("%1x%2: %3 dB, the long way %4 dB")
+                                 .arg(resize.size.width())
+                                 .arg(resize.size.height())
+                                 .arg(found.decibels)
+                                 .arg(long_.decibels)
+                                 .toUtf8();
+    // The reference doubles colours with a filter of the decoder that smooths them, and from 90 on they are kept that finely.
+    const double less = quality < 90 ? 0.3 : 0.5;
+    QVERIFY2(found.decibels > long_.decibels - less, about.constData());
+    constexpr int enough = 10'000; // the mean of few blocks moves as they are quantised, either way
+    const bool isSmall = ours.width() * ours.height() < enough;
+    for (const double shift : found.shift)
+        QVERIFY2(std::abs(shift) < (isSmall ? 1 : 0.5), about.constData());
+}
+
+void ResizedJpeg::isAsGoodAsTheLongWay_data()
+{
+    QTest::addColumn<int>("sourceQuality"); // from 90 on with colour at full resolution
+    QTest::addColumn<int>("quality");
+    QTest::newRow("420 to 420") << 89 << 80;
+    QTest::newRow("420 to 444") << 89 << 92;
+    QTest::newRow("444 to 420") << 95 << 80;
+    QTest::newRow("444 to 444") << 95 << 92;
+}
+
+void ResizedJpeg::isAsGoodAsTheLongWay()
+{
+    QFETCH(int, sourceQuality);
+    QFETCH(int, quality);
+    const QSize size(803, 601);
+    const auto source = ImageSource::fromData(jpegOf(Bitmap::fromImage(photograph(size, 1)), sourceQuality));
+    QVERIFY(source);
+    int largest = 0;
+    for (const int finer : {1, 3})
+        for (const QSize wanted : {QSize(802, 600), QSize(402, 301), QSize(401, 300), QSize(300, 225), QSize(201, 150)})
+            compare(*source, wholeAt(wanted, finer), quality, largest);
+    compare(*source, {QSize(400, 300), QRect(51, 20, 299, 260)}, quality, largest);
+    qInfo("at most %d levels from the long way", largest);
+}
+
+void ResizedJpeg::isAsGoodAtAnySize()
+{
+    QRandomGenerator random(23);
+    int largest = 0;
+    for (int i = 0; i < tests::repetitions(12, 500); ++i) {
+        const QSize size(random.bounded(100, 900), random.bounded(100, 700));
+        const QImage image = photograph(size, quint32(i));
+        const bool isGrey = i % 5 == 4;
+        const Bitmap pixels = Bitmap::fromImage(isGrey ? image.convertToFormat(QImage::Format_Grayscale8) : image);
+        const auto source = ImageSource::fromData(jpegOf(pixels, i % 2 == 0 ? 85 : 93));
+        QVERIFY(source);
+        const QSize wanted(random.bounded(size.width() / 9 + 1, size.width()),
+                           random.bounded(size.height() / 9 + 1, size.height()));
+        const QRect kept(random.bounded(wanted.width() / 2 + 1), random.bounded(wanted.height() / 2 + 1),
+                         (wanted.width() + 1) / 2, (wanted.height() + 1) / 2);
+        platform::JpegResize resize = wholeAt(wanted, i % 3 == 0 ? 3 : 1);
+        if (i % 4 == 3)
+            resize.kept = kept.intersected(resize.kept);
+        compare(*source, resize, i % 7 < 4 ? 80 : 92, largest);
+        if (QTest::currentTestFailed())
+            return;
+    }
+    qInfo("at most %d levels from the long way", largest);
+}
+
+void ResizedJpeg::leavesOtherPicturesToTheLongWay_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"cmyk-adobe.jpg", "rgb-without-conversion.jpg", "sampled-3x1.jpg"})
+        QTest::newRow(name) << QStringLiteral(QUORLIN_TEST_DATA "/jpeg/") + QString::fromLatin1(name);
+    QTest::newRow("turned") << picturePath("own/orientation/landscape_6.jpg");
+}
+
+void ResizedJpeg::leavesOtherPicturesToTheLongWay()
+{
+    QFETCH(QString, name);
+    const auto source = ImageSource::open(name);
+    QVERIFY(source);
+    QVERIFY(!made(*source, wholeAt(source->uprightSize() / 2), 80));
+    const auto plain = ImageSource::fromData(jpegOf(Bitmap::fromImage(photograph({200, 100}, 1)), 80));
+    QVERIFY(plain);
+    QVERIFY(made(*plain, wholeAt({100, 50}), 80));
+    QVERIFY(!made(*plain, wholeAt({201, 50}), 80));                // larger
+    QVERIFY(!made(*plain, {{100, 50}, QRect(60, 0, 50, 50)}, 80)); // reaches beyond
+    QVERIFY(!made(*ImageSource::fromData(jpegOf(Bitmap::fromImage(photograph({63, 63}, 1)), 80)), wholeAt({9, 9}), 80));
+}
+
+void ResizedJpeg::takesWhatIsKnownAlong()
+{
+    const auto source = ImageSource::open(QStringLiteral(QUORLIN_TEST_DATA "/jpeg/sampled-420.jpg"));
+    QVERIFY(source);
+    platform::EncodeOptions options;
+    options.quality = 80;
+    options.dpi = 240;
+    const auto file = platform::resizedJpeg(*source, wholeAt({48, 32}), options);
+    QVERIFY(file);
+    const auto read = ImageSource::fromData(*file);
+    QVERIFY(read);
+    QCOMPARE(read->iccProfile(), source->iccProfile());
+    QCOMPARE(read->decode()->horizontalDpi(), 240.0);
+    options.quality.reset(); // the tables of the source
+    const auto same = platform::resizedJpeg(*source, wholeAt({48, 32}), options);
+    QVERIFY(same);
+    QCOMPARE(ImageSource::fromData(*same)->decode()->jpegQuantisation()->tables,
+             source->decode()->jpegQuantisation()->tables);
+}
+
+void ResizedJpeg::vectorsGiveTheSameNumbers()
+{
+    const platform::PlaneKernels &plain = platform::plainPlaneKernels();
+    const platform::PlaneKernels &fast = platform::planeKernels();
+    QRandomGenerator random(5);
+    for (int i = 0; i < tests::repetitions(50, 2000); ++i) {
+        const int taps = platform::planeTapUnit * random.bounded(1, 5);
+        const int count = platform::planeRowUnit * random.bounded(1, 4);
+        std::vector<std::vector<uchar>> samples(static_cast<size_t>(taps),
+                                                std::vector<uchar>(static_cast<size_t>(count)));
+        std::vector<const uchar *> rows;
+        for (auto &row : samples) {
+            std::generate(row.begin(), row.end(), [&] { return uchar(random.bounded(256)); });
+            rows.push_back(row.data());
+        }
+        std::vector<qint16> weights(size_t(taps) * size_t(count));
+        std::generate(weights.begin(), weights.end(), [&] { return qint16(random.bounded(-900, 1800)); });
+        std::vector<qint16> sums(size_t(count + taps), 0);
+        std::vector<qint16> otherSums = sums;
+        plain.sumRows(rows.data(), weights.data(), taps, sums.data(), count);
+        fast.sumRows(rows.data(), weights.data(), taps, otherSums.data(), count);
+        QCOMPARE(otherSums, sums);
+        std::vector<int> starts(static_cast<size_t>(count));
+        std::generate(starts.begin(), starts.end(), [&] { return random.bounded(count); });
+        std::vector<uchar> out(static_cast<size_t>(count));
+        std::vector<uchar> otherOut = out;
+        plain.sumColumns(sums.data(), starts.data(), weights.data(), taps, out.data(), count);
+        fast.sumColumns(sums.data(), starts.data(), weights.data(), taps, otherOut.data(), count);
+        QCOMPARE(otherOut, out);
+    }
+}
+
+QUORLIN_TEST(ResizedJpeg)
+#include "tst_resized_jpeg.moc"
