@@ -1,10 +1,10 @@
 #include "platform/imageio/png/png_rows.h"
 
+#include "platform/planes/fast_loop.h"
+
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <cstring>
-#include <limits>
 #include <vector>
 
 namespace platform {
@@ -34,8 +34,6 @@ public:
     void writeBest(char *out);
 
 private:
-    void filterAll();
-
     size_t m_rowBytes;
     size_t m_pixelBytes;
     std::vector<uchar> m_row;
@@ -43,55 +41,78 @@ private:
     std::array<std::vector<uchar>, 4> m_results;
 };
 
-uchar paeth(int left, int above, int corner)
+/**
+ * Small differences, whichever their sign, are what compresses well: what a filter leaves counts as much as it is away from 0.
+ * All of these write what is left, and answer what it counts.
+ */
+quint32 counted(uchar difference)
 {
-    const int toLeft = std::abs(above - corner);
-    const int toAbove = std::abs(left - corner);
-    const int toCorner = std::abs(left + above - 2 * corner);
-    const int nearer = toAbove <= toCorner ? above : corner;
-    return uchar(toLeft <= toAbove && toLeft <= toCorner ? left : nearer);
+    return std::min(difference, uchar(-difference));
 }
 
-void RowFilters::filterAll()
+/** The rows in which a filter looks; each pointer is at the first byte of a pixel, of the one before, above, or both. */
+struct Neighbours
 {
-    const uchar *row = m_row.data() + m_pixelBytes;
-    const uchar *left = m_row.data();
-    const uchar *above = m_above.data() + m_pixelBytes;
-    const uchar *corner = m_above.data();
-    const auto make = [this](Filter filter, auto predicted) {
-        uchar *__restrict out = m_results[filter - 1].data();
-        for (size_t i = 0; i < m_rowBytes; ++i)
-            out[i] = predicted(i);
-    };
-    make(Sub, [=](size_t i) { return uchar(row[i] - left[i]); });
-    make(Up, [=](size_t i) { return uchar(row[i] - above[i]); });
-    make(Average, [=](size_t i) { return uchar(row[i] - (left[i] + above[i]) / 2); });
-    make(Paeth, [=](size_t i) { return uchar(row[i] - paeth(left[i], above[i], corner[i])); });
+    const uchar *row;
+    const uchar *left;
+    const uchar *above;
+    const uchar *corner;
+};
+
+QUORLIN_FAST_LOOP quint32 subtract(const uchar *row, const uchar *from, uchar *__restrict out, size_t count)
+{
+    quint32 cost = 0;
+    for (size_t i = 0; i < count; ++i) {
+        out[i] = uchar(row[i] - from[i]);
+        cost += counted(out[i]);
+    }
+    return cost;
 }
 
-/** Small differences, whichever their sign, are what compresses well. */
-quint64 costOf(const std::vector<uchar> &bytes)
+QUORLIN_FAST_LOOP quint32 subtractAverage(const Neighbours &near, uchar *__restrict out, size_t count)
 {
-    quint32 sum = 0;
-    for (const uchar byte : bytes)
-        sum += uint(std::min<int>(byte, 256 - byte));
-    return sum;
+    const Neighbours at = near;
+    quint32 cost = 0;
+    for (size_t i = 0; i < count; ++i) {
+        out[i] = uchar(at.row[i] - ((at.left[i] + at.above[i]) >> 1));
+        cost += counted(out[i]);
+    }
+    return cost;
+}
+
+/** In 16 bits, so that a vector holds as many of them as can be. */
+QUORLIN_FAST_LOOP quint32 subtractPaeth(const Neighbours &near, uchar *__restrict out, size_t count)
+{
+    const auto distance = [](qint16 value) { return qint16(value < 0 ? -value : value); };
+    const Neighbours at = near;
+    quint32 cost = 0;
+    for (size_t i = 0; i < count; ++i) {
+        const qint16 left = at.left[i];
+        const qint16 above = at.above[i];
+        const qint16 corner = at.corner[i];
+        const qint16 across = qint16(above - corner);
+        const qint16 down = qint16(left - corner);
+        const qint16 toLeft = distance(across);
+        const qint16 toAbove = distance(down);
+        const qint16 toCorner = distance(qint16(across + down));
+        const qint16 nearer = toAbove <= toCorner ? above : corner;
+        const qint16 predicted = toLeft <= toAbove && toLeft <= toCorner ? left : nearer;
+        out[i] = uchar(at.row[i] - predicted);
+        cost += counted(out[i]);
+    }
+    return cost;
 }
 
 void RowFilters::writeBest(char *out)
 {
-    filterAll();
-    uchar best = Sub;
-    quint64 least = std::numeric_limits<quint64>::max();
-    for (const Filter filter : {Sub, Up, Average, Paeth}) {
-        const quint64 cost = costOf(m_results[filter - 1]);
-        if (cost < least) {
-            least = cost;
-            best = filter;
-        }
-    }
-    *out = char(best);
-    std::memcpy(out + 1, m_results[best - 1].data(), m_rowBytes);
+    const Neighbours near = {m_row.data() + m_pixelBytes, m_row.data(), m_above.data() + m_pixelBytes, m_above.data()};
+    const auto into = [this](Filter filter) { return m_results[filter - 1].data(); };
+    const std::array<quint32, 4> costs = {
+        subtract(near.row, near.left, into(Sub), m_rowBytes), subtract(near.row, near.above, into(Up), m_rowBytes),
+        subtractAverage(near, into(Average), m_rowBytes), subtractPaeth(near, into(Paeth), m_rowBytes)};
+    const auto best = size_t(std::min_element(costs.begin(), costs.end()) - costs.begin());
+    *out = char(best + Sub);
+    std::memcpy(out + 1, m_results[best].data(), m_rowBytes);
 }
 
 /** Copies a row, turning components of two bytes round. */
