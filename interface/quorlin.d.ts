@@ -2124,6 +2124,8 @@ declare module "quorlin/shell" {
         readonly tickedCount: whole;
         /** While a job runs nothing is read in the background for rows that are not visible. */
         busy: boolean;
+        /** Whether the thumbnails that the programs of the desktop share are used and written. */
+        sharesThumbnails: boolean;
         /** False while it is sorted by something that is still being read. */
         readonly settled: boolean;
         /** What the user did to the columns, as a text to be kept. */

@@ -399,18 +399,24 @@ void PictureModel::wantThumbnail(int index, QSize devicePixels)
     const int id = row.id;
     if (row.thumbnailTried || row.isFolder || m_thumbnailAsks.contains(id))
         return;
-    const jobs::ReadRequest request = {
-        jobs::Reading::Thumbnail,
-        row.path,
-        {{QStringLiteral("width"), devicePixels.width()}, {QStringLiteral("height"), devicePixels.height()}}};
-    m_thumbnailAsks.insert(id, m_reader.ask(request, jobs::Urgency::Now, [this, id](const jobs::ReadResult &result) {
-        m_thumbnailAsks.remove(id);
-        takeThumbnail(id, result);
-        Q_EMIT thumbnailArrived(id);
-    }));
+    askForThumbnail(id, thumbnailAsk(row.path, row.pixels, devicePixels, m_sharesThumbnails));
 }
 
-void PictureModel::takeThumbnail(int id, const jobs::ReadResult &result)
+void PictureModel::askForThumbnail(int id, const ThumbnailAsk &ask)
+{
+    const auto take = [this, id, ask](const jobs::ReadResult &result) {
+        m_thumbnailAsks.remove(id);
+        if (result.image.isNull() && ask.shared) { // what others have kept may be damaged, or gone by now
+            askForThumbnail(id, thumbnailAsk(ask.path, ask.pixels, ask.wanted, false));
+            return;
+        }
+        takeThumbnail(id, result, ask);
+        Q_EMIT thumbnailArrived(id);
+    };
+    m_thumbnailAsks.insert(id, m_reader.ask(ask.request(), jobs::Urgency::Now, take));
+}
+
+void PictureModel::takeThumbnail(int id, const jobs::ReadResult &result, const ThumbnailAsk &ask)
 {
     const int index = indexOfId(id);
     if (index < 0)
@@ -419,7 +425,15 @@ void PictureModel::takeThumbnail(int id, const jobs::ReadResult &result)
     row.thumbnailTried = result.image.isNull();
     if (row.thumbnailTried)
         return;
-    m_thumbnails.insert(id, new QPixmap(QPixmap::fromImage(result.image)));
+    m_thumbnails.insert(id, new QPixmap(QPixmap::fromImage(ask.thumbnailFrom(result))));
+    if (ask.isWorthKeeping(result)) // in a step of its own, since it is compressed
+        QMetaObject::invokeMethod(
+            this,
+            [ask, image = result.image] {
+                // Nobody waits for it: a full disk costs the others their thumbnail and the user nothing.
+                (void)platform::writeSharedThumbnail(*ask.shared, ask.path, image, ask.pixels);
+            },
+            Qt::QueuedConnection);
     changed(index, Thumbnail, Thumbnail);
 }
 

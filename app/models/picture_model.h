@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/reading/known_pictures.h"
+#include "app/reading/thumbnails.h"
 
 #include <QAbstractTableModel>
 #include <QCache>
@@ -120,6 +121,9 @@ public:
     QPixmap thumbnail(int index) const;
     /** Has it made in that many pixels of the screen; thumbnailArrived() tells of it. What cannot be made is not tried again. */
     void wantThumbnail(int index, QSize devicePixels);
+    /** Whether thumbnails are taken from those that the programs of the desktop share, and kept there. */
+    bool sharesThumbnails() const { return m_sharesThumbnails; }
+    void setSharesThumbnails(bool shares) { m_sharesThumbnails = shares; }
     /** Takes back what is wanted of rows but these. */
     void dropThumbnailsBut(const QSet<int> &ids);
     /** How much is being read. */
@@ -135,7 +139,8 @@ Q_SIGNALS:
 private:
     static QString thumbnailWords(const PictureRow &row);
     void takeHeader(int id, const KnownPicture &picture);
-    void takeThumbnail(int id, const jobs::ReadResult &result);
+    void askForThumbnail(int id, const ThumbnailAsk &ask);
+    void takeThumbnail(int id, const jobs::ReadResult &result, const ThumbnailAsk &ask);
     void dropReading(int id);
     void changed(int index, Column first, Column last);
     void rebuildIndex();
@@ -147,6 +152,7 @@ private:
     QCache<int, QPixmap> m_thumbnails;
     QHash<int, jobs::Reader::Number> m_headers; ///< being read, by id
     QHash<int, jobs::Reader::Number> m_thumbnailAsks;
+    bool m_sharesThumbnails = false;
     QHash<int, QString> m_headings;
     bool m_stressesNewNames = false;
     int m_nextId = 1;

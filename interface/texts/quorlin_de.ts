@@ -1617,6 +1617,14 @@
         <source>Quorlin asks for its number only; nothing is downloaded or installed by itself.</source>
         <translation>Quorlin fragt nur nach ihrer Nummer; nichts wird von selbst geladen oder installiert.</translation>
     </message>
+    <message>
+        <source>Share thumbnails with other programs</source>
+        <translation>Vorschaubilder mit anderen Programmen teilen</translation>
+    </message>
+    <message>
+        <source>Lists of pictures appear sooner. Thumbnails of encrypted and removable disks are never kept.</source>
+        <translation>Bildlisten erscheinen schneller. Von verschlüsselten und entfernbaren Datenträgern werden nie Vorschaubilder aufbewahrt.</translation>
+    </message>
 </context>
 <context>
     <name>PresetPane</name>

@@ -1617,6 +1617,14 @@
         <source>Quorlin asks for its number only; nothing is downloaded or installed by itself.</source>
         <translation>Quorlin ne demande que son numéro ; rien n’est téléchargé ni installé tout seul.</translation>
     </message>
+    <message>
+        <source>Share thumbnails with other programs</source>
+        <translation>Partager les vignettes avec les autres programmes</translation>
+    </message>
+    <message>
+        <source>Lists of pictures appear sooner. Thumbnails of encrypted and removable disks are never kept.</source>
+        <translation>Les listes d’images s’affichent plus vite. Aucune vignette des disques chiffrés ou amovibles n’est conservée.</translation>
+    </message>
 </context>
 <context>
     <name>PresetPane</name>

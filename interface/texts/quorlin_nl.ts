@@ -1617,6 +1617,14 @@
         <source>Quorlin asks for its number only; nothing is downloaded or installed by itself.</source>
         <translation>Quorlin vraagt alleen het nummer; niets wordt vanzelf gedownload of geïnstalleerd.</translation>
     </message>
+    <message>
+        <source>Share thumbnails with other programs</source>
+        <translation>Miniaturen delen met andere programma’s</translation>
+    </message>
+    <message>
+        <source>Lists of pictures appear sooner. Thumbnails of encrypted and removable disks are never kept.</source>
+        <translation>Lijsten met foto’s verschijnen sneller. Van versleutelde en verwisselbare schijven worden nooit miniaturen bewaard.</translation>
+    </message>
 </context>
 <context>
     <name>PresetPane</name>

@@ -270,6 +270,21 @@ ReadAnswer bytesOfConversion(const ImageSource &source, const QString &identifie
     return failed({});
 }
 
+/** What somebody kept of that picture; none where it is of another one, of an older state of it, or larger than it may be. */
+std::optional<Bitmap> keptThumbnail(const std::shared_ptr<const LentFile> &file, const QString &uri, double modified,
+                                    int side)
+{
+    const Result<ImageSource> source = ImageSource::fromLent(file);
+    if (!source || source->typeIdentifier() != QLatin1String("public.png") ||
+        source->storedSize().boundedTo({side, side}) != source->storedSize())
+        return std::nullopt;
+    const QVariantMap stated = source->properties().value_or(QVariantMap()).value(key("{PNG}")).toMap();
+    const bool isOfPicture = stated.value(key("Thumb::URI")).toString() == uri &&
+                             stated.value(key("Thumb::MTime")).toString() == QString::number(modified, 'f', 0);
+    const Result<Bitmap> bitmap = source->decode();
+    return isOfPicture && bitmap ? std::optional(*bitmap) : std::nullopt;
+}
+
 } // namespace
 
 PictureReader::Kept PictureReader::keptOf(int descriptor)
@@ -304,8 +319,30 @@ Result<Bitmap> PictureReader::baseOf(const Request &request, QSize *full)
     });
 }
 
+ReadAnswer PictureReader::sharedThumbnail(const Request &request)
+{
+    const int side = request.whole("side");
+    if (request.other(1)) {
+        const double modified = request.value("modified").toDouble();
+        if (const auto kept = keptThumbnail(request.other(1), request.value("uri").toString(), modified, side)) {
+            ReadAnswer answer = shown(kept->toScreenImage(), kept->size());
+            answer.message.values.insert(key("isKept"), true);
+            return answer;
+        }
+    }
+    const Result<ImageSource> source = request.source();
+    if (!source)
+        return failedWith(source.error());
+    const QSize pixels = source->uprightSize();
+    const QSize size = renditionSize(pixels, QSizeF(side, side), false);
+    const Result<Bitmap> bitmap = source->decodeScaled(size);
+    return bitmap ? shown(bitmap->toScreenImage(), pixels) : failedWith(bitmap.error());
+}
+
 ReadAnswer PictureReader::thumbnail(const Request &request)
 {
+    if (request.whole("side") > 0)
+        return sharedThumbnail(request);
     const QSize wanted = QSize(request.whole("width"), request.whole("height")).expandedTo({1, 1});
     const Result<ImageSource> source = request.source();
     if (!source)

@@ -39,7 +39,8 @@ private:
     };
     static Kept keptOf(int descriptor);
 
-    ReadAnswer thumbnail(const Request &request);
+    static ReadAnswer thumbnail(const Request &request);
+    static ReadAnswer sharedThumbnail(const Request &request);
     ReadAnswer rendition(const Request &request);
     ReadAnswer result(const Request &request);
     platform::Result<platform::Picture> pictureOf(const Request &request);

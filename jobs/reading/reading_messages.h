@@ -22,7 +22,11 @@ enum class Reading {
      * and {taken, camera, lens, statedWidth, statedHeight, statedType}, see platform::PictureFacts, also where only that is known.
      */
     Facts,
-    /** The middle of the picture in {width, height} pixels; that size in pixels of the screen. */
+    /**
+     * The middle of the picture in {width, height} pixels; that size in pixels of the screen. With a {side} above 0 all of it instead, with at
+     * most so many pixels on a side. A file that comes along is a thumbnail that somebody kept: where it states the {uri} and when the
+     * picture was {modified}, it is the answer, which says then that it {isKept}.
+     */
     Thumbnail,
     /**
      * The picture in no more pixels than can be seen: {roomWidth, roomHeight} and "covers", see renditionSize(). With a {scale} above 0 the

@@ -29,6 +29,8 @@ class PictureTable : public QTableView
     /** How many of them are ticked: runs work on these. */
     Q_PROPERTY(int tickedCount READ tickedCount NOTIFY ticksChanged)
     Q_PROPERTY(bool busy READ isBusy WRITE setBusy)
+    /** Whether the thumbnails that the programs of the desktop share are used and written. */
+    Q_PROPERTY(bool sharesThumbnails READ sharesThumbnails WRITE setSharesThumbnails)
     /** False while the list is sorted by something that is still being read of some files. */
     Q_PROPERTY(bool settled READ isSettled NOTIFY orderChanged)
     /** What the user did to the columns, as a text to be kept: their order and widths. Empty where nothing was done. */
@@ -46,6 +48,8 @@ public:
     void setProblemsOnly(bool on);
     int tickedCount() const { return m_tickedCount; }
     bool isSettled() const { return !m_resortPending; }
+    bool sharesThumbnails() const { return m_model.sharesThumbnails(); }
+    void setSharesThumbnails(bool shares) { m_model.setSharesThumbnails(shares); }
     bool isBusy() const { return m_busy; }
     /** While busy (a job runs) nothing is read in the background for rows that are not visible, and ticks stay as they are. */
     void setBusy(bool busy);

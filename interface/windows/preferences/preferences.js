@@ -37,6 +37,8 @@ export class Preferences {
     constructor(mainForm, chosen) {
         this.chosen = chosen;
         this.form = shell.loadForm("windows/preferences/preferences.ui");
+        this.pictures = mainForm.control("pictures");
+        this.pictures.sharesThumbnails = wishes(defaults).sharesThumbnails;
         this.sheets = new cSheetControl();
         this.sheets.wwMainWindow = shell.sheetHost(mainForm);
         this.sheets.wwPreferencesWindow = this.form.control("preferencesWindow");
@@ -85,6 +87,11 @@ export class Preferences {
         Object.keys(choices).forEach((name) => {
             this.form.control(name).activated.connect(guard("preferences", () => choices[name](this.form.value(name))));
         });
+        const thumbnails = this.form.control("wishThumbnails");
+        thumbnails.toggled.connect(guard("preferences", () => {
+            keepWish(defaults, "sharesThumbnails", thumbnails.checked);
+            this.pictures.sharesThumbnails = thumbnails.checked;
+        }));
         const update = this.form.control("wishUpdate");
         update.toggled.connect(guard("preferences", () => keep(defaults, UPDATE, { onStart: update.checked })));
     }
@@ -106,6 +113,7 @@ export class Preferences {
         this.form.chooseValue("wishMemory", wishes(defaults).memory);
         this.form.chooseValue("wishLogRows", wishes(defaults).logRows);
         this.form.chooseValue("wishProcessors", processorsOf(wishes(defaults).processors));
+        this.form.control("wishThumbnails").checked = wishes(defaults).sharesThumbnails;
         this.form.control("wishUpdate").checked = recall(defaults, UPDATE, UPDATE_STANDARD).onStart;
     }
 

@@ -52,6 +52,7 @@ WindowDriver::WindowDriver(QApplication &application)
         jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKER)); // the tests are not where the program is
     qputenv("HOME", m_home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", (m_home.path() + QStringLiteral("/.local/share")).toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", (m_home.path() + QStringLiteral("/.cache")).toLocal8Bit());
     keepSettingsIn(m_home.path() + QStringLiteral("/.config"));
     // Nobody is there to be asked; who tests the question takes this away.
     platform::setUserDefault(QStringLiteral("SupportFolderPutOff"), QStringLiteral("{\"on\":true}"));

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void tellsTheFacts();
     void tellsFactsOfWhatCannotBeDecoded();
     void makesThumbnails();
+    void takesSharedThumbnailsOfThatPictureOnly();
     void makesRenditions_data();
     void makesRenditions();
     void makesResults();
@@ -188,6 +189,42 @@ void TestPictureReader::makesThumbnails()
                                     {{QStringLiteral("width"), 48}, {QStringLiteral("height"), 32}});
     QCOMPARE(answer.image.size(), QSize(48, 32));
     QVERIFY(qRed(answer.image.pixel(2, 16)) > 200 && qBlue(answer.image.pixel(45, 16)) > 200);
+}
+
+void TestPictureReader::takesSharedThumbnailsOfThatPictureOnly()
+{
+    ScratchFolder folder;
+    Asked asked;
+    const QString path = saved(folder, "a.jpg", halves({600, 200}));
+    const QString kept = folder.path("kept.png");
+    const auto ask = [&](QSize size, const char *uri, const char *modified) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::green);
+        image.setText(QStringLiteral("Thumb::URI"), QString::fromLatin1(uri));
+        image.setText(QStringLiteral("Thumb::MTime"), QString::fromLatin1(modified));
+        if (!image.save(kept))
+            qFatal("no thumbnail");
+        const QVariantMap values = {
+            {QStringLiteral("width"), 48},
+            {QStringLiteral("height"), 32},
+            {QStringLiteral("side"), 128},
+            {QStringLiteral("uri"), QStringLiteral("file:///somewhere/of/many/letters/a%20b/a.jpg")},
+            {QStringLiteral("modified"), 1700000000.0}};
+        return asked.ask(Reading::Thumbnail, {path, kept}, values);
+    };
+    const char *own = "file:///somewhere/of/many/letters/a%20b/a.jpg";
+    Answer answer = ask({128, 43}, own, "1700000000");
+    QVERIFY(answer.value("isKept").toBool());
+    QCOMPARE(answer.image.size(), QSize(128, 43));
+    QCOMPARE(QColor(answer.image.pixel(9, 9)), QColor(Qt::green));
+    for (const auto &[size, uri, modified] :
+         {std::tuple(QSize(128, 43), "file:///other.jpg", "1700000000"), std::tuple(QSize(128, 43), own, "1700000001"),
+          std::tuple(QSize(128, 43), own, ""), std::tuple(QSize(129, 43), own, "1700000000")}) {
+        answer = ask(size, uri, modified);
+        QVERIFY2(!answer.value("isKept").toBool(), modified);
+        QCOMPARE(answer.image.size(), QSize(128, 43));
+        QVERIFY(qRed(answer.image.pixel(2, 16)) > 200 && qBlue(answer.image.pixel(120, 16)) > 200);
+    }
 }
 
 void TestPictureReader::makesRenditions_data()

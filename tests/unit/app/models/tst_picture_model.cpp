@@ -98,6 +98,46 @@ private Q_SLOTS:
         QCOMPARE(model.thumbnailsInWork(), 0);
     }
 
+    void keepsThumbnailsForOthersAndTakesTheirs()
+    {
+        qputenv("XDG_CACHE_HOME", QFile::encodeName(m_folder->filePath(QStringLiteral("cache"))));
+        const QString path = m_folder->filePath(QStringLiteral("a.png"));
+        QImage image(400, 300, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QVERIFY(image.save(path));
+        const auto place = platform::sharedThumbnail(path, {400, 300}, {32, 24});
+        QVERIFY(place);
+
+        const auto shownAs = [&path](bool shares) {
+            PictureModel model;
+            model.setSharesThumbnails(shares);
+            model.add({path});
+            model.withHeader(0);
+            model.wantThumbnail(0, {32, 24});
+            if (!QTest::qWaitFor([&model] { return model.hasThumbnail(0); }, 30000))
+                return QColor();
+            QCoreApplication::sendPostedEvents();
+            const QImage shown = model.thumbnail(0).toImage();
+            return shown.size() == QSize(32, 24) ? shown.pixelColor(9, 9) : QColor();
+        };
+        shownAs(false);
+        QVERIFY(!place->isThere());
+        shownAs(true);
+        if (!platform::mayBeThumbnailed(path)) {
+            QVERIFY(!place->isThere());
+            QSKIP("the disk of this machine is encrypted or removable");
+        }
+        QVERIFY(place->isThere());
+        // Another program has made it blue, another one has left rubbish there.
+        QImage blue(128, 96, QImage::Format_RGB32);
+        blue.fill(Qt::blue);
+        QVERIFY(platform::writeSharedThumbnail(*place, path, blue, {400, 300}));
+        QCOMPARE(shownAs(true), QColor(Qt::blue));
+        QVERIFY(shownAs(false).red() > 200);
+        write(place->path, "no picture");
+        QVERIFY(shownAs(true).red() > 200);
+    }
+
     void hasHeadersReadWithoutWaiting()
     {
         PictureModel model;
