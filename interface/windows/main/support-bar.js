@@ -11,7 +11,7 @@ export class SupportBar {
     /** @param window  the main window's parts: form, page */
     constructor(window) {
         this.window = window;
-        this.preferences = new Preferences(window.form, () => this.folderChosen());
+        this.preferences = new Preferences(window.form, window.form.control("pictures"), () => this.folderChosen());
         window.form.control("preferencesAction").triggered.connect(guard("preferences", () => this.preferences.open()));
         window.form.control("supportChoose").clicked.connect(guard("support.choose",
                                                                    () => this.preferences.chooseFirst()));

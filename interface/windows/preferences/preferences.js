@@ -32,12 +32,13 @@ function memoryWords(megabytes) {
 export class Preferences {
     /**
      * @param mainForm  the form of the main window
+     * @param pictures  the list of the main window
      * @param chosen    called after the user was asked for the support folder
      */
-    constructor(mainForm, chosen) {
+    constructor(mainForm, pictures, chosen) {
         this.chosen = chosen;
         this.form = shell.loadForm("windows/preferences/preferences.ui");
-        this.pictures = mainForm.control("pictures");
+        this.pictures = pictures;
         this.pictures.sharesThumbnails = wishes(defaults).sharesThumbnails;
         this.sheets = new cSheetControl();
         this.sheets.wwMainWindow = shell.sheetHost(mainForm);
