@@ -37,6 +37,7 @@ DesktopSigns::DesktopSigns(QObject *parent) : QObject(parent)
 {
     QDBusConnection::sessionBus().connect(QString(), notificationsPath, notifications, QStringLiteral("ActionInvoked"),
                                           this, SLOT(notificationChosen(uint, QString)));
+    connect(&m_portal, &PortalSigns::chosen, this, &DesktopSigns::leadBack);
 }
 
 DesktopSigns::~DesktopSigns() = default;
@@ -54,7 +55,7 @@ void DesktopSigns::jobGoesOn(const QString &title, int percent)
 void DesktopSigns::jobEnded(const QString &title, const QString &summary)
 {
     m_isOn = false;
-    m_awake.reset();
+    letSleep();
     showProgress(-1);
     if (summary.isEmpty() || !isInBackground())
         return;
@@ -63,8 +64,28 @@ void DesktopSigns::jobEnded(const QString &title, const QString &summary)
     notify(title, summary);
 }
 
-// The promise holds as long as what was answered is open, also where this process ends early.
 void DesktopSigns::stayAwake(const QString &title)
+{
+    m_portal.stayAwake(title, [this, title, job = m_jobs](const QString &promise) {
+        const bool isStillWanted = m_isOn && job == m_jobs;
+        if (!promise.isEmpty() && isStillWanted)
+            m_promise = promise;
+        else if (!promise.isEmpty())
+            PortalSigns::letSleep(promise);
+        else if (isStillWanted)
+            stayAwakeWithoutPortal(title);
+    });
+}
+
+void DesktopSigns::letSleep()
+{
+    m_awake.reset();
+    if (!m_promise.isEmpty())
+        PortalSigns::letSleep(std::exchange(m_promise, {}));
+}
+
+// The promise holds as long as what was answered is open, also where this process ends early.
+void DesktopSigns::stayAwakeWithoutPortal(const QString &title)
 {
     const QDBusConnection bus = QDBusConnection::systemBus();
     if (!bus.isConnected())
@@ -95,6 +116,14 @@ void DesktopSigns::showProgress(int percent)
 
 void DesktopSigns::notify(const QString &title, const QString &summary)
 {
+    m_portal.notify(title, summary, [this, title, summary](bool isTaken) {
+        if (!isTaken)
+            notifyWithoutPortal(title, summary);
+    });
+}
+
+void DesktopSigns::notifyWithoutPortal(const QString &title, const QString &summary)
+{
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
@@ -116,7 +145,13 @@ void DesktopSigns::notify(const QString &title, const QString &summary)
 
 void DesktopSigns::notificationChosen(uint id, const QString &action)
 {
-    if (m_notification == 0 || id != m_notification || action != QLatin1String("default") || !m_window)
+    if (m_notification != 0 && id == m_notification && action == QLatin1String("default"))
+        leadBack();
+}
+
+void DesktopSigns::leadBack()
+{
+    if (!m_window)
         return;
     if (m_window->isMinimized())
         m_window->showNormal();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/window/portal_signs.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
@@ -14,7 +16,7 @@ namespace window {
  * What the desktop is told of a job: that the machine must not sleep meanwhile, how far it is, and, where the window is in the
  * background, that it has ended.
  *
- * All of it is asked over the buses of the desktop, without waiting for an answer; a desktop that does not know one of them does
+ * All of it is asked over the buses of the desktop, the portal first, without waiting for an answer; a desktop that does not know one of them does
  * without it.
  */
 class DesktopSigns : public QObject
@@ -41,19 +43,25 @@ public:
     Q_INVOKABLE void jobEnded(const QString &title, const QString &summary);
 
     /** Whether the desktop has promised to stay awake. */
-    bool keepsAwake() const { return m_awake != nullptr; }
+    bool keepsAwake() const { return m_awake || !m_promise.isEmpty(); }
 
 private Q_SLOTS:
     void notificationChosen(uint id, const QString &action);
 
 private:
     void stayAwake(const QString &title);
+    void stayAwakeWithoutPortal(const QString &title);
+    void letSleep();
     void showProgress(int percent);
     void notify(const QString &title, const QString &summary);
+    void notifyWithoutPortal(const QString &title, const QString &summary);
+    void leadBack();
 
     QPointer<QWidget> m_window;
-    std::unique_ptr<QDBusUnixFileDescriptor> m_awake;
-    int m_jobs = 0; ///< how many have begun, so that a late answer is known to be one
+    PortalSigns m_portal;
+    QString m_promise;                                ///< of the portal, that the machine stays awake
+    std::unique_ptr<QDBusUnixFileDescriptor> m_awake; ///< the same of who lets it sleep
+    int m_jobs = 0;                                   ///< how many have begun, so that a late answer is known to be one
     bool m_isOn = false;
     int m_percent = -1;
     uint m_notification = 0;

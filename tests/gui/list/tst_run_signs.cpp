@@ -1,8 +1,10 @@
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
 
+#include <QDBusAbstractAdaptor>
 #include <QDBusConnection>
 #include <QDBusContext>
+#include <QDBusObjectPath>
 #include <QDBusUnixFileDescriptor>
 #include <QDesktopServices>
 #include <QDir>
@@ -76,6 +78,86 @@ Q_SIGNALS:
     void ActionInvoked(uint id, const QString &action);
 };
 
+/** Stands in for the portal of a desktop, with the promise that it gave. */
+class Portal : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Whether there is one; a bus answers no for it where there is none. */
+    void answerOn(QDBusConnection bus, bool answers)
+    {
+        if (answers)
+            bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+        else
+            bus.unregisterService(QStringLiteral("org.freedesktop.portal.Desktop"));
+        asked.clear();
+        shown.clear();
+        isHeld = false;
+    }
+
+    QStringList asked;
+    QStringList shown;
+    bool isHeld = false;
+};
+
+class PortalInhibit : public QDBusAbstractAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Inhibit")
+
+public:
+    explicit PortalInhibit(Portal &portal) : QDBusAbstractAdaptor(&portal), m_portal(portal) {}
+
+public Q_SLOTS:
+    QDBusObjectPath Inhibit(const QString &, uint flags, const QVariantMap &options)
+    {
+        m_portal.asked << QString::number(flags) + u'|' + options.value(QStringLiteral("reason")).toString();
+        m_portal.isHeld = true;
+        return QDBusObjectPath(QStringLiteral("/org/freedesktop/portal/desktop/request/1"));
+    }
+
+private:
+    Portal &m_portal;
+};
+
+class PortalRequest : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Request")
+
+public:
+    explicit PortalRequest(Portal &portal) : m_portal(portal) {}
+
+public Q_SLOTS:
+    void Close() { m_portal.isHeld = false; }
+
+private:
+    Portal &m_portal;
+};
+
+class PortalNotification : public QDBusAbstractAdaptor
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Notification")
+
+public:
+    explicit PortalNotification(Portal &portal) : QDBusAbstractAdaptor(&portal), m_portal(portal) {}
+
+public Q_SLOTS:
+    void AddNotification(const QString &id, const QVariantMap &notification)
+    {
+        m_portal.shown << id + u'|' + notification.value(QStringLiteral("title")).toString() + u'|' +
+                              notification.value(QStringLiteral("body")).toString();
+    }
+
+Q_SIGNALS:
+    void ActionInvoked(const QString &id, const QString &action, const QVariantList &parameter);
+
+private:
+    Portal &m_portal;
+};
+
 /** Stands in for the task bar. */
 class TaskBar : public QObject
 {
@@ -121,6 +203,7 @@ private Q_SLOTS:
     void cleanupTestCase();
     void theMachineStaysAwakeWhileARunGoesOn();
     void theEndIsToldWhereTheWindowIsInTheBackground();
+    void aPortalIsAskedFirst();
     void nothingIsToldToWhoeverLooks();
     void theFolderOpensWhenTheRunIsDone();
     void theWindowClosesWhenTheRunIsDone();
@@ -134,6 +217,10 @@ private:
     Sleep m_sleep;
     Notices m_notices;
     TaskBar m_taskBar;
+    Portal m_portal;
+    PortalRequest m_request{m_portal};
+    PortalInhibit *m_inhibit = new PortalInhibit(m_portal);
+    PortalNotification *m_portalNotices = new PortalNotification(m_portal);
     std::unique_ptr<WindowDriver> m_driver;
 };
 
@@ -154,6 +241,10 @@ void TestRunSigns::initTestCase()
     QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/login1"), &m_sleep, QDBusConnection::ExportAllSlots));
     QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &m_notices,
                                QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
+    QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &m_portal,
+                               QDBusConnection::ExportAdaptors));
+    QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop/request/1"), &m_request,
+                               QDBusConnection::ExportAllSlots));
     QVERIFY(bus.connect(QString(), QString(), QStringLiteral("com.canonical.Unity.LauncherEntry"),
                         QStringLiteral("Update"), &m_taskBar, SLOT(update(QString, QVariantMap))));
 }
@@ -212,6 +303,25 @@ void TestRunSigns::theEndIsToldWhereTheWindowIsInTheBackground()
         Q_EMIT m_notices.ActionInvoked(7, QStringLiteral("default"));
         return !m_driver->window().isMinimized();
     }));
+}
+
+void TestRunSigns::aPortalIsAskedFirst()
+{
+    const QDBusConnection bus(QStringLiteral("stand-ins"));
+    m_portal.answerOn(bus, true);
+    begin();
+    QVERIFY(m_driver->waitFor([this] { return m_portal.isHeld; }));
+    QCOMPARE(m_portal.asked, QStringList(QStringLiteral("12|Resize")));
+    m_driver->window().showMinimized();
+    QVERIFY(m_driver->waitFor([this] { return !m_portal.shown.isEmpty(); }, 60000));
+    QVERIFY2(m_portal.shown.constFirst().startsWith(QLatin1String("run|Resize|12 pictures done")),
+             qPrintable(m_portal.shown.constFirst()));
+    QVERIFY(m_driver->waitFor([this] { return !m_portal.isHeld; }));
+    Q_EMIT m_portalNotices->ActionInvoked(QStringLiteral("run"), QStringLiteral("show"), {});
+    QVERIFY(m_driver->waitFor([this] { return !m_driver->window().isMinimized(); }));
+    QCOMPARE(m_sleep.asked, QStringList());
+    QCOMPARE(m_notices.shown, QStringList());
+    m_portal.answerOn(bus, false);
 }
 
 void TestRunSigns::nothingIsToldToWhoeverLooks()
