@@ -68,10 +68,10 @@ private Q_SLOTS:
         QVERIFY(found);
         const QByteArray sum = QCryptographicHash::hash(platform::fileUri(path), QCryptographicHash::Md5).toHex();
         QCOMPARE(QFileInfo(found->path).fileName(), QString::fromLatin1(sum) + QStringLiteral(".png"));
-        QCOMPARE(QCryptographicHash::hash(platform::fileUri(QStringLiteral("/srv/photos/me.png")),
-                                          QCryptographicHash::Md5)
-                     .toHex(),
-                 QByteArray("a92ec86d1ae4691dc2eb1d7f61beb339"));
+        QCOMPARE(
+            QCryptographicHash::hash(platform::fileUri(QStringLiteral("/srv/photos/me.png")), QCryptographicHash::Md5)
+                .toHex(),
+            QByteArray("a92ec86d1ae4691dc2eb1d7f61beb339"));
     }
 
     void whatIsWrittenStatesItsPictureAndIsTheUsersOwn()
