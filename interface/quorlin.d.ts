@@ -1202,6 +1202,9 @@ declare module "quorlin/pages" {
         readonly problem: string;
         /** Of all pictures; 0 where the settings are wrong. */
         readonly pages: whole;
+        /** Of a page as it is held, in points. */
+        readonly pageWidth: number;
+        readonly pageHeight: number;
         /** What paper can be called: upright, in millimetres. */
         readonly papers: { word: string; width: number; height: number }[];
         /**
@@ -2343,10 +2346,18 @@ declare module "quorlin/program" {
         forgetCrash(): null;
         /** Notes what the window is about, for the report of a crash. */
         noteWork(action: text, picture: text): null;
-        /** Shows the print panel and prints each picture on a page of its own. */
-        print(paths: texts): null;
+        /**
+         * Shows the print panel for pages of this size in points. file is the path of a PDF that is wanted in place of a print; printer is
+         * for sendToPrinter(), order for PageWork.
+         */
+        choosePrinter(pages: whole, width: number, height: number):
+            { accepted: boolean; file?: string; printer?: string[]; order?: dictionary };
+        /** Hands a PDF over to the print system; taken says what went wrong, or "". The file may go then. */
+        sendToPrinter(path: text, printer: texts, taken: Function | null): null;
         /** Lets the user choose paper and orientation for this print and those to come. */
         setUpPage(): null;
+        /** The paper that was chosen there, or the usual one: upright, in millimetres. */
+        paper(): { width: number; height: number; landscape: boolean };
     };
 }
 

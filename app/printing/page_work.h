@@ -29,6 +29,9 @@ class PageWork : public QObject
     Q_PROPERTY(QString problem READ problem)
     /** Of all pictures; 0 where the settings are wrong. */
     Q_PROPERTY(int pages READ pages)
+    /** Of a page as it is held, in points. */
+    Q_PROPERTY(double pageWidth READ pageWidth)
+    Q_PROPERTY(double pageHeight READ pageHeight)
     /** What paper can be called: {word, width, height} each, upright, in millimetres. */
     Q_PROPERTY(QVariantList papers READ papers)
 
@@ -42,6 +45,8 @@ public:
     void setPaths(const QStringList &paths) { m_paths = paths; }
     QString problem() const { return m_problem; }
     int pages() const;
+    double pageWidth() const { return m_settings.paper.width(); }
+    double pageHeight() const { return m_settings.paper.height(); }
     QVariantList papers() const;
 
     /**

@@ -2,9 +2,7 @@
 
 #include "app/network/download.h"
 #include "app/network/version_file.h"
-#include "app/printing/print_job.h"
 #include "app/printing/print_settings.h"
-#include "app/reading/known_pictures.h"
 #include "app/setup/configuration.h"
 #include "app/setup/crash_file.h"
 #include "app/setup/interface_folder.h"
@@ -20,6 +18,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 #include <QVersionNumber>
 
 namespace window {
@@ -41,22 +40,6 @@ void recallPage(QPageLayout &page)
     if (id >= 0 && id < QPageSize::LastPageSize && id != QPageSize::Custom)
         page.setPageSize(QPageSize(QPageSize::PageSizeId(id)));
     page.setOrientation(platform::userDefault(landscapeKey).toBool() ? QPageLayout::Landscape : QPageLayout::Portrait);
-}
-
-/** A picture as large as a page is a while in the making. */
-app::PrintSource readByWorkers()
-{
-    constexpr int seconds = 60;
-    app::PrintSource source;
-    source.size = [](const QString &path) { return KnownPictures::ofProcess().now(path).points; };
-    source.pixels = [](const QString &path, double most) {
-        jobs::ReadRequest request = {jobs::Reading::Rendition,
-                                     path,
-                                     {{QStringLiteral("roomWidth"), most}, {QStringLiteral("roomHeight"), most}}};
-        request.seconds = seconds;
-        return jobs::readNow(request).image;
-    };
-    return source;
 }
 
 /** For a file that ends too early too, which is an error for whoever waits for it. */
@@ -153,12 +136,60 @@ void ProgramDesk::lookForUpdate(const script::Function &taken)
     });
 }
 
-void ProgramDesk::print(const QStringList &paths)
+QVariantMap ProgramDesk::choosePrinter(int pages, double width, double height)
 {
-    app::PrintSettings &settings = app::sharedPrintSettings();
-    recallPage(settings.page);
-    app::fitOnPage(settings);
-    app::printPictures(paths, settings, readByWorkers());
+    const auto key = [](const char *name) { return QString::fromLatin1(name); };
+    const QSizeF paper(std::min(width, height), std::max(width, height));
+    platform::PanelRequest request;
+    request.kind = platform::PanelKind::Print;
+    request.pageCount = pages;
+    request.page = QPageLayout(QPageSize(paper, QPageSize::Point, QString(), QPageSize::FuzzyMatch),
+                               width > height ? QPageLayout::Landscape : QPageLayout::Portrait, {}, QPageLayout::Point);
+    const platform::PanelAnswer answer = platform::runPanel(request);
+    if (!answer.accepted)
+        return {{key("accepted"), false}};
+    const PrinterChoice choice = chosenPrinter(answer);
+    const QVariantMap order = {{key("from"), answer.pages.from},
+                               {key("to"), answer.pages.to},
+                               {key("copies"), answer.pages.copies},
+                               {key("collated"), answer.pages.areCollated},
+                               {key("backwards"), answer.pages.isBackwards}};
+    return {{key("accepted"), !choice.file.isEmpty() || !choice.arguments.isEmpty()},
+            {key("file"), choice.file},
+            {key("printer"), choice.arguments},
+            {key("order"), order}};
+}
+
+void ProgramDesk::sendToPrinter(const QString &path, const QStringList &printer, const script::Function &taken)
+{
+    auto *process = new QProcess(this);
+    const auto answer = [process, taken](const QString &problem) {
+        process->disconnect();
+        process->deleteLater();
+        const QJSValue result = taken.isCallable() ? taken.call({QVariant(problem)}) : QJSValue();
+        if (result.isError())
+            platform::logLine(result.toString());
+    };
+    connect(process, &QProcess::errorOccurred, this, [answer](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            answer(tr("The command lp of the print system is missing."));
+    });
+    connect(process, &QProcess::finished, this, [answer, process](int code, QProcess::ExitStatus status) {
+        const bool isTaken = status == QProcess::NormalExit && code == 0;
+        const QString said = QString::fromLocal8Bit(process->readAllStandardError()).trimmed();
+        answer(isTaken ? QString() : tr("The print system did not take the pages: %1").arg(said));
+    });
+    process->start(QStringLiteral("lp"), printer + QStringList{QStringLiteral("--"), path});
+}
+
+QVariantMap ProgramDesk::paper() const
+{
+    QPageLayout &page = app::sharedPrintSettings().page;
+    recallPage(page);
+    const QSizeF size = page.pageSize().size(QPageSize::Millimeter);
+    return {{QStringLiteral("width"), size.width()},
+            {QStringLiteral("height"), size.height()},
+            {QStringLiteral("landscape"), page.orientation() == QPageLayout::Landscape}};
 }
 
 void ProgramDesk::setUpPage()

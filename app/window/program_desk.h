@@ -54,10 +54,20 @@ public:
     /** Notes what the window is about, for the report of a crash: the name of the action, and the path of the picture. */
     Q_INVOKABLE void noteWork(const QString &action, const QString &picture);
 
-    /** Shows the print panel and prints each picture on a page of its own, fitted and in the middle, without margins. */
-    Q_INVOKABLE void print(const QStringList &paths);
+    /**
+     * Shows the print panel for pages of this size in points: {accepted, file, printer, order}. file is the path of a PDF that is wanted in
+     * place of a print; printer is what sendToPrinter() takes; order is that of PageWork.
+     */
+    Q_INVOKABLE QVariantMap choosePrinter(int pages, double width, double height);
+    /**
+     * Hands a PDF over to the print system, and calls @p taken(problem) from the event loop, with a sentence or nothing; the file may go
+     * then.
+     */
+    Q_INVOKABLE void sendToPrinter(const QString &path, const QStringList &printer, const script::Function &taken);
     /** Lets the user choose paper and orientation for this print and those to come, also in later runs. */
     Q_INVOKABLE void setUpPage();
+    /** The paper that was chosen there, or else the usual one: {width, height, landscape}, upright, in millimetres. */
+    Q_INVOKABLE QVariantMap paper() const;
 };
 
 } // namespace window

@@ -23,6 +23,7 @@
 // runChanged(). hasUndo is true where Ctrl+Z belongs to the page.
 
 import { background } from "./background/background-action.js";
+import { contact } from "./contact/contact-action.js";
 import { convert } from "./convert/convert-action.js";
 import { crop } from "./crop/crop-action.js";
 import { hand } from "./hand/hand-action.js";
@@ -56,6 +57,7 @@ export const GROUPS = [
             rename,
             sort,
             hand,
+            contact,
         ],
     },
     {

@@ -18,7 +18,8 @@ import { photosOf, rowsByPath } from "./list-rows.js";
 import { showItem } from "./write-plan.js";
 import { Joining } from "./joining.js";
 
-function askAboutName(question) {
+/** Asks what becomes of a file whose name is taken: {rule, forAll}. */
+export function askAboutName(question) {
     const answer = shell.ask({
         title: qsTr("Name taken"),
         text: fill(qsTr("There is a file “%1” in the folder already."), question.name),

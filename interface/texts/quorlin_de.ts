@@ -249,6 +249,236 @@
     </message>
 </context>
 <context>
+    <name>ContactPages</name>
+    <message>
+        <source>Preview of the pages</source>
+        <translation>Vorschau der Seiten</translation>
+    </message>
+    <message>
+        <source>Pages before</source>
+        <translation>Vorige Seiten</translation>
+    </message>
+    <message>
+        <source>No pages</source>
+        <translation>Keine Seiten</translation>
+    </message>
+    <message>
+        <source>Pages after</source>
+        <translation>Nächste Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Width of the paper</source>
+        <translation>Breite des Papiers</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Height of the paper</source>
+        <translation>Höhe des Papiers</translation>
+    </message>
+    <message>
+        <source>Which way the paper is held</source>
+        <translation>Lage des Papiers</translation>
+    </message>
+    <message>
+        <source>On a page</source>
+        <translation>Je Seite</translation>
+    </message>
+    <message>
+        <source>Pictures across</source>
+        <translation>Bilder nebeneinander</translation>
+    </message>
+    <message>
+        <source>Pictures down</source>
+        <translation>Bilder untereinander</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>How a picture lies in its place</source>
+        <translation>Wie ein Bild in seinem Feld liegt</translation>
+    </message>
+    <message>
+        <source>Turn pictures to fit</source>
+        <translation>Bilder passend drehen</translation>
+    </message>
+    <message>
+        <source>Fill each page with one picture</source>
+        <translation>Jede Seite mit einem Bild füllen</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Gap between pictures</source>
+        <translation>Abstand zwischen Bildern</translation>
+    </message>
+    <message>
+        <source>Top, bottom</source>
+        <translation>Oben, unten</translation>
+    </message>
+    <message>
+        <source>Margin at the top</source>
+        <translation>Rand oben</translation>
+    </message>
+    <message>
+        <source>Margin at the bottom</source>
+        <translation>Rand unten</translation>
+    </message>
+    <message>
+        <source>Left, right</source>
+        <translation>Links, rechts</translation>
+    </message>
+    <message>
+        <source>Margin on the left</source>
+        <translation>Rand links</translation>
+    </message>
+    <message>
+        <source>Margin on the right</source>
+        <translation>Rand rechts</translation>
+    </message>
+    <message>
+        <source>Beneath</source>
+        <translation>Darunter</translation>
+    </message>
+    <message>
+        <source>Text beneath each picture</source>
+        <translation>Text unter jedem Bild</translation>
+    </message>
+    <message>
+        <source>Insert a value of the picture</source>
+        <translation>Einen Wert des Bildes einfügen</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Size of the text beneath pictures</source>
+        <translation>Größe des Textes unter Bildern</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>Kopfzeile</translation>
+    </message>
+    <message>
+        <source>Insert the page number</source>
+        <translation>Seitenzahl einfügen</translation>
+    </message>
+    <message>
+        <source>Where the header stands</source>
+        <translation>Wo die Kopfzeile steht</translation>
+    </message>
+    <message>
+        <source>Footer</source>
+        <translation>Fußzeile</translation>
+    </message>
+    <message>
+        <source>Where the footer stands</source>
+        <translation>Wo die Fußzeile steht</translation>
+    </message>
+    <message>
+        <source>Crop marks</source>
+        <translation>Schnittmarken</translation>
+    </message>
+    <message>
+        <source>Thin line around pictures</source>
+        <translation>Feine Linie um Bilder</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schriftart</translation>
+    </message>
+    <message>
+        <source>Header letters</source>
+        <translation>Kopfschrift</translation>
+    </message>
+    <message>
+        <source>Size of header and footer</source>
+        <translation>Größe von Kopf- und Fußzeile</translation>
+    </message>
+    <message>
+        <source>Page colour</source>
+        <translation>Seitenfarbe</translation>
+    </message>
+    <message>
+        <source>Colour of the page</source>
+        <translation>Farbe der Seite</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Pixels for an inch of paper, at most</source>
+        <translation>Höchstens so viele Pixel je Zoll Papier</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Quality of the pictures</source>
+        <translation>Qualität der Bilder</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Colour profile of the pictures</source>
+        <translation>Farbprofil der Bilder</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Mehr …</translation>
+    </message>
+    <message>
+        <source>More or fewer settings of the pages</source>
+        <translation>Mehr oder weniger Einstellungen der Seiten</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name of the file, without .pdf</source>
+        <translation>Name der Datei, ohne .pdf</translation>
+    </message>
+</context>
+<context>
     <name>ConvertPane</name>
     <message>
         <source>Convert to</source>
@@ -625,6 +855,160 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Print</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Pictures made ready for the print</source>
+        <translation>Für den Druck vorbereitete Bilder</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Drucken …</translation>
+    </message>
+</context>
+<context>
+    <name>contact-action</name>
+    <message>
+        <source>Contact Sheet</source>
+        <translation>Kontaktbogen</translation>
+    </message>
+    <message>
+        <source>Making pages</source>
+        <translation>Seiten erstellen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Make %n Pages</source>
+        <translation>
+            <numerusform>%n Seite erstellen</numerusform>
+            <numerusform>%n Seiten erstellen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>contact-pane</name>
+    <message>
+        <source>Other…</source>
+        <translation>Anderes …</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>Eigene Größe</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Choose a colour profile</source>
+        <translation>Ein Farbprofil wählen</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Weniger</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Mehr …</translation>
+    </message>
+    <message>
+        <source>Pages %1–%2 of %3</source>
+        <translation>Seiten %1–%2 von %3</translation>
+    </message>
+    <message>
+        <source>Page %1 of %3</source>
+        <translation>Seite %1 von %3</translation>
+    </message>
+    <message>
+        <source>No pages</source>
+        <translation>Keine Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>contact-presets</name>
+    <message>
+        <source>Contact sheet, 20 on a page</source>
+        <translation>Kontaktbogen, 20 je Seite</translation>
+    </message>
+    <message>
+        <source>Contact sheet, 48 on a page</source>
+        <translation>Kontaktbogen, 48 je Seite</translation>
+    </message>
+    <message>
+        <source>Contact sheet on black</source>
+        <translation>Kontaktbogen auf Schwarz</translation>
+    </message>
+    <message>
+        <source>One on a page, with its name</source>
+        <translation>Eins je Seite, mit Namen</translation>
+    </message>
+    <message>
+        <source>Proofs, 2 on a page</source>
+        <translation>Abzüge, 2 je Seite</translation>
+    </message>
+    <message>
+        <source>Prints of 9 × 13 cm to cut</source>
+        <translation>Abzüge von 9 × 13 cm zum Schneiden</translation>
+    </message>
+</context>
+<context>
+    <name>contact-step</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Contact sheet</source>
+        <translation>Kontaktbogen</translation>
+    </message>
+    <message>
+        <source>%1 × %2 on a page</source>
+        <translation>%1 × %2 je Seite</translation>
     </message>
 </context>
 <context>
@@ -5747,6 +6131,58 @@
     </message>
 </context>
 <context>
+    <name>print</name>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Printing: %1</source>
+        <translation>Wird gedruckt: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n Seite</numerusform>
+            <numerusform>%n Seiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The file could not be written.</source>
+        <translation>Die Datei konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was printed.</source>
+        <translation>Abgebrochen. Es wurde nichts gedruckt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures could not be read</source>
+        <translation>
+            <numerusform>%n Bild konnte nicht gelesen werden</numerusform>
+            <numerusform>%n Bilder konnten nicht gelesen werden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>properties</name>
     <message>
         <source>%1 s</source>
@@ -8760,6 +9196,86 @@
     </message>
 </context>
 <context>
+    <name>sheet-plan</name>
+    <message>
+        <source>not a readable picture</source>
+        <translation>kein lesbares Bild</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+</context>
+<context>
+    <name>sheet-run</name>
+    <message>
+        <source>Cancelled before the first page. Nothing was written.</source>
+        <translation>Vor der ersten Seite abgebrochen. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>Simulation: %1 would be written</source>
+        <translation>Simulation: %1 würde geschrieben</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n Seite</numerusform>
+            <numerusform>%n Seiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Abgebrochen. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+</context>
+<context>
+    <name>sheets</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simulieren: %1</translation>
+    </message>
+    <message>
+        <source>%1 is replaced.</source>
+        <translation>%1 wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>As %1</source>
+        <translation>Als %1</translation>
+    </message>
+    <message>
+        <source>Simulation: show, write nothing</source>
+        <translation>Simulation: zeigen, nichts schreiben</translation>
+    </message>
+</context>
+<context>
     <name>site-run</name>
     <message>
         <source>The disk is full</source>
@@ -10491,6 +11007,17 @@
     <message>
         <source>Reset Columns</source>
         <translation>Spalten zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>window::ProgramDesk</name>
+    <message>
+        <source>The command lp of the print system is missing.</source>
+        <translation>Der Befehl lp des Drucksystems fehlt.</translation>
+    </message>
+    <message>
+        <source>The print system did not take the pages: %1</source>
+        <translation>Das Drucksystem hat die Seiten nicht angenommen: %1</translation>
     </message>
 </context>
 <context>

@@ -108,6 +108,16 @@
     </message>
 </context>
 <context>
+    <name>contact-action</name>
+    <message numerus="yes">
+        <source>Make %n Pages</source>
+        <translation>
+            <numerusform>Make %n Page</numerusform>
+            <numerusform>Make %n Pages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>convert-action</name>
     <message numerus="yes">
         <source>Convert %n Pictures</source>
@@ -595,6 +605,30 @@
     </message>
 </context>
 <context>
+    <name>print</name>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n picture</numerusform>
+            <numerusform>%n pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures could not be read</source>
+        <translation>
+            <numerusform>%n picture could not be read</numerusform>
+            <numerusform>%n pictures could not be read</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>properties</name>
     <message numerus="yes">
         <source>%n pixels</source>
@@ -775,6 +809,16 @@
         <translation>
             <numerusform>Round %n Picture</numerusform>
             <numerusform>Round %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>sheet-run</name>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
         </translation>
     </message>
 </context>

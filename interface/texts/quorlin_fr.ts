@@ -249,6 +249,236 @@
     </message>
 </context>
 <context>
+    <name>ContactPages</name>
+    <message>
+        <source>Preview of the pages</source>
+        <translation>Aperçu des pages</translation>
+    </message>
+    <message>
+        <source>Pages before</source>
+        <translation>Pages précédentes</translation>
+    </message>
+    <message>
+        <source>No pages</source>
+        <translation>Aucune page</translation>
+    </message>
+    <message>
+        <source>Pages after</source>
+        <translation>Pages suivantes</translation>
+    </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Width of the paper</source>
+        <translation>Largeur du papier</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Height of the paper</source>
+        <translation>Hauteur du papier</translation>
+    </message>
+    <message>
+        <source>Which way the paper is held</source>
+        <translation>Sens du papier</translation>
+    </message>
+    <message>
+        <source>On a page</source>
+        <translation>Par page</translation>
+    </message>
+    <message>
+        <source>Pictures across</source>
+        <translation>Images en largeur</translation>
+    </message>
+    <message>
+        <source>Pictures down</source>
+        <translation>Images en hauteur</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>How a picture lies in its place</source>
+        <translation>Comment une image occupe sa place</translation>
+    </message>
+    <message>
+        <source>Turn pictures to fit</source>
+        <translation>Tourner les images pour les agrandir</translation>
+    </message>
+    <message>
+        <source>Fill each page with one picture</source>
+        <translation>Remplir chaque page avec une seule image</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Gap between pictures</source>
+        <translation>Espace entre les images</translation>
+    </message>
+    <message>
+        <source>Top, bottom</source>
+        <translation>Haut, bas</translation>
+    </message>
+    <message>
+        <source>Margin at the top</source>
+        <translation>Marge du haut</translation>
+    </message>
+    <message>
+        <source>Margin at the bottom</source>
+        <translation>Marge du bas</translation>
+    </message>
+    <message>
+        <source>Left, right</source>
+        <translation>Gauche, droite</translation>
+    </message>
+    <message>
+        <source>Margin on the left</source>
+        <translation>Marge de gauche</translation>
+    </message>
+    <message>
+        <source>Margin on the right</source>
+        <translation>Marge de droite</translation>
+    </message>
+    <message>
+        <source>Beneath</source>
+        <translation>Dessous</translation>
+    </message>
+    <message>
+        <source>Text beneath each picture</source>
+        <translation>Texte sous chaque image</translation>
+    </message>
+    <message>
+        <source>Insert a value of the picture</source>
+        <translation>Insérer une valeur de l’image</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Lettres</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Size of the text beneath pictures</source>
+        <translation>Taille du texte sous les images</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>En-tête</translation>
+    </message>
+    <message>
+        <source>Insert the page number</source>
+        <translation>Insérer le numéro de page</translation>
+    </message>
+    <message>
+        <source>Where the header stands</source>
+        <translation>Où se trouve l’en-tête</translation>
+    </message>
+    <message>
+        <source>Footer</source>
+        <translation>Pied de page</translation>
+    </message>
+    <message>
+        <source>Where the footer stands</source>
+        <translation>Où se trouve le pied de page</translation>
+    </message>
+    <message>
+        <source>Crop marks</source>
+        <translation>Traits de coupe</translation>
+    </message>
+    <message>
+        <source>Thin line around pictures</source>
+        <translation>Filet autour des images</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>Header letters</source>
+        <translation>Lettres d’en-tête</translation>
+    </message>
+    <message>
+        <source>Size of header and footer</source>
+        <translation>Taille de l’en-tête et du pied de page</translation>
+    </message>
+    <message>
+        <source>Page colour</source>
+        <translation>Couleur de page</translation>
+    </message>
+    <message>
+        <source>Colour of the page</source>
+        <translation>Couleur de la page</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> ppp</translation>
+    </message>
+    <message>
+        <source>Pixels for an inch of paper, at most</source>
+        <translation>Pixels par pouce de papier, au plus</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Quality of the pictures</source>
+        <translation>Qualité des images</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Colour profile of the pictures</source>
+        <translation>Profil colorimétrique des images</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Plus…</translation>
+    </message>
+    <message>
+        <source>More or fewer settings of the pages</source>
+        <translation>Plus ou moins de réglages des pages</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Name of the file, without .pdf</source>
+        <translation>Nom du fichier, sans .pdf</translation>
+    </message>
+</context>
+<context>
     <name>ConvertPane</name>
     <message>
         <source>Convert to</source>
@@ -625,6 +855,160 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>Print</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Pictures made ready for the print</source>
+        <translation>Images préparées pour l’impression</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Imprimer…</translation>
+    </message>
+</context>
+<context>
+    <name>contact-action</name>
+    <message>
+        <source>Contact Sheet</source>
+        <translation>Planche contact</translation>
+    </message>
+    <message>
+        <source>Making pages</source>
+        <translation>Création des pages</translation>
+    </message>
+    <message numerus="yes">
+        <source>Make %n Pages</source>
+        <translation>
+            <numerusform>Créer %n page</numerusform>
+            <numerusform>Créer %n pages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>contact-pane</name>
+    <message>
+        <source>Other…</source>
+        <translation>Autre…</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>Taille propre</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Au centre</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>Choose a colour profile</source>
+        <translation>Choisir un profil colorimétrique</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Moins</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Plus…</translation>
+    </message>
+    <message>
+        <source>Pages %1–%2 of %3</source>
+        <translation>Pages %1–%2 sur %3</translation>
+    </message>
+    <message>
+        <source>Page %1 of %3</source>
+        <translation>Page %1 sur %3</translation>
+    </message>
+    <message>
+        <source>No pages</source>
+        <translation>Aucune page</translation>
+    </message>
+</context>
+<context>
+    <name>contact-presets</name>
+    <message>
+        <source>Contact sheet, 20 on a page</source>
+        <translation>Planche contact, 20 par page</translation>
+    </message>
+    <message>
+        <source>Contact sheet, 48 on a page</source>
+        <translation>Planche contact, 48 par page</translation>
+    </message>
+    <message>
+        <source>Contact sheet on black</source>
+        <translation>Planche contact sur fond noir</translation>
+    </message>
+    <message>
+        <source>One on a page, with its name</source>
+        <translation>Une par page, avec son nom</translation>
+    </message>
+    <message>
+        <source>Proofs, 2 on a page</source>
+        <translation>Épreuves, 2 par page</translation>
+    </message>
+    <message>
+        <source>Prints of 9 × 13 cm to cut</source>
+        <translation>Tirages de 9 × 13 cm à découper</translation>
+    </message>
+</context>
+<context>
+    <name>contact-step</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Contact sheet</source>
+        <translation>Planche contact</translation>
+    </message>
+    <message>
+        <source>%1 × %2 on a page</source>
+        <translation>%1 × %2 par page</translation>
     </message>
 </context>
 <context>
@@ -5747,6 +6131,58 @@
     </message>
 </context>
 <context>
+    <name>print</name>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Printing: %1</source>
+        <translation>Impression : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>The file could not be written.</source>
+        <translation>Le fichier n’a pas pu être écrit.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was printed.</source>
+        <translation>Annulé. Rien n’a été imprimé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures could not be read</source>
+        <translation>
+            <numerusform>%n image n’a pas pu être lue</numerusform>
+            <numerusform>%n images n’ont pas pu être lues</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>properties</name>
     <message>
         <source>%1 s</source>
@@ -8760,6 +9196,86 @@
     </message>
 </context>
 <context>
+    <name>sheet-plan</name>
+    <message>
+        <source>not a readable picture</source>
+        <translation>image illisible</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prêt</translation>
+    </message>
+</context>
+<context>
+    <name>sheet-run</name>
+    <message>
+        <source>Cancelled before the first page. Nothing was written.</source>
+        <translation>Annulé avant la première page. Rien n’a été écrit.</translation>
+    </message>
+    <message>
+        <source>Simulation: %1 would be written</source>
+        <translation>Simulation : %1 serait écrit</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>rien n’a été écrit</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>en attente</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Annulé. Rien n’a été écrit.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 en échec</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 écrits</translation>
+    </message>
+</context>
+<context>
+    <name>sheets</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simuler : %1</translation>
+    </message>
+    <message>
+        <source>%1 is replaced.</source>
+        <translation>%1 est remplacé.</translation>
+    </message>
+    <message>
+        <source>As %1</source>
+        <translation>Sous le nom %1</translation>
+    </message>
+    <message>
+        <source>Simulation: show, write nothing</source>
+        <translation>Simulation : montrer, ne rien écrire</translation>
+    </message>
+</context>
+<context>
     <name>site-run</name>
     <message>
         <source>The disk is full</source>
@@ -10491,6 +11007,17 @@
     <message>
         <source>Reset Columns</source>
         <translation>Réinitialiser les colonnes</translation>
+    </message>
+</context>
+<context>
+    <name>window::ProgramDesk</name>
+    <message>
+        <source>The command lp of the print system is missing.</source>
+        <translation>La commande lp du système d’impression manque.</translation>
+    </message>
+    <message>
+        <source>The print system did not take the pages: %1</source>
+        <translation>Le système d’impression n’a pas accepté les pages : %1</translation>
     </message>
 </context>
 <context>

@@ -249,6 +249,236 @@
     </message>
 </context>
 <context>
+    <name>ContactPages</name>
+    <message>
+        <source>Preview of the pages</source>
+        <translation>Voorbeeld van de pagina’s</translation>
+    </message>
+    <message>
+        <source>Pages before</source>
+        <translation>Vorige pagina’s</translation>
+    </message>
+    <message>
+        <source>No pages</source>
+        <translation>Geen pagina’s</translation>
+    </message>
+    <message>
+        <source>Pages after</source>
+        <translation>Volgende pagina’s</translation>
+    </message>
+</context>
+<context>
+    <name>ContactPane</name>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Width of the paper</source>
+        <translation>Breedte van het papier</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Height of the paper</source>
+        <translation>Hoogte van het papier</translation>
+    </message>
+    <message>
+        <source>Which way the paper is held</source>
+        <translation>Stand van het papier</translation>
+    </message>
+    <message>
+        <source>On a page</source>
+        <translation>Per pagina</translation>
+    </message>
+    <message>
+        <source>Pictures across</source>
+        <translation>Foto’s naast elkaar</translation>
+    </message>
+    <message>
+        <source>Pictures down</source>
+        <translation>Foto’s onder elkaar</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Foto’s</translation>
+    </message>
+    <message>
+        <source>How a picture lies in its place</source>
+        <translation>Hoe een foto in zijn vak ligt</translation>
+    </message>
+    <message>
+        <source>Turn pictures to fit</source>
+        <translation>Foto’s passend draaien</translation>
+    </message>
+    <message>
+        <source>Fill each page with one picture</source>
+        <translation>Elke pagina met één foto vullen</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>Tussenruimte</translation>
+    </message>
+    <message>
+        <source>Gap between pictures</source>
+        <translation>Ruimte tussen foto’s</translation>
+    </message>
+    <message>
+        <source>Top, bottom</source>
+        <translation>Boven, onder</translation>
+    </message>
+    <message>
+        <source>Margin at the top</source>
+        <translation>Marge boven</translation>
+    </message>
+    <message>
+        <source>Margin at the bottom</source>
+        <translation>Marge onder</translation>
+    </message>
+    <message>
+        <source>Left, right</source>
+        <translation>Links, rechts</translation>
+    </message>
+    <message>
+        <source>Margin on the left</source>
+        <translation>Marge links</translation>
+    </message>
+    <message>
+        <source>Margin on the right</source>
+        <translation>Marge rechts</translation>
+    </message>
+    <message>
+        <source>Beneath</source>
+        <translation>Eronder</translation>
+    </message>
+    <message>
+        <source>Text beneath each picture</source>
+        <translation>Tekst onder elke foto</translation>
+    </message>
+    <message>
+        <source>Insert a value of the picture</source>
+        <translation>Een waarde van de foto invoegen</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Letters</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Size of the text beneath pictures</source>
+        <translation>Grootte van de tekst onder foto’s</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>Koptekst</translation>
+    </message>
+    <message>
+        <source>Insert the page number</source>
+        <translation>Paginanummer invoegen</translation>
+    </message>
+    <message>
+        <source>Where the header stands</source>
+        <translation>Waar de koptekst staat</translation>
+    </message>
+    <message>
+        <source>Footer</source>
+        <translation>Voettekst</translation>
+    </message>
+    <message>
+        <source>Where the footer stands</source>
+        <translation>Waar de voettekst staat</translation>
+    </message>
+    <message>
+        <source>Crop marks</source>
+        <translation>Snijtekens</translation>
+    </message>
+    <message>
+        <source>Thin line around pictures</source>
+        <translation>Dunne lijn rond foto’s</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Lettertype</translation>
+    </message>
+    <message>
+        <source>Header letters</source>
+        <translation>Letters kop</translation>
+    </message>
+    <message>
+        <source>Size of header and footer</source>
+        <translation>Grootte van kop- en voettekst</translation>
+    </message>
+    <message>
+        <source>Page colour</source>
+        <translation>Paginakleur</translation>
+    </message>
+    <message>
+        <source>Colour of the page</source>
+        <translation>Kleur van de pagina</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolutie</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Pixels for an inch of paper, at most</source>
+        <translation>Hoogstens zoveel pixels per inch papier</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Kwaliteit</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Quality of the pictures</source>
+        <translation>Kwaliteit van de foto’s</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profiel</translation>
+    </message>
+    <message>
+        <source>Colour profile of the pictures</source>
+        <translation>Kleurprofiel van de foto’s</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Meer…</translation>
+    </message>
+    <message>
+        <source>More or fewer settings of the pages</source>
+        <translation>Meer of minder instellingen van de pagina’s</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Name of the file, without .pdf</source>
+        <translation>Naam van het bestand, zonder .pdf</translation>
+    </message>
+</context>
+<context>
     <name>ConvertPane</name>
     <message>
         <source>Convert to</source>
@@ -625,6 +855,160 @@
     <message>
         <source>Close</source>
         <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>Print</name>
+    <message>
+        <source>Print</source>
+        <translation>Afdrukken</translation>
+    </message>
+    <message>
+        <source>Pictures made ready for the print</source>
+        <translation>Foto’s gereedgemaakt voor het afdrukken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Afdrukken…</translation>
+    </message>
+</context>
+<context>
+    <name>contact-action</name>
+    <message>
+        <source>Contact Sheet</source>
+        <translation>Contactvel</translation>
+    </message>
+    <message>
+        <source>Making pages</source>
+        <translation>Pagina’s maken</translation>
+    </message>
+    <message numerus="yes">
+        <source>Make %n Pages</source>
+        <translation>
+            <numerusform>%n pagina maken</numerusform>
+            <numerusform>%n pagina’s maken</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>contact-pane</name>
+    <message>
+        <source>Other…</source>
+        <translation>Ander…</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Staand</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Liggend</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Passend</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Vullend</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>Eigen maat</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Midden</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Choose a colour profile</source>
+        <translation>Een kleurprofiel kiezen</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grijs</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Kiezen…</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standaard</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Minder</translation>
+    </message>
+    <message>
+        <source>More…</source>
+        <translation>Meer…</translation>
+    </message>
+    <message>
+        <source>Pages %1–%2 of %3</source>
+        <translation>Pagina’s %1–%2 van %3</translation>
+    </message>
+    <message>
+        <source>Page %1 of %3</source>
+        <translation>Pagina %1 van %3</translation>
+    </message>
+    <message>
+        <source>No pages</source>
+        <translation>Geen pagina’s</translation>
+    </message>
+</context>
+<context>
+    <name>contact-presets</name>
+    <message>
+        <source>Contact sheet, 20 on a page</source>
+        <translation>Contactvel, 20 per pagina</translation>
+    </message>
+    <message>
+        <source>Contact sheet, 48 on a page</source>
+        <translation>Contactvel, 48 per pagina</translation>
+    </message>
+    <message>
+        <source>Contact sheet on black</source>
+        <translation>Contactvel op zwart</translation>
+    </message>
+    <message>
+        <source>One on a page, with its name</source>
+        <translation>Eén per pagina, met naam</translation>
+    </message>
+    <message>
+        <source>Proofs, 2 on a page</source>
+        <translation>Proeven, 2 per pagina</translation>
+    </message>
+    <message>
+        <source>Prints of 9 × 13 cm to cut</source>
+        <translation>Afdrukken van 9 × 13 cm om te snijden</translation>
+    </message>
+</context>
+<context>
+    <name>contact-step</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pagina’s</translation>
+    </message>
+    <message>
+        <source>Contact sheet</source>
+        <translation>Contactvel</translation>
+    </message>
+    <message>
+        <source>%1 × %2 on a page</source>
+        <translation>%1 × %2 per pagina</translation>
     </message>
 </context>
 <context>
@@ -5747,6 +6131,58 @@
     </message>
 </context>
 <context>
+    <name>print</name>
+    <message numerus="yes">
+        <source>%n pictures</source>
+        <translation>
+            <numerusform>%n foto</numerusform>
+            <numerusform>%n foto’s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Printing: %1</source>
+        <translation>Wordt afgedrukt: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n pagina</numerusform>
+            <numerusform>%n pagina’s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The file could not be written.</source>
+        <translation>Het bestand kon niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 van %2</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was printed.</source>
+        <translation>Geannuleerd. Er is niets afgedrukt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures could not be read</source>
+        <translation>
+            <numerusform>%n foto kon niet worden gelezen</numerusform>
+            <numerusform>%n foto’s konden niet worden gelezen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>properties</name>
     <message>
         <source>%1 s</source>
@@ -8760,6 +9196,86 @@
     </message>
 </context>
 <context>
+    <name>sheet-plan</name>
+    <message>
+        <source>not a readable picture</source>
+        <translation>geen leesbare foto</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>in orde</translation>
+    </message>
+</context>
+<context>
+    <name>sheet-run</name>
+    <message>
+        <source>Cancelled before the first page. Nothing was written.</source>
+        <translation>Geannuleerd vóór de eerste pagina. Er is niets geschreven.</translation>
+    </message>
+    <message>
+        <source>Simulation: %1 would be written</source>
+        <translation>Simulatie: %1 zou worden geschreven</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n pagina</numerusform>
+            <numerusform>%n pagina’s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>er is niets geschreven</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wacht</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>geannuleerd</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Geannuleerd. Er is niets geschreven.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 mislukt</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschreven</translation>
+    </message>
+</context>
+<context>
+    <name>sheets</name>
+    <message>
+        <source>Simulate: %1</source>
+        <translation>Simuleren: %1</translation>
+    </message>
+    <message>
+        <source>%1 is replaced.</source>
+        <translation>%1 wordt vervangen.</translation>
+    </message>
+    <message>
+        <source>As %1</source>
+        <translation>Als %1</translation>
+    </message>
+    <message>
+        <source>Simulation: show, write nothing</source>
+        <translation>Simulatie: tonen, niets schrijven</translation>
+    </message>
+</context>
+<context>
     <name>site-run</name>
     <message>
         <source>The disk is full</source>
@@ -10491,6 +11007,17 @@
     <message>
         <source>Reset Columns</source>
         <translation>Kolommen herstellen</translation>
+    </message>
+</context>
+<context>
+    <name>window::ProgramDesk</name>
+    <message>
+        <source>The command lp of the print system is missing.</source>
+        <translation>De opdracht lp van het afdruksysteem ontbreekt.</translation>
+    </message>
+    <message>
+        <source>The print system did not take the pages: %1</source>
+        <translation>Het afdruksysteem heeft de pagina’s niet aangenomen: %1</translation>
     </message>
 </context>
 <context>

@@ -121,6 +121,8 @@ PlacedPicture placed(QSize pixels, QSizeF points, const QRectF &place, const Pag
     const Scaled scaled = scaledInto(size, onPaper, place.size(), settings.fit);
     picture.place = QRectF(QPointF(), scaled.size);
     picture.place.moveCenter(place.center());
+    if (!settings.caption.isEmpty())
+        picture.place.moveBottom(place.bottom()); // close to what is written beneath it
     picture.part = scaled.part;
     return picture;
 }

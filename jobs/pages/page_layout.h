@@ -46,7 +46,7 @@ struct PlacedPicture
 };
 
 /**
- * Lays a picture into a place, in its middle.
+ * Lays a picture into a place: in its middle, or at its foot where a caption follows.
  *
  * @param pixels  of the upright picture
  * @param points  how large its resolution says that it is

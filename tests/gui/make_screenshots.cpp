@@ -103,6 +103,23 @@ void showSorting(WindowDriver &driver, const QString &from, const QString &name)
     driver.trigger("clearAction");
 }
 
+// The same pictures on pages.
+void showContact(WindowDriver &driver, const QString &name)
+{
+    driver.show("contact");
+    driver.drop({driver.folder() + QStringLiteral("/Holiday")});
+    driver.window().resize(1440, 900);
+    driver.control<QLineEdit>("header")->setText(QStringLiteral("Holiday"));
+    constexpr int allThumbnailsMs = 4000;
+    QTest::qWait(allThumbnailsMs);
+    saveScreen(driver, name + QStringLiteral(".png"));
+    choosePreset(driver, "Contact sheet on black");
+    driver.window().resize(1280, 720);
+    QTest::qWait(allThumbnailsMs);
+    saveScreen(driver, name + QStringLiteral("-small.png"));
+    driver.trigger("clearAction");
+}
+
 // The panel that saves the current picture, as large as it opens on a screen of 1280 x 720.
 void showSaveAs(WindowDriver &driver, const QString &name)
 {
@@ -174,6 +191,7 @@ int main(int argc, char **argv)
         showActions(driver, path);
         showSaveAs(driver, path("save-as") + QStringLiteral(".png"));
         showSorting(driver, samples, path("sort"));
+        showContact(driver, path("contact"));
         driver.drop({driver.folder() + QStringLiteral("/Pictures")});
         showAsking(driver, name);
         showHelp(driver, name);

@@ -316,18 +316,31 @@ private Q_SLOTS:
         QVERIFY(m_driver->control<QAction>("printAction")->isEnabled());
         const QString out = m_driver->folder() + QStringLiteral("/out.pdf");
         m_driver->answerPanels({out});
-        m_driver->trigger("printAction");
+        printNow();
+        QCOMPARE(m_driver->text("printText"), QStringLiteral("out.pdf: 1 page"));
         QCOMPARE(pictures::bytesOf(out).count("/Type /Page\n"), 1);
         m_driver->trigger("selectAllAction");
-        m_driver->trigger("printAction");
+        printNow();
+        QCOMPARE(m_driver->text("printText"), QStringLiteral("out.pdf: 3 pages"));
         QCOMPARE(pictures::bytesOf(out).count("/Type /Page\n"), 3);
         m_driver->answerPanels({});
         QVERIFY(QFile::remove(out));
         m_driver->trigger("printAction");
+        m_driver->click("printStart");
         QVERIFY(!QFile::exists(out));
+        QCOMPARE(m_driver->text("printText"), QStringLiteral("3 pictures"));
     }
 
 private:
+    /** Prints what is chosen, and waits until that is over. */
+    void printNow()
+    {
+        m_driver->trigger("printAction");
+        m_driver->click("printStart");
+        QVERIFY(
+            m_driver->waitFor([this] { return m_driver->text("printText").startsWith(QStringLiteral("out.pdf")); }));
+    }
+
     QDialog *sheet(const char *name) { return m_driver->control<QDialog>(name); }
 
     static bool isOpen(const QDialog *sheet)

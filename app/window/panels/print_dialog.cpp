@@ -62,6 +62,32 @@ platform::PanelAnswer runPrintDialog(const platform::PanelRequest &request)
     return answer;
 }
 
+PrinterChoice chosenPrinter(const platform::PanelAnswer &answer)
+{
+    const auto *printer = dynamic_cast<const QPrinter *>(answer.printer.get());
+    if (!printer)
+        return {answer.paths.value(0), {}};
+    if (!printer->outputFileName().isEmpty())
+        return {printer->outputFileName(), {}};
+    PrinterChoice choice;
+    choice.arguments = {QStringLiteral("-d"), printer->printerName(), QStringLiteral("-t"), QStringLiteral("Quorlin")};
+    const auto option = [&choice](const QString &words) { choice.arguments += {QStringLiteral("-o"), words}; };
+    if (printer->supportsMultipleCopies() && printer->copyCount() > 1) {
+        choice.arguments += {QStringLiteral("-n"), QString::number(printer->copyCount())};
+        option(printer->collateCopies() ? QStringLiteral("collate=true") : QStringLiteral("collate=false"));
+    }
+    if (printer->duplex() == QPrinter::DuplexLongSide || printer->duplex() == QPrinter::DuplexShortSide)
+        option(printer->duplex() == QPrinter::DuplexLongSide ? QStringLiteral("sides=two-sided-long-edge")
+                                                             : QStringLiteral("sides=two-sided-short-edge"));
+    if (printer->colorMode() == QPrinter::GrayScale)
+        option(QStringLiteral("print-color-mode=monochrome"));
+    // The pages are as large as the paper already.
+    const QSizeF paper = printer->pageLayout().pageSize().size(QPageSize::Millimeter);
+    option(QStringLiteral("media=Custom.%1x%2mm").arg(paper.width()).arg(paper.height()));
+    option(QStringLiteral("print-scaling=none"));
+    return choice;
+}
+
 void runPageSetup(QPageLayout &page)
 {
     const std::shared_ptr<QPrinter> printer = printerFor(page);

@@ -21,6 +21,8 @@ namespace {
 constexpr double around = 18; // of the pages, and between two
 /** Stands for a picture that nobody has looked into yet. */
 constexpr QSize unknownPixels(300, 200);
+constexpr QRgb edgeColor = qRgb(136, 136, 140);
+constexpr double edge = 0.5;
 constexpr QRgb waitingColor = qRgb(222, 222, 222);
 
 void drawShadow(QPainter &painter, const QRectF &page)
@@ -182,14 +184,14 @@ void PagesView::paintEvent(QPaintEvent *)
         look();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QSizeF size = m_settings.paper * scale();
+    const QSizeF size = (m_settings.paper * scale()).toSize();
     const int shown = std::min(side(), pages() - m_first);
     double left = std::round((width() - shown * size.width() - (shown - 1) * around) / 2);
     const double top = std::round((height() - size.height()) / 2);
     for (int page = m_first; page < m_first + shown; ++page, left += std::round(size.width() + around)) {
         const QRectF area(QPointF(left, top), size);
         drawShadow(painter, area);
-        painter.fillRect(area, Qt::white);
+        painter.fillRect(area, m_settings.paperColor);
         painter.save();
         painter.setClipRect(area);
         painter.translate(area.topLeft());
@@ -197,6 +199,10 @@ void PagesView::paintEvent(QPaintEvent *)
         app::drawPage(painter, jobs::contentOf(job(), page),
                       [this](QPainter &own, const jobs::PicturePlace &place) { drawPicture(own, place); });
         painter.restore();
+        // Dark pages stand out of a dark window too.
+        painter.setPen(QPen(QColor(edgeColor), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(area.adjusted(-edge, -edge, edge, edge));
     }
 }
 

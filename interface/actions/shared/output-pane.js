@@ -36,9 +36,6 @@ export class OutputPane {
         this.unwritable = 0;
         this.form = shell.loadForm("actions/shared/output-pane.ui");
         this.form.setItems("metadata", [qsTr("Keep all"), qsTr("Keep copyright only"), qsTr("Remove all")], METADATA);
-        this.form.setItems("ifTaken",
-                           [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Skip if up to date"),
-                            qsTr("Ask")], TAKEN);
         this.connect();
     }
 
@@ -50,6 +47,7 @@ export class OutputPane {
         const types = offer.types.map((id) => writtenType(id));
         this.form.setItems("fileType", [qsTr("Original file type")].concat(types.map((type) => type.word)),
                            [ORIGINAL].concat(offer.types));
+        this.showTaken(offer);
         CHOICES.forEach((name) => this.form.chooseValue(name, output[name]));
         CHECKS.forEach((name) => { this.form.control(name).checked = output[name]; });
         this.form.control("keepDates").checked = output.dates === "keep";
@@ -59,6 +57,14 @@ export class OutputPane {
         this.output = output;
         this.showDestinations();
         this.showType();
+    }
+
+    // Nobody knows whether one file of many pictures is up to date.
+    showTaken(offer) {
+        const texts = [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Skip if up to date"),
+                       qsTr("Ask")];
+        const isOffered = (word) => offer.oneFile !== true || word !== "current";
+        this.form.setItems("ifTaken", texts.filter((_text, i) => isOffered(TAKEN[i])), TAKEN.filter(isOffered));
     }
 
     connect() {
@@ -152,7 +158,7 @@ export class OutputPane {
         ["folderNameLabel", "folderName"].forEach((name) => {
             this.form.control(name).visible = chosen.kind === "beside";
         });
-        this.form.control("keepSubfolders").visible = chosen.kind === "folder";
+        this.form.control("keepSubfolders").visible = chosen.kind === "folder" && this.offer.oneFile !== true;
     }
 
     destinationChosen() {

@@ -77,6 +77,7 @@ export class ActionPage {
         control("moveSimulation").text = manner.simulationText();
         control("moveSimulation").checked = page.settings.simulation === true;
         control("preview").visible = manner.preview;
+        control("aboveHost").visible = page.pane !== null && page.pane.above !== undefined;
         control("besideHost").visible = page.pane !== null && page.pane.beside !== undefined;
         if (manner.output) {
             this.output.use(page.settings.output, action.step.offer);
@@ -112,9 +113,8 @@ export class ActionPage {
                 page.pane.left();
             }
             page.pane.form.shown = on;
-            if (page.pane.beside !== undefined) {
-                page.pane.beside.shown = on;
-            }
+            ["above", "beside"].filter((part) => page.pane[part] !== undefined)
+                .forEach((part) => { page.pane[part].shown = on; });
         }
     }
 
@@ -168,9 +168,8 @@ export class ActionPage {
                 this.window.form.place("actionHost", pane.form);
                 this.window.help.join(pane.form);
             }
-            if (pane !== null && pane.beside !== undefined) {
-                this.window.form.place("besideHost", pane.beside);
-            }
+            ["above", "beside"].filter((part) => pane !== null && pane[part] !== undefined)
+                .forEach((part) => this.window.form.place(part + "Host", pane[part]));
             this.made[action.name] = { action: action, settings: settings, pane: pane };
         }
         return this.made[action.name];

@@ -104,7 +104,7 @@ export class MainWindow {
         this.setFill(recall(defaults, "Preview", { fill: false }).fill);
         this.form.onClose(guard("close", () => this.mayClose()));
         this.form.setSplit("bodySplitter", [196, 884, 346]);
-        this.form.setSplit("centreSplitter", [560, 300]);
+        this.form.setSplit("centreSplitter", [560, 560, 300]);
         this.form.setSplit("listSplitter", [600, 284]);
         this.form.remember("MainWindow");
         shell.setMainForm(this.form);

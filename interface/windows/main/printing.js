@@ -2,13 +2,15 @@
 
 import { program } from "quorlin/program";
 import { guard } from "../../lib/guard.js";
+import { Print } from "../print/print.js";
 
 export class Printing {
-    /** @param window  the main window's parts: form, pictures */
+    /** @param window  the main window's parts: form, pictures, forPanes() */
     constructor(window) {
         this.window = window;
-        window.form.control("printAction").triggered.connect(guard("print", () => this.print()));
-        window.form.control("pageSetupAction").triggered.connect(guard("page", () => program.setUpPage()));
+        this.print = null; // made when it is first opened
+        window.form.control("printAction").triggered.connect(guard("print", () => this.open()));
+        window.form.control("pageSetupAction").triggered.connect(guard("page", () => this.setUpPage()));
         window.pictures.countChanged.connect(guard("print", () => this.show()));
         this.show();
     }
@@ -17,12 +19,23 @@ export class Printing {
         this.window.form.control("printAction").enabled = this.window.pictures.count > 0;
     }
 
-    /** Prints the chosen pictures, each on a page of its own; without any the one that is shown. */
-    print() {
-        const paths = this.paths();
-        if (paths.length > 0) {
-            program.print(paths);
+    setUpPage() {
+        program.setUpPage();
+        if (this.print !== null) {
+            this.print.paperChosen();
         }
+    }
+
+    /** Shows the chosen pictures on pages; without any the one that is shown. */
+    open() {
+        const paths = this.paths();
+        if (paths.length === 0) {
+            return;
+        }
+        if (this.print === null) {
+            this.print = new Print(this.window);
+        }
+        this.print.open(paths);
     }
 
     paths() {

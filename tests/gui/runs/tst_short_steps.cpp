@@ -145,6 +145,11 @@ private Q_SLOTS:
         isShort([this] { makePictures(); });
     }
 
+    void laysOutPages()
+    {
+        isShort([this] { layOutPages(); });
+    }
+
     void renamesFiles()
     {
         isShort([this] { renameFiles(); });
@@ -162,9 +167,8 @@ private:
                QStringLiteral("/p%1.%2").arg(number, 5, 10, QLatin1Char('0')).arg(QLatin1String(extension));
     }
 
-    void makePictures()
+    void addPictures(int count)
     {
-        constexpr int count = 150;
         QImage image(60, 40, QImage::Format_RGB32);
         image.fill(Qt::darkGreen);
         QVERIFY(image.save(at(0, "jpg")));
@@ -172,6 +176,24 @@ private:
             QVERIFY(QFile::copy(at(0, "jpg"), at(i, "jpg")));
         m_driver->drop({m_driver->inputFolder()});
         QVERIFY(settled());
+    }
+
+    void layOutPages()
+    {
+        m_driver->show("contact");
+        addPictures(150);
+        if (QTest::currentTestFailed())
+            return;
+        const QString said = run();
+        QVERIFY2(said.startsWith(QStringLiteral("Contact sheet.pdf: 8 pages")), qPrintable(said));
+    }
+
+    void makePictures()
+    {
+        constexpr int count = 150;
+        addPictures(count);
+        if (QTest::currentTestFailed())
+            return;
         const QString said = run();
         QVERIFY2(said.startsWith(QStringLiteral("%1 pictures done").arg(count)), qPrintable(said));
     }

@@ -2,6 +2,8 @@
 
 import { presets as backgroundPresets } from "../../../interface/actions/background/background-presets.js";
 import * as background from "../../../interface/actions/background/background-step.js";
+import { presets as contactPresets } from "../../../interface/actions/contact/contact-presets.js";
+import * as contact from "../../../interface/actions/contact/contact-step.js";
 import { presets as convertPresets } from "../../../interface/actions/convert/convert-presets.js";
 import * as convert from "../../../interface/actions/convert/convert-step.js";
 import { presets as cropPresets } from "../../../interface/actions/crop/crop-presets.js";
@@ -27,6 +29,7 @@ function kind(step, presets) {
 
 export const KINDS = {
     background: kind(background, backgroundPresets),
+    contact: kind(contact, contactPresets),
     convert: kind(convert, convertPresets),
     crop: kind(crop, cropPresets),
     hand: kind(hand, handPresets),
