@@ -129,7 +129,7 @@ QStringList lossesOfMetadata(const OutputPlan &plan, const RecipeOutput &output,
 
 QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits)
 {
-    constexpr qint64 most = 2LL << 30; // what a worker may take
+    constexpr qint64 most = 3LL << 29; // leaves a worker room for the pixels within what it may take
     constexpr double million = 1e6;
     if (plan.type != OutputType::JpegXl || plan.isLossless)
         return {};
@@ -139,7 +139,7 @@ QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Sta
     const double megapixels = double(plan.size.width()) * plan.size.height() / million;
     if (need <= most)
         return {};
-    return sentence(QT_TRANSLATE_NOOP("recipe", "%1 of %2 megapixels takes more than 2 GB of memory; at most %3 can be "
+    return sentence(QT_TRANSLATE_NOOP("recipe", "%1 of %2 megapixels takes more than 1.5 GB of memory; at most %3 can be "
                                                 "made of this picture, or choose another type"))
         .arg(writtenType(plan.type).word, QString::number(megapixels, 'f', 0),
              QString::number(std::floor(megapixels * double(most) / double(need)), 'f', 0));

@@ -7820,8 +7820,8 @@
         <translation>das Rezept kann nicht ausgeführt werden</translation>
     </message>
     <message>
-        <source>%1 of %2 megapixels takes more than 2 GB of memory; at most %3 can be made of this picture, or choose another type</source>
-        <translation>%1 mit %2 Megapixeln braucht mehr als 2 GB Speicher; von diesem Bild sind höchstens %3 möglich, oder wählen Sie einen anderen Typ</translation>
+        <source>%1 of %2 megapixels takes more than 1.5 GB of memory; at most %3 can be made of this picture, or choose another type</source>
+        <translation>%1 mit %2 Megapixeln braucht mehr als 1,5 GB Speicher; von diesem Bild sind höchstens %3 möglich, oder wählen Sie einen anderen Typ</translation>
     </message>
 </context>
 <context>

@@ -7820,8 +7820,8 @@
         <translation>la recette ne peut pas être exécutée</translation>
     </message>
     <message>
-        <source>%1 of %2 megapixels takes more than 2 GB of memory; at most %3 can be made of this picture, or choose another type</source>
-        <translation>Un %1 de %2 mégapixels prend plus de 2 Go de mémoire ; pour cette image, %3 au plus sont possibles, ou choisissez un autre type</translation>
+        <source>%1 of %2 megapixels takes more than 1.5 GB of memory; at most %3 can be made of this picture, or choose another type</source>
+        <translation>Un %1 de %2 mégapixels prend plus de 1,5 Go de mémoire ; pour cette image, %3 au plus sont possibles, ou choisissez un autre type</translation>
     </message>
 </context>
 <context>

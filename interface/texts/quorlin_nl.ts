@@ -7820,8 +7820,8 @@
         <translation>het recept kan niet worden uitgevoerd</translation>
     </message>
     <message>
-        <source>%1 of %2 megapixels takes more than 2 GB of memory; at most %3 can be made of this picture, or choose another type</source>
-        <translation>%1 met %2 megapixels vraagt meer dan 2 GB geheugen; van deze foto zijn er hoogstens %3 mogelijk, of kies een ander type</translation>
+        <source>%1 of %2 megapixels takes more than 1.5 GB of memory; at most %3 can be made of this picture, or choose another type</source>
+        <translation>%1 met %2 megapixels vraagt meer dan 1,5 GB geheugen; van deze foto zijn er hoogstens %3 mogelijk, of kies een ander type</translation>
     </message>
 </context>
 <context>
