@@ -1217,6 +1217,8 @@ declare module "quorlin/pages" {
          * where there is no file; without any keys where nothing has come.
          */
         take(): { picture?: whole; status?: string; reason?: string; problem?: string; pages?: whole; bytes?: number };
+        /** Waits until nothing more comes, and all of it can be taken. For scripts without windows, where everything else goes on. */
+        wait(): null;
         /** Gives up what is not finished; the object is of no use any more. */
         close(): null;
     }

@@ -7,6 +7,7 @@
 #include "jobs/names.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -371,6 +372,12 @@ QVariantMap PageWork::take()
     QVariantMap event = std::move(m_events.front());
     m_events.pop_front();
     return event;
+}
+
+void PageWork::wait()
+{
+    while (m_phase != Phase::Idle && m_phase != Phase::Over)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void PageWork::close()

@@ -61,6 +61,8 @@ public:
      * {problem, pages, bytes}, with a sentence where there is no file. Without any keys where there is nothing.
      */
     Q_INVOKABLE QVariantMap take();
+    /** Waits until nothing more comes; all of it can be taken then. For scripts without windows: everything else in the process goes on. */
+    Q_INVOKABLE void wait();
     /** Gives up what is not finished, of which nothing is left; the object is of no use any more. */
     Q_INVOKABLE void close();
 
